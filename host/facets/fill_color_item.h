@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QColor>
+
+/// The colour that fills an item.
+class FillColorItem
+{
+public:
+    virtual ~FillColorItem() = default;
+
+    /// Qt::transparent (alpha 0) leaves the inside open.
+    virtual void setFillColor(const QColor& color) = 0;
+};

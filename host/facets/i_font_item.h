@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/// The font of an item that shows text, a barcode's caption included.
+class IFontItem
+{
+public:
+    virtual ~IFontItem() = default;
+
+    virtual void setFontFamily(const QString& family) = 0;
+    /// Size in whole points. 0 or less comes from a damaged label: keep the last size.
+    virtual void setFontPointSize(int size) = 0;
+    virtual void setFontBold(bool bold) = 0;
+    virtual void setFontItalic(bool italic) = 0;
+    virtual void setFontUnderline(bool underline) = 0;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/facets/i_size_item.h"
+
+/// The corners of a rounded rectangle.
+///
+/// This is the second way to ISizeItem in a RoundedRectangleItem, so reach its
+/// size through Item, never by a cast from a graphics item to ISizeItem.
+class IRoundRectItem : public ISizeItem
+{
+public:
+    /// Radius of the four corners, in points, 0 or more.
+    virtual void setCornerRadius(double radius) = 0;
+};

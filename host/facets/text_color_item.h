@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QColor>
+
+/// The colour of an item's characters.
+class TextColorItem
+{
+public:
+    virtual ~TextColorItem() = default;
+
+    virtual void setTextColor(const QColor& color) = 0;
+};

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "host/facets/i_color_item.h"
+#include "host/items/item.h"
+
+/// An item with a colour of its own.
+class ColoredItem : public Item, public IColorItem
+{};

@@ -1,0 +1,1 @@
+#include "importer/legacy_template_importer.h"

@@ -1,0 +1,1 @@
+#include "supply/table_model.h"
