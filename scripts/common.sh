@@ -1,0 +1,60 @@
+# Shared by ./run and ./test: installs what is missing, configures and builds.
+# Sourced, not run. Messages go to standard error, so that the standard output of
+# a program that ./run starts stays its own.
+
+project_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+say() { printf '%s\n' "$*" >&2; }
+
+# packages_of LIST...: the package names in scripts/packages/LIST, comments left out.
+packages_of() {
+    local list
+    for list in "$@"; do
+        sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$project_root/scripts/packages/$list"
+    done
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# install_packages LIST...: installs what of the lists is missing.
+install_packages() {
+    command -v apt-get >/dev/null 2>&1 || return 0 # not Debian: CMake tells what is missing
+    local package missing=()
+    for package in $(packages_of "$@"); do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null 2>&1; then
+            say "These Debian packages are missing; install them as root, then start again:"
+            say "    apt-get install ${missing[*]}"
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    say "Installing: ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq >&2
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+}
+
+# build_preset PRESET [CMAKE ARGUMENT...]: configures and builds build/PRESET.
+# Quiet when all is well; the whole log when it is not.
+build_preset() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    say "Building ($preset) ..."
+    if ! (cd "$project_root" && cmake --preset "$preset" "$@" && cmake --build --preset "$preset") \
+        >"$log" 2>&1; then
+        cat "$log" >&2
+        rm -f "$log"
+        say "The build failed."
+        return 1
+    fi
+    rm -f "$log"
+}
