@@ -1,7 +1,8 @@
 # labelport_test(NAME SOURCES ... LINK ...)
 #
-# A test program `NAME` of GoogleTest cases, registered with CTest as one test.
-# Runs offscreen, in UTC, with the main function of tests/support.
+# A test program `NAME` of GoogleTest cases, with the main function of tests/support.
+# CTest runs it twice, offscreen and in UTC: in the C locale, and as NAME.decimal_comma
+# in a locale that writes 1,5, so that no number is read or written right by luck.
 function(labelport_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
@@ -13,6 +14,11 @@ function(labelport_test name)
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
-        TIMEOUT 600
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC")
+        TIMEOUT 900
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;LC_ALL=C.UTF-8")
+    add_test(NAME ${name}.decimal_comma COMMAND ${name})
+    set_tests_properties(${name}.decimal_comma PROPERTIES
+        TIMEOUT 900
+        ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;TZ=UTC;LC_ALL=de_DE.UTF-8;LABELPORT_EXPECT_DECIMAL_POINT=,")
 endfunction()

@@ -4,7 +4,30 @@
 #include <QApplication>
 #include <QStandardPaths>
 
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
 #include <gtest/gtest.h>
+
+namespace {
+
+// A run that is to prove something about a locale must not pass because the locale is
+// not installed.
+bool localeIsAsExpected()
+{
+    const char* expected = std::getenv("LABELPORT_EXPECT_DECIMAL_POINT");
+    const char* actual = std::localeconv()->decimal_point;
+    if (expected == nullptr || std::strcmp(expected, actual) == 0) {
+        return true;
+    }
+    std::fprintf(stderr, "The locale's decimal point is \"%s\", not \"%s\": is %s installed?\n",
+                 actual, expected, std::getenv("LC_ALL"));
+    return false;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -15,5 +38,8 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("LabelPort tests"));
     QStandardPaths::setTestModeEnabled(true);
     const QApplication application(argc, argv);
+    if (!localeIsAsExpected()) {
+        return EXIT_FAILURE;
+    }
     return RUN_ALL_TESTS();
 }
