@@ -1,0 +1,12 @@
+#pragma once
+
+#include <exception>
+
+/// Thrown when a product of two numerators or denominators does not fit into 64 bits.
+///
+/// Fraction throws and catches it; it never reaches Fraction's callers.
+class OverflowErrorException : public std::exception
+{
+public:
+    [[nodiscard]] const char* what() const noexcept override { return "Arithmetic Overflow"; }
+};
