@@ -1,1 +1,111 @@
 #include "importer/legacy_template_importer.h"
+
+#include "host/file_controller.h"
+#include "host/services/file_controller_tools.h"
+#include "importer/open_dialog_filters.h"
+#include "importer/reader_choice.h"
+#include "opendocument/open_office_reader.h"
+#include "orvanta/legacy_orvanta.h"
+#include "tavrel/legacy_tavrel.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSettings>
+
+LegacyTemplateImporter::LegacyTemplateImporter(TalCanvasModel* canvasModel,
+                                               FileController* fileController,
+                                               DatasourceController* datasourceController)
+    : QObject(nullptr)
+    , m_canvasModel(canvasModel)
+    , m_fileController(fileController)
+    , m_datasourceController(datasourceController)
+{}
+
+LegacyTemplateImporter::~LegacyTemplateImporter()
+{
+    // The binary reader goes first: it is the one that may still show a message box.
+    m_tavrelReader.reset();
+    m_orvantaReader.reset();
+    m_openOfficeReader.reset();
+}
+
+void LegacyTemplateImporter::importLegacyLabel(const QString& currentFileName)
+{
+    if (!m_fileController->checkSaveChanges(m_canvasModel, currentFileName, true)) {
+        return;
+    }
+    const QString fileName = chooseFile();
+    if (fileName.isEmpty()) {
+        return;
+    }
+    // Before the file is read: hosts clear the old label's type here, and a failed import
+    // leaves no old type behind either.
+    m_fileController->emitLabelTypeLoadedSignal(QString());
+    rememberFolderOf(fileName);
+    if (importByName(fileName)) {
+        // Only the last suffix goes here, although the reader was chosen by all of them:
+        // users find their old labels under these names.
+        m_fileController->saveImportedLabelAs(m_importFolder,
+                                              QFileInfo(fileName).completeBaseName(), QString());
+    }
+}
+
+bool LegacyTemplateImporter::importLabelFromTavrelFile(const QString& fileName)
+{
+    if (!m_tavrelReader) {
+        m_tavrelReader = std::make_unique<LegacyTavrel>(m_canvasModel, m_datasourceController);
+        connect(m_tavrelReader.get(), SIGNAL(popupShowSignal(QWidget*)), this,
+                SIGNAL(popupShowSignal(QWidget*)));
+        connect(m_tavrelReader.get(), SIGNAL(popupHideSignal()), this, SIGNAL(popupHideSignal()));
+    }
+    return m_tavrelReader->importLabelFromFile(fileName);
+}
+
+bool LegacyTemplateImporter::importLabelFromOrvantaFile(const QString& fileName)
+{
+    if (!m_orvantaReader) {
+        m_orvantaReader = std::make_unique<LegacyOrvanta>(m_canvasModel, m_datasourceController);
+    }
+    return m_orvantaReader->importLabelFromFile(fileName);
+}
+
+bool LegacyTemplateImporter::importLabelFromOpenOfficeFile(const QString& fileName)
+{
+    if (!m_openOfficeReader) {
+        m_openOfficeReader =
+            std::make_unique<OpenOfficeReader>(m_canvasModel, m_datasourceController);
+    }
+    return m_openOfficeReader->importLabelFromFile(fileName);
+}
+
+QString LegacyTemplateImporter::chooseFile()
+{
+    // Always the host's folder, whatever was chosen last time: users know the dialog so.
+    m_importFolder = FileControllerTools::getDefaultImportFolder();
+    const OpenDialogFilters filters = openDialogFilters();
+    QString preselected = filters.preselected;
+    return QFileDialog::getOpenFileName(nullptr,
+                                        QObject::tr("Import Label", "Dialog to open a file."),
+                                        m_importFolder, filters.all, &preselected);
+}
+
+void LegacyTemplateImporter::rememberFolderOf(const QString& fileName)
+{
+    m_importFolder = QFileInfo(fileName).dir().absolutePath();
+    QSettings settings;
+    settings.setValue(QStringLiteral("dir/import"), m_importFolder);
+}
+
+bool LegacyTemplateImporter::importByName(const QString& fileName)
+{
+    switch (readerForFile(fileName)) {
+    case ReaderKind::Orvanta:
+        return importLabelFromOrvantaFile(fileName);
+    case ReaderKind::OpenDocument:
+        return importLabelFromOpenOfficeFile(fileName);
+    case ReaderKind::Tavrel:
+        break;
+    }
+    return importLabelFromTavrelFile(fileName);
+}
