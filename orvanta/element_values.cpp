@@ -1,0 +1,36 @@
+#include "orvanta/element_values.h"
+
+#include <QDomElement>
+
+namespace orvanta {
+
+int readInteger(const QDomElement& element)
+{
+    bool isNumber = false;
+    const int value = element.text().toInt(&isNumber, 10);
+    return isNumber ? value : 0;
+}
+
+double readDouble(const QDomElement& element)
+{
+    bool isNumber = false;
+    const double value = element.text().toDouble(&isNumber);
+    return isNumber ? value : 0.0;
+}
+
+bool readFlag(const QDomElement& element)
+{
+    return element.text() == QLatin1String("true");
+}
+
+QStringList readTexts(const QDomElement& element)
+{
+    QStringList texts;
+    for (QDomElement child = element.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement()) {
+        texts.append(child.text());
+    }
+    return texts;
+}
+
+} // namespace orvanta

@@ -1,0 +1,91 @@
+#include "orvanta/legacy_orvanta.h"
+
+#include "host/items/pix_map_item.h"
+#include "host/items/symbol_item.h"
+#include "host/services/symbol_creator.h"
+#include "host/tal_canvas_model.h"
+#include "orvanta/control_properties.h"
+#include "orvanta/created_item.h"
+#include "orvanta/picture_content.h"
+#include "orvanta/raster_picture.h"
+
+#include <QPixmap>
+
+using orvanta::ControlProperties;
+
+namespace {
+
+void applyPlace(Item& item, QGraphicsItem& graphics, const ControlProperties& properties)
+{
+    item.setItemSize(properties.bounds.size());
+    item.setFlipHorizontal(properties.flipHorizontal);
+    item.setFlipVertical(properties.flipVertical);
+    item.setItemRotation(properties.rotation);
+    graphics.setPos(properties.bounds.topLeft());
+}
+
+bool hasSize(const Item& item)
+{
+    const QSizeF size = item.getItemSize();
+    return size.width() > 0.0 && size.height() > 0.0;
+}
+
+} // namespace
+
+QGraphicsItem* LegacyOrvanta::buildImage(const ControlProperties& properties,
+                                         const QByteArray& bytes)
+{
+    const QByteArray picture = orvanta::withoutByteOrderMark(bytes);
+    return orvanta::isSvg(picture) ? buildSymbol(properties, orvanta::cleanedSvg(picture))
+                                   : buildPixmap(properties, picture);
+}
+
+QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
+                                          const QByteArray& svg)
+{
+    if (!m_symbolCreator) {
+        m_symbolCreator = std::make_unique<SymbolCreator>(nullptr);
+    }
+    m_symbolCreator->loadImportedSvg(svg);
+    if (!m_symbolCreator->convertSvgToSymbol(QRectF())) {
+        return nullptr;
+    }
+    const QByteArray symbol = m_symbolCreator->getSymbolData();
+    auto created = orvanta::createdItem<SymbolItem>(*m_classFactory, KestTypes::Symbol);
+    if (!created) {
+        logRefusal(QStringLiteral("a symbol, for which the host made no item"));
+        return nullptr;
+    }
+    created->loadItemFromData(symbol);
+    if (!hasSize(*created)) {
+        return nullptr;
+    }
+    const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
+    created->setForegroundColor(colors.pen);
+    created->setFillColor(colors.fill);
+    SymbolItem* item = created.release();
+    m_canvasModel->importItem(item);
+    applyPlace(*item, *item, properties);
+    return item;
+}
+
+QGraphicsItem* LegacyOrvanta::buildPixmap(const ControlProperties& properties,
+                                          const QByteArray& bytes)
+{
+    auto created = orvanta::createdItem<PixMapItem>(*m_classFactory, KestTypes::Picture);
+    if (!created) {
+        logRefusal(QStringLiteral("a picture, for which the host made no item"));
+        return nullptr;
+    }
+    const orvanta::RasterPicture picture = orvanta::decodeRasterPicture(bytes, m_pixelsLeft);
+    if (!picture.refusal.isEmpty()) {
+        logRefusal(picture.refusal);
+    }
+    m_pixelsLeft -= orvanta::pixelCount(picture.image.size());
+    // A picture that could not be loaded keeps its place on the label.
+    created->pixmapImportActions(QPixmap::fromImage(picture.image));
+    PixMapItem* item = created.release();
+    m_canvasModel->importItem(item);
+    applyPlace(*item, *item, properties);
+    return item;
+}

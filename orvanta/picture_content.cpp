@@ -1,0 +1,44 @@
+#include "orvanta/picture_content.h"
+
+#include <QDomElement>
+
+namespace orvanta {
+
+namespace {
+
+constexpr char ByteOrderMark[] = "\xEF\xBB\xBF";
+constexpr qsizetype ByteOrderMarkLength = 3;
+
+// In the order of their removal: a prefix in front of a name, then one behind a colon.
+constexpr const char* SerialiserLeftovers[] = {"d1p1:", ":d1p1", "viewBox=\"0, 0, 0, 0\""};
+
+} // namespace
+
+QByteArray readPictureContent(const QDomElement& parent)
+{
+    const QString text = parent.firstChildElement(QStringLiteral("content")).text();
+    return QByteArray::fromBase64(text.toUtf8());
+}
+
+QByteArray withoutByteOrderMark(QByteArray bytes)
+{
+    if (bytes.startsWith(ByteOrderMark)) {
+        bytes.remove(0, ByteOrderMarkLength);
+    }
+    return bytes;
+}
+
+bool isSvg(const QByteArray& bytes)
+{
+    return bytes.startsWith("<svg");
+}
+
+QByteArray cleanedSvg(QByteArray svg)
+{
+    for (const char* leftover : SerialiserLeftovers) {
+        svg.replace(leftover, "");
+    }
+    return svg;
+}
+
+} // namespace orvanta

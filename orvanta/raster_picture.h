@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+/// Decodes embedded raster pictures within bounds.
+namespace orvanta {
+
+/// Most pixels that one picture may have. A label of a square foot at 600 dots to the inch
+/// has 52 million; Qt itself takes no picture beyond 128 MiB.
+inline constexpr qint64 MaximumPicturePixels = qint64(64) * 1024 * 1024;
+/// Most pixels of all pictures of a label together: a few bytes of a file can claim
+/// a large picture, and a file has room for thousands of them.
+inline constexpr qint64 MaximumLabelPixels = qint64(128) * 1024 * 1024;
+
+/// What became of a picture's bytes.
+struct RasterPicture
+{
+    QImage image;    ///< null when the bytes are no picture or were refused
+    QString refusal; ///< why a picture was not decoded although it may be one
+};
+
+/// Decodes a picture whose format its content tells.
+///
+/// The claimed size is checked before any pixel is decoded. Vector formats that Qt's
+/// plug-ins would draw are refused, because drawing them opens the files that they name.
+///
+/// @param pixelsLeft most pixels that the picture may have
+[[nodiscard]] RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft);
+
+/// Number of pixels of an image.
+[[nodiscard]] qint64 pixelCount(const QSize& size);
+
+} // namespace orvanta
