@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QWidget>
 
 #include <memory>
 
@@ -12,7 +13,6 @@ class FileController;
 class LegacyOrvanta;
 class LegacyTavrel;
 class OpenOfficeReader;
-class QWidget;
 class TalCanvasModel;
 
 /// Imports labels of older programs into the host's canvas.

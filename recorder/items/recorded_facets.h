@@ -1,0 +1,158 @@
+#pragma once
+
+#include "recorder/items/recorded_item.h"
+
+#include <QColor>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+#include <Qt>
+
+#include <memory>
+#include <utility>
+
+// One layer for each facet of the contract. An item of the recording host is its class of
+// the contract with the layers of that class's facets put on: Pen<Fill<Basics<...>>>.
+// The innermost layer is Basics, the others pass its constructor on.
+
+namespace recorder {
+
+/// The layer of Item: size, rotation, flips. Everything starts at 0 by 0.
+template <typename Base>
+class Basics : public Base, public RecordedItem
+{
+public:
+    Basics(std::shared_ptr<Recording> recording, int number)
+        : RecordedItem(std::move(recording), number)
+    {}
+
+    void setItemSize(const QSizeF& size) override
+    {
+        this->record("setItemSize", {size.width(), size.height()});
+        m_size = size;
+    }
+    [[nodiscard]] QSizeF getItemSize() const override
+    {
+        this->record("getItemSize", {}, m_size);
+        return m_size;
+    }
+    [[nodiscard]] double getItemWidth() const override
+    {
+        this->record("getItemWidth", {}, m_size.width());
+        return m_size.width();
+    }
+    [[nodiscard]] double getItemHeight() const override
+    {
+        this->record("getItemHeight", {}, m_size.height());
+        return m_size.height();
+    }
+    void setItemRotation(double degrees) override { this->record("setItemRotation", {degrees}); }
+    void setFlipHorizontal(bool flip) override { this->record("setFlipHorizontal", {flip}); }
+    void setFlipVertical(bool flip) override { this->record("setFlipVertical", {flip}); }
+
+protected:
+    /// The size that the content has brought with it.
+    void adoptSize(const QSizeF& size) { m_size = size; }
+
+private:
+    QSizeF m_size{0, 0};
+};
+
+template <typename Base>
+class Pen : public Base
+{
+public:
+    using Base::Base;
+    void setPenColor(const QColor& color) override { this->record("setPenColor", {color}); }
+    void setPenWidth(quint16 width) override { this->record("setPenWidth", {width}); }
+    void setPenStyle(int style) override { this->record("setPenStyle", {style}); }
+    void setCapStyle(int style) override { this->record("setCapStyle", {style}); }
+    void setJoinStyle(int style) override { this->record("setJoinStyle", {style}); }
+};
+
+template <typename Base>
+class FillColor : public Base
+{
+public:
+    using Base::Base;
+    void setFillColor(const QColor& color) override { this->record("setFillColor", {color}); }
+};
+
+template <typename Base>
+class Brush : public Base
+{
+public:
+    using Base::Base;
+    void setFilled(bool filled) override { this->record("setFilled", {filled}); }
+    void setBrushStyle(int style) override { this->record("setBrushStyle", {style}); }
+};
+
+template <typename Base>
+class TextColor : public Base
+{
+public:
+    using Base::Base;
+    void setTextColor(const QColor& color) override { this->record("setTextColor", {color}); }
+};
+
+template <typename Base>
+class Font : public Base
+{
+public:
+    using Base::Base;
+    void setFontFamily(const QString& family) override { this->record("setFontFamily", {family}); }
+    void setFontPointSize(int size) override { this->record("setFontPointSize", {size}); }
+    void setFontBold(bool bold) override { this->record("setFontBold", {bold}); }
+    void setFontItalic(bool italic) override { this->record("setFontItalic", {italic}); }
+    void setFontUnderline(bool underline) override
+    {
+        this->record("setFontUnderline", {underline});
+    }
+};
+
+template <typename Base>
+class TextAlignment : public Base
+{
+public:
+    using Base::Base;
+    void setTextAlignment(Qt::Alignment alignment) override
+    {
+        this->record("setTextAlignment", {alignment});
+    }
+};
+
+template <typename Base>
+class DatasourceBinding : public Base
+{
+public:
+    using Base::Base;
+    void setDatasourceId(int id) override { this->record("setDatasourceId", {id}); }
+    void setDatasourceFields(const QStringList& fields) override
+    {
+        this->record("setDatasourceFields", {fields});
+    }
+};
+
+/// The two colours that barcodes and symbols have on the item itself.
+template <typename Base>
+class TwoColors : public Base
+{
+public:
+    using Base::Base;
+    void setForegroundColor(const QColor& color) override
+    {
+        this->record("setForegroundColor", {color});
+    }
+    void setBackgroundColor(const QColor& color) override
+    {
+        this->record("setBackgroundColor", {color});
+    }
+};
+
+/// The layers of ContouredItem and FillableItem.
+template <typename Base>
+using Contoured = Pen<Basics<Base>>;
+template <typename Base>
+using Fillable = Brush<FillColor<Contoured<Base>>>;
+
+} // namespace recorder

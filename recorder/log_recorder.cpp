@@ -1,0 +1,18 @@
+#include "recorder/log_recorder.h"
+
+namespace recorder {
+
+LogRecorder::LogRecorder(std::shared_ptr<Recording> recording)
+    : m_recording(std::move(recording))
+{}
+
+void LogRecorder::append(const QDateTime& /*timeStamp*/, Logger::LogLevel level, const char* file,
+                         int /*line*/, const char* function, const QString& /*category*/,
+                         const QString& message)
+{
+    // Neither time nor line number: a trace stays the same when code above a log call grows.
+    m_recording->trace().log(Logger::levelToString(level).toLower(), QString::fromUtf8(file),
+                             QString::fromUtf8(function), message);
+}
+
+} // namespace recorder

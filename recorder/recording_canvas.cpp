@@ -1,0 +1,101 @@
+#include "recorder/recording_canvas.h"
+
+#include "host/items/item.h"
+#include "recorder/items/recorded_item.h"
+
+#include <QGraphicsItem>
+
+#include <algorithm>
+
+namespace recorder {
+
+namespace {
+
+const QString Target = QStringLiteral("canvas");
+
+TraceValue itemValues(const QList<QGraphicsItem*>& items)
+{
+    TraceWriter::Values values;
+    for (QGraphicsItem* item : items) {
+        values.push_back(itemValue(item));
+    }
+    return TraceValue::array(values);
+}
+
+} // namespace
+
+RecordingCanvas::RecordingCanvas(std::shared_ptr<Recording> recording)
+    : m_recording(std::move(recording))
+    , m_factory(m_recording)
+{}
+
+RecordingCanvas::~RecordingCanvas() = default;
+
+void RecordingCanvas::importItem(Item* item)
+{
+    m_recording->trace().call(Target, "importItem", {itemValue(item)});
+    if (const auto* recorded = dynamic_cast<RecordedItem*>(item)) {
+        m_recording->markImported(recorded->number());
+    }
+    adopt(item);
+}
+
+void RecordingCanvas::importCanvasParameters(double width, double height, bool canvasFlag,
+                                             bool orientation)
+{
+    m_recording->trace().call(Target, "importCanvasParameters",
+                              {width, height, canvasFlag, orientation});
+}
+
+void RecordingCanvas::setCanvasBackgroundColor(const QColor& color)
+{
+    m_recording->trace().call(Target, "setCanvasBackgroundColor", {color});
+    m_backgroundColor = color;
+}
+
+void RecordingCanvas::setCanvasDefaultPenColor(const QColor& color)
+{
+    m_recording->trace().call(Target, "setCanvasDefaultPenColor", {color});
+    m_defaultPenColor = color;
+}
+
+QColor RecordingCanvas::canvasBackgroundColor() const
+{
+    m_recording->trace().call(Target, "canvasBackgroundColor", {}, m_backgroundColor);
+    return m_backgroundColor;
+}
+
+QColor RecordingCanvas::canvasDefaultPenColor() const
+{
+    m_recording->trace().call(Target, "canvasDefaultPenColor", {}, m_defaultPenColor);
+    return m_defaultPenColor;
+}
+
+void RecordingCanvas::setReadOnlyStateOnItemsInList(bool readOnly, QList<QGraphicsItem*> items)
+{
+    m_recording->trace().call(Target, "setReadOnlyStateOnItemsInList",
+                              {readOnly, itemValues(items)});
+}
+
+void RecordingCanvas::setUserBackgroundStateOnItemsInList(bool background,
+                                                          QList<QGraphicsItem*> items)
+{
+    m_recording->trace().call(Target, "setUserBackgroundStateOnItemsInList",
+                              {background, itemValues(items)});
+}
+
+void RecordingCanvas::completeCanvasLoading()
+{
+    m_recording->trace().call(Target, "completeCanvasLoading", {});
+}
+
+void RecordingCanvas::adopt(Item* item)
+{
+    // An item that is handed over twice is a fault to be seen in the trace, not a crash.
+    const auto isSame = [item](const std::unique_ptr<Item>& owned) { return owned.get() == item; };
+    if (item != nullptr && std::none_of(m_items.begin(), m_items.end(), isSame)) {
+        m_items.emplace_back(item);
+    }
+}
+
+} // namespace recorder

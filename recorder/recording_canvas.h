@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/tal_canvas_model.h"
+#include "recorder/recording.h"
+#include "recorder/recording_factory.h"
+
+#include <QColor>
+
+#include <memory>
+#include <vector>
+
+namespace recorder {
+
+/// A canvas that writes down what is done to it. White, with a black pen, at first.
+class RecordingCanvas : public TalCanvasModel
+{
+public:
+    explicit RecordingCanvas(std::shared_ptr<Recording> recording);
+    ~RecordingCanvas() override;
+
+    [[nodiscard]] ClassFactory* getClassFactory() override { return &m_factory; }
+    void importItem(Item* item) override;
+    void importCanvasParameters(double width, double height, bool canvasFlag,
+                                bool orientation) override;
+    void setCanvasBackgroundColor(const QColor& color) override;
+    void setCanvasDefaultPenColor(const QColor& color) override;
+    [[nodiscard]] QColor canvasBackgroundColor() const override;
+    [[nodiscard]] QColor canvasDefaultPenColor() const override;
+    void setReadOnlyStateOnItemsInList(bool readOnly, QList<QGraphicsItem*> items) override;
+    void setUserBackgroundStateOnItemsInList(bool background, QList<QGraphicsItem*> items) override;
+    void completeCanvasLoading() override;
+
+private:
+    void adopt(Item* item);
+
+    std::shared_ptr<Recording> m_recording;
+    RecordingFactory m_factory;
+    QColor m_backgroundColor{Qt::white};
+    QColor m_defaultPenColor{Qt::black};
+    std::vector<std::unique_ptr<Item>> m_items;
+};
+
+} // namespace recorder

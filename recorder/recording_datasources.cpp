@@ -1,0 +1,55 @@
+#include "recorder/recording_datasources.h"
+
+namespace recorder {
+
+namespace {
+
+const QString Target = QStringLiteral("datasources");
+
+} // namespace
+
+RecordingDatasource::RecordingDatasource(std::shared_ptr<Recording> recording, int id)
+    : m_recording(std::move(recording))
+    , m_target(QStringLiteral("datasource:%1").arg(id))
+{}
+
+void RecordingDatasource::setDatasourceProperty(const QString& name, const QVariant& value)
+{
+    m_recording->trace().call(m_target, "setDatasourceProperty", {name, value});
+}
+
+QList<QString> RecordingDatasource::fields() const
+{
+    const QStringList names{QStringLiteral("Value")};
+    m_recording->trace().call(m_target, "fields", {}, names);
+    return names;
+}
+
+void RecordingDatasource::setSelectedFields(const QList<QString>& fields)
+{
+    m_recording->trace().call(m_target, "setSelectedFields", {fields});
+}
+
+RecordingDatasources::RecordingDatasources(std::shared_ptr<Recording> recording)
+    : m_recording(std::move(recording))
+{}
+
+RecordingDatasources::~RecordingDatasources() = default;
+
+int RecordingDatasources::createDatasource(const QString& kind)
+{
+    const int id = static_cast<int>(m_sources.size()) + 1;
+    m_sources.push_back(std::make_unique<RecordingDatasource>(m_recording, id));
+    m_recording->trace().call(Target, "createDatasource", {kind}, id);
+    return id;
+}
+
+TalDatasource* RecordingDatasources::getDatasource(int id)
+{
+    const bool known = id >= 1 && id <= static_cast<int>(m_sources.size());
+    m_recording->trace().call(Target, "getDatasource", {id},
+                              known ? TraceValue(id) : TraceValue(nullptr));
+    return known ? m_sources[static_cast<std::size_t>(id - 1)].get() : nullptr;
+}
+
+} // namespace recorder

@@ -1,0 +1,24 @@
+#include "host/services/tal_message_box.h"
+
+#include "recorder/recording.h"
+
+// A box that never shows: what it says goes into the trace, and whoever runs the
+// recording closes it.
+
+class TalMessageBox::Private
+{};
+
+TalMessageBox::TalMessageBox(const QString& title, const QString& text,
+                             QFlags<QMessageBox::StandardButton> /*buttons*/,
+                             QMessageBox::StandardButton /*defaultButton*/, QString /*detail*/,
+                             QMap<QMessageBox::StandardButton, QString> /*captions*/)
+    : d(std::make_unique<Private>())
+{
+    setWindowTitle(title);
+    if (const auto recording = recorder::Recording::current()) {
+        recording->trace().call(QStringLiteral("messagebox"), "create", {title, text});
+        recording->addMessageBox(this);
+    }
+}
+
+TalMessageBox::~TalMessageBox() = default;

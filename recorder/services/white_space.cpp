@@ -1,0 +1,6 @@
+#include "host/services/white_space.h"
+
+QRegularExpression WhiteSpace::getWhiteSpacesSplitRegex()
+{
+    return QRegularExpression(QStringLiteral("\\s+"));
+}

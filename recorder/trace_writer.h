@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/kest_types.h"
+#include "recorder/trace_value.h"
+
+#include <QPointF>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+class QIODevice;
+
+namespace recorder {
+
+/// What is left of an item when the import is over.
+struct ItemState
+{
+    int number = 0; ///< from 1, in the order of creation
+    KestTypes::ShapeType type{};
+    bool imported = false; ///< whether the canvas has it
+    QPointF position;
+    double z = 0;
+    bool movable = false;
+    std::optional<QString> html; ///< content of a rich text that is not empty
+};
+
+/// Writes a trace, one JSON object on a line.
+///
+/// Keys stand in the order in which the format lists them, so that two traces can be
+/// compared as text.
+class TraceWriter
+{
+public:
+    using Values = std::vector<TraceValue>;
+
+    /// @param out where the lines go; open for writing, not owned, outlives the writer
+    explicit TraceWriter(QIODevice& out);
+
+    void start(const QString& fileName, const QString& reader);
+    void call(const QString& target, const char* name, const Values& arguments);
+    void call(const QString& target, const char* name, const Values& arguments,
+              const TraceValue& returned);
+    void signal(const char* name);
+    void log(const QString& level, const QString& source, const QString& function,
+             const QString& message);
+    void itemState(const ItemState& state);
+    void end(bool result);
+
+private:
+    void writeLine(const std::vector<TraceValue::Field>& fields);
+
+    QIODevice& m_out;
+};
+
+/// The name that a trace gives to an item.
+[[nodiscard]] QString itemTarget(int number);
+
+} // namespace recorder
