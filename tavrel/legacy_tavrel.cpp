@@ -1,18 +1,309 @@
 #include "tavrel/legacy_tavrel.h"
 
+#include "host/services/tal_message_box.h"
+#include "host/tal_canvas_model.h"
+#include "supply/legacy_supply_info.h"
+#include "tavrel/barcode_builder.h"
+#include "tavrel/bounded_stream.h"
+#include "tavrel/bounds.h"
+#include "tavrel/canvas_header.h"
+#include "tavrel/canvas_record.h"
+#include "tavrel/database_list.h"
+#include "tavrel/datasource_binder.h"
+#include "tavrel/file_versions.h"
+#include "tavrel/import_issues.h"
+#include "tavrel/item_number.h"
+#include "tavrel/picture_builder.h"
+#include "tavrel/shape_builder.h"
+#include "tavrel/stream_picture.h"
+#include "tavrel/symbol_builder.h"
+#include "tavrel/symbol_record.h"
+#include "tavrel/text_builder.h"
+
 #include <Logger.h>
 
-LegacyTavrel::LegacyTavrel(TalCanvasModel* canvasModel, DatasourceController* datasourceController)
-    : m_canvasModel(canvasModel)
-    , m_datasourceController(datasourceController)
+#include <QDataStream>
+#include <QFile>
+#include <QFileInfo>
+
+#include <optional>
+#include <utility>
+
+using namespace tavrel;
+
+namespace {
+
+enum ItemTypeCode : qint32 {
+    TextCode = 0x10000,
+    SymbolCode = 0x10001,
+    ShapeCode = 0x10002,
+    LinearBarcodeCode = 0x10003,
+    PictureCode = 0x10004,
+    EmptyCode = 0x10005,
+    MatrixBarcodeCode = 0x10006,
+};
+
+void logError(int line, const char* function, const QString& message)
 {
+    CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", line, function)
+        .write("%s", message.toLocal8Bit().constData());
 }
 
-bool LegacyTavrel::importLabelFromFile(const QString& fileName)
+void logRefusedItem(int line, const char* function, BuildResult result)
 {
-    Q_UNUSED(m_canvasModel)
-    Q_UNUSED(m_datasourceController)
-    CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", __LINE__, Q_FUNC_INFO)
-        .write("This format cannot be read yet: %s", fileName.toLocal8Bit().constData());
-    return false;
+    if (result == BuildResult::NoItem) {
+        logError(line, function,
+                 QStringLiteral("The host made no item for this record, it is left out"));
+    }
+}
+
+// A pipe or a device would never end, or never begin.
+bool isEndless(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() && !info.isDir();
+}
+
+std::optional<QByteArray> readWholeFile(const QString& path)
+{
+    if (isEndless(path)) {
+        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Not a regular file: %1").arg(path));
+        return std::nullopt;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    QByteArray bytes = file.read(MaximumFileSize + 1);
+    if (bytes.size() > MaximumFileSize) {
+        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too large for a label: %1").arg(path));
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+} // namespace
+
+LegacyTavrel::LegacyTavrel(TalCanvasModel* model, DatasourceController* datasourceController)
+    : m_model(model)
+    , m_classFactory(model->getClassFactory())
+    , m_datasourceController(datasourceController)
+    , m_supplyInfo(std::make_unique<LegacySupplyInfo>())
+{}
+
+LegacyTavrel::~LegacyTavrel()
+{
+    delete m_messageBox.data();
+    for (const QPointer<TalMessageBox>& box : std::as_const(m_withdrawnBoxes)) {
+        delete box.data();
+    }
+}
+
+bool LegacyTavrel::importLabelFromFile(const QString& path)
+{
+    const std::optional<QByteArray> bytes = readWholeFile(path);
+    if (!bytes) {
+        return false;
+    }
+    // Version, byte order and precision of the stream stay as they are by default: labels
+    // were written that way.
+    QDataStream stream(*bytes);
+    const CanvasHeader header = readCanvasHeader(stream);
+    if (!header.isSupported()) {
+        const QString message =
+            QObject::tr("Invalid canvas file version (%1 != %2) in", "Content of error message.")
+                .arg(header.version)
+                .arg(CurrentVersion);
+        logError(__LINE__, Q_FUNC_INFO, message + QLatin1Char(' ') + path);
+        return false;
+    }
+    skipPicture(stream); // the preview
+    importCanvasRecord(stream, header.version);
+    importSequenceSettings(stream, header.version);
+    const bool databaseLinked = importDatabaseList(stream);
+    if (!importCanvasAndItems(stream, header.version, databaseLinked)) {
+        return false;
+    }
+    m_model->completeCanvasLoading();
+    return true;
+}
+
+void LegacyTavrel::importCanvasRecord(QDataStream& stream, quint32 version)
+{
+    const CanvasRecord record = readCanvasRecord(stream, version);
+    m_orientationFlag = record.orientationFlag;
+    m_resolution = record.resolution;
+    m_model->importCanvasParameters(record.width, record.height, record.canvasFlag,
+                                    m_orientationFlag);
+    m_model->setCanvasBackgroundColor(m_supplyInfo->getLabelColor(record.labelType));
+    m_model->setCanvasDefaultPenColor(m_supplyInfo->getRibbonColor(record.ribbonType));
+}
+
+void LegacyTavrel::importSequenceSettings(QDataStream& stream, quint32 version)
+{
+    m_sequence = readSequenceSettings(stream, version);
+}
+
+bool LegacyTavrel::importDatabaseList(QDataStream& stream)
+{
+    return readDatabaseList(stream);
+}
+
+bool LegacyTavrel::importCanvasAndItems(QDataStream& stream, quint32 version, bool databaseLinked)
+{
+    ImportIssues issues;
+    issues.databaseLinked = databaseLinked;
+    m_pixelsLeft = MaximumPixelsPerFile;
+    bool anyItemRead = false;
+    for (int count = 0; !stream.atEnd(); ++count) {
+        if (count == MaximumItemRecords) {
+            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many items, the rest is left out"));
+            break;
+        }
+        const qint32 typeCode = readInt32(stream);
+        const RecordOutcome outcome = importItemRecord(typeCode, stream, version, issues);
+        if (outcome == RecordOutcome::Unknown) {
+            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Invalid type: %1").arg(typeCode));
+            if (!anyItemRead) {
+                showMessageBox(QObject::tr("Load Error", "Error message title."),
+                               QObject::tr("Errors reading items.", "Content of error message."));
+                return false;
+            }
+            break;
+        }
+        anyItemRead = anyItemRead || outcome == RecordOutcome::Read;
+    }
+    reportIssues(issues);
+    return anyItemRead;
+}
+
+LegacyTavrel::RecordOutcome LegacyTavrel::importItemRecord(qint32 typeCode, QDataStream& stream,
+                                                           quint32 version, ImportIssues& issues)
+{
+    switch (typeCode) {
+    case TextCode:
+        if (!issues.addNote(importTextItem(stream, version))) {
+            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many notes, one is left out"));
+        }
+        return RecordOutcome::Read;
+    case SymbolCode:
+        if (!importSymbolItem(stream, version)) {
+            issues.symbolErrors = true;
+            return RecordOutcome::Skipped;
+        }
+        return RecordOutcome::Read;
+    case ShapeCode:
+        importShapeItem(stream, version);
+        return RecordOutcome::Read;
+    case PictureCode:
+        importPictureItem(stream, version);
+        return RecordOutcome::Read;
+    case LinearBarcodeCode:
+    case MatrixBarcodeCode:
+        if (!importBarcodeItem(stream, version, typeCode == LinearBarcodeCode)) {
+            issues.barcodeErrors = true;
+            return RecordOutcome::Skipped;
+        }
+        return RecordOutcome::Read;
+    case EmptyCode:
+        return RecordOutcome::Skipped;
+    default:
+        return RecordOutcome::Unknown;
+    }
+}
+
+void LegacyTavrel::importShapeItem(QDataStream& stream, quint32 version)
+{
+    const ShapeRecord record = readShapeRecord(stream, fileContext(version), takeItemNumber());
+    logRefusedItem(__LINE__, Q_FUNC_INFO, buildShape(hostCanvas(), record));
+}
+
+void LegacyTavrel::importPictureItem(QDataStream& stream, quint32 version)
+{
+    const PictureRecord record =
+        readPictureRecord(stream, fileContext(version), takeItemNumber(), m_pixelsLeft);
+    if (record.picture.refused) {
+        logError(__LINE__, Q_FUNC_INFO,
+                 QStringLiteral("A picture is damaged or too large, the item is left empty"));
+    }
+    logRefusedItem(__LINE__, Q_FUNC_INFO, buildPicture(hostCanvas(), record, m_resolution));
+}
+
+QString LegacyTavrel::importTextItem(QDataStream& stream, quint32 version)
+{
+    const TextRecord record = readTextRecord(stream, fileContext(version), takeItemNumber());
+    const DatasourceBinder binder(m_datasourceController, m_sequence);
+    const TextOutcome outcome = buildText(hostCanvas(), record, binder);
+    logRefusedItem(__LINE__, Q_FUNC_INFO, outcome.result);
+    return outcome.note;
+}
+
+bool LegacyTavrel::importBarcodeItem(QDataStream& stream, quint32 version, bool linear)
+{
+    const BarcodeRecord record = readBarcodeRecord(stream, fileContext(version), takeItemNumber());
+    if (!isValidSymbology(record.symbology, linear)) {
+        return false;
+    }
+    const DatasourceBinder binder(m_datasourceController, m_sequence);
+    logRefusedItem(__LINE__, Q_FUNC_INFO, buildBarcode(hostCanvas(), record, binder));
+    return true;
+}
+
+bool LegacyTavrel::importSymbolItem(QDataStream& stream, quint32 version)
+{
+    SymbolRecord record = readSymbolRecord(stream, fileContext(version), takeItemNumber());
+    if (record.data.isEmpty()) {
+        record.data = m_symbols.getSymbolData(record.name);
+    } else {
+        m_symbols.convertSvgSymbol(record.data);
+    }
+    if (record.data.isEmpty()) {
+        return false;
+    }
+    const BuildResult result = buildSymbol(hostCanvas(), record.header, m_resolution, record.data);
+    logRefusedItem(__LINE__, Q_FUNC_INFO, result);
+    return result == BuildResult::Built;
+}
+
+FileContext LegacyTavrel::fileContext(quint32 version) const
+{
+    return {version, m_resolution};
+}
+
+HostCanvas LegacyTavrel::hostCanvas() const
+{
+    return {m_model, m_classFactory};
+}
+
+void LegacyTavrel::reportIssues(const ImportIssues& issues)
+{
+    const QString text = issues.text();
+    if (!text.isEmpty()) {
+        showMessageBox(QObject::tr("Warning: Import issues.", "Error message title."), text);
+    }
+}
+
+void LegacyTavrel::showMessageBox(const QString& title, const QString& text)
+{
+    if (m_messageBox) {
+        messageBoxHidingSlot(); // An earlier import's box that nobody has closed yet.
+    }
+    m_messageBox = new TalMessageBox(title, text, QMessageBox::Ok, QMessageBox::Ok, QString(), {});
+    connect(m_messageBox, &TalMessageBox::popupHideSignal, this,
+            &LegacyTavrel::messageBoxHidingSlot);
+    Q_EMIT popupShowSignal(m_messageBox);
+}
+
+void LegacyTavrel::messageBoxHidingSlot()
+{
+    // Taken out first: a host may start the next import from the signal.
+    const QPointer<TalMessageBox> box = std::exchange(m_messageBox, nullptr);
+    Q_EMIT popupHideSignal();
+    if (box) {
+        // Later, because this may run in the box's own signal. Without an event loop the
+        // reader's end is late enough.
+        m_withdrawnBoxes.removeAll(nullptr);
+        m_withdrawnBoxes.append(box);
+        box->deleteLater();
+    }
 }

@@ -1,0 +1,21 @@
+#include "tavrel/canvas_header.h"
+
+#include "tavrel/bounded_stream.h"
+#include "tavrel/file_versions.h"
+
+namespace tavrel {
+
+bool CanvasHeader::isSupported() const
+{
+    return version >= OldestVersion;
+}
+
+CanvasHeader readCanvasHeader(QDataStream& stream)
+{
+    readInt32(stream); // No two programs agree on the leading word, so nothing is checked.
+    CanvasHeader header;
+    header.version = readUInt32(stream);
+    return header;
+}
+
+} // namespace tavrel
