@@ -19,8 +19,8 @@ class CsvTableModel : public TableModel
 
 public:
     /// Files of more lines or bytes than these are refused, far above any real table.
-    static constexpr int maximumLines = 1 << 22;
-    static constexpr qint64 maximumFileBytes = qint64(1) << 28;
+    static constexpr int maximumLines = 1 << 20;
+    static constexpr qint64 maximumFileBytes = qint64(1) << 25;
     /// A longer line is refused when it is asked for.
     static constexpr qint64 maximumLineBytes = qint64(1) << 20;
 

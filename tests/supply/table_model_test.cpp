@@ -1,0 +1,184 @@
+// What TableModel makes of any table, shown on one that a test fills in.
+
+#include "supply/table_model.h"
+#include "tests/numeric/captured_log.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class FilledTable : public TableModel
+{
+public:
+    FilledTable(int headerRows, QList<QStringList> lines)
+        : TableModel(headerRows)
+        , m_lines(std::move(lines))
+    {}
+
+    bool openFile(const QString&) override { return m_opens; }
+    [[nodiscard]] int fileRowCount() const override { return static_cast<int>(m_lines.size()); }
+    [[nodiscard]] int fileColumnCount() const override
+    {
+        return m_lines.isEmpty() ? 0 : static_cast<int>(m_lines.first().size());
+    }
+    [[nodiscard]] QString cell(int line, int column) override
+    {
+        return m_lines.value(line).value(column);
+    }
+
+    void setOpens(bool opens) { m_opens = opens; }
+
+private:
+    QList<QStringList> m_lines;
+    bool m_opens = true;
+};
+
+QStringList words(const char* text)
+{
+    return QString::fromLatin1(text).split(u',');
+}
+
+TEST(TableModel, CountsTheLinesBehindItsHeaders)
+{
+    const QList<QStringList> lines = {words("h,i"), words("a,b"), words("c,d")};
+    for (const int headerRows : {0, 1, 2}) {
+        const FilledTable table(headerRows, lines);
+        EXPECT_EQ(table.rowCount(), 3 - headerRows);
+        EXPECT_EQ(table.columnCount(), 2);
+        EXPECT_EQ(table.rowCount(table.index(0, 0)), 0);
+        EXPECT_EQ(table.columnCount(table.index(0, 0)), 0);
+        EXPECT_EQ(table.data(table.index(0, 1)), lines[headerRows][1]);
+    }
+}
+
+TEST(TableModel, HasNoRowsWhenEvenItsHeaderIsMissing)
+{
+    EXPECT_EQ(FilledTable(1, {}).rowCount(), 0);
+    EXPECT_EQ(FilledTable(1, {}).columnCount(), 0);
+}
+
+TEST(TableModel, GivesTextAndAlignmentOnly)
+{
+    const FilledTable table(1, {words("h"), words("a")});
+    const QModelIndex cell = table.index(0, 0);
+
+    EXPECT_EQ(table.data(cell, Qt::DisplayRole), QVariant(QStringLiteral("a")));
+    EXPECT_EQ(table.data(cell, Qt::TextAlignmentRole), QVariant(129));
+    for (const int role : {Qt::EditRole, Qt::DecorationRole, Qt::ToolTipRole, Qt::UserRole}) {
+        EXPECT_FALSE(table.data(cell, role).isValid()) << role;
+    }
+    EXPECT_FALSE(table.data(QModelIndex(), Qt::DisplayRole).isValid());
+    EXPECT_FALSE(table.data(QModelIndex(), Qt::TextAlignmentRole).isValid());
+    EXPECT_FALSE(table.data(table.index(1, 0)).isValid());
+    EXPECT_FALSE(table.data(table.index(0, 1)).isValid());
+}
+
+TEST(TableModel, NumbersItsRowsFromOne)
+{
+    const FilledTable table(1, {});
+    EXPECT_EQ(table.headerData(0, Qt::Vertical), QVariant(QStringLiteral("1")));
+    EXPECT_EQ(table.headerData(41, Qt::Vertical), QVariant(QStringLiteral("42")));
+    EXPECT_EQ(table.headerData(2147483647, Qt::Vertical), QVariant(QStringLiteral("2147483648")));
+    EXPECT_EQ(table.headerData(0, Qt::Vertical, Qt::TextAlignmentRole), QVariant(129));
+    EXPECT_EQ(table.headerData(0, Qt::Horizontal, Qt::TextAlignmentRole), QVariant(129));
+    EXPECT_FALSE(table.headerData(0, Qt::Vertical, Qt::EditRole).isValid());
+    EXPECT_FALSE(table.headerData(0, Qt::Horizontal, Qt::EditRole).isValid());
+}
+
+TEST(TableModel, LettersItsColumnsWhenItHasNoHeaderLine)
+{
+    struct
+    {
+        int section;
+        const char* name;
+    } const cases[] = {{0, "A"},
+                       {1, "B"},
+                       {25, "Z"},
+                       {26, "AA"},
+                       {27, "AB"},
+                       {51, "AZ"},
+                       {52, "BA"},
+                       {701, "ZZ"},
+                       {702, "AAA"},
+                       {-1, ""},
+                       {2147483647, "FXSHRXX"}};
+    const FilledTable table(0, {});
+    for (const auto& row : cases) {
+        EXPECT_EQ(table.headerData(row.section, Qt::Horizontal).toString(),
+                  QLatin1String(row.name));
+    }
+}
+
+TEST(TableModel, TakesColumnNamesFromItsHeaderLine)
+{
+    FilledTable table(1, {words("SKU,Name"), words("1,2")});
+    EXPECT_FALSE(table.headerData(0, Qt::Horizontal).isValid());
+
+    ASSERT_TRUE(table.setFileName(QStringLiteral("some file")));
+    EXPECT_EQ(table.fileName(), QStringLiteral("some file"));
+    EXPECT_EQ(table.headerData(0, Qt::Horizontal), QVariant(QStringLiteral("SKU")));
+    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(QStringLiteral("Name")));
+    EXPECT_FALSE(table.headerData(2, Qt::Horizontal).isValid());
+    EXPECT_FALSE(table.headerData(-1, Qt::Horizontal).isValid());
+}
+
+TEST(TableModel, MakesColumnNamesUnique)
+{
+    struct
+    {
+        const char* header;
+        const char* names;
+    } const cases[] = {{"a,a,a", "a,a1,a2"}, {"a1,a,a", "a1,a,a2"}, {"a,a1,a", "a,a1,a2"},
+                       {"a,,c", "a,B,c"},    {"B,", "B,B1"},        {",,", "A,B,C"},
+                       {"B,,B", "B,B1,B2"},  {"a,a,a1", "a,a1,a11"}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.header);
+        FilledTable table(1, {words(row.header)});
+        table.setFileName(QStringLiteral("x"));
+        QStringList names;
+        for (int column = 0; column < table.columnCount(); ++column) {
+            names.append(table.headerData(column, Qt::Horizontal).toString());
+        }
+        EXPECT_EQ(names, words(row.names)) << names.join(u',').toStdString();
+    }
+}
+
+TEST(TableModel, NamesManyEqualColumnsInReasonableTime)
+{
+    FilledTable table(1, {QStringList(200000, QStringLiteral("a"))});
+    table.setFileName(QStringLiteral("x"));
+    EXPECT_EQ(table.headerData(199999, Qt::Horizontal).toString(), QStringLiteral("a199999"));
+}
+
+TEST(TableModel, KeepsItsFileNameWhenAnotherFileDoesNotOpen)
+{
+    FilledTable table(1, {words("a")});
+    table.setFileName(QStringLiteral("first"));
+    table.setOpens(false);
+    const CapturedLog log;
+
+    EXPECT_FALSE(table.setFileName(QStringLiteral("second")));
+    EXPECT_EQ(table.fileName(), QStringLiteral("first"));
+    ASSERT_EQ(log.records().size(), 1);
+    EXPECT_EQ(log.records()[0].level, Logger::Error);
+    EXPECT_EQ(log.records()[0].source, QLatin1String("table_model.cpp"));
+    EXPECT_EQ(log.records()[0].function,
+              QLatin1String("virtual bool TableModel::setFileName(const QString&)"));
+    // The stream parts its values by a blank of its own.
+    EXPECT_EQ(log.records()[0].message, QStringLiteral("Could not open  \"second\""));
+}
+
+TEST(TableModel, TellsItsViewsThatTheTableChanged)
+{
+    FilledTable table(1, {words("a"), words("b")});
+    const QAbstractItemModelTester tester(&table,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QSignalSpy reset(&table, &QAbstractItemModel::modelReset);
+    table.setFileName(QStringLiteral("x"));
+    EXPECT_EQ(reset.count(), 1);
+}
+
+} // namespace
