@@ -1,0 +1,77 @@
+#include "workbench/items/font_families.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QLatin1String>
+
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+struct StandIn
+{
+    QLatin1String family;
+    QLatin1String standIn;
+};
+
+constexpr std::array kStandIns{
+    StandIn{QLatin1String("Arial"), QLatin1String("Liberation Sans")},
+    StandIn{QLatin1String("Helvetica"), QLatin1String("Liberation Sans")},
+    StandIn{QLatin1String("Times New Roman"), QLatin1String("Liberation Serif")},
+    StandIn{QLatin1String("Times"), QLatin1String("Liberation Serif")},
+    StandIn{QLatin1String("Courier New"), QLatin1String("Liberation Mono")},
+    StandIn{QLatin1String("Courier"), QLatin1String("Liberation Mono")},
+};
+
+// The family that importers name when a label's own is not known here.
+const QString& unknownFamily()
+{
+    static const QString family = QStringLiteral("_Nare Vol");
+    return family;
+}
+
+} // namespace
+
+QString fallbackFamily()
+{
+    static const QString family = [] {
+        const QString preferred = QStringLiteral("Liberation Sans");
+        return QFontDatabase::hasFamily(preferred)
+                   ? preferred
+                   : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    }();
+    return family;
+}
+
+QString standInFamily(const QString& family)
+{
+    for (const StandIn& row : kStandIns) {
+        if (row.family == family) {
+            return row.standIn;
+        }
+    }
+    return {};
+}
+
+QStringList familiesFor(const QString& family)
+{
+    QStringList families{family, standInFamily(family), fallbackFamily()};
+    families.removeAll(QString());
+    return families;
+}
+
+void installStandIns()
+{
+    static const bool installed = [] {
+        for (const StandIn& row : kStandIns) {
+            QFont::insertSubstitution(row.family, row.standIn);
+        }
+        QFont::insertSubstitution(unknownFamily(), fallbackFamily());
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+} // namespace workbench

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QColor>
+#include <QLineF>
+#include <QList>
+#include <QRectF>
+
+class QPainter;
+class QPainterPath;
+
+namespace workbench {
+
+/// Whether the Qt::BrushStyle number is one of the six hatches.
+[[nodiscard]] bool isHatch(int style);
+
+/// The lines of a hatch that cover the area, starting from the same raster wherever the
+/// area begins. Never more than a few thousand: over a very large area they stand wider.
+[[nodiscard]] QList<QLineF> hatchLines(const QRectF& area, int style);
+
+/// Paints a hatch within the path.
+void paintHatch(QPainter& painter, const QPainterPath& path, const QRectF& box, int style,
+                const QColor& color);
+
+} // namespace workbench

@@ -1,0 +1,120 @@
+#include "workbench/items/pen_and_fill.h"
+
+#include "workbench/items/hatching.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+#include <array>
+#include <cmath>
+
+namespace workbench {
+
+namespace {
+
+// The share of ink of Qt::Dense1Pattern to Qt::Dense7Pattern.
+constexpr std::array<double, 7> kInkOfDensePattern{0.94, 0.88, 0.63, 0.50, 0.37, 0.12, 0.06};
+
+// Long enough that the corners of the polygons come out sharp.
+constexpr double kMiterLimit = 4.0;
+
+Qt::PenStyle knownPenStyle(int style)
+{
+    return style >= Qt::NoPen && style <= Qt::DashDotDotLine ? static_cast<Qt::PenStyle>(style)
+                                                             : Qt::SolidLine;
+}
+
+Qt::PenCapStyle knownCap(int cap)
+{
+    return cap == Qt::SquareCap || cap == Qt::RoundCap ? static_cast<Qt::PenCapStyle>(cap)
+                                                       : Qt::FlatCap;
+}
+
+Qt::PenJoinStyle knownJoin(int join)
+{
+    const bool known = join == Qt::MiterJoin || join == Qt::RoundJoin || join == Qt::SvgMiterJoin;
+    return known ? static_cast<Qt::PenJoinStyle>(join) : Qt::BevelJoin;
+}
+
+bool isTone(int style)
+{
+    return style >= Qt::Dense1Pattern && style <= Qt::Dense7Pattern;
+}
+
+QColor withInk(const QColor& color, double ink)
+{
+    QColor tinted = color;
+    tinted.setAlphaF(static_cast<float>(color.alphaF() * ink));
+    return tinted;
+}
+
+void addStops(QGradient& gradient, const QColor& color)
+{
+    gradient.setColorAt(0.0, color);
+    gradient.setColorAt(1.0, withInk(color, 0.0));
+}
+
+QBrush linearBrush(const QRectF& box, const QColor& color)
+{
+    QLinearGradient gradient(box.topLeft(), box.bottomLeft());
+    addStops(gradient, color);
+    return gradient;
+}
+
+QBrush radialBrush(const QRectF& box, const QColor& color)
+{
+    const double radius = std::hypot(box.width(), box.height()) / 2.0;
+    QRadialGradient gradient(box.center(), radius);
+    addStops(gradient, color);
+    return gradient;
+}
+
+QBrush plainBrush(const QRectF& box, const FillValues& values)
+{
+    if (values.style == Qt::LinearGradientPattern) {
+        return linearBrush(box, values.color);
+    }
+    if (values.style == Qt::RadialGradientPattern || values.style == Qt::ConicalGradientPattern) {
+        return radialBrush(box, values.color);
+    }
+    if (isTone(values.style)) {
+        const auto index = static_cast<std::size_t>(values.style - Qt::Dense1Pattern);
+        return withInk(values.color, kInkOfDensePattern.at(index));
+    }
+    return values.color;
+}
+
+} // namespace
+
+QPen toPen(const PenValues& values)
+{
+    QPen pen(values.color, values.width, knownPenStyle(values.style), knownCap(values.cap),
+             knownJoin(values.join));
+    pen.setMiterLimit(kMiterLimit);
+    pen.setCosmetic(values.width == 0);
+    return pen;
+}
+
+void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
+               const FillValues& values)
+{
+    if (!values.filled || values.style == Qt::NoBrush || values.color.alpha() == 0) {
+        return;
+    }
+    if (isHatch(values.style)) {
+        paintHatch(painter, path, box, values.style, values.color);
+        return;
+    }
+    painter.fillPath(path, plainBrush(box, values));
+}
+
+void paintShape(QPainter& painter, const QPainterPath& path, const QRectF& box,
+                const FillValues& fill, const PenValues& pen)
+{
+    paintFill(painter, path, box, fill);
+    painter.strokePath(path, toPen(pen));
+}
+
+} // namespace workbench

@@ -1,0 +1,103 @@
+#include "workbench/items/rich_text_item.h"
+
+#include "workbench/items/label_document.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+
+namespace workbench {
+
+RichTextItem::RichTextItem(KestTypes::ShapeType type)
+    : Layers(type)
+{
+    // A text has a frame only where its label says so.
+    setPenStyle(Qt::NoPen);
+    setDocument(new LabelDocument(this));
+}
+
+void RichTextItem::setText(const QString& text)
+{
+    prepareGeometryChange();
+    m_text = text;
+    document()->clear();
+    appearanceChanged();
+}
+
+void RichTextItem::adjustBoxSizeToContent(double width)
+{
+    const double bounded = boundedLength(width);
+    if (!showsDocument()) {
+        setBoxSize(measureText(plainText(bounded > 0.0), bounded));
+        return;
+    }
+    const QSizeF size = layOutDocument(bounded);
+    setBoxSize({bounded > 0.0 ? bounded : size.width(), size.height()});
+}
+
+bool RichTextItem::showsDocument() const
+{
+    return !showsSourceContent() && !document()->isEmpty();
+}
+
+PlainText RichTextItem::plainText(bool wraps) const
+{
+    return {shownContent(m_text), toFont(fontValues()), textStyleValues().alignment,
+            textStyleValues().color, wraps};
+}
+
+// A width of 0 or less does not wrap.
+QSizeF RichTextItem::layOutDocument(double width)
+{
+    boundFontSizes(*document());
+    // Setting a font lays out anew, even if it is the same.
+    if (const QFont font = toFont(fontValues()); document()->defaultFont() != font) {
+        document()->setDefaultFont(font);
+    }
+    document()->setTextWidth(width > 0.0 ? width : -1.0);
+    return document()->size();
+}
+
+double RichTextItem::overhang() const
+{
+    // Slanted and accented letters reach beyond the box of their line.
+    return Layers::overhang() + fontValues().pointSize;
+}
+
+void RichTextItem::paintContent(QPainter& painter)
+{
+    const QRectF box = contentRect();
+    paintTextGround(painter, box, fillValues(), penValues());
+    if (showsDocument()) {
+        paintDocument(painter, box);
+    } else {
+        paintText(painter, plainText(true), box);
+    }
+}
+
+void RichTextItem::paintDocument(QPainter& painter, const QRectF& box)
+{
+    const QSizeF size = layOutDocument(box.width());
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, textStyleValues().color);
+    painter.translate(0.0,
+                      verticalOffset(textStyleValues().alignment, box.height() - size.height()));
+    document()->documentLayout()->draw(&painter, context);
+}
+
+void RichTextItem::collect(ItemValues& values) const
+{
+    Layers::collect(values);
+    values.text = TextValues{m_text, document()->isEmpty() ? QString() : document()->toHtml()};
+}
+
+void RichTextItem::restore(const ItemValues& values)
+{
+    const TextValues text = values.text.value_or(TextValues());
+    setText(text.text);
+    if (!text.html.isEmpty()) {
+        setHtml(text.html);
+    }
+    Layers::restore(values);
+}
+
+} // namespace workbench

@@ -1,0 +1,118 @@
+#include "workbench/rendering/page_image.h"
+
+#include "workbench/canvas/canvas.h"
+#include "workbench/rendering/page_painter.h"
+
+#include <QCoreApplication>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <cmath>
+
+namespace workbench {
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+constexpr double kMetresPerInch = 0.0254;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("workbench::PageImage", text);
+}
+
+// Pixels as doubles: a page may ask for more than an integer holds.
+QSizeF pixelSize(const Canvas& canvas, double dpi)
+{
+    const QSizeF size = canvas.page().size * (dpi / kPointsPerInch);
+    // A page of whole inches must not get one pixel more because of rounding.
+    return {std::max(1.0, std::ceil(size.width() - 1e-6)),
+            std::max(1.0, std::ceil(size.height() - 1e-6))};
+}
+
+bool isWithinBounds(const QSizeF& pixels)
+{
+    return pixels.width() <= kMaximumImageSide && pixels.height() <= kMaximumImageSide &&
+           pixels.width() * pixels.height() <= static_cast<double>(kMaximumImagePixels);
+}
+
+// The largest whole resolution at which the page fits.
+int largestDpi(const QSizeF& page)
+{
+    const double longest = std::max(page.width(), page.height());
+    const double bySide = kMaximumImageSide / longest;
+    const double byPixels =
+        std::sqrt(static_cast<double>(kMaximumImagePixels) / (page.width() * page.height()));
+    return static_cast<int>(std::min(bySide, byPixels) * kPointsPerInch);
+}
+
+QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
+{
+    const QString text =
+        tr("The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots "
+           "per inch. The largest picture is %6 pixels along a side and %7 million in all.")
+            .arg(page.width())
+            .arg(page.height())
+            .arg(pixels.width(), 0, 'f', 0)
+            .arg(pixels.height(), 0, 'f', 0)
+            .arg(dpi)
+            .arg(kMaximumImageSide)
+            .arg(kMaximumImagePixels / 1'000'000);
+    const int best = largestDpi(page);
+    return best < 1 ? text : text + tr(" Up to %1 dots per inch are possible.").arg(best);
+}
+
+int dotsPerMetre(double dpi)
+{
+    return static_cast<int>(std::lround(dpi / kMetresPerInch));
+}
+
+} // namespace
+
+PageImage renderPage(const Canvas& canvas, double dpi)
+{
+    if (!std::isfinite(dpi) || dpi <= 0.0) {
+        return {{}, tr("The resolution must be above 0 dots per inch.")};
+    }
+    const QSizeF pixels = pixelSize(canvas, dpi);
+    if (!isWithinBounds(pixels)) {
+        return {{}, tooLarge(canvas.page().size, pixels, dpi)};
+    }
+    QImage image(pixels.toSize(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) {
+        return {{},
+                tr("There is not enough memory for a picture of %1 by %2 pixels.")
+                    .arg(pixels.width())
+                    .arg(pixels.height())};
+    }
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(dpi / kPointsPerInch, dpi / kPointsPerInch);
+    paintPage(painter, canvas);
+    painter.end();
+    // Only now: fonts would take a resolution that the image has while it is painted on
+    // for a reason to change their size.
+    image.setDotsPerMeterX(dotsPerMetre(dpi));
+    image.setDotsPerMeterY(dotsPerMetre(dpi));
+    return {image, {}};
+}
+
+QString writePng(const QImage& image, const QString& fileName)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
+    }
+    QImageWriter writer(&file, "png");
+    if (!writer.write(image)) {
+        return tr("Cannot write \"%1\": %2.").arg(fileName, writer.errorString());
+    }
+    if (!file.commit()) {
+        return tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
+    }
+    return {};
+}
+
+} // namespace workbench

@@ -1,0 +1,7 @@
+#include "host/services/white_space.h"
+
+QRegularExpression WhiteSpace::getWhiteSpacesSplitRegex()
+{
+    return QRegularExpression(QStringLiteral("\\s+"),
+                              QRegularExpression::UseUnicodePropertiesOption);
+}
