@@ -1,0 +1,47 @@
+#include "fuzz/harness.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include <cstdint>
+#include <cstdlib>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+MemoryFile::MemoryFile(const QByteArray& bytes)
+    : m_descriptor(::memfd_create("input", MFD_CLOEXEC))
+{
+    if (m_descriptor < 0 || ::write(m_descriptor, bytes.constData(), size_t(bytes.size())) < 0) {
+        std::abort(); // without the input there is nothing to test
+    }
+}
+
+MemoryFile::~MemoryFile()
+{
+    ::close(m_descriptor);
+}
+
+QString MemoryFile::path() const
+{
+    return QStringLiteral("/proc/self/fd/%1").arg(m_descriptor);
+}
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    // Lives as long as the process: libFuzzer leaves without returning from main.
+    static int argumentCount = *argc;
+    static QApplication application(argumentCount, *argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    fuzzOneInput(QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)));
+    return 0;
+}

@@ -1,0 +1,19 @@
+// OpenDocument packages as whole files, twice through one reader.
+
+#include "fuzz/harness.h"
+#include "opendocument/open_office_reader.h"
+#include "tests/support/silent_host/silent_host.h"
+
+void fuzzOneInput(const QByteArray& input)
+{
+    const MemoryFile file(input);
+    silent::Canvas canvas;
+    silent::Datasources datasources;
+    OpenOfficeReader reader(&canvas, &datasources);
+    const bool first = reader.importLabelFromFile(file.path());
+    const std::size_t items = canvas.itemCount();
+    const bool second = reader.importLabelFromFile(file.path());
+    if (first != second || canvas.itemCount() != 2 * items) {
+        qFatal("the second import differs from the first");
+    }
+}
