@@ -1,0 +1,18 @@
+#pragma once
+
+#include "journal/journal.h"
+
+/// Stands in for the reader of the same name and face.
+class LegacyOrvanta
+{
+public:
+    LegacyOrvanta(TalCanvasModel* canvasModel, DatasourceController* datasourceController)
+    {
+        journal().readerMade("orvanta", canvasModel, datasourceController);
+    }
+    ~LegacyOrvanta() { journal().events.append(QStringLiteral("orvanta destroyed")); }
+    bool importLabelFromFile(const QString& fileName)
+    {
+        return journal().readerCalled("orvanta", fileName);
+    }
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "journal/journal.h"
+
+#include <QObject>
+
+class QWidget;
+
+/// Stands in for the reader of the same name and face. Every import shows a message and
+/// hides it again.
+class LegacyTavrel : public QObject
+{
+    Q_OBJECT
+
+public:
+    LegacyTavrel(TalCanvasModel* canvasModel, DatasourceController* datasourceController)
+    {
+        journal().readerMade("tavrel", canvasModel, datasourceController);
+    }
+    ~LegacyTavrel() override { journal().events.append(QStringLiteral("tavrel destroyed")); }
+    bool importLabelFromFile(const QString& fileName)
+    {
+        Q_EMIT popupShowSignal(nullptr);
+        Q_EMIT popupHideSignal();
+        return journal().readerCalled("tavrel", fileName);
+    }
+
+Q_SIGNALS:
+    void popupShowSignal(QWidget* popup);
+    void popupHideSignal();
+};

@@ -1,0 +1,200 @@
+// The import command: the question, the dialog, the reader, the saving, in this order.
+
+#include "file_dialog_driver.h"
+#include "importer_fixture.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QTranslator>
+
+namespace {
+
+using ImportCommand = ImporterTest;
+
+TEST_F(ImportCommand, takesOneStepAfterTheOther)
+{
+    FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
+    m_importer->importLegacyLabel(QStringLiteral("open.label"));
+
+    const QStringList expected{
+        QStringLiteral("asked about open.label, may discard"),
+        QStringLiteral("label type ''"),
+        QStringLiteral("tavrel made"),
+        QStringLiteral("tavrel reads shelf.cnv"),
+        QStringLiteral("save 'shelf' in %1 as type ''").arg(folder()),
+    };
+    EXPECT_EQ(journal().events, expected);
+    EXPECT_EQ(m_fileController.askedAbout, canvasModel());
+    EXPECT_EQ(rememberedFolder(), QVariant(folder()));
+}
+
+TEST_F(ImportCommand, stopsWhenTheUserKeepsTheChanges)
+{
+    m_fileController.mayGoOn = false;
+    m_importer->importLegacyLabel(QStringLiteral("open.label"));
+
+    EXPECT_EQ(journal().events, QStringList{QStringLiteral("asked about open.label, may discard")});
+    EXPECT_FALSE(rememberedFolder().isValid());
+}
+
+TEST_F(ImportCommand, stopsWhenTheDialogIsCancelled)
+{
+    QSettings().setValue(QStringLiteral("dir/import"), QStringLiteral("/before"));
+    FileDialogDriver::cancel();
+    m_importer->importLegacyLabel(QString());
+
+    EXPECT_EQ(journal().events, QStringList{QStringLiteral("asked about , may discard")});
+    EXPECT_EQ(rememberedFolder(), QVariant(QStringLiteral("/before")));
+}
+
+TEST_F(ImportCommand, savesNothingWhenTheReaderFails)
+{
+    journal().readersSucceed = false;
+    FileDialogDriver::pick(file(QStringLiteral("broken.qmtx")));
+    m_importer->importLegacyLabel(QString());
+
+    // The type is announced and the folder remembered all the same.
+    const QStringList expected{
+        QStringLiteral("asked about , may discard"),
+        QStringLiteral("label type ''"),
+        QStringLiteral("orvanta made"),
+        QStringLiteral("orvanta reads broken.qmtx"),
+    };
+    EXPECT_EQ(journal().events, expected);
+    EXPECT_EQ(rememberedFolder(), QVariant(folder()));
+}
+
+struct RoadRow
+{
+    const char* fileName;
+    const char* reader;
+    const char* baseName;
+};
+
+const RoadRow Roads[] = {
+    {"LABEL.CNV", "tavrel", "LABEL"},       {"label.Roc", "tavrel", "label"},
+    {"LABEL.QMTX", "orvanta", "LABEL"},     {"label.ODG", "opendocument", "label"},
+    {"label.odt", "opendocument", "label"}, {"a.b.qmtx", "tavrel", "a.b"},
+    {"a.tar.odt", "tavrel", "a.tar"},       {"shelf.old.odt", "tavrel", "shelf.old"},
+    {"nosuffix", "tavrel", "nosuffix"},     {"label.xyz", "tavrel", "label"},
+};
+
+TEST_F(ImportCommand, choosesTheReaderByAllSuffixesAndSavesWithoutTheLast)
+{
+    for (const RoadRow& row : Roads) {
+        SCOPED_TRACE(row.fileName);
+        journal().events.clear();
+        const QString name = QString::fromLatin1(row.fileName);
+        FileDialogDriver::pick(file(name));
+        m_importer->importLegacyLabel(QString());
+
+        const QString read = QStringLiteral("%1 reads %2").arg(QLatin1String(row.reader), name);
+        const QString saved =
+            QStringLiteral("save '%1' in %2 as type ''").arg(QLatin1String(row.baseName), folder());
+        ASSERT_GE(journal().events.size(), 2);
+        EXPECT_EQ(journal().events.at(journal().events.size() - 2), read);
+        EXPECT_EQ(journal().events.last(), saved);
+    }
+}
+
+// --- the dialog ---
+
+TEST_F(ImportCommand, offersOneFilterForEachFormatAndPreselectsAll)
+{
+    bool looked = false;
+    FileDialogDriver::inspect([&](const QFileDialog& dialog) {
+        looked = true;
+        const QStringList filters{
+            QStringLiteral("Legacy Tavrel File (*.cnv *.roc)"),
+            QStringLiteral("Orvanta File (*.qmtx)"),
+            QStringLiteral("OpenOffice File (*.odt *.odg)"),
+            QStringLiteral("All Legacy Files (*.cnv *.roc *.qmtx *.odt *.odg)"),
+        };
+        EXPECT_EQ(dialog.nameFilters(), filters);
+        EXPECT_EQ(dialog.selectedNameFilter(), filters.last());
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Import Label"));
+        EXPECT_EQ(dialog.directory().absolutePath(), defaultImportFolder());
+        EXPECT_EQ(dialog.parentWidget(), nullptr);
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+    });
+    m_importer->importLegacyLabel(QString());
+    EXPECT_TRUE(looked);
+}
+
+TEST_F(ImportCommand, alwaysStartsInTheDefaultFolder)
+{
+    FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
+    m_importer->importLegacyLabel(QString());
+    ASSERT_NE(folder(), defaultImportFolder());
+
+    QString directory;
+    FileDialogDriver::inspect(
+        [&directory](const QFileDialog& dialog) { directory = dialog.directory().absolutePath(); });
+    m_importer->importLegacyLabel(QString());
+    EXPECT_EQ(directory, defaultImportFolder());
+}
+
+/// A catalogue that shouts, and notes what it was asked for.
+class Shouter : public QTranslator
+{
+public:
+    struct Request
+    {
+        QString context;
+        QString text;
+        QString comment;
+        bool operator==(const Request&) const = default;
+    };
+    mutable QList<Request> requests;
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* context, const char* text, const char* comment,
+                                    int /*n*/) const override
+    {
+        const Request request{QString::fromLatin1(context), QString::fromLatin1(text),
+                              QString::fromLatin1(comment)};
+        if (request.context != QLatin1String("QObject") || request.comment.isEmpty()) {
+            return {};
+        }
+        requests.append(request);
+        return request.text.toUpper();
+    }
+};
+
+TEST_F(ImportCommand, speaksTheLanguageOfTheHostsCatalogue)
+{
+    Shouter shouter;
+    QApplication::installTranslator(&shouter);
+    QStringList filters;
+    QString selected;
+    QString title;
+    FileDialogDriver::inspect([&](const QFileDialog& dialog) {
+        filters = dialog.nameFilters();
+        selected = dialog.selectedNameFilter();
+        title = dialog.windowTitle();
+    });
+    m_importer->importLegacyLabel(QString());
+    QApplication::removeTranslator(&shouter);
+
+    // The patterns are put in after the translation, and stay as they are.
+    EXPECT_EQ(filters, (QStringList{
+                           QStringLiteral("LEGACY TAVREL FILE (*.cnv *.roc)"),
+                           QStringLiteral("ORVANTA FILE (*.qmtx)"),
+                           QStringLiteral("OPENOFFICE FILE (*.odt *.odg)"),
+                           QStringLiteral("ALL LEGACY FILES (*.cnv *.roc *.qmtx *.odt *.odg)"),
+                       }));
+    EXPECT_EQ(selected, filters.last());
+    EXPECT_EQ(title, QStringLiteral("IMPORT LABEL"));
+    for (const char* text : {"All Legacy Files %1", "OpenOffice File %1", "Orvanta File %1",
+                             "Legacy Tavrel File %1"}) {
+        EXPECT_TRUE(shouter.requests.contains({QStringLiteral("QObject"), QLatin1String(text),
+                                               QStringLiteral("Filter for Open File dialog")}))
+            << text;
+    }
+    EXPECT_TRUE(
+        shouter.requests.contains({QStringLiteral("QObject"), QStringLiteral("Import Label"),
+                                   QStringLiteral("Dialog to open a file.")}));
+}
+
+} // namespace

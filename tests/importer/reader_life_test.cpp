@@ -1,0 +1,131 @@
+// How the importer keeps its readers: made when first needed, once, and destroyed in order.
+
+#include "importer_fixture.h"
+
+#include <QMetaMethod>
+#include <QSignalSpy>
+
+#include <stdexcept>
+
+namespace {
+
+using ReaderLife = ImporterTest;
+
+const QString File = QStringLiteral("file");
+
+QStringList made(const QStringList& events)
+{
+    return events.filter(QStringLiteral(" made"));
+}
+
+TEST_F(ReaderLife, beginsWithTheFirstFile)
+{
+    EXPECT_EQ(journal().events, QStringList());
+
+    EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
+    EXPECT_EQ(made(journal().events), QStringList{QStringLiteral("opendocument made")});
+    EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
+    EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
+    EXPECT_EQ(made(journal().events).size(), 3);
+}
+
+TEST_F(ReaderLife, servesEveryFurtherFile)
+{
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
+        EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
+        EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
+    }
+    EXPECT_EQ(made(journal().events).size(), 3);
+    EXPECT_EQ(journal().events.size(), 3 + 9);
+}
+
+TEST_F(ReaderLife, getsTheHostsCanvasAndDataSources)
+{
+    const auto expectHost = [this] {
+        EXPECT_EQ(journal().lastCanvasModel, canvasModel());
+        EXPECT_EQ(journal().lastDatasourceController, datasourceController());
+        journal().lastCanvasModel = nullptr;
+        journal().lastDatasourceController = nullptr;
+    };
+    EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
+    expectHost();
+    EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
+    expectHost();
+    EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
+    expectHost();
+}
+
+TEST_F(ReaderLife, resultIsTheReaders)
+{
+    journal().readersSucceed = false;
+    EXPECT_FALSE(m_importer->importLabelFromTavrelFile(File));
+    EXPECT_FALSE(m_importer->importLabelFromOrvantaFile(File));
+    EXPECT_FALSE(m_importer->importLabelFromOpenOfficeFile(File));
+    journal().readersSucceed = true;
+    EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
+    EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
+    EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
+}
+
+TEST_F(ReaderLife, signalsGoOutOnceHoweverManyImports)
+{
+    const QSignalSpy shown(m_importer.get(), &LegacyTemplateImporter::popupShowSignal);
+    const QSignalSpy hidden(m_importer.get(), &LegacyTemplateImporter::popupHideSignal);
+    EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
+    EXPECT_EQ(shown.count(), 1);
+    EXPECT_EQ(hidden.count(), 1);
+    EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
+    EXPECT_EQ(shown.count(), 2);
+    EXPECT_EQ(hidden.count(), 2);
+}
+
+TEST_F(ReaderLife, endsInAFixedOrder)
+{
+    // Whatever the order in which they were made.
+    EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
+    EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
+    EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
+    journal().events.clear();
+    m_importer.reset();
+    EXPECT_EQ(journal().events, (QStringList{
+                                    QStringLiteral("tavrel destroyed"),
+                                    QStringLiteral("orvanta destroyed"),
+                                    QStringLiteral("opendocument destroyed"),
+                                }));
+}
+
+TEST_F(ReaderLife, endsOnlyForReadersThatWereMade)
+{
+    EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
+    journal().events.clear();
+    m_importer.reset();
+    EXPECT_EQ(journal().events, QStringList{QStringLiteral("orvanta destroyed")});
+}
+
+TEST_F(ReaderLife, aReaderThatCouldNotBeMadeIsTriedAgain)
+{
+    using Import = bool (LegacyTemplateImporter::*)(const QString&);
+    for (const Import import : {Import(&LegacyTemplateImporter::importLabelFromTavrelFile),
+                                Import(&LegacyTemplateImporter::importLabelFromOrvantaFile),
+                                Import(&LegacyTemplateImporter::importLabelFromOpenOfficeFile)}) {
+        journal().events.clear();
+        journal().nextReaderThrows = true;
+        EXPECT_THROW((void)(m_importer.get()->*import)(File), std::runtime_error);
+        EXPECT_EQ(journal().events, QStringList());
+        EXPECT_TRUE((m_importer.get()->*import)(File));
+        EXPECT_EQ(made(journal().events).size(), 1);
+    }
+}
+
+TEST_F(ReaderLife, theImporterHasNoParentAndTwoSignals)
+{
+    EXPECT_EQ(m_importer->parent(), nullptr);
+    const QMetaObject* meta = m_importer->metaObject();
+    EXPECT_STREQ(meta->className(), "LegacyTemplateImporter");
+    ASSERT_EQ(meta->methodCount() - meta->methodOffset(), 2);
+    EXPECT_EQ(meta->method(meta->methodOffset()).methodSignature(), "popupShowSignal(QWidget*)");
+    EXPECT_EQ(meta->method(meta->methodOffset() + 1).methodSignature(), "popupHideSignal()");
+}
+
+} // namespace
