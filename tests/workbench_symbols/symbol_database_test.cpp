@@ -1,0 +1,200 @@
+#include "workbench/symbols/symbol_database.h"
+
+#include "host/services/symbol_database_model.h"
+#include "workbench/symbols/svg_limits.h"
+#include "workbench/symbols/symbol_data.h"
+
+#include <AbstractAppender.h>
+#include <Logger.h>
+
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QVariant>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using workbench::symbols::naturalSize;
+using workbench::symbols::SymbolDatabase;
+
+namespace {
+
+const QByteArray Arrow = R"(<svg xmlns="http://www.w3.org/2000/svg" width="72pt" height="36pt">)"
+                         R"(<path d="M0 0L96 48"/></svg>)";
+const QString TableText =
+    QStringLiteral("CREATE TABLE symbols(name TEXT PRIMARY KEY NOT NULL, svg BLOB NOT NULL)");
+
+void execute(const QString& path, const QStringList& statements, const QByteArray& blob = Arrow)
+{
+    {
+        QSqlDatabase database =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("writer"));
+        database.setDatabaseName(path);
+        ASSERT_TRUE(database.open());
+        for (const QString& statement : statements) {
+            QSqlQuery query(database);
+            ASSERT_TRUE(query.prepare(statement)) << statement.toStdString();
+            if (statement.contains(u'?'))
+                query.addBindValue(blob);
+            ASSERT_TRUE(query.exec()) << statement.toStdString();
+        }
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("writer"));
+}
+
+class Records : public AbstractAppender
+{
+public:
+    QStringList lines;
+
+protected:
+    void append(const QDateTime&, Logger::LogLevel level, const char* file, int, const char*,
+                const QString&, const QString& message) override
+    {
+        lines << Logger::levelToString(level) + u' ' + QString::fromUtf8(file) + u' ' + message;
+    }
+};
+
+class SymbolDatabaseTest : public testing::Test
+{
+protected:
+    void SetUp() override { loggerInstance()->registerAppender(&records); }
+    void TearDown() override { loggerInstance()->removeAppender(&records); }
+
+    QString path(const char* name = "symbols.db") const
+    {
+        return folder.filePath(QString::fromUtf8(name));
+    }
+    QString goodDatabase()
+    {
+        execute(path(), {TableText, QStringLiteral("INSERT INTO symbols VALUES('arrow.svg', ?)"),
+                         QStringLiteral("INSERT INTO symbols VALUES('o''clock', ?)"),
+                         QStringLiteral("INSERT INTO symbols VALUES('rubbish', 'no svg')")});
+        return path();
+    }
+    QString fileOf(const QByteArray& bytes)
+    {
+        QFile file(path("broken.db"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+
+    QTemporaryDir folder;
+    Records records;
+};
+
+} // namespace
+
+TEST_F(SymbolDatabaseTest, GivesSymbolsByName)
+{
+    SymbolDatabaseModel model(nullptr);
+    EXPECT_TRUE(model.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+    model.setDatabasePath(goodDatabase());
+    EXPECT_EQ(naturalSize(model.getDataFromSymbolName(QStringLiteral("arrow.svg"))),
+              QSizeF(72, 36));
+    EXPECT_FALSE(model.getDataFromSymbolName(QStringLiteral("o'clock")).isEmpty());
+    for (const char* unknown : {"", "ARROW.SVG", "rubbish", "' OR 1=1 --"})
+        EXPECT_TRUE(model.getDataFromSymbolName(QString::fromUtf8(unknown)).isEmpty()) << unknown;
+    EXPECT_TRUE(records.lines.isEmpty());
+}
+
+TEST_F(SymbolDatabaseTest, MakesStoredDrawingsSafe)
+{
+    execute(
+        path(), {TableText, QStringLiteral("INSERT INTO symbols VALUES('bad', ?)")},
+        R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><image href="secret"/></svg>)");
+    SymbolDatabaseModel model(nullptr);
+    model.setDatabasePath(path());
+    const QByteArray data = model.getDataFromSymbolName(QStringLiteral("bad"));
+    EXPECT_FALSE(data.isEmpty());
+    EXPECT_FALSE(data.contains("secret"));
+}
+
+TEST_F(SymbolDatabaseTest, AnswersEmptyWithOneLineForWhatIsNoDatabase)
+{
+    const QByteArray half = [this] {
+        QFile file(goodDatabase());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.read(1000);
+    }();
+    const QString rows[] = {path("missing.db"), folder.path(), fileOf("no database at all")};
+    for (const QString& row : rows) {
+        SCOPED_TRACE(row.toStdString());
+        records.lines.clear();
+        SymbolDatabaseModel model(nullptr);
+        model.setDatabasePath(row);
+        model.setDatabasePath(row);
+        EXPECT_TRUE(model.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+        ASSERT_EQ(records.lines.size(), 1);
+        EXPECT_TRUE(records.lines[0].startsWith(
+            QStringLiteral("error symbol_database_model.cpp The symbol database ")));
+        EXPECT_TRUE(records.lines[0].contains(row));
+    }
+    SymbolDatabase empty(fileOf(""));
+    EXPECT_FALSE(empty.isOpen());
+    EXPECT_EQ(empty.error(), QStringLiteral("it has no table of symbols"));
+    SymbolDatabase truncated(fileOf(half));
+    EXPECT_TRUE(truncated.svg(QStringLiteral("arrow.svg")).isEmpty());
+    EXPECT_FALSE(truncated.error().isEmpty());
+}
+
+TEST_F(SymbolDatabaseTest, RefusesTablesThatAreComputed)
+{
+    const QStringList rows[] = {
+        {QStringLiteral("CREATE VIEW symbols AS WITH RECURSIVE n(name) AS (SELECT 1 UNION ALL"
+                        " SELECT name + 1 FROM n) SELECT name, x'00' AS svg FROM n")},
+        {QStringLiteral("CREATE TABLE symbols(name TEXT, svg BLOB AS (zeroblob(1000000000)))")},
+        {QStringLiteral("CREATE TABLE symbols(name TEXT PRIMARY KEY)")},
+        {QStringLiteral("CREATE TABLE other(name TEXT, svg BLOB)")},
+    };
+    for (const QStringList& row : rows) {
+        SCOPED_TRACE(row.join(u';').toStdString());
+        QFile::remove(path());
+        execute(path(), row);
+        SymbolDatabase database(path());
+        EXPECT_FALSE(database.isOpen());
+        EXPECT_EQ(database.error(), QStringLiteral("it has no table of symbols"));
+    }
+}
+
+TEST_F(SymbolDatabaseTest, LeavesADrawingThatIsTooLongAlone)
+{
+    execute(path(), {TableText, QStringLiteral("INSERT INTO symbols VALUES('long', ?)")},
+            QByteArray(workbench::symbols::limits::DocumentBytes + 1, ' '));
+    SymbolDatabase database(path());
+    EXPECT_TRUE(database.isOpen());
+    EXPECT_TRUE(database.svg(QStringLiteral("long")).isEmpty());
+}
+
+TEST_F(SymbolDatabaseTest, SurvivesDamageAnywhereInTheFile)
+{
+    QFile whole(goodDatabase());
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    for (qsizetype at = 0; at < bytes.size(); at += 61) {
+        QByteArray damaged = bytes;
+        damaged[at] = static_cast<char>(~damaged[at]);
+        SymbolDatabase database(fileOf(damaged));
+        const QByteArray svg = database.svg(QStringLiteral("arrow.svg"));
+        EXPECT_LE(svg.size(), bytes.size()) << at;
+    }
+}
+
+TEST_F(SymbolDatabaseTest, NeitherWritesNorKeepsConnections)
+{
+    const QString file = goodDatabase();
+    {
+        SymbolDatabaseModel one(nullptr);
+        SymbolDatabaseModel two(nullptr);
+        one.setDatabasePath(file);
+        two.setDatabasePath(file);
+        EXPECT_FALSE(one.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+        one.setDatabasePath(path("missing.db"));
+        EXPECT_TRUE(one.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+    }
+    EXPECT_TRUE(QSqlDatabase::connectionNames().isEmpty());
+    EXPECT_FALSE(QFile::exists(path("missing.db")));
+}

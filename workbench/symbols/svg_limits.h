@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// How much of an SVG document is taken: generous for any drawing that stands on a label,
+/// small enough that no document keeps the program busy or eats its memory.
+namespace workbench::symbols::limits {
+
+/// Bytes of one document.
+inline constexpr qsizetype DocumentBytes = 16 * 1024 * 1024;
+/// Elements of one document.
+inline constexpr int Elements = 200'000;
+/// Nesting depth of elements, and of references from element to element.
+inline constexpr int Depth = 128;
+/// Elements drawn once every reference is followed.
+inline constexpr qint64 DrawnElements = 1'000'000;
+/// Width or height of an embedded picture, in pixels.
+inline constexpr int ImageSide = 10'000;
+/// Pixels of one embedded picture.
+inline constexpr qint64 ImagePixels = 25'000'000;
+/// Pixels of all embedded pictures of a document.
+inline constexpr qint64 AllImagePixels = 100'000'000;
+/// Greatest coordinate of a drawing, in its own units.
+inline constexpr double Coordinate = 1e9;
+/// Greatest font size, in the drawing's own units.
+inline constexpr double FontSize = 10'000.0;
+/// Dashes that the outlines of one drawing may have all together.
+inline constexpr double Dashes = 5e7;
+/// Width or height of a symbol, in points.
+inline constexpr double SymbolSide = 100'000.0;
+
+} // namespace workbench::symbols::limits

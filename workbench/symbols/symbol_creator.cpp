@@ -1,0 +1,38 @@
+#include "host/services/symbol_creator.h"
+
+#include "workbench/symbols/symbol_data.h"
+
+class SymbolCreator::Private
+{
+public:
+    QByteArray svg;
+    QByteArray symbol;
+};
+
+// The conversion asks the user nothing, so there is nothing for a parent to stand behind.
+SymbolCreator::SymbolCreator(QWidget*)
+    : d(std::make_unique<Private>())
+{}
+
+SymbolCreator::~SymbolCreator() = default;
+
+void SymbolCreator::loadImportedSvg(const QByteArray& svg)
+{
+    d->svg = svg;
+    // A document that cannot be converted must not come out as the one before it.
+    d->symbol.clear();
+}
+
+bool SymbolCreator::convertSvgToSymbol(const QRectF& target)
+{
+    const std::optional<QByteArray> symbol =
+        workbench::symbols::makeSymbolData(d->svg, target.size());
+    if (symbol)
+        d->symbol = *symbol;
+    return symbol.has_value();
+}
+
+QByteArray SymbolCreator::getSymbolData()
+{
+    return d->symbol;
+}
