@@ -34,6 +34,8 @@ struct HostCanvas;
 class LegacyTavrel : public QObject
 {
     Q_OBJECT
+    // So that the signal's argument is known to who listens by name.
+    Q_MOC_INCLUDE(<QWidget>)
 
 public:
     /// Both belong to the host and must outlive the reader.

@@ -2,6 +2,7 @@
 
 #include "host/class_factory.h"
 #include "host/datasource_controller.h"
+#include "host/items/item.h"
 #include "host/kest_types.h"
 #include "host/tal_canvas_model.h"
 #include "host/tal_datasource.h"

@@ -1,0 +1,235 @@
+// Files that end anywhere or claim anything: nothing crashes, hangs or takes memory, and
+// what was read before is kept.
+
+#include "tavrel/bounds.h"
+#include "tests/tavrel/reader_fixture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <sys/resource.h>
+
+using namespace tavrel_test;
+
+namespace {
+
+// The sanitizers' own memory is no measure of ours.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool MemoryIsMeasured = false;
+#else
+constexpr bool MemoryIsMeasured = true;
+#endif
+
+void expectModestMemory()
+{
+    rusage usage{};
+    ASSERT_EQ(getrusage(RUSAGE_SELF, &usage), 0);
+    if (MemoryIsMeasured) {
+        EXPECT_LT(usage.ru_maxrss, 256L * 1024) << "peak in kilobytes";
+    }
+}
+
+class Hostile : public ReaderTest
+{};
+
+class CutFile : public ReaderTest, public testing::WithParamInterface<quint32>
+{};
+
+TEST_P(CutFile, KeepsWhatStandsBeforeTheCut)
+{
+    LabelFile label(GetParam(), {QStringLiteral("C:\\data\\list.csv")});
+    label.shape(QStringLiteral("Oval"))
+        .text(QStringLiteral("Net  weight"), QStringLiteral("3/2"), QStringLiteral("_SEQUENCE"))
+        .picture(pngOf(5, 4))
+        .barcode(true, 20, QStringLiteral("_DATE"))
+        .barcode(false, 55)
+        .symbol(QStringLiteral("arrow.svg"), "<svg/>")
+        .shape(QStringLiteral("VerticalLine"));
+    services.conversions["<svg/>"] = "8x8";
+    QFile file(written(label.bytes()));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    for (qsizetype size = label.bytes().size(); size >= 0; --size) {
+        SCOPED_TRACE(size);
+        ASSERT_TRUE(file.resize(size));
+        fake.canvas.clear();
+        fake.calls.clear();
+        const bool imported = reader.importLabelFromFile(path);
+        const auto whole =
+            std::size_t(std::count_if(label.recordEnds().begin(), label.recordEnds().end(),
+                                      [size](qsizetype end) { return end <= size; }));
+        EXPECT_GE(fake.canvas.itemCount(), whole);
+        EXPECT_LE(fake.canvas.itemCount(), whole + 1);
+        EXPECT_EQ(imported, fake.calls.with("completeCanvasLoading").size() == 1);
+        EXPECT_EQ(imported, fake.canvas.itemCount() > 0);
+        EXPECT_EQ(fake.calls.itemsAlive, int(fake.canvas.itemCount()));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    expectModestMemory();
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, CutFile,
+                         testing::Values(2000016U, 2000017U, 2000018U, 2000019U, 2000020U, 2000021U,
+                                         2000022U, 2000023U, 2000024U));
+
+TEST_F(Hostile, CutRecordIsBuiltFromZeros)
+{
+    LabelFile label;
+    label.typeCode(0x10002); // a shape, and not one byte of it
+    EXPECT_TRUE(import(label));
+    EXPECT_EQ(fake.calls.with("factory create"),
+              QStringList(QStringLiteral("factory create \"1002a\"")));
+    EXPECT_EQ(fake.calls.with("setItemSize"),
+              QStringList(QStringLiteral("item1 setItemSize 72x72")));
+    EXPECT_EQ(fake.canvas.item(0)->pos(), QPointF(0.0, 0.0));
+}
+
+TEST_F(Hostile, HeaderAloneIsAPageOfZeros)
+{
+    EXPECT_FALSE(import(hex("00000000 001E8498")));
+    EXPECT_EQ(fake.calls.with("importCanvasParameters"),
+              QStringList(QStringLiteral("canvas importCanvasParameters 0 0 no yes")));
+    EXPECT_TRUE(services.boxes.isEmpty());
+}
+
+TEST_F(Hostile, HalfATypeCodeIsTheCodeZero)
+{
+    EXPECT_TRUE(import(LabelFile().shape({}).raw(hex("0001"))));
+    EXPECT_EQ(errors(), QStringList(QStringLiteral("Invalid type: 0")));
+    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+}
+
+TEST_F(Hostile, LengthsBeyondTheEndGiveEmptyValues)
+{
+    for (const char* length : {"80000000", "7FFFFFFE", "FFFFFFFE", "00FFFFFE"}) {
+        SCOPED_TRACE(length);
+        fake.calls.clear();
+        const QByteArray plain(37, '\0'); // lock, position, layer, rotation, empty width
+        EXPECT_TRUE(import(LabelFile()
+                               .shape({})
+                               .typeCode(0x10000)
+                               .raw(plain)
+                               .raw(hex(length))
+                               .raw(QByteArray(1000, 'x'))));
+        EXPECT_EQ(fake.calls.with("importTextProperties").size(), 1);
+        EXPECT_EQ(fake.calls.with("importTextProperties \"\"").size(), 1);
+    }
+    expectModestMemory();
+}
+
+TEST_F(Hostile, SvgBeyondTheEndIsNoSvg)
+{
+    LabelFile label(2000024);
+    label.symbol(QStringLiteral("arrow.svg"));
+    QByteArray bytes = label.bytes();
+    bytes.chop(4);
+    EXPECT_TRUE(import(bytes + hex("80000000 3C"))) << "the name is looked up instead";
+    EXPECT_EQ(services.creatorsMade, 0);
+}
+
+TEST_F(Hostile, DatabaseCountOfTwoBillionStopsAtTheEnd)
+{
+    LabelFile label;
+    QByteArray bytes = label.bytes();
+    bytes.chop(4);
+    EXPECT_FALSE(import(bytes + hex("7FFFFFFF") + QByteArray(100'000, '\0')));
+    EXPECT_FALSE(import(bytes + hex("80000000")));
+    EXPECT_FALSE(import(bytes + hex("FFFFFFFF")));
+    EXPECT_TRUE(errors().isEmpty());
+}
+
+// A PNG that claims 60,000 by 60,000 pixels.
+const QByteArray HugePng = hex("89504E470D0A1A0A"
+                               "0000000D 49484452 0000EA60 0000EA60 0802000000 0FB0E215"
+                               "0000000F 49444154 78DA63F8CFC0C0F09F010007FF01FFB80435E0"
+                               "00000000 49454E44 AE426082");
+
+TEST_F(Hostile, HugePictureIsLeftEmptyAndReadingGoesOn)
+{
+    EXPECT_TRUE(import(LabelFile().picture(HugePng).shape(QStringLiteral("Oval"))));
+    EXPECT_EQ(fake.canvas.itemCount(), 2U);
+    EXPECT_EQ(errors().size(), 1);
+    EXPECT_EQ(fake.calls.with("pixmapImportActions"),
+              QStringList(QStringLiteral("item1 pixmapImportActions 0x0")));
+    expectModestMemory();
+}
+
+TEST_F(Hostile, HugePreviewIsNotDecoded)
+{
+    const QByteArray label = LabelFile().shape({}).bytes();
+    const qsizetype rest = 12 + pngOf(3, 2).size();
+    EXPECT_TRUE(import(label.left(12) + HugePng + label.mid(rest)));
+    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_TRUE(errors().isEmpty());
+    expectModestMemory();
+}
+
+TEST_F(Hostile, ManyLargePicturesShareOneBound)
+{
+    const QByteArray png = pngOf(4000, 4000);
+    LabelFile label;
+    for (int i = 0; i < 5; ++i) {
+        label.picture(png);
+    }
+    EXPECT_TRUE(import(label));
+    EXPECT_EQ(fake.calls.with("pixmapImportActions 4000x4000").size(), 2);
+    EXPECT_EQ(errors().size(), 3);
+    fake.canvas.clear();
+    fake.calls.clear();
+    EXPECT_TRUE(import(LabelFile().picture(png))) << "the next file starts anew";
+    EXPECT_EQ(fake.calls.with("pixmapImportActions 4000x4000").size(), 1);
+    expectModestMemory();
+}
+
+TEST_F(Hostile, ItemsAreCounted)
+{
+    LabelFile label;
+    label.shape({});
+    label.raw(hex("00010005").repeated(tavrel::MaximumItemRecords));
+    EXPECT_TRUE(import(label));
+    EXPECT_EQ(errors().size(), 1);
+}
+
+TEST_F(Hostile, NumbersThatAreNonePassWithoutHarm)
+{
+    for (const double odd : {double(NAN), double(HUGE_VAL), -double(HUGE_VAL), 0.0, -1.0, 1e300}) {
+        SCOPED_TRACE(odd);
+        QByteArray bytes = LabelFile().bytes();
+        const QByteArray usual = Bytes().real(300.0).real(305.0).bytes();
+        ASSERT_EQ(bytes.count(usual), 1);
+        bytes.replace(usual, Bytes().real(odd).real(odd).bytes());
+        const QByteArray items = LabelFile()
+                                     .text(QStringLiteral("x"), QStringLiteral("1/0"))
+                                     .barcode(true, 20)
+                                     .symbol(QStringLiteral("arrow.svg"))
+                                     .picture(pngOf(2, 2), QStringLiteral("0/0"))
+                                     .shape(QStringLiteral("VerticalLine"))
+                                     .bytes()
+                                     .mid(bytes.size());
+        fake.canvas.clear();
+        EXPECT_TRUE(import(bytes + items));
+        EXPECT_EQ(fake.canvas.itemCount(), 5U);
+    }
+}
+
+TEST_F(Hostile, NoiseIsReadToAnEnd)
+{
+    quint32 state = 1;
+    for (int round = 0; round < 300; ++round) {
+        QByteArray bytes = LabelFile(2000016 + quint32(round % 9))
+                               .text(QStringLiteral("a"))
+                               .picture(pngOf(2, 2))
+                               .barcode(true, 20)
+                               .shape({})
+                               .bytes();
+        for (int change = 0; change < 12; ++change) {
+            state = state * 1664525U + 1013904223U;
+            bytes[qsizetype(8 + (state >> 8) % quint32(bytes.size() - 8))] = char(state >> 24);
+        }
+        fake.canvas.clear();
+        (void)import(bytes);
+        EXPECT_EQ(fake.calls.itemsAlive, int(fake.canvas.itemCount()));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    expectModestMemory();
+}
+
+} // namespace

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "tests/tavrel/bytes.h"
+
+#include <QStringList>
+
+namespace tavrel_test {
+
+/// The bytes of a label of one version, record by record. Values that a test does not
+/// choose are plain ones.
+class LabelFile
+{
+public:
+    /// Starts with header, preview, a page of 4 by 2 inches, a counter and no database.
+    explicit LabelFile(quint32 version = 2000024, const QStringList& databases = {});
+
+    LabelFile& shape(const QString& name, double layer = 1.0);
+    LabelFile& picture(const QByteArray& png, const QString& width = QStringLiteral("25/6"),
+                       const QString& height = QStringLiteral("25/6"));
+    /// @param scale the header's width and height; other than "1" gives a note
+    LabelFile& text(const QString& content, const QString& scale = QStringLiteral("1"),
+                    const QString& key = {}, const QString& sourceText = {});
+    LabelFile& barcode(bool linear, qint32 symbology, const QString& key = {});
+    LabelFile& symbol(const QString& name, const QByteArray& svg = {});
+    LabelFile& empty();
+    LabelFile& typeCode(qint32 code);
+    LabelFile& raw(const QByteArray& bytes);
+
+    [[nodiscard]] const QByteArray& bytes() const { return m_bytes.bytes(); }
+    /// The file's size after each item record so far.
+    [[nodiscard]] const QList<qsizetype>& recordEnds() const { return m_recordEnds; }
+
+private:
+    void itemHeader(double layer = 1.0, const QString& width = QStringLiteral("1"),
+                    const QString& height = QStringLiteral("1"));
+    void canvasRecord();
+    void textLook();
+    LabelFile& recordEnd();
+
+    quint32 m_version;
+    Bytes m_bytes;
+    QList<qsizetype> m_recordEnds;
+};
+
+/// A PNG of one colour, size 1 by 1 pixel at least.
+[[nodiscard]] QByteArray pngOf(int width, int height);
+
+} // namespace tavrel_test

@@ -1,0 +1,364 @@
+// Whole files: the order of the records, what is reported and what carries over.
+
+#include "tests/tavrel/reader_fixture.h"
+
+using namespace tavrel_test;
+
+namespace {
+
+const QString LoadError = QStringLiteral("Load Error");
+const QString Warning = QStringLiteral("Warning: Import issues.");
+const QString SymbolErrors = QStringLiteral("Errors reading symbol items.\nPlease update legacy "
+                                            "Tavrel to its latest version and re-save file.");
+const QString BarcodeErrors = QStringLiteral("Unsupported barcode symbols.");
+const QString NotConnected = QStringLiteral("Datasource not connected.");
+const QString Oval = QStringLiteral("Oval");
+
+class Reader : public ReaderTest
+{};
+
+// The file
+
+TEST_F(Reader, FileThatCannotBeOpenedIsRefusedSilently)
+{
+    EXPECT_FALSE(reader.importLabelFromFile(folder.filePath(QStringLiteral("none.cnv"))));
+    EXPECT_FALSE(reader.importLabelFromFile(folder.path())) << "a folder";
+    EXPECT_FALSE(reader.importLabelFromFile(QString()));
+    EXPECT_TRUE(log.records().isEmpty());
+    EXPECT_TRUE(fake.calls.lines().isEmpty());
+    EXPECT_TRUE(services.boxes.isEmpty());
+}
+
+TEST_F(Reader, DeviceThatNeverEndsIsRefused)
+{
+    EXPECT_FALSE(reader.importLabelFromFile(QStringLiteral("/dev/zero")));
+    EXPECT_EQ(errors().size(), 1);
+    EXPECT_TRUE(fake.calls.lines().isEmpty());
+}
+
+TEST_F(Reader, FileThatIsTooLargeIsRefused)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(64 * 1024 * 1024 + 1)); // a hole, which takes no room
+    EXPECT_FALSE(reader.importLabelFromFile(path));
+    EXPECT_EQ(errors().size(), 1);
+    EXPECT_TRUE(fake.calls.lines().isEmpty());
+}
+
+TEST_F(Reader, OldVersionIsRefusedWithALogLine)
+{
+    EXPECT_FALSE(import(hex("00000000 001E848F"))); // 2000015
+    ASSERT_EQ(log.records().size(), 1);
+    const CapturedLog::Record& record = log.records().first();
+    EXPECT_EQ(record.level, Logger::Error);
+    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel.cpp"));
+    EXPECT_EQ(record.function,
+              QStringLiteral("bool LegacyTavrel::importLabelFromFile(const QString&)"));
+    EXPECT_EQ(record.message,
+              QStringLiteral("Invalid canvas file version (2000015 != 2000024) in ") + path);
+    EXPECT_TRUE(fake.calls.lines().isEmpty()) << "the canvas is not touched";
+    EXPECT_TRUE(services.boxes.isEmpty());
+}
+
+TEST_F(Reader, PathIsLoggedAsGiven)
+{
+    path = folder.filePath(QStringLiteral("100%1 %s.cnv"));
+    EXPECT_FALSE(import(QByteArray()));
+    EXPECT_EQ(errors(),
+              QStringList(QStringLiteral("Invalid canvas file version (0 != 2000024) in ") + path));
+}
+
+class EveryVersion : public ReaderTest, public testing::WithParamInterface<quint32>
+{
+protected:
+    // The same label in every version: one item of each kind.
+    static LabelFile label(quint32 version)
+    {
+        LabelFile file(version);
+        file.shape(Oval)
+            .shape(QStringLiteral("VerticalLine"))
+            .text(QStringLiteral("Asset"), QStringLiteral("1"), QStringLiteral("_SEQUENCE"))
+            .picture(pngOf(4, 3))
+            .barcode(true, 20)
+            .barcode(false, 55)
+            .symbol(QStringLiteral("arrow.svg"))
+            .empty()
+            .shape(QStringLiteral("HorizontalLine"));
+        return file;
+    }
+};
+
+TEST_P(EveryVersion, IsReadToTheLastItem)
+{
+    EXPECT_TRUE(import(label(GetParam())));
+    EXPECT_TRUE(errors().isEmpty());
+    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_EQ(
+        fake.calls.with("factory create"),
+        (QStringList{
+            QStringLiteral("factory create \"1002c\""), QStringLiteral("factory create \"1001f\""),
+            QStringLiteral("factory create \"10015\""), QStringLiteral("factory create \"1000c\""),
+            QStringLiteral("factory create \"1001d\""), QStringLiteral("factory create \"1001d\""),
+            QStringLiteral("factory create \"1000d\""),
+            QStringLiteral("factory create \"1001f\"")}));
+    EXPECT_EQ(fake.canvas.itemCount(), 8U);
+    EXPECT_EQ(fake.calls.with("canvas importCanvasParameters"),
+              QStringList(QStringLiteral("canvas importCanvasParameters 288 144 yes yes")));
+    EXPECT_EQ(fake.calls.with("\"Prefix\""),
+              QStringList(QStringLiteral("datasource1 setDatasourceProperty \"Prefix\" \"No\"")));
+    EXPECT_EQ(fake.calls.lines().last(), QStringLiteral("canvas completeCanvasLoading"));
+}
+
+TEST_P(EveryVersion, PositionsAreInDotsAtFirstAndThenInInches)
+{
+    EXPECT_TRUE(import(label(GetParam())));
+    const QPointF expected = GetParam() <= 2000016 ? QPointF(1.0 / 300.0 * 72.0, 0.5 / 305.0 * 72.0)
+                                                   : QPointF(72.0, 36.0);
+    EXPECT_EQ(fake.canvas.item(0)->pos(), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Versions, EveryVersion,
+                         testing::Values(2000016U, 2000017U, 2000018U, 2000019U, 2000020U, 2000021U,
+                                         2000022U, 2000023U, 2000024U, 2000025U, 4294967295U));
+
+TEST_F(Reader, PageIsSetBeforeTheColoursAndTheItems)
+{
+    EXPECT_TRUE(import(LabelFile().shape(Oval)));
+    EXPECT_EQ(fake.calls.lines().mid(0, 4),
+              (QStringList{QStringLiteral("canvas importCanvasParameters 288 144 yes yes"),
+                           QStringLiteral("canvas setCanvasBackgroundColor #ffffffff"),
+                           QStringLiteral("canvas setCanvasDefaultPenColor #ff000000"),
+                           QStringLiteral("factory create \"1002c\"")}));
+}
+
+TEST_F(Reader, PictureAndSymbolAreScaledByTheResolutionOfTheFile)
+{
+    // 25/6 inches are 300 points, one for each dot of the printer's width.
+    EXPECT_TRUE(import(LabelFile(2000023).picture(pngOf(40, 61))));
+    EXPECT_EQ(fake.calls.with("item1 setItemSize"),
+              QStringList(QStringLiteral("item1 setItemSize 40x60")));
+}
+
+TEST_F(Reader, LaterItemsOfALayerStandInFront)
+{
+    EXPECT_TRUE(import(LabelFile().shape(Oval, 1.0).shape(Oval, 1.0).shape(Oval, 2.0)));
+    const double first = fake.canvas.item(0)->zValue();
+    EXPECT_EQ(fake.canvas.item(1)->zValue(), first + 1.0);
+    EXPECT_EQ(fake.canvas.item(2)->zValue(), first + 1002.0);
+    EXPECT_TRUE(import(LabelFile().shape(Oval, 1.0)));
+    EXPECT_EQ(fake.canvas.item(3)->zValue(), first + 3.0) << "the number is never reset";
+}
+
+TEST_F(Reader, EveryHeaderThatIsReadTakesANumber)
+{
+    EXPECT_TRUE(import(LabelFile()
+                           .shape(Oval)
+                           .barcode(true, 1)
+                           .symbol(QStringLiteral("unknown"))
+                           .empty()
+                           .shape(Oval)));
+    EXPECT_EQ(fake.canvas.item(1)->zValue(), fake.canvas.item(0)->zValue() + 3.0);
+}
+
+// What counts as a success, and what is reported
+
+TEST_F(Reader, LabelWithoutItemsFails)
+{
+    EXPECT_FALSE(import(LabelFile()));
+    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_TRUE(fake.calls.with("completeCanvasLoading").isEmpty());
+    EXPECT_TRUE(errors().isEmpty());
+}
+
+TEST_F(Reader, LabelWithoutItemsTellsOfItsDatabaseAllTheSame)
+{
+    EXPECT_FALSE(import(LabelFile(2000024, {QStringLiteral("C:\\data\\list.csv")})));
+    ASSERT_EQ(services.boxes.size(), 1);
+    EXPECT_EQ(services.boxes.first().title, Warning);
+    EXPECT_EQ(boxText(), NotConnected);
+}
+
+TEST_F(Reader, EmptyRecordsAreNoItems)
+{
+    EXPECT_FALSE(import(LabelFile().empty().empty()));
+    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_TRUE(import(LabelFile().empty().shape(Oval).empty()));
+}
+
+TEST_F(Reader, UnknownCodeAtFirstIsALoadError)
+{
+    EXPECT_FALSE(import(LabelFile(2000024, {QStringLiteral("/list.csv")}).typeCode(65543)));
+    ASSERT_EQ(log.records().size(), 1);
+    const CapturedLog::Record& record = log.records().first();
+    EXPECT_EQ(record.level, Logger::Error);
+    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel.cpp"));
+    EXPECT_EQ(record.function, QStringLiteral("bool LegacyTavrel::importCanvasAndItems("
+                                              "QDataStream&, quint32, bool)"));
+    EXPECT_EQ(record.message, QStringLiteral("Invalid type: 65543"));
+    ASSERT_EQ(services.boxes.size(), 1);
+    EXPECT_EQ(services.boxes.first().title, LoadError);
+    EXPECT_EQ(boxText(), QStringLiteral("Errors reading items.")) << "and nothing else";
+    EXPECT_TRUE(fake.calls.with("completeCanvasLoading").isEmpty());
+}
+
+TEST_F(Reader, UnknownCodeAfterFailuresAloneIsALoadErrorToo)
+{
+    EXPECT_FALSE(import(LabelFile().barcode(true, 1).empty().typeCode(-1).shape(Oval)));
+    EXPECT_EQ(errors(), QStringList(QStringLiteral("Invalid type: -1")));
+    EXPECT_EQ(boxText(), QStringLiteral("Errors reading items."));
+    EXPECT_EQ(fake.canvas.itemCount(), 0U);
+}
+
+TEST_F(Reader, UnknownCodeAfterAnItemEndsTheFile)
+{
+    EXPECT_TRUE(import(LabelFile().shape(Oval).typeCode(65535).shape(Oval)));
+    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_EQ(errors(), QStringList(QStringLiteral("Invalid type: 65535")));
+    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_EQ(fake.calls.with("completeCanvasLoading").size(), 1);
+}
+
+TEST_F(Reader, UnknownCodeAfterAnItemStillTellsTheIssues)
+{
+    EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 1).typeCode(65535)));
+    EXPECT_EQ(boxText(), BarcodeErrors);
+}
+
+TEST_F(Reader, FailuresAreSkippedAndToldTogether)
+{
+    EXPECT_TRUE(import(LabelFile()
+                           .barcode(true, 1)
+                           .symbol(QStringLiteral("unknown"))
+                           .barcode(false, 20)
+                           .shape(Oval)));
+    EXPECT_EQ(boxText(), SymbolErrors + QLatin1Char('\n') + BarcodeErrors);
+    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+}
+
+TEST_F(Reader, FailuresAloneAreNoSuccess)
+{
+    EXPECT_FALSE(import(LabelFile().barcode(true, 1).symbol(QStringLiteral("unknown"))));
+    EXPECT_EQ(services.boxes.first().title, Warning);
+    EXPECT_EQ(boxText(), SymbolErrors + QLatin1Char('\n') + BarcodeErrors);
+}
+
+TEST_F(Reader, NotesOfStretchedTextsAreListed)
+{
+    EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
+                           .text(QStringLiteral("Net  weight"), QStringLiteral("2"))
+                           .text(QStringLiteral("plain"))
+                           .text(QStringLiteral("Lot"), QStringLiteral("1/2"))));
+    EXPECT_EQ(boxText(), QStringLiteral("\"Net weight\":\n\tOriginal font size: 12.\n"
+                                        "\"Lot\":\n\tOriginal font size: 12.\n") +
+                             NotConnected);
+}
+
+TEST_F(Reader, TextBindsItsKey)
+{
+    EXPECT_TRUE(import(LabelFile().text(QStringLiteral("x"), QStringLiteral("1"),
+                                        QStringLiteral("_SPECIAL"), QStringLiteral("%_TIME%"))));
+    EXPECT_EQ(fake.calls.with("createDatasource").size(), 1);
+    EXPECT_EQ(fake.calls.with("hh:mm:ss").size(), 1);
+}
+
+TEST_F(Reader, OlderTextHasNoTextToSearchForAKey)
+{
+    EXPECT_TRUE(import(LabelFile(2000021).text(QStringLiteral("%_TIME%"), QStringLiteral("1"),
+                                               QStringLiteral("_SPECIAL"))));
+    EXPECT_TRUE(fake.calls.with("createDatasource").isEmpty());
+}
+
+TEST_F(Reader, DatabaseKeyIsReadOver)
+{
+    EXPECT_TRUE(import(
+        LabelFile().text(QStringLiteral("x"), QStringLiteral("1"), QStringLiteral("Record"))));
+    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+}
+
+// Symbols
+
+TEST_F(Reader, EmbeddedSymbolNeverAsksTheDatabases)
+{
+    services.conversions["<svg/>"] = "8x8";
+    EXPECT_TRUE(import(LabelFile().symbol(QStringLiteral("arrow.svg"), "<svg/>")));
+    EXPECT_TRUE(services.lookUps.isEmpty());
+    EXPECT_EQ(fake.calls.with("loadItemFromData"),
+              QStringList(QStringLiteral("item1 loadItemFromData \"8x8\"")));
+}
+
+TEST_F(Reader, SymbolWithoutDataIsLookedUp)
+{
+    EXPECT_TRUE(import(LabelFile(2000024).symbol(QStringLiteral("/old/arrow.svg"))));
+    EXPECT_EQ(services.lookUps, QStringList(QStringLiteral("symbols.db:arrow.svg")));
+    EXPECT_EQ(services.creatorsMade, 0);
+}
+
+TEST_F(Reader, SymbolThatDrawsNothingIsAnError)
+{
+    services.conversions["<svg/>"] = "0x8";
+    EXPECT_FALSE(import(LabelFile().symbol(QStringLiteral("a"), "<svg/>")));
+    EXPECT_EQ(boxText(), SymbolErrors);
+    EXPECT_EQ(fake.calls.itemsAlive, 0);
+}
+
+TEST_F(Reader, SymbolThatCannotBeConvertedIsAnError)
+{
+    EXPECT_FALSE(import(LabelFile().symbol(QStringLiteral("arrow.svg"), "no svg")));
+    EXPECT_EQ(boxText(), SymbolErrors);
+    EXPECT_TRUE(fake.calls.with("factory create").isEmpty());
+}
+
+// A host that fails
+
+TEST_F(Reader, ItemThatTheHostCannotMakeIsLeftOutAndLogged)
+{
+    fake.canvas.factory.makesNothingOf = {0x1002C, 0x1000C, 0x10015, 0x1001D, 0x1000D};
+    EXPECT_TRUE(import(LabelFile()
+                           .shape(Oval)
+                           .picture(pngOf(2, 2))
+                           .text(QStringLiteral("x"), QStringLiteral("2"))
+                           .barcode(true, 20)
+                           .symbol(QStringLiteral("arrow.svg"))
+                           .shape(QStringLiteral("Square"))));
+    EXPECT_EQ(errors().size(), 5);
+    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_EQ(boxText(), SymbolErrors);
+}
+
+// One reader, many files
+
+TEST_F(Reader, FilesInTurnDoNotMixEvenWithAFailureBetween)
+{
+    EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
+                           .text(QStringLiteral("a"), QStringLiteral("2"))
+                           .barcode(true, 1)));
+    const QString first = services.boxes.first().text;
+    EXPECT_FALSE(import(hex("00000000 00000001")));
+    EXPECT_FALSE(import(LabelFile(2000018).typeCode(1)));
+    services.boxes.clear();
+    fake.calls.clear();
+
+    EXPECT_TRUE(import(LabelFile(2000016).shape(Oval)));
+    EXPECT_TRUE(services.boxes.isEmpty()) << "issues are those of one file";
+    EXPECT_EQ(fake.calls.with("completeCanvasLoading").size(), 1);
+
+    EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
+                           .text(QStringLiteral("a"), QStringLiteral("2"))
+                           .barcode(true, 1)));
+    EXPECT_EQ(services.boxes.last().text, first);
+}
+
+TEST_F(Reader, ServicesAreMadeOnceForAllFiles)
+{
+    services.conversions["<svg/>"] = "8x8";
+    const LabelFile label =
+        LabelFile().symbol(QStringLiteral("a"), "<svg/>").symbol(QStringLiteral("unknown"));
+    EXPECT_TRUE(import(label));
+    EXPECT_TRUE(import(label));
+    EXPECT_EQ(services.creatorsMade, 1);
+    EXPECT_EQ(services.databasePaths.size(), 2);
+}
+
+} // namespace
