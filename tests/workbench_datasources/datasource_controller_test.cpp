@@ -1,0 +1,91 @@
+#include "workbench/datasources/datasource_controller.h"
+
+#include <gtest/gtest.h>
+
+using Controller = workbench::datasources::DatasourceController;
+using workbench::datasources::SourceValues;
+
+namespace {
+
+const QString Sequence = QStringLiteral("SequenceDatasource");
+const QString System = QStringLiteral("SystemDatasource");
+const QString TextList = QStringLiteral("TextListDatasource");
+
+/// Creates and fills a source in the way of an importer.
+int create(::DatasourceController& controller, const QString& kind, const QString& property,
+           const QVariant& value)
+{
+    const int id = controller.createDatasource(kind);
+    TalDatasource* source = controller.getDatasource(id);
+    EXPECT_NE(source, nullptr);
+    source->setDatasourceProperty(property, value);
+    source->setSelectedFields(source->fields());
+    return id;
+}
+
+} // namespace
+
+TEST(DatasourceController, MakesEveryKindAnewEachTime)
+{
+    Controller controller;
+    for (const QString& kind : {Sequence, System, TextList}) {
+        const int one = controller.createDatasource(kind);
+        const int other = controller.createDatasource(kind);
+        EXPECT_NE(one, other);
+        ASSERT_NE(controller.getDatasource(one), nullptr);
+        EXPECT_NE(controller.getDatasource(one), controller.getDatasource(other));
+        EXPECT_EQ(controller.source(one)->kind(), kind);
+        EXPECT_FALSE(controller.source(one)->fields().isEmpty());
+    }
+}
+
+TEST(DatasourceController, KnowsNoOtherKinds)
+{
+    Controller controller;
+    EXPECT_EQ(controller.createDatasource(QStringLiteral("sequencedatasource")),
+              Controller::NoSource);
+    EXPECT_EQ(controller.getDatasource(Controller::NoSource), nullptr);
+    EXPECT_EQ(controller.getDatasource(0), nullptr);
+    EXPECT_FALSE(controller.recordText(7, 0));
+    EXPECT_TRUE(controller.ids().isEmpty());
+}
+
+TEST(DatasourceController, HasAsManyRecordsAsItsLongestSource)
+{
+    Controller controller;
+    EXPECT_EQ(controller.recordCount(), 1);
+    const int list = create(controller, TextList, QStringLiteral("TextList"),
+                            QStringList{QStringLiteral("a"), QStringLiteral("b")});
+    const int numbers = create(controller, Sequence, QStringLiteral("End"), 4);
+    EXPECT_EQ(controller.recordCount(), 5);
+    EXPECT_EQ(controller.recordText(numbers, 4), QStringLiteral("4"));
+    EXPECT_EQ(controller.recordText(list, 4), QStringLiteral("a"));
+}
+
+TEST(DatasourceController, GivesBackWhatItHolds)
+{
+    Controller controller;
+    create(controller, Sequence, QStringLiteral("Prefix"), QStringLiteral("No. "));
+    create(controller, System, QStringLiteral("DateFormat"), QStringLiteral("yyyy"));
+    create(controller, TextList, QStringLiteral("TextList"), QStringList{QString(), QString()});
+    const QList<SourceValues> values = controller.values();
+    ASSERT_EQ(values.size(), 3);
+
+    Controller copy;
+    ASSERT_TRUE(copy.setValues(values));
+    EXPECT_EQ(copy.values(), values);
+    EXPECT_EQ(copy.ids(), controller.ids());
+    EXPECT_FALSE(copy.ids().contains(copy.createDatasource(System)) && copy.ids().size() == 3)
+        << "an identifier is not used again";
+}
+
+TEST(DatasourceController, RefusesValuesThatDoNotFitTogether)
+{
+    Controller controller;
+    ASSERT_TRUE(controller.setValues({{5, Sequence, {}, {}}}));
+    EXPECT_FALSE(controller.setValues({{0, Sequence, {}, {}}}));
+    EXPECT_FALSE(controller.setValues({{1, QStringLiteral("Unknown"), {}, {}}}));
+    EXPECT_FALSE(controller.setValues({{1, Sequence, {}, {}}, {1, System, {}, {}}}));
+    EXPECT_EQ(controller.ids(), QList<int>{5}) << "a refusal changes nothing";
+    EXPECT_EQ(controller.createDatasource(System), 6);
+}

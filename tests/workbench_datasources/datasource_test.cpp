@@ -1,0 +1,180 @@
+#include "workbench/datasources/sequence_source.h"
+#include "workbench/datasources/system_source.h"
+#include "workbench/datasources/text_list_source.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace workbench::datasources;
+
+namespace {
+
+constexpr int Lowest = std::numeric_limits<int>::min();
+constexpr int Highest = std::numeric_limits<int>::max();
+
+SequenceSource sequence(int start, int end, int step)
+{
+    SequenceSource source;
+    source.setDatasourceProperty(QStringLiteral("Start"), start);
+    source.setDatasourceProperty(QStringLiteral("End"), end);
+    source.setDatasourceProperty(QStringLiteral("Step"), step);
+    return source;
+}
+
+SystemSource systemSource(const QString& date, const QString& time)
+{
+    const QDateTime moment(QDate(2024, 3, 5), QTime(14, 7, 9), Qt::UTC);
+    SystemSource source([moment] { return moment; }, QLocale::c());
+    source.setDatasourceProperty(QStringLiteral("DateFormat"), date);
+    source.setDatasourceProperty(QStringLiteral("TimeFormat"), time);
+    return source;
+}
+
+} // namespace
+
+TEST(SequenceSource, CountsFromStartToEnd)
+{
+    const struct
+    {
+        int start, end, step;
+        qint64 count;
+        const char* first;
+        const char* last;
+    } rows[] = {
+        {1, 10, 1, 10, "1", "10"},
+        {1, 10, 4, 3, "1", "9"},
+        {10, 1, -3, 4, "10", "1"},
+        {10, 1, 3, 4, "10", "1"},
+        {1, 10, -1, 10, "1", "10"},
+        {5, 5, 1, 1, "5", "5"},
+        {1, 10, 0, 1, "1", "1"},
+        {-2, 2, 2, 3, "-2", "2"},
+        {1, 3, 100, 1, "1", "1"},
+        {Lowest, Highest, 1, qint64{1} << 32, "-2147483648", "2147483647"},
+        {Highest, Lowest, Lowest, 2, "2147483647", "-1"},
+        {0, 0, 1, 1, "0", "0"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.start << ".." << row.end << " by " << row.step);
+        const SequenceSource source = sequence(row.start, row.end, row.step);
+        EXPECT_EQ(source.recordCount(), row.count);
+        EXPECT_EQ(source.value(0), QString::fromUtf8(row.first));
+        EXPECT_EQ(source.value(row.count - 1), QString::fromUtf8(row.last));
+        EXPECT_EQ(source.value(row.count), QString::fromUtf8(row.first)) << "begins again";
+    }
+}
+
+TEST(SequenceSource, IsOneZeroUntilToldOtherwise)
+{
+    const SequenceSource source;
+    EXPECT_EQ(source.recordCount(), 1);
+    EXPECT_EQ(source.value(0), QStringLiteral("0"));
+}
+
+TEST(SequenceSource, PutsTheNumberBetweenItsTextsAndFillsItUp)
+{
+    const struct
+    {
+        int start, zeroPad;
+        const char* shown;
+    } rows[] = {{7, 4, "<0007>"},      {7, 0, "<7>"},      {7, -3, "<7>"},
+                {12345, 3, "<12345>"}, {-7, 4, "<-0007>"}, {Lowest, 12, "<-002147483648>"}};
+    for (const auto& row : rows) {
+        SequenceSource source = sequence(row.start, row.start, 1);
+        source.setDatasourceProperty(QStringLiteral("Prefix"), QStringLiteral("<"));
+        source.setDatasourceProperty(QStringLiteral("Suffix"), QStringLiteral(">"));
+        source.setDatasourceProperty(QStringLiteral("ZeroPad"), row.zeroPad);
+        EXPECT_EQ(source.value(0), QString::fromUtf8(row.shown));
+    }
+    SequenceSource monstrous = sequence(1, 1, 1);
+    monstrous.setDatasourceProperty(QStringLiteral("ZeroPad"), Highest);
+    EXPECT_EQ(monstrous.value(0)->size(), SequenceSource::MaximumZeroPad);
+}
+
+TEST(SequenceSource, KeepsWhatItCannotTakeAsItWas)
+{
+    SequenceSource source = sequence(3, 5, 1);
+    source.setDatasourceProperty(QStringLiteral("Start"), QStringLiteral("three"));
+    source.setDatasourceProperty(QStringLiteral("start"), 9);
+    source.setDatasourceProperty(QStringLiteral("TextList"), QStringList{QStringLiteral("x")});
+    EXPECT_EQ(source.value(0), QStringLiteral("3"));
+    const QVariantMap expected{
+        {QStringLiteral("Prefix"), QString()}, {QStringLiteral("Suffix"), QString()},
+        {QStringLiteral("Start"), 3},          {QStringLiteral("End"), 5},
+        {QStringLiteral("Step"), 1},           {QStringLiteral("ZeroPad"), 0}};
+    EXPECT_EQ(source.properties(), expected);
+}
+
+TEST(SequenceSource, HasNoRecordBeforeTheFirst)
+{
+    EXPECT_FALSE(sequence(1, 9, 1).value(-1));
+    EXPECT_FALSE(sequence(1, 9, 1).value(std::numeric_limits<qint64>::min()));
+    EXPECT_TRUE(sequence(1, 9, 1).value(std::numeric_limits<qint64>::max()));
+}
+
+TEST(SystemSource, ShowsTheFormatsOfImportedLabels)
+{
+    const struct
+    {
+        const char* date;
+        const char* time;
+        const char* shown;
+    } rows[] = {
+        {"ddd MMM d yyyy", "", "Tue Mar 5 2024"},
+        {"d/MM/yyyy", "", "5/03/2024"},
+        {"MMMM-d-yy", "", "March-5-24"},
+        {"", "hh:mm:ss", "14:07:09"},
+        {"MM-dd-yyyy", "HH:mm:ss", "03-05-2024 14:07:09"},
+        {"MM/dd/yy", "", "03/05/24"},
+        {"", "mm:sshh:mm:ss ap", "07:0902:07:09 pm"},
+        {"", "", ""},
+    };
+    for (const auto& row : rows) {
+        const SystemSource source =
+            systemSource(QString::fromUtf8(row.date), QString::fromUtf8(row.time));
+        EXPECT_EQ(source.value(0), QString::fromUtf8(row.shown));
+        EXPECT_EQ(source.value(17), source.value(0)) << "the same for every label";
+        EXPECT_EQ(source.recordCount(), 1);
+    }
+}
+
+TEST(SystemSource, NamesDaysInTheLocale)
+{
+    const QDateTime moment(QDate(2024, 3, 5), QTime(14, 7, 9), Qt::UTC);
+    SystemSource source([moment] { return moment; }, QLocale(QLocale::German));
+    source.setDatasourceProperty(QStringLiteral("DateFormat"), QStringLiteral("dddd"));
+    EXPECT_EQ(source.value(0), QStringLiteral("Dienstag"));
+}
+
+TEST(SystemSource, ShowsTheWantedFields)
+{
+    SystemSource source = systemSource(QStringLiteral("yyyy"), QStringLiteral("hh"));
+    EXPECT_EQ(source.fields(), QStringList({QStringLiteral("Date"), QStringLiteral("Time")}));
+    EXPECT_EQ(source.value(0, {QStringLiteral("Time")}), QStringLiteral("14"));
+    EXPECT_EQ(source.value(0, {QStringLiteral("Nonsense")}), QStringLiteral("2024 14"));
+    source.setSelectedFields({QStringLiteral("Nonsense"), QStringLiteral("Date")});
+    EXPECT_EQ(source.selectedFields(), QStringList(QStringLiteral("Date")));
+    EXPECT_EQ(source.value(0), QStringLiteral("2024"));
+    EXPECT_EQ(source.value(0, {QStringLiteral("Time")}), QStringLiteral("14"));
+}
+
+TEST(SystemSource, ShowsNothingForAMonstrousFormat)
+{
+    EXPECT_EQ(systemSource(QString(SystemSource::MaximumFormat + 1, u'd'), {}).value(0), QString());
+}
+
+TEST(TextListSource, StepsThroughItsTexts)
+{
+    TextListSource source;
+    EXPECT_EQ(source.recordCount(), 0);
+    EXPECT_FALSE(source.value(0)) << "nothing to show: the item keeps its own text";
+    source.setDatasourceProperty(
+        QStringLiteral("TextList"),
+        QStringList{QStringLiteral("x"), QString(), QStringLiteral("y z")});
+    EXPECT_EQ(source.recordCount(), 3);
+    EXPECT_EQ(source.value(0), QStringLiteral("x"));
+    EXPECT_EQ(source.value(1), QString());
+    EXPECT_EQ(source.value(2), QStringLiteral("y z"));
+    EXPECT_EQ(source.value(3), QStringLiteral("x")) << "begins again";
+}
