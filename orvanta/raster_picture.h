@@ -7,9 +7,9 @@
 /// Decodes embedded raster pictures within bounds.
 namespace orvanta {
 
-/// Most pixels that one picture may have. A label of a square foot at 600 dots to the inch
-/// has 52 million; Qt itself takes no picture beyond 128 MiB.
-inline constexpr qint64 MaximumPicturePixels = qint64(64) * 1024 * 1024;
+/// Most pixels that one picture may have: what Qt decodes in its 128 MiB at four bytes a
+/// pixel. A label of four inches by six at 600 dots to the inch has nine million.
+inline constexpr qint64 MaximumPicturePixels = qint64(32) * 1024 * 1024;
 /// Most pixels of all pictures of a label together: a few bytes of a file can claim
 /// a large picture, and a file has room for thousands of them.
 inline constexpr qint64 MaximumLabelPixels = qint64(128) * 1024 * 1024;

@@ -1,0 +1,166 @@
+#include "tests/orvanta/reader_fixture.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+using DatasourceBuilding = ReaderFixture;
+
+/// What follows from the first call on the controller on.
+QStringList bindingOf(const QStringList& calls)
+{
+    const auto first = std::find_if(calls.begin(), calls.end(), [](const QString& call) {
+        return call.startsWith(QStringLiteral("datasources "));
+    });
+    return calls.mid(std::distance(calls.begin(), first));
+}
+
+} // namespace
+
+TEST_F(DatasourceBuilding, AListBoxStepsThroughItsEntries)
+{
+    readControls("<combo_box><ArrayOfAnyType><a>x</a><b/></ArrayOfAnyType></combo_box>");
+    const QStringList calls = takeCalls();
+    EXPECT_EQ(calls.first(), QStringLiteral("factory create 10015")) << "a scalable text";
+    EXPECT_TRUE(calls.filter(QStringLiteral("setFontPointSize")).isEmpty());
+    EXPECT_TRUE(calls.filter(QStringLiteral("setTextAlignment")).isEmpty());
+    EXPECT_EQ(bindingOf(calls),
+              QStringList({
+                  QStringLiteral("datasources createDatasource 'TextListDatasource'"),
+                  QStringLiteral("datasources getDatasource 1"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'TextList' QStringList [x|]"),
+                  QStringLiteral("item:1 setDatasourceId 1"),
+                  QStringLiteral("datasource:1 fields"),
+                  QStringLiteral("item:1 setDatasourceFields [Value|Other]"),
+                  QStringLiteral("datasource:1 fields"),
+                  QStringLiteral("datasource:1 setSelectedFields [Value|Other]"),
+              }));
+}
+
+TEST_F(DatasourceBuilding, AnEmptyListLeavesTheItemUnbound)
+{
+    readControls("<combo_box/><combo_box><ArrayOfAnyType/></combo_box>"
+                 "<barcode><ArrayOfString/></barcode><swap_text_box><items/></swap_text_box>");
+    EXPECT_EQ(canvas.items.size(), 4U);
+    EXPECT_TRUE(callsOf("datasources").isEmpty());
+}
+
+TEST_F(DatasourceBuilding, AListOfOneBlankTextIsAList)
+{
+    readControls("<combo_box><ArrayOfAnyType><a/></ArrayOfAnyType></combo_box>");
+    EXPECT_EQ(callsOf("datasource:1").first(),
+              QStringLiteral("setDatasourceProperty 'TextList' QStringList []"));
+}
+
+TEST_F(DatasourceBuilding, TextsAndBarcodesBindTheirListsLast)
+{
+    readControls("<transparent_label><items><s>a</s></items></transparent_label>"
+                 "<barcode><ArrayOfString><s>b</s><s>c</s></ArrayOfString></barcode>");
+    const QStringList text = callsOf("item:1");
+    EXPECT_EQ(text.mid(text.size() - 3), QStringList({
+                                             QStringLiteral("setTextAlignment 132"),
+                                             QStringLiteral("setDatasourceId 1"),
+                                             QStringLiteral("setDatasourceFields [Value|Other]"),
+                                         }));
+    const QStringList barcode = callsOf("item:2");
+    EXPECT_EQ(barcode.mid(barcode.size() - 3),
+              QStringList({
+                  QStringLiteral("setBarcodeType 8"),
+                  QStringLiteral("setDatasourceId 2"),
+                  QStringLiteral("setDatasourceFields [Value|Other]"),
+              }));
+    EXPECT_EQ(callsOf("datasource:2").first(),
+              QStringLiteral("setDatasourceProperty 'TextList' QStringList [b|c]"));
+}
+
+TEST_F(DatasourceBuilding, ADateOrTimeIsAlwaysBound)
+{
+    const struct
+    {
+        const char* format;
+        const char* date;
+        const char* time;
+    } rows[] = {
+        {"", "", ""},
+        {"<format>1</format>", "MM-dd-yyyy", ""},
+        {"<format>2</format>", "MM/dd/yy", ""},
+        {"<format>4</format>", "", "HH:mm:ss"},
+        {"<format>3</format>", "MM-dd-yyyy", "HH:mm:ss"},
+        {"<format>abc</format>", "MM-dd-yyyy", "HH:mm:ss"},
+    };
+    int id = 0;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.format);
+        journal::lines().clear();
+        readControls(QByteArray("<date_time_picker>") + row.format + "</date_time_picker>");
+        ++id;
+        EXPECT_EQ(callsOf("factory"), QStringList(QStringLiteral("create 10015")));
+        EXPECT_EQ(callsOf("datasources"),
+                  QStringList({QStringLiteral("createDatasource 'SystemDatasource'"),
+                               QStringLiteral("getDatasource %1").arg(id)}));
+        const QByteArray name = "datasource:" + QByteArray::number(id);
+        EXPECT_EQ(callsOf(name.constData()).mid(0, 2),
+                  QStringList({QStringLiteral("setDatasourceProperty 'DateFormat' QString ") +
+                                   QString::fromLatin1(row.date),
+                               QStringLiteral("setDatasourceProperty 'TimeFormat' QString ") +
+                                   QString::fromLatin1(row.time)}));
+    }
+}
+
+TEST_F(DatasourceBuilding, ACounterIsAlwaysBoundAndMarked)
+{
+    readControls("<numeric_up_down><minimum>1</minimum><maximum>99</maximum>"
+                 "<incrememnt>2</incrememnt><read_only>true</read_only></numeric_up_down>");
+    const QStringList calls = takeCalls();
+    EXPECT_EQ(calls.first(), QStringLiteral("factory create 10015"));
+    EXPECT_EQ(bindingOf(calls),
+              QStringList({
+                  QStringLiteral("datasources createDatasource 'SequenceDatasource'"),
+                  QStringLiteral("datasources getDatasource 1"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'Start' int 1"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'End' int 99"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'Step' int 2"),
+                  QStringLiteral("item:1 setDatasourceId 1"),
+                  QStringLiteral("datasource:1 fields"),
+                  QStringLiteral("item:1 setDatasourceFields [Value|Other]"),
+                  QStringLiteral("datasource:1 fields"),
+                  QStringLiteral("datasource:1 setSelectedFields [Value|Other]"),
+                  QStringLiteral("canvas setReadOnlyStateOnItemsInList true 'item:1'"),
+              }));
+}
+
+TEST_F(DatasourceBuilding, AnEmptyCounterStaysAtZeroAndMayBeEdited)
+{
+    readControls("<numeric_up_down><increment>5</increment></numeric_up_down>");
+    EXPECT_EQ(callsOf("datasource:1").mid(0, 3),
+              QStringList({QStringLiteral("setDatasourceProperty 'Start' int 0"),
+                           QStringLiteral("setDatasourceProperty 'End' int 0"),
+                           QStringLiteral("setDatasourceProperty 'Step' int 1")}));
+    EXPECT_EQ(callsOf("canvas").last(),
+              QStringLiteral("setReadOnlyStateOnItemsInList false 'item:1'"));
+}
+
+TEST_F(DatasourceBuilding, ASourceThatTheHostDoesNotMakeLeavesTheItemUnbound)
+{
+    datasources.refusing = true;
+    readControls("<numeric_up_down/><date_time_picker/>");
+    EXPECT_EQ(canvas.items.size(), 2U);
+    EXPECT_TRUE(callsOf("item:1").filter(QStringLiteral("Datasource")).isEmpty());
+    EXPECT_EQ(callsOf("canvas").filter(QStringLiteral("ReadOnly")).size(), 1);
+    EXPECT_EQ(logText(),
+              QStringLiteral("Left out of the label: a data source of the kind SequenceDatasource, "
+                             "which the host did not make\n"
+                             "Left out of the label: a data source of the kind SystemDatasource, "
+                             "which the host did not make"));
+}
+
+TEST_F(DatasourceBuilding, WithoutAnItemNoSourceIsMade)
+{
+    canvas.factory.refused = {KestTypes::SimpleText};
+    readControls("<numeric_up_down/><date_time_picker/>"
+                 "<combo_box><ArrayOfAnyType><a>x</a></ArrayOfAnyType></combo_box>");
+    EXPECT_TRUE(callsOf("datasources").isEmpty());
+    EXPECT_TRUE(callsOf("canvas").isEmpty());
+    EXPECT_EQ(log.records.size(), 3);
+}

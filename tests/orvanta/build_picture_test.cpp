@@ -1,0 +1,246 @@
+#include "tests/orvanta/reader_fixture.h"
+
+#include <QBuffer>
+#include <QImage>
+
+namespace {
+
+using PictureBuilding = ReaderFixture;
+
+QByteArray pictureBox(const QByteArray& bytes, const QByteArray& children = {})
+{
+    return "<picture_box>" + children + "<image><content>" + bytes.toBase64() +
+           "</content></image></picture_box>";
+}
+
+QByteArray png(int width, int height)
+{
+    QImage image(width, height, QImage::Format_Mono);
+    image.fill(0);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+constexpr char Place[] =
+    "<rotation>90</rotation><flip_horizontally>true</flip_horizontally>"
+    "<flip_vertically>true</flip_vertically>"
+    "<printable_control><fore_color>255</fore_color><back_color>65280</back_color>"
+    "<transparency>false</transparency>"
+    "<bounds><x>300</x><y>240</y><w>400</w><h>100</h></bounds></printable_control>";
+
+} // namespace
+
+TEST_F(PictureBuilding, ARasterPictureIsLoadedImportedAndPlaced)
+{
+    readControls(pictureBox(png(12, 8), Place));
+    EXPECT_EQ(takeCalls(), QStringList({
+                               QStringLiteral("factory create 1000c"),
+                               QStringLiteral("item:1 pixmapImportActions 12 8"),
+                               QStringLiteral("canvas importItem 'item:1'"),
+                               QStringLiteral("item:1 setItemSize 300 75"),
+                               QStringLiteral("item:1 setFlipHorizontal true"),
+                               QStringLiteral("item:1 setFlipVertical true"),
+                               QStringLiteral("item:1 setItemRotation 90"),
+                           }));
+    EXPECT_EQ(canvas.positionOf(0), QPointF(75, 30));
+    EXPECT_EQ(logText(), QString());
+}
+
+TEST_F(PictureBuilding, AByteOrderMarkInFrontOfARasterPictureGoesToo)
+{
+    readControls(pictureBox("\xEF\xBB\xBF" + png(12, 8)));
+    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 12 8"));
+}
+
+TEST_F(PictureBuilding, BytesThatAreNoPictureKeepTheirPlace)
+{
+    readControls(pictureBox("no picture", Place));
+    EXPECT_EQ(callsOf("item:1").mid(0, 2), QStringList({QStringLiteral("pixmapImportActions 0 0"),
+                                                        QStringLiteral("setItemSize 300 75")}));
+    EXPECT_EQ(canvas.items.size(), 1U);
+    EXPECT_EQ(logText(), QString());
+}
+
+TEST_F(PictureBuilding, WithoutBytesThereIsNoItem)
+{
+    readControls("<picture_box/><picture_box><image/></picture_box>"
+                 "<picture_box><image><content/></image></picture_box>"
+                 "<picture_box><image><content>@%@%</content></image></picture_box>");
+    EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(PictureBuilding, AnSvgPictureBecomesASymbol)
+{
+    readControls(pictureBox("\xEF\xBB\xBF<svg d1p1:a='1'/>", Place));
+    EXPECT_EQ(takeCalls(), QStringList({
+                               QStringLiteral("symbolcreator create true"),
+                               QStringLiteral("symbolcreator loadImportedSvg '<svg a='1'/>'"),
+                               QStringLiteral("symbolcreator convertSvgToSymbol true"),
+                               QStringLiteral("factory create 1000d"),
+                               QStringLiteral("item:1 loadItemFromData 'symbol of <svg a='1'/>'"),
+                               QStringLiteral("item:1 getItemSize"),
+                               QStringLiteral("item:1 setForegroundColor #ff0000ff"),
+                               QStringLiteral("item:1 setFillColor #ff00ff00"),
+                               QStringLiteral("canvas importItem 'item:1'"),
+                               QStringLiteral("item:1 setItemSize 300 75"),
+                               QStringLiteral("item:1 setFlipHorizontal true"),
+                               QStringLiteral("item:1 setFlipVertical true"),
+                               QStringLiteral("item:1 setItemRotation 90"),
+                           }));
+    EXPECT_EQ(canvas.positionOf(0), QPointF(75, 30));
+}
+
+TEST_F(PictureBuilding, OnlyTheExactStartMakesASymbol)
+{
+    readControls(pictureBox("<SVG/>") + pictureBox(" <svg/>") + pictureBox("<?xml?><svg/>"));
+    EXPECT_EQ(callsOf("factory"),
+              QStringList({QStringLiteral("create 1000c"), QStringLiteral("create 1000c"),
+                           QStringLiteral("create 1000c")}));
+    EXPECT_TRUE(callsOf("symbolcreator").isEmpty());
+}
+
+TEST_F(PictureBuilding, OneSymbolCreatorServesAllPicturesOfAReader)
+{
+    readControls(pictureBox("<svg/>") + pictureBox("<svg a=''/>"));
+    readControls(pictureBox("<svg/>"));
+    EXPECT_EQ(callsOf("symbolcreator").filter(QStringLiteral("create true")).size(), 1);
+    EXPECT_EQ(canvas.items.size(), 3U);
+    reader.reset();
+    EXPECT_EQ(callsOf("symbolcreator").last(), QStringLiteral("delete"));
+}
+
+TEST_F(PictureBuilding, WithoutSvgThereIsNoSymbolCreator)
+{
+    readControls(pictureBox(png(1, 1)));
+    reader.reset();
+    EXPECT_TRUE(callsOf("symbolcreator").isEmpty());
+}
+
+TEST_F(PictureBuilding, AnSvgThatDoesNotConvertCreatesNothing)
+{
+    fake::svgConverts() = false;
+    readControls(pictureBox("<svg/>"));
+    EXPECT_TRUE(callsOf("factory").isEmpty());
+    EXPECT_TRUE(canvas.items.empty());
+    EXPECT_EQ(logText(), QString());
+}
+
+TEST_F(PictureBuilding, ASymbolWithoutSizeIsDeleted)
+{
+    for (const QSizeF& size :
+         {QSizeF(0, 0), QSizeF(0, 5), QSizeF(5, 0), QSizeF(-1, 5), QSizeF(5, qQNaN())}) {
+        canvas.factory.symbolSize = size;
+        readControls(pictureBox("<svg/>"));
+        EXPECT_TRUE(canvas.items.empty());
+        EXPECT_EQ(fake::livingItems(), 0);
+    }
+    canvas.factory.symbolSize = QSizeF(0.001, 0.001);
+    readControls(pictureBox("<svg/>"));
+    EXPECT_EQ(canvas.items.size(), 1U);
+}
+
+TEST_F(PictureBuilding, PicturesThatTheHostDoesNotMakeAreLeftOut)
+{
+    canvas.factory.refused = {KestTypes::Symbol};
+    canvas.factory.mistaken = {KestTypes::Picture};
+    readControls(pictureBox("<svg/>") + pictureBox(png(1, 1)));
+    EXPECT_TRUE(canvas.items.empty());
+    EXPECT_EQ(fake::livingItems(), 0);
+    EXPECT_EQ(logText(),
+              QStringLiteral("Left out of the label: a symbol, for which the host made no item\n"
+                             "Left out of the label: a picture, for which the host made no item"));
+}
+
+TEST_F(PictureBuilding, APictureThatClaimsToBeHugeIsAFailedLoad)
+{
+    readControls(pictureBox("P6 20000 30000 255 x"));
+    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0 0"));
+    EXPECT_EQ(canvas.items.size(), 1U);
+    EXPECT_EQ(logText(), QStringLiteral("Left out of the label: a picture of 20000 by 30000 pixels "
+                                        "is too large"));
+}
+
+TEST_F(PictureBuilding, AllPicturesOfALabelTogetherAreBoundedAndTheNextLabelStartsAnew)
+{
+    // 25 million pixels each: five fit into 128 million, the sixth does not.
+    const QByteArray large = pictureBox(png(5000, 5000)).repeated(6);
+    const QByteArray label =
+        "<qmtx><controls>" + large + pictureBox(png(2, 2)) + "</controls></qmtx>";
+    const QString whole = QStringLiteral("pixmapImportActions 5000 5000");
+    EXPECT_TRUE(import(label));
+    EXPECT_EQ(callsOf("item:5").first(), whole);
+    EXPECT_EQ(callsOf("item:6").first(), QStringLiteral("pixmapImportActions 0 0"));
+    EXPECT_EQ(callsOf("item:7").first(), QStringLiteral("pixmapImportActions 2 2"));
+    EXPECT_TRUE(import(label));
+    EXPECT_EQ(callsOf("item:8").first(), whole);
+}
+
+TEST_F(PictureBuilding, ADrawingInTheRasterPathIsNotDrawn)
+{
+    readControls(pictureBox("<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
+                            "width='4' height='4'/>"));
+    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0 0"));
+}
+
+TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)
+{
+    EXPECT_TRUE(import("<qmtx><pre_printed_image><content>" + png(3, 2).toBase64() +
+                       "</content></pre_printed_image><controls><transparent_label/></controls>"
+                       "</qmtx>"));
+    const QStringList calls = takeCalls();
+    EXPECT_EQ(calls.mid(0, 12),
+              QStringList({
+                  QStringLiteral("canvas importCanvasParameters 432 288 false false"),
+                  QStringLiteral("canvas canvasDefaultPenColor"),
+                  QStringLiteral("canvas canvasBackgroundColor"),
+                  QStringLiteral("factory create 1000c"),
+                  QStringLiteral("item:1 pixmapImportActions 3 2"),
+                  QStringLiteral("canvas importItem 'item:1'"),
+                  QStringLiteral("item:1 setItemSize 432 288"),
+                  QStringLiteral("item:1 setFlipHorizontal false"),
+                  QStringLiteral("item:1 setFlipVertical false"),
+                  QStringLiteral("item:1 setItemRotation 0"),
+                  QStringLiteral("canvas setUserBackgroundStateOnItemsInList true 'item:1'"),
+                  QStringLiteral("factory create 10016"),
+              }));
+    EXPECT_EQ(canvas.positionOf(0), QPointF(0, 0));
+}
+
+TEST_F(PictureBuilding, AnSvgBackgroundIsDrawnInTheCanvasColours)
+{
+    EXPECT_TRUE(import("<qmtx><printable_control><bounds><w>400</w><h>600</h></bounds>"
+                       "</printable_control><pre_printed_image><content>" +
+                       QByteArray("<svg/>").toBase64() + "</content></pre_printed_image></qmtx>"));
+    EXPECT_EQ(callsOf("item:1"), QStringList({
+                                     QStringLiteral("loadItemFromData 'symbol of <svg/>'"),
+                                     QStringLiteral("getItemSize"),
+                                     QStringLiteral("setForegroundColor #ff405060"),
+                                     QStringLiteral("setFillColor #00000000"),
+                                     QStringLiteral("setItemSize 300 450"),
+                                     QStringLiteral("setFlipHorizontal false"),
+                                     QStringLiteral("setFlipVertical false"),
+                                     QStringLiteral("setItemRotation 0"),
+                                 }));
+}
+
+TEST_F(PictureBuilding, ABackgroundWithoutBytesOrSymbolIsNone)
+{
+    fake::svgConverts() = false;
+    for (const QByteArray& image :
+         {QByteArray(), QByteArray("<content/>"), QByteArray("<content>@@</content>"),
+          QByteArray("<a><content>YWJj</content></a>"),
+          QByteArray("<content/><content>YWJj</content>")}) {
+        SCOPED_TRACE(image.constData());
+        journal::lines().clear();
+        EXPECT_TRUE(import("<qmtx><pre_printed_image>" + image + "</pre_printed_image></qmtx>"));
+        EXPECT_EQ(takeCalls(),
+                  QStringList({QStringLiteral("canvas importCanvasParameters 432 288 false false"),
+                               QStringLiteral("canvas completeCanvasLoading")}));
+    }
+    EXPECT_TRUE(import("<qmtx><pre_printed_image><content>" + QByteArray("<svg/>").toBase64() +
+                       "</content></pre_printed_image></qmtx>"));
+    EXPECT_TRUE(callsOf("canvas").filter(QStringLiteral("setUserBackground")).isEmpty());
+}

@@ -1,0 +1,220 @@
+#include "tests/orvanta/reader_fixture.h"
+
+#include "orvanta/document_limits.h"
+
+#include <QFile>
+#include <QTemporaryFile>
+
+namespace {
+
+using HostileFile = ReaderFixture;
+
+/// A label with something of everything, to be damaged.
+QByteArray wholeLabel()
+{
+    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
+           "<qmtx><printable_control><bounds><x>0</x><y>0</y><w>384</w><h>192</h></bounds>"
+           "</printable_control><pre_printed_image><content>YWJj</content></pre_printed_image>"
+           "<controls><barcode><printable_control><text>123</text></printable_control>"
+           "<ArrayOfString><string>1</string></ArrayOfString></barcode>"
+           "<picture_box><image><content>PHN2Zy8+</content></image></picture_box>"
+           "<date_time_picker><format>2</format></date_time_picker>"
+           "<transparent_shape><sides>6</sides></transparent_shape></controls></qmtx>";
+}
+
+QByteArray textLabel(const QByteArray& doctype, const QByteArray& text)
+{
+    return doctype + "<qmtx><controls><transparent_label><printable_control><text>" + text +
+           "</text></printable_control></transparent_label></controls></qmtx>";
+}
+
+QByteArray repeated(const QByteArray& piece, int count)
+{
+    return piece.repeated(count);
+}
+
+} // namespace
+
+TEST_F(HostileFile, ALabelCutOffAtAnyByteIsRefusedWhole)
+{
+    const QByteArray whole = wholeLabel();
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        log.records.clear();
+        EXPECT_FALSE(import(whole.left(length))) << length;
+        ASSERT_EQ(log.records.size(), 1) << length;
+        EXPECT_TRUE(log.records.first().message.startsWith(QStringLiteral("Error parsing file: ")));
+    }
+    EXPECT_EQ(takeCalls(), QStringList());
+    EXPECT_TRUE(import(whole));
+    EXPECT_EQ(canvas.items.size(), 5U);
+}
+
+TEST_F(HostileFile, AnyByteMayBeWrong)
+{
+    const QByteArray whole = wholeLabel();
+    for (qsizetype place = 0; place < whole.size(); ++place) {
+        for (const char byte : {'\0', '<', '&', '9', '\xFF'}) {
+            QByteArray damaged = whole;
+            damaged[place] = byte;
+            journal::lines().clear();
+            canvas.items.clear();
+            const bool imported = import(damaged);
+            const QStringList calls = callsOf("canvas");
+            EXPECT_EQ(imported, !calls.isEmpty()) << place;
+            EXPECT_EQ(calls.filter(QStringLiteral("completeCanvasLoading")).size(),
+                      imported ? 1 : 0);
+        }
+    }
+}
+
+TEST_F(HostileFile, FilesThatAreNoXmlAreRefused)
+{
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("\0\0\0\0", 4), QByteArray("PK\x03\x04"), QByteArray("qmtx"),
+          QByteArray(100000, '\xFF'), QByteArray(100000, '<'), QByteArray("\xFF\xFE"),
+          QByteArray("<?xml version=\"1.0\" encoding=\"none\"?><qmtx/>")}) {
+        EXPECT_FALSE(import(bytes));
+    }
+    EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(HostileFile, EntitiesOfTheDocumentItselfAreText)
+{
+    EXPECT_TRUE(
+        import(textLabel("<!DOCTYPE qmtx [<!ENTITY shop 'Corner &#38;#38; Co'>]>", "&shop;!")));
+    EXPECT_FALSE(journal::lines().filter(QStringLiteral("setText 'Corner & Co!'")).isEmpty());
+}
+
+TEST_F(HostileFile, ExternalEntitiesAreNeverOpened)
+{
+    QTemporaryFile secret;
+    ASSERT_TRUE(secret.open());
+    secret.write("the secret");
+    secret.close();
+    const QByteArray url = "file://" + secret.fileName().toUtf8();
+    for (const QByteArray& doctype :
+         {QByteArray("<!DOCTYPE qmtx [<!ENTITY x SYSTEM '" + url + "'>]>"),
+          QByteArray("<!DOCTYPE qmtx [<!ENTITY x PUBLIC 'a' '" + url + "'>]>"),
+          QByteArray("<!DOCTYPE qmtx [<!ENTITY % p SYSTEM '" + url + "'> %p;]>"),
+          QByteArray("<!DOCTYPE qmtx SYSTEM '" + url + "'>")}) {
+        SCOPED_TRACE(doctype.constData());
+        static_cast<void>(import(textLabel(doctype, "a&x;b")));
+        EXPECT_TRUE(journal::lines().filter(QStringLiteral("secret")).isEmpty());
+        EXPECT_FALSE(logText().contains(QStringLiteral("the secret")));
+    }
+}
+
+TEST_F(HostileFile, AnEntityThatGrowsIsRefused)
+{
+    QByteArray doctype = "<!DOCTYPE qmtx [<!ENTITY a0 'ha'>";
+    for (int level = 1; level < 40; ++level) {
+        const QByteArray lower = "&a" + QByteArray::number(level - 1) + ";";
+        doctype += "<!ENTITY a" + QByteArray::number(level) + " '" + repeated(lower, 10) + "'>";
+    }
+    EXPECT_FALSE(import(textLabel(doctype + "]>", "&a39;")));
+    EXPECT_FALSE(import(textLabel("<!DOCTYPE qmtx [<!ENTITY a '&b;'><!ENTITY b '&a;'>]>", "&a;")));
+    EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(HostileFile, ManyReferencesToALongEntityAreRefused)
+{
+    const QByteArray doctype = "<!DOCTYPE qmtx [<!ENTITY a '" + QByteArray(4000, 'x') + "'>]>";
+    const int many = static_cast<int>(orvanta::MaximumEntityReferences) + 1;
+    EXPECT_FALSE(import(textLabel(doctype, repeated("&a;", many))));
+    EXPECT_EQ(logText(), QStringLiteral("Error reading file: %1 is too large: it declares entities "
+                                        "and has more than 20000 references")
+                             .arg(filePath()));
+    EXPECT_EQ(takeCalls(), QStringList());
+
+    const QString wide = QString::fromLatin1(textLabel(doctype, repeated("&a;", many)));
+    EXPECT_FALSE(
+        import(QByteArray("\xFF\xFE") + QByteArray(reinterpret_cast<const char*>(wide.utf16()),
+                                                   wide.size() * qsizetype(sizeof(char16_t)))));
+    EXPECT_EQ(log.records.size(), 2);
+
+    EXPECT_TRUE(import(textLabel("", repeated("&amp;", many)))) << "without a declaration";
+}
+
+TEST_F(HostileFile, DeepNestingIsRefused)
+{
+    const int deep = 300'000;
+    EXPECT_FALSE(import("<qmtx><controls>" + repeated("<a>", deep) + repeated("</a>", deep) +
+                        "</controls></qmtx>"));
+    EXPECT_FALSE(import("<qmtx>" + repeated("<controls>", deep)));
+    EXPECT_EQ(takeCalls(), QStringList());
+    EXPECT_EQ(log.records.size(), 2);
+}
+
+TEST_F(HostileFile, NumbersOutOfRangeReachTheHostAsTheyAre)
+{
+    EXPECT_TRUE(import(
+        "<qmtx><printable_control><bounds><w>1e300</w><h>-5</h></bounds></printable_control>"
+        "<controls><transparent_shape><printable_control><bounds><x>inf</x><y>nan</y><w>nan</w>"
+        "<h>1e308</h></bounds></printable_control><rotation>2147483647</rotation>"
+        "<sides>-2147483648</sides><shape_index>-2147483648</shape_index></transparent_shape>"
+        "<transparent_label><printable_control><font><size>nan</size></font></printable_control>"
+        "</transparent_label></controls></qmtx>"));
+    EXPECT_EQ(canvas.items.size(), 2U);
+    EXPECT_TRUE(callsOf("item:1").contains(QStringLiteral("setItemRotation 2147483647")));
+    EXPECT_TRUE(callsOf("item:2").contains(QStringLiteral("setFontPointSize 0")));
+}
+
+TEST_F(HostileFile, HundredThousandObjectsAreImported)
+{
+    const int count = 100'000;
+    EXPECT_TRUE(import("<qmtx><controls>" +
+                       repeated("<transparent_shape><printable_control><bounds><x>300</x>"
+                                "</bounds></printable_control></transparent_shape>",
+                                count) +
+                       "</controls></qmtx>"));
+    EXPECT_EQ(canvas.items.size(), std::size_t(count));
+}
+
+TEST_F(HostileFile, TooManyObjectsAreRefusedBeforeTheCanvasIsTouched)
+{
+    EXPECT_FALSE(import("<qmtx><controls>" + repeated("<foo/>", orvanta::MaximumControls + 1) +
+                        "</controls></qmtx>"));
+    EXPECT_EQ(logText(), QStringLiteral("Error reading file: %1 is too large: it has more than "
+                                        "250000 objects")
+                             .arg(filePath()));
+    EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(HostileFile, TooManyTagsAndAttributesAreRefusedUnparsed)
+{
+    EXPECT_FALSE(
+        import("<qmtx>" + repeated("<a/>", static_cast<int>(orvanta::MaximumMarkup)) + "</qmtx>"));
+    EXPECT_EQ(logText(), QStringLiteral("Error reading file: %1 is too large: it has more than "
+                                        "8000000 tags and attributes")
+                             .arg(filePath()));
+}
+
+TEST_F(HostileFile, AFileThatIsTooLongIsNotRead)
+{
+    QFile file(filePath());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(orvanta::MaximumFileSize + 1)); // a hole: takes no room on the disk
+    file.close();
+    EXPECT_FALSE(reader->importLabelFromFile(filePath()));
+    EXPECT_EQ(logText(), QStringLiteral("Error reading file: %1 is too large: it has more than "
+                                        "134217728 bytes")
+                             .arg(filePath()));
+    EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(HostileFile, ADeviceWithoutEndIsNotReadToItsEnd)
+{
+    EXPECT_FALSE(reader->importLabelFromFile(QStringLiteral("/dev/zero")));
+    EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(HostileFile, ManyAttributesAndLongNamesDoNoHarm)
+{
+    QByteArray attributes;
+    for (int number = 0; number < 500; ++number) {
+        attributes += " a" + QByteArray::number(number) + "='x'";
+    }
+    const QByteArray name(4000, 'n');
+    EXPECT_TRUE(import("<qmtx" + attributes + "><controls><" + name + "/></controls></qmtx>"));
+    EXPECT_EQ(logText(), QStringLiteral("Not processing: \"%1\"").arg(QString::fromLatin1(name)));
+}

@@ -1,0 +1,146 @@
+#include "orvanta/picture_content.h"
+
+#include "orvanta/raster_picture.h"
+#include "tests/orvanta/printing.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr qint64 Plenty = orvanta::MaximumLabelPixels;
+
+QByteArray encoded(const QImage& image, const char* format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+QImage checkered()
+{
+    QImage image(7, 5, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    image.setPixelColor(3, 2, Qt::red);
+    return image;
+}
+
+} // namespace
+
+TEST(PictureContent, LosesOneByteOrderMark)
+{
+    EXPECT_EQ(orvanta::withoutByteOrderMark("\xEF\xBB\xBF<svg"), QByteArray("<svg"));
+    EXPECT_EQ(orvanta::withoutByteOrderMark("\xEF\xBB\xBF\xEF\xBB\xBF<svg"),
+              QByteArray("\xEF\xBB\xBF<svg"));
+    EXPECT_EQ(orvanta::withoutByteOrderMark("\xEF\xBB<svg"), QByteArray("\xEF\xBB<svg"));
+    EXPECT_EQ(orvanta::withoutByteOrderMark("<svg\xEF\xBB\xBF"), QByteArray("<svg\xEF\xBB\xBF"));
+    EXPECT_EQ(orvanta::withoutByteOrderMark(""), QByteArray());
+}
+
+TEST(PictureContent, IsSvgOnlyWithTheExactStart)
+{
+    for (const char* bytes : {"<svg", "<svg/>", "<svg xmlns='x'>", "<svgx"}) {
+        EXPECT_TRUE(orvanta::isSvg(bytes)) << bytes;
+    }
+    for (const char* bytes : {"", "<sv", "<SVG/>", " <svg/>", "\n<svg/>", "<?xml?><svg/>",
+                              "<x:svg/>", "<!-- --><svg/>"}) {
+        EXPECT_FALSE(orvanta::isSvg(bytes)) << bytes;
+    }
+}
+
+TEST(PictureContent, SvgLosesWhatTheSerialiserAdded)
+{
+    const struct
+    {
+        const char* svg;
+        const char* cleaned;
+    } rows[] = {
+        {"<svg/>", "<svg/>"},
+        {"<svg d1p1:a='1' d1p1:b='2'/>", "<svg a='1' b='2'/>"},
+        {"<svg xmlns:d1p1='x' d1p1:a='1'/>", "<svg xmlns='x' a='1'/>"},
+        {"<svg viewBox=\"0, 0, 0, 0\"><svg viewBox=\"0, 0, 0, 0\"/></svg>", "<svg ><svg /></svg>"},
+        {"<svg viewBox=\"0, 0, 0, 1\"/>", "<svg viewBox=\"0, 0, 0, 1\"/>"},
+        {"<svg viewBox='0, 0, 0, 0'/>", "<svg viewBox='0, 0, 0, 0'/>"},
+        {"<svg viewBox=\"0 0 0 0\"/>", "<svg viewBox=\"0 0 0 0\"/>"},
+        {"<svg d1p1viewBox=\"0, 0, 0, 0\"/>", "<svg d1p1/>"},
+        {"<svg a:d1p1:b=''/>", "<svg a:b=''/>"},
+        {"<svg D1P1:a=''/>", "<svg D1P1:a=''/>"},
+        // The prefix goes in one pass, so that what its removal joins together stays.
+        {"<svg d1pd1p1:1:a=''/>", "<svg d1p1:a=''/>"},
+        // The prefix goes first, then what stands behind a colon, then the view box.
+        {"<svg vied1p1:wBox=\"0, 0, 0:d1p1, 0\"/>", "<svg />"},
+        {"<svg :d1d1p1:p1/>", "<svg />"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.svg);
+        EXPECT_EQ(orvanta::cleanedSvg(row.svg), QByteArray(row.cleaned));
+    }
+}
+
+TEST(RasterPicture, IsDecodedByItsContent)
+{
+    for (const char* format : {"PNG", "BMP", "PPM", "XPM"}) {
+        SCOPED_TRACE(format);
+        const auto picture = orvanta::decodeRasterPicture(encoded(checkered(), format), Plenty);
+        EXPECT_EQ(picture.refusal, QString());
+        ASSERT_EQ(picture.image.size(), QSize(7, 5));
+        EXPECT_EQ(picture.image.pixelColor(3, 2), QColor(Qt::red));
+        EXPECT_EQ(picture.image.pixelColor(2, 2), QColor(Qt::white));
+    }
+}
+
+TEST(RasterPicture, ThatIsNoneIsNullWithoutRefusal)
+{
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("abc"), QByteArray(1000, '\xFF'), QByteArray("<html/>")}) {
+        const auto picture = orvanta::decodeRasterPicture(bytes, Plenty);
+        EXPECT_TRUE(picture.image.isNull());
+        EXPECT_EQ(picture.refusal, QString());
+    }
+}
+
+TEST(RasterPicture, CutOffAnywhereIsNullOrAPicture)
+{
+    const QByteArray whole = encoded(checkered(), "PNG");
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        const auto picture = orvanta::decodeRasterPicture(whole.left(length), Plenty);
+        EXPECT_TRUE(picture.image.isNull() || picture.image.size() == QSize(7, 5)) << length;
+    }
+}
+
+TEST(RasterPicture, ThatClaimsTooManyPixelsIsRefusedUndecoded)
+{
+    const auto picture = orvanta::decodeRasterPicture("P6 20000 30000 255 x", Plenty);
+    EXPECT_TRUE(picture.image.isNull());
+    EXPECT_EQ(picture.refusal, QStringLiteral("a picture of 20000 by 30000 pixels is too large"));
+
+    QByteArray bitmap = encoded(checkered(), "BMP");
+    const QByteArray huge("\x00\x00\x01\x00", 4); // 65536, little-endian
+    bitmap.replace(18, 4, huge).replace(22, 4, huge);
+    EXPECT_TRUE(orvanta::decodeRasterPicture(bitmap, Plenty).image.isNull());
+}
+
+TEST(RasterPicture, MayUseWhatIsLeftToTheLabel)
+{
+    const QByteArray bytes = encoded(checkered(), "PNG");
+    EXPECT_EQ(orvanta::decodeRasterPicture(bytes, 35).image.size(), QSize(7, 5));
+    const auto refused = orvanta::decodeRasterPicture(bytes, 34);
+    EXPECT_TRUE(refused.image.isNull());
+    EXPECT_EQ(refused.refusal, QStringLiteral("a picture of 7 by 5 pixels is too large"));
+}
+
+TEST(RasterPicture, IsNeverADrawing)
+{
+    // Qt's own plug-in would draw these, and open the files that they name.
+    for (const char* svg :
+         {"<?xml version=\"1.0\"?><svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" "
+          "height=\"4\"/>",
+          " <svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" height=\"4\"/>"}) {
+        SCOPED_TRACE(svg);
+        EXPECT_TRUE(orvanta::decodeRasterPicture(svg, Plenty).image.isNull());
+    }
+}
