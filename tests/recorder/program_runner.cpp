@@ -1,0 +1,34 @@
+#include "program_runner.h"
+
+#include <QProcess>
+
+ProgramResult runProgram(const QString& program, const QStringList& arguments,
+                         const QProcessEnvironment& environment)
+{
+    constexpr int patience = 120000;
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments, QIODevice::ReadOnly);
+    ProgramResult result;
+    result.finished =
+        process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit;
+    result.status = process.exitCode();
+    result.output = process.readAllStandardOutput();
+    result.errors = process.readAllStandardError();
+    return result;
+}
+
+QProcessEnvironment emptyEnvironment()
+{
+    // A process environment without any entry would inherit ours.
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("LABELPORT_TEST"), QStringLiteral("1"));
+    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"}) {
+        const QString key = QString::fromLatin1(name);
+        if (own.contains(key)) {
+            environment.insert(key, own.value(key));
+        }
+    }
+    return environment;
+}

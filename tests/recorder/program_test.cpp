@@ -1,0 +1,180 @@
+// The real program, as a user or a script runs it.
+
+#include "program_runner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class TraceProgram : public ::testing::Test
+{
+protected:
+    [[nodiscard]] static ProgramResult
+    run(const QStringList& arguments, const QProcessEnvironment& environment = emptyEnvironment())
+    {
+        return runProgram(QStringLiteral(LABELPORT_TRACE_PROGRAM), arguments, environment);
+    }
+    [[nodiscard]] QString file(const QString& name, const QByteArray& content) const
+    {
+        const QString path = m_folder.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return path;
+    }
+    /// A label that imports, with nothing on it.
+    [[nodiscard]] QString goodLabel() const { return file(QStringLiteral("good.qmtx"), "<qmtx/>"); }
+
+    QTemporaryDir m_folder;
+};
+
+const QByteArray FailedLabel = "{\"trace\":1,\"file\":\"none.odg\",\"reader\":\"opendocument\"}\n";
+
+void expectJsonLines(const QByteArray& output)
+{
+    ASSERT_TRUE(output.endsWith('\n'));
+    for (const QByteArray& line : output.chopped(1).split('\n')) {
+        EXPECT_TRUE(QJsonDocument::fromJson(line).isObject()) << line.constData();
+    }
+}
+
+TEST_F(TraceProgram, runsInAnEmptyEnvironment)
+{
+    const ProgramResult result = run({goodLabel()});
+    EXPECT_TRUE(result.finished) << result.errors.constData();
+    EXPECT_EQ(result.status, 0) << result.errors.constData();
+    expectJsonLines(result.output);
+    EXPECT_TRUE(
+        result.output.startsWith("{\"trace\":1,\"file\":\"good.qmtx\",\"reader\":\"orvanta\"}\n"));
+    EXPECT_TRUE(result.output.endsWith("{\"result\":true}\n")) << result.output.constData();
+}
+
+TEST_F(TraceProgram, needsNoDisplayWhateverIsAskedFor)
+{
+    QProcessEnvironment environment = emptyEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("nosuchplatform"));
+    environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":77"));
+    environment.insert(QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("wayland-77"));
+    EXPECT_EQ(run({goodLabel()}, environment).status, 0);
+}
+
+TEST_F(TraceProgram, printsTheSameUnderAnyEnvironment)
+{
+    const QString label = goodLabel();
+    const QByteArray expected = run({label}).output;
+    const std::pair<const char*, const char*> settings[] = {
+        {"QT_LOGGING_RULES", "*=false"}, {"QT_LOGGING_RULES", "*.debug=true"},
+        {"LC_ALL", "de_DE.UTF-8"},       {"QT_SCALE_FACTOR", "3"},
+        {"QT_FONT_DPI", "300"},          {"QT_MESSAGE_PATTERN", "%{message}"},
+        {"QT_STYLE_OVERRIDE", "Windows"}};
+    for (const auto& [name, value] : settings) {
+        QProcessEnvironment environment = emptyEnvironment();
+        environment.insert(QString::fromLatin1(name), QString::fromLatin1(value));
+        EXPECT_EQ(run({label}, environment).output, expected) << name << '=' << value;
+    }
+}
+
+TEST_F(TraceProgram, logRecordsReachTheTraceUnderAnyLoggingRules)
+{
+    const QString label = file(QStringLiteral("broken.qmtx"), "<qmtx");
+    const ProgramResult plain = run({label});
+    EXPECT_EQ(plain.status, 1);
+    EXPECT_TRUE(plain.output.contains("{\"log\":\"")) << plain.output.constData();
+    for (const char* rules : {"*=false", "*.debug=true"}) {
+        QProcessEnvironment environment = emptyEnvironment();
+        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QString::fromLatin1(rules));
+        EXPECT_EQ(run({label}, environment).output, plain.output) << rules;
+    }
+}
+
+TEST_F(TraceProgram, aMissingFileStillHasAStartAndAnEnd)
+{
+    const ProgramResult result = run({m_folder.filePath(QStringLiteral("none.odg"))});
+    EXPECT_TRUE(result.finished);
+    EXPECT_EQ(result.status, 1);
+    expectJsonLines(result.output);
+    EXPECT_TRUE(result.output.startsWith(FailedLabel));
+    EXPECT_TRUE(result.output.endsWith("{\"result\":false}\n"));
+    EXPECT_TRUE(result.errors.contains("none.odg: No such file")) << result.errors.constData();
+}
+
+TEST_F(TraceProgram, aFolderIsNoFile)
+{
+    const ProgramResult result = run({m_folder.path()});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.output.endsWith("{\"result\":false}\n"));
+    EXPECT_TRUE(result.errors.contains("it is a folder")) << result.errors.constData();
+}
+
+TEST_F(TraceProgram, tellsTheReaderByTheSuffix)
+{
+    const std::pair<const char*, const char*> rows[] = {{"a.cnv", "tavrel"},
+                                                        {"a.ROC", "tavrel"},
+                                                        {"a.Qmtx", "orvanta"},
+                                                        {"a.odt", "opendocument"},
+                                                        {"a.ODG", "opendocument"},
+                                                        {"a.b.odt", "tavrel"},
+                                                        {"a", "tavrel"}};
+    for (const auto& [name, reader] : rows) {
+        const QByteArray start = run({m_folder.filePath(QString::fromLatin1(name))}).output;
+        EXPECT_EQ(start.left(start.indexOf('\n')), QByteArray("{\"trace\":1,\"file\":\"") + name +
+                                                       "\",\"reader\":\"" + reader + "\"}");
+    }
+}
+
+TEST_F(TraceProgram, takesNamesOfAnyScript)
+{
+    const QString label = file(QStringLiteral("Größe \"ß\".qmtx"), "<qmtx/>");
+    const ProgramResult result = run({label});
+    EXPECT_EQ(result.status, 0) << result.errors.constData();
+    EXPECT_TRUE(result.output.startsWith(
+        QStringLiteral("{\"trace\":1,\"file\":\"Größe \\\"ß\\\".qmtx\"").toUtf8()));
+}
+
+TEST_F(TraceProgram, helpAndVersionAreNoFailure)
+{
+    for (const char* option : {"--help", "-h"}) {
+        const ProgramResult result = run({QString::fromLatin1(option)});
+        EXPECT_EQ(result.status, 0);
+        EXPECT_TRUE(result.output.contains("FILE")) << result.output.constData();
+    }
+    const ProgramResult version = run({QStringLiteral("--version")});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(version.output.startsWith("labelport-trace ")) << version.output.constData();
+}
+
+TEST_F(TraceProgram, wrongUsageIsStatusTwoAndPrintsNoTrace)
+{
+    for (const QStringList& arguments :
+         {QStringList{}, QStringList{QStringLiteral("--nonsense")},
+          QStringList{QStringLiteral("a.cnv"), QStringLiteral("b.cnv")},
+          QStringList{QStringLiteral("-platform"), QStringLiteral("x.cnv")}}) {
+        const ProgramResult result = run(arguments);
+        EXPECT_EQ(result.status, 2) << qPrintable(arguments.join(u' '));
+        EXPECT_EQ(result.output, QByteArray());
+        EXPECT_TRUE(result.errors.contains("Usage: labelport-trace FILE"));
+    }
+}
+
+TEST_F(TraceProgram, aFullDiskIsAFailure)
+{
+    // Where there is such a device: every write to it fails.
+    if (!QFile::exists(QStringLiteral("/dev/full"))) {
+        return;
+    }
+    const ProgramResult result =
+        runProgram(QStringLiteral("/bin/sh"),
+                   {QStringLiteral("-c"), QStringLiteral("\"$0\" \"$1\" > /dev/full"),
+                    QStringLiteral(LABELPORT_TRACE_PROGRAM), goodLabel()},
+                   emptyEnvironment());
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errors.contains("cannot write the trace")) << result.errors.constData();
+}
+
+} // namespace

@@ -1,0 +1,130 @@
+// Drawings come out of files that nobody vouches for.
+
+#include "recorder/svg_document.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using recorder::selfContainedSvg;
+using recorder::SvgDocument;
+
+namespace {
+
+QByteArray svg(const QByteArray& attributes, const QByteArray& content = {})
+{
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+           "xmlns:xlink=\"http://www.w3.org/1999/xlink\" " +
+           attributes + '>' + content + "</svg>";
+}
+
+TEST(SvgDocument, knowsItsSize)
+{
+    EXPECT_EQ(SvgDocument(svg("width='40' height='30'")).defaultSize(), QSizeF(40, 30));
+    EXPECT_EQ(SvgDocument(svg("viewBox='0 0 12 8'")).defaultSize(), QSizeF(12, 8));
+    EXPECT_EQ(SvgDocument(svg("", "<rect width='7' height='9'/>")).defaultSize(), QSizeF(7, 9));
+}
+
+TEST(SvgDocument, refusesWhatIsNoDrawing)
+{
+    for (const char* bytes : {"", "no xml", "<svg", "<html/>", "\x1f\x8b\x08", "<svg></g></svg>"}) {
+        const SvgDocument document(bytes);
+        EXPECT_FALSE(document.isValid()) << bytes;
+        EXPECT_EQ(document.defaultSize(), QSizeF(0, 0)) << bytes;
+    }
+}
+
+QByteArray pngAsText()
+{
+    QImage image(2, 2, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data().toBase64();
+}
+
+TEST(SvgDocument, keepsPicturesThatAreInside)
+{
+    const QByteArray reference = "xlink:href=\"data:image/png;base64," + pngAsText() + '"';
+    const QByteArray document = svg("width='4' height='4'", "<image " + reference + "/>");
+    EXPECT_TRUE(selfContainedSvg(document).contains(reference));
+}
+
+TEST(SvgDocument, forgetsWhatLeadsOutOfIt)
+{
+    for (const char* reference :
+         {"/etc/passwd", "file:///etc/passwd", "picture.png", "http://example.com/x.png",
+          // The renderer takes a picture that does not decode for a file of that name.
+          "data/../../../etc/passwd", "data:image/png;base64,../../etc/passwd",
+          "data:etc/passwd"}) {
+        for (const char* attribute : {"xlink:href", "href"}) {
+            const QByteArray image =
+                QByteArray("<image ") + attribute + "='" + reference + "' width='4' height='4'/>";
+            const QByteArray copy = selfContainedSvg(svg("width='4' height='4'", image));
+            EXPECT_FALSE(copy.isEmpty());
+            EXPECT_FALSE(copy.contains("href=")) << copy.constData();
+            EXPECT_TRUE(copy.contains("<image")) << copy.constData();
+        }
+    }
+    EXPECT_FALSE(selfContainedSvg("<?xml-stylesheet type='text/css' href='/etc/passwd'?>" +
+                                  svg("width='4' height='4'"))
+                     .contains("passwd"));
+    EXPECT_FALSE(
+        selfContainedSvg("<!DOCTYPE svg SYSTEM '/etc/passwd'>" + svg("")).contains("passwd"));
+}
+
+TEST(SvgDocument, keepsReferencesWithinIt)
+{
+    const QByteArray copy =
+        selfContainedSvg(svg("width='4' height='4'", "<use xlink:href=\"#part\"/>"));
+    EXPECT_TRUE(copy.contains("xlink:href=\"#part\""));
+}
+
+TEST(SvgDocument, readsAnySpellingOfPrefixes)
+{
+    const QByteArray document = "<s:svg xmlns:s='http://www.w3.org/2000/svg' width='5' height='6'>"
+                                "<s:image xmlns:l='http://www.w3.org/1999/xlink' l:href='/x'/>"
+                                "</s:svg>";
+    EXPECT_FALSE(selfContainedSvg(document).contains("/x'"));
+    EXPECT_FALSE(selfContainedSvg(document).contains("l:href"));
+}
+
+TEST(SvgDocument, refusesDeepNesting)
+{
+    const auto nested = [](int depth) {
+        return svg("width='4' height='4'",
+                   QByteArray("<g>").repeated(depth) + QByteArray("</g>").repeated(depth));
+    };
+    EXPECT_TRUE(SvgDocument(nested(255)).isValid());
+    EXPECT_FALSE(SvgDocument(nested(256)).isValid());
+    EXPECT_FALSE(SvgDocument(nested(300000)).isValid());
+}
+
+TEST(SvgDocument, refusesCopiesOfCopiesWhereTheSizeHangsOnThem)
+{
+    QByteArray parts = "<g id='p0'><rect width='1' height='1'/></g>";
+    for (int i = 1; i < 40; ++i) {
+        const QByteArray copy = "<use xlink:href='#p" + QByteArray::number(i - 1) + "'/>";
+        parts += "<g id='p" + QByteArray::number(i) + "'>" + copy + copy + "</g>";
+    }
+    EXPECT_FALSE(SvgDocument(svg("", parts)).isValid());
+    EXPECT_FALSE(SvgDocument(svg("viewBox='0 0 0 0'", parts)).isValid());
+    EXPECT_FALSE(SvgDocument(svg("width='10'", parts)).isValid());
+    // A document that tells its size need not be walked through.
+    EXPECT_EQ(SvgDocument(svg("viewBox='0 0 3 4'", parts)).defaultSize(), QSizeF(3, 4));
+}
+
+TEST(SvgDocument, survivesEntityBombs)
+{
+    QByteArray bomb = "<!DOCTYPE svg [<!ENTITY e0 'xxxxxxxxxx'>";
+    for (int i = 1; i < 12; ++i) {
+        const QByteArray inner = "&e" + QByteArray::number(i - 1) + ';';
+        bomb += "<!ENTITY e" + QByteArray::number(i) + " '" + inner.repeated(10) + "'>";
+    }
+    bomb += "]>" + svg("width='4' height='4'", "<text>&e11;</text>");
+    EXPECT_FALSE(SvgDocument(bomb).isValid());
+}
+
+} // namespace

@@ -1,0 +1,241 @@
+// The kinds of lines, byte for byte, and what becomes of items.
+
+#include "host/items/rich_text_item.h"
+#include "recorder_fixture.h"
+
+#include <QGraphicsRectItem>
+#include <QGraphicsTextItem>
+
+#include <Logger.h>
+
+namespace {
+
+using TraceLines = RecorderTest;
+
+TEST_F(TraceLines, startAndEnd)
+{
+    m_host->trace().start(QStringLiteral("label.odg"), QStringLiteral("opendocument"));
+    EXPECT_EQ(newLine(),
+              QStringLiteral(R"({"trace":1,"file":"label.odg","reader":"opendocument"})"));
+    m_host->trace().end(true);
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"result":true})"));
+    m_host->trace().end(false);
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"result":false})"));
+}
+
+TEST_F(TraceLines, callsWithAndWithoutResult)
+{
+    m_host->trace().call(QStringLiteral("canvas"), "completeCanvasLoading", {});
+    EXPECT_EQ(newLine(),
+              QStringLiteral(R"({"on":"canvas","call":"completeCanvasLoading","args":[]})"));
+    m_host->trace().call(QStringLiteral("lists"), "isValidFamily", {QStringLiteral("x")}, false);
+    EXPECT_EQ(
+        newLine(),
+        QStringLiteral(R"({"on":"lists","call":"isValidFamily","args":["x"],"returns":false})"));
+}
+
+TEST_F(TraceLines, signalsHaveOneKey)
+{
+    m_host->trace().signal("popupShowSignal");
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"signal":"popupShowSignal"})"));
+}
+
+TEST_F(TraceLines, logRecordsStandBetweenTheCalls)
+{
+    canvas().completeCanvasLoading();
+    CuteMessageLogger(loggerInstance(), Logger::Error, "reader.cpp", 7, "bool Reader::read(int)")
+        .write("record %d is %s", 3, "\"bad\"");
+    CuteMessageLogger(loggerInstance(), Logger::Debug, "other.cpp", 8, "void f()").write("seen");
+    canvas().completeCanvasLoading();
+    const QStringList lines = newLines();
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_EQ(lines.at(1), QStringLiteral("{\"log\":\"error\",\"source\":\"reader.cpp\","
+                                          "\"function\":\"bool Reader::read(int)\","
+                                          "\"message\":\"record 3 is \\\"bad\\\"\"}"));
+    EXPECT_EQ(lines.at(2), QStringLiteral("{\"log\":\"debug\",\"source\":\"other.cpp\","
+                                          "\"function\":\"void f()\",\"message\":\"seen\"}"));
+}
+
+TEST_F(TraceLines, theLogIsLetGoWithTheHost)
+{
+    m_host.reset();
+    CuteMessageLogger(loggerInstance(), Logger::Error, "reader.cpp", 7, "f").write("late");
+    EXPECT_EQ(newLines(), QStringList());
+}
+
+// --- items ---
+
+TEST_F(TraceLines, theFactoryNumbersItsItems)
+{
+    const std::unique_ptr<Item> first(create(KestTypes::Line));
+    EXPECT_EQ(
+        newLine(),
+        QStringLiteral(R"({"on":"factory","call":"create","args":[65567],"returns":"item:1"})"));
+    const std::unique_ptr<Item> second(create(KestTypes::Barcode));
+    EXPECT_EQ(
+        newLine(),
+        QStringLiteral(R"({"on":"factory","call":"create","args":[65565],"returns":"item:2"})"));
+}
+
+TEST_F(TraceLines, anUnknownShapeIsNoItemAndTakesNoNumber)
+{
+    EXPECT_EQ(create(static_cast<KestTypes::ShapeType>(1)), nullptr);
+    EXPECT_EQ(newLine(),
+              QStringLiteral(R"({"on":"factory","call":"create","args":[1],"returns":null})"));
+    const std::unique_ptr<Item> item(create(KestTypes::Line));
+    EXPECT_TRUE(newLine().contains(QStringLiteral("\"item:1\"")));
+}
+
+TEST_F(TraceLines, statesTellWhereItemsStand)
+{
+    canvas().importItem(create(KestTypes::Rectangle));
+    const std::unique_ptr<Item> kept(create(KestTypes::Ellipse));
+    auto* graphics = dynamic_cast<QGraphicsItem*>(kept.get());
+    graphics->setPos(1.5, -2);
+    graphics->setZValue(0.001);
+    graphics->setFlag(QGraphicsItem::ItemIsMovable);
+    (void)newLines();
+
+    m_host->writeItemStates();
+    EXPECT_EQ(newLines(), (QStringList{
+                              QStringLiteral(R"({"item":"item:1","type":65578,"imported":true,)"
+                                             R"("pos":[0,0],"z":0,"movable":false})"),
+                              QStringLiteral(R"({"item":"item:2","type":65580,"imported":false,)"
+                                             R"("pos":[1.5,-2],"z":0.001,"movable":true})"),
+                          }));
+}
+
+TEST_F(TraceLines, statesFollowTheOrderOfCreation)
+{
+    Item* first = create(KestTypes::Line);
+    Item* second = create(KestTypes::Line);
+    canvas().importItem(second);
+    canvas().importItem(first);
+    (void)newLines();
+    m_host->writeItemStates();
+    const QStringList lines = newLines();
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_TRUE(lines.at(0).startsWith(QStringLiteral(R"({"item":"item:1")")));
+    EXPECT_TRUE(lines.at(1).startsWith(QStringLiteral(R"({"item":"item:2")")));
+}
+
+TEST_F(TraceLines, deletedItemsAreLeftOut)
+{
+    delete create(KestTypes::Picture);
+    const std::unique_ptr<Item> kept(create(KestTypes::Symbol));
+    (void)newLines();
+    m_host->writeItemStates();
+    EXPECT_TRUE(newLine().startsWith(QStringLiteral(R"({"item":"item:2","type":65549)")));
+}
+
+TEST_F(TraceLines, richTextShowsItsDocument)
+{
+    const std::unique_ptr<Item> item = make(KestTypes::RichText);
+    auto* text = dynamic_cast<QGraphicsTextItem*>(item.get());
+    text->setHtml(QStringLiteral("<p>a <b>b</b></p>"));
+    m_host->writeItemStates();
+    const QString line = newLine();
+    EXPECT_TRUE(line.contains(QStringLiteral(R"("movable":false,"html":"<!DOCTYPE HTML)")))
+        << qPrintable(line);
+    EXPECT_TRUE(line.contains(QStringLiteral(">b</span>")));
+}
+
+TEST_F(TraceLines, emptyRichTextHasNoHtml)
+{
+    const std::unique_ptr<Item> item = make(KestTypes::RichText);
+    // What the text facet sets is a call, and leaves the document alone.
+    dynamic_cast<ITextGenericItem&>(*item).setText(QStringLiteral("plain"));
+    (void)newLines();
+    m_host->writeItemStates();
+    EXPECT_FALSE(newLine().contains(QStringLiteral("html")));
+}
+
+TEST_F(TraceLines, plainTextHasNoHtml)
+{
+    const std::unique_ptr<Item> item = make(KestTypes::SimpleText);
+    dynamic_cast<QGraphicsTextItem&>(*item).setPlainText(QStringLiteral("plain"));
+    m_host->writeItemStates();
+    EXPECT_FALSE(newLine().contains(QStringLiteral("html")));
+}
+
+TEST_F(TraceLines, itemsMayOutliveTheHost)
+{
+    const std::unique_ptr<Item> item = make(KestTypes::Line);
+    m_host.reset();
+    item->setItemRotation(1);
+    EXPECT_EQ(newLines().size(), 1);
+}
+
+// --- canvas ---
+
+TEST_F(TraceLines, canvasCalls)
+{
+    canvas().importCanvasParameters(612, 283.5, false, true);
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"importCanvasParameters",)"
+                                        R"("args":[612,283.5,false,true]})"));
+    canvas().completeCanvasLoading();
+    EXPECT_EQ(newLine(),
+              QStringLiteral(R"({"on":"canvas","call":"completeCanvasLoading","args":[]})"));
+}
+
+TEST_F(TraceLines, canvasColoursStartWhiteAndBlackAndFollowTheSetters)
+{
+    EXPECT_EQ(canvas().canvasBackgroundColor(), QColor(Qt::white));
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"canvasBackgroundColor",)"
+                                        R"("args":[],"returns":"#ffffffff"})"));
+    EXPECT_EQ(canvas().canvasDefaultPenColor(), QColor(Qt::black));
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"canvasDefaultPenColor",)"
+                                        R"("args":[],"returns":"#ff000000"})"));
+
+    canvas().setCanvasBackgroundColor(QColor(1, 2, 3));
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"setCanvasBackgroundColor",)"
+                                        R"("args":["#ff010203"]})"));
+    canvas().setCanvasDefaultPenColor(QColor(4, 5, 6));
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"setCanvasDefaultPenColor",)"
+                                        R"("args":["#ff040506"]})"));
+    EXPECT_EQ(canvas().canvasBackgroundColor(), QColor(1, 2, 3));
+    EXPECT_EQ(canvas().canvasDefaultPenColor(), QColor(4, 5, 6));
+    EXPECT_TRUE(newLines().last().endsWith(QStringLiteral(R"("returns":"#ff040506"})")));
+}
+
+TEST_F(TraceLines, canvasTakesItemsAndListsOfThem)
+{
+    Item* item = create(KestTypes::Line);
+    Item* other = create(KestTypes::Line);
+    (void)newLines();
+    canvas().importItem(item);
+    canvas().importItem(other);
+    EXPECT_EQ(newLines(),
+              (QStringList{
+                  QStringLiteral(R"({"on":"canvas","call":"importItem","args":["item:1"]})"),
+                  QStringLiteral(R"({"on":"canvas","call":"importItem","args":["item:2"]})"),
+              }));
+    const QList<QGraphicsItem*> items{dynamic_cast<QGraphicsItem*>(other),
+                                      dynamic_cast<QGraphicsItem*>(item), nullptr};
+    canvas().setReadOnlyStateOnItemsInList(true, items);
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"setReadOnlyStateOnItemsInList",)"
+                                        R"("args":[true,["item:2","item:1",null]]})"));
+    canvas().setUserBackgroundStateOnItemsInList(false, {});
+    EXPECT_EQ(newLine(),
+              QStringLiteral(R"({"on":"canvas","call":"setUserBackgroundStateOnItemsInList",)"
+                             R"("args":[false,[]]})"));
+}
+
+TEST_F(TraceLines, canvasSurvivesNoItemAndTheSameItemTwice)
+{
+    canvas().importItem(nullptr);
+    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"importItem","args":[null]})"));
+    Item* item = create(KestTypes::Line);
+    canvas().importItem(item);
+    canvas().importItem(item);
+    EXPECT_EQ(newLines().size(), 3);
+}
+
+TEST_F(TraceLines, anItemOfAnotherHostIsNobody)
+{
+    QGraphicsRectItem stranger;
+    canvas().setReadOnlyStateOnItemsInList(true, {&stranger});
+    EXPECT_TRUE(newLine().endsWith(QStringLiteral("[true,[null]]}")));
+}
+
+} // namespace
