@@ -1,0 +1,31 @@
+#include "line_difference.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(LineDifference, isEmptyForEqualTexts)
+{
+    EXPECT_EQ(firstDifference("a\nb\n", "a\nb\n"), QString());
+}
+
+TEST(LineDifference, showsTheFirstDifferentLineAndItsSurroundings)
+{
+    EXPECT_EQ(firstDifference("1\n2\n3\nold\n5\n", "1\n2\n3\nnew\n"),
+              QStringLiteral("line 4 (5 lines expected, 4 came)\n"
+                             "  2\n"
+                             "  3\n"
+                             "- old\n"
+                             "- 5\n"
+                             "- \n"
+                             "+ new\n"
+                             "+ \n"));
+}
+
+TEST(LineDifference, seesAMissingLineEnd)
+{
+    EXPECT_FALSE(firstDifference("a\n", "a").isEmpty());
+    EXPECT_FALSE(firstDifference("", "a\n").isEmpty());
+}
+
+} // namespace
