@@ -1,18 +1,131 @@
 #pragma once
 
+#include "opendocument/geometry.h"
+#include "opendocument/graphic_style.h"
+#include "opendocument/picture_store.h"
+#include "opendocument/rich_text.h"
+#include "opendocument/text_flow.h"
+#include "opendocument/text_style.h"
+#include "opendocument/zip_directory.h"
+
+#include "host/kest_types.h"
+
+#include <QByteArray>
+#include <QMap>
 #include <QString>
 
+#include <memory>
+
+class ClassFactory;
 class DatasourceController;
+class Item;
+class QDomElement;
+class QGraphicsItem;
+class QZipReader;
+class SymbolCreator;
 class TalCanvasModel;
 
+namespace opendocument {
+struct NewShape;
+struct PageLayout;
+} // namespace opendocument
+
+/// Reads OpenDocument texts and drawings (*.odt, *.odg) onto a canvas.
+///
+/// One reader serves one canvas for any number of files. Page size, unit and styles that one
+/// file gives stay for the next one, which may not give its own: old labels depend on it.
 class OpenOfficeReader
 {
 public:
-    OpenOfficeReader(TalCanvasModel* canvasModel, DatasourceController* datasourceController);
+    using OOTextStyle = opendocument::OOTextStyle;
+    using OOGraphicStyle = opendocument::OOGraphicStyle;
 
+    /// @param canvasModel          takes the page and the items; must outlive the reader
+    /// @param datasourceController kept for the host, these formats bind no data
+    OpenOfficeReader(TalCanvasModel* canvasModel, DatasourceController* datasourceController);
+    ~OpenOfficeReader();
+    OpenOfficeReader(const OpenOfficeReader&) = delete;
+    OpenOfficeReader& operator=(const OpenOfficeReader&) = delete;
+
+    /// Reads the package at this path onto the canvas.
+    /// @return false when the package or its XML cannot be read. The canvas is untouched
+    ///         then, and the log tells the cause.
     [[nodiscard]] bool importLabelFromFile(const QString& fileName);
 
+    /// Closes the package of the last import, which otherwise stays open until the next.
+    void closePackage();
+
 private:
-    TalCanvasModel* m_canvasModel;
-    DatasourceController* m_datasourceController;
+    // The package.
+    void openPackage(const QString& fileName);
+    [[nodiscard]] QByteArray readMember(const QString& name, qint64 largest);
+
+    // Page and styles.
+    void importPageLayout(const QDomElement& stylesRoot);
+    void readDefaultStyles(const QDomElement& officeStyles);
+    void readStyles(const QDomElement& container);
+    void readTextStyle(const QDomElement& element);
+    void readGraphicStyle(const QDomElement& element);
+    [[nodiscard]] opendocument::LengthUnit unit() const { return {m_unitSuffix, m_unitFactor}; }
+
+    // The body.
+    void readBody(const QDomElement& body);
+    void readTextBody(const QDomElement& text);
+    void readDrawingBody(const QDomElement& drawing);
+    void readDrawingElement(const QDomElement& element);
+
+    // Text.
+    void readParagraph(const QDomElement& paragraph);
+    void readParagraphFrames(const QDomElement& paragraph, opendocument::ParagraphFlow& flow);
+    void readParagraphNode(const QDomElement& element, const QString& text,
+                           const OOTextStyle& style, opendocument::ParagraphFlow& flow);
+    void readRun(const QString& text, const OOTextStyle& style, opendocument::ParagraphFlow& flow);
+    [[nodiscard]] QSizeF placeTextRun(const QString& text, const OOTextStyle& style,
+                                      double availableWidth, double cursor, double z);
+    void buildRichText(const QDomElement& shape, const opendocument::Geometry& geometry);
+    [[nodiscard]] opendocument::TextStyling styling() const;
+
+    // Shapes.
+    void readLine(const QDomElement& element);
+    void readRectangle(const QDomElement& element, bool rounded);
+    void readEllipse(const QDomElement& element, bool pie);
+    void readPolygon(const QDomElement& element, KestTypes::ShapeType type);
+    void readCustomShape(const QDomElement& element);
+    void placeShape(const QDomElement& element, opendocument::NewShape shape);
+    [[nodiscard]] opendocument::NewShape makeRectangle(const QDomElement& element, bool rounded);
+    [[nodiscard]] OOGraphicStyle graphicStyleOf(const QDomElement& element) const;
+
+    // Frames.
+    opendocument::FramePlacement readFrame(const QDomElement& element);
+    [[nodiscard]] bool readTextBox(const QDomElement& frame, OOGraphicStyle style,
+                                   opendocument::Geometry& geometry);
+    [[nodiscard]] bool readImage(const QDomElement& frame, opendocument::Geometry& geometry);
+    [[nodiscard]] bool importSymbol(const QString& name, opendocument::Geometry& geometry);
+    [[nodiscard]] bool importPicture(const QString& name, opendocument::Geometry& geometry);
+    void placeImage(std::unique_ptr<Item> owned, QGraphicsItem& graphics,
+                    opendocument::Geometry& geometry);
+    [[nodiscard]] QPointF textBoxPosition(const QDomElement& frame, const OOGraphicStyle& style,
+                                          const opendocument::Geometry& geometry) const;
+
+    // Moves the text flow down.
+    void advanceFlow(double height);
+
+    std::unique_ptr<QZipReader> m_zipReader;
+    TalCanvasModel* m_canvasModel = nullptr;
+    ClassFactory* m_classFactory = nullptr;
+    [[maybe_unused]] DatasourceController* m_controller = nullptr;
+    double m_pageWidth = 612.0;  // points; US letter until a file says otherwise
+    double m_pageHeight = 792.0; // points
+    double m_flowOffsetY = 0;    // points; where the next paragraph of a text begins
+    QString m_unitSuffix = QStringLiteral("in");
+    double m_unitFactor = 72.0; // points per unit
+    double m_pointsPerPixel = 1.0;
+    OOTextStyle m_defaultTextStyle;
+    OOGraphicStyle m_defaultGraphicStyle;
+    QMap<QString, OOTextStyle> m_textStyles;
+    QMap<QString, OOGraphicStyle> m_graphicStyles;
+
+    opendocument::ZipDirectory m_zipDirectory;
+    std::unique_ptr<opendocument::PictureStore> m_pictures;
+    std::unique_ptr<SymbolCreator> m_symbolCreator; // made for the first symbol
 };

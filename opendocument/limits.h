@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// What a package may ask for. Generous for any real label: far beyond what is printed,
+/// and small enough that a hostile file cannot fill the memory of a small machine.
+namespace opendocument::limits {
+
+/// Members of the package.
+inline constexpr int PackageMembers = 4096;
+/// Size of the package's table of contents.
+inline constexpr qint64 DirectoryBytes = 4LL << 20;
+
+/// Sizes of the XML members, uncompressed, and of the trees that they become.
+inline constexpr qint64 StylesBytes = 16LL << 20;
+inline constexpr qint64 StylesTreeBytes = 120LL << 20;
+inline constexpr qint64 ContentBytes = 48LL << 20;
+inline constexpr qint64 ContentTreeBytes = 480LL << 20;
+
+/// Size of one picture's member, uncompressed, and of all that one import reads.
+inline constexpr qint64 PictureBytes = 32LL << 20;
+inline constexpr qint64 AllPicturesBytes = 128LL << 20;
+/// Pixels of one picture, and of all that one import decodes.
+inline constexpr qint64 PicturePixels = 40'000'000;
+inline constexpr qint64 AllPicturesPixels = 60'000'000;
+
+/// Characters of one text item.
+inline constexpr qsizetype TextCharacters = 4LL << 20;
+/// Font size in points: font engines are not made for more.
+inline constexpr double FontSize = 10'000.0;
+
+} // namespace opendocument::limits

@@ -1,0 +1,80 @@
+#include "opendocument/numbers.h"
+
+#include "opendocument/code_table.h"
+
+#include <QDomElement>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace opendocument {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr NamedCode<double> Units[] = {
+    {"in"_L1, 72.0},
+    {"cm"_L1, 28.346456692913385},
+    // Ten times a millimetre's points. Old labels in millimetres depend on that scale.
+    {"mm"_L1, 283.46456692913387},
+    {"pc"_L1, 12.0},
+};
+
+constexpr qsizetype UnitCharacters = 2;
+
+} // namespace
+
+std::optional<double> toNumber(QStringView text)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(number)) {
+        return std::nullopt;
+    }
+    return number;
+}
+
+QStringView withoutTail(QStringView text, qsizetype count)
+{
+    return text.chopped(std::min(count, text.size()));
+}
+
+QString unitOf(const QString& length)
+{
+    return length.size() <= UnitCharacters ? length : length.last(UnitCharacters);
+}
+
+std::optional<double> pointsPerUnit(QStringView unit)
+{
+    return codeOf(Units, unit);
+}
+
+std::optional<double> toLength(QStringView text, double unitFactor)
+{
+    const auto number = toNumber(withoutTail(text, UnitCharacters));
+    if (!number || !std::isfinite(*number * unitFactor)) {
+        return std::nullopt;
+    }
+    return *number * unitFactor;
+}
+
+bool readLength(const QDomElement& element, const QString& name, double unitFactor, double& target)
+{
+    const auto length = toLength(element.attribute(name), unitFactor);
+    target = length.value_or(target);
+    return length.has_value();
+}
+
+int toInteger(double value)
+{
+    if (std::isnan(value)) {
+        return 0;
+    }
+    constexpr double Lowest = std::numeric_limits<int>::min();
+    constexpr double Highest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(value, Lowest, Highest));
+}
+
+} // namespace opendocument

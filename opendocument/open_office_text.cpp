@@ -1,0 +1,140 @@
+// Text: the flow of a text document, and the text of shapes.
+
+#include "opendocument/item_builder.h"
+#include "opendocument/limits.h"
+#include "opendocument/log.h"
+#include "opendocument/numbers.h"
+#include "opendocument/open_office_reader.h"
+
+#include "host/items/rich_text_item.h"
+#include "host/tal_canvas_model.h"
+
+#include <QDomElement>
+
+using namespace opendocument;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double SpaceWidth = 3.0;   // points
+constexpr double TabWidth = 12.0;    // points
+constexpr double AboveShape = 0.001; // of z
+
+bool isTooLong(qsizetype length)
+{
+    if (length <= limits::TextCharacters) {
+        return false;
+    }
+    logDebug(__LINE__, Q_FUNC_INFO,
+             u"A text of %1 characters is left out: it is longer than %2"_s.arg(length).arg(
+                 limits::TextCharacters));
+    return true;
+}
+
+} // namespace
+
+TextStyling OpenOfficeReader::styling() const
+{
+    return {m_textStyles, m_defaultTextStyle, m_pointsPerPixel};
+}
+
+void OpenOfficeReader::readParagraph(const QDomElement& paragraph)
+{
+    const OOTextStyle style = styling().styleOf(paragraph, m_defaultTextStyle);
+    advanceFlow(style.margins.first);
+    if (!paragraph.hasChildNodes()) {
+        advanceFlow(style.fontSize + style.margins.second);
+        return;
+    }
+    ParagraphFlow flow(m_pageWidth);
+    readParagraphFrames(paragraph, flow);
+    advanceFlow(flow.blockOffset());
+    for (QDomNode node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        readParagraphNode(node.toElement(), node.isText() ? node.nodeValue() : QString(), style,
+                          flow);
+        advanceFlow(flow.takeFullLine());
+    }
+    advanceFlow(flow.lineHeight());
+}
+
+// Frames come first wherever they stand in the paragraph: its text flows around all of them.
+void OpenOfficeReader::readParagraphFrames(const QDomElement& paragraph, ParagraphFlow& flow)
+{
+    const QString tag = u"draw:frame"_s;
+    for (QDomElement frame = paragraph.firstChildElement(tag); !frame.isNull();
+         frame = frame.nextSiblingElement(tag)) {
+        flow.passFrame(readFrame(frame));
+    }
+}
+
+// One node of a paragraph: an element, or a text where the element is null.
+void OpenOfficeReader::readParagraphNode(const QDomElement& element, const QString& text,
+                                         const OOTextStyle& style, ParagraphFlow& flow)
+{
+    if (!text.isEmpty()) {
+        readRun(text, style, flow);
+    } else if (element.tagName() == "text:s"_L1) {
+        flow.moveBy(SpaceWidth * element.attribute(u"text:c"_s).toInt());
+    } else if (element.tagName() == "text:tab"_L1) {
+        flow.moveBy(TabWidth);
+    } else if (holdsText(element)) {
+        readRun(textOf(element), styling().styleOf(element, style), flow);
+    }
+}
+
+void OpenOfficeReader::readRun(const QString& text, const OOTextStyle& style, ParagraphFlow& flow)
+{
+    if (isTooLong(text.size())) {
+        return;
+    }
+    const QSizeF size =
+        placeTextRun(text, style, flow.availableWidth(), flow.cursor(), flow.takeRunZ());
+    flow.passRun(size, style.margins.second);
+}
+
+QSizeF OpenOfficeReader::placeTextRun(const QString& text, const OOTextStyle& style,
+                                      double availableWidth, double cursor, double z)
+{
+    NewItem<RichTextItem> run = makeItem<RichTextItem>(m_classFactory, KestTypes::RichText);
+    if (!run) {
+        return {0, 0};
+    }
+    run->setZValue(z);
+    m_canvasModel->importItem(run.owned.release());
+    run->setText(text);
+    run->setFontFamily(style.fontFamily);
+    run->setFontBold(style.bold);
+    run->setFontItalic(style.italic);
+    run->setFontUnderline(style.underline);
+    run->setFontPointSize(toInteger(style.fontSize));
+    run->adjustBoxSizeToContent(availableWidth);
+    const double width = run->getItemWidth();
+    if (style.hasAlignment()) {
+        run->setTextAlignment(style.alignment);
+    }
+    setPosition(*run.item, {runX(style, m_pageWidth, width) + cursor, m_flowOffsetY});
+    return {width, run->getItemHeight()};
+}
+
+void OpenOfficeReader::buildRichText(const QDomElement& shape, const Geometry& geometry)
+{
+    const RichText text = toRichText(shape, styling());
+    if (text.isBlank || isTooLong(text.length)) {
+        return;
+    }
+    NewItem<RichTextItem> item = makeItem<RichTextItem>(m_classFactory, KestTypes::RichText);
+    if (!item) {
+        return;
+    }
+    item->setHtml(text.html);
+    item->adjustBoxSizeToContent(geometry.size.width());
+    if (geometry.hasZ()) {
+        item->setZValue(geometry.z + AboveShape);
+    }
+    setPosition(*item.item, geometry.position);
+    m_canvasModel->importItem(item.owned.release());
+    // The text lies on its shape, turned as that is.
+    if (geometry.hasRotation()) {
+        item->setItemRotation(geometry.rotation);
+    }
+}

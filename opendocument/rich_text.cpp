@@ -1,0 +1,180 @@
+#include "opendocument/rich_text.h"
+
+#include "opendocument/style_fragments.h"
+
+#include <QDomElement>
+
+#include <algorithm>
+
+namespace opendocument {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// What QTextDocument::toHtml() begins with, so that texts are what the host writes itself.
+const QString Document =
+    u"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0//EN\" "
+    "\"http://www.w3.org/TR/REC-html40/strict.dtd\">\n"
+    "<html><head><meta name=\"qrichtext\" content=\"1\" /><meta charset=\"utf-8\" />"
+    "<style type=\"text/css\">\n"
+    "p, li { white-space: pre-wrap; }\n"
+    "hr { height: 1px; border-width: 0; }\n"
+    "li.unchecked::marker { content: \"\\2610\"; }\n"
+    "li.checked::marker { content: \"\\2612\"; }\n"
+    "</style></head><body %1>%2</body></html>"_s;
+const QString Paragraph = u"<p%1%2>"_s;
+const QString Span = u"<span%1>"_s;
+const QString StyleAttribute = u" style=\"%3%4%5%6%7\""_s;
+const QString ZeroMargins =
+    u" margin-top:0pt; margin-bottom:0pt; margin-left:0pt; margin-right:0pt;"_s;
+const QString EndOfSpan = u"</span>"_s;
+const QString EndOfParagraph = u"</p>"_s;
+
+constexpr QLatin1StringView TextTags[] = {"text:span"_L1, "text:h"_L1, "text:p"_L1, "text:date"_L1,
+                                          "text:time"_L1};
+
+/// Writes the paragraphs of one shape.
+class HtmlWriter
+{
+public:
+    explicit HtmlWriter(const TextStyling& styling)
+        : m_styling(styling)
+    {}
+
+    void writeParagraph(const QDomElement& paragraph);
+    [[nodiscard]] RichText finished() const;
+
+private:
+    [[nodiscard]] StyleFragments fragments(const OOTextStyle& style, const OOTextStyle& base) const;
+    [[nodiscard]] QString bodyAttribute() const;
+    [[nodiscard]] QString paragraphTag(const OOTextStyle& style) const;
+    [[nodiscard]] QString spanTag(const OOTextStyle& style, const OOTextStyle& base) const;
+    void writeNode(const QDomNode& node, const OOTextStyle& paragraphStyle);
+    void writeSpan(const QString& tag, const QString& text);
+
+    const TextStyling& m_styling;
+    QString m_paragraphs;
+    bool m_isBlank = true;
+    qsizetype m_length = 0;
+};
+
+StyleFragments HtmlWriter::fragments(const OOTextStyle& style, const OOTextStyle& base) const
+{
+    return {style, base, m_styling.pointsPerPixel};
+}
+
+QString HtmlWriter::bodyAttribute() const
+{
+    OOTextStyle none;
+    none.fontFamily.clear();
+    const StyleFragments css(m_styling.defaultStyle, none, m_styling.pointsPerPixel,
+                             Fragment::Always);
+    return StyleAttribute.arg(css.family(), css.size(), css.weight(), css.slant(),
+                              css.decoration());
+}
+
+// A paragraph's underline has no place in its tag; only spans show it. Old labels depend on it.
+QString HtmlWriter::paragraphTag(const OOTextStyle& style) const
+{
+    const StyleFragments css = fragments(style, m_styling.defaultStyle);
+    const QString attribute =
+        StyleAttribute.arg(ZeroMargins, css.family(), css.size(), css.weight(), css.slant());
+    return Paragraph.arg(css.alignmentAttribute(), attribute);
+}
+
+QString HtmlWriter::spanTag(const OOTextStyle& style, const OOTextStyle& base) const
+{
+    const StyleFragments css = fragments(style, base);
+    return Span.arg(
+        StyleAttribute.arg(css.family(), css.size(), css.weight(), css.slant(), css.decoration()));
+}
+
+void HtmlWriter::writeSpan(const QString& tag, const QString& text)
+{
+    m_isBlank = m_isBlank && QStringView(text).trimmed().isEmpty();
+    m_length += text.size();
+    m_paragraphs += tag + text.toHtmlEscaped() + EndOfSpan;
+}
+
+void HtmlWriter::writeNode(const QDomNode& node, const OOTextStyle& paragraphStyle)
+{
+    const QDomElement element = node.toElement();
+    if (node.isText()) {
+        writeSpan(Span.arg(QString()), node.nodeValue());
+    } else if (element.tagName() == "text:tab"_L1) {
+        m_paragraphs += u'\t';
+    } else if (element.tagName() == "text:span"_L1) {
+        const OOTextStyle& style = m_styling.styleOf(element, paragraphStyle);
+        writeSpan(spanTag(style, paragraphStyle), textOf(element));
+    }
+}
+
+void HtmlWriter::writeParagraph(const QDomElement& paragraph)
+{
+    const OOTextStyle& style = m_styling.styleOf(paragraph, m_styling.defaultStyle);
+    m_paragraphs += paragraphTag(style);
+    for (QDomNode node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        writeNode(node, style);
+    }
+    m_paragraphs += EndOfParagraph;
+}
+
+RichText HtmlWriter::finished() const
+{
+    // Both at once: a label's text may contain what looks like a place for an argument.
+    return {m_isBlank ? QString() : Document.arg(bodyAttribute(), m_paragraphs), m_isBlank,
+            m_length};
+}
+
+// The next node in document order, inside `root`.
+QDomNode nodeAfter(const QDomNode& node, const QDomNode& root)
+{
+    QDomNode next = node.firstChild();
+    for (QDomNode up = node; next.isNull() && up != root; up = up.parentNode()) {
+        next = up.nextSibling();
+    }
+    return next;
+}
+
+} // namespace
+
+const OOTextStyle& TextStyling::styleOf(const QDomElement& element,
+                                        const OOTextStyle& otherwise) const
+{
+    const auto found = styles.constFind(element.attribute(u"text:style-name"_s));
+    return found != styles.constEnd() ? *found : otherwise;
+}
+
+RichText toRichText(const QDomElement& shape, const TextStyling& styling)
+{
+    HtmlWriter writer(styling);
+    for (QDomElement child = shape.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement()) {
+        if (holdsText(child)) {
+            writer.writeParagraph(child);
+        }
+    }
+    return writer.finished();
+}
+
+bool holdsText(const QDomElement& element)
+{
+    const QString tag = element.tagName();
+    return std::any_of(std::begin(TextTags), std::end(TextTags),
+                       [&tag](QLatin1StringView name) { return tag == name; });
+}
+
+QString textOf(const QDomElement& element)
+{
+    QString text;
+    for (QDomNode node = nodeAfter(element, element); !node.isNull();
+         node = nodeAfter(node, element)) {
+        if (node.isText()) {
+            text += node.nodeValue();
+        }
+    }
+    return text;
+}
+
+} // namespace opendocument
