@@ -17,6 +17,12 @@ constexpr qint32 ean = 13;
 constexpr qint32 code128 = 20;
 constexpr qint32 qrCode = 58;
 
+// Alignments up to version 2000019, which later became flags.
+constexpr qint32 oldLeft = 0;
+constexpr qint32 oldRight = 1;
+constexpr qint32 oldCentred = 2;
+constexpr qint32 centred = Qt::AlignCenter;
+
 enum Fill : qint32 { Empty, LabelColor, RibbonColor };
 
 // A place on the label, in inches.
@@ -104,6 +110,7 @@ canvas::TextRecord freeText(const canvas::ItemHeader& header, const QString& con
     record.content = content;
     record.fontSize = dots(points);
     record.styleFlag1 = bold;
+    record.alignment = oldLeft;
     record.transparentBackground = true;
     return record;
 }
@@ -154,11 +161,6 @@ canvas::SymbolRecord symbol(const QString& name, double x, double y, double size
     return record;
 }
 
-// Alignments up to version 2000019, which later became flags.
-constexpr qint32 oldRight = 1;
-constexpr qint32 oldCentred = 2;
-constexpr qint32 centred = Qt::AlignCenter;
-
 QByteArray addressLabel()
 {
     canvas::ShapeRecord frame = shape(QStringLiteral("RoundedRectangle"), {0, 0, 3.8, 1.8}, 1.5);
@@ -167,9 +169,14 @@ QByteArray addressLabel()
     canvas::ShapeRecord rule = shape(QStringLiteral("HorizontalLine"), {0, 0, 3.5, 0.0}, 1.0);
     rule.header.x = 0.25 * 300.0;
     rule.header.y = 0.48 * 305.0;
+    canvas::SymbolRecord priority = symbol(QStringLiteral("star.svg"), 0.0, 0.0, 0.4);
+    priority.header.x = 3.2 * 300.0;
+    priority.header.y = 0.62 * 305.0;
     return CanvasWriter(2000016)
         .start(pageInDots(4.0, 2.0))
         .add(frame)
+        .add(priority)
+        .add(freeText(atDots(3.08, 1.05), QStringLiteral("PRIORITY"), 8.0, true))
         .add(freeText(atDots(0.28, 0.24),
                       QStringLiteral("Harbour Mill, 12 Quay Street, Port Elm PE1 4AB"), 8.0))
         .add(rule)
@@ -217,7 +224,7 @@ QByteArray warningSign()
         .add(shape(QStringLiteral("Rectangle"), {0.15, 0.15, 5.7, 1.1}, 4.0, RibbonColor))
         .add(inverse(
             text({0.3, 0.35, 5.4, 0.75}, QStringLiteral("WARNING"), 46.0, true, oldCentred)))
-        .add(symbol(QStringLiteral("C:\\symbols\\warning.svg"), 0.4, 1.5, 1.6))
+        .add(symbol(QStringLiteral("C:/symbols/warning.svg"), 0.4, 1.5, 1.6))
         .add(symbol(QStringLiteral("lightning.svg"), 4.4, 1.6, 1.3))
         .add(text({2.1, 1.55, 2.2, 1.4}, QStringLiteral("High\nvoltage"), 34.0, true, oldCentred))
         .add(text({0.4, 3.3, 5.2, 0.35}, QStringLiteral("Disconnect before opening this cabinet"),
@@ -264,6 +271,7 @@ QByteArray shelfLabel()
 QByteArray stretchedLabel()
 {
     canvas::TextRecord sale = freeText(at(0.2, 0.2), QStringLiteral("Net  weight"), 18.0, true);
+    sale.alignment = Qt::AlignLeft;
     sale.header.width = QStringLiteral("5/2");
     sale.header.height = QStringLiteral("3/5");
     return CanvasWriter(2000022)
@@ -272,8 +280,8 @@ QByteArray stretchedLabel()
         .add(text({2.9, 0.52, 0.9, 0.36}, QStringLiteral("25 kg"), 16.0, true, centred))
         .add(sale)
         .add(text({0.2, 1.0, 2.5, 0.3}, QStringLiteral("Wheat flour, type 55"), 14.0))
-        .add(bound(text({0.2, 1.6, 3.6, 0.25}, QStringLiteral("Packed %_DATES% at %_TIME%"), 9.0),
-                   QStringLiteral("_SPECIAL"), QStringLiteral("Packed %_DATES% at %_TIME%")))
+        .add(bound(text({0.2, 1.6, 3.6, 0.25}, QStringLiteral("Packed on 5/01/2024"), 9.0),
+                   QStringLiteral("_SPECIAL"), QStringLiteral("Packed on %_DATES%")))
         .add(shape(QStringLiteral("HorizontalLine"), {0.2, 1.5, 3.6, 0.0}, 1.0))
         .bytes();
 }
