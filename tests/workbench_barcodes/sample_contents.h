@@ -1,0 +1,141 @@
+#pragma once
+
+#include <array>
+
+/// A content that suits each symbology, and what an independent decoder makes of it.
+namespace samples {
+
+/// Formats of the decoder; None: it does not know the symbology.
+enum class Reads {
+    None,
+    Aztec,
+    Codabar,
+    Code39,
+    Code93,
+    Code128,
+    DataBar,
+    DataBarExpanded,
+    DataMatrix,
+    EAN8,
+    EAN13,
+    ITF,
+    MaxiCode,
+    PDF417,
+    QRCode,
+    UPCA,
+    UPCE,
+    MicroQRCode
+};
+
+struct Sample
+{
+    int code;
+    const char16_t* content;
+    Reads reads = Reads::None;
+    /// What is read; null: the content as it is.
+    const char16_t* text = nullptr;
+};
+
+// clang-format off
+inline constexpr std::array Samples = std::to_array<Sample>({
+    {1, u"123-45"},
+    {2, u"123456"},
+    {3, u"123456", Reads::ITF},
+    {4, u"123456"},
+    {6, u"123456"},
+    {7, u"123456"},
+    {8, u"LABEL-39", Reads::Code39},
+    {9, u"Label 39!", Reads::Code39},
+    {13, u"590123412345", Reads::EAN13, u"5901234123457"},
+    {14, u"5901234123457", Reads::EAN13},
+    {16, u"[01]09501101530003[10]AB12", Reads::Code128, u"010950110153000310AB12"},
+    {18, u"A12345B", Reads::Codabar},
+    {20, u"Label 128", Reads::Code128},
+    {21, u"1234567890123", Reads::ITF, u"12345678901236"},
+    {22, u"12345678901", Reads::ITF, u"123456789016"},
+    {23, u"Rows of 16K"},
+    {24, u"ROWS OF 49"},
+    {25, u"Label 93", Reads::Code93},
+    {28, u"12345"},
+    {29, u"0950110153000", Reads::DataBar, u"09501101530003"},
+    {30, u"0950110153000"},
+    {31, u"[01]09501101530003[10]AB12", Reads::DataBarExpanded, u"(01)09501101530003(10)AB12"},
+    {32, u"Telepen"},
+    {34, u"01234567890", Reads::UPCA, u"012345678905"},
+    {35, u"012345678905", Reads::UPCA},
+    {37, u"123456", Reads::UPCE, u"01234565"},
+    {38, u"01234565", Reads::UPCE},
+    {40, u"12345678901"},
+    {47, u"123456"},
+    {49, u"B"},
+    {50, u"LOGMARS 1", Reads::Code39},
+    {51, u"12345"},
+    {52, u"1234567", Reads::Code39, u"-12345678"},
+    {53, u"12345"},
+    {54, u"12345678"},
+    {55, u"PDF417 content", Reads::PDF417},
+    {56, u"Compact PDF417", Reads::PDF417},
+    {57, u"MaxiCode content", Reads::MaxiCode},
+    {58, u"QR content \u00e4\u4e2d", Reads::QRCode},
+    {60, u"Subset B 12345678", Reads::Code128},
+    {63, u"12345678"},
+    {66, u"12345678"},
+    {67, u"12345678"},
+    {68, u"12345678"},
+    {69, u"9783161484100", Reads::EAN13},
+    {70, u"LE28HS9Z"},
+    {71, u"Data Matrix content", Reads::DataMatrix},
+    {72, u"0950110153000", Reads::Code128, u"0109501101530003"},
+    {73, u"1M8GDM9AXKP042788", Reads::Code39},
+    {74, u"Codablock content"},
+    {75, u"12345678901234567", Reads::Code128, u"00123456789012345675"},
+    {76, u"1234567"},
+    {77, u"123456"},
+    {79, u"0950110153000", Reads::DataBar, u"09501101530003"},
+    {80, u"0950110153000", Reads::DataBar, u"09501101530003"},
+    {81, u"[01]09501101530003[10]AB12", Reads::DataBarExpanded, u"(01)09501101530003(10)AB12"},
+    {82, u"12345678901"},
+    {84, u"MicroPDF417"},
+    {85, u"01234567094987654321-01234567891"},
+    {86, u"12345ABC"},
+    {87, u"123456"},
+    {89, u"0950110153000", Reads::ITF, u"09501101530003"},
+    {90, u"2500GG30250"},
+    {92, u"Aztec content", Reads::Aztec},
+    {93, u"DAFTFDATATFDTFAD"},
+    {96, u"%000393206219912345678101040", Reads::Code128},
+    {97, u"MICRO 12", Reads::MicroQRCode},
+    {98, u"A123BJC5D6E71", Reads::Code128, u"+A123BJC5D6E71G"},
+    {99, u"A123BJC5D6E71", Reads::Code39, u"+A123BJC5D6E71G"},
+    {102, u"A123BJC5D6E71", Reads::DataMatrix, u"+A123BJC5D6E71G"},
+    {104, u"A123BJC5D6E71", Reads::QRCode, u"+A123BJC5D6E71G"},
+    {106, u"A123BJC5D6E71", Reads::PDF417, u"+A123BJC5D6E71G"},
+    {108, u"A123BJC5D6E71"},
+    {110, u"A123BJC5D6E71"},
+    {112, u"A123BJC5D6E71", Reads::Aztec, u"+A123BJC5D6E71G"},
+    {115, u"DotCode content"},
+    {116, u"Han Xin content"},
+    {121, u"1100000000000XY11"},
+    {128, u"123"},
+    {129, u"14352312", Reads::Code39, u"48VZ9Q"},
+    {130, u"331234567890|[99]1234-abcd"},
+    {131, u"[01]03212345678906|[21]A1B2C3D4E5F6G7H8"},
+    {132, u"0361234567890|[11]990102"},
+    {133, u"1311234567890|[21]1234-abcdef"},
+    {134, u"[01]09501101530003|[91]1A2B3C4D5E"},
+    {135, u"72527270270|[99]1234-abcd"},
+    {136, u"121230|[15]021231"},
+    {137, u"0361234567890|[11]990102"},
+    {138, u"0361234567890|[11]990102"},
+    {139, u"[01]09501101530003|[91]1A2B3C4D5E"},
+    {140, u"12345"},
+    {141, u"Code One"},
+    {142, u"Grid Matrix"},
+    {143, u"UPNQR content", Reads::QRCode},
+    {144, u"Ultracode"},
+    {145, u"Rectangular"},
+    {146, u"AQQ45670"},
+});
+// clang-format on
+
+} // namespace samples
