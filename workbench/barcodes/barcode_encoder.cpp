@@ -195,7 +195,8 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
 /// Flattermarken shows a 0 as nothing.
 [[nodiscard]] bool isBlank(const BarcodeSymbol& symbol)
 {
-    return symbol.bars.isEmpty() && symbol.coloredBars.isEmpty() && symbol.hexagons.isEmpty();
+    return symbol.bars.isEmpty() && symbol.coloredBars.isEmpty() && symbol.hexagons.isEmpty() &&
+           symbol.circles.isEmpty();
 }
 
 [[nodiscard]] BarcodeSymbol encodeOnce(const BarcodeRequest& request, const Symbology& symbology,
