@@ -29,7 +29,6 @@ CREAM = (253, 246, 227)
 EAN_13 = 10
 ISBN = 13
 CODE_128 = 20
-UPC_A = 34
 QR_CODE = 58
 DATA_MATRIX = 71
 PDF_417 = 55
@@ -80,14 +79,14 @@ def mix(a, b, share):
 def mountain_logo():
     """Two peaks with snow in front of a sun, on white."""
     def colour_at(x, y):
-        if (x - 66) ** 2 + (y - 22) ** 2 < 12 ** 2:
+        if (x - 76) ** 2 + (y - 20) ** 2 < 12 ** 2:
             return YELLOW
-        for peak_x, peak_y, colour in ((34, 16, BLUE), (60, 34, mix(BLUE, BLACK, 0.35))):
+        for peak_x, peak_y, colour in ((42, 16, BLUE), (66, 34, mix(BLUE, BLACK, 0.35))):
             depth = y - peak_y
             if depth > 0 and abs(x - peak_x) < depth * 0.62 and y < 78:
                 snow = 12 + 4 * math.sin(x * 0.9)
                 return WHITE if depth < snow else colour
-        if 80 <= y < 86 and 4 <= x < 92:
+        if 80 <= y < 86 and 3 <= x < 93:
             return GREEN
         return WHITE
     return Raster(96, 90, colour_at)
@@ -149,7 +148,7 @@ LEAF = svg(64, 64, '<path d="M6 58 Q2 22 30 10 Q46 4 60 4 Q60 34 46 48 Q32 60 14
 VIAL_FRAME = svg(252, 90, '<rect x="2" y="2" width="248" height="86" rx="10" fill="#ffffff" '
                           'stroke="#164a8c" stroke-width="2.5"/>'
                           '<path d="M2 24 H250" stroke="#164a8c" stroke-width="2"/>'
-                          '<path d="M226 8 H232 V13 H237 V19 H232 V24 H226 V19 H221 V13 H226 Z" '
+                          '<path d="M227 6 H232 V10.5 H236.5 V15.5 H232 V20 H227 V15.5 H222.5 V10.5 H227 Z" '
                           'fill="#c41e24"/>')
 
 
@@ -314,11 +313,12 @@ def warning_sign():
         box((0, 0, 360, 58), BLACK),
         label((10, 8, 340, 42), "DANGER", CENTRE, size=34, style=BOLD, fore=YELLOW),
         shape((22, 76, 108, 96), sides=3, index=1, line_width=6, fore=BLACK, back=YELLOW),
-        picture((59, 98, 36, 60), LIGHTNING),
+        picture((63, 108, 26, 48), LIGHTNING),
         label((146, 82, 200, 30), "High voltage", size=22, style=BOLD),
         label((146, 114, 200, 50), "Switch off and lock\nbefore opening.", size=14),
         box((22, 186, 316, 2), BLACK),
-        shape((28, 198, 42, 42), sides=8, index=1, line_width=2, fore=WHITE, back=RED),
+        shape((28, 198, 42, 42), sides=8, index=1, line_width=2, fore=WHITE, back=RED,
+              turn={"rotation": 22}),
         label((28, 210, 42, 18), "STOP", CENTRE, size=10, style=BOLD, fore=WHITE),
         label((82, 196, 256, 46), "Authorised staff only", LEFT, size=16,
               style=BOLD | UNDERLINE,
@@ -396,14 +396,15 @@ def shapes_sheet():
     for number, (name, look) in enumerate(figures):
         x = 10 + number % columns * cell_w
         y = 8 + number // columns * cell_h
-        objects.append(shape((x + 10, y + 4, 44, 40), **look))
+        place = (x + 16, y + 10, 32, 28) if "turned" in name else (x + 10, y + 4, 44, 40)
+        objects.append(shape(place, **look))
         objects.append(label((x, y + 50, 64, 12), name, CENTRE, **caption))
     logo = mountain_logo().png()
     x, y = 10 + 4 * cell_w, 8 + 3 * cell_h
     objects.append(picture((x + 12, y + 4, 42, 40), logo,
                            {"rotation": 180, "flip_horizontally": True}))
     objects.append(label((x, y + 50, 64, 12), "picture, turned", CENTRE, **caption))
-    return document(columns * cell_w + 12, rows * cell_h + 15, *objects)
+    return document(columns * cell_w + 12, rows * cell_h + 12, *objects)
 
 
 LABELS = {

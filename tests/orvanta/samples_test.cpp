@@ -27,7 +27,7 @@ TEST_F(Samples, AreImportedWholeAndWithoutALogLine)
         {"book_label", "importCanvasParameters 216 288 false true", 10, 4, 0},
         {"jar_label", "importCanvasParameters 288 216 false false", 8, 2, 1},
         {"parcel_label", "importCanvasParameters 288 432 false true", 18, 4, 2},
-        {"shapes_sheet", "importCanvasParameters 372 279 false false", 40, 0, 0},
+        {"shapes_sheet", "importCanvasParameters 372 276 false false", 40, 0, 0},
         {"shelf_label", "importCanvasParameters 252 108 false false", 7, 2, 0},
         {"vial_label", "importCanvasParameters 252 90 false false", 8, 4, 1},
         {"warning_sign", "importCanvasParameters 360 252 false false", 11, 1, 1},
