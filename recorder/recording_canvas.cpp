@@ -5,8 +5,6 @@
 
 #include <QGraphicsItem>
 
-#include <algorithm>
-
 namespace recorder {
 
 namespace {
@@ -92,8 +90,8 @@ void RecordingCanvas::completeCanvasLoading()
 void RecordingCanvas::adopt(Item* item)
 {
     // An item that is handed over twice is a fault to be seen in the trace, not a crash.
-    const auto isSame = [item](const std::unique_ptr<Item>& owned) { return owned.get() == item; };
-    if (item != nullptr && std::none_of(m_items.begin(), m_items.end(), isSame)) {
+    if (item != nullptr && !m_adopted.contains(item)) {
+        m_adopted.insert(item);
         m_items.emplace_back(item);
     }
 }

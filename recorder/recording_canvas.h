@@ -5,6 +5,7 @@
 #include "recorder/recording_factory.h"
 
 #include <QColor>
+#include <QSet>
 
 #include <memory>
 #include <vector>
@@ -38,6 +39,7 @@ private:
     QColor m_backgroundColor{Qt::white};
     QColor m_defaultPenColor{Qt::black};
     std::vector<std::unique_ptr<Item>> m_items;
+    QSet<const Item*> m_adopted;
 };
 
 } // namespace recorder
