@@ -64,6 +64,19 @@ bool isEndless(const QString& path)
     return info.exists() && !info.isFile() && !info.isDir();
 }
 
+// In blocks, because one read of the whole bound would take its memory for every file.
+QByteArray readUpTo(QFile& file, qint64 bound)
+{
+    constexpr qint64 blockSize = 64 * 1024;
+    QByteArray bytes;
+    QByteArray block;
+    do {
+        block = file.read(blockSize);
+        bytes += block;
+    } while (!block.isEmpty() && bytes.size() < bound);
+    return bytes;
+}
+
 std::optional<QByteArray> readWholeFile(const QString& path)
 {
     if (isEndless(path)) {
@@ -74,7 +87,7 @@ std::optional<QByteArray> readWholeFile(const QString& path)
     if (!file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }
-    QByteArray bytes = file.read(MaximumFileSize + 1);
+    QByteArray bytes = readUpTo(file, MaximumFileSize + 1);
     if (bytes.size() > MaximumFileSize) {
         logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too large for a label: %1").arg(path));
         return std::nullopt;

@@ -1,7 +1,6 @@
 #include "tests/tavrel/label_file.h"
 
 #include <QBuffer>
-#include <QImage>
 
 namespace tavrel_test {
 
@@ -143,9 +142,9 @@ LabelFile& LabelFile::raw(const QByteArray& bytes)
     return *this;
 }
 
-QByteArray pngOf(int width, int height)
+QByteArray pngOf(int width, int height, QImage::Format format)
 {
-    QImage image(width, height, QImage::Format_RGB32);
+    QImage image(width, height, format);
     image.fill(Qt::darkGreen);
     QByteArray bytes;
     QBuffer buffer(&bytes);

@@ -2,6 +2,7 @@
 
 #include "tests/tavrel/bytes.h"
 
+#include <QImage>
 #include <QStringList>
 
 namespace tavrel_test {
@@ -43,6 +44,6 @@ private:
 };
 
 /// A PNG of one colour, size 1 by 1 pixel at least.
-[[nodiscard]] QByteArray pngOf(int width, int height);
+[[nodiscard]] QByteArray pngOf(int width, int height, QImage::Format format = QImage::Format_RGB32);
 
 } // namespace tavrel_test
