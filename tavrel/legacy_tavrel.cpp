@@ -19,14 +19,12 @@
 #include "tavrel/symbol_builder.h"
 #include "tavrel/symbol_record.h"
 #include "tavrel/text_builder.h"
+#include "tavrel/whole_file.h"
 
 #include <Logger.h>
 
 #include <QDataStream>
-#include <QFile>
-#include <QFileInfo>
 
-#include <optional>
 #include <utility>
 
 using namespace tavrel;
@@ -57,42 +55,14 @@ void logRefusedItem(int line, const char* function, BuildResult result)
     }
 }
 
-// A pipe or a device would never end, or never begin.
-bool isEndless(const QString& path)
+// A file that cannot be opened is the caller's to tell; the rest would be a riddle to users.
+void logRefusedFile(int line, const char* function, WholeFile::Status status, const QString& path)
 {
-    const QFileInfo info(path);
-    return info.exists() && !info.isFile() && !info.isDir();
-}
-
-// In blocks, because one read of the whole bound would take its memory for every file.
-QByteArray readUpTo(QFile& file, qint64 bound)
-{
-    constexpr qint64 blockSize = 64 * 1024;
-    QByteArray bytes;
-    QByteArray block;
-    do {
-        block = file.read(blockSize);
-        bytes += block;
-    } while (!block.isEmpty() && bytes.size() < bound);
-    return bytes;
-}
-
-std::optional<QByteArray> readWholeFile(const QString& path)
-{
-    if (isEndless(path)) {
-        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Not a regular file: %1").arg(path));
-        return std::nullopt;
+    if (status == WholeFile::Status::NotAFile) {
+        logError(line, function, QStringLiteral("Not a regular file: ") + path);
+    } else if (status == WholeFile::Status::TooLarge) {
+        logError(line, function, QStringLiteral("Too large for a label: ") + path);
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    QByteArray bytes = readUpTo(file, MaximumFileSize + 1);
-    if (bytes.size() > MaximumFileSize) {
-        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too large for a label: %1").arg(path));
-        return std::nullopt;
-    }
-    return bytes;
 }
 
 } // namespace
@@ -114,13 +84,14 @@ LegacyTavrel::~LegacyTavrel()
 
 bool LegacyTavrel::importLabelFromFile(const QString& path)
 {
-    const std::optional<QByteArray> bytes = readWholeFile(path);
-    if (!bytes) {
+    const WholeFile file = readWholeFile(path);
+    if (file.status != WholeFile::Status::Read) {
+        logRefusedFile(__LINE__, Q_FUNC_INFO, file.status, path);
         return false;
     }
     // Version, byte order and precision of the stream stay as they are by default: labels
     // were written that way.
-    QDataStream stream(*bytes);
+    QDataStream stream(file.bytes);
     const CanvasHeader header = readCanvasHeader(stream);
     if (!header.isSupported()) {
         const QString message =
