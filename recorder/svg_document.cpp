@@ -10,8 +10,14 @@ namespace recorder {
 
 namespace {
 
-/// Deepest nesting of elements. Drawing programs stay below 30.
+// Bounds that no drawing of a label comes near, and within which the renderer stays quick.
+constexpr qsizetype MaximumBytes = 16 * 1024 * 1024;
+constexpr int MaximumElements = 100'000;
 constexpr int MaximumDepth = 256;
+/// The parser compares every attribute of an element with every other.
+constexpr qsizetype MaximumAttributes = 1000;
+/// Text of all style sheets together: the renderer tries every rule on every element.
+constexpr qsizetype MaximumStyleText = 32 * 1024;
 /// Most copies ("use") in a document that does not tell its size, because the renderer
 /// then walks through every copy of every copy: n of them can stand for 3^(n/3) elements.
 constexpr int MaximumCopiesWithoutSize = 30;
@@ -47,15 +53,21 @@ public:
 
     QByteArray copy()
     {
-        while (!m_in.atEnd() && m_depth <= MaximumDepth) {
+        while (!m_in.atEnd() && isBounded()) {
             copyToken(m_in.readNext());
         }
         const bool complete = m_in.atEnd() && !m_in.hasError();
-        const bool bounded = m_knowsSize || m_copies <= MaximumCopiesWithoutSize;
-        return complete && bounded ? m_copy : QByteArray();
+        return complete && isBounded() ? m_copy : QByteArray();
     }
 
 private:
+    [[nodiscard]] bool isBounded() const
+    {
+        return m_depth <= MaximumDepth && m_elements <= MaximumElements &&
+               m_attributes <= MaximumAttributes && m_styleText <= MaximumStyleText &&
+               (m_knowsSize || m_copies <= MaximumCopiesWithoutSize);
+    }
+
     void copyToken(QXmlStreamReader::TokenType token)
     {
         switch (token) {
@@ -64,9 +76,11 @@ private:
             break;
         case QXmlStreamReader::EndElement:
             --m_depth;
+            m_inStyle = false;
             m_out.writeEndElement();
             break;
         case QXmlStreamReader::Characters:
+            m_styleText += m_inStyle ? m_in.text().size() : 0;
             m_out.writeCharacters(m_in.text().toString());
             break;
         default:
@@ -78,9 +92,12 @@ private:
     {
         const QStringView name = localName(m_in.qualifiedName());
         ++m_depth;
+        ++m_elements;
+        m_inStyle = name == u"style";
         m_copies += name == u"use" ? 1 : 0;
         m_out.writeStartElement(m_in.qualifiedName().toString());
         const QXmlStreamAttributes attributes = m_in.attributes();
+        m_attributes = attributes.size();
         if (m_depth == 1) {
             m_knowsSize = tellsViewBox(attributes);
         }
@@ -109,6 +126,10 @@ private:
     QByteArray m_copy;
     QXmlStreamWriter m_out;
     int m_depth = 0;
+    int m_elements = 0;
+    qsizetype m_attributes = 0; ///< of the last element
+    bool m_inStyle = false;
+    qsizetype m_styleText = 0;
     int m_copies = 0;
     bool m_knowsSize = false;
 };
@@ -127,7 +148,7 @@ SvgDocument::SvgDocument(const QByteArray& bytes)
 
 QByteArray selfContainedSvg(const QByteArray& bytes)
 {
-    return Copier(bytes).copy();
+    return bytes.size() <= MaximumBytes ? Copier(bytes).copy() : QByteArray();
 }
 
 } // namespace recorder

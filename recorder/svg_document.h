@@ -26,8 +26,8 @@ private:
 /// The same document without anything that a renderer would open or load: style sheets,
 /// document types, pictures that are not inside the document.
 ///
-/// Empty when the bytes are no well-formed XML, or when rendering them could take
-/// unbounded time: nested too deeply, or multiplied by copies of copies.
+/// Empty when the bytes are no well-formed XML, or when the renderer could take unbounded
+/// time over them: too large in any respect, or multiplied by copies of copies.
 [[nodiscard]] QByteArray selfContainedSvg(const QByteArray& bytes);
 
 } // namespace recorder

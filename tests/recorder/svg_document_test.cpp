@@ -3,7 +3,10 @@
 #include "recorder/svg_document.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
+#include <QSvgRenderer>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -89,6 +92,57 @@ TEST(SvgDocument, readsAnySpellingOfPrefixes)
                                 "</s:svg>";
     EXPECT_FALSE(selfContainedSvg(document).contains("/x'"));
     EXPECT_FALSE(selfContainedSvg(document).contains("l:href"));
+}
+
+TEST(SvgDocument, opensNoFileThatItNames)
+{
+    // Without a size of its own, a document is as large as what is drawn: were the picture
+    // or the style sheet opened, it would show.
+    const QTemporaryDir folder;
+    QImage picture(50, 50, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    const QString pictureFile = folder.filePath(QStringLiteral("picture.png"));
+    ASSERT_TRUE(picture.save(pictureFile));
+    QFile sheet(folder.filePath(QStringLiteral("sheet.css")));
+    ASSERT_TRUE(sheet.open(QIODevice::WriteOnly));
+    sheet.write("rect { stroke: red; stroke-width: 20 }");
+    sheet.close();
+
+    const QByteArray content = "<rect width='4' height='3'/><image width='50' height='50' "
+                               "xlink:href='" +
+                               pictureFile.toUtf8() + "'/>";
+    const QByteArray document = "<?xml-stylesheet type='text/css' href='" +
+                                sheet.fileName().toUtf8() + "'?>" + svg("", content);
+    EXPECT_EQ(SvgDocument(document).defaultSize(), QSizeF(4, 3));
+
+    // The renderer as it is does open them.
+    QSvgRenderer bare(document);
+    EXPECT_NE(bare.defaultSize(), QSize(4, 3));
+}
+
+TEST(SvgDocument, refusesWhatIsTooLarge)
+{
+    const auto isTaken = [](const QByteArray& attributes, const QByteArray& content) {
+        return SvgDocument(svg("width='4' height='4' " + attributes, content)).isValid();
+    };
+    EXPECT_TRUE(isTaken("", QByteArray("<g/>").repeated(99'999)));
+    EXPECT_FALSE(isTaken("", QByteArray("<g/>").repeated(100'000)));
+
+    QByteArray attributes;
+    for (int i = 0; i < 1000; ++i) {
+        attributes += " a" + QByteArray::number(i) + "='1'";
+    }
+    EXPECT_TRUE(isTaken("", "<g" + attributes + "/>"));
+    EXPECT_FALSE(isTaken("", "<g b='1'" + attributes + "/>"));
+
+    const auto style = [](qsizetype size) {
+        return "<style>" + QByteArray(size, ' ') + "</style><style> </style>";
+    };
+    EXPECT_TRUE(isTaken("", style(32 * 1024 - 1)));
+    EXPECT_FALSE(isTaken("", style(32 * 1024)));
+    EXPECT_TRUE(isTaken("", "<text>" + QByteArray(32 * 1024 + 1, ' ') + "</text>"));
+
+    EXPECT_FALSE(isTaken("id='" + QByteArray(16 * 1024 * 1024, 'x') + '\'', ""));
 }
 
 TEST(SvgDocument, refusesDeepNesting)
