@@ -142,11 +142,12 @@ void Canvas::clear()
     Q_EMIT itemsChanged();
 }
 
-void Canvas::showRecord(int record, const RecordText& recordText)
+void Canvas::showRecord(qint64 record, const RecordText& recordText)
 {
     for (CanvasItem* item : std::as_const(m_items)) {
-        if (item->datasourceId() >= 0) {
-            item->showContent(recordText(item->datasourceId(), record));
+        const DatasourceValues source = item->datasource();
+        if (source.id >= 0) {
+            item->showContent(recordText(source.id, record, source.fields));
         }
     }
 }

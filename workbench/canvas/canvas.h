@@ -66,10 +66,13 @@ public:
     /// Deletes all items and makes the page a new one.
     void clear();
 
-    /// What a data source has in a record; nothing for a source that does not exist.
-    using RecordText = std::function<std::optional<QString>(int datasourceId, int record)>;
-    /// Shows one record on all items that are bound to a data source.
-    void showRecord(int record, const RecordText& recordText);
+    /// What a data source has in the fields of a record; nothing for a source or a record
+    /// that does not exist.
+    using RecordText = std::function<std::optional<QString>(int datasourceId, qint64 record,
+                                                            const QStringList& fields)>;
+    /// Shows one record, counted from 0, on all items that are bound to a data source. An
+    /// item whose source has nothing to show shows its own content.
+    void showRecord(qint64 record, const RecordText& recordText);
 
     [[nodiscard]] QGraphicsScene* scene() { return &m_scene; }
 

@@ -1,10 +1,36 @@
 #include "workbench/items/barcode_item.h"
 
+#include "workbench/barcodes/barcode_painter.h"
 #include "workbench/items/text_layout.h"
 
 #include <QPainter>
 
 namespace workbench {
+
+namespace {
+
+// Captions of labels that state no size.
+constexpr int kCaptionSize = 8;
+
+int captionSize(const FontValues& font)
+{
+    return font.sized ? font.pointSize : kCaptionSize;
+}
+
+// The colour of what is drawn as ground: that of the label's material, usually white,
+// where the barcode has none of its own.
+QColor groundOf(const BarcodeValues& values)
+{
+    return values.background.alpha() > 0 ? values.background : QColor(Qt::white);
+}
+
+} // namespace
+
+void BarcodeItem::setTextAlignment(Qt::Alignment alignment)
+{
+    m_barcode.textAlignment = static_cast<int>(alignment.toInt());
+    DatasourceLayer::setTextAlignment(alignment);
+}
 
 void BarcodeItem::setBarcodeType(int code)
 {
@@ -36,32 +62,48 @@ void BarcodeItem::importBarcodeProperties(int symbology, const QString& content,
     m_barcode.symbology = symbology;
     m_barcode.content = content;
     m_barcode.flag3 = flag3;
-    m_barcode.textAlignment = textAlignment;
     m_barcode.moduleWidth = moduleWidth;
     m_barcode.flag1 = flag1;
     m_barcode.flag2 = flag2;
     m_barcode.option = option;
     m_barcode.number = number;
     m_barcode.value = value;
-    appearanceChanged();
+    setTextAlignment(Qt::Alignment(textAlignment));
 }
 
 QString BarcodeItem::issue() const
 {
-    return {};
+    return symbol().error;
+}
+
+void BarcodeItem::appearanceChanged()
+{
+    m_symbol.reset();
+    DatasourceLayer::appearanceChanged();
+}
+
+const barcodes::BarcodeSymbol& BarcodeItem::symbol() const
+{
+    if (!m_symbol) {
+        m_symbol = barcodes::encode({m_barcode.symbology, shownContent(m_barcode.content),
+                                     m_barcode.flag3, m_barcode.flag1, m_barcode.flag2,
+                                     m_barcode.option, m_barcode.number, m_barcode.value});
+    }
+    return *m_symbol;
 }
 
 void BarcodeItem::paintContent(QPainter& painter)
 {
     const QRectF box = contentRect();
     painter.fillRect(box, m_barcode.background);
-    painter.setPen(QPen(m_barcode.foreground, 1.0, Qt::DashLine));
-    painter.drawRect(box);
-    const QString label = QStringLiteral("Barcode %1: %2")
-                              .arg(m_barcode.symbology)
-                              .arg(shownContent(m_barcode.content));
-    paintTextFilling(
-        painter, {label, toFont(fontValues()), Qt::AlignCenter, m_barcode.foreground, false}, box);
+    barcodes::BarcodeStyle style;
+    style.foreground = m_barcode.foreground;
+    style.background = groundOf(m_barcode);
+    style.textColor = textStyleValues().color;
+    style.font = toFont(fontValues(), captionSize(fontValues()));
+    style.captionAlignment = Qt::Alignment(m_barcode.textAlignment);
+    style.moduleWidth = m_barcode.moduleWidth;
+    barcodes::paintBarcode(painter, box, symbol(), style);
 }
 
 void BarcodeItem::collect(ItemValues& values) const

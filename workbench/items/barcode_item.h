@@ -1,17 +1,22 @@
 #pragma once
 
 #include "host/items/barcode_item.h"
+#include "workbench/barcodes/barcode_encoder.h"
 #include "workbench/items/box_layer.h"
 #include "workbench/items/facet_layers.h"
 
+#include <optional>
+
 namespace workbench {
 
-/// A barcode. The fill colour is the background: a barcode has one ground.
+/// A barcode, fitted into its box. The fill colour is the background: a barcode has one ground.
 class BarcodeItem final : public DatasourceLayer<TextStyleLayer<FontLayer<BoxLayer<::BarcodeItem>>>>
 {
 public:
     using DatasourceLayer::DatasourceLayer;
 
+    /// Where the caption stands; importBarcodeProperties() sets the same.
+    void setTextAlignment(Qt::Alignment alignment) override;
     void setBarcodeType(int code) override;
     /// The caption takes the colour of the bars; a text colour set later holds for it alone.
     void setForegroundColor(const QColor& color) override;
@@ -21,15 +26,21 @@ public:
                                  int textAlignment, int moduleWidth, bool flag1, bool flag2,
                                  int option, int number, int value) override;
 
+    /// Why the content cannot be encoded; it then stands in the box instead of the bars.
     [[nodiscard]] QString issue() const override;
 
 protected:
     void paintContent(QPainter& painter) override;
     void collect(ItemValues& values) const override;
     void restore(const ItemValues& values) override;
+    void appearanceChanged() override;
 
 private:
+    [[nodiscard]] const barcodes::BarcodeSymbol& symbol() const;
+
     BarcodeValues m_barcode;
+    /// Encoded when it is first asked for, and again after a change.
+    mutable std::optional<barcodes::BarcodeSymbol> m_symbol;
 };
 
 } // namespace workbench

@@ -33,8 +33,8 @@ public:
     virtual void setReadOnly(bool readOnly) = 0;
     virtual void setUserBackground(bool background) = 0;
 
-    /// Identifier of the data source, -1 for an item that is bound to none.
-    [[nodiscard]] virtual int datasourceId() const { return -1; }
+    /// The binding to a data source.
+    [[nodiscard]] virtual DatasourceValues datasource() const { return {}; }
     /// Shows this text in place of the item's own content, or the own content again. The
     /// text comes from a data source and is no part of the item's values.
     virtual void showContent(const std::optional<QString>& text) { Q_UNUSED(text) }

@@ -210,7 +210,7 @@ public:
     void setDatasourceId(int id) override { m_datasource.id = id; }
     void setDatasourceFields(const QStringList& fields) override { m_datasource.fields = fields; }
 
-    [[nodiscard]] int datasourceId() const override { return m_datasource.id; }
+    [[nodiscard]] DatasourceValues datasource() const override { return m_datasource; }
 
     void showContent(const std::optional<QString>& text) override
     {

@@ -1,6 +1,7 @@
 #include "workbench/items/symbol_item.h"
 
 #include "workbench/items/symbol_colors.h"
+#include "workbench/symbols/symbol_data.h"
 
 #include <QPainter>
 #include <QSvgRenderer>
@@ -16,9 +17,9 @@ SymbolItem::~SymbolItem() = default;
 
 void SymbolItem::loadItemFromData(const QByteArray& data)
 {
-    m_symbol.data = data;
-    loadDrawing();
-    setBoxSize(m_drawing->isValid() ? QSizeF(m_drawing->defaultSize()) : QSizeF(0.0, 0.0));
+    takeData(data);
+    setBoxSize(m_drawing->isValid() ? boundedSize(symbols::naturalSize(m_safeData))
+                                    : QSizeF(0.0, 0.0));
 }
 
 void SymbolItem::setForegroundColor(const QColor& color)
@@ -38,9 +39,16 @@ void SymbolItem::setFillColor(const QColor& color)
     setBackgroundColor(color);
 }
 
+void SymbolItem::takeData(const QByteArray& data)
+{
+    m_symbol.data = data;
+    m_safeData = symbols::makeSymbolData(data).value_or(QByteArray());
+    loadDrawing();
+}
+
 void SymbolItem::loadDrawing()
 {
-    m_drawing->load(withForeground(m_symbol.data, m_symbol.foreground));
+    m_drawing->load(withForeground(m_safeData, m_symbol.foreground));
     appearanceChanged();
 }
 
@@ -62,7 +70,7 @@ void SymbolItem::collect(ItemValues& values) const
 void SymbolItem::restore(const ItemValues& values)
 {
     m_symbol = values.symbol.value_or(SymbolValues());
-    loadDrawing();
+    takeData(m_symbol.data);
     DatasourceLayer::restore(values);
 }
 

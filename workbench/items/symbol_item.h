@@ -18,6 +18,9 @@ namespace workbench {
 /// own and those that ask for the current colour. Colours that the drawing states stay,
 /// so that a coloured logo keeps them. The fill colour is the background: a symbol has
 /// one ground.
+///
+/// Whatever data it is given, only what is safe of it is drawn: nothing outside the drawing
+/// is ever opened.
 class SymbolItem final : public DatasourceLayer<BoxLayer<::SymbolItem>>
 {
 public:
@@ -35,9 +38,11 @@ protected:
     void restore(const ItemValues& values) override;
 
 private:
+    void takeData(const QByteArray& data);
     void loadDrawing();
 
     SymbolValues m_symbol;
+    QByteArray m_safeData;
     std::unique_ptr<QSvgRenderer> m_drawing;
 };
 

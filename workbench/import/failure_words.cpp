@@ -1,0 +1,104 @@
+#include "workbench/import/failure_words.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <array>
+
+namespace workbench {
+
+namespace {
+
+// What readers log when they give up, and what that means to the person who has the file.
+// The words may take over what the pattern captured.
+struct Row
+{
+    const char* pattern;
+    const char* words;
+};
+
+constexpr std::array kRows{
+    Row{R"(^Invalid canvas file version \((\d+))",
+        QT_TRANSLATE_NOOP("workbench::FailureWords",
+                          "The file is no binary label, or one of a version that cannot be read: "
+                          "it says version %1, but 2000016 is the oldest that can.")},
+    Row{R"(^Error opening file)",
+        QT_TRANSLATE_NOOP("workbench::FailureWords", "The file cannot be opened.")},
+    Row{R"(is too large: (.*)$)",
+        QT_TRANSLATE_NOOP("workbench::FailureWords", "The file is too large for a label: %1.")},
+    Row{R"(^Error parsing file: .* / (styles\.xml|content\.xml) at line (\d+), column (\d+):\n(.*)$)",
+        QT_TRANSLATE_NOOP("workbench::FailureWords",
+                          "The document is damaged: its part %1 is not well-formed at line %2, "
+                          "column %3 (%4).")},
+    Row{R"(^Error parsing file: .* at line (\d+), column (\d+):\n(.*)$)",
+        QT_TRANSLATE_NOOP("workbench::FailureWords",
+                          "The file is no label or a damaged one: it is not well-formed XML at "
+                          "line %1, column %2 (%3).")},
+    Row{R"(not a orvanta doc$)",
+        QT_TRANSLATE_NOOP("workbench::FailureWords",
+                          "The file is XML, but not a label: its outermost element is not "
+                          "\"qmtx\".")},
+    Row{R"(^Unable to get file styles\.)",
+        QT_TRANSLATE_NOOP("workbench::FailureWords",
+                          "The file is no OpenDocument file, or a damaged one: it has no "
+                          "readable part styles.xml.")},
+    Row{R"(^Unable to get file content\.)",
+        QT_TRANSLATE_NOOP("workbench::FailureWords",
+                          "The OpenDocument file is damaged: it has no readable part "
+                          "content.xml.")},
+};
+
+QString translated(const char* words)
+{
+    return QCoreApplication::translate("workbench::FailureWords", words);
+}
+
+QString wordsFor(const QString& message)
+{
+    for (const Row& row : kRows) {
+        const QRegularExpression pattern(QString::fromLatin1(row.pattern),
+                                         QRegularExpression::DotMatchesEverythingOption);
+        const QRegularExpressionMatch match = pattern.match(message);
+        if (!match.hasMatch()) {
+            continue;
+        }
+        QString words = translated(row.words);
+        for (int group = 1; group <= match.lastCapturedIndex(); ++group) {
+            words.replace(QStringLiteral("%%1").arg(group), match.captured(group));
+        }
+        return words;
+    }
+    return {};
+}
+
+QString lastError(const QList<LogRecord>& records)
+{
+    for (auto record = records.crbegin(); record != records.crend(); ++record) {
+        if (record->isError) {
+            return record->message;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+QString whyImportFailed(const QList<LogRecord>& records, const QStringList& messages)
+{
+    for (auto record = records.crbegin(); record != records.crend(); ++record) {
+        const QString words = wordsFor(record->message);
+        if (!words.isEmpty()) {
+            return words;
+        }
+    }
+    if (!messages.isEmpty()) {
+        return messages.join(QLatin1Char('\n'));
+    }
+    const QString error = lastError(records);
+    return error.isEmpty() ? translated(QT_TRANSLATE_NOOP("workbench::FailureWords",
+                                                          "The file holds nothing that can be "
+                                                          "put on a label."))
+                           : error;
+}
+
+} // namespace workbench

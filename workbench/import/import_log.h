@@ -1,0 +1,38 @@
+#pragma once
+
+#include <AbstractAppender.h>
+
+#include <QList>
+#include <QString>
+
+namespace workbench {
+
+/// One record of the log.
+struct LogRecord
+{
+    bool isError = false; ///< of error level or above; all others count as debug
+    QString source;       ///< file name of the source that wrote it
+    QString message;
+    bool operator==(const LogRecord&) const = default;
+};
+
+/// Collects what is logged for as long as it lives.
+///
+/// A damaged file can fill a log: after a thousand records no more are kept.
+class ImportLog
+{
+public:
+    ImportLog();
+    ~ImportLog();
+    ImportLog(const ImportLog&) = delete;
+    ImportLog& operator=(const ImportLog&) = delete;
+
+    [[nodiscard]] const QList<LogRecord>& records() const;
+    void clear();
+
+private:
+    class Appender;
+    Appender* m_appender; // the logger's while it is registered, ours in the end
+};
+
+} // namespace workbench

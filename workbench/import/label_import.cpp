@@ -1,0 +1,85 @@
+#include "workbench/import/label_import.h"
+
+#include "host/file_controller.h"
+#include "importer/legacy_template_importer.h"
+#include "importer/reader_choice.h"
+#include "workbench/import/file_check.h"
+#include "workbench/import/import_observer.h"
+
+#include <QCoreApplication>
+
+#include <new>
+
+namespace workbench {
+
+namespace {
+
+// An import without a window has nothing open and saves nothing.
+class NoFiles final : public FileController
+{
+public:
+    bool checkSaveChanges(TalCanvasModel*, const QString&, bool) override { return true; }
+    void saveImportedLabelAs(const QString&, const QString&, const QString&) override {}
+    void emitLabelTypeLoadedSignal(QString) override {}
+};
+
+bool readBy(LegacyTemplateImporter& importer, const QString& fileName)
+{
+    switch (readerForFile(fileName)) {
+    case ReaderKind::Orvanta:
+        return importer.importLabelFromOrvantaFile(fileName);
+    case ReaderKind::OpenDocument:
+        return importer.importLabelFromOpenOfficeFile(fileName);
+    case ReaderKind::Tavrel:
+        break;
+    }
+    return importer.importLabelFromTavrelFile(fileName);
+}
+
+void showFirstRecord(Canvas& canvas, const datasources::DatasourceController& sources)
+{
+    canvas.showRecord(0, [&sources](int id, qint64 record, const QStringList& fields) {
+        return sources.recordText(id, record, fields);
+    });
+}
+
+ImportResult importReadableFile(const QString& fileName)
+{
+    ImportResult result;
+    auto canvas = std::make_unique<Canvas>();
+    auto sources = std::make_unique<datasources::DatasourceController>();
+    NoFiles files;
+    LegacyTemplateImporter importer(canvas.get(), &files, sources.get());
+    const ImportObserver observer(importer);
+    const bool imported = readBy(importer, fileName);
+    result.log = observer.log();
+    if (!imported) {
+        result.error = observer.failure();
+        return result;
+    }
+    showFirstRecord(*canvas, *sources);
+    result.issues = observer.issues(*canvas);
+    result.canvas = std::move(canvas);
+    result.datasources = std::move(sources);
+    return result;
+}
+
+} // namespace
+
+ImportResult importLabel(const QString& fileName)
+{
+    ImportResult result;
+    result.error = whyFileCannotBeRead(fileName);
+    if (!result.error.isEmpty()) {
+        return result;
+    }
+    try {
+        return importReadableFile(fileName);
+    } catch (const std::bad_alloc&) {
+        result.error = QCoreApplication::translate("workbench::LabelImport",
+                                                   "There is not enough memory for this file.");
+        return result;
+    }
+}
+
+} // namespace workbench

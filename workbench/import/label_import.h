@@ -1,0 +1,36 @@
+#pragma once
+
+#include "workbench/canvas/canvas.h"
+#include "workbench/datasources/datasource_controller.h"
+#include "workbench/import/import_log.h"
+#include "workbench/import/issue_words.h"
+
+#include <QList>
+#include <QString>
+
+#include <memory>
+
+namespace workbench {
+
+/// What became of one file.
+struct ImportResult
+{
+    /// The label; null when the import failed.
+    std::unique_ptr<Canvas> canvas;
+    /// The label's data sources; null when the import failed.
+    std::unique_ptr<datasources::DatasourceController> datasources;
+    /// What could not be carried over.
+    QList<ImportIssue> issues;
+    /// Why the import failed, in words for a person; empty when it did not.
+    QString error;
+    /// What was logged, for developers.
+    QList<LogRecord> log;
+
+    [[nodiscard]] bool isImported() const { return canvas != nullptr; }
+};
+
+/// Imports one file onto a canvas of its own, without any window. Which reader gets it is
+/// decided by its name. Items that are bound to a data source show its first record.
+[[nodiscard]] ImportResult importLabel(const QString& fileName);
+
+} // namespace workbench

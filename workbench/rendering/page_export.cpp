@@ -1,0 +1,163 @@
+#include "workbench/rendering/page_export.h"
+
+#include "workbench/canvas/canvas.h"
+#include "workbench/rendering/page_painter.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QScreen>
+#include <QSvgGenerator>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+constexpr double kMillimetresPerInch = 25.4;
+constexpr int kPdfDpi = 1200;
+// The head of a document that holds its size.
+constexpr qsizetype kHeadLength = 600;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("workbench::PageExport", text);
+}
+
+QString cannotWrite(const QString& fileName, const QString& reason)
+{
+    return tr("Cannot write \"%1\": %2.").arg(fileName, reason);
+}
+
+// The resolution in which fonts of a size in points were laid out.
+int layoutDpi()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? qRound(screen->logicalDotsPerInch()) : 96;
+}
+
+QByteArray millimetres(double points)
+{
+    return QByteArray::number(points / kPointsPerInch * kMillimetresPerInch, 'g', 8) + "mm";
+}
+
+// The generator rounds the size of a document to pixels; a label is cut to size.
+QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
+{
+    QString head = QString::fromUtf8(svg.left(kHeadLength));
+    static const QRegularExpression size(
+        QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
+    const QByteArray exact = "<svg width=\"" + millimetres(page.width()) + "\" height=\""
+                             + millimetres(page.height()) + '"';
+    const QRegularExpressionMatch match = size.match(head);
+    if (match.hasMatch()) {
+        svg.replace(match.capturedStart(), match.capturedLength(), exact);
+    }
+    return svg;
+}
+
+QByteArray svgOf(const Canvas& canvas)
+{
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setResolution(layoutDpi());
+    generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
+    generator.setViewBox(canvas.pageRect());
+    generator.setTitle(tr("Label"));
+    QPainter painter(&generator);
+    paintPage(painter, canvas);
+    painter.end();
+    return withTrueSize(buffer.data(), canvas.page().size);
+}
+
+QPageSize pageSizeOf(const Canvas& canvas)
+{
+    return QPageSize(canvas.page().size, QPageSize::Point, {}, QPageSize::ExactMatch);
+}
+
+bool isTooLargeForPdf(const QSizeF& page)
+{
+    return std::max(page.width(), page.height()) > kMaximumPdfSide;
+}
+
+void setUp(QPdfWriter& writer, const Canvas& canvas)
+{
+    writer.setResolution(kPdfDpi);
+    writer.setPageSize(pageSizeOf(canvas));
+    writer.setPageOrientation(QPageLayout::Portrait);
+    writer.setPageMargins(QMarginsF());
+    writer.setCreator(QStringLiteral("LabelPort"));
+    writer.setTitle(tr("Label"));
+}
+
+} // namespace
+
+QString writeSvg(const Canvas& canvas, const QString& fileName)
+{
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return cannotWrite(fileName, file.errorString());
+    }
+    const QByteArray svg = svgOf(canvas);
+    if (file.write(svg) != svg.size() || !file.commit()) {
+        return cannotWrite(fileName, file.errorString());
+    }
+    return {};
+}
+
+QString writePdf(const Canvas& canvas, const QString& fileName, qint64 pages,
+                 const PreparePage& prepare)
+{
+    if (isTooLargeForPdf(canvas.page().size)) {
+        return tr("The page is longer than %1 points, the most that a PDF document can have.")
+            .arg(kMaximumPdfSide);
+    }
+    QSaveFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return cannotWrite(fileName, file.errorString());
+    }
+    bool isComplete = false;
+    {
+        QPdfWriter writer(&file);
+        setUp(writer, canvas);
+        isComplete = paintPages(writer, canvas, pages, prepare);
+    }
+    if (!isComplete) {
+        file.cancelWriting();
+        return {};
+    }
+    return file.commit() ? QString() : cannotWrite(fileName, file.errorString());
+}
+
+bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,
+                const PreparePage& prepare)
+{
+    // The first page must be as it is wanted before the painting begins.
+    if (pages < 1 || !prepare(0)) {
+        return false;
+    }
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        return false;
+    }
+    for (qint64 page = 0; page < pages; ++page) {
+        if (page > 0 && (!prepare(page) || !device.newPage())) {
+            return false;
+        }
+        painter.save();
+        painter.scale(device.logicalDpiX() / kPointsPerInch, device.logicalDpiY() / kPointsPerInch);
+        paintPage(painter, canvas);
+        painter.restore();
+    }
+    return painter.end();
+}
+
+} // namespace workbench
