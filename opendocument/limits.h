@@ -20,8 +20,8 @@ inline constexpr qint64 ContentTreeBytes = 480LL << 20;
 /// Size of one picture's member, uncompressed, and of all that one import reads.
 inline constexpr qint64 PictureBytes = 32LL << 20;
 inline constexpr qint64 AllPicturesBytes = 128LL << 20;
-/// Pixels of one picture, and of all that one import decodes.
-inline constexpr qint64 PicturePixels = 40'000'000;
+/// Pixels of one picture, as many as Qt decodes by default, and of all that one import decodes.
+inline constexpr qint64 PicturePixels = 32'000'000;
 inline constexpr qint64 AllPicturesPixels = 60'000'000;
 
 /// Characters of one text item.

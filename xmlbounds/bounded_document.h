@@ -28,7 +28,7 @@ struct ParseFailure
 {
     QString message;
     qint64 line = 0;   ///< from 1
-    qint64 column = 0; ///< as Qt's parser counts it
+    qint64 column = 0; ///< from 0, as Qt's parser counts it
 };
 
 /// Parses bytes as QDomDocument::setContent() does with its default options, after

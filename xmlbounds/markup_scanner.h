@@ -14,11 +14,11 @@ struct Excess
     qsizetype offset = 0; ///< in bytes
 };
 
-/// A place in a text, both counted in characters from 1.
+/// A place in a text: the line from 1, the column from 0, as Qt's parser counts them.
 struct Place
 {
     qint64 line = 1;
-    qint64 column = 1;
+    qint64 column = 0;
 };
 
 /// Goes through a document once, without building anything, and gives the first bound

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDomDocument>
+#include <QMap>
+#include <QString>
+#include <QTemporaryDir>
+
+/// Builds OpenDocument packages and their parts for tests.
+
+/// The root element of a fragment of XML. Prefixes need no declaration.
+[[nodiscard]] QDomElement elementOf(const QByteArray& xml);
+
+/// A styles document.
+/// @param pageAttributes attributes of the page layout, empty for an inch document of
+///                       612 by 792 points
+/// @param styles         what stands in its office:styles
+[[nodiscard]] QByteArray stylesXml(const QByteArray& pageAttributes = {},
+                                   const QByteArray& styles = {});
+
+/// The content document of a drawing: `shapes` stand on its first page.
+[[nodiscard]] QByteArray drawingXml(const QByteArray& shapes, const QByteArray& styles = {});
+
+/// The content document of a text.
+[[nodiscard]] QByteArray textXml(const QByteArray& text, const QByteArray& styles = {});
+
+/// The content document of any body.
+[[nodiscard]] QByteArray contentXml(const QByteArray& body, const QByteArray& styles = {});
+
+/// A package in a temporary folder.
+class Package
+{
+public:
+    Package() = default;
+    Package(const QByteArray& styles, const QByteArray& content);
+
+    Package& add(const QString& name, const QByteArray& data);
+    /// Writes the package and gives its path.
+    [[nodiscard]] QString write();
+    /// Writes these bytes in place of the package and gives the path.
+    [[nodiscard]] QString writeRaw(const QByteArray& bytes);
+    /// The package as it is written.
+    [[nodiscard]] QByteArray bytes();
+
+private:
+    QTemporaryDir m_folder;
+    QMap<QString, QByteArray> m_members;
+    int m_written = 0;
+};

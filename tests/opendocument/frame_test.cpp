@@ -1,0 +1,316 @@
+// Frames: text boxes and pictures.
+
+#include "documents.h"
+#include "fake_host.h"
+#include "log_catcher.h"
+
+#include "opendocument/open_office_reader.h"
+
+#include <QBuffer>
+#include <QGraphicsItem>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray picture(int width, int height, const char* format = "PNG")
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return buffer.data();
+}
+
+class Frame : public testing::Test
+{
+protected:
+    Frame()
+    {
+        package.add(u"Pictures/a.png"_s, picture(5, 6));
+        package.add(u"Pictures/b.jpg"_s, picture(3, 4, "JPG"));
+        package.add(u"Pictures/c.svg"_s, "<svg/>");
+        package.add(u"Pictures/bad.svg"_s, "no drawing");
+        package.add(u"Pictures/bad.png"_s, "no picture");
+        package.add(u"Pictures/two.parts.png"_s, picture(1, 1));
+        package.add(u"Pictures/UPPER.PNG"_s, picture(2, 2));
+    }
+
+    void import(const QByteArray& shapes, const QByteArray& properties = {})
+    {
+        run(drawingXml(shapes, style(properties)));
+    }
+
+    void importText(const QByteArray& text, const QByteArray& properties = {})
+    {
+        run(textXml(text, style(properties)));
+    }
+
+    static QByteArray style(const QByteArray& properties)
+    {
+        return "<style:style style:family=\"graphic\" style:name=\"g\">"
+               "<style:graphic-properties " +
+               properties + "/></style:style>";
+    }
+
+    void run(const QByteArray& content)
+    {
+        package.add(u"styles.xml"_s, stylesXml()).add(u"content.xml"_s, content);
+        ASSERT_TRUE(reader.importLabelFromFile(package.write()));
+        calls = host.journal().sliced(1, host.journal().size() - 2);
+    }
+
+    Package package;
+    FakeHost host;
+    OpenOfficeReader reader{&host, nullptr};
+    QStringList calls;
+};
+
+QByteArray images(const QByteArrayList& names, const QByteArray& attributes = {})
+{
+    QByteArray xml = "<draw:frame " + attributes + ">";
+    for (const QByteArray& name : names) {
+        xml += "<draw:image xlink:href=\"Pictures/" + name + "\"/>";
+    }
+    return xml + "</draw:frame>";
+}
+
+const QByteArray Box = "svg:x=\"1in\" svg:y=\"2in\" svg:width=\"3in\" svg:height=\"4in\" ";
+
+} // namespace
+
+TEST_F(Frame, TextBoxMakesItsCallsInOrder)
+{
+    import("<draw:frame draw:style-name=\"g\" draw:z-index=\"2\" " + Box +
+               "draw:transform=\"rotate (-1.5707963267949)\"><draw:text-box>"
+               "<text:p>x</text:p></draw:text-box></draw:frame>",
+           "draw:fill=\"solid\"");
+    EXPECT_EQ(calls, (QStringList{
+                         u"factory.create Rectangle"_s,
+                         u"canvas.importItem 1"_s,
+                         u"item1.setItemSize 216 288"_s,
+                         u"item1.setFlipHorizontal false"_s,
+                         u"item1.setFlipVertical false"_s,
+                         u"item1.setPenStyle 0"_s,
+                         u"item1.setPenWidth 0"_s,
+                         u"item1.setItemRotation 90"_s,
+                         u"item1.setBrushStyle 1"_s,
+                         u"factory.create RichText"_s,
+                         u"item2.adjustBoxSizeToContent 216"_s,
+                         u"canvas.importItem 2"_s,
+                         u"item2.setItemRotation 90"_s,
+                     }));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));
+    EXPECT_EQ(host.item(1)->zValue(), 2000);
+    EXPECT_EQ(host.item(2)->pos(), QPointF(72, 144));
+    EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 2000.001);
+}
+
+TEST_F(Frame, MinimalHeightReplacesTheHeight)
+{
+    import("<draw:frame " + Box +
+           "><draw:text-box fo:min-height=\"1in\"/></draw:frame>"
+           "<draw:frame " +
+           Box +
+           "><draw:text-box fo:min-height=\"x\"/></draw:frame>"
+           "<draw:frame svg:width=\"3in\"><draw:text-box fo:min-height=\"2in\"/></draw:frame>");
+    EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"216 72"_s);
+    EXPECT_EQ(host.lastCall(2, u"setItemSize"_s), u"216 288"_s);
+    EXPECT_EQ(host.lastCall(3, u"setItemSize"_s), u"216 144"_s);
+}
+
+TEST_F(Frame, TextBoxMayHaveRoundCorners)
+{
+    import("<draw:frame><draw:text-box draw:corner-radius=\"0.5in\"/></draw:frame>"
+           "<draw:frame draw:corner-radius=\"1in\"><draw:text-box/></draw:frame>");
+    EXPECT_EQ(host.createdTypes(), (QStringList{u"RoundedRectangle"_s, u"Rectangle"_s}));
+    EXPECT_EQ(host.lastCall(1, u"setCornerRadius"_s), u"36"_s);
+}
+
+TEST_F(Frame, WhatIsNoPictureIsATextBox)
+{
+    import("<draw:frame/><draw:frame><draw:object/><draw:image xlink:href=\"Pictures/a.png\"/>"
+           "</draw:frame>");
+    EXPECT_EQ(host.createdTypes(), (QStringList{u"Rectangle"_s, u"Rectangle"_s}));
+}
+
+TEST_F(Frame, TextBoxWithoutAParagraphHasNoText)
+{
+    import("<draw:frame><draw:text-box><text:h>x</text:h><text:list><text:list-item><text:p>x"
+           "</text:p></text:list-item></text:list></draw:text-box></draw:frame>");
+    EXPECT_EQ(host.createdCount(), 1);
+}
+
+TEST_F(Frame, TextBoxOfTheDrawingKeepsItsOrder)
+{
+    import("<draw:frame><draw:text-box><text:p>x</text:p></draw:text-box></draw:frame>");
+    EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 0.001);
+}
+
+TEST_F(Frame, PositionThatIsNotGivenComesFromTheStyle)
+{
+    const QByteArray margins =
+        "draw:start-line-spacing-horizontal=\"1in\" draw:start-line-spacing-vertical=\"0.5in\" "
+        "draw:end-line-spacing-horizontal=\"2in\" ";
+    const struct
+    {
+        QByteArray properties;
+        QPointF position;
+    } rows[] = {
+        // The page is 612 wide, the box 100; margins are 72 at the left, 144 at the right.
+        {margins, {72, 36}},
+        {margins + "style:horizontal-pos=\"from-left\"", {72, 36}},
+        {margins + "style:horizontal-pos=\"right\"", {612 - 72 - 144, 36}},
+        {margins + "style:horizontal-pos=\"center\"", {(612 + 72 - 144 - 72) * 0.5, 36}},
+        {"", {0, 0}},
+    };
+    int item = 0;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.properties.toStdString());
+        import("<draw:frame draw:style-name=\"g\" svg:width=\"1in\"><draw:text-box/></draw:frame>",
+               row.properties);
+        EXPECT_EQ(host.item(++item)->pos(), row.position);
+    }
+}
+
+TEST_F(Frame, EachCoordinateIsGivenByItself)
+{
+    import("<draw:frame svg:x=\"1in\"><draw:text-box/></draw:frame>"
+           "<draw:frame svg:y=\"1in\"><draw:text-box/></draw:frame>");
+    EXPECT_EQ(host.item(1)->pos(), QPointF(72, 0));
+    EXPECT_EQ(host.item(2)->pos(), QPointF(0, 72));
+}
+
+TEST_F(Frame, BoxWithoutWidthStandsByItsOwn)
+{
+    import("<draw:frame draw:style-name=\"g\"><draw:text-box/></draw:frame>",
+           "style:horizontal-pos=\"right\"");
+    EXPECT_EQ(host.item(1)->pos(), QPointF(612 - 20, 0));
+}
+
+TEST_F(Frame, AnchoredBoxesFollowTheTextFlow)
+{
+    const QByteArray box = "<draw:text-box fo:min-height=\"1in\"/></draw:frame>";
+    const QByteArray styled = "<draw:frame draw:style-name=\"g\" ";
+    importText("<text:p/>" + styled + "text:anchor-type=\"paragraph\">" + box + styled + ">" + box,
+               "text:anchor-type=\"page\"");
+    EXPECT_EQ(host.item(1)->pos(), QPointF(0, 12)) << "by its own attribute";
+    EXPECT_EQ(host.item(2)->pos(), QPointF(0, 0)) << "by its style";
+    importText("<text:p/><draw:frame>" + box);
+    EXPECT_EQ(host.item(3)->pos(), QPointF(0, 12)) << "by default";
+}
+
+TEST_F(Frame, FramesInTheFlowAreStacked)
+{
+    const QByteArray one = "<draw:frame svg:height=\"1in\"><draw:text-box/></draw:frame>";
+    const QByteArray two = "<draw:frame svg:height=\"2in\"><draw:text-box/></draw:frame>";
+    importText(one + two + "<text:p>x</text:p>");
+    EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
+    EXPECT_EQ(host.item(2)->pos(), QPointF(0, 72));
+    EXPECT_EQ(host.item(3)->pos(), QPointF(0, 216));
+}
+
+TEST_F(Frame, PictureMakesItsCallsInOrder)
+{
+    import(images({"a.png"}, Box + "draw:z-index=\"4\" draw:style-name=\"g\" "
+                                   "draw:transform=\"rotate (-1.5707963267949)\""),
+           "style:mirror=\"horizontal\"");
+    EXPECT_EQ(calls, (QStringList{
+                         u"factory.create Picture"_s,
+                         u"item1.pixmapImportActions 5 6"_s,
+                         u"item1.setItemSize 216 288"_s,
+                         u"item1.setItemRotation 90"_s,
+                         u"canvas.importItem 1"_s,
+                     }));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));
+    EXPECT_EQ(host.item(1)->zValue(), 4000);
+}
+
+TEST_F(Frame, PictureWithoutSizeKeepsItsOwn)
+{
+    import(images({"a.png"}) + images({"a.png"}, "svg:width=\"1in\""));
+    EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"5 6"_s);
+    EXPECT_EQ(host.lastCall(2, u"setItemSize"_s), u"72 6"_s);
+    EXPECT_EQ(host.lastCall(1, u"setItemRotation"_s), QString());
+    EXPECT_EQ(host.item(1)->pos(), QPointF(-1000000001, -1000000001));
+}
+
+TEST_F(Frame, DrawingBecomesASymbol)
+{
+    import(images({"a.png", "c.svg"}, Box));
+    EXPECT_EQ(calls, (QStringList{
+                         u"factory.create Symbol"_s,
+                         u"item1.loadItemFromData symbol of <svg/>"_s,
+                         u"item1.setItemSize 216 288"_s,
+                         u"canvas.importItem 1"_s,
+                     }));
+    EXPECT_EQ(serviceCalls(), (QStringList{u"new SymbolCreator"_s, u"loadImportedSvg"_s,
+                                           u"convertSvgToSymbol 0 0 216 288"_s}));
+}
+
+TEST_F(Frame, SymbolWithoutBothSidesKeepsItsOwn)
+{
+    import(images({"c.svg"}, "svg:width=\"3in\"") + images({"c.svg"}));
+    EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"216 8"_s);
+    EXPECT_EQ(host.lastCall(2, u"setItemSize"_s), u"7 8"_s);
+    EXPECT_EQ(serviceCalls().filter(u"convert"_s),
+              (QStringList{u"convertSvgToSymbol 0 0 0 0"_s, u"convertSvgToSymbol 0 0 0 0"_s}));
+    EXPECT_EQ(serviceCalls().count(u"new SymbolCreator"_s), 1) << "one serves all";
+}
+
+TEST_F(Frame, PictureOfTheFirstSuffixIsTaken)
+{
+    import(images({"a.png", "b.jpg"}) + images({"two.parts.png", "a.png"}) +
+           images({"a.png", "UPPER.PNG"}));
+    EXPECT_EQ(host.lastCall(1, u"pixmapImportActions"_s), u"3 4"_s) << "jpg before png";
+    EXPECT_EQ(host.lastCall(2, u"pixmapImportActions"_s), u"1 1"_s)
+        << "the complete suffix is parts.png, which stands before png";
+    EXPECT_EQ(host.lastCall(3, u"pixmapImportActions"_s), u"2 2"_s)
+        << "letters do not matter, and the last of a suffix counts";
+}
+
+TEST_F(Frame, UnusablePicturesGiveNoItem)
+{
+    const LogCatcher log;
+    import(images({"missing.png"}) + images({"bad.png"}) + images({"bad.svg"}) +
+           images({"missing.svg"}) + images({"bad.svg", "a.png"}) +
+           "<draw:frame><draw:image/></draw:frame>");
+    EXPECT_EQ(host.createdCount(), 0);
+    EXPECT_EQ(host.importedCount(), 0);
+    EXPECT_TRUE(log.messages().contains(u"The package has no member Pictures/missing.png"_s));
+    EXPECT_TRUE(log.messages().contains(u"The drawing Pictures/bad.svg cannot be converted"_s));
+}
+
+TEST_F(Frame, NothingOutsideThePackageIsOpened)
+{
+    import("<draw:frame><draw:image xlink:href=\"file:///etc/hostname.png\"/></draw:frame>"
+           "<draw:frame><draw:image xlink:href=\"../../etc/hostname.png\"/></draw:frame>");
+    EXPECT_EQ(host.createdCount(), 0);
+}
+
+TEST_F(Frame, PicturesThatTheHostDoesNotMakeAreLeftOut)
+{
+    host.refusedTypes = {KestTypes::Picture, KestTypes::Symbol};
+    import(images({"a.png"}) + images({"c.svg"}) + "<draw:rect/>");
+    EXPECT_EQ(host.importedCount(), 1);
+}
+
+TEST_F(Frame, PictureThatIsMissingTakesNoPlaceInTheFlow)
+{
+    importText(images({"missing.png"}, "svg:height=\"5in\"") +
+               images({"a.png"}, "svg:height=\"1in\"") + "<text:p>x</text:p>");
+    EXPECT_EQ(host.item(2)->pos(), QPointF(0, 72));
+}
+
+TEST_F(Frame, APictureIsDecodedOnceForManyFrames)
+{
+    const LogCatcher log;
+    import(images({"bad.png"}) + images({"bad.png"}));
+    EXPECT_EQ(
+        log.messages().count(u"The picture Pictures/bad.png cannot be decoded or is too large"_s),
+        1);
+}

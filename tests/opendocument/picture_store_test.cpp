@@ -1,0 +1,123 @@
+// Pictures of a package: read once, bounded, raster only.
+
+#include "log_catcher.h"
+
+#include "opendocument/limits.h"
+#include "opendocument/picture_store.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QMap>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+using namespace opendocument;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray png(int width, int height)
+{
+    QImage image(width, height, QImage::Format_Mono);
+    image.fill(1);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+/// A package that counts how often it is read.
+struct Members
+{
+    QMap<QString, QByteArray> members;
+    QStringList reads;
+    qint64 lastLimit = 0;
+
+    PictureStore store()
+    {
+        return PictureStore([this](const QString& name, qint64 largest) {
+            reads.append(name);
+            lastLimit = largest;
+            const QByteArray bytes = members.value(name);
+            return bytes.size() <= largest ? bytes : QByteArray();
+        });
+    }
+};
+
+} // namespace
+
+TEST(PictureStore, DecodesAPictureOnce)
+{
+    Members members{{{u"a.png"_s, png(3, 2)}}, {}};
+    PictureStore store = members.store();
+    EXPECT_EQ(store.pixmap(u"a.png"_s).size(), QSize(3, 2));
+    EXPECT_EQ(store.pixmap(u"a.png"_s).size(), QSize(3, 2));
+    EXPECT_EQ(members.reads.size(), 1);
+}
+
+TEST(PictureStore, ReadsADrawingOnce)
+{
+    Members members{{{u"a.svg"_s, "<svg/>"}}, {}};
+    PictureStore store = members.store();
+    EXPECT_EQ(store.bytes(u"a.svg"_s), "<svg/>");
+    EXPECT_EQ(store.bytes(u"a.svg"_s), "<svg/>");
+    EXPECT_EQ(members.reads.size(), 1);
+}
+
+TEST(PictureStore, MissingOrDamagedPicturesAreNull)
+{
+    Members members{{{u"bad.png"_s, "no picture"}, {u"cut.png"_s, png(50, 50).first(60)}}, {}};
+    PictureStore store = members.store();
+    EXPECT_TRUE(store.pixmap(u"missing.png"_s).isNull());
+    EXPECT_TRUE(store.bytes(u"missing.svg"_s).isEmpty());
+    const LogCatcher log;
+    EXPECT_TRUE(store.pixmap(u"bad.png"_s).isNull());
+    EXPECT_TRUE(store.pixmap(u"cut.png"_s).isNull());
+    EXPECT_EQ(log.messages(),
+              (QStringList{u"The picture bad.png cannot be decoded or is too large"_s,
+                           u"The picture cut.png cannot be decoded or is too large"_s}));
+}
+
+TEST(PictureStore, NeverPaintsADrawingUnderAPicturesName)
+{
+    Members members{{{u"a.png"_s, "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"5\" "
+                                  "height=\"5\"><rect width=\"5\" height=\"5\"/></svg>"}},
+                    {}};
+    EXPECT_TRUE(members.store().pixmap(u"a.png"_s).isNull());
+}
+
+TEST(PictureStore, RefusesPicturesByTheSizeTheirHeaderClaims)
+{
+    QByteArray huge = png(3, 2);
+    qToBigEndian<quint32>(100000, huge.data() + 16);
+    qToBigEndian<quint32>(100000, huge.data() + 20);
+    Members members{{{u"a.png"_s, huge}}, {}};
+    EXPECT_TRUE(members.store().pixmap(u"a.png"_s).isNull());
+}
+
+TEST(PictureStore, RefusesMorePixelsThanAnImportMayTake)
+{
+    // 30 million pixels each, in a few kilobytes.
+    const QByteArray large = png(5500, 5500);
+    Members members{{{u"a.png"_s, large}, {u"b.png"_s, large}, {u"c.png"_s, png(2, 2)}}, {}};
+    PictureStore store = members.store();
+    EXPECT_FALSE(store.pixmap(u"a.png"_s).isNull());
+    EXPECT_TRUE(store.pixmap(u"b.png"_s).isNull());
+    EXPECT_FALSE(store.pixmap(u"c.png"_s).isNull()) << "small ones still fit";
+}
+
+TEST(PictureStore, ReadsNoMoreBytesThanAnImportMayTake)
+{
+    Members members;
+    for (int i = 0; i < 5; ++i) {
+        members.members.insert(QString::number(i), QByteArray(limits::PictureBytes, ' '));
+    }
+    PictureStore store = members.store();
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_FALSE(store.bytes(QString::number(i)).isEmpty());
+        EXPECT_EQ(members.lastLimit, limits::PictureBytes);
+    }
+    EXPECT_TRUE(store.bytes(u"4"_s).isEmpty());
+    EXPECT_EQ(members.lastLimit, 0);
+}

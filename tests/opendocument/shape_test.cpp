@@ -1,0 +1,274 @@
+// Shapes and lines on the canvas: which calls they make, in which order.
+
+#include "documents.h"
+#include "fake_host.h"
+
+#include "opendocument/open_office_reader.h"
+
+#include <QGraphicsItem>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Shape : public testing::Test
+{
+protected:
+    void import(const QByteArray& shapes, const QByteArray& properties = {})
+    {
+        const QByteArray style =
+            "<style:style style:family=\"graphic\" style:name=\"g\"><style:graphic-properties " +
+            properties + "/></style:style>";
+        Package package(stylesXml(), drawingXml(shapes, style));
+        ASSERT_TRUE(reader.importLabelFromFile(package.write()));
+        // What stands before and after the items is another test's business.
+        calls = host.journal().sliced(1, host.journal().size() - 2);
+    }
+
+    FakeHost host;
+    OpenOfficeReader reader{&host, nullptr};
+    QStringList calls;
+};
+
+const QByteArray Box = "svg:x=\"1in\" svg:y=\"2in\" svg:width=\"3in\" svg:height=\"4in\" ";
+
+} // namespace
+
+TEST_F(Shape, MakesItsCallsInOrder)
+{
+    import("<draw:rect draw:style-name=\"g\" " + Box +
+               "draw:z-index=\"3\" draw:transform=\"rotate (-1.5707963267949)\"/>",
+           "style:mirror=\"horizontal\" draw:stroke=\"solid\" svg:stroke-width=\"0.05in\" "
+           "svg:stroke-color=\"#112233\" svg:stroke-linecap=\"round\" "
+           "draw:stroke-linejoin=\"bevel\" draw:fill=\"gradient\" draw:fill-color=\"#445566\"");
+    EXPECT_EQ(calls, (QStringList{
+                         u"factory.create Rectangle"_s,
+                         u"item1.setItemSize 216 288"_s,
+                         u"item1.setFlipHorizontal true"_s,
+                         u"item1.setFlipVertical false"_s,
+                         u"item1.setPenStyle 1"_s,
+                         u"item1.setPenWidth 3"_s,
+                         u"item1.setPenColor #ff112233"_s,
+                         u"item1.setCapStyle 32"_s,
+                         u"item1.setJoinStyle 64"_s,
+                         u"item1.setItemRotation 90"_s,
+                         u"item1.setBrushStyle 15"_s,
+                         u"item1.setFillColor #ff445566"_s,
+                         u"canvas.importItem 1"_s,
+                     }));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));
+    EXPECT_EQ(host.item(1)->zValue(), 3000);
+}
+
+TEST_F(Shape, LeavesToTheHostWhatIsNotGiven)
+{
+    import("<draw:rect/>");
+    EXPECT_EQ(calls, (QStringList{
+                         u"factory.create Rectangle"_s,
+                         u"item1.getItemWidth"_s,
+                         u"item1.getItemHeight"_s,
+                         u"item1.setItemSize 20 10"_s,
+                         u"item1.setFlipHorizontal false"_s,
+                         u"item1.setFlipVertical false"_s,
+                         u"item1.setPenStyle 0"_s,
+                         u"item1.setPenWidth 0"_s,
+                         u"item1.setBrushStyle 0"_s,
+                         u"canvas.importItem 1"_s,
+                     }));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(-1000000001, -1000000001));
+    EXPECT_EQ(host.item(1)->zValue(), 0);
+}
+
+TEST_F(Shape, TakesTheItemsOwnSizeSideBySide)
+{
+    import("<draw:rect svg:width=\"1in\"/><draw:rect svg:height=\"1in\" svg:width=\"0in\"/>"
+           "<draw:rect svg:height=\"-1in\" svg:width=\"1in\"/>");
+    EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"72 10"_s);
+    EXPECT_EQ(host.lastCall(2, u"setItemSize"_s), u"20 72"_s);
+    EXPECT_EQ(host.lastCall(3, u"setItemSize"_s), u"72 10"_s);
+}
+
+TEST_F(Shape, PenFollowsFromWidthWhereTheStyleIsOpen)
+{
+    const struct
+    {
+        QByteArray properties;
+        QString style;
+        QString width;
+    } rows[] = {
+        {"", u"0"_s, u"0"_s},
+        {"svg:stroke-width=\"1in\"", u"1"_s, u"72"_s},
+        {"draw:stroke=\"solid\"", u"1"_s, u"1"_s},
+        {"draw:stroke=\"none\" svg:stroke-width=\"1in\"", u"0"_s, u"0"_s},
+        {"draw:stroke=\"dash\" draw:stroke-dash=\"Dash\"", u"2"_s, u"1"_s},
+        {"svg:stroke-width=\"1000in\"", u"1"_s, u"65535"_s},
+        {"svg:stroke-width=\"-1in\"", u"1"_s, u"0"_s},
+        {"svg:stroke-width=\"1e300in\"", u"1"_s, u"65535"_s},
+    };
+    int item = 0;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.properties.toStdString());
+        import("<draw:rect draw:style-name=\"g\"/>", row.properties);
+        ++item;
+        EXPECT_EQ(host.lastCall(item, u"setPenStyle"_s), row.style);
+        EXPECT_EQ(host.lastCall(item, u"setPenWidth"_s), row.width);
+    }
+}
+
+TEST_F(Shape, NoPenHasNoEnds)
+{
+    import("<draw:rect draw:style-name=\"g\"/>",
+           "svg:stroke-linecap=\"round\" draw:stroke-linejoin=\"bevel\"");
+    EXPECT_EQ(host.lastCall(1, u"setPenStyle"_s), u"0"_s);
+    EXPECT_EQ(host.lastCall(1, u"setCapStyle"_s), QString());
+    EXPECT_EQ(host.lastCall(1, u"setJoinStyle"_s), QString());
+}
+
+TEST_F(Shape, ColoursThatAreNoneAreNotSet)
+{
+    import("<draw:rect draw:style-name=\"g\"/>",
+           "svg:stroke-color=\"nocolour\" draw:fill-color=\"#12\"");
+    EXPECT_EQ(host.lastCall(1, u"setPenColor"_s), QString());
+    EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), QString());
+    EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"1"_s);
+}
+
+TEST_F(Shape, UnknownStyleIsTheDefault)
+{
+    import("<draw:rect draw:style-name=\"other\"/><draw:rect draw:style-name=\"\"/>",
+           "draw:fill=\"solid\"");
+    EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"0"_s);
+    EXPECT_EQ(host.lastCall(2, u"setBrushStyle"_s), u"0"_s);
+}
+
+TEST_F(Shape, CornerRadiusIsSetFirst)
+{
+    import("<draw:rect draw:corner-radius=\"0.5in\"/>");
+    EXPECT_EQ(calls.value(0), u"factory.create RoundedRectangle"_s);
+    EXPECT_EQ(calls.value(1), u"item1.setCornerRadius 36"_s);
+}
+
+TEST_F(Shape, CornerRadiusThatIsNoneStillRoundsTheRectangle)
+{
+    import("<draw:rect draw:corner-radius=\"x\"/><draw:rect draw:corner-radius=\"-1in\"/>");
+    EXPECT_EQ(host.createdTypes(), (QStringList{u"RoundedRectangle"_s, u"RoundedRectangle"_s}));
+    EXPECT_EQ(host.lastCall(1, u"setCornerRadius"_s), QString());
+    EXPECT_EQ(host.lastCall(2, u"setCornerRadius"_s), u"0"_s);
+}
+
+TEST_F(Shape, EachKindTakesStyleAndPlace)
+{
+    const QByteArray attributes = "draw:style-name=\"g\" " + Box;
+    const QByteArray geometry = "<draw:enhanced-geometry draw:type=\"";
+    const QByteArray custom = "<draw:custom-shape " + attributes + ">" + geometry;
+    const QByteArray end = "\"/></draw:custom-shape>";
+    import("<draw:ellipse " + attributes + "/>" + custom + "octagon" + end + custom + "mso-spt100" +
+               end + custom + "round-rectangle" + end,
+           "draw:fill=\"solid\"");
+    for (int item = 1; item <= 4; ++item) {
+        SCOPED_TRACE(item);
+        EXPECT_EQ(host.lastCall(item, u"setItemSize"_s), u"216 288"_s);
+        EXPECT_EQ(host.lastCall(item, u"setBrushStyle"_s), u"1"_s);
+        EXPECT_EQ(host.item(item)->pos(), QPointF(72, 144));
+    }
+    EXPECT_EQ(host.importedCount(), 4);
+}
+
+TEST_F(Shape, TextLiesOnItsShape)
+{
+    import("<draw:rect " + Box +
+           "draw:z-index=\"3\" draw:transform=\"rotate (-1.5707963267949)\"><text:p>x</text:p>"
+           "</draw:rect>");
+    EXPECT_EQ(calls.sliced(calls.indexOf(u"canvas.importItem 1"_s)),
+              (QStringList{
+                  u"canvas.importItem 1"_s,
+                  u"factory.create RichText"_s,
+                  u"item2.adjustBoxSizeToContent 216"_s,
+                  u"canvas.importItem 2"_s,
+                  u"item2.setItemRotation 90"_s,
+              }));
+    EXPECT_EQ(host.item(2)->pos(), QPointF(72, 144));
+    EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 3000.001);
+    EXPECT_TRUE(host.html(2).contains(u">x<"_s));
+}
+
+TEST_F(Shape, TextLiesAboveAShapeWithoutOrderToo)
+{
+    import("<draw:ellipse><text:p>x</text:p></draw:ellipse>");
+    EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 0.001);
+    EXPECT_EQ(host.lastCall(2, u"adjustBoxSizeToContent"_s), u"20"_s) << "the width as applied";
+    EXPECT_EQ(host.lastCall(2, u"setItemRotation"_s), QString());
+}
+
+TEST_F(Shape, TextAtTheSecondPlaceIsAtTwoThousand)
+{
+    import("<draw:rect draw:z-index=\"2\"><text:p>x</text:p></draw:rect>");
+    EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 2000.001);
+}
+
+TEST_F(Shape, WithoutAParagraphOrVisibleTextHasNone)
+{
+    import("<draw:rect><text:h>x</text:h><text:span>x</text:span></draw:rect>"
+           "<draw:rect><text:p>  </text:p></draw:rect><draw:rect><text:p/></draw:rect>"
+           "<draw:rect><text:list><text:p>x</text:p></text:list></draw:rect>");
+    EXPECT_EQ(host.createdCount(), 4);
+}
+
+TEST_F(Shape, WithAParagraphAllItsTextCounts)
+{
+    import("<draw:rect><text:h>title</text:h><text:p/></draw:rect>");
+    EXPECT_TRUE(host.html(2).contains(u"title"_s));
+}
+
+TEST_F(Shape, TextIsLeftOutWhereTheHostMakesNone)
+{
+    host.refusedTypes = {KestTypes::RichText};
+    import("<draw:rect><text:p>x</text:p></draw:rect><draw:ellipse/>");
+    EXPECT_EQ(host.importedCount(), 2);
+}
+
+TEST_F(Shape, TextShowsMarkupCharactersAndPercentSigns)
+{
+    import("<draw:rect><text:p>a &lt; b, 100 %1 &amp; more</text:p></draw:rect>");
+    const auto* text = dynamic_cast<QGraphicsTextItem*>(host.item(2));
+    EXPECT_EQ(text->toPlainText(), u"a < b, 100 %1 & more"_s);
+}
+
+TEST_F(Shape, LinesMakeTheirCallsInOrder)
+{
+    import("<draw:line draw:style-name=\"g\" draw:z-index=\"2\" svg:x1=\"1in\" svg:y1=\"2in\" "
+           "svg:x2=\"3in\" svg:y2=\"4in\"><text:p>no</text:p></draw:line>",
+           "svg:stroke-width=\"0.05in\" draw:marker-start=\"Arrow\" "
+           "draw:marker-end=\"Dimension_20_Lines\" draw:fill=\"solid\"");
+    EXPECT_EQ(calls, (QStringList{
+                         u"factory.create Line"_s,
+                         u"canvas.importItem 1"_s,
+                         u"item1.setLineStartPoint 72 144"_s,
+                         u"item1.setLineEndPoint 216 288"_s,
+                         u"item1.setFlipHorizontal false"_s,
+                         u"item1.setFlipVertical false"_s,
+                         u"item1.setPenStyle 1"_s,
+                         u"item1.setPenWidth 3"_s,
+                         u"item1.setLineStartMarker 16"_s,
+                         u"item1.setLineEndMarker 8"_s,
+                     }));
+    EXPECT_EQ(host.item(1)->zValue(), 2000);
+}
+
+TEST_F(Shape, LinesWithOneMarkerSetOnlyThat)
+{
+    import("<draw:line draw:style-name=\"g\"/>",
+           "draw:marker-end=\"Small_20_Arrow\" draw:marker-start=\"\"");
+    EXPECT_EQ(host.lastCall(1, u"setLineEndMarker"_s), u"3"_s);
+    EXPECT_EQ(host.lastCall(1, u"setLineStartMarker"_s), QString());
+}
+
+TEST_F(Shape, LinesStartAtTheOriginWhereNothingIsGiven)
+{
+    import("<draw:line svg:x1=\"x\" svg:y2=\"1in\" draw:z-index=\"x\"/>");
+    EXPECT_EQ(host.lastCall(1, u"setLineStartPoint"_s), u"0 0"_s);
+    EXPECT_EQ(host.lastCall(1, u"setLineEndPoint"_s), u"0 72"_s);
+    EXPECT_EQ(host.item(1)->zValue(), 0);
+}

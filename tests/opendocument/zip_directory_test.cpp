@@ -1,0 +1,177 @@
+// What a zip package may claim, and what is found out before it is unpacked.
+
+#include "documents.h"
+
+#include "opendocument/limits.h"
+#include "opendocument/zip_directory.h"
+
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+using namespace opendocument;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 Plenty = 1 << 20;
+
+// Text that is packed, not stored.
+const QByteArray Text = QByteArray("label ").repeated(200);
+
+// The offset of the table's entry of a package with one member.
+qsizetype entryIn(const QByteArray& zip)
+{
+    return zip.indexOf("PK\x01\x02");
+}
+
+template <class Number>
+QByteArray with(QByteArray zip, qsizetype offset, Number number)
+{
+    qToLittleEndian(number, zip.data() + offset);
+    return zip;
+}
+
+QByteArray packed(const QByteArray& data = Text)
+{
+    return Package().add(u"a.xml"_s, data).bytes();
+}
+
+QString openingOf(const QByteArray& zip)
+{
+    Package package;
+    ZipDirectory directory;
+    return directory.open(package.writeRaw(zip)).value_or(QString());
+}
+
+QString refusalIn(const QByteArray& zip, qint64 largest = Plenty)
+{
+    Package package;
+    ZipDirectory directory;
+    EXPECT_EQ(directory.open(package.writeRaw(zip)), std::nullopt);
+    return directory.refusalOf(u"a.xml"_s, largest).value_or(QString());
+}
+
+const QString Damaged = u"The package's member a.xml is damaged"_s;
+
+} // namespace
+
+TEST(ZipDirectory, AcceptsWhatIsIntact)
+{
+    EXPECT_EQ(refusalIn(packed()), QString());
+    EXPECT_EQ(refusalIn(packed("x")), QString());
+    EXPECT_EQ(refusalIn(packed(QByteArray())), QString());
+    EXPECT_EQ(refusalIn(packed(QByteArray(Plenty, 'x'))), QString());
+    EXPECT_EQ(refusalIn(packed() + "trailing bytes"), QString());
+}
+
+TEST(ZipDirectory, KnowsItsMembers)
+{
+    Package package;
+    ZipDirectory directory;
+    ASSERT_FALSE(directory.open(package.add(u"a.xml"_s, Text).add(u"b"_s, "x").write()));
+    EXPECT_TRUE(directory.hasMember(u"a.xml"_s));
+    EXPECT_FALSE(directory.hasMember(u"A.XML"_s));
+    EXPECT_EQ(directory.sizeOf(u"a.xml"_s), Text.size());
+    EXPECT_EQ(directory.sizeOf(u"c"_s), 0);
+    EXPECT_EQ(directory.refusalOf(u"c"_s, Plenty), u"The package has no member c"_s);
+}
+
+TEST(ZipDirectory, ForgetsTheLastPackage)
+{
+    Package package;
+    ZipDirectory directory;
+    ASSERT_FALSE(directory.open(package.add(u"a.xml"_s, Text).write()));
+    EXPECT_TRUE(directory.open(u"/nowhere/at/all.odg"_s));
+    EXPECT_FALSE(directory.hasMember(u"a.xml"_s));
+}
+
+TEST(ZipDirectory, RefusesWhatIsNoZipFile)
+{
+    EXPECT_TRUE(openingOf({}).startsWith(u"The file is no zip package"_s));
+    EXPECT_TRUE(openingOf("<xml/>").startsWith(u"The file is no zip package"_s));
+    EXPECT_TRUE(openingOf(QByteArray(200000, 'x')).startsWith(u"The file is no zip package"_s));
+    ZipDirectory directory;
+    EXPECT_TRUE(directory.open(u"/tmp"_s)->startsWith(u"The file cannot be opened"_s));
+    EXPECT_TRUE(directory.open(QString())->startsWith(u"The file cannot be opened"_s));
+}
+
+TEST(ZipDirectory, RefusesADamagedTableOfContents)
+{
+    const QByteArray zip = packed();
+    const qsizetype end = zip.indexOf("PK\x05\x06");
+    const QString damaged = u"The package's table of contents is damaged"_s;
+    EXPECT_TRUE(openingOf(with<quint32>(zip, end + 16, 0xfffffff0)).startsWith(damaged));
+    EXPECT_TRUE(openingOf(with<quint32>(zip, end + 16, 3)).startsWith(damaged));
+    EXPECT_TRUE(openingOf(with<quint16>(zip, end + 10, 2)).startsWith(damaged));
+    EXPECT_TRUE(openingOf(with<quint16>(zip, entryIn(zip) + 28, 60000)).startsWith(damaged));
+    EXPECT_TRUE(openingOf(with<quint16>(zip, entryIn(zip) + 32, 60000)).startsWith(damaged));
+    EXPECT_TRUE(openingOf(with<quint16>(zip, end + 10, 5000))
+                    .startsWith(u"The package has more than 4096 members"_s));
+}
+
+TEST(ZipDirectory, RefusesAWrongChecksum)
+{
+    const QByteArray zip = packed();
+    EXPECT_EQ(refusalIn(with<quint32>(zip, entryIn(zip) + 16, 12345)), Damaged);
+    const QByteArray stored = packed("x");
+    EXPECT_EQ(refusalIn(with<quint32>(stored, entryIn(stored) + 16, 12345)), Damaged);
+}
+
+TEST(ZipDirectory, RefusesDataThatIsNotWhatItClaims)
+{
+    const QByteArray zip = packed();
+    const qsizetype entry = entryIn(zip);
+    const auto claim = [&zip, entry](quint32 size) { return with<quint32>(zip, entry + 24, size); };
+    EXPECT_EQ(refusalIn(claim(quint32(Text.size()) - 1)), Damaged) << "a bomb claims to be small";
+    EXPECT_EQ(refusalIn(claim(0)), Damaged);
+    EXPECT_EQ(refusalIn(claim(quint32(Text.size()) + 1)), Damaged);
+}
+
+TEST(ZipDirectory, RefusesMembersThatAreTooLarge)
+{
+    const QByteArray zip = packed();
+    EXPECT_EQ(refusalIn(zip, Text.size()), QString());
+    EXPECT_TRUE(refusalIn(zip, Text.size() - 1)
+                    .startsWith(u"The package's member a.xml is too large: 1200 bytes"_s));
+    EXPECT_TRUE(refusalIn(with<quint32>(zip, entryIn(zip) + 24, 0xfffffff0))
+                    .startsWith(u"The package's member a.xml is too large: 4294967280"_s));
+}
+
+TEST(ZipDirectory, RefusesDataThatLiesOutsideTheFile)
+{
+    const QByteArray zip = packed();
+    const qsizetype entry = entryIn(zip);
+    EXPECT_EQ(refusalIn(with<quint32>(zip, entry + 42, 0xfffffff0)), Damaged);
+    EXPECT_EQ(refusalIn(with<quint32>(zip, entry + 20, 3000)), Damaged);
+    EXPECT_NE(refusalIn(with<quint32>(zip, entry + 20, 0xfffffff0)), QString());
+    EXPECT_EQ(refusalIn(with<quint16>(zip, 28, 60000)), Damaged) << "the extra field of the member";
+}
+
+TEST(ZipDirectory, RefusesOtherMethodsOfPacking)
+{
+    EXPECT_EQ(refusalIn(with<quint16>(packed(), 8, 12)), Damaged);
+}
+
+TEST(ZipDirectory, RefusesEveryDamagedByteOfTheData)
+{
+    const QByteArray zip = packed();
+    const qsizetype data = 30 + 5;
+    for (qsizetype at = data; at < zip.indexOf("PK\x01\x02"); ++at) {
+        SCOPED_TRACE(at);
+        QByteArray damaged = zip;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
+        EXPECT_EQ(refusalIn(damaged), Damaged);
+    }
+}
+
+TEST(ZipDirectory, TakesTheFirstOfTwoMembersOfOneName)
+{
+    const QByteArray zip = Package().add(u"a.xml"_s, Text).add(u"b.xml"_s, "x").bytes();
+    QByteArray twice = zip;
+    twice[twice.lastIndexOf("b.xml")] = 'a';
+    Package package;
+    ZipDirectory directory;
+    ASSERT_FALSE(directory.open(package.writeRaw(twice)));
+    EXPECT_EQ(directory.sizeOf(u"a.xml"_s), Text.size());
+}
