@@ -204,13 +204,14 @@ void LegacyTavrel::importShapeItem(QDataStream& stream, quint32 version)
 
 void LegacyTavrel::importPictureItem(QDataStream& stream, quint32 version)
 {
-    const PictureRecord record =
+    PictureRecord record =
         readPictureRecord(stream, fileContext(version), takeItemNumber(), m_pixelsLeft);
     if (record.picture.refused) {
         logError(__LINE__, Q_FUNC_INFO,
                  QStringLiteral("A picture is damaged or too large, the item is left empty"));
     }
-    logRefusedItem(__LINE__, Q_FUNC_INFO, buildPicture(hostCanvas(), record, m_resolution));
+    logRefusedItem(__LINE__, Q_FUNC_INFO,
+                   buildPicture(hostCanvas(), std::move(record), m_resolution));
 }
 
 QString LegacyTavrel::importTextItem(QDataStream& stream, quint32 version)

@@ -5,16 +5,17 @@
 
 #include <QPixmap>
 
+#include <utility>
+
 namespace tavrel {
 
-BuildResult buildPicture(const HostCanvas& host, const PictureRecord& record,
-                         const Resolution& resolution)
+BuildResult buildPicture(const HostCanvas& host, PictureRecord record, const Resolution& resolution)
 {
     std::unique_ptr<PixMapItem> item = createItem<PixMapItem>(host, KestTypes::Picture);
     if (!item) {
         return BuildResult::NoItem;
     }
-    item->pixmapImportActions(QPixmap::fromImage(record.picture.image));
+    item->pixmapImportActions(QPixmap::fromImage(std::move(record.picture.image)));
     item->setItemSize(contentSize(record.header, resolution, item->getItemSize()));
     item->setItemRotation(record.header.rotation);
     placeItem(*item, record.header);
