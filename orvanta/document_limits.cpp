@@ -9,17 +9,6 @@ namespace {
 
 constexpr qint64 ChunkSize = qint64(1024) * 1024;
 
-// Two-byte and four-byte encodings write the same letters with zeros between.
-bool declaresEntities(const QByteArray& bytes)
-{
-    if (!bytes.contains('\0')) {
-        return bytes.contains("<!ENTITY");
-    }
-    QByteArray letters = bytes;
-    letters.replace('\0', QByteArrayView());
-    return letters.contains("<!ENTITY");
-}
-
 } // namespace
 
 FileContent readWithinLimits(QFile& file)
@@ -29,7 +18,6 @@ FileContent readWithinLimits(QFile& file)
         const QByteArray chunk = file.read(ChunkSize);
         // A chunk of carriage returns alone is empty in text mode and not the end.
         if (chunk.isEmpty() && (file.atEnd() || file.error() != QFileDevice::NoError)) {
-            content.refusal = exceededLimit(content.bytes);
             return content;
         }
         content.bytes += chunk;
@@ -37,18 +25,6 @@ FileContent readWithinLimits(QFile& file)
     content.bytes.clear();
     content.refusal = QStringLiteral("it has more than %1 bytes").arg(MaximumFileSize);
     return content;
-}
-
-QString exceededLimit(const QByteArray& bytes)
-{
-    if (bytes.count('<') + bytes.count('=') > MaximumMarkup) {
-        return QStringLiteral("it has more than %1 tags and attributes").arg(MaximumMarkup);
-    }
-    if (bytes.count('&') > MaximumEntityReferences && declaresEntities(bytes)) {
-        return QStringLiteral("it declares entities and has more than %1 references")
-            .arg(MaximumEntityReferences);
-    }
-    return {};
 }
 
 QString exceededLimit(const QDomElement& controls)

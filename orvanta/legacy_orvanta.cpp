@@ -62,7 +62,8 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
         return false;
     }
     QDomDocument document;
-    if (const auto failure = xmlbounds::parseDocument(content.bytes, document)) {
+    if (const auto failure =
+            xmlbounds::parseDocument(content.bytes, document, orvanta::MaximumTreeBytes)) {
         debugLog(__LINE__, Q_FUNC_INFO)
             .write("Error parsing file: %s at line %lld, column %lld:\n%s",
                    printableName.constData(), failure->line, failure->column,
