@@ -15,9 +15,13 @@ inline constexpr qint64 MaximumPixelsPerFile = 32LL * 1024 * 1024;
 
 /// Item records of one file; the smallest takes 61 bytes in the file and some kilobytes
 /// on a canvas.
-inline constexpr int MaximumItemRecords = 100'000;
+inline constexpr int MaximumItemRecords = 20'000;
 
-/// Characters of all notes that the message box lists.
+/// Characters of a width or height; what is longer is as unreadable as any other text that
+/// is no number.
+inline constexpr qsizetype MaximumLengthCharacters = 1000;
+
+/// Characters of all notes that the message box lists for one file.
 inline constexpr qsizetype MaximumNoteCharacters = 100'000;
 
 /// Deflate cannot pack tighter than this, so a picture that claims more is not in the file.

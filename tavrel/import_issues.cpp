@@ -1,7 +1,5 @@
 #include "tavrel/import_issues.h"
 
-#include "tavrel/bounds.h"
-
 #include <QObject>
 
 namespace tavrel {
@@ -17,16 +15,11 @@ void appendPart(QString& text, const QString& part)
 
 } // namespace
 
-bool ImportIssues::addNote(const QString& note)
+void ImportIssues::addNote(const QString& note)
 {
-    if (note.isEmpty()) {
-        return true;
+    if (!note.isEmpty()) {
+        appendPart(m_notes, note);
     }
-    if (m_notes.size() + note.size() > MaximumNoteCharacters) {
-        return false;
-    }
-    appendPart(m_notes, note);
-    return true;
 }
 
 QString ImportIssues::text() const

@@ -13,8 +13,7 @@ public:
     bool databaseLinked = false;
 
     /// Adds a text item's note; an empty one is none.
-    /// @return false when the notes have become too many and this one is left out
-    [[nodiscard]] bool addNote(const QString& note);
+    void addNote(const QString& note);
     /// The message, one issue to a line in a fixed order; empty when all went well.
     [[nodiscard]] QString text() const;
 

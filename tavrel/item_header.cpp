@@ -2,6 +2,7 @@
 
 #include "numeric/fraction.h"
 #include "tavrel/bounded_stream.h"
+#include "tavrel/bounds.h"
 #include "tavrel/file_versions.h"
 
 namespace tavrel {
@@ -30,7 +31,9 @@ constexpr std::array PositionLayouts{
 
 double readLength(QDataStream& stream)
 {
-    return Fraction(readText(stream)).toDouble() * PointsPerInch;
+    const QString text = readText(stream);
+    const bool readable = text.size() <= MaximumLengthCharacters;
+    return Fraction(readable ? text : QString()).toDouble() * PointsPerInch;
 }
 
 } // namespace

@@ -138,6 +138,7 @@ bool LegacyTavrel::importCanvasAndItems(QDataStream& stream, quint32 version, bo
     ImportIssues issues;
     issues.databaseLinked = databaseLinked;
     m_pixelsLeft = MaximumPixelsPerFile;
+    m_noteCharactersLeft = MaximumNoteCharacters;
     bool anyItemRead = false;
     for (int count = 0; !stream.atEnd(); ++count) {
         if (count == MaximumItemRecords) {
@@ -166,9 +167,7 @@ LegacyTavrel::RecordOutcome LegacyTavrel::importItemRecord(qint32 typeCode, QDat
 {
     switch (typeCode) {
     case TextCode:
-        if (!issues.addNote(importTextItem(stream, version))) {
-            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many notes, one is left out"));
-        }
+        issues.addNote(importTextItem(stream, version));
         return RecordOutcome::Read;
     case SymbolCode:
         if (!importSymbolItem(stream, version)) {
@@ -220,7 +219,18 @@ QString LegacyTavrel::importTextItem(QDataStream& stream, quint32 version)
     const DatasourceBinder binder(m_datasourceController, m_sequence);
     const TextOutcome outcome = buildText(hostCanvas(), record, binder);
     logRefusedItem(__LINE__, Q_FUNC_INFO, outcome.result);
-    return outcome.note;
+    return outcome.scaled ? noteOn(record) : QString();
+}
+
+QString LegacyTavrel::noteOn(const TextRecord& record)
+{
+    if (record.content.size() > m_noteCharactersLeft) {
+        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many notes, one is left out"));
+        return {};
+    }
+    const QString note = scaledTextNote(record.content, record.fontSize);
+    m_noteCharactersLeft -= note.size();
+    return note;
 }
 
 bool LegacyTavrel::importBarcodeItem(QDataStream& stream, quint32 version, bool linear)

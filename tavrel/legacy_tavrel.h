@@ -23,6 +23,7 @@ namespace tavrel {
 class ImportIssues;
 enum class BuildResult;
 struct HostCanvas;
+struct TextRecord;
 } // namespace tavrel
 
 /// Reads binary canvas files (*.cnv, *.roc) into the host's canvas.
@@ -82,6 +83,7 @@ private:
 
     [[nodiscard]] tavrel::FileContext fileContext(quint32 version) const;
     [[nodiscard]] tavrel::HostCanvas hostCanvas() const;
+    [[nodiscard]] QString noteOn(const tavrel::TextRecord& record);
     void reportIssues(const tavrel::ImportIssues& issues);
     void showMessageBox(const QString& title, const QString& text);
 
@@ -95,5 +97,6 @@ private:
     bool m_orientationFlag = false;
     tavrel::Resolution m_resolution;
     tavrel::SequenceSettings m_sequence;
-    qint64 m_pixelsLeft = 0;
+    qint64 m_pixelsLeft = 0;            ///< of what the file's pictures may unpack
+    qsizetype m_noteCharactersLeft = 0; ///< of what the file's notes may take
 };

@@ -142,8 +142,7 @@ TextOutcome buildText(const HostCanvas& host, const TextRecord& record,
     applyLook(item, record, colors);
     item.setFlag(QGraphicsItem::ItemIsMovable, record.header.movable);
     item.setPos(record.header.position());
-    return {BuildResult::Built,
-            box.scaled ? scaledTextNote(record.content, record.fontSize) : QString()};
+    return {BuildResult::Built, box.scaled};
 }
 
 } // namespace tavrel

@@ -10,7 +10,7 @@ class DatasourceBinder;
 struct TextOutcome
 {
     BuildResult result = BuildResult::NoItem;
-    QString note; ///< tells the user of a text that could not keep its scale, else empty
+    bool scaled = false; ///< the text was stored stretched, which it could not keep
 };
 
 TextOutcome buildText(const HostCanvas& host, const TextRecord& record,

@@ -356,7 +356,7 @@ TEST_F(TextBuilder, ImportsTheItemBeforeItSetsItUp)
 {
     const TextOutcome outcome = build(text());
     EXPECT_EQ(outcome.result, BuildResult::Built);
-    EXPECT_EQ(outcome.note, QString());
+    EXPECT_FALSE(outcome.scaled);
     EXPECT_EQ(
         fake.calls.lines(),
         lines({"factory create \"10015\"", "canvas importItem", "item1 getItemSize",
@@ -376,7 +376,7 @@ struct BoxRow
     double headerHeight;
     int limiting;
     const char* size;
-    bool note;
+    bool scaled;
 };
 
 TEST_F(TextBuilder, BoxIsFixedScaledOrTheItemsOwn)
@@ -402,7 +402,7 @@ TEST_F(TextBuilder, BoxIsFixedScaledOrTheItemsOwn)
         record.fixedHeight = row.fixedHeight;
         record.header.width = row.headerWidth;
         record.header.height = row.headerHeight;
-        EXPECT_EQ(!build(record).note.isEmpty(), row.note);
+        EXPECT_EQ(build(record).scaled, row.scaled);
         EXPECT_TRUE(fake.calls.with("setItemSizeLimiting")
                         .value(0)
                         .endsWith(QStringLiteral(" %1").arg(row.limiting)));
@@ -450,13 +450,10 @@ TEST_F(TextBuilder, BindsBetweenContentAndLook)
     EXPECT_EQ(fake.calls.lines().value(12), QStringLiteral("item1 setPenWidth 6"));
 }
 
-TEST_F(TextBuilder, NoteNamesTheWordsAndTheFontSize)
+TEST(ScaledTextNote, NamesTheWordsAndTheFontSize)
 {
-    TextRecord record = text();
-    record.header.width = 144.0;
-    record.header.height = 144.0;
-    record.fontSize = 6;
-    EXPECT_EQ(build(record).note, QStringLiteral("\"Net weight\":\n\tOriginal font size: 6."));
+    EXPECT_EQ(scaledTextNote(QStringLiteral("Net  weight"), 6),
+              QStringLiteral("\"Net weight\":\n\tOriginal font size: 6."));
 }
 
 TEST(ScaledTextNote, JoinsWhitespaceAndLeavesTheRest)
@@ -473,7 +470,7 @@ TEST_F(TextBuilder, HostWithoutTextsLeavesItOut)
     record.header.width = 144.0;
     const TextOutcome outcome = build(record);
     EXPECT_EQ(outcome.result, BuildResult::NoItem);
-    EXPECT_EQ(outcome.note, QString());
+    EXPECT_FALSE(outcome.scaled);
 }
 
 } // namespace

@@ -186,6 +186,29 @@ TEST_F(Hostile, ItemsAreCounted)
     EXPECT_EQ(errors().size(), 1);
 }
 
+TEST_F(Hostile, NotesShareOneBound)
+{
+    const QString scaled = QStringLiteral("2");
+    const QString large(60'000, QLatin1Char('x'));
+    EXPECT_TRUE(import(
+        LabelFile().text(large, scaled).text(large, scaled).text(QStringLiteral("a b"), scaled)));
+    EXPECT_EQ(errors().size(), 1);
+    EXPECT_LT(boxText().size(), 70'000);
+    EXPECT_TRUE(boxText().endsWith(QStringLiteral("\n\"a b\":\n\tOriginal font size: 12.")));
+    services.boxes.clear();
+    EXPECT_TRUE(import(LabelFile().text(large, scaled))) << "the next file starts anew";
+    EXPECT_GT(boxText().size(), 60'000);
+}
+
+TEST_F(Hostile, TextOfBlanksAloneTakesNoMemoryForItsNote)
+{
+    EXPECT_TRUE(
+        import(LabelFile().text(QStringLiteral("a ").repeated(2'000'000), QStringLiteral("2"))));
+    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_EQ(errors().size(), 1);
+    expectModestMemory();
+}
+
 TEST_F(Hostile, NumbersThatAreNonePassWithoutHarm)
 {
     for (const double odd : {double(NAN), double(HUGE_VAL), -double(HUGE_VAL), 0.0, -1.0, 1e300}) {

@@ -1,4 +1,3 @@
-#include "tavrel/bounds.h"
 #include "tavrel/import_issues.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +15,7 @@ TEST(ImportIssues, NothingToTellIsAnEmptyText)
 {
     ImportIssues issues;
     EXPECT_EQ(issues.text(), QString());
-    EXPECT_TRUE(issues.addNote(QString()));
+    issues.addNote(QString());
     EXPECT_EQ(issues.text(), QString());
 }
 
@@ -32,7 +31,7 @@ TEST(ImportIssues, EachIssueStandsAlone)
     database.databaseLinked = true;
     EXPECT_EQ(database.text(), Datasource);
     ImportIssues note;
-    EXPECT_TRUE(note.addNote(QStringLiteral("a note")));
+    note.addNote(QStringLiteral("a note"));
     EXPECT_EQ(note.text(), QStringLiteral("a note"));
 }
 
@@ -48,22 +47,13 @@ TEST(ImportIssues, AllTogetherKeepTheirOrder)
 {
     ImportIssues issues;
     issues.databaseLinked = true;
-    EXPECT_TRUE(issues.addNote(QStringLiteral("one")));
-    EXPECT_TRUE(issues.addNote(QString()));
-    EXPECT_TRUE(issues.addNote(QStringLiteral("two")));
+    issues.addNote(QStringLiteral("one"));
+    issues.addNote(QString());
+    issues.addNote(QStringLiteral("two"));
     issues.barcodeErrors = true;
     issues.symbolErrors = true;
     EXPECT_EQ(issues.text(),
               Symbols + QLatin1Char('\n') + Barcodes + QStringLiteral("\none\ntwo\n") + Datasource);
-}
-
-TEST(ImportIssues, NotesAreBounded)
-{
-    ImportIssues issues;
-    EXPECT_TRUE(issues.addNote(QString(tavrel::MaximumNoteCharacters - 10, QLatin1Char('x'))));
-    EXPECT_FALSE(issues.addNote(QString(11, QLatin1Char('y'))));
-    EXPECT_FALSE(issues.text().contains(QLatin1Char('y')));
-    EXPECT_TRUE(issues.addNote(QStringLiteral("short")));
 }
 
 } // namespace

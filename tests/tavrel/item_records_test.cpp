@@ -9,6 +9,7 @@
 #include "tests/tavrel/bytes.h"
 
 #include <cmath>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -116,6 +117,16 @@ TEST(ItemHeader, LengthsAreFractionsOfAnInch)
         const ItemHeader header = readItemHeader(stream, file(2000024), 0);
         EXPECT_EQ(header.width, row.points);
         EXPECT_EQ(header.height, row.points);
+    }
+}
+
+TEST(ItemHeader, EndlessLengthIsNoNumber)
+{
+    for (const auto& [size, points] : {std::pair(999, 36.0), std::pair(1000, 72.0)}) {
+        const QString text = QStringLiteral("0.5").leftJustified(size + 1, QLatin1Char('0'));
+        QDataStream stream(
+            Bytes().flag(false).real(0).real(0).real(0).real(0).text(text).text({}).bytes());
+        EXPECT_EQ(readItemHeader(stream, file(2000024), 0).width, points) << size;
     }
 }
 
