@@ -149,14 +149,18 @@ TEST_F(HostileFile, NumbersOutOfRangeReachTheHostAsTheyAre)
     EXPECT_TRUE(callsOf("item:2").contains(QStringLiteral("setFontPointSize 0")));
 }
 
-TEST_F(HostileFile, HundredThousandObjectsAreImported)
+TEST_F(HostileFile, HundredThousandWholeObjectsAreImported)
 {
     const int count = 100'000;
-    EXPECT_TRUE(import("<qmtx><controls>" +
-                       repeated("<transparent_shape><printable_control><bounds><x>300</x>"
-                                "</bounds></printable_control></transparent_shape>",
-                                count) +
-                       "</controls></qmtx>"));
+    const QByteArray whole =
+        "<transparent_shape><printable_control><text>a</text><transparency>false</transparency>"
+        "<negative>true</negative><fore_color>-1</fore_color><back_color>-65536</back_color>"
+        "<bounds><x>300</x><y>300</y><w>10</w><h>10</h></bounds>"
+        "<font><family>Arial</family><size>10</size><style>1</style></font></printable_control>"
+        "<rotation>1</rotation><flip_horizontally>true</flip_horizontally>"
+        "<flip_vertically>true</flip_vertically><sides>3</sides><shape_index>1</shape_index>"
+        "<line_width>1</line_width></transparent_shape>";
+    EXPECT_TRUE(import("<qmtx><controls>" + repeated(whole, count) + "</controls></qmtx>"));
     EXPECT_EQ(canvas.items.size(), std::size_t(count));
 }
 
