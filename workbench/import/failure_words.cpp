@@ -38,6 +38,10 @@ constexpr std::array kRows{
         QT_TRANSLATE_NOOP("workbench::FailureWords",
                           "The file is XML, but not a label: its outermost element is not "
                           "\"qmtx\".")},
+    Row{R"(^Invalid type: (-?\d+))",
+        QT_TRANSLATE_NOOP("workbench::FailureWords",
+                          "The file is no label, or a damaged one: its first item is of an "
+                          "unknown kind (%1).")},
     Row{R"(^Unable to get file styles\.)",
         QT_TRANSLATE_NOOP("workbench::FailureWords",
                           "The file is no OpenDocument file, or a damaged one: it has no "

@@ -3,6 +3,7 @@
 #include "workbench/items/bounds.h"
 #include "workbench/items/font_families.h"
 
+#include <QImage>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextFragment>
@@ -46,9 +47,14 @@ LabelDocument::LabelDocument(QObject* parent)
 
 QVariant LabelDocument::loadResource(int type, const QUrl& name)
 {
-    Q_UNUSED(type)
     Q_UNUSED(name)
-    return {};
+    // An empty answer would not do: the layout then opens a picture's name as a file itself.
+    if (type == QTextDocument::ImageResource) {
+        QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+        nothing.fill(Qt::transparent);
+        return nothing;
+    }
+    return QByteArray();
 }
 
 void boundFontSizes(QTextDocument& document)

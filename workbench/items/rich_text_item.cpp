@@ -4,15 +4,35 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
+#include <QRegularExpression>
+
+#include <memory>
 
 namespace workbench {
+
+namespace {
+
+// What the document leaves to the item's font stays out: read again, it would be a format
+// of its own. A font that nobody asks for stands in for the item's.
+QString htmlOf(const QTextDocument& document)
+{
+    QFont nobody(QStringLiteral("-"));
+    nobody.setPixelSize(1);
+    nobody.setWeight(QFont::Weight(1));
+    const std::unique_ptr<QTextDocument> copy(document.clone());
+    copy->setDefaultFont(nobody);
+    static const QRegularExpression bodyStyle(QStringLiteral("<body style=\"[^\"]*\""));
+    return copy->toHtml().replace(bodyStyle, QStringLiteral("<body"));
+}
+
+} // namespace
 
 RichTextItem::RichTextItem(KestTypes::ShapeType type)
     : Layers(type)
 {
+    setDocument(new LabelDocument(this));
     // A text has a frame only where its label says so.
     setPenStyle(Qt::NoPen);
-    setDocument(new LabelDocument(this));
 }
 
 void RichTextItem::setText(const QString& text)
@@ -49,12 +69,17 @@ PlainText RichTextItem::plainText(bool wraps) const
 QSizeF RichTextItem::layOutDocument(double width)
 {
     boundFontSizes(*document());
+    document()->setTextWidth(width > 0.0 ? width : -1.0);
+    return document()->size();
+}
+
+void RichTextItem::appearanceChanged()
+{
     // Setting a font lays out anew, even if it is the same.
     if (const QFont font = toFont(fontValues()); document()->defaultFont() != font) {
         document()->setDefaultFont(font);
     }
-    document()->setTextWidth(width > 0.0 ? width : -1.0);
-    return document()->size();
+    Layers::appearanceChanged();
 }
 
 double RichTextItem::overhang() const
@@ -87,7 +112,7 @@ void RichTextItem::paintDocument(QPainter& painter, const QRectF& box)
 void RichTextItem::collect(ItemValues& values) const
 {
     Layers::collect(values);
-    values.text = TextValues{m_text, document()->isEmpty() ? QString() : document()->toHtml()};
+    values.text = TextValues{m_text, document()->isEmpty() ? QString() : htmlOf(*document())};
 }
 
 void RichTextItem::restore(const ItemValues& values)

@@ -28,6 +28,7 @@ protected:
     [[nodiscard]] double overhang() const override;
     void collect(ItemValues& values) const override;
     void restore(const ItemValues& values) override;
+    void appearanceChanged() override;
 
 private:
     [[nodiscard]] bool showsDocument() const;

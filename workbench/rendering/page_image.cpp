@@ -64,6 +64,13 @@ QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
     return best < 1 ? text : text + tr(" Up to %1 dots per inch are possible.").arg(best);
 }
 
+// The last row and column may be covered by the page in part only: they are the page's too.
+QColor groundOf(const Canvas& canvas)
+{
+    const QColor color = canvas.canvasBackgroundColor();
+    return color.alpha() == 255 ? color : QColor(Qt::transparent);
+}
+
 int dotsPerMetre(double dpi)
 {
     return static_cast<int>(std::lround(dpi / kMetresPerInch));
@@ -87,7 +94,7 @@ PageImage renderPage(const Canvas& canvas, double dpi)
                     .arg(pixels.width())
                     .arg(pixels.height())};
     }
-    image.fill(Qt::transparent);
+    image.fill(groundOf(canvas));
     QPainter painter(&image);
     painter.scale(dpi / kPointsPerInch, dpi / kPointsPerInch);
     paintPage(painter, canvas);

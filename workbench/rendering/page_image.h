@@ -9,7 +9,7 @@ class Canvas;
 
 /// Largest picture that is made of a page: pixels along one side, and all together.
 inline constexpr int kMaximumImageSide = 20'000;
-inline constexpr qint64 kMaximumImagePixels = 200'000'000;
+inline constexpr qint64 kMaximumImagePixels = 150'000'000;
 
 /// A picture, or in plain words why there is none.
 struct PageImage

@@ -1,0 +1,187 @@
+#include "painted.h"
+
+#include "host/items/rectangle_item.h"
+#include "host/items/rich_text_item.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using workbench::Canvas;
+using workbench::CanvasItem;
+
+namespace {
+
+QGraphicsItem* addRectangle(Painted& page, const QRectF& box, const QColor& color)
+{
+    auto& item = page.make<RectangleItem>(KestTypes::Rectangle);
+    item.setItemSize(box.size());
+    item.setPos(box.topLeft());
+    item.setFillColor(color);
+    item.setPenStyle(Qt::NoPen);
+    return &item;
+}
+
+} // namespace
+
+TEST(Canvas, BeginsWhiteWithBlackPrintAndAPage)
+{
+    const Canvas canvas;
+    EXPECT_EQ(canvas.canvasBackgroundColor(), QColor(Qt::white));
+    EXPECT_EQ(canvas.canvasDefaultPenColor(), QColor(Qt::black));
+    EXPECT_FALSE(canvas.pageRect().isEmpty());
+    EXPECT_FALSE(canvas.isComplete());
+}
+
+TEST(Canvas, KeepsThePageAndItsFlags)
+{
+    Canvas canvas;
+    QSignalSpy changes(&canvas, &Canvas::pageChanged);
+    canvas.importCanvasParameters(300.0, 150.0, true, true);
+
+    EXPECT_EQ(canvas.page().size, QSizeF(300.0, 150.0));
+    EXPECT_TRUE(canvas.page().canvasFlag);
+    EXPECT_TRUE(canvas.page().orientation);
+    EXPECT_EQ(canvas.scene()->sceneRect(), QRectF(0.0, 0.0, 300.0, 150.0));
+    EXPECT_EQ(changes.count(), 1);
+}
+
+TEST(Canvas, BoundsAPageThatNoLabelHas)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    Canvas canvas;
+    canvas.importCanvasParameters(nan, -5.0, false, false);
+    EXPECT_EQ(canvas.page().size, QSizeF(1.0, 1.0));
+    canvas.importCanvasParameters(infinity, 1e300, false, false);
+    EXPECT_LT(canvas.page().size.width(), 1e9);
+    EXPECT_LT(canvas.page().size.height(), 1e9);
+}
+
+TEST(Canvas, KeepsItsColors)
+{
+    Canvas canvas;
+    canvas.setCanvasBackgroundColor(Qt::yellow);
+    canvas.setCanvasDefaultPenColor(Qt::red);
+    EXPECT_EQ(canvas.canvasBackgroundColor(), QColor(Qt::yellow));
+    EXPECT_EQ(canvas.canvasDefaultPenColor(), QColor(Qt::red));
+}
+
+TEST(Canvas, ListsItemsInTheOrderInWhichTheyCame)
+{
+    Painted page;
+    QGraphicsItem* first = addRectangle(page, QRectF(0, 0, 10, 10), Qt::red);
+    QGraphicsItem* second = addRectangle(page, QRectF(0, 0, 10, 10), Qt::blue);
+    first->setZValue(5.0);
+
+    ASSERT_EQ(page.canvas.items().size(), 2);
+    EXPECT_EQ(page.canvas.items().at(0)->graphicsItem(), first);
+    EXPECT_EQ(page.canvas.items().at(1)->graphicsItem(), second);
+    EXPECT_EQ(page.canvas.itemsFromBottom().at(1)->graphicsItem(), first);
+    EXPECT_EQ(first->scene(), page.canvas.scene());
+}
+
+TEST(Canvas, TakesAnItemOnceAndNoNothing)
+{
+    Painted page;
+    auto& item = page.make<Item>(KestTypes::Ellipse);
+    page.canvas.importItem(&item);
+    page.canvas.importItem(nullptr);
+    EXPECT_EQ(page.canvas.items().size(), 1);
+}
+
+TEST(Canvas, HigherItemsLieOnLowerOnesAndLaterOnesOnEarlier)
+{
+    Painted page;
+    QGraphicsItem* red = addRectangle(page, QRectF(0, 0, 50, 50), Qt::red);
+    addRectangle(page, QRectF(0, 0, 50, 50), Qt::blue);
+    EXPECT_EQ(page.at(20, 20), QColor(Qt::blue));
+    red->setZValue(0.001);
+    EXPECT_EQ(page.at(20, 20), QColor(Qt::red));
+}
+
+TEST(Canvas, AReadOnlyItemTakesNoMouse)
+{
+    Painted page;
+    QGraphicsItem* first = addRectangle(page, QRectF(0, 0, 10, 10), Qt::red);
+    QGraphicsItem* second = addRectangle(page, QRectF(0, 0, 10, 10), Qt::red);
+
+    page.canvas.setReadOnlyStateOnItemsInList(true, {first});
+    EXPECT_TRUE(page.canvas.items().at(0)->values().placement.readOnly);
+    EXPECT_EQ(first->acceptedMouseButtons(), Qt::NoButton);
+    EXPECT_FALSE(page.canvas.items().at(1)->values().placement.readOnly);
+    EXPECT_NE(second->acceptedMouseButtons(), Qt::NoButton);
+
+    page.canvas.setReadOnlyStateOnItemsInList(false, {first, nullptr});
+    EXPECT_FALSE(page.canvas.items().at(0)->values().placement.readOnly);
+    EXPECT_NE(first->acceptedMouseButtons(), Qt::NoButton);
+}
+
+TEST(Canvas, ABackgroundItemTakesNoMouseEvenWhenItIsNoLongerReadOnly)
+{
+    Painted page;
+    QGraphicsItem* item = addRectangle(page, QRectF(0, 0, 10, 10), Qt::red);
+    page.canvas.setUserBackgroundStateOnItemsInList(true, {item});
+    page.canvas.setReadOnlyStateOnItemsInList(false, {item});
+
+    EXPECT_TRUE(page.canvas.items().at(0)->values().placement.userBackground);
+    EXPECT_EQ(item->acceptedMouseButtons(), Qt::NoButton);
+}
+
+TEST(Canvas, TellsWhenALabelIsThereWhole)
+{
+    Canvas canvas;
+    QSignalSpy spy(&canvas, &Canvas::loadingCompleted);
+    canvas.completeCanvasLoading();
+    EXPECT_EQ(spy.count(), 1);
+    EXPECT_TRUE(canvas.isComplete());
+}
+
+TEST(Canvas, ClearedItIsAsNew)
+{
+    Painted page;
+    addRectangle(page, QRectF(0, 0, 10, 10), Qt::red);
+    page.canvas.completeCanvasLoading();
+    page.canvas.setCanvasBackgroundColor(Qt::green);
+    QSignalSpy changes(&page.canvas, &Canvas::itemsChanged);
+
+    page.canvas.clear();
+
+    EXPECT_TRUE(page.canvas.items().isEmpty());
+    EXPECT_TRUE(page.canvas.scene()->items().isEmpty());
+    EXPECT_EQ(page.canvas.page(), workbench::PageValues());
+    EXPECT_FALSE(page.canvas.isComplete());
+    EXPECT_EQ(changes.count(), 1);
+}
+
+TEST(Canvas, ShowsARecordOnBoundItemsOnly)
+{
+    Painted page;
+    auto& bound = page.make<TextItem>(KestTypes::RichText);
+    bound.setItemSize(QSizeF(80.0, 30.0));
+    bound.setText(QStringLiteral("own"));
+    bound.setDatasourceId(3);
+    bound.setDatasourceFields({QStringLiteral("Value")});
+    auto& unbound = page.make<TextItem>(KestTypes::RichText);
+    unbound.setItemSize(QSizeF(80.0, 30.0));
+    unbound.setPos(100.0, 0.0);
+    unbound.setText(QStringLiteral("own"));
+    const QImage before = page.image();
+
+    QStringList asked;
+    page.canvas.showRecord(7, [&asked](int id, qint64 record, const QStringList& fields) {
+        asked << QStringLiteral("%1/%2/%3").arg(id).arg(record).arg(fields.join(QLatin1Char(',')));
+        return std::optional<QString>(QStringLiteral("seven"));
+    });
+    const QImage shown = page.image();
+
+    EXPECT_EQ(asked, QStringList{QStringLiteral("3/7/Value")});
+    EXPECT_NE(shown.copy(0, 0, 100, 100), before.copy(0, 0, 100, 100));
+    EXPECT_EQ(shown.copy(100, 0, 100, 100), before.copy(100, 0, 100, 100));
+
+    page.canvas.showRecord(
+        8, [](int, qint64, const QStringList&) { return std::optional<QString>(); });
+    EXPECT_EQ(page.image(), before);
+}

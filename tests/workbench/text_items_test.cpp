@@ -1,0 +1,514 @@
+// Where text stands, how large it is, and what its box does.
+
+#include "painted.h"
+
+#include "host/items/rich_text_item.h"
+#include "host/items/simple_text_item.h"
+#include "workbench/items/canvas_item.h"
+#include "workbench/items/label_document.h"
+#include "workbench/items/text_layout.h"
+
+#include <QFile>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString kBlock = QStringLiteral("HHHH");
+const QString kMegabyte = QStringLiteral("word ").repeated(200'000);
+
+// A rich text of 100 by 60 points at (50, 20).
+TextItem& putRich(Painted& page, const QString& text)
+{
+    auto& item = page.make<TextItem>(KestTypes::RichText);
+    item.setItemSize(QSizeF(100.0, 60.0));
+    item.setPos(50.0, 20.0);
+    item.setText(text);
+    item.setFontPointSize(12);
+    return item;
+}
+
+// A simple text as binary labels have it: no fixed side.
+SimpleTextItem& putLabel(Painted& page, const QString& text, int size, signed char limiting = 0,
+                         const QSizeF& box = {})
+{
+    auto& item = page.make<SimpleTextItem>(KestTypes::SimpleText);
+    item.setItemSizeLimiting(limiting);
+    item.setTextBoxSize(box);
+    item.importTextProperties(text, size, false, false, false, Qt::AlignLeft);
+    item.applyTextOptions();
+    return item;
+}
+
+// Height of a capital letter of the font that texts have without a family, at 1 point.
+double capHeight()
+{
+    return QFontMetricsF(workbench::toFont({}, 1000)).capHeight() / 1000.0;
+}
+
+struct AlignmentRow
+{
+    Qt::Alignment alignment;
+    bool left;
+    bool right;
+    bool top;
+    bool bottom;
+};
+
+const AlignmentRow kAlignments[] = {
+    {{}, true, false, true, false},
+    {Qt::AlignLeft | Qt::AlignTop, true, false, true, false},
+    {Qt::AlignRight, false, true, true, false},
+    {Qt::AlignHCenter, false, false, true, false},
+    {Qt::AlignBottom, true, false, false, true},
+    {Qt::AlignRight | Qt::AlignBottom, false, true, false, true},
+    {Qt::AlignHCenter | Qt::AlignVCenter, false, false, false, false},
+};
+
+void expectAligned(const QRect& ink, const QRect& box, const AlignmentRow& row)
+{
+    const int left = ink.left() - box.left();
+    const int right = box.right() - ink.right();
+    const int top = ink.top() - box.top();
+    const int bottom = box.bottom() - ink.bottom();
+    EXPECT_EQ(left < 4, row.left) << left;
+    EXPECT_EQ(right < 4, row.right) << right;
+    EXPECT_EQ(top < 8, row.top) << top;
+    EXPECT_EQ(bottom < 8, row.bottom) << bottom;
+    if (!row.left && !row.right) {
+        EXPECT_NEAR(left, right, 2);
+    }
+    if (!row.top && !row.bottom) {
+        EXPECT_NEAR(top, bottom, 5);
+    }
+}
+
+} // namespace
+
+TEST(TextSize, IsInPointsAtEveryResolution)
+{
+    for (const int size : {10, 20, 40}) {
+        Painted page;
+        putRich(page, QStringLiteral("HH")).setFontPointSize(size);
+        EXPECT_NEAR(inkOf(page.image(288.0)).height(), size * capHeight() * 4.0, 2.0) << size;
+        EXPECT_NEAR(inkOf(page.image(720.0)).height(), size * capHeight() * 10.0, 2.5) << size;
+    }
+}
+
+TEST(TextSize, IsTheSameForBothTextKinds)
+{
+    Painted rich;
+    putRich(rich, kBlock);
+    Painted simple;
+    putLabel(simple, kBlock, 12);
+    EXPECT_EQ(inkOf(rich.image(288.0)).size(), inkOf(simple.image(288.0)).size());
+}
+
+TEST(TextSize, OfADocumentInDesktopPointsIsTheSameInScreenPixels)
+{
+    // Documents count 72 points to what the screen takes for an inch, the scene counts its
+    // own units: importers convert, so that 12 units high is what they ask for.
+    Painted page;
+    auto& item = page.make<RichTextItem>(KestTypes::RichText);
+    const QFontInfo info{QFont(QStringLiteral("Liberation Sans"), 12)};
+    const double pointsPerPixel = info.pointSizeF() / info.pixelSize();
+    item.setHtml(QStringLiteral("<p><span style=\"font-size:%1pt\">HHHH</span></p>")
+                     .arg(24.0 * pointsPerPixel));
+    item.adjustBoxSizeToContent(190.0);
+    EXPECT_NEAR(inkOf(page.image(288.0)).height(), 24 * capHeight() * 4.0, 3.0);
+}
+
+TEST(RichText, StandsInItsBoxAsItsAlignmentSays)
+{
+    for (const AlignmentRow& row : kAlignments) {
+        SCOPED_TRACE(row.alignment.toInt());
+        Painted page;
+        putRich(page, kBlock).setTextAlignment(row.alignment);
+        expectAligned(page.ink(), QRect(50, 20, 100, 60), row);
+    }
+}
+
+TEST(RichText, WrapsAtTheWidthOfItsBox)
+{
+    Painted page;
+    putRich(page, QStringLiteral("several words that do not fit on one line"));
+    const QRect ink = page.ink();
+    EXPECT_LE(ink.right(), 151);
+    EXPECT_GT(ink.height(), 25);
+}
+
+TEST(RichText, ALineFeedBeginsANewLine)
+{
+    Painted one;
+    putRich(one, QStringLiteral("HH"));
+    Painted two;
+    putRich(two, QStringLiteral("HH\nHH"));
+    EXPECT_NEAR(two.ink().height() - one.ink().height(), 14, 2);
+    EXPECT_EQ(two.ink().width(), one.ink().width());
+}
+
+TEST(RichText, TextIsNotMarkup)
+{
+    Painted page;
+    putRich(page, QStringLiteral("<b>H</b>"));
+    Painted plain;
+    putRich(plain, QStringLiteral("H"));
+    EXPECT_GT(page.ink().width(), 2 * plain.ink().width());
+}
+
+TEST(RichText, OfPlainTextTakesTheWidthThatItNeeds)
+{
+    Painted page;
+    auto& item = dynamic_cast<RichTextItem&>(putRich(page, kBlock));
+    item.adjustBoxSizeToContent(190.0);
+    const QSizeF natural = item.getItemSize();
+    EXPECT_NEAR(natural.width(), page.ink().width(), 4.0);
+    EXPECT_NEAR(natural.height(), 14.0, 1.5);
+
+    item.adjustBoxSizeToContent(0.0);
+    EXPECT_EQ(item.getItemSize(), natural);
+    item.adjustBoxSizeToContent(natural.width() / 2.0);
+    EXPECT_GT(item.getItemHeight(), 1.9 * natural.height());
+    EXPECT_LE(item.getItemWidth(), natural.width() / 2.0 + 0.1);
+}
+
+TEST(RichText, ShrunkToItsTextIsPaintedOnAsManyLinesAsMeasured)
+{
+    Painted page;
+    auto& item = dynamic_cast<RichTextItem&>(putRich(page, QStringLiteral("some few words")));
+    item.adjustBoxSizeToContent(150.0);
+    EXPECT_LT(page.ink().height(), 16);
+    EXPECT_EQ(page.ink().left(), 50);
+}
+
+TEST(RichText, OfADocumentKeepsTheWholeWidthForItsParagraphs)
+{
+    Painted page;
+    auto& item = page.make<RichTextItem>(KestTypes::RichText);
+    item.setHtml(QStringLiteral("<p align=\"right\">HH</p>"));
+    item.adjustBoxSizeToContent(150.0);
+    EXPECT_EQ(item.getItemWidth(), 150.0);
+    EXPECT_GT(item.getItemHeight(), 10.0);
+    EXPECT_LT(item.getItemHeight(), 20.0);
+    EXPECT_NEAR(page.ink().right(), 149, 3);
+    EXPECT_GT(page.ink().left(), 120);
+}
+
+TEST(RichText, OfADocumentWithoutAWidthDoesNotWrap)
+{
+    Painted page;
+    auto& item = page.make<RichTextItem>(KestTypes::RichText);
+    item.setHtml(QStringLiteral("<p>some words in a row</p>"));
+    item.adjustBoxSizeToContent(-1.0);
+    EXPECT_LT(item.getItemHeight(), 20.0);
+    EXPECT_GT(item.getItemWidth(), 80.0);
+}
+
+TEST(RichText, HasTheFormatsOfItsDocument)
+{
+    Painted page;
+    auto& item = page.make<RichTextItem>(KestTypes::RichText);
+    item.setTextColor(Qt::blue);
+    item.setHtml(QStringLiteral("<p style=\"font-size:40px\">H<span style=\"color:#ff0000\">H"
+                                "</span></p>"));
+    item.adjustBoxSizeToContent(150.0);
+    const QImage image = page.image();
+    EXPECT_GT(countOf(image, image.rect(), QColor(255, 0, 0)), 20);
+    EXPECT_GT(countOf(image, image.rect(), QColor(Qt::blue)), 20);
+}
+
+TEST(RichText, NeverOpensWhatItsDocumentNames)
+{
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("secret.png"));
+    QImage secret(40, 40, QImage::Format_RGB32);
+    secret.fill(Qt::magenta);
+    ASSERT_TRUE(secret.save(picture));
+    for (const QString& source : {QUrl::fromLocalFile(picture).toString(), picture}) {
+        Painted page;
+        auto& item = page.make<RichTextItem>(KestTypes::RichText);
+        item.setHtml(
+            QStringLiteral("<p>x<img src=\"%1\" width=\"40\" height=\"40\"/></p>").arg(source));
+        item.adjustBoxSizeToContent(150.0);
+        const QImage image = page.image();
+        EXPECT_EQ(countOf(image, image.rect(), Qt::magenta), 0);
+    }
+}
+
+TEST(RichText, NewTextReplacesADocument)
+{
+    Painted page;
+    auto& item = dynamic_cast<RichTextItem&>(putRich(page, kBlock));
+    const QImage plain = page.image();
+    item.setHtml(QStringLiteral("<p>something else</p>"));
+    EXPECT_NE(page.image(), plain);
+    item.setText(kBlock);
+    EXPECT_EQ(page.image(), plain);
+}
+
+TEST(RichText, FontSizesThatNoLabelHasAreBounded)
+{
+    Painted page;
+    auto& item = page.make<RichTextItem>(KestTypes::RichText);
+    item.setHtml(QStringLiteral("<p><span style=\"font-size:1000000000pt\">Huge</span> and "
+                                "<span style=\"font-size:12pt\">small</span></p>"));
+    item.adjustBoxSizeToContent(150.0);
+    EXPECT_FALSE(page.image().isNull());
+    EXPECT_LT(item.getItemHeight(), 100'000.0);
+}
+
+TEST(SimpleText, WithoutASizeFillsItsBox)
+{
+    Painted page;
+    auto& item = page.make<TextItem>(KestTypes::SimpleText);
+    item.setItemSize(QSizeF(160.0, 80.0));
+    item.setPos(20.0, 10.0);
+    item.setText(QStringLiteral("HHHHHHHH"));
+    const QRect wide = page.ink();
+    EXPECT_GT(wide.width(), 145);
+    EXPECT_LE(wide.width(), 160);
+
+    item.setText(QStringLiteral("H")); // now the height is what bounds it
+    EXPECT_NEAR(page.ink().height(), 80.0 * capHeight() / 1.15, 5.0);
+    item.setItemSize(QSizeF(160.0, 20.0));
+    EXPECT_LT(page.ink().height(), 20);
+}
+
+TEST(SimpleText, ThatFillsItsBoxIsAlignedInWhatIsLeft)
+{
+    Painted page;
+    auto& item = page.make<TextItem>(KestTypes::SimpleText);
+    item.setItemSize(QSizeF(160.0, 40.0));
+    item.setText(QStringLiteral("H"));
+    EXPECT_LT(page.ink().left(), 10);
+    item.setTextAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    EXPECT_NEAR(page.ink().center().x(), 80, 2);
+    item.setTextAlignment(Qt::AlignRight);
+    EXPECT_GT(page.ink().right(), 150);
+}
+
+TEST(SimpleText, OfNoTextFillsNothing)
+{
+    Painted page;
+    auto& item = page.make<TextItem>(KestTypes::SimpleText);
+    item.setItemSize(QSizeF(160.0, 40.0));
+    EXPECT_TRUE(page.ink().isEmpty());
+    item.setText(QStringLiteral("\n\n"));
+    EXPECT_TRUE(page.ink().isEmpty());
+}
+
+TEST(SimpleText, WithASizeHasIt)
+{
+    Painted page;
+    auto& item = page.make<TextItem>(KestTypes::SimpleText);
+    item.setItemSize(QSizeF(160.0, 80.0));
+    item.setText(kBlock);
+    item.setFontPointSize(12);
+    EXPECT_NEAR(inkOf(page.image(288.0)).height(), 12 * capHeight() * 4.0, 2.0);
+}
+
+TEST(SimpleText, ASizeOfNothingStillIsNoScaling)
+{
+    Painted page;
+    putLabel(page, kBlock, 0, 3, QSizeF(160.0, 80.0));
+    EXPECT_NEAR(inkOf(page.image(288.0)).height(), 12 * capHeight() * 4.0, 2.0);
+}
+
+TEST(SimpleText, AFreeBoxFollowsTheText)
+{
+    Painted page;
+    auto& item = putLabel(page, kBlock, 20);
+    const QSizeF size = item.getItemSize();
+    EXPECT_NEAR(size.width(), page.ink().width(), 4.0);
+    EXPECT_NEAR(size.height(), 23.0, 2.0);
+    item.setText(kBlock + kBlock);
+    EXPECT_NEAR(item.getItemWidth(), 2.0 * size.width(), 0.5);
+    item.setFontPointSize(40);
+    EXPECT_NEAR(item.getItemHeight(), 2.0 * size.height(), 1.0);
+}
+
+TEST(SimpleText, AFixedWidthBreaksLinesAndTheHeightFollows)
+{
+    Painted page;
+    auto& item = putLabel(page, QStringLiteral("HHHH HHHH HHHH"), 12, 1, QSizeF(50.0, 5.0));
+    EXPECT_EQ(item.getItemWidth(), 50.0);
+    EXPECT_NEAR(item.getItemHeight(), 3 * 13.8, 2.0);
+    EXPECT_LE(page.ink().width(), 50);
+}
+
+TEST(SimpleText, AFixedHeightLeavesTheWidthToTheText)
+{
+    Painted page;
+    auto& item = putLabel(page, QStringLiteral("HHHH HHHH HHHH"), 12, 2, QSizeF(5.0, 70.0));
+    EXPECT_EQ(item.getItemHeight(), 70.0);
+    EXPECT_GT(item.getItemWidth(), 100.0);
+    EXPECT_LT(page.ink().height(), 14);
+}
+
+TEST(SimpleText, ABoxFixedOnBothSidesStaysAndAlignsItsText)
+{
+    for (const AlignmentRow& row : kAlignments) {
+        SCOPED_TRACE(row.alignment.toInt());
+        Painted page;
+        auto& item = putLabel(page, kBlock, 12, 3, QSizeF(100.0, 60.0));
+        item.setTextAlignment(row.alignment);
+        item.setPos(50.0, 20.0);
+        EXPECT_EQ(item.getItemSize(), QSizeF(100.0, 60.0));
+        expectAligned(page.ink(), QRect(50, 20, 100, 60), row);
+    }
+}
+
+TEST(SimpleText, StyleFlagsAreBoldItalicUnderlined)
+{
+    Painted page;
+    auto& item = page.make<SimpleTextItem>(KestTypes::SimpleText);
+    const auto fontAfter = [&item](bool bold, bool italic, bool underline) {
+        item.importTextProperties(kBlock, 12, bold, italic, underline, Qt::AlignLeft);
+        return *dynamic_cast<workbench::CanvasItem&>(item).values().font;
+    };
+    EXPECT_TRUE(fontAfter(true, false, false).bold);
+    EXPECT_TRUE(fontAfter(false, true, false).italic);
+    EXPECT_TRUE(fontAfter(false, false, true).underline);
+    EXPECT_FALSE(fontAfter(false, true, true).bold);
+}
+
+TEST(SimpleText, IsTurnedAboutTheCentreOfTheBoxThatItsTextMade)
+{
+    Painted page;
+    auto& item = putLabel(page, kBlock, 20);
+    item.setPos(60.0, 40.0);
+    const QPointF centre = item.sceneBoundingRect().center();
+    item.setItemRotation(90.0);
+    item.setText(kBlock + kBlock);
+    item.setItemRotation(0.0);
+    item.setItemRotation(180.0);
+    EXPECT_NEAR(item.sceneBoundingRect().center().y(), centre.y(), 1.0);
+    EXPECT_NEAR(page.ink().center().x(), 60.0 + item.getItemWidth() / 2.0, 2.0);
+}
+
+TEST(TextGround, AFillAndAFrameLieBehindTheText)
+{
+    for (const auto type : {KestTypes::SimpleText, KestTypes::RichText}) {
+        Painted page;
+        auto& item = page.make<TextItem>(type);
+        item.setItemSize(QSizeF(100.0, 60.0));
+        item.setPos(50.0, 20.0);
+        item.setText(kBlock);
+        item.setFillColor(Qt::yellow);
+        EXPECT_EQ(page.at(148, 78), QColor(Qt::yellow));
+        EXPECT_EQ(page.ink(), QRect(50, 20, 100, 60));
+        item.setPenWidth(2);
+        EXPECT_EQ(page.ink(), QRect(50, 20, 100, 60)); // no frame unless one is asked for
+        item.setPenStyle(Qt::SolidLine);
+        item.setPenColor(Qt::red);
+        EXPECT_EQ(page.at(49, 50), QColor(Qt::red));
+        EXPECT_EQ(page.ink(), QRect(49, 19, 102, 62));
+    }
+}
+
+TEST(TextGround, CharactersHaveTheTextColor)
+{
+    for (const auto type : {KestTypes::SimpleText, KestTypes::RichText}) {
+        Painted page;
+        auto& item = page.make<TextItem>(type);
+        item.setItemSize(QSizeF(150.0, 90.0));
+        item.setText(kBlock);
+        item.setFontPointSize(40);
+        item.setTextColor(Qt::red);
+        item.setPenColor(Qt::blue);
+        const QImage image = page.image();
+        EXPECT_GT(countOf(image, image.rect(), Qt::red), 50);
+        EXPECT_EQ(countOf(image, image.rect(), Qt::blue), 0);
+    }
+}
+
+TEST(TextGround, FlipsMirrorTheCharacters)
+{
+    Painted page;
+    auto& item = putRich(page, QStringLiteral("L"));
+    item.setFontPointSize(40);
+    const QImage plain = page.image().copy(50, 20, 100, 60);
+    item.setFlipHorizontal(true);
+    const QImage mirrored = page.image().copy(50, 20, 100, 60);
+    EXPECT_EQ(inkOf(mirrored), inkOf(plain.mirrored(true, false)));
+}
+
+TEST(TextFont, FamilyAndStyleAreSeen)
+{
+    const auto painted = [](const QString& family, bool bold, bool italic, bool underline) {
+        Painted page;
+        auto& item = putRich(page, QStringLiteral("Handling"));
+        item.setFontFamily(family);
+        item.setFontBold(bold);
+        item.setFontItalic(italic);
+        item.setFontUnderline(underline);
+        return page.image();
+    };
+    const QString sans = QStringLiteral("Liberation Sans");
+    const QImage plain = painted(sans, false, false, false);
+    EXPECT_NE(painted(QStringLiteral("Liberation Serif"), false, false, false), plain);
+    EXPECT_NE(painted(sans, true, false, false), plain);
+    EXPECT_NE(painted(sans, false, true, false), plain);
+    EXPECT_NE(painted(sans, false, false, true), plain);
+}
+
+TEST(TextFont, FamiliesOfOtherSystemsAreReplacedByThoseOfTheSameWidths)
+{
+    const auto painted = [](const char* family) {
+        Painted page;
+        putRich(page, QStringLiteral("Handling")).setFontFamily(QString::fromLatin1(family));
+        return page.image();
+    };
+    EXPECT_EQ(painted("Times New Roman"), painted("Liberation Serif"));
+    EXPECT_EQ(painted("Courier New"), painted("Liberation Mono"));
+    EXPECT_EQ(painted("_Nare Vol"), painted("Liberation Sans"));
+    EXPECT_EQ(painted(""), painted("Liberation Sans"));
+}
+
+// A megabyte in one run: the time that it takes is bounded by the test's time limit.
+TEST(TextBounds, ALongRichTextIsPainted)
+{
+    Painted page;
+    auto& item = dynamic_cast<RichTextItem&>(putRich(page, kMegabyte));
+    item.adjustBoxSizeToContent(100.0);
+    EXPECT_GT(item.getItemHeight(), 1'000.0);
+    EXPECT_FALSE(page.ink().isEmpty());
+}
+
+TEST(TextBounds, ALongSimpleTextIsPainted)
+{
+    Painted page;
+    EXPECT_GT(putLabel(page, kMegabyte, 12).getItemWidth(), 1'000.0);
+    EXPECT_FALSE(page.ink().isEmpty());
+}
+
+TEST(TextBounds, ALongScaledTextIsPainted)
+{
+    Painted page;
+    auto& item = page.make<TextItem>(KestTypes::SimpleText);
+    item.setItemSize(QSizeF(100.0, 60.0));
+    item.setText(kMegabyte);
+    EXPECT_FALSE(page.image().isNull());
+}
+
+TEST(TextBounds, ALongDocumentIsPainted)
+{
+    Painted page;
+    auto& item = page.make<RichTextItem>(KestTypes::RichText);
+    item.setHtml(QStringLiteral("<p>%1</p>").arg(kMegabyte));
+    item.adjustBoxSizeToContent(100.0);
+    EXPECT_GT(item.getItemHeight(), 1'000.0);
+    EXPECT_FALSE(page.ink().isEmpty());
+}
+
+TEST(TextBounds, LargestFontAndLongestTextTogetherArePainted)
+{
+    Painted page;
+    auto& item = putLabel(page, QStringLiteral("W").repeated(20'000), 2'000'000'000);
+    EXPECT_GT(item.getItemWidth(), 1'000.0);
+    EXPECT_FALSE(page.image().isNull());
+}
