@@ -217,10 +217,7 @@ TEST(ItemValues, ARichTextKeepsItsDocument)
     Painted other;
     CanvasItem* restored = other.canvas.addItem(values);
 
-    EXPECT_EQ(restored->values().text->html, values.text->html)
-        << qPrintable(restored->values().text->html) << "\n\n"
-        << qPrintable(values.text->html);
-    EXPECT_EQ(restored->values().box.size, values.box.size);
+    EXPECT_EQ(restored->values().text->html.toStdString(), values.text->html.toStdString());
     EXPECT_TRUE(restored->values() == values);
     EXPECT_EQ(other.image(), page.image());
 }

@@ -22,7 +22,11 @@ QString htmlOf(const QTextDocument& document)
     const std::unique_ptr<QTextDocument> copy(document.clone());
     copy->setDefaultFont(nobody);
     static const QRegularExpression bodyStyle(QStringLiteral("<body style=\"[^\"]*\""));
-    return copy->toHtml().replace(bodyStyle, QStringLiteral("<body"));
+    // The page of a document that was read has a border of its own, of no width.
+    return copy->toHtml()
+        .replace(bodyStyle, QStringLiteral("<body"))
+        .replace(QStringLiteral("<table border=\"0\" style=\"-qt-table-type: root;"),
+                 QStringLiteral("<table style=\"-qt-table-type: root;"));
 }
 
 } // namespace
