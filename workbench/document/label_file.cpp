@@ -1,0 +1,89 @@
+#include "workbench/document/label_file.h"
+
+#include "workbench/document/document_limits.h"
+#include "workbench/document/label_json.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace workbench::document {
+
+namespace {
+
+[[nodiscard]] QString cannotSave(const QString& path, const QString& reason)
+{
+    return QStringLiteral("The label cannot be saved as %1: %2.")
+        .arg(QDir::toNativeSeparators(path), reason);
+}
+
+[[nodiscard]] QString cannotOpen(const QString& path, const QString& reason)
+{
+    return QStringLiteral("The file %1 cannot be opened: %2.")
+        .arg(QDir::toNativeSeparators(path), reason);
+}
+
+} // namespace
+
+SavedLabel snapshot(const Canvas& canvas, const datasources::DatasourceController& datasources)
+{
+    SavedLabel label{canvas.page(), datasources.values(), {}};
+    for (const CanvasItem* item : canvas.items())
+        label.items << item->values();
+    return label;
+}
+
+bool restore(const SavedLabel& label, Canvas& canvas,
+             datasources::DatasourceController& datasources)
+{
+    if (!datasources.setValues(label.datasources))
+        return false;
+    canvas.clear();
+    canvas.setPage(label.page);
+    for (const ItemValues& item : label.items)
+        canvas.addItem(item);
+    canvas.showRecord(0, [&](int id, qint64 record, const QStringList& fields) {
+        return datasources.recordText(id, record, fields);
+    });
+    canvas.completeCanvasLoading();
+    return true;
+}
+
+QString saveLabel(const QString& path, const Canvas& canvas,
+                  const datasources::DatasourceController& datasources)
+{
+    const SavedLabel label = snapshot(canvas, datasources);
+    if (label.items.size() > limits::Items || label.datasources.size() > limits::Items)
+        return cannotSave(path, QStringLiteral("it has more than %1 items").arg(limits::Items));
+    const QByteArray bytes = toJson(label);
+    if (bytes.size() > limits::FileBytes)
+        return cannotSave(path, QStringLiteral("its pictures are too large"));
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        return cannotSave(path, file.errorString());
+    return {};
+}
+
+QString openLabel(const QString& path, Canvas& canvas,
+                  datasources::DatasourceController& datasources)
+{
+    if (QFileInfo(path).isDir())
+        return cannotOpen(path, QStringLiteral("it is a folder"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return cannotOpen(path, file.errorString());
+    const QByteArray bytes = file.read(limits::FileBytes + 1);
+    if (file.error() != QFileDevice::NoError)
+        return cannotOpen(path, file.errorString());
+    if (bytes.size() > limits::FileBytes)
+        return cannotOpen(path, QStringLiteral("it is larger than any label"));
+    const ReadLabel read = fromJson(bytes);
+    if (!read.error.isEmpty())
+        return read.error;
+    if (!restore(read.label, canvas, datasources))
+        return QStringLiteral("The label file is damaged: its data sources do not fit together.");
+    return {};
+}
+
+} // namespace workbench::document

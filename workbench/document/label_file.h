@@ -1,0 +1,30 @@
+#pragma once
+
+#include "workbench/document/saved_label.h"
+
+#include <QString>
+
+namespace workbench::document {
+
+/// All of a canvas and its data sources.
+[[nodiscard]] SavedLabel snapshot(const Canvas& canvas,
+                                  const datasources::DatasourceController& datasources);
+
+/// Replaces what is on the canvas and in the data sources. Items that are bound to a data
+/// source show its first record.
+/// @return false, and nothing is changed, when the data sources do not fit together
+[[nodiscard]] bool restore(const SavedLabel& label, Canvas& canvas,
+                           datasources::DatasourceController& datasources);
+
+/// Saves a label. The file is there whole or as it was before, whatever happens meanwhile.
+/// @return why it could not be saved, in a sentence for a person; empty when it was
+[[nodiscard]] QString saveLabel(const QString& path, const Canvas& canvas,
+                                const datasources::DatasourceController& datasources);
+
+/// Opens a saved label in place of what is on the canvas.
+/// @return why it could not be opened, in a sentence for a person, and nothing is changed;
+///         empty when it was
+[[nodiscard]] QString openLabel(const QString& path, Canvas& canvas,
+                                datasources::DatasourceController& datasources);
+
+} // namespace workbench::document

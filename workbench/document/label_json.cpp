@@ -1,0 +1,88 @@
+#include "workbench/document/label_json.h"
+
+#include "workbench/document/field_archives.h"
+
+#include <QCryptographicHash>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace workbench::document {
+
+namespace {
+
+constexpr QLatin1String FormatKey("format");
+constexpr QLatin1String VersionKey("version");
+constexpr QLatin1String ChecksumKey("checksum");
+constexpr QLatin1String LabelKey("label");
+constexpr QLatin1String FormatName("labelport-label");
+
+[[nodiscard]] QString checksumOf(const QJsonObject& label)
+{
+    const QByteArray text = QJsonDocument(label).toJson(QJsonDocument::Compact);
+    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex());
+}
+
+[[nodiscard]] ReadLabel refusal(const QString& error)
+{
+    return {{}, error};
+}
+
+/// What is wrong with the outermost object; empty when the label in it can be read.
+[[nodiscard]] QString envelopeError(const QJsonObject& file)
+{
+    if (file.value(FormatKey) != QJsonValue(FormatName))
+        return QStringLiteral("The file is not a saved label.");
+    int version = 0;
+    if (!Json<int>::read(file.value(VersionKey), version) || version < 1)
+        return QStringLiteral("The label file is damaged: version is not a positive whole number.");
+    if (version > FormatVersion)
+        return QStringLiteral("The label was saved by a newer version of the program: its format"
+                              " is %1, and this version knows formats up to %2. Update the"
+                              " program to open it.")
+            .arg(version)
+            .arg(FormatVersion);
+    if (!file.value(LabelKey).isObject())
+        return QStringLiteral("The label file is damaged: label is missing.");
+    // A file that a person or another program has written needs no checksum.
+    if (file.contains(ChecksumKey) &&
+        file.value(ChecksumKey) != QJsonValue(checksumOf(file.value(LabelKey).toObject())))
+        return QStringLiteral("The label file is damaged: its content has changed since it was"
+                              " saved.");
+    return {};
+}
+
+} // namespace
+
+QByteArray toJson(const SavedLabel& label)
+{
+    FieldWriter writer;
+    describe(writer, label);
+    const QJsonObject content = writer.object();
+    const QJsonObject file{{FormatKey, FormatName},
+                           {VersionKey, FormatVersion},
+                           {ChecksumKey, checksumOf(content)},
+                           {LabelKey, content}};
+    return QJsonDocument(file).toJson(QJsonDocument::Indented);
+}
+
+ReadLabel fromJson(const QByteArray& bytes)
+{
+    QJsonParseError parsing;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);
+    if (parsing.error != QJsonParseError::NoError)
+        return refusal(QStringLiteral("The file is not a saved label, or it is damaged: after %1"
+                                      " bytes it cannot be read any further.")
+                           .arg(parsing.offset));
+    const QJsonObject file = document.object();
+    const QString error = envelopeError(file);
+    if (!error.isEmpty())
+        return refusal(error);
+    ReadLabel result;
+    FieldReader reader(file.value(LabelKey).toObject());
+    describe(reader, result.label);
+    if (!reader.error().isEmpty())
+        return refusal(QStringLiteral("The label file is damaged: %1.").arg(reader.error()));
+    return result;
+}
+
+} // namespace workbench::document
