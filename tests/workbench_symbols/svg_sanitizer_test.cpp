@@ -242,6 +242,17 @@ TEST(SvgSanitizer, BoundsDepthAndNumberOfElements)
     EXPECT_FALSE(sanitizeSvg(svg(QByteArray(limits::DocumentBytes, ' '))));
 }
 
+TEST(SvgSanitizer, RefusesWhatWouldKeepTheParserOrTheRendererBusy)
+{
+    QByteArray crowded = "<g";
+    for (int i = 0; i < 200'000; ++i)
+        crowded += " a" + QByteArray::number(i) + "=\"\"";
+    EXPECT_FALSE(sanitizeSvg(svg(crowded + "/>")));
+    EXPECT_TRUE(sanitizeSvg(svg("<style>" + QByteArray(limits::StyleText, ' ') + "</style>")));
+    EXPECT_FALSE(sanitizeSvg(
+        svg("<style>" + QByteArray(limits::StyleText, ' ') + "</style><style> </style>")));
+}
+
 TEST(SvgSanitizer, RefusesReferencesThatExplodeRecurOrGoTooDeep)
 {
     QByteArray explosion = R"(<path id="n0" d="M0 0L1 1"/>)";

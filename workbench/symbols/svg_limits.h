@@ -12,6 +12,10 @@ inline constexpr qsizetype DocumentBytes = 16 * 1024 * 1024;
 inline constexpr int Elements = 200'000;
 /// Nesting depth of elements, and of references from element to element.
 inline constexpr int Depth = 128;
+/// Memory that the document's tree may take, in bytes, by the estimate of xmlbounds.
+inline constexpr qint64 TreeBytes = 600LL << 20;
+/// Characters of all style sheets: the renderer tries every rule on every element.
+inline constexpr qsizetype StyleText = 32 * 1024;
 /// Elements drawn once every reference is followed.
 inline constexpr qint64 DrawnElements = 1'000'000;
 /// Width or height of an embedded picture, in pixels.

@@ -6,6 +6,8 @@
 #include "workbench/symbols/svg_limits.h"
 #include "workbench/symbols/svg_numbers.h"
 #include "workbench/symbols/svg_references.h"
+#include "xmlbounds/markup_scanner.h"
+#include "xmlbounds/readings.h"
 
 #include <QXmlStreamReader>
 
@@ -80,6 +82,7 @@ public:
 
 private:
     [[nodiscard]] bool readRoot();
+    [[nodiscard]] bool isBounded() const;
     void readElement();
     void writeElement(const QString& target);
     void writeAttributes();
@@ -101,6 +104,7 @@ private:
     SvgReferences m_references;
     QStringList m_open;
     int m_elements = 0;
+    qsizetype m_styleText = 0;
     qint64 m_imagePixels = 0;
     double m_coordinates = 0.0;
     double m_greatest = 0.0;
@@ -156,10 +160,16 @@ bool SvgSanitizer::run()
         default: // comments, processing instructions, document type: left out
             break;
         }
-        if (m_open.size() > limits::Depth || m_elements > limits::Elements)
+        if (!isBounded())
             return false;
     }
     return m_open.isEmpty() && !m_reader.hasError() && m_references.isBounded();
+}
+
+bool SvgSanitizer::isBounded() const
+{
+    return m_open.size() <= limits::Depth && m_elements <= limits::Elements &&
+           m_styleText <= limits::StyleText;
 }
 
 void SvgSanitizer::readElement()
@@ -200,6 +210,7 @@ void SvgSanitizer::readText()
     const QString text = m_reader.text().toString();
     const bool sheet = m_open.last() == u"style";
     if (sheet) {
+        m_styleText += text.size();
         for (const QString& dashes : dashArrays(text))
             measureDashes(dashes);
     }
@@ -298,6 +309,16 @@ void SvgSanitizer::writeAttribute(QStringView name, const QString& value)
     m_body += u' ' + name.toString() + QStringLiteral("=\"") + escaped + u'"';
 }
 
+/// The parser itself is slow for some documents: it compares every attribute of an element
+/// with every other.
+[[nodiscard]] bool exceedsMarkupBounds(const QByteArray& svg)
+{
+    const QList<QByteArray> readings = xmlbounds::readingsOf(svg);
+    return std::any_of(readings.begin(), readings.end(), [](const QByteArray& reading) {
+        return xmlbounds::findExcess(reading, limits::TreeBytes).has_value();
+    });
+}
+
 } // namespace
 
 QByteArray SafeSvg::document(const QString& sizeAttributes) const
@@ -311,7 +332,7 @@ QByteArray SafeSvg::document(const QString& sizeAttributes) const
 
 std::optional<SafeSvg> sanitizeSvg(const QByteArray& svg)
 {
-    if (svg.isEmpty() || svg.size() > limits::DocumentBytes)
+    if (svg.isEmpty() || svg.size() > limits::DocumentBytes || exceedsMarkupBounds(svg))
         return std::nullopt;
     for (const bool keepDashes : {true, false}) {
         SvgSanitizer sanitizer(svg, keepDashes);
