@@ -60,7 +60,9 @@ QString saveLabel(const QString& path, const Canvas& canvas,
     if (bytes.size() > limits::FileBytes)
         return cannotSave(path, QStringLiteral("its pictures are too large"));
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // What is still in a buffer when the file is closed could fail without a word.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
         return cannotSave(path, file.errorString());
     return {};
 }
