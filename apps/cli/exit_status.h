@@ -1,0 +1,12 @@
+#pragma once
+
+namespace cli {
+
+/// Exit statuses of the program; scripts rely on them.
+enum ExitStatus : int {
+    ExitSuccess = 0,
+    ExitFailure = 1, ///< at least one file could not be imported or written
+    ExitUsage = 2,   ///< the command line was wrong; nothing was done
+};
+
+} // namespace cli

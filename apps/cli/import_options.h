@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <variant>
+
+namespace cli {
+
+/// What `labelport import` was asked to do.
+struct ImportOptions
+{
+    QStringList files;
+    QStringList targets; ///< short names of the output formats, in the order given
+    int dpi = 300;
+    QString outputDir; ///< the current folder when it was not given
+    bool force = false;
+};
+
+/// The user asked for the command's help.
+struct HelpWanted
+{
+    QString text;
+};
+
+/// The command line was wrong; the message says how.
+struct UsageError
+{
+    QString message;
+};
+
+/// Least and most dots per inch that a picture may be asked for.
+inline constexpr int MinimumDpi = 10;
+inline constexpr int MaximumDpi = 2400;
+
+/// Reads the arguments that follow `labelport import`.
+[[nodiscard]] std::variant<ImportOptions, HelpWanted, UsageError>
+parseImportArguments(const QStringList& arguments);
+
+} // namespace cli

@@ -1,0 +1,98 @@
+// labelport: the command line of LabelPort.
+
+#include "apps/cli/exit_status.h"
+#include "apps/cli/import_command.h"
+#include "apps/cli/messages.h"
+#include "apps/cli/trace_command.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include <clocale>
+#include <cstring>
+
+#include <langinfo.h>
+
+namespace {
+
+/// File names and messages are UTF-8 even where the environment names no locale at all; Qt
+/// would switch by itself, but with a warning.
+void chooseUtf8Locale()
+{
+    std::setlocale(LC_CTYPE, "");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) {
+        qputenv("LC_ALL", "C.UTF-8");
+    }
+}
+
+const char* const HelpText = R"(Usage: labelport COMMAND [ARGUMENT...]
+
+Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg.
+
+Commands:
+  import FILE...   import labels and write what they show (import --help tells more)
+  trace FILE       print every call that an import makes on its host, as JSON lines
+
+  --help           show this text
+  --version        show the version
+
+Examples:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png --dpi 600 --output-dir pictures
+  labelport trace shelf.odg
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage.
+)";
+
+QStringList argumentsOf(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index) {
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    }
+    return arguments;
+}
+
+int runImportInApplication(int argc, char** argv, const QStringList& arguments)
+{
+    // Pictures are drawn without a window system, whatever the environment offers or lacks.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What goes wrong is told in words of our own; QT_LOGGING_RULES brings the rest back.
+    QLoggingCategory::setFilterRules(
+        QStringLiteral("*.debug=false\n*.info=false\n*.warning=false\nlabelport*=false"));
+    QCoreApplication::setApplicationName(QStringLiteral("labelport"));
+    QCoreApplication::setOrganizationName(QStringLiteral("LabelPort"));
+    const QApplication application(argc, argv);
+    return cli::runImport(arguments);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    chooseUtf8Locale();
+    QStringList arguments = argumentsOf(argc, argv);
+    const QString command = arguments.isEmpty() ? QString() : arguments.takeFirst();
+
+    if (command == QLatin1String("import")) {
+        return runImportInApplication(argc, argv, arguments);
+    }
+    if (command == QLatin1String("trace")) {
+        return cli::runTrace(arguments);
+    }
+    if (command == QLatin1String("--help") || command == QLatin1String("-h") ||
+        command == QLatin1String("help")) {
+        cli::printText(QString::fromUtf8(HelpText));
+        return cli::ExitSuccess;
+    }
+    if (command == QLatin1String("--version")) {
+        cli::printResult(QStringLiteral("labelport " LABELPORT_VERSION));
+        return cli::ExitSuccess;
+    }
+    cli::printMessage(
+        command.isEmpty()
+            ? QStringLiteral("What is it to do? \"labelport --help\" tells.")
+            : QStringLiteral("\"%1\" is no command; \"labelport --help\" tells what is.")
+                  .arg(command));
+    return cli::ExitUsage;
+}

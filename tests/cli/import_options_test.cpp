@@ -1,0 +1,93 @@
+// The arguments of `labelport import`.
+
+#include "apps/cli/import_options.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList words(const char* line)
+{
+    return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+cli::ImportOptions accepted(const char* line)
+{
+    const auto result = cli::parseImportArguments(words(line));
+    if (const auto* options = std::get_if<cli::ImportOptions>(&result)) {
+        return *options;
+    }
+    ADD_FAILURE() << "refused: " << line;
+    return {};
+}
+
+QString refusal(const char* line)
+{
+    const auto result = cli::parseImportArguments(words(line));
+    const auto* error = std::get_if<cli::UsageError>(&result);
+    return error != nullptr ? error->message : QString();
+}
+
+TEST(ImportOptions, NeedAFile)
+{
+    EXPECT_EQ(refusal("--to png"), QStringLiteral("No file to import was given."));
+}
+
+TEST(ImportOptions, HaveDefaults)
+{
+    const cli::ImportOptions options = accepted("a.odg");
+    EXPECT_EQ(options.files, QStringList{QStringLiteral("a.odg")});
+    EXPECT_EQ(options.targets, QStringList{QStringLiteral("png")});
+    EXPECT_EQ(options.dpi, 300);
+    EXPECT_EQ(options.outputDir, QStringLiteral("."));
+    EXPECT_FALSE(options.force);
+}
+
+TEST(ImportOptions, MayStandBeforeAndAfterFiles)
+{
+    const cli::ImportOptions options =
+        accepted("--dpi 96 a.odg --output-dir out b.cnv --to png --force");
+    EXPECT_EQ(options.files, (QStringList{QStringLiteral("a.odg"), QStringLiteral("b.cnv")}));
+    EXPECT_EQ(options.dpi, 96);
+    EXPECT_EQ(options.outputDir, QStringLiteral("out"));
+    EXPECT_TRUE(options.force);
+}
+
+TEST(ImportOptions, TakeWhatFollowsTwoDashesAsFiles)
+{
+    EXPECT_EQ(accepted("-- --dpi").files, QStringList{QStringLiteral("--dpi")});
+}
+
+TEST(ImportOptions, RefuseAnUnknownTarget)
+{
+    EXPECT_TRUE(refusal("a.odg --to bmp").startsWith(QStringLiteral("\"bmp\" is nothing")));
+    EXPECT_TRUE(refusal("a.odg --to png,").startsWith(QStringLiteral("\"\" is nothing")));
+}
+
+TEST(ImportOptions, RefuseAnUnknownOption)
+{
+    EXPECT_FALSE(refusal("a.odg --colour red").isEmpty());
+}
+
+TEST(ImportOptions, BoundTheResolution)
+{
+    EXPECT_EQ(accepted("a.odg --dpi 10").dpi, 10);
+    EXPECT_EQ(accepted("a.odg --dpi 2400").dpi, 2400);
+    for (const char* wrong : {"9", "2401", "0", "-300", "1e3", "300.0", "many", "99999999999"}) {
+        SCOPED_TRACE(wrong);
+        EXPECT_TRUE(refusal(("a.odg --dpi=" + std::string(wrong)).c_str())
+                        .startsWith(QStringLiteral("--dpi takes a whole number")));
+    }
+}
+
+TEST(ImportOptions, ShowHelp)
+{
+    for (const char* line : {"--help", "-h", "a.odg --help"}) {
+        const auto result = cli::parseImportArguments(words(line));
+        const auto* help = std::get_if<cli::HelpWanted>(&result);
+        ASSERT_NE(help, nullptr) << line;
+        EXPECT_TRUE(help->text.contains(QStringLiteral("--output-dir")));
+    }
+}
+
+} // namespace

@@ -1,0 +1,205 @@
+// The program labelport from the outside: what a person or a script sees of it.
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Outcome
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+const QString Program = QStringLiteral(LABELPORT_PROGRAM);
+
+QString sample(const char* name)
+{
+    return QStringLiteral(LABELPORT_SAMPLES "/") + QString::fromLatin1(name);
+}
+
+Outcome run(const QStringList& arguments, const QStringList& environment, const QString& folder)
+{
+    QProcess process;
+    process.setProcessEnvironment(QProcessEnvironment());
+    process.setEnvironment(environment);
+    process.setWorkingDirectory(folder);
+    process.start(Program, arguments);
+    if (!process.waitForFinished(120'000)) {
+        ADD_FAILURE() << "the program does not end";
+        process.kill();
+        process.waitForFinished();
+        return {};
+    }
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+/// A folder of its own for each test, and the program run in it with an empty environment.
+class LabelportProgram : public ::testing::Test
+{
+protected:
+    Outcome labelport(const QStringList& arguments, const QStringList& environment = {})
+    {
+        return run(arguments, environment, m_folder.path());
+    }
+
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    QString write(const QString& name, const QByteArray& bytes)
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return path(name);
+    }
+
+    QByteArray read(const QString& name)
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(LabelportProgram, ImportsALabelFromAnEmptyEnvironment)
+{
+    const Outcome outcome =
+        labelport({QStringLiteral("import"), sample("opendocument/address_label.odg")});
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    EXPECT_EQ(outcome.out, QStringLiteral("address_label.png\n"));
+    EXPECT_EQ(outcome.err, QString());
+
+    // 89 mm by 36 mm at 300 dots per inch.
+    const QImage picture(path(QStringLiteral("address_label.png")));
+    EXPECT_NEAR(picture.width(), 89 / 25.4 * 300, 1.0);
+    EXPECT_NEAR(picture.height(), 36 / 25.4 * 300, 1.0);
+    EXPECT_EQ(picture.dotsPerMeterX(), 11811);
+}
+
+TEST_F(LabelportProgram, ImportsEveryFormat)
+{
+    const Outcome outcome = labelport(
+        {QStringLiteral("import"), sample("opendocument/care_label.odt"),
+         sample("opendocument/high_voltage.odg"), sample("tavrel/address_2000016.cnv"),
+         sample("orvanta/asset_tag.qmtx"), QStringLiteral("--output-dir"),
+         QStringLiteral("pictures/of/labels"), QStringLiteral("--dpi"), QStringLiteral("72")});
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    const QStringList lines = outcome.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 4);
+    for (const QString& line : lines) {
+        EXPECT_FALSE(QImage(path(line)).isNull()) << qPrintable(line);
+    }
+}
+
+TEST_F(LabelportProgram, GoesOnBehindAFileThatFails)
+{
+    write(QStringLiteral("broken.odg"), "no zip at all");
+    const Outcome outcome =
+        labelport({QStringLiteral("import"), QStringLiteral("broken.odg"),
+                   QStringLiteral("missing.cnv"), sample("opendocument/sample_vial.odg")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, QStringLiteral("sample_vial.png\n"));
+    EXPECT_TRUE(outcome.err.contains(QStringLiteral("labelport: broken.odg: ")));
+    EXPECT_TRUE(outcome.err.contains(QStringLiteral("labelport: missing.cnv: ")));
+    EXPECT_TRUE(outcome.err.endsWith(QStringLiteral("labelport: 2 of 3 files failed.\n")));
+    EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("broken.png"))));
+}
+
+TEST_F(LabelportProgram, LeavesSomebodysFileAlone)
+{
+    write(QStringLiteral("sample_vial.png"), "somebody's own");
+    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg")};
+    const Outcome refused = labelport(command);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(refused.err.contains(QStringLiteral("--force")));
+    EXPECT_EQ(read(QStringLiteral("sample_vial.png")), "somebody's own");
+
+    EXPECT_EQ(labelport(command + QStringList{QStringLiteral("--force")}).status, 0);
+    EXPECT_NE(read(QStringLiteral("sample_vial.png")), "somebody's own");
+}
+
+TEST_F(LabelportProgram, ReplacesItsOwnPictures)
+{
+    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg")};
+    EXPECT_EQ(labelport(command).status, 0);
+    EXPECT_EQ(
+        labelport(command + QStringList{QStringLiteral("--dpi"), QStringLiteral("100")}).status, 0);
+    EXPECT_NEAR(QImage(path(QStringLiteral("sample_vial.png"))).width(), 60 / 25.4 * 100, 1.0);
+}
+
+TEST_F(LabelportProgram, SaysWhatIsWrongWithTheCommandLine)
+{
+    const QList<QStringList> wrong = {
+        {},
+        {QStringLiteral("convert")},
+        {QStringLiteral("import")},
+        {QStringLiteral("import"), QStringLiteral("a.odg"), QStringLiteral("--to"),
+         QStringLiteral("bmp")},
+        {QStringLiteral("import"), QStringLiteral("a.odg"), QStringLiteral("--dpi"),
+         QStringLiteral("0")},
+        {QStringLiteral("import"), QStringLiteral("--no-such-option"), QStringLiteral("a.odg")},
+        {QStringLiteral("trace")},
+    };
+    for (const QStringList& arguments : wrong) {
+        SCOPED_TRACE(qPrintable(arguments.join(QLatin1Char(' '))));
+        const Outcome outcome = labelport(arguments);
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_EQ(outcome.out, QString());
+        EXPECT_FALSE(outcome.err.isEmpty());
+    }
+}
+
+TEST_F(LabelportProgram, ShowsHelpAndVersion)
+{
+    for (const char* word : {"--help", "-h", "help"}) {
+        const Outcome outcome = labelport({QString::fromLatin1(word)});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_TRUE(outcome.out.startsWith(QStringLiteral("Usage: labelport COMMAND")));
+    }
+    EXPECT_TRUE(
+        labelport({QStringLiteral("--version")}).out.startsWith(QStringLiteral("labelport ")));
+    EXPECT_TRUE(labelport({QStringLiteral("import"), QStringLiteral("--help")})
+                    .out.contains(QStringLiteral("--output-dir")));
+}
+
+TEST_F(LabelportProgram, HandsATraceOverToTheTracer)
+{
+    const Outcome outcome =
+        labelport({QStringLiteral("trace"), sample("opendocument/sample_vial.odg")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_TRUE(outcome.out.startsWith(
+        QStringLiteral(R"({"trace":1,"file":"sample_vial.odg","reader":"opendocument"})")))
+        << qPrintable(outcome.out.left(200));
+    EXPECT_TRUE(outcome.out.endsWith(QStringLiteral("{\"result\":true}\n")));
+    EXPECT_EQ(labelport({QStringLiteral("trace"), QStringLiteral("missing.odg")}).status, 1);
+}
+
+// Results do not pass through Qt's logging, so no rule takes from them or adds to them.
+TEST_F(LabelportProgram, SaysTheSameUnderEveryLoggingRule)
+{
+    for (const char* command : {"import", "trace"}) {
+        SCOPED_TRACE(command);
+        const QStringList arguments = {QString::fromLatin1(command),
+                                       sample("opendocument/goods_in.odt")};
+        const Outcome silent = labelport(arguments, {QStringLiteral("QT_LOGGING_RULES=*=false")});
+        const Outcome loud =
+            labelport(arguments, {QStringLiteral("QT_LOGGING_RULES=*.debug=true")});
+        EXPECT_EQ(silent.status, 0);
+        EXPECT_FALSE(silent.out.isEmpty());
+        EXPECT_EQ(silent.out, loud.out);
+    }
+}
+
+} // namespace
