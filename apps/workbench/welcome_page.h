@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QWidget>
+
+namespace desktop {
+
+class Actions;
+
+/// What a window shows as long as no label is open: how to open one.
+class WelcomePage final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit WelcomePage(const Actions& actions, QWidget* parent = nullptr);
+};
+
+} // namespace desktop
