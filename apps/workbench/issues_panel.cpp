@@ -19,7 +19,7 @@ IssuesPanel::IssuesPanel(QWidget* parent)
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setWordWrap(true);
     m_table->setColumnWidth(IssueListModel::About,
-                            fontMetrics().horizontalAdvance(QLatin1Char('x')) * 28);
+                            fontMetrics().horizontalAdvance(QLatin1Char('x')) * 20);
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_none->setAlignment(Qt::AlignCenter);
     m_none->setForegroundRole(QPalette::PlaceholderText);

@@ -64,7 +64,8 @@ ItemPanel::ItemPanel(QWidget* parent)
                              ItemTableModel::Height}) {
         m_table->setColumnWidth(column, digits);
     }
-    m_table->setColumnWidth(ItemTableModel::Kind, digits * 5 / 4);
+    m_table->setColumnWidth(ItemTableModel::Kind,
+                            fontMetrics().horizontalAdvance(QStringLiteral("Rounded rectangle  ")));
     m_table->setColumnWidth(ItemTableModel::Content, digits * 2);
     m_table->setColumnWidth(ItemTableModel::Angle, digits * 3 / 4);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -99,7 +100,10 @@ void ItemPanel::refresh()
 void ItemPanel::selectItem(int row)
 {
     if (m_model->itemAt(row) != nullptr) {
-        m_table->selectRow(row);
+        // Not selectRow(): whichever modifier keys are down, it is this item alone.
+        m_table->selectionModel()->setCurrentIndex(m_model->index(row, 0),
+                                                   QItemSelectionModel::ClearAndSelect |
+                                                       QItemSelectionModel::Rows);
         m_table->scrollTo(m_model->index(row, 0));
         Q_EMIT itemWanted(m_model->itemAt(row));
     }

@@ -40,6 +40,7 @@ LabelDesk::~LabelDesk()
 {
     // Its commands know items of the label; nobody is told any more.
     blockSignals(true);
+    m_undoStack.blockSignals(true);
     m_undoStack.clear();
 }
 

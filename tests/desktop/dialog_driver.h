@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDialog>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+#include <functional>
+#include <queue>
+
+/// Answers the dialogs that a command opens, one after the other, as soon as each one is
+/// shown. A dialog that nobody expects is rejected and fails the test, so none can hang it.
+class DialogDriver final : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Answer = std::function<void(QDialog&)>;
+
+    DialogDriver();
+    ~DialogDriver() override;
+
+    /// The next dialog is answered so.
+    void expect(Answer answer);
+    /// The next dialog is a message box; the button of this role or text is clicked.
+    void expectButton(int standardButton);
+    void expectButton(const QString& caption);
+    /// The next dialog is a file dialog; this file is chosen.
+    void expectFile(const QString& fileName);
+    void expectCancel();
+
+    /// The texts of the dialogs that were shown, with their further texts.
+    [[nodiscard]] const QStringList& texts() const { return m_texts; }
+    [[nodiscard]] bool isDone() const { return m_answers.empty(); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void answer(QDialog& dialog);
+
+    std::queue<Answer> m_answers;
+    QStringList m_texts;
+};
