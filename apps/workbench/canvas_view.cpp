@@ -1,5 +1,6 @@
 #include "apps/workbench/canvas_view.h"
 
+#include "apps/workbench/item_nudge.h"
 #include "apps/workbench/page_backdrop.h"
 #include "workbench/canvas/canvas.h"
 
@@ -22,41 +23,6 @@ constexpr double kZoomStep = 1.25;
 constexpr double kWheelNotch = 120.0;
 // Part of the view that stays free around a fitted page.
 constexpr double kFitMargin = 0.06;
-// How far the arrow keys move an item.
-constexpr double kNudge = 72.0 / 25.4 * 0.5;
-constexpr double kFineNudge = kNudge / 5.0;
-constexpr double kCoarseNudge = kNudge * 10.0;
-
-QPointF directionOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1.0, 0.0};
-    case Qt::Key_Right:
-        return {1.0, 0.0};
-    case Qt::Key_Up:
-        return {0.0, -1.0};
-    case Qt::Key_Down:
-        return {0.0, 1.0};
-    default:
-        return {};
-    }
-}
-
-double nudgeLength(Qt::KeyboardModifiers modifiers)
-{
-    if (modifiers.testFlag(Qt::ControlModifier)) {
-        return kFineNudge;
-    }
-    return modifiers.testFlag(Qt::ShiftModifier) ? kCoarseNudge : kNudge;
-}
-
-// Locked items, read-only ones and those of the background stay where they are.
-bool mayMove(const QGraphicsItem& item)
-{
-    return item.flags().testFlag(QGraphicsItem::ItemIsMovable) &&
-           item.acceptedMouseButtons() != Qt::NoButton;
-}
 
 } // namespace
 
@@ -328,23 +294,15 @@ bool CanvasView::viewportEvent(QEvent* event)
 
 bool CanvasView::nudge(const QKeyEvent& event)
 {
-    const QPointF direction = directionOf(event.key());
-    if (direction.isNull() || scene() == nullptr) {
+    if (scene() == nullptr) {
         return false;
     }
-    QList<ItemMove> moves;
-    const QPointF way = direction * nudgeLength(event.modifiers());
-    const QList<QGraphicsItem*> selected = scene()->selectedItems();
-    for (QGraphicsItem* item : selected) {
-        if (mayMove(*item)) {
-            moves.append({item, item->pos(), item->pos() + way});
-        }
+    const QList<ItemMove> moves =
+        nudgedItems(scene()->selectedItems(), event.key(), event.modifiers());
+    if (!moves.isEmpty()) {
+        Q_EMIT itemsMoved(moves);
     }
-    if (moves.isEmpty()) {
-        return false;
-    }
-    Q_EMIT itemsMoved(moves);
-    return true;
+    return !moves.isEmpty();
 }
 
 void CanvasView::rememberPositions()

@@ -22,7 +22,7 @@ class CanvasView final : public QGraphicsView
     Q_OBJECT
 
 public:
-    static constexpr double SmallestZoom = 0.05;
+    static constexpr double SmallestZoom = 0.005;
     static constexpr double LargestZoom = 64.0;
 
     explicit CanvasView(QWidget* parent = nullptr);

@@ -3,6 +3,7 @@
 #include "apps/workbench/import_command.h"
 #include "apps/workbench/label_files.h"
 
+#include <QCursor>
 #include <QFileInfo>
 #include <QGuiApplication>
 

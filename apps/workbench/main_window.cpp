@@ -10,6 +10,7 @@
 #include "apps/workbench/source_panel.h"
 #include "workbench/canvas/canvas.h"
 
+#include <QCoreApplication>
 #include <QGraphicsItem>
 #include <QMessageBox>
 #include <QStackedWidget>
