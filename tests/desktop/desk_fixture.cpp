@@ -84,7 +84,12 @@ void saveMadeLabel(const QString& fileName)
 void keepPicture(QWidget& widget, const QString& name)
 {
     QApplication::processEvents();
+    keepImage(widget.grab().toImage(), name);
+}
+
+void keepImage(const QImage& image, const QString& name)
+{
     const QDir folder(QStringLiteral(LABELPORT_PICTURES));
     ASSERT_TRUE(folder.mkpath(QStringLiteral(".")));
-    ASSERT_TRUE(widget.grab().save(folder.filePath(name + QStringLiteral(".png"))));
+    ASSERT_TRUE(image.save(folder.filePath(name + QStringLiteral(".png"))));
 }

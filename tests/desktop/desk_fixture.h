@@ -53,3 +53,6 @@ void saveMadeLabel(const QString& fileName);
 
 /// Keeps a picture of a widget in the build folder, to be looked at.
 void keepPicture(QWidget& widget, const QString& name);
+
+/// The same with a picture that is there already.
+void keepImage(const QImage& image, const QString& name);

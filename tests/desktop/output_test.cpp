@@ -4,19 +4,25 @@
 #include "dialog_driver.h"
 
 #include "apps/workbench/export_dialog.h"
+#include "apps/workbench/label_files.h"
 #include "apps/workbench/output_commands.h"
 #include "apps/workbench/output_job.h"
 #include "apps/workbench/prompts.h"
 #include "apps/workbench/record_chooser.h"
+#include "workbench/rendering/page_export.h"
+#include "workbench/rendering/page_image.h"
 
 #include <QComboBox>
 #include <QImageReader>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSvgRenderer>
+
+#include <cmath>
 
 using namespace desktop;
 
@@ -41,6 +47,24 @@ protected:
     OpenLabel label = makeLabel();
     const Progress goOn = [](qint64) { return true; };
 };
+
+// The mean difference of two pictures of one size, from 0 for none to 1 for black and white.
+// Both are made small before, so that it does not count which pixel an edge falls on.
+double differenceOf(const QImage& picture, const QImage& drawing)
+{
+    const auto small = [](const QImage& image) {
+        return image.scaled(image.size() / 6, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    const QImage a = small(picture);
+    const QImage b = small(drawing);
+    double sum = 0.0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            sum += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y)));
+        }
+    }
+    return sum / 255.0 / a.width() / a.height();
+}
 
 qsizetype pagesOf(const QByteArray& pdf)
 {
@@ -68,6 +92,34 @@ TEST_F(OutputTest, ADrawingHasTheTrueSizeAndTextAsText)
     EXPECT_TRUE(svg.contains("width=\"88.9mm\" height=\"44.45mm\"")) << svg.left(300).toStdString();
     EXPECT_TRUE(svg.contains("No. 1"));
     EXPECT_TRUE(QSvgRenderer(svg).isValid());
+}
+
+// Fonts whose size is in points come out wrong in a drawing of another resolution.
+TEST_F(OutputTest, ADrawingShowsWhatThePictureShows)
+{
+    for (const char* name :
+         {"orvanta/book_label.qmtx", "orvanta/shelf_label.qmtx", "opendocument/care_label.odt",
+          "opendocument/address_label.odg", "tavrel/address_2000016.cnv"}) {
+        SCOPED_TRACE(name);
+        ReadLabel read = readLegacyLabel(sample(QString::fromLatin1(name)));
+        ASSERT_TRUE(read.label.has_value()) << read.error.toStdString();
+        const QImage picture = workbench::renderPage(*read.label->canvas, 96.0).image;
+        ASSERT_EQ(workbench::writeSvg(*read.label->canvas, path(QStringLiteral("x.svg"))),
+                  QString());
+
+        QImage drawing(picture.size(), QImage::Format_ARGB32_Premultiplied);
+        drawing.fill(Qt::white);
+        QPainter painter(&drawing);
+        QSvgRenderer(path(QStringLiteral("x.svg")))
+            .render(&painter, QRectF(QPointF(), read.label->canvas->page().size * (96.0 / 72.0)));
+        painter.end();
+        keepImage(picture,
+                  QStringLiteral("picture_") + QFileInfo(QString::fromLatin1(name)).baseName());
+        keepImage(drawing,
+                  QStringLiteral("drawing_") + QFileInfo(QString::fromLatin1(name)).baseName());
+
+        EXPECT_LT(differenceOf(picture, drawing), 0.012);
+    }
 }
 
 TEST_F(OutputTest, ADocumentHasAPageForEachRecord)
