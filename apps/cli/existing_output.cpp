@@ -1,17 +1,42 @@
 #include "apps/cli/existing_output.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 
 namespace cli {
+namespace {
+
+bool isOurPicture(const QString& fileName)
+{
+    const QImageReader reader(fileName, "png");
+    return reader.text(QStringLiteral("Software")) == QLatin1String(SoftwareMark);
+}
+
+/// Drawings and documents name their maker near their beginning: a document as text of two
+/// bytes a letter.
+bool namesUsEarly(const QString& fileName)
+{
+    constexpr qint64 headLength = 2048;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    QByteArray head = file.read(headLength);
+    head.replace('\0', "");
+    return head.contains("<desc>LabelPort</desc>") ||
+           (head.startsWith("%PDF-") && head.contains("LabelPort"));
+}
+
+} // namespace
 
 bool mayOverwrite(const QString& fileName)
 {
     if (!QFileInfo::exists(fileName)) {
         return true;
     }
-    const QImageReader reader(fileName);
-    return reader.text(QStringLiteral("Software")) == QLatin1String(SoftwareMark);
+    const QString suffix = QFileInfo(fileName).suffix();
+    return suffix == QLatin1String("png") ? isOurPicture(fileName) : namesUsEarly(fileName);
 }
 
 } // namespace cli

@@ -4,11 +4,12 @@
 
 namespace cli {
 
-/// The text under the key "Software" that pictures made by this program carry.
+/// The name that pictures, drawings and documents made by this program carry.
 inline constexpr const char* SoftwareMark = "LabelPort";
 
-/// Whether a file may be written under this name: there is none, or it is a picture that this
-/// program made earlier. Anything else belongs to somebody and is not overwritten unasked.
+/// Whether a file may be written under this name: there is none, or it is a picture, drawing
+/// or document that this program made earlier. Anything else belongs to somebody and is not
+/// overwritten unasked; so does a saved label, which may have been edited since.
 [[nodiscard]] bool mayOverwrite(const QString& fileName);
 
 } // namespace cli

@@ -1,12 +1,11 @@
 #include "apps/cli/import_command.h"
 
-#include "apps/cli/existing_output.h"
 #include "apps/cli/exit_status.h"
 #include "apps/cli/import_options.h"
+#include "apps/cli/label_writer.h"
 #include "apps/cli/messages.h"
+#include "apps/cli/opened_label.h"
 #include "apps/cli/output_plan.h"
-#include "workbench/import/label_import.h"
-#include "workbench/rendering/page_image.h"
 
 #include <QDir>
 
@@ -18,32 +17,6 @@ void printAbout(const QString& file, const QString& text)
     printMessage(QStringLiteral("%1: %2").arg(file, text));
 }
 
-/// Why the picture may not be written under its name; empty when it may.
-QString obstacleTo(const PlannedOutput& planned, bool force)
-{
-    if (planned.contested) {
-        return QStringLiteral("another of the given files has the same name, so both would become "
-                              "%1; import them into different folders with --output-dir")
-            .arg(planned.output);
-    }
-    if (!force && !mayOverwrite(planned.output)) {
-        return QStringLiteral("%1 exists and was not made by labelport; it is left as it is "
-                              "(--force overwrites it)")
-            .arg(planned.output);
-    }
-    return {};
-}
-
-QString writePicture(const workbench::Canvas& canvas, int dpi, const QString& fileName)
-{
-    workbench::PageImage page = workbench::renderPage(canvas, dpi);
-    if (!page.error.isEmpty()) {
-        return page.error;
-    }
-    page.image.setText(QStringLiteral("Software"), QLatin1String(SoftwareMark));
-    return workbench::writePng(page.image, fileName);
-}
-
 void printIssues(const QString& file, const QList<workbench::ImportIssue>& issues)
 {
     for (const workbench::ImportIssue& issue : issues) {
@@ -53,22 +26,57 @@ void printIssues(const QString& file, const QList<workbench::ImportIssue>& issue
     }
 }
 
-/// Imports one file and writes what it shows; says what went wrong. True when all went well.
-bool importOne(const PlannedOutput& planned, const ImportOptions& options)
+/// Where the outputs of all files go: for each target, the plan of all files.
+using Plans = QList<QList<PlannedOutput>>;
+
+Plans plansOf(const ImportOptions& options)
 {
-    QString problem = obstacleTo(planned, options.force);
-    if (problem.isEmpty()) {
-        const workbench::ImportResult result = workbench::importLabel(planned.input);
-        printIssues(planned.input, result.issues);
-        problem = result.isImported() ? writePicture(*result.canvas, options.dpi, planned.output)
-                                      : result.error;
+    Plans plans;
+    for (const Target target : options.targets) {
+        plans.append(planOutputs(options.files, options.outputDir, nameOf(target)));
     }
-    if (!problem.isEmpty()) {
-        printAbout(planned.input, problem);
+    return plans;
+}
+
+/// Writes one output of an opened label; says what was written and what went wrong.
+bool writeOutput(OpenedLabel& label, Target target, const PlannedOutput& planned,
+                 const ImportOptions& options)
+{
+    if (planned.contested) {
+        printAbout(planned.input,
+                   QStringLiteral("another of the given files has the same name, so both would "
+                                  "become %1; import them into different folders with --output-dir")
+                       .arg(planned.output));
         return false;
     }
-    printResult(planned.output);
-    return true;
+    const Written written =
+        writeLabel(label, target, planned.output, {options.dpi, options.records, options.force});
+    for (const QString& file : written.files) {
+        printResult(file);
+    }
+    if (!written.error.isEmpty()) {
+        printAbout(planned.input, written.error);
+    }
+    return written.error.isEmpty();
+}
+
+/// Imports the file of this index and writes all its targets. True when all went well.
+bool importOne(qsizetype index, const Plans& plans, const ImportOptions& options)
+{
+    const QString& file = options.files.at(index);
+    OpenedLabel label = openAnyLabel(file);
+    printIssues(file, label.issues);
+    if (!label.isOpen()) {
+        printAbout(file, label.error);
+        return false;
+    }
+    bool allWritten = true;
+    for (qsizetype target = 0; target < options.targets.size(); ++target) {
+        allWritten =
+            writeOutput(label, options.targets.at(target), plans.at(target).at(index), options) &&
+            allWritten;
+    }
+    return allWritten;
 }
 
 int importAll(const ImportOptions& options)
@@ -77,14 +85,14 @@ int importAll(const ImportOptions& options)
         printMessage(QStringLiteral("The folder %1 cannot be made.").arg(options.outputDir));
         return ExitFailure;
     }
-    int failures = 0;
-    const QList<PlannedOutput> plan =
-        planOutputs(options.files, options.outputDir, options.targets.constFirst());
-    for (const PlannedOutput& planned : plan) {
-        failures += importOne(planned, options) ? 0 : 1;
+    const Plans plans = plansOf(options);
+    qsizetype failures = 0;
+    for (qsizetype index = 0; index < options.files.size(); ++index) {
+        failures += importOne(index, plans, options) ? 0 : 1;
     }
-    if (failures > 0 && plan.size() > 1) {
-        printMessage(QStringLiteral("%1 of %2 files failed.").arg(failures).arg(plan.size()));
+    if (failures > 0 && options.files.size() > 1) {
+        printMessage(
+            QStringLiteral("%1 of %2 files failed.").arg(failures).arg(options.files.size()));
     }
     return failures == 0 ? ExitSuccess : ExitFailure;
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "apps/cli/record_range.h"
+#include "apps/cli/targets.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -11,8 +15,9 @@ namespace cli {
 struct ImportOptions
 {
     QStringList files;
-    QStringList targets; ///< short names of the output formats, in the order given
+    QList<Target> targets; ///< in the order given, each once
     int dpi = 300;
+    RecordRange records;
     QString outputDir; ///< the current folder when it was not given
     bool force = false;
 };

@@ -27,7 +27,8 @@ void chooseUtf8Locale()
 
 const char* const HelpText = R"(Usage: labelport COMMAND [ARGUMENT...]
 
-Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg.
+Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
+LabelPort: *.label.
 
 Commands:
   import FILE...   import labels and write what they show (import --help tells more)
@@ -38,7 +39,8 @@ Commands:
 
 Examples:
   labelport import shelf.odg
-  labelport import old/*.cnv --to png --dpi 600 --output-dir pictures
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
   labelport trace shelf.odg
 
 Exit status: 0 everything was imported, 1 something failed, 2 wrong usage.

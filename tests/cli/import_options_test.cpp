@@ -37,7 +37,9 @@ TEST(ImportOptions, HaveDefaults)
 {
     const cli::ImportOptions options = accepted("a.odg");
     EXPECT_EQ(options.files, QStringList{QStringLiteral("a.odg")});
-    EXPECT_EQ(options.targets, QStringList{QStringLiteral("png")});
+    EXPECT_EQ(options.targets, QList<cli::Target>{cli::Target::Png});
+    EXPECT_FALSE(options.records.isSeries());
+    EXPECT_EQ(options.records.first, 1);
     EXPECT_EQ(options.dpi, 300);
     EXPECT_EQ(options.outputDir, QStringLiteral("."));
     EXPECT_FALSE(options.force);
@@ -56,6 +58,21 @@ TEST(ImportOptions, MayStandBeforeAndAfterFiles)
 TEST(ImportOptions, TakeWhatFollowsTwoDashesAsFiles)
 {
     EXPECT_EQ(accepted("-- --dpi").files, QStringList{QStringLiteral("--dpi")});
+}
+
+TEST(ImportOptions, TakeSeveralTargetsEachOnce)
+{
+    EXPECT_EQ(accepted("a.odg --to label,png,svg,pdf,png").targets,
+              (QList<cli::Target>{cli::Target::Label, cli::Target::Png, cli::Target::Svg,
+                                  cli::Target::Pdf}));
+}
+
+TEST(ImportOptions, TakeARangeOfRecords)
+{
+    const cli::RecordRange range = accepted("a.odg --records 3-12").records;
+    EXPECT_EQ(range.first, 3);
+    EXPECT_EQ(range.last, 12);
+    EXPECT_TRUE(refusal("a.odg --records some").startsWith(QStringLiteral("--records takes")));
 }
 
 TEST(ImportOptions, RefuseAnUnknownTarget)

@@ -139,6 +139,74 @@ TEST_F(LabelportProgram, ReplacesItsOwnPictures)
     EXPECT_NEAR(QImage(path(QStringLiteral("sample_vial.png"))).width(), 60 / 25.4 * 100, 1.0);
 }
 
+TEST_F(LabelportProgram, WritesEveryTargetAtOnce)
+{
+    const Outcome outcome =
+        labelport({QStringLiteral("import"), sample("orvanta/asset_tag.qmtx"),
+                   QStringLiteral("--to"), QStringLiteral("label,png,svg,pdf")});
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    EXPECT_EQ(outcome.out,
+              QStringLiteral("asset_tag.label\nasset_tag.png\nasset_tag.svg\nasset_tag.pdf\n"));
+    EXPECT_TRUE(read(QStringLiteral("asset_tag.pdf")).startsWith("%PDF-"));
+    EXPECT_TRUE(read(QStringLiteral("asset_tag.svg")).contains("<svg "));
+}
+
+TEST_F(LabelportProgram, ShowsASavedLabelAsItShowedTheLegacyOne)
+{
+    const QString legacy = sample("orvanta/warning_sign.qmtx");
+    ASSERT_EQ(labelport({QStringLiteral("import"), legacy, QStringLiteral("--to"),
+                         QStringLiteral("label,png"), QStringLiteral("--output-dir"),
+                         QStringLiteral("first")})
+                  .status,
+              0);
+    const Outcome outcome =
+        labelport({QStringLiteral("import"), QStringLiteral("first/warning_sign.label"),
+                   QStringLiteral("--output-dir"), QStringLiteral("second")});
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    const QImage first(path(QStringLiteral("first/warning_sign.png")));
+    ASSERT_FALSE(first.isNull());
+    EXPECT_EQ(first, QImage(path(QStringLiteral("second/warning_sign.png"))));
+}
+
+TEST_F(LabelportProgram, NumbersThePicturesOfASeries)
+{
+    const QString counter = sample("orvanta/asset_tag.qmtx");
+    const Outcome outcome =
+        labelport({QStringLiteral("import"), counter, QStringLiteral("--dpi"), QStringLiteral("50"),
+                   QStringLiteral("--records"), QStringLiteral("2-3")});
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    EXPECT_EQ(outcome.out, QStringLiteral("asset_tag-0002.png\nasset_tag-0003.png\n"));
+    EXPECT_NE(QImage(path(QStringLiteral("asset_tag-0002.png"))),
+              QImage(path(QStringLiteral("asset_tag-0003.png"))));
+}
+
+TEST_F(LabelportProgram, RefusesRecordsThatALabelDoesNotHave)
+{
+    const Outcome outcome =
+        labelport({QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
+                   QStringLiteral("--records"), QStringLiteral("2")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains(QStringLiteral("only 1 records")));
+}
+
+TEST_F(LabelportProgram, NeverReplacesASavedLabelUnasked)
+{
+    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
+                                 QStringLiteral("--to"), QStringLiteral("label")};
+    EXPECT_EQ(labelport(command).status, 0);
+    EXPECT_EQ(labelport(command).status, 1);
+    EXPECT_EQ(labelport(command + QStringList{QStringLiteral("--force")}).status, 0);
+}
+
+TEST_F(LabelportProgram, ReplacesItsOwnDrawingsAndDocuments)
+{
+    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
+                                 QStringLiteral("--to"), QStringLiteral("svg,pdf")};
+    EXPECT_EQ(labelport(command).status, 0);
+    const Outcome again = labelport(command);
+    EXPECT_EQ(again.status, 0) << qPrintable(again.err);
+}
+
 TEST_F(LabelportProgram, SaysWhatIsWrongWithTheCommandLine)
 {
     const QList<QStringList> wrong = {

@@ -165,6 +165,26 @@ TEST(Import, SaysWhyAFileIsNoLabel)
                     .contains(QLatin1String("version that cannot be read")));
 }
 
+// The name alone chooses the reader, and two dots lead to the wrong one: people need to know.
+TEST(Import, SaysThatANameMisleads)
+{
+    const QTemporaryDir folder;
+    const auto errorOf = [&folder](const char* name, const QByteArray& bytes) {
+        const QString path = folder.filePath(QString::fromLatin1(name));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.close();
+        return importLabel(path).error;
+    };
+    EXPECT_TRUE(errorOf("shelf.old.odg", "PK\x03\x04 and so on")
+                    .startsWith(QStringLiteral("The file is a zip package")));
+    EXPECT_TRUE(errorOf("shelf.1.qmtx", "\xEF\xBB\xBF <qmtx/>")
+                    .startsWith(QStringLiteral("The file is XML")));
+    EXPECT_TRUE(errorOf("shelf.cnv", QByteArray("\0\0\0\1\0\0\0\1", 8))
+                    .startsWith(QStringLiteral("The file is no binary label")));
+}
+
 TEST(Import, OneFileSaysNothingOfTheOneBefore)
 {
     const Folder folder;

@@ -54,7 +54,8 @@ ImportResult importReadableFile(const QString& fileName)
     const bool imported = readBy(importer, fileName);
     result.log = observer.log();
     if (!imported) {
-        result.error = observer.failure();
+        const QString misnamed = howNameMisleads(fileName);
+        result.error = misnamed.isEmpty() ? observer.failure() : misnamed;
         return result;
     }
     showFirstRecord(*canvas, *sources);

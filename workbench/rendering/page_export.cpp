@@ -2,6 +2,7 @@
 
 #include "workbench/canvas/canvas.h"
 #include "workbench/rendering/page_painter.h"
+#include "workbench/rendering/whole_file.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -52,10 +53,9 @@ QByteArray millimetres(double points)
 QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
 {
     QString head = QString::fromUtf8(svg.left(kHeadLength));
-    static const QRegularExpression size(
-        QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
-    const QByteArray exact = "<svg width=\"" + millimetres(page.width()) + "\" height=\""
-                             + millimetres(page.height()) + '"';
+    static const QRegularExpression size(QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
+    const QByteArray exact = "<svg width=\"" + millimetres(page.width()) + "\" height=\"" +
+                             millimetres(page.height()) + '"';
     const QRegularExpressionMatch match = size.match(head);
     if (match.hasMatch()) {
         svg.replace(match.capturedStart(), match.capturedLength(), exact);
@@ -72,6 +72,7 @@ QByteArray svgOf(const Canvas& canvas)
     generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
     generator.setViewBox(canvas.pageRect());
     generator.setTitle(tr("Label"));
+    generator.setDescription(QStringLiteral("LabelPort"));
     QPainter painter(&generator);
     paintPage(painter, canvas);
     painter.end();
@@ -107,7 +108,7 @@ QString writeSvg(const Canvas& canvas, const QString& fileName)
         return cannotWrite(fileName, file.errorString());
     }
     const QByteArray svg = svgOf(canvas);
-    if (file.write(svg) != svg.size() || !file.commit()) {
+    if (file.write(svg) != svg.size() || !commitWhole(file)) {
         return cannotWrite(fileName, file.errorString());
     }
     return {};
@@ -125,16 +126,20 @@ QString writePdf(const Canvas& canvas, const QString& fileName, qint64 pages,
         return cannotWrite(fileName, file.errorString());
     }
     bool isComplete = false;
+    bool isStopped = false;
     {
         QPdfWriter writer(&file);
         setUp(writer, canvas);
-        isComplete = paintPages(writer, canvas, pages, prepare);
+        isComplete = paintPages(writer, canvas, pages, [&](qint64 page) {
+            isStopped = !prepare(page);
+            return !isStopped;
+        });
     }
     if (!isComplete) {
         file.cancelWriting();
-        return {};
+        return isStopped ? QString() : cannotWrite(fileName, file.errorString());
     }
-    return file.commit() ? QString() : cannotWrite(fileName, file.errorString());
+    return commitWhole(file) ? QString() : cannotWrite(fileName, file.errorString());
 }
 
 bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,

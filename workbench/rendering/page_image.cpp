@@ -2,6 +2,7 @@
 
 #include "workbench/canvas/canvas.h"
 #include "workbench/rendering/page_painter.h"
+#include "workbench/rendering/whole_file.h"
 
 #include <QCoreApplication>
 #include <QImageWriter>
@@ -116,7 +117,7 @@ QString writePng(const QImage& image, const QString& fileName)
     if (!writer.write(image)) {
         return tr("Cannot write \"%1\": %2.").arg(fileName, writer.errorString());
     }
-    if (!file.commit()) {
+    if (!commitWhole(file)) {
         return tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
     return {};
