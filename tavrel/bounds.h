@@ -15,7 +15,7 @@ inline constexpr qint64 MaximumPixelsPerFile = 32LL * 1024 * 1024;
 
 /// Item records of one file; the smallest takes 61 bytes in the file and some kilobytes
 /// on a canvas.
-inline constexpr int MaximumItemRecords = 20'000;
+inline constexpr int MaximumItemRecords = 250'000;
 
 /// Characters of a width or height; what is longer is as unreadable as any other text that
 /// is no number.
