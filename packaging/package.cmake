@@ -1,0 +1,39 @@
+# What an installation looks like, and what others need to build against it: the CMake package
+# LabelPort (find_package) and the pkg-config file labelport.pc.
+#
+# Rooms install their own headers and targets, into the export set LabelPortTargets. Included
+# before them, because targets take the run path from here when they are made.
+
+include(CMakePackageConfigHelpers)
+
+# Installed programs find the library by their own place, so that an installation can be moved.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}"
+    OUTPUT_VARIABLE LABELPORT_BIN_TO_LIB)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/${LABELPORT_BIN_TO_LIB}")
+
+set(LABELPORT_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/LabelPort)
+set(LABELPORT_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR}/labelport)
+
+configure_package_config_file(
+    ${CMAKE_CURRENT_LIST_DIR}/LabelPortConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/packaging/LabelPortConfig.cmake
+    INSTALL_DESTINATION ${LABELPORT_PACKAGE_DIR}
+    PATH_VARS LABELPORT_HEADER_DIR
+    NO_SET_AND_CHECK_MACRO)
+# Before 1.0 the contract may change with every minor version.
+write_basic_package_version_file(
+    ${PROJECT_BINARY_DIR}/packaging/LabelPortConfigVersion.cmake
+    COMPATIBILITY SameMinorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/packaging/LabelPortConfig.cmake
+    ${PROJECT_BINARY_DIR}/packaging/LabelPortConfigVersion.cmake
+    DESTINATION ${LABELPORT_PACKAGE_DIR}
+    COMPONENT development)
+install(EXPORT LabelPortTargets
+    NAMESPACE LabelPort::
+    DESTINATION ${LABELPORT_PACKAGE_DIR}
+    COMPONENT development)
+
+# The logging library is not known before its folder was read.
+cmake_language(EVAL CODE
+    "cmake_language(DEFER CALL include [[${CMAKE_CURRENT_LIST_DIR}/pkg_config_file.cmake]])")
