@@ -255,5 +255,5 @@ TEST(LabelJson, BoundsTheNumberOfItems)
         items.append(0);
     label[QLatin1String("items")] = items;
     file[QLatin1String("label")] = label;
-    EXPECT_EQ(errorOf(file), "The label file is damaged: items is longer than 100000.");
+    EXPECT_EQ(errorOf(file), "The label file is damaged: items is longer than 500000.");
 }
