@@ -43,10 +43,11 @@ void Canvas::importItem(Item* item)
         delete item;
         return;
     }
-    if (m_items.contains(canvasItem)) {
-        return;
+    QGraphicsItem* graphicsItem = canvasItem->graphicsItem();
+    if (graphicsItem->scene() == &m_scene) {
+        return; // it is here already
     }
-    m_scene.addItem(canvasItem->graphicsItem());
+    m_scene.addItem(graphicsItem);
     m_items.append(canvasItem);
     Q_EMIT itemsChanged();
 }
