@@ -236,7 +236,7 @@ TEST(Fill, AHatchOverAHugeAreaHasABoundedNumberOfLines)
     EXPECT_TRUE(workbench::hatchLines(QRectF(), Qt::CrossPattern).isEmpty());
 }
 
-TEST(Fill, AGradientRunsFromTheColorToNothing)
+TEST(Fill, AGradientRunsFromTheColorToWhite)
 {
     Painted page;
     page.canvas.setCanvasBackgroundColor(Qt::yellow);
@@ -246,7 +246,8 @@ TEST(Fill, AGradientRunsFromTheColorToNothing)
     EXPECT_NEAR(top.blue(), kBlue.blue(), 8);
     EXPECT_NEAR(top.red(), 0, 8);
     EXPECT_NEAR(bottom.red(), 255, 8);
-    EXPECT_NEAR(bottom.blue(), 0, 8);
+    EXPECT_NEAR(bottom.green(), 255, 8);
+    EXPECT_NEAR(bottom.blue(), 255, 8);
     EXPECT_EQ(page.at(30, 50), page.at(170, 50));
 }
 

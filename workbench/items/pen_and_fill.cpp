@@ -50,10 +50,14 @@ QColor withInk(const QColor& color, double ink)
     return tinted;
 }
 
+// To white and not to nothing: documents (PDF) have no gradient of opacities and would show
+// the plain colour.
 void addStops(QGradient& gradient, const QColor& color)
 {
+    QColor paper = Qt::white;
+    paper.setAlphaF(color.alphaF());
     gradient.setColorAt(0.0, color);
-    gradient.setColorAt(1.0, withInk(color, 0.0));
+    gradient.setColorAt(1.0, paper);
 }
 
 QBrush linearBrush(const QRectF& box, const QColor& color)

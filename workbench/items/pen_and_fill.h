@@ -18,7 +18,7 @@ namespace workbench {
 ///
 /// Tones (Qt's dense patterns) are painted as a lighter tint and hatches as lines with
 /// sizes in points, so that they look the same at every resolution and in print. A
-/// gradient runs from the fill colour at the top to nothing at the bottom.
+/// gradient runs from the fill colour at the top to white at the bottom.
 void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
                const FillValues& values);
 
