@@ -32,6 +32,10 @@ struct Layout
     Decode decode;
 };
 
+// Not every compiler deduces an aggregate's argument by itself.
+template <typename Decode>
+Layout(quint32, Decode) -> Layout<Decode>;
+
 /// The decoder for a file of this version: the last layout that is not younger than the
 /// file. The table is in rising order; a file older than all takes the first.
 template <typename Decode, std::size_t count>
