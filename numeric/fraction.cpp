@@ -69,7 +69,7 @@ Fraction::Fraction(const QString& text)
     bool ok = false;
     m_decimal = text.toDouble(&ok);
     if (!ok) {
-        logDebug(__LINE__, Q_FUNC_INFO, "string \"%s\" invalid", text.toUtf8());
+        logDebug(__LINE__, Q_FUNC_INFO, "string \"%s\" invalid", text.toLocal8Bit());
         m_decimal = noDecimal;
     }
 }
@@ -117,7 +117,7 @@ Fraction Fraction::operator*(Fraction other) const
         }
     }
     const Fraction newFraction(product);
-    logDebug(__LINE__, Q_FUNC_INFO, "newFraction = %s", newFraction.toString().toUtf8());
+    logDebug(__LINE__, Q_FUNC_INFO, "newFraction = %s", newFraction.toString().toLocal8Bit());
     return newFraction;
 }
 

@@ -13,7 +13,7 @@ constexpr size_t initialOffsetCapacity = 16;
 void logError(int line, const char* function, const char* format, const QString& text)
 {
     CuteMessageLogger(loggerInstance(), Logger::Error, "csv_table_model.cpp", line, function)
-        .write(format, qUtf8Printable(text));
+        .write(format, text.toLocal8Bit().constData());
 }
 
 int countWithoutTrailingEmpty(const QStringList& fields)
