@@ -1,6 +1,6 @@
 // Where text stands, how large it is, and what its box does.
 
-#include "painted.h"
+#include "painted_texts.h"
 
 #include "host/items/rich_text_item.h"
 #include "host/items/simple_text_item.h"
@@ -19,30 +19,6 @@
 namespace {
 
 const QString kBlock = QStringLiteral("HHHH");
-const QString kMegabyte = QStringLiteral("word ").repeated(200'000);
-
-// A rich text of 100 by 60 points at (50, 20).
-TextItem& putRich(Painted& page, const QString& text)
-{
-    auto& item = page.make<TextItem>(KestTypes::RichText);
-    item.setItemSize(QSizeF(100.0, 60.0));
-    item.setPos(50.0, 20.0);
-    item.setText(text);
-    item.setFontPointSize(12);
-    return item;
-}
-
-// A simple text as binary labels have it: no fixed side.
-SimpleTextItem& putLabel(Painted& page, const QString& text, int size, signed char limiting = 0,
-                         const QSizeF& box = {})
-{
-    auto& item = page.make<SimpleTextItem>(KestTypes::SimpleText);
-    item.setItemSizeLimiting(limiting);
-    item.setTextBoxSize(box);
-    item.importTextProperties(text, size, false, false, false, Qt::AlignLeft);
-    item.applyTextOptions();
-    return item;
-}
 
 // Height of a capital letter of the font that texts have without a family, at 1 point.
 double capHeight()
@@ -467,48 +443,4 @@ TEST(TextFont, FamiliesOfOtherSystemsAreReplacedByThoseOfTheSameWidths)
     EXPECT_EQ(painted("Courier New"), painted("Liberation Mono"));
     EXPECT_EQ(painted("_Nare Vol"), painted("Liberation Sans"));
     EXPECT_EQ(painted(""), painted("Liberation Sans"));
-}
-
-// A megabyte in one run: the time that it takes is bounded by the test's time limit.
-TEST(TextBounds, ALongRichTextIsPainted)
-{
-    Painted page;
-    auto& item = dynamic_cast<RichTextItem&>(putRich(page, kMegabyte));
-    item.adjustBoxSizeToContent(100.0);
-    EXPECT_GT(item.getItemHeight(), 1'000.0);
-    EXPECT_FALSE(page.ink().isEmpty());
-}
-
-TEST(TextBounds, ALongSimpleTextIsPainted)
-{
-    Painted page;
-    EXPECT_GT(putLabel(page, kMegabyte, 12).getItemWidth(), 1'000.0);
-    EXPECT_FALSE(page.ink().isEmpty());
-}
-
-TEST(TextBounds, ALongScaledTextIsPainted)
-{
-    Painted page;
-    auto& item = page.make<TextItem>(KestTypes::SimpleText);
-    item.setItemSize(QSizeF(100.0, 60.0));
-    item.setText(kMegabyte);
-    EXPECT_FALSE(page.image().isNull());
-}
-
-TEST(TextBounds, ALongDocumentIsPainted)
-{
-    Painted page;
-    auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<p>%1</p>").arg(kMegabyte));
-    item.adjustBoxSizeToContent(100.0);
-    EXPECT_GT(item.getItemHeight(), 1'000.0);
-    EXPECT_FALSE(page.ink().isEmpty());
-}
-
-TEST(TextBounds, LargestFontAndLongestTextTogetherArePainted)
-{
-    Painted page;
-    auto& item = putLabel(page, QStringLiteral("W").repeated(20'000), 2'000'000'000);
-    EXPECT_GT(item.getItemWidth(), 1'000.0);
-    EXPECT_FALSE(page.image().isNull());
 }
