@@ -1,9 +1,9 @@
 #pragma once
 
+#include "xmlbounds/element_tree.h"
+
 #include <QPointF>
 #include <QSizeF>
-
-class QDomElement;
 
 namespace opendocument {
 
@@ -23,9 +23,9 @@ struct Geometry
 
 /// Reads the geometry attributes of an element. Leaves alone what is absent or damaged.
 /// @param unitFactor points per unit of the document's lengths
-void readGeometry(const QDomElement& element, double unitFactor, Geometry& geometry);
+void readGeometry(const xmlbounds::Element& element, double unitFactor, Geometry& geometry);
 
 /// Reads draw:z-index alone, for elements that have no other geometry in common.
-void readStackingOrder(const QDomElement& element, Geometry& geometry);
+void readStackingOrder(const xmlbounds::Element& element, Geometry& geometry);
 
 } // namespace opendocument

@@ -2,11 +2,10 @@
 
 #include "opendocument/numbers.h"
 #include "opendocument/text_style.h"
+#include "xmlbounds/element_tree.h"
 
 #include <QString>
 #include <Qt>
-
-class QDomElement;
 
 namespace opendocument {
 
@@ -56,7 +55,7 @@ struct OOGraphicStyle
 };
 
 /// Reads a style:graphic-properties element; null reads nothing. Changes only what is given.
-void readGraphicProperties(const QDomElement& properties, const LengthUnit& unit,
+void readGraphicProperties(const xmlbounds::Element& properties, const LengthUnit& unit,
                            OOGraphicStyle& style);
 
 } // namespace opendocument

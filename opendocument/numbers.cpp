@@ -2,8 +2,6 @@
 
 #include "opendocument/code_table.h"
 
-#include <QDomElement>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -60,7 +58,8 @@ std::optional<double> toLength(QStringView text, double unitFactor)
     return *number * unitFactor;
 }
 
-bool readLength(const QDomElement& element, const QString& name, double unitFactor, double& target)
+bool readLength(const xmlbounds::Element& element, const QString& name, double unitFactor,
+                double& target)
 {
     const auto length = toLength(element.attribute(name), unitFactor);
     target = length.value_or(target);

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "xmlbounds/element_tree.h"
+
 #include <QString>
 #include <QStringView>
 
 #include <optional>
-
-class QDomElement;
 
 namespace opendocument {
 
@@ -36,7 +36,8 @@ struct LengthUnit
 
 /// Reads an attribute as a length in points. Leaves the target alone when the attribute is
 /// absent or no length; returns whether it was set.
-bool readLength(const QDomElement& element, const QString& name, double unitFactor, double& target);
+bool readLength(const xmlbounds::Element& element, const QString& name, double unitFactor,
+                double& target);
 
 /// Truncates towards zero. Stops at the ends of the range; not a number gives 0.
 [[nodiscard]] int toInteger(double value);

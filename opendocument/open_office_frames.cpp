@@ -10,7 +10,6 @@
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
 
-#include <QDomElement>
 #include <QFileInfo>
 
 using namespace opendocument;
@@ -19,11 +18,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The pictures that a frame offers, by their suffixes; the last of a suffix counts.
-QMap<QString, QString> imagesBySuffix(const QDomElement& frame)
+QMap<QString, QString> imagesBySuffix(const xmlbounds::Element& frame)
 {
     const QString tag = u"draw:image"_s;
     QMap<QString, QString> images;
-    for (QDomElement image = frame.firstChildElement(tag); !image.isNull();
+    for (xmlbounds::Element image = frame.firstChildElement(tag); !image.isNull();
          image = image.nextSiblingElement(tag)) {
         const QString name = image.attribute(u"xlink:href"_s);
         images.insert(QFileInfo(name).completeSuffix().toLower(), name);
@@ -40,7 +39,7 @@ QRectF symbolTarget(const QSizeF& size)
 
 } // namespace
 
-FramePlacement OpenOfficeReader::readFrame(const QDomElement& element)
+FramePlacement OpenOfficeReader::readFrame(const xmlbounds::Element& element)
 {
     Geometry geometry;
     readGeometry(element, m_unitFactor, geometry);
@@ -55,10 +54,10 @@ FramePlacement OpenOfficeReader::readFrame(const QDomElement& element)
             style.wrap};
 }
 
-bool OpenOfficeReader::readTextBox(const QDomElement& frame, OOGraphicStyle style,
+bool OpenOfficeReader::readTextBox(const xmlbounds::Element& frame, OOGraphicStyle style,
                                    Geometry& geometry)
 {
-    const QDomElement box = frame.firstChildElement(u"draw:text-box"_s);
+    const xmlbounds::Element box = frame.firstChildElement(u"draw:text-box"_s);
     readLength(box, u"fo:min-height"_s, m_unitFactor, geometry.size.rheight());
     NewShape shape = makeRectangle(box, false);
     if (!shape) {
@@ -81,7 +80,8 @@ bool OpenOfficeReader::readTextBox(const QDomElement& frame, OOGraphicStyle styl
 }
 
 // What the frame does not give of its position comes from its style and the text flow.
-QPointF OpenOfficeReader::textBoxPosition(const QDomElement& frame, const OOGraphicStyle& style,
+QPointF OpenOfficeReader::textBoxPosition(const xmlbounds::Element& frame,
+                                          const OOGraphicStyle& style,
                                           const Geometry& geometry) const
 {
     QPointF position = geometry.position;
@@ -102,7 +102,7 @@ QPointF OpenOfficeReader::textBoxPosition(const QDomElement& frame, const OOGrap
     return position;
 }
 
-bool OpenOfficeReader::readImage(const QDomElement& frame, Geometry& geometry)
+bool OpenOfficeReader::readImage(const xmlbounds::Element& frame, Geometry& geometry)
 {
     const QMap<QString, QString> images = imagesBySuffix(frame);
     const auto svg = images.constFind(u"svg"_s);

@@ -11,10 +11,9 @@
 #include "host/services/common_lists.h"
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
-#include "xmlbounds/bounded_document.h"
+#include "xmlbounds/element_tree.h"
 
 #include <QApplication>
-#include <QDomDocument>
 #include <QFontInfo>
 
 #include <cmath>
@@ -28,6 +27,8 @@ namespace {
 
 const QString StylesMember = u"styles.xml"_s;
 const QString ContentMember = u"content.xml"_s;
+// As the signature was when bodies were document trees: old log filters depend on it.
+constexpr char ReadBody[] = "void OpenOfficeReader::readBody(const QDomElement&)";
 
 double pointsPerPixelOf(const QFont& font)
 {
@@ -58,33 +59,35 @@ OpenOfficeReader::~OpenOfficeReader() = default;
 bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
 {
     openPackage(fileName);
-    const QByteArray stylesBytes = readMember(StylesMember, limits::StylesBytes);
+    QByteArray stylesBytes = readMember(StylesMember, limits::StylesBytes);
     if (stylesBytes.isEmpty()) {
         logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file styles."_s);
         return false;
     }
-    const QByteArray contentBytes = readMember(ContentMember, limits::ContentBytes);
+    QByteArray contentBytes = readMember(ContentMember, limits::ContentBytes);
     if (contentBytes.isEmpty()) {
         logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file content."_s);
         return false;
     }
     m_flowOffsetY = 0;
 
-    QDomDocument styles;
-    if (const auto failure =
-            xmlbounds::parseDocument(stylesBytes, styles, limits::StylesTreeBytes)) {
+    // Both are read in whole before the canvas hears of either, so that a damaged document
+    // leaves it untouched.
+    xmlbounds::ElementTree styles;
+    if (const auto failure = styles.parse(stylesBytes, limits::StylesTreeBytes)) {
         logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(StylesMember, *failure));
         return false;
     }
-    QDomDocument content;
-    if (const auto failure =
-            xmlbounds::parseDocument(contentBytes, content, limits::ContentTreeBytes)) {
+    xmlbounds::ElementTree content;
+    if (const auto failure = content.parse(contentBytes, limits::ContentTreeBytes)) {
         logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(ContentMember, *failure));
         return false;
     }
+    stylesBytes.clear();
+    contentBytes.clear();
 
-    const QDomElement stylesRoot = styles.documentElement();
-    const QDomElement contentRoot = content.documentElement();
+    const xmlbounds::Element stylesRoot = styles.documentElement();
+    const xmlbounds::Element contentRoot = content.documentElement();
     importPageLayout(stylesRoot);
     readDefaultStyles(stylesRoot.firstChildElement(u"office:styles"_s));
     readStyles(stylesRoot.firstChildElement(u"office:styles"_s));
@@ -124,7 +127,7 @@ QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)
     return m_zipReader->fileData(name);
 }
 
-void OpenOfficeReader::importPageLayout(const QDomElement& stylesRoot)
+void OpenOfficeReader::importPageLayout(const xmlbounds::Element& stylesRoot)
 {
     const PageLayout layout = readPageLayout(stylesRoot);
     if (layout.width) {
@@ -138,10 +141,10 @@ void OpenOfficeReader::importPageLayout(const QDomElement& stylesRoot)
     m_canvasModel->importCanvasParameters(m_pageWidth, m_pageHeight, false, layout.portrait);
 }
 
-void OpenOfficeReader::readDefaultStyles(const QDomElement& officeStyles)
+void OpenOfficeReader::readDefaultStyles(const xmlbounds::Element& officeStyles)
 {
     const QString tag = u"style:default-style"_s;
-    for (QDomElement element = officeStyles.firstChildElement(tag); !element.isNull();
+    for (xmlbounds::Element element = officeStyles.firstChildElement(tag); !element.isNull();
          element = element.nextSiblingElement(tag)) {
         const QString family = element.attribute(u"style:family"_s);
         if (family == "paragraph"_L1) {
@@ -156,10 +159,10 @@ void OpenOfficeReader::readDefaultStyles(const QDomElement& officeStyles)
     }
 }
 
-void OpenOfficeReader::readStyles(const QDomElement& container)
+void OpenOfficeReader::readStyles(const xmlbounds::Element& container)
 {
     const QString tag = u"style:style"_s;
-    for (QDomElement element = container.firstChildElement(tag); !element.isNull();
+    for (xmlbounds::Element element = container.firstChildElement(tag); !element.isNull();
          element = element.nextSiblingElement(tag)) {
         const QString family = element.attribute(u"style:family"_s);
         if (family == "paragraph"_L1 || family == "text"_L1) {
@@ -170,7 +173,7 @@ void OpenOfficeReader::readStyles(const QDomElement& container)
     }
 }
 
-void OpenOfficeReader::readTextStyle(const QDomElement& element)
+void OpenOfficeReader::readTextStyle(const xmlbounds::Element& element)
 {
     OOTextStyle style =
         m_textStyles.value(element.attribute(u"style:parent-style-name"_s), m_defaultTextStyle);
@@ -181,7 +184,7 @@ void OpenOfficeReader::readTextStyle(const QDomElement& element)
     m_textStyles.insert(element.attribute(u"style:name"_s), style);
 }
 
-void OpenOfficeReader::readGraphicStyle(const QDomElement& element)
+void OpenOfficeReader::readGraphicStyle(const xmlbounds::Element& element)
 {
     OOGraphicStyle style = m_graphicStyles.value(element.attribute(u"style:parent-style-name"_s),
                                                  m_defaultGraphicStyle);
@@ -189,21 +192,21 @@ void OpenOfficeReader::readGraphicStyle(const QDomElement& element)
     m_graphicStyles.insert(element.attribute(u"style:name"_s), style);
 }
 
-void OpenOfficeReader::readBody(const QDomElement& body)
+void OpenOfficeReader::readBody(const xmlbounds::Element& body)
 {
-    const QDomElement document = body.firstChildElement();
+    const xmlbounds::Element document = body.firstChildElement();
     if (document.tagName() == "office:text"_L1) {
         readTextBody(document);
     } else if (document.tagName() == "office:drawing"_L1) {
         readDrawingBody(document);
     } else {
-        logDebug(__LINE__, Q_FUNC_INFO, u"Unsupported document type."_s);
+        logDebug(__LINE__, ReadBody, u"Unsupported document type."_s);
     }
 }
 
-void OpenOfficeReader::readTextBody(const QDomElement& text)
+void OpenOfficeReader::readTextBody(const xmlbounds::Element& text)
 {
-    for (QDomElement element = text.firstChildElement(); !element.isNull();
+    for (xmlbounds::Element element = text.firstChildElement(); !element.isNull();
          element = element.nextSiblingElement()) {
         const QString tag = element.tagName();
         if (tag == "text:p"_L1 || tag == "text:h"_L1) {
@@ -215,17 +218,17 @@ void OpenOfficeReader::readTextBody(const QDomElement& text)
 }
 
 // Only the first page: a label has one.
-void OpenOfficeReader::readDrawingBody(const QDomElement& drawing)
+void OpenOfficeReader::readDrawingBody(const xmlbounds::Element& drawing)
 {
-    for (QDomElement element = drawing.firstChildElement().firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
+    for (xmlbounds::Element element = drawing.firstChildElement().firstChildElement();
+         !element.isNull(); element = element.nextSiblingElement()) {
         readDrawingElement(element);
     }
 }
 
-void OpenOfficeReader::readDrawingElement(const QDomElement& element)
+void OpenOfficeReader::readDrawingElement(const xmlbounds::Element& element)
 {
-    using Handler = void (*)(OpenOfficeReader&, const QDomElement&);
+    using Handler = void (*)(OpenOfficeReader&, const xmlbounds::Element&);
     static constexpr NamedCode<Handler> Handlers[] = {
         {"draw:rect"_L1, [](auto& reader, auto& shape) { reader.readRectangle(shape, false); }},
         {"draw:circle"_L1, [](auto& reader, auto& shape) { reader.readEllipse(shape, false); }},

@@ -9,6 +9,7 @@
 #include "opendocument/zip_directory.h"
 
 #include "host/kest_types.h"
+#include "xmlbounds/element_tree.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -19,7 +20,6 @@
 class ClassFactory;
 class DatasourceController;
 class Item;
-class QDomElement;
 class QGraphicsItem;
 class QZipReader;
 class SymbolCreator;
@@ -61,50 +61,53 @@ private:
     [[nodiscard]] QByteArray readMember(const QString& name, qint64 largest);
 
     // Page and styles.
-    void importPageLayout(const QDomElement& stylesRoot);
-    void readDefaultStyles(const QDomElement& officeStyles);
-    void readStyles(const QDomElement& container);
-    void readTextStyle(const QDomElement& element);
-    void readGraphicStyle(const QDomElement& element);
+    void importPageLayout(const xmlbounds::Element& stylesRoot);
+    void readDefaultStyles(const xmlbounds::Element& officeStyles);
+    void readStyles(const xmlbounds::Element& container);
+    void readTextStyle(const xmlbounds::Element& element);
+    void readGraphicStyle(const xmlbounds::Element& element);
     [[nodiscard]] opendocument::LengthUnit unit() const { return {m_unitSuffix, m_unitFactor}; }
 
     // The body.
-    void readBody(const QDomElement& body);
-    void readTextBody(const QDomElement& text);
-    void readDrawingBody(const QDomElement& drawing);
-    void readDrawingElement(const QDomElement& element);
+    void readBody(const xmlbounds::Element& body);
+    void readTextBody(const xmlbounds::Element& text);
+    void readDrawingBody(const xmlbounds::Element& drawing);
+    void readDrawingElement(const xmlbounds::Element& element);
 
     // Text.
-    void readParagraph(const QDomElement& paragraph);
-    void readParagraphFrames(const QDomElement& paragraph, opendocument::ParagraphFlow& flow);
-    void readParagraphNode(const QDomElement& element, const QString& text,
+    void readParagraph(const xmlbounds::Element& paragraph);
+    void readParagraphFrames(const xmlbounds::Element& paragraph,
+                             opendocument::ParagraphFlow& flow);
+    void readParagraphNode(const xmlbounds::Element& element, const QString& text,
                            const OOTextStyle& style, opendocument::ParagraphFlow& flow);
     void readRun(const QString& text, const OOTextStyle& style, opendocument::ParagraphFlow& flow);
     [[nodiscard]] QSizeF placeTextRun(const QString& text, const OOTextStyle& style,
                                       double availableWidth, double cursor, double z);
-    void buildRichText(const QDomElement& shape, const opendocument::Geometry& geometry);
+    void buildRichText(const xmlbounds::Element& shape, const opendocument::Geometry& geometry);
     [[nodiscard]] opendocument::TextStyling styling() const;
 
     // Shapes.
-    void readLine(const QDomElement& element);
-    void readRectangle(const QDomElement& element, bool rounded);
-    void readEllipse(const QDomElement& element, bool pie);
-    void readPolygon(const QDomElement& element, KestTypes::ShapeType type);
-    void readCustomShape(const QDomElement& element);
-    void placeShape(const QDomElement& element, opendocument::NewShape shape);
-    [[nodiscard]] opendocument::NewShape makeRectangle(const QDomElement& element, bool rounded);
-    [[nodiscard]] OOGraphicStyle graphicStyleOf(const QDomElement& element) const;
+    void readLine(const xmlbounds::Element& element);
+    void readRectangle(const xmlbounds::Element& element, bool rounded);
+    void readEllipse(const xmlbounds::Element& element, bool pie);
+    void readPolygon(const xmlbounds::Element& element, KestTypes::ShapeType type);
+    void readCustomShape(const xmlbounds::Element& element);
+    void placeShape(const xmlbounds::Element& element, opendocument::NewShape shape);
+    [[nodiscard]] opendocument::NewShape makeRectangle(const xmlbounds::Element& element,
+                                                       bool rounded);
+    [[nodiscard]] OOGraphicStyle graphicStyleOf(const xmlbounds::Element& element) const;
 
     // Frames.
-    opendocument::FramePlacement readFrame(const QDomElement& element);
-    [[nodiscard]] bool readTextBox(const QDomElement& frame, OOGraphicStyle style,
+    opendocument::FramePlacement readFrame(const xmlbounds::Element& element);
+    [[nodiscard]] bool readTextBox(const xmlbounds::Element& frame, OOGraphicStyle style,
                                    opendocument::Geometry& geometry);
-    [[nodiscard]] bool readImage(const QDomElement& frame, opendocument::Geometry& geometry);
+    [[nodiscard]] bool readImage(const xmlbounds::Element& frame, opendocument::Geometry& geometry);
     [[nodiscard]] bool importSymbol(const QString& name, opendocument::Geometry& geometry);
     [[nodiscard]] bool importPicture(const QString& name, opendocument::Geometry& geometry);
     void placeImage(std::unique_ptr<Item> owned, QGraphicsItem& graphics,
                     opendocument::Geometry& geometry);
-    [[nodiscard]] QPointF textBoxPosition(const QDomElement& frame, const OOGraphicStyle& style,
+    [[nodiscard]] QPointF textBoxPosition(const xmlbounds::Element& frame,
+                                          const OOGraphicStyle& style,
                                           const opendocument::Geometry& geometry) const;
 
     // Moves the text flow down.

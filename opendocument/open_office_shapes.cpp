@@ -9,8 +9,6 @@
 #include "host/items/rounded_rectangle_item.h"
 #include "host/tal_canvas_model.h"
 
-#include <QDomElement>
-
 #include <algorithm>
 
 using namespace opendocument;
@@ -33,7 +31,7 @@ struct LineEnds
     QPointF end;
 };
 
-LineEnds readLineEnds(const QDomElement& element, double unitFactor)
+LineEnds readLineEnds(const xmlbounds::Element& element, double unitFactor)
 {
     LineEnds ends;
     readLength(element, u"svg:x1"_s, unitFactor, ends.start.rx());
@@ -53,19 +51,20 @@ void applyMarkers(ILineItem& line, const OOGraphicStyle& style)
     }
 }
 
-bool hasParagraph(const QDomElement& element)
+bool hasParagraph(const xmlbounds::Element& element)
 {
     return !element.firstChildElement(u"text:p"_s).isNull();
 }
 
 } // namespace
 
-OpenOfficeReader::OOGraphicStyle OpenOfficeReader::graphicStyleOf(const QDomElement& element) const
+OpenOfficeReader::OOGraphicStyle
+OpenOfficeReader::graphicStyleOf(const xmlbounds::Element& element) const
 {
     return m_graphicStyles.value(element.attribute(u"draw:style-name"_s), m_defaultGraphicStyle);
 }
 
-void OpenOfficeReader::readLine(const QDomElement& element)
+void OpenOfficeReader::readLine(const xmlbounds::Element& element)
 {
     NewItem<LineItem> line = makeItem<LineItem>(m_classFactory, KestTypes::Line);
     if (!line) {
@@ -86,7 +85,7 @@ void OpenOfficeReader::readLine(const QDomElement& element)
     applyMarkers(*line.item, style);
 }
 
-NewShape OpenOfficeReader::makeRectangle(const QDomElement& element, bool rounded)
+NewShape OpenOfficeReader::makeRectangle(const xmlbounds::Element& element, bool rounded)
 {
     const QString radiusName = u"draw:corner-radius"_s;
     const bool isRounded = rounded || element.hasAttribute(radiusName);
@@ -99,22 +98,22 @@ NewShape OpenOfficeReader::makeRectangle(const QDomElement& element, bool rounde
     return shape;
 }
 
-void OpenOfficeReader::readRectangle(const QDomElement& element, bool rounded)
+void OpenOfficeReader::readRectangle(const xmlbounds::Element& element, bool rounded)
 {
     placeShape(element, makeRectangle(element, rounded));
 }
 
-void OpenOfficeReader::readEllipse(const QDomElement& element, bool pie)
+void OpenOfficeReader::readEllipse(const xmlbounds::Element& element, bool pie)
 {
     placeShape(element, makeShape(m_classFactory, pie ? KestTypes::Pie : KestTypes::Ellipse));
 }
 
-void OpenOfficeReader::readPolygon(const QDomElement& element, KestTypes::ShapeType type)
+void OpenOfficeReader::readPolygon(const xmlbounds::Element& element, KestTypes::ShapeType type)
 {
     placeShape(element, makeShape(m_classFactory, type));
 }
 
-void OpenOfficeReader::readCustomShape(const QDomElement& element)
+void OpenOfficeReader::readCustomShape(const xmlbounds::Element& element)
 {
     const QString type =
         element.firstChildElement(u"draw:enhanced-geometry"_s).attribute(u"draw:type"_s);
@@ -129,7 +128,7 @@ void OpenOfficeReader::readCustomShape(const QDomElement& element)
     }
 }
 
-void OpenOfficeReader::placeShape(const QDomElement& element, NewShape shape)
+void OpenOfficeReader::placeShape(const xmlbounds::Element& element, NewShape shape)
 {
     if (!shape) {
         return;

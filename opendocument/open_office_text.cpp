@@ -9,8 +9,6 @@
 #include "host/items/rich_text_item.h"
 #include "host/tal_canvas_model.h"
 
-#include <QDomElement>
-
 using namespace opendocument;
 using namespace Qt::StringLiterals;
 
@@ -38,7 +36,7 @@ TextStyling OpenOfficeReader::styling() const
     return {m_textStyles, m_defaultTextStyle, m_pointsPerPixel};
 }
 
-void OpenOfficeReader::readParagraph(const QDomElement& paragraph)
+void OpenOfficeReader::readParagraph(const xmlbounds::Element& paragraph)
 {
     const OOTextStyle style = styling().styleOf(paragraph, m_defaultTextStyle);
     advanceFlow(style.margins.first);
@@ -49,7 +47,7 @@ void OpenOfficeReader::readParagraph(const QDomElement& paragraph)
     ParagraphFlow flow(m_pageWidth);
     readParagraphFrames(paragraph, flow);
     advanceFlow(flow.blockOffset());
-    for (QDomNode node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
+    for (xmlbounds::Node node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
         readParagraphNode(node.toElement(), node.isText() ? node.nodeValue() : QString(), style,
                           flow);
         advanceFlow(flow.takeFullLine());
@@ -58,17 +56,17 @@ void OpenOfficeReader::readParagraph(const QDomElement& paragraph)
 }
 
 // Frames come first wherever they stand in the paragraph: its text flows around all of them.
-void OpenOfficeReader::readParagraphFrames(const QDomElement& paragraph, ParagraphFlow& flow)
+void OpenOfficeReader::readParagraphFrames(const xmlbounds::Element& paragraph, ParagraphFlow& flow)
 {
     const QString tag = u"draw:frame"_s;
-    for (QDomElement frame = paragraph.firstChildElement(tag); !frame.isNull();
+    for (xmlbounds::Element frame = paragraph.firstChildElement(tag); !frame.isNull();
          frame = frame.nextSiblingElement(tag)) {
         flow.passFrame(readFrame(frame));
     }
 }
 
 // One node of a paragraph: an element, or a text where the element is null.
-void OpenOfficeReader::readParagraphNode(const QDomElement& element, const QString& text,
+void OpenOfficeReader::readParagraphNode(const xmlbounds::Element& element, const QString& text,
                                          const OOTextStyle& style, ParagraphFlow& flow)
 {
     if (!text.isEmpty()) {
@@ -78,7 +76,7 @@ void OpenOfficeReader::readParagraphNode(const QDomElement& element, const QStri
     } else if (element.tagName() == "text:tab"_L1) {
         flow.moveBy(TabWidth);
     } else if (holdsText(element)) {
-        readRun(textOf(element), styling().styleOf(element, style), flow);
+        readRun(element.text(), styling().styleOf(element, style), flow);
     }
 }
 
@@ -116,7 +114,7 @@ QSizeF OpenOfficeReader::placeTextRun(const QString& text, const OOTextStyle& st
     return {width, run->getItemHeight()};
 }
 
-void OpenOfficeReader::buildRichText(const QDomElement& shape, const Geometry& geometry)
+void OpenOfficeReader::buildRichText(const xmlbounds::Element& shape, const Geometry& geometry)
 {
     const RichText text = toRichText(shape, styling());
     if (text.isBlank || isTooLong(text.length)) {

@@ -1,7 +1,5 @@
 #include "opendocument/page_layout.h"
 
-#include <QDomElement>
-
 namespace opendocument {
 
 namespace {
@@ -10,11 +8,11 @@ using namespace Qt::StringLiterals;
 
 } // namespace
 
-PageLayout readPageLayout(const QDomElement& root)
+PageLayout readPageLayout(const xmlbounds::Element& root)
 {
-    const QDomElement properties = root.firstChildElement(u"office:automatic-styles"_s)
-                                       .firstChildElement(u"style:page-layout"_s)
-                                       .firstChildElement(u"style:page-layout-properties"_s);
+    const xmlbounds::Element properties = root.firstChildElement(u"office:automatic-styles"_s)
+                                              .firstChildElement(u"style:page-layout"_s)
+                                              .firstChildElement(u"style:page-layout-properties"_s);
     PageLayout layout;
     if (properties.hasAttribute(u"fo:page-width"_s)) {
         layout.width = properties.attribute(u"fo:page-width"_s);

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "xmlbounds/element_tree.h"
+
 #include <QString>
 
 #include <optional>
-
-class QDomElement;
 
 namespace opendocument {
 
@@ -18,6 +18,6 @@ struct PageLayout
 
 /// Reads the first page layout of a styles document.
 /// @param root the root of the styles document
-[[nodiscard]] PageLayout readPageLayout(const QDomElement& root);
+[[nodiscard]] PageLayout readPageLayout(const xmlbounds::Element& root);
 
 } // namespace opendocument

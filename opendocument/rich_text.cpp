@@ -2,8 +2,6 @@
 
 #include "opendocument/style_fragments.h"
 
-#include <QDomElement>
-
 #include <algorithm>
 
 namespace opendocument {
@@ -42,7 +40,7 @@ public:
         : m_styling(styling)
     {}
 
-    void writeParagraph(const QDomElement& paragraph);
+    void writeParagraph(const xmlbounds::Element& paragraph);
     [[nodiscard]] RichText finished() const;
 
 private:
@@ -50,7 +48,7 @@ private:
     [[nodiscard]] QString bodyAttribute() const;
     [[nodiscard]] QString paragraphTag(const OOTextStyle& style) const;
     [[nodiscard]] QString spanTag(const OOTextStyle& style, const OOTextStyle& base) const;
-    void writeNode(const QDomNode& node, const OOTextStyle& paragraphStyle);
+    void writeNode(const xmlbounds::Node& node, const OOTextStyle& paragraphStyle);
     void writeSpan(const QString& tag, const QString& text);
 
     const TextStyling& m_styling;
@@ -97,24 +95,24 @@ void HtmlWriter::writeSpan(const QString& tag, const QString& text)
     m_paragraphs += tag + text.toHtmlEscaped() + EndOfSpan;
 }
 
-void HtmlWriter::writeNode(const QDomNode& node, const OOTextStyle& paragraphStyle)
+void HtmlWriter::writeNode(const xmlbounds::Node& node, const OOTextStyle& paragraphStyle)
 {
-    const QDomElement element = node.toElement();
+    const xmlbounds::Element element = node.toElement();
     if (node.isText()) {
         writeSpan(Span.arg(QString()), node.nodeValue());
     } else if (element.tagName() == "text:tab"_L1) {
         m_paragraphs += u'\t';
     } else if (element.tagName() == "text:span"_L1) {
         const OOTextStyle& style = m_styling.styleOf(element, paragraphStyle);
-        writeSpan(spanTag(style, paragraphStyle), textOf(element));
+        writeSpan(spanTag(style, paragraphStyle), element.text());
     }
 }
 
-void HtmlWriter::writeParagraph(const QDomElement& paragraph)
+void HtmlWriter::writeParagraph(const xmlbounds::Element& paragraph)
 {
     const OOTextStyle& style = m_styling.styleOf(paragraph, m_styling.defaultStyle);
     m_paragraphs += paragraphTag(style);
-    for (QDomNode node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
+    for (xmlbounds::Node node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
         writeNode(node, style);
     }
     m_paragraphs += EndOfParagraph;
@@ -127,29 +125,19 @@ RichText HtmlWriter::finished() const
             m_length};
 }
 
-// The next node in document order, inside `root`.
-QDomNode nodeAfter(const QDomNode& node, const QDomNode& root)
-{
-    QDomNode next = node.firstChild();
-    for (QDomNode up = node; next.isNull() && up != root; up = up.parentNode()) {
-        next = up.nextSibling();
-    }
-    return next;
-}
-
 } // namespace
 
-const OOTextStyle& TextStyling::styleOf(const QDomElement& element,
+const OOTextStyle& TextStyling::styleOf(const xmlbounds::Element& element,
                                         const OOTextStyle& otherwise) const
 {
     const auto found = styles.constFind(element.attribute(u"text:style-name"_s));
     return found != styles.constEnd() ? *found : otherwise;
 }
 
-RichText toRichText(const QDomElement& shape, const TextStyling& styling)
+RichText toRichText(const xmlbounds::Element& shape, const TextStyling& styling)
 {
     HtmlWriter writer(styling);
-    for (QDomElement child = shape.firstChildElement(); !child.isNull();
+    for (xmlbounds::Element child = shape.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
         if (holdsText(child)) {
             writer.writeParagraph(child);
@@ -158,23 +146,11 @@ RichText toRichText(const QDomElement& shape, const TextStyling& styling)
     return writer.finished();
 }
 
-bool holdsText(const QDomElement& element)
+bool holdsText(const xmlbounds::Element& element)
 {
     const QString tag = element.tagName();
     return std::any_of(std::begin(TextTags), std::end(TextTags),
                        [&tag](QLatin1StringView name) { return tag == name; });
-}
-
-QString textOf(const QDomElement& element)
-{
-    QString text;
-    for (QDomNode node = nodeAfter(element, element); !node.isNull();
-         node = nodeAfter(node, element)) {
-        if (node.isText()) {
-            text += node.nodeValue();
-        }
-    }
-    return text;
 }
 
 } // namespace opendocument

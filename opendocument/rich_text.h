@@ -1,11 +1,10 @@
 #pragma once
 
 #include "opendocument/text_style.h"
+#include "xmlbounds/element_tree.h"
 
 #include <QMap>
 #include <QString>
-
-class QDomElement;
 
 namespace opendocument {
 
@@ -19,7 +18,7 @@ struct TextStyling
     double pointsPerPixel = 1.0;     ///< what font sizes in HTML are multiplied by
 
     /// The style that an element names, or another where it names none that is known.
-    [[nodiscard]] const OOTextStyle& styleOf(const QDomElement& element,
+    [[nodiscard]] const OOTextStyle& styleOf(const xmlbounds::Element& element,
                                              const OOTextStyle& otherwise) const;
 };
 
@@ -32,13 +31,9 @@ struct RichText
 };
 
 /// The paragraphs directly inside an element, as an HTML document of Qt's own kind.
-[[nodiscard]] RichText toRichText(const QDomElement& shape, const TextStyling& styling);
+[[nodiscard]] RichText toRichText(const xmlbounds::Element& shape, const TextStyling& styling);
 
 /// Whether an element's tag is one that holds text: a paragraph, heading, span, date or time.
-[[nodiscard]] bool holdsText(const QDomElement& element);
-
-/// All text inside an element, as QDomElement::text() gives it, but in linear time however
-/// deep it lies.
-[[nodiscard]] QString textOf(const QDomElement& element);
+[[nodiscard]] bool holdsText(const xmlbounds::Element& element);
 
 } // namespace opendocument

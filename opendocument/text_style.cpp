@@ -3,8 +3,6 @@
 #include "opendocument/limits.h"
 #include "opendocument/numbers.h"
 
-#include <QDomElement>
-
 #include <cmath>
 
 namespace opendocument {
@@ -35,7 +33,7 @@ Qt::Alignment alignmentOf(const QString& value)
 
 } // namespace
 
-void readTextProperties(const QDomElement& properties, IsValidFamily isValidFamily,
+void readTextProperties(const xmlbounds::Element& properties, IsValidFamily isValidFamily,
                         OOTextStyle& style)
 {
     const auto size = fontSizeOf(properties.attribute(u"fo:font-size"_s), style.fontSize);
@@ -58,7 +56,8 @@ void readTextProperties(const QDomElement& properties, IsValidFamily isValidFami
     }
 }
 
-void readParagraphProperties(const QDomElement& properties, double unitFactor, OOTextStyle& style)
+void readParagraphProperties(const xmlbounds::Element& properties, double unitFactor,
+                             OOTextStyle& style)
 {
     // The right margin counts only beside a left one: old labels depend on it.
     if (properties.hasAttribute(u"fo:margin-left"_s)) {

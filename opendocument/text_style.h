@@ -1,9 +1,9 @@
 #pragma once
 
+#include "xmlbounds/element_tree.h"
+
 #include <QString>
 #include <Qt>
-
-class QDomElement;
 
 namespace opendocument {
 
@@ -40,11 +40,12 @@ struct OOTextStyle
 using IsValidFamily = bool (*)(QString family);
 
 /// Reads a style:text-properties element; null reads nothing. Changes only what is given.
-void readTextProperties(const QDomElement& properties, IsValidFamily isValidFamily,
+void readTextProperties(const xmlbounds::Element& properties, IsValidFamily isValidFamily,
                         OOTextStyle& style);
 
 /// Reads a style:paragraph-properties element; null reads nothing. Changes only what is given.
 /// @param unitFactor points per unit of the document's lengths
-void readParagraphProperties(const QDomElement& properties, double unitFactor, OOTextStyle& style);
+void readParagraphProperties(const xmlbounds::Element& properties, double unitFactor,
+                             OOTextStyle& style);
 
 } // namespace opendocument

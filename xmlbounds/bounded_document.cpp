@@ -1,30 +1,17 @@
 #include "xmlbounds/bounded_document.h"
 
-#include "xmlbounds/markup_scanner.h"
-#include "xmlbounds/readings.h"
+#include "xmlbounds/bounds_check.h"
 
 #include <QDomDocument>
 
 namespace xmlbounds {
 
-namespace {
-
-ParseFailure failureAt(const QByteArray& utf8, const Excess& excess)
-{
-    const Place place = placeOf(utf8, excess.offset);
-    return {excess.message, place.line, place.column};
-}
-
-} // namespace
-
 std::optional<ParseFailure> parseDocument(const QByteArray& bytes, QDomDocument& document,
                                           qint64 treeBytes)
 {
     document = QDomDocument();
-    for (const QByteArray& utf8 : readingsOf(bytes)) {
-        if (const auto excess = findExcess(utf8, treeBytes)) {
-            return failureAt(utf8, *excess);
-        }
+    if (auto excess = exceededBound(bytes, treeBytes, DomCosts)) {
+        return excess;
     }
     ParseFailure failure;
     int line = 0;

@@ -11,12 +11,6 @@ namespace xmlbounds {
 
 namespace {
 
-// What the parts of a tree take in Qt 6.4, measured, in bytes.
-constexpr qint64 NodeBytes = 320;
-constexpr qint64 AttributeTableBytes = 1500;
-constexpr qint64 AttributeBytes = 500;
-constexpr qint64 CharacterBytes = 2;
-
 // The parser's own limit to what one entity expands to, in characters, and the most
 // elements that fit in there.
 constexpr qint64 EntityCharacters = 4096;
@@ -40,9 +34,10 @@ bool isPredefinedReference(QByteArrayView text)
 class Scanner
 {
 public:
-    Scanner(const QByteArray& utf8, qint64 treeBytes)
+    Scanner(const QByteArray& utf8, qint64 treeBytes, const TreeCosts& costs)
         : m_text(utf8)
         , m_treeBytes(treeBytes)
+        , m_costs(costs)
     {}
 
     std::optional<Excess> run();
@@ -64,6 +59,7 @@ private:
 
     QByteArrayView m_text;
     qint64 m_treeBytes;
+    TreeCosts m_costs;
     qsizetype m_at = 0;
     qsizetype m_markupStart = 0;
     qint64 m_depth = 0;
@@ -114,7 +110,7 @@ void Scanner::readText()
     const QByteArrayView text = m_text.sliced(start, m_at - start);
     // White space between elements does not come into the tree.
     if (!std::all_of(text.begin(), text.end(), isBlank)) {
-        m_estimate += NodeBytes + CharacterBytes * text.size();
+        m_estimate += m_costs.node + m_costs.character * text.size();
     }
     countReferences(text);
 }
@@ -123,13 +119,16 @@ void Scanner::readMarkup()
 {
     m_markupStart = m_at;
     if (at("<!--")) {
-        m_estimate += NodeBytes + CharacterBytes * (moveBehind("-->", m_at + 4) - m_markupStart);
+        m_estimate +=
+            m_costs.node + m_costs.character * (moveBehind("-->", m_at + 4) - m_markupStart);
     } else if (at("<![CDATA[")) {
-        m_estimate += NodeBytes + CharacterBytes * (moveBehind("]]>", m_at + 9) - m_markupStart);
+        m_estimate +=
+            m_costs.node + m_costs.character * (moveBehind("]]>", m_at + 9) - m_markupStart);
     } else if (at("<!")) {
         readDoctype();
     } else if (at("<?")) {
-        m_estimate += NodeBytes + CharacterBytes * (moveBehind("?>", m_at + 2) - m_markupStart);
+        m_estimate +=
+            m_costs.node + m_costs.character * (moveBehind("?>", m_at + 2) - m_markupStart);
     } else if (at("</")) {
         moveBehind(">", m_at + 2);
         --m_depth;
@@ -157,7 +156,7 @@ void Scanner::readStartTag()
         if (c == '"' || c == '\'') {
             const qsizetype start = m_at + 1;
             const qsizetype length = skipQuoted();
-            m_estimate += CharacterBytes * length;
+            m_estimate += m_costs.character * length;
             countReferences(m_text.sliced(std::min(start, m_text.size()), length));
         } else {
             ++m_at;
@@ -174,7 +173,7 @@ void Scanner::readStartTag()
 void Scanner::countElement(qint64 attributes)
 {
     const qint64 all = attributes + m_defaultAttributes;
-    m_estimate += NodeBytes + (all > 0 ? AttributeTableBytes : 0) + AttributeBytes * all;
+    m_estimate += m_costs.node + (all > 0 ? m_costs.attributeTable : 0) + m_costs.attribute * all;
 }
 
 // Only a document type can declare entities, so other documents have none to expand.
@@ -188,10 +187,10 @@ void Scanner::countReferences(QByteArrayView text)
         if (isPredefinedReference(text.sliced(i + 1))) {
             continue;
         }
-        m_estimate += NodeBytes + CharacterBytes * m_entityCharacters;
+        m_estimate += m_costs.node + m_costs.character * m_entityCharacters;
         if (m_entitiesHoldMarkup) {
             const qint64 attributes = 1 + m_defaultAttributes;
-            m_estimate += EntityElements * (NodeBytes + AttributeBytes * attributes);
+            m_estimate += EntityElements * (m_costs.node + m_costs.attribute * attributes);
         }
     }
 }
@@ -219,7 +218,7 @@ void Scanner::readSubsetPart(QByteArrayView& quoted)
         const qsizetype start = std::min(m_at + 1, m_text.size());
         quoted = m_text.sliced(start, skipQuoted());
     } else {
-        m_estimate += at("<!") ? NodeBytes : 0;
+        m_estimate += at("<!") ? m_costs.node : 0;
         ++m_at;
     }
 }
@@ -247,16 +246,16 @@ void Scanner::readDoctype()
         const bool mayDefault = text.contains('%') || text.indexOf("<!ATTLIST") >= 0;
         m_defaultAttributes =
             mayDefault ? std::min(m_treeBytes, expanded / AttributeDefaultCharacters) : 0;
-        m_estimate += expanded * CharacterBytes;
+        m_estimate += expanded * m_costs.character;
     }
     moveBehind(">", m_at);
 }
 
 } // namespace
 
-std::optional<Excess> findExcess(const QByteArray& utf8, qint64 treeBytes)
+std::optional<Excess> findExcess(const QByteArray& utf8, qint64 treeBytes, const TreeCosts& costs)
 {
-    return Scanner(utf8, treeBytes).run();
+    return Scanner(utf8, treeBytes, costs).run();
 }
 
 Place placeOf(const QByteArray& utf8, qsizetype offset)

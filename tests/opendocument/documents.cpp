@@ -3,18 +3,18 @@
 #include <QBuffer>
 #include <QFile>
 
+#include <list>
+
 #include <gtest/gtest.h>
 
 #include <private/qzipwriter_p.h>
 
-QDomElement elementOf(const QByteArray& xml)
+xmlbounds::Element elementOf(const QByteArray& xml)
 {
     // An element is only whole as long as its document is.
-    static QList<QDomDocument> documents;
-    QDomDocument document;
-    EXPECT_TRUE(document.setContent(xml)) << xml.toStdString();
-    documents.append(document);
-    return document.documentElement();
+    static std::list<xmlbounds::ElementTree> documents;
+    EXPECT_FALSE(documents.emplace_back().parse(xml)) << xml.toStdString();
+    return documents.back().documentElement();
 }
 
 QByteArray stylesXml(const QByteArray& pageAttributes, const QByteArray& styles)

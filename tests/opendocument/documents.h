@@ -1,7 +1,8 @@
 #pragma once
 
+#include "xmlbounds/element_tree.h"
+
 #include <QByteArray>
-#include <QDomDocument>
 #include <QMap>
 #include <QString>
 #include <QTemporaryDir>
@@ -9,7 +10,7 @@
 /// Builds OpenDocument packages and their parts for tests.
 
 /// The root element of a fragment of XML. Prefixes need no declaration.
-[[nodiscard]] QDomElement elementOf(const QByteArray& xml);
+[[nodiscard]] xmlbounds::Element elementOf(const QByteArray& xml);
 
 /// A styles document.
 /// @param pageAttributes attributes of the page layout, empty for an inch document of

@@ -177,12 +177,3 @@ TEST(RichText, CountsItsCharacters)
 {
     EXPECT_EQ(richText("<text:p>ab&amp;<text:span>cd</text:span></text:p>").length, 5);
 }
-
-TEST(TextOf, GathersTextInOrderAndLeavesTheRest)
-{
-    EXPECT_EQ(textOf(elementOf("<a>1<b>2<c/>3</b><!-- x --><![CDATA[4]]><d><e>5</e></d>6</a>")),
-              u"123456"_s);
-    EXPECT_EQ(textOf(elementOf("<r><a>1</a><b>2</b></r>").firstChildElement()), u"1"_s)
-        << "nothing of what follows";
-    EXPECT_EQ(textOf(elementOf("<a/>")), QString());
-}
