@@ -1,0 +1,102 @@
+#include "migration/file_report.h"
+
+#include "migration/losses/loss_kinds.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace migration {
+
+namespace {
+
+struct StatusRow
+{
+    Status status;
+    QLatin1String name;
+};
+
+constexpr std::array kStatuses{
+    StatusRow{Status::Imported, QLatin1String("imported")},
+    StatusRow{Status::Failed, QLatin1String("failed")},
+    StatusRow{Status::Crashed, QLatin1String("crashed")},
+    StatusRow{Status::TimedOut, QLatin1String("timed-out")},
+    StatusRow{Status::OutOfMemory, QLatin1String("out-of-memory")},
+};
+
+bool harmsContent(const Finding& finding)
+{
+    const LossRow* row = lossRowOf(finding.code);
+    // A code of a newer program: better a warning too many.
+    return row == nullptr || row->harm == Harm::Content;
+}
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("migration::Summary", text);
+}
+
+QString countSentence(const FileReport& report)
+{
+    if (!report.objectsInFile) {
+        return tr("%1 objects came over; how many the file holds is not known.")
+            .arg(report.objectsImported);
+    }
+    return tr("%1 of %2 objects came over.").arg(report.objectsImported).arg(*report.objectsInFile);
+}
+
+} // namespace
+
+QString statusName(Status status)
+{
+    const auto* found =
+        std::find_if(kStatuses.begin(), kStatuses.end(),
+                     [status](const StatusRow& row) { return row.status == status; });
+    return found != kStatuses.end() ? QString(found->name) : QStringLiteral("failed");
+}
+
+std::optional<Status> statusOfName(const QString& name)
+{
+    const auto* found = std::find_if(kStatuses.begin(), kStatuses.end(),
+                                     [&name](const StatusRow& row) { return row.name == name; });
+    return found != kStatuses.end() ? std::optional(found->status) : std::nullopt;
+}
+
+bool hasLoss(const FileReport& report)
+{
+    return report.status != Status::Imported ||
+           std::any_of(report.lost.begin(), report.lost.end(), harmsContent) ||
+           std::any_of(report.changed.begin(), report.changed.end(), harmsContent);
+}
+
+bool isWhole(const FileReport& report)
+{
+    return report.status == Status::Imported && report.objectsInFile.has_value() &&
+           report.lost.isEmpty() && report.changed.isEmpty();
+}
+
+qint64 objectsLost(const FileReport& report)
+{
+    return report.objectsInFile
+               ? std::max<qint64>(0, *report.objectsInFile - report.objectsImported)
+               : 0;
+}
+
+QString summaryOf(const FileReport& report)
+{
+    if (report.status != Status::Imported) {
+        return tr("Not imported: %1").arg(report.error);
+    }
+    if (isWhole(report)) {
+        return countSentence(report) + QLatin1Char(' ') +
+               tr("Nothing was lost and nothing was changed.");
+    }
+    if (report.lost.isEmpty()) {
+        return countSentence(report) + QLatin1Char(' ') +
+               tr("Nothing was lost; something was changed.");
+    }
+    return countSentence(report);
+}
+
+} // namespace migration

@@ -1,0 +1,139 @@
+#include "migration/losses/label_facts.h"
+
+#include "migration/kind_names.h"
+#include "workbench/import/label_import.h"
+#include "workbench/rendering/page_image.h"
+
+#include <QBuffer>
+#include <QMap>
+#include <QTextDocumentFragment>
+
+#include <algorithm>
+#include <cmath>
+
+namespace migration {
+
+namespace {
+
+constexpr double kMillimetresPerPoint = 25.4 / 72.0;
+constexpr int kThumbnailSide = 160;
+// Above this a thumbnail is painted with fewer colours.
+constexpr qsizetype kThumbnailBytes = 6 * 1024;
+// Longest content of an item that a report takes over.
+constexpr qsizetype kContentLength = 2'000;
+// What a source's property with the name of a file is called.
+constexpr QLatin1String kFileProperty("File");
+
+double toMillimetres(double points)
+{
+    // Micrometres are fine enough, and the same on every machine.
+    return std::round(points * kMillimetresPerPoint * 1000.0) / 1000.0;
+}
+
+QList<KindCount> kindsOf(const workbench::Canvas& canvas)
+{
+    QMap<QString, qint64> counts;
+    for (const workbench::CanvasItem* item : canvas.items()) {
+        ++counts[kindName(item->shapeType())];
+    }
+    QList<KindCount> kinds;
+    for (auto count = counts.begin(); count != counts.end(); ++count) {
+        kinds.append({count.key(), count.value()});
+    }
+    return kinds;
+}
+
+QList<SourceReport> sourcesOf(const workbench::datasources::DatasourceController& controller)
+{
+    QList<SourceReport> sources;
+    for (const workbench::datasources::SourceValues& values : controller.values()) {
+        sources.append({values.id, values.kind, values.selectedFields,
+                        values.properties.value(kFileProperty).toString()});
+    }
+    return sources;
+}
+
+QString contentOf(const workbench::ItemValues& values)
+{
+    if (values.barcode) {
+        return values.barcode->content.left(kContentLength);
+    }
+    if (!values.text) {
+        return {};
+    }
+    const QString text = values.text->html.isEmpty()
+                             ? values.text->text
+                             : QTextDocumentFragment::fromHtml(values.text->html).toPlainText();
+    return text.left(kContentLength);
+}
+
+QSizeF sizeOf(const workbench::ItemValues& values)
+{
+    return values.line ? QSizeF(values.line->end.x(), values.line->end.y()) : values.box.size;
+}
+
+ItemReport itemReportOf(const workbench::ItemValues& values)
+{
+    const QSizeF size = sizeOf(values);
+    return {kindName(values.type),
+            toMillimetres(values.placement.position.x()),
+            toMillimetres(values.placement.position.y()),
+            toMillimetres(size.width()),
+            toMillimetres(size.height()),
+            contentOf(values),
+            values.datasource ? values.datasource->id : -1};
+}
+
+QByteArray pngOf(const QImage& image)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    constexpr int best = 0; // of Qt's scale for PNG: the smallest file
+    return image.save(&buffer, "PNG", best) ? bytes : QByteArray();
+}
+
+} // namespace
+
+void describeLabel(const workbench::ImportResult& result, FileReport& report)
+{
+    const QSizeF page = result.canvas->page().size;
+    report.pageWidth = toMillimetres(page.width());
+    report.pageHeight = toMillimetres(page.height());
+    report.items = kindsOf(*result.canvas);
+    if (result.datasources) {
+        report.datasources = sourcesOf(*result.datasources);
+    }
+    for (const workbench::ImportIssue& issue : result.issues) {
+        report.issues.append({issue.text, issue.item, issue.repeats});
+    }
+}
+
+QList<ItemReport> itemListOf(const workbench::Canvas& canvas)
+{
+    QList<ItemReport> items;
+    for (const workbench::CanvasItem* item : canvas.items()) {
+        items.append(itemReportOf(item->values()));
+    }
+    return items;
+}
+
+QByteArray thumbnailOf(const workbench::Canvas& canvas)
+{
+    const QSizeF page = canvas.page().size;
+    const double longest = std::max({page.width(), page.height(), 1.0});
+    // Painted at twice the size and made smaller, hair lines stay visible.
+    const double dpi = 72.0 * 2.0 * kThumbnailSide / longest;
+    const workbench::PageImage painted = workbench::renderPage(canvas, dpi);
+    if (painted.image.isNull()) {
+        return {};
+    }
+    const QImage image =
+        painted.image
+            .scaled(kThumbnailSide, kThumbnailSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_RGB32);
+    const QByteArray png = pngOf(image);
+    return png.size() <= kThumbnailBytes ? png
+                                         : pngOf(image.convertToFormat(QImage::Format_Indexed8));
+}
+
+} // namespace migration

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "migration/file_report.h"
+#include "workbench/items/item_values.h"
+
+namespace workbench {
+class Canvas;
+struct ImportResult;
+} // namespace workbench
+
+namespace migration {
+
+/// Fills what the label itself tells: page, items by kind, data sources, issues.
+void describeLabel(const workbench::ImportResult& result, FileReport& report);
+
+/// Every item, one by one.
+[[nodiscard]] QList<ItemReport> itemListOf(const workbench::Canvas& canvas);
+
+/// A small picture of the label as PNG, at most 160 pixels a side and a few kilobytes.
+/// Empty when it cannot be painted.
+[[nodiscard]] QByteArray thumbnailOf(const workbench::Canvas& canvas);
+
+} // namespace migration
