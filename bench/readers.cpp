@@ -1,0 +1,196 @@
+// Each reader into a host that does nothing, beside its floor on the same file.
+//
+// bench_readers [LARGEST SIZE]             measures and prints the table
+// bench_readers --peak import|floor FILE   prints the bytes by which that raises the peak
+
+#include "bench/floors.h"
+#include "bench/labels.h"
+#include "bench/measuring.h"
+#include "bench/table.h"
+
+#include "opendocument/open_office_reader.h"
+#include "orvanta/legacy_orvanta.h"
+#include "tavrel/legacy_tavrel.h"
+#include "tests/support/silent_host/silent_host.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Repetitions = 7;
+// So much is done in one repetition that its time can be told.
+constexpr int ItemsPerRepetition = 10'000;
+
+template <class Reader>
+void import(const QString& path, silent::Canvas& canvas)
+{
+    silent::Datasources datasources;
+    Reader reader(&canvas, &datasources);
+    if (!reader.importLabelFromFile(path)) {
+        qFatal("%s cannot be imported", qPrintable(path));
+    }
+}
+
+struct Format
+{
+    QString name;
+    QString suffix;
+    std::function<QByteArray(int)> label;
+    void (*import)(const QString&, silent::Canvas&);
+    void (*floor)(const QString&);
+};
+
+const QList<Format>& formats()
+{
+    static const QList<Format> all = {
+        {u"binary"_s, u"cnv"_s, &bench::canvasFile, &import <LegacyTavrel>, &bench::walkCanvasFile},
+        {u"XML"_s, u"qmtx"_s, &bench::xmlLabel, &import <LegacyOrvanta>, &bench::parseXmlLabel},
+        {u"OpenDocument"_s, u"odg"_s,
+         [](int shapes) { return bench::drawing(shapes, bench::Texts::None); },
+         &import <OpenOfficeReader>, &bench::parseDrawing},
+        {u"OpenDocument with texts"_s, u"text.odg"_s,
+         [](int shapes) { return bench::drawing(shapes, bench::Texts::Some); },
+         &import <OpenOfficeReader>, &bench::parseDrawing},
+    };
+    return all;
+}
+
+QString benchmarkName(const Format& format, int size)
+{
+    return format.name + u'/' + QString::number(size);
+}
+
+// One pair after the other, so that whatever slows the machine down slows both.
+void measurePairs(benchmark::State& state, const Format& format, const QString& path)
+{
+    double floor = 0.0;
+    double import = 0.0;
+    for (auto iteration : state) {
+        (void)iteration;
+        floor += bench::secondsOf([&] { format.floor(path); });
+        // What the host makes of the items is the host's, their end included.
+        silent::Canvas canvas;
+        import += bench::secondsOf([&] { format.import(path, canvas);
+    });
+}
+const auto times = static_cast<double>(state.iterations());
+state.counters["floor"] = floor / times;
+state.counters["import"] = import / times;
+state.counters["ratio"] = import / floor;
+} // namespace
+
+QString write(const QTemporaryDir& folder, const Format& format, int size)
+{
+    const QString path = folder.filePath(QString::number(size) + u'.' + format.suffix);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(format.label(size)) < 0) {
+        qFatal("%s cannot be written", qPrintable(path));
+    }
+    return path;
+}
+
+QString milliseconds(double seconds)
+{
+    return QString::number(seconds * 1000, 'f', seconds < 0.1 ? 2 : 0);
+}
+
+QString megabytes(qint64 bytes)
+{
+    return QString::number(static_cast<double>(bytes) / (1 << 20), 'f', 1);
+}
+
+QStringList row(const Format& format, int size, const QString& path, const bench::Samples& samples)
+{
+    const QString name = benchmarkName(format, size);
+    const QList<double> ratios = samples.of(name, u"ratio"_s);
+    return {format.name,
+            QString::number(size),
+            milliseconds(bench::median(samples.of(name, u"import"_s))),
+            milliseconds(bench::median(samples.of(name, u"floor"_s))),
+            QString::number(bench::median(ratios), 'f', 2),
+            bench::spread(ratios, 2),
+            megabytes(bench::childPeak({u"--peak"_s, u"import"_s, path})),
+            megabytes(bench::childPeak({u"--peak"_s, u"floor"_s, path}))};
+}
+
+// How the time grows from one size to the next, which is ten times as large.
+QString growth(const Format& format, int size, const bench::Samples& samples)
+{
+    const double before = bench::median(samples.of(benchmarkName(format, size / 10), u"import"_s));
+    const double now = bench::median(samples.of(benchmarkName(format, size), u"import"_s));
+    return before > 0.0 && size > 1000 ? QString::number(now / before, 'f', 1) : QString();
+}
+
+int measure(const QList<int>& sizes)
+{
+    const QTemporaryDir folder;
+    QHash<QString, QString> paths;
+    for (const Format& format : formats()) {
+        for (const int size : sizes) {
+            const QString name = benchmarkName(format, size);
+            const QString path = write(folder, format, size);
+            paths.insert(name, path);
+            benchmark::RegisterBenchmark(
+                name.toStdString().c_str(),
+                [&format, path](benchmark::State& state) { measurePairs(state, format, path); })
+                ->Iterations(std::max(1, ItemsPerRepetition / size))
+                ->Repetitions(Repetitions);
+        }
+    }
+    bench::Samples samples;
+    benchmark::RunSpecifiedBenchmarks(&samples);
+    QList<QStringList> rows = {{u"reader"_s, u"items"_s, u"import ms"_s, u"floor ms"_s, u"ratio"_s,
+                                u"spread"_s, u"import MB"_s, u"floor MB"_s, u"growth"_s}};
+    for (const Format& format : formats()) {
+        for (const int size : sizes) {
+            rows.append(row(format, size, paths.value(benchmarkName(format, size)), samples));
+            rows.last().append(growth(format, size, samples));
+        }
+    }
+    bench::printTable(rows);
+    return 0;
+}
+
+int printPeak(const QString& what, const QString& path)
+{
+    const Format* format = nullptr;
+    for (const Format& known : formats()) {
+        format = path.endsWith(u'.' + known.suffix) ? &known : format;
+    }
+    silent::Canvas canvas;
+    const qint64 bytes = bench::peakOf([&] {
+        if (what == u"import"_s) {
+            format->import(path, canvas);
+        } else {
+            format->floor(path);
+        }
+    });
+    std::printf("%lld\n", static_cast<long long>(bytes));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(u"*=false"_s);
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--peak"_s && arguments.size() == 4) {
+        return printPeak(arguments[2], arguments[3]);
+    }
+    QList<int> sizes = {100, 10'000, 100'000};
+    const int largest = arguments.value(1, u"100000"_s).toInt();
+    sizes.removeIf([largest](int size) { return size > largest; });
+    return measure(sizes);
+}
