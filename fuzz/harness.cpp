@@ -1,6 +1,7 @@
 #include "fuzz/harness.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QLoggingCategory>
 
 #include <cstdint>
@@ -43,5 +44,8 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     fuzzOneInput(QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)));
+    // What an event loop would do: without it, events of every input so far would pile up.
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return 0;
 }

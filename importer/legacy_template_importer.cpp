@@ -8,10 +8,35 @@
 #include "orvanta/legacy_orvanta.h"
 #include "tavrel/legacy_tavrel.h"
 
+#include <Logger.h>
+
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSettings>
+
+/// Says that an import runs, while it lives. The importer may go before it does.
+class LegacyTemplateImporter::RunningImport
+{
+public:
+    explicit RunningImport(LegacyTemplateImporter& importer)
+        : m_importer(&importer)
+    {
+        importer.m_isImporting = true;
+    }
+    ~RunningImport()
+    {
+        if (m_importer) {
+            m_importer->m_isImporting = false;
+        }
+    }
+    RunningImport(const RunningImport&) = delete;
+    RunningImport& operator=(const RunningImport&) = delete;
+
+private:
+    QPointer<LegacyTemplateImporter> m_importer;
+};
 
 LegacyTemplateImporter::LegacyTemplateImporter(TalCanvasModel* canvasModel,
                                                FileController* fileController,
@@ -32,7 +57,8 @@ LegacyTemplateImporter::~LegacyTemplateImporter()
 
 void LegacyTemplateImporter::importLegacyLabel(const QString& currentFileName)
 {
-    if (!m_fileController->checkSaveChanges(m_canvasModel, currentFileName, true)) {
+    if (isBusy(Q_FUNC_INFO) ||
+        !m_fileController->checkSaveChanges(m_canvasModel, currentFileName, true)) {
         return;
     }
     const QString fileName = chooseFile();
@@ -43,7 +69,8 @@ void LegacyTemplateImporter::importLegacyLabel(const QString& currentFileName)
     // leaves no old type behind either.
     m_fileController->emitLabelTypeLoadedSignal(QString());
     rememberFolderOf(fileName);
-    if (importByName(fileName)) {
+    const QPointer<LegacyTemplateImporter> self(this);
+    if (importByName(fileName) && self) {
         // Only the last suffix goes here, although the reader was chosen by all of them:
         // users find their old labels under these names.
         m_fileController->saveImportedLabelAs(m_importFolder,
@@ -53,6 +80,10 @@ void LegacyTemplateImporter::importLegacyLabel(const QString& currentFileName)
 
 bool LegacyTemplateImporter::importLabelFromTavrelFile(const QString& fileName)
 {
+    if (isBusy(Q_FUNC_INFO)) {
+        return false;
+    }
+    const RunningImport running(*this);
     if (!m_tavrelReader) {
         m_tavrelReader = std::make_unique<LegacyTavrel>(m_canvasModel, m_datasourceController);
         connect(m_tavrelReader.get(), SIGNAL(popupShowSignal(QWidget*)), this,
@@ -64,6 +95,10 @@ bool LegacyTemplateImporter::importLabelFromTavrelFile(const QString& fileName)
 
 bool LegacyTemplateImporter::importLabelFromOrvantaFile(const QString& fileName)
 {
+    if (isBusy(Q_FUNC_INFO)) {
+        return false;
+    }
+    const RunningImport running(*this);
     if (!m_orvantaReader) {
         m_orvantaReader = std::make_unique<LegacyOrvanta>(m_canvasModel, m_datasourceController);
     }
@@ -72,6 +107,10 @@ bool LegacyTemplateImporter::importLabelFromOrvantaFile(const QString& fileName)
 
 bool LegacyTemplateImporter::importLabelFromOpenOfficeFile(const QString& fileName)
 {
+    if (isBusy(Q_FUNC_INFO)) {
+        return false;
+    }
+    const RunningImport running(*this);
     if (!m_openOfficeReader) {
         m_openOfficeReader =
             std::make_unique<OpenOfficeReader>(m_canvasModel, m_datasourceController);
@@ -95,6 +134,18 @@ void LegacyTemplateImporter::rememberFolderOf(const QString& fileName)
     m_importFolder = QFileInfo(fileName).dir().absolutePath();
     QSettings settings;
     settings.setValue(QStringLiteral("dir/import"), m_importFolder);
+}
+
+// Readers keep what they know of the present file, and the canvas is half filled: a second
+// import in the middle would spoil both.
+bool LegacyTemplateImporter::isBusy(const char* function) const
+{
+    if (m_isImporting) {
+        CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_template_importer.cpp", __LINE__,
+                          function)
+            .write("An import is asked for while another one runs; it is refused");
+    }
+    return m_isImporting;
 }
 
 bool LegacyTemplateImporter::importByName(const QString& fileName)

@@ -17,9 +17,11 @@ class TalCanvasModel;
 
 /// Imports labels of older programs into the host's canvas.
 ///
-/// A host makes one importer for a canvas and keeps it. Everything happens on the thread
-/// that calls, which must be the one of the user interface. Readers are made when their
-/// format is first met and live as long as the importer.
+/// A host makes one importer for a canvas and keeps it. One import runs at a time: a call that
+/// comes out of a running one, by way of the host, is logged and returns false at once.
+/// The importer may be deleted by who receives its signals; the import then ends. Everything
+/// happens on the thread that calls, which must be the one of the user interface. Readers are made
+/// when their format is first met and live as long as the importer.
 class LABELPORT_EXPORT LegacyTemplateImporter : public QObject
 {
     Q_OBJECT
@@ -61,6 +63,7 @@ private:
     [[nodiscard]] QString chooseFile();
     void rememberFolderOf(const QString& fileName);
     [[nodiscard]] bool importByName(const QString& fileName);
+    [[nodiscard]] bool isBusy(const char* function) const;
 
     std::unique_ptr<LegacyOrvanta> m_orvantaReader;
     std::unique_ptr<LegacyTavrel> m_tavrelReader;
@@ -69,4 +72,7 @@ private:
     FileController* m_fileController = nullptr;
     DatasourceController* m_datasourceController = nullptr;
     QString m_importFolder;
+    bool m_isImporting = false;
+
+    class RunningImport;
 };

@@ -13,6 +13,11 @@
 #include "host/items/rounded_rectangle_item.h"
 #include "host/items/symbol_item.h"
 
+#include "host/tal_canvas_model.h"
+
+#include <QObject>
+#include <QPointer>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -114,6 +119,20 @@ template NewItem<LineItem> makeItem(ClassFactory*, KestTypes::ShapeType);
 template NewItem<RichTextItem> makeItem(ClassFactory*, KestTypes::ShapeType);
 template NewItem<PixMapItem> makeItem(ClassFactory*, KestTypes::ShapeType);
 template NewItem<SymbolItem> makeItem(ClassFactory*, KestTypes::ShapeType);
+
+bool handOver(TalCanvasModel& canvas, std::unique_ptr<Item> item)
+{
+    // Every item of the contract is a QObject, which tells of its end.
+    const QPointer<QObject> alive(dynamic_cast<QObject*>(item.get()));
+    const bool tells = !alive.isNull();
+    canvas.importItem(item.release());
+    const bool isKept = !tells || !alive.isNull();
+    if (!isKept) {
+        logDebug(__LINE__, Q_FUNC_INFO,
+                 u"The host deleted an item when it got it; it is left out"_s);
+    }
+    return isKept;
+}
 
 NewShape makeShape(ClassFactory* factory, KestTypes::ShapeType type)
 {

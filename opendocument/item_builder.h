@@ -15,6 +15,7 @@ class IRoundRectItem;
 class Item;
 class PenItem;
 class QGraphicsItem;
+class TalCanvasModel;
 
 namespace opendocument {
 
@@ -33,6 +34,11 @@ struct NewItem
 /// Makes an item. Empty, and a record in the log, where the factory gives none of the class.
 template <class Wanted>
 [[nodiscard]] NewItem<Wanted> makeItem(ClassFactory* factory, KestTypes::ShapeType type);
+
+/// Gives an item to the canvas, which owns it from then on.
+/// @return whether the item is still there; false, and a record in the log, when the canvas
+///         did not want it and has deleted it
+[[nodiscard]] bool handOver(TalCanvasModel& canvas, std::unique_ptr<Item> item);
 
 /// A new shape with outline and inside: rectangle, ellipse, pie or polygon.
 struct NewShape

@@ -66,7 +66,9 @@ bool OpenOfficeReader::readTextBox(const xmlbounds::Element& frame, OOGraphicSty
     if (geometry.hasZ()) {
         shape.graphics->setZValue(geometry.z);
     }
-    m_canvasModel->importItem(shape.owned.release());
+    if (!handOver(*m_canvasModel, std::move(shape.owned))) {
+        return false;
+    }
     if (!geometry.hasZ()) {
         geometry.z = shape.graphics->zValue();
     }
@@ -161,8 +163,8 @@ void OpenOfficeReader::placeImage(std::unique_ptr<Item> owned, QGraphicsItem& gr
     if (geometry.hasRotation()) {
         owned->setItemRotation(geometry.rotation);
     }
-    m_canvasModel->importItem(owned.release());
-    if (!geometry.hasZ()) {
+    const bool isKept = handOver(*m_canvasModel, std::move(owned));
+    if (isKept && !geometry.hasZ()) {
         geometry.z = graphics.zValue();
     }
 }

@@ -75,7 +75,9 @@ void OpenOfficeReader::readLine(const xmlbounds::Element& element)
     if (geometry.hasZ()) {
         line->setZValue(geometry.z);
     }
-    m_canvasModel->importItem(line.owned.release());
+    if (!handOver(*m_canvasModel, std::move(line.owned))) {
+        return;
+    }
 
     const LineEnds ends = readLineEnds(element, m_unitFactor);
     line->setLineStartPoint(ends.start);
@@ -141,7 +143,9 @@ void OpenOfficeReader::placeShape(const xmlbounds::Element& element, NewShape sh
     if (geometry.hasZ()) {
         shape.graphics->setZValue(geometry.z);
     }
-    m_canvasModel->importItem(shape.owned.release());
+    if (!handOver(*m_canvasModel, std::move(shape.owned))) {
+        return;
+    }
     if (!geometry.hasZ()) {
         geometry.z = shape.graphics->zValue();
     }

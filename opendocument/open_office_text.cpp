@@ -98,7 +98,9 @@ QSizeF OpenOfficeReader::placeTextRun(const QString& text, const OOTextStyle& st
         return {0, 0};
     }
     run->setZValue(z);
-    m_canvasModel->importItem(run.owned.release());
+    if (!handOver(*m_canvasModel, std::move(run.owned))) {
+        return {0, 0};
+    }
     run->setText(text);
     run->setFontFamily(style.fontFamily);
     run->setFontBold(style.bold);
@@ -130,9 +132,9 @@ void OpenOfficeReader::buildRichText(const xmlbounds::Element& shape, const Geom
         item->setZValue(geometry.z + AboveShape);
     }
     setPosition(*item.item, geometry.position);
-    m_canvasModel->importItem(item.owned.release());
+    const bool isKept = handOver(*m_canvasModel, std::move(item.owned));
     // The text lies on its shape, turned as that is.
-    if (geometry.hasRotation()) {
+    if (isKept && geometry.hasRotation()) {
         item->setItemRotation(geometry.rotation);
     }
 }

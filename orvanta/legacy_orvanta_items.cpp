@@ -9,6 +9,8 @@
 #include "orvanta/font.h"
 #include "orvanta/shape_choice.h"
 
+#include <utility>
+
 using orvanta::ControlProperties;
 
 namespace {
@@ -35,12 +37,16 @@ TextItem* LegacyOrvanta::buildText(bool scalable, const ControlProperties& prope
 {
     const auto type = scalable ? KestTypes::SimpleText : KestTypes::RichText;
     static_assert(KestTypes::RichText - 1 == KestTypes::SimpleText);
-    TextItem* item = orvanta::createdItem<TextItem>(*m_classFactory, type).release();
-    if (item == nullptr) {
+    auto created = orvanta::createdItem<TextItem>(m_classFactory, type);
+    if (!created) {
         logRefusal(QStringLiteral("a text, for which the host made no item"));
         return nullptr;
     }
-    m_canvasModel->importItem(item);
+    TextItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    if (item == nullptr) {
+        logRefusal(QStringLiteral("a text, which the host deleted when it got it"));
+        return nullptr;
+    }
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
     item->setPenColor(colors.pen);
     item->setFillColor(colors.fill);
@@ -60,14 +66,17 @@ FillableItem* LegacyOrvanta::buildShape(int shapeIndex, quint16 lineWidth, int s
                                         const ControlProperties& properties)
 {
     const orvanta::ShapeChoice choice = orvanta::chooseShape(sides, shapeIndex);
-    auto created = orvanta::createdItem<FillableItem>(*m_classFactory, choice.type);
+    auto created = orvanta::createdItem<FillableItem>(m_classFactory, choice.type);
     auto* graphics = dynamic_cast<QGraphicsItem*>(created.get());
     if (graphics == nullptr) {
         logRefusal(QStringLiteral("a shape, for which the host made no item"));
         return nullptr;
     }
-    FillableItem* item = created.release();
-    m_canvasModel->importItem(item);
+    FillableItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    if (item == nullptr) {
+        logRefusal(QStringLiteral("a shape, which the host deleted when it got it"));
+        return nullptr;
+    }
     ControlProperties turned = properties;
     turned.rotation += choice.turn;
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
@@ -81,13 +90,16 @@ FillableItem* LegacyOrvanta::buildShape(int shapeIndex, quint16 lineWidth, int s
 
 BarcodeItem* LegacyOrvanta::buildBarcode(int hostType, const ControlProperties& properties)
 {
-    BarcodeItem* item =
-        orvanta::createdItem<BarcodeItem>(*m_classFactory, KestTypes::Barcode).release();
-    if (item == nullptr) {
+    auto created = orvanta::createdItem<BarcodeItem>(m_classFactory, KestTypes::Barcode);
+    if (!created) {
         logRefusal(QStringLiteral("a barcode, for which the host made no item"));
         return nullptr;
     }
-    m_canvasModel->importItem(item);
+    BarcodeItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    if (item == nullptr) {
+        logRefusal(QStringLiteral("a barcode, which the host deleted when it got it"));
+        return nullptr;
+    }
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
     item->setBackgroundColor(colors.fill);
     item->setForegroundColor(colors.pen);

@@ -11,6 +11,8 @@
 
 #include <QPixmap>
 
+#include <utility>
+
 using orvanta::ControlProperties;
 
 namespace {
@@ -51,7 +53,7 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
         return nullptr;
     }
     const QByteArray symbol = m_symbolCreator->getSymbolData();
-    auto created = orvanta::createdItem<SymbolItem>(*m_classFactory, KestTypes::Symbol);
+    auto created = orvanta::createdItem<SymbolItem>(m_classFactory, KestTypes::Symbol);
     if (!created) {
         logRefusal(QStringLiteral("a symbol, for which the host made no item"));
         return nullptr;
@@ -63,8 +65,11 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
     created->setForegroundColor(colors.pen);
     created->setFillColor(colors.fill);
-    SymbolItem* item = created.release();
-    m_canvasModel->importItem(item);
+    SymbolItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    if (item == nullptr) {
+        logRefusal(QStringLiteral("a symbol, which the host deleted when it got it"));
+        return nullptr;
+    }
     applyPlace(*item, *item, properties);
     return item;
 }
@@ -72,7 +77,7 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
 QGraphicsItem* LegacyOrvanta::buildPixmap(const ControlProperties& properties,
                                           const QByteArray& bytes)
 {
-    auto created = orvanta::createdItem<PixMapItem>(*m_classFactory, KestTypes::Picture);
+    auto created = orvanta::createdItem<PixMapItem>(m_classFactory, KestTypes::Picture);
     if (!created) {
         logRefusal(QStringLiteral("a picture, for which the host made no item"));
         return nullptr;
@@ -84,8 +89,11 @@ QGraphicsItem* LegacyOrvanta::buildPixmap(const ControlProperties& properties,
     m_pixelsLeft -= orvanta::pixelCount(picture.image.size());
     // A picture that could not be loaded keeps its place on the label.
     created->pixmapImportActions(QPixmap::fromImage(picture.image));
-    PixMapItem* item = created.release();
-    m_canvasModel->importItem(item);
+    PixMapItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    if (item == nullptr) {
+        logRefusal(QStringLiteral("a picture, which the host deleted when it got it"));
+        return nullptr;
+    }
     applyPlace(*item, *item, properties);
     return item;
 }

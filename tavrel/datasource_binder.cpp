@@ -5,6 +5,8 @@
 #include "host/tal_datasource.h"
 #include "tavrel/datasource_keys.h"
 
+#include <Logger.h>
+
 #include <QVariant>
 
 #include <initializer_list>
@@ -18,7 +20,11 @@ using Property = std::pair<QString, QVariant>;
 void setProperties(TalDatasource* datasource, std::initializer_list<Property> properties)
 {
     if (datasource == nullptr) {
-        return; // The host knows no such source after all; the item stays bound to its number.
+        // The item stays bound to the number that the host gave.
+        CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", __LINE__,
+                          Q_FUNC_INFO)
+            .write("The host does not have the data source that it has just made");
+        return;
     }
     for (const Property& property : properties) {
         datasource->setDatasourceProperty(property.first, property.second);

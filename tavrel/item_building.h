@@ -7,6 +7,7 @@
 #include "tavrel/item_header.h"
 
 #include <QGraphicsItem>
+#include <QPointer>
 
 #include <memory>
 
@@ -28,6 +29,7 @@ enum class BuildResult {
     Built,
     NoItem, ///< the host made no item, or one of another class than the contract says
     NoSize, ///< the item draws nothing
+    Lost,   ///< the canvas deleted the item as soon as it had it
 };
 
 /// The item as the wanted class; null, and the item gone, where it is none.
@@ -41,12 +43,25 @@ template <typename ItemClass>
     return std::unique_ptr<ItemClass>(wanted);
 }
 
-/// Has the host make an item; null where it makes none of the wanted class.
+/// Has the host make an item; null where it makes none of the wanted class, or has no
+/// factory to make it.
 template <typename ItemClass>
 [[nodiscard]] std::unique_ptr<ItemClass> createItem(const HostCanvas& host,
                                                     KestTypes::ShapeType type)
 {
-    return itemAs<ItemClass>(std::unique_ptr<Item>(host.factory->create(type)));
+    return host.factory != nullptr
+               ? itemAs<ItemClass>(std::unique_ptr<Item>(host.factory->create(type)))
+               : nullptr;
+}
+
+/// Gives an item to the canvas before it is set up.
+/// @return the item; null when the canvas did not want it and has deleted it
+template <typename ItemClass>
+[[nodiscard]] ItemClass* importedEarly(const HostCanvas& host, std::unique_ptr<ItemClass> owned)
+{
+    const QPointer<ItemClass> item(owned.get());
+    host.model->importItem(owned.release());
+    return item.data();
 }
 
 /// Sets layer, lock and position.

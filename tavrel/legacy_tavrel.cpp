@@ -52,6 +52,9 @@ void logRefusedItem(int line, const char* function, BuildResult result)
     if (result == BuildResult::NoItem) {
         logError(line, function,
                  QStringLiteral("The host made no item for this record, it is left out"));
+    } else if (result == BuildResult::Lost) {
+        logError(line, function,
+                 QStringLiteral("The host deleted the item when it got it, it is left out"));
     }
 }
 
@@ -105,7 +108,10 @@ bool LegacyTavrel::importLabelFromFile(const QString& path)
     importCanvasRecord(stream, header.version);
     importSequenceSettings(stream, header.version);
     const bool databaseLinked = importDatabaseList(stream);
-    if (!importCanvasAndItems(stream, header.version, databaseLinked)) {
+    const QPointer<LegacyTavrel> self(this);
+    const bool imported = importCanvasAndItems(stream, header.version, databaseLinked);
+    // Whoever is shown the message box may throw the importer away, and the canvas with it.
+    if (!imported || !self) {
         return false;
     }
     m_model->completeCanvasLoading();
@@ -280,8 +286,12 @@ void LegacyTavrel::reportIssues(const ImportIssues& issues)
 
 void LegacyTavrel::showMessageBox(const QString& title, const QString& text)
 {
+    const QPointer<LegacyTavrel> self(this);
     if (m_messageBox) {
         messageBoxHidingSlot(); // An earlier import's box that nobody has closed yet.
+    }
+    if (!self) {
+        return;
     }
     m_messageBox = new TalMessageBox(title, text, QMessageBox::Ok, QMessageBox::Ok, QString(), {});
     connect(m_messageBox, &TalMessageBox::popupHideSignal, this,
@@ -293,12 +303,16 @@ void LegacyTavrel::messageBoxHidingSlot()
 {
     // Taken out first: a host may start the next import from the signal.
     const QPointer<TalMessageBox> box = std::exchange(m_messageBox, nullptr);
+    const QPointer<LegacyTavrel> self(this);
     Q_EMIT popupHideSignal();
-    if (box) {
-        // Later, because this may run in the box's own signal. Without an event loop the
-        // reader's end is late enough.
+    if (!box) {
+        return;
+    }
+    // Later, because this may run in the box's own signal.
+    box->deleteLater();
+    // Without an event loop the reader's end is late enough, unless that has come already.
+    if (self) {
         m_withdrawnBoxes.removeAll(nullptr);
         m_withdrawnBoxes.append(box);
-        box->deleteLater();
     }
 }

@@ -27,6 +27,9 @@ void applyFill(FillableItem& item, const HostCanvas& host, qint32 fillMode)
 // it is stopped at once instead of losing its users' lines one by one.
 std::unique_ptr<LineItem> createLine(const HostCanvas& host)
 {
+    if (host.factory == nullptr) {
+        return nullptr;
+    }
     std::unique_ptr<Item> item(host.factory->create(KestTypes::Line));
     if (!item) {
         qFatal("The host's item factory makes no lines.");

@@ -105,15 +105,6 @@ void applyLook(SimpleTextItem& item, const TextRecord& record, const TextColors&
     item.applyTextOptions();
 }
 
-// Old labels depend on the item being in the canvas before it is set up: a host gives it
-// the canvas's defaults first, which the label's own properties then replace.
-SimpleTextItem& importEarly(const HostCanvas& host, std::unique_ptr<SimpleTextItem> owned)
-{
-    SimpleTextItem& item = *owned;
-    host.model->importItem(owned.release());
-    return item;
-}
-
 } // namespace
 
 QString scaledTextNote(const QString& content, int fontSize)
@@ -134,14 +125,18 @@ TextOutcome buildText(const HostCanvas& host, const TextRecord& record,
         return {};
     }
     owned->setZValue(record.header.zValue);
-    SimpleTextItem& item = importEarly(host, std::move(owned));
-
-    const TextBox box = boxOf(record, item);
-    applyContent(item, record, box);
-    binder.bindDatasource(item, record.datasourceKey, record.datasourceText);
-    applyLook(item, record, colors);
-    item.setFlag(QGraphicsItem::ItemIsMovable, record.header.movable);
-    item.setPos(record.header.position());
+    // Old labels depend on the item being in the canvas before it is set up: a host gives it
+    // the canvas's defaults first, which the label's own properties then replace.
+    SimpleTextItem* const item = importedEarly(host, std::move(owned));
+    if (item == nullptr) {
+        return {BuildResult::Lost, false};
+    }
+    const TextBox box = boxOf(record, *item);
+    applyContent(*item, record, box);
+    binder.bindDatasource(*item, record.datasourceKey, record.datasourceText);
+    applyLook(*item, record, colors);
+    item->setFlag(QGraphicsItem::ItemIsMovable, record.header.movable);
+    item->setPos(record.header.position());
     return {BuildResult::Built, box.scaled};
 }
 

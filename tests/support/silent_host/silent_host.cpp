@@ -4,6 +4,8 @@
 
 namespace silent {
 
+SymbolConversion symbolConversion = SymbolConversion::Works;
+
 Item* Factory::create(KestTypes::ShapeType type)
 {
     switch (type) {

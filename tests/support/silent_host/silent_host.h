@@ -13,6 +13,14 @@
 /// The services are defined with it, in silent_services.cpp.
 namespace silent {
 
+/// What the symbol creator makes of a drawing; for tests of hosts that fail.
+enum class SymbolConversion {
+    Works,
+    Fails,   ///< says that it cannot
+    Forgets, ///< says that it can, and then has nothing
+};
+extern SymbolConversion symbolConversion;
+
 class Factory : public ClassFactory
 {
 public:
@@ -40,6 +48,7 @@ public:
     void completeCanvasLoading() override {}
 
     [[nodiscard]] std::size_t itemCount() const { return m_items.size(); }
+    [[nodiscard]] const std::vector<std::unique_ptr<Item>>& items() const { return m_items; }
     void clear() { m_items.clear(); }
 
 private:

@@ -8,6 +8,7 @@
 #include "host/services/symbol_database_model.h"
 #include "host/services/tal_message_box.h"
 #include "host/services/white_space.h"
+#include "tests/support/silent_host/silent_host.h"
 
 #include <cmath>
 
@@ -69,7 +70,10 @@ void SymbolCreator::loadImportedSvg(const QByteArray& svg)
 
 bool SymbolCreator::convertSvgToSymbol(const QRectF& /*target*/)
 {
-    return !d->symbol.isEmpty();
+    if (silent::symbolConversion != silent::SymbolConversion::Works) {
+        d->symbol.clear();
+    }
+    return silent::symbolConversion == silent::SymbolConversion::Forgets || !d->symbol.isEmpty();
 }
 
 QByteArray SymbolCreator::getSymbolData()

@@ -1,0 +1,58 @@
+// The text of a shape on its way to a rich-text item: the input is the styles of a content
+// member, a zero byte, and what stands in the shape. Whatever it is, text stays text: no
+// picture, table or link may come out of it, for those name files.
+
+#include "fuzz/harness.h"
+#include "fuzz/package_bytes.h"
+#include "opendocument/open_office_reader.h"
+#include "tests/support/silent_host/silent_host.h"
+
+#include <QGraphicsTextItem>
+#include <QTextDocument>
+#include <QTextFormat>
+
+#include <algorithm>
+
+namespace {
+
+const QByteArray Styles = "<office:document-styles/>";
+
+QByteArray contentOf(const QByteArray& styles, const QByteArray& shape)
+{
+    return "<office:document-content><office:automatic-styles>" + styles +
+           "</office:automatic-styles><office:body><office:drawing><draw:page><draw:rect "
+           "svg:width=\"2in\" svg:height=\"1in\">" +
+           shape +
+           "</draw:rect></draw:page></office:drawing></office:body>"
+           "</office:document-content>";
+}
+
+void checkDocument(const QTextDocument& document)
+{
+    const auto formats = document.allFormats();
+    for (const QTextFormat& format : formats) {
+        if (format.isImageFormat() || format.isTableFormat() || format.isListFormat() ||
+            format.boolProperty(QTextFormat::IsAnchor)) {
+            qFatal("a text became markup");
+        }
+    }
+}
+
+} // namespace
+
+void fuzzOneInput(const QByteArray& input)
+{
+    const qsizetype border = input.indexOf('\0');
+    const QByteArray content =
+        contentOf(input.left(std::max<qsizetype>(border, 0)), input.mid(border + 1));
+    const MemoryFile file(packageBytes(Styles, content));
+    silent::Canvas canvas;
+    silent::Datasources datasources;
+    OpenOfficeReader reader(&canvas, &datasources);
+    (void)reader.importLabelFromFile(file.path());
+    for (const auto& item : canvas.items()) {
+        if (auto* text = dynamic_cast<QGraphicsTextItem*>(item.get())) {
+            checkDocument(*text->document());
+        }
+    }
+}

@@ -1,0 +1,215 @@
+// A host that does not do its part: it makes no items or wrong ones, has no data sources,
+// loses symbols, or deletes what it is given. An import leaves out what it cannot have, says
+// so in the log, and goes on.
+
+#include "tests/hostile/failing_host.h"
+#include "tests/hostile/whole_labels.h"
+#include "tests/opendocument/log_catcher.h"
+
+#include <gtest/gtest.h>
+
+using failing::Making;
+
+namespace {
+
+constexpr ReaderKind Readers[] = {ReaderKind::Tavrel, ReaderKind::Orvanta,
+                                  ReaderKind::OpenDocument};
+
+const WholeLabels& labels()
+{
+    static const WholeLabels labels;
+    return labels;
+}
+
+std::string nameOf(ReaderKind reader)
+{
+    return reader == ReaderKind::Tavrel    ? "Tavrel"
+           : reader == ReaderKind::Orvanta ? "Orvanta"
+                                           : "OpenDocument";
+}
+
+int sumOf(const WholeLabels::Counts& counts)
+{
+    int sum = 0;
+    for (const auto& [type, count] : counts) {
+        sum += count;
+    }
+    return sum;
+}
+
+/// Every kind that a reader asks for, with the ways not to make it.
+struct Fault
+{
+    ReaderKind reader;
+    KestTypes::ShapeType type;
+    Making making;
+};
+
+std::vector<Fault> allFaults()
+{
+    std::vector<Fault> faults;
+    for (const ReaderKind reader : Readers) {
+        for (const auto& [type, count] : WholeLabels::items(reader)) {
+            faults.push_back({reader, type, Making::Nothing});
+            faults.push_back({reader, type, Making::WrongClass});
+        }
+    }
+    return faults;
+}
+
+std::string nameOfFault(const testing::TestParamInfo<Fault>& info)
+{
+    const Fault& fault = info.param;
+    return nameOf(fault.reader) + "_" + QByteArray::number(int(fault.type), 16).toStdString() +
+           (fault.making == Making::Nothing ? "_nothing" : "_wrong");
+}
+
+class HostFaults : public testing::Test
+{
+protected:
+    bool import(ReaderKind reader)
+    {
+        return failing::import(importer, reader, labels().path(reader));
+    }
+    [[nodiscard]] int refusals(const char* words) const
+    {
+        return int(log.messages().filter(QString::fromLatin1(words)).size());
+    }
+    [[nodiscard]] int refusedItems() const
+    {
+        // The three readers each have their own words for it.
+        return refusals("made no item") + refusals("gives no item of the class");
+    }
+
+    LogCatcher log;
+    failing::Canvas canvas;
+    failing::Datasources datasources;
+    failing::NoFiles files;
+    LegacyTemplateImporter importer{&canvas, &files, &datasources};
+};
+
+class MissingItem : public HostFaults, public testing::WithParamInterface<Fault>
+{};
+
+// The only fault that stops a program: no host can do without lines.
+bool stopsTheProcess(const Fault& fault)
+{
+    return fault.reader == ReaderKind::Tavrel && fault.type == KestTypes::Line &&
+           fault.making == Making::Nothing;
+}
+
+} // namespace
+
+class EveryReader : public HostFaults, public testing::WithParamInterface<ReaderKind>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Readers, EveryReader, testing::ValuesIn(Readers),
+                         [](const auto& row) { return nameOf(row.param); });
+
+TEST_P(EveryReader, TakesTheWholeLabelToAHostWithoutFaults)
+{
+    EXPECT_TRUE(import(GetParam()));
+    for (const auto& [type, count] : WholeLabels::items(GetParam())) {
+        EXPECT_EQ(canvas.count(type), count) << std::hex << type;
+    }
+    EXPECT_EQ(int(canvas.itemCount()), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(refusedItems(), 0) << qPrintable(log.messages().join(u'\n'));
+    EXPECT_EQ(canvas.completed, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, MissingItem, testing::ValuesIn(allFaults()), nameOfFault);
+
+TEST_P(MissingItem, IsLeftOutAndSaid)
+{
+    const Fault fault = GetParam();
+    canvas.factory.making = fault.making;
+    canvas.factory.of = fault.type;
+    if (stopsTheProcess(fault)) {
+        EXPECT_DEATH((void)import(fault.reader), "makes no lines");
+        return;
+    }
+    EXPECT_TRUE(import(fault.reader));
+    EXPECT_EQ(canvas.completed, 1);
+    const auto expected = WholeLabels::items(fault.reader);
+    EXPECT_EQ(canvas.count(fault.type), 0);
+    EXPECT_EQ(refusedItems(), expected.at(fault.type)) << qPrintable(log.messages().join(u'\n'));
+    for (const auto& [type, count] : expected) {
+        // A drawing's text goes with the box that it stands in.
+        if (type != fault.type && type != KestTypes::RichText) {
+            EXPECT_EQ(canvas.count(type), count) << std::hex << type;
+        }
+    }
+}
+
+TEST_P(EveryReader, ImportsNothingOntoACanvasWithoutAFactory)
+{
+    canvas.hasFactory = false;
+    LegacyTemplateImporter poor(&canvas, &files, &datasources);
+    (void)failing::import(poor, GetParam(), labels().path(GetParam()));
+    EXPECT_EQ(canvas.itemCount(), 0U);
+    EXPECT_GE(refusedItems(), sumOf(WholeLabels::items(GetParam())) - 2)
+        << "but for the texts of boxes that are not there: "
+        << qPrintable(log.messages().join(u'\n'));
+}
+
+TEST_P(EveryReader, GoesOnWhenTheCanvasDeletesWhatItGets)
+{
+    canvas.deletesItems = true;
+    EXPECT_TRUE(import(GetParam()));
+    EXPECT_EQ(canvas.itemCount(), 0U);
+    EXPECT_GE(canvas.deleted, sumOf(WholeLabels::items(GetParam())) - 2);
+    EXPECT_EQ(canvas.completed, 1);
+}
+
+TEST_F(HostFaults, AnItemThatTheCanvasDeletesBeforeItIsSetUpIsSaid)
+{
+    canvas.deletesItems = true;
+    EXPECT_TRUE(import(ReaderKind::Tavrel));
+    EXPECT_EQ(refusals("deleted the item"), 1) << "only texts are set up in the canvas";
+    EXPECT_TRUE(import(ReaderKind::Orvanta));
+    EXPECT_EQ(refusals("which the host deleted when it got it"),
+              sumOf(WholeLabels::items(ReaderKind::Orvanta)));
+    EXPECT_TRUE(import(ReaderKind::OpenDocument));
+    EXPECT_EQ(refusals("deleted an item when it got it"), canvas.deleted - 13 - 16);
+}
+
+TEST_P(EveryReader, GoesOnWithoutADataSource)
+{
+    datasources.hasSources = false;
+    EXPECT_TRUE(import(GetParam()));
+    EXPECT_EQ(int(canvas.itemCount()), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(refusals("does not have the data source") + refusals("a data source of the kind"),
+              datasources.made);
+    EXPECT_EQ(datasources.made > 0, GetParam() != ReaderKind::OpenDocument);
+}
+
+TEST_P(EveryReader, BindsToASourceWithoutFields)
+{
+    EXPECT_TRUE(import(GetParam()));
+    EXPECT_EQ(int(canvas.itemCount()), sumOf(WholeLabels::items(GetParam())));
+}
+
+class SymbolFaults
+    : public HostFaults,
+      public testing::WithParamInterface<std::tuple<ReaderKind, silent::SymbolConversion>>
+{
+protected:
+    ~SymbolFaults() override { silent::symbolConversion = silent::SymbolConversion::Works; }
+};
+
+INSTANTIATE_TEST_SUITE_P(Readers, SymbolFaults,
+                         testing::Combine(testing::ValuesIn(Readers),
+                                          testing::Values(silent::SymbolConversion::Fails,
+                                                          silent::SymbolConversion::Forgets)));
+
+TEST_P(SymbolFaults, CostNothingButTheSymbol)
+{
+    const auto [reader, conversion] = GetParam();
+    silent::symbolConversion = conversion;
+    EXPECT_TRUE(import(reader));
+    const int all = sumOf(WholeLabels::items(reader));
+    // A drawing keeps the place of a symbol that its host has lost.
+    const bool keepsPlace =
+        reader == ReaderKind::OpenDocument && conversion == silent::SymbolConversion::Forgets;
+    EXPECT_EQ(int(canvas.itemCount()), keepsPlace ? all : all - 1);
+}
