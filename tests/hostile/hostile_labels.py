@@ -2,6 +2,7 @@
 has of naming anything. `Names` says what they name."""
 
 import base64
+import gzip
 import json
 import struct
 import zipfile
@@ -95,7 +96,7 @@ def xml_labels(names):
         pictures = [svg(names, prolog=False), svg(names), b" " + svg(names, prolog=False),
                     b"\xef\xbb\xbf" + svg(names, prolog=False), png(),
                     names.path("picture.png").encode(), names.url("picture.png").encode(),
-                    zlib.compress(svg(names))]
+                    gzip.compress(svg(names))]
         boxes = "".join("<picture_box><image><content>" + base64.b64encode(picture).decode() +
                         "</content></image></picture_box>" for picture in pictures)
         texts = "".join(f"<transparent_label><scaleable>{flag}</scaleable><printable_control><text>"

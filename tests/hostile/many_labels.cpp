@@ -1,0 +1,75 @@
+#include "tests/hostile/many_labels.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Where the damage begins: behind what would only be told to be of another format.
+constexpr qsizetype StartKept = 8;
+
+QStringList samplesIn(const QString& folder)
+{
+    QStringList files;
+    QDirIterator walk(folder,
+                      {QStringLiteral("*.cnv"), QStringLiteral("*.roc"), QStringLiteral("*.qmtx"),
+                       QStringLiteral("*.od?")},
+                      QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        files.append(walk.next());
+    }
+    files.sort();
+    return files;
+}
+
+QByteArray read(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+QByteArray changed(QByteArray bytes, quint32& noise, int changes)
+{
+    for (int i = 0; i < changes; ++i) {
+        noise = noise * 1664525U + 1013904223U;
+        const auto span = quint32(bytes.size() - StartKept);
+        bytes[StartKept + qsizetype((noise >> 8) % span)] = char(noise >> 24);
+    }
+    return bytes;
+}
+
+} // namespace
+
+ManyLabels::ManyLabels(const QString& samples)
+{
+    const QStringList files = samplesIn(samples);
+    for (const QString& path : files) {
+        addWithDamage(path);
+    }
+    add(QStringLiteral("empty.cnv"), {});
+    add(QStringLiteral("empty.odg"), {});
+    add(QStringLiteral("other.qmtx"), read(files.first()));
+}
+
+void ManyLabels::add(const QString& name, const QByteArray& bytes)
+{
+    const QString path = m_folder.filePath(name);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    m_labels.append({path, readerForFile(path)});
+}
+
+void ManyLabels::addWithDamage(const QString& path)
+{
+    const QByteArray whole = read(path);
+    const QString name = QFileInfo(path).fileName();
+    add(name, whole);
+    add(QStringLiteral("cut_") + name, whole.left(whole.size() * 2 / 3));
+    add(QStringLiteral("spoilt_") + name, changed(whole, m_noise, 1));
+    add(QStringLiteral("wrecked_") + name, changed(whole, m_noise, 20));
+}
