@@ -30,13 +30,19 @@ bool namesUsEarly(const QString& fileName)
 
 } // namespace
 
-bool mayOverwrite(const QString& fileName)
+bool isOurOutput(const QString& fileName)
 {
-    if (!QFileInfo::exists(fileName)) {
-        return true;
-    }
     const QString suffix = QFileInfo(fileName).suffix();
     return suffix == QLatin1String("png") ? isOurPicture(fileName) : namesUsEarly(fileName);
+}
+
+bool mayOverwrite(const QString& fileName, const QList<archive::FileStamp>& known)
+{
+    const std::optional<archive::FileStamp> stamp = archive::stampOf(fileName);
+    if (!stamp) {
+        return !QFileInfo::exists(fileName);
+    }
+    return known.contains(*stamp) || isOurOutput(fileName);
 }
 
 } // namespace cli

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "archive/file_stamp.h"
+
+#include <QList>
 #include <QString>
 
 namespace cli {
@@ -7,9 +10,13 @@ namespace cli {
 /// The name that pictures, drawings and documents made by this program carry.
 inline constexpr const char* SoftwareMark = "LabelPort";
 
-/// Whether a file may be written under this name: there is none, or it is a picture, drawing
-/// or document that this program made earlier. Anything else belongs to somebody and is not
-/// overwritten unasked; so does a saved label, which may have been edited since.
-[[nodiscard]] bool mayOverwrite(const QString& fileName);
+/// Whether the file of this name is a picture, drawing or document that this program made
+/// earlier. A saved label is not known so: it may have been edited since.
+[[nodiscard]] bool isOurOutput(const QString& fileName);
+
+/// Whether a file may be written under this name: there is none, it is our output, or it
+/// is what an earlier command left there, unchanged. Anything else belongs to somebody and is
+/// not overwritten unasked.
+[[nodiscard]] bool mayOverwrite(const QString& fileName, const QList<archive::FileStamp>& known);
 
 } // namespace cli

@@ -1,100 +1,131 @@
 #include "apps/cli/import_command.h"
 
+#include "apps/cli/existing_output.h"
 #include "apps/cli/exit_status.h"
+#include "apps/cli/import_inputs.h"
 #include "apps/cli/import_options.h"
-#include "apps/cli/label_writer.h"
+#include "apps/cli/import_teller.h"
+#include "apps/cli/import_worker.h"
 #include "apps/cli/messages.h"
-#include "apps/cli/opened_label.h"
-#include "apps/cli/output_plan.h"
+#include "archive/run.h"
+#include "archive/stop_signals.h"
 
-#include <QDir>
+#include <QCoreApplication>
+#include <QEventLoop>
 
 namespace cli {
 namespace {
 
-void printAbout(const QString& file, const QString& text)
+/// So many named files are an archive as a folder is, and worth a journal.
+constexpr qsizetype ManyFiles = 32;
+
+bool isArchive(const ImportOptions& options, const archive::InputList& list)
 {
-    printMessage(QStringLiteral("%1: %2").arg(file, text));
+    return list.searched || !options.filesFrom.isEmpty() || options.resume ||
+           !options.shard.isWhole() || list.inputs.size() > ManyFiles;
 }
 
-void printIssues(const QString& file, const QList<workbench::ImportIssue>& issues)
+archive::RunSettings settingsFor(const ImportOptions& options, const archive::InputList& list)
 {
-    for (const workbench::ImportIssue& issue : issues) {
-        const QString times =
-            issue.repeats > 1 ? QStringLiteral(" (%1 times)").arg(issue.repeats) : QString();
-        printAbout(file, QStringLiteral("warning: ") + issue.text + times);
-    }
-}
-
-/// Where the outputs of all files go: for each target, the plan of all files.
-using Plans = QList<QList<PlannedOutput>>;
-
-Plans plansOf(const ImportOptions& options)
-{
-    Plans plans;
+    archive::RunSettings settings;
     for (const Target target : options.targets) {
-        plans.append(planOutputs(options.files, options.outputDir, nameOf(target)));
+        settings.targets.append(nameOf(target));
     }
-    return plans;
+    settings.outputFolder = options.outputDir;
+    settings.shard = options.shard;
+    settings.options = decisiveOptions(options.job);
+    settings.manner = otherOptions(options.job);
+    settings.version = QCoreApplication::applicationVersion();
+    settings.isResuming = options.resume;
+    settings.keepsJournal = isArchive(options, list);
+    settings.needsReports = options.job.report;
+    settings.workers = options.workers;
+    settings.limits = options.limits;
+    settings.command = {
+        QStringLiteral("/proc/self/exe"),
+        {QString::fromLatin1(WorkerCommandName), QString::number(options.limits.memoryMiB)}};
+    settings.mayReplace = [](const QString& path) { return isOurOutput(path); };
+    return settings;
 }
 
-/// Writes one output of an opened label; says what was written and what went wrong.
-bool writeOutput(OpenedLabel& label, Target target, const PlannedOutput& planned,
-                 const ImportOptions& options)
+/// One command on its way.
+class Import
 {
-    if (planned.contested) {
-        printAbout(planned.input,
-                   QStringLiteral("another of the given files has the same name, so both would "
-                                  "become %1; import them into different folders with --output-dir")
-                       .arg(planned.output));
-        return false;
-    }
-    const Written written =
-        writeLabel(label, target, planned.output, {options.dpi, options.records, options.force});
-    for (const QString& file : written.files) {
-        printResult(file);
-    }
-    if (!written.error.isEmpty()) {
-        printAbout(planned.input, written.error);
-    }
-    return written.error.isEmpty();
-}
+public:
+    Import(const ImportOptions& options, const archive::InputList& list)
+        : m_options(options)
+        , m_list(list)
+        , m_teller(options.quiet)
+        , m_run(list.inputs, settingsFor(options, list),
+                [this](const archive::Delivery& delivery) { m_teller.tell(delivery); })
+    {}
 
-/// Imports the file of this index and writes all its targets. True when all went well.
-bool importOne(qsizetype index, const Plans& plans, const ImportOptions& options)
-{
-    const QString& file = options.files.at(index);
-    OpenedLabel label = openAnyLabel(file);
-    printIssues(file, label.issues);
-    if (!label.isOpen()) {
-        printAbout(file, label.error);
-        return false;
+    int run()
+    {
+        for (const QString& folder : m_list.unreadable) {
+            m_teller.say(QCoreApplication::translate("cli::ImportCommand",
+                                                     "The folder %1 cannot be searched.")
+                             .arg(folder));
+        }
+        if (const QString error = m_run.open(); !error.isEmpty()) {
+            m_teller.say(error);
+            return ExitFailure;
+        }
+        waitForTheEnd();
+        return conclude();
     }
-    bool allWritten = true;
-    for (qsizetype target = 0; target < options.targets.size(); ++target) {
-        allWritten =
-            writeOutput(label, options.targets.at(target), plans.at(target).at(index), options) &&
-            allWritten;
+
+private:
+    void waitForTheEnd()
+    {
+        QEventLoop loop;
+        archive::StopSignals signalsToStop;
+        QObject::connect(&signalsToStop, &archive::StopSignals::stopRequested, &m_run,
+                         [this](int times) { times == 1 ? m_run.stop() : m_run.stopAtOnce(); });
+        QObject::connect(&m_run, &archive::Run::advanced, &m_run,
+                         [this] { m_teller.showProgress(m_run.progress()); });
+        QObject::connect(&m_run, &archive::Run::finished, &loop, &QEventLoop::quit,
+                         Qt::QueuedConnection);
+        m_run.start();
+        loop.exec();
     }
-    return allWritten;
-}
+
+    int conclude()
+    {
+        const archive::Progress progress = m_run.progress();
+        m_teller.sumUp(progress, isArchive(m_options, m_list), m_list.skipped);
+        for (const QString& trouble : m_run.troubles()) {
+            m_teller.say(trouble);
+        }
+        if (m_run.isStopped()) {
+            m_teller.say(QCoreApplication::translate(
+                "cli::ImportCommand", "Stopped. The same command with --resume goes on."));
+            return ExitStopped;
+        }
+        const bool isComplete =
+            progress.failed == 0 && !m_run.isBroken() && m_list.unreadable.isEmpty();
+        return isComplete ? ExitSuccess : ExitFailure;
+    }
+
+    const ImportOptions& m_options;
+    const archive::InputList& m_list;
+    ImportTeller m_teller;
+    archive::Run m_run;
+};
 
 int importAll(const ImportOptions& options)
 {
-    if (!QDir().mkpath(options.outputDir)) {
-        printMessage(QStringLiteral("The folder %1 cannot be made.").arg(options.outputDir));
+    const ImportInputs inputs = findInputs(options);
+    if (!inputs.error.isEmpty()) {
+        printMessage(inputs.error);
         return ExitFailure;
     }
-    const Plans plans = plansOf(options);
-    qsizetype failures = 0;
-    for (qsizetype index = 0; index < options.files.size(); ++index) {
-        failures += importOne(index, plans, options) ? 0 : 1;
-    }
-    if (failures > 0 && options.files.size() > 1) {
+    if (inputs.list.inputs.isEmpty()) {
         printMessage(
-            QStringLiteral("%1 of %2 files failed.").arg(failures).arg(options.files.size()));
+            QCoreApplication::translate("cli::ImportCommand", "There is no label to import."));
+        return ExitFailure;
     }
-    return failures == 0 ? ExitSuccess : ExitFailure;
+    return Import(options, inputs.list).run();
 }
 
 } // namespace
@@ -108,7 +139,8 @@ int runImport(const QStringList& arguments)
     }
     if (const auto* error = std::get_if<UsageError>(&parsed)) {
         printMessage(error->message);
-        printMessage(QStringLiteral("\"labelport import --help\" tells more."));
+        printMessage(QCoreApplication::translate("cli::ImportCommand",
+                                                 "\"labelport import --help\" tells more."));
         return ExitUsage;
     }
     return importAll(std::get<ImportOptions>(parsed));

@@ -2,6 +2,7 @@
 
 #include "apps/cli/existing_output.h"
 #include "apps/cli/opened_label.h"
+#include "archive/publish.h"
 #include "workbench/document/label_file.h"
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"
@@ -50,16 +51,6 @@ QString numbered(const QString& output, qint64 record)
     return QDir::cleanPath(info.dir().filePath(info.completeBaseName() + number + info.suffix()));
 }
 
-QString obstacleTo(const QString& output, const WriteOptions& options)
-{
-    if (options.force || mayOverwrite(output)) {
-        return {};
-    }
-    return QStringLiteral("%1 exists and was not made by labelport, or may have been changed "
-                          "since; it is left as it is (--force overwrites it)")
-        .arg(output);
-}
-
 QString writePicture(const workbench::Canvas& canvas, const QString& output, int dpi)
 {
     workbench::PageImage page = workbench::renderPage(canvas, dpi);
@@ -85,60 +76,74 @@ QString writeOne(const OpenedLabel& label, Target target, const QString& output,
     return {};
 }
 
-QString writeDocument(OpenedLabel& label, const QString& output, const Records& records)
+} // namespace
+
+LabelWriter::LabelWriter(OpenedLabel& label, WriteOptions options, const QString& staging,
+                         archive::SignOfLife alive)
+    : m_label(label)
+    , m_options(std::move(options))
+    , m_staging(staging)
+    , m_alive(std::move(alive))
+{}
+
+Written LabelWriter::write(Target target, const QString& output)
 {
-    return workbench::writePdf(*label.canvas, output, records.count, [&](qint64 page) {
-        label.showRecord(records.first + page);
-        return true;
+    if (target == Target::Label) {
+        // All records are in it, whatever was asked of pictures.
+        return writeFile(output, [&](const QString& file) {
+            return writeOne(m_label, target, file, m_options.dpi);
+        });
+    }
+    const Records records = recordsOf(m_label, m_options.records);
+    if (!records.error.isEmpty()) {
+        return {{}, records.error};
+    }
+    return target == Target::Pdf ? writeDocument(output, records.first, records.count)
+                                 : writeSeries(target, output, records.first, records.count);
+}
+
+Written LabelWriter::writeFile(const QString& output, const Write& write)
+{
+    if (!m_options.force && !mayOverwrite(output, m_options.known)) {
+        return {{}, archive::notOursWords(output)};
+    }
+    const bool mayReplace = m_options.force || QFileInfo::exists(output);
+    const QString staged = QDir(m_staging).filePath(
+        QStringLiteral("%1.%2").arg(++m_written).arg(QFileInfo(output).suffix()));
+    QString error = write(staged);
+    m_alive();
+    if (!error.isEmpty()) {
+        return {{}, error.replace(staged, output)};
+    }
+    archive::FileStamp stamp = archive::stampOf(staged).value_or(archive::FileStamp{});
+    stamp.path = output;
+    return {{{staged, stamp, mayReplace}}, {}};
+}
+
+Written LabelWriter::writeDocument(const QString& output, qint64 first, qint64 count)
+{
+    return writeFile(output, [&](const QString& file) {
+        return workbench::writePdf(*m_label.canvas, file, count, [&](qint64 page) {
+            m_label.showRecord(first + page);
+            m_alive();
+            return true;
+        });
     });
 }
 
-Written writeFile(const QString& output, const WriteOptions& options, auto write)
-{
-    QString error = obstacleTo(output, options);
-    if (error.isEmpty()) {
-        error = write(output);
-    }
-    return error.isEmpty() ? Written{{output}, {}} : Written{{}, error};
-}
-
-Written writeSeries(OpenedLabel& label, Target target, const QString& output,
-                    const Records& records, const WriteOptions& options)
+Written LabelWriter::writeSeries(Target target, const QString& output, qint64 first, qint64 count)
 {
     Written all;
-    for (qint64 index = 0; index < records.count && all.error.isEmpty(); ++index) {
-        const qint64 record = records.first + index;
-        label.showRecord(record);
-        const QString name = options.records.isSeries() ? numbered(output, record) : output;
-        const Written one = writeFile(name, options, [&](const QString& file) {
-            return writeOne(label, target, file, options.dpi);
+    for (qint64 record = first; record < first + count && all.error.isEmpty(); ++record) {
+        m_label.showRecord(record);
+        const QString name = m_options.records.isSeries() ? numbered(output, record) : output;
+        Written one = writeFile(name, [&](const QString& file) {
+            return writeOne(m_label, target, file, m_options.dpi);
         });
         all.files += one.files;
         all.error = one.error;
     }
     return all;
-}
-
-} // namespace
-
-Written writeLabel(OpenedLabel& label, Target target, const QString& output,
-                   const WriteOptions& options)
-{
-    if (target == Target::Label) {
-        // All records are in it, whatever was asked of pictures.
-        return writeFile(output, options, [&](const QString& file) {
-            return writeOne(label, target, file, options.dpi);
-        });
-    }
-    const Records records = recordsOf(label, options.records);
-    if (!records.error.isEmpty()) {
-        return {{}, records.error};
-    }
-    if (target == Target::Pdf) {
-        return writeFile(output, options,
-                         [&](const QString& file) { return writeDocument(label, file, records); });
-    }
-    return writeSeries(label, target, output, records, options);
 }
 
 } // namespace cli

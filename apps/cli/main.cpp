@@ -2,6 +2,7 @@
 
 #include "apps/cli/exit_status.h"
 #include "apps/cli/import_command.h"
+#include "apps/cli/import_worker.h"
 #include "apps/cli/messages.h"
 #include "apps/cli/trace_command.h"
 
@@ -39,11 +40,12 @@ Commands:
 
 Examples:
   labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import archive --to png,label --output-dir new
   labelport import asset.label --to pdf --records all
   labelport trace shelf.odg
 
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage.
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
+(import --fail-on-loss), 130 stopped by a signal.
 )";
 
 QStringList argumentsOf(int argc, char** argv)
@@ -55,17 +57,32 @@ QStringList argumentsOf(int argc, char** argv)
     return arguments;
 }
 
-int runImportInApplication(int argc, char** argv, const QStringList& arguments)
+void setUpApplication()
 {
-    // Pictures are drawn without a window system, whatever the environment offers or lacks.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     // What goes wrong is told in words of our own; QT_LOGGING_RULES brings the rest back.
     QLoggingCategory::setFilterRules(
         QStringLiteral("*.debug=false\n*.info=false\n*.warning=false\nlabelport*=false"));
     QCoreApplication::setApplicationName(QStringLiteral("labelport"));
     QCoreApplication::setOrganizationName(QStringLiteral("LabelPort"));
-    const QApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
+}
+
+/// The command itself paints nothing: its workers do.
+int runImportCommand(int argc, char** argv, const QStringList& arguments)
+{
+    setUpApplication();
+    const QCoreApplication application(argc, argv);
     return cli::runImport(arguments);
+}
+
+int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
+{
+    archive::boundMemory(arguments.value(0).toInt());
+    // Pictures are drawn without a window system, whatever the environment offers or lacks.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    setUpApplication();
+    const QApplication application(argc, argv);
+    return cli::runImportWorker(arguments);
 }
 
 } // namespace
@@ -77,7 +94,10 @@ int main(int argc, char** argv)
     const QString command = arguments.isEmpty() ? QString() : arguments.takeFirst();
 
     if (command == QLatin1String("import")) {
-        return runImportInApplication(argc, argv, arguments);
+        return runImportCommand(argc, argv, arguments);
+    }
+    if (command == QLatin1String(cli::WorkerCommandName)) {
+        return runWorkerCommand(argc, argv, arguments);
     }
     if (command == QLatin1String("trace")) {
         return cli::runTrace(arguments);

@@ -19,11 +19,11 @@ OpenedLabel openSaved(const QString& fileName)
     return label;
 }
 
-OpenedLabel openLegacy(const QString& fileName)
+OpenedLabel openLegacy(const QString& fileName, ReaderKind reader)
 {
-    workbench::ImportResult result = workbench::importLabel(fileName);
+    workbench::ImportResult result = workbench::importLabel(fileName, reader);
     return {std::move(result.canvas), std::move(result.datasources), std::move(result.issues),
-            std::move(result.error)};
+            std::move(result.error), result.isOutOfMemory};
 }
 
 } // namespace
@@ -35,10 +35,13 @@ void OpenedLabel::showRecord(qint64 record)
     });
 }
 
-OpenedLabel openAnyLabel(const QString& fileName)
+OpenedLabel openAnyLabel(const QString& fileName, std::optional<ReaderKind> reader)
 {
+    if (reader) {
+        return openLegacy(fileName, *reader);
+    }
     const bool isSaved = fileName.endsWith(QLatin1String(".label"), Qt::CaseInsensitive);
-    return isSaved ? openSaved(fileName) : openLegacy(fileName);
+    return isSaved ? openSaved(fileName) : openLegacy(fileName, readerForFile(fileName));
 }
 
 } // namespace cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "importer/reader_choice.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/datasources/datasource_controller.h"
 #include "workbench/import/issue_words.h"
@@ -7,6 +8,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace cli {
 
@@ -16,14 +18,17 @@ struct OpenedLabel
     std::unique_ptr<workbench::Canvas> canvas; ///< null when it failed
     std::unique_ptr<workbench::datasources::DatasourceController> datasources;
     QList<workbench::ImportIssue> issues;
-    QString error; ///< why it failed, for a person
+    QString error;              ///< why it failed, for a person
+    bool isOutOfMemory = false; ///< whether that was for want of memory
 
     [[nodiscard]] bool isOpen() const { return canvas != nullptr; }
     /// Brings the canvas to a record, counted from 0.
     void showRecord(qint64 record);
 };
 
-/// Opens a file by its name: a saved label (*.label), or else a legacy one.
-[[nodiscard]] OpenedLabel openAnyLabel(const QString& fileName);
+/// Opens a file by its name: a saved label (*.label), or else a legacy one; or by a reader of
+/// legacy labels whatever its name.
+[[nodiscard]] OpenedLabel openAnyLabel(const QString& fileName,
+                                       std::optional<ReaderKind> reader = std::nullopt);
 
 } // namespace cli

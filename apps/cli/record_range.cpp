@@ -9,7 +9,7 @@ std::optional<RecordRange> recordRangeOf(const QString& text)
     if (text == QLatin1String("all")) {
         return RecordRange{1, std::nullopt};
     }
-    static const QRegularExpression form(QStringLiteral("^([0-9]{1,15})(-([0-9]{1,15})?)?$"));
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,15})(-([0-9]{1,15})?)?\\z"));
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch()) {
         return std::nullopt;

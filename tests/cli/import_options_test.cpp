@@ -38,11 +38,11 @@ TEST(ImportOptions, HaveDefaults)
     const cli::ImportOptions options = accepted("a.odg");
     EXPECT_EQ(options.files, QStringList{QStringLiteral("a.odg")});
     EXPECT_EQ(options.targets, QList<cli::Target>{cli::Target::Png});
-    EXPECT_FALSE(options.records.isSeries());
-    EXPECT_EQ(options.records.first, 1);
-    EXPECT_EQ(options.dpi, 300);
+    EXPECT_FALSE(options.job.records.isSeries());
+    EXPECT_EQ(options.job.records.first, 1);
+    EXPECT_EQ(options.job.dpi, 300);
     EXPECT_EQ(options.outputDir, QStringLiteral("."));
-    EXPECT_FALSE(options.force);
+    EXPECT_FALSE(options.job.force);
 }
 
 TEST(ImportOptions, MayStandBeforeAndAfterFiles)
@@ -50,9 +50,9 @@ TEST(ImportOptions, MayStandBeforeAndAfterFiles)
     const cli::ImportOptions options =
         accepted("--dpi 96 a.odg --output-dir out b.cnv --to png --force");
     EXPECT_EQ(options.files, (QStringList{QStringLiteral("a.odg"), QStringLiteral("b.cnv")}));
-    EXPECT_EQ(options.dpi, 96);
+    EXPECT_EQ(options.job.dpi, 96);
     EXPECT_EQ(options.outputDir, QStringLiteral("out"));
-    EXPECT_TRUE(options.force);
+    EXPECT_TRUE(options.job.force);
 }
 
 TEST(ImportOptions, TakeWhatFollowsTwoDashesAsFiles)
@@ -69,7 +69,7 @@ TEST(ImportOptions, TakeSeveralTargetsEachOnce)
 
 TEST(ImportOptions, TakeARangeOfRecords)
 {
-    const cli::RecordRange range = accepted("a.odg --records 3-12").records;
+    const cli::RecordRange range = accepted("a.odg --records 3-12").job.records;
     EXPECT_EQ(range.first, 3);
     EXPECT_EQ(range.last, 12);
     EXPECT_TRUE(refusal("a.odg --records some").startsWith(QStringLiteral("--records takes")));
@@ -88,8 +88,8 @@ TEST(ImportOptions, RefuseAnUnknownOption)
 
 TEST(ImportOptions, BoundTheResolution)
 {
-    EXPECT_EQ(accepted("a.odg --dpi 10").dpi, 10);
-    EXPECT_EQ(accepted("a.odg --dpi 2400").dpi, 2400);
+    EXPECT_EQ(accepted("a.odg --dpi 10").job.dpi, 10);
+    EXPECT_EQ(accepted("a.odg --dpi 2400").job.dpi, 2400);
     for (const char* wrong : {"9", "2401", "0", "-300", "1e3", "300.0", "many", "99999999999"}) {
         SCOPED_TRACE(wrong);
         EXPECT_TRUE(refusal(("a.odg --dpi=" + std::string(wrong)).c_str())

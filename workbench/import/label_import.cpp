@@ -23,9 +23,9 @@ public:
     void emitLabelTypeLoadedSignal(QString) override {}
 };
 
-bool readBy(LegacyTemplateImporter& importer, const QString& fileName)
+bool readBy(LegacyTemplateImporter& importer, const QString& fileName, ReaderKind reader)
 {
-    switch (readerForFile(fileName)) {
+    switch (reader) {
     case ReaderKind::Orvanta:
         return importer.importLabelFromOrvantaFile(fileName);
     case ReaderKind::OpenDocument:
@@ -43,7 +43,7 @@ void showFirstRecord(Canvas& canvas, const datasources::DatasourceController& so
     });
 }
 
-ImportResult importReadableFile(const QString& fileName)
+ImportResult importReadableFile(const QString& fileName, ReaderKind reader)
 {
     ImportResult result;
     auto canvas = std::make_unique<Canvas>();
@@ -51,10 +51,11 @@ ImportResult importReadableFile(const QString& fileName)
     NoFiles files;
     LegacyTemplateImporter importer(canvas.get(), &files, sources.get());
     const ImportObserver observer(importer);
-    const bool imported = readBy(importer, fileName);
+    const bool imported = readBy(importer, fileName, reader);
     result.log = observer.log();
     if (!imported) {
-        const QString misnamed = howNameMisleads(fileName);
+        const bool isNamed = reader == readerForFile(fileName);
+        const QString misnamed = isNamed ? howNameMisleads(fileName) : QString();
         result.error = misnamed.isEmpty() ? observer.failure() : misnamed;
         return result;
     }
@@ -69,14 +70,20 @@ ImportResult importReadableFile(const QString& fileName)
 
 ImportResult importLabel(const QString& fileName)
 {
+    return importLabel(fileName, readerForFile(fileName));
+}
+
+ImportResult importLabel(const QString& fileName, ReaderKind reader)
+{
     ImportResult result;
     result.error = whyFileCannotBeRead(fileName);
     if (!result.error.isEmpty()) {
         return result;
     }
     try {
-        return importReadableFile(fileName);
+        return importReadableFile(fileName, reader);
     } catch (const std::bad_alloc&) {
+        result.isOutOfMemory = true;
         result.error = QCoreApplication::translate("workbench::LabelImport",
                                                    "There is not enough memory for this file.");
         return result;

@@ -5,6 +5,8 @@
 #include "workbench/import/import_log.h"
 #include "workbench/import/issue_words.h"
 
+#include "importer/reader_choice.h"
+
 #include <QList>
 #include <QString>
 
@@ -23,6 +25,8 @@ struct ImportResult
     QList<ImportIssue> issues;
     /// Why the import failed, in words for a person; empty when it did not.
     QString error;
+    /// Whether it failed because the memory that the process may have did not suffice.
+    bool isOutOfMemory = false;
     /// What was logged, for developers.
     QList<LogRecord> log;
 
@@ -32,5 +36,8 @@ struct ImportResult
 /// Imports one file onto a canvas of its own, without any window. Which reader gets it is
 /// decided by its name. Items that are bound to a data source show its first record.
 [[nodiscard]] ImportResult importLabel(const QString& fileName);
+
+/// Imports one file by a reader that its name does not decide.
+[[nodiscard]] ImportResult importLabel(const QString& fileName, ReaderKind reader);
 
 } // namespace workbench

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "archive/worker_loop.h"
+
+#include <QStringList>
+
+namespace cli {
+
+/// Imports one file and writes its outputs to the job's staging folder.
+[[nodiscard]] archive::FileResult importJob(const archive::Job& job,
+                                            const archive::SignOfLife& alive);
+
+/// Runs `labelport worker`, which the program starts itself: imports files for a coordinator.
+///
+/// @param arguments the bound of its memory in MiB
+/// @return the program's exit status
+[[nodiscard]] int runImportWorker(const QStringList& arguments);
+
+/// The name of that command.
+inline constexpr const char* WorkerCommandName = "worker";
+
+} // namespace cli

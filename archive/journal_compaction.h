@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+namespace archive {
+
+/// Superseded records that a journal may hold before it is written anew.
+inline constexpr qint64 ToleratedRecords = 1'000;
+
+/// Rewrites a journal without the records that later ones of the same file supersede, if
+/// they are many and more than the others. The caller holds the folder's journals alone.
+void compactJournal(const QString& path);
+
+} // namespace archive

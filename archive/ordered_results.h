@@ -1,0 +1,51 @@
+#pragma once
+
+#include "archive/messages.h"
+
+#include <QtGlobal>
+
+#include <map>
+#include <optional>
+
+namespace archive {
+
+/// Bytes of results that may wait for the result of an earlier file. When it is reached no
+/// new files are begun until that one is there.
+inline constexpr qint64 MaximumWaitingBytes = 64LL * 1024 * 1024;
+
+/// Puts results, which come as workers finish, into the order of their files.
+class OrderedResults
+{
+public:
+    struct Finished
+    {
+        qsizetype index = 0;
+        FileResult result;
+    };
+
+    /// @param size about how many bytes the result takes
+    void add(qsizetype index, FileResult result, qint64 size);
+    /// An index that has no result: it is passed over.
+    void skip(qsizetype index);
+    /// The result whose turn it is, if it has come.
+    [[nodiscard]] std::optional<Finished> takeNext();
+    /// The first of those that have come, its turn or not.
+    [[nodiscard]] std::optional<Finished> takeAny();
+
+    [[nodiscard]] bool isFull() const { return m_waitingBytes >= MaximumWaitingBytes; }
+    /// The index whose turn it is.
+    [[nodiscard]] qsizetype next() const { return m_next; }
+
+private:
+    struct Waiting
+    {
+        std::optional<FileResult> result;
+        qint64 size = 0;
+    };
+
+    std::map<qsizetype, Waiting> m_waiting;
+    qint64 m_waitingBytes = 0;
+    qsizetype m_next = 0;
+};
+
+} // namespace archive

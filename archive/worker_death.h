@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+namespace archive {
+
+/// Exit statuses by which a worker says of what it died.
+enum WorkerExit : int {
+    WorkerExitDone = 0,    ///< its input was closed
+    WorkerExitBroken = 70, ///< it was given what it could not read
+    WorkerExitOutOfMemory = 71,
+};
+
+/// How a worker came to its end.
+struct WorkerDeath
+{
+    enum Kind { Exited, Signalled, TimedOut, Garbled, NotStarted };
+    Kind kind = Exited;
+    int code = 0; ///< exit status or signal
+
+    [[nodiscard]] bool isOutOfMemory() const
+    {
+        return kind == Exited && code == WorkerExitOutOfMemory;
+    }
+    /// Whether a new worker may do better: it was not the file's time that ran out.
+    [[nodiscard]] bool deservesAnotherTry() const { return kind != TimedOut; }
+};
+
+/// Limits of a worker.
+struct WorkerLimits
+{
+    int timeoutSeconds = 60; ///< without a sign of life; 0 for none
+    int memoryMiB = 2048;    ///< of its data; 0 for none
+};
+
+/// What is said of a file whose worker died so, in words for a person.
+[[nodiscard]] QString wordsFor(const WorkerDeath& death, const WorkerLimits& limits);
+
+} // namespace archive

@@ -1,0 +1,134 @@
+#include "archive/worker_loop.h"
+
+#include "archive/worker_death.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <exception>
+#include <new>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace archive {
+namespace {
+
+// The sanitizers map far more than a program holds; a bound would stop them at once.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool MayBoundMemory = false;
+#else
+constexpr bool MayBoundMemory = true;
+#endif
+
+void endBadly()
+{
+    try {
+        if (std::current_exception()) {
+            std::rethrow_exception(std::current_exception());
+        }
+    } catch (const std::bad_alloc&) {
+        endForWantOfMemory();
+    } catch (...) {
+    }
+    std::abort();
+}
+
+/// The way to the coordinator, which no printing library can disturb.
+class Answers
+{
+public:
+    Answers()
+        : m_descriptor(::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3))
+    {
+        const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+        if (nowhere >= 0) {
+            ::dup2(nowhere, STDOUT_FILENO);
+            ::close(nowhere);
+        }
+    }
+
+    ~Answers() { ::close(m_descriptor); }
+    Answers(const Answers&) = delete;
+    Answers& operator=(const Answers&) = delete;
+
+    /// False when nobody listens any more.
+    bool send(const QByteArray& line) const
+    {
+        const char* rest = line.constData();
+        for (qsizetype left = line.size(); left > 0;) {
+            const ssize_t written = ::write(m_descriptor, rest, static_cast<std::size_t>(left));
+            if (written < 0 && errno != EINTR) {
+                return false;
+            }
+            rest += std::max<ssize_t>(written, 0);
+            left -= std::max<ssize_t>(written, 0);
+        }
+        return true;
+    }
+
+private:
+    int m_descriptor;
+};
+
+/// Bytes of memory that the process has now.
+qint64 memoryHeld()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    const QList<QByteArray> fields = file.readLine().split(' ');
+    return fields.value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
+}
+
+} // namespace
+
+void boundMemory(int memoryMiB)
+{
+    std::set_new_handler(&endForWantOfMemory);
+    std::set_terminate(&endBadly);
+    if (MayBoundMemory && memoryMiB > 0) {
+        const auto bytes = static_cast<rlim_t>(memoryMiB) * 1024 * 1024;
+        rlimit limit{};
+        ::getrlimit(RLIMIT_DATA, &limit);
+        limit.rlim_cur = std::min(bytes, limit.rlim_max);
+        ::setrlimit(RLIMIT_DATA, &limit);
+    }
+}
+
+void endForWantOfMemory()
+{
+    ::_exit(WorkerExitOutOfMemory);
+}
+
+int runWorker(const JobHandler& handler)
+{
+    const Answers answers;
+    const SignOfLife alive = [&answers] { answers.send("+\n"); };
+    QFile jobs;
+    if (!jobs.open(STDIN_FILENO, QIODevice::ReadOnly)) {
+        return WorkerExitBroken;
+    }
+    alive();
+    while (true) {
+        const QByteArray line = jobs.readLine(MaximumLine);
+        if (line.isEmpty()) {
+            return WorkerExitDone;
+        }
+        const std::optional<Job> job = jobFromLine(line);
+        if (!job) {
+            return WorkerExitBroken;
+        }
+        FileResult result = handler(*job, alive);
+        result.memory = memoryHeld();
+        if (!answers.send(lineOf(result))) {
+            return WorkerExitDone;
+        }
+    }
+}
+
+} // namespace archive

@@ -1,0 +1,164 @@
+#include "archive/worker_pool.h"
+
+#include <algorithm>
+
+namespace archive {
+namespace {
+
+/// After so many workers in a row that did not come up, none will.
+constexpr int ToleratedFailedStarts = 4;
+
+} // namespace
+
+WorkerPool::WorkerPool(PoolClient& client, const WorkerCommand& command, const WorkerLimits& limits,
+                       int count)
+    : m_client(client)
+    , m_command(command)
+    , m_limits(limits)
+    , m_slots(static_cast<std::size_t>(std::max(count, 1)))
+{}
+
+WorkerPool::~WorkerPool() = default;
+
+void WorkerPool::start()
+{
+    for (std::size_t slot = 0; slot < m_slots.size(); ++slot) {
+        const std::optional<qsizetype> task = m_client.nextTask();
+        if (!task) {
+            break;
+        }
+        m_begun.push_back(*task);
+        fill(slot);
+    }
+    noteIfDrained();
+}
+
+void WorkerPool::stopTaking()
+{
+    m_isStopping = true;
+    m_begun.clear();
+    m_secondTries.clear();
+    noteIfDrained();
+}
+
+void WorkerPool::fill(std::size_t slot)
+{
+    auto worker = std::make_unique<WorkerProcess>(m_command, m_limits);
+    connect(worker.get(), &WorkerProcess::ready, this, [this, slot] {
+        m_failedStarts = 0;
+        feed(slot);
+    });
+    connect(worker.get(), &WorkerProcess::answered, this,
+            [this, slot](const QByteArray& line) { noteAnswer(slot, line); });
+    // Later, because the worker goes: it must not while it speaks.
+    connect(
+        worker.get(), &WorkerProcess::died, this,
+        [this, slot](const WorkerDeath& death) { noteDeath(slot, death); }, Qt::QueuedConnection);
+    m_slots[slot].worker = std::move(worker);
+    m_slots[slot].worker->start();
+}
+
+void WorkerPool::feedAll()
+{
+    for (std::size_t slot = 0; slot < m_slots.size(); ++slot) {
+        feed(slot);
+    }
+    noteIfDrained();
+}
+
+void WorkerPool::feed(std::size_t slot)
+{
+    const WorkerProcess* worker = m_slots[slot].worker.get();
+    if (m_isOver || worker == nullptr || !worker->isIdle()) {
+        return;
+    }
+    const auto takeFirst = [](std::deque<qsizetype>& tasks) {
+        const qsizetype task = tasks.front();
+        tasks.pop_front();
+        return task;
+    };
+    if (!m_secondTries.empty() && worker->served() == 0) {
+        hand(slot, takeFirst(m_secondTries), true);
+    } else if (!m_begun.empty()) {
+        hand(slot, takeFirst(m_begun), false);
+    } else if (!m_isStopping) {
+        if (const std::optional<qsizetype> task = m_client.nextTask()) {
+            hand(slot, *task, false);
+        }
+    }
+}
+
+void WorkerPool::hand(std::size_t slot, qsizetype task, bool isSecondTry)
+{
+    Slot& entry = m_slots[slot];
+    entry.task = task;
+    entry.isSecondTry = isSecondTry;
+    entry.worker->give(m_client.lineFor(task, static_cast<int>(slot)));
+}
+
+void WorkerPool::noteAnswer(std::size_t slot, const QByteArray& line)
+{
+    const qsizetype task = *m_slots[slot].task;
+    m_slots[slot].task.reset();
+    const qint64 memory = m_client.taskAnswered(task, line);
+    const bool isWorn = m_slots[slot].worker->served() >= MaximumServed || memory >= MaximumMemory;
+    if (isWorn && !m_isStopping) {
+        recycle(slot);
+    }
+    feedAll();
+}
+
+void WorkerPool::noteDeath(std::size_t slot, const WorkerDeath& death)
+{
+    Slot& entry = m_slots[slot];
+    const bool wasReady = entry.worker->isReady();
+    const std::optional<qsizetype> task = std::exchange(entry.task, std::nullopt);
+    const bool wasSecondTry = entry.isSecondTry;
+    entry.worker.reset();
+
+    if (task && !wasSecondTry && death.deservesAnotherTry() && !m_isStopping) {
+        m_secondTries.push_back(*task);
+    } else if (task && !m_isStopping) {
+        m_client.taskDied(*task, death);
+    }
+    m_failedStarts += wasReady ? 0 : 1;
+    if (m_failedStarts >= ToleratedFailedStarts) {
+        m_isOver = true;
+        Q_EMIT broken();
+        return;
+    }
+    if (!m_isStopping) {
+        fill(slot);
+    }
+    feedAll();
+}
+
+void WorkerPool::recycle(std::size_t slot)
+{
+    std::erase_if(m_leaving, [](const auto& worker) { return worker->processId() == 0; });
+    m_leaving.push_back(std::move(m_slots[slot].worker));
+    m_leaving.back()->disconnect(this);
+    m_leaving.back()->dismiss();
+    fill(slot);
+}
+
+void WorkerPool::noteIfDrained()
+{
+    const bool isAtWork = std::any_of(m_slots.begin(), m_slots.end(),
+                                      [](const Slot& slot) { return slot.task.has_value(); });
+    const bool isWaiting = !m_begun.empty() || !m_secondTries.empty();
+    if (isAtWork || isWaiting || m_isOver) {
+        return;
+    }
+    // There may be more that only waits for a worker to start.
+    const std::optional<qsizetype> task = m_isStopping ? std::nullopt : m_client.nextTask();
+    if (task) {
+        m_begun.push_back(*task);
+    } else {
+        m_isOver = true;
+        // Later, so that nobody is surprised within start().
+        QMetaObject::invokeMethod(this, &WorkerPool::drained, Qt::QueuedConnection);
+    }
+}
+
+} // namespace archive

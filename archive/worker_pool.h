@@ -1,0 +1,92 @@
+#pragma once
+
+#include "archive/worker_process.h"
+
+#include <QObject>
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace archive {
+
+/// Who has the work that a pool's workers do.
+class PoolClient
+{
+public:
+    virtual ~PoolClient() = default;
+
+    /// The next task, if there is one that can be begun now. Asked again whenever a worker
+    /// has become idle.
+    [[nodiscard]] virtual std::optional<qsizetype> nextTask() = 0;
+    /// What the worker in a slot, counted from 0, is to be told of a task. A task can be
+    /// handed out twice.
+    [[nodiscard]] virtual QByteArray lineFor(qsizetype task, int slot) = 0;
+    /// @return the memory that the worker holds by its own account, in bytes
+    virtual qint64 taskAnswered(qsizetype task, const QByteArray& line) = 0;
+    /// The task cost its worker's life, for good.
+    virtual void taskDied(qsizetype task, const WorkerDeath& death) = 0;
+};
+
+/// Hands tasks to worker processes, one at a time each, and replaces those that die.
+///
+/// A task whose worker dies is given once more to a worker that has done nothing yet: so
+/// neither a stray signal nor what earlier files did to a worker decides about a file, and the
+/// number of workers changes no result. What runs out of time is not tried again.
+class WorkerPool final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Files after which a worker is replaced, so that no leak grows.
+    static constexpr int MaximumServed = 400;
+    /// Memory at which a worker is replaced earlier, in bytes.
+    static constexpr qint64 MaximumMemory = 512LL * 1024 * 1024;
+
+    /// @param count  most workers at a time; no more are started than there are tasks
+    WorkerPool(PoolClient& client, const WorkerCommand& command, const WorkerLimits& limits,
+               int count);
+    ~WorkerPool() override;
+
+    /// Begins; drained() or broken() comes later.
+    void start();
+    /// No task is begun any more; those in work are finished.
+    void stopTaking();
+
+Q_SIGNALS:
+    /// No task is left, and none is in work.
+    void drained();
+    /// Workers cannot be started.
+    void broken();
+
+private:
+    struct Slot
+    {
+        std::unique_ptr<WorkerProcess> worker;
+        std::optional<qsizetype> task;
+        bool isSecondTry = false;
+    };
+
+    void fill(std::size_t slot);
+    void feedAll();
+    void feed(std::size_t slot);
+    void hand(std::size_t slot, qsizetype task, bool isSecondTry);
+    void noteAnswer(std::size_t slot, const QByteArray& line);
+    void noteDeath(std::size_t slot, const WorkerDeath& death);
+    void recycle(std::size_t slot);
+    void noteIfDrained();
+
+    PoolClient& m_client;
+    WorkerCommand m_command;
+    WorkerLimits m_limits;
+    std::vector<Slot> m_slots;
+    std::vector<std::unique_ptr<WorkerProcess>> m_leaving;
+    std::deque<qsizetype> m_secondTries;
+    std::deque<qsizetype> m_begun; ///< taken from the client before there was a worker for it
+    int m_failedStarts = 0;
+    bool m_isStopping = false;
+    bool m_isOver = false;
+};
+
+} // namespace archive

@@ -1,0 +1,156 @@
+#include "archive/worker_process.h"
+
+#include "archive/messages.h"
+
+#include <csignal>
+
+#include <sys/prctl.h>
+#include <unistd.h>
+
+namespace archive {
+namespace {
+
+/// Starting takes as long as the machine is slow, not as the file is large.
+constexpr int StartSeconds = 120;
+
+/// Runs in the new process before its program: only what is safe between fork and exec.
+void bindToParent(pid_t parent)
+{
+    // A signal from the terminal is for the coordinator alone, who stops its workers.
+    ::setpgid(0, 0);
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (::getppid() != parent) {
+        ::_exit(WorkerExitBroken);
+    }
+}
+
+} // namespace
+
+WorkerProcess::WorkerProcess(const WorkerCommand& command, const WorkerLimits& limits)
+    : m_limits(limits)
+{
+    m_process.setProgram(command.program);
+    m_process.setArguments(command.arguments);
+    // What the libraries say is for whoever asked for it, as in one process.
+    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_process.setChildProcessModifier([parent = ::getpid()] { bindToParent(parent); });
+    m_clock.setSingleShot(true);
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, &WorkerProcess::readLines);
+    connect(&m_process, &QProcess::finished, this, &WorkerProcess::noteEnd);
+    connect(&m_process, &QProcess::errorOccurred, this, &WorkerProcess::noteError);
+    connect(&m_clock, &QTimer::timeout, this, &WorkerProcess::giveUpWaiting);
+}
+
+WorkerProcess::~WorkerProcess()
+{
+    m_process.disconnect(this);
+    if (m_process.state() != QProcess::NotRunning) {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+}
+
+void WorkerProcess::start()
+{
+    m_process.start();
+    m_clock.start(StartSeconds * 1000);
+}
+
+void WorkerProcess::give(const QByteArray& line)
+{
+    m_state = State::Busy;
+    startClock();
+    m_process.write(line);
+}
+
+void WorkerProcess::dismiss()
+{
+    m_state = State::Gone;
+    m_process.closeWriteChannel();
+}
+
+void WorkerProcess::startClock()
+{
+    if (m_limits.timeoutSeconds > 0) {
+        m_clock.start(m_limits.timeoutSeconds * 1000);
+    } else {
+        m_clock.stop();
+    }
+}
+
+void WorkerProcess::readLines()
+{
+    const qsizetype searched = m_unread.size();
+    m_unread += m_process.readAllStandardOutput();
+    qsizetype begin = 0;
+    for (qsizetype end = m_unread.indexOf('\n', searched); end >= 0;
+         end = m_unread.indexOf('\n', begin)) {
+        const QByteArray line = m_unread.mid(begin, end - begin);
+        begin = end + 1;
+        take(line);
+    }
+    m_unread.remove(0, begin);
+    if (m_unread.size() > MaximumLine) {
+        kill(WorkerDeath::Garbled);
+    }
+}
+
+void WorkerProcess::take(const QByteArray& line)
+{
+    if (m_state == State::Starting) {
+        m_state = State::Idle;
+        m_clock.stop();
+        Q_EMIT ready();
+    } else if (m_state == State::Busy && line == "+") {
+        startClock();
+    } else if (m_state == State::Busy) {
+        m_clock.stop();
+        m_state = State::Idle;
+        ++m_served;
+        Q_EMIT answered(line);
+    }
+}
+
+void WorkerProcess::giveUpWaiting()
+{
+    // After this program was stopped for a while, an answer may lie in the pipe.
+    m_process.waitForReadyRead(0);
+    const bool isAnswered = m_state == State::Idle;
+    const bool lives = m_clock.isActive();
+    if (!isAnswered && !lives) {
+        kill(m_state == State::Starting ? WorkerDeath::NotStarted : WorkerDeath::TimedOut);
+    }
+}
+
+void WorkerProcess::kill(WorkerDeath::Kind why)
+{
+    if (!m_killedFor) {
+        m_killedFor = why;
+        m_process.kill();
+    }
+}
+
+void WorkerProcess::noteEnd(int code, QProcess::ExitStatus status)
+{
+    readLines(); // it may have answered before it ended
+    if (m_killedFor) {
+        end({*m_killedFor, code});
+    } else {
+        end({status == QProcess::CrashExit ? WorkerDeath::Signalled : WorkerDeath::Exited, code});
+    }
+}
+
+void WorkerProcess::noteError(QProcess::ProcessError error)
+{
+    if (error == QProcess::FailedToStart) {
+        end({WorkerDeath::NotStarted, 0});
+    }
+}
+
+void WorkerProcess::end(const WorkerDeath& death)
+{
+    m_clock.stop();
+    Q_EMIT died(death);
+}
+
+} // namespace archive

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "archive/worker_death.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+#include <optional>
+
+namespace archive {
+
+/// How a worker is started.
+struct WorkerCommand
+{
+    QString program;
+    QStringList arguments;
+};
+
+/// One worker: a process of its own that is given one file at a time, as a line on its
+/// standard input, and answers with a line on its standard output. A line that is a single
+/// "+" is a sign of life: once when it is ready, then as often as it gets on.
+///
+/// The process dies with this object, and with the program however that ends.
+class WorkerProcess final : public QObject
+{
+    Q_OBJECT
+
+public:
+    WorkerProcess(const WorkerCommand& command, const WorkerLimits& limits);
+    ~WorkerProcess() override;
+
+    void start();
+    /// Hands a line over; the worker must be idle.
+    void give(const QByteArray& line);
+    /// Lets an idle worker go in peace.
+    void dismiss();
+
+    [[nodiscard]] bool isReady() const { return m_state != State::Starting; }
+    [[nodiscard]] bool isIdle() const { return m_state == State::Idle; }
+    [[nodiscard]] bool isBusy() const { return m_state == State::Busy; }
+    /// Files that it has answered.
+    [[nodiscard]] int served() const { return m_served; }
+    [[nodiscard]] qint64 processId() const { return m_process.processId(); }
+
+Q_SIGNALS:
+    void ready();
+    void answered(const QByteArray& line);
+    /// The last signal. The worker may have been busy or not.
+    void died(const archive::WorkerDeath& death);
+
+private:
+    enum class State { Starting, Idle, Busy, Gone };
+
+    void readLines();
+    void take(const QByteArray& line);
+    void giveUpWaiting();
+    void kill(WorkerDeath::Kind why);
+    void noteEnd(int code, QProcess::ExitStatus status);
+    void noteError(QProcess::ProcessError error);
+    void end(const WorkerDeath& death);
+    void startClock();
+
+    WorkerLimits m_limits;
+    QProcess m_process;
+    QTimer m_clock;
+    QByteArray m_unread;
+    State m_state = State::Starting;
+    std::optional<WorkerDeath::Kind> m_killedFor;
+    int m_served = 0;
+};
+
+} // namespace archive

@@ -1,0 +1,100 @@
+// Where the outputs of a command go.
+
+#include "archive/output_names.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+QList<archive::Input> inputsOf(const QStringList& names)
+{
+    QList<archive::Input> inputs;
+    for (const QString& name : names) {
+        // "folder>file" is a file that keeps a folder.
+        const QStringList parts = name.split(QLatin1Char('>'));
+        inputs.append({parts.last(), parts.last(), parts.size() > 1 ? parts.first() : QString()});
+    }
+    return inputs;
+}
+
+QStringList outputsOf(const QStringList& names,
+                      const QStringList& suffixes = {QStringLiteral("png")})
+{
+    const QList<archive::Input> inputs = inputsOf(names);
+    const archive::OutputNames plan(inputs, suffixes);
+    QStringList outputs;
+    for (qsizetype index = 0; index < inputs.size(); ++index) {
+        outputs.append(plan.isContested(index) ? QStringLiteral("contested")
+                                               : plan.output(index, suffixes.first()));
+    }
+    return outputs;
+}
+
+QStringList list(const char* names)
+{
+    return QString::fromLatin1(names).split(QLatin1Char(' '));
+}
+
+TEST(OutputNames, AreThoseOfTheInputs)
+{
+    EXPECT_EQ(outputsOf(list("in/shelf.odg")), list("shelf.png"));
+}
+
+TEST(OutputNames, ReplaceTheLastSuffixOnly)
+{
+    EXPECT_EQ(outputsOf(list("shelf.old.cnv")), list("shelf.old.png"));
+}
+
+TEST(OutputNames, CanDoWithoutASuffix)
+{
+    EXPECT_EQ(outputsOf(list("label")), list("label.png"));
+}
+
+TEST(OutputNames, KeepTheFoldersBelowAFolder)
+{
+    EXPECT_EQ(outputsOf(list("a/b>old/a/b/x.cnv a>old/a/x.cnv")), list("a/b/x.png a/x.png"));
+}
+
+TEST(OutputNames, AreWholeWhereTwoInputsWouldMeet)
+{
+    EXPECT_EQ(outputsOf(list("a.cnv a.odg b.cnv")), list("a.cnv.png a.odg.png b.png"));
+    EXPECT_EQ(outputsOf(list("f>a.cnv f>a.odg g>a.odg")), list("f/a.cnv.png f/a.odg.png g/a.png"));
+}
+
+TEST(OutputNames, DoNotDependOnTheOrderOfInputs)
+{
+    QStringList names = list("a.cnv a.odg a.odg.qmtx b.cnv x/b.cnv c.cnv");
+    std::sort(names.begin(), names.end());
+    const QStringList expected = outputsOf(names);
+    QStringList order = names;
+    while (std::next_permutation(order.begin(), order.end())) {
+        const QStringList outputs = outputsOf(order);
+        for (qsizetype index = 0; index < names.size(); ++index) {
+            ASSERT_EQ(outputs.at(order.indexOf(names.at(index))), expected.at(index));
+        }
+    }
+}
+
+TEST(OutputNames, OfTwoFilesOfOneNameAreContested)
+{
+    EXPECT_EQ(outputsOf(list("x/a.odg y/a.odg")), list("contested contested"));
+}
+
+// a.odg keeps its whole name because of a.cnv, and meets the input that is named so.
+TEST(OutputNames, SeeAMeetingThatAWholeNameBrings)
+{
+    EXPECT_EQ(outputsOf(list("a.odg a.cnv a.odg.qmtx")), list("contested a.cnv.png contested"));
+}
+
+// A folder "x.png" in the archive, beside "x.cnv".
+TEST(OutputNames, DoNotStandWhereAFolderMust)
+{
+    EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv")), list("contested x.png/a.png"));
+    EXPECT_EQ(outputsOf(list("x.cnv x.png/y>a.cnv")), list("contested x.png/y/a.png"));
+    EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv"), list("svg label")), list("x.svg x.png/a.svg"));
+    EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv"), list("svg png")), list("contested x.png/a.svg"));
+}
+
+} // namespace

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "archive/run.h"
+#include "tests/archive/test_folder.h"
+
+/// Runs archives in a folder of its own: inputs below "in", outputs below "out".
+class RunFixture : public ::testing::Test
+{
+protected:
+    RunFixture();
+
+    /// Writes an input whose content tells the worker what to suffer.
+    void input(const QString& name, const QByteArray& content);
+
+    /// Imports all inputs. What became of each comes as lines: "fate name: output output",
+    /// with what went wrong behind it.
+    QStringList run();
+
+    QByteArray output(const QString& name) const
+    {
+        return folder.read(QStringLiteral("out/") + name);
+    }
+    /// All files of the output folder that are no outputs, journals left out.
+    QStringList strays() const;
+
+    TestFolder folder;
+    archive::RunSettings settings;
+    QList<archive::Input> inputs;
+    QStringList troubles; ///< of the last run
+    archive::Progress progress;
+    QList<QJsonObject> reports;
+};

@@ -1,0 +1,41 @@
+// Parts of an archive.
+
+#include "archive/shard.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Shard, IsReadFromItsNumberAndTheirCount)
+{
+    const auto shard = archive::shardOf(QStringLiteral("3/8"));
+    ASSERT_TRUE(shard);
+    EXPECT_EQ(shard->number, 3);
+    EXPECT_EQ(shard->count, 8);
+    EXPECT_FALSE(shard->isWhole());
+    EXPECT_TRUE(archive::shardOf(QStringLiteral("1/1"))->isWhole());
+    EXPECT_TRUE(archive::shardOf(QStringLiteral("100000/100000")));
+}
+
+TEST(Shard, RefusesWhatIsNoPart)
+{
+    for (const char* wrong : {"", "3", "0/8", "9/8", "-1/8", "3/0", "3/8/2", "a/b", "3 / 8",
+                              "1/100001", "1/99999999999", "3/8\n"}) {
+        SCOPED_TRACE(wrong);
+        EXPECT_FALSE(archive::shardOf(QString::fromLatin1(wrong)));
+    }
+}
+
+TEST(Shard, TogetherTakeEachInputOnce)
+{
+    constexpr int count = 7;
+    for (qsizetype index = 0; index < 100; ++index) {
+        int takers = 0;
+        for (int number = 1; number <= count; ++number) {
+            takers += archive::Shard{number, count}.takes(index) ? 1 : 0;
+        }
+        EXPECT_EQ(takers, 1) << index;
+    }
+}
+
+} // namespace

@@ -1,0 +1,78 @@
+// The hidden folder in which outputs are made.
+
+#include "archive/staging_area.h"
+#include "tests/archive/test_folder.h"
+
+#include <QDateTime>
+
+namespace {
+
+QStringList stagingFolders(const TestFolder& folder)
+{
+    return QDir(folder.path())
+        .entryList({QStringLiteral(".labelport-work-*")}, QDir::Dirs | QDir::Hidden);
+}
+
+TEST(StagingArea, GoesWithItsValue)
+{
+    const TestFolder folder;
+    {
+        archive::StagingArea staging;
+        EXPECT_EQ(staging.open(folder.path(QStringLiteral("out"))), QString());
+        EXPECT_TRUE(QFileInfo(staging.path()).isDir());
+        EXPECT_TRUE(QFileInfo(staging.emptySlot(3)).isDir());
+    }
+    EXPECT_TRUE(QDir(folder.path(QStringLiteral("out")))
+                    .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+TEST(StagingArea, EmptiesASlotThatIsUsedAgain)
+{
+    const TestFolder folder;
+    archive::StagingArea staging;
+    ASSERT_EQ(staging.open(folder.path()), QString());
+    const QString slot = staging.emptySlot(0);
+    QFile left(QDir(slot).filePath(QStringLiteral("1.png.XYZ")));
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    EXPECT_EQ(staging.emptySlot(0), slot);
+    EXPECT_TRUE(QDir(slot).isEmpty());
+}
+
+TEST(StagingArea, RemovesWhatAKilledCommandLeft)
+{
+    const TestFolder folder;
+    folder.write(QStringLiteral(".labelport-work-dead/lock"));
+    folder.write(QStringLiteral(".labelport-work-dead/0/1.png"));
+    archive::StagingArea staging;
+    ASSERT_EQ(staging.open(folder.path()), QString());
+    EXPECT_EQ(stagingFolders(folder), QStringList{QFileInfo(staging.path()).fileName()});
+}
+
+TEST(StagingArea, LeavesThoseOfOtherCommandsAlone)
+{
+    const TestFolder folder;
+    archive::StagingArea first;
+    archive::StagingArea second;
+    ASSERT_EQ(first.open(folder.path()), QString());
+    ASSERT_EQ(second.open(folder.path()), QString());
+    EXPECT_EQ(stagingFolders(folder).size(), 2);
+    // One that was made this moment, and has no lock yet.
+    QDir(folder.path()).mkpath(QStringLiteral(".labelport-work-new"));
+    archive::StagingArea third;
+    ASSERT_EQ(third.open(folder.path()), QString());
+    EXPECT_EQ(stagingFolders(folder).size(), 4);
+}
+
+TEST(StagingArea, SaysWhyThereIsNone)
+{
+    const TestFolder folder;
+    folder.write(QStringLiteral("file"));
+    archive::StagingArea staging;
+    EXPECT_TRUE(staging.open(folder.path(QStringLiteral("file/below")))
+                    .contains(QStringLiteral("cannot be made")));
+    EXPECT_TRUE(archive::StagingArea()
+                    .open(QStringLiteral("/proc"))
+                    .contains(QStringLiteral("Nothing can be written")));
+}
+
+} // namespace

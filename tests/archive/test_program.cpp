@@ -1,0 +1,67 @@
+// A worker, and a coordinator that can be killed:
+//   archive_test_program worker MIB
+//   archive_test_program coordinate IN OUT WORKERS [resume]
+
+#include "archive/input_list.h"
+#include "archive/run.h"
+#include "archive/stop_signals.h"
+#include "tests/archive/test_worker.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+namespace {
+
+archive::RunSettings settingsFrom(const QStringList& arguments)
+{
+    archive::RunSettings settings;
+    settings.targets = {QStringLiteral("png")};
+    settings.outputFolder = arguments.at(1);
+    settings.workers = arguments.at(2).toInt();
+    settings.isResuming = arguments.contains(QStringLiteral("resume"));
+    settings.keepsJournal = true;
+    settings.limits = {0, 512};
+    settings.command = {QCoreApplication::applicationFilePath(),
+                        {QStringLiteral("worker"), QStringLiteral("512")}};
+    return settings;
+}
+
+int coordinate(const QStringList& arguments)
+{
+    archive::InputRequest request;
+    request.arguments = QStringList{arguments.at(0)};
+    request.suffixes = QStringList{QStringLiteral("cnv")};
+    const archive::InputList list = archive::listInputs(request);
+    archive::Run run(list.inputs, settingsFrom(arguments), [](const archive::Delivery& delivery) {
+        if (!delivery.isResumed) {
+            std::printf("%s\n", qPrintable(delivery.written.join(QLatin1Char(' '))));
+            std::fflush(stdout);
+        }
+    });
+    if (!run.open().isEmpty()) {
+        return 1;
+    }
+    archive::StopSignals signalsToStop;
+    QObject::connect(&signalsToStop, &archive::StopSignals::stopRequested, &run,
+                     [&run](int times) { times == 1 ? run.stop() : run.stopAtOnce(); });
+    QObject::connect(&run, &archive::Run::finished, QCoreApplication::instance(),
+                     &QCoreApplication::quit, Qt::QueuedConnection);
+    run.start();
+    QCoreApplication::exec();
+    return run.isStopped() ? 130 : 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const QString mode = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    if (mode == QLatin1String("worker")) {
+        archive::boundMemory(arguments.value(0).toInt());
+        return archive::runWorker(&suffer);
+    }
+    return mode == QLatin1String("coordinate") && arguments.size() >= 3 ? coordinate(arguments) : 2;
+}
