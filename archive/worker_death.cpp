@@ -6,6 +6,16 @@
 #include <cstring>
 
 namespace archive {
+namespace {
+
+/// "SIGABRT", in every language.
+QString signalName(int number)
+{
+    const char* name = ::sigabbrev_np(number);
+    return name != nullptr ? QStringLiteral("SIG") + QLatin1String(name) : QString::number(number);
+}
+
+} // namespace
 
 QString wordsFor(const WorkerDeath& death, const WorkerLimits& limits)
 {
@@ -30,7 +40,7 @@ QString wordsFor(const WorkerDeath& death, const WorkerLimits& limits)
                    : QCoreApplication::translate(
                          "archive::WorkerDeath",
                          "its import crashed twice (%1); please report the file")
-                         .arg(QString::fromLocal8Bit(::strsignal(death.code)));
+                         .arg(signalName(death.code));
     case WorkerDeath::Garbled:
         return QCoreApplication::translate("archive::WorkerDeath",
                                            "its import ended in disorder, twice; please report "

@@ -45,7 +45,7 @@ TEST_F(ArchiveRun, GoesOnBehindEveryKindOfBadFile)
     input(QStringLiteral("b.cnv"), "fail");
     input(QStringLiteral("c.cnv"), "exit");
     input(QStringLiteral("d.cnv"), "ok fine");
-    EXPECT_EQ(run(), lines({"crashed a.cnv: its import crashed twice (Aborted); please report the "
+    EXPECT_EQ(run(), lines({"crashed a.cnv: its import crashed twice (SIGABRT); please report the "
                             "file",
                             "failed b.cnv: it failed",
                             "crashed c.cnv: its import ended twice by itself (status 5); please "
