@@ -7,9 +7,10 @@
 include(CMakePackageConfigHelpers)
 
 # Installed programs find the library by their own place, so that an installation can be moved.
-cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}"
-    OUTPUT_VARIABLE LABELPORT_BIN_TO_LIB)
-set(CMAKE_INSTALL_RPATH "$ORIGIN/${LABELPORT_BIN_TO_LIB}")
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR
+    BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBEXECDIR}/labelport"
+    OUTPUT_VARIABLE LABELPORT_PROGRAM_TO_LIB)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/${LABELPORT_PROGRAM_TO_LIB}")
 
 set(LABELPORT_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/LabelPort)
 set(LABELPORT_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR}/labelport)
@@ -37,3 +38,6 @@ install(EXPORT LabelPortTargets
 # The logging library is not known before its folder was read.
 cmake_language(EVAL CODE
     "cmake_language(DEFER CALL include [[${CMAKE_CURRENT_LIST_DIR}/pkg_config_file.cmake]])")
+
+include(${CMAKE_CURRENT_LIST_DIR}/desktop.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)

@@ -2,6 +2,7 @@
 
 #include "apps/trace/repeatable_environment.h"
 #include "apps/trace/trace_import.h"
+#include "translations/program_language.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -9,8 +10,15 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <optional>
+#include <variant>
 
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(trace)
+};
 
 enum ExitStatus { Imported = 0, NotImported = 1, WrongUsage = 2 };
 
@@ -31,10 +39,12 @@ void print(const QString& text)
     std::fputs(qUtf8Printable(text), stdout);
 }
 
-int wrongUsage(const QString& message)
+ExitStatus wrongUsage(const QString& message)
 {
     complain(message);
-    std::fputs("Usage: labelport-trace FILE (see labelport-trace --help)\n", stderr);
+    std::fprintf(
+        stderr, "%s\n",
+        qUtf8Printable(Words::tr("Usage: labelport-trace FILE (see labelport-trace --help)")));
     return WrongUsage;
 }
 
@@ -42,7 +52,7 @@ int wrongUsage(const QString& message)
 QString obstacle(const QString& fileName)
 {
     if (QFileInfo(fileName).isDir()) {
-        return QStringLiteral("it is a folder");
+        return Words::tr("it is a folder");
     }
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
@@ -52,23 +62,25 @@ void explainFailure(const QString& fileName)
 {
     const QString reason = obstacle(fileName);
     if (reason.isEmpty()) {
-        complain(
-            QStringLiteral("%1 was not imported; the trace tells how far it came").arg(fileName));
+        complain(Words::tr("%1 was not imported; the trace tells how far it came").arg(fileName));
     } else {
-        complain(QStringLiteral("cannot read %1: %2").arg(fileName, reason));
+        complain(Words::tr("cannot read %1: %2").arg(fileName, reason));
     }
 }
 
-int trace(const QString& fileName)
+/// The trace itself has no language: it is the same whoever makes it.
+int trace(const QString& fileName, const QStringList& languages)
 {
     QFile out;
-    if (!out.open(stdout, QIODevice::WriteOnly)) {
-        complain(QStringLiteral("cannot write to standard output"));
+    const bool canWrite = out.open(stdout, QIODevice::WriteOnly);
+    const bool imported = canWrite && traceImport(fileName, out);
+    const translations::ProgramLanguage language(languages);
+    if (!canWrite) {
+        complain(Words::tr("cannot write to standard output"));
         return NotImported;
     }
-    const bool imported = traceImport(fileName, out);
     if (!out.flush() || std::fflush(stdout) != 0) {
-        complain(QStringLiteral("cannot write the trace: %1").arg(out.errorString()));
+        complain(Words::tr("cannot write the trace: %1").arg(out.errorString()));
         return NotImported;
     }
     if (!imported) {
@@ -86,16 +98,17 @@ QStringList argumentsOf(int argc, char** argv)
     return arguments;
 }
 
-int run(const QStringList& arguments)
+/// What the command line asks for: a file to trace, or an exit status when all is said already.
+std::variant<QString, ExitStatus> fileToTrace(const QStringList& arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Imports a legacy label into a host that records, and prints every call on it\n"
-        "as JSON Lines, then what has become of the items.\n\n"
-        "Exit status: 0 imported, 1 not imported, 2 wrong usage."));
+    parser.setApplicationDescription(
+        Words::tr("Imports a legacy label into a host that records, and prints every call on it\n"
+                  "as JSON Lines, then what has become of the items.\n\n"
+                  "Exit status: 0 imported, 1 not imported, 2 wrong usage."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The label to import."));
+    parser.addPositionalArgument(QStringLiteral("FILE"), Words::tr("The label to import."));
 
     if (!parser.parse(arguments)) {
         return wrongUsage(parser.errorText());
@@ -110,10 +123,21 @@ int run(const QStringList& arguments)
     }
     const QStringList files = parser.positionalArguments();
     if (files.size() != 1) {
-        return wrongUsage(files.isEmpty() ? QStringLiteral("no file given")
-                                          : QStringLiteral("one file at a time, please"));
+        return wrongUsage(files.isEmpty() ? Words::tr("no file given")
+                                          : Words::tr("one file at a time, please"));
     }
-    return trace(files.first());
+    return files.first();
+}
+
+int run(const QStringList& arguments, const QStringList& languages)
+{
+    std::optional<translations::ProgramLanguage> language(std::in_place, languages);
+    const std::variant<QString, ExitStatus> wanted = fileToTrace(arguments);
+    if (const auto* status = std::get_if<ExitStatus>(&wanted)) {
+        return *status;
+    }
+    language.reset();
+    return trace(std::get<QString>(wanted), languages);
 }
 
 } // namespace
@@ -128,5 +152,6 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("labelport-trace"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
     fixFont();
-    return run(argumentsOf(argc, argv));
+    return run(argumentsOf(argc, argv),
+               translations::wantedLanguages(QProcessEnvironment::systemEnvironment()));
 }

@@ -1,5 +1,6 @@
 #include "apps/workbench/icons.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
@@ -81,11 +82,9 @@ QIcon icon(IconName name, const QPalette& palette)
 
 QIcon applicationIcon()
 {
-    const QByteArray svg = QByteArrayLiteral(
-        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>"
-        "<rect x='1.5' y='4.5' width='21' height='15' rx='2.5' fill='#ffffff' stroke='#1a73e8' "
-        "stroke-width='2'/><path d='M6 8v8M8.5 8v8M12 8v8M13.8 8v8M17.5 8v8' stroke='#202124' "
-        "stroke-width='1.6'/></svg>");
+    // The drawing that the desktop shows too.
+    QFile drawing(QStringLiteral(":/labelport/icons/labelport-workbench.svg"));
+    const QByteArray svg = drawing.open(QIODevice::ReadOnly) ? drawing.readAll() : QByteArray();
     QIcon result;
     for (const int side : {16, 24, 32, 48, 64, 128}) {
         result.addPixmap(drawn(svg, side));

@@ -16,10 +16,10 @@ constexpr int kSummaryLength = 60;
 // A property shows the beginning of a text; nobody reads a megabyte in a table.
 constexpr int kLongestValue = 2000;
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("desktop::ItemDescription", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(desktop::ItemDescription)
+};
 
 QString shortened(const QString& text, int length)
 {
@@ -34,7 +34,7 @@ QString plainText(const workbench::TextValues& text)
 
 QString pixelText(const QSize& size)
 {
-    return tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
+    return Words::tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
 }
 
 // Collects rows under one group at a time.
@@ -46,7 +46,10 @@ public:
     {
         m_rows.append({m_group, name, shortened(value, kLongestValue)});
     }
-    void add(const QString& name, bool value) { add(name, value ? tr("yes") : tr("no")); }
+    void add(const QString& name, bool value)
+    {
+        add(name, value ? Words::tr("yes") : Words::tr("no"));
+    }
     void add(const QString& name, int value) { add(name, QLocale().toString(value)); }
     void add(const QString& name, const QColor& value) { add(name, colorName(value)); }
     [[nodiscard]] QList<PropertyRow> rows() const { return m_rows; }
@@ -58,119 +61,125 @@ private:
 
 void addPlace(Rows& rows, const ItemValues& values, LengthUnit unit)
 {
-    rows.begin(tr("Place"));
-    rows.add(tr("Kind"), kindName(values.type));
-    rows.add(tr("Left"), lengthText(values.placement.position.x(), unit));
-    rows.add(tr("Top"), lengthText(values.placement.position.y(), unit));
-    rows.add(tr("Width"), lengthText(values.box.size.width(), unit));
-    rows.add(tr("Height"), lengthText(values.box.size.height(), unit));
-    rows.add(tr("Angle"), angleText(values.box.rotation));
-    rows.add(tr("Flipped left to right"), values.box.flipHorizontal);
-    rows.add(tr("Flipped top to bottom"), values.box.flipVertical);
-    rows.add(tr("Layer"), QLocale().toString(values.placement.z));
-    rows.add(tr("Movable"), values.placement.movable);
-    rows.add(tr("Read-only"), values.placement.readOnly);
-    rows.add(tr("Background"), values.placement.userBackground);
+    rows.begin(Words::tr("Place"));
+    rows.add(Words::tr("Kind"), kindName(values.type));
+    rows.add(Words::tr("Left"), lengthText(values.placement.position.x(), unit));
+    rows.add(Words::tr("Top"), lengthText(values.placement.position.y(), unit));
+    rows.add(Words::tr("Width"), lengthText(values.box.size.width(), unit));
+    rows.add(Words::tr("Height"), lengthText(values.box.size.height(), unit));
+    rows.add(Words::tr("Angle"), angleText(values.box.rotation));
+    rows.add(Words::tr("Flipped left to right"), values.box.flipHorizontal);
+    rows.add(Words::tr("Flipped top to bottom"), values.box.flipVertical);
+    rows.add(Words::tr("Layer"), QLocale().toString(values.placement.z));
+    rows.add(Words::tr("Movable"), values.placement.movable);
+    rows.add(Words::tr("Read-only"), values.placement.readOnly);
+    rows.add(Words::tr("Background"), values.placement.userBackground);
 }
 
 void addPen(Rows& rows, const workbench::PenValues& pen)
 {
-    rows.begin(tr("Line"));
-    rows.add(tr("Line color"), pen.color);
-    rows.add(tr("Line width"), pen.width == 0 ? tr("thinnest") : tr("%1 pt").arg(pen.width));
-    rows.add(tr("Line style"), penStyleName(pen.style));
-    rows.add(tr("Line ends"), capStyleName(pen.cap));
-    rows.add(tr("Line corners"), joinStyleName(pen.join));
+    rows.begin(Words::tr("Line"));
+    rows.add(Words::tr("Line color"), pen.color);
+    rows.add(Words::tr("Line width"),
+             pen.width == 0 ? Words::tr("thinnest") : Words::tr("%1 pt").arg(pen.width));
+    rows.add(Words::tr("Line style"), penStyleName(pen.style));
+    rows.add(Words::tr("Line ends"), capStyleName(pen.cap));
+    rows.add(Words::tr("Line corners"), joinStyleName(pen.join));
 }
 
 void addFill(Rows& rows, const workbench::FillValues& fill)
 {
-    rows.begin(tr("Fill"));
-    rows.add(tr("Filled"), fill.filled);
-    rows.add(tr("Fill color"), fill.color);
-    rows.add(tr("Fill pattern"), brushStyleName(fill.style));
+    rows.begin(Words::tr("Fill"));
+    rows.add(Words::tr("Filled"), fill.filled);
+    rows.add(Words::tr("Fill color"), fill.color);
+    rows.add(Words::tr("Fill pattern"), brushStyleName(fill.style));
 }
 
 void addCorner(Rows& rows, const workbench::CornerValues& corner, LengthUnit unit)
 {
-    rows.begin(tr("Corners"));
-    rows.add(tr("Corner radius"),
-             corner.radius ? lengthText(*corner.radius, unit) : tr("a sixth of the shorter side"));
+    rows.begin(Words::tr("Corners"));
+    rows.add(Words::tr("Corner radius"), corner.radius ? lengthText(*corner.radius, unit)
+                                                       : Words::tr("a sixth of the shorter side"));
 }
 
 void addLine(Rows& rows, const workbench::LineValues& line, LengthUnit unit)
 {
-    rows.begin(tr("Ends"));
-    rows.add(tr("End, to the right"), lengthText(line.end.x(), unit));
-    rows.add(tr("End, down"), lengthText(line.end.y(), unit));
-    rows.add(tr("Mark at the start"), lineMarkerName(line.startMarker));
-    rows.add(tr("Mark at the end"), lineMarkerName(line.endMarker));
+    rows.begin(Words::tr("Ends"));
+    rows.add(Words::tr("End, to the right"), lengthText(line.end.x(), unit));
+    rows.add(Words::tr("End, down"), lengthText(line.end.y(), unit));
+    rows.add(Words::tr("Mark at the start"), lineMarkerName(line.startMarker));
+    rows.add(Words::tr("Mark at the end"), lineMarkerName(line.endMarker));
 }
 
 void addText(Rows& rows, const workbench::TextValues& text)
 {
-    rows.begin(tr("Text"));
-    rows.add(tr("Text"), plainText(text));
+    rows.begin(Words::tr("Text"));
+    rows.add(Words::tr("Text"), plainText(text));
 }
 
 void addTextStyle(Rows& rows, const workbench::TextStyleValues& style)
 {
-    rows.begin(tr("Text"));
-    rows.add(tr("Text color"), style.color);
-    rows.add(tr("Alignment"), alignmentName(style.alignment));
+    rows.begin(Words::tr("Text"));
+    rows.add(Words::tr("Text color"), style.color);
+    rows.add(Words::tr("Alignment"), alignmentName(style.alignment));
 }
 
 void addTextLabel(Rows& rows, const workbench::TextLabelValues& label, LengthUnit unit)
 {
-    rows.begin(tr("Text"));
-    rows.add(tr("Text box"), areaText(label.textBox.width(), label.textBox.height(), unit));
-    rows.add(tr("Fixed sides"), fixedSidesName(label.limiting));
+    rows.begin(Words::tr("Text"));
+    rows.add(Words::tr("Text box"), areaText(label.textBox.width(), label.textBox.height(), unit));
+    rows.add(Words::tr("Fixed sides"), fixedSidesName(label.limiting));
 }
 
 void addFont(Rows& rows, const workbench::FontValues& font)
 {
-    rows.begin(tr("Font"));
-    rows.add(tr("Font family"), font.family.isEmpty() ? tr("the default") : font.family);
-    rows.add(tr("Font size"), font.sized ? tr("%1 pt").arg(font.pointSize) : tr("not set"));
-    rows.add(tr("Bold"), font.bold);
-    rows.add(tr("Italic"), font.italic);
-    rows.add(tr("Underlined"), font.underline);
+    rows.begin(Words::tr("Font"));
+    rows.add(Words::tr("Font family"),
+             font.family.isEmpty() ? Words::tr("the default") : font.family);
+    rows.add(Words::tr("Font size"),
+             font.sized ? Words::tr("%1 pt").arg(font.pointSize) : Words::tr("not set"));
+    rows.add(Words::tr("Bold"), font.bold);
+    rows.add(Words::tr("Italic"), font.italic);
+    rows.add(Words::tr("Underlined"), font.underline);
 }
 
 void addBarcode(Rows& rows, const workbench::BarcodeValues& barcode)
 {
-    rows.begin(tr("Barcode"));
-    rows.add(tr("Symbology"), barcode.symbology);
-    rows.add(tr("Content"), barcode.content);
-    rows.add(tr("Module width"),
-             barcode.moduleWidth == 0 ? tr("automatic") : tr("%1 pt").arg(barcode.moduleWidth));
-    rows.add(tr("Bars"), barcode.foreground);
-    rows.add(tr("Ground"), barcode.background);
-    rows.add(tr("Option"), barcode.option);
+    rows.begin(Words::tr("Barcode"));
+    rows.add(Words::tr("Symbology"), barcode.symbology);
+    rows.add(Words::tr("Content"), barcode.content);
+    rows.add(Words::tr("Module width"), barcode.moduleWidth == 0
+                                            ? Words::tr("automatic")
+                                            : Words::tr("%1 pt").arg(barcode.moduleWidth));
+    rows.add(Words::tr("Bars"), barcode.foreground);
+    rows.add(Words::tr("Ground"), barcode.background);
+    rows.add(Words::tr("Option"), barcode.option);
 }
 
 void addPicture(Rows& rows, const workbench::PictureValues& picture)
 {
-    rows.begin(tr("Picture"));
-    rows.add(tr("Picture size"),
-             picture.image.isNull() ? tr("no picture") : pixelText(picture.image.size()));
+    rows.begin(Words::tr("Picture"));
+    rows.add(Words::tr("Picture size"),
+             picture.image.isNull() ? Words::tr("no picture") : pixelText(picture.image.size()));
 }
 
 void addSymbol(Rows& rows, const workbench::SymbolValues& symbol)
 {
-    rows.begin(tr("Symbol"));
-    rows.add(tr("Drawing"),
-             symbol.data.isEmpty() ? tr("none") : QLocale().formattedDataSize(symbol.data.size()));
-    rows.add(tr("Symbol color"), symbol.foreground);
-    rows.add(tr("Symbol ground"), symbol.background);
+    rows.begin(Words::tr("Symbol"));
+    rows.add(Words::tr("Drawing"), symbol.data.isEmpty()
+                                       ? Words::tr("none")
+                                       : QLocale().formattedDataSize(symbol.data.size()));
+    rows.add(Words::tr("Symbol color"), symbol.foreground);
+    rows.add(Words::tr("Symbol ground"), symbol.background);
 }
 
 void addDatasource(Rows& rows, const workbench::DatasourceValues& source)
 {
-    rows.begin(tr("Data source"));
-    rows.add(tr("Source"), source.id < 0 ? tr("none") : tr("number %1").arg(source.id));
+    rows.begin(Words::tr("Data source"));
+    rows.add(Words::tr("Source"),
+             source.id < 0 ? Words::tr("none") : Words::tr("number %1").arg(source.id));
     if (!source.fields.isEmpty()) {
-        rows.add(tr("Fields"), source.fields.join(QStringLiteral(", ")));
+        rows.add(Words::tr("Fields"), source.fields.join(QStringLiteral(", ")));
     }
 }
 
@@ -235,7 +244,7 @@ QString contentSummary(const ItemValues& values)
         content = pixelText(values.picture->image.size());
     }
     if (content.isEmpty() && values.datasource && values.datasource->id >= 0) {
-        content = tr("data source %1").arg(values.datasource->id);
+        content = Words::tr("data source %1").arg(values.datasource->id);
     }
     return shortened(content.left(kSummaryLength * 4).simplified(), kSummaryLength);
 }
@@ -244,7 +253,7 @@ QString itemTitle(const ItemValues& values)
 {
     const QString summary = contentSummary(values);
     const QString kind = kindName(values.type);
-    return summary.isEmpty() ? kind : tr("%1 “%2”").arg(kind, summary);
+    return summary.isEmpty() ? kind : Words::tr("%1 “%2”").arg(kind, summary);
 }
 
 QList<PropertyRow> describeItem(const ItemValues& values, LengthUnit unit)

@@ -4,6 +4,7 @@
 #include "apps/workbench/main_window.h"
 #include "apps/workbench/palettes.h"
 #include "apps/workbench/window_picture.h"
+#include "translations/program_language.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -46,8 +47,10 @@ Options readOptions(const QApplication& application)
     parser.process(application);
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1) {
-        std::fprintf(stderr, "labelport-workbench: a window holds one label, but %d were named\n",
-                     static_cast<int>(files.size()));
+        const QString message =
+            QCoreApplication::translate("main", "a window holds one label, but %1 were named")
+                .arg(files.size());
+        std::fprintf(stderr, "labelport-workbench: %s\n", qUtf8Printable(message));
         std::exit(kWrongUsage);
     }
     return {files.value(0), parser.value(QStringLiteral("screenshot"))};
@@ -62,6 +65,8 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
+    const translations::ProgramLanguage language(
+        translations::wantedLanguages(QProcessEnvironment::systemEnvironment()));
     QApplication::setWindowIcon(desktop::applicationIcon());
     const Options options = readOptions(application);
     desktop::applyColorScheme(desktop::storedColorScheme());

@@ -17,17 +17,17 @@ namespace desktop {
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("desktop::OutputCommands", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(desktop::OutputCommands)
+};
 
 // Work that is over at once shows no dialog.
 class ProgressWindow
 {
 public:
     ProgressWindow(const QString& title, qint64 count, QWidget* window)
-        : m_dialog(title, tr("Stop"), 0, static_cast<int>(count), window)
+        : m_dialog(title, Words::tr("Stop"), 0, static_cast<int>(count), window)
     {
         m_dialog.setWindowTitle(title);
         m_dialog.setWindowModality(Qt::WindowModal);
@@ -53,10 +53,10 @@ QString suggestedBase(const OpenLabel& label)
 QString told(const OutputReport& report, const OutputOrder& order)
 {
     if (report.wasStopped) {
-        return tr("Stopped after %1 files").arg(report.files);
+        return Words::tr("Stopped after %1 files").arg(report.files);
     }
-    return report.files == 1 ? tr("Written: %1").arg(fileNameInSeries(order, 0))
-                             : tr("%1 files written").arg(report.files);
+    return report.files == 1 ? Words::tr("Written: %1").arg(fileNameInSeries(order, 0))
+                             : Words::tr("%1 files written").arg(report.files);
 }
 
 // The pages of the print dialog are the records.
@@ -102,12 +102,12 @@ QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts
         return {};
     }
     const OutputOrder order = dialog.order();
-    ProgressWindow progress(tr("Exporting"), order.records.count, window);
+    ProgressWindow progress(Words::tr("Exporting"), order.records.count, window);
     const OutputReport report =
         writeOutput(label, order, [&progress](qint64 done) { return progress.isWanted(done); });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
-        prompts.showError(tr("The label could not be exported."), report.error);
+        prompts.showError(Words::tr("The label could not be exported."), report.error);
         return {};
     }
     return told(report, order);
@@ -124,16 +124,16 @@ QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
         return {};
     }
     const RecordRange records = recordsOf(printer, shownRecord, count);
-    ProgressWindow progress(tr("Printing"), records.count, window);
+    ProgressWindow progress(Words::tr("Printing"), records.count, window);
     const OutputReport report = printOutput(
         label, printer, records, [&progress](qint64 done) { return progress.isWanted(done); });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
-        prompts.showError(tr("The label could not be printed."), report.error);
+        prompts.showError(Words::tr("The label could not be printed."), report.error);
         return {};
     }
-    return report.wasStopped ? tr("Printing was stopped")
-                             : tr("%1 pages were given to the printer").arg(records.count);
+    return report.wasStopped ? Words::tr("Printing was stopped")
+                             : Words::tr("%1 pages were given to the printer").arg(records.count);
 }
 
 } // namespace desktop

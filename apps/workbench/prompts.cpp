@@ -15,10 +15,10 @@ namespace desktop {
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("desktop::Prompts", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(desktop::Prompts)
+};
 
 QString folderKey()
 {
@@ -36,10 +36,10 @@ QString startFolder()
 QString openFilters()
 {
     return QStringList{
-        tr("All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)"),
-        tr("Saved labels (*.label)"),
-        tr("Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)"),
-        tr("All files (*)"),
+        Words::tr("All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)"),
+        Words::tr("Saved labels (*.label)"),
+        Words::tr("Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)"),
+        Words::tr("All files (*)"),
     }
         .join(QStringLiteral(";;"));
 }
@@ -62,9 +62,9 @@ Prompts::Changes Prompts::askUnsavedChanges(const QString& labelName, bool allow
 {
     QMessageBox box(m_window);
     box.setIcon(QMessageBox::Question);
-    box.setWindowTitle(tr("Unsaved Changes"));
-    setPlainText(box, tr("Save the changes to “%1”?").arg(labelName),
-                 tr("Changes that are not saved will be lost."));
+    box.setWindowTitle(Words::tr("Unsaved Changes"));
+    setPlainText(box, Words::tr("Save the changes to “%1”?").arg(labelName),
+                 Words::tr("Changes that are not saved will be lost."));
     box.setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
     if (allowDiscard) {
         box.addButton(QMessageBox::Discard);
@@ -84,13 +84,14 @@ Prompts::Existing Prompts::askExisting(const QString& fileName) const
 {
     QMessageBox box(m_window);
     box.setIcon(QMessageBox::Question);
-    box.setWindowTitle(tr("Save Imported Label"));
-    setPlainText(box, tr("“%1” exists already.").arg(QFileInfo(fileName).fileName()),
-                 tr("The label was imported. It can replace that file, be saved under another "
-                    "name, or be saved later."));
-    QPushButton* replace = box.addButton(tr("&Replace"), QMessageBox::DestructiveRole);
-    QPushButton* rename = box.addButton(tr("&Other Name…"), QMessageBox::AcceptRole);
-    QPushButton* later = box.addButton(tr("Save &Later"), QMessageBox::RejectRole);
+    box.setWindowTitle(Words::tr("Save Imported Label"));
+    setPlainText(
+        box, Words::tr("“%1” exists already.").arg(QFileInfo(fileName).fileName()),
+        Words::tr("The label was imported. It can replace that file, be saved under another "
+                  "name, or be saved later."));
+    QPushButton* replace = box.addButton(Words::tr("&Replace"), QMessageBox::DestructiveRole);
+    QPushButton* rename = box.addButton(Words::tr("&Other Name…"), QMessageBox::AcceptRole);
+    QPushButton* later = box.addButton(Words::tr("Save &Later"), QMessageBox::RejectRole);
     box.setDefaultButton(rename);
     box.setEscapeButton(later);
     box.exec();
@@ -102,8 +103,8 @@ Prompts::Existing Prompts::askExisting(const QString& fileName) const
 
 QString Prompts::askOpenFile() const
 {
-    const QString fileName =
-        QFileDialog::getOpenFileName(m_window, tr("Open Label"), startFolder(), openFilters());
+    const QString fileName = QFileDialog::getOpenFileName(m_window, Words::tr("Open Label"),
+                                                          startFolder(), openFilters());
     if (!fileName.isEmpty()) {
         QSettings().setValue(folderKey(), QFileInfo(fileName).absolutePath());
     }
@@ -112,8 +113,8 @@ QString Prompts::askOpenFile() const
 
 QString Prompts::askSaveFile(const QString& suggestedName) const
 {
-    QFileDialog dialog(m_window, tr("Save Label"), QFileInfo(suggestedName).absolutePath(),
-                       tr("Saved labels (*.label)"));
+    QFileDialog dialog(m_window, Words::tr("Save Label"), QFileInfo(suggestedName).absolutePath(),
+                       Words::tr("Saved labels (*.label)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(labelSuffix().mid(1));
     dialog.selectFile(QFileInfo(suggestedName).fileName());
@@ -127,7 +128,7 @@ void Prompts::showError(const QString& what, const QString& why) const
 {
     QMessageBox box(m_window);
     box.setIcon(QMessageBox::Warning);
-    box.setWindowTitle(tr("LabelPort Workbench"));
+    box.setWindowTitle(Words::tr("LabelPort Workbench"));
     setPlainText(box, what, why);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();

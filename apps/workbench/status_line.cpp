@@ -9,10 +9,10 @@ namespace desktop {
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("desktop::StatusLine", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(desktop::StatusLine)
+};
 
 QLabel* makeLabel(QStatusBar& bar)
 {
@@ -45,15 +45,15 @@ void StatusLine::setPage(std::optional<QSizeF> size, LengthUnit unit)
 
 void StatusLine::setRecord(qint64 record, qint64 count)
 {
-    m_record->setText(
-        count > 1
-            ? tr("Record %1 of %2").arg(QLocale().toString(record + 1), QLocale().toString(count))
-            : QString());
+    m_record->setText(count > 1
+                          ? Words::tr("Record %1 of %2")
+                                .arg(QLocale().toString(record + 1), QLocale().toString(count))
+                          : QString());
 }
 
 void StatusLine::setZoom(std::optional<double> zoom)
 {
-    m_zoom->setText(zoom ? tr("%1 %").arg(qRound(*zoom * 100.0)) : QString());
+    m_zoom->setText(zoom ? Words::tr("%1 %").arg(qRound(*zoom * 100.0)) : QString());
 }
 
 } // namespace desktop

@@ -16,10 +16,10 @@ namespace desktop {
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("desktop::WindowPanels", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(desktop::WindowPanels)
+};
 
 // The object name is what the window's state is stored under.
 QDockWidget* makeDock(QMainWindow& window, Qt::DockWidgetArea area, const QString& title,
@@ -46,14 +46,14 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
     , m_properties(new PropertyPanel)
     , m_sources(new SourcePanel(actions))
     , m_issues(new IssuesPanel)
-    , m_itemDock(
-          makeDock(window, Qt::RightDockWidgetArea, tr("Items"), QStringLiteral("items"), *m_items))
-    , m_propertyDock(makeDock(window, Qt::RightDockWidgetArea, tr("Properties"),
+    , m_itemDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Items"),
+                          QStringLiteral("items"), *m_items))
+    , m_propertyDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Properties"),
                               QStringLiteral("properties"), *m_properties))
-    , m_sourceDock(makeDock(window, Qt::BottomDockWidgetArea, tr("Data Sources"),
+    , m_sourceDock(makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Data Sources"),
                             QStringLiteral("sources"), *m_sources))
-    , m_issueDock(makeDock(window, Qt::BottomDockWidgetArea, tr("Issues"), QStringLiteral("issues"),
-                           *m_issues))
+    , m_issueDock(makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Issues"),
+                           QStringLiteral("issues"), *m_issues))
 {
     // The right side goes down to the status bar: lists of items are long.
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);

@@ -48,8 +48,9 @@ void WindowPicture::take()
     if (isWritten) {
         std::printf("%s\n", qUtf8Printable(m_fileName));
     } else {
-        std::fprintf(stderr, "labelport-workbench: cannot write \"%s\"\n",
-                     qUtf8Printable(m_fileName));
+        const QString message =
+            QCoreApplication::translate("main", "cannot write “%1”").arg(m_fileName);
+        std::fprintf(stderr, "labelport-workbench: %s\n", qUtf8Printable(message));
     }
     QCoreApplication::exit(isWritten ? EXIT_SUCCESS : EXIT_FAILURE);
 }

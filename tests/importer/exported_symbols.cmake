@@ -1,7 +1,8 @@
-# cmake -DNM=... -DLIBRARY=... -P exported_symbols.cmake
+# cmake -DNM=... -DREADELF=... -DLIBRARY=... -DSONAME=... -P exported_symbols.cmake
 #
 # Fails when the library defines a dynamic symbol that belongs to neither of the two
-# classes that it is there for, or when it does not define their operations.
+# classes that it is there for, or when it does not define their operations, or when programs
+# that are linked with it would look for another name.
 execute_process(
     COMMAND ${NM} --dynamic --defined-only --demangle ${LIBRARY}
     OUTPUT_VARIABLE listing
@@ -41,3 +42,11 @@ foreach(wanted IN ITEMS
         message(FATAL_ERROR "The library does not show ${wanted}")
     endif()
 endforeach()
+
+execute_process(
+    COMMAND ${READELF} --dynamic ${LIBRARY}
+    OUTPUT_VARIABLE dynamic
+    COMMAND_ERROR_IS_FATAL ANY)
+if(NOT dynamic MATCHES "\\(SONAME\\)[^\n]*\\[${SONAME}\\]")
+    message(FATAL_ERROR "The library is not known to programs as ${SONAME}:\n${dynamic}")
+endif()

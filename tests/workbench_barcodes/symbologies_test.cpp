@@ -35,7 +35,7 @@ TEST(Symbologies, HaveNamesOfTheirOwn)
 {
     QSet<QString> names;
     for (const Symbology& each : symbologies())
-        names.insert(each.name.toString());
+        names.insert(QString::fromLatin1(each.name));
     EXPECT_EQ(names.size(), static_cast<qsizetype>(symbologies().size()));
     EXPECT_EQ(symbologyName(58), QStringLiteral("QR Code"));
     EXPECT_EQ(symbologyName(5), QStringLiteral("barcode kind 5"));

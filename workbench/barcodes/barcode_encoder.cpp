@@ -3,6 +3,7 @@
 #include "workbench/barcodes/symbologies.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 
 #include <zint.h>
 
@@ -15,6 +16,11 @@
 namespace workbench::barcodes {
 
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::BarcodeEncoder)
+};
 
 struct SymbolDeleter
 {
@@ -34,22 +40,31 @@ using SymbolPointer = std::unique_ptr<zint_symbol, SymbolDeleter>;
 struct Reason
 {
     int code;
-    QStringView words;
+    const char* words; // %1 is the kind of barcode; %2 what the library says, or nothing
 };
 
 constexpr std::array<Reason, 5> Reasons{{
-    {ZINT_ERROR_TOO_LONG, u"has a length that this kind of barcode does not take"},
-    {ZINT_ERROR_INVALID_DATA, u"does not suit this kind of barcode"},
-    {ZINT_ERROR_INVALID_CHECK, u"ends in a wrong check digit"},
-    {ZINT_ERROR_INVALID_OPTION, u"does not go together with the barcode's settings"},
-    {ZINT_ERROR_MEMORY, u"is too much for the memory"},
+    {ZINT_ERROR_TOO_LONG,
+     QT_TRANSLATE_NOOP("workbench::BarcodeEncoder",
+                       "%1: the content has a length that this kind of barcode does not take%2.")},
+    {ZINT_ERROR_INVALID_DATA,
+     QT_TRANSLATE_NOOP("workbench::BarcodeEncoder",
+                       "%1: the content does not suit this kind of barcode%2.")},
+    {ZINT_ERROR_INVALID_CHECK, QT_TRANSLATE_NOOP("workbench::BarcodeEncoder",
+                                                 "%1: the content ends in a wrong check digit%2.")},
+    {ZINT_ERROR_INVALID_OPTION,
+     QT_TRANSLATE_NOOP("workbench::BarcodeEncoder",
+                       "%1: the content does not go together with the barcode's settings%2.")},
+    {ZINT_ERROR_MEMORY, QT_TRANSLATE_NOOP("workbench::BarcodeEncoder",
+                                          "%1: the content is too much for the memory%2.")},
 }};
 
 [[nodiscard]] QString reasonWords(int code)
 {
     const auto found = std::find_if(Reasons.begin(), Reasons.end(),
                                     [code](const Reason& each) { return each.code == code; });
-    return found == Reasons.end() ? QStringLiteral("cannot be encoded") : found->words.toString();
+    return found == Reasons.end() ? Words::tr("%1: the content cannot be encoded%2.")
+                                  : Words::tr(found->words);
 }
 
 /// The library's own explanation without its "Error 123: ".
@@ -65,8 +80,8 @@ constexpr std::array<Reason, 5> Reasons{{
 [[nodiscard]] QString explanation(const zint_symbol& symbol, int code, const QString& name)
 {
     const QString why = detail(symbol);
-    return QStringLiteral("%1: the content %2%3.")
-        .arg(name, reasonWords(code), why.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(why));
+    return reasonWords(code).arg(name,
+                                 why.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(why));
 }
 
 // --- what goes in -----------------------------------------------------------------------
@@ -204,15 +219,15 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
 {
     const SymbolPointer symbol = makeSymbol(request, symbology, withSettings);
     if (!symbol)
-        return failure(QStringLiteral("There is not enough memory for the barcode."));
+        return failure(Words::tr("There is not enough memory for the barcode."));
     QByteArray bytes = request.content.toUtf8();
-    const QString name = symbology.name.toString();
+    const QString name = symbologyName(request.symbology);
     if (!splitComposite(*symbol, bytes))
-        return failure(QStringLiteral("%1: the content needs a linear part, a \"|\" and a second"
-                                      " part.")
+        return failure(Words::tr("%1: the content needs a linear part, a \"|\" and a second"
+                                 " part.")
                            .arg(name));
     if (bytes.size() > ZINT_MAX_DATA_LEN)
-        return failure(QStringLiteral("%1: the content is too long for any barcode.").arg(name));
+        return failure(Words::tr("%1: the content is too long for any barcode.").arg(name));
     const int encoded =
         ZBarcode_Encode(symbol.get(), reinterpret_cast<const unsigned char*>(bytes.constData()),
                         static_cast<int>(bytes.size()));
@@ -223,7 +238,7 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
         return failure(explanation(*symbol, drawn, name));
     const BarcodeSymbol result = taken(*symbol, request);
     if (isBlank(result))
-        return failure(QStringLiteral("%1: the content gives no bars at all.").arg(name));
+        return failure(Words::tr("%1: the content gives no bars at all.").arg(name));
     return result;
 }
 
@@ -238,14 +253,15 @@ BarcodeSymbol encode(const BarcodeRequest& request)
 {
     const Symbology* symbology = findSymbology(request.symbology);
     if (!symbology || !ZBarcode_ValidID(request.symbology))
-        return failure(QStringLiteral("The label asks for a kind of barcode that is not known"
-                                      " (number %1).")
+        return failure(Words::tr("The label asks for a kind of barcode that is not known"
+                                 " (number %1).")
                            .arg(request.symbology));
     if (request.content.isEmpty())
-        return failure(QStringLiteral("%1: there is no content to encode.").arg(symbology->name));
-    if (request.content.size() > MaximumContent)
         return failure(
-            QStringLiteral("%1: the content is too long for any barcode.").arg(symbology->name));
+            Words::tr("%1: there is no content to encode.").arg(symbologyName(request.symbology)));
+    if (request.content.size() > MaximumContent)
+        return failure(Words::tr("%1: the content is too long for any barcode.")
+                           .arg(symbologyName(request.symbology)));
     BarcodeSymbol symbol = encodeOnce(request, *symbology, true);
     if (symbol.isValid() || !hasSettings(request))
         return symbol;

@@ -14,7 +14,7 @@ namespace workbench::barcodes {
 struct Symbology
 {
     int code = 0;
-    QStringView name;
+    const char* name = nullptr; ///< in English; symbologyName() says it in the program's language
     /// Two-dimensional: a matrix, several rows, or a linear part with a matrix above it.
     bool matrix = false;
     /// The option 1 asks for a check digit.

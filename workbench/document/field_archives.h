@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/document/document_limits.h"
+#include "workbench/document/field_words.h"
 #include "workbench/document/json_values.h"
 #include "workbench/document/label_fields.h"
 
@@ -77,18 +78,17 @@ public:
     {}
 
     /// Where and why reading ended, "items[3].pen.color is not a color"; empty when it did not.
-    [[nodiscard]] QString error() const { return m_error; }
+    [[nodiscard]] QString error() const { return m_problem ? m_problem->text() : QString(); }
 
     template <class T>
     void operator()(const char* name, T& value)
     {
-        if (!m_error.isEmpty())
+        if (m_problem)
             return;
         const QJsonValue json = m_object.value(QLatin1String(name));
-        const QString problem =
-            json.isUndefined() ? QStringLiteral(" is missing") : read(json, value);
-        if (!problem.isEmpty())
-            m_error = QLatin1String(name) + problem;
+        m_problem = json.isUndefined() ? fieldIsMissing() : read(json, value);
+        if (m_problem)
+            m_problem->path.prepend(QLatin1String(name));
     }
 
     template <class T>
@@ -102,42 +102,46 @@ public:
 
 private:
     template <SingleValue T>
-    [[nodiscard]] static QString read(const QJsonValue& json, T& value)
+    [[nodiscard]] static MaybeProblem read(const QJsonValue& json, T& value)
     {
-        return Json<T>::read(json, value) ? QString()
-                                          : QStringLiteral(" is not %1").arg(Json<T>::Kind);
+        return Json<T>::read(json, value) ? MaybeProblem() : fieldIsNot(Json<T>::Kind);
     }
 
     template <class T>
-    requires(!SingleValue<T>) [[nodiscard]] static QString read(const QJsonValue& json, T& group)
+    requires(!SingleValue<T>) [[nodiscard]] static MaybeProblem
+        read(const QJsonValue& json, T& group)
     {
         if (!json.isObject())
-            return QStringLiteral(" is not a group of fields");
+            return fieldIsNot(GroupKind);
         FieldReader reader(json.toObject());
         describe(reader, group);
-        return reader.error().isEmpty() ? QString() : u'.' + reader.error();
+        if (reader.m_problem)
+            reader.m_problem->path.prepend(u'.');
+        return reader.m_problem;
     }
 
     template <class T>
-    requires(!SingleValue<QList<T>>) [[nodiscard]] static QString
+    requires(!SingleValue<QList<T>>) [[nodiscard]] static MaybeProblem
         read(const QJsonValue& json, QList<T>& groups)
     {
         const QJsonArray array = json.toArray();
         if (!json.isArray())
-            return QStringLiteral(" is not a list");
+            return fieldIsNot(ListKind);
         if (array.size() > limits::Items)
-            return QStringLiteral(" is longer than %1").arg(limits::Items);
+            return fieldIsLonger(limits::Items);
         groups.clear();
         for (qsizetype i = 0; i < array.size(); ++i) {
-            const QString problem = read(array[i], groups.emplaceBack());
-            if (!problem.isEmpty())
-                return QStringLiteral("[%1]%2").arg(QString::number(i), problem);
+            MaybeProblem problem = read(array[i], groups.emplaceBack());
+            if (problem) {
+                problem->path.prepend(QLatin1Char('[') + QString::number(i) + QLatin1Char(']'));
+                return problem;
+            }
         }
         return {};
     }
 
     QJsonObject m_object;
-    QString m_error;
+    MaybeProblem m_problem;
 };
 
 } // namespace workbench::document

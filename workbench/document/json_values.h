@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QCoreApplication>
 #include <QImage>
 #include <QJsonValue>
 #include <QPointF>
@@ -28,7 +29,7 @@ struct Json;
 template <>
 struct Json<bool>
 {
-    static constexpr QStringView Kind = u"true or false";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "true or false");
     [[nodiscard]] static QJsonValue write(bool value) { return value; }
     [[nodiscard]] static bool read(const QJsonValue& json, bool& value);
 };
@@ -36,7 +37,8 @@ struct Json<bool>
 template <std::integral T>
 requires(sizeof(T) <= sizeof(qint32)) struct Json<T>
 {
-    static constexpr QStringView Kind = u"a whole number in range";
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("workbench::FieldWords", "a whole number in range");
     [[nodiscard]] static QJsonValue write(T value) { return static_cast<double>(value); }
     [[nodiscard]] static bool read(const QJsonValue& json, T& value)
     {
@@ -52,7 +54,7 @@ requires(sizeof(T) <= sizeof(qint32)) struct Json<T>
 template <>
 struct Json<double>
 {
-    static constexpr QStringView Kind = u"a number";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "a number");
     [[nodiscard]] static QJsonValue write(double value);
     [[nodiscard]] static bool read(const QJsonValue& json, double& value);
 };
@@ -61,7 +63,8 @@ struct Json<double>
 template <>
 struct Json<std::optional<double>>
 {
-    static constexpr QStringView Kind = u"a number or null";
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("workbench::FieldWords", "a number or null");
     [[nodiscard]] static QJsonValue write(const std::optional<double>& value);
     [[nodiscard]] static bool read(const QJsonValue& json, std::optional<double>& value);
 };
@@ -70,7 +73,7 @@ struct Json<std::optional<double>>
 template <>
 struct Json<QString>
 {
-    static constexpr QStringView Kind = u"a text";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "a text");
     [[nodiscard]] static QJsonValue write(const QString& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QString& value);
 };
@@ -78,7 +81,8 @@ struct Json<QString>
 template <>
 struct Json<QStringList>
 {
-    static constexpr QStringView Kind = u"a list of texts";
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("workbench::FieldWords", "a list of texts");
     [[nodiscard]] static QJsonValue write(const QStringList& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QStringList& value);
 };
@@ -87,7 +91,7 @@ struct Json<QStringList>
 template <>
 struct Json<QColor>
 {
-    static constexpr QStringView Kind = u"a color";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "a color");
     [[nodiscard]] static QJsonValue write(const QColor& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QColor& value);
 };
@@ -96,7 +100,8 @@ struct Json<QColor>
 template <>
 struct Json<QSizeF>
 {
-    static constexpr QStringView Kind = u"a width and a height";
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("workbench::FieldWords", "a width and a height");
     [[nodiscard]] static QJsonValue write(const QSizeF& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QSizeF& value);
 };
@@ -105,7 +110,7 @@ struct Json<QSizeF>
 template <>
 struct Json<QPointF>
 {
-    static constexpr QStringView Kind = u"a point";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "a point");
     [[nodiscard]] static QJsonValue write(const QPointF& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QPointF& value);
 };
@@ -114,7 +119,7 @@ struct Json<QPointF>
 template <>
 struct Json<QByteArray>
 {
-    static constexpr QStringView Kind = u"data";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "data");
     [[nodiscard]] static QJsonValue write(const QByteArray& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QByteArray& value);
 };
@@ -122,7 +127,7 @@ struct Json<QByteArray>
 template <>
 struct Json<Qt::Alignment>
 {
-    static constexpr QStringView Kind = u"an alignment";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "an alignment");
     [[nodiscard]] static QJsonValue write(Qt::Alignment value);
     [[nodiscard]] static bool read(const QJsonValue& json, Qt::Alignment& value);
 };
@@ -131,7 +136,8 @@ struct Json<Qt::Alignment>
 template <>
 struct Json<KestTypes::ShapeType>
 {
-    static constexpr QStringView Kind = u"a known type of item";
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("workbench::FieldWords", "a known type of item");
     [[nodiscard]] static QJsonValue write(KestTypes::ShapeType value);
     [[nodiscard]] static bool read(const QJsonValue& json, KestTypes::ShapeType& value);
 };
@@ -140,7 +146,8 @@ struct Json<KestTypes::ShapeType>
 template <>
 struct Json<QVariantMap>
 {
-    static constexpr QStringView Kind = u"a set of properties";
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("workbench::FieldWords", "a set of properties");
     [[nodiscard]] static QJsonValue write(const QVariantMap& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QVariantMap& value);
 };
@@ -149,7 +156,7 @@ struct Json<QVariantMap>
 template <>
 struct Json<QImage>
 {
-    static constexpr QStringView Kind = u"a picture";
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("workbench::FieldWords", "a picture");
     [[nodiscard]] static QJsonValue write(const QImage& value);
     [[nodiscard]] static bool read(const QJsonValue& json, QImage& value);
 };

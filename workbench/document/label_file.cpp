@@ -3,6 +3,7 @@
 #include "workbench/document/document_limits.h"
 #include "workbench/document/label_json.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -12,15 +13,20 @@ namespace workbench::document {
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::LabelFile)
+};
+
 [[nodiscard]] QString cannotSave(const QString& path, const QString& reason)
 {
-    return QStringLiteral("The label cannot be saved as %1: %2.")
+    return Words::tr("The label cannot be saved as %1: %2.")
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
 [[nodiscard]] QString cannotOpen(const QString& path, const QString& reason)
 {
-    return QStringLiteral("The file %1 cannot be opened: %2.")
+    return Words::tr("The file %1 cannot be opened: %2.")
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
@@ -55,10 +61,10 @@ QString saveLabel(const QString& path, const Canvas& canvas,
 {
     const SavedLabel label = snapshot(canvas, datasources);
     if (label.items.size() > limits::Items || label.datasources.size() > limits::Items)
-        return cannotSave(path, QStringLiteral("it has more than %1 items").arg(limits::Items));
+        return cannotSave(path, Words::tr("it has more than %1 items").arg(limits::Items));
     const QByteArray bytes = toJson(label);
     if (bytes.size() > limits::FileBytes)
-        return cannotSave(path, QStringLiteral("its pictures are too large"));
+        return cannotSave(path, Words::tr("its pictures are too large"));
     QSaveFile file(path);
     // What is still in a buffer when the file is closed could fail without a word.
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
@@ -71,7 +77,7 @@ QString openLabel(const QString& path, Canvas& canvas,
                   datasources::DatasourceController& datasources)
 {
     if (QFileInfo(path).isDir())
-        return cannotOpen(path, QStringLiteral("it is a folder"));
+        return cannotOpen(path, Words::tr("it is a folder"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return cannotOpen(path, file.errorString());
@@ -79,12 +85,12 @@ QString openLabel(const QString& path, Canvas& canvas,
     if (file.error() != QFileDevice::NoError)
         return cannotOpen(path, file.errorString());
     if (bytes.size() > limits::FileBytes)
-        return cannotOpen(path, QStringLiteral("it is larger than any label"));
+        return cannotOpen(path, Words::tr("it is larger than any label"));
     const ReadLabel read = fromJson(bytes);
     if (!read.error.isEmpty())
         return read.error;
     if (!restore(read.label, canvas, datasources))
-        return QStringLiteral("The label file is damaged: its data sources do not fit together.");
+        return Words::tr("The label file is damaged: its data sources do not fit together.");
     return {};
 }
 

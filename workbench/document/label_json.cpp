@@ -2,6 +2,7 @@
 
 #include "workbench/document/field_archives.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -9,6 +10,11 @@
 namespace workbench::document {
 
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::LabelFile)
+};
 
 constexpr QLatin1String FormatKey("format");
 constexpr QLatin1String VersionKey("version");
@@ -31,23 +37,23 @@ constexpr QLatin1String FormatName("labelport-label");
 [[nodiscard]] QString envelopeError(const QJsonObject& file)
 {
     if (file.value(FormatKey) != QJsonValue(FormatName))
-        return QStringLiteral("The file is not a saved label.");
+        return Words::tr("The file is not a saved label.");
     int version = 0;
     if (!Json<int>::read(file.value(VersionKey), version) || version < 1)
-        return QStringLiteral("The label file is damaged: version is not a positive whole number.");
+        return Words::tr("The label file is damaged: version is not a positive whole number.");
     if (version > FormatVersion)
-        return QStringLiteral("The label was saved by a newer version of the program: its format"
-                              " is %1, and this version knows formats up to %2. Update the"
-                              " program to open it.")
+        return Words::tr("The label was saved by a newer version of the program: its format"
+                         " is %1, and this version knows formats up to %2. Update the"
+                         " program to open it.")
             .arg(version)
             .arg(FormatVersion);
     if (!file.value(LabelKey).isObject())
-        return QStringLiteral("The label file is damaged: label is missing.");
+        return Words::tr("The label file is damaged: label is missing.");
     // A file that a person or another program has written needs no checksum.
     if (file.contains(ChecksumKey) &&
         file.value(ChecksumKey) != QJsonValue(checksumOf(file.value(LabelKey).toObject())))
-        return QStringLiteral("The label file is damaged: its content has changed since it was"
-                              " saved.");
+        return Words::tr("The label file is damaged: its content has changed since it was"
+                         " saved.");
     return {};
 }
 
@@ -70,8 +76,8 @@ ReadLabel fromJson(const QByteArray& bytes)
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);
     if (parsing.error != QJsonParseError::NoError)
-        return refusal(QStringLiteral("The file is not a saved label, or it is damaged: after %1"
-                                      " bytes it cannot be read any further.")
+        return refusal(Words::tr("The file is not a saved label, or it is damaged: after %1"
+                                 " bytes it cannot be read any further.")
                            .arg(parsing.offset));
     const QJsonObject file = document.object();
     const QString error = envelopeError(file);
@@ -81,7 +87,7 @@ ReadLabel fromJson(const QByteArray& bytes)
     FieldReader reader(file.value(LabelKey).toObject());
     describe(reader, result.label);
     if (!reader.error().isEmpty())
-        return refusal(QStringLiteral("The label file is damaged: %1.").arg(reader.error()));
+        return refusal(Words::tr("The label file is damaged: %1.").arg(reader.error()));
     return result;
 }
 

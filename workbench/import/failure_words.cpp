@@ -17,8 +17,11 @@ struct Row
     const char* words;
 };
 
+// The one of them that the reader says in the program's language (no translation: it has one).
+constexpr const char* VersionRefused = "Invalid canvas file version";
+
 constexpr std::array kRows{
-    Row{R"(^Invalid canvas file version \((\d+))",
+    Row{VersionRefused,
         QT_TRANSLATE_NOOP("workbench::FailureWords",
                           "The file is no binary label, or one of a version that cannot be read: "
                           "it says version %1, but 2000016 is the oldest that can.")},
@@ -57,10 +60,25 @@ QString translated(const char* words)
     return QCoreApplication::translate("workbench::FailureWords", words);
 }
 
+QString versionRefusedPattern()
+{
+    const QString text = QCoreApplication::translate(
+        "QObject", "Invalid canvas file version (%1 != %2) in", "Content of error message.");
+    return QLatin1Char('^') + QRegularExpression::escape(text)
+                                  .replace(QLatin1String("\\%1"), QLatin1String("(\\d+)"))
+                                  .replace(QLatin1String("\\%2"), QLatin1String("\\d+"));
+}
+
+QString patternOf(const Row& row)
+{
+    return row.pattern == VersionRefused ? versionRefusedPattern()
+                                         : QString::fromLatin1(row.pattern);
+}
+
 QString wordsFor(const QString& message)
 {
     for (const Row& row : kRows) {
-        const QRegularExpression pattern(QString::fromLatin1(row.pattern),
+        const QRegularExpression pattern(patternOf(row),
                                          QRegularExpression::DotMatchesEverythingOption);
         const QRegularExpressionMatch match = pattern.match(message);
         if (!match.hasMatch()) {

@@ -10,10 +10,10 @@ namespace workbench {
 
 namespace {
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("workbench::FileCheck", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(workbench::FileCheck)
+};
 
 QByteArray headOf(const QString& fileName)
 {
@@ -35,22 +35,22 @@ QString whyFileCannotBeRead(const QString& fileName)
 {
     const QFileInfo info(fileName);
     if (fileName.isEmpty()) {
-        return tr("No file was named.");
+        return Words::tr("No file was named.");
     }
     if (!info.exists()) {
-        return tr("There is no such file.");
+        return Words::tr("There is no such file.");
     }
     if (info.isDir()) {
-        return tr("This is a folder, not a file.");
+        return Words::tr("This is a folder, not a file.");
     }
     if (!info.isFile()) {
-        return tr("This is not a regular file.");
+        return Words::tr("This is not a regular file.");
     }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        return tr("The file cannot be opened: %1.").arg(file.errorString());
+        return Words::tr("The file cannot be opened: %1.").arg(file.errorString());
     }
-    return file.size() == 0 ? tr("The file is empty.") : QString();
+    return file.size() == 0 ? Words::tr("The file is empty.") : QString();
 }
 
 QString howNameMisleads(const QString& fileName)
@@ -60,13 +60,15 @@ QString howNameMisleads(const QString& fileName)
     }
     const QByteArray head = headOf(fileName);
     if (head.startsWith("PK\x03\x04")) {
-        return tr("The file is a zip package, as OpenDocument files are, but by its name it is a "
-                  "binary label. If it is an OpenDocument file, rename it so that its only dot "
-                  "is that of \".odt\" or \".odg\".");
+        return Words::tr(
+            "The file is a zip package, as OpenDocument files are, but by its name it is a "
+            "binary label. If it is an OpenDocument file, rename it so that its only dot "
+            "is that of \".odt\" or \".odg\".");
     }
     if (looksLikeXml(head)) {
-        return tr("The file is XML, but by its name it is a binary label. If it is an XML label, "
-                  "rename it so that its only dot is that of \".qmtx\".");
+        return Words::tr(
+            "The file is XML, but by its name it is a binary label. If it is an XML label, "
+            "rename it so that its only dot is that of \".qmtx\".");
     }
     return {};
 }

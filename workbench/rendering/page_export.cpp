@@ -27,14 +27,17 @@ constexpr int kPdfDpi = 1200;
 // The head of a document that holds its size.
 constexpr qsizetype kHeadLength = 600;
 
-QString tr(const char* text)
+// Stands in the files: a label's output is the same in every language of the program.
+const QString DocumentTitle = QStringLiteral("Label");
+
+struct Words
 {
-    return QCoreApplication::translate("workbench::PageExport", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(workbench::PageExport)
+};
 
 QString cannotWrite(const QString& fileName, const QString& reason)
 {
-    return tr("Cannot write \"%1\": %2.").arg(fileName, reason);
+    return Words::tr("Cannot write \"%1\": %2.").arg(fileName, reason);
 }
 
 // The resolution in which fonts of a size in points were laid out.
@@ -71,7 +74,7 @@ QByteArray svgOf(const Canvas& canvas)
     generator.setResolution(layoutDpi());
     generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
     generator.setViewBox(canvas.pageRect());
-    generator.setTitle(tr("Label"));
+    generator.setTitle(DocumentTitle);
     generator.setDescription(QStringLiteral("LabelPort"));
     QPainter painter(&generator);
     paintPage(painter, canvas);
@@ -96,7 +99,7 @@ void setUp(QPdfWriter& writer, const Canvas& canvas)
     writer.setPageOrientation(QPageLayout::Portrait);
     writer.setPageMargins(QMarginsF());
     writer.setCreator(QStringLiteral("LabelPort"));
-    writer.setTitle(tr("Label"));
+    writer.setTitle(DocumentTitle);
 }
 
 } // namespace
@@ -118,7 +121,8 @@ QString writePdf(const Canvas& canvas, const QString& fileName, qint64 pages,
                  const PreparePage& prepare)
 {
     if (isTooLargeForPdf(canvas.page().size)) {
-        return tr("The page is longer than %1 points, the most that a PDF document can have.")
+        return Words::tr(
+                   "The page is longer than %1 points, the most that a PDF document can have.")
             .arg(kMaximumPdfSide);
     }
     QSaveFile file(fileName);

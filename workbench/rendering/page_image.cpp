@@ -19,10 +19,10 @@ namespace {
 constexpr double kPointsPerInch = 72.0;
 constexpr double kMetresPerInch = 0.0254;
 
-QString tr(const char* text)
+struct Words
 {
-    return QCoreApplication::translate("workbench::PageImage", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(workbench::PageImage)
+};
 
 // Pixels as doubles: a page may ask for more than an integer holds.
 QSizeF pixelSize(const Canvas& canvas, double dpi)
@@ -52,8 +52,9 @@ int largestDpi(const QSizeF& page)
 QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
 {
     const QString text =
-        tr("The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots "
-           "per inch. The largest picture is %6 pixels along a side and %7 million in all.")
+        Words::tr(
+            "The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots "
+            "per inch. The largest picture is %6 pixels along a side and %7 million in all.")
             .arg(page.width())
             .arg(page.height())
             .arg(pixels.width(), 0, 'f', 0)
@@ -62,7 +63,7 @@ QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
             .arg(kMaximumImageSide)
             .arg(kMaximumImagePixels / 1'000'000);
     const int best = largestDpi(page);
-    return best < 1 ? text : text + tr(" Up to %1 dots per inch are possible.").arg(best);
+    return best < 1 ? text : text + Words::tr(" Up to %1 dots per inch are possible.").arg(best);
 }
 
 // The last row and column may be covered by the page in part only: they are the page's too.
@@ -82,7 +83,7 @@ int dotsPerMetre(double dpi)
 PageImage renderPage(const Canvas& canvas, double dpi)
 {
     if (!std::isfinite(dpi) || dpi <= 0.0) {
-        return {{}, tr("The resolution must be above 0 dots per inch.")};
+        return {{}, Words::tr("The resolution must be above 0 dots per inch.")};
     }
     const QSizeF pixels = pixelSize(canvas, dpi);
     if (!isWithinBounds(pixels)) {
@@ -91,7 +92,7 @@ PageImage renderPage(const Canvas& canvas, double dpi)
     QImage image(pixels.toSize(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) {
         return {{},
-                tr("There is not enough memory for a picture of %1 by %2 pixels.")
+                Words::tr("There is not enough memory for a picture of %1 by %2 pixels.")
                     .arg(pixels.width())
                     .arg(pixels.height())};
     }
@@ -111,14 +112,14 @@ QString writePng(const QImage& image, const QString& fileName)
 {
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly)) {
-        return tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
+        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
     QImageWriter writer(&file, "png");
     if (!writer.write(image)) {
-        return tr("Cannot write \"%1\": %2.").arg(fileName, writer.errorString());
+        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, writer.errorString());
     }
     if (!commitWhole(file)) {
-        return tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
+        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "workbench/symbols/svg_limits.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -12,6 +13,11 @@
 namespace workbench::symbols {
 
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::SymbolDatabase)
+};
 
 /// A view or a computed column could run for ever; a table proper has pages of its own.
 constexpr QLatin1String TableQuery("SELECT count(*) FROM sqlite_master"
@@ -35,7 +41,7 @@ SymbolDatabase::SymbolDatabase(const QString& path)
     if (QFileInfo(path).isFile())
         open(path);
     else
-        fail(QStringLiteral("there is no such file"));
+        fail(Words::tr("there is no such file"));
 }
 
 SymbolDatabase::~SymbolDatabase()
@@ -80,7 +86,7 @@ bool SymbolDatabase::hasSymbolTable()
         return false;
     }
     if (*tables != 1 || count(query, ColumnsQuery) != 2) {
-        fail(QStringLiteral("it has no table of symbols"));
+        fail(Words::tr("it has no table of symbols"));
         return false;
     }
     return true;
@@ -109,7 +115,7 @@ QByteArray SymbolDatabase::svg(const QString& name)
 
 void SymbolDatabase::fail(const QString& error)
 {
-    m_error = error.isEmpty() ? QStringLiteral("it cannot be read") : error;
+    m_error = error.isEmpty() ? Words::tr("it cannot be read") : error;
 }
 
 } // namespace workbench::symbols

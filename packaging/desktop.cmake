@@ -1,0 +1,16 @@
+# What a desktop needs to know the window program and the labels' kinds of file.
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/desktop/labelport-workbench.desktop
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
+    COMPONENT programs)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/desktop/org.labelport.Workbench.metainfo.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+    COMPONENT programs)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/mime/labelport.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages
+    COMPONENT programs)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/icons/labelport-workbench.svg
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
+    COMPONENT programs)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/icons/labelport-label.svg
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/mimetypes
+    COMPONENT programs)

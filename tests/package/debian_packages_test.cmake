@@ -1,0 +1,112 @@
+# The three Debian packages: made of this build, unpacked into an empty folder, and used there.
+include(${CMAKE_CURRENT_LIST_DIR}/package_steps.cmake)
+
+file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK}/packages)
+run(COMMAND ${CPACK} --config ${BUILD}/CPackConfig.cmake -G DEB -C ${CONFIG} -B ${WORK}/packages)
+
+# package_of(name variable): the file of a package.
+function(package_of name variable)
+    file(GLOB found ${WORK}/packages/${name}_${VERSION}-*.deb)
+    list(LENGTH found count)
+    if(NOT count EQUAL 1)
+        message(FATAL_ERROR "${count} files of the package ${name}")
+    endif()
+    set(${variable} ${found} PARENT_SCOPE)
+endfunction()
+
+# expect_field(package field pattern): what a package says of itself.
+function(expect_field package field pattern)
+    run(OUTPUT value COMMAND dpkg-deb --field ${package} ${field})
+    if(NOT value MATCHES "${pattern}")
+        message(SEND_ERROR "${package}: ${field} is\n${value}")
+    endif()
+endfunction()
+
+set(library_name liblabelport${SOVERSION})
+package_of(${library_name} library)
+package_of(liblabelport-dev development)
+package_of(labelport programs)
+
+# Each needs what it stands on, and the libraries that it is linked with.
+expect_field(${library} Depends "libqt6widgets6")
+expect_field(${development} Depends "${library_name} \\(= ${VERSION}-1\\).*qt6-base-dev")
+expect_field(${programs} Depends "${library_name} \\(= ${VERSION}-1\\)")
+expect_field(${programs} Depends "libqt6sql6-sqlite")
+expect_field(${programs} Depends "libzint")
+foreach(package ${library} ${development} ${programs})
+    expect_field(${package} Description "^importer of legacy label templates\n [A-Z]")
+endforeach()
+
+set(root ${WORK}/root)
+file(MAKE_DIRECTORY ${root})
+foreach(package ${library} ${development} ${programs})
+    run(COMMAND dpkg-deb --extract ${package} ${root})
+endforeach()
+
+# No file belongs to two packages, and each is where it is looked for.
+run(OUTPUT library_files COMMAND dpkg-deb --contents ${library})
+run(OUTPUT development_files COMMAND dpkg-deb --contents ${development})
+run(OUTPUT programs_files COMMAND dpkg-deb --contents ${programs})
+foreach(case
+        "library|/liblabelport\\.so\\.${SOVERSION} "
+        "library|/liblabelport-logging\\.so\\.${SOVERSION} "
+        "library|/labelport/translations/labelport_de\\.qm"
+        "library|/doc/${library_name}/changelog\\.Debian\\.gz"
+        "development|/liblabelport\\.so "
+        "development|/LabelPortConfig\\.cmake"
+        "development|/labelport\\.pc"
+        "development|/host/class_factory\\.h"
+        "programs|/usr/bin/labelport "
+        "programs|/applications/labelport-workbench\\.desktop"
+        "programs|/doc/labelport/copyright")
+    string(REPLACE "|" ";" case "${case}")
+    list(GET case 0 owner)
+    list(GET case 1 pattern)
+    foreach(package library development programs)
+        string(REGEX MATCH "${pattern}" found "${${package}_files}")
+        if(package STREQUAL owner AND NOT found)
+            message(SEND_ERROR "${pattern} is not in the package of the ${owner}")
+        elseif(NOT package STREQUAL owner AND found)
+            message(SEND_ERROR "${pattern} is in the package of the ${package}")
+        endif()
+    endforeach()
+endforeach()
+
+# The change log of the packages speaks of this version.
+file(STRINGS ${SOURCE}/packaging/debian/changelog first_line LIMIT_COUNT 1)
+if(NOT first_line MATCHES "^labelport \\(${VERSION}-1\\) ")
+    message(SEND_ERROR "packaging/debian/changelog begins with\n${first_line}")
+endif()
+
+# The programs run from there, and take the library from there.
+run(OUTPUT libraries COMMAND ldd ${root}/usr/${PROGRAMDIR}/labelport)
+if(NOT libraries MATCHES "liblabelport\\.so[^\n]* => ${root}/")
+    message(SEND_ERROR "labelport takes another library:\n${libraries}")
+endif()
+run(OUTPUT version COMMAND ${root}/usr/bin/labelport --version)
+if(NOT version STREQUAL "labelport ${VERSION}\n")
+    message(SEND_ERROR "labelport says it is\n${version}")
+endif()
+# This label has a symbol that it only names.
+run(COMMAND ${root}/usr/bin/labelport import --output-dir ${WORK}/pictures
+    ${SOURCE}/samples/tavrel/warning_sign_2000019.roc)
+if(NOT EXISTS ${WORK}/pictures/warning_sign_2000019.png)
+    message(SEND_ERROR "labelport made no picture")
+endif()
+run(OUTPUT trace COMMAND ${root}/usr/bin/labelport trace
+    ${SOURCE}/samples/tavrel/warning_sign_2000019.roc)
+if(NOT trace MATCHES "\"call\":\"completeCanvasLoading\"")
+    message(SEND_ERROR "labelport trace did not import the label:\n${trace}")
+endif()
+
+# A host is built against the development package.
+file(COPY ${SOURCE}/examples/embedding DESTINATION ${WORK})
+run(COMMAND ${CMAKE_COMMAND} -S ${WORK}/embedding -B ${WORK}/build
+    -D CMAKE_PREFIX_PATH=${root}/usr
+    -D CMAKE_BUILD_TYPE=${CONFIG}
+    -D CMAKE_CXX_COMPILER=${COMPILER}
+    -D CMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}
+    "-D CMAKE_CXX_FLAGS=${FLAGS}")
+run(COMMAND ${CMAKE_COMMAND} --build ${WORK}/build)
+try_example(${WORK}/build/embedding)

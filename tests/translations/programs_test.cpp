@@ -1,0 +1,126 @@
+// The programs from the outside: what they say follows the environment, what they make does not.
+
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Outcome
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+using Variables = QList<std::pair<const char*, const char*>>;
+
+const Variables English{{"LC_ALL", "C"}};
+const Variables German{{"LANGUAGE", "de"}, {"LC_ALL", "C.UTF-8"}};
+const Variables French{{"LC_ALL", "fr_FR.UTF-8"}}; // which need not be installed
+
+const QString Labelport = QStringLiteral(LABELPORT_PROGRAM);
+const QString Trace = QStringLiteral(LABELPORT_TRACE_PROGRAM);
+const QString Workbench = QStringLiteral(LABELPORT_WORKBENCH_PROGRAM);
+const QString Sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/asset_tag_2000020.cnv");
+const QString Missing = QStringLiteral("missing.odg");
+
+class Programs : public ::testing::Test
+{
+protected:
+    Outcome run(const QString& program, const QStringList& arguments, const Variables& variables)
+    {
+        QProcessEnvironment environment;
+        environment.insert(QStringLiteral("HOME"), m_folder.path());
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("ASAN_OPTIONS"), qEnvironmentVariable("ASAN_OPTIONS"));
+        for (const auto& [name, value] : variables) {
+            environment.insert(QString::fromLatin1(name), QString::fromLatin1(value));
+        }
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(m_folder.path());
+        process.start(program, arguments, QIODevice::ReadOnly);
+        EXPECT_TRUE(process.waitForFinished(120'000)) << qPrintable(program);
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    QByteArray contentOf(const QString& name)
+    {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
+        return file.readAll();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(Programs, SayWhatTheyAreFor)
+{
+    const QStringList help{QStringLiteral("--help")};
+    struct Row
+    {
+        QString program;
+        const char* english;
+        const char* german;
+        const char* french;
+    };
+    for (const Row& row : {Row{Trace, "Imports a legacy label", "Importiert ein altes Etikett",
+                               "Importe une ancienne étiquette"},
+                           Row{Workbench, "Opens legacy label templates",
+                               "Öffnet alte Etikettenvorlagen", "Ouvre d’anciens modèles"}}) {
+        SCOPED_TRACE(qPrintable(row.program));
+        EXPECT_TRUE(run(row.program, help, English).out.contains(QString::fromUtf8(row.english)));
+        EXPECT_TRUE(run(row.program, help, {}).out.contains(QString::fromUtf8(row.english)));
+        EXPECT_TRUE(run(row.program, help, German).out.contains(QString::fromUtf8(row.german)));
+        EXPECT_TRUE(run(row.program, help, French).out.contains(QString::fromUtf8(row.french)));
+    }
+}
+
+TEST_F(Programs, SayWhatIsWrong)
+{
+    EXPECT_TRUE(run(Trace, {Missing}, English).err.contains(u"cannot read missing.odg: "));
+    EXPECT_TRUE(run(Trace, {Missing}, German).err.contains(u"missing.odg ist nicht lesbar: "));
+
+    const QStringList two{QStringLiteral("a.odg"), QStringLiteral("b.odg")};
+    EXPECT_TRUE(run(Workbench, two, English).err.contains(u"a window holds one label"));
+    EXPECT_TRUE(run(Workbench, two, German).err.contains(u"ein Fenster fasst ein Etikett"));
+}
+
+TEST_F(Programs, MakeTheSameFilesInEveryLanguage)
+{
+    const auto import = [&](const char* folder, const Variables& variables) {
+        const Outcome outcome = run(Labelport,
+                                    {QStringLiteral("import"), Sample, QStringLiteral("--to"),
+                                     QStringLiteral("svg,label"), QStringLiteral("--output-dir"),
+                                     QString::fromLatin1(folder)},
+                                    variables);
+        EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+        return outcome.out;
+    };
+    EXPECT_EQ(import("plain", English),
+              import("german", German).replace(QLatin1String("german"), QLatin1String("plain")));
+    for (const char* name : {"asset_tag_2000020.svg", "asset_tag_2000020.label"}) {
+        EXPECT_EQ(contentOf(QStringLiteral("plain/") + QLatin1String(name)),
+                  contentOf(QStringLiteral("german/") + QLatin1String(name)))
+            << name;
+    }
+}
+
+TEST_F(Programs, TraceTheSameInEveryLanguage)
+{
+    // This one brings up a message box, whose text stands in the trace.
+    const QString sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/member_card_2000024.cnv");
+    const Outcome plain = run(Trace, {sample}, English);
+    EXPECT_EQ(plain.status, 0) << qPrintable(plain.err);
+    EXPECT_TRUE(plain.out.contains(u"Warning: Import issues."));
+    EXPECT_EQ(plain.out, run(Trace, {sample}, German).out);
+    EXPECT_EQ(plain.out, run(Trace, {sample}, French).out);
+}
+
+} // namespace

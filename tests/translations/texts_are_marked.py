@@ -1,0 +1,162 @@
+#!/usr/bin/env python3
+"""Finds texts for people in the code that no translator would ever see.
+
+texts_are_marked.py SOURCE   names every one of them and fails when there is one
+texts_are_marked.py --try    proves itself on examples
+
+A text is for people when it is a sentence or a phrase, at least two words of which the second is
+in small letters (names of fonts and of kinds of barcode are none), or when it is handed to something that shows texts. It is marked when it
+stands in tr(), translate() or one of Qt's marks for tables. Logs are for developers and stay
+English; so do the readers of the formats, whose few texts for people have tests of their own.
+"""
+
+import pathlib
+import re
+import sys
+
+FOLDERS = ["apps", "archive", "importer", "migration", "workbench"]
+
+# What the code is made of, as far as it matters here.
+TOKEN = re.compile(
+    r"""(?P<comment>//[^\n]*|/\*.*?\*/)
+      | (?P<letter>(?<!\w)u?8?'(?:[^'\\\n]|\\.)+')
+      | u?8?R"(?P<mark>[^(\s]{0,16})\((?P<raw>.*?)\)(?P=mark)"
+      | u?8?"(?P<text>(?:[^"\\\n]|\\.)*)"
+    """, re.DOTALL | re.VERBOSE)
+PHRASE = re.compile(r"[A-Za-z’']{2,}[,;:.]? +[a-z’']{2,}")
+
+# What a marked text stands in: the last name before the bracket that is open around it.
+MARKS = {"tr", "translate", "QT_TRANSLATE_NOOP", "QT_TR_NOOP", "QT_TRANSLATE_NOOP3"}
+# What shows its text whatever it is, even a single word.
+SHOWN = {"setText", "setWindowTitle", "setToolTip", "setStatusTip", "setTitle", "addButton",
+         "addAction", "addMenu", "setAccessibleName", "setPlaceholderText", "printMessage",
+         "complain", "setLabelText", "addRow", "setInformativeText"}
+# Callees whose texts are for developers or for other programs.
+FOR_MACHINES = {"write", "writeLog", "logError", "logDebug", "logWarning", "log", "QRegularExpression",
+                "static_assert", "CuteMessageLogger", "setDescription", "setCreator",
+                "horizontalAdvance", "setApplicationName", "include"}
+# What is only there to make a text.
+WRAPPERS = {"", "QStringLiteral", "QLatin1String", "QString", "QStringView", "QLatin1StringView",
+            "QByteArrayLiteral", "fromUtf8", "fromLatin1"}
+# Lines that say it themselves, with the reason: "no translation: the program's own marks".
+EXCUSE = "no translation:"
+# Texts that are code of another kind.
+CODE = re.compile(r"^(SELECT|PRAGMA|INSERT|CREATE|<|\s*[\[{.#@*&]|[a-z-]+=|.*[{}]|.*=['\"\\]|Mozilla)|"
+                  r"xmlns|^\^|\$$")
+
+
+def split(code):
+    """The code with comments and letters made blank, and its texts: (place, words).
+
+    Texts that stand side by side are one, as they are for the compiler."""
+    texts = []
+    end = 0
+    bare = list(code)
+    for match in TOKEN.finditer(code):
+        words = match.group("raw") if match.group("raw") is not None else match.group("text")
+        if words is None:
+            bare[match.start():match.end()] = blank(match.group(0))
+        elif texts and not "".join(bare[end:match.start()]).strip():
+            texts[-1] = (texts[-1][0], texts[-1][1] + words)
+            bare[match.start():match.end()] = blank(match.group(0))
+            end = match.end()
+        else:
+            texts.append((match.start(), words))
+            bare[match.start():match.end()] = blank(match.group(0))
+            end = match.end()
+    return "".join(bare), texts
+
+
+def callees(text, place):
+    """Names before the brackets that are open at the place, the innermost first."""
+    names = []
+    depth = 0
+    for at in range(place - 1, max(0, place - 1500), -1):
+        letter = text[at]
+        if letter in ")]}":
+            depth += 1
+        elif letter in "([{":
+            if depth == 0:
+                name = re.search(r"(\w+)\s*$", text[max(0, at - 80):at])
+                names.append(name.group(1) if name else "")
+            else:
+                depth -= 1
+        elif letter == ";" and depth == 0:
+            break
+    return names
+
+
+def blank(text):
+    return re.sub(r"[^\n]", " ", text)
+
+
+def examine(code):
+    """(line, words) of every text for people that is not marked.
+
+    An excuse in a comment holds for its line and the next."""
+    lines = code.split("\n")
+    bare, texts = split(code)
+    found = []
+    for place, words in texts:
+        callee = next((name for name in callees(bare, place) if name not in WRAPPERS), "")
+        line = code.count("\n", 0, place)
+        is_excused = any(EXCUSE in each for each in lines[max(0, line - 1):line + 1])
+        if callee in MARKS or callee in FOR_MACHINES or is_excused:
+            continue
+        is_shown = callee in SHOWN and re.search(r"[A-Za-z]{2,}", words)
+        is_phrase = PHRASE.search(words) and not CODE.search(words)
+        if is_shown or is_phrase:
+            found.append((line + 1, words))
+    return found
+
+
+def try_examples():
+    """A mark, an excuse and a log are taken for what they are; all else is found."""
+    good = [
+        'return tr("The file is empty.");',
+        'return Words::tr("%1 is not %2"\n    " at all").arg(Path, name);',
+        '{1, QT_TRANSLATE_NOOP("workbench::X", "does not fit")},',
+        'QCoreApplication::translate("main", "opens a label");',
+        'log("could not open %s", name);',
+        'query.exec(QStringLiteral("SELECT svg FROM symbols"));',
+        'path(u"M3 19V6a1");  // a comment with several words',
+        'setObjectName(QStringLiteral("items"));',
+        '// no translation: a mark in our files\nkey = QStringLiteral("made by us");',
+    ]
+    bad = [
+        'return QStringLiteral("The file is empty.");',
+        'fail(u"it has no table");',
+        'words = "is missing here";',
+        'box.setText(QStringLiteral("Stop"));',
+        'printMessage(QStringLiteral("%1: nothing to do").arg(name));',
+        'const char* const Help = R"(Usage: labelport COMMAND)";'.replace("labelport", "it is"),
+        'f(tr("good words here"), QStringLiteral("bad words here"));',
+    ]
+    failures = [code for code in good if examine(code)]
+    failures += [code for code in bad if len(examine(code)) != 1]
+    for code in failures:
+        print("judged wrongly:", code)
+    return 1 if failures else 0
+
+
+def main():
+    if sys.argv[1:] == ["--try"]:
+        return try_examples()
+    source = pathlib.Path(sys.argv[1])
+    count = files = 0
+    for folder in FOLDERS:
+        for path in sorted((source / folder).rglob("*")):
+            if path.suffix not in (".cpp", ".h"):
+                continue
+            files += 1
+            for line, text in examine(path.read_text(encoding="utf-8")):
+                print(f"{path.relative_to(source)}:{line}: not marked for translation: {text}")
+                count += 1
+    if files < 100:
+        print(f"only {files} files were looked at")
+        return 1
+    return 1 if count else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

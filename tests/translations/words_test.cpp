@@ -1,0 +1,133 @@
+// What is said in another language where it matters that it is the right thing.
+
+#include "apps/workbench/actions.h"
+#include "translations/program_language.h"
+#include "workbench/barcodes/barcode_encoder.h"
+#include "workbench/canvas/canvas.h"
+#include "workbench/datasources/datasource_controller.h"
+#include "workbench/document/label_file.h"
+#include "workbench/import/label_import.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QFile>
+#include <QSet>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using desktop::MenuId;
+using translations::ProgramLanguage;
+
+namespace {
+
+const QStringList German{QStringLiteral("de")};
+const QStringList French{QStringLiteral("fr")};
+
+constexpr MenuId Menus[] = {MenuId::File,   MenuId::Edit,   MenuId::View, MenuId::Colors,
+                            MenuId::Panels, MenuId::Record, MenuId::Help};
+
+class Words : public ::testing::Test
+{
+protected:
+    QString write(const char* name, const QByteArray& bytes)
+    {
+        const QString path = m_folder.filePath(QString::fromLatin1(name));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return path;
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QString mnemonic(const QString& text)
+{
+    const qsizetype at = text.indexOf(u'&');
+    return at < 0 ? QString() : text.mid(at + 1, 1).toUpper();
+}
+
+/// Every letter once; what has none is no help without a mouse.
+void expectDifferentMnemonics(const QStringList& texts)
+{
+    QSet<QString> seen;
+    for (const QString& text : texts) {
+        const QString letter = mnemonic(text);
+        EXPECT_FALSE(letter.isEmpty()) << qPrintable(text);
+        EXPECT_FALSE(seen.contains(letter)) << qPrintable(text);
+        seen.insert(letter);
+    }
+}
+
+TEST_F(Words, MnemonicsWithinAMenuAreDifferent)
+{
+    for (const QStringList& languages : {German, French}) {
+        const ProgramLanguage language(languages);
+        const desktop::Actions actions;
+        QMap<MenuId, QStringList> texts;
+        for (const MenuId menu : Menus) {
+            for (const QAction* action : actions.ofMenu(menu)) {
+                texts[menu].append(action->text());
+            }
+        }
+        // What the window adds to them.
+        texts[MenuId::File].append(
+            QCoreApplication::translate("desktop::MainWindow", "Open &Recent"));
+        texts[MenuId::View].append(desktop::menuTitle(MenuId::Colors));
+        QStringList titles;
+        for (const MenuId menu : Menus) {
+            expectDifferentMnemonics(texts.value(menu));
+            if (menu != MenuId::Colors) {
+                titles.append(desktop::menuTitle(menu));
+            }
+        }
+        expectDifferentMnemonics(titles);
+    }
+}
+
+// The reader says this one in the program's language, and it is understood all the same.
+TEST_F(Words, WhyAFileIsRefused)
+{
+    const QString file = write("old.cnv", QByteArray("\0\0\0\0\0\x1e\x84\x8f", 8));
+    EXPECT_TRUE(workbench::importLabel(file).error.startsWith(
+        QStringLiteral("The file is no binary label, or one of a version")));
+    {
+        const ProgramLanguage language(German);
+        const QString error = workbench::importLabel(file).error;
+        EXPECT_TRUE(error.startsWith(QStringLiteral("Die Datei ist kein binäres Etikett")))
+            << qPrintable(error);
+        EXPECT_TRUE(error.contains(QStringLiteral("2000015"))) << qPrintable(error);
+    }
+    const ProgramLanguage language(French);
+    const QString error = workbench::importLabel(file).error;
+    EXPECT_TRUE(error.startsWith(QStringLiteral("Le fichier n’est pas une étiquette binaire")))
+        << qPrintable(error);
+}
+
+TEST_F(Words, WhyABarcodeIsNotDrawn)
+{
+    const ProgramLanguage language(German);
+    workbench::barcodes::BarcodeRequest request;
+    request.symbology = 14;
+    request.content = QStringLiteral("x");
+    const QString error = workbench::barcodes::encode(request).error;
+    EXPECT_TRUE(error.startsWith(
+        QStringLiteral("EAN mit Prüfziffer: Der Inhalt passt nicht zu dieser Barcodeart (")))
+        << qPrintable(error);
+}
+
+TEST_F(Words, WhichFieldOfASavedLabelIsWrong)
+{
+    const QString file = write("a.label", R"({"format": "labelport-label", "version": 1,
+        "label": {"page": {"size": "wide"}, "datasources": [], "items": []}})");
+    const ProgramLanguage language(French);
+    workbench::Canvas canvas;
+    workbench::datasources::DatasourceController sources;
+    EXPECT_EQ(workbench::document::openLabel(file, canvas, sources),
+              QString::fromUtf8("Le fichier d’étiquette est endommagé\u00a0: page.size doit être "
+                                "une largeur et une hauteur."));
+}
+
+} // namespace

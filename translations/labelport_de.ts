@@ -1,0 +1,1968 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Import Label</source>
+        <comment>Dialog to open a file.</comment>
+        <translation>Etikett importieren</translation>
+    </message>
+    <message>
+        <source>All Legacy Files %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation>Alle alten Dateien %1</translation>
+    </message>
+    <message>
+        <source>OpenOffice File %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation>OpenOffice-Datei %1</translation>
+    </message>
+    <message>
+        <source>Orvanta File %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation>Orvanta-Datei %1</translation>
+    </message>
+    <message>
+        <source>Legacy Tavrel File %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation>Alte Tavrel-Datei %1</translation>
+    </message>
+    <message>
+        <source>Could not open file &quot;%1&quot; (%2).</source>
+        <translation>Die Datei „%1“ konnte nicht geöffnet werden (%2).</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <comment>Datasource key</comment>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <comment>Datasource key</comment>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Errors reading symbol items.
+Please update legacy Tavrel to its latest version and re-save file.</source>
+        <comment>Content of error message.</comment>
+        <translation>Fehler beim Lesen von Symbolobjekten.
+Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speichern.</translation>
+    </message>
+    <message>
+        <source>Unsupported barcode symbols.</source>
+        <comment>Content of error message.</comment>
+        <translation>Nicht unterstützte Barcodes.</translation>
+    </message>
+    <message>
+        <source>Datasource not connected.</source>
+        <comment>Content of error message.</comment>
+        <translation>Datenquelle nicht verbunden.</translation>
+    </message>
+    <message>
+        <source>Invalid canvas file version (%1 != %2) in</source>
+        <comment>Content of error message.</comment>
+        <translation>Ungültige Version der Canvas-Datei (%1 != %2) in</translation>
+    </message>
+    <message>
+        <source>Load Error</source>
+        <comment>Error message title.</comment>
+        <translation>Fehler beim Laden</translation>
+    </message>
+    <message>
+        <source>Errors reading items.</source>
+        <comment>Content of error message.</comment>
+        <translation>Fehler beim Lesen von Objekten.</translation>
+    </message>
+    <message>
+        <source>Warning: Import issues.</source>
+        <comment>Error message title.</comment>
+        <translation>Warnung: Probleme beim Import.</translation>
+    </message>
+    <message>
+        <source>:
+	Original font size: %1.</source>
+        <comment>Content of error message.</comment>
+        <translation>:
+	Ursprüngliche Schriftgröße: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Actions</name>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Öffnen…</translation>
+    </message>
+    <message>
+        <source>Opens a saved label or a legacy one</source>
+        <translation>Öffnet ein gespeichertes oder ein altes Etikett</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren…</translation>
+    </message>
+    <message>
+        <source>Imports a legacy label and saves it beside the old file</source>
+        <translation>Importiert ein altes Etikett und speichert es neben der alten Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Saves the label</source>
+        <translation>Speichert das Etikett</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>Saves the label under another name</source>
+        <translation>Speichert das Etikett unter einem anderen Namen</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren…</translation>
+    </message>
+    <message>
+        <source>Writes the label as a picture, a drawing or a document</source>
+        <translation>Schreibt das Etikett als Bild, Zeichnung oder Dokument</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+    <message>
+        <source>Prints the label, or a series of its records</source>
+        <translation>Druckt das Etikett oder eine Reihe seiner Datensätze</translation>
+    </message>
+    <message>
+        <source>&amp;Close Label</source>
+        <translation>Etikett s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Closes the label</source>
+        <translation>Schließt das Etikett</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Beendet das Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes the last change back</source>
+        <translation>Nimmt die letzte Änderung zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Makes the change again</source>
+        <translation>Macht die Änderung noch einmal</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Selects all items</source>
+        <translation>Wählt alle Objekte aus</translation>
+    </message>
+    <message>
+        <source>Select &amp;Nothing</source>
+        <translation>&amp;Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>Selects no item</source>
+        <translation>Wählt kein Objekt aus</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Shows the label larger</source>
+        <translation>Zeigt das Etikett größer</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Shows the label smaller</source>
+        <translation>Zeigt das Etikett kleiner</translation>
+    </message>
+    <message>
+        <source>&amp;Whole Label</source>
+        <translation>Ganzes &amp;Etikett</translation>
+    </message>
+    <message>
+        <source>Shows the whole label, and keeps it whole when the window changes</source>
+        <translation>Zeigt das ganze Etikett, auch wenn das Fenster seine Größe ändert</translation>
+    </message>
+    <message>
+        <source>&amp;True Size</source>
+        <translation>&amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>Shows the label in the size in which it is printed</source>
+        <translation>Zeigt das Etikett in der Größe, in der es gedruckt wird</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Selection</source>
+        <translation>Auf &amp;Auswahl zoomen</translation>
+    </message>
+    <message>
+        <source>Shows the selected items as large as they fit</source>
+        <translation>Zeigt die ausgewählten Objekte so groß, wie es geht</translation>
+    </message>
+    <message>
+        <source>&amp;Rulers</source>
+        <translation>&amp;Lineale</translation>
+    </message>
+    <message>
+        <source>Shows or hides the rulers</source>
+        <translation>Zeigt oder verbirgt die Lineale</translation>
+    </message>
+    <message>
+        <source>&amp;Millimeters</source>
+        <translation>&amp;Millimeter</translation>
+    </message>
+    <message>
+        <source>Shows lengths in millimeters</source>
+        <translation>Zeigt Längen in Millimetern</translation>
+    </message>
+    <message>
+        <source>In&amp;ches</source>
+        <translation>&amp;Zoll</translation>
+    </message>
+    <message>
+        <source>Shows lengths in inches</source>
+        <translation>Zeigt Längen in Zoll</translation>
+    </message>
+    <message>
+        <source>Like the &amp;System</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>Takes the colors of the desktop</source>
+        <translation>Nimmt die Farben des Desktops</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>Dark text on light windows</source>
+        <translation>Dunkler Text auf hellen Fenstern</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>Light text on dark windows</source>
+        <translation>Heller Text auf dunklen Fenstern</translation>
+    </message>
+    <message>
+        <source>&amp;Canvas</source>
+        <translation>&amp;Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>Puts the keyboard on the canvas</source>
+        <translation>Setzt die Tastatur auf die Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>&amp;Items</source>
+        <translation>&amp;Objekte</translation>
+    </message>
+    <message>
+        <source>Shows the list of items and puts the keyboard on it</source>
+        <translation>Zeigt die Liste der Objekte und setzt die Tastatur darauf</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Shows the properties of an item and puts the keyboard on them</source>
+        <translation>Zeigt die Eigenschaften eines Objekts und setzt die Tastatur darauf</translation>
+    </message>
+    <message>
+        <source>&amp;Data Sources</source>
+        <translation>&amp;Datenquellen</translation>
+    </message>
+    <message>
+        <source>Shows the data sources and puts the keyboard on them</source>
+        <translation>Zeigt die Datenquellen und setzt die Tastatur darauf</translation>
+    </message>
+    <message>
+        <source>I&amp;ssues</source>
+        <translation>&amp;Meldungen</translation>
+    </message>
+    <message>
+        <source>Shows the issues and puts the keyboard on them</source>
+        <translation>Zeigt die Meldungen und setzt die Tastatur darauf</translation>
+    </message>
+    <message>
+        <source>&amp;First</source>
+        <translation>&amp;Erster</translation>
+    </message>
+    <message>
+        <source>Shows the first record</source>
+        <translation>Zeigt den ersten Datensatz</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Vorheriger</translation>
+    </message>
+    <message>
+        <source>Shows the record before</source>
+        <translation>Zeigt den Datensatz davor</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Nächster</translation>
+    </message>
+    <message>
+        <source>Shows the record after</source>
+        <translation>Zeigt den Datensatz danach</translation>
+    </message>
+    <message>
+        <source>&amp;Last</source>
+        <translation>&amp;Letzter</translation>
+    </message>
+    <message>
+        <source>Shows the last record</source>
+        <translation>Zeigt den letzten Datensatz</translation>
+    </message>
+    <message>
+        <source>&amp;Go to…</source>
+        <translation>&amp;Gehe zu…</translation>
+    </message>
+    <message>
+        <source>Puts the keyboard on the record&apos;s number</source>
+        <translation>Setzt die Tastatur auf die Nummer des Datensatzes</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Shows all keys</source>
+        <translation>Zeigt alle Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Info</translation>
+    </message>
+    <message>
+        <source>Shows what program this is</source>
+        <translation>Sagt, welches Programm dies ist</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>Be&amp;reiche</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>Daten&amp;satz</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::CanvasView</name>
+    <message>
+        <source>Canvas</source>
+        <translation>Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>The label. The arrow keys move the selected items.</source>
+        <translation>Das Etikett. Die Pfeiltasten verschieben die ausgewählten Objekte.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ExportDialog</name>
+    <message>
+        <source>SVG drawings (*.svg)</source>
+        <translation>SVG-Zeichnungen (*.svg)</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PNG pictures (*.png)</source>
+        <translation>PNG-Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation>&amp;Durchsuchen…</translation>
+    </message>
+    <message>
+        <source>Export Label</source>
+        <translation>Etikett exportieren</translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation>PNG-Bild</translation>
+    </message>
+    <message>
+        <source>SVG drawing</source>
+        <translation>SVG-Zeichnung</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>PDF-Dokument</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Chooses the file in a dialog</source>
+        <translation>Wählt die Datei in einem Dialog</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Resolution in dots per inch</source>
+        <translation>Auflösung in Punkten pro Zoll</translation>
+    </message>
+    <message>
+        <source>&amp;Format</source>
+        <translation>&amp;Format</translation>
+    </message>
+    <message>
+        <source>F&amp;ile</source>
+        <translation>Date&amp;i</translation>
+    </message>
+    <message>
+        <source>Re&amp;solution</source>
+        <translation>Au&amp;flösung</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>One document of %1 pages.</source>
+        <translation>Ein Dokument mit %1 Seiten.</translation>
+    </message>
+    <message>
+        <source>%1 files: %2 and so on.</source>
+        <translation>%1 Dateien: %2 und so weiter.</translation>
+    </message>
+    <message>
+        <source>One file.</source>
+        <translation>Eine Datei.</translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Replace it?</source>
+        <translation>„%1“ gibt es schon. Ersetzen?</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ImportCommand</name>
+    <message>
+        <source>There is not enough memory for this file.</source>
+        <translation>Für diese Datei reicht der Speicher nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::IssueListModel</name>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2-mal)</translation>
+    </message>
+    <message>
+        <source>The label</source>
+        <translation>Das Etikett</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Betrifft</translation>
+    </message>
+    <message>
+        <source>What it is</source>
+        <translation>Was es ist</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::IssuesPanel</name>
+    <message>
+        <source>Issues of the label</source>
+        <translation>Meldungen zum Etikett</translation>
+    </message>
+    <message>
+        <source>There is nothing to report.</source>
+        <translation>Es gibt nichts zu melden.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ItemDescription</name>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lage</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Flipped left to right</source>
+        <translation>Links und rechts vertauscht</translation>
+    </message>
+    <message>
+        <source>Flipped top to bottom</source>
+        <translation>Oben und unten vertauscht</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>Movable</source>
+        <translation>Beweglich</translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Line color</source>
+        <translation>Linienfarbe</translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source>thinnest</source>
+        <translation>so dünn wie möglich</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Line style</source>
+        <translation>Linienart</translation>
+    </message>
+    <message>
+        <source>Line ends</source>
+        <translation>Linienenden</translation>
+    </message>
+    <message>
+        <source>Line corners</source>
+        <translation>Linienecken</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation>Gefüllt</translation>
+    </message>
+    <message>
+        <source>Fill color</source>
+        <translation>Füllfarbe</translation>
+    </message>
+    <message>
+        <source>Fill pattern</source>
+        <translation>Füllmuster</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Ecken</translation>
+    </message>
+    <message>
+        <source>Corner radius</source>
+        <translation>Eckenradius</translation>
+    </message>
+    <message>
+        <source>a sixth of the shorter side</source>
+        <translation>ein Sechstel der kürzeren Seite</translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <translation>Enden</translation>
+    </message>
+    <message>
+        <source>End, to the right</source>
+        <translation>Ende, nach rechts</translation>
+    </message>
+    <message>
+        <source>End, down</source>
+        <translation>Ende, nach unten</translation>
+    </message>
+    <message>
+        <source>Mark at the start</source>
+        <translation>Zeichen am Anfang</translation>
+    </message>
+    <message>
+        <source>Mark at the end</source>
+        <translation>Zeichen am Ende</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text color</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Text box</source>
+        <translation>Textfeld</translation>
+    </message>
+    <message>
+        <source>Fixed sides</source>
+        <translation>Feste Seiten</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Font family</source>
+        <translation>Schriftfamilie</translation>
+    </message>
+    <message>
+        <source>the default</source>
+        <translation>die Standardschrift</translation>
+    </message>
+    <message>
+        <source>Font size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>Underlined</source>
+        <translation>Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Barcode</source>
+        <translation>Barcode</translation>
+    </message>
+    <message>
+        <source>Symbology</source>
+        <translation>Symbologie</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Module width</source>
+        <translation>Modulbreite</translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation>automatisch</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Striche</translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Picture size</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>no picture</source>
+        <translation>kein Bild</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Symbol color</source>
+        <translation>Symbolfarbe</translation>
+    </message>
+    <message>
+        <source>Symbol ground</source>
+        <translation>Symbolgrund</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Datenquelle</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation>Nummer %1</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+    <message>
+        <source>data source %1</source>
+        <translation>Datenquelle %1</translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation>%1 „%2“</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ItemPanel</name>
+    <message>
+        <source>Items of the label</source>
+        <translation>Objekte des Etiketts</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ItemTableModel</name>
+    <message>
+        <source>cannot be shown</source>
+        <translation>nicht darstellbar</translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::LabelDesk</name>
+    <message>
+        <source>The label could not be imported.</source>
+        <translation>Das Etikett konnte nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved.</source>
+        <translation>„%1“ konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1
+
+The label is still open. Save it in another folder with “Save As”.</source>
+        <translation>%1
+
+Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem anderen Ordner speichern.</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Gespeichert als %1</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation>„%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation>LabelPort Workbench</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation>LabelPort Workbench %1</translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation>Öffnet alte Etikettenvorlagen, zeigt sie, bewahrt sie auf und gibt sie weiter.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation>Ein Fenster fasst ein Etikett: Nur die erste Datei wurde geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MoveItems</name>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::OutputCommands</name>
+    <message>
+        <source>Stop</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stopped after %1 files</source>
+        <translation>Nach %1 Dateien abgebrochen</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>%1 files written</source>
+        <translation>%1 Dateien geschrieben</translation>
+    </message>
+    <message>
+        <source>Exporting</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>The label could not be exported.</source>
+        <translation>Das Etikett konnte nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>The label could not be printed.</source>
+        <translation>Das Etikett konnte nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>Printing was stopped</source>
+        <translation>Der Druck wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1 pages were given to the printer</source>
+        <translation>%1 Seiten wurden an den Drucker übergeben</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::OutputJob</name>
+    <message>
+        <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
+        <translation>Der Drucker hat die Seiten nicht angenommen. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, oder drucken Sie mit „Exportieren“ in eine PDF-Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Prompts</name>
+    <message>
+        <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
+        <translation>Alle Etiketten (*.label *.cnv *.roc *.qmtx *.odt *.odg)</translation>
+    </message>
+    <message>
+        <source>Saved labels (*.label)</source>
+        <translation>Gespeicherte Etiketten (*.label)</translation>
+    </message>
+    <message>
+        <source>Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)</source>
+        <translation>Alte Etiketten (*.cnv *.roc *.qmtx *.odt *.odg)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>Die Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved will be lost.</source>
+        <translation>Nicht gespeicherte Änderungen gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Save Imported Label</source>
+        <translation>Importiertes Etikett speichern</translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation>„%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>The label was imported. It can replace that file, be saved under another name, or be saved later.</source>
+        <translation>Das Etikett wurde importiert. Es kann die Datei ersetzen, unter einem anderen Namen oder später gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>E&amp;rsetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Other Name…</source>
+        <translation>&amp;Anderer Name…</translation>
+    </message>
+    <message>
+        <source>Save &amp;Later</source>
+        <translation>&amp;Später speichern</translation>
+    </message>
+    <message>
+        <source>Open Label</source>
+        <translation>Etikett öffnen</translation>
+    </message>
+    <message>
+        <source>Save Label</source>
+        <translation>Etikett speichern</translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation>LabelPort Workbench</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::PropertyModel</name>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::PropertyPanel</name>
+    <message>
+        <source>Properties of the selected item</source>
+        <translation>Eigenschaften des ausgewählten Objekts</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::RecordChooser</name>
+    <message>
+        <source>The one &amp;shown (%1)</source>
+        <translation>Der an&amp;gezeigte (%1)</translation>
+    </message>
+    <message>
+        <source>F&amp;rom</source>
+        <translation>&amp;Von</translation>
+    </message>
+    <message>
+        <source>A run of records</source>
+        <translation>Eine Folge von Datensätzen</translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation>Erster Datensatz</translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation>Letzter Datensatz</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::RuledCanvas</name>
+    <message>
+        <source>Change between millimeters and inches</source>
+        <translation>Zwischen Millimetern und Zoll wechseln</translation>
+    </message>
+    <message>
+        <source>Unit of the rulers</source>
+        <translation>Einheit der Lineale</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Ruler</name>
+    <message>
+        <source>Horizontal ruler</source>
+        <translation>Waagerechtes Lineal</translation>
+    </message>
+    <message>
+        <source>Vertical ruler</source>
+        <translation>Senkrechtes Lineal</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ShortcutsDialog</name>
+    <message>
+        <source>Canvas</source>
+        <translation>Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>Move the selected items</source>
+        <translation>Ausgewählte Objekte verschieben</translation>
+    </message>
+    <message>
+        <source>Arrow keys; further with Shift, a little with Ctrl</source>
+        <translation>Pfeiltasten; weiter mit Umschalt, ein wenig mit Strg</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>Zoom am Mauszeiger</translation>
+    </message>
+    <message>
+        <source>Ctrl+wheel</source>
+        <translation>Strg+Mausrad</translation>
+    </message>
+    <message>
+        <source>Shift the view</source>
+        <translation>Ansicht verschieben</translation>
+    </message>
+    <message>
+        <source>Space and left button, or middle button</source>
+        <translation>Leertaste und linke Maustaste oder mittlere Maustaste</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SourcePanel</name>
+    <message>
+        <source>Data sources of the label</source>
+        <translation>Datenquellen des Etiketts</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Datensatz</translation>
+    </message>
+    <message>
+        <source>Number of the record that is shown</source>
+        <translation>Nummer des angezeigten Datensatzes</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SourceTableModel</name>
+    <message>
+        <source>Counter</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message>
+        <source>List of texts</source>
+        <translation>Liste von Texten</translation>
+    </message>
+    <message>
+        <source>%1 to %2, step %3</source>
+        <translation>%1 bis %2, Schritt %3</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>Shows now</source>
+        <translation>Zeigt jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::StatusLine</name>
+    <message>
+        <source>Record %1 of %2</source>
+        <translation>Datensatz %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::StyleNames</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Formatted text</source>
+        <translation>Formatierter Text</translation>
+    </message>
+    <message>
+        <source>Barcode</source>
+        <translation>Barcode</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation>Abgerundetes Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Pie</source>
+        <translation>Kreissektor</translation>
+    </message>
+    <message>
+        <source>Right triangle</source>
+        <translation>Rechtwinkliges Dreieck</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>Dreieck</translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation>Raute</translation>
+    </message>
+    <message>
+        <source>Pentagon</source>
+        <translation>Fünfeck</translation>
+    </message>
+    <message>
+        <source>Hexagon</source>
+        <translation>Sechseck</translation>
+    </message>
+    <message>
+        <source>Octagon</source>
+        <translation>Achteck</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <translation>durchgezogen</translation>
+    </message>
+    <message>
+        <source>dashes</source>
+        <translation>Striche</translation>
+    </message>
+    <message>
+        <source>dots</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>dash, dot</source>
+        <translation>Strich, Punkt</translation>
+    </message>
+    <message>
+        <source>dash, dot, dot</source>
+        <translation>Strich, Punkt, Punkt</translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation>flach</translation>
+    </message>
+    <message>
+        <source>square</source>
+        <translation>quadratisch</translation>
+    </message>
+    <message>
+        <source>round</source>
+        <translation>rund</translation>
+    </message>
+    <message>
+        <source>pointed</source>
+        <translation>spitz</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>abgeschnitten</translation>
+    </message>
+    <message>
+        <source>rounded</source>
+        <translation>abgerundet</translation>
+    </message>
+    <message>
+        <source>screen, densest</source>
+        <translation>Raster, am dichtesten</translation>
+    </message>
+    <message>
+        <source>screen, very dense</source>
+        <translation>Raster, sehr dicht</translation>
+    </message>
+    <message>
+        <source>screen, dense</source>
+        <translation>Raster, dicht</translation>
+    </message>
+    <message>
+        <source>screen, half</source>
+        <translation>Raster, halb</translation>
+    </message>
+    <message>
+        <source>screen, light</source>
+        <translation>Raster, hell</translation>
+    </message>
+    <message>
+        <source>screen, very light</source>
+        <translation>Raster, sehr hell</translation>
+    </message>
+    <message>
+        <source>screen, lightest</source>
+        <translation>Raster, am hellsten</translation>
+    </message>
+    <message>
+        <source>horizontal lines</source>
+        <translation>waagerechte Linien</translation>
+    </message>
+    <message>
+        <source>vertical lines</source>
+        <translation>senkrechte Linien</translation>
+    </message>
+    <message>
+        <source>grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>rising lines</source>
+        <translation>steigende Linien</translation>
+    </message>
+    <message>
+        <source>falling lines</source>
+        <translation>fallende Linien</translation>
+    </message>
+    <message>
+        <source>diagonal grid</source>
+        <translation>schräges Gitter</translation>
+    </message>
+    <message>
+        <source>gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>small arrow</source>
+        <translation>kleiner Pfeil</translation>
+    </message>
+    <message>
+        <source>double arrow</source>
+        <translation>Doppelpfeil</translation>
+    </message>
+    <message>
+        <source>dimension stroke</source>
+        <translation>Maßstrich</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>width and height</source>
+        <translation>Breite und Höhe</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>centered</source>
+        <translation>zentriert</translation>
+    </message>
+    <message>
+        <source>justified</source>
+        <translation>Blocksatz</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>Mitte</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::WelcomePage</name>
+    <message>
+        <source>Drop a label here</source>
+        <translation>Legen Sie hier ein Etikett ab</translation>
+    </message>
+    <message>
+        <source>Saved labels (*.label) and legacy ones: binary canvas files (*.cnv, *.roc), XML labels (*.qmtx), OpenDocument texts and drawings (*.odt, *.odg)</source>
+        <translation>Gespeicherte Etiketten (*.label) und alte: binäre Canvas-Dateien (*.cnv, *.roc), XML-Etiketten (*.qmtx), OpenDocument-Texte und -Zeichnungen (*.odt, *.odg)</translation>
+    </message>
+    <message>
+        <source>&amp;Open a Label…</source>
+        <translation>Etikett &amp;öffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Import a Legacy Label…</source>
+        <translation>Altes Etikett &amp;importieren…</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::WindowPanels</name>
+    <message>
+        <source>Items</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Data Sources</source>
+        <translation>Datenquellen</translation>
+    </message>
+    <message>
+        <source>Issues</source>
+        <translation>Meldungen</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
+        <translation>Öffnet alte Etikettenvorlagen, zeigt, speichert, exportiert und druckt sie.</translation>
+    </message>
+    <message>
+        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
+        <translation>Ein Etikett zum Öffnen: *.label, *.cnv, *.roc, *.qmtx, *.odt oder *.odg.</translation>
+    </message>
+    <message>
+        <source>Writes a picture of the window as PNG as soon as it is there, and ends.</source>
+        <translation>Schreibt ein Bild des Fensters als PNG, sobald es da ist, und endet.</translation>
+    </message>
+    <message>
+        <source>a window holds one label, but %1 were named</source>
+        <translation>ein Fenster fasst ein Etikett, es wurden aber %1 genannt</translation>
+    </message>
+    <message>
+        <source>cannot write “%1”</source>
+        <translation>„%1“ kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>trace</name>
+    <message>
+        <source>Usage: labelport-trace FILE (see labelport-trace --help)</source>
+        <translation>Aufruf: labelport-trace DATEI (siehe labelport-trace --help)</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>%1 was not imported; the trace tells how far it came</source>
+        <translation>%1 wurde nicht importiert; die Spur zeigt, wie weit es kam</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>%1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>cannot write to standard output</source>
+        <translation>auf die Standardausgabe kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>cannot write the trace: %1</source>
+        <translation>die Spur kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>Imports a legacy label into a host that records, and prints every call on it
+as JSON Lines, then what has become of the items.
+
+Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
+        <translation>Importiert ein altes Etikett in ein Gastprogramm, das mitschreibt, und gibt jeden Aufruf
+als JSON-Zeile aus, danach, was aus den Objekten wurde.
+
+Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
+    </message>
+    <message>
+        <source>The label to import.</source>
+        <translation>Das Etikett, das importiert werden soll.</translation>
+    </message>
+    <message>
+        <source>no file given</source>
+        <translation>keine Datei angegeben</translation>
+    </message>
+    <message>
+        <source>one file at a time, please</source>
+        <translation>bitte nur eine Datei auf einmal</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::BarcodeEncoder</name>
+    <message>
+        <source>%1: the content has a length that this kind of barcode does not take%2.</source>
+        <translation>%1: Der Inhalt hat eine Länge, die diese Barcodeart nicht zulässt%2.</translation>
+    </message>
+    <message>
+        <source>%1: the content does not suit this kind of barcode%2.</source>
+        <translation>%1: Der Inhalt passt nicht zu dieser Barcodeart%2.</translation>
+    </message>
+    <message>
+        <source>%1: the content ends in a wrong check digit%2.</source>
+        <translation>%1: Der Inhalt endet mit einer falschen Prüfziffer%2.</translation>
+    </message>
+    <message>
+        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
+        <translation>%1: Der Inhalt verträgt sich nicht mit den Einstellungen des Barcodes%2.</translation>
+    </message>
+    <message>
+        <source>%1: the content is too much for the memory%2.</source>
+        <translation>%1: Der Inhalt ist zu viel für den Speicher%2.</translation>
+    </message>
+    <message>
+        <source>%1: the content cannot be encoded%2.</source>
+        <translation>%1: Der Inhalt lässt sich nicht kodieren%2.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the barcode.</source>
+        <translation>Für den Barcode reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
+        <translation>%1: Der Inhalt braucht einen linearen Teil, ein „|“ und einen zweiten Teil.</translation>
+    </message>
+    <message>
+        <source>%1: the content is too long for any barcode.</source>
+        <translation>%1: Der Inhalt ist für jeden Barcode zu lang.</translation>
+    </message>
+    <message>
+        <source>%1: the content gives no bars at all.</source>
+        <translation>%1: Der Inhalt ergibt gar keine Striche.</translation>
+    </message>
+    <message>
+        <source>The label asks for a kind of barcode that is not known (number %1).</source>
+        <translation>Das Etikett verlangt eine Barcodeart, die nicht bekannt ist (Nummer %1).</translation>
+    </message>
+    <message>
+        <source>%1: there is no content to encode.</source>
+        <translation>%1: Es gibt keinen Inhalt zu kodieren.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FailureWords</name>
+    <message>
+        <source>The file is no binary label, or one of a version that cannot be read: it says version %1, but 2000016 is the oldest that can.</source>
+        <translation>Die Datei ist kein binäres Etikett oder eines in einer nicht lesbaren Version: Sie nennt Version %1, aber 2000016 ist die älteste lesbare.</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The file is too large for a label: %1.</source>
+        <translation>Die Datei ist zu groß für ein Etikett: %1.</translation>
+    </message>
+    <message>
+        <source>The document is damaged: its part %1 is not well-formed at line %2, column %3 (%4).</source>
+        <translation>Das Dokument ist beschädigt: Sein Teil %1 ist in Zeile %2, Spalte %3 nicht wohlgeformt (%4).</translation>
+    </message>
+    <message>
+        <source>The file is no label or a damaged one: it is not well-formed XML at line %1, column %2 (%3).</source>
+        <translation>Die Datei ist kein Etikett oder ein beschädigtes: Sie ist in Zeile %1, Spalte %2 kein wohlgeformtes XML (%3).</translation>
+    </message>
+    <message>
+        <source>The file is XML, but not a label: its outermost element is not &quot;qmtx&quot;.</source>
+        <translation>Die Datei ist XML, aber kein Etikett: Ihr äußerstes Element ist nicht „qmtx“.</translation>
+    </message>
+    <message>
+        <source>The file is no label, or a damaged one: its first item is of an unknown kind (%1).</source>
+        <translation>Die Datei ist kein Etikett oder ein beschädigtes: Ihr erstes Objekt ist von unbekannter Art (%1).</translation>
+    </message>
+    <message>
+        <source>The file is no OpenDocument file, or a damaged one: it has no readable part styles.xml.</source>
+        <translation>Die Datei ist keine OpenDocument-Datei oder eine beschädigte: Sie hat keinen lesbaren Teil styles.xml.</translation>
+    </message>
+    <message>
+        <source>The OpenDocument file is damaged: it has no readable part content.xml.</source>
+        <translation>Die OpenDocument-Datei ist beschädigt: Sie hat keinen lesbaren Teil content.xml.</translation>
+    </message>
+    <message>
+        <source>The file holds nothing that can be put on a label.</source>
+        <translation>Die Datei enthält nichts, was auf ein Etikett gebracht werden kann.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FieldWords</name>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 muss %2 sein</translation>
+    </message>
+    <message>
+        <source>%1 is longer than %2</source>
+        <translation>%1 ist länger als %2</translation>
+    </message>
+    <message>
+        <source>a group of fields</source>
+        <translation>eine Gruppe von Feldern</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a whole number in range</source>
+        <translation>eine ganze Zahl im zulässigen Bereich</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a number or null</source>
+        <translation>eine Zahl oder null</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a list of texts</source>
+        <translation>eine Liste von Texten</translation>
+    </message>
+    <message>
+        <source>a color</source>
+        <translation>eine Farbe</translation>
+    </message>
+    <message>
+        <source>a width and a height</source>
+        <translation>eine Breite und eine Höhe</translation>
+    </message>
+    <message>
+        <source>a point</source>
+        <translation>ein Punkt</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>an alignment</source>
+        <translation>eine Ausrichtung</translation>
+    </message>
+    <message>
+        <source>a known type of item</source>
+        <translation>eine bekannte Art von Objekt</translation>
+    </message>
+    <message>
+        <source>a set of properties</source>
+        <translation>ein Satz von Eigenschaften</translation>
+    </message>
+    <message>
+        <source>a picture</source>
+        <translation>ein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FileCheck</name>
+    <message>
+        <source>No file was named.</source>
+        <translation>Es wurde keine Datei genannt.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Es gibt keine solche Datei.</translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation>Das ist ein Ordner, keine Datei.</translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file cannot be opened: %1.</source>
+        <translation>Die Datei kann nicht geöffnet werden: %1.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is a zip package, as OpenDocument files are, but by its name it is a binary label. If it is an OpenDocument file, rename it so that its only dot is that of &quot;.odt&quot; or &quot;.odg&quot;.</source>
+        <translation>Die Datei ist ein Zip-Paket, wie OpenDocument-Dateien es sind, aber dem Namen nach ein binäres Etikett. Wenn sie eine OpenDocument-Datei ist, benennen Sie sie so um, dass ihr einziger Punkt der von „.odt“ oder „.odg“ ist.</translation>
+    </message>
+    <message>
+        <source>The file is XML, but by its name it is a binary label. If it is an XML label, rename it so that its only dot is that of &quot;.qmtx&quot;.</source>
+        <translation>Die Datei ist XML, aber dem Namen nach ein binäres Etikett. Wenn sie ein XML-Etikett ist, benennen Sie sie so um, dass ihr einziger Punkt der von „.qmtx“ ist.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::IssueWords</name>
+    <message>
+        <source>An object of the kind &quot;%1&quot; was left out: the kind is not known.</source>
+        <translation>Ein Objekt der Art „%1“ wurde weggelassen: Die Art ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Left out of the label: %1</source>
+        <translation>Auf dem Etikett weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
+        <translation>Das Dokument ist weder ein Text noch eine Zeichnung: Es wurde nichts daraus übernommen.</translation>
+    </message>
+    <message>
+        <source>The file goes on with a record of an unknown kind (%1): nothing was read from there on.</source>
+        <translation>Die Datei geht mit einem Eintrag unbekannter Art weiter (%1): Von da an wurde nichts gelesen.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::LabelFile</name>
+    <message>
+        <source>The label cannot be saved as %1: %2.</source>
+        <translation>Das Etikett kann nicht als %1 gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be opened: %2.</source>
+        <translation>Die Datei %1 kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>it has more than %1 items</source>
+        <translation>es hat mehr als %1 Objekte</translation>
+    </message>
+    <message>
+        <source>its pictures are too large</source>
+        <translation>seine Bilder sind zu groß</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>sie ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is larger than any label</source>
+        <translation>sie ist größer als jedes Etikett</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: its data sources do not fit together.</source>
+        <translation>Die Etikettendatei ist beschädigt: Ihre Datenquellen passen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>The file is not a saved label.</source>
+        <translation>Die Datei ist kein gespeichertes Etikett.</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: version is not a positive whole number.</source>
+        <translation>Die Etikettendatei ist beschädigt: version ist keine positive ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>The label was saved by a newer version of the program: its format is %1, and this version knows formats up to %2. Update the program to open it.</source>
+        <translation>Das Etikett wurde von einer neueren Version des Programms gespeichert: Sein Format ist %1, und diese Version kennt Formate bis %2. Aktualisieren Sie das Programm, um es zu öffnen.</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: label is missing.</source>
+        <translation>Die Etikettendatei ist beschädigt: label fehlt.</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: its content has changed since it was saved.</source>
+        <translation>Die Etikettendatei ist beschädigt: Ihr Inhalt wurde seit dem Speichern verändert.</translation>
+    </message>
+    <message>
+        <source>The file is not a saved label, or it is damaged: after %1 bytes it cannot be read any further.</source>
+        <translation>Die Datei ist kein gespeichertes Etikett, oder sie ist beschädigt: Nach %1 Bytes lässt sie sich nicht weiter lesen.</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: %1.</source>
+        <translation>Die Etikettendatei ist beschädigt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::LabelImport</name>
+    <message>
+        <source>There is not enough memory for this file.</source>
+        <translation>Für diese Datei reicht der Speicher nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PageExport</name>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The page is longer than %1 points, the most that a PDF document can have.</source>
+        <translation>Die Seite ist länger als %1 Punkt; mehr fasst ein PDF-Dokument nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PageImage</name>
+    <message>
+        <source>The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots per inch. The largest picture is %6 pixels along a side and %7 million in all.</source>
+        <translation>Die Seite misst %1 mal %2 Punkt, das ergibt bei %5 dpi ein Bild von %3 mal %4 Pixeln. Das größte Bild hat %6 Pixel je Seite und %7 Millionen im Ganzen.</translation>
+    </message>
+    <message>
+        <source> Up to %1 dots per inch are possible.</source>
+        <translation> Bis zu %1 dpi sind möglich.</translation>
+    </message>
+    <message>
+        <source>The resolution must be above 0 dots per inch.</source>
+        <translation>Die Auflösung muss größer als 0 dpi sein.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for a picture of %1 by %2 pixels.</source>
+        <translation>Für ein Bild von %1 mal %2 Pixeln reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::SymbolDatabase</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>es gibt keine solche Datei</translation>
+    </message>
+    <message>
+        <source>it has no table of symbols</source>
+        <translation>sie hat keine Tabelle mit Symbolen</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>sie kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::Symbologies</name>
+    <message>
+        <source>barcode kind %1</source>
+        <translation>Barcodeart %1</translation>
+    </message>
+    <message>
+        <source>EAN with check digit</source>
+        <translation>EAN mit Prüfziffer</translation>
+    </message>
+    <message>
+        <source>UPC-A with check digit</source>
+        <translation>UPC-A mit Prüfziffer</translation>
+    </message>
+    <message>
+        <source>UPC-E with check digit</source>
+        <translation>UPC-E mit Prüfziffer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1961 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Import Label</source>
+        <comment>Dialog to open a file.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Legacy Files %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OpenOffice File %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orvanta File %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Legacy Tavrel File %1</source>
+        <comment>Filter for Open File dialog</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not open file &quot;%1&quot; (%2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <comment>Datasource key</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <comment>Datasource key</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors reading symbol items.
+Please update legacy Tavrel to its latest version and re-save file.</source>
+        <comment>Content of error message.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsupported barcode symbols.</source>
+        <comment>Content of error message.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datasource not connected.</source>
+        <comment>Content of error message.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid canvas file version (%1 != %2) in</source>
+        <comment>Content of error message.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load Error</source>
+        <comment>Error message title.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors reading items.</source>
+        <comment>Content of error message.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning: Import issues.</source>
+        <comment>Error message title.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>:
+	Original font size: %1.</source>
+        <comment>Content of error message.</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Actions</name>
+    <message>
+        <source>&amp;Open…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a saved label or a legacy one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports a legacy label and saves it beside the old file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the label under another name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the label as a picture, a drawing or a document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the label, or a series of its records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closes the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the last change back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes the change again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects all items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;Nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selects no item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the label larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the label smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Whole Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the whole label, and keeps it whole when the window changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;True Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the label in the size in which it is printed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the selected items as large as they fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rulers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows or hides the rulers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Millimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows lengths in millimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In&amp;ches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows lengths in inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Like the &amp;System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the colors of the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark text on light windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light text on dark windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Canvas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the keyboard on the canvas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the list of items and puts the keyboard on it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the properties of an item and puts the keyboard on them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Data Sources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the data sources and puts the keyboard on them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>I&amp;ssues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the issues and puts the keyboard on them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;First</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the first record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the record before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the record after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the last record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Go to…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the keyboard on the record&apos;s number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what program this is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::CanvasView</name>
+    <message>
+        <source>Canvas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label. The arrow keys move the selected items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ExportDialog</name>
+    <message>
+        <source>SVG drawings (*.svg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PNG pictures (*.png)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Browse…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the file in a dialog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resolution in dots per inch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;ile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;solution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One document of %1 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files: %2 and so on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” exists already. Replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ImportCommand</name>
+    <message>
+        <source>There is not enough memory for this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::IssueListModel</name>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::IssuesPanel</name>
+    <message>
+        <source>Issues of the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to report.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ItemDescription</name>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flipped left to right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flipped top to bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Movable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>thinnest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line corners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corner radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a sixth of the shorter side</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End, to the right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End, down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark at the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark at the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed sides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font family</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Underlined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbology</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Module width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data source %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ItemPanel</name>
+    <message>
+        <source>Items of the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ItemTableModel</name>
+    <message>
+        <source>cannot be shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::LabelDesk</name>
+    <message>
+        <source>The label could not be imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1
+
+The label is still open. Save it in another folder with “Save As”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::MoveItems</name>
+    <message>
+        <source>Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::OutputCommands</name>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped after %1 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exporting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label could not be exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label could not be printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printing was stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pages were given to the printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::OutputJob</name>
+    <message>
+        <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Prompts</name>
+    <message>
+        <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved labels (*.label)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes that are not saved will be lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Imported Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” exists already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label was imported. It can replace that file, be saved under another name, or be saved later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Other Name…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::PropertyModel</name>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::PropertyPanel</name>
+    <message>
+        <source>Properties of the selected item</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::RecordChooser</name>
+    <message>
+        <source>The one &amp;shown (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;rom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A run of records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::RuledCanvas</name>
+    <message>
+        <source>Change between millimeters and inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit of the rulers</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::Ruler</name>
+    <message>
+        <source>Horizontal ruler</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical ruler</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ShortcutsDialog</name>
+    <message>
+        <source>Canvas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arrow keys; further with Shift, a little with Ctrl</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+wheel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift the view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space and left button, or middle button</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SourcePanel</name>
+    <message>
+        <source>Data sources of the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of the record that is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::SourceTableModel</name>
+    <message>
+        <source>Counter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2, step %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::StatusLine</name>
+    <message>
+        <source>Record %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::StyleNames</name>
+    <message>
+        <source>Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formatted text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right triangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pentagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Octagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dashes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dash, dot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dash, dot, dot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>flat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>square</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>round</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pointed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rounded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, densest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, very dense</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, dense</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, half</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, very light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>screen, lightest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>horizontal lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vertical lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rising lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>falling lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>diagonal grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gradient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>arrow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>small arrow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>double arrow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dimension stroke</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>width and height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>centered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>justified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::WelcomePage</name>
+    <message>
+        <source>Drop a label here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved labels (*.label) and legacy ones: binary canvas files (*.cnv, *.roc), XML labels (*.qmtx), OpenDocument texts and drawings (*.odt, *.odg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open a Label…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import a Legacy Label…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>desktop::WindowPanels</name>
+    <message>
+        <source>Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data Sources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a picture of the window as PNG as soon as it is there, and ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a window holds one label, but %1 were named</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>trace</name>
+    <message>
+        <source>Usage: labelport-trace FILE (see labelport-trace --help)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not imported; the trace tells how far it came</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write to standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot write the trace: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports a legacy label into a host that records, and prints every call on it
+as JSON Lines, then what has become of the items.
+
+Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label to import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no file given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one file at a time, please</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::BarcodeEncoder</name>
+    <message>
+        <source>%1: the content has a length that this kind of barcode does not take%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content does not suit this kind of barcode%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content ends in a wrong check digit%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content is too much for the memory%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content cannot be encoded%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the barcode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content is too long for any barcode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the content gives no bars at all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label asks for a kind of barcode that is not known (number %1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: there is no content to encode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FailureWords</name>
+    <message>
+        <source>The file is no binary label, or one of a version that cannot be read: it says version %1, but 2000016 is the oldest that can.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is too large for a label: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is damaged: its part %1 is not well-formed at line %2, column %3 (%4).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is no label or a damaged one: it is not well-formed XML at line %1, column %2 (%3).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is XML, but not a label: its outermost element is not &quot;qmtx&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is no label, or a damaged one: its first item is of an unknown kind (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is no OpenDocument file, or a damaged one: it has no readable part styles.xml.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The OpenDocument file is damaged: it has no readable part content.xml.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file holds nothing that can be put on a label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FieldWords</name>
+    <message>
+        <source>%1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is longer than %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a group of fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number in range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number or null</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a width and a height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an alignment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a known type of item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a set of properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::FileCheck</name>
+    <message>
+        <source>No file was named.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a folder, not a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not a regular file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be opened: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is a zip package, as OpenDocument files are, but by its name it is a binary label. If it is an OpenDocument file, rename it so that its only dot is that of &quot;.odt&quot; or &quot;.odg&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is XML, but by its name it is a binary label. If it is an XML label, rename it so that its only dot is that of &quot;.qmtx&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::IssueWords</name>
+    <message>
+        <source>An object of the kind &quot;%1&quot; was left out: the kind is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out of the label: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file goes on with a record of an unknown kind (%1): nothing was read from there on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::LabelFile</name>
+    <message>
+        <source>The label cannot be saved as %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be opened: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has more than %1 items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its pictures are too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is larger than any label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label file is damaged: its data sources do not fit together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not a saved label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label file is damaged: version is not a positive whole number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label was saved by a newer version of the program: its format is %1, and this version knows formats up to %2. Update the program to open it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label file is damaged: label is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label file is damaged: its content has changed since it was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not a saved label, or it is damaged: after %1 bytes it cannot be read any further.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label file is damaged: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::LabelImport</name>
+    <message>
+        <source>There is not enough memory for this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PageExport</name>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page is longer than %1 points, the most that a PDF document can have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::PageImage</name>
+    <message>
+        <source>The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots per inch. The largest picture is %6 pixels along a side and %7 million in all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Up to %1 dots per inch are possible.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The resolution must be above 0 dots per inch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for a picture of %1 by %2 pixels.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::SymbolDatabase</name>
+    <message>
+        <source>there is no such file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no table of symbols</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::Symbologies</name>
+    <message>
+        <source>barcode kind %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EAN with check digit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPC-A with check digit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPC-E with check digit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
