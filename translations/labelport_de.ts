@@ -88,6 +88,402 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
 </context>
 <context>
+    <name>archive::InputList</name>
+    <message>
+        <source>The list of files is no list of file names.</source>
+        <translation>Die Liste der Dateien ist keine Liste von Dateinamen.</translation>
+    </message>
+</context>
+<context>
+    <name>archive::Journal</name>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>archive::Progress</name>
+    <message>
+        <source>%1 files/s</source>
+        <translation>%1 Dateien/s</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>archive::Publish</name>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 exists and was not made by labelport, or may have been changed since; it is left as it is (--force overwrites it)</source>
+        <translation>%1 gibt es schon und wurde nicht von labelport erstellt oder vielleicht seitdem verändert; es bleibt, wie es ist (--force überschreibt es)</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>der Ordner dafür kann nicht angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>archive::Run</name>
+    <message>
+        <source>another of the given files has the same name, so both would become %1; import them into different folders with --output-dir</source>
+        <translation>eine andere der angegebenen Dateien hat denselben Namen, beide würden also zu %1; importieren Sie sie mit --output-dir in verschiedene Ordner</translation>
+    </message>
+    <message>
+        <source>The journal in the output folder cannot be written, so --resume will do some files again.</source>
+        <translation>Das Protokoll im Ausgabeordner kann nicht geschrieben werden, daher wird --resume manche Dateien noch einmal bearbeiten.</translation>
+    </message>
+    <message>
+        <source>The processes that import files cannot be started, or end at once. A larger --memory-limit may help.</source>
+        <translation>Die Prozesse, die Dateien importieren, lassen sich nicht starten oder enden sofort. Ein größeres --memory-limit kann helfen.</translation>
+    </message>
+</context>
+<context>
+    <name>archive::StagingArea</name>
+    <message>
+        <source>Nothing can be written to the folder %1.</source>
+        <translation>In den Ordner %1 kann nichts geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>archive::WorkerDeath</name>
+    <message>
+        <source>the file needed more than %1 MiB of memory (--memory-limit)</source>
+        <translation>die Datei brauchte mehr als %1 MiB Speicher (--memory-limit)</translation>
+    </message>
+    <message>
+        <source>the file took more than %1 seconds without getting on (--timeout)</source>
+        <translation>die Datei kam länger als %1 Sekunden nicht voran (--timeout)</translation>
+    </message>
+    <message>
+        <source>its import was killed twice, perhaps because the machine had no memory left</source>
+        <translation>der Import wurde zweimal abgebrochen, vielleicht weil der Rechner keinen Speicher mehr hatte</translation>
+    </message>
+    <message>
+        <source>its import crashed twice (%1); please report the file</source>
+        <translation>der Import ist zweimal abgestürzt (%1); bitte melden Sie die Datei</translation>
+    </message>
+    <message>
+        <source>its import ended in disorder, twice; please report the file</source>
+        <translation>der Import endete zweimal ungeordnet; bitte melden Sie die Datei</translation>
+    </message>
+    <message>
+        <source>its import ended twice by itself (status %1); please report the file</source>
+        <translation>der Import endete zweimal von selbst (Status %1); bitte melden Sie die Datei</translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportCommand</name>
+    <message>
+        <source>The folder %1 cannot be searched.</source>
+        <translation>Der Ordner %1 kann nicht durchsucht werden.</translation>
+    </message>
+    <message>
+        <source>Stopped. The same command with --resume goes on.</source>
+        <translation>Angehalten. Derselbe Befehl mit --resume macht weiter.</translation>
+    </message>
+    <message>
+        <source>There is no label to import.</source>
+        <translation>Es gibt kein Etikett zu importieren.</translation>
+    </message>
+    <message>
+        <source>&quot;labelport import --help&quot; tells more.</source>
+        <translation>„labelport import --help“ sagt mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportInputs</name>
+    <message>
+        <source>Standard input cannot be kept for the import: %1.</source>
+        <translation>Die Standardeingabe kann nicht für den Import aufbewahrt werden: %1.</translation>
+    </message>
+    <message>
+        <source>it is longer than any label</source>
+        <translation>sie ist länger als jedes Etikett</translation>
+    </message>
+    <message>
+        <source>The list of files %1 cannot be read: %2.</source>
+        <translation>Die Liste der Dateien %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportOptions</name>
+    <message>
+        <source>targets</source>
+        <translation>Ziele</translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
+        <translation>Was geschrieben wird: png, svg, pdf, label; mehrere mit Kommas (Vorgabe: png).</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Folder to write to; made when it is missing (default: the current one). It gets the subfolders of a folder that is imported.</source>
+        <translation>Ordner, in den geschrieben wird; er wird angelegt, wenn er fehlt (Vorgabe: der aktuelle). Er bekommt die Unterordner eines Ordners, der importiert wird.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Dots per inch of pictures, 10 to 2400 (default: 300).</source>
+        <translation>Punkte pro Zoll von Bildern, 10 bis 2400 (Vorgabe: 300).</translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Records of the label&apos;s data sources: a number, a range as 3-12 or 3-, or all (default: the first). A series of pictures is numbered; a PDF has a page for each.</source>
+        <translation>Datensätze der Datenquellen des Etiketts: eine Nummer, ein Bereich wie 3-12 oder 3-, oder all (Vorgabe: der erste). Eine Reihe von Bildern wird nummeriert; ein PDF hat für jeden eine Seite.</translation>
+    </message>
+    <message>
+        <source>Overwrite files that LabelPort did not make.</source>
+        <translation>Überschreibt auch Dateien, die LabelPort nicht erstellt hat.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Read every file as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever its name. Standard input needs it.</source>
+        <translation>Liest jede Datei als tavrel (*.cnv, *.roc), orvanta (*.qmtx) oder opendocument (*.odt, *.odg), wie immer sie heißt. Die Standardeingabe braucht das.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Import what a file lists as well, a name on each line or between NULs; - reads the list from standard input.</source>
+        <translation>Importiert auch, was eine Datei auflistet, ein Name je Zeile oder zwischen NUL-Zeichen; - liest die Liste von der Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>The list&apos;s names stand between NULs, as find -print0 writes them.</source>
+        <translation>Die Namen der Liste stehen zwischen NUL-Zeichen, wie find -print0 sie schreibt.</translation>
+    </message>
+    <message>
+        <source>Named and listed files below this folder keep their subfolders in the output folder.</source>
+        <translation>Genannte und aufgelistete Dateien unter diesem Ordner behalten im Ausgabeordner ihre Unterordner.</translation>
+    </message>
+    <message>
+        <source>Files to import at the same time (default: one for each processor core).</source>
+        <translation>Dateien, die gleichzeitig importiert werden (Vorgabe: eine je Prozessorkern).</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Give a file up that does not get on for so long; 0 waits for ever (default: 60).</source>
+        <translation>Gibt eine Datei auf, die so lange nicht vorankommt; 0 wartet für immer (Vorgabe: 60).</translation>
+    </message>
+    <message>
+        <source>MiB</source>
+        <translation>MiB</translation>
+    </message>
+    <message>
+        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 2048).</source>
+        <translation>Gibt eine Datei auf, die mehr Speicher braucht; 0 setzt keine Grenze (Vorgabe: 2048).</translation>
+    </message>
+    <message>
+        <source>Leave out what an earlier command with the same options did, if neither the file nor its outputs have changed.</source>
+        <translation>Lässt aus, was ein früherer Befehl mit denselben Optionen erledigt hat, wenn weder die Datei noch ihre Ausgaben sich geändert haben.</translation>
+    </message>
+    <message>
+        <source>K/N</source>
+        <translation>K/N</translation>
+    </message>
+    <message>
+        <source>Import the K-th of N parts of the files, so that N machines can share an archive.</source>
+        <translation>Importiert den K-ten von N Teilen der Dateien, sodass sich N Rechner ein Archiv teilen können.</translation>
+    </message>
+    <message>
+        <source>Write a report on all files, as .json or .html; may be given several times.</source>
+        <translation>Schreibt einen Bericht über alle Dateien, als .json oder .html; kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>End with status 3 when a label did not come over whole.</source>
+        <translation>Endet mit Status 3, wenn ein Etikett nicht vollständig übernommen wurde.</translation>
+    </message>
+    <message>
+        <source>On standard error, tell what failed and nothing else.</source>
+        <translation>Sagt auf der Standardfehlerausgabe nur, was fehlgeschlagen ist.</translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label), and writes what they show. A folder is searched with its subfolders for files of these names. What was written is listed on standard output, in the order of the files&apos; names.
+
+Examples:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte (*.label) und schreibt, was sie zeigen. Ein Ordner wird mit seinen Unterordnern nach Dateien mit solchen Namen durchsucht. Was geschrieben wurde, steht auf der Standardausgabe, in der Reihenfolge der Dateinamen.
+
+Beispiele:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas ging verloren (mit --fail-on-loss), 130 durch ein Signal angehalten.</translation>
+    </message>
+    <message>
+        <source>--%1 takes a whole number from %2 to %3, not &quot;%4&quot;.</source>
+        <translation>--%1 nimmt eine ganze Zahl von %2 bis %3, nicht „%4“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing that can be written; --to takes: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden; --to nimmt: %2.</translation>
+    </message>
+    <message>
+        <source>--records takes a number, a range as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
+        <translation>--records nimmt eine Nummer, einen Bereich wie 3-12 oder 3-, oder all, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
+        <translation>„%1“ ist kein Leser; --reader nimmt: %2.</translation>
+    </message>
+    <message>
+        <source>--shard takes a part and their number, as 3/8, not &quot;%1&quot;.</source>
+        <translation>--shard nimmt einen Teil und deren Anzahl, wie 3/8, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>A report is written to a file whose name ends in .json or .html, not to &quot;%1&quot;.</source>
+        <translation>Ein Bericht wird in eine Datei geschrieben, deren Name auf .json oder .html endet, nicht in „%1“.</translation>
+    </message>
+    <message>
+        <source>--memory-limit takes 0 or at least %1 MiB.</source>
+        <translation>--memory-limit nimmt 0 oder mindestens %1 MiB.</translation>
+    </message>
+    <message>
+        <source>No file to import was given.</source>
+        <translation>Es wurde keine Datei zum Importieren angegeben.</translation>
+    </message>
+    <message>
+        <source>Standard input can be a label or a list of files, but not both.</source>
+        <translation>Die Standardeingabe kann ein Etikett oder eine Liste von Dateien sein, aber nicht beides.</translation>
+    </message>
+    <message>
+        <source>Standard input has no name, so --reader must say what it is: %1.</source>
+        <translation>Die Standardeingabe hat keinen Namen, also muss --reader sagen, was sie ist: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportTeller</name>
+    <message>
+        <source>warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files were imported, %3 had been done before.</source>
+        <translation>%1 von %2 Dateien wurden importiert, %3 waren schon erledigt.</translation>
+    </message>
+    <message>
+        <source>%1 files were passed over: only names that end in %2 are taken from folders.</source>
+        <translation>%1 Dateien wurden übergangen: Aus Ordnern werden nur Namen genommen, die auf %2 enden.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files failed.</source>
+        <translation>%1 von %2 Dateien schlugen fehl.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportWorker</name>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2-mal)</translation>
+    </message>
+</context>
+<context>
+    <name>cli::LabelWriter</name>
+    <message>
+        <source>it has only %1 records, none with the number %2</source>
+        <translation>es hat nur %1 Datensätze, keinen mit der Nummer %2</translation>
+    </message>
+    <message>
+        <source>%1 records are more than the %2 that one command writes; name a part of them with --records</source>
+        <translation>%1 Datensätze sind mehr als die %2, die ein Befehl schreibt; nennen Sie mit --records einen Teil davon</translation>
+    </message>
+</context>
+<context>
+    <name>cli::Main</name>
+    <message>
+        <source>Usage: labelport COMMAND [ARGUMENT...]
+
+Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
+LabelPort: *.label.
+
+Commands:
+  import FILE...   import labels and write what they show (import --help tells more)
+  trace FILE       print every call that an import makes on its host, as JSON lines
+
+  --help           show this text
+  --version        show the version
+
+Examples:
+  labelport import shelf.odg
+  labelport import archive --to png,label --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport trace shelf.odg
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
+(import --fail-on-loss), 130 stopped by a signal.
+</source>
+        <translation>Aufruf: labelport BEFEHL [ARGUMENT...]
+
+Öffnet alte Etikettenvorlagen: *.cnv und *.roc, *.qmtx, *.odt und *.odg, und von LabelPort
+gespeicherte Etiketten: *.label.
+
+Befehle:
+  import DATEI...  importiert Etiketten und schreibt, was sie zeigen (mehr: import --help)
+  trace DATEI      gibt jeden Aufruf eines Imports an sein Gastprogramm als JSON-Zeile aus
+
+  --help           zeigt diesen Text
+  --version        zeigt die Version
+
+Beispiele:
+  labelport import shelf.odg
+  labelport import archive --to png,label --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport trace shelf.odg
+
+Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas ging verloren
+(import --fail-on-loss), 130 durch ein Signal angehalten.
+</translation>
+    </message>
+    <message>
+        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
+        <translation>Was ist zu tun? „labelport --help“ sagt es.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
+        <translation>„%1“ ist kein Befehl; „labelport --help“ sagt, welche es gibt.</translation>
+    </message>
+</context>
+<context>
     <name>desktop::Actions</name>
     <message>
         <source>&amp;Open…</source>
@@ -1553,6 +1949,881 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <message>
         <source>cannot write “%1”</source>
         <translation>„%1“ kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlCard</name>
+    <message>
+        <source>no picture</source>
+        <translation>kein Bild</translation>
+    </message>
+    <message>
+        <source>The label %1</source>
+        <translation>Das Etikett %1</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>vollständig</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>verändert</translation>
+    </message>
+    <message>
+        <source>with losses</source>
+        <translation>mit Verlusten</translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation>abgestürzt</translation>
+    </message>
+    <message>
+        <source>took too long</source>
+        <translation>dauerte zu lange</translation>
+    </message>
+    <message>
+        <source>needed too much memory</source>
+        <translation>brauchte zu viel Speicher</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>Came over whole</source>
+        <translation>Vollständig übernommen</translation>
+    </message>
+    <message>
+        <source>Data sources</source>
+        <translation>Datenquellen</translation>
+    </message>
+    <message>
+        <source>What the import said</source>
+        <translation>Was der Import sagte</translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation>Geschrieben</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Did not come over</source>
+        <translation>Nicht übernommen</translation>
+    </message>
+    <message>
+        <source>Came over changed</source>
+        <translation>Verändert übernommen</translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlPage</name>
+    <message>
+        <source>%1 of %2 files came over whole.</source>
+        <translation>%1 von %2 Dateien wurden vollständig übernommen.</translation>
+    </message>
+    <message>
+        <source>whole: nothing lost, nothing changed</source>
+        <translation>vollständig: nichts verloren, nichts verändert</translation>
+    </message>
+    <message>
+        <source>changed in their looks, nothing lost</source>
+        <translation>im Aussehen verändert, nichts verloren</translation>
+    </message>
+    <message>
+        <source>with losses</source>
+        <translation>mit Verlusten</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>nicht importiert</translation>
+    </message>
+    <message>
+        <source>Of %1 objects in these files, %2 came over.</source>
+        <translation>Von %1 Objekten in diesen Dateien wurden %2 übernommen.</translation>
+    </message>
+    <message>
+        <source>In %1 files the objects could not be counted.</source>
+        <translation>In %1 Dateien ließen sich die Objekte nicht zählen.</translation>
+    </message>
+    <message>
+        <source>Nothing was lost and nothing was changed.</source>
+        <translation>Nichts ging verloren und nichts wurde verändert.</translation>
+    </message>
+    <message>
+        <source>What was lost or changed</source>
+        <translation>Was verloren ging oder verändert wurde</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Was geschah</translation>
+    </message>
+    <message>
+        <source>What can be done</source>
+        <translation>Was man tun kann</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>vollständig</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>verändert</translation>
+    </message>
+    <message>
+        <source>imported</source>
+        <translation>importiert</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation>abgestürzt</translation>
+    </message>
+    <message>
+        <source>took too long</source>
+        <translation>dauerte zu lange</translation>
+    </message>
+    <message>
+        <source>needed too much memory</source>
+        <translation>brauchte zu viel Speicher</translation>
+    </message>
+    <message>
+        <source>as imported</source>
+        <translation>wie importiert</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>most problems first</source>
+        <translation>die meisten Probleme zuerst</translation>
+    </message>
+    <message>
+        <source>most objects lost first</source>
+        <translation>die meisten verlorenen Objekte zuerst</translation>
+    </message>
+    <message>
+        <source>worst status first</source>
+        <translation>der schlechteste Status zuerst</translation>
+    </message>
+    <message>
+        <source>Sort and filter</source>
+        <translation>Ordnen und filtern</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation>Leser</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 von %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>Migration report</source>
+        <translation>Migrationsbericht</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>No file fits the search.</source>
+        <translation>Keine Datei passt zur Suche.</translation>
+    </message>
+</context>
+<context>
+    <name>migration::Inspect</name>
+    <message>
+        <source>kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Items (millimetres):</source>
+        <translation>Objekte (Millimeter):</translation>
+    </message>
+    <message>
+        <source>Page: %1 × %2 mm</source>
+        <translation>Seite: %1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Data sources:</source>
+        <translation>Datenquellen:</translation>
+    </message>
+    <message>
+        <source>Came over whole:</source>
+        <translation>Vollständig übernommen:</translation>
+    </message>
+    <message>
+        <source>Came over changed:</source>
+        <translation>Verändert übernommen:</translation>
+    </message>
+    <message>
+        <source>Did not come over:</source>
+        <translation>Nicht übernommen:</translation>
+    </message>
+    <message>
+        <source>What the import said:</source>
+        <translation>Was der Import sagte:</translation>
+    </message>
+</context>
+<context>
+    <name>migration::KindNames</name>
+    <message>
+        <source>picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>formatted text</source>
+        <translation>formatierter Text</translation>
+    </message>
+    <message>
+        <source>barcode</source>
+        <translation>Barcode</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>rounded rectangle</source>
+        <translation>abgerundetes Rechteck</translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>pie</source>
+        <translation>Kreissektor</translation>
+    </message>
+    <message>
+        <source>right triangle</source>
+        <translation>rechtwinkliges Dreieck</translation>
+    </message>
+    <message>
+        <source>triangle</source>
+        <translation>Dreieck</translation>
+    </message>
+    <message>
+        <source>diamond</source>
+        <translation>Raute</translation>
+    </message>
+    <message>
+        <source>pentagon</source>
+        <translation>Fünfeck</translation>
+    </message>
+    <message>
+        <source>hexagon</source>
+        <translation>Sechseck</translation>
+    </message>
+    <message>
+        <source>octagon</source>
+        <translation>Achteck</translation>
+    </message>
+</context>
+<context>
+    <name>migration::LossKinds</name>
+    <message>
+        <source>Objects in groups were left out.</source>
+        <translation>Objekte in Gruppen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Open the document in its own program, ungroup the objects, save, and import again.</source>
+        <translation>Öffnen Sie das Dokument in seinem eigenen Programm, lösen Sie die Gruppen auf, speichern und importieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Objects on the second and later pages were left out: a label has one page.</source>
+        <translation>Objekte auf der zweiten Seite und den folgenden wurden weggelassen: Ein Etikett hat eine Seite.</translation>
+    </message>
+    <message>
+        <source>Save each page as a document of its own and import those.</source>
+        <translation>Speichern Sie jede Seite als eigenes Dokument und importieren Sie diese.</translation>
+    </message>
+    <message>
+        <source>Objects of the page&apos;s background (its master page) were left out.</source>
+        <translation>Objekte des Seitenhintergrunds (der Masterseite) wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Copy them from the master page to the page itself and import again.</source>
+        <translation>Kopieren Sie sie von der Masterseite auf die Seite selbst und importieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Connectors between objects were left out.</source>
+        <translation>Verbinder zwischen Objekten wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Draw them as plain lines.</source>
+        <translation>Zeichnen Sie sie als einfache Linien.</translation>
+    </message>
+    <message>
+        <source>Curves, free polygons and polylines were left out.</source>
+        <translation>Kurven, freie Polygone und Linienzüge wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Convert them to a picture or to plain shapes.</source>
+        <translation>Wandeln Sie sie in ein Bild oder in einfache Formen um.</translation>
+    </message>
+    <message>
+        <source>Callouts were left out.</source>
+        <translation>Legenden wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Replace each by a text and a line.</source>
+        <translation>Ersetzen Sie jede durch einen Text und eine Linie.</translation>
+    </message>
+    <message>
+        <source>Three-dimensional objects were left out.</source>
+        <translation>Dreidimensionale Objekte wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Convert them to a picture.</source>
+        <translation>Wandeln Sie sie in ein Bild um.</translation>
+    </message>
+    <message>
+        <source>Form controls were left out.</source>
+        <translation>Formularfelder wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Replace each by a text, if it is to be printed.</source>
+        <translation>Ersetzen Sie jedes durch einen Text, wenn es gedruckt werden soll.</translation>
+    </message>
+    <message>
+        <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
+        <translation>Eingebettete Objekte wie Diagramme und Formeln wurden weggelassen; an ihrer Stelle ist ein leerer Kasten.</translation>
+    </message>
+    <message>
+        <source>Objects inside texts, text boxes or other objects were left out.</source>
+        <translation>Objekte in Texten, Textfeldern oder anderen Objekten wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Anchor them to the page.</source>
+        <translation>Verankern Sie sie an der Seite.</translation>
+    </message>
+    <message>
+        <source>Shapes of a text document were left out: only its texts, text boxes and pictures are taken.</source>
+        <translation>Formen eines Textdokuments wurden weggelassen: Nur seine Texte, Textfelder und Bilder werden übernommen.</translation>
+    </message>
+    <message>
+        <source>Put the label into a drawing instead of a text document.</source>
+        <translation>Legen Sie das Etikett als Zeichnung statt als Textdokument an.</translation>
+    </message>
+    <message>
+        <source>Texts and objects in tables were left out.</source>
+        <translation>Texte und Objekte in Tabellen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Put them into text boxes.</source>
+        <translation>Setzen Sie sie in Textfelder.</translation>
+    </message>
+    <message>
+        <source>Texts in lists were left out.</source>
+        <translation>Texte in Listen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Turn the bullets or numbers off, so that the list becomes plain paragraphs.</source>
+        <translation>Schalten Sie die Aufzählungszeichen oder Nummern aus, sodass die Liste zu einfachen Absätzen wird.</translation>
+    </message>
+    <message>
+        <source>Texts and objects in sections or indexes were left out.</source>
+        <translation>Texte und Objekte in Bereichen oder Verzeichnissen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Remove the section and keep its content.</source>
+        <translation>Entfernen Sie den Bereich und behalten Sie seinen Inhalt.</translation>
+    </message>
+    <message>
+        <source>Texts and objects of the header or footer were left out.</source>
+        <translation>Texte und Objekte der Kopf- oder Fußzeile wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Copy them into the document itself.</source>
+        <translation>Kopieren Sie sie in das Dokument selbst.</translation>
+    </message>
+    <message>
+        <source>Texts of hyperlinks were left out.</source>
+        <translation>Texte von Hyperlinks wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Remove the hyperlinks and keep their texts.</source>
+        <translation>Entfernen Sie die Hyperlinks und behalten Sie ihre Texte.</translation>
+    </message>
+    <message>
+        <source>Fields in texts, such as page numbers and names, were left out.</source>
+        <translation>Felder in Texten, etwa Seitenzahlen und Namen, wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Replace each by its text, or by a data source after the import.</source>
+        <translation>Ersetzen Sie jedes durch seinen Text oder nach dem Import durch eine Datenquelle.</translation>
+    </message>
+    <message>
+        <source>Parts of texts were left out, because their kind is not known.</source>
+        <translation>Teile von Texten wurden weggelassen, weil ihre Art nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>Compare the texts with the old label.</source>
+        <translation>Vergleichen Sie die Texte mit dem alten Etikett.</translation>
+    </message>
+    <message>
+        <source>Texts of shapes were left out: they do not begin with a plain paragraph.</source>
+        <translation>Texte von Formen wurden weggelassen: Sie beginnen nicht mit einem einfachen Absatz.</translation>
+    </message>
+    <message>
+        <source>Turn them into plain paragraphs.</source>
+        <translation>Machen Sie einfache Absätze daraus.</translation>
+    </message>
+    <message>
+        <source>Footnotes and endnotes were left out.</source>
+        <translation>Fußnoten und Endnoten wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Put their texts into text boxes.</source>
+        <translation>Setzen Sie ihre Texte in Textfelder.</translation>
+    </message>
+    <message>
+        <source>Comments were left out; they are not printed.</source>
+        <translation>Kommentare wurden weggelassen; sie werden nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Nothing, unless somebody needs them.</source>
+        <translation>Nichts, es sei denn, jemand braucht sie.</translation>
+    </message>
+    <message>
+        <source>Animations were left out; they are not printed.</source>
+        <translation>Animationen wurden weggelassen; sie werden nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Nichts.</translation>
+    </message>
+    <message>
+        <source>Objects were left out, because their kind is not known.</source>
+        <translation>Objekte wurden weggelassen, weil ihre Art nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>Compare with the old label and draw them anew.</source>
+        <translation>Vergleichen Sie mit dem alten Etikett und zeichnen Sie sie neu.</translation>
+    </message>
+    <message>
+        <source>Objects were left out, because their kind of control is not known.</source>
+        <translation>Objekte wurden weggelassen, weil ihre Art von Steuerelement nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>The file lists objects more than once; all but the first list were left out.</source>
+        <translation>Die Datei führt Objekte mehr als einmal auf; alle Listen außer der ersten wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Open the file in its own program and save it again.</source>
+        <translation>Öffnen Sie die Datei in ihrem eigenen Programm und speichern Sie sie neu.</translation>
+    </message>
+    <message>
+        <source>Picture boxes without a picture were left out.</source>
+        <translation>Bildrahmen ohne Bild wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>If a picture is missing, put it in after the import.</source>
+        <translation>Wenn ein Bild fehlt, setzen Sie es nach dem Import ein.</translation>
+    </message>
+    <message>
+        <source>Pictures are missing: they are damaged, too large or of an unknown format.</source>
+        <translation>Bilder fehlen: Sie sind beschädigt, zu groß oder von unbekanntem Format.</translation>
+    </message>
+    <message>
+        <source>Save them as PNG and put them in after the import.</source>
+        <translation>Speichern Sie sie als PNG und setzen Sie sie nach dem Import ein.</translation>
+    </message>
+    <message>
+        <source>Vector drawings are missing: they cannot be converted.</source>
+        <translation>Vektorzeichnungen fehlen: Sie lassen sich nicht umwandeln.</translation>
+    </message>
+    <message>
+        <source>Convert them to PNG and put them in after the import.</source>
+        <translation>Wandeln Sie sie in PNG um und setzen Sie sie nach dem Import ein.</translation>
+    </message>
+    <message>
+        <source>Symbols are missing: neither the file nor the symbol databases have a drawing of them.</source>
+        <translation>Symbole fehlen: Weder die Datei noch die Symboldatenbanken haben eine Zeichnung von ihnen.</translation>
+    </message>
+    <message>
+        <source>Save the label with the newest version of its own program, which stores the drawings, or add them to the symbol databases.</source>
+        <translation>Speichern Sie das Etikett mit der neuesten Version seines eigenen Programms, die die Zeichnungen ablegt, oder nehmen Sie sie in die Symboldatenbanken auf.</translation>
+    </message>
+    <message>
+        <source>Barcodes were left out, because their type is not supported.</source>
+        <translation>Barcodes wurden weggelassen, weil ihr Typ nicht unterstützt wird.</translation>
+    </message>
+    <message>
+        <source>Choose another type, and put them in after the import.</source>
+        <translation>Wählen Sie einen anderen Typ und setzen Sie sie nach dem Import ein.</translation>
+    </message>
+    <message>
+        <source>Nothing was read from an unknown record on.</source>
+        <translation>Ab einem unbekannten Eintrag wurde nichts mehr gelesen.</translation>
+    </message>
+    <message>
+        <source>The file is damaged or of a newer version: look for another copy.</source>
+        <translation>Die Datei ist beschädigt oder von einer neueren Version: Suchen Sie eine andere Kopie.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle: its last object is incomplete, and more may be missing.</source>
+        <translation>Die Datei endet mittendrin: Ihr letztes Objekt ist unvollständig, und es kann noch mehr fehlen.</translation>
+    </message>
+    <message>
+        <source>Look for another copy of the file.</source>
+        <translation>Suchen Sie eine andere Kopie der Datei.</translation>
+    </message>
+    <message>
+        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
+        <translation>Das Dokument ist weder ein Text noch eine Zeichnung: Es wurde nichts daraus übernommen.</translation>
+    </message>
+    <message>
+        <source>Copy its content into a drawing.</source>
+        <translation>Kopieren Sie seinen Inhalt in eine Zeichnung.</translation>
+    </message>
+    <message>
+        <source>Something was left out, because it is larger than anything on a real label.</source>
+        <translation>Etwas wurde weggelassen, weil es größer ist als alles auf einem echten Etikett.</translation>
+    </message>
+    <message>
+        <source>Make the label smaller, or its pictures.</source>
+        <translation>Verkleinern Sie das Etikett oder seine Bilder.</translation>
+    </message>
+    <message>
+        <source>Objects of the file are not on the label, and the import has not said why.</source>
+        <translation>Objekte der Datei sind nicht auf dem Etikett, und der Import hat nicht gesagt, warum.</translation>
+    </message>
+    <message>
+        <source>Compare with the old label, and tell the makers of this program.</source>
+        <translation>Vergleichen Sie mit dem alten Etikett und sagen Sie es denen, die dieses Programm machen.</translation>
+    </message>
+    <message>
+        <source>The import had more to say than was kept: there may be losses that are not listed.</source>
+        <translation>Der Import hatte mehr zu sagen, als behalten wurde: Es kann Verluste geben, die nicht aufgeführt sind.</translation>
+    </message>
+    <message>
+        <source>Import this file alone and look at the label.</source>
+        <translation>Importieren Sie diese Datei allein und sehen Sie sich das Etikett an.</translation>
+    </message>
+    <message>
+        <source>Shapes that have no counterpart became rectangles.</source>
+        <translation>Formen ohne Gegenstück wurden zu Rechtecken.</translation>
+    </message>
+    <message>
+        <source>Choose the nearest shape after the import, or put them in as a symbol.</source>
+        <translation>Wählen Sie nach dem Import die ähnlichste Form oder setzen Sie sie als Symbol ein.</translation>
+    </message>
+    <message>
+        <source>Items are no longer bound to their data source: they show what was last in them.</source>
+        <translation>Objekte sind nicht mehr mit ihrer Datenquelle verbunden: Sie zeigen, was zuletzt darin stand.</translation>
+    </message>
+    <message>
+        <source>Bind them to a data source after the import.</source>
+        <translation>Verbinden Sie sie nach dem Import mit einer Datenquelle.</translation>
+    </message>
+    <message>
+        <source>The label was linked to a database file, and is no longer.</source>
+        <translation>Das Etikett war mit einer Datenbankdatei verknüpft und ist es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Connect the data after the import.</source>
+        <translation>Verbinden Sie die Daten nach dem Import.</translation>
+    </message>
+    <message>
+        <source>Texts with a placeholder among other words are bound to a data source: they show its value alone.</source>
+        <translation>Texte mit einem Platzhalter zwischen anderen Wörtern sind mit einer Datenquelle verbunden: Sie zeigen nur deren Wert.</translation>
+    </message>
+    <message>
+        <source>Put the other words into texts of their own, or into the data source.</source>
+        <translation>Setzen Sie die anderen Wörter in eigene Texte oder in die Datenquelle.</translation>
+    </message>
+    <message>
+        <source>Fields of date and time became plain text: they show when the document was saved.</source>
+        <translation>Datums- und Zeitfelder wurden zu einfachem Text: Sie zeigen, wann das Dokument gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>Bind them to a data source of the date after the import.</source>
+        <translation>Verbinden Sie sie nach dem Import mit einer Datenquelle für das Datum.</translation>
+    </message>
+    <message>
+        <source>Barcodes cannot be drawn: their type does not allow their content.</source>
+        <translation>Barcodes lassen sich nicht zeichnen: Ihr Typ erlaubt ihren Inhalt nicht.</translation>
+    </message>
+    <message>
+        <source>Correct the content or choose another type.</source>
+        <translation>Berichtigen Sie den Inhalt oder wählen Sie einen anderen Typ.</translation>
+    </message>
+    <message>
+        <source>Barcodes of a type without a known counterpart became Code 39.</source>
+        <translation>Barcodes eines Typs ohne bekanntes Gegenstück wurden zu Code 39.</translation>
+    </message>
+    <message>
+        <source>Scan the old label and choose the right type.</source>
+        <translation>Scannen Sie das alte Etikett und wählen Sie den richtigen Typ.</translation>
+    </message>
+    <message>
+        <source>Items lie wholly outside the page: they are not printed.</source>
+        <translation>Objekte liegen ganz außerhalb der Seite: Sie werden nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Move them onto the page, or delete them.</source>
+        <translation>Verschieben Sie sie auf die Seite oder löschen Sie sie.</translation>
+    </message>
+    <message>
+        <source>Items reach beyond the edge of the page: that part is not printed.</source>
+        <translation>Objekte ragen über den Rand der Seite: Dieser Teil wird nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Compare with the old label.</source>
+        <translation>Vergleichen Sie mit dem alten Etikett.</translation>
+    </message>
+    <message>
+        <source>Sizes, positions or fonts are larger than anything on a real label, and were limited.</source>
+        <translation>Größen, Positionen oder Schriften sind größer als alles auf einem echten Etikett und wurden begrenzt.</translation>
+    </message>
+    <message>
+        <source>The document measures in millimetres: the label is ten times larger than the paper.</source>
+        <translation>Das Dokument misst in Millimetern: Das Etikett ist zehnmal so groß wie das Papier.</translation>
+    </message>
+    <message>
+        <source>Print at a tenth of the size, or save the document with centimetres or inches as its unit.</source>
+        <translation>Drucken Sie in einem Zehntel der Größe oder speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
+    </message>
+    <message>
+        <source>Lengths are not in the unit of the page: they were read as if they were.</source>
+        <translation>Längen sind nicht in der Einheit der Seite: Sie wurden gelesen, als wären sie es.</translation>
+    </message>
+    <message>
+        <source>Save the document with one unit throughout.</source>
+        <translation>Speichern Sie das Dokument durchgehend mit einer Einheit.</translation>
+    </message>
+    <message>
+        <source>The file gives no size of the page: a usual one was taken.</source>
+        <translation>Die Datei nennt keine Seitengröße: Eine übliche wurde genommen.</translation>
+    </message>
+    <message>
+        <source>Set the size of the page after the import.</source>
+        <translation>Stellen Sie die Seitengröße nach dem Import ein.</translation>
+    </message>
+    <message>
+        <source>Objects without a position on the page were put where the text runs, or into the corner.</source>
+        <translation>Objekte ohne Position auf der Seite kamen dorthin, wo der Text verläuft, oder in die Ecke.</translation>
+    </message>
+    <message>
+        <source>Turned lines and slanted or scaled objects lost that.</source>
+        <translation>Gedrehte Linien und geneigte oder skalierte Objekte haben das verloren.</translation>
+    </message>
+    <message>
+        <source>Fonts that are not on this machine were replaced.</source>
+        <translation>Schriften, die es auf diesem Rechner nicht gibt, wurden ersetzt.</translation>
+    </message>
+    <message>
+        <source>Install the fonts and import again, if the looks matter.</source>
+        <translation>Installieren Sie die Schriften und importieren Sie noch einmal, wenn es auf das Aussehen ankommt.</translation>
+    </message>
+    <message>
+        <source>Stretched texts are not stretched any more.</source>
+        <translation>Gestreckte Texte sind nicht mehr gestreckt.</translation>
+    </message>
+    <message>
+        <source>Choose a font size that fits.</source>
+        <translation>Wählen Sie eine passende Schriftgröße.</translation>
+    </message>
+    <message>
+        <source>Colored texts lost their color.</source>
+        <translation>Farbige Texte haben ihre Farbe verloren.</translation>
+    </message>
+    <message>
+        <source>Set the color after the import.</source>
+        <translation>Stellen Sie die Farbe nach dem Import ein.</translation>
+    </message>
+    <message>
+        <source>Line breaks, tabs or repeated spaces in texts were dropped.</source>
+        <translation>Zeilenumbrüche, Tabulatoren oder mehrfache Leerzeichen in Texten fielen weg.</translation>
+    </message>
+    <message>
+        <source>Split such a text into paragraphs.</source>
+        <translation>Teilen Sie einen solchen Text in Absätze auf.</translation>
+    </message>
+    <message>
+        <source>Formats of characters and paragraphs, such as superscript or line spacing, were dropped.</source>
+        <translation>Formate von Zeichen und Absätzen, etwa Hochstellung oder Zeilenabstand, fielen weg.</translation>
+    </message>
+    <message>
+        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
+        <translation>Verläufe, Schraffuren und Bilder, die Objekte füllen, wurden vereinfacht.</translation>
+    </message>
+    <message>
+        <source>Choose a fill after the import.</source>
+        <translation>Wählen Sie nach dem Import eine Füllung.</translation>
+    </message>
+    <message>
+        <source>Shadows, transparency, cropping and other effects were dropped.</source>
+        <translation>Schatten, Transparenz, Zuschnitt und andere Effekte fielen weg.</translation>
+    </message>
+    <message>
+        <source>The import has something to say about this label.</source>
+        <translation>Der Import hat zu diesem Etikett etwas zu sagen.</translation>
+    </message>
+    <message>
+        <source>Read it, and compare with the old label.</source>
+        <translation>Lesen Sie es und vergleichen Sie mit dem alten Etikett.</translation>
+    </message>
+</context>
+<context>
+    <name>migration::MergeReports</name>
+    <message>
+        <source>The report %1 has an entry that describes no file.</source>
+        <translation>Der Bericht %1 hat einen Eintrag, der keine Datei beschreibt.</translation>
+    </message>
+    <message>
+        <source>The file %1 stands in the reports more than once.</source>
+        <translation>Die Datei %1 steht mehr als einmal in den Berichten.</translation>
+    </message>
+    <message>
+        <source>The report %1 has changed meanwhile.</source>
+        <translation>Der Bericht %1 hat sich inzwischen geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportReader</name>
+    <message>
+        <source>The report %1 cannot be read: %2.</source>
+        <translation>Der Bericht %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is no report of LabelPort: %2.</source>
+        <translation>%1 ist kein Bericht von LabelPort: %2.</translation>
+    </message>
+    <message>
+        <source>it does not begin as one</source>
+        <translation>er beginnt nicht wie einer</translation>
+    </message>
+    <message>
+        <source>it does not name its format first</source>
+        <translation>er nennt sein Format nicht zuerst</translation>
+    </message>
+    <message>
+        <source>it is of a version that is not known</source>
+        <translation>er ist von einer Version, die nicht bekannt ist</translation>
+    </message>
+    <message>
+        <source>it has no list of files</source>
+        <translation>er hat keine Liste von Dateien</translation>
+    </message>
+    <message>
+        <source>its list of files is damaged</source>
+        <translation>seine Liste von Dateien ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportWriter</name>
+    <message>
+        <source>The report %1 cannot be written: %2.</source>
+        <translation>Der Bericht %1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>migration::Summary</name>
+    <message>
+        <source>%1 objects came over; how many the file holds is not known.</source>
+        <translation>%1 Objekte wurden übernommen; wie viele die Datei enthält, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 objects came over.</source>
+        <translation>%1 von %2 Objekten wurden übernommen.</translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Nicht importiert: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was lost and nothing was changed.</source>
+        <translation>Nichts ging verloren und nichts wurde verändert.</translation>
+    </message>
+    <message>
+        <source>Nothing was lost; something was changed.</source>
+        <translation>Nichts ging verloren; etwas wurde verändert.</translation>
     </message>
 </context>
 <context>

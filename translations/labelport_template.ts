@@ -86,6 +86,371 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
 </context>
 <context>
+    <name>archive::InputList</name>
+    <message>
+        <source>The list of files is no list of file names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>archive::Journal</name>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>archive::Progress</name>
+    <message>
+        <source>%1 files/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>archive::Publish</name>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 exists and was not made by labelport, or may have been changed since; it is left as it is (--force overwrites it)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>archive::Run</name>
+    <message>
+        <source>another of the given files has the same name, so both would become %1; import them into different folders with --output-dir</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The journal in the output folder cannot be written, so --resume will do some files again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The processes that import files cannot be started, or end at once. A larger --memory-limit may help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>archive::StagingArea</name>
+    <message>
+        <source>Nothing can be written to the folder %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>archive::WorkerDeath</name>
+    <message>
+        <source>the file needed more than %1 MiB of memory (--memory-limit)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file took more than %1 seconds without getting on (--timeout)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its import was killed twice, perhaps because the machine had no memory left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its import crashed twice (%1); please report the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its import ended in disorder, twice; please report the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its import ended twice by itself (status %1); please report the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportCommand</name>
+    <message>
+        <source>The folder %1 cannot be searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped. The same command with --resume goes on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no label to import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;labelport import --help&quot; tells more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportInputs</name>
+    <message>
+        <source>Standard input cannot be kept for the import: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is longer than any label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list of files %1 cannot be read: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportOptions</name>
+    <message>
+        <source>targets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write to; made when it is missing (default: the current one). It gets the subfolders of a folder that is imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dots per inch of pictures, 10 to 2400 (default: 300).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records of the label&apos;s data sources: a number, a range as 3-12 or 3-, or all (default: the first). A series of pictures is numbered; a PDF has a page for each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite files that LabelPort did not make.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read every file as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever its name. Standard input needs it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import what a file lists as well, a name on each line or between NULs; - reads the list from standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list&apos;s names stand between NULs, as find -print0 writes them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Named and listed files below this folder keep their subfolders in the output folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files to import at the same time (default: one for each processor core).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give a file up that does not get on for so long; 0 waits for ever (default: 60).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MiB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 2048).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out what an earlier command with the same options did, if neither the file nor its outputs have changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>K/N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import the K-th of N parts of the files, so that N machines can share an archive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a report on all files, as .json or .html; may be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End with status 3 when a label did not come over whole.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On standard error, tell what failed and nothing else.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label), and writes what they show. A folder is searched with its subfolders for files of these names. What was written is listed on standard output, in the order of the files&apos; names.
+
+Examples:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 takes a whole number from %2 to %3, not &quot;%4&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is nothing that can be written; --to takes: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--records takes a number, a range as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--shard takes a part and their number, as 3/8, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A report is written to a file whose name ends in .json or .html, not to &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--memory-limit takes 0 or at least %1 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file to import was given.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input can be a label or a list of files, but not both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input has no name, so --reader must say what it is: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportTeller</name>
+    <message>
+        <source>warning: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 files were imported, %3 had been done before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files were passed over: only names that end in %2 are taken from folders.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 files failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportWorker</name>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::LabelWriter</name>
+    <message>
+        <source>it has only %1 records, none with the number %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 records are more than the %2 that one command writes; name a part of them with --records</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::Main</name>
+    <message>
+        <source>Usage: labelport COMMAND [ARGUMENT...]
+
+Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
+LabelPort: *.label.
+
+Commands:
+  import FILE...   import labels and write what they show (import --help tells more)
+  trace FILE       print every call that an import makes on its host, as JSON lines
+
+  --help           show this text
+  --version        show the version
+
+Examples:
+  labelport import shelf.odg
+  labelport import archive --to png,label --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport trace shelf.odg
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
+(import --fail-on-loss), 130 stopped by a signal.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>desktop::Actions</name>
     <message>
         <source>&amp;Open…</source>
@@ -1548,6 +1913,881 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>cannot write “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlCard</name>
+    <message>
+        <source>no picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>took too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>needed too much memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Came over whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data sources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the import said</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Did not come over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Came over changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlPage</name>
+    <message>
+        <source>%1 of %2 files came over whole.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whole: nothing lost, nothing changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed in their looks, nothing lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of %1 objects in these files, %2 came over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In %1 files the objects could not be counted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost and nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was lost or changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What can be done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>took too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>needed too much memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>most problems first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>most objects lost first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>worst status first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort and filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Migration report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file fits the search.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Inspect</name>
+    <message>
+        <source>kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items (millimetres):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page: %1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data sources:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Came over whole:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Came over changed:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Did not come over:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the import said:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::KindNames</name>
+    <message>
+        <source>picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>formatted text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>barcode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rounded rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right triangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>triangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>diamond</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pentagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hexagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>octagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::LossKinds</name>
+    <message>
+        <source>Objects in groups were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the document in its own program, ungroup the objects, save, and import again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects on the second and later pages were left out: a label has one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save each page as a document of its own and import those.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects of the page&apos;s background (its master page) were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy them from the master page to the page itself and import again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connectors between objects were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw them as plain lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curves, free polygons and polylines were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert them to a picture or to plain shapes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Callouts were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each by a text and a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Three-dimensional objects were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert them to a picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Form controls were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each by a text, if it is to be printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects inside texts, text boxes or other objects were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Anchor them to the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shapes of a text document were left out: only its texts, text boxes and pictures are taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the label into a drawing instead of a text document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and objects in tables were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put them into text boxes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts in lists were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn the bullets or numbers off, so that the list becomes plain paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and objects in sections or indexes were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the section and keep its content.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and objects of the header or footer were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy them into the document itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts of hyperlinks were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the hyperlinks and keep their texts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields in texts, such as page numbers and names, were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each by its text, or by a data source after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of texts were left out, because their kind is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare the texts with the old label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts of shapes were left out: they do not begin with a plain paragraph.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn them into plain paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Footnotes and endnotes were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put their texts into text boxes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comments were left out; they are not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing, unless somebody needs them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Animations were left out; they are not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects were left out, because their kind is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with the old label and draw them anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects were left out, because their kind of control is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file lists objects more than once; all but the first list were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the file in its own program and save it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture boxes without a picture were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If a picture is missing, put it in after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures are missing: they are damaged, too large or of an unknown format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save them as PNG and put them in after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vector drawings are missing: they cannot be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert them to PNG and put them in after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbols are missing: neither the file nor the symbol databases have a drawing of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the label with the newest version of its own program, which stores the drawings, or add them to the symbol databases.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes were left out, because their type is not supported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another type, and put them in after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was read from an unknown record on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is damaged or of a newer version: look for another copy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file ends in the middle: its last object is incomplete, and more may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look for another copy of the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy its content into a drawing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something was left out, because it is larger than anything on a real label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make the label smaller, or its pictures.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects of the file are not on the label, and the import has not said why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with the old label, and tell the makers of this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import had more to say than was kept: there may be losses that are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import this file alone and look at the label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shapes that have no counterpart became rectangles.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the nearest shape after the import, or put them in as a symbol.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items are no longer bound to their data source: they show what was last in them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind them to a data source after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label was linked to a database file, and is no longer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect the data after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts with a placeholder among other words are bound to a data source: they show its value alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the other words into texts of their own, or into the data source.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields of date and time became plain text: they show when the document was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind them to a data source of the date after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes cannot be drawn: their type does not allow their content.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct the content or choose another type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes of a type without a known counterpart became Code 39.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan the old label and choose the right type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items lie wholly outside the page: they are not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move them onto the page, or delete them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items reach beyond the edge of the page: that part is not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with the old label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sizes, positions or fonts are larger than anything on a real label, and were limited.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document measures in millimetres: the label is ten times larger than the paper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print at a tenth of the size, or save the document with centimetres or inches as its unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths are not in the unit of the page: they were read as if they were.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the document with one unit throughout.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file gives no size of the page: a usual one was taken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the size of the page after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects without a position on the page were put where the text runs, or into the corner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turned lines and slanted or scaled objects lost that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fonts that are not on this machine were replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install the fonts and import again, if the looks matter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretched texts are not stretched any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a font size that fits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colored texts lost their color.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the color after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line breaks, tabs or repeated spaces in texts were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split such a text into paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formats of characters and paragraphs, such as superscript or line spacing, were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a fill after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadows, transparency, cropping and other effects were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import has something to say about this label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read it, and compare with the old label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::MergeReports</name>
+    <message>
+        <source>The report %1 has an entry that describes no file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 stands in the reports more than once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report %1 has changed meanwhile.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportReader</name>
+    <message>
+        <source>The report %1 cannot be read: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no report of LabelPort: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not begin as one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not name its format first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is of a version that is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no list of files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its list of files is damaged</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportWriter</name>
+    <message>
+        <source>The report %1 cannot be written: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Summary</name>
+    <message>
+        <source>%1 objects came over; how many the file holds is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 objects came over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not imported: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost and nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost; something was changed.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

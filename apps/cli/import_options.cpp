@@ -308,7 +308,8 @@ parseImportArguments(const QStringList& arguments)
 {
     QCommandLineParser parser;
     addOptions(parser);
-    if (!parser.parse(QStringList{QStringLiteral("labelport import")} + arguments)) {
+    if (!parser.parse(QStringList{QStringLiteral("labelport import")} /* no translation: a name */ +
+                      arguments)) {
         return UsageError{parser.errorText()};
     }
     if (parser.isSet(QStringLiteral("help"))) {

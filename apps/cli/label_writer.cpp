@@ -7,6 +7,7 @@
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -14,6 +15,11 @@
 
 namespace cli {
 namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(cli::LabelWriter)
+};
 
 /// The records to write, counted from 0.
 struct Records
@@ -28,7 +34,7 @@ Records recordsOf(const OpenedLabel& label, const RecordRange& range)
     const qint64 available = label.datasources->recordCount();
     if (range.first > available) {
         return {0, 0,
-                QStringLiteral("it has only %1 records, none with the number %2")
+                Words::tr("it has only %1 records, none with the number %2")
                     .arg(available)
                     .arg(range.first)};
     }
@@ -36,8 +42,8 @@ Records recordsOf(const OpenedLabel& label, const RecordRange& range)
     const qint64 count = last - range.first + 1;
     if (count > MaximumRecords) {
         return {0, 0,
-                QStringLiteral("%1 records are more than the %2 that one command writes; name a "
-                               "part of them with --records")
+                Words::tr("%1 records are more than the %2 that one command writes; name a "
+                          "part of them with --records")
                     .arg(count)
                     .arg(MaximumRecords)};
     }
@@ -57,6 +63,7 @@ QString writePicture(const workbench::Canvas& canvas, const QString& output, int
     if (!page.error.isEmpty()) {
         return page.error;
     }
+    // No translation: it says in the picture whose it is.
     page.image.setText(QStringLiteral("Software"), QLatin1String(SoftwareMark));
     return workbench::writePng(page.image, output);
 }

@@ -5,6 +5,7 @@
 #include "apps/cli/import_worker.h"
 #include "apps/cli/messages.h"
 #include "apps/cli/trace_command.h"
+#include "translations/program_language.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -16,6 +17,11 @@
 
 namespace {
 
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(cli::Main)
+};
+
 /// File names and messages are UTF-8 even where the environment names no locale at all; Qt
 /// would switch by itself, but with a warning.
 void chooseUtf8Locale()
@@ -26,7 +32,8 @@ void chooseUtf8Locale()
     }
 }
 
-const char* const HelpText = R"(Usage: labelport COMMAND [ARGUMENT...]
+const char* const HelpText =
+    QT_TRANSLATE_NOOP("cli::Main", R"(Usage: labelport COMMAND [ARGUMENT...]
 
 Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
 LabelPort: *.label.
@@ -46,7 +53,7 @@ Examples:
 
 Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
 (import --fail-on-loss), 130 stopped by a signal.
-)";
+)");
 
 QStringList argumentsOf(int argc, char** argv)
 {
@@ -67,11 +74,17 @@ void setUpApplication()
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
 }
 
+QStringList wantedLanguages()
+{
+    return translations::wantedLanguages(QProcessEnvironment::systemEnvironment());
+}
+
 /// The command itself paints nothing: its workers do.
 int runImportCommand(int argc, char** argv, const QStringList& arguments)
 {
     setUpApplication();
     const QCoreApplication application(argc, argv);
+    const translations::ProgramLanguage language(wantedLanguages());
     return cli::runImport(arguments);
 }
 
@@ -82,6 +95,7 @@ int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     setUpApplication();
     const QApplication application(argc, argv);
+    const translations::ProgramLanguage language(wantedLanguages());
     return cli::runImportWorker(arguments);
 }
 
@@ -89,6 +103,8 @@ int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
+    // Before the locale changes: workers and the trace speak what was asked for.
+    translations::keepLanguage(wantedLanguages());
     chooseUtf8Locale();
     QStringList arguments = argumentsOf(argc, argv);
     const QString command = arguments.isEmpty() ? QString() : arguments.takeFirst();
@@ -104,17 +120,20 @@ int main(int argc, char** argv)
     }
     if (command == QLatin1String("--help") || command == QLatin1String("-h") ||
         command == QLatin1String("help")) {
-        cli::printText(QString::fromUtf8(HelpText));
+        const QCoreApplication application(argc, argv);
+        const translations::ProgramLanguage language(wantedLanguages());
+        cli::printText(Words::tr(HelpText));
         return cli::ExitSuccess;
     }
     if (command == QLatin1String("--version")) {
         cli::printResult(QStringLiteral("labelport " LABELPORT_VERSION));
         return cli::ExitSuccess;
     }
+    const QCoreApplication application(argc, argv);
+    const translations::ProgramLanguage language(wantedLanguages());
     cli::printMessage(
         command.isEmpty()
-            ? QStringLiteral("What is it to do? \"labelport --help\" tells.")
-            : QStringLiteral("\"%1\" is no command; \"labelport --help\" tells what is.")
-                  .arg(command));
+            ? Words::tr("What is it to do? \"labelport --help\" tells.")
+            : Words::tr("\"%1\" is no command; \"labelport --help\" tells what is.").arg(command));
     return cli::ExitUsage;
 }

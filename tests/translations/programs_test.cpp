@@ -70,7 +70,9 @@ TEST_F(Programs, SayWhatTheyAreFor)
         const char* german;
         const char* french;
     };
-    for (const Row& row : {Row{Trace, "Imports a legacy label", "Importiert ein altes Etikett",
+    for (const Row& row : {Row{Labelport, "Opens legacy label templates",
+                               "Öffnet alte Etikettenvorlagen", "Ouvre d’anciens modèles"},
+                           Row{Trace, "Imports a legacy label", "Importiert ein altes Etikett",
                                "Importe une ancienne étiquette"},
                            Row{Workbench, "Opens legacy label templates",
                                "Öffnet alte Etikettenvorlagen", "Ouvre d’anciens modèles"}}) {
@@ -84,12 +86,24 @@ TEST_F(Programs, SayWhatTheyAreFor)
 
 TEST_F(Programs, SayWhatIsWrong)
 {
+    const QStringList import{QStringLiteral("import"), Missing};
+    EXPECT_TRUE(run(Labelport, import, English).err.contains(u"There is no such file."));
+    EXPECT_TRUE(run(Labelport, import, German).err.contains(u"Es gibt keine solche Datei."));
+    EXPECT_TRUE(run(Labelport, import, French).err.contains(u"Ce fichier n’existe pas."));
+
     EXPECT_TRUE(run(Trace, {Missing}, English).err.contains(u"cannot read missing.odg: "));
     EXPECT_TRUE(run(Trace, {Missing}, German).err.contains(u"missing.odg ist nicht lesbar: "));
 
     const QStringList two{QStringLiteral("a.odg"), QStringLiteral("b.odg")};
     EXPECT_TRUE(run(Workbench, two, English).err.contains(u"a window holds one label"));
     EXPECT_TRUE(run(Workbench, two, German).err.contains(u"ein Fenster fasst ein Etikett"));
+}
+
+TEST_F(Programs, SpeakALanguageThatTheCharacterSetOfTheEnvironmentCannotWrite)
+{
+    const Outcome outcome =
+        run(Labelport, {QStringLiteral("import"), Missing}, {{"LANG", "de_DE.ISO-8859-1"}});
+    EXPECT_TRUE(outcome.err.contains(u"Es gibt keine solche Datei.")) << qPrintable(outcome.err);
 }
 
 TEST_F(Programs, MakeTheSameFilesInEveryLanguage)

@@ -26,6 +26,8 @@ TOKEN = re.compile(
 PHRASE = re.compile(r"[A-Za-z’']{2,}[,;:.]? +[a-z’']{2,}")
 
 # What a marked text stands in: the last name before the bracket that is open around it.
+# Files may give such a mark a shorter name.
+MACRO = re.compile(r'#define (\w+)\(\w+\) QT_TRANSLATE_NOOP\(')
 MARKS = {"tr", "translate", "QT_TRANSLATE_NOOP", "QT_TR_NOOP", "QT_TRANSLATE_NOOP3"}
 # What shows its text whatever it is, even a single word.
 SHOWN = {"setText", "setWindowTitle", "setToolTip", "setStatusTip", "setTitle", "addButton",
@@ -42,7 +44,7 @@ WRAPPERS = {"", "QStringLiteral", "QLatin1String", "QString", "QStringView", "QL
 EXCUSE = "no translation:"
 # Texts that are code of another kind.
 CODE = re.compile(r"^(SELECT|PRAGMA|INSERT|CREATE|<|\s*[\[{.#@*&]|[a-z-]+=|.*[{}]|.*=['\"\\]|Mozilla)|"
-                  r"xmlns|^\^|\$$")
+                  r"xmlns|-src |^\^|\$$")
 
 
 def split(code):
@@ -95,13 +97,14 @@ def examine(code):
 
     An excuse in a comment holds for its line and the next."""
     lines = code.split("\n")
+    marks = MARKS | set(MACRO.findall(code))
     bare, texts = split(code)
     found = []
     for place, words in texts:
         callee = next((name for name in callees(bare, place) if name not in WRAPPERS), "")
         line = code.count("\n", 0, place)
-        is_excused = any(EXCUSE in each for each in lines[max(0, line - 1):line + 1])
-        if callee in MARKS or callee in FOR_MACHINES or is_excused:
+        is_excused = any(EXCUSE in each.lower() for each in lines[max(0, line - 1):line + 1])
+        if callee in marks or callee in FOR_MACHINES or is_excused:
             continue
         is_shown = callee in SHOWN and re.search(r"[A-Za-z]{2,}", words)
         is_phrase = PHRASE.search(words) and not CODE.search(words)
@@ -118,6 +121,7 @@ def try_examples():
         '{1, QT_TRANSLATE_NOOP("workbench::X", "does not fit")},',
         'QCoreApplication::translate("main", "opens a label");',
         'log("could not open %s", name);',
+        '#define WORDS(text) QT_TRANSLATE_NOOP("x", text)\nRow{1, WORDS("was left out")},',
         'query.exec(QStringLiteral("SELECT svg FROM symbols"));',
         'path(u"M3 19V6a1");  // a comment with several words',
         'setObjectName(QStringLiteral("items"));',

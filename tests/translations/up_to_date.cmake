@@ -2,10 +2,7 @@
 file(REMOVE_RECURSE ${WORK})
 file(GLOB files ${SOURCE}/translations/labelport_*.ts)
 file(COPY ${files} DESTINATION ${WORK})
-execute_process(
-    COMMAND ${CMAKE_COMMAND} -D LUPDATE=${LUPDATE} "-D FOLDERS=${FOLDERS}" -D SOURCE=${SOURCE}
-        -D TARGET=${WORK} -P ${SOURCE}/translations/update.cmake
-    COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${COLLECT_TEXTS} ${WORK} ${FOLDERS} COMMAND_ERROR_IS_FATAL ANY)
 list(LENGTH files count)
 if(count LESS 3)
     message(FATAL_ERROR "there are only ${count} message files")

@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""Collects the translatable texts of the code.
+
+collect_texts.py LUPDATE SOURCE TARGET FOLDER...
+
+All of them go into TARGET/labelport_template.ts, and what is new into each
+TARGET/labelport_XX.ts, to be translated there. Texts that the code has no longer go. Places in the
+code are not kept: they would change with every line.
+
+lupdate sees neither through a macro nor into a function, and would put a text into another context
+than the one in which the program looks for it. So it gets a copy of the code in which the two short
+forms that files give themselves are written out:
+
+    #define WORDS(text) QT_TRANSLATE_NOOP("context", text)
+    QString tr(const char* text) { return QCoreApplication::translate("context", text); }
+"""
+
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+MACRO = re.compile(r'#define (\w+)\((\w+)\) QT_TRANSLATE_NOOP\("([^"]+)", \2\)')
+HELPER = re.compile(r'QString tr\(const char\* (\w+)\)\s*\{\s*'
+                    r'return QCoreApplication::translate\("([^"]+)", \1\);\s*\}')
+
+
+def written_out(code):
+    """The code with the short forms that it defines written out where they are used."""
+    for macro in list(MACRO.finditer(code)):
+        name, _, context = macro.groups()
+        code = code.replace(macro.group(0), "")
+        code = re.sub(rf'(?<!\w){name}\((?=\s*")', f'QT_TRANSLATE_NOOP("{context}", ', code)
+    helper = HELPER.search(code)
+    if helper:
+        context = helper.group(2)
+        code = code.replace(helper.group(0), "")
+        code = re.sub(r'(?<![\w:.])tr\((?=\s*")', f'QCoreApplication::translate("{context}", ', code)
+    return code
+
+
+def copy(source, folders, target):
+    for folder in folders:
+        for path in sorted((source / folder).rglob("*")):
+            if path.suffix in (".cpp", ".h"):
+                to = target / path.relative_to(source)
+                to.parent.mkdir(parents=True, exist_ok=True)
+                to.write_text(written_out(path.read_text(encoding="utf-8")), encoding="utf-8")
+
+
+def main():
+    lupdate, source, target = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
+    folders = sys.argv[4:]
+    files = [str(path.resolve()) for path in sorted(target.glob("labelport_*.ts"))]
+    with tempfile.TemporaryDirectory() as work:
+        copy(source, folders, pathlib.Path(work))
+        done = subprocess.run(
+            [lupdate, "-silent", "-no-obsolete", "-locations", "none", "-no-ui-lines",
+             "-source-language", "en", "-I", ".", "-recursive", *folders, "-ts", *files],
+            cwd=work, stderr=subprocess.PIPE, text=True, check=False)
+    # What it complains of are texts in contexts that do not exist when the program runs.
+    sys.stderr.write(done.stderr)
+    return 1 if done.returncode or done.stderr.strip() else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
