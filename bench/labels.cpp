@@ -32,7 +32,7 @@ double placeY(int i)
 
 canvas::ItemHeader headerOf(int i)
 {
-    return {false, placeX(i), placeY(i), double(i % 5), 0.0, u"1 1/2"_s, u"3/8"_s};
+    return {false, placeX(i), placeY(i), double(i % 5), 0.0, u"3/2"_s, u"3/8"_s};
 }
 
 canvas::ShapeRecord shapeRecord(int i)

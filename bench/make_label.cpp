@@ -17,7 +17,7 @@ QByteArray labelFor(const QString& path, int objects)
     if (path.endsWith(QLatin1String(".qmtx"))) {
         return bench::xmlLabel(objects);
     }
-    return bench::drawing(objects, path.endsWith(QLatin1String("text.odg")) ? bench::Texts::Some
+    return bench::drawing(objects, path.endsWith(QLatin1String("_texts.odg")) ? bench::Texts::Some
                                                                             : bench::Texts::None);
 }
 
@@ -26,7 +26,7 @@ QByteArray labelFor(const QString& path, int objects)
 int main(int argc, char** argv)
 {
     if (argc != 3) {
-        std::fputs("Usage: bench_make_label OBJECTS FILE.cnv|.qmtx|.odg|text.odg\n", stderr);
+        std::fputs("Usage: bench_make_label OBJECTS FILE.cnv|.qmtx|.odg|_texts.odg\n", stderr);
         return 2;
     }
     const QString path = QString::fromLocal8Bit(argv[2]);

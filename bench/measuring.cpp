@@ -6,7 +6,10 @@
 
 namespace bench {
 
-qint64 peakBytes()
+namespace {
+
+// A line of the system's own account of this process, which it gives in kilobytes.
+qint64 statusBytes(const QByteArray& name)
 {
     QFile status(QStringLiteral("/proc/self/status"));
     if (!status.open(QIODevice::ReadOnly)) {
@@ -14,25 +17,35 @@ qint64 peakBytes()
     }
     const QByteArrayList lines = status.readAll().split('\n');
     for (const QByteArray& line : lines) {
-        if (line.startsWith("VmHWM:")) {
+        if (line.startsWith(name + ':')) {
             return line.simplified().split(' ').value(1).toLongLong() * 1024;
         }
     }
     return 0;
 }
 
-qint64 childPeak(const QStringList& arguments)
+} // namespace
+
+qint64 peakBytes()
+{
+    return statusBytes("VmHWM");
+}
+
+qint64 currentBytes()
+{
+    return statusBytes("VmRSS");
+}
+
+QString childOutput(const QStringList& arguments)
 {
     QProcess child;
     child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     child.start(QCoreApplication::applicationFilePath(), arguments);
     child.waitForFinished(-1);
-    bool isNumber = false;
-    const qint64 bytes = child.readAllStandardOutput().trimmed().toLongLong(&isNumber);
-    if (!isNumber) {
-        qFatal("%s gave no number", qPrintable(arguments.join(u' ')));
+    if (child.exitStatus() != QProcess::NormalExit || child.exitCode() != 0) {
+        qFatal("%s failed", qPrintable(arguments.join(u' ')));
     }
-    return bytes;
+    return QString::fromLatin1(child.readAllStandardOutput()).trimmed();
 }
 
 } // namespace bench

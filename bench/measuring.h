@@ -28,8 +28,11 @@ template <class Work>
 /// The most memory that this process has had at once, in bytes.
 [[nodiscard]] qint64 peakBytes();
 
+/// The memory that this process has now, in bytes.
+[[nodiscard]] qint64 currentBytes();
+
 /// By how much a piece of work raises the peak, in bytes. Only the first such measurement of a
-/// process means anything, hence childPeak().
+/// process means anything, hence childOutput().
 template <class Work>
 [[nodiscard]] qint64 peakOf(const Work& work)
 {
@@ -38,7 +41,7 @@ template <class Work>
     return peakBytes() - before;
 }
 
-/// Runs this program again with these arguments, and gives the number that it prints.
-[[nodiscard]] qint64 childPeak(const QStringList& arguments);
+/// Runs this program again with these arguments, and gives the line that it prints.
+[[nodiscard]] QString childOutput(const QStringList& arguments);
 
 } // namespace bench

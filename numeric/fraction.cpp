@@ -23,7 +23,7 @@ void logDebug(int line, const char* function, const char* format, const QByteArr
         .write(format, text.constData());
 }
 
-quint64 unsignedOrOne(const QString& text)
+quint64 unsignedOrOne(QStringView text)
 {
     bool ok = false;
     const quint64 number = text.toULongLong(&ok);
@@ -146,8 +146,8 @@ Fraction Fraction::exactProduct(const Fraction& a, const Fraction& b)
 
 void Fraction::readRatio(const QString& text, qsizetype slash)
 {
-    m_numerator = unsignedOrOne(text.left(slash));
-    m_denominator = unsignedOrOne(text.mid(slash + 1));
+    m_numerator = unsignedOrOne(QStringView(text).left(slash));
+    m_denominator = unsignedOrOne(QStringView(text).mid(slash + 1));
     reduce();
 }
 

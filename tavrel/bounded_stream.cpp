@@ -4,6 +4,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
 
 namespace tavrel {
 namespace {
@@ -22,8 +23,9 @@ Value readValue(QDataStream& stream)
 // as the stream itself reads it.
 quint32 peekLength(const QDataStream& stream)
 {
-    const QByteArray bytes = stream.device()->peek(sizeof(quint32));
-    return bytes.size() == sizeof(quint32) ? qFromBigEndian<quint32>(bytes.constData()) : 0;
+    std::array<char, sizeof(quint32)> bytes{};
+    const qint64 count = stream.device()->peek(bytes.data(), bytes.size());
+    return count == bytes.size() ? qFromBigEndian<quint32>(bytes.data()) : 0;
 }
 
 bool claimsMoreThanIsLeft(const QDataStream& stream)

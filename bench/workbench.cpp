@@ -1,0 +1,179 @@
+// The real host at work: importing, saving, opening, drawing; how time and memory grow with the
+// label.
+//
+// bench_workbench [LARGEST SIZE]       measures and prints the table
+// bench_workbench --steps WORK FILE    does one thing once and prints seconds and bytes
+
+#include "bench/labels.h"
+#include "bench/measuring.h"
+#include "bench/table.h"
+
+#include "workbench/document/label_file.h"
+#include "workbench/import/label_import.h"
+#include "workbench/rendering/page_image.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double Dpi = 72.0;
+
+struct Format
+{
+    QString name;
+    QString ending;
+    std::function<QByteArray(int)> label;
+    int rounds;
+};
+
+const QList<Format>& formats()
+{
+    static const QList<Format> all = {
+        {u"binary"_s, u".cnv"_s, &bench::canvasFile, 3},
+        {u"XML"_s, u".qmtx"_s, &bench::xmlLabel, 3},
+        {u"OpenDocument"_s, u"_texts.odg"_s,
+         [](int shapes) { return bench::drawing(shapes, bench::Texts::Some); }, 3},
+    };
+    return all;
+}
+
+struct Steps
+{
+    double import = 0.0;
+    double save = 0.0;
+    double open = 0.0;
+    double draw = 0.0;
+    qint64 importedBytes = 0;
+};
+
+void require(const QString& error)
+{
+    if (!error.isEmpty()) {
+        qFatal("%s", qPrintable(error));
+    }
+}
+
+Steps stepsOf(const QString& path)
+{
+    Steps steps;
+    workbench::ImportResult label;
+    const qint64 before = bench::currentBytes();
+    steps.import = bench::secondsOf([&] { label = workbench::importLabel(path); });
+    require(label.error);
+    steps.importedBytes = bench::currentBytes() - before;
+    const QString saved = path + u".label"_s;
+    steps.save = bench::secondsOf(
+        [&] { require(workbench::document::saveLabel(saved, *label.canvas, *label.datasources)); });
+    steps.draw =
+        bench::secondsOf([&] { require(workbench::renderPage(*label.canvas, Dpi).error); });
+    workbench::Canvas canvas;
+    workbench::datasources::DatasourceController sources;
+    steps.open =
+        bench::secondsOf([&] { require(workbench::document::openLabel(saved, canvas, sources)); });
+    return steps;
+}
+
+QString write(const QTemporaryDir& folder, const Format& format, int size)
+{
+    const QString path = folder.filePath(QString::number(size) + format.ending);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(format.label(size)) < 0) {
+        qFatal("%s cannot be written", qPrintable(path));
+    }
+    return path;
+}
+
+struct Medians
+{
+    QList<double> import;
+    QList<double> save;
+    QList<double> open;
+    QList<double> draw;
+    QList<double> bytes;
+    QList<double> peak;
+};
+
+// Each round in a process of its own: what one leaves behind in memory would change the next.
+Medians measured(const Format& format, const QString& path)
+{
+    Medians all;
+    for (int round = 0; round < format.rounds; ++round) {
+        const QStringList words = bench::childOutput({u"--steps"_s, path}).split(u' ');
+        all.import.append(words.value(0).toDouble());
+        all.save.append(words.value(1).toDouble());
+        all.open.append(words.value(2).toDouble());
+        all.draw.append(words.value(3).toDouble());
+        all.bytes.append(words.value(4).toDouble());
+        all.peak.append(words.value(5).toDouble());
+    }
+    return all;
+}
+
+QString milliseconds(const QList<double>& seconds)
+{
+    return QString::number(bench::median(seconds) * 1000, 'f', 0);
+}
+
+QString growth(const QList<double>& before, const QList<double>& now)
+{
+    return before.isEmpty() ? QString()
+                            : QString::number(bench::median(now) / bench::median(before), 'f', 1);
+}
+
+int measure(const QList<int>& sizes)
+{
+    const QTemporaryDir folder;
+    QList<QStringList> rows = {{u"label"_s, u"items"_s, u"import ms"_s, u"growth"_s, u"save ms"_s,
+                                u"growth"_s, u"open ms"_s, u"growth"_s, u"draw ms"_s, u"growth"_s,
+                                u"bytes/item"_s, u"peak MB"_s}};
+    for (const Format& format : formats()) {
+        Medians before;
+        for (const int size : sizes) {
+            const Medians now = measured(format, write(folder, format, size));
+            rows.append({format.name, QString::number(size), milliseconds(now.import),
+                         growth(before.import, now.import), milliseconds(now.save),
+                         growth(before.save, now.save), milliseconds(now.open),
+                         growth(before.open, now.open), milliseconds(now.draw),
+                         growth(before.draw, now.draw),
+                         QString::number(bench::median(now.bytes) / size, 'f', 0),
+                         QString::number(bench::median(now.peak) / (1 << 20), 'f', 0)});
+            before = now;
+        }
+    }
+    bench::printTable(rows);
+    return 0;
+}
+
+int printSteps(const QString& path)
+{
+    const Steps steps = stepsOf(path);
+    std::printf("%.6f %.6f %.6f %.6f %lld %lld\n", steps.import, steps.save, steps.open, steps.draw,
+                static_cast<long long>(steps.importedBytes),
+                static_cast<long long>(bench::peakBytes()));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLoggingCategory::setFilterRules(u"*=false"_s);
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == u"--steps"_s && arguments.size() == 3) {
+        return printSteps(arguments[2]);
+    }
+    QList<int> sizes = {1000, 10'000, 100'000};
+    const int largest = arguments.value(1, u"100000"_s).toInt();
+    sizes.removeIf([largest](int size) { return size > largest; });
+    return measure(sizes);
+}
