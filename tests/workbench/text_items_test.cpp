@@ -12,6 +12,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -213,6 +214,22 @@ TEST(RichText, NeverOpensWhatItsDocumentNames)
         const QImage image = page.image();
         EXPECT_EQ(countOf(image, image.rect(), Qt::magenta), 0);
     }
+}
+
+TEST(RichText, NeverOpensAStyleSheetEither)
+{
+    QTemporaryFile sheet;
+    ASSERT_TRUE(sheet.open());
+    sheet.write("p { color: #ff00ff; }");
+    sheet.flush();
+    Painted page;
+    auto& item = page.make<RichTextItem>(KestTypes::RichText);
+    item.setHtml(QStringLiteral("<html><head><link rel=\"stylesheet\" type=\"text/css\" "
+                                "href=\"%1\"/></head><body><p>text</p></body></html>")
+                     .arg(sheet.fileName()));
+    item.adjustBoxSizeToContent(150.0);
+    const QImage image = page.image();
+    EXPECT_EQ(countOf(image, image.rect(), Qt::magenta), 0);
 }
 
 TEST(RichText, NewTextReplacesADocument)

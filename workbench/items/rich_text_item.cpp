@@ -34,6 +34,8 @@ QString htmlOf(const QTextDocument& document)
 RichTextItem::RichTextItem(KestTypes::ShapeType type)
     : Layers(type)
 {
+    // Every text gets one at once, plain as it may stay, because setHtml() is not ours: into a
+    // document of Qt's own it would load what the HTML refers to.
     setDocument(new LabelDocument(this));
     // A text has a frame only where its label says so.
     setPenStyle(Qt::NoPen);
@@ -43,7 +45,9 @@ void RichTextItem::setText(const QString& text)
 {
     prepareGeometryChange();
     m_text = text;
-    document()->clear();
+    if (hasDocument()) {
+        document()->clear();
+    }
     appearanceChanged();
 }
 
@@ -58,9 +62,24 @@ void RichTextItem::adjustBoxSizeToContent(double width)
     setBoxSize({bounded > 0.0 ? bounded : size.width(), size.height()});
 }
 
+bool RichTextItem::hasDocument() const
+{
+    return !document()->isEmpty();
+}
+
 bool RichTextItem::showsDocument() const
 {
-    return !showsSourceContent() && !document()->isEmpty();
+    return !showsSourceContent() && hasDocument();
+}
+
+// The document in the item's font. Only when it is looked at: a document lays itself out anew
+// for every font, even an empty one and for the same font, and most texts of labels are plain.
+QTextDocument& RichTextItem::labelDocument() const
+{
+    if (const QFont font = toFont(fontValues()); document()->defaultFont() != font) {
+        document()->setDefaultFont(font);
+    }
+    return *document();
 }
 
 PlainText RichTextItem::plainText(bool wraps) const
@@ -72,18 +91,10 @@ PlainText RichTextItem::plainText(bool wraps) const
 // A width of 0 or less does not wrap.
 QSizeF RichTextItem::layOutDocument(double width)
 {
-    boundFontSizes(*document());
-    document()->setTextWidth(width > 0.0 ? width : -1.0);
-    return document()->size();
-}
-
-void RichTextItem::appearanceChanged()
-{
-    // Setting a font lays out anew, even if it is the same.
-    if (const QFont font = toFont(fontValues()); document()->defaultFont() != font) {
-        document()->setDefaultFont(font);
-    }
-    Layers::appearanceChanged();
+    QTextDocument& content = labelDocument();
+    boundFontSizes(content);
+    content.setTextWidth(width > 0.0 ? width : -1.0);
+    return content.size();
 }
 
 double RichTextItem::overhang() const
@@ -110,13 +121,13 @@ void RichTextItem::paintDocument(QPainter& painter, const QRectF& box)
     context.palette.setColor(QPalette::Text, textStyleValues().color);
     painter.translate(0.0,
                       verticalOffset(textStyleValues().alignment, box.height() - size.height()));
-    document()->documentLayout()->draw(&painter, context);
+    labelDocument().documentLayout()->draw(&painter, context);
 }
 
 void RichTextItem::collect(ItemValues& values) const
 {
     Layers::collect(values);
-    values.text = TextValues{m_text, document()->isEmpty() ? QString() : htmlOf(*document())};
+    values.text = TextValues{m_text, hasDocument() ? htmlOf(labelDocument()) : QString()};
 }
 
 void RichTextItem::restore(const ItemValues& values)

@@ -28,10 +28,11 @@ protected:
     [[nodiscard]] double overhang() const override;
     void collect(ItemValues& values) const override;
     void restore(const ItemValues& values) override;
-    void appearanceChanged() override;
 
 private:
+    [[nodiscard]] bool hasDocument() const;
     [[nodiscard]] bool showsDocument() const;
+    [[nodiscard]] QTextDocument& labelDocument() const;
     [[nodiscard]] PlainText plainText(bool wraps) const;
     QSizeF layOutDocument(double width);
     void paintDocument(QPainter& painter, const QRectF& box);
