@@ -41,8 +41,8 @@ public:
     virtual void setCanvasBackgroundColor(const QColor& color) = 0;
     /// Sets the colour that new items are drawn with: the colour of the print.
     virtual void setCanvasDefaultPenColor(const QColor& color) = 0;
-    [[nodiscard]] virtual QColor canvasBackgroundColor() const = 0;
-    [[nodiscard]] virtual QColor canvasDefaultPenColor() const = 0;
+    [[nodiscard]] virtual QColor canvasBackgroundColor() const = 0; ///< As set last.
+    [[nodiscard]] virtual QColor canvasDefaultPenColor() const = 0; ///< As set last.
 
     /// Marks the listed items as not to be edited (or again as editable).
     virtual void setReadOnlyStateOnItemsInList(bool readOnly, QList<QGraphicsItem*> items) = 0;

@@ -13,10 +13,10 @@ enum class ReaderKind : quint8 {
 
 namespace readerchoice {
 
-struct SuffixRow
+/** A row of the table below. */ struct SuffixRow
 {
-    QLatin1String suffix;
-    ReaderKind reader;
+    QLatin1String suffix; ///< what stands behind the last dot, in small letters
+    ReaderKind reader;    ///< who reads such files
 };
 
 /// The suffixes that name a reader; all others belong to the binary reader.

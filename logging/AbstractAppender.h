@@ -13,7 +13,10 @@ public:
 
     /// Records below this level are not given to append(); Logger::Debug at first.
     void setDetailsLevel(Logger::LogLevel level) { m_detailsLevel = level; }
-    [[nodiscard]] Logger::LogLevel detailsLevel() const { return m_detailsLevel; }
+    [[nodiscard]] Logger::LogLevel detailsLevel() const
+    {
+        return m_detailsLevel;
+    } ///< The level set last.
 
     /// Called by the logger: filters by level, then appends.
     void write(const QDateTime& timeStamp, Logger::LogLevel level, const char* file, int line,
@@ -22,7 +25,7 @@ public:
 protected:
     virtual void append(const QDateTime& timeStamp, Logger::LogLevel level, const char* file,
                         int line, const char* function, const QString& category,
-                        const QString& message) = 0;
+                        const QString& message) = 0; ///< Takes one record; one at a time.
 
 private:
     Logger::LogLevel m_detailsLevel = Logger::Debug;

@@ -62,7 +62,7 @@ public:
         , m_line(line)
         , m_function(function)
         , m_category(category)
-    {}
+    {} ///< Names the place; a write() follows.
     ~CuteMessageLogger();
     CuteMessageLogger(const CuteMessageLogger&) = delete;
     CuteMessageLogger& operator=(const CuteMessageLogger&) = delete;

@@ -20,10 +20,11 @@ class CsvTableModel : public TableModel
 public:
     /// Files of more lines or bytes than these are refused, far above any real table.
     static constexpr int maximumLines = 1 << 20;
-    static constexpr qint64 maximumFileBytes = qint64(1) << 25;
+    static constexpr qint64 maximumFileBytes = qint64(1) << 25; ///< See maximumLines.
     /// A longer line is refused when it is asked for.
     static constexpr qint64 maximumLineBytes = qint64(1) << 20;
 
+    /// A model without a file. `headerRows` is the number of header lines at the file's start.
     explicit CsvTableModel(int headerRows);
     ~CsvTableModel() override;
 
@@ -31,6 +32,7 @@ public:
     /// was; any other failure leaves it empty. The file stays open.
     bool openFile(const QString& name) override;
     [[nodiscard]] int fileRowCount() const override;
+    /// The largest number of fields of any line parsed so far.
     [[nodiscard]] int fileColumnCount() const override;
     [[nodiscard]] QString cell(int line, int column) override;
 

@@ -18,6 +18,7 @@ public:
 
     /// Number of lines behind the headers, never below zero; 0 for a valid parent.
     [[nodiscard]] int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    /// As fileColumnCount(); 0 for a valid parent.
     [[nodiscard]] int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     /// The cell's text, its alignment (left and vertically centred), or nothing.
     [[nodiscard]] QVariant data(const QModelIndex& index,
@@ -36,13 +37,16 @@ public:
     virtual bool openFile(const QString& name) = 0;
     /// Number of all lines, the headers included.
     [[nodiscard]] virtual int fileRowCount() const = 0;
-    [[nodiscard]] virtual int fileColumnCount() const = 0;
+    [[nodiscard]] virtual int fileColumnCount() const = 0; ///< Number of columns known so far.
     /// Text of a cell, with line 0 the file's first. Empty outside the file.
     [[nodiscard]] virtual QString cell(int line, int column) = 0;
 
 protected:
-    void setHeaderNames(const QStringList& names) { m_headerNames = names; }
-    [[nodiscard]] const QStringList& headerNames() const { return m_headerNames; }
+    void setHeaderNames(const QStringList& names) { m_headerNames = names; } ///< One a column.
+    [[nodiscard]] const QStringList& headerNames() const
+    {
+        return m_headerNames;
+    } ///< One a column.
 
 private:
     [[nodiscard]] QStringList uniqueHeaderNames();

@@ -8,10 +8,10 @@ class IFontItem
 public:
     virtual ~IFontItem() = default;
 
-    virtual void setFontFamily(const QString& family) = 0;
+    virtual void setFontFamily(const QString& family) = 0; ///< Need not be installed here.
     /// Size in whole points. 0 or less comes from a damaged label: keep the last size.
     virtual void setFontPointSize(int size) = 0;
-    virtual void setFontBold(bool bold) = 0;
-    virtual void setFontItalic(bool italic) = 0;
-    virtual void setFontUnderline(bool underline) = 0;
+    virtual void setFontBold(bool bold) = 0;           ///< True for bold letters.
+    virtual void setFontItalic(bool italic) = 0;       ///< True for slanted letters.
+    virtual void setFontUnderline(bool underline) = 0; ///< True for a line below the text.
 };

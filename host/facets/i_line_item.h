@@ -11,9 +11,9 @@ class ILineItem
 public:
     virtual ~ILineItem() = default;
 
-    virtual void setLineLength(double length) = 0;
-    virtual void setLineStartPoint(const QPointF& point) = 0;
-    virtual void setLineEndPoint(const QPointF& point) = 0;
+    virtual void setLineLength(double length) = 0;            ///< In points.
+    virtual void setLineStartPoint(const QPointF& point) = 0; ///< On the page, in points.
+    virtual void setLineEndPoint(const QPointF& point) = 0;   ///< On the page, in points.
     /// What the start of the line shows: 0x10 an arrow, 0x30 a small arrow,
     /// 0x50 a double arrow, 0x80 a dimension stroke.
     virtual void setLineStartMarker(int marker) = 0;

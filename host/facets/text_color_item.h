@@ -8,5 +8,5 @@ class TextColorItem
 public:
     virtual ~TextColorItem() = default;
 
-    virtual void setTextColor(const QColor& color) = 0;
+    virtual void setTextColor(const QColor& color) = 0; ///< May be translucent.
 };

@@ -16,7 +16,7 @@ class QWidget;
 class LABELPORT_HOST_SERVICE SymbolCreator
 {
 public:
-    explicit SymbolCreator(QWidget* parent);
+    explicit SymbolCreator(QWidget* parent); ///< The parent may be null.
     ~SymbolCreator();
     SymbolCreator(const SymbolCreator&) = delete;
     SymbolCreator& operator=(const SymbolCreator&) = delete;

@@ -12,7 +12,7 @@
 class LABELPORT_HOST_SERVICE SymbolDatabaseModel : public QObject
 {
 public:
-    explicit SymbolDatabaseModel(QObject* parent);
+    explicit SymbolDatabaseModel(QObject* parent); ///< The parent, if any, owns it.
     ~SymbolDatabaseModel() override;
 
     /// Opens the database at this path in place of the last one. A file that is missing
