@@ -22,14 +22,6 @@ QString contestedWords(const QString& output)
         .arg(output);
 }
 
-Fate fateOf(const WorkerDeath& death)
-{
-    if (death.isOutOfMemory()) {
-        return Fate::OutOfMemory;
-    }
-    return death.kind == WorkerDeath::TimedOut ? Fate::TimedOut : Fate::Crashed;
-}
-
 } // namespace
 
 Run::Run(const QList<Input>& inputs, RunSettings settings, Deliver deliver)
@@ -235,9 +227,6 @@ void Run::remember(qsizetype index, const FileResult& result)
 void Run::lose(qsizetype index, Fate fate, const QString& error)
 {
     FileResult result{fate, {}, {error}, {}, {}, 0};
-    if (m_settings.needsReports && m_settings.reportOnLost) {
-        result.report = m_settings.reportOnLost(m_inputs.at(index), fate, error);
-    }
     remember(index, result);
     settle(index, std::move(result), error.size());
 }

@@ -35,8 +35,6 @@ struct RunSettings
     int workers = 1;
     WorkerCommand command;
     WorkerLimits limits;
-    /// The report on a file that no worker reported on.
-    std::function<QJsonObject(const Input&, Fate, const QString& error)> reportOnLost;
     /// Whether a file that appeared where an output is to stand may be replaced.
     std::function<bool(const QString& path)> mayReplace;
 };

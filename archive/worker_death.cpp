@@ -17,6 +17,14 @@ QString signalName(int number)
 
 } // namespace
 
+Fate fateOf(const WorkerDeath& death)
+{
+    if (death.isOutOfMemory()) {
+        return Fate::OutOfMemory;
+    }
+    return death.kind == WorkerDeath::TimedOut ? Fate::TimedOut : Fate::Crashed;
+}
+
 QString wordsFor(const WorkerDeath& death, const WorkerLimits& limits)
 {
     if (death.isOutOfMemory()) {

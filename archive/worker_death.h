@@ -1,5 +1,7 @@
 #pragma once
 
+#include "archive/messages.h"
+
 #include <QString>
 
 namespace archive {
@@ -32,6 +34,9 @@ struct WorkerLimits
     int timeoutSeconds = 60; ///< without a sign of life; 0 for none
     int memoryMiB = 2048;    ///< of its data; 0 for none
 };
+
+/// What that makes of its file.
+[[nodiscard]] Fate fateOf(const WorkerDeath& death);
 
 /// What is said of a file whose worker died so, in words for a person.
 [[nodiscard]] QString wordsFor(const WorkerDeath& death, const WorkerLimits& limits);

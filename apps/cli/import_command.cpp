@@ -1,5 +1,6 @@
 #include "apps/cli/import_command.h"
 
+#include "apps/cli/archive_reports.h"
 #include "apps/cli/existing_output.h"
 #include "apps/cli/exit_status.h"
 #include "apps/cli/import_inputs.h"
@@ -41,9 +42,7 @@ archive::RunSettings settingsFor(const ImportOptions& options, const archive::In
     settings.needsReports = options.job.report;
     settings.workers = options.workers;
     settings.limits = options.limits;
-    settings.command = {
-        QStringLiteral("/proc/self/exe"),
-        {QString::fromLatin1(WorkerCommandName), QString::number(options.limits.memoryMiB)}};
+    settings.command = workerCommand(options.limits.memoryMiB);
     settings.mayReplace = [](const QString& path) { return isOurOutput(path); };
     return settings;
 }
@@ -56,8 +55,11 @@ public:
         : m_options(options)
         , m_list(list)
         , m_teller(options.quiet)
-        , m_run(list.inputs, settingsFor(options, list),
-                [this](const archive::Delivery& delivery) { m_teller.tell(delivery); })
+        , m_reports(options.reports, options.failOnLoss)
+        , m_run(list.inputs, settingsFor(options, list), [this](const archive::Delivery& delivery) {
+            m_teller.tell(delivery);
+            m_reports.add(delivery);
+        })
     {}
 
     int run()
@@ -67,7 +69,9 @@ public:
                                                      "The folder %1 cannot be searched.")
                              .arg(folder));
         }
-        if (const QString error = m_run.open(); !error.isEmpty()) {
+        const QString obstacle = m_reports.obstacle();
+        const QString error = obstacle.isEmpty() ? m_run.open() : obstacle;
+        if (!error.isEmpty()) {
             m_teller.say(error);
             return ExitFailure;
         }
@@ -102,14 +106,31 @@ private:
                 "cli::ImportCommand", "Stopped. The same command with --resume goes on."));
             return ExitStopped;
         }
-        const bool isComplete =
-            progress.failed == 0 && !m_run.isBroken() && m_list.unreadable.isEmpty();
-        return isComplete ? ExitSuccess : ExitFailure;
+        const QStringList errors = m_reports.finish();
+        for (const QString& error : errors) {
+            m_teller.say(error);
+        }
+        const bool isComplete = progress.failed == 0 && !m_run.isBroken() &&
+                                m_list.unreadable.isEmpty() && errors.isEmpty();
+        return isComplete ? tellLosses() : ExitFailure;
+    }
+
+    int tellLosses()
+    {
+        if (!m_options.failOnLoss || m_reports.losses() == 0) {
+            return ExitSuccess;
+        }
+        m_teller.say(QCoreApplication::translate("cli::ImportCommand",
+                                                 "%1 of %2 files did not come over whole.")
+                         .arg(m_reports.losses())
+                         .arg(m_run.progress().total));
+        return ExitLoss;
     }
 
     const ImportOptions& m_options;
     const archive::InputList& m_list;
     ImportTeller m_teller;
+    ArchiveReports m_reports;
     archive::Run m_run;
 };
 

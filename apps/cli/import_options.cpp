@@ -204,9 +204,7 @@ void takeReader(Filling& given, ImportOptions& options)
     const QLatin1String name("reader");
     options.job.reader = readerOfName(given.text(name));
     if (given.isSet(name) && !options.job.reader) {
-        given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "\"%1\" is no reader; --reader takes: %2.")
-                       .arg(given.text(name), readerNames().join(QStringLiteral(", "))));
+        given.fail(unknownReaderWords(given.text(name)));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "apps/cli/import_worker.h"
 
+#include "apps/cli/file_reports.h"
 #include "apps/cli/job_options.h"
 #include "apps/cli/label_writer.h"
 #include "apps/cli/opened_label.h"
@@ -48,6 +49,11 @@ archive::FileResult importFile(const archive::Job& job, const archive::SignOfLif
     OpenedLabel label = openAnyLabel(job.file, options.reader);
     alive();
     result.warnings = warningsOf(label);
+    if (options.report) {
+        // Before anything is written: that brings other records on the canvas.
+        result.report = migration::toJson(reportOn(label, job, options.items));
+        alive();
+    }
     if (label.isOpen()) {
         writeAll(label, job, options, alive, result);
         result.fate = result.errors.isEmpty() ? archive::Fate::Done : archive::Fate::Failed;
@@ -70,6 +76,13 @@ archive::FileResult importJob(const archive::Job& job, const archive::SignOfLife
     } catch (const std::bad_alloc&) {
         archive::endForWantOfMemory();
     }
+}
+
+archive::WorkerCommand workerCommand(int memoryMiB)
+{
+    // The very file that runs now, even if a new version has taken its name meanwhile.
+    return {QStringLiteral("/proc/self/exe"),
+            {QString::fromLatin1(WorkerCommandName), QString::number(memoryMiB)}};
 }
 
 int runImportWorker(const QStringList& arguments)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/worker_loop.h"
+#include "archive/worker_process.h"
 
 #include <QStringList>
 
@@ -18,5 +19,8 @@ namespace cli {
 
 /// The name of that command.
 inline constexpr const char* WorkerCommandName = "worker";
+
+/// How this program starts its workers.
+[[nodiscard]] archive::WorkerCommand workerCommand(int memoryMiB);
 
 } // namespace cli

@@ -1,5 +1,7 @@
 #include "apps/cli/job_options.h"
 
+#include <QCoreApplication>
+
 #include <array>
 
 namespace cli {
@@ -11,6 +13,7 @@ constexpr QLatin1String LastKey("last");
 constexpr QLatin1String ReaderKey("reader");
 constexpr QLatin1String ForceKey("force");
 constexpr QLatin1String ReportKey("report");
+constexpr QLatin1String ItemsKey("items");
 
 struct ReaderRow
 {
@@ -40,7 +43,7 @@ QJsonObject decisiveOptions(const JobOptions& options)
 
 QJsonObject otherOptions(const JobOptions& options)
 {
-    return {{ForceKey, options.force}, {ReportKey, options.report}};
+    return {{ForceKey, options.force}, {ReportKey, options.report}, {ItemsKey, options.items}};
 }
 
 JobOptions jobOptionsFromJson(const QJsonObject& object)
@@ -55,6 +58,7 @@ JobOptions jobOptionsFromJson(const QJsonObject& object)
     options.reader = readerOfName(object.value(ReaderKey).toString());
     options.force = object.value(ForceKey).toBool();
     options.report = object.value(ReportKey).toBool();
+    options.items = object.value(ItemsKey).toBool();
     return options;
 }
 
@@ -76,6 +80,13 @@ QString nameOf(ReaderKind reader)
         }
     }
     return {};
+}
+
+QString unknownReaderWords(const QString& name)
+{
+    return QCoreApplication::translate("cli::JobOptions",
+                                       "\"%1\" is no reader; --reader takes: %2.")
+        .arg(name, readerNames().join(QStringLiteral(", ")));
 }
 
 QStringList readerNames()

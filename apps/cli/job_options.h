@@ -19,6 +19,7 @@ struct JobOptions
     std::optional<ReaderKind> reader; ///< none: the name decides
     bool force = false;               ///< overwrite what is not ours
     bool report = false;              ///< report on the file
+    bool items = false;               ///< list every item in the report
 };
 
 /// The options that decide about what is written.
@@ -32,5 +33,7 @@ struct JobOptions
 [[nodiscard]] std::optional<ReaderKind> readerOfName(const QString& name);
 [[nodiscard]] QString nameOf(ReaderKind reader);
 [[nodiscard]] QStringList readerNames();
+/// What is said of a name that is none, for a person.
+[[nodiscard]] QString unknownReaderWords(const QString& name);
 
 } // namespace cli

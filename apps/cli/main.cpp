@@ -1,15 +1,19 @@
 // labelport: the command line of LabelPort.
 
 #include "apps/cli/exit_status.h"
+#include "apps/cli/formats_command.h"
 #include "apps/cli/import_command.h"
 #include "apps/cli/import_worker.h"
+#include "apps/cli/inspect_command.h"
 #include "apps/cli/messages.h"
+#include "apps/cli/report_command.h"
 #include "apps/cli/trace_command.h"
 #include "translations/program_language.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
 
+#include <array>
 #include <clocale>
 #include <cstring>
 
@@ -36,10 +40,13 @@ const char* const HelpText =
     QT_TRANSLATE_NOOP("cli::Main", R"(Usage: labelport COMMAND [ARGUMENT...]
 
 Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
-LabelPort: *.label.
+LabelPort: *.label. Each command tells more with --help.
 
 Commands:
-  import FILE...   import labels and write what they show (import --help tells more)
+  import FILE...   import labels, or folders of them, and write what they show
+  inspect FILE     tell what a label holds, and what of it comes over
+  report merge     put the reports of several imports together
+  formats          tell what is read and what can be written
   trace FILE       print every call that an import makes on its host, as JSON lines
 
   --help           show this text
@@ -47,11 +54,12 @@ Commands:
 
 Examples:
   labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new
+  labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
+Exit status: 0 all went well, 1 something failed, 2 wrong usage, 3 something was lost
 (import --fail-on-loss), 130 stopped by a signal.
 )");
 
@@ -79,13 +87,29 @@ QStringList wantedLanguages()
     return translations::wantedLanguages(QProcessEnvironment::systemEnvironment());
 }
 
-/// The command itself paints nothing: its workers do.
-int runImportCommand(int argc, char** argv, const QStringList& arguments)
+using Command = int (*)(const QStringList& arguments);
+
+struct CommandRow
+{
+    QLatin1String name;
+    Command run;
+};
+
+constexpr std::array Commands{
+    CommandRow{QLatin1String("import"), &cli::runImport},
+    CommandRow{QLatin1String("inspect"), &cli::runInspect},
+    CommandRow{QLatin1String("report"), &cli::runReport},
+    CommandRow{QLatin1String("formats"), &cli::runFormats},
+    CommandRow{QLatin1String("trace"), &cli::runTrace},
+};
+
+/// These commands paint nothing themselves: their workers do.
+int runCommand(int argc, char** argv, Command command, const QStringList& arguments)
 {
     setUpApplication();
     const QCoreApplication application(argc, argv);
     const translations::ProgramLanguage language(wantedLanguages());
-    return cli::runImport(arguments);
+    return command(arguments);
 }
 
 int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
@@ -109,14 +133,13 @@ int main(int argc, char** argv)
     QStringList arguments = argumentsOf(argc, argv);
     const QString command = arguments.isEmpty() ? QString() : arguments.takeFirst();
 
-    if (command == QLatin1String("import")) {
-        return runImportCommand(argc, argv, arguments);
+    for (const CommandRow& row : Commands) {
+        if (command == row.name) {
+            return runCommand(argc, argv, row.run, arguments);
+        }
     }
     if (command == QLatin1String(cli::WorkerCommandName)) {
         return runWorkerCommand(argc, argv, arguments);
-    }
-    if (command == QLatin1String("trace")) {
-        return cli::runTrace(arguments);
     }
     if (command == QLatin1String("--help") || command == QLatin1String("-h") ||
         command == QLatin1String("help")) {

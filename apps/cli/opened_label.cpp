@@ -1,7 +1,6 @@
 #include "apps/cli/opened_label.h"
 
 #include "workbench/document/label_file.h"
-#include "workbench/import/label_import.h"
 
 namespace cli {
 namespace {
@@ -21,9 +20,7 @@ OpenedLabel openSaved(const QString& fileName)
 
 OpenedLabel openLegacy(const QString& fileName, ReaderKind reader)
 {
-    workbench::ImportResult result = workbench::importLabel(fileName, reader);
-    return {std::move(result.canvas), std::move(result.datasources), std::move(result.issues),
-            std::move(result.error), result.isOutOfMemory};
+    return {workbench::importLabel(fileName, reader), reader};
 }
 
 } // namespace

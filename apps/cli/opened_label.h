@@ -1,27 +1,21 @@
 #pragma once
 
 #include "importer/reader_choice.h"
-#include "workbench/canvas/canvas.h"
-#include "workbench/datasources/datasource_controller.h"
-#include "workbench/import/issue_words.h"
+#include "workbench/import/label_import.h"
 
 #include <QString>
 
-#include <memory>
 #include <optional>
 
 namespace cli {
 
 /// A label that was imported, or opened from the workbench's own format.
-struct OpenedLabel
+struct OpenedLabel : workbench::ImportResult
 {
-    std::unique_ptr<workbench::Canvas> canvas; ///< null when it failed
-    std::unique_ptr<workbench::datasources::DatasourceController> datasources;
-    QList<workbench::ImportIssue> issues;
-    QString error;              ///< why it failed, for a person
-    bool isOutOfMemory = false; ///< whether that was for want of memory
+    /// Who read a legacy label; nothing for a saved one.
+    std::optional<ReaderKind> reader;
 
-    [[nodiscard]] bool isOpen() const { return canvas != nullptr; }
+    [[nodiscard]] bool isOpen() const { return isImported(); }
     /// Brings the canvas to a record, counted from 0.
     void showRecord(qint64 record);
 };

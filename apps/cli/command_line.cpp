@@ -1,0 +1,34 @@
+#include "apps/cli/command_line.h"
+
+#include "apps/cli/exit_status.h"
+#include "apps/cli/messages.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace cli {
+
+std::optional<int> parseCommand(QCommandLineParser& parser, const QString& command,
+                                const QStringList& arguments)
+{
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
+                      QCoreApplication::translate("cli::CommandLine", "Show this text.")});
+    if (!parser.parse(QStringList{command} + arguments)) {
+        return refuseArguments(command, parser.errorText());
+    }
+    if (parser.isSet(QStringLiteral("help"))) {
+        printText(parser.helpText());
+        return ExitSuccess;
+    }
+    return std::nullopt;
+}
+
+int refuseArguments(const QString& command, const QString& reason)
+{
+    printMessage(reason);
+    printMessage(
+        QCoreApplication::translate("cli::CommandLine", "\"%1 --help\" tells more.").arg(command));
+    return ExitUsage;
+}
+
+} // namespace cli

@@ -1,0 +1,145 @@
+#include "apps/cli/inspect_command.h"
+
+#include "apps/cli/command_line.h"
+#include "apps/cli/exit_status.h"
+#include "apps/cli/file_reports.h"
+#include "apps/cli/import_worker.h"
+#include "apps/cli/job_options.h"
+#include "apps/cli/messages.h"
+#include "archive/worker_pool.h"
+#include "migration/inspect.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QJsonDocument>
+
+namespace cli {
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("cli::InspectCommand", text);
+}
+
+void addOptions(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(tr(QT_TRANSLATE_NOOP(
+        "cli::InspectCommand",
+        "Tells what one label holds, what of it comes over and what does not. Writes nothing.\n\n"
+        "Examples:\n"
+        "  labelport inspect shelf.odg\n"
+        "  labelport inspect shelf.odg --json | jq .lost")));
+    parser.addPositionalArgument(
+        QStringLiteral("file"), tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "Label to look into.")),
+        QStringLiteral("FILE"));
+    parser.addOption(
+        {QStringLiteral("json"),
+         tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "Tell it as JSON, as reports have it."))});
+    parser.addOption({QStringLiteral("reader"),
+                      tr(QT_TRANSLATE_NOOP("cli::InspectCommand",
+                                           "Read the file as tavrel, orvanta or opendocument, "
+                                           "whatever its name.")),
+                      tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "name"))});
+}
+
+/// One file for one worker, so that whatever it holds cannot harm more than that.
+class Inspection final : public archive::PoolClient
+{
+public:
+    Inspection(const QString& file, const JobOptions& options)
+    {
+        m_job.file = file;
+        m_job.shownName = file;
+        m_job.options = decisiveOptions(options);
+        const QJsonObject others = otherOptions(options);
+        for (auto entry = others.begin(); entry != others.end(); ++entry) {
+            m_job.options.insert(entry.key(), entry.value());
+        }
+    }
+
+    archive::FileResult run()
+    {
+        QEventLoop loop;
+        archive::WorkerPool pool(*this, workerCommand(m_limits.memoryMiB), m_limits, 1);
+        for (const auto end : {&archive::WorkerPool::drained, &archive::WorkerPool::broken}) {
+            QObject::connect(&pool, end, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+        }
+        m_result.errors = {tr(QT_TRANSLATE_NOOP("cli::InspectCommand",
+                                                "the process that opens it cannot be started"))};
+        pool.start();
+        loop.exec();
+        return m_result;
+    }
+
+    std::optional<qsizetype> nextTask() override
+    {
+        return m_taken++ == 0 ? std::optional<qsizetype>(0) : std::nullopt;
+    }
+
+    QByteArray lineFor(qsizetype, int) override { return archive::lineOf(m_job); }
+
+    qint64 taskAnswered(qsizetype task, const QByteArray& line) override
+    {
+        if (const std::optional<archive::FileResult> result = archive::resultFromLine(line)) {
+            m_result = *result;
+        } else {
+            taskDied(task, {archive::WorkerDeath::Garbled, 0});
+        }
+        return 0;
+    }
+
+    void taskDied(qsizetype, const archive::WorkerDeath& death) override
+    {
+        m_result.fate = archive::fateOf(death);
+        m_result.errors = QStringList{archive::wordsFor(death, m_limits)};
+    }
+
+private:
+    archive::Job m_job;
+    archive::WorkerLimits m_limits;
+    archive::FileResult m_result;
+    int m_taken = 0;
+};
+
+int tell(const QString& file, const archive::FileResult& result, bool asJson)
+{
+    const archive::Input input{file, file, {}};
+    const migration::FileReport report = finalReport({input, result, {}, false});
+    if (asJson) {
+        printText(QString::fromUtf8(
+            QJsonDocument(migration::toJson(report)).toJson(QJsonDocument::Indented)));
+    } else {
+        printText(migration::describeForPeople(report));
+    }
+    return result.fate == archive::Fate::Done ? ExitSuccess : ExitFailure;
+}
+
+} // namespace
+
+int runInspect(const QStringList& arguments)
+{
+    const QString command = QStringLiteral("labelport inspect");
+    QCommandLineParser parser;
+    addOptions(parser);
+    if (const std::optional<int> status = parseCommand(parser, command, arguments)) {
+        return *status;
+    }
+    const QStringList files = parser.positionalArguments();
+    if (files.size() != 1) {
+        return refuseArguments(command,
+                               tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "It takes one file.")));
+    }
+    JobOptions options;
+    options.report = true;
+    options.items = true;
+    const QString reader = parser.value(QStringLiteral("reader"));
+    options.reader = readerOfName(reader);
+    if (!reader.isEmpty() && !options.reader) {
+        return refuseArguments(command, unknownReaderWords(reader));
+    }
+    return tell(files.first(), Inspection(files.first(), options).run(),
+                parser.isSet(QStringLiteral("json")));
+}
+
+} // namespace cli
