@@ -17,10 +17,16 @@ std::optional<int> parseCommand(QCommandLineParser& parser, const QString& comma
         return refuseArguments(command, parser.errorText());
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        printText(parser.helpText());
+        printText(helpOf(parser, command));
         return ExitSuccess;
     }
     return std::nullopt;
+}
+
+QString helpOf(const QCommandLineParser& parser, const QString& command)
+{
+    // Qt begins with the program's path, and knows nothing of commands.
+    return parser.helpText().replace(QCoreApplication::arguments().constFirst(), command);
 }
 
 int refuseArguments(const QString& command, const QString& reason)

@@ -16,6 +16,9 @@ namespace cli {
 [[nodiscard]] std::optional<int> parseCommand(QCommandLineParser& parser, const QString& command,
                                               const QStringList& arguments);
 
+/// The help of a command, whose first line names the command as people type it.
+[[nodiscard]] QString helpOf(const QCommandLineParser& parser, const QString& command);
+
 /// Says what is wrong with the arguments of a command; returns the exit status for that.
 [[nodiscard]] int refuseArguments(const QString& command, const QString& reason);
 

@@ -1,5 +1,7 @@
 #include "apps/cli/import_options.h"
 
+#include "apps/cli/command_line.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QThread>
@@ -94,9 +96,9 @@ constexpr std::array Rows{
 
 const char* const Description = QT_TRANSLATE_NOOP(
     "cli::ImportOptions",
-    "Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label), and "
-    "writes what they show. A folder is searched with its subfolders for files of these names. "
-    "What was written is listed on standard output, in the order of the files' names.\n\n"
+    "Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label),\n"
+    "and writes what they show. A folder is searched with its subfolders for files of these\n"
+    "names. What was written is listed on standard output, in the order of the files' names.\n\n"
     "Examples:\n"
     "  labelport import shelf.odg\n"
     "  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new\n"
@@ -105,8 +107,8 @@ const char* const Description = QT_TRANSLATE_NOOP(
     "  labelport import archive --output-dir new --to label --resume\n"
     "  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive\n"
     "  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument\n\n"
-    "Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was "
-    "lost (with --fail-on-loss), 130 stopped by a signal.");
+    "Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something\n"
+    "was lost (with --fail-on-loss), 130 stopped by a signal.");
 
 void addOptions(QCommandLineParser& parser)
 {
@@ -311,7 +313,7 @@ parseImportArguments(const QStringList& arguments)
         return UsageError{parser.errorText()};
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        return HelpWanted{parser.helpText()};
+        return HelpWanted{helpOf(parser, QStringLiteral("labelport import"))};
     }
     Filling given(parser);
     ImportOptions options = optionsFrom(given, parser.positionalArguments());

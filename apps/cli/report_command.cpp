@@ -20,8 +20,8 @@ void addOptions(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(tr(QT_TRANSLATE_NOOP(
         "cli::ReportCommand",
-        "Makes one report of the JSON reports of several commands, as one command over all files "
-        "would have written it.\n\n"
+        "Makes one report of the JSON reports of several commands, as one command over all\n"
+        "files would have written it.\n\n"
         "Examples:\n"
         "  labelport report merge part-1.json part-2.json --to all.html\n"
         "  labelport report merge part-*.json --to all.json --to all.html")));

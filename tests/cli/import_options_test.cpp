@@ -1,15 +1,12 @@
 // The arguments of `labelport import`.
 
 #include "apps/cli/import_options.h"
+#include "tests/cli/program_fixture.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-QStringList words(const char* line)
-{
-    return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
 
 cli::ImportOptions accepted(const char* line)
 {

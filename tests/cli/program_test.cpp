@@ -1,77 +1,10 @@
 // The program labelport from the outside: what a person or a script sees of it.
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
+#include "tests/cli/program_fixture.h"
 
-#include <gtest/gtest.h>
+#include <QImage>
 
 namespace {
-
-struct Outcome
-{
-    int status = -1;
-    QString out;
-    QString err;
-};
-
-const QString Program = QStringLiteral(LABELPORT_PROGRAM);
-
-QString sample(const char* name)
-{
-    return QStringLiteral(LABELPORT_SAMPLES "/") + QString::fromLatin1(name);
-}
-
-Outcome run(const QStringList& arguments, const QStringList& environment, const QString& folder)
-{
-    QProcess process;
-    process.setProcessEnvironment(QProcessEnvironment());
-    process.setEnvironment(environment);
-    process.setWorkingDirectory(folder);
-    process.start(Program, arguments);
-    if (!process.waitForFinished(120'000)) {
-        ADD_FAILURE() << "the program does not end";
-        process.kill();
-        process.waitForFinished();
-        return {};
-    }
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-/// A folder of its own for each test, and the program run in it with an empty environment.
-class LabelportProgram : public ::testing::Test
-{
-protected:
-    Outcome labelport(const QStringList& arguments, const QStringList& environment = {})
-    {
-        return run(arguments, environment, m_folder.path());
-    }
-
-    QString path(const QString& name) const { return m_folder.filePath(name); }
-
-    QString write(const QString& name, const QByteArray& bytes)
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return path(name);
-    }
-
-    QByteArray read(const QString& name)
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
-private:
-    QTemporaryDir m_folder;
-};
 
 TEST_F(LabelportProgram, ImportsALabelFromAnEmptyEnvironment)
 {
