@@ -185,6 +185,107 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
 </context>
 <context>
+    <name>cli::ArchiveReports</name>
+    <message>
+        <source>The report %1 cannot be written.</source>
+        <translation>Der Bericht %1 kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::CommandLine</name>
+    <message>
+        <source>Show this text.</source>
+        <translation>Zeigt diesen Text.</translation>
+    </message>
+    <message>
+        <source>&quot;%1 --help&quot; tells more.</source>
+        <translation>„%1 --help“ sagt mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::FormatsCommand</name>
+    <message>
+        <source>binary canvas files</source>
+        <translation>binäre Zeichenflächen</translation>
+    </message>
+    <message>
+        <source>2000016 to 2000024; newer ones are read as 2000024</source>
+        <translation>2000016 bis 2000024; neuere werden wie 2000024 gelesen</translation>
+    </message>
+    <message>
+        <source>XML labels</source>
+        <translation>XML-Etiketten</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>OpenDocument texts and drawings</source>
+        <translation>OpenDocument-Texte und -Zeichnungen</translation>
+    </message>
+    <message>
+        <source>all, as packages</source>
+        <translation>alle, als Pakete</translation>
+    </message>
+    <message>
+        <source>labels saved by LabelPort</source>
+        <translation>von LabelPort gespeicherte Etiketten</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>vector drawing</source>
+        <translation>Vektorzeichnung</translation>
+    </message>
+    <message>
+        <source>document, a page for each record</source>
+        <translation>Dokument, eine Seite je Datensatz</translation>
+    </message>
+    <message>
+        <source>saved label, to open and edit again</source>
+        <translation>gespeichertes Etikett, zum Öffnen und Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Read (import, inspect):</source>
+        <translation>Gelesen werden (import, inspect):</translation>
+    </message>
+    <message>
+        <source>versions: %1</source>
+        <translation>Versionen: %1</translation>
+    </message>
+    <message>
+        <source>Written (import --to):</source>
+        <translation>Geschrieben werden (import --to):</translation>
+    </message>
+    <message>
+        <source>Tells which files are read, in which versions, and what can be written.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
+        <translation>Sagt, welche Dateien in welchen Versionen gelesen werden und was geschrieben werden kann.
+
+Beispiele:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
+    </message>
+    <message>
+        <source>Tell it as JSON.</source>
+        <translation>Sagt es als JSON.</translation>
+    </message>
+    <message>
+        <source>It takes no files.</source>
+        <translation>Hier werden keine Dateien angegeben.</translation>
+    </message>
+</context>
+<context>
     <name>cli::ImportCommand</name>
     <message>
         <source>The folder %1 cannot be searched.</source>
@@ -201,6 +302,10 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     <message>
         <source>&quot;labelport import --help&quot; tells more.</source>
         <translation>„labelport import --help“ sagt mehr.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not come over whole.</source>
+        <translation>%1 von %2 Dateien kamen nicht vollständig herüber.</translation>
     </message>
 </context>
 <context>
@@ -325,32 +430,6 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
         <translation>Sagt auf der Standardfehlerausgabe nur, was fehlgeschlagen ist.</translation>
     </message>
     <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label), and writes what they show. A folder is searched with its subfolders for files of these names. What was written is listed on standard output, in the order of the files&apos; names.
-
-Examples:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
-
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte (*.label) und schreibt, was sie zeigen. Ein Ordner wird mit seinen Unterordnern nach Dateien mit solchen Namen durchsucht. Was geschrieben wurde, steht auf der Standardausgabe, in der Reihenfolge der Dateinamen.
-
-Beispiele:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
-
-Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas ging verloren (mit --fail-on-loss), 130 durch ein Signal angehalten.</translation>
-    </message>
-    <message>
         <source>--%1 takes a whole number from %2 to %3, not &quot;%4&quot;.</source>
         <translation>--%1 nimmt eine ganze Zahl von %2 bis %3, nicht „%4“.</translation>
     </message>
@@ -361,10 +440,6 @@ Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3
     <message>
         <source>--records takes a number, a range as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
         <translation>--records nimmt eine Nummer, einen Bereich wie 3-12 oder 3-, oder all, nicht „%1“.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
-        <translation>„%1“ ist kein Leser; --reader nimmt: %2.</translation>
     </message>
     <message>
         <source>--shard takes a part and their number, as 3/8, not &quot;%1&quot;.</source>
@@ -389,6 +464,46 @@ Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3
     <message>
         <source>Standard input has no name, so --reader must say what it is: %1.</source>
         <translation>Die Standardeingabe hat keinen Namen, also muss --reader sagen, was sie ist: %1.</translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label),
+and writes what they show. A folder is searched with its subfolders for files of these
+names. What was written is listed on standard output, in the order of the files&apos; names.
+
+Examples:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something
+was lost (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte (*.label)
+und schreibt, was sie zeigen. Ein Ordner wird mit seinen Unterordnern nach Dateien mit solchen
+Namen durchsucht. Was geschrieben wurde, steht auf der Standardausgabe, nach Dateinamen geordnet.
+
+Beispiele:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas
+ging verloren (mit --fail-on-loss), 130 durch ein Signal angehalten.</translation>
+    </message>
+    <message>
+        <source>Label or folder of labels to import; - is standard input.</source>
+        <translation>Etikett oder Ordner mit Etiketten; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Zeigt diesen Text.</translation>
     </message>
 </context>
 <context>
@@ -418,6 +533,52 @@ Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3
     </message>
 </context>
 <context>
+    <name>cli::InspectCommand</name>
+    <message>
+        <source>Tells what one label holds, what of it comes over and what does not. Writes nothing.
+
+Examples:
+  labelport inspect shelf.odg
+  labelport inspect shelf.odg --json | jq .lost</source>
+        <translation>Sagt, was ein Etikett enthält, was davon herüberkommt und was nicht. Schreibt nichts.
+
+Beispiele:
+  labelport inspect shelf.odg
+  labelport inspect shelf.odg --json | jq .lost</translation>
+    </message>
+    <message>
+        <source>Label to look into.</source>
+        <translation>Etikett, das angesehen wird.</translation>
+    </message>
+    <message>
+        <source>Tell it as JSON, as reports have it.</source>
+        <translation>Sagt es als JSON, wie es in Berichten steht.</translation>
+    </message>
+    <message>
+        <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
+        <translation>Liest die Datei als tavrel, orvanta oder opendocument, wie immer sie heißt.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>the process that opens it cannot be started</source>
+        <translation>der Prozess, der sie öffnet, kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>It takes one file.</source>
+        <translation>Hier wird eine Datei angegeben.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::JobOptions</name>
+    <message>
+        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
+        <translation>„%1“ ist kein Leser; --reader nimmt: %2.</translation>
+    </message>
+</context>
+<context>
     <name>cli::LabelWriter</name>
     <message>
         <source>it has only %1 records, none with the number %2</source>
@@ -431,13 +592,24 @@ Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3
 <context>
     <name>cli::Main</name>
     <message>
+        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
+        <translation>Was ist zu tun? „labelport --help“ sagt es.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
+        <translation>„%1“ ist kein Befehl; „labelport --help“ sagt, welche es gibt.</translation>
+    </message>
+    <message>
         <source>Usage: labelport COMMAND [ARGUMENT...]
 
 Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
-LabelPort: *.label.
+LabelPort: *.label. Each command tells more with --help.
 
 Commands:
-  import FILE...   import labels and write what they show (import --help tells more)
+  import FILE...   import labels, or folders of them, and write what they show
+  inspect FILE     tell what a label holds, and what of it comes over
+  report merge     put the reports of several imports together
+  formats          tell what is read and what can be written
   trace FILE       print every call that an import makes on its host, as JSON lines
 
   --help           show this text
@@ -445,20 +617,24 @@ Commands:
 
 Examples:
   labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new
+  labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
+Exit status: 0 all went well, 1 something failed, 2 wrong usage, 3 something was lost
 (import --fail-on-loss), 130 stopped by a signal.
 </source>
         <translation>Aufruf: labelport BEFEHL [ARGUMENT...]
 
 Öffnet alte Etikettenvorlagen: *.cnv und *.roc, *.qmtx, *.odt und *.odg, und von LabelPort
-gespeicherte Etiketten: *.label.
+gespeicherte Etiketten: *.label. Jeder Befehl sagt mit --help mehr.
 
 Befehle:
-  import DATEI...  importiert Etiketten und schreibt, was sie zeigen (mehr: import --help)
+  import DATEI...  importiert Etiketten oder Ordner davon und schreibt, was sie zeigen
+  inspect DATEI    sagt, was ein Etikett enthält und was davon herüberkommt
+  report merge     fügt die Berichte mehrerer Importe zusammen
+  formats          sagt, was gelesen wird und was geschrieben werden kann
   trace DATEI      gibt jeden Aufruf eines Imports an sein Gastprogramm als JSON-Zeile aus
 
   --help           zeigt diesen Text
@@ -466,21 +642,55 @@ Befehle:
 
 Beispiele:
   labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new
+  labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas ging verloren
+Exit-Status: 0 alles ging gut, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas ging verloren
 (import --fail-on-loss), 130 durch ein Signal angehalten.
 </translation>
     </message>
+</context>
+<context>
+    <name>cli::ReportCommand</name>
     <message>
-        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
-        <translation>Was ist zu tun? „labelport --help“ sagt es.</translation>
+        <source>Makes one report of the JSON reports of several commands, as one command over all
+files would have written it.
+
+Examples:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</source>
+        <translation>Macht aus den JSON-Berichten mehrerer Befehle einen, wie ihn ein Befehl über alle
+Dateien geschrieben hätte.
+
+Beispiele:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
-        <translation>„%1“ ist kein Befehl; „labelport --help“ sagt, welche es gibt.</translation>
+        <source>What to do: put reports together.</source>
+        <translation>Was zu tun ist: Berichte zusammenfügen.</translation>
+    </message>
+    <message>
+        <source>Report that an import wrote as JSON.</source>
+        <translation>Bericht, den ein Import als JSON schrieb.</translation>
+    </message>
+    <message>
+        <source>Report to write, as .json or .html; may be given several times.</source>
+        <translation>Bericht, der geschrieben wird, als .json oder .html; mehrmals möglich.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Reports can be put together: &quot;report merge&quot;.</source>
+        <translation>Berichte können zusammengefügt werden: „report merge“.</translation>
+    </message>
+    <message>
+        <source>It takes the reports to put together, and --to says where the whole goes.</source>
+        <translation>Anzugeben sind die Berichte, die zusammengefügt werden, und mit --to, wohin das Ganze kommt.</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,107 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
 </context>
 <context>
+    <name>cli::ArchiveReports</name>
+    <message>
+        <source>The report %1 cannot be written.</source>
+        <translation>Le rapport %1 ne peut pas être écrit.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::CommandLine</name>
+    <message>
+        <source>Show this text.</source>
+        <translation>Affiche ce texte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1 --help&quot; tells more.</source>
+        <translation>«&#xa0;%1 --help&#xa0;» en dit plus.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::FormatsCommand</name>
+    <message>
+        <source>binary canvas files</source>
+        <translation>fichiers binaires de canevas</translation>
+    </message>
+    <message>
+        <source>2000016 to 2000024; newer ones are read as 2000024</source>
+        <translation>2000016 à 2000024&#xa0;; les plus récentes sont lues comme 2000024</translation>
+    </message>
+    <message>
+        <source>XML labels</source>
+        <translation>étiquettes XML</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>OpenDocument texts and drawings</source>
+        <translation>textes et dessins OpenDocument</translation>
+    </message>
+    <message>
+        <source>all, as packages</source>
+        <translation>toutes, en paquets</translation>
+    </message>
+    <message>
+        <source>labels saved by LabelPort</source>
+        <translation>étiquettes enregistrées par LabelPort</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>image</translation>
+    </message>
+    <message>
+        <source>vector drawing</source>
+        <translation>dessin vectoriel</translation>
+    </message>
+    <message>
+        <source>document, a page for each record</source>
+        <translation>document, une page par enregistrement</translation>
+    </message>
+    <message>
+        <source>saved label, to open and edit again</source>
+        <translation>étiquette enregistrée, à rouvrir et modifier</translation>
+    </message>
+    <message>
+        <source>Read (import, inspect):</source>
+        <translation>Lus (import, inspect)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>versions: %1</source>
+        <translation>versions&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Written (import --to):</source>
+        <translation>Écrits (import --to)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tells which files are read, in which versions, and what can be written.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
+        <translation>Indique quels fichiers sont lus, dans quelles versions, et ce qui peut être écrit.
+
+Exemples&#xa0;:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
+    </message>
+    <message>
+        <source>Tell it as JSON.</source>
+        <translation>Le dit en JSON.</translation>
+    </message>
+    <message>
+        <source>It takes no files.</source>
+        <translation>Aucun fichier n’est attendu ici.</translation>
+    </message>
+</context>
+<context>
     <name>cli::ImportCommand</name>
     <message>
         <source>The folder %1 cannot be searched.</source>
@@ -201,6 +302,10 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message>
         <source>&quot;labelport import --help&quot; tells more.</source>
         <translation>«&#xa0;labelport import --help&#xa0;» en dit plus.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not come over whole.</source>
+        <translation>%1 fichiers sur %2 n’ont pas été repris en entier.</translation>
     </message>
 </context>
 <context>
@@ -325,32 +430,6 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>Ne dit sur la sortie d’erreur que ce qui a échoué.</translation>
     </message>
     <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label), and writes what they show. A folder is searched with its subfolders for files of these names. What was written is listed on standard output, in the order of the files&apos; names.
-
-Examples:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
-
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation>Importe d’anciennes étiquettes (*.cnv, *.roc, *.qmtx, *.odt, *.odg), en ouvre d’enregistrées (*.label) et écrit ce qu’elles montrent. Un dossier est parcouru avec ses sous-dossiers à la recherche de fichiers de ces noms. Ce qui a été écrit est énuméré sur la sortie standard, dans l’ordre des noms de fichiers.
-
-Exemples&#xa0;:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
-
-Code de sortie&#xa0;: 0 tout a été importé, 1 quelque chose a échoué, 2 mauvaise utilisation, 3 quelque chose a été perdu (avec --fail-on-loss), 130 arrêté par un signal.</translation>
-    </message>
-    <message>
         <source>--%1 takes a whole number from %2 to %3, not &quot;%4&quot;.</source>
         <translation>--%1 prend un nombre entier de %2 à %3, et non «&#xa0;%4&#xa0;».</translation>
     </message>
@@ -361,10 +440,6 @@ Code de sortie&#xa0;: 0 tout a été importé, 1 quelque chose a échoué, 2 mau
     <message>
         <source>--records takes a number, a range as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
         <translation>--records prend un numéro, une plage comme 3-12 ou 3-, ou all, et non «&#xa0;%1&#xa0;».</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un lecteur&#xa0;; --reader prend&#xa0;: %2.</translation>
     </message>
     <message>
         <source>--shard takes a part and their number, as 3/8, not &quot;%1&quot;.</source>
@@ -389,6 +464,46 @@ Code de sortie&#xa0;: 0 tout a été importé, 1 quelque chose a échoué, 2 mau
     <message>
         <source>Standard input has no name, so --reader must say what it is: %1.</source>
         <translation>L’entrée standard n’a pas de nom, --reader doit donc dire ce que c’est&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label),
+and writes what they show. A folder is searched with its subfolders for files of these
+names. What was written is listed on standard output, in the order of the files&apos; names.
+
+Examples:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something
+was lost (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation>Importe d’anciennes étiquettes (*.cnv, *.roc, *.qmtx, *.odt, *.odg), en ouvre d’enregistrées
+(*.label) et écrit ce qu’elles montrent. Un dossier est parcouru avec ses sous-dossiers. Ce qui
+a été écrit est énuméré sur la sortie standard, dans l’ordre des noms de fichiers.
+
+Exemples&#xa0;:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Code de sortie&#xa0;: 0 tout a été importé, 1 quelque chose a échoué, 2 mauvaise utilisation,
+3 quelque chose a été perdu (avec --fail-on-loss), 130 arrêté par un signal.</translation>
+    </message>
+    <message>
+        <source>Label or folder of labels to import; - is standard input.</source>
+        <translation>Étiquette ou dossier d’étiquettes à importer&#xa0;; - est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
+        <translation>Affiche ce texte.</translation>
     </message>
 </context>
 <context>
@@ -418,6 +533,52 @@ Code de sortie&#xa0;: 0 tout a été importé, 1 quelque chose a échoué, 2 mau
     </message>
 </context>
 <context>
+    <name>cli::InspectCommand</name>
+    <message>
+        <source>Tells what one label holds, what of it comes over and what does not. Writes nothing.
+
+Examples:
+  labelport inspect shelf.odg
+  labelport inspect shelf.odg --json | jq .lost</source>
+        <translation>Dit ce que contient une étiquette, ce qui en est repris et ce qui ne l’est pas. N’écrit rien.
+
+Exemples&#xa0;:
+  labelport inspect shelf.odg
+  labelport inspect shelf.odg --json | jq .lost</translation>
+    </message>
+    <message>
+        <source>Label to look into.</source>
+        <translation>Étiquette à examiner.</translation>
+    </message>
+    <message>
+        <source>Tell it as JSON, as reports have it.</source>
+        <translation>Le dit en JSON, comme dans les rapports.</translation>
+    </message>
+    <message>
+        <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
+        <translation>Lit le fichier comme tavrel, orvanta ou opendocument, quel que soit son nom.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>nom</translation>
+    </message>
+    <message>
+        <source>the process that opens it cannot be started</source>
+        <translation>le processus qui l’ouvre ne peut pas être démarré</translation>
+    </message>
+    <message>
+        <source>It takes one file.</source>
+        <translation>Un seul fichier est attendu.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::JobOptions</name>
+    <message>
+        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un lecteur&#xa0;; --reader accepte&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
     <name>cli::LabelWriter</name>
     <message>
         <source>it has only %1 records, none with the number %2</source>
@@ -431,13 +592,24 @@ Code de sortie&#xa0;: 0 tout a été importé, 1 quelque chose a échoué, 2 mau
 <context>
     <name>cli::Main</name>
     <message>
+        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
+        <translation>Que faut-il faire&#xa0;? «&#xa0;labelport --help&#xa0;» le dit.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une commande&#xa0;; «&#xa0;labelport --help&#xa0;» dit lesquelles existent.</translation>
+    </message>
+    <message>
         <source>Usage: labelport COMMAND [ARGUMENT...]
 
 Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
-LabelPort: *.label.
+LabelPort: *.label. Each command tells more with --help.
 
 Commands:
-  import FILE...   import labels and write what they show (import --help tells more)
+  import FILE...   import labels, or folders of them, and write what they show
+  inspect FILE     tell what a label holds, and what of it comes over
+  report merge     put the reports of several imports together
+  formats          tell what is read and what can be written
   trace FILE       print every call that an import makes on its host, as JSON lines
 
   --help           show this text
@@ -445,20 +617,24 @@ Commands:
 
 Examples:
   labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new
+  labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
+Exit status: 0 all went well, 1 something failed, 2 wrong usage, 3 something was lost
 (import --fail-on-loss), 130 stopped by a signal.
 </source>
         <translation>Utilisation&#xa0;: labelport COMMANDE [ARGUMENT...]
 
 Ouvre d’anciens modèles d’étiquettes&#xa0;: *.cnv et *.roc, *.qmtx, *.odt et *.odg, et des étiquettes
-enregistrées par LabelPort&#xa0;: *.label.
+enregistrées par LabelPort&#xa0;: *.label. Chaque commande en dit plus avec --help.
 
 Commandes&#xa0;:
-  import FICHIER...  importe des étiquettes et écrit ce qu’elles montrent (voir import --help)
+  import FICHIER...  importe des étiquettes, ou des dossiers, et écrit ce qu’elles montrent
+  inspect FICHIER    dit ce que contient une étiquette et ce qui en est repris
+  report merge       réunit les rapports de plusieurs importations
+  formats            dit ce qui est lu et ce qui peut être écrit
   trace FICHIER      affiche chaque appel d’une importation à son hôte, en JSON Lines
 
   --help             affiche ce texte
@@ -466,21 +642,55 @@ Commandes&#xa0;:
 
 Exemples&#xa0;:
   labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new
+  labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Code de sortie&#xa0;: 0 tout a été importé, 1 quelque chose a échoué, 2 mauvaise utilisation, 3 quelque chose
-a été perdu (import --fail-on-loss), 130 arrêté par un signal.
+Code de sortie&#xa0;: 0 tout s’est bien passé, 1 quelque chose a échoué, 2 mauvaise utilisation,
+3 quelque chose a été perdu (import --fail-on-loss), 130 arrêté par un signal.
 </translation>
     </message>
+</context>
+<context>
+    <name>cli::ReportCommand</name>
     <message>
-        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
-        <translation>Que faut-il faire&#xa0;? «&#xa0;labelport --help&#xa0;» le dit.</translation>
+        <source>Makes one report of the JSON reports of several commands, as one command over all
+files would have written it.
+
+Examples:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</source>
+        <translation>Réunit les rapports JSON de plusieurs commandes en un seul, comme une commande sur tous
+les fichiers l’aurait écrit.
+
+Exemples&#xa0;:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas une commande&#xa0;; «&#xa0;labelport --help&#xa0;» dit lesquelles existent.</translation>
+        <source>What to do: put reports together.</source>
+        <translation>Ce qu’il faut faire&#xa0;: réunir des rapports.</translation>
+    </message>
+    <message>
+        <source>Report that an import wrote as JSON.</source>
+        <translation>Rapport qu’une importation a écrit en JSON.</translation>
+    </message>
+    <message>
+        <source>Report to write, as .json or .html; may be given several times.</source>
+        <translation>Rapport à écrire, en .json ou .html&#xa0;; peut être donné plusieurs fois.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>fichier</translation>
+    </message>
+    <message>
+        <source>Reports can be put together: &quot;report merge&quot;.</source>
+        <translation>Les rapports peuvent être réunis&#xa0;: «&#xa0;report merge&#xa0;».</translation>
+    </message>
+    <message>
+        <source>It takes the reports to put together, and --to says where the whole goes.</source>
+        <translation>Il faut les rapports à réunir, et --to dit où va l’ensemble.</translation>
     </message>
 </context>
 <context>

@@ -183,6 +183,103 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
 </context>
 <context>
+    <name>cli::ArchiveReports</name>
+    <message>
+        <source>The report %1 cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::CommandLine</name>
+    <message>
+        <source>Show this text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1 --help&quot; tells more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::FormatsCommand</name>
+    <message>
+        <source>binary canvas files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2000016 to 2000024; newer ones are read as 2000024</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XML labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OpenDocument texts and drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all, as packages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>labels saved by LabelPort</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vector drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>document, a page for each record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>saved label, to open and edit again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read (import, inspect):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>versions: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written (import --to):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells which files are read, in which versions, and what can be written.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell it as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It takes no files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>cli::ImportCommand</name>
     <message>
         <source>The folder %1 cannot be searched.</source>
@@ -198,6 +295,10 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
     <message>
         <source>&quot;labelport import --help&quot; tells more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not come over whole.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -323,21 +424,6 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label), and writes what they show. A folder is searched with its subfolders for files of these names. What was written is listed on standard output, in the order of the files&apos; names.
-
-Examples:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
-
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>--%1 takes a whole number from %2 to %3, not &quot;%4&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -347,10 +433,6 @@ Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 som
     </message>
     <message>
         <source>--records takes a number, a range as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -375,6 +457,32 @@ Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 som
     </message>
     <message>
         <source>Standard input has no name, so --reader must say what it is: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label),
+and writes what they show. A folder is searched with its subfolders for files of these
+names. What was written is listed on standard output, in the order of the files&apos; names.
+
+Examples:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+
+Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something
+was lost (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label or folder of labels to import; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this text.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -405,6 +513,48 @@ Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 som
     </message>
 </context>
 <context>
+    <name>cli::InspectCommand</name>
+    <message>
+        <source>Tells what one label holds, what of it comes over and what does not. Writes nothing.
+
+Examples:
+  labelport inspect shelf.odg
+  labelport inspect shelf.odg --json | jq .lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label to look into.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell it as JSON, as reports have it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the process that opens it cannot be started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It takes one file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::JobOptions</name>
+    <message>
+        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>cli::LabelWriter</name>
     <message>
         <source>it has only %1 records, none with the number %2</source>
@@ -418,13 +568,24 @@ Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 som
 <context>
     <name>cli::Main</name>
     <message>
+        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Usage: labelport COMMAND [ARGUMENT...]
 
 Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
-LabelPort: *.label.
+LabelPort: *.label. Each command tells more with --help.
 
 Commands:
-  import FILE...   import labels and write what they show (import --help tells more)
+  import FILE...   import labels, or folders of them, and write what they show
+  inspect FILE     tell what a label holds, and what of it comes over
+  report merge     put the reports of several imports together
+  formats          tell what is read and what can be written
   trace FILE       print every call that an import makes on its host, as JSON lines
 
   --help           show this text
@@ -432,21 +593,50 @@ Commands:
 
 Examples:
   labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new
+  labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something was lost
+Exit status: 0 all went well, 1 something failed, 2 wrong usage, 3 something was lost
 (import --fail-on-loss), 130 stopped by a signal.
 </source>
         <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>cli::ReportCommand</name>
     <message>
-        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
+        <source>Makes one report of the JSON reports of several commands, as one command over all
+files would have written it.
+
+Examples:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
+        <source>What to do: put reports together.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report that an import wrote as JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report to write, as .json or .html; may be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reports can be put together: &quot;report merge&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It takes the reports to put together, and --to says where the whole goes.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

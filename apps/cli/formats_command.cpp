@@ -24,18 +24,18 @@ QString tr(const char* text)
 struct ReaderRow
 {
     const char* name;
-    const char* suffixes;
+    const char* suffixes; ///< with commas
     const char* description;
     const char* versions;
 };
 
 constexpr std::array Readers{
-    ReaderRow{"tavrel", "cnv roc", QT_TRANSLATE_NOOP("cli::FormatsCommand", "binary canvas files"),
+    ReaderRow{"tavrel", "cnv,roc", QT_TRANSLATE_NOOP("cli::FormatsCommand", "binary canvas files"),
               QT_TRANSLATE_NOOP("cli::FormatsCommand",
                                 "2000016 to 2000024; newer ones are read as 2000024")},
     ReaderRow{"orvanta", "qmtx", QT_TRANSLATE_NOOP("cli::FormatsCommand", "XML labels"),
               QT_TRANSLATE_NOOP("cli::FormatsCommand", "all")},
-    ReaderRow{"opendocument", "odt odg",
+    ReaderRow{"opendocument", "odt,odg",
               QT_TRANSLATE_NOOP("cli::FormatsCommand", "OpenDocument texts and drawings"),
               QT_TRANSLATE_NOOP("cli::FormatsCommand", "all, as packages")},
     ReaderRow{"label", "label",
@@ -60,7 +60,7 @@ constexpr std::array Targets{
 
 QStringList suffixesOf(const ReaderRow& row)
 {
-    return QString::fromLatin1(row.suffixes).split(QLatin1Char(' '));
+    return QString::fromLatin1(row.suffixes).split(QLatin1Char(','));
 }
 
 QJsonObject asJson()
@@ -84,21 +84,16 @@ QJsonObject asJson()
 
 QString asText()
 {
-    QString text =
-        tr(QT_TRANSLATE_NOOP("cli::FormatsCommand", "Read (import, inspect):")) + QLatin1Char('\n');
+    QString text = tr("Read (import, inspect):") + QLatin1Char('\n');
     for (const ReaderRow& row : Readers) {
         const QString suffixes =
             QStringLiteral("*.") + suffixesOf(row).join(QStringLiteral(", *."));
         text += QStringLiteral("  %1 %2 %3; %4\n")
                     .arg(QLatin1String(row.name), -13)
                     .arg(suffixes, -14)
-                    .arg(tr(row.description),
-                         tr(QT_TRANSLATE_NOOP("cli::FormatsCommand", "versions: %1"))
-                             .arg(tr(row.versions)));
+                    .arg(tr(row.description), tr("versions: %1").arg(tr(row.versions)));
     }
-    text += QLatin1Char('\n') +
-            tr(QT_TRANSLATE_NOOP("cli::FormatsCommand", "Written (import --to):")) +
-            QLatin1Char('\n');
+    text += QLatin1Char('\n') + tr("Written (import --to):") + QLatin1Char('\n');
     for (const TargetRow& row : Targets) {
         text += QStringLiteral("  %1 %2\n").arg(nameOf(row.target), -13).arg(tr(row.description));
     }
@@ -109,22 +104,21 @@ QString asText()
 
 int runFormats(const QStringList& arguments)
 {
+    // No translation: it is typed so.
     const QString command = QStringLiteral("labelport formats");
     QCommandLineParser parser;
-    parser.setApplicationDescription(tr(QT_TRANSLATE_NOOP(
-        "cli::FormatsCommand", "Tells which files are read, in which versions, and what can be "
-                               "written.\n\n"
-                               "Examples:\n"
-                               "  labelport formats\n"
-                               "  labelport formats --json | jq -r '.readers[].suffixes[]'")));
-    parser.addOption(
-        {QStringLiteral("json"), tr(QT_TRANSLATE_NOOP("cli::FormatsCommand", "Tell it as JSON."))});
+    parser.setApplicationDescription(
+        tr("Tells which files are read, in which versions, and what can be "
+           "written.\n\n"
+           "Examples:\n"
+           "  labelport formats\n"
+           "  labelport formats --json | jq -r '.readers[].suffixes[]'"));
+    parser.addOption({QStringLiteral("json"), tr("Tell it as JSON.")});
     if (const std::optional<int> status = parseCommand(parser, command, arguments)) {
         return *status;
     }
     if (!parser.positionalArguments().isEmpty()) {
-        return refuseArguments(command,
-                               tr(QT_TRANSLATE_NOOP("cli::FormatsCommand", "It takes no files.")));
+        return refuseArguments(command, tr("It takes no files."));
     }
     printText(parser.isSet(QStringLiteral("json"))
                   ? QString::fromUtf8(QJsonDocument(asJson()).toJson(QJsonDocument::Indented))

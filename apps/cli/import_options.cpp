@@ -113,17 +113,15 @@ const char* const Description = QT_TRANSLATE_NOOP(
 void addOptions(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(tr(Description));
-    parser.addPositionalArgument(
-        QStringLiteral("file"),
-        tr(QT_TRANSLATE_NOOP("cli::ImportOptions", "Label or folder of labels to import; - is "
-                                                   "standard input.")),
-        QStringLiteral("FILE..."));
+    parser.addPositionalArgument(QStringLiteral("file"),
+                                 tr("Label or folder of labels to import; - is "
+                                    "standard input."),
+                                 QStringLiteral("FILE..."));
     for (const OptionRow& row : Rows) {
         parser.addOption(QCommandLineOption(QLatin1String(row.name), tr(row.help),
                                             row.value != nullptr ? tr(row.value) : QString()));
     }
-    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                      tr(QT_TRANSLATE_NOOP("cli::ImportOptions", "Show this text."))});
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this text.")});
 }
 
 /// Fills the options from what was parsed; the first thing wrong is what is remembered.
@@ -306,14 +304,15 @@ ImportOptions optionsFrom(Filling& given, const QStringList& files)
 std::variant<ImportOptions, HelpWanted, UsageError>
 parseImportArguments(const QStringList& arguments)
 {
+    // No translation: it is typed so.
+    const QString command = QStringLiteral("labelport import");
     QCommandLineParser parser;
     addOptions(parser);
-    if (!parser.parse(QStringList{QStringLiteral("labelport import")} /* no translation: a name */ +
-                      arguments)) {
+    if (!parser.parse(QStringList{command} + arguments)) {
         return UsageError{parser.errorText()};
     }
     if (parser.isSet(QStringLiteral("help"))) {
-        return HelpWanted{helpOf(parser, QStringLiteral("labelport import"))};
+        return HelpWanted{helpOf(parser, command)};
     }
     Filling given(parser);
     ImportOptions options = optionsFrom(given, parser.positionalArguments());

@@ -24,23 +24,18 @@ QString tr(const char* text)
 
 void addOptions(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(tr(QT_TRANSLATE_NOOP(
-        "cli::InspectCommand",
+    parser.setApplicationDescription(tr(
         "Tells what one label holds, what of it comes over and what does not. Writes nothing.\n\n"
         "Examples:\n"
         "  labelport inspect shelf.odg\n"
-        "  labelport inspect shelf.odg --json | jq .lost")));
-    parser.addPositionalArgument(
-        QStringLiteral("file"), tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "Label to look into.")),
-        QStringLiteral("FILE"));
-    parser.addOption(
-        {QStringLiteral("json"),
-         tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "Tell it as JSON, as reports have it."))});
+        "  labelport inspect shelf.odg --json | jq .lost"));
+    parser.addPositionalArgument(QStringLiteral("file"), tr("Label to look into."),
+                                 QStringLiteral("FILE"));
+    parser.addOption({QStringLiteral("json"), tr("Tell it as JSON, as reports have it.")});
     parser.addOption({QStringLiteral("reader"),
-                      tr(QT_TRANSLATE_NOOP("cli::InspectCommand",
-                                           "Read the file as tavrel, orvanta or opendocument, "
-                                           "whatever its name.")),
-                      tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "name"))});
+                      tr("Read the file as tavrel, orvanta or opendocument, "
+                         "whatever its name."),
+                      tr("name")});
 }
 
 /// One file for one worker, so that whatever it holds cannot harm more than that.
@@ -65,8 +60,7 @@ public:
         for (const auto end : {&archive::WorkerPool::drained, &archive::WorkerPool::broken}) {
             QObject::connect(&pool, end, &loop, &QEventLoop::quit, Qt::QueuedConnection);
         }
-        m_result.errors = {tr(QT_TRANSLATE_NOOP("cli::InspectCommand",
-                                                "the process that opens it cannot be started"))};
+        m_result.errors = {tr("the process that opens it cannot be started")};
         pool.start();
         loop.exec();
         return m_result;
@@ -119,6 +113,7 @@ int tell(const QString& file, const archive::FileResult& result, bool asJson)
 
 int runInspect(const QStringList& arguments)
 {
+    // No translation: it is typed so.
     const QString command = QStringLiteral("labelport inspect");
     QCommandLineParser parser;
     addOptions(parser);
@@ -127,8 +122,7 @@ int runInspect(const QStringList& arguments)
     }
     const QStringList files = parser.positionalArguments();
     if (files.size() != 1) {
-        return refuseArguments(command,
-                               tr(QT_TRANSLATE_NOOP("cli::InspectCommand", "It takes one file.")));
+        return refuseArguments(command, tr("It takes one file."));
     }
     JobOptions options;
     options.report = true;

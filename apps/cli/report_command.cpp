@@ -18,31 +18,26 @@ QString tr(const char* text)
 
 void addOptions(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(tr(QT_TRANSLATE_NOOP(
-        "cli::ReportCommand",
-        "Makes one report of the JSON reports of several commands, as one command over all\n"
-        "files would have written it.\n\n"
-        "Examples:\n"
-        "  labelport report merge part-1.json part-2.json --to all.html\n"
-        "  labelport report merge part-*.json --to all.json --to all.html")));
-    parser.addPositionalArgument(
-        QStringLiteral("merge"),
-        tr(QT_TRANSLATE_NOOP("cli::ReportCommand", "What to do: put reports together.")));
-    parser.addPositionalArgument(
-        QStringLiteral("report"),
-        tr(QT_TRANSLATE_NOOP("cli::ReportCommand", "Report that an import wrote as JSON.")),
-        QStringLiteral("REPORT.json..."));
-    parser.addOption(
-        {QStringLiteral("to"),
-         tr(QT_TRANSLATE_NOOP("cli::ReportCommand",
-                              "Report to write, as .json or .html; may be given several times.")),
-         tr(QT_TRANSLATE_NOOP("cli::ReportCommand", "file"))});
+    parser.setApplicationDescription(
+        tr("Makes one report of the JSON reports of several commands, as one command over all\n"
+           "files would have written it.\n\n"
+           "Examples:\n"
+           "  labelport report merge part-1.json part-2.json --to all.html\n"
+           "  labelport report merge part-*.json --to all.json --to all.html"));
+    parser.addPositionalArgument(QStringLiteral("merge"), tr("What to do: put reports together."));
+    parser.addPositionalArgument(QStringLiteral("report"),
+                                 tr("Report that an import wrote as JSON."),
+                                 QStringLiteral("REPORT.json..."));
+    parser.addOption({QStringLiteral("to"),
+                      tr("Report to write, as .json or .html; may be given several times."),
+                      tr("file")});
 }
 
 } // namespace
 
 int runReport(const QStringList& arguments)
 {
+    // No translation: it is typed so.
     const QString command = QStringLiteral("labelport report");
     QCommandLineParser parser;
     addOptions(parser);
@@ -51,16 +46,12 @@ int runReport(const QStringList& arguments)
     }
     QStringList reports = parser.positionalArguments();
     if (reports.isEmpty() || reports.takeFirst() != QLatin1String("merge")) {
-        return refuseArguments(
-            command, tr(QT_TRANSLATE_NOOP("cli::ReportCommand",
-                                          "Reports can be put together: \"report merge\".")));
+        return refuseArguments(command, tr("Reports can be put together: \"report merge\"."));
     }
     const QStringList outputs = parser.values(QStringLiteral("to"));
     if (reports.isEmpty() || outputs.isEmpty()) {
-        return refuseArguments(
-            command, tr(QT_TRANSLATE_NOOP("cli::ReportCommand",
-                                          "It takes the reports to put together, and --to says "
-                                          "where the whole goes.")));
+        return refuseArguments(command, tr("It takes the reports to put together, and --to says "
+                                           "where the whole goes."));
     }
     for (const QString& output : outputs) {
         const QString error = migration::mergeReports(reports, output);
