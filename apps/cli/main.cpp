@@ -87,6 +87,25 @@ QStringList wantedLanguages()
     return translations::wantedLanguages(QProcessEnvironment::systemEnvironment());
 }
 
+/// Whether JSON is asked for. Other programs read it, so it is the same in every language; and
+/// because what a command says to people goes into it, the command speaks English then.
+bool writesJson(const QStringList& arguments)
+{
+    const auto isJson = [](const QString& name) {
+        return name.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+    };
+    for (qsizetype index = 0; index < arguments.size(); ++index) {
+        const QString option = arguments.at(index).section(QLatin1Char('='), 0, 0);
+        const bool takesName =
+            option == QLatin1String("--report") || option == QLatin1String("--to");
+        if (option == QLatin1String("--json") ||
+            (takesName && (isJson(arguments.at(index)) || isJson(arguments.value(index + 1))))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 using Command = int (*)(const QStringList& arguments);
 
 struct CommandRow
@@ -127,10 +146,11 @@ int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
-    // Before the locale changes: workers and the trace speak what was asked for.
-    translations::keepLanguage(wantedLanguages());
+    const QStringList languages = wantedLanguages(); // before the locale changes
     chooseUtf8Locale();
     QStringList arguments = argumentsOf(argc, argv);
+    // Workers and the trace speak it too.
+    translations::keepLanguage(writesJson(arguments) ? QStringList() : languages);
     const QString command = arguments.isEmpty() ? QString() : arguments.takeFirst();
 
     for (const CommandRow& row : Commands) {

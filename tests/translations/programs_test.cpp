@@ -126,6 +126,34 @@ TEST_F(Programs, MakeTheSameFilesInEveryLanguage)
     }
 }
 
+TEST_F(Programs, TellOtherProgramsTheSameInEveryLanguage)
+{
+    // The import has something to say about this one.
+    const QString sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/member_card_2000024.cnv");
+    const QStringList inspect{QStringLiteral("inspect"), sample, QStringLiteral("--json")};
+    const QStringList formats{QStringLiteral("formats"), QStringLiteral("--json")};
+    for (const QStringList& command : {inspect, formats}) {
+        const QString plain = run(Labelport, command, English).out;
+        EXPECT_TRUE(plain.startsWith(u'{')) << qPrintable(plain);
+        EXPECT_EQ(plain, run(Labelport, command, German).out);
+    }
+    const auto report = [&](const char* name, const Variables& variables) {
+        const QString file = QString::fromLatin1(name);
+        EXPECT_EQ(
+            run(Labelport,
+                {QStringLiteral("import"), sample, QStringLiteral("--to"), QStringLiteral("label"),
+                 QStringLiteral("--force"), QStringLiteral("--report"), file},
+                variables)
+                .status,
+            0);
+        return contentOf(file);
+    };
+    const QByteArray plain = report("plain.json", English);
+    EXPECT_TRUE(plain.contains("Datasource not connected."));
+    EXPECT_EQ(plain, report("german.json", German));
+    EXPECT_TRUE(report("german.html", German).contains("Datenquelle nicht verbunden."));
+}
+
 TEST_F(Programs, TraceTheSameInEveryLanguage)
 {
     // This one brings up a message box, whose text stands in the trace.
