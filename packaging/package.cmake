@@ -39,5 +39,6 @@ install(EXPORT LabelPortTargets
 cmake_language(EVAL CODE
     "cmake_language(DEFER CALL include [[${CMAKE_CURRENT_LIST_DIR}/pkg_config_file.cmake]])")
 
+include(${CMAKE_CURRENT_LIST_DIR}/command_line.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/desktop.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/debian.cmake)

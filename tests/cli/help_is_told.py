@@ -1,0 +1,118 @@
+#!/usr/bin/env python3
+"""Completion and manual pages know every option that --help shows, and none that it does not.
+
+help_is_told.py BIN PACKAGING
+
+BIN is the folder of the programs, PACKAGING has the folders completion and man. Shells that are
+not there are named and passed over.
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+
+COMMANDS = ["import", "inspect", "report", "formats"]
+OPTION = re.compile(r"(?<![\w-])--([a-z][a-z-]*)")
+errors = []
+
+
+def run(*command):
+    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8")
+    return subprocess.run(command, env=environment, capture_output=True, text=True, check=False)
+
+
+def options_of(program, *command):
+    """Long options that stand at the beginnings of the lines of a help."""
+    text = run(program, *command, "--help").stdout
+    found = set(re.findall(r"^  (?:-\w, )?--([a-z-]+)", text, re.MULTILINE))
+    if not found:
+        errors.append(f"{program} {command} shows no options")
+    return found
+
+
+def expect(told, shown, where):
+    for option in sorted(shown - told):
+        errors.append(f"{where} does not know --{option}")
+    for option in sorted(told - shown):
+        errors.append(f"{where} knows --{option}, which does not exist")
+
+
+def check_bash(folder, command, shown):
+    script = f"""source {folder}/labelport.bash
+        COMP_WORDS=(labelport {command} --); COMP_CWORD=2; _labelport; printf '%s\\n' "${{COMPREPLY[@]}}" """
+    expect(set(OPTION.findall(run("bash", "-c", script).stdout)), shown, f"bash, {command}")
+
+
+def check_bash_values(folder, work):
+    (work / "a.odg").touch()
+    (work / "a.txt").touch()
+    cases = [(("labelport", "i"), {"import", "inspect"}),
+             (("labelport", "import", "--to", "p"), {"png", "pdf"}),
+             (("labelport", "import", "--reader", ""), {"tavrel", "orvanta", "opendocument"}),
+             (("labelport", "report", ""), {"merge"}),
+             (("labelport", "import", f"{work}/a"), {f"{work}/a.odg"})]
+    for words, expected in cases:
+        line = " ".join(f"'{word}'" for word in words)
+        script = f"""source {folder}/labelport.bash
+            COMP_WORDS=({line}); COMP_CWORD={len(words) - 1}; _labelport 2>/dev/null
+            printf '%s\\n' "${{COMPREPLY[@]}}" """
+        told = set(run("bash", "-c", script).stdout.split())
+        if told != expected:
+            errors.append(f"bash completes {words} with {told}")
+
+
+def check_fish(folder, command, shown):
+    script = f"source {folder}/labelport.fish; complete -C 'labelport {command} --'"
+    told = set(OPTION.findall("\n".join(
+        line.split("\t")[0] for line in run("fish", "-c", script).stdout.splitlines())))
+    expect(told, shown, f"fish, {command}")
+
+
+def check_zsh(folder, command, shown):
+    text = (folder / "_labelport").read_text(encoding="utf-8")
+    part = re.search(rf"^{command}\)\n(.*?);;", text, re.DOTALL | re.MULTILINE).group(1)
+    expect(set(re.findall(r"""['"]\*?--([a-z-]+)\[""", part)), shown, f"zsh, {command}")
+
+
+def check_manual(page, shown):
+    if shutil.which("groff"):
+        done = run("groff", "-man", "-ww", "-z", str(page))
+        if done.returncode or done.stderr:
+            errors.append(f"{page.name}: {done.stderr}")
+    else:
+        print("SKIPPED: there is no groff")
+    told = set(OPTION.findall(page.read_text(encoding="utf-8").replace("\\-", "-")))
+    expect(told, shown, page.name)
+
+
+def main():
+    programs, packaging = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    completion, manual = packaging / "completion", packaging / "man"
+    labelport = str(programs / "labelport")
+    shown = {command: options_of(labelport, command) for command in COMMANDS}
+    for command, options in shown.items():
+        check_bash(completion, command, options)
+        check_zsh(completion, command, options)
+        if shutil.which("fish"):
+            check_fish(completion, command, options)
+    check_bash_values(completion, pathlib.Path.cwd())
+    for shell in ("zsh", "fish"):
+        if not shutil.which(shell):
+            print(f"SKIPPED: there is no {shell}")
+        elif run(shell, "-n", str(completion / ("_labelport" if shell == "zsh" else
+                                                "labelport.fish"))).returncode:
+            errors.append(f"{shell} cannot read its completion")
+    of_all = set().union(*shown.values()) | options_of(labelport)
+    check_manual(manual / "labelport.1", of_all)
+    for name in ("labelport-trace", "labelport-workbench"):
+        # Qt's own options are told by --help-all.
+        check_manual(manual / f"{name}.1", options_of(str(programs / name)) - {"help-all"})
+    print("\n".join(errors) or "completion and manual pages know all that --help shows")
+    return 1 if errors else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
