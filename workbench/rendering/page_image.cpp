@@ -1,6 +1,7 @@
 #include "workbench/rendering/page_image.h"
 
 #include "workbench/canvas/canvas.h"
+#include "workbench/rendering/frugal_image.h"
 #include "workbench/rendering/page_painter.h"
 #include "workbench/rendering/whole_file.h"
 
@@ -115,7 +116,7 @@ QString writePng(const QImage& image, const QString& fileName)
         return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
     QImageWriter writer(&file, "png");
-    if (!writer.write(image)) {
+    if (!writer.write(frugalImage(image))) {
         return Words::tr("Cannot write \"%1\": %2.").arg(fileName, writer.errorString());
     }
     if (!commitWhole(file)) {

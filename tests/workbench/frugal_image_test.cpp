@@ -1,0 +1,92 @@
+// A picture of fewer bytes must be the same picture.
+
+#include "workbench/rendering/frugal_image.h"
+
+#include <QBuffer>
+
+#include <gtest/gtest.h>
+
+using workbench::frugalImage;
+
+namespace {
+
+// A picture of so many colours, some of them translucent.
+QImage pictureOf(int colors, bool translucent)
+{
+    QImage image(40, 40, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    for (int i = 1; i < colors; ++i) {
+        const int alpha = translucent ? 100 + i % 100 : 255;
+        image.setPixelColor(i % 40, i / 40, QColor(i % 256, i / 256, 17, alpha));
+    }
+    return image;
+}
+
+QImage readBack(const QImage& image)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::ReadWrite);
+    EXPECT_TRUE(image.save(&buffer, "png"));
+    return QImage::fromData(buffer.data(), "png");
+}
+
+QImage plain(const QImage& image)
+{
+    return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+} // namespace
+
+TEST(FrugalImage, IsTheSamePictureWhateverItsColors)
+{
+    for (const int colors : {1, 2, 3, 256, 257, 1000}) {
+        for (const bool translucent : {false, true}) {
+            SCOPED_TRACE(testing::Message() << colors << " colours, translucent " << translucent);
+            const QImage image = pictureOf(colors, translucent);
+            EXPECT_EQ(plain(frugalImage(image)), plain(image));
+            EXPECT_EQ(plain(readBack(frugalImage(image))), plain(readBack(image)));
+        }
+    }
+}
+
+TEST(FrugalImage, HasATableOfUpTo256Colors)
+{
+    EXPECT_EQ(frugalImage(pictureOf(256, false)).format(), QImage::Format_Indexed8);
+    EXPECT_EQ(frugalImage(pictureOf(256, false)).colorCount(), 256);
+    EXPECT_EQ(frugalImage(pictureOf(200, true)).format(), QImage::Format_Indexed8);
+}
+
+TEST(FrugalImage, HasNoAlphaWhereAllIsOpaque)
+{
+    EXPECT_FALSE(frugalImage(pictureOf(257, false)).hasAlphaChannel());
+    EXPECT_TRUE(frugalImage(pictureOf(1000, true)).hasAlphaChannel());
+}
+
+TEST(FrugalImage, IsTransparentWhereThePictureIs)
+{
+    QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    image.setPixelColor(1, 0, Qt::red);
+    const QImage written = readBack(frugalImage(image));
+    EXPECT_EQ(written.pixelColor(0, 0).alpha(), 0);
+    EXPECT_EQ(written.pixelColor(1, 0), QColor(Qt::red));
+}
+
+TEST(FrugalImage, KeepsResolutionAndTexts)
+{
+    for (const int colors : {2, 1000}) {
+        QImage image = pictureOf(colors, false);
+        image.setDotsPerMeterX(11811);
+        image.setDotsPerMeterY(5906);
+        image.setText(QStringLiteral("Software"), QStringLiteral("a program"));
+        const QImage written = readBack(frugalImage(image));
+        EXPECT_EQ(written.dotsPerMeterX(), 11811);
+        EXPECT_EQ(written.dotsPerMeterY(), 5906);
+        EXPECT_EQ(written.text(QStringLiteral("Software")), QStringLiteral("a program"));
+    }
+}
+
+TEST(FrugalImage, OfNothingIsNothing)
+{
+    EXPECT_TRUE(frugalImage(QImage()).isNull());
+}
