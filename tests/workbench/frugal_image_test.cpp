@@ -2,8 +2,6 @@
 
 #include "workbench/rendering/frugal_image.h"
 
-#include <QBuffer>
-
 #include <gtest/gtest.h>
 
 using workbench::frugalImage;
@@ -22,14 +20,6 @@ QImage pictureOf(int colors, bool translucent)
     return image;
 }
 
-QImage readBack(const QImage& image)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::ReadWrite);
-    EXPECT_TRUE(image.save(&buffer, "png"));
-    return QImage::fromData(buffer.data(), "png");
-}
-
 QImage plain(const QImage& image)
 {
     return image.convertToFormat(QImage::Format_ARGB32);
@@ -44,7 +34,6 @@ TEST(FrugalImage, IsTheSamePictureWhateverItsColors)
             SCOPED_TRACE(testing::Message() << colors << " colours, translucent " << translucent);
             const QImage image = pictureOf(colors, translucent);
             EXPECT_EQ(plain(frugalImage(image)), plain(image));
-            EXPECT_EQ(plain(readBack(frugalImage(image))), plain(readBack(image)));
         }
     }
 }
@@ -62,16 +51,6 @@ TEST(FrugalImage, HasNoAlphaWhereAllIsOpaque)
     EXPECT_TRUE(frugalImage(pictureOf(1000, true)).hasAlphaChannel());
 }
 
-TEST(FrugalImage, IsTransparentWhereThePictureIs)
-{
-    QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    image.setPixelColor(1, 0, Qt::red);
-    const QImage written = readBack(frugalImage(image));
-    EXPECT_EQ(written.pixelColor(0, 0).alpha(), 0);
-    EXPECT_EQ(written.pixelColor(1, 0), QColor(Qt::red));
-}
-
 TEST(FrugalImage, KeepsResolutionAndTexts)
 {
     for (const int colors : {2, 1000}) {
@@ -79,10 +58,10 @@ TEST(FrugalImage, KeepsResolutionAndTexts)
         image.setDotsPerMeterX(11811);
         image.setDotsPerMeterY(5906);
         image.setText(QStringLiteral("Software"), QStringLiteral("a program"));
-        const QImage written = readBack(frugalImage(image));
-        EXPECT_EQ(written.dotsPerMeterX(), 11811);
-        EXPECT_EQ(written.dotsPerMeterY(), 5906);
-        EXPECT_EQ(written.text(QStringLiteral("Software")), QStringLiteral("a program"));
+        const QImage frugal = frugalImage(image);
+        EXPECT_EQ(frugal.dotsPerMeterX(), 11811);
+        EXPECT_EQ(frugal.dotsPerMeterY(), 5906);
+        EXPECT_EQ(frugal.text(QStringLiteral("Software")), QStringLiteral("a program"));
     }
 }
 

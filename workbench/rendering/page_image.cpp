@@ -1,12 +1,11 @@
 #include "workbench/rendering/page_image.h"
 
 #include "workbench/canvas/canvas.h"
-#include "workbench/rendering/frugal_image.h"
 #include "workbench/rendering/page_painter.h"
+#include "workbench/rendering/png_encoder.h"
 #include "workbench/rendering/whole_file.h"
 
 #include <QCoreApplication>
-#include <QImageWriter>
 #include <QPainter>
 #include <QSaveFile>
 
@@ -115,11 +114,7 @@ QString writePng(const QImage& image, const QString& fileName)
     if (!file.open(QIODevice::WriteOnly)) {
         return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
-    QImageWriter writer(&file, "png");
-    if (!writer.write(frugalImage(image))) {
-        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, writer.errorString());
-    }
-    if (!commitWhole(file)) {
+    if (!encodePng(image, file) || !commitWhole(file)) {
         return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
     return {};

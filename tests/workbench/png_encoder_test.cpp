@@ -1,0 +1,142 @@
+// What is written must be a PNG file to everybody, Qt's own reader first.
+
+#include "workbench/rendering/png_encoder.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+
+#include <gtest/gtest.h>
+
+using workbench::encodePng;
+
+namespace {
+
+QByteArray encoded(const QImage& image)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(encodePng(image, buffer));
+    return buffer.data();
+}
+
+QImage readBack(const QImage& image)
+{
+    return QImage::fromData(encoded(image), "png");
+}
+
+QImage plain(const QImage& image)
+{
+    return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+// So many colours, in a size that compresses to more than one piece when there are many.
+QImage pictureOf(const QSize& size, quint32 colors, int alpha)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    quint32 noise = 1;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            noise = noise * 1664525U + 1013904223U;
+            const int color = static_cast<int>((noise >> 8) % colors);
+            image.setPixel(x, y, qRgba(color % 256, color / 256 % 256, color % 7, alpha));
+        }
+    }
+    return image;
+}
+
+/// Takes so many bytes and no more.
+class FullDisk : public QIODevice
+{
+public:
+    explicit FullDisk(qint64 room)
+        : m_room(room)
+    {
+        open(QIODevice::WriteOnly);
+    }
+
+protected:
+    qint64 readData(char* /*data*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char* /*data*/, qint64 size) override
+    {
+        const qint64 taken = std::min(size, m_room);
+        m_room -= taken;
+        return taken == size ? taken : -1;
+    }
+
+private:
+    qint64 m_room;
+};
+
+} // namespace
+
+TEST(PngEncoder, WritesWhatQtReadsBack)
+{
+    for (const QSize& size : {QSize(1, 1), QSize(3, 7), QSize(300, 200)}) {
+        for (const quint32 colors : {1U, 2U, 200U, 60000U}) {
+            for (const int alpha : {255, 128, 0}) {
+                SCOPED_TRACE(testing::Message() << size.width() << 'x' << size.height() << ", "
+                                                << colors << " colours, alpha " << alpha);
+                const QImage image = pictureOf(size, colors, alpha);
+                EXPECT_EQ(plain(readBack(image)), image);
+            }
+        }
+    }
+}
+
+TEST(PngEncoder, TakesPicturesOfEveryFormat)
+{
+    const QImage image = pictureOf({20, 20}, 60000, 255);
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
+                              QImage::Format_RGB888, QImage::Format_RGBA8888}) {
+        EXPECT_EQ(plain(readBack(image.convertToFormat(format))), image) << int(format);
+    }
+    const QImage mono = image.convertToFormat(QImage::Format_Mono);
+    EXPECT_EQ(plain(readBack(mono)), plain(mono));
+}
+
+TEST(PngEncoder, WritesTheKindOfPictureThatIsNeeded)
+{
+    constexpr qsizetype ColorTypeAt = 25;
+    EXPECT_EQ(encoded(pictureOf({20, 20}, 100, 255)).at(ColorTypeAt), 3);
+    EXPECT_EQ(encoded(pictureOf({20, 20}, 60000, 255)).at(ColorTypeAt), 2);
+    EXPECT_EQ(encoded(pictureOf({20, 20}, 60000, 200)).at(ColorTypeAt), 6);
+}
+
+TEST(PngEncoder, WritesResolutionAndTextsAheadOfThePixels)
+{
+    QImage image = pictureOf({9, 9}, 60000, 255);
+    image.setDotsPerMeterX(11811);
+    image.setDotsPerMeterY(5906);
+    image.setText(QStringLiteral("Software"), QStringLiteral("a program"));
+    image.setText(QStringLiteral("Title"), QStringLiteral("K\u00e4se \u20ac"));
+    QByteArray bytes = encoded(image);
+    const QImage read = QImage::fromData(bytes, "png");
+    EXPECT_EQ(read.dotsPerMeterX(), 11811);
+    EXPECT_EQ(read.dotsPerMeterY(), 5906);
+
+    QBuffer head(&bytes);
+    QImageReader reader(&head, "png");
+    EXPECT_EQ(reader.text(QStringLiteral("Software")), QStringLiteral("a program"));
+    EXPECT_EQ(reader.text(QStringLiteral("Title")), QStringLiteral("K\u00e4se \u20ac"));
+}
+
+TEST(PngEncoder, RefusesAPictureOfNothing)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_FALSE(encodePng(QImage(), buffer));
+    EXPECT_TRUE(buffer.data().isEmpty());
+}
+
+TEST(PngEncoder, TellsWhenTheDeviceIsFull)
+{
+    const QImage image = pictureOf({300, 200}, 60000, 255);
+    const qint64 needed = encoded(image).size();
+    for (const qint64 room : {qint64(0), qint64(10), qint64(60), needed / 2, needed - 1}) {
+        FullDisk disk(room);
+        EXPECT_FALSE(encodePng(image, disk)) << room;
+    }
+    FullDisk disk(needed);
+    EXPECT_TRUE(encodePng(image, disk));
+}
