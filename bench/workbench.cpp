@@ -2,7 +2,9 @@
 // label.
 //
 // bench_workbench [LARGEST SIZE]       measures and prints the table
-// bench_workbench --steps WORK FILE    does one thing once and prints seconds and bytes
+// bench_workbench --steps FILE         does everything once and prints seconds and bytes
+// bench_workbench --imports N FILE     imports N times after a first time, and prints what each
+//                                      took: seconds of the processor and on the clock
 
 #include "bench/labels.h"
 #include "bench/measuring.h"
@@ -13,6 +15,7 @@
 #include "workbench/rendering/page_image.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
@@ -152,6 +155,22 @@ int measure(const QList<int>& sizes)
     return 0;
 }
 
+int printImports(int times, const QString& path)
+{
+    require(workbench::importLabel(path).error);
+    double seconds = 0.0;
+    qint64 nanoseconds = 0;
+    for (int i = 0; i < times; ++i) {
+        workbench::ImportResult label;
+        QElapsedTimer clock;
+        clock.start();
+        seconds += bench::secondsOf([&] { label = workbench::importLabel(path); });
+        nanoseconds += clock.nsecsElapsed();
+    }
+    std::printf("%.9f %.9f\n", seconds / times, static_cast<double>(nanoseconds) * 1e-9 / times);
+    return 0;
+}
+
 int printSteps(const QString& path)
 {
     const Steps steps = stepsOf(path);
@@ -171,6 +190,9 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == u"--steps"_s && arguments.size() == 3) {
         return printSteps(arguments[2]);
+    }
+    if (arguments.value(1) == u"--imports"_s && arguments.size() == 4) {
+        return printImports(arguments[2].toInt(), arguments[3]);
     }
     QList<int> sizes = {1000, 10'000, 100'000};
     const int largest = arguments.value(1, u"100000"_s).toInt();
