@@ -197,13 +197,29 @@ QByteArray graphicStyles()
                     "</style:style>";
 }
 
+QByteArray namespaces()
+{
+    static constexpr const char* Prefixes[] = {"office", "style", "text", "draw"};
+    QByteArray declarations;
+    for (const char* prefix : Prefixes) {
+        const QByteArray name =
+            QByteArray(prefix) == "draw" ? QByteArray("drawing") : QByteArray(prefix);
+        declarations += QByteArray(" xmlns:") + prefix +
+                        "=\"urn:oasis:names:tc:opendocument:xmlns:" + name + ":1.0\"";
+    }
+    return declarations +
+           " xmlns:svg=\"urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0\""
+           " xmlns:fo=\"urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0\""
+           " office:version=\"1.2\"";
+}
+
 QByteArray drawingContent(int shapes, Texts texts)
 {
-    QByteArray content = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<office:document-content "
-                         "xmlns:office=\"urn:oasis:names:tc:opendocument:xmlns:office:1.0\">"
-                         "<office:automatic-styles>" +
-                         graphicStyles() +
-                         "</office:automatic-styles><office:body><office:drawing><draw:page>";
+    QByteArray content = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                         "<office:document-content" +
+                         namespaces() + "><office:automatic-styles>" + graphicStyles() +
+                         "</office:automatic-styles><office:body><office:drawing>"
+                         "<draw:page draw:name=\"1\" draw:master-page-name=\"Default\">";
     for (int i = 0; i < shapes; ++i) {
         content += shape(i, texts);
     }
@@ -212,11 +228,24 @@ QByteArray drawingContent(int shapes, Texts texts)
 
 QByteArray drawingStyles()
 {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<office:document-styles><office:styles/>"
-           "<office:automatic-styles><style:page-layout style:name=\"PM1\">"
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<office:document-styles" + namespaces() +
+           "><office:styles/><office:automatic-styles><style:page-layout style:name=\"PM1\">"
            "<style:page-layout-properties fo:page-width=\"21in\" fo:page-height=\"31in\" "
            "style:print-orientation=\"portrait\"/></style:page-layout></office:automatic-styles>"
-           "</office:document-styles>";
+           "<office:master-styles><style:master-page style:name=\"Default\" "
+           "style:page-layout-name=\"PM1\"/></office:master-styles></office:document-styles>";
+}
+
+QByteArray manifest()
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<manifest:manifest xmlns:manifest="
+           "\"urn:oasis:names:tc:opendocument:xmlns:manifest:1.0\" manifest:version=\"1.2\">"
+           "<manifest:file-entry manifest:full-path=\"/\" manifest:media-type="
+           "\"application/vnd.oasis.opendocument.graphics\"/>"
+           "<manifest:file-entry manifest:full-path=\"content.xml\" "
+           "manifest:media-type=\"text/xml\"/><manifest:file-entry "
+           "manifest:full-path=\"styles.xml\" manifest:media-type=\"text/xml\"/>"
+           "</manifest:manifest>";
 }
 
 } // namespace
@@ -256,6 +285,11 @@ QByteArray drawing(int shapes, Texts texts)
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QZipWriter writer(&buffer);
+    // Other programs tell the format by this member, which stands first and unpacked.
+    writer.setCompressionPolicy(QZipWriter::NeverCompress);
+    writer.addFile(u"mimetype"_s, QByteArray("application/vnd.oasis.opendocument.graphics"));
+    writer.setCompressionPolicy(QZipWriter::AlwaysCompress);
+    writer.addFile(u"META-INF/manifest.xml"_s, manifest());
     writer.addFile(u"styles.xml"_s, drawingStyles());
     writer.addFile(u"content.xml"_s, drawingContent(shapes, texts));
     writer.close();

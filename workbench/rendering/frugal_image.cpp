@@ -2,7 +2,9 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <optional>
+#include <span>
 
 namespace workbench {
 
@@ -46,9 +48,10 @@ private:
     uchar m_lastNumber = 0;
 };
 
-const QRgb* pixelsOf(const QImage& image, int y)
+std::span<const QRgb> pixelsOf(const QImage& image, int y)
 {
-    return reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    return {reinterpret_cast<const QRgb*>(image.constScanLine(y)),
+            static_cast<std::size_t>(image.width())};
 }
 
 void copyTraits(const QImage& from, QImage& to)
@@ -67,14 +70,13 @@ QImage withColorTable(const QImage& image)
     QImage result(image.size(), QImage::Format_Indexed8);
     ColorNumbers numbers;
     for (int y = 0; y < result.height(); ++y) {
-        const QRgb* from = pixelsOf(image, y);
         uchar* to = result.scanLine(y);
-        for (int x = 0; x < result.width(); ++x) {
-            const auto number = numbers.numberOf(from[x]);
+        for (const QRgb color : pixelsOf(image, y)) {
+            const auto number = numbers.numberOf(color);
             if (!number) {
                 return {};
             }
-            to[x] = *number;
+            *to++ = *number;
         }
     }
     result.setColorTable(numbers.colors());
@@ -85,11 +87,10 @@ QImage withColorTable(const QImage& image)
 bool isOpaque(const QImage& image)
 {
     for (int y = 0; y < image.height(); ++y) {
-        const QRgb* pixels = pixelsOf(image, y);
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(pixels[x]) != 255) {
-                return false;
-            }
+        const std::span<const QRgb> pixels = pixelsOf(image, y);
+        if (!std::all_of(pixels.begin(), pixels.end(),
+                         [](QRgb color) { return qAlpha(color) == 255; })) {
+            return false;
         }
     }
     return true;

@@ -7,6 +7,7 @@
 #include <QtEndian>
 
 #include <array>
+#include <span>
 
 #include <zlib.h>
 
@@ -103,9 +104,9 @@ QByteArray rowOf(const QImage& image, int y)
     const int samples = type == RgbWithAlpha ? 4 : 3;
     QByteArray row(1 + qsizetype(samples) * image.width(), NoFilter);
     char* to = row.data() + 1;
-    const auto* pixels = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    for (int x = 0; x < image.width(); ++x) {
-        const QRgb color = pixels[x];
+    const std::span pixels(reinterpret_cast<const QRgb*>(image.constScanLine(y)),
+                           static_cast<std::size_t>(image.width()));
+    for (const QRgb color : pixels) {
         *to++ = char(qRed(color));
         *to++ = char(qGreen(color));
         *to++ = char(qBlue(color));
