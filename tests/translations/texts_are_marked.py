@@ -13,6 +13,7 @@ English; so do the readers of the formats, whose few texts for people have tests
 import pathlib
 import re
 import sys
+import xml.etree.ElementTree
 
 FOLDERS = ["apps", "archive", "importer", "migration", "workbench"]
 
@@ -28,6 +29,9 @@ PHRASE = re.compile(r"[A-Za-z’']{2,}[,;:.]? +[a-z’']{2,}")
 # What a marked text stands in: the last name before the bracket that is open around it.
 # Files may give such a mark a shorter name.
 MACRO = re.compile(r'#define (\w+)\(\w+\) QT_TRANSLATE_NOOP\(')
+# A function of a file that translates what it is given; lupdate does not see into it, so its texts
+# must be marked in another place.
+HELPER = re.compile(r'(\w+)\(const char\* (\w+)\)\s*\{[^{}]*translate\(\s*"[^"]+",\s*\2\b')
 MARKS = {"tr", "translate", "QT_TRANSLATE_NOOP", "QT_TR_NOOP", "QT_TRANSLATE_NOOP3"}
 # What shows its text whatever it is, even a single word.
 SHOWN = {"setText", "setWindowTitle", "setToolTip", "setStatusTip", "setTitle", "addButton",
@@ -92,12 +96,14 @@ def blank(text):
     return re.sub(r"[^\n]", " ", text)
 
 
-def examine(code):
+def examine(code, known=frozenset()):
     """(line, words) of every text for people that is not marked.
 
-    An excuse in a comment holds for its line and the next."""
+    An excuse in a comment holds for its line and the next. Known texts are those that are marked
+    somewhere."""
     lines = code.split("\n")
     marks = MARKS | set(MACRO.findall(code))
+    helpers = {name for name, _ in HELPER.findall(code)}
     bare, texts = split(code)
     found = []
     for place, words in texts:
@@ -105,6 +111,8 @@ def examine(code):
         line = code.count("\n", 0, place)
         is_excused = any(EXCUSE in each.lower() for each in lines[max(0, line - 1):line + 1])
         if callee in marks or callee in FOR_MACHINES or is_excused:
+            continue
+        if callee in helpers and words.replace(r"\n", "\n").replace(r"\"", '"') in known:
             continue
         is_shown = callee in SHOWN and re.search(r"[A-Za-z]{2,}", words)
         is_phrase = PHRASE.search(words) and not CODE.search(words)
@@ -134,9 +142,12 @@ def try_examples():
         'box.setText(QStringLiteral("Stop"));',
         'printMessage(QStringLiteral("%1: nothing to do").arg(name));',
         'const char* const Help = R"(Usage: labelport COMMAND)";'.replace("labelport", "it is"),
+        'QString say(const char* x) { return translate("c", x); } say("not marked anywhere");',
         'f(tr("good words here"), QStringLiteral("bad words here"));',
     ]
     failures = [code for code in good if examine(code)]
+    helper = 'QString say(const char* x) { return translate("c", x); } say("is marked elsewhere");'
+    failures += [helper] if examine(helper, {"is marked elsewhere"}) else []
     failures += [code for code in bad if len(examine(code)) != 1]
     for code in failures:
         print("judged wrongly:", code)
@@ -147,13 +158,15 @@ def main():
     if sys.argv[1:] == ["--try"]:
         return try_examples()
     source = pathlib.Path(sys.argv[1])
+    template = xml.etree.ElementTree.parse(source / "translations/labelport_template.ts")
+    known = {each.text for each in template.iter("source")}
     count = files = 0
     for folder in FOLDERS:
         for path in sorted((source / folder).rglob("*")):
             if path.suffix not in (".cpp", ".h"):
                 continue
             files += 1
-            for line, text in examine(path.read_text(encoding="utf-8")):
+            for line, text in examine(path.read_text(encoding="utf-8"), known):
                 print(f"{path.relative_to(source)}:{line}: not marked for translation: {text}")
                 count += 1
     if files < 100:
