@@ -24,6 +24,7 @@ import random
 import signal
 import subprocess
 import sys
+import tempfile
 import time
 import zlib
 
@@ -161,7 +162,9 @@ def torment(program, folder, output, options):
     peaks = {"coordinator": 0, "worker": 0}
     while True:
         command = [program, "import", folder, "--output-dir", output, "--resume", "--quiet", *options]
-        process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
+        # A file and no pipe: nobody would empty it meanwhile.
+        said = tempfile.TemporaryFile()
+        process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=said)
         while process.poll() is None:
             time.sleep(chance.uniform(0.02, 0.3))
             workers = children_of(process.pid)
@@ -177,8 +180,9 @@ def torment(program, folder, output, options):
             if rounds and workers and chance.random() < 0.2:
                 kill(chance.choice(workers))
                 kills += 1
-        messages = process.stderr.read().decode(errors="replace")
         process.wait()
+        said.seek(0)
+        messages = said.read().decode(errors="replace")
         if process.returncode in (0, 1):
             break
     print(f"killed: {kills} workers, {deaths} imports; peak memory in KiB: {peaks}")
