@@ -175,11 +175,8 @@ qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
 void Run::publishAll(FileResult& result) const
 {
     QList<StagedFile> published;
-    for (StagedFile file : std::as_const(result.files)) {
-        // Another command may have put the same output there since the worker looked.
-        file.mayReplace =
-            file.mayReplace || (m_settings.mayReplace && m_settings.mayReplace(file.output.path));
-        const QString error = publish(file);
+    for (const StagedFile& file : std::as_const(result.files)) {
+        const QString error = publishOver(file);
         if (error.isEmpty()) {
             published.append(file);
         } else {
@@ -188,6 +185,19 @@ void Run::publishAll(FileResult& result) const
         }
     }
     result.files = published;
+}
+
+QString Run::publishOver(StagedFile file) const
+{
+    const QString error = publish(file);
+    // Another command may have put the same output there since the worker looked.
+    const bool isInTheWay = !error.isEmpty() && !file.mayReplace && m_settings.mayReplace &&
+                            m_settings.mayReplace(file.output.path);
+    if (!isInTheWay) {
+        return error;
+    }
+    file.mayReplace = true;
+    return publish(file);
 }
 
 void Run::taskDied(qsizetype task, const WorkerDeath& death)

@@ -98,6 +98,7 @@ private:
     [[nodiscard]] JournalRecord recordFor(qsizetype index, const FileResult& result);
     void remember(qsizetype index, const FileResult& result);
     void publishAll(FileResult& result) const;
+    [[nodiscard]] QString publishOver(StagedFile file) const;
     void settle(qsizetype index, FileResult result, qint64 size);
     void lose(qsizetype index, Fate fate, const QString& error);
     void deliverReady();

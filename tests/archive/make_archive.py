@@ -171,7 +171,7 @@ def torment(program, folder, output, options):
             peaks["coordinator"] = max(peaks["coordinator"], peak_memory(process.pid))
             for worker in workers:
                 peaks["worker"] = max(peaks["worker"], peak_memory(worker))
-            if rounds and chance.random() < 0.1:
+            if rounds and chance.random() < 0.03:
                 kill(process.pid)
                 rounds -= 1
                 deaths += 1

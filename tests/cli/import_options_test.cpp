@@ -7,7 +7,6 @@
 
 namespace {
 
-
 cli::ImportOptions accepted(const char* line)
 {
     const auto result = cli::parseImportArguments(words(line));
