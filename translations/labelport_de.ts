@@ -206,7 +206,7 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     <name>cli::FormatsCommand</name>
     <message>
         <source>binary canvas files</source>
-        <translation>binäre Zeichenflächen</translation>
+        <translation>binäre Canvas-Dateien</translation>
     </message>
     <message>
         <source>2000016 to 2000024; newer ones are read as 2000024</source>
@@ -305,7 +305,7 @@ Beispiele:
     </message>
     <message>
         <source>%1 of %2 files did not come over whole.</source>
-        <translation>%1 von %2 Dateien kamen nicht vollständig herüber.</translation>
+        <translation>%1 von %2 Dateien wurden nicht vollständig übernommen.</translation>
     </message>
 </context>
 <context>

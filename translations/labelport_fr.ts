@@ -206,7 +206,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <name>cli::FormatsCommand</name>
     <message>
         <source>binary canvas files</source>
-        <translation>fichiers binaires de canevas</translation>
+        <translation>fichiers canvas binaires</translation>
     </message>
     <message>
         <source>2000016 to 2000024; newer ones are read as 2000024</source>
