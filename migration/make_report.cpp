@@ -1,6 +1,10 @@
 #include "migration/make_report.h"
 
+#include "migration/census/census.h"
+#include "migration/losses/compare.h"
+#include "migration/losses/item_losses.h"
 #include "migration/losses/label_facts.h"
+#include "migration/losses/log_losses.h"
 #include "workbench/import/label_import.h"
 
 #include <QFileInfo>
@@ -22,19 +26,56 @@ QString nameOf(ReaderKind reader)
     return QStringLiteral("tavrel");
 }
 
-FileReport basicReport(const QString& fileName, const QString& shownName, const QString& reader,
-                       const workbench::ImportResult& result, const ReportOptions& options)
+// Of a file that was not imported, only how many objects are lost with it is told.
+void describeFailure(const Census& census, FileReport& report)
 {
+    report.objectsUnknown = census.unknown;
+    if (census.unknown.isEmpty()) {
+        report.objectsInFile = census.objects.size();
+    }
+}
+
+using Count = Census (*)(const QByteArray& file);
+
+Census censusOf(const QString& fileName, Count count)
+{
+    Census census;
+    const QByteArray file = bytesToCount(fileName, census.unknown);
+    return census.unknown.isEmpty() ? count(file) : census;
+}
+
+Count countFor(ReaderKind reader)
+{
+    switch (reader) {
+    case ReaderKind::Orvanta:
+        return &countOrvanta;
+    case ReaderKind::OpenDocument:
+        return &countOpenDocument;
+    case ReaderKind::Tavrel:
+        break;
+    }
+    return &countTavrel;
+}
+
+FileReport reportOn(const QString& fileName, const QString& shownName, const QString& reader,
+                    Count count, const workbench::ImportResult& result,
+                    const ReportOptions& options)
+{
+    // OpenDocument's paragraphs without a letter are no objects; a text field of a label is.
+    const bool blankTextsCount = count != &countOpenDocument;
     FileReport report;
     report.file = shownName;
     report.bytes = QFileInfo(fileName).size();
     report.reader = reader;
     report.error = result.error;
+    const Census census = censusOf(fileName, count);
     if (!result.isImported()) {
+        describeFailure(census, report);
         return report;
     }
     report.status = Status::Imported;
     describeLabel(result, report);
+    compare(census, lookAtItems(*result.canvas, blankTextsCount), lossesOfLog(result), report);
     if (options.itemList) {
         report.itemList = itemListOf(*result.canvas);
     }
@@ -49,13 +90,14 @@ FileReport basicReport(const QString& fileName, const QString& shownName, const 
 FileReport makeFileReport(const QString& fileName, const QString& shownName, ReaderKind reader,
                           const workbench::ImportResult& result, const ReportOptions& options)
 {
-    return basicReport(fileName, shownName, nameOf(reader), result, options);
+    return reportOn(fileName, shownName, nameOf(reader), countFor(reader), result, options);
 }
 
 FileReport makeSavedLabelReport(const QString& fileName, const QString& shownName,
                                 const workbench::ImportResult& result, const ReportOptions& options)
 {
-    return basicReport(fileName, shownName, QStringLiteral("label"), result, options);
+    return reportOn(fileName, shownName, QStringLiteral("label"), &countSavedLabel, result,
+                    options);
 }
 
 } // namespace migration

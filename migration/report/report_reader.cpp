@@ -105,13 +105,16 @@ bool ReportReader::skipValue(char first)
     return true;
 }
 
-// Leaves the reader behind the bracket that opens the list of files.
+// Leaves the reader behind the bracket that opens the list of files. Other programs may have
+// put the list before the format's name.
 void ReportReader::findFiles()
 {
     if (takeAfterSpace() != '{') {
         return fail(tr("it does not begin as one"));
     }
     bool isReport = false;
+    bool isKnownVersion = false;
+    qint64 files = 0;
     for (auto c = takeAfterSpace(); c && *c != '}'; c = takeAfterSpace()) {
         if (*c != '"') {
             continue; // a comma, or the rest of a number
@@ -123,18 +126,31 @@ void ReportReader::findFiles()
             break;
         }
         if (*name == "files" && *value == '[') {
-            m_inFiles = isReport;
-            return isReport ? void() : fail(tr("it does not name its format first"));
+            files = m_bufferStart + m_at;
         }
-        if (*name == "format" && *value == '"') {
+        if (*name == "version") {
+            isKnownVersion = *value == '0' + kReportVersion;
+        } else if (*name == "format" && *value == '"') {
             isReport = takeString() == QByteArray(kReportFormat);
-        } else if (*name == "version" && *value != '0' + kReportVersion) {
-            return fail(tr("it is of a version that is not known"));
-        } else if (!skipValue(*value)) {
+        }
+        if (isReport && isKnownVersion && files > 0) {
+            return startAt(files);
+        }
+        if (*name != "format" && !skipValue(*value)) {
             break;
         }
     }
-    fail(tr("it has no list of files"));
+    fail(isReport ? tr("it has no list of files, or is of a version that is not known")
+                  : tr("it does not name its format"));
+}
+
+void ReportReader::startAt(qint64 offset)
+{
+    m_file.seek(offset);
+    m_buffer.clear();
+    m_at = 0;
+    m_bufferStart = offset;
+    m_inFiles = true;
 }
 
 std::optional<ReportReader::Entry> ReportReader::next()

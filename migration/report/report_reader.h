@@ -39,6 +39,7 @@ private:
     [[nodiscard]] bool skipString();
     [[nodiscard]] std::optional<QByteArray> takeString();
     void findFiles();
+    void startAt(qint64 offset);
     void fail(const QString& why);
 
     QFile m_file;

@@ -3,6 +3,7 @@
 #include <Logger.h>
 
 #include <QFileInfo>
+#include <QHash>
 
 #include <memory>
 
@@ -10,7 +11,7 @@ namespace workbench {
 
 namespace {
 
-constexpr qsizetype kMaximumRecords = 1'000;
+constexpr int kMaximumRecordsOfSource = 1'000;
 
 } // namespace
 
@@ -18,6 +19,15 @@ class ImportLog::Appender final : public AbstractAppender
 {
 public:
     QList<LogRecord> records;
+    QStringList cutSources;
+    QHash<QString, int> recordsOfSource;
+
+    void clear()
+    {
+        records.clear();
+        cutSources.clear();
+        recordsOfSource.clear();
+    }
 
 protected:
     void append(const QDateTime& timeStamp, Logger::LogLevel level, const char* file, int line,
@@ -27,9 +37,13 @@ protected:
         Q_UNUSED(line)
         Q_UNUSED(function)
         Q_UNUSED(category)
-        if (records.size() < kMaximumRecords) {
-            const QString source = QFileInfo(QString::fromLocal8Bit(file)).fileName();
+        const QString source = QFileInfo(QString::fromLocal8Bit(file)).fileName();
+        int& count = recordsOfSource[source];
+        if (count < kMaximumRecordsOfSource) {
+            ++count;
             records.append({level >= Logger::Error, source, message});
+        } else if (!cutSources.contains(source)) {
+            cutSources.append(source);
         }
     }
 };
@@ -51,9 +65,14 @@ const QList<LogRecord>& ImportLog::records() const
     return m_appender->records;
 }
 
+const QStringList& ImportLog::cutSources() const
+{
+    return m_appender->cutSources;
+}
+
 void ImportLog::clear()
 {
-    m_appender->records.clear();
+    m_appender->clear();
 }
 
 } // namespace workbench

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace workbench {
 
@@ -18,7 +19,8 @@ struct LogRecord
 
 /// Collects what is logged for as long as it lives.
 ///
-/// A damaged file can fill a log: after a thousand records no more are kept.
+/// A damaged file can fill a log: after a thousand records of one source no more of it are
+/// kept, and cutSources() says so.
 class ImportLog
 {
 public:
@@ -28,6 +30,8 @@ public:
     ImportLog& operator=(const ImportLog&) = delete;
 
     [[nodiscard]] const QList<LogRecord>& records() const;
+    /// The sources that have written more than was kept.
+    [[nodiscard]] const QStringList& cutSources() const;
     void clear();
 
 private:

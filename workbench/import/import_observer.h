@@ -26,6 +26,7 @@ public:
     void clear();
 
     [[nodiscard]] const QList<LogRecord>& log() const { return m_log.records(); }
+    [[nodiscard]] const QStringList& cutSources() const { return m_log.cutSources(); }
     [[nodiscard]] const QStringList& messages() const { return m_messages; }
 
     /// The issues of an import that returned true.

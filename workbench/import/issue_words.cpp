@@ -4,10 +4,13 @@
 #include "workbench/canvas/canvas.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 
-#include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace workbench {
 
@@ -37,14 +40,32 @@ constexpr std::array kRows{
                           "read from there on.")},
 };
 
+struct Pattern
+{
+    QRegularExpression expression;
+    const char* words;
+};
+
+const std::vector<Pattern>& patterns()
+{
+    static const std::vector<Pattern> made = [] {
+        std::vector<Pattern> all;
+        for (const Row& row : kRows) {
+            all.push_back({QRegularExpression(QString::fromLatin1(row.pattern),
+                                              QRegularExpression::DotMatchesEverythingOption),
+                           row.words});
+        }
+        return all;
+    }();
+    return made;
+}
+
 QString wordsFor(const LogRecord& record)
 {
-    for (const Row& row : kRows) {
-        const QRegularExpression pattern(QString::fromLatin1(row.pattern),
-                                         QRegularExpression::DotMatchesEverythingOption);
-        const QRegularExpressionMatch match = pattern.match(record.message);
+    for (const Pattern& pattern : patterns()) {
+        const QRegularExpressionMatch match = pattern.expression.match(record.message);
         if (match.hasMatch()) {
-            return QCoreApplication::translate("workbench::IssueWords", row.words)
+            return QCoreApplication::translate("workbench::IssueWords", pattern.words)
                 .replace(QStringLiteral("%1"), match.captured(1));
         }
     }
@@ -58,8 +79,18 @@ QStringList linesOf(const QString& message)
     return message.split(lineEnd, Qt::SkipEmptyParts);
 }
 
-// A note on a text begins with the text in quotation marks, its white space made one.
-int itemNamedBy(const QString& line, const Canvas& canvas)
+/// Finds the texts that notes are about.
+class TextFinder
+{
+public:
+    explicit TextFinder(const Canvas& canvas);
+    [[nodiscard]] int itemNamedBy(const QString& note) const;
+
+private:
+    QHash<QString, int> m_items;
+};
+
+TextFinder::TextFinder(const Canvas& canvas)
 {
     const QList<CanvasItem*>& items = canvas.items();
     for (qsizetype index = 0; index < items.size(); ++index) {
@@ -69,22 +100,56 @@ int itemNamedBy(const QString& line, const Canvas& canvas)
         }
         QString quoted = text->text;
         quoted.replace(WhiteSpace::getWhiteSpacesSplitRegex(), QStringLiteral(" "));
-        if (line.startsWith(QLatin1Char('"') + quoted + QLatin1Char('"'))) {
-            return static_cast<int>(index);
+        if (!m_items.contains(quoted)) {
+            m_items.insert(quoted, static_cast<int>(index));
         }
     }
-    return -1;
 }
 
-void add(QList<ImportIssue>& issues, const QString& text, int item)
+// A note on a text begins with the text in quotation marks, its white space made one.
+int TextFinder::itemNamedBy(const QString& note) const
 {
-    const auto same = std::find_if(issues.begin(), issues.end(), [&](const ImportIssue& issue) {
-        return issue.item == item && issue.text == text;
-    });
-    if (same == issues.end()) {
-        issues.append({text, item, 1});
+    const qsizetype end = note.lastIndexOf(QLatin1Char('"'));
+    return m_items.value(note.mid(1, end - 1), -1);
+}
+
+/// Issues, each once.
+class IssueList
+{
+public:
+    void add(const QString& text, int item, int repeats = 1);
+    [[nodiscard]] const QList<ImportIssue>& issues() const { return m_issues; }
+
+private:
+    QList<ImportIssue> m_issues;
+    QHash<std::pair<int, QString>, qsizetype> m_places;
+};
+
+void IssueList::add(const QString& text, int item, int repeats)
+{
+    const auto place = m_places.constFind({item, text});
+    if (place == m_places.constEnd()) {
+        m_places.insert({item, text}, m_issues.size());
+        m_issues.append({text, item, repeats});
     } else {
-        ++same->repeats;
+        m_issues[*place].repeats += repeats;
+    }
+}
+
+void addMessages(const QStringList& messages, const Canvas& canvas, IssueList& issues)
+{
+    std::optional<TextFinder> finder;
+    for (const QString& message : messages) {
+        for (const QString& line : linesOf(message)) {
+            if (!line.startsWith(QLatin1Char('"'))) {
+                issues.add(line, -1);
+                continue;
+            }
+            if (!finder) {
+                finder.emplace(canvas);
+            }
+            issues.add(line, finder->itemNamedBy(line));
+        }
     }
 }
 
@@ -93,26 +158,21 @@ void add(QList<ImportIssue>& issues, const QString& text, int item)
 QList<ImportIssue> collectIssues(const Canvas& canvas, const QList<LogRecord>& records,
                                  const QStringList& messages)
 {
-    QList<ImportIssue> issues;
-    for (const QString& message : messages) {
-        for (const QString& line : linesOf(message)) {
-            const bool isNote = line.startsWith(QLatin1Char('"'));
-            add(issues, line, isNote ? itemNamedBy(line, canvas) : -1);
-        }
-    }
+    IssueList issues;
+    addMessages(messages, canvas, issues);
     for (const LogRecord& record : records) {
         const QString words = wordsFor(record);
         if (!words.isEmpty()) {
-            add(issues, words, -1);
+            issues.add(words, -1);
         }
     }
     for (qsizetype index = 0; index < canvas.items().size(); ++index) {
         const QString problem = canvas.items().at(index)->issue();
         if (!problem.isEmpty()) {
-            add(issues, problem, static_cast<int>(index));
+            issues.add(problem, static_cast<int>(index));
         }
     }
-    return issues;
+    return issues.issues();
 }
 
 } // namespace workbench

@@ -53,6 +53,7 @@ ImportResult importReadableFile(const QString& fileName, ReaderKind reader)
     const ImportObserver observer(importer);
     const bool imported = readBy(importer, fileName, reader);
     result.log = observer.log();
+    result.cutSources = observer.cutSources();
     if (!imported) {
         const bool isNamed = reader == readerForFile(fileName);
         const QString misnamed = isNamed ? howNameMisleads(fileName) : QString();

@@ -9,6 +9,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -29,6 +30,8 @@ struct ImportResult
     bool isOutOfMemory = false;
     /// What was logged, for developers.
     QList<LogRecord> log;
+    /// The sources whose records are not all in the log, because there were too many.
+    QStringList cutSources;
 
     [[nodiscard]] bool isImported() const { return canvas != nullptr; }
 };

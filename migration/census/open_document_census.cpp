@@ -1,0 +1,305 @@
+// The objects of an OpenDocument package: those of its body, and those of its styles' master
+// page, which lies behind the page.
+
+#include "migration/census/census.h"
+#include "migration/census/open_document_names.h"
+#include "migration/census/open_document_styles.h"
+#include "migration/census/open_document_walker.h"
+#include "migration/census/xml_gate.h"
+#include "migration/census/zip_member.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <optional>
+
+namespace migration {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// As much as the readers take.
+constexpr qint64 kStylesBytes = 16LL * 1024 * 1024;
+constexpr qint64 kContentBytes = 48LL * 1024 * 1024;
+
+constexpr std::array kUnits{"in"_L1, "cm"_L1, "mm"_L1, "pc"_L1};
+
+struct PageLayout
+{
+    QString name;
+    QString width;
+    QString height;
+};
+
+struct MasterPage
+{
+    QString name;
+    QString layout;
+    Census census;
+};
+
+/// What styles.xml says.
+struct Styles
+{
+    StyleBook book;
+    QList<PageLayout> layouts;
+    QList<MasterPage> masterPages;
+};
+
+// Names in attributes, turned as those of elements are.
+QXmlStreamAttributes renamed(const QXmlStreamAttributes& attributes, const NameTable& names)
+{
+    QXmlStreamAttributes result;
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        result.append(names.nameOf(attribute.qualifiedName()), attribute.value().toString());
+    }
+    return result;
+}
+
+/// Whoever listens to a document.
+struct Listener
+{
+    std::function<void(const QString& name, const QXmlStreamAttributes& attributes)> open;
+    std::function<void(QStringView characters)> text;
+    std::function<void()> divide;
+    std::function<void()> close;
+};
+
+// Empty, or why the document ended early.
+QString read(const QByteArray& xml, const Census& census, const Listener& listener)
+{
+    NameTable names;
+    QXmlStreamReader reader(xml);
+    reader.setNamespaceProcessing(false);
+    while (!reader.atEnd() && census.objects.size() < kMaximumObjects) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            names.learn(reader.attributes());
+            listener.open(names.nameOf(reader.qualifiedName()),
+                          renamed(reader.attributes(), names));
+            break;
+        case QXmlStreamReader::Characters:
+            listener.text(reader.text());
+            break;
+        case QXmlStreamReader::Comment:
+        case QXmlStreamReader::ProcessingInstruction:
+            listener.divide();
+            break;
+        case QXmlStreamReader::EndElement:
+            listener.close();
+            break;
+        default:
+            break;
+        }
+    }
+    return reader.hasError() ? notWellFormed(reader.errorString()) : QString();
+}
+
+bool isHeaderOrFooter(const QString& name)
+{
+    return name.startsWith("style:header"_L1) || name.startsWith("style:footer"_L1);
+}
+
+/// Reads the styles document: styles, page layouts, and what lies on its master pages.
+class StylesReader
+{
+public:
+    explicit StylesReader(Styles& styles)
+        : m_styles(styles)
+    {}
+
+    void open(const QString& name, const QXmlStreamAttributes& attributes);
+    void text(QStringView characters);
+    void close();
+
+private:
+    void openOutside(const QString& name, const QXmlStreamAttributes& attributes);
+    void openOnMasterPage(const QString& name, const QXmlStreamAttributes& attributes);
+
+    Styles& m_styles;
+    int m_depth = 0;
+    int m_masterDepth = 0; // 0 outside master pages
+    int m_walkDepth = 0;   // 0 where nothing is counted
+    int m_skipDepth = 0;   // 0 where nothing is passed over
+    std::optional<OpenDocumentWalker> m_walker;
+};
+
+void StylesReader::open(const QString& name, const QXmlStreamAttributes& attributes)
+{
+    ++m_depth;
+    if (m_masterDepth == 0) {
+        openOutside(name, attributes);
+    } else if (m_skipDepth == 0) {
+        openOnMasterPage(name, attributes);
+    }
+}
+
+void StylesReader::openOutside(const QString& name, const QXmlStreamAttributes& attributes)
+{
+    m_styles.book.take(name, attributes);
+    if (name == "style:page-layout"_L1) {
+        m_styles.layouts.append({attributes.value("style:name"_L1).toString(), {}, {}});
+    } else if (name == "style:page-layout-properties"_L1 && !m_styles.layouts.isEmpty()) {
+        m_styles.layouts.last().width = attributes.value("fo:page-width"_L1).toString();
+        m_styles.layouts.last().height = attributes.value("fo:page-height"_L1).toString();
+    } else if (name == "style:master-page"_L1) {
+        m_masterDepth = m_depth;
+        m_styles.masterPages.append({attributes.value("style:name"_L1).toString(),
+                                     attributes.value("style:page-layout-name"_L1).toString(),
+                                     {}});
+    }
+}
+
+void StylesReader::openOnMasterPage(const QString& name, const QXmlStreamAttributes& attributes)
+{
+    if (attributes.value("presentation:placeholder"_L1) == "true"_L1) {
+        m_skipDepth = m_depth; // not printed
+        return;
+    }
+    if (m_walkDepth == 0) {
+        m_walkDepth = m_depth;
+        m_walker.emplace(m_styles.masterPages.last().census, m_styles.book, QString());
+        m_walker->startLost(isHeaderOrFooter(name) ? LossKind::HeaderOrFooter
+                                                   : LossKind::MasterPageObject);
+    }
+    m_walker->open(name, attributes);
+}
+
+void StylesReader::text(QStringView characters)
+{
+    if (m_walkDepth != 0 && m_skipDepth == 0) {
+        m_walker->text(characters);
+    }
+}
+
+void StylesReader::close()
+{
+    if (m_walkDepth != 0 && m_skipDepth == 0) {
+        m_walker->close();
+    }
+    m_skipDepth = m_depth == m_skipDepth ? 0 : m_skipDepth;
+    m_walkDepth = m_depth == m_walkDepth ? 0 : m_walkDepth;
+    m_masterDepth = m_depth == m_masterDepth ? 0 : m_masterDepth;
+    --m_depth;
+}
+
+QString readStyles(const QByteArray& xml, Styles& styles)
+{
+    StylesReader reader(styles);
+    return read(
+        xml, Census(),
+        {.open = [&](const QString& name,
+                     const QXmlStreamAttributes& attributes) { reader.open(name, attributes); },
+         .text = [&](QStringView characters) { reader.text(characters); },
+         .divide = [] {},
+         .close = [&] { reader.close(); }});
+}
+
+QString unitOf(const Styles& styles)
+{
+    return styles.layouts.isEmpty() ? QString() : styles.layouts.first().width.right(2);
+}
+
+QString readContent(const QByteArray& xml, Styles& styles, Census& census, QString& masterPage)
+{
+    OpenDocumentWalker walker(census, styles.book, unitOf(styles));
+    const QString error =
+        read(xml, census,
+             {.open =
+                  [&](const QString& name, const QXmlStreamAttributes& attributes) {
+                      styles.book.take(name, attributes);
+                      walker.open(name, attributes);
+                  },
+              .text = [&](QStringView characters) { walker.text(characters); },
+              .divide = [&] { walker.divide(); },
+              .close = [&] { walker.close(); }});
+    masterPage = walker.masterPage();
+    return error;
+}
+
+// Texts begin with the master page of this name, unless their first paragraph says another.
+const MasterPage* usedMasterPage(const Styles& styles, const QString& name)
+{
+    const QString wanted = name.isEmpty() ? u"Standard"_s : name;
+    for (const MasterPage& page : styles.masterPages) {
+        if (page.name == wanted) {
+            return &page;
+        }
+    }
+    return styles.masterPages.isEmpty() ? nullptr : &styles.masterPages.first();
+}
+
+void addMasterPage(const MasterPage& page, Census& census)
+{
+    census.objects.append(page.census.objects);
+    for (const auto& [kind, tally] : page.census.tallies) {
+        census.note(kind, tally.count);
+        for (const QString& detail : tally.details) {
+            census.detail(kind, detail);
+        }
+    }
+}
+
+// The page is the first that the styles describe, which need not be the one that is used.
+void notePageSize(const Styles& styles, const MasterPage* used, Census& census)
+{
+    const PageLayout first = styles.layouts.value(0);
+    if (first.width.isEmpty()) {
+        return census.note(LossKind::PageSizeAssumed);
+    }
+    const QString unit = first.width.right(2);
+    if (unit == "mm"_L1) {
+        census.note(LossKind::MillimetresEnlarged);
+    } else if (std::find(kUnits.begin(), kUnits.end(), unit) == kUnits.end()) {
+        census.note(LossKind::UnitUnknown, 1, unit);
+    }
+    for (const PageLayout& layout : styles.layouts) {
+        const bool isUsed = used != nullptr && layout.name == used->layout;
+        if (isUsed && (layout.width != first.width || layout.height != first.height)) {
+            census.note(LossKind::PageSizeAssumed, 1, layout.width + u" × "_s + layout.height);
+        }
+    }
+}
+
+QString missing(const char* name)
+{
+    return QCoreApplication::translate("migration::Census", "The package has no readable part %1.")
+        .arg(QString::fromLatin1(name));
+}
+
+} // namespace
+
+Census countOpenDocument(const QByteArray& file)
+{
+    Census census;
+    const auto stylesXml = zipMember(file, "styles.xml", kStylesBytes);
+    const auto contentXml = zipMember(file, "content.xml", kContentBytes);
+    if (!stylesXml || !contentXml) {
+        census.unknown = missing(!stylesXml ? "styles.xml" : "content.xml");
+        return census;
+    }
+    for (const QByteArray& xml : {*stylesXml, *contentXml}) {
+        census.unknown = census.unknown.isEmpty() ? whyNotCountable(xml) : census.unknown;
+    }
+    if (!census.unknown.isEmpty()) {
+        return census;
+    }
+    Styles styles;
+    QString masterPage;
+    census.unknown = readStyles(*stylesXml, styles);
+    const QString error = readContent(*contentXml, styles, census, masterPage);
+    census.unknown = census.unknown.isEmpty() ? error : census.unknown;
+    const MasterPage* used = usedMasterPage(styles, masterPage);
+    if (used != nullptr) {
+        addMasterPage(*used, census);
+    }
+    notePageSize(styles, used, census);
+    return census;
+}
+
+} // namespace migration

@@ -1,0 +1,226 @@
+#include "migration/census/open_document_styles.h"
+
+#include <algorithm>
+#include <array>
+
+namespace migration {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+enum class Test : quint8 {
+    IsNot,     ///< every value but this one
+    Is,        ///< this value alone
+    IsNonZero, ///< a length other than 0
+    IsOpacity, ///< neither all nor nothing
+    IsClip,    ///< a rectangle that cuts something off
+};
+
+enum class Target : quint8 { Text, Shape, ShapeText };
+
+// A property that a label does not show, and the values that ask for it.
+struct Property
+{
+    QLatin1String group; ///< "text", "paragraph" or "graphic"
+    QLatin1String name;
+    Test test;
+    QLatin1String value;
+    LossKind kind;
+    Target target = Target::Text;
+};
+
+constexpr auto kFormat = LossKind::TextFormat;
+constexpr auto kEffect = LossKind::EffectDropped;
+constexpr auto kFill = LossKind::FillSimplified;
+
+// clang-format off
+constexpr std::array kProperties{
+    Property{"text"_L1, "fo:color"_L1, Test::IsNot, "#000000"_L1, LossKind::TextColour},
+    Property{"text"_L1, "style:text-position"_L1, Test::IsNot, "0% 100%"_L1, kFormat},
+    Property{"text"_L1, "style:text-line-through-style"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"text"_L1, "style:text-line-through-type"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"text"_L1, "style:text-outline"_L1, Test::Is, "true"_L1, kFormat},
+    Property{"text"_L1, "fo:text-shadow"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"text"_L1, "fo:font-variant"_L1, Test::IsNot, "normal"_L1, kFormat},
+    Property{"text"_L1, "fo:text-transform"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"text"_L1, "fo:letter-spacing"_L1, Test::IsNonZero, {}, kFormat},
+    Property{"text"_L1, "style:text-scale"_L1, Test::IsNot, "100%"_L1, kFormat},
+    Property{"text"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, kFormat},
+    Property{"text"_L1, "style:font-relief"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"text"_L1, "style:text-rotation-angle"_L1, Test::IsNonZero, {}, kFormat},
+    Property{"paragraph"_L1, "fo:margin-top"_L1, Test::IsNonZero, {}, kFormat},
+    Property{"paragraph"_L1, "fo:margin-bottom"_L1, Test::IsNonZero, {}, kFormat},
+    Property{"paragraph"_L1, "fo:text-indent"_L1, Test::IsNonZero, {}, kFormat},
+    Property{"paragraph"_L1, "fo:line-height"_L1, Test::IsNot, "100%"_L1, kFormat},
+    Property{"paragraph"_L1, "fo:text-align"_L1, Test::Is, "justify"_L1, kFormat},
+    Property{"paragraph"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, kFormat},
+    Property{"paragraph"_L1, "fo:border"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsNot, "none"_L1, kFormat},
+    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "gradient"_L1, kFill, Target::Shape},
+    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "hatch"_L1, kFill, Target::Shape},
+    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "bitmap"_L1, kFill, Target::Shape},
+    Property{"graphic"_L1, "draw:opacity"_L1, Test::IsOpacity, {}, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:opacity-name"_L1, Test::IsNot, ""_L1, kEffect, Target::Shape},
+    Property{"graphic"_L1, "svg:stroke-opacity"_L1, Test::IsOpacity, {}, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:shadow"_L1, Test::Is, "visible"_L1, kEffect, Target::Shape},
+    Property{"graphic"_L1, "style:shadow"_L1, Test::IsNot, "none"_L1, kEffect, Target::Shape},
+    Property{"graphic"_L1, "fo:clip"_L1, Test::IsClip, {}, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:image-opacity"_L1, Test::IsOpacity, {}, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:color-mode"_L1, Test::IsNot, "standard"_L1, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:color-inversion"_L1, Test::Is, "true"_L1, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:luminance"_L1, Test::IsNonZero, {}, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:contrast"_L1, Test::IsNonZero, {}, kEffect, Target::Shape},
+    Property{"graphic"_L1, "draw:textarea-vertical-align"_L1, Test::Is, "middle"_L1, kFormat, Target::ShapeText},
+    Property{"graphic"_L1, "draw:textarea-vertical-align"_L1, Test::Is, "bottom"_L1, kFormat, Target::ShapeText},
+};
+// clang-format on
+static_assert(kProperties.size() <= 64);
+
+bool isNonZero(const QString& value)
+{
+    return std::any_of(value.begin(), value.end(), [](QChar c) { return c >= u'1' && c <= u'9'; });
+}
+
+bool asksForIt(const Property& property, const QString& value)
+{
+    switch (property.test) {
+    case Test::IsNot:
+        return value != property.value;
+    case Test::Is:
+        return value == property.value;
+    case Test::IsOpacity:
+        return value != "100%"_L1 && value != "0%"_L1 && value != "1"_L1;
+    case Test::IsNonZero:
+    case Test::IsClip:
+        break;
+    }
+    return isNonZero(value);
+}
+
+LossSet changesOf(quint64 dropped, Target target)
+{
+    LossSet changes;
+    for (std::size_t row = 0; row < kProperties.size(); ++row) {
+        if ((dropped >> row & 1) != 0 && kProperties[row].target == target) {
+            changes.add(kProperties[row].kind);
+        }
+    }
+    return changes;
+}
+
+QString valueOf(const QXmlStreamAttributes& attributes, QLatin1String name)
+{
+    return attributes.value(name).toString();
+}
+
+bool isTextFamily(const QString& family)
+{
+    return family == "paragraph"_L1 || family == "text"_L1;
+}
+
+} // namespace
+
+void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes)
+{
+    if (name == "style:style"_L1 || name == "style:default-style"_L1) {
+        startStyle(attributes, name == "style:default-style"_L1);
+    } else if (name == "style:text-properties"_L1) {
+        takeProperties(u"text"_s, attributes);
+    } else if (name == "style:paragraph-properties"_L1) {
+        takeProperties(u"paragraph"_s, attributes);
+    } else if (name == "style:graphic-properties"_L1) {
+        takeProperties(u"graphic"_s, attributes);
+    }
+}
+
+void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefault)
+{
+    const QString family = valueOf(attributes, "style:family"_L1);
+    const QString name = valueOf(attributes, "style:name"_L1);
+    const QString parent = valueOf(attributes, "style:parent-style-name"_L1);
+    if (isTextFamily(family)) {
+        // A parent that comes later is none.
+        m_current = isDefault ? (family == "paragraph"_L1 ? &m_defaultText : &m_nowhere)
+                              : &*m_texts.insert(name, textStyle(parent));
+    } else if (family == "graphic"_L1) {
+        m_current = isDefault ? &m_defaultShape : &*m_shapes.insert(name, shapeStyle(parent));
+    } else {
+        m_current = &m_nowhere;
+    }
+}
+
+StyleBook::Style& StyleBook::current()
+{
+    return m_current != nullptr ? *m_current : m_nowhere;
+}
+
+void StyleBook::takeProperties(const QString& group, const QXmlStreamAttributes& attributes)
+{
+    Style& style = current();
+    for (std::size_t row = 0; row < kProperties.size(); ++row) {
+        const Property& property = kProperties[row];
+        if (property.group != group || !attributes.hasAttribute(property.name)) {
+            continue;
+        }
+        const quint64 bit = quint64(1) << row;
+        const bool dropped = asksForIt(property, valueOf(attributes, property.name));
+        style.dropped = dropped ? style.dropped | bit : style.dropped & ~bit;
+    }
+    if (group != "text"_L1) {
+        return;
+    }
+    style.isSized = style.isSized || attributes.hasAttribute("fo:font-size"_L1);
+    if (attributes.hasAttribute("style:font-name"_L1)) {
+        style.font = valueOf(attributes, "style:font-name"_L1);
+    }
+}
+
+const StyleBook::Style& StyleBook::textStyle(const QString& name) const
+{
+    const auto found = m_texts.constFind(name);
+    return found != m_texts.constEnd() ? *found : m_defaultText;
+}
+
+const StyleBook::Style& StyleBook::shapeStyle(const QString& name) const
+{
+    const auto found = m_shapes.constFind(name);
+    return found != m_shapes.constEnd() ? *found : m_defaultShape;
+}
+
+LossSet StyleBook::textChanges(const QString& style) const
+{
+    return changesOf(textStyle(style).dropped, Target::Text);
+}
+
+QString StyleBook::fontOf(const QString& style) const
+{
+    return textStyle(style).font;
+}
+
+LossSet StyleBook::shapeChanges(const QString& style) const
+{
+    return changesOf(shapeStyle(style).dropped, Target::Shape);
+}
+
+LossSet StyleBook::shapeTextChanges(const QString& style) const
+{
+    LossSet changes = changesOf(shapeStyle(style).dropped, Target::ShapeText);
+    changes.add(changesOf(shapeStyle(style).dropped, Target::Text));
+    return changes;
+}
+
+bool StyleBook::sizesText(const QString& style) const
+{
+    return textStyle(style).isSized;
+}
+
+bool StyleBook::sizesShapeText(const QString& style) const
+{
+    return shapeStyle(style).isSized;
+}
+
+} // namespace migration

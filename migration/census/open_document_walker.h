@@ -1,0 +1,123 @@
+#pragma once
+
+#include "migration/census/census.h"
+#include "migration/census/open_document_names.h"
+#include "migration/census/open_document_styles.h"
+
+#include <QList>
+#include <QString>
+#include <QStringView>
+#include <QXmlStreamAttributes>
+
+#include <optional>
+#include <vector>
+
+namespace migration {
+
+/// Counts the objects in the body of an OpenDocument document, element by element.
+///
+/// A shape, a line and a picture is an object, and so is the text of a shape, whatever its
+/// length. A text frame is a box and a text. In the running text, each piece of one format
+/// is an object. Where nothing is read, such as in tables, each paragraph is one.
+class OpenDocumentWalker
+{
+public:
+    /// @param unit   the unit of the page, two letters
+    OpenDocumentWalker(Census& census, const StyleBook& styles, const QString& unit);
+
+    /// Starts in a place whose objects are all lost, for whoever walks over a part alone.
+    void startLost(LossKind kind);
+
+    void open(const QString& name, const QXmlStreamAttributes& attributes);
+    void text(QStringView characters);
+    /// A comment or an instruction, which divides a text.
+    void divide();
+    void close();
+
+    /// The master page of the first page; empty when that names none.
+    [[nodiscard]] const QString& masterPage() const { return m_masterPage; }
+
+private:
+    /// What an element stands for. Each has a function for its children.
+    enum class Spot : quint8 {
+        Outside,
+        Body,
+        RunningText,
+        Drawing,
+        Page,
+        Paragraph, ///< of the running text
+        Run,       ///< a piece of such a paragraph
+        Shape,
+        TextBox,
+        ShapeParagraph,
+        ShapeRun,
+        Line,
+        Frame,
+        Lost,
+        LostParagraph,
+        Ignored,
+    };
+
+    struct Place
+    {
+        Spot spot = Spot::Outside;
+        LossKind lost = LossKind::UnknownObject; ///< of Lost and LostParagraph
+        qsizetype object = -1;                   ///< index of the shape or frame
+        bool hasText = false;
+        bool hasParagraph = false;
+        bool isDecided = false; ///< a frame whose kind is known
+        LossSet textChanges = {};
+        QString style = {};
+    };
+
+    using Attributes = QXmlStreamAttributes;
+
+    void openInBody(const QString& name);
+    void openInRunningText(const QString& name, const Attributes& attributes);
+    void openInDrawing(const QString& name, const Attributes& attributes);
+    void openInPage(const QString& name, const Attributes& attributes);
+    void openInParagraph(const QString& name, const Attributes& attributes);
+    void openInRun(const QString& name, const Attributes& attributes);
+    void openInShape(const QString& name, const Attributes& attributes);
+    void openInShapeParagraph(const QString& name, const Attributes& attributes);
+    void openInShapeRun(const QString& name, const Attributes& attributes);
+    void openInFrame(const QString& name, const Attributes& attributes);
+    void openInLost(const QString& name);
+
+    void openParagraph(const Attributes& attributes);
+    void openRun(const QString& name, const Attributes& attributes);
+    void openDrawing(const DrawingElement& element, const QString& name,
+                     const Attributes& attributes);
+    void openFrame(const Attributes& attributes);
+    void openShapeParagraph(const Attributes& attributes);
+    void openLostPart(const QString& name, LossKind otherwise);
+    void openLost(LossKind kind, const QString& name);
+    void openIgnored(const QString& name);
+    void push(Spot spot);
+
+    void closeParagraph();
+    void closeShapeText(const Place& place);
+    void takeChunk();
+    void markText();
+
+    [[nodiscard]] LossSet changesOfShape(const QString& name, const Attributes& attributes);
+    void noteGeometry(const Attributes& attributes, LossSet& changes);
+    void noteField(const QString& name, const Attributes& attributes, LossSet& changes);
+    void noteFont(const QString& family, LossSet& changes);
+    [[nodiscard]] Place* nearestShape();
+    void addShapeText(LossSet changes);
+
+    Census& m_census;
+    const StyleBook& m_styles;
+    QString m_unit;
+    std::vector<Place> m_places;
+    QString m_masterPage;
+    int m_pages = 0;
+    /// Texts of the paragraph that is open: frames in it come before them.
+    QList<CountedObject> m_runs;
+    LossSet m_paragraphChanges;
+    LossSet m_runChanges;
+    bool m_chunkHasText = false;
+};
+
+} // namespace migration

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "migration/file_report.h"
+#include "migration/make_report.h"
+#include "workbench/import/label_import.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <functional>
+
+/// Small documents of all formats, and what is reported on them.
+
+/// What an OpenDocument package may hold beside its body.
+struct DocumentParts
+{
+    QByteArray pageLayout = "fo:page-width=\"4in\" fo:page-height=\"3in\"";
+    QByteArray automaticStyles = {}; ///< of content.xml
+    QByteArray commonStyles = {};    ///< of styles.xml
+    QByteArray masterPages = {};
+};
+
+/// A package with a body of any kind.
+[[nodiscard]] QByteArray packageOf(const QByteArray& body, const DocumentParts& parts = {});
+/// A drawing whose first page holds these elements.
+[[nodiscard]] QByteArray drawingOf(const QByteArray& shapes, const DocumentParts& parts = {});
+/// A text document of these elements.
+[[nodiscard]] QByteArray textOf(const QByteArray& elements, const DocumentParts& parts = {});
+/// An XML label with these controls, on a page of 400 by 300 pixels.
+[[nodiscard]] QByteArray controlsOf(const QByteArray& controls);
+
+/// A document with the name that its reader goes by.
+struct Document
+{
+    QString name;
+    QByteArray bytes;
+};
+
+[[nodiscard]] inline Document odg(const QByteArray& shapes, const DocumentParts& parts = {})
+{
+    return {QStringLiteral("drawing.odg"), drawingOf(shapes, parts)};
+}
+[[nodiscard]] inline Document odt(const QByteArray& elements, const DocumentParts& parts = {})
+{
+    return {QStringLiteral("text.odt"), textOf(elements, parts)};
+}
+[[nodiscard]] inline Document qmtx(const QByteArray& controls)
+{
+    return {QStringLiteral("label.qmtx"), controlsOf(controls)};
+}
+[[nodiscard]] inline Document cnv(const QByteArray& bytes)
+{
+    return {QStringLiteral("canvas.cnv"), bytes};
+}
+
+/// A rectangle of an inch on the page of a drawing, which comes over whole.
+extern const QByteArray kPlainRect;
+/// A text on the page of an XML label, which comes over whole.
+extern const QByteArray kPlainLabel;
+
+/// Changes what an import gave before it is reported on.
+using Tamper = std::function<void(workbench::ImportResult& result)>;
+
+/// Imports the document through the importer and the workbench, and reports on it.
+[[nodiscard]] migration::FileReport reportOn(const Document& document,
+                                             const Tamper& tamper = nullptr,
+                                             const migration::ReportOptions& options = {});
+
+/// Takes one item off the label, as a reader does that passes an object over.
+void dropItem(workbench::ImportResult& result, qsizetype index);
+
+/// The finding of a code in either list; null when it is in none.
+[[nodiscard]] const migration::Finding* findingOf(const migration::FileReport& report,
+                                                  const QString& code);
+/// All codes of a report, for messages of tests.
+[[nodiscard]] QString codesOf(const migration::FileReport& report);
+
+/// A picture of one color as PNG.
+[[nodiscard]] QByteArray pngOf(int width = 8, int height = 8);

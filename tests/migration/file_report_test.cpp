@@ -1,0 +1,140 @@
+#include "migration/file_report.h"
+
+#include "migration/losses/loss_kinds.h"
+#include "tests/migration/random_reports.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonDocument>
+
+using namespace migration;
+
+namespace {
+
+FileReport wholeReport()
+{
+    FileReport report;
+    report.file = QStringLiteral("a.cnv");
+    report.status = Status::Imported;
+    report.objectsInFile = 3;
+    report.objectsImported = 3;
+    return report;
+}
+
+Finding findingOfKind(LossKind kind)
+{
+    return {lossCode(kind), lossWords(kind), 2, true, {}};
+}
+
+FileReport throughText(const FileReport& report)
+{
+    const QByteArray text = QJsonDocument(toJson(report)).toJson();
+    return fileReportFromJson(QJsonDocument::fromJson(text).object()).value_or(FileReport());
+}
+
+} // namespace
+
+TEST(FileReport, ComesBackFromJsonAsItWas)
+{
+    std::mt19937 random(20261121);
+    for (int round = 0; round < 300; ++round) {
+        const FileReport report = randomReport(random);
+        EXPECT_EQ(throughText(report), report) << "round " << round;
+    }
+}
+
+TEST(FileReport, IsNotReadFromOtherObjects)
+{
+    EXPECT_FALSE(fileReportFromJson({}).has_value());
+    QJsonObject object = toJson(wholeReport());
+    object.insert(QStringLiteral("status"), QStringLiteral("glorious"));
+    EXPECT_FALSE(fileReportFromJson(object).has_value());
+    object = toJson(wholeReport());
+    object.remove(QStringLiteral("file"));
+    EXPECT_FALSE(fileReportFromJson(object).has_value());
+}
+
+TEST(FileReport, NumbersThatNoJsonHoldsDoNoHarm)
+{
+    QJsonObject object = toJson(wholeReport());
+    object.insert(QStringLiteral("bytes"), 1e300);
+    const auto report = fileReportFromJson(object);
+    ASSERT_TRUE(report.has_value());
+    EXPECT_EQ(report->bytes, 0);
+}
+
+TEST(FileReport, EveryStatusHasAName)
+{
+    for (const Status status : {Status::Imported, Status::Failed, Status::Crashed, Status::TimedOut,
+                                Status::OutOfMemory}) {
+        EXPECT_EQ(statusOfName(statusName(status)), status);
+    }
+    EXPECT_FALSE(statusOfName(QStringLiteral("fine")).has_value());
+}
+
+TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsWhole)
+{
+    EXPECT_TRUE(isWhole(wholeReport()));
+    EXPECT_FALSE(hasLoss(wholeReport()));
+    EXPECT_FALSE(isWhole(FileReport()));
+    FileReport uncounted = wholeReport();
+    uncounted.objectsInFile.reset();
+    EXPECT_FALSE(isWhole(uncounted)) << "nobody knows whether something is missing";
+}
+
+TEST(FileReport, HasALossForEveryKindThatHarmsTheContent)
+{
+    for (const LossRow& row : lossRows()) {
+        FileReport report = wholeReport();
+        (row.outcome == Outcome::Lost ? report.lost : report.changed)
+            .append(findingOfKind(row.kind));
+        EXPECT_EQ(hasLoss(report), row.harm == Harm::Content) << row.code;
+        EXPECT_FALSE(isWhole(report)) << row.code;
+    }
+}
+
+TEST(FileReport, HasALossForACodeOfANewerProgram)
+{
+    FileReport report = wholeReport();
+    report.changed.append({QStringLiteral("from-the-future"), {}, 1, false, {}});
+    EXPECT_TRUE(hasLoss(report));
+}
+
+TEST(FileReport, HasALossWheneverTheFileIsNotImported)
+{
+    for (const Status status :
+         {Status::Failed, Status::Crashed, Status::TimedOut, Status::OutOfMemory}) {
+        FileReport report = wholeReport();
+        report.status = status;
+        EXPECT_TRUE(hasLoss(report));
+    }
+}
+
+TEST(FileReport, SaysInWordsThatNothingWasLost)
+{
+    EXPECT_EQ(
+        summaryOf(wholeReport()),
+        QStringLiteral("3 of 3 objects came over. Nothing was lost and nothing was changed."));
+}
+
+TEST(FileReport, SaysHowManyObjectsCameOver)
+{
+    FileReport report = wholeReport();
+    report.objectsImported = 1;
+    report.lost.append(findingOfKind(LossKind::Table));
+    EXPECT_EQ(summaryOf(report), QStringLiteral("1 of 3 objects came over."));
+    EXPECT_EQ(objectsLost(report), 2);
+
+    report.objectsInFile.reset();
+    EXPECT_EQ(summaryOf(report),
+              QStringLiteral("1 objects came over; how many the file holds is not known."));
+    EXPECT_EQ(objectsLost(report), 0);
+}
+
+TEST(FileReport, TellsChangesFromLossesInWords)
+{
+    FileReport report = wholeReport();
+    report.changed.append(findingOfKind(LossKind::FontReplaced));
+    EXPECT_EQ(summaryOf(report), QStringLiteral("3 of 3 objects came over. Nothing was lost; "
+                                                "something was changed."));
+}

@@ -1,0 +1,84 @@
+#include "migration/inspect.h"
+
+#include "tests/migration/documents.h"
+
+#include <gtest/gtest.h>
+
+using namespace migration;
+
+namespace {
+
+FileReport sampleReport()
+{
+    FileReport report;
+    report.file = QStringLiteral("shelf.odg");
+    report.status = Status::Imported;
+    report.pageWidth = 50.8;
+    report.pageHeight = 25.4;
+    report.objectsInFile = 3;
+    report.objectsImported = 2;
+    report.itemList = {
+        {QStringLiteral("rounded-rectangle"), 1.0, 2.0, 30.5, 4.0, {}, -1},
+        {QStringLiteral("text"), 0.0, 0.0, 9.0, 3.0, QStringLiteral("Two\nlines"), 4}};
+    report.whole = {{QStringLiteral("text"), 1}};
+    report.lost = {{QStringLiteral("table"),
+                    QStringLiteral("Tables were left out."),
+                    2,
+                    true,
+                    {QStringLiteral("A"), QStringLiteral("B")}}};
+    report.datasources = {{4, QStringLiteral("SequenceDatasource"), {QStringLiteral("Value")}, {}}};
+    report.issues = {{QStringLiteral("Something."), -1, 3}};
+    return report;
+}
+
+} // namespace
+
+TEST(Inspect, DescribesALabelOnOneScreen)
+{
+    EXPECT_EQ(describeForPeople(sampleReport()).toStdString(),
+              "shelf.odg\n"
+              "  2 of 3 objects came over.\n"
+              "  Page: 50.8 × 25.4 mm\n"
+              "Items (millimetres):\n"
+              "  # kind                x   y width height source content\n"
+              "  1 rounded rectangle 1.0 2.0  30.5    4.0 -\n"
+              "  2 text              0.0 0.0   9.0    3.0 4      Two lines\n"
+              "Data sources:\n"
+              "  4: SequenceDatasource (Value)\n"
+              "Came over whole:\n"
+              "  1 × text\n"
+              "Did not come over:\n"
+              "  table (×2): Tables were left out. [A, B]\n"
+              "What the import said:\n"
+              "  Something. (×3)\n");
+}
+
+TEST(Inspect, SaysWhyAFileWasNotImported)
+{
+    FileReport report;
+    report.file = QStringLiteral("old.cnv");
+    report.error = QStringLiteral("The file is empty.");
+    EXPECT_EQ(describeForPeople(report).toStdString(),
+              "old.cnv\n  Not imported: The file is empty.\n");
+}
+
+TEST(Inspect, NothingFromAFileMovesTheCursor)
+{
+    FileReport report = sampleReport();
+    report.itemList[0].content = QStringLiteral("\x1b[2J\x07");
+    report.issues[0].text = QStringLiteral("\x1b]0;title\x07");
+    EXPECT_FALSE(describeForPeople(report).contains(QChar(0x1b)));
+    EXPECT_FALSE(describeForPeople(report).contains(QChar(0x07)));
+}
+
+TEST(Inspect, ListsEveryItemOfALabel)
+{
+    const FileReport report = reportOn(qmtx(kPlainLabel), nullptr, {.itemList = true});
+    ASSERT_EQ(report.itemList.size(), 1);
+    const ItemReport& item = report.itemList.constFirst();
+    EXPECT_EQ(item.kind, QStringLiteral("rich-text"));
+    EXPECT_EQ(item.content, QStringLiteral("Plain"));
+    EXPECT_NEAR(item.x, 15.0 / 72.0 * 25.4, 0.001);
+    EXPECT_NEAR(item.width, 75.0 / 72.0 * 25.4, 0.001);
+    EXPECT_TRUE(reportOn(qmtx(kPlainLabel)).itemList.isEmpty());
+}

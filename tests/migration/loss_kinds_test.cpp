@@ -1,0 +1,43 @@
+#include "migration/losses/loss_kinds.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+
+using namespace migration;
+
+TEST(LossKinds, CodesAreStableNamesInKebabCase)
+{
+    static const QRegularExpression kebab(QStringLiteral("^[a-z]+(-[a-z]+)*$"));
+    QSet<QString> codes;
+    for (const LossRow& row : lossRows()) {
+        EXPECT_TRUE(kebab.match(lossCode(row.kind)).hasMatch()) << row.code;
+        EXPECT_FALSE(codes.contains(lossCode(row.kind))) << row.code;
+        codes.insert(lossCode(row.kind));
+    }
+}
+
+TEST(LossKinds, EachIsFoundByItsCodeAndHasWords)
+{
+    for (const LossRow& row : lossRows()) {
+        EXPECT_EQ(lossRowOf(lossCode(row.kind)), &row);
+        EXPECT_FALSE(lossWords(row.kind).isEmpty()) << row.code;
+        EXPECT_FALSE(lossAdvice(row.kind).isEmpty()) << row.code;
+    }
+    EXPECT_EQ(lossRowOf(QStringLiteral("no-such-code")), nullptr);
+}
+
+TEST(LossKinds, AreAllInTheManual)
+{
+    QFile manual(QStringLiteral(LABELPORT_SOURCE_DIR "/docs/migration-report.md"));
+    ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(manual.readAll());
+    for (const LossRow& row : lossRows()) {
+        const QString harm =
+            row.harm == Harm::Content ? QStringLiteral("yes") : QStringLiteral("no");
+        const QString line = QStringLiteral("| `%1` | %2 |").arg(lossCode(row.kind), harm);
+        EXPECT_TRUE(text.contains(line)) << line.toStdString();
+    }
+}

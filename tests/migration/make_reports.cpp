@@ -1,0 +1,80 @@
+// Writes reports on labels into a folder, for tests that look at them with other programs:
+//   make_reports FOLDER FILE...
+// The reports hold the files, and one made-up entry for every other end that a file can come to.
+
+#include "migration/inspect.h"
+#include "migration/make_report.h"
+#include "migration/report_writer.h"
+#include "workbench/document/label_file.h"
+#include "workbench/import/label_import.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
+
+using namespace migration;
+
+namespace {
+
+workbench::ImportResult opened(const QString& fileName)
+{
+    workbench::ImportResult result;
+    result.canvas = std::make_unique<workbench::Canvas>();
+    result.datasources = std::make_unique<workbench::datasources::DatasourceController>();
+    result.error = workbench::document::openLabel(fileName, *result.canvas, *result.datasources);
+    if (!result.error.isEmpty()) {
+        result.canvas.reset();
+    }
+    return result;
+}
+
+FileReport reportOn(const QString& fileName)
+{
+    const QString name = QFileInfo(fileName).fileName();
+    const ReportOptions options{.itemList = qEnvironmentVariableIsSet("MAKE_REPORTS_ITEMS")};
+    if (fileName.endsWith(QLatin1String(".label"))) {
+        return makeSavedLabelReport(fileName, name, opened(fileName), options);
+    }
+    return makeFileReport(fileName, name, readerForFile(fileName), workbench::importLabel(fileName),
+                          options);
+}
+
+FileReport ended(Status status, const QString& name)
+{
+    FileReport report;
+    report.file = name;
+    report.status = status;
+    report.error = QStringLiteral("It ended as \"%1\" </script> & so on.").arg(statusName(status));
+    report.reader = QStringLiteral("tavrel");
+    return report;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const QDir folder(arguments.value(1));
+    QList<FileReport> reports;
+    for (const QString& fileName : arguments.mid(2)) {
+        reports.append(reportOn(fileName));
+        QTextStream(stdout) << describeForPeople(reports.constLast()) << '\n';
+    }
+    reports.append(ended(Status::Crashed, QStringLiteral("crashed <b>.cnv")));
+    reports.append(ended(Status::TimedOut, QStringLiteral("slow.odg")));
+    reports.append(ended(Status::OutOfMemory, QStringLiteral("large.qmtx")));
+    for (const char* name : {"report.json", "report.html"}) {
+        ReportWriter writer(folder.filePath(QString::fromLatin1(name)));
+        for (const FileReport& report : reports) {
+            writer.add(report);
+        }
+        const QString error = writer.finish();
+        if (!error.isEmpty()) {
+            QTextStream(stderr) << error << '\n';
+            return 1;
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,209 @@
+// The counts of OpenDocument packages.
+
+#include "migration/census/census.h"
+#include "migration/census/zip_member.h"
+#include "tests/migration/documents.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+using namespace migration;
+
+namespace {
+
+struct Counted
+{
+    const char* what;
+    QByteArray package;
+    qint64 kept;
+    qint64 lost;
+};
+
+qint64 lostOf(const Census& census)
+{
+    return std::count_if(census.objects.begin(), census.objects.end(),
+                         [](const CountedObject& object) { return object.lost.has_value(); });
+}
+
+bool changes(const Census& census, LossKind kind)
+{
+    return std::any_of(census.objects.begin(), census.objects.end(),
+                       [kind](const CountedObject& object) { return object.changes.has(kind); });
+}
+
+QByteArray styleOf(const QByteArray& name, const QByteArray& family, const QByteArray& properties,
+                   const QByteArray& parent = {})
+{
+    return "<style:style style:name=\"" + name + "\" style:family=\"" + family +
+           "\" style:parent-style-name=\"" + parent + "\">" + properties + "</style:style>";
+}
+
+} // namespace
+
+TEST(OpenDocumentCensus, CountsObjectsAsALabelDesignerDoes)
+{
+    const QList<Counted> rows = {
+        {"a shape", drawingOf("<draw:rect/>"), 1, 0},
+        {"a shape with a text",
+         drawingOf("<draw:rect><text:p>A</text:p><text:p>B</text:p></draw:rect>"), 2, 0},
+        {"a shape with blanks", drawingOf("<draw:rect><text:p>  </text:p></draw:rect>"), 1, 0},
+        {"a text frame: box and text",
+         drawingOf("<draw:frame><draw:text-box><text:p>A</text:p></draw:text-box></draw:frame>"), 2,
+         0},
+        {"a picture and its stand-in",
+         drawingOf("<draw:frame><draw:image xlink:href=\"a.svg\"/><draw:image "
+                   "xlink:href=\"a.png\"/></draw:frame>"),
+         1, 0},
+        {"a titled picture",
+         drawingOf("<draw:frame><svg:title>T</svg:title><draw:image/></draw:frame>"), 1, 0},
+        {"an empty frame", drawingOf("<draw:frame/>"), 1, 0},
+        {"a line with a text", drawingOf("<draw:line><text:p>A</text:p></draw:line>"), 1, 1},
+        {"pieces of a paragraph", textOf("<text:p>A<text:span>B</text:span>C</text:p>"), 3, 0},
+        {"a comment of the file divides", textOf("<text:p>A<!-- x -->B</text:p>"), 2, 0},
+        {"spans in spans are one piece",
+         textOf("<text:p><text:span>A<text:span>B</text:span></text:span></text:p>"), 1, 0},
+        {"blank pieces are none", textOf("<text:p>A<text:span> </text:span></text:p><text:p/>"), 1,
+         0},
+        {"forms, declarations and deleted texts are not seen",
+         textOf("<office:forms><form:form/></office:forms><text:tracked-changes><text:p>gone</"
+                "text:p></text:tracked-changes><text:sequence-decls/><text:p>A</text:p>"),
+         1, 0},
+        {"marks are not seen", textOf("<text:p>A<text:bookmark/><text:soft-page-break/></text:p>"),
+         2 - 1, 0},
+        {"a list in a table",
+         textOf("<table:table><table:table-row><table:table-cell><text:list><text:list-item><text:"
+                "p>A</text:p></text:list-item></text:list></table:table-cell></table:table-row></"
+                "table:table>"),
+         0, 1},
+        {"a frame in a table",
+         textOf("<table:table><table:table-cell><text:p>A<draw:frame><draw:text-box><text:p>B</"
+                "text:p></draw:text-box></draw:frame></text:p></table:table-cell></table:table>"),
+         0, 3},
+        {"a date in a shape's paragraph",
+         drawingOf("<draw:rect><text:p>On <text:date>1 May</text:date></text:p></draw:rect>"), 2,
+         1},
+        {"a list in a text box",
+         drawingOf("<draw:frame><draw:text-box><text:list><text:list-item><text:p>A</text:p></"
+                   "text:list-item></text:list></draw:text-box></draw:frame>"),
+         1, 1},
+        {"a table in a frame",
+         drawingOf("<draw:frame><table:table><table:table-cell><text:p>A</text:p></"
+                   "table:table-cell></table:table></draw:frame>"),
+         1, 1},
+        {"a group of texts",
+         drawingOf("<draw:g><draw:rect><text:p>A</text:p></draw:rect></draw:g>"), 0, 2},
+    };
+    for (const Counted& row : rows) {
+        SCOPED_TRACE(row.what);
+        const Census census = countOpenDocument(row.package);
+        EXPECT_TRUE(census.unknown.isEmpty()) << census.unknown.toStdString();
+        EXPECT_EQ(census.objects.size() - lostOf(census), row.kept);
+        EXPECT_EQ(lostOf(census), row.lost);
+    }
+}
+
+TEST(OpenDocumentCensus, FramesOfAParagraphComeBeforeItsTexts)
+{
+    const Census census =
+        countOpenDocument(textOf("<text:p>A<draw:frame><draw:image/></draw:frame>B</text:p>"));
+    ASSERT_EQ(census.objects.size(), 3);
+    EXPECT_EQ(census.objects.constFirst().objectClass, ObjectClass::Picture);
+}
+
+TEST(OpenDocumentCensus, OnlyTheMasterPageOfTheFirstPageCounts)
+{
+    const QByteArray pages =
+        "<style:master-page style:name=\"X\"><draw:rect/><draw:rect/></style:master-page>"
+        "<style:master-page style:name=\"M\"><draw:rect/></style:master-page>";
+    EXPECT_EQ(lostOf(countOpenDocument(drawingOf("", {.masterPages = pages}))), 1);
+}
+
+TEST(OpenDocumentCensus, PlaceholdersOfMasterPagesAreNotPrinted)
+{
+    const QByteArray page =
+        "<style:master-page style:name=\"M\"><draw:frame presentation:placeholder=\"true\">"
+        "<draw:text-box><text:p>Click</text:p></draw:text-box></draw:frame></style:master-page>";
+    EXPECT_EQ(lostOf(countOpenDocument(drawingOf("", {.masterPages = page}))), 0);
+}
+
+TEST(OpenDocumentCensus, StylesInheritWhatLabelsDoNotShow)
+{
+    const QByteArray red = "<style:text-properties fo:color=\"#ff0000\"/>";
+    const QByteArray black = "<style:text-properties fo:color=\"#000000\"/>";
+    const DocumentParts parts = {.automaticStyles = styleOf("Child", "paragraph", "", "Red") +
+                                                    styleOf("Back", "paragraph", black, "Red"),
+                                 .commonStyles = styleOf("Red", "paragraph", red)};
+    const auto colourOf = [&parts](const QByteArray& style) {
+        return changes(countOpenDocument(
+                           textOf("<text:p text:style-name=\"" + style + "\">A</text:p>", parts)),
+                       LossKind::TextColour);
+    };
+    EXPECT_TRUE(colourOf("Red"));
+    EXPECT_TRUE(colourOf("Child"));
+    EXPECT_FALSE(colourOf("Back"));
+    EXPECT_FALSE(colourOf("Unknown"));
+}
+
+TEST(OpenDocumentCensus, TextsOfShapesTakeNothingFromTheShapesStyle)
+{
+    const DocumentParts parts = {
+        .automaticStyles =
+            styleOf("G", "graphic",
+                    "<style:graphic-properties draw:textarea-vertical-align=\"middle\"/>") +
+            styleOf("Big", "graphic", "<style:text-properties fo:font-size=\"30pt\"/>") +
+            styleOf("T", "text", "<style:text-properties fo:font-size=\"9pt\"/>")};
+    const auto formatLost = [&parts](const QByteArray& shape) {
+        return changes(countOpenDocument(drawingOf(shape, parts)), LossKind::TextFormat);
+    };
+    EXPECT_TRUE(formatLost("<draw:rect draw:style-name=\"G\"><text:p>A</text:p></draw:rect>"));
+    EXPECT_FALSE(formatLost("<draw:rect draw:style-name=\"G\"/>"));
+    EXPECT_TRUE(formatLost("<draw:rect draw:style-name=\"Big\"><text:p>A</text:p></draw:rect>"));
+    EXPECT_FALSE(
+        formatLost("<draw:rect draw:style-name=\"Big\"><text:p><text:span text:style-name=\"T\">A"
+                   "</text:span></text:p></draw:rect>"));
+}
+
+TEST(OpenDocumentCensus, TurnedAndMovedIsNoLossAndAllElseIs)
+{
+    const auto dropped = [](const QByteArray& transform) {
+        return changes(
+            countOpenDocument(drawingOf("<draw:rect draw:transform=\"" + transform + "\"/>")),
+            LossKind::TransformDropped);
+    };
+    EXPECT_FALSE(dropped("rotate (1.57) translate (2in 3in)"));
+    EXPECT_TRUE(dropped("skewX (0.1) rotate (1.57) translate (2in 3in)"));
+    EXPECT_TRUE(dropped("rotate(1.57) translate (2in 3in)")) << "read with the blank alone";
+}
+
+TEST(OpenDocumentCensus, SaysWhatIsMissingInThePackage)
+{
+    EXPECT_FALSE(countOpenDocument({}).unknown.isEmpty());
+    EXPECT_FALSE(countOpenDocument("PK\x05\x06").unknown.isEmpty());
+    EXPECT_FALSE(countOpenDocument(drawingOf("<draw:rect>")).unknown.isEmpty());
+}
+
+TEST(OpenDocumentCensus, SurvivesDamagedPackages)
+{
+    const QByteArray whole = drawingOf("<draw:rect><text:p>A</text:p></draw:rect>");
+    std::mt19937 random(7);
+    for (int round = 0; round < 2000; ++round) {
+        QByteArray damaged = whole;
+        for (int hit = 0; hit < 4; ++hit) {
+            damaged[static_cast<qsizetype>(random() % static_cast<unsigned>(damaged.size()))] =
+                static_cast<char>(random());
+        }
+        EXPECT_LE(countOpenDocument(damaged).objects.size(), 2);
+    }
+    for (qsizetype size = 0; size < whole.size(); size += 7) {
+        EXPECT_TRUE(countOpenDocument(whole.first(size)).objects.isEmpty());
+    }
+}
+
+TEST(ZipMember, TakesNoMoreThanIsAllowed)
+{
+    const QByteArray package = drawingOf(QByteArray(1'000'000, ' '));
+    EXPECT_TRUE(zipMember(package, "content.xml", 2'000'000).has_value());
+    EXPECT_FALSE(zipMember(package, "content.xml", 900'000).has_value());
+    EXPECT_FALSE(zipMember(package, "missing.xml", 2'000'000).has_value());
+}

@@ -1,0 +1,92 @@
+#!/usr/bin/python3
+"""Opens a report in a real browser and looks at what it shows.
+
+    page_test.py CHROMIUM REPORT.html REPORT.json FOLDER
+"""
+
+import html.parser
+import json
+import os
+import subprocess
+import sys
+
+chromium, page, data, folder = sys.argv[1:]
+with open(data, encoding="utf-8") as file:
+    files = json.load(file)["files"]
+
+
+class Cards(html.parser.HTMLParser):
+    """The cards of the page: those that are shown, in their order, and all."""
+
+    def __init__(self):
+        super().__init__()
+        self.shown, self.all, self.said, self.in_output = [], 0, "", False
+        self.scripts = 0
+
+    def handle_starttag(self, tag, attributes):
+        attributes = dict(attributes)
+        if tag == "article":
+            self.all += 1
+            if "hidden" not in attributes:
+                self.shown.append(attributes["data-name"])
+        self.scripts += tag == "script"
+        self.in_output = tag == "output"
+
+    def handle_endtag(self, tag):
+        self.in_output = False
+
+    def handle_data(self, text):
+        if self.in_output:
+            self.said += text
+
+
+def browser(*arguments):
+    command = [chromium, "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
+               "--no-first-run", "--user-data-dir=" + os.path.join(folder, "profile"),
+               "--virtual-time-budget=5000", *arguments]
+    environment = dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder, XDG_CACHE_HOME=folder)
+    return subprocess.run(command, capture_output=True, text=True, timeout=240, check=True,
+                          env=environment).stdout
+
+
+def view(state):
+    cards = Cards()
+    cards.feed(browser("--dump-dom", f"file://{os.path.abspath(page)}#{state}"))
+    assert cards.all == len(files), (cards.all, len(files))
+    assert cards.scripts == 1, "only the page's own script"
+    return cards
+
+
+def lost(entry):
+    objects = entry["objects"]
+    return 0 if objects["inFile"] is None else max(0, objects["inFile"] - objects["imported"])
+
+
+def names(wanted):
+    return [entry["file"] for entry in wanted]
+
+
+def expect(state, wanted):
+    shown = view(state).shown
+    assert shown == wanted, f"{state}:\n  shown  {shown}\n  wanted {wanted}"
+
+
+everything = view("")
+assert everything.shown == names(files), everything.shown
+assert everything.said == f"{len(files)} of {len(files)} shown", everything.said
+
+failed = [entry for entry in files if entry["status"] == "failed"]
+assert failed
+expect("status=failed&sort=lost", names(sorted(failed, key=lambda entry: -lost(entry))))
+expect("status=not-imported", names(entry for entry in files if entry["status"] != "imported"))
+expect("sort=lost", names(sorted(files, key=lambda entry: -lost(entry))))
+expect("status=loss&reader=orvanta",
+       names(entry for entry in files if entry["status"] == "imported" and entry["hasLoss"]
+             and entry["reader"] == "orvanta"))
+code = next(finding["code"] for entry in files for finding in entry["changed"])
+expect("code=" + code,
+       names(entry for entry in files
+             if code in [finding["code"] for finding in entry["changed"] + entry["lost"]]))
+expect("q=crashed+%3Cb%3E", ["crashed <b>.cnv"])
+expect("q=no+label+has+these+words", [])
+print("the page shows what it is asked for")

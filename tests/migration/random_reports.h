@@ -1,0 +1,75 @@
+#pragma once
+
+#include "migration/file_report.h"
+
+#include <random>
+
+/// A report of any content that a report can have, texts that are hard to write included.
+[[nodiscard]] inline QString randomText(std::mt19937& random)
+{
+    static const QStringList pieces = {
+        QStringLiteral("plain"),       QStringLiteral("</script><b>"), QStringLiteral("\"'&<>"),
+        QStringLiteral("%1 %2 %%"),    QStringLiteral("\n\t"),         QString(QChar(u'\0')),
+        QStringLiteral("Zürich 日本"), QStringLiteral("\U0001F600"),   QStringLiteral("]]>--"),
+        QStringLiteral("\\u0022"),     QString(QChar(0x202E)),         QString(),
+    };
+    QString text;
+    const auto count = random() % 4;
+    for (unsigned index = 0; index < count; ++index) {
+        text += pieces.at(static_cast<qsizetype>(random() % static_cast<unsigned>(pieces.size())));
+    }
+    return text;
+}
+
+template <class Value, class Make>
+[[nodiscard]] QList<Value> randomList(std::mt19937& random, Make make)
+{
+    QList<Value> values;
+    const auto count = random() % 4;
+    for (unsigned index = 0; index < count; ++index) {
+        values.append(make());
+    }
+    return values;
+}
+
+[[nodiscard]] inline migration::FileReport randomReport(std::mt19937& random)
+{
+    using namespace migration;
+    const auto text = [&random] { return randomText(random); };
+    const auto number = [&random] { return static_cast<int>(random() % 2'000'000) - 1; };
+    const auto length = [&random] { return static_cast<double>(random()) / 1000.0 - 1e6; };
+    const auto finding = [&] {
+        return Finding{text(), text(), number(), random() % 2 == 0,
+                       randomList<QString>(random, text)};
+    };
+    const auto kind = [&] { return KindCount{text(), number()}; };
+    FileReport report;
+    report.file = text();
+    report.bytes = qint64(random()) * 100'000;
+    report.status = static_cast<Status>(random() % 5);
+    report.error = text();
+    report.reader = text();
+    report.pageWidth = length();
+    report.pageHeight = length();
+    if (random() % 2 == 0) {
+        report.objectsInFile = number();
+    }
+    report.objectsUnknown = text();
+    report.objectsImported = number();
+    report.items = randomList<KindCount>(random, kind);
+    report.whole = randomList<KindCount>(random, kind);
+    report.changed = randomList<Finding>(random, finding);
+    report.lost = randomList<Finding>(random, finding);
+    report.datasources = randomList<SourceReport>(random, [&] {
+        return SourceReport{number(), text(), randomList<QString>(random, text), text()};
+    });
+    report.issues = randomList<IssueReport>(random, [&] {
+        return IssueReport{text(), number(), number()};
+    });
+    report.thumbnail = text().toUtf8();
+    report.outputs = randomList<QString>(random, text);
+    report.itemList = randomList<ItemReport>(random, [&] {
+        return ItemReport{text(), length(), length(), length(), length(), text(), number()};
+    });
+    return report;
+}

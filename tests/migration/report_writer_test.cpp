@@ -1,0 +1,240 @@
+#include "migration/report_writer.h"
+
+#include "migration/losses/loss_kinds.h"
+#include "tests/migration/documents.h"
+#include "tests/migration/random_reports.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+using namespace migration;
+
+namespace {
+
+QByteArray contentOf(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void putContent(const QString& fileName, const QByteArray& bytes)
+{
+    QFile file(fileName);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QString write(const QString& fileName, const QList<FileReport>& reports, const QString& note = {})
+{
+    ReportWriter writer(fileName);
+    writer.setNote(note);
+    for (const FileReport& report : reports) {
+        writer.add(report);
+    }
+    return writer.finish();
+}
+
+FileReport named(const QString& file, Status status = Status::Imported)
+{
+    FileReport report;
+    report.file = file;
+    report.status = status;
+    report.objectsInFile = 4;
+    report.objectsImported = 4;
+    return report;
+}
+
+// Reports of different names, in the order of the names.
+QList<FileReport> someReports(int count)
+{
+    std::mt19937 random(5);
+    QList<FileReport> reports;
+    for (int index = 0; index < count; ++index) {
+        FileReport report = randomReport(random);
+        report.file = QStringLiteral("%1 %2").arg(index, 4, 10, QLatin1Char('0')).arg(report.file);
+        reports.append(report);
+    }
+    return reports;
+}
+
+class ReportWriting : public testing::Test
+{
+protected:
+    [[nodiscard]] QString path(const char* name) const
+    {
+        return m_folder.filePath(QString::fromLatin1(name));
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(ReportWriting, JsonHoldsTheFilesAndWhatTheyAddUpTo)
+{
+    FileReport lossy = named(QStringLiteral("b"));
+    lossy.objectsImported = 1;
+    lossy.lost = {{lossCode(LossKind::Table), {}, 3, true, {}}};
+    FileReport changed = named(QStringLiteral("c"));
+    changed.changed = {{lossCode(LossKind::FontReplaced), {}, 1, false, {}}};
+    ASSERT_EQ(write(path("r.json"), {named(QStringLiteral("a")), lossy, changed,
+                                     named(QStringLiteral("d"), Status::Crashed)}),
+              QString());
+
+    const QJsonObject report = QJsonDocument::fromJson(contentOf(path("r.json"))).object();
+    EXPECT_EQ(report[QStringLiteral("format")].toString(), QStringLiteral("labelport-report"));
+    EXPECT_EQ(report[QStringLiteral("version")].toInt(), 1);
+    EXPECT_EQ(report[QStringLiteral("files")].toArray().size(), 4);
+    const QJsonObject totals = report[QStringLiteral("totals")].toObject();
+    EXPECT_EQ(totals[QStringLiteral("files")].toInt(), 4);
+    EXPECT_EQ(totals[QStringLiteral("whole")].toInt(), 1);
+    EXPECT_EQ(totals[QStringLiteral("changed")].toInt(), 1);
+    EXPECT_EQ(totals[QStringLiteral("withLoss")].toInt(), 1);
+    EXPECT_EQ(totals[QStringLiteral("failed")].toInt(), 1);
+    EXPECT_EQ(totals[QStringLiteral("objectsInFiles")].toInt(), 12);
+    EXPECT_EQ(totals[QStringLiteral("objectsImported")].toInt(), 9);
+    EXPECT_EQ(totals[QStringLiteral("filesByCode")][QStringLiteral("table")].toInt(), 1);
+}
+
+TEST_F(ReportWriting, AnEmptyRunIsAReportToo)
+{
+    ASSERT_EQ(write(path("r.json"), {}), QString());
+    const QJsonObject report = QJsonDocument::fromJson(contentOf(path("r.json"))).object();
+    EXPECT_TRUE(report[QStringLiteral("files")].isArray());
+    ASSERT_EQ(write(path("r.html"), {}), QString());
+    EXPECT_TRUE(contentOf(path("r.html")).endsWith("</html>\n"));
+}
+
+TEST_F(ReportWriting, TheSameReportsGiveTheSameBytes)
+{
+    for (const char* name : {"r.json", "r.html"}) {
+        ASSERT_EQ(write(path(name), someReports(40)), QString());
+        const QByteArray first = contentOf(path(name));
+        ASSERT_EQ(write(path(name), someReports(40)), QString());
+        EXPECT_EQ(contentOf(path(name)), first);
+    }
+}
+
+TEST_F(ReportWriting, WhatStoodThereStaysUntilTheEnd)
+{
+    for (const char* name : {"r.json", "r.html"}) {
+        putContent(path(name), "old");
+        {
+            ReportWriter writer(path(name));
+            writer.add(named(QStringLiteral("a")));
+        }
+        EXPECT_EQ(contentOf(path(name)), "old") << "a writer that was not finished";
+    }
+    EXPECT_EQ(QDir(path(".")).entryList(QDir::Files | QDir::Hidden).size(), 2) << "no stray files";
+}
+
+TEST_F(ReportWriting, AFolderThatIsNotThereIsAnErrorInWords)
+{
+    for (const char* name : {"none/r.json", "none/r.html"}) {
+        EXPECT_TRUE(write(path(name), {named(QStringLiteral("a"))}).contains(path(name)));
+    }
+}
+
+TEST_F(ReportWriting, NothingFromAFileBecomesMarkup)
+{
+    const QString evil =
+        QStringLiteral("</script><script>alert(1)</script>\" onload='x' <img src=x>");
+    FileReport report = named(evil, Status::Failed);
+    report.error = evil;
+    report.reader = evil;
+    report.lost = {{evil, evil, 1, true, {evil}}};
+    report.datasources = {{1, evil, {evil}, evil}};
+    report.issues = {{evil, 0, 1}};
+    report.outputs = {evil};
+    report.items = {{evil, 1}};
+    report.whole = {{evil, 1}};
+    ASSERT_EQ(write(path("r.html"), {report}, evil), QString());
+    const QByteArray html = contentOf(path("r.html"));
+    EXPECT_EQ(html.count("<script>"), 1) << "the page's own";
+    EXPECT_EQ(html.count("</script>"), 1);
+    EXPECT_FALSE(html.contains("<img src=x"));
+    EXPECT_FALSE(html.contains("\" onload"));
+}
+
+TEST_F(ReportWriting, ThePageNeedsNothingFromElsewhere)
+{
+    ASSERT_EQ(write(path("r.html"), {named(QStringLiteral("a"))}), QString());
+    const QByteArray html = contentOf(path("r.html"));
+    EXPECT_FALSE(html.contains("http://"));
+    EXPECT_FALSE(html.contains("https://"));
+    EXPECT_FALSE(html.contains("<link"));
+    EXPECT_TRUE(html.contains("default-src 'none'"));
+}
+
+TEST_F(ReportWriting, MergedShardsAreTheReportOfOneRun)
+{
+    const QList<FileReport> all = someReports(60);
+    for (const char* name : {"all.json", "all.html"}) {
+        ASSERT_EQ(write(path(name), all), QString());
+    }
+    QList<QList<FileReport>> shards(4);
+    for (qsizetype index = 0; index < all.size(); ++index) {
+        shards[(index * 7) % 4].prepend(all.at(index));
+    }
+    QStringList names;
+    for (qsizetype shard = 0; shard < shards.size(); ++shard) {
+        names.append(path("shard%1.json").arg(shard));
+        ASSERT_EQ(write(names.constLast(), shards.at(shard)), QString());
+    }
+    ASSERT_EQ(mergeReports(names, path("merged.json")), QString());
+    EXPECT_EQ(contentOf(path("merged.json")), contentOf(path("all.json")));
+    ASSERT_EQ(mergeReports(names, path("merged.html")), QString());
+    EXPECT_EQ(contentOf(path("merged.html")), contentOf(path("all.html")));
+}
+
+TEST_F(ReportWriting, ReportsOfAnyLayoutAreMerged)
+{
+    ASSERT_EQ(write(path("a.json"), someReports(20)), QString());
+    QJsonObject object = QJsonDocument::fromJson(contentOf(path("a.json"))).object();
+    putContent(path("pretty.json"), QJsonDocument(object).toJson(QJsonDocument::Indented));
+    // Another program may sort the keys: then the files come before the format.
+    ASSERT_EQ(mergeReports({path("a.json")}, path("1.json")), QString());
+    const QString error = mergeReports({path("pretty.json")}, path("2.json"));
+    ASSERT_TRUE(error.isEmpty()) << error.toStdString();
+    EXPECT_EQ(contentOf(path("1.json")), contentOf(path("2.json")));
+}
+
+TEST_F(ReportWriting, MergingRefusesWhatDoesNotBelongTogether)
+{
+    ASSERT_EQ(write(path("a.json"), {named(QStringLiteral("one"))}), QString());
+    EXPECT_TRUE(mergeReports({path("a.json"), path("a.json")}, path("m.json"))
+                    .contains(QStringLiteral("one")));
+    EXPECT_FALSE(mergeReports({path("missing.json")}, path("m.json")).isEmpty());
+    for (const char* text :
+         {"", "{}", "[]", "{\"format\": \"other\", \"files\": []}",
+          "{\"format\": \"labelport-report\", \"version\": 2, \"files\": []}",
+          "{\"files\": [], \"format\": \"labelport-report\", \"version\": 2}",
+          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [{]}",
+          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [1]}",
+          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [{}]}",
+          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [{\"file\": \""}) {
+        SCOPED_TRACE(text);
+        putContent(path("bad.json"), text);
+        EXPECT_FALSE(mergeReports({path("bad.json")}, path("m.json")).isEmpty());
+        EXPECT_FALSE(QFile::exists(path("m.json")));
+    }
+}
+
+TEST(Thumbnail, IsASmallPictureOfTheLabel)
+{
+    const FileReport report = reportOn(qmtx(kPlainLabel));
+    const QImage image = QImage::fromData(report.thumbnail);
+    EXPECT_EQ(image.size(), QSize(160, 120));
+    EXPECT_LT(report.thumbnail.size(), 8 * 1024);
+    EXPECT_TRUE(reportOn(qmtx(kPlainLabel), nullptr, {.thumbnail = false}).thumbnail.isEmpty());
+}
