@@ -150,10 +150,19 @@ TEST_F(ImportArchive, ReportsTheSameForOneRunAndForMergedParts)
 }
 
 // What failed weighs more than what was lost.
-TEST_F(ImportArchive, FailsOnLossOnlyWhereThereIsSome)
+TEST_F(ImportArchive, FailsOnLossOnlyWhenItIsAsked)
 {
+    QByteArray label = read(QStringLiteral("old/tags/asset.qmtx"));
+    label.replace("<controls>",
+                  "<controls><hologram><printable_control><bounds><x>200</x><y>200</y>"
+                  "<w>9</w><h>9</h></bounds></printable_control></hologram>");
+    write(QStringLiteral("lossy.qmtx"), label);
     write(QStringLiteral("broken.odg"), "no zip");
-    EXPECT_EQ(labelport(import("broken.odg --fail-on-loss")).status, 1);
+    EXPECT_EQ(labelport(import("lossy.qmtx")).status, 0);
+    const Outcome lossy = labelport(import("lossy.qmtx --fail-on-loss"));
+    EXPECT_EQ(lossy.status, 3) << qPrintable(lossy.err);
+    EXPECT_TRUE(lossy.err.contains(QStringLiteral("1 of 1 files did not come over whole.")));
+    EXPECT_EQ(labelport(import("lossy.qmtx broken.odg --fail-on-loss")).status, 1);
     EXPECT_EQ(labelport(import("old/vial.odg --fail-on-loss")).status, 0);
 }
 
