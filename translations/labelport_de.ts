@@ -2162,6 +2162,41 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
+    <name>migration::Census</name>
+    <message>
+        <source>The file cannot be opened to count its objects.</source>
+        <translation>Die Datei kann nicht geöffnet werden, um ihre Objekte zu zählen.</translation>
+    </message>
+    <message>
+        <source>The file is too large to count its objects.</source>
+        <translation>Die Datei ist zu groß, um ihre Objekte zu zählen.</translation>
+    </message>
+    <message>
+        <source>The package has no readable part %1.</source>
+        <translation>Das Paket hat keinen lesbaren Teil %1.</translation>
+    </message>
+    <message>
+        <source>The file has no list of items.</source>
+        <translation>Die Datei hat keine Liste von Objekten.</translation>
+    </message>
+    <message>
+        <source>The file goes on with something unknown, which may hold more.</source>
+        <translation>Die Datei geht mit etwas Unbekanntem weiter, das noch mehr enthalten kann.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a record: it may have held more.</source>
+        <translation>Die Datei endet mitten in einem Eintrag: Sie kann mehr enthalten haben.</translation>
+    </message>
+    <message>
+        <source>The file is no binary label of a known version.</source>
+        <translation>Die Datei ist kein binäres Etikett einer bekannten Version.</translation>
+    </message>
+    <message>
+        <source>The file is damaged, so its objects cannot be counted: %1.</source>
+        <translation>Die Datei ist beschädigt, darum lassen sich ihre Objekte nicht zählen: %1.</translation>
+    </message>
+</context>
+<context>
     <name>migration::HtmlCard</name>
     <message>
         <source>no picture</source>
@@ -2796,10 +2831,6 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
         <translation>Importieren Sie diese Datei allein und sehen Sie sich das Etikett an.</translation>
     </message>
     <message>
-        <source>Shapes that have no counterpart became rectangles.</source>
-        <translation>Formen ohne Gegenstück wurden zu Rechtecken.</translation>
-    </message>
-    <message>
         <source>Choose the nearest shape after the import, or put them in as a symbol.</source>
         <translation>Wählen Sie nach dem Import die ähnlichste Form oder setzen Sie sie als Symbol ein.</translation>
     </message>
@@ -2826,14 +2857,6 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <message>
         <source>Put the other words into texts of their own, or into the data source.</source>
         <translation>Setzen Sie die anderen Wörter in eigene Texte oder in die Datenquelle.</translation>
-    </message>
-    <message>
-        <source>Fields of date and time became plain text: they show when the document was saved.</source>
-        <translation>Datums- und Zeitfelder wurden zu einfachem Text: Sie zeigen, wann das Dokument gespeichert wurde.</translation>
-    </message>
-    <message>
-        <source>Bind them to a data source of the date after the import.</source>
-        <translation>Verbinden Sie sie nach dem Import mit einer Datenquelle für das Datum.</translation>
     </message>
     <message>
         <source>Barcodes cannot be drawn: their type does not allow their content.</source>
@@ -2886,10 +2909,6 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <message>
         <source>Save the document with one unit throughout.</source>
         <translation>Speichern Sie das Dokument durchgehend mit einer Einheit.</translation>
-    </message>
-    <message>
-        <source>The file gives no size of the page: a usual one was taken.</source>
-        <translation>Die Datei nennt keine Seitengröße: Eine übliche wurde genommen.</translation>
     </message>
     <message>
         <source>Set the size of the page after the import.</source>
@@ -2959,6 +2978,26 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
         <source>Read it, and compare with the old label.</source>
         <translation>Lesen Sie es und vergleichen Sie mit dem alten Etikett.</translation>
     </message>
+    <message>
+        <source>Shapes that have no counterpart became rectangles or ellipses.</source>
+        <translation>Formen ohne Gegenstück wurden zu Rechtecken oder Ellipsen.</translation>
+    </message>
+    <message>
+        <source>Fields, such as date, time and page number, became plain text: they show what they showed when the document was saved.</source>
+        <translation>Felder wie Datum, Uhrzeit und Seitenzahl wurden zu einfachem Text: Sie zeigen, was sie beim Speichern des Dokuments zeigten.</translation>
+    </message>
+    <message>
+        <source>The page is measured in a unit that is not known: its numbers were read as inches.</source>
+        <translation>Die Seite ist in einer unbekannten Einheit gemessen: Ihre Zahlen wurden als Zoll gelesen.</translation>
+    </message>
+    <message>
+        <source>Save the document with centimetres or inches as its unit.</source>
+        <translation>Speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
+    </message>
+    <message>
+        <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
+        <translation>Die Seitengröße ist nicht die der Datei: Sie nennt keine, oder die einer anderen Seite stand zuerst.</translation>
+    </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
@@ -2990,20 +3029,16 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
         <translation>er beginnt nicht wie einer</translation>
     </message>
     <message>
-        <source>it does not name its format first</source>
-        <translation>er nennt sein Format nicht zuerst</translation>
-    </message>
-    <message>
-        <source>it is of a version that is not known</source>
-        <translation>er ist von einer Version, die nicht bekannt ist</translation>
-    </message>
-    <message>
-        <source>it has no list of files</source>
-        <translation>er hat keine Liste von Dateien</translation>
-    </message>
-    <message>
         <source>its list of files is damaged</source>
         <translation>seine Liste von Dateien ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it has no list of files, or is of a version that is not known</source>
+        <translation>er hat keine Liste von Dateien oder ist von einer Version, die nicht bekannt ist</translation>
+    </message>
+    <message>
+        <source>it does not name its format</source>
+        <translation>er nennt sein Format nicht</translation>
     </message>
 </context>
 <context>

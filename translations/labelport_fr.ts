@@ -2162,6 +2162,41 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
+    <name>migration::Census</name>
+    <message>
+        <source>The file cannot be opened to count its objects.</source>
+        <translation>Le fichier ne peut pas être ouvert pour compter ses objets.</translation>
+    </message>
+    <message>
+        <source>The file is too large to count its objects.</source>
+        <translation>Le fichier est trop gros pour compter ses objets.</translation>
+    </message>
+    <message>
+        <source>The package has no readable part %1.</source>
+        <translation>L’archive n’a pas de partie %1 lisible.</translation>
+    </message>
+    <message>
+        <source>The file has no list of items.</source>
+        <translation>Le fichier n’a pas de liste d’objets.</translation>
+    </message>
+    <message>
+        <source>The file goes on with something unknown, which may hold more.</source>
+        <translation>Le fichier continue par quelque chose d’inconnu, qui peut en contenir davantage.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a record: it may have held more.</source>
+        <translation>Le fichier s’arrête au milieu d’un bloc&#xa0;: il a pu en contenir davantage.</translation>
+    </message>
+    <message>
+        <source>The file is no binary label of a known version.</source>
+        <translation>Le fichier n’est pas une étiquette binaire d’une version connue.</translation>
+    </message>
+    <message>
+        <source>The file is damaged, so its objects cannot be counted: %1.</source>
+        <translation>Le fichier est endommagé, ses objets ne peuvent donc pas être comptés&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
     <name>migration::HtmlCard</name>
     <message>
         <source>no picture</source>
@@ -2796,10 +2831,6 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Importez ce fichier seul et regardez l’étiquette.</translation>
     </message>
     <message>
-        <source>Shapes that have no counterpart became rectangles.</source>
-        <translation>Des formes sans équivalent sont devenues des rectangles.</translation>
-    </message>
-    <message>
         <source>Choose the nearest shape after the import, or put them in as a symbol.</source>
         <translation>Choisissez la forme la plus proche après l’importation, ou mettez-les comme symbole.</translation>
     </message>
@@ -2826,14 +2857,6 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>Put the other words into texts of their own, or into the data source.</source>
         <translation>Mettez les autres mots dans leurs propres textes, ou dans la source de données.</translation>
-    </message>
-    <message>
-        <source>Fields of date and time became plain text: they show when the document was saved.</source>
-        <translation>Des champs de date et d’heure sont devenus du texte simple&#xa0;: ils montrent quand le document a été enregistré.</translation>
-    </message>
-    <message>
-        <source>Bind them to a data source of the date after the import.</source>
-        <translation>Liez-les à une source de données de la date après l’importation.</translation>
     </message>
     <message>
         <source>Barcodes cannot be drawn: their type does not allow their content.</source>
@@ -2886,10 +2909,6 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>Save the document with one unit throughout.</source>
         <translation>Enregistrez le document avec une seule unité partout.</translation>
-    </message>
-    <message>
-        <source>The file gives no size of the page: a usual one was taken.</source>
-        <translation>Le fichier n’indique pas la taille de la page&#xa0;: une taille courante a été prise.</translation>
     </message>
     <message>
         <source>Set the size of the page after the import.</source>
@@ -2959,6 +2978,26 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <source>Read it, and compare with the old label.</source>
         <translation>Lisez-le et comparez avec l’ancienne étiquette.</translation>
     </message>
+    <message>
+        <source>Shapes that have no counterpart became rectangles or ellipses.</source>
+        <translation>Des formes sans équivalent sont devenues des rectangles ou des ellipses.</translation>
+    </message>
+    <message>
+        <source>Fields, such as date, time and page number, became plain text: they show what they showed when the document was saved.</source>
+        <translation>Des champs, comme la date, l’heure et le numéro de page, sont devenus du texte simple&#xa0;: ils montrent ce qu’ils montraient quand le document a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The page is measured in a unit that is not known: its numbers were read as inches.</source>
+        <translation>La page est mesurée dans une unité inconnue&#xa0;: ses nombres ont été lus comme des pouces.</translation>
+    </message>
+    <message>
+        <source>Save the document with centimetres or inches as its unit.</source>
+        <translation>Enregistrez le document avec des centimètres ou des pouces comme unité.</translation>
+    </message>
+    <message>
+        <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
+        <translation>La taille de la page n’est pas celle du fichier&#xa0;: il n’en indique pas, ou celle d’une autre page était la première.</translation>
+    </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
@@ -2990,20 +3029,16 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>il ne commence pas comme un rapport</translation>
     </message>
     <message>
-        <source>it does not name its format first</source>
-        <translation>il n’indique pas d’abord son format</translation>
-    </message>
-    <message>
-        <source>it is of a version that is not known</source>
-        <translation>il est d’une version inconnue</translation>
-    </message>
-    <message>
-        <source>it has no list of files</source>
-        <translation>il n’a pas de liste de fichiers</translation>
-    </message>
-    <message>
         <source>its list of files is damaged</source>
         <translation>sa liste de fichiers est endommagée</translation>
+    </message>
+    <message>
+        <source>it has no list of files, or is of a version that is not known</source>
+        <translation>il n’a pas de liste de fichiers, ou est d’une version inconnue</translation>
+    </message>
+    <message>
+        <source>it does not name its format</source>
+        <translation>il n’indique pas son format</translation>
     </message>
 </context>
 <context>

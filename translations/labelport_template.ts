@@ -2107,6 +2107,41 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
+    <name>migration::Census</name>
+    <message>
+        <source>The file cannot be opened to count its objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is too large to count its objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The package has no readable part %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no list of items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file goes on with something unknown, which may hold more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of a record: it may have held more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is no binary label of a known version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is damaged, so its objects cannot be counted: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>migration::HtmlCard</name>
     <message>
         <source>no picture</source>
@@ -2741,10 +2776,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shapes that have no counterpart became rectangles.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Choose the nearest shape after the import, or put them in as a symbol.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2770,14 +2801,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>Put the other words into texts of their own, or into the data source.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fields of date and time became plain text: they show when the document was saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bind them to a data source of the date after the import.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2830,10 +2853,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>Save the document with one unit throughout.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file gives no size of the page: a usual one was taken.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2904,6 +2923,26 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>Read it, and compare with the old label.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Shapes that have no counterpart became rectangles or ellipses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields, such as date, time and page number, became plain text: they show what they showed when the document was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page is measured in a unit that is not known: its numbers were read as inches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the document with centimetres or inches as its unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
@@ -2935,19 +2974,15 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it does not name its format first</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it is of a version that is not known</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it has no list of files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>its list of files is damaged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no list of files, or is of a version that is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not name its format</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
