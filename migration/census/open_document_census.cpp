@@ -34,6 +34,7 @@ struct PageLayout
     QString name;
     QString width;
     QString height;
+    bool hasMargins = false;
 };
 
 struct MasterPage
@@ -100,6 +101,15 @@ QString read(const QByteArray& xml, const Census& census, const Listener& listen
     return reader.hasError() ? notWellFormed(reader.errorString()) : QString();
 }
 
+bool hasMargins(const QXmlStreamAttributes& attributes)
+{
+    const QString margins = attributes.value("fo:margin"_L1).toString() +
+                            attributes.value("fo:margin-top"_L1).toString() +
+                            attributes.value("fo:margin-left"_L1).toString();
+    return std::any_of(margins.begin(), margins.end(),
+                       [](QChar c) { return c >= u'1' && c <= u'9'; });
+}
+
 bool isHeaderOrFooter(const QString& name)
 {
     return name.startsWith("style:header"_L1) || name.startsWith("style:footer"_L1);
@@ -143,10 +153,11 @@ void StylesReader::openOutside(const QString& name, const QXmlStreamAttributes& 
 {
     m_styles.book.take(name, attributes);
     if (name == "style:page-layout"_L1) {
-        m_styles.layouts.append({attributes.value("style:name"_L1).toString(), {}, {}});
+        m_styles.layouts.append({attributes.value("style:name"_L1).toString(), {}, {}, false});
     } else if (name == "style:page-layout-properties"_L1 && !m_styles.layouts.isEmpty()) {
         m_styles.layouts.last().width = attributes.value("fo:page-width"_L1).toString();
         m_styles.layouts.last().height = attributes.value("fo:page-height"_L1).toString();
+        m_styles.layouts.last().hasMargins = hasMargins(attributes);
     } else if (name == "style:master-page"_L1) {
         m_masterDepth = m_depth;
         m_styles.masterPages.append({attributes.value("style:name"_L1).toString(),
@@ -205,7 +216,14 @@ QString unitOf(const Styles& styles)
     return styles.layouts.isEmpty() ? QString() : styles.layouts.first().width.right(2);
 }
 
-QString readContent(const QByteArray& xml, Styles& styles, Census& census, QString& masterPage)
+/// What the body says of the document as a whole.
+struct Body
+{
+    QString masterPage;
+    bool isText = false;
+};
+
+QString readContent(const QByteArray& xml, Styles& styles, Census& census, Body& body)
 {
     OpenDocumentWalker walker(census, styles.book, unitOf(styles));
     const QString error =
@@ -218,7 +236,7 @@ QString readContent(const QByteArray& xml, Styles& styles, Census& census, QStri
               .text = [&](QStringView characters) { walker.text(characters); },
               .divide = [&] { walker.divide(); },
               .close = [&] { walker.close(); }});
-    masterPage = walker.masterPage();
+    body = {walker.masterPage(), walker.hasRunningText()};
     return error;
 }
 
@@ -266,6 +284,15 @@ void notePageSize(const Styles& styles, const MasterPage* used, Census& census)
     }
 }
 
+bool hasMargins(const Styles& styles, const MasterPage* used)
+{
+    return used != nullptr && std::any_of(styles.layouts.begin(), styles.layouts.end(),
+                                          [used](const PageLayout& layout) {
+                                              return layout.name == used->layout &&
+                                                     layout.hasMargins;
+                                          });
+}
+
 QString missing(const char* name)
 {
     return QCoreApplication::translate("migration::Census", "The package has no readable part %1.")
@@ -290,15 +317,18 @@ Census countOpenDocument(const QByteArray& file)
         return census;
     }
     Styles styles;
-    QString masterPage;
+    Body body;
     census.unknown = readStyles(*stylesXml, styles);
-    const QString error = readContent(*contentXml, styles, census, masterPage);
+    const QString error = readContent(*contentXml, styles, census, body);
     census.unknown = census.unknown.isEmpty() ? error : census.unknown;
-    const MasterPage* used = usedMasterPage(styles, masterPage);
+    const MasterPage* used = usedMasterPage(styles, body.masterPage);
     if (used != nullptr) {
         addMasterPage(*used, census);
     }
     notePageSize(styles, used, census);
+    if (body.isText && hasMargins(styles, used)) {
+        census.note(LossKind::PageMargins);
+    }
     return census;
 }
 

@@ -51,6 +51,8 @@ constexpr std::array kProperties{
     Property{"text"_L1, "style:text-rotation-angle"_L1, Test::IsNonZero, {}, kFormat},
     Property{"paragraph"_L1, "fo:margin-top"_L1, Test::IsNonZero, {}, kFormat},
     Property{"paragraph"_L1, "fo:margin-bottom"_L1, Test::IsNonZero, {}, kFormat},
+    Property{"paragraph"_L1, "fo:break-before"_L1, Test::IsNot, "auto"_L1, LossKind::PageBreak},
+    Property{"paragraph"_L1, "fo:break-after"_L1, Test::IsNot, "auto"_L1, LossKind::PageBreak},
     Property{"paragraph"_L1, "fo:text-indent"_L1, Test::IsNonZero, {}, kFormat},
     Property{"paragraph"_L1, "fo:line-height"_L1, Test::IsNot, "100%"_L1, kFormat},
     Property{"paragraph"_L1, "fo:text-align"_L1, Test::Is, "justify"_L1, kFormat},

@@ -115,6 +115,7 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
 void OpenDocumentWalker::openInBody(const QString& name)
 {
     if (name == "office:text"_L1) {
+        m_hasRunningText = true;
         push(Spot::RunningText);
     } else if (name == "office:drawing"_L1) {
         push(Spot::Drawing);
@@ -130,6 +131,8 @@ void OpenDocumentWalker::openInRunningText(const QString& name, const Attributes
         openParagraph(attributes);
     } else if (name == "draw:frame"_L1) {
         openFrame(attributes);
+    } else if (name == "text:soft-page-break"_L1) {
+        notePageBreak();
     } else if (name == "draw:g"_L1 || drawingElement(name) != nullptr) {
         openLost(LossKind::ShapeInText, name);
     } else {
@@ -226,6 +229,8 @@ void OpenDocumentWalker::openFrame(const Attributes& attributes)
     Place& frame = m_places.back();
     frame.style = attributes.value("draw:style-name"_L1).toString();
     frame.textChanges = changesOfShape(u"draw:frame"_s, attributes);
+    frame.isOnPage = m_pages > 0 || attributes.value("text:anchor-type"_L1) == "page"_L1;
+    frame.hasPosition = attributes.hasAttribute("svg:x"_L1) || attributes.hasAttribute("svg:y"_L1);
 }
 
 // The first child that is not a title decides what a frame is; later ones are its stand-ins.
@@ -237,6 +242,10 @@ void OpenDocumentWalker::openInFrame(const QString& name, const Attributes& attr
     }
     frame.isDecided = true;
     CountedObject object{.changes = frame.textChanges};
+    // A box without a position runs along with the text; all else counts from the page.
+    if (!frame.isOnPage && (frame.hasPosition || name != "draw:text-box"_L1)) {
+        object.changes.add(LossKind::PositionAssumed);
+    }
     if (name == "draw:image"_L1) {
         object.objectClass = ObjectClass::Picture;
         m_census.objects.append(object);
@@ -276,14 +285,23 @@ void OpenDocumentWalker::openInParagraph(const QString& name, const Attributes& 
         openRun(name, attributes);
     } else if (name == "draw:g"_L1 || drawingElement(name) != nullptr) {
         openLost(LossKind::ShapeInText, name);
-    } else if (name == "text:line-break"_L1) {
+    } else if (name == "text:line-break"_L1 ||
+               (name == "text:s"_L1 && !attributes.hasAttribute("text:c"_L1))) {
         m_census.note(LossKind::TextSpacing);
         push(Spot::Ignored);
+    } else if (name == "text:soft-page-break"_L1) {
+        notePageBreak();
     } else if (isSpacing(name)) {
         push(Spot::Ignored);
     } else {
         openLostPart(name, LossKind::TextElement);
     }
+}
+
+void OpenDocumentWalker::notePageBreak()
+{
+    m_census.note(LossKind::PageBreak);
+    push(Spot::Ignored);
 }
 
 void OpenDocumentWalker::openRun(const QString& name, const Attributes& attributes)

@@ -36,6 +36,8 @@ public:
 
     /// The master page of the first page; empty when that names none.
     [[nodiscard]] const QString& masterPage() const { return m_masterPage; }
+    /// Whether the document is a text.
+    [[nodiscard]] bool hasRunningText() const { return m_hasRunningText; }
 
 private:
     /// What an element stands for. Each has a function for its children.
@@ -65,7 +67,9 @@ private:
         qsizetype object = -1;                   ///< index of the shape or frame
         bool hasText = false;
         bool hasParagraph = false;
-        bool isDecided = false; ///< a frame whose kind is known
+        bool isDecided = false;   ///< a frame whose kind is known
+        bool isOnPage = false;    ///< a frame that is anchored to the page
+        bool hasPosition = false; ///< a frame that says where it is
         LossSet textChanges = {};
         QString style = {};
     };
@@ -85,6 +89,7 @@ private:
     void openInLost(const QString& name);
 
     void openParagraph(const Attributes& attributes);
+    void notePageBreak();
     void openRun(const QString& name, const Attributes& attributes);
     void openDrawing(const DrawingElement& element, const QString& name,
                      const Attributes& attributes);
@@ -112,6 +117,7 @@ private:
     QString m_unit;
     std::vector<Place> m_places;
     QString m_masterPage;
+    bool m_hasRunningText = false;
     int m_pages = 0;
     /// Texts of the paragraph that is open: frames in it come before them.
     QList<CountedObject> m_runs;

@@ -6,6 +6,7 @@
 #include "workbench/canvas/canvas.h"
 #include "workbench/items/bounds.h"
 
+#include <QCoreApplication>
 #include <QGraphicsItem>
 #include <QRegularExpression>
 
@@ -80,7 +81,9 @@ void lookAtFonts(const ItemValues& values, ItemFacts& item, LabelFacts& facts)
         }
         item.changes.add(LossKind::FontReplaced);
         // The family's own name is told by whoever has read the file.
-        const QString asked = family == unknownFamily() ? QStringLiteral("?") : family;
+        const QString asked = family == unknownFamily()
+                                  ? QCoreApplication::translate("migration::ItemLosses", "unknown")
+                                  : family;
         facts.tallies[LossKind::FontReplaced].addDetail(asked + QStringLiteral(" → ") + seen);
     }
 }
@@ -133,7 +136,9 @@ void lookAtItem(const workbench::CanvasItem& item, const QRectF& page, bool blan
     } else if (itemFacts.hasContent && itemFacts.objectClass == ObjectClass::Text) {
         lookAtPlace(page, boxOnPage(item, values), itemFacts);
     }
-    lookAtFonts(values, itemFacts, facts);
+    if (itemFacts.hasContent) {
+        lookAtFonts(values, itemFacts, facts);
+    }
     if (isLimited(values)) {
         itemFacts.changes.add(LossKind::SizeLimited);
     }

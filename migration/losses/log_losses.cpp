@@ -32,6 +32,8 @@ struct Row
 
 constexpr auto kPicture = LossKind::PictureUnreadable;
 constexpr auto kLimit = LossKind::OverLimit;
+// As many as are missing.
+constexpr qint64 kAll = std::numeric_limits<qint32>::max();
 
 constexpr Row kRows[] = {
     {"^Not processing:", About::Nothing},
@@ -100,7 +102,10 @@ void takeRecord(const workbench::LogRecord& record, LogLosses& losses)
         return;
     }
     if (row->about == About::Missing) {
-        addMissing(losses, row->objectClass, row->kind, 1);
+        // A part of a package is tried once and told of once, however many objects show it.
+        const bool isShared = record.source == "open_office_reader.cpp"_L1 &&
+                              row->objectClass == ObjectClass::Picture;
+        addMissing(losses, row->objectClass, row->kind, isShared ? kAll : 1);
     } else if (row->about == About::Label) {
         addLabelTally(losses, row->kind, record.message);
     }
@@ -116,7 +121,6 @@ QString boxLine(const char* sentence)
 
 void takeIssue(const workbench::ImportIssue& issue, LogLosses& losses)
 {
-    constexpr qint64 all = std::numeric_limits<qint64>::max();
     if (issue.text.startsWith(u'"')) {
         if (issue.item >= 0) {
             losses.items.append({issue.item, LossKind::TextStretched});
@@ -125,9 +129,9 @@ void takeIssue(const workbench::ImportIssue& issue, LogLosses& losses)
         }
     } else if (issue.text == boxLine("Errors reading symbol items.\nPlease update legacy Tavrel to "
                                      "its latest version and re-save file.")) {
-        addMissing(losses, ObjectClass::Symbol, LossKind::SymbolUnreadable, all);
+        addMissing(losses, ObjectClass::Symbol, LossKind::SymbolUnreadable, kAll);
     } else if (issue.text == boxLine("Unsupported barcode symbols.")) {
-        addMissing(losses, ObjectClass::Barcode, LossKind::BarcodeUnsupported, all);
+        addMissing(losses, ObjectClass::Barcode, LossKind::BarcodeUnsupported, kAll);
     } else if (issue.text == boxLine("Datasource not connected.")) {
         addLabelTally(losses, LossKind::DatabaseUnlinked, {});
     }

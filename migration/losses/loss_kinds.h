@@ -63,6 +63,8 @@ enum class LossKind : quint8 {
     UnitUnknown,
     PageSizeAssumed,
     PositionAssumed,
+    PageMargins,
+    PageBreak,
     TransformDropped,
     FontReplaced,
     TextStretched,

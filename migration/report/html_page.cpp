@@ -85,7 +85,7 @@ QString codeTable(const Totals& totals)
         return u"<p>%1</p>\n"_s.arg(escaped(tr("Nothing was lost and nothing was changed.")));
     }
     QString html =
-        u"<details open><summary>%1</summary>\n<table><thead><tr><th scope=\"col\">%2</th>"
+        u"<details><summary>%1</summary>\n<table><thead><tr><th scope=\"col\">%2</th>"
         "<th scope=\"col\">%3</th><th scope=\"col\">%4</th><th scope=\"col\">%5</th></tr>"
         "</thead><tbody>\n"_s.arg(escaped(tr("What was lost or changed")), escaped(tr("Files")),
                                   escaped(tr("Code")), escaped(tr("What happened")),

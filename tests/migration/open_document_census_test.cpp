@@ -176,6 +176,30 @@ TEST(OpenDocumentCensus, TurnedAndMovedIsNoLossAndAllElseIs)
     EXPECT_TRUE(dropped("rotate(1.57) translate (2in 3in)")) << "read with the blank alone";
 }
 
+TEST(OpenDocumentCensus, FramesInATextStandWhereTheTextRuns)
+{
+    const auto isMoved = [](const QByteArray& frame, const QByteArray& content) {
+        const QByteArray text =
+            "<text:p><draw:frame " + frame + ">" + content + "</draw:frame></text:p>";
+        return changes(countOpenDocument(textOf(text)), LossKind::PositionAssumed);
+    };
+    const QByteArray box = "<draw:text-box><text:p>A</text:p></draw:text-box>";
+    const QByteArray place = "svg:x=\"1in\" svg:y=\"1in\"";
+    EXPECT_FALSE(isMoved("text:anchor-type=\"page\" " + place, "<draw:image/>"));
+    EXPECT_TRUE(isMoved("text:anchor-type=\"paragraph\" " + place, "<draw:image/>"));
+    EXPECT_TRUE(isMoved("text:anchor-type=\"char\"", "<draw:image/>"));
+    EXPECT_TRUE(isMoved("text:anchor-type=\"paragraph\" " + place, box));
+    EXPECT_FALSE(isMoved("text:anchor-type=\"paragraph\"", box)) << "runs along with the text";
+}
+
+TEST(OpenDocumentCensus, PageBreaksAndUncountedSpacesAreTold)
+{
+    const Census census = countOpenDocument(
+        textOf("<text:p>A<text:s/>B<text:s text:c=\"2\"/>C</text:p><text:soft-page-break/>"));
+    EXPECT_EQ(census.tallies.at(LossKind::TextSpacing).count, 1);
+    EXPECT_EQ(census.tallies.at(LossKind::PageBreak).count, 1);
+}
+
 TEST(OpenDocumentCensus, SaysWhatIsMissingInThePackage)
 {
     EXPECT_FALSE(countOpenDocument({}).unknown.isEmpty());

@@ -262,6 +262,12 @@ const QList<Sample>& samples()
         {LossKind::PageSizeAssumed,
          {QStringLiteral("bare.qmtx"), "<qmtx><controls>" + kPlainLabel + "</controls></qmtx>"}},
         {LossKind::PositionAssumed, odg("<draw:rect svg:width=\"1in\" svg:height=\"1in\"/>")},
+        {LossKind::PageMargins,
+         odt("<text:p>Text</text:p>",
+             {.pageLayout = "fo:page-width=\"4in\" fo:page-height=\"3in\" fo:margin-top=\"1in\"",
+              .masterPages = masterPage("")})},
+        {LossKind::PageBreak,
+         odt(kStyledText, {.automaticStyles = styled("paragraph", "fo:break-before=\"page\"")})},
         {LossKind::TransformDropped,
          odg(QByteArray(kPlainRect)
                  .replace("<draw:rect",
@@ -352,6 +358,17 @@ TEST(ReportedLosses, NothingIsToldOfWholeDocuments)
         EXPECT_EQ(report.objectsInFile, report.objectsImported);
         EXPECT_TRUE(summaryOf(report).startsWith(QLatin1String("1 of 1 objects came over.")));
     }
+}
+
+TEST(ReportedLosses, APictureThatManyFramesShowIsMissingInAll)
+{
+    const QByteArray frame = "<draw:frame svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+                             "svg:height=\"1in\"><draw:image xlink:href=\"no.png\"/></draw:frame>";
+    const FileReport report = reportOn(odg(kPlainRect + frame.repeated(3)));
+    const Finding* finding = findingOf(report, lossCode(LossKind::PictureUnreadable));
+    ASSERT_NE(finding, nullptr) << codesOf(report).toStdString();
+    EXPECT_EQ(finding->count, 3);
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::ObjectMissing)), nullptr);
 }
 
 TEST(ReportedLosses, AFileThatIsNotImportedIsALoss)
