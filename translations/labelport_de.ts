@@ -2482,6 +2482,13 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
+    <name>migration::ItemLosses</name>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
     <name>migration::KindNames</name>
     <message>
         <source>picture</source>
@@ -2997,6 +3004,18 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <message>
         <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
         <translation>Die Seitengröße ist nicht die der Datei: Sie nennt keine, oder die einer anderen Seite stand zuerst.</translation>
+    </message>
+    <message>
+        <source>The margins of the page were dropped: the text begins in its corner.</source>
+        <translation>Die Seitenränder sind weggefallen: Der Text beginnt in der Ecke der Seite.</translation>
+    </message>
+    <message>
+        <source>Move the texts after the import.</source>
+        <translation>Die Texte nach dem Import verschieben.</translation>
+    </message>
+    <message>
+        <source>Page breaks were dropped: all text runs down one page.</source>
+        <translation>Seitenumbrüche sind weggefallen: Der ganze Text läuft auf einer Seite weiter.</translation>
     </message>
 </context>
 <context>

@@ -2482,6 +2482,13 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
+    <name>migration::ItemLosses</name>
+    <message>
+        <source>unknown</source>
+        <translation>inconnue</translation>
+    </message>
+</context>
+<context>
     <name>migration::KindNames</name>
     <message>
         <source>picture</source>
@@ -2997,6 +3004,18 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
         <translation>La taille de la page n’est pas celle du fichier&#xa0;: il n’en indique pas, ou celle d’une autre page était la première.</translation>
+    </message>
+    <message>
+        <source>The margins of the page were dropped: the text begins in its corner.</source>
+        <translation>Les marges de la page ont disparu : le texte commence dans le coin de la page.</translation>
+    </message>
+    <message>
+        <source>Move the texts after the import.</source>
+        <translation>Déplacez les textes après l’importation.</translation>
+    </message>
+    <message>
+        <source>Page breaks were dropped: all text runs down one page.</source>
+        <translation>Les sauts de page ont disparu : tout le texte se suit sur une seule page.</translation>
     </message>
 </context>
 <context>

@@ -2427,6 +2427,13 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
+    <name>migration::ItemLosses</name>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>migration::KindNames</name>
     <message>
         <source>picture</source>
@@ -2941,6 +2948,18 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins of the page were dropped: the text begins in its corner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the texts after the import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page breaks were dropped: all text runs down one page.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kMillimetresPerPoint = 25.4 / 72.0;
 constexpr int kThumbnailSide = 160;
-// Above this a thumbnail is painted with fewer colours.
+// Above this a thumbnail has fewer colours, then fewer pixels.
 constexpr qsizetype kThumbnailBytes = 6 * 1024;
 // Longest content of an item that a report takes over.
 constexpr qsizetype kContentLength = 2'000;
@@ -127,13 +127,19 @@ QByteArray thumbnailOf(const workbench::Canvas& canvas)
     if (painted.image.isNull()) {
         return {};
     }
-    const QImage image =
-        painted.image
-            .scaled(kThumbnailSide, kThumbnailSide, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-            .convertToFormat(QImage::Format_RGB32);
-    const QByteArray png = pngOf(image);
-    return png.size() <= kThumbnailBytes ? png
-                                         : pngOf(image.convertToFormat(QImage::Format_Indexed8));
+    QByteArray png;
+    for (const int side : {kThumbnailSide, kThumbnailSide / 2}) {
+        const QImage image =
+            painted.image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        png = pngOf(image.convertToFormat(QImage::Format_RGB32));
+        if (png.size() > kThumbnailBytes) {
+            png = pngOf(image.convertToFormat(QImage::Format_Indexed8));
+        }
+        if (png.size() <= kThumbnailBytes) {
+            break;
+        }
+    }
+    return png;
 }
 
 } // namespace migration

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -228,6 +229,26 @@ TEST_F(ReportWriting, MergingRefusesWhatDoesNotBelongTogether)
         EXPECT_FALSE(mergeReports({path("bad.json")}, path("m.json")).isEmpty());
         EXPECT_FALSE(QFile::exists(path("m.json")));
     }
+}
+
+TEST(Thumbnail, OfAPhotographIsSmallToo)
+{
+    QImage noise(400, 300, QImage::Format_RGB32);
+    std::mt19937 random(3);
+    for (int y = 0; y < noise.height(); ++y) {
+        for (int x = 0; x < noise.width(); ++x) {
+            noise.setPixel(x, y, static_cast<QRgb>(random()));
+        }
+    }
+    QByteArray png;
+    QBuffer buffer(&png);
+    ASSERT_TRUE(noise.save(&buffer, "PNG"));
+    const FileReport report = reportOn(qmtx(
+        "<picture_box><printable_control><bounds><x>200</x><y>200</y><w>400</w><h>300</h></bounds>"
+        "</printable_control><image><content>" +
+        png.toBase64() + "</content></image></picture_box>"));
+    EXPECT_FALSE(QImage::fromData(report.thumbnail).isNull());
+    EXPECT_LT(report.thumbnail.size(), 8 * 1024);
 }
 
 TEST(Thumbnail, IsASmallPictureOfTheLabel)
