@@ -181,6 +181,21 @@ bool isInvisible(const QString& name)
            name.endsWith("-mark-start"_L1) || name.endsWith("-mark-end"_L1);
 }
 
+bool isSpacing(const QString& name)
+{
+    return name == "text:s"_L1 || name == "text:tab"_L1 || name == "text:line-break"_L1;
+}
+
+bool isDateOrTime(const QString& name)
+{
+    return name == "text:date"_L1 || name == "text:time"_L1;
+}
+
+bool isAnimation(const QString& name)
+{
+    return name.startsWith("anim:"_L1) || name == "presentation:animations"_L1;
+}
+
 bool isEmbedded(const QString& name)
 {
     return holds(kEmbedded, name);

@@ -45,6 +45,12 @@ struct DrawingElement
 /// Elements that hold nothing to be seen.
 [[nodiscard]] bool isInvisible(const QString& name);
 
+/// Blanks, tabs and line ends that are elements.
+[[nodiscard]] bool isSpacing(const QString& name);
+/// The fields that readers take.
+[[nodiscard]] bool isDateOrTime(const QString& name);
+[[nodiscard]] bool isAnimation(const QString& name);
+
 /// Whether a frame's child makes it a picture, an embedded object and so on.
 [[nodiscard]] bool isEmbedded(const QString& name);
 

@@ -1,7 +1,5 @@
 #include "migration/census/open_document_walker.h"
 
-#include "migration/census/known_fonts.h"
-
 #include <algorithm>
 #include <array>
 
@@ -10,26 +8,6 @@ namespace migration {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-bool isBlank(QStringView text)
-{
-    return text.trimmed().isEmpty();
-}
-
-bool isDateOrTime(const QString& name)
-{
-    return name == "text:date"_L1 || name == "text:time"_L1;
-}
-
-bool isAnimation(const QString& name)
-{
-    return name.startsWith("anim:"_L1) || name == "presentation:animations"_L1;
-}
-
-bool isSpacing(const QString& name)
-{
-    return name == "text:s"_L1 || name == "text:tab"_L1 || name == "text:line-break"_L1;
-}
 
 // Whether a transformation does more than turn and move.
 bool isUnreadTransform(QStringView transform)
@@ -234,6 +212,7 @@ void OpenDocumentWalker::openFrame(const Attributes& attributes)
 }
 
 // The first child that is not a title decides what a frame is; later ones are its stand-ins.
+
 void OpenDocumentWalker::openInFrame(const QString& name, const Attributes& attributes)
 {
     Place& frame = m_places.back();
@@ -268,75 +247,9 @@ void OpenDocumentWalker::openInFrame(const QString& name, const Attributes& attr
     }
 }
 
-void OpenDocumentWalker::openParagraph(const Attributes& attributes)
-{
-    const QString style = attributes.value("text:style-name"_L1).toString();
-    m_runs.clear();
-    m_paragraphChanges = m_styles.textChanges(style);
-    noteFont(m_styles.fontOf(style), m_paragraphChanges);
-    push(Spot::Paragraph);
-}
-
-void OpenDocumentWalker::openInParagraph(const QString& name, const Attributes& attributes)
-{
-    if (name == "draw:frame"_L1) {
-        openFrame(attributes);
-    } else if (name == "text:span"_L1 || isDateOrTime(name) || isParagraph(name)) {
-        openRun(name, attributes);
-    } else if (name == "draw:g"_L1 || drawingElement(name) != nullptr) {
-        openLost(LossKind::ShapeInText, name);
-    } else if (name == "text:line-break"_L1 ||
-               (name == "text:s"_L1 && !attributes.hasAttribute("text:c"_L1))) {
-        m_census.note(LossKind::TextSpacing);
-        push(Spot::Ignored);
-    } else if (name == "text:soft-page-break"_L1) {
-        notePageBreak();
-    } else if (isSpacing(name)) {
-        push(Spot::Ignored);
-    } else {
-        openLostPart(name, LossKind::TextElement);
-    }
-}
-
-void OpenDocumentWalker::notePageBreak()
-{
-    m_census.note(LossKind::PageBreak);
-    push(Spot::Ignored);
-}
-
-void OpenDocumentWalker::openRun(const QString& name, const Attributes& attributes)
-{
-    const QString style = attributes.value("text:style-name"_L1).toString();
-    m_runChanges = m_paragraphChanges;
-    m_runChanges.add(m_styles.textChanges(style));
-    noteFont(m_styles.fontOf(style), m_runChanges);
-    noteField(name, attributes, m_runChanges);
-    push(Spot::Run);
-}
-
 // Everything inside a piece of text becomes one text, fields and all.
-void OpenDocumentWalker::openInRun(const QString& name, const Attributes& attributes)
-{
-    if (drawingElement(name) != nullptr) {
-        return openLost(LossKind::NestedObject, name);
-    }
-    noteField(name, attributes, m_runChanges);
-    push(Spot::Run);
-}
 
 // What an element inside a piece of text loses when only its text is taken.
-void OpenDocumentWalker::noteField(const QString& name, const Attributes& attributes,
-                                   LossSet& changes)
-{
-    const bool isField =
-        name != "text:span"_L1 && !isParagraph(name) && lostTextPart(name) == LossKind::TextField;
-    if (isSpacing(name)) {
-        changes.add(LossKind::TextSpacing);
-    } else if (isField && attributes.value("text:fixed"_L1) != "true"_L1) {
-        changes.add(LossKind::FixedField);
-        m_census.detail(LossKind::FixedField, name);
-    }
-}
 
 void OpenDocumentWalker::openInShape(const QString& name, const Attributes& attributes)
 {
@@ -363,57 +276,8 @@ void OpenDocumentWalker::openInShape(const QString& name, const Attributes& attr
     openLostPart(name, LossKind::TextElement);
 }
 
-void OpenDocumentWalker::openShapeParagraph(const Attributes& attributes)
-{
-    const QString style = attributes.value("text:style-name"_L1).toString();
-    LossSet changes = m_styles.textChanges(style);
-    noteFont(m_styles.fontOf(style), changes);
-    push(Spot::ShapeParagraph);
-    m_places.back().style = style;
-    m_places.back().textChanges = changes;
-}
-
-void OpenDocumentWalker::openInShapeParagraph(const QString& name, const Attributes& attributes)
-{
-    if (name == "text:span"_L1) {
-        const QString style = attributes.value("text:style-name"_L1).toString();
-        LossSet changes = m_places.back().textChanges;
-        changes.add(m_styles.textChanges(style));
-        noteFont(m_styles.fontOf(style), changes);
-        const QString sizing = m_styles.sizesText(style) ? style : m_places.back().style;
-        push(Spot::ShapeRun);
-        m_places.back().textChanges = changes;
-        m_places.back().style = sizing;
-    } else if (name == "text:tab"_L1) {
-        push(Spot::Ignored);
-    } else if (isSpacing(name)) {
-        LossSet changes;
-        changes.add(LossKind::TextSpacing);
-        addShapeText(changes);
-        push(Spot::Ignored);
-    } else if (drawingElement(name) != nullptr) {
-        openLost(LossKind::NestedObject, name);
-    } else {
-        openLostPart(name, LossKind::TextElement);
-    }
-}
-
-void OpenDocumentWalker::openInShapeRun(const QString& name, const Attributes& attributes)
-{
-    if (drawingElement(name) != nullptr) {
-        return openLost(LossKind::NestedObject, name);
-    }
-    const LossSet changes = m_places.back().textChanges;
-    const QString style = m_places.back().style;
-    LossSet added;
-    noteField(name, attributes, added);
-    addShapeText(added);
-    push(Spot::ShapeRun);
-    m_places.back().textChanges = changes;
-    m_places.back().style = style;
-}
-
 // An object that is lost, or a place whose objects are: the first reason holds for all inside.
+
 void OpenDocumentWalker::openLost(LossKind kind, const QString& name)
 {
     const DrawingElement* element = drawingElement(name);
@@ -443,6 +307,7 @@ void OpenDocumentWalker::openInLost(const QString& name)
 }
 
 // A part of a text that stays behind.
+
 void OpenDocumentWalker::openLostPart(const QString& name, LossKind otherwise)
 {
     if (name == "office:annotation"_L1 || isInvisible(name) || isAnimation(name)) {
@@ -470,72 +335,9 @@ void OpenDocumentWalker::openIgnored(const QString& name)
     push(Spot::Ignored);
 }
 
-void OpenDocumentWalker::text(QStringView characters)
-{
-    if (isBlank(characters)) {
-        return;
-    }
-    switch (m_places.back().spot) {
-    case Spot::Paragraph:
-        m_chunkHasText = true;
-        return;
-    case Spot::ShapeParagraph:
-    case Spot::ShapeRun:
-        return markText();
-    case Spot::Run:
-    case Spot::LostParagraph:
-        m_places.back().hasText = true;
-        return;
-    default:
-        return;
-    }
-}
-
 // The text stands in the innermost shape or text box.
-OpenDocumentWalker::Place* OpenDocumentWalker::nearestShape()
-{
-    const auto found = std::find_if(m_places.rbegin(), m_places.rend(), [](const Place& place) {
-        return place.spot == Spot::Shape || place.spot == Spot::TextBox;
-    });
-    return found != m_places.rend() ? &*found : nullptr;
-}
-
-void OpenDocumentWalker::addShapeText(LossSet changes)
-{
-    if (Place* shape = nearestShape()) {
-        shape->textChanges.add(changes);
-    }
-}
-
-void OpenDocumentWalker::markText()
-{
-    const Place& place = m_places.back();
-    Place* shape = nearestShape();
-    if (shape == nullptr) {
-        return;
-    }
-    shape->hasText = true;
-    LossSet changes = place.textChanges;
-    changes.add(m_styles.shapeTextChanges(shape->style));
-    if (m_styles.sizesShapeText(shape->style) && !m_styles.sizesText(place.style)) {
-        changes.add(LossKind::TextFormat);
-    }
-    shape->textChanges.add(changes);
-}
-
-void OpenDocumentWalker::divide()
-{
-    takeChunk();
-}
 
 // A piece of text directly in a paragraph ends where an element begins or ends.
-void OpenDocumentWalker::takeChunk()
-{
-    if (m_chunkHasText) {
-        m_runs.append({.objectClass = ObjectClass::Text, .changes = m_paragraphChanges});
-    }
-    m_chunkHasText = false;
-}
 
 void OpenDocumentWalker::close()
 {
@@ -574,34 +376,6 @@ void OpenDocumentWalker::close()
         return;
     default:
         return;
-    }
-}
-
-void OpenDocumentWalker::closeParagraph()
-{
-    m_census.objects.append(m_runs);
-    m_runs.clear();
-}
-
-void OpenDocumentWalker::closeShapeText(const Place& place)
-{
-    if (!place.hasText) {
-        return;
-    }
-    CountedObject text{.objectClass = ObjectClass::Text};
-    if (place.hasParagraph) {
-        text.changes = place.textChanges;
-    } else {
-        text.lost = LossKind::ShapeText;
-    }
-    m_census.objects.append(text);
-}
-
-void OpenDocumentWalker::noteFont(const QString& family, LossSet& changes)
-{
-    if (!family.isEmpty() && !isFontThere(family)) {
-        changes.add(LossKind::FontReplaced);
-        m_census.detail(LossKind::FontReplaced, family);
     }
 }
 
