@@ -3,6 +3,8 @@
 #include "opendocument/limits.h"
 #include "opendocument/log.h"
 
+#include "imagebounds/bounded_picture.h"
+
 #include <QBuffer>
 #include <QImageReader>
 
@@ -63,10 +65,11 @@ QByteArray PictureStore::bytes(const QString& name)
 
 QPixmap PictureStore::decode(const QString& name)
 {
-    const QByteArray bytes = read(name);
-    if (bytes.isEmpty()) {
+    const QByteArray stored = read(name);
+    if (stored.isEmpty()) {
         return {};
     }
+    const QByteArray bytes = imagebounds::boundedPicture(stored);
     QPixmap pixmap;
     if (!isWithin(bytes, std::min(limits::PicturePixels, m_pixelsLeft)) ||
         !pixmap.loadFromData(bytes)) {

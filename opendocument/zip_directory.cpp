@@ -111,6 +111,10 @@ std::optional<QString> ZipDirectory::open(const QString& fileName)
         if (!readMember()) {
             return u"The package's table of contents is damaged: %1"_s.arg(fileName);
         }
+        if (m_file.pos() - end->directoryOffset > limits::DirectoryBytes) {
+            return u"The package's table of contents is longer than %1 bytes"_s.arg(
+                limits::DirectoryBytes);
+        }
     }
     return std::nullopt;
 }

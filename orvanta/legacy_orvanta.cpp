@@ -21,6 +21,7 @@
 #include <Logger.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -32,6 +33,13 @@ namespace {
 CuteMessageLogger debugLog(int line, const char* function)
 {
     return CuteMessageLogger(loggerInstance(), Logger::Debug, "legacy_orvanta.cpp", line, function);
+}
+
+// Opening a pipe could wait for ever, and a device may have no end.
+bool isEndless(const QString& fileName)
+{
+    const QFileInfo info(fileName);
+    return info.exists() && !info.isFile() && !info.isDir();
 }
 
 } // namespace
@@ -50,7 +58,7 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
 {
     const QByteArray printableName = fileName.toLocal8Bit();
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (isEndless(fileName) || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         debugLog(__LINE__, Q_FUNC_INFO).write("Error opening file: %s", printableName.constData());
         return false;
     }

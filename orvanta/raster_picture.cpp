@@ -1,5 +1,7 @@
 #include "orvanta/raster_picture.h"
 
+#include "imagebounds/bounded_picture.h"
+
 #include <QBuffer>
 #include <QImageReader>
 
@@ -37,7 +39,10 @@ qint64 pixelCount(const QSize& size)
 RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
 {
     QBuffer buffer;
-    buffer.setData(bytes);
+    buffer.setData(imagebounds::boundedPicture(bytes));
+    if (buffer.data().isEmpty() && !bytes.isEmpty()) {
+        return refused(QStringLiteral("a picture that takes more work than any real one"));
+    }
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     const QByteArray format = reader.format();

@@ -1,6 +1,10 @@
 #include "recorder/svg_document.h"
 
+#include "imagebounds/bounded_picture.h"
+
+#include <QBuffer>
 #include <QImage>
+#include <QImageReader>
 #include <QStringView>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
@@ -21,22 +25,46 @@ constexpr qsizetype MaximumStyleText = 32 * 1024;
 /// Most copies ("use") in a document that does not tell its size, because the renderer
 /// then walks through every copy of every copy: n of them can stand for 3^(n/3) elements.
 constexpr int MaximumCopiesWithoutSize = 30;
+/// Pixels of all pictures inside a document.
+constexpr qint64 MaximumPixels = 32 * 1024 * 1024;
 
 QStringView localName(QStringView qualifiedName)
 {
     return qualifiedName.mid(qualifiedName.lastIndexOf(u':') + 1);
 }
 
-bool isInlinePicture(QStringView reference)
+/// A picture inside a document.
+struct InlinePicture
 {
-    // The renderer takes a picture that does not decode for the name of a file.
+    QString reference; ///< what the document may say; empty for none
+    qint64 pixels = 0;
+};
+
+qint64 pixelsClaimedBy(QByteArray picture)
+{
+    QBuffer buffer(&picture);
+    const QSize size = QImageReader(&buffer).size();
+    return qint64(size.width()) * size.height();
+}
+
+// A picture that does not decode is none: the renderer would take it for the name of a file.
+InlinePicture inlinePicture(QStringView reference, qint64 pixelsLeft)
+{
     const QStringView trimmed = reference.trimmed();
     const qsizetype data = trimmed.lastIndexOf(u"base64,");
     if (!trimmed.startsWith(u"data:") || data < 0) {
-        return false;
+        return {};
     }
-    const QByteArray bytes = QByteArray::fromBase64(trimmed.mid(data + 7).toLatin1());
-    return !QImage::fromData(bytes).isNull();
+    const QByteArray stored = QByteArray::fromBase64(trimmed.mid(data + 7).toLatin1());
+    const QByteArray bytes = imagebounds::boundedPicture(stored);
+    const qint64 pixels = pixelsClaimedBy(bytes);
+    if (pixels > pixelsLeft || QImage::fromData(bytes).isNull()) {
+        return {};
+    }
+    return {bytes == stored
+                ? reference.toString()
+                : trimmed.left(data + 7).toString() + QString::fromLatin1(bytes.toBase64()),
+            pixels};
 }
 
 /// Copies a document token by token and leaves out what leads out of it.
@@ -108,11 +136,16 @@ private:
 
     void copyAttribute(QStringView element, const QXmlStreamAttribute& attribute)
     {
-        const bool reference = localName(attribute.qualifiedName()) == u"href";
-        if (element == u"image" && reference && !isInlinePicture(attribute.value())) {
-            return;
+        QString value = attribute.value().toString();
+        if (element == u"image" && localName(attribute.qualifiedName()) == u"href") {
+            const InlinePicture picture = inlinePicture(value, m_pixelsLeft);
+            if (picture.reference.isEmpty()) {
+                return;
+            }
+            m_pixelsLeft -= picture.pixels;
+            value = picture.reference;
         }
-        m_out.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+        m_out.writeAttribute(attribute.qualifiedName().toString(), value);
     }
 
     static bool tellsViewBox(const QXmlStreamAttributes& attributes)
@@ -131,6 +164,7 @@ private:
     bool m_inStyle = false;
     qsizetype m_styleText = 0;
     int m_copies = 0;
+    qint64 m_pixelsLeft = MaximumPixels;
     bool m_knowsSize = false;
 };
 

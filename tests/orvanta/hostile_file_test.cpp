@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QTemporaryFile>
 
+#include <sys/stat.h>
+
 namespace {
 
 using HostileFile = ReaderFixture;
@@ -198,6 +200,16 @@ TEST_F(HostileFile, ADeviceWithoutEndIsNotReadToItsEnd)
 {
     EXPECT_FALSE(reader->importLabelFromFile(QStringLiteral("/dev/zero")));
     EXPECT_EQ(takeCalls(), QStringList());
+}
+
+TEST_F(HostileFile, APipeThatNobodyFillsIsNotWaitedFor)
+{
+    const QString pipe = filePath() + QStringLiteral(".pipe");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_FALSE(reader->importLabelFromFile(pipe));
+    EXPECT_EQ(logText(), QStringLiteral("Error opening file: %1").arg(pipe));
+    EXPECT_EQ(takeCalls(), QStringList());
+    QFile::remove(pipe);
 }
 
 TEST_F(HostileFile, ManyAttributesAndLongNamesDoNoHarm)

@@ -1,6 +1,7 @@
 #include "workbench/document/label_file.h"
 
 #include "workbench/document/document_limits.h"
+#include "workbench/document/file_bounds.h"
 #include "workbench/document/label_json.h"
 
 #include <QCoreApplication>
@@ -8,6 +9,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+
+#include <algorithm>
 
 namespace workbench::document {
 
@@ -28,6 +31,19 @@ struct Words
 {
     return Words::tr("The file %1 cannot be opened: %2.")
         .arg(QDir::toNativeSeparators(path), reason);
+}
+
+// In blocks, because one read of the whole bound would take its memory for every file.
+[[nodiscard]] QByteArray readUpTo(QFile& file, qint64 bound)
+{
+    constexpr qint64 blockSize = 256 * 1024;
+    QByteArray bytes;
+    QByteArray block;
+    do {
+        block = file.read(std::min(blockSize, bound - bytes.size()));
+        bytes += block;
+    } while (!block.isEmpty() && bytes.size() < bound);
+    return bytes;
 }
 
 } // namespace
@@ -62,6 +78,8 @@ QString saveLabel(const QString& path, const Canvas& canvas,
     const SavedLabel label = snapshot(canvas, datasources);
     if (label.items.size() > limits::Items || label.datasources.size() > limits::Items)
         return cannotSave(path, Words::tr("it has more than %1 items").arg(limits::Items));
+    if (pixelsOf(label) > limits::AllPicturePixels)
+        return cannotSave(path, Words::tr("its pictures are too large"));
     const QByteArray bytes = toJson(label);
     if (bytes.size() > limits::FileBytes)
         return cannotSave(path, Words::tr("its pictures are too large"));
@@ -76,12 +94,16 @@ QString saveLabel(const QString& path, const Canvas& canvas,
 QString openLabel(const QString& path, Canvas& canvas,
                   datasources::DatasourceController& datasources)
 {
-    if (QFileInfo(path).isDir())
+    const QFileInfo info(path);
+    if (info.isDir())
         return cannotOpen(path, Words::tr("it is a folder"));
+    // Opening a pipe could wait for ever.
+    if (info.exists() && !info.isFile())
+        return cannotOpen(path, Words::tr("it is not a regular file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return cannotOpen(path, file.errorString());
-    const QByteArray bytes = file.read(limits::FileBytes + 1);
+    const QByteArray bytes = readUpTo(file, limits::FileBytes + 1);
     if (file.error() != QFileDevice::NoError)
         return cannotOpen(path, file.errorString());
     if (bytes.size() > limits::FileBytes)

@@ -1,6 +1,7 @@
 #include "workbench/document/label_json.h"
 
 #include "workbench/document/field_archives.h"
+#include "workbench/document/file_bounds.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -73,6 +74,8 @@ QByteArray toJson(const SavedLabel& label)
 
 ReadLabel fromJson(const QByteArray& bytes)
 {
+    if (hasTooManyValues(bytes))
+        return refusal(Words::tr("The label file is damaged: it holds more than any label."));
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);
     if (parsing.error != QJsonParseError::NoError)
@@ -83,8 +86,11 @@ ReadLabel fromJson(const QByteArray& bytes)
     const QString error = envelopeError(file);
     if (!error.isEmpty())
         return refusal(error);
+    const QJsonObject content = file.value(LabelKey).toObject();
+    if (claimedPixels(content) > limits::AllPicturePixels)
+        return refusal(Words::tr("The label file is damaged: its pictures are too large."));
     ReadLabel result;
-    FieldReader reader(file.value(LabelKey).toObject());
+    FieldReader reader(content);
     describe(reader, result.label);
     if (!reader.error().isEmpty())
         return refusal(Words::tr("The label file is damaged: %1.").arg(reader.error()));

@@ -1,5 +1,6 @@
 #include "workbench/document/json_values.h"
 
+#include "imagebounds/bounded_picture.h"
 #include "workbench/document/document_limits.h"
 
 #include <QBuffer>
@@ -55,8 +56,9 @@ constexpr std::array<PixelKind, 3> PixelKinds{{
     return image.save(&buffer, "png") ? bytes : QByteArray();
 }
 
-[[nodiscard]] QImage fromPng(QByteArray bytes)
+[[nodiscard]] QImage fromPng(const QByteArray& stored)
 {
+    QByteArray bytes = imagebounds::boundedPicture(stored);
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "png");
     reader.setAutoDetectImageFormat(false);

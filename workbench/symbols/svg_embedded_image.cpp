@@ -1,5 +1,6 @@
 #include "workbench/symbols/svg_embedded_image.h"
 
+#include "imagebounds/bounded_picture.h"
 #include "workbench/symbols/svg_limits.h"
 
 #include <QBuffer>
@@ -54,7 +55,7 @@ constexpr std::array<Signature, 4> Signatures{{
 
 std::optional<EmbeddedImage> readEmbeddedImage(const QString& uri)
 {
-    QByteArray data = base64Payload(uri);
+    QByteArray data = imagebounds::boundedPicture(base64Payload(uri));
     const QByteArray format = rasterFormat(data);
     if (format.isEmpty())
         return std::nullopt;

@@ -1,0 +1,147 @@
+// Every bound of the package at its last good value and at the first bad one.
+
+#include "documents.h"
+#include "fake_host.h"
+#include "log_catcher.h"
+
+#include "opendocument/limits.h"
+#include "opendocument/open_office_reader.h"
+#include "opendocument/picture_store.h"
+#include "opendocument/zip_directory.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+using namespace opendocument;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString openingOf(const QByteArray& zip)
+{
+    Package package;
+    ZipDirectory directory;
+    return directory.open(package.writeRaw(zip)).value_or(QString());
+}
+
+QByteArray claimingMembers(quint16 count)
+{
+    QByteArray zip = Package(stylesXml(), drawingXml({})).bytes();
+    qToLittleEndian(count, zip.data() + zip.lastIndexOf("PK\x05\x06") + 10);
+    return zip;
+}
+
+QByteArray png(int width, int height)
+{
+    QImage image(width, height, QImage::Format_Mono);
+    image.fill(1);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+PictureStore storeOf(const QMap<QString, QByteArray>& members)
+{
+    return PictureStore([members](const QString& name, qint64) { return members.value(name); });
+}
+
+class OpenDocumentBounds : public testing::Test
+{
+protected:
+    QString messageFor(const QByteArray& styles, const QByteArray& content)
+    {
+        LogCatcher log;
+        EXPECT_FALSE(reader.importLabelFromFile(Package(styles, content).write()));
+        return log.messages().last();
+    }
+
+    FakeHost host;
+    OpenOfficeReader reader{&host, nullptr};
+};
+
+} // namespace
+
+TEST_F(OpenDocumentBounds, CountMembers)
+{
+    const auto most = quint16(limits::PackageMembers);
+    EXPECT_TRUE(openingOf(claimingMembers(most)).startsWith(u"The package's table of contents"_s));
+    EXPECT_EQ(openingOf(claimingMembers(most + 1)), u"The package has more than 4096 members"_s);
+}
+
+TEST_F(OpenDocumentBounds, MeasureTheTableOfContents)
+{
+    constexpr qint64 entry = 46;
+    constexpr qint64 longName = 60'000;
+    constexpr int many = int(limits::DirectoryBytes / (entry + longName));
+    const auto withRest = [](qint64 rest) {
+        Package package;
+        for (int i = 0; i < many; ++i) {
+            package.add(QString::number(i).leftJustified(longName, u'x'), {});
+        }
+        return package.add(QString(rest - entry, u'y'), {}).bytes();
+    };
+    const qint64 rest = limits::DirectoryBytes - many * (entry + longName);
+    EXPECT_EQ(openingOf(withRest(rest)), QString());
+    EXPECT_EQ(openingOf(withRest(rest + 1)),
+              u"The package's table of contents is longer than 4194304 bytes"_s);
+}
+
+TEST_F(OpenDocumentBounds, MeasureTheXmlMembers)
+{
+    const QByteArray styles(limits::StylesBytes, ' ');
+    EXPECT_TRUE(messageFor(styles, "<a/>").startsWith(u"Error parsing file"_s));
+    EXPECT_EQ(messageFor(styles + ' ', "<a/>"), u"Unable to get file styles."_s);
+    const QByteArray content(limits::ContentBytes, ' ');
+    EXPECT_TRUE(messageFor(stylesXml(), content).startsWith(u"Error parsing file"_s));
+    EXPECT_EQ(messageFor(stylesXml(), content + ' '), u"Unable to get file content."_s);
+}
+
+TEST_F(OpenDocumentBounds, CountThePixelsOfAPicture)
+{
+    static_assert(limits::PicturePixels == 8000 * 4000);
+    PictureStore store = storeOf({{u"most"_s, png(8000, 4000)}, {u"more"_s, png(4000, 8001)}});
+    EXPECT_TRUE(store.pixmap(u"more"_s).isNull());
+    EXPECT_EQ(store.pixmap(u"most"_s).size(), QSize(8000, 4000));
+}
+
+TEST_F(OpenDocumentBounds, CountThePixelsOfAllPictures)
+{
+    static_assert(limits::AllPicturesPixels == 2 * 6000 * 5000);
+    const QByteArray half = png(6000, 5000);
+    PictureStore store = storeOf({{u"a"_s, half}, {u"b"_s, half}, {u"c"_s, png(1, 1)}});
+    EXPECT_FALSE(store.pixmap(u"a"_s).isNull());
+    EXPECT_FALSE(store.pixmap(u"b"_s).isNull());
+    EXPECT_TRUE(store.pixmap(u"c"_s).isNull()) << "one pixel more";
+}
+
+TEST_F(OpenDocumentBounds, LimitFontSizes)
+{
+    const auto sizeOf = [](const char* size) {
+        OOTextStyle style;
+        readTextProperties(
+            elementOf(QByteArray("<a fo:font-size=\"") + size + "\"/>"),
+            [](QString) { return true; }, style);
+        return style.fontSize;
+    };
+    EXPECT_EQ(sizeOf("10000pt"), limits::FontSize);
+    EXPECT_EQ(sizeOf("10001pt"), OOTextStyle().fontSize);
+}
+
+TEST_F(OpenDocumentBounds, LetNoPictureUnpackItsTexts)
+{
+    // Twenty such texts would take 160 megabytes before the picture is even measured.
+    QByteArray chunk("zTXtkey\0\0", 9);
+    chunk += qCompress(QByteArray(7'900'000, 'a')).mid(4);
+    QByteArray length(4, '\0');
+    qToBigEndian(quint32(chunk.size() - 4), length.data());
+    constexpr qsizetype behindHeader = 33;
+    QByteArray bomb = png(3, 2);
+    bomb.insert(behindHeader, (length + chunk + QByteArray(4, '\0')).repeated(20));
+    PictureStore store = storeOf({{u"a"_s, bomb}});
+    EXPECT_EQ(store.pixmap(u"a"_s).size(), QSize(3, 2));
+    EXPECT_TRUE(store.pixmap(u"a"_s).toImage().textKeys().isEmpty());
+}

@@ -1,0 +1,67 @@
+// Every limit of the XML reader at its last good value and at the first bad one.
+
+#include "orvanta/document_limits.h"
+#include "orvanta/raster_picture.h"
+#include "tests/orvanta/printing.h"
+
+#include <QDomDocument>
+#include <QTemporaryFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr qint64 Plenty = orvanta::MaximumLabelPixels;
+
+QString refusalOfFileOf(qint64 bytes)
+{
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open());
+    EXPECT_TRUE(file.resize(bytes)); // a hole, which takes no room
+    const orvanta::FileContent content = orvanta::readWithinLimits(file);
+    EXPECT_EQ(content.bytes.size(), content.refusal.isEmpty() ? bytes : 0);
+    return content.refusal;
+}
+
+QString refusalOfObjects(int count)
+{
+    QDomDocument document;
+    QDomElement controls = document.createElement(QStringLiteral("controls"));
+    for (int i = 0; i < count; ++i) {
+        controls.appendChild(document.createElement(QStringLiteral("a")));
+    }
+    return orvanta::exceededLimit(controls);
+}
+
+TEST(OrvantaLimits, MeasureTheFile)
+{
+    EXPECT_EQ(refusalOfFileOf(orvanta::MaximumFileSize), QString());
+    EXPECT_EQ(refusalOfFileOf(orvanta::MaximumFileSize + 1),
+              QStringLiteral("it has more than 134217728 bytes"));
+}
+
+TEST(OrvantaLimits, CountObjects)
+{
+    EXPECT_EQ(refusalOfObjects(orvanta::MaximumControls), QString());
+    EXPECT_EQ(refusalOfObjects(orvanta::MaximumControls + 1),
+              QStringLiteral("it has more than 250000 objects"));
+}
+
+TEST(OrvantaLimits, CountThePixelsOfAPicture)
+{
+    static_assert(orvanta::MaximumPicturePixels == 8192 * 4096);
+    // None of the two has any pixels, and only the first is asked for them.
+    EXPECT_EQ(orvanta::decodeRasterPicture("P6 8192 4096 255 x", Plenty).refusal, QString());
+    EXPECT_EQ(orvanta::decodeRasterPicture("P6 8192 4097 255 x", Plenty).refusal,
+              QStringLiteral("a picture of 8192 by 4097 pixels is too large"));
+}
+
+TEST(OrvantaLimits, CountThePassesOverAPicture)
+{
+    const QByteArray passes = QByteArray("\xff\xda\x00\x08", 4).repeated(1000);
+    const auto picture = orvanta::decodeRasterPicture("\xff\xd8\xff" + passes, Plenty);
+    EXPECT_TRUE(picture.image.isNull());
+    EXPECT_EQ(picture.refusal, QStringLiteral("a picture that takes more work than any real one"));
+}
+
+} // namespace

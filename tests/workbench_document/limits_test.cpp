@@ -1,0 +1,162 @@
+// Every limit of saved labels at its last good value and at the first bad one.
+
+#include "workbench/document/document_limits.h"
+#include "workbench/document/file_bounds.h"
+#include "workbench/document/json_values.h"
+#include "workbench/document/label_file.h"
+#include "workbench/document/label_json.h"
+
+#include "sample_label.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+using namespace workbench;
+using namespace workbench::document;
+
+namespace {
+
+QString openingOfFileOf(qint64 bytes)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.label")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(file.resize(bytes)); // a hole, which takes no room
+    file.close();
+    Canvas canvas;
+    datasources::DatasourceController sources;
+    return openLabel(file.fileName(), canvas, sources);
+}
+
+QJsonObject withItems(const QJsonArray& items)
+{
+    QJsonObject file = QJsonDocument::fromJson(toJson(sampleLabel())).object();
+    file.remove(QLatin1String("checksum"));
+    QJsonObject label = file[QLatin1String("label")].toObject();
+    label[QLatin1String("items")] = items;
+    file[QLatin1String("label")] = label;
+    return file;
+}
+
+std::string errorOf(const QJsonObject& file)
+{
+    return fromJson(QJsonDocument(file).toJson()).error.toStdString();
+}
+
+// What claims to be a picture, as far as its size.
+QJsonObject itemClaiming(quint32 width, quint32 height)
+{
+    QByteArray header(24, '\0');
+    qToBigEndian(width, header.data() + 16);
+    qToBigEndian(height, header.data() + 20);
+    const QJsonObject image{{QLatin1String("png"), QString::fromLatin1(header.toBase64())}};
+    return {{QLatin1String("picture"), QJsonObject{{QLatin1String("image"), image}}}};
+}
+
+bool isPicture(int width, int height)
+{
+    QImage image(width, height, QImage::Format_Mono);
+    image.fill(0);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    QImage read;
+    return Json<QImage>::read(
+        QJsonObject{{QLatin1String("png"), QString::fromLatin1(bytes.toBase64())},
+                    {QLatin1String("pixels"), QLatin1String("rgb")}},
+        read);
+}
+
+TEST(LabelLimits, MeasureTheFile)
+{
+    const QString tooLarge = QStringLiteral("it is larger than any label");
+    EXPECT_FALSE(openingOfFileOf(limits::FileBytes).contains(tooLarge));
+    EXPECT_TRUE(openingOfFileOf(limits::FileBytes + 1).contains(tooLarge));
+}
+
+TEST(LabelLimits, WaitForNoPipe)
+{
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(QStringLiteral("a.label"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    Canvas canvas;
+    datasources::DatasourceController sources;
+    EXPECT_TRUE(openLabel(pipe, canvas, sources).endsWith(u"it is not a regular file."));
+}
+
+TEST(LabelLimits, CountItems)
+{
+    QJsonArray items;
+    for (qsizetype i = 0; i < limits::Items; ++i)
+        items.append(0);
+    EXPECT_EQ(errorOf(withItems(items)),
+              "The label file is damaged: items[0] is not a group of fields.");
+    items.append(0);
+    EXPECT_EQ(errorOf(withItems(items)), "The label file is damaged: items is longer than 500000.");
+}
+
+TEST(LabelLimits, CountValues)
+{
+    const QByteArray most(limits::Values - 1, ',');
+    EXPECT_FALSE(hasTooManyValues(most));
+    EXPECT_TRUE(hasTooManyValues(most + ','));
+    EXPECT_FALSE(hasTooManyValues(most + "\",,\\\",\"")) << "in a text they separate nothing";
+    EXPECT_EQ(fromJson("[" + QByteArray("0,").repeated(limits::Values) + "0]").error,
+              QStringLiteral("The label file is damaged: it holds more than any label."));
+}
+
+TEST(LabelLimits, MeasureAPicturesSide)
+{
+    EXPECT_TRUE(isPicture(limits::PictureSide, 1));
+    EXPECT_TRUE(isPicture(1, limits::PictureSide));
+    EXPECT_FALSE(isPicture(limits::PictureSide + 1, 1));
+    EXPECT_FALSE(isPicture(1, limits::PictureSide + 1));
+}
+
+TEST(LabelLimits, MeasureAPicturesArea)
+{
+    static_assert(limits::PicturePixels == 10'000 * 10'000);
+    EXPECT_FALSE(isPicture(10'001, 10'000));
+}
+
+TEST(LabelLimits, CountThePixelsOfAllPictures)
+{
+    static_assert(limits::AllPicturePixels == 2 * 15'000 * 5'000);
+    const QJsonObject half = itemClaiming(15'000, 5'000);
+    const QJsonObject most{{QLatin1String("items"), QJsonArray{half, half}}};
+    EXPECT_EQ(claimedPixels(most), limits::AllPicturePixels);
+    EXPECT_NE(errorOf(withItems({half, half})),
+              "The label file is damaged: its pictures are too large.");
+    EXPECT_EQ(errorOf(withItems({half, half, itemClaiming(1, 1)})),
+              "The label file is damaged: its pictures are too large.");
+    EXPECT_EQ(errorOf(withItems({itemClaiming(0xFFFFFFFF, 0xFFFFFFFF)})),
+              "The label file is damaged: its pictures are too large.");
+}
+
+TEST(LabelLimits, LetNoLabelBeSavedThatCouldNotBeOpened)
+{
+    SavedLabel label = sampleLabel();
+    qint64 pixels = pixelsOf(label);
+    for (const ItemValues& item : sampleLabel().items) {
+        if (item.picture)
+            pixels -= qint64{item.picture->image.width()} * item.picture->image.height();
+    }
+    EXPECT_GT(pixelsOf(label), 0);
+    EXPECT_EQ(pixels, 0);
+    EXPECT_EQ(
+        claimedPixels(
+            QJsonDocument::fromJson(toJson(label)).object()[QLatin1String("label")].toObject()),
+        pixelsOf(label));
+}
+
+} // namespace

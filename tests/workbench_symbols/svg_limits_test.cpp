@@ -1,0 +1,102 @@
+// Every limit of drawings at its last good value and at the first bad one, where another test
+// does not show it.
+
+#include "workbench/symbols/svg_limits.h"
+#include "workbench/symbols/svg_sanitizer.h"
+#include "workbench/symbols/symbol_data.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+using namespace workbench::symbols;
+
+namespace {
+
+QByteArray svg(const QByteArray& content, const QByteArray& size = "width='10' height='10'")
+{
+    return "<svg xmlns='http://www.w3.org/2000/svg' " + size + ">" + content + "</svg>";
+}
+
+qsizetype kept(const char* what, const QByteArray& content)
+{
+    const auto safe = sanitizeSvg(svg(content));
+    return safe ? safe->body.count(QLatin1String(what)) : -1;
+}
+
+QByteArray pngOf(int width, int height)
+{
+    QImage image(width, height, QImage::Format_Mono);
+    image.fill(1);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return bytes;
+}
+
+QByteArray image(const QByteArray& png)
+{
+    return "<image width='1' height='1' href='data:image/png;base64," + png.toBase64() + "'/>";
+}
+
+TEST(SvgLimits, MeasureTheDocument)
+{
+    const qsizetype rest = limits::DocumentBytes - svg({}).size();
+    EXPECT_TRUE(sanitizeSvg(svg(QByteArray(rest, ' '))));
+    EXPECT_FALSE(sanitizeSvg(svg(QByteArray(rest + 1, ' '))));
+}
+
+TEST(SvgLimits, MeasurePictures)
+{
+    EXPECT_EQ(kept("<image", image(pngOf(limits::ImageSide, 1))), 1);
+    EXPECT_EQ(kept("<image", image(pngOf(1, limits::ImageSide + 1))), 0);
+    static_assert(limits::ImagePixels == 5000 * 5000);
+    EXPECT_EQ(kept("<image", image(pngOf(5000, 5000))), 1);
+    EXPECT_EQ(kept("<image", image(pngOf(5001, 5000))), 0);
+}
+
+TEST(SvgLimits, CountThePixelsOfAllPictures)
+{
+    static_assert(limits::AllImagePixels == 4 * limits::ImagePixels);
+    const QByteArray most = image(pngOf(5000, 5000)).repeated(4);
+    EXPECT_EQ(kept("<image", most), 4);
+    EXPECT_EQ(kept("<image", most + image(pngOf(1, 1))), 4);
+}
+
+TEST(SvgLimits, HoldCoordinates)
+{
+    static_assert(limits::Coordinate == 1e9);
+    EXPECT_EQ(kept("<path", "<path d='M0 0L1000000000 0'/>"), 1);
+    EXPECT_EQ(kept("<path", "<path d='M0 0L1000000001 0'/>"), 0);
+}
+
+TEST(SvgLimits, HoldTheSizeOfASymbol)
+{
+    const auto isSymbol = [](const char* size) {
+        return makeSymbolData(svg("<rect width='5' height='5'/>", size)).has_value();
+    };
+    static_assert(limits::SymbolSide == 100'000.0);
+    EXPECT_TRUE(isSymbol("width='100000pt' height='10'"));
+    EXPECT_FALSE(isSymbol("width='100001pt' height='10'"));
+    EXPECT_FALSE(isSymbol("width='10' height='100001pt'"));
+}
+
+TEST(SvgLimits, LetNoPictureUnpackItsTexts)
+{
+    QByteArray chunk("zTXtkey\0\0", 9);
+    chunk += qCompress(QByteArray(7'900'000, 'a')).mid(4);
+    QByteArray length(4, '\0');
+    qToBigEndian(quint32(chunk.size() - 4), length.data());
+    constexpr qsizetype behindHeader = 33;
+    QByteArray bomb = pngOf(3, 2);
+    bomb.insert(behindHeader, (length + chunk + QByteArray(4, '\0')).repeated(20));
+    const auto safe = sanitizeSvg(svg(image(bomb)));
+    ASSERT_TRUE(safe);
+    EXPECT_TRUE(safe->body.contains(QLatin1String(pngOf(3, 2).toBase64())));
+    EXPECT_LT(safe->body.size(), 1000);
+}
+
+} // namespace
