@@ -172,6 +172,25 @@ TEST(BoundedDocument, RefusesATreeThatWouldFillTheMemory)
     EXPECT_TRUE(document.documentElement().isNull());
 }
 
+TEST(BoundedDocument, AcceptsWhatTakesJustTheBoundAndRefusesOneByteMore)
+{
+    const QByteArray xml = "<r a='1'>t" + QByteArray("<a b='2'>u</a>").repeated(100) + "</r>";
+    const auto isAccepted = [&xml](qint64 treeBytes) {
+        QDomDocument document;
+        return !parseDocument(xml, document, treeBytes);
+    };
+    qint64 refused = 0;
+    qint64 accepted = xmlbounds::MaximumTreeBytes;
+    while (accepted - refused > 1) {
+        const qint64 middle = (refused + accepted) / 2;
+        (isAccepted(middle) ? accepted : refused) = middle;
+    }
+    EXPECT_GT(accepted, 100 * 300) << "a hundred elements, and what they hold";
+    EXPECT_LT(accepted, 100 * 4000);
+    EXPECT_TRUE(isAccepted(accepted));
+    EXPECT_FALSE(isAccepted(accepted - 1));
+}
+
 TEST(BoundedDocument, CountsWhatEachKindOfMarkupTakes)
 {
     const QByteArray parts[] = {"<a/>", "t<a/>", "<a b='1'/>", "<!---->", "<?p?>", "<![CDATA[]]>"};
