@@ -14,7 +14,7 @@ constexpr qint64 ChunkSize = qint64(1024) * 1024;
 FileContent readWithinLimits(QFile& file)
 {
     FileContent content;
-    while (content.bytes.size() <= MaximumFileSize) {
+    while (file.size() <= MaximumFileSize && content.bytes.size() <= MaximumFileSize) {
         const QByteArray chunk = file.read(ChunkSize);
         // A chunk of carriage returns alone is empty in text mode and not the end.
         if (chunk.isEmpty() && (file.atEnd() || file.error() != QFileDevice::NoError)) {

@@ -3424,6 +3424,18 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <source>The label file is damaged: %1.</source>
         <translation>Die Etikettendatei ist beschädigt: %1.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: it holds more than any label.</source>
+        <translation>Die Etikettendatei ist beschädigt: Sie enthält mehr als jedes Etikett.</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: its pictures are too large.</source>
+        <translation>Die Etikettendatei ist beschädigt: Ihre Bilder sind zu groß.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::LabelImport</name>

@@ -3424,6 +3424,18 @@ Code de sortie&#xa0;: 0 importé, 1 non importé, 2 mauvaise utilisation.</trans
         <source>The label file is damaged: %1.</source>
         <translation>Le fichier d’étiquette est endommagé&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: it holds more than any label.</source>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: il contient plus que n’importe quelle étiquette.</translation>
+    </message>
+    <message>
+        <source>The label file is damaged: its pictures are too large.</source>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: ses images sont trop grandes.</translation>
+    </message>
 </context>
 <context>
     <name>workbench::LabelImport</name>

@@ -3366,6 +3366,18 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>The label file is damaged: %1.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label file is damaged: it holds more than any label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label file is damaged: its pictures are too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>workbench::LabelImport</name>

@@ -145,6 +145,44 @@ TEST(SvgDocument, refusesWhatIsTooLarge)
     EXPECT_FALSE(isTaken("id='" + QByteArray(16 * 1024 * 1024, 'x') + '\'', ""));
 }
 
+TEST(SvgDocument, countsThePixelsOfItsPictures)
+{
+    const auto pictureOf = [](int width, int height) {
+        QImage image(width, height, QImage::Format_Mono);
+        image.fill(1);
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+        return "<image href='data:image/png;base64," + buffer.data().toBase64() + "'/>";
+    };
+    const QByteArray half = pictureOf(4096, 4096);
+    const auto kept = [](const QByteArray& content) {
+        return selfContainedSvg(svg("width='4' height='4'", content)).count("data:image");
+    };
+    EXPECT_EQ(kept(half + half), 2);
+    EXPECT_EQ(kept(half + half + pictureOf(1, 1)), 2);
+    EXPECT_EQ(kept(half + pictureOf(4097, 4096) + half), 2);
+}
+
+TEST(SvgDocument, takesNoTextsOfPicturesAlong)
+{
+    QImage image(1, 1, QImage::Format_RGB32);
+    image.fill(0);
+    image.setText(QStringLiteral("key"), QString(100'000, u'a')); // written packed
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    ASSERT_TRUE(buffer.data().contains("zTXt"));
+    const QByteArray copy =
+        selfContainedSvg(svg("width='4' height='4'", "<image href='data:image/png;base64," +
+                                                         buffer.data().toBase64() + "'/>"));
+    const qsizetype start = copy.indexOf("base64,") + 7;
+    const QByteArray kept =
+        QByteArray::fromBase64(copy.mid(start, copy.indexOf('"', start) - start));
+    EXPECT_EQ(QImage::fromData(kept).size(), QSize(1, 1));
+    EXPECT_FALSE(kept.contains("zTXt"));
+}
+
 TEST(SvgDocument, refusesDeepNesting)
 {
     const auto nested = [](int depth) {

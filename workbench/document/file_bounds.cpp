@@ -34,6 +34,8 @@ constexpr qsizetype HeaderTextSize = HeaderSize / 3 * 4;
 
 bool hasTooManyValues(const QByteArray& json)
 {
+    if (json.size() < 2 * limits::Values)
+        return false; // A value takes two bytes at least, its comma counted.
     qint64 values = 1;
     bool inText = false;
     for (qsizetype at = 0; at < json.size() && values <= limits::Values; ++at) {

@@ -10,8 +10,6 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <algorithm>
-
 namespace workbench::document {
 
 namespace {
@@ -31,19 +29,6 @@ struct Words
 {
     return Words::tr("The file %1 cannot be opened: %2.")
         .arg(QDir::toNativeSeparators(path), reason);
-}
-
-// In blocks, because one read of the whole bound would take its memory for every file.
-[[nodiscard]] QByteArray readUpTo(QFile& file, qint64 bound)
-{
-    constexpr qint64 blockSize = 256 * 1024;
-    QByteArray bytes;
-    QByteArray block;
-    do {
-        block = file.read(std::min(blockSize, bound - bytes.size()));
-        bytes += block;
-    } while (!block.isEmpty() && bytes.size() < bound);
-    return bytes;
 }
 
 } // namespace
@@ -103,11 +88,12 @@ QString openLabel(const QString& path, Canvas& canvas,
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return cannotOpen(path, file.errorString());
-    const QByteArray bytes = readUpTo(file, limits::FileBytes + 1);
+    // Asked first: to read up to a bound takes the memory of the bound, however small the file.
+    if (file.size() > limits::FileBytes)
+        return cannotOpen(path, Words::tr("it is larger than any label"));
+    const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return cannotOpen(path, file.errorString());
-    if (bytes.size() > limits::FileBytes)
-        return cannotOpen(path, Words::tr("it is larger than any label"));
     const ReadLabel read = fromJson(bytes);
     if (!read.error.isEmpty())
         return read.error;

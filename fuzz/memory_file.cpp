@@ -1,0 +1,24 @@
+#include "fuzz/harness.h"
+
+#include <cstdlib>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+MemoryFile::MemoryFile(const QByteArray& bytes)
+    : m_descriptor(::memfd_create("input", MFD_CLOEXEC))
+{
+    if (m_descriptor < 0 || ::write(m_descriptor, bytes.constData(), size_t(bytes.size())) < 0) {
+        std::abort(); // without the input there is nothing to test
+    }
+}
+
+MemoryFile::~MemoryFile()
+{
+    ::close(m_descriptor);
+}
+
+QString MemoryFile::path() const
+{
+    return QStringLiteral("/proc/self/fd/%1").arg(m_descriptor);
+}
