@@ -6,36 +6,12 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
-#include <exception>
-#include <new>
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace archive {
 namespace {
-
-// The sanitizers map far more than a program holds; a bound would stop them at once.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool MayBoundMemory = false;
-#else
-constexpr bool MayBoundMemory = true;
-#endif
-
-void endBadly()
-{
-    try {
-        if (std::current_exception()) {
-            std::rethrow_exception(std::current_exception());
-        }
-    } catch (const std::bad_alloc&) {
-        endForWantOfMemory();
-    } catch (...) {
-    }
-    std::abort();
-}
 
 /// The way to the coordinator, which no printing library can disturb.
 class Answers
@@ -86,24 +62,6 @@ qint64 memoryHeld()
 }
 
 } // namespace
-
-void boundMemory(int memoryMiB)
-{
-    std::set_new_handler(&endForWantOfMemory);
-    std::set_terminate(&endBadly);
-    if (MayBoundMemory && memoryMiB > 0) {
-        const auto bytes = static_cast<rlim_t>(memoryMiB) * 1024 * 1024;
-        rlimit limit{};
-        ::getrlimit(RLIMIT_DATA, &limit);
-        limit.rlim_cur = std::min(bytes, limit.rlim_max);
-        ::setrlimit(RLIMIT_DATA, &limit);
-    }
-}
-
-void endForWantOfMemory()
-{
-    ::_exit(WorkerExitOutOfMemory);
-}
 
 int runWorker(const JobHandler& handler)
 {

@@ -11,15 +11,6 @@ namespace archive {
 using SignOfLife = std::function<void()>;
 using JobHandler = std::function<FileResult(const Job&, const SignOfLife&)>;
 
-/// To be called first of all in a worker: bounds its memory, and lets it end with
-/// WorkerExitOutOfMemory when more is asked for.
-///
-/// @param memoryMiB bound of the process's data; 0 for none
-void boundMemory(int memoryMiB);
-
-/// Ends the worker for want of memory: for those who catch what the operator new throws.
-[[noreturn]] void endForWantOfMemory();
-
 /// Answers jobs until standard input is closed. Standard output belongs to the conversation:
 /// what anybody else prints there goes nowhere.
 ///

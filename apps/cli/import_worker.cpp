@@ -4,7 +4,7 @@
 #include "apps/cli/job_options.h"
 #include "apps/cli/label_writer.h"
 #include "apps/cli/opened_label.h"
-#include "archive/worker_death.h"
+#include "archive/memory_bound.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -8,6 +8,7 @@
 #include "apps/cli/messages.h"
 #include "apps/cli/report_command.h"
 #include "apps/cli/trace_command.h"
+#include "archive/memory_bound.h"
 #include "translations/program_language.h"
 
 #include <QApplication>

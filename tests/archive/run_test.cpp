@@ -91,6 +91,19 @@ TEST_F(ArchiveRun, GivesAFileUpThatNeedsTooMuchMemory)
                             "done b.cnv: b.png"}));
 }
 
+TEST_F(ArchiveRun, KnowsACrashForWantOfMemoryFromAnyOther)
+{
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "SKIPPED: no bounds of memory under the sanitizer";
+#endif
+    input(QStringLiteral("a.cnv"), "memory-unasked");
+    input(QStringLiteral("b.cnv"), "crash");
+    EXPECT_EQ(run(), lines({"out-of-memory a.cnv: the file needed more than 512 MiB of memory "
+                            "(--memory-limit)",
+                            "crashed b.cnv: its import crashed twice (SIGABRT); please report "
+                            "the file"}));
+}
+
 TEST_F(ArchiveRun, GivesAFileUpWhoseWorkerTalksNonsense)
 {
     settings.command = {QStringLiteral("/bin/sh"),

@@ -3,6 +3,7 @@
 //   archive_test_program coordinate IN OUT WORKERS [resume]
 
 #include "archive/input_list.h"
+#include "archive/memory_bound.h"
 #include "archive/run.h"
 #include "archive/stop_signals.h"
 #include "tests/archive/test_worker.h"

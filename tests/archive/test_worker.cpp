@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <csignal>
+#include <cstddef>
 #include <cstdlib>
 #include <vector>
 
@@ -49,6 +50,18 @@ void takeAllMemory()
     std::vector<std::vector<char>> taken;
     while (true) {
         taken.emplace_back(16 * 1024 * 1024, 'x');
+    }
+}
+
+/// As a library does that does not look at what it is given.
+void takeAllMemoryUnasked()
+{
+    while (true) {
+        constexpr std::size_t size = 16 * 1024 * 1024;
+        auto* const taken = static_cast<volatile char*>(std::malloc(size));
+        for (std::size_t i = 0; i < size; ++i) {
+            taken[i] = 'x';
+        }
     }
 }
 
@@ -105,6 +118,9 @@ archive::FileResult suffer(const archive::Job& job, const archive::SignOfLife& a
     }
     if (word == "memory") {
         takeAllMemory();
+    }
+    if (word == "memory-unasked") {
+        takeAllMemoryUnasked();
     }
     if (word == "hang") {
         hang(job.file);
