@@ -32,7 +32,7 @@ struct WorkerDeath
 struct WorkerLimits
 {
     int timeoutSeconds = 60; ///< without a sign of life; 0 for none
-    int memoryMiB = 2048;    ///< of its data; 0 for none
+    int memoryMiB = 4096;    ///< of its data; 0 for none
 };
 
 /// What that makes of its file.

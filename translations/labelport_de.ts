@@ -402,8 +402,8 @@ Beispiele:
         <translation>MiB</translation>
     </message>
     <message>
-        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 2048).</source>
-        <translation>Gibt eine Datei auf, die mehr Speicher braucht; 0 setzt keine Grenze (Vorgabe: 2048).</translation>
+        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 4096).</source>
+        <translation>Gibt eine Datei auf, die mehr Speicher braucht; 0 setzt keine Grenze (Vorgabe: 4096).</translation>
     </message>
     <message>
         <source>Leave out what an earlier command with the same options did, if neither the file nor its outputs have changed.</source>

@@ -402,8 +402,8 @@ Exemples&#xa0;:
         <translation>MiB</translation>
     </message>
     <message>
-        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 2048).</source>
-        <translation>Abandonne un fichier qui demande plus de mémoire&#xa0;; 0 ne fixe aucune limite (par défaut&#xa0;: 2048).</translation>
+        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 4096).</source>
+        <translation>Abandonne un fichier qui demande plus de mémoire&#xa0;; 0 ne fixe aucune limite (par défaut&#xa0;: 4096).</translation>
     </message>
     <message>
         <source>Leave out what an earlier command with the same options did, if neither the file nor its outputs have changed.</source>

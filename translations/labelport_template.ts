@@ -396,7 +396,7 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 2048).</source>
+        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 4096).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

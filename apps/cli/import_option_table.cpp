@@ -69,7 +69,7 @@ constexpr std::array Rows{
     OptionRow{"memory-limit", QT_TRANSLATE_NOOP("cli::ImportOptions", "MiB"),
               QT_TRANSLATE_NOOP("cli::ImportOptions",
                                 "Give a file up that needs more memory than so much; 0 sets no "
-                                "limit (default: 2048).")},
+                                "limit (default: 4096).")},
     OptionRow{"resume", nullptr,
               QT_TRANSLATE_NOOP("cli::ImportOptions",
                                 "Leave out what an earlier command with the same options did, if "

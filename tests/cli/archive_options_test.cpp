@@ -27,7 +27,7 @@ TEST(ArchiveOptions, HaveDefaults)
     const cli::ImportOptions options = accepted("old");
     EXPECT_GE(options.workers, 1);
     EXPECT_EQ(options.limits.timeoutSeconds, 60);
-    EXPECT_EQ(options.limits.memoryMiB, 2048);
+    EXPECT_EQ(options.limits.memoryMiB, 4096);
     EXPECT_TRUE(options.shard.isWhole());
     EXPECT_FALSE(options.resume);
     EXPECT_FALSE(options.quiet);
