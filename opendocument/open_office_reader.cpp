@@ -59,12 +59,12 @@ OpenOfficeReader::~OpenOfficeReader() = default;
 bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
 {
     openPackage(fileName);
-    QByteArray stylesBytes = readMember(StylesMember, limits::StylesBytes);
+    QByteArray stylesBytes = readDocument(StylesMember, limits::StylesBytes);
     if (stylesBytes.isEmpty()) {
         logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file styles."_s);
         return false;
     }
-    QByteArray contentBytes = readMember(ContentMember, limits::ContentBytes);
+    QByteArray contentBytes = readDocument(ContentMember, limits::ContentBytes);
     if (contentBytes.isEmpty()) {
         logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file content."_s);
         return false;
@@ -109,10 +109,19 @@ void OpenOfficeReader::openPackage(const QString& fileName)
     m_pictures = std::make_unique<PictureStore>(
         [this](const QString& name, qint64 largest) { return readMember(name, largest); });
     if (const auto refusal = m_zipDirectory.open(fileName)) {
-        logDebug(__LINE__, Q_FUNC_INFO, *refusal);
+        // Of what is no package at all, the missing document tells enough.
+        if (m_zipDirectory.isPackage()) {
+            logDebug(__LINE__, Q_FUNC_INFO, *refusal);
+        }
         return;
     }
     m_zipReader = std::make_unique<QZipReader>(fileName, QIODevice::ReadOnly);
+}
+
+// The caller has its own words for a document that is missing: no others stand beside them.
+QByteArray OpenOfficeReader::readDocument(const QString& name, qint64 largest)
+{
+    return m_zipDirectory.hasMember(name) ? readMember(name, largest) : QByteArray();
 }
 
 QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)

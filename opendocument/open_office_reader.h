@@ -58,6 +58,7 @@ public:
 private:
     // The package.
     void openPackage(const QString& fileName);
+    [[nodiscard]] QByteArray readDocument(const QString& name, qint64 largest);
     [[nodiscard]] QByteArray readMember(const QString& name, qint64 largest);
 
     // Page and styles.

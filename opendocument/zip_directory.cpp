@@ -93,6 +93,7 @@ bool Inflater::take(QByteArray chunk, qint64 largest)
 std::optional<QString> ZipDirectory::open(const QString& fileName)
 {
     m_members.clear();
+    m_isPackage = false;
     m_file.close();
     m_file.setFileName(fileName);
     // Opening a pipe or a device could wait for ever.
@@ -100,7 +101,8 @@ std::optional<QString> ZipDirectory::open(const QString& fileName)
         return u"The file cannot be opened: %1"_s.arg(fileName);
     }
     const auto end = findEndRecord();
-    if (!end) {
+    m_isPackage = end.has_value();
+    if (!m_isPackage) {
         return u"The file is no zip package: %1"_s.arg(fileName);
     }
     if (end->members > limits::PackageMembers) {

@@ -18,6 +18,8 @@ public:
     /// @return nothing on success, else what is wrong with the file
     [[nodiscard]] std::optional<QString> open(const QString& fileName);
 
+    /// Whether the file that was opened last is a zip package, be it a damaged one.
+    [[nodiscard]] bool isPackage() const { return m_isPackage; }
     [[nodiscard]] bool hasMember(const QString& name) const { return m_members.contains(name); }
     /// The uncompressed size that the table claims; 0 for a member that is not there.
     [[nodiscard]] qint64 sizeOf(const QString& name) const { return m_members.value(name).size; }
@@ -48,6 +50,7 @@ private:
     [[nodiscard]] bool isDeflatedIntact(const Member& member);
 
     QFile m_file;
+    bool m_isPackage = false;
     QHash<QString, Member> m_members;
 };
 

@@ -82,8 +82,10 @@ TEST(ZipDirectory, ForgetsTheLastPackage)
     Package package;
     ZipDirectory directory;
     ASSERT_FALSE(directory.open(package.add(u"a.xml"_s, Text).write()));
+    EXPECT_TRUE(directory.isPackage());
     EXPECT_TRUE(directory.open(u"/nowhere/at/all.odg"_s));
     EXPECT_FALSE(directory.hasMember(u"a.xml"_s));
+    EXPECT_FALSE(directory.isPackage());
 }
 
 TEST(ZipDirectory, RefusesWhatIsNoZipFile)
@@ -94,6 +96,19 @@ TEST(ZipDirectory, RefusesWhatIsNoZipFile)
     ZipDirectory directory;
     EXPECT_TRUE(directory.open(u"/tmp"_s)->startsWith(u"The file cannot be opened"_s));
     EXPECT_TRUE(directory.open(QString())->startsWith(u"The file cannot be opened"_s));
+    Package package;
+    EXPECT_TRUE(directory.open(package.writeRaw("<xml/>")));
+    EXPECT_FALSE(directory.isPackage());
+}
+
+TEST(ZipDirectory, TellsADamagedPackageFromNone)
+{
+    QByteArray zip = packed();
+    zip[entryIn(zip)] = 'X';
+    Package package;
+    ZipDirectory directory;
+    EXPECT_TRUE(directory.open(package.writeRaw(zip)));
+    EXPECT_TRUE(directory.isPackage());
 }
 
 TEST(ZipDirectory, RefusesADamagedTableOfContents)
