@@ -24,9 +24,10 @@ BuildResult buildBarcode(const HostCanvas& host, const BarcodeRecord& record,
                                   record.flag2, record.option(), record.number, record.value1);
     item->setItemSize(record.header.size());
     item->setItemRotation(record.header.rotation);
+    setLayerAndLock(*item, record.header);
     item->setForegroundColor(host.model->canvasDefaultPenColor());
     item->setBackgroundColor(host.model->canvasBackgroundColor());
-    placeItem(*item, record.header);
+    item->setPos(record.header.position());
     binder.bindDatasource(*item, record.datasourceKey, record.datasourceText);
     host.model->importItem(item.release());
     return BuildResult::Built;

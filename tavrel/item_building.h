@@ -64,11 +64,17 @@ template <typename ItemClass>
     return item.data();
 }
 
-/// Sets layer, lock and position.
-inline void placeItem(QGraphicsItem& item, const ItemHeader& header)
+/// Sets layer and lock. Most kinds get their position at once, lines and barcodes last.
+inline void setLayerAndLock(QGraphicsItem& item, const ItemHeader& header)
 {
     item.setZValue(header.zValue);
     item.setFlag(QGraphicsItem::ItemIsMovable, header.movable);
+}
+
+/// Sets layer, lock and position.
+inline void placeItem(QGraphicsItem& item, const ItemHeader& header)
+{
+    setLayerAndLock(item, header);
     item.setPos(header.position());
 }
 

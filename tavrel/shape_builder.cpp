@@ -45,8 +45,9 @@ BuildResult buildLine(const HostCanvas& host, const ShapeRecord& record, const I
     }
     line->setLineLength(header.width);
     line->setItemRotation(header.rotation);
+    setLayerAndLock(*line, header);
     applyPen(*line, host, record);
-    placeItem(*line, header);
+    line->setPos(header.position());
     host.model->importItem(line.release());
     return BuildResult::Built;
 }

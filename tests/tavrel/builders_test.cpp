@@ -87,6 +87,7 @@ TEST_F(ShapeBuilder, SetsUpAShapeInItsBox)
     EXPECT_EQ(
         fake.calls.lines(),
         lines({"factory create \"1002c\"", "item1 setItemSize 60x20", "item1 setItemRotation 30",
+               "item1 setZValue 1003", "item1 setFlag movable yes", "item1 setPos 100x50",
                "item1 setPenWidth 6", "item1 setPenStyle 2", "item1 setPenColor #ffff0000",
                "item1 setFilled yes", "item1 setFillColor #ffffff00", "canvas importItem"}));
     expectPlaced();
@@ -126,8 +127,9 @@ TEST_F(ShapeBuilder, HorizontalLineIsAsLongAsItsBoxIsWide)
     EXPECT_EQ(buildShape(host(), shape("HorizontalLine", 1)), BuildResult::Built);
     EXPECT_EQ(fake.calls.lines(),
               lines({"factory create \"1001f\"", "item1 setLineLength 60",
-                     "item1 setItemRotation 30", "item1 setPenWidth 6", "item1 setPenStyle 2",
-                     "item1 setPenColor #ffff0000", "canvas importItem"}))
+                     "item1 setItemRotation 30", "item1 setZValue 1003",
+                     "item1 setFlag movable yes", "item1 setPenWidth 6", "item1 setPenStyle 2",
+                     "item1 setPenColor #ffff0000", "item1 setPos 100x50", "canvas importItem"}))
         << "a line has no fill, whatever the mode";
     expectPlaced();
 }
@@ -190,7 +192,8 @@ TEST_F(PictureBuilder, ScalesThePicturesOwnSize)
     EXPECT_EQ(
         fake.calls.lines(),
         lines({"factory create \"1000c\"", "item1 pixmapImportActions 40x30", "item1 getItemSize",
-               "item1 setItemSize 80x15", "item1 setItemRotation 30", "canvas importItem"}));
+               "item1 setItemSize 80x15", "item1 setItemRotation 30", "item1 setZValue 1003",
+               "item1 setFlag movable yes", "item1 setPos 100x50", "canvas importItem"}));
     expectPlaced();
 }
 
@@ -229,6 +232,7 @@ TEST_F(SymbolBuilder, ScalesTheSymbolsOwnSizeAndColoursIt)
     EXPECT_EQ(fake.calls.lines(),
               lines({"factory create \"1000d\"", "item1 loadItemFromData \"40x30\"",
                      "item1 getItemSize", "item1 setItemSize 80x15", "item1 setItemRotation 30",
+                     "item1 setZValue 1003", "item1 setFlag movable yes", "item1 setPos 100x50",
                      "item1 setForegroundColor #ffff0000", "item1 setBackgroundColor #ffffff00",
                      "canvas importItem"}));
     expectPlaced();
@@ -276,12 +280,13 @@ protected:
 TEST_F(BarcodeBuilder, HandsTheStoredPropertiesOver)
 {
     EXPECT_EQ(buildBarcode(host(), barcode(), binder()), BuildResult::Built);
-    EXPECT_EQ(fake.calls.lines(),
-              lines({"factory create \"1001d\"",
-                     "item1 importBarcodeProperties 20 \"42\" yes 132 2 yes no 1 17 3",
-                     "item1 setItemSize 60x20", "item1 setItemRotation 30",
-                     "item1 setForegroundColor #ffff0000", "item1 setBackgroundColor #ffffff00",
-                     "canvas importItem"}));
+    EXPECT_EQ(
+        fake.calls.lines(),
+        lines({"factory create \"1001d\"",
+               "item1 importBarcodeProperties 20 \"42\" yes 132 2 yes no 1 17 3",
+               "item1 setItemSize 60x20", "item1 setItemRotation 30", "item1 setZValue 1003",
+               "item1 setFlag movable yes", "item1 setForegroundColor #ffff0000",
+               "item1 setBackgroundColor #ffffff00", "item1 setPos 100x50", "canvas importItem"}));
     expectPlaced();
 }
 
@@ -300,7 +305,7 @@ TEST_F(BarcodeBuilder, BindsBeforeItHandsOver)
     record.datasourceKey = QStringLiteral("_SPECIAL");
     record.datasourceText = QStringLiteral("%_TIME%");
     EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
-    EXPECT_EQ(fake.calls.lines().mid(6),
+    EXPECT_EQ(fake.calls.lines().mid(9),
               lines({"datasources createDatasource \"SystemDatasource\"", "item1 setDatasourceId 1",
                      "datasources getDatasource 1",
                      "datasource1 setDatasourceProperty \"DateFormat\" \"\"",
@@ -359,12 +364,13 @@ TEST_F(TextBuilder, ImportsTheItemBeforeItSetsItUp)
     EXPECT_FALSE(outcome.scaled);
     EXPECT_EQ(
         fake.calls.lines(),
-        lines({"factory create \"10015\"", "canvas importItem", "item1 getItemSize",
-               "item1 getItemSize", "item1 setItemSizeLimiting 0", "item1 setTextBoxSize 33x11",
+        lines({"factory create \"10015\"", "item1 setZValue 1003", "canvas importItem",
+               "item1 getItemSize", "item1 getItemSize", "item1 setItemSizeLimiting 0",
+               "item1 setTextBoxSize 33x11",
                "item1 importTextProperties \"Net  weight\" 12 yes no yes 2", "item1 setPenWidth 6",
                "item1 setPenStyle 2", "item1 setPenColor #ffff0000", "item1 setFillColor #ffffff00",
                "item1 setTextColor #ffff0000", "item1 setOptionA no", "item1 setOptionB yes",
-               "item1 applyTextOptions"}));
+               "item1 applyTextOptions", "item1 setFlag movable yes", "item1 setPos 100x50"}));
     expectPlaced();
 }
 
@@ -443,11 +449,11 @@ TEST_F(TextBuilder, BindsBetweenContentAndLook)
     TextRecord record = text();
     record.datasourceKey = QStringLiteral("_DATE");
     build(record);
-    EXPECT_EQ(fake.calls.lines().mid(6, 4),
+    EXPECT_EQ(fake.calls.lines().mid(7, 4),
               lines({"item1 importTextProperties \"Net  weight\" 12 yes no yes 2",
                      "datasources createDatasource \"SystemDatasource\"", "item1 setDatasourceId 1",
                      "datasources getDatasource 1"}));
-    EXPECT_EQ(fake.calls.lines().value(12), QStringLiteral("item1 setPenWidth 6"));
+    EXPECT_EQ(fake.calls.lines().value(13), QStringLiteral("item1 setPenWidth 6"));
 }
 
 TEST(ScaledTextNote, NamesTheWordsAndTheFontSize)

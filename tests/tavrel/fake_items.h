@@ -25,6 +25,8 @@ public:
         , m_name(QStringLiteral("item%1").arg(number))
     {
         ++m_calls.itemsAlive;
+        this->setFlag(QGraphicsItem::ItemSendsGeometryChanges);
+        m_noting = true;
     }
     ~WithItem() override { --m_calls.itemsAlive; }
 
@@ -45,6 +47,19 @@ public:
     void setFlipVertical(bool flip) override { note("setFlipVertical", flip); }
 
 protected:
+    // Layer, lock and position are Qt's own operations, of which an item is told like this.
+    QVariant itemChange(QGraphicsItem::GraphicsItemChange change, const QVariant& value) override
+    {
+        if (m_noting && change == QGraphicsItem::ItemZValueChange) {
+            note("setZValue", value.toDouble());
+        } else if (m_noting && change == QGraphicsItem::ItemFlagsChange) {
+            note("setFlag movable", (value.toInt() & QGraphicsItem::ItemIsMovable) != 0);
+        } else if (m_noting && change == QGraphicsItem::ItemPositionChange) {
+            note("setPos", QSizeF(value.toPointF().x(), value.toPointF().y()));
+        }
+        return Base::itemChange(change, value);
+    }
+
     template <typename... Values>
     void note(const char* call, const Values&... values) const
     {
@@ -56,6 +71,7 @@ private:
     CallList& m_calls;
     QString m_name;
     QSizeF m_size{0.0, 0.0};
+    bool m_noting = false;
 };
 
 template <class Base>
