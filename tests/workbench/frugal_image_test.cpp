@@ -51,6 +51,29 @@ TEST(FrugalImage, HasNoAlphaWhereAllIsOpaque)
     EXPECT_TRUE(frugalImage(pictureOf(1000, true)).hasAlphaChannel());
 }
 
+TEST(FrugalImage, OutlivesThePictureWhosePixelsItShares)
+{
+    const QImage same = pictureOf(1000, false);
+    QImage frugal;
+    {
+        const QImage image = same.copy();
+        frugal = frugalImage(image);
+        EXPECT_EQ(frugal.constBits(), image.constBits()) << "all pixels were copied";
+    }
+    EXPECT_EQ(plain(frugal), plain(same));
+}
+
+TEST(FrugalImage, IsTheSamePictureWhateverItsFormat)
+{
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_RGB888,
+                              QImage::Format_Grayscale8, QImage::Format_RGB16}) {
+        SCOPED_TRACE(int(format));
+        const QImage image = pictureOf(1000, false).convertToFormat(format);
+        EXPECT_EQ(plain(frugalImage(image)), plain(image));
+        EXPECT_FALSE(frugalImage(image).hasAlphaChannel());
+    }
+}
+
 TEST(FrugalImage, KeepsResolutionAndTexts)
 {
     for (const int colors : {2, 1000}) {

@@ -2,7 +2,7 @@
 
 #include <QHash>
 
-#include <algorithm>
+#include <memory>
 #include <optional>
 #include <span>
 
@@ -19,33 +19,24 @@ public:
     /// The number of a colour; nothing when there are too many.
     [[nodiscard]] std::optional<uchar> numberOf(QRgb color)
     {
-        // Neighbours are mostly alike.
-        if (color != m_lastColor || m_colors.isEmpty()) {
-            const auto known = m_numbers.constFind(color);
-            if (known == m_numbers.constEnd() && m_colors.size() == kMostColors) {
-                return std::nullopt;
-            }
-            m_lastNumber = known != m_numbers.constEnd() ? *known : add(color);
-            m_lastColor = color;
+        const auto known = m_numbers.constFind(color);
+        if (known != m_numbers.constEnd()) {
+            return *known;
         }
-        return m_lastNumber;
-    }
-
-    [[nodiscard]] const QList<QRgb>& colors() const { return m_colors; }
-
-private:
-    uchar add(QRgb color)
-    {
+        if (m_colors.size() == kMostColors) {
+            return std::nullopt;
+        }
         const auto number = static_cast<uchar>(m_colors.size());
         m_colors.append(color);
         m_numbers.insert(color, number);
         return number;
     }
 
+    [[nodiscard]] const QList<QRgb>& colors() const { return m_colors; }
+
+private:
     QHash<QRgb, uchar> m_numbers;
     QList<QRgb> m_colors;
-    QRgb m_lastColor = 0;
-    uchar m_lastNumber = 0;
 };
 
 std::span<const QRgb> pixelsOf(const QImage& image, int y)
@@ -64,19 +55,33 @@ void copyTraits(const QImage& from, QImage& to)
     }
 }
 
+// Neighbours are mostly alike: only where the colour changes is its number looked for.
+bool numberRow(std::span<const QRgb> pixels, ColorNumbers& numbers, uchar* to)
+{
+    QRgb lastColor = ~pixels.front();
+    uchar lastNumber = 0;
+    for (const QRgb color : pixels) {
+        if (color != lastColor) {
+            const auto number = numbers.numberOf(color);
+            if (!number) {
+                return false;
+            }
+            lastColor = color;
+            lastNumber = *number;
+        }
+        *to++ = lastNumber;
+    }
+    return true;
+}
+
 // The picture with a table of colours; null when it has too many.
 QImage withColorTable(const QImage& image)
 {
     QImage result(image.size(), QImage::Format_Indexed8);
     ColorNumbers numbers;
     for (int y = 0; y < result.height(); ++y) {
-        uchar* to = result.scanLine(y);
-        for (const QRgb color : pixelsOf(image, y)) {
-            const auto number = numbers.numberOf(color);
-            if (!number) {
-                return {};
-            }
-            *to++ = *number;
+        if (!numberRow(pixelsOf(image, y), numbers, result.scanLine(y))) {
+            return {};
         }
     }
     result.setColorTable(numbers.colors());
@@ -84,29 +89,62 @@ QImage withColorTable(const QImage& image)
     return result;
 }
 
+// All pixels are read before it is judged: a loop without a way out is several times as fast.
+bool isOpaque(std::span<const QRgb> pixels)
+{
+    QRgb common = 0xffffffff;
+    for (const QRgb color : pixels) {
+        common &= color;
+    }
+    return qAlpha(common) == 255;
+}
+
 bool isOpaque(const QImage& image)
 {
     for (int y = 0; y < image.height(); ++y) {
-        const std::span<const QRgb> pixels = pixelsOf(image, y);
-        if (!std::all_of(pixels.begin(), pixels.end(),
-                         [](QRgb color) { return qAlpha(color) == 255; })) {
+        if (!isOpaque(pixelsOf(image, y))) {
             return false;
         }
     }
     return true;
 }
 
+// The very pixels of an image, taken for another format of as many bits.
+QImage sharedAs(QImage::Format format, const QImage& image)
+{
+    const auto letGo = [](void* owner) { delete static_cast<QImage*>(owner); };
+    auto owner = std::make_unique<QImage>(image);
+    const uchar* pixels = owner->constBits();
+    QImage result(pixels, image.width(), image.height(), image.bytesPerLine(), format, letGo,
+                  owner.get());
+    if (!result.isNull()) {
+        (void)owner.release(); // the result lets go of it
+    }
+    copyTraits(image, result);
+    return result;
+}
+
+// PNG files hold colours that are not premultiplied. Opaque colours are the same both ways, and
+// a copy of all pixels takes longer than to look at them.
+QImage plainImage(const QImage& image)
+{
+    if (image.format() == QImage::Format_ARGB32_Premultiplied && isOpaque(image)) {
+        return sharedAs(QImage::Format_RGB32, image);
+    }
+    const QImage plain = image.convertToFormat(QImage::Format_ARGB32);
+    return isOpaque(plain) ? plain.convertToFormat(QImage::Format_RGB32) : plain;
+}
+
 } // namespace
 
 QImage frugalImage(const QImage& image)
 {
-    // PNG files hold colours that are not premultiplied.
-    const QImage plain = image.convertToFormat(QImage::Format_ARGB32);
-    const QImage indexed = withColorTable(plain);
-    if (!indexed.isNull()) {
-        return indexed;
+    if (image.isNull()) {
+        return {};
     }
-    return isOpaque(plain) ? plain.convertToFormat(QImage::Format_RGB32) : plain;
+    const QImage plain = plainImage(image);
+    const QImage indexed = withColorTable(plain);
+    return indexed.isNull() ? plain : indexed;
 }
 
 } // namespace workbench
