@@ -1,3 +1,16 @@
+# labelport_run_path(TARGET FOLDER...)
+#
+# Where an installed target finds its libraries: folders relative to its own place, so that an
+# installation can be moved. Builds use the same path. For one of their own CMake makes room by an
+# empty name, and an empty name is the folder where the user stands: whatever lies there under a
+# library's name would be loaded.
+function(labelport_run_path target)
+    list(TRANSFORM ARGN PREPEND "$ORIGIN/" OUTPUT_VARIABLE folders)
+    set_target_properties(${target} PROPERTIES
+        INSTALL_RPATH "${folders}"
+        BUILD_WITH_INSTALL_RPATH ON)
+endfunction()
+
 # labelport_install_program(TARGET)
 #
 # Installs a program. It goes into a folder of its own together with what the importer's library
@@ -9,6 +22,10 @@ function(labelport_install_program target)
     if(NOT name)
         set(name ${target})
     endif()
+    # In a build, the libraries stand beside the programs.
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR
+        BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBEXECDIR}/labelport" OUTPUT_VARIABLE libraries)
+    labelport_run_path(${target} . ${libraries})
     install(TARGETS ${target} RUNTIME DESTINATION ${LABELPORT_PROGRAM_DIR} COMPONENT programs)
 
     # Relative, so that an installation can be moved.

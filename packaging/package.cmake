@@ -1,16 +1,9 @@
 # What an installation looks like, and what others need to build against it: the CMake package
 # LabelPort (find_package) and the pkg-config file labelport.pc.
 #
-# Rooms install their own headers and targets, into the export set LabelPortTargets. Included
-# before them, because targets take the run path from here when they are made.
+# Rooms install their own headers and targets, into the export set LabelPortTargets.
 
 include(CMakePackageConfigHelpers)
-
-# Installed programs find the library by their own place, so that an installation can be moved.
-cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR
-    BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBEXECDIR}/labelport"
-    OUTPUT_VARIABLE LABELPORT_PROGRAM_TO_LIB)
-set(CMAKE_INSTALL_RPATH "$ORIGIN/${LABELPORT_PROGRAM_TO_LIB}")
 
 set(LABELPORT_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/LabelPort)
 set(LABELPORT_HEADER_DIR ${CMAKE_INSTALL_INCLUDEDIR}/labelport)
