@@ -221,7 +221,8 @@ INSTANTIATE_TEST_SUITE_P(Exact, FractionProduct,
                                          // One side reads as 1/1 and is -1.0, not decimal.
                                          ProductCase{"0", "1/2", "1/2", 0.5, true},
                                          // Within a millionth counts as agreement.
-                                         ProductCase{"1.0000005", "1/2", "1/2", 0.5, true}));
+                                         ProductCase{"1.0000005", "1/2", "1/2", 0.5, true},
+                                         ProductCase{"0.9999995", "1/2", "1/2", 0.5, true}));
 
 INSTANTIATE_TEST_SUITE_P(
     Decimal, FractionProduct,

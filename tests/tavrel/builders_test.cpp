@@ -299,6 +299,15 @@ TEST_F(BarcodeBuilder, Symbology55TakesItsNumberOption)
               lines({"item1 importBarcodeProperties 55 \"42\" yes 132 2 yes no 9 17 3"}));
 }
 
+TEST_F(BarcodeBuilder, HandsTheWholeSymbologyNumberOver)
+{
+    BarcodeRecord record = barcode();
+    record.symbology = 0x10014; // its low 16 bits, 20, are only for the question of validity
+    EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
+    EXPECT_EQ(fake.calls.with("importBarcodeProperties"),
+              lines({"item1 importBarcodeProperties 65556 \"42\" yes 132 2 yes no 1 17 3"}));
+}
+
 TEST_F(BarcodeBuilder, BindsBeforeItHandsOver)
 {
     BarcodeRecord record = barcode();

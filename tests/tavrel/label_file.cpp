@@ -4,12 +4,12 @@
 
 namespace tavrel_test {
 
-LabelFile::LabelFile(quint32 version, const QStringList& databases)
+LabelFile::LabelFile(quint32 version, const QStringList& databases, const LabelPage& page)
     : m_version(version)
 {
     m_bytes.word(0x1234).word(version).word(1).raw(pngOf(3, 2));
-    canvasRecord();
-    m_bytes.number(10).number(99).number(1).number(4);
+    canvasRecord(page);
+    m_bytes.number(page.sequenceStart).number(99).number(1).number(4);
     m_bytes.text(QStringLiteral("No")).text(QStringLiteral("!"));
     if (m_version >= 2000020) {
         m_bytes.number(5);
@@ -20,7 +20,7 @@ LabelFile::LabelFile(quint32 version, const QStringList& databases)
     }
 }
 
-void LabelFile::canvasRecord()
+void LabelFile::canvasRecord(const LabelPage& page)
 {
     m_bytes.flag(false);
     if (m_version <= 2000018) {
@@ -28,10 +28,17 @@ void LabelFile::canvasRecord()
     } else {
         m_bytes.real(2.0).real(4.0);
     }
-    m_bytes.number(-1).number(-1).text(QStringLiteral("unused")).text({}).flag(true);
-    m_bytes.number(0).number(0).flag(false).real(1).real(1).real(1).real(1);
+    m_bytes.number(page.labelType).number(page.ribbonType).text(QStringLiteral("unused")).text({});
+    m_bytes.flag(page.canvasFlag)
+        .number(page.orientationCode)
+        .number(0)
+        .flag(false)
+        .real(1)
+        .real(1)
+        .real(1)
+        .real(1);
     if (m_version >= 2000024) {
-        m_bytes.real(300.0).real(305.0);
+        m_bytes.real(page.resolutionX).real(page.resolutionY);
     }
 }
 

@@ -7,13 +7,26 @@
 
 namespace tavrel_test {
 
+/// What a test may choose of the records before the items.
+struct LabelPage
+{
+    qint32 labelType = -1;
+    qint32 ribbonType = -1;
+    bool canvasFlag = true;
+    qint32 orientationCode = 0;
+    double resolutionX = 300.0; ///< only stored from 2000024 on, as the other
+    double resolutionY = 305.0;
+    qint32 sequenceStart = 10;
+};
+
 /// The bytes of a label of one version, record by record. Values that a test does not
 /// choose are plain ones.
 class LabelFile
 {
 public:
     /// Starts with header, preview, a page of 4 by 2 inches, a counter and no database.
-    explicit LabelFile(quint32 version = 2000024, const QStringList& databases = {});
+    explicit LabelFile(quint32 version = 2000024, const QStringList& databases = {},
+                       const LabelPage& page = {});
 
     LabelFile& shape(const QString& name, double layer = 1.0);
     LabelFile& picture(const QByteArray& png, const QString& width = QStringLiteral("25/6"),
@@ -34,7 +47,7 @@ public:
 private:
     void itemHeader(double layer = 1.0, const QString& width = QStringLiteral("1"),
                     const QString& height = QStringLiteral("1"));
-    void canvasRecord();
+    void canvasRecord(const LabelPage& page);
     void textLook();
     LabelFile& recordEnd();
 

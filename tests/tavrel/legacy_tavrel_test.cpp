@@ -1,5 +1,6 @@
 // Whole files: the order of the records, what is reported and what carries over.
 
+#include "supply/legacy_supply_info.h"
 #include "tests/tavrel/reader_fixture.h"
 
 using namespace tavrel_test;
@@ -130,6 +131,32 @@ TEST_F(Reader, PageIsSetBeforeTheColoursAndTheItems)
                            QStringLiteral("canvas setCanvasBackgroundColor #ffffffff"),
                            QStringLiteral("canvas setCanvasDefaultPenColor #ff000000"),
                            QStringLiteral("factory create \"1002c\"")}));
+}
+
+TEST_F(Reader, FlagsAndColoursAreThoseOfThePage)
+{
+    // Label and ribbon types of different colours, a row of each table.
+    LegacySupplyInfo supplies;
+    const QColor label = supplies.getLabelColor(7);
+    const QColor ribbon = supplies.getRibbonColor(3);
+    ASSERT_NE(label, supplies.getLabelColor(3));
+    ASSERT_NE(ribbon, supplies.getRibbonColor(7));
+    LabelPage page;
+    page.labelType = 7;
+    page.ribbonType = 3;
+    EXPECT_TRUE(import(LabelFile(2000024, {}, page).shape(Oval)));
+    EXPECT_EQ(fake.canvas.canvasBackgroundColor(), label);
+    EXPECT_EQ(fake.canvas.canvasDefaultPenColor(), ribbon);
+
+    page.orientationCode = 1;
+    EXPECT_TRUE(import(LabelFile(2000024, {}, page).shape(Oval)));
+    page.canvasFlag = false;
+    page.orientationCode = 2;
+    EXPECT_TRUE(import(LabelFile(2000024, {}, page).shape(Oval)));
+    EXPECT_EQ(fake.calls.with("importCanvasParameters"),
+              (QStringList{QStringLiteral("canvas importCanvasParameters 288 144 yes yes"),
+                           QStringLiteral("canvas importCanvasParameters 288 144 yes no"),
+                           QStringLiteral("canvas importCanvasParameters 288 144 no yes")}));
 }
 
 TEST_F(Reader, PictureAndSymbolAreScaledByTheResolutionOfTheFile)
@@ -310,6 +337,18 @@ TEST_F(Reader, SymbolThatCannotBeConvertedIsAnError)
     EXPECT_TRUE(fake.calls.with("factory create").isEmpty());
 }
 
+TEST_F(Reader, IssuesAreToldBeforeTheCanvasIsComplete)
+{
+    QObject::connect(&reader, &LegacyTavrel::popupShowSignal, &reader, [this] {
+        EXPECT_EQ(fake.canvas.itemCount(), 1U);
+        EXPECT_TRUE(fake.calls.with("completeCanvasLoading").isEmpty());
+    });
+    const QSignalSpy shown(&reader, &LegacyTavrel::popupShowSignal);
+    EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 1)));
+    EXPECT_EQ(shown.count(), 1);
+    EXPECT_EQ(fake.calls.lines().last(), QStringLiteral("canvas completeCanvasLoading"));
+}
+
 // A host that fails
 
 TEST_F(Reader, ItemThatTheHostCannotMakeIsLeftOutAndLogged)
@@ -348,6 +387,33 @@ TEST_F(Reader, FilesInTurnDoNotMixEvenWithAFailureBetween)
                            .text(QStringLiteral("a"), QStringLiteral("2"))
                            .barcode(true, 1)));
     EXPECT_EQ(services.boxes.last().text, first);
+}
+
+TEST_F(Reader, ResolutionAndCounterAreThoseOfTheFile)
+{
+    const auto label = [](quint32 version, const LabelPage& page) {
+        LabelFile file(version, {}, page);
+        file.picture(pngOf(40, 61))
+            .text(QStringLiteral("x"), QStringLiteral("1"), QStringLiteral("_SEQUENCE"));
+        return file;
+    };
+    LabelPage page;
+    page.resolutionX = 600.0;
+    page.resolutionY = 150.0;
+    EXPECT_TRUE(import(label(2000024, page)));
+    page.orientationCode = 1;
+    page.sequenceStart = 11;
+    EXPECT_TRUE(import(label(2000023, page)));
+    EXPECT_TRUE(import(label(2000016, {})));
+    // 25/6 inches are 300 points.
+    EXPECT_EQ(fake.calls.with("setItemSize "),
+              (QStringList{QStringLiteral("item1 setItemSize 20x122"),
+                           QStringLiteral("item3 setItemSize 39.3442622951x61"),
+                           QStringLiteral("item5 setItemSize 40x60")}));
+    EXPECT_EQ(fake.calls.with("\"Start\""),
+              (QStringList{QStringLiteral("datasource1 setDatasourceProperty \"Start\" 10"),
+                           QStringLiteral("datasource2 setDatasourceProperty \"Start\" 11"),
+                           QStringLiteral("datasource3 setDatasourceProperty \"Start\" 10")}));
 }
 
 TEST_F(Reader, ServicesAreMadeOnceForAllFiles)
