@@ -28,6 +28,15 @@ TEST_F(ImportCommand, takesOneStepAfterTheOther)
     EXPECT_EQ(rememberedFolder(), QVariant(folder()));
 }
 
+TEST_F(ImportCommand, remembersTheFolderBetweenTheLabelTypeAndTheReader)
+{
+    QSettings().setValue(QStringLiteral("dir/import"), QStringLiteral("/before"));
+    FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
+    m_importer->importLegacyLabel(QString());
+    EXPECT_EQ(journal().folderAtLabelType, QVariant(QStringLiteral("/before")));
+    EXPECT_EQ(journal().folderAtReading, QVariant(folder()));
+}
+
 TEST_F(ImportCommand, stopsWhenTheUserKeepsTheChanges)
 {
     m_fileController.mayGoOn = false;
@@ -117,6 +126,7 @@ TEST_F(ImportCommand, offersOneFilterForEachFormatAndPreselectsAll)
         EXPECT_EQ(dialog.parentWidget(), nullptr);
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
         EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+        EXPECT_EQ(dialog.options(), QFileDialog::Options());
     });
     m_importer->importLegacyLabel(QString());
     EXPECT_TRUE(looked);

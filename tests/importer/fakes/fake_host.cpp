@@ -2,6 +2,8 @@
 
 #include "host/services/file_controller_tools.h"
 
+#include <QSettings>
+
 bool FakeFileController::checkSaveChanges(TalCanvasModel* canvasModel,
                                           const QString& currentFileName, bool allowDiscard)
 {
@@ -21,6 +23,7 @@ void FakeFileController::saveImportedLabelAs(const QString& folder, const QStrin
 
 void FakeFileController::emitLabelTypeLoadedSignal(QString labelType)
 {
+    journal().folderAtLabelType = QSettings().value(QStringLiteral("dir/import"));
     journal().events.append(QStringLiteral("label type '%1'").arg(labelType));
 }
 

@@ -1,6 +1,7 @@
 #include "journal/journal.h"
 
 #include <QFileInfo>
+#include <QSettings>
 
 #include <stdexcept>
 
@@ -24,6 +25,7 @@ void Journal::readerMade(const char* name, TalCanvasModel* canvasModel,
 
 bool Journal::readerCalled(const char* name, const QString& fileName)
 {
+    folderAtReading = QSettings().value(QStringLiteral("dir/import"));
     events.append(
         QStringLiteral("%1 reads %2").arg(QLatin1String(name), QFileInfo(fileName).fileName()));
     return readersSucceed;

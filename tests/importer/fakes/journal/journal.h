@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QVariant>
 
 class DatasourceController;
 class TalCanvasModel;
@@ -14,6 +15,10 @@ struct Journal
     bool nextReaderThrows = false;
     TalCanvasModel* lastCanvasModel = nullptr;
     DatasourceController* lastDatasourceController = nullptr;
+    /// The remembered folder as it was when the label type was announced.
+    QVariant folderAtLabelType;
+    /// The remembered folder as it was when a reader was given a file.
+    QVariant folderAtReading;
 
     /// What a fake reader does when it is made.
     void readerMade(const char* name, TalCanvasModel* canvasModel,
