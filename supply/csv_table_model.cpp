@@ -1,10 +1,13 @@
 #include "supply/csv_table_model.h"
 
 #include "supply/csv_fields.h"
+#include "supply/csv_line_starts.h"
 
 #include <Logger.h>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace {
 
@@ -117,28 +120,18 @@ void CsvTableModel::reset()
     m_openResult = false;
 }
 
-// A line feed inside quotes ends no line, and a backslash hides the byte behind it.
 bool CsvTableModel::findLineStarts()
 {
-    m_lineOffsets.assign(1, 0);
-    qint64 position = 0;
-    bool quoted = false;
-    for (char byte = 0; m_file.getChar(&byte);) {
-        ++position;
-        if (byte == '\\') {
-            position += m_file.getChar(&byte) ? 1 : 0;
-        } else if (byte == '"') {
-            quoted = !quoted;
-        } else if (byte == '\n' && !quoted) {
-            m_lineOffsets.push_back(position);
-        }
-        if (position > maximumFileBytes || m_lineOffsets.size() > maximumLines) {
+    CsvLineStarts starts(std::move(m_lineOffsets));
+    std::array<char, 16 * 1024> piece;
+    for (qint64 length = 0; (length = m_file.read(piece.data(), piece.size())) > 0;) {
+        starts.take({piece.data(), static_cast<size_t>(length)});
+        if (starts.position() > maximumFileBytes || starts.offsets().size() > maximumLines) {
             return false;
         }
     }
-    if (m_lineOffsets.back() < position) {
-        m_lineOffsets.push_back(position);
-    }
+    starts.finish();
+    m_lineOffsets = starts.takeOffsets();
     m_lineCount = static_cast<int>(m_lineOffsets.size()) - 1;
     return true;
 }
