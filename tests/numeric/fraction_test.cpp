@@ -102,9 +102,10 @@ INSTANTIATE_TEST_SUITE_P(DecimalsThatAreNoValue, FractionParsing,
                                          ParseCase{"nan", "1/1", 1.0}));
 
 INSTANTIATE_TEST_SUITE_P(InvalidText, FractionParsing,
-                         testing::Values(ParseCase{"", "1/1", 1.0, true},    //
-                                         ParseCase{"abc", "1/1", 1.0, true}, //
-                                         ParseCase{"1,5", "1/1", 1.0, true}, //
+                         testing::Values(ParseCase{"", "1/1", 1.0, true},      //
+                                         ParseCase{"abc", "1/1", 1.0, true},   //
+                                         ParseCase{"1e400", "1/1", 1.0, true}, //
+                                         ParseCase{"1,5", "1/1", 1.0, true},   //
                                          ParseCase{"3\xC3\xA9", "1/1", 1.0, true}));
 
 struct ReductionCase
@@ -220,6 +221,8 @@ INSTANTIATE_TEST_SUITE_P(Exact, FractionProduct,
                                          ProductCase{"1", "1/3", "1/3", 1.0 / 3.0, true},
                                          // One side reads as 1/1 and is -1.0, not decimal.
                                          ProductCase{"0", "1/2", "1/2", 0.5, true},
+                                         // What cannot be read is -1.0 too, so it is exact.
+                                         ProductCase{"abc", "1", "1/1", 1.0, true},
                                          // Within a millionth counts as agreement.
                                          ProductCase{"1.0000005", "1/2", "1/2", 0.5, true},
                                          ProductCase{"0.9999995", "1/2", "1/2", 0.5, true}));
