@@ -1,6 +1,7 @@
 #include "numeric/fraction.h"
 
 #include "numeric/overflow_error_exception.h"
+#include "numeric/plain_number.h"
 
 #include <Logger.h>
 
@@ -25,6 +26,9 @@ void logDebug(int line, const char* function, const char* format, const QByteArr
 
 quint64 unsignedOrOne(QStringView text)
 {
+    if (const std::optional<quint64> number = plainWholeNumber(text)) {
+        return *number;
+    }
     bool ok = false;
     const quint64 number = text.toULongLong(&ok);
     return ok ? number : 1;
@@ -64,6 +68,10 @@ Fraction::Fraction(const QString& text)
 {
     if (const qsizetype slash = text.indexOf(u'/'); slash >= 0) {
         readRatio(text, slash);
+        return;
+    }
+    if (const std::optional<double> number = plainDecimal(text)) {
+        m_decimal = *number;
         return;
     }
     bool ok = false;

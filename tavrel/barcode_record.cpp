@@ -1,6 +1,7 @@
 #include "tavrel/barcode_record.h"
 
 #include "tavrel/bounded_stream.h"
+#include "tavrel/field_run.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/whole_numbers.h"
 
@@ -31,16 +32,17 @@ void readSymbolSettings(QDataStream& stream, const FileContext& file, BarcodeRec
 {
     readBool(stream);
     readText(stream);
-    record.moduleWidth = roundedPoints(readInt32(stream), file.resolution.x);
-    record.textAlignment = alignmentOf(readInt32(stream));
-    record.flag1 = readBool(stream);
-    record.flag2 = readBool(stream);
-    record.flag3 = readBool(stream);
-    record.flag4 = readBool(stream);
+    const auto [dots, placement, flag1, flag2, flag3, flag4] =
+        readFields<qint32, qint32, bool, bool, bool, bool>(stream);
+    record.moduleWidth = roundedPoints(dots, file.resolution.x);
+    record.textAlignment = alignmentOf(placement);
+    record.flag1 = flag1;
+    record.flag2 = flag2;
+    record.flag3 = flag3;
+    record.flag4 = flag4;
     record.number = readText(stream).toInt();
-    record.value1 = readInt32(stream);
-    record.value2 = readInt32(stream);
-    readInt32(stream);
+    std::tie(record.value1, record.value2, std::ignore) =
+        readFields<qint32, qint32, qint32>(stream);
 }
 
 void readKeyFirst(QDataStream& stream, const FileContext& file, BarcodeRecord& record)

@@ -4,7 +4,6 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <array>
 
 namespace tavrel {
 namespace {
@@ -19,30 +18,14 @@ Value readValue(QDataStream& stream)
     return value;
 }
 
-// The length at the stream's position, which stays where it is. Cut short it counts as 0,
-// as the stream itself reads it.
-quint32 peekLength(const QDataStream& stream)
+// Where the stream does not hold what a length claims, all that is left is part of it.
+bool holds(QDataStream& stream, quint32 length)
 {
-    std::array<char, sizeof(quint32)> bytes{};
-    const qint64 count = stream.device()->peek(bytes.data(), bytes.size());
-    return count == bytes.size() ? qFromBigEndian<quint32>(bytes.data()) : 0;
-}
-
-bool claimsMoreThanIsLeft(const QDataStream& stream)
-{
-    const quint32 length = peekLength(stream);
-    return length != NullLength && length > bytesLeft(stream) - qint64(sizeof(quint32));
-}
-
-// Texts and byte arrays: the stream's own operator where the claim can be true.
-template <typename Value>
-Value readCounted(QDataStream& stream)
-{
-    if (bytesLeft(stream) >= qint64(sizeof(quint32)) && claimsMoreThanIsLeft(stream)) {
-        skipBytes(stream, bytesLeft(stream));
-        return {};
+    const qint64 left = bytesLeft(stream);
+    if (length > left) {
+        skipBytes(stream, left);
     }
-    return readValue<Value>(stream);
+    return length <= left;
 }
 
 } // namespace
@@ -85,12 +68,32 @@ QSizeF readSize(QDataStream& stream)
 
 QString readText(QDataStream& stream)
 {
-    return readCounted<QString>(stream);
+    const quint32 length = readUInt32(stream);
+    if (length == NullLength) {
+        return {};
+    }
+    if (length % sizeof(char16_t) != 0) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return {};
+    }
+    if (!holds(stream, length)) {
+        return {};
+    }
+    QString text(static_cast<qsizetype>(length / sizeof(char16_t)), Qt::Uninitialized);
+    stream.readRawData(reinterpret_cast<char*>(text.data()), static_cast<int>(length));
+    qFromBigEndian<char16_t>(text.constData(), text.size(), text.data());
+    return text;
 }
 
 QByteArray readBytes(QDataStream& stream)
 {
-    return readCounted<QByteArray>(stream);
+    const quint32 length = readUInt32(stream);
+    if (length == NullLength || !holds(stream, length)) {
+        return {};
+    }
+    QByteArray bytes(static_cast<qsizetype>(length), Qt::Uninitialized);
+    stream.readRawData(bytes.data(), static_cast<int>(length));
+    return bytes;
 }
 
 } // namespace tavrel

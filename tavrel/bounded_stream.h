@@ -27,7 +27,8 @@ double readDouble(QDataStream& stream);
 /// Width, then height.
 QSizeF readSize(QDataStream& stream);
 /// A length in bytes, then UTF-16. An odd length gives an empty text and takes nothing
-/// but the length; one beyond the end gives an empty text and the end of the stream.
+/// but the length, however large; an even one beyond the end gives an empty text and the end
+/// of the stream.
 QString readText(QDataStream& stream);
 /// A length, then bytes. One beyond the end gives no bytes and the end of the stream.
 QByteArray readBytes(QDataStream& stream);

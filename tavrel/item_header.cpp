@@ -3,6 +3,7 @@
 #include "numeric/fraction.h"
 #include "tavrel/bounded_stream.h"
 #include "tavrel/bounds.h"
+#include "tavrel/field_run.h"
 #include "tavrel/file_versions.h"
 
 namespace tavrel {
@@ -12,21 +13,19 @@ constexpr double PointsPerInch = 72.0;
 // More than a label ever had items, so that layers do not mix.
 constexpr double LayerDistance = 1000.0;
 
-void readPositionInDots(QDataStream& stream, const Resolution& resolution, ItemHeader& header)
+QPointF positionFromDots(QPointF dots, const Resolution& resolution)
 {
-    header.x = readDouble(stream) / resolution.x * PointsPerInch;
-    header.y = readDouble(stream) / resolution.y * PointsPerInch;
+    return {dots.x() / resolution.x * PointsPerInch, dots.y() / resolution.y * PointsPerInch};
 }
 
-void readPositionInInches(QDataStream& stream, const Resolution&, ItemHeader& header)
+QPointF positionFromInches(QPointF inches, const Resolution&)
 {
-    header.x = readDouble(stream) * PointsPerInch;
-    header.y = readDouble(stream) * PointsPerInch;
+    return inches * PointsPerInch;
 }
 
 constexpr std::array PositionLayouts{
-    Layout{OldestVersion, &readPositionInDots},
-    Layout{FirstWithPositionsInInches, &readPositionInInches},
+    Layout{OldestVersion, &positionFromDots},
+    Layout{FirstWithPositionsInInches, &positionFromInches},
 };
 
 double readLength(QDataStream& stream)
@@ -41,10 +40,14 @@ double readLength(QDataStream& stream)
 ItemHeader readItemHeader(QDataStream& stream, const FileContext& file, qint64 itemNumber)
 {
     ItemHeader header;
-    header.movable = !readBool(stream); // The file tells whether the item is locked.
-    layoutFor(PositionLayouts, file.version)(stream, file.resolution, header);
-    header.zValue = LayerDistance * readDouble(stream) + double(itemNumber);
-    header.rotation = readDouble(stream);
+    const auto [locked, x, y, layer, rotation] =
+        readFields<bool, double, double, double, double>(stream);
+    const QPointF position = layoutFor(PositionLayouts, file.version)({x, y}, file.resolution);
+    header.movable = !locked;
+    header.x = position.x();
+    header.y = position.y();
+    header.zValue = LayerDistance * layer + double(itemNumber);
+    header.rotation = rotation;
     header.width = readLength(stream);
     header.height = readLength(stream);
     return header;

@@ -1,6 +1,7 @@
 #include "tavrel/shape_record.h"
 
 #include "tavrel/bounded_stream.h"
+#include "tavrel/field_run.h"
 #include "tavrel/whole_numbers.h"
 
 #include <QLatin1String>
@@ -34,9 +35,10 @@ ShapeRecord readShapeRecord(QDataStream& stream, const FileContext& file, qint64
 {
     ShapeRecord record;
     record.header = readItemHeader(stream, file, itemNumber);
-    record.penWidth = penWidth(readInt32(stream), file.resolution.x);
-    record.penStyle = readInt32(stream);
-    record.fillMode = readInt32(stream);
+    const auto [dots, style, fillMode] = readFields<qint32, qint32, qint32>(stream);
+    record.penWidth = penWidth(dots, file.resolution.x);
+    record.penStyle = style;
+    record.fillMode = fillMode;
     record.name = readText(stream);
     return record;
 }

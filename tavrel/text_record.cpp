@@ -1,6 +1,7 @@
 #include "tavrel/text_record.h"
 
 #include "tavrel/bounded_stream.h"
+#include "tavrel/field_run.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/whole_numbers.h"
 
@@ -28,8 +29,7 @@ Qt::Alignment alignmentOfFlags(qint32 flags)
 
 void readFixedSize(QDataStream& stream, TextRecord& record)
 {
-    record.fixedWidth = readDouble(stream);
-    record.fixedHeight = readDouble(stream);
+    std::tie(record.fixedWidth, record.fixedHeight) = readFields<double, double>(stream);
 }
 
 void readFontSize(QDataStream& stream, const FileContext& file, TextRecord& record)
@@ -37,29 +37,34 @@ void readFontSize(QDataStream& stream, const FileContext& file, TextRecord& reco
     record.fontSize = roundedPoints(readInt32(stream), file.resolution.x);
 }
 
+// Size and style: the font's name is not taken over.
+void readFont(QDataStream& stream, const FileContext& file, TextRecord& record)
+{
+    readText(stream);
+    const auto [dots, flag1, flag2, flag3] = readFields<qint32, bool, bool, bool>(stream);
+    record.fontSize = roundedPoints(dots, file.resolution.x);
+    record.styleFlag1 = flag1;
+    record.styleFlag2 = flag2;
+    record.styleFlag3 = flag3;
+}
+
 void readPenAndFont(QDataStream& stream, const FileContext& file, TextRecord& record)
 {
-    record.penWidth = penWidth(readInt32(stream), file.resolution.x);
-    record.penStyle = readInt32(stream);
-    readText(stream);
-    readFontSize(stream, file, record);
-    record.styleFlag1 = readBool(stream);
-    record.styleFlag2 = readBool(stream);
-    record.styleFlag3 = readBool(stream);
+    const auto [dots, style] = readFields<qint32, qint32>(stream);
+    record.penWidth = penWidth(dots, file.resolution.x);
+    record.penStyle = style;
+    readFont(stream, file, record);
 }
 
 void readColours(QDataStream& stream, TextRecord& record)
 {
-    record.inverse = readBool(stream);
-    record.transparentBackground = readBool(stream);
+    std::tie(record.inverse, record.transparentBackground) = readFields<bool, bool>(stream);
 }
 
 // The first option is stored twice and old labels may hold two values: the second counts.
 void readOptions(QDataStream& stream, TextRecord& record)
 {
-    readBool(stream);
-    record.optionA = readBool(stream);
-    record.optionB = readBool(stream);
+    std::tie(std::ignore, record.optionA, record.optionB) = readFields<bool, bool, bool>(stream);
 }
 
 void readBare(QDataStream& stream, const FileContext& file, TextRecord& record)
@@ -110,8 +115,7 @@ void readContentFirst(QDataStream& stream, const FileContext& file, TextRecord& 
 void readWithTrailer(QDataStream& stream, const FileContext& file, TextRecord& record)
 {
     readContentFirst(stream, file, record);
-    readInt32(stream);
-    readInt32(stream);
+    (void)readFields<qint32, qint32>(stream);
 }
 
 constexpr std::array Layouts{

@@ -60,9 +60,11 @@ TEST(BoundedStream, ReadsBytes)
 
 TEST(BoundedStream, TextOfOddLengthTakesOnlyTheLength)
 {
-    QDataStream stream(hex("00000003 0041 00"));
-    EXPECT_EQ(readText(stream), QString());
-    EXPECT_EQ(bytesLeft(stream), 3);
+    for (const char* length : {"00000003", "00000005", "FFFFFFFD"}) {
+        QDataStream stream(hex(length) + hex("0041 00"));
+        EXPECT_EQ(readText(stream), QString()) << length;
+        EXPECT_EQ(bytesLeft(stream), 3) << length;
+    }
 }
 
 TEST(BoundedStream, GoesOnAfterABadValue)
