@@ -5,6 +5,8 @@
 
 #include "opendocument/open_office_reader.h"
 
+#include <QApplication>
+#include <QFontInfo>
 #include <QGraphicsItem>
 
 #include <gtest/gtest.h>
@@ -206,6 +208,21 @@ TEST_F(Shape, TextAtTheSecondPlaceIsAtTwoThousand)
 {
     import("<draw:rect draw:z-index=\"2\"><text:p>x</text:p></draw:rect>");
     EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 2000.001);
+}
+
+TEST_F(Shape, TextIsScaledByTheFontOfTheApplication)
+{
+    const QFontInfo font(QApplication::font());
+    const double pointsPerPixel = font.pointSizeF() / font.pixelSize();
+    ASSERT_NE(pointsPerPixel, 1.0) << "a platform on which this shows nothing";
+    Package package(stylesXml(),
+                    drawingXml("<draw:rect><text:p text:style-name=\"P\">x</text:p></draw:rect>",
+                               "<style:style style:family=\"paragraph\" style:name=\"P\">"
+                               "<style:text-properties fo:font-size=\"40pt\"/></style:style>"));
+    ASSERT_TRUE(reader.importLabelFromFile(package.write()));
+    const double size = QString::number(40.0 * pointsPerPixel, 'f', 2).toDouble();
+    EXPECT_TRUE(host.html(2).contains(u" font-size:%1pt;"_s.arg(size)))
+        << host.html(2).toStdString();
 }
 
 TEST_F(Shape, WithoutAParagraphOrVisibleTextHasNone)
