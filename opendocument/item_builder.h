@@ -19,8 +19,7 @@ class TalCanvasModel;
 
 namespace opendocument {
 
-/// Makes an item and checks its class. The item is ours until the canvas takes it.
-/// @return null, and a record in the log, when the factory gives no item of this class
+/// A new item as its owner and as the class that it is. It is ours until the canvas takes it.
 template <class Wanted>
 struct NewItem
 {

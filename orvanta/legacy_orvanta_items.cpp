@@ -8,20 +8,13 @@
 #include "orvanta/created_item.h"
 #include "orvanta/font.h"
 #include "orvanta/shape_choice.h"
+#include "orvanta/size_and_turn.h"
 
 #include <utility>
 
 using orvanta::ControlProperties;
 
 namespace {
-
-void applySizeAndTurn(Item& item, const ControlProperties& properties)
-{
-    item.setItemSize(properties.bounds.size());
-    item.setFlipHorizontal(properties.flipHorizontal);
-    item.setFlipVertical(properties.flipVertical);
-    item.setItemRotation(properties.rotation);
-}
 
 void applyFont(IFontItem& item, const ControlProperties& properties)
 {
@@ -51,7 +44,7 @@ TextItem* LegacyOrvanta::buildText(bool scalable, const ControlProperties& prope
     item->setPenColor(colors.pen);
     item->setFillColor(colors.fill);
     item->setTextColor(colors.pen);
-    applySizeAndTurn(*item, properties);
+    orvanta::applySizeAndTurn(*item, properties);
     item->setText(properties.text);
     item->setPos(properties.bounds.topLeft());
     applyFont(*item, properties);
@@ -83,7 +76,7 @@ FillableItem* LegacyOrvanta::buildShape(int shapeIndex, quint16 lineWidth, int s
     item->setFillColor(orvanta::isOutline(shapeIndex) ? orvanta::colors::Transparent : colors.fill);
     item->setPenColor(colors.pen);
     item->setPenWidth(lineWidth);
-    applySizeAndTurn(*item, turned);
+    orvanta::applySizeAndTurn(*item, turned);
     graphics->setPos(properties.bounds.topLeft());
     return item;
 }
@@ -103,7 +96,7 @@ BarcodeItem* LegacyOrvanta::buildBarcode(int hostType, const ControlProperties& 
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
     item->setBackgroundColor(colors.fill);
     item->setForegroundColor(colors.pen);
-    applySizeAndTurn(*item, properties);
+    orvanta::applySizeAndTurn(*item, properties);
     item->setPos(properties.bounds.topLeft());
     applyFont(*item, properties);
     item->setFontPointSize(orvanta::wholePoints(properties.fontSize));

@@ -8,6 +8,7 @@
 #include "orvanta/created_item.h"
 #include "orvanta/picture_content.h"
 #include "orvanta/raster_picture.h"
+#include "orvanta/size_and_turn.h"
 
 #include <QPixmap>
 
@@ -16,15 +17,6 @@
 using orvanta::ControlProperties;
 
 namespace {
-
-void applyPlace(Item& item, QGraphicsItem& graphics, const ControlProperties& properties)
-{
-    item.setItemSize(properties.bounds.size());
-    item.setFlipHorizontal(properties.flipHorizontal);
-    item.setFlipVertical(properties.flipVertical);
-    item.setItemRotation(properties.rotation);
-    graphics.setPos(properties.bounds.topLeft());
-}
 
 bool hasSize(const Item& item)
 {
@@ -70,7 +62,8 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
         logRefusal(QStringLiteral("a symbol, which the host deleted when it got it"));
         return nullptr;
     }
-    applyPlace(*item, *item, properties);
+    orvanta::applySizeAndTurn(*item, properties);
+    item->setPos(properties.bounds.topLeft());
     return item;
 }
 
@@ -94,6 +87,7 @@ QGraphicsItem* LegacyOrvanta::buildPixmap(const ControlProperties& properties,
         logRefusal(QStringLiteral("a picture, which the host deleted when it got it"));
         return nullptr;
     }
-    applyPlace(*item, *item, properties);
+    orvanta::applySizeAndTurn(*item, properties);
+    item->setPos(properties.bounds.topLeft());
     return item;
 }
