@@ -301,11 +301,24 @@ TEST_F(Frame, PicturesThatTheHostDoesNotMakeAreLeftOut)
     EXPECT_EQ(host.importedCount(), 1);
 }
 
-TEST_F(Frame, PictureThatIsMissingTakesNoPlaceInTheFlow)
+TEST_F(Frame, WhatGivesNoPictureTakesNoPlaceInTheFlow)
 {
-    importText(images({"missing.png"}, "svg:height=\"5in\"") +
-               images({"a.png"}, "svg:height=\"1in\"") + "<text:p>x</text:p>");
-    EXPECT_EQ(host.item(2)->pos(), QPointF(0, 72));
+    const QByteArray high = "svg:height=\"5in\"";
+    importText(images({"missing.png"}, high) + images({"bad.png"}, high) +
+               images({"missing.svg"}, high) + images({"bad.svg"}, high) +
+               images({"a.png"}, "svg:height=\"1in\"") + images({"c.svg"}, "svg:height=\"2in\"") +
+               "<text:p>x</text:p>");
+    EXPECT_EQ(host.item(3)->pos(), QPointF(0, 216)) << "below the two that are pictures";
+    host.refusedTypes = {KestTypes::Picture, KestTypes::Symbol};
+    importText(images({"a.png"}, high) + images({"c.svg"}, high) + "<text:p>x</text:p>");
+    EXPECT_EQ(host.item(4)->pos(), QPointF(0, 0)) << "the host makes neither";
+}
+
+TEST_F(Frame, ABoxThatTheHostDoesNotMakeTakesNoPlaceInTheFlow)
+{
+    host.refusedTypes = {KestTypes::Rectangle};
+    importText("<draw:frame svg:height=\"5in\"><draw:text-box/></draw:frame><text:p>x</text:p>");
+    EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
 }
 
 TEST_F(Frame, APictureIsDecodedOnceForManyFrames)
