@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace tavrel {
 namespace {
 
@@ -14,11 +16,13 @@ bool isEndless(const QString& path)
     return info.exists() && !info.isFile() && !info.isDir();
 }
 
-// In blocks, because one read of the whole bound would take its memory for every file.
+// In blocks, because one read of the whole bound would take its memory for every file. The size
+// is only what is expected: the file may grow meanwhile.
 QByteArray readUpTo(QFile& file, qint64 bound)
 {
     constexpr qint64 blockSize = 64 * 1024;
     QByteArray bytes;
+    bytes.reserve(std::min(file.size(), bound));
     QByteArray block;
     do {
         block = file.read(blockSize);
