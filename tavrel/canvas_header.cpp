@@ -12,7 +12,7 @@ bool CanvasHeader::isSupported() const
 
 CanvasHeader readCanvasHeader(QDataStream& stream)
 {
-    readInt32(stream); // No two programs agree on the leading word, so nothing is checked.
+    readInt32(stream); // Says nothing that reading needs; old labels hold any value here.
     CanvasHeader header;
     header.version = readUInt32(stream);
     return header;

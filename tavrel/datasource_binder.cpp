@@ -20,7 +20,8 @@ using Property = std::pair<QString, QVariant>;
 void setProperties(TalDatasource* datasource, std::initializer_list<Property> properties)
 {
     if (datasource == nullptr) {
-        // The item stays bound to the number that the host gave.
+        // The item stays bound to the number that the host gave. Logs of this room go by the
+        // reader's name, which hosts know.
         CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", __LINE__,
                           Q_FUNC_INFO)
             .write("The host does not have the data source that it has just made");
