@@ -1,5 +1,7 @@
 #include "orvanta/element_values.h"
 
+#include "numeric/plain_number.h"
+
 #include <QDomElement>
 
 namespace orvanta {
@@ -13,8 +15,12 @@ int readInteger(const QDomElement& element)
 
 double readDouble(const QDomElement& element)
 {
+    const QString text = element.text();
+    if (const std::optional<double> plain = plainDecimal(text)) {
+        return *plain;
+    }
     bool isNumber = false;
-    const double value = element.text().toDouble(&isNumber);
+    const double value = text.toDouble(&isNumber);
     return isNumber ? value : 0.0;
 }
 

@@ -48,6 +48,7 @@ private:
     qsizetype moveBehind(const char* end, qsizetype from);
     void readText();
     void readMarkup();
+    void readDeclaration();
     void readStartTag();
     void readDoctype();
     void readSubsetPart(QByteArrayView& quoted);
@@ -55,6 +56,7 @@ private:
     qsizetype skipQuoted();
     void countReferences(QByteArrayView text);
     void countElement(qint64 attributes);
+    void countNode(qint64 characters);
     void check(bool exceeded, const char* message, qint64 bound);
 
     QByteArrayView m_text;
@@ -110,31 +112,42 @@ void Scanner::readText()
     const QByteArrayView text = m_text.sliced(start, m_at - start);
     // White space between elements does not come into the tree.
     if (!std::all_of(text.begin(), text.end(), isBlank)) {
-        m_estimate += m_costs.node + m_costs.character * text.size();
+        countNode(text.size());
     }
     countReferences(text);
 }
 
+// Most markup is tags, so what is rare is told apart last.
 void Scanner::readMarkup()
 {
     m_markupStart = m_at;
-    if (at("<!--")) {
-        m_estimate +=
-            m_costs.node + m_costs.character * (moveBehind("-->", m_at + 4) - m_markupStart);
-    } else if (at("<![CDATA[")) {
-        m_estimate +=
-            m_costs.node + m_costs.character * (moveBehind("]]>", m_at + 9) - m_markupStart);
-    } else if (at("<!")) {
-        readDoctype();
-    } else if (at("<?")) {
-        m_estimate +=
-            m_costs.node + m_costs.character * (moveBehind("?>", m_at + 2) - m_markupStart);
-    } else if (at("</")) {
+    const char kind = m_at + 1 < m_text.size() ? m_text[m_at + 1] : '\0';
+    if (kind == '/') {
         moveBehind(">", m_at + 2);
         --m_depth;
+    } else if (kind == '!') {
+        readDeclaration();
+    } else if (kind == '?') {
+        countNode(moveBehind("?>", m_at + 2) - m_markupStart);
     } else {
         readStartTag();
     }
+}
+
+void Scanner::readDeclaration()
+{
+    if (at("<!--")) {
+        countNode(moveBehind("-->", m_at + 4) - m_markupStart);
+    } else if (at("<![CDATA[")) {
+        countNode(moveBehind("]]>", m_at + 9) - m_markupStart);
+    } else {
+        readDoctype();
+    }
+}
+
+void Scanner::countNode(qint64 characters)
+{
+    m_estimate += m_costs.node + m_costs.character * characters;
 }
 
 // At a quotation mark: moves behind its partner and gives the length in between.
