@@ -132,36 +132,41 @@ InputList listInputs(const InputRequest& request)
     return collector.take();
 }
 
-QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error)
+QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error, qint64 largest)
 {
     constexpr qint64 blockSize = 64 * 1024;
     QStringList names;
     QByteArray rest = device.read(blockSize);
     qint64 total = rest.size();
     const char separator = isNullSeparated || rest.contains('\0') ? '\0' : '\n';
+    bool isList = total <= largest;
     const auto keep = [&](QByteArray name) {
         if (separator == '\n' && name.endsWith('\r')) {
             name.chop(1);
         }
+        isList = isList && name.size() <= MaximumNameBytes;
         if (!name.isEmpty()) {
             names.append(QFile::decodeName(name));
         }
     };
-    for (QByteArray block = rest; !block.isEmpty();) {
+    for (QByteArray block = rest; isList && !block.isEmpty();) {
         for (qsizetype end = rest.indexOf(separator); end >= 0; end = rest.indexOf(separator)) {
             keep(rest.left(end));
             rest.remove(0, end + 1);
         }
+        // What ends a line may still be missing, or stand behind the name.
+        isList = isList && rest.size() <= MaximumNameBytes + 1;
         block = device.read(blockSize);
         rest += block;
         total += block.size();
-        if (rest.size() > MaximumNameBytes + blockSize || total > MaximumListBytes) {
-            error = QCoreApplication::translate("archive::InputList",
-                                                "The list of files is no list of file names.");
-            return {};
-        }
+        isList = isList && total <= largest;
     }
     keep(rest);
+    if (!isList) {
+        error = QCoreApplication::translate("archive::InputList",
+                                            "The list of files is no list of file names.");
+        return {};
+    }
     return names;
 }
 

@@ -46,6 +46,8 @@ inline constexpr qint64 MaximumNameBytes = 64 * 1024;
 /// first block holds a NUL, between NULs. Empty names are left out.
 ///
 /// @param error why the list could not be read, else untouched
-[[nodiscard]] QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error);
+/// @param largest bytes that the list may have
+[[nodiscard]] QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error,
+                                    qint64 largest = MaximumListBytes);
 
 } // namespace archive

@@ -37,14 +37,14 @@ Survey surveyOf(QFile& journal)
 
 } // namespace
 
-void compactJournal(const QString& path)
+void compactJournal(const QString& path, qint64 tolerated)
 {
     QFile journal(path);
     if (!journal.open(QIODevice::ReadOnly)) {
         return;
     }
     const Survey survey = surveyOf(journal);
-    if (survey.superseded < ToleratedRecords || survey.superseded < survey.last.size()) {
+    if (survey.superseded < tolerated || survey.superseded < survey.last.size()) {
         return;
     }
     QSaveFile rewritten(path);
@@ -52,7 +52,9 @@ void compactJournal(const QString& path)
         return;
     }
     for (const qint64 offset : survey.last) {
-        if (!journal.seek(offset) || rewritten.write(journal.readLine(MaximumLine)) < 0) {
+        const QByteArray line = journal.seek(offset) ? journal.readLine(MaximumLine) : QByteArray();
+        // The last one may have lost its end.
+        if (line.isEmpty() || rewritten.write(line.endsWith('\n') ? line : line + '\n') < 0) {
             return; // what was written of the new one goes away unseen
         }
     }

@@ -1,5 +1,7 @@
 #include "archive/journal_record.h"
 
+#include "jsonbounds/tree_size.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QJsonArray>
@@ -38,6 +40,10 @@ QByteArray lineOf(const JournalRecord& record)
 
 std::optional<JournalRecord> recordFromLine(const QByteArray& line)
 {
+    // Most of what a power cut leaves does not even begin as a record.
+    if (!line.startsWith('{') || jsonbounds::isLargerThan(line, MaximumLineTree)) {
+        return std::nullopt;
+    }
     const QJsonObject object = QJsonDocument::fromJson(line).object();
     const std::optional<Fate> fate = fateOfName(object.value(FateKey).toString());
     if (!fate || !object.value(InputKey).isObject()) {

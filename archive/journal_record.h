@@ -26,6 +26,10 @@ struct JournalRecord
     bool operator==(const JournalRecord&) const = default;
 };
 
+/// Bytes that the tree of a line may take: that of a label of as many data sources as there
+/// may be stays below.
+inline constexpr qint64 MaximumLineTree = 512LL * 1024 * 1024;
+
 [[nodiscard]] QByteArray lineOf(const JournalRecord& record);
 /// Nothing when the line is no whole record.
 [[nodiscard]] std::optional<JournalRecord> recordFromLine(const QByteArray& line);

@@ -24,6 +24,10 @@ inline constexpr qint64 AllPicturesBytes = 128LL << 20;
 inline constexpr qint64 PicturePixels = 32'000'000;
 inline constexpr qint64 AllPicturesPixels = 60'000'000;
 
+/// Bytes of the styles that stay for the next file, about 150,000 of them. Every file may
+/// add its own for as long as the importer lives.
+inline constexpr qint64 CarriedStylesBytes = 64LL << 20;
+
 /// Characters of one text item.
 inline constexpr qsizetype TextCharacters = 4LL << 20;
 /// Font size in points: font engines are not made for more.

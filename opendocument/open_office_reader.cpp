@@ -7,6 +7,7 @@
 #include "opendocument/limits.h"
 #include "opendocument/log.h"
 #include "opendocument/page_layout.h"
+#include "opendocument/style_memory.h"
 
 #include "host/services/common_lists.h"
 #include "host/services/symbol_creator.h"
@@ -88,6 +89,7 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
 
     const xmlbounds::Element stylesRoot = styles.documentElement();
     const xmlbounds::Element contentRoot = content.documentElement();
+    forgetTooManyStyles();
     importPageLayout(stylesRoot);
     readDefaultStyles(stylesRoot.firstChildElement(u"office:styles"_s));
     readStyles(stylesRoot.firstChildElement(u"office:styles"_s));
@@ -134,6 +136,18 @@ QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)
         return {};
     }
     return m_zipReader->fileData(name);
+}
+
+void OpenOfficeReader::forgetTooManyStyles()
+{
+    if (memoryOf(m_textStyles) + memoryOf(m_graphicStyles) <= limits::CarriedStylesBytes) {
+        return;
+    }
+    m_textStyles.clear();
+    m_graphicStyles.clear();
+    logDebug(__LINE__, Q_FUNC_INFO,
+             u"The styles of earlier files are forgotten: they take more than %1 bytes"_s.arg(
+                 limits::CarriedStylesBytes));
 }
 
 void OpenOfficeReader::importPageLayout(const xmlbounds::Element& stylesRoot)

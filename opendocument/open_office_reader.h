@@ -34,6 +34,8 @@ struct PageLayout;
 ///
 /// One reader serves one canvas for any number of files. Page size, unit and styles that one
 /// file gives stay for the next one, which may not give its own: old labels depend on it.
+/// Only when the styles of all files so far have become more than any real ones are they
+/// forgotten.
 class OpenOfficeReader
 {
 public:
@@ -62,6 +64,7 @@ private:
     [[nodiscard]] QByteArray readMember(const QString& name, qint64 largest);
 
     // Page and styles.
+    void forgetTooManyStyles();
     void importPageLayout(const xmlbounds::Element& stylesRoot);
     void readDefaultStyles(const xmlbounds::Element& officeStyles);
     void readStyles(const xmlbounds::Element& container);

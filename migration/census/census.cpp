@@ -6,14 +6,6 @@
 
 namespace migration {
 
-namespace {
-
-// As much as the most generous reader takes.
-constexpr qint64 kMaximumFile = 256LL * 1024 * 1024;
-constexpr qsizetype kLongestDetail = 80;
-
-} // namespace
-
 void Tally::addDetail(const QString& detail)
 {
     const QString shortened = detail.left(kLongestDetail);
@@ -34,6 +26,19 @@ void Census::detail(LossKind kind, const QString& detail)
     tallies[kind].addDetail(detail);
 }
 
+QString tooLargeToCount()
+{
+    return QCoreApplication::translate("migration::Census",
+                                       "The file is too large to count its objects.");
+}
+
+void refuseTooMany(Census& census)
+{
+    if (census.objects.size() > kMaximumObjects) {
+        census.unknown = tooLargeToCount();
+    }
+}
+
 QByteArray bytesToCount(const QString& fileName, QString& unknown)
 {
     QFile file(fileName);
@@ -44,8 +49,7 @@ QByteArray bytesToCount(const QString& fileName, QString& unknown)
         return {};
     }
     if (file.size() > kMaximumFile) {
-        unknown = QCoreApplication::translate("migration::Census",
-                                              "The file is too large to count its objects.");
+        unknown = tooLargeToCount();
         return {};
     }
     return file.read(kMaximumFile);

@@ -83,11 +83,26 @@ struct Census
 
 /// Most objects that are counted; every reader takes fewer.
 inline constexpr qsizetype kMaximumObjects = 1'000'000;
+/// Largest file that is counted, in bytes: as much as the most generous reader takes.
+inline constexpr qint64 kMaximumFile = 256LL * 1024 * 1024;
+/// Bytes of a package's members, as many as its reader takes.
+inline constexpr qint64 kMaximumStyles = 16LL * 1024 * 1024;
+inline constexpr qint64 kMaximumContent = 48LL * 1024 * 1024;
+/// Longest name of what was met that is kept, in letters.
+inline constexpr qsizetype kLongestDetail = 80;
 
 [[nodiscard]] Census countTavrel(const QByteArray& file);
 [[nodiscard]] Census countOrvanta(const QByteArray& file);
 [[nodiscard]] Census countOpenDocument(const QByteArray& file);
 [[nodiscard]] Census countSavedLabel(const QByteArray& file);
+
+/// Bytes that a saved label's tree may take: as many as where it is opened.
+inline constexpr qint64 kMaximumSavedTree = 3LL << 30;
+
+/// That a file is too large to be counted, for a person.
+[[nodiscard]] QString tooLargeToCount();
+/// Counting ends with the first object too many: then it is not known how many there are.
+void refuseTooMany(Census& census);
 
 /// Reads a file to count in it; empty, and `unknown` says why, for one that is too large
 /// or cannot be read.

@@ -23,10 +23,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// As much as the readers take.
-constexpr qint64 kStylesBytes = 16LL * 1024 * 1024;
-constexpr qint64 kContentBytes = 48LL * 1024 * 1024;
-
 constexpr std::array kUnits{"in"_L1, "cm"_L1, "mm"_L1, "pc"_L1};
 
 struct PageLayout
@@ -77,7 +73,7 @@ QString read(const QByteArray& xml, const Census& census, const Listener& listen
     NameTable names;
     QXmlStreamReader reader(xml);
     reader.setNamespaceProcessing(false);
-    while (!reader.atEnd() && census.objects.size() < kMaximumObjects) {
+    while (!reader.atEnd() && census.objects.size() <= kMaximumObjects) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             names.learn(reader.attributes());
@@ -304,8 +300,8 @@ QString missing(const char* name)
 Census countOpenDocument(const QByteArray& file)
 {
     Census census;
-    const auto stylesXml = zipMember(file, "styles.xml", kStylesBytes);
-    const auto contentXml = zipMember(file, "content.xml", kContentBytes);
+    const auto stylesXml = zipMember(file, "styles.xml", kMaximumStyles);
+    const auto contentXml = zipMember(file, "content.xml", kMaximumContent);
     if (!stylesXml || !contentXml) {
         census.unknown = missing(!stylesXml ? "styles.xml" : "content.xml");
         return census;
@@ -325,6 +321,7 @@ Census countOpenDocument(const QByteArray& file)
     if (used != nullptr) {
         addMasterPage(*used, census);
     }
+    refuseTooMany(census);
     notePageSize(styles, used, census);
     if (body.isText && hasMargins(styles, used)) {
         census.note(LossKind::PageMargins);

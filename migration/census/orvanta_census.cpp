@@ -221,7 +221,7 @@ Census countOrvanta(const QByteArray& file)
     }
     Counter counter(census);
     QXmlStreamReader xml(file);
-    while (!xml.atEnd() && census.objects.size() < kMaximumObjects) {
+    while (!xml.atEnd() && census.objects.size() <= kMaximumObjects) {
         switch (xml.readNext()) {
         case QXmlStreamReader::StartElement:
             counter.open(xml.qualifiedName().toString());
@@ -240,6 +240,7 @@ Census countOrvanta(const QByteArray& file)
     if (xml.hasError()) {
         census.unknown = notWellFormed(xml.errorString());
     }
+    refuseTooMany(census);
     return census;
 }
 

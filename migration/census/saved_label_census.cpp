@@ -1,5 +1,6 @@
 // The items of a saved label.
 
+#include "jsonbounds/tree_size.h"
 #include "migration/census/census.h"
 #include "migration/census/item_class.h"
 
@@ -14,6 +15,10 @@ Census countSavedLabel(const QByteArray& file)
 {
     using namespace Qt::StringLiterals;
     Census census;
+    if (jsonbounds::isLargerThan(file, kMaximumSavedTree)) {
+        census.unknown = tooLargeToCount();
+        return census;
+    }
     const QJsonValue items = QJsonDocument::fromJson(file).object()[u"label"_s][u"items"_s];
     if (!items.isArray()) {
         census.unknown =

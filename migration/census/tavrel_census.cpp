@@ -234,7 +234,7 @@ QString cutShort()
 
 void countItems(quint32 version, ByteCursor& cursor, Census& census)
 {
-    while (!cursor.atEnd() && census.objects.size() < kMaximumObjects) {
+    while (!cursor.atEnd() && census.objects.size() <= kMaximumObjects) {
         const qint32 code = cursor.takeNumber();
         if (cursor.isCut()) {
             return;
@@ -284,6 +284,7 @@ Census countTavrel(const QByteArray& file)
         census.unknown = cutShort();
         census.note(LossKind::FileCutShort);
     }
+    refuseTooMany(census);
     return census;
 }
 

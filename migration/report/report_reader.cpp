@@ -1,5 +1,6 @@
 #include "migration/report/report_reader.h"
 
+#include "jsonbounds/tree_size.h"
 #include "migration/report/report_format.h"
 
 #include <QCoreApplication>
@@ -177,10 +178,11 @@ std::optional<ReportReader::Entry> ReportReader::next()
 QByteArray ReportReader::bytesOf(const QString& fileName, const Entry& entry)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly) || !file.seek(entry.offset)) {
+    if (entry.size > kMaximumEntry || !file.open(QIODevice::ReadOnly) || !file.seek(entry.offset)) {
         return {};
     }
-    return file.read(entry.size);
+    const QByteArray bytes = file.read(entry.size);
+    return jsonbounds::isLargerThan(bytes, kMaximumEntryTree) ? QByteArray() : bytes;
 }
 
 } // namespace migration

@@ -8,6 +8,12 @@
 
 namespace migration {
 
+/// Longest entry of a report, in bytes: what a worker may say about one file.
+inline constexpr qint64 kMaximumEntry = 64LL * 1024 * 1024;
+/// Bytes that the tree of an entry may take: one of as many data sources as a label may have
+/// stays below.
+inline constexpr qint64 kMaximumEntryTree = 512LL * 1024 * 1024;
+
 /// Goes through the files of a JSON report one by one, without reading it whole.
 ///
 /// Any JSON of the format will do, however it is laid out; what stands outside the list of
@@ -28,8 +34,8 @@ public:
     };
     /// The next entry; nothing at the end of the list or after an error.
     [[nodiscard]] std::optional<Entry> next();
-    /// The bytes of an entry. Opens the file anew, so that of a thousand reports no more
-    /// than one is open.
+    /// The bytes of an entry; none when it cannot be read or is larger than any. Opens the
+    /// file anew, so that of a thousand reports no more than one is open.
     [[nodiscard]] static QByteArray bytesOf(const QString& fileName, const Entry& entry);
 
 private:

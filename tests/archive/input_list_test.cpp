@@ -161,7 +161,32 @@ TEST(InputNames, OfAnyNumberAreRead)
 
 TEST(InputNames, AreNotOfAnyLength)
 {
-    EXPECT_EQ(namesIn(QByteArray(1'000'000, 'x')), QStringList{QStringLiteral("error")});
+    const QStringList error{QStringLiteral("error")};
+    for (const char* end : {"", "\n", "\r\n", "\nb.cnv\n"}) {
+        SCOPED_TRACE(end);
+        const QByteArray longest(archive::MaximumNameBytes, 'x');
+        EXPECT_EQ(namesIn(longest + end).value(0).size(), longest.size());
+        EXPECT_EQ(namesIn("a.cnv\n" + longest + end).value(1).size(), longest.size());
+        EXPECT_EQ(namesIn(longest + "x" + end), error);
+        EXPECT_EQ(namesIn("a.cnv\n" + longest + "x" + end), error);
+    }
+    EXPECT_EQ(namesIn(QByteArray(1'000'000, 'x')), error);
+}
+
+// A list of a gigabyte would keep the test busy, so the bound is a parameter.
+TEST(InputNames, AreNotOfAnySum)
+{
+    for (const qsizetype names : {10, 30'000}) {
+        QByteArray list = QByteArray("a.cnv\n").repeated(names);
+        QBuffer buffer(&list);
+        buffer.open(QIODevice::ReadOnly);
+        QString error;
+        EXPECT_EQ(archive::readNames(buffer, false, error, list.size()).size(), names);
+        EXPECT_EQ(error, QString());
+        buffer.seek(0);
+        EXPECT_TRUE(archive::readNames(buffer, false, error, list.size() - 1).isEmpty());
+        EXPECT_NE(error, QString());
+    }
 }
 
 } // namespace

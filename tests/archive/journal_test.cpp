@@ -2,6 +2,7 @@
 
 #include "archive/journal.h"
 #include "archive/journal_compaction.h"
+#include "jsonbounds/tree_size.h"
 #include "tests/archive/test_folder.h"
 
 namespace {
@@ -75,6 +76,22 @@ TEST_F(JournalTest, IgnoresATornLine)
     archive::Journal journal;
     openIn(journal);
     EXPECT_EQ(journal.find(0), record(a)) << "the new line was added to the torn one";
+}
+
+// Four hundred megabytes are the most that a line becomes.
+TEST_F(JournalTest, HoldsNoLineThatWouldFillTheMemory)
+{
+    const QByteArray whole = archive::lineOf(record(a));
+    const auto lineWith = [&whole](qsizetype letters) {
+        const QByteArray lists = QByteArray("[0],").repeated(2'050'000);
+        return QByteArray(whole).replace("\"errors\":[", "\"more\":[" + lists + "\"" +
+                                                             QByteArray(letters, 'x') +
+                                                             "\"],\"errors\":[");
+    };
+    const qint64 taken = jsonbounds::treeBytes(lineWith(0), archive::MaximumLineTree);
+    const qint64 left = (archive::MaximumLineTree - taken) / 2; // a letter counts twice
+    EXPECT_EQ(archive::recordFromLine(lineWith(left)), record(a));
+    EXPECT_FALSE(archive::recordFromLine(lineWith(left + 1)));
 }
 
 TEST_F(JournalTest, IsOneOfSeveralWhenAnArchiveIsShared)

@@ -124,6 +124,35 @@ TEST_F(ArchiveResume, GoesOnBehindATornJournal)
     EXPECT_EQ(resumed(), QStringLiteral("rr"));
 }
 
+// Whatever a power cut makes of the journal, outputs that stand whole go on standing as they
+// are: either they are known and left, or they are nobody's and not overwritten.
+TEST_F(ArchiveResume, KeepsWholeOutputsWhateverBecameOfTheJournal)
+{
+    run();
+    const QString journal = QStringLiteral("out/.labelport-journal.jsonl");
+    const QByteArray lines = folder.read(journal);
+    const QByteArray before = output(QStringLiteral("a.png"));
+    const qsizetype half = lines.size() / 2;
+    const auto zeros = [](qsizetype count) { return QByteArray(count, '\0'); };
+    const QList<QByteArray> damages{{},
+                                    zeros(4096),
+                                    lines.left(half),
+                                    lines.left(half) + zeros(lines.size() - half),
+                                    zeros(half) + lines.mid(half),
+                                    lines.left(half) + lines,
+                                    QByteArray(lines).replace("\n", ""),
+                                    QByteArray(lines).replace("{", "[").replace("}", "]"),
+                                    QByteArray(lines).replace("\"size\":", "\"size\":-1e300,\"\":"),
+                                    lines + QByteArray("[").repeated(100'000)};
+    for (const QByteArray& damage : damages) {
+        SCOPED_TRACE(damage.left(60).toStdString());
+        folder.write(journal, damage);
+        EXPECT_EQ(resumed().remove(QLatin1Char('r')).remove(QLatin1Char('f')), QString());
+        EXPECT_EQ(output(QStringLiteral("a.png")), before);
+        EXPECT_EQ(strays(), QStringList());
+    }
+}
+
 TEST_F(ArchiveResume, KnowsTheWorkOfAllParts)
 {
     for (int number = 1; number <= 2; ++number) {

@@ -35,7 +35,7 @@ public:
     {
         EXPECT_TRUE(archive::resultFromLine(line));
         workers.append(m_folder.read(QStringLiteral("staged.png")));
-        return task == wornAfter ? archive::WorkerPool::MaximumMemory : 0;
+        return archive::WorkerPool::MaximumMemory - (task == wornAfter ? 0 : 1);
     }
 
     void taskDied(qsizetype, const archive::WorkerDeath&) override { ADD_FAILURE(); }

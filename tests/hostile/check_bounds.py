@@ -10,7 +10,7 @@ import re
 import sys
 
 ROOMS = ("numeric", "supply", "imagebounds", "xmlbounds", "tavrel", "orvanta", "opendocument",
-         "importer", "workbench", "recorder", "archive")
+         "importer", "workbench", "recorder", "migration", "jsonbounds", "archive")
 CONSTANT = re.compile(r"constexpr\s+[\w:]+\s+(k?[A-Z]\w*)\s*=\s*([^;]+);")
 # A bound is called one, or stands in a header of them.
 BOUND_NAME = re.compile(r"^k?(Maximum|Most|Largest|Longest)[A-Z]")

@@ -7,7 +7,9 @@
 #include "opendocument/limits.h"
 #include "opendocument/open_office_reader.h"
 #include "opendocument/picture_store.h"
+#include "opendocument/style_memory.h"
 #include "opendocument/zip_directory.h"
+#include "xmlbounds/markup_scanner.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -98,6 +100,55 @@ TEST_F(OpenDocumentBounds, MeasureTheXmlMembers)
     const QByteArray content(limits::ContentBytes, ' ');
     EXPECT_TRUE(messageFor(stylesXml(), content).startsWith(u"Error parsing file"_s));
     EXPECT_EQ(messageFor(stylesXml(), content + ' '), u"Unable to get file content."_s);
+}
+
+TEST_F(OpenDocumentBounds, MeasureTheTreeOfTheStyles)
+{
+    const auto styles = [](qsizetype letters) {
+        return "<a>" + QByteArray("<b/>").repeated(600'000) + QByteArray(letters, 'x') + "</a>";
+    };
+    const auto fits = [&styles](qsizetype letters) {
+        return !xmlbounds::findExcess(styles(letters), limits::StylesTreeBytes,
+                                      xmlbounds::CompactCosts);
+    };
+    qsizetype most = 0;
+    for (qsizetype step = 1 << 23; step > 0; step /= 2) {
+        most += fits(most + step) ? step : 0;
+    }
+    ASSERT_GT(most, 1'000'000);
+    const QString tooLarge = u"The document is too large"_s;
+    EXPECT_FALSE(messageFor(styles(most), "<damaged").contains(tooLarge));
+    EXPECT_TRUE(messageFor(styles(most + 1), "<damaged").contains(tooLarge));
+}
+
+// Every file adds a style with a long name.
+TEST_F(OpenDocumentBounds, MeasureTheStylesThatStay)
+{
+    const auto import = [this](const QByteArray& styles, const QByteArray& shapes) {
+        return reader.importLabelFromFile(Package(stylesXml(), drawingXml(shapes, styles)).write());
+    };
+    const auto named = [](const QByteArray& name) {
+        return "<style:style style:family=\"graphic\" style:name=\"" + name +
+               "\"><style:graphic-properties draw:fill-color=\"#040506\"/></style:style>";
+    };
+    const auto fill = [&] {
+        EXPECT_TRUE(import({}, "<draw:rect draw:style-name=\"g\"/>"));
+        return host.lastCall(host.createdCount(), u"setFillColor"_s);
+    };
+    QMap<QString, OOGraphicStyle> one{{u"g"_s, OOGraphicStyle()}};
+    one[u"g"_s].fillColor = u"#040506"_s;
+    const auto memoryOfName = [&one](qint64 size) { return memoryOf(one) + 2 * (size - 1); };
+    constexpr qint64 longName = 4'000'000;
+    ASSERT_TRUE(import(named("g"), {}));
+    qint64 left = limits::CarriedStylesBytes - memoryOfName(1);
+    for (char letter = 'a'; left > 2 * memoryOfName(longName); ++letter) {
+        ASSERT_TRUE(import(named(QByteArray(longName, letter)), {}));
+        left -= memoryOfName(longName);
+    }
+    ASSERT_TRUE(import(named(QByteArray((left - memoryOfName(0)) / 2, 'z')), {}));
+    EXPECT_EQ(fill(), u"#ff040506"_s) << "just as much as may stay";
+    ASSERT_TRUE(import(named("j"), {}));
+    EXPECT_NE(fill(), u"#ff040506"_s) << "a style too many";
 }
 
 TEST_F(OpenDocumentBounds, CountThePixelsOfAPicture)

@@ -111,6 +111,14 @@ TEST(ZipDirectory, TellsADamagedPackageFromNone)
     EXPECT_TRUE(directory.isPackage());
 }
 
+TEST(ZipDirectory, FindsThePackageBeforeTheLongestComment)
+{
+    constexpr qsizetype longest = 65535;
+    EXPECT_EQ(openingOf(packed() + QByteArray(longest, 'x')), QString());
+    EXPECT_TRUE(openingOf(packed() + QByteArray(longest + 1, 'x'))
+                    .startsWith(u"The file is no zip package"_s));
+}
+
 TEST(ZipDirectory, RefusesADamagedTableOfContents)
 {
     const QByteArray zip = packed();

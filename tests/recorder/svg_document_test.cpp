@@ -142,7 +142,9 @@ TEST(SvgDocument, refusesWhatIsTooLarge)
     EXPECT_FALSE(isTaken("", style(32 * 1024)));
     EXPECT_TRUE(isTaken("", "<text>" + QByteArray(32 * 1024 + 1, ' ') + "</text>"));
 
-    EXPECT_FALSE(isTaken("id='" + QByteArray(16 * 1024 * 1024, 'x') + '\'', ""));
+    const qsizetype rest = 16 * 1024 * 1024 - svg("width='4' height='4' ", "").size();
+    EXPECT_TRUE(isTaken("", QByteArray(rest, ' ')));
+    EXPECT_FALSE(isTaken("", QByteArray(rest + 1, ' ')));
 }
 
 TEST(SvgDocument, countsThePixelsOfItsPictures)
@@ -201,6 +203,9 @@ TEST(SvgDocument, refusesCopiesOfCopiesWhereTheSizeHangsOnThem)
         const QByteArray copy = "<use xlink:href='#p" + QByteArray::number(i - 1) + "'/>";
         parts += "<g id='p" + QByteArray::number(i) + "'>" + copy + copy + "</g>";
     }
+    const QByteArray copies = "<g id='a'/>" + QByteArray("<use xlink:href='#a'/>").repeated(30);
+    EXPECT_TRUE(SvgDocument(svg("", copies + "<rect width='1' height='1'/>")).isValid());
+    EXPECT_FALSE(SvgDocument(svg("", copies + "<use xlink:href='#a'/>")).isValid());
     EXPECT_FALSE(SvgDocument(svg("", parts)).isValid());
     EXPECT_FALSE(SvgDocument(svg("viewBox='0 0 0 0'", parts)).isValid());
     EXPECT_FALSE(SvgDocument(svg("width='10'", parts)).isValid());

@@ -5,7 +5,9 @@
 #include "tavrel/whole_file.h"
 #include "tests/tavrel/reader_fixture.h"
 
+#include <QBuffer>
 #include <QDataStream>
+#include <QImage>
 #include <QTemporaryFile>
 
 using namespace tavrel;
@@ -81,6 +83,19 @@ TEST_F(TavrelBounds, CountThePixelsOfAFile)
 {
     EXPECT_EQ(pixelsTakenBy(100, 100), 100);
     EXPECT_EQ(pixelsTakenBy(101, 100), 0);
+    static_assert(MaximumPixelsPerFile == 8192 * 4096);
+    const auto import = [this](int width, int height) {
+        QImage image(width, height, QImage::Format_Mono);
+        image.fill(1);
+        QBuffer png;
+        png.open(QIODevice::WriteOnly);
+        image.save(&png, "PNG");
+        return ReaderTest::import(LabelFile().picture(png.data()));
+    };
+    EXPECT_TRUE(import(8192, 4096));
+    EXPECT_TRUE(errors().isEmpty());
+    EXPECT_TRUE(import(8192, 4097));
+    EXPECT_EQ(errors().size(), 1);
 }
 
 } // namespace

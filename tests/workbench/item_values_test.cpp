@@ -245,7 +245,10 @@ TEST(ItemValues, LengthsAndAnglesThatNoLabelHasAreBounded)
     for (const BadNumber& row :
          {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, workbench::kMaximumLength},
           BadNumber{-kInfinity, -workbench::kMaximumLength},
-          BadNumber{1e308, workbench::kMaximumLength}, BadNumber{-3.0, -3.0}}) {
+          BadNumber{1e308, workbench::kMaximumLength},
+          BadNumber{workbench::kMaximumLength - 1, workbench::kMaximumLength - 1},
+          BadNumber{workbench::kMaximumLength + 1, workbench::kMaximumLength},
+          BadNumber{-3.0, -3.0}}) {
         SCOPED_TRACE(row.given);
         Painted page;
         auto& item = page.make<Item>(KestTypes::Rectangle);
@@ -266,7 +269,10 @@ TEST(ItemValues, PositionsThatNoLabelHasAreBounded)
     // -1000000001 is what importers pass for a coordinate that a file does not give.
     for (const BadNumber& row :
          {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, 0.0}, BadNumber{-1'000'000'001.0, 0.0},
-          BadNumber{1e300, workbench::kMaximumCoordinate}, BadNumber{-50.0, -50.0}}) {
+          BadNumber{1e300, workbench::kMaximumCoordinate},
+          BadNumber{workbench::kMaximumCoordinate - 1, workbench::kMaximumCoordinate - 1},
+          BadNumber{workbench::kMaximumCoordinate + 1, workbench::kMaximumCoordinate},
+          BadNumber{-50.0, -50.0}}) {
         SCOPED_TRACE(row.given);
         Painted page;
         auto& item = page.make<QGraphicsItem>(KestTypes::Rectangle);
@@ -294,6 +300,10 @@ TEST(ItemValues, AFontSizeOfZeroOrLessKeepsTheLastOne)
         item.setFontPointSize(size);
         EXPECT_EQ(valuesOf(item).font->pointSize, 9);
     }
-    item.setFontPointSize(std::numeric_limits<int>::max());
-    EXPECT_EQ(valuesOf(item).font->pointSize, workbench::kMaximumFontSize);
+    item.setFontPointSize(workbench::kMaximumFontSize - 1);
+    EXPECT_EQ(valuesOf(item).font->pointSize, workbench::kMaximumFontSize - 1);
+    for (const int size : {workbench::kMaximumFontSize + 1, std::numeric_limits<int>::max()}) {
+        item.setFontPointSize(size);
+        EXPECT_EQ(valuesOf(item).font->pointSize, workbench::kMaximumFontSize);
+    }
 }

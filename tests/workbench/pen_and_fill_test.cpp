@@ -233,6 +233,14 @@ TEST(Fill, HatchLinesCoverTheAreaWhereverItBegins)
 TEST(Fill, AHatchOverAHugeAreaHasABoundedNumberOfLines)
 {
     EXPECT_LE(workbench::hatchLines(QRectF(0, 0, 1e9, 1e9), Qt::DiagCrossPattern).size(), 4'010);
+    // One line every six points, until there are 2,000 steps; then the steps grow.
+    const auto linesOf = [](int steps) {
+        return workbench::hatchLines(QRectF(0, 0, 6.0 * steps, 6.0), Qt::VerPattern).size();
+    };
+    EXPECT_EQ(linesOf(1'999), 2'000);
+    EXPECT_EQ(linesOf(2'000), 2'001);
+    EXPECT_NEAR(double(linesOf(2'001)), 2'000.0, 1.0);
+    EXPECT_NEAR(double(linesOf(4'000)), 2'000.0, 1.0);
     EXPECT_TRUE(workbench::hatchLines(QRectF(), Qt::CrossPattern).isEmpty());
 }
 

@@ -29,6 +29,21 @@ TEST(TextBounds, ALongSimpleTextIsPainted)
     EXPECT_FALSE(page.ink().isEmpty());
 }
 
+TEST(TextBounds, LettersAndLinesBeyondTheBoundTakeNoRoom)
+{
+    const auto sizeOf = [](const QString& text) {
+        Painted page;
+        const SimpleTextItem& item = putLabel(page, text, 12);
+        return QSizeF(item.getItemWidth(), item.getItemHeight());
+    };
+    const QSizeF most = sizeOf(QString(10'000, u'x'));
+    EXPECT_LT(sizeOf(QString(9'999, u'x')).width(), most.width());
+    EXPECT_EQ(sizeOf(QString(10'001, u'x')), most);
+    const QSizeF tallest = sizeOf(QString(4'999, u'\n'));
+    EXPECT_LT(sizeOf(QString(4'998, u'\n')).height(), tallest.height());
+    EXPECT_EQ(sizeOf(QString(5'000, u'\n')), tallest);
+}
+
 TEST(TextBounds, ALongScaledTextIsPainted)
 {
     Painted page;

@@ -87,9 +87,14 @@ TEST(SequenceSource, PutsTheNumberBetweenItsTextsAndFillsItUp)
         source.setDatasourceProperty(QStringLiteral("ZeroPad"), row.zeroPad);
         EXPECT_EQ(source.value(0), QString::fromUtf8(row.shown));
     }
-    SequenceSource monstrous = sequence(1, 1, 1);
-    monstrous.setDatasourceProperty(QStringLiteral("ZeroPad"), Highest);
-    EXPECT_EQ(monstrous.value(0)->size(), SequenceSource::MaximumZeroPad);
+    constexpr int most = SequenceSource::MaximumZeroPad;
+    const std::pair<int, int> pads[] = {
+        {most - 1, most - 1}, {most, most}, {most + 1, most}, {Highest, most}};
+    for (const auto& [asked, given] : pads) {
+        SequenceSource monstrous = sequence(1, 1, 1);
+        monstrous.setDatasourceProperty(QStringLiteral("ZeroPad"), asked);
+        EXPECT_EQ(monstrous.value(0)->size(), given);
+    }
 }
 
 TEST(SequenceSource, KeepsWhatItCannotTakeAsItWas)
@@ -161,7 +166,9 @@ TEST(SystemSource, ShowsTheWantedFields)
 
 TEST(SystemSource, ShowsNothingForAMonstrousFormat)
 {
-    EXPECT_EQ(systemSource(QString(SystemSource::MaximumFormat + 1, u'd'), {}).value(0), QString());
+    const QString most = QStringLiteral("'x'").leftJustified(SystemSource::MaximumFormat);
+    EXPECT_TRUE(systemSource(most, {}).value(0)->startsWith(u'x'));
+    EXPECT_EQ(systemSource(most + u' ', {}).value(0), QString());
 }
 
 TEST(TextListSource, StepsThroughItsTexts)

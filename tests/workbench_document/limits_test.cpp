@@ -1,5 +1,6 @@
 // Every limit of saved labels at its last good value and at the first bad one.
 
+#include "jsonbounds/tree_size.h"
 #include "workbench/document/document_limits.h"
 #include "workbench/document/file_bounds.h"
 #include "workbench/document/json_values.h"
@@ -105,13 +106,16 @@ TEST(LabelLimits, CountItems)
     EXPECT_EQ(errorOf(withItems(items)), "The label file is damaged: items is longer than 500000.");
 }
 
-TEST(LabelLimits, CountValues)
+// The parser makes gigabytes of the largest text that is taken, so that one is only asked for.
+TEST(LabelLimits, MeasureTheParsersTree)
 {
-    const QByteArray most = QByteArray("0,").repeated(limits::Values - 1) + "00";
-    EXPECT_FALSE(hasTooManyValues(most));
-    EXPECT_TRUE(hasTooManyValues(most + ",0"));
-    EXPECT_FALSE(hasTooManyValues(most + "\",,\\\",\"")) << "in a text they separate nothing";
-    EXPECT_EQ(fromJson("[" + QByteArray("0,").repeated(limits::Values) + "0]").error,
+    const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(1'840'000);
+    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", limits::TreeBytes);
+    const qint64 left = (limits::TreeBytes - taken) / 2; // a letter counts twice
+    const QByteArray most = lists + "\"" + QByteArray(left, 'x');
+    ASSERT_LT(most.size(), limits::FileBytes);
+    EXPECT_FALSE(jsonbounds::isLargerThan(most + "\"", limits::TreeBytes));
+    EXPECT_EQ(fromJson(most + "x\"").error,
               QStringLiteral("The label file is damaged: it holds more than any label."));
 }
 
@@ -125,8 +129,9 @@ TEST(LabelLimits, MeasureAPicturesSide)
 
 TEST(LabelLimits, MeasureAPicturesArea)
 {
-    static_assert(limits::PicturePixels == 10'000 * 10'000);
-    EXPECT_FALSE(isPicture(10'001, 10'000));
+    static_assert(limits::PicturePixels == 8192 * 4096);
+    EXPECT_TRUE(isPicture(8192, 4096));
+    EXPECT_FALSE(isPicture(8193, 4096));
 }
 
 TEST(LabelLimits, CountThePixelsOfAllPictures)

@@ -66,6 +66,34 @@ TEST(SvgLimits, CountThePixelsOfAllPictures)
     EXPECT_EQ(kept("<image", most + image(pngOf(1, 1))), 4);
 }
 
+// The root, a group of n paths, and copies of the group: each is its own element, the group, and n.
+TEST(SvgLimits, CountWhatIsDrawn)
+{
+    constexpr int paths = 998;
+    constexpr int copies = 999;
+    static_assert(limits::DrawnElements == 1 + (1 + paths) + copies * (2 + paths));
+    const QByteArray most = "<g id='a'>" + QByteArray("<path/>").repeated(paths) + "</g>" +
+                            QByteArray("<use href='#a'/>").repeated(copies);
+    EXPECT_TRUE(sanitizeSvg(svg(most)));
+    EXPECT_FALSE(sanitizeSvg(svg(most + "<path/>")));
+}
+
+// Three numbers, each perhaps as large as the largest, over the length of a dash and its gap.
+TEST(SvgLimits, CountDashes)
+{
+    static_assert(limits::Dashes == 3 * 1e8 / 6);
+    EXPECT_EQ(kept("dasharray", "<path d='M0 0H1e8' stroke-dasharray='6'/>"), 1);
+    EXPECT_EQ(kept("dasharray", "<path d='M0 0H1e8' stroke-dasharray='5.99'/>"), 0);
+}
+
+TEST(SvgLimits, HoldFontSizes)
+{
+    static_assert(limits::FontSize == 10'000.0);
+    EXPECT_EQ(kept("font-size=\"10000\"", "<text font-size='10000'>t</text>"), 1);
+    EXPECT_EQ(kept("font-size=\"10000\"", "<text font-size='10001'>t</text>"), 1);
+    EXPECT_EQ(kept("font-size=\"9999\"", "<text font-size='9999'>t</text>"), 1);
+}
+
 TEST(SvgLimits, HoldCoordinates)
 {
     static_assert(limits::Coordinate == 1e9);

@@ -11,12 +11,13 @@ inline constexpr qint64 FileBytes = 256 * 1024 * 1024;
 inline constexpr qsizetype Items = 500'000;
 /// Width or height of a picture, in pixels.
 inline constexpr int PictureSide = 30'000;
-/// Pixels of one picture.
-inline constexpr qint64 PicturePixels = 100'000'000;
+/// Pixels of one picture: as many as any reader brings, and as Qt decodes.
+inline constexpr qint64 PicturePixels = 32 * 1024 * 1024;
 /// Pixels of all pictures of a label: as many as any reader brings, and not more because a
 /// picture of one colour takes next to nothing in a file.
 inline constexpr qint64 AllPicturePixels = 150'000'000;
-/// Values of a file, of all kinds and on all levels. An item has about thirty.
-inline constexpr qint64 Values = 20'000'000;
+/// Bytes of the parser's tree, as jsonbounds has it. A file of nothing but items, as large as
+/// a file may be, takes eleven times its size.
+inline constexpr qint64 TreeBytes = 3LL << 30;
 
 } // namespace workbench::document::limits

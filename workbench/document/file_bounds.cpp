@@ -32,24 +32,6 @@ constexpr qsizetype HeaderTextSize = HeaderSize / 3 * 4;
 
 } // namespace
 
-bool hasTooManyValues(const QByteArray& json)
-{
-    if (json.size() < 2 * limits::Values)
-        return false; // A value takes two bytes at least, its comma counted.
-    qint64 values = 1;
-    bool inText = false;
-    for (qsizetype at = 0; at < json.size() && values <= limits::Values; ++at) {
-        const char letter = json[at];
-        if (letter == '"')
-            inText = !inText;
-        else if (inText && letter == '\\')
-            ++at; // What it escapes is no end.
-        else if (!inText && letter == ',')
-            ++values;
-    }
-    return values > limits::Values;
-}
-
 qint64 claimedPixels(const QJsonObject& label)
 {
     qint64 pixels = 0;

@@ -2,15 +2,10 @@
 
 #include "workbench/document/saved_label.h"
 
-#include <QByteArray>
 #include <QJsonObject>
 
 /// What a saved label's file asks for as a whole, found out before it is taken.
 namespace workbench::document {
-
-/// Whether the text holds more values than a label may have. Each takes many times its size
-/// in the file once it is parsed.
-[[nodiscard]] bool hasTooManyValues(const QByteArray& json);
 
 /// The pixels of all pictures by what their own headers say; none of them is decoded.
 [[nodiscard]] qint64 claimedPixels(const QJsonObject& label);

@@ -1,5 +1,7 @@
 #include "workbench/document/label_json.h"
 
+#include "jsonbounds/tree_size.h"
+#include "workbench/document/document_limits.h"
 #include "workbench/document/field_archives.h"
 #include "workbench/document/file_bounds.h"
 
@@ -74,7 +76,7 @@ QByteArray toJson(const SavedLabel& label)
 
 ReadLabel fromJson(const QByteArray& bytes)
 {
-    if (hasTooManyValues(bytes))
+    if (jsonbounds::isLargerThan(bytes, limits::TreeBytes))
         return refusal(Words::tr("The label file is damaged: it holds more than any label."));
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);

@@ -62,7 +62,7 @@ constexpr std::array<PixelKind, 3> PixelKinds{{
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "png");
     reader.setAutoDetectImageFormat(false);
-    // Its own limit is in bytes and lower than ours; the size is checked here instead.
+    // Its own limit is as high, at four bytes a pixel, but a program may have changed it.
     const QSize size = reader.size();
     const bool fits = size.width() > 0 && size.height() > 0 &&
                       size.width() <= limits::PictureSide && size.height() <= limits::PictureSide &&

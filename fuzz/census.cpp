@@ -1,0 +1,44 @@
+// What a file holds, counted by the code that shares nothing with the readers.
+
+#include "migration/census/census.h"
+#include "fuzz/harness.h"
+#include "fuzz/legacy_file.h"
+
+namespace {
+
+migration::Census counted(Format format, const QByteArray& file)
+{
+    switch (format) {
+    case Format::OpenDocument:
+        return migration::countOpenDocument(file);
+    case Format::Orvanta:
+        return migration::countOrvanta(file);
+    case Format::SavedLabel:
+        return migration::countSavedLabel(file);
+    case Format::Tavrel:
+        break;
+    }
+    return migration::countTavrel(file);
+}
+
+} // namespace
+
+void fuzzOneInput(const QByteArray& input)
+{
+    const Format format = formatOf(input);
+    const migration::Census whole = counted(format, input);
+    // A master page may add to what the bound lets through.
+    if (whole.objects.size() > 2 * migration::kMaximumObjects) {
+        qFatal("more objects were counted than may be");
+    }
+    const migration::Census part = counted(format, input.left(input.size() * 2 / 3));
+    if (format == Format::Tavrel && part.objects.size() > whole.objects.size()) {
+        qFatal("a part of a file holds more than the whole");
+    }
+    // XML that ends too early is damaged, and so is JSON.
+    const bool knowsItsEnd = format == Format::Orvanta || format == Format::SavedLabel;
+    if (knowsItsEnd && whole.unknown.isEmpty() && part.unknown.isEmpty() &&
+        part.objects.size() != whole.objects.size()) {
+        qFatal("a document that is cut off within its objects is taken for whole");
+    }
+}

@@ -1,0 +1,82 @@
+// A file of any format, imported by the real host and reported on.
+
+#include "fuzz/harness.h"
+#include "fuzz/legacy_file.h"
+#include "migration/losses/item_losses.h"
+#include "migration/make_report.h"
+#include "workbench/import/label_import.h"
+
+#include <QJsonDocument>
+
+#include <numeric>
+
+using namespace migration;
+
+namespace {
+
+ReaderKind readerOf(Format format)
+{
+    switch (format) {
+    case Format::OpenDocument:
+        return ReaderKind::OpenDocument;
+    case Format::Orvanta:
+        return ReaderKind::Orvanta;
+    case Format::SavedLabel:
+    case Format::Tavrel:
+        break;
+    }
+    return ReaderKind::Tavrel;
+}
+
+qint64 sumOf(const QList<KindCount>& kinds)
+{
+    return std::accumulate(kinds.begin(), kinds.end(), qint64(0),
+                           [](qint64 sum, const KindCount& kind) { return sum + kind.count; });
+}
+
+qint64 lostObjects(const FileReport& report)
+{
+    return std::accumulate(report.lost.begin(), report.lost.end(), qint64(0),
+                           [](qint64 sum, const Finding& finding) {
+                               return sum + (finding.countsObjects ? finding.count : 0);
+                           });
+}
+
+// What is on the label is in the file, and what is not on it is listed.
+void checkNumbers(const FileReport& report)
+{
+    if (!report.objectsInFile || report.status != Status::Imported) {
+        return;
+    }
+    if (report.objectsImported + lostObjects(report) != *report.objectsInFile) {
+        qFatal("%lld objects came over and %lld did not, of %lld in the file",
+               static_cast<long long>(report.objectsImported),
+               static_cast<long long>(lostObjects(report)),
+               static_cast<long long>(*report.objectsInFile));
+    }
+    if (sumOf(report.whole) > sumOf(report.items)) {
+        qFatal("more items came over whole than there are");
+    }
+}
+
+void checkWriting(const FileReport& report)
+{
+    const QByteArray json = QJsonDocument(toJson(report)).toJson();
+    const auto again = fileReportFromJson(QJsonDocument::fromJson(json).object());
+    if (!again || QJsonDocument(toJson(*again)).toJson() != json) {
+        qFatal("a report that was written is read as another");
+    }
+}
+
+} // namespace
+
+void fuzzOneInput(const QByteArray& input)
+{
+    const ReaderKind reader = readerOf(formatOf(input));
+    const MemoryFile file(input);
+    const workbench::ImportResult result = workbench::importLabel(file.path(), reader);
+    const FileReport report = makeFileReport(file.path(), QStringLiteral("input"), reader, result,
+                                             {.thumbnail = false, .itemList = true});
+    checkNumbers(report);
+    checkWriting(report);
+}

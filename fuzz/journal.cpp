@@ -1,0 +1,91 @@
+// A damaged journal, as a power cut leaves one: what stands whole in it is known, and goes on
+// being known.
+
+#include "archive/journal.h"
+#include "archive/journal_compaction.h"
+#include "fuzz/harness.h"
+#include "fuzz/scratch_folder.h"
+
+#include <QFileInfo>
+
+namespace {
+
+using Records = QList<std::optional<archive::JournalRecord>>;
+
+constexpr char FileName[] = ".labelport-journal.jsonl";
+
+QList<archive::Input> inputs()
+{
+    QList<archive::Input> list;
+    for (const char* name : {"/in/a.cnv", "/in/b.odt", "/in/intact.qmtx"}) {
+        list.append({QString::fromLatin1(name), QString::fromLatin1(name), {}});
+    }
+    return list;
+}
+
+archive::JournalRecord intactRecord()
+{
+    return {{QStringLiteral("/in/intact.qmtx"), 12, 34},
+            QStringLiteral("options"),
+            QStringLiteral("1.0"),
+            archive::Fate::Done,
+            {},
+            {{QStringLiteral("intact.png"), 56, 78}},
+            {}};
+}
+
+// What the journal says of all inputs; with a record to add, what it says after that.
+Records recordsOf(const archive::JournalRecord* added = nullptr)
+{
+    archive::Journal journal;
+    const QString folder = QFileInfo(scratchPath(FileName)).path();
+    if (!journal.open(folder, {}, inputs()).isEmpty()) {
+        qFatal("a damaged journal cannot be opened");
+    }
+    if (added != nullptr && !journal.append(*added)) {
+        qFatal("nothing can be added to a damaged journal");
+    }
+    Records records;
+    for (qsizetype index = 0; index < inputs().size(); ++index) {
+        records.append(journal.find(index));
+    }
+    return records;
+}
+
+void checkWriting(const archive::JournalRecord& record)
+{
+    const QByteArray line = archive::lineOf(record);
+    const auto again = archive::recordFromLine(line);
+    if (line.count('\n') != 1 || !again || archive::lineOf(*again) != line) {
+        qFatal("a record that was written is read as another");
+    }
+    // Only looks, whatever the paths are.
+    (void)archive::untouchedOutputs(record, QStringLiteral("/nowhere"));
+}
+
+} // namespace
+
+void fuzzOneInput(const QByteArray& input)
+{
+    if (input.contains("intact")) {
+        return; // a second word on this file would count
+    }
+    const archive::JournalRecord intact = intactRecord();
+    writeScratch(FileName, archive::lineOf(intact) + input);
+    const Records first = recordsOf(&intact);
+    if (first.last() != intact) {
+        qFatal("damage behind a record has hidden it");
+    }
+    for (const auto& record : first) {
+        if (record) {
+            checkWriting(*record);
+        }
+    }
+    if (recordsOf() != first) {
+        qFatal("a record that was added is lost, or another one with it");
+    }
+    archive::compactJournal(scratchPath(FileName), 0);
+    if (recordsOf() != first) {
+        qFatal("a journal that was written anew says something else");
+    }
+}

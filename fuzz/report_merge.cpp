@@ -1,0 +1,52 @@
+// A JSON report of another machine, merged into reports.
+
+#include "fuzz/harness.h"
+#include "fuzz/scratch_folder.h"
+#include "migration/report_writer.h"
+
+namespace {
+
+QString merged(const char* from, const char* to)
+{
+    return migration::mergeReports({scratchPath(from)}, scratchPath(to));
+}
+
+qsizetype scriptsOf(const QByteArray& page)
+{
+    return page.toLower().count("<script") + page.toLower().count("</script");
+}
+
+qsizetype scriptsOfAnyPage()
+{
+    static const qsizetype scripts = [] {
+        migration::ReportWriter writer(scratchPath("empty.html"));
+        if (!writer.finish().isEmpty()) {
+            qFatal("a report cannot be written");
+        }
+        return scriptsOf(readScratch("empty.html"));
+    }();
+    return scripts;
+}
+
+} // namespace
+
+void fuzzOneInput(const QByteArray& input)
+{
+    writeScratch("input.json", input);
+    if (!merged("input.json", "once.json").isEmpty()) {
+        return;
+    }
+    const QString error = merged("once.json", "twice.json");
+    if (!error.isEmpty()) {
+        qFatal("a report that was written cannot be read: %s", qPrintable(error));
+    }
+    if (readScratch("once.json") != readScratch("twice.json")) {
+        qFatal("a report is written differently the second time");
+    }
+    if (!merged("input.json", "page.html").isEmpty()) {
+        qFatal("there is no page of a report that can be read");
+    }
+    if (scriptsOf(readScratch("page.html")) != scriptsOfAnyPage()) {
+        qFatal("something from a report became a script");
+    }
+}

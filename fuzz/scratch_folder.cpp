@@ -1,0 +1,38 @@
+#include "fuzz/scratch_folder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+
+namespace {
+
+QString place()
+{
+    const QString memory = QStringLiteral("/dev/shm");
+    return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
+}
+
+} // namespace
+
+QString scratchPath(const char* name)
+{
+    static const QTemporaryDir folder(place() + QStringLiteral("/labelport-fuzz-XXXXXX"));
+    return folder.filePath(QString::fromLatin1(name));
+}
+
+void writeScratch(const char* name, const QByteArray& bytes)
+{
+    QFile file(scratchPath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+        std::abort(); // without the input there is nothing to test
+    }
+}
+
+QByteArray readScratch(const char* name)
+{
+    QFile file(scratchPath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}

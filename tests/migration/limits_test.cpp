@@ -1,0 +1,232 @@
+// Every limit of what is counted and reported at its last good value and at the first bad one.
+
+#include "jsonbounds/tree_size.h"
+#include "migration/census/census.h"
+#include "migration/census/known_fonts.h"
+#include "migration/census/zip_member.h"
+#include "migration/file_report.h"
+#include "migration/report/report_reader.h"
+#include "tests/migration/documents.h"
+#include "tests/support/canvas_writer/canvas_writer.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+
+#include <private/qzipwriter_p.h>
+
+using namespace migration;
+
+namespace {
+
+/// A file of so many zero bytes, which takes no room on the disk.
+class HollowFile
+{
+public:
+    explicit HollowFile(qint64 size)
+        : m_name(m_folder.filePath(QStringLiteral("hollow")))
+    {
+        QFile file(m_name);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(size));
+    }
+
+    [[nodiscard]] const QString& name() const { return m_name; }
+
+private:
+    QTemporaryDir m_folder;
+    QString m_name;
+};
+
+bool isCounted(const Census& census)
+{
+    return census.unknown.isEmpty();
+}
+
+QByteArray canvasStart()
+{
+    CanvasWriter writer(2000016);
+    writer.start();
+    return writer.bytes();
+}
+
+// The shortest object of a binary label: a symbol of no name.
+QByteArray smallestObject()
+{
+    QByteArray record(4 + 1 + 4 * 8 + 2 * 4 + 4, '\0');
+    qToBigEndian<qint32>(canvas::SymbolCode, record.data());
+    return record;
+}
+
+QByteArray package(const QByteArray& styles, const QByteArray& content)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QZipWriter zip(&buffer);
+    zip.addFile(QStringLiteral("styles.xml"), styles);
+    zip.addFile(QStringLiteral("content.xml"), content);
+    zip.close();
+    return buffer.data();
+}
+
+// A document of just so many bytes.
+QByteArray documentOf(qint64 size)
+{
+    return QByteArray("<a/>").leftJustified(size, ' ');
+}
+
+QByteArray entryOf(const HollowFile& file, qint64 size)
+{
+    return ReportReader::bytesOf(file.name(), {0, size});
+}
+
+// Lists in a file, whose tree takes just so many bytes.
+qint64 bytesReadOfTree(qint64 tree)
+{
+    const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(300'000);
+    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", kMaximumEntryTree);
+    const QByteArray text = lists + "\"" + QByteArray((tree - taken) / 2, 'x') + "\"";
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("lists")));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.close();
+    return ReportReader::bytesOf(file.fileName(), {0, text.size()}).size();
+}
+
+} // namespace
+
+TEST(CensusLimits, MeasureTheFile)
+{
+    QString unknown;
+    EXPECT_EQ(bytesToCount(HollowFile(kMaximumFile).name(), unknown).size(), kMaximumFile);
+    EXPECT_EQ(unknown, QString());
+    EXPECT_TRUE(bytesToCount(HollowFile(kMaximumFile + 1).name(), unknown).isEmpty());
+    EXPECT_EQ(unknown, tooLargeToCount());
+}
+
+TEST(CensusLimits, CountTheObjectsOfBinaryLabels)
+{
+    const QByteArray most = canvasStart() + smallestObject().repeated(kMaximumObjects);
+    const Census whole = countTavrel(most);
+    EXPECT_TRUE(isCounted(whole)) << whole.unknown.toStdString();
+    EXPECT_EQ(whole.objects.size(), kMaximumObjects);
+    EXPECT_EQ(countTavrel(most + smallestObject()).unknown, tooLargeToCount());
+}
+
+TEST(CensusLimits, CountTheObjectsOfXmlLabels)
+{
+    const auto label = [](qsizetype controls) {
+        return controlsOf(QByteArray("<a/>").repeated(controls));
+    };
+    const Census whole = countOrvanta(label(kMaximumObjects));
+    EXPECT_TRUE(isCounted(whole)) << whole.unknown.toStdString();
+    EXPECT_EQ(whole.objects.size(), kMaximumObjects);
+    EXPECT_EQ(countOrvanta(label(kMaximumObjects + 1)).unknown, tooLargeToCount());
+}
+
+TEST(CensusLimits, MeasureTheMembersOfPackages)
+{
+    const QByteArray small = documentOf(4);
+    EXPECT_TRUE(isCounted(countOpenDocument(package(documentOf(kMaximumStyles), small))));
+    EXPECT_FALSE(isCounted(countOpenDocument(package(documentOf(kMaximumStyles + 1), small))));
+    const QByteArray most = package(small, documentOf(kMaximumContent));
+    EXPECT_TRUE(zipMember(most, "content.xml", kMaximumContent)) << "only unpacked: it takes long";
+    EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(kMaximumContent + 1)))));
+}
+
+// The format's own: the end of a package stands before a comment of so many bytes.
+TEST(CensusLimits, FindThePackageBeforeItsComment)
+{
+    constexpr qsizetype longest = 65535;
+    const QByteArray plain = package(documentOf(4), documentOf(4));
+    EXPECT_TRUE(isCounted(countOpenDocument(plain + QByteArray(longest, 'x'))));
+    EXPECT_FALSE(isCounted(countOpenDocument(plain + QByteArray(longest + 1, 'x'))));
+}
+
+// The parser makes gigabytes of the largest text that is taken, so that one is only asked for.
+TEST(CensusLimits, MeasureTheTreeOfSavedLabels)
+{
+    const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(1'840'000);
+    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", kMaximumSavedTree);
+    const QByteArray most = lists + "\"" + QByteArray((kMaximumSavedTree - taken) / 2, 'x');
+    EXPECT_FALSE(jsonbounds::isLargerThan(most + "\"", kMaximumSavedTree));
+    EXPECT_EQ(countSavedLabel(most + "x\"").unknown, tooLargeToCount());
+}
+
+TEST(CensusLimits, KeepTheFirstDetails)
+{
+    Tally tally;
+    for (int index = 0; index <= Tally::MaximumDetails; ++index) {
+        tally.addDetail(QStringLiteral("%1").arg(index));
+    }
+    EXPECT_EQ(tally.details.size(), Tally::MaximumDetails);
+    EXPECT_FALSE(tally.details.contains(QString::number(Tally::MaximumDetails)));
+}
+
+TEST(CensusLimits, ShortenDetails)
+{
+    const QString longest(kLongestDetail, u'x');
+    Tally tally;
+    tally.addDetail(longest);
+    tally.addDetail(longest + u'y');
+    EXPECT_EQ(tally.details, QStringList{longest});
+}
+
+// What is kept shows in nothing but the time; what is forgotten is asked for anew.
+TEST(CensusLimits, ForgetFontsWithoutMistakes)
+{
+    constexpr int more = 2'500;
+    for (int index = 0; index < more; ++index) {
+        EXPECT_FALSE(isFontThere(QStringLiteral("No font %1").arg(index)));
+        EXPECT_EQ(familySeen(QStringLiteral("Liberation Sans")), QStringLiteral("Liberation Sans"));
+    }
+}
+
+TEST(ReportLimits, MeasureAnEntry)
+{
+    const HollowFile file(kMaximumEntry + 1);
+    EXPECT_EQ(entryOf(file, kMaximumEntry).size(), kMaximumEntry);
+    EXPECT_TRUE(entryOf(file, kMaximumEntry + 1).isEmpty());
+}
+
+TEST(ReportLimits, MeasureTheTreeOfAnEntry)
+{
+    EXPECT_GT(bytesReadOfTree(kMaximumEntryTree), 0);
+    EXPECT_EQ(bytesReadOfTree(kMaximumEntryTree + 2), 0);
+}
+
+TEST(ReportLimits, TakeWholeNumbersThatAreExact)
+{
+    const auto bytesOf = [](double bytes) {
+        const QJsonObject entry{{QStringLiteral("file"), QStringLiteral("x")},
+                                {QStringLiteral("status"), QStringLiteral("failed")},
+                                {QStringLiteral("bytes"), bytes}};
+        return fileReportFromJson(entry).value_or(FileReport()).bytes;
+    };
+    constexpr double largest = 9'007'199'254'740'992.0;
+    EXPECT_EQ(bytesOf(largest), 9'007'199'254'740'992);
+    EXPECT_EQ(bytesOf(-largest), -9'007'199'254'740'992);
+    EXPECT_EQ(bytesOf(largest + 2), 0);
+    EXPECT_EQ(bytesOf(-largest - 2), 0);
+}
+
+// Longer names are none that is known, whatever they begin with.
+TEST(ReportLimits, PassEndlessNamesOver)
+{
+    const QTemporaryDir folder;
+    for (const char* begin : {"", "format", "files"}) {
+        for (const qsizetype length : {100, 101, 1'000'000}) {
+            QFile file(folder.filePath(QStringLiteral("report")));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write("{\"" + QByteArray(begin).leftJustified(length, 'x') +
+                       "\":[1],\"format\":\"labelport-report\",\"version\":1,\"files\":[{}]}");
+            file.close();
+            ReportReader reader(file.fileName());
+            EXPECT_TRUE(reader.next()) << begin << length << reader.error().toStdString();
+        }
+    }
+}
