@@ -80,6 +80,22 @@ BarcodeRecord recordWith(const QByteArray& symbology, const QByteArray& module,
     return readBarcodeRecord(stream, {2000024, {300.0, 150.0}}, 0);
 }
 
+TEST(BarcodeRecord, EachFlagHasItsPlace)
+{
+    for (qsizetype place = 0; place < 4; ++place) {
+        SCOPED_TRACE(place);
+        QByteArray flags(4, '\0');
+        flags[place] = '\1';
+        QDataStream stream(Header + Content + SourceText + Key + Symbology + Unused + Module +
+                           Placement + flags + Number + Values);
+        const BarcodeRecord record = readBarcodeRecord(stream, {2000024, {300.0, 150.0}}, 0);
+        EXPECT_EQ(record.flag1, place == 0);
+        EXPECT_EQ(record.flag2, place == 1);
+        EXPECT_EQ(record.flag3, place == 2);
+        EXPECT_EQ(record.flag4, place == 3);
+    }
+}
+
 struct PlacementRow
 {
     const char* code;

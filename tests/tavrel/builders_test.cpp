@@ -299,6 +299,22 @@ TEST_F(BarcodeBuilder, Symbology55TakesItsNumberOption)
               lines({"item1 importBarcodeProperties 55 \"42\" yes 132 2 yes no 9 17 3"}));
 }
 
+TEST_F(BarcodeBuilder, EachFlagHasItsPlace)
+{
+    for (bool BarcodeRecord::*flag : {&BarcodeRecord::flag1, &BarcodeRecord::flag2,
+                                      &BarcodeRecord::flag3, &BarcodeRecord::flag4}) {
+        BarcodeRecord record = barcode();
+        record.flag1 = record.flag2 = record.flag3 = record.flag4 = false;
+        record.*flag = true;
+        EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
+    }
+    EXPECT_EQ(fake.calls.with("importBarcodeProperties"),
+              lines({"item1 importBarcodeProperties 20 \"42\" no 132 2 yes no 0 17 3",
+                     "item2 importBarcodeProperties 20 \"42\" no 132 2 no yes 0 17 3",
+                     "item3 importBarcodeProperties 20 \"42\" yes 132 2 no no 0 17 3",
+                     "item4 importBarcodeProperties 20 \"42\" no 132 2 no no 1 17 3"}));
+}
+
 TEST_F(BarcodeBuilder, HandsTheWholeSymbologyNumberOver)
 {
     BarcodeRecord record = barcode();
@@ -381,6 +397,24 @@ TEST_F(TextBuilder, ImportsTheItemBeforeItSetsItUp)
                "item1 setTextColor #ffff0000", "item1 setOptionA no", "item1 setOptionB yes",
                "item1 applyTextOptions", "item1 setFlag movable yes", "item1 setPos 100x50"}));
     expectPlaced();
+}
+
+TEST_F(TextBuilder, EachFlagHasItsPlace)
+{
+    for (bool TextRecord::*flag : {&TextRecord::styleFlag1, &TextRecord::styleFlag2,
+                                   &TextRecord::styleFlag3, &TextRecord::optionA}) {
+        TextRecord record = text();
+        record.styleFlag1 = record.styleFlag3 = record.optionB = false;
+        record.*flag = true;
+        EXPECT_EQ(build(record).result, BuildResult::Built);
+    }
+    EXPECT_EQ(fake.calls.with("importTextProperties"),
+              lines({"item1 importTextProperties \"Net  weight\" 12 yes no no 2",
+                     "item2 importTextProperties \"Net  weight\" 12 no yes no 2",
+                     "item3 importTextProperties \"Net  weight\" 12 no no yes 2",
+                     "item4 importTextProperties \"Net  weight\" 12 no no no 2"}));
+    EXPECT_EQ(fake.calls.with("item4 setOption"),
+              lines({"item4 setOptionA yes", "item4 setOptionB no"}));
 }
 
 struct BoxRow

@@ -158,7 +158,31 @@ TEST(TextRecord, OfTheFirstOptionTheSecondValueCounts)
     EXPECT_FALSE(off.optionB);
 
     QDataStream other(start + hex("00 01 00"));
-    EXPECT_TRUE(readTextRecord(other, {2000020, {300.0, 300.0}}, 0).optionA);
+    const TextRecord first = readTextRecord(other, {2000020, {300.0, 300.0}}, 0);
+    EXPECT_TRUE(first.optionA);
+    EXPECT_FALSE(first.optionB);
+
+    QDataStream third(start + hex("00 00 01"));
+    const TextRecord second = readTextRecord(third, {2000020, {300.0, 300.0}}, 0);
+    EXPECT_FALSE(second.optionA);
+    EXPECT_TRUE(second.optionB);
+}
+
+TEST(TextRecord, EachFlagHasItsPlace)
+{
+    const QByteArray start = Header + Key + hex("00000000 00000000 00000000 00000000");
+    for (qsizetype place = 0; place < 5; ++place) {
+        SCOPED_TRACE(place);
+        QByteArray flags(5, '\0');
+        flags[place] = '\1';
+        QDataStream stream(start + flags.left(3) + Content + Alignment + flags.mid(3));
+        const TextRecord record = readTextRecord(stream, {2000016, {300.0, 300.0}}, 0);
+        EXPECT_EQ(record.styleFlag1, place == 0);
+        EXPECT_EQ(record.styleFlag2, place == 1);
+        EXPECT_EQ(record.styleFlag3, place == 2);
+        EXPECT_EQ(record.inverse, place == 3);
+        EXPECT_EQ(record.transparentBackground, place == 4);
+    }
 }
 
 TEST(TextRecord, FontSizeIsRoundedAtTheHorizontalResolution)
