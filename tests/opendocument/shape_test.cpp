@@ -92,6 +92,18 @@ TEST_F(Shape, TakesTheItemsOwnSizeSideBySide)
     EXPECT_EQ(host.lastCall(3, u"setItemSize"_s), u"72 10"_s);
 }
 
+TEST_F(Shape, ASizeOfNothingIsTheItemsOwnAndTheSmallestIsKept)
+{
+    import("<draw:rect svg:width=\"0in\" svg:height=\"0in\"/>"
+           "<draw:rect svg:width=\"-1in\" svg:height=\"-1in\"/>"
+           "<draw:rect svg:width=\"0.001in\" svg:height=\"0.0005in\"/>");
+    const QString own = host.lastCall(1, u"setItemSize"_s);
+    EXPECT_FALSE(own.startsWith(u'0')) << own.toStdString();
+    EXPECT_FALSE(own.endsWith(u" 0"_s)) << own.toStdString();
+    EXPECT_EQ(host.lastCall(2, u"setItemSize"_s), own);
+    EXPECT_EQ(host.lastCall(3, u"setItemSize"_s), u"0.072 0.036"_s);
+}
+
 TEST_F(Shape, PenFollowsFromWidthWhereTheStyleIsOpen)
 {
     const struct
