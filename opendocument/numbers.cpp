@@ -1,5 +1,6 @@
 #include "opendocument/numbers.h"
 
+#include "numeric/plain_number.h"
 #include "opendocument/code_table.h"
 
 #include <algorithm>
@@ -26,6 +27,9 @@ constexpr qsizetype UnitCharacters = 2;
 
 std::optional<double> toNumber(QStringView text)
 {
+    if (const std::optional<double> plain = plainDecimal(text)) {
+        return plain;
+    }
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
     if (!isNumber || !std::isfinite(number)) {
