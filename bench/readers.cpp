@@ -41,6 +41,15 @@ void importWith(const QString& path, silent::Canvas& canvas)
     }
 }
 
+// A program makes one reader for all its files; each import that is measured makes its own.
+template <class Reader>
+void makeReader()
+{
+    silent::Canvas canvas;
+    silent::Datasources datasources;
+    const Reader reader(&canvas, &datasources);
+}
+
 // A text of a drawing as the reader writes it: what QGraphicsTextItem::setHtml() takes for
 // one is by far the most that such a text costs.
 constexpr char16_t TextHtml[] =
@@ -99,6 +108,7 @@ struct Format
     QString ending;
     std::function<QByteArray(int)> label;
     void (*importFile)(const QString&, silent::Canvas&);
+    void (*makeReader)();
     void (*floor)(const QString&);
     RichTexts texts = RichTexts::ArePlain;
 };
@@ -107,14 +117,16 @@ const QList<Format>& formats()
 {
     static const QList<Format> all = {
         {u"binary"_s, u".cnv"_s, &bench::canvasFile, &importWith<LegacyTavrel>,
-         &bench::walkCanvasFile},
-        {u"XML"_s, u".qmtx"_s, &bench::xmlLabel, &importWith<LegacyOrvanta>, &bench::parseXmlLabel},
+         &makeReader<LegacyTavrel>, &bench::walkCanvasFile},
+        {u"XML"_s, u".qmtx"_s, &bench::xmlLabel, &importWith<LegacyOrvanta>,
+         &makeReader<LegacyOrvanta>, &bench::parseXmlLabel},
         {u"OpenDocument"_s, u".odg"_s,
          [](int shapes) { return bench::drawing(shapes, bench::Texts::None); },
-         &importWith<OpenOfficeReader>, &bench::parseDrawing},
+         &importWith<OpenOfficeReader>, &makeReader<OpenOfficeReader>, &bench::parseDrawing},
         {u"OpenDocument with texts"_s, u"_texts.odg"_s,
          [](int shapes) { return bench::drawing(shapes, bench::Texts::Some); },
-         &importWith<OpenOfficeReader>, &bench::parseDrawing, RichTexts::AreHtml},
+         &importWith<OpenOfficeReader>, &makeReader<OpenOfficeReader>, &bench::parseDrawing,
+         RichTexts::AreHtml},
     };
     return all;
 }
@@ -133,6 +145,7 @@ void measureTogether(benchmark::State& state, const Format& format, const QStrin
     double floor = 0.0;
     double imported = 0.0;
     double host = 0.0;
+    double reader = 0.0;
     for (auto iteration : state) {
         (void)iteration;
         floor += bench::secondsOf([&] { format.floor(path); });
@@ -140,6 +153,7 @@ void measureTogether(benchmark::State& state, const Format& format, const QStrin
         silent::Canvas canvas;
         imported += bench::secondsOf([&] { format.importFile(path, canvas); });
         canvas.clear();
+        reader += bench::secondsOf(format.makeReader);
         host +=
             bench::secondsOf([&] { makeItems(remembering.factory.types, format.texts, canvas); });
     }
@@ -147,6 +161,7 @@ void measureTogether(benchmark::State& state, const Format& format, const QStrin
     state.counters["floor"] = floor / times;
     state.counters["import"] = imported / times;
     state.counters["host"] = host / times;
+    state.counters["reader"] = reader / times;
     state.counters["ratio"] = imported / floor;
     state.counters["own ratio"] = (imported - host) / floor;
 }
@@ -181,6 +196,7 @@ QStringList row(const Format& format, int size, const QString& path, const bench
             milliseconds(bench::median(samples.of(name, u"import"_s))),
             milliseconds(bench::median(samples.of(name, u"floor"_s))),
             milliseconds(bench::median(samples.of(name, u"host"_s))),
+            milliseconds(bench::median(samples.of(name, u"reader"_s))),
             QString::number(bench::median(ratios), 'f', 2),
             bench::spread(ratios, 2),
             QString::number(bench::median(own), 'f', 2),
@@ -216,8 +232,9 @@ int measure(const QList<int>& sizes)
     bench::Samples samples;
     benchmark::RunSpecifiedBenchmarks(&samples);
     QList<QStringList> rows = {{u"reader"_s, u"items"_s, u"import ms"_s, u"floor ms"_s,
-                                u"items ms"_s, u"ratio"_s, u"spread"_s, u"less items"_s,
-                                u"spread"_s, u"import MB"_s, u"floor MB"_s, u"growth"_s}};
+                                u"items ms"_s, u"reader ms"_s, u"ratio"_s, u"spread"_s,
+                                u"less items"_s, u"spread"_s, u"import MB"_s, u"floor MB"_s,
+                                u"growth"_s}};
     for (const Format& format : formats()) {
         for (const int size : sizes) {
             rows.append(row(format, size, paths.value(benchmarkName(format, size)), samples));
