@@ -166,7 +166,9 @@ TEST(RichText, WithoutVisibleTextThereIsNone)
     for (const QByteArray blank :
          {"", "<text:p/>", "<text:p>  </text:p>", "<text:p><text:tab/></text:p>",
           "<text:p><text:span> \t </text:span></text:p>",
-          "<text:list><text:p>x</text:p></text:list>", "<text:p>&#160;</text:p>"}) {
+          "<text:list><text:p>x</text:p></text:list>", "<text:p>&#160;</text:p>",
+          "<text:p><![CDATA[  ]]></text:p>",
+          "<text:p><text:span><![CDATA[ ]]></text:span></text:p>"}) {
         SCOPED_TRACE(blank.toStdString());
         EXPECT_TRUE(richText(blank).isBlank);
     }
