@@ -79,7 +79,7 @@ void Journal::note(const QHash<QString, qsizetype>& indexes, qsizetype file)
     }
     while (!journal.atEnd()) {
         const qint64 offset = journal.pos();
-        const std::optional<JournalRecord> record = recordFromLine(journal.readLine(MaximumLine));
+        const std::optional<JournalRecord> record = recordFromLine(nextLine(journal));
         const auto index = record ? indexes.constFind(record->input.path) : indexes.constEnd();
         if (index != indexes.constEnd()) {
             m_places[*index] = {file, offset};
@@ -100,7 +100,7 @@ std::optional<JournalRecord> Journal::find(qsizetype index)
             return std::nullopt;
         }
     }
-    return m_read.seek(place.offset) ? recordFromLine(m_read.readLine(MaximumLine)) : std::nullopt;
+    return m_read.seek(place.offset) ? recordFromLine(nextLine(m_read)) : std::nullopt;
 }
 
 bool Journal::append(const JournalRecord& record)
@@ -124,8 +124,7 @@ QSet<QString> Journal::outputsIn(const QString& outputFolder, const QString& suf
             continue;
         }
         while (!journal.atEnd()) {
-            const std::optional<JournalRecord> record =
-                recordFromLine(journal.readLine(MaximumLine));
+            const std::optional<JournalRecord> record = recordFromLine(nextLine(journal));
             for (const FileStamp& output : record ? record->outputs : QList<FileStamp>()) {
                 if (output.path.endsWith(suffix)) {
                     outputs.insert(QDir::cleanPath(folder.absoluteFilePath(output.path)));

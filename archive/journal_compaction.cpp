@@ -24,7 +24,7 @@ Survey surveyOf(QFile& journal)
     Survey survey;
     while (!journal.atEnd()) {
         const qint64 offset = journal.pos();
-        const std::optional<JournalRecord> record = recordFromLine(journal.readLine(MaximumLine));
+        const std::optional<JournalRecord> record = recordFromLine(nextLine(journal));
         if (record) {
             survey.superseded += offsets.contains(record->input.path) ? 1 : 0;
             offsets.insert(record->input.path, offset);
@@ -52,7 +52,7 @@ void compactJournal(const QString& path, qint64 tolerated)
         return;
     }
     for (const qint64 offset : survey.last) {
-        const QByteArray line = journal.seek(offset) ? journal.readLine(MaximumLine) : QByteArray();
+        const QByteArray line = journal.seek(offset) ? nextLine(journal) : QByteArray();
         // The last one may have lost its end.
         if (line.isEmpty() || rewritten.write(line.endsWith('\n') ? line : line + '\n') < 0) {
             return; // what was written of the new one goes away unseen

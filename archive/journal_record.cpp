@@ -4,8 +4,12 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QIODevice>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <algorithm>
+#include <array>
 
 namespace archive {
 namespace {
@@ -36,6 +40,20 @@ QByteArray lineOf(const JournalRecord& record)
         object.insert(ReportKey, record.report);
     }
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QByteArray nextLine(QIODevice& journal, qint64 longest)
+{
+    std::array<char, 16 * 1024> part;
+    constexpr auto partSize = qint64(part.size()) - 1; // Qt ends it with a zero
+    QByteArray line;
+    qint64 size = 0;
+    do {
+        const qint64 left = longest - line.size();
+        size = journal.readLine(part.data(), std::min(left, partSize) + 1);
+        line.append(part.data(), std::max<qint64>(size, 0));
+    } while (size > 0 && !line.endsWith('\n') && line.size() < longest);
+    return line;
 }
 
 std::optional<JournalRecord> recordFromLine(const QByteArray& line)

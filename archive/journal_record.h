@@ -11,6 +11,8 @@
 
 #include <optional>
 
+class QIODevice;
+
 namespace archive {
 
 /// What became of one file, as it is remembered between commands.
@@ -31,6 +33,9 @@ struct JournalRecord
 inline constexpr qint64 MaximumLineTree = 512LL * 1024 * 1024;
 
 [[nodiscard]] QByteArray lineOf(const JournalRecord& record);
+/// The next line with its end, or as much of it as a line may have. Takes no more memory
+/// than the line, while Qt's own takes that of the longest for each.
+[[nodiscard]] QByteArray nextLine(QIODevice& journal, qint64 longest = MaximumLine);
 /// Nothing when the line is no whole record.
 [[nodiscard]] std::optional<JournalRecord> recordFromLine(const QByteArray& line);
 

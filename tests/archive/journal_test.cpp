@@ -5,6 +5,8 @@
 #include "jsonbounds/tree_size.h"
 #include "tests/archive/test_folder.h"
 
+#include <QBuffer>
+
 namespace {
 
 class JournalTest : public ::testing::Test
@@ -76,6 +78,23 @@ TEST_F(JournalTest, IgnoresATornLine)
     archive::Journal journal;
     openIn(journal);
     EXPECT_EQ(journal.find(0), record(a)) << "the new line was added to the torn one";
+}
+
+// To read lines of 64 megabytes takes seconds, so the bound is a parameter.
+TEST_F(JournalTest, HoldsNoLineLongerThanAny)
+{
+    for (const qint64 longest : {10, 50'000}) {
+        SCOPED_TRACE(longest);
+        QByteArray whole = QByteArray(longest - 1, 'x') + '\n';
+        QBuffer lines;
+        lines.setData(whole + 'x' + whole + "rest");
+        ASSERT_TRUE(lines.open(QIODevice::ReadOnly));
+        EXPECT_EQ(archive::nextLine(lines, longest), whole);
+        EXPECT_EQ(archive::nextLine(lines, longest), QByteArray(longest, 'x')) << "a byte too many";
+        EXPECT_EQ(archive::nextLine(lines, longest), "\n");
+        EXPECT_EQ(archive::nextLine(lines, longest), "rest");
+        EXPECT_EQ(archive::nextLine(lines, longest), QByteArray());
+    }
 }
 
 // Four hundred megabytes are the most that a line becomes.
