@@ -32,8 +32,8 @@ public:
 /// Hands tasks to worker processes, one at a time each, and replaces those that die.
 ///
 /// A task whose worker dies is given once more to a worker that has done nothing yet: so
-/// neither a stray signal nor what earlier files did to a worker decides about a file, and the
-/// number of workers changes no result. What runs out of time is not tried again.
+/// neither a stray signal nor what earlier files did to a worker decides whether a file is
+/// imported. What runs out of time is not tried again.
 class WorkerPool final : public QObject
 {
     Q_OBJECT
