@@ -21,8 +21,6 @@ public:
     /// Whether the file that was opened last is a zip package, be it a damaged one.
     [[nodiscard]] bool isPackage() const { return m_isPackage; }
     [[nodiscard]] bool hasMember(const QString& name) const { return m_members.contains(name); }
-    /// The uncompressed size that the table claims; 0 for a member that is not there.
-    [[nodiscard]] qint64 sizeOf(const QString& name) const { return m_members.value(name).size; }
 
     /// Unpacks a member without keeping it, to see whether it is what the table claims.
     /// @param largest the uncompressed size that is accepted, in bytes
