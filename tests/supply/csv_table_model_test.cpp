@@ -241,6 +241,9 @@ TEST_F(CsvTableModelTest, StartsAfreshWithEachFile)
     EXPECT_EQ(table.columnCount(), 1);
     EXPECT_EQ(table.cell(1, 0), QStringLiteral("y"));
     EXPECT_EQ(table.cell(1, 2), QString());
+    ASSERT_TRUE(table.openFile(fileOf("")));
+    EXPECT_EQ(table.columnCount(), 0);
+    EXPECT_FALSE(table.headerData(0, Qt::Horizontal).isValid()) << "a name of the file before";
 }
 
 // Lines longer than any read-ahead, so that a change of the file behind the model is seen.
