@@ -4,7 +4,7 @@
 
 #include "tests/hostile/failing_host.h"
 #include "tests/hostile/whole_labels.h"
-#include "tests/opendocument/log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include <gtest/gtest.h>
 
@@ -81,7 +81,7 @@ protected:
         return refusals("made no item") + refusals("gives no item of the class");
     }
 
-    LogCatcher log;
+    CapturedLog log;
     failing::Canvas canvas;
     failing::Datasources datasources;
     failing::NoFiles files;

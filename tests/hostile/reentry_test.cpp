@@ -3,7 +3,7 @@
 
 #include "tests/hostile/failing_host.h"
 #include "tests/hostile/whole_labels.h"
-#include "tests/opendocument/log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "host/services/tal_message_box.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
@@ -38,7 +38,7 @@ protected:
 
     QTemporaryDir folder;
     const QString withBox = folder.filePath(QStringLiteral("label.cnv"));
-    LogCatcher log;
+    CapturedLog log;
     failing::Canvas canvasModel;
     failing::Datasources datasources;
     failing::NoFiles files;

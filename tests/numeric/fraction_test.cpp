@@ -1,6 +1,6 @@
 #include "numeric/fraction.h"
 #include "numeric/overflow_error_exception.h"
-#include "tests/numeric/captured_log.h"
+#include "tests/support/captured_log.h"
 
 #include <cmath>
 #include <limits>

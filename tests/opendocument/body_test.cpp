@@ -2,7 +2,7 @@
 
 #include "documents.h"
 #include "fake_host.h"
-#include "log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "opendocument/open_office_reader.h"
 
@@ -128,7 +128,7 @@ TEST_F(Body, OtherKindsOfDocumentAreToldAndStillCompleted)
                      "</office:drawing>"),
           contentXml(""), QByteArray("<other/>")}) {
         SCOPED_TRACE(content.toStdString());
-        const LogCatcher log;
+        const CapturedLog log;
         EXPECT_EQ(typesOf(content), QStringList());
         ASSERT_EQ(log.records().size(), 1);
         EXPECT_EQ(log.records().first().level, Logger::Debug);
@@ -146,7 +146,7 @@ TEST_F(Body, ItemsThatTheHostDoesNotMakeAreLeftOut)
                               customShape("hexagon");
     for (auto* wrong : {&host.refusedTypes, &host.confusedTypes}) {
         *wrong = {KestTypes::Rectangle, KestTypes::Line, KestTypes::Hexagon};
-        const LogCatcher log;
+        const CapturedLog log;
         const int before = host.importedCount();
         Package package(stylesXml(), drawingXml(shapes));
         EXPECT_TRUE(reader.importLabelFromFile(package.write()));

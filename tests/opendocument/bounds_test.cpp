@@ -2,7 +2,7 @@
 
 #include "documents.h"
 #include "fake_host.h"
-#include "log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "opendocument/limits.h"
 #include "opendocument/open_office_reader.h"
@@ -56,7 +56,7 @@ class OpenDocumentBounds : public testing::Test
 protected:
     QString messageFor(const QByteArray& styles, const QByteArray& content)
     {
-        LogCatcher log;
+        CapturedLog log;
         EXPECT_FALSE(reader.importLabelFromFile(Package(styles, content).write()));
         return log.messages().last();
     }

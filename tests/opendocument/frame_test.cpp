@@ -2,7 +2,7 @@
 
 #include "documents.h"
 #include "fake_host.h"
-#include "log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "opendocument/open_office_reader.h"
 
@@ -277,7 +277,7 @@ TEST_F(Frame, PictureOfTheFirstSuffixIsTaken)
 
 TEST_F(Frame, UnusablePicturesGiveNoItem)
 {
-    const LogCatcher log;
+    const CapturedLog log;
     import(images({"missing.png"}) + images({"bad.png"}) + images({"bad.svg"}) +
            images({"missing.svg"}) + images({"bad.svg", "a.png"}) +
            "<draw:frame><draw:image/></draw:frame>");
@@ -323,7 +323,7 @@ TEST_F(Frame, ABoxThatTheHostDoesNotMakeTakesNoPlaceInTheFlow)
 
 TEST_F(Frame, APictureIsDecodedOnceForManyFrames)
 {
-    const LogCatcher log;
+    const CapturedLog log;
     import(images({"bad.png"}) + images({"bad.png"}));
     EXPECT_EQ(
         log.messages().count(u"The picture Pictures/bad.png cannot be decoded or is too large"_s),

@@ -3,7 +3,7 @@
 
 #include "documents.h"
 #include "fake_host.h"
-#include "log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "opendocument/limits.h"
 #include "opendocument/open_office_reader.h"
@@ -35,7 +35,7 @@ protected:
 
     FakeHost host;
     OpenOfficeReader reader{&host, nullptr};
-    LogCatcher log;
+    CapturedLog log;
 };
 
 QByteArray nested(const QByteArray& tag, int depth, const QByteArray& inside = {})

@@ -2,7 +2,7 @@
 
 #include "documents.h"
 #include "fake_host.h"
-#include "log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "opendocument/open_office_reader.h"
 
@@ -45,7 +45,7 @@ protected:
 void expectFailure(FakeHost& host, OpenOfficeReader& reader, const QString& path,
                    const QString& message)
 {
-    const LogCatcher log;
+    const CapturedLog log;
     EXPECT_FALSE(reader.importLabelFromFile(path));
     EXPECT_TRUE(host.journal().isEmpty());
     ASSERT_EQ(log.records().size(), 1) << log.messages().join(u'\n').toStdString();
@@ -60,7 +60,7 @@ void expectFailure(FakeHost& host, OpenOfficeReader& reader, const QString& path
 
 TEST_F(Import, SetsThePageThenTheItemsThenCompletesTheCanvas)
 {
-    const LogCatcher log;
+    const CapturedLog log;
     EXPECT_TRUE(import(stylesXml(), drawingXml(OneRectangle)));
     EXPECT_EQ(host.journal().first(), u"canvas.importCanvasParameters 612 792 false true"_s);
     EXPECT_EQ(host.journal().value(1), u"factory.create Rectangle"_s);
@@ -104,7 +104,7 @@ TEST_F(Import, FailsOnFilesThatAreNoPackages)
 
 TEST_F(Import, TellsWhyAPackageWasRefused)
 {
-    const LogCatcher log;
+    const CapturedLog log;
     Package package(stylesXml(), drawingXml(""));
     QByteArray bytes = package.bytes();
     const qsizetype directory = bytes.indexOf("PK\x01\x02");

@@ -1,6 +1,6 @@
 // Pictures of a package: read once, bounded, raster only.
 
-#include "log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "opendocument/limits.h"
 #include "opendocument/picture_store.h"
@@ -71,7 +71,7 @@ TEST(PictureStore, MissingOrDamagedPicturesAreNull)
     PictureStore store = members.store();
     EXPECT_TRUE(store.pixmap(u"missing.png"_s).isNull());
     EXPECT_TRUE(store.bytes(u"missing.svg"_s).isEmpty());
-    const LogCatcher log;
+    const CapturedLog log;
     EXPECT_TRUE(store.pixmap(u"bad.png"_s).isNull());
     EXPECT_TRUE(store.pixmap(u"cut.png"_s).isNull());
     EXPECT_EQ(log.messages(),

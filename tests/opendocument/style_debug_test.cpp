@@ -1,6 +1,6 @@
 // The styles as records of the debug log.
 
-#include "log_catcher.h"
+#include "tests/support/captured_log.h"
 
 #include "opendocument/open_office_reader.h"
 
@@ -15,7 +15,7 @@ TEST(StyleDebug, TextStyleIsOneRecord)
     style.alignment = Qt::AlignRight;
     style.margins = {1, 2, 3, 4};
     style.textColor = u"#123456"_s;
-    const LogCatcher log;
+    const CapturedLog log;
     style.debugContent();
     ASSERT_EQ(log.records().size(), 1);
     const auto& record = log.records().first();
@@ -39,7 +39,7 @@ TEST(StyleDebug, GraphicStyleIsOneRecord)
     style.penStyle = Qt::DashLine;
     style.penWidth = 2;
     style.penColor = u"#123456"_s;
-    const LogCatcher log;
+    const CapturedLog log;
     style.debugContent();
     ASSERT_EQ(log.records().size(), 1);
     const auto& record = log.records().first();

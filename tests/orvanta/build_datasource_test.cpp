@@ -162,5 +162,5 @@ TEST_F(DatasourceBuilding, WithoutAnItemNoSourceIsMade)
                  "<combo_box><ArrayOfAnyType><a>x</a></ArrayOfAnyType></combo_box>");
     EXPECT_TRUE(callsOf("datasources").isEmpty());
     EXPECT_TRUE(callsOf("canvas").isEmpty());
-    EXPECT_EQ(log.records.size(), 3);
+    EXPECT_EQ(log.records().size(), 3);
 }

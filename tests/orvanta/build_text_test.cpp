@@ -107,5 +107,5 @@ TEST_F(TextBuilding, AnItemOfAnotherClassIsDeletedAndLeftOut)
     readControls("<transparent_label/>");
     EXPECT_TRUE(canvas.items.empty());
     EXPECT_EQ(fake::livingItems(), 0);
-    EXPECT_EQ(log.records.size(), 1);
+    EXPECT_EQ(log.records().size(), 1);
 }

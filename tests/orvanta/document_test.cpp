@@ -119,7 +119,7 @@ TEST_F(Document, UnknownObjectsAreLoggedAndLeaveNoTrace)
     EXPECT_EQ(callsOf("factory"),
               QStringList({QStringLiteral("create 1001d"), QStringLiteral("create 10016")}));
     EXPECT_EQ(logText(), QStringLiteral("Not processing: \"foo\""));
-    EXPECT_EQ(log.records.first().function,
+    EXPECT_EQ(log.records().first().function,
               QStringLiteral("void LegacyOrvanta::readControls(QDomElement)"));
 }
 
@@ -138,7 +138,7 @@ TEST_F(Document, AFileThatIsNotThereIsLogged)
     const QString path = filePath() + QStringLiteral(".none");
     EXPECT_FALSE(reader->importLabelFromFile(path));
     EXPECT_EQ(logText(), QStringLiteral("Error opening file: ") + path);
-    EXPECT_EQ(log.records.first().function, QString::fromLatin1(ImportFunction));
+    EXPECT_EQ(log.records().first().function, QString::fromLatin1(ImportFunction));
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
@@ -154,13 +154,13 @@ TEST_F(Document, AMalformedFileIsLoggedWithItsPlace)
     EXPECT_FALSE(import("<qmtx>\n  <controls></qmtx>"));
     const QString start =
         QStringLiteral("Error parsing file: %1 at line 2, column ").arg(filePath());
-    ASSERT_EQ(log.records.size(), 1);
-    EXPECT_TRUE(log.records.first().message.startsWith(start))
-        << log.records.first().message.toStdString();
-    EXPECT_TRUE(log.records.first().message.contains(QStringLiteral(":\n")));
-    EXPECT_FALSE(log.records.first().message.endsWith(QLatin1Char('\n')))
+    ASSERT_EQ(log.records().size(), 1);
+    EXPECT_TRUE(log.records().first().message.startsWith(start))
+        << log.records().first().message.toStdString();
+    EXPECT_TRUE(log.records().first().message.contains(QStringLiteral(":\n")));
+    EXPECT_FALSE(log.records().first().message.endsWith(QLatin1Char('\n')))
         << "the parser's own message stands in the second line";
-    EXPECT_EQ(log.records.first().function, QString::fromLatin1(ImportFunction));
+    EXPECT_EQ(log.records().first().function, QString::fromLatin1(ImportFunction));
     EXPECT_EQ(logText().count(QLatin1Char('\n')), 1);
     EXPECT_EQ(takeCalls(), QStringList());
 }
@@ -170,10 +170,10 @@ TEST_F(Document, AnotherRootIsRefusedBeforeTheCanvasIsTouched)
     for (const char* xml :
          {"<QMTX/>", "<label/>", "<x:qmtx xmlns:x='y'/>", "<qmtx2/>", "<a><qmtx/></a>"}) {
         SCOPED_TRACE(xml);
-        log.records.clear();
+        log.clear();
         EXPECT_FALSE(import(xml));
         EXPECT_EQ(logText(), QStringLiteral("Error: the file is not a orvanta doc"));
-        EXPECT_EQ(log.records.first().function, QString::fromLatin1(ImportFunction));
+        EXPECT_EQ(log.records().first().function, QString::fromLatin1(ImportFunction));
         EXPECT_EQ(takeCalls(), QStringList());
     }
 }

@@ -41,10 +41,11 @@ TEST_F(HostileFile, ALabelCutOffAtAnyByteIsRefusedWhole)
 {
     const QByteArray whole = wholeLabel();
     for (qsizetype length = 0; length < whole.size(); ++length) {
-        log.records.clear();
+        log.clear();
         EXPECT_FALSE(import(whole.left(length))) << length;
-        ASSERT_EQ(log.records.size(), 1) << length;
-        EXPECT_TRUE(log.records.first().message.startsWith(QStringLiteral("Error parsing file: ")));
+        ASSERT_EQ(log.records().size(), 1) << length;
+        EXPECT_TRUE(
+            log.records().first().message.startsWith(QStringLiteral("Error parsing file: ")));
     }
     EXPECT_EQ(takeCalls(), QStringList());
     EXPECT_TRUE(import(whole));
@@ -134,7 +135,7 @@ TEST_F(HostileFile, DeepNestingIsRefused)
                         "</controls></qmtx>"));
     EXPECT_FALSE(import("<qmtx>" + repeated("<controls>", deep)));
     EXPECT_EQ(takeCalls(), QStringList());
-    EXPECT_EQ(log.records.size(), 2);
+    EXPECT_EQ(log.records().size(), 2);
 }
 
 TEST_F(HostileFile, NumbersOutOfRangeReachTheHostAsTheyAre)

@@ -54,7 +54,7 @@ QStringList ReaderFixture::callsOf(const char* target) const
 QString ReaderFixture::logText() const
 {
     QStringList messages;
-    for (const LogRecord& record : log.records) {
+    for (const CapturedLog::Record& record : log.records()) {
         EXPECT_EQ(record.level, Logger::Debug);
         EXPECT_EQ(record.source, QStringLiteral("legacy_orvanta.cpp"));
         messages.append(record.message);

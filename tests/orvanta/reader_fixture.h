@@ -3,8 +3,7 @@
 #include "orvanta/legacy_orvanta.h"
 #include "tests/orvanta/fake_host.h"
 #include "tests/orvanta/printing.h"
-
-#include <AbstractAppender.h>
+#include "tests/support/captured_log.h"
 
 #include <QDomDocument>
 #include <QTemporaryDir>
@@ -12,32 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-
-/// One log record: "debug legacy_orvanta.cpp: message" and where it came from.
-struct LogRecord
-{
-    Logger::LogLevel level;
-    QString source;
-    QString function;
-    QString message;
-};
-
-/// Collects log records while it lives.
-class LogCollector : public AbstractAppender
-{
-public:
-    LogCollector() { Logger::globalInstance()->registerAppender(this); }
-    ~LogCollector() override { Logger::globalInstance()->removeAppender(this); }
-
-    QList<LogRecord> records;
-
-protected:
-    void append(const QDateTime&, Logger::LogLevel level, const char* file, int,
-                const char* function, const QString&, const QString& message) override
-    {
-        records.append({level, QString::fromLatin1(file), QString::fromLatin1(function), message});
-    }
-};
 
 /// A reader on the fake host, with an empty journal and an empty log.
 class ReaderFixture : public ::testing::Test
@@ -60,7 +33,7 @@ protected:
 
     fake::Canvas canvas;
     fake::Datasources datasources;
-    LogCollector log;
+    CapturedLog log;
     std::unique_ptr<LegacyOrvanta> reader;
 
 private:

@@ -1,5 +1,5 @@
 #include "supply/csv_table_model.h"
-#include "tests/numeric/captured_log.h"
+#include "tests/support/captured_log.h"
 
 #include <QAbstractItemModelTester>
 #include <QFileInfo>

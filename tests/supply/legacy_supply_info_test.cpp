@@ -1,6 +1,6 @@
 #include "supply/legacy_supply_info.h"
-#include "tests/numeric/captured_log.h"
 #include "tests/supply/palette.h"
+#include "tests/support/captured_log.h"
 
 #include <QAbstractItemModelTester>
 #include <QResource>

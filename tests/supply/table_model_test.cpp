@@ -1,7 +1,7 @@
 // What TableModel makes of any table, shown on one that a test fills in.
 
 #include "supply/table_model.h"
-#include "tests/numeric/captured_log.h"
+#include "tests/support/captured_log.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

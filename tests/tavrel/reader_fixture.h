@@ -2,7 +2,7 @@
 
 #include "host/services/tal_message_box.h"
 #include "tavrel/legacy_tavrel.h"
-#include "tests/numeric/captured_log.h"
+#include "tests/support/captured_log.h"
 #include "tests/tavrel/fake_host.h"
 #include "tests/tavrel/fake_services.h"
 #include "tests/tavrel/label_file.h"

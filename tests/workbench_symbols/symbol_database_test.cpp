@@ -1,11 +1,9 @@
 #include "workbench/symbols/symbol_database.h"
 
 #include "host/services/symbol_database_model.h"
+#include "tests/support/captured_log.h"
 #include "workbench/symbols/svg_limits.h"
 #include "workbench/symbols/symbol_data.h"
-
-#include <AbstractAppender.h>
-#include <Logger.h>
 
 #include <QFile>
 #include <QSqlDatabase>
@@ -44,25 +42,9 @@ void execute(const QString& path, const QStringList& statements, const QByteArra
     QSqlDatabase::removeDatabase(QStringLiteral("writer"));
 }
 
-class Records : public AbstractAppender
-{
-public:
-    QStringList lines;
-
-protected:
-    void append(const QDateTime&, Logger::LogLevel level, const char* file, int, const char*,
-                const QString&, const QString& message) override
-    {
-        lines << Logger::levelToString(level) + u' ' + QString::fromUtf8(file) + u' ' + message;
-    }
-};
-
 class SymbolDatabaseTest : public testing::Test
 {
 protected:
-    void SetUp() override { loggerInstance()->registerAppender(&records); }
-    void TearDown() override { loggerInstance()->removeAppender(&records); }
-
     QString path(const char* name = "symbols.db") const
     {
         return folder.filePath(QString::fromUtf8(name));
@@ -83,7 +65,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    Records records;
+    CapturedLog log;
 };
 
 } // namespace
@@ -98,7 +80,7 @@ TEST_F(SymbolDatabaseTest, GivesSymbolsByName)
     EXPECT_FALSE(model.getDataFromSymbolName(QStringLiteral("o'clock")).isEmpty());
     for (const char* unknown : {"", "ARROW.SVG", "rubbish", "' OR 1=1 --"})
         EXPECT_TRUE(model.getDataFromSymbolName(QString::fromUtf8(unknown)).isEmpty()) << unknown;
-    EXPECT_TRUE(records.lines.isEmpty());
+    EXPECT_TRUE(log.records().isEmpty());
 }
 
 TEST_F(SymbolDatabaseTest, MakesStoredDrawingsSafe)
@@ -123,15 +105,17 @@ TEST_F(SymbolDatabaseTest, AnswersEmptyWithOneLineForWhatIsNoDatabase)
     const QString rows[] = {path("missing.db"), folder.path(), fileOf("no database at all")};
     for (const QString& row : rows) {
         SCOPED_TRACE(row.toStdString());
-        records.lines.clear();
+        log.clear();
         SymbolDatabaseModel model(nullptr);
         model.setDatabasePath(row);
         model.setDatabasePath(row);
         EXPECT_TRUE(model.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
-        ASSERT_EQ(records.lines.size(), 1);
-        EXPECT_TRUE(records.lines[0].startsWith(
-            QStringLiteral("error symbol_database_model.cpp The symbol database ")));
-        EXPECT_TRUE(records.lines[0].contains(row));
+        ASSERT_EQ(log.records().size(), 1);
+        const CapturedLog::Record& record = log.records().first();
+        EXPECT_EQ(record.level, Logger::Error);
+        EXPECT_EQ(record.source, QStringLiteral("symbol_database_model.cpp"));
+        EXPECT_TRUE(record.message.startsWith(QStringLiteral("The symbol database ")));
+        EXPECT_TRUE(record.message.contains(row));
     }
     SymbolDatabase empty(fileOf(""));
     EXPECT_FALSE(empty.isOpen());
