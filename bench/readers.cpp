@@ -148,12 +148,12 @@ void measureTogether(benchmark::State& state, const Format& format, const QStrin
     double reader = 0.0;
     for (auto iteration : state) {
         (void)iteration;
+        reader += bench::secondsOf(format.makeReader);
         floor += bench::secondsOf([&] { format.floor(path); });
         // The end of the items is not measured: it comes when the label is closed.
         silent::Canvas canvas;
         imported += bench::secondsOf([&] { format.importFile(path, canvas); });
         canvas.clear();
-        reader += bench::secondsOf(format.makeReader);
         host +=
             bench::secondsOf([&] { makeItems(remembering.factory.types, format.texts, canvas); });
     }
