@@ -8,8 +8,9 @@ CsvLineStarts::CsvLineStarts(std::vector<qint64> offsets)
 
 void CsvLineStarts::take(std::span<const char> piece)
 {
+    qint64 next = m_position;
     for (const char byte : piece) {
-        ++m_position;
+        ++next;
         if (m_isHidden) {
             m_isHidden = false;
         } else if (byte == '\\') {
@@ -17,9 +18,10 @@ void CsvLineStarts::take(std::span<const char> piece)
         } else if (byte == '"') {
             m_isQuoted = !m_isQuoted;
         } else if (byte == '\n' && !m_isQuoted) {
-            m_offsets.push_back(m_position);
+            m_offsets.push_back(next);
         }
     }
+    m_position = next;
 }
 
 void CsvLineStarts::finish()

@@ -31,7 +31,7 @@ int alignmentOf(qint32 placementCode)
 void readSymbolSettings(QDataStream& stream, const FileContext& file, BarcodeRecord& record)
 {
     readBool(stream);
-    readText(stream);
+    skipText(stream);
     const auto [dots, placement, flag1, flag2, flag3, flag4] =
         readFields<qint32, qint32, bool, bool, bool, bool>(stream);
     record.moduleWidth = roundedPoints(dots, file.resolution.x);

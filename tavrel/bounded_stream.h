@@ -5,6 +5,8 @@
 #include <QSizeF>
 #include <QString>
 
+#include <span>
+
 /// Reads single values from a label's stream.
 ///
 /// The stream's own encodings hold. A value that the stream cuts short is zero or empty
@@ -17,6 +19,9 @@ namespace tavrel {
 [[nodiscard]] qint64 bytesLeft(const QDataStream& stream);
 /// Moves over bytes, at most to the end of the stream.
 void skipBytes(QDataStream& stream, qint64 count);
+/// Reads bytes as they stand, as many as there are.
+/// @return how many
+qsizetype readRaw(QDataStream& stream, std::span<char> to);
 
 /// One byte; everything but 0 is true.
 bool readBool(QDataStream& stream);
@@ -30,6 +35,8 @@ QSizeF readSize(QDataStream& stream);
 /// but the length, however large; an even one beyond the end gives an empty text and the end
 /// of the stream.
 QString readText(QDataStream& stream);
+/// Moves over a text, as readText() does.
+void skipText(QDataStream& stream);
 /// A length, then bytes. One beyond the end gives no bytes and the end of the stream.
 QByteArray readBytes(QDataStream& stream);
 

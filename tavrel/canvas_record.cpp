@@ -41,8 +41,8 @@ void readSuppliesAndFlags(QDataStream& stream, CanvasRecord& record)
 {
     record.labelType = readInt32(stream);
     record.ribbonType = readInt32(stream);
-    readText(stream);
-    readText(stream);
+    skipText(stream);
+    skipText(stream);
     record.canvasFlag = readBool(stream);
     record.orientationFlag = orientationFlagOf(readInt32(stream));
     readInt32(stream);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tavrel/bounded_stream.h"
+
 #include <QDataStream>
 #include <QtEndian>
 
@@ -53,8 +55,8 @@ template <typename... Field>
 {
     static_assert(sizeof(bool) == 1);
     std::array<char, (sizeof(Field) + ...)> bytes;
-    const int count = stream.readRawData(bytes.data(), static_cast<int>(bytes.size()));
-    FieldBytes left({bytes.data(), static_cast<std::size_t>(qMax(count, 0))});
+    const qsizetype count = readRaw(stream, bytes);
+    FieldBytes left({bytes.data(), static_cast<std::size_t>(count)});
     return std::tuple<Field...>{left.take<Field>()...}; // braces: from left to right
 }
 

@@ -40,7 +40,7 @@ void readFontSize(QDataStream& stream, const FileContext& file, TextRecord& reco
 // Size and style: the font's name is not taken over.
 void readFont(QDataStream& stream, const FileContext& file, TextRecord& record)
 {
-    readText(stream);
+    skipText(stream);
     const auto [dots, flag1, flag2, flag3] = readFields<qint32, bool, bool, bool>(stream);
     record.fontSize = roundedPoints(dots, file.resolution.x);
     record.styleFlag1 = flag1;

@@ -58,6 +58,21 @@ TEST(BoundedStream, ReadsBytes)
     EXPECT_EQ(readBytes(stream), QByteArray("z"));
 }
 
+TEST(BoundedStream, SkipsTextsAsItReadsThem)
+{
+    for (const char* bytes :
+         {"00000004 0041 20AC 00000007", "00000000 00000007", "FFFFFFFF 00000007",
+          "00000003 00000007", "00000008 00000007", "00000002", "00", ""}) {
+        SCOPED_TRACE(bytes);
+        QDataStream read(hex(bytes));
+        QDataStream skipped(hex(bytes));
+        readText(read);
+        skipText(skipped);
+        EXPECT_EQ(bytesLeft(skipped), bytesLeft(read));
+        EXPECT_EQ(skipped.status(), read.status());
+    }
+}
+
 TEST(BoundedStream, TextOfOddLengthTakesOnlyTheLength)
 {
     for (const char* length : {"00000003", "00000005", "FFFFFFFD"}) {

@@ -3,6 +3,9 @@
 #include "tavrel/bounded_stream.h"
 #include "tests/tavrel/bytes.h"
 
+#include <QBuffer>
+#include <QTemporaryFile>
+
 #include <gtest/gtest.h>
 
 using namespace tavrel;
@@ -23,14 +26,11 @@ Fields readRun(QDataStream& stream)
     return readFields<bool, qint32, double, quint32, bool>(stream);
 }
 
+// By the stream's own operators, which the format is defined by.
 Fields readOneByOne(QDataStream& stream)
 {
     Fields fields;
-    std::get<0>(fields) = readBool(stream);
-    std::get<1>(fields) = readInt32(stream);
-    std::get<2>(fields) = readDouble(stream);
-    std::get<3>(fields) = readUInt32(stream);
-    std::get<4>(fields) = readBool(stream);
+    std::apply([&stream](auto&... field) { (stream >> ... >> field); }, fields);
     return fields;
 }
 
@@ -58,6 +58,27 @@ TEST(FieldRun, IsAsReadFieldByFieldWhereverTheStreamEnds)
         EXPECT_EQ(readRun(atOnce), readOneByOne(oneByOne));
         EXPECT_TRUE(atOnce.atEnd());
         EXPECT_EQ(atOnce.status(), oneByOne.status());
+    }
+}
+
+TEST(FieldRun, IsTheSameInAFileAndBehindALookAhead)
+{
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write(hex("0A0B") + hex(WholeRun) + hex("0C"));
+    file.seek(0);
+    QByteArray bytes = file.readAll();
+    QBuffer buffer(&bytes);
+    ASSERT_TRUE(buffer.open(QIODevice::ReadOnly));
+    file.seek(0);
+    for (QIODevice* device : {static_cast<QIODevice*>(&file), static_cast<QIODevice*>(&buffer)}) {
+        QDataStream stream(device);
+        skipBytes(stream, 1);
+        EXPECT_EQ(device->peek(3).size(), 3) << "as pictures are told apart";
+        EXPECT_EQ(std::get<0>(readFields<quint8>(stream)), 0x0B);
+        EXPECT_EQ(readRun(stream), Fields(true, -2, 72.0, 4294967294U, true));
+        EXPECT_EQ(bytesLeft(stream), 1);
+        EXPECT_EQ(device->readAll(), hex("0C"));
     }
 }
 
