@@ -106,6 +106,18 @@ const char* const Description = QT_TRANSLATE_NOOP(
     "Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something\n"
     "was lost (with --fail-on-loss), 130 stopped by a signal.");
 
+void addOption(QCommandLineParser& parser, const OptionRow& row)
+{
+    parser.addOption(QCommandLineOption(QLatin1String(row.name), tr(row.help),
+                                        row.value != nullptr ? tr(row.value) : QString()));
+}
+
+bool isLimit(const OptionRow& row)
+{
+    const QLatin1String name(row.name);
+    return name == QLatin1String("timeout") || name == QLatin1String("memory-limit");
+}
+
 } // namespace
 
 void addImportOptions(QCommandLineParser& parser)
@@ -116,10 +128,18 @@ void addImportOptions(QCommandLineParser& parser)
                                     "standard input."),
                                  QStringLiteral("FILE..."));
     for (const OptionRow& row : Rows) {
-        parser.addOption(QCommandLineOption(QLatin1String(row.name), tr(row.help),
-                                            row.value != nullptr ? tr(row.value) : QString()));
+        addOption(parser, row);
     }
     parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this text.")});
+}
+
+void addLimitOptions(QCommandLineParser& parser)
+{
+    for (const OptionRow& row : Rows) {
+        if (isLimit(row)) {
+            addOption(parser, row);
+        }
+    }
 }
 
 } // namespace cli

@@ -128,20 +128,27 @@ void takeReports(Filling& given, ImportOptions& options)
     options.job.report = options.failOnLoss || !options.reports.isEmpty();
 }
 
+archive::WorkerLimits takeLimits(Filling& given)
+{
+    archive::WorkerLimits limits;
+    limits.timeoutSeconds =
+        given.number(QLatin1String("timeout"), 0, MaximumTimeout, limits.timeoutSeconds);
+    limits.memoryMiB =
+        given.number(QLatin1String("memory-limit"), 0, MaximumMemory, limits.memoryMiB);
+    if (limits.memoryMiB > 0 && limits.memoryMiB < MinimumMemory) {
+        given.fail(QCoreApplication::translate("cli::ImportOptions",
+                                               "--memory-limit takes 0 or at least %1 MiB.")
+                       .arg(MinimumMemory));
+    }
+    return limits;
+}
+
 void takeNumbers(Filling& given, ImportOptions& options)
 {
     options.job.dpi = given.number(QLatin1String("dpi"), MinimumDpi, MaximumDpi, options.job.dpi);
     options.workers = given.number(QLatin1String("jobs"), 1, MaximumWorkers,
                                    std::clamp(QThread::idealThreadCount(), 1, MaximumWorkers));
-    options.limits.timeoutSeconds =
-        given.number(QLatin1String("timeout"), 0, MaximumTimeout, options.limits.timeoutSeconds);
-    options.limits.memoryMiB =
-        given.number(QLatin1String("memory-limit"), 0, MaximumMemory, options.limits.memoryMiB);
-    if (options.limits.memoryMiB > 0 && options.limits.memoryMiB < MinimumMemory) {
-        given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "--memory-limit takes 0 or at least %1 MiB.")
-                       .arg(MinimumMemory));
-    }
+    options.limits = takeLimits(given);
 }
 
 void checkInputs(Filling& given, const ImportOptions& options)
@@ -208,6 +215,16 @@ parseImportArguments(const QStringList& arguments)
         return UsageError{given.error()};
     }
     return options;
+}
+
+std::variant<archive::WorkerLimits, UsageError> limitsOf(const QCommandLineParser& parser)
+{
+    Filling given(parser);
+    const archive::WorkerLimits limits = takeLimits(given);
+    if (!given.error().isEmpty()) {
+        return UsageError{given.error()};
+    }
+    return limits;
 }
 
 } // namespace cli

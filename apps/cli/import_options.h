@@ -11,6 +11,8 @@
 
 #include <variant>
 
+class QCommandLineParser;
+
 namespace cli {
 
 /// What `labelport import` was asked to do.
@@ -56,5 +58,9 @@ inline constexpr int MaximumMemory = 16'777'216;
 /// Reads the arguments that follow `labelport import`.
 [[nodiscard]] std::variant<ImportOptions, HelpWanted, UsageError>
 parseImportArguments(const QStringList& arguments);
+
+/// What --timeout and --memory-limit were given to a command that has them.
+[[nodiscard]] std::variant<archive::WorkerLimits, UsageError>
+limitsOf(const QCommandLineParser& parser);
 
 } // namespace cli

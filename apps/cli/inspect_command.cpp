@@ -3,6 +3,8 @@
 #include "apps/cli/command_line.h"
 #include "apps/cli/exit_status.h"
 #include "apps/cli/file_reports.h"
+#include "apps/cli/import_option_table.h"
+#include "apps/cli/import_options.h"
 #include "apps/cli/import_worker.h"
 #include "apps/cli/job_options.h"
 #include "apps/cli/messages.h"
@@ -36,13 +38,15 @@ void addOptions(QCommandLineParser& parser)
                       tr("Read the file as tavrel, orvanta or opendocument, "
                          "whatever its name."),
                       tr("name")});
+    addLimitOptions(parser);
 }
 
 /// One file for one worker, so that whatever it holds cannot harm more than that.
 class Inspection final : public archive::PoolClient
 {
 public:
-    Inspection(const QString& file, const JobOptions& options)
+    Inspection(const QString& file, const JobOptions& options, const archive::WorkerLimits& limits)
+        : m_limits(limits)
     {
         m_job.file = file;
         m_job.shownName = file;
@@ -132,8 +136,12 @@ int runInspect(const QStringList& arguments)
     if (!reader.isEmpty() && !options.reader) {
         return refuseArguments(command, unknownReaderWords(reader));
     }
-    return tell(files.first(), Inspection(files.first(), options).run(),
-                parser.isSet(QStringLiteral("json")));
+    const auto limits = limitsOf(parser);
+    if (const auto* error = std::get_if<UsageError>(&limits)) {
+        return refuseArguments(command, error->message);
+    }
+    Inspection inspection(files.first(), options, std::get<archive::WorkerLimits>(limits));
+    return tell(files.first(), inspection.run(), parser.isSet(QStringLiteral("json")));
 }
 
 } // namespace cli

@@ -6,7 +6,7 @@ _labelport_options() {
     case $1 in
     import) echo '--to --output-dir --dpi --records --force --reader --files-from --null --base
         --jobs --timeout --memory-limit --resume --shard --report --fail-on-loss --quiet --help' ;;
-    inspect) echo '--json --reader --help' ;;
+    inspect) echo '--json --reader --timeout --memory-limit --help' ;;
     report) echo '--to --help' ;;
     formats) echo '--json --help' ;;
     trace) echo '--help --version' ;;

@@ -47,6 +47,19 @@ TEST_F(OtherCommands, InspectSaysWhatFailed)
     EXPECT_EQ(labelport(words("inspect missing.cnv")).status, 1);
 }
 
+TEST_F(OtherCommands, InspectHasTheLimitsOfImport)
+{
+    // A tree of so many elements takes some two hundred megabytes.
+    write(QStringLiteral("wide.qmtx"), "<a>" + QByteArray("<b/>").repeated(1'000'000) + "</a>");
+    const Outcome outcome = labelport(words("inspect wide.qmtx --timeout 0 --memory-limit 128"));
+    EXPECT_EQ(outcome.status, 1);
+    if (!outcome.out.contains(QStringLiteral("128 MiB"))) {
+        GTEST_SKIP() << "SKIPPED: no bounds of memory in this build";
+    }
+    EXPECT_FALSE(labelport(words("inspect wide.qmtx --memory-limit 0"))
+                     .out.contains(QStringLiteral("memory-limit")));
+}
+
 TEST_F(OtherCommands, FormatsAreListed)
 {
     const Outcome text = labelport(words("formats"));
@@ -83,10 +96,10 @@ TEST_F(OtherCommands, ShowHelpThatNamesThem)
 
 TEST_F(OtherCommands, RefuseWrongArguments)
 {
-    for (const char* line :
-         {"inspect", "inspect a b", "inspect a --reader x", "inspect --x a", "formats a",
-          "formats --x", "report", "report split a.json", "report merge", "report merge a.json",
-          "report merge --to b.json", "worker"}) {
+    for (const char* line : {"inspect", "inspect a b", "inspect a --reader x", "inspect --x a",
+                             "inspect a --timeout x", "inspect a --memory-limit 127", "formats a",
+                             "formats --x", "report", "report split a.json", "report merge",
+                             "report merge a.json", "report merge --to b.json", "worker"}) {
         SCOPED_TRACE(line);
         const Outcome outcome = labelport(words(line));
         if (QLatin1String(line) != QLatin1String("worker")) {
