@@ -49,15 +49,14 @@ TEST_F(OtherCommands, InspectSaysWhatFailed)
 
 TEST_F(OtherCommands, InspectHasTheLimitsOfImport)
 {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "SKIPPED: no bounds of memory under the sanitizer";
+#endif
     // A tree of so many elements takes some two hundred megabytes.
     write(QStringLiteral("wide.qmtx"), "<a>" + QByteArray("<b/>").repeated(1'000'000) + "</a>");
     const Outcome outcome = labelport(words("inspect wide.qmtx --timeout 0 --memory-limit 128"));
     EXPECT_EQ(outcome.status, 1);
-    if (!outcome.out.contains(QStringLiteral("128 MiB"))) {
-        GTEST_SKIP() << "SKIPPED: no bounds of memory in this build";
-    }
-    EXPECT_FALSE(labelport(words("inspect wide.qmtx --memory-limit 0"))
-                     .out.contains(QStringLiteral("memory-limit")));
+    EXPECT_TRUE(outcome.out.contains(QStringLiteral("128 MiB"))) << qPrintable(outcome.out);
 }
 
 TEST_F(OtherCommands, FormatsAreListed)
