@@ -1,4 +1,5 @@
 #include "tests/orvanta/reader_fixture.h"
+#include "tests/support/mono_png.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -13,17 +14,6 @@ QByteArray pictureBox(const QByteArray& bytes, const QByteArray& children = {})
            "</content></image></picture_box>";
 }
 
-QByteArray png(int width, int height)
-{
-    QImage image(width, height, QImage::Format_Mono);
-    image.fill(0);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
-
 constexpr char Place[] =
     "<rotation>90</rotation><flip_horizontally>true</flip_horizontally>"
     "<flip_vertically>true</flip_vertically>"
@@ -35,7 +25,7 @@ constexpr char Place[] =
 
 TEST_F(PictureBuilding, ARasterPictureIsLoadedImportedAndPlaced)
 {
-    readControls(pictureBox(png(12, 8), Place));
+    readControls(pictureBox(monoPng(12, 8), Place));
     EXPECT_EQ(takeCalls(), QStringList({
                                QStringLiteral("factory create 1000c"),
                                QStringLiteral("item:1 pixmapImportActions 12 8"),
@@ -51,7 +41,7 @@ TEST_F(PictureBuilding, ARasterPictureIsLoadedImportedAndPlaced)
 
 TEST_F(PictureBuilding, AByteOrderMarkInFrontOfARasterPictureGoesToo)
 {
-    readControls(pictureBox("\xEF\xBB\xBF" + png(12, 8)));
+    readControls(pictureBox("\xEF\xBB\xBF" + monoPng(12, 8)));
     EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 12 8"));
 }
 
@@ -114,7 +104,7 @@ TEST_F(PictureBuilding, OneSymbolCreatorServesAllPicturesOfAReader)
 
 TEST_F(PictureBuilding, WithoutSvgThereIsNoSymbolCreator)
 {
-    readControls(pictureBox(png(1, 1)));
+    readControls(pictureBox(monoPng(1, 1)));
     reader.reset();
     EXPECT_TRUE(callsOf("symbolcreator").isEmpty());
 }
@@ -146,7 +136,7 @@ TEST_F(PictureBuilding, PicturesThatTheHostDoesNotMakeAreLeftOut)
 {
     canvas.factory.refused = {KestTypes::Symbol};
     canvas.factory.mistaken = {KestTypes::Picture};
-    readControls(pictureBox("<svg/>") + pictureBox(png(1, 1)));
+    readControls(pictureBox("<svg/>") + pictureBox(monoPng(1, 1)));
     EXPECT_TRUE(canvas.items.empty());
     EXPECT_EQ(fake::livingItems(), 0);
     EXPECT_EQ(logText(),
@@ -166,9 +156,9 @@ TEST_F(PictureBuilding, APictureThatClaimsToBeHugeIsAFailedLoad)
 TEST_F(PictureBuilding, AllPicturesOfALabelTogetherAreBoundedAndTheNextLabelStartsAnew)
 {
     // 25 million pixels each: five fit into 128 million, the sixth does not.
-    const QByteArray large = pictureBox(png(5000, 5000)).repeated(6);
+    const QByteArray large = pictureBox(monoPng(5000, 5000)).repeated(6);
     const QByteArray label =
-        "<qmtx><controls>" + large + pictureBox(png(2, 2)) + "</controls></qmtx>";
+        "<qmtx><controls>" + large + pictureBox(monoPng(2, 2)) + "</controls></qmtx>";
     const QString whole = QStringLiteral("pixmapImportActions 5000 5000");
     EXPECT_TRUE(import(label));
     EXPECT_EQ(callsOf("item:5").first(), whole);
@@ -187,7 +177,7 @@ TEST_F(PictureBuilding, ADrawingInTheRasterPathIsNotDrawn)
 
 TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)
 {
-    EXPECT_TRUE(import("<qmtx><pre_printed_image><content>" + png(3, 2).toBase64() +
+    EXPECT_TRUE(import("<qmtx><pre_printed_image><content>" + monoPng(3, 2).toBase64() +
                        "</content></pre_printed_image><controls><transparent_label/></controls>"
                        "</qmtx>"));
     const QStringList calls = takeCalls();

@@ -1,5 +1,6 @@
 #include "workbench/document/json_values.h"
 
+#include "tests/support/mono_png.h"
 #include "workbench/document/document_limits.h"
 
 #include <QBuffer>
@@ -25,17 +26,6 @@ QJsonObject pictureOf(const QByteArray& png, const char* pixels)
 {
     return {{QLatin1String("png"), QString::fromLatin1(png.toBase64())},
             {QLatin1String("pixels"), QLatin1String(pixels)}};
-}
-
-QByteArray pngOf(int width, int height)
-{
-    QImage image(width, height, QImage::Format_Mono);
-    image.fill(0);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
-    return bytes;
 }
 
 } // namespace
@@ -110,11 +100,11 @@ TEST(JsonValues, TakePropertiesOfDataSources)
 TEST(JsonValues, TakeNoPictureThatIsDamagedOrTooLarge)
 {
     EXPECT_TRUE(reads<QImage>(QJsonValue()));
-    EXPECT_TRUE(reads<QImage>(pictureOf(pngOf(3, 3), "rgb")));
-    EXPECT_FALSE(reads<QImage>(pictureOf(pngOf(3, 3), "other")));
+    EXPECT_TRUE(reads<QImage>(pictureOf(monoPng(3, 3), "rgb")));
+    EXPECT_FALSE(reads<QImage>(pictureOf(monoPng(3, 3), "other")));
     EXPECT_FALSE(reads<QImage>(pictureOf("no picture", "rgb")));
     EXPECT_FALSE(reads<QImage>(pictureOf("", "rgb")));
-    EXPECT_FALSE(reads<QImage>(pictureOf(pngOf(limits::PictureSide + 1, 1), "rgb")));
+    EXPECT_FALSE(reads<QImage>(pictureOf(monoPng(limits::PictureSide + 1, 1), "rgb")));
     EXPECT_FALSE(reads<QImage>(
         pictureOf("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>", "rgb")));
     EXPECT_FALSE(reads<QImage>(QJsonObject()));

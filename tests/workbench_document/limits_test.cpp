@@ -8,6 +8,7 @@
 #include "workbench/document/label_json.h"
 
 #include "sample_label.h"
+#include "tests/support/mono_png.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -65,15 +66,9 @@ QJsonObject itemClaiming(quint32 width, quint32 height)
 
 bool isPicture(int width, int height)
 {
-    QImage image(width, height, QImage::Format_Mono);
-    image.fill(0);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
     QImage read;
     return Json<QImage>::read(
-        QJsonObject{{QLatin1String("png"), QString::fromLatin1(bytes.toBase64())},
+        QJsonObject{{QLatin1String("png"), QString::fromLatin1(monoPng(width, height).toBase64())},
                     {QLatin1String("pixels"), QLatin1String("rgb")}},
         read);
 }

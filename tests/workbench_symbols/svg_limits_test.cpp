@@ -1,6 +1,7 @@
 // Every limit of drawings at its last good value and at the first bad one, where another test
 // does not show it.
 
+#include "tests/support/mono_png.h"
 #include "workbench/symbols/svg_limits.h"
 #include "workbench/symbols/svg_sanitizer.h"
 #include "workbench/symbols/symbol_data.h"
@@ -26,17 +27,6 @@ qsizetype kept(const char* what, const QByteArray& content)
     return safe ? safe->body.count(QLatin1String(what)) : -1;
 }
 
-QByteArray pngOf(int width, int height)
-{
-    QImage image(width, height, QImage::Format_Mono);
-    image.fill(1);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
-    return bytes;
-}
-
 QByteArray image(const QByteArray& png)
 {
     return "<image width='1' height='1' href='data:image/png;base64," + png.toBase64() + "'/>";
@@ -51,19 +41,19 @@ TEST(SvgLimits, MeasureTheDocument)
 
 TEST(SvgLimits, MeasurePictures)
 {
-    EXPECT_EQ(kept("<image", image(pngOf(limits::ImageSide, 1))), 1);
-    EXPECT_EQ(kept("<image", image(pngOf(1, limits::ImageSide + 1))), 0);
+    EXPECT_EQ(kept("<image", image(monoPng(limits::ImageSide, 1))), 1);
+    EXPECT_EQ(kept("<image", image(monoPng(1, limits::ImageSide + 1))), 0);
     static_assert(limits::ImagePixels == 5000 * 5000);
-    EXPECT_EQ(kept("<image", image(pngOf(5000, 5000))), 1);
-    EXPECT_EQ(kept("<image", image(pngOf(5001, 5000))), 0);
+    EXPECT_EQ(kept("<image", image(monoPng(5000, 5000))), 1);
+    EXPECT_EQ(kept("<image", image(monoPng(5001, 5000))), 0);
 }
 
 TEST(SvgLimits, CountThePixelsOfAllPictures)
 {
     static_assert(limits::AllImagePixels == 4 * limits::ImagePixels);
-    const QByteArray most = image(pngOf(5000, 5000)).repeated(4);
+    const QByteArray most = image(monoPng(5000, 5000)).repeated(4);
     EXPECT_EQ(kept("<image", most), 4);
-    EXPECT_EQ(kept("<image", most + image(pngOf(1, 1))), 4);
+    EXPECT_EQ(kept("<image", most + image(monoPng(1, 1))), 4);
 }
 
 // The root, a group of n paths, and copies of the group: each is its own element, the group, and n.
@@ -119,11 +109,11 @@ TEST(SvgLimits, LetNoPictureUnpackItsTexts)
     QByteArray length(4, '\0');
     qToBigEndian(quint32(chunk.size() - 4), length.data());
     constexpr qsizetype behindHeader = 33;
-    QByteArray bomb = pngOf(3, 2);
+    QByteArray bomb = monoPng(3, 2);
     bomb.insert(behindHeader, (length + chunk + QByteArray(4, '\0')).repeated(20));
     const auto safe = sanitizeSvg(svg(image(bomb)));
     ASSERT_TRUE(safe);
-    EXPECT_TRUE(safe->body.contains(QLatin1String(pngOf(3, 2).toBase64())));
+    EXPECT_TRUE(safe->body.contains(QLatin1String(monoPng(3, 2).toBase64())));
     EXPECT_LT(safe->body.size(), 1000);
 }
 
