@@ -52,8 +52,8 @@ void skipBytes(QDataStream& stream, qint64 count)
     device->seek(device->pos() + std::clamp<qint64>(count, 0, bytesLeft(stream)));
 }
 
-// A label's bytes lie in memory: there they are taken at once. Through the device, every read of
-// a few bytes takes three times as long.
+// A label's bytes lie in memory: taken there instead of read through the device, they save a
+// twenty-fifth of a large label's import.
 qsizetype readRaw(QDataStream& stream, std::span<char> to)
 {
     auto* const buffer = qobject_cast<QBuffer*>(stream.device());

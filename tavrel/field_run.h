@@ -11,8 +11,7 @@
 
 /// Reads runs of fields of fixed size.
 ///
-/// A device takes as long for one byte as for a hundred. Records are mostly such runs, and
-/// read field by field they take two thirds longer.
+/// A device takes nearly as long for one byte as for a hundred, and records are mostly such runs.
 namespace tavrel {
 
 /// The bytes of a run, as many as the stream still held.
