@@ -1,14 +1,41 @@
-# labelport_room(NAME SOURCES ... LINK ...)
+# labelport_room(NAME [STATIC] [CORE] SOURCES ... [LINK ...])
 #
-# A room of the house: an object library `labelport_NAME` of the folder NAME.
-# Object libraries, because a room's compiled-in resources and static tables
-# must reach the shared library whole, and because tests link one room alone.
+# A room of the house: the target `labelport_NAME`, made from the current folder. Its headers are
+# included by their path below the house, `tavrel/legacy_tavrel.h` for library/tavrel/.
+#
+# A target finds the headers of the rooms that it links, and no others: each room has an include
+# folder of its own, with a link to its sources. So the direction of the dependencies is checked by
+# the compiler.
+#
+# Rooms are object libraries unless STATIC is given: compiled-in resources, static tables and the
+# host's link-time services must reach the program even if nothing refers to them. CORE says that
+# the room does without Qt Widgets.
 function(labelport_room name)
-    cmake_parse_arguments(ROOM "" "" "SOURCES;LINK" ${ARGN})
-    add_library(labelport_${name} OBJECT ${ROOM_SOURCES})
-    target_include_directories(labelport_${name} PUBLIC
-        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-        $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/generated>)
-    target_compile_definitions(labelport_${name} PRIVATE labelport_EXPORTS)
+    cmake_parse_arguments(ROOM "STATIC;CORE" "" "SOURCES;LINK" ${ARGN})
+    set(kind OBJECT)
+    if(ROOM_STATIC)
+        set(kind STATIC)
+    endif()
+    add_library(labelport_${name} ${kind} ${ROOM_SOURCES})
+    labelport_room_headers(labelport_${name} PUBLIC)
     target_link_libraries(labelport_${name} PUBLIC ${ROOM_LINK})
+    if(ROOM_CORE)
+        labelport_precompile(labelport_${name} core)
+    else()
+        labelport_precompile(labelport_${name} widgets)
+    endif()
+endfunction()
+
+# labelport_room_headers(TARGET PUBLIC|INTERFACE)
+#
+# Lets TARGET, and what links it, find the headers of the current folder.
+function(labelport_room_headers target scope)
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR
+        BASE_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_VARIABLE below_root)
+    string(REGEX REPLACE "^[^/]+/(.+)$" "\\1" below_house ${below_root})
+    set(include_folder ${PROJECT_BINARY_DIR}/rooms/${target})
+    cmake_path(GET below_house PARENT_PATH parent)
+    file(MAKE_DIRECTORY ${include_folder}/${parent})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${include_folder}/${below_house} SYMBOLIC)
+    target_include_directories(${target} ${scope} $<BUILD_INTERFACE:${include_folder}>)
 endfunction()

@@ -10,6 +10,7 @@ function(labelport_test name)
     target_link_libraries(${name} PRIVATE
         ${TEST_LINK} labelport_test_main GTest::gtest GTest::gmock Qt6::Widgets)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    labelport_precompile(${name} tests)
     set_target_properties(${name} PROPERTIES
         ENABLE_EXPORTS ON
         RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)

@@ -2,7 +2,7 @@
 
 #include "archive/journal.h"
 #include "archive/journal_compaction.h"
-#include "jsonbounds/tree_size.h"
+#include "limits/json/tree_size.h"
 #include "tests/archive/test_folder.h"
 
 #include <QBuffer>

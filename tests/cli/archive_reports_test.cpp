@@ -1,7 +1,7 @@
 // The reports of a command, file by file.
 
-#include "apps/cli/archive_reports.h"
-#include "apps/cli/file_reports.h"
+#include "cli/archive_reports.h"
+#include "cli/file_reports.h"
 #include "tests/cli/program_fixture.h"
 
 #include <QTemporaryDir>

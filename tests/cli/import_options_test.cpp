@@ -1,6 +1,6 @@
 // The arguments of `labelport import`.
 
-#include "apps/cli/import_options.h"
+#include "cli/import_options.h"
 #include "tests/cli/program_fixture.h"
 
 #include <gtest/gtest.h>

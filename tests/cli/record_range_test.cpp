@@ -1,6 +1,6 @@
 // Ranges of records as people write them.
 
-#include "apps/cli/record_range.h"
+#include "cli/record_range.h"
 
 #include <gtest/gtest.h>
 

@@ -9,17 +9,16 @@ import pathlib
 import re
 import sys
 
-ROOMS = ("numeric", "supply", "imagebounds", "xmlbounds", "tavrel", "orvanta", "opendocument",
-         "importer", "workbench", "recorder", "migration", "jsonbounds", "archive")
+ROOMS = ("library", "hosts", "tools")
 CONSTANT = re.compile(r"constexpr\s+[\w:]+\s+(k?[A-Z]\w*)\s*=\s*([^;]+);")
 # A bound is called one, or stands in a header of them.
 BOUND_NAME = re.compile(r"^k?(Maximum|Most|Largest|Longest)[A-Z]")
 BOUND_HEADERS = ("limits.h", "document_limits.h", "svg_limits.h", "bounds.h")
 # What stands beside the bounds in their headers.
-NO_BOUNDS = {("orvanta/bounds.h", "PointsPerPixel"), ("orvanta/bounds.h", "CanvasMargin"),
-             ("workbench/items/bounds.h", "kCoordinateNotGiven"),
-             ("workbench/items/bounds.h", "kDefaultFontSize"),
-             ("workbench/rendering/frugal_image.cpp", "kMostColors")}
+NO_BOUNDS = {("library/orvanta/bounds.h", "PointsPerPixel"), ("library/orvanta/bounds.h", "CanvasMargin"),
+             ("hosts/workbench/items/bounds.h", "kCoordinateNotGiven"),
+             ("hosts/workbench/items/bounds.h", "kDefaultFontSize"),
+             ("hosts/workbench/rendering/frugal_image.cpp", "kMostColors")}
 ROW = re.compile(r"^\| `(\w+)` \| `([\w/.]+)` \| `([^`]+)` \| (.+) \| `([\w.]+)` \|$")
 TEST = re.compile(r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)", re.MULTILINE)
 

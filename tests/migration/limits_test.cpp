@@ -1,6 +1,6 @@
 // Every limit of what is counted and reported at its last good value and at the first bad one.
 
-#include "jsonbounds/tree_size.h"
+#include "limits/json/tree_size.h"
 #include "migration/census/census.h"
 #include "migration/census/known_fonts.h"
 #include "migration/census/zip_member.h"

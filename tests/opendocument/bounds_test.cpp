@@ -9,7 +9,7 @@
 #include "opendocument/picture_store.h"
 #include "opendocument/style_memory.h"
 #include "opendocument/zip_directory.h"
-#include "xmlbounds/markup_scanner.h"
+#include "limits/xml/markup_scanner.h"
 
 #include <QBuffer>
 #include <QImage>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "xmlbounds/element_tree.h"
+#include "limits/xml/element_tree.h"
 
 #include <QByteArray>
 #include <QMap>

@@ -15,7 +15,7 @@ import re
 import sys
 import xml.etree.ElementTree
 
-FOLDERS = ["apps", "archive", "importer", "migration", "workbench"]
+FOLDERS = ["library/importer", "hosts/workbench", "tools", "programs"]
 
 # What the code is made of, as far as it matters here.
 TOKEN = re.compile(

@@ -1,6 +1,6 @@
 // What is said in another language where it matters that it is the right thing.
 
-#include "apps/workbench/actions.h"
+#include "window/actions.h"
 #include "translations/program_language.h"
 #include "workbench/barcodes/barcode_encoder.h"
 #include "workbench/canvas/canvas.h"

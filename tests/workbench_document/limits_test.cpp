@@ -1,6 +1,6 @@
 // Every limit of saved labels at its last good value and at the first bad one.
 
-#include "jsonbounds/tree_size.h"
+#include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
 #include "workbench/document/file_bounds.h"
 #include "workbench/document/json_values.h"

@@ -1,0 +1,30 @@
+# Precompiled headers, shared by all targets: more than half of a build's time otherwise goes into
+# reading the same headers of Qt and the standard library.
+
+option(LABELPORT_PRECOMPILED_HEADERS "Precompile the headers that most sources include" ON)
+
+# Executables get the code model of libraries, so that one precompiled header serves both.
+set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
+
+# labelport_precompile(TARGET core|widgets|tests)
+#
+# Lets TARGET use cmake/precompiled/core.h, widgets.h or tests.h. TARGET must link the modules
+# below: the compiler rejects a precompiled header if a macro is missing that it was made with.
+set(LABELPORT_PRECOMPILED_core Qt6::Core)
+set(LABELPORT_PRECOMPILED_widgets Qt6::Widgets)
+set(LABELPORT_PRECOMPILED_tests Qt6::Widgets GTest::gtest GTest::gmock)
+
+function(labelport_precompile target header)
+    if(NOT LABELPORT_PRECOMPILED_HEADERS)
+        return()
+    endif()
+    set(provider labelport_precompiled_${header})
+    if(NOT TARGET ${provider})
+        add_library(${provider} OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled/precompiled.cpp)
+        target_link_libraries(${provider} PRIVATE ${LABELPORT_PRECOMPILED_${header}})
+        target_precompile_headers(${provider} PRIVATE
+            ${PROJECT_SOURCE_DIR}/cmake/precompiled/${header}.h)
+        set_target_properties(${provider} PROPERTIES AUTOMOC OFF)
+    endif()
+    target_precompile_headers(${target} REUSE_FROM ${provider})
+endfunction()

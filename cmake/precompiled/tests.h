@@ -1,0 +1,6 @@
+// The same for test programs.
+
+#include "widgets.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>

@@ -1,0 +1,102 @@
+#include "workbench/document/label_json.h"
+
+#include "limits/json/tree_size.h"
+#include "workbench/document/document_limits.h"
+#include "workbench/document/field_archives.h"
+#include "workbench/document/file_bounds.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace workbench::document {
+
+namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(workbench::LabelFile)
+};
+
+constexpr QLatin1String FormatKey("format");
+constexpr QLatin1String VersionKey("version");
+constexpr QLatin1String ChecksumKey("checksum");
+constexpr QLatin1String LabelKey("label");
+constexpr QLatin1String FormatName("labelport-label");
+
+[[nodiscard]] QString checksumOf(const QJsonObject& label)
+{
+    const QByteArray text = QJsonDocument(label).toJson(QJsonDocument::Compact);
+    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex());
+}
+
+[[nodiscard]] ReadLabel refusal(const QString& error)
+{
+    return {{}, error};
+}
+
+/// What is wrong with the outermost object; empty when the label in it can be read.
+[[nodiscard]] QString envelopeError(const QJsonObject& file)
+{
+    if (file.value(FormatKey) != QJsonValue(FormatName))
+        return Words::tr("The file is not a saved label.");
+    int version = 0;
+    if (!Json<int>::read(file.value(VersionKey), version) || version < 1)
+        return Words::tr("The label file is damaged: version is not a positive whole number.");
+    if (version > FormatVersion)
+        return Words::tr("The label was saved by a newer version of the program: its format"
+                         " is %1, and this version knows formats up to %2. Update the"
+                         " program to open it.")
+            .arg(version)
+            .arg(FormatVersion);
+    if (!file.value(LabelKey).isObject())
+        return Words::tr("The label file is damaged: label is missing.");
+    // A file that a person or another program has written needs no checksum.
+    if (file.contains(ChecksumKey) &&
+        file.value(ChecksumKey) != QJsonValue(checksumOf(file.value(LabelKey).toObject())))
+        return Words::tr("The label file is damaged: its content has changed since it was"
+                         " saved.");
+    return {};
+}
+
+} // namespace
+
+QByteArray toJson(const SavedLabel& label)
+{
+    FieldWriter writer;
+    describe(writer, label);
+    const QJsonObject content = writer.object();
+    const QJsonObject file{{FormatKey, FormatName},
+                           {VersionKey, FormatVersion},
+                           {ChecksumKey, checksumOf(content)},
+                           {LabelKey, content}};
+    return QJsonDocument(file).toJson(QJsonDocument::Indented);
+}
+
+ReadLabel fromJson(const QByteArray& bytes)
+{
+    if (jsonbounds::isLargerThan(bytes, limits::TreeBytes))
+        return refusal(Words::tr("The label file is damaged: it holds more than any label."));
+    QJsonParseError parsing;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);
+    if (parsing.error != QJsonParseError::NoError)
+        return refusal(Words::tr("The file is not a saved label, or it is damaged: after %1"
+                                 " bytes it cannot be read any further.")
+                           .arg(parsing.offset));
+    const QJsonObject file = document.object();
+    const QString error = envelopeError(file);
+    if (!error.isEmpty())
+        return refusal(error);
+    const QJsonObject content = file.value(LabelKey).toObject();
+    if (claimedPixels(content) > limits::AllPicturePixels)
+        return refusal(Words::tr("The label file is damaged: its pictures are too large."));
+    ReadLabel result;
+    FieldReader reader(content);
+    describe(reader, result.label);
+    if (!reader.error().isEmpty())
+        return refusal(Words::tr("The label file is damaged: %1.").arg(reader.error()));
+    return result;
+}
+
+} // namespace workbench::document

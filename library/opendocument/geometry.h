@@ -1,0 +1,31 @@
+#pragma once
+
+#include "limits/xml/element_tree.h"
+
+#include <QPointF>
+#include <QSizeF>
+
+namespace opendocument {
+
+/// Place, size, order and rotation of one element, with the values that mean: not given.
+struct Geometry
+{
+    QSizeF size{-1, -1};                        ///< points
+    QPointF position{-1000000001, -1000000001}; ///< points
+    double z = -1000000001;
+    double rotation = 500.0; ///< degrees, clockwise
+
+    [[nodiscard]] bool hasX() const { return position.x() > -1000000000; }
+    [[nodiscard]] bool hasY() const { return position.y() > -1000000000; }
+    [[nodiscard]] bool hasZ() const { return z > -1000000000; }
+    [[nodiscard]] bool hasRotation() const { return rotation < 500.0; }
+};
+
+/// Reads the geometry attributes of an element. Leaves alone what is absent or damaged.
+/// @param unitFactor points per unit of the document's lengths
+void readGeometry(const xmlbounds::Element& element, double unitFactor, Geometry& geometry);
+
+/// Reads draw:z-index alone, for elements that have no other geometry in common.
+void readStackingOrder(const xmlbounds::Element& element, Geometry& geometry);
+
+} // namespace opendocument

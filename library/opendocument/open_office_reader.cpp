@@ -1,0 +1,276 @@
+// The conductor: the package, the page, the styles, and which element goes where.
+
+#include "opendocument/open_office_reader.h"
+
+#include "opendocument/code_table.h"
+#include "opendocument/item_builder.h"
+#include "opendocument/limits.h"
+#include "opendocument/log.h"
+#include "opendocument/page_layout.h"
+#include "opendocument/style_memory.h"
+
+#include "host/services/common_lists.h"
+#include "host/services/symbol_creator.h"
+#include "host/tal_canvas_model.h"
+#include "limits/xml/element_tree.h"
+
+#include <QApplication>
+#include <QFontInfo>
+
+#include <cmath>
+
+#include <private/qzipreader_p.h>
+
+using namespace opendocument;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString StylesMember = u"styles.xml"_s;
+const QString ContentMember = u"content.xml"_s;
+// As the signature was when bodies were document trees: old log filters depend on it.
+constexpr char ReadBody[] = "void OpenOfficeReader::readBody(const QDomElement&)";
+
+double pointsPerPixelOf(const QFont& font)
+{
+    const QFontInfo info(font);
+    return info.pixelSize() > 0 ? info.pointSizeF() / info.pixelSize() : 1.0;
+}
+
+QString parseFailureMessage(const QString& member, const xmlbounds::ParseFailure& failure)
+{
+    // The word stands where the file's name should: old log filters depend on it.
+    return QString::asprintf("Error parsing file: %s / %s at line %lld, column %lld:\n%s",
+                             "fileName", member.toLocal8Bit().constData(), failure.line,
+                             failure.column, failure.message.toLocal8Bit().constData());
+}
+
+} // namespace
+
+OpenOfficeReader::OpenOfficeReader(TalCanvasModel* canvasModel,
+                                   DatasourceController* datasourceController)
+    : m_canvasModel(canvasModel)
+    , m_classFactory(canvasModel->getClassFactory())
+    , m_controller(datasourceController)
+    , m_pointsPerPixel(pointsPerPixelOf(QApplication::font()))
+{}
+
+OpenOfficeReader::~OpenOfficeReader() = default;
+
+bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
+{
+    openPackage(fileName);
+    QByteArray stylesBytes = readDocument(StylesMember, limits::StylesBytes);
+    if (stylesBytes.isEmpty()) {
+        logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file styles."_s);
+        return false;
+    }
+    QByteArray contentBytes = readDocument(ContentMember, limits::ContentBytes);
+    if (contentBytes.isEmpty()) {
+        logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file content."_s);
+        return false;
+    }
+    m_flowOffsetY = 0;
+
+    // Both are read in whole before the canvas hears of either, so that a damaged document
+    // leaves it untouched.
+    xmlbounds::ElementTree styles;
+    if (const auto failure = styles.parse(stylesBytes, limits::StylesTreeBytes)) {
+        logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(StylesMember, *failure));
+        return false;
+    }
+    xmlbounds::ElementTree content;
+    if (const auto failure = content.parse(contentBytes, limits::ContentTreeBytes)) {
+        logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(ContentMember, *failure));
+        return false;
+    }
+    stylesBytes.clear();
+    contentBytes.clear();
+
+    const xmlbounds::Element stylesRoot = styles.documentElement();
+    const xmlbounds::Element contentRoot = content.documentElement();
+    forgetTooManyStyles();
+    importPageLayout(stylesRoot);
+    readDefaultStyles(stylesRoot.firstChildElement(u"office:styles"_s));
+    readStyles(stylesRoot.firstChildElement(u"office:styles"_s));
+    // Last, so that they may name common styles as parents and replace those of their name.
+    readStyles(contentRoot.firstChildElement(u"office:automatic-styles"_s));
+    readBody(contentRoot.firstChildElement(u"office:body"_s));
+    m_canvasModel->completeCanvasLoading();
+    return true;
+}
+
+void OpenOfficeReader::closePackage()
+{
+    m_zipReader.reset();
+}
+
+void OpenOfficeReader::openPackage(const QString& fileName)
+{
+    closePackage();
+    m_pictures = std::make_unique<PictureStore>(
+        [this](const QString& name, qint64 largest) { return readMember(name, largest); });
+    if (const auto refusal = m_zipDirectory.open(fileName)) {
+        // Of what is no package at all, the missing document tells enough.
+        if (m_zipDirectory.isPackage()) {
+            logDebug(__LINE__, Q_FUNC_INFO, *refusal);
+        }
+        return;
+    }
+    m_zipReader = std::make_unique<QZipReader>(fileName, QIODevice::ReadOnly);
+}
+
+// The caller has its own words for a document that is missing: no others stand beside them.
+QByteArray OpenOfficeReader::readDocument(const QString& name, qint64 largest)
+{
+    return m_zipDirectory.hasMember(name) ? readMember(name, largest) : QByteArray();
+}
+
+QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)
+{
+    if (!m_zipReader) {
+        return {};
+    }
+    if (const auto refusal = m_zipDirectory.refusalOf(name, largest)) {
+        logDebug(__LINE__, Q_FUNC_INFO, *refusal);
+        return {};
+    }
+    return m_zipReader->fileData(name);
+}
+
+void OpenOfficeReader::forgetTooManyStyles()
+{
+    if (memoryOf(m_textStyles) + memoryOf(m_graphicStyles) <= limits::CarriedStylesBytes) {
+        return;
+    }
+    m_textStyles.clear();
+    m_graphicStyles.clear();
+    logDebug(__LINE__, Q_FUNC_INFO,
+             u"The styles of earlier files are forgotten: they take more than %1 bytes"_s.arg(
+                 limits::CarriedStylesBytes));
+}
+
+void OpenOfficeReader::importPageLayout(const xmlbounds::Element& stylesRoot)
+{
+    const PageLayout layout = readPageLayout(stylesRoot);
+    if (layout.width) {
+        m_unitSuffix = unitOf(*layout.width);
+        // A unit that is not known keeps the last factor: old labels depend on it.
+        m_unitFactor = pointsPerUnit(m_unitSuffix).value_or(m_unitFactor);
+        m_pageWidth = toLength(*layout.width, m_unitFactor).value_or(m_pageWidth);
+        m_pageHeight =
+            toLength(layout.height.value_or(QString()), m_unitFactor).value_or(m_pageHeight);
+    }
+    m_canvasModel->importCanvasParameters(m_pageWidth, m_pageHeight, false, layout.portrait);
+}
+
+void OpenOfficeReader::readDefaultStyles(const xmlbounds::Element& officeStyles)
+{
+    const QString tag = u"style:default-style"_s;
+    for (xmlbounds::Element element = officeStyles.firstChildElement(tag); !element.isNull();
+         element = element.nextSiblingElement(tag)) {
+        const QString family = element.attribute(u"style:family"_s);
+        if (family == "paragraph"_L1) {
+            readTextProperties(element.firstChildElement(u"style:text-properties"_s),
+                               &CommonLists::isValidFamily, m_defaultTextStyle);
+            readParagraphProperties(element.firstChildElement(u"style:paragraph-properties"_s),
+                                    m_unitFactor, m_defaultTextStyle);
+        } else if (family == "graphic"_L1) {
+            readGraphicProperties(element.firstChildElement(u"style:graphic-properties"_s), unit(),
+                                  m_defaultGraphicStyle);
+        }
+    }
+}
+
+void OpenOfficeReader::readStyles(const xmlbounds::Element& container)
+{
+    const QString tag = u"style:style"_s;
+    for (xmlbounds::Element element = container.firstChildElement(tag); !element.isNull();
+         element = element.nextSiblingElement(tag)) {
+        const QString family = element.attribute(u"style:family"_s);
+        if (family == "paragraph"_L1 || family == "text"_L1) {
+            readTextStyle(element);
+        } else if (family == "graphic"_L1) {
+            readGraphicStyle(element);
+        }
+    }
+}
+
+void OpenOfficeReader::readTextStyle(const xmlbounds::Element& element)
+{
+    OOTextStyle style =
+        m_textStyles.value(element.attribute(u"style:parent-style-name"_s), m_defaultTextStyle);
+    readTextProperties(element.firstChildElement(u"style:text-properties"_s),
+                       &CommonLists::isValidFamily, style);
+    readParagraphProperties(element.firstChildElement(u"style:paragraph-properties"_s),
+                            m_unitFactor, style);
+    m_textStyles.insert(element.attribute(u"style:name"_s), style);
+}
+
+void OpenOfficeReader::readGraphicStyle(const xmlbounds::Element& element)
+{
+    OOGraphicStyle style = m_graphicStyles.value(element.attribute(u"style:parent-style-name"_s),
+                                                 m_defaultGraphicStyle);
+    readGraphicProperties(element.firstChildElement(u"style:graphic-properties"_s), unit(), style);
+    m_graphicStyles.insert(element.attribute(u"style:name"_s), style);
+}
+
+void OpenOfficeReader::readBody(const xmlbounds::Element& body)
+{
+    const xmlbounds::Element document = body.firstChildElement();
+    if (document.tagName() == "office:text"_L1) {
+        readTextBody(document);
+    } else if (document.tagName() == "office:drawing"_L1) {
+        readDrawingBody(document);
+    } else {
+        logDebug(__LINE__, ReadBody, u"Unsupported document type."_s);
+    }
+}
+
+void OpenOfficeReader::readTextBody(const xmlbounds::Element& text)
+{
+    for (xmlbounds::Element element = text.firstChildElement(); !element.isNull();
+         element = element.nextSiblingElement()) {
+        const QString tag = element.tagName();
+        if (tag == "text:p"_L1 || tag == "text:h"_L1) {
+            readParagraph(element);
+        } else if (tag == "draw:frame"_L1) {
+            advanceFlow(readFrame(element).height);
+        }
+    }
+}
+
+// Only the first page: a label has one.
+void OpenOfficeReader::readDrawingBody(const xmlbounds::Element& drawing)
+{
+    for (xmlbounds::Element element = drawing.firstChildElement().firstChildElement();
+         !element.isNull(); element = element.nextSiblingElement()) {
+        readDrawingElement(element);
+    }
+}
+
+void OpenOfficeReader::readDrawingElement(const xmlbounds::Element& element)
+{
+    using Handler = void (*)(OpenOfficeReader&, const xmlbounds::Element&);
+    static constexpr NamedCode<Handler> Handlers[] = {
+        {"draw:rect"_L1, [](auto& reader, auto& shape) { reader.readRectangle(shape, false); }},
+        {"draw:circle"_L1, [](auto& reader, auto& shape) { reader.readEllipse(shape, false); }},
+        {"draw:ellipse"_L1, [](auto& reader, auto& shape) { reader.readEllipse(shape, false); }},
+        {"draw:line"_L1, [](auto& reader, auto& shape) { reader.readLine(shape); }},
+        {"draw:measure"_L1, [](auto& reader, auto& shape) { reader.readLine(shape); }},
+        {"draw:custom-shape"_L1, [](auto& reader, auto& shape) { reader.readCustomShape(shape); }},
+        {"draw:frame"_L1, [](auto& reader, auto& shape) { reader.readFrame(shape); }},
+        // No element is called so, only a kind of custom shape; kept as old readers had it.
+        {"mso-spt100"_L1, [](auto& reader, auto& shape) { reader.readEllipse(shape, true); }},
+    };
+    if (const auto handler = codeOf(Handlers, element.tagName())) {
+        (*handler)(*this, element);
+    }
+}
+
+void OpenOfficeReader::advanceFlow(double height)
+{
+    if (std::isfinite(m_flowOffsetY + height)) {
+        m_flowOffsetY += height;
+    }
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "limits/xml/element_tree.h"
+
+#include <QString>
+#include <Qt>
+
+namespace opendocument {
+
+/// Margins of a style, in points.
+struct Margins
+{
+    double first = 0;  ///< above
+    double second = 0; ///< below
+    double third = 0;  ///< left
+    double fourth = 0; ///< right
+
+    bool operator==(const Margins&) const = default;
+};
+
+/// A paragraph or text style, complete: what a style does not say it has from its parent.
+struct OOTextStyle
+{
+    QString fontFamily = QStringLiteral("_Nare Vol");
+    double fontSize = 12.0; ///< points
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    double auxValue = 1.0;                              ///< shown by debugContent() only
+    Qt::Alignment alignment = Qt::AlignHorizontal_Mask; ///< the mask means: not given
+    Margins margins;                                    ///< first and second stay 0
+    QString textColor;                                  ///< as written; empty: not given
+
+    [[nodiscard]] bool hasAlignment() const { return alignment != Qt::AlignHorizontal_Mask; }
+    /// Writes the whole style to the debug log.
+    void debugContent();
+};
+
+/// Tells whether a font family can be used.
+using IsValidFamily = bool (*)(QString family);
+
+/// Reads a style:text-properties element; null reads nothing. Changes only what is given.
+void readTextProperties(const xmlbounds::Element& properties, IsValidFamily isValidFamily,
+                        OOTextStyle& style);
+
+/// Reads a style:paragraph-properties element; null reads nothing. Changes only what is given.
+/// @param unitFactor points per unit of the document's lengths
+void readParagraphProperties(const xmlbounds::Element& properties, double unitFactor,
+                             OOTextStyle& style);
+
+} // namespace opendocument

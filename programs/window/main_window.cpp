@@ -1,0 +1,273 @@
+#include "window/main_window.h"
+
+#include "window/canvas_view.h"
+#include "window/issues_panel.h"
+#include "window/item_panel.h"
+#include "window/output_commands.h"
+#include "window/property_panel.h"
+#include "window/ruled_canvas.h"
+#include "window/shortcuts_dialog.h"
+#include "window/source_panel.h"
+#include "workbench/canvas/canvas.h"
+
+#include <QCoreApplication>
+#include <QGraphicsItem>
+#include <QMessageBox>
+#include <QStackedWidget>
+#include <QStatusBar>
+
+#include <algorithm>
+
+namespace desktop {
+
+namespace {
+
+enum CentrePage { WelcomeIndex, CanvasIndex };
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , m_actions(new Actions(this))
+    , m_desk(std::make_unique<LabelDesk>(this))
+{
+    setAcceptDrops(true);
+    setWindowIcon(applicationIcon());
+    resize(1240, 800);
+    buildCentre();
+    m_panels = std::make_unique<WindowPanels>(*this, *m_actions);
+    m_status = std::make_unique<StatusLine>(*statusBar());
+    buildMenus();
+    buildToolBar();
+    connectDesk();
+    connectCanvas();
+    connectPanels();
+    connectFileActions();
+    connectEditActions();
+    connectViewActions();
+    connectPanelActions();
+    connectRecordActions();
+    restoreSettings();
+    showLabel();
+}
+
+MainWindow::~MainWindow()
+{
+    letLabelGo();
+}
+
+bool MainWindow::openFile(const QString& fileName)
+{
+    return m_desk->openFile(fileName);
+}
+
+CanvasView& MainWindow::view()
+{
+    return m_canvas->view();
+}
+
+QGraphicsScene* MainWindow::scene()
+{
+    return view().scene();
+}
+
+qint64 MainWindow::recordCount() const
+{
+    return m_desk->label() != nullptr ? m_desk->label()->sources->recordCount() : 1;
+}
+
+void MainWindow::connectDesk()
+{
+    connect(m_desk.get(), &LabelDesk::labelLeaves, this, &MainWindow::letLabelGo);
+    connect(m_desk.get(), &LabelDesk::labelReplaced, this, &MainWindow::showLabel);
+    connect(m_desk.get(), &LabelDesk::nameChanged, this, &MainWindow::refreshTitle);
+    connect(m_desk.get(), &LabelDesk::noticed, this,
+            [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
+    connect(&m_desk->undoStack(), &QUndoStack::indexChanged, this, &MainWindow::refreshItems);
+}
+
+void MainWindow::connectCanvas()
+{
+    CanvasView& canvas = view();
+    connect(&canvas, &CanvasView::zoomChanged, this,
+            [this](double zoom) { m_status->setZoom(zoom); });
+    connect(&canvas, &CanvasView::pointerMoved, this,
+            [this](const QPointF& point) { m_status->setPointer(point, m_unit); });
+    connect(&canvas, &CanvasView::pointerLeft, this,
+            [this] { m_status->setPointer(std::nullopt, m_unit); });
+    connect(&canvas, &CanvasView::itemsMoved, m_desk.get(), &LabelDesk::moveItems);
+    connect(m_canvas, &RuledCanvas::unitChangeWanted, this, [this] {
+        setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimetre : LengthUnit::Inch);
+    });
+}
+
+void MainWindow::connectPanels()
+{
+    connect(&m_panels->items(), &ItemPanel::selectionChanged, this, &MainWindow::refreshSelection);
+    connect(&m_panels->items(), &ItemPanel::itemWanted, this, &MainWindow::showItem);
+    connect(&m_panels->issues(), &IssuesPanel::itemWanted, &m_panels->items(),
+            &ItemPanel::selectItem);
+    connect(&m_panels->sources(), &SourcePanel::recordWanted, this, &MainWindow::showRecordNumber);
+}
+
+// Everything that knows items of the label forgets them.
+void MainWindow::letLabelGo()
+{
+    m_panels->properties().showItem(nullptr, m_unit);
+    m_panels->items().setCanvas(nullptr);
+    m_panels->sources().show(nullptr, 0);
+    m_panels->issues().setIssues({});
+    view().setCanvas(nullptr);
+}
+
+void MainWindow::showLabel()
+{
+    OpenLabel* label = m_desk->label();
+    m_record = 0;
+    m_centre->setCurrentIndex(label != nullptr ? CanvasIndex : WelcomeIndex);
+    if (label != nullptr) {
+        view().setCanvas(label->canvas.get());
+        m_panels->items().setCanvas(label->canvas.get());
+        m_panels->sources().show(label->sources.get(), 0);
+        view().setFocus();
+    }
+    m_status->setPage(label != nullptr ? std::optional(label->canvas->page().size) : std::nullopt,
+                      m_unit);
+    m_status->setZoom(label != nullptr ? std::optional(view().zoom()) : std::nullopt);
+    m_status->setRecord(0, recordCount());
+    refreshIssues();
+    refreshTitle();
+    refreshActions();
+    if (m_panels->issues().count() > 0) {
+        m_panels->showIssues();
+    }
+}
+
+void MainWindow::showRecordNumber(qint64 record)
+{
+    OpenLabel* label = m_desk->label();
+    if (label == nullptr) {
+        return;
+    }
+    m_record = std::clamp<qint64>(record, 0, recordCount() - 1);
+    showRecord(*label, m_record);
+    m_panels->sources().show(label->sources.get(), m_record);
+    m_status->setRecord(m_record, recordCount());
+    refreshItems();
+    refreshIssues();
+    refreshActions();
+}
+
+void MainWindow::refreshItems()
+{
+    m_panels->items().refresh();
+    refreshSelection();
+}
+
+void MainWindow::refreshSelection()
+{
+    m_panels->properties().showItem(m_panels->items().currentItem(), m_unit);
+    refreshActions();
+}
+
+void MainWindow::refreshIssues()
+{
+    m_panels->issues().setIssues(m_desk->label() != nullptr ? currentIssues(*m_desk->label())
+                                                            : QList<Issue>());
+}
+
+void MainWindow::refreshTitle()
+{
+    const QString program = tr("LabelPort Workbench");
+    const OpenLabel* label = m_desk->label();
+    setWindowTitle(label != nullptr ? displayName(*label) + QStringLiteral("[*] – ") + program
+                                    : program);
+    setWindowModified(m_desk->hasUnsavedChanges());
+}
+
+void MainWindow::refreshActions()
+{
+    const bool isOpen = m_desk->label() != nullptr;
+    m_actions->setLabelOpen(isOpen);
+    action(ActionId::Undo).setEnabled(m_desk->undoStack().canUndo());
+    action(ActionId::Redo).setEnabled(m_desk->undoStack().canRedo());
+    action(ActionId::ZoomSelection)
+        .setEnabled(scene() != nullptr && !scene()->selectedItems().isEmpty());
+    const bool hasBefore = isOpen && m_record > 0;
+    const bool hasAfter = isOpen && m_record + 1 < recordCount();
+    action(ActionId::FirstRecord).setEnabled(hasBefore);
+    action(ActionId::PreviousRecord).setEnabled(hasBefore);
+    action(ActionId::NextRecord).setEnabled(hasAfter);
+    action(ActionId::LastRecord).setEnabled(hasAfter);
+    action(ActionId::GoRecord).setEnabled(hasBefore || hasAfter);
+}
+
+void MainWindow::setUnit(LengthUnit unit)
+{
+    m_unit = unit;
+    action(unit == LengthUnit::Inch ? ActionId::Inches : ActionId::Millimetres).setChecked(true);
+    m_canvas->setUnit(unit);
+    m_panels->items().setUnit(unit);
+    m_status->setPointer(std::nullopt, unit);
+    if (m_desk->label() != nullptr) {
+        m_status->setPage(m_desk->label()->canvas->page().size, unit);
+    }
+    refreshSelection();
+}
+
+void MainWindow::setColors(ColorScheme scheme)
+{
+    applyColorScheme(scheme);
+    storeColorScheme(scheme);
+}
+
+void MainWindow::showItem(workbench::CanvasItem* item)
+{
+    const QRectF bounds = item->graphicsItem()->sceneBoundingRect();
+    const QRectF seen = view().mapToScene(view().viewport()->rect()).boundingRect();
+    if (!seen.contains(bounds)) {
+        view().ensureVisible(bounds);
+    }
+}
+
+void MainWindow::selectAll()
+{
+    {
+        // One change of the selection, not one for each item.
+        const QSignalBlocker silence(scene());
+        for (workbench::CanvasItem* item : m_desk->label()->canvas->items()) {
+            item->graphicsItem()->setSelected(true);
+        }
+    }
+    Q_EMIT scene()->selectionChanged();
+}
+
+void MainWindow::exportByDialog()
+{
+    const QString told = exportLabel(*m_desk->label(), m_record, m_desk->prompts(), this);
+    statusBar()->showMessage(told, 10'000);
+}
+
+void MainWindow::printByDialog()
+{
+    const QString told = printLabel(*m_desk->label(), m_record, m_desk->prompts(), this);
+    statusBar()->showMessage(told, 10'000);
+}
+
+void MainWindow::showShortcuts()
+{
+    ShortcutsDialog(m_actions->shortcuts(), this).exec();
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox box(this);
+    box.setWindowTitle(tr("About"));
+    box.setIconPixmap(applicationIcon().pixmap(64));
+    box.setText(tr("LabelPort Workbench %1").arg(QCoreApplication::applicationVersion()));
+    box.setInformativeText(tr("Opens legacy label templates, shows them, keeps them and hands "
+                              "them on."));
+    box.exec();
+}
+
+} // namespace desktop

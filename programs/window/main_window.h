@@ -1,0 +1,93 @@
+#pragma once
+
+#include "window/label_desk.h"
+#include "window/length_unit.h"
+#include "window/palettes.h"
+#include "window/status_line.h"
+#include "window/window_panels.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QStackedWidget;
+
+namespace desktop {
+
+class CanvasView;
+class RuledCanvas;
+
+/// The window of the program: one label, its panels, its menus.
+class MainWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Opens a saved label or imports a legacy one. Tells the user why when it cannot.
+    bool openFile(const QString& fileName);
+
+    [[nodiscard]] LabelDesk& desk() { return *m_desk; }
+    [[nodiscard]] CanvasView& view();
+    [[nodiscard]] WindowPanels& panels() { return *m_panels; }
+    [[nodiscard]] QAction& action(ActionId id) { return m_actions->at(id); }
+    /// The record that the label shows, counted from 0.
+    [[nodiscard]] qint64 record() const { return m_record; }
+    [[nodiscard]] LengthUnit unit() const { return m_unit; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void buildCentre();
+    void buildMenus();
+    void buildToolBar();
+    void connectDesk();
+    void connectCanvas();
+    void connectPanels();
+    void connectFileActions();
+    void connectEditActions();
+    void connectViewActions();
+    void connectPanelActions();
+    void connectRecordActions();
+    void restoreSettings();
+    void storeSettings() const;
+
+    void letLabelGo();
+    void showLabel();
+    void showRecordNumber(qint64 record);
+    void refreshItems();
+    void refreshSelection();
+    void refreshIssues();
+    void refreshTitle();
+    void refreshActions();
+    void fillRecentMenu();
+    void setUnit(LengthUnit unit);
+    void setColors(ColorScheme scheme);
+    void showItem(workbench::CanvasItem* item);
+    void selectAll();
+    void exportByDialog();
+    void printByDialog();
+    void showShortcuts();
+    void showAbout();
+
+    [[nodiscard]] qint64 recordCount() const;
+    [[nodiscard]] QGraphicsScene* scene();
+
+    Actions* m_actions;
+    std::unique_ptr<LabelDesk> m_desk;
+    std::unique_ptr<WindowPanels> m_panels;
+    std::unique_ptr<StatusLine> m_status;
+    QStackedWidget* m_centre = nullptr;
+    RuledCanvas* m_canvas = nullptr;
+    QMenu* m_recentMenu = nullptr;
+    qint64 m_record = 0;
+    LengthUnit m_unit = LengthUnit::Millimetre;
+};
+
+} // namespace desktop

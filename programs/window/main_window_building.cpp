@@ -1,0 +1,296 @@
+// How the main window is put together: its parts, its menus, what each command does.
+
+#include "window/canvas_view.h"
+#include "window/issues_panel.h"
+#include "window/item_panel.h"
+#include "window/main_window.h"
+#include "window/ruled_canvas.h"
+#include "window/welcome_page.h"
+#include "workbench/canvas/canvas.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+
+namespace desktop {
+
+namespace {
+
+QString geometryKey()
+{
+    return QStringLiteral("desktop/geometry");
+}
+
+QString stateKey()
+{
+    return QStringLiteral("desktop/state");
+}
+
+QString unitKey()
+{
+    return QStringLiteral("desktop/unit");
+}
+
+QString rulersKey()
+{
+    return QStringLiteral("desktop/rulers");
+}
+
+// The files among what is dragged; web addresses are none.
+QStringList localFiles(const QMimeData& data)
+{
+    QStringList files;
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl& url : urls) {
+        if (url.isLocalFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    return files;
+}
+
+} // namespace
+
+void MainWindow::buildCentre()
+{
+    m_canvas = new RuledCanvas(this);
+    m_centre = new QStackedWidget(this);
+    m_centre->addWidget(new WelcomePage(*m_actions, m_centre));
+    m_centre->addWidget(m_canvas);
+    setCentralWidget(m_centre);
+}
+
+void MainWindow::buildMenus()
+{
+    for (const MenuId id :
+         {MenuId::File, MenuId::Edit, MenuId::View, MenuId::Panels, MenuId::Record, MenuId::Help}) {
+        QMenu* menu = menuBar()->addMenu(menuTitle(id));
+        menu->addActions(m_actions->ofMenu(id));
+        if (id == MenuId::File) {
+            m_recentMenu = new QMenu(tr("Open &Recent"), this);
+            menu->insertMenu(&action(ActionId::Import), m_recentMenu);
+            menu->insertSeparator(&action(ActionId::Save));
+            menu->insertSeparator(&action(ActionId::Export));
+            menu->insertSeparator(&action(ActionId::Close));
+        } else if (id == MenuId::Edit) {
+            menu->insertSeparator(&action(ActionId::SelectAll));
+        } else if (id == MenuId::View) {
+            menu->insertSeparator(&action(ActionId::Rulers));
+            menu->insertSeparator(&action(ActionId::Millimetres));
+            menu->addSeparator();
+            menu->addMenu(menuTitle(MenuId::Colors))->addActions(m_actions->ofMenu(MenuId::Colors));
+        }
+    }
+    fillRecentMenu();
+}
+
+void MainWindow::buildToolBar()
+{
+    QToolBar* bar = addToolBar(tr("Tools"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->setAccessibleName(tr("Tools"));
+    bar->setIconSize({20, 20});
+    const QList<QList<ActionId>> groups{
+        {ActionId::Open, ActionId::Import, ActionId::Save},
+        {ActionId::Export, ActionId::Print},
+        {ActionId::Undo, ActionId::Redo},
+        {ActionId::ZoomOut, ActionId::ZoomIn, ActionId::ZoomFit},
+        {ActionId::FirstRecord, ActionId::PreviousRecord, ActionId::NextRecord,
+         ActionId::LastRecord},
+    };
+    for (const QList<ActionId>& group : groups) {
+        if (!bar->actions().isEmpty()) {
+            bar->addSeparator();
+        }
+        for (const ActionId id : group) {
+            bar->addAction(&action(id));
+        }
+    }
+    m_actions->drawIcons(palette());
+}
+
+void MainWindow::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    const QStringList files = RecentFiles().files();
+    m_recentMenu->setEnabled(!files.isEmpty());
+    int number = 0;
+    for (const QString& fileName : files) {
+        // An ampersand in a name is no mnemonic.
+        QString shown = QFileInfo(fileName).fileName();
+        shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        QAction* entry = m_recentMenu->addAction(QStringLiteral("&%1  ").arg(++number) + shown,
+                                                 this, [this, fileName] { openFile(fileName); });
+        entry->setToolTip(fileName);
+        entry->setStatusTip(fileName);
+    }
+    m_recentMenu->addSeparator();
+    m_recentMenu->addAction(tr("&Clear List"), this, [this] {
+        RecentFiles().clear();
+        fillRecentMenu();
+    });
+}
+
+void MainWindow::connectFileActions()
+{
+    LabelDesk* desk = m_desk.get();
+    connect(&action(ActionId::Open), &QAction::triggered, desk, &LabelDesk::openByDialog);
+    connect(&action(ActionId::Import), &QAction::triggered, desk, &LabelDesk::importByDialog);
+    connect(&action(ActionId::Save), &QAction::triggered, desk, &LabelDesk::save);
+    connect(&action(ActionId::SaveAs), &QAction::triggered, desk, &LabelDesk::saveAs);
+    connect(&action(ActionId::Close), &QAction::triggered, desk, &LabelDesk::close);
+    connect(&action(ActionId::Export), &QAction::triggered, this, &MainWindow::exportByDialog);
+    connect(&action(ActionId::Print), &QAction::triggered, this, &MainWindow::printByDialog);
+    connect(&action(ActionId::Quit), &QAction::triggered, this, &MainWindow::close);
+    // Queued: the list is not to change under the very action that was picked from it.
+    connect(desk, &LabelDesk::recentFilesChanged, this, &MainWindow::fillRecentMenu,
+            Qt::QueuedConnection);
+}
+
+void MainWindow::connectEditActions()
+{
+    QUndoStack* stack = &m_desk->undoStack();
+    connect(&action(ActionId::Undo), &QAction::triggered, stack, &QUndoStack::undo);
+    connect(&action(ActionId::Redo), &QAction::triggered, stack, &QUndoStack::redo);
+    connect(&action(ActionId::SelectAll), &QAction::triggered, this, &MainWindow::selectAll);
+    connect(&action(ActionId::SelectNone), &QAction::triggered, this,
+            [this] { scene()->clearSelection(); });
+    connect(&action(ActionId::Shortcuts), &QAction::triggered, this, &MainWindow::showShortcuts);
+    connect(&action(ActionId::About), &QAction::triggered, this, &MainWindow::showAbout);
+}
+
+void MainWindow::connectViewActions()
+{
+    CanvasView* canvas = &view();
+    connect(&action(ActionId::ZoomIn), &QAction::triggered, canvas, &CanvasView::zoomIn);
+    connect(&action(ActionId::ZoomOut), &QAction::triggered, canvas, &CanvasView::zoomOut);
+    connect(&action(ActionId::ZoomFit), &QAction::triggered, canvas, &CanvasView::fitPage);
+    connect(&action(ActionId::ZoomTrue), &QAction::triggered, canvas,
+            [canvas] { canvas->setZoom(1.0); });
+    connect(&action(ActionId::ZoomSelection), &QAction::triggered, canvas,
+            [canvas] { canvas->fitItems(canvas->scene()->selectedItems()); });
+    connect(&action(ActionId::Rulers), &QAction::toggled, m_canvas, &RuledCanvas::setRulersVisible);
+    connect(&action(ActionId::Millimetres), &QAction::triggered, this,
+            [this] { setUnit(LengthUnit::Millimetre); });
+    connect(&action(ActionId::Inches), &QAction::triggered, this,
+            [this] { setUnit(LengthUnit::Inch); });
+    connect(&action(ActionId::SystemColors), &QAction::triggered, this,
+            [this] { setColors(ColorScheme::System); });
+    connect(&action(ActionId::LightColors), &QAction::triggered, this,
+            [this] { setColors(ColorScheme::Light); });
+    connect(&action(ActionId::DarkColors), &QAction::triggered, this,
+            [this] { setColors(ColorScheme::Dark); });
+}
+
+void MainWindow::connectPanelActions()
+{
+    connect(&action(ActionId::GoCanvas), &QAction::triggered, this,
+            [this] { view().setFocus(Qt::ShortcutFocusReason); });
+    connect(&action(ActionId::GoItems), &QAction::triggered, this,
+            [this] { m_panels->goToItems(); });
+    connect(&action(ActionId::GoProperties), &QAction::triggered, this,
+            [this] { m_panels->goToProperties(); });
+    connect(&action(ActionId::GoSources), &QAction::triggered, this,
+            [this] { m_panels->goToSources(); });
+    connect(&action(ActionId::GoIssues), &QAction::triggered, this,
+            [this] { m_panels->goToIssues(); });
+    connect(&action(ActionId::GoRecord), &QAction::triggered, this,
+            [this] { m_panels->goToRecord(); });
+}
+
+void MainWindow::connectRecordActions()
+{
+    connect(&action(ActionId::FirstRecord), &QAction::triggered, this,
+            [this] { showRecordNumber(0); });
+    connect(&action(ActionId::PreviousRecord), &QAction::triggered, this,
+            [this] { showRecordNumber(m_record - 1); });
+    connect(&action(ActionId::NextRecord), &QAction::triggered, this,
+            [this] { showRecordNumber(m_record + 1); });
+    connect(&action(ActionId::LastRecord), &QAction::triggered, this,
+            [this] { showRecordNumber(recordCount() - 1); });
+}
+
+void MainWindow::restoreSettings()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(geometryKey()).toByteArray());
+    restoreState(settings.value(stateKey()).toByteArray());
+    action(ActionId::Rulers).setChecked(settings.value(rulersKey(), true).toBool());
+    m_canvas->setRulersVisible(action(ActionId::Rulers).isChecked());
+    const bool isInch = settings.value(unitKey()).toString() == QLatin1String("in");
+    setUnit(isInch ? LengthUnit::Inch : LengthUnit::Millimetre);
+    switch (storedColorScheme()) {
+    case ColorScheme::System:
+        action(ActionId::SystemColors).setChecked(true);
+        break;
+    case ColorScheme::Light:
+        action(ActionId::LightColors).setChecked(true);
+        break;
+    case ColorScheme::Dark:
+        action(ActionId::DarkColors).setChecked(true);
+        break;
+    }
+}
+
+void MainWindow::storeSettings() const
+{
+    QSettings settings;
+    settings.setValue(geometryKey(), saveGeometry());
+    settings.setValue(stateKey(), saveState());
+    settings.setValue(rulersKey(), m_actions->at(ActionId::Rulers).isChecked());
+    settings.setValue(unitKey(), unitSymbol(m_unit));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_desk->mayGoOn()) {
+        storeSettings();
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!localFiles(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QStringList files = localFiles(*event->mimeData());
+    if (files.isEmpty()) {
+        return;
+    }
+    event->acceptProposedAction();
+    // Later: questions must not keep the program waiting from which the file comes.
+    QMetaObject::invokeMethod(
+        this,
+        [this, files] {
+            openFile(files.constFirst());
+            if (files.size() > 1) {
+                statusBar()->showMessage(
+                    tr("A window holds one label: only the first file was opened."), 10'000);
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        m_actions->drawIcons(palette());
+    }
+}
+
+} // namespace desktop

@@ -1,0 +1,100 @@
+#include "window/window_panels.h"
+
+#include "window/issues_panel.h"
+#include "window/item_panel.h"
+#include "window/property_panel.h"
+#include "window/source_panel.h"
+#include "window/tables.h"
+
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QSpinBox>
+#include <QTableView>
+
+namespace desktop {
+
+namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(desktop::WindowPanels)
+};
+
+// The object name is what the window's state is stored under.
+QDockWidget* makeDock(QMainWindow& window, Qt::DockWidgetArea area, const QString& title,
+                      const QString& objectName, QWidget& panel)
+{
+    auto* dock = new QDockWidget(title, &window);
+    dock->setObjectName(objectName);
+    dock->setAccessibleName(title);
+    dock->setWidget(&panel);
+    window.addDockWidget(area, dock);
+    return dock;
+}
+
+void bringUp(QDockWidget& dock)
+{
+    dock.show();
+    dock.raise();
+}
+
+} // namespace
+
+WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
+    : m_items(new ItemPanel)
+    , m_properties(new PropertyPanel)
+    , m_sources(new SourcePanel(actions))
+    , m_issues(new IssuesPanel)
+    , m_itemDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Items"),
+                          QStringLiteral("items"), *m_items))
+    , m_propertyDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Properties"),
+                              QStringLiteral("properties"), *m_properties))
+    , m_sourceDock(makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Data Sources"),
+                            QStringLiteral("sources"), *m_sources))
+    , m_issueDock(makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Issues"),
+                           QStringLiteral("issues"), *m_issues))
+{
+    // The right side goes down to the status bar: lists of items are long.
+    window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    window.resizeDocks({m_itemDock, m_propertyDock}, {420, 420}, Qt::Horizontal);
+    window.resizeDocks({m_sourceDock, m_issueDock}, {150, 150}, Qt::Vertical);
+}
+
+void WindowPanels::goToItems()
+{
+    bringUp(*m_itemDock);
+    focusTable(m_items->table());
+}
+
+void WindowPanels::goToProperties()
+{
+    bringUp(*m_propertyDock);
+    focusTable(m_properties->table());
+}
+
+void WindowPanels::goToSources()
+{
+    bringUp(*m_sourceDock);
+    focusTable(m_sources->table());
+}
+
+void WindowPanels::goToRecord()
+{
+    bringUp(*m_sourceDock);
+    m_sources->recordBox().setFocus(Qt::ShortcutFocusReason);
+    m_sources->recordBox().selectAll();
+}
+
+void WindowPanels::goToIssues()
+{
+    showIssues();
+    focusTable(m_issues->table());
+}
+
+void WindowPanels::showIssues()
+{
+    bringUp(*m_issueDock);
+}
+
+} // namespace desktop

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "window/actions.h"
+
+class QDockWidget;
+class QMainWindow;
+
+namespace desktop {
+
+class IssuesPanel;
+class ItemPanel;
+class PropertyPanel;
+class SourcePanel;
+
+/// The panels around the canvas, each in a dock that can be moved and hidden.
+class WindowPanels
+{
+public:
+    /// The window owns the docks.
+    WindowPanels(QMainWindow& window, const Actions& actions);
+
+    [[nodiscard]] ItemPanel& items() const { return *m_items; }
+    [[nodiscard]] PropertyPanel& properties() const { return *m_properties; }
+    [[nodiscard]] SourcePanel& sources() const { return *m_sources; }
+    [[nodiscard]] IssuesPanel& issues() const { return *m_issues; }
+
+    void goToItems();
+    void goToProperties();
+    void goToSources();
+    /// Puts the keyboard on the number of the record.
+    void goToRecord();
+    void goToIssues();
+    /// Shows the issues without taking the keyboard.
+    void showIssues();
+
+private:
+    ItemPanel* m_items;
+    PropertyPanel* m_properties;
+    SourcePanel* m_sources;
+    IssuesPanel* m_issues;
+    QDockWidget* m_itemDock;
+    QDockWidget* m_propertyDock;
+    QDockWidget* m_sourceDock;
+    QDockWidget* m_issueDock;
+};
+
+} // namespace desktop

@@ -1,0 +1,42 @@
+// The window's icon is the one that desktops show for the program.
+
+#include "window/icons.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int Side = 64;
+
+QImage drawn(const QString& fileName)
+{
+    QSvgRenderer renderer(fileName);
+    EXPECT_TRUE(renderer.isValid()) << qPrintable(fileName);
+    QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    return image;
+}
+
+TEST(ApplicationIcon, IsTheInstalledDrawing)
+{
+    const QImage icon = desktop::applicationIcon().pixmap(Side).toImage();
+    ASSERT_EQ(icon.size(), QSize(Side, Side));
+    EXPECT_EQ(icon.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+              drawn(QStringLiteral(LABELPORT_ICON)));
+}
+
+TEST(ApplicationIcon, ShowsSomething)
+{
+    const QImage icon = desktop::applicationIcon().pixmap(Side).toImage();
+    EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0);
+    EXPECT_EQ(icon.pixelColor(Side - 12, Side / 2).rgb(), QColor(0x20, 0x21, 0x24).rgb());
+}
+
+} // namespace

@@ -1,0 +1,384 @@
+// The window as a whole: what its commands do to what is seen.
+
+#include "desk_fixture.h"
+#include "dialog_driver.h"
+
+#include "window/canvas_view.h"
+#include "window/issues_panel.h"
+#include "window/item_panel.h"
+#include "window/label_files.h"
+#include "window/main_window.h"
+#include "window/property_panel.h"
+#include "window/source_panel.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QGraphicsItem>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QTableView>
+#include <QTest>
+#include <QUrl>
+
+using namespace desktop;
+
+namespace {
+
+class MainWindowTest : public DeskFixture
+{
+protected:
+    MainWindowTest() { window.show(); }
+
+    void openMadeLabel()
+    {
+        saveMadeLabel(path(QStringLiteral("a.label")));
+        ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
+        QApplication::processEvents();
+    }
+
+    [[nodiscard]] QGraphicsItem* item(int index)
+    {
+        return window.desk().label()->canvas->items().at(index)->graphicsItem();
+    }
+
+    [[nodiscard]] QTableView& itemTable() { return window.panels().items().table(); }
+
+    /// As a click in the list does, whatever modifier keys a test before has pressed.
+    void pick(int row)
+    {
+        itemTable().selectionModel()->setCurrentIndex(itemTable().model()->index(row, 0),
+                                                      QItemSelectionModel::ClearAndSelect |
+                                                          QItemSelectionModel::Rows);
+    }
+
+    [[nodiscard]] QList<int> selectedRows()
+    {
+        QList<int> rows;
+        const QModelIndexList indexes = itemTable().selectionModel()->selectedRows();
+        for (const QModelIndex& index : indexes) {
+            rows.append(index.row());
+        }
+        std::sort(rows.begin(), rows.end());
+        return rows;
+    }
+
+    [[nodiscard]] QString property(const QString& name)
+    {
+        const QAbstractItemModel& model = *window.panels().properties().table().model();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            if (model.index(row, 1).data().toString() == name) {
+                return model.index(row, 2).data().toString();
+            }
+        }
+        return {};
+    }
+
+    void drop(const QList<QUrl>& urls)
+    {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({100, 100}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window, &enter);
+        m_isAccepted = enter.isAccepted();
+        QDropEvent event({100, 100}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window, &event);
+        QApplication::processEvents();
+    }
+
+    MainWindow window;
+    DialogDriver dialogs;
+    bool m_isAccepted = false;
+};
+
+} // namespace
+
+TEST_F(MainWindowTest, StartsEmptyWithAHint)
+{
+    auto* centre = qobject_cast<QStackedWidget*>(window.centralWidget());
+    ASSERT_NE(centre, nullptr);
+    EXPECT_EQ(centre->currentIndex(), 0);
+    EXPECT_FALSE(window.action(ActionId::Save).isEnabled());
+    EXPECT_TRUE(window.action(ActionId::Open).isEnabled());
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("LabelPort Workbench"));
+}
+
+TEST_F(MainWindowTest, ShowsALabelInAllItsPanels)
+{
+    openMadeLabel();
+    EXPECT_EQ(qobject_cast<QStackedWidget*>(window.centralWidget())->currentIndex(), 1);
+    EXPECT_EQ(itemTable().model()->rowCount(), 3);
+    EXPECT_EQ(window.panels().sources().table().model()->rowCount(), 1);
+    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a.label")));
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_TRUE(window.action(ActionId::Save).isEnabled());
+    EXPECT_TRUE(window.view().keepsPageFitted());
+}
+
+TEST_F(MainWindowTest, TheListFollowsTheCanvas)
+{
+    openMadeLabel();
+    item(2)->setSelected(true);
+    EXPECT_EQ(selectedRows(), QList<int>{2});
+    EXPECT_EQ(property(QStringLiteral("Kind")), QStringLiteral("Line"));
+    item(0)->setSelected(true);
+    EXPECT_EQ(selectedRows(), (QList<int>{0, 2}));
+    window.action(ActionId::SelectNone).trigger();
+    EXPECT_TRUE(selectedRows().isEmpty());
+    EXPECT_EQ(property(QStringLiteral("Kind")), QString());
+}
+
+TEST_F(MainWindowTest, TheCanvasFollowsTheList)
+{
+    openMadeLabel();
+    pick(1);
+    EXPECT_TRUE(item(1)->isSelected());
+    EXPECT_FALSE(item(0)->isSelected());
+    EXPECT_EQ(property(QStringLiteral("Text")), QStringLiteral("Own text"));
+    pick(0);
+    EXPECT_TRUE(item(0)->isSelected());
+    EXPECT_FALSE(item(1)->isSelected());
+}
+
+TEST_F(MainWindowTest, ItemsThatTakeNoMouseAreSelectedInTheList)
+{
+    openMadeLabel();
+    window.desk().label()->canvas->items().at(1)->setUserBackground(true);
+    window.action(ActionId::GoItems).trigger();
+    pick(1);
+    EXPECT_TRUE(item(1)->isSelected());
+}
+
+TEST_F(MainWindowTest, AnItemThatIsPickedInTheListIsBroughtIntoSight)
+{
+    openMadeLabel();
+    window.view().setZoom(16.0);
+    window.view().centerOn(item(2));
+    pick(0);
+    const QRectF seen = window.view().mapToScene(window.view().viewport()->rect()).boundingRect();
+    EXPECT_TRUE(seen.intersects(item(0)->sceneBoundingRect()));
+}
+
+TEST_F(MainWindowTest, SelectsAll)
+{
+    openMadeLabel();
+    window.action(ActionId::SelectAll).trigger();
+    EXPECT_EQ(selectedRows(), (QList<int>{0, 1, 2}));
+}
+
+TEST_F(MainWindowTest, AMoveByKeyboardIsListedAndCanBeTakenBack)
+{
+    openMadeLabel();
+    pick(0);
+    window.action(ActionId::GoCanvas).trigger();
+    const QString before = property(QStringLiteral("Left"));
+    QTest::keyClick(&window.view(), Qt::Key_Right, Qt::ShiftModifier);
+
+    EXPECT_NE(property(QStringLiteral("Left")), before);
+    EXPECT_TRUE(window.isWindowModified());
+    window.action(ActionId::Undo).trigger();
+    EXPECT_EQ(property(QStringLiteral("Left")), before);
+    EXPECT_FALSE(window.isWindowModified());
+    window.action(ActionId::Redo).trigger();
+    EXPECT_NE(property(QStringLiteral("Left")), before);
+    window.desk().undoStack().setClean();
+}
+
+TEST_F(MainWindowTest, StepsThroughRecords)
+{
+    openMadeLabel();
+    const QAbstractItemModel& sources = *window.panels().sources().table().model();
+    const auto shown = [&sources] { return sources.index(0, 4).data().toString(); };
+    EXPECT_FALSE(window.action(ActionId::PreviousRecord).isEnabled());
+    EXPECT_EQ(shown(), QStringLiteral("No. 1"));
+
+    window.action(ActionId::NextRecord).trigger();
+    EXPECT_EQ(shown(), QStringLiteral("No. 2"));
+    EXPECT_EQ(window.panels().sources().recordBox().value(), 2);
+    window.action(ActionId::LastRecord).trigger();
+    EXPECT_EQ(window.record(), 4);
+    EXPECT_FALSE(window.action(ActionId::NextRecord).isEnabled());
+    window.action(ActionId::PreviousRecord).trigger();
+    window.panels().sources().recordBox().setValue(3);
+    EXPECT_EQ(window.record(), 2);
+    EXPECT_EQ(shown(), QStringLiteral("No. 3"));
+    window.action(ActionId::FirstRecord).trigger();
+    EXPECT_EQ(window.record(), 0);
+    EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(MainWindowTest, AnIssueSelectsItsItem)
+{
+    OpenLabel label = makeLabel();
+    workbench::ItemValues barcode;
+    barcode.type = KestTypes::Barcode;
+    barcode.box.size = QSizeF(80.0, 30.0);
+    barcode.barcode = workbench::BarcodeValues();
+    barcode.barcode->symbology = 13;
+    barcode.barcode->content = QStringLiteral("not digits");
+    label.canvas->addItem(barcode);
+    ASSERT_EQ(writeLabel(label, path(QStringLiteral("b.label"))), QString());
+    ASSERT_TRUE(window.openFile(path(QStringLiteral("b.label"))));
+    ASSERT_EQ(window.panels().issues().count(), 1);
+    EXPECT_TRUE(window.panels().issues().table().isVisible());
+
+    window.action(ActionId::GoIssues).trigger();
+
+    EXPECT_TRUE(item(3)->isSelected());
+    EXPECT_EQ(selectedRows(), QList<int>{3});
+}
+
+TEST_F(MainWindowTest, IssuesGoWithTheirLabel)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    window.panels().issues().setIssues({{QStringLiteral("old"), -1, {}, 1}});
+    ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
+    EXPECT_EQ(window.panels().issues().count(), 0);
+}
+
+TEST_F(MainWindowTest, ZoomsByCommands)
+{
+    openMadeLabel();
+    window.action(ActionId::ZoomTrue).trigger();
+    EXPECT_EQ(window.view().zoom(), 1.0);
+    window.action(ActionId::ZoomIn).trigger();
+    EXPECT_EQ(window.view().zoom(), 1.25);
+    window.action(ActionId::ZoomOut).trigger();
+    EXPECT_EQ(window.view().zoom(), 1.0);
+    EXPECT_FALSE(window.action(ActionId::ZoomSelection).isEnabled());
+    item(0)->setSelected(true);
+    window.action(ActionId::ZoomSelection).trigger();
+    EXPECT_GT(window.view().zoom(), 1.0);
+    window.action(ActionId::ZoomFit).trigger();
+    EXPECT_TRUE(window.view().keepsPageFitted());
+}
+
+TEST_F(MainWindowTest, ChangesTheUnitEverywhereAndKeepsIt)
+{
+    openMadeLabel();
+    pick(0);
+    window.action(ActionId::Inches).trigger();
+    EXPECT_EQ(window.unit(), LengthUnit::Inch);
+    EXPECT_TRUE(property(QStringLiteral("Left")).endsWith(QStringLiteral(" in")));
+    window.close();
+    const MainWindow another;
+    EXPECT_EQ(another.unit(), LengthUnit::Inch);
+}
+
+TEST_F(MainWindowTest, ClosingALabelEmptiesAllPanels)
+{
+    openMadeLabel();
+    window.action(ActionId::Close).trigger();
+    EXPECT_EQ(itemTable().model()->rowCount(), 0);
+    EXPECT_EQ(window.panels().sources().table().model()->rowCount(), 0);
+    EXPECT_EQ(window.view().scene(), nullptr);
+    EXPECT_FALSE(window.action(ActionId::Close).isEnabled());
+}
+
+TEST_F(MainWindowTest, TakesADroppedFile)
+{
+    drop({QUrl::fromLocalFile(copied(QStringLiteral("opendocument/rating_plate.odg")))});
+    EXPECT_TRUE(m_isAccepted);
+    ASSERT_NE(window.desk().label(), nullptr);
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("rating_plate.label")));
+
+    dialogs.expectButton(QMessageBox::Discard);
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    drop({QUrl::fromLocalFile(path(QStringLiteral("a.label")))});
+    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a.label")));
+}
+
+TEST_F(MainWindowTest, TakesNoDropThatIsNoFile)
+{
+    drop({QUrl(QStringLiteral("https://example.org/a.label"))});
+    EXPECT_FALSE(m_isAccepted);
+    EXPECT_EQ(window.desk().label(), nullptr);
+}
+
+TEST_F(MainWindowTest, ListsRecentFilesAndOpensThem)
+{
+    openMadeLabel();
+    QAction* entry = nullptr;
+    const QList<QMenu*> menus = window.findChildren<QMenu*>();
+    for (const QMenu* menu : menus) {
+        if (menu->title() == QStringLiteral("Open &Recent")) {
+            entry = menu->actions().constFirst();
+        }
+    }
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->text(), QStringLiteral("&1  a.label"));
+    window.action(ActionId::Close).trigger();
+    entry->trigger();
+    QApplication::processEvents();
+    EXPECT_NE(window.desk().label(), nullptr);
+}
+
+TEST_F(MainWindowTest, DoesNotCloseOverUnsavedChanges)
+{
+    openMadeLabel();
+    pick(0);
+    QTest::keyClick(&window.view(), Qt::Key_Right);
+    dialogs.expectButton(QMessageBox::Cancel);
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    dialogs.expectButton(QMessageBox::Discard);
+    EXPECT_TRUE(window.close());
+}
+
+TEST_F(MainWindowTest, ImportsByItsCommand)
+{
+    dialogs.expectFile(copied(QStringLiteral("tavrel/address_2000016.cnv")));
+    window.action(ActionId::Import).trigger();
+    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("address_2000016.label")));
+    EXPECT_GT(itemTable().model()->rowCount(), 0);
+}
+
+TEST_F(MainWindowTest, PanelsThatWereHiddenComeBackByTheirKeys)
+{
+    openMadeLabel();
+    for (const ActionId id : {ActionId::GoItems, ActionId::GoProperties, ActionId::GoSources,
+                              ActionId::GoRecord, ActionId::GoIssues}) {
+        const QList<QDockWidget*> docks = window.findChildren<QDockWidget*>();
+        for (QDockWidget* dock : docks) {
+            dock->hide();
+        }
+        window.action(id).trigger();
+        EXPECT_EQ(std::count_if(docks.begin(), docks.end(),
+                                [](const QDockWidget* dock) { return dock->isVisible(); }),
+                  1);
+    }
+}
+
+TEST_F(MainWindowTest, HelpShowsEveryKey)
+{
+    int rows = 0;
+    dialogs.expect([&rows](QDialog& dialog) {
+        rows = dialog.findChild<QTableView*>()->model()->rowCount();
+        dialog.reject();
+    });
+    window.action(ActionId::Shortcuts).trigger();
+    EXPECT_EQ(rows, 39);
+    dialogs.expectButton(QMessageBox::Ok);
+    window.action(ActionId::About).trigger();
+}
+
+TEST_F(MainWindowTest, ManyLabelsInTurnLeaveNothingBehind)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    for (int turn = 0; turn < 20; ++turn) {
+        ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
+        pick(turn % 3);
+        window.action(ActionId::NextRecord).trigger();
+        QTest::keyClick(&window.view(), Qt::Key_Right);
+        window.desk().undoStack().setClean();
+        QApplication::processEvents();
+    }
+    EXPECT_EQ(itemTable().model()->rowCount(), 3);
+    EXPECT_TRUE(window.action(ActionId::Close).isEnabled());
+}

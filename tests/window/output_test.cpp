@@ -1,0 +1,297 @@
+// Export and print: files, series of records, what the dialogs ask.
+
+#include "desk_fixture.h"
+#include "dialog_driver.h"
+
+#include "window/export_dialog.h"
+#include "window/label_files.h"
+#include "window/output_commands.h"
+#include "window/output_job.h"
+#include "window/prompts.h"
+#include "window/record_chooser.h"
+#include "workbench/rendering/page_export.h"
+#include "workbench/rendering/page_image.h"
+
+#include <QComboBox>
+#include <QImageReader>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSvgRenderer>
+
+#include <cmath>
+
+using namespace desktop;
+
+namespace {
+
+class OutputTest : public DeskFixture
+{
+protected:
+    [[nodiscard]] OutputOrder orderOf(OutputFormat format, const QString& name,
+                                      const RecordRange& records = {}) const
+    {
+        return {format, path(name), 150, records};
+    }
+
+    [[nodiscard]] QByteArray contentOf(const QString& name) const
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return file.readAll();
+    }
+
+    OpenLabel label = makeLabel();
+    const Progress goOn = [](qint64) { return true; };
+};
+
+// The mean difference of two pictures of one size, from 0 for none to 1 for black and white.
+// Both are made small before, so that it does not count which pixel an edge falls on.
+double differenceOf(const QImage& picture, const QImage& drawing)
+{
+    const auto small = [](const QImage& image) {
+        return image.scaled(image.size() / 6, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    const QImage a = small(picture);
+    const QImage b = small(drawing);
+    double sum = 0.0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            sum += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y)));
+        }
+    }
+    return sum / 255.0 / a.width() / a.height();
+}
+
+qsizetype pagesOf(const QByteArray& pdf)
+{
+    static const QRegularExpression count(QStringLiteral("/Count (\\d+)"));
+    return count.match(QString::fromLatin1(pdf)).captured(1).toLongLong();
+}
+
+} // namespace
+
+TEST_F(OutputTest, APictureHasThePagesPixels)
+{
+    const OutputReport report =
+        writeOutput(label, orderOf(OutputFormat::Png, QStringLiteral("a.png")), goOn);
+    EXPECT_EQ(report.error, QString());
+    EXPECT_EQ(report.files, 1);
+    EXPECT_EQ(QImageReader(path(QStringLiteral("a.png"))).size(), QSize(525, 263));
+}
+
+TEST_F(OutputTest, ADrawingHasTheTrueSizeAndTextAsText)
+{
+    const OutputReport report =
+        writeOutput(label, orderOf(OutputFormat::Svg, QStringLiteral("a.svg")), goOn);
+    EXPECT_EQ(report.error, QString());
+    const QByteArray svg = contentOf(QStringLiteral("a.svg"));
+    EXPECT_TRUE(svg.contains("width=\"88.9mm\" height=\"44.45mm\"")) << svg.left(300).toStdString();
+    EXPECT_TRUE(svg.contains("No. 1"));
+    EXPECT_TRUE(QSvgRenderer(svg).isValid());
+}
+
+// Fonts whose size is in points come out wrong in a drawing of another resolution.
+TEST_F(OutputTest, ADrawingShowsWhatThePictureShows)
+{
+    for (const char* name :
+         {"orvanta/book_label.qmtx", "orvanta/shelf_label.qmtx", "opendocument/care_label.odt",
+          "opendocument/address_label.odg", "tavrel/address_2000016.cnv"}) {
+        SCOPED_TRACE(name);
+        ReadLabel read = readLegacyLabel(sample(QString::fromLatin1(name)));
+        ASSERT_TRUE(read.label.has_value()) << read.error.toStdString();
+        const QImage picture = workbench::renderPage(*read.label->canvas, 96.0).image;
+        ASSERT_EQ(workbench::writeSvg(*read.label->canvas, path(QStringLiteral("x.svg"))),
+                  QString());
+
+        QImage drawing(picture.size(), QImage::Format_ARGB32_Premultiplied);
+        drawing.fill(Qt::white);
+        QPainter painter(&drawing);
+        QSvgRenderer(path(QStringLiteral("x.svg")))
+            .render(&painter, QRectF(QPointF(), read.label->canvas->page().size * (96.0 / 72.0)));
+        painter.end();
+        keepImage(picture,
+                  QStringLiteral("picture_") + QFileInfo(QString::fromLatin1(name)).baseName());
+        keepImage(drawing,
+                  QStringLiteral("drawing_") + QFileInfo(QString::fromLatin1(name)).baseName());
+
+        EXPECT_LT(differenceOf(picture, drawing), 0.012);
+    }
+}
+
+TEST_F(OutputTest, ADocumentHasAPageForEachRecord)
+{
+    const OutputReport report =
+        writeOutput(label, orderOf(OutputFormat::Pdf, QStringLiteral("a.pdf"), {1, 4}), goOn);
+    EXPECT_EQ(report.error, QString());
+    EXPECT_EQ(report.files, 1);
+    const QByteArray pdf = contentOf(QStringLiteral("a.pdf"));
+    EXPECT_TRUE(pdf.startsWith("%PDF-"));
+    EXPECT_EQ(pagesOf(pdf), 4);
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 252.0")) << "the page has the label's size";
+    EXPECT_TRUE(pdf.contains("/Font")) << "text is text";
+}
+
+TEST_F(OutputTest, ASeriesOfPicturesIsNumberedByRecord)
+{
+    const OutputOrder order = orderOf(OutputFormat::Svg, QStringLiteral("a.svg"), {1, 3});
+    const OutputReport report = writeOutput(label, order, goOn);
+    EXPECT_EQ(report.files, 3);
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.svg"))));
+    EXPECT_TRUE(contentOf(QStringLiteral("a-002.svg")).contains("No. 2"));
+    EXPECT_TRUE(contentOf(QStringLiteral("a-004.svg")).contains("No. 4"));
+}
+
+TEST_F(OutputTest, NamesInASeriesSortAsTheyCount)
+{
+    const OutputOrder order{OutputFormat::Png, QStringLiteral("/x/label.v2.png"), 300, {0, 10'000}};
+    EXPECT_EQ(fileNameInSeries(order, 0), QStringLiteral("/x/label.v2-00001.png"));
+    EXPECT_EQ(fileNameInSeries(order, 9'999), QStringLiteral("/x/label.v2-10000.png"));
+}
+
+TEST_F(OutputTest, WorkCanBeStopped)
+{
+    const Progress stopAtTwo = [](qint64 done) { return done < 2; };
+    OutputReport report =
+        writeOutput(label, orderOf(OutputFormat::Png, QStringLiteral("a.png"), {0, 5}), stopAtTwo);
+    EXPECT_TRUE(report.wasStopped);
+    EXPECT_EQ(report.files, 2);
+
+    report =
+        writeOutput(label, orderOf(OutputFormat::Pdf, QStringLiteral("a.pdf"), {0, 5}), stopAtTwo);
+    EXPECT_TRUE(report.wasStopped);
+    EXPECT_EQ(report.error, QString());
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.pdf")))) << "half a document is none";
+}
+
+TEST_F(OutputTest, WhatCannotBeWrittenIsTold)
+{
+    for (const OutputFormat format : {OutputFormat::Png, OutputFormat::Svg, OutputFormat::Pdf}) {
+        const OutputReport report =
+            writeOutput(label, orderOf(format, QStringLiteral("no folder/a.x")), goOn);
+        EXPECT_TRUE(report.error.contains(QStringLiteral("no folder")))
+            << report.error.toStdString();
+        EXPECT_EQ(report.files, 0);
+    }
+}
+
+TEST_F(OutputTest, APageThatIsTooLargeIsTold)
+{
+    label.canvas->importCanvasParameters(20'000.0, 100.0, false, false);
+    const OutputReport pdf =
+        writeOutput(label, orderOf(OutputFormat::Pdf, QStringLiteral("a.pdf")), goOn);
+    EXPECT_FALSE(pdf.error.isEmpty());
+    OutputOrder order = orderOf(OutputFormat::Png, QStringLiteral("a.png"));
+    order.dpi = 2400;
+    EXPECT_FALSE(writeOutput(label, order, goOn).error.isEmpty());
+}
+
+TEST_F(OutputTest, PrintsAPageForEachRecordInItsTrueSize)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path(QStringLiteral("printed.pdf")));
+    printer.setFullPage(true);
+    printer.setPageSize(QPageSize(QSizeF(252.0, 126.0), QPageSize::Point));
+
+    const OutputReport report = printOutput(label, printer, {0, 5}, goOn);
+
+    EXPECT_EQ(report.error, QString());
+    EXPECT_EQ(pagesOf(contentOf(QStringLiteral("printed.pdf"))), 5);
+}
+
+TEST_F(OutputTest, APrinterThatTakesNothingIsTold)
+{
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path(QStringLiteral("no folder/printed.pdf")));
+    EXPECT_TRUE(
+        printOutput(label, printer, {0, 1}, goOn).error.contains(QStringLiteral("printer")));
+}
+
+TEST_F(OutputTest, TheDialogsFileFollowsTheFormat)
+{
+    ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
+    EXPECT_EQ(dialog.order().fileName, path(QStringLiteral("shelf.png")));
+    dialog.setFormat(OutputFormat::Pdf);
+    EXPECT_EQ(dialog.order().fileName, path(QStringLiteral("shelf.pdf")));
+    EXPECT_EQ(dialog.order().format, OutputFormat::Pdf);
+    dialog.setFileName(QString());
+    dialog.setFormat(OutputFormat::Svg);
+    EXPECT_EQ(dialog.order().fileName, QString());
+}
+
+TEST_F(OutputTest, RecordsAreTheOneShownOrARun)
+{
+    RecordChooser chooser(50, 6);
+    EXPECT_EQ(chooser.range().first, 6);
+    EXPECT_EQ(chooser.range().count, 1);
+    chooser.chooseRun(3, 10);
+    EXPECT_EQ(chooser.range().first, 2);
+    EXPECT_EQ(chooser.range().count, 8);
+    chooser.chooseRun(20, 5); // the end follows the beginning
+    EXPECT_EQ(chooser.range().first, 19);
+    EXPECT_EQ(chooser.range().count, 1);
+}
+
+TEST_F(OutputTest, ARunIsBounded)
+{
+    RecordChooser chooser(4'000'000'000, 0);
+    chooser.chooseRun(1'000'000, 2'000'000);
+    EXPECT_EQ(chooser.range().first, 999'999);
+    EXPECT_EQ(chooser.range().count, kMostRecords);
+}
+
+TEST_F(OutputTest, ExportAsksBeforeItReplacesAndTellsWhatItWrote)
+{
+    DialogDriver dialogs;
+    QWidget window;
+    const Prompts prompts(&window);
+    const QString file = path(QStringLiteral("a.svg"));
+    const auto fillIn = [&file](QDialog& dialog) {
+        auto& exporting = dynamic_cast<ExportDialog&>(dialog);
+        exporting.setFormat(OutputFormat::Svg);
+        exporting.setFileName(file);
+        exporting.accept();
+    };
+    dialogs.expect(fillIn);
+    EXPECT_EQ(exportLabel(label, 2, prompts, &window), QStringLiteral("Written: ") + file);
+    EXPECT_TRUE(contentOf(QStringLiteral("a.svg")).contains("No. 3"));
+
+    dialogs.expect([&](QDialog& dialog) {
+        dialogs.expectButton(QMessageBox::No);
+        fillIn(dialog);
+        dialog.reject();
+    });
+    EXPECT_EQ(exportLabel(label, 0, prompts, &window), QString());
+    EXPECT_TRUE(contentOf(QStringLiteral("a.svg")).contains("No. 3"));
+}
+
+TEST_F(OutputTest, AfterASeriesTheLabelShowsItsRecordAgain)
+{
+    DialogDriver dialogs;
+    QWidget window;
+    dialogs.expect([this](QDialog& dialog) {
+        auto& exporting = dynamic_cast<ExportDialog&>(dialog);
+        exporting.setFormat(OutputFormat::Pdf);
+        exporting.setFileName(path(QStringLiteral("a.pdf")));
+        exporting.records().chooseRun(1, 5);
+        exporting.accept();
+    });
+    EXPECT_FALSE(exportLabel(label, 1, Prompts(&window), &window).isEmpty());
+    ASSERT_EQ(
+        writeOutput(label, orderOf(OutputFormat::Svg, QStringLiteral("x.svg"), {1, 1}), goOn).files,
+        1);
+    EXPECT_TRUE(contentOf(QStringLiteral("x.svg")).contains("No. 2"));
+}
+
+TEST_F(OutputTest, PrintingThatIsCancelledPrintsNothing)
+{
+    DialogDriver dialogs;
+    QWidget window;
+    dialogs.expectCancel();
+    EXPECT_EQ(printLabel(label, 0, Prompts(&window), &window), QString());
+}

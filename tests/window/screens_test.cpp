@@ -1,0 +1,175 @@
+// Every screen once, for looking at: the pictures are in the folder "screens" of the build.
+
+#include "desk_fixture.h"
+#include "dialog_driver.h"
+
+#include "window/canvas_view.h"
+#include "window/export_dialog.h"
+#include "window/issues_panel.h"
+#include "window/item_panel.h"
+#include "window/label_files.h"
+#include "window/main_window.h"
+#include "window/record_chooser.h"
+#include "window/shortcuts_dialog.h"
+
+#include <QApplication>
+#include <QSet>
+#include <QTableView>
+
+using namespace desktop;
+
+namespace {
+
+class ScreensTest : public DeskFixture
+{
+protected:
+    ScreensTest() { applyColorScheme(ColorScheme::Light); }
+    ~ScreensTest() override { applyColorScheme(ColorScheme::System); }
+
+    void openSample(MainWindow& window, const char* name)
+    {
+        window.resize(1240, 800);
+        window.show();
+        ASSERT_TRUE(window.openFile(copied(QString::fromLatin1(name))));
+        QApplication::processEvents();
+    }
+
+    void saveBadBarcode(const QString& fileName)
+    {
+        OpenLabel label = makeLabel();
+        workbench::ItemValues barcode;
+        barcode.type = KestTypes::Barcode;
+        barcode.placement.position = QPointF(18.0, 64.0);
+        barcode.box.size = QSizeF(120.0, 36.0);
+        barcode.barcode = workbench::BarcodeValues();
+        barcode.barcode->symbology = 13;
+        barcode.barcode->content = QStringLiteral("not digits");
+        label.canvas->addItem(barcode);
+        ASSERT_EQ(writeLabel(label, fileName), QString());
+    }
+};
+
+// How many different colors the middle of a picture has: an empty screen has few.
+int colorsOf(QWidget& widget)
+{
+    const QImage image = widget.grab().toImage();
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); y += 3) {
+        for (int x = 0; x < image.width(); x += 3) {
+            colors.insert(image.pixel(x, y));
+        }
+    }
+    return static_cast<int>(colors.size());
+}
+
+} // namespace
+
+TEST_F(ScreensTest, Empty)
+{
+    MainWindow window;
+    window.resize(1240, 800);
+    window.show();
+    keepPicture(window, QStringLiteral("empty"));
+    EXPECT_GT(colorsOf(window), 10);
+}
+
+TEST_F(ScreensTest, WithALabel)
+{
+    MainWindow window;
+    openSample(window, "orvanta/parcel_label.qmtx");
+    window.panels().items().selectItem(2);
+    keepPicture(window, QStringLiteral("label"));
+    EXPECT_GT(colorsOf(window.view()), 10);
+}
+
+TEST_F(ScreensTest, WithEachFormat)
+{
+    MainWindow window;
+    const QPair<const char*, const char*> samples[] = {
+        {"opendocument/high_voltage.odg", "label_opendocument"},
+        {"tavrel/parcel_2000023.roc", "label_tavrel"},
+        {"orvanta/shapes_sheet.qmtx", "label_orvanta"},
+    };
+    for (const auto& [sampleName, picture] : samples) {
+        window.desk().close();
+        openSample(window, sampleName);
+        keepPicture(window, QString::fromLatin1(picture));
+        EXPECT_GT(colorsOf(window.view()), 10);
+        // Saved, so that the next one comes without a question.
+        ASSERT_EQ(writeLabel(*window.desk().label(), path(QStringLiteral("x.label"))), QString());
+        window.desk().label()->fileName = path(QStringLiteral("x.label"));
+    }
+}
+
+TEST_F(ScreensTest, Dark)
+{
+    applyColorScheme(ColorScheme::Dark);
+    MainWindow window;
+    openSample(window, "orvanta/parcel_label.qmtx");
+    window.panels().items().selectItem(2);
+    keepPicture(window, QStringLiteral("dark"));
+    EXPECT_LT(window.grab().toImage().pixelColor(3, 3).lightness(), 80);
+}
+
+TEST_F(ScreensTest, Issues)
+{
+    saveBadBarcode(path(QStringLiteral("bad.label")));
+    MainWindow window;
+    window.resize(1240, 800);
+    window.show();
+    ASSERT_TRUE(window.openFile(path(QStringLiteral("bad.label"))));
+    window.action(ActionId::GoIssues).trigger();
+    keepPicture(window, QStringLiteral("issues"));
+    EXPECT_EQ(window.panels().issues().count(), 1);
+}
+
+TEST_F(ScreensTest, SmallWindowZoomedInInches)
+{
+    MainWindow window;
+    openSample(window, "orvanta/jar_label.qmtx");
+    window.resize(900, 600);
+    window.action(ActionId::Inches).trigger();
+    window.view().setZoom(4.0);
+    keepPicture(window, QStringLiteral("zoomed"));
+    EXPECT_GT(colorsOf(window.view()), 2);
+}
+
+TEST_F(ScreensTest, ExportDialogs)
+{
+    ExportDialog dialog(path(QStringLiteral("shelf")), 50, 6, nullptr);
+    dialog.show();
+    keepPicture(dialog, QStringLiteral("export"));
+    dialog.setFormat(OutputFormat::Svg);
+    dialog.records().chooseRun(1, 50);
+    keepPicture(dialog, QStringLiteral("export_series"));
+    EXPECT_GT(colorsOf(dialog), 4);
+}
+
+TEST_F(ScreensTest, Shortcuts)
+{
+    const Actions actions;
+    ShortcutsDialog dialog(actions.shortcuts(), nullptr);
+    dialog.show();
+    keepPicture(dialog, QStringLiteral("shortcuts"));
+    EXPECT_GT(colorsOf(dialog), 4);
+}
+
+TEST_F(ScreensTest, Questions)
+{
+    DialogDriver dialogs;
+    QWidget window;
+    const Prompts prompts(&window);
+    dialogs.expect([](QDialog& dialog) {
+        keepPicture(dialog, QStringLiteral("question"));
+        dialog.reject();
+    });
+    EXPECT_EQ(prompts.askUnsavedChanges(QStringLiteral("shelf.label"), true),
+              Prompts::Changes::Cancel);
+    dialogs.expect([](QDialog& dialog) {
+        keepPicture(dialog, QStringLiteral("error"));
+        dialog.accept();
+    });
+    prompts.showError(QStringLiteral("“shelf.label” could not be opened."),
+                      QStringLiteral("The file was saved by a newer version of LabelPort. "
+                                     "Install that version, or ask for a copy in an older one."));
+}

@@ -1,0 +1,26 @@
+#include "migration/census/xml_gate.h"
+
+#include "limits/xml/bounds_check.h"
+
+#include <QCoreApplication>
+
+#include <limits>
+
+namespace migration {
+
+QString whyNotCountable(const QByteArray& xml)
+{
+    // Counting builds no tree, so only its depth and its attributes matter.
+    constexpr qint64 anySize = std::numeric_limits<qint64>::max() / 2;
+    const auto excess = xmlbounds::exceededBound(xml, anySize, xmlbounds::CompactCosts);
+    return excess ? notWellFormed(excess->message) : QString();
+}
+
+QString notWellFormed(const QString& why)
+{
+    return QCoreApplication::translate("migration::Census",
+                                       "The file is damaged, so its objects cannot be counted: %1.")
+        .arg(why);
+}
+
+} // namespace migration
