@@ -4,6 +4,7 @@
 #include "host/services/file_controller_tools.h"
 #include "importer/open_dialog_filters.h"
 #include "importer/reader_choice.h"
+#include "messages/refusals.h"
 #include "opendocument/open_office_reader.h"
 #include "orvanta/legacy_orvanta.h"
 #include "tavrel/legacy_tavrel.h"
@@ -142,7 +143,7 @@ bool LegacyTemplateImporter::isBusy(const char* function) const
 {
     if (m_isImporting) {
         CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_template_importer.cpp", __LINE__,
-                          function)
+                          function, refusals::category(refusals::ImportRunning))
             .write("An import is asked for while another one runs; it is refused");
     }
     return m_isImporting;

@@ -37,6 +37,10 @@ public:
     /// Takes an appender out again and gives its ownership back to the caller.
     void removeAppender(AbstractAppender* appender);
 
+    /// Links a category to the global appenders. Here all are: kept for CuteLogger, which drops
+    /// records of other categories.
+    void logToGlobalInstance(const QString& category, bool logToGlobal = false);
+
     /// Hands one record to all appenders.
     void write(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
                const char* function, const char* category, const QString& message);

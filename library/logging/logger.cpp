@@ -87,6 +87,12 @@ void Logger::removeAppender(AbstractAppender* appender)
     d->appenders.removeAll(appender);
 }
 
+void Logger::logToGlobalInstance(const QString& category, bool logToGlobal)
+{
+    Q_UNUSED(category)
+    Q_UNUSED(logToGlobal)
+}
+
 void Logger::write(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
                    const char* function, const char* category, const QString& message)
 {

@@ -14,6 +14,7 @@
 #include "host/items/symbol_item.h"
 
 #include "host/tal_canvas_model.h"
+#include "messages/refusals.h"
 
 #include <QObject>
 #include <QPointer>
@@ -110,7 +111,8 @@ NewItem<Wanted> makeItem(ClassFactory* factory, KestTypes::ShapeType type)
         logDebug(
             __LINE__, Q_FUNC_INFO,
             u"The host gives no item of the class that belongs to type %1; it is left out"_s.arg(
-                int(type)));
+                int(type)),
+            refusals::ItemRefused);
     }
     return made;
 }
@@ -129,7 +131,8 @@ bool handOver(TalCanvasModel& canvas, std::unique_ptr<Item> item)
     const bool isKept = !tells || !alive.isNull();
     if (!isKept) {
         logDebug(__LINE__, Q_FUNC_INFO,
-                 u"The host deleted an item when it got it; it is left out"_s);
+                 u"The host deleted an item when it got it; it is left out"_s,
+                 refusals::ItemRefused);
     }
     return isKept;
 }

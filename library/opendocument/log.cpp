@@ -1,12 +1,15 @@
 #include "opendocument/log.h"
 
+#include "messages/refusals.h"
+
 #include <Logger.h>
 
 namespace opendocument {
 
-void logDebug(int line, const char* function, const QString& message)
+void logDebug(int line, const char* function, const QString& message, const char* code)
 {
-    CuteMessageLogger(loggerInstance(), Logger::Debug, "open_office_reader.cpp", line, function)
+    CuteMessageLogger(loggerInstance(), Logger::Debug, "open_office_reader.cpp", line, function,
+                      refusals::category(code))
         .write("%s", message.toLocal8Bit().constData());
 }
 

@@ -8,6 +8,7 @@ namespace opendocument {
 ///
 /// @param line     line of the place that writes
 /// @param function its full signature
-void logDebug(int line, const char* function, const QString& message);
+/// @param code     of messages/refusals.h; null for a message without one
+void logDebug(int line, const char* function, const QString& message, const char* code = nullptr);
 
 } // namespace opendocument

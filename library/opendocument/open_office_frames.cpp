@@ -9,6 +9,7 @@
 #include "host/items/symbol_item.h"
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
+#include "messages/refusals.h"
 
 #include <QFileInfo>
 
@@ -123,7 +124,8 @@ bool OpenOfficeReader::importSymbol(const QString& name, Geometry& geometry)
     }
     m_symbolCreator->loadImportedSvg(svg);
     if (!m_symbolCreator->convertSvgToSymbol(symbolTarget(geometry.size))) {
-        logDebug(__LINE__, Q_FUNC_INFO, u"The drawing %1 cannot be converted"_s.arg(name));
+        logDebug(__LINE__, Q_FUNC_INFO, u"The drawing %1 cannot be converted"_s.arg(name),
+                 refusals::PackageDrawingUnreadable);
         return false;
     }
     const QByteArray data = m_symbolCreator->getSymbolData();

@@ -13,6 +13,8 @@
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
 #include "limits/xml/element_tree.h"
+#include "messages/reader_messages.h"
+#include "messages/refusals.h"
 
 #include <QApplication>
 #include <QFontInfo>
@@ -40,9 +42,9 @@ double pointsPerPixelOf(const QFont& font)
 QString parseFailureMessage(const QString& member, const xmlbounds::ParseFailure& failure)
 {
     // The word stands where the file's name should: old log filters depend on it.
-    return QString::asprintf("Error parsing file: %s / %s at line %lld, column %lld:\n%s",
-                             "fileName", member.toLocal8Bit().constData(), failure.line,
-                             failure.column, failure.message.toLocal8Bit().constData());
+    return QString::asprintf(messages::DocumentParsingFailed, "fileName",
+                             member.toLocal8Bit().constData(), failure.line, failure.column,
+                             failure.message.toLocal8Bit().constData());
 }
 
 } // namespace
@@ -62,12 +64,12 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
     openPackage(fileName);
     QByteArray stylesBytes = readDocument(StylesMember, limits::StylesBytes);
     if (stylesBytes.isEmpty()) {
-        logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file styles."_s);
+        logDebug(__LINE__, Q_FUNC_INFO, QString::fromLatin1(messages::StylesMissing));
         return false;
     }
     QByteArray contentBytes = readDocument(ContentMember, limits::ContentBytes);
     if (contentBytes.isEmpty()) {
-        logDebug(__LINE__, Q_FUNC_INFO, u"Unable to get file content."_s);
+        logDebug(__LINE__, Q_FUNC_INFO, QString::fromLatin1(messages::ContentMissing));
         return false;
     }
     m_flowOffsetY = 0;
@@ -113,7 +115,7 @@ void OpenOfficeReader::openPackage(const QString& fileName)
     if (const auto refusal = m_zipDirectory.open(fileName)) {
         // Of what is no package at all, the missing document tells enough.
         if (m_zipDirectory.isPackage()) {
-            logDebug(__LINE__, Q_FUNC_INFO, *refusal);
+            logDebug(__LINE__, Q_FUNC_INFO, *refusal, refusals::PackageUnreadable);
         }
         return;
     }
@@ -132,7 +134,7 @@ QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)
         return {};
     }
     if (const auto refusal = m_zipDirectory.refusalOf(name, largest)) {
-        logDebug(__LINE__, Q_FUNC_INFO, *refusal);
+        logDebug(__LINE__, Q_FUNC_INFO, *refusal, refusals::PackageMemberUnreadable);
         return {};
     }
     return m_zipReader->fileData(name);
@@ -223,7 +225,7 @@ void OpenOfficeReader::readBody(const xmlbounds::Element& body)
     } else if (document.tagName() == "office:drawing"_L1) {
         readDrawingBody(document);
     } else {
-        logDebug(__LINE__, ReadBody, u"Unsupported document type."_s);
+        logDebug(__LINE__, ReadBody, QString::fromLatin1(messages::DocumentTypeUnsupported));
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "host/items/rich_text_item.h"
 #include "host/tal_canvas_model.h"
+#include "messages/refusals.h"
 
 using namespace opendocument;
 using namespace Qt::StringLiterals;
@@ -25,7 +26,8 @@ bool isTooLong(qsizetype length)
     }
     logDebug(__LINE__, Q_FUNC_INFO,
              u"A text of %1 characters is left out: it is longer than %2"_s.arg(length).arg(
-                 limits::TextCharacters));
+                 limits::TextCharacters),
+             refusals::TextTooLong);
     return true;
 }
 

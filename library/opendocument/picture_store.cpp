@@ -4,6 +4,7 @@
 #include "opendocument/log.h"
 
 #include "limits/image/bounded_picture.h"
+#include "messages/refusals.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -74,7 +75,8 @@ QPixmap PictureStore::decode(const QString& name)
     if (!isWithin(bytes, std::min(limits::PicturePixels, m_pixelsLeft)) ||
         !pixmap.loadFromData(bytes)) {
         logDebug(__LINE__, Q_FUNC_INFO,
-                 u"The picture %1 cannot be decoded or is too large"_s.arg(name));
+                 u"The picture %1 cannot be decoded or is too large"_s.arg(name),
+                 refusals::PackagePictureUnreadable);
         return {};
     }
     m_pixelsLeft -= pixelsOf(pixmap.size());

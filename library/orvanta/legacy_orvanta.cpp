@@ -5,6 +5,9 @@
 #include "host/services/common_lists.h"
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
+#include "limits/xml/bounded_document.h"
+#include "messages/reader_messages.h"
+#include "messages/refusals.h"
 #include "orvanta/barcode_control.h"
 #include "orvanta/date_time_control.h"
 #include "orvanta/document_limits.h"
@@ -16,7 +19,6 @@
 #include "orvanta/raster_picture.h"
 #include "orvanta/shape_control.h"
 #include "orvanta/text_control.h"
-#include "limits/xml/bounded_document.h"
 
 #include <Logger.h>
 
@@ -30,9 +32,10 @@ using orvanta::ControlProperties;
 
 namespace {
 
-CuteMessageLogger debugLog(int line, const char* function)
+CuteMessageLogger debugLog(int line, const char* function, const char* code = nullptr)
 {
-    return CuteMessageLogger(loggerInstance(), Logger::Debug, "legacy_orvanta.cpp", line, function);
+    return CuteMessageLogger(loggerInstance(), Logger::Debug, "legacy_orvanta.cpp", line, function,
+                             refusals::category(code));
 }
 
 // Opening a pipe could wait for ever, and a device may have no end.
@@ -59,13 +62,13 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     const QByteArray printableName = fileName.toLocal8Bit();
     QFile file(fileName);
     if (isEndless(fileName) || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        debugLog(__LINE__, Q_FUNC_INFO).write("Error opening file: %s", printableName.constData());
+        debugLog(__LINE__, Q_FUNC_INFO).write(messages::OpeningFailed, printableName.constData());
         return false;
     }
     orvanta::FileContent content = orvanta::readWithinLimits(file);
     if (!content.refusal.isEmpty()) {
-        debugLog(__LINE__, Q_FUNC_INFO)
-            .write("Error reading file: %s is too large: %s", printableName.constData(),
+        debugLog(__LINE__, Q_FUNC_INFO, refusals::FileTooLarge)
+            .write(refusals::FileTooLargeMessage, printableName.constData(),
                    content.refusal.toLocal8Bit().constData());
         return false;
     }
@@ -73,23 +76,22 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     if (const auto failure =
             xmlbounds::parseDocument(content.bytes, document, orvanta::MaximumTreeBytes)) {
         debugLog(__LINE__, Q_FUNC_INFO)
-            .write("Error parsing file: %s at line %lld, column %lld:\n%s",
-                   printableName.constData(), failure->line, failure->column,
-                   failure->message.toLocal8Bit().constData());
+            .write(messages::ParsingFailed, printableName.constData(), failure->line,
+                   failure->column, failure->message.toLocal8Bit().constData());
         return false;
     }
     file.close();
     content.bytes.clear();
     const QDomElement root = document.documentElement();
     if (root.tagName() != QLatin1String("qmtx")) {
-        debugLog(__LINE__, Q_FUNC_INFO).write("Error: the file is not a orvanta doc");
+        debugLog(__LINE__, Q_FUNC_INFO).write(messages::RootElementUnknown);
         return false;
     }
     const QString refusal =
         orvanta::exceededLimit(root.firstChildElement(QStringLiteral("controls")));
     if (!refusal.isEmpty()) {
-        debugLog(__LINE__, Q_FUNC_INFO)
-            .write("Error reading file: %s is too large: %s", printableName.constData(),
+        debugLog(__LINE__, Q_FUNC_INFO, refusals::FileTooLarge)
+            .write(refusals::FileTooLargeMessage, printableName.constData(),
                    refusal.toLocal8Bit().constData());
         return false;
     }
@@ -153,7 +155,7 @@ void LegacyOrvanta::readControls(QDomElement controls)
             std::find_if(std::begin(Readers), std::end(Readers),
                          [&tag](const ControlReader& known) { return tag == known.tag; });
         if (reader == std::end(Readers)) {
-            debugLog(__LINE__, Q_FUNC_INFO).write() << "Not processing:" << tag;
+            debugLog(__LINE__, Q_FUNC_INFO).write() << messages::ControlUnknown << tag;
             continue;
         }
         (this->*reader->read)(control);
@@ -223,8 +225,8 @@ void LegacyOrvanta::readShape(const QDomElement& element)
                control.properties);
 }
 
-void LegacyOrvanta::logRefusal(const QString& reason) const
+void LegacyOrvanta::logRefusal(const char* code, const QString& reason) const
 {
-    debugLog(__LINE__, Q_FUNC_INFO)
-        .write("Left out of the label: %s", reason.toLocal8Bit().constData());
+    debugLog(__LINE__, Q_FUNC_INFO, code)
+        .write(refusals::LeftOutMessage, reason.toLocal8Bit().constData());
 }

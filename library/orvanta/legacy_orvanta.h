@@ -83,7 +83,7 @@ private:
                         const QList<DatasourceProperty>& properties);
     void bindTextList(IDatasourceItem* item, const QStringList& texts);
 
-    void logRefusal(const QString& reason) const;
+    void logRefusal(const char* code, const QString& reason) const;
 
     TalCanvasModel* m_canvasModel;
     ClassFactory* m_classFactory;

@@ -3,6 +3,7 @@
 #include "host/datasource_controller.h"
 #include "host/facets/i_datasource_item.h"
 #include "host/tal_datasource.h"
+#include "messages/refusals.h"
 
 void LegacyOrvanta::bindDatasource(IDatasourceItem* item, const QString& kind,
                                    const QList<DatasourceProperty>& properties)
@@ -14,6 +15,7 @@ void LegacyOrvanta::bindDatasource(IDatasourceItem* item, const QString& kind,
     TalDatasource* datasource = m_datasourceController->getDatasource(id);
     if (datasource == nullptr) {
         logRefusal(
+            refusals::DatasourceRefused,
             QStringLiteral("a data source of the kind %1, which the host did not make").arg(kind));
         return;
     }

@@ -4,6 +4,7 @@
 #include "host/items/fillable_item.h"
 #include "host/items/text_item.h"
 #include "host/tal_canvas_model.h"
+#include "messages/refusals.h"
 #include "orvanta/control_properties.h"
 #include "orvanta/created_item.h"
 #include "orvanta/font.h"
@@ -32,12 +33,14 @@ TextItem* LegacyOrvanta::buildText(bool scalable, const ControlProperties& prope
     static_assert(KestTypes::RichText - 1 == KestTypes::SimpleText);
     auto created = orvanta::createdItem<TextItem>(m_classFactory, type);
     if (!created) {
-        logRefusal(QStringLiteral("a text, for which the host made no item"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a text, for which the host made no item"));
         return nullptr;
     }
     TextItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(QStringLiteral("a text, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a text, which the host deleted when it got it"));
         return nullptr;
     }
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
@@ -62,12 +65,14 @@ FillableItem* LegacyOrvanta::buildShape(int shapeIndex, quint16 lineWidth, int s
     auto created = orvanta::createdItem<FillableItem>(m_classFactory, choice.type);
     auto* graphics = dynamic_cast<QGraphicsItem*>(created.get());
     if (graphics == nullptr) {
-        logRefusal(QStringLiteral("a shape, for which the host made no item"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a shape, for which the host made no item"));
         return nullptr;
     }
     FillableItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(QStringLiteral("a shape, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a shape, which the host deleted when it got it"));
         return nullptr;
     }
     ControlProperties turned = properties;
@@ -85,12 +90,14 @@ BarcodeItem* LegacyOrvanta::buildBarcode(int hostType, const ControlProperties& 
 {
     auto created = orvanta::createdItem<BarcodeItem>(m_classFactory, KestTypes::Barcode);
     if (!created) {
-        logRefusal(QStringLiteral("a barcode, for which the host made no item"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a barcode, for which the host made no item"));
         return nullptr;
     }
     BarcodeItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(QStringLiteral("a barcode, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a barcode, which the host deleted when it got it"));
         return nullptr;
     }
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);

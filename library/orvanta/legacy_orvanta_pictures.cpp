@@ -4,6 +4,7 @@
 #include "host/items/symbol_item.h"
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
+#include "messages/refusals.h"
 #include "orvanta/control_properties.h"
 #include "orvanta/created_item.h"
 #include "orvanta/picture_content.h"
@@ -47,7 +48,8 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
     const QByteArray symbol = m_symbolCreator->getSymbolData();
     auto created = orvanta::createdItem<SymbolItem>(m_classFactory, KestTypes::Symbol);
     if (!created) {
-        logRefusal(QStringLiteral("a symbol, for which the host made no item"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a symbol, for which the host made no item"));
         return nullptr;
     }
     created->loadItemFromData(symbol);
@@ -59,7 +61,8 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
     created->setFillColor(colors.fill);
     SymbolItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(QStringLiteral("a symbol, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a symbol, which the host deleted when it got it"));
         return nullptr;
     }
     orvanta::applySizeAndTurn(*item, properties);
@@ -72,19 +75,21 @@ QGraphicsItem* LegacyOrvanta::buildPixmap(const ControlProperties& properties,
 {
     auto created = orvanta::createdItem<PixMapItem>(m_classFactory, KestTypes::Picture);
     if (!created) {
-        logRefusal(QStringLiteral("a picture, for which the host made no item"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a picture, for which the host made no item"));
         return nullptr;
     }
     const orvanta::RasterPicture picture = orvanta::decodeRasterPicture(bytes, m_pixelsLeft);
     if (!picture.refusal.isEmpty()) {
-        logRefusal(picture.refusal);
+        logRefusal(picture.refusalCode, picture.refusal);
     }
     m_pixelsLeft -= orvanta::pixelCount(picture.image.size());
     // A picture that could not be loaded keeps its place on the label.
     created->pixmapImportActions(QPixmap::fromImage(picture.image));
     PixMapItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(QStringLiteral("a picture, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused,
+                   QStringLiteral("a picture, which the host deleted when it got it"));
         return nullptr;
     }
     orvanta::applySizeAndTurn(*item, properties);

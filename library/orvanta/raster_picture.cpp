@@ -1,6 +1,7 @@
 #include "orvanta/raster_picture.h"
 
 #include "limits/image/bounded_picture.h"
+#include "messages/refusals.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -24,9 +25,9 @@ bool isRasterFormat(const QByteArray& format)
                        [&format](const char* known) { return format == known; });
 }
 
-RasterPicture refused(const QString& reason)
+RasterPicture refused(const char* code, const QString& reason)
 {
-    return {QImage(), reason};
+    return {QImage(), reason, code};
 }
 
 } // namespace
@@ -41,7 +42,8 @@ RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
     QBuffer buffer;
     buffer.setData(imagebounds::boundedPicture(bytes));
     if (buffer.data().isEmpty() && !bytes.isEmpty()) {
-        return refused(QStringLiteral("a picture that takes more work than any real one"));
+        return refused(refusals::PictureTooLarge,
+                       QStringLiteral("a picture that takes more work than any real one"));
     }
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
@@ -50,18 +52,21 @@ RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
         return {};
     }
     if (!isRasterFormat(format)) {
-        return refused(QStringLiteral("a picture of the format %1 is not decoded")
+        return refused(refusals::PictureFormat,
+                       QStringLiteral("a picture of the format %1 is not decoded")
                            .arg(QString::fromLatin1(format)));
     }
     const QSize claimed = reader.size();
     if (pixelCount(claimed) > std::min(pixelsLeft, MaximumPicturePixels)) {
-        return refused(QStringLiteral("a picture of %1 by %2 pixels is too large")
+        return refused(refusals::PictureTooLarge,
+                       QStringLiteral("a picture of %1 by %2 pixels is too large")
                            .arg(claimed.width())
                            .arg(claimed.height()));
     }
     const QImage image = reader.read();
     if (pixelCount(image.size()) > pixelsLeft) {
-        return refused(QStringLiteral("the pictures of the label are too large"));
+        return refused(refusals::PictureTooLarge,
+                       QStringLiteral("the pictures of the label are too large"));
     }
     return {image, QString()};
 }

@@ -17,8 +17,9 @@ inline constexpr qint64 MaximumLabelPixels = qint64(128) * 1024 * 1024;
 /// What became of a picture's bytes.
 struct RasterPicture
 {
-    QImage image;    ///< null when the bytes are no picture or were refused
-    QString refusal; ///< why a picture was not decoded although it may be one
+    QImage image;                      ///< null when the bytes are no picture or were refused
+    QString refusal;                   ///< why a picture was not decoded although it may be one
+    const char* refusalCode = nullptr; ///< of messages/refusals.h; null without a refusal
 };
 
 /// Decodes a picture whose format its content tells.

@@ -3,6 +3,7 @@
 #include "host/datasource_controller.h"
 #include "host/facets/i_datasource_item.h"
 #include "host/tal_datasource.h"
+#include "messages/refusals.h"
 #include "tavrel/datasource_keys.h"
 
 #include <Logger.h>
@@ -23,7 +24,7 @@ void setProperties(TalDatasource* datasource, std::initializer_list<Property> pr
         // The item stays bound to the number that the host gave. Logs of this room go by the
         // reader's name, which hosts know.
         CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", __LINE__,
-                          Q_FUNC_INFO)
+                          Q_FUNC_INFO, refusals::category(refusals::DatasourceRefused))
             .write("The host does not have the data source that it has just made");
         return;
     }

@@ -1,9 +1,16 @@
 #include "tavrel/import_issues.h"
 
+#include "messages/reader_messages.h"
+
 #include <QObject>
 
 namespace tavrel {
 namespace {
+
+QString translated(const messages::Translated& message)
+{
+    return QObject::tr(message.text, message.comment);
+}
 
 void appendPart(QString& text, const QString& part)
 {
@@ -26,18 +33,16 @@ QString ImportIssues::text() const
 {
     QString text;
     if (symbolErrors) {
-        appendPart(text, QObject::tr("Errors reading symbol items.\nPlease update legacy Tavrel to "
-                                     "its latest version and re-save file.",
-                                     "Content of error message."));
+        appendPart(text, translated(messages::SymbolsUnreadable));
     }
     if (barcodeErrors) {
-        appendPart(text, QObject::tr("Unsupported barcode symbols.", "Content of error message."));
+        appendPart(text, translated(messages::BarcodesUnsupported));
     }
     if (!m_notes.isEmpty()) {
         appendPart(text, m_notes);
     }
     if (databaseLinked) {
-        appendPart(text, QObject::tr("Datasource not connected.", "Content of error message."));
+        appendPart(text, translated(messages::DatabaseNotConnected));
     }
     return text;
 }

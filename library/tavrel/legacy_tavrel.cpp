@@ -2,6 +2,8 @@
 
 #include "host/services/tal_message_box.h"
 #include "host/tal_canvas_model.h"
+#include "messages/reader_messages.h"
+#include "messages/refusals.h"
 #include "supply/legacy_supply_info.h"
 #include "tavrel/barcode_builder.h"
 #include "tavrel/bounded_stream.h"
@@ -41,9 +43,10 @@ enum ItemTypeCode : qint32 {
     MatrixBarcodeCode = 0x10006,
 };
 
-void logError(int line, const char* function, const QString& message)
+void logError(int line, const char* function, const QString& message, const char* code = nullptr)
 {
-    CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", line, function)
+    CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", line, function,
+                      refusals::category(code))
         .write("%s", message.toLocal8Bit().constData());
 }
 
@@ -51,10 +54,12 @@ void logRefusedItem(int line, const char* function, BuildResult result)
 {
     if (result == BuildResult::NoItem) {
         logError(line, function,
-                 QStringLiteral("The host made no item for this record, it is left out"));
+                 QStringLiteral("The host made no item for this record, it is left out"),
+                 refusals::ItemRefused);
     } else if (result == BuildResult::Lost) {
         logError(line, function,
-                 QStringLiteral("The host deleted the item when it got it, it is left out"));
+                 QStringLiteral("The host deleted the item when it got it, it is left out"),
+                 refusals::ItemRefused);
     }
 }
 
@@ -62,9 +67,10 @@ void logRefusedItem(int line, const char* function, BuildResult result)
 void logRefusedFile(int line, const char* function, WholeFile::Status status, const QString& path)
 {
     if (status == WholeFile::Status::NotAFile) {
-        logError(line, function, QStringLiteral("Not a regular file: ") + path);
+        logError(line, function, QStringLiteral("Not a regular file: ") + path, refusals::NotAFile);
     } else if (status == WholeFile::Status::TooLarge) {
-        logError(line, function, QStringLiteral("Too large for a label: ") + path);
+        logError(line, function, QStringLiteral("Too large for a label: ") + path,
+                 refusals::FileTooLarge);
     }
 }
 
@@ -98,7 +104,7 @@ bool LegacyTavrel::importLabelFromFile(const QString& path)
     const CanvasHeader header = readCanvasHeader(stream);
     if (!header.isSupported()) {
         const QString message =
-            QObject::tr("Invalid canvas file version (%1 != %2) in", "Content of error message.")
+            QObject::tr(messages::VersionRefused.text, messages::VersionRefused.comment)
                 .arg(header.version)
                 .arg(CurrentVersion);
         logError(__LINE__, Q_FUNC_INFO, message + QLatin1Char(' ') + path);
@@ -148,16 +154,19 @@ bool LegacyTavrel::importCanvasAndItems(QDataStream& stream, quint32 version, bo
     bool anyItemRead = false;
     for (int count = 0; !stream.atEnd(); ++count) {
         if (count == MaximumItemRecords) {
-            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many items, the rest is left out"));
+            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many items, the rest is left out"),
+                     refusals::TooManyItems);
             break;
         }
         const qint32 typeCode = readInt32(stream);
         const RecordOutcome outcome = importItemRecord(typeCode, stream, version, issues);
         if (outcome == RecordOutcome::Unknown) {
-            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Invalid type: %1").arg(typeCode));
+            logError(__LINE__, Q_FUNC_INFO,
+                     QString::fromLatin1(messages::RecordTypeUnknown).arg(typeCode));
             if (!anyItemRead) {
-                showMessageBox(QObject::tr("Load Error", "Error message title."),
-                               QObject::tr("Errors reading items.", "Content of error message."));
+                showMessageBox(
+                    QObject::tr("Load Error", "Error message title."),
+                    QObject::tr(messages::ItemsUnreadable.text, messages::ItemsUnreadable.comment));
                 return false;
             }
             break;
@@ -213,7 +222,8 @@ void LegacyTavrel::importPictureItem(QDataStream& stream, quint32 version)
         readPictureRecord(stream, fileContext(version), takeItemNumber(), m_pixelsLeft);
     if (record.picture.refused) {
         logError(__LINE__, Q_FUNC_INFO,
-                 QStringLiteral("A picture is damaged or too large, the item is left empty"));
+                 QStringLiteral("A picture is damaged or too large, the item is left empty"),
+                 refusals::PictureUnreadable);
     }
     logRefusedItem(__LINE__, Q_FUNC_INFO,
                    buildPicture(hostCanvas(), std::move(record), m_resolution));
@@ -231,7 +241,8 @@ QString LegacyTavrel::importTextItem(QDataStream& stream, quint32 version)
 QString LegacyTavrel::noteOn(const TextRecord& record)
 {
     if (record.content.size() > m_noteCharactersLeft) {
-        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many notes, one is left out"));
+        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many notes, one is left out"),
+                 refusals::TooManyNotes);
         return {};
     }
     const QString note = scaledTextNote(record.content, record.fontSize);
