@@ -3,6 +3,7 @@
 #include "tests/archive/run_fixture.h"
 
 #include <QSet>
+#include <QTimer>
 
 namespace {
 
@@ -64,19 +65,39 @@ TEST_F(ArchiveRun, TriesAFileAgainWhoseWorkerWasKilled)
 
 TEST_F(ArchiveRun, GivesAFileUpThatHangs)
 {
-    settings.limits.timeoutSeconds = 1;
+    int started = 0;
+    settings.workers = 1;
+    settings.limits.startTimer = [&](QTimer& timer, int seconds) {
+        // The time of the first file is over at once, that of the second never.
+        if (seconds == settings.limits.timeoutSeconds && ++started == 1) {
+            timer.start(0);
+        }
+    };
     input(QStringLiteral("a.cnv"), "hang");
     input(QStringLiteral("b.cnv"), "ok");
-    EXPECT_EQ(run(), lines({"timed-out a.cnv: the file took more than 1 seconds without getting "
+    EXPECT_EQ(run(), lines({"timed-out a.cnv: the file took more than 300 seconds without getting "
                             "on (--timeout)",
                             "done b.cnv: b.png"}));
+    EXPECT_EQ(started, 2);
 }
 
-TEST_F(ArchiveRun, LetsAFileTakeItsTimeAsLongAsItGetsOn)
+TEST_F(ArchiveRun, GivesAFileItsTimeAgainWithEachSignOfLife)
 {
-    settings.limits.timeoutSeconds = 2;
-    input(QStringLiteral("a.cnv"), "slow");
+    int started = 0;
+    settings.limits.startTimer = [&](QTimer& /*timer*/, int seconds) {
+        started += seconds == settings.limits.timeoutSeconds ? 1 : 0;
+    };
+    input(QStringLiteral("a.cnv"), "alive");
     EXPECT_EQ(run(), lines({"done a.cnv: a.png"}));
+    EXPECT_EQ(started, 1 + 3);
+}
+
+TEST(WorkerLimits, CountSeconds)
+{
+    QTimer timer;
+    archive::WorkerLimits().startTimer(timer, 5);
+    EXPECT_TRUE(timer.isActive());
+    EXPECT_EQ(timer.interval(), 5000);
 }
 
 TEST_F(ArchiveRun, GivesAFileUpThatNeedsTooMuchMemory)

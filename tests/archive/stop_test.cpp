@@ -2,37 +2,53 @@
 
 #include "tests/archive/test_folder.h"
 
-#include <QDirIterator>
-#include <QElapsedTimer>
 #include <QProcess>
-#include <QThread>
 
 #include <csignal>
-#include <functional>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
-/// Whether a process still runs; one that only waits to be counted does not.
-bool isRunning(qint64 pid)
-{
-    QFile status(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!status.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray fields = status.readAll();
-    return fields.mid(fields.lastIndexOf(')') + 2, 1) != "Z";
-}
+constexpr int PatienceMilliseconds = 60'000;
 
-bool comesTrue(const std::function<bool()>& condition)
+/// A pipe by which a worker that hangs gives its number. It ends when the worker does.
+class WorkerPipe
 {
-    constexpr qint64 patience = 60'000;
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition() && clock.elapsed() < patience) {
-        QThread::msleep(5);
+public:
+    explicit WorkerPipe(const QString& path)
+    {
+        const QByteArray name = QFile::encodeName(path);
+        EXPECT_EQ(::mkfifo(name.constData(), 0600), 0);
+        m_end = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     }
-    return condition();
-}
+    ~WorkerPipe() { ::close(m_end); }
+    WorkerPipe(const WorkerPipe&) = delete;
+    WorkerPipe& operator=(const WorkerPipe&) = delete;
+
+    /// The number of the worker that hangs now; 0 when none comes.
+    [[nodiscard]] qint64 waitForWorker() const
+    {
+        char number[32];
+        const ssize_t size =
+            happens(POLLIN, PatienceMilliseconds) ? ::read(m_end, number, sizeof number) : 0;
+        return QByteArray(number, qMax<ssize_t>(size, 0)).toLongLong();
+    }
+    /// Whether the worker ends within this time.
+    [[nodiscard]] bool ends(int milliseconds) const { return happens(POLLHUP, milliseconds); }
+
+private:
+    [[nodiscard]] bool happens(short event, int milliseconds) const
+    {
+        pollfd end{m_end, event, 0};
+        return ::poll(&end, 1, milliseconds) == 1 && (end.revents & event) != 0;
+    }
+
+    int m_end;
+};
 
 /// Ten good files, then one that hangs.
 class StoppedArchive : public ::testing::Test
@@ -43,7 +59,6 @@ protected:
         for (int number = 0; number < 10; ++number) {
             folder.write(QStringLiteral("in/a%1.cnv").arg(number), "ok");
         }
-        folder.write(QStringLiteral("in/b.cnv"), "hang");
     }
 
     void startCoordinator(QProcess& process, bool isResuming = false)
@@ -59,12 +74,16 @@ protected:
     }
 
     /// Waits until all good files are done and the bad one is in work; its worker's number.
-    qint64 waitUntilItHangs()
+    qint64 waitUntilItHangs(QProcess& coordinator)
     {
-        EXPECT_TRUE(comesTrue([this] {
-            return folder.has(QStringLiteral("in/b.cnv.hanging")) && outputs().size() == 10;
-        }));
-        return folder.read(QStringLiteral("in/b.cnv.hanging")).toLongLong();
+        while (outputs().size() < 10) {
+            // It prints a line when an output is there.
+            if (!coordinator.waitForReadyRead(PatienceMilliseconds)) {
+                ADD_FAILURE() << "only " << outputs().size() << " outputs";
+                break;
+            }
+        }
+        return worker.waitForWorker();
     }
 
     QStringList outputs() const
@@ -79,32 +98,35 @@ protected:
     }
 
     TestFolder folder;
+    const QString badFile = folder.write(QStringLiteral("in/b.cnv"), "hang");
+    WorkerPipe worker{badFile + QStringLiteral(".hanging")};
 };
 
-TEST_F(StoppedArchive, EndsCleanlyByASignal)
+class StoppingSignal : public StoppedArchive, public testing::WithParamInterface<int>
+{};
+INSTANTIATE_TEST_SUITE_P(Signals, StoppingSignal, testing::Values(SIGINT, SIGTERM));
+
+TEST_P(StoppingSignal, EndsItCleanly)
 {
-    for (const int number : {SIGINT, SIGTERM}) {
-        QFile::remove(folder.path(QStringLiteral("in/b.cnv.hanging")));
-        QProcess coordinator;
-        startCoordinator(coordinator, true);
-        const qint64 worker = waitUntilItHangs();
-        ::kill(static_cast<pid_t>(coordinator.processId()), number);
-        ASSERT_TRUE(coordinator.waitForFinished(60'000));
-        EXPECT_EQ(coordinator.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(coordinator.exitCode(), 130);
-        EXPECT_FALSE(isRunning(worker));
-        EXPECT_EQ(hidden(), QStringList());
-    }
+    QProcess coordinator;
+    startCoordinator(coordinator);
+    ASSERT_GT(waitUntilItHangs(coordinator), 0);
+    ::kill(static_cast<pid_t>(coordinator.processId()), GetParam());
+    ASSERT_TRUE(coordinator.waitForFinished(PatienceMilliseconds));
+    EXPECT_EQ(coordinator.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(coordinator.exitCode(), 130);
+    EXPECT_TRUE(worker.ends(0));
+    EXPECT_EQ(hidden(), QStringList());
 }
 
 TEST_F(StoppedArchive, EndsAtOnceByASecondSignal)
 {
     QProcess coordinator;
     startCoordinator(coordinator);
-    waitUntilItHangs();
+    ASSERT_GT(waitUntilItHangs(coordinator), 0);
     ::kill(static_cast<pid_t>(coordinator.processId()), SIGINT);
     ::kill(static_cast<pid_t>(coordinator.processId()), SIGTERM);
-    ASSERT_TRUE(coordinator.waitForFinished(60'000));
+    ASSERT_TRUE(coordinator.waitForFinished(PatienceMilliseconds));
     EXPECT_EQ(coordinator.exitCode(), 130);
 }
 
@@ -112,10 +134,10 @@ TEST_F(StoppedArchive, LeavesNoWorkerBehindWhenItIsKilled)
 {
     QProcess coordinator;
     startCoordinator(coordinator);
-    const qint64 worker = waitUntilItHangs();
+    ASSERT_GT(waitUntilItHangs(coordinator), 0);
     coordinator.kill();
-    ASSERT_TRUE(coordinator.waitForFinished(60'000));
-    EXPECT_TRUE(comesTrue([&] { return !isRunning(worker); }));
+    ASSERT_TRUE(coordinator.waitForFinished(PatienceMilliseconds));
+    EXPECT_TRUE(worker.ends(PatienceMilliseconds));
 }
 
 TEST_F(StoppedArchive, IsTakenUpAgainAfterItWasKilled)
@@ -123,15 +145,15 @@ TEST_F(StoppedArchive, IsTakenUpAgainAfterItWasKilled)
     {
         QProcess coordinator;
         startCoordinator(coordinator);
-        waitUntilItHangs();
+        ASSERT_GT(waitUntilItHangs(coordinator), 0);
         coordinator.kill();
-        ASSERT_TRUE(coordinator.waitForFinished(60'000));
+        ASSERT_TRUE(coordinator.waitForFinished(PatienceMilliseconds));
     }
     EXPECT_EQ(hidden().size(), 1);
     folder.write(QStringLiteral("in/b.cnv"), "ok now");
     QProcess again;
     startCoordinator(again, true);
-    ASSERT_TRUE(again.waitForFinished(60'000));
+    ASSERT_TRUE(again.waitForFinished(PatienceMilliseconds));
     EXPECT_EQ(again.exitCode(), 0);
     EXPECT_EQ(QString::fromLocal8Bit(again.readAllStandardOutput()),
               folder.path(QStringLiteral("out/b.png")) + QLatin1Char('\n'));
@@ -143,10 +165,11 @@ TEST_F(StoppedArchive, TriesAFileAgainWhoseWorkerIsKilled)
 {
     QProcess coordinator;
     startCoordinator(coordinator);
-    const qint64 worker = waitUntilItHangs();
+    const qint64 pid = waitUntilItHangs(coordinator);
+    ASSERT_GT(pid, 0);
     folder.write(QStringLiteral("in/b.cnv"), "ok now");
-    ::kill(static_cast<pid_t>(worker), SIGKILL);
-    ASSERT_TRUE(coordinator.waitForFinished(60'000));
+    ::kill(static_cast<pid_t>(pid), SIGKILL);
+    ASSERT_TRUE(coordinator.waitForFinished(PatienceMilliseconds));
     EXPECT_EQ(coordinator.exitCode(), 0);
     EXPECT_EQ(folder.read(QStringLiteral("out/b.png")), "ok now");
 }

@@ -35,11 +35,13 @@ bool isMetFirst(const QString& path)
     return isFirst;
 }
 
+/// Writes its number into "FILE.hanging", which may be a pipe, and keeps that open until the end.
 [[noreturn]] void hang(const QString& path)
 {
-    // Whole when it is there: a test waits for it.
-    leave(path + QStringLiteral(".part"), QByteArray::number(::getpid()));
-    QFile::rename(path + QStringLiteral(".part"), path + QStringLiteral(".hanging"));
+    QFile sign(path + QStringLiteral(".hanging"));
+    if (sign.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        sign.write(QByteArray::number(::getpid()));
+    }
     while (true) {
         ::pause();
     }
@@ -62,15 +64,6 @@ void takeAllMemoryUnasked()
         for (std::size_t i = 0; i < size; ++i) {
             taken[i] = 'x';
         }
-    }
-}
-
-void getOnSlowly(const archive::SignOfLife& alive)
-{
-    constexpr useconds_t pause = 800'000;
-    for (int step = 0; step < 3; ++step) {
-        ::usleep(pause);
-        alive();
     }
 }
 
@@ -125,8 +118,10 @@ archive::FileResult suffer(const archive::Job& job, const archive::SignOfLife& a
     if (word == "hang") {
         hang(job.file);
     }
-    if (word == "slow") {
-        getOnSlowly(alive);
+    if (word == "alive") {
+        for (int step = 0; step < 3; ++step) {
+            alive();
+        }
     }
     if (word == "fail") {
         return failure();

@@ -4,6 +4,10 @@
 
 #include <QString>
 
+#include <functional>
+
+class QTimer;
+
 namespace archive {
 
 /// Exit statuses by which a worker says of what it died.
@@ -28,11 +32,16 @@ struct WorkerDeath
     [[nodiscard]] bool deservesAnotherTry() const { return kind != TimedOut; }
 };
 
+/// Seconds are seconds.
+void startTimerInRealTime(QTimer& timer, int seconds);
+
 /// Limits of a worker.
 struct WorkerLimits
 {
     int timeoutSeconds = 60; ///< without a sign of life; 0 for none
     int memoryMiB = 4096;    ///< of its data; 0 for none
+    /// Starts the single-shot timer of a worker. Tests replace it, so that they do not wait.
+    std::function<void(QTimer& timer, int seconds)> startTimer = startTimerInRealTime;
 };
 
 /// What that makes of its file.

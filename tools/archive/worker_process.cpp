@@ -2,6 +2,7 @@
 
 #include "archive/messages.h"
 
+#include <chrono>
 #include <csignal>
 
 #include <sys/prctl.h>
@@ -25,6 +26,11 @@ void bindToParent(pid_t parent)
 }
 
 } // namespace
+
+void startTimerInRealTime(QTimer& timer, int seconds)
+{
+    timer.start(std::chrono::seconds(seconds));
+}
 
 WorkerProcess::WorkerProcess(const WorkerCommand& command, const WorkerLimits& limits)
     : m_limits(limits)
@@ -53,7 +59,7 @@ WorkerProcess::~WorkerProcess()
 void WorkerProcess::start()
 {
     m_process.start();
-    m_clock.start(StartSeconds * 1000);
+    m_limits.startTimer(m_clock, StartSeconds);
 }
 
 void WorkerProcess::give(const QByteArray& line)
@@ -72,7 +78,7 @@ void WorkerProcess::dismiss()
 void WorkerProcess::startClock()
 {
     if (m_limits.timeoutSeconds > 0) {
-        m_clock.start(m_limits.timeoutSeconds * 1000);
+        m_limits.startTimer(m_clock, m_limits.timeoutSeconds);
     } else {
         m_clock.stop();
     }
