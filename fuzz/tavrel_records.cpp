@@ -2,18 +2,15 @@
 // version, and the rest is the stream that it reads, again and again, to its end.
 
 #include "fuzz/harness.h"
-#include "tavrel/barcode_record.h"
-#include "tavrel/bounded_stream.h"
-#include "tavrel/bounds.h"
-#include "tavrel/canvas_header.h"
-#include "tavrel/canvas_record.h"
-#include "tavrel/database_list.h"
+#include "tavrel/barcodes.h"
 #include "tavrel/file_versions.h"
-#include "tavrel/picture_record.h"
-#include "tavrel/sequence_settings.h"
-#include "tavrel/shape_record.h"
-#include "tavrel/symbol_record.h"
-#include "tavrel/text_record.h"
+#include "tavrel/label_stream.h"
+#include "tavrel/limits.h"
+#include "tavrel/page_records.h"
+#include "tavrel/pictures.h"
+#include "tavrel/shapes.h"
+#include "tavrel/symbols.h"
+#include "tavrel/texts.h"
 
 #include <QDataStream>
 

@@ -4,25 +4,51 @@
 #include "host/facets/i_datasource_item.h"
 #include "host/tal_datasource.h"
 #include "messages/refusals.h"
-#include "tavrel/datasource_keys.h"
 
 #include <Logger.h>
 
+#include <QObject>
 #include <QVariant>
 
+#include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace tavrel {
 namespace {
+
+const QString EmbeddedKey = u"_SPECIAL"_s;
+
+// Created when the library is loaded, so the translated keys are in the language of that moment.
+// The order is that in which a text is searched. Old labels depend on it: a text with two keys is
+// bound to the one that comes first here.
+const std::array<DatasourceRule, 8> Rules{{
+    {u"_SEQUENCE"_s, DatasourceKind::Sequence, {}, {}},
+    {u"_ROW"_s, DatasourceKind::None, {}, {}},
+    {u"_DATE"_s, DatasourceKind::System, "ddd MMM d yyyy"_L1, {}},
+    {u"_DATES"_s, DatasourceKind::System, "d/MM/yyyy"_L1, {}},
+    {u"_DATEX"_s, DatasourceKind::System, "MMMM-d-yy"_L1, {}},
+    {u"_TIME"_s, DatasourceKind::System, {}, "hh:mm:ss"_L1},
+    {QObject::tr("Record", "Datasource key"), DatasourceKind::Database, {}, {}},
+    {QObject::tr("Value", "Datasource key"), DatasourceKind::Database, {}, {}},
+}};
+
+template <typename Matches>
+const DatasourceRule* firstRule(Matches matches)
+{
+    const auto* found = std::find_if(Rules.begin(), Rules.end(), matches);
+    return found != Rules.end() ? found : nullptr;
+}
 
 using Property = std::pair<QString, QVariant>;
 
 void setProperties(TalDatasource* datasource, std::initializer_list<Property> properties)
 {
     if (datasource == nullptr) {
-        // The item stays bound to the number that the host gave. Logs of this room go by the
-        // reader's name, which hosts know.
+        // The item stays bound to the identifier that the host returned.
         CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", __LINE__,
                           Q_FUNC_INFO, refusals::category(refusals::DatasourceRefused))
             .write("The host does not have the data source that it has just made");
@@ -34,6 +60,22 @@ void setProperties(TalDatasource* datasource, std::initializer_list<Property> pr
 }
 
 } // namespace
+
+bool isEmbeddedKey(const QString& key)
+{
+    return key == EmbeddedKey;
+}
+
+const DatasourceRule* ruleOfKey(const QString& key)
+{
+    return firstRule([&key](const DatasourceRule& rule) { return rule.key == key; });
+}
+
+const DatasourceRule* ruleOfKeyIn(const QString& text)
+{
+    return firstRule(
+        [&text](const DatasourceRule& rule) { return text.contains(u'%' + rule.key + u'%'); });
+}
 
 DatasourceBinder::DatasourceBinder(DatasourceController* controller,
                                    const SequenceSettings& sequence)
@@ -75,24 +117,23 @@ bool DatasourceBinder::bindDatasourceKey(IDatasourceItem& item, const QString& k
 
 void DatasourceBinder::createSequenceDatasource(IDatasourceItem& item) const
 {
-    const int id = m_controller->createDatasource(QStringLiteral("SequenceDatasource"));
+    const int id = m_controller->createDatasource(u"SequenceDatasource"_s);
     item.setDatasourceId(id);
-    setProperties(m_controller->getDatasource(id),
-                  {{QStringLiteral("Prefix"), m_sequence.sequencePrefix},
-                   {QStringLiteral("Suffix"), m_sequence.sequenceSuffix},
-                   {QStringLiteral("Start"), m_sequence.sequenceStart},
-                   {QStringLiteral("End"), m_sequence.sequenceEnd},
-                   {QStringLiteral("Step"), m_sequence.sequenceStep},
-                   {QStringLiteral("ZeroPad"), m_sequence.sequenceZeroPad}});
+    setProperties(m_controller->getDatasource(id), {{u"Prefix"_s, m_sequence.sequencePrefix},
+                                                    {u"Suffix"_s, m_sequence.sequenceSuffix},
+                                                    {u"Start"_s, m_sequence.sequenceStart},
+                                                    {u"End"_s, m_sequence.sequenceEnd},
+                                                    {u"Step"_s, m_sequence.sequenceStep},
+                                                    {u"ZeroPad"_s, m_sequence.sequenceZeroPad}});
 }
 
 void DatasourceBinder::createSystemDatasource(IDatasourceItem& item, const QString& dateFormat,
                                               const QString& timeFormat) const
 {
-    const int id = m_controller->createDatasource(QStringLiteral("SystemDatasource"));
+    const int id = m_controller->createDatasource(u"SystemDatasource"_s);
     item.setDatasourceId(id);
-    setProperties(m_controller->getDatasource(id), {{QStringLiteral("DateFormat"), dateFormat},
-                                                    {QStringLiteral("TimeFormat"), timeFormat}});
+    setProperties(m_controller->getDatasource(id),
+                  {{u"DateFormat"_s, dateFormat}, {u"TimeFormat"_s, timeFormat}});
 }
 
 } // namespace tavrel

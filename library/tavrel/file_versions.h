@@ -5,12 +5,12 @@
 #include <array>
 #include <cstddef>
 
-/// The versions of the binary label format and how a record's layout follows from them.
+/// The versions of the binary label format, and the choice of a record's layout by version.
 namespace tavrel {
 
-/// Files below this one are refused; item positions of this one are in dots.
+/// Older files are refused. Item positions of this version are in dots.
 inline constexpr quint32 OldestVersion = 2000016;
-/// Named in the refusal. A later file is read with the newest layouts.
+/// Named in the refusal. Newer files are read with the newest layouts.
 inline constexpr quint32 CurrentVersion = 2000024;
 
 inline constexpr quint32 FirstWithPositionsInInches = 2000017;
@@ -24,7 +24,7 @@ inline constexpr quint32 FirstWithSymbolData = 2000023;
 inline constexpr quint32 FirstWithTextTrailer = 2000023;
 inline constexpr quint32 FirstWithResolutions = 2000024;
 
-/// One layout of a record: the version that brought it and the function that decodes it.
+/// A layout of a record: the first version that uses it and the function that decodes it.
 template <typename Decode>
 struct Layout
 {
@@ -32,12 +32,12 @@ struct Layout
     Decode decode;
 };
 
-// Not every compiler deduces an aggregate's argument by itself.
+// Not all compilers deduce the argument of an aggregate.
 template <typename Decode>
 Layout(quint32, Decode) -> Layout<Decode>;
 
-/// The decoder for a file of this version: the last layout that is not younger than the
-/// file. The table is in rising order; a file older than all takes the first.
+/// The decoder for a version: the last layout that is not newer. The table is in ascending order;
+/// a version older than all layouts gets the first.
 template <typename Decode, std::size_t count>
 [[nodiscard]] constexpr Decode layoutFor(const std::array<Layout<Decode>, count>& layouts,
                                          quint32 version)

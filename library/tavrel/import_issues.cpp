@@ -15,7 +15,7 @@ QString translated(const messages::Translated& message)
 void appendPart(QString& text, const QString& part)
 {
     if (!text.isEmpty()) {
-        text += QLatin1Char('\n');
+        text += u'\n';
     }
     text += part;
 }

@@ -4,7 +4,7 @@
 
 namespace tavrel {
 
-/// What could not be carried over from one file, collected for the one message box.
+/// What could not be imported from a file, collected for its message box.
 class ImportIssues
 {
 public:
@@ -12,9 +12,9 @@ public:
     bool barcodeErrors = false;
     bool databaseLinked = false;
 
-    /// Adds a text item's note; an empty one is none.
+    /// Adds the note on a text item; an empty one is ignored.
     void addNote(const QString& note);
-    /// The message, one issue to a line in a fixed order; empty when all went well.
+    /// The message, with the issues in a fixed order, each from a new line; empty without issues.
     [[nodiscard]] QString text() const;
 
 private:

@@ -1,16 +1,15 @@
 #include "tavrel/item_header.h"
 
 #include "numeric/fraction.h"
-#include "tavrel/bounded_stream.h"
-#include "tavrel/bounds.h"
-#include "tavrel/field_run.h"
 #include "tavrel/file_versions.h"
+#include "tavrel/label_stream.h"
+#include "tavrel/lengths.h"
+#include "tavrel/limits.h"
 
 namespace tavrel {
 namespace {
 
-constexpr double PointsPerInch = 72.0;
-// More than a label ever had items, so that layers do not mix.
+// More than the items of any real label, so that layers do not overlap.
 constexpr double LayerDistance = 1000.0;
 
 QPointF positionFromDots(QPointF dots, const Resolution& resolution)
@@ -37,6 +36,12 @@ double readLength(QDataStream& stream)
 
 } // namespace
 
+qint64 takeItemNumber()
+{
+    static qint64 next = 0;
+    return next++;
+}
+
 ItemHeader readItemHeader(QDataStream& stream, const FileContext& file, qint64 itemNumber)
 {
     ItemHeader header;
@@ -51,6 +56,12 @@ ItemHeader readItemHeader(QDataStream& stream, const FileContext& file, qint64 i
     header.width = readLength(stream);
     header.height = readLength(stream);
     return header;
+}
+
+QSizeF contentSize(const ItemHeader& header, const Resolution& resolution, const QSizeF& ownSize)
+{
+    return {header.width / resolution.x * ownSize.width(),
+            header.height / resolution.y * ownSize.height()};
 }
 
 } // namespace tavrel

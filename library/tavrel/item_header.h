@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tavrel/file_context.h"
+#include "tavrel/page_records.h"
 
 #include <QDataStream>
 #include <QPointF>
@@ -8,8 +8,15 @@
 
 namespace tavrel {
 
-/// What every item record starts with. Lengths are in points; none of them is checked, so
-/// they may be infinite or not a number.
+/// What item records depend on from the records before them.
+struct FileContext
+{
+    quint32 version = 0;
+    Resolution resolution;
+};
+
+/// The start of every item record. Lengths are in points and not checked: they may be infinite or
+/// not a number.
 struct ItemHeader
 {
     bool movable = false;
@@ -24,9 +31,18 @@ struct ItemHeader
     [[nodiscard]] QSizeF size() const { return {width, height}; }
 };
 
-/// @param itemNumber the item's number in the order of reading: of two items in one layer
-///                   the later one stands in front
+/// The number of the next item. There is one counter per process, from 0 and never reset, so that
+/// the items of an import are in front of those of an earlier import. Call it from one thread
+/// only, like the complete reader.
+[[nodiscard]] qint64 takeItemNumber();
+
+/// @param itemNumber from takeItemNumber(); of two items in a layer, the later one is in front
 [[nodiscard]] ItemHeader readItemHeader(QDataStream& stream, const FileContext& file,
                                         qint64 itemNumber);
+
+/// The size of a picture or symbol in points. The file stores the size that one unit of the
+/// content's own size has at the printer's resolution.
+[[nodiscard]] QSizeF contentSize(const ItemHeader& header, const Resolution& resolution,
+                                 const QSizeF& ownSize);
 
 } // namespace tavrel

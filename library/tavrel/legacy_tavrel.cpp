@@ -5,23 +5,16 @@
 #include "messages/reader_messages.h"
 #include "messages/refusals.h"
 #include "supply/legacy_supply_info.h"
-#include "tavrel/barcode_builder.h"
-#include "tavrel/bounded_stream.h"
-#include "tavrel/bounds.h"
-#include "tavrel/canvas_header.h"
-#include "tavrel/canvas_record.h"
-#include "tavrel/database_list.h"
+#include "tavrel/barcodes.h"
 #include "tavrel/datasource_binder.h"
+#include "tavrel/file_content.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/import_issues.h"
-#include "tavrel/item_number.h"
-#include "tavrel/picture_builder.h"
-#include "tavrel/shape_builder.h"
-#include "tavrel/stream_picture.h"
-#include "tavrel/symbol_builder.h"
-#include "tavrel/symbol_record.h"
-#include "tavrel/text_builder.h"
-#include "tavrel/whole_file.h"
+#include "tavrel/label_stream.h"
+#include "tavrel/limits.h"
+#include "tavrel/pictures.h"
+#include "tavrel/shapes.h"
+#include "tavrel/texts.h"
 
 #include <Logger.h>
 
@@ -29,6 +22,7 @@
 
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
 using namespace tavrel;
 
 namespace {
@@ -53,24 +47,21 @@ void logError(int line, const char* function, const QString& message, const char
 void logRefusedItem(int line, const char* function, BuildResult result)
 {
     if (result == BuildResult::NoItem) {
-        logError(line, function,
-                 QStringLiteral("The host made no item for this record, it is left out"),
+        logError(line, function, u"The host made no item for this record, it is left out"_s,
                  refusals::ItemRefused);
     } else if (result == BuildResult::Lost) {
-        logError(line, function,
-                 QStringLiteral("The host deleted the item when it got it, it is left out"),
+        logError(line, function, u"The host deleted the item when it got it, it is left out"_s,
                  refusals::ItemRefused);
     }
 }
 
-// A file that cannot be opened is the caller's to tell; the rest would be a riddle to users.
-void logRefusedFile(int line, const char* function, WholeFile::Status status, const QString& path)
+// The caller reports a file that cannot be opened; log only the causes that it cannot see.
+void logRefusedFile(int line, const char* function, FileContent::Status status, const QString& path)
 {
-    if (status == WholeFile::Status::NotAFile) {
-        logError(line, function, QStringLiteral("Not a regular file: ") + path, refusals::NotAFile);
-    } else if (status == WholeFile::Status::TooLarge) {
-        logError(line, function, QStringLiteral("Too large for a label: ") + path,
-                 refusals::FileTooLarge);
+    if (status == FileContent::Status::SpecialFile) {
+        logError(line, function, u"Not a regular file: "_s + path, refusals::NotAFile);
+    } else if (status == FileContent::Status::TooLarge) {
+        logError(line, function, u"Too large for a label: "_s + path, refusals::FileTooLarge);
     }
 }
 
@@ -93,13 +84,12 @@ LegacyTavrel::~LegacyTavrel()
 
 bool LegacyTavrel::importLabelFromFile(const QString& path)
 {
-    const WholeFile file = readWholeFile(path);
-    if (file.status != WholeFile::Status::Read) {
+    const FileContent file = loadFile(path);
+    if (file.status != FileContent::Status::Loaded) {
         logRefusedFile(__LINE__, Q_FUNC_INFO, file.status, path);
         return false;
     }
-    // Version, byte order and precision of the stream stay as they are by default: labels
-    // were written that way.
+    // Labels were written with the stream's default version, byte order and precision.
     QDataStream stream(file.bytes);
     const CanvasHeader header = readCanvasHeader(stream);
     if (!header.isSupported()) {
@@ -107,7 +97,7 @@ bool LegacyTavrel::importLabelFromFile(const QString& path)
             QObject::tr(messages::VersionRefused.text, messages::VersionRefused.comment)
                 .arg(header.version)
                 .arg(CurrentVersion);
-        logError(__LINE__, Q_FUNC_INFO, message + QLatin1Char(' ') + path);
+        logError(__LINE__, Q_FUNC_INFO, message + u' ' + path);
         return false;
     }
     skipPicture(stream); // the preview
@@ -116,7 +106,7 @@ bool LegacyTavrel::importLabelFromFile(const QString& path)
     const bool databaseLinked = importDatabaseList(stream);
     const QPointer<LegacyTavrel> self(this);
     const bool imported = importCanvasAndItems(stream, header.version, databaseLinked);
-    // Whoever is shown the message box may throw the importer away, and the canvas with it.
+    // The host may have deleted the reader and the canvas when it got the message box.
     if (!imported || !self) {
         return false;
     }
@@ -135,16 +125,6 @@ void LegacyTavrel::importCanvasRecord(QDataStream& stream, quint32 version)
     m_model->setCanvasDefaultPenColor(m_supplyInfo->getRibbonColor(record.ribbonType));
 }
 
-void LegacyTavrel::importSequenceSettings(QDataStream& stream, quint32 version)
-{
-    m_sequence = readSequenceSettings(stream, version);
-}
-
-bool LegacyTavrel::importDatabaseList(QDataStream& stream)
-{
-    return readDatabaseList(stream);
-}
-
 bool LegacyTavrel::importCanvasAndItems(QDataStream& stream, quint32 version, bool databaseLinked)
 {
     ImportIssues issues;
@@ -154,7 +134,7 @@ bool LegacyTavrel::importCanvasAndItems(QDataStream& stream, quint32 version, bo
     bool anyItemRead = false;
     for (int count = 0; !stream.atEnd(); ++count) {
         if (count == MaximumItemRecords) {
-            logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many items, the rest is left out"),
+            logError(__LINE__, Q_FUNC_INFO, u"Too many items, the rest is left out"_s,
                      refusals::TooManyItems);
             break;
         }
@@ -222,7 +202,7 @@ void LegacyTavrel::importPictureItem(QDataStream& stream, quint32 version)
         readPictureRecord(stream, fileContext(version), takeItemNumber(), m_pixelsLeft);
     if (record.picture.refused) {
         logError(__LINE__, Q_FUNC_INFO,
-                 QStringLiteral("A picture is damaged or too large, the item is left empty"),
+                 u"A picture is damaged or too large, the item is left empty"_s,
                  refusals::PictureUnreadable);
     }
     logRefusedItem(__LINE__, Q_FUNC_INFO,
@@ -241,7 +221,7 @@ QString LegacyTavrel::importTextItem(QDataStream& stream, quint32 version)
 QString LegacyTavrel::noteOn(const TextRecord& record)
 {
     if (record.content.size() > m_noteCharactersLeft) {
-        logError(__LINE__, Q_FUNC_INFO, QStringLiteral("Too many notes, one is left out"),
+        logError(__LINE__, Q_FUNC_INFO, u"Too many notes, one is left out"_s,
                  refusals::TooManyNotes);
         return {};
     }
@@ -277,16 +257,6 @@ bool LegacyTavrel::importSymbolItem(QDataStream& stream, quint32 version)
     return result == BuildResult::Built;
 }
 
-FileContext LegacyTavrel::fileContext(quint32 version) const
-{
-    return {version, m_resolution};
-}
-
-HostCanvas LegacyTavrel::hostCanvas() const
-{
-    return {m_model, m_classFactory};
-}
-
 void LegacyTavrel::reportIssues(const ImportIssues& issues)
 {
     const QString text = issues.text();
@@ -299,7 +269,7 @@ void LegacyTavrel::showMessageBox(const QString& title, const QString& text)
 {
     const QPointer<LegacyTavrel> self(this);
     if (m_messageBox) {
-        messageBoxHidingSlot(); // An earlier import's box that nobody has closed yet.
+        messageBoxHidingSlot(); // The box of an earlier import is still open.
     }
     if (!self) {
         return;
@@ -312,16 +282,16 @@ void LegacyTavrel::showMessageBox(const QString& title, const QString& text)
 
 void LegacyTavrel::messageBoxHidingSlot()
 {
-    // Taken out first: a host may start the next import from the signal.
+    // Cleared before the signal: a host may start the next import from it.
     const QPointer<TalMessageBox> box = std::exchange(m_messageBox, nullptr);
     const QPointer<LegacyTavrel> self(this);
     Q_EMIT popupHideSignal();
     if (!box) {
         return;
     }
-    // Later, because this may run in the box's own signal.
+    // Not at once, because this may run in the box's own signal.
     box->deleteLater();
-    // Without an event loop the reader's end is late enough, unless that has come already.
+    // Without an event loop the box is deleted with the reader, unless the signal deleted that.
     if (self) {
         m_withdrawnBoxes.removeAll(nullptr);
         m_withdrawnBoxes.append(box);

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "tavrel/file_context.h"
-#include "tavrel/sequence_settings.h"
-#include "tavrel/symbol_source.h"
+#include "tavrel/symbols.h"
 
 #include <QList>
 #include <QObject>
@@ -21,21 +19,19 @@ class TalMessageBox;
 
 namespace tavrel {
 class ImportIssues;
-enum class BuildResult;
-struct HostCanvas;
 struct TextRecord;
 } // namespace tavrel
 
 /// Reads binary canvas files (*.cnv, *.roc) into the host's canvas.
 ///
-/// One reader serves any number of files in turn. Page resolution, counter settings and
-/// orientation are those of the last file; the symbol services and the supply tables are
-/// kept for the reader's life. Problems that a user should know of are collected and
-/// announced in one message box for a file, the rest is logged.
+/// A reader can import any number of files, one after the other. Page resolution, counter settings
+/// and orientation are those of the last file; the symbol services and the supply tables are kept
+/// as long as the reader. Each file has at most one message box, with the problems that matter to
+/// users; the others are logged.
 class LegacyTavrel : public QObject
 {
     Q_OBJECT
-    // So that the signal's argument is known to who listens by name.
+    // For connections by name, which need the type of the signal's argument.
     Q_MOC_INCLUDE(<QWidget>)
 
 public:
@@ -45,31 +41,38 @@ public:
 
     /// Reads one file, from the header to the last item.
     ///
-    /// @return true when at least one item was read; the canvas is then complete. False for
-    ///         a file that cannot be opened, that is too old (the canvas is not touched
-    ///         then) or that has no item that can be read.
+    /// @return true if at least one item was read; the canvas is then complete. False if the file
+    ///         cannot be opened, if it is too old (the canvas is then unchanged), or if no item
+    ///         can be read.
     [[nodiscard]] bool importLabelFromFile(const QString& path);
 
 Q_SIGNALS:
-    /// Something is to be told to the user. The box stays the reader's.
+    /// A message for the user. The reader owns the box.
     void popupShowSignal(QWidget* popup);
-    /// The box is about to go: the user closed it, or a later import has another to show.
+    /// The box will be deleted: the user closed it, or a later import has another one.
     void popupHideSignal();
 
 public Q_SLOTS:
-    /// Withdraws the box; the box's own signal calls this.
+    /// Withdraws the box. Connected to the box's own signal.
     void messageBoxHidingSlot();
 
 private:
     enum class RecordOutcome {
-        Read,    ///< a record that counts for the success of the import
-        Skipped, ///< nothing, or nothing that could be used
-        Unknown, ///< a code that cannot be read over
+        Read,    ///< an item; the import succeeds
+        Skipped, ///< no item, or an unusable one
+        Unknown, ///< an unknown type, whose payload cannot be skipped
     };
 
     void importCanvasRecord(QDataStream& stream, quint32 version);
-    void importSequenceSettings(QDataStream& stream, quint32 version);
-    [[nodiscard]] bool importDatabaseList(QDataStream& stream);
+    void importSequenceSettings(QDataStream& stream, quint32 version)
+    {
+        m_sequence = tavrel::readSequenceSettings(stream, version);
+    }
+    /// @return whether the label is linked to a database file
+    [[nodiscard]] static bool importDatabaseList(QDataStream& stream)
+    {
+        return tavrel::readDatabaseList(stream);
+    }
     [[nodiscard]] bool importCanvasAndItems(QDataStream& stream, quint32 version,
                                             bool databaseLinked);
 
@@ -81,8 +84,11 @@ private:
     [[nodiscard]] bool importBarcodeItem(QDataStream& stream, quint32 version, bool linear);
     [[nodiscard]] bool importSymbolItem(QDataStream& stream, quint32 version);
 
-    [[nodiscard]] tavrel::FileContext fileContext(quint32 version) const;
-    [[nodiscard]] tavrel::HostCanvas hostCanvas() const;
+    [[nodiscard]] tavrel::FileContext fileContext(quint32 version) const
+    {
+        return {version, m_resolution};
+    }
+    [[nodiscard]] tavrel::HostCanvas hostCanvas() const { return {m_model, m_classFactory}; }
     [[nodiscard]] QString noteOn(const tavrel::TextRecord& record);
     void reportIssues(const tavrel::ImportIssues& issues);
     void showMessageBox(const QString& title, const QString& text);
@@ -97,6 +103,6 @@ private:
     bool m_orientationFlag = false;
     tavrel::Resolution m_resolution;
     tavrel::SequenceSettings m_sequence;
-    qint64 m_pixelsLeft = 0;            ///< of what the file's pictures may unpack
-    qsizetype m_noteCharactersLeft = 0; ///< of what the file's notes may take
+    qint64 m_pixelsLeft = 0;            ///< that the file's pictures may still have
+    qsizetype m_noteCharactersLeft = 0; ///< that the file's notes may still have
 };

@@ -1,7 +1,7 @@
 #include "tavrel/stream_picture.h"
 
-#include "tavrel/bounded_stream.h"
-#include "tavrel/bounds.h"
+#include "tavrel/label_stream.h"
+#include "tavrel/limits.h"
 
 #include <QBuffer>
 #include <QByteArray>

@@ -7,7 +7,7 @@
 #include "tests/hostile/switching_host.h"
 
 #include "importer/reader_choice.h"
-#include "tavrel/item_number.h"
+#include "tavrel/item_header.h"
 
 #include <QCoreApplication>
 #include <QEvent>

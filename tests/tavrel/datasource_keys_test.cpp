@@ -1,4 +1,4 @@
-#include "tavrel/datasource_keys.h"
+#include "tavrel/datasource_binder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Files that end anywhere or claim anything: nothing crashes, hangs or takes memory, and
 // what was read before is kept.
 
-#include "tavrel/bounds.h"
+#include "tavrel/limits.h"
 #include "tests/tavrel/reader_fixture.h"
 
 #include <algorithm>

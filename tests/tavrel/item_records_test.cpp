@@ -1,11 +1,10 @@
 // The common item header, shape records and the running number.
 
-#include "tavrel/bounded_stream.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/item_header.h"
-#include "tavrel/item_number.h"
-#include "tavrel/shape_record.h"
-#include "tavrel/symbol_record.h"
+#include "tavrel/label_stream.h"
+#include "tavrel/shapes.h"
+#include "tavrel/symbols.h"
 #include "tests/tavrel/bytes.h"
 
 #include <cmath>

@@ -1,10 +1,7 @@
 // The records before the items: header, canvas record, counter settings, database list.
 
-#include "tavrel/bounded_stream.h"
-#include "tavrel/canvas_header.h"
-#include "tavrel/canvas_record.h"
-#include "tavrel/database_list.h"
-#include "tavrel/sequence_settings.h"
+#include "tavrel/label_stream.h"
+#include "tavrel/page_records.h"
 #include "tests/tavrel/bytes.h"
 
 #include <QStringList>

@@ -1,6 +1,6 @@
-#include "tavrel/bounded_stream.h"
-#include "tavrel/bounds.h"
-#include "tavrel/picture_record.h"
+#include "tavrel/label_stream.h"
+#include "tavrel/limits.h"
+#include "tavrel/pictures.h"
 #include "tavrel/stream_picture.h"
 #include "tests/tavrel/bytes.h"
 

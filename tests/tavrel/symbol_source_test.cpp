@@ -1,4 +1,4 @@
-#include "tavrel/symbol_source.h"
+#include "tavrel/symbols.h"
 #include "tests/tavrel/fake_services.h"
 
 #include <QCoreApplication>

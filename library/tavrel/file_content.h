@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace tavrel {
+
+/// A label file in memory, or the reason why it could not be loaded.
+struct FileContent
+{
+    enum class Status {
+        Loaded,
+        CannotBeOpened,
+        SpecialFile, ///< a pipe or a device
+        TooLarge,    ///< more than MaximumFileSize bytes
+    };
+
+    Status status = Status::CannotBeOpened;
+    QByteArray bytes;
+};
+
+[[nodiscard]] FileContent loadFile(const QString& path);
+
+} // namespace tavrel

@@ -1,0 +1,174 @@
+// What the builder of texts asks of a host, call by call.
+
+#include "tavrel/texts.h"
+
+#include "tests/tavrel/builder_fixture.h"
+
+using namespace tavrel;
+using namespace tavrel_test;
+
+namespace {
+
+class TextBuilder : public Builders
+{
+protected:
+    [[nodiscard]] TextRecord text() const
+    {
+        TextRecord record;
+        record.header = header;
+        record.header.width = 72.0;
+        record.header.height = 72.0;
+        record.content = QStringLiteral("Net  weight");
+        record.penWidth = 6;
+        record.penStyle = 2;
+        record.fontSize = 12;
+        record.bold = true;
+        record.underline = true;
+        record.alignment = Qt::AlignRight;
+        record.optionB = true;
+        return record;
+    }
+    TextOutcome build(const TextRecord& record) { return buildText(host(), record, binder()); }
+};
+
+TEST_F(TextBuilder, ImportsTheItemBeforeItSetsItUp)
+{
+    const TextOutcome outcome = build(text());
+    EXPECT_EQ(outcome.result, BuildResult::Built);
+    EXPECT_FALSE(outcome.scaled);
+    EXPECT_EQ(
+        fake.calls.lines(),
+        lines({"factory create \"10015\"", "item1 setZValue 1003", "canvas importItem",
+               "item1 getItemSize", "item1 getItemSize", "item1 setItemSizeLimiting 0",
+               "item1 setTextBoxSize 33x11",
+               "item1 importTextProperties \"Net  weight\" 12 yes no yes 2", "item1 setPenWidth 6",
+               "item1 setPenStyle 2", "item1 setPenColor #ffff0000", "item1 setFillColor #ffffff00",
+               "item1 setTextColor #ffff0000", "item1 setOptionA no", "item1 setOptionB yes",
+               "item1 applyTextOptions", "item1 setFlag movable yes", "item1 setPos 100x50"}));
+    expectPlaced();
+}
+
+TEST_F(TextBuilder, EachFlagHasItsPlace)
+{
+    for (bool TextRecord::*flag :
+         {&TextRecord::bold, &TextRecord::italic, &TextRecord::underline, &TextRecord::optionA}) {
+        TextRecord record = text();
+        record.bold = record.underline = record.optionB = false;
+        record.*flag = true;
+        EXPECT_EQ(build(record).result, BuildResult::Built);
+    }
+    EXPECT_EQ(fake.calls.with("importTextProperties"),
+              lines({"item1 importTextProperties \"Net  weight\" 12 yes no no 2",
+                     "item2 importTextProperties \"Net  weight\" 12 no yes no 2",
+                     "item3 importTextProperties \"Net  weight\" 12 no no yes 2",
+                     "item4 importTextProperties \"Net  weight\" 12 no no no 2"}));
+    EXPECT_EQ(fake.calls.with("item4 setOption"),
+              lines({"item4 setOptionA yes", "item4 setOptionB no"}));
+}
+
+struct BoxRow
+{
+    double fixedWidth;
+    double fixedHeight;
+    double headerWidth;
+    double headerHeight;
+    int limiting;
+    const char* size;
+    bool scaled;
+};
+
+TEST_F(TextBuilder, BoxIsFixedScaledOrTheItemsOwn)
+{
+    for (const BoxRow& row : {BoxRow{-1, -1, 72.0, 72.0, 0, "33x11", false},
+                              BoxRow{2, -1, 72.0, 72.0, 1, "144x11", false},
+                              BoxRow{-1, 0.5, 72.0, 72.0, 2, "33x36", false},
+                              BoxRow{2, 0.5, 72.0, 72.0, 3, "144x36", false},
+                              BoxRow{2, 0.5, 144.0, 10.0, 3, "144x36", false},
+                              BoxRow{0, 0, 72.0, 72.0, 0, "33x11", false},
+                              BoxRow{-1, -1, 144.0, 72.0, 0, "144x11", true},
+                              BoxRow{-1, -1, 72.0, 36.0, 0, "33x36", true},
+                              BoxRow{-1, -1, 144.0, 36.0, 0, "144x36", true},
+                              BoxRow{2, -1, 72.0, 36.0, 1, "144x36", true},
+                              BoxRow{-1, -1, 72.0004, 71.9996, 0, "33x11", false},
+                              BoxRow{-1, -1, 72.0006, 72.0, 0, "72.0006x11", true},
+                              BoxRow{NAN, -1, 72.0, 72.0, 0, "33x11", false},
+                              BoxRow{-1, -1, NAN, 72.0, 0, "nanx11", true}}) {
+        SCOPED_TRACE(row.size);
+        fake.calls.clear();
+        TextRecord record = text();
+        record.fixedWidth = row.fixedWidth;
+        record.fixedHeight = row.fixedHeight;
+        record.header.width = row.headerWidth;
+        record.header.height = row.headerHeight;
+        EXPECT_EQ(build(record).scaled, row.scaled);
+        EXPECT_TRUE(fake.calls.with("setItemSizeLimiting")
+                        .value(0)
+                        .endsWith(QStringLiteral(" %1").arg(row.limiting)));
+        EXPECT_TRUE(fake.calls.with("setTextBoxSize")
+                        .value(0)
+                        .endsWith(QLatin1Char(' ') + QLatin1String(row.size)));
+    }
+}
+
+struct ColourRow
+{
+    bool inverse;
+    bool transparent;
+    const char* text;
+    const char* background;
+};
+
+TEST_F(TextBuilder, InverseSwapsTheColoursAndTransparencyComesLast)
+{
+    for (const ColourRow& row : {ColourRow{false, false, "#ffff0000", "#ffffff00"},
+                                 ColourRow{true, false, "#ffffff00", "#ffff0000"},
+                                 ColourRow{false, true, "#ffff0000", "#00000000"},
+                                 ColourRow{true, true, "#ffffff00", "#00000000"}}) {
+        fake.calls.clear();
+        TextRecord record = text();
+        record.inverse = row.inverse;
+        record.transparentBackground = row.transparent;
+        build(record);
+        EXPECT_TRUE(fake.calls.with("setPenColor").value(0).endsWith(QLatin1String(row.text)));
+        EXPECT_TRUE(fake.calls.with("setTextColor").value(0).endsWith(QLatin1String(row.text)));
+        EXPECT_TRUE(
+            fake.calls.with("setFillColor").value(0).endsWith(QLatin1String(row.background)));
+    }
+}
+
+TEST_F(TextBuilder, BindsBetweenContentAndLook)
+{
+    TextRecord record = text();
+    record.datasourceKey = QStringLiteral("_DATE");
+    build(record);
+    EXPECT_EQ(fake.calls.lines().mid(7, 4),
+              lines({"item1 importTextProperties \"Net  weight\" 12 yes no yes 2",
+                     "datasources createDatasource \"SystemDatasource\"", "item1 setDatasourceId 1",
+                     "datasources getDatasource 1"}));
+    EXPECT_EQ(fake.calls.lines().value(13), QStringLiteral("item1 setPenWidth 6"));
+}
+
+TEST(ScaledTextNote, NamesTheWordsAndTheFontSize)
+{
+    EXPECT_EQ(scaledTextNote(QStringLiteral("Net  weight"), 6),
+              QStringLiteral("\"Net weight\":\n\tOriginal font size: 6."));
+}
+
+TEST(ScaledTextNote, JoinsWhitespaceAndLeavesTheRest)
+{
+    EXPECT_EQ(scaledTextNote(QStringLiteral("a\n\t b %1 \"c\""), 7),
+              QStringLiteral("\"a b %1 \"c\"\":\n\tOriginal font size: 7."));
+    EXPECT_EQ(scaledTextNote(QString(), 0), QStringLiteral("\"\":\n\tOriginal font size: 0."));
+}
+
+TEST_F(TextBuilder, HostWithoutTextsLeavesItOut)
+{
+    fake.canvas.factory.makesNothingOf = {KestTypes::SimpleText};
+    TextRecord record = text();
+    record.header.width = 144.0;
+    const TextOutcome outcome = build(record);
+    EXPECT_EQ(outcome.result, BuildResult::NoItem);
+    EXPECT_FALSE(outcome.scaled);
+}
+
+} // namespace
