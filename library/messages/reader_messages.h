@@ -26,6 +26,9 @@ inline constexpr Translated SymbolsUnreadable = QT_TRANSLATE_NOOP3(
     "Errors reading symbol items.\nPlease update legacy Tavrel to its latest version and re-save "
     "file.",
     "Content of error message.");
+/// Follows the text in quotation marks, whose white space is simplified. %1 is a size in points.
+inline constexpr Translated TextStretched = QT_TRANSLATE_NOOP3(
+    "QObject", ":\n\tOriginal font size: %1.", "Content of error message.");
 inline constexpr Translated BarcodesUnsupported =
     QT_TRANSLATE_NOOP3("QObject", "Unsupported barcode symbols.", "Content of error message.");
 inline constexpr Translated DatabaseNotConnected =
@@ -44,9 +47,10 @@ inline constexpr char ControlUnknown[] = "Not processing:";
 
 inline constexpr char StylesMissing[] = "Unable to get file styles.";
 inline constexpr char ContentMissing[] = "Unable to get file content.";
-/// A constant word, the document's name in the package, line, column, the parser's message.
+/// The document's name in the package, line, column, the parser's message. Log filters depend on
+/// the constant word before the name.
 inline constexpr char DocumentParsingFailed[] =
-    "Error parsing file: %s / %s at line %lld, column %lld:\n%s";
+    "Error parsing file: fileName / %s at line %lld, column %lld:\n%s";
 inline constexpr char DocumentTypeUnsupported[] = "Unsupported document type.";
 
 } // namespace messages

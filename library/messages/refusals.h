@@ -8,13 +8,11 @@
 /// the category of the log record; it never changes, while the message may be reworded.
 namespace refusals {
 
-/// What all codes begin with.
-inline constexpr char Prefix[] = "labelport.";
-
 // The file is not imported.
 inline constexpr char ImportRunning[] = "labelport.import-running";
 inline constexpr char NotAFile[] = "labelport.not-a-file";
 inline constexpr char FileTooLarge[] = "labelport.file-too-large";
+inline constexpr char TooManyControls[] = "labelport.too-many-controls";
 inline constexpr char PackageUnreadable[] = "labelport.package-unreadable";
 
 // An object is left out, or is on the label without its content.
@@ -31,13 +29,6 @@ inline constexpr char TooManyNotes[] = "labelport.too-many-notes";
 inline constexpr char PackageMemberUnreadable[] = "labelport.package-member-unreadable";
 inline constexpr char PackagePictureUnreadable[] = "labelport.package-picture-unreadable";
 inline constexpr char PackageDrawingUnreadable[] = "labelport.package-drawing-unreadable";
-
-// Formats of printf, for messages whose arguments are shown to users.
-
-/// File name, reason.
-inline constexpr char FileTooLargeMessage[] = "Error reading file: %s is too large: %s";
-/// Reason.
-inline constexpr char LeftOutMessage[] = "Left out of the label: %s";
 
 /// The category for a log record with this code; null for none. CuteLogger drops records of a
 /// category that is not linked to the global logger, so this links it.

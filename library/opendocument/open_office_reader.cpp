@@ -41,8 +41,7 @@ double pointsPerPixelOf(const QFont& font)
 
 QString parseFailureMessage(const QString& member, const xmlbounds::ParseFailure& failure)
 {
-    // The word stands where the file's name should: old log filters depend on it.
-    return QString::asprintf(messages::DocumentParsingFailed, "fileName",
+    return QString::asprintf(messages::DocumentParsingFailed,
                              member.toLocal8Bit().constData(), failure.line, failure.column,
                              failure.message.toLocal8Bit().constData());
 }

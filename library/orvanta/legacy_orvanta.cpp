@@ -68,7 +68,7 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     orvanta::FileContent content = orvanta::readWithinLimits(file);
     if (!content.refusal.isEmpty()) {
         debugLog(__LINE__, Q_FUNC_INFO, refusals::FileTooLarge)
-            .write(refusals::FileTooLargeMessage, printableName.constData(),
+            .write("Error reading file: %s is too large: %s", printableName.constData(),
                    content.refusal.toLocal8Bit().constData());
         return false;
     }
@@ -90,8 +90,8 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     const QString refusal =
         orvanta::exceededLimit(root.firstChildElement(QStringLiteral("controls")));
     if (!refusal.isEmpty()) {
-        debugLog(__LINE__, Q_FUNC_INFO, refusals::FileTooLarge)
-            .write(refusals::FileTooLargeMessage, printableName.constData(),
+        debugLog(__LINE__, Q_FUNC_INFO, refusals::TooManyControls)
+            .write("Error reading file: %s is too large: %s", printableName.constData(),
                    refusal.toLocal8Bit().constData());
         return false;
     }
@@ -228,5 +228,5 @@ void LegacyOrvanta::readShape(const QDomElement& element)
 void LegacyOrvanta::logRefusal(const char* code, const QString& reason) const
 {
     debugLog(__LINE__, Q_FUNC_INFO, code)
-        .write(refusals::LeftOutMessage, reason.toLocal8Bit().constData());
+        .write("Left out of the label: %s", reason.toLocal8Bit().constData());
 }

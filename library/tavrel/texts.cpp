@@ -3,6 +3,7 @@
 #include "host/items/simple_text_item.h"
 #include "host/services/basic_conversions.h"
 #include "host/services/white_space.h"
+#include "messages/reader_messages.h"
 #include "tavrel/datasource_binder.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/label_stream.h"
@@ -267,7 +268,7 @@ QString scaledTextNote(const QString& content, int fontSize)
     QString words = content;
     words.replace(WhiteSpace::getWhiteSpacesSplitRegex(), u" "_s);
     return u'"' + words + u'"' +
-           QObject::tr(":\n\tOriginal font size: %1.", "Content of error message.").arg(fontSize);
+           QObject::tr(messages::TextStretched.text, messages::TextStretched.comment).arg(fontSize);
 }
 
 } // namespace tavrel

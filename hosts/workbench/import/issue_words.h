@@ -10,18 +10,19 @@ namespace workbench {
 
 class Canvas;
 
-/// Something that an import could not carry over, in words for a person.
+/// Something that an import could not carry over.
 struct ImportIssue
 {
-    QString text;
-    int item = -1;   ///< index of the item on the canvas that it is about, -1 for none
-    int repeats = 1; ///< how often it was met
+    QString text;      ///< for the user
+    int item = -1;     ///< index of the item on the canvas that it is about, -1 for none
+    int repeats = 1;   ///< how often it occurred
+    QString code = {}; ///< as in KnownMessage; empty for an issue without one
     bool operator==(const ImportIssue&) const = default;
 };
 
-/// The issues of a successful import: what the message boxes say, what the log tells of
-/// parts that were left out, and what the items cannot show. The same text about no item
-/// stands once, with the number of its repeats.
+/// The issues of a successful import: from the message boxes, from the log records about parts
+/// that were left out, and from items that cannot be drawn. Equal issues are listed once, with
+/// the number of repeats.
 [[nodiscard]] QList<ImportIssue>
 collectIssues(const Canvas& canvas, const QList<LogRecord>& records, const QStringList& messages);
 

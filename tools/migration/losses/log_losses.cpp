@@ -1,13 +1,12 @@
 #include "migration/losses/log_losses.h"
 
+#include "messages/reader_messages.h"
+#include "messages/refusals.h"
+#include "workbench/import/known_messages.h"
 #include "workbench/import/label_import.h"
-
-#include <QCoreApplication>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <limits>
-#include <vector>
 
 namespace migration {
 
@@ -16,61 +15,59 @@ namespace {
 using namespace Qt::StringLiterals;
 
 enum class About : quint8 {
-    Nothing, ///< counted apart from the log, or for developers
-    Missing, ///< an object of a class that is not on the label
+    Nothing, ///< counted by other means, or for developers
+    Object,  ///< one object that is missing on the label
+    Part,    ///< a part of a package; logged once, however many objects show it
     Label,   ///< the label as a whole
 };
 
-// What readers write into the log, by how it begins or what it holds.
+// What readers log, by code.
 struct Row
 {
-    const char* pattern;
+    const char* code;
     About about;
     LossKind kind = LossKind::Other;
-    ObjectClass objectClass = ObjectClass::Shape;
+    ObjectClass objectClass = ObjectClass::Picture;
 };
 
-constexpr auto kPicture = LossKind::PictureUnreadable;
-constexpr auto kLimit = LossKind::OverLimit;
+constexpr auto Unreadable = LossKind::PictureUnreadable;
 // As many as are missing.
-constexpr qint64 kAll = std::numeric_limits<qint32>::max();
+constexpr qint64 All = std::numeric_limits<qint32>::max();
 
-constexpr Row kRows[] = {
-    {"^Not processing:", About::Nothing},
-    {"^Unsupported document type", About::Nothing},
-    {"^Invalid type: ", About::Label, LossKind::RestUnread},
-    {"^A picture is damaged or too large", About::Missing, kPicture, ObjectClass::Picture},
-    {"^The picture .* cannot be decoded", About::Missing, kPicture, ObjectClass::Picture},
-    {"^The package has no member", About::Missing, kPicture, ObjectClass::Picture},
-    {"^The package's member .* is (too large|damaged)", About::Missing, kPicture,
-     ObjectClass::Picture},
-    {"^The drawing .* cannot be converted", About::Missing, LossKind::DrawingUnreadable,
-     ObjectClass::Picture},
-    {"^Left out of the label: .*the host made no item", About::Nothing},
-    {"^Left out of the label: (a|the) pictures? ", About::Missing, kPicture, ObjectClass::Picture},
-    {"^Left out of the label: ", About::Label, kLimit},
-    {"^The host (made|gives) no item", About::Nothing},
-    {"^A text of .* is left out", About::Missing, kLimit, ObjectClass::Text},
-    {"^Too many items", About::Label, kLimit},
-    {"^Too many notes", About::Nothing},
+constexpr Row LogRows[] = {
+    {messages::ControlUnknown, About::Nothing},
+    {messages::DocumentTypeUnsupported, About::Nothing},
+    {messages::RecordTypeUnknown, About::Label, LossKind::RestUnread},
+    {refusals::ItemRefused, About::Nothing},
+    {refusals::DatasourceRefused, About::Label, LossKind::DatasourceUnbound},
+    {refusals::PictureUnreadable, About::Object, Unreadable},
+    {refusals::PictureTooLarge, About::Object, Unreadable},
+    {refusals::PictureFormat, About::Object, Unreadable},
+    {refusals::TextTooLong, About::Object, LossKind::OverLimit, ObjectClass::Text},
+    {refusals::TooManyItems, About::Label, LossKind::OverLimit},
+    {refusals::TooManyNotes, About::Nothing},
+    {refusals::PackageUnreadable, About::Nothing},
+    {refusals::PackageMemberUnreadable, About::Part, Unreadable},
+    {refusals::PackagePictureUnreadable, About::Part, Unreadable},
+    {refusals::PackageDrawingUnreadable, About::Part, LossKind::DrawingUnreadable},
 };
 
-const Row* rowOf(const QString& message)
+// What the message box of the binary reader says.
+constexpr Row BoxRows[] = {
+    {messages::SymbolsUnreadable.text, About::Part, LossKind::SymbolUnreadable,
+     ObjectClass::Symbol},
+    {messages::BarcodesUnsupported.text, About::Part, LossKind::BarcodeUnsupported,
+     ObjectClass::Barcode},
+    {messages::DatabaseNotConnected.text, About::Label, LossKind::DatabaseUnlinked},
+};
+
+template <std::size_t Count>
+const Row* rowOf(const Row (&rows)[Count], const QString& code)
 {
-    static const auto patterns = [] {
-        std::vector<QRegularExpression> made;
-        for (const Row& row : kRows) {
-            made.emplace_back(QString::fromLatin1(row.pattern),
-                              QRegularExpression::DotMatchesEverythingOption);
-        }
-        return made;
-    }();
-    for (std::size_t index = 0; index < patterns.size(); ++index) {
-        if (patterns[index].match(message).hasMatch()) {
-            return &kRows[index];
-        }
-    }
-    return nullptr;
+    const auto* row = std::find_if(std::begin(rows), std::end(rows), [&code](const Row& candidate) {
+        return code == QLatin1String(candidate.code);
+    });
+    return row != std::end(rows) ? row : nullptr;
 }
 
 void addMissing(LogLosses& losses, ObjectClass objectClass, LossKind kind, qint64 atMost)
@@ -92,48 +89,39 @@ void addLabelTally(LogLosses& losses, LossKind kind, const QString& detail)
     tally.addDetail(detail);
 }
 
-void takeRecord(const workbench::LogRecord& record, LogLosses& losses)
+void addRow(const Row& row, const QString& detail, LogLosses& losses)
 {
-    const Row* row = rowOf(record.message);
-    if (row == nullptr) {
-        if (record.isError) {
-            addLabelTally(losses, LossKind::Other, record.message);
-        }
+    switch (row.about) {
+    case About::Nothing:
         return;
-    }
-    if (row->about == About::Missing) {
-        // A part of a package is tried once and told of once, however many objects show it.
-        const bool isShared = record.source == "open_office_reader.cpp"_L1 &&
-                              row->objectClass == ObjectClass::Picture;
-        addMissing(losses, row->objectClass, row->kind, isShared ? kAll : 1);
-    } else if (row->about == About::Label) {
-        addLabelTally(losses, row->kind, record.message);
+    case About::Object:
+        return addMissing(losses, row.objectClass, row.kind, 1);
+    case About::Part:
+        return addMissing(losses, row.objectClass, row.kind, All);
+    case About::Label:
+        return addLabelTally(losses, row.kind, detail);
     }
 }
 
-// The first line of a sentence of the binary reader's message box, in the program's language.
-QString boxLine(const char* sentence)
+void addRecord(const workbench::LogRecord& record, LogLosses& losses)
 {
-    const QString text =
-        QCoreApplication::translate("QObject", sentence, "Content of error message.");
-    return text.section(u'\n', 0, 0);
+    if (const Row* row = rowOf(LogRows, workbench::recognize(record).code)) {
+        addRow(*row, record.message, losses);
+    } else if (record.isError) {
+        addLabelTally(losses, LossKind::Other, record.message);
+    }
 }
 
-void takeIssue(const workbench::ImportIssue& issue, LogLosses& losses)
+void addIssue(const workbench::ImportIssue& issue, LogLosses& losses)
 {
-    if (issue.text.startsWith(u'"')) {
+    if (issue.code == QLatin1String(messages::TextStretched.text)) {
         if (issue.item >= 0) {
             losses.items.append({issue.item, LossKind::TextStretched});
         } else {
             losses.tallies[LossKind::TextStretched].count += issue.repeats;
         }
-    } else if (issue.text == boxLine("Errors reading symbol items.\nPlease update legacy Tavrel to "
-                                     "its latest version and re-save file.")) {
-        addMissing(losses, ObjectClass::Symbol, LossKind::SymbolUnreadable, kAll);
-    } else if (issue.text == boxLine("Unsupported barcode symbols.")) {
-        addMissing(losses, ObjectClass::Barcode, LossKind::BarcodeUnsupported, kAll);
-    } else if (issue.text == boxLine("Datasource not connected.")) {
-        addLabelTally(losses, LossKind::DatabaseUnlinked, {});
+    } else if (const Row* row = rowOf(BoxRows, issue.code)) {
+        addRow(*row, {}, losses);
     }
 }
 
@@ -143,14 +131,14 @@ LogLosses lossesOfLog(const workbench::ImportResult& result)
 {
     LogLosses losses;
     for (const workbench::LogRecord& record : result.log) {
-        takeRecord(record, losses);
+        addRecord(record, losses);
     }
     for (const workbench::ImportIssue& issue : result.issues) {
-        takeIssue(issue, losses);
+        addIssue(issue, losses);
     }
     for (const QString& source : result.cutSources) {
-        // Arithmetic writes much, and never of a loss.
-        if (source != "fraction.cpp"_L1) {
+        // Arithmetic logs many records, none of them about a loss.
+        if (source != "fraction"_L1) {
             addLabelTally(losses, LossKind::LogCut, source);
         }
     }
