@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/facets/i_font_item.h"
 #include "limits/xml/element_tree.h"
 
 #include <QString>
@@ -21,7 +22,7 @@ struct Margins
 /// A paragraph or text style, complete: what a style does not say it has from its parent.
 struct OOTextStyle
 {
-    QString fontFamily = QStringLiteral("_Nare Vol");
+    QString fontFamily = FallbackFontFamily;
     double fontSize = 12.0; ///< points
     bool bold = false;
     bool italic = false;

@@ -7,12 +7,12 @@
 
 namespace orvanta {
 
-/// The host's code for a barcode that names no symbology, or one that is not known.
+/// The host's code for a barcode without a symbology, or with an unknown one: Code 39.
 inline constexpr int DefaultBarcodeCode = 8;
-/// The source's code that the first entry of BarcodeCodes stands for.
+/// The source's code of the first entry of BarcodeCodes.
 inline constexpr int FirstBarcodeCode = 2;
 
-/// The host's symbology codes, indexed by the source's code less FirstBarcodeCode.
+/// The host's symbology codes, indexed by the source's code minus FirstBarcodeCode.
 // clang-format off
 inline constexpr std::array<quint8, 111> BarcodeCodes = {
     3, 3, 3, 2, 3, 3, 8, 8, // 2 to 9

@@ -1,14 +1,35 @@
 #include "orvanta/control_properties.h"
 
-#include "orvanta/bounds.h"
-#include "orvanta/element_values.h"
-#include "orvanta/font.h"
+#include "host/facets/i_font_item.h"
+#include "orvanta/page_geometry.h"
 
 #include <utility>
 
 namespace orvanta {
 
 namespace {
+
+void takeFamily(const QDomElement& child, FamilyCheck isKnownFamily, Font& font)
+{
+    const QString family = child.text();
+    font.family = isKnownFamily(family) ? family : QString(FallbackFontFamily);
+}
+
+void takeSize(const QDomElement& child, FamilyCheck /*unused*/, Font& font)
+{
+    font.size = readDouble(child);
+}
+
+void takeStyle(const QDomElement& child, FamilyCheck /*unused*/, Font& font)
+{
+    font.style = readInteger(child);
+}
+
+constexpr Field<Font> FontFields[] = {
+    {"family"_L1, takeFamily},
+    {"size"_L1, takeSize},
+    {"style"_L1, takeStyle},
+};
 
 void takeText(const QDomElement& child, FamilyCheck /*unused*/, ControlProperties& properties)
 {
@@ -50,30 +71,22 @@ void takeFont(const QDomElement& child, FamilyCheck isKnownFamily, ControlProper
 }
 
 constexpr Field<ControlProperties> PrintableControlFields[] = {
-    {QLatin1String("text"), takeText},
-    {QLatin1String("transparency"), takeTransparency},
-    {QLatin1String("negative"), takeNegative},
-    {QLatin1String("fore_color"), takeForeColor},
-    {QLatin1String("back_color"), takeBackColor},
-    {QLatin1String("bounds"), takeBounds},
-    {QLatin1String("font"), takeFont},
+    {"text"_L1, takeText},
+    {"transparency"_L1, takeTransparency},
+    {"negative"_L1, takeNegative},
+    {"fore_color"_L1, takeForeColor},
+    {"back_color"_L1, takeBackColor},
+    {"bounds"_L1, takeBounds},
+    {"font"_L1, takeFont},
 };
 
 } // namespace
 
-bool ControlProperties::isBold() const
+Font readFont(const QDomElement& font, FamilyCheck isKnownFamily)
 {
-    return (fontStyle & BoldBit) != 0;
-}
-
-bool ControlProperties::isItalic() const
-{
-    return (fontStyle & ItalicBit) != 0;
-}
-
-bool ControlProperties::isUnderlined() const
-{
-    return (fontStyle & UnderlineBit) != 0;
+    Font result;
+    readFields(font, FontFields, isKnownFamily, result);
+    return result;
 }
 
 ControlProperties readControlProperties(const QDomElement& printableControl,
@@ -97,8 +110,7 @@ DrawingColors drawingColors(const ControlProperties& properties)
     if (properties.negative) {
         std::swap(result.pen, result.fill);
     }
-    // Only after the exchange: a negative object that is transparent keeps its outline
-    // in the back colour.
+    // After the exchange: a negative transparent object has its outline in the back color.
     if (properties.transparent) {
         result.fill = colors::Transparent;
     }

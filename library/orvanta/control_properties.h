@@ -1,49 +1,83 @@
 #pragma once
 
-#include "orvanta/colors.h"
-#include "orvanta/fields.h"
+#include "orvanta/elements.h"
 
+#include <QColor>
 #include <QRectF>
 
+/// The common properties of all objects of an XML label.
 namespace orvanta {
 
-/// What every object of an XML label has, whatever its kind.
+using namespace Qt::Literals::StringLiterals;
+
+/// Colors of the XML format, created once per process.
+namespace colors {
+
+inline const QColor Black(Qt::black);
+inline const QColor White(Qt::white);
+inline const QColor Transparent(Qt::transparent);
+
+/// The name for "no color". Unused by this reader, as is AlmostWhite.
+inline constexpr QLatin1String TransparentName("transparent");
+/// White less one step of blue, to distinguish it from a white that the user chose.
+inline const QColor AlmostWhite = QColor::fromString("#FFFFFE"_L1);
+
+} // namespace colors
+
+/// Bits of a font's style. Higher bits have no meaning.
+enum FontStyleBit : qint32 {
+    BoldBit = 0x1,
+    ItalicBit = 0x2,
+    UnderlineBit = 0x4,
+};
+
+/// A font as an XML label stores it.
+struct Font
+{
+    QString family = u"Arial"_s;
+    double size = 24.0; ///< points
+    qint32 style = 0;   ///< FontStyleBit values combined
+};
+
+/// Reads a `font` element; a missing value has its default. A family that the host cannot show
+/// becomes FallbackFontFamily.
+[[nodiscard]] Font readFont(const QDomElement& font, FamilyCheck isKnownFamily);
+
 struct ControlProperties
 {
     QString text;
     bool transparent = true; ///< the inside is open
-    bool negative = false;   ///< the two colours change places
+    bool negative = false;   ///< the two colors are exchanged
     QColor foreColor = colors::Black;
     QColor backColor = colors::White;
     QRectF bounds; ///< points, from the label's top left corner
-    QString fontFamily = QStringLiteral("Arial");
+    QString fontFamily = u"Arial"_s;
     double fontSize = 24.0; ///< points
-    qint32 fontStyle = 0;   ///< FontStyleBit values together
+    qint32 fontStyle = 0;   ///< FontStyleBit values combined
     double rotation = 0.0;  ///< degrees, clockwise
     bool flipHorizontal = false;
     bool flipVertical = false;
 
-    [[nodiscard]] bool isBold() const;
-    [[nodiscard]] bool isItalic() const;
-    [[nodiscard]] bool isUnderlined() const;
+    [[nodiscard]] bool isBold() const { return (fontStyle & BoldBit) != 0; }
+    [[nodiscard]] bool isItalic() const { return (fontStyle & ItalicBit) != 0; }
+    [[nodiscard]] bool isUnderlined() const { return (fontStyle & UnderlineBit) != 0; }
 };
 
-/// The two colours that an object is drawn with.
+/// Reads a `printable_control` element; a missing value has its default.
+[[nodiscard]] ControlProperties readControlProperties(const QDomElement& printableControl,
+                                                      FamilyCheck isKnownFamily);
+
+/// The opaque color of 0xRRGGBB. Bits 24 to 31 are ignored: the source stores an alpha value there
+/// that it never used.
+[[nodiscard]] QColor colorFromInteger(qint32 value);
+
+/// The two colors that an object is drawn with.
 struct DrawingColors
 {
     QColor pen;
     QColor fill;
 };
 
-/// Reads a `printable_control` element; what it leaves out has its default.
-[[nodiscard]] ControlProperties readControlProperties(const QDomElement& printableControl,
-                                                      FamilyCheck isKnownFamily);
-
-/// The opaque colour of 0xRRGGBB. Bits 24 to 31 are ignored: the source stores an alpha
-/// there that it never used.
-[[nodiscard]] QColor colorFromInteger(qint32 value);
-
-/// Which colour the outline and which the inside is drawn with.
 [[nodiscard]] DrawingColors drawingColors(const ControlProperties& properties);
 
 } // namespace orvanta

@@ -3,6 +3,8 @@
 #include <QDomElement>
 #include <QFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace orvanta {
 
 namespace {
@@ -16,14 +18,14 @@ FileContent readWithinLimits(QFile& file)
     FileContent content;
     while (file.size() <= MaximumFileSize && content.bytes.size() <= MaximumFileSize) {
         const QByteArray chunk = file.read(ChunkSize);
-        // A chunk of carriage returns alone is empty in text mode and not the end.
+        // In text mode, a chunk of only carriage returns is empty, but not the end.
         if (chunk.isEmpty() && (file.atEnd() || file.error() != QFileDevice::NoError)) {
             return content;
         }
         content.bytes += chunk;
     }
     content.bytes.clear();
-    content.refusal = QStringLiteral("it has more than %1 bytes").arg(MaximumFileSize);
+    content.refusal = u"it has more than %1 bytes"_s.arg(MaximumFileSize);
     return content;
 }
 
@@ -33,7 +35,7 @@ QString exceededLimit(const QDomElement& controls)
     for (QDomElement control = controls.firstChildElement(); !control.isNull();
          control = control.nextSiblingElement()) {
         if (++count > MaximumControls) {
-            return QStringLiteral("it has more than %1 objects").arg(MaximumControls);
+            return u"it has more than %1 objects"_s.arg(MaximumControls);
         }
     }
     return {};

@@ -1,32 +1,30 @@
 #include "orvanta/legacy_orvanta.h"
 
+#include "host/datasource_controller.h"
 #include "host/items/barcode_item.h"
 #include "host/items/text_item.h"
 #include "host/services/common_lists.h"
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
+#include "host/tal_datasource.h"
+#include "limits/file/special_file.h"
 #include "limits/xml/bounded_document.h"
 #include "messages/reader_messages.h"
 #include "messages/refusals.h"
-#include "orvanta/barcode_control.h"
-#include "orvanta/date_time_control.h"
+#include "orvanta/control_kinds.h"
 #include "orvanta/document_limits.h"
-#include "orvanta/label_page.h"
-#include "orvanta/list_control.h"
-#include "orvanta/numeric_control.h"
+#include "orvanta/page_geometry.h"
 #include "orvanta/picture_content.h"
-#include "orvanta/picture_control.h"
 #include "orvanta/raster_picture.h"
-#include "orvanta/shape_control.h"
-#include "orvanta/text_control.h"
 
 #include <Logger.h>
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
+
+using namespace Qt::Literals::StringLiterals;
 
 using orvanta::ControlProperties;
 
@@ -36,13 +34,6 @@ CuteMessageLogger debugLog(int line, const char* function, const char* code = nu
 {
     return CuteMessageLogger(loggerInstance(), Logger::Debug, "legacy_orvanta.cpp", line, function,
                              refusals::category(code));
-}
-
-// Opening a pipe could wait for ever, and a device may have no end.
-bool isEndless(const QString& fileName)
-{
-    const QFileInfo info(fileName);
-    return info.exists() && !info.isFile() && !info.isDir();
 }
 
 } // namespace
@@ -61,7 +52,7 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
 {
     const QByteArray printableName = fileName.toLocal8Bit();
     QFile file(fileName);
-    if (isEndless(fileName) || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (filelimits::isSpecialFile(fileName) || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         debugLog(__LINE__, Q_FUNC_INFO).write(messages::OpeningFailed, printableName.constData());
         return false;
     }
@@ -83,12 +74,11 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     file.close();
     content.bytes.clear();
     const QDomElement root = document.documentElement();
-    if (root.tagName() != QLatin1String("qmtx")) {
+    if (root.tagName() != "qmtx"_L1) {
         debugLog(__LINE__, Q_FUNC_INFO).write(messages::RootElementUnknown);
         return false;
     }
-    const QString refusal =
-        orvanta::exceededLimit(root.firstChildElement(QStringLiteral("controls")));
+    const QString refusal = orvanta::exceededLimit(root.firstChildElement(u"controls"_s));
     if (!refusal.isEmpty()) {
         debugLog(__LINE__, Q_FUNC_INFO, refusals::TooManyControls)
             .write("Error reading file: %s is too large: %s", printableName.constData(),
@@ -104,11 +94,11 @@ void LegacyOrvanta::readLabel(const QDomElement& root)
     m_pixelsLeft = orvanta::MaximumLabelPixels;
     const orvanta::LabelPage page = orvanta::readLabelPage(root);
     m_canvasModel->importCanvasParameters(page.width, page.height, false, page.higherThanWide);
-    const QDomElement image = root.firstChildElement(QStringLiteral("pre_printed_image"));
+    const QDomElement image = root.firstChildElement(u"pre_printed_image"_s);
     if (!image.isNull()) {
         readPrePrintedImage(image, page);
     }
-    const QDomElement controls = root.firstChildElement(QStringLiteral("controls"));
+    const QDomElement controls = root.firstChildElement(u"controls"_s);
     if (!controls.isNull()) {
         readControls(controls);
     }
@@ -138,15 +128,15 @@ void LegacyOrvanta::readControls(QDomElement controls)
         void (LegacyOrvanta::*read)(const QDomElement&);
     };
     static constexpr ControlReader Readers[] = {
-        {QLatin1String("barcode"), &LegacyOrvanta::readBarcode},
-        {QLatin1String("combo_box"), &LegacyOrvanta::readList},
-        {QLatin1String("date_time_picker"), &LegacyOrvanta::readDateTime},
-        {QLatin1String("numeric_up_down"), &LegacyOrvanta::readNumeric},
-        {QLatin1String("picture_box"), &LegacyOrvanta::readPicture},
-        {QLatin1String("swap_text_box"), &LegacyOrvanta::readText},
-        {QLatin1String("transparent_label"), &LegacyOrvanta::readText},
-        {QLatin1String("transparent_shape"), &LegacyOrvanta::readShape},
-        {QLatin1String("transparent_polygon"), &LegacyOrvanta::readShape},
+        {"barcode"_L1, &LegacyOrvanta::readBarcode},
+        {"combo_box"_L1, &LegacyOrvanta::readList},
+        {"date_time_picker"_L1, &LegacyOrvanta::readDateTime},
+        {"numeric_up_down"_L1, &LegacyOrvanta::readNumeric},
+        {"picture_box"_L1, &LegacyOrvanta::readPicture},
+        {"swap_text_box"_L1, &LegacyOrvanta::readText},
+        {"transparent_label"_L1, &LegacyOrvanta::readText},
+        {"transparent_shape"_L1, &LegacyOrvanta::readShape},
+        {"transparent_polygon"_L1, &LegacyOrvanta::readShape},
     };
     for (QDomElement control = controls.firstChildElement(); !control.isNull();
          control = control.nextSiblingElement()) {
@@ -180,20 +170,20 @@ void LegacyOrvanta::readDateTime(const QDomElement& element)
 {
     const auto control = orvanta::readDateTimeControl(element, CommonLists::isValidFamily);
     TextItem* item = buildText(true, control.properties);
-    // An object that names no format has no entries; value() then gives empty texts.
-    bindDatasource(item, QStringLiteral("SystemDatasource"),
-                   {{QStringLiteral("DateFormat"), control.formats.value(0)},
-                    {QStringLiteral("TimeFormat"), control.formats.value(1)}});
+    // Without a `format` element the list is empty, and value() gives empty texts.
+    bindDatasource(
+        item, u"SystemDatasource"_s,
+        {{u"DateFormat"_s, control.formats.value(0)}, {u"TimeFormat"_s, control.formats.value(1)}});
 }
 
 void LegacyOrvanta::readNumeric(const QDomElement& element)
 {
     const auto control = orvanta::readNumericControl(element, CommonLists::isValidFamily);
     TextItem* item = buildText(true, control.properties);
-    bindDatasource(item, QStringLiteral("SequenceDatasource"),
-                   {{QStringLiteral("Start"), control.minimum},
-                    {QStringLiteral("End"), control.maximum},
-                    {QStringLiteral("Step"), control.increment}});
+    bindDatasource(item, u"SequenceDatasource"_s,
+                   {{u"Start"_s, control.minimum},
+                    {u"End"_s, control.maximum},
+                    {u"Step"_s, control.increment}});
     if (item != nullptr) {
         m_canvasModel->setReadOnlyStateOnItemsInList(control.readOnly, {item});
     }
@@ -220,9 +210,37 @@ void LegacyOrvanta::readText(const QDomElement& element)
 void LegacyOrvanta::readShape(const QDomElement& element)
 {
     const auto control = orvanta::readShapeControl(element, CommonLists::isValidFamily);
-    // The host's pen has 16 bits: a stored width beyond them comes round again.
+    // The host's pen width has 16 bits: larger widths wrap modulo 65536.
     buildShape(control.shapeIndex, static_cast<quint16>(control.lineWidth), control.sides,
                control.properties);
+}
+
+void LegacyOrvanta::bindDatasource(IDatasourceItem* item, const QString& kind,
+                                   const QList<DatasourceProperty>& properties)
+{
+    if (item == nullptr) {
+        return;
+    }
+    const int id = m_datasourceController->createDatasource(kind);
+    TalDatasource* datasource = m_datasourceController->getDatasource(id);
+    if (datasource == nullptr) {
+        logRefusal(refusals::DatasourceRefused,
+                   u"a data source of the kind %1, which the host did not make"_s.arg(kind));
+        return;
+    }
+    for (const DatasourceProperty& property : properties) {
+        datasource->setDatasourceProperty(property.name, property.value);
+    }
+    item->setDatasourceId(id);
+    item->setDatasourceFields(datasource->fields());
+    datasource->setSelectedFields(datasource->fields());
+}
+
+void LegacyOrvanta::bindTextList(IDatasourceItem* item, const QStringList& texts)
+{
+    if (!texts.isEmpty()) {
+        bindDatasource(item, u"TextListDatasource"_s, {{u"TextList"_s, texts}});
+    }
 }
 
 void LegacyOrvanta::logRefusal(const char* code, const QString& reason) const

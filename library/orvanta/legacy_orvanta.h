@@ -26,12 +26,12 @@ struct LabelPage;
 
 /// Reads labels of the XML format (*.qmtx) into the host's canvas.
 ///
-/// One reader serves any number of imports in turn. Nothing of a file stays in it. It shows
-/// nothing to the user; what goes wrong is logged at the debug level.
+/// A reader can import any number of files, one after the other, and keeps nothing of a file. It
+/// shows nothing to the user; problems are logged at debug level.
 class LegacyOrvanta
 {
 public:
-    /// Neither the canvas nor the controller becomes the reader's; both must outlive it.
+    /// Both belong to the host and must outlive the reader.
     LegacyOrvanta(TalCanvasModel* canvasModel, DatasourceController* datasourceController);
     ~LegacyOrvanta();
     LegacyOrvanta(const LegacyOrvanta&) = delete;
@@ -39,12 +39,12 @@ public:
 
     /// Reads a file into the canvas.
     ///
-    /// @return true when the file is a label of the format, even one without objects. After
-    ///         false nothing has been asked of the canvas.
+    /// @return true if the file is a label of the format, even without objects. If false, the
+    ///         canvas is unchanged.
     [[nodiscard]] bool importLabelFromFile(const QString& fileName);
 
-    /// Builds the objects under a `controls` element, in document order. A kind that is not
-    /// known is logged and left out.
+    /// Builds the objects in a `controls` element, in document order. An unknown kind is logged
+    /// and skipped.
     void readControls(QDomElement controls);
 
 private:
@@ -66,8 +66,8 @@ private:
     void readText(const QDomElement& element);
     void readShape(const QDomElement& element);
 
-    // Each makes an item, hands it to the canvas and sets it up; null when there is none.
-    // What comes back belongs to the canvas.
+    // Each creates an item, gives it to the canvas, which then owns it, and sets it up. Null if
+    // there is no item.
     TextItem* buildText(bool scalable, const orvanta::ControlProperties& properties);
     FillableItem* buildShape(int shapeIndex, quint16 lineWidth, int sides,
                              const orvanta::ControlProperties& properties);
@@ -78,7 +78,7 @@ private:
     QGraphicsItem* buildPixmap(const orvanta::ControlProperties& properties,
                                const QByteArray& bytes);
 
-    // Do nothing without an item: one that was left out has nothing to bind.
+    // Without an item, that is, if it was left out, these do nothing.
     void bindDatasource(IDatasourceItem* item, const QString& kind,
                         const QList<DatasourceProperty>& properties);
     void bindTextList(IDatasourceItem* item, const QStringList& texts);
@@ -88,6 +88,6 @@ private:
     TalCanvasModel* m_canvasModel;
     ClassFactory* m_classFactory;
     DatasourceController* m_datasourceController;
-    std::unique_ptr<SymbolCreator> m_symbolCreator; ///< made for the first SVG picture
-    qint64 m_pixelsLeft; ///< pixels that the pictures of the present file may still have
+    std::unique_ptr<SymbolCreator> m_symbolCreator; ///< created for the first SVG picture
+    qint64 m_pixelsLeft; ///< that the pictures of the current file may still have
 };

@@ -1,17 +1,19 @@
 #include "orvanta/legacy_orvanta.h"
 
+#include "building/item_creation.h"
 #include "host/items/barcode_item.h"
 #include "host/items/fillable_item.h"
 #include "host/items/text_item.h"
 #include "host/tal_canvas_model.h"
 #include "messages/refusals.h"
+#include "numeric/saturation.h"
 #include "orvanta/control_properties.h"
-#include "orvanta/created_item.h"
-#include "orvanta/font.h"
 #include "orvanta/shape_choice.h"
 #include "orvanta/size_and_turn.h"
 
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 using orvanta::ControlProperties;
 
@@ -31,16 +33,14 @@ TextItem* LegacyOrvanta::buildText(bool scalable, const ControlProperties& prope
 {
     const auto type = scalable ? KestTypes::SimpleText : KestTypes::RichText;
     static_assert(KestTypes::RichText - 1 == KestTypes::SimpleText);
-    auto created = orvanta::createdItem<TextItem>(m_classFactory, type);
+    auto created = building::createItem<TextItem>(m_classFactory, type);
     if (!created) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a text, for which the host made no item"));
+        logRefusal(refusals::ItemRefused, u"a text, for which the host made no item"_s);
         return nullptr;
     }
-    TextItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    TextItem* item = building::handOver(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a text, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused, u"a text, which the host deleted when it got it"_s);
         return nullptr;
     }
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
@@ -51,9 +51,9 @@ TextItem* LegacyOrvanta::buildText(bool scalable, const ControlProperties& prope
     item->setText(properties.text);
     item->setPos(properties.bounds.topLeft());
     applyFont(*item, properties);
-    // A scalable text fills its box: the stored size means nothing to it.
+    // A scalable text fills its box; its stored size has no effect.
     if (!scalable) {
-        item->setFontPointSize(orvanta::wholePoints(properties.fontSize));
+        item->setFontPointSize(saturatedToInt(properties.fontSize));
     }
     return item;
 }
@@ -62,17 +62,15 @@ FillableItem* LegacyOrvanta::buildShape(int shapeIndex, quint16 lineWidth, int s
                                         const ControlProperties& properties)
 {
     const orvanta::ShapeChoice choice = orvanta::chooseShape(sides, shapeIndex);
-    auto created = orvanta::createdItem<FillableItem>(m_classFactory, choice.type);
+    auto created = building::createItem<FillableItem>(m_classFactory, choice.type);
     auto* graphics = dynamic_cast<QGraphicsItem*>(created.get());
     if (graphics == nullptr) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a shape, for which the host made no item"));
+        logRefusal(refusals::ItemRefused, u"a shape, for which the host made no item"_s);
         return nullptr;
     }
-    FillableItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    FillableItem* item = building::handOver(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a shape, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused, u"a shape, which the host deleted when it got it"_s);
         return nullptr;
     }
     ControlProperties turned = properties;
@@ -88,16 +86,14 @@ FillableItem* LegacyOrvanta::buildShape(int shapeIndex, quint16 lineWidth, int s
 
 BarcodeItem* LegacyOrvanta::buildBarcode(int hostType, const ControlProperties& properties)
 {
-    auto created = orvanta::createdItem<BarcodeItem>(m_classFactory, KestTypes::Barcode);
+    auto created = building::createItem<BarcodeItem>(m_classFactory, KestTypes::Barcode);
     if (!created) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a barcode, for which the host made no item"));
+        logRefusal(refusals::ItemRefused, u"a barcode, for which the host made no item"_s);
         return nullptr;
     }
-    BarcodeItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    BarcodeItem* item = building::handOver(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a barcode, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused, u"a barcode, which the host deleted when it got it"_s);
         return nullptr;
     }
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
@@ -106,7 +102,7 @@ BarcodeItem* LegacyOrvanta::buildBarcode(int hostType, const ControlProperties& 
     orvanta::applySizeAndTurn(*item, properties);
     item->setPos(properties.bounds.topLeft());
     applyFont(*item, properties);
-    item->setFontPointSize(orvanta::wholePoints(properties.fontSize));
+    item->setFontPointSize(saturatedToInt(properties.fontSize));
     item->setBarcodeType(hostType);
     return item;
 }

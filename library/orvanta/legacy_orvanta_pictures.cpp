@@ -1,12 +1,12 @@
 #include "orvanta/legacy_orvanta.h"
 
+#include "building/item_creation.h"
 #include "host/items/pix_map_item.h"
 #include "host/items/symbol_item.h"
 #include "host/services/symbol_creator.h"
 #include "host/tal_canvas_model.h"
 #include "messages/refusals.h"
 #include "orvanta/control_properties.h"
-#include "orvanta/created_item.h"
 #include "orvanta/picture_content.h"
 #include "orvanta/raster_picture.h"
 #include "orvanta/size_and_turn.h"
@@ -14,6 +14,8 @@
 #include <QPixmap>
 
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 using orvanta::ControlProperties;
 
@@ -46,10 +48,9 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
         return nullptr;
     }
     const QByteArray symbol = m_symbolCreator->getSymbolData();
-    auto created = orvanta::createdItem<SymbolItem>(m_classFactory, KestTypes::Symbol);
+    auto created = building::createItem<SymbolItem>(m_classFactory, KestTypes::Symbol);
     if (!created) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a symbol, for which the host made no item"));
+        logRefusal(refusals::ItemRefused, u"a symbol, for which the host made no item"_s);
         return nullptr;
     }
     created->loadItemFromData(symbol);
@@ -59,10 +60,9 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
     const orvanta::DrawingColors colors = orvanta::drawingColors(properties);
     created->setForegroundColor(colors.pen);
     created->setFillColor(colors.fill);
-    SymbolItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    SymbolItem* item = building::handOver(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a symbol, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused, u"a symbol, which the host deleted when it got it"_s);
         return nullptr;
     }
     orvanta::applySizeAndTurn(*item, properties);
@@ -73,10 +73,9 @@ QGraphicsItem* LegacyOrvanta::buildSymbol(const ControlProperties& properties,
 QGraphicsItem* LegacyOrvanta::buildPixmap(const ControlProperties& properties,
                                           const QByteArray& bytes)
 {
-    auto created = orvanta::createdItem<PixMapItem>(m_classFactory, KestTypes::Picture);
+    auto created = building::createItem<PixMapItem>(m_classFactory, KestTypes::Picture);
     if (!created) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a picture, for which the host made no item"));
+        logRefusal(refusals::ItemRefused, u"a picture, for which the host made no item"_s);
         return nullptr;
     }
     const orvanta::RasterPicture picture = orvanta::decodeRasterPicture(bytes, m_pixelsLeft);
@@ -84,12 +83,11 @@ QGraphicsItem* LegacyOrvanta::buildPixmap(const ControlProperties& properties,
         logRefusal(picture.refusalCode, picture.refusal);
     }
     m_pixelsLeft -= orvanta::pixelCount(picture.image.size());
-    // A picture that could not be loaded keeps its place on the label.
+    // If the picture could not be decoded, an empty item keeps its place.
     created->pixmapImportActions(QPixmap::fromImage(picture.image));
-    PixMapItem* item = orvanta::importedItem(*m_canvasModel, std::move(created));
+    PixMapItem* item = building::handOver(*m_canvasModel, std::move(created));
     if (item == nullptr) {
-        logRefusal(refusals::ItemRefused,
-                   QStringLiteral("a picture, which the host deleted when it got it"));
+        logRefusal(refusals::ItemRefused, u"a picture, which the host deleted when it got it"_s);
         return nullptr;
     }
     orvanta::applySizeAndTurn(*item, properties);

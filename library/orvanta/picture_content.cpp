@@ -2,6 +2,8 @@
 
 #include <QDomElement>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace orvanta {
 
 namespace {
@@ -9,14 +11,14 @@ namespace {
 constexpr char ByteOrderMark[] = "\xEF\xBB\xBF";
 constexpr qsizetype ByteOrderMarkLength = 3;
 
-// In the order of their removal: a prefix in front of a name, then one behind a colon.
-constexpr const char* SerialiserLeftovers[] = {"d1p1:", ":d1p1", "viewBox=\"0, 0, 0, 0\""};
+// In the order of removal: a prefix before a name, then one after a colon.
+constexpr const char* SerializerLeftovers[] = {"d1p1:", ":d1p1", "viewBox=\"0, 0, 0, 0\""};
 
 } // namespace
 
 QByteArray readPictureContent(const QDomElement& parent)
 {
-    const QString text = parent.firstChildElement(QStringLiteral("content")).text();
+    const QString text = parent.firstChildElement(u"content"_s).text();
     return QByteArray::fromBase64(text.toUtf8());
 }
 
@@ -35,7 +37,7 @@ bool isSvg(const QByteArray& bytes)
 
 QByteArray cleanedSvg(QByteArray svg)
 {
-    for (const char* leftover : SerialiserLeftovers) {
+    for (const char* leftover : SerializerLeftovers) {
         svg.replace(leftover, "");
     }
     return svg;

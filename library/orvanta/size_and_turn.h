@@ -5,7 +5,7 @@
 
 namespace orvanta {
 
-/// Sets what every item takes from its object in the same order: size, flips, rotation.
+/// Sets the size, flips and rotation of an item, in the order that is the same for all kinds.
 inline void applySizeAndTurn(Item& item, const ControlProperties& properties)
 {
     item.setItemSize(properties.bounds.size());

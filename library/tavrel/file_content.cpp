@@ -29,7 +29,7 @@ QByteArray readUpTo(QFile& file, qint64 limit)
 
 FileContent loadFile(const QString& path)
 {
-    if (limits::isSpecialFile(path)) {
+    if (filelimits::isSpecialFile(path)) {
         return {FileContent::Status::SpecialFile, {}};
     }
     QFile file(path);

@@ -15,7 +15,7 @@ CONSTANT = re.compile(r"constexpr\s+[\w:]+\s+(k?[A-Z]\w*)\s*=\s*([^;]+);")
 BOUND_NAME = re.compile(r"^k?(Maximum|Most|Largest|Longest)[A-Z]")
 BOUND_HEADERS = ("limits.h", "document_limits.h", "svg_limits.h", "bounds.h")
 # What stands beside the bounds in their headers.
-NO_BOUNDS = {("library/orvanta/bounds.h", "PointsPerPixel"), ("library/orvanta/bounds.h", "CanvasMargin"),
+NO_BOUNDS = {("library/orvanta/page_geometry.h", "PointsPerPixel"), ("library/orvanta/bounds.h", "CanvasMargin"),
              ("hosts/workbench/items/bounds.h", "kCoordinateNotGiven"),
              ("hosts/workbench/items/bounds.h", "kDefaultFontSize"),
              ("hosts/workbench/rendering/frugal_image.cpp", "kMostColors")}

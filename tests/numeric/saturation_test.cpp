@@ -15,7 +15,10 @@ TEST(Saturation, TruncatesTowardZero)
 {
     EXPECT_EQ(saturatedToInt(1.99), 1);
     EXPECT_EQ(saturatedToInt(-1.99), -1);
+    EXPECT_EQ(saturatedToInt(0.9), 0);
+    EXPECT_EQ(saturatedToInt(-10.7), -10);
     EXPECT_EQ(saturatedToInt(2147483646.9), 2147483646);
+    EXPECT_EQ(saturatedToInt(-2147483648.0), Smallest);
 }
 
 TEST(Saturation, GivesTheNearestIntOutsideTheRange)

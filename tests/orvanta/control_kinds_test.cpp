@@ -1,10 +1,4 @@
-#include "orvanta/barcode_control.h"
-#include "orvanta/date_time_control.h"
-#include "orvanta/list_control.h"
-#include "orvanta/numeric_control.h"
-#include "orvanta/picture_control.h"
-#include "orvanta/shape_control.h"
-#include "orvanta/text_control.h"
+#include "orvanta/control_kinds.h"
 #include "tests/orvanta/element_support.h"
 
 #include <gtest/gtest.h>

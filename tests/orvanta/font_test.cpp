@@ -1,11 +1,8 @@
-#include "orvanta/font.h"
+#include "orvanta/control_properties.h"
 
 #include "tests/orvanta/element_support.h"
 
 #include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
 
 using element_support::knowsFamily;
 using element_support::ParsedElement;
@@ -54,31 +51,4 @@ TEST(Font, WhatIsNoNumberIsZero)
         ParsedElement("<font><size>big</size><style>bold</style></font>").element(), knowsFamily);
     EXPECT_EQ(font.size, 0.0);
     EXPECT_EQ(font.style, 0);
-}
-
-TEST(Font, SizesAreCutToWholePointsAndKeptWithinAnInt)
-{
-    constexpr int Most = std::numeric_limits<int>::max();
-    constexpr int Least = std::numeric_limits<int>::min();
-    const struct
-    {
-        double size;
-        int points;
-    } rows[] = {
-        {10.0, 10},
-        {10.7, 10},
-        {0.9, 0},
-        {-10.7, -10},
-        {2147483647.0, Most},
-        {2147483648.0, Most},
-        {1e300, Most},
-        {std::numeric_limits<double>::infinity(), Most},
-        {-2147483648.0, Least},
-        {-1e300, Least},
-        {std::nan(""), 0},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.size);
-        EXPECT_EQ(orvanta::wholePoints(row.size), row.points);
-    }
 }

@@ -1,7 +1,6 @@
 #include "orvanta/barcode_codes.h"
-#include "orvanta/date_time_control.h"
+#include "orvanta/control_kinds.h"
 #include "orvanta/shape_choice.h"
-#include "orvanta/text_control.h"
 #include "tests/orvanta/printing.h"
 
 #include <QMap>

@@ -1,5 +1,7 @@
 #include "workbench/items/font_families.h"
 
+#include "host/facets/i_font_item.h"
+
 #include <QFont>
 #include <QFontDatabase>
 #include <QLatin1String>
@@ -24,13 +26,6 @@ constexpr std::array kStandIns{
     StandIn{QLatin1String("Courier New"), QLatin1String("Liberation Mono")},
     StandIn{QLatin1String("Courier"), QLatin1String("Liberation Mono")},
 };
-
-// The family that importers name when a label's own is not known here.
-const QString& unknownFamily()
-{
-    static const QString family = QStringLiteral("_Nare Vol");
-    return family;
-}
 
 } // namespace
 
@@ -68,7 +63,7 @@ void installStandIns()
         for (const StandIn& row : kStandIns) {
             QFont::insertSubstitution(row.family, row.standIn);
         }
-        QFont::insertSubstitution(unknownFamily(), fallbackFamily());
+        QFont::insertSubstitution(FallbackFontFamily, fallbackFamily());
         return true;
     }();
     Q_UNUSED(installed)

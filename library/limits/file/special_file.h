@@ -3,7 +3,7 @@
 #include <QFileInfo>
 #include <QString>
 
-namespace limits {
+namespace filelimits {
 
 /// Whether a path names a pipe, a socket or a device. Opening one may block forever, and reading
 /// it may never end.
@@ -13,4 +13,4 @@ namespace limits {
     return info.exists() && !info.isFile() && !info.isDir();
 }
 
-} // namespace limits
+} // namespace filelimits

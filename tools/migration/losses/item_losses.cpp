@@ -1,5 +1,6 @@
 #include "migration/losses/item_losses.h"
 
+#include "host/facets/i_font_item.h"
 #include "migration/census/item_class.h"
 #include "migration/census/known_fonts.h"
 #include "migration/kind_names.h"
@@ -21,13 +22,6 @@ using workbench::ItemValues;
 
 // Points by which an item may reach beyond the page before it is worth a word.
 constexpr double kTolerance = 1.0;
-
-// The family that readers name when a label's own is not known here.
-const QString& unknownFamily()
-{
-    static const QString family = QStringLiteral("_Nare Vol");
-    return family;
-}
 
 QStringList familiesOfHtml(const QString& html)
 {
@@ -81,7 +75,7 @@ void lookAtFonts(const ItemValues& values, ItemFacts& item, LabelFacts& facts)
         }
         item.changes.add(LossKind::FontReplaced);
         // The family's own name is told by whoever has read the file.
-        const QString asked = family == unknownFamily()
+        const QString asked = family == FallbackFontFamily
                                   ? QCoreApplication::translate("migration::ItemLosses", "unknown")
                                   : family;
         facts.tallies[LossKind::FontReplaced].addDetail(asked + QStringLiteral(" → ") + seen);

@@ -1,4 +1,4 @@
-#include "orvanta/element_values.h"
+#include "orvanta/elements.h"
 
 #include "tests/orvanta/element_support.h"
 

@@ -1,6 +1,5 @@
-#include "orvanta/bounds.h"
+#include "orvanta/page_geometry.h"
 
-#include "orvanta/label_page.h"
 #include "tests/orvanta/element_support.h"
 
 #include <gtest/gtest.h>

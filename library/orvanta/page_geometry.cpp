@@ -1,14 +1,15 @@
-#include "orvanta/bounds.h"
+#include "orvanta/page_geometry.h"
 
-#include "orvanta/element_values.h"
-#include "orvanta/fields.h"
+#include "orvanta/elements.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace orvanta {
 
 namespace {
 
-// What lies within the margin is pulled to the label's edge. Old labels depend on the
-// other edge staying where it is while this one moves.
+// A position within the margin becomes the label's edge. Old labels depend on the opposite edge
+// staying in place.
 void takeLeft(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectangle)
 {
     const double x = readDouble(child);
@@ -36,10 +37,10 @@ void takeHeight(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectan
 }
 
 constexpr Field<QRectF> BoundsFields[] = {
-    {QLatin1String("x"), takeLeft},
-    {QLatin1String("y"), takeTop},
-    {QLatin1String("w"), takeWidth},
-    {QLatin1String("h"), takeHeight},
+    {"x"_L1, takeLeft},
+    {"y"_L1, takeTop},
+    {"w"_L1, takeWidth},
+    {"h"_L1, takeHeight},
 };
 
 } // namespace
@@ -49,6 +50,17 @@ QRectF readBounds(const QDomElement& bounds)
     QRectF rectangle;
     readFields(bounds, BoundsFields, nullptr, rectangle);
     return rectangle;
+}
+
+LabelPage readLabelPage(const QDomElement& root)
+{
+    const QDomElement bounds =
+        root.firstChildElement(u"printable_control"_s).firstChildElement(u"bounds"_s);
+    if (bounds.isNull()) {
+        return {};
+    }
+    const QRectF rectangle = readBounds(bounds);
+    return {rectangle.width(), rectangle.height(), rectangle.height() > rectangle.width()};
 }
 
 } // namespace orvanta

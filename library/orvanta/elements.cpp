@@ -1,8 +1,8 @@
-#include "orvanta/element_values.h"
+#include "orvanta/elements.h"
 
 #include "numeric/plain_number.h"
 
-#include <QDomElement>
+using namespace Qt::Literals::StringLiterals;
 
 namespace orvanta {
 
@@ -26,7 +26,7 @@ double readDouble(const QDomElement& element)
 
 bool readFlag(const QDomElement& element)
 {
-    return element.text() == QLatin1String("true");
+    return element.text() == "true"_L1;
 }
 
 QStringList readTexts(const QDomElement& element)
