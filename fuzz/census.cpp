@@ -1,6 +1,6 @@
 // What a file holds, counted by the code that shares nothing with the readers.
 
-#include "migration/census/census.h"
+#include "migration/census/counting.h"
 #include "fuzz/harness.h"
 #include "fuzz/legacy_file.h"
 
@@ -28,7 +28,7 @@ void fuzzOneInput(const QByteArray& input)
     const Format format = formatOf(input);
     const migration::Census whole = counted(format, input);
     // A master page may add to what the bound lets through.
-    if (whole.objects.size() > 2 * migration::kMaximumObjects) {
+    if (whole.objects.size() > 2 * migration::MaximumObjects) {
         qFatal("more objects were counted than may be");
     }
     const migration::Census part = counted(format, input.left(input.size() * 2 / 3));

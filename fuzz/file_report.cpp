@@ -3,7 +3,7 @@
 #include "fuzz/harness.h"
 #include "fuzz/legacy_file.h"
 #include "migration/losses/item_losses.h"
-#include "migration/make_report.h"
+#include "migration/file_report_builder.h"
 #include "workbench/import/label_import.h"
 
 #include <QJsonDocument>

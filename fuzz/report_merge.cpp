@@ -2,7 +2,8 @@
 
 #include "fuzz/harness.h"
 #include "fuzz/scratch_folder.h"
-#include "migration/report_writer.h"
+#include "migration/report/report_merger.h"
+#include "migration/report/report_writer.h"
 
 namespace {
 

@@ -109,7 +109,7 @@ NewItem<Wanted> makeItem(ClassFactory* factory, KestTypes::ShapeType type)
     made.item = dynamic_cast<Wanted*>(made.owned.get());
     if (made.item == nullptr) {
         logDebug(
-            "item_builder", __LINE__, Q_FUNC_INFO,
+            __LINE__, Q_FUNC_INFO,
             u"The host gives no item of the class that belongs to type %1; it is left out"_s.arg(
                 int(type)),
             refusals::ItemRefused);
@@ -130,7 +130,7 @@ bool handOver(TalCanvasModel& canvas, std::unique_ptr<Item> item)
     canvas.importItem(item.release());
     const bool isKept = !tells || !alive.isNull();
     if (!isKept) {
-        logDebug("item_builder", __LINE__, Q_FUNC_INFO,
+        logDebug(__LINE__, Q_FUNC_INFO,
                  u"The host deleted an item when it got it; it is left out"_s,
                  refusals::ItemRefused);
     }

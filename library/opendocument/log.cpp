@@ -6,10 +6,9 @@
 
 namespace opendocument {
 
-void logDebug(const char* source, int line, const char* function, const QString& message,
-              const char* code)
+void logDebug(int line, const char* function, const QString& message, const char* code)
 {
-    CuteMessageLogger(loggerInstance(), Logger::Debug, source, line, function,
+    CuteMessageLogger(loggerInstance(), Logger::Debug, "open_office_reader.cpp", line, function,
                       refusals::category(code))
         .write("%s", message.toLocal8Bit().constData());
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "archive/run.h"
-#include "migration/report_writer.h"
+#include "migration/report/report_writer.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #include "cli/file_reports.h"
 
 #include "cli/opened_label.h"
-#include "migration/make_report.h"
+#include "migration/file_report_builder.h"
 
 #include <QFileInfo>
 

@@ -2,7 +2,7 @@
 
 #include "archive/messages.h"
 #include "archive/run.h"
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 
 namespace cli {
 

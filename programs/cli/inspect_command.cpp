@@ -9,7 +9,7 @@
 #include "cli/job_options.h"
 #include "cli/messages.h"
 #include "archive/worker_pool.h"
-#include "migration/inspect.h"
+#include "migration/report/text_report.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

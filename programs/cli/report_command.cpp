@@ -3,7 +3,7 @@
 #include "cli/command_line.h"
 #include "cli/exit_status.h"
 #include "cli/messages.h"
-#include "migration/report_writer.h"
+#include "migration/report/report_merger.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

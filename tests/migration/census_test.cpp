@@ -1,6 +1,6 @@
 // The counts of binary and XML labels and of saved ones.
 
-#include "migration/census/census.h"
+#include "migration/census/counting.h"
 #include "tests/migration/documents.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
 
@@ -15,9 +15,9 @@ using namespace migration;
 
 namespace {
 
-std::array<qint64, kObjectClasses> countsOf(const Census& census)
+std::array<qint64, ObjectClasses> countsOf(const Census& census)
 {
-    std::array<qint64, kObjectClasses> counts{};
+    std::array<qint64, ObjectClasses> counts{};
     for (const CountedObject& object : census.objects) {
         ++counts[static_cast<std::size_t>(object.objectClass)];
     }
@@ -65,7 +65,7 @@ TEST(TavrelCensus, CountsEveryVersion)
         const Census census = countTavrel(canvasOfAll(version));
         EXPECT_TRUE(census.unknown.isEmpty()) << census.unknown.toStdString();
         // shapes, lines, texts, barcodes, pictures, symbols
-        EXPECT_EQ(countsOf(census), (std::array<qint64, kObjectClasses>{1, 1, 2, 2, 1, 1}));
+        EXPECT_EQ(countsOf(census), (std::array<qint64, ObjectClasses>{1, 1, 2, 2, 1, 1}));
         EXPECT_TRUE(census.objects.constFirst().wantsSource);
     }
 }
@@ -134,7 +134,7 @@ TEST(SavedLabelCensus, CountsTheItems)
 {
     const Census census =
         countSavedLabel(R"({"label": {"items": [{"type": 65567}, {"type": 65557}]}})");
-    EXPECT_EQ(countsOf(census), (std::array<qint64, kObjectClasses>{0, 1, 1, 0, 0, 0}));
+    EXPECT_EQ(countsOf(census), (std::array<qint64, ObjectClasses>{0, 1, 1, 0, 0, 0}));
     EXPECT_FALSE(countSavedLabel("{}").unknown.isEmpty());
     EXPECT_FALSE(countSavedLabel("no JSON").unknown.isEmpty());
 }

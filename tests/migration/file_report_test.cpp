@@ -1,6 +1,6 @@
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 #include "tests/migration/random_reports.h"
 
 #include <gtest/gtest.h>

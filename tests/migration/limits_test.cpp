@@ -1,10 +1,10 @@
 // Every limit of what is counted and reported at its last good value and at the first bad one.
 
 #include "limits/json/tree_size.h"
-#include "migration/census/census.h"
-#include "migration/census/known_fonts.h"
+#include "migration/census/counting.h"
+#include "migration/model/known_fonts.h"
 #include "migration/census/zip_member.h"
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 #include "migration/report/report_reader.h"
 #include "tests/migration/documents.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
@@ -102,18 +102,18 @@ qint64 bytesReadOfTree(qint64 tree)
 TEST(CensusLimits, MeasureTheFile)
 {
     QString unknown;
-    EXPECT_EQ(bytesToCount(HollowFile(kMaximumFile).name(), unknown).size(), kMaximumFile);
+    EXPECT_EQ(bytesToCount(HollowFile(MaximumFile).name(), unknown).size(), MaximumFile);
     EXPECT_EQ(unknown, QString());
-    EXPECT_TRUE(bytesToCount(HollowFile(kMaximumFile + 1).name(), unknown).isEmpty());
+    EXPECT_TRUE(bytesToCount(HollowFile(MaximumFile + 1).name(), unknown).isEmpty());
     EXPECT_EQ(unknown, tooLargeToCount());
 }
 
 TEST(CensusLimits, CountTheObjectsOfBinaryLabels)
 {
-    const QByteArray most = canvasStart() + smallestObject().repeated(kMaximumObjects);
+    const QByteArray most = canvasStart() + smallestObject().repeated(MaximumObjects);
     const Census whole = countTavrel(most);
     EXPECT_TRUE(isCounted(whole)) << whole.unknown.toStdString();
-    EXPECT_EQ(whole.objects.size(), kMaximumObjects);
+    EXPECT_EQ(whole.objects.size(), MaximumObjects);
     EXPECT_EQ(countTavrel(most + smallestObject()).unknown, tooLargeToCount());
 }
 
@@ -122,20 +122,20 @@ TEST(CensusLimits, CountTheObjectsOfXmlLabels)
     const auto label = [](qsizetype controls) {
         return controlsOf(QByteArray("<a/>").repeated(controls));
     };
-    const Census whole = countOrvanta(label(kMaximumObjects));
+    const Census whole = countOrvanta(label(MaximumObjects));
     EXPECT_TRUE(isCounted(whole)) << whole.unknown.toStdString();
-    EXPECT_EQ(whole.objects.size(), kMaximumObjects);
-    EXPECT_EQ(countOrvanta(label(kMaximumObjects + 1)).unknown, tooLargeToCount());
+    EXPECT_EQ(whole.objects.size(), MaximumObjects);
+    EXPECT_EQ(countOrvanta(label(MaximumObjects + 1)).unknown, tooLargeToCount());
 }
 
 TEST(CensusLimits, MeasureTheMembersOfPackages)
 {
     const QByteArray small = documentOf(4);
-    EXPECT_TRUE(isCounted(countOpenDocument(package(documentOf(kMaximumStyles), small))));
-    EXPECT_FALSE(isCounted(countOpenDocument(package(documentOf(kMaximumStyles + 1), small))));
-    const QByteArray most = package(small, documentOf(kMaximumContent));
-    EXPECT_TRUE(zipMember(most, "content.xml", kMaximumContent)) << "only unpacked: it takes long";
-    EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(kMaximumContent + 1)))));
+    EXPECT_TRUE(isCounted(countOpenDocument(package(documentOf(MaximumStyles), small))));
+    EXPECT_FALSE(isCounted(countOpenDocument(package(documentOf(MaximumStyles + 1), small))));
+    const QByteArray most = package(small, documentOf(MaximumContent));
+    EXPECT_TRUE(zipMember(most, "content.xml", MaximumContent)) << "only unpacked: it takes long";
+    EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(MaximumContent + 1)))));
 }
 
 // The format's own: the end of a package stands before a comment of so many bytes.
@@ -151,9 +151,9 @@ TEST(CensusLimits, FindThePackageBeforeItsComment)
 TEST(CensusLimits, MeasureTheTreeOfSavedLabels)
 {
     const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(1'840'000);
-    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", kMaximumSavedTree);
-    const QByteArray most = lists + "\"" + QByteArray((kMaximumSavedTree - taken) / 2, 'x');
-    EXPECT_FALSE(jsonbounds::isLargerThan(most + "\"", kMaximumSavedTree));
+    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", MaximumSavedTree);
+    const QByteArray most = lists + "\"" + QByteArray((MaximumSavedTree - taken) / 2, 'x');
+    EXPECT_FALSE(jsonbounds::isLargerThan(most + "\"", MaximumSavedTree));
     EXPECT_EQ(countSavedLabel(most + "x\"").unknown, tooLargeToCount());
 }
 
@@ -169,7 +169,7 @@ TEST(CensusLimits, KeepTheFirstDetails)
 
 TEST(CensusLimits, ShortenDetails)
 {
-    const QString longest(kLongestDetail, u'x');
+    const QString longest(LongestDetail, u'x');
     Tally tally;
     tally.addDetail(longest);
     tally.addDetail(longest + u'y');

@@ -1,4 +1,4 @@
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 
 #include <gtest/gtest.h>
 

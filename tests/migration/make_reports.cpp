@@ -2,9 +2,9 @@
 //   make_reports FOLDER FILE...
 // The reports hold the files, and one made-up entry for every other end that a file can come to.
 
-#include "migration/inspect.h"
-#include "migration/make_report.h"
-#include "migration/report_writer.h"
+#include "migration/report/text_report.h"
+#include "migration/file_report_builder.h"
+#include "migration/report/report_writer.h"
 #include "workbench/document/label_file.h"
 #include "workbench/import/label_import.h"
 

@@ -1,6 +1,6 @@
 // The counts of OpenDocument packages.
 
-#include "migration/census/census.h"
+#include "migration/census/counting.h"
 #include "migration/census/zip_member.h"
 #include "tests/migration/documents.h"
 
@@ -137,7 +137,7 @@ TEST(OpenDocumentCensus, StylesInheritWhatLabelsDoNotShow)
     const auto colourOf = [&parts](const QByteArray& style) {
         return changes(countOpenDocument(
                            textOf("<text:p text:style-name=\"" + style + "\">A</text:p>", parts)),
-                       LossKind::TextColour);
+                       LossKind::TextColor);
     };
     EXPECT_TRUE(colourOf("Red"));
     EXPECT_TRUE(colourOf("Child"));

@@ -1,6 +1,7 @@
-#include "migration/report_writer.h"
+#include "migration/report/report_merger.h"
+#include "migration/report/report_writer.h"
 
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 #include "tests/migration/documents.h"
 #include "tests/migration/random_reports.h"
 

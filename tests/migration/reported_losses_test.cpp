@@ -1,7 +1,7 @@
 // One small document for every kind of loss and change, through the importer and the
 // workbench to the report.
 
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 #include "tests/migration/documents.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
 
@@ -251,7 +251,7 @@ const QList<Sample>& samples()
          qmtx(kPlainLabel + shapeControl("<x>580</x><y>210</y><w>90</w><h>50</h>"))},
         {LossKind::SizeLimited,
          odg(QByteArray(kPlainRect).replace("svg:width=\"1in\"", "svg:width=\"1000000000in\""))},
-        {LossKind::MillimetresEnlarged,
+        {LossKind::MillimetersEnlarged,
          odg("<draw:rect svg:x=\"1mm\" svg:y=\"1mm\" svg:width=\"9mm\" svg:height=\"9mm\"/>",
              {.pageLayout = "fo:page-width=\"50mm\" fo:page-height=\"30mm\""})},
         {LossKind::MixedUnits,
@@ -274,7 +274,7 @@ const QList<Sample>& samples()
                           "<draw:rect draw:transform=\"skewX (0.3) translate (1in 1in)\""))},
         {LossKind::FontReplaced, qmtx(fontControl("No Such Font"))},
         {LossKind::TextStretched, stretchedText()},
-        {LossKind::TextColour,
+        {LossKind::TextColor,
          odt(kStyledText, {.automaticStyles = styled("text", "fo:color=\"#ff0000\"")})},
         {LossKind::TextSpacing, odg(rectWith("<text:p>One<text:line-break/>Two</text:p>"))},
         {LossKind::TextFormat,

@@ -1,7 +1,7 @@
 // What if a reader passes an object over and does not tell? Each item of labels that hold
 // every kind of object is taken off the label in turn.
 
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 #include "tests/migration/documents.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
 

@@ -59,7 +59,7 @@ TEST_P(FractionParsing, ReadsRatioOrDecimal)
     }
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_EQ(log.records()[0].level, Logger::Debug);
-    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction"));
+    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction.cpp"));
     EXPECT_EQ(log.records()[0].function, QLatin1String("Fraction::Fraction(const QString&)"));
     EXPECT_EQ(log.records()[0].message,
               QStringLiteral("string \"%1\" invalid").arg(QString::fromUtf8(GetParam().text)));
@@ -205,7 +205,7 @@ TEST_P(FractionProduct, IsExactWhileItCanBe)
     }
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_EQ(log.records()[0].level, Logger::Debug);
-    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction"));
+    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction.cpp"));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("Fraction Fraction::operator*(Fraction) const"));
     EXPECT_EQ(log.records()[0].message,
@@ -254,7 +254,7 @@ TEST(FractionProduct, LogsTheOverflowAndFallsBackToTheDecimal)
                                            QStringLiteral("newFraction = 1.84467e+19")}));
     for (const CapturedLog::Record& record : log.records()) {
         EXPECT_EQ(record.level, Logger::Debug);
-        EXPECT_EQ(record.source, QLatin1String("fraction"));
+        EXPECT_EQ(record.source, QLatin1String("fraction.cpp"));
         EXPECT_EQ(record.function, QLatin1String("Fraction Fraction::operator*(Fraction) const"));
     }
 }

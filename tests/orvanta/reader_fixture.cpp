@@ -56,7 +56,7 @@ QString ReaderFixture::logText() const
     QStringList messages;
     for (const CapturedLog::Record& record : log.records()) {
         EXPECT_EQ(record.level, Logger::Debug);
-        EXPECT_EQ(record.source, QStringLiteral("legacy_orvanta"));
+        EXPECT_EQ(record.source, QStringLiteral("legacy_orvanta.cpp"));
         messages.append(record.message);
     }
     return messages.join(QLatin1Char('\n'));

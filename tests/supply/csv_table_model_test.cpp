@@ -142,7 +142,7 @@ TEST_F(CsvTableModelTest, RefusesLinesItDoesNotHave)
     }
     EXPECT_EQ(log.records().size(), 6);
     EXPECT_EQ(log.records()[0].level, Logger::Error);
-    EXPECT_EQ(log.records()[0].source, QLatin1String("csv_table_model"));
+    EXPECT_EQ(log.records()[0].source, QLatin1String("csv_table_model.cpp"));
     EXPECT_EQ(log.records()[0].function, QLatin1String("bool CsvTableModel::parseRow(int)"));
     EXPECT_EQ(log.messages()[0], QStringLiteral("Invalid row number (-1)"));
     EXPECT_EQ(log.messages()[2], QStringLiteral("Invalid row number (2)"));

@@ -17,7 +17,7 @@ struct Row
 };
 
 #define WORDS(text) QT_TRANSLATE_NOOP("migration::KindNames", text)
-constexpr std::array kRows{
+constexpr std::array Rows{
     Row{KestTypes::Picture, "picture", WORDS("picture")},
     Row{KestTypes::Symbol, "symbol", WORDS("symbol")},
     Row{KestTypes::SimpleText, "text", WORDS("text")},
@@ -41,18 +41,18 @@ constexpr std::array kRows{
 
 QString kindName(KestTypes::ShapeType type)
 {
-    const auto* found = std::find_if(kRows.begin(), kRows.end(),
-                                     [type](const Row& row) { return row.type == type; });
-    return found != kRows.end() ? QString::fromLatin1(found->name) : QStringLiteral("item");
+    const auto* found =
+        std::find_if(Rows.begin(), Rows.end(), [type](const Row& row) { return row.type == type; });
+    return found != Rows.end() ? QString::fromLatin1(found->name) : QStringLiteral("item");
 }
 
 QString kindWords(const QString& name)
 {
-    const auto* found = std::find_if(kRows.begin(), kRows.end(), [&name](const Row& row) {
+    const auto* found = std::find_if(Rows.begin(), Rows.end(), [&name](const Row& row) {
         return name == QLatin1String(row.name);
     });
-    return found != kRows.end() ? QCoreApplication::translate("migration::KindNames", found->words)
-                                : name;
+    return found != Rows.end() ? QCoreApplication::translate("migration::KindNames", found->words)
+                               : name;
 }
 
 } // namespace migration

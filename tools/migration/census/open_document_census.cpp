@@ -1,9 +1,10 @@
 // The objects of an OpenDocument package: those of its body, and those of its styles' master
 // page, which lies behind the page.
 
-#include "migration/census/census.h"
+#include "migration/census/counting.h"
 #include "migration/census/open_document_names.h"
 #include "migration/census/open_document_styles.h"
+#include "migration/census/open_document_styles_reader.h"
 #include "migration/census/open_document_walker.h"
 #include "migration/census/xml_gate.h"
 #include "migration/census/zip_member.h"
@@ -15,7 +16,6 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <optional>
 
 namespace migration {
 
@@ -23,30 +23,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr std::array kUnits{"in"_L1, "cm"_L1, "mm"_L1, "pc"_L1};
-
-struct PageLayout
-{
-    QString name;
-    QString width;
-    QString height;
-    bool hasMargins = false;
-};
-
-struct MasterPage
-{
-    QString name;
-    QString layout;
-    Census census;
-};
-
-/// What styles.xml says.
-struct Styles
-{
-    StyleBook book;
-    QList<PageLayout> layouts;
-    QList<MasterPage> masterPages;
-};
+constexpr std::array KnownUnits{"in"_L1, "cm"_L1, "mm"_L1, "pc"_L1};
 
 // Names in attributes, turned as those of elements are.
 QXmlStreamAttributes renamed(const QXmlStreamAttributes& attributes, const NameTable& names)
@@ -73,7 +50,7 @@ QString read(const QByteArray& xml, const Census& census, const Listener& listen
     NameTable names;
     QXmlStreamReader reader(xml);
     reader.setNamespaceProcessing(false);
-    while (!reader.atEnd() && census.objects.size() <= kMaximumObjects) {
+    while (!reader.atEnd() && census.objects.size() <= MaximumObjects) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             names.learn(reader.attributes());
@@ -95,104 +72,6 @@ QString read(const QByteArray& xml, const Census& census, const Listener& listen
         }
     }
     return reader.hasError() ? notWellFormed(reader.errorString()) : QString();
-}
-
-bool hasMargins(const QXmlStreamAttributes& attributes)
-{
-    const QString margins = attributes.value("fo:margin"_L1).toString() +
-                            attributes.value("fo:margin-top"_L1).toString() +
-                            attributes.value("fo:margin-left"_L1).toString();
-    return std::any_of(margins.begin(), margins.end(),
-                       [](QChar c) { return c >= u'1' && c <= u'9'; });
-}
-
-bool isHeaderOrFooter(const QString& name)
-{
-    return name.startsWith("style:header"_L1) || name.startsWith("style:footer"_L1);
-}
-
-/// Reads the styles document: styles, page layouts, and what lies on its master pages.
-class StylesReader
-{
-public:
-    explicit StylesReader(Styles& styles)
-        : m_styles(styles)
-    {}
-
-    void open(const QString& name, const QXmlStreamAttributes& attributes);
-    void text(QStringView characters);
-    void close();
-
-private:
-    void openOutside(const QString& name, const QXmlStreamAttributes& attributes);
-    void openOnMasterPage(const QString& name, const QXmlStreamAttributes& attributes);
-
-    Styles& m_styles;
-    int m_depth = 0;
-    int m_masterDepth = 0; // 0 outside master pages
-    int m_walkDepth = 0;   // 0 where nothing is counted
-    int m_skipDepth = 0;   // 0 where nothing is passed over
-    std::optional<OpenDocumentWalker> m_walker;
-};
-
-void StylesReader::open(const QString& name, const QXmlStreamAttributes& attributes)
-{
-    ++m_depth;
-    if (m_masterDepth == 0) {
-        openOutside(name, attributes);
-    } else if (m_skipDepth == 0) {
-        openOnMasterPage(name, attributes);
-    }
-}
-
-void StylesReader::openOutside(const QString& name, const QXmlStreamAttributes& attributes)
-{
-    m_styles.book.take(name, attributes);
-    if (name == "style:page-layout"_L1) {
-        m_styles.layouts.append({attributes.value("style:name"_L1).toString(), {}, {}, false});
-    } else if (name == "style:page-layout-properties"_L1 && !m_styles.layouts.isEmpty()) {
-        m_styles.layouts.last().width = attributes.value("fo:page-width"_L1).toString();
-        m_styles.layouts.last().height = attributes.value("fo:page-height"_L1).toString();
-        m_styles.layouts.last().hasMargins = hasMargins(attributes);
-    } else if (name == "style:master-page"_L1) {
-        m_masterDepth = m_depth;
-        m_styles.masterPages.append({attributes.value("style:name"_L1).toString(),
-                                     attributes.value("style:page-layout-name"_L1).toString(),
-                                     {}});
-    }
-}
-
-void StylesReader::openOnMasterPage(const QString& name, const QXmlStreamAttributes& attributes)
-{
-    if (attributes.value("presentation:placeholder"_L1) == "true"_L1) {
-        m_skipDepth = m_depth; // not printed
-        return;
-    }
-    if (m_walkDepth == 0) {
-        m_walkDepth = m_depth;
-        m_walker.emplace(m_styles.masterPages.last().census, m_styles.book, QString());
-        m_walker->startLost(isHeaderOrFooter(name) ? LossKind::HeaderOrFooter
-                                                   : LossKind::MasterPageObject);
-    }
-    m_walker->open(name, attributes);
-}
-
-void StylesReader::text(QStringView characters)
-{
-    if (m_walkDepth != 0 && m_skipDepth == 0) {
-        m_walker->text(characters);
-    }
-}
-
-void StylesReader::close()
-{
-    if (m_walkDepth != 0 && m_skipDepth == 0) {
-        m_walker->close();
-    }
-    m_skipDepth = m_depth == m_skipDepth ? 0 : m_skipDepth;
-    m_walkDepth = m_depth == m_walkDepth ? 0 : m_walkDepth;
-    m_masterDepth = m_depth == m_masterDepth ? 0 : m_masterDepth;
-    --m_depth;
 }
 
 QString readStyles(const QByteArray& xml, Styles& styles)
@@ -268,8 +147,8 @@ void notePageSize(const Styles& styles, const MasterPage* used, Census& census)
     }
     const QString unit = first.width.right(2);
     if (unit == "mm"_L1) {
-        census.note(LossKind::MillimetresEnlarged);
-    } else if (std::find(kUnits.begin(), kUnits.end(), unit) == kUnits.end()) {
+        census.note(LossKind::MillimetersEnlarged);
+    } else if (std::find(KnownUnits.begin(), KnownUnits.end(), unit) == KnownUnits.end()) {
         census.note(LossKind::UnitUnknown, 1, unit);
     }
     for (const PageLayout& layout : styles.layouts) {
@@ -300,8 +179,8 @@ QString missing(const char* name)
 Census countOpenDocument(const QByteArray& file)
 {
     Census census;
-    const auto stylesXml = zipMember(file, "styles.xml", kMaximumStyles);
-    const auto contentXml = zipMember(file, "content.xml", kMaximumContent);
+    const auto stylesXml = zipMember(file, "styles.xml", MaximumStyles);
+    const auto contentXml = zipMember(file, "content.xml", MaximumContent);
     if (!stylesXml || !contentXml) {
         census.unknown = missing(!stylesXml ? "styles.xml" : "content.xml");
         return census;

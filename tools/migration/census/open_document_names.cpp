@@ -15,9 +15,9 @@ struct Namespace
     QLatin1String prefix;
 };
 
-constexpr QLatin1String kCommon("urn:oasis:names:tc:opendocument:xmlns:");
+constexpr QLatin1String CommonChanges("urn:oasis:names:tc:opendocument:xmlns:");
 
-constexpr std::array kNamespaces{
+constexpr std::array Namespaces{
     Namespace{"office:1.0"_L1, "office"_L1},
     Namespace{"style:1.0"_L1, "style"_L1},
     Namespace{"text:1.0"_L1, "text"_L1},
@@ -31,7 +31,7 @@ constexpr std::array kNamespaces{
     Namespace{"xsl-fo-compatible:1.0"_L1, "fo"_L1},
 };
 
-constexpr std::array kDrawing{
+constexpr std::array DrawingElements{
     DrawingElement{"draw:rect"_L1, ObjectClass::Shape, {}},
     DrawingElement{"draw:circle"_L1, ObjectClass::Shape, {}},
     DrawingElement{"draw:ellipse"_L1, ObjectClass::Shape, {}},
@@ -56,7 +56,7 @@ struct TextPart
     LossKind lost;
 };
 
-constexpr std::array kTextParts{
+constexpr std::array TextParts{
     TextPart{"table:table"_L1, LossKind::Table},
     TextPart{"text:list"_L1, LossKind::List},
     TextPart{"text:numbered-paragraph"_L1, LossKind::List},
@@ -78,7 +78,7 @@ constexpr std::array kTextParts{
     TextPart{"text:tab"_L1, LossKind::TextSpacing},
 };
 
-constexpr std::array kInvisible{
+constexpr std::array InvisibleElements{
     "text:tracked-changes"_L1,
     "text:sequence-decls"_L1,
     "text:variable-decls"_L1,
@@ -110,10 +110,10 @@ constexpr std::array kInvisible{
     "text:alphabetical-index-auto-mark-file"_L1,
 };
 
-constexpr std::array kEmbedded{"draw:object"_L1, "draw:object-ole"_L1, "draw:plugin"_L1,
-                               "draw:applet"_L1, "draw:floating-frame"_L1};
+constexpr std::array EmbeddedElements{"draw:object"_L1, "draw:object-ole"_L1, "draw:plugin"_L1,
+                                      "draw:applet"_L1, "draw:floating-frame"_L1};
 
-constexpr std::array kKnownShapes{
+constexpr std::array KnownShapes{
     "rectangle"_L1,         "round-rectangle"_L1,
     "ellipse"_L1,           "circle"_L1,
     "right-triangle"_L1,    "isosceles-triangle"_L1,
@@ -135,13 +135,13 @@ void NameTable::learn(const QXmlStreamAttributes& attributes)
 {
     for (const QXmlStreamAttribute& attribute : attributes) {
         const QStringView name = attribute.qualifiedName();
-        if (!name.startsWith("xmlns:"_L1) || !attribute.value().startsWith(kCommon)) {
+        if (!name.startsWith("xmlns:"_L1) || !attribute.value().startsWith(CommonChanges)) {
             continue;
         }
-        const QStringView end = attribute.value().sliced(kCommon.size());
-        const auto* found = std::find_if(kNamespaces.begin(), kNamespaces.end(),
+        const QStringView end = attribute.value().sliced(CommonChanges.size());
+        const auto* found = std::find_if(Namespaces.begin(), Namespaces.end(),
                                          [end](const Namespace& row) { return row.end == end; });
-        if (found != kNamespaces.end()) {
+        if (found != Namespaces.end()) {
             m_prefixes.insert(name.sliced(6).toString(), found->prefix);
         }
     }
@@ -159,16 +159,16 @@ QString NameTable::nameOf(QStringView qualified) const
 const DrawingElement* drawingElement(const QString& name)
 {
     const auto* found =
-        std::find_if(kDrawing.begin(), kDrawing.end(),
+        std::find_if(DrawingElements.begin(), DrawingElements.end(),
                      [&name](const DrawingElement& row) { return row.name == name; });
-    return found != kDrawing.end() ? found : nullptr;
+    return found != DrawingElements.end() ? found : nullptr;
 }
 
 std::optional<LossKind> lostTextPart(const QString& name)
 {
-    const auto* found = std::find_if(kTextParts.begin(), kTextParts.end(),
+    const auto* found = std::find_if(TextParts.begin(), TextParts.end(),
                                      [&name](const TextPart& row) { return row.name == name; });
-    if (found != kTextParts.end()) {
+    if (found != TextParts.end()) {
         return found->lost;
     }
     const bool isField = name.startsWith("text:"_L1) || name.startsWith("presentation:"_L1);
@@ -177,8 +177,9 @@ std::optional<LossKind> lostTextPart(const QString& name)
 
 bool isInvisible(const QString& name)
 {
-    return holds(kInvisible, name) || name.endsWith("-decls"_L1) || name.endsWith("-mark"_L1) ||
-           name.endsWith("-mark-start"_L1) || name.endsWith("-mark-end"_L1);
+    return holds(InvisibleElements, name) || name.endsWith("-decls"_L1) ||
+           name.endsWith("-mark"_L1) || name.endsWith("-mark-start"_L1) ||
+           name.endsWith("-mark-end"_L1);
 }
 
 bool isSpacing(const QString& name)
@@ -198,7 +199,7 @@ bool isAnimation(const QString& name)
 
 bool isEmbedded(const QString& name)
 {
-    return holds(kEmbedded, name);
+    return holds(EmbeddedElements, name);
 }
 
 bool isParagraph(const QString& name)
@@ -208,7 +209,7 @@ bool isParagraph(const QString& name)
 
 bool isKnownShape(const QString& type)
 {
-    return holds(kKnownShapes, type);
+    return holds(KnownShapes, type);
 }
 
 } // namespace migration

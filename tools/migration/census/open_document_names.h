@@ -1,6 +1,6 @@
 #pragma once
 
-#include "migration/census/census.h"
+#include "migration/model/census.h"
 
 #include <QHash>
 #include <QString>

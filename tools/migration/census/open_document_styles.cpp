@@ -30,57 +30,57 @@ struct Property
     Target target = Target::Text;
 };
 
-constexpr auto kFormat = LossKind::TextFormat;
-constexpr auto kEffect = LossKind::EffectDropped;
-constexpr auto kFill = LossKind::FillSimplified;
+constexpr auto FormatLoss = LossKind::TextFormat;
+constexpr auto EffectLoss = LossKind::EffectDropped;
+constexpr auto FillLoss = LossKind::FillSimplified;
 
 // clang-format off
-constexpr std::array kProperties{
-    Property{"text"_L1, "fo:color"_L1, Test::IsNot, "#000000"_L1, LossKind::TextColour},
-    Property{"text"_L1, "style:text-position"_L1, Test::IsNot, "0% 100%"_L1, kFormat},
-    Property{"text"_L1, "style:text-line-through-style"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"text"_L1, "style:text-line-through-type"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"text"_L1, "style:text-outline"_L1, Test::Is, "true"_L1, kFormat},
-    Property{"text"_L1, "fo:text-shadow"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"text"_L1, "fo:font-variant"_L1, Test::IsNot, "normal"_L1, kFormat},
-    Property{"text"_L1, "fo:text-transform"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"text"_L1, "fo:letter-spacing"_L1, Test::IsNonZero, {}, kFormat},
-    Property{"text"_L1, "style:text-scale"_L1, Test::IsNot, "100%"_L1, kFormat},
-    Property{"text"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, kFormat},
-    Property{"text"_L1, "style:font-relief"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"text"_L1, "style:text-rotation-angle"_L1, Test::IsNonZero, {}, kFormat},
-    Property{"paragraph"_L1, "fo:margin-top"_L1, Test::IsNonZero, {}, kFormat},
-    Property{"paragraph"_L1, "fo:margin-bottom"_L1, Test::IsNonZero, {}, kFormat},
+constexpr std::array Properties{
+    Property{"text"_L1, "fo:color"_L1, Test::IsNot, "#000000"_L1, LossKind::TextColor},
+    Property{"text"_L1, "style:text-position"_L1, Test::IsNot, "0% 100%"_L1, FormatLoss},
+    Property{"text"_L1, "style:text-line-through-style"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"text"_L1, "style:text-line-through-type"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"text"_L1, "style:text-outline"_L1, Test::Is, "true"_L1, FormatLoss},
+    Property{"text"_L1, "fo:text-shadow"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"text"_L1, "fo:font-variant"_L1, Test::IsNot, "normal"_L1, FormatLoss},
+    Property{"text"_L1, "fo:text-transform"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"text"_L1, "fo:letter-spacing"_L1, Test::IsNonZero, {}, FormatLoss},
+    Property{"text"_L1, "style:text-scale"_L1, Test::IsNot, "100%"_L1, FormatLoss},
+    Property{"text"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, FormatLoss},
+    Property{"text"_L1, "style:font-relief"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"text"_L1, "style:text-rotation-angle"_L1, Test::IsNonZero, {}, FormatLoss},
+    Property{"paragraph"_L1, "fo:margin-top"_L1, Test::IsNonZero, {}, FormatLoss},
+    Property{"paragraph"_L1, "fo:margin-bottom"_L1, Test::IsNonZero, {}, FormatLoss},
     Property{"paragraph"_L1, "fo:break-before"_L1, Test::IsNot, "auto"_L1, LossKind::PageBreak},
     Property{"paragraph"_L1, "fo:break-after"_L1, Test::IsNot, "auto"_L1, LossKind::PageBreak},
-    Property{"paragraph"_L1, "fo:text-indent"_L1, Test::IsNonZero, {}, kFormat},
-    Property{"paragraph"_L1, "fo:line-height"_L1, Test::IsNot, "100%"_L1, kFormat},
-    Property{"paragraph"_L1, "fo:text-align"_L1, Test::Is, "justify"_L1, kFormat},
-    Property{"paragraph"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, kFormat},
-    Property{"paragraph"_L1, "fo:border"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsNot, "none"_L1, kFormat},
-    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "gradient"_L1, kFill, Target::Shape},
-    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "hatch"_L1, kFill, Target::Shape},
-    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "bitmap"_L1, kFill, Target::Shape},
-    Property{"graphic"_L1, "draw:opacity"_L1, Test::IsOpacity, {}, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:opacity-name"_L1, Test::IsNot, ""_L1, kEffect, Target::Shape},
-    Property{"graphic"_L1, "svg:stroke-opacity"_L1, Test::IsOpacity, {}, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:shadow"_L1, Test::Is, "visible"_L1, kEffect, Target::Shape},
-    Property{"graphic"_L1, "style:shadow"_L1, Test::IsNot, "none"_L1, kEffect, Target::Shape},
-    Property{"graphic"_L1, "fo:clip"_L1, Test::IsClip, {}, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:image-opacity"_L1, Test::IsOpacity, {}, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:color-mode"_L1, Test::IsNot, "standard"_L1, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:color-inversion"_L1, Test::Is, "true"_L1, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:luminance"_L1, Test::IsNonZero, {}, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:contrast"_L1, Test::IsNonZero, {}, kEffect, Target::Shape},
-    Property{"graphic"_L1, "draw:textarea-vertical-align"_L1, Test::Is, "middle"_L1, kFormat, Target::ShapeText},
-    Property{"graphic"_L1, "draw:textarea-vertical-align"_L1, Test::Is, "bottom"_L1, kFormat, Target::ShapeText},
+    Property{"paragraph"_L1, "fo:text-indent"_L1, Test::IsNonZero, {}, FormatLoss},
+    Property{"paragraph"_L1, "fo:line-height"_L1, Test::IsNot, "100%"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:text-align"_L1, Test::Is, "justify"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "gradient"_L1, FillLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "hatch"_L1, FillLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "bitmap"_L1, FillLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:opacity"_L1, Test::IsOpacity, {}, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:opacity-name"_L1, Test::IsNot, ""_L1, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "svg:stroke-opacity"_L1, Test::IsOpacity, {}, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:shadow"_L1, Test::Is, "visible"_L1, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "style:shadow"_L1, Test::IsNot, "none"_L1, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "fo:clip"_L1, Test::IsClip, {}, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:image-opacity"_L1, Test::IsOpacity, {}, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:color-mode"_L1, Test::IsNot, "standard"_L1, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:color-inversion"_L1, Test::Is, "true"_L1, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:luminance"_L1, Test::IsNonZero, {}, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:contrast"_L1, Test::IsNonZero, {}, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:textarea-vertical-align"_L1, Test::Is, "middle"_L1, FormatLoss, Target::ShapeText},
+    Property{"graphic"_L1, "draw:textarea-vertical-align"_L1, Test::Is, "bottom"_L1, FormatLoss, Target::ShapeText},
 };
 // clang-format on
-static_assert(kProperties.size() <= 64);
+static_assert(Properties.size() <= 64);
 
 bool isNonZero(const QString& value)
 {
@@ -106,9 +106,9 @@ bool asksForIt(const Property& property, const QString& value)
 LossSet changesOf(quint64 dropped, Target target)
 {
     LossSet changes;
-    for (std::size_t row = 0; row < kProperties.size(); ++row) {
-        if ((dropped >> row & 1) != 0 && kProperties[row].target == target) {
-            changes.add(kProperties[row].kind);
+    for (std::size_t row = 0; row < Properties.size(); ++row) {
+        if ((dropped >> row & 1) != 0 && Properties[row].target == target) {
+            changes.add(Properties[row].kind);
         }
     }
     return changes;
@@ -163,8 +163,8 @@ StyleBook::Style& StyleBook::current()
 void StyleBook::takeProperties(const QString& group, const QXmlStreamAttributes& attributes)
 {
     Style& style = current();
-    for (std::size_t row = 0; row < kProperties.size(); ++row) {
-        const Property& property = kProperties[row];
+    for (std::size_t row = 0; row < Properties.size(); ++row) {
+        const Property& property = Properties[row];
         if (property.group != group || !attributes.hasAttribute(property.name)) {
             continue;
         }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "migration/census/census.h"
 #include "migration/census/open_document_names.h"
 #include "migration/census/open_document_styles.h"
+#include "migration/model/census.h"
 
 #include <QList>
 #include <QString>

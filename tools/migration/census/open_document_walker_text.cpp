@@ -1,7 +1,7 @@
 // The texts of a document: running text, and the texts of shapes.
 
-#include "migration/census/known_fonts.h"
 #include "migration/census/open_document_walker.h"
+#include "migration/model/known_fonts.h"
 
 #include <algorithm>
 
@@ -64,6 +64,7 @@ void OpenDocumentWalker::openRun(const QString& name, const Attributes& attribut
     push(Spot::Run);
 }
 
+// Everything inside a span becomes one text, fields included.
 void OpenDocumentWalker::openInRun(const QString& name, const Attributes& attributes)
 {
     if (drawingElement(name) != nullptr) {
@@ -73,6 +74,7 @@ void OpenDocumentWalker::openInRun(const QString& name, const Attributes& attrib
     push(Spot::Run);
 }
 
+// What an element inside a span loses if only its text is taken.
 void OpenDocumentWalker::noteField(const QString& name, const Attributes& attributes,
                                    LossSet& changes)
 {
@@ -157,6 +159,7 @@ void OpenDocumentWalker::text(QStringView characters)
     }
 }
 
+// The innermost shape or text box, which the text belongs to.
 OpenDocumentWalker::Place* OpenDocumentWalker::nearestShape()
 {
     const auto found = std::find_if(m_places.rbegin(), m_places.rend(), [](const Place& place) {
@@ -193,6 +196,7 @@ void OpenDocumentWalker::divide()
     takeChunk();
 }
 
+// Text directly in a paragraph ends where an element begins or ends.
 void OpenDocumentWalker::takeChunk()
 {
     if (m_chunkHasText) {

@@ -1,8 +1,8 @@
 // The objects of an XML label: the children of its list of controls, and its background.
 
-#include "migration/census/census.h"
-#include "migration/census/known_fonts.h"
+#include "migration/census/counting.h"
 #include "migration/census/xml_gate.h"
+#include "migration/model/known_fonts.h"
 
 #include <QXmlStreamReader>
 
@@ -23,7 +23,7 @@ struct Control
     bool alwaysHasSource = false;
 };
 
-constexpr std::array kControls{
+constexpr std::array Controls{
     Control{"barcode"_L1, ObjectClass::Barcode, "ArrayOfString"_L1},
     Control{"combo_box"_L1, ObjectClass::Text, "ArrayOfAnyType"_L1},
     Control{"date_time_picker"_L1, ObjectClass::Text, {}, true},
@@ -36,14 +36,14 @@ constexpr std::array kControls{
 };
 
 // Shapes by the number of their sides, and those of none by their number.
-constexpr std::array kKnownSides{3, 4, 5, 6, 8};
-constexpr int kShapesWithoutSides = 6;
+constexpr std::array KnownSides{3, 4, 5, 6, 8};
+constexpr int ShapesWithoutSides = 6;
 
 const Control* controlOf(const QString& tag)
 {
-    const auto* found = std::find_if(kControls.begin(), kControls.end(),
+    const auto* found = std::find_if(Controls.begin(), Controls.end(),
                                      [&tag](const Control& control) { return control.tag == tag; });
-    return found != kControls.end() ? found : nullptr;
+    return found != Controls.end() ? found : nullptr;
 }
 
 bool isDrawing(QByteArray picture)
@@ -120,7 +120,7 @@ void Counter::openControl(const QString& tag)
         m_object.objectClass = m_control->objectClass;
         m_object.wantsSource = m_control->alwaysHasSource;
         // Without a type, or with one that is no number, it has the number 0.
-        m_object.barcodeType = m_object.objectClass == ObjectClass::Barcode ? 0 : kNoBarcodeType;
+        m_object.barcodeType = m_object.objectClass == ObjectClass::Barcode ? 0 : NoBarcodeType;
     } else {
         m_object.lost = LossKind::UnknownControl;
         m_census.detail(LossKind::UnknownControl, tag);
@@ -176,9 +176,9 @@ void Counter::closeControl()
         m_object.lost = LossKind::EmptyPictureBox;
     }
     m_census.drawings += isDrawing(m_picture) ? 1 : 0;
-    const bool isKnownShape = m_sides == 0 ? m_shapeIndex >= 0 && m_shapeIndex < kShapesWithoutSides
-                                           : std::find(kKnownSides.begin(), kKnownSides.end(),
-                                                       m_sides) != kKnownSides.end();
+    const bool isKnownShape =
+        m_sides == 0 ? m_shapeIndex >= 0 && m_shapeIndex < ShapesWithoutSides
+                     : std::find(KnownSides.begin(), KnownSides.end(), m_sides) != KnownSides.end();
     if (m_object.objectClass == ObjectClass::Shape && !isKnownShape) {
         m_object.changes.add(LossKind::UnknownShape);
         m_census.detail(LossKind::UnknownShape,
@@ -221,7 +221,7 @@ Census countOrvanta(const QByteArray& file)
     }
     Counter counter(census);
     QXmlStreamReader xml(file);
-    while (!xml.atEnd() && census.objects.size() <= kMaximumObjects) {
+    while (!xml.atEnd() && census.objects.size() <= MaximumObjects) {
         switch (xml.readNext()) {
         case QXmlStreamReader::StartElement:
             counter.open(xml.qualifiedName().toString());

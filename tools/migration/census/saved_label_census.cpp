@@ -1,8 +1,8 @@
 // The items of a saved label.
 
 #include "limits/json/tree_size.h"
-#include "migration/census/census.h"
-#include "migration/census/item_class.h"
+#include "migration/census/counting.h"
+#include "migration/model/item_class.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -15,7 +15,7 @@ Census countSavedLabel(const QByteArray& file)
 {
     using namespace Qt::StringLiterals;
     Census census;
-    if (jsonbounds::isLargerThan(file, kMaximumSavedTree)) {
+    if (jsonbounds::isLargerThan(file, MaximumSavedTree)) {
         census.unknown = tooLargeToCount();
         return census;
     }

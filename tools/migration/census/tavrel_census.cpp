@@ -3,7 +3,7 @@
 // over, and only what decides about an object is looked at.
 
 #include "migration/census/byte_cursor.h"
-#include "migration/census/census.h"
+#include "migration/census/counting.h"
 
 #include <QCoreApplication>
 
@@ -27,18 +27,18 @@ struct Layout
     std::string_view fields;
 };
 
-constexpr std::string_view kItemHeader = "bddddss";
+constexpr std::string_view ItemHeaderFields = "bddddss";
 
-constexpr std::array kCanvas{
+constexpr std::array CanvasLayouts{
     Layout{0, "biiiissbiibdddd"},
     Layout{2000019, "bddiissbiibdddd"},
     Layout{2000024, "bddiissbiibdddddd"},
 };
-constexpr std::array kSequence{
+constexpr std::array SequenceLayouts{
     Layout{0, "iiiiss"},
     Layout{2000020, "iiiissi"},
 };
-constexpr std::array kText{
+constexpr std::array TextLayouts{
     Layout{0, "KiisibbbTibb"},
     Layout{2000018, "ddKiisibbbTibb"},
     Layout{2000020, "ddKiisibbbTibbbbb"},
@@ -46,16 +46,16 @@ constexpr std::array kText{
     Layout{2000022, "sTKddiisibbbibbbbbi"},
     Layout{2000023, "sTKddiisibbbibbbbbiii"},
 };
-constexpr std::array kBarcode{
+constexpr std::array BarcodeLayouts{
     Layout{0, "KisbsiibbbbsiiiT"},
     Layout{2000022, "sTKibsiibbbbsiii"},
 };
-constexpr std::array kSymbol{
+constexpr std::array SymbolLayouts{
     Layout{0, "s"},
     Layout{2000023, "sa"},
 };
-constexpr std::array kShape{Layout{0, "iiiN"}};
-constexpr std::array kPicture{Layout{0, "p"}};
+constexpr std::array ShapeLayouts{Layout{0, "iiiN"}};
+constexpr std::array PictureLayouts{Layout{0, "p"}};
 
 template <std::size_t count>
 std::string_view fieldsOf(const std::array<Layout, count>& layouts, quint32 version)
@@ -77,15 +77,15 @@ enum RecordCode : qint32 {
     MatrixBarcodeRecord,
 };
 
-constexpr quint32 kOldestVersion = 2000016;
+constexpr quint32 OldestVersion = 2000016;
 
 // The keys of data sources that have a counterpart.
-constexpr std::array kSourceKeys{"_SEQUENCE"_L1, "_DATE"_L1, "_DATES"_L1, "_DATEX"_L1, "_TIME"_L1};
-constexpr QLatin1String kSpecialKey("_SPECIAL");
+constexpr std::array SourceKeys{"_SEQUENCE"_L1, "_DATE"_L1, "_DATES"_L1, "_DATEX"_L1, "_TIME"_L1};
+constexpr QLatin1String SpecialKey("_SPECIAL");
 
-constexpr std::array kShapeNames{"HorizontalLine"_L1, "VerticalLine"_L1, "RoundedRectangle"_L1,
-                                 "Rectangle"_L1,      "Triangle"_L1,     "Octagon"_L1,
-                                 "Diamond"_L1,        "Hexagon"_L1,      "Oval"_L1};
+constexpr std::array ShapeNames{"HorizontalLine"_L1, "VerticalLine"_L1, "RoundedRectangle"_L1,
+                                "Rectangle"_L1,      "Triangle"_L1,     "Octagon"_L1,
+                                "Diamond"_L1,        "Hexagon"_L1,      "Oval"_L1};
 
 template <class Names>
 bool holds(const Names& names, const QString& name)
@@ -161,21 +161,21 @@ std::string_view layoutOf(ObjectClass objectClass, quint32 version)
 {
     switch (objectClass) {
     case ObjectClass::Text:
-        return fieldsOf(kText, version);
+        return fieldsOf(TextLayouts, version);
     case ObjectClass::Symbol:
-        return fieldsOf(kSymbol, version);
+        return fieldsOf(SymbolLayouts, version);
     case ObjectClass::Barcode:
-        return fieldsOf(kBarcode, version);
+        return fieldsOf(BarcodeLayouts, version);
     case ObjectClass::Picture:
-        return fieldsOf(kPicture, version);
+        return fieldsOf(PictureLayouts, version);
     default:
-        return fieldsOf(kShape, version);
+        return fieldsOf(ShapeLayouts, version);
     }
 }
 
 bool isPlaceholderAmongWords(const QString& text)
 {
-    return std::none_of(kSourceKeys.begin(), kSourceKeys.end(),
+    return std::none_of(SourceKeys.begin(), SourceKeys.end(),
                         [&text](QLatin1String key) { return text == u'%' + QString(key) + u'%'; });
 }
 
@@ -185,21 +185,21 @@ void judgeSource(const Fields& fields, CountedObject& object, Census& census)
         return;
     }
     object.wantsSource = true;
-    if (fields.key == kSpecialKey) {
+    if (fields.key == SpecialKey) {
         object.hasPlaceholder = isPlaceholderAmongWords(fields.keyText);
         if (object.hasPlaceholder) {
             census.detail(LossKind::PlaceholderText, fields.keyText);
         }
-    } else if (!holds(kSourceKeys, fields.key)) {
+    } else if (!holds(SourceKeys, fields.key)) {
         census.detail(LossKind::DatasourceUnbound, fields.key);
     }
 }
 
 void judgeShape(const Fields& fields, CountedObject& object, Census& census)
 {
-    if (fields.shapeName.endsWith("Line"_L1) && holds(kShapeNames, fields.shapeName)) {
+    if (fields.shapeName.endsWith("Line"_L1) && holds(ShapeNames, fields.shapeName)) {
         object.objectClass = ObjectClass::Line;
-    } else if (!holds(kShapeNames, fields.shapeName)) {
+    } else if (!holds(ShapeNames, fields.shapeName)) {
         object.changes.add(LossKind::UnknownShape);
         census.detail(LossKind::UnknownShape, fields.shapeName);
     }
@@ -207,7 +207,7 @@ void judgeShape(const Fields& fields, CountedObject& object, Census& census)
 
 void countRecord(ObjectClass objectClass, quint32 version, ByteCursor& cursor, Census& census)
 {
-    (void)takeFields(kItemHeader, cursor);
+    (void)takeFields(ItemHeaderFields, cursor);
     const Fields fields = takeFields(layoutOf(objectClass, version), cursor);
     CountedObject object{.objectClass = objectClass};
     judgeSource(fields, object, census);
@@ -234,7 +234,7 @@ QString cutShort()
 
 void countItems(quint32 version, ByteCursor& cursor, Census& census)
 {
-    while (!cursor.atEnd() && census.objects.size() <= kMaximumObjects) {
+    while (!cursor.atEnd() && census.objects.size() <= MaximumObjects) {
         const qint32 code = cursor.takeNumber();
         if (cursor.isCut()) {
             return;
@@ -270,14 +270,14 @@ Census countTavrel(const QByteArray& file)
     ByteCursor cursor(file);
     cursor.skip(4);
     const auto version = static_cast<quint32>(cursor.takeNumber());
-    if (cursor.isCut() || version < kOldestVersion) {
+    if (cursor.isCut() || version < OldestVersion) {
         census.unknown = QCoreApplication::translate(
             "migration::Census", "The file is no binary label of a known version.");
         return census;
     }
     (void)cursor.skipPicture(); // the preview
-    (void)takeFields(fieldsOf(kCanvas, version), cursor);
-    (void)takeFields(fieldsOf(kSequence, version), cursor);
+    (void)takeFields(fieldsOf(CanvasLayouts, version), cursor);
+    (void)takeFields(fieldsOf(SequenceLayouts, version), cursor);
     skipDatabases(cursor);
     countItems(version, cursor, census);
     if (cursor.isCut() && census.unknown.isEmpty()) {

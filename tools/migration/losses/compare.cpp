@@ -19,8 +19,8 @@ struct Sum
 };
 
 // The numbers of the file's symbology that are the default's own.
-constexpr std::array kCode39Types{8, 9};
-constexpr int kDefaultSymbology = 8;
+constexpr std::array Code39Types{8, 9};
+constexpr int DefaultSymbology = 8;
 
 /// One comparison.
 class Comparison
@@ -75,7 +75,7 @@ void Comparison::run()
         }
     }
     m_report.objectsImported = 0;
-    for (int index = 0; index < kObjectClasses; ++index) {
+    for (int index = 0; index < ObjectClasses; ++index) {
         compareClass(static_cast<ObjectClass>(index));
     }
     if (m_census.unknown.isEmpty()) {
@@ -160,9 +160,9 @@ void Comparison::judgePair(const CountedObject& object, const ItemFacts& item,
     if (object.hasPlaceholder && item.isBound) {
         changes.add(LossKind::PlaceholderText);
     }
-    const bool isCode39 = std::find(kCode39Types.begin(), kCode39Types.end(), object.barcodeType) !=
-                          kCode39Types.end();
-    if (object.barcodeType != kNoBarcodeType && !isCode39 && item.symbology == kDefaultSymbology) {
+    const bool isCode39 =
+        std::find(Code39Types.begin(), Code39Types.end(), object.barcodeType) != Code39Types.end();
+    if (object.barcodeType != NoBarcodeType && !isCode39 && item.symbology == DefaultSymbology) {
         changes.add(LossKind::BarcodeTypeAssumed);
     }
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "migration/census/census.h"
-#include "migration/file_report.h"
 #include "migration/losses/item_losses.h"
 #include "migration/losses/log_losses.h"
+#include "migration/model/census.h"
+#include "migration/model/file_report.h"
 
 namespace migration {
 

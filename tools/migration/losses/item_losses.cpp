@@ -1,9 +1,9 @@
 #include "migration/losses/item_losses.h"
 
 #include "host/facets/i_font_item.h"
-#include "migration/census/item_class.h"
-#include "migration/census/known_fonts.h"
 #include "migration/kind_names.h"
+#include "migration/model/item_class.h"
+#include "migration/model/known_fonts.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/items/bounds.h"
 
@@ -21,7 +21,7 @@ namespace {
 using workbench::ItemValues;
 
 // Points by which an item may reach beyond the page before it is worth a word.
-constexpr double kTolerance = 1.0;
+constexpr double EdgeTolerance = 1.0;
 
 QStringList familiesOfHtml(const QString& html)
 {
@@ -100,7 +100,8 @@ void lookAtPlace(const QRectF& page, const QRectF& box, ItemFacts& item)
 {
     if (!touches(page, box)) {
         item.changes.add(LossKind::OutsidePage);
-    } else if (!page.adjusted(-kTolerance, -kTolerance, kTolerance, kTolerance).contains(box) &&
+    } else if (!page.adjusted(-EdgeTolerance, -EdgeTolerance, EdgeTolerance, EdgeTolerance)
+                    .contains(box) &&
                !box.isEmpty()) {
         item.changes.add(LossKind::OverPageEdge);
     }

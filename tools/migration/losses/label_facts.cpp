@@ -15,19 +15,19 @@ namespace migration {
 
 namespace {
 
-constexpr double kMillimetresPerPoint = 25.4 / 72.0;
-constexpr int kThumbnailSide = 160;
-// Above this a thumbnail has fewer colours, then fewer pixels.
-constexpr qsizetype kThumbnailBytes = 6 * 1024;
+constexpr double MillimetersPerPoint = 25.4 / 72.0;
+constexpr int ThumbnailSide = 160;
+// Above this a thumbnail has fewer colors, then fewer pixels.
+constexpr qsizetype ThumbnailBytes = 6 * 1024;
 // Longest content of an item that a report takes over.
-constexpr qsizetype kContentLength = 2'000;
+constexpr qsizetype ContentLength = 2'000;
 // What a source's property with the name of a file is called.
-constexpr QLatin1String kFileProperty("File");
+constexpr QLatin1String FileProperty("File");
 
-double toMillimetres(double points)
+double toMillimeters(double points)
 {
     // Micrometres are fine enough, and the same on every machine.
-    return std::round(points * kMillimetresPerPoint * 1000.0) / 1000.0;
+    return std::round(points * MillimetersPerPoint * 1000.0) / 1000.0;
 }
 
 QList<KindCount> kindsOf(const workbench::Canvas& canvas)
@@ -48,7 +48,7 @@ QList<SourceReport> sourcesOf(const workbench::datasources::DatasourceController
     QList<SourceReport> sources;
     for (const workbench::datasources::SourceValues& values : controller.values()) {
         sources.append({values.id, values.kind, values.selectedFields,
-                        values.properties.value(kFileProperty).toString()});
+                        values.properties.value(FileProperty).toString()});
     }
     return sources;
 }
@@ -56,7 +56,7 @@ QList<SourceReport> sourcesOf(const workbench::datasources::DatasourceController
 QString contentOf(const workbench::ItemValues& values)
 {
     if (values.barcode) {
-        return values.barcode->content.left(kContentLength);
+        return values.barcode->content.left(ContentLength);
     }
     if (!values.text) {
         return {};
@@ -64,7 +64,7 @@ QString contentOf(const workbench::ItemValues& values)
     const QString text = values.text->html.isEmpty()
                              ? values.text->text
                              : QTextDocumentFragment::fromHtml(values.text->html).toPlainText();
-    return text.left(kContentLength);
+    return text.left(ContentLength);
 }
 
 QSizeF sizeOf(const workbench::ItemValues& values)
@@ -76,10 +76,10 @@ ItemReport itemReportOf(const workbench::ItemValues& values)
 {
     const QSizeF size = sizeOf(values);
     return {kindName(values.type),
-            toMillimetres(values.placement.position.x()),
-            toMillimetres(values.placement.position.y()),
-            toMillimetres(size.width()),
-            toMillimetres(size.height()),
+            toMillimeters(values.placement.position.x()),
+            toMillimeters(values.placement.position.y()),
+            toMillimeters(size.width()),
+            toMillimeters(size.height()),
             contentOf(values),
             values.datasource ? values.datasource->id : -1};
 }
@@ -97,8 +97,8 @@ QByteArray pngOf(const QImage& image)
 void describeLabel(const workbench::ImportResult& result, FileReport& report)
 {
     const QSizeF page = result.canvas->page().size;
-    report.pageWidth = toMillimetres(page.width());
-    report.pageHeight = toMillimetres(page.height());
+    report.pageWidth = toMillimeters(page.width());
+    report.pageHeight = toMillimeters(page.height());
     report.items = kindsOf(*result.canvas);
     if (result.datasources) {
         report.datasources = sourcesOf(*result.datasources);
@@ -122,20 +122,20 @@ QByteArray thumbnailOf(const workbench::Canvas& canvas)
     const QSizeF page = canvas.page().size;
     const double longest = std::max({page.width(), page.height(), 1.0});
     // Painted at twice the size and made smaller, hair lines stay visible.
-    const double dpi = 72.0 * 2.0 * kThumbnailSide / longest;
+    const double dpi = 72.0 * 2.0 * ThumbnailSide / longest;
     const workbench::PageImage painted = workbench::renderPage(canvas, dpi);
     if (painted.image.isNull()) {
         return {};
     }
     QByteArray png;
-    for (const int side : {kThumbnailSide, kThumbnailSide / 2}) {
+    for (const int side : {ThumbnailSide, ThumbnailSide / 2}) {
         const QImage image =
             painted.image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         png = pngOf(image.convertToFormat(QImage::Format_RGB32));
-        if (png.size() > kThumbnailBytes) {
+        if (png.size() > ThumbnailBytes) {
             png = pngOf(image.convertToFormat(QImage::Format_Indexed8));
         }
-        if (png.size() <= kThumbnailBytes) {
+        if (png.size() <= ThumbnailBytes) {
             break;
         }
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "migration/census/census.h"
+#include "migration/model/census.h"
 
 #include <QList>
 
@@ -23,7 +23,7 @@ struct Reason
 /// What the import has said.
 struct LogLosses
 {
-    std::array<QList<Reason>, kObjectClasses> reasons;
+    std::array<QList<Reason>, ObjectClasses> reasons;
     /// Losses and changes that are about no single object.
     std::map<LossKind, Tally> tallies;
     /// Items that an issue says something about which has no kind of its own, and the kind

@@ -1,7 +1,7 @@
 #include "migration/report/html_card.h"
 
 #include "migration/kind_names.h"
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 #include "migration/report/html_text.h"
 #include "migration/report/totals.h"
 

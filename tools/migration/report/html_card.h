@@ -1,6 +1,6 @@
 #pragma once
 
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 
 #include <QString>
 

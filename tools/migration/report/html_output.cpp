@@ -13,7 +13,7 @@ namespace migration {
 
 namespace {
 
-constexpr qint64 kChunk = 1024 * 1024;
+constexpr qint64 Chunk = 1024 * 1024;
 
 // The totals stand at the top and are known at the end, so the cards wait in a file.
 class HtmlOutput final : public ReportOutput
@@ -53,7 +53,7 @@ bool HtmlOutput::copyCards(QSaveFile& page)
     if (!m_cards.flush() || !m_cards.seek(0)) {
         return false;
     }
-    for (QByteArray chunk = m_cards.read(kChunk); !chunk.isEmpty(); chunk = m_cards.read(kChunk)) {
+    for (QByteArray chunk = m_cards.read(Chunk); !chunk.isEmpty(); chunk = m_cards.read(Chunk)) {
         if (page.write(chunk) != chunk.size()) {
             return false;
         }

@@ -1,6 +1,6 @@
 #include "migration/report/html_page.h"
 
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 #include "migration/report/html_text.h"
 #include "migration/report/totals.h"
 

@@ -3,7 +3,7 @@
 namespace migration {
 
 /// What a JSON report says that it is, and the version that is written.
-inline constexpr char kReportFormat[] = "labelport-report";
-inline constexpr int kReportVersion = 1;
+inline constexpr char ReportFormat[] = "labelport-report";
+inline constexpr int ReportVersion = 1;
 
 } // namespace migration

@@ -130,9 +130,9 @@ void ReportReader::findFiles()
             files = m_bufferStart + m_at;
         }
         if (*name == "version") {
-            isKnownVersion = *value == '0' + kReportVersion;
+            isKnownVersion = *value == '0' + ReportVersion;
         } else if (*name == "format" && *value == '"') {
-            isReport = takeString() == QByteArray(kReportFormat);
+            isReport = takeString() == QByteArray(ReportFormat);
         }
         if (isReport && isKnownVersion && files > 0) {
             return startAt(files);

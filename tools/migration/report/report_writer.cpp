@@ -1,4 +1,4 @@
-#include "migration/report_writer.h"
+#include "migration/report/report_writer.h"
 
 #include "migration/report/report_output.h"
 

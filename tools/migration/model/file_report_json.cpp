@@ -1,6 +1,6 @@
 // The report as JSON and back. docs/report.schema.json describes what is written here.
 
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 
 #include <QJsonArray>
 
@@ -13,7 +13,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Whole numbers above this are not exact in JSON.
-constexpr double kLargestWhole = 9'007'199'254'740'992.0;
+constexpr double LargestWhole = 9'007'199'254'740'992.0;
 
 QJsonArray toJson(const QStringList& texts)
 {
@@ -71,7 +71,7 @@ QJsonArray toJson(const QList<Value>& values)
 qint64 wholeOf(const QJsonValue& value, qint64 otherwise = 0)
 {
     const double number = value.toDouble(std::nan(""));
-    if (std::isnan(number) || std::abs(number) > kLargestWhole) {
+    if (std::isnan(number) || std::abs(number) > LargestWhole) {
         return otherwise;
     }
     return value.toInteger(static_cast<qint64>(number));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/kest_types.h"
-#include "migration/census/census.h"
+#include "migration/model/census.h"
 
 namespace migration {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "importer/reader_choice.h"
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 
 #include <QString>
 

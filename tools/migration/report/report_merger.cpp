@@ -1,6 +1,7 @@
-#include "migration/report_writer.h"
+#include "migration/report/report_merger.h"
 
 #include "migration/report/report_reader.h"
+#include "migration/report/report_writer.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>

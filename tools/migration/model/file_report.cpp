@@ -1,6 +1,6 @@
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 
 #include <QCoreApplication>
 
@@ -17,7 +17,7 @@ struct StatusRow
     QLatin1String name;
 };
 
-constexpr std::array kStatuses{
+constexpr std::array Statuses{
     StatusRow{Status::Imported, QLatin1String("imported")},
     StatusRow{Status::Failed, QLatin1String("failed")},
     StatusRow{Status::Crashed, QLatin1String("crashed")},
@@ -51,16 +51,16 @@ QString countSentence(const FileReport& report)
 QString statusName(Status status)
 {
     const auto* found =
-        std::find_if(kStatuses.begin(), kStatuses.end(),
+        std::find_if(Statuses.begin(), Statuses.end(),
                      [status](const StatusRow& row) { return row.status == status; });
-    return found != kStatuses.end() ? QString(found->name) : QStringLiteral("failed");
+    return found != Statuses.end() ? QString(found->name) : QStringLiteral("failed");
 }
 
 std::optional<Status> statusOfName(const QString& name)
 {
-    const auto* found = std::find_if(kStatuses.begin(), kStatuses.end(),
+    const auto* found = std::find_if(Statuses.begin(), Statuses.end(),
                                      [&name](const StatusRow& row) { return row.name == name; });
-    return found != kStatuses.end() ? std::optional(found->status) : std::nullopt;
+    return found != Statuses.end() ? std::optional(found->status) : std::nullopt;
 }
 
 bool hasLoss(const FileReport& report)

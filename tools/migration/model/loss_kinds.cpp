@@ -1,4 +1,4 @@
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 
 #include <QCoreApplication>
 
@@ -17,7 +17,7 @@ constexpr auto Content = Harm::Content;
 constexpr auto Looks = Harm::Looks;
 
 // clang-format off
-constexpr std::array kRows{
+constexpr std::array Rows{
     LossRow{LossKind::GroupedObject, "grouped-object", Lost, Content,
             WORDS("Objects in groups were left out."),
             WORDS("Open the document in its own program, ungroup the objects, save, and import again.")},
@@ -156,8 +156,8 @@ constexpr std::array kRows{
     LossRow{LossKind::SizeLimited, "size-limited", Changed, Looks,
             WORDS("Sizes, positions or fonts are larger than anything on a real label, and were limited."),
             WORDS("Compare with the old label.")},
-    LossRow{LossKind::MillimetresEnlarged, "millimetres-enlarged", Changed, Looks,
-            WORDS("The document measures in millimetres: the label is ten times larger than the paper."),
+    LossRow{LossKind::MillimetersEnlarged, "millimeters-enlarged", Changed, Looks,
+            WORDS("The document measures in millimeters: the label is ten times larger than the paper."),
             WORDS("Print at a tenth of the size, or save the document with centimetres or inches as its unit.")},
     LossRow{LossKind::MixedUnits, "mixed-units", Changed, Looks,
             WORDS("Lengths are not in the unit of the page: they were read as if they were."),
@@ -186,7 +186,7 @@ constexpr std::array kRows{
     LossRow{LossKind::TextStretched, "text-stretched", Changed, Looks,
             WORDS("Stretched texts are not stretched any more."),
             WORDS("Choose a font size that fits.")},
-    LossRow{LossKind::TextColour, "text-colour", Changed, Looks,
+    LossRow{LossKind::TextColor, "text-color", Changed, Looks,
             WORDS("Colored texts lost their color."),
             WORDS("Set the color after the import.")},
     LossRow{LossKind::TextSpacing, "text-spacing", Changed, Looks,
@@ -208,10 +208,10 @@ constexpr std::array kRows{
 // clang-format on
 #undef WORDS
 
-static_assert(kRows.size() == static_cast<std::size_t>(LossKind::Other) + 1);
+static_assert(Rows.size() == static_cast<std::size_t>(LossKind::Other) + 1);
 static_assert([] {
-    for (std::size_t index = 0; index < kRows.size(); ++index) {
-        if (kRows[index].kind != static_cast<LossKind>(index)) {
+    for (std::size_t index = 0; index < Rows.size(); ++index) {
+        if (Rows[index].kind != static_cast<LossKind>(index)) {
             return false;
         }
     }
@@ -227,20 +227,20 @@ QString translated(const char* text)
 
 std::span<const LossRow> lossRows()
 {
-    return kRows;
+    return Rows;
 }
 
 const LossRow& lossRow(LossKind kind)
 {
-    return kRows.at(static_cast<std::size_t>(kind));
+    return Rows.at(static_cast<std::size_t>(kind));
 }
 
 const LossRow* lossRowOf(const QString& code)
 {
-    const auto* found = std::find_if(kRows.begin(), kRows.end(), [&code](const LossRow& row) {
+    const auto* found = std::find_if(Rows.begin(), Rows.end(), [&code](const LossRow& row) {
         return code == QLatin1String(row.code);
     });
-    return found != kRows.end() ? found : nullptr;
+    return found != Rows.end() ? found : nullptr;
 }
 
 QString lossCode(LossKind kind)

@@ -61,7 +61,7 @@ struct IssueReport
     bool operator==(const IssueReport&) const = default;
 };
 
-/// One item of the label. Lengths are in millimetres from the page's upper left corner.
+/// One item of the label. Lengths are in millimeters from the page's upper left corner.
 struct ItemReport
 {
     QString kind;
@@ -82,8 +82,8 @@ struct FileReport
     Status status = Status::Failed;
     QString error;           ///< why it is not imported, in words for a person
     QString reader;          ///< "tavrel", "orvanta", "opendocument" or "label"
-    double pageWidth = 0.0;  ///< millimetres
-    double pageHeight = 0.0; ///< millimetres
+    double pageWidth = 0.0;  ///< millimeters
+    double pageHeight = 0.0; ///< millimeters
 
     /// Objects that the file holds, counted apart from the reader; nothing when that is
     /// not known, and then objectsUnknown says why.

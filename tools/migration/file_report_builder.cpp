@@ -1,6 +1,6 @@
-#include "migration/make_report.h"
+#include "migration/file_report_builder.h"
 
-#include "migration/census/census.h"
+#include "migration/census/counting.h"
 #include "migration/losses/compare.h"
 #include "migration/losses/item_losses.h"
 #include "migration/losses/label_facts.h"

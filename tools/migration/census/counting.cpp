@@ -1,30 +1,10 @@
-#include "migration/census/census.h"
+#include "migration/census/counting.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
 namespace migration {
-
-void Tally::addDetail(const QString& detail)
-{
-    const QString shortened = detail.left(kLongestDetail);
-    if (!shortened.isEmpty() && details.size() < MaximumDetails && !details.contains(shortened)) {
-        details.append(shortened);
-    }
-}
-
-void Census::note(LossKind kind, qint64 count, const QString& detail)
-{
-    Tally& tally = tallies[kind];
-    tally.count += count;
-    tally.addDetail(detail);
-}
-
-void Census::detail(LossKind kind, const QString& detail)
-{
-    tallies[kind].addDetail(detail);
-}
 
 QString tooLargeToCount()
 {
@@ -34,7 +14,7 @@ QString tooLargeToCount()
 
 void refuseTooMany(Census& census)
 {
-    if (census.objects.size() > kMaximumObjects) {
+    if (census.objects.size() > MaximumObjects) {
         census.unknown = tooLargeToCount();
     }
 }
@@ -48,11 +28,11 @@ QByteArray bytesToCount(const QString& fileName, QString& unknown)
                                               "The file cannot be opened to count its objects.");
         return {};
     }
-    if (file.size() > kMaximumFile) {
+    if (file.size() > MaximumFile) {
         unknown = tooLargeToCount();
         return {};
     }
-    return file.read(kMaximumFile);
+    return file.read(MaximumFile);
 }
 
 } // namespace migration

@@ -21,8 +21,8 @@ public:
         : m_file(fileName)
     {
         if (m_file.open(QIODevice::WriteOnly)) {
-            m_file.write("{\n\"format\": \"" + QByteArray(kReportFormat) + "\",\n\"version\": " +
-                         QByteArray::number(kReportVersion) + ",\n\"files\": [");
+            m_file.write("{\n\"format\": \"" + QByteArray(ReportFormat) + "\",\n\"version\": " +
+                         QByteArray::number(ReportVersion) + ",\n\"files\": [");
         }
     }
 

@@ -1,4 +1,4 @@
-#include "migration/inspect.h"
+#include "migration/report/text_report.h"
 
 #include "tests/migration/documents.h"
 
@@ -39,7 +39,7 @@ TEST(Inspect, DescribesALabelOnOneScreen)
               "shelf.odg\n"
               "  2 of 3 objects came over.\n"
               "  Page: 50.8 × 25.4 mm\n"
-              "Items (millimetres):\n"
+              "Items (millimeters):\n"
               "  # kind                x   y width height source content\n"
               "  1 rounded rectangle 1.0 2.0  30.5    4.0 -\n"
               "  2 text              0.0 0.0   9.0    3.0 4      Two lines\n"

@@ -1,4 +1,4 @@
-#include "migration/inspect.h"
+#include "migration/report/text_report.h"
 
 #include "migration/kind_names.h"
 
@@ -13,7 +13,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Longest content of an item that the table shows.
-constexpr qsizetype kContentWidth = 60;
+constexpr qsizetype ContentWidth = 60;
 
 QString tr(const char* text)
 {
@@ -33,11 +33,11 @@ QString printable(const QString& text)
 
 QString shortened(const QString& text)
 {
-    const QString line = printable(text.left(4 * kContentWidth));
-    return line.size() <= kContentWidth ? line : line.left(kContentWidth - 1) + u'…';
+    const QString line = printable(text.left(4 * ContentWidth));
+    return line.size() <= ContentWidth ? line : line.left(ContentWidth - 1) + u'…';
 }
 
-QString millimetres(double length)
+QString millimeters(double length)
 {
     return QString::number(length, 'f', 1);
 }
@@ -85,12 +85,12 @@ QString itemTable(const FileReport& report)
                      tr("content")}};
     for (qsizetype index = 0; index < report.itemList.size(); ++index) {
         const ItemReport& item = report.itemList.at(index);
-        rows.append({QString::number(index + 1), kindWords(item.kind), millimetres(item.x),
-                     millimetres(item.y), millimetres(item.width), millimetres(item.height),
+        rows.append({QString::number(index + 1), kindWords(item.kind), millimeters(item.x),
+                     millimeters(item.y), millimeters(item.width), millimeters(item.height),
                      item.datasource < 0 ? u"-"_s : QString::number(item.datasource),
                      shortened(item.content)});
     }
-    return tr("Items (millimetres):") + u'\n' + tableOf(rows, 2, 5);
+    return tr("Items (millimeters):") + u'\n' + tableOf(rows, 2, 5);
 }
 
 template <class Value, class Words>
@@ -143,7 +143,7 @@ QString headOf(const FileReport& report)
     if (report.status == Status::Imported) {
         text += u"  "_s +
                 tr("Page: %1 × %2 mm")
-                    .arg(millimetres(report.pageWidth), millimetres(report.pageHeight)) +
+                    .arg(millimeters(report.pageWidth), millimeters(report.pageHeight)) +
                 u'\n';
     }
     return text;

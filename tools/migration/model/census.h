@@ -1,6 +1,6 @@
 #pragma once
 
-#include "migration/losses/loss_kinds.h"
+#include "migration/model/loss_kinds.h"
 
 #include <QByteArray>
 #include <QList>
@@ -10,16 +10,12 @@
 #include <map>
 #include <optional>
 
-/// What a file holds, counted from its bytes without the readers.
-///
-/// A reader that passes something over does not tell. So the objects of a file are counted
-/// a second time by code that shares nothing with the readers, and compared with what is on
-/// the label.
+/// What a file contains, object by object.
 namespace migration {
 
 /// What an object becomes on a label.
 enum class ObjectClass : quint8 { Shape, Line, Text, Barcode, Picture, Symbol };
-inline constexpr int kObjectClasses = 6;
+inline constexpr int ObjectClasses = 6;
 
 /// A set of kinds of change.
 class LossSet
@@ -37,7 +33,7 @@ private:
 };
 static_assert(static_cast<int>(LossKind::Other) < 64);
 
-inline constexpr int kNoBarcodeType = -1;
+inline constexpr int NoBarcodeType = -1;
 
 /// One object of the file.
 struct CountedObject
@@ -52,8 +48,11 @@ struct CountedObject
     /// A text that names its data source among other words.
     bool hasPlaceholder = false;
     /// The file's own number of a barcode's type, where it is to be compared.
-    int barcodeType = kNoBarcodeType;
+    int barcodeType = NoBarcodeType;
 };
+
+/// Longest detail that is kept, in characters.
+inline constexpr qsizetype LongestDetail = 80;
 
 /// How often something was met, and the first names of what it was about.
 struct Tally
@@ -80,32 +79,5 @@ struct Census
     void note(LossKind kind, qint64 count = 1, const QString& detail = {});
     void detail(LossKind kind, const QString& detail);
 };
-
-/// Most objects that are counted; every reader takes fewer.
-inline constexpr qsizetype kMaximumObjects = 1'000'000;
-/// Largest file that is counted, in bytes: as much as the most generous reader takes.
-inline constexpr qint64 kMaximumFile = 256LL * 1024 * 1024;
-/// Bytes of a package's members, as many as its reader takes.
-inline constexpr qint64 kMaximumStyles = 16LL * 1024 * 1024;
-inline constexpr qint64 kMaximumContent = 48LL * 1024 * 1024;
-/// Longest name of what was met that is kept, in letters.
-inline constexpr qsizetype kLongestDetail = 80;
-
-[[nodiscard]] Census countTavrel(const QByteArray& file);
-[[nodiscard]] Census countOrvanta(const QByteArray& file);
-[[nodiscard]] Census countOpenDocument(const QByteArray& file);
-[[nodiscard]] Census countSavedLabel(const QByteArray& file);
-
-/// Bytes that a saved label's tree may take: as many as where it is opened.
-inline constexpr qint64 kMaximumSavedTree = 3LL << 30;
-
-/// That a file is too large to be counted, for a person.
-[[nodiscard]] QString tooLargeToCount();
-/// Counting ends with the first object too many: then it is not known how many there are.
-void refuseTooMany(Census& census);
-
-/// Reads a file to count in it; empty, and `unknown` says why, for one that is too large
-/// or cannot be read.
-[[nodiscard]] QByteArray bytesToCount(const QString& fileName, QString& unknown);
 
 } // namespace migration

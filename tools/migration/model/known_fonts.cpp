@@ -1,4 +1,4 @@
-#include "migration/census/known_fonts.h"
+#include "migration/model/known_fonts.h"
 
 #include "workbench/items/font_families.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 // Asking the system for a family takes longer than importing a label. The answers of one
 // run are kept; hostile files may name ever new ones.
-constexpr qsizetype kMaximumKept = 1'000;
+constexpr qsizetype MaximumKept = 1'000;
 
 bool isInstalled(const QString& family)
 {
@@ -20,7 +20,7 @@ bool isInstalled(const QString& family)
     if (found != known.constEnd()) {
         return *found;
     }
-    if (known.size() >= kMaximumKept) {
+    if (known.size() >= MaximumKept) {
         known.clear();
     }
     return *known.insert(family, QFontDatabase::hasFamily(family));

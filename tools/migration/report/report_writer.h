@@ -1,9 +1,8 @@
 #pragma once
 
-#include "migration/file_report.h"
+#include "migration/model/file_report.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 
@@ -37,13 +36,5 @@ public:
 private:
     std::unique_ptr<ReportOutput> m_output;
 };
-
-/// Makes one report of several JSON reports, as one run over all files would have made it:
-/// ordered by the names of the files.
-///
-/// @param inputs JSON reports; one file may stand in one of them only
-/// @param output written as ReportWriter writes it
-/// @return why there is none, in a sentence for a person; empty when there is one
-[[nodiscard]] QString mergeReports(const QStringList& inputs, const QString& output);
 
 } // namespace migration

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "migration/model/census.h"
+
+#include <QByteArray>
+#include <QString>
+
+/// Counts the objects of a file, from its bytes and without the readers.
+///
+/// Each format has a second, independent parser here, on purpose. A reader that skips an object
+/// does not report it; only a second count can show that an object is missing on the label. It
+/// shares no code with the readers, so that a mistake there cannot hide itself here. It builds
+/// nothing and needs less of the format: which objects there are, not where and how they look.
+namespace migration {
+
+/// Most objects that are counted; every reader takes fewer.
+inline constexpr qsizetype MaximumObjects = 1'000'000;
+/// Largest file that is counted, in bytes: as much as the most generous reader takes.
+inline constexpr qint64 MaximumFile = 256LL * 1024 * 1024;
+/// Bytes of a package's members, as many as its reader takes.
+inline constexpr qint64 MaximumStyles = 16LL * 1024 * 1024;
+inline constexpr qint64 MaximumContent = 48LL * 1024 * 1024;
+[[nodiscard]] Census countTavrel(const QByteArray& file);
+[[nodiscard]] Census countOrvanta(const QByteArray& file);
+[[nodiscard]] Census countOpenDocument(const QByteArray& file);
+[[nodiscard]] Census countSavedLabel(const QByteArray& file);
+
+/// Bytes that a saved label's tree may take: as many as where it is opened.
+inline constexpr qint64 MaximumSavedTree = 3LL << 30;
+
+/// That a file is too large to be counted, for a person.
+[[nodiscard]] QString tooLargeToCount();
+/// Counting ends with the first object too many: then it is not known how many there are.
+void refuseTooMany(Census& census);
+
+/// Reads a file to count in it; empty, and `unknown` says why, for one that is too large
+/// or cannot be read.
+[[nodiscard]] QByteArray bytesToCount(const QString& fileName, QString& unknown);
+
+} // namespace migration

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "migration/census/open_document_styles.h"
+#include "migration/census/open_document_walker.h"
+#include "migration/model/census.h"
+
+#include <QList>
+#include <QString>
+#include <QStringView>
+#include <QXmlStreamAttributes>
+
+#include <optional>
+
+namespace migration {
+
+/// Size and margins of a page. The lengths are as written in the document, with their unit.
+struct PageLayout
+{
+    QString name;
+    QString width;
+    QString height;
+    bool hasMargins = false;
+};
+
+/// The objects behind the page.
+struct MasterPage
+{
+    QString name;
+    QString layout;
+    Census census;
+};
+
+/// What styles.xml says.
+struct Styles
+{
+    StyleBook book;
+    QList<PageLayout> layouts;
+    QList<MasterPage> masterPages;
+};
+
+/// Reads the styles document: styles, page layouts, and what lies on its master pages.
+class StylesReader
+{
+public:
+    explicit StylesReader(Styles& styles)
+        : m_styles(styles)
+    {}
+
+    void open(const QString& name, const QXmlStreamAttributes& attributes);
+    void text(QStringView characters);
+    void close();
+
+private:
+    void openOutside(const QString& name, const QXmlStreamAttributes& attributes);
+    void openOnMasterPage(const QString& name, const QXmlStreamAttributes& attributes);
+
+    Styles& m_styles;
+    int m_depth = 0;
+    int m_masterDepth = 0; // 0 outside master pages
+    int m_walkDepth = 0;   // 0 where nothing is counted
+    int m_skipDepth = 0;   // 0 where nothing is passed over
+    std::optional<OpenDocumentWalker> m_walker;
+};
+
+} // namespace migration

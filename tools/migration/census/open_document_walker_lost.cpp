@@ -1,0 +1,66 @@
+// The parts of a document that no reader imports.
+
+#include "migration/census/open_document_walker.h"
+
+namespace migration {
+
+using namespace Qt::StringLiterals;
+
+// A lost object, or an element whose objects are all lost: the first reason holds for all of them.
+void OpenDocumentWalker::openLost(LossKind kind, const QString& name)
+{
+    const DrawingElement* element = drawingElement(name);
+    if (element != nullptr) {
+        m_census.objects.append({.objectClass = element->objectClass, .lost = kind});
+        m_census.detail(kind, kind == LossKind::GroupedObject ? QString() : name);
+    }
+    if (name == "dr3d:scene"_L1) {
+        return push(Spot::Ignored);
+    }
+    push(Spot::Lost);
+    m_places.back().lost = kind;
+}
+
+void OpenDocumentWalker::openInLost(const QString& name)
+{
+    const LossKind kind = m_places.back().lost;
+    if (name == "office:annotation"_L1 || isInvisible(name) || isAnimation(name)) {
+        return openIgnored(name);
+    }
+    if (drawingElement(name) != nullptr) {
+        return openLost(kind, name);
+    }
+    const bool isText = isParagraph(name) || m_places.back().spot == Spot::LostParagraph;
+    push(isText ? Spot::LostParagraph : Spot::Lost);
+    m_places.back().lost = kind;
+}
+
+// A part of a text that is left out.
+void OpenDocumentWalker::openLostPart(const QString& name, LossKind otherwise)
+{
+    if (name == "office:annotation"_L1 || isInvisible(name) || isAnimation(name)) {
+        return openIgnored(name);
+    }
+    const bool isParagraphOfIt = isParagraph(name);
+    const LossKind kind = isParagraphOfIt ? otherwise : lostTextPart(name).value_or(otherwise);
+    const bool isPiece = isParagraphOfIt || kind == LossKind::LinkText ||
+                         kind == LossKind::TextField || kind == LossKind::TextElement ||
+                         kind == LossKind::Footnote;
+    if (kind == LossKind::TextField) {
+        m_census.detail(kind, name);
+    }
+    push(isPiece ? Spot::LostParagraph : Spot::Lost);
+    m_places.back().lost = kind;
+}
+
+void OpenDocumentWalker::openIgnored(const QString& name)
+{
+    if (name == "office:annotation"_L1) {
+        m_census.note(LossKind::Comment);
+    } else if (isAnimation(name)) {
+        m_census.note(LossKind::Animation);
+    }
+    push(Spot::Ignored);
+}
+
+} // namespace migration
