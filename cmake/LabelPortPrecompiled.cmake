@@ -14,6 +14,10 @@ set(LABELPORT_PRECOMPILED_core Qt6::Core)
 set(LABELPORT_PRECOMPILED_widgets Qt6::Widgets)
 set(LABELPORT_PRECOMPILED_tests Qt6::Widgets GTest::gtest GTest::gmock)
 
+# To optimize a test's own code takes far longer than it saves; what it tests is optimized as
+# always. The precompiled header must be made with the same options.
+set(LABELPORT_TEST_OPTIONS $<$<NOT:$<CONFIG:Debug>>:-O1>)
+
 function(labelport_precompile target header)
     if(NOT LABELPORT_PRECOMPILED_HEADERS)
         return()
@@ -25,6 +29,9 @@ function(labelport_precompile target header)
         target_precompile_headers(${provider} PRIVATE
             ${PROJECT_SOURCE_DIR}/cmake/precompiled/${header}.h)
         set_target_properties(${provider} PROPERTIES AUTOMOC OFF)
+        if(header STREQUAL tests)
+            target_compile_options(${provider} PRIVATE ${LABELPORT_TEST_OPTIONS})
+        endif()
     endif()
     target_precompile_headers(${target} REUSE_FROM ${provider})
 endfunction()
