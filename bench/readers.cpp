@@ -1,4 +1,4 @@
-// Each reader into a host that does nothing, beside its floor on the same file.
+// Each reader into a host that keeps no trace, beside its floor on the same file.
 //
 // bench_readers [LARGEST SIZE]             measures and prints the table
 // bench_readers --peak import|floor FILE   prints the bytes by which that raises the peak
@@ -10,8 +10,11 @@
 
 #include "opendocument/open_office_reader.h"
 #include "orvanta/legacy_orvanta.h"
+#include "recorder/recording_host.h"
 #include "tavrel/legacy_tavrel.h"
-#include "tests/support/silent_host/silent_host.h"
+
+#include "host/class_factory.h"
+#include "host/items/item.h"
 
 #include <QApplication>
 #include <QFile>
@@ -32,10 +35,9 @@ constexpr int Repetitions = 5;
 constexpr int ItemsPerRepetition = 10'000;
 
 template <class Reader>
-void importWith(const QString& path, silent::Canvas& canvas)
+void importWith(const QString& path, recorder::RecordingHost& host)
 {
-    silent::Datasources datasources;
-    Reader reader(&canvas, &datasources);
+    Reader reader(host.canvasModel(), host.datasourceController());
     if (!reader.importLabelFromFile(path)) {
         qFatal("%s cannot be imported", qPrintable(path));
     }
@@ -45,9 +47,8 @@ void importWith(const QString& path, silent::Canvas& canvas)
 template <class Reader>
 void makeReader()
 {
-    silent::Canvas canvas;
-    silent::Datasources datasources;
-    const Reader reader(&canvas, &datasources);
+    static recorder::RecordingHost host;
+    const Reader reader(host.canvasModel(), host.datasourceController());
 }
 
 // A text of a drawing as the reader writes it: what QGraphicsTextItem::setHtml() takes for
@@ -66,39 +67,16 @@ constexpr char16_t TextHtml[] =
 
 enum class RichTexts { AreHtml, ArePlain };
 
-/// Remembers what the reader had it make.
-class RememberingFactory : public ClassFactory
-{
-public:
-    Item* create(KestTypes::ShapeType type) override
-    {
-        types.append(type);
-        return m_factory.create(type);
-    }
-
-    QList<KestTypes::ShapeType> types;
-
-private:
-    silent::Factory m_factory;
-};
-
-class RememberingCanvas : public silent::Canvas
-{
-public:
-    ClassFactory* getClassFactory() override { return &factory; }
-
-    RememberingFactory factory;
-};
-
 // The host's share of an import: the same items made again, and nothing read.
-void makeItems(const QList<KestTypes::ShapeType>& types, RichTexts texts, silent::Canvas& canvas)
+void makeItems(const QList<KestTypes::ShapeType>& types, RichTexts texts,
+               recorder::RecordingHost& host)
 {
     for (const KestTypes::ShapeType type : types) {
-        Item* item = canvas.getClassFactory()->create(type);
+        Item* item = host.canvasModel()->getClassFactory()->create(type);
         if (type == KestTypes::RichText && texts == RichTexts::AreHtml) {
             dynamic_cast<QGraphicsTextItem&>(*item).setHtml(QString::fromUtf16(TextHtml));
         }
-        canvas.importItem(item);
+        host.canvasModel()->importItem(item);
     }
 }
 
@@ -107,7 +85,7 @@ struct Format
     QString name;
     QString ending;
     std::function<QByteArray(int)> label;
-    void (*importFile)(const QString&, silent::Canvas&);
+    void (*importFile)(const QString&, recorder::RecordingHost&);
     void (*makeReader)();
     void (*floor)(const QString&);
     RichTexts texts = RichTexts::ArePlain;
@@ -139,9 +117,13 @@ QString benchmarkName(const Format& format, int size)
 // One after the other, so that whatever slows the machine down slows all of them.
 void measureTogether(benchmark::State& state, const Format& format, const QString& path)
 {
-    RememberingCanvas remembering;
+    recorder::RecordingHost remembering;
     format.importFile(path, remembering);
-    remembering.clear();
+    QList<KestTypes::ShapeType> types;
+    for (const recorder::ItemState& state : remembering.itemStates()) {
+        types.append(state.type);
+    }
+    remembering.reset();
     double floor = 0.0;
     double imported = 0.0;
     double host = 0.0;
@@ -151,11 +133,10 @@ void measureTogether(benchmark::State& state, const Format& format, const QStrin
         reader += bench::secondsOf(format.makeReader);
         floor += bench::secondsOf([&] { format.floor(path); });
         // The end of the items is not measured: it comes when the label is closed.
-        silent::Canvas canvas;
-        imported += bench::secondsOf([&] { format.importFile(path, canvas); });
-        canvas.clear();
-        host +=
-            bench::secondsOf([&] { makeItems(remembering.factory.types, format.texts, canvas); });
+        recorder::RecordingHost quietHost;
+        imported += bench::secondsOf([&] { format.importFile(path, quietHost); });
+        quietHost.reset();
+        host += bench::secondsOf([&] { makeItems(types, format.texts, quietHost); });
     }
     const auto times = static_cast<double>(state.iterations());
     state.counters["floor"] = floor / times;
@@ -251,10 +232,10 @@ int printPeak(const QString& what, const QString& path)
     for (const Format& known : formats()) {
         format = path.endsWith(known.ending) ? &known : format;
     }
-    silent::Canvas canvas;
+    recorder::RecordingHost host;
     const qint64 bytes = bench::peakOf([&] {
         if (what == u"import"_s) {
-            format->importFile(path, canvas);
+            format->importFile(path, host);
         } else {
             format->floor(path);
         }

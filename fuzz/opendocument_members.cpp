@@ -4,7 +4,7 @@
 #include "fuzz/harness.h"
 #include "fuzz/package_bytes.h"
 #include "opendocument/open_office_reader.h"
-#include "tests/support/silent_host/silent_host.h"
+#include "recorder/recording_host.h"
 
 void fuzzOneInput(const QByteArray& input)
 {
@@ -13,8 +13,7 @@ void fuzzOneInput(const QByteArray& input)
         return;
     }
     const MemoryFile file(packageBytes(input.left(border), input.mid(border + 1)));
-    silent::Canvas canvas;
-    silent::Datasources datasources;
-    OpenOfficeReader reader(&canvas, &datasources);
+    recorder::RecordingHost host;
+    OpenOfficeReader reader(host.canvasModel(), host.datasourceController());
     (void)reader.importLabelFromFile(file.path());
 }

@@ -2,18 +2,17 @@
 
 #include "fuzz/harness.h"
 #include "orvanta/legacy_orvanta.h"
-#include "tests/support/silent_host/silent_host.h"
+#include "recorder/recording_host.h"
 
 void fuzzOneInput(const QByteArray& input)
 {
     const MemoryFile file(input);
-    silent::Canvas canvas;
-    silent::Datasources datasources;
-    LegacyOrvanta reader(&canvas, &datasources);
+    recorder::RecordingHost host;
+    LegacyOrvanta reader(host.canvasModel(), host.datasourceController());
     const bool first = reader.importLabelFromFile(file.path());
-    const std::size_t items = canvas.itemCount();
+    const int items = host.importedCount();
     const bool second = reader.importLabelFromFile(file.path());
-    if (first != second || canvas.itemCount() != 2 * items) {
+    if (first != second || host.importedCount() != 2 * items) {
         qFatal("the second import differs from the first");
     }
 }

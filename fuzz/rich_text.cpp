@@ -5,7 +5,7 @@
 #include "fuzz/harness.h"
 #include "fuzz/package_bytes.h"
 #include "opendocument/open_office_reader.h"
-#include "tests/support/silent_host/silent_host.h"
+#include "recorder/recording_host.h"
 
 #include <QGraphicsTextItem>
 #include <QTextDocument>
@@ -46,12 +46,11 @@ void fuzzOneInput(const QByteArray& input)
     const QByteArray content =
         contentOf(input.left(std::max<qsizetype>(border, 0)), input.mid(border + 1));
     const MemoryFile file(packageBytes(Styles, content));
-    silent::Canvas canvas;
-    silent::Datasources datasources;
-    OpenOfficeReader reader(&canvas, &datasources);
+    recorder::RecordingHost host;
+    OpenOfficeReader reader(host.canvasModel(), host.datasourceController());
     (void)reader.importLabelFromFile(file.path());
-    for (const auto& item : canvas.items()) {
-        if (auto* text = dynamic_cast<QGraphicsTextItem*>(item.get())) {
+    for (int number = 1; number <= host.createdCount(); ++number) {
+        if (auto* text = dynamic_cast<QGraphicsTextItem*>(host.item(number))) {
             checkDocument(*text->document());
         }
     }

@@ -1,19 +1,18 @@
 // Binary canvas files as whole files, twice through one reader.
 
 #include "fuzz/harness.h"
+#include "recorder/recording_host.h"
 #include "tavrel/legacy_tavrel.h"
-#include "tests/support/silent_host/silent_host.h"
 
 void fuzzOneInput(const QByteArray& input)
 {
     const MemoryFile file(input);
-    silent::Canvas canvas;
-    silent::Datasources datasources;
-    LegacyTavrel reader(&canvas, &datasources);
+    recorder::RecordingHost host;
+    LegacyTavrel reader(host.canvasModel(), host.datasourceController());
     const bool first = reader.importLabelFromFile(file.path());
-    const std::size_t items = canvas.itemCount();
+    const int items = host.importedCount();
     const bool second = reader.importLabelFromFile(file.path());
-    if (first != second || canvas.itemCount() != 2 * items) {
+    if (first != second || host.importedCount() != 2 * items) {
         qFatal("the second import differs from the first");
     }
 }

@@ -10,9 +10,12 @@ void LogRecorder::append(const QDateTime& /*timeStamp*/, Logger::LogLevel level,
                          int /*line*/, const char* function, const QString& /*category*/,
                          const QString& message)
 {
+    if (Recording::current() != m_recording) {
+        return;
+    }
     // Neither time nor line number: a trace stays the same when code above a log call grows.
-    m_recording->trace().log(Logger::levelToString(level).toLower(), QString::fromUtf8(file),
-                             QString::fromUtf8(function), message);
+    m_recording->trace()->log(Logger::levelToString(level).toLower(), QString::fromUtf8(file),
+                              QString::fromUtf8(function), message);
 }
 
 } // namespace recorder

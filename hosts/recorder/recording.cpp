@@ -6,6 +6,8 @@
 #include <QGraphicsItem>
 #include <QTextDocument>
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace recorder {
@@ -29,9 +31,12 @@ std::optional<QString> htmlOf(const QGraphicsItem* item)
 
 } // namespace
 
-Recording::Recording(QIODevice& out)
-    : m_trace(out)
-{}
+Recording::Recording(QIODevice* out)
+{
+    if (out != nullptr) {
+        m_trace.emplace(*out);
+    }
+}
 
 std::shared_ptr<Recording> Recording::current()
 {
@@ -61,6 +66,24 @@ void Recording::markImported(int number)
 void Recording::forgetItem(int number)
 {
     m_items.at(static_cast<std::size_t>(number - 1)).item = nullptr;
+}
+
+int Recording::importedCount() const
+{
+    return static_cast<int>(
+        std::count_if(m_items.begin(), m_items.end(), std::mem_fn(&Entry::imported)));
+}
+
+QGraphicsItem* Recording::item(int number) const
+{
+    return m_items.at(static_cast<std::size_t>(number - 1)).item;
+}
+
+void Recording::reset()
+{
+    m_items.clear();
+    m_symbolDatabases = 0;
+    m_messageBoxes.clear();
 }
 
 std::vector<ItemState> Recording::itemStates() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kest_types.h"
+#include "recorder/behavior.h"
 #include "recorder/trace_writer.h"
 
 #include <QList>
@@ -8,6 +9,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QGraphicsItem;
@@ -23,14 +25,38 @@ namespace recorder {
 class Recording
 {
 public:
-    explicit Recording(QIODevice& out);
+    /// @param out where the trace goes; null to keep none
+    explicit Recording(QIODevice* out);
 
     /// The recording that the link-time services write to; null when there is none. They
     /// are called without a host at hand, so there can be only one at a time.
     [[nodiscard]] static std::shared_ptr<Recording> current();
     static void setCurrent(const std::shared_ptr<Recording>& recording);
 
-    [[nodiscard]] TraceWriter& trace() { return m_trace; }
+    /// Null if no trace is kept.
+    [[nodiscard]] TraceWriter* trace() { return m_trace ? &*m_trace : nullptr; }
+    [[nodiscard]] Behavior& behavior() { return m_behavior; }
+
+    /// Writes a call down. The arguments become text only if a trace is kept.
+    template <typename... Arguments>
+    void call(const QString& target, const char* name, const Arguments&... arguments)
+    {
+        if (m_trace) {
+            m_trace->call(target, name, {TraceValue(arguments)...});
+        }
+    }
+    /// The same with the value that the call returns.
+    template <typename Returned, typename... Arguments>
+    void answer(const Returned& returned, const QString& target, const char* name,
+                const Arguments&... arguments)
+    {
+        if (m_trace) {
+            m_trace->call(target, name, {TraceValue(arguments)...}, returned);
+        }
+    }
+
+    /// Forgets everything that was recorded; items must be gone.
+    void reset();
 
     /// The number that the next item will have.
     [[nodiscard]] int nextItemNumber() const;
@@ -39,6 +65,9 @@ public:
     void markImported(int number);
     /// The item is being deleted.
     void forgetItem(int number);
+    [[nodiscard]] int importedCount() const;
+    /// The item of this number; null once it is deleted.
+    [[nodiscard]] QGraphicsItem* item(int number) const;
     /// States of the items that still exist, in the order of creation.
     [[nodiscard]] std::vector<ItemState> itemStates() const;
 
@@ -57,7 +86,8 @@ private:
         bool imported = false;
     };
 
-    TraceWriter m_trace;
+    std::optional<TraceWriter> m_trace;
+    Behavior m_behavior;
     std::vector<Entry> m_items;
     int m_symbolDatabases = 0;
     QList<QPointer<TalMessageBox>> m_messageBoxes;

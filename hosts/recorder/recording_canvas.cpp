@@ -31,60 +31,73 @@ RecordingCanvas::~RecordingCanvas() = default;
 
 void RecordingCanvas::importItem(Item* item)
 {
-    m_recording->trace().call(Target, "importItem", {itemValue(item)});
+    m_recording->call(Target, "importItem", itemValue(item));
     if (const auto* recorded = dynamic_cast<RecordedItem*>(item)) {
         m_recording->markImported(recorded->number());
     }
-    adopt(item);
+    const Behavior& behavior = m_recording->behavior();
+    if (behavior.onImportItem) {
+        behavior.onImportItem();
+    }
+    if (behavior.deletesItems) {
+        delete item;
+    } else {
+        adopt(item);
+    }
 }
 
 void RecordingCanvas::importCanvasParameters(double width, double height, bool canvasFlag,
                                              bool orientation)
 {
-    m_recording->trace().call(Target, "importCanvasParameters",
-                              {width, height, canvasFlag, orientation});
+    m_recording->call(Target, "importCanvasParameters", width, height, canvasFlag, orientation);
 }
 
 void RecordingCanvas::setCanvasBackgroundColor(const QColor& color)
 {
-    m_recording->trace().call(Target, "setCanvasBackgroundColor", {color});
+    m_recording->call(Target, "setCanvasBackgroundColor", color);
     m_backgroundColor = color;
 }
 
 void RecordingCanvas::setCanvasDefaultPenColor(const QColor& color)
 {
-    m_recording->trace().call(Target, "setCanvasDefaultPenColor", {color});
+    m_recording->call(Target, "setCanvasDefaultPenColor", color);
     m_defaultPenColor = color;
 }
 
 QColor RecordingCanvas::canvasBackgroundColor() const
 {
-    m_recording->trace().call(Target, "canvasBackgroundColor", {}, m_backgroundColor);
+    m_recording->answer(m_backgroundColor, Target, "canvasBackgroundColor");
     return m_backgroundColor;
 }
 
 QColor RecordingCanvas::canvasDefaultPenColor() const
 {
-    m_recording->trace().call(Target, "canvasDefaultPenColor", {}, m_defaultPenColor);
+    m_recording->answer(m_defaultPenColor, Target, "canvasDefaultPenColor");
     return m_defaultPenColor;
 }
 
 void RecordingCanvas::setReadOnlyStateOnItemsInList(bool readOnly, QList<QGraphicsItem*> items)
 {
-    m_recording->trace().call(Target, "setReadOnlyStateOnItemsInList",
-                              {readOnly, itemValues(items)});
+    m_recording->call(Target, "setReadOnlyStateOnItemsInList", readOnly, itemValues(items));
 }
 
 void RecordingCanvas::setUserBackgroundStateOnItemsInList(bool background,
                                                           QList<QGraphicsItem*> items)
 {
-    m_recording->trace().call(Target, "setUserBackgroundStateOnItemsInList",
-                              {background, itemValues(items)});
+    m_recording->call(Target, "setUserBackgroundStateOnItemsInList", background, itemValues(items));
 }
 
 void RecordingCanvas::completeCanvasLoading()
 {
-    m_recording->trace().call(Target, "completeCanvasLoading", {});
+    m_recording->call(Target, "completeCanvasLoading");
+}
+
+void RecordingCanvas::clear()
+{
+    m_items.clear();
+    m_adopted.clear();
+    m_backgroundColor = Qt::white;
+    m_defaultPenColor = Qt::black;
 }
 
 void RecordingCanvas::adopt(Item* item)

@@ -19,7 +19,10 @@ public:
     explicit RecordingCanvas(std::shared_ptr<Recording> recording);
     ~RecordingCanvas() override;
 
-    [[nodiscard]] ClassFactory* getClassFactory() override { return &m_factory; }
+    [[nodiscard]] ClassFactory* getClassFactory() override
+    {
+        return m_recording->behavior().hasFactory ? &m_factory : nullptr;
+    }
     void importItem(Item* item) override;
     void importCanvasParameters(double width, double height, bool canvasFlag,
                                 bool orientation) override;
@@ -30,6 +33,9 @@ public:
     void setReadOnlyStateOnItemsInList(bool readOnly, QList<QGraphicsItem*> items) override;
     void setUserBackgroundStateOnItemsInList(bool background, QList<QGraphicsItem*> items) override;
     void completeCanvasLoading() override;
+
+    /// Deletes the items, and is white with a black pen again.
+    void clear();
 
 private:
     void adopt(Item* item);

@@ -15,19 +15,21 @@ RecordingDatasource::RecordingDatasource(std::shared_ptr<Recording> recording, i
 
 void RecordingDatasource::setDatasourceProperty(const QString& name, const QVariant& value)
 {
-    m_recording->trace().call(m_target, "setDatasourceProperty", {name, value});
+    m_recording->call(m_target, "setDatasourceProperty", name, value);
 }
 
 QList<QString> RecordingDatasource::fields() const
 {
-    const QStringList names{QStringLiteral("Value")};
-    m_recording->trace().call(m_target, "fields", {}, names);
+    const QStringList names = m_recording->behavior().sourcesHaveFields
+                                  ? QStringList{QStringLiteral("Value")}
+                                  : QStringList();
+    m_recording->answer(names, m_target, "fields");
     return names;
 }
 
 void RecordingDatasource::setSelectedFields(const QList<QString>& fields)
 {
-    m_recording->trace().call(m_target, "setSelectedFields", {fields});
+    m_recording->call(m_target, "setSelectedFields", fields);
 }
 
 RecordingDatasources::RecordingDatasources(std::shared_ptr<Recording> recording)
@@ -40,15 +42,15 @@ int RecordingDatasources::createDatasource(const QString& kind)
 {
     const int id = static_cast<int>(m_sources.size()) + 1;
     m_sources.push_back(std::make_unique<RecordingDatasource>(m_recording, id));
-    m_recording->trace().call(Target, "createDatasource", {kind}, id);
+    m_recording->answer(id, Target, "createDatasource", kind);
     return id;
 }
 
 TalDatasource* RecordingDatasources::getDatasource(int id)
 {
-    const bool known = id >= 1 && id <= static_cast<int>(m_sources.size());
-    m_recording->trace().call(Target, "getDatasource", {id},
-                              known ? TraceValue(id) : TraceValue(nullptr));
+    const bool known = id >= 1 && id <= static_cast<int>(m_sources.size()) &&
+                       !m_recording->behavior().losesDatasources;
+    m_recording->answer(known ? TraceValue(id) : TraceValue(nullptr), Target, "getDatasource", id);
     return known ? m_sources[static_cast<std::size_t>(id - 1)].get() : nullptr;
 }
 

@@ -34,6 +34,8 @@ public:
     [[nodiscard]] int createDatasource(const QString& kind) override;
     [[nodiscard]] TalDatasource* getDatasource(int id) override;
 
+    void clear() { m_sources.clear(); }
+
 private:
     std::shared_ptr<Recording> m_recording;
     std::vector<std::unique_ptr<RecordingDatasource>> m_sources;

@@ -66,12 +66,17 @@ RecordingFactory::RecordingFactory(std::shared_ptr<Recording> recording)
 
 Item* RecordingFactory::create(KestTypes::ShapeType type)
 {
-    MadeItem made = makeItem(type, m_recording);
+    const Behavior& behavior = m_recording->behavior();
+    // A class that is right for no other type.
+    const auto other = type == KestTypes::Picture ? KestTypes::Line : KestTypes::Picture;
+    MadeItem made;
+    if (!behavior.makesNothingOf.contains(type)) {
+        made = makeItem(behavior.makesOthersOf.contains(type) ? other : type, m_recording);
+    }
     if (made.item) {
         m_recording->addItem(type, made.graphics);
     }
-    m_recording->trace().call(QStringLiteral("factory"), "create", {type},
-                              itemValue(made.item.get()));
+    m_recording->answer(itemValue(made.item.get()), QStringLiteral("factory"), "create", type);
     return made.item.release();
 }
 

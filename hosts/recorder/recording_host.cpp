@@ -3,19 +3,41 @@
 namespace recorder {
 
 RecordingHost::RecordingHost(QIODevice& out)
-    : m_recording(std::make_shared<Recording>(out))
+    : RecordingHost(std::make_shared<Recording>(&out))
+{
+    loggerInstance()->registerAppender(&m_logRecorder);
+}
+
+RecordingHost::RecordingHost()
+    : RecordingHost(std::make_shared<Recording>(nullptr))
+{
+    behavior().symbolSize = QSizeF(100, 100);
+    behavior().conversion = Behavior::Conversion::OfAnything;
+}
+
+RecordingHost::RecordingHost(std::shared_ptr<Recording> recording)
+    : m_recording(std::move(recording))
     , m_canvas(m_recording)
     , m_datasources(m_recording)
     , m_logRecorder(m_recording)
 {
     Recording::setCurrent(m_recording);
-    loggerInstance()->registerAppender(&m_logRecorder);
 }
 
 RecordingHost::~RecordingHost()
 {
     loggerInstance()->removeAppender(&m_logRecorder);
-    Recording::setCurrent(nullptr);
+    if (Recording::current() == m_recording) {
+        Recording::setCurrent(nullptr);
+    }
+}
+
+void RecordingHost::reset()
+{
+    m_canvas.clear();
+    m_datasources.clear();
+    m_recording->reset();
+    Recording::setCurrent(m_recording);
 }
 
 void RecordingHost::writeItemStates()

@@ -28,13 +28,15 @@ public:
 /// A whole host that writes down what an importer does to it, and the log with it.
 ///
 /// Its answers never depend on the machine, so the same file gives the same trace
-/// everywhere. There can be one at a time; the link-time services belong to it while it
-/// lives.
+/// everywhere. The link-time services and the log belong to the host that was made or reset last.
 class RecordingHost
 {
 public:
     /// @param out where the trace goes; outlives the host and every item that it made
     explicit RecordingHost(QIODevice& out);
+    /// Keeps no trace, only the items, and takes every drawing for a symbol without a look: what
+    /// an import costs without a host.
+    RecordingHost();
     ~RecordingHost();
     RecordingHost(const RecordingHost&) = delete;
     RecordingHost& operator=(const RecordingHost&) = delete;
@@ -43,13 +45,27 @@ public:
     [[nodiscard]] DatasourceController* datasourceController() { return &m_datasources; }
     [[nodiscard]] FileController* fileController() { return &m_fileController; }
 
-    [[nodiscard]] TraceWriter& trace() { return m_recording->trace(); }
+    /// Only of a host that keeps a trace.
+    [[nodiscard]] TraceWriter& trace() { return *m_recording->trace(); }
+    [[nodiscard]] Behavior& behavior() { return m_recording->behavior(); }
+    /// States of the items that still exist, in the order of creation.
+    [[nodiscard]] std::vector<ItemState> itemStates() const { return m_recording->itemStates(); }
+    /// Items that the factory made, and those that the canvas was given.
+    [[nodiscard]] int createdCount() const { return m_recording->nextItemNumber() - 1; }
+    [[nodiscard]] int importedCount() const { return m_recording->importedCount(); }
+    /// The item of this number, from 1; null once it is deleted.
+    [[nodiscard]] QGraphicsItem* item(int number) const { return m_recording->item(number); }
+    /// Deletes items and data sources, and counts from 1 again: the host is as if new, and the
+    /// link-time services belong to it.
+    void reset();
     /// Closes the message boxes that importers have opened.
     void hideMessageBoxes() { m_recording->hideMessageBoxes(); }
     /// Writes what has become of the items.
     void writeItemStates();
 
 private:
+    explicit RecordingHost(std::shared_ptr<Recording> recording);
+
     std::shared_ptr<Recording> m_recording;
     RecordingCanvas m_canvas;
     RecordingDatasources m_datasources;

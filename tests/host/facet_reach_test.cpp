@@ -136,7 +136,7 @@ void expectInOrder(const Class& object)
 
 TEST_F(FacetReach, basesLieInTheOrderOfTheContract)
 {
-    const auto recording = std::make_shared<recorder::Recording>(m_out);
+    const auto recording = std::make_shared<recorder::Recording>(&m_out);
     const auto enter = [&recording](auto* item) { recording->addItem(KestTypes::Line, item); };
     const auto check = [&]<typename Recorded, typename Class, typename... Bases>() {
         const Recorded item(recording, recording->nextItemNumber());

@@ -2,15 +2,19 @@
 // loses symbols, or deletes what it is given. An import leaves out what it cannot have, says
 // so in the log, and goes on.
 
-#include "tests/hostile/failing_host.h"
+#include "tests/hostile/importing.h"
 #include "tests/hostile/whole_labels.h"
 #include "tests/support/captured_log.h"
+#include "tests/support/test_host/test_host.h"
 
 #include <gtest/gtest.h>
 
-using failing::Making;
+using namespace Qt::StringLiterals;
+using Conversion = recorder::Behavior::Conversion;
 
 namespace {
+
+enum class Making { Nothing, WrongClass };
 
 constexpr ReaderKind Readers[] = {ReaderKind::Tavrel, ReaderKind::Orvanta,
                                   ReaderKind::OpenDocument};
@@ -67,10 +71,7 @@ std::string nameOfFault(const testing::TestParamInfo<Fault>& info)
 class HostFaults : public testing::Test
 {
 protected:
-    bool import(ReaderKind reader)
-    {
-        return failing::import(importer, reader, labels().path(reader));
-    }
+    bool import(ReaderKind reader) { return importBy(importer, reader, labels().path(reader)); }
     [[nodiscard]] int refusals(const char* words) const
     {
         return int(log.messages().filter(QString::fromLatin1(words)).size());
@@ -82,10 +83,8 @@ protected:
     }
 
     CapturedLog log;
-    failing::Canvas canvas;
-    failing::Datasources datasources;
-    failing::NoFiles files;
-    LegacyTemplateImporter importer{&canvas, &files, &datasources};
+    TestHost host;
+    LegacyTemplateImporter importer{host.canvas(), host.files(), host.datasources()};
 };
 
 class MissingItem : public HostFaults, public testing::WithParamInterface<Fault>
@@ -110,11 +109,11 @@ TEST_P(EveryReader, TakesTheWholeLabelToAHostWithoutFaults)
 {
     EXPECT_TRUE(import(GetParam()));
     for (const auto& [type, count] : WholeLabels::items(GetParam())) {
-        EXPECT_EQ(canvas.count(type), count) << std::hex << type;
+        EXPECT_EQ(host.itemCount(type), count) << std::hex << type;
     }
-    EXPECT_EQ(int(canvas.itemCount()), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(host.itemCount(), sumOf(WholeLabels::items(GetParam())));
     EXPECT_EQ(refusedItems(), 0) << qPrintable(log.messages().join(u'\n'));
-    EXPECT_EQ(canvas.completed, 1);
+    EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Faults, MissingItem, testing::ValuesIn(allFaults()), nameOfFault);
@@ -122,31 +121,31 @@ INSTANTIATE_TEST_SUITE_P(Faults, MissingItem, testing::ValuesIn(allFaults()), na
 TEST_P(MissingItem, IsLeftOutAndSaid)
 {
     const Fault fault = GetParam();
-    canvas.factory.making = fault.making;
-    canvas.factory.of = fault.type;
+    (fault.making == Making::Nothing ? host.behavior().makesNothingOf
+                                     : host.behavior().makesOthersOf) = {fault.type};
     if (stopsTheProcess(fault)) {
         EXPECT_DEATH((void)import(fault.reader), "makes no lines");
         return;
     }
     EXPECT_TRUE(import(fault.reader));
-    EXPECT_EQ(canvas.completed, 1);
+    EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 1);
     const auto expected = WholeLabels::items(fault.reader);
-    EXPECT_EQ(canvas.count(fault.type), 0);
+    EXPECT_EQ(host.itemCount(fault.type), 0);
     EXPECT_EQ(refusedItems(), expected.at(fault.type)) << qPrintable(log.messages().join(u'\n'));
     for (const auto& [type, count] : expected) {
         // A drawing's text goes with the box that it stands in.
         if (type != fault.type && type != KestTypes::RichText) {
-            EXPECT_EQ(canvas.count(type), count) << std::hex << type;
+            EXPECT_EQ(host.itemCount(type), count) << std::hex << type;
         }
     }
 }
 
 TEST_P(EveryReader, ImportsNothingOntoACanvasWithoutAFactory)
 {
-    canvas.hasFactory = false;
-    LegacyTemplateImporter poor(&canvas, &files, &datasources);
-    (void)failing::import(poor, GetParam(), labels().path(GetParam()));
-    EXPECT_EQ(canvas.itemCount(), 0U);
+    host.behavior().hasFactory = false;
+    LegacyTemplateImporter poor(host.canvas(), host.files(), host.datasources());
+    (void)importBy(poor, GetParam(), labels().path(GetParam()));
+    EXPECT_EQ(host.itemCount(), 0);
     EXPECT_GE(refusedItems(), sumOf(WholeLabels::items(GetParam())) - 2)
         << "but for the texts of boxes that are not there: "
         << qPrintable(log.messages().join(u'\n'));
@@ -154,62 +153,58 @@ TEST_P(EveryReader, ImportsNothingOntoACanvasWithoutAFactory)
 
 TEST_P(EveryReader, GoesOnWhenTheCanvasDeletesWhatItGets)
 {
-    canvas.deletesItems = true;
+    host.behavior().deletesItems = true;
     EXPECT_TRUE(import(GetParam()));
-    EXPECT_EQ(canvas.itemCount(), 0U);
-    EXPECT_GE(canvas.deleted, sumOf(WholeLabels::items(GetParam())) - 2);
-    EXPECT_EQ(canvas.completed, 1);
+    EXPECT_EQ(host.itemCount(), 0);
+    EXPECT_GE(host.count(u"importItem"_s), sumOf(WholeLabels::items(GetParam())) - 2);
+    EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 1);
 }
 
 TEST_F(HostFaults, AnItemThatTheCanvasDeletesBeforeItIsSetUpIsSaid)
 {
-    canvas.deletesItems = true;
+    host.behavior().deletesItems = true;
     EXPECT_TRUE(import(ReaderKind::Tavrel));
     EXPECT_EQ(refusals("deleted the item"), 1) << "only texts are set up in the canvas";
     EXPECT_TRUE(import(ReaderKind::Orvanta));
     EXPECT_EQ(refusals("which the host deleted when it got it"),
               sumOf(WholeLabels::items(ReaderKind::Orvanta)));
+    host.forgetCalls();
     EXPECT_TRUE(import(ReaderKind::OpenDocument));
-    EXPECT_EQ(refusals("deleted an item when it got it"), canvas.deleted - 13 - 16);
+    EXPECT_EQ(refusals("deleted an item when it got it"), host.count(u"importItem"_s));
 }
 
 TEST_P(EveryReader, GoesOnWithoutADataSource)
 {
-    datasources.hasSources = false;
+    host.behavior().losesDatasources = true;
     EXPECT_TRUE(import(GetParam()));
-    EXPECT_EQ(int(canvas.itemCount()), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(host.itemCount(), sumOf(WholeLabels::items(GetParam())));
     EXPECT_EQ(refusals("does not have the data source") + refusals("a data source of the kind"),
-              datasources.made);
-    EXPECT_EQ(datasources.made > 0, GetParam() != ReaderKind::OpenDocument);
+              host.count(u"createDatasource"_s));
+    EXPECT_EQ(host.count(u"createDatasource"_s) > 0, GetParam() != ReaderKind::OpenDocument);
 }
 
 TEST_P(EveryReader, BindsToASourceWithoutFields)
 {
+    host.behavior().sourcesHaveFields = false;
     EXPECT_TRUE(import(GetParam()));
-    EXPECT_EQ(int(canvas.itemCount()), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(host.itemCount(), sumOf(WholeLabels::items(GetParam())));
 }
 
-class SymbolFaults
-    : public HostFaults,
-      public testing::WithParamInterface<std::tuple<ReaderKind, silent::SymbolConversion>>
-{
-protected:
-    ~SymbolFaults() override { silent::symbolConversion = silent::SymbolConversion::Works; }
-};
+class SymbolFaults : public HostFaults,
+                     public testing::WithParamInterface<std::tuple<ReaderKind, Conversion>>
+{};
 
 INSTANTIATE_TEST_SUITE_P(Readers, SymbolFaults,
                          testing::Combine(testing::ValuesIn(Readers),
-                                          testing::Values(silent::SymbolConversion::Fails,
-                                                          silent::SymbolConversion::Forgets)));
+                                          testing::Values(Conversion::Fails, Conversion::Loses)));
 
 TEST_P(SymbolFaults, CostNothingButTheSymbol)
 {
     const auto [reader, conversion] = GetParam();
-    silent::symbolConversion = conversion;
+    host.behavior().conversion = conversion;
     EXPECT_TRUE(import(reader));
     const int all = sumOf(WholeLabels::items(reader));
     // A drawing keeps the place of a symbol that its host has lost.
-    const bool keepsPlace =
-        reader == ReaderKind::OpenDocument && conversion == silent::SymbolConversion::Forgets;
-    EXPECT_EQ(int(canvas.itemCount()), keepsPlace ? all : all - 1);
+    const bool keepsPlace = reader == ReaderKind::OpenDocument && conversion == Conversion::Loses;
+    EXPECT_EQ(host.itemCount(), keepsPlace ? all : all - 1);
 }

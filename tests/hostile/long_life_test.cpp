@@ -3,8 +3,9 @@
 // what a reader has to keep: symbol databases that are open, and of OpenDocument files the
 // page, its unit and the styles.
 
+#include "tests/hostile/importing.h"
 #include "tests/hostile/many_labels.h"
-#include "tests/hostile/switching_host.h"
+#include "tests/support/test_host/test_host.h"
 
 #include "importer/reader_choice.h"
 #include "tavrel/item_header.h"
@@ -65,15 +66,22 @@ QByteArray comparable(const QByteArray& trace, qint64 firstItemNumber)
 /// An importer with the host that it has for life.
 struct LivingImporter
 {
-    SwitchingHost host;
-    LegacyTemplateImporter importer{&host.canvas, &host.files, &host.datasources};
+    TestHost host;
+    LegacyTemplateImporter importer{host.canvas(), host.files(), host.datasources()};
 
     QByteArray trace(const Label& label)
     {
         // Only the binary reader counts items.
         const bool isNumbered = label.reader == ReaderKind::Tavrel;
         const qint64 first = isNumbered ? tavrel::takeItemNumber() + 1 : 0;
-        const QByteArray trace = comparable(host.trace(importer, label), first);
+        recorder::RecordingHost& recorder = host.recorder();
+        recorder.reset();
+        const bool isImported = importBy(importer, label.reader, label.path);
+        recorder.hideMessageBoxes();
+        recorder.writeItemStates();
+        recorder.trace().end(isImported);
+        recorder.reset();
+        const QByteArray trace = comparable(host.takeTrace(), first);
         runEventLoopOnce();
         return trace;
     }

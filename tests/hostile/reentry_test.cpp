@@ -1,9 +1,10 @@
 // What a host may do while an import runs: from the signals about message boxes everything,
 // the importer's end included; a second import in the middle of one is refused.
 
-#include "tests/hostile/failing_host.h"
+#include "tests/hostile/importing.h"
 #include "tests/hostile/whole_labels.h"
 #include "tests/support/captured_log.h"
+#include "tests/support/test_host/test_host.h"
 
 #include "host/services/tal_message_box.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
@@ -39,11 +40,9 @@ protected:
     QTemporaryDir folder;
     const QString withBox = folder.filePath(QStringLiteral("label.cnv"));
     CapturedLog log;
-    failing::Canvas canvasModel;
-    failing::Datasources datasources;
-    failing::NoFiles files;
+    TestHost host;
     std::unique_ptr<LegacyTemplateImporter> importer =
-        std::make_unique<LegacyTemplateImporter>(&canvasModel, &files, &datasources);
+        std::make_unique<LegacyTemplateImporter>(host.canvas(), host.files(), host.datasources());
 };
 
 } // namespace
@@ -56,8 +55,8 @@ TEST_F(Reentry, AnImportFromThePopupIsRefused)
     EXPECT_TRUE(importer->importLabelFromTavrelFile(withBox));
     EXPECT_FALSE(nested);
     EXPECT_EQ(refusals(), 1);
-    EXPECT_EQ(canvasModel.itemCount(), 1U);
-    EXPECT_EQ(canvasModel.completed, 1);
+    EXPECT_EQ(host.itemCount(), 1);
+    EXPECT_EQ(host.count(QStringLiteral("completeCanvasLoading")), 1);
 }
 
 TEST_F(Reentry, AnImportFromAHostsOwnCallIsRefusedWhateverTheFormat)
@@ -67,13 +66,13 @@ TEST_F(Reentry, AnImportFromAHostsOwnCallIsRefusedWhateverTheFormat)
          {ReaderKind::Tavrel, ReaderKind::Orvanta, ReaderKind::OpenDocument}) {
         for (const ReaderKind inner :
              {ReaderKind::Tavrel, ReaderKind::Orvanta, ReaderKind::OpenDocument}) {
-            const std::size_t before = canvasModel.itemCount();
+            const int before = host.itemCount();
             const int refused = refusals();
-            canvasModel.duringImport = [&] {
-                EXPECT_FALSE(failing::import(*importer, inner, labels.path(inner)));
+            host.behavior().onImportItem = [&] {
+                EXPECT_FALSE(importBy(*importer, inner, labels.path(inner)));
             };
-            EXPECT_TRUE(failing::import(*importer, outer, labels.path(outer)));
-            const auto added = int(canvasModel.itemCount() - before);
+            EXPECT_TRUE(importBy(*importer, outer, labels.path(outer)));
+            const int added = host.itemCount() - before;
             int expected = 0;
             for (const auto& [type, count] : WholeLabels::items(outer)) {
                 expected += count;
@@ -107,7 +106,7 @@ TEST_F(Reentry, AfterAnImportTheNextOneMayRunEvenFromTheBoxThatGoes)
     const QPointer<QWidget> first = box;
     Q_EMIT qobject_cast<TalMessageBox*>(first.data())->popupHideSignal();
     EXPECT_EQ(runs, 1);
-    EXPECT_EQ(canvasModel.itemCount(), 2U);
+    EXPECT_EQ(host.itemCount(), 2);
     EXPECT_NE(box, first);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(first.isNull());
@@ -124,7 +123,8 @@ TEST_F(Reentry, TheImporterMayGoWhenTheBoxIsShown)
                      });
     EXPECT_FALSE(importer->importLabelFromTavrelFile(withBox));
     EXPECT_TRUE(box.isNull()) << "the box was the importer's";
-    EXPECT_EQ(canvasModel.completed, 0) << "the canvas may be gone, too";
+    EXPECT_EQ(host.count(QStringLiteral("completeCanvasLoading")), 0)
+        << "the canvas may be gone, too";
 }
 
 TEST_F(Reentry, TheImporterMayGoWhenAnEarlierBoxIsWithdrawn)

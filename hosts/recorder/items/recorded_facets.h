@@ -28,27 +28,27 @@ public:
 
     void setItemSize(const QSizeF& size) override
     {
-        this->record("setItemSize", {size.width(), size.height()});
+        this->record("setItemSize", size.width(), size.height());
         m_size = size;
     }
     [[nodiscard]] QSizeF getItemSize() const override
     {
-        this->record("getItemSize", {}, m_size);
+        this->answer(m_size, "getItemSize");
         return m_size;
     }
     [[nodiscard]] double getItemWidth() const override
     {
-        this->record("getItemWidth", {}, m_size.width());
+        this->answer(m_size.width(), "getItemWidth");
         return m_size.width();
     }
     [[nodiscard]] double getItemHeight() const override
     {
-        this->record("getItemHeight", {}, m_size.height());
+        this->answer(m_size.height(), "getItemHeight");
         return m_size.height();
     }
-    void setItemRotation(double degrees) override { this->record("setItemRotation", {degrees}); }
-    void setFlipHorizontal(bool flip) override { this->record("setFlipHorizontal", {flip}); }
-    void setFlipVertical(bool flip) override { this->record("setFlipVertical", {flip}); }
+    void setItemRotation(double degrees) override { this->record("setItemRotation", degrees); }
+    void setFlipHorizontal(bool flip) override { this->record("setFlipHorizontal", flip); }
+    void setFlipVertical(bool flip) override { this->record("setFlipVertical", flip); }
 
 protected:
     /// The size that the content has brought with it.
@@ -63,11 +63,11 @@ class Pen : public Base
 {
 public:
     using Base::Base;
-    void setPenColor(const QColor& color) override { this->record("setPenColor", {color}); }
-    void setPenWidth(quint16 width) override { this->record("setPenWidth", {width}); }
-    void setPenStyle(int style) override { this->record("setPenStyle", {style}); }
-    void setCapStyle(int style) override { this->record("setCapStyle", {style}); }
-    void setJoinStyle(int style) override { this->record("setJoinStyle", {style}); }
+    void setPenColor(const QColor& color) override { this->record("setPenColor", color); }
+    void setPenWidth(quint16 width) override { this->record("setPenWidth", width); }
+    void setPenStyle(int style) override { this->record("setPenStyle", style); }
+    void setCapStyle(int style) override { this->record("setCapStyle", style); }
+    void setJoinStyle(int style) override { this->record("setJoinStyle", style); }
 };
 
 template <typename Base>
@@ -75,7 +75,7 @@ class FillColor : public Base
 {
 public:
     using Base::Base;
-    void setFillColor(const QColor& color) override { this->record("setFillColor", {color}); }
+    void setFillColor(const QColor& color) override { this->record("setFillColor", color); }
 };
 
 template <typename Base>
@@ -83,8 +83,8 @@ class Brush : public Base
 {
 public:
     using Base::Base;
-    void setFilled(bool filled) override { this->record("setFilled", {filled}); }
-    void setBrushStyle(int style) override { this->record("setBrushStyle", {style}); }
+    void setFilled(bool filled) override { this->record("setFilled", filled); }
+    void setBrushStyle(int style) override { this->record("setBrushStyle", style); }
 };
 
 template <typename Base>
@@ -92,7 +92,7 @@ class TextColor : public Base
 {
 public:
     using Base::Base;
-    void setTextColor(const QColor& color) override { this->record("setTextColor", {color}); }
+    void setTextColor(const QColor& color) override { this->record("setTextColor", color); }
 };
 
 template <typename Base>
@@ -100,14 +100,11 @@ class Font : public Base
 {
 public:
     using Base::Base;
-    void setFontFamily(const QString& family) override { this->record("setFontFamily", {family}); }
-    void setFontPointSize(int size) override { this->record("setFontPointSize", {size}); }
-    void setFontBold(bool bold) override { this->record("setFontBold", {bold}); }
-    void setFontItalic(bool italic) override { this->record("setFontItalic", {italic}); }
-    void setFontUnderline(bool underline) override
-    {
-        this->record("setFontUnderline", {underline});
-    }
+    void setFontFamily(const QString& family) override { this->record("setFontFamily", family); }
+    void setFontPointSize(int size) override { this->record("setFontPointSize", size); }
+    void setFontBold(bool bold) override { this->record("setFontBold", bold); }
+    void setFontItalic(bool italic) override { this->record("setFontItalic", italic); }
+    void setFontUnderline(bool underline) override { this->record("setFontUnderline", underline); }
 };
 
 template <typename Base>
@@ -117,7 +114,7 @@ public:
     using Base::Base;
     void setTextAlignment(Qt::Alignment alignment) override
     {
-        this->record("setTextAlignment", {alignment});
+        this->record("setTextAlignment", alignment);
     }
 };
 
@@ -126,10 +123,10 @@ class DatasourceBinding : public Base
 {
 public:
     using Base::Base;
-    void setDatasourceId(int id) override { this->record("setDatasourceId", {id}); }
+    void setDatasourceId(int id) override { this->record("setDatasourceId", id); }
     void setDatasourceFields(const QStringList& fields) override
     {
-        this->record("setDatasourceFields", {fields});
+        this->record("setDatasourceFields", fields);
     }
 };
 
@@ -141,11 +138,11 @@ public:
     using Base::Base;
     void setForegroundColor(const QColor& color) override
     {
-        this->record("setForegroundColor", {color});
+        this->record("setForegroundColor", color);
     }
     void setBackgroundColor(const QColor& color) override
     {
-        this->record("setBackgroundColor", {color});
+        this->record("setBackgroundColor", color);
     }
 };
 

@@ -22,15 +22,21 @@ public:
     [[nodiscard]] int number() const { return m_number; }
 
 protected:
-    void record(const char* call, const TraceWriter::Values& arguments) const
+    template <typename... Arguments>
+    void record(const char* call, const Arguments&... arguments) const
     {
-        m_recording->trace().call(itemTarget(m_number), call, arguments);
+        if (m_recording->trace() != nullptr) {
+            m_recording->call(itemTarget(m_number), call, arguments...);
+        }
     }
-    void record(const char* call, const TraceWriter::Values& arguments,
-                const TraceValue& returned) const
+    template <typename Returned>
+    void answer(const Returned& returned, const char* call) const
     {
-        m_recording->trace().call(itemTarget(m_number), call, arguments, returned);
+        if (m_recording->trace() != nullptr) {
+            m_recording->answer(returned, itemTarget(m_number), call);
+        }
     }
+    [[nodiscard]] const Behavior& behavior() const { return m_recording->behavior(); }
 
 private:
     std::shared_ptr<Recording> m_recording;

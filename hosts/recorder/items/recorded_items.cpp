@@ -6,97 +6,97 @@ namespace recorder {
 
 void RecordedRoundedRectangle::setCornerRadius(double radius)
 {
-    record("setCornerRadius", {radius});
+    record("setCornerRadius", radius);
 }
 
 void RecordedLine::setLineLength(double length)
 {
-    record("setLineLength", {length});
+    record("setLineLength", length);
 }
 
 void RecordedLine::setLineStartPoint(const QPointF& point)
 {
-    record("setLineStartPoint", {point.x(), point.y()});
+    record("setLineStartPoint", point.x(), point.y());
 }
 
 void RecordedLine::setLineEndPoint(const QPointF& point)
 {
-    record("setLineEndPoint", {point.x(), point.y()});
+    record("setLineEndPoint", point.x(), point.y());
 }
 
 void RecordedLine::setLineStartMarker(int marker)
 {
-    record("setLineStartMarker", {marker});
+    record("setLineStartMarker", marker);
 }
 
 void RecordedLine::setLineEndMarker(int marker)
 {
-    record("setLineEndMarker", {marker});
+    record("setLineEndMarker", marker);
 }
 
 void RecordedSimpleText::setTextBoxSize(const QSizeF& size)
 {
-    record("setTextBoxSize", {size.width(), size.height()});
+    record("setTextBoxSize", size.width(), size.height());
 }
 
 void RecordedSimpleText::setOptionA(bool on)
 {
-    record("setOptionA", {on});
+    record("setOptionA", on);
 }
 
 void RecordedSimpleText::setOptionB(bool on)
 {
-    record("setOptionB", {on});
+    record("setOptionB", on);
 }
 
 void RecordedSimpleText::applyTextOptions()
 {
-    record("applyTextOptions", {});
+    record("applyTextOptions");
 }
 
 void RecordedSimpleText::importTextProperties(const QString& text, int fontSize, bool flag1,
                                               bool flag2, bool flag3,
                                               const QFlags<Qt::AlignmentFlag>& alignment)
 {
-    record("importTextProperties", {text, fontSize, flag1, flag2, flag3, alignment});
+    record("importTextProperties", text, fontSize, flag1, flag2, flag3, alignment);
 }
 
 void RecordedSimpleText::setItemSizeLimiting(signed char mode)
 {
-    record("setItemSizeLimiting", {mode});
+    record("setItemSizeLimiting", mode);
 }
 
 void RecordedRichText::adjustBoxSizeToContent(double width)
 {
     // One line's height, whatever the text: a real one would depend on the fonts installed.
     constexpr double fixedHeight = 12;
-    record("adjustBoxSizeToContent", {width});
+    record("adjustBoxSizeToContent", width);
     adoptSize({width, fixedHeight});
 }
 
 void RecordedBarcode::setBarcodeType(int code)
 {
-    record("setBarcodeType", {code});
+    record("setBarcodeType", code);
 }
 
 void RecordedBarcode::importBarcodeProperties(int symbology, const QString& content, bool flag3,
                                               int textAlignment, int moduleWidth, bool flag1,
                                               bool flag2, int option, int number, int value)
 {
-    record("importBarcodeProperties", {symbology, content, flag3, textAlignment, moduleWidth, flag1,
-                                       flag2, option, number, value});
+    record("importBarcodeProperties", symbology, content, flag3, textAlignment, moduleWidth, flag1,
+           flag2, option, number, value);
 }
 
 void RecordedPixMap::pixmapImportActions(const QPixmap& pixmap)
 {
-    record("pixmapImportActions", {pixmap});
+    record("pixmapImportActions", pixmap);
     adoptSize(pixmap.size());
 }
 
 void RecordedSymbol::loadItemFromData(const QByteArray& data)
 {
-    record("loadItemFromData", {data});
-    adoptSize(SvgDocument(data).defaultSize());
+    record("loadItemFromData", data);
+    adoptSize(behavior().symbolSize ? *behavior().symbolSize : SvgDocument(data).defaultSize());
 }
 
 } // namespace recorder

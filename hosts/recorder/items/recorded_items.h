@@ -48,7 +48,7 @@ class RecordedText : public DatasourceBinding<TextAlignment<Font<TextColor<Filla
 {
 public:
     using DatasourceBinding<TextAlignment<Font<TextColor<Fillable<Base>>>>>::DatasourceBinding;
-    void setText(const QString& text) override { this->record("setText", {text}); }
+    void setText(const QString& text) override { this->record("setText", text); }
 };
 
 class RecordedSimpleText : public RecordedText<SimpleTextItem>

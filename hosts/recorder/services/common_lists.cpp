@@ -45,10 +45,11 @@ bool contains(const CodeRange (&ranges)[Size], unsigned short code)
     });
 }
 
-bool recorded(const char* call, const recorder::TraceValue& argument, bool answer)
+template <typename Argument>
+bool recorded(const char* call, const Argument& argument, bool answer)
 {
     if (const auto recording = recorder::Recording::current()) {
-        recording->trace().call(QStringLiteral("lists"), call, {argument}, answer);
+        recording->answer(answer, QStringLiteral("lists"), call, argument);
     }
     return answer;
 }

@@ -5,6 +5,8 @@
 
 namespace {
 
+using Conversion = recorder::Behavior::Conversion;
+
 const QString Target = QStringLiteral("symbolcreator");
 
 } // namespace
@@ -24,16 +26,23 @@ SymbolCreator::~SymbolCreator() = default;
 void SymbolCreator::loadImportedSvg(const QByteArray& svg)
 {
     if (const auto recording = recorder::Recording::current()) {
-        recording->trace().call(Target, "loadImportedSvg", {svg});
+        recording->call(Target, "loadImportedSvg", svg);
     }
     d->loaded = svg;
 }
 
 bool SymbolCreator::convertSvgToSymbol(const QRectF& target)
 {
-    const bool converted = recorder::SvgDocument(d->loaded).isValid();
-    if (const auto recording = recorder::Recording::current()) {
-        recording->trace().call(Target, "convertSvgToSymbol", {target}, converted);
+    const auto recording = recorder::Recording::current();
+    const Conversion conversion = recording ? recording->behavior().conversion : Conversion::OfSvg;
+    const bool converted = conversion == Conversion::OfSvg
+                               ? recorder::SvgDocument(d->loaded).isValid()
+                               : conversion != Conversion::Fails;
+    if (recording) {
+        recording->answer(converted, Target, "convertSvgToSymbol", target);
+    }
+    if (conversion == Conversion::Fails || conversion == Conversion::Loses) {
+        d->loaded.clear();
     }
     return converted;
 }
@@ -43,7 +52,7 @@ QByteArray SymbolCreator::getSymbolData()
     // What was loaded, convertible or not, so that a trace shows what an importer does with
     // a drawing that is none.
     if (const auto recording = recorder::Recording::current()) {
-        recording->trace().call(Target, "getSymbolData", {}, d->loaded);
+        recording->answer(d->loaded, Target, "getSymbolData");
     }
     return d->loaded;
 }

@@ -8,14 +8,6 @@
 class SymbolDatabaseModel::Private
 {
 public:
-    template <typename... Returned>
-    void record(const char* call, const QString& argument, const Returned&... returned) const
-    {
-        if (const auto recording = recorder::Recording::current()) {
-            recording->trace().call(target, call, {argument}, returned...);
-        }
-    }
-
     QString target;
     QString path;
 };
@@ -33,13 +25,17 @@ SymbolDatabaseModel::~SymbolDatabaseModel() = default;
 
 void SymbolDatabaseModel::setDatabasePath(const QString& path)
 {
-    d->record("setDatabasePath", QFileInfo(path).fileName());
+    if (const auto recording = recorder::Recording::current()) {
+        recording->call(d->target, "setDatabasePath", QFileInfo(path).fileName());
+    }
     d->path = path;
 }
 
 QByteArray SymbolDatabaseModel::getDataFromSymbolName(QString name)
 {
     const QByteArray data = recorder::symbolFromFile(d->path, name);
-    d->record("getDataFromSymbolName", name, data);
+    if (const auto recording = recorder::Recording::current()) {
+        recording->answer(data, d->target, "getDataFromSymbolName", name);
+    }
     return data;
 }

@@ -16,7 +16,7 @@ TalMessageBox::TalMessageBox(const QString& title, const QString& text,
 {
     setWindowTitle(title);
     if (const auto recording = recorder::Recording::current()) {
-        recording->trace().call(QStringLiteral("messagebox"), "create", {title, text});
+        recording->call(QStringLiteral("messagebox"), "create", title, text);
         recording->addMessageBox(this);
     }
 }

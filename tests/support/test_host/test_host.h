@@ -1,0 +1,46 @@
+#pragma once
+
+#include "recorder/recording_host.h"
+
+#include <QBuffer>
+#include <QStringList>
+
+/// A recording host whose trace is a list of calls, each on a line:
+///
+///     item:1 setItemSize 300 75
+///     datasources createDatasource 'System' -> 1
+///
+/// Texts are in quotation marks, numbers have at most ten digits. Log records are left out.
+class TestHost
+{
+public:
+    TestHost();
+
+    [[nodiscard]] TalCanvasModel* canvas() { return m_host.canvasModel(); }
+    [[nodiscard]] DatasourceController* datasources() { return m_host.datasourceController(); }
+    [[nodiscard]] FileController* files() { return m_host.fileController(); }
+    [[nodiscard]] recorder::RecordingHost& recorder() { return m_host; }
+    [[nodiscard]] recorder::Behavior& behavior() { return m_host.behavior(); }
+
+    /// The calls since the last forgetCalls().
+    [[nodiscard]] QStringList calls() const;
+    /// The calls on a target, "item:1" or "canvas", without its name.
+    [[nodiscard]] QStringList callsOn(const QString& target) const;
+    /// The arguments of the last call of this name on a target; null if there was none.
+    [[nodiscard]] QString lastCall(const QString& target, const QString& name) const;
+    /// How often a call of this name was made, on whatever target.
+    [[nodiscard]] int count(const QString& name) const;
+    void forgetCalls() { (void)takeTrace(); }
+    /// The trace since then, which is forgotten.
+    [[nodiscard]] QByteArray takeTrace();
+
+    /// Items that were imported and are still there, of all types or of one.
+    [[nodiscard]] int itemCount() const;
+    [[nodiscard]] int itemCount(KestTypes::ShapeType type) const;
+    /// The item of this number, in the order of creation; null once it is deleted.
+    [[nodiscard]] QGraphicsItem* item(int number) const { return m_host.item(number); }
+
+private:
+    QBuffer m_trace;
+    recorder::RecordingHost m_host;
+};
