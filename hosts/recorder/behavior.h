@@ -20,7 +20,7 @@ struct Behavior
     /// What the symbol creator does with a drawing.
     enum class Conversion {
         OfSvg,      ///< converts SVG documents, and nothing else
-        OfAnything, ///< converts it without a look
+        OfAnything, ///< gives "symbol of " and the drawing, whatever that is
         Fails,      ///< reports failure, and has no symbol
         Loses,      ///< reports success, and has no symbol
     };

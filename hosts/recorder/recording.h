@@ -71,6 +71,10 @@ public:
     /// States of the items that still exist, in the order of creation.
     [[nodiscard]] std::vector<ItemState> itemStates() const;
 
+    /// Symbol creators that were made, and those that still exist.
+    int symbolCreatorsMade = 0;
+    int symbolCreators = 0;
+
     /// The number of a symbol database that is being made, from 1.
     [[nodiscard]] int addSymbolDatabase() { return ++m_symbolDatabases; }
 

@@ -50,6 +50,8 @@ public:
     [[nodiscard]] Behavior& behavior() { return m_recording->behavior(); }
     /// States of the items that still exist, in the order of creation.
     [[nodiscard]] std::vector<ItemState> itemStates() const { return m_recording->itemStates(); }
+    [[nodiscard]] int symbolCreatorsMade() const { return m_recording->symbolCreatorsMade; }
+    [[nodiscard]] int symbolCreators() const { return m_recording->symbolCreators; }
     /// Items that the factory made, and those that the canvas was given.
     [[nodiscard]] int createdCount() const { return m_recording->nextItemNumber() - 1; }
     [[nodiscard]] int importedCount() const { return m_recording->importedCount(); }

@@ -18,8 +18,8 @@ TEST_F(BarcodeBuilding, ABarcodeIsMadeImportedAndSetUpInOrder)
     EXPECT_EQ(takeCalls(), QStringList({
                                QStringLiteral("factory create 1001d"),
                                QStringLiteral("canvas importItem 'item:1'"),
-                               QStringLiteral("item:1 setBackgroundColor #ff00ff00"),
-                               QStringLiteral("item:1 setForegroundColor #ff0000ff"),
+                               QStringLiteral("item:1 setBackgroundColor '#ff00ff00'"),
+                               QStringLiteral("item:1 setForegroundColor '#ff0000ff'"),
                                QStringLiteral("item:1 setItemSize 300 75"),
                                QStringLiteral("item:1 setFlipHorizontal false"),
                                QStringLiteral("item:1 setFlipVertical false"),
@@ -31,7 +31,7 @@ TEST_F(BarcodeBuilding, ABarcodeIsMadeImportedAndSetUpInOrder)
                                QStringLiteral("item:1 setFontPointSize 9"),
                                QStringLiteral("item:1 setBarcodeType 13"),
                            }));
-    EXPECT_EQ(canvas.positionOf(0), QPointF(75, 30));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
     EXPECT_EQ(logText(), QString());
 }
 
@@ -39,7 +39,7 @@ TEST_F(BarcodeBuilding, AnEmptyBarcodeHasTheDefaultSymbology)
 {
     readControls("<barcode/>");
     const QStringList calls = callsOf("item:1");
-    EXPECT_EQ(calls.first(), QStringLiteral("setBackgroundColor #00000000"));
+    EXPECT_EQ(calls.first(), QStringLiteral("setBackgroundColor '#00000000'"));
     EXPECT_EQ(calls.last(), QStringLiteral("setBarcodeType 8"));
     EXPECT_TRUE(callsOf("datasources").isEmpty());
 }
@@ -49,8 +49,8 @@ TEST_F(BarcodeBuilding, ANegativeBarcodeExchangesBarsAndGround)
     readControls("<barcode><printable_control><negative>true</negative>"
                  "<transparency>false</transparency></printable_control></barcode>");
     EXPECT_EQ(callsOf("item:1").mid(0, 2),
-              QStringList({QStringLiteral("setBackgroundColor #ff000000"),
-                           QStringLiteral("setForegroundColor #ffffffff")}));
+              QStringList({QStringLiteral("setBackgroundColor '#ff000000'"),
+                           QStringLiteral("setForegroundColor '#ffffffff'")}));
 }
 
 TEST_F(BarcodeBuilding, ASizeBeyondAnIntIsTheLargest)
@@ -62,9 +62,9 @@ TEST_F(BarcodeBuilding, ASizeBeyondAnIntIsTheLargest)
 
 TEST_F(BarcodeBuilding, ABarcodeThatTheHostDoesNotMakeIsLeftOut)
 {
-    canvas.factory.mistaken = {KestTypes::Barcode};
+    host.behavior().makesOthersOf = {KestTypes::Barcode};
     readControls("<barcode><ArrayOfString><s>a</s></ArrayOfString></barcode>");
-    EXPECT_TRUE(canvas.items.empty());
+    EXPECT_EQ(host.itemCount(), 0);
     EXPECT_TRUE(callsOf("datasources").isEmpty());
     EXPECT_EQ(logText(),
               QStringLiteral("Left out of the label: a barcode, for which the host made no item"));

@@ -29,12 +29,12 @@ TEST_F(DatasourceBuilding, AListBoxStepsThroughItsEntries)
               QStringList({
                   QStringLiteral("datasources createDatasource 'TextListDatasource'"),
                   QStringLiteral("datasources getDatasource 1"),
-                  QStringLiteral("datasource:1 setDatasourceProperty 'TextList' QStringList [x|]"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'TextList' ['x' '']"),
                   QStringLiteral("item:1 setDatasourceId 1"),
                   QStringLiteral("datasource:1 fields"),
-                  QStringLiteral("item:1 setDatasourceFields [Value|Other]"),
+                  QStringLiteral("item:1 setDatasourceFields ['Value']"),
                   QStringLiteral("datasource:1 fields"),
-                  QStringLiteral("datasource:1 setSelectedFields [Value|Other]"),
+                  QStringLiteral("datasource:1 setSelectedFields ['Value']"),
               }));
 }
 
@@ -42,7 +42,7 @@ TEST_F(DatasourceBuilding, AnEmptyListLeavesTheItemUnbound)
 {
     readControls("<combo_box/><combo_box><ArrayOfAnyType/></combo_box>"
                  "<barcode><ArrayOfString/></barcode><swap_text_box><items/></swap_text_box>");
-    EXPECT_EQ(canvas.items.size(), 4U);
+    EXPECT_EQ(host.itemCount(), 4);
     EXPECT_TRUE(callsOf("datasources").isEmpty());
 }
 
@@ -50,7 +50,7 @@ TEST_F(DatasourceBuilding, AListOfOneBlankTextIsAList)
 {
     readControls("<combo_box><ArrayOfAnyType><a/></ArrayOfAnyType></combo_box>");
     EXPECT_EQ(callsOf("datasource:1").first(),
-              QStringLiteral("setDatasourceProperty 'TextList' QStringList []"));
+              QStringLiteral("setDatasourceProperty 'TextList' ['']"));
 }
 
 TEST_F(DatasourceBuilding, TextsAndBarcodesBindTheirListsLast)
@@ -61,17 +61,16 @@ TEST_F(DatasourceBuilding, TextsAndBarcodesBindTheirListsLast)
     EXPECT_EQ(text.mid(text.size() - 3), QStringList({
                                              QStringLiteral("setTextAlignment 132"),
                                              QStringLiteral("setDatasourceId 1"),
-                                             QStringLiteral("setDatasourceFields [Value|Other]"),
+                                             QStringLiteral("setDatasourceFields ['Value']"),
                                          }));
     const QStringList barcode = callsOf("item:2");
-    EXPECT_EQ(barcode.mid(barcode.size() - 3),
-              QStringList({
-                  QStringLiteral("setBarcodeType 8"),
-                  QStringLiteral("setDatasourceId 2"),
-                  QStringLiteral("setDatasourceFields [Value|Other]"),
-              }));
+    EXPECT_EQ(barcode.mid(barcode.size() - 3), QStringList({
+                                                   QStringLiteral("setBarcodeType 8"),
+                                                   QStringLiteral("setDatasourceId 2"),
+                                                   QStringLiteral("setDatasourceFields ['Value']"),
+                                               }));
     EXPECT_EQ(callsOf("datasource:2").first(),
-              QStringLiteral("setDatasourceProperty 'TextList' QStringList [b|c]"));
+              QStringLiteral("setDatasourceProperty 'TextList' ['b' 'c']"));
 }
 
 TEST_F(DatasourceBuilding, ADateOrTimeIsAlwaysBound)
@@ -92,7 +91,7 @@ TEST_F(DatasourceBuilding, ADateOrTimeIsAlwaysBound)
     int id = 0;
     for (const auto& row : rows) {
         SCOPED_TRACE(row.format);
-        journal::lines().clear();
+        host.forgetCalls();
         readControls(QByteArray("<date_time_picker>") + row.format + "</date_time_picker>");
         ++id;
         EXPECT_EQ(callsOf("factory"), QStringList(QStringLiteral("create 10015")));
@@ -100,11 +99,11 @@ TEST_F(DatasourceBuilding, ADateOrTimeIsAlwaysBound)
                   QStringList({QStringLiteral("createDatasource 'SystemDatasource'"),
                                QStringLiteral("getDatasource %1").arg(id)}));
         const QByteArray name = "datasource:" + QByteArray::number(id);
-        EXPECT_EQ(callsOf(name.constData()).mid(0, 2),
-                  QStringList({QStringLiteral("setDatasourceProperty 'DateFormat' QString ") +
-                                   QString::fromLatin1(row.date),
-                               QStringLiteral("setDatasourceProperty 'TimeFormat' QString ") +
-                                   QString::fromLatin1(row.time)}));
+        const QString property = QStringLiteral("setDatasourceProperty '%1' '%2'");
+        EXPECT_EQ(
+            callsOf(name.constData()).mid(0, 2),
+            QStringList({property.arg(QStringLiteral("DateFormat"), QLatin1String(row.date)),
+                         property.arg(QStringLiteral("TimeFormat"), QLatin1String(row.time))}));
     }
 }
 
@@ -118,15 +117,15 @@ TEST_F(DatasourceBuilding, ACounterIsAlwaysBoundAndMarked)
               QStringList({
                   QStringLiteral("datasources createDatasource 'SequenceDatasource'"),
                   QStringLiteral("datasources getDatasource 1"),
-                  QStringLiteral("datasource:1 setDatasourceProperty 'Start' int 1"),
-                  QStringLiteral("datasource:1 setDatasourceProperty 'End' int 99"),
-                  QStringLiteral("datasource:1 setDatasourceProperty 'Step' int 2"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'Start' 1"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'End' 99"),
+                  QStringLiteral("datasource:1 setDatasourceProperty 'Step' 2"),
                   QStringLiteral("item:1 setDatasourceId 1"),
                   QStringLiteral("datasource:1 fields"),
-                  QStringLiteral("item:1 setDatasourceFields [Value|Other]"),
+                  QStringLiteral("item:1 setDatasourceFields ['Value']"),
                   QStringLiteral("datasource:1 fields"),
-                  QStringLiteral("datasource:1 setSelectedFields [Value|Other]"),
-                  QStringLiteral("canvas setReadOnlyStateOnItemsInList true 'item:1'"),
+                  QStringLiteral("datasource:1 setSelectedFields ['Value']"),
+                  QStringLiteral("canvas setReadOnlyStateOnItemsInList true ['item:1']"),
               }));
 }
 
@@ -134,18 +133,18 @@ TEST_F(DatasourceBuilding, AnEmptyCounterStaysAtZeroAndMayBeEdited)
 {
     readControls("<numeric_up_down><increment>5</increment></numeric_up_down>");
     EXPECT_EQ(callsOf("datasource:1").mid(0, 3),
-              QStringList({QStringLiteral("setDatasourceProperty 'Start' int 0"),
-                           QStringLiteral("setDatasourceProperty 'End' int 0"),
-                           QStringLiteral("setDatasourceProperty 'Step' int 1")}));
+              QStringList({QStringLiteral("setDatasourceProperty 'Start' 0"),
+                           QStringLiteral("setDatasourceProperty 'End' 0"),
+                           QStringLiteral("setDatasourceProperty 'Step' 1")}));
     EXPECT_EQ(callsOf("canvas").last(),
-              QStringLiteral("setReadOnlyStateOnItemsInList false 'item:1'"));
+              QStringLiteral("setReadOnlyStateOnItemsInList false ['item:1']"));
 }
 
 TEST_F(DatasourceBuilding, ASourceThatTheHostDoesNotMakeLeavesTheItemUnbound)
 {
-    datasources.refusing = true;
+    host.behavior().losesDatasources = true;
     readControls("<numeric_up_down/><date_time_picker/>");
-    EXPECT_EQ(canvas.items.size(), 2U);
+    EXPECT_EQ(host.itemCount(), 2);
     EXPECT_TRUE(callsOf("item:1").filter(QStringLiteral("Datasource")).isEmpty());
     EXPECT_EQ(callsOf("canvas").filter(QStringLiteral("ReadOnly")).size(), 1);
     EXPECT_EQ(logText(),
@@ -157,7 +156,7 @@ TEST_F(DatasourceBuilding, ASourceThatTheHostDoesNotMakeLeavesTheItemUnbound)
 
 TEST_F(DatasourceBuilding, WithoutAnItemNoSourceIsMade)
 {
-    canvas.factory.refused = {KestTypes::SimpleText};
+    host.behavior().makesNothingOf = {KestTypes::SimpleText};
     readControls("<numeric_up_down/><date_time_picker/>"
                  "<combo_box><ArrayOfAnyType><a>x</a></ArrayOfAnyType></combo_box>");
     EXPECT_TRUE(callsOf("datasources").isEmpty());

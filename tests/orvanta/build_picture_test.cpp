@@ -28,29 +28,29 @@ TEST_F(PictureBuilding, ARasterPictureIsLoadedImportedAndPlaced)
     readControls(pictureBox(monoPng(12, 8), Place));
     EXPECT_EQ(takeCalls(), QStringList({
                                QStringLiteral("factory create 1000c"),
-                               QStringLiteral("item:1 pixmapImportActions 12 8"),
+                               QStringLiteral("item:1 pixmapImportActions 12x8"),
                                QStringLiteral("canvas importItem 'item:1'"),
                                QStringLiteral("item:1 setItemSize 300 75"),
                                QStringLiteral("item:1 setFlipHorizontal true"),
                                QStringLiteral("item:1 setFlipVertical true"),
                                QStringLiteral("item:1 setItemRotation 90"),
                            }));
-    EXPECT_EQ(canvas.positionOf(0), QPointF(75, 30));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
     EXPECT_EQ(logText(), QString());
 }
 
 TEST_F(PictureBuilding, AByteOrderMarkInFrontOfARasterPictureGoesToo)
 {
     readControls(pictureBox("\xEF\xBB\xBF" + monoPng(12, 8)));
-    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 12 8"));
+    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 12x8"));
 }
 
 TEST_F(PictureBuilding, BytesThatAreNoPictureKeepTheirPlace)
 {
     readControls(pictureBox("no picture", Place));
-    EXPECT_EQ(callsOf("item:1").mid(0, 2), QStringList({QStringLiteral("pixmapImportActions 0 0"),
+    EXPECT_EQ(callsOf("item:1").mid(0, 2), QStringList({QStringLiteral("pixmapImportActions 0x0"),
                                                         QStringLiteral("setItemSize 300 75")}));
-    EXPECT_EQ(canvas.items.size(), 1U);
+    EXPECT_EQ(host.itemCount(), 1);
     EXPECT_EQ(logText(), QString());
 }
 
@@ -65,22 +65,24 @@ TEST_F(PictureBuilding, WithoutBytesThereIsNoItem)
 TEST_F(PictureBuilding, AnSvgPictureBecomesASymbol)
 {
     readControls(pictureBox("\xEF\xBB\xBF<svg d1p1:a='1'/>", Place));
-    EXPECT_EQ(takeCalls(), QStringList({
-                               QStringLiteral("symbolcreator create true"),
-                               QStringLiteral("symbolcreator loadImportedSvg '<svg a='1'/>'"),
-                               QStringLiteral("symbolcreator convertSvgToSymbol true"),
-                               QStringLiteral("factory create 1000d"),
-                               QStringLiteral("item:1 loadItemFromData 'symbol of <svg a='1'/>'"),
-                               QStringLiteral("item:1 getItemSize"),
-                               QStringLiteral("item:1 setForegroundColor #ff0000ff"),
-                               QStringLiteral("item:1 setFillColor #ff00ff00"),
-                               QStringLiteral("canvas importItem 'item:1'"),
-                               QStringLiteral("item:1 setItemSize 300 75"),
-                               QStringLiteral("item:1 setFlipHorizontal true"),
-                               QStringLiteral("item:1 setFlipVertical true"),
-                               QStringLiteral("item:1 setItemRotation 90"),
-                           }));
-    EXPECT_EQ(canvas.positionOf(0), QPointF(75, 30));
+    const QByteArray svg = "<svg a='1'/>";
+    EXPECT_EQ(takeCalls(),
+              QStringList({
+                  QStringLiteral("symbolcreator loadImportedSvg ") + TestHost::shown(svg),
+                  QStringLiteral("symbolcreator convertSvgToSymbol [0 0 0 0]"),
+                  QStringLiteral("symbolcreator getSymbolData"),
+                  QStringLiteral("factory create 1000d"),
+                  QStringLiteral("item:1 loadItemFromData ") + TestHost::shown("symbol of " + svg),
+                  QStringLiteral("item:1 getItemSize"),
+                  QStringLiteral("item:1 setForegroundColor '#ff0000ff'"),
+                  QStringLiteral("item:1 setFillColor '#ff00ff00'"),
+                  QStringLiteral("canvas importItem 'item:1'"),
+                  QStringLiteral("item:1 setItemSize 300 75"),
+                  QStringLiteral("item:1 setFlipHorizontal true"),
+                  QStringLiteral("item:1 setFlipVertical true"),
+                  QStringLiteral("item:1 setItemRotation 90"),
+              }));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
 }
 
 TEST_F(PictureBuilding, OnlyTheExactStartMakesASymbol)
@@ -96,25 +98,24 @@ TEST_F(PictureBuilding, OneSymbolCreatorServesAllPicturesOfAReader)
 {
     readControls(pictureBox("<svg/>") + pictureBox("<svg a=''/>"));
     readControls(pictureBox("<svg/>"));
-    EXPECT_EQ(callsOf("symbolcreator").filter(QStringLiteral("create true")).size(), 1);
-    EXPECT_EQ(canvas.items.size(), 3U);
+    EXPECT_EQ(host.recorder().symbolCreatorsMade(), 1);
+    EXPECT_EQ(host.itemCount(), 3);
     reader.reset();
-    EXPECT_EQ(callsOf("symbolcreator").last(), QStringLiteral("delete"));
+    EXPECT_EQ(host.recorder().symbolCreators(), 0);
 }
 
 TEST_F(PictureBuilding, WithoutSvgThereIsNoSymbolCreator)
 {
     readControls(pictureBox(monoPng(1, 1)));
-    reader.reset();
-    EXPECT_TRUE(callsOf("symbolcreator").isEmpty());
+    EXPECT_EQ(host.recorder().symbolCreatorsMade(), 0);
 }
 
 TEST_F(PictureBuilding, AnSvgThatDoesNotConvertCreatesNothing)
 {
-    fake::svgConverts() = false;
+    host.behavior().conversion = recorder::Behavior::Conversion::Fails;
     readControls(pictureBox("<svg/>"));
     EXPECT_TRUE(callsOf("factory").isEmpty());
-    EXPECT_TRUE(canvas.items.empty());
+    EXPECT_EQ(host.itemCount(), 0);
     EXPECT_EQ(logText(), QString());
 }
 
@@ -122,23 +123,23 @@ TEST_F(PictureBuilding, ASymbolWithoutSizeIsDeleted)
 {
     for (const QSizeF& size :
          {QSizeF(0, 0), QSizeF(0, 5), QSizeF(5, 0), QSizeF(-1, 5), QSizeF(5, qQNaN())}) {
-        canvas.factory.symbolSize = size;
+        host.behavior().symbolSize = size;
         readControls(pictureBox("<svg/>"));
-        EXPECT_TRUE(canvas.items.empty());
-        EXPECT_EQ(fake::livingItems(), 0);
+        EXPECT_EQ(host.itemCount(), 0);
+        EXPECT_EQ(host.livingItems(), 0);
     }
-    canvas.factory.symbolSize = QSizeF(0.001, 0.001);
+    host.behavior().symbolSize = QSizeF(0.001, 0.001);
     readControls(pictureBox("<svg/>"));
-    EXPECT_EQ(canvas.items.size(), 1U);
+    EXPECT_EQ(host.itemCount(), 1);
 }
 
 TEST_F(PictureBuilding, PicturesThatTheHostDoesNotMakeAreLeftOut)
 {
-    canvas.factory.refused = {KestTypes::Symbol};
-    canvas.factory.mistaken = {KestTypes::Picture};
+    host.behavior().makesNothingOf = {KestTypes::Symbol};
+    host.behavior().makesOthersOf = {KestTypes::Picture};
     readControls(pictureBox("<svg/>") + pictureBox(monoPng(1, 1)));
-    EXPECT_TRUE(canvas.items.empty());
-    EXPECT_EQ(fake::livingItems(), 0);
+    EXPECT_EQ(host.itemCount(), 0);
+    EXPECT_EQ(host.livingItems(), 0);
     EXPECT_EQ(logText(),
               QStringLiteral("Left out of the label: a symbol, for which the host made no item\n"
                              "Left out of the label: a picture, for which the host made no item"));
@@ -147,8 +148,8 @@ TEST_F(PictureBuilding, PicturesThatTheHostDoesNotMakeAreLeftOut)
 TEST_F(PictureBuilding, APictureThatClaimsToBeHugeIsAFailedLoad)
 {
     readControls(pictureBox("P6 20000 30000 255 x"));
-    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0 0"));
-    EXPECT_EQ(canvas.items.size(), 1U);
+    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0x0"));
+    EXPECT_EQ(host.itemCount(), 1);
     EXPECT_EQ(logText(), QStringLiteral("Left out of the label: a picture of 20000 by 30000 pixels "
                                         "is too large"));
 }
@@ -159,11 +160,11 @@ TEST_F(PictureBuilding, AllPicturesOfALabelTogetherAreBoundedAndTheNextLabelStar
     const QByteArray large = pictureBox(monoPng(5000, 5000)).repeated(6);
     const QByteArray label =
         "<qmtx><controls>" + large + pictureBox(monoPng(2, 2)) + "</controls></qmtx>";
-    const QString whole = QStringLiteral("pixmapImportActions 5000 5000");
+    const QString whole = QStringLiteral("pixmapImportActions 5000x5000");
     EXPECT_TRUE(import(label));
     EXPECT_EQ(callsOf("item:5").first(), whole);
-    EXPECT_EQ(callsOf("item:6").first(), QStringLiteral("pixmapImportActions 0 0"));
-    EXPECT_EQ(callsOf("item:7").first(), QStringLiteral("pixmapImportActions 2 2"));
+    EXPECT_EQ(callsOf("item:6").first(), QStringLiteral("pixmapImportActions 0x0"));
+    EXPECT_EQ(callsOf("item:7").first(), QStringLiteral("pixmapImportActions 2x2"));
     EXPECT_TRUE(import(label));
     EXPECT_EQ(callsOf("item:8").first(), whole);
 }
@@ -172,7 +173,7 @@ TEST_F(PictureBuilding, ADrawingInTheRasterPathIsNotDrawn)
 {
     readControls(pictureBox("<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
                             "width='4' height='4'/>"));
-    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0 0"));
+    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0x0"));
 }
 
 TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)
@@ -187,16 +188,16 @@ TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)
                   QStringLiteral("canvas canvasDefaultPenColor"),
                   QStringLiteral("canvas canvasBackgroundColor"),
                   QStringLiteral("factory create 1000c"),
-                  QStringLiteral("item:1 pixmapImportActions 3 2"),
+                  QStringLiteral("item:1 pixmapImportActions 3x2"),
                   QStringLiteral("canvas importItem 'item:1'"),
                   QStringLiteral("item:1 setItemSize 432 288"),
                   QStringLiteral("item:1 setFlipHorizontal false"),
                   QStringLiteral("item:1 setFlipVertical false"),
                   QStringLiteral("item:1 setItemRotation 0"),
-                  QStringLiteral("canvas setUserBackgroundStateOnItemsInList true 'item:1'"),
+                  QStringLiteral("canvas setUserBackgroundStateOnItemsInList true ['item:1']"),
                   QStringLiteral("factory create 10016"),
               }));
-    EXPECT_EQ(canvas.positionOf(0), QPointF(0, 0));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
 }
 
 TEST_F(PictureBuilding, AnSvgBackgroundIsDrawnInTheCanvasColours)
@@ -204,27 +205,28 @@ TEST_F(PictureBuilding, AnSvgBackgroundIsDrawnInTheCanvasColours)
     EXPECT_TRUE(import("<qmtx><printable_control><bounds><w>400</w><h>600</h></bounds>"
                        "</printable_control><pre_printed_image><content>" +
                        QByteArray("<svg/>").toBase64() + "</content></pre_printed_image></qmtx>"));
-    EXPECT_EQ(callsOf("item:1"), QStringList({
-                                     QStringLiteral("loadItemFromData 'symbol of <svg/>'"),
-                                     QStringLiteral("getItemSize"),
-                                     QStringLiteral("setForegroundColor #ff405060"),
-                                     QStringLiteral("setFillColor #00000000"),
-                                     QStringLiteral("setItemSize 300 450"),
-                                     QStringLiteral("setFlipHorizontal false"),
-                                     QStringLiteral("setFlipVertical false"),
-                                     QStringLiteral("setItemRotation 0"),
-                                 }));
+    EXPECT_EQ(callsOf("item:1"),
+              QStringList({
+                  QStringLiteral("loadItemFromData ") + TestHost::shown("symbol of <svg/>"),
+                  QStringLiteral("getItemSize"),
+                  QStringLiteral("setForegroundColor '#ff405060'"),
+                  QStringLiteral("setFillColor '#00000000'"),
+                  QStringLiteral("setItemSize 300 450"),
+                  QStringLiteral("setFlipHorizontal false"),
+                  QStringLiteral("setFlipVertical false"),
+                  QStringLiteral("setItemRotation 0"),
+              }));
 }
 
 TEST_F(PictureBuilding, ABackgroundWithoutBytesOrSymbolIsNone)
 {
-    fake::svgConverts() = false;
+    host.behavior().conversion = recorder::Behavior::Conversion::Fails;
     for (const QByteArray& image :
          {QByteArray(), QByteArray("<content/>"), QByteArray("<content>@@</content>"),
           QByteArray("<a><content>YWJj</content></a>"),
           QByteArray("<content/><content>YWJj</content>")}) {
         SCOPED_TRACE(image.constData());
-        journal::lines().clear();
+        host.forgetCalls();
         EXPECT_TRUE(import("<qmtx><pre_printed_image>" + image + "</pre_printed_image></qmtx>"));
         EXPECT_EQ(takeCalls(),
                   QStringList({QStringLiteral("canvas importCanvasParameters 432 288 false false"),

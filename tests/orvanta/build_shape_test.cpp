@@ -17,15 +17,15 @@ TEST_F(ShapeBuilding, AShapeIsMadeImportedAndSetUpInOrder)
     EXPECT_EQ(takeCalls(), QStringList({
                                QStringLiteral("factory create 1002c"),
                                QStringLiteral("canvas importItem 'item:1'"),
-                               QStringLiteral("item:1 setFillColor #ff00ff00"),
-                               QStringLiteral("item:1 setPenColor #ff0000ff"),
+                               QStringLiteral("item:1 setFillColor '#ff00ff00'"),
+                               QStringLiteral("item:1 setPenColor '#ff0000ff'"),
                                QStringLiteral("item:1 setPenWidth 2"),
                                QStringLiteral("item:1 setItemSize 300 75"),
                                QStringLiteral("item:1 setFlipHorizontal false"),
                                QStringLiteral("item:1 setFlipVertical true"),
                                QStringLiteral("item:1 setItemRotation 10"),
                            }));
-    EXPECT_EQ(canvas.positionOf(0), QPointF(75, 30));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
 }
 
 TEST_F(ShapeBuilding, EachKindOfShapeHasItsItemAndItsTurn)
@@ -50,7 +50,7 @@ TEST_F(ShapeBuilding, EachKindOfShapeHasItsItemAndItsTurn)
     int number = 0;
     for (const auto& row : rows) {
         SCOPED_TRACE(row.children);
-        journal::lines().clear();
+        host.forgetCalls();
         readControls(QByteArray("<transparent_polygon>") + row.children + "</transparent_polygon>");
         const QByteArray name = "item:" + QByteArray::number(++number);
         EXPECT_EQ(callsOf("factory"), QStringList(QString::fromLatin1(row.created)));
@@ -68,13 +68,13 @@ TEST_F(ShapeBuilding, OnlyAnOpaqueOddShapeIsFilled)
         const char* fill;
         const char* pen;
     } rows[] = {
-        {"filled", "<transparency>false</transparency>", 3, "#ffffffff", "#ff000000"},
-        {"outline", "<transparency>false</transparency>", 2, "#00000000", "#ff000000"},
-        {"transparent", "", 3, "#00000000", "#ff000000"},
+        {"filled", "<transparency>false</transparency>", 3, "'#ffffffff'", "'#ff000000'"},
+        {"outline", "<transparency>false</transparency>", 2, "'#00000000'", "'#ff000000'"},
+        {"transparent", "", 3, "'#00000000'", "'#ff000000'"},
         {"negative and filled", "<transparency>false</transparency><negative>true</negative>", 3,
-         "#ff000000", "#ffffffff"},
+         "'#ff000000'", "'#ffffffff'"},
         {"negative outline", "<transparency>false</transparency><negative>true</negative>", 2,
-         "#00000000", "#ffffffff"},
+         "'#00000000'", "'#ffffffff'"},
     };
     int number = 0;
     for (const auto& row : rows) {
@@ -112,12 +112,12 @@ TEST_F(ShapeBuilding, TheLineWidthHas16Bits)
 
 TEST_F(ShapeBuilding, AShapeThatTheHostDoesNotMakeIsLeftOut)
 {
-    canvas.factory.refused = {KestTypes::Ellipse};
-    canvas.factory.mistaken = {KestTypes::Rectangle};
+    host.behavior().makesNothingOf = {KestTypes::Ellipse};
+    host.behavior().makesOthersOf = {KestTypes::Rectangle};
     readControls("<transparent_shape/><transparent_shape><sides>7</sides></transparent_shape>"
                  "<transparent_shape><sides>3</sides></transparent_shape>");
-    EXPECT_EQ(canvas.items.size(), 1U);
-    EXPECT_EQ(fake::livingItems(), 1);
+    EXPECT_EQ(host.itemCount(), 1);
+    EXPECT_EQ(host.livingItems(), 1);
     EXPECT_EQ(logText(),
               QStringLiteral("Left out of the label: a shape, for which the host made no item\n"
                              "Left out of the label: a shape, for which the host made no item"));

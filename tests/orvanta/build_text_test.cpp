@@ -19,11 +19,12 @@ TEST_F(TextBuilding, ARichTextIsMadeImportedAndSetUpInOrder)
                  "<rotation>30</rotation><flip_horizontally>true</flip_horizontally>"
                  "<alignment>2</alignment></transparent_label>");
     EXPECT_EQ(takeCalls(), QStringList({
+                               QStringLiteral("lists isValidFamily 'Courier New'"),
                                QStringLiteral("factory create 10016"),
                                QStringLiteral("canvas importItem 'item:1'"),
-                               QStringLiteral("item:1 setPenColor #ff0000ff"),
-                               QStringLiteral("item:1 setFillColor #ff00ff00"),
-                               QStringLiteral("item:1 setTextColor #ff0000ff"),
+                               QStringLiteral("item:1 setPenColor '#ff0000ff'"),
+                               QStringLiteral("item:1 setFillColor '#ff00ff00'"),
+                               QStringLiteral("item:1 setTextColor '#ff0000ff'"),
                                QStringLiteral("item:1 setItemSize 300 75"),
                                QStringLiteral("item:1 setFlipHorizontal true"),
                                QStringLiteral("item:1 setFlipVertical false"),
@@ -36,7 +37,7 @@ TEST_F(TextBuilding, ARichTextIsMadeImportedAndSetUpInOrder)
                                QStringLiteral("item:1 setFontPointSize 10"),
                                QStringLiteral("item:1 setTextAlignment 2"),
                            }));
-    EXPECT_EQ(canvas.positionOf(0), QPointF(75, 30));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
     EXPECT_EQ(logText(), QString());
 }
 
@@ -45,7 +46,7 @@ TEST_F(TextBuilding, AScalableTextIsSimpleAndKeepsTheHostsFontSize)
     readControls(QByteArray("<swap_text_box>") + FullProperties +
                  "<scaleable>true</scaleable></swap_text_box>");
     const QStringList calls = takeCalls();
-    EXPECT_EQ(calls.first(), QStringLiteral("factory create 10015"));
+    EXPECT_EQ(calls.at(1), QStringLiteral("factory create 10015"));
     EXPECT_TRUE(calls.filter(QStringLiteral("setFontPointSize")).isEmpty());
     EXPECT_EQ(calls.last(), QStringLiteral("item:1 setTextAlignment 132"));
 }
@@ -54,9 +55,9 @@ TEST_F(TextBuilding, AnEmptyObjectHasDefaults)
 {
     readControls("<transparent_label/>");
     EXPECT_EQ(callsOf("item:1"), QStringList({
-                                     QStringLiteral("setPenColor #ff000000"),
-                                     QStringLiteral("setFillColor #00000000"),
-                                     QStringLiteral("setTextColor #ff000000"),
+                                     QStringLiteral("setPenColor '#ff000000'"),
+                                     QStringLiteral("setFillColor '#00000000'"),
+                                     QStringLiteral("setTextColor '#ff000000'"),
                                      QStringLiteral("setItemSize 0 0"),
                                      QStringLiteral("setFlipHorizontal false"),
                                      QStringLiteral("setFlipVertical false"),
@@ -69,7 +70,7 @@ TEST_F(TextBuilding, AnEmptyObjectHasDefaults)
                                      QStringLiteral("setFontPointSize 24"),
                                      QStringLiteral("setTextAlignment 132"),
                                  }));
-    EXPECT_EQ(canvas.positionOf(0), QPointF(0, 0));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
 }
 
 TEST_F(TextBuilding, ANegativeTextIsWrittenInTheBackColour)
@@ -78,9 +79,9 @@ TEST_F(TextBuilding, ANegativeTextIsWrittenInTheBackColour)
                  "<fore_color>16711680</fore_color><back_color>16777215</back_color>"
                  "<transparency>false</transparency></printable_control></transparent_label>");
     const QStringList calls = callsOf("item:1");
-    EXPECT_EQ(calls.mid(0, 3), QStringList({QStringLiteral("setPenColor #ffffffff"),
-                                            QStringLiteral("setFillColor #ffff0000"),
-                                            QStringLiteral("setTextColor #ffffffff")}));
+    EXPECT_EQ(calls.mid(0, 3), QStringList({QStringLiteral("setPenColor '#ffffffff'"),
+                                            QStringLiteral("setFillColor '#ffff0000'"),
+                                            QStringLiteral("setTextColor '#ffffffff'")}));
 }
 
 TEST_F(TextBuilding, TextIsPassedOnAsItStands)
@@ -92,10 +93,10 @@ TEST_F(TextBuilding, TextIsPassedOnAsItStands)
 
 TEST_F(TextBuilding, ATextThatTheHostDoesNotMakeIsLeftOut)
 {
-    canvas.factory.refused = {KestTypes::RichText};
+    host.behavior().makesNothingOf = {KestTypes::RichText};
     readControls("<transparent_label><items><s>a</s></items></transparent_label>"
                  "<swap_text_box><scaleable>true</scaleable></swap_text_box>");
-    EXPECT_EQ(canvas.items.size(), 1U) << "the walk goes on";
+    EXPECT_EQ(host.itemCount(), 1) << "the walk goes on";
     EXPECT_TRUE(callsOf("datasources").isEmpty());
     EXPECT_EQ(logText(),
               QStringLiteral("Left out of the label: a text, for which the host made no item"));
@@ -103,9 +104,9 @@ TEST_F(TextBuilding, ATextThatTheHostDoesNotMakeIsLeftOut)
 
 TEST_F(TextBuilding, AnItemOfAnotherClassIsDeletedAndLeftOut)
 {
-    canvas.factory.mistaken = {KestTypes::RichText};
+    host.behavior().makesOthersOf = {KestTypes::RichText};
     readControls("<transparent_label/>");
-    EXPECT_TRUE(canvas.items.empty());
-    EXPECT_EQ(fake::livingItems(), 0);
+    EXPECT_EQ(host.itemCount(), 0);
+    EXPECT_EQ(host.livingItems(), 0);
     EXPECT_EQ(log.records().size(), 1);
 }

@@ -85,7 +85,7 @@ TEST_F(Document, OnlyTheFirstOfRepeatedPartsCounts)
 {
     EXPECT_TRUE(import("<qmtx><pre_printed_image/><controls/><controls><barcode/></controls>"
                        "<pre_printed_image><content>YWJj</content></pre_printed_image></qmtx>"));
-    EXPECT_TRUE(canvas.items.empty());
+    EXPECT_EQ(host.itemCount(), 0);
 }
 
 TEST_F(Document, EveryKindOfObjectHasItsItem)
@@ -102,11 +102,11 @@ TEST_F(Document, EveryKindOfObjectHasItsItem)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.tag);
-        journal::lines().clear();
+        host.forgetCalls();
         readControls(QByteArray("<") + row.tag + "/>");
         EXPECT_EQ(callsOf("factory"), QStringList(QString::fromLatin1(row.created)));
     }
-    journal::lines().clear();
+    host.forgetCalls();
     readControls("<picture_box><image><content>YWJj</content></image></picture_box>");
     EXPECT_EQ(callsOf("factory"), QStringList(QStringLiteral("create 1000c")));
     EXPECT_EQ(logText(), QString());
@@ -198,9 +198,9 @@ TEST_F(Document, IsReadInTheEncodingThatItHas)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
-        journal::lines().clear();
+        host.forgetCalls();
         EXPECT_TRUE(import(row.bytes));
-        EXPECT_FALSE(journal::lines().filter(text).isEmpty());
+        EXPECT_FALSE(host.calls().filter(text).isEmpty());
     }
 }
 
@@ -209,8 +209,8 @@ TEST_F(Document, Latin1NeedsItsDeclaration)
     const QByteArray label = "<qmtx><controls><transparent_label><printable_control><text>K\xE4se"
                              "</text></printable_control></transparent_label></controls></qmtx>";
     EXPECT_TRUE(import("<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>" + label));
-    EXPECT_FALSE(journal::lines().filter(QStringLiteral("setText 'Käse'")).isEmpty());
-    journal::lines().clear();
+    EXPECT_FALSE(host.calls().filter(QStringLiteral("setText 'Käse'")).isEmpty());
+    host.forgetCalls();
     EXPECT_FALSE(import(label));
     EXPECT_EQ(takeCalls(), QStringList());
 }
@@ -219,7 +219,7 @@ TEST_F(Document, LineEndsOfWindowsAreLineFeeds)
 {
     EXPECT_TRUE(import("<qmtx>\r\n<controls>\r\n<transparent_label><printable_control><text>a\r\nb"
                        "</text></printable_control></transparent_label></controls></qmtx>\r\n"));
-    EXPECT_FALSE(journal::lines().filter(QStringLiteral("setText 'a\nb'")).isEmpty());
+    EXPECT_FALSE(host.calls().filter(QStringLiteral("setText 'a\nb'")).isEmpty());
 }
 
 TEST_F(Document, TextModeTakesCarriageReturnsOutOfEveryEncoding)

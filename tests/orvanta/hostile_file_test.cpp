@@ -49,7 +49,7 @@ TEST_F(HostileFile, ALabelCutOffAtAnyByteIsRefusedWhole)
     }
     EXPECT_EQ(takeCalls(), QStringList());
     EXPECT_TRUE(import(whole));
-    EXPECT_EQ(canvas.items.size(), 5U);
+    EXPECT_EQ(host.itemCount(), 5);
 }
 
 TEST_F(HostileFile, AnyByteMayBeWrong)
@@ -59,8 +59,8 @@ TEST_F(HostileFile, AnyByteMayBeWrong)
         for (const char byte : {'\0', '<', '&', '9', '\xFF'}) {
             QByteArray damaged = whole;
             damaged[place] = byte;
-            journal::lines().clear();
-            canvas.items.clear();
+            host.forgetCalls();
+            host.recorder().reset();
             const bool imported = import(damaged);
             const QStringList calls = callsOf("canvas");
             EXPECT_EQ(imported, !calls.isEmpty()) << place;
@@ -85,7 +85,7 @@ TEST_F(HostileFile, EntitiesOfTheDocumentItselfAreText)
 {
     EXPECT_TRUE(
         import(textLabel("<!DOCTYPE qmtx [<!ENTITY shop 'Corner &#38;#38; Co'>]>", "&shop;!")));
-    EXPECT_FALSE(journal::lines().filter(QStringLiteral("setText 'Corner & Co!'")).isEmpty());
+    EXPECT_FALSE(host.calls().filter(QStringLiteral("setText 'Corner & Co!'")).isEmpty());
 }
 
 TEST_F(HostileFile, ExternalEntitiesAreNeverOpened)
@@ -102,7 +102,7 @@ TEST_F(HostileFile, ExternalEntitiesAreNeverOpened)
           QByteArray("<!DOCTYPE qmtx SYSTEM '" + url + "'>")}) {
         SCOPED_TRACE(doctype.constData());
         static_cast<void>(import(textLabel(doctype, "a&x;b")));
-        EXPECT_TRUE(journal::lines().filter(QStringLiteral("secret")).isEmpty());
+        EXPECT_TRUE(host.calls().filter(QStringLiteral("secret")).isEmpty());
         EXPECT_FALSE(logText().contains(QStringLiteral("the secret")));
     }
 }
@@ -147,7 +147,7 @@ TEST_F(HostileFile, NumbersOutOfRangeReachTheHostAsTheyAre)
         "<sides>-2147483648</sides><shape_index>-2147483648</shape_index></transparent_shape>"
         "<transparent_label><printable_control><font><size>nan</size></font></printable_control>"
         "</transparent_label></controls></qmtx>"));
-    EXPECT_EQ(canvas.items.size(), 2U);
+    EXPECT_EQ(host.itemCount(), 2);
     EXPECT_TRUE(callsOf("item:1").contains(QStringLiteral("setItemRotation 2147483647")));
     EXPECT_TRUE(callsOf("item:2").contains(QStringLiteral("setFontPointSize 0")));
 }
@@ -164,7 +164,7 @@ TEST_F(HostileFile, HundredThousandWholeObjectsAreImported)
         "<flip_vertically>true</flip_vertically><sides>3</sides><shape_index>1</shape_index>"
         "<line_width>1</line_width></transparent_shape>";
     EXPECT_TRUE(import("<qmtx><controls>" + repeated(whole, count) + "</controls></qmtx>"));
-    EXPECT_EQ(canvas.items.size(), std::size_t(count));
+    EXPECT_EQ(host.itemCount(), std::size_t(count));
 }
 
 TEST_F(HostileFile, TooManyObjectsAreRefusedBeforeTheCanvasIsTouched)

@@ -3,17 +3,20 @@
 #include <QFile>
 
 ReaderFixture::ReaderFixture()
+    : reader(std::make_unique<LegacyOrvanta>(host.canvas(), host.datasources()))
 {
-    journal::lines().clear();
-    fake::svgConverts() = true;
-    reader = std::make_unique<LegacyOrvanta>(&canvas, &datasources);
+    host.behavior().symbolSize = QSizeF(10, 10);
+    host.behavior().conversion = recorder::Behavior::Conversion::OfAnything;
+    host.canvas()->setCanvasBackgroundColor(QColor(0x10, 0x20, 0x30));
+    host.canvas()->setCanvasDefaultPenColor(QColor(0x40, 0x50, 0x60));
+    host.forgetCalls();
 }
 
 ReaderFixture::~ReaderFixture()
 {
     reader.reset();
-    canvas.items.clear();
-    EXPECT_EQ(fake::livingItems(), 0) << "an item that was not imported must be deleted";
+    EXPECT_EQ(host.livingItems(), host.itemCount())
+        << "an item that was not imported must be deleted";
 }
 
 void ReaderFixture::readControls(const QByteArray& objects)
@@ -34,20 +37,8 @@ bool ReaderFixture::import(const QByteArray& fileBytes)
 
 QStringList ReaderFixture::takeCalls()
 {
-    QStringList calls;
-    calls.swap(journal::lines());
-    return calls;
-}
-
-QStringList ReaderFixture::callsOf(const char* target) const
-{
-    const QString start = QString::fromLatin1(target) + QLatin1Char(' ');
-    QStringList calls;
-    for (const QString& line : std::as_const(journal::lines())) {
-        if (line.startsWith(start)) {
-            calls.append(line.mid(start.size()));
-        }
-    }
+    const QStringList calls = host.calls();
+    host.forgetCalls();
     return calls;
 }
 

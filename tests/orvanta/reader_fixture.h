@@ -1,9 +1,9 @@
 #pragma once
 
 #include "orvanta/legacy_orvanta.h"
-#include "tests/orvanta/fake_host.h"
 #include "tests/orvanta/printing.h"
 #include "tests/support/captured_log.h"
+#include "tests/support/test_host/test_host.h"
 
 #include <QDomDocument>
 #include <QTemporaryDir>
@@ -12,7 +12,7 @@
 
 #include <memory>
 
-/// A reader on the fake host, with an empty journal and an empty log.
+/// A reader on a host that takes every drawing for a symbol of 10 by 10, with an empty log.
 class ReaderFixture : public ::testing::Test
 {
 protected:
@@ -23,16 +23,18 @@ protected:
     void readControls(const QByteArray& objects);
     /// Writes bytes to a file and imports it.
     bool import(const QByteArray& fileBytes);
-    /// The calls since the last time, and an empty journal.
+    /// The calls since the last time.
     QStringList takeCalls();
     /// The calls of one target, in order, without its name.
-    [[nodiscard]] QStringList callsOf(const char* target) const;
+    [[nodiscard]] QStringList callsOf(const char* target) const
+    {
+        return host.callsOn(QString::fromLatin1(target));
+    }
     /// The messages of the log, one a line.
     [[nodiscard]] QString logText() const;
     [[nodiscard]] QString filePath() const { return m_folder.filePath(QStringLiteral("a.qmtx")); }
 
-    fake::Canvas canvas;
-    fake::Datasources datasources;
+    TestHost host;
     CapturedLog log;
     std::unique_ptr<LegacyOrvanta> reader;
 

@@ -19,7 +19,7 @@ TEST_F(Samples, AreImportedWholeAndWithoutALogLine)
     {
         const char* name;
         const char* page;
-        std::size_t items;
+        int items;
         qsizetype datasources;
         qsizetype symbols;
     } rows[] = {
@@ -34,15 +34,15 @@ TEST_F(Samples, AreImportedWholeAndWithoutALogLine)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        canvas.items.clear();
-        journal::lines().clear();
+        host.recorder().reset();
+        host.forgetCalls();
         EXPECT_TRUE(reader->importLabelFromFile(samplePath(QString::fromLatin1(row.name))));
         EXPECT_EQ(callsOf("canvas").first(), QString::fromLatin1(row.page));
-        EXPECT_EQ(canvas.items.size(), row.items);
+        EXPECT_EQ(host.itemCount(), row.items);
         EXPECT_EQ(callsOf("datasources").size(), 2 * row.datasources);
         EXPECT_EQ(callsOf("factory").filter(QStringLiteral("create 1000d")).size(), row.symbols);
-        EXPECT_TRUE(journal::lines().filter(QStringLiteral("pixmapImportActions 0 0")).isEmpty());
-        EXPECT_TRUE(journal::lines().filter(QStringLiteral("d1p1")).isEmpty());
+        EXPECT_TRUE(host.calls().filter(QStringLiteral("pixmapImportActions 0x0")).isEmpty());
+        EXPECT_TRUE(host.calls().filter(QStringLiteral("d1p1")).isEmpty());
     }
     EXPECT_EQ(logText(), QString());
 }

@@ -15,13 +15,24 @@ class SymbolCreator::Private
 {
 public:
     QByteArray loaded;
+    std::shared_ptr<recorder::Recording> countedBy = recorder::Recording::current();
 };
 
 SymbolCreator::SymbolCreator(QWidget* /*parent*/)
     : d(std::make_unique<Private>())
-{}
+{
+    if (d->countedBy) {
+        ++d->countedBy->symbolCreatorsMade;
+        ++d->countedBy->symbolCreators;
+    }
+}
 
-SymbolCreator::~SymbolCreator() = default;
+SymbolCreator::~SymbolCreator()
+{
+    if (d->countedBy) {
+        --d->countedBy->symbolCreators;
+    }
+}
 
 void SymbolCreator::loadImportedSvg(const QByteArray& svg)
 {
@@ -40,6 +51,9 @@ bool SymbolCreator::convertSvgToSymbol(const QRectF& target)
                                : conversion != Conversion::Fails;
     if (recording) {
         recording->answer(converted, Target, "convertSvgToSymbol", target);
+    }
+    if (conversion == Conversion::OfAnything) {
+        d->loaded.prepend("symbol of ");
     }
     if (conversion == Conversion::Fails || conversion == Conversion::Loses) {
         d->loaded.clear();

@@ -27,8 +27,13 @@ QString textOf(const QJsonValue& value)
         }
         return u'[' + elements.join(u' ') + u']';
     }
-    case QJsonValue::Object:
-        return QString::fromUtf8(QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+    case QJsonValue::Object: {
+        const QJsonObject object = value.toObject();
+        if (object.contains(u"width"_s)) {
+            return textOf(object[u"width"_s]) + u'x' + textOf(object[u"height"_s]);
+        }
+        return textOf(object[u"bytes"_s]) + u':' + object[u"sha1"_s].toString();
+    }
     default:
         return u"null"_s;
     }
@@ -38,10 +43,8 @@ QString lineOf(const QJsonObject& call)
 {
     QStringList words{call[u"on"_s].toString(), call[u"call"_s].toString()};
     for (const QJsonValue argument : call[u"args"_s].toArray()) {
-        words.append(textOf(argument));
-    }
-    if (call.contains(u"returns"_s)) {
-        words.append({u"->"_s, textOf(call[u"returns"_s])});
+        words.append(words[0] == u"factory"_s ? QString::number(argument.toInt(), 16)
+                                              : textOf(argument));
     }
     return words.join(u' ');
 }
@@ -104,6 +107,11 @@ QByteArray TestHost::takeTrace()
 {
     m_trace.seek(0);
     return std::exchange(m_trace.buffer(), {});
+}
+
+QString TestHost::shown(const QByteArray& bytes)
+{
+    return textOf(QJsonDocument::fromJson(recorder::TraceValue(bytes).json()).object());
 }
 
 int TestHost::itemCount() const

@@ -8,9 +8,10 @@
 /// A recording host whose trace is a list of calls, each on a line:
 ///
 ///     item:1 setItemSize 300 75
-///     datasources createDatasource 'System' -> 1
+///     datasources createDatasource 'SystemDatasource'
 ///
-/// Texts are in quotation marks, numbers have at most ten digits. Log records are left out.
+/// Texts are in quotation marks, numbers have at most ten digits, types of items are hexadecimal.
+/// Log records and returned values are left out.
 class TestHost
 {
 public:
@@ -34,6 +35,11 @@ public:
     /// The trace since then, which is forgotten.
     [[nodiscard]] QByteArray takeTrace();
 
+    /// How a line shows bytes.
+    [[nodiscard]] static QString shown(const QByteArray& bytes);
+
+    /// Items that still exist.
+    [[nodiscard]] int livingItems() const { return int(m_host.itemStates().size()); }
     /// Items that were imported and are still there, of all types or of one.
     [[nodiscard]] int itemCount() const;
     [[nodiscard]] int itemCount(KestTypes::ShapeType type) const;
