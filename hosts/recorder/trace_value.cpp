@@ -121,7 +121,7 @@ TraceValue::TraceValue(const QStringList& texts)
 {}
 
 TraceValue::TraceValue(const QColor& color)
-    : TraceValue(color.name(QColor::HexArgb))
+    : TraceValue(color.isValid() ? TraceValue(color.name(QColor::HexArgb)) : TraceValue(nullptr))
 {}
 
 TraceValue::TraceValue(const QPointF& point)

@@ -5,6 +5,7 @@
 #include "host/services/basic_conversions.h"
 
 #include <QStringList>
+#include <QTransform>
 
 namespace opendocument {
 
@@ -66,6 +67,14 @@ void readGeometry(const xmlbounds::Element& element, double unitFactor, Geometry
     readLength(element, u"svg:y"_s, unitFactor, geometry.position.ry());
     readStackingOrder(element, geometry);
     readTransform(element.attribute(u"draw:transform"_s), unitFactor, geometry);
+}
+
+QPointF positionInRotatedBox(const Geometry& geometry, const QSizeF& textSize)
+{
+    const QPointF boxCenter(geometry.size.width() / 2.0, geometry.size.height() / 2.0);
+    const QPointF textCenter(textSize.width() / 2.0, textSize.height() / 2.0);
+    const QTransform rotation = QTransform().rotate(geometry.rotation);
+    return geometry.position + boxCenter + rotation.map(textCenter - boxCenter) - textCenter;
 }
 
 } // namespace opendocument

@@ -28,4 +28,10 @@ void readGeometry(const xmlbounds::Element& element, double unitFactor, Geometry
 /// Reads draw:z-index alone, for elements that have no other geometry in common.
 void readStackingOrder(const xmlbounds::Element& element, Geometry& geometry);
 
+/// The position of a text at the top left of a rotated box, so that it keeps its place in the box:
+/// hosts rotate the box and the text each about its own center.
+/// @param geometry of the box, with its size and rotation
+/// @param textSize in points
+[[nodiscard]] QPointF positionInRotatedBox(const Geometry& geometry, const QSizeF& textSize);
+
 } // namespace opendocument

@@ -59,16 +59,12 @@ constexpr ShapeClass ShapeClasses[] = {
     {KestTypes::Octagon, shapeOf<PolygonItem>},
 };
 
-quint16 toPenWidth(int width)
-{
-    return static_cast<quint16>(std::clamp<int>(width, 0, std::numeric_limits<quint16>::max()));
-}
-
 void completePen(OOGraphicStyle& style)
 {
     if (style.penStyle == PenStyleNotGiven) {
         style.penStyle = style.penWidth != 0 ? Qt::SolidLine : Qt::NoPen;
     }
+    style.penWidth = std::clamp<int>(style.penWidth, 0, std::numeric_limits<quint16>::max());
     if (style.penStyle != Qt::NoPen && style.penWidth == 0) {
         style.penWidth = 1;
     }
@@ -93,9 +89,9 @@ void applyFill(FillableItem& shape, OOGraphicStyle& style)
         style.brushStyle = Qt::NoBrush;
     }
     shape.setBrushStyle(style.brushStyle);
-    const QColor color = QColor::fromString(style.fillColor);
-    if (color.isValid()) {
-        shape.setFillColor(color);
+    if (!style.fillColor.isEmpty()) {
+        // Text that is not a color gives an invalid one, which hosts ignore.
+        shape.setFillColor(QColor::fromString(style.fillColor));
     }
 }
 
@@ -150,10 +146,10 @@ void applyPen(Item& item, PenItem& pen, OOGraphicStyle& style)
     item.setFlipVertical(style.mirrorVertical);
     completePen(style);
     pen.setPenStyle(style.penStyle);
-    pen.setPenWidth(toPenWidth(style.penWidth));
-    const QColor color = QColor::fromString(style.penColor);
-    if (color.isValid()) {
-        pen.setPenColor(color);
+    pen.setPenWidth(static_cast<quint16>(style.penWidth));
+    if (!style.penColor.isEmpty()) {
+        // Text that is not a color gives an invalid one, which hosts ignore.
+        pen.setPenColor(QColor::fromString(style.penColor));
     }
     applyEnds(pen, style);
 }

@@ -54,7 +54,8 @@ struct NewShape
 /// shape and where the factory gives no item of the type's class.
 [[nodiscard]] NewShape makeShape(ClassFactory* factory, KestTypes::ShapeType type);
 
-/// Sets flips and outline. Completes the style where it leaves the pen open.
+/// Sets flips and outline. Completes the pen of the style: a missing pen style, a width outside
+/// 0 to 65535, and the width of a visible pen without one.
 void applyPen(Item& item, PenItem& pen, OOGraphicStyle& style);
 
 /// Sets size, flips, outline, rotation and inside of a shape.

@@ -51,8 +51,9 @@ FramePlacement OpenOfficeReader::readFrame(const xmlbounds::Element& element)
     if (!isPlaced) {
         return {};
     }
-    return {geometry.position.x(), geometry.size.height(), geometry.size.width(), geometry.z,
-            style.wrap};
+    // Pictures may be left without a position; text that flows around them starts at the left.
+    const double x = geometry.hasX() ? geometry.position.x() : 0.0;
+    return {x, geometry.size.height(), geometry.size.width(), geometry.z, style.wrap};
 }
 
 bool OpenOfficeReader::readTextBox(const xmlbounds::Element& frame, OOGraphicStyle style,

@@ -9,8 +9,6 @@
 #include "host/items/rounded_rectangle_item.h"
 #include "host/tal_canvas_model.h"
 
-#include <algorithm>
-
 using namespace opendocument;
 using namespace Qt::StringLiterals;
 
@@ -61,7 +59,11 @@ bool hasParagraph(const xmlbounds::Element& element)
 OpenOfficeReader::OOGraphicStyle
 OpenOfficeReader::graphicStyleOf(const xmlbounds::Element& element) const
 {
-    return m_graphicStyles.value(element.attribute(u"draw:style-name"_s), m_defaultGraphicStyle);
+    const QString name = element.attribute(u"draw:style-name"_s);
+    // A style without a name is stored under the empty one; an element without a name must not
+    // find it.
+    return name.isEmpty() ? m_defaultGraphicStyle
+                          : m_graphicStyles.value(name, m_defaultGraphicStyle);
 }
 
 void OpenOfficeReader::readLine(const xmlbounds::Element& element)
@@ -95,7 +97,7 @@ NewShape OpenOfficeReader::makeRectangle(const xmlbounds::Element& element, bool
         makeShape(m_classFactory, isRounded ? KestTypes::RoundedRectangle : KestTypes::Rectangle);
     double radius = 0;
     if (shape.corners != nullptr && readLength(element, radiusName, m_unitFactor, radius)) {
-        shape.corners->setCornerRadius(std::max(radius, 0.0));
+        shape.corners->setCornerRadius(radius);
     }
     return shape;
 }

@@ -52,7 +52,6 @@ void OpenOfficeReader::readParagraph(const xmlbounds::Element& paragraph)
     for (xmlbounds::Node node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
         readParagraphNode(node.toElement(), node.isText() ? node.nodeValue() : QString(), style,
                           flow);
-        advanceFlow(flow.takeFullLine());
     }
     advanceFlow(flow.lineHeight());
 }
@@ -87,6 +86,8 @@ void OpenOfficeReader::readRun(const QString& text, const OOTextStyle& style, Pa
     if (isTooLong(text.size())) {
         return;
     }
+    // Before each run and not after each node: frames count the same before and after the text.
+    advanceFlow(flow.takeFullLine());
     const QSizeF size =
         placeTextRun(text, style, flow.availableWidth(), flow.cursor(), flow.takeRunZ());
     flow.passRun(size, style.margins.second);
@@ -133,9 +134,12 @@ void OpenOfficeReader::buildRichText(const xmlbounds::Element& shape, const Geom
     if (geometry.hasZ()) {
         item->setZValue(geometry.z + AboveShape);
     }
-    setPosition(*item.item, geometry.position);
+    QPointF position = geometry.position;
+    if (geometry.hasRotation()) {
+        position = positionInRotatedBox(geometry, {item->getItemWidth(), item->getItemHeight()});
+    }
+    setPosition(*item.item, position);
     const bool isKept = handOver(*m_canvasModel, std::move(item.owned));
-    // The text lies on its shape, turned as that is.
     if (isKept && geometry.hasRotation()) {
         item->setItemRotation(geometry.rotation);
     }

@@ -34,7 +34,7 @@ QString shown(const QString& text)
 
 QString shown(const QColor& color)
 {
-    return color.name(QColor::HexArgb);
+    return color.isValid() ? color.name(QColor::HexArgb) : u"invalid"_s;
 }
 
 QString shown(const QSizeF& size)

@@ -101,12 +101,15 @@ TEST_F(Frame, TextBoxMakesItsCallsInOrder)
                          u"item1.setBrushStyle 1"_s,
                          u"factory.create RichText"_s,
                          u"item2.adjustBoxSizeToContent 216"_s,
+                         u"item2.getItemWidth"_s,
+                         u"item2.getItemHeight"_s,
                          u"canvas.importItem 2"_s,
                          u"item2.setItemRotation 90"_s,
                      }));
     EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));
     EXPECT_EQ(host.item(1)->zValue(), 2000);
-    EXPECT_EQ(host.item(2)->pos(), QPointF(72, 144));
+    EXPECT_NEAR(host.item(2)->pos().x(), 72 + 108 + (144 - 6) - 108, 1e-9);
+    EXPECT_NEAR(host.item(2)->pos().y(), 144 + 144 - 6, 1e-9);
     EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 2000.001);
 }
 
@@ -312,6 +315,18 @@ TEST_F(Frame, WhatGivesNoPictureTakesNoPlaceInTheFlow)
     host.refusedTypes = {KestTypes::Picture, KestTypes::Symbol};
     importText(images({"a.png"}, high) + images({"c.svg"}, high) + "<text:p>x</text:p>");
     EXPECT_EQ(host.item(4)->pos(), QPointF(0, 0)) << "the host makes neither";
+}
+
+TEST_F(Frame, AMissingPositionIsZeroForTheTextBesideAPicture)
+{
+    for (const char* name : {"a.png", "c.svg"}) {
+        importText("<text:p>" +
+                       images({name}, "draw:style-name=\"g\" svg:width=\"1in\" svg:y=\"1in\"") +
+                       "x</text:p>",
+                   "style:wrap=\"right\"");
+        EXPECT_EQ(host.item(host.createdCount())->pos(), QPointF(72, 0));
+        EXPECT_EQ(host.lastCall(host.createdCount(), u"adjustBoxSizeToContent"_s), u"540"_s);
+    }
 }
 
 TEST_F(Frame, ABoxThatTheHostDoesNotMakeTakesNoPlaceInTheFlow)

@@ -112,3 +112,28 @@ TEST(Geometry, TransformIsScannedPartByPart)
         EXPECT_EQ(geometry.position, row.position);
     }
 }
+
+TEST(PositionInRotatedBox, KeepsTheTextInItsCorner)
+{
+    Geometry box;
+    box.position = {100, 200};
+    box.size = {60, 40};
+    const QSizeF text(60, 10);
+    const struct
+    {
+        double rotation;
+        QPointF center; // of the text
+    } rows[] = {
+        {0, {130, 205}},
+        {90, {145, 220}},
+        {180, {130, 235}},
+        {270, {115, 220}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.rotation);
+        box.rotation = row.rotation;
+        const QPointF position = positionInRotatedBox(box, text);
+        EXPECT_NEAR(position.x() + 30, row.center.x(), 1e-9);
+        EXPECT_NEAR(position.y() + 5, row.center.y(), 1e-9);
+    }
+}

@@ -208,6 +208,22 @@ TEST_F(Paragraph, FrameBeforeTheTextRaisesTheLine)
     EXPECT_NEAR(pos(3).y(), 30, 1e-6);
 }
 
+TEST_F(Paragraph, AFrameThatFillsTheLineCountsTheSameBeforeAndAfterTheText)
+{
+    const QByteArray wide = frame("wrapRight", "svg:x=\"8in\"");
+    import("<text:p>" + wide + "a</text:p><text:p>a" + wide + "</text:p>");
+    EXPECT_EQ(pos(2), QPointF(0, 0));
+    EXPECT_EQ(pos(4), QPointF(0, 12));
+}
+
+TEST_F(Paragraph, ALineEndsBeforeTheNextRunAndNotAfterASpace)
+{
+    import("<text:p>" + QByteArray(62, 'x') +
+           "<text:s text:c=\"1\"/><text:s text:c=\"4\"/>b</text:p><text:p>next</text:p>");
+    EXPECT_EQ(pos(2), QPointF(0, 12)) << "spaces at the end of a line do not indent the next";
+    EXPECT_EQ(pos(3), QPointF(0, 24));
+}
+
 TEST_F(Paragraph, FramesInsideSpansAreNotRead)
 {
     import("<text:p><text:span>" + frame("none") + "a</text:span></text:p>");

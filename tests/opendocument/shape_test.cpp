@@ -118,7 +118,9 @@ TEST_F(Shape, PenFollowsFromWidthWhereTheStyleIsOpen)
         {"draw:stroke=\"none\" svg:stroke-width=\"1in\"", u"0"_s, u"0"_s},
         {"draw:stroke=\"dash\" draw:stroke-dash=\"Dash\"", u"2"_s, u"1"_s},
         {"svg:stroke-width=\"1000in\"", u"1"_s, u"65535"_s},
-        {"svg:stroke-width=\"-1in\"", u"1"_s, u"0"_s},
+        {"svg:stroke-width=\"-1in\"", u"1"_s, u"1"_s},
+        {"fo:border=\"-1in solid\"", u"1"_s, u"1"_s},
+        {"fo:border=\"-1in none\"", u"0"_s, u"0"_s},
         {"svg:stroke-width=\"1e300in\"", u"1"_s, u"65535"_s},
     };
     int item = 0;
@@ -140,13 +142,20 @@ TEST_F(Shape, NoPenHasNoEnds)
     EXPECT_EQ(host.lastCall(1, u"setJoinStyle"_s), QString());
 }
 
-TEST_F(Shape, ColoursThatAreNoneAreNotSet)
+TEST_F(Shape, TextThatIsNotAColorSetsAnInvalidColor)
 {
     import("<draw:rect draw:style-name=\"g\"/>",
            "svg:stroke-color=\"nocolour\" draw:fill-color=\"#12\"");
+    EXPECT_EQ(host.lastCall(1, u"setPenColor"_s), u"invalid"_s);
+    EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), u"invalid"_s);
+    EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"1"_s);
+}
+
+TEST_F(Shape, EmptyColorsAreNotSet)
+{
+    import("<draw:rect draw:style-name=\"g\"/>", "svg:stroke-color=\"\" draw:fill-color=\"\"");
     EXPECT_EQ(host.lastCall(1, u"setPenColor"_s), QString());
     EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), QString());
-    EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"1"_s);
 }
 
 TEST_F(Shape, UnknownStyleIsTheDefault)
@@ -155,6 +164,21 @@ TEST_F(Shape, UnknownStyleIsTheDefault)
            "draw:fill=\"solid\"");
     EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"0"_s);
     EXPECT_EQ(host.lastCall(2, u"setBrushStyle"_s), u"0"_s);
+}
+
+TEST_F(Shape, AnEmptyStyleNameIsTheDefaultEvenIfAStyleHasNoName)
+{
+    const QByteArray nameless =
+        "<style:style style:family=\"graphic\"><style:graphic-properties draw:fill=\"solid\"/>"
+        "</style:style>";
+    Package package(stylesXml(),
+                    drawingXml("<draw:rect draw:style-name=\"\"/><draw:rect/><draw:line "
+                               "draw:style-name=\"\"/><draw:frame draw:style-name=\"\"/>",
+                               nameless));
+    ASSERT_TRUE(reader.importLabelFromFile(package.write()));
+    EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"0"_s);
+    EXPECT_EQ(host.lastCall(2, u"setBrushStyle"_s), u"0"_s);
+    EXPECT_EQ(host.lastCall(4, u"setBrushStyle"_s), u"0"_s);
 }
 
 TEST_F(Shape, CornerRadiusIsSetFirst)
@@ -169,7 +193,7 @@ TEST_F(Shape, CornerRadiusThatIsNoneStillRoundsTheRectangle)
     import("<draw:rect draw:corner-radius=\"x\"/><draw:rect draw:corner-radius=\"-1in\"/>");
     EXPECT_EQ(host.createdTypes(), (QStringList{u"RoundedRectangle"_s, u"RoundedRectangle"_s}));
     EXPECT_EQ(host.lastCall(1, u"setCornerRadius"_s), QString());
-    EXPECT_EQ(host.lastCall(2, u"setCornerRadius"_s), u"0"_s);
+    EXPECT_EQ(host.lastCall(2, u"setCornerRadius"_s), u"-72"_s) << "hosts clamp it";
 }
 
 TEST_F(Shape, EachKindTakesStyleAndPlace)
@@ -200,10 +224,15 @@ TEST_F(Shape, TextLiesOnItsShape)
                   u"canvas.importItem 1"_s,
                   u"factory.create RichText"_s,
                   u"item2.adjustBoxSizeToContent 216"_s,
+                  u"item2.getItemWidth"_s,
+                  u"item2.getItemHeight"_s,
                   u"canvas.importItem 2"_s,
                   u"item2.setItemRotation 90"_s,
               }));
-    EXPECT_EQ(host.item(2)->pos(), QPointF(72, 144));
+    // A text of 216 by 12 in a box of 216 by 288, both rotated about their centers: its upper
+    // edge is at the right edge of the box.
+    EXPECT_NEAR(host.item(2)->pos().x(), 72 + 108 + (144 - 6) - 108, 1e-9);
+    EXPECT_NEAR(host.item(2)->pos().y(), 144 + 144 - 6, 1e-9);
     EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 3000.001);
     EXPECT_TRUE(host.html(2).contains(u">x<"_s));
 }

@@ -129,6 +129,9 @@ TEST_F(ItemCalls, pen)
         Contoured, [](PenItem& item) { item.setPenColor(Qt::red); },
         R"("setPenColor","args":["#ffff0000"])");
     expectOnEach<PenItem>(
+        Contoured, [](PenItem& item) { item.setPenColor(QColor()); },
+        R"("setPenColor","args":[null])");
+    expectOnEach<PenItem>(
         Contoured, [](PenItem& item) { item.setPenWidth(65535); },
         R"("setPenWidth","args":[65535])");
     expectOnEach<PenItem>(
@@ -145,6 +148,10 @@ TEST_F(ItemCalls, fillAndBrush)
         together(Fillables, {KestTypes::Barcode, KestTypes::Symbol}),
         [](FillColorItem& item) { item.setFillColor(Qt::transparent); },
         R"("setFillColor","args":["#00000000"])");
+    expectOnEach<FillColorItem>(
+        together(Fillables, {KestTypes::Barcode, KestTypes::Symbol}),
+        [](FillColorItem& item) { item.setFillColor(QColor()); },
+        R"("setFillColor","args":[null])");
     expectOnEach<IBrushItem>(
         Fillables, [](IBrushItem& item) { item.setFilled(true); }, R"("setFilled","args":[true])");
     expectOnEach<IBrushItem>(

@@ -126,6 +126,7 @@ TEST(TraceValue, coloursWithAlphaFirst)
 {
     EXPECT_EQ(json(QColor(Qt::white)), "\"#ffffffff\"");
     EXPECT_EQ(json(QColor(Qt::transparent)), "\"#00000000\"");
+    EXPECT_EQ(json(QColor()), "null");
     EXPECT_EQ(json(QColor(0xAB, 0xCD, 0xEF, 0x80)), "\"#80abcdef\"");
 }
 

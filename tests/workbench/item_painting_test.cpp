@@ -98,6 +98,20 @@ TEST(ShapePainting, TheOutlineStandsHalfOnEitherSideOfTheEdge)
     EXPECT_EQ(page.ink(), QRect(18, 18, 64, 44));
 }
 
+TEST(ShapePainting, InvalidColorsChangeNothing)
+{
+    Painted page;
+    auto& item = putShape(page, KestTypes::Rectangle);
+    item.setPenStyle(Qt::SolidLine);
+    item.setPenWidth(4);
+    item.setPenColor(Qt::red);
+    item.setPenColor(QColor());
+    item.setFillColor(QColor());
+
+    EXPECT_EQ(page.at(21, 40), QColor(Qt::red));
+    EXPECT_EQ(page.at(50, 40), kFill);
+}
+
 TEST(ShapePainting, AShapeWithoutASizeIsKeptAndDrawsNothing)
 {
     for (const QSizeF& size :

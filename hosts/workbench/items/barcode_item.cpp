@@ -52,7 +52,9 @@ void BarcodeItem::setBackgroundColor(const QColor& color)
 
 void BarcodeItem::setFillColor(const QColor& color)
 {
-    setBackgroundColor(color);
+    if (color.isValid()) {
+        setBackgroundColor(color);
+    }
 }
 
 void BarcodeItem::importBarcodeProperties(int symbology, const QString& content, bool flag3,

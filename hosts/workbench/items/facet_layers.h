@@ -19,7 +19,12 @@ class PenLayer : public Base
 public:
     using Base::Base;
 
-    void setPenColor(const QColor& color) override { change(m_pen.color, color); }
+    void setPenColor(const QColor& color) override
+    {
+        if (color.isValid()) {
+            change(m_pen.color, color);
+        }
+    }
     void setPenWidth(quint16 width) override { change(m_pen.width, width); }
     void setPenStyle(int style) override { change(m_pen.style, style); }
     void setCapStyle(int style) override { change(m_pen.cap, style); }
@@ -64,8 +69,10 @@ public:
 
     void setFillColor(const QColor& color) override
     {
-        m_fill.color = color;
-        this->appearanceChanged();
+        if (color.isValid()) {
+            m_fill.color = color;
+            this->appearanceChanged();
+        }
     }
 
     void setFilled(bool filled) override

@@ -36,7 +36,9 @@ void SymbolItem::setBackgroundColor(const QColor& color)
 
 void SymbolItem::setFillColor(const QColor& color)
 {
-    setBackgroundColor(color);
+    if (color.isValid()) {
+        setBackgroundColor(color);
+    }
 }
 
 void SymbolItem::takeData(const QByteArray& data)

@@ -9,6 +9,6 @@
 class IRoundRectItem : public ISizeItem
 {
 public:
-    /// Radius of the four corners, in points, 0 or more.
+    /// Radius of the four corners, in points; negative values count as 0.
     virtual void setCornerRadius(double radius) = 0;
 };

@@ -13,7 +13,8 @@ class PenItem
 public:
     virtual ~PenItem() = default;
 
-    virtual void setPenColor(const QColor& color) = 0; ///< May be translucent.
+    /// May be translucent. An invalid color changes nothing.
+    virtual void setPenColor(const QColor& color) = 0;
     /// Width in points; 0 is the thinnest line that the output can show.
     virtual void setPenWidth(quint16 width) = 0;
     /// A Qt::PenStyle; Qt::NoPen (0) hides the outline.
