@@ -4,15 +4,15 @@
 
 class Item;
 
-/// Makes the host's items.
+/// Creates the host's items.
 class ClassFactory
 {
 public:
     virtual ~ClassFactory() = default;
 
-    /// Makes a new item of the class that KestTypes::ShapeType names for the code.
+    /// Creates an item of the class that KestTypes::ShapeType gives for the code.
     ///
-    /// The caller owns it until it hands it to TalCanvasModel::importItem(). A host
-    /// that cannot make the item returns null; the importer then leaves it out.
+    /// The caller owns it until it passes it to TalCanvasModel::importItem(). A host that cannot
+    /// create the item returns null; the importer then omits it.
     [[nodiscard]] virtual Item* create(KestTypes::ShapeType type) = 0;
 };

@@ -10,8 +10,8 @@ class DatasourceController
 public:
     virtual ~DatasourceController() = default;
 
-    /// Makes a data source of a kind that TalDatasource names and returns its identifier.
+    /// Creates a data source of a kind that TalDatasource names and returns its identifier.
     [[nodiscard]] virtual int createDatasource(const QString& kind) = 0;
-    /// The source of this identifier, owned by the controller; null for an unknown one.
+    /// The source with this identifier, owned by the controller; null for an unknown one.
     [[nodiscard]] virtual TalDatasource* getDatasource(int id) = 0;
 };

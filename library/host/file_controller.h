@@ -15,12 +15,12 @@ public:
     /// @param canvasModel     the canvas with the open label
     /// @param currentFileName the open label's file name, as the host gave it
     /// @param allowDiscard    whether the question may offer to discard; importers pass true
-    /// @return true when the import may go on, false when the user cancelled
+    /// @return true if the import may continue, false if the user canceled it
     [[nodiscard]] virtual bool checkSaveChanges(TalCanvasModel* canvasModel,
                                                 const QString& currentFileName,
                                                 bool allowDiscard) = 0;
 
-    /// Saves the label that was just imported, by the host's own save procedure.
+    /// Saves the imported label by the host's own save procedure.
     ///
     /// @param folder    the folder to save in, absolute
     /// @param baseName  the file name without the last suffix
@@ -29,6 +29,6 @@ public:
                                      const QString& labelType) = 0;
 
     /// Announces to the host that a label type was loaded; importers pass an empty text,
-    /// because legacy labels bring no label type of the host's.
+    /// because legacy labels have no label type of the host.
     virtual void emitLabelTypeLoadedSignal(QString labelType) = 0;
 };

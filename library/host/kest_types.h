@@ -5,10 +5,10 @@
 /// The host's type codes.
 namespace KestTypes {
 
-/// What kind of item ClassFactory::create() is asked for.
+/// The kind of item that ClassFactory::create() creates.
 ///
-/// The numbers are part of the contract. RichText follows SimpleText directly, and
-/// the polygons form one run: importers compute codes from one another.
+/// The numbers are part of the contract. RichText follows SimpleText, and the polygons are
+/// consecutive: importers compute codes from one another.
 enum ShapeType : qint32 {
     Picture = 0x1000C,          ///< PixMapItem: a raster picture
     Symbol = 0x1000D,           ///< SymbolItem: a vector symbol
@@ -16,7 +16,7 @@ enum ShapeType : qint32 {
     RichText = 0x10016,         ///< RichTextItem: formatted text
     Barcode = 0x1001D,          ///< BarcodeItem
     Line = 0x1001F,             ///< LineItem
-    Rectangle = 0x1002A,        ///< RectangleItem; also for shapes that are not known
+    Rectangle = 0x1002A,        ///< RectangleItem; also for unknown shapes
     RoundedRectangle = 0x1002B, ///< RoundedRectangleItem
     Ellipse = 0x1002C,          ///< EllipseItem
     Pie = 0x1002E,              ///< PieItem

@@ -4,9 +4,9 @@
 #include <QString>
 #include <QVariant>
 
-/// A source of changing content: a counter, the clock, a list.
+/// A source of variable content: a counter, the clock, a list.
 ///
-/// Kinds and their properties, by the names that importers use:
+/// Kinds and their properties, with the names that importers use:
 ///
 /// | kind                 | properties                                                    |
 /// |----------------------|---------------------------------------------------------------|
@@ -18,7 +18,7 @@ class TalDatasource
 public:
     virtual ~TalDatasource() = default;
 
-    /// Sets one property; a name that the kind does not have is ignored.
+    /// Sets a property; a name that the kind does not have is ignored.
     virtual void setDatasourceProperty(const QString& name, const QVariant& value) = 0;
     /// Names of the fields that the source offers.
     [[nodiscard]] virtual QList<QString> fields() const = 0;

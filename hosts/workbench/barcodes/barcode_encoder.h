@@ -10,7 +10,8 @@
 /// Contents turned into bars.
 namespace workbench::barcodes {
 
-/// What to encode, with the names of the contract's BarcodeItem::importBarcodeProperties().
+/// What to encode: the arguments of BarcodeItem::importBarcodeProperties(). flag1 to flag3 are its
+/// hasQuietZones, hasBearerBars and hasText, number its size, value its errorCorrection.
 ///
 /// | property      | effect                                                                     |
 /// |---------------|----------------------------------------------------------------------------|

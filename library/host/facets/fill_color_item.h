@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/// The colour that fills an item.
+/// The color that fills an item.
 class FillColorItem
 {
 public:

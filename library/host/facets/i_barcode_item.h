@@ -1,11 +1,11 @@
 #pragma once
 
-/// What a barcode encodes with.
+/// The symbology of a barcode.
 class IBarcodeItem
 {
 public:
     virtual ~IBarcodeItem() = default;
 
-    /// Symbology code of the host's list, the numbers that CommonLists knows.
+    /// A symbology code of CommonLists.
     virtual void setBarcodeType(int code) = 0;
 };

@@ -2,7 +2,7 @@
 
 #include "host/facets/i_size_item.h"
 
-/// What every item has: a size. A host adds what its own editor needs here.
+/// The base of every item: a size. A host may add what its own editor needs.
 class IBasicItem : public ISizeItem
 {
 public:

@@ -1,8 +1,7 @@
 #pragma once
 
-/// Marks an item that has a colour of its own. The importer calls nothing on it: the
-/// colours that it sets belong to the pen, fill and text facets and to BarcodeItem
-/// and SymbolItem.
+/// Marks an item with a color of its own. Importers do not call it: they set colors through the
+/// pen, fill and text facets, BarcodeItem and SymbolItem.
 class IColorItem
 {
 public:

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Graphic properties of a picture (brightness, dithering and the like). The importer
-/// sets none of them; legacy labels keep pictures as they are.
+/// Graphic properties of a picture, such as brightness and dithering. Importers do not set them,
+/// because legacy labels do not store them.
 class IGraphicItem
 {
 public:

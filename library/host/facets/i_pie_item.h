@@ -1,7 +1,6 @@
 #pragma once
 
-/// The angles of a pie segment. Legacy formats that have pies store no angles that
-/// the importer reads; a host shows its own default segment.
+/// The angles of a pie segment. Importers do not read angles: show a default segment.
 class IPieItem
 {
 public:

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Marks a text with formats of its own inside. The importer sets its content by
-/// QGraphicsTextItem::setHtml() or by the text and font facets.
+/// Marks a formatted text. Importers set its content by QGraphicsTextItem::setHtml() or by the
+/// text and font facets.
 class IRichTextItem
 {
 public:

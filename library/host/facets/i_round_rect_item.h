@@ -4,8 +4,8 @@
 
 /// The corners of a rounded rectangle.
 ///
-/// This is the second way to ISizeItem in a RoundedRectangleItem, so reach its
-/// size through Item, never by a cast from a graphics item to ISizeItem.
+/// RoundedRectangleItem has the base ISizeItem twice, so access its size through Item, never by a
+/// cast from a graphics item to ISizeItem.
 class IRoundRectItem : public ISizeItem
 {
 public:

@@ -8,11 +8,11 @@ class ISizeItem
 public:
     virtual ~ISizeItem() = default;
 
-    /// Gives the item's box a new size; the position stays. A value that is
-    /// negative, infinite or not a number comes from a damaged label: keep the
-    /// item, draw nothing or the smallest box.
+    /// Changes the size of the item's box, but not its position. A negative or infinite value, or
+    /// one that is not a number, comes from a damaged label: keep the item, and draw nothing or
+    /// the smallest box.
     virtual void setItemSize(const QSizeF& size) = 0;
-    /// The present size; what setItemSize() set, or the content's own size
-    /// for a picture or symbol that was just loaded.
+    /// The current size: that of setItemSize(), or the content's own size after a picture or symbol
+    /// was loaded.
     [[nodiscard]] virtual QSizeF getItemSize() const = 0;
 };

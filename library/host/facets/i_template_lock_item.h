@@ -1,8 +1,7 @@
 #pragma once
 
-/// The lock of an item within a template. The importer calls nothing on it: legacy
-/// labels lock items by QGraphicsItem::ItemIsMovable. It is the place for a host's
-/// own template lock.
+/// The lock of an item in a template, for hosts that have one. Importers do not call it: legacy
+/// labels lock items by QGraphicsItem::ItemIsMovable.
 class ITemplateLockItem
 {
 public:

@@ -2,12 +2,12 @@
 
 #include <Qt>
 
-/// Where text stands in its box.
+/// The position of text in its box.
 class ITextAlignItem
 {
 public:
     virtual ~ITextAlignItem() = default;
 
-    /// Horizontal and vertical flags together; a missing direction means left or top.
+    /// Horizontal and vertical flags combined; a missing direction means left or top.
     virtual void setTextAlignment(Qt::Alignment alignment) = 0;
 };

@@ -8,7 +8,6 @@ class ITextGenericItem
 public:
     virtual ~ITextGenericItem() = default;
 
-    /// Replaces the whole text. Line feeds begin a new line; nothing in the text
-    /// is markup.
+    /// Replaces the text. Line feeds begin a new line; the text is never markup.
     virtual void setText(const QString& text) = 0;
 };

@@ -2,19 +2,18 @@
 
 #include <QSizeF>
 
-/// What only a single-format text has.
+/// Properties that only a single-format text has.
 class ITextLabelItem
 {
 public:
     virtual ~ITextLabelItem() = default;
 
-    /// The box that the text stands in, in points. Which of its sides are fixed
-    /// is told by SimpleTextItem::setItemSizeLimiting().
+    /// The text's box, in points. SimpleTextItem::setItemSizeLimiting() sets its fixed sides.
     virtual void setTextBoxSize(const QSizeF& size) = 0;
-    /// First option of the legacy text, passed on as it was stored.
+    /// First option of a legacy text, as stored. Its meaning is unknown.
     virtual void setOptionA(bool on) = 0;
-    /// Second option of the legacy text, passed on as it was stored.
+    /// Second option of a legacy text, as stored. Its meaning is unknown.
     virtual void setOptionB(bool on) = 0;
-    /// Called once after all text properties are set: lay the text out now.
+    /// Called once after all text properties are set: lay out the text.
     virtual void applyTextOptions() = 0;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
-/// Marks an item that holds a picture. The importer loads it by
-/// PixMapItem::pixmapImportActions().
+/// Marks an item with a picture. Importers set it by PixMapItem::pixmapImportActions().
 class ImageableItem
 {
 public:

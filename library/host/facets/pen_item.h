@@ -5,9 +5,8 @@
 
 /// The outline of a shape, the stroke of a line, the frame of a text.
 ///
-/// Styles are numbers of the Qt enumerations. They come from files that may hold any
-/// number; a host treats what it does not know as a solid line, a flat cap or a
-/// bevelled join.
+/// Styles are numbers of Qt's enumerations. They come from files, which may contain any number:
+/// treat unknown ones as a solid line, a flat cap or a beveled join.
 class PenItem
 {
 public:

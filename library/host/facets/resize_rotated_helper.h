@@ -1,7 +1,6 @@
 #pragma once
 
-/// Marks an item that a host's editor may resize while it is rotated. The importer
-/// calls nothing on it.
+/// Marks an item that a host's editor may resize while it is rotated. Importers do not call it.
 class ResizeRotatedHelper
 {
 public:

@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/// The colour of an item's characters.
+/// The color of an item's characters.
 class TextColorItem
 {
 public:

@@ -25,23 +25,30 @@ class BarcodeItem : public QObject,
                     public IDatasourceItem
 {
 public:
-    /// Colour of the bars and of the caption.
+    /// Color of the bars and of the caption.
     virtual void setForegroundColor(const QColor& color) = 0;
-    /// Colour behind the bars.
+    /// Color behind the bars.
     virtual void setBackgroundColor(const QColor& color) = 0;
     /// The properties of a binary label's barcode in one call, as they are stored.
     ///
-    /// @param symbology     symbology code of the host's list
-    /// @param content       the text to encode
-    /// @param flag3         third stored flag
-    /// @param textAlignment where the caption stands, a Qt::Alignment
-    /// @param moduleWidth   width of the narrowest bar in whole points, 0 for the host's choice
-    /// @param flag1         first stored flag
-    /// @param flag2         second stored flag
-    /// @param option        symbology option: 0 or 1, or a number for symbology 55
-    /// @param number        numeric setting, 0 when the label had none
-    /// @param value         last stored value
-    virtual void importBarcodeProperties(int symbology, const QString& content, bool flag3,
-                                         int textAlignment, int moduleWidth, bool flag1, bool flag2,
-                                         int option, int number, int value) = 0;
+    /// The format stores four flags: quiet zones, bearer bars, text, and the check digit, which is
+    /// the option of all symbologies but PDF417.
+    ///
+    /// @param symbology       symbology code of the host's list
+    /// @param content         the text to encode
+    /// @param hasText         whether a linear symbology shows its text (third stored flag)
+    /// @param textAlignment   position of the text, a Qt::Alignment
+    /// @param moduleWidth     width of the narrowest bar in whole points, 0 for the host's choice
+    /// @param hasQuietZones   whether the blank margins belong to the symbol (first stored flag)
+    /// @param hasBearerBars   whether a linear symbology has bars along its upper and lower edge
+    ///                        (second stored flag)
+    /// @param option          1 for a check digit, where it is optional, else 0 (fourth stored
+    ///                        flag); for PDF417 (55) the number of columns
+    /// @param size            size, version or number of columns by the symbology; 0 if the label
+    ///                        has none
+    /// @param errorCorrection level of error correction, or the mode of MaxiCode
+    virtual void importBarcodeProperties(int symbology, const QString& content, bool hasText,
+                                         int textAlignment, int moduleWidth, bool hasQuietZones,
+                                         bool hasBearerBars, int option, int size,
+                                         int errorCorrection) = 0;
 };

@@ -5,6 +5,6 @@
 #include <QGraphicsEllipseItem>
 #include <QObject>
 
-/// An ellipse that fills its box; a circle when the box is square.
+/// An ellipse that fills its box; a circle if the box is square.
 class EllipseItem : public QObject, public QGraphicsEllipseItem, public FillableItem
 {};

@@ -3,12 +3,11 @@
 #include "host/facets/i_basic_item.h"
 #include "host/facets/i_template_lock_item.h"
 
-/// One object of a label: the common base of everything that ClassFactory makes.
+/// An object of a label: the common base of all items that ClassFactory creates.
 ///
-/// Every concrete item is at the same time a QGraphicsItem: the importer casts an
-/// Item to QGraphicsItem for position, z value and flags, and to the facets for the
-/// rest. Implement the facets on the class that you derive, so that dynamic_cast
-/// reaches them from Item.
+/// Every concrete item is also a QGraphicsItem: importers cast an Item to QGraphicsItem for
+/// position, z value and flags, and to the facets for all other properties. Implement the facets
+/// in the class that you derive, so that dynamic_cast finds them from Item.
 class Item : public IBasicItem, public ITemplateLockItem
 {
 public:
@@ -16,8 +15,8 @@ public:
     [[nodiscard]] virtual double getItemWidth() const = 0;
     /// Height of the item's box in points, as getItemSize() gives it.
     [[nodiscard]] virtual double getItemHeight() const = 0;
-    /// Turns the item to this angle, in degrees, clockwise, about the centre of its
-    /// box. The angle is absolute and may be outside 0 to 360.
+    /// Rotates the item to this angle, in degrees, clockwise, about the center of its box. The
+    /// angle is absolute and may be outside 0 to 360.
     virtual void setItemRotation(double degrees) = 0;
     /// Mirrors the content left to right within the box.
     virtual void setFlipHorizontal(bool flip) = 0;

@@ -20,7 +20,7 @@ class PixMapItem : public QObject,
                    public IDatasourceItem
 {
 public:
-    /// Takes the picture over and gives the item the picture's own size, one
-    /// point for a pixel. A null pixmap leaves an item of size 0 by 0.
+    /// Sets the picture and gives the item the picture's own size, one point per pixel; a null
+    /// pixmap gives 0 by 0.
     virtual void pixmapImportActions(const QPixmap& pixmap) = 0;
 };

@@ -5,7 +5,7 @@
 #include <QGraphicsPolygonItem>
 #include <QObject>
 
-/// A triangle, diamond, pentagon, hexagon or octagon that fills its box. Which of
-/// them is told to the factory by the shape type; the corners are the host's business.
+/// A triangle, diamond, pentagon, hexagon or octagon that fills its box. The factory gets the kind
+/// as the shape type; the host computes the corners.
 class PolygonItem : public QObject, public QGraphicsPolygonItem, public FillableItem
 {};

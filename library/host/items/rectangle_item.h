@@ -5,6 +5,6 @@
 #include <QGraphicsRectItem>
 #include <QObject>
 
-/// A rectangle; also what an unknown legacy shape becomes.
+/// A rectangle. Unknown legacy shapes become rectangles, too.
 class RectangleItem : public QObject, public QGraphicsRectItem, public FillableItem
 {};

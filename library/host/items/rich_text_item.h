@@ -3,11 +3,11 @@
 #include "host/facets/i_rich_text_item.h"
 #include "host/items/text_item.h"
 
-/// A text with formats of its own inside; its content is a QTextDocument.
+/// A formatted text; its content is a QTextDocument.
 class RichTextItem : public TextItem, public IRichTextItem
 {
 public:
-    /// Wraps the text at this width, in points, and makes the box just high
-    /// enough for the text. A width of 0 or less does not wrap.
+    /// Wraps the text at this width, in points, and adjusts the height of the box to the text. A
+    /// width of 0 or less does not wrap.
     virtual void adjustBoxSizeToContent(double width) = 0;
 };

@@ -5,8 +5,8 @@
 
 /// A rectangle with round corners.
 ///
-/// Its size can be reached in two ways, through Item and through IRoundRectItem;
-/// the two declarations here make one operation of them.
+/// Its size is accessible through Item and through IRoundRectItem; the declarations here override
+/// both.
 class RoundedRectangleItem : public RectangleItem, public IRoundRectItem
 {
 public:

@@ -14,12 +14,13 @@ public:
     ///
     /// @param text      the text; line feeds begin a new line
     /// @param fontSize  font size in whole points
-    /// @param flag1     first style flag as stored: bold
-    /// @param flag2     second style flag as stored: italic
-    /// @param flag3     third style flag as stored: underlined
-    /// @param alignment where the text stands in its box
-    virtual void importTextProperties(const QString& text, int fontSize, bool flag1, bool flag2,
-                                      bool flag3, const QFlags<Qt::AlignmentFlag>& alignment) = 0;
+    /// @param bold      first stored style flag
+    /// @param italic    second stored style flag
+    /// @param underline third stored style flag
+    /// @param alignment position of the text in its box
+    virtual void importTextProperties(const QString& text, int fontSize, bool bold, bool italic,
+                                      bool underline,
+                                      const QFlags<Qt::AlignmentFlag>& alignment) = 0;
     /// Which sides of the text box are fixed: 0 none, 1 the width, 2 the height,
     /// 3 both. A side that is not fixed follows the text.
     virtual void setItemSizeLimiting(signed char mode) = 0;

@@ -17,11 +17,11 @@ class SymbolItem : public QGraphicsSvgItem,
                    public IDatasourceItem
 {
 public:
-    /// Colour that the symbol is drawn with.
+    /// Color that the symbol is drawn with.
     virtual void setForegroundColor(const QColor& color) = 0;
-    /// Colour behind the symbol.
+    /// Color behind the symbol.
     virtual void setBackgroundColor(const QColor& color) = 0;
-    /// Takes over symbol data of SymbolCreator or SymbolDatabaseModel and gives the
-    /// item the symbol's own size; data that draws nothing leaves it 0 by 0.
+    /// Loads symbol data of SymbolCreator or SymbolDatabaseModel and gives the item the
+    /// symbol's own size, which is 0 by 0 for data that draws nothing.
     virtual void loadItemFromData(const QByteArray& data) = 0;
 };

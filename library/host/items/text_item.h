@@ -9,7 +9,7 @@
 
 #include <QGraphicsTextItem>
 
-/// What both text kinds have.
+/// Common base of both kinds of text.
 class TextItem : public QGraphicsTextItem,
                  public FillableItem,
                  public TextColorItem,

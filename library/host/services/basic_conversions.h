@@ -2,7 +2,7 @@
 
 #include "host/services/visibility.h"
 
-/// Small numeric helpers that the host and its importers must agree on.
+/// Numeric helpers that the host and its importers must agree on.
 class LABELPORT_HOST_SERVICE BasicConversions
 {
 public:

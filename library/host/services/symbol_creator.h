@@ -9,10 +9,10 @@
 
 class QWidget;
 
-/// Turns an SVG document into the host's symbol data.
+/// Converts an SVG document to the host's symbol data.
 ///
-/// Importers make one and use it for many symbols in turn. An SVG document comes from a
-/// file that nobody vouches for: never open what it refers to.
+/// Importers create one and use it for many symbols. SVG documents come from untrusted files: never
+/// open what they refer to.
 class LABELPORT_HOST_SERVICE SymbolCreator
 {
 public:
@@ -21,14 +21,14 @@ public:
     SymbolCreator(const SymbolCreator&) = delete;
     SymbolCreator& operator=(const SymbolCreator&) = delete;
 
-    /// Loads a document in place of the last one.
+    /// Loads a document and discards the last one.
     void loadImportedSvg(const QByteArray& svg);
-    /// Converts the loaded document. The rectangle, in points, is the target; one without
-    /// width or height keeps the document's own size.
-    /// @return false when the document is no SVG or cannot be converted
+    /// Converts the loaded document. The rectangle, in points, is the target; without width or
+    /// height, the document keeps its own size.
+    /// @return false if the document is not SVG or cannot be converted
     [[nodiscard]] bool convertSvgToSymbol(const QRectF& target);
-    /// The symbol of the last successful conversion, empty when there was none, in the
-    /// form that SymbolItem::loadItemFromData() takes.
+    /// The result of the last successful conversion, empty without one, in the format of
+    /// SymbolItem::loadItemFromData().
     [[nodiscard]] QByteArray getSymbolData();
 
 private:

@@ -8,18 +8,18 @@
 
 #include <memory>
 
-/// A database of symbols, read by name.
+/// A database of symbols by name.
 class LABELPORT_HOST_SERVICE SymbolDatabaseModel : public QObject
 {
 public:
     explicit SymbolDatabaseModel(QObject* parent); ///< The parent, if any, owns it.
     ~SymbolDatabaseModel() override;
 
-    /// Opens the database at this path in place of the last one. A file that is missing
-    /// or no symbol database leaves the model empty.
+    /// Opens the database at this path and closes the last one. If the file is missing or not a
+    /// symbol database, the model is empty.
     void setDatabasePath(const QString& path);
-    /// The data of a symbol, in the form that SymbolItem::loadItemFromData() takes; empty
-    /// when the database does not know the name.
+    /// The data of a symbol, in the format of SymbolItem::loadItemFromData(); empty for an unknown
+    /// name.
     [[nodiscard]] QByteArray getDataFromSymbolName(QString name);
 
 private:

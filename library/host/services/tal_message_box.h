@@ -11,9 +11,9 @@
 
 /// The host's message box.
 ///
-/// An importer makes one, announces it by its popupShowSignal(QWidget*), and the host
-/// shows it when and how it likes. The box emits popupHideSignal() when the user has
-/// closed it; the importer then deletes it.
+/// An importer creates one and announces it by its popupShowSignal(QWidget*); the host decides when
+/// and how to show it. The box emits popupHideSignal() when the user has closed it; the importer
+/// then deletes it.
 class LABELPORT_HOST_SERVICE TalMessageBox : public QDialog
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ public:
     /// @param text          the message; lines end in "\n"
     /// @param buttons       the buttons to show
     /// @param defaultButton the button that Enter presses
-    /// @param detail        a further text, may be empty
-    /// @param captions      captions of buttons that are not to have their usual ones
+    /// @param detail        an additional text, may be empty
+    /// @param captions      captions of buttons that differ from the usual ones
     TalMessageBox(const QString& title, const QString& text,
                   QFlags<QMessageBox::StandardButton> buttons,
                   QMessageBox::StandardButton defaultButton, QString detail,

@@ -4,12 +4,12 @@
 
 #include <QRegularExpression>
 
-/// The host's idea of white space.
+/// The host's definition of white space.
 class LABELPORT_HOST_SERVICE WhiteSpace
 {
 public:
     WhiteSpace() = delete;
 
-    /// Matches one run of white space, for QString::split().
+    /// Matches consecutive white space, for QString::split().
     [[nodiscard]] static QRegularExpression getWhiteSpacesSplitRegex();
 };
