@@ -9,14 +9,14 @@
 
 namespace {
 
-// The decimal of a fraction that holds an exact ratio.
-constexpr double noDecimal = -1.0;
+// The decimal of an exact fraction.
+constexpr double NoDecimal = -1.0;
 
-// How far the exact product may stand from the floating-point product, as a quotient.
-constexpr double lowestAgreement = 0.999999;
-constexpr double highestAgreement = 1.000001;
+// Range of the quotient of the exact and the floating-point product.
+constexpr double LowestAgreement = 0.999999;
+constexpr double HighestAgreement = 1.000001;
 
-constexpr double twoToThe64 = 18446744073709551616.0;
+constexpr double TwoToThe64 = 18446744073709551616.0;
 
 void logDebug(int line, const char* function, const char* format, const QByteArray& text)
 {
@@ -34,21 +34,21 @@ quint64 unsignedOrOne(QStringView text)
     return ok ? number : 1;
 }
 
-// The check is made in floating point: a product that rounds to 2^64 passes it and wraps.
-// Old labels depend on that; the agreement test of the product then finds it.
+// Checked in floating point: a product that rounds to 2^64 passes the check and wraps. Old labels
+// depend on it; the comparison with the floating-point product then detects it.
 quint64 checkedProduct(quint64 a, quint64 b)
 {
-    if (static_cast<double>(a) * static_cast<double>(b) > twoToThe64) {
+    if (static_cast<double>(a) * static_cast<double>(b) > TwoToThe64) {
         throw OverflowErrorException();
     }
     return a * b;
 }
 
-// Asked this way round so that an undefined quotient, zero by zero, counts as agreement:
-// old labels depend on 0/1 times 1/2 staying exact.
+// Negated so that an undefined quotient, zero by zero, counts as agreement: old labels depend on
+// 0/1 times 1/2 being exact.
 bool agrees(double quotient)
 {
-    return !(quotient < lowestAgreement || quotient > highestAgreement);
+    return !(quotient < LowestAgreement || quotient > HighestAgreement);
 }
 
 } // namespace
@@ -78,7 +78,7 @@ Fraction::Fraction(const QString& text)
     m_decimal = text.toDouble(&ok);
     if (!ok) {
         logDebug(__LINE__, Q_FUNC_INFO, "string \"%s\" invalid", text.toLocal8Bit());
-        m_decimal = noDecimal;
+        m_decimal = NoDecimal;
     }
 }
 
@@ -112,8 +112,8 @@ bool Fraction::operator!=(const Fraction& other) const
 Fraction Fraction::operator*(Fraction other) const
 {
     const double product = toDouble() * other.toDouble();
-    // A decimal of zero counts as decimal here, though nowhere else: old labels depend on it.
-    const bool bothDecimal = m_decimal != noDecimal && other.m_decimal != noDecimal;
+    // Only here, a decimal of zero counts as decimal. Old labels depend on it.
+    const bool bothDecimal = m_decimal != NoDecimal && other.m_decimal != NoDecimal;
     if (!bothDecimal) {
         try {
             const Fraction exact = exactProduct(*this, other);
@@ -144,7 +144,7 @@ bool Fraction::isDecimal() const
     return m_decimal > 0.0;
 }
 
-// Takes both ratios as they stand, so that a decimal operand takes part as 1/1.
+// Multiplies the ratios, so a decimal operand counts as 1/1.
 Fraction Fraction::exactProduct(const Fraction& a, const Fraction& b)
 {
     const quint64 denominator = checkedProduct(a.m_denominator, b.m_denominator);
@@ -162,7 +162,7 @@ void Fraction::readRatio(const QString& text, qsizetype slash)
 void Fraction::reduce()
 {
     const quint64 divisor = std::gcd(m_numerator, m_denominator);
-    // 0/0 has the divisor 0 and stays as it is.
+    // 0/0 has the divisor 0 and remains unchanged.
     if (divisor > 1) {
         m_numerator /= divisor;
         m_denominator /= divisor;

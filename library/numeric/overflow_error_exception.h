@@ -4,7 +4,7 @@
 
 /// Thrown when a product of two numerators or denominators does not fit into 64 bits.
 ///
-/// Fraction throws and catches it; it never reaches Fraction's callers.
+/// Fraction throws and catches it; callers of Fraction never see it.
 class OverflowErrorException : public std::exception
 {
 public:

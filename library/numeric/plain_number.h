@@ -4,11 +4,10 @@
 
 #include <optional>
 
-/// The number that a short text of nothing but digits says, such as "17" or "0.375", where a
-/// decimal has digits on both sides of its point. Nothing for any other text, which may be a
-/// number all the same.
+/// The number in a short text of digits, such as "17" or "0.375"; a decimal has digits on both
+/// sides of its point. Nothing for any other text, which may still be a number.
 ///
-/// Gives what QStringView::toULongLong() and toDouble() give, which took an eighth of the import
-/// of a binary label: lengths are written like this, two for each item.
+/// Same results as QStringView::toULongLong() and toDouble(), which needed an eighth of the time of
+/// importing a binary label: each item has two lengths of this form.
 [[nodiscard]] std::optional<quint64> plainWholeNumber(QStringView text);
 [[nodiscard]] std::optional<double> plainDecimal(QStringView text);

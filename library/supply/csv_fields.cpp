@@ -63,7 +63,7 @@ private:
         }
     }
 
-    // From behind an opening quote to where plain scanning goes on.
+    // From an opening quote to the end of the quoted field.
     void scanQuoted()
     {
         do {
@@ -85,9 +85,9 @@ private:
         }
     }
 
-    // Skips what stands behind a closing quote. A quote right behind it is the second of a
-    // doubled one; a later quote resumes too, and neither is part of the text: the tables in
-    // use are read like this.
+    // Skips the bytes after a closing quote. A quote directly after it is the second of a doubled
+    // one; a later quote also resumes the quoted text. Neither becomes part of the text. Existing
+    // tables depend on it.
     bool quoteResumes()
     {
         while (const std::optional<char> byte = next()) {

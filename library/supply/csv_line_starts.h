@@ -6,26 +6,25 @@
 #include <utility>
 #include <vector>
 
-/// Finds where the lines of a CSV file start. The file comes piece by piece, so it need not be
-/// held whole.
+/// Finds the starts of the lines of a CSV file. The file is passed in pieces, so it need not be in
+/// memory completely.
 ///
-/// A line feed ends a line, but for one inside quotes. A backslash hides the byte behind it,
-/// inside quotes and outside.
+/// A line feed outside quotes ends a line. A backslash makes the next byte literal, inside and
+/// outside quotes.
 class CsvLineStarts
 {
 public:
-    /// Starts with the first line, at 0. Its memory is taken over from `offsets`, whose content
-    /// is not.
+    /// Starts with the first line, at 0. Reuses the memory of `offsets`, but not its content.
     explicit CsvLineStarts(std::vector<qint64> offsets = {});
 
     void take(std::span<const char> piece);
-    /// The end of the last piece; a last line without a line feed counts.
+    /// Call it after the last piece. A last line without a line feed counts.
     void finish();
 
-    /// Bytes taken so far.
+    /// Number of bytes so far.
     [[nodiscard]] qint64 position() const { return m_position; }
-    /// Where each line starts, and after finish() where the last one ends: one more than there
-    /// are lines.
+    /// Start of each line, and after finish() the end of the last one: one more than the number of
+    /// lines.
     [[nodiscard]] const std::vector<qint64>& offsets() const { return m_offsets; }
     [[nodiscard]] std::vector<qint64> takeOffsets() { return std::move(m_offsets); }
 
@@ -33,5 +32,5 @@ private:
     std::vector<qint64> m_offsets;
     qint64 m_position = 0;
     bool m_isQuoted = false;
-    bool m_isHidden = false; ///< whether a backslash stands before the next byte
+    bool m_isHidden = false; ///< whether the last byte was a backslash
 };

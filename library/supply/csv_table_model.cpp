@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr size_t initialOffsetCapacity = 16;
+constexpr size_t InitialOffsetCapacity = 16;
 
 void logError(int line, const char* function, const char* format, const QString& text)
 {
@@ -31,7 +31,7 @@ int countWithoutTrailingEmpty(const QStringList& fields)
 CsvTableModel::CsvTableModel(int headerRows)
     : TableModel(headerRows)
 {
-    m_lineOffsets.reserve(initialOffsetCapacity);
+    m_lineOffsets.reserve(InitialOffsetCapacity);
 }
 
 CsvTableModel::~CsvTableModel() = default;
@@ -92,14 +92,14 @@ bool CsvTableModel::parseRow(int line)
     }
     const qint64 start = m_lineOffsets[static_cast<size_t>(line)];
     const qint64 length = m_lineOffsets[static_cast<size_t>(line) + 1] - start;
-    if (length > maximumLineBytes) {
+    if (length > MaximumLineBytes) {
         logError(__LINE__, Q_FUNC_INFO, "\"%s\" has a line that is too long", m_file.fileName());
         return false;
     }
     m_file.seek(start);
     const QByteArray bytes = m_file.read(length);
     if (bytes.size() < length) {
-        // Silent on purpose: a lookup then falls back to its default, as for a missing row.
+        // Not logged: the lookup uses its default, as for a missing row.
         return false;
     }
     m_lineFields = csvFields(bytes);
@@ -126,7 +126,7 @@ bool CsvTableModel::findLineStarts()
     std::array<char, 16 * 1024> piece;
     for (qint64 length = 0; (length = m_file.read(piece.data(), piece.size())) > 0;) {
         starts.take({piece.data(), static_cast<size_t>(length)});
-        if (starts.position() > maximumFileBytes || starts.offsets().size() > maximumLines) {
+        if (starts.position() > MaximumFileBytes || starts.offsets().size() > MaximumLines) {
             return false;
         }
     }

@@ -1,22 +1,24 @@
 #include "supply/legacy_supply_info.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-constexpr int headerRows = 1;
+constexpr int HeaderRows = 1;
 
 namespace label_column {
-constexpr int partNumber = 0;
-constexpr int name = 1;
-constexpr int colorIndex = 3;
+constexpr int PartNumber = 0;
+constexpr int Name = 1;
+constexpr int ColorIndex = 3;
 } // namespace label_column
 
 namespace ribbon_column {
-constexpr int color = 3;
+constexpr int Color = 3;
 } // namespace ribbon_column
 
 namespace palette_column {
-constexpr int index = 0;
-constexpr int color = 1;
+constexpr int Index = 0;
+constexpr int Color = 1;
 } // namespace palette_column
 
 QVariant cellOf(const CsvTableModel& table, int row, int column)
@@ -27,13 +29,13 @@ QVariant cellOf(const CsvTableModel& table, int row, int column)
 } // namespace
 
 LegacySupplyInfo::LegacySupplyInfo()
-    : m_labelTable(headerRows)
-    , m_ribbonTable(headerRows)
-    , m_colorTable(headerRows)
+    : m_labelTable(HeaderRows)
+    , m_ribbonTable(HeaderRows)
+    , m_colorTable(HeaderRows)
 {
-    m_labelTable.setFileName(QStringLiteral(":/tables/csv/LabelType.csv"));
-    m_ribbonTable.setFileName(QStringLiteral(":/tables/csv/RibbonType.csv"));
-    m_colorTable.setFileName(QStringLiteral(":/tables/csv/color1.csv"));
+    m_labelTable.setFileName(u":/tables/csv/LabelType.csv"_s);
+    m_ribbonTable.setFileName(u":/tables/csv/RibbonType.csv"_s);
+    m_colorTable.setFileName(u":/tables/csv/color1.csv"_s);
 }
 
 LegacySupplyInfo::~LegacySupplyInfo() = default;
@@ -56,10 +58,10 @@ QVariant LegacySupplyInfo::primaryData(int row, int column) const
 QColor LegacySupplyInfo::primaryColor(int index) const
 {
     for (int row = 0; row < m_colorTable.rowCount(); ++row) {
-        if (primaryData(row, palette_column::index).toInt() != index) {
+        if (primaryData(row, palette_column::Index).toInt() != index) {
             continue;
         }
-        const QColor color = QColor::fromString(primaryData(row, palette_column::color).toString());
+        const QColor color = QColor::fromString(primaryData(row, palette_column::Color).toString());
         if (color.isValid()) {
             return color;
         }
@@ -69,21 +71,21 @@ QColor LegacySupplyInfo::primaryColor(int index) const
 
 QColor LegacySupplyInfo::getLabelColor(int row)
 {
-    return primaryColor(labelData(row, label_column::colorIndex).toInt());
+    return primaryColor(labelData(row, label_column::ColorIndex).toInt());
 }
 
 QColor LegacySupplyInfo::getRibbonColor(int row) const
 {
-    const QColor color = QColor::fromString(ribbonData(row, ribbon_column::color).toString());
+    const QColor color = QColor::fromString(ribbonData(row, ribbon_column::Color).toString());
     return color.isValid() ? color : QColor(Qt::black);
 }
 
 QString LegacySupplyInfo::getLabelName(int row) const
 {
-    const QString partNumber = labelData(row, label_column::partNumber).toString();
-    const QString name = labelData(row, label_column::name).toString();
+    const QString partNumber = labelData(row, label_column::PartNumber).toString();
+    const QString name = labelData(row, label_column::Name).toString();
     const bool both = !partNumber.isEmpty() && !name.isEmpty();
-    return partNumber + (both ? QStringLiteral(": ") : QString()) + name;
+    return partNumber + (both ? u": "_s : QString()) + name;
 }
 
 QPixmap LegacySupplyInfo::getLabelBackground(int)

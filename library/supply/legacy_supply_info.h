@@ -9,12 +9,12 @@
 #include <QString>
 #include <QVariant>
 
-/// Colours and names of the label and ribbon supplies that old labels were designed for.
+/// Colors and names of the label and ribbon supplies that old labels were designed for.
 ///
-/// An old label names its supplies by their rows in three tables that are compiled in. Rows and
-/// columns count from 0, the header line does not count, and any number may be asked for: what
-/// is outside a table has a default. The tables stay open as long as this object lives; they are
-/// parsed on demand, so one object must not be used from two threads at once.
+/// Old labels refer to supplies by their rows in compiled-in tables. Rows and columns count from 0
+/// without the header line, and any number is allowed: there are defaults for rows outside a table.
+/// The tables stay open as long as this object exists. They are parsed on demand, so an object must
+/// not be used by two threads at the same time.
 class LABELPORT_EXPORT LegacySupplyInfo
 {
 public:
@@ -27,20 +27,19 @@ public:
     [[nodiscard]] QVariant labelData(int row, int column) const;
     /// Text of a cell of the ribbon table; an invalid variant outside it.
     [[nodiscard]] QVariant ribbonData(int row, int column) const;
-    /// Text of a cell of the colour table; an invalid variant outside it.
+    /// Text of a cell of the color table; an invalid variant outside it.
     [[nodiscard]] QVariant primaryData(int row, int column) const;
 
-    /// Colour of a palette index; white when there is none.
+    /// Color of a palette index; white by default.
     [[nodiscard]] QColor primaryColor(int index) const;
-    /// Colour of the label supply in a row; white when there is none.
+    /// Color of the label supply in a row; white by default.
     [[nodiscard]] QColor getLabelColor(int row);
-    /// Colour of the ribbon in a row; black when there is none.
+    /// Color of the ribbon in a row; black by default.
     [[nodiscard]] QColor getRibbonColor(int row) const;
 
-    /// "part number: name" of the label supply in a row, or whichever of the two it has.
+    /// "part number: name" of the label supply in a row, or only the one of them that it has.
     [[nodiscard]] QString getLabelName(int row) const;
-    /// Always a null pixmap: the background pictures that the label table names were never part
-    /// of the tables.
+    /// Always a null pixmap: the label table names background pictures, but does not contain them.
     [[nodiscard]] QPixmap getLabelBackground(int row);
 
 private:

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int cellAlignment = static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter);
+constexpr int CellAlignment = static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter);
 
 QString spreadsheetName(int column)
 {
@@ -20,15 +20,15 @@ QString spreadsheetName(int column)
     return name;
 }
 
-// Hands out header names, each once.
+// Makes header names unique.
 class UniqueNames
 {
 public:
     QString take(const QString& wanted)
     {
         QString name = wanted;
-        // Numbers once found taken stay taken, so each name goes on where it stopped: a header
-        // line of a hundred thousand equal names costs no more than its length.
+        // Continue at the last number of this name: a taken number stays taken, and a header line
+        // of a hundred thousand equal names would otherwise need quadratic time.
         for (int& last = m_lastNumber[wanted]; m_taken.contains(name);) {
             name = wanted + QString::number(++last);
         }
@@ -64,17 +64,17 @@ QVariant TableModel::data(const QModelIndex& index, int role) const
         return {};
     }
     if (role == Qt::DisplayRole) {
-        // Reading a cell parses its line when it is not the one parsed last. That is a cache
-        // behind an unchanging table, so reading data is constant to the outside.
+        // Reading a cell may parse its line and replace the cached one. The table's content does
+        // not change, so callers may treat data() as const.
         return const_cast<TableModel*>(this)->cell(index.row() + m_headerRows, index.column());
     }
-    return role == Qt::TextAlignmentRole ? QVariant(cellAlignment) : QVariant();
+    return role == Qt::TextAlignmentRole ? QVariant(CellAlignment) : QVariant();
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (role == Qt::TextAlignmentRole) {
-        return cellAlignment;
+        return CellAlignment;
     }
     if (role != Qt::DisplayRole) {
         return {};

@@ -281,7 +281,7 @@ TEST_F(CsvTableModelTest, AReadErrorIsSilentAndKeepsTheParsedLine)
 TEST_F(CsvTableModelTest, RefusesAFileOfTooManyLines)
 {
     CsvTableModel table(1);
-    const QString path = fileOf(QByteArray(CsvTableModel::maximumLines, '\n'));
+    const QString path = fileOf(QByteArray(CsvTableModel::MaximumLines, '\n'));
     const CapturedLog log;
     EXPECT_FALSE(table.openFile(path));
     EXPECT_EQ(table.rowCount(), 0);
@@ -303,7 +303,7 @@ TEST_F(CsvTableModelTest, RefusesAnEndlessDevice)
 TEST_F(CsvTableModelTest, RefusesALineThatIsTooLong)
 {
     CsvTableModel table(0);
-    const QByteArray longest(CsvTableModel::maximumLineBytes - 1, 'x');
+    const QByteArray longest(CsvTableModel::MaximumLineBytes - 1, 'x');
     const QString path = fileOf("a\n" + longest + "\n" + longest + "x\n");
     ASSERT_TRUE(table.openFile(path));
     EXPECT_EQ(table.cell(1, 0).size(), longest.size());
