@@ -1,5 +1,6 @@
 #include "opendocument/graphic_style.h"
 
+#include "numeric/saturation.h"
 #include "opendocument/code_table.h"
 
 #include <QStringList>
@@ -71,7 +72,7 @@ void readBorderPart(const QString& part, const LengthUnit& unit, OOGraphicStyle&
     } else if (part.endsWith(unit.suffix)) {
         // A width in another unit than the page's is passed over: old labels depend on it.
         if (const auto width = toLength(part, unit.factor)) {
-            style.penWidth = toInteger(*width);
+            style.penWidth = saturatedToInt(*width);
         }
     } else if (const auto code = codeOf(BorderStyles, part)) {
         style.penStyle = *code;
@@ -160,7 +161,7 @@ void readStrokeWidth(const xmlbounds::Element& properties, double factor, OOGrap
 {
     double width = 0;
     if (readLength(properties, u"svg:stroke-width"_s, factor, width)) {
-        style.penWidth = toInteger(width);
+        style.penWidth = saturatedToInt(width);
         if (style.penWidth == 0 && width > 0) {
             style.penWidth = 1;
         }

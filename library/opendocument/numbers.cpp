@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace opendocument {
 
@@ -68,16 +67,6 @@ bool readLength(const xmlbounds::Element& element, const QString& name, double u
     const auto length = toLength(element.attribute(name), unitFactor);
     target = length.value_or(target);
     return length.has_value();
-}
-
-int toInteger(double value)
-{
-    if (std::isnan(value)) {
-        return 0;
-    }
-    constexpr double Lowest = std::numeric_limits<int>::min();
-    constexpr double Highest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(value, Lowest, Highest));
 }
 
 } // namespace opendocument

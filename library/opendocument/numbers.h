@@ -39,7 +39,4 @@ struct LengthUnit
 bool readLength(const xmlbounds::Element& element, const QString& name, double unitFactor,
                 double& target);
 
-/// Truncates towards zero. Stops at the ends of the range; not a number gives 0.
-[[nodiscard]] int toInteger(double value);
-
 } // namespace opendocument

@@ -1,5 +1,6 @@
 // Text: the flow of a text document, and the text of shapes.
 
+#include "numeric/saturation.h"
 #include "opendocument/item_builder.h"
 #include "opendocument/limits.h"
 #include "opendocument/log.h"
@@ -109,7 +110,7 @@ QSizeF OpenOfficeReader::placeTextRun(const QString& text, const OOTextStyle& st
     run->setFontBold(style.bold);
     run->setFontItalic(style.italic);
     run->setFontUnderline(style.underline);
-    run->setFontPointSize(toInteger(style.fontSize));
+    run->setFontPointSize(saturatedToInt(style.fontSize));
     run->adjustBoxSizeToContent(availableWidth);
     const double width = run->getItemWidth();
     if (style.hasAlignment()) {

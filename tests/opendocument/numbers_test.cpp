@@ -6,8 +6,6 @@
 
 #include <QLocale>
 
-#include <limits>
-
 #include <gtest/gtest.h>
 
 using namespace opendocument;
@@ -82,13 +80,4 @@ TEST(Lengths, LeaveTheTargetAloneWhenAbsentOrDamaged)
     EXPECT_EQ(target, 5);
     EXPECT_TRUE(readLength(element, u"a"_s, 72, target));
     EXPECT_EQ(target, 144);
-}
-
-TEST(Integers, AreTruncatedAndStopAtTheEndsOfTheRange)
-{
-    EXPECT_EQ(toInteger(2.9), 2);
-    EXPECT_EQ(toInteger(-2.9), -2);
-    EXPECT_EQ(toInteger(1e308), std::numeric_limits<int>::max());
-    EXPECT_EQ(toInteger(-1e308), std::numeric_limits<int>::min());
-    EXPECT_EQ(toInteger(std::numeric_limits<double>::quiet_NaN()), 0);
 }
