@@ -105,7 +105,7 @@ static_assert(std::is_constructible_v<
               QMessageBox::StandardButton, QString, QMap<QMessageBox::StandardButton, QString>>);
 static_assert(std::is_base_of_v<QDialog, TalMessageBox>);
 
-TEST(ContractOperations, theMessageBoxTellsByNameThatItWasClosed)
+TEST(ContractOperations, TheMessageBoxTellsByNameThatItWasClosed)
 {
     // Importers connect by the names of the signals.
     TalMessageBox box(QStringLiteral("Title"), QStringLiteral("Text\n"), QMessageBox::Ok,

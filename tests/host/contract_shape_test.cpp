@@ -126,7 +126,7 @@ static_assert(
     areAbstract<RectangleItem, RoundedRectangleItem, EllipseItem, PieItem, PolygonItem, LineItem,
                 SimpleTextItem, RichTextItem, BarcodeItem, PixMapItem, SymbolItem>);
 
-TEST(ContractShape, isCheckedByTheCompiler)
+TEST(ContractShape, IsCheckedByTheCompiler)
 {
     // The assertions above are the test; this one shows that the check can fail.
     EXPECT_FALSE(Bases<Item>::are<ITemplateLockItem>);

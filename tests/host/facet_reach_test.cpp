@@ -57,14 +57,14 @@ protected:
     recorder::RecordingHost m_host{m_out};
 };
 
-TEST_F(FacetReach, shapes)
+TEST_F(FacetReach, Shapes)
 {
     expectShape<RectangleItem, QGraphicsRectItem, ISizeItem>(KestTypes::Rectangle);
     expectShape<EllipseItem, QGraphicsEllipseItem, ISizeItem>(KestTypes::Ellipse);
     expectShape<PieItem, EllipseItem, QGraphicsEllipseItem, IPieItem, ISizeItem>(KestTypes::Pie);
 }
 
-TEST_F(FacetReach, polygons)
+TEST_F(FacetReach, Polygons)
 {
     for (int code = KestTypes::RightTriangle; code <= KestTypes::Octagon; ++code) {
         expectShape<PolygonItem, QGraphicsPolygonItem, ISizeItem>(
@@ -72,7 +72,7 @@ TEST_F(FacetReach, polygons)
     }
 }
 
-TEST_F(FacetReach, roundedRectangleHasTwoSizesThatAreOne)
+TEST_F(FacetReach, RoundedRectangleHasTwoSizesThatAreOne)
 {
     expectShape<RoundedRectangleItem, RectangleItem, QGraphicsRectItem, IRoundRectItem>(
         KestTypes::RoundedRectangle);
@@ -86,7 +86,7 @@ TEST_F(FacetReach, roundedRectangleHasTwoSizesThatAreOne)
     EXPECT_EQ(item->getItemHeight(), 8);
 }
 
-TEST_F(FacetReach, line)
+TEST_F(FacetReach, Line)
 {
     expectReached<QGraphicsItem, QObject, QGraphicsLineItem, LineItem, ContouredItem, ColoredItem,
                   PenItem, IColorItem, ILineItem, ITemplateLockItem, ISizeItem>(KestTypes::Line);
@@ -94,7 +94,7 @@ TEST_F(FacetReach, line)
     EXPECT_EQ(dynamic_cast<FillColorItem*>(make(KestTypes::Line).get()), nullptr);
 }
 
-TEST_F(FacetReach, texts)
+TEST_F(FacetReach, Texts)
 {
     expectText<SimpleTextItem, ResizeRotatedHelper, ITextLabelItem>(KestTypes::SimpleText);
     expectText<RichTextItem, IRichTextItem>(KestTypes::RichText);
@@ -102,21 +102,21 @@ TEST_F(FacetReach, texts)
     EXPECT_EQ(dynamic_cast<ITextLabelItem*>(make(KestTypes::RichText).get()), nullptr);
 }
 
-TEST_F(FacetReach, barcode)
+TEST_F(FacetReach, Barcode)
 {
     expectReached<QGraphicsItem, QObject, BarcodeItem, FillColorItem, TextColorItem, IFontItem,
                   ITextAlignItem, IBarcodeItem, IDatasourceItem, ITemplateLockItem, ISizeItem>(
         KestTypes::Barcode);
 }
 
-TEST_F(FacetReach, picture)
+TEST_F(FacetReach, Picture)
 {
     expectReached<QGraphicsItem, QObject, QGraphicsPixmapItem, PixMapItem, ImageableItem,
                   ResizeRotatedHelper, IGraphicItem, IDatasourceItem, ITemplateLockItem, ISizeItem>(
         KestTypes::Picture);
 }
 
-TEST_F(FacetReach, symbol)
+TEST_F(FacetReach, Symbol)
 {
     expectReached<QGraphicsItem, QObject, QGraphicsSvgItem, SymbolItem, ColoredItem, IColorItem,
                   ResizeRotatedHelper, FillColorItem, IDatasourceItem, ITemplateLockItem,
@@ -134,7 +134,7 @@ void expectInOrder(const Class& object)
     }
 }
 
-TEST_F(FacetReach, basesLieInTheOrderOfTheContract)
+TEST_F(FacetReach, BasesLieInTheOrderOfTheContract)
 {
     const auto recording = std::make_shared<recorder::Recording>(&m_out);
     const auto enter = [&recording](auto* item) { recording->addItem(KestTypes::Line, item); };

@@ -11,7 +11,7 @@ namespace {
 
 using ImportCommand = ImporterTest;
 
-TEST_F(ImportCommand, takesOneStepAfterTheOther)
+TEST_F(ImportCommand, TakesOneStepAfterTheOther)
 {
     FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
     m_importer->importLegacyLabel(QStringLiteral("open.label"));
@@ -28,7 +28,7 @@ TEST_F(ImportCommand, takesOneStepAfterTheOther)
     EXPECT_EQ(rememberedFolder(), QVariant(folder()));
 }
 
-TEST_F(ImportCommand, remembersTheFolderBetweenTheLabelTypeAndTheReader)
+TEST_F(ImportCommand, RemembersTheFolderBetweenTheLabelTypeAndTheReader)
 {
     QSettings().setValue(QStringLiteral("dir/import"), QStringLiteral("/before"));
     FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
@@ -37,7 +37,7 @@ TEST_F(ImportCommand, remembersTheFolderBetweenTheLabelTypeAndTheReader)
     EXPECT_EQ(journal().folderAtReading, QVariant(folder()));
 }
 
-TEST_F(ImportCommand, stopsWhenTheUserKeepsTheChanges)
+TEST_F(ImportCommand, StopsWhenTheUserKeepsTheChanges)
 {
     m_fileController.mayGoOn = false;
     m_importer->importLegacyLabel(QStringLiteral("open.label"));
@@ -46,7 +46,7 @@ TEST_F(ImportCommand, stopsWhenTheUserKeepsTheChanges)
     EXPECT_FALSE(rememberedFolder().isValid());
 }
 
-TEST_F(ImportCommand, stopsWhenTheDialogIsCancelled)
+TEST_F(ImportCommand, StopsWhenTheDialogIsCancelled)
 {
     QSettings().setValue(QStringLiteral("dir/import"), QStringLiteral("/before"));
     FileDialogDriver::cancel();
@@ -56,7 +56,7 @@ TEST_F(ImportCommand, stopsWhenTheDialogIsCancelled)
     EXPECT_EQ(rememberedFolder(), QVariant(QStringLiteral("/before")));
 }
 
-TEST_F(ImportCommand, savesNothingWhenTheReaderFails)
+TEST_F(ImportCommand, SavesNothingWhenTheReaderFails)
 {
     journal().readersSucceed = false;
     FileDialogDriver::pick(file(QStringLiteral("broken.qmtx")));
@@ -88,7 +88,7 @@ const RoadRow Roads[] = {
     {"nosuffix", "tavrel", "nosuffix"},     {"label.xyz", "tavrel", "label"},
 };
 
-TEST_F(ImportCommand, choosesTheReaderByAllSuffixesAndSavesWithoutTheLast)
+TEST_F(ImportCommand, ChoosesTheReaderByAllSuffixesAndSavesWithoutTheLast)
 {
     for (const RoadRow& row : Roads) {
         SCOPED_TRACE(row.fileName);
@@ -108,7 +108,7 @@ TEST_F(ImportCommand, choosesTheReaderByAllSuffixesAndSavesWithoutTheLast)
 
 // --- the dialog ---
 
-TEST_F(ImportCommand, offersOneFilterForEachFormatAndPreselectsAll)
+TEST_F(ImportCommand, OffersOneFilterForEachFormatAndPreselectsAll)
 {
     bool looked = false;
     FileDialogDriver::inspect([&](const QFileDialog& dialog) {
@@ -132,7 +132,7 @@ TEST_F(ImportCommand, offersOneFilterForEachFormatAndPreselectsAll)
     EXPECT_TRUE(looked);
 }
 
-TEST_F(ImportCommand, alwaysStartsInTheDefaultFolder)
+TEST_F(ImportCommand, AlwaysStartsInTheDefaultFolder)
 {
     FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
     m_importer->importLegacyLabel(QString());
@@ -172,7 +172,7 @@ public:
     }
 };
 
-TEST_F(ImportCommand, speaksTheLanguageOfTheHostsCatalogue)
+TEST_F(ImportCommand, SpeaksTheLanguageOfTheHostsCatalogue)
 {
     Shouter shouter;
     QApplication::installTranslator(&shouter);

@@ -40,7 +40,7 @@ protected:
                                       m_host.datasourceController()};
 };
 
-TEST_F(ImporterLibrary, reachesTheFacetsOfTheHostsItems)
+TEST_F(ImporterLibrary, ReachesTheFacetsOfTheHostsItems)
 {
     ASSERT_TRUE(m_importer.importLabelFromTavrelFile(sample("tavrel/parcel_2000023.roc")));
     // Of an item, of the pen, of the text, of a single class: all by casts of the library.
@@ -52,7 +52,7 @@ TEST_F(ImporterLibrary, reachesTheFacetsOfTheHostsItems)
     EXPECT_GT(itemCalls("setLineLength"), 0);
 }
 
-TEST_F(ImporterLibrary, takesTheServicesOutOfTheProgram)
+TEST_F(ImporterLibrary, TakesTheServicesOutOfTheProgram)
 {
     const QSignalSpy shown(&m_importer, &LegacyTemplateImporter::popupShowSignal);
     const QSignalSpy hidden(&m_importer, &LegacyTemplateImporter::popupHideSignal);
@@ -68,7 +68,7 @@ TEST_F(ImporterLibrary, takesTheServicesOutOfTheProgram)
     EXPECT_EQ(hidden.count(), 1);
 }
 
-TEST_F(ImporterLibrary, goesOnAfterFilesThatFail)
+TEST_F(ImporterLibrary, GoesOnAfterFilesThatFail)
 {
     const QTemporaryDir folder;
     const QString missing = folder.filePath(QStringLiteral("missing"));
@@ -78,7 +78,7 @@ TEST_F(ImporterLibrary, goesOnAfterFilesThatFail)
     EXPECT_TRUE(m_importer.importLabelFromTavrelFile(sample("tavrel/address_2000016.cnv")));
 }
 
-TEST_F(ImporterLibrary, bringsItsTablesWithIt)
+TEST_F(ImporterLibrary, BringsItsTablesWithIt)
 {
     // Resources of an object inside the library; a program that never names them gets them.
     for (const char* table : {"LabelType.csv", "RibbonType.csv", "color1.csv"}) {

@@ -41,7 +41,7 @@ const ChoiceRow Rows[] = {
     {".qmtx", ReaderKind::Orvanta},
 };
 
-TEST(ReaderChoice, goesByAllSuffixesTogether)
+TEST(ReaderChoice, GoesByAllSuffixesTogether)
 {
     for (const ChoiceRow& row : Rows) {
         EXPECT_EQ(readerForFile(QLatin1String(row.fileName)), row.reader) << row.fileName;

@@ -18,7 +18,7 @@ QStringList made(const QStringList& events)
     return events.filter(QStringLiteral(" made"));
 }
 
-TEST_F(ReaderLife, beginsWithTheFirstFile)
+TEST_F(ReaderLife, BeginsWithTheFirstFile)
 {
     EXPECT_EQ(journal().events, QStringList());
 
@@ -29,7 +29,7 @@ TEST_F(ReaderLife, beginsWithTheFirstFile)
     EXPECT_EQ(made(journal().events).size(), 3);
 }
 
-TEST_F(ReaderLife, servesEveryFurtherFile)
+TEST_F(ReaderLife, ServesEveryFurtherFile)
 {
     for (int i = 0; i < 3; ++i) {
         EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
@@ -40,7 +40,7 @@ TEST_F(ReaderLife, servesEveryFurtherFile)
     EXPECT_EQ(journal().events.size(), 3 + 9);
 }
 
-TEST_F(ReaderLife, getsTheHostsCanvasAndDataSources)
+TEST_F(ReaderLife, GetsTheHostsCanvasAndDataSources)
 {
     const auto expectHost = [this] {
         EXPECT_EQ(journal().lastCanvasModel, canvasModel());
@@ -56,7 +56,7 @@ TEST_F(ReaderLife, getsTheHostsCanvasAndDataSources)
     expectHost();
 }
 
-TEST_F(ReaderLife, resultIsTheReaders)
+TEST_F(ReaderLife, ResultIsTheReaders)
 {
     journal().readersSucceed = false;
     EXPECT_FALSE(m_importer->importLabelFromTavrelFile(File));
@@ -68,7 +68,7 @@ TEST_F(ReaderLife, resultIsTheReaders)
     EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
 }
 
-TEST_F(ReaderLife, signalsGoOutOnceHoweverManyImports)
+TEST_F(ReaderLife, SignalsGoOutOnceHoweverManyImports)
 {
     const QSignalSpy shown(m_importer.get(), &LegacyTemplateImporter::popupShowSignal);
     const QSignalSpy hidden(m_importer.get(), &LegacyTemplateImporter::popupHideSignal);
@@ -80,7 +80,7 @@ TEST_F(ReaderLife, signalsGoOutOnceHoweverManyImports)
     EXPECT_EQ(hidden.count(), 2);
 }
 
-TEST_F(ReaderLife, endsInAFixedOrder)
+TEST_F(ReaderLife, EndsInAFixedOrder)
 {
     // Whatever the order in which they were made.
     EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
@@ -95,7 +95,7 @@ TEST_F(ReaderLife, endsInAFixedOrder)
                                 }));
 }
 
-TEST_F(ReaderLife, endsOnlyForReadersThatWereMade)
+TEST_F(ReaderLife, EndsOnlyForReadersThatWereMade)
 {
     EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
     journal().events.clear();
@@ -103,7 +103,7 @@ TEST_F(ReaderLife, endsOnlyForReadersThatWereMade)
     EXPECT_EQ(journal().events, QStringList{QStringLiteral("orvanta destroyed")});
 }
 
-TEST_F(ReaderLife, aReaderThatCouldNotBeMadeIsTriedAgain)
+TEST_F(ReaderLife, AReaderThatCouldNotBeMadeIsTriedAgain)
 {
     using Import = bool (LegacyTemplateImporter::*)(const QString&);
     for (const Import import : {Import(&LegacyTemplateImporter::importLabelFromTavrelFile),
@@ -118,7 +118,7 @@ TEST_F(ReaderLife, aReaderThatCouldNotBeMadeIsTriedAgain)
     }
 }
 
-TEST_F(ReaderLife, theImporterHasNoParentAndTwoSignals)
+TEST_F(ReaderLife, TheImporterHasNoParentAndTwoSignals)
 {
     EXPECT_EQ(m_importer->parent(), nullptr);
     const QMetaObject* meta = m_importer->metaObject();

@@ -72,7 +72,7 @@ const std::vector<KestTypes::ShapeType> Bound =
 const std::vector<KestTypes::ShapeType> All =
     together(Contoured, {KestTypes::Barcode, KestTypes::Picture, KestTypes::Symbol});
 
-TEST_F(ItemCalls, boxRotationAndFlips)
+TEST_F(ItemCalls, BoxRotationAndFlips)
 {
     expectOnEach<Item>(
         All,
@@ -90,7 +90,7 @@ TEST_F(ItemCalls, boxRotationAndFlips)
         R"("setFlipVertical","args":[false])");
 }
 
-TEST_F(ItemCalls, sizesStartAtNothingAndAreKept)
+TEST_F(ItemCalls, SizesStartAtNothingAndAreKept)
 {
     expectOnEach<Item>(
         All, [](Item& item) { EXPECT_EQ(item.getItemSize(), QSizeF(0, 0)); },
@@ -112,7 +112,7 @@ TEST_F(ItemCalls, sizesStartAtNothingAndAreKept)
     }
 }
 
-TEST_F(ItemCalls, sizesThatAreNoNumbers)
+TEST_F(ItemCalls, SizesThatAreNoNumbers)
 {
     const double infinite = std::numeric_limits<double>::infinity();
     expectCall(
@@ -123,7 +123,7 @@ TEST_F(ItemCalls, sizesThatAreNoNumbers)
         R"("setItemSize","args":["inf",-1])");
 }
 
-TEST_F(ItemCalls, pen)
+TEST_F(ItemCalls, Pen)
 {
     expectOnEach<PenItem>(
         Contoured, [](PenItem& item) { item.setPenColor(Qt::red); },
@@ -142,7 +142,7 @@ TEST_F(ItemCalls, pen)
         Contoured, [](PenItem& item) { item.setJoinStyle(64); }, R"("setJoinStyle","args":[64])");
 }
 
-TEST_F(ItemCalls, fillAndBrush)
+TEST_F(ItemCalls, FillAndBrush)
 {
     expectOnEach<FillColorItem>(
         together(Fillables, {KestTypes::Barcode, KestTypes::Symbol}),
@@ -159,7 +159,7 @@ TEST_F(ItemCalls, fillAndBrush)
         R"("setBrushStyle","args":[14])");
 }
 
-TEST_F(ItemCalls, fontAndText)
+TEST_F(ItemCalls, FontAndText)
 {
     const auto fonts = together(Texts, {KestTypes::Barcode});
     expectOnEach<IFontItem>(
@@ -187,7 +187,7 @@ TEST_F(ItemCalls, fontAndText)
         R"("setText","args":["a\nb"])");
 }
 
-TEST_F(ItemCalls, dataSourceBinding)
+TEST_F(ItemCalls, DataSourceBinding)
 {
     expectOnEach<IDatasourceItem>(
         Bound, [](IDatasourceItem& item) { item.setDatasourceId(4); },
@@ -200,7 +200,7 @@ TEST_F(ItemCalls, dataSourceBinding)
         R"("setDatasourceFields","args":[["Value","x"]])");
 }
 
-TEST_F(ItemCalls, lineAndCorners)
+TEST_F(ItemCalls, LineAndCorners)
 {
     const auto expectLine = [this](const std::function<void(ILineItem&)>& act, const char* call) {
         expectOn<ILineItem>(KestTypes::Line, act, call);
@@ -226,7 +226,7 @@ TEST_F(ItemCalls, lineAndCorners)
         R"("setCornerRadius","args":[2.25])");
 }
 
-TEST_F(ItemCalls, simpleText)
+TEST_F(ItemCalls, SimpleText)
 {
     const auto expectText = [this](const std::function<void(SimpleTextItem&)>& act,
                                    const char* call) {
@@ -252,14 +252,14 @@ TEST_F(ItemCalls, simpleText)
         R"("importTextProperties","args":["t",12,true,false,true,2])");
 }
 
-TEST_F(ItemCalls, theTextBoxIsNotTheItemsSize)
+TEST_F(ItemCalls, TheTextBoxIsNotTheItemsSize)
 {
     const std::unique_ptr<Item> item = make(KestTypes::SimpleText);
     dynamic_cast<ITextLabelItem&>(*item).setTextBoxSize({5, 6});
     EXPECT_EQ(item->getItemSize(), QSizeF(0, 0));
 }
 
-TEST_F(ItemCalls, richTextTakesTheWidthAndAFixedHeight)
+TEST_F(ItemCalls, RichTextTakesTheWidthAndAFixedHeight)
 {
     const std::unique_ptr<Item> item = make(KestTypes::RichText);
     dynamic_cast<RichTextItem&>(*item).adjustBoxSizeToContent(80);
@@ -268,7 +268,7 @@ TEST_F(ItemCalls, richTextTakesTheWidthAndAFixedHeight)
     EXPECT_EQ(item->getItemSize(), QSizeF(80, 12));
 }
 
-TEST_F(ItemCalls, barcode)
+TEST_F(ItemCalls, Barcode)
 {
     expectOn<IBarcodeItem>(
         KestTypes::Barcode, [](IBarcodeItem& item) { item.setBarcodeType(20); },
@@ -288,7 +288,7 @@ TEST_F(ItemCalls, barcode)
         R"("setBackgroundColor","args":["#ffffffff"])");
 }
 
-TEST_F(ItemCalls, pictureTakesThePixmapsSize)
+TEST_F(ItemCalls, PictureTakesThePixmapsSize)
 {
     const std::unique_ptr<Item> item = make(KestTypes::Picture);
     auto& picture = dynamic_cast<PixMapItem&>(*item);
@@ -300,7 +300,7 @@ TEST_F(ItemCalls, pictureTakesThePixmapsSize)
     EXPECT_EQ(item->getItemSize(), QSizeF(0, 0));
 }
 
-TEST_F(ItemCalls, symbolTakesTheDrawingsSize)
+TEST_F(ItemCalls, SymbolTakesTheDrawingsSize)
 {
     const std::unique_ptr<Item> item = make(KestTypes::Symbol);
     auto& symbol = dynamic_cast<SymbolItem&>(*item);
@@ -312,7 +312,7 @@ TEST_F(ItemCalls, symbolTakesTheDrawingsSize)
     EXPECT_EQ(item->getItemSize(), QSizeF(0, 0));
 }
 
-TEST_F(ItemCalls, symbolColours)
+TEST_F(ItemCalls, SymbolColours)
 {
     expectOn<SymbolItem>(
         KestTypes::Symbol, [](SymbolItem& item) { item.setForegroundColor(Qt::black); },

@@ -44,7 +44,7 @@ void expectJsonLines(const QByteArray& output)
     }
 }
 
-TEST_F(TraceProgram, runsInAnEmptyEnvironment)
+TEST_F(TraceProgram, RunsInAnEmptyEnvironment)
 {
     const ProgramResult result = run({goodLabel()});
     EXPECT_TRUE(result.finished) << result.errors.constData();
@@ -55,7 +55,7 @@ TEST_F(TraceProgram, runsInAnEmptyEnvironment)
     EXPECT_TRUE(result.output.endsWith("{\"result\":true}\n")) << result.output.constData();
 }
 
-TEST_F(TraceProgram, needsNoDisplayWhateverIsAskedFor)
+TEST_F(TraceProgram, NeedsNoDisplayWhateverIsAskedFor)
 {
     QProcessEnvironment environment = emptyEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("nosuchplatform"));
@@ -64,7 +64,7 @@ TEST_F(TraceProgram, needsNoDisplayWhateverIsAskedFor)
     EXPECT_EQ(run({goodLabel()}, environment).status, 0);
 }
 
-TEST_F(TraceProgram, printsTheSameUnderAnyEnvironment)
+TEST_F(TraceProgram, PrintsTheSameUnderAnyEnvironment)
 {
     const QString label = goodLabel();
     const QByteArray expected = run({label}).output;
@@ -80,7 +80,7 @@ TEST_F(TraceProgram, printsTheSameUnderAnyEnvironment)
     }
 }
 
-TEST_F(TraceProgram, logRecordsReachTheTraceUnderAnyLoggingRules)
+TEST_F(TraceProgram, LogRecordsReachTheTraceUnderAnyLoggingRules)
 {
     const QString label = file(QStringLiteral("broken.qmtx"), "<qmtx");
     const ProgramResult plain = run({label});
@@ -93,7 +93,7 @@ TEST_F(TraceProgram, logRecordsReachTheTraceUnderAnyLoggingRules)
     }
 }
 
-TEST_F(TraceProgram, aMissingFileStillHasAStartAndAnEnd)
+TEST_F(TraceProgram, AMissingFileStillHasAStartAndAnEnd)
 {
     const ProgramResult result = run({m_folder.filePath(QStringLiteral("none.odg"))});
     EXPECT_TRUE(result.finished);
@@ -104,7 +104,7 @@ TEST_F(TraceProgram, aMissingFileStillHasAStartAndAnEnd)
     EXPECT_TRUE(result.errors.contains("none.odg: No such file")) << result.errors.constData();
 }
 
-TEST_F(TraceProgram, aFolderIsNoFile)
+TEST_F(TraceProgram, AFolderIsNoFile)
 {
     const ProgramResult result = run({m_folder.path()});
     EXPECT_EQ(result.status, 1);
@@ -112,7 +112,7 @@ TEST_F(TraceProgram, aFolderIsNoFile)
     EXPECT_TRUE(result.errors.contains("it is a folder")) << result.errors.constData();
 }
 
-TEST_F(TraceProgram, tellsTheReaderByTheSuffix)
+TEST_F(TraceProgram, TellsTheReaderByTheSuffix)
 {
     const std::pair<const char*, const char*> rows[] = {{"a.cnv", "tavrel"},
                                                         {"a.ROC", "tavrel"},
@@ -128,7 +128,7 @@ TEST_F(TraceProgram, tellsTheReaderByTheSuffix)
     }
 }
 
-TEST_F(TraceProgram, takesNamesOfAnyScript)
+TEST_F(TraceProgram, TakesNamesOfAnyScript)
 {
     const QString label = file(QStringLiteral("Größe \"ß\".qmtx"), "<qmtx/>");
     const ProgramResult result = run({label});
@@ -137,7 +137,7 @@ TEST_F(TraceProgram, takesNamesOfAnyScript)
         QStringLiteral("{\"trace\":1,\"file\":\"Größe \\\"ß\\\".qmtx\"").toUtf8()));
 }
 
-TEST_F(TraceProgram, helpAndVersionAreNoFailure)
+TEST_F(TraceProgram, HelpAndVersionAreNoFailure)
 {
     for (const char* option : {"--help", "-h"}) {
         const ProgramResult result = run({QString::fromLatin1(option)});
@@ -149,7 +149,7 @@ TEST_F(TraceProgram, helpAndVersionAreNoFailure)
     EXPECT_TRUE(version.output.startsWith("labelport-trace ")) << version.output.constData();
 }
 
-TEST_F(TraceProgram, wrongUsageIsStatusTwoAndPrintsNoTrace)
+TEST_F(TraceProgram, WrongUsageIsStatusTwoAndPrintsNoTrace)
 {
     for (const QStringList& arguments :
          {QStringList{}, QStringList{QStringLiteral("--nonsense")},
@@ -162,7 +162,7 @@ TEST_F(TraceProgram, wrongUsageIsStatusTwoAndPrintsNoTrace)
     }
 }
 
-TEST_F(TraceProgram, aFullDiskIsAFailure)
+TEST_F(TraceProgram, AFullDiskIsAFailure)
 {
     // Where there is such a device: every write to it fails.
     if (!QFile::exists(QStringLiteral("/dev/full"))) {

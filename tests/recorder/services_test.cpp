@@ -28,7 +28,7 @@ using Services = RecorderTest;
 
 // --- lists ---
 
-TEST_F(Services, familiesAreAFixedList)
+TEST_F(Services, FamiliesAreAFixedList)
 {
     for (const char* family : {"Arial", "Courier New", "Times New Roman", "Liberation Sans",
                                "Liberation Serif", "Liberation Mono", "DejaVu Sans"}) {
@@ -42,13 +42,13 @@ TEST_F(Services, familiesAreAFixedList)
         QStringLiteral(R"({"on":"lists","call":"isValidFamily","args":["Arial"],"returns":true})"));
 }
 
-TEST_F(Services, symbologiesOfLargeNumbersAreUnknown)
+TEST_F(Services, SymbologiesOfLargeNumbersAreUnknown)
 {
     EXPECT_FALSE(CommonLists::isValidBarcode1D(65535));
     EXPECT_FALSE(CommonLists::isValidBarcode2D(65535));
 }
 
-TEST_F(Services, symbologiesAreFixedLists)
+TEST_F(Services, SymbologiesAreFixedLists)
 {
     const QSet<int> linear{1,  2,  3,  4,  6,  7,  8,  9,  13, 14, 16, 18, 20, 21, 22,
                            23, 24, 25, 28, 29, 30, 31, 32, 33, 34, 37, 40, 47, 49, 50,
@@ -76,7 +76,7 @@ TEST_F(Services, symbologiesAreFixedLists)
 
 const QByteArray Drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='30'/>";
 
-TEST_F(Services, symbolCreatorGivesTheDrawingBack)
+TEST_F(Services, SymbolCreatorGivesTheDrawingBack)
 {
     SymbolCreator creator(nullptr);
     creator.loadImportedSvg(Drawing);
@@ -93,7 +93,7 @@ TEST_F(Services, symbolCreatorGivesTheDrawingBack)
         R"({"on":"symbolcreator","call":"getSymbolData","args":[],"returns":{"bytes":64,)")));
 }
 
-TEST_F(Services, symbolCreatorTellsWhatIsNoDrawing)
+TEST_F(Services, SymbolCreatorTellsWhatIsNoDrawing)
 {
     SymbolCreator creator(nullptr);
     EXPECT_FALSE(creator.convertSvgToSymbol(QRectF()));
@@ -131,7 +131,7 @@ protected:
 
 const QString MakeTable = QStringLiteral("CREATE TABLE symbols(name TEXT PRIMARY KEY, svg BLOB)");
 
-TEST_F(SymbolDatabases, areReadByName)
+TEST_F(SymbolDatabases, AreReadByName)
 {
     const QString path = database(QStringLiteral("symbols.db"),
                                   {MakeTable, QStringLiteral("INSERT INTO symbols VALUES"
@@ -148,7 +148,7 @@ TEST_F(SymbolDatabases, areReadByName)
     EXPECT_EQ(model.getDataFromSymbolName(QStringLiteral("' OR '1'='1")), QByteArray());
 }
 
-TEST_F(SymbolDatabases, areNumberedAsTheyAreMade)
+TEST_F(SymbolDatabases, AreNumberedAsTheyAreMade)
 {
     SymbolDatabaseModel first(nullptr);
     SymbolDatabaseModel second(nullptr);
@@ -157,7 +157,7 @@ TEST_F(SymbolDatabases, areNumberedAsTheyAreMade)
                                         R"("args":["legacy_symbols.db"]})"));
 }
 
-TEST_F(SymbolDatabases, thatAreMissingOrDamagedAreEmpty)
+TEST_F(SymbolDatabases, ThatAreMissingOrDamagedAreEmpty)
 {
     const QString missing = m_folder.filePath(QStringLiteral("missing.db"));
     const QString damaged = m_folder.filePath(QStringLiteral("damaged.db"));
@@ -176,7 +176,7 @@ TEST_F(SymbolDatabases, thatAreMissingOrDamagedAreEmpty)
     EXPECT_FALSE(QFile::exists(missing)) << "looking for a database has made one";
 }
 
-TEST_F(SymbolDatabases, changeWithThePath)
+TEST_F(SymbolDatabases, ChangeWithThePath)
 {
     const QString one =
         database(QStringLiteral("one.db"),
@@ -193,7 +193,7 @@ TEST_F(SymbolDatabases, changeWithThePath)
 
 // --- message box ---
 
-TEST_F(Services, messageBoxesAreWrittenDownAndNeverShown)
+TEST_F(Services, MessageBoxesAreWrittenDownAndNeverShown)
 {
     TalMessageBox box(QStringLiteral("Import Error"), QStringLiteral("one\ntwo\n"), QMessageBox::Ok,
                       QMessageBox::Ok, QString(), {});
@@ -202,7 +202,7 @@ TEST_F(Services, messageBoxesAreWrittenDownAndNeverShown)
     EXPECT_FALSE(box.isVisible());
 }
 
-TEST_F(Services, messageBoxesAreClosedOnceAfterTheImport)
+TEST_F(Services, MessageBoxesAreClosedOnceAfterTheImport)
 {
     TalMessageBox box(QString(), QString(), QMessageBox::Ok, QMessageBox::Ok, QString(), {});
     int closed = 0;
@@ -213,7 +213,7 @@ TEST_F(Services, messageBoxesAreClosedOnceAfterTheImport)
     EXPECT_EQ(closed, 1);
 }
 
-TEST_F(Services, messageBoxesMayBeDeletedBeforeTheyAreClosedOrWhileTheyAre)
+TEST_F(Services, MessageBoxesMayBeDeletedBeforeTheyAreClosedOrWhileTheyAre)
 {
     std::make_unique<TalMessageBox>(QString(), QString(), QMessageBox::Ok, QMessageBox::Ok,
                                     QString(), QMap<QMessageBox::StandardButton, QString>{})
@@ -231,7 +231,7 @@ TEST_F(Services, messageBoxesMayBeDeletedBeforeTheyAreClosedOrWhileTheyAre)
 
 // --- data sources ---
 
-TEST_F(Services, dataSourcesAreNumberedFromOne)
+TEST_F(Services, DataSourcesAreNumberedFromOne)
 {
     DatasourceController* sources = m_host->datasourceController();
     EXPECT_EQ(sources->createDatasource(QStringLiteral("SequenceDatasource")), 1);
@@ -246,7 +246,7 @@ TEST_F(Services, dataSourcesAreNumberedFromOne)
     EXPECT_NE(source, sources->getDatasource(1));
 }
 
-TEST_F(Services, unknownDataSourcesAreNone)
+TEST_F(Services, UnknownDataSourcesAreNone)
 {
     for (const int id : {0, -1, 1, std::numeric_limits<int>::max()}) {
         EXPECT_EQ(m_host->datasourceController()->getDatasource(id), nullptr) << id;
@@ -254,7 +254,7 @@ TEST_F(Services, unknownDataSourcesAreNone)
     EXPECT_TRUE(newLines().first().endsWith(QStringLiteral(R"("args":[0],"returns":null})")));
 }
 
-TEST_F(Services, dataSourcesHaveOneField)
+TEST_F(Services, DataSourcesHaveOneField)
 {
     DatasourceController* sources = m_host->datasourceController();
     TalDatasource* source = sources->getDatasource(sources->createDatasource(QString()));
@@ -274,7 +274,7 @@ TEST_F(Services, dataSourcesHaveOneField)
 
 // --- small helpers ---
 
-TEST_F(Services, whiteSpaceIsAnyRunOfIt)
+TEST_F(Services, WhiteSpaceIsAnyRunOfIt)
 {
     const QStringList parts =
         QStringLiteral("a \t b\nc\u00a0d").split(WhiteSpace::getWhiteSpacesSplitRegex());
@@ -282,7 +282,7 @@ TEST_F(Services, whiteSpaceIsAnyRunOfIt)
     EXPECT_EQ(parts.mid(0, 2), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
 }
 
-TEST_F(Services, almostEqualIsWithinTheTolerance)
+TEST_F(Services, AlmostEqualIsWithinTheTolerance)
 {
     EXPECT_TRUE(BasicConversions::almostEqual(1, 1, 0));
     EXPECT_TRUE(BasicConversions::almostEqual(1, 1.5, 0.5));
@@ -308,7 +308,7 @@ const AngleRow Angles[] = {
     {-360, 0}, {-450, 270}, {-0.0, 0},      {-1e-20, 0}, {3.6e9, 0}, {1e308 * 10, 0},
 };
 
-TEST_F(Services, anglesAreNormalisedToOneTurn)
+TEST_F(Services, AnglesAreNormalisedToOneTurn)
 {
     for (const AngleRow& row : Angles) {
         const double normal = BasicConversions::normalizeAngle(row.degrees);
@@ -322,12 +322,12 @@ TEST_F(Services, anglesAreNormalisedToOneTurn)
     }
 }
 
-TEST_F(Services, theImportFolderExists)
+TEST_F(Services, TheImportFolderExists)
 {
     EXPECT_TRUE(QDir(FileControllerTools::getDefaultImportFolder()).exists());
 }
 
-TEST_F(Services, answerWithoutAHostToo)
+TEST_F(Services, AnswerWithoutAHostToo)
 {
     m_host.reset();
     EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Arial")));

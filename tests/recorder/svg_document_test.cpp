@@ -22,14 +22,14 @@ QByteArray svg(const QByteArray& attributes, const QByteArray& content = {})
            attributes + '>' + content + "</svg>";
 }
 
-TEST(SvgDocument, knowsItsSize)
+TEST(SvgDocument, KnowsItsSize)
 {
     EXPECT_EQ(SvgDocument(svg("width='40' height='30'")).defaultSize(), QSizeF(40, 30));
     EXPECT_EQ(SvgDocument(svg("viewBox='0 0 12 8'")).defaultSize(), QSizeF(12, 8));
     EXPECT_EQ(SvgDocument(svg("", "<rect width='7' height='9'/>")).defaultSize(), QSizeF(7, 9));
 }
 
-TEST(SvgDocument, refusesWhatIsNoDrawing)
+TEST(SvgDocument, RefusesWhatIsNoDrawing)
 {
     for (const char* bytes : {"", "no xml", "<svg", "<html/>", "\x1f\x8b\x08", "<svg></g></svg>"}) {
         const SvgDocument document(bytes);
@@ -48,14 +48,14 @@ QByteArray pngAsText()
     return buffer.data().toBase64();
 }
 
-TEST(SvgDocument, keepsPicturesThatAreInside)
+TEST(SvgDocument, KeepsPicturesThatAreInside)
 {
     const QByteArray reference = "xlink:href=\"data:image/png;base64," + pngAsText() + '"';
     const QByteArray document = svg("width='4' height='4'", "<image " + reference + "/>");
     EXPECT_TRUE(selfContainedSvg(document).contains(reference));
 }
 
-TEST(SvgDocument, forgetsWhatLeadsOutOfIt)
+TEST(SvgDocument, ForgetsWhatLeadsOutOfIt)
 {
     for (const char* reference :
          {"/etc/passwd", "file:///etc/passwd", "picture.png", "http://example.com/x.png",
@@ -78,14 +78,14 @@ TEST(SvgDocument, forgetsWhatLeadsOutOfIt)
         selfContainedSvg("<!DOCTYPE svg SYSTEM '/etc/passwd'>" + svg("")).contains("passwd"));
 }
 
-TEST(SvgDocument, keepsReferencesWithinIt)
+TEST(SvgDocument, KeepsReferencesWithinIt)
 {
     const QByteArray copy =
         selfContainedSvg(svg("width='4' height='4'", "<use xlink:href=\"#part\"/>"));
     EXPECT_TRUE(copy.contains("xlink:href=\"#part\""));
 }
 
-TEST(SvgDocument, readsAnySpellingOfPrefixes)
+TEST(SvgDocument, ReadsAnySpellingOfPrefixes)
 {
     const QByteArray document = "<s:svg xmlns:s='http://www.w3.org/2000/svg' width='5' height='6'>"
                                 "<s:image xmlns:l='http://www.w3.org/1999/xlink' l:href='/x'/>"
@@ -94,7 +94,7 @@ TEST(SvgDocument, readsAnySpellingOfPrefixes)
     EXPECT_FALSE(selfContainedSvg(document).contains("l:href"));
 }
 
-TEST(SvgDocument, opensNoFileThatItNames)
+TEST(SvgDocument, OpensNoFileThatItNames)
 {
     // Without a size of its own, a document is as large as what is drawn: were the picture
     // or the style sheet opened, it would show.
@@ -120,7 +120,7 @@ TEST(SvgDocument, opensNoFileThatItNames)
     EXPECT_NE(bare.defaultSize(), QSize(4, 3));
 }
 
-TEST(SvgDocument, refusesWhatIsTooLarge)
+TEST(SvgDocument, RefusesWhatIsTooLarge)
 {
     const auto isTaken = [](const QByteArray& attributes, const QByteArray& content) {
         return SvgDocument(svg("width='4' height='4' " + attributes, content)).isValid();
@@ -147,7 +147,7 @@ TEST(SvgDocument, refusesWhatIsTooLarge)
     EXPECT_FALSE(isTaken("", QByteArray(rest + 1, ' ')));
 }
 
-TEST(SvgDocument, countsThePixelsOfItsPictures)
+TEST(SvgDocument, CountsThePixelsOfItsPictures)
 {
     const auto pictureOf = [](int width, int height) {
         QImage image(width, height, QImage::Format_Mono);
@@ -166,7 +166,7 @@ TEST(SvgDocument, countsThePixelsOfItsPictures)
     EXPECT_EQ(kept(half + pictureOf(4097, 4096) + half), 2);
 }
 
-TEST(SvgDocument, takesNoTextsOfPicturesAlong)
+TEST(SvgDocument, TakesNoTextsOfPicturesAlong)
 {
     QImage image(1, 1, QImage::Format_RGB32);
     image.fill(0);
@@ -185,7 +185,7 @@ TEST(SvgDocument, takesNoTextsOfPicturesAlong)
     EXPECT_FALSE(kept.contains("zTXt"));
 }
 
-TEST(SvgDocument, refusesDeepNesting)
+TEST(SvgDocument, RefusesDeepNesting)
 {
     const auto nested = [](int depth) {
         return svg("width='4' height='4'",
@@ -196,7 +196,7 @@ TEST(SvgDocument, refusesDeepNesting)
     EXPECT_FALSE(SvgDocument(nested(300000)).isValid());
 }
 
-TEST(SvgDocument, refusesCopiesOfCopiesWhereTheSizeHangsOnThem)
+TEST(SvgDocument, RefusesCopiesOfCopiesWhereTheSizeHangsOnThem)
 {
     QByteArray parts = "<g id='p0'><rect width='1' height='1'/></g>";
     for (int i = 1; i < 40; ++i) {
@@ -213,7 +213,7 @@ TEST(SvgDocument, refusesCopiesOfCopiesWhereTheSizeHangsOnThem)
     EXPECT_EQ(SvgDocument(svg("viewBox='0 0 3 4'", parts)).defaultSize(), QSizeF(3, 4));
 }
 
-TEST(SvgDocument, survivesEntityBombs)
+TEST(SvgDocument, SurvivesEntityBombs)
 {
     QByteArray bomb = "<!DOCTYPE svg [<!ENTITY e0 'xxxxxxxxxx'>";
     for (int i = 1; i < 12; ++i) {

@@ -12,7 +12,7 @@ namespace {
 
 using TraceLines = RecorderTest;
 
-TEST_F(TraceLines, startAndEnd)
+TEST_F(TraceLines, StartAndEnd)
 {
     m_host->trace().start(QStringLiteral("label.odg"), QStringLiteral("opendocument"));
     EXPECT_EQ(newLine(),
@@ -23,7 +23,7 @@ TEST_F(TraceLines, startAndEnd)
     EXPECT_EQ(newLine(), QStringLiteral(R"({"result":false})"));
 }
 
-TEST_F(TraceLines, callsWithAndWithoutResult)
+TEST_F(TraceLines, CallsWithAndWithoutResult)
 {
     m_host->trace().call(QStringLiteral("canvas"), "completeCanvasLoading", {});
     EXPECT_EQ(newLine(),
@@ -34,13 +34,13 @@ TEST_F(TraceLines, callsWithAndWithoutResult)
         QStringLiteral(R"({"on":"lists","call":"isValidFamily","args":["x"],"returns":false})"));
 }
 
-TEST_F(TraceLines, signalsHaveOneKey)
+TEST_F(TraceLines, SignalsHaveOneKey)
 {
     m_host->trace().signal("popupShowSignal");
     EXPECT_EQ(newLine(), QStringLiteral(R"({"signal":"popupShowSignal"})"));
 }
 
-TEST_F(TraceLines, logRecordsStandBetweenTheCalls)
+TEST_F(TraceLines, LogRecordsStandBetweenTheCalls)
 {
     canvas().completeCanvasLoading();
     CuteMessageLogger(loggerInstance(), Logger::Error, "reader.cpp", 7, "bool Reader::read(int)")
@@ -56,7 +56,7 @@ TEST_F(TraceLines, logRecordsStandBetweenTheCalls)
                                           "\"function\":\"void f()\",\"message\":\"seen\"}"));
 }
 
-TEST_F(TraceLines, theLogIsLetGoWithTheHost)
+TEST_F(TraceLines, TheLogIsLetGoWithTheHost)
 {
     m_host.reset();
     CuteMessageLogger(loggerInstance(), Logger::Error, "reader.cpp", 7, "f").write("late");
@@ -65,7 +65,7 @@ TEST_F(TraceLines, theLogIsLetGoWithTheHost)
 
 // --- items ---
 
-TEST_F(TraceLines, theFactoryNumbersItsItems)
+TEST_F(TraceLines, TheFactoryNumbersItsItems)
 {
     const std::unique_ptr<Item> first(create(KestTypes::Line));
     EXPECT_EQ(
@@ -77,7 +77,7 @@ TEST_F(TraceLines, theFactoryNumbersItsItems)
         QStringLiteral(R"({"on":"factory","call":"create","args":[65565],"returns":"item:2"})"));
 }
 
-TEST_F(TraceLines, anUnknownShapeIsNoItemAndTakesNoNumber)
+TEST_F(TraceLines, AnUnknownShapeIsNoItemAndTakesNoNumber)
 {
     EXPECT_EQ(create(static_cast<KestTypes::ShapeType>(1)), nullptr);
     EXPECT_EQ(newLine(),
@@ -86,7 +86,7 @@ TEST_F(TraceLines, anUnknownShapeIsNoItemAndTakesNoNumber)
     EXPECT_TRUE(newLine().contains(QStringLiteral("\"item:1\"")));
 }
 
-TEST_F(TraceLines, statesTellWhereItemsStand)
+TEST_F(TraceLines, StatesTellWhereItemsStand)
 {
     canvas().importItem(create(KestTypes::Rectangle));
     const std::unique_ptr<Item> kept(create(KestTypes::Ellipse));
@@ -105,7 +105,7 @@ TEST_F(TraceLines, statesTellWhereItemsStand)
                           }));
 }
 
-TEST_F(TraceLines, statesFollowTheOrderOfCreation)
+TEST_F(TraceLines, StatesFollowTheOrderOfCreation)
 {
     Item* first = create(KestTypes::Line);
     Item* second = create(KestTypes::Line);
@@ -119,7 +119,7 @@ TEST_F(TraceLines, statesFollowTheOrderOfCreation)
     EXPECT_TRUE(lines.at(1).startsWith(QStringLiteral(R"({"item":"item:2")")));
 }
 
-TEST_F(TraceLines, deletedItemsAreLeftOut)
+TEST_F(TraceLines, DeletedItemsAreLeftOut)
 {
     delete create(KestTypes::Picture);
     const std::unique_ptr<Item> kept(create(KestTypes::Symbol));
@@ -128,7 +128,7 @@ TEST_F(TraceLines, deletedItemsAreLeftOut)
     EXPECT_TRUE(newLine().startsWith(QStringLiteral(R"({"item":"item:2","type":65549)")));
 }
 
-TEST_F(TraceLines, richTextShowsItsDocument)
+TEST_F(TraceLines, RichTextShowsItsDocument)
 {
     const std::unique_ptr<Item> item = make(KestTypes::RichText);
     auto* text = dynamic_cast<QGraphicsTextItem*>(item.get());
@@ -140,7 +140,7 @@ TEST_F(TraceLines, richTextShowsItsDocument)
     EXPECT_TRUE(line.contains(QStringLiteral(">b</span>")));
 }
 
-TEST_F(TraceLines, emptyRichTextHasNoHtml)
+TEST_F(TraceLines, EmptyRichTextHasNoHtml)
 {
     const std::unique_ptr<Item> item = make(KestTypes::RichText);
     // What the text facet sets is a call, and leaves the document alone.
@@ -150,7 +150,7 @@ TEST_F(TraceLines, emptyRichTextHasNoHtml)
     EXPECT_FALSE(newLine().contains(QStringLiteral("html")));
 }
 
-TEST_F(TraceLines, plainTextHasNoHtml)
+TEST_F(TraceLines, PlainTextHasNoHtml)
 {
     const std::unique_ptr<Item> item = make(KestTypes::SimpleText);
     dynamic_cast<QGraphicsTextItem&>(*item).setPlainText(QStringLiteral("plain"));
@@ -158,7 +158,7 @@ TEST_F(TraceLines, plainTextHasNoHtml)
     EXPECT_FALSE(newLine().contains(QStringLiteral("html")));
 }
 
-TEST_F(TraceLines, itemsMayOutliveTheHost)
+TEST_F(TraceLines, ItemsMayOutliveTheHost)
 {
     const std::unique_ptr<Item> item = make(KestTypes::Line);
     m_host.reset();
@@ -168,7 +168,7 @@ TEST_F(TraceLines, itemsMayOutliveTheHost)
 
 // --- canvas ---
 
-TEST_F(TraceLines, canvasCalls)
+TEST_F(TraceLines, CanvasCalls)
 {
     canvas().importCanvasParameters(612, 283.5, false, true);
     EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"importCanvasParameters",)"
@@ -178,7 +178,7 @@ TEST_F(TraceLines, canvasCalls)
               QStringLiteral(R"({"on":"canvas","call":"completeCanvasLoading","args":[]})"));
 }
 
-TEST_F(TraceLines, canvasColoursStartWhiteAndBlackAndFollowTheSetters)
+TEST_F(TraceLines, CanvasColoursStartWhiteAndBlackAndFollowTheSetters)
 {
     EXPECT_EQ(canvas().canvasBackgroundColor(), QColor(Qt::white));
     EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"canvasBackgroundColor",)"
@@ -198,7 +198,7 @@ TEST_F(TraceLines, canvasColoursStartWhiteAndBlackAndFollowTheSetters)
     EXPECT_TRUE(newLines().last().endsWith(QStringLiteral(R"("returns":"#ff040506"})")));
 }
 
-TEST_F(TraceLines, canvasTakesItemsAndListsOfThem)
+TEST_F(TraceLines, CanvasTakesItemsAndListsOfThem)
 {
     Item* item = create(KestTypes::Line);
     Item* other = create(KestTypes::Line);
@@ -221,7 +221,7 @@ TEST_F(TraceLines, canvasTakesItemsAndListsOfThem)
                              R"("args":[false,[]]})"));
 }
 
-TEST_F(TraceLines, canvasSurvivesNoItemAndTheSameItemTwice)
+TEST_F(TraceLines, CanvasSurvivesNoItemAndTheSameItemTwice)
 {
     canvas().importItem(nullptr);
     EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"importItem","args":[null]})"));
@@ -231,7 +231,7 @@ TEST_F(TraceLines, canvasSurvivesNoItemAndTheSameItemTwice)
     EXPECT_EQ(newLines().size(), 3);
 }
 
-TEST_F(TraceLines, anItemOfAnotherHostIsNobody)
+TEST_F(TraceLines, AnItemOfAnotherHostIsNobody)
 {
     QGraphicsRectItem stranger;
     canvas().setReadOnlyStateOnItemsInList(true, {&stranger});

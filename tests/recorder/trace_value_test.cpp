@@ -19,7 +19,7 @@ QByteArray json(const TraceValue& value)
     return value.json();
 }
 
-TEST(TraceValue, booleansAndIntegers)
+TEST(TraceValue, BooleansAndIntegers)
 {
     EXPECT_EQ(json(true), "true");
     EXPECT_EQ(json(false), "false");
@@ -31,7 +31,7 @@ TEST(TraceValue, booleansAndIntegers)
     EXPECT_EQ(json(nullptr), "null");
 }
 
-TEST(TraceValue, enumerationsAndFlagsAreNumbers)
+TEST(TraceValue, EnumerationsAndFlagsAreNumbers)
 {
     EXPECT_EQ(json(Qt::DashLine), "2");
     EXPECT_EQ(json(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter)), "130");
@@ -59,14 +59,14 @@ const NumberRow Numbers[] = {
     {-std::numeric_limits<double>::infinity(), "\"-inf\""},
 };
 
-TEST(TraceValue, numbersAreTheShortestTextsThatReadBack)
+TEST(TraceValue, NumbersAreTheShortestTextsThatReadBack)
 {
     for (const NumberRow& row : Numbers) {
         EXPECT_EQ(json(row.value), row.text);
     }
 }
 
-TEST(TraceValue, everyNumberReadsBackToTheSameBits)
+TEST(TraceValue, EveryNumberReadsBackToTheSameBits)
 {
     quint64 state = 1;
     for (int i = 0; i < 20000; ++i) {
@@ -82,7 +82,7 @@ TEST(TraceValue, everyNumberReadsBackToTheSameBits)
     }
 }
 
-TEST(TraceValue, numbersAreTheSameInEveryLocale)
+TEST(TraceValue, NumbersAreTheSameInEveryLocale)
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
@@ -90,7 +90,7 @@ TEST(TraceValue, numbersAreTheSameInEveryLocale)
     QLocale::setDefault(before);
 }
 
-TEST(TraceValue, textsAreQuotedAndInUtf8)
+TEST(TraceValue, TextsAreQuotedAndInUtf8)
 {
     EXPECT_EQ(json(QString()), "\"\"");
     EXPECT_EQ(json(QStringLiteral("a \"b\" \\c/")), "\"a \\\"b\\\" \\\\c/\"");
@@ -100,7 +100,7 @@ TEST(TraceValue, textsAreQuotedAndInUtf8)
                                                           "e \xe2\x82\xac\""));
 }
 
-TEST(TraceValue, everyTextIsValidJson)
+TEST(TraceValue, EveryTextIsValidJson)
 {
     QString all;
     for (ushort code = 0; code < 0x3000; ++code) {
@@ -116,13 +116,13 @@ TEST(TraceValue, everyTextIsValidJson)
     EXPECT_EQ(json(QString(QChar(0xd800))), "\"?\"");
 }
 
-TEST(TraceValue, listsOfTexts)
+TEST(TraceValue, ListsOfTexts)
 {
     EXPECT_EQ(json(QStringList()), "[]");
     EXPECT_EQ(json(QStringList{QStringLiteral("a"), QString()}), "[\"a\",\"\"]");
 }
 
-TEST(TraceValue, coloursWithAlphaFirst)
+TEST(TraceValue, ColoursWithAlphaFirst)
 {
     EXPECT_EQ(json(QColor(Qt::white)), "\"#ffffffff\"");
     EXPECT_EQ(json(QColor(Qt::transparent)), "\"#00000000\"");
@@ -130,7 +130,7 @@ TEST(TraceValue, coloursWithAlphaFirst)
     EXPECT_EQ(json(QColor(0xAB, 0xCD, 0xEF, 0x80)), "\"#80abcdef\"");
 }
 
-TEST(TraceValue, geometry)
+TEST(TraceValue, Geometry)
 {
     EXPECT_EQ(json(QPointF(1.5, -2)), "[1.5,-2]");
     EXPECT_EQ(json(QSizeF(3, 0.25)), "[3,0.25]");
@@ -138,7 +138,7 @@ TEST(TraceValue, geometry)
     EXPECT_EQ(json(QPointF(std::nan(""), 0)), "[\"nan\",0]");
 }
 
-TEST(TraceValue, bytesAreCountedAndSummed)
+TEST(TraceValue, BytesAreCountedAndSummed)
 {
     EXPECT_EQ(json(QByteArray()),
               "{\"bytes\":0,\"sha1\":\"da39a3ee5e6b4b0d3255bfef95601890afd80709\"}");
@@ -146,13 +146,13 @@ TEST(TraceValue, bytesAreCountedAndSummed)
               "{\"bytes\":3,\"sha1\":\"a9993e364706816aba3e25717850c26c9cd0d89d\"}");
 }
 
-TEST(TraceValue, picturesAreTheirSize)
+TEST(TraceValue, PicturesAreTheirSize)
 {
     EXPECT_EQ(json(QPixmap()), "{\"width\":0,\"height\":0}");
     EXPECT_EQ(json(QPixmap(12, 7)), "{\"width\":12,\"height\":7}");
 }
 
-TEST(TraceValue, propertiesGoByTheTypeTheyHold)
+TEST(TraceValue, PropertiesGoByTheTypeTheyHold)
 {
     EXPECT_EQ(json(QVariant(5)), "5");
     EXPECT_EQ(json(QVariant(5U)), "5");
@@ -163,7 +163,7 @@ TEST(TraceValue, propertiesGoByTheTypeTheyHold)
     EXPECT_EQ(json(QVariant()), "\"\"");
 }
 
-TEST(TraceValue, objectsKeepTheOrderOfTheirFields)
+TEST(TraceValue, ObjectsKeepTheOrderOfTheirFields)
 {
     EXPECT_EQ(TraceValue::object({{"z", 1}, {"a", QStringLiteral("b")}}).json(),
               "{\"z\":1,\"a\":\"b\"}");

@@ -4,12 +4,12 @@
 
 namespace {
 
-TEST(LineDifference, isEmptyForEqualTexts)
+TEST(LineDifference, IsEmptyForEqualTexts)
 {
     EXPECT_EQ(firstDifference("a\nb\n", "a\nb\n"), QString());
 }
 
-TEST(LineDifference, showsTheFirstDifferentLineAndItsSurroundings)
+TEST(LineDifference, ShowsTheFirstDifferentLineAndItsSurroundings)
 {
     EXPECT_EQ(firstDifference("1\n2\n3\nold\n5\n", "1\n2\n3\nnew\n"),
               QStringLiteral("line 4 (5 lines expected, 4 came)\n"
@@ -22,7 +22,7 @@ TEST(LineDifference, showsTheFirstDifferentLineAndItsSurroundings)
                              "+ \n"));
 }
 
-TEST(LineDifference, seesAMissingLineEnd)
+TEST(LineDifference, SeesAMissingLineEnd)
 {
     EXPECT_FALSE(firstDifference("a\n", "a").isEmpty());
     EXPECT_FALSE(firstDifference("", "a\n").isEmpty());

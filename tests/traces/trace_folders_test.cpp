@@ -25,7 +25,7 @@ protected:
                            m_folder.filePath(QStringLiteral("traces"))};
 };
 
-TEST_F(TraceFoldersTest, findsEveryLabelOfEveryReader)
+TEST_F(TraceFoldersTest, FindsEveryLabelOfEveryReader)
 {
     for (const char* name : {"tavrel/b.cnv", "tavrel/a.roc", "orvanta/l.qmtx", "opendocument/d.odg",
                              "opendocument/d.odt", "opendocument/make.sh", "tavrel/README.md"}) {
@@ -47,7 +47,7 @@ TEST_F(TraceFoldersTest, findsEveryLabelOfEveryReader)
               m_folder.filePath(QStringLiteral("traces/opendocument/d.odg.jsonl")));
 }
 
-TEST_F(TraceFoldersTest, findsReferencesThatLostTheirSample)
+TEST_F(TraceFoldersTest, FindsReferencesThatLostTheirSample)
 {
     touch(QStringLiteral("samples/tavrel/kept.cnv"));
     touch(QStringLiteral("traces/tavrel/kept.cnv.jsonl"));

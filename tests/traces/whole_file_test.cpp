@@ -60,7 +60,7 @@ QString keepActual(const QString& name, const QByteArray& trace)
 class WholeFile : public ::testing::TestWithParam<TracedSample>
 {};
 
-TEST_P(WholeFile, givesItsTrace)
+TEST_P(WholeFile, GivesItsTrace)
 {
     const TracedSample& sample = GetParam();
     const ProgramResult result = runProgram(QStringLiteral(LABELPORT_TRACE_PROGRAM),
@@ -94,7 +94,7 @@ std::string rowName(const ::testing::TestParamInfo<TracedSample>& info)
 
 INSTANTIATE_TEST_SUITE_P(Samples, WholeFile, ::testing::ValuesIn(allSamples()), rowName);
 
-TEST(WholeFiles, thereIsASampleForEveryReader)
+TEST(WholeFiles, ThereIsASampleForEveryReader)
 {
     QStringList readers;
     for (const TracedSample& sample : folders().samples()) {
@@ -105,7 +105,7 @@ TEST(WholeFiles, thereIsASampleForEveryReader)
                                     QStringLiteral("tavrel")}));
 }
 
-TEST(WholeFiles, noReferenceHasLostItsSample)
+TEST(WholeFiles, NoReferenceHasLostItsSample)
 {
     EXPECT_EQ(folders().orphans(), QStringList());
 }
