@@ -1,15 +1,11 @@
 #include "tests/tavrel/fake_services.h"
 
-#include "host/services/basic_conversions.h"
 #include "host/services/common_lists.h"
 #include "host/services/symbol_creator.h"
 #include "host/services/symbol_database_model.h"
 #include "host/services/tal_message_box.h"
-#include "host/services/white_space.h"
 
 #include <QFileInfo>
-
-#include <cmath>
 
 using tavrel_test::FakeServices;
 
@@ -122,14 +118,4 @@ bool CommonLists::isValidBarcode2D(unsigned short code)
 {
     FakeServices::instance().askedCodes.append(code);
     return FakeServices::instance().matrixCodes.contains(code);
-}
-
-bool BasicConversions::almostEqual(double a, double b, double tolerance)
-{
-    return std::abs(a - b) <= tolerance;
-}
-
-QRegularExpression WhiteSpace::getWhiteSpacesSplitRegex()
-{
-    return QRegularExpression(QStringLiteral("\\s+"));
 }
