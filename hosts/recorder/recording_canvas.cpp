@@ -31,7 +31,9 @@ RecordingCanvas::~RecordingCanvas() = default;
 
 void RecordingCanvas::importItem(Item* item)
 {
-    m_recording->call(Target, "importItem", itemValue(item));
+    if (m_recording->trace() != nullptr) {
+        m_recording->call(Target, "importItem", itemValue(item));
+    }
     if (const auto* recorded = dynamic_cast<RecordedItem*>(item)) {
         m_recording->markImported(recorded->number());
     }

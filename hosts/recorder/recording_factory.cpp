@@ -76,7 +76,9 @@ Item* RecordingFactory::create(KestTypes::ShapeType type)
     if (made.item) {
         m_recording->addItem(type, made.graphics);
     }
-    m_recording->answer(itemValue(made.item.get()), QStringLiteral("factory"), "create", type);
+    if (m_recording->trace() != nullptr) {
+        m_recording->answer(itemValue(made.item.get()), QStringLiteral("factory"), "create", type);
+    }
     return made.item.release();
 }
 
