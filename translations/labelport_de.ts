@@ -694,7 +694,7 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::Actions</name>
+    <name>window::Actions</name>
     <message>
         <source>&amp;Open…</source>
         <translation>&amp;Öffnen…</translation>
@@ -1005,7 +1005,7 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::CanvasView</name>
+    <name>window::CanvasView</name>
     <message>
         <source>Canvas</source>
         <translation>Zeichenfläche</translation>
@@ -1016,7 +1016,7 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::ExportDialog</name>
+    <name>window::ExportDialog</name>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>SVG-Zeichnungen (*.svg)</translation>
@@ -1107,14 +1107,14 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::ImportCommand</name>
+    <name>window::DialogImport</name>
     <message>
         <source>There is not enough memory for this file.</source>
         <translation>Für diese Datei reicht der Speicher nicht.</translation>
     </message>
 </context>
 <context>
-    <name>desktop::IssueListModel</name>
+    <name>window::IssueListModel</name>
     <message>
         <source>%1 (%2 times)</source>
         <translation>%1 (%2-mal)</translation>
@@ -1133,7 +1133,7 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::IssuesPanel</name>
+    <name>window::IssuesPanel</name>
     <message>
         <source>Issues of the label</source>
         <translation>Meldungen zum Etikett</translation>
@@ -1144,7 +1144,7 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::ItemDescription</name>
+    <name>window::ItemDescription</name>
     <message>
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 Pixel</translation>
@@ -1431,14 +1431,14 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::ItemPanel</name>
+    <name>window::ItemPanel</name>
     <message>
         <source>Items of the label</source>
         <translation>Objekte des Etiketts</translation>
     </message>
 </context>
 <context>
-    <name>desktop::ItemTableModel</name>
+    <name>window::ItemTableModel</name>
     <message>
         <source>cannot be shown</source>
         <translation>nicht darstellbar</translation>
@@ -1489,7 +1489,7 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>desktop::LabelDesk</name>
+    <name>window::LabelSession</name>
     <message>
         <source>The label could not be imported.</source>
         <translation>Das Etikett konnte nicht importiert werden.</translation>
@@ -1516,7 +1516,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::MainWindow</name>
+    <name>window::MainWindow</name>
     <message>
         <source>LabelPort Workbench</source>
         <translation>LabelPort Workbench</translation>
@@ -1551,14 +1551,14 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::MoveItems</name>
+    <name>window::MoveItems</name>
     <message>
         <source>Move</source>
         <translation>Verschieben</translation>
     </message>
 </context>
 <context>
-    <name>desktop::OutputCommands</name>
+    <name>window::OutputCommands</name>
     <message>
         <source>Stop</source>
         <translation>Abbrechen</translation>
@@ -1601,14 +1601,14 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::OutputJob</name>
+    <name>window::OutputJob</name>
     <message>
         <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
         <translation>Der Drucker hat die Seiten nicht angenommen. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, oder drucken Sie mit „Exportieren“ in eine PDF-Datei.</translation>
     </message>
 </context>
 <context>
-    <name>desktop::Prompts</name>
+    <name>window::Prompts</name>
     <message>
         <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
         <translation>Alle Etiketten (*.label *.cnv *.roc *.qmtx *.odt *.odg)</translation>
@@ -1675,7 +1675,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::PropertyModel</name>
+    <name>window::PropertyModel</name>
     <message>
         <source>Group</source>
         <translation>Gruppe</translation>
@@ -1690,14 +1690,14 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::PropertyPanel</name>
+    <name>window::PropertyPanel</name>
     <message>
         <source>Properties of the selected item</source>
         <translation>Eigenschaften des ausgewählten Objekts</translation>
     </message>
 </context>
 <context>
-    <name>desktop::RecordChooser</name>
+    <name>window::RecordChooser</name>
     <message>
         <source>The one &amp;shown (%1)</source>
         <translation>Der an&amp;gezeigte (%1)</translation>
@@ -1728,7 +1728,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::RuledCanvas</name>
+    <name>window::RuledCanvas</name>
     <message>
         <source>Change between millimeters and inches</source>
         <translation>Zwischen Millimetern und Zoll wechseln</translation>
@@ -1739,7 +1739,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::Ruler</name>
+    <name>window::Ruler</name>
     <message>
         <source>Horizontal ruler</source>
         <translation>Waagerechtes Lineal</translation>
@@ -1750,7 +1750,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::ShortcutsDialog</name>
+    <name>window::ShortcutsDialog</name>
     <message>
         <source>Canvas</source>
         <translation>Zeichenfläche</translation>
@@ -1805,7 +1805,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::SourcePanel</name>
+    <name>window::SourcePanel</name>
     <message>
         <source>Data sources of the label</source>
         <translation>Datenquellen des Etiketts</translation>
@@ -1824,7 +1824,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::SourceTableModel</name>
+    <name>window::SourceTableModel</name>
     <message>
         <source>Counter</source>
         <translation>Zähler</translation>
@@ -1863,7 +1863,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::StatusLine</name>
+    <name>window::StatusLine</name>
     <message>
         <source>Record %1 of %2</source>
         <translation>Datensatz %1 von %2</translation>
@@ -1874,7 +1874,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::StyleNames</name>
+    <name>window::StyleNames</name>
     <message>
         <source>Picture</source>
         <translation>Bild</translation>
@@ -2101,7 +2101,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::WelcomePage</name>
+    <name>window::WelcomePage</name>
     <message>
         <source>Drop a label here</source>
         <translation>Legen Sie hier ein Etikett ab</translation>
@@ -2120,7 +2120,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>desktop::WindowPanels</name>
+    <name>window::WindowPanels</name>
     <message>
         <source>Items</source>
         <translation>Objekte</translation>

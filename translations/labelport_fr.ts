@@ -694,7 +694,7 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::Actions</name>
+    <name>window::Actions</name>
     <message>
         <source>&amp;Open…</source>
         <translation>&amp;Ouvrir…</translation>
@@ -1005,7 +1005,7 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::CanvasView</name>
+    <name>window::CanvasView</name>
     <message>
         <source>Canvas</source>
         <translation>Canevas</translation>
@@ -1016,7 +1016,7 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::ExportDialog</name>
+    <name>window::ExportDialog</name>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation>Dessins SVG (*.svg)</translation>
@@ -1107,14 +1107,14 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::ImportCommand</name>
+    <name>window::DialogImport</name>
     <message>
         <source>There is not enough memory for this file.</source>
         <translation>La mémoire ne suffit pas pour ce fichier.</translation>
     </message>
 </context>
 <context>
-    <name>desktop::IssueListModel</name>
+    <name>window::IssueListModel</name>
     <message>
         <source>%1 (%2 times)</source>
         <translation>%1 (%2 fois)</translation>
@@ -1133,7 +1133,7 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::IssuesPanel</name>
+    <name>window::IssuesPanel</name>
     <message>
         <source>Issues of the label</source>
         <translation>Messages sur l’étiquette</translation>
@@ -1144,7 +1144,7 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::ItemDescription</name>
+    <name>window::ItemDescription</name>
     <message>
         <source>%1 × %2 pixels</source>
         <translation>%1 × %2 pixels</translation>
@@ -1431,14 +1431,14 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::ItemPanel</name>
+    <name>window::ItemPanel</name>
     <message>
         <source>Items of the label</source>
         <translation>Objets de l’étiquette</translation>
     </message>
 </context>
 <context>
-    <name>desktop::ItemTableModel</name>
+    <name>window::ItemTableModel</name>
     <message>
         <source>cannot be shown</source>
         <translation>ne peut être affiché</translation>
@@ -1489,7 +1489,7 @@ Exemples&#xa0;:
     </message>
 </context>
 <context>
-    <name>desktop::LabelDesk</name>
+    <name>window::LabelSession</name>
     <message>
         <source>The label could not be imported.</source>
         <translation>L’étiquette n’a pas pu être importée.</translation>
@@ -1516,7 +1516,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::MainWindow</name>
+    <name>window::MainWindow</name>
     <message>
         <source>LabelPort Workbench</source>
         <translation>LabelPort Workbench</translation>
@@ -1551,14 +1551,14 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::MoveItems</name>
+    <name>window::MoveItems</name>
     <message>
         <source>Move</source>
         <translation>Déplacer</translation>
     </message>
 </context>
 <context>
-    <name>desktop::OutputCommands</name>
+    <name>window::OutputCommands</name>
     <message>
         <source>Stop</source>
         <translation>Arrêter</translation>
@@ -1601,14 +1601,14 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::OutputJob</name>
+    <name>window::OutputJob</name>
     <message>
         <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
         <translation>L’imprimante n’a pas accepté les pages. Vérifiez qu’elle est allumée et connectée, ou imprimez dans un fichier PDF avec «&#xa0;Exporter&#xa0;».</translation>
     </message>
 </context>
 <context>
-    <name>desktop::Prompts</name>
+    <name>window::Prompts</name>
     <message>
         <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
         <translation>Toutes les étiquettes (*.label *.cnv *.roc *.qmtx *.odt *.odg)</translation>
@@ -1675,7 +1675,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::PropertyModel</name>
+    <name>window::PropertyModel</name>
     <message>
         <source>Group</source>
         <translation>Groupe</translation>
@@ -1690,14 +1690,14 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::PropertyPanel</name>
+    <name>window::PropertyPanel</name>
     <message>
         <source>Properties of the selected item</source>
         <translation>Propriétés de l’objet sélectionné</translation>
     </message>
 </context>
 <context>
-    <name>desktop::RecordChooser</name>
+    <name>window::RecordChooser</name>
     <message>
         <source>The one &amp;shown (%1)</source>
         <translation>Celui qui est a&amp;ffiché (%1)</translation>
@@ -1728,7 +1728,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::RuledCanvas</name>
+    <name>window::RuledCanvas</name>
     <message>
         <source>Change between millimeters and inches</source>
         <translation>Passer des millimètres aux pouces et inversement</translation>
@@ -1739,7 +1739,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::Ruler</name>
+    <name>window::Ruler</name>
     <message>
         <source>Horizontal ruler</source>
         <translation>Règle horizontale</translation>
@@ -1750,7 +1750,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::ShortcutsDialog</name>
+    <name>window::ShortcutsDialog</name>
     <message>
         <source>Canvas</source>
         <translation>Canevas</translation>
@@ -1805,7 +1805,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::SourcePanel</name>
+    <name>window::SourcePanel</name>
     <message>
         <source>Data sources of the label</source>
         <translation>Sources de données de l’étiquette</translation>
@@ -1824,7 +1824,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::SourceTableModel</name>
+    <name>window::SourceTableModel</name>
     <message>
         <source>Counter</source>
         <translation>Compteur</translation>
@@ -1863,7 +1863,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::StatusLine</name>
+    <name>window::StatusLine</name>
     <message>
         <source>Record %1 of %2</source>
         <translation>Enregistrement %1 sur %2</translation>
@@ -1874,7 +1874,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::StyleNames</name>
+    <name>window::StyleNames</name>
     <message>
         <source>Picture</source>
         <translation>Image</translation>
@@ -2101,7 +2101,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::WelcomePage</name>
+    <name>window::WelcomePage</name>
     <message>
         <source>Drop a label here</source>
         <translation>Déposez une étiquette ici</translation>
@@ -2120,7 +2120,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>desktop::WindowPanels</name>
+    <name>window::WindowPanels</name>
     <message>
         <source>Items</source>
         <translation>Objets</translation>

@@ -641,7 +641,7 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::Actions</name>
+    <name>window::Actions</name>
     <message>
         <source>&amp;Open…</source>
         <translation type="unfinished"></translation>
@@ -952,7 +952,7 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::CanvasView</name>
+    <name>window::CanvasView</name>
     <message>
         <source>Canvas</source>
         <translation type="unfinished"></translation>
@@ -963,7 +963,7 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::ExportDialog</name>
+    <name>window::ExportDialog</name>
     <message>
         <source>SVG drawings (*.svg)</source>
         <translation type="unfinished"></translation>
@@ -1054,14 +1054,14 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::ImportCommand</name>
+    <name>window::DialogImport</name>
     <message>
         <source>There is not enough memory for this file.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>desktop::IssueListModel</name>
+    <name>window::IssueListModel</name>
     <message>
         <source>%1 (%2 times)</source>
         <translation type="unfinished"></translation>
@@ -1080,7 +1080,7 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::IssuesPanel</name>
+    <name>window::IssuesPanel</name>
     <message>
         <source>Issues of the label</source>
         <translation type="unfinished"></translation>
@@ -1091,7 +1091,7 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::ItemDescription</name>
+    <name>window::ItemDescription</name>
     <message>
         <source>%1 × %2 pixels</source>
         <translation type="unfinished"></translation>
@@ -1378,14 +1378,14 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::ItemPanel</name>
+    <name>window::ItemPanel</name>
     <message>
         <source>Items of the label</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>desktop::ItemTableModel</name>
+    <name>window::ItemTableModel</name>
     <message>
         <source>cannot be shown</source>
         <translation type="unfinished"></translation>
@@ -1436,7 +1436,7 @@ Examples:
     </message>
 </context>
 <context>
-    <name>desktop::LabelDesk</name>
+    <name>window::LabelSession</name>
     <message>
         <source>The label could not be imported.</source>
         <translation type="unfinished"></translation>
@@ -1461,7 +1461,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::MainWindow</name>
+    <name>window::MainWindow</name>
     <message>
         <source>LabelPort Workbench</source>
         <translation type="unfinished"></translation>
@@ -1496,14 +1496,14 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::MoveItems</name>
+    <name>window::MoveItems</name>
     <message>
         <source>Move</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>desktop::OutputCommands</name>
+    <name>window::OutputCommands</name>
     <message>
         <source>Stop</source>
         <translation type="unfinished"></translation>
@@ -1546,14 +1546,14 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::OutputJob</name>
+    <name>window::OutputJob</name>
     <message>
         <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>desktop::Prompts</name>
+    <name>window::Prompts</name>
     <message>
         <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
         <translation type="unfinished"></translation>
@@ -1620,7 +1620,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::PropertyModel</name>
+    <name>window::PropertyModel</name>
     <message>
         <source>Group</source>
         <translation type="unfinished"></translation>
@@ -1635,14 +1635,14 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::PropertyPanel</name>
+    <name>window::PropertyPanel</name>
     <message>
         <source>Properties of the selected item</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>desktop::RecordChooser</name>
+    <name>window::RecordChooser</name>
     <message>
         <source>The one &amp;shown (%1)</source>
         <translation type="unfinished"></translation>
@@ -1673,7 +1673,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::RuledCanvas</name>
+    <name>window::RuledCanvas</name>
     <message>
         <source>Change between millimeters and inches</source>
         <translation type="unfinished"></translation>
@@ -1684,7 +1684,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::Ruler</name>
+    <name>window::Ruler</name>
     <message>
         <source>Horizontal ruler</source>
         <translation type="unfinished"></translation>
@@ -1695,7 +1695,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::ShortcutsDialog</name>
+    <name>window::ShortcutsDialog</name>
     <message>
         <source>Canvas</source>
         <translation type="unfinished"></translation>
@@ -1750,7 +1750,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::SourcePanel</name>
+    <name>window::SourcePanel</name>
     <message>
         <source>Data sources of the label</source>
         <translation type="unfinished"></translation>
@@ -1769,7 +1769,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::SourceTableModel</name>
+    <name>window::SourceTableModel</name>
     <message>
         <source>Counter</source>
         <translation type="unfinished"></translation>
@@ -1808,7 +1808,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::StatusLine</name>
+    <name>window::StatusLine</name>
     <message>
         <source>Record %1 of %2</source>
         <translation type="unfinished"></translation>
@@ -1819,7 +1819,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::StyleNames</name>
+    <name>window::StyleNames</name>
     <message>
         <source>Picture</source>
         <translation type="unfinished"></translation>
@@ -2046,7 +2046,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::WelcomePage</name>
+    <name>window::WelcomePage</name>
     <message>
         <source>Drop a label here</source>
         <translation type="unfinished"></translation>
@@ -2065,7 +2065,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>desktop::WindowPanels</name>
+    <name>window::WindowPanels</name>
     <message>
         <source>Items</source>
         <translation type="unfinished"></translation>

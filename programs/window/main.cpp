@@ -1,8 +1,8 @@
 // labelport-workbench: opens legacy labels in a window.
 
-#include "window/icons.h"
+#include "window/actions/icons.h"
 #include "window/main_window.h"
-#include "window/palettes.h"
+#include "window/actions/palettes.h"
 #include "window/window_picture.h"
 #include "translations/program_language.h"
 
@@ -67,13 +67,13 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     const translations::ProgramLanguage language(
         translations::wantedLanguages(QProcessEnvironment::systemEnvironment()));
-    QApplication::setWindowIcon(desktop::applicationIcon());
+    QApplication::setWindowIcon(window::applicationIcon());
     const Options options = readOptions(application);
-    desktop::applyColorScheme(desktop::storedColorScheme());
+    window::applyColorScheme(window::storedColorScheme());
 
-    desktop::MainWindow window;
+    window::MainWindow window;
     if (!options.picture.isEmpty()) {
-        new desktop::WindowPicture(window, options.picture, &window);
+        new window::WindowPicture(window, options.picture, &window);
     }
     window.show();
     if (!options.file.isEmpty()) {

@@ -1,13 +1,13 @@
 #include "window/main_window.h"
 
-#include "window/canvas_view.h"
-#include "window/issues_panel.h"
-#include "window/item_panel.h"
-#include "window/output_commands.h"
-#include "window/property_panel.h"
-#include "window/ruled_canvas.h"
+#include "window/canvas/canvas_view.h"
+#include "window/label/issues_panel.h"
+#include "window/properties/item_panel.h"
+#include "window/output/output_commands.h"
+#include "window/properties/property_panel.h"
+#include "window/canvas/ruled_canvas.h"
 #include "window/shortcuts_dialog.h"
-#include "window/source_panel.h"
+#include "window/sources/source_panel.h"
 #include "workbench/canvas/canvas.h"
 
 #include <QCoreApplication>
@@ -18,7 +18,7 @@
 
 #include <algorithm>
 
-namespace desktop {
+namespace window {
 
 namespace {
 
@@ -29,7 +29,7 @@ enum CentrePage { WelcomeIndex, CanvasIndex };
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_actions(new Actions(this))
-    , m_desk(std::make_unique<LabelDesk>(this))
+    , m_session(std::make_unique<LabelSession>(this))
 {
     setAcceptDrops(true);
     setWindowIcon(applicationIcon());
@@ -39,7 +39,7 @@ MainWindow::MainWindow(QWidget* parent)
     m_status = std::make_unique<StatusLine>(*statusBar());
     buildMenus();
     buildToolBar();
-    connectDesk();
+    connectSession();
     connectCanvas();
     connectPanels();
     connectFileActions();
@@ -58,7 +58,7 @@ MainWindow::~MainWindow()
 
 bool MainWindow::openFile(const QString& fileName)
 {
-    return m_desk->openFile(fileName);
+    return m_session->openFile(fileName);
 }
 
 CanvasView& MainWindow::view()
@@ -73,17 +73,17 @@ QGraphicsScene* MainWindow::scene()
 
 qint64 MainWindow::recordCount() const
 {
-    return m_desk->label() != nullptr ? m_desk->label()->sources->recordCount() : 1;
+    return m_session->label() != nullptr ? m_session->label()->sources->recordCount() : 1;
 }
 
-void MainWindow::connectDesk()
+void MainWindow::connectSession()
 {
-    connect(m_desk.get(), &LabelDesk::labelLeaves, this, &MainWindow::letLabelGo);
-    connect(m_desk.get(), &LabelDesk::labelReplaced, this, &MainWindow::showLabel);
-    connect(m_desk.get(), &LabelDesk::nameChanged, this, &MainWindow::refreshTitle);
-    connect(m_desk.get(), &LabelDesk::noticed, this,
+    connect(m_session.get(), &LabelSession::aboutToReplaceLabel, this, &MainWindow::letLabelGo);
+    connect(m_session.get(), &LabelSession::labelReplaced, this, &MainWindow::showLabel);
+    connect(m_session.get(), &LabelSession::nameChanged, this, &MainWindow::refreshTitle);
+    connect(m_session.get(), &LabelSession::noticeShown, this,
             [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
-    connect(&m_desk->undoStack(), &QUndoStack::indexChanged, this, &MainWindow::refreshItems);
+    connect(&m_session->undoStack(), &QUndoStack::indexChanged, this, &MainWindow::refreshItems);
 }
 
 void MainWindow::connectCanvas()
@@ -95,7 +95,7 @@ void MainWindow::connectCanvas()
             [this](const QPointF& point) { m_status->setPointer(point, m_unit); });
     connect(&canvas, &CanvasView::pointerLeft, this,
             [this] { m_status->setPointer(std::nullopt, m_unit); });
-    connect(&canvas, &CanvasView::itemsMoved, m_desk.get(), &LabelDesk::moveItems);
+    connect(&canvas, &CanvasView::itemsMoved, m_session.get(), &LabelSession::moveItems);
     connect(m_canvas, &RuledCanvas::unitChangeWanted, this, [this] {
         setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimetre : LengthUnit::Inch);
     });
@@ -122,7 +122,7 @@ void MainWindow::letLabelGo()
 
 void MainWindow::showLabel()
 {
-    OpenLabel* label = m_desk->label();
+    OpenLabel* label = m_session->label();
     m_record = 0;
     m_centre->setCurrentIndex(label != nullptr ? CanvasIndex : WelcomeIndex);
     if (label != nullptr) {
@@ -145,7 +145,7 @@ void MainWindow::showLabel()
 
 void MainWindow::showRecordNumber(qint64 record)
 {
-    OpenLabel* label = m_desk->label();
+    OpenLabel* label = m_session->label();
     if (label == nullptr) {
         return;
     }
@@ -172,25 +172,25 @@ void MainWindow::refreshSelection()
 
 void MainWindow::refreshIssues()
 {
-    m_panels->issues().setIssues(m_desk->label() != nullptr ? currentIssues(*m_desk->label())
+    m_panels->issues().setIssues(m_session->label() != nullptr ? currentIssues(*m_session->label())
                                                             : QList<Issue>());
 }
 
 void MainWindow::refreshTitle()
 {
     const QString program = tr("LabelPort Workbench");
-    const OpenLabel* label = m_desk->label();
+    const OpenLabel* label = m_session->label();
     setWindowTitle(label != nullptr ? displayName(*label) + QStringLiteral("[*] – ") + program
                                     : program);
-    setWindowModified(m_desk->hasUnsavedChanges());
+    setWindowModified(m_session->hasUnsavedChanges());
 }
 
 void MainWindow::refreshActions()
 {
-    const bool isOpen = m_desk->label() != nullptr;
+    const bool isOpen = m_session->label() != nullptr;
     m_actions->setLabelOpen(isOpen);
-    action(ActionId::Undo).setEnabled(m_desk->undoStack().canUndo());
-    action(ActionId::Redo).setEnabled(m_desk->undoStack().canRedo());
+    action(ActionId::Undo).setEnabled(m_session->undoStack().canUndo());
+    action(ActionId::Redo).setEnabled(m_session->undoStack().canRedo());
     action(ActionId::ZoomSelection)
         .setEnabled(scene() != nullptr && !scene()->selectedItems().isEmpty());
     const bool hasBefore = isOpen && m_record > 0;
@@ -209,8 +209,8 @@ void MainWindow::setUnit(LengthUnit unit)
     m_canvas->setUnit(unit);
     m_panels->items().setUnit(unit);
     m_status->setPointer(std::nullopt, unit);
-    if (m_desk->label() != nullptr) {
-        m_status->setPage(m_desk->label()->canvas->page().size, unit);
+    if (m_session->label() != nullptr) {
+        m_status->setPage(m_session->label()->canvas->page().size, unit);
     }
     refreshSelection();
 }
@@ -235,7 +235,7 @@ void MainWindow::selectAll()
     {
         // One change of the selection, not one for each item.
         const QSignalBlocker silence(scene());
-        for (workbench::CanvasItem* item : m_desk->label()->canvas->items()) {
+        for (workbench::CanvasItem* item : m_session->label()->canvas->items()) {
             item->graphicsItem()->setSelected(true);
         }
     }
@@ -244,13 +244,13 @@ void MainWindow::selectAll()
 
 void MainWindow::exportByDialog()
 {
-    const QString told = exportLabel(*m_desk->label(), m_record, m_desk->prompts(), this);
+    const QString told = exportLabel(*m_session->label(), m_record, m_session->prompts(), this);
     statusBar()->showMessage(told, 10'000);
 }
 
 void MainWindow::printByDialog()
 {
-    const QString told = printLabel(*m_desk->label(), m_record, m_desk->prompts(), this);
+    const QString told = printLabel(*m_session->label(), m_record, m_session->prompts(), this);
     statusBar()->showMessage(told, 10'000);
 }
 
@@ -270,4 +270,4 @@ void MainWindow::showAbout()
     box.exec();
 }
 
-} // namespace desktop
+} // namespace window

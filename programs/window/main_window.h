@@ -1,8 +1,8 @@
 #pragma once
 
-#include "window/label_desk.h"
-#include "window/length_unit.h"
-#include "window/palettes.h"
+#include "window/label/label_session.h"
+#include "window/properties/length_unit.h"
+#include "window/actions/palettes.h"
 #include "window/status_line.h"
 #include "window/window_panels.h"
 
@@ -12,7 +12,7 @@
 
 class QStackedWidget;
 
-namespace desktop {
+namespace window {
 
 class CanvasView;
 class RuledCanvas;
@@ -29,7 +29,7 @@ public:
     /// Opens a saved label or imports a legacy one. Tells the user why when it cannot.
     bool openFile(const QString& fileName);
 
-    [[nodiscard]] LabelDesk& desk() { return *m_desk; }
+    [[nodiscard]] LabelSession& session() { return *m_session; }
     [[nodiscard]] CanvasView& view();
     [[nodiscard]] WindowPanels& panels() { return *m_panels; }
     [[nodiscard]] QAction& action(ActionId id) { return m_actions->at(id); }
@@ -47,7 +47,7 @@ private:
     void buildCentre();
     void buildMenus();
     void buildToolBar();
-    void connectDesk();
+    void connectSession();
     void connectCanvas();
     void connectPanels();
     void connectFileActions();
@@ -80,7 +80,7 @@ private:
     [[nodiscard]] QGraphicsScene* scene();
 
     Actions* m_actions;
-    std::unique_ptr<LabelDesk> m_desk;
+    std::unique_ptr<LabelSession> m_session;
     std::unique_ptr<WindowPanels> m_panels;
     std::unique_ptr<StatusLine> m_status;
     QStackedWidget* m_centre = nullptr;
@@ -90,4 +90,4 @@ private:
     LengthUnit m_unit = LengthUnit::Millimetre;
 };
 
-} // namespace desktop
+} // namespace window

@@ -1,10 +1,10 @@
 // How the main window is put together: its parts, its menus, what each command does.
 
-#include "window/canvas_view.h"
-#include "window/issues_panel.h"
-#include "window/item_panel.h"
+#include "window/canvas/canvas_view.h"
+#include "window/label/issues_panel.h"
+#include "window/properties/item_panel.h"
 #include "window/main_window.h"
-#include "window/ruled_canvas.h"
+#include "window/canvas/ruled_canvas.h"
 #include "window/welcome_page.h"
 #include "workbench/canvas/canvas.h"
 
@@ -19,28 +19,28 @@
 #include <QToolBar>
 #include <QUrl>
 
-namespace desktop {
+namespace window {
 
 namespace {
 
 QString geometryKey()
 {
-    return QStringLiteral("desktop/geometry");
+    return QStringLiteral("window/geometry");
 }
 
 QString stateKey()
 {
-    return QStringLiteral("desktop/state");
+    return QStringLiteral("window/state");
 }
 
 QString unitKey()
 {
-    return QStringLiteral("desktop/unit");
+    return QStringLiteral("window/unit");
 }
 
 QString rulersKey()
 {
-    return QStringLiteral("desktop/rulers");
+    return QStringLiteral("window/rulers");
 }
 
 // The files among what is dragged; web addresses are none.
@@ -140,23 +140,23 @@ void MainWindow::fillRecentMenu()
 
 void MainWindow::connectFileActions()
 {
-    LabelDesk* desk = m_desk.get();
-    connect(&action(ActionId::Open), &QAction::triggered, desk, &LabelDesk::openByDialog);
-    connect(&action(ActionId::Import), &QAction::triggered, desk, &LabelDesk::importByDialog);
-    connect(&action(ActionId::Save), &QAction::triggered, desk, &LabelDesk::save);
-    connect(&action(ActionId::SaveAs), &QAction::triggered, desk, &LabelDesk::saveAs);
-    connect(&action(ActionId::Close), &QAction::triggered, desk, &LabelDesk::close);
+    LabelSession* session = m_session.get();
+    connect(&action(ActionId::Open), &QAction::triggered, session, &LabelSession::openByDialog);
+    connect(&action(ActionId::Import), &QAction::triggered, session, &LabelSession::importByDialog);
+    connect(&action(ActionId::Save), &QAction::triggered, session, &LabelSession::save);
+    connect(&action(ActionId::SaveAs), &QAction::triggered, session, &LabelSession::saveAs);
+    connect(&action(ActionId::Close), &QAction::triggered, session, &LabelSession::close);
     connect(&action(ActionId::Export), &QAction::triggered, this, &MainWindow::exportByDialog);
     connect(&action(ActionId::Print), &QAction::triggered, this, &MainWindow::printByDialog);
     connect(&action(ActionId::Quit), &QAction::triggered, this, &MainWindow::close);
     // Queued: the list is not to change under the very action that was picked from it.
-    connect(desk, &LabelDesk::recentFilesChanged, this, &MainWindow::fillRecentMenu,
+    connect(session, &LabelSession::recentFilesChanged, this, &MainWindow::fillRecentMenu,
             Qt::QueuedConnection);
 }
 
 void MainWindow::connectEditActions()
 {
-    QUndoStack* stack = &m_desk->undoStack();
+    QUndoStack* stack = &m_session->undoStack();
     connect(&action(ActionId::Undo), &QAction::triggered, stack, &QUndoStack::undo);
     connect(&action(ActionId::Redo), &QAction::triggered, stack, &QUndoStack::redo);
     connect(&action(ActionId::SelectAll), &QAction::triggered, this, &MainWindow::selectAll);
@@ -250,7 +250,7 @@ void MainWindow::storeSettings() const
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (m_desk->mayGoOn()) {
+    if (m_session->confirmDiscard()) {
         storeSettings();
         event->accept();
     } else {
@@ -293,4 +293,4 @@ void MainWindow::changeEvent(QEvent* event)
     }
 }
 
-} // namespace desktop
+} // namespace window

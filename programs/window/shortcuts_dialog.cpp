@@ -1,6 +1,6 @@
 #include "window/shortcuts_dialog.h"
 
-#include "window/tables.h"
+#include "window/properties/tables.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -9,7 +9,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-namespace desktop {
+namespace window {
 
 namespace {
 
@@ -55,4 +55,4 @@ ShortcutsDialog::ShortcutsDialog(const QList<ShortcutRow>& rows, QWidget* parent
     resize(560, 520);
 }
 
-} // namespace desktop
+} // namespace window

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "window/actions.h"
+#include "window/actions/actions.h"
 
 #include <QDialog>
 
-namespace desktop {
+namespace window {
 
 /// All keys of the program.
 class ShortcutsDialog final : public QDialog
@@ -15,4 +15,4 @@ public:
     ShortcutsDialog(const QList<ShortcutRow>& rows, QWidget* parent);
 };
 
-} // namespace desktop
+} // namespace window

@@ -5,13 +5,13 @@
 #include <QLocale>
 #include <QStatusBar>
 
-namespace desktop {
+namespace window {
 
 namespace {
 
 struct Words
 {
-    Q_DECLARE_TR_FUNCTIONS(desktop::StatusLine)
+    Q_DECLARE_TR_FUNCTIONS(window::StatusLine)
 };
 
 QLabel* makeLabel(QStatusBar& bar)
@@ -56,4 +56,4 @@ void StatusLine::setZoom(std::optional<double> zoom)
     m_zoom->setText(zoom ? Words::tr("%1 %").arg(qRound(*zoom * 100.0)) : QString());
 }
 
-} // namespace desktop
+} // namespace window

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/length_unit.h"
+#include "window/properties/length_unit.h"
 
 #include <QPointF>
 #include <QSizeF>
@@ -10,7 +10,7 @@
 class QLabel;
 class QStatusBar;
 
-namespace desktop {
+namespace window {
 
 /// What the status bar always tells: where the pointer is, the page, the record, the zoom.
 class StatusLine
@@ -31,4 +31,4 @@ private:
     QLabel* m_zoom;
 };
 
-} // namespace desktop
+} // namespace window

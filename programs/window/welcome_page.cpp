@@ -1,13 +1,13 @@
 #include "window/welcome_page.h"
 
-#include "window/actions.h"
+#include "window/actions/actions.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace desktop {
+namespace window {
 
 namespace {
 
@@ -59,4 +59,4 @@ WelcomePage::WelcomePage(const Actions& actions, QWidget* parent)
     layout->addStretch(3);
 }
 
-} // namespace desktop
+} // namespace window

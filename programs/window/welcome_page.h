@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-namespace desktop {
+namespace window {
 
 class Actions;
 
@@ -15,4 +15,4 @@ public:
     explicit WelcomePage(const Actions& actions, QWidget* parent = nullptr);
 };
 
-} // namespace desktop
+} // namespace window

@@ -1,10 +1,10 @@
 #include "window/window_panels.h"
 
-#include "window/issues_panel.h"
-#include "window/item_panel.h"
-#include "window/property_panel.h"
-#include "window/source_panel.h"
-#include "window/tables.h"
+#include "window/label/issues_panel.h"
+#include "window/properties/item_panel.h"
+#include "window/properties/property_panel.h"
+#include "window/sources/source_panel.h"
+#include "window/properties/tables.h"
 
 #include <QCoreApplication>
 #include <QDockWidget>
@@ -12,13 +12,13 @@
 #include <QSpinBox>
 #include <QTableView>
 
-namespace desktop {
+namespace window {
 
 namespace {
 
 struct Words
 {
-    Q_DECLARE_TR_FUNCTIONS(desktop::WindowPanels)
+    Q_DECLARE_TR_FUNCTIONS(window::WindowPanels)
 };
 
 // The object name is what the window's state is stored under.
@@ -97,4 +97,4 @@ void WindowPanels::showIssues()
     bringUp(*m_issueDock);
 }
 
-} // namespace desktop
+} // namespace window

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "window/actions.h"
+#include "window/actions/actions.h"
 
 class QDockWidget;
 class QMainWindow;
 
-namespace desktop {
+namespace window {
 
 class IssuesPanel;
 class ItemPanel;
@@ -44,4 +44,4 @@ private:
     QDockWidget* m_issueDock;
 };
 
-} // namespace desktop
+} // namespace window

@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace desktop {
+namespace window {
 
 namespace {
 
@@ -55,4 +55,4 @@ void WindowPicture::take()
     QCoreApplication::exit(isWritten ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
-} // namespace desktop
+} // namespace window

@@ -5,7 +5,7 @@
 
 class QWidget;
 
-namespace desktop {
+namespace window {
 
 /// Takes a picture of a window as the screen shows it, as soon as it is there, and ends
 /// the program: for documentation, and to see that the program comes up.
@@ -28,4 +28,4 @@ private:
     bool m_isAsked = false;
 };
 
-} // namespace desktop
+} // namespace window

@@ -52,7 +52,7 @@ QProcessEnvironment environmentOf(const Case& each)
 
 QString openWords()
 {
-    return QCoreApplication::translate("desktop::Actions", "&Open…");
+    return QCoreApplication::translate("window::Actions", "&Open…");
 }
 
 TEST(WantedLanguages, FollowTheEnvironment)

@@ -1,6 +1,6 @@
 // What is said in another language where it matters that it is the right thing.
 
-#include "window/actions.h"
+#include "window/actions/actions.h"
 #include "translations/program_language.h"
 #include "workbench/barcodes/barcode_encoder.h"
 #include "workbench/canvas/canvas.h"
@@ -16,7 +16,7 @@
 
 #include <gtest/gtest.h>
 
-using desktop::MenuId;
+using window::MenuId;
 using translations::ProgramLanguage;
 
 namespace {
@@ -65,7 +65,7 @@ TEST_F(Words, MnemonicsWithinAMenuAreDifferent)
 {
     for (const QStringList& languages : {German, French}) {
         const ProgramLanguage language(languages);
-        const desktop::Actions actions;
+        const window::Actions actions;
         QMap<MenuId, QStringList> texts;
         for (const MenuId menu : Menus) {
             for (const QAction* action : actions.ofMenu(menu)) {
@@ -74,13 +74,13 @@ TEST_F(Words, MnemonicsWithinAMenuAreDifferent)
         }
         // What the window adds to them.
         texts[MenuId::File].append(
-            QCoreApplication::translate("desktop::MainWindow", "Open &Recent"));
-        texts[MenuId::View].append(desktop::menuTitle(MenuId::Colors));
+            QCoreApplication::translate("window::MainWindow", "Open &Recent"));
+        texts[MenuId::View].append(window::menuTitle(MenuId::Colors));
         QStringList titles;
         for (const MenuId menu : Menus) {
             expectDifferentMnemonics(texts.value(menu));
             if (menu != MenuId::Colors) {
-                titles.append(desktop::menuTitle(menu));
+                titles.append(window::menuTitle(menu));
             }
         }
         expectDifferentMnemonics(titles);

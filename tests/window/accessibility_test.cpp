@@ -1,8 +1,8 @@
 // Whoever does not see the windows hears what each control is called.
 
-#include "desk_fixture.h"
+#include "window_fixture.h"
 
-#include "window/export_dialog.h"
+#include "window/output/export_dialog.h"
 #include "window/main_window.h"
 #include "window/shortcuts_dialog.h"
 #include "host/services/tal_message_box.h"
@@ -13,7 +13,7 @@
 #include <QPushButton>
 #include <QSet>
 
-using namespace desktop;
+using namespace window;
 
 namespace {
 
@@ -100,7 +100,7 @@ Walk walked(QWidget& window)
     return result;
 }
 
-class AccessibilityTest : public DeskFixture
+class AccessibilityTest : public WindowFixture
 {};
 
 } // namespace

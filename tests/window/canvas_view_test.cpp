@@ -1,9 +1,9 @@
 // The canvas on the screen: zoom, fit, pan, moves by mouse and keyboard.
 
-#include "desk_fixture.h"
+#include "window_fixture.h"
 
-#include "window/canvas_view.h"
-#include "window/page_backdrop.h"
+#include "window/canvas/canvas_view.h"
+#include "window/canvas/page_backdrop.h"
 
 #include <QApplication>
 #include <QGraphicsItem>
@@ -12,7 +12,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
-using namespace desktop;
+using namespace window;
 
 namespace {
 
@@ -235,13 +235,13 @@ TEST_F(CanvasViewTest, ThePageHasItsGroundAndWhatHangsOverIsVeiled)
     const QColor inside = image.pixelColor(pixelOf({18.0, 58.0}));
     const QColor outside = image.pixelColor(pixelOf({-8.0, 58.0}));
     const QColor page = image.pixelColor(pixelOf({240.0, 100.0}));
-    const QColor desk = image.pixelColor(2, 2);
+    const QColor session = image.pixelColor(2, 2);
 
     EXPECT_EQ(page, QColor(Qt::white));
     EXPECT_EQ(inside, QColor(0xff, 0xd5, 0x80));
     EXPECT_NE(outside, inside);
-    EXPECT_NE(outside, desk);
-    EXPECT_EQ(desk.rgb(), deskColor(view.palette()).rgb());
+    EXPECT_NE(outside, session);
+    EXPECT_EQ(session.rgb(), surroundingsColor(view.palette()).rgb());
 }
 
 TEST(CanvasView, WithoutACanvasNothingFails)

@@ -1,6 +1,6 @@
 // The window's icon is the one that desktops show for the program.
 
-#include "window/icons.h"
+#include "window/actions/icons.h"
 
 #include <QFile>
 #include <QImage>
@@ -26,7 +26,7 @@ QImage drawn(const QString& fileName)
 
 TEST(ApplicationIcon, IsTheInstalledDrawing)
 {
-    const QImage icon = desktop::applicationIcon().pixmap(Side).toImage();
+    const QImage icon = window::applicationIcon().pixmap(Side).toImage();
     ASSERT_EQ(icon.size(), QSize(Side, Side));
     EXPECT_EQ(icon.convertToFormat(QImage::Format_ARGB32_Premultiplied),
               drawn(QStringLiteral(LABELPORT_ICON)));
@@ -34,7 +34,7 @@ TEST(ApplicationIcon, IsTheInstalledDrawing)
 
 TEST(ApplicationIcon, ShowsSomething)
 {
-    const QImage icon = desktop::applicationIcon().pixmap(Side).toImage();
+    const QImage icon = window::applicationIcon().pixmap(Side).toImage();
     EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0);
     EXPECT_EQ(icon.pixelColor(Side - 12, Side / 2).rgb(), QColor(0x20, 0x21, 0x24).rgb());
 }

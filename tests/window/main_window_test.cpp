@@ -1,15 +1,15 @@
 // The window as a whole: what its commands do to what is seen.
 
-#include "desk_fixture.h"
+#include "window_fixture.h"
 #include "dialog_driver.h"
 
-#include "window/canvas_view.h"
-#include "window/issues_panel.h"
-#include "window/item_panel.h"
-#include "window/label_files.h"
+#include "window/canvas/canvas_view.h"
+#include "window/label/issues_panel.h"
+#include "window/properties/item_panel.h"
+#include "window/label/label_files.h"
 #include "window/main_window.h"
-#include "window/property_panel.h"
-#include "window/source_panel.h"
+#include "window/properties/property_panel.h"
+#include "window/sources/source_panel.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -26,11 +26,11 @@
 #include <QTest>
 #include <QUrl>
 
-using namespace desktop;
+using namespace window;
 
 namespace {
 
-class MainWindowTest : public DeskFixture
+class MainWindowTest : public WindowFixture
 {
 protected:
     MainWindowTest() { window.show(); }
@@ -44,7 +44,7 @@ protected:
 
     [[nodiscard]] QGraphicsItem* item(int index)
     {
-        return window.desk().label()->canvas->items().at(index)->graphicsItem();
+        return window.session().label()->canvas->items().at(index)->graphicsItem();
     }
 
     [[nodiscard]] QTableView& itemTable() { return window.panels().items().table(); }
@@ -148,7 +148,7 @@ TEST_F(MainWindowTest, TheCanvasFollowsTheList)
 TEST_F(MainWindowTest, ItemsThatTakeNoMouseAreSelectedInTheList)
 {
     openMadeLabel();
-    window.desk().label()->canvas->items().at(1)->setUserBackground(true);
+    window.session().label()->canvas->items().at(1)->setUserBackground(true);
     window.action(ActionId::GoItems).trigger();
     pick(1);
     EXPECT_TRUE(item(1)->isSelected());
@@ -186,7 +186,7 @@ TEST_F(MainWindowTest, AMoveByKeyboardIsListedAndCanBeTakenBack)
     EXPECT_FALSE(window.isWindowModified());
     window.action(ActionId::Redo).trigger();
     EXPECT_NE(property(QStringLiteral("Left")), before);
-    window.desk().undoStack().setClean();
+    window.session().undoStack().setClean();
 }
 
 TEST_F(MainWindowTest, StepsThroughRecords)
@@ -284,7 +284,7 @@ TEST_F(MainWindowTest, TakesADroppedFile)
 {
     drop({QUrl::fromLocalFile(copied(QStringLiteral("opendocument/rating_plate.odg")))});
     EXPECT_TRUE(m_isAccepted);
-    ASSERT_NE(window.desk().label(), nullptr);
+    ASSERT_NE(window.session().label(), nullptr);
     EXPECT_TRUE(window.isWindowModified());
     EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("rating_plate.label")));
 
@@ -298,7 +298,7 @@ TEST_F(MainWindowTest, TakesNoDropThatIsNoFile)
 {
     drop({QUrl(QStringLiteral("https://example.org/a.label"))});
     EXPECT_FALSE(m_isAccepted);
-    EXPECT_EQ(window.desk().label(), nullptr);
+    EXPECT_EQ(window.session().label(), nullptr);
 }
 
 TEST_F(MainWindowTest, ListsRecentFilesAndOpensThem)
@@ -316,7 +316,7 @@ TEST_F(MainWindowTest, ListsRecentFilesAndOpensThem)
     window.action(ActionId::Close).trigger();
     entry->trigger();
     QApplication::processEvents();
-    EXPECT_NE(window.desk().label(), nullptr);
+    EXPECT_NE(window.session().label(), nullptr);
 }
 
 TEST_F(MainWindowTest, DoesNotCloseOverUnsavedChanges)
@@ -376,7 +376,7 @@ TEST_F(MainWindowTest, ManyLabelsInTurnLeaveNothingBehind)
         pick(turn % 3);
         window.action(ActionId::NextRecord).trigger();
         QTest::keyClick(&window.view(), Qt::Key_Right);
-        window.desk().undoStack().setClean();
+        window.session().undoStack().setClean();
         QApplication::processEvents();
     }
     EXPECT_EQ(itemTable().model()->rowCount(), 3);

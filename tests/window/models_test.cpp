@@ -1,15 +1,15 @@
 // The tables: items, properties, issues, data sources, recent files, actions.
 
-#include "desk_fixture.h"
+#include "window_fixture.h"
 
-#include "window/actions.h"
-#include "window/issue_list_model.h"
-#include "window/item_table_model.h"
-#include "window/palettes.h"
-#include "window/property_model.h"
-#include "window/recent_files.h"
-#include "window/source_table_model.h"
-#include "window/style_names.h"
+#include "window/actions/actions.h"
+#include "window/label/issue_list_model.h"
+#include "window/properties/item_table_model.h"
+#include "window/actions/palettes.h"
+#include "window/properties/property_model.h"
+#include "window/label/recent_files.h"
+#include "window/sources/source_table_model.h"
+#include "window/properties/style_names.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -19,7 +19,7 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace desktop;
+using namespace window;
 
 namespace {
 
@@ -249,7 +249,7 @@ TEST(SourceTable, ShowsTheBeginningOfALongList)
     EXPECT_EQ(cell(model, 1, SourceTableModel::Settings), QStringLiteral("yyyy"));
 }
 
-class RecentFilesTest : public DeskFixture
+class RecentFilesTest : public WindowFixture
 {};
 
 TEST_F(RecentFilesTest, PutTheLatestFirstAndHaveEachOnce)
@@ -276,7 +276,7 @@ TEST_F(RecentFilesTest, KeepNoMoreThanTheMenuHasDigits)
     EXPECT_EQ(recent.files().constFirst(), QStringLiteral("/file19"));
 }
 
-class PalettesTest : public DeskFixture
+class PalettesTest : public WindowFixture
 {};
 
 TEST_F(PalettesTest, TheChoiceIsKept)

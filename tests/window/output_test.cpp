@@ -1,14 +1,14 @@
 // Export and print: files, series of records, what the dialogs ask.
 
-#include "desk_fixture.h"
+#include "window_fixture.h"
 #include "dialog_driver.h"
 
-#include "window/export_dialog.h"
-#include "window/label_files.h"
-#include "window/output_commands.h"
-#include "window/output_job.h"
-#include "window/prompts.h"
-#include "window/record_chooser.h"
+#include "window/output/export_dialog.h"
+#include "window/label/label_files.h"
+#include "window/output/output_commands.h"
+#include "window/output/output_job.h"
+#include "window/label/prompts.h"
+#include "window/output/record_chooser.h"
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"
 
@@ -24,11 +24,11 @@
 
 #include <cmath>
 
-using namespace desktop;
+using namespace window;
 
 namespace {
 
-class OutputTest : public DeskFixture
+class OutputTest : public WindowFixture
 {
 protected:
     [[nodiscard]] OutputOrder orderOf(OutputFormat format, const QString& name,
@@ -242,7 +242,7 @@ TEST_F(OutputTest, ARunIsBounded)
     RecordChooser chooser(4'000'000'000, 0);
     chooser.chooseRun(1'000'000, 2'000'000);
     EXPECT_EQ(chooser.range().first, 999'999);
-    EXPECT_EQ(chooser.range().count, kMostRecords);
+    EXPECT_EQ(chooser.range().count, MaximumRecords);
 }
 
 TEST_F(OutputTest, ExportAsksBeforeItReplacesAndTellsWhatItWrote)

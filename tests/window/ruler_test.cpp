@@ -1,8 +1,8 @@
 // The rulers' scale: round steps, labels that do not run into one another, no more ticks
 // than there is room for.
 
-#include "window/length_unit.h"
-#include "window/ruler_scale.h"
+#include "window/properties/length_unit.h"
+#include "window/canvas/ruler_scale.h"
 
 #include <QLocale>
 
@@ -11,7 +11,7 @@
 #include <cmath>
 #include <limits>
 
-using namespace desktop;
+using namespace window;
 
 namespace {
 

@@ -1,26 +1,26 @@
 // Every screen once, for looking at: the pictures are in the folder "screens" of the build.
 
-#include "desk_fixture.h"
+#include "window_fixture.h"
 #include "dialog_driver.h"
 
-#include "window/canvas_view.h"
-#include "window/export_dialog.h"
-#include "window/issues_panel.h"
-#include "window/item_panel.h"
-#include "window/label_files.h"
+#include "window/canvas/canvas_view.h"
+#include "window/output/export_dialog.h"
+#include "window/label/issues_panel.h"
+#include "window/properties/item_panel.h"
+#include "window/label/label_files.h"
 #include "window/main_window.h"
-#include "window/record_chooser.h"
+#include "window/output/record_chooser.h"
 #include "window/shortcuts_dialog.h"
 
 #include <QApplication>
 #include <QSet>
 #include <QTableView>
 
-using namespace desktop;
+using namespace window;
 
 namespace {
 
-class ScreensTest : public DeskFixture
+class ScreensTest : public WindowFixture
 {
 protected:
     ScreensTest() { applyColorScheme(ColorScheme::Light); }
@@ -91,13 +91,13 @@ TEST_F(ScreensTest, WithEachFormat)
         {"orvanta/shapes_sheet.qmtx", "label_orvanta"},
     };
     for (const auto& [sampleName, picture] : samples) {
-        window.desk().close();
+        window.session().close();
         openSample(window, sampleName);
         keepPicture(window, QString::fromLatin1(picture));
         EXPECT_GT(colorsOf(window.view()), 10);
         // Saved, so that the next one comes without a question.
-        ASSERT_EQ(writeLabel(*window.desk().label(), path(QStringLiteral("x.label"))), QString());
-        window.desk().label()->fileName = path(QStringLiteral("x.label"));
+        ASSERT_EQ(writeLabel(*window.session().label(), path(QStringLiteral("x.label"))), QString());
+        window.session().label()->fileName = path(QStringLiteral("x.label"));
     }
 }
 

@@ -1,0 +1,250 @@
+#include "window/actions/actions.h"
+
+#include <QCoreApplication>
+#include <QKeySequence>
+
+namespace window {
+
+namespace {
+
+enum Need : quint8 { Always, Label };
+enum Kind : quint8 { Command, Choice };
+
+struct ActionRow
+{
+    ActionId id;
+    MenuId menu;
+    const char* text;
+    const char* keys; // several are separated by "; "
+    IconName icon;
+    Need need;
+    Kind kind;
+    const char* hint;
+};
+
+// In the order of the menus. Every action has a key of its own.
+constexpr ActionRow kActions[] = {
+    {ActionId::Open, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Open…"), "Ctrl+O",
+     IconName::Open, Always, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Opens a saved label or a legacy one")},
+    {ActionId::Import, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Import…"), "Ctrl+I",
+     IconName::Import, Always, Command,
+     QT_TRANSLATE_NOOP("window::Actions",
+                       "Imports a legacy label and saves it beside the old file")},
+    {ActionId::Save, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Save"), "Ctrl+S",
+     IconName::Save, Label, Command, QT_TRANSLATE_NOOP("window::Actions", "Saves the label")},
+    {ActionId::SaveAs, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "Save &As…"),
+     "Ctrl+Shift+S", IconName::None, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Saves the label under another name")},
+    {ActionId::Export, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Export…"), "Ctrl+E",
+     IconName::Export, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions",
+                       "Writes the label as a picture, a drawing or a document")},
+    {ActionId::Print, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Print…"), "Ctrl+P",
+     IconName::Print, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Prints the label, or a series of its records")},
+    {ActionId::Close, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Close Label"), "Ctrl+W",
+     IconName::None, Label, Command, QT_TRANSLATE_NOOP("window::Actions", "Closes the label")},
+    {ActionId::Quit, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Quit"), "Ctrl+Q",
+     IconName::None, Always, Command, QT_TRANSLATE_NOOP("window::Actions", "Ends the program")},
+    {ActionId::Undo, MenuId::Edit, QT_TRANSLATE_NOOP("window::Actions", "&Undo"), "Ctrl+Z",
+     IconName::Undo, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Takes the last change back")},
+    {ActionId::Redo, MenuId::Edit, QT_TRANSLATE_NOOP("window::Actions", "&Redo"),
+     "Ctrl+Shift+Z; Ctrl+Y", IconName::Redo, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Makes the change again")},
+    {ActionId::SelectAll, MenuId::Edit, QT_TRANSLATE_NOOP("window::Actions", "Select &All"),
+     "Ctrl+A", IconName::None, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Selects all items")},
+    {ActionId::SelectNone, MenuId::Edit, QT_TRANSLATE_NOOP("window::Actions", "Select &Nothing"),
+     "Ctrl+Shift+A", IconName::None, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Selects no item")},
+    {ActionId::ZoomIn, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "Zoom &In"),
+     "Ctrl++; Ctrl+=", IconName::ZoomIn, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the label larger")},
+    {ActionId::ZoomOut, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "Zoom &Out"), "Ctrl+-",
+     IconName::ZoomOut, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the label smaller")},
+    {ActionId::ZoomFit, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&Whole Label"),
+     "Ctrl+0", IconName::Fit, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions",
+                       "Shows the whole label, and keeps it whole when the window changes")},
+    {ActionId::ZoomTrue, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&True Size"),
+     "Ctrl+1", IconName::None, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the label in the size in which it is printed")},
+    {ActionId::ZoomSelection, MenuId::View,
+     QT_TRANSLATE_NOOP("window::Actions", "Zoom to &Selection"), "Ctrl+2", IconName::None, Label,
+     Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the selected items as large as they fit")},
+    {ActionId::Rulers, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&Rulers"), "Ctrl+R",
+     IconName::None, Always, Choice,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows or hides the rulers")},
+    {ActionId::Millimetres, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&Millimeters"),
+     "Ctrl+M", IconName::None, Always, Choice,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows lengths in millimeters")},
+    {ActionId::Inches, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "In&ches"),
+     "Ctrl+Shift+M", IconName::None, Always, Choice,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows lengths in inches")},
+    {ActionId::SystemColors, MenuId::Colors,
+     QT_TRANSLATE_NOOP("window::Actions", "Like the &System"), "Ctrl+Alt+S", IconName::None,
+     Always, Choice, QT_TRANSLATE_NOOP("window::Actions", "Takes the colors of the desktop")},
+    {ActionId::LightColors, MenuId::Colors, QT_TRANSLATE_NOOP("window::Actions", "&Light"),
+     "Ctrl+Alt+L", IconName::None, Always, Choice,
+     QT_TRANSLATE_NOOP("window::Actions", "Dark text on light windows")},
+    {ActionId::DarkColors, MenuId::Colors, QT_TRANSLATE_NOOP("window::Actions", "&Dark"),
+     "Ctrl+Alt+D", IconName::None, Always, Choice,
+     QT_TRANSLATE_NOOP("window::Actions", "Light text on dark windows")},
+    {ActionId::GoCanvas, MenuId::Panels, QT_TRANSLATE_NOOP("window::Actions", "&Canvas"), "F5",
+     IconName::None, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Puts the keyboard on the canvas")},
+    {ActionId::GoItems, MenuId::Panels, QT_TRANSLATE_NOOP("window::Actions", "&Items"), "F6",
+     IconName::None, Always, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the list of items and puts the keyboard on it")},
+    {ActionId::GoProperties, MenuId::Panels, QT_TRANSLATE_NOOP("window::Actions", "&Properties"),
+     "F7", IconName::None, Always, Command,
+     QT_TRANSLATE_NOOP("window::Actions",
+                       "Shows the properties of an item and puts the keyboard on them")},
+    {ActionId::GoSources, MenuId::Panels, QT_TRANSLATE_NOOP("window::Actions", "&Data Sources"),
+     "F8", IconName::None, Always, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the data sources and puts the keyboard on them")},
+    {ActionId::GoIssues, MenuId::Panels, QT_TRANSLATE_NOOP("window::Actions", "I&ssues"), "F9",
+     IconName::None, Always, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the issues and puts the keyboard on them")},
+    {ActionId::FirstRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&First"),
+     "Alt+Home", IconName::First, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the first record")},
+    {ActionId::PreviousRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Previous"),
+     "Alt+Left", IconName::Previous, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the record before")},
+    {ActionId::NextRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Next"),
+     "Alt+Right", IconName::Next, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the record after")},
+    {ActionId::LastRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Last"),
+     "Alt+End", IconName::Last, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows the last record")},
+    {ActionId::GoRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Go to…"), "Ctrl+G",
+     IconName::None, Label, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Puts the keyboard on the record's number")},
+    {ActionId::Shortcuts, MenuId::Help,
+     QT_TRANSLATE_NOOP("window::Actions", "&Keyboard Shortcuts"), "F1", IconName::None, Always,
+     Command, QT_TRANSLATE_NOOP("window::Actions", "Shows all keys")},
+    {ActionId::About, MenuId::Help, QT_TRANSLATE_NOOP("window::Actions", "&About"), "Ctrl+F1",
+     IconName::None, Always, Command,
+     QT_TRANSLATE_NOOP("window::Actions", "Shows what program this is")},
+};
+
+struct MenuRow
+{
+    MenuId id;
+    const char* title;
+};
+
+constexpr MenuRow kMenus[] = {
+    {MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&File")},
+    {MenuId::Edit, QT_TRANSLATE_NOOP("window::Actions", "&Edit")},
+    {MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&View")},
+    {MenuId::Colors, QT_TRANSLATE_NOOP("window::Actions", "&Colors")},
+    {MenuId::Panels, QT_TRANSLATE_NOOP("window::Actions", "&Panels")},
+    {MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Record")},
+    {MenuId::Help, QT_TRANSLATE_NOOP("window::Actions", "&Help")},
+};
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("window::Actions", text);
+}
+
+QString withoutMnemonic(QString text)
+{
+    return text.remove(QLatin1Char('&')).remove(QChar(0x2026));
+}
+
+QAction* makeAction(const ActionRow& row, QObject* parent)
+{
+    auto* action = new QAction(translated(row.text), parent);
+    action->setShortcuts(
+        QKeySequence::listFromString(QString::fromLatin1(row.keys), QKeySequence::PortableText));
+    const QString hint = translated(row.hint);
+    action->setStatusTip(hint);
+    action->setToolTip(hint + QStringLiteral(" (") +
+                       action->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'));
+    action->setCheckable(row.kind == Choice);
+    return action;
+}
+
+QString keysOf(const QAction& action)
+{
+    return QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText)
+        .replace(QStringLiteral("; "), QStringLiteral(", "));
+}
+
+} // namespace
+
+Actions::Actions(QObject* parent)
+    : QObject(parent)
+{
+    for (const ActionRow& row : kActions) {
+        m_actions[row.id] = makeAction(row, this);
+    }
+    group({ActionId::Millimetres, ActionId::Inches});
+    group({ActionId::SystemColors, ActionId::LightColors, ActionId::DarkColors});
+    at(ActionId::Quit).setMenuRole(QAction::QuitRole);
+    at(ActionId::About).setMenuRole(QAction::AboutRole);
+}
+
+void Actions::group(std::initializer_list<ActionId> ids)
+{
+    auto* choices = new QActionGroup(this);
+    for (const ActionId id : ids) {
+        choices->addAction(&at(id));
+    }
+}
+
+QList<QAction*> Actions::ofMenu(MenuId menu) const
+{
+    QList<QAction*> actions;
+    for (const ActionRow& row : kActions) {
+        if (row.menu == menu) {
+            actions.append(&at(row.id));
+        }
+    }
+    return actions;
+}
+
+void Actions::drawIcons(const QPalette& palette)
+{
+    for (const ActionRow& row : kActions) {
+        if (row.icon != IconName::None) {
+            at(row.id).setIcon(icon(row.icon, palette));
+        }
+    }
+}
+
+void Actions::setLabelOpen(bool open)
+{
+    for (const ActionRow& row : kActions) {
+        at(row.id).setEnabled(row.need == Always || open);
+    }
+}
+
+QList<ShortcutRow> Actions::shortcuts() const
+{
+    QList<ShortcutRow> rows;
+    for (const ActionRow& row : kActions) {
+        rows.append({withoutMnemonic(menuTitle(row.menu)), withoutMnemonic(translated(row.text)),
+                     keysOf(at(row.id))});
+    }
+    return rows;
+}
+
+QString menuTitle(MenuId menu)
+{
+    for (const MenuRow& row : kMenus) {
+        if (row.id == menu) {
+            return translated(row.title);
+        }
+    }
+    return {};
+}
+
+} // namespace window

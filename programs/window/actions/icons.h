@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QIcon>
+#include <QtGlobal>
+
+class QPalette;
+
+namespace window {
+
+/// The program's own icons.
+enum class IconName : quint8 {
+    None,
+    Open,
+    Import,
+    Save,
+    Export,
+    Print,
+    Undo,
+    Redo,
+    ZoomIn,
+    ZoomOut,
+    Fit,
+    First,
+    Previous,
+    Next,
+    Last,
+};
+
+/// The icon, drawn in the text colour of the palette; a null icon for None.
+[[nodiscard]] QIcon icon(IconName name, const QPalette& palette);
+
+/// The program's sign: a label with bars.
+[[nodiscard]] QIcon applicationIcon();
+
+} // namespace window

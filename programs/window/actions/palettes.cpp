@@ -1,0 +1,104 @@
+#include "window/actions/palettes.h"
+
+#include <QApplication>
+#include <QSettings>
+
+namespace window {
+
+namespace {
+
+struct PaletteColors
+{
+    QRgb window;
+    QRgb text;
+    QRgb base;
+    QRgb alternate;
+    QRgb button;
+    QRgb tip;
+    QRgb highlight;
+    QRgb highlightedText;
+    QRgb link;
+    QRgb faint; // of what is disabled, and of hints
+};
+
+// Texts have a contrast of more than seven to one, faint ones of more than four and a half
+// to one in what is not disabled.
+constexpr PaletteColors kLight{0xfff3f3f4, 0xff1b1c1e, 0xffffffff, 0xfff6f7f9, 0xffececee,
+                               0xfffffbe6, 0xff1a63c6, 0xffffffff, 0xff0b57d0, 0xff6b6f76};
+constexpr PaletteColors kDark{0xff2a2c30, 0xffe8eaed, 0xff1e2023, 0xff24262a, 0xff36393f,
+                              0xff3a3d43, 0xff3f7fdc, 0xffffffff, 0xff8ab4f8, 0xffa0a4ab};
+
+QPalette made(const PaletteColors& colors)
+{
+    QPalette palette(QColor::fromRgb(colors.button), QColor::fromRgb(colors.window));
+    palette.setColor(QPalette::WindowText, colors.text);
+    palette.setColor(QPalette::Text, colors.text);
+    palette.setColor(QPalette::ButtonText, colors.text);
+    palette.setColor(QPalette::Base, colors.base);
+    palette.setColor(QPalette::AlternateBase, colors.alternate);
+    palette.setColor(QPalette::ToolTipBase, colors.tip);
+    palette.setColor(QPalette::ToolTipText, colors.text);
+    palette.setColor(QPalette::Highlight, colors.highlight);
+    palette.setColor(QPalette::HighlightedText, colors.highlightedText);
+    palette.setColor(QPalette::Link, colors.link);
+    palette.setColor(QPalette::PlaceholderText, colors.faint);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, colors.faint);
+    }
+    return palette;
+}
+
+QString settingsKey()
+{
+    return QStringLiteral("window/colors");
+}
+
+constexpr const char* kSchemeNames[] = {"system", "light", "dark"};
+
+} // namespace
+
+QPalette lightPalette()
+{
+    return made(kLight);
+}
+
+QPalette darkPalette()
+{
+    return made(kDark);
+}
+
+void applyColorScheme(ColorScheme scheme)
+{
+    switch (scheme) {
+    case ColorScheme::Light:
+        QApplication::setPalette(lightPalette());
+        break;
+    case ColorScheme::Dark:
+        QApplication::setPalette(darkPalette());
+        break;
+    case ColorScheme::System:
+        // A palette that says nothing lets the desktop's through again.
+        QApplication::setPalette(QPalette());
+        break;
+    }
+}
+
+ColorScheme storedColorScheme()
+{
+    const QString stored = QSettings().value(settingsKey()).toString();
+    for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
+        if (stored == QLatin1String(kSchemeNames[static_cast<int>(scheme)])) {
+            return scheme;
+        }
+    }
+    return ColorScheme::System;
+}
+
+void storeColorScheme(ColorScheme scheme)
+{
+    QSettings().setValue(settingsKey(),
+                         QString::fromLatin1(kSchemeNames[static_cast<int>(scheme)]));
+}
+
+} // namespace window

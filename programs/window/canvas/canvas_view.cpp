@@ -1,0 +1,334 @@
+#include "window/canvas/canvas_view.h"
+
+#include "window/canvas/item_nudge.h"
+#include "window/canvas/page_backdrop.h"
+#include "workbench/canvas/canvas.h"
+
+#include <QFocusEvent>
+#include <QGraphicsItem>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace window {
+
+namespace {
+
+constexpr double kPointsPerInch = 72.0;
+constexpr double kZoomStep = 1.25;
+constexpr double kWheelNotch = 120.0;
+// Part of the view that stays free around a fitted page.
+constexpr double kFitMargin = 0.06;
+
+} // namespace
+
+CanvasView::CanvasView(QWidget* parent)
+    : QGraphicsView(parent)
+{
+    setAccessibleName(tr("Canvas"));
+    setAccessibleDescription(tr("The label. The arrow keys move the selected items."));
+    setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
+                   QPainter::TextAntialiasing);
+    setDragMode(QGraphicsView::RubberBandDrag);
+    setTransformationAnchor(QGraphicsView::NoAnchor);
+    // There is always room to scroll into; bars that come and go would only unsettle.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    setFrameShape(QFrame::NoFrame);
+    setMouseTracking(true);
+    // Files are dropped on the window.
+    setAcceptDrops(false);
+    viewport()->setAcceptDrops(false);
+}
+
+void CanvasView::setCanvas(workbench::Canvas* canvas)
+{
+    m_canvas = canvas;
+    m_positions.clear();
+    setScene(canvas != nullptr ? canvas->scene() : nullptr);
+    if (canvas != nullptr) {
+        connect(canvas, &workbench::Canvas::pageChanged, this, &CanvasView::showRoomAroundPage);
+        fitPage();
+    }
+}
+
+double CanvasView::truePixelsPerPoint() const
+{
+    return logicalDpiX() / kPointsPerInch;
+}
+
+void CanvasView::setZoom(double zoom)
+{
+    setZoomAt(zoom, viewport()->rect().center());
+}
+
+void CanvasView::setZoomAt(double zoom, const QPoint& fixed)
+{
+    m_keepFitted = false;
+    const QPointF canvasPoint = viewportTransform().inverted().map(QPointF(fixed));
+    applyZoom(zoom);
+    const QPoint moved = viewportTransform().map(canvasPoint).toPoint() - fixed;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + moved.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + moved.y());
+}
+
+void CanvasView::applyZoom(double zoom)
+{
+    m_zoom = std::clamp(zoom, SmallestZoom, LargestZoom);
+    const double scale = m_zoom * truePixelsPerPoint();
+    setTransform(QTransform::fromScale(scale, scale));
+    showRoomAroundPage();
+    Q_EMIT zoomChanged(m_zoom);
+    Q_EMIT partChanged();
+}
+
+void CanvasView::zoomIn()
+{
+    setZoom(m_zoom * kZoomStep);
+}
+
+void CanvasView::zoomOut()
+{
+    setZoom(m_zoom / kZoomStep);
+}
+
+void CanvasView::fitPage()
+{
+    if (m_canvas == nullptr) {
+        return;
+    }
+    const QSizeF page = m_canvas->pageRect().size() * truePixelsPerPoint();
+    const QSizeF room = QSizeF(viewport()->size()) * (1.0 - 2.0 * kFitMargin);
+    applyZoom(std::min(room.width() / page.width(), room.height() / page.height()));
+    centerOn(m_canvas->pageRect().center());
+    m_keepFitted = true;
+}
+
+void CanvasView::fitItems(const QList<QGraphicsItem*>& items)
+{
+    QRectF bounds;
+    for (const QGraphicsItem* item : items) {
+        bounds |= item->sceneBoundingRect();
+    }
+    if (bounds.isEmpty()) {
+        return;
+    }
+    const QSizeF wanted = bounds.size() * truePixelsPerPoint();
+    const QSizeF room = QSizeF(viewport()->size()) * (1.0 - 2.0 * kFitMargin);
+    setZoom(std::min(room.width() / wanted.width(), room.height() / wanted.height()));
+    centerOn(bounds.center());
+}
+
+QPointF CanvasView::pageOrigin() const
+{
+    return viewportTransform().map(QPointF(0.0, 0.0));
+}
+
+void CanvasView::showRoomAroundPage()
+{
+    if (m_canvas == nullptr) {
+        return;
+    }
+    // A margin of a part of the view, so that every corner can be brought to the middle.
+    const QRectF page = m_canvas->pageRect();
+    const double horizontal = viewport()->width() * 0.5 / pixelsPerPoint();
+    const double vertical = viewport()->height() * 0.5 / pixelsPerPoint();
+    setSceneRect(page.adjusted(-horizontal, -vertical, horizontal, vertical));
+}
+
+void CanvasView::drawBackground(QPainter* painter, const QRectF& rect)
+{
+    painter->fillRect(rect, surroundingsColor(palette()));
+    if (m_canvas != nullptr) {
+        paintPageGround(*painter, m_canvas->pageRect(), m_canvas->canvasBackgroundColor(),
+                        pixelsPerPoint());
+    }
+}
+
+void CanvasView::drawForeground(QPainter* painter, const QRectF& rect)
+{
+    if (m_canvas != nullptr) {
+        paintPageSurroundings(*painter, m_canvas->pageRect(), rect, surroundingsColor(palette()));
+    }
+}
+
+void CanvasView::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QGraphicsView::wheelEvent(event);
+        return;
+    }
+    setZoomAt(m_zoom * std::pow(kZoomStep, event->angleDelta().y() / kWheelNotch),
+              event->position().toPoint());
+    event->accept();
+}
+
+void CanvasView::mousePressEvent(QMouseEvent* event)
+{
+    const bool isHand = m_handReady && event->button() == Qt::LeftButton;
+    if (isHand || event->button() == Qt::MiddleButton) {
+        beginPan(event->position().toPoint());
+        return;
+    }
+    QGraphicsView::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        rememberPositions();
+    }
+}
+
+void CanvasView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_panFrom) {
+        panTo(event->position().toPoint());
+        return;
+    }
+    QGraphicsView::mouseMoveEvent(event);
+    const QPoint at = event->position().toPoint();
+    Q_EMIT pointerMoved(mapToScene(at), at);
+}
+
+void CanvasView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_panFrom) {
+        endPan();
+        return;
+    }
+    QGraphicsView::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        reportMoves();
+    }
+}
+
+void CanvasView::beginPan(const QPoint& at)
+{
+    m_panFrom = at;
+    viewport()->setCursor(Qt::ClosedHandCursor);
+}
+
+void CanvasView::panTo(const QPoint& at)
+{
+    const QPoint way = at - *m_panFrom;
+    m_panFrom = at;
+    m_keepFitted = false;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - way.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - way.y());
+}
+
+void CanvasView::endPan()
+{
+    m_panFrom.reset();
+    setHandReady(m_handReady);
+}
+
+void CanvasView::setHandReady(bool ready)
+{
+    m_handReady = ready;
+    if (ready) {
+        viewport()->setCursor(Qt::OpenHandCursor);
+    } else {
+        viewport()->unsetCursor();
+    }
+}
+
+void CanvasView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Space) {
+        setHandReady(true);
+        event->accept();
+    } else if (event->key() == Qt::Key_Escape && scene() != nullptr) {
+        scene()->clearSelection();
+        event->accept();
+    } else if (nudge(*event)) {
+        event->accept();
+    } else {
+        QGraphicsView::keyPressEvent(event);
+    }
+}
+
+void CanvasView::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
+        setHandReady(false);
+        event->accept();
+    } else {
+        QGraphicsView::keyReleaseEvent(event);
+    }
+}
+
+void CanvasView::focusOutEvent(QFocusEvent* event)
+{
+    // The space bar may come up again in another window.
+    setHandReady(false);
+    QGraphicsView::focusOutEvent(event);
+}
+
+void CanvasView::resizeEvent(QResizeEvent* event)
+{
+    QGraphicsView::resizeEvent(event);
+    if (m_keepFitted) {
+        fitPage();
+    } else {
+        showRoomAroundPage();
+    }
+    Q_EMIT partChanged();
+}
+
+void CanvasView::scrollContentsBy(int dx, int dy)
+{
+    QGraphicsView::scrollContentsBy(dx, dy);
+    Q_EMIT partChanged();
+}
+
+bool CanvasView::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::Leave) {
+        Q_EMIT pointerLeft();
+    }
+    return QGraphicsView::viewportEvent(event);
+}
+
+bool CanvasView::nudge(const QKeyEvent& event)
+{
+    if (scene() == nullptr) {
+        return false;
+    }
+    const QList<ItemMove> moves =
+        nudgedItems(scene()->selectedItems(), event.key(), event.modifiers());
+    if (!moves.isEmpty()) {
+        Q_EMIT itemsMoved(moves);
+    }
+    return !moves.isEmpty();
+}
+
+void CanvasView::rememberPositions()
+{
+    m_positions.clear();
+    if (scene() == nullptr) {
+        return;
+    }
+    const QList<QGraphicsItem*> selected = scene()->selectedItems();
+    for (QGraphicsItem* item : selected) {
+        m_positions.insert(item, item->pos());
+    }
+}
+
+void CanvasView::reportMoves()
+{
+    QList<ItemMove> moves;
+    for (auto item = m_positions.cbegin(); item != m_positions.cend(); ++item) {
+        if (item.key()->pos() != item.value()) {
+            moves.append({item.key(), item.value(), item.key()->pos()});
+        }
+    }
+    m_positions.clear();
+    if (!moves.isEmpty()) {
+        Q_EMIT itemsMoved(moves);
+    }
+}
+
+} // namespace window

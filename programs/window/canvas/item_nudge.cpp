@@ -1,0 +1,62 @@
+#include "window/canvas/item_nudge.h"
+
+#include <QGraphicsItem>
+
+namespace window {
+
+namespace {
+
+constexpr double kPointsPerMillimetre = 72.0 / 25.4;
+constexpr double kNudge = 0.5 * kPointsPerMillimetre;
+constexpr double kCoarseNudge = 5.0 * kPointsPerMillimetre;
+constexpr double kFineNudge = 0.1 * kPointsPerMillimetre;
+
+QPointF directionOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1.0, 0.0};
+    case Qt::Key_Right:
+        return {1.0, 0.0};
+    case Qt::Key_Up:
+        return {0.0, -1.0};
+    case Qt::Key_Down:
+        return {0.0, 1.0};
+    default:
+        return {};
+    }
+}
+
+double lengthOf(Qt::KeyboardModifiers modifiers)
+{
+    if (modifiers.testFlag(Qt::ControlModifier)) {
+        return kFineNudge;
+    }
+    return modifiers.testFlag(Qt::ShiftModifier) ? kCoarseNudge : kNudge;
+}
+
+bool mayMove(const QGraphicsItem& item)
+{
+    return item.flags().testFlag(QGraphicsItem::ItemIsMovable) &&
+           item.acceptedMouseButtons() != Qt::NoButton;
+}
+
+} // namespace
+
+QList<ItemMove> nudgedItems(const QList<QGraphicsItem*>& items, int key,
+                            Qt::KeyboardModifiers modifiers)
+{
+    const QPointF way = directionOf(key) * lengthOf(modifiers);
+    QList<ItemMove> moves;
+    if (way.isNull()) {
+        return moves;
+    }
+    for (QGraphicsItem* item : items) {
+        if (mayMove(*item)) {
+            moves.append({item, item->pos(), item->pos() + way});
+        }
+    }
+    return moves;
+}
+
+} // namespace window

@@ -1,0 +1,57 @@
+#include "window/canvas/page_backdrop.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace window {
+
+namespace {
+
+constexpr int kShadowPixels = 8;
+constexpr int kShadowDarkness = 14; // of each of the layers that make the shadow
+constexpr double kVeil = 0.72;
+
+} // namespace
+
+QColor surroundingsColor(const QPalette& palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    return window.lightness() > 127 ? window.darker(115) : window.darker(140);
+}
+
+void paintPageGround(QPainter& painter, const QRectF& page, const QColor& ground,
+                     double pixelsPerPoint)
+{
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, kShadowDarkness));
+    for (int layer = kShadowPixels; layer > 0; --layer) {
+        const double spread = layer / pixelsPerPoint;
+        painter.drawRoundedRect(page.adjusted(-spread, -spread * 0.5, spread, spread * 1.5), spread,
+                                spread);
+    }
+    painter.restore();
+    // A ground that lets through shows the colour of paper.
+    painter.fillRect(page, Qt::white);
+    painter.fillRect(page, ground);
+}
+
+void paintPageSurroundings(QPainter& painter, const QRectF& page, const QRectF& visible,
+                           const QColor& session)
+{
+    painter.save();
+    QPainterPath outside;
+    outside.addRect(visible);
+    outside.addRect(page);
+    QColor veil = session;
+    veil.setAlphaF(static_cast<float>(kVeil));
+    painter.fillPath(outside, veil);
+    QPen outline(QColor(0, 0, 0, 90));
+    outline.setCosmetic(true);
+    painter.setPen(outline);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(page);
+    painter.restore();
+}
+
+} // namespace window

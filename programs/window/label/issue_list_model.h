@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QList>
+#include <QString>
+
+namespace window {
+
+/// One thing that a person should know about the open label.
+struct Issue
+{
+    QString text;
+    int item = -1;   ///< row of the item that it is about, -1 for none
+    QString about;   ///< that item in words, empty for none
+    int repeats = 1; ///< how often it was met
+    bool operator==(const Issue&) const = default;
+};
+
+/// The issues of a label as a table.
+class IssueListModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { About, Message, ColumnCount };
+
+    explicit IssueListModel(QObject* parent = nullptr);
+
+    void setIssues(const QList<Issue>& issues);
+    /// The item that an issue is about; -1 for none.
+    [[nodiscard]] int itemOf(int row) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role) const override;
+
+private:
+    QList<Issue> m_issues;
+};
+
+} // namespace window

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "window/label/issue_list_model.h"
+
+#include <QWidget>
+
+class QLabel;
+class QStackedLayout;
+class QTableView;
+
+namespace window {
+
+/// What a person should know about the open label. It stays until the label goes.
+class IssuesPanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit IssuesPanel(QWidget* parent = nullptr);
+
+    void setIssues(const QList<Issue>& issues);
+    [[nodiscard]] int count() const { return m_model->rowCount(); }
+    [[nodiscard]] QTableView& table() { return *m_table; }
+
+Q_SIGNALS:
+    /// The user picked an issue that is about this item.
+    void itemWanted(int row);
+
+private:
+    void wantItemOf(const QModelIndex& index);
+
+    IssueListModel* m_model;
+    QTableView* m_table;
+    QLabel* m_none;
+    QStackedLayout* m_stack;
+};
+
+} // namespace window

@@ -1,0 +1,202 @@
+#include "window/label/label_session.h"
+
+#include "window/label/dialog_import.h"
+#include "window/label/label_files.h"
+
+#include <QCursor>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace window {
+
+namespace {
+
+// Shows that work is done, for as long as it lives.
+class WaitCursor
+{
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+ReadLabel readAnyLabel(const QString& fileName)
+{
+    const WaitCursor wait;
+    return isSavedLabel(fileName) ? readSavedLabel(fileName) : readLegacyLabel(fileName);
+}
+
+} // namespace
+
+LabelSession::LabelSession(QWidget* window)
+    : m_prompts(window)
+{
+    connect(&m_undoStack, &QUndoStack::cleanChanged, this, &LabelSession::nameChanged);
+}
+
+LabelSession::~LabelSession()
+{
+    // Its commands know items of the label; nobody is told any more.
+    blockSignals(true);
+    m_undoStack.blockSignals(true);
+    m_undoStack.clear();
+}
+
+bool LabelSession::hasUnsavedChanges() const
+{
+    return m_label && (m_label->fileName.isEmpty() || !m_undoStack.isClean());
+}
+
+void LabelSession::openByDialog()
+{
+    const QString fileName = m_prompts.askOpenFile();
+    if (!fileName.isEmpty()) {
+        openFile(fileName);
+    }
+}
+
+bool LabelSession::openFile(const QString& fileName)
+{
+    if (!confirmDiscard()) {
+        return false;
+    }
+    ReadLabel read = readAnyLabel(fileName);
+    if (!read.label) {
+        showFileError(fileName, read.error);
+        return false;
+    }
+    setLabel(std::move(*read.label));
+    m_recentFiles.add(fileName);
+    Q_EMIT recentFilesChanged();
+    return true;
+}
+
+void LabelSession::importByDialog()
+{
+    DialogImport command([this](bool allowDiscard) { return confirmDiscard(allowDiscard); });
+    ImportOutcome outcome = command.run(m_label ? m_label->fileName : QString());
+    if (outcome.label) {
+        setLabel(std::move(*outcome.label));
+        saveImported();
+    } else if (outcome.wasChosen) {
+        m_prompts.showError(tr("The label could not be imported."), outcome.error);
+    }
+}
+
+void LabelSession::saveImported()
+{
+    const QString fileName = m_label->suggestedName;
+    if (!QFileInfo::exists(fileName)) {
+        saveTo(fileName);
+        return;
+    }
+    switch (m_prompts.askExisting(fileName)) {
+    case Prompts::Existing::Replace:
+        saveTo(fileName);
+        break;
+    case Prompts::Existing::Rename:
+        saveAs();
+        break;
+    case Prompts::Existing::Later:
+        break;
+    }
+}
+
+bool LabelSession::save()
+{
+    if (!m_label) {
+        return false;
+    }
+    return m_label->fileName.isEmpty() ? saveAs() : saveTo(m_label->fileName);
+}
+
+bool LabelSession::saveAs()
+{
+    if (!m_label) {
+        return false;
+    }
+    const bool isNew = m_label->fileName.isEmpty();
+    const QString fileName =
+        m_prompts.askSaveFile(isNew ? m_label->suggestedName : m_label->fileName);
+    return !fileName.isEmpty() && saveTo(fileName);
+}
+
+bool LabelSession::saveTo(const QString& fileName)
+{
+    const QString error = writeLabel(*m_label, fileName);
+    if (!error.isEmpty()) {
+        m_prompts.showError(tr("“%1” could not be saved.").arg(QFileInfo(fileName).fileName()),
+                            tr("%1\n\nThe label is still open. Save it in another folder with "
+                               "“Save As”.")
+                                .arg(error));
+        return false;
+    }
+    m_label->fileName = fileName;
+    m_undoStack.setClean();
+    m_recentFiles.add(fileName);
+    Q_EMIT nameChanged();
+    Q_EMIT recentFilesChanged();
+    Q_EMIT noticeShown(tr("Saved as %1").arg(fileName));
+    return true;
+}
+
+bool LabelSession::close()
+{
+    if (!confirmDiscard()) {
+        return false;
+    }
+    clear();
+    Q_EMIT labelReplaced();
+    return true;
+}
+
+bool LabelSession::confirmDiscard(bool allowDiscard)
+{
+    if (!hasUnsavedChanges()) {
+        return true;
+    }
+    switch (m_prompts.askUnsavedChanges(displayName(*m_label), allowDiscard)) {
+    case Prompts::Changes::Save:
+        return save();
+    case Prompts::Changes::Discard:
+        return true;
+    case Prompts::Changes::Cancel:
+        break;
+    }
+    return false;
+}
+
+void LabelSession::moveItems(const QList<ItemMove>& moves)
+{
+    if (!moves.isEmpty()) {
+        m_undoStack.push(new MoveItems(moves));
+    }
+}
+
+void LabelSession::setLabel(OpenLabel label)
+{
+    clear();
+    m_label = std::move(label);
+    Q_EMIT labelReplaced();
+}
+
+void LabelSession::clear()
+{
+    Q_EMIT aboutToReplaceLabel();
+    m_undoStack.clear();
+    m_label.reset();
+}
+
+void LabelSession::showFileError(const QString& fileName, const QString& why)
+{
+    if (!QFileInfo::exists(fileName)) {
+        m_recentFiles.remove(fileName);
+        Q_EMIT recentFilesChanged();
+    }
+    m_prompts.showError(tr("“%1” could not be opened.").arg(QFileInfo(fileName).fileName()), why);
+}
+
+} // namespace window

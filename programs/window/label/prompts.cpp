@@ -1,0 +1,137 @@
+#include "window/label/prompts.h"
+
+#include "window/label/open_label.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace window {
+
+namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(window::Prompts)
+};
+
+QString folderKey()
+{
+    return QStringLiteral("window/openFolder");
+}
+
+QString startFolder()
+{
+    const QString last = QSettings().value(folderKey()).toString();
+    return !last.isEmpty() && QDir(last).exists()
+               ? last
+               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QString openFilters()
+{
+    return QStringList{
+        Words::tr("All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)"),
+        Words::tr("Saved labels (*.label)"),
+        Words::tr("Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)"),
+        Words::tr("All files (*)"),
+    }
+        .join(QStringLiteral(";;"));
+}
+
+// File names and reasons quote what stands in files: nothing of it is markup.
+void setPlainText(QMessageBox& box, const QString& text, const QString& information)
+{
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setInformativeText(information);
+}
+
+} // namespace
+
+Prompts::Prompts(QWidget* window)
+    : m_window(window)
+{}
+
+Prompts::Changes Prompts::askUnsavedChanges(const QString& labelName, bool allowDiscard) const
+{
+    QMessageBox box(m_window);
+    box.setIcon(QMessageBox::Question);
+    box.setWindowTitle(Words::tr("Unsaved Changes"));
+    setPlainText(box, Words::tr("Save the changes to “%1”?").arg(labelName),
+                 Words::tr("Changes that are not saved will be lost."));
+    box.setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
+    if (allowDiscard) {
+        box.addButton(QMessageBox::Discard);
+    }
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return Changes::Save;
+    case QMessageBox::Discard:
+        return Changes::Discard;
+    default:
+        return Changes::Cancel;
+    }
+}
+
+Prompts::Existing Prompts::askExisting(const QString& fileName) const
+{
+    QMessageBox box(m_window);
+    box.setIcon(QMessageBox::Question);
+    box.setWindowTitle(Words::tr("Save Imported Label"));
+    setPlainText(
+        box, Words::tr("“%1” exists already.").arg(QFileInfo(fileName).fileName()),
+        Words::tr("The label was imported. It can replace that file, be saved under another "
+                  "name, or be saved later."));
+    QPushButton* replace = box.addButton(Words::tr("&Replace"), QMessageBox::DestructiveRole);
+    QPushButton* rename = box.addButton(Words::tr("&Other Name…"), QMessageBox::AcceptRole);
+    QPushButton* later = box.addButton(Words::tr("Save &Later"), QMessageBox::RejectRole);
+    box.setDefaultButton(rename);
+    box.setEscapeButton(later);
+    box.exec();
+    if (box.clickedButton() == replace) {
+        return Existing::Replace;
+    }
+    return box.clickedButton() == rename ? Existing::Rename : Existing::Later;
+}
+
+QString Prompts::askOpenFile() const
+{
+    const QString fileName = QFileDialog::getOpenFileName(m_window, Words::tr("Open Label"),
+                                                          startFolder(), openFilters());
+    if (!fileName.isEmpty()) {
+        QSettings().setValue(folderKey(), QFileInfo(fileName).absolutePath());
+    }
+    return fileName;
+}
+
+QString Prompts::askSaveFile(const QString& suggestedName) const
+{
+    QFileDialog dialog(m_window, Words::tr("Save Label"), QFileInfo(suggestedName).absolutePath(),
+                       Words::tr("Saved labels (*.label)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(labelSuffix().mid(1));
+    dialog.selectFile(QFileInfo(suggestedName).fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return dialog.selectedFiles().constFirst();
+}
+
+void Prompts::showError(const QString& what, const QString& why) const
+{
+    QMessageBox box(m_window);
+    box.setIcon(QMessageBox::Warning);
+    box.setWindowTitle(Words::tr("LabelPort Workbench"));
+    setPlainText(box, what, why);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+} // namespace window

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+class QWidget;
+
+namespace window {
+
+/// The questions and messages of a window.
+class Prompts
+{
+public:
+    enum class Changes : quint8 { Save, Discard, Cancel };
+    enum class Existing : quint8 { Replace, Rename, Later };
+
+    /// The window is not owned; dialogs stand before it.
+    explicit Prompts(QWidget* window);
+
+    /// What is to become of the unsaved changes of a label.
+    [[nodiscard]] Changes askUnsavedChanges(const QString& labelName, bool allowDiscard) const;
+    /// What to do where the imported label's file already exists.
+    [[nodiscard]] Existing askExisting(const QString& fileName) const;
+    /// A file to open; empty when the user cancelled.
+    [[nodiscard]] QString askOpenFile() const;
+    /// A name to save the label under; empty when the user cancelled.
+    [[nodiscard]] QString askSaveFile(const QString& suggestedName) const;
+    /// Says what did not work, and why.
+    void showError(const QString& what, const QString& why) const;
+
+private:
+    QWidget* m_window;
+};
+
+} // namespace window

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "window/label/open_label.h"
+
+#include <QString>
+
+class QWidget;
+
+namespace window {
+
+class Prompts;
+
+/// Asks what to export and writes it. Returns a line about what was written; empty when
+/// nothing was. The label shows the given record again afterwards.
+[[nodiscard]] QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
+                                  QWidget* window);
+
+/// Asks for a printer and prints. Returns a line about what was printed; empty when nothing
+/// was. The label shows the given record again afterwards.
+[[nodiscard]] QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
+                                 QWidget* window);
+
+} // namespace window

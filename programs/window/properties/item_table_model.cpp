@@ -1,0 +1,167 @@
+#include "window/properties/item_table_model.h"
+
+#include "window/properties/item_description.h"
+#include "window/properties/style_names.h"
+#include "workbench/canvas/canvas.h"
+
+namespace window {
+
+namespace {
+
+QString stateText(const workbench::CanvasItem& item, const workbench::ItemValues& values)
+{
+    QStringList states;
+    if (!item.issue().isEmpty()) {
+        states.append(ItemTableModel::tr("cannot be shown"));
+    }
+    if (values.placement.userBackground) {
+        states.append(ItemTableModel::tr("background"));
+    }
+    if (values.placement.readOnly) {
+        states.append(ItemTableModel::tr("read-only"));
+    } else if (!values.placement.movable) {
+        states.append(ItemTableModel::tr("locked"));
+    }
+    return states.join(QStringLiteral(", "));
+}
+
+bool isNumber(int column)
+{
+    return column >= ItemTableModel::Left && column <= ItemTableModel::Angle;
+}
+
+} // namespace
+
+ItemTableModel::ItemTableModel(QObject* parent)
+    : QAbstractTableModel(parent)
+{}
+
+void ItemTableModel::setCanvas(const workbench::Canvas* canvas)
+{
+    beginResetModel();
+    m_canvas = canvas;
+    readAll();
+    endResetModel();
+}
+
+void ItemTableModel::setUnit(LengthUnit unit)
+{
+    m_unit = unit;
+    Q_EMIT headerDataChanged(Qt::Horizontal, Left, Height);
+    refresh();
+}
+
+void ItemTableModel::refresh()
+{
+    if (m_canvas == nullptr || m_canvas->items().size() != m_rows.size()) {
+        setCanvas(m_canvas);
+        return;
+    }
+    readAll();
+    if (!m_rows.isEmpty()) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    }
+}
+
+workbench::CanvasItem* ItemTableModel::itemAt(int row) const
+{
+    return row >= 0 && row < m_rows.size() ? m_rows.at(row).item : nullptr;
+}
+
+int ItemTableModel::rowOf(const QGraphicsItem* item) const
+{
+    return m_rowOfItem.value(item, -1);
+}
+
+int ItemTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+int ItemTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant ItemTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_rows.size()) {
+        return {};
+    }
+    const Row& row = m_rows.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return row.cells[index.column()];
+    case Qt::ToolTipRole:
+        return row.title;
+    case Qt::TextAlignmentRole:
+        return isNumber(index.column()) ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant ItemTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole) {
+        return {};
+    }
+    if (orientation == Qt::Vertical) {
+        return section + 1;
+    }
+    const QString unit = QStringLiteral(" (") + unitSymbol(m_unit) + QLatin1Char(')');
+    switch (section) {
+    case Kind:
+        return tr("Kind");
+    case Content:
+        return tr("Content");
+    case Left:
+        return tr("Left") + unit;
+    case Top:
+        return tr("Top") + unit;
+    case Width:
+        return tr("Width") + unit;
+    case Height:
+        return tr("Height") + unit;
+    case Angle:
+        return tr("Angle");
+    case State:
+        return tr("State");
+    default:
+        return {};
+    }
+}
+
+ItemTableModel::Row ItemTableModel::describe(workbench::CanvasItem& item) const
+{
+    const workbench::ItemValues values = item.values();
+    Row row;
+    row.item = &item;
+    row.title = itemTitle(values);
+    row.cells[Kind] = kindName(values.type);
+    row.cells[Content] = contentSummary(values);
+    row.cells[Left] = lengthNumber(values.placement.position.x(), m_unit);
+    row.cells[Top] = lengthNumber(values.placement.position.y(), m_unit);
+    row.cells[Width] = lengthNumber(values.box.size.width(), m_unit);
+    row.cells[Height] = lengthNumber(values.box.size.height(), m_unit);
+    row.cells[Angle] = angleText(values.box.rotation);
+    row.cells[State] = stateText(item, values);
+    return row;
+}
+
+void ItemTableModel::readAll()
+{
+    m_rows.clear();
+    m_rowOfItem.clear();
+    if (m_canvas == nullptr) {
+        return;
+    }
+    const QList<workbench::CanvasItem*>& items = m_canvas->items();
+    m_rows.reserve(items.size());
+    for (workbench::CanvasItem* item : items) {
+        m_rowOfItem.insert(item->graphicsItem(), static_cast<int>(m_rows.size()));
+        m_rows.append(describe(*item));
+    }
+}
+
+} // namespace window

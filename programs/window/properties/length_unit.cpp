@@ -1,0 +1,30 @@
+#include "window/properties/length_unit.h"
+
+#include <QLocale>
+
+namespace window {
+
+QString unitSymbol(LengthUnit unit)
+{
+    return unit == LengthUnit::Inch ? QStringLiteral("in") : QStringLiteral("mm");
+}
+
+QString lengthNumber(double points, LengthUnit unit)
+{
+    const int decimals = unit == LengthUnit::Inch ? 3 : 2;
+    // Adding zero turns a rounded -0.00 into 0.00 only where the value is -0 itself; a page
+    // has no use for finer zeros.
+    return QLocale().toString(inUnit(points, unit) + 0.0, 'f', decimals);
+}
+
+QString lengthText(double points, LengthUnit unit)
+{
+    return lengthNumber(points, unit) + QLatin1Char(' ') + unitSymbol(unit);
+}
+
+QString areaText(double width, double height, LengthUnit unit)
+{
+    return lengthNumber(width, unit) + QStringLiteral(" × ") + lengthText(height, unit);
+}
+
+} // namespace window

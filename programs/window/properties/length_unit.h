@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+namespace window {
+
+/// The unit in which lengths are shown. Labels themselves are kept in points.
+enum class LengthUnit : quint8 { Millimetre, Inch };
+
+[[nodiscard]] constexpr double pointsPerUnit(LengthUnit unit)
+{
+    return unit == LengthUnit::Inch ? 72.0 : 72.0 / 25.4;
+}
+
+[[nodiscard]] constexpr double inUnit(double points, LengthUnit unit)
+{
+    return points / pointsPerUnit(unit);
+}
+
+/// "mm" or "in".
+[[nodiscard]] QString unitSymbol(LengthUnit unit);
+
+/// A length of so many points as a number in the unit, in the user's locale: two decimals
+/// for millimetres, three for inches.
+[[nodiscard]] QString lengthNumber(double points, LengthUnit unit);
+
+/// The number with its unit: "12.50 mm".
+[[nodiscard]] QString lengthText(double points, LengthUnit unit);
+
+/// Width by height: "100.00 × 50.00 mm".
+[[nodiscard]] QString areaText(double width, double height, LengthUnit unit);
+
+} // namespace window

@@ -1,0 +1,207 @@
+#include "window/properties/style_names.h"
+
+#include "window/properties/item_description.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace window {
+
+namespace {
+
+struct NameRow
+{
+    int code;
+    const char* name;
+};
+
+constexpr const char* kContext = "window::StyleNames";
+
+constexpr NameRow kKinds[] = {
+    {KestTypes::Picture, QT_TRANSLATE_NOOP("window::StyleNames", "Picture")},
+    {KestTypes::Symbol, QT_TRANSLATE_NOOP("window::StyleNames", "Symbol")},
+    {KestTypes::SimpleText, QT_TRANSLATE_NOOP("window::StyleNames", "Text")},
+    {KestTypes::RichText, QT_TRANSLATE_NOOP("window::StyleNames", "Formatted text")},
+    {KestTypes::Barcode, QT_TRANSLATE_NOOP("window::StyleNames", "Barcode")},
+    {KestTypes::Line, QT_TRANSLATE_NOOP("window::StyleNames", "Line")},
+    {KestTypes::Rectangle, QT_TRANSLATE_NOOP("window::StyleNames", "Rectangle")},
+    {KestTypes::RoundedRectangle, QT_TRANSLATE_NOOP("window::StyleNames", "Rounded rectangle")},
+    {KestTypes::Ellipse, QT_TRANSLATE_NOOP("window::StyleNames", "Ellipse")},
+    {KestTypes::Pie, QT_TRANSLATE_NOOP("window::StyleNames", "Pie")},
+    {KestTypes::RightTriangle, QT_TRANSLATE_NOOP("window::StyleNames", "Right triangle")},
+    {KestTypes::Triangle, QT_TRANSLATE_NOOP("window::StyleNames", "Triangle")},
+    {KestTypes::Diamond, QT_TRANSLATE_NOOP("window::StyleNames", "Diamond")},
+    {KestTypes::Pentagon, QT_TRANSLATE_NOOP("window::StyleNames", "Pentagon")},
+    {KestTypes::Hexagon, QT_TRANSLATE_NOOP("window::StyleNames", "Hexagon")},
+    {KestTypes::Octagon, QT_TRANSLATE_NOOP("window::StyleNames", "Octagon")},
+};
+
+constexpr NameRow kPenStyles[] = {
+    {Qt::NoPen, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
+    {Qt::SolidLine, QT_TRANSLATE_NOOP("window::StyleNames", "solid")},
+    {Qt::DashLine, QT_TRANSLATE_NOOP("window::StyleNames", "dashes")},
+    {Qt::DotLine, QT_TRANSLATE_NOOP("window::StyleNames", "dots")},
+    {Qt::DashDotLine, QT_TRANSLATE_NOOP("window::StyleNames", "dash, dot")},
+    {Qt::DashDotDotLine, QT_TRANSLATE_NOOP("window::StyleNames", "dash, dot, dot")},
+};
+
+constexpr NameRow kCaps[] = {
+    {Qt::FlatCap, QT_TRANSLATE_NOOP("window::StyleNames", "flat")},
+    {Qt::SquareCap, QT_TRANSLATE_NOOP("window::StyleNames", "square")},
+    {Qt::RoundCap, QT_TRANSLATE_NOOP("window::StyleNames", "round")},
+};
+
+constexpr NameRow kJoins[] = {
+    {Qt::MiterJoin, QT_TRANSLATE_NOOP("window::StyleNames", "pointed")},
+    {Qt::BevelJoin, QT_TRANSLATE_NOOP("window::StyleNames", "cut off")},
+    {Qt::RoundJoin, QT_TRANSLATE_NOOP("window::StyleNames", "rounded")},
+};
+
+constexpr NameRow kBrushes[] = {
+    {Qt::NoBrush, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
+    {Qt::SolidPattern, QT_TRANSLATE_NOOP("window::StyleNames", "solid")},
+    {Qt::Dense1Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, densest")},
+    {Qt::Dense2Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, very dense")},
+    {Qt::Dense3Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, dense")},
+    {Qt::Dense4Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, half")},
+    {Qt::Dense5Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, light")},
+    {Qt::Dense6Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, very light")},
+    {Qt::Dense7Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, lightest")},
+    {Qt::HorPattern, QT_TRANSLATE_NOOP("window::StyleNames", "horizontal lines")},
+    {Qt::VerPattern, QT_TRANSLATE_NOOP("window::StyleNames", "vertical lines")},
+    {Qt::CrossPattern, QT_TRANSLATE_NOOP("window::StyleNames", "grid")},
+    {Qt::BDiagPattern, QT_TRANSLATE_NOOP("window::StyleNames", "rising lines")},
+    {Qt::FDiagPattern, QT_TRANSLATE_NOOP("window::StyleNames", "falling lines")},
+    {Qt::DiagCrossPattern, QT_TRANSLATE_NOOP("window::StyleNames", "diagonal grid")},
+    {Qt::LinearGradientPattern, QT_TRANSLATE_NOOP("window::StyleNames", "gradient")},
+};
+
+// The same marks for both ends: the start keeps them in the upper half of a byte.
+constexpr NameRow kMarkers[] = {
+    {0x00, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
+    {0x01, QT_TRANSLATE_NOOP("window::StyleNames", "arrow")},
+    {0x03, QT_TRANSLATE_NOOP("window::StyleNames", "small arrow")},
+    {0x05, QT_TRANSLATE_NOOP("window::StyleNames", "double arrow")},
+    {0x08, QT_TRANSLATE_NOOP("window::StyleNames", "dimension stroke")},
+    {0x10, QT_TRANSLATE_NOOP("window::StyleNames", "arrow")},
+    {0x30, QT_TRANSLATE_NOOP("window::StyleNames", "small arrow")},
+    {0x50, QT_TRANSLATE_NOOP("window::StyleNames", "double arrow")},
+    {0x80, QT_TRANSLATE_NOOP("window::StyleNames", "dimension stroke")},
+};
+
+constexpr NameRow kFixedSides[] = {
+    {0, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
+    {1, QT_TRANSLATE_NOOP("window::StyleNames", "width")},
+    {2, QT_TRANSLATE_NOOP("window::StyleNames", "height")},
+    {3, QT_TRANSLATE_NOOP("window::StyleNames", "width and height")},
+};
+
+constexpr NameRow kHorizontal[] = {
+    {Qt::AlignLeft, QT_TRANSLATE_NOOP("window::StyleNames", "left")},
+    {Qt::AlignRight, QT_TRANSLATE_NOOP("window::StyleNames", "right")},
+    {Qt::AlignHCenter, QT_TRANSLATE_NOOP("window::StyleNames", "centered")},
+    {Qt::AlignJustify, QT_TRANSLATE_NOOP("window::StyleNames", "justified")},
+};
+
+constexpr NameRow kVertical[] = {
+    {Qt::AlignTop, QT_TRANSLATE_NOOP("window::StyleNames", "top")},
+    {Qt::AlignBottom, QT_TRANSLATE_NOOP("window::StyleNames", "bottom")},
+    {Qt::AlignVCenter, QT_TRANSLATE_NOOP("window::StyleNames", "middle")},
+};
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate(kContext, text);
+}
+
+template <std::size_t Size>
+const char* find(const NameRow (&rows)[Size], int code)
+{
+    for (const NameRow& row : rows) {
+        if (row.code == code) {
+            return row.name;
+        }
+    }
+    return nullptr;
+}
+
+template <std::size_t Size>
+QString nameIn(const NameRow (&rows)[Size], int code)
+{
+    const char* name = find(rows, code);
+    return name != nullptr ? translated(name)
+                           : QCoreApplication::translate(kContext, "unknown (%1)").arg(code);
+}
+
+// The first flag of the table that is set.
+template <std::size_t Size>
+QString flagName(const NameRow (&rows)[Size], int flags)
+{
+    for (const NameRow& row : rows) {
+        if ((flags & row.code) != 0) {
+            return translated(row.name);
+        }
+    }
+    return translated(rows[0].name);
+}
+
+} // namespace
+
+QString kindName(KestTypes::ShapeType type)
+{
+    return nameIn(kKinds, type);
+}
+
+QString colorName(const QColor& color)
+{
+    if (!color.isValid()) {
+        return QCoreApplication::translate(kContext, "none");
+    }
+    if (color.alpha() == 0) {
+        return QCoreApplication::translate(kContext, "transparent");
+    }
+    return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
+}
+
+QString angleText(double degrees)
+{
+    return QLocale().toString(degrees, 'g', 6) + QChar(0xb0);
+}
+
+QString penStyleName(int style)
+{
+    return nameIn(kPenStyles, style);
+}
+
+QString capStyleName(int style)
+{
+    return nameIn(kCaps, style);
+}
+
+QString joinStyleName(int style)
+{
+    return nameIn(kJoins, style);
+}
+
+QString brushStyleName(int style)
+{
+    return nameIn(kBrushes, style);
+}
+
+QString lineMarkerName(int marker)
+{
+    return nameIn(kMarkers, marker);
+}
+
+QString alignmentName(Qt::Alignment alignment)
+{
+    const int flags = static_cast<int>(alignment);
+    return flagName(kHorizontal, flags) + QStringLiteral(", ") + flagName(kVertical, flags);
+}
+
+QString fixedSidesName(int limiting)
+{
+    return nameIn(kFixedSides, limiting);
+}
+
+} // namespace window

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <Qt>
+
+namespace window {
+
+// Words for the numbers that items keep. A number that means nothing is told as such.
+
+[[nodiscard]] QString colorName(const QColor& color);
+[[nodiscard]] QString angleText(double degrees);
+[[nodiscard]] QString penStyleName(int style);
+[[nodiscard]] QString capStyleName(int style);
+[[nodiscard]] QString joinStyleName(int style);
+[[nodiscard]] QString brushStyleName(int style);
+[[nodiscard]] QString lineMarkerName(int marker);
+[[nodiscard]] QString alignmentName(Qt::Alignment alignment);
+[[nodiscard]] QString fixedSidesName(int limiting);
+
+} // namespace window

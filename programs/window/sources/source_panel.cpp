@@ -1,0 +1,93 @@
+#include "window/sources/source_panel.h"
+
+#include "window/actions/actions.h"
+#include "window/sources/source_table_model.h"
+#include "window/properties/tables.h"
+#include "workbench/datasources/datasource_controller.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QSpinBox>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <limits>
+
+namespace window {
+
+namespace {
+
+// A spin box counts with int; nobody types a larger record.
+int boxNumber(qint64 number)
+{
+    return static_cast<int>(std::min<qint64>(number, std::numeric_limits<int>::max()));
+}
+
+QToolButton* makeButton(QAction& action, QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setDefaultAction(&action);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action.statusTip());
+    return button;
+}
+
+} // namespace
+
+SourcePanel::SourcePanel(const Actions& actions, QWidget* parent)
+    : QWidget(parent)
+    , m_model(new SourceTableModel(this))
+    , m_table(makeTable(*m_model, tr("Data sources of the label"), this))
+    , m_record(new QSpinBox(this))
+    , m_count(new QLabel(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeRecordBar(actions));
+    layout->addWidget(m_table);
+    setFocusProxy(m_table);
+    m_table->setColumnWidth(SourceTableModel::Number,
+                            fontMetrics().horizontalAdvance(QStringLiteral("Number   ")));
+    connect(m_record, &QSpinBox::valueChanged, this,
+            [this](int number) { Q_EMIT recordWanted(number - 1); });
+    show(nullptr, 0);
+}
+
+QWidget* SourcePanel::makeRecordBar(const Actions& actions)
+{
+    auto* bar = new QWidget(this);
+    auto* layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(6, 4, 6, 4);
+    auto* caption = new QLabel(tr("&Record"), bar);
+    caption->setBuddy(m_record);
+    m_record->setAccessibleName(tr("Number of the record that is shown"));
+    m_record->setMinimum(1);
+    m_record->setKeyboardTracking(false);
+    layout->addWidget(caption);
+    layout->addWidget(makeButton(actions.at(ActionId::FirstRecord), bar));
+    layout->addWidget(makeButton(actions.at(ActionId::PreviousRecord), bar));
+    layout->addWidget(m_record);
+    layout->addWidget(m_count);
+    layout->addWidget(makeButton(actions.at(ActionId::NextRecord), bar));
+    layout->addWidget(makeButton(actions.at(ActionId::LastRecord), bar));
+    layout->addStretch();
+    return bar;
+}
+
+void SourcePanel::show(const workbench::datasources::DatasourceController* sources, qint64 record)
+{
+    m_model->show(sources, record);
+    const qint64 count = sources != nullptr ? sources->recordCount() : 1;
+    const QSignalBlocker silence(m_record);
+    m_record->setMaximum(boxNumber(count));
+    m_record->setValue(boxNumber(record + 1));
+    m_record->setEnabled(count > 1);
+    m_count->setText(tr("of %1").arg(QLocale().toString(count)));
+}
+
+} // namespace window

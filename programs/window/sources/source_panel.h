@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QSpinBox;
+class QTableView;
+class QToolButton;
+
+namespace workbench::datasources {
+class DatasourceController;
+}
+
+namespace window {
+
+class Actions;
+class SourceTableModel;
+
+/// The data sources of a label, and the record that it shows.
+class SourcePanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The buttons are those of the record actions.
+    explicit SourcePanel(const Actions& actions, QWidget* parent = nullptr);
+
+    /// Shows the sources as of a record counted from 0. Null empties the panel.
+    void show(const workbench::datasources::DatasourceController* sources, qint64 record);
+    [[nodiscard]] QTableView& table() { return *m_table; }
+    [[nodiscard]] QSpinBox& recordBox() { return *m_record; }
+
+Q_SIGNALS:
+    /// The user wants another record, counted from 0.
+    void recordWanted(qint64 record);
+
+private:
+    [[nodiscard]] QWidget* makeRecordBar(const Actions& actions);
+
+    SourceTableModel* m_model;
+    QTableView* m_table;
+    QSpinBox* m_record;
+    QLabel* m_count;
+};
+
+} // namespace window

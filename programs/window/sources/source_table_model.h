@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QList>
+#include <QString>
+
+namespace workbench::datasources {
+class DatasourceController;
+}
+
+namespace window {
+
+/// The data sources of a label as a table: what each one is and what it shows now.
+class SourceTableModel final : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { Number, Kind, Settings, Records, Now, ColumnCount };
+
+    explicit SourceTableModel(QObject* parent = nullptr);
+
+    /// Reads the sources again. Null empties the table.
+    void show(const workbench::datasources::DatasourceController* sources, qint64 record);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role) const override;
+
+private:
+    struct Row
+    {
+        QString cells[ColumnCount];
+    };
+
+    QList<Row> m_rows;
+};
+
+} // namespace window

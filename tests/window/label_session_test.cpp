@@ -1,0 +1,325 @@
+// The commands on files, with their questions and messages: the real dialogs are answered.
+
+#include "window_fixture.h"
+#include "dialog_driver.h"
+
+#include "window/label/label_session.h"
+#include "window/label/label_files.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSignalSpy>
+
+using namespace window;
+
+namespace {
+
+class LabelSessionTest : public WindowFixture
+{
+protected:
+    /// Moves the first item, so that there are unsaved changes.
+    void change()
+    {
+        QGraphicsItem* item = session.label()->canvas->items().at(0)->graphicsItem();
+        session.moveItems({{item, item->pos(), item->pos() + QPointF(10.0, 0.0)}});
+    }
+
+    [[nodiscard]] static QPointF placeOfFirst(const OpenLabel& label)
+    {
+        return label.canvas->items().at(0)->graphicsItem()->pos();
+    }
+
+    void writeGarbage(const QString& fileName)
+    {
+        QFile file(fileName);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("no label");
+    }
+
+    QWidget window;
+    LabelSession session{&window};
+    DialogDriver dialogs;
+};
+
+} // namespace
+
+TEST_F(LabelSessionTest, IsEmptyAtFirst)
+{
+    EXPECT_EQ(session.label(), nullptr);
+    EXPECT_FALSE(session.hasUnsavedChanges());
+    EXPECT_FALSE(session.save());
+    EXPECT_FALSE(session.saveAs());
+    EXPECT_TRUE(session.close());
+}
+
+TEST_F(LabelSessionTest, OpensASavedLabelWithItsSourcesAndItsFirstRecord)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    QSignalSpy replaced(&session, &LabelSession::labelReplaced);
+
+    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+
+    EXPECT_EQ(replaced.size(), 1);
+    EXPECT_EQ(session.label()->canvas->items().size(), 3);
+    EXPECT_EQ(session.label()->sources->recordCount(), 5);
+    EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
+    EXPECT_FALSE(session.hasUnsavedChanges());
+    EXPECT_EQ(RecentFiles().files(), QStringList{path(QStringLiteral("a.label"))});
+}
+
+TEST_F(LabelSessionTest, ImportsALegacyLabelThatIsUnsavedThen)
+{
+    const QString file = copied(QStringLiteral("opendocument/shelf_label.odg"));
+
+    ASSERT_TRUE(session.openFile(file));
+
+    EXPECT_FALSE(session.label()->canvas->items().isEmpty());
+    EXPECT_TRUE(session.label()->fileName.isEmpty());
+    EXPECT_EQ(session.label()->suggestedName, path(QStringLiteral("shelf_label.label")));
+    EXPECT_TRUE(session.hasUnsavedChanges());
+    EXPECT_FALSE(QFile::exists(session.label()->suggestedName));
+}
+
+TEST_F(LabelSessionTest, OpensEverySampleOfEveryFormat)
+{
+    for (const char* name : {"opendocument/care_label.odt", "opendocument/rating_plate.odg",
+                             "orvanta/parcel_label.qmtx", "orvanta/shapes_sheet.qmtx",
+                             "tavrel/address_2000016.cnv", "tavrel/parcel_2000023.roc"}) {
+        SCOPED_TRACE(name);
+        const ReadLabel read = readLegacyLabel(sample(QString::fromLatin1(name)));
+        EXPECT_EQ(read.error, QString());
+        EXPECT_TRUE(read.label.has_value());
+    }
+}
+
+TEST_F(LabelSessionTest, ADamagedFileLeavesTheLabelAndSaysWhy)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    for (const char* name : {"bad.label", "bad.cnv", "bad.qmtx", "bad.odg"}) {
+        SCOPED_TRACE(name);
+        const QString file = path(QString::fromLatin1(name));
+        writeGarbage(file);
+        dialogs.expectButton(QMessageBox::Ok);
+
+        EXPECT_FALSE(session.openFile(file));
+
+        EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
+        const QStringList said = dialogs.texts().constLast().split(QLatin1Char('\n'));
+        EXPECT_EQ(said.value(0),
+                  QStringLiteral("“%1” could not be opened.").arg(QString::fromLatin1(name)));
+        EXPECT_GT(said.value(1).size(), 10);
+    }
+}
+
+TEST_F(LabelSessionTest, AFileThatIsGoneLeavesTheRecentFiles)
+{
+    RecentFiles().add(path(QStringLiteral("gone.label")));
+    dialogs.expectButton(QMessageBox::Ok);
+    EXPECT_FALSE(session.openFile(path(QStringLiteral("gone.label"))));
+    EXPECT_TRUE(RecentFiles().files().isEmpty());
+}
+
+TEST_F(LabelSessionTest, SavesAndOpensAgainWhatWasChanged)
+{
+    const QString file = path(QStringLiteral("a.label"));
+    saveMadeLabel(file);
+    ASSERT_TRUE(session.openFile(file));
+    change();
+    EXPECT_TRUE(session.hasUnsavedChanges());
+
+    ASSERT_TRUE(session.save());
+
+    EXPECT_FALSE(session.hasUnsavedChanges());
+    const ReadLabel again = readSavedLabel(file);
+    ASSERT_TRUE(again.label.has_value());
+    EXPECT_EQ(placeOfFirst(*again.label), placeOfFirst(*session.label()));
+}
+
+TEST_F(LabelSessionTest, AChangeThatIsTakenBackIsNone)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    const QPointF before = placeOfFirst(*session.label());
+    change();
+    session.undoStack().undo();
+    EXPECT_EQ(placeOfFirst(*session.label()), before);
+    EXPECT_FALSE(session.hasUnsavedChanges());
+    session.undoStack().redo();
+    EXPECT_EQ(placeOfFirst(*session.label()), before + QPointF(10.0, 0.0));
+    EXPECT_TRUE(session.hasUnsavedChanges());
+    session.undoStack().setClean();
+}
+
+TEST_F(LabelSessionTest, SaveAsGivesTheLabelAnotherFile)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    dialogs.expectFile(path(QStringLiteral("b"))); // the suffix comes by itself
+
+    ASSERT_TRUE(session.saveAs());
+
+    EXPECT_EQ(session.label()->fileName, path(QStringLiteral("b.label")));
+    EXPECT_TRUE(QFile::exists(path(QStringLiteral("b.label"))));
+    EXPECT_EQ(RecentFiles().files().size(), 2);
+}
+
+TEST_F(LabelSessionTest, AFileThatCannotBeWrittenIsTold)
+{
+    const QString file = path(QStringLiteral("a.label"));
+    saveMadeLabel(file);
+    ASSERT_TRUE(session.openFile(file));
+    session.label()->fileName = path(QStringLiteral("no such folder/a.label"));
+    change();
+    dialogs.expectButton(QMessageBox::Ok);
+
+    EXPECT_FALSE(session.save());
+
+    EXPECT_TRUE(session.hasUnsavedChanges());
+    EXPECT_TRUE(dialogs.texts().constLast().contains(QStringLiteral("Save As")));
+    session.undoStack().setClean();
+}
+
+TEST_F(LabelSessionTest, UnsavedChangesAreAskedAbout)
+{
+    struct Row
+    {
+        int button;
+        bool goesOn;
+        bool isSaved;
+    };
+    const QString file = path(QStringLiteral("a.label"));
+    for (const Row& row :
+         {Row{QMessageBox::Cancel, false, false}, Row{QMessageBox::Discard, true, false},
+          Row{QMessageBox::Save, true, true}}) {
+        SCOPED_TRACE(row.button);
+        QFile::remove(file);
+        saveMadeLabel(file);
+        ASSERT_TRUE(session.openFile(file));
+        const QPointF before = placeOfFirst(*session.label());
+        change();
+        dialogs.expectButton(row.button);
+
+        EXPECT_EQ(session.confirmDiscard(), row.goesOn);
+
+        EXPECT_TRUE(dialogs.texts().constLast().contains(QStringLiteral("a.label")));
+        const ReadLabel kept = readSavedLabel(file);
+        EXPECT_EQ(placeOfFirst(*kept.label) != before, row.isSaved);
+        session.undoStack().setClean();
+    }
+}
+
+TEST_F(LabelSessionTest, ClosingAsksToo)
+{
+    const QString file = path(QStringLiteral("a.label"));
+    saveMadeLabel(file);
+    ASSERT_TRUE(session.openFile(file));
+    change();
+    dialogs.expectButton(QMessageBox::Cancel);
+    EXPECT_FALSE(session.close());
+    EXPECT_NE(session.label(), nullptr);
+    dialogs.expectButton(QMessageBox::Discard);
+    EXPECT_TRUE(session.close());
+    EXPECT_EQ(session.label(), nullptr);
+}
+
+TEST_F(LabelSessionTest, OpensByDialog)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    dialogs.expectFile(path(QStringLiteral("a.label")));
+    session.openByDialog();
+    ASSERT_NE(session.label(), nullptr);
+    dialogs.expectCancel();
+    session.openByDialog();
+    EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
+}
+
+TEST_F(LabelSessionTest, ImportsByTheImportersDialogAndSavesBesideTheOldFile)
+{
+    const QString file = copied(QStringLiteral("orvanta/jar_label.qmtx"));
+    dialogs.expectFile(file);
+
+    session.importByDialog();
+
+    ASSERT_NE(session.label(), nullptr);
+    EXPECT_EQ(dialogs.texts(), QStringList{QStringLiteral("Import Label")});
+    EXPECT_EQ(session.label()->fileName, path(QStringLiteral("jar_label.label")));
+    EXPECT_TRUE(QFile::exists(session.label()->fileName));
+    EXPECT_FALSE(session.hasUnsavedChanges());
+    EXPECT_EQ(readSavedLabel(session.label()->fileName).label->canvas->items().size(),
+              session.label()->canvas->items().size());
+}
+
+TEST_F(LabelSessionTest, AnImportNeverReplacesAFileUnasked)
+{
+    const QString file = copied(QStringLiteral("orvanta/jar_label.qmtx"));
+    const QString target = path(QStringLiteral("jar_label.label"));
+    struct Row
+    {
+        QString button;
+        QString keptIn;
+        bool isReplaced;
+    };
+    const QString other = path(QStringLiteral("other.label"));
+    const Row rows[] = {
+        {QStringLiteral("Save Later"), {}, false},
+        {QStringLiteral("Other Name…"), other, false},
+        {QStringLiteral("Replace"), target, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.button.toStdString());
+        writeGarbage(target);
+        if (session.hasUnsavedChanges()) {
+            dialogs.expectButton(QMessageBox::Discard);
+        }
+        dialogs.expectFile(file);
+        dialogs.expectButton(row.button.contains(QLatin1Char('O')) ? QStringLiteral("Other Name…")
+                                                                   : row.button);
+        if (row.keptIn == other) {
+            dialogs.expectFile(other);
+        }
+
+        session.importByDialog();
+
+        EXPECT_EQ(session.label()->fileName, row.keptIn);
+        EXPECT_EQ(readSavedLabel(target).label.has_value(), row.isReplaced);
+    }
+}
+
+TEST_F(LabelSessionTest, AnImportThatFailsOrIsCancelledLeavesTheLabel)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    dialogs.expectCancel();
+    session.importByDialog();
+    EXPECT_EQ(dialogs.texts().size(), 1);
+
+    writeGarbage(path(QStringLiteral("bad.cnv")));
+    dialogs.expectFile(path(QStringLiteral("bad.cnv")));
+    dialogs.expectButton(QMessageBox::Ok);
+    session.importByDialog();
+
+    EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
+    EXPECT_TRUE(
+        dialogs.texts().constLast().startsWith(QStringLiteral("The label could not be imported.")));
+}
+
+TEST_F(LabelSessionTest, AnImportAsksAboutUnsavedChangesFirst)
+{
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    change();
+    dialogs.expectButton(QMessageBox::Cancel);
+    session.importByDialog();
+    EXPECT_EQ(dialogs.texts().size(), 1); // no file dialog after that
+    EXPECT_TRUE(session.hasUnsavedChanges());
+    session.undoStack().setClean();
+}
+
+TEST(LabelNames, TheLastSuffixIsReplaced)
+{
+    EXPECT_EQ(savedNameFor(QStringLiteral("/x/shelf.old.odt")),
+              QStringLiteral("/x/shelf.old.label"));
+    EXPECT_TRUE(isSavedLabel(QStringLiteral("a.LABEL")));
+    EXPECT_FALSE(isSavedLabel(QStringLiteral("label.cnv")));
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "window/label/open_label.h"
+#include "host/items/barcode_item.h"
+#include "host/items/item.h"
+#include "workbench/canvas/canvas.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+/// A folder and settings of a test's own.
+class WindowFixture : public ::testing::Test
+{
+protected:
+    WindowFixture()
+    {
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                           m_folder.filePath(QStringLiteral("settings")));
+    }
+
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
+    [[nodiscard]] QString sample(const QString& name) const
+    {
+        return QStringLiteral(LABELPORT_SAMPLES "/") + name;
+    }
+
+    /// A copy of a sample in the test's folder.
+    [[nodiscard]] QString copied(const QString& name) const
+    {
+        const QString target = path(QFileInfo(name).fileName());
+        EXPECT_TRUE(QFile::copy(sample(name), target)) << qPrintable(target);
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+        return target;
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// A label of three items and a counter of five records: a rectangle, a text that shows the
+/// counter, a line that is locked.
+[[nodiscard]] window::OpenLabel makeLabel();
+
+/// Saves makeLabel() under this name.
+void saveMadeLabel(const QString& fileName);
+
+/// Keeps a picture of a widget in the build folder, to be looked at.
+void keepPicture(QWidget& widget, const QString& name);
+
+/// The same with a picture that is there already.
+void keepImage(const QImage& image, const QString& name);
