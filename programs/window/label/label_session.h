@@ -12,7 +12,7 @@
 
 namespace window {
 
-/// The desk of one window: one label lies on it, or none.
+/// The open label of a window, or none.
 ///
 /// All commands on files go through here, with their questions and messages. A command
 /// that fails leaves the label that lies there as it is.
@@ -25,7 +25,7 @@ public:
     explicit LabelSession(QWidget* window);
     ~LabelSession() override;
 
-    /// The label on the desk; null when there is none.
+    /// The open label; null if there is none.
     [[nodiscard]] OpenLabel* label() { return m_label ? &*m_label : nullptr; }
     [[nodiscard]] const OpenLabel* label() const { return m_label ? &*m_label : nullptr; }
     [[nodiscard]] bool hasUnsavedChanges() const;
@@ -39,7 +39,7 @@ public:
     void importByDialog();
     bool save();
     bool saveAs();
-    /// Takes the label off the desk. False when the user cancelled.
+    /// Closes the label. False if the user canceled.
     bool close();
     /// Asks about unsaved changes if there are any. True when they may go, or are saved.
     [[nodiscard]] bool confirmDiscard(bool allowDiscard = true);
