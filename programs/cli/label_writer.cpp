@@ -57,6 +57,12 @@ QString numbered(const QString& output, qint64 record)
     return QDir::cleanPath(info.dir().filePath(info.completeBaseName() + number + info.suffix()));
 }
 
+// The label's name, as the title of drawings and documents.
+QString titleOf(const QString& output)
+{
+    return QFileInfo(output).completeBaseName();
+}
+
 QString writePicture(const workbench::Canvas& canvas, const QString& output, int dpi)
 {
     workbench::PageImage page = workbench::renderPage(canvas, dpi);
@@ -68,13 +74,14 @@ QString writePicture(const workbench::Canvas& canvas, const QString& output, int
     return workbench::writePng(page.image, output);
 }
 
-QString writeOne(const OpenedLabel& label, Target target, const QString& output, int dpi)
+QString writeOne(const OpenedLabel& label, Target target, const QString& output,
+                 const QString& title, int dpi)
 {
     switch (target) {
     case Target::Png:
         return writePicture(*label.canvas, output, dpi);
     case Target::Svg:
-        return workbench::writeSvg(*label.canvas, output);
+        return workbench::writeSvg(*label.canvas, output, title);
     case Target::Label:
         return workbench::document::saveLabel(output, *label.canvas, *label.datasources);
     case Target::Pdf:
@@ -98,7 +105,7 @@ Written LabelWriter::write(Target target, const QString& output)
     if (target == Target::Label) {
         // All records are in it, whatever was asked of pictures.
         return writeFile(output, [&](const QString& file) {
-            return writeOne(m_label, target, file, m_options.dpi);
+            return writeOne(m_label, target, file, titleOf(output), m_options.dpi);
         });
     }
     const Records records = recordsOf(m_label, m_options.records);
@@ -130,7 +137,7 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
 Written LabelWriter::writeDocument(const QString& output, qint64 first, qint64 count)
 {
     return writeFile(output, [&](const QString& file) {
-        return workbench::writePdf(*m_label.canvas, file, count, [&](qint64 page) {
+        return workbench::writePdf(*m_label.canvas, file, titleOf(output), count, [&](qint64 page) {
             m_label.showRecord(first + page);
             m_alive();
             return true;
@@ -143,9 +150,9 @@ Written LabelWriter::writeSeries(Target target, const QString& output, qint64 fi
     Written all;
     for (qint64 record = first; record < first + count && all.error.isEmpty(); ++record) {
         m_label.showRecord(record);
-        const QString name = m_options.records.isSeries() ? numbered(output, record) : output;
+        const QString name = count > 1 ? numbered(output, record) : output;
         Written one = writeFile(name, [&](const QString& file) {
-            return writeOne(m_label, target, file, m_options.dpi);
+            return writeOne(m_label, target, file, titleOf(output), m_options.dpi);
         });
         all.files += one.files;
         all.error = one.error;

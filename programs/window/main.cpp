@@ -1,8 +1,8 @@
 // labelport-workbench: opens legacy labels in a window.
 
 #include "window/actions/icons.h"
-#include "window/main_window.h"
 #include "window/actions/palettes.h"
+#include "window/main_window.h"
 #include "window/window_picture.h"
 #include "translations/program_language.h"
 
@@ -10,11 +10,26 @@
 #include <QCommandLineParser>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
+#include <initializer_list>
+#include <string_view>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int kWrongUsage = 2;
+constexpr int WrongUsage = 2;
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(window::Main)
+};
+
+void printError(const QString& message)
+{
+    std::fprintf(stderr, "labelport-workbench: %s\n", qUtf8Printable(message));
+}
 
 struct Options
 {
@@ -24,61 +39,107 @@ struct Options
 
 void describe(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(QCoreApplication::translate(
-        "main", "Opens legacy label templates, shows them, saves, exports and prints them."));
+    parser.setApplicationDescription(
+        Words::tr("Opens legacy label templates, shows them, saves, exports and prints them."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument(
-        QStringLiteral("file"),
-        QCoreApplication::translate("main", "A label to open: *.label, *.cnv, *.roc, *.qmtx, "
-                                            "*.odt or *.odg."),
-        QStringLiteral("[file]"));
-    parser.addOption({QStringLiteral("screenshot"),
-                      QCoreApplication::translate("main", "Writes a picture of the window as PNG "
-                                                          "as soon as it is there, and ends."),
-                      QStringLiteral("picture")});
+        u"file"_s, Words::tr("A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg."),
+        u"[file]"_s);
+    parser.addOption({u"screenshot"_s,
+                      Words::tr("Writes a picture of the window to a PNG file, and exits."),
+                      u"picture"_s});
 }
 
-// Ends the program where the command line is wrong.
-Options readOptions(const QApplication& application)
+// Exits if the command line is wrong, or asks only for help or the version.
+Options readOptions(const QStringList& arguments)
 {
     QCommandLineParser parser;
     describe(parser);
-    parser.process(application);
+    parser.process(arguments);
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1) {
         const QString message =
-            QCoreApplication::translate("main", "a window holds one label, but %1 were named")
-                .arg(files.size());
-        std::fprintf(stderr, "labelport-workbench: %s\n", qUtf8Printable(message));
-        std::exit(kWrongUsage);
+            Words::tr("A window shows one label, but %n files were given.", nullptr,
+                      static_cast<int>(files.size()));
+        printError(message);
+        std::exit(WrongUsage);
     }
-    return {files.value(0), parser.value(QStringLiteral("screenshot"))};
+    return {files.value(0), parser.value(u"screenshot"_s)};
+}
+
+// Without a login session or a display, over SSH, in cron or in containers, Qt prints warnings that
+// are of no use to users.
+void printMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (!text.startsWith("QStandardPaths: XDG_RUNTIME_DIR"_L1) &&
+        !text.startsWith("This plugin does not support propagateSizeHints"_L1)) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, text)));
+    }
+}
+
+bool contains(int argc, char** argv, std::initializer_list<std::string_view> options)
+{
+    return std::any_of(argv, argv + argc, [&](const char* argument) {
+        return std::find(options.begin(), options.end(), argument) != options.end();
+    });
+}
+
+// Whether Qt can connect to a display: a program without one is aborted.
+bool hasDisplay(int argc, char** argv)
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
+           contains(argc, argv, {"-platform", "--platform"});
+}
+
+int showWindow(const Options& options)
+{
+    window::MainWindow mainWindow;
+    if (options.picture.isEmpty()) {
+        mainWindow.show();
+        if (!options.file.isEmpty()) {
+            // After the window is shown, so that error messages appear in front of it.
+            QTimer::singleShot(0, &mainWindow, [&] { mainWindow.openFile(options.file); });
+        }
+        return QApplication::exec();
+    }
+    if (!options.file.isEmpty()) {
+        const QString error = mainWindow.openFileQuietly(options.file);
+        if (!error.isEmpty()) {
+            printError(Words::tr("Cannot open \"%1\": %2").arg(options.file, error));
+            return EXIT_FAILURE;
+        }
+    }
+    const window::WindowPicture picture(mainWindow, options.picture);
+    mainWindow.show();
+    return QApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setOrganizationName(QStringLiteral("LabelPort"));
-    QCoreApplication::setApplicationName(QStringLiteral("LabelPort Workbench"));
+    qInstallMessageHandler(printMessage);
+    QCoreApplication::setOrganizationName(u"LabelPort"_s);
+    QCoreApplication::setApplicationName(u"LabelPort Workbench"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(u"Fusion"_s);
+    const bool isVisible = hasDisplay(argc, argv);
+    if (!isVisible || contains(argc, argv, {"-h", "--help", "--help-all", "-v", "--version"})) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     const QApplication application(argc, argv);
     const translations::ProgramLanguage language(
         translations::wantedLanguages(QProcessEnvironment::systemEnvironment()));
     QApplication::setWindowIcon(window::applicationIcon());
-    const Options options = readOptions(application);
+    const Options options = readOptions(QApplication::arguments());
+    if (!isVisible && options.picture.isEmpty()) {
+        printError(Words::tr("Cannot show a window: there is no display. "
+                             "Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot."));
+        return EXIT_FAILURE;
+    }
     window::applyColorScheme(window::storedColorScheme());
-
-    window::MainWindow window;
-    if (!options.picture.isEmpty()) {
-        new window::WindowPicture(window, options.picture, &window);
-    }
-    window.show();
-    if (!options.file.isEmpty()) {
-        // Once the window stands: what goes wrong is told before it.
-        QTimer::singleShot(0, &window, [&window, &options] { window.openFile(options.file); });
-    }
-    return QApplication::exec();
+    return showWindow(options);
 }

@@ -61,6 +61,11 @@ bool MainWindow::openFile(const QString& fileName)
     return m_session->openFile(fileName);
 }
 
+QString MainWindow::openFileQuietly(const QString& fileName)
+{
+    return m_session->openFileQuietly(fileName);
+}
+
 CanvasView& MainWindow::view()
 {
     return m_canvas->view();

@@ -28,6 +28,8 @@ public:
 
     /// Opens a saved label or imports a legacy one. Tells the user why when it cannot.
     bool openFile(const QString& fileName);
+    /// As openFile(), without a message box. Returns the reason if the file cannot be opened.
+    [[nodiscard]] QString openFileQuietly(const QString& fileName);
 
     [[nodiscard]] LabelSession& session() { return *m_session; }
     [[nodiscard]] CanvasView& view();

@@ -14,7 +14,7 @@ namespace window {
 
 namespace {
 
-// What the screen shows; what the window paints where the system lets nobody look.
+// The window's part of the screen, or the window painted anew if the system forbids screenshots.
 QPixmap shownBy(QWidget& window)
 {
     const QPixmap pixmap = window.screen()->grabWindow(window.winId());
@@ -23,9 +23,8 @@ QPixmap shownBy(QWidget& window)
 
 } // namespace
 
-WindowPicture::WindowPicture(QWidget& window, const QString& fileName, QObject* parent)
-    : QObject(parent)
-    , m_window(window)
+WindowPicture::WindowPicture(QWidget& window, const QString& fileName)
+    : m_window(window)
     , m_fileName(fileName)
 {
     window.installEventFilter(this);
@@ -44,12 +43,11 @@ bool WindowPicture::eventFilter(QObject* watched, QEvent* event)
 void WindowPicture::take()
 {
     m_window.repaint();
-    const bool isWritten = shownBy(m_window).save(m_fileName);
+    const bool isWritten = shownBy(m_window).save(m_fileName, "PNG");
     if (isWritten) {
         std::printf("%s\n", qUtf8Printable(m_fileName));
     } else {
-        const QString message =
-            QCoreApplication::translate("main", "cannot write “%1”").arg(m_fileName);
+        const QString message = tr("Cannot write \"%1\".").arg(m_fileName);
         std::fprintf(stderr, "labelport-workbench: %s\n", qUtf8Printable(message));
     }
     QCoreApplication::exit(isWritten ? EXIT_SUCCESS : EXIT_FAILURE);

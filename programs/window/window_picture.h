@@ -7,15 +7,15 @@ class QWidget;
 
 namespace window {
 
-/// Takes a picture of a window as the screen shows it, as soon as it is there, and ends
-/// the program: for documentation, and to see that the program comes up.
+/// Takes a picture of a window after its first paint, as the screen shows it, and exits the
+/// program with status 0, or 1 if the file cannot be written.
 class WindowPicture final : public QObject
 {
     Q_OBJECT
 
 public:
     /// The window is not owned.
-    WindowPicture(QWidget& window, const QString& fileName, QObject* parent);
+    WindowPicture(QWidget& window, const QString& fileName);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

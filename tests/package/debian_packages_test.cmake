@@ -34,9 +34,19 @@ expect_field(${development} Depends "${library_name} \\(= ${VERSION}-1\\).*qt6-b
 expect_field(${programs} Depends "${library_name} \\(= ${VERSION}-1\\)")
 expect_field(${programs} Depends "libqt6sql6-sqlite")
 expect_field(${programs} Depends "libzint")
-foreach(package ${library} ${development} ${programs})
-    expect_field(${package} Description "^importer of legacy label templates\n [A-Z]")
-endforeach()
+expect_field(${library} Description "^importer of legacy label templates .library.\n [A-Z]")
+expect_field(${development} Description
+    "^importer of legacy label templates .development files.\n [A-Z]")
+expect_field(${programs} Description "^import legacy label templates, [a-z ]*\n [A-Z]")
+
+# Debian's own checks. Tags about the origin of a package do not apply to one built in place.
+execute_process(
+    COMMAND ${LINTIAN} --allow-root --fail-on error,warning --no-tag-display-limit
+        --suppress-tags initial-upload-closes-no-bugs ${library} ${development} ${programs}
+    RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+if(NOT status EQUAL 0)
+    message(SEND_ERROR "lintian ended with ${status}\n${output}\n${errors}")
+endif()
 
 set(root ${WORK}/root)
 file(MAKE_DIRECTORY ${root})
@@ -49,7 +59,7 @@ run(OUTPUT library_files COMMAND dpkg-deb --contents ${library})
 run(OUTPUT development_files COMMAND dpkg-deb --contents ${development})
 run(OUTPUT programs_files COMMAND dpkg-deb --contents ${programs})
 foreach(case
-        "library|/liblabelport\\.so\\.${SOVERSION} "
+        "library|/usr/lib/[a-z0-9_]+-linux-gnu[a-z0-9]*/liblabelport\\.so\\.${SOVERSION} "
         "library|/liblabelport-logging\\.so\\.${SOVERSION} "
         "library|/labelport/translations/labelport_de\\.qm"
         "library|/doc/${library_name}/changelog\\.Debian\\.gz"
@@ -59,6 +69,11 @@ foreach(case
         "development|/host/class_factory\\.h"
         "programs|/usr/bin/labelport "
         "programs|/applications/labelport-workbench\\.desktop"
+        "development|/doc/liblabelport-dev/host-guide\\.md"
+        "programs|/doc/labelport/user-guide\\.md"
+        "programs|/doc/labelport/workbench\\.md"
+        "programs|/doc/labelport/migration-report\\.md"
+        "programs|/doc/labelport/examples/tavrel/parcel_2000023\\.roc"
         "programs|/doc/labelport/copyright")
     string(REPLACE "|" ";" case "${case}")
     list(GET case 0 owner)

@@ -104,7 +104,8 @@ TEST_F(OutputTest, ADrawingShowsWhatThePictureShows)
         ReadLabel read = readLegacyLabel(sample(QString::fromLatin1(name)));
         ASSERT_TRUE(read.label.has_value()) << read.error.toStdString();
         const QImage picture = workbench::renderPage(*read.label->canvas, 96.0).image;
-        ASSERT_EQ(workbench::writeSvg(*read.label->canvas, path(QStringLiteral("x.svg"))),
+        ASSERT_EQ(workbench::writeSvg(*read.label->canvas, path(QStringLiteral("x.svg")),
+                                      QStringLiteral("x")),
                   QString());
 
         QImage drawing(picture.size(), QImage::Format_ARGB32_Premultiplied);

@@ -48,11 +48,11 @@ TEST(PageBounds, MeasureADocumentsPage)
     const QString file = folder.filePath(QStringLiteral("a.pdf"));
     const auto onePage = [](qint64) { return true; };
     Canvas canvas;
-    setPage(canvas, kMaximumPdfSide, 10);
-    EXPECT_EQ(writePdf(canvas, file, 1, onePage), QString());
+    setPage(canvas, MaximumPdfSide, 10);
+    EXPECT_EQ(writePdf(canvas, file, QStringLiteral("a"), 1, onePage), QString());
     EXPECT_TRUE(QFileInfo::exists(file));
-    setPage(canvas, 10, kMaximumPdfSide + 1);
-    EXPECT_FALSE(writePdf(canvas, file, 1, onePage).isEmpty());
+    setPage(canvas, 10, MaximumPdfSide + 1);
+    EXPECT_FALSE(writePdf(canvas, file, QStringLiteral("a"), 1, onePage).isEmpty());
 }
 
 } // namespace

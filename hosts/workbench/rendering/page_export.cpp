@@ -2,6 +2,8 @@
 
 #include "workbench/canvas/canvas.h"
 #include "workbench/rendering/page_painter.h"
+#include "workbench/rendering/svg_groups.h"
+#include "workbench/rendering/true_size_pdf.h"
 #include "workbench/rendering/whole_file.h"
 
 #include <QBuffer>
@@ -16,19 +18,17 @@
 #include <QSvgGenerator>
 
 #include <algorithm>
+#include <cmath>
 
 namespace workbench {
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
-constexpr double kMillimetresPerInch = 25.4;
-constexpr int kPdfDpi = 1200;
+constexpr double PointsPerInch = 72.0;
+constexpr double MillimetersPerInch = 25.4;
+constexpr int PdfDpi = 1200;
 // The head of a document that holds its size.
-constexpr qsizetype kHeadLength = 600;
-
-// Stands in the files: a label's output is the same in every language of the program.
-const QString DocumentTitle = QStringLiteral("Label");
+constexpr qsizetype HeadLength = 600;
 
 struct Words
 {
@@ -47,18 +47,18 @@ int layoutDpi()
     return screen != nullptr ? qRound(screen->logicalDotsPerInch()) : 96;
 }
 
-QByteArray millimetres(double points)
+QByteArray millimeters(double points)
 {
-    return QByteArray::number(points / kPointsPerInch * kMillimetresPerInch, 'g', 8) + "mm";
+    return QByteArray::number(points / PointsPerInch * MillimetersPerInch, 'g', 8) + "mm";
 }
 
 // The generator rounds the size of a document to pixels; a label is cut to size.
 QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
 {
-    QString head = QString::fromUtf8(svg.left(kHeadLength));
+    QString head = QString::fromUtf8(svg.left(HeadLength));
     static const QRegularExpression size(QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
-    const QByteArray exact = "<svg width=\"" + millimetres(page.width()) + "\" height=\"" +
-                             millimetres(page.height()) + '"';
+    const QByteArray exact = "<svg width=\"" + millimeters(page.width()) + "\" height=\"" +
+                             millimeters(page.height()) + '"';
     const QRegularExpressionMatch match = size.match(head);
     if (match.hasMatch()) {
         svg.replace(match.capturedStart(), match.capturedLength(), exact);
@@ -66,7 +66,7 @@ QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
     return svg;
 }
 
-QByteArray svgOf(const Canvas& canvas)
+QByteArray svgOf(const Canvas& canvas, const QString& title)
 {
     QBuffer buffer;
     QSvgGenerator generator;
@@ -74,56 +74,59 @@ QByteArray svgOf(const Canvas& canvas)
     generator.setResolution(layoutDpi());
     generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
     generator.setViewBox(canvas.pageRect());
-    generator.setTitle(DocumentTitle);
+    generator.setTitle(title.toHtmlEscaped()); // the generator does not escape it
     generator.setDescription(QStringLiteral("LabelPort"));
     QPainter painter(&generator);
-    paintPage(painter, canvas);
+    paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
     painter.end();
-    return withTrueSize(buffer.data(), canvas.page().size);
+    return withNamedItems(withTrueSize(buffer.data(), canvas.page().size));
 }
 
+// In whole points, as QPdfWriter writes it, and large enough for the page: TrueSizePdf cuts it.
 QPageSize pageSizeOf(const Canvas& canvas)
 {
-    return QPageSize(canvas.page().size, QPageSize::Point, {}, QPageSize::ExactMatch);
+    const QSizeF page = canvas.page().size;
+    return QPageSize(QSizeF(std::ceil(page.width()), std::ceil(page.height())), QPageSize::Point,
+                     {}, QPageSize::ExactMatch);
 }
 
 bool isTooLargeForPdf(const QSizeF& page)
 {
-    return std::max(page.width(), page.height()) > kMaximumPdfSide;
+    return std::max(page.width(), page.height()) > MaximumPdfSide;
 }
 
-void setUp(QPdfWriter& writer, const Canvas& canvas)
+void setUp(QPdfWriter& writer, const Canvas& canvas, const QString& title)
 {
-    writer.setResolution(kPdfDpi);
+    writer.setResolution(PdfDpi);
     writer.setPageSize(pageSizeOf(canvas));
     writer.setPageOrientation(QPageLayout::Portrait);
     writer.setPageMargins(QMarginsF());
     writer.setCreator(QStringLiteral("LabelPort"));
-    writer.setTitle(DocumentTitle);
+    writer.setTitle(title);
 }
 
 } // namespace
 
-QString writeSvg(const Canvas& canvas, const QString& fileName)
+QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& title)
 {
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly)) {
         return cannotWrite(fileName, file.errorString());
     }
-    const QByteArray svg = svgOf(canvas);
+    const QByteArray svg = svgOf(canvas, title);
     if (file.write(svg) != svg.size() || !commitWhole(file)) {
         return cannotWrite(fileName, file.errorString());
     }
     return {};
 }
 
-QString writePdf(const Canvas& canvas, const QString& fileName, qint64 pages,
+QString writePdf(const Canvas& canvas, const QString& fileName, const QString& title, qint64 pages,
                  const PreparePage& prepare)
 {
     if (isTooLargeForPdf(canvas.page().size)) {
         return Words::tr(
                    "The page is longer than %1 points, the most that a PDF document can have.")
-            .arg(kMaximumPdfSide);
+            .arg(MaximumPdfSide);
     }
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly)) {
@@ -132,8 +135,9 @@ QString writePdf(const Canvas& canvas, const QString& fileName, qint64 pages,
     bool isComplete = false;
     bool isStopped = false;
     {
-        QPdfWriter writer(&file);
-        setUp(writer, canvas);
+        TrueSizePdf document(file, canvas.page().size);
+        QPdfWriter writer(&document);
+        setUp(writer, canvas, title);
         isComplete = paintPages(writer, canvas, pages, [&](qint64 page) {
             isStopped = !prepare(page);
             return !isStopped;
@@ -162,7 +166,7 @@ bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,
             return false;
         }
         painter.save();
-        painter.scale(device.logicalDpiX() / kPointsPerInch, device.logicalDpiY() / kPointsPerInch);
+        painter.scale(device.logicalDpiX() / PointsPerInch, device.logicalDpiY() / PointsPerInch);
         paintPage(painter, canvas);
         painter.restore();
     }

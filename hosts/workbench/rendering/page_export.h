@@ -12,25 +12,25 @@ namespace workbench {
 class Canvas;
 
 /// Longest side of a page that a PDF document can have, in points.
-inline constexpr double kMaximumPdfSide = 14'400.0;
+inline constexpr double MaximumPdfSide = 14'400.0;
 
-/// Brings the canvas to what the page of this number, counted from 0, is to show. False
-/// stops the writing; nothing is left of it then.
+/// Prepares the canvas for the page of this number, counted from 0. Return false to stop; then
+/// nothing is written.
 using PreparePage = std::function<bool(qint64 page)>;
 
-/// Writes the page as SVG in its true size: lines as lines, text as text. The file appears
-/// whole or, when something fails, stays what it was. Returns in plain words what failed,
-/// else nothing.
-[[nodiscard]] QString writeSvg(const Canvas& canvas, const QString& fileName);
+/// Writes the page as SVG in its true size: lines as lines, text as text, and each item as a group
+/// "item-N", counted from the bottom. The file is replaced completely or, on failure, not at all.
+/// Returns the error for the user; empty on success.
+[[nodiscard]] QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& title);
 
-/// Writes a PDF document of so many pages in their true size, text as text. The file
-/// appears whole or, when something fails or is stopped, stays what it was. Returns in plain
-/// words what failed, else nothing; a document that was stopped is no failure.
-[[nodiscard]] QString writePdf(const Canvas& canvas, const QString& fileName, qint64 pages,
-                               const PreparePage& prepare);
+/// Writes a PDF document with this number of pages in their true size, text as text. The file is
+/// replaced completely or, on failure or if stopped, not at all. Returns the error for the user;
+/// empty on success, and if stopped.
+[[nodiscard]] QString writePdf(const Canvas& canvas, const QString& fileName, const QString& title,
+                               qint64 pages, const PreparePage& prepare);
 
-/// Paints pages in their true size on a printer or the like, each at the upper left corner
-/// of the paper. False when it was stopped or the device failed.
+/// Paints pages in their true size on a printer, each at the upper left corner of the paper. False
+/// if it was stopped or the device failed.
 [[nodiscard]] bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,
                               const PreparePage& prepare);
 

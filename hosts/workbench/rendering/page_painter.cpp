@@ -22,15 +22,20 @@ void paintItem(QPainter& painter, QGraphicsItem& item)
 
 } // namespace
 
-void paintPage(QPainter& painter, const Canvas& canvas)
+void paintPage(QPainter& painter, const Canvas& canvas, const BeforeItem& beforeItem)
 {
     const QRectF page = canvas.pageRect();
     painter.save();
     painter.setClipRect(page, Qt::IntersectClip);
     painter.fillRect(page, canvas.canvasBackgroundColor());
     const QList<CanvasItem*> items = canvas.itemsFromBottom();
+    int position = 0;
     for (CanvasItem* item : items) {
+        ++position;
         if (item->graphicsItem()->sceneBoundingRect().intersects(page)) {
+            if (beforeItem) {
+                beforeItem(position);
+            }
             paintItem(painter, *item->graphicsItem());
         }
     }

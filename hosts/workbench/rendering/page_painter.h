@@ -1,15 +1,20 @@
 #pragma once
 
+#include <functional>
+
 class QPainter;
 
 namespace workbench {
 
 class Canvas;
 
-/// Paints the page and its items as they lie on one another; nothing goes beyond the page.
+/// Called before an item is painted, with its position in the stack, counted from 1.
+using BeforeItem = std::function<void(int position)>;
+
+/// Paints the page and its items from bottom to top, clipped to the page.
 ///
 /// The painter's unit must be the point, its origin the upper left corner of the page.
-/// Every output goes through here, so a picture, a print and a vector file show the same.
-void paintPage(QPainter& painter, const Canvas& canvas);
+/// Pictures, prints and vector files are all painted by this function, so that they look alike.
+void paintPage(QPainter& painter, const Canvas& canvas, const BeforeItem& beforeItem = {});
 
 } // namespace workbench

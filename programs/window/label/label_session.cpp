@@ -63,15 +63,24 @@ bool LabelSession::openFile(const QString& fileName)
     if (!confirmDiscard()) {
         return false;
     }
+    const QString error = openFileQuietly(fileName);
+    if (!error.isEmpty()) {
+        showFileError(fileName, error);
+        return false;
+    }
+    return true;
+}
+
+QString LabelSession::openFileQuietly(const QString& fileName)
+{
     ReadLabel read = readAnyLabel(fileName);
     if (!read.label) {
-        showFileError(fileName, read.error);
-        return false;
+        return read.error;
     }
     setLabel(std::move(*read.label));
     m_recentFiles.add(fileName);
     Q_EMIT recentFilesChanged();
-    return true;
+    return {};
 }
 
 void LabelSession::importByDialog()

@@ -35,6 +35,9 @@ public:
     void openByDialog();
     /// Opens a saved label, or imports a legacy one. False when that failed or was cancelled.
     bool openFile(const QString& fileName);
+    /// As openFile(), without questions and messages, for a session without unsaved changes.
+    /// Returns the reason if the file cannot be opened, else an empty text.
+    [[nodiscard]] QString openFileQuietly(const QString& fileName);
     /// Imports by the dialog of the importer and saves the label beside the legacy file.
     void importByDialog();
     bool save();

@@ -15,10 +15,16 @@ namespace {
 
 constexpr int kFewestDigits = 3;
 
+// Without the suffix.
+QString titleOf(const OpenLabel& label)
+{
+    return QFileInfo(displayName(label)).completeBaseName();
+}
+
 QString writeRecord(const OpenLabel& label, const OutputOrder& order, const QString& fileName)
 {
     if (order.format == OutputFormat::Svg) {
-        return workbench::writeSvg(*label.canvas, fileName);
+        return workbench::writeSvg(*label.canvas, fileName, titleOf(label));
     }
     const workbench::PageImage page = workbench::renderPage(*label.canvas, order.dpi);
     return page.error.isEmpty() ? workbench::writePng(page.image, fileName) : page.error;
@@ -75,7 +81,8 @@ OutputReport writeDocument(OpenLabel& label, const OutputOrder& order, const Pro
 {
     Pages pages(label, order.records, progress);
     OutputReport report;
-    report.error = workbench::writePdf(*label.canvas, order.fileName, order.records.count,
+    report.error = workbench::writePdf(*label.canvas, order.fileName, titleOf(label),
+                                       order.records.count,
                                        [&pages](qint64 page) { return pages.prepare(page); });
     report.wasStopped = pages.wasStopped();
     report.files = report.error.isEmpty() && !report.wasStopped ? 1 : 0;
