@@ -43,16 +43,25 @@ install_packages() {
 }
 
 # build_preset PRESET [CMAKE ARGUMENT...]: configures and builds build/PRESET.
-# Quiet when all is well; the whole log when it is not.
+# Ninja shows the progress on a terminal. Elsewhere only the log of a failed build is printed.
 build_preset() {
     local preset=$1 log
     shift
     log=$(mktemp)
-    say "Building ($preset) ..."
-    if ! (cd "$project_root" && cmake --preset "$preset" "$@" && cmake --build --preset "$preset") \
-        >"$log" 2>&1; then
+    if ! (cd "$project_root" && cmake --preset "$preset" "$@") >"$log" 2>&1; then
         cat "$log" >&2
         rm -f "$log"
+        say "Cannot configure the build."
+        return 1
+    fi
+    if [ -t 2 ]; then
+        (cd "$project_root" && cmake --build --preset "$preset") >&2 || log=
+    elif ! (cd "$project_root" && cmake --build --preset "$preset") >"$log" 2>&1; then
+        cat "$log" >&2
+        rm -f "$log"
+        log=
+    fi
+    if [ -z "$log" ]; then
         say "The build failed."
         return 1
     fi

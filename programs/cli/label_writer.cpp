@@ -1,8 +1,8 @@
 #include "cli/label_writer.h"
 
+#include "archive/publish.h"
 #include "cli/existing_output.h"
 #include "cli/opened_label.h"
-#include "archive/publish.h"
 #include "workbench/document/label_file.h"
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"

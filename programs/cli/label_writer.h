@@ -1,9 +1,9 @@
 #pragma once
 
-#include "cli/record_range.h"
-#include "cli/targets.h"
 #include "archive/messages.h"
 #include "archive/worker_loop.h"
+#include "cli/record_range.h"
+#include "cli/targets.h"
 
 #include <QList>
 #include <QString>

@@ -16,9 +16,6 @@ struct RecordRange
 {
     qint64 first = 1;
     std::optional<qint64> last = 1;
-
-    /// Whether the output is one of a series, whose files carry a number.
-    [[nodiscard]] bool isSeries() const { return last != first; }
 };
 
 /// Reads "all", "7", "3-12" or "3-"; nothing for anything else.

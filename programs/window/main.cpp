@@ -1,10 +1,10 @@
 // labelport-workbench: opens legacy labels in a window.
 
+#include "translations/program_language.h"
 #include "window/actions/icons.h"
 #include "window/actions/palettes.h"
 #include "window/main_window.h"
 #include "window/window_picture.h"
-#include "translations/program_language.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -59,9 +59,8 @@ Options readOptions(const QStringList& arguments)
     parser.process(arguments);
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1) {
-        const QString message =
-            Words::tr("A window shows one label, but %n files were given.", nullptr,
-                      static_cast<int>(files.size()));
+        const QString message = Words::tr("A window shows one label, but %n files were given.",
+                                          nullptr, static_cast<int>(files.size()));
         printError(message);
         std::exit(WrongUsage);
     }

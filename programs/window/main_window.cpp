@@ -1,11 +1,11 @@
 #include "window/main_window.h"
 
 #include "window/canvas/canvas_view.h"
-#include "window/label/issues_panel.h"
-#include "window/properties/item_panel.h"
-#include "window/output/output_commands.h"
-#include "window/properties/property_panel.h"
 #include "window/canvas/ruled_canvas.h"
+#include "window/label/issues_panel.h"
+#include "window/output/output_commands.h"
+#include "window/properties/item_panel.h"
+#include "window/properties/property_panel.h"
 #include "window/shortcuts_dialog.h"
 #include "window/sources/source_panel.h"
 #include "workbench/canvas/canvas.h"
@@ -17,6 +17,8 @@
 #include <QStatusBar>
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace window {
 
@@ -178,15 +180,14 @@ void MainWindow::refreshSelection()
 void MainWindow::refreshIssues()
 {
     m_panels->issues().setIssues(m_session->label() != nullptr ? currentIssues(*m_session->label())
-                                                            : QList<Issue>());
+                                                               : QList<Issue>());
 }
 
 void MainWindow::refreshTitle()
 {
     const QString program = tr("LabelPort Workbench");
     const OpenLabel* label = m_session->label();
-    setWindowTitle(label != nullptr ? displayName(*label) + QStringLiteral("[*] – ") + program
-                                    : program);
+    setWindowTitle(label != nullptr ? displayName(*label) + u"[*] – "_s + program : program);
     setWindowModified(m_session->hasUnsavedChanges());
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "window/actions/palettes.h"
 #include "window/label/label_session.h"
 #include "window/properties/length_unit.h"
-#include "window/actions/palettes.h"
 #include "window/status_line.h"
 #include "window/window_panels.h"
 

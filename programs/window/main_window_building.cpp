@@ -1,10 +1,10 @@
 // How the main window is put together: its parts, its menus, what each command does.
 
 #include "window/canvas/canvas_view.h"
-#include "window/label/issues_panel.h"
-#include "window/properties/item_panel.h"
-#include "window/main_window.h"
 #include "window/canvas/ruled_canvas.h"
+#include "window/label/issues_panel.h"
+#include "window/main_window.h"
+#include "window/properties/item_panel.h"
 #include "window/welcome_page.h"
 #include "workbench/canvas/canvas.h"
 
@@ -19,28 +19,30 @@
 #include <QToolBar>
 #include <QUrl>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
 
 QString geometryKey()
 {
-    return QStringLiteral("window/geometry");
+    return u"window/geometry"_s;
 }
 
 QString stateKey()
 {
-    return QStringLiteral("window/state");
+    return u"window/state"_s;
 }
 
 QString unitKey()
 {
-    return QStringLiteral("window/unit");
+    return u"window/unit"_s;
 }
 
 QString rulersKey()
 {
-    return QStringLiteral("window/rulers");
+    return u"window/rulers"_s;
 }
 
 // The files among what is dragged; web addresses are none.
@@ -94,7 +96,7 @@ void MainWindow::buildMenus()
 void MainWindow::buildToolBar()
 {
     QToolBar* bar = addToolBar(tr("Tools"));
-    bar->setObjectName(QStringLiteral("tools"));
+    bar->setObjectName(u"tools"_s);
     bar->setAccessibleName(tr("Tools"));
     bar->setIconSize({20, 20});
     const QList<QList<ActionId>> groups{
@@ -125,9 +127,9 @@ void MainWindow::fillRecentMenu()
     for (const QString& fileName : files) {
         // An ampersand in a name is no mnemonic.
         QString shown = QFileInfo(fileName).fileName();
-        shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
-        QAction* entry = m_recentMenu->addAction(QStringLiteral("&%1  ").arg(++number) + shown,
-                                                 this, [this, fileName] { openFile(fileName); });
+        shown.replace(QLatin1Char('&'), u"&&"_s);
+        QAction* entry = m_recentMenu->addAction(u"&%1  "_s.arg(++number) + shown, this,
+                                                 [this, fileName] { openFile(fileName); });
         entry->setToolTip(fileName);
         entry->setStatusTip(fileName);
     }

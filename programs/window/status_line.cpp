@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QStatusBar>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -33,9 +35,9 @@ StatusLine::StatusLine(QStatusBar& bar)
 
 void StatusLine::setPointer(std::optional<QPointF> point, LengthUnit unit)
 {
-    m_pointer->setText(point ? lengthNumber(point->x(), unit) + QStringLiteral("; ") +
-                                   lengthText(point->y(), unit)
-                             : QString());
+    m_pointer->setText(point
+                           ? lengthNumber(point->x(), unit) + u"; "_s + lengthText(point->y(), unit)
+                           : QString());
 }
 
 void StatusLine::setPage(std::optional<QSizeF> size, LengthUnit unit)

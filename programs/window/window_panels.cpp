@@ -3,14 +3,16 @@
 #include "window/label/issues_panel.h"
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
-#include "window/sources/source_panel.h"
 #include "window/properties/tables.h"
+#include "window/sources/source_panel.h"
 
 #include <QCoreApplication>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QSpinBox>
 #include <QTableView>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace window {
 
@@ -46,14 +48,14 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
     , m_properties(new PropertyPanel)
     , m_sources(new SourcePanel(actions))
     , m_issues(new IssuesPanel)
-    , m_itemDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Items"),
-                          QStringLiteral("items"), *m_items))
+    , m_itemDock(
+          makeDock(window, Qt::RightDockWidgetArea, Words::tr("Items"), u"items"_s, *m_items))
     , m_propertyDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Properties"),
-                              QStringLiteral("properties"), *m_properties))
+                              u"properties"_s, *m_properties))
     , m_sourceDock(makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Data Sources"),
-                            QStringLiteral("sources"), *m_sources))
-    , m_issueDock(makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Issues"),
-                           QStringLiteral("issues"), *m_issues))
+                            u"sources"_s, *m_sources))
+    , m_issueDock(
+          makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Issues"), u"issues"_s, *m_issues))
 {
     // The right side goes down to the status bar: lists of items are long.
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);

@@ -34,7 +34,6 @@ TEST(ImportOptions, HaveDefaults)
     const cli::ImportOptions options = accepted("a.odg");
     EXPECT_EQ(options.files, QStringList{QStringLiteral("a.odg")});
     EXPECT_EQ(options.targets, QList<cli::Target>{cli::Target::Png});
-    EXPECT_FALSE(options.job.records.isSeries());
     EXPECT_EQ(options.job.records.first, 1);
     EXPECT_EQ(options.job.dpi, 300);
     EXPECT_EQ(options.outputDir, QStringLiteral("."));

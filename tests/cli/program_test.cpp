@@ -113,6 +113,21 @@ TEST_F(LabelportProgram, NumbersThePicturesOfASeries)
               QImage(path(QStringLiteral("asset_tag-0003.png"))));
 }
 
+// The number of records that are written decides, not the way they are given.
+TEST_F(LabelportProgram, NumbersFilesOnlyIfThereAreSeveral)
+{
+    for (const char* records : {"5", "5-5"}) {
+        const Outcome outcome = labelport(
+            {QStringLiteral("import"), sample("orvanta/asset_tag.qmtx"),
+             QStringLiteral("--records"), QString::fromLatin1(records), QStringLiteral("--force")});
+        EXPECT_EQ(outcome.out, QStringLiteral("asset_tag.png\n")) << records;
+    }
+    const Outcome outcome =
+        labelport({QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
+                   QStringLiteral("--records"), QStringLiteral("all")});
+    EXPECT_EQ(outcome.out, QStringLiteral("sample_vial.png\n"));
+}
+
 TEST_F(LabelportProgram, RefusesRecordsThatALabelDoesNotHave)
 {
     const Outcome outcome =

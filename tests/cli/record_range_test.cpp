@@ -17,7 +17,6 @@ TEST(RecordRange, IsOneRecord)
     ASSERT_TRUE(one);
     EXPECT_EQ(one->first, 7);
     EXPECT_EQ(one->last, 7);
-    EXPECT_FALSE(one->isSeries());
 }
 
 TEST(RecordRange, IsFromOneToAnother)
@@ -26,8 +25,6 @@ TEST(RecordRange, IsFromOneToAnother)
     ASSERT_TRUE(some);
     EXPECT_EQ(some->first, 3);
     EXPECT_EQ(some->last, 12);
-    EXPECT_TRUE(some->isSeries());
-    EXPECT_FALSE(range("5-5")->isSeries());
 }
 
 TEST(RecordRange, HasNoEndUnlessOneIsNamed)
@@ -36,7 +33,6 @@ TEST(RecordRange, HasNoEndUnlessOneIsNamed)
     EXPECT_FALSE(range("3-")->last);
     EXPECT_EQ(range("all")->first, 1);
     EXPECT_FALSE(range("all")->last);
-    EXPECT_TRUE(range("all")->isSeries());
 }
 
 TEST(RecordRange, RefusesWhatIsNoRange)

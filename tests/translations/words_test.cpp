@@ -1,7 +1,7 @@
 // What is said in another language where it matters that it is the right thing.
 
-#include "window/actions/actions.h"
 #include "translations/program_language.h"
+#include "window/actions/actions.h"
 #include "workbench/barcodes/barcode_encoder.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/datasources/datasource_controller.h"
@@ -16,8 +16,8 @@
 
 #include <gtest/gtest.h>
 
-using window::MenuId;
 using translations::ProgramLanguage;
+using window::MenuId;
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The commands on files, with their questions and messages: the real dialogs are answered.
 
-#include "window_fixture.h"
 #include "dialog_driver.h"
+#include "window_fixture.h"
 
-#include "window/label/label_session.h"
 #include "window/label/label_files.h"
+#include "window/label/label_session.h"
 
 #include <QFileDialog>
 #include <QMessageBox>

@@ -1,13 +1,13 @@
 // The window as a whole: what its commands do to what is seen.
 
-#include "window_fixture.h"
 #include "dialog_driver.h"
+#include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
 #include "window/label/issues_panel.h"
-#include "window/properties/item_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
+#include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/sources/source_panel.h"
 

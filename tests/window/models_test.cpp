@@ -3,13 +3,13 @@
 #include "window_fixture.h"
 
 #include "window/actions/actions.h"
-#include "window/label/issue_list_model.h"
-#include "window/properties/item_table_model.h"
 #include "window/actions/palettes.h"
-#include "window/properties/property_model.h"
+#include "window/label/issue_list_model.h"
 #include "window/label/recent_files.h"
-#include "window/sources/source_table_model.h"
+#include "window/properties/item_table_model.h"
+#include "window/properties/property_model.h"
 #include "window/properties/style_names.h"
+#include "window/sources/source_table_model.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>

@@ -1,13 +1,13 @@
 // Export and print: files, series of records, what the dialogs ask.
 
-#include "window_fixture.h"
 #include "dialog_driver.h"
+#include "window_fixture.h"
 
-#include "window/output/export_dialog.h"
 #include "window/label/label_files.h"
+#include "window/label/prompts.h"
+#include "window/output/export_dialog.h"
 #include "window/output/output_commands.h"
 #include "window/output/output_job.h"
-#include "window/label/prompts.h"
 #include "window/output/record_chooser.h"
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"

@@ -1,8 +1,8 @@
 // The rulers' scale: round steps, labels that do not run into one another, no more ticks
 // than there is room for.
 
-#include "window/properties/length_unit.h"
 #include "window/canvas/ruler_scale.h"
+#include "window/properties/length_unit.h"
 
 #include <QLocale>
 

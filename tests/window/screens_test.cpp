@@ -1,15 +1,15 @@
 // Every screen once, for looking at: the pictures are in the folder "screens" of the build.
 
-#include "window_fixture.h"
 #include "dialog_driver.h"
+#include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
-#include "window/output/export_dialog.h"
 #include "window/label/issues_panel.h"
-#include "window/properties/item_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
+#include "window/output/export_dialog.h"
 #include "window/output/record_chooser.h"
+#include "window/properties/item_panel.h"
 #include "window/shortcuts_dialog.h"
 
 #include <QApplication>
@@ -96,7 +96,8 @@ TEST_F(ScreensTest, WithEachFormat)
         keepPicture(window, QString::fromLatin1(picture));
         EXPECT_GT(colorsOf(window.view()), 10);
         // Saved, so that the next one comes without a question.
-        ASSERT_EQ(writeLabel(*window.session().label(), path(QStringLiteral("x.label"))), QString());
+        ASSERT_EQ(writeLabel(*window.session().label(), path(QStringLiteral("x.label"))),
+                  QString());
         window.session().label()->fileName = path(QStringLiteral("x.label"));
     }
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "window/label/open_label.h"
 #include "host/items/barcode_item.h"
 #include "host/items/item.h"
+#include "window/label/open_label.h"
 #include "workbench/canvas/canvas.h"
 
 #include <QDir>

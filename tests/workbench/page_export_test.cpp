@@ -67,8 +67,7 @@ protected:
 TEST_F(PageExport, PagesOfADocumentHaveTheExactSize)
 {
     const QByteArray pdf = document();
-    static const QRegularExpression box(
-        u"/MediaBox \\[0 ([0-9.]+) ([0-9.]+) ([0-9.]+) *\\]"_s);
+    static const QRegularExpression box(u"/MediaBox \\[0 ([0-9.]+) ([0-9.]+) ([0-9.]+) *\\]"_s);
     QRegularExpressionMatchIterator boxes = box.globalMatch(QString::fromLatin1(pdf));
     int pages = 0;
     while (boxes.hasNext()) {

@@ -15,8 +15,8 @@ QByteArray mediaBox(const QSizeF& page)
 {
     const double top = std::ceil(page.height());
     const double bottom = std::round((top - page.height()) * 1000.0) / 1000.0;
-    return "0 " + QByteArray::number(bottom) + ' ' +
-           QByteArray::number(page.width(), 'f', 4) + ' ' + QByteArray::number(top, 'f', 0);
+    return "0 " + QByteArray::number(bottom) + ' ' + QByteArray::number(page.width(), 'f', 4) +
+           ' ' + QByteArray::number(top, 'f', 0);
 }
 
 } // namespace

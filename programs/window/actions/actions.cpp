@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QKeySequence>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -23,7 +25,7 @@ struct ActionRow
 };
 
 // In the order of the menus. Every action has a key of its own.
-constexpr ActionRow kActions[] = {
+constexpr ActionRow ActionRows[] = {
     {ActionId::Open, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Open…"), "Ctrl+O",
      IconName::Open, Always, Command,
      QT_TRANSLATE_NOOP("window::Actions", "Opens a saved label or a legacy one")},
@@ -69,8 +71,8 @@ constexpr ActionRow kActions[] = {
      "Ctrl+0", IconName::Fit, Label, Command,
      QT_TRANSLATE_NOOP("window::Actions",
                        "Shows the whole label, and keeps it whole when the window changes")},
-    {ActionId::ZoomTrue, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&True Size"),
-     "Ctrl+1", IconName::None, Label, Command,
+    {ActionId::ZoomTrue, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&True Size"), "Ctrl+1",
+     IconName::None, Label, Command,
      QT_TRANSLATE_NOOP("window::Actions", "Shows the label in the size in which it is printed")},
     {ActionId::ZoomSelection, MenuId::View,
      QT_TRANSLATE_NOOP("window::Actions", "Zoom to &Selection"), "Ctrl+2", IconName::None, Label,
@@ -86,8 +88,8 @@ constexpr ActionRow kActions[] = {
      "Ctrl+Shift+M", IconName::None, Always, Choice,
      QT_TRANSLATE_NOOP("window::Actions", "Shows lengths in inches")},
     {ActionId::SystemColors, MenuId::Colors,
-     QT_TRANSLATE_NOOP("window::Actions", "Like the &System"), "Ctrl+Alt+S", IconName::None,
-     Always, Choice, QT_TRANSLATE_NOOP("window::Actions", "Takes the colors of the desktop")},
+     QT_TRANSLATE_NOOP("window::Actions", "Like the &System"), "Ctrl+Alt+S", IconName::None, Always,
+     Choice, QT_TRANSLATE_NOOP("window::Actions", "Takes the colors of the desktop")},
     {ActionId::LightColors, MenuId::Colors, QT_TRANSLATE_NOOP("window::Actions", "&Light"),
      "Ctrl+Alt+L", IconName::None, Always, Choice,
      QT_TRANSLATE_NOOP("window::Actions", "Dark text on light windows")},
@@ -119,15 +121,13 @@ constexpr ActionRow kActions[] = {
     {ActionId::NextRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Next"),
      "Alt+Right", IconName::Next, Label, Command,
      QT_TRANSLATE_NOOP("window::Actions", "Shows the record after")},
-    {ActionId::LastRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Last"),
-     "Alt+End", IconName::Last, Label, Command,
-     QT_TRANSLATE_NOOP("window::Actions", "Shows the last record")},
+    {ActionId::LastRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Last"), "Alt+End",
+     IconName::Last, Label, Command, QT_TRANSLATE_NOOP("window::Actions", "Shows the last record")},
     {ActionId::GoRecord, MenuId::Record, QT_TRANSLATE_NOOP("window::Actions", "&Go to…"), "Ctrl+G",
      IconName::None, Label, Command,
      QT_TRANSLATE_NOOP("window::Actions", "Puts the keyboard on the record's number")},
-    {ActionId::Shortcuts, MenuId::Help,
-     QT_TRANSLATE_NOOP("window::Actions", "&Keyboard Shortcuts"), "F1", IconName::None, Always,
-     Command, QT_TRANSLATE_NOOP("window::Actions", "Shows all keys")},
+    {ActionId::Shortcuts, MenuId::Help, QT_TRANSLATE_NOOP("window::Actions", "&Keyboard Shortcuts"),
+     "F1", IconName::None, Always, Command, QT_TRANSLATE_NOOP("window::Actions", "Shows all keys")},
     {ActionId::About, MenuId::Help, QT_TRANSLATE_NOOP("window::Actions", "&About"), "Ctrl+F1",
      IconName::None, Always, Command,
      QT_TRANSLATE_NOOP("window::Actions", "Shows what program this is")},
@@ -139,7 +139,7 @@ struct MenuRow
     const char* title;
 };
 
-constexpr MenuRow kMenus[] = {
+constexpr MenuRow Menus[] = {
     {MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&File")},
     {MenuId::Edit, QT_TRANSLATE_NOOP("window::Actions", "&Edit")},
     {MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&View")},
@@ -166,8 +166,8 @@ QAction* makeAction(const ActionRow& row, QObject* parent)
         QKeySequence::listFromString(QString::fromLatin1(row.keys), QKeySequence::PortableText));
     const QString hint = translated(row.hint);
     action->setStatusTip(hint);
-    action->setToolTip(hint + QStringLiteral(" (") +
-                       action->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'));
+    action->setToolTip(hint + u" ("_s + action->shortcut().toString(QKeySequence::NativeText) +
+                       QLatin1Char(')'));
     action->setCheckable(row.kind == Choice);
     return action;
 }
@@ -175,7 +175,7 @@ QAction* makeAction(const ActionRow& row, QObject* parent)
 QString keysOf(const QAction& action)
 {
     return QKeySequence::listToString(action.shortcuts(), QKeySequence::NativeText)
-        .replace(QStringLiteral("; "), QStringLiteral(", "));
+        .replace(u"; "_s, u", "_s);
 }
 
 } // namespace
@@ -183,7 +183,7 @@ QString keysOf(const QAction& action)
 Actions::Actions(QObject* parent)
     : QObject(parent)
 {
-    for (const ActionRow& row : kActions) {
+    for (const ActionRow& row : ActionRows) {
         m_actions[row.id] = makeAction(row, this);
     }
     group({ActionId::Millimetres, ActionId::Inches});
@@ -203,7 +203,7 @@ void Actions::group(std::initializer_list<ActionId> ids)
 QList<QAction*> Actions::ofMenu(MenuId menu) const
 {
     QList<QAction*> actions;
-    for (const ActionRow& row : kActions) {
+    for (const ActionRow& row : ActionRows) {
         if (row.menu == menu) {
             actions.append(&at(row.id));
         }
@@ -213,7 +213,7 @@ QList<QAction*> Actions::ofMenu(MenuId menu) const
 
 void Actions::drawIcons(const QPalette& palette)
 {
-    for (const ActionRow& row : kActions) {
+    for (const ActionRow& row : ActionRows) {
         if (row.icon != IconName::None) {
             at(row.id).setIcon(icon(row.icon, palette));
         }
@@ -222,7 +222,7 @@ void Actions::drawIcons(const QPalette& palette)
 
 void Actions::setLabelOpen(bool open)
 {
-    for (const ActionRow& row : kActions) {
+    for (const ActionRow& row : ActionRows) {
         at(row.id).setEnabled(row.need == Always || open);
     }
 }
@@ -230,7 +230,7 @@ void Actions::setLabelOpen(bool open)
 QList<ShortcutRow> Actions::shortcuts() const
 {
     QList<ShortcutRow> rows;
-    for (const ActionRow& row : kActions) {
+    for (const ActionRow& row : ActionRows) {
         rows.append({withoutMnemonic(menuTitle(row.menu)), withoutMnemonic(translated(row.text)),
                      keysOf(at(row.id))});
     }
@@ -239,7 +239,7 @@ QList<ShortcutRow> Actions::shortcuts() const
 
 QString menuTitle(MenuId menu)
 {
-    for (const MenuRow& row : kMenus) {
+    for (const MenuRow& row : Menus) {
         if (row.id == menu) {
             return translated(row.title);
         }

@@ -6,6 +6,8 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -16,7 +18,7 @@ struct IconRow
     const char* path; // lines in a square of 24 by 24
 };
 
-constexpr IconRow kIcons[] = {
+constexpr IconRow Icons[] = {
     {IconName::Open, "M3 19V6a1 1 0 0 1 1-1h5l2 3h8a1 1 0 0 1 1 1v2M3 19l3-8h16l-3 8z"},
     {IconName::Import, "M12 3v11M8 10l4 4 4-4M4 15v5h16v-5"},
     {IconName::Save, "M4 4h13l3 3v13H4zM8 4v5h8V4M7 20v-7h10v7"},
@@ -35,7 +37,7 @@ constexpr IconRow kIcons[] = {
 
 const char* pathOf(IconName name)
 {
-    for (const IconRow& row : kIcons) {
+    for (const IconRow& row : Icons) {
         if (row.name == name) {
             return row.path;
         }
@@ -83,7 +85,7 @@ QIcon icon(IconName name, const QPalette& palette)
 QIcon applicationIcon()
 {
     // The drawing that the desktop shows too.
-    QFile drawing(QStringLiteral(":/labelport/icons/labelport-workbench.svg"));
+    QFile drawing(u":/labelport/icons/labelport-workbench.svg"_s);
     const QByteArray svg = drawing.open(QIODevice::ReadOnly) ? drawing.readAll() : QByteArray();
     QIcon result;
     for (const int side : {16, 24, 32, 48, 64, 128}) {

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QSettings>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -23,10 +25,10 @@ struct PaletteColors
 
 // Texts have a contrast of more than seven to one, faint ones of more than four and a half
 // to one in what is not disabled.
-constexpr PaletteColors kLight{0xfff3f3f4, 0xff1b1c1e, 0xffffffff, 0xfff6f7f9, 0xffececee,
-                               0xfffffbe6, 0xff1a63c6, 0xffffffff, 0xff0b57d0, 0xff6b6f76};
-constexpr PaletteColors kDark{0xff2a2c30, 0xffe8eaed, 0xff1e2023, 0xff24262a, 0xff36393f,
-                              0xff3a3d43, 0xff3f7fdc, 0xffffffff, 0xff8ab4f8, 0xffa0a4ab};
+constexpr PaletteColors LightColors{0xfff3f3f4, 0xff1b1c1e, 0xffffffff, 0xfff6f7f9, 0xffececee,
+                                    0xfffffbe6, 0xff1a63c6, 0xffffffff, 0xff0b57d0, 0xff6b6f76};
+constexpr PaletteColors DarkColors{0xff2a2c30, 0xffe8eaed, 0xff1e2023, 0xff24262a, 0xff36393f,
+                                   0xff3a3d43, 0xff3f7fdc, 0xffffffff, 0xff8ab4f8, 0xffa0a4ab};
 
 QPalette made(const PaletteColors& colors)
 {
@@ -51,21 +53,21 @@ QPalette made(const PaletteColors& colors)
 
 QString settingsKey()
 {
-    return QStringLiteral("window/colors");
+    return u"window/colors"_s;
 }
 
-constexpr const char* kSchemeNames[] = {"system", "light", "dark"};
+constexpr const char* SchemeNames[] = {"system", "light", "dark"};
 
 } // namespace
 
 QPalette lightPalette()
 {
-    return made(kLight);
+    return made(LightColors);
 }
 
 QPalette darkPalette()
 {
-    return made(kDark);
+    return made(DarkColors);
 }
 
 void applyColorScheme(ColorScheme scheme)
@@ -88,7 +90,7 @@ ColorScheme storedColorScheme()
 {
     const QString stored = QSettings().value(settingsKey()).toString();
     for (const ColorScheme scheme : {ColorScheme::Light, ColorScheme::Dark}) {
-        if (stored == QLatin1String(kSchemeNames[static_cast<int>(scheme)])) {
+        if (stored == QLatin1String(SchemeNames[static_cast<int>(scheme)])) {
             return scheme;
         }
     }
@@ -97,8 +99,7 @@ ColorScheme storedColorScheme()
 
 void storeColorScheme(ColorScheme scheme)
 {
-    QSettings().setValue(settingsKey(),
-                         QString::fromLatin1(kSchemeNames[static_cast<int>(scheme)]));
+    QSettings().setValue(settingsKey(), QString::fromLatin1(SchemeNames[static_cast<int>(scheme)]));
 }
 
 } // namespace window

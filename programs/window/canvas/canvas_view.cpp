@@ -18,11 +18,11 @@ namespace window {
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
-constexpr double kZoomStep = 1.25;
-constexpr double kWheelNotch = 120.0;
+constexpr double PointsPerInch = 72.0;
+constexpr double ZoomStep = 1.25;
+constexpr double WheelNotch = 120.0;
 // Part of the view that stays free around a fitted page.
-constexpr double kFitMargin = 0.06;
+constexpr double FitMargin = 0.06;
 
 } // namespace
 
@@ -59,7 +59,7 @@ void CanvasView::setCanvas(workbench::Canvas* canvas)
 
 double CanvasView::truePixelsPerPoint() const
 {
-    return logicalDpiX() / kPointsPerInch;
+    return logicalDpiX() / PointsPerInch;
 }
 
 void CanvasView::setZoom(double zoom)
@@ -89,12 +89,12 @@ void CanvasView::applyZoom(double zoom)
 
 void CanvasView::zoomIn()
 {
-    setZoom(m_zoom * kZoomStep);
+    setZoom(m_zoom * ZoomStep);
 }
 
 void CanvasView::zoomOut()
 {
-    setZoom(m_zoom / kZoomStep);
+    setZoom(m_zoom / ZoomStep);
 }
 
 void CanvasView::fitPage()
@@ -103,7 +103,7 @@ void CanvasView::fitPage()
         return;
     }
     const QSizeF page = m_canvas->pageRect().size() * truePixelsPerPoint();
-    const QSizeF room = QSizeF(viewport()->size()) * (1.0 - 2.0 * kFitMargin);
+    const QSizeF room = QSizeF(viewport()->size()) * (1.0 - 2.0 * FitMargin);
     applyZoom(std::min(room.width() / page.width(), room.height() / page.height()));
     centerOn(m_canvas->pageRect().center());
     m_keepFitted = true;
@@ -119,7 +119,7 @@ void CanvasView::fitItems(const QList<QGraphicsItem*>& items)
         return;
     }
     const QSizeF wanted = bounds.size() * truePixelsPerPoint();
-    const QSizeF room = QSizeF(viewport()->size()) * (1.0 - 2.0 * kFitMargin);
+    const QSizeF room = QSizeF(viewport()->size()) * (1.0 - 2.0 * FitMargin);
     setZoom(std::min(room.width() / wanted.width(), room.height() / wanted.height()));
     centerOn(bounds.center());
 }
@@ -163,7 +163,7 @@ void CanvasView::wheelEvent(QWheelEvent* event)
         QGraphicsView::wheelEvent(event);
         return;
     }
-    setZoomAt(m_zoom * std::pow(kZoomStep, event->angleDelta().y() / kWheelNotch),
+    setZoomAt(m_zoom * std::pow(ZoomStep, event->angleDelta().y() / WheelNotch),
               event->position().toPoint());
     event->accept();
 }

@@ -6,10 +6,10 @@ namespace window {
 
 namespace {
 
-constexpr double kPointsPerMillimetre = 72.0 / 25.4;
-constexpr double kNudge = 0.5 * kPointsPerMillimetre;
-constexpr double kCoarseNudge = 5.0 * kPointsPerMillimetre;
-constexpr double kFineNudge = 0.1 * kPointsPerMillimetre;
+constexpr double PointsPerMillimetre = 72.0 / 25.4;
+constexpr double Nudge = 0.5 * PointsPerMillimetre;
+constexpr double CoarseNudge = 5.0 * PointsPerMillimetre;
+constexpr double FineNudge = 0.1 * PointsPerMillimetre;
 
 QPointF directionOf(int key)
 {
@@ -30,9 +30,9 @@ QPointF directionOf(int key)
 double lengthOf(Qt::KeyboardModifiers modifiers)
 {
     if (modifiers.testFlag(Qt::ControlModifier)) {
-        return kFineNudge;
+        return FineNudge;
     }
-    return modifiers.testFlag(Qt::ShiftModifier) ? kCoarseNudge : kNudge;
+    return modifiers.testFlag(Qt::ShiftModifier) ? CoarseNudge : Nudge;
 }
 
 bool mayMove(const QGraphicsItem& item)

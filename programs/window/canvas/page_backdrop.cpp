@@ -7,9 +7,9 @@ namespace window {
 
 namespace {
 
-constexpr int kShadowPixels = 8;
-constexpr int kShadowDarkness = 14; // of each of the layers that make the shadow
-constexpr double kVeil = 0.72;
+constexpr int ShadowPixels = 8;
+constexpr int ShadowDarkness = 14; // of each of the layers that make the shadow
+constexpr double Veil = 0.72;
 
 } // namespace
 
@@ -24,8 +24,8 @@ void paintPageGround(QPainter& painter, const QRectF& page, const QColor& ground
 {
     painter.save();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, kShadowDarkness));
-    for (int layer = kShadowPixels; layer > 0; --layer) {
+    painter.setBrush(QColor(0, 0, 0, ShadowDarkness));
+    for (int layer = ShadowPixels; layer > 0; --layer) {
         const double spread = layer / pixelsPerPoint;
         painter.drawRoundedRect(page.adjusted(-spread, -spread * 0.5, spread, spread * 1.5), spread,
                                 spread);
@@ -44,7 +44,7 @@ void paintPageSurroundings(QPainter& painter, const QRectF& page, const QRectF& 
     outside.addRect(visible);
     outside.addRect(page);
     QColor veil = session;
-    veil.setAlphaF(static_cast<float>(kVeil));
+    veil.setAlphaF(static_cast<float>(Veil));
     painter.fillPath(outside, veil);
     QPen outline(QColor(0, 0, 0, 90));
     outline.setCosmetic(true);

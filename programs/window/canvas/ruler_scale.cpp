@@ -9,11 +9,11 @@ namespace window {
 namespace {
 
 // Room that a label with four digits takes.
-constexpr double kLabelRoom = 54.0;
+constexpr double LabelRoom = 54.0;
 // Ticks closer than this run into one another.
-constexpr double kTickRoom = 5.0;
+constexpr double TickRoom = 5.0;
 // Beyond these a number of ticks could not be counted with integers any more.
-constexpr double kLargestTickNumber = 1e9;
+constexpr double LargestTickNumber = 1e9;
 
 // Below one inch people halve, above they count in tens.
 double halvedStep(double least)
@@ -37,7 +37,7 @@ int partsOf(double pixelsPerStep, LengthUnit unit)
 {
     const int finest = unit == LengthUnit::Inch ? 16 : 10;
     for (int parts = finest; parts > 2; parts = parts == 10 ? 4 : parts / 2) {
-        if (pixelsPerStep / parts >= kTickRoom) {
+        if (pixelsPerStep / parts >= TickRoom) {
             return parts;
         }
     }
@@ -61,7 +61,7 @@ QString labelOf(double value)
 
 double labelStep(double pixelsPerUnit, LengthUnit unit)
 {
-    const double least = kLabelRoom / pixelsPerUnit;
+    const double least = LabelRoom / pixelsPerUnit;
     return unit == LengthUnit::Inch && least < 1.0 ? halvedStep(least) : decimalStep(least);
 }
 
@@ -76,7 +76,7 @@ QList<RulerTick> rulerTicks(const RulerSpan& span, LengthUnit unit)
     const double pixelsPerTick = step * pixelsPerUnit / parts;
     const double first = std::ceil(-span.origin / pixelsPerTick);
     const double last = std::floor((span.length - span.origin) / pixelsPerTick);
-    if (!(std::abs(first) < kLargestTickNumber && std::abs(last) < kLargestTickNumber)) {
+    if (!(std::abs(first) < LargestTickNumber && std::abs(last) < LargestTickNumber)) {
         return {};
     }
     QList<RulerTick> ticks;

@@ -41,7 +41,7 @@ ImportOutcome DialogImport::run(const QString& currentFileName)
 }
 
 bool DialogImport::checkSaveChanges(TalCanvasModel* canvasModel, const QString& currentFileName,
-                                     bool allowDiscard)
+                                    bool allowDiscard)
 {
     // The question is about the window's label; the canvas here is the new one.
     Q_UNUSED(canvasModel)
@@ -50,7 +50,7 @@ bool DialogImport::checkSaveChanges(TalCanvasModel* canvasModel, const QString& 
 }
 
 void DialogImport::saveImportedLabelAs(const QString& folder, const QString& baseName,
-                                        const QString& labelType)
+                                       const QString& labelType)
 {
     Q_UNUSED(labelType)
     m_saveAs = QDir(folder).filePath(baseName + labelSuffix());

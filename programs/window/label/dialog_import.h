@@ -1,7 +1,7 @@
 #pragma once
 
-#include "window/label/open_label.h"
 #include "host/file_controller.h"
+#include "window/label/open_label.h"
 
 #include <functional>
 #include <optional>
@@ -24,7 +24,8 @@ struct ImportOutcome
 class DialogImport final : public FileController
 {
 public:
-    /// @param confirmDiscard asks about the unsaved changes of the open label; false stops the import
+    /// @param confirmDiscard asks about the unsaved changes of the open label; false stops the
+    /// import
     explicit DialogImport(std::function<bool(bool allowDiscard)> confirmDiscard);
 
     /// @param currentFileName the file of the open label

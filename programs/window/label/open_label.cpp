@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -29,7 +31,7 @@ bool isTheItemsOwn(const workbench::ImportIssue& issue, const QList<workbench::I
 
 QString labelSuffix()
 {
-    return QStringLiteral(".label");
+    return u".label"_s;
 }
 
 bool isSavedLabel(const QString& fileName)

@@ -11,6 +11,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -22,7 +24,7 @@ struct Words
 
 QString folderKey()
 {
-    return QStringLiteral("window/openFolder");
+    return u"window/openFolder"_s;
 }
 
 QString startFolder()
@@ -41,7 +43,7 @@ QString openFilters()
         Words::tr("Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)"),
         Words::tr("All files (*)"),
     }
-        .join(QStringLiteral(";;"));
+        .join(u";;"_s);
 }
 
 // File names and reasons quote what stands in files: nothing of it is markup.

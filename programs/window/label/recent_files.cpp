@@ -3,13 +3,15 @@
 #include <QFileInfo>
 #include <QSettings>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
 
 QString settingsKey()
 {
-    return QStringLiteral("window/recentFiles");
+    return u"window/recentFiles"_s;
 }
 
 QString absoluteName(const QString& fileName)

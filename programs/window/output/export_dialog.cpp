@@ -20,9 +20,9 @@ namespace window {
 
 namespace {
 
-constexpr int kLeastDpi = 10;
-constexpr int kMostDpi = 2400;
-constexpr int kUsualDpi = 300;
+constexpr int LeastDpi = 10;
+constexpr int MostDpi = 2400;
+constexpr int UsualDpi = 300;
 
 QString withSuffix(const QString& fileName, OutputFormat format)
 {
@@ -67,8 +67,8 @@ ExportDialog::ExportDialog(const QString& suggestedName, qint64 recordCount, qin
     m_fileName->setAccessibleName(tr("File"));
     m_fileName->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
     m_browse->setAccessibleDescription(tr("Chooses the file in a dialog"));
-    m_dpi->setRange(kLeastDpi, kMostDpi);
-    m_dpi->setValue(kUsualDpi);
+    m_dpi->setRange(LeastDpi, MostDpi);
+    m_dpi->setValue(UsualDpi);
     m_dpi->setSuffix(tr(" dpi"));
     m_dpi->setAccessibleName(tr("Resolution in dots per inch"));
     m_note->setForegroundRole(QPalette::PlaceholderText);

@@ -1,8 +1,8 @@
 #include "window/output/output_commands.h"
 
+#include "window/label/prompts.h"
 #include "window/output/export_dialog.h"
 #include "window/output/output_job.h"
-#include "window/label/prompts.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -9,11 +9,13 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
 
-constexpr int kFewestDigits = 3;
+constexpr int FewestDigits = 3;
 
 // Without the suffix.
 QString titleOf(const OpenLabel& label)
@@ -81,9 +83,9 @@ OutputReport writeDocument(OpenLabel& label, const OutputOrder& order, const Pro
 {
     Pages pages(label, order.records, progress);
     OutputReport report;
-    report.error = workbench::writePdf(*label.canvas, order.fileName, titleOf(label),
-                                       order.records.count,
-                                       [&pages](qint64 page) { return pages.prepare(page); });
+    report.error =
+        workbench::writePdf(*label.canvas, order.fileName, titleOf(label), order.records.count,
+                            [&pages](qint64 page) { return pages.prepare(page); });
     report.wasStopped = pages.wasStopped();
     report.files = report.error.isEmpty() && !report.wasStopped ? 1 : 0;
     return report;
@@ -95,13 +97,13 @@ QString suffixOf(OutputFormat format)
 {
     switch (format) {
     case OutputFormat::Svg:
-        return QStringLiteral("svg");
+        return u"svg"_s;
     case OutputFormat::Pdf:
-        return QStringLiteral("pdf");
+        return u"pdf"_s;
     case OutputFormat::Png:
         break;
     }
-    return QStringLiteral("png");
+    return u"png"_s;
 }
 
 QString fileNameInSeries(const OutputOrder& order, qint64 position)
@@ -111,7 +113,7 @@ QString fileNameInSeries(const OutputOrder& order, qint64 position)
     }
     const QFileInfo info(order.fileName);
     const qint64 last = order.records.first + order.records.count;
-    const int digits = std::max(kFewestDigits, static_cast<int>(QString::number(last).size()));
+    const int digits = std::max(FewestDigits, static_cast<int>(QString::number(last).size()));
     const QString number = QString::number(order.records.first + position + 1)
                                .rightJustified(digits, QLatin1Char('0'));
     return info.dir().filePath(info.completeBaseName() + QLatin1Char('-') + number +

@@ -6,15 +6,17 @@
 #include <QLocale>
 #include <QTextDocumentFragment>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
 
 using workbench::ItemValues;
 
-constexpr int kSummaryLength = 60;
+constexpr int SummaryLength = 60;
 // A property shows the beginning of a text; nobody reads a megabyte in a table.
-constexpr int kLongestValue = 2000;
+constexpr int LongestValue = 2000;
 
 struct Words
 {
@@ -44,7 +46,7 @@ public:
     void begin(const QString& group) { m_group = group; }
     void add(const QString& name, const QString& value)
     {
-        m_rows.append({m_group, name, shortened(value, kLongestValue)});
+        m_rows.append({m_group, name, shortened(value, LongestValue)});
     }
     void add(const QString& name, bool value)
     {
@@ -179,7 +181,7 @@ void addDatasource(Rows& rows, const workbench::DatasourceValues& source)
     rows.add(Words::tr("Source"),
              source.id < 0 ? Words::tr("none") : Words::tr("number %1").arg(source.id));
     if (!source.fields.isEmpty()) {
-        rows.add(Words::tr("Fields"), source.fields.join(QStringLiteral(", ")));
+        rows.add(Words::tr("Fields"), source.fields.join(u", "_s));
     }
 }
 
@@ -246,7 +248,7 @@ QString contentSummary(const ItemValues& values)
     if (content.isEmpty() && values.datasource && values.datasource->id >= 0) {
         content = Words::tr("data source %1").arg(values.datasource->id);
     }
-    return shortened(content.left(kSummaryLength * 4).simplified(), kSummaryLength);
+    return shortened(content.left(SummaryLength * 4).simplified(), SummaryLength);
 }
 
 QString itemTitle(const ItemValues& values)

@@ -13,6 +13,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -59,13 +61,13 @@ ItemPanel::ItemPanel(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table);
     setFocusProxy(m_table);
-    const int digits = fontMetrics().horizontalAdvance(QStringLiteral("Height (mm)"));
+    const int digits = fontMetrics().horizontalAdvance(u"Height (mm)"_s);
     for (const int column : {ItemTableModel::Left, ItemTableModel::Top, ItemTableModel::Width,
                              ItemTableModel::Height}) {
         m_table->setColumnWidth(column, digits);
     }
     m_table->setColumnWidth(ItemTableModel::Kind,
-                            fontMetrics().horizontalAdvance(QStringLiteral("Rounded rectangle  ")));
+                            fontMetrics().horizontalAdvance(u"Rounded rectangle  "_s));
     m_table->setColumnWidth(ItemTableModel::Content, digits * 2);
     m_table->setColumnWidth(ItemTableModel::Angle, digits * 3 / 4);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,

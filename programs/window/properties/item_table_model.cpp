@@ -4,6 +4,8 @@
 #include "window/properties/style_names.h"
 #include "workbench/canvas/canvas.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -22,7 +24,7 @@ QString stateText(const workbench::CanvasItem& item, const workbench::ItemValues
     } else if (!values.placement.movable) {
         states.append(ItemTableModel::tr("locked"));
     }
-    return states.join(QStringLiteral(", "));
+    return states.join(u", "_s);
 }
 
 bool isNumber(int column)
@@ -109,7 +111,7 @@ QVariant ItemTableModel::headerData(int section, Qt::Orientation orientation, in
     if (orientation == Qt::Vertical) {
         return section + 1;
     }
-    const QString unit = QStringLiteral(" (") + unitSymbol(m_unit) + QLatin1Char(')');
+    const QString unit = u" ("_s + unitSymbol(m_unit) + QLatin1Char(')');
     switch (section) {
     case Kind:
         return tr("Kind");

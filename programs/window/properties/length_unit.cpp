@@ -2,11 +2,13 @@
 
 #include <QLocale>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 QString unitSymbol(LengthUnit unit)
 {
-    return unit == LengthUnit::Inch ? QStringLiteral("in") : QStringLiteral("mm");
+    return unit == LengthUnit::Inch ? u"in"_s : u"mm"_s;
 }
 
 QString lengthNumber(double points, LengthUnit unit)
@@ -24,7 +26,7 @@ QString lengthText(double points, LengthUnit unit)
 
 QString areaText(double width, double height, LengthUnit unit)
 {
-    return lengthNumber(width, unit) + QStringLiteral(" × ") + lengthText(height, unit);
+    return lengthNumber(width, unit) + u" × "_s + lengthText(height, unit);
 }
 
 } // namespace window

@@ -7,6 +7,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 PropertyPanel::PropertyPanel(QWidget* parent)
@@ -18,7 +20,7 @@ PropertyPanel::PropertyPanel(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table);
     setFocusProxy(m_table);
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("Flipped top to bottom  "));
+    const int width = fontMetrics().horizontalAdvance(u"Flipped top to bottom  "_s);
     m_table->setColumnWidth(PropertyModel::Group, width * 3 / 5);
     m_table->setColumnWidth(PropertyModel::Name, width);
 }

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -15,9 +17,9 @@ struct NameRow
     const char* name;
 };
 
-constexpr const char* kContext = "window::StyleNames";
+constexpr const char* Context = "window::StyleNames";
 
-constexpr NameRow kKinds[] = {
+constexpr NameRow Kinds[] = {
     {KestTypes::Picture, QT_TRANSLATE_NOOP("window::StyleNames", "Picture")},
     {KestTypes::Symbol, QT_TRANSLATE_NOOP("window::StyleNames", "Symbol")},
     {KestTypes::SimpleText, QT_TRANSLATE_NOOP("window::StyleNames", "Text")},
@@ -36,7 +38,7 @@ constexpr NameRow kKinds[] = {
     {KestTypes::Octagon, QT_TRANSLATE_NOOP("window::StyleNames", "Octagon")},
 };
 
-constexpr NameRow kPenStyles[] = {
+constexpr NameRow PenStyles[] = {
     {Qt::NoPen, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
     {Qt::SolidLine, QT_TRANSLATE_NOOP("window::StyleNames", "solid")},
     {Qt::DashLine, QT_TRANSLATE_NOOP("window::StyleNames", "dashes")},
@@ -45,19 +47,19 @@ constexpr NameRow kPenStyles[] = {
     {Qt::DashDotDotLine, QT_TRANSLATE_NOOP("window::StyleNames", "dash, dot, dot")},
 };
 
-constexpr NameRow kCaps[] = {
+constexpr NameRow Caps[] = {
     {Qt::FlatCap, QT_TRANSLATE_NOOP("window::StyleNames", "flat")},
     {Qt::SquareCap, QT_TRANSLATE_NOOP("window::StyleNames", "square")},
     {Qt::RoundCap, QT_TRANSLATE_NOOP("window::StyleNames", "round")},
 };
 
-constexpr NameRow kJoins[] = {
+constexpr NameRow Joins[] = {
     {Qt::MiterJoin, QT_TRANSLATE_NOOP("window::StyleNames", "pointed")},
     {Qt::BevelJoin, QT_TRANSLATE_NOOP("window::StyleNames", "cut off")},
     {Qt::RoundJoin, QT_TRANSLATE_NOOP("window::StyleNames", "rounded")},
 };
 
-constexpr NameRow kBrushes[] = {
+constexpr NameRow Brushes[] = {
     {Qt::NoBrush, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
     {Qt::SolidPattern, QT_TRANSLATE_NOOP("window::StyleNames", "solid")},
     {Qt::Dense1Pattern, QT_TRANSLATE_NOOP("window::StyleNames", "screen, densest")},
@@ -77,7 +79,7 @@ constexpr NameRow kBrushes[] = {
 };
 
 // The same marks for both ends: the start keeps them in the upper half of a byte.
-constexpr NameRow kMarkers[] = {
+constexpr NameRow Markers[] = {
     {0x00, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
     {0x01, QT_TRANSLATE_NOOP("window::StyleNames", "arrow")},
     {0x03, QT_TRANSLATE_NOOP("window::StyleNames", "small arrow")},
@@ -89,21 +91,21 @@ constexpr NameRow kMarkers[] = {
     {0x80, QT_TRANSLATE_NOOP("window::StyleNames", "dimension stroke")},
 };
 
-constexpr NameRow kFixedSides[] = {
+constexpr NameRow FixedSides[] = {
     {0, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
     {1, QT_TRANSLATE_NOOP("window::StyleNames", "width")},
     {2, QT_TRANSLATE_NOOP("window::StyleNames", "height")},
     {3, QT_TRANSLATE_NOOP("window::StyleNames", "width and height")},
 };
 
-constexpr NameRow kHorizontal[] = {
+constexpr NameRow HorizontalSteps[] = {
     {Qt::AlignLeft, QT_TRANSLATE_NOOP("window::StyleNames", "left")},
     {Qt::AlignRight, QT_TRANSLATE_NOOP("window::StyleNames", "right")},
     {Qt::AlignHCenter, QT_TRANSLATE_NOOP("window::StyleNames", "centered")},
     {Qt::AlignJustify, QT_TRANSLATE_NOOP("window::StyleNames", "justified")},
 };
 
-constexpr NameRow kVertical[] = {
+constexpr NameRow VerticalSteps[] = {
     {Qt::AlignTop, QT_TRANSLATE_NOOP("window::StyleNames", "top")},
     {Qt::AlignBottom, QT_TRANSLATE_NOOP("window::StyleNames", "bottom")},
     {Qt::AlignVCenter, QT_TRANSLATE_NOOP("window::StyleNames", "middle")},
@@ -111,7 +113,7 @@ constexpr NameRow kVertical[] = {
 
 QString translated(const char* text)
 {
-    return QCoreApplication::translate(kContext, text);
+    return QCoreApplication::translate(Context, text);
 }
 
 template <std::size_t Size>
@@ -130,7 +132,7 @@ QString nameIn(const NameRow (&rows)[Size], int code)
 {
     const char* name = find(rows, code);
     return name != nullptr ? translated(name)
-                           : QCoreApplication::translate(kContext, "unknown (%1)").arg(code);
+                           : QCoreApplication::translate(Context, "unknown (%1)").arg(code);
 }
 
 // The first flag of the table that is set.
@@ -149,16 +151,16 @@ QString flagName(const NameRow (&rows)[Size], int flags)
 
 QString kindName(KestTypes::ShapeType type)
 {
-    return nameIn(kKinds, type);
+    return nameIn(Kinds, type);
 }
 
 QString colorName(const QColor& color)
 {
     if (!color.isValid()) {
-        return QCoreApplication::translate(kContext, "none");
+        return QCoreApplication::translate(Context, "none");
     }
     if (color.alpha() == 0) {
-        return QCoreApplication::translate(kContext, "transparent");
+        return QCoreApplication::translate(Context, "transparent");
     }
     return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
 }
@@ -170,38 +172,38 @@ QString angleText(double degrees)
 
 QString penStyleName(int style)
 {
-    return nameIn(kPenStyles, style);
+    return nameIn(PenStyles, style);
 }
 
 QString capStyleName(int style)
 {
-    return nameIn(kCaps, style);
+    return nameIn(Caps, style);
 }
 
 QString joinStyleName(int style)
 {
-    return nameIn(kJoins, style);
+    return nameIn(Joins, style);
 }
 
 QString brushStyleName(int style)
 {
-    return nameIn(kBrushes, style);
+    return nameIn(Brushes, style);
 }
 
 QString lineMarkerName(int marker)
 {
-    return nameIn(kMarkers, marker);
+    return nameIn(Markers, marker);
 }
 
 QString alignmentName(Qt::Alignment alignment)
 {
     const int flags = static_cast<int>(alignment);
-    return flagName(kHorizontal, flags) + QStringLiteral(", ") + flagName(kVertical, flags);
+    return flagName(HorizontalSteps, flags) + u", "_s + flagName(VerticalSteps, flags);
 }
 
 QString fixedSidesName(int limiting)
 {
-    return nameIn(kFixedSides, limiting);
+    return nameIn(FixedSides, limiting);
 }
 
 } // namespace window

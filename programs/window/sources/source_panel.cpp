@@ -1,8 +1,8 @@
 #include "window/sources/source_panel.h"
 
 #include "window/actions/actions.h"
-#include "window/sources/source_table_model.h"
 #include "window/properties/tables.h"
+#include "window/sources/source_table_model.h"
 #include "workbench/datasources/datasource_controller.h"
 
 #include <QHBoxLayout>
@@ -15,6 +15,8 @@
 
 #include <algorithm>
 #include <limits>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace window {
 
@@ -52,7 +54,7 @@ SourcePanel::SourcePanel(const Actions& actions, QWidget* parent)
     layout->addWidget(m_table);
     setFocusProxy(m_table);
     m_table->setColumnWidth(SourceTableModel::Number,
-                            fontMetrics().horizontalAdvance(QStringLiteral("Number   ")));
+                            fontMetrics().horizontalAdvance(u"Number   "_s));
     connect(m_record, &QSpinBox::valueChanged, this,
             [this](int number) { Q_EMIT recordWanted(number - 1); });
     show(nullptr, 0);

@@ -6,6 +6,8 @@
 
 #include <QLocale>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace window {
 
 namespace {
@@ -17,7 +19,7 @@ using workbench::datasources::SystemSource;
 using workbench::datasources::TextListSource;
 
 // A list may be long; a cell shows where it begins.
-constexpr qsizetype kListedTexts = 5;
+constexpr qsizetype ListedTexts = 5;
 
 QString kindOf(const Datasource& source)
 {
@@ -36,23 +38,23 @@ QString kindOf(const Datasource& source)
 QString counterSettings(const QVariantMap& properties)
 {
     return SourceTableModel::tr("%1 to %2, step %3")
-        .arg(properties.value(QStringLiteral("Start")).toInt())
-        .arg(properties.value(QStringLiteral("End")).toInt())
-        .arg(properties.value(QStringLiteral("Step")).toInt());
+        .arg(properties.value(u"Start"_s).toInt())
+        .arg(properties.value(u"End"_s).toInt())
+        .arg(properties.value(u"Step"_s).toInt());
 }
 
 QString clockSettings(const QVariantMap& properties)
 {
-    const QString date = properties.value(QStringLiteral("DateFormat")).toString();
-    const QString time = properties.value(QStringLiteral("TimeFormat")).toString();
+    const QString date = properties.value(u"DateFormat"_s).toString();
+    const QString time = properties.value(u"TimeFormat"_s).toString();
     return QString(date + QLatin1Char(' ') + time).trimmed();
 }
 
 QString listSettings(const QVariantMap& properties)
 {
-    const QStringList texts = properties.value(QStringLiteral("TextList")).toStringList();
-    const QString begin = QStringList(texts.mid(0, kListedTexts)).join(QStringLiteral(", "));
-    return texts.size() > kListedTexts ? begin + QStringLiteral(", ") + QChar(0x2026) : begin;
+    const QStringList texts = properties.value(u"TextList"_s).toStringList();
+    const QString begin = QStringList(texts.mid(0, ListedTexts)).join(u", "_s);
+    return texts.size() > ListedTexts ? begin + u", "_s + QChar(0x2026) : begin;
 }
 
 QString settingsOf(const Datasource& source)
