@@ -118,6 +118,22 @@ TEST_F(ReaderLife, AReaderThatCouldNotBeMadeIsTriedAgain)
     }
 }
 
+TEST_F(ReaderLife, AnImportWithinAnImportReadsNothingAndReturnsFalse)
+{
+    using Import = bool (LegacyTemplateImporter::*)(const QString&);
+    for (const Import import : {Import(&LegacyTemplateImporter::importLabelFromTavrelFile),
+                                Import(&LegacyTemplateImporter::importLabelFromOrvantaFile),
+                                Import(&LegacyTemplateImporter::importLabelFromOpenOfficeFile)}) {
+        journal().events.clear();
+        bool nested = true;
+        journal().duringImport = [&] { nested = (m_importer.get()->*import)(File); };
+        EXPECT_TRUE((m_importer.get()->*import)(File));
+        EXPECT_FALSE(nested);
+        EXPECT_EQ(journal().events.filter(QStringLiteral(" reads ")).size(), 1);
+        EXPECT_TRUE((m_importer.get()->*import)(File)) << "not busy afterwards";
+    }
+}
+
 TEST_F(ReaderLife, TheImporterHasNoParentAndTwoSignals)
 {
     EXPECT_EQ(m_importer->parent(), nullptr);

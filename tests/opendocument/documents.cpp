@@ -58,11 +58,19 @@ Package& Package::add(const QString& name, const QByteArray& data)
     return *this;
 }
 
+Package& Package::storeUncompressed()
+{
+    m_isUncompressed = true;
+    return *this;
+}
+
 QByteArray Package::bytes()
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QZipWriter writer(&buffer);
+    writer.setCompressionPolicy(m_isUncompressed ? QZipWriter::NeverCompress
+                                                 : QZipWriter::AlwaysCompress);
     for (auto member = m_members.cbegin(); member != m_members.cend(); ++member) {
         writer.addFile(member.key(), member.value());
     }

@@ -36,6 +36,8 @@ public:
     Package(const QByteArray& styles, const QByteArray& content);
 
     Package& add(const QString& name, const QByteArray& data);
+    /// Stores the members uncompressed instead of deflated.
+    Package& storeUncompressed();
     /// Writes the package and gives its path.
     [[nodiscard]] QString write();
     /// Writes these bytes in place of the package and gives the path.
@@ -47,4 +49,5 @@ private:
     QTemporaryDir m_folder;
     QMap<QString, QByteArray> m_members;
     int m_written = 0;
+    bool m_isUncompressed = false;
 };

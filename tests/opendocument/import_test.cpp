@@ -264,3 +264,22 @@ TEST_F(Import, ReadsAPackageThatIsNamedInAnyLetters)
     ASSERT_TRUE(QFile::copy(path, other));
     EXPECT_TRUE(reader.importLabelFromFile(other));
 }
+
+TEST(Uncompressed, ReadsMembersThatAreStoredUncompressed)
+{
+    const QByteArray picture =
+        QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElEQVQI12P4z8AAAAM"
+                               "BAQAY3Y2wAAAAAElFTkSuQmCC");
+    Package package(stylesXml(), drawingXml("<draw:rect/><draw:frame><draw:image "
+                                            "xlink:href=\"Pictures/a.png\"/></draw:frame>"));
+    package.add(u"Pictures/a.png"_s, picture).storeUncompressed();
+    ASSERT_TRUE(package.bytes().contains("<draw:rect/>")) << "nothing is compressed";
+    FakeHost host;
+    OpenOfficeReader reader(&host, nullptr);
+    EXPECT_TRUE(reader.importLabelFromFile(package.write()));
+    EXPECT_EQ(host.createdTypes(), (QStringList{u"Rectangle"_s, u"Picture"_s}));
+
+    QByteArray damaged = package.bytes();
+    damaged.replace("<draw:rect/>", "<draw:reft/>");
+    EXPECT_FALSE(reader.importLabelFromFile(package.writeRaw(damaged)));
+}

@@ -4,6 +4,7 @@
 #include <QSettings>
 
 #include <stdexcept>
+#include <utility>
 
 Journal& journal()
 {
@@ -28,5 +29,8 @@ bool Journal::readerCalled(const char* name, const QString& fileName)
     folderAtReading = QSettings().value(QStringLiteral("dir/import"));
     events.append(
         QStringLiteral("%1 reads %2").arg(QLatin1String(name), QFileInfo(fileName).fileName()));
+    if (const auto nested = std::exchange(duringImport, {})) {
+        nested();
+    }
     return readersSucceed;
 }

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
+
 class DatasourceController;
 class TalCanvasModel;
 
@@ -13,6 +15,8 @@ struct Journal
     bool readersSucceed = true;
     /// The next reader that is made throws instead.
     bool nextReaderThrows = false;
+    /// Runs once, within the next import.
+    std::function<void()> duringImport;
     TalCanvasModel* lastCanvasModel = nullptr;
     DatasourceController* lastDatasourceController = nullptr;
     /// The remembered folder as it was when the label type was announced.
