@@ -41,7 +41,7 @@ expect_field(${programs} Description "^import legacy label templates, [a-z ]*\n 
 
 # Debian's own checks. Tags about the origin of a package do not apply to one built in place.
 execute_process(
-    COMMAND ${LINTIAN} --allow-root --fail-on error,warning --no-tag-display-limit
+    COMMAND ${LINTIAN} --allow-root --fail-on error,warning --tag-display-limit 0
         --suppress-tags initial-upload-closes-no-bugs ${library} ${development} ${programs}
     RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE errors)
 if(NOT status EQUAL 0)
