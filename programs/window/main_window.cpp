@@ -24,7 +24,7 @@ namespace window {
 
 namespace {
 
-enum CentrePage { WelcomeIndex, CanvasIndex };
+enum CenterPage { WelcomeIndex, CanvasIndex };
 
 } // namespace
 
@@ -36,7 +36,7 @@ MainWindow::MainWindow(QWidget* parent)
     setAcceptDrops(true);
     setWindowIcon(applicationIcon());
     resize(1240, 800);
-    buildCentre();
+    buildCenter();
     m_panels = std::make_unique<WindowPanels>(*this, *m_actions);
     m_status = std::make_unique<StatusLine>(*statusBar());
     buildMenus();
@@ -104,7 +104,7 @@ void MainWindow::connectCanvas()
             [this] { m_status->setPointer(std::nullopt, m_unit); });
     connect(&canvas, &CanvasView::itemsMoved, m_session.get(), &LabelSession::moveItems);
     connect(m_canvas, &RuledCanvas::unitChangeWanted, this, [this] {
-        setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimetre : LengthUnit::Inch);
+        setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimeter : LengthUnit::Inch);
     });
 }
 
@@ -131,7 +131,7 @@ void MainWindow::showLabel()
 {
     OpenLabel* label = m_session->label();
     m_record = 0;
-    m_centre->setCurrentIndex(label != nullptr ? CanvasIndex : WelcomeIndex);
+    m_center->setCurrentIndex(label != nullptr ? CanvasIndex : WelcomeIndex);
     if (label != nullptr) {
         view().setCanvas(label->canvas.get());
         m_panels->items().setCanvas(label->canvas.get());
@@ -211,7 +211,7 @@ void MainWindow::refreshActions()
 void MainWindow::setUnit(LengthUnit unit)
 {
     m_unit = unit;
-    action(unit == LengthUnit::Inch ? ActionId::Inches : ActionId::Millimetres).setChecked(true);
+    action(unit == LengthUnit::Inch ? ActionId::Inches : ActionId::Millimeters).setChecked(true);
     m_canvas->setUnit(unit);
     m_panels->items().setUnit(unit);
     m_status->setPointer(std::nullopt, unit);

@@ -46,7 +46,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void buildCentre();
+    void buildCenter();
     void buildMenus();
     void buildToolBar();
     void connectSession();
@@ -85,11 +85,11 @@ private:
     std::unique_ptr<LabelSession> m_session;
     std::unique_ptr<WindowPanels> m_panels;
     std::unique_ptr<StatusLine> m_status;
-    QStackedWidget* m_centre = nullptr;
+    QStackedWidget* m_center = nullptr;
     RuledCanvas* m_canvas = nullptr;
     QMenu* m_recentMenu = nullptr;
     qint64 m_record = 0;
-    LengthUnit m_unit = LengthUnit::Millimetre;
+    LengthUnit m_unit = LengthUnit::Millimeter;
 };
 
 } // namespace window

@@ -60,13 +60,13 @@ QStringList localFiles(const QMimeData& data)
 
 } // namespace
 
-void MainWindow::buildCentre()
+void MainWindow::buildCenter()
 {
     m_canvas = new RuledCanvas(this);
-    m_centre = new QStackedWidget(this);
-    m_centre->addWidget(new WelcomePage(*m_actions, m_centre));
-    m_centre->addWidget(m_canvas);
-    setCentralWidget(m_centre);
+    m_center = new QStackedWidget(this);
+    m_center->addWidget(new WelcomePage(*m_actions, m_center));
+    m_center->addWidget(m_canvas);
+    setCentralWidget(m_center);
 }
 
 void MainWindow::buildMenus()
@@ -85,7 +85,7 @@ void MainWindow::buildMenus()
             menu->insertSeparator(&action(ActionId::SelectAll));
         } else if (id == MenuId::View) {
             menu->insertSeparator(&action(ActionId::Rulers));
-            menu->insertSeparator(&action(ActionId::Millimetres));
+            menu->insertSeparator(&action(ActionId::Millimeters));
             menu->addSeparator();
             menu->addMenu(menuTitle(MenuId::Colors))->addActions(m_actions->ofMenu(MenuId::Colors));
         }
@@ -179,8 +179,8 @@ void MainWindow::connectViewActions()
     connect(&action(ActionId::ZoomSelection), &QAction::triggered, canvas,
             [canvas] { canvas->fitItems(canvas->scene()->selectedItems()); });
     connect(&action(ActionId::Rulers), &QAction::toggled, m_canvas, &RuledCanvas::setRulersVisible);
-    connect(&action(ActionId::Millimetres), &QAction::triggered, this,
-            [this] { setUnit(LengthUnit::Millimetre); });
+    connect(&action(ActionId::Millimeters), &QAction::triggered, this,
+            [this] { setUnit(LengthUnit::Millimeter); });
     connect(&action(ActionId::Inches), &QAction::triggered, this,
             [this] { setUnit(LengthUnit::Inch); });
     connect(&action(ActionId::SystemColors), &QAction::triggered, this,
@@ -227,7 +227,7 @@ void MainWindow::restoreSettings()
     action(ActionId::Rulers).setChecked(settings.value(rulersKey(), true).toBool());
     m_canvas->setRulersVisible(action(ActionId::Rulers).isChecked());
     const bool isInch = settings.value(unitKey()).toString() == QLatin1String("in");
-    setUnit(isInch ? LengthUnit::Inch : LengthUnit::Millimetre);
+    setUnit(isInch ? LengthUnit::Inch : LengthUnit::Millimeter);
     switch (storedColorScheme()) {
     case ColorScheme::System:
         action(ActionId::SystemColors).setChecked(true);

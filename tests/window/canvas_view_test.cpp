@@ -178,7 +178,7 @@ TEST_F(CanvasViewTest, ArrowKeysMoveTheSelectedItems)
     {
         Qt::Key key;
         Qt::KeyboardModifiers modifiers;
-        QPointF millimetres;
+        QPointF millimeters;
     };
     const Row rows[] = {
         {Qt::Key_Right, Qt::NoModifier, {0.5, 0.0}},
@@ -192,8 +192,8 @@ TEST_F(CanvasViewTest, ArrowKeysMoveTheSelectedItems)
         QTest::keyClick(&view, row.key, row.modifiers);
         ASSERT_EQ(moved.size(), 1);
         const ItemMove move = moved.at(0).at(0).value<QList<ItemMove>>().constFirst();
-        EXPECT_NEAR((move.to - move.from).x(), row.millimetres.x() * 72.0 / 25.4, 1e-9);
-        EXPECT_NEAR((move.to - move.from).y(), row.millimetres.y() * 72.0 / 25.4, 1e-9);
+        EXPECT_NEAR((move.to - move.from).x(), row.millimeters.x() * 72.0 / 25.4, 1e-9);
+        EXPECT_NEAR((move.to - move.from).y(), row.millimeters.y() * 72.0 / 25.4, 1e-9);
     }
 }
 

@@ -100,9 +100,9 @@ protected:
 
 TEST_F(MainWindowTest, StartsEmptyWithAHint)
 {
-    auto* centre = qobject_cast<QStackedWidget*>(window.centralWidget());
-    ASSERT_NE(centre, nullptr);
-    EXPECT_EQ(centre->currentIndex(), 0);
+    auto* center = qobject_cast<QStackedWidget*>(window.centralWidget());
+    ASSERT_NE(center, nullptr);
+    EXPECT_EQ(center->currentIndex(), 0);
     EXPECT_FALSE(window.action(ActionId::Save).isEnabled());
     EXPECT_TRUE(window.action(ActionId::Open).isEnabled());
     EXPECT_EQ(window.windowTitle(), QStringLiteral("LabelPort Workbench"));

@@ -15,7 +15,7 @@ using namespace window;
 
 namespace {
 
-constexpr double kPixelsPerMm = 96.0 / 25.4; // true size on a usual screen
+constexpr double PixelsPerMm = 96.0 / 25.4; // true size on a usual screen
 
 struct StepRow
 {
@@ -37,11 +37,11 @@ QList<RulerTick> labelled(const QList<RulerTick>& ticks)
 TEST(RulerScale, StepsAreRoundNumbersOfTheUnit)
 {
     const StepRow rows[] = {
-        {kPixelsPerMm, LengthUnit::Millimetre, 20.0},
-        {kPixelsPerMm * 2, LengthUnit::Millimetre, 10.0},
-        {kPixelsPerMm * 4, LengthUnit::Millimetre, 5.0},
-        {kPixelsPerMm * 64, LengthUnit::Millimetre, 0.5},
-        {kPixelsPerMm / 20, LengthUnit::Millimetre, 500.0},
+        {PixelsPerMm, LengthUnit::Millimeter, 20.0},
+        {PixelsPerMm * 2, LengthUnit::Millimeter, 10.0},
+        {PixelsPerMm * 4, LengthUnit::Millimeter, 5.0},
+        {PixelsPerMm * 64, LengthUnit::Millimeter, 0.5},
+        {PixelsPerMm / 20, LengthUnit::Millimeter, 500.0},
         {96.0, LengthUnit::Inch, 1.0},
         {192.0, LengthUnit::Inch, 0.5},
         {384.0, LengthUnit::Inch, 0.25},
@@ -90,7 +90,7 @@ TEST(RulerScale, NeverMoreTicksThanPixelsAtAnyZoom)
 {
     for (double pixelsPerPoint = 1e-6; pixelsPerPoint < 1e6; pixelsPerPoint *= 1.7) {
         SCOPED_TRACE(pixelsPerPoint);
-        for (const LengthUnit unit : {LengthUnit::Millimetre, LengthUnit::Inch}) {
+        for (const LengthUnit unit : {LengthUnit::Millimeter, LengthUnit::Inch}) {
             const QList<RulerTick> ticks = rulerTicks({-300.0, pixelsPerPoint, 1000}, unit);
             EXPECT_LE(ticks.size(), 1000);
             const QList<RulerTick> labels = labelled(ticks);
@@ -107,14 +107,14 @@ TEST(RulerScale, ImpossibleScalesHaveNoTicks)
                                std::numeric_limits<double>::quiet_NaN()}) {
         EXPECT_TRUE(rulerTicks({0.0, scale, 500}, LengthUnit::Inch).isEmpty());
     }
-    EXPECT_TRUE(rulerTicks({1e300, 1.0, 500}, LengthUnit::Millimetre).isEmpty());
+    EXPECT_TRUE(rulerTicks({1e300, 1.0, 500}, LengthUnit::Millimeter).isEmpty());
 }
 
 TEST(LengthUnit, LengthsAreShownInTheUnitAndTheLocale)
 {
     EXPECT_EQ(lengthText(72.0, LengthUnit::Inch),
               QLocale().toString(1.0, 'f', 3) + QStringLiteral(" in"));
-    EXPECT_EQ(lengthText(72.0, LengthUnit::Millimetre),
+    EXPECT_EQ(lengthText(72.0, LengthUnit::Millimeter),
               QLocale().toString(25.4, 'f', 2) + QStringLiteral(" mm"));
     EXPECT_EQ(areaText(144.0, 72.0, LengthUnit::Inch),
               QLocale().toString(2.0, 'f', 3) + QStringLiteral(" × ") +

@@ -81,7 +81,7 @@ constexpr ActionRow ActionRows[] = {
     {ActionId::Rulers, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&Rulers"), "Ctrl+R",
      IconName::None, Always, Choice,
      QT_TRANSLATE_NOOP("window::Actions", "Shows or hides the rulers")},
-    {ActionId::Millimetres, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&Millimeters"),
+    {ActionId::Millimeters, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "&Millimeters"),
      "Ctrl+M", IconName::None, Always, Choice,
      QT_TRANSLATE_NOOP("window::Actions", "Shows lengths in millimeters")},
     {ActionId::Inches, MenuId::View, QT_TRANSLATE_NOOP("window::Actions", "In&ches"),
@@ -186,7 +186,7 @@ Actions::Actions(QObject* parent)
     for (const ActionRow& row : ActionRows) {
         m_actions[row.id] = makeAction(row, this);
     }
-    group({ActionId::Millimetres, ActionId::Inches});
+    group({ActionId::Millimeters, ActionId::Inches});
     group({ActionId::SystemColors, ActionId::LightColors, ActionId::DarkColors});
     at(ActionId::Quit).setMenuRole(QAction::QuitRole);
     at(ActionId::About).setMenuRole(QAction::AboutRole);

@@ -31,7 +31,7 @@ enum class ActionId : quint8 {
     ZoomTrue,
     ZoomSelection,
     Rulers,
-    Millimetres,
+    Millimeters,
     Inches,
     SystemColors,
     LightColors,
@@ -71,7 +71,7 @@ public:
 
     [[nodiscard]] QAction& at(ActionId id) const { return *m_actions.at(id); }
     [[nodiscard]] QList<QAction*> ofMenu(MenuId menu) const;
-    /// Draws the icons anew in the colours of this palette.
+    /// Draws the icons anew in the colors of this palette.
     void drawIcons(const QPalette& palette);
     /// Enables what needs a label, and nothing else.
     void setLabelOpen(bool open);

@@ -26,7 +26,7 @@ enum class IconName : quint8 {
     Last,
 };
 
-/// The icon, drawn in the text colour of the palette; a null icon for None.
+/// The icon, drawn in the text color of the palette; a null icon for None.
 [[nodiscard]] QIcon icon(IconName name, const QPalette& palette);
 
 /// The program's sign: a label with bars.

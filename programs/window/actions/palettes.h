@@ -5,13 +5,13 @@
 
 namespace window {
 
-/// The colours of the program's windows.
+/// The colors of the program's windows.
 enum class ColorScheme : quint8 { System, Light, Dark };
 
 [[nodiscard]] QPalette lightPalette();
 [[nodiscard]] QPalette darkPalette();
 
-/// Colours the whole application. System takes whatever the desktop has.
+/// Colors the whole application. System takes whatever the desktop has.
 void applyColorScheme(ColorScheme scheme);
 
 /// The user's choice from the settings; System when there is none.

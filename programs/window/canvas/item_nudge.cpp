@@ -6,10 +6,10 @@ namespace window {
 
 namespace {
 
-constexpr double PointsPerMillimetre = 72.0 / 25.4;
-constexpr double Nudge = 0.5 * PointsPerMillimetre;
-constexpr double CoarseNudge = 5.0 * PointsPerMillimetre;
-constexpr double FineNudge = 0.1 * PointsPerMillimetre;
+constexpr double PointsPerMillimeter = 72.0 / 25.4;
+constexpr double Nudge = 0.5 * PointsPerMillimeter;
+constexpr double CoarseNudge = 5.0 * PointsPerMillimeter;
+constexpr double FineNudge = 0.1 * PointsPerMillimeter;
 
 QPointF directionOf(int key)
 {

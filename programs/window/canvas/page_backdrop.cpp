@@ -31,7 +31,7 @@ void paintPageGround(QPainter& painter, const QRectF& page, const QColor& ground
                                 spread);
     }
     painter.restore();
-    // A ground that lets through shows the colour of paper.
+    // A ground that lets through shows the color of paper.
     painter.fillRect(page, Qt::white);
     painter.fillRect(page, ground);
 }

@@ -40,7 +40,7 @@ RuledCanvas::RuledCanvas(QWidget* parent)
         m_horizontal->setPointer(std::nullopt);
         m_vertical->setPointer(std::nullopt);
     });
-    setUnit(LengthUnit::Millimetre);
+    setUnit(LengthUnit::Millimeter);
 }
 
 void RuledCanvas::setUnit(LengthUnit unit)

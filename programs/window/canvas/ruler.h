@@ -36,7 +36,7 @@ private:
     void paintPointer(QPainter& painter) const;
 
     Qt::Orientation m_orientation;
-    LengthUnit m_unit = LengthUnit::Millimetre;
+    LengthUnit m_unit = LengthUnit::Millimeter;
     double m_origin = 0.0;
     double m_pixelsPerPoint = 1.0;
     std::optional<double> m_pointer;

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] const Prompts& prompts() const { return m_prompts; }
 
     void openByDialog();
-    /// Opens a saved label, or imports a legacy one. False when that failed or was cancelled.
+    /// Opens a saved label, or imports a legacy one. False when that failed or was canceled.
     bool openFile(const QString& fileName);
     /// As openFile(), without questions and messages, for a session without unsaved changes.
     /// Returns the reason if the file cannot be opened, else an empty text.

@@ -21,9 +21,9 @@ public:
     [[nodiscard]] Changes askUnsavedChanges(const QString& labelName, bool allowDiscard) const;
     /// What to do where the imported label's file already exists.
     [[nodiscard]] Existing askExisting(const QString& fileName) const;
-    /// A file to open; empty when the user cancelled.
+    /// A file to open; empty when the user canceled.
     [[nodiscard]] QString askOpenFile() const;
-    /// A name to save the label under; empty when the user cancelled.
+    /// A name to save the label under; empty when the user canceled.
     [[nodiscard]] QString askSaveFile(const QString& suggestedName) const;
     /// Says what did not work, and why.
     void showError(const QString& what, const QString& why) const;

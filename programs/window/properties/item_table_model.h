@@ -56,7 +56,7 @@ private:
     void readAll();
 
     const workbench::Canvas* m_canvas = nullptr;
-    LengthUnit m_unit = LengthUnit::Millimetre;
+    LengthUnit m_unit = LengthUnit::Millimeter;
     QList<Row> m_rows;
     QHash<const QGraphicsItem*, int> m_rowOfItem;
 };

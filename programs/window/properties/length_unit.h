@@ -6,7 +6,7 @@
 namespace window {
 
 /// The unit in which lengths are shown. Labels themselves are kept in points.
-enum class LengthUnit : quint8 { Millimetre, Inch };
+enum class LengthUnit : quint8 { Millimeter, Inch };
 
 [[nodiscard]] constexpr double pointsPerUnit(LengthUnit unit)
 {
@@ -22,7 +22,7 @@ enum class LengthUnit : quint8 { Millimetre, Inch };
 [[nodiscard]] QString unitSymbol(LengthUnit unit);
 
 /// A length of so many points as a number in the unit, in the user's locale: two decimals
-/// for millimetres, three for inches.
+/// for millimeters, three for inches.
 [[nodiscard]] QString lengthNumber(double points, LengthUnit unit);
 
 /// The number with its unit: "12.50 mm".
