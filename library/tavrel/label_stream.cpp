@@ -1,5 +1,7 @@
 #include "tavrel/label_stream.h"
 
+#include <QIODevice>
+
 #include <algorithm>
 #include <optional>
 

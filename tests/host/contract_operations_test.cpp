@@ -25,6 +25,8 @@
 
 #include <type_traits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 template <typename Operation, typename Expected>
@@ -48,7 +50,7 @@ static_assert(
 static_assert(is<decltype(&Canvas::completeCanvasLoading), void (Canvas::*)()>);
 static_assert(is<decltype(&ClassFactory::create), Item* (ClassFactory::*)(KestTypes::ShapeType)>);
 
-// What is called by name on items.
+// Operations that importers call on items.
 static_assert(is<decltype(&Item::getItemWidth), double (Item::*)() const>);
 static_assert(is<decltype(&Item::getItemHeight), double (Item::*)() const>);
 static_assert(is<decltype(&SimpleTextItem::importTextProperties),
@@ -108,8 +110,7 @@ static_assert(std::is_base_of_v<QDialog, TalMessageBox>);
 TEST(ContractOperations, TheMessageBoxTellsByNameThatItWasClosed)
 {
     // Importers connect by the names of the signals.
-    TalMessageBox box(QStringLiteral("Title"), QStringLiteral("Text\n"), QMessageBox::Ok,
-                      QMessageBox::Ok, QString(), {});
+    TalMessageBox box(u"Title"_s, u"Text\n"_s, QMessageBox::Ok, QMessageBox::Ok, QString(), {});
     const QSignalSpy spy(&box, SIGNAL(popupHideSignal()));
     ASSERT_TRUE(spy.isValid());
     Q_EMIT box.popupHideSignal();

@@ -1,5 +1,5 @@
-// The shape of the contract: who derives from whom, in which order, and which number
-// stands for which class. Hosts are compiled against it elsewhere, so it may not drift.
+// The bases of the contract's classes, in their order, and the number of each class. Hosts are
+// compiled separately, so these must not change.
 
 #include "host/items/barcode_item.h"
 #include "host/items/line_item.h"
@@ -49,8 +49,8 @@ template <typename... Types>
 struct TypeList
 {};
 
-/// Holds when every base is a public base that is no virtual one: only then can a
-/// pointer be cast back down to the class without a look at the object.
+/// Whether the base is public and not virtual: only then can a pointer to it be cast to the class
+/// without accessing the object.
 template <typename Class, typename Base>
 constexpr bool plainlyDerives = std::is_base_of_v<Base, Class>&& requires(Base* base,
                                                                           Class* derived)
@@ -118,7 +118,7 @@ static_assert(
                       ITextLabelItem, IRichTextItem, IBarcodeItem, ImageableItem, IGraphicItem,
                       ResizeRotatedHelper, IPieItem, ILineItem>);
 
-/// A host must derive its own items: none of the contract's can be made as it is.
+/// The item classes of the contract are abstract: a host must derive its own.
 template <typename... Classes>
 constexpr bool areAbstract = (std::is_abstract_v<Classes> && ...);
 

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -62,7 +64,7 @@ TEST_P(FractionParsing, ReadsRatioOrDecimal)
     EXPECT_EQ(log.records()[0].source, QLatin1String("fraction.cpp"));
     EXPECT_EQ(log.records()[0].function, QLatin1String("Fraction::Fraction(const QString&)"));
     EXPECT_EQ(log.records()[0].message,
-              QStringLiteral("string \"%1\" invalid").arg(QString::fromUtf8(GetParam().text)));
+              u"string \"%1\" invalid"_s.arg(QString::fromUtf8(GetParam().text)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Ratios, FractionParsing,
@@ -94,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(Decimals, FractionParsing,
                                          ParseCase{"inf", "inf", infinity}, //
                                          ParseCase{"1234567", "1.23457e+06", 1234567.0}));
 
-// A decimal that is not above zero is no value: the untouched ratio 1/1 stands.
+// A decimal that is not above zero is not used: the value is the default ratio 1/1.
 INSTANTIATE_TEST_SUITE_P(DecimalsThatAreNoValue, FractionParsing,
                          testing::Values(ParseCase{"0", "1/1", 1.0},    //
                                          ParseCase{"0.0", "1/1", 1.0},  //
@@ -174,7 +176,7 @@ TEST(FractionEquality, ComparesDecimalsWhenTheLeftSideIsDecimal)
     EXPECT_FALSE(Fraction(0.5) == Fraction(0.25));
     EXPECT_FALSE(Fraction(0.5) == Fraction(1, 1));
     EXPECT_TRUE(Fraction(0.5) != Fraction(1, 1));
-    // 0.0 is no decimal mode, so the ratios 1/1 are compared.
+    // 0.0 is not decimal mode, so the ratios 1/1 are compared.
     EXPECT_TRUE(Fraction(0.0) == Fraction(7.0));
 }
 
@@ -208,8 +210,7 @@ TEST_P(FractionProduct, IsExactWhileItCanBe)
     EXPECT_EQ(log.records()[0].source, QLatin1String("fraction.cpp"));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("Fraction Fraction::operator*(Fraction) const"));
-    EXPECT_EQ(log.records()[0].message,
-              QStringLiteral("newFraction = ") + QLatin1String(GetParam().printed));
+    EXPECT_EQ(log.records()[0].message, u"newFraction = "_s + QLatin1String(GetParam().printed));
 }
 
 INSTANTIATE_TEST_SUITE_P(Exact, FractionProduct,
@@ -241,7 +242,7 @@ INSTANTIATE_TEST_SUITE_P(
                     // The product rounds to 2^64, passes the overflow check and wraps to zero.
                     ProductCase{"4294967296/1", "4294967296/1", "1.84467e+19",
                                 1.8446744073709552e19, false},
-                    // A decimal product that is not above zero is no decimal mode.
+                    // A decimal product that is not above zero is not in decimal mode.
                     ProductCase{"1e-200", "1e-200", "1/1", 1.0, false}));
 
 TEST(FractionProduct, LogsTheOverflowAndFallsBackToTheDecimal)
@@ -250,8 +251,8 @@ TEST(FractionProduct, LogsTheOverflowAndFallsBackToTheDecimal)
     const Fraction product = parsed("4294967297/1") * parsed("4294967296/1");
 
     EXPECT_DOUBLE_EQ(product.toDouble(), 4294967297.0 * 4294967296.0);
-    EXPECT_EQ(log.messages(), (QStringList{QStringLiteral("exception catch: Arithmetic Overflow"),
-                                           QStringLiteral("newFraction = 1.84467e+19")}));
+    EXPECT_EQ(log.messages(), (QStringList{u"exception catch: Arithmetic Overflow"_s,
+                                           u"newFraction = 1.84467e+19"_s}));
     for (const CapturedLog::Record& record : log.records()) {
         EXPECT_EQ(record.level, Logger::Debug);
         EXPECT_EQ(record.source, QLatin1String("fraction.cpp"));
@@ -301,7 +302,7 @@ TEST(FractionReciprocal, SwapsTheRatioOrInvertsTheDecimal)
     EXPECT_EQ(printed(Fraction(3, 4).reciprocal()), "4/3");
     EXPECT_EQ(printed(Fraction(0, 4).reciprocal()), "1/0");
     EXPECT_EQ(printed(Fraction(4.0).reciprocal()), "0.25");
-    // Not in decimal mode, so the ratio 1/1 is what is turned over; its decimal is -1.0 again.
+    // Not in decimal mode, so the ratio 1/1 is inverted; its decimal is -1.0 again.
     const Fraction ofZero = Fraction(0.0).reciprocal();
     EXPECT_EQ(printed(ofZero), "1/1");
     EXPECT_EQ(printed(ofZero * Fraction(0.0)), "1/1");

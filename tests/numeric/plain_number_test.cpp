@@ -9,13 +9,14 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 TEST(PlainNumber, IsWhatQtReadsOfDigits)
 {
     for (const QString& text :
-         {QStringLiteral("0"), QStringLiteral("7"), QStringLiteral("0007"), QStringLiteral("72"),
-          QStringLiteral("4294967296"), QStringLiteral("18446744073709551615")}) {
+         {u"0"_s, u"7"_s, u"0007"_s, u"72"_s, u"4294967296"_s, u"18446744073709551615"_s}) {
         EXPECT_EQ(plainWholeNumber(text), text.toULongLong()) << qPrintable(text);
         EXPECT_EQ(plainDecimal(text), text.toDouble()) << qPrintable(text);
     }
@@ -23,11 +24,9 @@ TEST(PlainNumber, IsWhatQtReadsOfDigits)
 
 TEST(PlainNumber, IsWhatQtReadsOfDecimals)
 {
-    // Among them halves of the last place, where a careless sum of digits goes wrong.
-    for (const QString& text :
-         {QStringLiteral("0.0"), QStringLiteral("0.1"), QStringLiteral("2.375"),
-          QStringLiteral("00.50"), QStringLiteral("9007199254740993.0"),
-          QStringLiteral("0.1234567890123456789012"), QStringLiteral("123456789012.34567890123")}) {
+    // Including halves of the last digit, where simple summation of digits is wrong.
+    for (const QString& text : {u"0.0"_s, u"0.1"_s, u"2.375"_s, u"00.50"_s, u"9007199254740993.0"_s,
+                                u"0.1234567890123456789012"_s, u"123456789012.34567890123"_s}) {
         EXPECT_EQ(plainDecimal(text), text.toDouble()) << qPrintable(text);
         EXPECT_FALSE(plainWholeNumber(text)) << qPrintable(text);
     }
@@ -35,7 +34,7 @@ TEST(PlainNumber, IsWhatQtReadsOfDecimals)
 
 RC_GTEST_PROP(PlainNumber, IsWhatQtReadsOfAnyDecimal, (quint32 whole, quint32 part))
 {
-    const QString text = QStringLiteral("%1.%2").arg(whole).arg(part);
+    const QString text = u"%1.%2"_s.arg(whole).arg(part);
     RC_ASSERT(plainDecimal(text) == text.toDouble());
 }
 

@@ -44,7 +44,7 @@ TEST(CsvLineStarts, AreTheSameInPiecesOfAnySize)
     }
 }
 
-TEST(CsvLineStarts, TellHowFarTheyAre)
+TEST(CsvLineStarts, ReportTheirPosition)
 {
     CsvLineStarts starts;
     EXPECT_EQ(starts.position(), 0);

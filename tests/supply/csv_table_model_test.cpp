@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class CsvTableModelTest : public testing::Test
@@ -14,7 +16,7 @@ class CsvTableModelTest : public testing::Test
 protected:
     QString fileOf(const QByteArray& content)
     {
-        const QString path = m_folder.filePath(QStringLiteral("table.csv"));
+        const QString path = m_folder.filePath(u"table.csv"_s);
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(content);
@@ -63,8 +65,8 @@ TEST_F(CsvTableModelTest, ReadsATable)
     EXPECT_EQ(table.fileColumnCount(), 2);
     EXPECT_EQ(table.rowCount(), 2);
     EXPECT_EQ(table.columnCount(), 2);
-    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(QStringLiteral("Name")));
-    EXPECT_EQ(table.data(table.index(1, 1)), QVariant(QStringLiteral("two")));
+    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(u"Name"_s));
+    EXPECT_EQ(table.data(table.index(1, 1)), QVariant(u"two"_s));
     EXPECT_EQ(lineOf(table, 1), words("1|one"));
     EXPECT_EQ(table.cell(1, 2), QString());
     EXPECT_EQ(table.cell(1, -1), QString());
@@ -114,7 +116,7 @@ TEST_F(CsvTableModelTest, ReadsMoreLinesThanItFirstHasRoomFor)
         ASSERT_TRUE(table.openFile(fileOf(content)));
         ASSERT_EQ(table.fileRowCount(), lines);
         for (int line = lines - 1; line >= 0; --line) {
-            EXPECT_EQ(table.cell(line, 0), QStringLiteral("n%1").arg(line));
+            EXPECT_EQ(table.cell(line, 0), u"n%1"_s.arg(line));
         }
     }
 }
@@ -144,8 +146,8 @@ TEST_F(CsvTableModelTest, RefusesLinesItDoesNotHave)
     EXPECT_EQ(log.records()[0].level, Logger::Error);
     EXPECT_EQ(log.records()[0].source, QLatin1String("csv_table_model.cpp"));
     EXPECT_EQ(log.records()[0].function, QLatin1String("bool CsvTableModel::parseRow(int)"));
-    EXPECT_EQ(log.messages()[0], QStringLiteral("Invalid row number (-1)"));
-    EXPECT_EQ(log.messages()[2], QStringLiteral("Invalid row number (2)"));
+    EXPECT_EQ(log.messages()[0], u"Invalid row number (-1)"_s);
+    EXPECT_EQ(log.messages()[2], u"Invalid row number (2)"_s);
 }
 
 TEST_F(CsvTableModelTest, GrowsColumnsAsLinesAreParsed)
@@ -153,8 +155,8 @@ TEST_F(CsvTableModelTest, GrowsColumnsAsLinesAreParsed)
     CsvTableModel table(1);
     ASSERT_TRUE(table.setFileName(fileOf(" Index,Color,\r\n0,#FFFFFF,white\r\n1,,,\r\n")));
     EXPECT_EQ(table.columnCount(), 2);
-    EXPECT_EQ(table.headerData(0, Qt::Horizontal), QVariant(QStringLiteral(" Index")));
-    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(QStringLiteral("Color")));
+    EXPECT_EQ(table.headerData(0, Qt::Horizontal), QVariant(u" Index"_s));
+    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(u"Color"_s));
     EXPECT_FALSE(table.index(0, 2).isValid());
 
     // A line that stores three fields of which the last two are empty raises nothing.
@@ -162,9 +164,9 @@ TEST_F(CsvTableModelTest, GrowsColumnsAsLinesAreParsed)
     EXPECT_EQ(table.columnCount(), 2);
     EXPECT_TRUE(table.parseRow(1));
     EXPECT_EQ(table.columnCount(), 3);
-    EXPECT_EQ(table.data(table.index(0, 2)), QVariant(QStringLiteral("white")));
+    EXPECT_EQ(table.data(table.index(0, 2)), QVariant(u"white"_s));
     EXPECT_FALSE(table.headerData(2, Qt::Horizontal).isValid());
-    // A shorter line takes nothing away.
+    // A shorter line does not reduce it.
     EXPECT_TRUE(table.parseRow(0));
     EXPECT_EQ(table.columnCount(), 3);
 }
@@ -179,8 +181,8 @@ TEST_F(CsvTableModelTest, TakesHeaderNamesAsTheyStandWhenOnlyOpened)
     }
     EXPECT_EQ(names, words("a|a||\"q\""));
     ASSERT_TRUE(table.setFileName(fileOf("a,a,,\"q\"\n")));
-    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(QStringLiteral("a1")));
-    EXPECT_EQ(table.headerData(2, Qt::Horizontal), QVariant(QStringLiteral("C")));
+    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(u"a1"_s));
+    EXPECT_EQ(table.headerData(2, Qt::Horizontal), QVariant(u"C"_s));
 }
 
 TEST_F(CsvTableModelTest, AMissingFileChangesNothing)
@@ -188,22 +190,22 @@ TEST_F(CsvTableModelTest, AMissingFileChangesNothing)
     CsvTableModel table(1);
     const QString path = fileOf("a\nb\n");
     ASSERT_TRUE(table.setFileName(path));
-    const QString missing = m_folder.filePath(QStringLiteral("missing.csv"));
+    const QString missing = m_folder.filePath(u"missing.csv"_s);
     const CapturedLog log;
 
     EXPECT_FALSE(table.openFile(missing));
     EXPECT_EQ(table.fileName(), path);
     EXPECT_EQ(table.rowCount(), 1);
-    EXPECT_EQ(table.headerData(0, Qt::Horizontal), QVariant(QStringLiteral("a")));
-    EXPECT_EQ(table.cell(1, 0), QStringLiteral("b"));
+    EXPECT_EQ(table.headerData(0, Qt::Horizontal), QVariant(u"a"_s));
+    EXPECT_EQ(table.cell(1, 0), u"b"_s);
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_EQ(log.records()[0].level, Logger::Error);
-    EXPECT_EQ(log.records()[0].message, QStringLiteral("\"%1\" does not exist").arg(missing));
+    EXPECT_EQ(log.records()[0].message, u"\"%1\" does not exist"_s.arg(missing));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("virtual bool CsvTableModel::openFile(const QString&)"));
 
     EXPECT_FALSE(table.setFileName(missing));
-    EXPECT_EQ(log.messages().last(), QStringLiteral("Could not open  \"%1\"").arg(missing));
+    EXPECT_EQ(log.messages().last(), u"Could not open  \"%1\""_s.arg(missing));
 }
 
 TEST_F(CsvTableModelTest, AFileThatDoesNotOpenLeavesItEmpty)
@@ -221,8 +223,7 @@ TEST_F(CsvTableModelTest, AFileThatDoesNotOpenLeavesItEmpty)
     ASSERT_EQ(log.records().size(), 2);
     EXPECT_EQ(log.records()[0].level, Logger::Error);
     EXPECT_EQ(log.records()[0].message,
-              QStringLiteral("CSV File Open Warning: Could not open file \"%1\" (5).")
-                  .arg(m_folder.path()));
+              u"CSV File Open Warning: Could not open file \"%1\" (5)."_s.arg(m_folder.path()));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("virtual bool CsvTableModel::openFile(const QString&)"));
 
@@ -235,18 +236,18 @@ TEST_F(CsvTableModelTest, StartsAfreshWithEachFile)
 {
     CsvTableModel table(1);
     ASSERT_TRUE(table.setFileName(fileOf("a,b,c\n1,2,3\n4,5,6\n")));
-    EXPECT_EQ(table.cell(1, 2), QStringLiteral("3"));
+    EXPECT_EQ(table.cell(1, 2), u"3"_s);
     ASSERT_TRUE(table.setFileName(fileOf("x\ny\n")));
     EXPECT_EQ(table.rowCount(), 1);
     EXPECT_EQ(table.columnCount(), 1);
-    EXPECT_EQ(table.cell(1, 0), QStringLiteral("y"));
+    EXPECT_EQ(table.cell(1, 0), u"y"_s);
     EXPECT_EQ(table.cell(1, 2), QString());
     ASSERT_TRUE(table.openFile(fileOf("")));
     EXPECT_EQ(table.columnCount(), 0);
     EXPECT_FALSE(table.headerData(0, Qt::Horizontal).isValid()) << "a name of the file before";
 }
 
-// Lines longer than any read-ahead, so that a change of the file behind the model is seen.
+// Lines longer than any read-ahead, so that a change of the file is visible.
 constexpr int longLine = 100000;
 
 TEST_F(CsvTableModelTest, KeepsTheLineThatWasParsedLast)
@@ -255,12 +256,12 @@ TEST_F(CsvTableModelTest, KeepsTheLineThatWasParsedLast)
     CsvTableModel table(0);
     const QString path = fileOf("first\n" + filler + "\nlast!\n");
     ASSERT_TRUE(table.openFile(path));
-    EXPECT_EQ(table.cell(2, 0), QStringLiteral("last!"));
+    EXPECT_EQ(table.cell(2, 0), u"last!"_s);
 
     fileOf("FIRST\n" + filler + "\nLAST!\n");
-    EXPECT_EQ(table.cell(2, 0), QStringLiteral("last!"));
-    EXPECT_EQ(table.cell(0, 0), QStringLiteral("FIRST"));
-    EXPECT_EQ(table.cell(2, 0), QStringLiteral("LAST!"));
+    EXPECT_EQ(table.cell(2, 0), u"last!"_s);
+    EXPECT_EQ(table.cell(0, 0), u"FIRST"_s);
+    EXPECT_EQ(table.cell(2, 0), u"LAST!"_s);
 }
 
 TEST_F(CsvTableModelTest, AReadErrorIsSilentAndKeepsTheParsedLine)
@@ -268,13 +269,13 @@ TEST_F(CsvTableModelTest, AReadErrorIsSilentAndKeepsTheParsedLine)
     CsvTableModel table(0);
     const QString path = fileOf("first\n" + QByteArray(longLine, 'x') + "\nlast\n");
     ASSERT_TRUE(table.openFile(path));
-    EXPECT_EQ(table.cell(0, 0), QStringLiteral("first"));
+    EXPECT_EQ(table.cell(0, 0), u"first"_s);
     ASSERT_TRUE(QFile::resize(path, 3));
 
     const CapturedLog log;
     EXPECT_FALSE(table.parseRow(2));
     EXPECT_EQ(table.cell(2, 0), QString());
-    EXPECT_EQ(table.cell(0, 0), QStringLiteral("first"));
+    EXPECT_EQ(table.cell(0, 0), u"first"_s);
     EXPECT_TRUE(log.records().isEmpty());
 }
 
@@ -285,13 +286,12 @@ TEST_F(CsvTableModelTest, RefusesAFileOfTooManyLines)
     const CapturedLog log;
     EXPECT_FALSE(table.openFile(path));
     EXPECT_EQ(table.rowCount(), 0);
-    EXPECT_EQ(log.messages(),
-              QStringList(QStringLiteral("\"%1\" is too large for a table").arg(path)));
+    EXPECT_EQ(log.messages(), QStringList(u"\"%1\" is too large for a table"_s.arg(path)));
 }
 
 TEST_F(CsvTableModelTest, RefusesAnEndlessDevice)
 {
-    const QString device = QStringLiteral("/dev/zero");
+    const QString device = u"/dev/zero"_s;
     if (!QFileInfo::exists(device)) {
         GTEST_SKIP() << "this system has no endless device";
     }
@@ -309,8 +309,7 @@ TEST_F(CsvTableModelTest, RefusesALineThatIsTooLong)
     EXPECT_EQ(table.cell(1, 0).size(), longest.size());
     const CapturedLog log;
     EXPECT_EQ(table.cell(2, 0), QString());
-    EXPECT_EQ(log.messages(),
-              QStringList(QStringLiteral("\"%1\" has a line that is too long").arg(path)));
+    EXPECT_EQ(log.messages(), QStringList(u"\"%1\" has a line that is too long"_s.arg(path)));
 }
 
 TEST_F(CsvTableModelTest, IsAModelAsViewsExpectIt)
@@ -322,7 +321,7 @@ TEST_F(CsvTableModelTest, IsAModelAsViewsExpectIt)
     ASSERT_FALSE(table.setFileName(m_folder.path()));
     ASSERT_TRUE(table.setFileName(fileOf("")));
     ASSERT_TRUE(table.setFileName(fileOf("a\n1,2\n3,4,5\n")));
-    EXPECT_EQ(table.data(table.index(1, 0)), QVariant(QStringLiteral("3")));
+    EXPECT_EQ(table.data(table.index(1, 0)), QVariant(u"3"_s));
 }
 
 } // namespace

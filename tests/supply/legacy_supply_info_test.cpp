@@ -9,7 +9,9 @@
 
 #include <gtest/gtest.h>
 
-// Both must stand outside any namespace.
+using namespace Qt::Literals::StringLiterals;
+
+// Both must be outside any namespace.
 void registerSupplyTables()
 {
     Q_INIT_RESOURCE(labelport_supply_tables);
@@ -25,9 +27,8 @@ namespace {
 constexpr int labelRows = 412;
 constexpr int ribbonRows = 11;
 
-const QStringList tablePaths = {QStringLiteral(":/tables/csv/LabelType.csv"),
-                                QStringLiteral(":/tables/csv/RibbonType.csv"),
-                                QStringLiteral(":/tables/csv/color1.csv")};
+const QStringList tablePaths = {u":/tables/csv/LabelType.csv"_s, u":/tables/csv/RibbonType.csv"_s,
+                                u":/tables/csv/color1.csv"_s};
 
 QColor rgb(const char* text)
 {
@@ -125,7 +126,7 @@ TEST(LegacySupplyInfo, ShowsColorNamesOnlyOnceADataLineWasParsed)
     const LegacySupplyInfo supplies;
     EXPECT_FALSE(supplies.primaryData(5, 2).isValid());
     EXPECT_EQ(supplies.primaryColor(0), QColor(Qt::white));
-    EXPECT_EQ(supplies.primaryData(5, 2).toString(), QStringLiteral("color_silver_gray"));
+    EXPECT_EQ(supplies.primaryData(5, 2).toString(), u"color_silver_gray"_s);
 }
 
 TEST(LegacySupplyInfo, StartsItsLabelsWithTheGenericOnes)
@@ -136,13 +137,13 @@ TEST(LegacySupplyInfo, StartsItsLabelsWithTheGenericOnes)
     for (int row = 0; row < 4; ++row) {
         EXPECT_EQ(supplies.labelData(row, 0), QVariant(QString()));
         EXPECT_EQ(supplies.labelData(row, 1).toString(), QLatin1String(names[row]));
-        EXPECT_EQ(supplies.labelData(row, 2).toString(), QStringLiteral("FFFFFFFF"));
+        EXPECT_EQ(supplies.labelData(row, 2).toString(), u"FFFFFFFF"_s);
         EXPECT_EQ(supplies.labelData(row, 5).toString(), QString::number(row));
         EXPECT_EQ(supplies.getLabelName(row), QLatin1String(names[row]));
     }
 }
 
-TEST(LegacySupplyInfo, HasTheRowsThatOldLabelsCountOn)
+TEST(LegacySupplyInfo, HasTheRowsThatOldLabelsNeed)
 {
     const LegacySupplyInfo supplies;
     EXPECT_TRUE(supplies.labelData(labelRows - 1, 12).isValid());
@@ -205,8 +206,7 @@ TEST(LegacySupplyInfo, NamesLabelsByPartNumberAndName)
     const LegacySupplyInfo supplies;
     const QString name = supplies.labelData(4, 1).toString();
     EXPECT_TRUE(name.startsWith(u'"') && name.endsWith(u'"')) << name.toStdString();
-    EXPECT_EQ(supplies.getLabelName(4),
-              supplies.labelData(4, 0).toString() + QStringLiteral(": ") + name);
+    EXPECT_EQ(supplies.getLabelName(4), supplies.labelData(4, 0).toString() + u": "_s + name);
     EXPECT_EQ(supplies.getLabelName(-1), QString());
     EXPECT_EQ(supplies.getLabelName(labelRows), QString());
 }
@@ -233,8 +233,7 @@ TEST_F(OtherSupplyTables, MissingOnesGiveDefaults)
     LegacySupplyInfo supplies;
     QStringList expected;
     for (const QString& path : tablePaths) {
-        expected << QStringLiteral("\"%1\" does not exist").arg(path)
-                 << QStringLiteral("Could not open  \"%1\"").arg(path);
+        expected << u"\"%1\" does not exist"_s.arg(path) << u"Could not open  \"%1\""_s.arg(path);
     }
     EXPECT_EQ(log.messages(), expected);
 
@@ -252,19 +251,19 @@ TEST_F(OtherSupplyTables, AreReadByTheSameRules)
     ASSERT_TRUE(QResource::registerResource(QStringLiteral(OTHER_TABLES)));
     {
         LegacySupplyInfo supplies;
-        // The first row of an index counts; one whose colour cannot be read is passed over.
+        // The first row of an index counts; one with an unreadable color is skipped.
         EXPECT_EQ(supplies.primaryColor(7), rgb("#010203"));
         EXPECT_EQ(supplies.primaryColor(5), rgb("#070809"));
         EXPECT_EQ(supplies.primaryColor(8), QColor(Qt::white));
-        // What is no number counts as 0, in the palette and in the label table.
+        // A text that is not a number counts as 0, in the palette and in the label table.
         EXPECT_EQ(supplies.primaryColor(0), rgb("#0a0b0c"));
         EXPECT_EQ(supplies.getLabelColor(2), rgb("#0a0b0c"));
         EXPECT_EQ(supplies.getLabelColor(-1), rgb("#0a0b0c"));
         EXPECT_EQ(supplies.getLabelColor(0), rgb("#010203"));
 
-        EXPECT_EQ(supplies.getLabelName(0), QStringLiteral("Nameless number"));
-        EXPECT_EQ(supplies.getLabelName(1), QStringLiteral("PN-1"));
-        EXPECT_EQ(supplies.getLabelName(2), QStringLiteral("PN-2: \"2\" M\u00fcll\""));
+        EXPECT_EQ(supplies.getLabelName(0), u"Nameless number"_s);
+        EXPECT_EQ(supplies.getLabelName(1), u"PN-1"_s);
+        EXPECT_EQ(supplies.getLabelName(2), u"PN-2: \"2\" M\u00fcll\""_s);
         EXPECT_EQ(supplies.getLabelName(3), QString());
 
         EXPECT_EQ(supplies.getRibbonColor(0), rgb("#164473"));

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class FilledTable : public TableModel
@@ -41,7 +43,7 @@ QStringList words(const char* text)
     return QString::fromLatin1(text).split(u',');
 }
 
-TEST(TableModel, CountsTheLinesBehindItsHeaders)
+TEST(TableModel, CountsTheLinesAfterItsHeaders)
 {
     const QList<QStringList> lines = {words("h,i"), words("a,b"), words("c,d")};
     for (const int headerRows : {0, 1, 2}) {
@@ -65,7 +67,7 @@ TEST(TableModel, GivesTextAndAlignmentOnly)
     const FilledTable table(1, {words("h"), words("a")});
     const QModelIndex cell = table.index(0, 0);
 
-    EXPECT_EQ(table.data(cell, Qt::DisplayRole), QVariant(QStringLiteral("a")));
+    EXPECT_EQ(table.data(cell, Qt::DisplayRole), QVariant(u"a"_s));
     EXPECT_EQ(table.data(cell, Qt::TextAlignmentRole), QVariant(129));
     for (const int role : {Qt::EditRole, Qt::DecorationRole, Qt::ToolTipRole, Qt::UserRole}) {
         EXPECT_FALSE(table.data(cell, role).isValid()) << role;
@@ -79,9 +81,9 @@ TEST(TableModel, GivesTextAndAlignmentOnly)
 TEST(TableModel, NumbersItsRowsFromOne)
 {
     const FilledTable table(1, {});
-    EXPECT_EQ(table.headerData(0, Qt::Vertical), QVariant(QStringLiteral("1")));
-    EXPECT_EQ(table.headerData(41, Qt::Vertical), QVariant(QStringLiteral("42")));
-    EXPECT_EQ(table.headerData(2147483647, Qt::Vertical), QVariant(QStringLiteral("2147483648")));
+    EXPECT_EQ(table.headerData(0, Qt::Vertical), QVariant(u"1"_s));
+    EXPECT_EQ(table.headerData(41, Qt::Vertical), QVariant(u"42"_s));
+    EXPECT_EQ(table.headerData(2147483647, Qt::Vertical), QVariant(u"2147483648"_s));
     EXPECT_EQ(table.headerData(0, Qt::Vertical, Qt::TextAlignmentRole), QVariant(129));
     EXPECT_EQ(table.headerData(0, Qt::Horizontal, Qt::TextAlignmentRole), QVariant(129));
     EXPECT_FALSE(table.headerData(0, Qt::Vertical, Qt::EditRole).isValid());
@@ -117,10 +119,10 @@ TEST(TableModel, TakesColumnNamesFromItsHeaderLine)
     FilledTable table(1, {words("SKU,Name"), words("1,2")});
     EXPECT_FALSE(table.headerData(0, Qt::Horizontal).isValid());
 
-    ASSERT_TRUE(table.setFileName(QStringLiteral("some file")));
-    EXPECT_EQ(table.fileName(), QStringLiteral("some file"));
-    EXPECT_EQ(table.headerData(0, Qt::Horizontal), QVariant(QStringLiteral("SKU")));
-    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(QStringLiteral("Name")));
+    ASSERT_TRUE(table.setFileName(u"some file"_s));
+    EXPECT_EQ(table.fileName(), u"some file"_s);
+    EXPECT_EQ(table.headerData(0, Qt::Horizontal), QVariant(u"SKU"_s));
+    EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(u"Name"_s));
     EXPECT_FALSE(table.headerData(2, Qt::Horizontal).isValid());
     EXPECT_FALSE(table.headerData(-1, Qt::Horizontal).isValid());
 }
@@ -137,7 +139,7 @@ TEST(TableModel, MakesColumnNamesUnique)
     for (const auto& row : cases) {
         SCOPED_TRACE(row.header);
         FilledTable table(1, {words(row.header)});
-        table.setFileName(QStringLiteral("x"));
+        table.setFileName(u"x"_s);
         QStringList names;
         for (int column = 0; column < table.columnCount(); ++column) {
             names.append(table.headerData(column, Qt::Horizontal).toString());
@@ -148,36 +150,36 @@ TEST(TableModel, MakesColumnNamesUnique)
 
 TEST(TableModel, NamesManyEqualColumnsInReasonableTime)
 {
-    FilledTable table(1, {QStringList(200000, QStringLiteral("a"))});
-    table.setFileName(QStringLiteral("x"));
-    EXPECT_EQ(table.headerData(199999, Qt::Horizontal).toString(), QStringLiteral("a199999"));
+    FilledTable table(1, {QStringList(200000, u"a"_s)});
+    table.setFileName(u"x"_s);
+    EXPECT_EQ(table.headerData(199999, Qt::Horizontal).toString(), u"a199999"_s);
 }
 
 TEST(TableModel, KeepsItsFileNameWhenAnotherFileDoesNotOpen)
 {
     FilledTable table(1, {words("a")});
-    table.setFileName(QStringLiteral("first"));
+    table.setFileName(u"first"_s);
     table.setOpens(false);
     const CapturedLog log;
 
-    EXPECT_FALSE(table.setFileName(QStringLiteral("second")));
-    EXPECT_EQ(table.fileName(), QStringLiteral("first"));
+    EXPECT_FALSE(table.setFileName(u"second"_s));
+    EXPECT_EQ(table.fileName(), u"first"_s);
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_EQ(log.records()[0].level, Logger::Error);
     EXPECT_EQ(log.records()[0].source, QLatin1String("table_model.cpp"));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("virtual bool TableModel::setFileName(const QString&)"));
     // The stream parts its values by a blank of its own.
-    EXPECT_EQ(log.records()[0].message, QStringLiteral("Could not open  \"second\""));
+    EXPECT_EQ(log.records()[0].message, u"Could not open  \"second\""_s);
 }
 
-TEST(TableModel, TellsItsViewsThatTheTableChanged)
+TEST(TableModel, NotifiesItsViewsOfAChangedTable)
 {
     FilledTable table(1, {words("a"), words("b")});
     const QAbstractItemModelTester tester(&table,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QSignalSpy reset(&table, &QAbstractItemModel::modelReset);
-    table.setFileName(QStringLiteral("x"));
+    table.setFileName(u"x"_s);
     EXPECT_EQ(reset.count(), 1);
 }
 
