@@ -1,5 +1,6 @@
 #include "opendocument/item_builder.h"
 
+#include "building/item_creation.h"
 #include "opendocument/log.h"
 
 #include "host/class_factory.h"
@@ -15,9 +16,6 @@
 
 #include "host/tal_canvas_model.h"
 #include "messages/refusals.h"
-
-#include <QObject>
-#include <QPointer>
 
 #include <algorithm>
 #include <cmath>
@@ -100,9 +98,10 @@ void applyFill(FillableItem& shape, OOGraphicStyle& style)
 template <class Wanted>
 NewItem<Wanted> makeItem(ClassFactory* factory, KestTypes::ShapeType type)
 {
+    auto created = building::createItem<Wanted>(factory, type);
     NewItem<Wanted> made;
-    made.owned.reset(factory != nullptr ? factory->create(type) : nullptr);
-    made.item = dynamic_cast<Wanted*>(made.owned.get());
+    made.item = created.get();
+    made.owned = std::move(created);
     if (made.item == nullptr) {
         logDebug(
             __LINE__, Q_FUNC_INFO,
@@ -120,11 +119,7 @@ template NewItem<SymbolItem> makeItem(ClassFactory*, KestTypes::ShapeType);
 
 bool handOver(TalCanvasModel& canvas, std::unique_ptr<Item> item)
 {
-    // Every item of the contract is a QObject, which tells of its end.
-    const QPointer<QObject> alive(dynamic_cast<QObject*>(item.get()));
-    const bool tells = !alive.isNull();
-    canvas.importItem(item.release());
-    const bool isKept = !tells || !alive.isNull();
+    const bool isKept = building::handOver(canvas, std::move(item)) != nullptr;
     if (!isKept) {
         logDebug(__LINE__, Q_FUNC_INFO,
                  u"The host deleted an item when it got it; it is left out"_s,
