@@ -45,14 +45,14 @@ qint64 lostObjects(const FileReport& report)
 // What is on the label is in the file, and what is not on it is listed.
 void checkNumbers(const FileReport& report)
 {
-    if (!report.objectsInFile || report.status != Status::Imported) {
+    if (!report.objects.inFile || report.status != Status::Imported) {
         return;
     }
-    if (report.objectsImported + lostObjects(report) != *report.objectsInFile) {
+    if (report.objects.imported + lostObjects(report) != *report.objects.inFile) {
         qFatal("%lld objects came over and %lld did not, of %lld in the file",
-               static_cast<long long>(report.objectsImported),
+               static_cast<long long>(report.objects.imported),
                static_cast<long long>(lostObjects(report)),
-               static_cast<long long>(*report.objectsInFile));
+               static_cast<long long>(*report.objects.inFile));
     }
     if (sumOf(report.whole) > sumOf(report.items)) {
         qFatal("more items came over whole than there are");

@@ -33,18 +33,18 @@ qsizetype scriptsOfAnyPage()
 
 void fuzzOneInput(const QByteArray& input)
 {
-    writeScratch("input.json", input);
-    if (!merged("input.json", "once.json").isEmpty()) {
+    writeScratch("input.jsonl", input);
+    if (!merged("input.jsonl", "once.jsonl").isEmpty()) {
         return;
     }
-    const QString error = merged("once.json", "twice.json");
+    const QString error = merged("once.jsonl", "twice.jsonl");
     if (!error.isEmpty()) {
         qFatal("a report that was written cannot be read: %s", qPrintable(error));
     }
-    if (readScratch("once.json") != readScratch("twice.json")) {
+    if (readScratch("once.jsonl") != readScratch("twice.jsonl")) {
         qFatal("a report is written differently the second time");
     }
-    if (!merged("input.json", "page.html").isEmpty()) {
+    if (!merged("input.jsonl", "page.html").isEmpty()) {
         qFatal("there is no page of a report that can be read");
     }
     if (scriptsOf(readScratch("page.html")) != scriptsOfAnyPage()) {

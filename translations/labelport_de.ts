@@ -3234,7 +3234,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
 </context>
 <context>
-    <name>workbench::FieldWords</name>
+    <name>fields::FieldProblem</name>
     <message>
         <source>%1 is missing</source>
         <translation>%1 fehlt</translation>

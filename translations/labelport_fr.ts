@@ -3234,7 +3234,7 @@ Code de sortie&#xa0;: 0 importé, 1 non importé, 2 mauvaise utilisation.</trans
     </message>
 </context>
 <context>
-    <name>workbench::FieldWords</name>
+    <name>fields::FieldProblem</name>
     <message>
         <source>%1 is missing</source>
         <translation>%1 manque</translation>

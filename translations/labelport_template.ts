@@ -3176,7 +3176,7 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
 </context>
 <context>
-    <name>workbench::FieldWords</name>
+    <name>fields::FieldProblem</name>
     <message>
         <source>%1 is missing</source>
         <translation type="unfinished"></translation>

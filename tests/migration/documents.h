@@ -1,7 +1,7 @@
 #pragma once
 
-#include "migration/model/file_report.h"
 #include "migration/file_report_builder.h"
+#include "migration/model/file_report.h"
 #include "workbench/import/label_import.h"
 
 #include <QByteArray>

@@ -2,9 +2,9 @@
 //   make_reports FOLDER FILE...
 // The reports hold the files, and one made-up entry for every other end that a file can come to.
 
-#include "migration/report/text_report.h"
 #include "migration/file_report_builder.h"
 #include "migration/report/report_writer.h"
+#include "migration/report/text_report.h"
 #include "workbench/document/label_file.h"
 #include "workbench/import/label_import.h"
 
@@ -65,7 +65,7 @@ int main(int argc, char* argv[])
     reports.append(ended(Status::Crashed, QStringLiteral("crashed <b>.cnv")));
     reports.append(ended(Status::TimedOut, QStringLiteral("slow.odg")));
     reports.append(ended(Status::OutOfMemory, QStringLiteral("large.qmtx")));
-    for (const char* name : {"report.json", "report.html"}) {
+    for (const char* name : {"report.jsonl", "report.html"}) {
         ReportWriter writer(folder.filePath(QString::fromLatin1(name)));
         for (const FileReport& report : reports) {
             writer.add(report);

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Opens a report in a real browser and looks at what it shows.
 
-    page_test.py CHROMIUM REPORT.html REPORT.json FOLDER
+    page_test.py CHROMIUM REPORT.html REPORT.jsonl FOLDER
 """
 
 import html.parser
@@ -12,7 +12,8 @@ import sys
 
 chromium, page, data, folder = sys.argv[1:]
 with open(data, encoding="utf-8") as file:
-    files = json.load(file)["files"]
+    lines = [json.loads(line) for line in file]
+files = [line for line in lines if "file" in line]
 
 
 class Cards(html.parser.HTMLParser):

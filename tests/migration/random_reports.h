@@ -49,13 +49,13 @@ template <class Value, class Make>
     report.status = static_cast<Status>(random() % 5);
     report.error = text();
     report.reader = text();
-    report.pageWidth = length();
-    report.pageHeight = length();
+    report.page.width = length();
+    report.page.height = length();
     if (random() % 2 == 0) {
-        report.objectsInFile = number();
+        report.objects.inFile = number();
     }
-    report.objectsUnknown = text();
-    report.objectsImported = number();
+    report.objects.unknown = text();
+    report.objects.imported = number();
     report.items = randomList<KindCount>(random, kind);
     report.whole = randomList<KindCount>(random, kind);
     report.changed = randomList<Finding>(random, finding);

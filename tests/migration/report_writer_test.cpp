@@ -45,13 +45,25 @@ QString write(const QString& fileName, const QList<FileReport>& reports, const Q
     return writer.finish();
 }
 
+QList<QJsonObject> linesOf(const QByteArray& report)
+{
+    QList<QJsonObject> lines;
+    for (const QByteArray& line : report.split('\n')) {
+        if (!line.isEmpty()) {
+            lines.append(QJsonDocument::fromJson(line).object());
+            EXPECT_FALSE(lines.constLast().isEmpty()) << line.constData();
+        }
+    }
+    return lines;
+}
+
 FileReport named(const QString& file, Status status = Status::Imported)
 {
     FileReport report;
     report.file = file;
     report.status = status;
-    report.objectsInFile = 4;
-    report.objectsImported = 4;
+    report.objects.inFile = 4;
+    report.objects.imported = 4;
     return report;
 }
 
@@ -85,19 +97,20 @@ private:
 TEST_F(ReportWriting, JsonHoldsTheFilesAndWhatTheyAddUpTo)
 {
     FileReport lossy = named(QStringLiteral("b"));
-    lossy.objectsImported = 1;
+    lossy.objects.imported = 1;
     lossy.lost = {{lossCode(LossKind::Table), {}, 3, true, {}}};
     FileReport changed = named(QStringLiteral("c"));
     changed.changed = {{lossCode(LossKind::FontReplaced), {}, 1, false, {}}};
-    ASSERT_EQ(write(path("r.json"), {named(QStringLiteral("a")), lossy, changed,
-                                     named(QStringLiteral("d"), Status::Crashed)}),
+    ASSERT_EQ(write(path("r.jsonl"), {named(QStringLiteral("a")), lossy, changed,
+                                      named(QStringLiteral("d"), Status::Crashed)}),
               QString());
 
-    const QJsonObject report = QJsonDocument::fromJson(contentOf(path("r.json"))).object();
-    EXPECT_EQ(report[QStringLiteral("format")].toString(), QStringLiteral("labelport-report"));
-    EXPECT_EQ(report[QStringLiteral("version")].toInt(), 1);
-    EXPECT_EQ(report[QStringLiteral("files")].toArray().size(), 4);
-    const QJsonObject totals = report[QStringLiteral("totals")].toObject();
+    const QList<QJsonObject> lines = linesOf(contentOf(path("r.jsonl")));
+    ASSERT_EQ(lines.size(), 6);
+    EXPECT_EQ(lines.at(0)[QStringLiteral("format")].toString(), QStringLiteral("labelport-report"));
+    EXPECT_EQ(lines.at(0)[QStringLiteral("version")].toInt(), 1);
+    EXPECT_EQ(lines.at(2)[QStringLiteral("file")].toString(), QStringLiteral("b"));
+    const QJsonObject totals = lines.at(5)[QStringLiteral("totals")].toObject();
     EXPECT_EQ(totals[QStringLiteral("files")].toInt(), 4);
     EXPECT_EQ(totals[QStringLiteral("whole")].toInt(), 1);
     EXPECT_EQ(totals[QStringLiteral("changed")].toInt(), 1);
@@ -110,16 +123,15 @@ TEST_F(ReportWriting, JsonHoldsTheFilesAndWhatTheyAddUpTo)
 
 TEST_F(ReportWriting, AnEmptyRunIsAReportToo)
 {
-    ASSERT_EQ(write(path("r.json"), {}), QString());
-    const QJsonObject report = QJsonDocument::fromJson(contentOf(path("r.json"))).object();
-    EXPECT_TRUE(report[QStringLiteral("files")].isArray());
+    ASSERT_EQ(write(path("r.jsonl"), {}), QString());
+    EXPECT_EQ(linesOf(contentOf(path("r.jsonl"))).size(), 2);
     ASSERT_EQ(write(path("r.html"), {}), QString());
     EXPECT_TRUE(contentOf(path("r.html")).endsWith("</html>\n"));
 }
 
 TEST_F(ReportWriting, TheSameReportsGiveTheSameBytes)
 {
-    for (const char* name : {"r.json", "r.html"}) {
+    for (const char* name : {"r.jsonl", "r.html"}) {
         ASSERT_EQ(write(path(name), someReports(40)), QString());
         const QByteArray first = contentOf(path(name));
         ASSERT_EQ(write(path(name), someReports(40)), QString());
@@ -129,7 +141,7 @@ TEST_F(ReportWriting, TheSameReportsGiveTheSameBytes)
 
 TEST_F(ReportWriting, WhatStoodThereStaysUntilTheEnd)
 {
-    for (const char* name : {"r.json", "r.html"}) {
+    for (const char* name : {"r.jsonl", "r.html"}) {
         putContent(path(name), "old");
         {
             ReportWriter writer(path(name));
@@ -142,7 +154,7 @@ TEST_F(ReportWriting, WhatStoodThereStaysUntilTheEnd)
 
 TEST_F(ReportWriting, AFolderThatIsNotThereIsAnErrorInWords)
 {
-    for (const char* name : {"none/r.json", "none/r.html"}) {
+    for (const char* name : {"none/r.jsonl", "none/r.html"}) {
         EXPECT_TRUE(write(path(name), {named(QStringLiteral("a"))}).contains(path(name)));
     }
 }
@@ -181,7 +193,7 @@ TEST_F(ReportWriting, ThePageNeedsNothingFromElsewhere)
 TEST_F(ReportWriting, MergedShardsAreTheReportOfOneRun)
 {
     const QList<FileReport> all = someReports(60);
-    for (const char* name : {"all.json", "all.html"}) {
+    for (const char* name : {"all.jsonl", "all.html"}) {
         ASSERT_EQ(write(path(name), all), QString());
     }
     QList<QList<FileReport>> shards(4);
@@ -190,45 +202,45 @@ TEST_F(ReportWriting, MergedShardsAreTheReportOfOneRun)
     }
     QStringList names;
     for (qsizetype shard = 0; shard < shards.size(); ++shard) {
-        names.append(path("shard%1.json").arg(shard));
+        names.append(path("shard%1.jsonl").arg(shard));
         ASSERT_EQ(write(names.constLast(), shards.at(shard)), QString());
     }
-    ASSERT_EQ(mergeReports(names, path("merged.json")), QString());
-    EXPECT_EQ(contentOf(path("merged.json")), contentOf(path("all.json")));
+    ASSERT_EQ(mergeReports(names, path("merged.jsonl")), QString());
+    EXPECT_EQ(contentOf(path("merged.jsonl")), contentOf(path("all.jsonl")));
     ASSERT_EQ(mergeReports(names, path("merged.html")), QString());
     EXPECT_EQ(contentOf(path("merged.html")), contentOf(path("all.html")));
 }
 
-TEST_F(ReportWriting, ReportsOfAnyLayoutAreMerged)
+TEST_F(ReportWriting, ConcatenatedReportsAreMerged)
 {
-    ASSERT_EQ(write(path("a.json"), someReports(20)), QString());
-    QJsonObject object = QJsonDocument::fromJson(contentOf(path("a.json"))).object();
-    putContent(path("pretty.json"), QJsonDocument(object).toJson(QJsonDocument::Indented));
-    // Another program may sort the keys: then the files come before the format.
-    ASSERT_EQ(mergeReports({path("a.json")}, path("1.json")), QString());
-    const QString error = mergeReports({path("pretty.json")}, path("2.json"));
-    ASSERT_TRUE(error.isEmpty()) << error.toStdString();
-    EXPECT_EQ(contentOf(path("1.json")), contentOf(path("2.json")));
+    ASSERT_EQ(write(path("a.jsonl"), {named(QStringLiteral("one"))}), QString());
+    ASSERT_EQ(write(path("b.jsonl"), {named(QStringLiteral("two"))}), QString());
+    putContent(path("both.jsonl"), contentOf(path("a.jsonl")) + contentOf(path("b.jsonl")));
+    ASSERT_EQ(mergeReports({path("a.jsonl"), path("b.jsonl")}, path("1.jsonl")), QString());
+    ASSERT_EQ(mergeReports({path("both.jsonl")}, path("2.jsonl")), QString());
+    EXPECT_EQ(contentOf(path("1.jsonl")), contentOf(path("2.jsonl")));
 }
 
 TEST_F(ReportWriting, MergingRefusesWhatDoesNotBelongTogether)
 {
-    ASSERT_EQ(write(path("a.json"), {named(QStringLiteral("one"))}), QString());
-    EXPECT_TRUE(mergeReports({path("a.json"), path("a.json")}, path("m.json"))
+    ASSERT_EQ(write(path("a.jsonl"), {named(QStringLiteral("one"))}), QString());
+    EXPECT_TRUE(mergeReports({path("a.jsonl"), path("a.jsonl")}, path("m.jsonl"))
                     .contains(QStringLiteral("one")));
-    EXPECT_FALSE(mergeReports({path("missing.json")}, path("m.json")).isEmpty());
-    for (const char* text :
-         {"", "{}", "[]", "{\"format\": \"other\", \"files\": []}",
-          "{\"format\": \"labelport-report\", \"version\": 2, \"files\": []}",
-          "{\"files\": [], \"format\": \"labelport-report\", \"version\": 2}",
-          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [{]}",
-          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [1]}",
-          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [{}]}",
-          "{\"format\": \"labelport-report\", \"version\": 1, \"files\": [{\"file\": \""}) {
-        SCOPED_TRACE(text);
-        putContent(path("bad.json"), text);
-        EXPECT_FALSE(mergeReports({path("bad.json")}, path("m.json")).isEmpty());
-        EXPECT_FALSE(QFile::exists(path("m.json")));
+    EXPECT_FALSE(mergeReports({path("missing.jsonl")}, path("m.jsonl")).isEmpty());
+    const QByteArray whole = contentOf(path("a.jsonl"));
+    const QByteArray first = "{\"format\":\"labelport-report\",\"version\":1}\n";
+    const QByteArray totals = "{\"totals\":{}}\n";
+    for (const QByteArray& text :
+         {QByteArray(), QByteArray("{}\n"), QByteArray("[]\n"), totals,
+          QByteArray("{\"format\":\"other\",\"version\":1}\n"),
+          QByteArray("{\"format\":\"labelport-report\",\"version\":2}\n") + totals, first,
+          first + "{\n" + totals, first + "1\n" + totals, first + "{}\n" + totals,
+          whole.left(whole.size() / 2), whole.left(whole.lastIndexOf("{\"totals")),
+          whole + "{\"file\":\"x\"}\n"}) {
+        SCOPED_TRACE(text.toStdString());
+        putContent(path("bad.jsonl"), text);
+        EXPECT_FALSE(mergeReports({path("bad.jsonl")}, path("m.jsonl")).isEmpty());
+        EXPECT_FALSE(QFile::exists(path("m.jsonl")));
     }
 }
 

@@ -355,8 +355,8 @@ TEST(ReportedLosses, NothingIsToldOfWholeDocuments)
         SCOPED_TRACE(codesOf(report).toStdString());
         EXPECT_TRUE(report.lost.isEmpty());
         EXPECT_FALSE(hasLoss(report));
-        EXPECT_EQ(report.objectsInFile, report.objectsImported);
-        EXPECT_TRUE(summaryOf(report).startsWith(QLatin1String("1 of 1 objects came over.")));
+        EXPECT_EQ(report.objects.inFile, report.objects.imported);
+        EXPECT_TRUE(summaryOf(report).startsWith(QLatin1String("Imported 1 of 1 objects.")));
     }
 }
 
@@ -377,6 +377,6 @@ TEST(ReportedLosses, AFileThatIsNotImportedIsALoss)
     EXPECT_EQ(report.status, Status::Failed);
     EXPECT_FALSE(report.error.isEmpty());
     EXPECT_TRUE(hasLoss(report));
-    EXPECT_FALSE(report.objectsInFile.has_value());
-    EXPECT_FALSE(report.objectsUnknown.isEmpty());
+    EXPECT_FALSE(report.objects.inFile.has_value());
+    EXPECT_FALSE(report.objects.unknown.isEmpty());
 }

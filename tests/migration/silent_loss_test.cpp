@@ -93,8 +93,8 @@ void expectEveryDropIsSeen(const Document& document, qint64 objects)
 {
     const FileReport whole = reportOn(document);
     SCOPED_TRACE(codesOf(whole).toStdString());
-    ASSERT_EQ(whole.objectsInFile, objects);
-    ASSERT_EQ(whole.objectsImported, objects);
+    ASSERT_EQ(whole.objects.inFile, objects);
+    ASSERT_EQ(whole.objects.imported, objects);
     ASSERT_TRUE(whole.lost.isEmpty());
     const qsizetype count = itemsOf(document);
     ASSERT_EQ(count, objects);
@@ -102,8 +102,8 @@ void expectEveryDropIsSeen(const Document& document, qint64 objects)
         SCOPED_TRACE(index);
         const FileReport report =
             reportOn(document, [index](auto& result) { dropItem(result, index); });
-        EXPECT_EQ(report.objectsInFile, objects);
-        EXPECT_EQ(report.objectsImported, objects - 1);
+        EXPECT_EQ(report.objects.inFile, objects);
+        EXPECT_EQ(report.objects.imported, objects - 1);
         const Finding* finding = findingOf(report, lossCode(LossKind::ObjectMissing));
         ASSERT_NE(finding, nullptr);
         EXPECT_EQ(finding->count, 1);
@@ -150,9 +150,9 @@ TEST(SilentLoss, OfAKindThatIsNotDispatchedIsCounted)
           "swap_text_box", "transparent_label", "transparent_shape", "transparent_polygon"}) {
         SCOPED_TRACE(tag);
         const FileReport report = reportOn(without(fullLabel(), tag));
-        EXPECT_EQ(report.objectsInFile, 9);
-        EXPECT_EQ(report.objectsImported, 8);
-        EXPECT_TRUE(summaryOf(report).startsWith(QLatin1String("8 of 9 objects came over.")));
+        EXPECT_EQ(report.objects.inFile, 9);
+        EXPECT_EQ(report.objects.imported, 8);
+        EXPECT_TRUE(summaryOf(report).startsWith(QLatin1String("Imported 8 of 9 objects.")));
     }
 }
 
@@ -165,6 +165,6 @@ TEST(SilentLoss, ADocumentOfOtherPrefixesIsNotCalledWhole)
                   "<d:rect xmlns:d=\"urn:oasis:names:tc:opendocument:xmlns:drawing:1.0\"/>"
                   "</draw:page></office:drawing>")};
     const FileReport report = reportOn(document);
-    EXPECT_EQ(report.objectsImported, 1);
-    EXPECT_EQ(report.objectsInFile, 2);
+    EXPECT_EQ(report.objects.imported, 1);
+    EXPECT_EQ(report.objects.inFile, 2);
 }

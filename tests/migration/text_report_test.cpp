@@ -13,10 +13,10 @@ FileReport sampleReport()
     FileReport report;
     report.file = QStringLiteral("shelf.odg");
     report.status = Status::Imported;
-    report.pageWidth = 50.8;
-    report.pageHeight = 25.4;
-    report.objectsInFile = 3;
-    report.objectsImported = 2;
+    report.page.width = 50.8;
+    report.page.height = 25.4;
+    report.objects.inFile = 3;
+    report.objects.imported = 2;
     report.itemList = {
         {QStringLiteral("rounded-rectangle"), 1.0, 2.0, 30.5, 4.0, {}, -1},
         {QStringLiteral("text"), 0.0, 0.0, 9.0, 3.0, QStringLiteral("Two\nlines"), 4}};
@@ -37,19 +37,19 @@ TEST(Inspect, DescribesALabelOnOneScreen)
 {
     EXPECT_EQ(describeForPeople(sampleReport()).toStdString(),
               "shelf.odg\n"
-              "  2 of 3 objects came over.\n"
+              "  Imported 2 of 3 objects.\n"
               "  Page: 50.8 × 25.4 mm\n"
               "Items (millimeters):\n"
               "  # kind                x   y width height source content\n"
-              "  1 rounded rectangle 1.0 2.0  30.5    4.0 -\n"
-              "  2 text              0.0 0.0   9.0    3.0 4      Two lines\n"
+              "  1 Rounded rectangle 1.0 2.0  30.5    4.0 -\n"
+              "  2 Text              0.0 0.0   9.0    3.0 4      Two lines\n"
               "Data sources:\n"
               "  4: SequenceDatasource (Value)\n"
-              "Came over whole:\n"
-              "  1 × text\n"
-              "Did not come over:\n"
+              "Imported completely:\n"
+              "  1 × Text\n"
+              "Not imported:\n"
               "  table (×2): Tables were left out. [A, B]\n"
-              "What the import said:\n"
+              "Warnings:\n"
               "  Something. (×3)\n");
 }
 

@@ -12,6 +12,7 @@
 #include <limits>
 
 using namespace workbench::document;
+using fields::Json;
 
 namespace {
 

@@ -24,6 +24,7 @@
 
 using namespace workbench;
 using namespace workbench::document;
+using fields::Json;
 
 namespace {
 

@@ -26,12 +26,12 @@ QString nameOf(ReaderKind reader)
     return QStringLiteral("tavrel");
 }
 
-// Of a file that was not imported, only how many objects are lost with it is told.
+// For a file that was not imported, the report only contains the number of its objects.
 void describeFailure(const Census& census, FileReport& report)
 {
-    report.objectsUnknown = census.unknown;
+    report.objects.unknown = census.unknown;
     if (census.unknown.isEmpty()) {
-        report.objectsInFile = census.objects.size();
+        report.objects.inFile = census.objects.size();
     }
 }
 
@@ -61,7 +61,7 @@ FileReport reportOn(const QString& fileName, const QString& shownName, const QSt
                     Count count, const workbench::ImportResult& result,
                     const ReportOptions& options)
 {
-    // OpenDocument's paragraphs without a letter are no objects; a text field of a label is.
+    // A blank paragraph of OpenDocument is not an object; a blank text of the other formats is.
     const bool blankTextsCount = count != &countOpenDocument;
     FileReport report;
     report.file = shownName;

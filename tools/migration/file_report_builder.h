@@ -11,26 +11,26 @@ struct ImportResult;
 
 namespace migration {
 
-/// What a report takes the time for.
+/// Parts of a report that take time.
 struct ReportOptions
 {
-    bool thumbnail = true; ///< a small picture of the label
-    bool itemList = false; ///< every single item
+    bool thumbnail = true; ///< with a small picture of the label
+    bool itemList = false; ///< with all items one by one
 };
 
-/// Reports on a file that was given to a reader. The file is opened once more, to count
-/// what it holds; whatever is in it, this neither fails nor takes long.
+/// Builds the report of an imported file. Opens the file again to count its objects; never fails,
+/// whatever the file contains.
 ///
-/// @param fileName  the file, as the reader had it
-/// @param shownName the name that the report shows
-/// @param reader    the reader that had it
-/// @param result    what the import gave, as it was given
+/// @param fileName  the file, as it was imported
+/// @param shownName the name in the report
+/// @param reader    the reader that imported it
+/// @param result    the result of the import
 [[nodiscard]] FileReport makeFileReport(const QString& fileName, const QString& shownName,
                                         ReaderKind reader, const workbench::ImportResult& result,
                                         const ReportOptions& options = {});
 
-/// Reports on a saved label (*.label) that was opened. Only canvas, datasources and error
-/// of the result are looked at.
+/// Builds the report of a saved label (*.label) that was opened. Uses only canvas, datasources and
+/// error of the result.
 [[nodiscard]] FileReport makeSavedLabelReport(const QString& fileName, const QString& shownName,
                                               const workbench::ImportResult& result,
                                               const ReportOptions& options = {});

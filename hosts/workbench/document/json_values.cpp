@@ -1,44 +1,17 @@
 #include "workbench/document/json_values.h"
 
+#include "workbench/items/shape_kinds.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <algorithm>
-#include <array>
-
-namespace workbench::document {
+namespace fields {
 
 namespace {
 
-constexpr QLatin1String Utf16Key("utf16");
 /// Digits of a color with two and with four digits to a channel.
 constexpr qsizetype ShortColor = 8;
 constexpr qsizetype LongColor = 16;
-
-struct TypeName
-{
-    KestTypes::ShapeType type;
-    QStringView name;
-};
-
-constexpr std::array<TypeName, 16> TypeNames{{
-    {KestTypes::Picture, u"picture"},
-    {KestTypes::Symbol, u"symbol"},
-    {KestTypes::SimpleText, u"simpleText"},
-    {KestTypes::RichText, u"richText"},
-    {KestTypes::Barcode, u"barcode"},
-    {KestTypes::Line, u"line"},
-    {KestTypes::Rectangle, u"rectangle"},
-    {KestTypes::RoundedRectangle, u"roundedRectangle"},
-    {KestTypes::Ellipse, u"ellipse"},
-    {KestTypes::Pie, u"pie"},
-    {KestTypes::RightTriangle, u"rightTriangle"},
-    {KestTypes::Triangle, u"triangle"},
-    {KestTypes::Diamond, u"diamond"},
-    {KestTypes::Pentagon, u"pentagon"},
-    {KestTypes::Hexagon, u"hexagon"},
-    {KestTypes::Octagon, u"octagon"},
-}};
 
 [[nodiscard]] QJsonArray pair(double first, double second)
 {
@@ -50,15 +23,6 @@ constexpr std::array<TypeName, 16> TypeNames{{
     const QJsonArray array = json.toArray();
     return array.size() == 2 && Json<double>::read(array[0], first) &&
            Json<double>::read(array[1], second);
-}
-
-[[nodiscard]] std::optional<QByteArray> fromBase64(const QString& text)
-{
-    const auto decoded =
-        QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded)
-        return std::nullopt;
-    return *decoded;
 }
 
 [[nodiscard]] QJsonValue writeProperty(const QVariant& property)
@@ -87,86 +51,6 @@ template <class T>
 }
 
 } // namespace
-
-bool Json<bool>::read(const QJsonValue& json, bool& value)
-{
-    value = json.toBool(value);
-    return json.isBool();
-}
-
-QJsonValue Json<double>::write(double value)
-{
-    // JSON has no word for what is not a number.
-    return std::isfinite(value) ? value : 0.0;
-}
-
-bool Json<double>::read(const QJsonValue& json, double& value)
-{
-    value = json.toDouble(value);
-    return json.isDouble() && std::isfinite(value);
-}
-
-QJsonValue Json<std::optional<double>>::write(const std::optional<double>& value)
-{
-    return value ? Json<double>::write(*value) : QJsonValue();
-}
-
-bool Json<std::optional<double>>::read(const QJsonValue& json, std::optional<double>& value)
-{
-    double number = 0.0;
-    if (!json.isNull() && !Json<double>::read(json, number))
-        return false;
-    value = json.isNull() ? std::nullopt : std::optional(number);
-    return true;
-}
-
-QJsonValue Json<QString>::write(const QString& value)
-{
-    if (value.isValidUtf16())
-        return value;
-    const auto size = value.size() * static_cast<qsizetype>(sizeof(char16_t));
-    const QByteArray bytes(reinterpret_cast<const char*>(value.utf16()), size);
-    return QJsonObject{{Utf16Key, QString::fromLatin1(bytes.toBase64())}};
-}
-
-bool Json<QString>::read(const QJsonValue& json, QString& value)
-{
-    if (json.isString()) {
-        value = json.toString();
-        return true;
-    }
-    const QJsonValue encoded = json.toObject().value(Utf16Key);
-    const std::optional<QByteArray> bytes = fromBase64(encoded.toString());
-    if (!encoded.isString() || !bytes || bytes->size() % 2 != 0)
-        return false;
-    QString text(bytes->size() / 2, Qt::Uninitialized);
-    std::copy(bytes->begin(), bytes->end(), reinterpret_cast<char*>(text.data()));
-    value = text;
-    return true;
-}
-
-QJsonValue Json<QStringList>::write(const QStringList& value)
-{
-    QJsonArray array;
-    for (const QString& text : value)
-        array.append(Json<QString>::write(text));
-    return array;
-}
-
-bool Json<QStringList>::read(const QJsonValue& json, QStringList& value)
-{
-    if (!json.isArray())
-        return false;
-    QStringList texts;
-    for (const QJsonValue each : json.toArray()) {
-        QString text;
-        if (!Json<QString>::read(each, text))
-            return false;
-        texts << text;
-    }
-    value = texts;
-    return true;
-}
 
 QJsonValue Json<QColor>::write(const QColor& value)
 {
@@ -224,20 +108,6 @@ bool Json<QPointF>::read(const QJsonValue& json, QPointF& value)
     return readPair(json, value.rx(), value.ry());
 }
 
-QJsonValue Json<QByteArray>::write(const QByteArray& value)
-{
-    return QString::fromLatin1(value.toBase64());
-}
-
-bool Json<QByteArray>::read(const QJsonValue& json, QByteArray& value)
-{
-    const std::optional<QByteArray> bytes = fromBase64(json.toString());
-    if (!json.isString() || !bytes)
-        return false;
-    value = *bytes;
-    return true;
-}
-
 QJsonValue Json<Qt::Alignment>::write(Qt::Alignment value)
 {
     return Json<int>::write(static_cast<int>(value.toInt()));
@@ -254,20 +124,15 @@ bool Json<Qt::Alignment>::read(const QJsonValue& json, Qt::Alignment& value)
 
 QJsonValue Json<KestTypes::ShapeType>::write(KestTypes::ShapeType value)
 {
-    const auto found = std::find_if(TypeNames.begin(), TypeNames.end(),
-                                    [value](const TypeName& each) { return each.type == value; });
-    return found == TypeNames.end() ? QJsonValue() : QJsonValue(found->name.toString());
+    const QString name = workbench::savedNameOf(value);
+    return name.isEmpty() ? QJsonValue() : QJsonValue(name);
 }
 
 bool Json<KestTypes::ShapeType>::read(const QJsonValue& json, KestTypes::ShapeType& value)
 {
-    const QString name = json.toString();
-    const auto found = std::find_if(TypeNames.begin(), TypeNames.end(),
-                                    [&name](const TypeName& each) { return each.name == name; });
-    if (found == TypeNames.end())
-        return false;
-    value = found->type;
-    return true;
+    const auto type = workbench::typeOfSavedName(json.toString());
+    value = type.value_or(value);
+    return type.has_value();
 }
 
 QJsonValue Json<QVariantMap>::write(const QVariantMap& value)
@@ -294,4 +159,4 @@ bool Json<QVariantMap>::read(const QJsonValue& json, QVariantMap& value)
     return true;
 }
 
-} // namespace workbench::document
+} // namespace fields

@@ -1,20 +1,27 @@
 #pragma once
 
+#include "fields/field_archives.h"
+#include "workbench/document/json_values.h"
 #include "workbench/document/saved_label.h"
 
-#include <QLatin1String>
+/// The fields of every group of a saved label, for fields::FieldWriter and fields::FieldReader.
+/// Each function is in the namespace of its struct, where the archives find it.
 
-#include <concepts>
-#include <type_traits>
+namespace workbench::datasources {
 
-/// The fields of every group of a saved label, for writing and reading alike: `describe()`
-/// names each field to an archive, which writes it or fills it.
-namespace workbench::document {
+void describe(auto& field, fields::ValuesOf<SourceValues> auto& source)
+{
+    field("id", source.id);
+    field("kind", source.kind);
+    field("properties", source.properties);
+    field("selectedFields", source.selectedFields);
+}
 
-template <class V, class T>
-concept ValuesOf = std::same_as<std::remove_const_t<V>, T>;
+} // namespace workbench::datasources
 
-void describe(auto& field, ValuesOf<PageValues> auto& page)
+namespace workbench {
+
+void describe(auto& field, fields::ValuesOf<PageValues> auto& page)
 {
     field("size", page.size);
     field("canvasFlag", page.canvasFlag);
@@ -23,15 +30,7 @@ void describe(auto& field, ValuesOf<PageValues> auto& page)
     field("defaultPen", page.defaultPen);
 }
 
-void describe(auto& field, ValuesOf<datasources::SourceValues> auto& source)
-{
-    field("id", source.id);
-    field("kind", source.kind);
-    field("properties", source.properties);
-    field("selectedFields", source.selectedFields);
-}
-
-void describe(auto& field, ValuesOf<BoxValues> auto& box)
+void describe(auto& field, fields::ValuesOf<BoxValues> auto& box)
 {
     field("size", box.size);
     field("rotation", box.rotation);
@@ -39,7 +38,7 @@ void describe(auto& field, ValuesOf<BoxValues> auto& box)
     field("flipVertical", box.flipVertical);
 }
 
-void describe(auto& field, ValuesOf<PlacementValues> auto& placement)
+void describe(auto& field, fields::ValuesOf<PlacementValues> auto& placement)
 {
     field("position", placement.position);
     field("z", placement.z);
@@ -48,7 +47,7 @@ void describe(auto& field, ValuesOf<PlacementValues> auto& placement)
     field("userBackground", placement.userBackground);
 }
 
-void describe(auto& field, ValuesOf<PenValues> auto& pen)
+void describe(auto& field, fields::ValuesOf<PenValues> auto& pen)
 {
     field("color", pen.color);
     field("width", pen.width);
@@ -57,19 +56,19 @@ void describe(auto& field, ValuesOf<PenValues> auto& pen)
     field("join", pen.join);
 }
 
-void describe(auto& field, ValuesOf<FillValues> auto& fill)
+void describe(auto& field, fields::ValuesOf<FillValues> auto& fill)
 {
     field("color", fill.color);
     field("filled", fill.filled);
     field("style", fill.style);
 }
 
-void describe(auto& field, ValuesOf<CornerValues> auto& corner)
+void describe(auto& field, fields::ValuesOf<CornerValues> auto& corner)
 {
     field("radius", corner.radius);
 }
 
-void describe(auto& field, ValuesOf<FontValues> auto& font)
+void describe(auto& field, fields::ValuesOf<FontValues> auto& font)
 {
     field("family", font.family);
     field("pointSize", font.pointSize);
@@ -79,19 +78,19 @@ void describe(auto& field, ValuesOf<FontValues> auto& font)
     field("underline", font.underline);
 }
 
-void describe(auto& field, ValuesOf<TextStyleValues> auto& style)
+void describe(auto& field, fields::ValuesOf<TextStyleValues> auto& style)
 {
     field("color", style.color);
     field("alignment", style.alignment);
 }
 
-void describe(auto& field, ValuesOf<TextValues> auto& text)
+void describe(auto& field, fields::ValuesOf<TextValues> auto& text)
 {
     field("text", text.text);
     field("html", text.html);
 }
 
-void describe(auto& field, ValuesOf<TextLabelValues> auto& label)
+void describe(auto& field, fields::ValuesOf<TextLabelValues> auto& label)
 {
     field("textBox", label.textBox);
     field("limiting", label.limiting);
@@ -99,14 +98,14 @@ void describe(auto& field, ValuesOf<TextLabelValues> auto& label)
     field("optionB", label.optionB);
 }
 
-void describe(auto& field, ValuesOf<LineValues> auto& line)
+void describe(auto& field, fields::ValuesOf<LineValues> auto& line)
 {
     field("end", line.end);
     field("startMarker", line.startMarker);
     field("endMarker", line.endMarker);
 }
 
-void describe(auto& field, ValuesOf<BarcodeValues> auto& barcode)
+void describe(auto& field, fields::ValuesOf<BarcodeValues> auto& barcode)
 {
     field("symbology", barcode.symbology);
     field("content", barcode.content);
@@ -122,25 +121,25 @@ void describe(auto& field, ValuesOf<BarcodeValues> auto& barcode)
     field("background", barcode.background);
 }
 
-void describe(auto& field, ValuesOf<PictureValues> auto& picture)
+void describe(auto& field, fields::ValuesOf<PictureValues> auto& picture)
 {
     field("image", picture.image);
 }
 
-void describe(auto& field, ValuesOf<SymbolValues> auto& symbol)
+void describe(auto& field, fields::ValuesOf<SymbolValues> auto& symbol)
 {
     field("data", symbol.data);
     field("foreground", symbol.foreground);
     field("background", symbol.background);
 }
 
-void describe(auto& field, ValuesOf<DatasourceValues> auto& datasource)
+void describe(auto& field, fields::ValuesOf<DatasourceValues> auto& datasource)
 {
     field("id", datasource.id);
     field("fields", datasource.fields);
 }
 
-void describe(auto& field, ValuesOf<ItemValues> auto& item)
+void describe(auto& field, fields::ValuesOf<ItemValues> auto& item)
 {
     field("type", item.type);
     field("box", item.box);
@@ -159,7 +158,11 @@ void describe(auto& field, ValuesOf<ItemValues> auto& item)
     field("datasource", item.datasource);
 }
 
-void describe(auto& field, ValuesOf<SavedLabel> auto& label)
+} // namespace workbench
+
+namespace workbench::document {
+
+void describe(auto& field, fields::ValuesOf<SavedLabel> auto& label)
 {
     field("page", label.page);
     field("datasources", label.datasources);

@@ -2,8 +2,8 @@
 
 #include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
-#include "workbench/document/field_archives.h"
 #include "workbench/document/file_bounds.h"
+#include "workbench/document/label_fields.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -42,7 +42,7 @@ constexpr QLatin1String FormatName("labelport-label");
     if (file.value(FormatKey) != QJsonValue(FormatName))
         return Words::tr("The file is not a saved label.");
     int version = 0;
-    if (!Json<int>::read(file.value(VersionKey), version) || version < 1)
+    if (!fields::Json<int>::read(file.value(VersionKey), version) || version < 1)
         return Words::tr("The label file is damaged: version is not a positive whole number.");
     if (version > FormatVersion)
         return Words::tr("The label was saved by a newer version of the program: its format"
@@ -64,7 +64,7 @@ constexpr QLatin1String FormatName("labelport-label");
 
 QByteArray toJson(const SavedLabel& label)
 {
-    FieldWriter writer;
+    fields::FieldWriter writer;
     describe(writer, label);
     const QJsonObject content = writer.object();
     const QJsonObject file{{FormatKey, FormatName},
@@ -92,7 +92,7 @@ ReadLabel fromJson(const QByteArray& bytes)
     if (claimedPixels(content) > limits::AllPicturePixels)
         return refusal(Words::tr("The label file is damaged: its pictures are too large."));
     ReadLabel result;
-    FieldReader reader(content);
+    fields::FieldReader reader(content, limits::Items);
     describe(reader, result.label);
     if (!reader.error().isEmpty())
         return refusal(Words::tr("The label file is damaged: %1.").arg(reader.error()));

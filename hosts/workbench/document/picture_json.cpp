@@ -10,9 +10,11 @@
 #include <algorithm>
 #include <array>
 
-namespace workbench::document {
+namespace fields {
 
 namespace {
+
+namespace limits = workbench::document::limits;
 
 constexpr QLatin1String PngKey("png");
 constexpr QLatin1String PixelsKey("pixels");
@@ -107,4 +109,4 @@ bool Json<QImage>::read(const QJsonValue& json, QImage& value)
     return true;
 }
 
-} // namespace workbench::document
+} // namespace fields

@@ -1,6 +1,7 @@
 #include "window/properties/style_names.h"
 
 #include "window/properties/item_description.h"
+#include "workbench/items/shape_kinds.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -18,25 +19,6 @@ struct NameRow
 };
 
 constexpr const char* Context = "window::StyleNames";
-
-constexpr NameRow Kinds[] = {
-    {KestTypes::Picture, QT_TRANSLATE_NOOP("window::StyleNames", "Picture")},
-    {KestTypes::Symbol, QT_TRANSLATE_NOOP("window::StyleNames", "Symbol")},
-    {KestTypes::SimpleText, QT_TRANSLATE_NOOP("window::StyleNames", "Text")},
-    {KestTypes::RichText, QT_TRANSLATE_NOOP("window::StyleNames", "Formatted text")},
-    {KestTypes::Barcode, QT_TRANSLATE_NOOP("window::StyleNames", "Barcode")},
-    {KestTypes::Line, QT_TRANSLATE_NOOP("window::StyleNames", "Line")},
-    {KestTypes::Rectangle, QT_TRANSLATE_NOOP("window::StyleNames", "Rectangle")},
-    {KestTypes::RoundedRectangle, QT_TRANSLATE_NOOP("window::StyleNames", "Rounded rectangle")},
-    {KestTypes::Ellipse, QT_TRANSLATE_NOOP("window::StyleNames", "Ellipse")},
-    {KestTypes::Pie, QT_TRANSLATE_NOOP("window::StyleNames", "Pie")},
-    {KestTypes::RightTriangle, QT_TRANSLATE_NOOP("window::StyleNames", "Right triangle")},
-    {KestTypes::Triangle, QT_TRANSLATE_NOOP("window::StyleNames", "Triangle")},
-    {KestTypes::Diamond, QT_TRANSLATE_NOOP("window::StyleNames", "Diamond")},
-    {KestTypes::Pentagon, QT_TRANSLATE_NOOP("window::StyleNames", "Pentagon")},
-    {KestTypes::Hexagon, QT_TRANSLATE_NOOP("window::StyleNames", "Hexagon")},
-    {KestTypes::Octagon, QT_TRANSLATE_NOOP("window::StyleNames", "Octagon")},
-};
 
 constexpr NameRow PenStyles[] = {
     {Qt::NoPen, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
@@ -151,7 +133,7 @@ QString flagName(const NameRow (&rows)[Size], int flags)
 
 QString kindName(KestTypes::ShapeType type)
 {
-    return nameIn(Kinds, type);
+    return workbench::shapeTitle(type);
 }
 
 QString colorName(const QColor& color)

@@ -28,13 +28,13 @@ inline constexpr qint64 MaximumContent = 48LL * 1024 * 1024;
 /// Bytes that a saved label's tree may take: as many as where it is opened.
 inline constexpr qint64 MaximumSavedTree = 3LL << 30;
 
-/// That a file is too large to be counted, for a person.
+/// The message for a file that is too large to be counted.
 [[nodiscard]] QString tooLargeToCount();
-/// Counting ends with the first object too many: then it is not known how many there are.
+/// Marks the number of objects as unknown if there are more than MaximumObjects.
 void refuseTooMany(Census& census);
 
-/// Reads a file to count in it; empty, and `unknown` says why, for one that is too large
-/// or cannot be read.
+/// Reads a file to count its objects. Returns nothing and sets `unknown` to the reason if the file
+/// is too large or cannot be read.
 [[nodiscard]] QByteArray bytesToCount(const QString& fileName, QString& unknown);
 
 } // namespace migration

@@ -25,7 +25,7 @@ public:
     /// @param unit   the unit of the page, two letters
     OpenDocumentWalker(Census& census, const StyleBook& styles, const QString& unit);
 
-    /// Starts in a place whose objects are all lost, for whoever walks over a part alone.
+    /// Starts in a place whose objects are all lost, to walk over a part of a document only.
     void startLost(LossKind kind);
 
     void open(const QString& name, const QXmlStreamAttributes& attributes);

@@ -10,11 +10,11 @@ namespace migration {
 
 namespace {
 
-/// What a kind adds up to.
+/// The sum of one kind.
 struct Sum
 {
     qint64 objects = 0; ///< lost objects, or changed items
-    qint64 others = 0;  ///< what is about no single object
+    qint64 others = 0;  ///< concerns no single object
     QStringList details;
 };
 
@@ -55,7 +55,7 @@ private:
     FileReport& m_report;
     std::array<Sum, static_cast<std::size_t>(LossKind::Other) + 1> m_sums;
     QList<LossSet> m_itemChanges;
-    /// Items of a kind that changed, nobody knows which.
+    /// Numbers of changed items by kind, if it is unknown which items changed.
     QMap<QString, qint64> m_changedByNumber;
 };
 
@@ -74,14 +74,14 @@ void Comparison::run()
             ++sum(*object.lost).objects;
         }
     }
-    m_report.objectsImported = 0;
+    m_report.objects.imported = 0;
     for (int index = 0; index < ObjectClasses; ++index) {
         compareClass(static_cast<ObjectClass>(index));
     }
     if (m_census.unknown.isEmpty()) {
-        m_report.objectsInFile = m_census.objects.size();
+        m_report.objects.inFile = m_census.objects.size();
     }
-    m_report.objectsUnknown = m_census.unknown;
+    m_report.objects.unknown = m_census.unknown;
     sumItems();
     addTallies(m_label.tallies, false);
     addTallies(m_census.tallies, true);
@@ -118,7 +118,7 @@ void Comparison::compareClass(ObjectClass objectClass)
         }
     }
     const bool isCounted = m_census.unknown.isEmpty() || !m_census.objects.isEmpty();
-    m_report.objectsImported += isCounted ? std::min(objects.size(), items.size()) : items.size();
+    m_report.objects.imported += isCounted ? std::min(objects.size(), items.size()) : items.size();
     if (objects.size() == items.size()) {
         match(objects, items);
     } else {
@@ -142,7 +142,7 @@ void Comparison::findMissing(ObjectClass objectClass, qint64 missing)
     sum(LossKind::ObjectMissing).objects += std::max<qint64>(missing, 0);
 }
 
-// Items that a picture left which could not be read.
+// Items whose picture could not be read.
 qint64 Comparison::emptyPictures() const
 {
     return std::count_if(m_label.items.begin(), m_label.items.end(), [](const ItemFacts& item) {
@@ -175,7 +175,7 @@ void Comparison::match(const QList<qsizetype>& objects, const QList<qsizetype>& 
     }
 }
 
-// Nobody knows which item an object became: the changes that no item is needed for count.
+// It is unknown which item an object became, so only changes of the objects count.
 void Comparison::matchByNumber(const QList<qsizetype>& objects, const QList<qsizetype>& items)
 {
     qint64 changed = 0;
@@ -210,7 +210,7 @@ void Comparison::sumItems()
 void Comparison::addTallies(const std::map<LossKind, Tally>& tallies, bool isCounted)
 {
     for (const auto& [kind, tally] : tallies) {
-        // What the file tells and the log again is one thing.
+        // The file and the log may report the same loss.
         sum(kind).others = std::max(sum(kind).others, isCounted ? tally.count : 0);
         for (const QString& detail : tally.details) {
             if (sum(kind).details.size() < Tally::MaximumDetails) {

@@ -7,11 +7,11 @@
 
 namespace migration {
 
-/// Compares what the file holds with what is on the label and with what the import has
-/// said: fills the report's numbers of objects and its three lists.
+/// Compares the file with the label and the log, and fills in the numbers of objects and the lists
+/// of whole, changed and lost objects.
 ///
-/// Objects and items of one class are matched in order, for readers keep it. Where their
-/// numbers differ, only the numbers are compared.
+/// Objects and items of one class are matched in order, which readers keep. If their numbers
+/// differ, only the numbers are compared.
 void compare(const Census& census, const LabelFacts& label, const LogLosses& log,
              FileReport& report);
 

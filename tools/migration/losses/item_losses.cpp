@@ -1,11 +1,11 @@
 #include "migration/losses/item_losses.h"
 
 #include "host/facets/i_font_item.h"
-#include "migration/kind_names.h"
 #include "migration/model/item_class.h"
 #include "migration/model/known_fonts.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/items/bounds.h"
+#include "workbench/items/shape_kinds.h"
 
 #include <QCoreApplication>
 #include <QGraphicsItem>
@@ -74,7 +74,7 @@ void lookAtFonts(const ItemValues& values, ItemFacts& item, LabelFacts& facts)
             continue;
         }
         item.changes.add(LossKind::FontReplaced);
-        // The family's own name is told by whoever has read the file.
+        // The census reports the name of the original family.
         const QString asked = family == FallbackFontFamily
                                   ? QCoreApplication::translate("migration::ItemLosses", "unknown")
                                   : family;
@@ -121,7 +121,8 @@ void lookAtItem(const workbench::CanvasItem& item, const QRectF& page, bool blan
                 LabelFacts& facts)
 {
     const ItemValues values = item.values();
-    ItemFacts itemFacts{.kind = kindName(values.type), .objectClass = classOfItem(values.type)};
+    ItemFacts itemFacts{.kind = workbench::shapeCode(values.type),
+                        .objectClass = classOfItem(values.type)};
     const bool isEmptyPicture = values.picture && values.picture->image.isNull();
     itemFacts.hasContent = !isEmptyPicture && (blankTextsCount || !isBlankText(values));
     itemFacts.isBound = values.datasource && values.datasource->id >= 0;

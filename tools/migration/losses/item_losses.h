@@ -15,30 +15,30 @@ class CanvasItem;
 
 namespace migration {
 
-/// One item of the label, as far as losses go.
+/// The properties of an item that matter for losses.
 struct ItemFacts
 {
-    QString kind; ///< as kindName() has it
+    QString kind; ///< a code of workbench/items/shape_kinds.h
     ObjectClass objectClass = ObjectClass::Shape;
-    /// It shows something: a picture that could not be read leaves an item without one.
+    /// False for an item that shows nothing, such as one whose picture is unreadable.
     bool hasContent = true;
     bool isBound = false; ///< to a data source
     int symbology = 0;    ///< of a barcode
-    LossSet changes = {}; ///< that the item itself tells
+    LossSet changes = {}; ///< visible on the item itself
 };
 
 /// All items of a label.
 struct LabelFacts
 {
     QList<ItemFacts> items;
-    std::map<LossKind, Tally> tallies; ///< names of what changed; counts are those of the items
+    std::map<LossKind, Tally> tallies; ///< names only; the numbers are those of the items
     LossSet pageChanges;
 };
 
-/// What the items themselves tell of how they changed: outside the page, in another font,
-/// limited in size, a barcode that cannot be drawn.
+/// Finds changes on the items: outside the page, in another font, reduced in size, a barcode that
+/// cannot be encoded.
 ///
-/// @param blankTextsCount whether a text without a letter is an object of its own
+/// @param blankTextsCount whether a text without a letter counts as an object
 [[nodiscard]] LabelFacts lookAtItems(const workbench::Canvas& canvas, bool blankTextsCount);
 
 } // namespace migration

@@ -1,7 +1,7 @@
 #include "migration/losses/label_facts.h"
 
-#include "migration/kind_names.h"
 #include "workbench/import/label_import.h"
+#include "workbench/items/shape_kinds.h"
 #include "workbench/rendering/page_image.h"
 
 #include <QBuffer>
@@ -34,7 +34,7 @@ QList<KindCount> kindsOf(const workbench::Canvas& canvas)
 {
     QMap<QString, qint64> counts;
     for (const workbench::CanvasItem* item : canvas.items()) {
-        ++counts[kindName(item->shapeType())];
+        ++counts[workbench::shapeCode(item->shapeType())];
     }
     QList<KindCount> kinds;
     for (auto count = counts.begin(); count != counts.end(); ++count) {
@@ -75,7 +75,7 @@ QSizeF sizeOf(const workbench::ItemValues& values)
 ItemReport itemReportOf(const workbench::ItemValues& values)
 {
     const QSizeF size = sizeOf(values);
-    return {kindName(values.type),
+    return {workbench::shapeCode(values.type),
             toMillimeters(values.placement.position.x()),
             toMillimeters(values.placement.position.y()),
             toMillimeters(size.width()),
@@ -97,8 +97,8 @@ QByteArray pngOf(const QImage& image)
 void describeLabel(const workbench::ImportResult& result, FileReport& report)
 {
     const QSizeF page = result.canvas->page().size;
-    report.pageWidth = toMillimeters(page.width());
-    report.pageHeight = toMillimeters(page.height());
+    report.page.width = toMillimeters(page.width());
+    report.page.height = toMillimeters(page.height());
     report.items = kindsOf(*result.canvas);
     if (result.datasources) {
         report.datasources = sourcesOf(*result.datasources);

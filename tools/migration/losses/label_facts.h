@@ -10,7 +10,7 @@ struct ImportResult;
 
 namespace migration {
 
-/// Fills what the label itself tells: page, items by kind, data sources, issues.
+/// Fills in what the label shows: page, items by kind, data sources, issues.
 void describeLabel(const workbench::ImportResult& result, FileReport& report);
 
 /// Every item, one by one.

@@ -13,25 +13,24 @@ struct ImportResult;
 
 namespace migration {
 
-/// Why objects of one class are missing, as far as the import has said it.
+/// A reason why objects of one class are missing, from the log.
 struct Reason
 {
     LossKind kind = LossKind::ObjectMissing;
-    qint64 atMost = 0; ///< so many of them at most
+    qint64 atMost = 0; ///< the most objects that it explains
 };
 
-/// What the import has said.
+/// The losses and changes that the import logged.
 struct LogLosses
 {
     std::array<QList<Reason>, ObjectClasses> reasons;
-    /// Losses and changes that are about no single object.
+    /// Losses and changes that concern no single object.
     std::map<LossKind, Tally> tallies;
-    /// Items that an issue says something about which has no kind of its own, and the kind
-    /// that the issue stands for.
+    /// Items that an issue concerns, and the kind of the issue.
     QList<std::pair<int, LossKind>> items;
 };
 
-/// Sorts out what the log and the issues tell.
+/// Finds the losses in the log and the issues.
 [[nodiscard]] LogLosses lossesOfLog(const workbench::ImportResult& result);
 
 } // namespace migration

@@ -13,11 +13,11 @@
 /// What a file contains, object by object.
 namespace migration {
 
-/// What an object becomes on a label.
+/// What an object should become on the label.
 enum class ObjectClass : quint8 { Shape, Line, Text, Barcode, Picture, Symbol };
 inline constexpr int ObjectClasses = 6;
 
-/// A set of kinds of change.
+/// A set of kinds of losses and changes.
 class LossSet
 {
 public:
@@ -39,22 +39,22 @@ inline constexpr int NoBarcodeType = -1;
 struct CountedObject
 {
     ObjectClass objectClass = ObjectClass::Shape;
-    /// Why no reader takes it; nothing for an object that is to come over.
+    /// Why no reader imports it; nothing for an object that should be imported.
     std::optional<LossKind> lost = {};
-    /// What changes on its way.
+    /// The changes that its import causes.
     LossSet changes = {};
-    /// It had content from a data source.
+    /// Its content comes from a data source.
     bool wantsSource = false;
-    /// A text that names its data source among other words.
+    /// A text with a placeholder for its data source among other words.
     bool hasPlaceholder = false;
-    /// The file's own number of a barcode's type, where it is to be compared.
+    /// The file's number of a barcode's type, if it is to be compared.
     int barcodeType = NoBarcodeType;
 };
 
 /// Longest detail that is kept, in characters.
 inline constexpr qsizetype LongestDetail = 80;
 
-/// How often something was met, and the first names of what it was about.
+/// How often something occurred, and the names of the first objects concerned.
 struct Tally
 {
     static constexpr qsizetype MaximumDetails = 12;
@@ -63,17 +63,17 @@ struct Tally
     void addDetail(const QString& detail);
 };
 
-/// What a file holds.
+/// The content of a file.
 struct Census
 {
     /// In the order of the file, each once.
     QList<CountedObject> objects;
-    /// Losses and changes that are about no single object, with how often, and names for
-    /// those that are (whose count is that of the objects).
+    /// Losses and changes that concern no single object, with their numbers. For those that do,
+    /// only names: their number is that of the objects.
     std::map<LossKind, Tally> tallies;
-    /// Vector drawings among the pictures that are to come over.
+    /// Vector drawings among the pictures that should be imported.
     qint64 drawings = 0;
-    /// Why it is not known how many objects there are; empty when it is.
+    /// Why the number of objects is unknown; empty if it is known.
     QString unknown;
 
     void note(LossKind kind, qint64 count = 1, const QString& detail = {});

@@ -39,11 +39,13 @@ QString tr(const char* text)
 
 QString countSentence(const FileReport& report)
 {
-    if (!report.objectsInFile) {
-        return tr("%1 objects came over; how many the file holds is not known.")
-            .arg(report.objectsImported);
+    if (!report.objects.inFile) {
+        return tr("Objects imported: %1 (the number of objects in the file is unknown).")
+            .arg(report.objects.imported);
     }
-    return tr("%1 of %2 objects came over.").arg(report.objectsImported).arg(*report.objectsInFile);
+    return tr("Imported %1 of %2 objects.")
+        .arg(report.objects.imported)
+        .arg(*report.objects.inFile);
 }
 
 } // namespace
@@ -72,14 +74,14 @@ bool hasLoss(const FileReport& report)
 
 bool isWhole(const FileReport& report)
 {
-    return report.status == Status::Imported && report.objectsInFile.has_value() &&
+    return report.status == Status::Imported && report.objects.inFile.has_value() &&
            report.lost.isEmpty() && report.changed.isEmpty();
 }
 
 qint64 objectsLost(const FileReport& report)
 {
-    return report.objectsInFile
-               ? std::max<qint64>(0, *report.objectsInFile - report.objectsImported)
+    return report.objects.inFile
+               ? std::max<qint64>(0, *report.objects.inFile - report.objects.imported)
                : 0;
 }
 
@@ -89,12 +91,11 @@ QString summaryOf(const FileReport& report)
         return tr("Not imported: %1").arg(report.error);
     }
     if (isWhole(report)) {
-        return countSentence(report) + QLatin1Char(' ') +
-               tr("Nothing was lost and nothing was changed.");
+        return countSentence(report) + QLatin1Char(' ') + tr("Nothing was lost or changed.");
     }
     if (report.lost.isEmpty()) {
         return countSentence(report) + QLatin1Char(' ') +
-               tr("Nothing was lost; something was changed.");
+               tr("Nothing was lost; looks or content changed.");
     }
     return countSentence(report);
 }

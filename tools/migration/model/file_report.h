@@ -8,36 +8,36 @@
 
 #include <optional>
 
-/// What became of old labels: one report for each file, and files of many reports.
+/// Reports about imported labels: one for each file.
 namespace migration {
 
 /// How the import of one file ended.
 enum class Status : quint8 {
     Imported,
     Failed,      ///< the file could not be read; FileReport::error says why
-    Crashed,     ///< the program that read it died
-    TimedOut,    ///< it took longer than it may
-    OutOfMemory, ///< it needed more memory than it may
+    Crashed,     ///< the process that read the file was killed by a signal
+    TimedOut,    ///< the import exceeded its time limit
+    OutOfMemory, ///< the import exceeded its memory limit
 };
 
-/// How many of a kind.
+/// The number of items of one kind.
 struct KindCount
 {
-    QString kind; ///< as kindName() has it
+    QString kind; ///< a code of workbench/items/shape_kinds.h
     qint64 count = 0;
     bool operator==(const KindCount&) const = default;
 };
 
-/// Something that did not come over, or came over changed.
+/// Something that was lost or changed.
 struct Finding
 {
-    QString code; ///< of the table in losses/loss_kinds.h
-    QString text; ///< for a person
-    /// How many times. For lost objects: how many objects of objectsInFile.
+    QString code; ///< of model/loss_kinds.h
+    QString text; ///< for the user
+    /// How many times. For lost objects: how many of ObjectsReport::inFile.
     qint64 count = 1;
-    /// Whether the count is of objects that objectsInFile counts too.
+    /// Whether the count is of objects that ObjectsReport::inFile includes.
     bool countsObjects = false;
-    /// What it was about: names of shapes, fonts, fields; the first few.
+    /// Names of the shapes, fonts or fields concerned; the first few.
     QStringList details;
     bool operator==(const Finding&) const = default;
 };
@@ -48,11 +48,11 @@ struct SourceReport
     int id = 0;
     QString kind;
     QStringList fields;
-    QString file; ///< the file that it reads; empty for a source that reads none
+    QString file; ///< the file that it reads; may be empty
     bool operator==(const SourceReport&) const = default;
 };
 
-/// A sentence that the import has said about the label.
+/// A warning of the import.
 struct IssueReport
 {
     QString text;
@@ -61,7 +61,7 @@ struct IssueReport
     bool operator==(const IssueReport&) const = default;
 };
 
-/// One item of the label. Lengths are in millimeters from the page's upper left corner.
+/// One item of the label. Millimeters, from the upper left corner of the page.
 struct ItemReport
 {
     QString kind;
@@ -74,33 +74,44 @@ struct ItemReport
     bool operator==(const ItemReport&) const = default;
 };
 
-/// What became of one file. A plain value; a default one says "failed" of no file.
+/// The page of a label.
+struct PageReport
+{
+    double width = 0.0;  ///< millimeters
+    double height = 0.0; ///< millimeters
+    bool operator==(const PageReport&) const = default;
+};
+
+/// How many objects a file has, and how many of them are on the label.
+struct ObjectsReport
+{
+    /// Counted without the reader; nothing if that is not possible, and then `unknown` says why.
+    std::optional<qint64> inFile;
+    qint64 imported = 0;
+    QString unknown;
+    bool operator==(const ObjectsReport&) const = default;
+};
+
+/// The outcome of one file's import. A default report says "failed", without a file name.
 struct FileReport
 {
     QString file; ///< the name that is shown
     qint64 bytes = 0;
     Status status = Status::Failed;
-    QString error;           ///< why it is not imported, in words for a person
-    QString reader;          ///< "tavrel", "orvanta", "opendocument" or "label"
-    double pageWidth = 0.0;  ///< millimeters
-    double pageHeight = 0.0; ///< millimeters
-
-    /// Objects that the file holds, counted apart from the reader; nothing when that is
-    /// not known, and then objectsUnknown says why.
-    std::optional<qint64> objectsInFile;
-    QString objectsUnknown;
-    /// How many of them are on the label.
-    qint64 objectsImported = 0;
+    QString error;  ///< why the file is not imported, for the user
+    QString reader; ///< "tavrel", "orvanta", "opendocument" or "label"
+    PageReport page;
+    ObjectsReport objects;
 
     QList<KindCount> items; ///< all items on the canvas, by kind
-    QList<KindCount> whole; ///< those of them that came over as they were
-    QList<Finding> changed; ///< what came over in another form
-    QList<Finding> lost;    ///< what did not come over
+    QList<KindCount> whole; ///< items that were imported without a change
+    QList<Finding> changed; ///< what was imported with changes
+    QList<Finding> lost;    ///< what was not imported
     QList<SourceReport> datasources;
     QList<IssueReport> issues;
     QByteArray thumbnail;       ///< PNG, at most 160 pixels a side; may be empty
     QStringList outputs;        ///< files that were written
-    QList<ItemReport> itemList; ///< every item; archives leave it empty
+    QList<ItemReport> itemList; ///< all items one by one; empty in reports of archives
 
     bool operator==(const FileReport&) const = default;
 };
@@ -110,23 +121,22 @@ struct FileReport
 [[nodiscard]] QString statusName(Status status);
 [[nodiscard]] std::optional<Status> statusOfName(const QString& name);
 
-/// Whether something that the label says is not on the new one: the file is not imported,
-/// or something did not come over, or came over changed in its content. What is changed in
-/// its looks alone, such as a replaced font, is no loss.
+/// Whether content was lost: the file is not imported, or something was lost or changed in its
+/// content. A change of looks alone, such as a replaced font, is not a loss.
 [[nodiscard]] bool hasLoss(const FileReport& report);
 
-/// Whether everything came over as it was: imported, nothing lost, nothing changed.
+/// Whether the file was imported without any loss or change.
 [[nodiscard]] bool isWhole(const FileReport& report);
 
-/// Objects that did not come over; 0 where it is not known how many there are.
+/// The number of lost objects; 0 if it is not known how many the file has.
 [[nodiscard]] qint64 objectsLost(const FileReport& report);
 
-/// The sum of all in one sentence for a person: "12 of 14 objects came over".
+/// A summary for the user: "Imported 12 of 14 objects."
 [[nodiscard]] QString summaryOf(const FileReport& report);
 
 /// The report as an object of docs/report.schema.json.
 [[nodiscard]] QJsonObject toJson(const FileReport& report);
-/// Reads such an object; nothing when it is none. Fields that are not known are passed over.
+/// Reads such an object; nothing if a field is missing or invalid. Unknown fields are ignored.
 [[nodiscard]] std::optional<FileReport> fileReportFromJson(const QJsonObject& object);
 
 } // namespace migration

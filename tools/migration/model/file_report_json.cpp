@@ -1,213 +1,167 @@
-// The report as JSON and back. docs/report.schema.json describes what is written here.
+// The report as JSON and back. docs/report.schema.json describes the result.
 
+#include "fields/field_archives.h"
 #include "migration/model/file_report.h"
 
-#include <QJsonArray>
-
-#include <cmath>
+template <>
+struct fields::Json<migration::Status>
+{
+    static constexpr const char* Kind = QT_TRANSLATE_NOOP("fields::FieldProblem", "a known status");
+    [[nodiscard]] static QJsonValue write(migration::Status value) { return statusName(value); }
+    [[nodiscard]] static bool read(const QJsonValue& json, migration::Status& value)
+    {
+        const auto status = migration::statusOfName(json.toString());
+        value = status.value_or(value);
+        return status.has_value();
+    }
+};
 
 namespace migration {
 
+using fields::SingleValue;
+using fields::ValuesOf;
+
 namespace {
 
-using namespace Qt::StringLiterals;
+// Most entries of a list: more than any reader imports.
+constexpr qsizetype LongestList = 1'000'000;
 
-// Whole numbers above this are not exact in JSON.
-constexpr double LargestWhole = 9'007'199'254'740'992.0;
+} // namespace
 
-QJsonArray toJson(const QStringList& texts)
+// Not in the unnamed namespace, where argument-dependent lookup finds nothing.
+
+void describe(auto& field, ValuesOf<PageReport> auto& page)
 {
-    return QJsonArray::fromStringList(texts);
+    field("width", page.width);
+    field("height", page.height);
 }
 
-QJsonObject toJson(const KindCount& value)
+void describe(auto& field, ValuesOf<ObjectsReport> auto& objects)
 {
-    return {{u"kind"_s, value.kind}, {u"count"_s, value.count}};
+    field("inFile", objects.inFile);
+    field("imported", objects.imported);
+    field("unknown", objects.unknown);
 }
 
-QJsonObject toJson(const Finding& value)
+void describe(auto& field, ValuesOf<KindCount> auto& count)
 {
-    return {{u"code"_s, value.code},
-            {u"text"_s, value.text},
-            {u"count"_s, value.count},
-            {u"countsObjects"_s, value.countsObjects},
-            {u"details"_s, toJson(value.details)}};
+    field("kind", count.kind);
+    field("count", count.count);
 }
 
-QJsonObject toJson(const SourceReport& value)
+void describe(auto& field, ValuesOf<Finding> auto& finding)
 {
-    return {{u"id"_s, value.id},
-            {u"kind"_s, value.kind},
-            {u"fields"_s, toJson(value.fields)},
-            {u"file"_s, value.file}};
+    field("code", finding.code);
+    field("text", finding.text);
+    field("count", finding.count);
+    field("countsObjects", finding.countsObjects);
+    field("details", finding.details);
 }
 
-QJsonObject toJson(const IssueReport& value)
+void describe(auto& field, ValuesOf<SourceReport> auto& source)
 {
-    return {{u"text"_s, value.text}, {u"item"_s, value.item}, {u"repeats"_s, value.repeats}};
+    field("id", source.id);
+    field("kind", source.kind);
+    field("fields", source.fields);
+    field("file", source.file);
 }
 
-QJsonObject toJson(const ItemReport& value)
+void describe(auto& field, ValuesOf<IssueReport> auto& issue)
 {
-    return {{u"kind"_s, value.kind},
-            {u"x"_s, value.x},
-            {u"y"_s, value.y},
-            {u"width"_s, value.width},
-            {u"height"_s, value.height},
-            {u"content"_s, value.content},
-            {u"datasource"_s, value.datasource}};
+    field("text", issue.text);
+    field("item", issue.item);
+    field("repeats", issue.repeats);
 }
 
-template <class Value>
-QJsonArray toJson(const QList<Value>& values)
+void describe(auto& field, ValuesOf<ItemReport> auto& item)
 {
-    QJsonArray array;
-    for (const Value& value : values) {
-        array.append(toJson(value));
+    field("kind", item.kind);
+    field("x", item.x);
+    field("y", item.y);
+    field("width", item.width);
+    field("height", item.height);
+    field("content", item.content);
+    field("datasource", item.datasource);
+}
+
+void describe(auto& field, ValuesOf<FileReport> auto& report)
+{
+    field("file", report.file);
+    field("bytes", report.bytes);
+    field("status", report.status);
+    field("error", report.error);
+    field("reader", report.reader);
+    field("page", report.page);
+    field("objects", report.objects);
+    field("items", report.items);
+    field("whole", report.whole);
+    field("changed", report.changed);
+    field("lost", report.lost);
+    field("datasources", report.datasources);
+    field("issues", report.issues);
+    field("thumbnail", report.thumbnail);
+    field("outputs", report.outputs);
+    field("itemList", report.itemList);
+}
+
+namespace {
+
+/// Replaces what is not valid Unicode, from damaged labels: texts of a report are plain strings.
+class TextRepair
+{
+public:
+    void operator()(const char* /*name*/, QString& text) const
+    {
+        if (!text.isValidUtf16()) {
+            text = QString::fromUtf8(text.toUtf8());
+        }
     }
-    return array;
-}
 
-qint64 wholeOf(const QJsonValue& value, qint64 otherwise = 0)
-{
-    const double number = value.toDouble(std::nan(""));
-    if (std::isnan(number) || std::abs(number) > LargestWhole) {
-        return otherwise;
+    void operator()(const char* name, QStringList& texts) const
+    {
+        for (QString& text : texts) {
+            (*this)(name, text);
+        }
     }
-    return value.toInteger(static_cast<qint64>(number));
-}
 
-QStringList textsOf(const QJsonValue& value)
-{
-    QStringList texts;
-    for (const QJsonValue& text : value.toArray()) {
-        texts.append(text.toString());
+    template <SingleValue T>
+    void operator()(const char* /*name*/, T& /*value*/) const
+    {}
+
+    template <class T>
+    requires(!SingleValue<T>) void operator()(const char* /*name*/, T& group) const
+    {
+        describe(*this, group);
     }
-    return texts;
-}
 
-void read(const QJsonObject& object, KindCount& value)
-{
-    value = {object[u"kind"_s].toString(), wholeOf(object[u"count"_s])};
-}
-
-void read(const QJsonObject& object, Finding& value)
-{
-    value = {object[u"code"_s].toString(), object[u"text"_s].toString(),
-             wholeOf(object[u"count"_s], 1), object[u"countsObjects"_s].toBool(),
-             textsOf(object[u"details"_s])};
-}
-
-void read(const QJsonObject& object, SourceReport& value)
-{
-    value = {object[u"id"_s].toInt(), object[u"kind"_s].toString(), textsOf(object[u"fields"_s]),
-             object[u"file"_s].toString()};
-}
-
-void read(const QJsonObject& object, IssueReport& value)
-{
-    value = {object[u"text"_s].toString(), object[u"item"_s].toInt(-1),
-             object[u"repeats"_s].toInt(1)};
-}
-
-void read(const QJsonObject& object, ItemReport& value)
-{
-    value = {object[u"kind"_s].toString(),     object[u"x"_s].toDouble(),
-             object[u"y"_s].toDouble(),        object[u"width"_s].toDouble(),
-             object[u"height"_s].toDouble(),   object[u"content"_s].toString(),
-             object[u"datasource"_s].toInt(-1)};
-}
-
-template <class Value>
-QList<Value> listOf(const QJsonValue& json)
-{
-    QList<Value> values;
-    for (const QJsonValue& entry : json.toArray()) {
-        read(entry.toObject(), values.emplaceBack());
+    template <class T>
+    requires(!SingleValue<QList<T>>) void operator()(const char* /*name*/, QList<T>& groups) const
+    {
+        for (T& group : groups) {
+            describe(*this, group);
+        }
     }
-    return values;
-}
-
-QJsonObject pageOf(const FileReport& report)
-{
-    return {{u"width"_s, report.pageWidth}, {u"height"_s, report.pageHeight}};
-}
-
-QJsonObject objectsOf(const FileReport& report)
-{
-    return {{u"inFile"_s, report.objectsInFile ? QJsonValue(*report.objectsInFile)
-                                               : QJsonValue(QJsonValue::Null)},
-            {u"imported"_s, report.objectsImported},
-            {u"unknown"_s, report.objectsUnknown}};
-}
-
-void readObjects(const QJsonObject& objects, FileReport& report)
-{
-    if (objects[u"inFile"_s].isDouble()) {
-        report.objectsInFile = wholeOf(objects[u"inFile"_s]);
-    }
-    report.objectsImported = wholeOf(objects[u"imported"_s]);
-    report.objectsUnknown = objects[u"unknown"_s].toString();
-}
-
-void readLists(const QJsonObject& object, FileReport& report)
-{
-    report.items = listOf<KindCount>(object[u"items"_s]);
-    report.whole = listOf<KindCount>(object[u"whole"_s]);
-    report.changed = listOf<Finding>(object[u"changed"_s]);
-    report.lost = listOf<Finding>(object[u"lost"_s]);
-    report.datasources = listOf<SourceReport>(object[u"datasources"_s]);
-    report.issues = listOf<IssueReport>(object[u"issues"_s]);
-    report.outputs = textsOf(object[u"outputs"_s]);
-    report.itemList = listOf<ItemReport>(object[u"itemList"_s]);
-}
+};
 
 } // namespace
 
 QJsonObject toJson(const FileReport& report)
 {
-    QJsonObject object{
-        {u"file"_s, report.file},
-        {u"bytes"_s, report.bytes},
-        {u"status"_s, statusName(report.status)},
-        {u"error"_s, report.error},
-        {u"reader"_s, report.reader},
-        {u"page"_s, pageOf(report)},
-        {u"objects"_s, objectsOf(report)},
-        {u"items"_s, toJson(report.items)},
-        {u"whole"_s, toJson(report.whole)},
-        {u"changed"_s, toJson(report.changed)},
-        {u"lost"_s, toJson(report.lost)},
-        {u"hasLoss"_s, hasLoss(report)},
-        {u"datasources"_s, toJson(report.datasources)},
-        {u"issues"_s, toJson(report.issues)},
-        {u"thumbnail"_s, QString::fromLatin1(report.thumbnail.toBase64())},
-        {u"outputs"_s, toJson(report.outputs)},
-    };
-    if (!report.itemList.isEmpty()) {
-        object.insert(u"itemList"_s, toJson(report.itemList));
-    }
-    return object;
+    FileReport repaired = report;
+    const TextRepair repair;
+    describe(repair, repaired);
+    fields::FieldWriter writer;
+    describe(writer, repaired);
+    writer("hasLoss", hasLoss(report));
+    return writer.object();
 }
 
 std::optional<FileReport> fileReportFromJson(const QJsonObject& object)
 {
-    const auto status = statusOfName(object[u"status"_s].toString());
-    if (!status || !object[u"file"_s].isString()) {
-        return std::nullopt;
-    }
     FileReport report;
-    report.file = object[u"file"_s].toString();
-    report.bytes = wholeOf(object[u"bytes"_s]);
-    report.status = *status;
-    report.error = object[u"error"_s].toString();
-    report.reader = object[u"reader"_s].toString();
-    report.pageWidth = object[u"page"_s][u"width"_s].toDouble();
-    report.pageHeight = object[u"page"_s][u"height"_s].toDouble();
-    readObjects(object[u"objects"_s].toObject(), report);
-    readLists(object, report);
-    report.thumbnail = QByteArray::fromBase64(object[u"thumbnail"_s].toString().toLatin1());
-    return report;
+    fields::FieldReader reader(object, LongestList);
+    describe(reader, report);
+    return reader.error().isEmpty() ? std::optional(report) : std::nullopt;
 }
 
 } // namespace migration

@@ -5,12 +5,12 @@
 
 #include <span>
 
-/// What can happen to a label on its way, kind by kind.
+/// The kinds of losses and changes, with their codes.
 namespace migration {
 
-/// Every kind of loss and change. The numbers are of no meaning; reports carry the codes.
+/// All kinds of losses and changes. Reports contain the codes, not the numbers.
 enum class LossKind : quint8 {
-    // What stays behind.
+    // Lost.
     GroupedObject,
     FurtherPage,
     MasterPageObject,
@@ -47,7 +47,7 @@ enum class LossKind : quint8 {
     OverLimit,
     ObjectMissing,
     LogCut,
-    // What comes over in another form.
+    // Changed.
     UnknownShape,
     DatasourceUnbound,
     DatabaseUnlinked,
@@ -76,27 +76,27 @@ enum class LossKind : quint8 {
     Other,
 };
 
-/// Whether an object stays behind or comes over in another form.
+/// Whether an object is missing on the label or was changed.
 enum class Outcome : quint8 { Lost, Changed };
 
-/// Whether what the label says is harmed, or only its looks.
+/// Whether the content of the label is affected, or only its looks.
 enum class Harm : quint8 { Content, Looks };
 
-/// What is known of one kind.
+/// One kind.
 struct LossRow
 {
     LossKind kind;
-    const char* code; ///< in kebab case; never changes
+    const char* code; ///< kebab case; stable
     Outcome outcome;
     Harm harm;
-    const char* words;  ///< to be translated; one or many of it
-    const char* advice; ///< to be translated; what a person can do about it
+    const char* words;  ///< untranslated: what happened
+    const char* advice; ///< untranslated: what the user can do
 };
 
 /// All kinds, in the order of the enumeration: those of Outcome::Lost first.
 [[nodiscard]] std::span<const LossRow> lossRows();
 [[nodiscard]] const LossRow& lossRow(LossKind kind);
-/// The row of a code; null for a code that is not known.
+/// The row of a code; null for an unknown code.
 [[nodiscard]] const LossRow* lossRowOf(const QString& code);
 
 [[nodiscard]] QString lossCode(LossKind kind);

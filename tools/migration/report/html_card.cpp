@@ -1,9 +1,8 @@
 #include "migration/report/html_card.h"
 
-#include "migration/kind_names.h"
 #include "migration/model/loss_kinds.h"
-#include "migration/report/html_text.h"
 #include "migration/report/totals.h"
+#include "workbench/items/shape_kinds.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -17,11 +16,6 @@ using namespace Qt::StringLiterals;
 QString tr(const char* text)
 {
     return QCoreApplication::translate("migration::HtmlCard", text);
-}
-
-QString attribute(const char* name, const QString& value)
-{
-    return u" %1=\"%2\""_s.arg(QString::fromLatin1(name), escaped(value));
 }
 
 QString codesOf(const FileReport& report)
@@ -47,147 +41,143 @@ qint64 problemsOf(const FileReport& report)
     return problems;
 }
 
-QString openingTag(const FileReport& report, qint64 number)
-{
-    return u"<article"_s + attribute("data-n", QString::number(number)) +
-           attribute("data-name", report.file) + attribute("data-state", stateOf(report)) +
-           attribute("data-status", statusName(report.status)) +
-           attribute("data-reader", report.reader) +
-           attribute("data-lost", QString::number(objectsLost(report))) +
-           attribute("data-problems", QString::number(problemsOf(report))) +
-           attribute("data-codes", codesOf(report)) + u">\n"_s;
-}
-
-QString picture(const FileReport& report)
-{
-    if (report.thumbnail.isEmpty()) {
-        return u"<div class=\"thumb none\">%1</div>\n"_s.arg(escaped(tr("no picture")));
-    }
-    return u"<div class=\"thumb\"><img loading=\"lazy\"%1 src=\"data:image/png;base64,%2\"></div>\n"_s
-        .arg(attribute("alt", tr("The label %1").arg(report.file)),
-             QString::fromLatin1(report.thumbnail.toBase64()));
-}
-
-QString stateWords(const QString& state)
-{
-    if (state == "whole"_L1) {
-        return tr("whole");
-    }
-    if (state == "changed"_L1) {
-        return tr("changed");
-    }
-    if (state == "loss"_L1) {
-        return tr("with losses");
-    }
-    if (state == "crashed"_L1) {
-        return tr("crashed");
-    }
-    if (state == "timed-out"_L1) {
-        return tr("took too long");
-    }
-    return state == "out-of-memory"_L1 ? tr("needed too much memory") : tr("failed");
-}
-
 QString factsOf(const FileReport& report)
 {
     QStringList facts;
-    if (report.pageWidth > 0.0 && report.pageHeight > 0.0) {
+    if (report.page.width > 0.0 && report.page.height > 0.0) {
         facts.append(tr("%1 × %2 mm")
-                         .arg(QLocale::c().toString(report.pageWidth, 'f', 1),
-                              QLocale::c().toString(report.pageHeight, 'f', 1)));
+                         .arg(QLocale::c().toString(report.page.width, 'f', 1),
+                              QLocale::c().toString(report.page.height, 'f', 1)));
     }
     facts.append(tr("%1 bytes").arg(report.bytes));
     if (!report.reader.isEmpty()) {
         facts.append(report.reader);
     }
-    return u"<p class=\"facts\">%1</p>\n"_s.arg(escaped(facts.join(u" · "_s)));
+    return facts.join(u" · "_s);
 }
 
-QString times(qint64 count)
+TemplateData number(qint64 value)
 {
-    return count > 1 ? u" <b>×%1</b>"_s.arg(count) : QString();
+    return TemplateData(std::to_string(value));
 }
 
-QString findingsOf(const QString& title, const char* name, const QList<Finding>& findings)
+void setRepeats(TemplateData& entry, qint64 count)
+{
+    entry.set("isRepeated", count > 1);
+    entry.set("count", number(count));
+}
+
+void addFindings(TemplateList& lists, const QString& title, const char* kind,
+                 const QList<Finding>& findings)
 {
     if (findings.isEmpty()) {
-        return {};
+        return;
     }
-    QString html =
-        u"<h3>%1</h3><ul class=\"%2\">\n"_s.arg(escaped(title), QString::fromLatin1(name));
+    TemplateList entries;
     for (const Finding& finding : findings) {
-        const QString details = finding.details.isEmpty()
-                                    ? QString()
-                                    : u" <span class=\"details\">%1</span>"_s.arg(
-                                          escaped(finding.details.join(u", "_s)));
-        html += u"<li><code>%1</code>%2 %3%4</li>\n"_s.arg(
-            escaped(finding.code), times(finding.count), escaped(finding.text), details);
+        TemplateData entry;
+        entry.set("code", templateText(finding.code));
+        entry.set("text", templateText(finding.text));
+        entry.set("hasDetails", !finding.details.isEmpty());
+        entry.set("details", templateText(finding.details.join(u", "_s)));
+        setRepeats(entry, finding.count);
+        entries.push_back(entry);
     }
-    return html + u"</ul>\n"_s;
+    TemplateData list;
+    list.set("title", templateText(title));
+    list.set("kind", TemplateData(kind));
+    list.set("entries", TemplateData(entries));
+    lists.push_back(list);
 }
 
-QString countsOf(const QString& title, const QList<KindCount>& counts)
+/// One line of the part of a card that is folded away.
+struct Entry
 {
-    QStringList words;
-    for (const KindCount& count : counts) {
-        words.append(u"%1 × %2"_s.arg(count.count).arg(kindWords(count.kind)));
-    }
-    return words.isEmpty()
-               ? QString()
-               : u"<h3>%1</h3><p>%2</p>\n"_s.arg(escaped(title), escaped(words.join(u", "_s)));
-}
+    QString text;
+    qint64 count = 1;
+};
 
-template <class Value, class Words>
-QString listOf(const QString& title, const QList<Value>& values, Words words)
+void addEntries(TemplateList& lists, const QString& title, const QList<Entry>& texts)
 {
-    if (values.isEmpty()) {
-        return {};
+    if (texts.isEmpty()) {
+        return;
     }
-    QString html = u"<h3>%1</h3><ul>\n"_s.arg(escaped(title));
-    for (const Value& value : values) {
-        html += u"<li>%1</li>\n"_s.arg(words(value));
+    TemplateList entries;
+    for (const Entry& text : texts) {
+        TemplateData entry;
+        entry.set("text", templateText(text.text));
+        setRepeats(entry, text.count);
+        entries.push_back(entry);
     }
-    return html + u"</ul>\n"_s;
+    TemplateData list;
+    list.set("title", templateText(title));
+    list.set("entries", TemplateData(entries));
+    lists.push_back(list);
 }
 
 QString sourceWords(const SourceReport& source)
 {
-    QString words = source.kind + u": "_s + source.fields.join(u", "_s);
-    if (!source.file.isEmpty()) {
-        words += u" ("_s + source.file + u')';
-    }
-    return escaped(words);
+    const QString words = source.kind + u": "_s + source.fields.join(u", "_s);
+    return source.file.isEmpty() ? words : words + u" ("_s + source.file + u')';
 }
 
-QString moreOf(const FileReport& report)
+TemplateList moreOf(const FileReport& report)
 {
-    const QString more = countsOf(tr("Came over whole"), report.whole) +
-                         listOf(tr("Data sources"), report.datasources, sourceWords) +
-                         listOf(tr("What the import said"), report.issues,
-                                [](const IssueReport& issue) {
-                                    return escaped(issue.text) + times(issue.repeats);
-                                }) +
-                         listOf(tr("Written"), report.outputs, [](const QString& output) {
-                             return u"<bdi>%1</bdi>"_s.arg(escaped(output));
-                         });
-    return more.isEmpty()
-               ? QString()
-               : u"<details><summary>%1</summary>\n%2</details>\n"_s.arg(escaped(tr("More")), more);
+    QList<Entry> imported;
+    for (const KindCount& count : report.whole) {
+        imported.append({u"%1 × %2"_s.arg(count.count).arg(workbench::shapeTitle(count.kind))});
+    }
+    QList<Entry> sources;
+    for (const SourceReport& source : report.datasources) {
+        sources.append({sourceWords(source)});
+    }
+    QList<Entry> issues;
+    for (const IssueReport& issue : report.issues) {
+        issues.append({issue.text, issue.repeats});
+    }
+    QList<Entry> outputs;
+    for (const QString& output : report.outputs) {
+        outputs.append({output});
+    }
+    TemplateList more;
+    addEntries(more, tr("Imported completely"), imported);
+    addEntries(more, tr("Data sources"), sources);
+    addEntries(more, tr("Warnings"), issues);
+    addEntries(more, tr("Written files"), outputs);
+    return more;
 }
 
 } // namespace
 
-// Concatenation alone: a text of the file may hold what looks like a place for an argument.
-QString htmlCard(const FileReport& report, qint64 number)
+TemplateData cardData(const FileReport& report, qint64 place)
 {
-    const QString state = stateOf(report);
-    return openingTag(report, number) + picture(report) + u"<h2><bdi>"_s + escaped(report.file) +
-           u"</bdi></h2>\n<p class=\"state "_s + escaped(state) + u"\">"_s +
-           escaped(stateWords(state)) + u"</p>\n<p class=\"sum\">"_s + escaped(summaryOf(report)) +
-           u"</p>\n"_s + factsOf(report) +
-           findingsOf(tr("Did not come over"), "lost", report.lost) +
-           findingsOf(tr("Came over changed"), "changed", report.changed) + moreOf(report) +
-           u"</article>\n"_s;
+    TemplateData card;
+    card.set("number", number(place));
+    card.set("file", templateText(report.file));
+    card.set("state", templateText(stateOf(report)));
+    card.set("stateWords", templateText(stateWords(stateOf(report))));
+    card.set("status", templateText(statusName(report.status)));
+    card.set("reader", templateText(report.reader));
+    card.set("lost", number(objectsLost(report)));
+    card.set("problems", number(problemsOf(report)));
+    card.set("codes", templateText(codesOf(report)));
+    card.set("hasThumbnail", !report.thumbnail.isEmpty());
+    card.set("thumbnail", TemplateData(report.thumbnail.toBase64().toStdString()));
+    card.set("alt", templateText(tr("The label %1").arg(report.file)));
+    card.set("summary", templateText(summaryOf(report)));
+    card.set("facts", templateText(factsOf(report)));
+    TemplateList findings;
+    addFindings(findings, tr("Not imported"), "lost", report.lost);
+    addFindings(findings, tr("Imported with changes"), "changed", report.changed);
+    card.set("findings", TemplateData(findings));
+    const TemplateList more = moreOf(report);
+    card.set("hasMore", !more.empty());
+    card.set("more", TemplateData(more));
+    TemplateData labels;
+    labels.set("noPicture", templateText(tr("no picture")));
+    labels.set("more", templateText(tr("More")));
+    card.set("labels", labels);
+    return card;
 }
 
 } // namespace migration

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "migration/model/file_report.h"
-
-#include <QString>
+#include "migration/report/html_template.h"
 
 namespace migration {
 
-/// The report of one file as a card of the page. Everything of it is escaped.
+/// The report of one file, as the data of the template card.html.
 ///
 /// @param number of the file in the report, from 1: its place when nothing is sorted
-[[nodiscard]] QString htmlCard(const FileReport& report, qint64 number);
+[[nodiscard]] TemplateData cardData(const FileReport& report, qint64 number);
 
 } // namespace migration

@@ -13,15 +13,17 @@ namespace migration {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr qint64 Chunk = 1024 * 1024;
 
-// The totals stand at the top and are known at the end, so the cards wait in a file.
+// The totals are at the top and known at the end, so the cards are kept in a temporary file.
 class HtmlOutput final : public ReportOutput
 {
 public:
     explicit HtmlOutput(const QString& fileName)
         : m_fileName(fileName)
-        , m_cards(QFileInfo(fileName).absolutePath() + QStringLiteral("/.labelport-report-XXXXXX"))
+        , m_cards(QFileInfo(fileName).absolutePath() + u"/.labelport-report-XXXXXX"_s)
     {
         m_isOpen = m_cards.open();
     }
@@ -35,6 +37,7 @@ private:
 
     QString m_fileName;
     QString m_note;
+    HtmlTemplate m_card{u"card.html"_s};
     QTemporaryFile m_cards;
     Totals m_totals;
     bool m_isOpen = false;
@@ -44,7 +47,7 @@ void HtmlOutput::add(const FileReport& report)
 {
     m_totals.add(report);
     if (m_isOpen) {
-        m_cards.write(htmlCard(report, m_totals.files).toUtf8());
+        m_cards.write(m_card.filled(cardData(report, m_totals.files)));
     }
 }
 
@@ -70,12 +73,12 @@ QString HtmlOutput::finish()
     if (!page.open(QIODevice::WriteOnly)) {
         return cannotWrite(m_fileName, page.errorString());
     }
-    page.write(htmlPageHead(m_totals, m_note));
+    page.write(HtmlTemplate(u"page_head.html"_s).filled(pageHeadData(m_totals, m_note)));
     if (!copyCards(page)) {
         page.cancelWriting();
         return cannotWrite(m_fileName, m_cards.errorString());
     }
-    page.write(htmlPageTail());
+    page.write(HtmlTemplate(u"page_tail.html"_s).filled(pageTailData()));
     return workbench::commitWhole(page) ? QString() : cannotWrite(m_fileName, page.errorString());
 }
 

@@ -1,13 +1,13 @@
 #include "migration/report/html_page.h"
 
 #include "migration/model/loss_kinds.h"
-#include "migration/report/html_text.h"
 #include "migration/report/totals.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QFile>
 #include <QLocale>
+
+#include <algorithm>
 
 namespace migration {
 
@@ -25,13 +25,7 @@ QString number(qint64 value)
     return QLocale(QLocale::English).toString(value);
 }
 
-QByteArray resource(const QString& name)
-{
-    QFile file(u":/migration/"_s + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// Only this style and this script may act, whatever slipped into the page.
+// Only this style and this script may run, whatever else the page contains.
 QByteArray contentPolicy()
 {
     const auto hashOf = [](const QByteArray& bytes) {
@@ -39,149 +33,165 @@ QByteArray contentPolicy()
                "'";
     };
     return "default-src 'none'; img-src data:; base-uri 'none'; form-action 'none'; style-src " +
-           hashOf(resource(u"page.css"_s)) + "; script-src " + hashOf(resource(u"page.js"_s));
+           hashOf(pageResource(u"page.css"_s)) + "; script-src " +
+           hashOf(pageResource(u"page.js"_s));
 }
 
-QString headline(const Totals& totals)
+TemplateData figure(const char* address, qint64 count, const QString& words)
 {
-    return tr("%1 of %2 files came over whole.").arg(number(totals.whole), number(totals.files));
+    TemplateData data;
+    data.set("address", TemplateData(address));
+    data.set("count", templateText(number(count)));
+    data.set("words", templateText(words));
+    return data;
 }
 
-QString figure(const QString& address, qint64 value, const QString& words)
+TemplateList figures(const Totals& totals)
 {
-    return u"<li><a href=\"#%1\"><b>%2</b> %3</a></li>\n"_s.arg(address, number(value),
-                                                                escaped(words));
-}
-
-QString figures(const Totals& totals)
-{
-    return u"<ul class=\"numbers\">\n"_s +
-           figure(u"status=whole"_s, totals.whole, tr("whole: nothing lost, nothing changed")) +
-           figure(u"status=changed"_s, totals.changed, tr("changed in their looks, nothing lost")) +
-           figure(u"status=loss&amp;sort=lost"_s, totals.withLoss, tr("with losses")) +
-           figure(u"status=not-imported"_s, totals.failed, tr("not imported")) + u"</ul>\n"_s;
+    return {
+        figure("status=whole", totals.whole, tr("imported completely")),
+        figure("status=changed", totals.changed, tr("changed in looks, nothing lost")),
+        figure("status=loss&sort=lost", totals.withLoss, tr("with losses")),
+        figure("status=not-imported", totals.failed, tr("not imported")),
+    };
 }
 
 QString objectsSentence(const Totals& totals)
 {
-    QString sentence = tr("Of %1 objects in these files, %2 came over.")
-                           .arg(number(totals.objectsInFiles), number(totals.objectsImported));
+    QString sentence = tr("Imported %1 of %2 objects in these files.")
+                           .arg(number(totals.objectsImported), number(totals.objectsInFiles));
     if (totals.uncounted > 0) {
         sentence +=
             u' ' +
-            tr("In %1 files the objects could not be counted.").arg(number(totals.uncounted));
+            tr("Files whose objects could not be counted: %1.").arg(number(totals.uncounted));
     }
-    return u"<p>%1</p>\n"_s.arg(escaped(sentence));
+    return sentence;
 }
 
-QString wordsOf(const LossRow* row, QString (*words)(LossKind))
+// The codes of most files first.
+TemplateList codeRows(const Totals& totals)
 {
-    return row != nullptr ? escaped(words(row->kind)) : QString();
-}
-
-QString codeTable(const Totals& totals)
-{
-    if (totals.filesByCode.isEmpty()) {
-        return u"<p>%1</p>\n"_s.arg(escaped(tr("Nothing was lost and nothing was changed.")));
+    QList<QString> codes = totals.filesByCode.keys();
+    std::stable_sort(codes.begin(), codes.end(), [&totals](const QString& a, const QString& b) {
+        return totals.filesByCode.value(a) > totals.filesByCode.value(b);
+    });
+    TemplateList rows;
+    for (const QString& code : codes) {
+        const LossRow* row = lossRowOf(code);
+        TemplateData data;
+        data.set("files", templateText(number(totals.filesByCode.value(code))));
+        data.set("code", templateText(code));
+        data.set("meaning", templateText(row != nullptr ? lossWords(row->kind) : QString()));
+        data.set("advice", templateText(row != nullptr ? lossAdvice(row->kind) : QString()));
+        rows.push_back(data);
     }
-    QString html =
-        u"<details><summary>%1</summary>\n<table><thead><tr><th scope=\"col\">%2</th>"
-        "<th scope=\"col\">%3</th><th scope=\"col\">%4</th><th scope=\"col\">%5</th></tr>"
-        "</thead><tbody>\n"_s.arg(escaped(tr("What was lost or changed")), escaped(tr("Files")),
-                                  escaped(tr("Code")), escaped(tr("What happened")),
-                                  escaped(tr("What can be done")));
-    for (auto code = totals.filesByCode.begin(); code != totals.filesByCode.end(); ++code) {
-        const LossRow* row = lossRowOf(code.key());
-        html += u"<tr><td class=\"number\">%1</td><td><a href=\"#code=%2\"><code>%2</code></a></td>"
-                "<td>%3</td><td>%4</td></tr>\n"_s.arg(number(code.value()), escaped(code.key()),
-                                                      wordsOf(row, &lossWords),
-                                                      wordsOf(row, &lossAdvice));
-    }
-    return html + u"</tbody></table></details>\n"_s;
+    return rows;
 }
 
-QString option(const QString& value, const QString& words)
+void addOption(TemplateList& options, const QString& value, const QString& words)
 {
-    return u"<option value=\"%1\">%2</option>"_s.arg(escaped(value), escaped(words));
+    TemplateData option;
+    option.set("value", templateText(value));
+    option.set("words", templateText(words));
+    options.push_back(option);
 }
 
-QString optionsOf(const QMap<QString, qint64>& counts)
+TemplateList optionsOf(const QMap<QString, qint64>& counts)
 {
-    QString html = option({}, tr("all"));
+    TemplateList options;
+    addOption(options, {}, tr("all"));
     for (auto count = counts.begin(); count != counts.end(); ++count) {
         if (!count.key().isEmpty()) {
-            html += option(count.key(), u"%1 (%2)"_s.arg(count.key(), number(count.value())));
+            addOption(options, count.key(), u"%1 (%2)"_s.arg(count.key(), number(count.value())));
         }
     }
-    return html;
+    return options;
 }
 
-QString statusOptions()
+TemplateList statusOptions()
 {
-    return option({}, tr("all")) + option(u"whole"_s, tr("whole")) +
-           option(u"changed"_s, tr("changed")) + option(u"loss"_s, tr("with losses")) +
-           option(u"imported"_s, tr("imported")) + option(u"not-imported"_s, tr("not imported")) +
-           option(u"failed"_s, tr("failed")) + option(u"crashed"_s, tr("crashed")) +
-           option(u"timed-out"_s, tr("took too long")) +
-           option(u"out-of-memory"_s, tr("needed too much memory"));
+    TemplateList options;
+    addOption(options, {}, tr("all"));
+    for (const char* state : {"whole", "changed", "loss"}) {
+        addOption(options, QString::fromLatin1(state), stateWords(QString::fromLatin1(state)));
+    }
+    addOption(options, u"imported"_s, tr("imported"));
+    addOption(options, u"not-imported"_s, tr("not imported"));
+    for (const char* state : {"failed", "crashed", "timed-out", "out-of-memory"}) {
+        addOption(options, QString::fromLatin1(state), stateWords(QString::fromLatin1(state)));
+    }
+    return options;
 }
 
-QString sortOptions()
+TemplateList sortOptions()
 {
-    return option(u"place"_s, tr("as imported")) + option(u"name"_s, tr("name")) +
-           option(u"problems"_s, tr("most problems first")) +
-           option(u"lost"_s, tr("most objects lost first")) +
-           option(u"status"_s, tr("worst status first"));
+    TemplateList options;
+    addOption(options, u"place"_s, tr("as imported"));
+    addOption(options, u"name"_s, tr("name"));
+    addOption(options, u"problems"_s, tr("most problems first"));
+    addOption(options, u"lost"_s, tr("most lost objects first"));
+    addOption(options, u"status"_s, tr("worst status first"));
+    return options;
 }
 
-QString choice(const char* name, const QString& words, const QString& options)
+TemplateData choice(const char* name, const QString& label, const TemplateList& options)
 {
-    return u"<label>%1<select name=\"%2\">%3</select></label>\n"_s.arg(
-        escaped(words), QString::fromLatin1(name), options);
+    TemplateData data;
+    data.set("name", TemplateData(name));
+    data.set("label", templateText(label));
+    data.set("options", TemplateData(options));
+    return data;
 }
 
-// Hidden until the script shows it: without one it would promise too much.
-QString tools(const Totals& totals)
+TemplateData labels()
 {
-    return u"<form id=\"tools\" hidden role=\"search\" aria-label=\""_s +
-           escaped(tr("Sort and filter")) + u"\">\n<label>"_s + escaped(tr("Search")) +
-           u"<input name=\"q\" type=\"search\"></label>\n"_s +
-           choice("status", tr("Status"), statusOptions()) +
-           choice("code", tr("Problem"), optionsOf(totals.filesByCode)) +
-           choice("reader", tr("Reader"), optionsOf(totals.filesByReader)) +
-           choice("sort", tr("Order"), sortOptions()) + u"<button type=\"reset\">"_s +
-           escaped(tr("Show all")) +
-           u"</button>\n<output id=\"shown\" aria-live=\"polite\" "
-           "data-words=\""_s +
-           escaped(tr("%1 of %2 shown")) + u"\"></output>\n</form>\n"_s;
+    TemplateData data;
+    data.set("codes", templateText(tr("What was lost or changed")));
+    data.set("files", templateText(tr("Files")));
+    data.set("code", templateText(tr("Code")));
+    data.set("meaning", templateText(tr("What happened")));
+    data.set("advice", templateText(tr("What can be done")));
+    data.set("nothingLost", templateText(tr("Nothing was lost or changed.")));
+    data.set("tools", templateText(tr("Sort and filter")));
+    data.set("search", templateText(tr("Search")));
+    data.set("reset", templateText(tr("Show all")));
+    data.set("shown", templateText(tr("%1 of %2 shown")));
+    data.set("nothingFound", templateText(tr("No matching files.")));
+    return data;
 }
 
 } // namespace
 
-QByteArray htmlPageHead(const Totals& totals, const QString& note)
+TemplateData pageHeadData(const Totals& totals, const QString& note)
 {
-    const QString title = tr("Migration report");
-    QByteArray html = "<!DOCTYPE html>\n<html lang=\"" + tr("en").toUtf8() +
-                      "\">\n<head>\n<meta charset=\"utf-8\">\n<meta http-equiv=\"Content-Security-"
-                      "Policy\" content=\"" +
-                      contentPolicy() +
-                      "\">\n<meta name=\"viewport\" content=\"width=device-width, "
-                      "initial-scale=1\">\n<title>" +
-                      escaped(title).toUtf8() + "</title>\n<style>" + resource(u"page.css"_s) +
-                      "</style>\n</head>\n<body>\n";
-    html += (u"<header>\n<h1>"_s + escaped(title) + u"</h1>\n"_s +
-             (note.isEmpty() ? QString() : u"<p>"_s + escaped(note) + u"</p>\n"_s) +
-             u"<p class=\"headline\">"_s + escaped(headline(totals)) + u"</p>\n"_s +
-             figures(totals) + objectsSentence(totals) + codeTable(totals) + u"</header>\n"_s +
-             tools(totals) + u"<main>\n<p id=\"nothing\" hidden>"_s +
-             escaped(tr("No file fits the search.")) + u"</p>\n<div id=\"files\">\n"_s)
-                .toUtf8();
-    return html;
+    TemplateData page;
+    page.set("language", templateText(tr("en")));
+    page.set("policy", TemplateData(contentPolicy().toStdString()));
+    page.set("style", TemplateData(pageResource(u"page.css"_s).toStdString()));
+    page.set("title", templateText(tr("Migration report")));
+    page.set("hasNote", !note.isEmpty());
+    page.set("note", templateText(note));
+    page.set("headline", templateText(tr("%1 of %2 files imported completely")
+                                          .arg(number(totals.whole), number(totals.files))));
+    page.set("figures", TemplateData(figures(totals)));
+    page.set("objects", templateText(objectsSentence(totals)));
+    page.set("hasCodes", !totals.filesByCode.isEmpty());
+    page.set("codes", TemplateData(codeRows(totals)));
+    page.set("choices", TemplateData(TemplateList{
+                            choice("status", tr("Status"), statusOptions()),
+                            choice("code", tr("Problem"), optionsOf(totals.filesByCode)),
+                            choice("reader", tr("Reader"), optionsOf(totals.filesByReader)),
+                            choice("sort", tr("Order"), sortOptions()),
+                        }));
+    page.set("labels", labels());
+    return page;
 }
 
-QByteArray htmlPageTail()
+TemplateData pageTailData()
 {
-    return "</div>\n</main>\n<script>" + resource(u"page.js"_s) + "</script>\n</body>\n</html>\n";
+    TemplateData page;
+    page.set("script", TemplateData(pageResource(u"page.js"_s).toStdString()));
+    return page;
 }
 
 } // namespace migration

@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QByteArray>
+#include "migration/report/html_template.h"
+
 #include <QString>
 
 namespace migration {
 
 struct Totals;
 
-/// The page from its beginning to its first card: style, totals, the tools to sort and
-/// filter, what the codes mean.
-[[nodiscard]] QByteArray htmlPageHead(const Totals& totals, const QString& note);
-/// The page behind its last card: the script.
-[[nodiscard]] QByteArray htmlPageTail();
+/// The data of the template page_head.html: style, totals, the codes and their meaning, and the
+/// tools to sort and filter.
+[[nodiscard]] TemplateData pageHeadData(const Totals& totals, const QString& note);
+/// The data of the template page_tail.html: the script.
+[[nodiscard]] TemplateData pageTailData();
 
 } // namespace migration

@@ -1,10 +1,10 @@
+#include "migration/report/report_lines.h"
 #include "migration/report/report_output.h"
-
-#include "migration/report/report_format.h"
 #include "migration/report/totals.h"
 #include "workbench/rendering/whole_file.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QSaveFile>
 
 namespace migration {
@@ -13,56 +13,57 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// One file a line: the report can be looked through with the tools for lines.
-class JsonOutput final : public ReportOutput
+class JsonLinesOutput final : public ReportOutput
 {
 public:
-    explicit JsonOutput(const QString& fileName)
+    explicit JsonLinesOutput(const QString& fileName)
         : m_file(fileName)
     {
         if (m_file.open(QIODevice::WriteOnly)) {
-            m_file.write("{\n\"format\": \"" + QByteArray(ReportFormat) + "\",\n\"version\": " +
-                         QByteArray::number(ReportVersion) + ",\n\"files\": [");
+            write({{u"format"_s, QLatin1String(ReportFormat)}, {u"version"_s, ReportVersion}});
         }
     }
 
-    // A date would be the page's matter: JSON stays the same for the same files.
+    // A date would be the page's matter: JSON is the same for the same files.
     void setNote(const QString& note) override { Q_UNUSED(note) }
     void add(const FileReport& report) override;
     [[nodiscard]] QString finish() override;
 
 private:
+    void write(const QJsonObject& line);
+
     QSaveFile m_file;
     Totals m_totals;
 };
 
-void JsonOutput::add(const FileReport& report)
+void JsonLinesOutput::write(const QJsonObject& line)
 {
-    if (!m_file.isOpen()) {
-        return;
-    }
-    m_file.write(m_totals.files == 0 ? "\n" : ",\n");
-    m_file.write(QJsonDocument(toJson(report)).toJson(QJsonDocument::Compact));
-    m_totals.add(report);
+    m_file.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
 }
 
-QString JsonOutput::finish()
+void JsonLinesOutput::add(const FileReport& report)
+{
+    if (m_file.isOpen()) {
+        write(toJson(report));
+        m_totals.add(report);
+    }
+}
+
+QString JsonLinesOutput::finish()
 {
     if (!m_file.isOpen()) {
         return cannotWrite(m_file.fileName(), m_file.errorString());
     }
-    m_file.write("\n],\n\"totals\": ");
-    m_file.write(QJsonDocument(toJson(m_totals)).toJson(QJsonDocument::Compact));
-    m_file.write("\n}\n");
+    write({{u"totals"_s, toJson(m_totals)}});
     return workbench::commitWhole(m_file) ? QString()
                                           : cannotWrite(m_file.fileName(), m_file.errorString());
 }
 
 } // namespace
 
-std::unique_ptr<ReportOutput> makeJsonOutput(const QString& fileName)
+std::unique_ptr<ReportOutput> makeJsonLinesOutput(const QString& fileName)
 {
-    return std::make_unique<JsonOutput>(fileName);
+    return std::make_unique<JsonLinesOutput>(fileName);
 }
 
 } // namespace migration

@@ -1,10 +1,9 @@
 #include "migration/report/report_merger.h"
 
-#include "migration/report/report_reader.h"
+#include "migration/report/report_lines.h"
 #include "migration/report/report_writer.h"
 
 #include <QCoreApplication>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <utility>
@@ -14,12 +13,12 @@ namespace migration {
 
 namespace {
 
-/// The place of one file's report.
+/// Where the report of one file is.
 struct Place
 {
     QString file;
     qsizetype input = 0;
-    ReportReader::Entry entry;
+    qint64 offset = 0;
 };
 
 QString tr(const char* text)
@@ -27,24 +26,14 @@ QString tr(const char* text)
     return QCoreApplication::translate("migration::MergeReports", text);
 }
 
-std::optional<FileReport> reportAt(const QString& fileName, const ReportReader::Entry& entry)
-{
-    const QByteArray bytes = ReportReader::bytesOf(fileName, entry);
-    return fileReportFromJson(QJsonDocument::fromJson(bytes).object());
-}
-
-// Appends the places of all files of a report; gives why that cannot be done.
+// Appends the places of all files of a report; returns why that is not possible.
 QString findPlaces(const QString& fileName, qsizetype input, std::vector<Place>& places)
 {
-    ReportReader finder(fileName);
-    while (const auto entry = finder.next()) {
-        const auto report = reportAt(fileName, *entry);
-        if (!report) {
-            return tr("The report %1 has an entry that describes no file.").arg(fileName);
-        }
-        places.push_back({report->file, input, *entry});
+    ReportLineReader reader(fileName);
+    while (const auto line = reader.next()) {
+        places.push_back({line->report.file, input, line->offset});
     }
-    return finder.error();
+    return reader.error();
 }
 
 QString fileTwice(const std::vector<Place>& places)
@@ -54,7 +43,7 @@ QString fileTwice(const std::vector<Place>& places)
                            [](const Place& a, const Place& b) { return a.file == b.file; });
     return twice == places.end()
                ? QString()
-               : tr("The file %1 stands in the reports more than once.").arg(twice->file);
+               : tr("The reports contain the file \"%1\" more than once.").arg(twice->file);
 }
 
 } // namespace
@@ -76,9 +65,10 @@ QString mergeReports(const QStringList& inputs, const QString& output)
     }
     ReportWriter writer(output);
     for (const Place& place : places) {
-        const auto report = reportAt(inputs.at(place.input), place.entry);
+        const auto report = ReportLineReader::reportAt(inputs.at(place.input), place.offset);
         if (!report) {
-            return tr("The report %1 has changed meanwhile.").arg(inputs.at(place.input));
+            return tr("The report \"%1\" has changed during the merge.")
+                .arg(inputs.at(place.input));
         }
         writer.add(*report);
     }

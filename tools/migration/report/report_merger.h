@@ -5,12 +5,11 @@
 
 namespace migration {
 
-/// Makes one report of several JSON reports, as one run over all files would have made it:
-/// ordered by the names of the files.
+/// Merges reports into the report of a single run over all files, sorted by file name.
 ///
-/// @param inputs JSON reports; one file may stand in one of them only
-/// @param output written as ReportWriter writes it
-/// @return why there is none, in a sentence for a person; empty when there is one
+/// @param inputs reports as JSON Lines; each file may be in only one of them
+/// @param output a file name for ReportWriter
+/// @return why merging is not possible, for the user; empty on success
 [[nodiscard]] QString mergeReports(const QStringList& inputs, const QString& output);
 
 } // namespace migration

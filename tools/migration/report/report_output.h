@@ -8,7 +8,7 @@
 
 namespace migration {
 
-/// One form of a report that is being written.
+/// A format of reports.
 class ReportOutput
 {
 public:
@@ -16,14 +16,14 @@ public:
 
     virtual void setNote(const QString& note) = 0;
     virtual void add(const FileReport& report) = 0;
-    /// Empty when the file is in its place, else why it is not.
+    /// Replaces the file. Returns why that failed, for the user; empty on success.
     [[nodiscard]] virtual QString finish() = 0;
 };
 
-[[nodiscard]] std::unique_ptr<ReportOutput> makeJsonOutput(const QString& fileName);
+[[nodiscard]] std::unique_ptr<ReportOutput> makeJsonLinesOutput(const QString& fileName);
 [[nodiscard]] std::unique_ptr<ReportOutput> makeHtmlOutput(const QString& fileName);
 
-/// Why a report cannot be written, for a person.
+/// The error message for a report that cannot be written.
 [[nodiscard]] QString cannotWrite(const QString& fileName, const QString& why);
 
 } // namespace migration

@@ -13,7 +13,7 @@ std::unique_ptr<ReportOutput> outputFor(const QString& fileName)
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();
     const bool isPage = suffix == QLatin1String("html") || suffix == QLatin1String("htm");
-    return isPage ? makeHtmlOutput(fileName) : makeJsonOutput(fileName);
+    return isPage ? makeHtmlOutput(fileName) : makeJsonLinesOutput(fileName);
 }
 
 } // namespace
@@ -42,7 +42,7 @@ QString ReportWriter::finish()
 QString cannotWrite(const QString& fileName, const QString& why)
 {
     return QCoreApplication::translate("migration::ReportWriter",
-                                       "The report %1 cannot be written: %2.")
+                                       "Cannot write the report \"%1\": %2.")
         .arg(fileName, why);
 }
 

@@ -13,8 +13,8 @@ class ReportOutput;
 /// Writes the report of a run to a file, file by file, in constant memory. The same
 /// reports give the same bytes.
 ///
-/// A name that ends in ".html" or ".htm" becomes a page for people, every other one JSON.
-/// The file appears whole at the end, or what stood there before stays.
+/// A name that ends in ".html" or ".htm" becomes an HTML page, every other name JSON Lines. The
+/// file is replaced atomically by finish(); without it, the old file stays.
 class ReportWriter
 {
 public:
@@ -23,14 +23,14 @@ public:
     ReportWriter(const ReportWriter&) = delete;
     ReportWriter& operator=(const ReportWriter&) = delete;
 
-    /// A line that the page shows below its title, such as a date; none unless it is set.
+    /// A line below the title of the page, such as a date.
     void setNote(const QString& note);
 
-    /// Appends a report; the order is kept. An error is kept for finish().
+    /// Appends a report. finish() reports errors.
     void add(const FileReport& report);
 
-    /// Puts the file in its place.
-    /// @return why there is no report, in a sentence for a person; empty when there is one
+    /// Replaces the file.
+    /// @return why the report cannot be written, for the user; empty on success
     [[nodiscard]] QString finish();
 
 private:

@@ -1,6 +1,5 @@
 #include "migration/report/text_report.h"
-
-#include "migration/kind_names.h"
+#include "workbench/items/shape_kinds.h"
 
 #include <QCoreApplication>
 
@@ -85,8 +84,9 @@ QString itemTable(const FileReport& report)
                      tr("content")}};
     for (qsizetype index = 0; index < report.itemList.size(); ++index) {
         const ItemReport& item = report.itemList.at(index);
-        rows.append({QString::number(index + 1), kindWords(item.kind), millimeters(item.x),
-                     millimeters(item.y), millimeters(item.width), millimeters(item.height),
+        rows.append({QString::number(index + 1), workbench::shapeTitle(item.kind),
+                     millimeters(item.x), millimeters(item.y), millimeters(item.width),
+                     millimeters(item.height),
                      item.datasource < 0 ? u"-"_s : QString::number(item.datasource),
                      shortened(item.content)});
     }
@@ -131,19 +131,19 @@ QString sourceWords(const SourceReport& source)
 
 QString countWords(const KindCount& count)
 {
-    return u"%1 × "_s.arg(count.count) + kindWords(count.kind);
+    return u"%1 × "_s.arg(count.count) + workbench::shapeTitle(count.kind);
 }
 
 QString headOf(const FileReport& report)
 {
     QString text = printable(report.file) + u"\n  "_s + printable(summaryOf(report)) + u'\n';
-    if (!report.objectsUnknown.isEmpty()) {
-        text += u"  "_s + printable(report.objectsUnknown) + u'\n';
+    if (!report.objects.unknown.isEmpty()) {
+        text += u"  "_s + printable(report.objects.unknown) + u'\n';
     }
     if (report.status == Status::Imported) {
         text += u"  "_s +
                 tr("Page: %1 × %2 mm")
-                    .arg(millimeters(report.pageWidth), millimeters(report.pageHeight)) +
+                    .arg(millimeters(report.page.width), millimeters(report.page.height)) +
                 u'\n';
     }
     return text;
@@ -155,10 +155,10 @@ QString describeForPeople(const FileReport& report)
 {
     return headOf(report) + itemTable(report) +
            section(tr("Data sources:"), report.datasources, sourceWords) +
-           section(tr("Came over whole:"), report.whole, countWords) +
-           section(tr("Came over changed:"), report.changed, findingWords) +
-           section(tr("Did not come over:"), report.lost, findingWords) +
-           section(tr("What the import said:"), report.issues, [](const IssueReport& issue) {
+           section(tr("Imported completely:"), report.whole, countWords) +
+           section(tr("Imported with changes:"), report.changed, findingWords) +
+           section(tr("Not imported:"), report.lost, findingWords) +
+           section(tr("Warnings:"), report.issues, [](const IssueReport& issue) {
                return printable(issue.text) + times(issue.repeats);
            });
 }

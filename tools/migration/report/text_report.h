@@ -6,10 +6,10 @@
 
 namespace migration {
 
-/// The report of one file as a text for a terminal: the page, the items as a table, data
-/// sources, what was said about the label, and what came over whole, changed or not at all.
+/// The report of one file as text for a terminal: page, table of items, data sources, what was
+/// imported completely, with changes or not at all, and warnings. Ends with a line end.
 ///
-/// Give it a report that was made with ReportOptions::itemList. Ends with a line end.
+/// @param report made with ReportOptions::itemList
 [[nodiscard]] QString describeForPeople(const FileReport& report);
 
 } // namespace migration

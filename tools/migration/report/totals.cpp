@@ -1,6 +1,26 @@
 #include "migration/report/totals.h"
 
+#include "fields/field_archives.h"
+
+#include <QCoreApplication>
 #include <QSet>
+
+#include <algorithm>
+
+/// Counts by name.
+template <>
+struct fields::Json<QMap<QString, qint64>>
+{
+    static constexpr const char* Kind = "counts";
+    [[nodiscard]] static QJsonValue write(const QMap<QString, qint64>& counts)
+    {
+        QJsonObject object;
+        for (auto count = counts.begin(); count != counts.end(); ++count) {
+            object.insert(count.key(), count.value());
+        }
+        return object;
+    }
+};
 
 namespace migration {
 
@@ -19,16 +39,28 @@ QSet<QString> codesOf(const FileReport& report)
     return codes;
 }
 
-QJsonObject toJson(const QMap<QString, qint64>& counts)
+QString tr(const char* text)
 {
-    QJsonObject object;
-    for (auto count = counts.begin(); count != counts.end(); ++count) {
-        object.insert(count.key(), count.value());
-    }
-    return object;
+    return QCoreApplication::translate("migration::Totals", text);
 }
 
 } // namespace
+
+// Not in the unnamed namespace, where argument-dependent lookup finds nothing.
+void describe(auto& field, fields::ValuesOf<Totals> auto& totals)
+{
+    field("files", totals.files);
+    field("whole", totals.whole);
+    field("changed", totals.changed);
+    field("withLoss", totals.withLoss);
+    field("failed", totals.failed);
+    field("objectsInFiles", totals.objectsInFiles);
+    field("objectsImported", totals.objectsImported);
+    field("uncounted", totals.uncounted);
+    field("filesByStatus", totals.filesByStatus);
+    field("filesByReader", totals.filesByReader);
+    field("filesByCode", totals.filesByCode);
+}
 
 QString stateOf(const FileReport& report)
 {
@@ -39,6 +71,26 @@ QString stateOf(const FileReport& report)
         return u"loss"_s;
     }
     return isWhole(report) ? u"whole"_s : u"changed"_s;
+}
+
+QString stateWords(const QString& state)
+{
+    struct Row
+    {
+        QLatin1String state;
+        const char* words;
+    };
+    static constexpr Row Rows[] = {
+        {"whole"_L1, QT_TRANSLATE_NOOP("migration::Totals", "imported completely")},
+        {"changed"_L1, QT_TRANSLATE_NOOP("migration::Totals", "changed in looks")},
+        {"loss"_L1, QT_TRANSLATE_NOOP("migration::Totals", "with losses")},
+        {"crashed"_L1, QT_TRANSLATE_NOOP("migration::Totals", "crashed")},
+        {"timed-out"_L1, QT_TRANSLATE_NOOP("migration::Totals", "timed out")},
+        {"out-of-memory"_L1, QT_TRANSLATE_NOOP("migration::Totals", "out of memory")},
+    };
+    const auto* row = std::find_if(std::begin(Rows), std::end(Rows),
+                                   [&state](const Row& each) { return each.state == state; });
+    return row != std::end(Rows) ? tr(row->words) : tr("failed");
 }
 
 void Totals::add(const FileReport& report)
@@ -56,9 +108,9 @@ void Totals::add(const FileReport& report)
     withLoss += state == "loss"_L1 ? 1 : 0;
     if (report.status != Status::Imported) {
         ++failed;
-    } else if (report.objectsInFile) {
-        objectsInFiles += *report.objectsInFile;
-        objectsImported += report.objectsImported;
+    } else if (report.objects.inFile) {
+        objectsInFiles += *report.objects.inFile;
+        objectsImported += report.objects.imported;
     } else {
         ++uncounted;
     }
@@ -66,19 +118,9 @@ void Totals::add(const FileReport& report)
 
 QJsonObject toJson(const Totals& totals)
 {
-    return {
-        {u"files"_s, totals.files},
-        {u"whole"_s, totals.whole},
-        {u"changed"_s, totals.changed},
-        {u"withLoss"_s, totals.withLoss},
-        {u"failed"_s, totals.failed},
-        {u"objectsInFiles"_s, totals.objectsInFiles},
-        {u"objectsImported"_s, totals.objectsImported},
-        {u"uncounted"_s, totals.uncounted},
-        {u"filesByStatus"_s, toJson(totals.filesByStatus)},
-        {u"filesByReader"_s, toJson(totals.filesByReader)},
-        {u"filesByCode"_s, toJson(totals.filesByCode)},
-    };
+    fields::FieldWriter writer;
+    describe(writer, totals);
+    return writer.object();
 }
 
 } // namespace migration

@@ -1,15 +1,17 @@
-#include "workbench/document/field_words.h"
+#include "fields/field_problem.h"
 
-namespace workbench::document {
+namespace fields {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 struct Words
 {
-    Q_DECLARE_TR_FUNCTIONS(workbench::FieldWords)
+    Q_DECLARE_TR_FUNCTIONS(fields::FieldProblem)
 };
 
-const QString Path = QStringLiteral("%1"); // keeps its place until the path is known
+const QString Path = u"%1"_s; // stays a placeholder until the path is known
 
 } // namespace
 
@@ -28,4 +30,4 @@ MaybeProblem fieldIsLonger(qsizetype limit)
     return FieldProblem{{}, Words::tr("%1 is longer than %2").arg(Path, QString::number(limit))};
 }
 
-} // namespace workbench::document
+} // namespace fields
