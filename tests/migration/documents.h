@@ -54,9 +54,9 @@ struct Document
     return {QStringLiteral("canvas.cnv"), bytes};
 }
 
-/// A rectangle of an inch on the page of a drawing, which comes over whole.
+/// A rectangle of an inch on the page of a drawing, which is imported whole.
 extern const QByteArray kPlainRect;
-/// A text on the page of an XML label, which comes over whole.
+/// A text on the page of an XML label, which is imported whole.
 extern const QByteArray kPlainLabel;
 
 /// Changes what an import gave before it is reported on.

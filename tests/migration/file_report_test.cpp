@@ -87,7 +87,7 @@ TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsWhole)
     EXPECT_FALSE(isWhole(FileReport()));
     FileReport uncounted = wholeReport();
     uncounted.objects.inFile.reset();
-    EXPECT_FALSE(isWhole(uncounted)) << "nobody knows whether something is missing";
+    EXPECT_FALSE(isWhole(uncounted)) << "it is unknown whether something is missing";
 }
 
 TEST(FileReport, HasALossForEveryKindThatHarmsTheContent)

@@ -134,7 +134,7 @@ TEST(CensusLimits, MeasureTheMembersOfPackages)
     EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(MaximumContent + 1)))));
 }
 
-// The format's own: the end of a package stands before a comment of so many bytes.
+// The format's own: the end of a package is followed by a comment of so many bytes.
 TEST(CensusLimits, FindThePackageBeforeItsComment)
 {
     constexpr qsizetype longest = 65535;
@@ -172,7 +172,7 @@ TEST(CensusLimits, ShortenDetails)
     EXPECT_EQ(tally.details, QStringList{longest});
 }
 
-// What is kept shows in nothing but the time; what is forgotten is asked for anew.
+// What is kept shows in nothing but the time; what is forgotten is queried again.
 TEST(CensusLimits, ForgetFontsWithoutMistakes)
 {
     constexpr int more = 2'500;

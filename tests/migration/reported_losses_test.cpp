@@ -153,7 +153,7 @@ QByteArray masterPage(const QByteArray& content)
            "</style:master-page>";
 }
 
-// What stands beside what is lost has to come over: without anything on it a binary file is
+// What accompanies the lost object must be imported: without any item a binary file is
 // refused, and the others could be blank for any reason.
 const QList<Sample>& samples()
 {

@@ -1,5 +1,5 @@
-// What if a reader passes an object over and does not tell? Each item of labels that hold
-// every kind of object is taken off the label in turn.
+// A reader that skips an object without a log record: each item of labels with every kind of
+// object is removed from the label in turn.
 
 #include "migration/model/loss_kinds.h"
 #include "tests/migration/documents.h"

@@ -144,7 +144,7 @@ TEST(Import, SaysWhyAFileIsNotALabel)
                     .contains(QLatin1String("XML is not well-formed at line 1")));
     EXPECT_TRUE(errorOf(folder.write("other.qmtx", "<html/>"))
                     .contains(QLatin1String("root element is not \"qmtx\"")));
-    EXPECT_TRUE(errorOf(folder.write("text.odg", "this is no package"))
+    EXPECT_TRUE(errorOf(folder.write("text.odg", "not a package"))
                     .contains(QLatin1String("Not an OpenDocument file")));
     EXPECT_TRUE(errorOf(folder.write("text.cnv", QByteArray("\0\0\0\0\0\0\0\7", 8)))
                     .contains(QLatin1String("unsupported version")));

@@ -230,7 +230,7 @@ TEST(ImportLog, CollectsOnlyWhileItLives)
                   QList<LogRecord>({{false, QStringLiteral("x"), QStringLiteral("one")},
                                     {true, QStringLiteral("x"), QStringLiteral("two")}}));
     }
-    log(Logger::Debug, "three"); // nobody there any more
+    log(Logger::Debug, "three"); // not collected
     const workbench::ImportLog later;
     EXPECT_TRUE(later.records().isEmpty());
 }

@@ -10,7 +10,7 @@ namespace workbench {
 
 class Canvas;
 
-/// Something that an import could not carry over.
+/// Something that could not be imported.
 struct ImportIssue
 {
     QString text;      ///< for the user

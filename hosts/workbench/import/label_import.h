@@ -22,7 +22,7 @@ struct ImportResult
     std::unique_ptr<Canvas> canvas;
     /// The label's data sources; null when the import failed.
     std::unique_ptr<datasources::DatasourceController> datasources;
-    /// What could not be carried over.
+    /// What could not be imported.
     QList<ImportIssue> issues;
     /// Why the import failed, in words for a person; empty when it did not.
     QString error;

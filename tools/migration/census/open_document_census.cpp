@@ -1,5 +1,5 @@
 // The objects of an OpenDocument package: those of its body, and those of its styles' master
-// page, which lies behind the page.
+// page, behind the page.
 
 #include "migration/census/counting.h"
 #include "migration/census/open_document_names.h"
@@ -35,7 +35,7 @@ QXmlStreamAttributes renamed(const QXmlStreamAttributes& attributes, const NameT
     return result;
 }
 
-/// Whoever listens to a document.
+/// Callbacks for the parts of a document.
 struct Listener
 {
     std::function<void(const QString& name, const QXmlStreamAttributes& attributes)> open;

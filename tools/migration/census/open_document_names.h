@@ -31,7 +31,7 @@ struct DrawingElement
 {
     QLatin1String name;
     ObjectClass objectClass;
-    /// Why a page's own element of this name stays behind; nothing when it comes over.
+    /// Why a page's own element of this name stays behind; nothing when it is imported.
     std::optional<LossKind> lost;
 };
 

@@ -38,7 +38,7 @@ struct Styles
     QList<MasterPage> masterPages;
 };
 
-/// Reads the styles document: styles, page layouts, and what lies on its master pages.
+/// Reads the styles document: styles, page layouts, and the objects on its master pages.
 class StylesReader
 {
 public:
@@ -58,7 +58,7 @@ private:
     int m_depth = 0;
     int m_masterDepth = 0; // 0 outside master pages
     int m_walkDepth = 0;   // 0 where nothing is counted
-    int m_skipDepth = 0;   // 0 where nothing is passed over
+    int m_skipDepth = 0;   // 0 where nothing is skipped
     std::optional<OpenDocumentWalker> m_walker;
 };
 

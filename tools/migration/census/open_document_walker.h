@@ -40,7 +40,7 @@ public:
     [[nodiscard]] bool hasRunningText() const { return m_hasRunningText; }
 
 private:
-    /// What an element stands for. Each has a function for its children.
+    /// The role of an element. Each role has a function for child elements.
     enum class Spot : quint8 {
         Outside,
         Body,

@@ -11,7 +11,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Whether a transformation does more than turn and move.
+// Whether a transformation does more than rotate and move.
 bool isUnreadTransform(QStringView transform)
 {
     if (transform.isEmpty()) {

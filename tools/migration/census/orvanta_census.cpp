@@ -119,7 +119,7 @@ void Counter::openControl(const QString& tag)
     if (m_control != nullptr) {
         m_object.objectClass = m_control->objectClass;
         m_object.wantsSource = m_control->alwaysHasSource;
-        // Without a type, or with one that is no number, it has the number 0.
+        // Without a type, or if the type is not a number, the number is 0.
         m_object.barcodeType = m_object.objectClass == ObjectClass::Barcode ? 0 : NoBarcodeType;
     } else {
         m_object.lost = LossKind::UnknownControl;
@@ -187,7 +187,7 @@ void Counter::closeControl()
     m_census.objects.append(m_object);
 }
 
-// The background lies below all objects, wherever it stands in the file.
+// The background is below all objects, wherever it is in the file.
 void Counter::closeBackground()
 {
     const QByteArray picture = QByteArray::fromBase64(m_text.toUtf8());

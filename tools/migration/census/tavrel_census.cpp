@@ -223,13 +223,13 @@ void countRecord(ObjectClass objectClass, quint32 version, ByteCursor& cursor, C
 QString unknownRest()
 {
     return QCoreApplication::translate(
-        "migration::Census", "The file goes on with something unknown, which may hold more.");
+        "migration::Census", "The file continues with unknown data, which may contain more objects.");
 }
 
 QString cutShort()
 {
     return QCoreApplication::translate(
-        "migration::Census", "The file ends in the middle of a record: it may have held more.");
+        "migration::Census", "The file is truncated: it may have contained more objects.");
 }
 
 void countItems(quint32 version, ByteCursor& cursor, Census& census)
@@ -272,7 +272,7 @@ Census countTavrel(const QByteArray& file)
     const auto version = static_cast<quint32>(cursor.takeNumber());
     if (cursor.isCut() || version < OldestVersion) {
         census.unknown = QCoreApplication::translate(
-            "migration::Census", "The file is no binary label of a known version.");
+            "migration::Census", "The file is not a binary label of a supported version.");
         return census;
     }
     (void)cursor.skipPicture(); // the preview

@@ -53,7 +53,7 @@ bool showsNothing(const ItemValues& values)
             values.fill->color.alpha() == 0);
 }
 
-// Texts of a barcode stand in the font of its own choice where none was given.
+// A barcode without a font uses one of its own.
 QStringList familiesOf(const ItemValues& values)
 {
     QStringList families;

@@ -47,7 +47,7 @@ struct CountedObject
     bool wantsSource = false;
     /// A text with a placeholder for its data source among other words.
     bool hasPlaceholder = false;
-    /// The file's number of a barcode's type, if it is to be compared.
+    /// The file's number of a barcode's type, for comparisons.
     int barcodeType = NoBarcodeType;
 };
 

@@ -33,7 +33,8 @@ bool isFirstLine(const QJsonObject& line)
 
 QByteArray readReportLine(QIODevice& report)
 {
-    const QByteArray line = report.readLine(MaximumLine + 1);
+    // One byte more than the limit; Qt keeps another for a terminating zero.
+    const QByteArray line = report.readLine(MaximumLine + 2);
     const bool isTooLarge =
         line.size() > MaximumLine || jsonbounds::isLargerThan(line, MaximumLineTree);
     return isTooLarge ? QByteArray() : line;

@@ -41,7 +41,7 @@ public:
     /// Why the report cannot be read, for the user; empty if it can.
     [[nodiscard]] const QString& error() const { return m_error; }
 
-    /// Reads the line at an offset again. Opens the report anew, so that of a thousand reports
+    /// Reads the line at an offset again. Opens the report again, so that of a thousand reports
     /// only one is open at a time.
     [[nodiscard]] static std::optional<FileReport> reportAt(const QString& fileName, qint64 offset);
 
