@@ -1,8 +1,8 @@
 // What a file holds, counted by the code that shares nothing with the readers.
 
-#include "migration/census/counting.h"
 #include "fuzz/harness.h"
 #include "fuzz/legacy_file.h"
+#include "migration/census/counting.h"
 
 namespace {
 

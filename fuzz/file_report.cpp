@@ -2,8 +2,8 @@
 
 #include "fuzz/harness.h"
 #include "fuzz/legacy_file.h"
-#include "migration/losses/item_losses.h"
 #include "migration/file_report_builder.h"
+#include "migration/losses/item_losses.h"
 #include "workbench/import/label_import.h"
 
 #include <QJsonDocument>

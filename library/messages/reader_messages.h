@@ -27,8 +27,8 @@ inline constexpr Translated SymbolsUnreadable = QT_TRANSLATE_NOOP3(
     "file.",
     "Content of error message.");
 /// Follows the text in quotation marks, whose white space is simplified. %1 is a size in points.
-inline constexpr Translated TextStretched = QT_TRANSLATE_NOOP3(
-    "QObject", ":\n\tOriginal font size: %1.", "Content of error message.");
+inline constexpr Translated TextStretched =
+    QT_TRANSLATE_NOOP3("QObject", ":\n\tOriginal font size: %1.", "Content of error message.");
 inline constexpr Translated BarcodesUnsupported =
     QT_TRANSLATE_NOOP3("QObject", "Unsupported barcode symbols.", "Content of error message.");
 inline constexpr Translated DatabaseNotConnected =

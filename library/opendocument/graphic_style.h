@@ -1,8 +1,8 @@
 #pragma once
 
+#include "limits/xml/element_tree.h"
 #include "opendocument/numbers.h"
 #include "opendocument/text_style.h"
-#include "limits/xml/element_tree.h"
 
 #include <QString>
 #include <Qt>

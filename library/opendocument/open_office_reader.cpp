@@ -41,8 +41,8 @@ double pointsPerPixelOf(const QFont& font)
 
 QString parseFailureMessage(const QString& member, const xmlbounds::ParseFailure& failure)
 {
-    return QString::asprintf(messages::DocumentParsingFailed,
-                             member.toLocal8Bit().constData(), failure.line, failure.column,
+    return QString::asprintf(messages::DocumentParsingFailed, member.toLocal8Bit().constData(),
+                             failure.line, failure.column,
                              failure.message.toLocal8Bit().constData());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "opendocument/text_style.h"
 #include "limits/xml/element_tree.h"
+#include "opendocument/text_style.h"
 
 #include <QMap>
 #include <QString>
