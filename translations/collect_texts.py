@@ -20,6 +20,7 @@ import re
 import subprocess
 import sys
 import tempfile
+import xml.etree.ElementTree
 
 MACRO = re.compile(r'#define (\w+)\((\w+)\) QT_TRANSLATE_NOOP\("([^"]+)", \2\)')
 HELPER = re.compile(r'QString tr\(const char\* (\w+)\)\s*\{\s*'
@@ -40,6 +41,20 @@ def written_out(code):
     return code
 
 
+def fill_english_plurals(path):
+    """Fills in the English forms of "%n file(s)": "%n file" and "%n files"."""
+    tree = xml.etree.ElementTree.parse(path)
+    for message in tree.iter("message"):
+        text = message.findtext("source")
+        translation = message.find("translation")
+        translation.attrib.pop("type", None)
+        singular, plural = translation.findall("numerusform")
+        singular.text, plural.text = text.replace("(s)", ""), text.replace("(s)", "s")
+    body = xml.etree.ElementTree.tostring(tree.getroot(), encoding="unicode")
+    path.write_text('<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n' + body + "\n",
+                    encoding="utf-8")
+
+
 def copy(source, folders, target):
     for folder in folders:
         for path in sorted((source / folder).rglob("*")):
@@ -53,15 +68,25 @@ def main():
     lupdate, source, target = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
     folders = sys.argv[4:]
     files = [str(path.resolve()) for path in sorted(target.glob("labelport_*.ts"))]
+    english = [file for file in files if file.endswith("labelport_en.ts")]
+    others = [file for file in files if file not in english]
+    failed = False
     with tempfile.TemporaryDirectory() as work:
         copy(source, folders, pathlib.Path(work))
-        done = subprocess.run(
-            [lupdate, "-silent", "-no-obsolete", "-locations", "none", "-no-ui-lines",
-             "-source-language", "en", "-I", ".", "-recursive", *folders, "-ts", *files],
-            cwd=work, stderr=subprocess.PIPE, text=True, check=False)
-    # What it complains of are texts in contexts that do not exist when the program runs.
-    sys.stderr.write(done.stderr)
-    return 1 if done.returncode or done.stderr.strip() else 0
+        # English needs only the forms of texts with a number: "1 file", "2 files".
+        for flags, targets in ([], others), (["-pluralonly"], english):
+            if not targets:
+                continue
+            done = subprocess.run(
+                [lupdate, "-silent", *flags, "-no-obsolete", "-locations", "none", "-no-ui-lines",
+                 "-source-language", "en", "-I", ".", "-recursive", *folders, "-ts", *targets],
+                cwd=work, stderr=subprocess.PIPE, text=True, check=False)
+            # Warnings are about texts in contexts that do not exist when the program runs.
+            sys.stderr.write(done.stderr)
+            failed = failed or done.returncode or done.stderr.strip()
+    for file in english:
+        fill_english_plurals(pathlib.Path(file))
+    return 1 if failed else 0
 
 
 if __name__ == "__main__":

@@ -85,6 +85,10 @@ ProgramLanguage::ProgramLanguage(const QStringList& languages)
             return;
         }
     }
+    // The texts in the code are English; this adds their plural forms.
+    if (m_own.load(QStringLiteral(":/labelport/translations/labelport_en.qm"))) {
+        QCoreApplication::installTranslator(&m_own);
+    }
 }
 
 ProgramLanguage::~ProgramLanguage()

@@ -1,0 +1,65 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>archive::WorkerEnd</name>
+    <message numerus="yes">
+        <source>The file made no progress for %n second(s); see --timeout.</source>
+        <translation>
+            <numerusform>The file made no progress for %n second; see --timeout.</numerusform>
+            <numerusform>The file made no progress for %n seconds; see --timeout.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportCommand</name>
+    <message numerus="yes">
+        <source>%n file(s) imported incompletely.</source>
+        <translation>
+            <numerusform>%n file imported incompletely.</numerusform>
+            <numerusform>%n files imported incompletely.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportReporter</name>
+    <message numerus="yes">
+        <source>%n file(s) imported.</source>
+        <translation>
+            <numerusform>%n file imported.</numerusform>
+            <numerusform>%n files imported.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) had been imported before.</source>
+        <translation>
+            <numerusform>%n file had been imported before.</numerusform>
+            <numerusform>%n files had been imported before.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) failed.</source>
+        <translation>
+            <numerusform>%n file failed.</numerusform>
+            <numerusform>%n files failed.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Ignored %n other file(s).</source>
+        <translation>
+            <numerusform>Ignored %n other file.</numerusform>
+            <numerusform>Ignored %n other files.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>cli::LabelWriter</name>
+    <message numerus="yes">
+        <source>The label has only %n record(s); record %1 does not exist.</source>
+        <translation>
+            <numerusform>The label has only %n record; record %1 does not exist.</numerusform>
+            <numerusform>The label has only %n records; record %1 does not exist.</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
