@@ -151,13 +151,5 @@ bool LegacyTemplateImporter::isBusy(const char* function) const
 
 bool LegacyTemplateImporter::importByName(const QString& fileName)
 {
-    switch (readerForFile(fileName)) {
-    case ReaderKind::Orvanta:
-        return importLabelFromOrvantaFile(fileName);
-    case ReaderKind::OpenDocument:
-        return importLabelFromOpenOfficeFile(fileName);
-    case ReaderKind::Tavrel:
-        break;
-    }
-    return importLabelFromTavrelFile(fileName);
+    return (this->*readerOf(readerForFile(fileName)).importFile)(fileName);
 }

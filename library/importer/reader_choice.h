@@ -1,8 +1,15 @@
 #pragma once
 
+#include "importer/legacy_template_importer.h"
+
+#include <QFile>
 #include <QFileInfo>
+#include <QLatin1String>
 #include <QString>
 #include <QtGlobal>
+
+#include <array>
+#include <optional>
 
 /// The readers that a file can be given to.
 enum class ReaderKind : quint8 {
@@ -11,35 +18,110 @@ enum class ReaderKind : quint8 {
     OpenDocument, ///< OpenDocument text and drawing files
 };
 
-namespace readerchoice {
-
-/** A row of the table below. */ struct SuffixRow
+/// One reader: its names, its files, and how an importer calls it.
+struct Reader
 {
-    QLatin1String suffix; ///< what stands behind the last dot, in small letters
-    ReaderKind reader;    ///< who reads such files
+    ReaderKind kind;
+    QLatin1String name; ///< in options, traces and reports
+    /// Suffixes in lower case. The first two select the reader in the import command; tools accept
+    /// those of templates as well. Unused places are empty.
+    std::array<QLatin1String, 4> suffixes;
+    bool (LegacyTemplateImporter::*importFile)(const QString& fileName);
 };
 
-/// The suffixes that name a reader; all others belong to the binary reader.
-inline constexpr SuffixRow SuffixTable[] = {
-    {QLatin1String("qmtx"), ReaderKind::Orvanta},
-    {QLatin1String("odt"), ReaderKind::OpenDocument},
-    {QLatin1String("odg"), ReaderKind::OpenDocument},
+/// All readers. Files of unknown suffixes belong to the first.
+inline constexpr std::array Readers{
+    Reader{ReaderKind::Tavrel,
+           QLatin1String("tavrel"),
+           {QLatin1String("cnv"), QLatin1String("roc")},
+           &LegacyTemplateImporter::importLabelFromTavrelFile},
+    Reader{ReaderKind::Orvanta,
+           QLatin1String("orvanta"),
+           {QLatin1String("qmtx")},
+           &LegacyTemplateImporter::importLabelFromOrvantaFile},
+    Reader{ReaderKind::OpenDocument,
+           QLatin1String("opendocument"),
+           {QLatin1String("odt"), QLatin1String("odg"), QLatin1String("ott"), QLatin1String("otg")},
+           &LegacyTemplateImporter::importLabelFromOpenOfficeFile},
 };
 
-} // namespace readerchoice
-
-/// The reader for a file, by its name alone: nothing is opened.
-///
-/// Everything behind the first dot counts, in any case of letters. Old labels depend on
-/// two oddities: "shelf.old.odt" has the suffix "old.odt" and is tried as a binary file,
-/// and so is every file with a suffix that nobody knows, or with none.
-[[nodiscard]] inline ReaderKind readerForFile(const QString& fileName)
+[[nodiscard]] inline const Reader& readerOf(ReaderKind kind)
 {
-    const QString suffix = QFileInfo(fileName).completeSuffix().toLower();
-    for (const readerchoice::SuffixRow& row : readerchoice::SuffixTable) {
-        if (suffix == row.suffix) {
-            return row.reader;
+    return Readers[static_cast<std::size_t>(kind)];
+}
+
+/// The reader of a name; empty for an unknown name.
+[[nodiscard]] inline std::optional<ReaderKind> readerOfName(const QString& name)
+{
+    for (const Reader& reader : Readers) {
+        if (name == reader.name) {
+            return reader.kind;
         }
     }
-    return ReaderKind::Tavrel;
+    return std::nullopt;
+}
+
+/// The reader of a suffix, in any case; empty for an unknown suffix.
+/// @param count how many of a reader's suffixes are compared
+[[nodiscard]] inline std::optional<ReaderKind> readerOfSuffix(const QString& suffix,
+                                                              std::size_t count = 4)
+{
+    for (const Reader& reader : Readers) {
+        for (std::size_t index = 0; index < count; ++index) {
+            const QLatin1String known = reader.suffixes[index];
+            if (!known.isEmpty() && suffix.toLower() == known) {
+                return reader.kind;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+/// The reader that the import command selects: by the name alone, nothing is opened.
+///
+/// Everything after the first dot counts. Two oddities are compatible with old labels:
+/// "shelf.old.odt" has the suffix "old.odt" and goes to the binary reader, and so does every file
+/// with an unknown suffix or none. Tools use readerByNameOrContent().
+[[nodiscard]] inline ReaderKind readerForFile(const QString& fileName)
+{
+    constexpr std::size_t commandSuffixes = 2;
+    return readerOfSuffix(QFileInfo(fileName).completeSuffix(), commandSuffixes)
+        .value_or(ReaderKind::Tavrel);
+}
+
+/// The reader of the format that the first bytes of a file show; empty if they show none. Binary
+/// labels begin with numbers that do not distinguish them.
+[[nodiscard]] inline std::optional<ReaderKind> readerOfContent(QByteArray head)
+{
+    if (head.startsWith("PK\x03\x04")) {
+        return ReaderKind::OpenDocument;
+    }
+    // XML in UTF-8 or UTF-16, with or without a byte order mark.
+    head.replace('\0', "");
+    head.replace("\xEF\xBB\xBF", "").replace("\xFE\xFF", "").replace("\xFF\xFE", "");
+    return head.trimmed().startsWith('<') ? std::optional(ReaderKind::Orvanta) : std::nullopt;
+}
+
+/// The first bytes of a regular file; empty if it cannot be opened.
+[[nodiscard]] inline QByteArray headOfFile(const QString& fileName)
+{
+    constexpr qint64 headLength = 256;
+    QFile file(fileName);
+    const bool isRegular = QFileInfo(fileName).isFile(); // opening a pipe could block
+    return isRegular && file.open(QIODevice::ReadOnly) ? file.read(headLength) : QByteArray();
+}
+
+/// The reader that tools select: by the complete suffix or else the last suffix of the name, or
+/// else by the content; the binary reader if nothing selects one.
+/// @param path the file to open for its content, if that is not the name
+[[nodiscard]] inline ReaderKind readerByNameOrContent(const QString& name, const QString& path)
+{
+    // No suffix contains a dot, so a complete suffix that is known is the last suffix as well.
+    const std::optional<ReaderKind> bySuffix = readerOfSuffix(QFileInfo(name).suffix());
+    return bySuffix ? *bySuffix : readerOfContent(headOfFile(path)).value_or(ReaderKind::Tavrel);
+}
+
+[[nodiscard]] inline ReaderKind readerByNameOrContent(const QString& fileName)
+{
+    return readerByNameOrContent(fileName, fileName);
 }

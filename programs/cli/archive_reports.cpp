@@ -1,16 +1,17 @@
 #include "cli/archive_reports.h"
 
+#include "cli/existing_output.h"
 #include "cli/file_reports.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 namespace cli {
 
-ArchiveReports::ArchiveReports(const QStringList& fileNames, bool isLooking)
+ArchiveReports::ArchiveReports(const QStringList& fileNames, bool countsLosses, bool mayOverwrite)
     : m_fileNames(fileNames)
-    , m_isLooking(isLooking || !fileNames.isEmpty())
+    , m_isNeeded(countsLosses || !fileNames.isEmpty())
+    , m_mayOverwrite(mayOverwrite)
 {
     for (const QString& fileName : fileNames) {
         QDir().mkpath(QFileInfo(fileName).path());
@@ -18,15 +19,12 @@ ArchiveReports::ArchiveReports(const QStringList& fileNames, bool isLooking)
     }
 }
 
-QString ArchiveReports::obstacle() const
+QString ArchiveReports::firstProblem() const
 {
     for (const QString& fileName : m_fileNames) {
-        const QFileInfo info(fileName);
-        const QFileInfo folder(info.path());
-        if (!folder.isDir() || !folder.isWritable() || info.isDir()) {
-            return QCoreApplication::translate("cli::ArchiveReports",
-                                               "The report %1 cannot be written.")
-                .arg(fileName);
+        const QString problem = reportProblem(fileName, m_mayOverwrite);
+        if (!problem.isEmpty()) {
+            return problem;
         }
     }
     return {};
@@ -34,7 +32,7 @@ QString ArchiveReports::obstacle() const
 
 void ArchiveReports::add(const archive::Delivery& delivery)
 {
-    if (!m_isLooking) {
+    if (!m_isNeeded) {
         return;
     }
     const migration::FileReport report = finalReport(delivery);

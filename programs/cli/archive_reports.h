@@ -10,27 +10,28 @@
 
 namespace cli {
 
-/// The reports of one command: written file by file, and looked through for losses.
+/// The reports of one command, written file by file, and the number of labels with losses.
 class ArchiveReports
 {
 public:
-    /// @param fileNames  where they go; may be none
-    /// @param isLooking  whether losses are to be counted even so
-    ArchiveReports(const QStringList& fileNames, bool isLooking);
+    /// @param fileNames    reports to write; may be empty
+    /// @param countsLosses counts losses even without a report
+    /// @param mayOverwrite overwrites files that are not reports of ours
+    ArchiveReports(const QStringList& fileNames, bool countsLosses, bool mayOverwrite);
 
-    /// Why one of the reports could not be written in the end, for a person; empty when all
-    /// can, as far as that is known before.
-    [[nodiscard]] QString obstacle() const;
+    /// Why one of the reports cannot be written, for a person; empty if none is known.
+    [[nodiscard]] QString firstProblem() const;
     void add(const archive::Delivery& delivery);
-    /// Puts the reports in their place; returns what went wrong, for a person.
+    /// Moves the reports into place; returns what failed, for a person.
     [[nodiscard]] QStringList finish();
 
-    /// Files of which something did not come over.
+    /// Labels that were not imported completely.
     [[nodiscard]] qint64 losses() const { return m_losses; }
 
 private:
     QStringList m_fileNames;
-    bool m_isLooking;
+    bool m_isNeeded;
+    bool m_mayOverwrite;
     std::vector<std::unique_ptr<migration::ReportWriter>> m_writers;
     qint64 m_losses = 0;
 };

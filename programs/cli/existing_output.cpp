@@ -1,48 +1,112 @@
 #include "cli/existing_output.h"
 
+#include "archive/publish.h"
+#include "console/file_name.h"
+#include "workbench/document/label_file.h"
+
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace cli {
 namespace {
 
-bool isOurPicture(const QString& fileName)
+using namespace Qt::StringLiterals;
+
+struct Words
 {
-    const QImageReader reader(fileName, "png");
-    return reader.text(QStringLiteral("Software")) == QLatin1String(SoftwareMark);
+    Q_DECLARE_TR_FUNCTIONS(cli::ExistingOutput)
+};
+
+/// The marks of our outputs are near their beginnings: metadata in a picture before the pixels, a
+/// description in a drawing, the producer in a document, the format in a report.
+QByteArray headOf(const QString& fileName)
+{
+    constexpr qint64 headLength = 4096;
+    const console::ReachablePath reachable(fileName);
+    QFile file(reachable.path());
+    return file.open(QIODevice::ReadOnly) ? file.read(headLength) : QByteArray();
 }
 
-/// Drawings and documents name their maker near their beginning: a document as text of two
-/// bytes a letter.
-bool namesUsEarly(const QString& fileName)
+bool isOurPicture(const QByteArray& head)
 {
-    constexpr qint64 headLength = 2048;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    QByteArray head = file.read(headLength);
-    head.replace('\0', "");
+    // A text chunk: keyword, NUL, text. Without libpng, which prints errors itself.
+    return head.startsWith("\x89PNG\r\n\x1A\n") &&
+           (head.contains(QByteArray("tEXtSoftware\0LabelPort", 22)) ||
+            head.contains(QByteArray("iTXtSoftware\0\0\0\0\0LabelPort", 26)));
+}
+
+bool isOurDrawingOrDocument(QByteArray head)
+{
+    head.replace('\0', ""); // texts of a document have two bytes for each letter
     return head.contains("<desc>LabelPort</desc>") ||
-           (head.startsWith("%PDF-") && head.contains("LabelPort"));
+           (head.startsWith("%PDF-") && head.contains(SoftwareMark));
+}
+
+bool isOurReport(const QByteArray& head)
+{
+    return head.contains("\"labelport-report\"") ||
+           head.contains("<meta name=\"generator\" content=\"LabelPort\">");
 }
 
 } // namespace
 
 bool isOurOutput(const QString& fileName)
 {
+    if (console::kindOf(fileName) != console::FileKind::File) {
+        return false;
+    }
     const QString suffix = QFileInfo(fileName).suffix();
-    return suffix == QLatin1String("png") ? isOurPicture(fileName) : namesUsEarly(fileName);
+    if (suffix == "label"_L1) {
+        const console::ReachablePath reachable(fileName);
+        return workbench::document::isUneditedImport(reachable.path());
+    }
+    const QByteArray head = headOf(fileName);
+    return suffix == "png"_L1 ? isOurPicture(head) : isOurDrawingOrDocument(head);
 }
 
 bool mayOverwrite(const QString& fileName, const QList<archive::FileStamp>& known)
 {
     const std::optional<archive::FileStamp> stamp = archive::stampOf(fileName);
     if (!stamp) {
-        return !QFileInfo::exists(fileName);
+        return console::kindOf(fileName) == console::FileKind::Missing;
     }
     return known.contains(*stamp) || isOurOutput(fileName);
+}
+
+QString reportNameProblem(const QString& fileName)
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    if (suffix != "json"_L1 && suffix != "html"_L1) {
+        return Words::tr("A report is a file that ends in .json or .html, not \"%1\".")
+            .arg(fileName);
+    }
+    return console::isUtf8FileName(fileName)
+               ? QString()
+               : Words::tr("The name of a report must be valid UTF-8: \"%1\".").arg(fileName);
+}
+
+QString reportProblem(const QString& fileName, bool mayOverwrite)
+{
+    const QFileInfo info(fileName);
+    const QFileInfo folder(info.path());
+    if (info.isDir()) {
+        return archive::folderInPlaceMessage(fileName);
+    }
+    if (!folder.isDir()) {
+        return archive::cannotWrite(fileName,
+                                    Words::tr("the folder \"%1\" does not exist").arg(info.path()));
+    }
+    if (!folder.isWritable()) {
+        return archive::cannotWrite(
+            fileName, Words::tr("the folder \"%1\" is not writable").arg(info.path()));
+    }
+    const bool isForeign =
+        !mayOverwrite && info.exists() && info.size() > 0 && !isOurReport(headOf(fileName));
+    return isForeign ? Words::tr("\"%1\" exists and is not a report of labelport. Use --force to "
+                                 "overwrite it.")
+                           .arg(fileName)
+                     : QString();
 }
 
 } // namespace cli

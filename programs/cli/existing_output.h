@@ -7,16 +7,23 @@
 
 namespace cli {
 
-/// The name that pictures, drawings and documents made by this program carry.
+/// The name of this program in pictures, drawings and documents that it writes.
 inline constexpr const char* SoftwareMark = "LabelPort";
 
-/// Whether the file of this name is a picture, drawing or document that this program made
-/// earlier. A saved label is not known so: it may have been edited since.
+/// Whether an existing file is a picture, drawing or document that this program wrote, or an
+/// imported label that was saved by this program and has not been edited since.
 [[nodiscard]] bool isOurOutput(const QString& fileName);
 
-/// Whether a file may be written under this name: there is none, it is our output, or it
-/// is what an earlier command left there, unchanged. Anything else belongs to somebody and is
-/// not overwritten unasked.
+/// Whether a file may be written under this name: none exists, it is our output, or it is an
+/// unchanged output of an earlier command. Never if a folder has this name.
 [[nodiscard]] bool mayOverwrite(const QString& fileName, const QList<archive::FileStamp>& known);
+
+/// Why a report cannot be written to a file, for a person; empty if it can. A file that is not a
+/// report of ours is not overwritten.
+/// @param mayOverwrite overwrites it even so
+[[nodiscard]] QString reportProblem(const QString& fileName, bool mayOverwrite);
+
+/// Why a name is not that of a report, for a person; empty for *.json and *.html.
+[[nodiscard]] QString reportNameProblem(const QString& fileName);
 
 } // namespace cli

@@ -1,56 +1,60 @@
 #include "cli/file_reports.h"
 
-#include "cli/opened_label.h"
+#include "cli/label_input.h"
+#include "console/file_name.h"
 #include "migration/file_report_builder.h"
-
-#include <QFileInfo>
 
 namespace cli {
 namespace {
 
-migration::Status statusOf(archive::Fate fate)
+migration::Status statusOf(archive::FileOutcome outcome)
 {
-    switch (fate) {
-    case archive::Fate::Done:
+    switch (outcome) {
+    case archive::FileOutcome::Done:
         return migration::Status::Imported;
-    case archive::Fate::Crashed:
+    case archive::FileOutcome::Crashed:
         return migration::Status::Crashed;
-    case archive::Fate::TimedOut:
+    case archive::FileOutcome::TimedOut:
         return migration::Status::TimedOut;
-    case archive::Fate::OutOfMemory:
+    case archive::FileOutcome::OutOfMemory:
         return migration::Status::OutOfMemory;
-    case archive::Fate::Failed:
+    case archive::FileOutcome::Failed:
         break;
     }
     return migration::Status::Failed;
 }
 
-migration::FileReport reportOnLost(const archive::Input& input)
+migration::FileReport reportWithoutWorker(const archive::Input& input)
 {
     migration::FileReport report;
-    report.file = input.shownName;
-    report.bytes = QFileInfo(input.path).size();
+    report.file = console::shownFileName(input.shownName);
+    report.bytes = archive::stampOf(input.path).value_or(archive::FileStamp{}).size;
     return report;
 }
 
 } // namespace
 
-migration::FileReport reportOn(const OpenedLabel& label, const archive::Job& job, bool withItems)
+migration::FileReport reportOn(const LabelInput& input, const OpenedLabel& label,
+                               const QString& shownName, bool withItems)
 {
     const migration::ReportOptions options{!withItems, withItems};
-    return label.reader
-               ? migration::makeFileReport(job.file, job.shownName, *label.reader, label, options)
-               : migration::makeSavedLabelReport(job.file, job.shownName, label, options);
+    const QString name = console::shownFileName(shownName);
+    return input.reader()
+               ? migration::makeFileReport(input.path(), name, *input.reader(), label, options)
+               : migration::makeSavedLabelReport(input.path(), name, label, options);
 }
 
 migration::FileReport finalReport(const archive::Delivery& delivery)
 {
     migration::FileReport report = migration::fileReportFromJson(delivery.result.report)
-                                       .value_or(reportOnLost(delivery.input));
-    report.status = statusOf(delivery.result.fate);
-    report.outputs = delivery.written;
+                                       .value_or(reportWithoutWorker(delivery.input));
+    report.status = statusOf(delivery.result.outcome);
+    report.outputs.clear();
+    for (const QString& output : delivery.written) {
+        report.outputs.append(console::shownFileName(output));
+    }
     if (!delivery.result.errors.isEmpty()) {
-        report.error = delivery.result.errors.join(QLatin1Char('\n'));
+        report.error = console::shownText(delivery.result.errors.join(QLatin1Char('\n')));
     }
     return report;
 }

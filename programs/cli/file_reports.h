@@ -6,15 +6,16 @@
 
 namespace cli {
 
+class LabelInput;
 struct OpenedLabel;
 
-/// The report that a worker makes of a label that it opened, or could not open.
-/// @param withItems whether every single item is listed
-[[nodiscard]] migration::FileReport reportOn(const OpenedLabel& label, const archive::Job& job,
-                                             bool withItems);
+/// The report of a worker on a label that it opened or could not open.
+/// @param withItems lists every item
+[[nodiscard]] migration::FileReport reportOn(const LabelInput& input, const OpenedLabel& label,
+                                             const QString& shownName, bool withItems);
 
-/// The report on one file of an archive as it stands in the end: with the outputs that were
-/// written, and with what went wrong after the worker's report or instead of it.
+/// The final report on one file: that of the worker, if there is one, with the outputs that were
+/// written and the errors that came later.
 [[nodiscard]] migration::FileReport finalReport(const archive::Delivery& delivery);
 
 } // namespace cli

@@ -1,9 +1,9 @@
-#include "cli/formats_command.h"
-
-#include "cli/command_line.h"
-#include "cli/exit_status.h"
-#include "cli/messages.h"
+#include "cli/commands.h"
+#include "cli/option_table.h"
 #include "cli/targets.h"
+#include "console/command_line.h"
+#include "console/output.h"
+#include "importer/reader_choice.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -14,6 +14,7 @@
 #include <array>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
 
 QString tr(const char* text)
@@ -21,27 +22,27 @@ QString tr(const char* text)
     return QCoreApplication::translate("cli::FormatsCommand", text);
 }
 
-struct ReaderRow
+struct Format
 {
     const char* name;
-    const char* suffixes; ///< with commas
     const char* description;
     const char* versions;
 };
 
-constexpr std::array Readers{
-    ReaderRow{"tavrel", "cnv,roc", QT_TRANSLATE_NOOP("cli::FormatsCommand", "binary canvas files"),
-              QT_TRANSLATE_NOOP("cli::FormatsCommand",
-                                "2000016 to 2000024; newer ones are read as 2000024")},
-    ReaderRow{"orvanta", "qmtx", QT_TRANSLATE_NOOP("cli::FormatsCommand", "XML labels"),
-              QT_TRANSLATE_NOOP("cli::FormatsCommand", "all")},
-    ReaderRow{"opendocument", "odt,odg",
-              QT_TRANSLATE_NOOP("cli::FormatsCommand", "OpenDocument texts and drawings"),
-              QT_TRANSLATE_NOOP("cli::FormatsCommand", "all, as packages")},
-    ReaderRow{"label", "label",
-              QT_TRANSLATE_NOOP("cli::FormatsCommand", "labels saved by LabelPort"),
-              QT_TRANSLATE_NOOP("cli::FormatsCommand", "1")},
+/// In the order of Readers; then the saved label.
+constexpr std::array Formats{
+    Format{"tavrel", QT_TRANSLATE_NOOP("cli::FormatsCommand", "binary canvas files"),
+           QT_TRANSLATE_NOOP("cli::FormatsCommand",
+                             "2000016 to 2000024; newer ones are read as 2000024")},
+    Format{"orvanta", QT_TRANSLATE_NOOP("cli::FormatsCommand", "XML labels"),
+           QT_TRANSLATE_NOOP("cli::FormatsCommand", "all")},
+    Format{"opendocument",
+           QT_TRANSLATE_NOOP("cli::FormatsCommand", "OpenDocument texts and drawings"),
+           QT_TRANSLATE_NOOP("cli::FormatsCommand", "all versions (zipped)")},
+    Format{"label", QT_TRANSLATE_NOOP("cli::FormatsCommand", "labels saved by LabelPort"),
+           QT_TRANSLATE_NOOP("cli::FormatsCommand", "1")},
 };
+static_assert(Formats.size() == Readers.size() + 1);
 
 struct TargetRow
 {
@@ -58,44 +59,50 @@ constexpr std::array Targets{
               QT_TRANSLATE_NOOP("cli::FormatsCommand", "saved label, to open and edit again")},
 };
 
-QStringList suffixesOf(const ReaderRow& row)
+QStringList suffixesOf(const Format& format)
 {
-    return QString::fromLatin1(row.suffixes).split(QLatin1Char(','));
+    const std::optional<ReaderKind> kind = readerOfName(QLatin1String(format.name));
+    if (!kind) {
+        return {QLatin1String(format.name)};
+    }
+    QStringList suffixes;
+    for (const QLatin1String suffix : readerOf(*kind).suffixes) {
+        if (!suffix.isEmpty()) {
+            suffixes.append(suffix);
+        }
+    }
+    return suffixes;
 }
 
 QJsonObject asJson()
 {
     QJsonArray readers;
-    for (const ReaderRow& row : Readers) {
-        readers.append(
-            QJsonObject{{QStringLiteral("name"), QLatin1String(row.name)},
-                        {QStringLiteral("suffixes"), QJsonArray::fromStringList(suffixesOf(row))},
-                        {QStringLiteral("description"), QLatin1String(row.description)},
-                        {QStringLiteral("versions"), QLatin1String(row.versions)}});
+    for (const Format& row : Formats) {
+        readers.append(QJsonObject{{u"name"_s, QLatin1String(row.name)},
+                                   {u"suffixes"_s, QJsonArray::fromStringList(suffixesOf(row))},
+                                   {u"description"_s, QLatin1String(row.description)},
+                                   {u"versions"_s, QLatin1String(row.versions)}});
     }
     QJsonArray targets;
     for (const TargetRow& row : Targets) {
-        targets.append(
-            QJsonObject{{QStringLiteral("name"), nameOf(row.target)},
-                        {QStringLiteral("description"), QLatin1String(row.description)}});
+        targets.append(QJsonObject{{u"name"_s, nameOf(row.target)},
+                                   {u"description"_s, QLatin1String(row.description)}});
     }
-    return {{QStringLiteral("readers"), readers}, {QStringLiteral("targets"), targets}};
+    return {{u"readers"_s, readers}, {u"targets"_s, targets}};
 }
 
 QString asText()
 {
-    QString text = tr("Read (import, inspect):") + QLatin1Char('\n');
-    for (const ReaderRow& row : Readers) {
-        const QString suffixes =
-            QStringLiteral("*.") + suffixesOf(row).join(QStringLiteral(", *."));
-        text += QStringLiteral("  %1 %2 %3; %4\n")
-                    .arg(QLatin1String(row.name), -13)
-                    .arg(suffixes, -14)
+    QString text = tr("Read (import, inspect):") + u'\n';
+    for (const Format& row : Formats) {
+        const QString suffixes = u"*."_s + suffixesOf(row).join(u", *."_s);
+        text += u"  %1 %2 %3; %4\n"_s.arg(QLatin1String(row.name), -13)
+                    .arg(suffixes, -26)
                     .arg(tr(row.description), tr("versions: %1").arg(tr(row.versions)));
     }
-    text += QLatin1Char('\n') + tr("Written (import --to):") + QLatin1Char('\n');
+    text += u'\n' + tr("Written (import --to):") + u'\n';
     for (const TargetRow& row : Targets) {
-        text += QStringLiteral("  %1 %2\n").arg(nameOf(row.target), -13).arg(tr(row.description));
+        text += u"  %1 %2\n"_s.arg(nameOf(row.target), -13).arg(tr(row.description));
     }
     return text;
 }
@@ -104,26 +111,21 @@ QString asText()
 
 int runFormats(const QStringList& arguments)
 {
-    // No translation: it is typed so.
-    const QString command = QStringLiteral("labelport formats");
+    const QString command = u"labelport formats"_s;
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        tr("Tells which files are read, in which versions, and what can be "
-           "written.\n\n"
-           "Examples:\n"
-           "  labelport formats\n"
-           "  labelport formats --json | jq -r '.readers[].suffixes[]'"));
-    parser.addOption({QStringLiteral("json"), tr("Tell it as JSON.")});
-    if (const std::optional<int> status = parseCommand(parser, command, arguments)) {
+    describeCommand(parser, commandOf("formats"));
+    if (const std::optional<int> status = console::parseCommand(parser, command, arguments)) {
         return *status;
     }
     if (!parser.positionalArguments().isEmpty()) {
-        return refuseArguments(command, tr("It takes no files."));
+        return console::refuseArguments(command, tr("formats takes no files."));
     }
-    printText(parser.isSet(QStringLiteral("json"))
-                  ? QString::fromUtf8(QJsonDocument(asJson()).toJson(QJsonDocument::Indented))
-                  : asText());
-    return ExitSuccess;
+    if (parser.isSet(u"json"_s)) {
+        console::printBytes(QJsonDocument(asJson()).toJson(QJsonDocument::Indented));
+    } else {
+        console::printText(asText());
+    }
+    return console::ExitSuccess;
 }
 
 } // namespace cli

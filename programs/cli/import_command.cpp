@@ -1,23 +1,22 @@
-#include "cli/import_command.h"
-
-#include "cli/archive_reports.h"
-#include "cli/existing_output.h"
-#include "cli/exit_status.h"
-#include "cli/import_inputs.h"
-#include "cli/import_options.h"
-#include "cli/import_teller.h"
-#include "cli/import_worker.h"
-#include "cli/messages.h"
 #include "archive/run.h"
 #include "archive/stop_signals.h"
+#include "cli/archive_reports.h"
+#include "cli/commands.h"
+#include "cli/existing_output.h"
+#include "cli/import_inputs.h"
+#include "cli/import_options.h"
+#include "cli/import_reporter.h"
+#include "cli/import_worker.h"
+#include "console/output.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QTimer>
 
 namespace cli {
 namespace {
 
-/// So many named files are an archive as a folder is, and worth a journal.
+/// From this many named files on, keep a journal as for a folder.
 constexpr qsizetype ManyFiles = 32;
 
 bool isArchive(const ImportOptions& options, const archive::InputList& list)
@@ -34,8 +33,8 @@ archive::RunSettings settingsFor(const ImportOptions& options, const archive::In
     }
     settings.outputFolder = options.outputDir;
     settings.shard = options.shard;
-    settings.options = decisiveOptions(options.job);
-    settings.manner = otherOptions(options.job);
+    settings.options = outputOptions(options.job);
+    settings.workerOptions = otherOptions(options.job);
     settings.version = QCoreApplication::applicationVersion();
     settings.isResuming = options.resume;
     settings.keepsJournal = isArchive(options, list);
@@ -47,49 +46,50 @@ archive::RunSettings settingsFor(const ImportOptions& options, const archive::In
     return settings;
 }
 
-/// One command on its way.
+/// One run of the command.
 class Import
 {
 public:
     Import(const ImportOptions& options, const archive::InputList& list)
         : m_options(options)
         , m_list(list)
-        , m_teller(options.quiet)
-        , m_reports(options.reports, options.failOnLoss)
+        , m_reporter(options.quiet, options.endsNamesWithNull)
+        , m_reports(options.reports, options.failOnLoss, options.job.force)
         , m_run(list.inputs, settingsFor(options, list), [this](const archive::Delivery& delivery) {
-            m_teller.tell(delivery);
+            m_reporter.reportFile(delivery);
             m_reports.add(delivery);
         })
     {}
 
     int run()
     {
-        for (const QString& folder : m_list.unreadable) {
-            m_teller.say(QCoreApplication::translate("cli::ImportCommand",
-                                                     "The folder %1 cannot be searched.")
-                             .arg(folder));
-        }
-        const QString obstacle = m_reports.obstacle();
-        const QString error = obstacle.isEmpty() ? m_run.open() : obstacle;
+        const QString problem = m_reports.firstProblem();
+        const QString error = problem.isEmpty() ? m_run.open() : problem;
         if (!error.isEmpty()) {
-            m_teller.say(error);
-            return ExitFailure;
+            m_reporter.print(error);
+            return console::ExitFailure;
         }
-        waitForTheEnd();
+        waitUntilFinished();
         return conclude();
     }
 
 private:
-    void waitForTheEnd()
+    void waitUntilFinished()
     {
         QEventLoop loop;
         archive::StopSignals signalsToStop;
         QObject::connect(&signalsToStop, &archive::StopSignals::stopRequested, &m_run,
                          [this](int times) { times == 1 ? m_run.stop() : m_run.stopAtOnce(); });
         QObject::connect(&m_run, &archive::Run::advanced, &m_run,
-                         [this] { m_teller.showProgress(m_run.progress()); });
+                         [this] { m_reporter.showProgress(m_run.progress()); });
         QObject::connect(&m_run, &archive::Run::finished, &loop, &QEventLoop::quit,
                          Qt::QueuedConnection);
+        // The rate, and the time of a file that takes long, change without an event.
+        QTimer clock;
+        QObject::connect(&clock, &QTimer::timeout, &m_run,
+                         [this] { m_reporter.showProgress(m_run.progress()); });
+        constexpr int refreshMilliseconds = 500;
+        clock.start(refreshMilliseconds);
         m_run.start();
         loop.exec();
     }
@@ -97,39 +97,38 @@ private:
     int conclude()
     {
         const archive::Progress progress = m_run.progress();
-        m_teller.sumUp(progress, isArchive(m_options, m_list), m_list.skipped);
-        for (const QString& trouble : m_run.troubles()) {
-            m_teller.say(trouble);
+        m_reporter.printSummary(progress, isArchive(m_options, m_list), m_list.skipped);
+        for (const QString& warning : m_run.warnings()) {
+            m_reporter.print(warning);
         }
         if (m_run.isStopped()) {
-            m_teller.say(QCoreApplication::translate(
-                "cli::ImportCommand", "Stopped. The same command with --resume goes on."));
-            return ExitStopped;
+            m_reporter.print(QCoreApplication::translate(
+                "cli::ImportCommand", "Stopped. Repeat the command with --resume to continue."));
+            return console::ExitStopped;
         }
         const QStringList errors = m_reports.finish();
         for (const QString& error : errors) {
-            m_teller.say(error);
+            m_reporter.print(error);
         }
         const bool isComplete = progress.failed == 0 && !m_run.isBroken() &&
                                 m_list.unreadable.isEmpty() && errors.isEmpty();
-        return isComplete ? tellLosses() : ExitFailure;
+        return isComplete ? checkLosses() : console::ExitFailure;
     }
 
-    int tellLosses()
+    int checkLosses()
     {
         if (!m_options.failOnLoss || m_reports.losses() == 0) {
-            return ExitSuccess;
+            return console::ExitSuccess;
         }
-        m_teller.say(QCoreApplication::translate("cli::ImportCommand",
-                                                 "%1 of %2 files did not come over whole.")
-                         .arg(m_reports.losses())
-                         .arg(m_run.progress().total));
-        return ExitLoss;
+        const int losses = static_cast<int>(m_reports.losses());
+        m_reporter.print(QCoreApplication::translate(
+            "cli::ImportCommand", "%n file(s) imported incompletely.", nullptr, losses));
+        return console::ExitLoss;
     }
 
     const ImportOptions& m_options;
     const archive::InputList& m_list;
-    ImportTeller m_teller;
+    ImportReporter m_reporter;
     ArchiveReports m_reports;
     archive::Run m_run;
 };
@@ -138,13 +137,18 @@ int importAll(const ImportOptions& options)
 {
     const ImportInputs inputs = findInputs(options);
     if (!inputs.error.isEmpty()) {
-        printMessage(inputs.error);
-        return ExitFailure;
+        console::printMessage(inputs.error);
+        return console::ExitFailure;
+    }
+    for (const archive::UnreadableFolder& folder : inputs.list.unreadable) {
+        console::printMessage(
+            QCoreApplication::translate("cli::ImportCommand", "Cannot search folder \"%1\": %2.")
+                .arg(folder.path, folder.reason));
     }
     if (inputs.list.inputs.isEmpty()) {
-        printMessage(
-            QCoreApplication::translate("cli::ImportCommand", "There is no label to import."));
-        return ExitFailure;
+        console::printMessage(
+            QCoreApplication::translate("cli::ImportCommand", "No labels to import."));
+        return console::ExitFailure;
     }
     return Import(options, inputs.list).run();
 }
@@ -154,15 +158,8 @@ int importAll(const ImportOptions& options)
 int runImport(const QStringList& arguments)
 {
     const auto parsed = parseImportArguments(arguments);
-    if (const auto* help = std::get_if<HelpWanted>(&parsed)) {
-        printText(help->text);
-        return ExitSuccess;
-    }
-    if (const auto* error = std::get_if<UsageError>(&parsed)) {
-        printMessage(error->message);
-        printMessage(QCoreApplication::translate("cli::ImportCommand",
-                                                 "\"labelport import --help\" tells more."));
-        return ExitUsage;
+    if (const int* status = std::get_if<int>(&parsed)) {
+        return *status;
     }
     return importAll(std::get<ImportOptions>(parsed));
 }

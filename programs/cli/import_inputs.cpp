@@ -1,68 +1,47 @@
 #include "cli/import_inputs.h"
 
 #include "archive/journal.h"
+#include "console/file_name.h"
+#include "console/standard_input.h"
+#include "importer/reader_choice.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
-#include <QSet>
+#include <QFile>
 
 #include <cstdio>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
-
-QString standardInputError(const QString& reason)
-{
-    return QCoreApplication::translate("cli::ImportInputs",
-                                       "Standard input cannot be kept for the import: %1.")
-        .arg(reason);
-}
-
-/// Copies standard input; returns why it failed, else nothing.
-QString spool(QTemporaryFile& file)
-{
-    QFile input;
-    if (!file.open() || !input.open(stdin, QIODevice::ReadOnly)) {
-        return standardInputError(file.errorString());
-    }
-    constexpr qint64 blockSize = 1024 * 1024;
-    qint64 total = 0;
-    for (QByteArray block = input.read(blockSize); !block.isEmpty();
-         block = input.read(blockSize)) {
-        total += block.size();
-        if (file.write(block) != block.size()) {
-            return standardInputError(file.errorString());
-        }
-        if (total > MaximumInputBytes) {
-            return standardInputError(
-                QCoreApplication::translate("cli::ImportInputs", "it is longer than any label"));
-        }
-    }
-    return file.flush() ? QString() : standardInputError(file.errorString());
-}
 
 void addStandardInput(ImportInputs& inputs)
 {
     inputs.standardInput = std::make_unique<QTemporaryFile>();
-    inputs.error = spool(*inputs.standardInput);
-    inputs.list.inputs.append({inputs.standardInput->fileName(), QStringLiteral("stdin"), {}});
+    inputs.error = console::copyStandardInput(*inputs.standardInput);
+    inputs.list.inputs.append({inputs.standardInput->fileName(), u"stdin"_s, {}});
 }
 
 /// The names of a list; `error` says why it could not be read.
 QStringList namesListedIn(const ImportOptions& options, QString& error)
 {
-    QFile list(options.filesFrom);
-    const bool isOpen = options.filesFrom == QLatin1String("-")
-                            ? list.open(stdin, QIODevice::ReadOnly)
-                            : list.open(QIODevice::ReadOnly);
+    const console::ReachablePath reachable(options.filesFrom);
+    QFile list(reachable.path());
+    const bool isOpen = options.filesFrom == "-"_L1 ? list.open(stdin, QIODevice::ReadOnly)
+                                                    : list.open(QIODevice::ReadOnly);
     if (!isOpen) {
         error = QCoreApplication::translate("cli::ImportInputs",
-                                            "The list of files %1 cannot be read: %2.")
+                                            "Cannot read the list of files \"%1\": %2.")
                     .arg(options.filesFrom, list.errorString());
         return {};
     }
-    return archive::readNames(list, options.isNullSeparated, error);
+    bool isNoList = false;
+    const QStringList names = archive::readNames(list, options.isNullSeparated, isNoList);
+    if (isNoList) {
+        error =
+            QCoreApplication::translate("cli::ImportInputs", "\"%1\" is not a list of file names.")
+                .arg(options.filesFrom);
+    }
+    return names;
 }
 
 } // namespace
@@ -72,20 +51,16 @@ ImportInputs findInputs(const ImportOptions& options)
     ImportInputs inputs;
     archive::InputRequest request;
     request.arguments = options.files;
-    const bool readsLabel = request.arguments.removeAll(QStringLiteral("-")) > 0;
+    const bool readsLabel = request.arguments.removeAll(u"-"_s) > 0;
     if (!options.filesFrom.isEmpty()) {
         request.arguments += namesListedIn(options, inputs.error);
     }
     request.suffixes = importedSuffixes();
     request.base = options.base;
     request.outputFolder = options.outputDir;
-    // Saved labels are outputs and inputs: those that we made here are not imported again.
-    const QSet<QString> saved =
-        archive::Journal::outputsIn(options.outputDir, QStringLiteral(".label"));
-    request.isOutput = [&saved](const QString& path) {
-        return !saved.isEmpty() &&
-               saved.contains(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
-    };
+    // Saved labels are both outputs and inputs: one that was made of another input of this command
+    // is not imported again.
+    request.sourcesOfOutputs = archive::Journal::sourcesOfOutputs(options.outputDir, u".label"_s);
     if (inputs.error.isEmpty()) {
         inputs.list = archive::listInputs(request);
     }
@@ -97,8 +72,15 @@ ImportInputs findInputs(const ImportOptions& options)
 
 QStringList importedSuffixes()
 {
-    return {QStringLiteral("cnv"), QStringLiteral("roc"), QStringLiteral("qmtx"),
-            QStringLiteral("odt"), QStringLiteral("odg"), QStringLiteral("label")};
+    QStringList suffixes;
+    for (const Reader& reader : Readers) {
+        for (const QLatin1String suffix : reader.suffixes) {
+            if (!suffix.isEmpty()) {
+                suffixes.append(suffix);
+            }
+        }
+    }
+    return suffixes + QStringList{u"label"_s};
 }
 
 } // namespace cli

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/import_options.h"
 #include "archive/input_list.h"
+#include "cli/import_options.h"
 
 #include <QString>
 #include <QTemporaryFile>
@@ -10,23 +10,20 @@
 
 namespace cli {
 
-/// Most bytes that are read from standard input.
-inline constexpr qint64 MaximumInputBytes = 1LL << 30;
-
-/// The files of a command, or why they cannot be told.
+/// The files of a command, or why they cannot be listed.
 struct ImportInputs
 {
     archive::InputList list;
-    /// Holds what came through standard input, while this lives.
+    /// The copy of standard input; removed with this object.
     std::unique_ptr<QTemporaryFile> standardInput;
     QString error;
 };
 
-/// Finds all files that a command is to import; reads lists, searches folders, and keeps
-/// what comes through standard input in a temporary file.
+/// Lists all files that a command imports: reads lists, searches folders, and copies standard
+/// input to a temporary file.
 [[nodiscard]] ImportInputs findInputs(const ImportOptions& options);
 
-/// The suffixes of the files that are taken from folders.
+/// The suffixes of the files that are taken from folders, without dots.
 [[nodiscard]] QStringList importedSuffixes();
 
 } // namespace cli

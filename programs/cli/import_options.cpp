@@ -1,7 +1,11 @@
 #include "cli/import_options.h"
 
-#include "cli/command_line.h"
-#include "cli/import_option_table.h"
+#include "archive/input_list.h"
+#include "cli/existing_output.h"
+#include "cli/option_table.h"
+#include "console/command_line.h"
+#include "console/file_name.h"
+#include "console/output.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -10,13 +14,14 @@
 #include <algorithm>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
 
-/// Fills the options from what was parsed; the first thing wrong is what is remembered.
-class Filling
+/// Reads the values of parsed options; keeps the first error.
+class OptionReader
 {
 public:
-    explicit Filling(const QCommandLineParser& parser)
+    explicit OptionReader(const QCommandLineParser& parser)
         : m_parser(parser)
     {}
 
@@ -35,7 +40,7 @@ public:
         const int value = text(name).toInt(&isNumber);
         if (!isNumber || value < least || value > most) {
             fail(QCoreApplication::translate("cli::ImportOptions",
-                                             "--%1 takes a whole number from %2 to %3, not "
+                                             "--%1 expects a whole number from %2 to %3, not "
                                              "\"%4\".")
                      .arg(name)
                      .arg(least)
@@ -57,174 +62,173 @@ private:
     QString m_error;
 };
 
-void takeTargets(Filling& given, ImportOptions& options)
+void takeTargets(OptionReader& given, ImportOptions& options)
 {
-    const QStringList lists = given.isSet(QLatin1String("to")) ? given.texts(QLatin1String("to"))
-                                                               : QStringList{QStringLiteral("png")};
-    for (const QString& name : lists.join(QLatin1Char(',')).split(QLatin1Char(','))) {
+    const QStringList lists = given.isSet("to"_L1) ? given.texts("to"_L1) : QStringList{u"png"_s};
+    for (const QString& name : lists.join(u',').split(u',')) {
         const std::optional<Target> target = targetOfName(name);
         if (!target) {
-            given.fail(
-                QCoreApplication::translate(
-                    "cli::ImportOptions", "\"%1\" is nothing that can be written; --to takes: %2.")
-                    .arg(name, targetNames().join(QStringLiteral(", "))));
+            given.fail(QCoreApplication::translate("cli::ImportOptions",
+                                                   "Unknown target \"%1\". Supported targets: %2.")
+                           .arg(name, targetNames().join(u", "_s)) +
+                       console::suggestion(name, targetNames()));
         } else if (!options.targets.contains(*target)) {
             options.targets.append(*target);
         }
     }
 }
 
-void takeRecords(Filling& given, ImportOptions& options)
+void takeRecords(OptionReader& given, ImportOptions& options)
 {
     const QLatin1String name("records");
-    const auto records = recordRangeOf(given.isSet(name) ? given.text(name) : QStringLiteral("1"));
+    const auto records = recordRangeOf(given.isSet(name) ? given.text(name) : u"1"_s);
     if (!records) {
         given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "--records takes a number, a range as 3-12 or 3-, "
-                                               "or all, not \"%1\".")
+                                               "--records expects a number, a range such as 3-12 "
+                                               "or 3-, or all, not \"%1\".")
                        .arg(given.text(name)));
     }
     options.job.records = records.value_or(RecordRange{});
 }
 
-void takeReader(Filling& given, ImportOptions& options)
+void takeReader(OptionReader& given, ImportOptions& options)
 {
     const QLatin1String name("reader");
     options.job.reader = readerOfName(given.text(name));
     if (given.isSet(name) && !options.job.reader) {
-        given.fail(unknownReaderWords(given.text(name)));
+        given.fail(unknownReaderMessage(given.text(name)));
     }
 }
 
-void takeShard(Filling& given, ImportOptions& options)
+void takeShard(OptionReader& given, ImportOptions& options)
 {
     const QLatin1String name("shard");
-    const auto shard =
-        archive::shardOf(given.isSet(name) ? given.text(name) : QStringLiteral("1/1"));
+    const auto shard = archive::shardOf(given.isSet(name) ? given.text(name) : u"1/1"_s);
     if (!shard) {
         given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "--shard takes a part and their number, as 3/8, "
-                                               "not \"%1\".")
+                                               "--shard expects the number of a part and of all "
+                                               "parts, such as 3/8, not \"%1\".")
                        .arg(given.text(name)));
     }
     options.shard = shard.value_or(archive::Shard{});
 }
 
-void takeReports(Filling& given, ImportOptions& options)
+void takeReports(OptionReader& given, ImportOptions& options)
 {
-    options.reports = given.texts(QLatin1String("report"));
+    options.reports = given.texts("report"_L1);
     for (const QString& report : options.reports) {
-        const bool isKnown = report.endsWith(QLatin1String(".json"), Qt::CaseInsensitive) ||
-                             report.endsWith(QLatin1String(".html"), Qt::CaseInsensitive);
-        if (!isKnown) {
-            given.fail(QCoreApplication::translate(
-                           "cli::ImportOptions",
-                           "A report is written to a file whose name ends in .json or .html, not "
-                           "to \"%1\".")
-                           .arg(report));
+        const QString problem = reportNameProblem(report);
+        if (!problem.isEmpty()) {
+            given.fail(problem);
         }
     }
-    options.failOnLoss = given.isSet(QLatin1String("fail-on-loss"));
+    options.failOnLoss = given.isSet("fail-on-loss"_L1);
     options.job.report = options.failOnLoss || !options.reports.isEmpty();
 }
 
-archive::WorkerLimits takeLimits(Filling& given)
+archive::WorkerLimits takeLimits(OptionReader& given)
 {
     archive::WorkerLimits limits;
-    limits.timeoutSeconds =
-        given.number(QLatin1String("timeout"), 0, MaximumTimeout, limits.timeoutSeconds);
-    limits.memoryMiB =
-        given.number(QLatin1String("memory-limit"), 0, MaximumMemory, limits.memoryMiB);
+    limits.timeoutSeconds = given.number("timeout"_L1, 0, MaximumTimeout, limits.timeoutSeconds);
+    limits.memoryMiB = given.number("memory-limit"_L1, 0, MaximumMemory, limits.memoryMiB);
     if (limits.memoryMiB > 0 && limits.memoryMiB < MinimumMemory) {
         given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "--memory-limit takes 0 or at least %1 MiB.")
+                                               "--memory-limit expects 0 or at least %1 MiB.")
                        .arg(MinimumMemory));
     }
     return limits;
 }
 
-void takeNumbers(Filling& given, ImportOptions& options)
+void takeNumbers(OptionReader& given, ImportOptions& options)
 {
-    options.job.dpi = given.number(QLatin1String("dpi"), MinimumDpi, MaximumDpi, options.job.dpi);
-    options.workers = given.number(QLatin1String("jobs"), 1, MaximumWorkers,
+    options.job.dpi = given.number("dpi"_L1, MinimumDpi, MaximumDpi, options.job.dpi);
+    options.workers = given.number("jobs"_L1, 1, MaximumWorkers,
                                    std::clamp(QThread::idealThreadCount(), 1, MaximumWorkers));
     options.limits = takeLimits(given);
 }
 
-void checkInputs(Filling& given, const ImportOptions& options)
+/// Whether --base changes the folder of a named file. Lists are read later; their names count.
+bool hasEffect(const QString& base, const ImportOptions& options)
 {
-    const bool readsLabel = options.files.contains(QLatin1String("-"));
+    return !options.filesFrom.isEmpty() ||
+           std::any_of(options.files.begin(), options.files.end(), [&](const QString& file) {
+               return file != "-"_L1 && console::kindOf(file) != console::FileKind::Folder &&
+                      !archive::folderBelow(base, file).isEmpty();
+           });
+}
+
+void checkInputs(OptionReader& given, const ImportOptions& options)
+{
+    const auto fail = [&given](const char* text) {
+        given.fail(QCoreApplication::translate("cli::ImportOptions", text));
+    };
+    const bool readsLabel = options.files.contains("-"_L1);
     if (options.files.isEmpty() && options.filesFrom.isEmpty()) {
-        given.fail(
-            QCoreApplication::translate("cli::ImportOptions", "No file to import was given."));
+        fail(QT_TRANSLATE_NOOP("cli::ImportOptions", "No file to import."));
     }
-    if (readsLabel && options.filesFrom == QLatin1String("-")) {
-        given.fail(QCoreApplication::translate(
-            "cli::ImportOptions",
-            "Standard input can be a label or a list of files, but not both."));
+    if (readsLabel && options.filesFrom == "-"_L1) {
+        fail(QT_TRANSLATE_NOOP("cli::ImportOptions",
+                               "Standard input can be a label or a list of files, but not both."));
     }
-    if (readsLabel && !options.job.reader) {
-        given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "Standard input has no name, so --reader must say "
-                                               "what it is: %1.")
-                       .arg(readerNames().join(QStringLiteral(", "))));
+    if (given.texts("files-from"_L1).size() > 1) {
+        fail(QT_TRANSLATE_NOOP("cli::ImportOptions", "--files-from can be given only once."));
+    }
+    if (options.isNullSeparated && options.filesFrom.isEmpty()) {
+        fail(QT_TRANSLATE_NOOP("cli::ImportOptions", "--null has no effect without --files-from."));
+    }
+    if (given.isSet("base"_L1) && !hasEffect(options.base, options)) {
+        fail(QT_TRANSLATE_NOOP("cli::ImportOptions",
+                               "--base has no effect without --files-from or a named file in a "
+                               "subfolder of that folder."));
     }
 }
 
-ImportOptions optionsFrom(Filling& given, const QStringList& files)
+ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
 {
     ImportOptions options;
     options.files = files;
-    options.filesFrom = given.text(QLatin1String("files-from"));
-    options.isNullSeparated = given.isSet(QLatin1String("null"));
-    options.base = given.text(QLatin1String("base"));
+    options.filesFrom = given.text("files-from"_L1);
+    options.isNullSeparated = given.isSet("null"_L1);
+    options.base = given.text("base"_L1);
     takeTargets(given, options);
     takeRecords(given, options);
     takeNumbers(given, options);
     takeReader(given, options);
     checkInputs(given, options);
-    options.outputDir = given.isSet(QLatin1String("output-dir"))
-                            ? given.text(QLatin1String("output-dir"))
-                            : QStringLiteral(".");
+    options.outputDir = given.isSet("output-dir"_L1) ? given.text("output-dir"_L1) : u"."_s;
     takeShard(given, options);
     takeReports(given, options);
-    options.job.force = given.isSet(QLatin1String("force"));
-    options.resume = given.isSet(QLatin1String("resume"));
-    options.quiet = given.isSet(QLatin1String("quiet"));
+    options.job.force = given.isSet("force"_L1);
+    options.resume = given.isSet("resume"_L1);
+    options.quiet = given.isSet("quiet"_L1);
+    options.endsNamesWithNull = given.isSet("print0"_L1);
     return options;
 }
 
 } // namespace
 
-std::variant<ImportOptions, HelpWanted, UsageError>
-parseImportArguments(const QStringList& arguments)
+std::variant<ImportOptions, int> parseImportArguments(const QStringList& arguments)
 {
-    // No translation: it is typed so.
-    const QString command = QStringLiteral("labelport import");
+    const QString command = u"labelport import"_s;
     QCommandLineParser parser;
-    addImportOptions(parser);
-    if (!parser.parse(QStringList{command} + arguments)) {
-        return UsageError{parser.errorText()};
+    describeCommand(parser, commandOf("import"));
+    if (const std::optional<int> status = console::parseCommand(parser, command, arguments)) {
+        return *status;
     }
-    if (parser.isSet(QStringLiteral("help"))) {
-        return HelpWanted{helpOf(parser, command)};
-    }
-    Filling given(parser);
+    OptionReader given(parser);
     ImportOptions options = optionsFrom(given, parser.positionalArguments());
     if (!given.error().isEmpty()) {
-        return UsageError{given.error()};
+        return console::refuseArguments(command, given.error());
     }
     return options;
 }
 
-std::variant<archive::WorkerLimits, UsageError> limitsOf(const QCommandLineParser& parser)
+std::optional<archive::WorkerLimits> limitsOf(const QCommandLineParser& parser, QString& error)
 {
-    Filling given(parser);
+    OptionReader given(parser);
     const archive::WorkerLimits limits = takeLimits(given);
-    if (!given.error().isEmpty()) {
-        return UsageError{given.error()};
-    }
-    return limits;
+    error = given.error();
+    return error.isEmpty() ? std::optional(limits) : std::nullopt;
 }
 
 } // namespace cli

@@ -1,26 +1,27 @@
 #pragma once
 
+#include "archive/shard.h"
+#include "archive/worker_end.h"
 #include "cli/job_options.h"
 #include "cli/targets.h"
-#include "archive/shard.h"
-#include "archive/worker_death.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <variant>
 
 class QCommandLineParser;
 
 namespace cli {
 
-/// What `labelport import` was asked to do.
+/// The arguments of `labelport import`.
 struct ImportOptions
 {
     QStringList files;            ///< files and folders; "-" is standard input
-    QString filesFrom;            ///< list of further ones, "-" for standard input; empty for none
-    bool isNullSeparated = false; ///< of that list
+    QString filesFrom;            ///< list of further files; "-" is standard input; empty for none
+    bool isNullSeparated = false; ///< names of that list end with NUL
     QString base;                 ///< named files below it keep their subfolders; empty for none
     QList<Target> targets;        ///< in the order given, each once
     QString outputDir;            ///< the current folder when it was not given
@@ -30,37 +31,26 @@ struct ImportOptions
     archive::Shard shard;
     bool resume = false;
     bool quiet = false;
-    QStringList reports; ///< files to write a report to
+    bool endsNamesWithNull = false; ///< names on standard output
+    QStringList reports;            ///< files to write a report to
     bool failOnLoss = false;
 };
 
-/// The user asked for the command's help.
-struct HelpWanted
-{
-    QString text;
-};
-
-/// The command line was wrong; the message says how.
-struct UsageError
-{
-    QString message;
-};
-
-/// Least and most dots per inch that a picture may be asked for.
+/// Range of --dpi.
 inline constexpr int MinimumDpi = 10;
 inline constexpr int MaximumDpi = 2400;
 inline constexpr int MaximumWorkers = 1024;
 inline constexpr int MaximumTimeout = 1'000'000;
-/// Least memory of a worker, in MiB: it has to start.
+/// MiB. A worker needs the minimum to start.
 inline constexpr int MinimumMemory = 128;
 inline constexpr int MaximumMemory = 16'777'216;
 
-/// Reads the arguments that follow `labelport import`.
-[[nodiscard]] std::variant<ImportOptions, HelpWanted, UsageError>
-parseImportArguments(const QStringList& arguments);
+/// Reads the arguments after `labelport import`. If there is nothing to import (help was shown, or
+/// the arguments were wrong and that was reported), returns the exit status.
+[[nodiscard]] std::variant<ImportOptions, int> parseImportArguments(const QStringList& arguments);
 
-/// What --timeout and --memory-limit were given to a command that has them.
-[[nodiscard]] std::variant<archive::WorkerLimits, UsageError>
-limitsOf(const QCommandLineParser& parser);
+/// The values of --timeout and --memory-limit; empty if one is wrong.
+[[nodiscard]] std::optional<archive::WorkerLimits> limitsOf(const QCommandLineParser& parser,
+                                                            QString& error);
 
 } // namespace cli

@@ -1,10 +1,10 @@
 #include "cli/import_worker.h"
 
+#include "archive/memory_limit.h"
 #include "cli/file_reports.h"
 #include "cli/job_options.h"
+#include "cli/label_input.h"
 #include "cli/label_writer.h"
-#include "cli/opened_label.h"
-#include "archive/memory_bound.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -12,6 +12,7 @@
 #include <new>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
 
 QStringList warningsOf(const OpenedLabel& label)
@@ -28,10 +29,10 @@ QStringList warningsOf(const OpenedLabel& label)
 }
 
 void writeAll(OpenedLabel& label, const archive::Job& job, const JobOptions& options,
-              const archive::SignOfLife& alive, archive::FileResult& result)
+              const archive::Heartbeat& heartbeat, archive::FileResult& result)
 {
     LabelWriter writer(label, {options.dpi, options.records, options.force, job.known}, job.staging,
-                       alive);
+                       heartbeat);
     for (const archive::PlannedFile& output : job.outputs) {
         const std::optional<Target> target = targetOfName(output.target);
         if (target) {
@@ -42,46 +43,50 @@ void writeAll(OpenedLabel& label, const archive::Job& job, const JobOptions& opt
     }
 }
 
-archive::FileResult importFile(const archive::Job& job, const archive::SignOfLife& alive)
+/// One file: select the reader, import, describe and compare, write.
+archive::FileResult importFile(const archive::Job& job, const archive::Heartbeat& heartbeat)
 {
     const JobOptions options = jobOptionsFromJson(job.options);
+    const LabelInput input(job.file, job.shownName, options.reader);
+    OpenedLabel label = openLabel(input);
+    heartbeat();
     archive::FileResult result;
-    OpenedLabel label = openAnyLabel(job.file, options.reader);
-    alive();
     result.warnings = warningsOf(label);
     if (options.report) {
-        // Before anything is written: that brings other records on the canvas.
-        result.report = migration::toJson(reportOn(label, job, options.items));
-        alive();
+        // Before anything is written, because that shows other records on the canvas.
+        result.report = migration::toJson(reportOn(input, label, job.shownName, options.items));
+        heartbeat();
     }
     if (label.isOpen()) {
-        writeAll(label, job, options, alive, result);
-        result.fate = result.errors.isEmpty() ? archive::Fate::Done : archive::Fate::Failed;
+        writeAll(label, job, options, heartbeat, result);
+        result.outcome =
+            result.errors.isEmpty() ? archive::FileOutcome::Done : archive::FileOutcome::Failed;
     } else {
-        result.errors.append(label.error);
-        result.fate = label.isOutOfMemory ? archive::Fate::OutOfMemory : archive::Fate::Failed;
+        result.errors.append(label.error.replace(input.path(), job.file));
+        result.outcome =
+            label.isOutOfMemory ? archive::FileOutcome::OutOfMemory : archive::FileOutcome::Failed;
     }
     return result;
 }
 
 } // namespace
 
-archive::FileResult importJob(const archive::Job& job, const archive::SignOfLife& alive)
+archive::FileResult importJob(const archive::Job& job, const archive::Heartbeat& heartbeat)
 {
     try {
-        archive::FileResult result = importFile(job, alive);
-        // No event loop runs here, and what is to be deleted by one would wait for ever.
+        archive::FileResult result = importFile(job, heartbeat);
+        // No event loop runs here that would delete these objects.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return result;
     } catch (const std::bad_alloc&) {
-        archive::endForWantOfMemory();
+        archive::exitOutOfMemory();
     }
 }
 
 archive::WorkerCommand workerCommand(int memoryMiB)
 {
-    // The very file that runs now, even if a new version has taken its name meanwhile.
-    return {QStringLiteral("/proc/self/exe"),
+    // The program that runs now, even if a new version has replaced the file.
+    return {u"/proc/self/exe"_s,
             {QString::fromLatin1(WorkerCommandName), QString::number(memoryMiB)}};
 }
 

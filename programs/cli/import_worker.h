@@ -9,11 +9,11 @@ namespace cli {
 
 /// Imports one file and writes its outputs to the job's staging folder.
 [[nodiscard]] archive::FileResult importJob(const archive::Job& job,
-                                            const archive::SignOfLife& alive);
+                                            const archive::Heartbeat& heartbeat);
 
 /// Runs `labelport worker`, which the program starts itself: imports files for a coordinator.
 ///
-/// @param arguments the bound of its memory in MiB
+/// @param arguments the memory limit in MiB
 /// @return the program's exit status
 [[nodiscard]] int runImportWorker(const QStringList& arguments);
 

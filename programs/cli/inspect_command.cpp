@@ -1,22 +1,23 @@
-#include "cli/inspect_command.h"
-
-#include "cli/command_line.h"
-#include "cli/exit_status.h"
+#include "archive/worker_pool.h"
+#include "cli/commands.h"
 #include "cli/file_reports.h"
-#include "cli/import_option_table.h"
 #include "cli/import_options.h"
 #include "cli/import_worker.h"
 #include "cli/job_options.h"
-#include "cli/messages.h"
-#include "archive/worker_pool.h"
+#include "cli/option_table.h"
+#include "console/command_line.h"
+#include "console/output.h"
+#include "console/standard_input.h"
 #include "migration/report/text_report.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QJsonDocument>
+#include <QTemporaryFile>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
 
 QString tr(const char* text)
@@ -24,33 +25,17 @@ QString tr(const char* text)
     return QCoreApplication::translate("cli::InspectCommand", text);
 }
 
-void addOptions(QCommandLineParser& parser)
-{
-    parser.setApplicationDescription(tr(
-        "Tells what one label holds, what of it comes over and what does not. Writes nothing.\n\n"
-        "Examples:\n"
-        "  labelport inspect shelf.odg\n"
-        "  labelport inspect shelf.odg --json | jq .lost"));
-    parser.addPositionalArgument(QStringLiteral("file"), tr("Label to look into."),
-                                 QStringLiteral("FILE"));
-    parser.addOption({QStringLiteral("json"), tr("Tell it as JSON, as reports have it.")});
-    parser.addOption({QStringLiteral("reader"),
-                      tr("Read the file as tavrel, orvanta or opendocument, "
-                         "whatever its name."),
-                      tr("name")});
-    addLimitOptions(parser);
-}
-
-/// One file for one worker, so that whatever it holds cannot harm more than that.
+/// One file in a worker process, so that a bad file cannot crash the program.
 class Inspection final : public archive::PoolClient
 {
 public:
-    Inspection(const QString& file, const JobOptions& options, const archive::WorkerLimits& limits)
+    Inspection(const archive::Input& input, const JobOptions& options,
+               const archive::WorkerLimits& limits)
         : m_limits(limits)
     {
-        m_job.file = file;
-        m_job.shownName = file;
-        m_job.options = decisiveOptions(options);
+        m_job.file = input.path;
+        m_job.shownName = input.shownName;
+        m_job.options = outputOptions(options);
         const QJsonObject others = otherOptions(options);
         for (auto entry = others.begin(); entry != others.end(); ++entry) {
             m_job.options.insert(entry.key(), entry.value());
@@ -64,7 +49,7 @@ public:
         for (const auto end : {&archive::WorkerPool::drained, &archive::WorkerPool::broken}) {
             QObject::connect(&pool, end, &loop, &QEventLoop::quit, Qt::QueuedConnection);
         }
-        m_result.errors = {tr("the process that opens it cannot be started")};
+        m_result.errors = {tr("Cannot start the worker process.")};
         pool.start();
         loop.exec();
         return m_result;
@@ -82,15 +67,15 @@ public:
         if (const std::optional<archive::FileResult> result = archive::resultFromLine(line)) {
             m_result = *result;
         } else {
-            taskDied(task, {archive::WorkerDeath::Garbled, 0});
+            taskFailed(task, {archive::WorkerEnd::Garbled, 0});
         }
         return 0;
     }
 
-    void taskDied(qsizetype, const archive::WorkerDeath& death) override
+    void taskFailed(qsizetype, const archive::WorkerEnd& end) override
     {
-        m_result.fate = archive::fateOf(death);
-        m_result.errors = QStringList{archive::wordsFor(death, m_limits)};
+        m_result.outcome = archive::outcomeOf(end);
+        m_result.errors = QStringList{archive::messageFor(end, m_limits)};
     }
 
 private:
@@ -100,48 +85,65 @@ private:
     int m_taken = 0;
 };
 
-int tell(const QString& file, const archive::FileResult& result, bool asJson)
+int print(const archive::Input& input, const archive::FileResult& result, bool asJson)
 {
-    const archive::Input input{file, file, {}};
     const migration::FileReport report = finalReport({input, result, {}, false});
     if (asJson) {
-        printText(QString::fromUtf8(
-            QJsonDocument(migration::toJson(report)).toJson(QJsonDocument::Indented)));
+        console::printBytes(
+            QJsonDocument(migration::toJson(report)).toJson(QJsonDocument::Indented));
     } else {
-        printText(migration::describeForPeople(report));
+        console::printText(migration::describeForPeople(report));
     }
-    return result.fate == archive::Fate::Done ? ExitSuccess : ExitFailure;
+    return result.outcome == archive::FileOutcome::Done ? console::ExitSuccess
+                                                        : console::ExitFailure;
+}
+
+/// The options of the file; empty, with the reason in `error`, if they are wrong.
+std::optional<JobOptions> optionsOf(const QCommandLineParser& parser, QString& error)
+{
+    JobOptions options;
+    options.report = true;
+    options.items = true;
+    const QString reader = parser.value(u"reader"_s);
+    options.reader = readerOfName(reader);
+    if (parser.isSet(u"reader"_s) && !options.reader) {
+        error = unknownReaderMessage(reader);
+        return std::nullopt;
+    }
+    return options;
 }
 
 } // namespace
 
 int runInspect(const QStringList& arguments)
 {
-    // No translation: it is typed so.
-    const QString command = QStringLiteral("labelport inspect");
+    const QString command = u"labelport inspect"_s;
     QCommandLineParser parser;
-    addOptions(parser);
-    if (const std::optional<int> status = parseCommand(parser, command, arguments)) {
+    describeCommand(parser, commandOf("inspect"));
+    if (const std::optional<int> status = console::parseCommand(parser, command, arguments)) {
         return *status;
     }
     const QStringList files = parser.positionalArguments();
-    if (files.size() != 1) {
-        return refuseArguments(command, tr("It takes one file."));
+    QString error = files.size() == 1 ? QString() : tr("inspect needs exactly one file.");
+    const std::optional<JobOptions> options =
+        error.isEmpty() ? optionsOf(parser, error) : std::nullopt;
+    const std::optional<archive::WorkerLimits> limits =
+        options ? limitsOf(parser, error) : std::nullopt;
+    if (!limits) {
+        return console::refuseArguments(command, error);
     }
-    JobOptions options;
-    options.report = true;
-    options.items = true;
-    const QString reader = parser.value(QStringLiteral("reader"));
-    options.reader = readerOfName(reader);
-    if (!reader.isEmpty() && !options.reader) {
-        return refuseArguments(command, unknownReaderWords(reader));
+    archive::Input input{files.first(), files.first(), {}};
+    QTemporaryFile standardInput;
+    if (files.first() == "-"_L1) {
+        error = console::copyStandardInput(standardInput);
+        input = {standardInput.fileName(), u"stdin"_s, {}};
     }
-    const auto limits = limitsOf(parser);
-    if (const auto* error = std::get_if<UsageError>(&limits)) {
-        return refuseArguments(command, error->message);
+    if (!error.isEmpty()) {
+        console::printMessage(error);
+        return console::ExitFailure;
     }
-    Inspection inspection(files.first(), options, std::get<archive::WorkerLimits>(limits));
-    return tell(files.first(), inspection.run(), parser.isSet(QStringLiteral("json")));
+    Inspection inspection(input, *options, *limits);
+    return print(input, inspection.run(), parser.isSet(u"json"_s));
 }
 
 } // namespace cli

@@ -1,10 +1,11 @@
 #include "cli/job_options.h"
 
+#include "console/command_line.h"
+
 #include <QCoreApplication>
 
-#include <array>
-
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String DpiKey("dpi");
@@ -15,28 +16,16 @@ constexpr QLatin1String ForceKey("force");
 constexpr QLatin1String ReportKey("report");
 constexpr QLatin1String ItemsKey("items");
 
-struct ReaderRow
-{
-    ReaderKind reader;
-    const char* name;
-};
-
-constexpr std::array ReaderRows{
-    ReaderRow{ReaderKind::Tavrel, "tavrel"},
-    ReaderRow{ReaderKind::Orvanta, "orvanta"},
-    ReaderRow{ReaderKind::OpenDocument, "opendocument"},
-};
-
 } // namespace
 
-QJsonObject decisiveOptions(const JobOptions& options)
+QJsonObject outputOptions(const JobOptions& options)
 {
     QJsonObject object{{DpiKey, options.dpi}, {FirstKey, options.records.first}};
     if (options.records.last) {
         object.insert(LastKey, *options.records.last);
     }
     if (options.reader) {
-        object.insert(ReaderKey, nameOf(*options.reader));
+        object.insert(ReaderKey, readerOf(*options.reader).name);
     }
     return object;
 }
@@ -62,38 +51,20 @@ JobOptions jobOptionsFromJson(const QJsonObject& object)
     return options;
 }
 
-std::optional<ReaderKind> readerOfName(const QString& name)
+QString unknownReaderMessage(const QString& name)
 {
-    for (const ReaderRow& row : ReaderRows) {
-        if (name == QLatin1String(row.name)) {
-            return row.reader;
-        }
-    }
-    return std::nullopt;
-}
-
-QString nameOf(ReaderKind reader)
-{
-    for (const ReaderRow& row : ReaderRows) {
-        if (row.reader == reader) {
-            return QLatin1String(row.name);
-        }
-    }
-    return {};
-}
-
-QString unknownReaderWords(const QString& name)
-{
+    const QStringList names = readerNames();
     return QCoreApplication::translate("cli::JobOptions",
-                                       "\"%1\" is no reader; --reader takes: %2.")
-        .arg(name, readerNames().join(QStringLiteral(", ")));
+                                       "Unknown reader \"%1\". Supported readers: %2.")
+               .arg(name, names.join(u", "_s)) +
+           console::suggestion(name, names);
 }
 
 QStringList readerNames()
 {
     QStringList names;
-    for (const ReaderRow& row : ReaderRows) {
-        names.append(QLatin1String(row.name));
+    for (const Reader& reader : Readers) {
+        names.append(reader.name);
     }
     return names;
 }

@@ -11,29 +11,26 @@
 
 namespace cli {
 
-/// How each file is imported and written: what a worker is told besides names.
+/// How each file is imported and written: what a worker needs besides names.
 struct JobOptions
 {
     int dpi = 300;
     RecordRange records;
-    std::optional<ReaderKind> reader; ///< none: the name decides
-    bool force = false;               ///< overwrite what is not ours
+    std::optional<ReaderKind> reader; ///< empty: selected by name or content
+    bool force = false;               ///< overwrite files that are not ours
     bool report = false;              ///< report on the file
     bool items = false;               ///< list every item in the report
 };
 
-/// The options that decide about what is written.
-[[nodiscard]] QJsonObject decisiveOptions(const JobOptions& options);
-/// The others.
+/// The options that have an influence on the outputs.
+[[nodiscard]] QJsonObject outputOptions(const JobOptions& options);
+/// The other options.
 [[nodiscard]] QJsonObject otherOptions(const JobOptions& options);
 /// Reads both, from one object.
 [[nodiscard]] JobOptions jobOptionsFromJson(const QJsonObject& object);
 
-/// The names by which readers are chosen.
-[[nodiscard]] std::optional<ReaderKind> readerOfName(const QString& name);
-[[nodiscard]] QString nameOf(ReaderKind reader);
+/// The names that --reader accepts.
 [[nodiscard]] QStringList readerNames();
-/// What is said of a name that is none, for a person.
-[[nodiscard]] QString unknownReaderWords(const QString& name);
+[[nodiscard]] QString unknownReaderMessage(const QString& name);
 
 } // namespace cli

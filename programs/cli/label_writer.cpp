@@ -2,7 +2,7 @@
 
 #include "archive/publish.h"
 #include "cli/existing_output.h"
-#include "cli/opened_label.h"
+#include "cli/label_input.h"
 #include "workbench/document/label_file.h"
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"
@@ -12,8 +12,10 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <climits>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
 
 struct Words
@@ -33,17 +35,20 @@ Records recordsOf(const OpenedLabel& label, const RecordRange& range)
 {
     const qint64 available = label.datasources->recordCount();
     if (range.first > available) {
+        const int count = static_cast<int>(std::min<qint64>(available, INT_MAX));
         return {0, 0,
-                Words::tr("it has only %1 records, none with the number %2")
-                    .arg(available)
+                QCoreApplication::translate("cli::LabelWriter",
+                                            "The label has only %n record(s); record %1 does not "
+                                            "exist.",
+                                            nullptr, count)
                     .arg(range.first)};
     }
     const qint64 last = std::min(range.last.value_or(available), available);
     const qint64 count = last - range.first + 1;
     if (count > MaximumRecords) {
         return {0, 0,
-                Words::tr("%1 records are more than the %2 that one command writes; name a "
-                          "part of them with --records")
+                Words::tr("%1 records are more than the %2 that one command writes; select a "
+                          "range with --records.")
                     .arg(count)
                     .arg(MaximumRecords)};
     }
@@ -53,7 +58,7 @@ Records recordsOf(const OpenedLabel& label, const RecordRange& range)
 QString numbered(const QString& output, qint64 record)
 {
     const QFileInfo info(output);
-    const QString number = QStringLiteral("-%1.").arg(record + 1, 4, 10, QLatin1Char('0'));
+    const QString number = u"-%1."_s.arg(record + 1, 4, 10, QLatin1Char('0'));
     return QDir::cleanPath(info.dir().filePath(info.completeBaseName() + number + info.suffix()));
 }
 
@@ -69,8 +74,8 @@ QString writePicture(const workbench::Canvas& canvas, const QString& output, int
     if (!page.error.isEmpty()) {
         return page.error;
     }
-    // No translation: it says in the picture whose it is.
-    page.image.setText(QStringLiteral("Software"), QLatin1String(SoftwareMark));
+    // Identifies our outputs; not translated.
+    page.image.setText(u"Software"_s, QLatin1String(SoftwareMark));
     return workbench::writePng(page.image, output);
 }
 
@@ -83,7 +88,8 @@ QString writeOne(const OpenedLabel& label, Target target, const QString& output,
     case Target::Svg:
         return workbench::writeSvg(*label.canvas, output, title);
     case Target::Label:
-        return workbench::document::saveLabel(output, *label.canvas, *label.datasources);
+        return workbench::document::saveLabel(output, *label.canvas, *label.datasources,
+                                              workbench::document::Origin::Import);
     case Target::Pdf:
         break;
     }
@@ -93,17 +99,18 @@ QString writeOne(const OpenedLabel& label, Target target, const QString& output,
 } // namespace
 
 LabelWriter::LabelWriter(OpenedLabel& label, WriteOptions options, const QString& staging,
-                         archive::SignOfLife alive)
+                         archive::Heartbeat heartbeat)
     : m_label(label)
     , m_options(std::move(options))
     , m_staging(staging)
-    , m_alive(std::move(alive))
+    , m_reachable(staging)
+    , m_heartbeat(std::move(heartbeat))
 {}
 
 Written LabelWriter::write(Target target, const QString& output)
 {
     if (target == Target::Label) {
-        // All records are in it, whatever was asked of pictures.
+        // Contains all records, whatever --records selects.
         return writeFile(output, [&](const QString& file) {
             return writeOne(m_label, target, file, titleOf(output), m_options.dpi);
         });
@@ -118,17 +125,22 @@ Written LabelWriter::write(Target target, const QString& output)
 
 Written LabelWriter::writeFile(const QString& output, const Write& write)
 {
+    if (console::kindOf(output) == console::FileKind::Folder) {
+        return {{}, archive::folderInPlaceMessage(output)};
+    }
     if (!m_options.force && !mayOverwrite(output, m_options.known)) {
-        return {{}, archive::notOursWords(output)};
+        return {{}, archive::foreignFileMessage(output)};
     }
-    const bool mayReplace = m_options.force || QFileInfo::exists(output);
-    const QString staged = QDir(m_staging).filePath(
-        QStringLiteral("%1.%2").arg(++m_written).arg(QFileInfo(output).suffix()));
-    QString error = write(staged);
-    m_alive();
+    const bool mayReplace =
+        m_options.force || console::kindOf(output) != console::FileKind::Missing;
+    const QString name = u"%1.%2"_s.arg(++m_written).arg(QFileInfo(output).suffix());
+    const QString path = QDir(m_reachable.path()).filePath(name);
+    QString error = write(path);
+    m_heartbeat();
     if (!error.isEmpty()) {
-        return {{}, error.replace(staged, output)};
+        return {{}, error.replace(path, output)};
     }
+    const QString staged = QDir(m_staging).filePath(name);
     archive::FileStamp stamp = archive::stampOf(staged).value_or(archive::FileStamp{});
     stamp.path = output;
     return {{{staged, stamp, mayReplace}}, {}};
@@ -139,7 +151,7 @@ Written LabelWriter::writeDocument(const QString& output, qint64 first, qint64 c
     return writeFile(output, [&](const QString& file) {
         return workbench::writePdf(*m_label.canvas, file, titleOf(output), count, [&](qint64 page) {
             m_label.showRecord(first + page);
-            m_alive();
+            m_heartbeat();
             return true;
         });
     });

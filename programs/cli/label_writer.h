@@ -4,6 +4,7 @@
 #include "archive/worker_loop.h"
 #include "cli/record_range.h"
 #include "cli/targets.h"
+#include "console/file_name.h"
 
 #include <QList>
 #include <QString>
@@ -19,28 +20,28 @@ struct WriteOptions
 {
     int dpi = 300;
     RecordRange records;
-    bool force = false;              ///< write over whatever is there
-    QList<archive::FileStamp> known; ///< outputs of an earlier command, which may be written over
+    bool force = false;              ///< overwrite any file
+    QList<archive::FileStamp> known; ///< outputs of earlier commands, which may be overwritten
 };
 
-/// What became of one output.
+/// The result of writing one output.
 struct Written
 {
-    QList<archive::StagedFile> files; ///< what was written, in order
-    QString error;                    ///< why it went no further; empty when all was written
+    QList<archive::StagedFile> files; ///< in the order in which they were written
+    QString error;                    ///< why not all files were written; else empty
 };
 
-/// Writes a label to a staging folder, as one target after the other.
+/// Writes a label to a staging folder, one target after the other.
 class LabelWriter
 {
 public:
     /// @param label   must outlive the writer
     /// @param staging an empty folder
-    /// @param alive   called whenever a file or page is done
+    /// @param heartbeat   called after each file and page
     LabelWriter(OpenedLabel& label, WriteOptions options, const QString& staging,
-                archive::SignOfLife alive);
+                archive::Heartbeat heartbeat);
 
-    /// @param output where the file is to stand in the end; the files of a series of pictures
+    /// @param output final path of the file; the files of a series of pictures
     ///        or drawings carry the record's number before the suffix, "asset-0007.png"
     [[nodiscard]] Written write(Target target, const QString& output);
 
@@ -55,7 +56,8 @@ private:
     OpenedLabel& m_label;
     WriteOptions m_options;
     QString m_staging;
-    archive::SignOfLife m_alive;
+    console::ReachablePath m_reachable; ///< the staging folder, for Qt's file classes
+    archive::Heartbeat m_heartbeat;
     int m_written = 0;
 };
 

@@ -1,14 +1,11 @@
 // labelport: the command line of LabelPort.
 
-#include "cli/exit_status.h"
-#include "cli/formats_command.h"
-#include "cli/import_command.h"
+#include "archive/memory_limit.h"
+#include "cli/commands.h"
 #include "cli/import_worker.h"
-#include "cli/inspect_command.h"
-#include "cli/messages.h"
-#include "cli/report_command.h"
-#include "cli/trace_command.h"
-#include "archive/memory_bound.h"
+#include "cli/option_table.h"
+#include "console/command_line.h"
+#include "console/output.h"
 #include "translations/program_language.h"
 
 #include <QApplication>
@@ -21,14 +18,15 @@
 #include <langinfo.h>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 struct Words
 {
     Q_DECLARE_TR_FUNCTIONS(cli::Main)
 };
 
-/// File names and messages are UTF-8 even where the environment names no locale at all; Qt
-/// would switch by itself, but with a warning.
+/// File names and messages are UTF-8 even if the environment names no locale. Qt would switch by
+/// itself, but with a warning.
 void chooseUtf8Locale()
 {
     std::setlocale(LC_CTYPE, "");
@@ -37,20 +35,17 @@ void chooseUtf8Locale()
     }
 }
 
-const char* const HelpText =
+const char* const HelpStart =
     QT_TRANSLATE_NOOP("cli::Main", R"(Usage: labelport COMMAND [ARGUMENT...]
 
-Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
-LabelPort: *.label. Each command tells more with --help.
+Imports legacy label templates (*.cnv and *.roc, *.qmtx, *.odt and *.odg) and opens labels saved by
+LabelPort (*.label). Help of a command: labelport COMMAND --help
 
 Commands:
-  import FILE...   import labels, or folders of them, and write what they show
-  inspect FILE     tell what a label holds, and what of it comes over
-  report merge     put the reports of several imports together
-  formats          tell what is read and what can be written
-  trace FILE       print every call that an import makes on its host, as JSON lines
+)");
 
-  --help           show this text
+const char* const HelpEnd = QT_TRANSLATE_NOOP("cli::Main", R"(
+  --help           show this help
   --version        show the version
 
 Examples:
@@ -60,26 +55,30 @@ Examples:
   labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Exit status: 0 all went well, 1 something failed, 2 wrong usage, 3 something was lost
+Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
 (import --fail-on-loss), 130 stopped by a signal.
 )");
 
-QStringList argumentsOf(int argc, char** argv)
+QString helpText()
 {
-    QStringList arguments;
-    for (int index = 1; index < argc; ++index) {
-        arguments.append(QString::fromLocal8Bit(argv[index]));
+    QString text = Words::tr(HelpStart);
+    for (const cli::Command& command : cli::commands()) {
+        QString usage = QLatin1String(command.name);
+        if (command.argument != nullptr) {
+            usage += u' ' + QString::fromLatin1(command.argument).section(u' ', 0, 0);
+        }
+        text += u"  %1 %2\n"_s.arg(usage, -16).arg(cli::translated(command.summary));
     }
-    return arguments;
+    return text + Words::tr(HelpEnd);
 }
 
 void setUpApplication()
 {
-    // What goes wrong is told in words of our own; QT_LOGGING_RULES brings the rest back.
+    // Errors are reported in messages of our own; QT_LOGGING_RULES enables the log again.
     QLoggingCategory::setFilterRules(
-        QStringLiteral("*.debug=false\n*.info=false\n*.warning=false\nlabelport*=false"));
-    QCoreApplication::setApplicationName(QStringLiteral("labelport"));
-    QCoreApplication::setOrganizationName(QStringLiteral("LabelPort"));
+        u"*.debug=false\n*.info=false\n*.warning=false\nlabelport*=false"_s);
+    QCoreApplication::setApplicationName(u"labelport"_s);
+    QCoreApplication::setOrganizationName(u"LabelPort"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
 }
 
@@ -88,18 +87,17 @@ QStringList wantedLanguages()
     return translations::wantedLanguages(QProcessEnvironment::systemEnvironment());
 }
 
-/// Whether JSON is asked for. Other programs read it, so it is the same in every language; and
-/// because what a command says to people goes into it, the command speaks English then.
+/// Whether the command writes JSON. Other programs read it, so it is the same in every language;
+/// and because messages of the command go into it, the command speaks English then.
 bool writesJson(const QStringList& arguments)
 {
     const auto isJson = [](const QString& name) {
-        return name.endsWith(QLatin1String(".json"), Qt::CaseInsensitive);
+        return name.endsWith(".json"_L1, Qt::CaseInsensitive);
     };
     for (qsizetype index = 0; index < arguments.size(); ++index) {
-        const QString option = arguments.at(index).section(QLatin1Char('='), 0, 0);
-        const bool takesName =
-            option == QLatin1String("--report") || option == QLatin1String("--to");
-        if (option == QLatin1String("--json") ||
+        const QString option = arguments.at(index).section(u'=', 0, 0);
+        const bool takesName = option == "--report"_L1 || option == "--to"_L1;
+        if (option == "--json"_L1 ||
             (takesName && (isJson(arguments.at(index)) || isJson(arguments.value(index + 1))))) {
             return true;
         }
@@ -107,35 +105,64 @@ bool writesJson(const QStringList& arguments)
     return false;
 }
 
-using Command = int (*)(const QStringList& arguments);
+using RunCommand = int (*)(const QStringList& arguments);
 
-struct CommandRow
+/// In the order of cli::commands().
+constexpr std::array RunCommands{&cli::runImport, &cli::runInspect, &cli::runReport,
+                                 &cli::runFormats, &cli::runTrace};
+
+int printHelp(const QStringList&)
 {
-    QLatin1String name;
-    Command run;
-};
+    console::printText(helpText());
+    return console::ExitSuccess;
+}
 
-constexpr std::array Commands{
-    CommandRow{QLatin1String("import"), &cli::runImport},
-    CommandRow{QLatin1String("inspect"), &cli::runInspect},
-    CommandRow{QLatin1String("report"), &cli::runReport},
-    CommandRow{QLatin1String("formats"), &cli::runFormats},
-    CommandRow{QLatin1String("trace"), &cli::runTrace},
-};
+int printVersion(const QStringList&)
+{
+    console::printText(u"labelport " LABELPORT_VERSION "\n"_s);
+    return console::ExitSuccess;
+}
 
-/// These commands paint nothing themselves: their workers do.
-int runCommand(int argc, char** argv, Command command, const QStringList& arguments)
+/// The function of a command; null for an unknown one.
+RunCommand functionOf(const QString& command)
+{
+    if (command == "--help"_L1 || command == "-h"_L1 || command == "help"_L1) {
+        return &printHelp;
+    }
+    if (command == "--version"_L1) {
+        return &printVersion;
+    }
+    const qsizetype index = cli::commandNames().indexOf(command);
+    return index < 0 ? nullptr : RunCommands[static_cast<std::size_t>(index)];
+}
+
+int refuseCommand(const QString& command)
+{
+    if (command.isEmpty()) {
+        console::printMessage(Words::tr("No command given. See \"labelport --help\"."));
+    } else {
+        const QStringList known = cli::commandNames() + QStringList{u"--help"_s, u"--version"_s};
+        console::printMessage(Words::tr("Unknown command \"%1\".").arg(command) +
+                              console::suggestion(command, known));
+        console::printMessage(Words::tr("Help: %1").arg(u"labelport --help"_s));
+    }
+    return console::ExitUsage;
+}
+
+/// Commands paint nothing themselves: their workers do.
+int runCommand(int argc, char** argv, const QString& command, const QStringList& arguments)
 {
     setUpApplication();
     const QCoreApplication application(argc, argv);
     const translations::ProgramLanguage language(wantedLanguages());
-    return command(arguments);
+    const RunCommand run = functionOf(command);
+    return console::finishOutput(run != nullptr ? run(arguments) : refuseCommand(command));
 }
 
 int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
 {
-    archive::boundMemory(arguments.value(0).toInt());
-    // Pictures are drawn without a window system, whatever the environment offers or lacks.
+    archive::limitMemory(arguments.value(0).toInt());
+    // Pictures are drawn without a window system, whatever the environment offers.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     setUpApplication();
     const QApplication application(argc, argv);
@@ -147,37 +174,14 @@ int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
+    console::prepareStreams(u"labelport"_s);
     const QStringList languages = wantedLanguages(); // before the locale changes
     chooseUtf8Locale();
-    QStringList arguments = argumentsOf(argc, argv);
-    // Workers and the trace speak it too.
+    QStringList arguments = console::argumentsOf(argc, argv);
+    // Workers and the trace use the same language.
     translations::keepLanguage(writesJson(arguments) ? QStringList() : languages);
     const QString command = arguments.isEmpty() ? QString() : arguments.takeFirst();
-
-    for (const CommandRow& row : Commands) {
-        if (command == row.name) {
-            return runCommand(argc, argv, row.run, arguments);
-        }
-    }
-    if (command == QLatin1String(cli::WorkerCommandName)) {
-        return runWorkerCommand(argc, argv, arguments);
-    }
-    if (command == QLatin1String("--help") || command == QLatin1String("-h") ||
-        command == QLatin1String("help")) {
-        const QCoreApplication application(argc, argv);
-        const translations::ProgramLanguage language(wantedLanguages());
-        cli::printText(Words::tr(HelpText));
-        return cli::ExitSuccess;
-    }
-    if (command == QLatin1String("--version")) {
-        cli::printResult(QStringLiteral("labelport " LABELPORT_VERSION));
-        return cli::ExitSuccess;
-    }
-    const QCoreApplication application(argc, argv);
-    const translations::ProgramLanguage language(wantedLanguages());
-    cli::printMessage(
-        command.isEmpty()
-            ? Words::tr("What is it to do? \"labelport --help\" tells.")
-            : Words::tr("\"%1\" is no command; \"labelport --help\" tells what is.").arg(command));
-    return cli::ExitUsage;
+    return command == QLatin1String(cli::WorkerCommandName)
+               ? runWorkerCommand(argc, argv, arguments)
+               : runCommand(argc, argv, command, arguments);
 }

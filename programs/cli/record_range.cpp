@@ -3,13 +3,14 @@
 #include <QRegularExpression>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 
 std::optional<RecordRange> recordRangeOf(const QString& text)
 {
-    if (text == QLatin1String("all")) {
+    if (text == "all"_L1) {
         return RecordRange{1, std::nullopt};
     }
-    static const QRegularExpression form(QStringLiteral("^([0-9]{1,15})(-([0-9]{1,15})?)?\\z"));
+    static const QRegularExpression form(u"^([0-9]{1,15})(-([0-9]{1,15})?)?\\z"_s);
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch()) {
         return std::nullopt;

@@ -1,14 +1,16 @@
-#include "cli/report_command.h"
-
-#include "cli/command_line.h"
-#include "cli/exit_status.h"
-#include "cli/messages.h"
+#include "cli/commands.h"
+#include "cli/existing_output.h"
+#include "cli/option_table.h"
+#include "console/command_line.h"
+#include "console/file_name.h"
+#include "console/output.h"
 #include "migration/report/report_merger.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
 namespace cli {
+using namespace Qt::StringLiterals;
 namespace {
 
 QString tr(const char* text)
@@ -16,52 +18,56 @@ QString tr(const char* text)
     return QCoreApplication::translate("cli::ReportCommand", text);
 }
 
-void addOptions(QCommandLineParser& parser)
+/// What is wrong with the arguments; empty if nothing is.
+QString usageProblem(const QStringList& words, const QStringList& outputs)
 {
-    parser.setApplicationDescription(
-        tr("Makes one report of the JSON reports of several commands, as one command over all\n"
-           "files would have written it.\n\n"
-           "Examples:\n"
-           "  labelport report merge part-1.json part-2.json --to all.html\n"
-           "  labelport report merge part-*.json --to all.json --to all.html"));
-    parser.addPositionalArgument(QStringLiteral("merge"), tr("What to do: put reports together."));
-    parser.addPositionalArgument(QStringLiteral("report"),
-                                 tr("Report that an import wrote as JSON."),
-                                 QStringLiteral("REPORT.json..."));
-    parser.addOption({QStringLiteral("to"),
-                      tr("Report to write, as .json or .html; may be given several times."),
-                      tr("file")});
+    if (words.isEmpty()) {
+        return tr("No command given: labelport report merge REPORT.json... --to FILE");
+    }
+    if (words.first() != "merge"_L1) {
+        return tr("Unknown command \"report %1\".").arg(words.first()) +
+               console::suggestion(words.first(), {u"merge"_s});
+    }
+    if (words.size() == 1 || outputs.isEmpty()) {
+        return tr("Specify the reports to merge, and the output file with --to.");
+    }
+    for (const QString& output : outputs) {
+        const QString problem = reportNameProblem(output);
+        if (!problem.isEmpty()) {
+            return problem;
+        }
+    }
+    return {};
 }
 
 } // namespace
 
 int runReport(const QStringList& arguments)
 {
-    // No translation: it is typed so.
-    const QString command = QStringLiteral("labelport report");
+    const QString command = u"labelport report"_s;
     QCommandLineParser parser;
-    addOptions(parser);
-    if (const std::optional<int> status = parseCommand(parser, command, arguments)) {
+    describeCommand(parser, commandOf("report"));
+    if (const std::optional<int> status = console::parseCommand(parser, command, arguments)) {
         return *status;
     }
-    QStringList reports = parser.positionalArguments();
-    if (reports.isEmpty() || reports.takeFirst() != QLatin1String("merge")) {
-        return refuseArguments(command, tr("Reports can be put together: \"report merge\"."));
-    }
-    const QStringList outputs = parser.values(QStringLiteral("to"));
-    if (reports.isEmpty() || outputs.isEmpty()) {
-        return refuseArguments(command, tr("It takes the reports to put together, and --to says "
-                                           "where the whole goes."));
+    const QStringList words = parser.positionalArguments();
+    const QStringList outputs = parser.values(u"to"_s);
+    const QString wrong = usageProblem(words, outputs);
+    if (!wrong.isEmpty()) {
+        return console::refuseArguments(command, wrong);
     }
     for (const QString& output : outputs) {
-        const QString error = migration::mergeReports(reports, output);
-        if (!error.isEmpty()) {
-            printMessage(error);
-            return ExitFailure;
+        QString problem = reportProblem(output, parser.isSet(u"force"_s));
+        if (problem.isEmpty()) {
+            problem = migration::mergeReports(words.mid(1), output);
         }
-        printResult(output);
+        if (!problem.isEmpty()) {
+            console::printMessage(problem);
+            return console::ExitFailure;
+        }
+        console::printFileName(output, false);
     }
-    return ExitSuccess;
+    return console::ExitSuccess;
 }
 
 } // namespace cli

@@ -7,12 +7,12 @@
 
 namespace cli {
 
-/// What a label can be written as.
+/// A format to write.
 enum class Target {
-    Label, ///< the workbench's own format, to open and edit again
+    Label, ///< the workbench's own format, for editing
     Png,   ///< a picture
     Svg,   ///< a vector drawing
-    Pdf,   ///< a document, a page for each record
+    Pdf,   ///< a document with one page for each record
 };
 
 /// The short name of a target, which is also the suffix of its files.

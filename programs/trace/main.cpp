@@ -1,5 +1,9 @@
-// labelport-trace: shows what an import asks of its host.
+// labelport-trace: prints every call that an import makes on its host.
 
+#include "console/command_line.h"
+#include "console/file_name.h"
+#include "console/output.h"
+#include "console/standard_input.h"
 #include "trace/repeatable_environment.h"
 #include "trace/trace_import.h"
 #include "translations/program_language.h"
@@ -8,6 +12,8 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
+#include <QTemporaryFile>
 
 #include <cstdio>
 #include <optional>
@@ -15,143 +21,145 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 struct Words
 {
     Q_DECLARE_TR_FUNCTIONS(trace)
 };
 
-enum ExitStatus { Imported = 0, NotImported = 1, WrongUsage = 2 };
-
-/// Keeps what Qt has to say away from the trace, on every system.
-void writeToStandardError(QtMsgType type, const QMessageLogContext& context, const QString& message)
+/// A file to trace.
+struct Request
 {
-    const QByteArray line = qFormatLogMessage(type, context, message).toLocal8Bit();
-    std::fprintf(stderr, "%s\n", line.constData());
-}
+    QString file; ///< "-" is standard input
+    std::optional<ReaderKind> reader;
+};
 
-void complain(const QString& message)
+/// Why a file cannot be read at all; empty if it can. Readers only report that they failed.
+QString readProblem(const QString& path)
 {
-    std::fprintf(stderr, "labelport-trace: %s\n", qUtf8Printable(message));
-}
-
-void print(const QString& text)
-{
-    std::fputs(qUtf8Printable(text), stdout);
-}
-
-ExitStatus wrongUsage(const QString& message)
-{
-    complain(message);
-    std::fprintf(
-        stderr, "%s\n",
-        qUtf8Printable(Words::tr("Usage: labelport-trace FILE (see labelport-trace --help)")));
-    return WrongUsage;
-}
-
-/// Why the file cannot be read at all; empty when it can. Readers only say that it failed.
-QString obstacle(const QString& fileName)
-{
-    if (QFileInfo(fileName).isDir()) {
+    if (console::kindOf(path) == console::FileKind::Folder) {
         return Words::tr("it is a folder");
     }
-    QFile file(fileName);
+    if (console::kindOf(path) == console::FileKind::Other) {
+        return Words::tr("it is not a regular file");
+    }
+    QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
 }
 
-void explainFailure(const QString& fileName)
+void explainFailure(const Request& request, const QString& path)
 {
-    const QString reason = obstacle(fileName);
-    if (reason.isEmpty()) {
-        complain(Words::tr("%1 was not imported; the trace tells how far it came").arg(fileName));
+    const QString reason = readProblem(path);
+    if (!reason.isEmpty()) {
+        console::printMessage(Words::tr("Cannot read \"%1\": %2.").arg(request.file, reason));
+    } else if (request.reader) {
+        console::printMessage(
+            Words::tr("\"%1\" was not imported. The trace shows how far the import came.")
+                .arg(request.file));
     } else {
-        complain(Words::tr("cannot read %1: %2").arg(fileName, reason));
+        console::printMessage(Words::tr("\"%1\" was not imported. The trace shows how far the "
+                                        "import came; --reader selects another reader.")
+                                  .arg(request.file));
     }
 }
 
-/// The trace itself has no language: it is the same whoever makes it.
-int trace(const QString& fileName, const QStringList& languages)
+/// The trace itself has no language: it does not depend on the user.
+int trace(const Request& request, const QStringList& languages)
 {
+    QTemporaryFile standardInput;
+    const bool readsInput = request.file == "-"_L1;
+    const QString inputError = readsInput ? console::copyStandardInput(standardInput) : QString();
+    if (!inputError.isEmpty()) {
+        console::printMessage(inputError);
+        return console::ExitFailure;
+    }
+    const QString name = readsInput ? u"stdin"_s : QFileInfo(request.file).fileName();
+    const console::ReachablePath reachable(readsInput ? standardInput.fileName() : request.file);
+    const QString& path = reachable.path();
+    const ReaderKind reader = request.reader.value_or(readerByNameOrContent(name, path));
+
     QFile out;
     const bool canWrite = out.open(stdout, QIODevice::WriteOnly);
-    const bool imported = canWrite && traceImport(fileName, out);
+    const bool imported = canWrite && traceImport(path, console::shownFileName(name), reader, out);
     const translations::ProgramLanguage language(languages);
-    if (!canWrite) {
-        complain(Words::tr("cannot write to standard output"));
-        return NotImported;
-    }
-    if (!out.flush() || std::fflush(stdout) != 0) {
-        complain(Words::tr("cannot write the trace: %1").arg(out.errorString()));
-        return NotImported;
+    if (!canWrite || !out.flush() || std::fflush(stdout) != 0) {
+        console::printMessage(
+            Words::tr("Cannot write to standard output: %1.").arg(out.errorString()));
+        return console::ExitFailure;
     }
     if (!imported) {
-        explainFailure(fileName);
+        explainFailure(request, path);
     }
-    return imported ? Imported : NotImported;
+    return imported ? console::ExitSuccess : console::ExitFailure;
 }
 
-QStringList argumentsOf(int argc, char** argv)
-{
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments.append(QFile::decodeName(argv[i]));
-    }
-    return arguments;
-}
-
-/// What the command line asks for: a file to trace, or an exit status when all is said already.
-std::variant<QString, ExitStatus> fileToTrace(const QStringList& arguments)
+/// Reads the arguments; an exit status if there is nothing to trace.
+/// @param command the program as people type it
+std::variant<Request, int> requestOf(const QString& command, const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        Words::tr("Imports a legacy label into a host that records, and prints every call on it\n"
-                  "as JSON Lines, then what has become of the items.\n\n"
+        Words::tr("Imports a legacy label into a recording host, and prints every call on the host "
+                  "as JSON\nLines, then the final state of the items.\n\n"
                   "Exit status: 0 imported, 1 not imported, 2 wrong usage."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("FILE"), Words::tr("The label to import."));
-
-    if (!parser.parse(arguments)) {
-        return wrongUsage(parser.errorText());
+    parser.addOption({u"reader"_s,
+                      Words::tr("Read the file as tavrel, orvanta or opendocument, whatever its "
+                                "name."),
+                      Words::tr("name")});
+    parser.addOption({u"version"_s, Words::tr("Show the version.")});
+    parser.addPositionalArgument(u"FILE"_s, Words::tr("Label to import; - is standard input."));
+    if (const std::optional<int> status = console::parseCommand(parser, command, arguments)) {
+        return *status;
     }
-    if (parser.isSet(help)) {
-        print(parser.helpText());
-        return Imported;
-    }
-    if (parser.isSet(version)) {
-        print(QStringLiteral("labelport-trace " LABELPORT_VERSION "\n"));
-        return Imported;
+    if (parser.isSet(u"version"_s)) {
+        console::printText(u"labelport-trace " LABELPORT_VERSION "\n"_s);
+        return console::ExitSuccess;
     }
     const QStringList files = parser.positionalArguments();
     if (files.size() != 1) {
-        return wrongUsage(files.isEmpty() ? Words::tr("no file given")
-                                          : Words::tr("one file at a time, please"));
+        return console::refuseArguments(command, Words::tr("trace needs exactly one file."));
     }
-    return files.first();
+    const QString reader = parser.value(u"reader"_s);
+    const Request request{files.first(), readerOfName(reader)};
+    if (parser.isSet(u"reader"_s) && !request.reader) {
+        return console::refuseArguments(command,
+                                        Words::tr("Unknown reader \"%1\". Supported readers: %2.")
+                                            .arg(reader, u"tavrel, orvanta, opendocument"_s));
+    }
+    return request;
 }
 
-int run(const QStringList& arguments, const QStringList& languages)
+int run(const QString& command, const QStringList& arguments, const QStringList& languages)
 {
     std::optional<translations::ProgramLanguage> language(std::in_place, languages);
-    const std::variant<QString, ExitStatus> wanted = fileToTrace(arguments);
-    if (const auto* status = std::get_if<ExitStatus>(&wanted)) {
-        return *status;
+    const std::variant<Request, int> wanted = requestOf(command, arguments);
+    if (const int* status = std::get_if<int>(&wanted)) {
+        return console::finishOutput(*status);
     }
     language.reset();
-    return trace(std::get<QString>(wanted), languages);
+    return trace(std::get<Request>(wanted), languages);
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    qInstallMessageHandler(writeToStandardError);
+    // `labelport trace` runs this program under its own name.
+    const bool isCommand = argc > 0 && QByteArray(argv[0]) == "labelport trace";
+    const QString command = isCommand ? u"labelport trace"_s : u"labelport-trace"_s;
+    console::prepareStreams(isCommand ? u"labelport"_s : command);
+    const QStringList languages =
+        translations::wantedLanguages(QProcessEnvironment::systemEnvironment());
     prepareRepeatableEnvironment();
-    // Qt sees no arguments: it would take some of them for its own.
+    // Warnings of Qt's about the environment are of no use here; QT_LOGGING_RULES enables them.
+    QLoggingCategory::setFilterRules(
+        u"*.debug=false\n*.info=false\n*.warning=false\nlabelport*=false"_s);
+    // Qt gets no arguments: it would take some of them for its own.
     int qtArgc = argc > 0 ? 1 : 0;
     const QApplication application(qtArgc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("labelport-trace"));
+    QCoreApplication::setApplicationName(u"labelport-trace"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
     fixFont();
-    return run(argumentsOf(argc, argv),
-               translations::wantedLanguages(QProcessEnvironment::systemEnvironment()));
+    return run(command, console::argumentsOf(argc, argv), languages);
 }

@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QHashSeed>
 
+using namespace Qt::StringLiterals;
+
 void prepareRepeatableEnvironment()
 {
     // Never the user's platform: a trace shows nothing, so it needs no display.
@@ -20,5 +22,5 @@ void prepareRepeatableEnvironment()
 void fixFont()
 {
     constexpr int pointSize = 9; // 12 pixels at 96 dots per inch
-    QApplication::setFont(QFont(QStringLiteral("Liberation Sans"), pointSize));
+    QApplication::setFont(QFont(u"Liberation Sans"_s, pointSize));
 }

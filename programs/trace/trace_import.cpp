@@ -1,49 +1,21 @@
 #include "trace/trace_import.h"
 
+#include "console/output.h"
 #include "importer/legacy_template_importer.h"
-#include "importer/reader_choice.h"
 #include "recorder/recording_host.h"
 
-#include <QFileInfo>
-
-#include <cstdio>
 #include <exception>
 
 namespace {
+using namespace Qt::StringLiterals;
 
-QString readerName(ReaderKind kind)
-{
-    switch (kind) {
-    case ReaderKind::Orvanta:
-        return QStringLiteral("orvanta");
-    case ReaderKind::OpenDocument:
-        return QStringLiteral("opendocument");
-    case ReaderKind::Tavrel:
-        break;
-    }
-    return QStringLiteral("tavrel");
-}
-
-bool importWith(LegacyTemplateImporter& importer, ReaderKind kind, const QString& fileName)
-{
-    switch (kind) {
-    case ReaderKind::Orvanta:
-        return importer.importLabelFromOrvantaFile(fileName);
-    case ReaderKind::OpenDocument:
-        return importer.importLabelFromOpenOfficeFile(fileName);
-    case ReaderKind::Tavrel:
-        break;
-    }
-    return importer.importLabelFromTavrelFile(fileName);
-}
-
-/// Readers throw nothing, but memory may run out anywhere; the trace ends properly even so.
+/// Readers throw nothing, but memory may run out; the trace ends properly even then.
 bool importGuarded(LegacyTemplateImporter& importer, ReaderKind kind, const QString& fileName)
 {
     try {
-        return importWith(importer, kind, fileName);
+        return (importer.*readerOf(kind).importFile)(fileName);
     } catch (const std::exception& error) {
-        std::fprintf(stderr, "labelport-trace: %s\n", error.what());
+        console::printMessage(QString::fromLocal8Bit(error.what()));
         return false;
     }
 }
@@ -58,16 +30,15 @@ void recordSignals(const LegacyTemplateImporter& importer, recorder::TraceWriter
 
 } // namespace
 
-bool traceImport(const QString& fileName, QIODevice& out)
+bool traceImport(const QString& path, const QString& name, ReaderKind reader, QIODevice& out)
 {
     recorder::RecordingHost host(out);
     LegacyTemplateImporter importer(host.canvasModel(), host.fileController(),
                                     host.datasourceController());
     recordSignals(importer, host.trace());
 
-    const ReaderKind kind = readerForFile(fileName);
-    host.trace().start(QFileInfo(fileName).fileName(), readerName(kind));
-    const bool imported = importGuarded(importer, kind, fileName);
+    host.trace().start(name, readerOf(reader).name);
+    const bool imported = importGuarded(importer, reader, path);
     host.hideMessageBoxes();
     host.writeItemStates();
     host.trace().end(imported);

@@ -1,16 +1,23 @@
 // The files of a command.
 
+#include "archive/file_stamp.h"
 #include "archive/input_list.h"
+#include "console/file_name.h"
 #include "tests/archive/test_folder.h"
 
 #include <QBuffer>
 
+#include <fstream>
+
+#include <sys/stat.h>
+
 namespace {
+using namespace Qt::StringLiterals;
 
 class InputListTest : public ::testing::Test
 {
 protected:
-    InputListTest() { request.suffixes = {QStringLiteral("cnv"), QStringLiteral("odg")}; }
+    InputListTest() { request.suffixes = {u"cnv"_s, u"odg"_s}; }
 
     /// Shown names with the folders they keep, "a/b>x.cnv", relative to the test's folder.
     QStringList listed(const QStringList& arguments)
@@ -23,15 +30,12 @@ protected:
         QStringList names;
         for (const archive::Input& input : result.inputs) {
             const QString name = QDir(folder.path()).relativeFilePath(input.shownName);
-            names.append(input.folder.isEmpty() ? name : input.folder + QLatin1Char('>') + name);
+            names.append(input.folder.isEmpty() ? name : input.folder + u'>' + name);
         }
         return names;
     }
 
-    static QStringList list(const char* names)
-    {
-        return QString::fromLatin1(names).split(QLatin1Char(' '));
-    }
+    static QStringList list(const char* names) { return QString::fromLatin1(names).split(u' '); }
 
     TestFolder folder;
     archive::InputRequest request;
@@ -40,7 +44,7 @@ protected:
 
 TEST_F(InputListTest, TakesNamedFilesWhateverTheirNames)
 {
-    folder.write(QStringLiteral("a.txt"));
+    folder.write(u"a.txt"_s);
     EXPECT_EQ(listed(list("a.txt missing.cnv")), list("a.txt missing.cnv"));
     EXPECT_FALSE(result.searched);
 }
@@ -66,18 +70,17 @@ TEST_F(InputListTest, LeavesOutWhatIsHidden)
 
 TEST_F(InputListTest, DoesNotFollowLinksToFolders)
 {
-    folder.write(QStringLiteral("old/a/x.cnv"));
-    folder.write(QStringLiteral("real.cnv"));
-    QFile::link(folder.path(QStringLiteral("old")), folder.path(QStringLiteral("old/a/loop")));
-    QFile::link(folder.path(QStringLiteral("real.cnv")),
-                folder.path(QStringLiteral("old/link.cnv")));
+    folder.write(u"old/a/x.cnv"_s);
+    folder.write(u"real.cnv"_s);
+    QFile::link(folder.path(u"old"_s), folder.path(u"old/a/loop"_s));
+    QFile::link(folder.path(u"real.cnv"_s), folder.path(u"old/link.cnv"_s));
     EXPECT_EQ(listed(list("old")), list("a>old/a/x.cnv old/link.cnv"));
 }
 
 TEST_F(InputListTest, NamesEachFileOnceWhateverTheOrder)
 {
-    folder.write(QStringLiteral("old/a/x.cnv"));
-    folder.write(QStringLiteral("old/y.cnv"));
+    folder.write(u"old/a/x.cnv"_s);
+    folder.write(u"old/y.cnv"_s);
     const QStringList expected = list("a>old/a/x.cnv old/y.cnv");
     EXPECT_EQ(listed(list("old old/a old/y.cnv old/a/x.cnv")), expected);
     EXPECT_EQ(listed(list("old/a/x.cnv old/a old/../old/y.cnv old")), expected);
@@ -85,67 +88,101 @@ TEST_F(InputListTest, NamesEachFileOnceWhateverTheOrder)
 
 TEST_F(InputListTest, KeepsSubfoldersBelowABase)
 {
-    request.base = folder.path(QStringLiteral("old"));
+    request.base = folder.path(u"old"_s);
     EXPECT_EQ(listed(list("old/a/b/x.cnv old/y.cnv older/z.cnv")),
               list("a/b>old/a/b/x.cnv old/y.cnv older/z.cnv"));
 }
 
 TEST_F(InputListTest, DoesNotSearchTheOutputFolder)
 {
-    folder.write(QStringLiteral("old/x.cnv"));
-    folder.write(QStringLiteral("old/out/x.cnv"));
-    request.outputFolder = folder.path(QStringLiteral("old/out"));
+    folder.write(u"old/x.cnv"_s);
+    folder.write(u"old/out/x.cnv"_s);
+    request.outputFolder = folder.path(u"old/out"_s);
     EXPECT_EQ(listed(list("old")), list("old/x.cnv"));
     // Unless it is what is to be searched.
     EXPECT_EQ(listed(list("old/out")), list("old/out/x.cnv"));
 }
 
-TEST_F(InputListTest, LeavesOutWhatWasMadeHere)
+TEST_F(InputListTest, LeavesOutOutputsOfOtherInputs)
 {
-    folder.write(QStringLiteral("old/x.cnv"));
-    folder.write(QStringLiteral("old/made.odg"));
-    request.isOutput = [](const QString& path) {
-        return path.endsWith(QStringLiteral("made.odg"));
-    };
+    folder.write(u"old/x.cnv"_s);
+    const QString made = folder.write(u"old/made.odg"_s);
+    request.sourcesOfOutputs = {{made, folder.path(u"old/x.cnv"_s)}};
     EXPECT_EQ(listed(list("old")), list("old/x.cnv"));
+    EXPECT_EQ(listed(list("old old/made.odg")), list("old/made.odg old/x.cnv")) << "it is named";
+    request.sourcesOfOutputs = {{made, folder.path(u"elsewhere/x.cnv"_s)}};
+    EXPECT_EQ(listed(list("old")), list("old/made.odg old/x.cnv"));
+    request.sourcesOfOutputs = {{made, made}};
+    EXPECT_EQ(listed(list("old")), list("old/made.odg old/x.cnv"));
 }
 
-TEST_F(InputListTest, TellsOfFoldersThatItCannotSearch)
+TEST_F(InputListTest, ReportsFoldersThatItCannotSearch)
 {
-    folder.write(QStringLiteral("old/closed/x.cnv"));
-    const QString closed = folder.path(QStringLiteral("old/closed"));
+    folder.write(u"old/closed/x.cnv"_s);
+    const QString closed = folder.path(u"old/closed"_s);
     QFile::setPermissions(closed, {});
     if (QFileInfo(closed).isReadable()) {
         GTEST_SKIP() << "SKIPPED: nothing is closed to this user";
     }
     listed(list("old"));
-    EXPECT_EQ(result.unreadable, QStringList{closed});
+    ASSERT_EQ(result.unreadable.size(), 1);
+    EXPECT_EQ(result.unreadable.first().path, closed);
+    EXPECT_EQ(result.unreadable.first().reason, u"Permission denied"_s);
     QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+// Their import reports what they are.
+TEST_F(InputListTest, TakesDanglingLinksAndPipes)
+{
+    folder.write(u"old/x.cnv"_s);
+    QFile::link(folder.path(u"nothing"_s), folder.path(u"old/link.cnv"_s));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.path(u"old/pipe.cnv"_s)).constData(), 0600), 0);
+    EXPECT_EQ(listed(list("old")), list("old/link.cnv old/pipe.cnv old/x.cnv"));
+}
+
+TEST_F(InputListTest, TakesNamesThatAreNotUtf8)
+{
+    const QString name = console::fileNameFromBytes("old/Gr\xF6\xDF"
+                                                    "en/\xFC.cnv");
+    ASSERT_EQ(console::makeFolder(folder.path(QFileInfo(name).path())), QString());
+    std::ofstream(console::systemPath(folder.path(name))) << "x";
+    const QString below = console::fileNameFromBytes("Gr\xF6\xDF"
+                                                     "en");
+    EXPECT_EQ(listed(list("old")), QStringList{below + u'>' + name});
+    EXPECT_TRUE(archive::stampOf(result.inputs.first().path));
 }
 
 QStringList namesIn(QByteArray bytes, bool isNullSeparated = false)
 {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    QString error;
+    bool error = false;
     const QStringList names = archive::readNames(buffer, isNullSeparated, error);
-    return error.isEmpty() ? names : QStringList{QStringLiteral("error")};
+    return !error ? names : QStringList{u"error"_s};
 }
 
 TEST(InputNames, StandOnLines)
 {
-    EXPECT_EQ(
-        namesIn("a.cnv\n\nb c.cnv\r\nd.cnv"),
-        (QStringList{QStringLiteral("a.cnv"), QStringLiteral("b c.cnv"), QStringLiteral("d.cnv")}));
+    EXPECT_EQ(namesIn("a.cnv\n\nb c.cnv\r\nd.cnv"),
+              (QStringList{u"a.cnv"_s, u"b c.cnv"_s, u"d.cnv"_s}));
     EXPECT_EQ(namesIn(""), QStringList());
 }
 
 TEST(InputNames, StandBetweenNuls)
 {
-    const QStringList expected = {QStringLiteral("a\n.cnv"), QStringLiteral("b.cnv")};
+    const QStringList expected = {u"a\n.cnv"_s, u"b.cnv"_s};
     EXPECT_EQ(namesIn(QByteArray("a\n.cnv\0b.cnv\0", 13)), expected);
     EXPECT_EQ(namesIn(QByteArray("a\n.cnv\0b.cnv", 12), true), expected);
-    EXPECT_EQ(namesIn("a\n.cnv", true), QStringList{QStringLiteral("a\n.cnv")});
+    EXPECT_EQ(namesIn("a\n.cnv", true), QStringList{u"a\n.cnv"_s});
+}
+
+TEST(InputNames, KeepEveryByte)
+{
+    EXPECT_EQ(console::fileNameToBytes(namesIn("Gr\xF6\xDF"
+                                               "e.cnv")
+                                           .value(0)),
+              "Gr\xF6\xDF"
+              "e.cnv");
 }
 
 TEST(InputNames, OfAnyNumberAreRead)
@@ -156,12 +193,12 @@ TEST(InputNames, OfAnyNumberAreRead)
     }
     const QStringList names = namesIn(bytes);
     EXPECT_EQ(names.size(), 20'000);
-    EXPECT_EQ(names.last(), QStringLiteral("folder/label19999.cnv"));
+    EXPECT_EQ(names.last(), u"folder/label19999.cnv"_s);
 }
 
 TEST(InputNames, AreNotOfAnyLength)
 {
-    const QStringList error{QStringLiteral("error")};
+    const QStringList error{u"error"_s};
     for (const char* end : {"", "\n", "\r\n", "\nb.cnv\n"}) {
         SCOPED_TRACE(end);
         const QByteArray longest(archive::MaximumNameBytes, 'x');
@@ -180,12 +217,12 @@ TEST(InputNames, AreNotOfAnySum)
         QByteArray list = QByteArray("a.cnv\n").repeated(names);
         QBuffer buffer(&list);
         buffer.open(QIODevice::ReadOnly);
-        QString error;
+        bool error = false;
         EXPECT_EQ(archive::readNames(buffer, false, error, list.size()).size(), names);
-        EXPECT_EQ(error, QString());
+        EXPECT_FALSE(error);
         buffer.seek(0);
         EXPECT_TRUE(archive::readNames(buffer, false, error, list.size() - 1).isEmpty());
-        EXPECT_NE(error, QString());
+        EXPECT_TRUE(error);
     }
 }
 

@@ -1,13 +1,13 @@
 // What was done, remembered.
 
 #include "archive/journal.h"
-#include "archive/journal_compaction.h"
 #include "limits/json/tree_size.h"
 #include "tests/archive/test_folder.h"
 
 #include <QBuffer>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 class JournalTest : public ::testing::Test
 {
@@ -15,18 +15,17 @@ protected:
     static archive::JournalRecord record(const QString& path, int size = 1)
     {
         return {{path, size, 1'700'000'000'123},
-                QStringLiteral("options"),
-                QStringLiteral("1.0"),
-                archive::Fate::Done,
-                {QStringLiteral("no \"error\"\n")},
-                {{QStringLiteral("a/x.png"), 10, 20}},
-                {{QStringLiteral("file"), QStringLiteral("x")}}};
+                u"options"_s,
+                u"1.0"_s,
+                archive::FileOutcome::Done,
+                {u"no \"error\"\n"_s},
+                {{u"a/x.png"_s, 10, 20}},
+                {{u"file"_s, u"x"_s}}};
     }
 
     QList<archive::Input> inputs() const
     {
-        return {{QStringLiteral("/in/a.cnv"), QStringLiteral("a"), {}},
-                {QStringLiteral("/in/b.cnv"), QStringLiteral("b"), {}}};
+        return {{u"/in/a.cnv"_s, u"a"_s, {}}, {u"/in/b.cnv"_s, u"b"_s, {}}};
     }
 
     void openIn(archive::Journal& journal, const archive::Shard& shard = {}) const
@@ -36,8 +35,9 @@ protected:
 
     TestFolder folder;
     const QString name = archive::Journal::fileNameFor({});
-    const QString a = QStringLiteral("/in/a.cnv");
-    const QString b = QStringLiteral("/in/b.cnv");
+    const QString options = u"options"_s;
+    const QString a = u"/in/a.cnv"_s;
+    const QString b = u"/in/b.cnv"_s;
 };
 
 TEST_F(JournalTest, IsEmptyAtFirst)
@@ -46,7 +46,7 @@ TEST_F(JournalTest, IsEmptyAtFirst)
     EXPECT_FALSE(journal.isOpen());
     openIn(journal);
     EXPECT_TRUE(journal.isOpen());
-    EXPECT_FALSE(journal.find(0));
+    EXPECT_FALSE(journal.find(0, options));
 }
 
 TEST_F(JournalTest, RemembersTheLastWordOnEachFile)
@@ -55,13 +55,13 @@ TEST_F(JournalTest, RemembersTheLastWordOnEachFile)
         archive::Journal journal;
         openIn(journal);
         EXPECT_TRUE(journal.append(record(b, 1)));
-        EXPECT_TRUE(journal.append(record(QStringLiteral("/in/other.cnv"))));
+        EXPECT_TRUE(journal.append(record(u"/in/other.cnv"_s)));
         EXPECT_TRUE(journal.append(record(b, 2)));
     }
     archive::Journal journal;
     openIn(journal);
-    EXPECT_FALSE(journal.find(0));
-    EXPECT_EQ(journal.find(1), record(b, 2));
+    EXPECT_FALSE(journal.find(0, options));
+    EXPECT_EQ(journal.find(1, options), record(b, 2));
 }
 
 TEST_F(JournalTest, IgnoresATornLine)
@@ -71,13 +71,13 @@ TEST_F(JournalTest, IgnoresATornLine)
     {
         archive::Journal journal;
         openIn(journal);
-        EXPECT_FALSE(journal.find(0));
-        EXPECT_EQ(journal.find(1), record(b));
+        EXPECT_FALSE(journal.find(0, options));
+        EXPECT_EQ(journal.find(1, options), record(b));
         EXPECT_TRUE(journal.append(record(a)));
     }
     archive::Journal journal;
     openIn(journal);
-    EXPECT_EQ(journal.find(0), record(a)) << "the new line was added to the torn one";
+    EXPECT_EQ(journal.find(0, options), record(a)) << "the new line was added to the torn one";
 }
 
 // To read lines of 64 megabytes takes seconds, so the bound is a parameter.
@@ -115,18 +115,17 @@ TEST_F(JournalTest, HoldsNoLineThatWouldFillTheMemory)
 
 TEST_F(JournalTest, IsOneOfSeveralWhenAnArchiveIsShared)
 {
-    EXPECT_EQ(archive::Journal::fileNameFor({2, 8}),
-              QStringLiteral(".labelport-journal-2-of-8.jsonl"));
+    EXPECT_EQ(archive::Journal::fileNameFor({2, 8}), u".labelport-journal-2-of-8.jsonl"_s);
     archive::Journal first;
     archive::Journal second;
     openIn(first, {1, 2});
     openIn(second, {2, 2});
-    first.append(record(a));
-    second.append(record(b));
+    EXPECT_TRUE(first.append(record(a)));
+    EXPECT_TRUE(second.append(record(b)));
     archive::Journal whole;
     openIn(whole);
-    EXPECT_EQ(whole.find(0), record(a));
-    EXPECT_EQ(whole.find(1), record(b));
+    EXPECT_EQ(whole.find(0, options), record(a));
+    EXPECT_EQ(whole.find(1, options), record(b));
 }
 
 TEST_F(JournalTest, TakesLinesOfSeveralCommands)
@@ -141,51 +140,65 @@ TEST_F(JournalTest, TakesLinesOfSeveralCommands)
     }
     archive::Journal third;
     openIn(third);
-    EXPECT_EQ(third.find(0), record(a, 99));
-    EXPECT_EQ(third.find(1), record(b, 99));
+    EXPECT_EQ(third.find(0, options), record(a, 99));
+    EXPECT_EQ(third.find(1, options), record(b, 99));
 }
 
-TEST_F(JournalTest, DoesNotGrowForEver)
+TEST_F(JournalTest, KeepsARecordForEachSetOfOptions)
 {
-    QByteArray lines = archive::lineOf(record(a));
-    for (int turn = 0; turn <= archive::ToleratedRecords; ++turn) {
-        lines += archive::lineOf(record(b, turn));
-    }
-    folder.write(name, lines);
+    archive::JournalRecord other = record(a, 2);
+    other.options = u"others"_s;
+    other.outputs = {{u"a/x.pdf"_s, 1, 1}};
+    folder.write(name, archive::lineOf(record(a, 1)) + archive::lineOf(other) +
+                           archive::lineOf(record(a, 3)));
     archive::Journal journal;
     openIn(journal);
+    EXPECT_EQ(journal.find(0, options), record(a, 3));
+    EXPECT_EQ(journal.find(0, u"others"_s), other);
+    EXPECT_FALSE(journal.find(0, u"none"_s));
+    EXPECT_EQ(journal.outputsOf(0), other.outputs + record(a).outputs);
+    EXPECT_TRUE(journal.outputsOf(1).isEmpty());
+}
+
+TEST_F(JournalTest, IsRewrittenWithoutReplacedRecords)
+{
+    archive::JournalRecord other = record(b, 7);
+    other.options = u"others"_s;
+    folder.write(name, archive::lineOf(record(b, 1)) + archive::lineOf(other) +
+                           archive::lineOf(record(a)) + archive::lineOf(record(b, 2)) + "torn");
+    archive::Journal journal;
+    ASSERT_EQ(journal.open(folder.path(), {}, inputs(), true), QString());
     EXPECT_EQ(folder.read(name),
-              archive::lineOf(record(a)) +
-                  archive::lineOf(record(b, static_cast<int>(archive::ToleratedRecords))));
-    EXPECT_EQ(journal.find(0), record(a));
+              archive::lineOf(other) + archive::lineOf(record(a)) + archive::lineOf(record(b, 2)));
+    EXPECT_EQ(journal.find(0, options), record(a));
+    EXPECT_EQ(journal.find(1, options), record(b, 2));
 }
 
 TEST_F(JournalTest, IsNotRewrittenWhileAnotherCommandUsesIt)
 {
     archive::Journal other;
     openIn(other);
-    for (int turn = 0; turn <= archive::ToleratedRecords + 1; ++turn) {
-        other.append(record(b, turn));
-    }
+    EXPECT_TRUE(other.append(record(b, 1)));
+    EXPECT_TRUE(other.append(record(b, 2)));
     const QByteArray before = folder.read(name);
     archive::Journal journal;
-    openIn(journal);
+    ASSERT_EQ(journal.open(folder.path(), {}, inputs(), true), QString());
     EXPECT_EQ(folder.read(name), before);
 }
 
 TEST_F(JournalTest, KnowsTheSavedLabelsOfAFolder)
 {
     archive::JournalRecord saved = record(a);
-    saved.outputs = {{QStringLiteral("x/a.label"), 1, 1}, {QStringLiteral("x/a.png"), 1, 1}};
+    saved.outputs = {{u"x/a.label"_s, 1, 1}, {u"x/a.png"_s, 1, 1}};
     folder.write(name, archive::lineOf(saved));
-    EXPECT_EQ(archive::Journal::outputsIn(folder.path(), QStringLiteral(".label")),
-              QSet<QString>{folder.path(QStringLiteral("x/a.label"))});
+    const QHash<QString, QString> expected{{folder.path(u"x/a.label"_s), a}};
+    EXPECT_EQ(archive::Journal::sourcesOfOutputs(folder.path(), u".label"_s), expected);
 }
 
 TEST_F(JournalTest, CannotBeWrittenWhereNothingCan)
 {
     archive::Journal journal;
-    EXPECT_FALSE(journal.open(QStringLiteral("/proc"), {}, inputs()).isEmpty());
+    EXPECT_FALSE(journal.open(u"/proc"_s, {}, inputs()).isEmpty());
 }
 
 class DoneTest : public ::testing::Test
@@ -193,17 +206,16 @@ class DoneTest : public ::testing::Test
 protected:
     DoneTest()
     {
-        archive::FileStamp output = *archive::stampOf(folder.write(QStringLiteral("out/x.png")));
-        output.path = QStringLiteral("x.png");
-        record = {{QStringLiteral("/in/a.cnv"), 1, 2},
-                  QStringLiteral("options"),
-                  QStringLiteral("1.0"),
-                  archive::Fate::Done,
+        archive::FileStamp output = *archive::stampOf(folder.write(u"out/x.png"_s));
+        output.path = u"x.png"_s;
+        record = {{u"/in/a.cnv"_s, 1, 2},
+                  u"options"_s,
+                  u"1.0"_s,
+                  archive::FileOutcome::Done,
                   {},
                   {output},
                   {}};
-        expected = {record.input, record.options, record.version,
-                    folder.path(QStringLiteral("out")), false};
+        expected = {record.input, record.options, record.version, folder.path(u"out"_s), false};
     }
 
     TestFolder folder;
@@ -218,7 +230,7 @@ TEST_F(DoneTest, IsWhatIsAsItWas)
 
 TEST_F(DoneTest, IsNothingThatFailed)
 {
-    record.fate = archive::Fate::Failed;
+    record.outcome = archive::FileOutcome::Failed;
     EXPECT_FALSE(archive::isDone(record, expected));
 }
 
@@ -233,25 +245,25 @@ TEST_F(DoneTest, IsNotAChangedFile)
 
 TEST_F(DoneTest, IsNotWhatWasDoneInAnotherWay)
 {
-    expected.options = QStringLiteral("others");
+    expected.options = u"others"_s;
     EXPECT_FALSE(archive::isDone(record, expected));
 }
 
 TEST_F(DoneTest, IsNotWhatAnotherVersionDid)
 {
-    expected.version = QStringLiteral("1.1");
+    expected.version = u"1.1"_s;
     EXPECT_FALSE(archive::isDone(record, expected));
 }
 
 TEST_F(DoneTest, IsNotWhatHasLostAnOutput)
 {
-    QFile::remove(folder.path(QStringLiteral("out/x.png")));
+    QFile::remove(folder.path(u"out/x.png"_s));
     EXPECT_FALSE(archive::isDone(record, expected));
 }
 
 TEST_F(DoneTest, IsNotWhatHasAChangedOutput)
 {
-    folder.write(QStringLiteral("out/x.png"), "edited");
+    folder.write(u"out/x.png"_s, "edited");
     EXPECT_FALSE(archive::isDone(record, expected));
 }
 
@@ -259,18 +271,17 @@ TEST_F(DoneTest, IsOnlyWhatHasAReportIfOneIsNeeded)
 {
     expected.reportNeeded = true;
     EXPECT_FALSE(archive::isDone(record, expected));
-    record.report = {{QStringLiteral("file"), QStringLiteral("a")}};
+    record.report = {{u"file"_s, u"a"_s}};
     EXPECT_TRUE(archive::isDone(record, expected));
 }
 
 TEST(Fingerprint, IsThatOfOptionsAndOutputs)
 {
-    const QJsonObject options{{QStringLiteral("dpi"), 300}};
-    const QString print = archive::fingerprintOf(options, {QStringLiteral("a.png")});
-    EXPECT_EQ(print, archive::fingerprintOf(options, {QStringLiteral("a.png")}));
-    EXPECT_NE(print, archive::fingerprintOf(options, {QStringLiteral("b.png")}));
-    EXPECT_NE(print,
-              archive::fingerprintOf({{QStringLiteral("dpi"), 301}}, {QStringLiteral("a.png")}));
+    const QJsonObject options{{u"dpi"_s, 300}};
+    const QString print = archive::fingerprintOf(options, {u"a.png"_s});
+    EXPECT_EQ(print, archive::fingerprintOf(options, {u"a.png"_s}));
+    EXPECT_NE(print, archive::fingerprintOf(options, {u"b.png"_s}));
+    EXPECT_NE(print, archive::fingerprintOf({{u"dpi"_s, 301}}, {u"a.png"_s}));
 }
 
 } // namespace

@@ -5,18 +5,18 @@
 #include <gtest/gtest.h>
 
 namespace {
+using namespace Qt::StringLiterals;
 
-const QString Strange = QStringLiteral("a \"b\"\n\\ \u00e4 \U0001F3F7");
+const QString Strange = u"a \"b\"\n\\ \u00e4 \U0001F3F7"_s;
 
 TEST(Messages, CarryAJob)
 {
     const archive::Job job{Strange,
-                           QStringLiteral("shown"),
-                           {{QStringLiteral("png"), QStringLiteral("out/a.png")},
-                            {QStringLiteral("svg"), QStringLiteral("out/a.svg")}},
-                           QStringLiteral("staging"),
-                           {{QStringLiteral("out/a.png"), 1LL << 40, 1'700'000'000'123}},
-                           {{QStringLiteral("dpi"), 300}}};
+                           u"shown"_s,
+                           {{u"png"_s, u"out/a.png"_s}, {u"svg"_s, u"out/a.svg"_s}},
+                           u"staging"_s,
+                           {{u"out/a.png"_s, 1LL << 40, 1'700'000'000'123}},
+                           {{u"dpi"_s, 300}}};
     const QByteArray line = archive::lineOf(job);
     EXPECT_EQ(line.count('\n'), 1);
     EXPECT_TRUE(line.endsWith('\n'));
@@ -25,16 +25,15 @@ TEST(Messages, CarryAJob)
 
 TEST(Messages, CarryAResult)
 {
-    for (const archive::Fate fate :
-         {archive::Fate::Done, archive::Fate::Failed, archive::Fate::Crashed,
-          archive::Fate::TimedOut, archive::Fate::OutOfMemory}) {
-        const archive::FileResult result{
-            fate,
-            {Strange},
-            {QStringLiteral("one"), QStringLiteral("two")},
-            {{QStringLiteral("staged"), {QStringLiteral("out"), 5, 6}, true}},
-            {{QStringLiteral("file"), Strange}},
-            12'345'678'901};
+    for (const archive::FileOutcome outcome :
+         {archive::FileOutcome::Done, archive::FileOutcome::Failed, archive::FileOutcome::Crashed,
+          archive::FileOutcome::TimedOut, archive::FileOutcome::OutOfMemory}) {
+        const archive::FileResult result{outcome,
+                                         {Strange},
+                                         {u"one"_s, u"two"_s},
+                                         {{u"staged"_s, {u"out"_s, 5, 6}, true}},
+                                         {{u"file"_s, Strange}},
+                                         12'345'678'901};
         const QByteArray line = archive::lineOf(result);
         EXPECT_EQ(line.count('\n'), 1);
         EXPECT_EQ(archive::resultFromLine(line), result);
@@ -50,7 +49,7 @@ TEST(Messages, ThatAreTornAreNone)
     EXPECT_FALSE(archive::jobFromLine(result));
     EXPECT_FALSE(archive::resultFromLine(job));
     EXPECT_FALSE(archive::resultFromLine("[]"));
-    EXPECT_FALSE(archive::resultFromLine(R"({"fate":"happy"})"));
+    EXPECT_FALSE(archive::resultFromLine(R"({"outcome":"happy"})"));
 }
 
 } // namespace

@@ -7,26 +7,26 @@
 #include <algorithm>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 QList<archive::Input> inputsOf(const QStringList& names)
 {
     QList<archive::Input> inputs;
     for (const QString& name : names) {
         // "folder>file" is a file that keeps a folder.
-        const QStringList parts = name.split(QLatin1Char('>'));
+        const QStringList parts = name.split(u'>');
         inputs.append({parts.last(), parts.last(), parts.size() > 1 ? parts.first() : QString()});
     }
     return inputs;
 }
 
-QStringList outputsOf(const QStringList& names,
-                      const QStringList& suffixes = {QStringLiteral("png")})
+QStringList outputsOf(const QStringList& names, const QStringList& suffixes = {u"png"_s})
 {
     const QList<archive::Input> inputs = inputsOf(names);
     const archive::OutputNames plan(inputs, suffixes);
     QStringList outputs;
     for (qsizetype index = 0; index < inputs.size(); ++index) {
-        outputs.append(plan.isContested(index) ? QStringLiteral("contested")
+        outputs.append(plan.isContested(index) ? u"contested"_s
                                                : plan.output(index, suffixes.first()));
     }
     return outputs;
@@ -34,7 +34,7 @@ QStringList outputsOf(const QStringList& names,
 
 QStringList list(const char* names)
 {
-    return QString::fromLatin1(names).split(QLatin1Char(' '));
+    return QString::fromLatin1(names).split(u' ');
 }
 
 TEST(OutputNames, AreThoseOfTheInputs)

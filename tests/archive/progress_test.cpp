@@ -1,14 +1,16 @@
 // The line that tells how far an archive is.
 
 #include "archive/progress.h"
+#include "console/file_name.h"
 
 #include <gtest/gtest.h>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 TEST(Progress, TellsRateTimeLeftAndFailures)
 {
-    const archive::Progress half{1000, 500, 0, 3, 10'000};
+    const archive::Progress half{1000, 500, 0, 3, 10'000, {}, 0};
     EXPECT_EQ(archive::progressLine(half, 120),
               QStringLiteral("[###############...............]  500/1000  50 files/s  0:10 left  "
                              "3 failed"));
@@ -16,32 +18,44 @@ TEST(Progress, TellsRateTimeLeftAndFailures)
 
 TEST(Progress, CountsSkippedFilesAsDoneButNotAsWork)
 {
-    const archive::Progress resumed{1000, 510, 500, 0, 10'000};
-    EXPECT_TRUE(archive::progressLine(resumed, 120)
-                    .endsWith(QStringLiteral("510/1000  1.0 files/s  8:10 left")));
+    const archive::Progress resumed{1000, 510, 500, 0, 10'000, {}, 0};
+    EXPECT_TRUE(
+        archive::progressLine(resumed, 120).endsWith(u"510/1000  1.0 files/s  8:10 left"_s));
 }
 
 TEST(Progress, PromisesNothingBeforeTheFirstFile)
 {
-    EXPECT_EQ(archive::progressLine({10, 0, 0, 0, 0}, 120),
-              QStringLiteral("[..............................]  0/10"));
+    EXPECT_EQ(archive::progressLine({10, 0, 0, 0, 0, {}, 0}, 120),
+              u"[..............................]  0/10"_s);
+}
+
+TEST(Progress, NamesAFileThatTakesLong)
+{
+    archive::Progress progress{1000, 500, 0, 0, 10'000, {}, 0};
+    progress.slowFile = console::fileNameFromBytes("old/a\x1B\xF6.odg");
+    progress.slowMilliseconds = 65'000;
+    EXPECT_TRUE(archive::progressLine(progress, 120).endsWith(u"0:10 left  a\\x1B\\xF6.odg 1:05"_s))
+        << qPrintable(archive::progressLine(progress, 120));
+    progress.slowFile = QString(200, u'x');
+    EXPECT_TRUE(archive::progressLine(progress, 120).endsWith(u"x\u2026 1:05"_s));
 }
 
 TEST(Progress, FitsEveryTerminal)
 {
-    const archive::Progress progress{1000, 500, 0, 3, 10'000};
+    archive::Progress progress{1000, 500, 0, 3, 10'000, {}, 0};
+    progress.slowFile = QString(200, u'x');
     for (int columns = 0; columns < 120; ++columns) {
         EXPECT_LE(archive::progressLine(progress, columns).size(), columns);
     }
-    EXPECT_EQ(archive::progressLine(progress, 40).left(8), QStringLiteral("500/1000"));
+    EXPECT_EQ(archive::progressLine(progress, 40).left(8), u"500/1000"_s);
 }
 
 TEST(Progress, WritesDurationsAsClocksDo)
 {
-    EXPECT_EQ(archive::durationText(0), QStringLiteral("0:00"));
-    EXPECT_EQ(archive::durationText(65), QStringLiteral("1:05"));
-    EXPECT_EQ(archive::durationText(3599), QStringLiteral("59:59"));
-    EXPECT_EQ(archive::durationText(3723), QStringLiteral("1:02:03"));
+    EXPECT_EQ(archive::durationText(0), u"0:00"_s);
+    EXPECT_EQ(archive::durationText(65), u"1:05"_s);
+    EXPECT_EQ(archive::durationText(3599), u"59:59"_s);
+    EXPECT_EQ(archive::durationText(3723), u"1:02:03"_s);
 }
 
 } // namespace

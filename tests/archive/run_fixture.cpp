@@ -5,22 +5,23 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 RunFixture::RunFixture()
 {
-    settings.targets = {QStringLiteral("png")};
-    settings.outputFolder = folder.path(QStringLiteral("out"));
-    settings.version = QStringLiteral("1.0");
+    settings.targets = {u"png"_s};
+    settings.outputFolder = folder.path(u"out"_s);
+    settings.version = u"1.0"_s;
     settings.keepsJournal = true;
     settings.workers = 2;
     settings.limits = {300, 512};
-    settings.command = {QStringLiteral(ARCHIVE_TEST_PROGRAM),
-                        {QStringLiteral("worker"), QStringLiteral("512")}};
+    settings.command = {QStringLiteral(ARCHIVE_TEST_PROGRAM), {u"worker"_s, u"512"_s}};
 }
 
 void RunFixture::input(const QString& name, const QByteArray& content)
 {
-    const QString path = folder.write(QStringLiteral("in/") + name, content);
-    const qsizetype slash = name.lastIndexOf(QLatin1Char('/'));
+    const QString path = folder.write(u"in/"_s + name, content);
+    const qsizetype slash = name.lastIndexOf(u'/');
     inputs.append({path, name, slash < 0 ? QString() : name.left(slash)});
     std::sort(inputs.begin(), inputs.end(), [](const archive::Input& a, const archive::Input& b) {
         return a.shownName < b.shownName;
@@ -35,14 +36,14 @@ QStringList RunFixture::run()
     reports.clear();
     const QDir out(settings.outputFolder);
     archive::Run archive(inputs, settings, [&](const archive::Delivery& delivery) {
-        QString line = QStringLiteral("%1 %2:").arg(
-            delivery.isResumed ? QStringLiteral("resumed") : archive::nameOf(delivery.result.fate),
+        QString line = u"%1 %2:"_s.arg(
+            delivery.isResumed ? u"resumed"_s : archive::nameOf(delivery.result.outcome),
             delivery.input.shownName);
         for (const QString& file : delivery.written) {
-            line += QLatin1Char(' ') + out.relativeFilePath(file);
+            line += u' ' + out.relativeFilePath(file);
         }
         for (const QString& error : delivery.result.errors) {
-            line += QLatin1Char(' ') + error;
+            line += u' ' + error;
         }
         lines.append(line);
         reports.append(delivery.result.report);
@@ -56,7 +57,7 @@ QStringList RunFixture::run()
                      Qt::QueuedConnection);
     archive.start();
     loop.exec();
-    troubles = archive.troubles();
+    warnings = archive.warnings();
     progress = archive.progress();
     return lines;
 }
@@ -64,16 +65,15 @@ QStringList RunFixture::run()
 QStringList RunFixture::strays() const
 {
     QStringList names;
-    QDirIterator files(folder.path(QStringLiteral("out")),
+    QDirIterator files(folder.path(u"out"_s),
                        QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         files.next();
-        const bool isExpected =
-            files.fileInfo().isDir()
-                ? !files.fileName().startsWith(QLatin1Char('.'))
-                : files.fileName().endsWith(QStringLiteral(".png")) ||
-                      files.fileName().startsWith(QStringLiteral(".labelport-journal"));
+        const bool isExpected = files.fileInfo().isDir()
+                                    ? !files.fileName().startsWith(u'.')
+                                    : files.fileName().endsWith(u".png"_s) ||
+                                          files.fileName().startsWith(u".labelport-journal"_s);
         if (!isExpected) {
             names.append(files.fileName());
         }

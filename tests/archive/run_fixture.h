@@ -12,7 +12,7 @@ protected:
     /// Writes an input whose content tells the worker what to suffer.
     void input(const QString& name, const QByteArray& content);
 
-    /// Imports all inputs. What became of each comes as lines: "fate name: output output",
+    /// Imports all inputs. What became of each comes as lines: "outcome name: output output",
     /// with what went wrong behind it.
     QStringList run();
 
@@ -26,7 +26,7 @@ protected:
     TestFolder folder;
     archive::RunSettings settings;
     QList<archive::Input> inputs;
-    QStringList troubles; ///< of the last run
+    QStringList warnings; ///< of the last run
     archive::Progress progress;
     QList<QJsonObject> reports;
 };

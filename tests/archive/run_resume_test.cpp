@@ -3,14 +3,15 @@
 #include "tests/archive/run_fixture.h"
 
 namespace {
+using namespace Qt::StringLiterals;
 
 class ArchiveResume : public RunFixture
 {
 protected:
     ArchiveResume()
     {
-        input(QStringLiteral("a.cnv"), "pid");
-        input(QStringLiteral("b.cnv"), "pid");
+        input(u"a.cnv"_s, "pid");
+        input(u"b.cnv"_s, "pid");
     }
 
     /// The first letters of what became of a and b in a resumed run: r(esumed), d(one), f(ailed).
@@ -28,9 +29,9 @@ protected:
 TEST_F(ArchiveResume, LeavesOutWhatIsDone)
 {
     run();
-    const QByteArray before = output(QStringLiteral("a.png"));
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
-    EXPECT_EQ(output(QStringLiteral("a.png")), before);
+    const QByteArray before = output(u"a.png"_s);
+    EXPECT_EQ(resumed(), u"rr"_s);
+    EXPECT_EQ(output(u"a.png"_s), before);
     EXPECT_EQ(progress.skipped, 2);
     EXPECT_EQ(progress.done, 2);
 }
@@ -38,68 +39,82 @@ TEST_F(ArchiveResume, LeavesOutWhatIsDone)
 TEST_F(ArchiveResume, IsNoneUnlessItIsAsked)
 {
     run();
-    EXPECT_EQ(run().value(0), QStringLiteral("done a.cnv: a.png"));
+    EXPECT_EQ(run().value(0), u"done a.cnv: a.png"_s);
 }
 
 TEST_F(ArchiveResume, DoesChangedFilesAgain)
 {
     run();
-    input(QStringLiteral("a.cnv"), "ok longer now");
-    EXPECT_EQ(resumed(), QStringLiteral("dr"));
-    EXPECT_EQ(output(QStringLiteral("a.png")), "ok longer now");
+    input(u"a.cnv"_s, "ok longer now");
+    EXPECT_EQ(resumed(), u"dr"_s);
+    EXPECT_EQ(output(u"a.png"_s), "ok longer now");
 }
 
 TEST_F(ArchiveResume, DoesFilesAgainThatLostAnOutput)
 {
     run();
-    QFile::remove(folder.path(QStringLiteral("out/b.png")));
-    EXPECT_EQ(resumed(), QStringLiteral("rd"));
+    QFile::remove(folder.path(u"out/b.png"_s));
+    EXPECT_EQ(resumed(), u"rd"_s);
 }
 
 // What somebody changed is somebody's: it is neither taken for ours nor overwritten.
 TEST_F(ArchiveResume, DoesNotOverwriteAnOutputThatWasChanged)
 {
     run();
-    folder.write(QStringLiteral("out/b.png"), "edited by a person");
-    EXPECT_EQ(resumed(), QStringLiteral("rf"));
-    EXPECT_EQ(output(QStringLiteral("b.png")), "edited by a person");
+    folder.write(u"out/b.png"_s, "edited by a person");
+    EXPECT_EQ(resumed(), u"rf"_s);
+    EXPECT_EQ(output(u"b.png"_s), "edited by a person");
 }
 
 TEST_F(ArchiveResume, TriesWhatFailedAgain)
 {
-    input(QStringLiteral("b.cnv"), "fail");
+    input(u"b.cnv"_s, "fail");
     run();
-    EXPECT_EQ(resumed(), QStringLiteral("rf"));
-    input(QStringLiteral("b.cnv"), "ok");
-    EXPECT_EQ(resumed(), QStringLiteral("rd"));
+    EXPECT_EQ(resumed(), u"rf"_s);
+    input(u"b.cnv"_s, "ok");
+    EXPECT_EQ(resumed(), u"rd"_s);
 }
 
 TEST_F(ArchiveResume, DoesAllAgainWithOtherOptionsOrAnotherVersion)
 {
     run();
-    settings.options = {{QStringLiteral("dpi"), 600}};
-    EXPECT_EQ(resumed(), QStringLiteral("dd"));
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
-    settings.version = QStringLiteral("1.1");
-    EXPECT_EQ(resumed(), QStringLiteral("dd"));
+    settings.options = {{u"dpi"_s, 600}};
+    EXPECT_EQ(resumed(), u"dd"_s);
+    EXPECT_EQ(resumed(), u"rr"_s);
+    settings.version = u"1.1"_s;
+    EXPECT_EQ(resumed(), u"dd"_s);
+}
+
+// Labels, then documents, then labels again.
+TEST_F(ArchiveResume, RemembersOtherTargets)
+{
+    run();
+    settings.targets = QStringList{u"pdf"_s};
+    run();
+    settings.targets = QStringList{u"png"_s};
+    EXPECT_EQ(run().value(0), u"done a.cnv: a.png"_s) << "its own output is not known";
+    settings.targets = QStringList{u"pdf"_s};
+    run();
+    settings.targets = QStringList{u"png"_s};
+    EXPECT_EQ(resumed(), u"rr"_s);
 }
 
 TEST_F(ArchiveResume, MindsNotHowItIsDone)
 {
     run();
-    settings.manner = {{QStringLiteral("force"), true}};
+    settings.workerOptions = {{u"force"_s, true}};
     settings.workers = 1;
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
+    EXPECT_EQ(resumed(), u"rr"_s);
 }
 
 TEST_F(ArchiveResume, TellsTheReportsOfAllFiles)
 {
     settings.needsReports = true;
-    settings.manner = {{QStringLiteral("report"), true}};
+    settings.workerOptions = {{u"report"_s, true}};
     run();
     const QList<QJsonObject> whole = reports;
-    EXPECT_EQ(whole.value(1).value(QLatin1String("file")).toString(), QStringLiteral("b.cnv"));
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
+    EXPECT_EQ(whole.value(1).value("file"_L1).toString(), u"b.cnv"_s);
+    EXPECT_EQ(resumed(), u"rr"_s);
     EXPECT_EQ(reports, whole);
 }
 
@@ -107,8 +122,8 @@ TEST_F(ArchiveResume, DoesAgainWhatHasNoReportWhenOneIsNeeded)
 {
     run();
     settings.needsReports = true;
-    settings.manner = {{QStringLiteral("report"), true}};
-    EXPECT_EQ(resumed(), QStringLiteral("dd"));
+    settings.workerOptions = {{u"report"_s, true}};
+    EXPECT_EQ(resumed(), u"dd"_s);
 }
 
 // Records are written before outputs are put in their place.
@@ -116,12 +131,12 @@ TEST_F(ArchiveResume, GoesOnBehindATornJournal)
 {
     settings.workers = 1;
     run();
-    QFile::remove(folder.path(QStringLiteral("out/b.png")));
-    const QString journal = QStringLiteral("out/.labelport-journal.jsonl");
+    QFile::remove(folder.path(u"out/b.png"_s));
+    const QString journal = u"out/.labelport-journal.jsonl"_s;
     const QByteArray lines = folder.read(journal);
     folder.write(journal, lines.left(lines.size() - 30));
-    EXPECT_EQ(resumed(), QStringLiteral("rd"));
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
+    EXPECT_EQ(resumed(), u"rd"_s);
+    EXPECT_EQ(resumed(), u"rr"_s);
 }
 
 // Whatever a power cut makes of the journal, outputs that stand whole go on standing as they
@@ -129,9 +144,9 @@ TEST_F(ArchiveResume, GoesOnBehindATornJournal)
 TEST_F(ArchiveResume, KeepsWholeOutputsWhateverBecameOfTheJournal)
 {
     run();
-    const QString journal = QStringLiteral("out/.labelport-journal.jsonl");
+    const QString journal = u"out/.labelport-journal.jsonl"_s;
     const QByteArray lines = folder.read(journal);
-    const QByteArray before = output(QStringLiteral("a.png"));
+    const QByteArray before = output(u"a.png"_s);
     const qsizetype half = lines.size() / 2;
     const auto zeros = [](qsizetype count) { return QByteArray(count, '\0'); };
     const QList<QByteArray> damages{{},
@@ -147,8 +162,8 @@ TEST_F(ArchiveResume, KeepsWholeOutputsWhateverBecameOfTheJournal)
     for (const QByteArray& damage : damages) {
         SCOPED_TRACE(damage.left(60).toStdString());
         folder.write(journal, damage);
-        EXPECT_EQ(resumed().remove(QLatin1Char('r')).remove(QLatin1Char('f')), QString());
-        EXPECT_EQ(output(QStringLiteral("a.png")), before);
+        EXPECT_EQ(resumed().remove(u'r').remove(u'f'), QString());
+        EXPECT_EQ(output(u"a.png"_s), before);
         EXPECT_EQ(strays(), QStringList());
     }
 }
@@ -160,26 +175,25 @@ TEST_F(ArchiveResume, KnowsTheWorkOfAllParts)
         run();
     }
     settings.shard = {};
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
+    EXPECT_EQ(resumed(), u"rr"_s);
 }
 
 // The folder with its journal may be moved.
 TEST_F(ArchiveResume, WorksInAMovedFolder)
 {
     run();
-    ASSERT_TRUE(
-        QDir().rename(folder.path(QStringLiteral("out")), folder.path(QStringLiteral("moved"))));
-    settings.outputFolder = folder.path(QStringLiteral("moved"));
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
+    ASSERT_TRUE(QDir().rename(folder.path(u"out"_s), folder.path(u"moved"_s)));
+    settings.outputFolder = folder.path(u"moved"_s);
+    EXPECT_EQ(resumed(), u"rr"_s);
 }
 
 TEST_F(ArchiveResume, FindsItsOutputsFromARelativeFolder)
 {
     const QString before = QDir::currentPath();
     QDir::setCurrent(folder.path());
-    settings.outputFolder = QStringLiteral("out");
+    settings.outputFolder = u"out"_s;
     run();
-    EXPECT_EQ(resumed(), QStringLiteral("rr"));
+    EXPECT_EQ(resumed(), u"rr"_s);
     QDir::setCurrent(before);
 }
 

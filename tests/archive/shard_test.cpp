@@ -5,16 +5,17 @@
 #include <gtest/gtest.h>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 TEST(Shard, IsReadFromItsNumberAndTheirCount)
 {
-    const auto shard = archive::shardOf(QStringLiteral("3/8"));
+    const auto shard = archive::shardOf(u"3/8"_s);
     ASSERT_TRUE(shard);
     EXPECT_EQ(shard->number, 3);
     EXPECT_EQ(shard->count, 8);
     EXPECT_FALSE(shard->isWhole());
-    EXPECT_TRUE(archive::shardOf(QStringLiteral("1/1"))->isWhole());
-    EXPECT_TRUE(archive::shardOf(QStringLiteral("100000/100000")));
+    EXPECT_TRUE(archive::shardOf(u"1/1"_s)->isWhole());
+    EXPECT_TRUE(archive::shardOf(u"100000/100000"_s));
 }
 
 TEST(Shard, RefusesWhatIsNoPart)

@@ -6,11 +6,11 @@
 #include <QDateTime>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 QStringList stagingFolders(const TestFolder& folder)
 {
-    return QDir(folder.path())
-        .entryList({QStringLiteral(".labelport-work-*")}, QDir::Dirs | QDir::Hidden);
+    return QDir(folder.path()).entryList({u".labelport-work-*"_s}, QDir::Dirs | QDir::Hidden);
 }
 
 TEST(StagingArea, GoesWithItsValue)
@@ -18,11 +18,11 @@ TEST(StagingArea, GoesWithItsValue)
     const TestFolder folder;
     {
         archive::StagingArea staging;
-        EXPECT_EQ(staging.open(folder.path(QStringLiteral("out"))), QString());
+        EXPECT_EQ(staging.open(folder.path(u"out"_s)), QString());
         EXPECT_TRUE(QFileInfo(staging.path()).isDir());
         EXPECT_TRUE(QFileInfo(staging.emptySlot(3)).isDir());
     }
-    EXPECT_TRUE(QDir(folder.path(QStringLiteral("out")))
+    EXPECT_TRUE(QDir(folder.path(u"out"_s))
                     .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
@@ -32,7 +32,7 @@ TEST(StagingArea, EmptiesASlotThatIsUsedAgain)
     archive::StagingArea staging;
     ASSERT_EQ(staging.open(folder.path()), QString());
     const QString slot = staging.emptySlot(0);
-    QFile left(QDir(slot).filePath(QStringLiteral("1.png.XYZ")));
+    QFile left(QDir(slot).filePath(u"1.png.XYZ"_s));
     ASSERT_TRUE(left.open(QIODevice::WriteOnly));
     EXPECT_EQ(staging.emptySlot(0), slot);
     EXPECT_TRUE(QDir(slot).isEmpty());
@@ -41,8 +41,8 @@ TEST(StagingArea, EmptiesASlotThatIsUsedAgain)
 TEST(StagingArea, RemovesWhatAKilledCommandLeft)
 {
     const TestFolder folder;
-    folder.write(QStringLiteral(".labelport-work-dead/lock"));
-    folder.write(QStringLiteral(".labelport-work-dead/0/1.png"));
+    folder.write(u".labelport-work-dead/lock"_s);
+    folder.write(u".labelport-work-dead/0/1.png"_s);
     archive::StagingArea staging;
     ASSERT_EQ(staging.open(folder.path()), QString());
     EXPECT_EQ(stagingFolders(folder), QStringList{QFileInfo(staging.path()).fileName()});
@@ -57,7 +57,7 @@ TEST(StagingArea, LeavesThoseOfOtherCommandsAlone)
     ASSERT_EQ(second.open(folder.path()), QString());
     EXPECT_EQ(stagingFolders(folder).size(), 2);
     // One that was made this moment, and has no lock yet.
-    QDir(folder.path()).mkpath(QStringLiteral(".labelport-work-new"));
+    QDir(folder.path()).mkpath(u".labelport-work-new"_s);
     archive::StagingArea third;
     ASSERT_EQ(third.open(folder.path()), QString());
     EXPECT_EQ(stagingFolders(folder).size(), 4);
@@ -66,13 +66,10 @@ TEST(StagingArea, LeavesThoseOfOtherCommandsAlone)
 TEST(StagingArea, SaysWhyThereIsNone)
 {
     const TestFolder folder;
-    folder.write(QStringLiteral("file"));
+    folder.write(u"file"_s);
     archive::StagingArea staging;
-    EXPECT_TRUE(staging.open(folder.path(QStringLiteral("file/below")))
-                    .contains(QStringLiteral("cannot be made")));
-    EXPECT_TRUE(archive::StagingArea()
-                    .open(QStringLiteral("/proc"))
-                    .contains(QStringLiteral("Nothing can be written")));
+    EXPECT_TRUE(staging.open(folder.path(u"file/below"_s)).contains(u"Cannot create folder"_s));
+    EXPECT_TRUE(archive::StagingArea().open(u"/proc"_s).contains(u"Cannot write to \"/proc\""_s));
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 constexpr int PatienceMilliseconds = 60'000;
 
@@ -57,16 +58,16 @@ protected:
     StoppedArchive()
     {
         for (int number = 0; number < 10; ++number) {
-            folder.write(QStringLiteral("in/a%1.cnv").arg(number), "ok");
+            folder.write(u"in/a%1.cnv"_s.arg(number), "ok");
         }
     }
 
     void startCoordinator(QProcess& process, bool isResuming = false)
     {
-        QStringList arguments = {QStringLiteral("coordinate"), folder.path(QStringLiteral("in")),
-                                 folder.path(QStringLiteral("out")), QStringLiteral("2")};
+        QStringList arguments = {u"coordinate"_s, folder.path(u"in"_s), folder.path(u"out"_s),
+                                 u"2"_s};
         if (isResuming) {
-            arguments.append(QStringLiteral("resume"));
+            arguments.append(u"resume"_s);
         }
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process.start(QStringLiteral(ARCHIVE_TEST_PROGRAM), arguments);
@@ -86,20 +87,17 @@ protected:
         return worker.waitForWorker();
     }
 
-    QStringList outputs() const
-    {
-        return QDir(folder.path(QStringLiteral("out"))).entryList(QDir::Files);
-    }
+    QStringList outputs() const { return QDir(folder.path(u"out"_s)).entryList(QDir::Files); }
 
     QStringList hidden() const
     {
-        return QDir(folder.path(QStringLiteral("out")))
-            .entryList({QStringLiteral(".labelport-work*")}, QDir::Dirs | QDir::Hidden);
+        return QDir(folder.path(u"out"_s))
+            .entryList({u".labelport-work*"_s}, QDir::Dirs | QDir::Hidden);
     }
 
     TestFolder folder;
-    const QString badFile = folder.write(QStringLiteral("in/b.cnv"), "hang");
-    WorkerPipe worker{badFile + QStringLiteral(".hanging")};
+    const QString badFile = folder.write(u"in/b.cnv"_s, "hang");
+    WorkerPipe worker{badFile + u".hanging"_s};
 };
 
 class StoppingSignal : public StoppedArchive, public testing::WithParamInterface<int>
@@ -150,13 +148,13 @@ TEST_F(StoppedArchive, IsTakenUpAgainAfterItWasKilled)
         ASSERT_TRUE(coordinator.waitForFinished(PatienceMilliseconds));
     }
     EXPECT_EQ(hidden().size(), 1);
-    folder.write(QStringLiteral("in/b.cnv"), "ok now");
+    folder.write(u"in/b.cnv"_s, "ok now");
     QProcess again;
     startCoordinator(again, true);
     ASSERT_TRUE(again.waitForFinished(PatienceMilliseconds));
     EXPECT_EQ(again.exitCode(), 0);
     EXPECT_EQ(QString::fromLocal8Bit(again.readAllStandardOutput()),
-              folder.path(QStringLiteral("out/b.png")) + QLatin1Char('\n'));
+              folder.path(u"out/b.png"_s) + u'\n');
     EXPECT_EQ(outputs().size(), 11);
     EXPECT_EQ(hidden(), QStringList());
 }
@@ -167,11 +165,11 @@ TEST_F(StoppedArchive, TriesAFileAgainWhoseWorkerIsKilled)
     startCoordinator(coordinator);
     const qint64 pid = waitUntilItHangs(coordinator);
     ASSERT_GT(pid, 0);
-    folder.write(QStringLiteral("in/b.cnv"), "ok now");
+    folder.write(u"in/b.cnv"_s, "ok now");
     ::kill(static_cast<pid_t>(pid), SIGKILL);
     ASSERT_TRUE(coordinator.waitForFinished(PatienceMilliseconds));
     EXPECT_EQ(coordinator.exitCode(), 0);
-    EXPECT_EQ(folder.read(QStringLiteral("out/b.png")), "ok now");
+    EXPECT_EQ(folder.read(u"out/b.png"_s), "ok now");
 }
 
 } // namespace

@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <ostream>
+#include <system_error>
 
 /// Texts are shown as texts when a test fails.
 inline void PrintTo(const QString& text, std::ostream* stream)
@@ -19,6 +21,16 @@ inline void PrintTo(const QString& text, std::ostream* stream)
 class TestFolder
 {
 public:
+    TestFolder() = default;
+    // QTemporaryDir cannot remove names that are not UTF-8.
+    ~TestFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_folder.path().toStdString(), ignored);
+    }
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
     QString path(const QString& name = {}) const
     {
         return name.isEmpty() ? m_folder.path() : m_folder.filePath(name);

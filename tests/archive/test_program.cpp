@@ -3,7 +3,7 @@
 //   archive_test_program coordinate IN OUT WORKERS [resume]
 
 #include "archive/input_list.h"
-#include "archive/memory_bound.h"
+#include "archive/memory_limit.h"
 #include "archive/run.h"
 #include "archive/stop_signals.h"
 #include "tests/archive/test_worker.h"
@@ -13,18 +13,18 @@
 #include <cstdio>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 archive::RunSettings settingsFrom(const QStringList& arguments)
 {
     archive::RunSettings settings;
-    settings.targets = {QStringLiteral("png")};
+    settings.targets = {u"png"_s};
     settings.outputFolder = arguments.at(1);
     settings.workers = arguments.at(2).toInt();
-    settings.isResuming = arguments.contains(QStringLiteral("resume"));
+    settings.isResuming = arguments.contains(u"resume"_s);
     settings.keepsJournal = true;
     settings.limits = {0, 512};
-    settings.command = {QCoreApplication::applicationFilePath(),
-                        {QStringLiteral("worker"), QStringLiteral("512")}};
+    settings.command = {QCoreApplication::applicationFilePath(), {u"worker"_s, u"512"_s}};
     return settings;
 }
 
@@ -32,11 +32,11 @@ int coordinate(const QStringList& arguments)
 {
     archive::InputRequest request;
     request.arguments = QStringList{arguments.at(0)};
-    request.suffixes = QStringList{QStringLiteral("cnv")};
+    request.suffixes = QStringList{u"cnv"_s};
     const archive::InputList list = archive::listInputs(request);
     archive::Run run(list.inputs, settingsFrom(arguments), [](const archive::Delivery& delivery) {
         if (!delivery.isResumed) {
-            std::printf("%s\n", qPrintable(delivery.written.join(QLatin1Char(' '))));
+            std::printf("%s\n", qPrintable(delivery.written.join(u' ')));
             std::fflush(stdout);
         }
     });
@@ -60,9 +60,9 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
     const QString mode = arguments.isEmpty() ? QString() : arguments.takeFirst();
-    if (mode == QLatin1String("worker")) {
-        archive::boundMemory(arguments.value(0).toInt());
+    if (mode == "worker"_L1) {
+        archive::limitMemory(arguments.value(0).toInt());
         return archive::runWorker(&suffer);
     }
-    return mode == QLatin1String("coordinate") && arguments.size() >= 3 ? coordinate(arguments) : 2;
+    return mode == "coordinate"_L1 && arguments.size() >= 3 ? coordinate(arguments) : 2;
 }

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 QByteArray contentOf(const QString& path)
 {
@@ -29,7 +30,7 @@ void leave(const QString& path, const QByteArray& bytes)
 
 bool isMetFirst(const QString& path)
 {
-    const QString mark = path + QStringLiteral(".met");
+    const QString mark = path + u".met"_s;
     const bool isFirst = !QFileInfo::exists(mark);
     leave(mark, {});
     return isFirst;
@@ -38,7 +39,7 @@ bool isMetFirst(const QString& path)
 /// Writes its number into "FILE.hanging", which may be a pipe, and keeps that open until the end.
 [[noreturn]] void hang(const QString& path)
 {
-    QFile sign(path + QStringLiteral(".hanging"));
+    QFile sign(path + u".hanging"_s);
     if (sign.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         sign.write(QByteArray::number(::getpid()));
     }
@@ -70,18 +71,17 @@ void takeAllMemoryUnasked()
 archive::FileResult write(const archive::Job& job, const QByteArray& bytes)
 {
     archive::FileResult result;
-    result.fate = archive::Fate::Done;
+    result.outcome = archive::FileOutcome::Done;
     for (const archive::PlannedFile& output : job.outputs) {
-        const QString staged =
-            QDir(job.staging).filePath(QStringLiteral("staged.") + output.target);
+        const QString staged = QDir(job.staging).filePath(u"staged."_s + output.target);
         leave(staged, bytes);
         archive::FileStamp stamp = *archive::stampOf(staged);
         const auto known = archive::stampOf(output.path);
         stamp.path = output.path;
         result.files.append({staged, stamp, known && job.known.contains(*known)});
     }
-    if (job.options.value(QLatin1String("report")).toBool()) {
-        result.report = {{QStringLiteral("file"), job.shownName}};
+    if (job.options.value("report"_L1).toBool()) {
+        result.report = {{u"file"_s, job.shownName}};
     }
     return result;
 }
@@ -89,14 +89,14 @@ archive::FileResult write(const archive::Job& job, const QByteArray& bytes)
 archive::FileResult failure()
 {
     archive::FileResult result;
-    result.warnings = QStringList{QStringLiteral("take care")};
-    result.errors = QStringList{QStringLiteral("it failed")};
+    result.warnings = QStringList{u"take care"_s};
+    result.errors = QStringList{u"it failed"_s};
     return result;
 }
 
 } // namespace
 
-archive::FileResult suffer(const archive::Job& job, const archive::SignOfLife& alive)
+archive::FileResult suffer(const archive::Job& job, const archive::Heartbeat& heartbeat)
 {
     const QByteArray content = contentOf(job.file);
     const QByteArray word = content.split(' ').first();
@@ -120,7 +120,7 @@ archive::FileResult suffer(const archive::Job& job, const archive::SignOfLife& a
     }
     if (word == "alive") {
         for (int step = 0; step < 3; ++step) {
-            alive();
+            heartbeat();
         }
     }
     if (word == "fail") {

@@ -13,4 +13,5 @@
 ///   hang        does not come to an end; tells its process in FILE.hanging
 ///   slow        gets on, but takes longer than two seconds
 ///   pid         writes the number of the process to every output
-[[nodiscard]] archive::FileResult suffer(const archive::Job& job, const archive::SignOfLife& alive);
+[[nodiscard]] archive::FileResult suffer(const archive::Job& job,
+                                         const archive::Heartbeat& heartbeat);

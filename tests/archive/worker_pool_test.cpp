@@ -7,6 +7,7 @@
 #include <QEventLoop>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 /// Files one after the other for one worker, who tells the number of its process each time.
 class Client final : public archive::PoolClient
@@ -25,20 +26,20 @@ public:
     {
         EXPECT_EQ(slot, 0);
         archive::Job job;
-        job.file = m_folder.write(QStringLiteral("%1.cnv").arg(task), "pid");
+        job.file = m_folder.write(u"%1.cnv"_s.arg(task), "pid");
         job.staging = m_folder.path();
-        job.outputs = {{QStringLiteral("png"), QStringLiteral("unused")}};
+        job.outputs = {{u"png"_s, u"unused"_s}};
         return archive::lineOf(job);
     }
 
     qint64 taskAnswered(qsizetype task, const QByteArray& line) override
     {
         EXPECT_TRUE(archive::resultFromLine(line));
-        workers.append(m_folder.read(QStringLiteral("staged.png")));
+        workers.append(m_folder.read(u"staged.png"_s));
         return archive::WorkerPool::MaximumMemory - (task == wornAfter ? 0 : 1);
     }
 
-    void taskDied(qsizetype, const archive::WorkerDeath&) override { ADD_FAILURE(); }
+    void taskFailed(qsizetype, const archive::WorkerEnd&) override { ADD_FAILURE(); }
 
     QList<QByteArray> workers;
     qsizetype wornAfter = -1;
@@ -52,9 +53,7 @@ private:
 void run(Client& client)
 {
     archive::WorkerPool pool(
-        client,
-        {QStringLiteral(ARCHIVE_TEST_PROGRAM), {QStringLiteral("worker"), QStringLiteral("512")}},
-        {}, 1);
+        client, {QStringLiteral(ARCHIVE_TEST_PROGRAM), {u"worker"_s, u"512"_s}}, {}, 1);
     QEventLoop loop;
     QObject::connect(&pool, &archive::WorkerPool::drained, &loop, &QEventLoop::quit,
                      Qt::QueuedConnection);
@@ -87,31 +86,31 @@ TEST(WorkerPool, IsDoneAtOnceWithoutTasks)
     EXPECT_TRUE(client.workers.isEmpty());
 }
 
-TEST(WorkerDeath, IsPutIntoWords)
+TEST(WorkerEnd, HasAMessage)
 {
     const archive::WorkerLimits limits{7, 300};
-    const auto words = [&](archive::WorkerDeath::Kind kind, int code) {
-        return archive::wordsFor({kind, code}, limits);
+    const auto words = [&](archive::WorkerEnd::Kind kind, int code) {
+        return archive::messageFor({kind, code}, limits);
     };
-    EXPECT_TRUE(words(archive::WorkerDeath::TimedOut, 9).contains(QStringLiteral("7 seconds")));
-    EXPECT_TRUE(words(archive::WorkerDeath::Exited, archive::WorkerExitOutOfMemory)
-                    .contains(QStringLiteral("300 MiB")));
-    EXPECT_TRUE(words(archive::WorkerDeath::Signalled, 11).contains(QStringLiteral("SIGSEGV")));
-    EXPECT_TRUE(words(archive::WorkerDeath::Signalled, 9).contains(QStringLiteral("killed")));
-    EXPECT_TRUE(words(archive::WorkerDeath::Exited, 5).contains(QStringLiteral("status 5")));
+    EXPECT_TRUE(words(archive::WorkerEnd::TimedOut, 9).contains(u"7 second"_s));
+    EXPECT_TRUE(
+        words(archive::WorkerEnd::Exited, archive::WorkerExitOutOfMemory).contains(u"300 MiB"_s));
+    EXPECT_TRUE(words(archive::WorkerEnd::Signalled, 11).contains(u"SIGSEGV"_s));
+    EXPECT_TRUE(words(archive::WorkerEnd::Signalled, 9).contains(u"killed"_s));
+    EXPECT_TRUE(words(archive::WorkerEnd::Exited, 5).contains(u"status 5"_s));
 }
 
-TEST(WorkerDeath, DecidesAboutItsFile)
+TEST(WorkerEnd, DecidesTheOutcome)
 {
-    using Death = archive::WorkerDeath;
-    EXPECT_EQ(archive::fateOf({Death::TimedOut, 9}), archive::Fate::TimedOut);
-    EXPECT_EQ(archive::fateOf({Death::Exited, archive::WorkerExitOutOfMemory}),
-              archive::Fate::OutOfMemory);
-    EXPECT_EQ(archive::fateOf({Death::Exited, 0}), archive::Fate::Crashed);
-    EXPECT_EQ(archive::fateOf({Death::Signalled, 11}), archive::Fate::Crashed);
-    EXPECT_EQ(archive::fateOf({Death::Garbled, 0}), archive::Fate::Crashed);
-    EXPECT_FALSE((Death{Death::TimedOut, 9}.deservesAnotherTry()));
-    EXPECT_TRUE((Death{Death::Signalled, 11}.deservesAnotherTry()));
+    using End = archive::WorkerEnd;
+    EXPECT_EQ(archive::outcomeOf({End::TimedOut, 9}), archive::FileOutcome::TimedOut);
+    EXPECT_EQ(archive::outcomeOf({End::Exited, archive::WorkerExitOutOfMemory}),
+              archive::FileOutcome::OutOfMemory);
+    EXPECT_EQ(archive::outcomeOf({End::Exited, 0}), archive::FileOutcome::Crashed);
+    EXPECT_EQ(archive::outcomeOf({End::Signalled, 11}), archive::FileOutcome::Crashed);
+    EXPECT_EQ(archive::outcomeOf({End::Garbled, 0}), archive::FileOutcome::Crashed);
+    EXPECT_FALSE((End{End::TimedOut, 9}.mayBeRetried()));
+    EXPECT_TRUE((End{End::Signalled, 11}.mayBeRetried()));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "tests/cli/program_fixture.h"
 
 namespace {
+using namespace Qt::StringLiterals;
 
 cli::ImportOptions accepted(const char* line)
 {
@@ -15,11 +16,14 @@ cli::ImportOptions accepted(const char* line)
     return {};
 }
 
+/// The message about wrong arguments; empty if they are accepted.
 QString refusal(const char* line)
 {
+    testing::internal::CaptureStderr();
     const auto result = cli::parseImportArguments(words(line));
-    const auto* error = std::get_if<cli::UsageError>(&result);
-    return error != nullptr ? error->message : QString();
+    const QString printed = QString::fromStdString(testing::internal::GetCapturedStderr());
+    const int* status = std::get_if<int>(&result);
+    return status != nullptr && *status == 2 ? printed.section(u'\n', 0, 0).mid(2) : QString();
 }
 
 TEST(ArchiveOptions, HaveDefaults)
@@ -49,8 +53,8 @@ TEST(ArchiveOptions, AreTakenOver)
     EXPECT_TRUE(options.resume);
     EXPECT_TRUE(options.quiet);
     EXPECT_EQ(options.job.reader, ReaderKind::Orvanta);
-    EXPECT_EQ(options.base, QStringLiteral("old"));
-    EXPECT_EQ(options.filesFrom, QStringLiteral("list"));
+    EXPECT_EQ(options.base, u"old"_s);
+    EXPECT_EQ(options.filesFrom, u"list"_s);
     EXPECT_TRUE(options.isNullSeparated);
 }
 
@@ -66,7 +70,7 @@ TEST(ArchiveOptions, NeedAReportWhereLossesAreLookedFor)
     const cli::ImportOptions options = accepted("old --report a.json --report b.HTML");
     EXPECT_TRUE(options.job.report);
     EXPECT_EQ(options.reports, words("a.json b.HTML"));
-    EXPECT_TRUE(refusal("old --report a.txt").contains(QStringLiteral(".json or .html")));
+    EXPECT_TRUE(refusal("old --report a.txt").contains(u".json or .html"_s));
 }
 
 TEST(ArchiveOptions, AreBounded)
@@ -75,7 +79,7 @@ TEST(ArchiveOptions, AreBounded)
                              "old --timeout 1.5", "old --memory-limit -1", "old --memory-limit 127",
                              "old --shard 0/2", "old --shard 3/2", "old --shard 1"}) {
         SCOPED_TRACE(line);
-        EXPECT_TRUE(refusal(line).contains(QStringLiteral(" takes ")));
+        EXPECT_TRUE(refusal(line).contains(u" expects "_s));
     }
     EXPECT_EQ(accepted("old --timeout 0 --memory-limit 0").limits.memoryMiB, 0);
 }
@@ -85,25 +89,37 @@ TEST(ArchiveOptions, KnowTheReaders)
     EXPECT_EQ(accepted("- --reader tavrel").job.reader, ReaderKind::Tavrel);
     EXPECT_EQ(accepted("a --reader opendocument").job.reader, ReaderKind::OpenDocument);
     EXPECT_EQ(refusal("a --reader qmtx"),
-              QStringLiteral("\"qmtx\" is no reader; --reader takes: tavrel, orvanta, "
-                             "opendocument."));
+              u"Unknown reader \"qmtx\". Supported readers: tavrel, orvanta, opendocument."_s);
+    EXPECT_TRUE(refusal("a --reader travel").endsWith(u"Did you mean \"tavrel\"?"_s));
 }
 
-TEST(ArchiveOptions, AskWhatStandardInputIs)
+TEST(ArchiveOptions, TakeStandardInputOnce)
 {
-    EXPECT_TRUE(refusal("-").contains(QStringLiteral("--reader must say")));
-    EXPECT_TRUE(refusal("- --reader tavrel --files-from -").contains(QStringLiteral("not both")));
+    EXPECT_EQ(accepted("-").files, QStringList{u"-"_s});
+    EXPECT_TRUE(refusal("- --files-from -").contains(u"not both"_s));
     EXPECT_EQ(accepted("--files-from -").files, QStringList());
 }
 
-// Workers are told by JSON what the command line said.
+TEST(ArchiveOptions, AreRefusedWithoutEffect)
+{
+    EXPECT_TRUE(refusal("a --null").contains(u"--null has no effect"_s));
+    EXPECT_TRUE(refusal("a --base /nonexistent").contains(u"--base has no effect"_s));
+    EXPECT_TRUE(refusal("a/b --base a").contains(u"--base has no effect"_s));
+    EXPECT_TRUE(refusal("/ --base /").contains(u"--base has no effect"_s));
+    EXPECT_TRUE(refusal("- --base .").contains(u"--base has no effect"_s));
+    EXPECT_TRUE(refusal("--files-from a --files-from b").contains(u"only once"_s));
+    EXPECT_EQ(accepted("a/b/c --base a").base, u"a"_s);
+    EXPECT_EQ(accepted("--files-from a --base b").base, u"b"_s);
+}
+
+// Workers get the options as JSON.
 TEST(JobOptions, SurviveTheirJson)
 {
     for (const char* line : {"a", "a --dpi 72 --records 2-9 --force --reader tavrel",
                              "a --records all", "a --report a.json"}) {
         SCOPED_TRACE(line);
         const cli::JobOptions options = accepted(line).job;
-        QJsonObject object = cli::decisiveOptions(options);
+        QJsonObject object = cli::outputOptions(options);
         const QJsonObject others = cli::otherOptions(options);
         for (auto entry = others.begin(); entry != others.end(); ++entry) {
             object.insert(entry.key(), entry.value());
@@ -119,9 +135,9 @@ TEST(JobOptions, SurviveTheirJson)
     }
 }
 
-TEST(JobOptions, KnowWhatDecidesAboutOutputs)
+TEST(JobOptions, SeparateThoseThatChangeOutputs)
 {
-    const auto decisive = [](const char* line) { return cli::decisiveOptions(accepted(line).job); };
+    const auto decisive = [](const char* line) { return cli::outputOptions(accepted(line).job); };
     EXPECT_EQ(decisive("a"), decisive("a --force --report r.json --jobs 5"));
     for (const char* other :
          {"a --dpi 72", "a --records 2", "a --records all", "a --reader tavrel"}) {

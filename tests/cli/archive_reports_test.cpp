@@ -7,16 +7,17 @@
 #include <QTemporaryDir>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 archive::Input input()
 {
-    return {QStringLiteral("/in/a.cnv"), QStringLiteral("a.cnv"), {}};
+    return {u"/in/a.cnv"_s, u"a.cnv"_s, {}};
 }
 
 archive::FileResult resultWith(const migration::FileReport& report)
 {
     archive::FileResult result;
-    result.fate = archive::Fate::Done;
+    result.outcome = archive::FileOutcome::Done;
     result.report = migration::toJson(report);
     return result;
 }
@@ -24,7 +25,7 @@ archive::FileResult resultWith(const migration::FileReport& report)
 migration::FileReport imported()
 {
     migration::FileReport report;
-    report.file = QStringLiteral("a.cnv");
+    report.file = u"a.cnv"_s;
     report.status = migration::Status::Imported;
     return report;
 }
@@ -33,8 +34,7 @@ TEST(FinalReport, HasTheOutputsThatStand)
 {
     const archive::Input file = input();
     const archive::FileResult result = resultWith(imported());
-    const migration::FileReport report =
-        cli::finalReport({file, result, {QStringLiteral("out/a.png")}, false});
+    const migration::FileReport report = cli::finalReport({file, result, {u"out/a.png"_s}, false});
     EXPECT_EQ(report.status, migration::Status::Imported);
     EXPECT_EQ(report.outputs, words("out/a.png"));
 }
@@ -44,30 +44,30 @@ TEST(FinalReport, FailsWhereAnOutputCouldNotBeWritten)
 {
     const archive::Input file = input();
     archive::FileResult result = resultWith(imported());
-    result.fate = archive::Fate::Failed;
+    result.outcome = archive::FileOutcome::Failed;
     result.errors = words("one two");
     const migration::FileReport report = cli::finalReport({file, result, {}, false});
     EXPECT_EQ(report.status, migration::Status::Failed);
-    EXPECT_EQ(report.error, QStringLiteral("one\ntwo"));
+    EXPECT_EQ(report.error, u"one\ntwo"_s);
 }
 
 TEST(FinalReport, IsMadeForFilesThatNoWorkerReportedOn)
 {
     const archive::Input file = input();
-    const std::pair<archive::Fate, migration::Status> fates[] = {
-        {archive::Fate::Crashed, migration::Status::Crashed},
-        {archive::Fate::TimedOut, migration::Status::TimedOut},
-        {archive::Fate::OutOfMemory, migration::Status::OutOfMemory},
-        {archive::Fate::Failed, migration::Status::Failed},
+    const std::pair<archive::FileOutcome, migration::Status> fates[] = {
+        {archive::FileOutcome::Crashed, migration::Status::Crashed},
+        {archive::FileOutcome::TimedOut, migration::Status::TimedOut},
+        {archive::FileOutcome::OutOfMemory, migration::Status::OutOfMemory},
+        {archive::FileOutcome::Failed, migration::Status::Failed},
     };
-    for (const auto& [fate, status] : fates) {
+    for (const auto& [outcome, status] : fates) {
         archive::FileResult result;
-        result.fate = fate;
+        result.outcome = outcome;
         result.errors = words("why");
         const migration::FileReport report = cli::finalReport({file, result, {}, false});
         EXPECT_EQ(report.status, status);
-        EXPECT_EQ(report.file, QStringLiteral("a.cnv"));
-        EXPECT_EQ(report.error, QStringLiteral("why"));
+        EXPECT_EQ(report.file, u"a.cnv"_s);
+        EXPECT_EQ(report.error, u"why"_s);
     }
 }
 
@@ -75,10 +75,10 @@ TEST(ArchiveReports, CountLosses)
 {
     const archive::Input file = input();
     migration::FileReport lossy = imported();
-    lossy.lost = {{QStringLiteral("further-page"), QStringLiteral("text"), 1, true, {}}};
+    lossy.lost = {{u"further-page"_s, u"text"_s, 1, true, {}}};
     const archive::FileResult whole = resultWith(imported());
     const archive::FileResult lost = resultWith(lossy);
-    cli::ArchiveReports reports({}, true);
+    cli::ArchiveReports reports({}, true, false);
     reports.add({file, whole, {}, false});
     EXPECT_EQ(reports.losses(), 0);
     reports.add({file, lost, {}, false});
@@ -88,22 +88,22 @@ TEST(ArchiveReports, CountLosses)
 TEST(ArchiveReports, AreWrittenInTheEnd)
 {
     const QTemporaryDir folder;
-    const QString json = folder.filePath(QStringLiteral("new/r.json"));
-    const QString html = folder.filePath(QStringLiteral("new/r.html"));
+    const QString json = folder.filePath(u"new/r.json"_s);
+    const QString html = folder.filePath(u"new/r.html"_s);
     const archive::Input file = input();
     const archive::FileResult result = resultWith(imported());
     {
-        cli::ArchiveReports abandoned({json}, false);
+        cli::ArchiveReports abandoned({json}, false, false);
         abandoned.add({file, result, {}, false});
     }
     EXPECT_FALSE(QFileInfo::exists(json));
-    cli::ArchiveReports reports({json, html}, false);
-    EXPECT_EQ(reports.obstacle(), QString());
+    cli::ArchiveReports reports({json, html}, false, false);
+    EXPECT_EQ(reports.firstProblem(), QString());
     reports.add({file, result, {}, false});
     EXPECT_EQ(reports.finish(), QStringList());
     EXPECT_TRUE(QFileInfo::exists(json));
     EXPECT_TRUE(QFileInfo::exists(html));
-    EXPECT_FALSE(cli::ArchiveReports({folder.path()}, false).obstacle().isEmpty());
+    EXPECT_FALSE(cli::ArchiveReports({folder.path()}, false, false).firstProblem().isEmpty());
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Completion and manual pages know every option that --help shows, and none that it does not.
 
-help_is_told.py BIN PACKAGING
+help_is_told.py BIN GENERATED MAN
 
-BIN is the folder of the programs, PACKAGING has the folders completion and man. Shells that are
-not there are named and passed over.
+BIN is the folder of the programs, GENERATED has the completion and the manual page of labelport,
+MAN the other manual pages. Shells that are not installed are named and skipped.
 """
 
 import os
@@ -14,8 +14,8 @@ import shutil
 import subprocess
 import sys
 
-COMMANDS = ["import", "inspect", "report", "formats"]
-OPTION = re.compile(r"(?<![\w-])--([a-z][a-z-]*)")
+COMMANDS = ["import", "inspect", "report", "formats", "trace"]
+OPTION = re.compile(r"(?<![\w-])--([a-z][a-z0-9-]*)")
 errors = []
 
 
@@ -27,7 +27,7 @@ def run(*command):
 def options_of(program, *command):
     """Long options that stand at the beginnings of the lines of a help."""
     text = run(program, *command, "--help").stdout
-    found = set(re.findall(r"^  (?:-\w, )?--([a-z-]+)", text, re.MULTILINE))
+    found = set(re.findall(r"^  (?:-\w, )?--([a-z0-9-]+)", text, re.MULTILINE))
     if not found:
         errors.append(f"{program} {command} shows no options")
     return found
@@ -51,6 +51,7 @@ def check_bash_values(folder, work):
     (work / "a.txt").touch()
     cases = [(("labelport", "i"), {"import", "inspect"}),
              (("labelport", "import", "--to", "p"), {"png", "pdf"}),
+             (("labelport", "import", "--to", "png,s"), {"png,svg"}),
              (("labelport", "import", "--reader", ""), {"tavrel", "orvanta", "opendocument"}),
              (("labelport", "report", ""), {"merge"}),
              (("labelport", "import", f"{work}/a"), {f"{work}/a.odg"})]
@@ -74,7 +75,7 @@ def check_fish(folder, command, shown):
 def check_zsh(folder, command, shown):
     text = (folder / "_labelport").read_text(encoding="utf-8")
     part = re.search(rf"^{command}\)\n(.*?);;", text, re.DOTALL | re.MULTILINE).group(1)
-    expect(set(re.findall(r"""['"]\*?--([a-z-]+)\[""", part)), shown, f"zsh, {command}")
+    expect(set(re.findall(r"""['"]\*?--([a-z0-9-]+)\[""", part)), shown, f"zsh, {command}")
 
 
 def check_manual(page, shown):
@@ -89,8 +90,7 @@ def check_manual(page, shown):
 
 
 def main():
-    programs, packaging = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
-    completion, manual = packaging / "completion", packaging / "man"
+    programs, completion, manual = (pathlib.Path(argument) for argument in sys.argv[1:4])
     labelport = str(programs / "labelport")
     shown = {command: options_of(labelport, command) for command in COMMANDS}
     for command, options in shown.items():
@@ -106,7 +106,7 @@ def main():
                                                 "labelport.fish"))).returncode:
             errors.append(f"{shell} cannot read its completion")
     of_all = set().union(*shown.values()) | options_of(labelport)
-    check_manual(manual / "labelport.1", of_all)
+    check_manual(completion / "labelport.1", of_all)
     for name in ("labelport-trace", "labelport-workbench"):
         # Qt's own options are told by --help-all.
         check_manual(manual / f"{name}.1", options_of(str(programs / name)) - {"help-all"})

@@ -11,25 +11,7 @@
 #include <vector>
 
 namespace {
-
-/// An archive of four good files, a damaged one, and one that is no label.
-class ImportArchive : public LabelportProgram
-{
-protected:
-    void SetUp() override
-    {
-        copy("opendocument/sample_vial.odg", "old/vial.odg");
-        copy("orvanta/asset_tag.qmtx", "old/tags/asset.qmtx");
-        copy("orvanta/warning_sign.qmtx", "old/tags/more/sign.QMTX");
-        copy("tavrel/shelf_label_2000021.roc", "old/tags/shelf.roc");
-        write(QStringLiteral("old/readme.txt"), "no label");
-    }
-
-    QStringList import(const char* arguments)
-    {
-        return words("import --dpi 40") + words(arguments);
-    }
-};
+using namespace Qt::StringLiterals;
 
 TEST_F(ImportArchive, KeepsTheTreeBelowAFolder)
 {
@@ -39,57 +21,61 @@ TEST_F(ImportArchive, KeepsTheTreeBelowAFolder)
                                           "new/tags/more/sign.png\nnew/tags/more/sign.label\n"
                                           "new/tags/shelf.png\nnew/tags/shelf.label\n"
                                           "new/vial.png\nnew/vial.label\n"));
-    EXPECT_TRUE(outcome.err.contains(QStringLiteral("4 of 4 files were imported")));
-    EXPECT_TRUE(outcome.err.contains(QStringLiteral("1 files were passed over")));
-    EXPECT_FALSE(QImage(path(QStringLiteral("new/tags/more/sign.png"))).isNull());
+    EXPECT_TRUE(outcome.err.contains(u"4 files imported."_s));
+    EXPECT_TRUE(outcome.err.contains(u"Ignored 1 other file."_s));
+    EXPECT_FALSE(QImage(path(u"new/tags/more/sign.png"_s)).isNull());
 }
 
 TEST_F(ImportArchive, ListsFilesInTheirOrderWhateverTheOrderGiven)
 {
     const Outcome outcome = labelport(import("old/vial.odg old/tags/shelf.roc"));
-    EXPECT_EQ(outcome.out, QStringLiteral("shelf.png\nvial.png\n"));
+    EXPECT_EQ(outcome.out, u"shelf.png\nvial.png\n"_s);
 }
 
 TEST_F(ImportArchive, TakesFilesFromAList)
 {
     const Outcome fromInput = labelport(import("--files-from - --base old --output-dir new"), {},
                                         QByteArray("old/vial.odg\0old/tags/shelf.roc\0", 32));
-    EXPECT_EQ(fromInput.out, QStringLiteral("new/tags/shelf.png\nnew/vial.png\n"));
-    write(QStringLiteral("list"), "old/vial.odg\n");
-    EXPECT_EQ(labelport(import("--files-from list")).out, QStringLiteral("vial.png\n"));
+    EXPECT_EQ(fromInput.out, u"new/tags/shelf.png\nnew/vial.png\n"_s);
+    write(u"list"_s, "old/vial.odg\n");
+    EXPECT_EQ(labelport(import("--files-from list")).out, u"vial.png\n"_s);
     const Outcome missing = labelport(import("--files-from missing"));
     EXPECT_EQ(missing.status, 1);
-    EXPECT_TRUE(missing.err.contains(QStringLiteral("missing cannot be read")));
+    EXPECT_TRUE(missing.err.contains(u"Cannot read the list of files \"missing\": "_s));
 }
 
 TEST_F(ImportArchive, ReadsALabelFromStandardInput)
 {
-    const Outcome outcome = labelport(import("- --reader opendocument --output-dir new"), {},
-                                      read(QStringLiteral("old/vial.odg")));
+    const Outcome outcome =
+        labelport(import("- --reader opendocument --output-dir new"), {}, read(u"old/vial.odg"_s));
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    EXPECT_EQ(outcome.out, QStringLiteral("new/stdin.png\n"));
+    EXPECT_EQ(outcome.out, u"new/stdin.png\n"_s);
     const Outcome wrong = labelport(import("- --reader orvanta"), {}, "no XML");
     EXPECT_EQ(wrong.status, 1);
-    EXPECT_TRUE(wrong.err.startsWith(QStringLiteral("labelport: stdin: ")));
+    EXPECT_TRUE(wrong.err.startsWith(u"labelport: stdin: "_s));
 }
 
 TEST_F(ImportArchive, ReadsAFileByTheReaderThatIsNamed)
 {
     copy("orvanta/asset_tag.qmtx", "misnamed.old.xml");
-    EXPECT_EQ(labelport(import("misnamed.old.xml")).status, 1);
-    EXPECT_EQ(labelport(import("misnamed.old.xml --reader orvanta")).out,
-              QStringLiteral("misnamed.old.png\n"));
+    EXPECT_EQ(labelport(import("misnamed.old.xml")).out, u"misnamed.old.png\n"_s)
+        << "an unknown suffix: the content decides";
+    copy("orvanta/asset_tag.qmtx", "misnamed.cnv");
+    const Outcome refused = labelport(import("misnamed.cnv"));
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(refused.err.contains(u"--reader orvanta"_s)) << qPrintable(refused.err);
+    EXPECT_EQ(labelport(import("misnamed.cnv --reader orvanta")).out, u"misnamed.png\n"_s);
 }
 
 TEST_F(ImportArchive, GoesOnWhereItWasStopped)
 {
     const char* command = "old --output-dir new --to label --resume";
     EXPECT_EQ(labelport(import(command)).status, 0);
-    QFile::remove(path(QStringLiteral("new/vial.label")));
+    QFile::remove(path(u"new/vial.label"_s));
     const Outcome again = labelport(import(command));
     EXPECT_EQ(again.status, 0) << qPrintable(again.err);
-    EXPECT_EQ(again.out, QStringLiteral("new/vial.label\n"));
-    EXPECT_TRUE(again.err.contains(QStringLiteral("1 of 4 files were imported, 3 had been done")));
+    EXPECT_EQ(again.out, u"new/vial.label\n"_s);
+    EXPECT_TRUE(again.err.contains(u"1 file imported. 3 files had been imported before."_s));
 }
 
 // A saved label that this folder's journal knows, unchanged, is ours; an edited one is not.
@@ -98,11 +84,34 @@ TEST_F(ImportArchive, ReplacesTheSavedLabelsThatItMade)
     const char* command = "old --output-dir new --to label";
     EXPECT_EQ(labelport(import(command)).status, 0);
     EXPECT_EQ(labelport(import(command)).status, 0);
-    write(QStringLiteral("new/vial.label"), "edited");
+    write(u"new/vial.label"_s, "edited");
     const Outcome refused = labelport(import(command));
     EXPECT_EQ(refused.status, 1);
-    EXPECT_TRUE(refused.err.contains(QStringLiteral("new/vial.label exists")));
-    EXPECT_EQ(read(QStringLiteral("new/vial.label")), "edited");
+    EXPECT_TRUE(refused.err.contains(u"\"new/vial.label\" exists"_s));
+    EXPECT_EQ(read(u"new/vial.label"_s), "edited");
+}
+
+TEST_F(ImportArchive, ReplacesItsLabelsAfterOtherTargets)
+{
+    for (const char* targets : {"label", "pdf", "label"}) {
+        const Outcome outcome =
+            labelport(import("old --output-dir new --to ") + QStringList{QLatin1String(targets)});
+        EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    }
+    const Outcome resumed = labelport(import("old --output-dir new --to label --resume"));
+    EXPECT_EQ(resumed.status, 0);
+    EXPECT_TRUE(resumed.err.contains(u"4 files had been imported before."_s))
+        << qPrintable(resumed.err);
+}
+
+// PDF files next to the migrated labels.
+TEST_F(ImportArchive, ImportsSavedLabelsWhoseOriginalsAreElsewhere)
+{
+    EXPECT_EQ(labelport(import("old --output-dir new --to label")).status, 0);
+    const Outcome outcome = labelport(import("new --output-dir new --to pdf"));
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    EXPECT_EQ(outcome.out, u"new/tags/asset.pdf\nnew/tags/more/sign.pdf\nnew/tags/shelf.pdf\n"
+                           "new/vial.pdf\n"_s);
 }
 
 TEST_F(ImportArchive, DoesNotImportWhatItWrote)
@@ -115,72 +124,71 @@ TEST_F(ImportArchive, DoesNotImportWhatItWrote)
 
 TEST_F(ImportArchive, SaysOnlyWhatFailedWhenItIsToBeQuiet)
 {
-    write(QStringLiteral("old/broken.odg"), "no zip");
+    write(u"old/broken.odg"_s, "no zip");
     const Outcome outcome = labelport(import("old --output-dir new --quiet"));
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err.count(QLatin1Char('\n')), 2) << qPrintable(outcome.err);
-    EXPECT_TRUE(outcome.err.startsWith(QStringLiteral("labelport: old/broken.odg: ")));
-    EXPECT_TRUE(outcome.err.endsWith(QStringLiteral("1 of 5 files failed.\n")));
+    EXPECT_EQ(outcome.err.count(u'\n'), 2) << qPrintable(outcome.err);
+    EXPECT_TRUE(outcome.err.startsWith(u"labelport: old/broken.odg: "_s));
+    EXPECT_TRUE(outcome.err.endsWith(u"1 file failed.\n"_s));
 }
 
 TEST_F(ImportArchive, ReportsTheSameForOneRunAndForMergedParts)
 {
-    write(QStringLiteral("old/broken.odg"), "no zip");
+    write(u"old/broken.odg"_s, "no zip");
     const char* whole = "old --output-dir new --quiet --report whole.json --report whole.html";
     EXPECT_EQ(labelport(import(whole)).status, 1);
-    QDir(path(QStringLiteral("new"))).removeRecursively();
+    QDir(path(u"new"_s)).removeRecursively();
     for (const char* part : {"1", "2", "3"}) {
         QStringList arguments = import("old --output-dir new --quiet");
-        arguments +=
-            {QStringLiteral("--shard"), QLatin1String(part) + QStringLiteral("/3"),
-             QStringLiteral("--report"), QStringLiteral("part%1.json").arg(QLatin1String(part))};
+        arguments += {u"--shard"_s, QLatin1String(part) + u"/3"_s, u"--report"_s,
+                      u"part%1.json"_s.arg(QLatin1String(part))};
         labelport(arguments);
     }
     EXPECT_EQ(labelport(words("report merge part3.json part1.json part2.json --to all.json "
                               "--to all.html"))
                   .status,
               0);
-    EXPECT_EQ(read(QStringLiteral("all.json")), read(QStringLiteral("whole.json")));
-    EXPECT_EQ(read(QStringLiteral("all.html")), read(QStringLiteral("whole.html")));
+    EXPECT_EQ(read(u"all.json"_s), read(u"whole.json"_s));
+    EXPECT_EQ(read(u"all.html"_s), read(u"whole.html"_s));
     // And the same again when nothing is left to be done.
     EXPECT_EQ(labelport(import("old --output-dir new --quiet --resume --report again.json")).status,
               1);
-    EXPECT_EQ(read(QStringLiteral("again.json")), read(QStringLiteral("whole.json")));
-    EXPECT_TRUE(read(QStringLiteral("all.json")).contains("new/tags/asset.png"));
+    EXPECT_EQ(read(u"again.json"_s), read(u"whole.json"_s));
+    EXPECT_TRUE(read(u"all.json"_s).contains("new/tags/asset.png"));
 }
 
 // What failed weighs more than what was lost.
 TEST_F(ImportArchive, FailsOnLossOnlyWhenItIsAsked)
 {
-    QByteArray label = read(QStringLiteral("old/tags/asset.qmtx"));
+    QByteArray label = read(u"old/tags/asset.qmtx"_s);
     label.replace("<controls>",
                   "<controls><hologram><printable_control><bounds><x>200</x><y>200</y>"
                   "<w>9</w><h>9</h></bounds></printable_control></hologram>");
-    write(QStringLiteral("lossy.qmtx"), label);
-    write(QStringLiteral("broken.odg"), "no zip");
+    write(u"lossy.qmtx"_s, label);
+    write(u"broken.odg"_s, "no zip");
     EXPECT_EQ(labelport(import("lossy.qmtx")).status, 0);
     const Outcome lossy = labelport(import("lossy.qmtx --fail-on-loss"));
     EXPECT_EQ(lossy.status, 3) << qPrintable(lossy.err);
-    EXPECT_TRUE(lossy.err.contains(QStringLiteral("1 of 1 files did not come over whole.")));
+    EXPECT_TRUE(lossy.err.contains(u"1 file imported incompletely."_s));
     EXPECT_EQ(labelport(import("lossy.qmtx broken.odg --fail-on-loss")).status, 1);
     EXPECT_EQ(labelport(import("old/vial.odg --fail-on-loss")).status, 0);
 }
 
 TEST_F(ImportArchive, SaysBeforeItBeginsThatAReportCannotBeWritten)
 {
-    write(QStringLiteral("file"), "");
+    write(u"file"_s, "");
     const Outcome outcome = labelport(import("old --output-dir new --report file/r.json"));
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.err.contains(QStringLiteral("cannot be written")));
+    EXPECT_TRUE(outcome.err.contains(u"Cannot write \"file/r.json\": "_s));
     EXPECT_FALSE(has("new"));
 }
 
 TEST_F(ImportArchive, SaysThatThereIsNothing)
 {
-    QDir().mkpath(path(QStringLiteral("empty")));
+    QDir().mkpath(path(u"empty"_s));
     const Outcome outcome = labelport(import("empty"));
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err, QStringLiteral("labelport: There is no label to import.\n"));
+    EXPECT_EQ(outcome.err, u"labelport: No labels to import.\n"_s);
 }
 
 TEST_F(ImportArchive, GivesAFileUpThatNeedsTooMuchMemory)
@@ -211,16 +219,15 @@ TEST_F(ImportArchive, SharesAFolderWithOtherCommands)
     for (const char* name : {"new/vial.png", "new/tags/asset.png", "new/tags/shelf.png"}) {
         EXPECT_FALSE(QImage(path(QLatin1String(name))).isNull()) << name;
     }
-    EXPECT_EQ(QDir(path(QStringLiteral("new")))
-                  .entryList({QStringLiteral(".labelport-work*")}, QDir::Dirs | QDir::Hidden),
+    EXPECT_EQ(QDir(path(u"new"_s)).entryList({u".labelport-work*"_s}, QDir::Dirs | QDir::Hidden),
               QStringList());
 }
 
 TEST_F(ImportArchive, WorksWithoutAHome)
 {
     for (const char* home : {"/nonexistent", "/proc"}) {
-        const Outcome outcome = labelport(import("old --output-dir new --quiet"),
-                                          {QStringLiteral("HOME=") + QLatin1String(home)});
+        const Outcome outcome =
+            labelport(import("old --output-dir new --quiet"), {u"HOME="_s + QLatin1String(home)});
         EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
     }
 }

@@ -7,43 +7,42 @@
 #include <QJsonObject>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 using OtherCommands = LabelportProgram;
 
 TEST_F(OtherCommands, InspectTellsWhatALabelHolds)
 {
-    const Outcome outcome =
-        labelport({QStringLiteral("inspect"), sample("orvanta/asset_tag.qmtx")});
+    const Outcome outcome = labelport({u"inspect"_s, sample("orvanta/asset_tag.qmtx")});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    EXPECT_TRUE(outcome.out.contains(QStringLiteral("asset_tag.qmtx")));
-    EXPECT_TRUE(outcome.out.contains(QStringLiteral("barcode"))) << qPrintable(outcome.out);
+    EXPECT_TRUE(outcome.out.contains(u"asset_tag.qmtx"_s));
+    EXPECT_TRUE(outcome.out.contains(u"barcode"_s)) << qPrintable(outcome.out);
 }
 
 TEST_F(OtherCommands, InspectTellsItAsJson)
 {
-    const Outcome outcome = labelport(
-        {QStringLiteral("inspect"), sample("orvanta/asset_tag.qmtx"), QStringLiteral("--json")});
+    const Outcome outcome =
+        labelport({u"inspect"_s, sample("orvanta/asset_tag.qmtx"), u"--json"_s});
     const QJsonObject report = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
-    EXPECT_EQ(report.value(QLatin1String("status")).toString(), QStringLiteral("imported"));
-    EXPECT_EQ(report.value(QLatin1String("reader")).toString(), QStringLiteral("orvanta"));
-    EXPECT_FALSE(report.value(QLatin1String("items")).toArray().isEmpty());
+    EXPECT_EQ(report.value("status"_L1).toString(), u"imported"_s);
+    EXPECT_EQ(report.value("reader"_L1).toString(), u"orvanta"_s);
+    EXPECT_FALSE(report.value("items"_L1).toArray().isEmpty());
 }
 
 TEST_F(OtherCommands, InspectOpensSavedLabels)
 {
-    labelport({QStringLiteral("import"), sample("orvanta/asset_tag.qmtx"), QStringLiteral("--to"),
-               QStringLiteral("label")});
+    labelport({u"import"_s, sample("orvanta/asset_tag.qmtx"), u"--to"_s, u"label"_s});
     const Outcome outcome = labelport(words("inspect asset_tag.label --json"));
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    EXPECT_TRUE(outcome.out.contains(QStringLiteral("\"label\"")));
+    EXPECT_TRUE(outcome.out.contains(u"\"label\""_s));
 }
 
 TEST_F(OtherCommands, InspectSaysWhatFailed)
 {
-    write(QStringLiteral("broken.odg"), "no zip");
+    write(u"broken.odg"_s, "no zip");
     const Outcome outcome = labelport(words("inspect broken.odg"));
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.out.contains(QStringLiteral("broken.odg")));
+    EXPECT_TRUE(outcome.out.contains(u"broken.odg"_s));
     EXPECT_EQ(labelport(words("inspect missing.cnv")).status, 1);
 }
 
@@ -53,10 +52,56 @@ TEST_F(OtherCommands, InspectHasTheLimitsOfImport)
     GTEST_SKIP() << "SKIPPED: no bounds of memory under the sanitizer";
 #endif
     // A tree of so many elements takes some two hundred megabytes.
-    write(QStringLiteral("wide.qmtx"), "<a>" + QByteArray("<b/>").repeated(1'000'000) + "</a>");
+    write(u"wide.qmtx"_s, "<a>" + QByteArray("<b/>").repeated(1'000'000) + "</a>");
     const Outcome outcome = labelport(words("inspect wide.qmtx --timeout 0 --memory-limit 128"));
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.out.contains(QStringLiteral("128 MiB"))) << qPrintable(outcome.out);
+    EXPECT_TRUE(outcome.out.contains(u"128 MiB"_s)) << qPrintable(outcome.out);
+}
+
+TEST_F(OtherCommands, InspectReadsStandardInput)
+{
+    for (const char* line : {"inspect - --json", "inspect - --json --reader orvanta"}) {
+        QFile label(sample("orvanta/asset_tag.qmtx"));
+        ASSERT_TRUE(label.open(QIODevice::ReadOnly));
+        const Outcome outcome = labelport(words(line), {}, label.readAll());
+        EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+        const QJsonObject report = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
+        EXPECT_EQ(report.value("file"_L1).toString(), u"stdin"_s);
+        EXPECT_EQ(report.value("reader"_L1).toString(), u"orvanta"_s);
+    }
+}
+
+// A script must learn that its output is incomplete.
+TEST_F(OtherCommands, FailIfStandardOutputCannotBeWritten)
+{
+    copy("orvanta/asset_tag.qmtx", "a.qmtx");
+    for (const char* command : {"--help", "--version", "formats", "formats --json", "import --help",
+                                "inspect a.qmtx", "inspect a.qmtx --json", "import a.qmtx",
+                                "trace a.qmtx", "trace --help", "trace --version"}) {
+        for (const char* closed : {">/dev/full", ">&-"}) {
+            SCOPED_TRACE(command);
+            QProcess shell;
+            shell.setWorkingDirectory(path(QString()));
+            shell.start(u"sh"_s,
+                        {u"-c"_s,
+                         u"exec \"$0\" %1 %2"_s.arg(QLatin1String(command), QLatin1String(closed)),
+                         QStringLiteral(LABELPORT_PROGRAM)});
+            ASSERT_TRUE(shell.waitForFinished(120'000));
+            EXPECT_EQ(shell.exitCode(), 1) << closed;
+            EXPECT_TRUE(shell.readAllStandardError().contains("Cannot write to standard output: "))
+                << closed;
+        }
+    }
+}
+
+TEST_F(OtherCommands, PrintNoWarningsOfQt)
+{
+    for (const char* command : {"inspect", "trace"}) {
+        const Outcome outcome =
+            labelport({QLatin1String(command), sample("opendocument/sample_vial.odg")});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.err, QString()) << "no XDG_RUNTIME_DIR in this environment";
+    }
 }
 
 TEST_F(OtherCommands, FormatsAreListed)
@@ -69,13 +114,13 @@ TEST_F(OtherCommands, FormatsAreListed)
     }
     const QJsonObject json =
         QJsonDocument::fromJson(labelport(words("formats --json")).out.toUtf8()).object();
-    EXPECT_EQ(json.value(QLatin1String("readers")).toArray().size(), 4);
-    EXPECT_EQ(json.value(QLatin1String("targets")).toArray().size(), 4);
+    EXPECT_EQ(json.value("readers"_L1).toArray().size(), 4);
+    EXPECT_EQ(json.value("targets"_L1).toArray().size(), 4);
 }
 
 TEST_F(OtherCommands, ReportSaysWhatItCannotMerge)
 {
-    write(QStringLiteral("no.json"), "{}");
+    write(u"no.json"_s, "{}");
     const Outcome outcome = labelport(words("report merge no.json --to all.json"));
     EXPECT_EQ(outcome.status, 1);
     EXPECT_FALSE(has("all.json"));
@@ -84,24 +129,24 @@ TEST_F(OtherCommands, ReportSaysWhatItCannotMerge)
 TEST_F(OtherCommands, ShowHelpThatNamesThem)
 {
     for (const char* command : {"import", "inspect", "formats", "report"}) {
-        const Outcome outcome = labelport({QLatin1String(command), QStringLiteral("--help")});
+        const Outcome outcome = labelport({QLatin1String(command), u"--help"_s});
         EXPECT_EQ(outcome.status, 0);
-        EXPECT_TRUE(
-            outcome.out.startsWith(QStringLiteral("Usage: labelport ") + QLatin1String(command)))
+        EXPECT_TRUE(outcome.out.startsWith(u"Usage: labelport "_s + QLatin1String(command)))
             << qPrintable(outcome.out.left(80));
-        EXPECT_TRUE(outcome.out.contains(QStringLiteral("Examples:")));
+        EXPECT_TRUE(outcome.out.contains(u"Examples:"_s));
     }
 }
 
 TEST_F(OtherCommands, RefuseWrongArguments)
 {
-    for (const char* line : {"inspect", "inspect a b", "inspect a --reader x", "inspect --x a",
-                             "inspect a --timeout x", "inspect a --memory-limit 127", "formats a",
-                             "formats --x", "report", "report split a.json", "report merge",
-                             "report merge a.json", "report merge --to b.json", "worker"}) {
+    for (const char* line :
+         {"inspect", "inspect a b", "inspect a --reader x", "inspect --x a",
+          "inspect a --timeout x", "inspect a --memory-limit 127", "formats a", "formats --x",
+          "report", "report split a.json", "report merge", "report merge a.json",
+          "report merge --to b.json", "formats --jsn", "worker"}) {
         SCOPED_TRACE(line);
         const Outcome outcome = labelport(words(line));
-        if (QLatin1String(line) != QLatin1String("worker")) {
+        if (QLatin1String(line) != "worker"_L1) {
             EXPECT_EQ(outcome.status, 2);
             EXPECT_FALSE(outcome.err.isEmpty());
         } else {

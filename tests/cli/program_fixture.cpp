@@ -7,7 +7,7 @@ QString sample(const char* name)
 
 QStringList words(const char* line)
 {
-    return QString::fromLatin1(line).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return QString::fromLatin1(line).split(u' ', Qt::SkipEmptyParts);
 }
 
 Outcome LabelportProgram::labelport(const QStringList& arguments, const QStringList& environment,
@@ -27,8 +27,9 @@ Outcome LabelportProgram::labelport(const QStringList& arguments, const QStringL
         return {};
     }
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    const QByteArray out = process.readAllStandardOutput();
+    return {process.exitCode(), QString::fromUtf8(out),
+            QString::fromUtf8(process.readAllStandardError()), out};
 }
 
 QString LabelportProgram::write(const QString& name, const QByteArray& bytes)

@@ -10,7 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <ostream>
+#include <system_error>
 
 /// Texts are shown as texts when a test fails.
 inline void PrintTo(const QString& text, std::ostream* stream)
@@ -24,6 +26,7 @@ struct Outcome
     int status = -1;
     QString out;
     QString err;
+    QByteArray bytes; ///< standard output
 };
 
 /// A sample label of the project: "orvanta/asset_tag.qmtx".
@@ -36,6 +39,13 @@ struct Outcome
 class LabelportProgram : public ::testing::Test
 {
 protected:
+    // QTemporaryDir cannot remove names that are not UTF-8.
+    ~LabelportProgram() override
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_folder.path().toStdString(), ignored);
+    }
+
     Outcome labelport(const QStringList& arguments, const QStringList& environment = {},
                       const QByteArray& input = {});
 
@@ -49,4 +59,23 @@ protected:
 
 private:
     QTemporaryDir m_folder;
+};
+
+/// An archive of four good files, a damaged one, and one that is no label.
+class ImportArchive : public LabelportProgram
+{
+protected:
+    void SetUp() override
+    {
+        copy("opendocument/sample_vial.odg", "old/vial.odg");
+        copy("orvanta/asset_tag.qmtx", "old/tags/asset.qmtx");
+        copy("orvanta/warning_sign.qmtx", "old/tags/more/sign.QMTX");
+        copy("tavrel/shelf_label_2000021.roc", "old/tags/shelf.roc");
+        write(QStringLiteral("old/readme.txt"), "no label");
+    }
+
+    QStringList import(const char* arguments)
+    {
+        return words("import --dpi 40") + words(arguments);
+    }
 };

@@ -5,17 +5,17 @@
 #include <QImage>
 
 namespace {
+using namespace Qt::StringLiterals;
 
 TEST_F(LabelportProgram, ImportsALabelFromAnEmptyEnvironment)
 {
-    const Outcome outcome =
-        labelport({QStringLiteral("import"), sample("opendocument/address_label.odg")});
+    const Outcome outcome = labelport({u"import"_s, sample("opendocument/address_label.odg")});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    EXPECT_EQ(outcome.out, QStringLiteral("address_label.png\n"));
+    EXPECT_EQ(outcome.out, u"address_label.png\n"_s);
     EXPECT_EQ(outcome.err, QString());
 
     // 89 mm by 36 mm at 300 dots per inch.
-    const QImage picture(path(QStringLiteral("address_label.png")));
+    const QImage picture(path(u"address_label.png"_s));
     EXPECT_NEAR(picture.width(), 89 / 25.4 * 300, 1.0);
     EXPECT_NEAR(picture.height(), 36 / 25.4 * 300, 1.0);
     EXPECT_EQ(picture.dotsPerMeterX(), 11811);
@@ -23,13 +23,13 @@ TEST_F(LabelportProgram, ImportsALabelFromAnEmptyEnvironment)
 
 TEST_F(LabelportProgram, ImportsEveryFormat)
 {
-    const Outcome outcome = labelport(
-        {QStringLiteral("import"), sample("opendocument/care_label.odt"),
-         sample("opendocument/high_voltage.odg"), sample("tavrel/address_2000016.cnv"),
-         sample("orvanta/asset_tag.qmtx"), QStringLiteral("--output-dir"),
-         QStringLiteral("pictures/of/labels"), QStringLiteral("--dpi"), QStringLiteral("72")});
+    const Outcome outcome =
+        labelport({u"import"_s, sample("opendocument/care_label.odt"),
+                   sample("opendocument/high_voltage.odg"), sample("tavrel/address_2000016.cnv"),
+                   sample("orvanta/asset_tag.qmtx"), u"--output-dir"_s, u"pictures/of/labels"_s,
+                   u"--dpi"_s, u"72"_s});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    const QStringList lines = outcome.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines = outcome.out.split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 4);
     for (const QString& line : lines) {
         EXPECT_FALSE(QImage(path(line)).isNull()) << qPrintable(line);
@@ -38,79 +38,71 @@ TEST_F(LabelportProgram, ImportsEveryFormat)
 
 TEST_F(LabelportProgram, GoesOnBehindAFileThatFails)
 {
-    write(QStringLiteral("broken.odg"), "no zip at all");
-    const Outcome outcome =
-        labelport({QStringLiteral("import"), QStringLiteral("broken.odg"),
-                   QStringLiteral("missing.cnv"), sample("opendocument/sample_vial.odg")});
+    write(u"broken.odg"_s, "no zip at all");
+    const Outcome outcome = labelport(
+        {u"import"_s, u"broken.odg"_s, u"missing.cnv"_s, sample("opendocument/sample_vial.odg")});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.out, QStringLiteral("sample_vial.png\n"));
-    EXPECT_TRUE(outcome.err.contains(QStringLiteral("labelport: broken.odg: ")));
-    EXPECT_TRUE(outcome.err.contains(QStringLiteral("labelport: missing.cnv: ")));
-    EXPECT_TRUE(outcome.err.endsWith(QStringLiteral("labelport: 2 of 3 files failed.\n")));
-    EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("broken.png"))));
+    EXPECT_EQ(outcome.out, u"sample_vial.png\n"_s);
+    EXPECT_TRUE(outcome.err.contains(u"labelport: broken.odg: "_s));
+    EXPECT_TRUE(outcome.err.contains(u"labelport: missing.cnv: "_s));
+    EXPECT_TRUE(outcome.err.endsWith(u"labelport: 2 files failed.\n"_s));
+    EXPECT_FALSE(QFileInfo::exists(path(u"broken.png"_s)));
 }
 
 TEST_F(LabelportProgram, LeavesSomebodysFileAlone)
 {
-    write(QStringLiteral("sample_vial.png"), "somebody's own");
-    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg")};
+    write(u"sample_vial.png"_s, "somebody's own");
+    const QStringList command = {u"import"_s, sample("opendocument/sample_vial.odg")};
     const Outcome refused = labelport(command);
     EXPECT_EQ(refused.status, 1);
-    EXPECT_TRUE(refused.err.contains(QStringLiteral("--force")));
-    EXPECT_EQ(read(QStringLiteral("sample_vial.png")), "somebody's own");
+    EXPECT_TRUE(refused.err.contains(u"--force"_s));
+    EXPECT_EQ(read(u"sample_vial.png"_s), "somebody's own");
 
-    EXPECT_EQ(labelport(command + QStringList{QStringLiteral("--force")}).status, 0);
-    EXPECT_NE(read(QStringLiteral("sample_vial.png")), "somebody's own");
+    EXPECT_EQ(labelport(command + QStringList{u"--force"_s}).status, 0);
+    EXPECT_NE(read(u"sample_vial.png"_s), "somebody's own");
 }
 
 TEST_F(LabelportProgram, ReplacesItsOwnPictures)
 {
-    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg")};
+    const QStringList command = {u"import"_s, sample("opendocument/sample_vial.odg")};
     EXPECT_EQ(labelport(command).status, 0);
-    EXPECT_EQ(
-        labelport(command + QStringList{QStringLiteral("--dpi"), QStringLiteral("100")}).status, 0);
-    EXPECT_NEAR(QImage(path(QStringLiteral("sample_vial.png"))).width(), 60 / 25.4 * 100, 1.0);
+    EXPECT_EQ(labelport(command + QStringList{u"--dpi"_s, u"100"_s}).status, 0);
+    EXPECT_NEAR(QImage(path(u"sample_vial.png"_s)).width(), 60 / 25.4 * 100, 1.0);
 }
 
 TEST_F(LabelportProgram, WritesEveryTargetAtOnce)
 {
-    const Outcome outcome =
-        labelport({QStringLiteral("import"), sample("orvanta/asset_tag.qmtx"),
-                   QStringLiteral("--to"), QStringLiteral("label,png,svg,pdf")});
+    const Outcome outcome = labelport(
+        {u"import"_s, sample("orvanta/asset_tag.qmtx"), u"--to"_s, u"label,png,svg,pdf"_s});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    EXPECT_EQ(outcome.out,
-              QStringLiteral("asset_tag.label\nasset_tag.png\nasset_tag.svg\nasset_tag.pdf\n"));
-    EXPECT_TRUE(read(QStringLiteral("asset_tag.pdf")).startsWith("%PDF-"));
-    EXPECT_TRUE(read(QStringLiteral("asset_tag.svg")).contains("<svg "));
+    EXPECT_EQ(outcome.out, u"asset_tag.label\nasset_tag.png\nasset_tag.svg\nasset_tag.pdf\n"_s);
+    EXPECT_TRUE(read(u"asset_tag.pdf"_s).startsWith("%PDF-"));
+    EXPECT_TRUE(read(u"asset_tag.svg"_s).contains("<svg "));
 }
 
 TEST_F(LabelportProgram, ShowsASavedLabelAsItShowedTheLegacyOne)
 {
     const QString legacy = sample("orvanta/warning_sign.qmtx");
-    ASSERT_EQ(labelport({QStringLiteral("import"), legacy, QStringLiteral("--to"),
-                         QStringLiteral("label,png"), QStringLiteral("--output-dir"),
-                         QStringLiteral("first")})
-                  .status,
-              0);
+    ASSERT_EQ(
+        labelport({u"import"_s, legacy, u"--to"_s, u"label,png"_s, u"--output-dir"_s, u"first"_s})
+            .status,
+        0);
     const Outcome outcome =
-        labelport({QStringLiteral("import"), QStringLiteral("first/warning_sign.label"),
-                   QStringLiteral("--output-dir"), QStringLiteral("second")});
+        labelport({u"import"_s, u"first/warning_sign.label"_s, u"--output-dir"_s, u"second"_s});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    const QImage first(path(QStringLiteral("first/warning_sign.png")));
+    const QImage first(path(u"first/warning_sign.png"_s));
     ASSERT_FALSE(first.isNull());
-    EXPECT_EQ(first, QImage(path(QStringLiteral("second/warning_sign.png"))));
+    EXPECT_EQ(first, QImage(path(u"second/warning_sign.png"_s)));
 }
 
 TEST_F(LabelportProgram, NumbersThePicturesOfASeries)
 {
     const QString counter = sample("orvanta/asset_tag.qmtx");
     const Outcome outcome =
-        labelport({QStringLiteral("import"), counter, QStringLiteral("--dpi"), QStringLiteral("50"),
-                   QStringLiteral("--records"), QStringLiteral("2-3")});
+        labelport({u"import"_s, counter, u"--dpi"_s, u"50"_s, u"--records"_s, u"2-3"_s});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    EXPECT_EQ(outcome.out, QStringLiteral("asset_tag-0002.png\nasset_tag-0003.png\n"));
-    EXPECT_NE(QImage(path(QStringLiteral("asset_tag-0002.png"))),
-              QImage(path(QStringLiteral("asset_tag-0003.png"))));
+    EXPECT_EQ(outcome.out, u"asset_tag-0002.png\nasset_tag-0003.png\n"_s);
+    EXPECT_NE(QImage(path(u"asset_tag-0002.png"_s)), QImage(path(u"asset_tag-0003.png"_s)));
 }
 
 // The number of records that are written decides, not the way they are given.
@@ -131,25 +123,62 @@ TEST_F(LabelportProgram, NumbersFilesOnlyIfThereAreSeveral)
 TEST_F(LabelportProgram, RefusesRecordsThatALabelDoesNotHave)
 {
     const Outcome outcome =
-        labelport({QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
-                   QStringLiteral("--records"), QStringLiteral("2")});
+        labelport({u"import"_s, sample("opendocument/sample_vial.odg"), u"--records"_s, u"2"_s});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_TRUE(outcome.err.contains(QStringLiteral("only 1 records")));
+    EXPECT_TRUE(outcome.err.contains(u"has only 1 record; record 2"_s));
 }
 
-TEST_F(LabelportProgram, NeverReplacesASavedLabelUnasked)
+// A label that an import saved has a mark and a checksum; editing it invalidates one of them.
+TEST_F(LabelportProgram, ReplacesOnlyUneditedLabels)
 {
-    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
-                                 QStringLiteral("--to"), QStringLiteral("label")};
+    const QStringList command =
+        words("import --to label") + QStringList{sample("opendocument/sample_vial.odg")};
     EXPECT_EQ(labelport(command).status, 0);
-    EXPECT_EQ(labelport(command).status, 1);
-    EXPECT_EQ(labelport(command + QStringList{QStringLiteral("--force")}).status, 0);
+    const Outcome again = labelport(command);
+    EXPECT_EQ(again.status, 0) << qPrintable(again.err);
+
+    const QByteArray label = read(u"sample_vial.label"_s);
+    const QList<QByteArray> edited{
+        QByteArray(label).replace("\"rotation\": 0,", "\"rotation\": 9,"),
+        QByteArray(label).replace("\"origin\": \"import\"", "\"\": 0"),
+        QByteArray(label).replace("\"checksum\"", "\"nothing\"")};
+    for (const QByteArray& bytes : edited) {
+        ASSERT_NE(bytes, label);
+        write(u"sample_vial.label"_s, bytes);
+        const Outcome refused = labelport(command);
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_TRUE(refused.err.contains(u"has been edited since. Use --force"_s));
+        EXPECT_EQ(read(u"sample_vial.label"_s), bytes);
+    }
+    EXPECT_EQ(labelport(command + QStringList{u"--force"_s}).status, 0);
+}
+
+TEST_F(LabelportProgram, NamesAFolderInThePlaceOfAnOutput)
+{
+    ASSERT_TRUE(QDir().mkpath(path(u"sample_vial.png"_s)));
+    for (const char* option : {"--dpi=40", "--force"}) {
+        const Outcome outcome = labelport(
+            {u"import"_s, sample("opendocument/sample_vial.odg"), QString::fromLatin1(option)});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_TRUE(outcome.err.endsWith(
+            u"Cannot write \"sample_vial.png\": a folder of that name exists.\n"_s))
+            << qPrintable(outcome.err);
+    }
+}
+
+// libpng would print an error of its own.
+TEST_F(LabelportProgram, LooksForItsMarkWithoutReadingThePicture)
+{
+    write(u"sample_vial.png"_s, "\x89PNG\r\n\x1A\n and nothing else");
+    const Outcome outcome = labelport({u"import"_s, sample("opendocument/sample_vial.odg")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_FALSE(outcome.err.contains(u"libpng"_s)) << qPrintable(outcome.err);
 }
 
 TEST_F(LabelportProgram, ReplacesItsOwnDrawingsAndDocuments)
 {
-    const QStringList command = {QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
-                                 QStringLiteral("--to"), QStringLiteral("svg,pdf")};
+    const QStringList command = {u"import"_s, sample("opendocument/sample_vial.odg"), u"--to"_s,
+                                 u"svg,pdf"_s};
     EXPECT_EQ(labelport(command).status, 0);
     const Outcome again = labelport(command);
     EXPECT_EQ(again.status, 0) << qPrintable(again.err);
@@ -159,17 +188,17 @@ TEST_F(LabelportProgram, SaysWhatIsWrongWithTheCommandLine)
 {
     const QList<QStringList> wrong = {
         {},
-        {QStringLiteral("convert")},
-        {QStringLiteral("import")},
-        {QStringLiteral("import"), QStringLiteral("a.odg"), QStringLiteral("--to"),
-         QStringLiteral("bmp")},
-        {QStringLiteral("import"), QStringLiteral("a.odg"), QStringLiteral("--dpi"),
-         QStringLiteral("0")},
-        {QStringLiteral("import"), QStringLiteral("--no-such-option"), QStringLiteral("a.odg")},
-        {QStringLiteral("trace")},
+        {u"convert"_s},
+        {u"import"_s},
+        {u"import"_s, u"a.odg"_s, u"--to"_s, u"bmp"_s},
+        {u"import"_s, u"a.odg"_s, u"--dpi"_s, u"0"_s},
+        {u"import"_s, u"--no-such-option"_s, u"a.odg"_s},
+        {u"trace"_s},
     };
+    const Outcome misspelled = labelport(words("imprt a.odg"));
+    EXPECT_TRUE(misspelled.err.contains(u"Unknown command \"imprt\". Did you mean \"import\"?"_s));
     for (const QStringList& arguments : wrong) {
-        SCOPED_TRACE(qPrintable(arguments.join(QLatin1Char(' '))));
+        SCOPED_TRACE(qPrintable(arguments.join(u' ')));
         const Outcome outcome = labelport(arguments);
         EXPECT_EQ(outcome.status, 2);
         EXPECT_EQ(outcome.out, QString());
@@ -182,24 +211,36 @@ TEST_F(LabelportProgram, ShowsHelpAndVersion)
     for (const char* word : {"--help", "-h", "help"}) {
         const Outcome outcome = labelport({QString::fromLatin1(word)});
         EXPECT_EQ(outcome.status, 0);
-        EXPECT_TRUE(outcome.out.startsWith(QStringLiteral("Usage: labelport COMMAND")));
+        EXPECT_TRUE(outcome.out.startsWith(u"Usage: labelport COMMAND"_s));
     }
-    EXPECT_TRUE(
-        labelport({QStringLiteral("--version")}).out.startsWith(QStringLiteral("labelport ")));
-    EXPECT_TRUE(labelport({QStringLiteral("import"), QStringLiteral("--help")})
-                    .out.contains(QStringLiteral("--output-dir")));
+    EXPECT_TRUE(labelport({u"--version"_s}).out.startsWith(u"labelport "_s));
+    EXPECT_TRUE(labelport({u"import"_s, u"--help"_s}).out.contains(u"--output-dir"_s));
 }
 
 TEST_F(LabelportProgram, HandsATraceOverToTheTracer)
 {
-    const Outcome outcome =
-        labelport({QStringLiteral("trace"), sample("opendocument/sample_vial.odg")});
+    const Outcome outcome = labelport({u"trace"_s, sample("opendocument/sample_vial.odg")});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_TRUE(outcome.out.startsWith(
         QStringLiteral(R"({"trace":1,"file":"sample_vial.odg","reader":"opendocument"})")))
         << qPrintable(outcome.out.left(200));
-    EXPECT_TRUE(outcome.out.endsWith(QStringLiteral("{\"result\":true}\n")));
-    EXPECT_EQ(labelport({QStringLiteral("trace"), QStringLiteral("missing.odg")}).status, 1);
+    EXPECT_TRUE(outcome.out.endsWith(u"{\"result\":true}\n"_s));
+    EXPECT_EQ(labelport({u"trace"_s, u"missing.odg"_s}).status, 1);
+}
+
+TEST_F(LabelportProgram, TracesStandardInputAndWithTheReaderNamed)
+{
+    copy("orvanta/asset_tag.qmtx", "misnamed.cnv");
+    EXPECT_EQ(labelport(words("trace misnamed.cnv")).status, 1);
+    const Outcome named = labelport(words("trace misnamed.cnv --reader orvanta"));
+    EXPECT_EQ(named.status, 0) << qPrintable(named.err);
+    EXPECT_EQ(named.err, QString());
+    const Outcome input = labelport(words("trace -"), {}, read(u"misnamed.cnv"_s));
+    EXPECT_EQ(input.status, 0) << qPrintable(input.err);
+    EXPECT_TRUE(input.out.startsWith(u"{\"trace\":1,\"file\":\"stdin\",\"reader\":\"orvanta\"}"_s));
+    EXPECT_EQ(labelport(words("trace a --reader x")).status, 2);
+    EXPECT_TRUE(labelport(words("trace --help")).out.startsWith(u"Usage: labelport trace "_s));
+    EXPECT_TRUE(labelport(words("trace")).err.startsWith(u"labelport: trace needs"_s));
 }
 
 // Results do not pass through Qt's logging, so no rule takes from them or adds to them.
@@ -209,9 +250,8 @@ TEST_F(LabelportProgram, SaysTheSameUnderEveryLoggingRule)
         SCOPED_TRACE(command);
         const QStringList arguments = {QString::fromLatin1(command),
                                        sample("opendocument/goods_in.odt")};
-        const Outcome silent = labelport(arguments, {QStringLiteral("QT_LOGGING_RULES=*=false")});
-        const Outcome loud =
-            labelport(arguments, {QStringLiteral("QT_LOGGING_RULES=*.debug=true")});
+        const Outcome silent = labelport(arguments, {u"QT_LOGGING_RULES=*=false"_s});
+        const Outcome loud = labelport(arguments, {u"QT_LOGGING_RULES=*.debug=true"_s});
         EXPECT_EQ(silent.status, 0);
         EXPECT_FALSE(silent.out.isEmpty());
         EXPECT_EQ(silent.out, loud.out);

@@ -1,6 +1,10 @@
 #include "importer/reader_choice.h"
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace {
 
@@ -46,6 +50,49 @@ TEST(ReaderChoice, GoesByAllSuffixesTogether)
     for (const ChoiceRow& row : Rows) {
         EXPECT_EQ(readerForFile(QLatin1String(row.fileName)), row.reader) << row.fileName;
     }
+}
+
+TEST(ReaderChoice, ofToolsGoesByTheLastSuffix)
+{
+    const ChoiceRow rows[] = {{"Label 3.5 inch.odg", ReaderKind::OpenDocument},
+                              {"shelf.old.QMTX", ReaderKind::Orvanta},
+                              {"template.ott", ReaderKind::OpenDocument},
+                              {"template.v2.OTG", ReaderKind::OpenDocument},
+                              {"old.odt.cnv", ReaderKind::Tavrel},
+                              {"no such file.xyz", ReaderKind::Tavrel}};
+    for (const ChoiceRow& row : rows) {
+        EXPECT_EQ(readerByNameOrContent(QLatin1String(row.fileName)), row.reader) << row.fileName;
+    }
+    EXPECT_EQ(readerForFile(QStringLiteral("template.ott")), ReaderKind::Tavrel)
+        << "the import command does not know templates";
+}
+
+TEST(ReaderChoice, ofToolsGoesByTheContentIfTheSuffixIsUnknown)
+{
+    const QTemporaryDir folder;
+    const std::pair<QByteArray, ReaderKind> contents[] = {
+        {"PK\x03\x04", ReaderKind::OpenDocument},
+        {"<?xml version=\"1.0\"?>", ReaderKind::Orvanta},
+        {"\xEF\xBB\xBF \n<label/>", ReaderKind::Orvanta},
+        {QByteArray("\xFF\xFE<\0?\0", 6), ReaderKind::Orvanta},
+        {QByteArray("\0\0\0\1", 4), ReaderKind::Tavrel},
+        {"", ReaderKind::Tavrel}};
+    for (const auto& [bytes, reader] : contents) {
+        QFile file(folder.filePath(QStringLiteral("label.v2")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.close();
+        EXPECT_EQ(readerByNameOrContent(file.fileName()), reader) << bytes.toHex().constData();
+    }
+}
+
+TEST(ReaderChoice, knowsReadersByTheirNames)
+{
+    for (const Reader& reader : Readers) {
+        EXPECT_EQ(readerOfName(reader.name), reader.kind);
+        EXPECT_EQ(readerOf(reader.kind).name, reader.name);
+    }
+    EXPECT_FALSE(readerOfName(QStringLiteral("qmtx")));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "archive/file_lock.h"
 
-#include <QFile>
+#include "console/file_name.h"
 
 #include <utility>
 
@@ -40,8 +40,8 @@ FileLock FileLock::lockWith(const QString& path, int openFlags, int operation)
 {
     constexpr mode_t readAndWrite = 0666;
     FileLock lock;
-    lock.m_descriptor =
-        ::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC | openFlags, readAndWrite);
+    lock.m_descriptor = ::open(console::fileNameToBytes(path).constData(),
+                               O_RDWR | O_CLOEXEC | openFlags, readAndWrite);
     if (lock.isHeld() && ::flock(lock.m_descriptor, operation) != 0) {
         lock.release();
     }

@@ -4,8 +4,7 @@
 
 namespace archive {
 
-/// A lock on a file that lasts as long as this value, or the process: whoever dies, in
-/// whatever way, holds no lock.
+/// A lock on a file. Released with this object, and by the system if the process ends in any way.
 class FileLock
 {
 public:
@@ -16,10 +15,10 @@ public:
     FileLock(FileLock&& other) noexcept;
     FileLock& operator=(FileLock&& other) noexcept;
 
-    /// Locks a file if nobody else holds it; never waits.
-    /// @param mayCreate whether the file is made when it is missing
+    /// Locks a file if no other process holds it; never waits.
+    /// @param mayCreate creates a missing file
     [[nodiscard]] static FileLock tryLock(const QString& path, Kind kind, bool mayCreate);
-    /// Locks a file, made when it is missing; waits for those who hold it.
+    /// Locks a file, which is created if missing; waits for other processes.
     [[nodiscard]] static FileLock waitForLock(const QString& path, Kind kind);
 
     [[nodiscard]] bool isHeld() const { return m_descriptor >= 0; }

@@ -8,7 +8,7 @@
 
 namespace archive {
 
-/// By what a file is known again: its size and when it was last changed.
+/// Identifies an unchanged file: path, size, modification time.
 struct FileStamp
 {
     QString path;
@@ -17,7 +17,7 @@ struct FileStamp
     bool operator==(const FileStamp&) const = default;
 };
 
-/// The stamp of a file as it is now; nothing when there is no such file.
+/// The current stamp of a regular file; empty if there is none.
 [[nodiscard]] std::optional<FileStamp> stampOf(const QString& path);
 
 [[nodiscard]] QJsonObject toJson(const FileStamp& stamp);

@@ -1,31 +1,23 @@
 #include "archive/input_list.h"
 
-#include <QCoreApplication>
+#include "console/file_name.h"
+
 #include <QDir>
-#include <QDirIterator>
-#include <QFile>
 #include <QFileInfo>
-#include <QHash>
 #include <QIODevice>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <tuple>
+
+#include <unistd.h>
 
 namespace archive {
 namespace {
 
-QString absolute(const QString& path)
-{
-    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-}
-
-/// The folder of a path relative to a folder above it; empty when it lies nowhere below.
-QString folderBelow(const QString& base, const QString& path)
-{
-    const QString root = absolute(base);
-    const QString folder = QFileInfo(absolute(path)).path();
-    const QString prefix = root.endsWith(QLatin1Char('/')) ? root : root + QLatin1Char('/');
-    return folder.startsWith(prefix) ? folder.mid(prefix.size()) : QString();
-}
+using namespace Qt::StringLiterals;
 
 /// One search through the given folders.
 class Collector
@@ -33,32 +25,43 @@ class Collector
 public:
     explicit Collector(const InputRequest& request)
         : m_request(request)
-        , m_outputFolder(absolute(request.outputFolder))
+        , m_outputFolder(console::absolutePath(request.outputFolder))
     {}
 
     void addArgument(const QString& argument)
     {
-        if (QFileInfo(argument).isDir()) {
+        if (console::kindOf(argument) == console::FileKind::Folder) {
             m_list.searched = true;
             addTree(argument);
         } else {
             const QString folder =
                 m_request.base.isEmpty() ? QString() : folderBelow(m_request.base, argument);
-            add({argument, argument, folder});
+            add({{argument, argument, folder}, true});
         }
     }
 
     InputList take()
     {
-        m_list.inputs = m_byPath.values();
+        for (auto entry = m_byPath.cbegin(); entry != m_byPath.cend(); ++entry) {
+            if (entry->isNamed || !isMadeOfAnotherInput(entry.key())) {
+                m_list.inputs.append(entry->input);
+            }
+        }
         std::sort(m_list.inputs.begin(), m_list.inputs.end(), [](const Input& a, const Input& b) {
             return std::tie(a.shownName, a.path) < std::tie(b.shownName, b.path);
         });
-        std::sort(m_list.unreadable.begin(), m_list.unreadable.end());
+        std::sort(m_list.unreadable.begin(), m_list.unreadable.end(),
+                  [](const auto& a, const auto& b) { return a.path < b.path; });
         return std::move(m_list);
     }
 
 private:
+    struct Found
+    {
+        Input input;
+        bool isNamed = false; ///< not only found in a folder
+    };
+
     void addTree(const QString& root)
     {
         QStringList folders{QString()};
@@ -70,58 +73,86 @@ private:
     void addFolder(const QString& root, const QString& below, QStringList& folders)
     {
         const QString path = below.isEmpty() ? root : QDir(root).filePath(below);
-        if (!below.isEmpty() && absolute(path) == m_outputFolder) {
+        if (!below.isEmpty() && console::absolutePath(path) == m_outputFolder) {
             return;
         }
-        if (!QFileInfo(path).isReadable() || !QFileInfo(path).isExecutable()) {
-            m_list.unreadable.append(path);
+        const std::filesystem::path folder = console::systemPath(path);
+        if (::access(folder.c_str(), R_OK | X_OK) != 0) {
+            m_list.unreadable.append({path, QString::fromLocal8Bit(std::strerror(errno))});
             return;
         }
-        QDirIterator entries(path, QDir::Dirs | QDir::Files | QDir::NoDotAndDotDot);
-        while (entries.hasNext()) {
-            entries.next();
-            const QFileInfo entry = entries.fileInfo();
-            const QString name =
-                below.isEmpty() ? entry.fileName() : below + QLatin1Char('/') + entry.fileName();
-            if (!entry.isDir()) {
-                addFound(QDir(root).filePath(name), below);
-            } else if (!entry.isSymLink()) {
-                folders.append(name);
-            }
+        std::error_code error;
+        std::filesystem::directory_iterator entry(folder, error);
+        for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+            addEntry(*entry, root, below, folders);
+        }
+        if (error) {
+            m_list.unreadable.append({path, QString::fromLocal8Bit(error.message().c_str())});
+        }
+    }
+
+    void addEntry(const std::filesystem::directory_entry& entry, const QString& root,
+                  const QString& below, QStringList& folders)
+    {
+        const QString fileName =
+            console::fileNameFromBytes(QByteArray::fromStdString(entry.path().filename().string()));
+        if (fileName.startsWith(u'.')) {
+            return;
+        }
+        const QString name = below.isEmpty() ? fileName : below + u'/' + fileName;
+        std::error_code error;
+        if (!entry.is_directory(error)) {
+            addFound(QDir(root).filePath(name), below);
+        } else if (!entry.is_symlink(error)) {
+            folders.append(name);
         }
     }
 
     void addFound(const QString& path, const QString& below)
     {
-        const QString suffix = QFileInfo(path).suffix().toLower();
-        const bool isOutput = m_request.isOutput && m_request.isOutput(path);
-        if (!m_request.suffixes.contains(suffix) || isOutput) {
-            ++m_list.skipped;
+        if (m_request.suffixes.contains(QFileInfo(path).suffix().toLower())) {
+            add({{path, QDir::cleanPath(path), below}, false});
         } else {
-            add({path, QDir::cleanPath(path), below});
+            ++m_list.skipped;
         }
     }
 
-    /// A file that is met twice keeps the longer of its folders: that below the outermost
+    /// A file that is found twice keeps the longer of its folders: that below the outermost
     /// folder given; else the shorter name.
-    void add(const Input& input)
+    void add(const Found& found)
     {
         const auto rank = [](const Input& entry) {
             return std::make_tuple(-entry.folder.size(), entry.shownName.size(), entry.shownName);
         };
-        Input& kept = m_byPath[absolute(input.path)];
-        if (kept.path.isEmpty() || rank(input) < rank(kept)) {
-            kept = input;
+        Found& kept = m_byPath[console::absolutePath(found.input.path)];
+        const bool isNamed = kept.isNamed || found.isNamed;
+        if (kept.input.path.isEmpty() || rank(found.input) < rank(kept.input)) {
+            kept = found;
         }
+        kept.isNamed = isNamed;
+    }
+
+    [[nodiscard]] bool isMadeOfAnotherInput(const QString& path) const
+    {
+        const QString source = m_request.sourcesOfOutputs.value(path);
+        return source != path && m_byPath.contains(source);
     }
 
     const InputRequest& m_request;
     QString m_outputFolder;
     InputList m_list;
-    QHash<QString, Input> m_byPath;
+    QHash<QString, Found> m_byPath;
 };
 
 } // namespace
+
+QString folderBelow(const QString& base, const QString& path)
+{
+    const QString root = console::absolutePath(base);
+    const QString folder = QFileInfo(console::absolutePath(path)).path();
+    const QString prefix = root.endsWith(u'/') ? root : root + u'/';
+    return folder.startsWith(prefix) ? folder.mid(prefix.size()) : QString();
+}
 
 InputList listInputs(const InputRequest& request)
 {
@@ -132,7 +163,7 @@ InputList listInputs(const InputRequest& request)
     return collector.take();
 }
 
-QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error, qint64 largest)
+QStringList readNames(QIODevice& device, bool isNullSeparated, bool& error, qint64 largest)
 {
     constexpr qint64 blockSize = 64 * 1024;
     QStringList names;
@@ -146,7 +177,7 @@ QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error, q
         }
         isList = isList && name.size() <= MaximumNameBytes;
         if (!name.isEmpty()) {
-            names.append(QFile::decodeName(name));
+            names.append(console::fileNameFromBytes(name));
         }
     };
     for (QByteArray block = rest; isList && !block.isEmpty();) {
@@ -154,7 +185,7 @@ QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error, q
             keep(rest.left(end));
             rest.remove(0, end + 1);
         }
-        // What ends a line may still be missing, or stand behind the name.
+        // The end of the line may not have been read yet.
         isList = isList && rest.size() <= MaximumNameBytes + 1;
         block = device.read(blockSize);
         rest += block;
@@ -162,12 +193,8 @@ QStringList readNames(QIODevice& device, bool isNullSeparated, QString& error, q
         isList = isList && total <= largest;
     }
     keep(rest);
-    if (!isList) {
-        error = QCoreApplication::translate("archive::InputList",
-                                            "The list of files is no list of file names.");
-        return {};
-    }
-    return names;
+    error = !isList;
+    return isList ? names : QStringList();
 }
 
 } // namespace archive

@@ -1,44 +1,91 @@
 #include "archive/journal.h"
 
-#include "archive/journal_compaction.h"
+#include "console/file_name.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
 
 namespace archive {
 namespace {
 
-const QString LockName = QStringLiteral(".labelport-journal.lock");
+using namespace Qt::StringLiterals;
+
+const QString LockName = u".labelport-journal.lock"_s;
 
 QStringList journalsIn(const QString& folder)
 {
     QStringList paths;
     const QDir directory(folder);
-    for (const QString& name : directory.entryList({QStringLiteral(".labelport-journal*.jsonl")},
+    for (const QString& name : directory.entryList({u".labelport-journal*.jsonl"_s},
                                                    QDir::Files | QDir::Hidden, QDir::Name)) {
         paths.append(directory.filePath(name));
     }
     return paths;
 }
 
-/// Holds the journals against being rewritten by others; rewrites them first when nobody
-/// else is there and they have become long.
-FileLock takeHold(const QString& folder)
+/// Offsets of the records that no later record of the same file and options replaces, in order;
+/// empty if none is replaced.
+QList<qint64> offsetsToKeep(QFile& journal)
+{
+    QHash<QString, qint64> offsets;
+    bool isAnyReplaced = false;
+    while (!journal.atEnd()) {
+        const qint64 offset = journal.pos();
+        if (const std::optional<JournalRecord> record = recordFromLine(nextLine(journal))) {
+            const QString key = record->options + u' ' + record->input.path;
+            isAnyReplaced = isAnyReplaced || offsets.contains(key);
+            offsets.insert(key, offset);
+        }
+    }
+    QList<qint64> kept = isAnyReplaced ? offsets.values() : QList<qint64>();
+    std::sort(kept.begin(), kept.end());
+    return kept;
+}
+
+/// Rewrites a journal without replaced records. If that fails, the journal stays as it is.
+void rewrite(const QString& path)
+{
+    QFile journal(path);
+    if (!journal.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    const QList<qint64> offsets = offsetsToKeep(journal);
+    QSaveFile rewritten(path);
+    if (offsets.isEmpty() || !rewritten.open(QIODevice::WriteOnly)) {
+        return;
+    }
+    for (const qint64 offset : offsets) {
+        const QByteArray line = journal.seek(offset) ? nextLine(journal) : QByteArray();
+        // The last line may lack its end.
+        if (line.isEmpty() || rewritten.write(line.endsWith('\n') ? line : line + '\n') < 0) {
+            return;
+        }
+    }
+    if (rewritten.flush()) {
+        rewritten.commit();
+    }
+}
+
+/// Keeps other commands from rewriting the journals. Rewrites them first if asked to, unless
+/// another command uses them.
+FileLock lockJournals(const QString& folder, bool isRewriting)
 {
     const QString path = QDir(folder).filePath(LockName);
-    {
-        const FileLock alone = FileLock::tryLock(path, FileLock::Exclusive, true);
-        if (alone.isHeld()) {
+    if (isRewriting) {
+        const FileLock exclusive = FileLock::tryLock(path, FileLock::Exclusive, true);
+        if (exclusive.isHeld()) {
             for (const QString& journal : journalsIn(folder)) {
-                compactJournal(journal);
+                rewrite(journal);
             }
         }
     }
     return FileLock::waitForLock(path, FileLock::Shared);
 }
 
-bool endsWithinALine(const QString& path)
+bool lastLineIsUnterminated(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.seek(file.size() - 1) &&
@@ -47,31 +94,33 @@ bool endsWithinALine(const QString& path)
 
 } // namespace
 
-QString Journal::open(const QString& outputFolder, const Shard& shard, const QList<Input>& inputs)
+QString Journal::open(const QString& outputFolder, const Shard& shard, const QList<Input>& inputs,
+                      bool isRewriting)
 {
-    m_lock = takeHold(outputFolder);
-    m_file.setFileName(QDir(outputFolder).filePath(fileNameFor(shard)));
-    const bool isTorn = endsWithinALine(m_file.fileName());
+    m_folder.emplace(outputFolder);
+    m_lock = lockJournals(m_folder->path(), isRewriting);
+    m_file.setFileName(QDir(m_folder->path()).filePath(fileNameFor(shard)));
+    const bool isTorn = lastLineIsUnterminated(m_file.fileName());
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) {
         return QCoreApplication::translate("archive::Journal", "Cannot write \"%1\": %2.")
-            .arg(m_file.fileName(), m_file.errorString());
+            .arg(QDir(outputFolder).filePath(fileNameFor(shard)), m_file.errorString());
     }
     if (isTorn) {
         m_file.write("\n");
     }
     QHash<QString, qsizetype> indexes;
     for (qsizetype index = 0; index < inputs.size(); ++index) {
-        indexes.insert(QFileInfo(inputs.at(index).path).absoluteFilePath(), index);
+        indexes.insert(console::absolutePath(inputs.at(index).path), index);
     }
     m_places.resize(inputs.size());
-    m_files = journalsIn(outputFolder);
+    m_files = journalsIn(m_folder->path());
     for (qsizetype file = 0; file < m_files.size(); ++file) {
-        note(indexes, file);
+        notePlaces(indexes, file);
     }
     return {};
 }
 
-void Journal::note(const QHash<QString, qsizetype>& indexes, qsizetype file)
+void Journal::notePlaces(const QHash<QString, qsizetype>& indexes, qsizetype file)
 {
     QFile journal(m_files.at(file));
     if (!journal.open(QIODevice::ReadOnly)) {
@@ -81,18 +130,18 @@ void Journal::note(const QHash<QString, qsizetype>& indexes, qsizetype file)
         const qint64 offset = journal.pos();
         const std::optional<JournalRecord> record = recordFromLine(nextLine(journal));
         const auto index = record ? indexes.constFind(record->input.path) : indexes.constEnd();
-        if (index != indexes.constEnd()) {
-            m_places[*index] = {file, offset};
+        if (index == indexes.constEnd()) {
+            continue;
         }
+        QList<Place>& places = m_places[*index];
+        const std::size_t options = qHash(record->options);
+        places.removeIf([options](const Place& place) { return place.options == options; });
+        places.append({file, offset, options});
     }
 }
 
-std::optional<JournalRecord> Journal::find(qsizetype index)
+std::optional<JournalRecord> Journal::recordAt(const Place& place)
 {
-    const Place place = m_places.value(index);
-    if (place.file < 0) {
-        return std::nullopt;
-    }
     if (m_read.fileName() != m_files.at(place.file) || !m_read.isOpen()) {
         m_read.close();
         m_read.setFileName(m_files.at(place.file));
@@ -103,22 +152,46 @@ std::optional<JournalRecord> Journal::find(qsizetype index)
     return m_read.seek(place.offset) ? recordFromLine(nextLine(m_read)) : std::nullopt;
 }
 
+std::optional<JournalRecord> Journal::find(qsizetype index, const QString& options)
+{
+    for (const Place& place : m_places.value(index)) {
+        if (place.options == qHash(options)) {
+            std::optional<JournalRecord> record = recordAt(place);
+            return record && record->options == options ? record : std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
+QList<FileStamp> Journal::outputsOf(qsizetype index)
+{
+    QList<FileStamp> outputs;
+    for (const Place& place : m_places.value(index)) {
+        if (const std::optional<JournalRecord> record = recordAt(place)) {
+            outputs += record->outputs;
+        }
+    }
+    return outputs;
+}
+
 bool Journal::append(const JournalRecord& record)
 {
-    // One call of the system, so that lines of several commands do not mix.
+    // One system call, so that lines of several commands do not mix.
     const QByteArray line = lineOf(record);
     if (m_file.write(line) == line.size()) {
         return true;
     }
-    m_file.write("\n"); // ends what may have come of it, or fails as well
+    m_file.write("\n"); // ends a part of the line that may have been written
     return false;
 }
 
-QSet<QString> Journal::outputsIn(const QString& outputFolder, const QString& suffix)
+QHash<QString, QString> Journal::sourcesOfOutputs(const QString& outputFolder,
+                                                  const QString& suffix)
 {
-    QSet<QString> outputs;
-    const QDir folder(outputFolder);
-    for (const QString& path : journalsIn(outputFolder)) {
+    QHash<QString, QString> sources;
+    const console::ReachablePath reachable(outputFolder);
+    const QDir folder(console::absolutePath(outputFolder));
+    for (const QString& path : journalsIn(reachable.path())) {
         QFile journal(path);
         if (!journal.open(QIODevice::ReadOnly)) {
             continue;
@@ -127,20 +200,20 @@ QSet<QString> Journal::outputsIn(const QString& outputFolder, const QString& suf
             const std::optional<JournalRecord> record = recordFromLine(nextLine(journal));
             for (const FileStamp& output : record ? record->outputs : QList<FileStamp>()) {
                 if (output.path.endsWith(suffix)) {
-                    outputs.insert(QDir::cleanPath(folder.absoluteFilePath(output.path)));
+                    sources.insert(QDir::cleanPath(folder.filePath(output.path)),
+                                   record->input.path);
                 }
             }
         }
     }
-    return outputs;
+    return sources;
 }
 
 QString Journal::fileNameFor(const Shard& shard)
 {
-    return shard.isWhole() ? QStringLiteral(".labelport-journal.jsonl")
-                           : QStringLiteral(".labelport-journal-%1-of-%2.jsonl")
-                                 .arg(shard.number)
-                                 .arg(shard.count);
+    return shard.isWhole()
+               ? u".labelport-journal.jsonl"_s
+               : u".labelport-journal-%1-of-%2.jsonl"_s.arg(shard.number).arg(shard.count);
 }
 
 } // namespace archive

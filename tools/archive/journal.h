@@ -1,60 +1,68 @@
 #pragma once
 
 #include "archive/file_lock.h"
-#include "archive/input.h"
+#include "archive/input_list.h"
 #include "archive/journal_record.h"
 #include "archive/shard.h"
+#include "console/file_name.h"
 
 #include <QFile>
 #include <QHash>
 #include <QList>
-#include <QSet>
 #include <QString>
 
+#include <cstddef>
 #include <optional>
 
 namespace archive {
 
-/// What was done in an output folder, kept in a hidden file of it: one record on each line,
-/// written as soon as a file is done. A line that was torn when the program or the machine
-/// died is no record.
+/// Remembers between commands what was imported into an output folder: a hidden file in it with one
+/// record on each line, written as soon as a file is done. A torn line is ignored.
 ///
-/// Several commands may write to one folder at the same time: lines are appended whole. The
-/// parts of an archive have journals of their own, and all of a folder are read.
+/// Several commands may write to one folder at the same time: lines are appended whole. The parts
+/// of an archive have journals of their own, and all journals of a folder are read.
 class Journal
 {
 public:
-    /// Opens the folder's journal for appending, and looks up what all journals of the folder
-    /// say of the inputs: the last word counts. Only its place is kept in memory.
+    /// Opens the folder's journal for appending, and looks up the inputs in all journals of the
+    /// folder. The latest record of a file and its options wins; only its offset is kept in memory.
     ///
-    /// @return why nothing can be remembered, for a person; else empty
+    /// @param isRewriting removes replaced records first, unless another command uses the folder
+    /// @return why the journal cannot be written, for a person; else empty
     [[nodiscard]] QString open(const QString& outputFolder, const Shard& shard,
-                               const QList<Input>& inputs);
+                               const QList<Input>& inputs, bool isRewriting = false);
 
     [[nodiscard]] bool isOpen() const { return m_file.isOpen(); }
-    /// What was remembered, before this command, of the input of this index.
-    [[nodiscard]] std::optional<JournalRecord> find(qsizetype index);
-    /// Adds a record. False when it could not be written; nothing else is the worse for it.
-    bool append(const JournalRecord& record);
+    /// The record that an earlier command wrote about the input of this index.
+    /// @param options fingerprint of the options, which the record must have
+    [[nodiscard]] std::optional<JournalRecord> find(qsizetype index, const QString& options);
+    /// All outputs of earlier commands, whatever their options; paths as in the records.
+    [[nodiscard]] QList<FileStamp> outputsOf(qsizetype index);
+    /// Adds a record. Returns false if writing failed; the journal stays usable.
+    [[nodiscard]] bool append(const JournalRecord& record);
 
-    /// The absolute paths of the outputs with a suffix that the folder's journals tell of.
-    [[nodiscard]] static QSet<QString> outputsIn(const QString& outputFolder,
-                                                 const QString& suffix);
+    /// The outputs with a suffix that the folder's journals name, and the input that each was made
+    /// of; all as absolute paths.
+    [[nodiscard]] static QHash<QString, QString> sourcesOfOutputs(const QString& outputFolder,
+                                                                  const QString& suffix);
     [[nodiscard]] static QString fileNameFor(const Shard& shard);
 
 private:
     struct Place
     {
-        qsizetype file = -1;
+        qsizetype file = 0; ///< index in m_files
         qint64 offset = 0;
+        std::size_t options = 0; ///< hash of the record's options
     };
 
-    void note(const QHash<QString, qsizetype>& indexes, qsizetype file);
+    void notePlaces(const QHash<QString, qsizetype>& indexes, qsizetype file);
+    [[nodiscard]] std::optional<JournalRecord> recordAt(const Place& place);
 
+    std::optional<console::ReachablePath> m_folder;
     QFile m_file;
     QStringList m_files; ///< all journals of the folder
     QFile m_read;        ///< the one that was read last
-    QList<Place> m_places;
+    QList<QList<Place>> m_places;
     FileLock m_lock;
 };
 

@@ -12,12 +12,13 @@
 #include <array>
 
 namespace archive {
+using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String InputKey("input");
 constexpr QLatin1String OptionsKey("options");
 constexpr QLatin1String VersionKey("version");
-constexpr QLatin1String FateKey("fate");
+constexpr QLatin1String OutcomeKey("outcome");
 constexpr QLatin1String ErrorsKey("errors");
 constexpr QLatin1String OutputsKey("outputs");
 constexpr QLatin1String ReportKey("report");
@@ -33,7 +34,7 @@ QByteArray lineOf(const JournalRecord& record)
     QJsonObject object{{InputKey, toJson(record.input)},
                        {OptionsKey, record.options},
                        {VersionKey, record.version},
-                       {FateKey, nameOf(record.fate)},
+                       {OutcomeKey, nameOf(record.outcome)},
                        {ErrorsKey, QJsonArray::fromStringList(record.errors)},
                        {OutputsKey, outputs}};
     if (!record.report.isEmpty()) {
@@ -63,15 +64,15 @@ std::optional<JournalRecord> recordFromLine(const QByteArray& line)
         return std::nullopt;
     }
     const QJsonObject object = QJsonDocument::fromJson(line).object();
-    const std::optional<Fate> fate = fateOfName(object.value(FateKey).toString());
-    if (!fate || !object.value(InputKey).isObject()) {
+    const std::optional<FileOutcome> outcome = outcomeOfName(object.value(OutcomeKey).toString());
+    if (!outcome || !object.value(InputKey).isObject()) {
         return std::nullopt;
     }
     JournalRecord record;
     record.input = fileStampFromJson(object.value(InputKey).toObject());
     record.options = object.value(OptionsKey).toString();
     record.version = object.value(VersionKey).toString();
-    record.fate = *fate;
+    record.outcome = *outcome;
     record.errors = object.value(ErrorsKey).toVariant().toStringList();
     for (const QJsonValue& output : object.value(OutputsKey).toArray()) {
         record.outputs.append(fileStampFromJson(output.toObject()));
@@ -83,7 +84,7 @@ std::optional<JournalRecord> recordFromLine(const QByteArray& line)
 QString fingerprintOf(const QJsonObject& options, const QStringList& outputs)
 {
     QJsonObject whole = options;
-    whole.insert(QStringLiteral("outputs"), QJsonArray::fromStringList(outputs));
+    whole.insert(u"outputs"_s, QJsonArray::fromStringList(outputs));
     // Keys of an object come sorted, so the text of equal options is equal.
     const QByteArray text = QJsonDocument(whole).toJson(QJsonDocument::Compact);
     const QByteArray hash = QCryptographicHash::hash(text, QCryptographicHash::Sha256);
@@ -92,16 +93,16 @@ QString fingerprintOf(const QJsonObject& options, const QStringList& outputs)
 
 bool isDone(const JournalRecord& record, const Expectation& expected)
 {
-    return record.fate == Fate::Done && record.input == expected.input &&
+    return record.outcome == FileOutcome::Done && record.input == expected.input &&
            record.options == expected.options && record.version == expected.version &&
            (!expected.reportNeeded || !record.report.isEmpty()) &&
-           untouchedOutputs(record, expected.outputFolder).size() == record.outputs.size();
+           untouchedOutputs(record.outputs, expected.outputFolder).size() == record.outputs.size();
 }
 
-QList<FileStamp> untouchedOutputs(const JournalRecord& record, const QString& outputFolder)
+QList<FileStamp> untouchedOutputs(const QList<FileStamp>& outputs, const QString& outputFolder)
 {
     QList<FileStamp> untouched;
-    for (const FileStamp& output : record.outputs) {
+    for (const FileStamp& output : outputs) {
         const QString path = QDir::cleanPath(QDir(outputFolder).filePath(output.path));
         const FileStamp expected{path, output.size, output.modified};
         if (stampOf(path) == expected) {

@@ -15,34 +15,33 @@ class QIODevice;
 
 namespace archive {
 
-/// What became of one file, as it is remembered between commands.
+/// The outcome of one file, as the journal keeps it between commands.
 struct JournalRecord
 {
     FileStamp input; ///< its path is absolute
-    QString options; ///< fingerprint of what was asked, outputs' names included
+    QString options; ///< fingerprint of the options and the names of the outputs
     QString version; ///< of the program
-    Fate fate = Fate::Failed;
+    FileOutcome outcome = FileOutcome::Failed;
     QStringList errors;
     QList<FileStamp> outputs; ///< their paths are relative to the output folder
     QJsonObject report;       ///< empty when none was asked for
     bool operator==(const JournalRecord&) const = default;
 };
 
-/// Bytes that the tree of a line may take: that of a label of as many data sources as there
-/// may be stays below.
+/// Bytes that the tree of a line may take. A label with the maximum of data sources stays below.
 inline constexpr qint64 MaximumLineTree = 512LL * 1024 * 1024;
 
 [[nodiscard]] QByteArray lineOf(const JournalRecord& record);
-/// The next line with its end, or as much of it as a line may have. Takes no more memory
-/// than the line, while Qt's own takes that of the longest for each.
+/// The next line with its end, or its first `longest` bytes. Takes no more memory than the line
+/// has; QIODevice::readLine(longest) would reserve the maximum for each line.
 [[nodiscard]] QByteArray nextLine(QIODevice& journal, qint64 longest = MaximumLine);
-/// Nothing when the line is no whole record.
+/// Empty if the line is not a complete record.
 [[nodiscard]] std::optional<JournalRecord> recordFromLine(const QByteArray& line);
 
-/// The fingerprint of options and the outputs that they bring about.
+/// The fingerprint of options and the names of their outputs.
 [[nodiscard]] QString fingerprintOf(const QJsonObject& options, const QStringList& outputs);
 
-/// What a file must be like to count as done.
+/// The state of a file that counts as done.
 struct Expectation
 {
     FileStamp input;
@@ -52,11 +51,11 @@ struct Expectation
     bool reportNeeded = false;
 };
 
-/// Whether a file was imported as it is now expected, and is unchanged with all its outputs.
+/// Whether a file was imported with these options, and it and all its outputs are unchanged.
 [[nodiscard]] bool isDone(const JournalRecord& record, const Expectation& expected);
 
-/// The outputs that stand as they were made, with paths that begin with the output folder.
-[[nodiscard]] QList<FileStamp> untouchedOutputs(const JournalRecord& record,
+/// The outputs that are unchanged, with paths that begin with the output folder.
+[[nodiscard]] QList<FileStamp> untouchedOutputs(const QList<FileStamp>& outputs,
                                                 const QString& outputFolder);
 
 } // namespace archive

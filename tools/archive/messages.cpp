@@ -6,20 +6,21 @@
 #include <array>
 
 namespace archive {
+using namespace Qt::StringLiterals;
 namespace {
 
-struct FateRow
+struct OutcomeRow
 {
-    Fate fate;
+    FileOutcome outcome;
     const char* name;
 };
 
-constexpr std::array FateRows{
-    FateRow{Fate::Done, "done"},
-    FateRow{Fate::Failed, "failed"},
-    FateRow{Fate::Crashed, "crashed"},
-    FateRow{Fate::TimedOut, "timed-out"},
-    FateRow{Fate::OutOfMemory, "out-of-memory"},
+constexpr std::array OutcomeRows{
+    OutcomeRow{FileOutcome::Done, "done"},
+    OutcomeRow{FileOutcome::Failed, "failed"},
+    OutcomeRow{FileOutcome::Crashed, "crashed"},
+    OutcomeRow{FileOutcome::TimedOut, "timed-out"},
+    OutcomeRow{FileOutcome::OutOfMemory, "out-of-memory"},
 };
 
 QByteArray lineOf(const QJsonObject& object)
@@ -54,46 +55,45 @@ QStringList textsOf(const QJsonValue& array)
 
 QJsonObject jsonOfPlanned(const PlannedFile& planned)
 {
-    return {{QStringLiteral("target"), planned.target}, {QStringLiteral("path"), planned.path}};
+    return {{u"target"_s, planned.target}, {u"path"_s, planned.path}};
 }
 
 PlannedFile plannedOf(const QJsonObject& object)
 {
-    return {object.value(QLatin1String("target")).toString(),
-            object.value(QLatin1String("path")).toString()};
+    return {object.value("target"_L1).toString(), object.value("path"_L1).toString()};
 }
 
 QJsonObject jsonOfStaged(const StagedFile& file)
 {
-    return {{QStringLiteral("staged"), file.staged},
-            {QStringLiteral("output"), toJson(file.output)},
-            {QStringLiteral("mayReplace"), file.mayReplace}};
+    return {{u"staged"_s, file.staged},
+            {u"output"_s, toJson(file.output)},
+            {u"mayReplace"_s, file.mayReplace}};
 }
 
 StagedFile stagedOf(const QJsonObject& object)
 {
-    return {object.value(QLatin1String("staged")).toString(),
-            fileStampFromJson(object.value(QLatin1String("output")).toObject()),
-            object.value(QLatin1String("mayReplace")).toBool()};
+    return {object.value("staged"_L1).toString(),
+            fileStampFromJson(object.value("output"_L1).toObject()),
+            object.value("mayReplace"_L1).toBool()};
 }
 
 } // namespace
 
-QString nameOf(Fate fate)
+QString nameOf(FileOutcome outcome)
 {
-    for (const FateRow& row : FateRows) {
-        if (row.fate == fate) {
+    for (const OutcomeRow& row : OutcomeRows) {
+        if (row.outcome == outcome) {
             return QLatin1String(row.name);
         }
     }
     return {};
 }
 
-std::optional<Fate> fateOfName(const QString& name)
+std::optional<FileOutcome> outcomeOfName(const QString& name)
 {
-    for (const FateRow& row : FateRows) {
+    for (const OutcomeRow& row : OutcomeRows) {
         if (name == QLatin1String(row.name)) {
-            return row.fate;
+            return row.outcome;
         }
     }
     return std::nullopt;
@@ -102,52 +102,51 @@ std::optional<Fate> fateOfName(const QString& name)
 QByteArray lineOf(const Job& job)
 {
     const auto stamp = [](const FileStamp& known) { return toJson(known); };
-    return lineOf(QJsonObject{{QStringLiteral("file"), job.file},
-                              {QStringLiteral("shownName"), job.shownName},
-                              {QStringLiteral("outputs"), arrayOf(job.outputs, jsonOfPlanned)},
-                              {QStringLiteral("staging"), job.staging},
-                              {QStringLiteral("known"), arrayOf(job.known, stamp)},
-                              {QStringLiteral("options"), job.options}});
+    return lineOf(QJsonObject{{u"file"_s, job.file},
+                              {u"shownName"_s, job.shownName},
+                              {u"outputs"_s, arrayOf(job.outputs, jsonOfPlanned)},
+                              {u"staging"_s, job.staging},
+                              {u"known"_s, arrayOf(job.known, stamp)},
+                              {u"options"_s, job.options}});
 }
 
 QByteArray lineOf(const FileResult& result)
 {
-    return lineOf(
-        QJsonObject{{QStringLiteral("fate"), nameOf(result.fate)},
-                    {QStringLiteral("warnings"), QJsonArray::fromStringList(result.warnings)},
-                    {QStringLiteral("errors"), QJsonArray::fromStringList(result.errors)},
-                    {QStringLiteral("files"), arrayOf(result.files, jsonOfStaged)},
-                    {QStringLiteral("report"), result.report},
-                    {QStringLiteral("memory"), result.memory}});
+    return lineOf(QJsonObject{{u"outcome"_s, nameOf(result.outcome)},
+                              {u"warnings"_s, QJsonArray::fromStringList(result.warnings)},
+                              {u"errors"_s, QJsonArray::fromStringList(result.errors)},
+                              {u"files"_s, arrayOf(result.files, jsonOfStaged)},
+                              {u"report"_s, result.report},
+                              {u"memory"_s, result.memory}});
 }
 
 std::optional<Job> jobFromLine(const QByteArray& line)
 {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
-    if (!object.value(QLatin1String("file")).isString()) {
+    if (!object.value("file"_L1).isString()) {
         return std::nullopt;
     }
-    return Job{object.value(QLatin1String("file")).toString(),
-               object.value(QLatin1String("shownName")).toString(),
-               listOf(object.value(QLatin1String("outputs")), plannedOf),
-               object.value(QLatin1String("staging")).toString(),
-               listOf(object.value(QLatin1String("known")), fileStampFromJson),
-               object.value(QLatin1String("options")).toObject()};
+    return Job{object.value("file"_L1).toString(),
+               object.value("shownName"_L1).toString(),
+               listOf(object.value("outputs"_L1), plannedOf),
+               object.value("staging"_L1).toString(),
+               listOf(object.value("known"_L1), fileStampFromJson),
+               object.value("options"_L1).toObject()};
 }
 
 std::optional<FileResult> resultFromLine(const QByteArray& line)
 {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
-    const std::optional<Fate> fate = fateOfName(object.value(QLatin1String("fate")).toString());
-    if (!fate) {
+    const std::optional<FileOutcome> outcome = outcomeOfName(object.value("outcome"_L1).toString());
+    if (!outcome) {
         return std::nullopt;
     }
-    return FileResult{*fate,
-                      textsOf(object.value(QLatin1String("warnings"))),
-                      textsOf(object.value(QLatin1String("errors"))),
-                      listOf(object.value(QLatin1String("files")), stagedOf),
-                      object.value(QLatin1String("report")).toObject(),
-                      object.value(QLatin1String("memory")).toInteger()};
+    return FileResult{*outcome,
+                      textsOf(object.value("warnings"_L1)),
+                      textsOf(object.value("errors"_L1)),
+                      listOf(object.value("files"_L1), stagedOf),
+                      object.value("report"_L1).toObject(),
+                      object.value("memory"_L1).toInteger()};
 }
 
 } // namespace archive

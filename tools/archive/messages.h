@@ -10,68 +10,67 @@
 
 #include <optional>
 
-/// What the coordinator of an archive and its workers say to each other: one line of JSON for
-/// each message.
+/// Messages between the coordinator of an archive and its workers: one line of JSON each.
 namespace archive {
 
-/// One output that a job is to have.
+/// One output of a job.
 struct PlannedFile
 {
     QString target; ///< "png"
-    QString path;   ///< where it is to stand in the end
+    QString path;   ///< final path
     bool operator==(const PlannedFile&) const = default;
 };
 
-/// One file, as it is handed to a worker.
+/// One file to import, as a worker gets it.
 struct Job
 {
     QString file;
     QString shownName;
     QList<PlannedFile> outputs;
-    QString staging;        ///< folder of the worker's own, empty, to write to
-    QList<FileStamp> known; ///< outputs that an earlier command made of this file
-    QJsonObject options;    ///< of the command; mean nothing to the coordinator
+    QString staging;        ///< an empty folder of the worker, to write to
+    QList<FileStamp> known; ///< outputs of earlier commands for this file
+    QJsonObject options;    ///< of the command; opaque to the coordinator
     bool operator==(const Job&) const = default;
 };
 
-/// What became of a file.
-enum class Fate {
+/// The outcome of one file.
+enum class FileOutcome {
     Done,        ///< imported, and everything written
-    Failed,      ///< could not be read, or not all of it written
-    Crashed,     ///< its worker died of it, twice
-    TimedOut,    ///< took longer than it may
-    OutOfMemory, ///< needed more memory than it may
+    Failed,      ///< could not be read or written completely
+    Crashed,     ///< its worker crashed twice
+    TimedOut,    ///< no progress within the time limit
+    OutOfMemory, ///< exceeded the memory limit
 };
 
-[[nodiscard]] QString nameOf(Fate fate);
-[[nodiscard]] std::optional<Fate> fateOfName(const QString& name);
+[[nodiscard]] QString nameOf(FileOutcome outcome);
+[[nodiscard]] std::optional<FileOutcome> outcomeOfName(const QString& name);
 
-/// One file that a worker wrote.
+/// One output that a worker wrote.
 struct StagedFile
 {
-    QString staged;          ///< where it is now
-    FileStamp output;        ///< where it is to stand; size and time of the staged file
-    bool mayReplace = false; ///< what stands there now may be replaced
+    QString staged;          ///< current path
+    FileStamp output;        ///< final path; size and time of the staged file
+    bool mayReplace = false; ///< an existing file may be replaced
     bool operator==(const StagedFile&) const = default;
 };
 
-/// What a worker answers for a job.
+/// The reply of a worker to a job.
 struct FileResult
 {
-    Fate fate = Fate::Failed;
+    FileOutcome outcome = FileOutcome::Failed;
     QStringList warnings; ///< for a person
-    QStringList errors;   ///< for a person; empty when it is done
+    QStringList errors;   ///< for a person; empty if it is done
     QList<StagedFile> files;
-    QJsonObject report; ///< means nothing to the coordinator; empty when none was asked for
-    qint64 memory = 0;  ///< bytes that the worker holds now
+    QJsonObject report; ///< opaque to the coordinator; empty if none was requested
+    qint64 memory = 0;  ///< bytes that the worker uses now
     bool operator==(const FileResult&) const = default;
 };
 
-/// A message on one line, its end included.
+/// A message on one line, with its line break.
 [[nodiscard]] QByteArray lineOf(const Job& job);
 [[nodiscard]] QByteArray lineOf(const FileResult& result);
 
-/// Nothing when the line is not such a message.
+/// Empty if the line is not such a message.
 [[nodiscard]] std::optional<Job> jobFromLine(const QByteArray& line);
 [[nodiscard]] std::optional<FileResult> resultFromLine(const QByteArray& line);
 

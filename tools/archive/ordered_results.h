@@ -25,7 +25,7 @@ public:
 
     /// @param size about how many bytes the result takes
     void add(qsizetype index, FileResult result, qint64 size);
-    /// An index that has no result: it is passed over.
+    /// An index without a result: it is skipped.
     void skip(qsizetype index);
     /// The result whose turn it is, if it has come.
     [[nodiscard]] std::optional<Finished> takeNext();

@@ -6,22 +6,23 @@
 #include <QSet>
 
 namespace archive {
+using namespace Qt::StringLiterals;
 namespace {
 
 QString below(const QString& folder, const QString& name)
 {
-    return folder.isEmpty() ? name : folder + QLatin1Char('/') + name;
+    return folder.isEmpty() ? name : folder + u'/' + name;
 }
 
-/// Every folder that an output of the inputs stands in, with those above it.
+/// Every folder that contains an output of the inputs, with those above it.
 QSet<QString> foldersOf(const QList<Input>& inputs)
 {
     QSet<QString> folders;
     for (const Input& input : inputs) {
         for (QString folder = input.folder; !folder.isEmpty() && !folders.contains(folder);
-             folder = folder.left(folder.lastIndexOf(QLatin1Char('/')))) {
+             folder = folder.left(folder.lastIndexOf(u'/'))) {
             folders.insert(folder);
-            if (!folder.contains(QLatin1Char('/'))) {
+            if (!folder.contains(u'/')) {
                 break;
             }
         }
@@ -42,7 +43,7 @@ OutputNames::OutputNames(const QList<Input>& inputs, const QStringList& suffixes
 
 QString OutputNames::output(qsizetype index, const QString& suffix) const
 {
-    return stem(index) + QLatin1Char('.') + suffix;
+    return stem(index) + u'.' + suffix;
 }
 
 bool OutputNames::isContested(qsizetype index) const
@@ -67,7 +68,7 @@ void OutputNames::settle(Naming from, Naming to)
     }
     QList<qsizetype> meeting;
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
-        // A short name that a whole name meets is contested as the whole one is.
+        // A short name that equals a complete name is contested like that name.
         if (uses.value(stem(index)) > 1 && (m_naming.at(index) == from || to == Contested)) {
             meeting.append(index);
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "archive/input.h"
+#include "archive/input_list.h"
 
 #include <QStringList>
 
@@ -9,14 +9,13 @@ namespace archive {
 
 /// The names of all outputs of a command.
 ///
-/// An output is named after its input, with the target's suffix in place of the input's:
-/// shelf.old.cnv becomes shelf.old.png. Inputs of one folder that would meet in one name,
-/// shelf.cnv and shelf.odg, keep their whole name instead: shelf.cnv.png and shelf.odg.png.
-/// What meets even then, two files of one name from two folders, is contested, and so is an
-/// output that would stand where the outputs of others need a folder.
+/// An output is named after its input, with the target's suffix instead of the input's:
+/// shelf.old.cnv becomes shelf.old.png. Inputs of one folder that would get the same name,
+/// shelf.cnv and shelf.odg, keep their complete names: shelf.cnv.png and shelf.odg.png. If complete
+/// names are equal as well (two files of one name from two folders), or an output has the name of a
+/// folder of other outputs, the names are contested, and none of them is written.
 ///
-/// The names depend on the set of inputs only, not on their order. One small number is kept
-/// for each input.
+/// The names depend on the set of inputs only, not on their order.
 class OutputNames
 {
 public:

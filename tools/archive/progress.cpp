@@ -1,6 +1,9 @@
 #include "archive/progress.h"
 
+#include "console/file_name.h"
+
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -10,6 +13,7 @@
 #include <unistd.h>
 
 namespace archive {
+using namespace Qt::StringLiterals;
 namespace {
 
 QString tr(const char* text)
@@ -20,11 +24,10 @@ QString tr(const char* text)
 QString bar(double share, int width)
 {
     const int full = static_cast<int>(share * width);
-    return QLatin1Char('[') + QString(full, QLatin1Char('#')) +
-           QString(width - full, QLatin1Char('.')) + QLatin1Char(']');
+    return u'[' + QString(full, u'#') + QString(width - full, u'.') + u']';
 }
 
-/// Files that this command did itself per second; what was skipped took no time.
+/// Files imported by this command per second; skipped files take no time.
 double rateOf(const Progress& progress)
 {
     const qint64 worked = progress.done - progress.skipped;
@@ -52,19 +55,26 @@ void write(const QString& text)
 QString durationText(qint64 seconds)
 {
     const auto twoDigits = [](qint64 number) {
-        return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+        return u"%1"_s.arg(number, 2, 10, QLatin1Char('0'));
     };
     const qint64 minutes = seconds / 60;
-    const QString tail = QLatin1Char(':') + twoDigits(seconds % 60);
-    return minutes < 60
-               ? QString::number(minutes) + tail
-               : QString::number(minutes / 60) + QLatin1Char(':') + twoDigits(minutes % 60) + tail;
+    const QString tail = u':' + twoDigits(seconds % 60);
+    return minutes < 60 ? QString::number(minutes) + tail
+                        : QString::number(minutes / 60) + u':' + twoDigits(minutes % 60) + tail;
+}
+
+[[nodiscard]] static QString slowFileText(const Progress& progress)
+{
+    const QString name = console::shownFileName(QFileInfo(progress.slowFile).fileName());
+    constexpr int longest = 30;
+    const QString shown = name.size() > longest ? name.left(longest - 1) + QChar(0x2026) : name;
+    return u"%1 %2"_s.arg(shown, durationText(progress.slowMilliseconds / 1000));
 }
 
 QString progressLine(const Progress& progress, int columns)
 {
     const double rate = rateOf(progress);
-    QStringList parts{QStringLiteral("%1/%2").arg(progress.done).arg(progress.total)};
+    QStringList parts{u"%1/%2"_s.arg(progress.done).arg(progress.total)};
     if (rate > 0.0) {
         const auto left =
             static_cast<qint64>(static_cast<double>(progress.total - progress.done) / rate + 0.5);
@@ -74,14 +84,16 @@ QString progressLine(const Progress& progress, int columns)
     if (progress.failed > 0) {
         parts.append(tr("%1 failed").arg(progress.failed));
     }
-    const QString words = parts.join(QStringLiteral("  "));
+    if (!progress.slowFile.isEmpty()) {
+        parts.append(slowFileText(progress));
+    }
+    const QString words = parts.join(u"  "_s);
     const int room = std::min(30, columns - static_cast<int>(words.size()) - 4);
     constexpr int smallestBar = 5;
     const double share = progress.total > 0 ? static_cast<double>(progress.done) /
                                                   static_cast<double>(progress.total)
                                             : 1.0;
-    const QString line =
-        room < smallestBar ? words : bar(share, room) + QStringLiteral("  ") + words;
+    const QString line = room < smallestBar ? words : bar(share, room) + u"  "_s + words;
     return line.left(std::max(columns, 0));
 }
 
@@ -104,8 +116,8 @@ void ProgressDisplay::show(const Progress& progress)
     const bool isRed = m_isColored && progress.failed > 0;
     // The last column stays free: some terminals begin a new line when it is used.
     const QString line = progressLine(progress, terminalColumns() - 1);
-    write(QStringLiteral("\r\033[K") + (isRed ? QStringLiteral("\033[31m") : QString()) + line +
-          (isRed ? QStringLiteral("\033[0m") : QString()));
+    write(u"\r\033[K"_s + (isRed ? u"\033[31m"_s : QString()) + line +
+          (isRed ? u"\033[0m"_s : QString()));
     m_isShown = true;
     m_sinceShown.start();
 }
@@ -113,7 +125,7 @@ void ProgressDisplay::show(const Progress& progress)
 void ProgressDisplay::clear()
 {
     if (m_isShown) {
-        write(QStringLiteral("\r\033[K"));
+        write(u"\r\033[K"_s);
         m_isShown = false;
     }
 }
@@ -125,7 +137,7 @@ bool isTerminal()
 
 bool wantsColor()
 {
-    // By convention the variable counts when it is set to anything but nothing.
+    // By convention an empty variable counts as not set.
     return isTerminal() && qgetenv("NO_COLOR").isEmpty();
 }
 

@@ -6,29 +6,32 @@
 
 namespace archive {
 
-/// How far an archive is.
+/// The state of a run.
 struct Progress
 {
     qint64 total = 0;
-    qint64 done = 0;    ///< finished in any way, skipped ones included
-    qint64 skipped = 0; ///< done by an earlier command
+    qint64 done = 0;    ///< finished in any way, including skipped ones
+    qint64 skipped = 0; ///< imported by an earlier command
     qint64 failed = 0;
-    qint64 milliseconds = 0; ///< since the beginning
+    qint64 milliseconds = 0;     ///< since the beginning
+    QString slowFile;            ///< the oldest file in work, if it takes long; else empty
+    qint64 slowMilliseconds = 0; ///< since its work began
 };
 
-/// One line for a person: a bar, counts, files per second, the time left, failures so far.
+/// One line for a person: a bar, counts, files per second, the time left, failures so far, and a
+/// file that takes long.
 ///
-/// @param columns most characters; what has no room is left out, the bar first
+/// @param columns maximum of characters; the bar is left out first
 [[nodiscard]] QString progressLine(const Progress& progress, int columns);
 
 /// A duration as 0:05, 12:34 or 1:02:03.
 [[nodiscard]] QString durationText(qint64 seconds);
 
-/// A line at the bottom of a terminal that tells the progress, and makes way for messages.
+/// A progress line at the bottom of a terminal.
 class ProgressDisplay
 {
 public:
-    /// @param isOn     whether there is anybody to look: standard error is a terminal
+    /// @param isOn      whether standard error is a terminal
     /// @param isColored whether failures are shown in red
     ProgressDisplay(bool isOn, bool isColored);
     ~ProgressDisplay();
@@ -37,7 +40,7 @@ public:
 
     /// Shows the progress, at most ten times a second.
     void show(const Progress& progress);
-    /// Takes the line away, before something else is printed.
+    /// Removes the line, before something else is printed.
     void clear();
 
 private:
@@ -49,7 +52,7 @@ private:
 
 /// Whether standard error is a terminal that can move its cursor.
 [[nodiscard]] bool isTerminal();
-/// Whether colours are welcome: on a terminal, and NO_COLOR is not set.
+/// Whether to use colors: on a terminal, unless NO_COLOR is set.
 [[nodiscard]] bool wantsColor();
 
 } // namespace archive

@@ -1,51 +1,32 @@
 #include "archive/publish.h"
 
+#include "console/file_name.h"
+
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <cerrno>
-#include <cstring>
-
 #include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace archive {
 namespace {
 
-QString cannotWrite(const QString& path, const QString& reason)
+using namespace Qt::StringLiterals;
+
+QString tr(const char* text)
 {
-    return QCoreApplication::translate("archive::Publish", "Cannot write \"%1\": %2.")
-        .arg(path, reason);
+    return QCoreApplication::translate("archive::Publish", text);
 }
 
-/// Between two file systems nothing can be moved in one step: a copy beside the place comes
-/// first. It keeps the time of the staged file, by which it will be known again.
-QString copyInto(const StagedFile& file)
-{
-    QFile source(file.staged);
-    QSaveFile copy(file.output.path);
-    if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly)) {
-        return cannotWrite(file.output.path, copy.errorString());
-    }
-    constexpr qint64 blockSize = 1024 * 1024;
-    for (QByteArray block = source.read(blockSize); !block.isEmpty();
-         block = source.read(blockSize)) {
-        copy.write(block);
-    }
-    copy.flush();
-    copy.setFileTime(QDateTime::fromMSecsSinceEpoch(file.output.modified),
-                     QFileDevice::FileModificationTime);
-    if (copy.error() != QFileDevice::NoError || !copy.commit()) {
-        return cannotWrite(file.output.path, copy.errorString());
-    }
-    return {};
-}
-
-/// Moves a file; 0 or the system's error number.
+/// Moves a file; returns 0 or the system's error number.
 int moveFile(const QByteArray& from, const QByteArray& to, bool mayReplace)
 {
     if (!mayReplace) {
@@ -57,43 +38,98 @@ int moveFile(const QByteArray& from, const QByteArray& to, bool mayReplace)
         if (errno != EINVAL && errno != ENOSYS) {
             return errno;
         }
-        if (QFileInfo::exists(QFile::decodeName(to))) {
+        std::error_code ignored;
+        if (std::filesystem::exists(to.toStdString(), ignored)) {
             return EEXIST;
         }
     }
     return ::rename(from.constData(), to.constData()) == 0 ? 0 : errno;
 }
 
+/// A file cannot be moved to another file system in one step: it is copied to a hidden file in the
+/// folder of the output, which is then renamed. Keeps the time, which identifies the file.
+int copyFile(const QByteArray& from, const QString& output, bool mayReplace)
+{
+    const QFileInfo info(output);
+    const QByteArray copy = console::fileNameToBytes(
+        info.dir().filePath(u".labelport-copy-%1-%2"_s.arg(::getpid()).arg(info.fileName())));
+    const std::filesystem::path source = from.toStdString();
+    const std::filesystem::path target = copy.toStdString();
+    std::error_code error;
+    std::filesystem::copy_file(source, target, std::filesystem::copy_options::overwrite_existing,
+                               error);
+    if (!error) {
+        const auto time = std::filesystem::last_write_time(source, error);
+        std::filesystem::last_write_time(target, time, error);
+    }
+    const int failure =
+        error ? error.value() : moveFile(copy, console::fileNameToBytes(output), mayReplace);
+    if (failure != 0) {
+        std::error_code ignored;
+        std::filesystem::remove(target, ignored);
+    }
+    return failure;
+}
+
 } // namespace
 
-QString notOursWords(const QString& path)
+QString cannotWrite(const QString& path, const QString& reason)
 {
-    return QCoreApplication::translate(
-               "archive::Publish",
-               "%1 exists and was not made by labelport, or may have been changed since; it is "
-               "left as it is (--force overwrites it)")
+    return tr("Cannot write \"%1\": %2.").arg(path, reason);
+}
+
+QString folderInPlaceMessage(const QString& path)
+{
+    return cannotWrite(path, tr("a folder of that name exists"));
+}
+
+QString foreignFileMessage(const QString& path)
+{
+    return tr("\"%1\" exists, and it was not written by labelport or has been edited since. Use "
+              "--force to overwrite it.")
         .arg(path);
 }
 
 QString publish(const StagedFile& file)
 {
     const QString& path = file.output.path;
-    if (!QDir().mkpath(QFileInfo(path).path())) {
-        return cannotWrite(
-            path, QCoreApplication::translate("archive::Publish", "its folder cannot be made"));
+    const QString folder = QFileInfo(path).path();
+    const QString folderError = console::makeFolder(folder);
+    if (!folderError.isEmpty()) {
+        return tr("Cannot create folder \"%1\": %2.").arg(folder, folderError);
     }
-    const int error =
-        moveFile(QFile::encodeName(file.staged), QFile::encodeName(path), file.mayReplace);
-    switch (error) {
-    case 0:
-        return {};
-    case EEXIST:
-        return notOursWords(path);
-    case EXDEV:
-        return !file.mayReplace && QFileInfo::exists(path) ? notOursWords(path) : copyInto(file);
-    default:
-        return cannotWrite(path, QString::fromLocal8Bit(std::strerror(error)));
+    if (console::kindOf(path) == console::FileKind::Folder) {
+        return folderInPlaceMessage(path);
     }
+    const QByteArray staged = console::fileNameToBytes(file.staged);
+    int error = moveFile(staged, console::fileNameToBytes(path), file.mayReplace);
+    if (error == EXDEV) {
+        error = copyFile(staged, path, file.mayReplace);
+    }
+    if (error == EEXIST) {
+        return foreignFileMessage(path);
+    }
+    return error == 0 ? QString() : cannotWrite(path, QString::fromLocal8Bit(std::strerror(error)));
+}
+
+void publishAll(FileResult& result, const std::function<bool(const QString& path)>& mayReplace)
+{
+    QList<StagedFile> published;
+    for (StagedFile file : std::as_const(result.files)) {
+        QString error = publish(file);
+        if (!error.isEmpty() && !file.mayReplace && mayReplace && mayReplace(file.output.path)) {
+            file.mayReplace = true;
+            error = publish(file);
+        }
+        if (error.isEmpty()) {
+            published.append(file);
+        } else {
+            result.errors.append(error);
+            result.outcome =
+                result.outcome == FileOutcome::Done ? FileOutcome::Failed : result.outcome;
+        }
+    }
+    result.files = published;
 }
 
 } // namespace archive

@@ -2,17 +2,27 @@
 
 #include "archive/messages.h"
 
+#include <functional>
+
 namespace archive {
 
-/// Puts a staged file in its place, in one step: whoever looks sees all of it or what was
-/// there before. Makes the folders that are missing.
+/// Moves a staged file into its place. Atomic: readers see the old or the complete new file.
+/// Creates missing folders. A file that must not be replaced is not replaced even if it appeared a
+/// moment ago.
 ///
-/// What nobody may replace is not replaced even if it appeared a moment ago.
-///
-/// @return why it could not be done, for a person, and nothing is changed; else empty
+/// @return why that failed, for a person, and nothing is changed; else empty
 [[nodiscard]] QString publish(const StagedFile& file);
 
-/// The words for an output that stands where somebody else's file is.
-[[nodiscard]] QString notOursWords(const QString& path);
+/// Publishes all files of a result. Files that could not be published are removed from it, with an
+/// error each.
+///
+/// @param mayReplace whether a file that appeared at the path of an output may be replaced: another
+///        command may have written the same output since the worker checked. May be empty.
+void publishAll(FileResult& result, const std::function<bool(const QString& path)>& mayReplace);
+
+/// Messages about an output that cannot be written.
+[[nodiscard]] QString cannotWrite(const QString& path, const QString& reason);
+[[nodiscard]] QString foreignFileMessage(const QString& path);
+[[nodiscard]] QString folderInPlaceMessage(const QString& path);
 
 } // namespace archive

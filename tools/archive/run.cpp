@@ -1,24 +1,29 @@
 #include "archive/run.h"
 
 #include "archive/publish.h"
+#include "console/file_name.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace archive {
 namespace {
 
-/// How long files in work may still take after the run was asked to stop.
+/// Time that files in work have left after the run was asked to stop.
 constexpr int GraceMilliseconds = 3'000;
 
-QString contestedWords(const QString& output)
+/// A file that takes longer is named in the progress.
+constexpr qint64 SlowMilliseconds = 3'000;
+
+QString nameClashMessage(const QString& output)
 {
     return QCoreApplication::translate(
                "archive::Run",
-               "another of the given files has the same name, so both would become %1; import "
-               "them into different folders with --output-dir")
+               "Another input has the same name; both would become \"%1\". Keep their subfolders "
+               "with --base, or use different --output-dir folders.")
         .arg(output);
 }
 
@@ -43,7 +48,8 @@ QString Run::open()
     if (!error.isEmpty() || !m_settings.keepsJournal) {
         return error;
     }
-    return m_journal.open(m_settings.outputFolder, m_settings.shard, m_inputs);
+    return m_journal.open(m_settings.outputFolder, m_settings.shard, m_inputs,
+                          m_settings.isResuming);
 }
 
 void Run::start()
@@ -52,7 +58,7 @@ void Run::start()
     PoolClient& client = *this;
     m_pool = std::make_unique<WorkerPool>(client, m_settings.command, m_settings.limits,
                                           m_settings.workers);
-    // Later, because the pool goes when all is finished.
+    // Queued, because the pool is deleted when all is finished.
     connect(m_pool.get(), &WorkerPool::drained, this, &Run::finish, Qt::QueuedConnection);
     connect(m_pool.get(), &WorkerPool::broken, this, &Run::noteBroken, Qt::QueuedConnection);
     m_pool->start();
@@ -77,6 +83,11 @@ Progress Run::progress() const
 {
     Progress progress = m_progress;
     progress.milliseconds = m_elapsed.isValid() ? m_elapsed.elapsed() : 0;
+    const auto oldest = std::min_element(m_begun.begin(), m_begun.end());
+    if (oldest != m_begun.end() && progress.milliseconds - *oldest >= SlowMilliseconds) {
+        progress.slowFile = m_inputs.at(oldest.key()).shownName;
+        progress.slowMilliseconds = progress.milliseconds - *oldest;
+    }
     return progress;
 }
 
@@ -86,7 +97,7 @@ std::optional<qsizetype> Run::nextTask()
         const qsizetype index = m_cursor++;
         if (!m_settings.shard.takes(index)) {
             m_results.skip(index);
-        } else if (!settleAtOnce(index)) {
+        } else if (!finishWithoutWorker(index)) {
             return index;
         }
         deliverReady();
@@ -94,17 +105,17 @@ std::optional<qsizetype> Run::nextTask()
     return std::nullopt;
 }
 
-bool Run::settleAtOnce(qsizetype index)
+bool Run::finishWithoutWorker(qsizetype index)
 {
     if (m_names.isContested(index)) {
         const QString output = m_names.output(index, m_settings.targets.first());
-        lose(index, Fate::Failed, contestedWords(inOutputFolder(output)));
+        recordFailure(index, FileOutcome::Failed, nameClashMessage(inOutputFolder(output)));
         return true;
     }
     if (m_settings.isResuming && isDoneAlready(index)) {
         m_resumed.insert(index);
         ++m_progress.skipped;
-        settle(index, {Fate::Done, {}, {}, {}, {}, 0}, 0);
+        settle(index, {FileOutcome::Done, {}, {}, {}, {}, 0}, 0);
         return true;
     }
     return false;
@@ -119,6 +130,11 @@ QStringList Run::plannedOutputs(qsizetype index) const
     return outputs;
 }
 
+QString Run::fingerprint(qsizetype index) const
+{
+    return fingerprintOf(m_settings.options, plannedOutputs(index));
+}
+
 QString Run::inOutputFolder(const QString& path) const
 {
     return QDir::cleanPath(QDir(m_settings.outputFolder).filePath(path));
@@ -126,34 +142,33 @@ QString Run::inOutputFolder(const QString& path) const
 
 bool Run::isDoneAlready(qsizetype index)
 {
-    const QString path = QFileInfo(m_inputs.at(index).path).absoluteFilePath();
-    const std::optional<FileStamp> stamp = stampOf(path);
-    const std::optional<JournalRecord> record = m_journal.find(index);
+    const std::optional<FileStamp> stamp = stampOf(console::absolutePath(m_inputs.at(index).path));
+    const std::optional<JournalRecord> record = m_journal.find(index, fingerprint(index));
     return stamp && record &&
-           isDone(*record, {*stamp, fingerprintOf(m_settings.options, plannedOutputs(index)),
-                            m_settings.version, m_settings.outputFolder, m_settings.needsReports});
+           isDone(*record, {*stamp, record->options, m_settings.version, m_settings.outputFolder,
+                            m_settings.needsReports});
 }
 
 QByteArray Run::lineFor(qsizetype task, int slot)
 {
     const Input& input = m_inputs.at(task);
-    const QString path = QFileInfo(input.path).absoluteFilePath();
+    const QString path = console::absolutePath(input.path);
     m_stamps.insert(task, stampOf(path).value_or(FileStamp{path}));
+    m_begun.insert(task, m_elapsed.elapsed());
 
     Job job;
     job.file = input.path;
     job.shownName = input.shownName;
     job.staging = m_staging.emptySlot(slot);
     job.options = m_settings.options;
-    for (auto entry = m_settings.manner.begin(); entry != m_settings.manner.end(); ++entry) {
+    for (auto entry = m_settings.workerOptions.begin(); entry != m_settings.workerOptions.end();
+         ++entry) {
         job.options.insert(entry.key(), entry.value());
     }
     for (const QString& target : m_settings.targets) {
         job.outputs.append({target, inOutputFolder(m_names.output(task, target))});
     }
-    if (const std::optional<JournalRecord> record = m_journal.find(task)) {
-        job.known = untouchedOutputs(*record, m_settings.outputFolder);
-    }
+    job.known = untouchedOutputs(m_journal.outputsOf(task), m_settings.outputFolder);
     return archive::lineOf(job);
 }
 
@@ -161,64 +176,37 @@ qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
 {
     std::optional<FileResult> result = resultFromLine(line);
     if (!result) {
-        taskDied(task, {WorkerDeath::Garbled, 0});
+        taskFailed(task, {WorkerEnd::Garbled, 0});
         return 0;
     }
     const qint64 memory = result->memory;
-    // Before the outputs stand: a file that is in its place is always known to be ours.
+    // Before the outputs are published: every output in place is in the journal, whichever process
+    // is killed.
     remember(task, *result);
-    publishAll(*result);
+    publishAll(*result, m_settings.mayReplace);
     settle(task, std::move(*result), line.size());
     return memory;
 }
 
-void Run::publishAll(FileResult& result) const
+void Run::taskFailed(qsizetype task, const WorkerEnd& end)
 {
-    QList<StagedFile> published;
-    for (const StagedFile& file : std::as_const(result.files)) {
-        const QString error = publishOver(file);
-        if (error.isEmpty()) {
-            published.append(file);
-        } else {
-            result.errors.append(error);
-            result.fate = result.fate == Fate::Done ? Fate::Failed : result.fate;
-        }
-    }
-    result.files = published;
-}
-
-QString Run::publishOver(StagedFile file) const
-{
-    const QString error = publish(file);
-    // Another command may have put the same output there since the worker looked.
-    const bool isInTheWay = !error.isEmpty() && !file.mayReplace && m_settings.mayReplace &&
-                            m_settings.mayReplace(file.output.path);
-    if (!isInTheWay) {
-        return error;
-    }
-    file.mayReplace = true;
-    return publish(file);
-}
-
-void Run::taskDied(qsizetype task, const WorkerDeath& death)
-{
-    lose(task, fateOf(death), wordsFor(death, m_settings.limits));
+    recordFailure(task, outcomeOf(end), messageFor(end, m_settings.limits));
 }
 
 JournalRecord Run::recordFor(qsizetype index, const FileResult& result)
 {
-    const QString path = QFileInfo(m_inputs.at(index).path).absoluteFilePath();
+    const QString path = console::absolutePath(m_inputs.at(index).path);
     JournalRecord record;
     record.input = m_stamps.value(index, FileStamp{path});
-    record.options = fingerprintOf(m_settings.options, plannedOutputs(index));
+    record.options = fingerprint(index);
     record.version = m_settings.version;
-    record.fate = result.fate;
+    record.outcome = result.outcome;
     record.errors = result.errors;
     record.report = result.report;
-    const QDir folder(m_settings.outputFolder);
+    const QDir folder(console::absolutePath(m_settings.outputFolder));
     for (const StagedFile& file : result.files) {
         FileStamp stamp = file.output;
-        stamp.path = folder.relativeFilePath(QFileInfo(stamp.path).absoluteFilePath());
+        stamp.path = folder.relativeFilePath(console::absolutePath(stamp.path));
         record.outputs.append(stamp);
     }
     return record;
@@ -226,17 +214,18 @@ JournalRecord Run::recordFor(qsizetype index, const FileResult& result)
 
 void Run::remember(qsizetype index, const FileResult& result)
 {
-    if (m_journal.isOpen() && !m_journal.append(recordFor(index, result)) && m_troubles.isEmpty()) {
-        m_troubles.append(QCoreApplication::translate(
-            "archive::Run", "The journal in the output folder cannot be written, so --resume "
-                            "will do some files again."));
+    if (m_journal.isOpen() && !m_journal.append(recordFor(index, result)) && m_warnings.isEmpty()) {
+        m_warnings.append(QCoreApplication::translate(
+            "archive::Run", "Cannot write the journal in the output folder; --resume will import "
+                            "some files again."));
     }
     m_stamps.remove(index);
+    m_begun.remove(index);
 }
 
-void Run::lose(qsizetype index, Fate fate, const QString& error)
+void Run::recordFailure(qsizetype index, FileOutcome outcome, const QString& error)
 {
-    FileResult result{fate, {}, {error}, {}, {}, 0};
+    FileResult result{outcome, {}, {error}, {}, {}, 0};
     remember(index, result);
     settle(index, std::move(result), error.size());
 }
@@ -244,7 +233,7 @@ void Run::lose(qsizetype index, Fate fate, const QString& error)
 void Run::settle(qsizetype index, FileResult result, qint64 size)
 {
     ++m_progress.done;
-    m_progress.failed += result.fate == Fate::Done ? 0 : 1;
+    m_progress.failed += result.outcome == FileOutcome::Done ? 0 : 1;
     m_results.add(index, std::move(result), size);
     deliverReady();
     Q_EMIT advanced();
@@ -260,7 +249,7 @@ void Run::deliverReady()
 void Run::deliver(qsizetype index, FileResult result)
 {
     const bool isResumed = m_resumed.remove(index);
-    if (const auto record = isResumed ? m_journal.find(index) : std::nullopt) {
+    if (const auto record = isResumed ? m_journal.find(index, fingerprint(index)) : std::nullopt) {
         result.report = record->report;
         for (const FileStamp& output : record->outputs) {
             result.files.append({{}, output, false});
@@ -277,9 +266,9 @@ void Run::deliver(qsizetype index, FileResult result)
 void Run::noteBroken()
 {
     m_isBroken = true;
-    m_troubles.append(QCoreApplication::translate(
-        "archive::Run", "The processes that import files cannot be started, or end at once. A "
-                        "larger --memory-limit may help."));
+    m_warnings.append(QCoreApplication::translate(
+        "archive::Run", "Cannot start the worker processes, or they exit at once. Try a larger "
+                        "--memory-limit."));
     finish();
 }
 
@@ -290,7 +279,7 @@ void Run::finish()
     }
     m_isFinished = true;
     m_pool.reset();
-    // After a stop there are results whose turn never comes; their outputs stand all the same.
+    // After a stop some results wait for files that are never imported; their outputs exist.
     while (std::optional<OrderedResults::Finished> left = m_results.takeAny()) {
         deliver(left->index, std::move(left->result));
     }

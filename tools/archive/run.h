@@ -1,6 +1,6 @@
 #pragma once
 
-#include "archive/input.h"
+#include "archive/input_list.h"
 #include "archive/journal.h"
 #include "archive/messages.h"
 #include "archive/ordered_results.h"
@@ -20,39 +20,38 @@
 
 namespace archive {
 
-/// What is done with all files.
+/// How all files are imported.
 struct RunSettings
 {
-    QStringList targets; ///< names, which are suffixes too
+    QStringList targets; ///< names, which are the suffixes of the outputs
     QString outputFolder;
     Shard shard;
-    QJsonObject options; ///< handed to workers; files that were done with others are done again
-    QJsonObject manner;  ///< handed to workers as well; changes nothing of what is written
-    QString version;     ///< of the program; files that another one did are done again
+    QJsonObject options;       ///< for workers; files imported with others are imported again
+    QJsonObject workerOptions; ///< for workers; without influence on the outputs
+    QString version;           ///< of the program; files imported by another are imported again
     bool isResuming = false;
     bool keepsJournal = false;
     bool needsReports = false;
     int workers = 1;
     WorkerCommand command;
     WorkerLimits limits;
-    /// Whether a file that appeared where an output is to stand may be replaced.
+    /// Whether a file that appeared at the path of an output may be replaced.
     std::function<bool(const QString& path)> mayReplace;
 };
 
-/// What became of one file, told when it is its turn.
+/// The outcome of one file, delivered in the order of the inputs.
 struct Delivery
 {
     const Input& input;
     const FileResult& result;
-    QStringList written;    ///< the outputs that stand now, in the order of the targets
-    bool isResumed = false; ///< an earlier command did it
+    QStringList written;    ///< outputs that exist now, in the order of the targets
+    bool isResumed = false; ///< imported by an earlier command
 };
 
-/// Imports many files: hands them to workers, puts what they wrote in its place, remembers
-/// what is done, and tells in the order of the inputs what became of each.
+/// Imports many files: hands them to workers, publishes their outputs, keeps the journal, and
+/// delivers the outcomes in the order of the inputs.
 ///
-/// Results and their order depend on nothing but the files. Of each file that waits only a
-/// few bytes are kept.
+/// Results and their order depend on the files only. Of each waiting file a few bytes are kept.
 class Run final : public QObject, private PoolClient
 {
     Q_OBJECT
@@ -64,24 +63,24 @@ public:
     Run(const QList<Input>& inputs, RunSettings settings, Deliver deliver);
     ~Run() override;
 
-    /// Prepares the output folder. @return why nothing can be done, for a person; else empty
+    /// Prepares the output folder. @return why that failed, for a person; else empty
     [[nodiscard]] QString open();
     /// Begins; finished() comes later.
     void start();
-    /// Begins no more files; finished() comes when those in work are done or took too long.
+    /// Starts no more files; finished() comes when those in work are done or took too long.
     void stop();
-    /// Ends those in work too.
+    /// Aborts those in work too.
     void stopAtOnce();
 
     [[nodiscard]] Progress progress() const;
     [[nodiscard]] bool isStopped() const { return m_isStopped; }
-    /// Whether files were left undone because no worker could be started.
+    /// Whether files were not imported because no worker could be started.
     [[nodiscard]] bool isBroken() const { return m_isBroken; }
-    /// What kept the whole run from going on, or is to be known of it, for a person.
-    [[nodiscard]] const QStringList& troubles() const { return m_troubles; }
+    /// Messages about the complete run, for a person.
+    [[nodiscard]] const QStringList& warnings() const { return m_warnings; }
 
 Q_SIGNALS:
-    /// Something came on; progress() is new.
+    /// progress() has changed.
     void advanced();
     void finished();
 
@@ -89,18 +88,17 @@ private:
     std::optional<qsizetype> nextTask() override;
     QByteArray lineFor(qsizetype task, int slot) override;
     qint64 taskAnswered(qsizetype task, const QByteArray& line) override;
-    void taskDied(qsizetype task, const WorkerDeath& death) override;
+    void taskFailed(qsizetype task, const WorkerEnd& end) override;
 
-    [[nodiscard]] bool settleAtOnce(qsizetype index);
+    [[nodiscard]] bool finishWithoutWorker(qsizetype index);
     [[nodiscard]] QStringList plannedOutputs(qsizetype index) const;
+    [[nodiscard]] QString fingerprint(qsizetype index) const;
     [[nodiscard]] QString inOutputFolder(const QString& path) const;
     [[nodiscard]] bool isDoneAlready(qsizetype index);
     [[nodiscard]] JournalRecord recordFor(qsizetype index, const FileResult& result);
     void remember(qsizetype index, const FileResult& result);
-    void publishAll(FileResult& result) const;
-    [[nodiscard]] QString publishOver(StagedFile file) const;
     void settle(qsizetype index, FileResult result, qint64 size);
-    void lose(qsizetype index, Fate fate, const QString& error);
+    void recordFailure(qsizetype index, FileOutcome outcome, const QString& error);
     void deliverReady();
     void deliver(qsizetype index, FileResult result);
     void noteBroken();
@@ -114,12 +112,13 @@ private:
     Journal m_journal;
     std::unique_ptr<WorkerPool> m_pool;
     OrderedResults m_results;
-    QSet<qsizetype> m_resumed;            ///< waiting results that the journal knows
+    QSet<qsizetype> m_resumed;            ///< waiting results of earlier commands
     QHash<qsizetype, FileStamp> m_stamps; ///< of the files in work, when they were begun
+    QHash<qsizetype, qint64> m_begun;     ///< milliseconds of m_elapsed when work began
     qsizetype m_cursor = 0;
     Progress m_progress;
     QElapsedTimer m_elapsed;
-    QStringList m_troubles;
+    QStringList m_warnings;
     bool m_isStopped = false;
     bool m_isBroken = false;
     bool m_isFinished = false;

@@ -3,10 +3,11 @@
 #include <QRegularExpression>
 
 namespace archive {
+using namespace Qt::StringLiterals;
 
 std::optional<Shard> shardOf(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^([0-9]{1,6})/([0-9]{1,6})\\z"));
+    static const QRegularExpression form(u"^([0-9]{1,6})/([0-9]{1,6})\\z"_s);
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch()) {
         return std::nullopt;

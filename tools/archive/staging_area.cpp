@@ -1,19 +1,26 @@
 #include "archive/staging_area.h"
 
+#include "console/file_name.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+
 namespace archive {
+using namespace Qt::StringLiterals;
 namespace {
 
-const QString Prefix = QStringLiteral(".labelport-work-");
-const QString LockName = QStringLiteral("lock");
+const QString Prefix = u".labelport-work-"_s;
+const QString LockName = u"lock"_s;
 
-/// A command that makes its folder has not locked it for a moment.
-bool isJustBeingMade(const QFileInfo& folder)
+/// Another command creates its folder a moment before it locks it.
+bool isBeingCreated(const QFileInfo& folder)
 {
     constexpr qint64 moment = 60;
     return !QFileInfo::exists(QDir(folder.filePath()).filePath(LockName)) &&
@@ -22,11 +29,11 @@ bool isJustBeingMade(const QFileInfo& folder)
 
 void removeAbandoned(const QString& outputFolder)
 {
-    const QFileInfoList folders = QDir(outputFolder)
-                                      .entryInfoList({Prefix + QLatin1Char('*')},
-                                                     QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+    const QFileInfoList folders =
+        QDir(outputFolder)
+            .entryInfoList({Prefix + u'*'}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
     for (const QFileInfo& folder : folders) {
-        if (isJustBeingMade(folder)) {
+        if (isBeingCreated(folder)) {
             continue;
         }
         QDir stray(folder.filePath());
@@ -38,11 +45,19 @@ void removeAbandoned(const QString& outputFolder)
     }
 }
 
-QString cannotWriteTo(const QString& folder)
+QString cannotWriteTo(const QString& folder, const QString& reason)
 {
-    return QCoreApplication::translate("archive::StagingArea",
-                                       "Nothing can be written to the folder %1.")
-        .arg(folder);
+    return QCoreApplication::translate("archive::StagingArea", "Cannot write to \"%1\": %2.")
+        .arg(folder, reason);
+}
+
+QString cannotCreate(const QString& folder, const QString& reason)
+{
+    const bool isFile = console::kindOf(folder) == console::FileKind::File;
+    return QCoreApplication::translate("archive::StagingArea", "Cannot create folder \"%1\": %2.")
+        .arg(folder, isFile ? QCoreApplication::translate("archive::StagingArea",
+                                                          "a file of that name exists")
+                            : reason);
 }
 
 } // namespace
@@ -54,28 +69,31 @@ StagingArea::~StagingArea()
 
 QString StagingArea::open(const QString& outputFolder)
 {
-    if (!QDir().mkpath(outputFolder)) {
-        return QCoreApplication::translate("archive::StagingArea", "The folder %1 cannot be made.")
-            .arg(outputFolder);
+    const QString error = console::makeFolder(outputFolder);
+    if (!error.isEmpty()) {
+        return cannotCreate(outputFolder, error);
     }
-    removeAbandoned(outputFolder);
-    QTemporaryDir folder(QDir(outputFolder).filePath(Prefix + QStringLiteral("XXXXXX")));
+    const console::ReachablePath reachable(outputFolder);
+    removeAbandoned(reachable.path());
+    QTemporaryDir folder(QDir(reachable.path()).filePath(Prefix + u"XXXXXX"_s));
     if (!folder.isValid()) {
-        return cannotWriteTo(outputFolder);
+        return cannotWriteTo(outputFolder, folder.errorString());
     }
     m_lock = FileLock::tryLock(folder.filePath(LockName), FileLock::Exclusive, true);
     if (!m_lock.isHeld()) {
-        return cannotWriteTo(outputFolder);
+        return cannotWriteTo(outputFolder, QString::fromLocal8Bit(std::strerror(errno)));
     }
     folder.setAutoRemove(false);
-    m_path = QFileInfo(folder.path()).absoluteFilePath();
+    m_path =
+        QDir(console::absolutePath(outputFolder)).filePath(QFileInfo(folder.path()).fileName());
     return {};
 }
 
 void StagingArea::close()
 {
     if (!m_path.isEmpty()) {
-        QDir(m_path).removeRecursively();
+        std::error_code ignored;
+        std::filesystem::remove_all(console::systemPath(m_path), ignored);
         m_path.clear();
         m_lock.release();
     }
@@ -83,12 +101,14 @@ void StagingArea::close()
 
 QString StagingArea::emptySlot(int number) const
 {
-    QDir slot(QDir(m_path).filePath(QString::number(number)));
-    if (slot.exists() && !slot.isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden)) {
-        slot.removeRecursively();
+    const QString slot = QDir(m_path).filePath(QString::number(number));
+    const std::filesystem::path path = console::systemPath(slot);
+    std::error_code ignored;
+    if (!std::filesystem::is_empty(path, ignored)) {
+        std::filesystem::remove_all(path, ignored);
+        std::filesystem::create_directory(path, ignored);
     }
-    slot.mkpath(QStringLiteral("."));
-    return slot.path();
+    return slot;
 }
 
 } // namespace archive

@@ -6,9 +6,9 @@
 
 namespace archive {
 
-/// A hidden folder within the output folder where outputs are made before they are put in
-/// their place. It goes with this value; what a killed command left behind goes with the next
-/// one's. Commands that run at the same time have folders of their own.
+/// A hidden folder within the output folder where outputs are written before they are moved into
+/// place. Removed by the destructor; leftovers of a killed run are removed by the next. Commands
+/// that run at the same time have folders of their own.
 class StagingArea
 {
 public:
@@ -17,14 +17,14 @@ public:
     StagingArea(const StagingArea&) = delete;
     StagingArea& operator=(const StagingArea&) = delete;
 
-    /// Makes the folder, the output folder too if it is missing.
-    /// @return why it could not be made, for a person; else empty
+    /// Creates the folder, and the output folder if it is missing.
+    /// @return why that failed, for a person; else empty
     [[nodiscard]] QString open(const QString& outputFolder);
     /// Removes the folder with all that is in it.
     void close();
 
     [[nodiscard]] const QString& path() const { return m_path; }
-    /// An empty folder for one worker; what was in it is gone.
+    /// An empty folder for one worker; its former content is removed.
     [[nodiscard]] QString emptySlot(int number) const;
 
 private:

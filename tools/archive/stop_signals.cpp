@@ -35,7 +35,7 @@ StopSignals::StopSignals()
     m_notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &StopSignals::noteSignal);
     for (const int number : Signals) {
-        // Whoever starts a program with a signal ignored, as nohup does, wants it so.
+        // A signal that the parent process ignores, as nohup does, stays ignored.
         if (std::signal(number, &wakeUp) == SIG_IGN) {
             std::signal(number, SIG_IGN);
         }

@@ -1,6 +1,6 @@
 #include "archive/worker_loop.h"
 
-#include "archive/worker_death.h"
+#include "archive/worker_end.h"
 
 #include <QFile>
 
@@ -11,9 +11,10 @@
 #include <unistd.h>
 
 namespace archive {
+using namespace Qt::StringLiterals;
 namespace {
 
-/// The way to the coordinator, which no printing library can disturb.
+/// The pipe to the coordinator, kept apart from standard output, which libraries may print to.
 class Answers
 {
 public:
@@ -31,7 +32,7 @@ public:
     Answers(const Answers&) = delete;
     Answers& operator=(const Answers&) = delete;
 
-    /// False when nobody listens any more.
+    /// Returns false if the coordinator has closed the pipe.
     bool send(const QByteArray& line) const
     {
         const char* rest = line.constData();
@@ -53,7 +54,7 @@ private:
 /// Bytes of memory that the process has now.
 qint64 memoryHeld()
 {
-    QFile file(QStringLiteral("/proc/self/statm"));
+    QFile file(u"/proc/self/statm"_s);
     if (!file.open(QIODevice::ReadOnly)) {
         return 0;
     }
@@ -66,12 +67,12 @@ qint64 memoryHeld()
 int runWorker(const JobHandler& handler)
 {
     const Answers answers;
-    const SignOfLife alive = [&answers] { answers.send("+\n"); };
+    const Heartbeat heartbeat = [&answers] { answers.send("+\n"); };
     QFile jobs;
     if (!jobs.open(STDIN_FILENO, QIODevice::ReadOnly)) {
         return WorkerExitBroken;
     }
-    alive();
+    heartbeat();
     while (true) {
         const QByteArray line = jobs.readLine(MaximumLine);
         if (line.isEmpty()) {
@@ -81,7 +82,7 @@ int runWorker(const JobHandler& handler)
         if (!job) {
             return WorkerExitBroken;
         }
-        FileResult result = handler(*job, alive);
+        FileResult result = handler(*job, heartbeat);
         result.memory = memoryHeld();
         if (!answers.send(lineOf(result))) {
             return WorkerExitDone;

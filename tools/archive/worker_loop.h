@@ -4,12 +4,12 @@
 
 #include <functional>
 
-/// The worker's side: a process that is given files by a coordinator.
+/// The worker's side: a process that imports files for a coordinator.
 namespace archive {
 
-/// Tells the coordinator that a file gets on; its time begins anew.
-using SignOfLife = std::function<void()>;
-using JobHandler = std::function<FileResult(const Job&, const SignOfLife&)>;
+/// Reports progress to the coordinator, which restarts the timeout.
+using Heartbeat = std::function<void()>;
+using JobHandler = std::function<FileResult(const Job&, const Heartbeat&)>;
 
 /// Answers jobs until standard input is closed. Standard output belongs to the conversation:
 /// what anybody else prints there goes nowhere.

@@ -5,7 +5,7 @@
 namespace archive {
 namespace {
 
-/// After so many workers in a row that did not come up, none will.
+/// After this many failed starts in a row, the pool is broken.
 constexpr int ToleratedFailedStarts = 4;
 
 } // namespace
@@ -50,10 +50,10 @@ void WorkerPool::fill(std::size_t slot)
     });
     connect(worker.get(), &WorkerProcess::answered, this,
             [this, slot](const QByteArray& line) { noteAnswer(slot, line); });
-    // Later, because the worker goes: it must not while it speaks.
+    // Queued, because the worker is deleted, which it must not be while it emits.
     connect(
-        worker.get(), &WorkerProcess::died, this,
-        [this, slot](const WorkerDeath& death) { noteDeath(slot, death); }, Qt::QueuedConnection);
+        worker.get(), &WorkerProcess::ended, this,
+        [this, slot](const WorkerEnd& end) { noteEnd(slot, end); }, Qt::QueuedConnection);
     m_slots[slot].worker = std::move(worker);
     m_slots[slot].worker->start();
 }
@@ -108,7 +108,7 @@ void WorkerPool::noteAnswer(std::size_t slot, const QByteArray& line)
     feedAll();
 }
 
-void WorkerPool::noteDeath(std::size_t slot, const WorkerDeath& death)
+void WorkerPool::noteEnd(std::size_t slot, const WorkerEnd& end)
 {
     Slot& entry = m_slots[slot];
     const bool wasReady = entry.worker->isReady();
@@ -116,10 +116,10 @@ void WorkerPool::noteDeath(std::size_t slot, const WorkerDeath& death)
     const bool wasSecondTry = entry.isSecondTry;
     entry.worker.reset();
 
-    if (task && !wasSecondTry && death.deservesAnotherTry() && !m_isStopping) {
+    if (task && !wasSecondTry && end.mayBeRetried() && !m_isStopping) {
         m_secondTries.push_back(*task);
     } else if (task && !m_isStopping) {
-        m_client.taskDied(*task, death);
+        m_client.taskFailed(*task, end);
     }
     m_failedStarts += wasReady ? 0 : 1;
     if (m_failedStarts >= ToleratedFailedStarts) {
@@ -150,13 +150,13 @@ void WorkerPool::noteIfDrained()
     if (isAtWork || isWaiting || m_isOver) {
         return;
     }
-    // There may be more that only waits for a worker to start.
+    // There may be another task that waits for a worker to start.
     const std::optional<qsizetype> task = m_isStopping ? std::nullopt : m_client.nextTask();
     if (task) {
         m_begun.push_back(*task);
     } else {
         m_isOver = true;
-        // Later, so that nobody is surprised within start().
+        // Queued, so that it is not emitted within start().
         QMetaObject::invokeMethod(this, &WorkerPool::drained, Qt::QueuedConnection);
     }
 }

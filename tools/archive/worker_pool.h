@@ -11,7 +11,7 @@
 
 namespace archive {
 
-/// Who has the work that a pool's workers do.
+/// The source of a pool's tasks.
 class PoolClient
 {
 public:
@@ -20,13 +20,13 @@ public:
     /// The next task, if there is one that can be begun now. Asked again whenever a worker
     /// has become idle.
     [[nodiscard]] virtual std::optional<qsizetype> nextTask() = 0;
-    /// What the worker in a slot, counted from 0, is to be told of a task. A task can be
-    /// handed out twice.
+    /// The job that the worker of a slot (counted from 0) gets for a task. A task can be given out
+    /// twice.
     [[nodiscard]] virtual QByteArray lineFor(qsizetype task, int slot) = 0;
     /// @return the memory that the worker holds by its own account, in bytes
     virtual qint64 taskAnswered(qsizetype task, const QByteArray& line) = 0;
-    /// The task cost its worker's life, for good.
-    virtual void taskDied(qsizetype task, const WorkerDeath& death) = 0;
+    /// The worker of the task ended, and the task is not tried again.
+    virtual void taskFailed(qsizetype task, const WorkerEnd& end) = 0;
 };
 
 /// Hands tasks to worker processes, one at a time each, and replaces those that die.
@@ -73,7 +73,7 @@ private:
     void feed(std::size_t slot);
     void hand(std::size_t slot, qsizetype task, bool isSecondTry);
     void noteAnswer(std::size_t slot, const QByteArray& line);
-    void noteDeath(std::size_t slot, const WorkerDeath& death);
+    void noteEnd(std::size_t slot, const WorkerEnd& end);
     void recycle(std::size_t slot);
     void noteIfDrained();
 

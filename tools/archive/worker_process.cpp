@@ -11,13 +11,13 @@
 namespace archive {
 namespace {
 
-/// Starting takes as long as the machine is slow, not as the file is large.
+/// Starting depends on the load of the machine, not on the file.
 constexpr int StartSeconds = 120;
 
 /// Runs in the new process before its program: only what is safe between fork and exec.
 void bindToParent(pid_t parent)
 {
-    // A signal from the terminal is for the coordinator alone, who stops its workers.
+    // A signal from the terminal is for the coordinator, which stops its workers.
     ::setpgid(0, 0);
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != parent) {
@@ -37,14 +37,14 @@ WorkerProcess::WorkerProcess(const WorkerCommand& command, const WorkerLimits& l
 {
     m_process.setProgram(command.program);
     m_process.setArguments(command.arguments);
-    // What the libraries say is for whoever asked for it, as in one process.
+    // Output of libraries goes to standard error, as in one process.
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setChildProcessModifier([parent = ::getpid()] { bindToParent(parent); });
     m_clock.setSingleShot(true);
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &WorkerProcess::readLines);
     connect(&m_process, &QProcess::finished, this, &WorkerProcess::noteEnd);
     connect(&m_process, &QProcess::errorOccurred, this, &WorkerProcess::noteError);
-    connect(&m_clock, &QTimer::timeout, this, &WorkerProcess::giveUpWaiting);
+    connect(&m_clock, &QTimer::timeout, this, &WorkerProcess::noteTimeout);
 }
 
 WorkerProcess::~WorkerProcess()
@@ -97,7 +97,7 @@ void WorkerProcess::readLines()
     }
     m_unread.remove(0, begin);
     if (m_unread.size() > MaximumLine) {
-        kill(WorkerDeath::Garbled);
+        kill(WorkerEnd::Garbled);
     }
 }
 
@@ -117,18 +117,18 @@ void WorkerProcess::take(const QByteArray& line)
     }
 }
 
-void WorkerProcess::giveUpWaiting()
+void WorkerProcess::noteTimeout()
 {
-    // After this program was stopped for a while, an answer may lie in the pipe.
+    // If this program was stopped for a while, an answer may be in the pipe.
     m_process.waitForReadyRead(0);
     const bool isAnswered = m_state == State::Idle;
     const bool lives = m_clock.isActive();
     if (!isAnswered && !lives) {
-        kill(m_state == State::Starting ? WorkerDeath::NotStarted : WorkerDeath::TimedOut);
+        kill(m_state == State::Starting ? WorkerEnd::NotStarted : WorkerEnd::TimedOut);
     }
 }
 
-void WorkerProcess::kill(WorkerDeath::Kind why)
+void WorkerProcess::kill(WorkerEnd::Kind why)
 {
     if (!m_killedFor) {
         m_killedFor = why;
@@ -142,21 +142,21 @@ void WorkerProcess::noteEnd(int code, QProcess::ExitStatus status)
     if (m_killedFor) {
         end({*m_killedFor, code});
     } else {
-        end({status == QProcess::CrashExit ? WorkerDeath::Signalled : WorkerDeath::Exited, code});
+        end({status == QProcess::CrashExit ? WorkerEnd::Signalled : WorkerEnd::Exited, code});
     }
 }
 
 void WorkerProcess::noteError(QProcess::ProcessError error)
 {
     if (error == QProcess::FailedToStart) {
-        end({WorkerDeath::NotStarted, 0});
+        end({WorkerEnd::NotStarted, 0});
     }
 }
 
-void WorkerProcess::end(const WorkerDeath& death)
+void WorkerProcess::end(const WorkerEnd& end)
 {
     m_clock.stop();
-    Q_EMIT died(death);
+    Q_EMIT ended(end);
 }
 
 } // namespace archive

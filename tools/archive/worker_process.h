@@ -1,6 +1,6 @@
 #pragma once
 
-#include "archive/worker_death.h"
+#include "archive/worker_end.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -22,9 +22,9 @@ struct WorkerCommand
 
 /// One worker: a process of its own that is given one file at a time, as a line on its
 /// standard input, and answers with a line on its standard output. A line that is a single
-/// "+" is a sign of life: once when it is ready, then as often as it gets on.
+/// "+" is a heartbeat: once when it is ready, then after each step.
 ///
-/// The process dies with this object, and with the program however that ends.
+/// The process is killed with this object, and with the program however that ends.
 class WorkerProcess final : public QObject
 {
     Q_OBJECT
@@ -34,9 +34,9 @@ public:
     ~WorkerProcess() override;
 
     void start();
-    /// Hands a line over; the worker must be idle.
+    /// Sends a job; the worker must be idle.
     void give(const QByteArray& line);
-    /// Lets an idle worker go in peace.
+    /// Lets an idle worker exit.
     void dismiss();
 
     [[nodiscard]] bool isReady() const { return m_state != State::Starting; }
@@ -50,18 +50,18 @@ Q_SIGNALS:
     void ready();
     void answered(const QByteArray& line);
     /// The last signal. The worker may have been busy or not.
-    void died(const archive::WorkerDeath& death);
+    void ended(const archive::WorkerEnd& end);
 
 private:
     enum class State { Starting, Idle, Busy, Gone };
 
     void readLines();
     void take(const QByteArray& line);
-    void giveUpWaiting();
-    void kill(WorkerDeath::Kind why);
+    void noteTimeout();
+    void kill(WorkerEnd::Kind why);
     void noteEnd(int code, QProcess::ExitStatus status);
     void noteError(QProcess::ProcessError error);
-    void end(const WorkerDeath& death);
+    void end(const WorkerEnd& end);
     void startClock();
 
     WorkerLimits m_limits;
@@ -69,7 +69,7 @@ private:
     QTimer m_clock;
     QByteArray m_unread;
     State m_state = State::Starting;
-    std::optional<WorkerDeath::Kind> m_killedFor;
+    std::optional<WorkerEnd::Kind> m_killedFor;
     int m_served = 0;
 };
 

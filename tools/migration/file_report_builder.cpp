@@ -13,19 +13,6 @@ namespace migration {
 
 namespace {
 
-QString nameOf(ReaderKind reader)
-{
-    switch (reader) {
-    case ReaderKind::Orvanta:
-        return QStringLiteral("orvanta");
-    case ReaderKind::OpenDocument:
-        return QStringLiteral("opendocument");
-    case ReaderKind::Tavrel:
-        break;
-    }
-    return QStringLiteral("tavrel");
-}
-
 // For a file that was not imported, the report only contains the number of its objects.
 void describeFailure(const Census& census, FileReport& report)
 {
@@ -90,7 +77,7 @@ FileReport reportOn(const QString& fileName, const QString& shownName, const QSt
 FileReport makeFileReport(const QString& fileName, const QString& shownName, ReaderKind reader,
                           const workbench::ImportResult& result, const ReportOptions& options)
 {
-    return reportOn(fileName, shownName, nameOf(reader), countFor(reader), result, options);
+    return reportOn(fileName, shownName, readerOf(reader).name, countFor(reader), result, options);
 }
 
 FileReport makeSavedLabelReport(const QString& fileName, const QString& shownName,

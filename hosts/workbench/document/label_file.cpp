@@ -58,14 +58,14 @@ bool restore(const SavedLabel& label, Canvas& canvas,
 }
 
 QString saveLabel(const QString& path, const Canvas& canvas,
-                  const datasources::DatasourceController& datasources)
+                  const datasources::DatasourceController& datasources, Origin origin)
 {
     const SavedLabel label = snapshot(canvas, datasources);
     if (label.items.size() > limits::Items || label.datasources.size() > limits::Items)
         return cannotSave(path, Words::tr("it has more than %1 items").arg(limits::Items));
     if (pixelsOf(label) > limits::AllPicturePixels)
         return cannotSave(path, Words::tr("its pictures are too large"));
-    const QByteArray bytes = toJson(label);
+    const QByteArray bytes = toJson(label, origin);
     if (bytes.size() > limits::FileBytes)
         return cannotSave(path, Words::tr("its pictures are too large"));
     QSaveFile file(path);
@@ -74,6 +74,13 @@ QString saveLabel(const QString& path, const Canvas& canvas,
         !file.commit())
         return cannotSave(path, file.errorString());
     return {};
+}
+
+bool isUneditedImport(const QString& path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
+           file.size() <= limits::FileBytes && isUneditedImport(file.readAll());
 }
 
 QString openLabel(const QString& path, Canvas& canvas,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/document/label_json.h"
 #include "workbench/document/saved_label.h"
 
 #include <QString>
@@ -19,7 +20,11 @@ namespace workbench::document {
 /// Saves a label. The file is there whole or as it was before, whatever happens meanwhile.
 /// @return why it could not be saved, in a sentence for a person; empty when it was
 [[nodiscard]] QString saveLabel(const QString& path, const Canvas& canvas,
-                                const datasources::DatasourceController& datasources);
+                                const datasources::DatasourceController& datasources,
+                                Origin origin = Origin::Person);
+
+/// Whether a file is a label that an import saved and that is unchanged since.
+[[nodiscard]] bool isUneditedImport(const QString& path);
 
 /// Opens a saved label in place of what is on the canvas.
 /// @return why it could not be opened, in a sentence for a person, and nothing is changed;

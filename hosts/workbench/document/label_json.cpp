@@ -23,6 +23,8 @@ constexpr QLatin1String FormatKey("format");
 constexpr QLatin1String VersionKey("version");
 constexpr QLatin1String ChecksumKey("checksum");
 constexpr QLatin1String LabelKey("label");
+constexpr QLatin1String OriginKey("origin");
+constexpr QLatin1String ImportOrigin("import");
 constexpr QLatin1String FormatName("labelport-label");
 
 [[nodiscard]] QString checksumOf(const QJsonObject& label)
@@ -62,16 +64,29 @@ constexpr QLatin1String FormatName("labelport-label");
 
 } // namespace
 
-QByteArray toJson(const SavedLabel& label)
+QByteArray toJson(const SavedLabel& label, Origin origin)
 {
     fields::FieldWriter writer;
     describe(writer, label);
     const QJsonObject content = writer.object();
-    const QJsonObject file{{FormatKey, FormatName},
+    QJsonObject file{{FormatKey, FormatName},
                            {VersionKey, FormatVersion},
                            {ChecksumKey, checksumOf(content)},
                            {LabelKey, content}};
+    if (origin == Origin::Import) {
+        file.insert(OriginKey, ImportOrigin);
+    }
     return QJsonDocument(file).toJson(QJsonDocument::Indented);
+}
+
+bool isUneditedImport(const QByteArray& bytes)
+{
+    if (jsonbounds::isLargerThan(bytes, limits::TreeBytes)) {
+        return false;
+    }
+    const QJsonObject file = QJsonDocument::fromJson(bytes).object();
+    return file.value(OriginKey) == QJsonValue(ImportOrigin) && file.contains(ChecksumKey) &&
+           envelopeError(file).isEmpty();
 }
 
 ReadLabel fromJson(const QByteArray& bytes)

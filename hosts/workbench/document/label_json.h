@@ -9,8 +9,16 @@ namespace workbench::document {
 /// The newest version of the format, which is the one that is written.
 inline constexpr int FormatVersion = 1;
 
+/// Who saved a label. An import marks its labels, so that a later import may replace them; the mark
+/// is lost when a person saves the label.
+enum class Origin { Person, Import };
+
 /// The label as the bytes of a file.
-[[nodiscard]] QByteArray toJson(const SavedLabel& label);
+[[nodiscard]] QByteArray toJson(const SavedLabel& label, Origin origin = Origin::Person);
+
+/// Whether the bytes are a label that an import saved and that is unchanged since: it has the mark
+/// and the right checksum.
+[[nodiscard]] bool isUneditedImport(const QByteArray& bytes);
 
 struct ReadLabel
 {

@@ -1,7 +1,5 @@
 #include "workbench/import/file_check.h"
 
-#include "importer/reader_choice.h"
-
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -15,20 +13,6 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(workbench::FileCheck)
 };
 
-QByteArray headOf(const QString& fileName)
-{
-    constexpr qint64 headLength = 256;
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.read(headLength) : QByteArray();
-}
-
-bool looksLikeXml(QByteArray head)
-{
-    head.replace('\0', "");
-    head.replace("\xEF\xBB\xBF", "").replace("\xFE\xFF", "").replace("\xFF\xFE", "");
-    return head.trimmed().startsWith('<');
-}
-
 } // namespace
 
 QString whyFileCannotBeRead(const QString& fileName)
@@ -36,6 +20,9 @@ QString whyFileCannotBeRead(const QString& fileName)
     const QFileInfo info(fileName);
     if (fileName.isEmpty()) {
         return Words::tr("No file was named.");
+    }
+    if (!info.exists() && info.isSymLink()) {
+        return Words::tr("The link points to a file that does not exist.");
     }
     if (!info.exists()) {
         return Words::tr("There is no such file.");
@@ -53,24 +40,20 @@ QString whyFileCannotBeRead(const QString& fileName)
     return file.size() == 0 ? Words::tr("The file is empty.") : QString();
 }
 
-QString howNameMisleads(const QString& fileName)
+QString misnamedFileHint(const QString& fileName, ReaderKind reader)
 {
-    if (readerForFile(fileName) != ReaderKind::Tavrel) {
+    const std::optional<ReaderKind> content = readerOfContent(headOfFile(fileName));
+    if (!content || *content == reader) {
         return {};
     }
-    const QByteArray head = headOf(fileName);
-    if (head.startsWith("PK\x03\x04")) {
-        return Words::tr(
-            "The file is a zip package, as OpenDocument files are, but by its name it is a "
-            "binary label. If it is an OpenDocument file, rename it so that its only dot "
-            "is that of \".odt\" or \".odg\".");
-    }
-    if (looksLikeXml(head)) {
-        return Words::tr(
-            "The file is XML, but by its name it is a binary label. If it is an XML label, "
-            "rename it so that its only dot is that of \".qmtx\".");
-    }
-    return {};
+    const QString hint =
+        *content == ReaderKind::OpenDocument
+            ? Words::tr("The file is a zip package, as OpenDocument files are, but it was read as "
+                        "\"%1\". If it is an OpenDocument file, rename it so that it ends in "
+                        "\".odt\" or \".odg\", or use --reader %2.")
+            : Words::tr("The file is XML, but it was read as \"%1\". If it is an XML label, rename "
+                        "it so that it ends in \".qmtx\", or use --reader %2.");
+    return hint.arg(readerOf(reader).name, readerOf(*content).name);
 }
 
 } // namespace workbench

@@ -23,19 +23,6 @@ public:
     void emitLabelTypeLoadedSignal(QString) override {}
 };
 
-bool readBy(LegacyTemplateImporter& importer, const QString& fileName, ReaderKind reader)
-{
-    switch (reader) {
-    case ReaderKind::Orvanta:
-        return importer.importLabelFromOrvantaFile(fileName);
-    case ReaderKind::OpenDocument:
-        return importer.importLabelFromOpenOfficeFile(fileName);
-    case ReaderKind::Tavrel:
-        break;
-    }
-    return importer.importLabelFromTavrelFile(fileName);
-}
-
 void showFirstRecord(Canvas& canvas, const datasources::DatasourceController& sources)
 {
     canvas.showRecord(0, [&sources](int id, qint64 record, const QStringList& fields) {
@@ -51,12 +38,11 @@ ImportResult importReadableFile(const QString& fileName, ReaderKind reader)
     NoFiles files;
     LegacyTemplateImporter importer(canvas.get(), &files, sources.get());
     const ImportObserver observer(importer);
-    const bool imported = readBy(importer, fileName, reader);
+    const bool imported = (importer.*readerOf(reader).importFile)(fileName);
     result.log = observer.log();
     result.cutSources = observer.cutSources();
     if (!imported) {
-        const bool isNamed = reader == readerForFile(fileName);
-        const QString misnamed = isNamed ? howNameMisleads(fileName) : QString();
+        const QString misnamed = misnamedFileHint(fileName, reader);
         result.error = misnamed.isEmpty() ? observer.failure() : misnamed;
         return result;
     }
@@ -71,7 +57,7 @@ ImportResult importReadableFile(const QString& fileName, ReaderKind reader)
 
 ImportResult importLabel(const QString& fileName)
 {
-    return importLabel(fileName, readerForFile(fileName));
+    return importLabel(fileName, readerByNameOrContent(fileName));
 }
 
 ImportResult importLabel(const QString& fileName, ReaderKind reader)

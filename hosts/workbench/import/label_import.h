@@ -36,11 +36,11 @@ struct ImportResult
     [[nodiscard]] bool isImported() const { return canvas != nullptr; }
 };
 
-/// Imports one file onto a canvas of its own, without any window. Which reader gets it is
-/// decided by its name. Items that are bound to a data source show its first record.
+/// Imports one file onto a canvas of its own, without any window. The reader is selected by the name
+/// or else by the content. Items that are bound to a data source show its first record.
 [[nodiscard]] ImportResult importLabel(const QString& fileName);
 
-/// Imports one file by a reader that its name does not decide.
+/// Imports one file with this reader, whatever its name.
 [[nodiscard]] ImportResult importLabel(const QString& fileName, ReaderKind reader);
 
 } // namespace workbench

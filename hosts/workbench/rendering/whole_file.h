@@ -11,8 +11,7 @@ namespace workbench {
 [[nodiscard]] inline bool commitWhole(QSaveFile& file)
 {
     if (!file.flush() || file.error() != QFileDevice::NoError) {
-        file.cancelWriting();
-        return false;
+        return false; // discarded with the object; canceling would replace the system's error
     }
     return file.commit();
 }

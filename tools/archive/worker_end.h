@@ -10,15 +10,15 @@ class QTimer;
 
 namespace archive {
 
-/// Exit statuses by which a worker says of what it died.
+/// Exit statuses of a worker.
 enum WorkerExit : int {
     WorkerExitDone = 0,    ///< its input was closed
-    WorkerExitBroken = 70, ///< it was given what it could not read
+    WorkerExitBroken = 70, ///< it received a message that it could not read
     WorkerExitOutOfMemory = 71,
 };
 
-/// How a worker came to its end.
-struct WorkerDeath
+/// How a worker process ended.
+struct WorkerEnd
 {
     enum Kind { Exited, Signalled, TimedOut, Garbled, NotStarted };
     Kind kind = Exited;
@@ -28,26 +28,26 @@ struct WorkerDeath
     {
         return kind == Exited && code == WorkerExitOutOfMemory;
     }
-    /// Whether a new worker may do better: it was not the file's time that ran out.
-    [[nodiscard]] bool deservesAnotherTry() const { return kind != TimedOut; }
+    /// Whether another worker may succeed; a file that timed out is not tried again.
+    [[nodiscard]] bool mayBeRetried() const { return kind != TimedOut; }
 };
 
-/// Seconds are seconds.
+/// Starts the timer with this many seconds.
 void startTimerInRealTime(QTimer& timer, int seconds);
 
 /// Limits of a worker.
 struct WorkerLimits
 {
-    int timeoutSeconds = 60; ///< without a sign of life; 0 for none
-    int memoryMiB = 4096;    ///< of its data; 0 for none
+    int timeoutSeconds = 60; ///< without a heartbeat; 0 for no limit
+    int memoryMiB = 4096;    ///< of its data; 0 for no limit
     /// Starts the single-shot timer of a worker. Tests replace it, so that they do not wait.
     std::function<void(QTimer& timer, int seconds)> startTimer = startTimerInRealTime;
 };
 
-/// What that makes of its file.
-[[nodiscard]] Fate fateOf(const WorkerDeath& death);
+/// The outcome of the file that the worker was importing.
+[[nodiscard]] FileOutcome outcomeOf(const WorkerEnd& end);
 
-/// What is said of a file whose worker died so, in words for a person.
-[[nodiscard]] QString wordsFor(const WorkerDeath& death, const WorkerLimits& limits);
+/// The error message of that file, for a person.
+[[nodiscard]] QString messageFor(const WorkerEnd& end, const WorkerLimits& limits);
 
 } // namespace archive

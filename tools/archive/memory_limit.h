@@ -1,0 +1,16 @@
+#pragma once
+
+namespace archive {
+
+/// To be called first in a worker: limits the memory of the process. If operator new fails, the
+/// process exits with WorkerExitOutOfMemory; an uncaught std::bad_alloc has the same
+/// effect. A library that does not check what malloc() returns crashes instead, and the crash is
+/// reported as one.
+///
+/// @param memoryMiB limit of the process's data; 0 for none
+void limitMemory(int memoryMiB);
+
+/// Exits with WorkerExitOutOfMemory, for code that catches std::bad_alloc.
+[[noreturn]] void exitOutOfMemory();
+
+} // namespace archive

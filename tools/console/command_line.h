@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class QCommandLineParser;
+
+namespace console {
+
+/// The arguments of main() after the program's name, as file names that keep every byte.
+[[nodiscard]] QStringList argumentsOf(int argc, char** argv);
+
+/// Reads the arguments of a command with --help. If there is nothing more to do (help was shown, or
+/// the arguments were wrong and that was reported), returns the exit status.
+///
+/// @param command as people type it: "labelport inspect"
+[[nodiscard]] std::optional<int> parseCommand(QCommandLineParser& parser, const QString& command,
+                                              const QStringList& arguments);
+
+/// Reports what is wrong with the arguments of a command; returns the exit status for that.
+[[nodiscard]] int refuseArguments(const QString& command, const QString& reason);
+
+/// ` Did you mean "import"?` with the known word that is nearest; empty if none is near.
+[[nodiscard]] QString suggestion(const QString& word, const QStringList& known);
+
+} // namespace console

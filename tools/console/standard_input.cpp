@@ -1,0 +1,50 @@
+#include "console/standard_input.h"
+
+#include <QCoreApplication>
+#include <QTemporaryFile>
+
+#include <cstdio>
+
+namespace console {
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("console::StandardInput", text);
+}
+
+QString cannotKeep(const QString& reason)
+{
+    return tr("Cannot copy standard input to a temporary file: %1.").arg(reason);
+}
+
+} // namespace
+
+QString copyStandardInput(QTemporaryFile& file)
+{
+    if (!file.open()) {
+        return cannotKeep(file.errorString());
+    }
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly)) {
+        return tr("Cannot read standard input: %1.").arg(input.errorString());
+    }
+    constexpr qint64 blockSize = 1024 * 1024;
+    qint64 total = 0;
+    for (QByteArray block = input.read(blockSize); !block.isEmpty();
+         block = input.read(blockSize)) {
+        total += block.size();
+        if (total > MaximumInputBytes) {
+            return tr("Standard input is longer than any label.");
+        }
+        if (file.write(block) != block.size()) {
+            return cannotKeep(file.errorString());
+        }
+    }
+    if (input.error() != QFileDevice::NoError) {
+        return tr("Cannot read standard input: %1.").arg(input.errorString());
+    }
+    return file.flush() ? QString() : cannotKeep(file.errorString());
+}
+
+} // namespace console
