@@ -3,6 +3,8 @@
 #include "fields/field_archives.h"
 #include "migration/model/file_report.h"
 
+#include <limits>
+
 template <>
 struct fields::Json<migration::Status>
 {
@@ -20,13 +22,6 @@ namespace migration {
 
 using fields::SingleValue;
 using fields::ValuesOf;
-
-namespace {
-
-// Most entries of a list: more than any reader imports.
-constexpr qsizetype LongestList = 1'000'000;
-
-} // namespace
 
 // Not in the unnamed namespace, where argument-dependent lookup finds nothing.
 
@@ -159,7 +154,9 @@ QJsonObject toJson(const FileReport& report)
 std::optional<FileReport> fileReportFromJson(const QJsonObject& object)
 {
     FileReport report;
-    fields::FieldReader reader(object, LongestList);
+    // The size of the JSON text bounds its lists.
+    constexpr auto anyLength = std::numeric_limits<qsizetype>::max();
+    fields::FieldReader reader(object, anyLength);
     describe(reader, report);
     return reader.error().isEmpty() ? std::optional(report) : std::nullopt;
 }
