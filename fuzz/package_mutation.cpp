@@ -1,6 +1,6 @@
 #include "fuzz/harness.h"
 #include "fuzz/mutations.h"
-#include "opendocument/zip_directory.h"
+#include "limits/zip/zip_directory.h"
 
 #include <QBuffer>
 #include <QList>
@@ -23,7 +23,7 @@ struct Member
 std::optional<QList<Member>> unpacked(const QByteArray& package)
 {
     const MemoryFile file(package);
-    opendocument::ZipDirectory directory;
+    ziplimits::ZipDirectory directory;
     if (directory.open(file.path())) {
         return std::nullopt;
     }

@@ -50,7 +50,7 @@ void readTransform(const QString& transform, double unitFactor, Geometry& geomet
 
 } // namespace
 
-void readStackingOrder(const xmlbounds::Element& element, Geometry& geometry)
+void readStackingOrder(const xmllimits::Element& element, Geometry& geometry)
 {
     bool isInteger = false;
     const int index = element.attribute(u"draw:z-index"_s).toInt(&isInteger);
@@ -59,7 +59,7 @@ void readStackingOrder(const xmlbounds::Element& element, Geometry& geometry)
     }
 }
 
-void readGeometry(const xmlbounds::Element& element, double unitFactor, Geometry& geometry)
+void readGeometry(const xmllimits::Element& element, double unitFactor, Geometry& geometry)
 {
     readLength(element, u"svg:width"_s, unitFactor, geometry.size.rwidth());
     readLength(element, u"svg:height"_s, unitFactor, geometry.size.rheight());

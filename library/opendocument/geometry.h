@@ -23,10 +23,10 @@ struct Geometry
 
 /// Reads the geometry attributes of an element. Leaves alone what is absent or damaged.
 /// @param unitFactor points per unit of the document's lengths
-void readGeometry(const xmlbounds::Element& element, double unitFactor, Geometry& geometry);
+void readGeometry(const xmllimits::Element& element, double unitFactor, Geometry& geometry);
 
 /// Reads draw:z-index alone, for elements that have no other geometry in common.
-void readStackingOrder(const xmlbounds::Element& element, Geometry& geometry);
+void readStackingOrder(const xmllimits::Element& element, Geometry& geometry);
 
 /// The position of a text at the top left of a rotated box, so that it keeps its place in the box:
 /// hosts rotate the box and the text each about its own center.

@@ -57,7 +57,7 @@ constexpr NamedCode<int> Markers[] = {
 };
 constexpr int OtherMarker = 1;
 
-void readWrap(const xmlbounds::Element& properties, OOGraphicStyle& style)
+void readWrap(const xmllimits::Element& properties, OOGraphicStyle& style)
 {
     if (const auto codes = codeOf(Wraps, properties.attribute(u"style:wrap"_s))) {
         const bool isBackground = properties.attribute(u"style:run-through"_s) == "background"_L1;
@@ -79,7 +79,7 @@ void readBorderPart(const QString& part, const LengthUnit& unit, OOGraphicStyle&
     }
 }
 
-void readBorder(const xmlbounds::Element& properties, const LengthUnit& unit, OOGraphicStyle& style)
+void readBorder(const xmllimits::Element& properties, const LengthUnit& unit, OOGraphicStyle& style)
 {
     if (properties.hasAttribute(u"fo:border"_s)) {
         const QStringList parts = properties.attribute(u"fo:border"_s).split(u' ');
@@ -89,7 +89,7 @@ void readBorder(const xmlbounds::Element& properties, const LengthUnit& unit, OO
     }
 }
 
-void readSpacing(const xmlbounds::Element& properties, double factor, Margins& margins)
+void readSpacing(const xmllimits::Element& properties, double factor, Margins& margins)
 {
     // The other three count only beside the first: old labels depend on it.
     if (!properties.hasAttribute(u"draw:start-line-spacing-horizontal"_s)) {
@@ -118,7 +118,7 @@ Qt::Alignment verticalPosOf(const QString& value)
     return value == "from-top"_L1 ? Qt::AlignTop : Qt::AlignBottom;
 }
 
-void readPosition(const xmlbounds::Element& properties, OOGraphicStyle& style)
+void readPosition(const xmllimits::Element& properties, OOGraphicStyle& style)
 {
     if (properties.hasAttribute(u"style:horizontal-pos"_s)) {
         style.horizontalPos = horizontalPosOf(properties.attribute(u"style:horizontal-pos"_s));
@@ -147,7 +147,7 @@ int dashedPenOf(const QString& dashName)
     return lower.contains("dot"_L1) ? Qt::DashDotLine : Qt::DashLine;
 }
 
-void readStroke(const xmlbounds::Element& properties, OOGraphicStyle& style)
+void readStroke(const xmllimits::Element& properties, OOGraphicStyle& style)
 {
     const QString stroke = properties.attribute(u"draw:stroke"_s);
     if (stroke == "dash"_L1) {
@@ -157,7 +157,7 @@ void readStroke(const xmlbounds::Element& properties, OOGraphicStyle& style)
     }
 }
 
-void readStrokeWidth(const xmlbounds::Element& properties, double factor, OOGraphicStyle& style)
+void readStrokeWidth(const xmllimits::Element& properties, double factor, OOGraphicStyle& style)
 {
     double width = 0;
     if (readLength(properties, u"svg:stroke-width"_s, factor, width)) {
@@ -168,7 +168,7 @@ void readStrokeWidth(const xmlbounds::Element& properties, double factor, OOGrap
     }
 }
 
-void readStrokeDetails(const xmlbounds::Element& properties, double factor, OOGraphicStyle& style)
+void readStrokeDetails(const xmllimits::Element& properties, double factor, OOGraphicStyle& style)
 {
     readStrokeWidth(properties, factor, style);
     const QString color = properties.attribute(u"svg:stroke-color"_s);
@@ -191,7 +191,7 @@ int hatchOf(const QString& hatchName)
     return lower.contains("_0_"_L1) ? Qt::HorPattern : Qt::Dense1Pattern;
 }
 
-void readFill(const xmlbounds::Element& properties, OOGraphicStyle& style)
+void readFill(const xmllimits::Element& properties, OOGraphicStyle& style)
 {
     const QString fill = properties.attribute(u"draw:fill"_s);
     if (fill == "hatch"_L1) {
@@ -201,7 +201,7 @@ void readFill(const xmlbounds::Element& properties, OOGraphicStyle& style)
     }
 }
 
-void readOpacity(const xmlbounds::Element& properties, OOGraphicStyle& style)
+void readOpacity(const xmllimits::Element& properties, OOGraphicStyle& style)
 {
     if (!properties.hasAttribute(u"draw:opacity"_s)) {
         return;
@@ -215,7 +215,7 @@ void readOpacity(const xmlbounds::Element& properties, OOGraphicStyle& style)
     }
 }
 
-void readFillColor(const xmlbounds::Element& properties, OOGraphicStyle& style)
+void readFillColor(const xmllimits::Element& properties, OOGraphicStyle& style)
 {
     const QString color = properties.attribute(u"draw:fill-color"_s);
     if (color.isEmpty()) {
@@ -233,7 +233,7 @@ int markerOf(const QString& name, int shift)
     return name.isEmpty() ? MarkerNotGiven : codeOf(Markers, name).value_or(OtherMarker) << shift;
 }
 
-void readMarkers(const xmlbounds::Element& properties, OOGraphicStyle& style)
+void readMarkers(const xmllimits::Element& properties, OOGraphicStyle& style)
 {
     if (properties.hasAttribute(u"draw:marker-start"_s)) {
         style.markerStart = markerOf(properties.attribute(u"draw:marker-start"_s), 4);
@@ -245,7 +245,7 @@ void readMarkers(const xmlbounds::Element& properties, OOGraphicStyle& style)
 
 } // namespace
 
-void readGraphicProperties(const xmlbounds::Element& properties, const LengthUnit& unit,
+void readGraphicProperties(const xmllimits::Element& properties, const LengthUnit& unit,
                            OOGraphicStyle& style)
 {
     readWrap(properties, style);

@@ -55,7 +55,7 @@ struct OOGraphicStyle
 };
 
 /// Reads a style:graphic-properties element; null reads nothing. Changes only what is given.
-void readGraphicProperties(const xmlbounds::Element& properties, const LengthUnit& unit,
+void readGraphicProperties(const xmllimits::Element& properties, const LengthUnit& unit,
                            OOGraphicStyle& style);
 
 } // namespace opendocument

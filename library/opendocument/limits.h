@@ -6,11 +6,6 @@
 /// and small enough that a hostile file cannot fill the memory of a small machine.
 namespace opendocument::limits {
 
-/// Members of the package.
-inline constexpr int PackageMembers = 4096;
-/// Size of the package's table of contents.
-inline constexpr qint64 DirectoryBytes = 4LL << 20;
-
 /// Sizes of the XML members, uncompressed, and of the trees that they become.
 inline constexpr qint64 StylesBytes = 16LL << 20;
 inline constexpr qint64 StylesTreeBytes = 120LL << 20;

@@ -61,7 +61,7 @@ std::optional<double> toLength(QStringView text, double unitFactor)
     return *number * unitFactor;
 }
 
-bool readLength(const xmlbounds::Element& element, const QString& name, double unitFactor,
+bool readLength(const xmllimits::Element& element, const QString& name, double unitFactor,
                 double& target)
 {
     const auto length = toLength(element.attribute(name), unitFactor);

@@ -36,7 +36,7 @@ struct LengthUnit
 
 /// Reads an attribute as a length in points. Leaves the target alone when the attribute is
 /// absent or no length; returns whether it was set.
-bool readLength(const xmlbounds::Element& element, const QString& name, double unitFactor,
+bool readLength(const xmllimits::Element& element, const QString& name, double unitFactor,
                 double& target);
 
 } // namespace opendocument

@@ -19,11 +19,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The pictures that a frame offers, by their suffixes; the last of a suffix counts.
-QMap<QString, QString> imagesBySuffix(const xmlbounds::Element& frame)
+QMap<QString, QString> imagesBySuffix(const xmllimits::Element& frame)
 {
     const QString tag = u"draw:image"_s;
     QMap<QString, QString> images;
-    for (xmlbounds::Element image = frame.firstChildElement(tag); !image.isNull();
+    for (xmllimits::Element image = frame.firstChildElement(tag); !image.isNull();
          image = image.nextSiblingElement(tag)) {
         const QString name = image.attribute(u"xlink:href"_s);
         images.insert(QFileInfo(name).completeSuffix().toLower(), name);
@@ -40,7 +40,7 @@ QRectF symbolTarget(const QSizeF& size)
 
 } // namespace
 
-FramePlacement OpenOfficeReader::readFrame(const xmlbounds::Element& element)
+FramePlacement OpenOfficeReader::readFrame(const xmllimits::Element& element)
 {
     Geometry geometry;
     readGeometry(element, m_unitFactor, geometry);
@@ -56,10 +56,10 @@ FramePlacement OpenOfficeReader::readFrame(const xmlbounds::Element& element)
     return {x, geometry.size.height(), geometry.size.width(), geometry.z, style.wrap};
 }
 
-bool OpenOfficeReader::readTextBox(const xmlbounds::Element& frame, OOGraphicStyle style,
+bool OpenOfficeReader::readTextBox(const xmllimits::Element& frame, OOGraphicStyle style,
                                    Geometry& geometry)
 {
-    const xmlbounds::Element box = frame.firstChildElement(u"draw:text-box"_s);
+    const xmllimits::Element box = frame.firstChildElement(u"draw:text-box"_s);
     readLength(box, u"fo:min-height"_s, m_unitFactor, geometry.size.rheight());
     NewShape shape = makeRectangle(box, false);
     if (!shape) {
@@ -84,7 +84,7 @@ bool OpenOfficeReader::readTextBox(const xmlbounds::Element& frame, OOGraphicSty
 }
 
 // What the frame does not give of its position comes from its style and the text flow.
-QPointF OpenOfficeReader::textBoxPosition(const xmlbounds::Element& frame,
+QPointF OpenOfficeReader::textBoxPosition(const xmllimits::Element& frame,
                                           const OOGraphicStyle& style,
                                           const Geometry& geometry) const
 {
@@ -106,7 +106,7 @@ QPointF OpenOfficeReader::textBoxPosition(const xmlbounds::Element& frame,
     return position;
 }
 
-bool OpenOfficeReader::readImage(const xmlbounds::Element& frame, Geometry& geometry)
+bool OpenOfficeReader::readImage(const xmllimits::Element& frame, Geometry& geometry)
 {
     const QMap<QString, QString> images = imagesBySuffix(frame);
     const auto svg = images.constFind(u"svg"_s);

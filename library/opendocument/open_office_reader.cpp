@@ -39,7 +39,7 @@ double pointsPerPixelOf(const QFont& font)
     return info.pixelSize() > 0 ? info.pointSizeF() / info.pixelSize() : 1.0;
 }
 
-QString parseFailureMessage(const QString& member, const xmlbounds::ParseFailure& failure)
+QString parseFailureMessage(const QString& member, const xmllimits::ParseFailure& failure)
 {
     return QString::asprintf(messages::DocumentParsingFailed, member.toLocal8Bit().constData(),
                              failure.line, failure.column,
@@ -75,12 +75,12 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
 
     // Both are read in whole before the canvas hears of either, so that a damaged document
     // leaves it untouched.
-    xmlbounds::ElementTree styles;
+    xmllimits::ElementTree styles;
     if (const auto failure = styles.parse(stylesBytes, limits::StylesTreeBytes)) {
         logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(StylesMember, *failure));
         return false;
     }
-    xmlbounds::ElementTree content;
+    xmllimits::ElementTree content;
     if (const auto failure = content.parse(contentBytes, limits::ContentTreeBytes)) {
         logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(ContentMember, *failure));
         return false;
@@ -88,8 +88,8 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
     stylesBytes.clear();
     contentBytes.clear();
 
-    const xmlbounds::Element stylesRoot = styles.documentElement();
-    const xmlbounds::Element contentRoot = content.documentElement();
+    const xmllimits::Element stylesRoot = styles.documentElement();
+    const xmllimits::Element contentRoot = content.documentElement();
     forgetTooManyStyles();
     importPageLayout(stylesRoot);
     readDefaultStyles(stylesRoot.firstChildElement(u"office:styles"_s));
@@ -151,7 +151,7 @@ void OpenOfficeReader::forgetTooManyStyles()
                  limits::CarriedStylesBytes));
 }
 
-void OpenOfficeReader::importPageLayout(const xmlbounds::Element& stylesRoot)
+void OpenOfficeReader::importPageLayout(const xmllimits::Element& stylesRoot)
 {
     const PageLayout layout = readPageLayout(stylesRoot);
     if (layout.width) {
@@ -165,10 +165,10 @@ void OpenOfficeReader::importPageLayout(const xmlbounds::Element& stylesRoot)
     m_canvasModel->importCanvasParameters(m_pageWidth, m_pageHeight, false, layout.portrait);
 }
 
-void OpenOfficeReader::readDefaultStyles(const xmlbounds::Element& officeStyles)
+void OpenOfficeReader::readDefaultStyles(const xmllimits::Element& officeStyles)
 {
     const QString tag = u"style:default-style"_s;
-    for (xmlbounds::Element element = officeStyles.firstChildElement(tag); !element.isNull();
+    for (xmllimits::Element element = officeStyles.firstChildElement(tag); !element.isNull();
          element = element.nextSiblingElement(tag)) {
         const QString family = element.attribute(u"style:family"_s);
         if (family == "paragraph"_L1) {
@@ -183,10 +183,10 @@ void OpenOfficeReader::readDefaultStyles(const xmlbounds::Element& officeStyles)
     }
 }
 
-void OpenOfficeReader::readStyles(const xmlbounds::Element& container)
+void OpenOfficeReader::readStyles(const xmllimits::Element& container)
 {
     const QString tag = u"style:style"_s;
-    for (xmlbounds::Element element = container.firstChildElement(tag); !element.isNull();
+    for (xmllimits::Element element = container.firstChildElement(tag); !element.isNull();
          element = element.nextSiblingElement(tag)) {
         const QString family = element.attribute(u"style:family"_s);
         if (family == "paragraph"_L1 || family == "text"_L1) {
@@ -197,7 +197,7 @@ void OpenOfficeReader::readStyles(const xmlbounds::Element& container)
     }
 }
 
-void OpenOfficeReader::readTextStyle(const xmlbounds::Element& element)
+void OpenOfficeReader::readTextStyle(const xmllimits::Element& element)
 {
     OOTextStyle style =
         m_textStyles.value(element.attribute(u"style:parent-style-name"_s), m_defaultTextStyle);
@@ -208,7 +208,7 @@ void OpenOfficeReader::readTextStyle(const xmlbounds::Element& element)
     m_textStyles.insert(element.attribute(u"style:name"_s), style);
 }
 
-void OpenOfficeReader::readGraphicStyle(const xmlbounds::Element& element)
+void OpenOfficeReader::readGraphicStyle(const xmllimits::Element& element)
 {
     OOGraphicStyle style = m_graphicStyles.value(element.attribute(u"style:parent-style-name"_s),
                                                  m_defaultGraphicStyle);
@@ -216,9 +216,9 @@ void OpenOfficeReader::readGraphicStyle(const xmlbounds::Element& element)
     m_graphicStyles.insert(element.attribute(u"style:name"_s), style);
 }
 
-void OpenOfficeReader::readBody(const xmlbounds::Element& body)
+void OpenOfficeReader::readBody(const xmllimits::Element& body)
 {
-    const xmlbounds::Element document = body.firstChildElement();
+    const xmllimits::Element document = body.firstChildElement();
     if (document.tagName() == "office:text"_L1) {
         readTextBody(document);
     } else if (document.tagName() == "office:drawing"_L1) {
@@ -228,9 +228,9 @@ void OpenOfficeReader::readBody(const xmlbounds::Element& body)
     }
 }
 
-void OpenOfficeReader::readTextBody(const xmlbounds::Element& text)
+void OpenOfficeReader::readTextBody(const xmllimits::Element& text)
 {
-    for (xmlbounds::Element element = text.firstChildElement(); !element.isNull();
+    for (xmllimits::Element element = text.firstChildElement(); !element.isNull();
          element = element.nextSiblingElement()) {
         const QString tag = element.tagName();
         if (tag == "text:p"_L1 || tag == "text:h"_L1) {
@@ -242,17 +242,17 @@ void OpenOfficeReader::readTextBody(const xmlbounds::Element& text)
 }
 
 // Only the first page: a label has one.
-void OpenOfficeReader::readDrawingBody(const xmlbounds::Element& drawing)
+void OpenOfficeReader::readDrawingBody(const xmllimits::Element& drawing)
 {
-    for (xmlbounds::Element element = drawing.firstChildElement().firstChildElement();
+    for (xmllimits::Element element = drawing.firstChildElement().firstChildElement();
          !element.isNull(); element = element.nextSiblingElement()) {
         readDrawingElement(element);
     }
 }
 
-void OpenOfficeReader::readDrawingElement(const xmlbounds::Element& element)
+void OpenOfficeReader::readDrawingElement(const xmllimits::Element& element)
 {
-    using Handler = void (*)(OpenOfficeReader&, const xmlbounds::Element&);
+    using Handler = void (*)(OpenOfficeReader&, const xmllimits::Element&);
     static constexpr NamedCode<Handler> Handlers[] = {
         {"draw:rect"_L1, [](auto& reader, auto& shape) { reader.readRectangle(shape, false); }},
         {"draw:circle"_L1, [](auto& reader, auto& shape) { reader.readEllipse(shape, false); }},

@@ -6,7 +6,7 @@
 #include "opendocument/rich_text.h"
 #include "opendocument/text_flow.h"
 #include "opendocument/text_style.h"
-#include "opendocument/zip_directory.h"
+#include "limits/zip/zip_directory.h"
 
 #include "host/kest_types.h"
 #include "limits/xml/element_tree.h"
@@ -65,52 +65,52 @@ private:
 
     // Page and styles.
     void forgetTooManyStyles();
-    void importPageLayout(const xmlbounds::Element& stylesRoot);
-    void readDefaultStyles(const xmlbounds::Element& officeStyles);
-    void readStyles(const xmlbounds::Element& container);
-    void readTextStyle(const xmlbounds::Element& element);
-    void readGraphicStyle(const xmlbounds::Element& element);
+    void importPageLayout(const xmllimits::Element& stylesRoot);
+    void readDefaultStyles(const xmllimits::Element& officeStyles);
+    void readStyles(const xmllimits::Element& container);
+    void readTextStyle(const xmllimits::Element& element);
+    void readGraphicStyle(const xmllimits::Element& element);
     [[nodiscard]] opendocument::LengthUnit unit() const { return {m_unitSuffix, m_unitFactor}; }
 
     // The body.
-    void readBody(const xmlbounds::Element& body);
-    void readTextBody(const xmlbounds::Element& text);
-    void readDrawingBody(const xmlbounds::Element& drawing);
-    void readDrawingElement(const xmlbounds::Element& element);
+    void readBody(const xmllimits::Element& body);
+    void readTextBody(const xmllimits::Element& text);
+    void readDrawingBody(const xmllimits::Element& drawing);
+    void readDrawingElement(const xmllimits::Element& element);
 
     // Text.
-    void readParagraph(const xmlbounds::Element& paragraph);
-    void readParagraphFrames(const xmlbounds::Element& paragraph,
+    void readParagraph(const xmllimits::Element& paragraph);
+    void readParagraphFrames(const xmllimits::Element& paragraph,
                              opendocument::ParagraphFlow& flow);
-    void readParagraphNode(const xmlbounds::Element& element, const QString& text,
+    void readParagraphNode(const xmllimits::Element& element, const QString& text,
                            const OOTextStyle& style, opendocument::ParagraphFlow& flow);
     void readRun(const QString& text, const OOTextStyle& style, opendocument::ParagraphFlow& flow);
     [[nodiscard]] QSizeF placeTextRun(const QString& text, const OOTextStyle& style,
                                       double availableWidth, double cursor, double z);
-    void buildRichText(const xmlbounds::Element& shape, const opendocument::Geometry& geometry);
+    void buildRichText(const xmllimits::Element& shape, const opendocument::Geometry& geometry);
     [[nodiscard]] opendocument::TextStyling styling() const;
 
     // Shapes.
-    void readLine(const xmlbounds::Element& element);
-    void readRectangle(const xmlbounds::Element& element, bool rounded);
-    void readEllipse(const xmlbounds::Element& element, bool pie);
-    void readPolygon(const xmlbounds::Element& element, KestTypes::ShapeType type);
-    void readCustomShape(const xmlbounds::Element& element);
-    void placeShape(const xmlbounds::Element& element, opendocument::NewShape shape);
-    [[nodiscard]] opendocument::NewShape makeRectangle(const xmlbounds::Element& element,
+    void readLine(const xmllimits::Element& element);
+    void readRectangle(const xmllimits::Element& element, bool rounded);
+    void readEllipse(const xmllimits::Element& element, bool pie);
+    void readPolygon(const xmllimits::Element& element, KestTypes::ShapeType type);
+    void readCustomShape(const xmllimits::Element& element);
+    void placeShape(const xmllimits::Element& element, opendocument::NewShape shape);
+    [[nodiscard]] opendocument::NewShape makeRectangle(const xmllimits::Element& element,
                                                        bool rounded);
-    [[nodiscard]] OOGraphicStyle graphicStyleOf(const xmlbounds::Element& element) const;
+    [[nodiscard]] OOGraphicStyle graphicStyleOf(const xmllimits::Element& element) const;
 
     // Frames.
-    opendocument::FramePlacement readFrame(const xmlbounds::Element& element);
-    [[nodiscard]] bool readTextBox(const xmlbounds::Element& frame, OOGraphicStyle style,
+    opendocument::FramePlacement readFrame(const xmllimits::Element& element);
+    [[nodiscard]] bool readTextBox(const xmllimits::Element& frame, OOGraphicStyle style,
                                    opendocument::Geometry& geometry);
-    [[nodiscard]] bool readImage(const xmlbounds::Element& frame, opendocument::Geometry& geometry);
+    [[nodiscard]] bool readImage(const xmllimits::Element& frame, opendocument::Geometry& geometry);
     [[nodiscard]] bool importSymbol(const QString& name, opendocument::Geometry& geometry);
     [[nodiscard]] bool importPicture(const QString& name, opendocument::Geometry& geometry);
     void placeImage(std::unique_ptr<Item> owned, QGraphicsItem& graphics,
                     opendocument::Geometry& geometry);
-    [[nodiscard]] QPointF textBoxPosition(const xmlbounds::Element& frame,
+    [[nodiscard]] QPointF textBoxPosition(const xmllimits::Element& frame,
                                           const OOGraphicStyle& style,
                                           const opendocument::Geometry& geometry) const;
 
@@ -132,7 +132,7 @@ private:
     QMap<QString, OOTextStyle> m_textStyles;
     QMap<QString, OOGraphicStyle> m_graphicStyles;
 
-    opendocument::ZipDirectory m_zipDirectory;
+    ziplimits::ZipDirectory m_zipDirectory;
     std::unique_ptr<opendocument::PictureStore> m_pictures;
     std::unique_ptr<SymbolCreator> m_symbolCreator; // made for the first symbol
 };

@@ -29,7 +29,7 @@ struct LineEnds
     QPointF end;
 };
 
-LineEnds readLineEnds(const xmlbounds::Element& element, double unitFactor)
+LineEnds readLineEnds(const xmllimits::Element& element, double unitFactor)
 {
     LineEnds ends;
     readLength(element, u"svg:x1"_s, unitFactor, ends.start.rx());
@@ -49,7 +49,7 @@ void applyMarkers(ILineItem& line, const OOGraphicStyle& style)
     }
 }
 
-bool hasParagraph(const xmlbounds::Element& element)
+bool hasParagraph(const xmllimits::Element& element)
 {
     return !element.firstChildElement(u"text:p"_s).isNull();
 }
@@ -57,7 +57,7 @@ bool hasParagraph(const xmlbounds::Element& element)
 } // namespace
 
 OpenOfficeReader::OOGraphicStyle
-OpenOfficeReader::graphicStyleOf(const xmlbounds::Element& element) const
+OpenOfficeReader::graphicStyleOf(const xmllimits::Element& element) const
 {
     const QString name = element.attribute(u"draw:style-name"_s);
     // A style without a name is stored under the empty one; an element without a name must not
@@ -66,7 +66,7 @@ OpenOfficeReader::graphicStyleOf(const xmlbounds::Element& element) const
                           : m_graphicStyles.value(name, m_defaultGraphicStyle);
 }
 
-void OpenOfficeReader::readLine(const xmlbounds::Element& element)
+void OpenOfficeReader::readLine(const xmllimits::Element& element)
 {
     NewItem<LineItem> line = makeItem<LineItem>(m_classFactory, KestTypes::Line);
     if (!line) {
@@ -89,7 +89,7 @@ void OpenOfficeReader::readLine(const xmlbounds::Element& element)
     applyMarkers(*line.item, style);
 }
 
-NewShape OpenOfficeReader::makeRectangle(const xmlbounds::Element& element, bool rounded)
+NewShape OpenOfficeReader::makeRectangle(const xmllimits::Element& element, bool rounded)
 {
     const QString radiusName = u"draw:corner-radius"_s;
     const bool isRounded = rounded || element.hasAttribute(radiusName);
@@ -102,22 +102,22 @@ NewShape OpenOfficeReader::makeRectangle(const xmlbounds::Element& element, bool
     return shape;
 }
 
-void OpenOfficeReader::readRectangle(const xmlbounds::Element& element, bool rounded)
+void OpenOfficeReader::readRectangle(const xmllimits::Element& element, bool rounded)
 {
     placeShape(element, makeRectangle(element, rounded));
 }
 
-void OpenOfficeReader::readEllipse(const xmlbounds::Element& element, bool pie)
+void OpenOfficeReader::readEllipse(const xmllimits::Element& element, bool pie)
 {
     placeShape(element, makeShape(m_classFactory, pie ? KestTypes::Pie : KestTypes::Ellipse));
 }
 
-void OpenOfficeReader::readPolygon(const xmlbounds::Element& element, KestTypes::ShapeType type)
+void OpenOfficeReader::readPolygon(const xmllimits::Element& element, KestTypes::ShapeType type)
 {
     placeShape(element, makeShape(m_classFactory, type));
 }
 
-void OpenOfficeReader::readCustomShape(const xmlbounds::Element& element)
+void OpenOfficeReader::readCustomShape(const xmllimits::Element& element)
 {
     const QString type =
         element.firstChildElement(u"draw:enhanced-geometry"_s).attribute(u"draw:type"_s);
@@ -132,7 +132,7 @@ void OpenOfficeReader::readCustomShape(const xmlbounds::Element& element)
     }
 }
 
-void OpenOfficeReader::placeShape(const xmlbounds::Element& element, NewShape shape)
+void OpenOfficeReader::placeShape(const xmllimits::Element& element, NewShape shape)
 {
     if (!shape) {
         return;

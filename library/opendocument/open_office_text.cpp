@@ -39,7 +39,7 @@ TextStyling OpenOfficeReader::styling() const
     return {m_textStyles, m_defaultTextStyle, m_pointsPerPixel};
 }
 
-void OpenOfficeReader::readParagraph(const xmlbounds::Element& paragraph)
+void OpenOfficeReader::readParagraph(const xmllimits::Element& paragraph)
 {
     const OOTextStyle style = styling().styleOf(paragraph, m_defaultTextStyle);
     advanceFlow(style.margins.first);
@@ -50,7 +50,7 @@ void OpenOfficeReader::readParagraph(const xmlbounds::Element& paragraph)
     ParagraphFlow flow(m_pageWidth);
     readParagraphFrames(paragraph, flow);
     advanceFlow(flow.blockOffset());
-    for (xmlbounds::Node node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
+    for (xmllimits::Node node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
         readParagraphNode(node.toElement(), node.isText() ? node.nodeValue() : QString(), style,
                           flow);
     }
@@ -58,17 +58,17 @@ void OpenOfficeReader::readParagraph(const xmlbounds::Element& paragraph)
 }
 
 // Frames come first wherever they stand in the paragraph: its text flows around all of them.
-void OpenOfficeReader::readParagraphFrames(const xmlbounds::Element& paragraph, ParagraphFlow& flow)
+void OpenOfficeReader::readParagraphFrames(const xmllimits::Element& paragraph, ParagraphFlow& flow)
 {
     const QString tag = u"draw:frame"_s;
-    for (xmlbounds::Element frame = paragraph.firstChildElement(tag); !frame.isNull();
+    for (xmllimits::Element frame = paragraph.firstChildElement(tag); !frame.isNull();
          frame = frame.nextSiblingElement(tag)) {
         flow.passFrame(readFrame(frame));
     }
 }
 
 // One node of a paragraph: an element, or a text where the element is null.
-void OpenOfficeReader::readParagraphNode(const xmlbounds::Element& element, const QString& text,
+void OpenOfficeReader::readParagraphNode(const xmllimits::Element& element, const QString& text,
                                          const OOTextStyle& style, ParagraphFlow& flow)
 {
     if (!text.isEmpty()) {
@@ -120,7 +120,7 @@ QSizeF OpenOfficeReader::placeTextRun(const QString& text, const OOTextStyle& st
     return {width, run->getItemHeight()};
 }
 
-void OpenOfficeReader::buildRichText(const xmlbounds::Element& shape, const Geometry& geometry)
+void OpenOfficeReader::buildRichText(const xmllimits::Element& shape, const Geometry& geometry)
 {
     const RichText text = toRichText(shape, styling());
     if (text.isBlank || isTooLong(text.length)) {

@@ -8,9 +8,9 @@ using namespace Qt::StringLiterals;
 
 } // namespace
 
-PageLayout readPageLayout(const xmlbounds::Element& root)
+PageLayout readPageLayout(const xmllimits::Element& root)
 {
-    const xmlbounds::Element properties = root.firstChildElement(u"office:automatic-styles"_s)
+    const xmllimits::Element properties = root.firstChildElement(u"office:automatic-styles"_s)
                                               .firstChildElement(u"style:page-layout"_s)
                                               .firstChildElement(u"style:page-layout-properties"_s);
     PageLayout layout;

@@ -18,6 +18,6 @@ struct PageLayout
 
 /// Reads the first page layout of a styles document.
 /// @param root the root of the styles document
-[[nodiscard]] PageLayout readPageLayout(const xmlbounds::Element& root);
+[[nodiscard]] PageLayout readPageLayout(const xmllimits::Element& root);
 
 } // namespace opendocument

@@ -3,7 +3,7 @@
 #include "opendocument/limits.h"
 #include "opendocument/log.h"
 
-#include "limits/image/bounded_picture.h"
+#include "limits/image/safe_picture.h"
 #include "messages/refusals.h"
 
 #include <QBuffer>
@@ -70,7 +70,7 @@ QPixmap PictureStore::decode(const QString& name)
     if (stored.isEmpty()) {
         return {};
     }
-    const QByteArray bytes = imagebounds::boundedPicture(stored);
+    const QByteArray bytes = imagelimits::safePicture(stored);
     QPixmap pixmap;
     if (!isWithin(bytes, std::min(limits::PicturePixels, m_pixelsLeft)) ||
         !pixmap.loadFromData(bytes)) {

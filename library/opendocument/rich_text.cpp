@@ -40,7 +40,7 @@ public:
         : m_styling(styling)
     {}
 
-    void writeParagraph(const xmlbounds::Element& paragraph);
+    void writeParagraph(const xmllimits::Element& paragraph);
     [[nodiscard]] RichText finished() const;
 
 private:
@@ -48,7 +48,7 @@ private:
     [[nodiscard]] QString bodyAttribute() const;
     [[nodiscard]] QString paragraphTag(const OOTextStyle& style) const;
     [[nodiscard]] QString spanTag(const OOTextStyle& style, const OOTextStyle& base) const;
-    void writeNode(const xmlbounds::Node& node, const OOTextStyle& paragraphStyle);
+    void writeNode(const xmllimits::Node& node, const OOTextStyle& paragraphStyle);
     void writeSpan(const QString& tag, const QString& text);
 
     const TextStyling& m_styling;
@@ -95,9 +95,9 @@ void HtmlWriter::writeSpan(const QString& tag, const QString& text)
     m_paragraphs += tag + text.toHtmlEscaped() + EndOfSpan;
 }
 
-void HtmlWriter::writeNode(const xmlbounds::Node& node, const OOTextStyle& paragraphStyle)
+void HtmlWriter::writeNode(const xmllimits::Node& node, const OOTextStyle& paragraphStyle)
 {
-    const xmlbounds::Element element = node.toElement();
+    const xmllimits::Element element = node.toElement();
     if (node.isText()) {
         writeSpan(Span.arg(QString()), node.nodeValue());
     } else if (element.tagName() == "text:tab"_L1) {
@@ -108,11 +108,11 @@ void HtmlWriter::writeNode(const xmlbounds::Node& node, const OOTextStyle& parag
     }
 }
 
-void HtmlWriter::writeParagraph(const xmlbounds::Element& paragraph)
+void HtmlWriter::writeParagraph(const xmllimits::Element& paragraph)
 {
     const OOTextStyle& style = m_styling.styleOf(paragraph, m_styling.defaultStyle);
     m_paragraphs += paragraphTag(style);
-    for (xmlbounds::Node node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
+    for (xmllimits::Node node = paragraph.firstChild(); !node.isNull(); node = node.nextSibling()) {
         writeNode(node, style);
     }
     m_paragraphs += EndOfParagraph;
@@ -127,17 +127,17 @@ RichText HtmlWriter::finished() const
 
 } // namespace
 
-const OOTextStyle& TextStyling::styleOf(const xmlbounds::Element& element,
+const OOTextStyle& TextStyling::styleOf(const xmllimits::Element& element,
                                         const OOTextStyle& otherwise) const
 {
     const auto found = styles.constFind(element.attribute(u"text:style-name"_s));
     return found != styles.constEnd() ? *found : otherwise;
 }
 
-RichText toRichText(const xmlbounds::Element& shape, const TextStyling& styling)
+RichText toRichText(const xmllimits::Element& shape, const TextStyling& styling)
 {
     HtmlWriter writer(styling);
-    for (xmlbounds::Element child = shape.firstChildElement(); !child.isNull();
+    for (xmllimits::Element child = shape.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
         if (holdsText(child)) {
             writer.writeParagraph(child);
@@ -146,7 +146,7 @@ RichText toRichText(const xmlbounds::Element& shape, const TextStyling& styling)
     return writer.finished();
 }
 
-bool holdsText(const xmlbounds::Element& element)
+bool holdsText(const xmllimits::Element& element)
 {
     const QString tag = element.tagName();
     return std::any_of(std::begin(TextTags), std::end(TextTags),

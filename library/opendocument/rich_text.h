@@ -18,7 +18,7 @@ struct TextStyling
     double pointsPerPixel = 1.0;     ///< what font sizes in HTML are multiplied by
 
     /// The style that an element names, or another where it names none that is known.
-    [[nodiscard]] const OOTextStyle& styleOf(const xmlbounds::Element& element,
+    [[nodiscard]] const OOTextStyle& styleOf(const xmllimits::Element& element,
                                              const OOTextStyle& otherwise) const;
 };
 
@@ -31,9 +31,9 @@ struct RichText
 };
 
 /// The paragraphs directly inside an element, as an HTML document of Qt's own kind.
-[[nodiscard]] RichText toRichText(const xmlbounds::Element& shape, const TextStyling& styling);
+[[nodiscard]] RichText toRichText(const xmllimits::Element& shape, const TextStyling& styling);
 
 /// Whether an element's tag is one that holds text: a paragraph, heading, span, date or time.
-[[nodiscard]] bool holdsText(const xmlbounds::Element& element);
+[[nodiscard]] bool holdsText(const xmllimits::Element& element);
 
 } // namespace opendocument

@@ -33,7 +33,7 @@ Qt::Alignment alignmentOf(const QString& value)
 
 } // namespace
 
-void readTextProperties(const xmlbounds::Element& properties, IsValidFamily isValidFamily,
+void readTextProperties(const xmllimits::Element& properties, IsValidFamily isValidFamily,
                         OOTextStyle& style)
 {
     const auto size = fontSizeOf(properties.attribute(u"fo:font-size"_s), style.fontSize);
@@ -56,7 +56,7 @@ void readTextProperties(const xmlbounds::Element& properties, IsValidFamily isVa
     }
 }
 
-void readParagraphProperties(const xmlbounds::Element& properties, double unitFactor,
+void readParagraphProperties(const xmllimits::Element& properties, double unitFactor,
                              OOTextStyle& style)
 {
     // The right margin counts only beside a left one: old labels depend on it.

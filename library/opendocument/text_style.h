@@ -41,12 +41,12 @@ struct OOTextStyle
 using IsValidFamily = bool (*)(QString family);
 
 /// Reads a style:text-properties element; null reads nothing. Changes only what is given.
-void readTextProperties(const xmlbounds::Element& properties, IsValidFamily isValidFamily,
+void readTextProperties(const xmllimits::Element& properties, IsValidFamily isValidFamily,
                         OOTextStyle& style);
 
 /// Reads a style:paragraph-properties element; null reads nothing. Changes only what is given.
 /// @param unitFactor points per unit of the document's lengths
-void readParagraphProperties(const xmlbounds::Element& properties, double unitFactor,
+void readParagraphProperties(const xmllimits::Element& properties, double unitFactor,
                              OOTextStyle& style);
 
 } // namespace opendocument

@@ -8,7 +8,7 @@
 #include "host/tal_canvas_model.h"
 #include "host/tal_datasource.h"
 #include "limits/file/special_file.h"
-#include "limits/xml/bounded_document.h"
+#include "limits/xml/xml_limits.h"
 #include "messages/reader_messages.h"
 #include "messages/refusals.h"
 #include "orvanta/control_kinds.h"
@@ -65,7 +65,7 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     }
     QDomDocument document;
     if (const auto failure =
-            xmlbounds::parseDocument(content.bytes, document, orvanta::MaximumTreeBytes)) {
+            xmllimits::parseDocument(content.bytes, document, orvanta::MaximumTreeBytes)) {
         debugLog(__LINE__, Q_FUNC_INFO)
             .write(messages::ParsingFailed, printableName.constData(), failure->line,
                    failure->column, failure->message.toLocal8Bit().constData());

@@ -1,6 +1,7 @@
 #include "orvanta/raster_picture.h"
 
-#include "limits/image/bounded_picture.h"
+#include "limits/image/safe_picture.h"
+#include "limits/svg/svg_sanitizer.h"
 #include "messages/refusals.h"
 
 #include <QBuffer>
@@ -30,32 +31,11 @@ RasterPicture refused(const char* code, const QString& reason)
     return {QImage(), reason, code};
 }
 
-} // namespace
-
-qint64 pixelCount(const QSize& size)
+// The picture of an open buffer, whose size is checked before a pixel is decoded.
+RasterPicture decode(QBuffer& buffer, const QByteArray& format, qint64 pixelsLeft)
 {
-    return size.isEmpty() ? 0 : qint64(size.width()) * size.height();
-}
-
-RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
-{
-    QBuffer buffer;
-    buffer.setData(imagebounds::boundedPicture(bytes));
-    if (buffer.data().isEmpty() && !bytes.isEmpty()) {
-        return refused(refusals::PictureTooLarge,
-                       QStringLiteral("a picture that takes more work than any real one"));
-    }
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    const QByteArray format = reader.format();
-    if (format.isEmpty()) {
-        return {};
-    }
-    if (!isRasterFormat(format)) {
-        return refused(refusals::PictureFormat,
-                       QStringLiteral("a picture of the format %1 is not decoded")
-                           .arg(QString::fromLatin1(format)));
-    }
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
     const QSize claimed = reader.size();
     if (pixelCount(claimed) > std::min(pixelsLeft, MaximumPicturePixels)) {
         return refused(refusals::PictureTooLarge,
@@ -69,6 +49,51 @@ RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
                        QStringLiteral("the pictures of the label are too large"));
     }
     return {image, QString()};
+}
+
+// The renderer would open the files that a drawing names.
+RasterPicture renderSvg(const QByteArray& svg, qint64 pixelsLeft)
+{
+    const auto safe = svglimits::sanitizeSvg(svg, svglimits::LengthUnits::AsWritten);
+    if (!safe) {
+        return refused(refusals::PictureUnreadable,
+                       QStringLiteral("a drawing that is damaged or too large"));
+    }
+    QBuffer buffer;
+    buffer.setData(safe->document());
+    buffer.open(QIODevice::ReadOnly);
+    return decode(buffer, "svg", pixelsLeft);
+}
+
+} // namespace
+
+qint64 pixelCount(const QSize& size)
+{
+    return size.isEmpty() ? 0 : qint64(size.width()) * size.height();
+}
+
+RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
+{
+    QBuffer buffer;
+    buffer.setData(imagelimits::safePicture(bytes));
+    if (buffer.data().isEmpty() && !bytes.isEmpty()) {
+        return refused(refusals::PictureTooLarge,
+                       QStringLiteral("a picture that takes more work than any real one"));
+    }
+    buffer.open(QIODevice::ReadOnly);
+    const QByteArray format = QImageReader(&buffer).format();
+    if (format.isEmpty()) {
+        return {};
+    }
+    if (format == "svg") {
+        return renderSvg(buffer.data(), pixelsLeft);
+    }
+    if (!isRasterFormat(format)) {
+        return refused(refusals::PictureFormat,
+                       QStringLiteral("a picture of the format %1 is not decoded")
+                           .arg(QString::fromLatin1(format)));
+    }
+    return decode(buffer, format, pixelsLeft);
 }
 
 } // namespace orvanta

@@ -22,10 +22,11 @@ struct RasterPicture
     const char* refusalCode = nullptr; ///< of messages/refusals.h; null without a refusal
 };
 
-/// Decodes a picture whose format its content tells.
+/// Decodes a picture; its content determines the format.
 ///
-/// The claimed size is checked before any pixel is decoded. Vector formats that Qt's
-/// plug-ins would draw are refused, because drawing them opens the files that they name.
+/// The claimed size is checked before any pixel is decoded. SVG is rendered without its
+/// references to files; other vector formats of Qt's plug-ins are refused, because rendering
+/// them opens the files that they name.
 ///
 /// @param pixelsLeft most pixels that the picture may have
 [[nodiscard]] RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft);

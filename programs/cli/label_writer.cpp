@@ -87,9 +87,7 @@ QString writeOne(const OpenedLabel& label, Target target, const QString& output,
         return writePicture(*label.canvas, output, dpi);
     case Target::Svg:
         return workbench::writeSvg(*label.canvas, output, title);
-    case Target::Label:
-        return workbench::document::saveLabel(output, *label.canvas, *label.datasources,
-                                              workbench::document::Origin::Import);
+    case Target::Label: // all records in one file, see LabelWriter::write()
     case Target::Pdf:
         break;
     }
@@ -112,7 +110,9 @@ Written LabelWriter::write(Target target, const QString& output)
     if (target == Target::Label) {
         // Contains all records, whatever --records selects.
         return writeFile(output, [&](const QString& file) {
-            return writeOne(m_label, target, file, titleOf(output), m_options.dpi);
+            return workbench::document::saveLabel(file, *m_label.canvas, *m_label.datasources,
+                                                  workbench::document::Origin::Import,
+                                                  m_heartbeat);
         });
     }
     const Records records = recordsOf(m_label, m_options.records);

@@ -107,7 +107,7 @@ TEST_F(JournalTest, HoldsNoLineThatWouldFillTheMemory)
                                                              QByteArray(letters, 'x') +
                                                              "\"],\"errors\":[");
     };
-    const qint64 taken = jsonbounds::treeBytes(lineWith(0), archive::MaximumLineTree);
+    const qint64 taken = jsonlimits::treeBytes(lineWith(0), archive::MaximumLineTree);
     const qint64 left = (archive::MaximumLineTree - taken) / 2; // a letter counts twice
     EXPECT_EQ(archive::recordFromLine(lineWith(left)), record(a));
     EXPECT_FALSE(archive::recordFromLine(lineWith(left + 1)));

@@ -5,7 +5,7 @@
 #include "tavrel/file_versions.h"
 #include "tests/opendocument/documents.h"
 
-#include "opendocument/zip_directory.h"
+#include "limits/zip/zip_directory.h"
 
 #include <QtEndian>
 
@@ -24,7 +24,7 @@ QByteArray reversed(QByteArray bytes)
 void expectMember(const QByteArray& package, const char* name)
 {
     const MemoryFile file(package);
-    opendocument::ZipDirectory directory;
+    ziplimits::ZipDirectory directory;
     EXPECT_FALSE(directory.open(file.path()));
     EXPECT_FALSE(directory.refusalOf(QLatin1String(name), 1 << 20)) << name;
 }

@@ -1,8 +1,8 @@
 // Every limit of what is counted and reported at its last good value and at the first bad one.
 
 #include "limits/json/tree_size.h"
+#include "limits/zip/zip_directory.h"
 #include "migration/census/counting.h"
-#include "migration/census/zip_member.h"
 #include "migration/model/file_report.h"
 #include "migration/model/known_fonts.h"
 #include "migration/report/report_lines.h"
@@ -89,7 +89,7 @@ qsizetype lineRead(QByteArray text)
 QByteArray linesOfTree(qint64 tree)
 {
     const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(300'000);
-    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", MaximumLineTree);
+    const qint64 taken = jsonlimits::treeBytes(lists + "\"\"", MaximumLineTree);
     return lists + "\"" + QByteArray((tree - taken) / 2, 'x') + "\"";
 }
 
@@ -130,7 +130,9 @@ TEST(CensusLimits, MeasureTheMembersOfPackages)
     EXPECT_TRUE(isCounted(countOpenDocument(package(documentOf(MaximumStyles), small))));
     EXPECT_FALSE(isCounted(countOpenDocument(package(documentOf(MaximumStyles + 1), small))));
     const QByteArray most = package(small, documentOf(MaximumContent));
-    EXPECT_TRUE(zipMember(most, "content.xml", MaximumContent)) << "only unpacked: it takes long";
+    ziplimits::ZipDirectory directory;
+    ASSERT_FALSE(directory.openBytes(most));
+    EXPECT_TRUE(!directory.refusalOf(QStringLiteral("content.xml"), MaximumContent)) << "only unpacked: it takes long";
     EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(MaximumContent + 1)))));
 }
 
@@ -147,9 +149,9 @@ TEST(CensusLimits, FindThePackageBeforeItsComment)
 TEST(CensusLimits, MeasureTheTreeOfSavedLabels)
 {
     const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(1'840'000);
-    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", MaximumSavedTree);
+    const qint64 taken = jsonlimits::treeBytes(lists + "\"\"", MaximumSavedTree);
     const QByteArray most = lists + "\"" + QByteArray((MaximumSavedTree - taken) / 2, 'x');
-    EXPECT_FALSE(jsonbounds::isLargerThan(most + "\"", MaximumSavedTree));
+    EXPECT_FALSE(jsonlimits::isLargerThan(most + "\"", MaximumSavedTree));
     EXPECT_EQ(countSavedLabel(most + "x\"").unknown, tooLargeToCount());
 }
 

@@ -1,7 +1,6 @@
 // The counts of OpenDocument packages.
 
 #include "migration/census/counting.h"
-#include "migration/census/zip_member.h"
 #include "tests/migration/documents.h"
 
 #include <gtest/gtest.h>
@@ -222,12 +221,4 @@ TEST(OpenDocumentCensus, SurvivesDamagedPackages)
     for (qsizetype size = 0; size < whole.size(); size += 7) {
         EXPECT_TRUE(countOpenDocument(whole.first(size)).objects.isEmpty());
     }
-}
-
-TEST(ZipMember, TakesNoMoreThanIsAllowed)
-{
-    const QByteArray package = drawingOf(QByteArray(1'000'000, ' '));
-    EXPECT_TRUE(zipMember(package, "content.xml", 2'000'000).has_value());
-    EXPECT_FALSE(zipMember(package, "content.xml", 900'000).has_value());
-    EXPECT_FALSE(zipMember(package, "missing.xml", 2'000'000).has_value());
 }

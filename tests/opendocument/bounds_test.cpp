@@ -8,7 +8,6 @@
 #include "opendocument/open_office_reader.h"
 #include "opendocument/picture_store.h"
 #include "opendocument/style_memory.h"
-#include "opendocument/zip_directory.h"
 #include "limits/xml/markup_scanner.h"
 
 #include <QBuffer>
@@ -21,20 +20,6 @@ using namespace opendocument;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString openingOf(const QByteArray& zip)
-{
-    Package package;
-    ZipDirectory directory;
-    return directory.open(package.writeRaw(zip)).value_or(QString());
-}
-
-QByteArray claimingMembers(quint16 count)
-{
-    QByteArray zip = Package(stylesXml(), drawingXml({})).bytes();
-    qToLittleEndian(count, zip.data() + zip.lastIndexOf("PK\x05\x06") + 10);
-    return zip;
-}
 
 QByteArray png(int width, int height)
 {
@@ -67,31 +52,6 @@ protected:
 
 } // namespace
 
-TEST_F(OpenDocumentBounds, CountMembers)
-{
-    const auto most = quint16(limits::PackageMembers);
-    EXPECT_TRUE(openingOf(claimingMembers(most)).startsWith(u"The package's table of contents"_s));
-    EXPECT_EQ(openingOf(claimingMembers(most + 1)), u"The package has more than 4096 members"_s);
-}
-
-TEST_F(OpenDocumentBounds, MeasureTheTableOfContents)
-{
-    constexpr qint64 entry = 46;
-    constexpr qint64 longName = 60'000;
-    constexpr int many = int(limits::DirectoryBytes / (entry + longName));
-    const auto withRest = [](qint64 rest) {
-        Package package;
-        for (int i = 0; i < many; ++i) {
-            package.add(QString::number(i).leftJustified(longName, u'x'), {});
-        }
-        return package.add(QString(rest - entry, u'y'), {}).bytes();
-    };
-    const qint64 rest = limits::DirectoryBytes - many * (entry + longName);
-    EXPECT_EQ(openingOf(withRest(rest)), QString());
-    EXPECT_EQ(openingOf(withRest(rest + 1)),
-              u"The package's table of contents is longer than 4194304 bytes"_s);
-}
-
 TEST_F(OpenDocumentBounds, MeasureTheXmlMembers)
 {
     const QByteArray styles(limits::StylesBytes, ' ');
@@ -108,8 +68,8 @@ TEST_F(OpenDocumentBounds, MeasureTheTreeOfTheStyles)
         return "<a>" + QByteArray("<b/>").repeated(600'000) + QByteArray(letters, 'x') + "</a>";
     };
     const auto fits = [&styles](qsizetype letters) {
-        return !xmlbounds::findExcess(styles(letters), limits::StylesTreeBytes,
-                                      xmlbounds::CompactCosts);
+        return !xmllimits::findExcess(styles(letters), limits::StylesTreeBytes,
+                                      xmllimits::CompactCosts);
     };
     qsizetype most = 0;
     for (qsizetype step = 1 << 23; step > 0; step /= 2) {

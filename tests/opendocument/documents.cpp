@@ -9,10 +9,10 @@
 
 #include <private/qzipwriter_p.h>
 
-xmlbounds::Element elementOf(const QByteArray& xml)
+xmllimits::Element elementOf(const QByteArray& xml)
 {
     // An element is only whole as long as its document is.
-    static std::list<xmlbounds::ElementTree> documents;
+    static std::list<xmllimits::ElementTree> documents;
     EXPECT_FALSE(documents.emplace_back().parse(xml)) << xml.toStdString();
     return documents.back().documentElement();
 }

@@ -10,7 +10,7 @@
 /// Builds OpenDocument packages and their parts for tests.
 
 /// The root element of a fragment of XML. Prefixes need no declaration.
-[[nodiscard]] xmlbounds::Element elementOf(const QByteArray& xml);
+[[nodiscard]] xmllimits::Element elementOf(const QByteArray& xml);
 
 /// A styles document.
 /// @param pageAttributes attributes of the page layout, empty for an inch document of

@@ -56,7 +56,7 @@ TEST(GraphicStyle, IsLeftAloneByAbsentProperties)
     style.markerEnd = 5;
     style.mirrorVertical = true;
     style.anchorParagraph = false;
-    readGraphicProperties(xmlbounds::Element(), LengthUnit(), style);
+    readGraphicProperties(xmllimits::Element(), LengthUnit(), style);
     style = after("", style);
     EXPECT_EQ(style.wrap, 3);
     EXPECT_EQ(style.penStyle, 4);

@@ -72,11 +72,11 @@ TEST(Lengths, ThatDoNotConvertAreNone)
 
 TEST(Lengths, LeaveTheTargetAloneWhenAbsentOrDamaged)
 {
-    const xmlbounds::Element element = elementOf("<e a=\"2in\" b=\"xin\"/>");
+    const xmllimits::Element element = elementOf("<e a=\"2in\" b=\"xin\"/>");
     double target = 5;
     EXPECT_FALSE(readLength(element, u"b"_s, 72, target));
     EXPECT_FALSE(readLength(element, u"c"_s, 72, target));
-    EXPECT_FALSE(readLength(xmlbounds::Element(), u"a"_s, 72, target));
+    EXPECT_FALSE(readLength(xmllimits::Element(), u"a"_s, 72, target));
     EXPECT_EQ(target, 5);
     EXPECT_TRUE(readLength(element, u"a"_s, 72, target));
     EXPECT_EQ(target, 144);

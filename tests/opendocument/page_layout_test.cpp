@@ -57,5 +57,5 @@ TEST(PageLayout, MayBeMissingAltogether)
         EXPECT_FALSE(layout.width);
         EXPECT_TRUE(layout.portrait);
     }
-    EXPECT_TRUE(readPageLayout(xmlbounds::Element()).portrait);
+    EXPECT_TRUE(readPageLayout(xmllimits::Element()).portrait);
 }

@@ -53,8 +53,8 @@ TEST(TextStyle, IsLeftAloneByAbsentProperties)
     style.alignment = Qt::AlignRight;
     style.margins.third = 4;
     style.textColor = u"red"_s;
-    readTextProperties(xmlbounds::Element(), &isKnown, style);
-    readParagraphProperties(xmlbounds::Element(), 72, style);
+    readTextProperties(xmllimits::Element(), &isKnown, style);
+    readParagraphProperties(xmllimits::Element(), 72, style);
     style = afterParagraph("", afterText("", style));
     EXPECT_EQ(style.fontSize, 30);
     EXPECT_TRUE(style.bold && style.italic && style.underline);

@@ -169,11 +169,33 @@ TEST_F(PictureBuilding, AllPicturesOfALabelTogetherAreBoundedAndTheNextLabelStar
     EXPECT_EQ(callsOf("item:8").first(), whole);
 }
 
-TEST_F(PictureBuilding, ADrawingInTheRasterPathIsNotDrawn)
+TEST_F(PictureBuilding, RendersADrawingThatDoesNotBeginWithSvg)
+{
+    const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='3'>"
+                           "<rect width='4' height='3' fill='red'/></svg>";
+    const QByteArray starts[] = {"<?xml version='1.0'?>", "<!-- logo -->", "\n ",
+                                 "<!DOCTYPE svg>"};
+    for (const QByteArray& start : starts) {
+        readControls(pictureBox(start + svg));
+        EXPECT_TRUE(takeCalls().filter(QStringLiteral("pixmapImportActions 4x3")).size() == 1)
+            << start.constData();
+    }
+    EXPECT_EQ(logText(), QString());
+}
+
+TEST_F(PictureBuilding, ADrawingThatCannotBeRenderedKeepsItsPlace)
+{
+    readControls(pictureBox("<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg'>"));
+    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0x0"));
+    EXPECT_TRUE(logText().contains(QStringLiteral("a drawing that is damaged or too large")));
+}
+
+TEST_F(PictureBuilding, ADrawingOfTooManyPixelsIsNotRendered)
 {
     readControls(pictureBox("<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
-                            "width='4' height='4'/>"));
+                            "width='100000' height='100000'/>"));
     EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0x0"));
+    EXPECT_TRUE(logText().contains(QStringLiteral("is too large")));
 }
 
 TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)

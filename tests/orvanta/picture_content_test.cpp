@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -93,6 +94,29 @@ TEST(RasterPicture, IsDecodedByItsContent)
     }
 }
 
+// Qt's plug-in would open the picture that a drawing names, and show it.
+TEST(RasterPicture, OfADrawingShowsNoExternalPicture)
+{
+    const QTemporaryDir folder;
+    const QString red = folder.filePath(QStringLiteral("red.png"));
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(red));
+    const QByteArray drawing =
+        "<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
+        "xmlns:xlink='http://www.w3.org/1999/xlink' width='8' height='8'>"
+        "<rect width='4' height='8' fill='blue'/>"
+        "<image x='4' width='4' height='8' xlink:href='" +
+        red.toUtf8() + "'/></svg>";
+    ASSERT_EQ(QImage::fromData(drawing).pixelColor(6, 4), QColor(Qt::red)) << "by the plug-in";
+    const auto rendered = orvanta::decodeRasterPicture(drawing, 64);
+    EXPECT_EQ(rendered.refusal, QString());
+    EXPECT_EQ(rendered.image.size(), QSize(8, 8));
+    EXPECT_EQ(rendered.image.pixelColor(1, 4), QColor(Qt::blue));
+    EXPECT_EQ(rendered.image.pixelColor(6, 4).alpha(), 0);
+    EXPECT_NE(orvanta::decodeRasterPicture(drawing, 63).refusal, QString());
+}
+
 TEST(RasterPicture, ThatIsNoneIsNullWithoutRefusal)
 {
     for (const QByteArray& bytes :
@@ -133,14 +157,13 @@ TEST(RasterPicture, MayUseWhatIsLeftToTheLabel)
     EXPECT_EQ(refused.refusal, QStringLiteral("a picture of 7 by 5 pixels is too large"));
 }
 
-TEST(RasterPicture, IsNeverADrawing)
+TEST(RasterPicture, RendersADrawingBehindADeclarationOrSpaces)
 {
-    // Qt's own plug-in would draw these, and open the files that they name.
     for (const char* svg :
          {"<?xml version=\"1.0\"?><svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" "
           "height=\"4\"/>",
           " <svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" height=\"4\"/>"}) {
         SCOPED_TRACE(svg);
-        EXPECT_TRUE(orvanta::decodeRasterPicture(svg, Plenty).image.isNull());
+        EXPECT_EQ(orvanta::decodeRasterPicture(svg, Plenty).image.size(), QSize(4, 4));
     }
 }

@@ -30,6 +30,7 @@ package_of(labelport programs)
 
 # Each needs what it stands on, and the libraries that it is linked with.
 expect_field(${library} Depends "libqt6widgets6")
+expect_field(${library} Depends "libqt6svg6")
 expect_field(${development} Depends "${library_name} \\(= ${VERSION}-1\\).*qt6-base-dev")
 expect_field(${programs} Depends "${library_name} \\(= ${VERSION}-1\\)")
 expect_field(${programs} Depends "libqt6sql6-sqlite")

@@ -14,7 +14,7 @@ endif()
 foreach(file IN LISTS package_files)
     expect_without(${file} ${BUILD} ${SOURCE}
         labelport_tavrel labelport_orvanta labelport_opendocument labelport_importer
-        labelport_supply labelport_numeric labelport_xmlbounds GuiPrivate ZLIB)
+        labelport_supply labelport_numeric labelport_limits GuiPrivate ZLIB)
 endforeach()
 file(READ ${prefix}/${LIBDIR}/cmake/LabelPort/LabelPortTargets.cmake targets)
 foreach(target LabelPort Host Logging)

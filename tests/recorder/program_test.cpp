@@ -55,6 +55,20 @@ TEST_F(TraceProgram, RunsInAnEmptyEnvironment)
     EXPECT_TRUE(result.output.endsWith("{\"result\":true}\n")) << result.output.constData();
 }
 
+TEST_F(TraceProgram, HasTheSizeOfADrawingThatIsARasterPicture)
+{
+    const QByteArray svg = "<?xml version=\"1.0\"?><svg xmlns=\"http://www.w3.org/2000/svg\" "
+                           "width=\"30\" height=\"20\"><rect width=\"9\" height=\"9\"/></svg>";
+    const QByteArray label = "<qmtx><controls><picture_box><image><content>" + svg.toBase64() +
+                             "</content></image></picture_box></controls></qmtx>";
+    const ProgramResult result = run({file(QStringLiteral("logo.qmtx"), label)});
+    EXPECT_EQ(result.status, 0) << result.errors.constData();
+    EXPECT_TRUE(result.output.contains(
+        "\"pixmapImportActions\",\"args\":[{\"width\":30,\"height\":20}]"))
+        << result.output.constData();
+    EXPECT_FALSE(result.output.contains("\"log\"")) << result.output.constData();
+}
+
 TEST_F(TraceProgram, NeedsNoDisplayWhateverIsAskedFor)
 {
     QProcessEnvironment environment = emptyEnvironment();

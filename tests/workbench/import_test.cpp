@@ -1,5 +1,7 @@
 // From a file to a canvas without a window.
 
+#include "workbench/document/label_file.h"
+#include "workbench/document/label_json.h"
 #include "workbench/import/file_check.h"
 #include "workbench/import/label_import.h"
 
@@ -94,6 +96,36 @@ TEST(Import, BringsTheItemsOfAFileOntoACanvas)
     EXPECT_EQ(shape.placement.position, QPointF(30.0, 30.0));
     EXPECT_EQ(shape.box.size, QSizeF(120.0, 60.0));
     EXPECT_EQ(shape.fill->color, QColor(Qt::blue));
+}
+
+TEST(Import, RendersADrawingThatIsARasterPicture)
+{
+    const QByteArray svg = "<!-- logo --><svg xmlns='http://www.w3.org/2000/svg' width='4' "
+                           "height='4'><rect width='4' height='4' fill='lime'/></svg>";
+    const Folder folder;
+    const ImportResult result = importLabel(
+        folder.write("logo.qmtx", "<qmtx><controls><picture_box><image><content>" +
+                                      svg.toBase64() +
+                                      "</content></image></picture_box></controls></qmtx>"));
+    ASSERT_TRUE(result.isImported()) << qPrintable(result.error);
+    ASSERT_EQ(result.canvas->items().size(), 1);
+    const QImage image = result.canvas->items().at(0)->values().picture->image;
+    EXPECT_EQ(image.size(), QSize(4, 4));
+    EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::green));
+}
+
+// Binary labels number their z values on through all imports of a process.
+TEST(Import, SavesTheSameBytesEachTime)
+{
+    const QString label = QStringLiteral(LABELPORT_SAMPLES "/tavrel/address_2000016.cnv");
+    const auto saved = [&label] {
+        const ImportResult result = importLabel(label);
+        return workbench::document::toJson(
+            workbench::document::snapshot(*result.canvas, *result.datasources));
+    };
+    const QByteArray first = saved();
+    EXPECT_TRUE(first.contains("\"z\": 1"));
+    EXPECT_EQ(saved(), first);
 }
 
 TEST(Import, BindsListsAndShowsTheirFirstRecord)

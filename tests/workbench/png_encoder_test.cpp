@@ -1,6 +1,6 @@
 // What is written must be a PNG file to everybody, Qt's own reader first.
 
-#include "workbench/rendering/png_encoder.h"
+#include "workbench/pictures/png_encoder.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -97,7 +97,19 @@ TEST(PngEncoder, TakesPicturesOfEveryFormat)
 
 TEST(PngEncoder, WritesTheKindOfPictureThatIsNeeded)
 {
+    constexpr qsizetype BitDepthAt = 24;
     constexpr qsizetype ColorTypeAt = 25;
+    const struct
+    {
+        quint32 colors;
+        int bits;
+    } rows[] = {{1, 1}, {2, 1}, {3, 2}, {4, 2}, {5, 4}, {16, 4}, {17, 8}, {256, 8}};
+    for (const auto& row : rows) {
+        const QImage image = pictureOf({40, 40}, row.colors, 255);
+        EXPECT_EQ(encoded(image).at(BitDepthAt), row.bits) << row.colors;
+        EXPECT_EQ(encoded(image).at(ColorTypeAt), 3) << row.colors;
+        EXPECT_EQ(plain(readBack(image)), image) << row.colors;
+    }
     EXPECT_EQ(encoded(pictureOf({20, 20}, 100, 255)).at(ColorTypeAt), 3);
     EXPECT_EQ(encoded(pictureOf({20, 20}, 60000, 255)).at(ColorTypeAt), 2);
     EXPECT_EQ(encoded(pictureOf({20, 20}, 60000, 200)).at(ColorTypeAt), 6);
@@ -119,6 +131,16 @@ TEST(PngEncoder, WritesResolutionAndTextsAheadOfThePixels)
     QImageReader reader(&head, "png");
     EXPECT_EQ(reader.text(QStringLiteral("Software")), QStringLiteral("a program"));
     EXPECT_EQ(reader.text(QStringLiteral("Title")), QStringLiteral("K\u00e4se \u20ac"));
+}
+
+// A picture may come with any texts; libpng refuses a file with such a key.
+TEST(PngEncoder, LeavesOutTextsWithoutAKey)
+{
+    QImage image = pictureOf({9, 9}, 4, 255);
+    image.setText(QStringLiteral(" "), QStringLiteral("no key"));
+    image.setText(QString(80, u'k'), QStringLiteral("long key"));
+    EXPECT_FALSE(encoded(image).contains("iTXt"));
+    EXPECT_EQ(plain(readBack(image)), image);
 }
 
 TEST(PngEncoder, RefusesAPictureOfNothing)

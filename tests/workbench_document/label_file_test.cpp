@@ -76,6 +76,31 @@ private:
 
 } // namespace
 
+TEST_F(LabelFile, SendsHeartbeatsWhileSaving)
+{
+    int count = 0;
+    EXPECT_EQ(saveLabel(path(), canvas, sources, Origin::Person, [&count] { ++count; }), QString());
+    EXPECT_GE(count, 2);
+}
+
+TEST_F(LabelFile, NumbersZValuesInTheirOrder)
+{
+    SavedLabel label = sampleLabel();
+    ASSERT_GE(label.items.size(), 4);
+    label.items.resize(4);
+    const double given[] = {1e9, -7.5, 1e9, 12.0};
+    for (qsizetype i = 0; i < 4; ++i) {
+        label.items[i].placement.z = given[i];
+    }
+    ASSERT_TRUE(restore(label, canvas, sources));
+    const SavedLabel saved = snapshot(canvas, sources);
+    QList<double> numbers;
+    for (const ItemValues& item : saved.items) {
+        numbers << item.placement.z;
+    }
+    EXPECT_EQ(numbers, QList<double>({2.0, 0.0, 2.0, 1.0}));
+}
+
 TEST_F(LabelFile, OpensInPlaceOfAnotherLabel)
 {
     ASSERT_EQ(saveLabel(path(), canvas, sources).toStdString(), "");

@@ -2,7 +2,7 @@
 
 #include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
-#include "workbench/document/file_bounds.h"
+#include "workbench/document/picture_pixels.h"
 #include "workbench/document/json_values.h"
 #include "workbench/document/label_file.h"
 #include "workbench/document/label_json.h"
@@ -106,11 +106,11 @@ TEST(LabelLimits, CountItems)
 TEST(LabelLimits, MeasureTheParsersTree)
 {
     const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(1'840'000);
-    const qint64 taken = jsonbounds::treeBytes(lists + "\"\"", limits::TreeBytes);
+    const qint64 taken = jsonlimits::treeBytes(lists + "\"\"", limits::TreeBytes);
     const qint64 left = (limits::TreeBytes - taken) / 2; // a letter counts twice
     const QByteArray most = lists + "\"" + QByteArray(left, 'x');
     ASSERT_LT(most.size(), limits::FileBytes);
-    EXPECT_FALSE(jsonbounds::isLargerThan(most + "\"", limits::TreeBytes));
+    EXPECT_FALSE(jsonlimits::isLargerThan(most + "\"", limits::TreeBytes));
     EXPECT_EQ(fromJson(most + "x\"").error,
               QStringLiteral("The label file is damaged: it holds more than any label."));
 }

@@ -180,3 +180,14 @@ TEST(SymbolCreator, ConvertsOneDocumentAfterAnother)
     EXPECT_FALSE(creator.convertSvgToSymbol(QRectF()));
     EXPECT_TRUE(creator.getSymbolData().isEmpty()) << "never the drawing before";
 }
+
+TEST(SymbolData, HasALargestSize)
+{
+    const auto isSymbol = [](const QByteArray& size) {
+        return makeSymbolData(svg(size)).has_value();
+    };
+    static_assert(MaximumSymbolSide == 100'000.0);
+    EXPECT_TRUE(isSymbol("width='100000pt' height='10'"));
+    EXPECT_FALSE(isSymbol("width='100001pt' height='10'"));
+    EXPECT_FALSE(isSymbol("width='10' height='100001pt'"));
+}

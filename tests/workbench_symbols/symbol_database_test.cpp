@@ -2,7 +2,7 @@
 
 #include "host/services/symbol_database_model.h"
 #include "tests/support/captured_log.h"
-#include "workbench/symbols/svg_limits.h"
+#include "limits/svg/svg_limits.h"
 #include "workbench/symbols/symbol_data.h"
 
 #include <QFile>
@@ -147,7 +147,7 @@ TEST_F(SymbolDatabaseTest, RefusesTablesThatAreComputed)
 TEST_F(SymbolDatabaseTest, LeavesADrawingThatIsTooLongAlone)
 {
     execute(path(), {TableText, QStringLiteral("INSERT INTO symbols VALUES('long', ?)")},
-            QByteArray(workbench::symbols::limits::DocumentBytes + 1, ' '));
+            QByteArray(svglimits::DocumentBytes + 1, ' '));
     SymbolDatabase database(path());
     EXPECT_TRUE(database.isOpen());
     EXPECT_TRUE(database.svg(QStringLiteral("long")).isEmpty());

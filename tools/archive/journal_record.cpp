@@ -60,7 +60,7 @@ QByteArray nextLine(QIODevice& journal, qint64 longest)
 std::optional<JournalRecord> recordFromLine(const QByteArray& line)
 {
     // Most of what a power cut leaves does not even begin as a record.
-    if (!line.startsWith('{') || jsonbounds::isLargerThan(line, MaximumLineTree)) {
+    if (!line.startsWith('{') || jsonlimits::isLargerThan(line, MaximumLineTree)) {
         return std::nullopt;
     }
     const QJsonObject object = QJsonDocument::fromJson(line).object();

@@ -1,7 +1,7 @@
 #include "workbench/document/label_file.h"
 
 #include "workbench/document/document_limits.h"
-#include "workbench/document/file_bounds.h"
+#include "workbench/document/picture_pixels.h"
 #include "workbench/document/label_json.h"
 
 #include <QCoreApplication>
@@ -9,6 +9,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+
+#include <map>
+#include <set>
 
 namespace workbench::document {
 
@@ -31,6 +34,23 @@ struct Words
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
+// Readers number z values on through all labels of a process. A saved label must not depend on
+// the labels imported before it, so only the order of the values is kept.
+void renumberZ(QList<ItemValues>& items)
+{
+    std::set<double> values;
+    for (const ItemValues& item : items) {
+        values.insert(item.placement.z);
+    }
+    std::map<double, double> ranks;
+    for (const double z : values) {
+        ranks.emplace_hint(ranks.end(), z, static_cast<double>(ranks.size()));
+    }
+    for (ItemValues& item : items) {
+        item.placement.z = ranks.at(item.placement.z);
+    }
+}
+
 } // namespace
 
 SavedLabel snapshot(const Canvas& canvas, const datasources::DatasourceController& datasources)
@@ -38,6 +58,7 @@ SavedLabel snapshot(const Canvas& canvas, const datasources::DatasourceControlle
     SavedLabel label{canvas.page(), datasources.values(), {}};
     for (const CanvasItem* item : canvas.items())
         label.items << item->values();
+    renumberZ(label.items);
     return label;
 }
 
@@ -58,14 +79,16 @@ bool restore(const SavedLabel& label, Canvas& canvas,
 }
 
 QString saveLabel(const QString& path, const Canvas& canvas,
-                  const datasources::DatasourceController& datasources, Origin origin)
+                  const datasources::DatasourceController& datasources, Origin origin,
+                  const Heartbeat& heartbeat)
 {
     const SavedLabel label = snapshot(canvas, datasources);
     if (label.items.size() > limits::Items || label.datasources.size() > limits::Items)
         return cannotSave(path, Words::tr("it has more than %1 items").arg(limits::Items));
     if (pixelsOf(label) > limits::AllPicturePixels)
         return cannotSave(path, Words::tr("its pictures are too large"));
-    const QByteArray bytes = toJson(label, origin);
+    const QByteArray bytes = toJson(label, origin, heartbeat);
+    heartbeat();
     if (bytes.size() > limits::FileBytes)
         return cannotSave(path, Words::tr("its pictures are too large"));
     QSaveFile file(path);

@@ -7,7 +7,7 @@
 
 namespace workbench::document {
 
-/// All of a canvas and its data sources.
+/// All of a canvas and its data sources. The z values are numbered from 0 in their order.
 [[nodiscard]] SavedLabel snapshot(const Canvas& canvas,
                                   const datasources::DatasourceController& datasources);
 
@@ -17,11 +17,12 @@ namespace workbench::document {
 [[nodiscard]] bool restore(const SavedLabel& label, Canvas& canvas,
                            datasources::DatasourceController& datasources);
 
-/// Saves a label. The file is there whole or as it was before, whatever happens meanwhile.
+/// Saves a label. The file is replaced completely or not at all.
 /// @return why it could not be saved, in a sentence for a person; empty when it was
 [[nodiscard]] QString saveLabel(const QString& path, const Canvas& canvas,
                                 const datasources::DatasourceController& datasources,
-                                Origin origin = Origin::Person);
+                                Origin origin = Origin::Person,
+                                const Heartbeat& heartbeat = [] {});
 
 /// Whether a file is a label that an import saved and that is unchanged since.
 [[nodiscard]] bool isUneditedImport(const QString& path);

@@ -2,7 +2,7 @@
 
 #include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
-#include "workbench/document/file_bounds.h"
+#include "workbench/document/picture_pixels.h"
 #include "workbench/document/label_fields.h"
 
 #include <QCoreApplication>
@@ -64,14 +64,16 @@ constexpr QLatin1String FormatName("labelport-label");
 
 } // namespace
 
-QByteArray toJson(const SavedLabel& label, Origin origin)
+QByteArray toJson(const SavedLabel& label, Origin origin, const Heartbeat& heartbeat)
 {
     fields::FieldWriter writer;
     describe(writer, label);
     const QJsonObject content = writer.object();
+    const QString checksum = checksumOf(content);
+    heartbeat();
     QJsonObject file{{FormatKey, FormatName},
                            {VersionKey, FormatVersion},
-                           {ChecksumKey, checksumOf(content)},
+                           {ChecksumKey, checksum},
                            {LabelKey, content}};
     if (origin == Origin::Import) {
         file.insert(OriginKey, ImportOrigin);
@@ -81,7 +83,7 @@ QByteArray toJson(const SavedLabel& label, Origin origin)
 
 bool isUneditedImport(const QByteArray& bytes)
 {
-    if (jsonbounds::isLargerThan(bytes, limits::TreeBytes)) {
+    if (jsonlimits::isLargerThan(bytes, limits::TreeBytes)) {
         return false;
     }
     const QJsonObject file = QJsonDocument::fromJson(bytes).object();
@@ -91,7 +93,7 @@ bool isUneditedImport(const QByteArray& bytes)
 
 ReadLabel fromJson(const QByteArray& bytes)
 {
-    if (jsonbounds::isLargerThan(bytes, limits::TreeBytes))
+    if (jsonlimits::isLargerThan(bytes, limits::TreeBytes))
         return refusal(Words::tr("The label file is damaged: it holds more than any label."));
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);

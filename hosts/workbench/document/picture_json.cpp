@@ -1,7 +1,9 @@
 #include "workbench/document/json_values.h"
 
-#include "limits/image/bounded_picture.h"
+#include "limits/image/png_chunks.h"
+#include "limits/image/safe_picture.h"
 #include "workbench/document/document_limits.h"
+#include "workbench/pictures/png_encoder.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -24,8 +26,8 @@ struct PixelKind
 {
     QStringView name;
     QImage::Format format;
-    /// PNG knows no colors that are multiplied by their alpha. They are written as if they
-    /// were not, because a conversion there and back would change them.
+    /// PNG has no colors multiplied by their alpha. They are written as if they were not
+    /// multiplied, because converting them there and back would change them.
     QImage::Format written;
 };
 
@@ -55,21 +57,23 @@ constexpr std::array<PixelKind, 3> PixelKinds{{
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    return image.save(&buffer, "png") ? bytes : QByteArray();
+    return encodePng(image, buffer) ? bytes : QByteArray();
 }
 
 [[nodiscard]] QImage fromPng(const QByteArray& stored)
 {
-    QByteArray bytes = imagebounds::boundedPicture(stored);
+    // The header that claimedPixels() has counted. Qt's own limit is as high, at four bytes per
+    // pixel, but a program may have changed it.
+    const auto header = imagelimits::pngHeader(stored);
+    if (!header || header->width > limits::PictureSide || header->height > limits::PictureSide ||
+        header->pixels() > limits::PicturePixels) {
+        return {};
+    }
+    QByteArray bytes = imagelimits::safePicture(stored);
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, "png");
     reader.setAutoDetectImageFormat(false);
-    // Its own limit is as high, at four bytes a pixel, but a program may have changed it.
-    const QSize size = reader.size();
-    const bool fits = size.width() > 0 && size.height() > 0 &&
-                      size.width() <= limits::PictureSide && size.height() <= limits::PictureSide &&
-                      qint64{size.width()} * size.height() <= limits::PicturePixels;
-    return fits ? reader.read() : QImage();
+    return reader.read();
 }
 
 } // namespace

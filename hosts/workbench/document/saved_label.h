@@ -6,8 +6,13 @@
 
 #include <QList>
 
+#include <functional>
+
 /// The saved format of labels, as docs/label-format.md describes it.
 namespace workbench::document {
+
+/// Called after each step of a task that may take long, a picture for example.
+using Heartbeat = std::function<void()>;
 
 /// A whole label as plain values: all that a saved file holds.
 struct SavedLabel

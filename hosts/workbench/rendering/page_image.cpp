@@ -1,8 +1,8 @@
 #include "workbench/rendering/page_image.h"
 
 #include "workbench/canvas/canvas.h"
+#include "workbench/pictures/png_encoder.h"
 #include "workbench/rendering/page_painter.h"
-#include "workbench/rendering/png_encoder.h"
 #include "workbench/rendering/whole_file.h"
 
 #include <QCoreApplication>

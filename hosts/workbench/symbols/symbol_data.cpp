@@ -1,8 +1,8 @@
 #include "workbench/symbols/symbol_data.h"
 
-#include "workbench/symbols/svg_length.h"
-#include "workbench/symbols/svg_limits.h"
-#include "workbench/symbols/svg_sanitizer.h"
+#include "limits/svg/svg_limits.h"
+#include "limits/svg/svg_sanitizer.h"
+#include "limits/svg/svg_values.h"
 
 #include <QRectF>
 #include <QRegularExpression>
@@ -14,6 +14,12 @@
 #include <cmath>
 
 namespace workbench::symbols {
+
+using svglimits::parseSvgLength;
+using svglimits::PointsPerUserUnit;
+using svglimits::SafeSvg;
+using svglimits::SvgLength;
+using svglimits::SvgRoot;
 
 namespace {
 
@@ -40,7 +46,7 @@ struct Frame
     for (int i = 0; i < 4; ++i) {
         bool ok = false;
         values[i] = parts[i].toDouble(&ok);
-        if (!ok || !(std::abs(values[i]) <= limits::Coordinate))
+        if (!ok || !(std::abs(values[i]) <= svglimits::Coordinate))
             return std::nullopt;
     }
     if (values[2] <= 0.0 || values[3] <= 0.0)
@@ -121,8 +127,8 @@ struct Frame
 
 [[nodiscard]] bool isSymbolSize(const QSizeF& points)
 {
-    return points.width() > 0.0 && points.height() > 0.0 && points.width() <= limits::SymbolSide &&
-           points.height() <= limits::SymbolSide;
+    return points.width() > 0.0 && points.height() > 0.0 && points.width() <= MaximumSymbolSide &&
+           points.height() <= MaximumSymbolSide;
 }
 
 [[nodiscard]] QString sizeAttributes(const QSizeF& points, const QRectF& box)
@@ -137,7 +143,7 @@ struct Frame
 
 std::optional<QByteArray> makeSymbolData(const QByteArray& svg, const QSizeF& target)
 {
-    const std::optional<SafeSvg> safe = sanitizeSvg(svg);
+    const std::optional<SafeSvg> safe = svglimits::sanitizeSvg(svg);
     if (!safe)
         return std::nullopt;
     const std::optional<QRectF> box = parseViewBox(safe->root.viewBox);

@@ -14,6 +14,9 @@
 /// same symbol.
 namespace workbench::symbols {
 
+/// Largest width or height of a symbol, in points.
+inline constexpr double MaximumSymbolSide = 100'000.0;
+
 /// Makes symbol data of an SVG document.
 ///
 /// @param target size in points; one without width or height keeps the document's own size

@@ -1,6 +1,6 @@
 #include "workbench/symbols/symbol_database.h"
 
-#include "workbench/symbols/svg_limits.h"
+#include "limits/svg/svg_limits.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -101,7 +101,7 @@ QByteArray SymbolDatabase::svg(const QString& name)
     query.setForwardOnly(true);
     query.prepare(SymbolQuery);
     query.addBindValue(name);
-    query.addBindValue(static_cast<qint64>(limits::DocumentBytes));
+    query.addBindValue(static_cast<qint64>(svglimits::DocumentBytes));
     if (!query.exec()) {
         fail(query.lastError().databaseText());
         return {};

@@ -4,18 +4,18 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
-namespace imagebounds {
+namespace imagelimits {
 
 namespace {
 
 constexpr qsizetype LengthSize = 4;
 constexpr qsizetype TypeSize = 4;
-constexpr qsizetype ChecksumSize = 4;
-constexpr QByteArrayView EndType("IEND");
+constexpr QByteArrayView HeaderType("IHDR");
 
-constexpr std::array<QByteArrayView, 7> KeptTypes{"IHDR", "PLTE", "tRNS", "gAMA",
-                                                  "pHYs", "IDAT", "IEND"};
+constexpr std::array<QByteArrayView, 7> PixelTypes{HeaderType, "PLTE", "tRNS",    "gAMA",
+                                                   "pHYs",     "IDAT", PngEndType};
 constexpr std::array<QByteArrayView, 2> PackedTextTypes{"zTXt", "iTXt"};
 
 template <std::size_t count>
@@ -24,19 +24,51 @@ bool isOneOf(const std::array<QByteArrayView, count>& types, QByteArrayView type
     return std::find(types.begin(), types.end(), type) != types.end();
 }
 
+// Samples of a pixel; 0 for an unknown color type.
+int channelsOf(quint8 colorType)
+{
+    constexpr std::array<int, 7> channels{1, 0, 3, 1, 2, 0, 4};
+    return colorType < channels.size() ? channels[colorType] : 0;
+}
+
 } // namespace
 
 bool PngChunks::next()
 {
-    constexpr qsizetype headSize = LengthSize + TypeSize;
-    if (m_chunk.type == EndType || m_rest.size() < headSize) {
+    if (m_chunk.type == PngEndType || m_rest.size() < PngChunkHeadSize) {
         return false;
     }
     const qint64 length = qFromBigEndian<quint32>(m_rest.data());
-    const qint64 size = std::min<qint64>(headSize + length + ChecksumSize, m_rest.size());
-    m_chunk = {m_rest.sliced(LengthSize, TypeSize), m_rest.first(size)};
+    const qint64 claimed = PngChunkHeadSize + length + PngChecksumSize;
+    const qint64 size = std::min<qint64>(claimed, m_rest.size());
+    m_chunk = {m_rest.sliced(LengthSize, TypeSize), m_rest.first(size), size == claimed};
     m_rest = m_rest.sliced(size);
     return true;
+}
+
+qint64 PngHeader::pixels() const
+{
+    constexpr qint64 largest = std::numeric_limits<qint64>::max();
+    return height > 0 && width > largest / height ? largest : width * height;
+}
+
+std::optional<PngHeader> pngHeader(QByteArrayView png)
+{
+    const qsizetype typeAt = PngSignature.size() + LengthSize;
+    if (png.size() < PngHeaderEnd || !png.startsWith(PngSignature) ||
+        png.sliced(typeAt, TypeSize) != HeaderType) {
+        return std::nullopt;
+    }
+    const char* data = png.data() + typeAt + TypeSize;
+    const auto depth = static_cast<quint8>(data[8]);
+    const auto colorType = static_cast<quint8>(data[9]);
+    return PngHeader{qFromBigEndian<quint32>(data), qFromBigEndian<quint32>(data + 4),
+                     depth * channelsOf(colorType)};
+}
+
+bool isPixelChunk(QByteArrayView type)
+{
+    return isOneOf(PixelTypes, type);
 }
 
 QByteArray pixelsOnly(const QByteArray& png)
@@ -45,8 +77,8 @@ QByteArray pixelsOnly(const QByteArray& png)
     kept.reserve(png.size());
     PngChunks chunks(QByteArrayView(png).sliced(PngSignature.size()));
     while (chunks.next()) {
-        if (isOneOf(KeptTypes, chunks.chunk().type)) {
-            kept.append(chunks.chunk().whole);
+        if (isPixelChunk(chunks.chunk().type)) {
+            kept.append(chunks.chunk().bytes);
         }
     }
     return kept;
@@ -62,4 +94,4 @@ int packedTextsIn(QByteArrayView png)
     return count;
 }
 
-} // namespace imagebounds
+} // namespace imagelimits

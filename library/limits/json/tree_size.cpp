@@ -1,64 +1,64 @@
 #include "limits/json/tree_size.h"
 
-namespace jsonbounds {
+namespace jsonlimits {
 
 namespace {
 
-// Measured with Qt 6.4, what a growing list holds in reserve included.
-constexpr qint64 kValue = 32;
-constexpr qint64 kList = 184; ///< a list or an object that is not empty
-constexpr qint64 kText = 16;  ///< beside its letters
-// Letters are kept in one block that doubles, two bytes each where one of them is foreign.
-constexpr qint64 kLetter = 2;
-// No byte stands for more.
-constexpr qint64 kWorstByte = kList + kValue + kLetter;
+// Measured with Qt 6.4, including the reserve of a growing list.
+constexpr qint64 ValueBytes = 32;
+constexpr qint64 ListBytes = 184; ///< a list or an object that is not empty
+constexpr qint64 TextBytes = 16;  ///< in addition to its characters
+// Characters are kept in one block that doubles; two bytes each if one of them is not Latin-1.
+constexpr qint64 CharacterBytes = 2;
+// The most that one byte can add.
+constexpr qint64 WorstBytes = ListBytes + ValueBytes + CharacterBytes;
 
-bool isSpace(char letter)
+bool isSpace(char character)
 {
-    return letter == ' ' || letter == '\n' || letter == '\r' || letter == '\t';
+    return character == ' ' || character == '\n' || character == '\r' || character == '\t';
 }
 
-/// Adds up what the letters of a text stand for.
+/// Adds up the memory for the characters of a text.
 class Estimate
 {
 public:
     [[nodiscard]] qint64 bytes() const { return m_bytes; }
-    void take(char letter);
+    void take(char character);
 
 private:
-    void takeOutside(char letter);
+    void takeOutside(char character);
 
-    qint64 m_bytes = kValue;
+    qint64 m_bytes = ValueBytes;
     bool m_inText = false;
     bool m_isEscaped = false;
-    bool m_isOpening = false; ///< behind a bracket: an empty list takes no block
+    bool m_isOpening = false; ///< after an opening bracket: an empty list takes no block
 };
 
-void Estimate::take(char letter)
+void Estimate::take(char character)
 {
     if (!m_inText) {
-        takeOutside(letter);
+        takeOutside(character);
     } else if (m_isEscaped) {
         m_isEscaped = false;
-    } else if (letter == '\\') {
+    } else if (character == '\\') {
         m_isEscaped = true;
-    } else if (letter == '"') {
+    } else if (character == '"') {
         m_inText = false;
     }
 }
 
-void Estimate::takeOutside(char letter)
+void Estimate::takeOutside(char character)
 {
-    if (isSpace(letter)) {
+    if (isSpace(character)) {
         return;
     }
-    const bool isClosing = letter == ']' || letter == '}';
-    m_bytes += m_isOpening && !isClosing ? kList + kValue : 0;
-    m_isOpening = letter == '[' || letter == '{';
-    m_bytes += letter == ',' ? kValue : 0;
-    if (letter == '"') {
+    const bool isClosing = character == ']' || character == '}';
+    m_bytes += m_isOpening && !isClosing ? ListBytes + ValueBytes : 0;
+    m_isOpening = character == '[' || character == '{';
+    m_bytes += character == ',' ? ValueBytes : 0;
+    if (character == '"') {
         m_inText = true;
-        m_bytes += kText;
+        m_bytes += TextBytes;
     }
 }
 
@@ -66,18 +66,18 @@ void Estimate::takeOutside(char letter)
 
 qint64 treeBytes(const QByteArray& json, qint64 enough)
 {
-    if (json.size() < enough / kWorstByte) {
-        return json.size() * kWorstByte;
+    if (json.size() < enough / WorstBytes) {
+        return json.size() * WorstBytes;
     }
-    const qint64 letters = json.size() * kLetter;
+    const qint64 characters = json.size() * CharacterBytes;
     Estimate estimate;
-    for (const char letter : json) {
-        estimate.take(letter);
-        if (estimate.bytes() + letters > enough) {
+    for (const char character : json) {
+        estimate.take(character);
+        if (estimate.bytes() + characters > enough) {
             break;
         }
     }
-    return estimate.bytes() + letters;
+    return estimate.bytes() + characters;
 }
 
-} // namespace jsonbounds
+} // namespace jsonlimits

@@ -2,25 +2,24 @@
 
 #include <QByteArray>
 
-/// What a JSON text becomes in memory, found out before any parser sees it.
+/// Estimates the memory that a JSON text takes once it is parsed, before a parser sees it.
 ///
-/// A parser keeps every value as a node and every list as a block of its own: four bytes of
-/// a file become two hundred, and lists within lists more.
-namespace jsonbounds {
+/// A parser keeps every value as a node and every list as a separate block: four bytes of a file
+/// become two hundred, and more in nested lists.
+namespace jsonlimits {
 
-/// About the bytes of the tree that Qt's parser makes of a text; of a text that is no JSON,
-/// what would be there before the parser notices.
+/// The approximate bytes of the tree that Qt's parser makes of a text; for a text that is not
+/// JSON, of the tree at the point where the parser stops.
 ///
-/// Texts too short to come near `enough` are not looked through: for them it is the most that
-/// so many bytes can become.
+/// Texts too short to reach `enough` are not scanned: the result is then their worst case.
 ///
-/// @param enough where counting may end: what is over it is over it, by however much
+/// @param enough counting may stop at this value
 [[nodiscard]] qint64 treeBytes(const QByteArray& json, qint64 enough);
 
-/// Whether the tree would take more than so many bytes.
+/// Whether the tree would take more bytes than this.
 [[nodiscard]] inline bool isLargerThan(const QByteArray& json, qint64 bytes)
 {
     return treeBytes(json, bytes) > bytes;
 }
 
-} // namespace jsonbounds
+} // namespace jsonlimits

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "limits/xml/bounded_document.h"
+#include "limits/xml/xml_limits.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-namespace xmlbounds {
+namespace xmllimits {
 
 class Element;
 class ElementTree;
@@ -137,4 +137,4 @@ private:
     QString m_characters;
 };
 
-} // namespace xmlbounds
+} // namespace xmllimits

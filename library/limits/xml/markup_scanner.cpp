@@ -1,18 +1,16 @@
 #include "limits/xml/markup_scanner.h"
 
-#include "limits/xml/bounded_document.h"
-
 #include <QByteArrayView>
 
 #include <algorithm>
 #include <array>
 
-namespace xmlbounds {
+namespace xmllimits {
 
 namespace {
 
-// The parser's own limit to what one entity expands to, in characters, and the most
-// elements that fit in there.
+// The parser's own limit for the expansion of one entity, in characters, and the most
+// elements that fit into it.
 constexpr qint64 EntityCharacters = 4096;
 constexpr qint64 EntityElements = EntityCharacters / 4;
 // The shortest declaration of an attribute's default value.
@@ -30,7 +28,7 @@ bool isPredefinedReference(QByteArrayView text)
                        [text](const char* name) { return text.startsWith(name); });
 }
 
-/// One walk over the bytes of a document.
+/// One scan of a document's bytes.
 class Scanner
 {
 public:
@@ -45,7 +43,7 @@ public:
 private:
     [[nodiscard]] bool at(const char* start) const { return m_text.sliced(m_at).startsWith(start); }
     [[nodiscard]] bool isAtEnd() const { return m_at >= m_text.size(); }
-    qsizetype moveBehind(const char* end, qsizetype from);
+    qsizetype moveAfter(const char* end, qsizetype from);
     void readText();
     void readMarkup();
     void readDeclaration();
@@ -57,7 +55,7 @@ private:
     void countReferences(QByteArrayView text);
     void countElement(qint64 attributes);
     void countNode(qint64 characters);
-    void check(bool exceeded, const char* message, qint64 bound);
+    void check(bool exceeded, const char* message, qint64 limit);
 
     QByteArrayView m_text;
     qint64 m_treeBytes;
@@ -88,15 +86,15 @@ std::optional<Excess> Scanner::run()
     return m_excess;
 }
 
-void Scanner::check(bool exceeded, const char* message, qint64 bound)
+void Scanner::check(bool exceeded, const char* message, qint64 limit)
 {
     if (exceeded && !m_excess) {
-        m_excess = Excess{QString::fromLatin1(message).arg(bound), m_markupStart};
+        m_excess = Excess{QString::fromLatin1(message).arg(limit), m_markupStart};
     }
 }
 
-// Moves behind the next `end`; to the end of the text where there is none.
-qsizetype Scanner::moveBehind(const char* end, qsizetype from)
+// Moves after the next `end`, or to the end of the text if there is none.
+qsizetype Scanner::moveAfter(const char* end, qsizetype from)
 {
     const QByteArrayView wanted(end);
     const qsizetype found = from <= m_text.size() ? m_text.indexOf(wanted, from) : -1;
@@ -110,25 +108,25 @@ void Scanner::readText()
     const qsizetype markup = m_text.indexOf('<', start);
     m_at = markup < 0 ? m_text.size() : markup;
     const QByteArrayView text = m_text.sliced(start, m_at - start);
-    // White space between elements does not come into the tree.
+    // The tree leaves out white space between elements.
     if (!std::all_of(text.begin(), text.end(), isBlank)) {
         countNode(text.size());
     }
     countReferences(text);
 }
 
-// Most markup is tags, so what is rare is told apart last.
+// Most markup is tags: the rare kinds are tested last.
 void Scanner::readMarkup()
 {
     m_markupStart = m_at;
     const char kind = m_at + 1 < m_text.size() ? m_text[m_at + 1] : '\0';
     if (kind == '/') {
-        moveBehind(">", m_at + 2);
+        moveAfter(">", m_at + 2);
         --m_depth;
     } else if (kind == '!') {
         readDeclaration();
     } else if (kind == '?') {
-        countNode(moveBehind("?>", m_at + 2) - m_markupStart);
+        countNode(moveAfter("?>", m_at + 2) - m_markupStart);
     } else {
         readStartTag();
     }
@@ -137,9 +135,9 @@ void Scanner::readMarkup()
 void Scanner::readDeclaration()
 {
     if (at("<!--")) {
-        countNode(moveBehind("-->", m_at + 4) - m_markupStart);
+        countNode(moveAfter("-->", m_at + 4) - m_markupStart);
     } else if (at("<![CDATA[")) {
-        countNode(moveBehind("]]>", m_at + 9) - m_markupStart);
+        countNode(moveAfter("]]>", m_at + 9) - m_markupStart);
     } else {
         readDoctype();
     }
@@ -155,7 +153,7 @@ qsizetype Scanner::skipQuoted()
 {
     const char quote[] = {m_text[m_at], '\0'};
     const qsizetype start = m_at + 1;
-    return std::max<qsizetype>(0, moveBehind(quote, start) - 1 - start);
+    return std::max<qsizetype>(0, moveAfter(quote, start) - 1 - start);
 }
 
 void Scanner::readStartTag()
@@ -224,9 +222,9 @@ void Scanner::readSubsetPart(QByteArrayView& quoted)
 {
     const char c = m_text[m_at];
     if (at("<!--")) {
-        moveBehind("-->", m_at + 4);
+        moveAfter("-->", m_at + 4);
     } else if (at("<?")) {
-        moveBehind("?>", m_at + 2);
+        moveAfter("?>", m_at + 2);
     } else if (c == '"' || c == '\'') {
         const qsizetype start = std::min(m_at + 1, m_text.size());
         quoted = m_text.sliced(start, skipQuoted());
@@ -261,7 +259,7 @@ void Scanner::readDoctype()
             mayDefault ? std::min(m_treeBytes, expanded / AttributeDefaultCharacters) : 0;
         m_estimate += expanded * m_costs.character;
     }
-    moveBehind(">", m_at);
+    moveAfter(">", m_at);
 }
 
 } // namespace
@@ -271,15 +269,15 @@ std::optional<Excess> findExcess(const QByteArray& utf8, qint64 treeBytes, const
     return Scanner(utf8, treeBytes, costs).run();
 }
 
-Place placeOf(const QByteArray& utf8, qsizetype offset)
+Position positionOf(const QByteArray& utf8, qsizetype offset)
 {
     const QByteArrayView before = QByteArrayView(utf8).first(std::min(offset, utf8.size()));
-    Place place;
-    place.line += before.count('\n');
+    Position position;
+    position.line += before.count('\n');
     const QByteArrayView line = before.sliced(before.lastIndexOf('\n') + 1);
-    place.column += std::count_if(line.begin(), line.end(),
+    position.column += std::count_if(line.begin(), line.end(),
                                   [](char c) { return (static_cast<uchar>(c) & 0xC0U) != 0x80U; });
-    return place;
+    return position;
 }
 
-} // namespace xmlbounds
+} // namespace xmllimits

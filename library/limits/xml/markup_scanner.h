@@ -5,16 +5,24 @@
 
 #include <optional>
 
-namespace xmlbounds {
+namespace xmllimits {
 
-/// A bound that a document exceeds, and where.
+/// Deepest nesting of elements. Qt's tree takes quadratic time in the depth: 300,000 nested
+/// elements keep it busy for minutes. Real labels have fewer than 30 levels.
+inline constexpr int MaximumDepth = 1000;
+
+/// Most attributes of one element. The parser compares every attribute of an element with all
+/// before it. Real elements have fewer than 40.
+inline constexpr int MaximumAttributes = 1000;
+
+/// A limit that a document exceeds, and where.
 struct Excess
 {
     QString message;
     qsizetype offset = 0; ///< in bytes
 };
 
-/// What the parts of a tree take, in bytes, by the worst that each can be.
+/// Memory of the parts of a tree in bytes, for the worst case of each.
 struct TreeCosts
 {
     qint64 node;           ///< an element, a text, a comment, an instruction
@@ -25,22 +33,22 @@ struct TreeCosts
 
 /// QDomDocument in Qt 6.4, measured.
 inline constexpr TreeCosts DomCosts{320, 1500, 500, 2};
-/// ElementTree: a record in a table that doubles when it is full, and a name that is like
-/// no other; characters in such a table.
+/// ElementTree: a record in a table that doubles when it is full, and a name that occurs only
+/// once; characters in such a table.
 inline constexpr TreeCosts CompactCosts{180, 0, 170, 6};
 
-/// A place in a text: the line from 1, the column from 0, as Qt's parser counts them.
-struct Place
+/// A position in a text: the line from 1, the column from 0, as Qt's parser counts them.
+struct Position
 {
     qint64 line = 1;
     qint64 column = 0;
 };
 
-/// Goes through a document once, without building anything, and gives the first bound
-/// that it exceeds: depth, attributes of one element, or memory of the whole tree.
+/// Scans a document once, without building anything, and returns the first limit that it
+/// exceeds: depth, attributes of one element, or memory of the complete tree.
 ///
-/// Exact for everything that precedes a document's first fault, where a parser stops;
-/// what follows a fault may be counted wrongly.
+/// Exact up to the document's first error, where a parser stops; markup after an error may be
+/// counted wrongly.
 ///
 /// @param utf8      the document
 /// @param treeBytes the memory that its tree may take
@@ -48,7 +56,7 @@ struct Place
 [[nodiscard]] std::optional<Excess> findExcess(const QByteArray& utf8, qint64 treeBytes,
                                                const TreeCosts& costs = DomCosts);
 
-/// The place of an offset in a text.
-[[nodiscard]] Place placeOf(const QByteArray& utf8, qsizetype offset);
+/// The position of a byte offset in a text.
+[[nodiscard]] Position positionOf(const QByteArray& utf8, qsizetype offset);
 
-} // namespace xmlbounds
+} // namespace xmllimits

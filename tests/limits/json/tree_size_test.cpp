@@ -9,7 +9,7 @@
 
 #include <malloc.h>
 
-using jsonbounds::treeBytes;
+using jsonlimits::treeBytes;
 
 namespace {
 
@@ -78,8 +78,8 @@ TEST(JsonTreeSize, IsJustReachedOrPassed)
          {QByteArray("[[[0,1]],{\"a\":[\"b\"]}]"), QByteArray("[[[[").repeated(50),
           QByteArray("0,").repeated(999)}) {
         SCOPED_TRACE(json.left(20).toStdString());
-        EXPECT_FALSE(jsonbounds::isLargerThan(json, countedOf(json)));
-        EXPECT_TRUE(jsonbounds::isLargerThan(json, countedOf(json) - 1));
+        EXPECT_FALSE(jsonlimits::isLargerThan(json, countedOf(json)));
+        EXPECT_TRUE(jsonlimits::isLargerThan(json, countedOf(json) - 1));
     }
 }
 

@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using xmlbounds::Element;
-using xmlbounds::ElementTree;
-using xmlbounds::Node;
+using xmllimits::Element;
+using xmllimits::ElementTree;
+using xmllimits::Node;
 
 namespace {
 
@@ -171,7 +171,7 @@ TEST_F(ElementTreeTest, HoldsTheBoundsOfAllDocuments)
     EXPECT_EQ(deep->column, 3000);
 
     QByteArray wide = "<a";
-    for (int i = 0; i <= xmlbounds::MaximumAttributes; ++i) {
+    for (int i = 0; i <= xmllimits::MaximumAttributes; ++i) {
         wide += " b" + QByteArray::number(i) + "='x'";
     }
     const auto tooWide = tree.parse(wide + "/>");

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-using xmlbounds::ElementTree;
+using xmllimits::ElementTree;
 
 namespace {
 
@@ -91,7 +91,7 @@ Outcome outcomeOfTree(const QByteArray& xml)
         return {QString(), failure->message, failure->line, failure->column};
     }
     Outcome outcome;
-    describe(xmlbounds::Node(tree.documentElement()), outcome.contents);
+    describe(xmllimits::Node(tree.documentElement()), outcome.contents);
     return outcome;
 }
 

@@ -1,5 +1,7 @@
 #include "migration/census/byte_cursor.h"
 
+#include "limits/image/png_chunks.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -9,9 +11,6 @@ namespace migration {
 namespace {
 
 constexpr quint32 kNoLength = 0xFFFFFFFF;
-constexpr qint64 kSignature = 8;
-// Length, type and checksum of a PNG's chunk.
-constexpr qint64 kChunkFrame = 12;
 
 } // namespace
 
@@ -60,7 +59,7 @@ bool ByteCursor::skipPicture()
         return false;
     }
     m_isCut = m_isCut || atEnd();
-    if (m_bytes.mid(m_at, kSignature) == QByteArray("\x89PNG\r\n\x1a\n", kSignature)) {
+    if (QByteArrayView(m_bytes).sliced(m_at).startsWith(imagelimits::PngSignature)) {
         skipPng();
     }
     return true;
@@ -68,16 +67,16 @@ bool ByteCursor::skipPicture()
 
 void ByteCursor::skipPng()
 {
-    skip(kSignature);
-    while (!atEnd()) {
-        const bool isLast = m_bytes.mid(m_at + 4, 4) == "IEND";
-        const auto length = static_cast<quint32>(takeNumber());
-        skip(kChunkFrame - 4 + length);
-        if (isLast) {
-            return;
-        }
+    skip(imagelimits::PngSignature.size());
+    imagelimits::PngChunks chunks(QByteArrayView(m_bytes).sliced(m_at));
+    bool isComplete = false;
+    while (chunks.next()) {
+        skip(chunks.chunk().bytes.size());
+        isComplete = chunks.chunk().isComplete && chunks.chunk().type == imagelimits::PngEndType;
     }
-    m_isCut = true;
+    if (!isComplete) {
+        skip(left() + 1);
+    }
 }
 
 } // namespace migration

@@ -1,13 +1,13 @@
 // The objects of an OpenDocument package: those of its body, and those of its styles' master
 // page, behind the page.
 
+#include "limits/zip/zip_directory.h"
 #include "migration/census/counting.h"
 #include "migration/census/open_document_names.h"
 #include "migration/census/open_document_styles.h"
 #include "migration/census/open_document_styles_reader.h"
 #include "migration/census/open_document_walker.h"
 #include "migration/census/xml_gate.h"
-#include "migration/census/zip_member.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -179,8 +179,11 @@ QString missing(const char* name)
 Census countOpenDocument(const QByteArray& file)
 {
     Census census;
-    const auto stylesXml = zipMember(file, "styles.xml", MaximumStyles);
-    const auto contentXml = zipMember(file, "content.xml", MaximumContent);
+    ziplimits::ZipDirectory package;
+    // A damaged package has no members.
+    (void)package.openBytes(file);
+    const auto stylesXml = package.read(QStringLiteral("styles.xml"), MaximumStyles);
+    const auto contentXml = package.read(QStringLiteral("content.xml"), MaximumContent);
     if (!stylesXml || !contentXml) {
         census.unknown = missing(!stylesXml ? "styles.xml" : "content.xml");
         return census;

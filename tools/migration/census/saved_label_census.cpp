@@ -15,7 +15,7 @@ Census countSavedLabel(const QByteArray& file)
 {
     using namespace Qt::StringLiterals;
     Census census;
-    if (jsonbounds::isLargerThan(file, MaximumSavedTree)) {
+    if (jsonlimits::isLargerThan(file, MaximumSavedTree)) {
         census.unknown = tooLargeToCount();
         return census;
     }

@@ -1,6 +1,6 @@
 #include "migration/census/xml_gate.h"
 
-#include "limits/xml/bounds_check.h"
+#include "limits/xml/xml_limits.h"
 
 #include <QCoreApplication>
 
@@ -12,7 +12,7 @@ QString whyNotCountable(const QByteArray& xml)
 {
     // Counting builds no tree, so only its depth and its attributes matter.
     constexpr qint64 anySize = std::numeric_limits<qint64>::max() / 2;
-    const auto excess = xmlbounds::exceededBound(xml, anySize, xmlbounds::CompactCosts);
+    const auto excess = xmllimits::exceededLimit(xml, anySize, xmllimits::CompactCosts);
     return excess ? notWellFormed(excess->message) : QString();
 }
 

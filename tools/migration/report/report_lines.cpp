@@ -36,7 +36,7 @@ QByteArray readReportLine(QIODevice& report)
     // One byte more than the limit; Qt keeps another for a terminating zero.
     const QByteArray line = report.readLine(MaximumLine + 2);
     const bool isTooLarge =
-        line.size() > MaximumLine || jsonbounds::isLargerThan(line, MaximumLineTree);
+        line.size() > MaximumLine || jsonlimits::isLargerThan(line, MaximumLineTree);
     return isTooLarge ? QByteArray() : line;
 }
 
