@@ -19,6 +19,7 @@ NO_LIMITS = {("library/orvanta/page_geometry.h", "PointsPerPixel"), ("library/or
              ("hosts/workbench/items/bounds.h", "kCoordinateNotGiven"),
              ("hosts/workbench/items/bounds.h", "kDefaultFontSize"),
              ("hosts/workbench/pictures/compact_image.cpp", "MostColors"),
+             ("hosts/workbench/rendering/svg_groups.cpp", "LargestNumber"),
              ("hosts/workbench/pictures/png_encoder.cpp", "MaximumKeyCharacters")}
 ROW = re.compile(r"^\| `(\w+)` \| `([\w/.]+)` \| `([^`]+)` \| (.+) \| `([\w.]+)` \|$")
 TEST = re.compile(r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\)", re.MULTILINE)
