@@ -57,7 +57,7 @@ constexpr std::array<PixelKind, 3> PixelKinds{{
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    return encodePng(image, buffer) ? bytes : QByteArray();
+    return workbench::encodePng(image, buffer) ? bytes : QByteArray();
 }
 
 [[nodiscard]] QImage fromPng(const QByteArray& stored)
