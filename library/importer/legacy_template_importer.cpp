@@ -142,7 +142,7 @@ void LegacyTemplateImporter::rememberFolderOf(const QString& fileName)
 bool LegacyTemplateImporter::isBusy(const char* function) const
 {
     if (m_isImporting) {
-        CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_template_importer.cpp", __LINE__,
+        CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_template_importer", __LINE__,
                           function, refusals::category(refusals::ImportRunning))
             .write("An import is asked for while another one runs; it is refused");
     }

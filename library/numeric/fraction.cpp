@@ -20,7 +20,7 @@ constexpr double TwoToThe64 = 18446744073709551616.0;
 
 void logDebug(int line, const char* function, const char* format, const QByteArray& text)
 {
-    CuteMessageLogger(loggerInstance(), Logger::Debug, "fraction.cpp", line, function)
+    CuteMessageLogger(loggerInstance(), Logger::Debug, "fraction", line, function)
         .write(format, text.constData());
 }
 

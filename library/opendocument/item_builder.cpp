@@ -104,7 +104,7 @@ NewItem<Wanted> makeItem(ClassFactory* factory, KestTypes::ShapeType type)
     made.owned = std::move(created);
     if (made.item == nullptr) {
         logDebug(
-            __LINE__, Q_FUNC_INFO,
+            "item_builder", __LINE__, Q_FUNC_INFO,
             u"The host gives no item of the class that belongs to type %1; it is left out"_s.arg(
                 int(type)),
             refusals::ItemRefused);
@@ -121,7 +121,7 @@ bool handOver(TalCanvasModel& canvas, std::unique_ptr<Item> item)
 {
     const bool isKept = building::handOver(canvas, std::move(item)) != nullptr;
     if (!isKept) {
-        logDebug(__LINE__, Q_FUNC_INFO,
+        logDebug("item_builder", __LINE__, Q_FUNC_INFO,
                  u"The host deleted an item when it got it; it is left out"_s,
                  refusals::ItemRefused);
     }

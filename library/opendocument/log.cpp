@@ -6,9 +6,10 @@
 
 namespace opendocument {
 
-void logDebug(int line, const char* function, const QString& message, const char* code)
+void logDebug(const char* source, int line, const char* function, const QString& message,
+              const char* code)
 {
-    CuteMessageLogger(loggerInstance(), Logger::Debug, "open_office_reader.cpp", line, function,
+    CuteMessageLogger(loggerInstance(), Logger::Debug, source, line, function,
                       refusals::category(code))
         .write("%s", message.toLocal8Bit().constData());
 }

@@ -4,11 +4,13 @@
 
 namespace opendocument {
 
-/// Writes one record of the OpenDocument reader at debug level, where all its messages go.
+/// Writes one record at debug level, the level of all messages of the OpenDocument reader.
 ///
-/// @param line     line of the place that writes
-/// @param function its full signature
+/// @param source   name of the calling source file, without folder and extension
+/// @param line     line of the call in that file
+/// @param function full signature of the calling function
 /// @param code     of messages/refusals.h; null for a message without one
-void logDebug(int line, const char* function, const QString& message, const char* code = nullptr);
+void logDebug(const char* source, int line, const char* function, const QString& message,
+              const char* code = nullptr);
 
 } // namespace opendocument

@@ -125,7 +125,8 @@ bool OpenOfficeReader::importSymbol(const QString& name, Geometry& geometry)
     }
     m_symbolCreator->loadImportedSvg(svg);
     if (!m_symbolCreator->convertSvgToSymbol(symbolTarget(geometry.size))) {
-        logDebug(__LINE__, Q_FUNC_INFO, u"The drawing %1 cannot be converted"_s.arg(name),
+        logDebug("open_office_frames", __LINE__, Q_FUNC_INFO,
+                 u"The drawing %1 cannot be converted"_s.arg(name),
                  refusals::PackageDrawingUnreadable);
         return false;
     }

@@ -16,7 +16,10 @@
 #include "messages/reader_messages.h"
 #include "messages/refusals.h"
 
+#include <Logger.h>
+
 #include <QApplication>
+#include <QDebug>
 #include <QFontInfo>
 
 #include <cmath>
@@ -46,6 +49,24 @@ QString parseFailureMessage(const QString& member, const xmllimits::ParseFailure
                              failure.message.toLocal8Bit().constData());
 }
 
+// Signatures by the names that the reader gives to the styles.
+constexpr char TextStyleDebug[] = "void OpenOfficeReader::OOTextStyle::debugContent()";
+constexpr char GraphicStyleDebug[] = "void OpenOfficeReader::OOGraphicStyle::debugContent() const";
+
+constexpr char WrapLegend[] =
+    "0 = none; 1 = left; 2 = right; 3 = parallel; 4 = run-through foreground; "
+    "5 = run-through background; 6 = dynamic foreground; 7 = dynamic background\n";
+
+CuteMessageLogger styleRecord(int line, const char* function)
+{
+    return {loggerInstance(), Logger::Debug, "open_office_reader", line, function};
+}
+
+QDebug operator<<(QDebug debug, const Margins& margins)
+{
+    return debug << margins.first << margins.second << margins.third << margins.fourth;
+}
+
 } // namespace
 
 OpenOfficeReader::OpenOfficeReader(TalCanvasModel* canvasModel,
@@ -63,12 +84,14 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
     openPackage(fileName);
     QByteArray stylesBytes = readDocument(StylesMember, limits::StylesBytes);
     if (stylesBytes.isEmpty()) {
-        logDebug(__LINE__, Q_FUNC_INFO, QString::fromLatin1(messages::StylesMissing));
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 QString::fromLatin1(messages::StylesMissing));
         return false;
     }
     QByteArray contentBytes = readDocument(ContentMember, limits::ContentBytes);
     if (contentBytes.isEmpty()) {
-        logDebug(__LINE__, Q_FUNC_INFO, QString::fromLatin1(messages::ContentMissing));
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 QString::fromLatin1(messages::ContentMissing));
         return false;
     }
     m_flowOffsetY = 0;
@@ -77,12 +100,14 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
     // leaves it untouched.
     xmllimits::ElementTree styles;
     if (const auto failure = styles.parse(stylesBytes, limits::StylesTreeBytes)) {
-        logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(StylesMember, *failure));
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 parseFailureMessage(StylesMember, *failure));
         return false;
     }
     xmllimits::ElementTree content;
     if (const auto failure = content.parse(contentBytes, limits::ContentTreeBytes)) {
-        logDebug(__LINE__, Q_FUNC_INFO, parseFailureMessage(ContentMember, *failure));
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 parseFailureMessage(ContentMember, *failure));
         return false;
     }
     stylesBytes.clear();
@@ -114,7 +139,8 @@ void OpenOfficeReader::openPackage(const QString& fileName)
     if (const auto refusal = m_zipDirectory.open(fileName)) {
         // Of what is no package at all, the missing document tells enough.
         if (m_zipDirectory.isPackage()) {
-            logDebug(__LINE__, Q_FUNC_INFO, *refusal, refusals::PackageUnreadable);
+            logDebug("open_office_reader", __LINE__, Q_FUNC_INFO, *refusal,
+                     refusals::PackageUnreadable);
         }
         return;
     }
@@ -133,7 +159,8 @@ QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)
         return {};
     }
     if (const auto refusal = m_zipDirectory.refusalOf(name, largest)) {
-        logDebug(__LINE__, Q_FUNC_INFO, *refusal, refusals::PackageMemberUnreadable);
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO, *refusal,
+                 refusals::PackageMemberUnreadable);
         return {};
     }
     return m_zipReader->fileData(name);
@@ -146,7 +173,7 @@ void OpenOfficeReader::forgetTooManyStyles()
     }
     m_textStyles.clear();
     m_graphicStyles.clear();
-    logDebug(__LINE__, Q_FUNC_INFO,
+    logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
              u"The styles of earlier files are forgotten: they take more than %1 bytes"_s.arg(
                  limits::CarriedStylesBytes));
 }
@@ -224,7 +251,8 @@ void OpenOfficeReader::readBody(const xmllimits::Element& body)
     } else if (document.tagName() == "office:drawing"_L1) {
         readDrawingBody(document);
     } else {
-        logDebug(__LINE__, ReadBody, QString::fromLatin1(messages::DocumentTypeUnsupported));
+        logDebug("open_office_reader", __LINE__, ReadBody,
+                 QString::fromLatin1(messages::DocumentTypeUnsupported));
     }
 }
 
@@ -274,4 +302,24 @@ void OpenOfficeReader::advanceFlow(double height)
     if (std::isfinite(m_flowOffsetY + height)) {
         m_flowOffsetY += height;
     }
+}
+
+void OOTextStyle::debugContent()
+{
+    styleRecord(__LINE__, TextStyleDebug).write()
+        << "font" << fontFamily << fontSize << bold << italic << underline //
+        << "paragraph" << alignment << auxValue                            //
+        << "\nmargins" << margins                                          //
+        << "textColor:" << textColor;
+}
+
+void OOGraphicStyle::debugContent() const
+{
+    styleRecord(__LINE__, GraphicStyleDebug).write()
+        << "alignment" << horizontalPos << verticalPos               //
+        << "\nanchorParagraph" << anchorParagraph                    //
+        << "margins" << margins                                      //
+        << "props" << mirrorHorizontal << mirrorVertical << rotation //
+        << "\nwrap" << wrap << WrapLegend                            //
+        << "pen" << static_cast<Qt::PenStyle>(penStyle) << penWidth << penColor;
 }

@@ -25,7 +25,7 @@ bool isTooLong(qsizetype length)
     if (length <= limits::TextCharacters) {
         return false;
     }
-    logDebug(__LINE__, Q_FUNC_INFO,
+    logDebug("open_office_text", __LINE__, Q_FUNC_INFO,
              u"A text of %1 characters is left out: it is longer than %2"_s.arg(length).arg(
                  limits::TextCharacters),
              refusals::TextTooLong);

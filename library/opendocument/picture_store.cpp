@@ -74,7 +74,7 @@ QPixmap PictureStore::decode(const QString& name)
     QPixmap pixmap;
     if (!isWithin(bytes, std::min(limits::PicturePixels, m_pixelsLeft)) ||
         !pixmap.loadFromData(bytes)) {
-        logDebug(__LINE__, Q_FUNC_INFO,
+        logDebug("picture_store", __LINE__, Q_FUNC_INFO,
                  u"The picture %1 cannot be decoded or is too large"_s.arg(name),
                  refusals::PackagePictureUnreadable);
         return {};

@@ -32,7 +32,7 @@ namespace {
 
 CuteMessageLogger debugLog(int line, const char* function, const char* code = nullptr)
 {
-    return CuteMessageLogger(loggerInstance(), Logger::Debug, "legacy_orvanta.cpp", line, function,
+    return CuteMessageLogger(loggerInstance(), Logger::Debug, "legacy_orvanta", line, function,
                              refusals::category(code));
 }
 

@@ -15,7 +15,7 @@ constexpr size_t InitialOffsetCapacity = 16;
 
 void logError(int line, const char* function, const char* format, const QString& text)
 {
-    CuteMessageLogger(loggerInstance(), Logger::Error, "csv_table_model.cpp", line, function)
+    CuteMessageLogger(loggerInstance(), Logger::Error, "csv_table_model", line, function)
         .write(format, text.toLocal8Bit().constData());
 }
 
@@ -82,8 +82,7 @@ QString CsvTableModel::cell(int line, int column)
 bool CsvTableModel::parseRow(int line)
 {
     if (line < 0 || line >= m_lineCount) {
-        CuteMessageLogger(loggerInstance(), Logger::Error, "csv_table_model.cpp", __LINE__,
-                          Q_FUNC_INFO)
+        CuteMessageLogger(loggerInstance(), Logger::Error, "csv_table_model", __LINE__, Q_FUNC_INFO)
             .write("Invalid row number (%d)", line);
         return false;
     }

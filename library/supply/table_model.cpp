@@ -102,7 +102,7 @@ bool TableModel::setFileName(const QString& name)
         m_fileName = name;
         m_headerNames = m_headerRows == 0 ? QStringList() : uniqueHeaderNames();
     } else {
-        CuteMessageLogger(loggerInstance(), Logger::Error, "table_model.cpp", __LINE__, Q_FUNC_INFO)
+        CuteMessageLogger(loggerInstance(), Logger::Error, "table_model", __LINE__, Q_FUNC_INFO)
                 .write()
             << "Could not open " << name;
     }

@@ -49,7 +49,7 @@ void setProperties(TalDatasource* datasource, std::initializer_list<Property> pr
 {
     if (datasource == nullptr) {
         // The item stays bound to the identifier that the host returned.
-        CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", __LINE__,
+        CuteMessageLogger(loggerInstance(), Logger::Error, "datasource_binder", __LINE__,
                           Q_FUNC_INFO, refusals::category(refusals::DatasourceRefused))
             .write("The host does not have the data source that it has just made");
         return;

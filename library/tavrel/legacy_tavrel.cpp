@@ -39,7 +39,7 @@ enum ItemTypeCode : qint32 {
 
 void logError(int line, const char* function, const QString& message, const char* code = nullptr)
 {
-    CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel.cpp", line, function,
+    CuteMessageLogger(loggerInstance(), Logger::Error, "legacy_tavrel", line, function,
                       refusals::category(code))
         .write("%s", message.toLocal8Bit().constData());
 }

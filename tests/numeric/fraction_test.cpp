@@ -61,7 +61,7 @@ TEST_P(FractionParsing, ReadsRatioOrDecimal)
     }
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_EQ(log.records()[0].level, Logger::Debug);
-    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction.cpp"));
+    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction"));
     EXPECT_EQ(log.records()[0].function, QLatin1String("Fraction::Fraction(const QString&)"));
     EXPECT_EQ(log.records()[0].message,
               u"string \"%1\" invalid"_s.arg(QString::fromUtf8(GetParam().text)));
@@ -207,7 +207,7 @@ TEST_P(FractionProduct, IsExactWhileItCanBe)
     }
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_EQ(log.records()[0].level, Logger::Debug);
-    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction.cpp"));
+    EXPECT_EQ(log.records()[0].source, QLatin1String("fraction"));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("Fraction Fraction::operator*(Fraction) const"));
     EXPECT_EQ(log.records()[0].message, u"newFraction = "_s + QLatin1String(GetParam().printed));
@@ -255,7 +255,7 @@ TEST(FractionProduct, LogsTheOverflowAndFallsBackToTheDecimal)
                                            u"newFraction = 1.84467e+19"_s}));
     for (const CapturedLog::Record& record : log.records()) {
         EXPECT_EQ(record.level, Logger::Debug);
-        EXPECT_EQ(record.source, QLatin1String("fraction.cpp"));
+        EXPECT_EQ(record.source, QLatin1String("fraction"));
         EXPECT_EQ(record.function, QLatin1String("Fraction Fraction::operator*(Fraction) const"));
     }
 }

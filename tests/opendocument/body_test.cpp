@@ -132,7 +132,7 @@ TEST_F(Body, OtherKindsOfDocumentAreToldAndStillCompleted)
         EXPECT_EQ(typesOf(content), QStringList());
         ASSERT_EQ(log.records().size(), 1);
         EXPECT_EQ(log.records().first().level, Logger::Debug);
-        EXPECT_EQ(log.records().first().source, u"open_office_reader.cpp"_s);
+        EXPECT_EQ(log.records().first().source, u"open_office_reader"_s);
         EXPECT_EQ(log.records().first().function,
                   u"void OpenOfficeReader::readBody(const QDomElement&)"_s);
         EXPECT_EQ(log.records().first().message, u"Unsupported document type."_s);

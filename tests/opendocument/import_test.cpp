@@ -51,7 +51,7 @@ void expectFailure(FakeHost& host, OpenOfficeReader& reader, const QString& path
     ASSERT_EQ(log.records().size(), 1) << log.messages().join(u'\n').toStdString();
     const auto& record = log.records().last();
     EXPECT_EQ(record.level, Logger::Debug);
-    EXPECT_EQ(record.source, u"open_office_reader.cpp"_s);
+    EXPECT_EQ(record.source, u"open_office_reader"_s);
     EXPECT_EQ(record.function, ImportSignature);
     EXPECT_EQ(record.message.toStdString(), message.toStdString());
 }

@@ -20,7 +20,7 @@ TEST(StyleDebug, TextStyleIsOneRecord)
     ASSERT_EQ(log.records().size(), 1);
     const auto& record = log.records().first();
     EXPECT_EQ(record.level, Logger::Debug);
-    EXPECT_EQ(record.source, u"open_office_reader.cpp"_s);
+    EXPECT_EQ(record.source, u"open_office_reader"_s);
     EXPECT_EQ(record.function, u"void OpenOfficeReader::OOTextStyle::debugContent()"_s);
     EXPECT_EQ(record.message.trimmed(),
               u"font \"_Nare Vol\" 12 false true false paragraph "

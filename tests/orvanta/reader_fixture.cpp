@@ -47,7 +47,7 @@ QString ReaderFixture::logText() const
     QStringList messages;
     for (const CapturedLog::Record& record : log.records()) {
         EXPECT_EQ(record.level, Logger::Debug);
-        EXPECT_EQ(record.source, QStringLiteral("legacy_orvanta.cpp"));
+        EXPECT_EQ(record.source, QStringLiteral("legacy_orvanta"));
         messages.append(record.message);
     }
     return messages.join(QLatin1Char('\n'));

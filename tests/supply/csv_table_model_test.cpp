@@ -144,7 +144,7 @@ TEST_F(CsvTableModelTest, RefusesLinesItDoesNotHave)
     }
     EXPECT_EQ(log.records().size(), 6);
     EXPECT_EQ(log.records()[0].level, Logger::Error);
-    EXPECT_EQ(log.records()[0].source, QLatin1String("csv_table_model.cpp"));
+    EXPECT_EQ(log.records()[0].source, QLatin1String("csv_table_model"));
     EXPECT_EQ(log.records()[0].function, QLatin1String("bool CsvTableModel::parseRow(int)"));
     EXPECT_EQ(log.messages()[0], u"Invalid row number (-1)"_s);
     EXPECT_EQ(log.messages()[2], u"Invalid row number (2)"_s);

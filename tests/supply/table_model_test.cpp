@@ -166,7 +166,7 @@ TEST(TableModel, KeepsItsFileNameWhenAnotherFileDoesNotOpen)
     EXPECT_EQ(table.fileName(), u"first"_s);
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_EQ(log.records()[0].level, Logger::Error);
-    EXPECT_EQ(log.records()[0].source, QLatin1String("table_model.cpp"));
+    EXPECT_EQ(log.records()[0].source, QLatin1String("table_model"));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("virtual bool TableModel::setFileName(const QString&)"));
     // The stream parts its values by a blank of its own.

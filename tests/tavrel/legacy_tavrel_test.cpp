@@ -53,7 +53,7 @@ TEST_F(Reader, OldVersionIsRefusedWithALogLine)
     ASSERT_EQ(log.records().size(), 1);
     const CapturedLog::Record& record = log.records().first();
     EXPECT_EQ(record.level, Logger::Error);
-    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel.cpp"));
+    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel"));
     EXPECT_EQ(record.function,
               QStringLiteral("bool LegacyTavrel::importLabelFromFile(const QString&)"));
     EXPECT_EQ(record.message,
@@ -219,7 +219,7 @@ TEST_F(Reader, UnknownCodeAtFirstIsALoadError)
     ASSERT_EQ(log.records().size(), 1);
     const CapturedLog::Record& record = log.records().first();
     EXPECT_EQ(record.level, Logger::Error);
-    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel.cpp"));
+    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel"));
     EXPECT_EQ(record.function, QStringLiteral("bool LegacyTavrel::importCanvasAndItems("
                                               "QDataStream&, quint32, bool)"));
     EXPECT_EQ(record.message, QStringLiteral("Invalid type: 65543"));

@@ -113,7 +113,7 @@ TEST_F(SymbolDatabaseTest, AnswersEmptyWithOneLineForWhatIsNoDatabase)
         ASSERT_EQ(log.records().size(), 1);
         const CapturedLog::Record& record = log.records().first();
         EXPECT_EQ(record.level, Logger::Error);
-        EXPECT_EQ(record.source, QStringLiteral("symbol_database_model.cpp"));
+        EXPECT_EQ(record.source, QStringLiteral("symbol_database_model"));
         EXPECT_TRUE(record.message.startsWith(QStringLiteral("The symbol database ")));
         EXPECT_TRUE(record.message.contains(row));
     }

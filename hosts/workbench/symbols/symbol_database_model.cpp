@@ -25,7 +25,7 @@ void SymbolDatabaseModel::Private::reportFailure()
     if (path == reportedPath || database->error().isEmpty())
         return;
     reportedPath = path;
-    CuteMessageLogger(loggerInstance(), Logger::Error, "symbol_database_model.cpp", __LINE__,
+    CuteMessageLogger(loggerInstance(), Logger::Error, "symbol_database_model", __LINE__,
                       Q_FUNC_INFO)
         .write("The symbol database %s cannot be used: %s.", path.toLocal8Bit().constData(),
                database->error().toLocal8Bit().constData());
