@@ -35,12 +35,12 @@ using SymbolPointer = std::unique_ptr<zint_symbol, SymbolDeleter>;
     return symbol;
 }
 
-// --- what goes wrong, in words ---------------------------------------------------------
+// --- errors ----------------------------------------------------------------------------
 
 struct Reason
 {
     int code;
-    const char* words; // %1 is the kind of barcode; %2 what the library says, or nothing
+    const char* words; // %1 is the kind of barcode; %2 the library's reason, may be empty
 };
 
 constexpr std::array<Reason, 5> Reasons{{
@@ -84,7 +84,7 @@ constexpr std::array<Reason, 5> Reasons{{
                                  why.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(why));
 }
 
-// --- what goes in -----------------------------------------------------------------------
+// --- input ------------------------------------------------------------------------------
 
 [[nodiscard]] bool hasCapability(int code, unsigned int capability)
 {
@@ -130,8 +130,8 @@ void applySettings(zint_symbol& symbol, const BarcodeRequest& request, const Sym
         symbol->input_mode = GS1_MODE | GS1PARENS_MODE;
     else if (hasCapability(request.symbology, ZINT_CAP_GS1) && request.content.startsWith(u'['))
         symbol->input_mode = GS1_MODE;
-    // The library draws two units to a module at a scale of 1. It draws no text, because its
-    // text could not follow the item's font, and bars of one height, because the text is
+    // At a scale of 1 the library draws two units per module. It draws no text, because its
+    // text could not follow the item's font; and bars of one height, because the text is
     // below them.
     symbol->scale = 0.5F;
     symbol->show_hrt = 0;
@@ -143,7 +143,7 @@ void applySettings(zint_symbol& symbol, const BarcodeRequest& request, const Sym
     return symbol;
 }
 
-/// A composite's linear part goes into a field of its own. False when it does not fit.
+/// A composite's linear part has a field of its own. False if it does not fit.
 [[nodiscard]] bool splitComposite(zint_symbol& symbol, QByteArray& bytes)
 {
     if (!hasCapability(symbol.symbology, ZINT_CAP_COMPOSITE))
@@ -161,9 +161,9 @@ void applySettings(zint_symbol& symbol, const BarcodeRequest& request, const Sym
     return !bytes.isEmpty();
 }
 
-// --- what comes out ---------------------------------------------------------------------
+// --- output -----------------------------------------------------------------------------
 
-/// Colours 1 to 8 of the library.
+/// The library's colors 1 to 8.
 constexpr std::array<Qt::GlobalColor, 8> BarColors{Qt::cyan,   Qt::blue,  Qt::magenta, Qt::red,
                                                    Qt::yellow, Qt::green, Qt::black,   Qt::white};
 
@@ -207,7 +207,7 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
     return symbol;
 }
 
-/// Flattermarken shows a 0 as nothing.
+/// Flattermarken encodes a 0 as blank space.
 [[nodiscard]] bool isBlank(const BarcodeSymbol& symbol)
 {
     return symbol.bars.isEmpty() && symbol.coloredBars.isEmpty() && symbol.hexagons.isEmpty() &&

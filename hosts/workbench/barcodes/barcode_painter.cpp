@@ -14,10 +14,10 @@ namespace workbench::barcodes {
 
 namespace {
 
-/// Sizes are measured with a font of this many pixels and scaled, because a font of less than
-/// a pixel or of a fraction of one has no metrics of its own.
+/// Sizes are measured with a font of this many pixels and scaled, because font metrics are
+/// wrong below one pixel and ignore fractions of a pixel.
 constexpr int MeasuringSize = 100;
-/// Narrower modules than this many pixels are left as they are.
+/// Modules narrower than this many pixels are not fitted to the pixel grid.
 constexpr double LeastSnapped = 2.0;
 
 [[nodiscard]] QFont measuringFont(const BarcodeStyle& style)
@@ -60,8 +60,8 @@ void centerBars(BarcodeLayout& layout, const QSizeF& modules, const QRectF& room
         size);
 }
 
-/// Pixels of one painter unit where the device has pixels and its axes are the painter's
-/// (perhaps exchanged or mirrored); 0 elsewhere.
+/// Pixels per painter unit if the device has pixels and its axes are parallel to the painter's
+/// (possibly swapped or mirrored); else 0.
 [[nodiscard]] double pixelsPerUnit(const QPainter& painter)
 {
     if (!painter.paintEngine() || painter.paintEngine()->type() != QPaintEngine::Raster)
@@ -77,7 +77,7 @@ void centerBars(BarcodeLayout& layout, const QSizeF& modules, const QRectF& room
     return std::abs(across - down) < 1e-6 * across ? across : 0.0;
 }
 
-/// Gives every module a whole number of pixels. False where the layout stays as it is.
+/// Gives every module an integral number of pixels. Returns false if the layout is unchanged.
 [[nodiscard]] bool snapToPixels(BarcodeLayout& layout, const BarcodeSymbol& symbol,
                                 const QPainter& painter)
 {
@@ -85,7 +85,7 @@ void centerBars(BarcodeLayout& layout, const QSizeF& modules, const QRectF& room
     if (scale * layout.moduleWidth < LeastSnapped)
         return false;
     const QRectF room = layout.bars;
-    // Just under a whole number is that number, not one pixel less.
+    // Rounding errors just below an integer count as that integer.
     layout.moduleWidth = std::floor(layout.moduleWidth * scale + 1e-3) / scale;
     if (symbol.fixedRatio)
         layout.moduleHeight = layout.moduleWidth;
@@ -112,8 +112,8 @@ void centerBars(BarcodeLayout& layout, const QSizeF& modules, const QRectF& room
     return path;
 }
 
-/// All that is drawn in the foreground, as one path: neighbours painted one by one would show
-/// a bright seam.
+/// The complete foreground as one path: painted separately, adjacent modules would show
+/// bright seams.
 [[nodiscard]] QPainterPath foregroundPath(const BarcodeSymbol& symbol)
 {
     QPainterPath path;
@@ -150,7 +150,7 @@ void paintSymbol(QPainter& painter, const BarcodeLayout& layout, const BarcodeSy
         paintCircle(painter, circle, style);
 }
 
-/// A line or a paragraph of text whose size is no whole number of painter units.
+/// A line or paragraph of text with a fractional pixel size.
 void paintText(QPainter& painter, const QRectF& box, const QString& text, const QFont& font,
                double pixelSize, const QTextOption& option)
 {
@@ -175,7 +175,7 @@ void paintCaption(QPainter& painter, const BarcodeLayout& layout, const BarcodeS
     paintText(painter, layout.caption, symbol.caption, style.font, layout.captionPixelSize, option);
 }
 
-/// The largest size, up to the font's own, at which the wrapped text fits.
+/// The largest size, at most the font's own, at which the wrapped text fits.
 [[nodiscard]] double fittingPixelSize(const QRectF& box, const QString& text,
                                       const BarcodeStyle& style)
 {

@@ -9,45 +9,45 @@ class QPainter;
 
 namespace workbench::barcodes {
 
-/// How a barcode is drawn. Lengths are in the painter's units, on a label points.
+/// How a barcode is drawn. Lengths are in painter units; on a label, points.
 struct BarcodeStyle
 {
     QColor foreground = Qt::black;
-    /// Colour of the rings that are drawn in the ground's colour; no ground is painted.
+    /// Color of rings drawn in the background color; the background itself is not painted.
     QColor background = Qt::white;
     QColor textColor = Qt::black;
-    /// Set its size by QFont::setPixelSize(), in the painter's units.
+    /// Set its size with QFont::setPixelSize(), in painter units.
     QFont font;
-    /// Where the text stands below the bars; only the horizontal flags count.
+    /// Alignment of the text below the bars; only the horizontal flags apply.
     Qt::Alignment captionAlignment = Qt::AlignCenter;
-    /// Width of the narrowest bar; 0 or what does not fit in the box: as wide as fits.
+    /// Width of the narrowest bar; 0 or a width that does not fit: as wide as the box allows.
     double moduleWidth = 0.0;
 };
 
-/// Where the bars and the text of a symbol come to stand in a box.
+/// Position of the bars and the text of a symbol in a box.
 struct BarcodeLayout
 {
-    /// The symbol's own rectangle, blank margins included.
+    /// The symbol's own rectangle, including blank margins.
     QRectF bars;
     QRectF caption;
-    /// Painter units of one module, across and down.
+    /// Painter units per module, horizontal and vertical.
     double moduleWidth = 0.0;
     double moduleHeight = 0.0;
     double captionPixelSize = 0.0;
 };
 
-/// Text keeps to this part of the box's height, so that bars remain to be read.
+/// Largest part of the box's height for the text, so that the bars stay readable.
 inline constexpr double MaximumCaptionShare = 0.4;
 
-/// The layout before it is fitted to the device's pixels. Empty for an empty box or symbol.
+/// The layout before fitting to device pixels. Empty for an empty box or symbol.
 [[nodiscard]] BarcodeLayout layOut(const BarcodeSymbol& symbol, const QRectF& box,
                                    const BarcodeStyle& style);
 
-/// Draws the barcode into the box, or instead of it the error in words.
+/// Draws the barcode into the box, or its error message.
 ///
-/// On a device of pixels an upright barcode whose modules are at least two pixels wide takes
-/// whole pixels for a module and begins on a whole pixel: bars of uneven width are what makes
-/// a barcode unreadable. It may be a little narrower than the box for that.
+/// On a pixel device an upright barcode with modules of at least two pixels is aligned to the
+/// pixel grid, with an integral number of pixels per module: bars of uneven width make a barcode
+/// unreadable. The barcode may therefore be slightly narrower than the box.
 void paintBarcode(QPainter& painter, const QRectF& box, const BarcodeSymbol& symbol,
                   const BarcodeStyle& style);
 

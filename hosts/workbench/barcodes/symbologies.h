@@ -5,36 +5,36 @@
 
 #include <span>
 
-/// The barcode symbologies: the host's list of codes, which are libzint's numbers.
+/// The barcode symbologies, with the host's codes, which are libzint's numbers.
 namespace workbench::barcodes {
 
 /// What the numeric settings of a label's barcode mean for a symbology. A maximum of 0 means
-/// that the symbology has no such setting; a setting outside its range is the symbology's
-/// own choice.
+/// that the symbology has no such setting; for a setting outside its range the symbology
+/// uses its default.
 struct Symbology
 {
     int code = 0;
-    const char* name = nullptr; ///< in English; symbologyName() says it in the program's language
+    const char* name = nullptr; ///< English; symbologyName() translates it
     /// Two-dimensional: a matrix, several rows, or a linear part with a matrix above it.
     bool matrix = false;
-    /// The option 1 asks for a check digit.
+    /// Option 1 adds a check digit.
     bool checkDigit = false;
-    /// `number`: the size, version or count of columns of a matrix symbology, the distance of
+    /// `number`: the size, version or column count of a matrix symbology, the distance of
     /// the add-on of an article number, the channels of Channel Code.
     int sizeMinimum = 0;
     int sizeMaximum = 0;
-    /// `value`: the level of error correction, for MaxiCode the mode.
+    /// `value`: the error correction level, for MaxiCode the mode.
     int levelMaximum = 0;
 };
 
-/// Every symbology, in the order of the codes.
+/// All symbologies, sorted by code.
 [[nodiscard]] std::span<const Symbology> symbologies();
-/// Null for a code that is not known.
+/// Null for an unknown code.
 [[nodiscard]] const Symbology* findSymbology(int code);
 
 [[nodiscard]] bool isLinear(int code);
 [[nodiscard]] bool isMatrix(int code);
-/// The symbology's name for a person; "barcode kind 999" for an unknown one.
+/// The symbology's translated name; "barcode kind 999" for an unknown code.
 [[nodiscard]] QString symbologyName(int code);
 
 } // namespace workbench::barcodes

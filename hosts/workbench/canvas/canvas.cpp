@@ -11,7 +11,7 @@ namespace workbench {
 
 namespace {
 
-// A page without a size could be neither seen nor printed.
+// A page without a size would be neither visible nor printable.
 constexpr double kSmallestPageSide = 1.0;
 
 QSizeF boundedPage(const QSizeF& size)
@@ -24,7 +24,7 @@ QSizeF boundedPage(const QSizeF& size)
 Canvas::Canvas()
     : m_factory(*this)
 {
-    // Few items, some of them without bounds: an index would cost more than it saves.
+    // Few items, some without bounds: an index would take more time than it saves.
     m_scene.setItemIndexMethod(QGraphicsScene::NoIndex);
     m_scene.setSceneRect(pageRect());
 }
@@ -45,7 +45,7 @@ void Canvas::importItem(Item* item)
     }
     QGraphicsItem* graphicsItem = canvasItem->graphicsItem();
     if (graphicsItem->scene() == &m_scene) {
-        return; // it is here already
+        return; // already on this canvas
     }
     m_scene.addItem(graphicsItem);
     m_items.append(canvasItem);

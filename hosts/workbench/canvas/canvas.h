@@ -19,15 +19,15 @@ struct PageValues
 {
     QSizeF size{288.0, 144.0}; ///< points
     bool canvasFlag = false;
-    bool orientation = false; ///< as the label's format has it
+    bool orientation = false; ///< as in the label's format
     QColor background = Qt::white;
     QColor defaultPen = Qt::black;
     bool operator==(const PageValues&) const = default;
 };
 
-/// The canvas of one label: a page and its items, in a scene whose unit is the point.
+/// The canvas of one label: a page and its items, in a scene measured in points.
 ///
-/// The page lies in the scene from (0, 0) to its size. The items belong to the scene.
+/// In the scene, the page extends from (0, 0) to its size. The scene owns the items.
 class Canvas final : public QObject, public TalCanvasModel
 {
     Q_OBJECT
@@ -37,8 +37,8 @@ public:
     ~Canvas() override;
 
     [[nodiscard]] ClassFactory* getClassFactory() override;
-    /// An item that is null or not of the workbench's making is not taken in; the latter
-    /// is deleted, because it was handed over.
+    /// Ignores null. Rejects and deletes an item of another host's classes: the canvas
+    /// was given its ownership.
     void importItem(Item* item) override;
     void importCanvasParameters(double width, double height, bool canvasFlag,
                                 bool orientation) override;
@@ -54,34 +54,34 @@ public:
     void setPage(const PageValues& page);
     [[nodiscard]] QRectF pageRect() const { return {QPointF(0.0, 0.0), m_page.size}; }
 
-    /// The items in the order in which they came in.
+    /// The items in insertion order.
     [[nodiscard]] const QList<CanvasItem*>& items() const { return m_items; }
-    /// The items as they lie on one another, the lowest first.
+    /// The items in stacking order, the lowest first.
     [[nodiscard]] QList<CanvasItem*> itemsFromBottom() const;
     /// Whether completeCanvasLoading() was called since the last clear().
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
 
-    /// Makes an item of these values and takes it in; null for a type that names no item.
+    /// Creates an item with these values and adds it; null for an unknown item type.
     CanvasItem* addItem(const ItemValues& values);
-    /// Deletes all items and makes the page a new one.
+    /// Deletes all items and resets the page.
     void clear();
 
-    /// What a data source has in the fields of a record; nothing for a source or a record
-    /// that does not exist.
+    /// The fields of one record of a data source; nothing if the source or the record
+    /// does not exist.
     using RecordText = std::function<std::optional<QString>(int datasourceId, qint64 record,
                                                             const QStringList& fields)>;
-    /// Shows one record, counted from 0, on all items that are bound to a data source. An
-    /// item whose source has nothing to show shows its own content.
+    /// Shows one record, counted from 0, on all items bound to a data source. An item
+    /// whose source has no content shows its own.
     void showRecord(qint64 record, const RecordText& recordText);
 
     [[nodiscard]] QGraphicsScene* scene() { return &m_scene; }
 
 Q_SIGNALS:
-    /// The page's size or colours have changed.
+    /// The page's size or colors have changed.
     void pageChanged();
-    /// Items were taken in or deleted.
+    /// Items were added or deleted.
     void itemsChanged();
-    /// A label is there whole.
+    /// A label is complete.
     void loadingCompleted();
 
 private:

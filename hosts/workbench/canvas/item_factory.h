@@ -6,14 +6,14 @@ class TalCanvasModel;
 
 namespace workbench {
 
-/// Makes the items of the workbench, in the colour of the canvas's print.
+/// Creates the workbench's items with the canvas's print color.
 class ItemFactory final : public ClassFactory
 {
 public:
     /// The canvas is not owned and must outlive the factory.
     explicit ItemFactory(const TalCanvasModel& canvas);
 
-    /// Null for a code that names no item.
+    /// Null for a code without an item class.
     [[nodiscard]] Item* create(KestTypes::ShapeType type) override;
 
 private:

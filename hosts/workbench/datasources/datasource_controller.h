@@ -26,32 +26,32 @@ struct SourceValues
 class DatasourceController final : public ::DatasourceController
 {
 public:
-    /// What createDatasource() answers to a kind that does not exist.
+    /// Returned by createDatasource() for an unknown kind.
     static constexpr int NoSource = -1;
 
-    /// @param clock  what the date and time sources show
-    /// @param locale whose names of days and months they use
+    /// @param clock  time of the date and time sources
+    /// @param locale their names of days and months
     explicit DatasourceController(Clock clock = &QDateTime::currentDateTime,
                                   QLocale locale = QLocale());
     ~DatasourceController() override;
 
-    /// Identifiers count up from 1 and are not used again.
+    /// Identifiers count up from 1 and are not reused.
     [[nodiscard]] int createDatasource(const QString& kind) override;
     [[nodiscard]] TalDatasource* getDatasource(int id) override;
 
-    /// The source of this identifier; null for an unknown one.
+    /// The source with this identifier; null for an unknown one.
     [[nodiscard]] const Datasource* source(int id) const;
     [[nodiscard]] QList<int> ids() const;
-    /// What a source shows in a record; nothing when there is no such source or record.
+    /// The text of a source for a record; nothing if there is no such source or record.
     [[nodiscard]] std::optional<QString> recordText(int id, qint64 record,
                                                     const QStringList& wantedFields = {}) const;
-    /// Records that a whole series has: those of the longest source, at least 1.
+    /// Records of a complete series: those of the longest source, at least 1.
     [[nodiscard]] qint64 recordCount() const;
 
-    /// All sources in the order of their identifiers.
+    /// All sources, sorted by identifier.
     [[nodiscard]] QList<SourceValues> values() const;
-    /// Replaces all sources. An identifier below 1, one that comes twice, or an unknown kind
-    /// changes nothing and gives false.
+    /// Replaces all sources. Returns false and changes nothing for an identifier below 1,
+    /// a repeated identifier or an unknown kind.
     [[nodiscard]] bool setValues(const QList<SourceValues>& values);
     void clear() { m_sources.clear(); }
 

@@ -4,11 +4,11 @@
 
 namespace workbench::datasources {
 
-/// A running number between two texts.
+/// A counter between two texts.
 ///
-/// It counts from Start towards End, both included, by the amount of Step; the step's sign
-/// does not matter, and a step of 0 stands still. ZeroPad is the least number of digits,
-/// filled up with zeros after the sign.
+/// Counts from Start to End, both inclusive, by the absolute value of Step; with a
+/// step of 0 it does not advance. ZeroPad is the minimum number of digits,
+/// padded with zeros after the sign.
 class SequenceSource final : public Datasource
 {
 public:

@@ -9,15 +9,15 @@
 
 namespace workbench::datasources {
 
-/// Tells what time it is.
+/// Returns the current time.
 using Clock = std::function<QDateTime()>;
 
-/// The present date and time, in the formats of QLocale::toString(). A format that is empty
-/// shows nothing. One record, because the clock does not count labels.
+/// The current date and time, in the formats of QLocale::toString(). An empty format
+/// shows nothing. One record, because the clock does not depend on the record.
 class SystemSource final : public Datasource
 {
 public:
-    /// Longest format; a longer one comes from a damaged label and shows nothing.
+    /// Longest accepted format; a longer one is from a damaged label and shows nothing.
     static constexpr qsizetype MaximumFormat = 1000;
     static constexpr QStringView Kind = u"SystemDatasource";
 

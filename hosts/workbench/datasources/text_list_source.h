@@ -4,7 +4,7 @@
 
 namespace workbench::datasources {
 
-/// A list of texts, one to a record.
+/// A list of texts, one per record.
 class TextListSource final : public Datasource
 {
 public:

@@ -15,7 +15,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// What a reader logs when it aborts, and what that means to the user. %1 and so on are the
+// The readers' messages on failure, and their explanations for users. %1 and so on are the
 // arguments of the message.
 struct Row
 {

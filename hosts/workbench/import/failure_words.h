@@ -8,10 +8,10 @@
 
 namespace workbench {
 
-/// The reason why an import failed, for the user. Never empty.
+/// The user-visible reason for a failed import. Never empty.
 ///
 /// @param records  what was logged during the import
-/// @param messages the texts of the message boxes that the import announced
+/// @param messages the texts of the message boxes that the reader requested
 [[nodiscard]] QString whyImportFailed(const QList<LogRecord>& records, const QStringList& messages);
 
 } // namespace workbench

@@ -6,11 +6,11 @@
 
 namespace workbench {
 
-/// Why a file cannot be read at all, in words for a person; empty when it can.
+/// User-visible reason why a file cannot be read at all; empty if it can.
 [[nodiscard]] QString whyFileCannotBeRead(const QString& fileName);
 
-/// What to do about a file that a reader refused because its content is of another reader's format,
-/// in words for a person; empty if the content does not show that.
+/// User-visible remedy for a file that a reader refused because its content has another reader's
+/// format; empty if the content does not show that.
 [[nodiscard]] QString misnamedFileHint(const QString& fileName, ReaderKind reader);
 
 } // namespace workbench

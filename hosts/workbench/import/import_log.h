@@ -18,10 +18,10 @@ struct LogRecord
     bool operator==(const LogRecord&) const = default;
 };
 
-/// Collects what is logged during its lifetime.
+/// Collects log records during its lifetime.
 ///
 /// A damaged file can fill a log: of each source only the first thousand records are kept;
-/// cutSources() names the sources that wrote more.
+/// cutSources() lists the sources that wrote more.
 class ImportLog
 {
 public:

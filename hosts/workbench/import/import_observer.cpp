@@ -31,7 +31,7 @@ QString ImportObserver::failure() const
 
 void ImportObserver::noteMessage(const QWidget* popup)
 {
-    // The workbench's message box describes itself by its text.
+    // The workbench's message box returns its text as a description.
     if (popup != nullptr && !popup->accessibleDescription().isEmpty()) {
         m_messages.append(popup->accessibleDescription());
     }

@@ -13,8 +13,8 @@ namespace workbench {
 
 class Canvas;
 
-/// Follows the imports of one importer: collects what is logged and the texts of the
-/// message boxes that it announces, which are never shown.
+/// Observes the imports of one importer: collects the log records and the texts of the
+/// message boxes, which are never shown.
 class ImportObserver final : public QObject
 {
     Q_OBJECT
@@ -22,16 +22,16 @@ class ImportObserver final : public QObject
 public:
     explicit ImportObserver(const LegacyTemplateImporter& importer);
 
-    /// Forgets everything before the next import.
+    /// Clears all results before the next import.
     void clear();
 
     [[nodiscard]] const QList<LogRecord>& log() const { return m_log.records(); }
     [[nodiscard]] const QStringList& cutSources() const { return m_log.cutSources(); }
     [[nodiscard]] const QStringList& messages() const { return m_messages; }
 
-    /// The issues of an import that returned true.
+    /// The issues of a successful import.
     [[nodiscard]] QList<ImportIssue> issues(const Canvas& canvas) const;
-    /// Why an import returned false, in words for a person.
+    /// User-visible reason for a failed import.
     [[nodiscard]] QString failure() const;
 
 private:

@@ -27,7 +27,7 @@ struct Row
 };
 
 #define WORDS(text) QT_TRANSLATE_NOOP("workbench::IssueWords", text)
-// Other debug records are for developers; other error records are shown as they are.
+// Other debug records are for developers; other error records are shown unchanged.
 constexpr std::array Rows{
     Row{messages::ControlUnknown, WORDS("Left out an object of the unknown type \"%1\".")},
     Row{messages::DocumentTypeUnsupported,
@@ -73,12 +73,12 @@ QString wordsFor(const KnownMessage& message)
                              : QString();
 }
 
-/// Finds the items that notes on texts are about.
+/// Finds the items that notes on texts refer to.
 class TextFinder
 {
 public:
     explicit TextFinder(const Canvas& canvas);
-    /// The index of the first item that has the text, with its white space simplified; else -1.
+    /// The index of the first item with this text after QString::simplified(); else -1.
     [[nodiscard]] int itemWithText(const QString& text) const { return m_items.value(text, -1); }
 
 private:
@@ -101,7 +101,7 @@ TextFinder::TextFinder(const Canvas& canvas)
     }
 }
 
-/// Issues, each once.
+/// Issues without duplicates.
 class IssueList
 {
 public:
@@ -129,7 +129,7 @@ QString boxText(const messages::Translated& message)
     return QCoreApplication::translate("QObject", message.text, message.comment);
 }
 
-/// Takes the text of a message box apart: sentences in a fixed order, notes on texts among them.
+/// Splits the text of a message box: sentences in a fixed order, notes on texts among them.
 class BoxReader
 {
 public:

@@ -13,7 +13,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A format taken apart: text, placeholder, text, placeholder, ..., text.
+/// A parsed format: text, placeholder, text, placeholder, ..., text.
 struct Format
 {
     QStringList texts;
@@ -58,7 +58,7 @@ bool fits(const QString& argument, bool isNumber)
 }
 
 // Matches the placeholders from `index` on against the message from `start` on. An argument may
-// contain the text that follows it, so every place of that text is tried.
+// contain the text that follows it, so all occurrences of that text are tried.
 bool matchArguments(const Format& format, qsizetype index, const QString& message, qsizetype start,
                     QStringList& arguments)
 {
@@ -100,7 +100,7 @@ std::array<LogMessage, 10> logMessages()
         LogMessage{messages::VersionRefused.text, translated(messages::VersionRefused) + u" %s"_s},
         plain(messages::RecordTypeUnknown),
         plain(messages::OpeningFailed),
-        // Before the format that it is a case of.
+        // Must precede the more general format.
         plain(messages::DocumentParsingFailed),
         plain(messages::ParsingFailed),
         plain(messages::RootElementUnknown),

@@ -9,23 +9,23 @@
 
 namespace workbench {
 
-/// What a log record or a line of a message box means.
+/// The meaning of a log record or a line of a message box.
 struct KnownMessage
 {
-    /// A code of messages/refusals.h or a text of messages/reader_messages.h; empty for a message
-    /// that is neither.
+    /// A code of messages/refusals.h or a text of messages/reader_messages.h; empty for any other
+    /// message.
     QString code;
-    /// What the message was made with; empty for a refusal.
+    /// The arguments of the message; empty for a refusal.
     QStringList arguments;
 };
 
-/// Recognizes a log record: a refusal by its category, one of the readers' fixed messages by the
-/// constant that it was made from.
+/// Identifies a log record: a refusal by its category, one of the readers' fixed messages by its
+/// format.
 [[nodiscard]] KnownMessage recognize(const LogRecord& record);
 
-/// The arguments that make `message` from `format`, whose placeholders are those of printf (%s,
+/// Extracts the arguments of `message` by `format`, whose placeholders are those of printf (%s,
 /// %lld) or QString::arg() (%1, %2).
-/// @return nothing if the message was not made from the format
+/// @return nothing if the message does not match the format
 [[nodiscard]] std::optional<QStringList> argumentsOf(const QString& format, const QString& message);
 
 } // namespace workbench

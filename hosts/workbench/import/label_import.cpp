@@ -14,7 +14,7 @@ namespace workbench {
 
 namespace {
 
-// An import without a window has nothing open and saves nothing.
+// An import without a window has no open label and saves nothing.
 class NoFiles final : public FileController
 {
 public:

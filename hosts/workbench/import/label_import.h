@@ -15,32 +15,32 @@
 
 namespace workbench {
 
-/// What became of one file.
+/// The result of importing one file.
 struct ImportResult
 {
-    /// The label; null when the import failed.
+    /// The label; null if the import failed.
     std::unique_ptr<Canvas> canvas;
-    /// The label's data sources; null when the import failed.
+    /// The label's data sources; null if the import failed.
     std::unique_ptr<datasources::DatasourceController> datasources;
     /// What could not be imported.
     QList<ImportIssue> issues;
-    /// Why the import failed, in words for a person; empty when it did not.
+    /// User-visible reason for a failed import; empty on success.
     QString error;
-    /// Whether it failed because the memory that the process may have did not suffice.
+    /// Whether the import failed because the process's memory limit was reached.
     bool isOutOfMemory = false;
-    /// What was logged, for developers.
+    /// The log records, for developers.
     QList<LogRecord> log;
-    /// The sources whose records are not all in the log, because there were too many.
+    /// The sources that wrote too many records; the log omits the rest.
     QStringList cutSources;
 
     [[nodiscard]] bool isImported() const { return canvas != nullptr; }
 };
 
-/// Imports one file onto a canvas of its own, without any window. The reader is selected by the name
-/// or else by the content. Items that are bound to a data source show its first record.
+/// Imports one file onto its own canvas, without a window. The name selects the reader,
+/// or else the content. Items that are bound to a data source show its first record.
 [[nodiscard]] ImportResult importLabel(const QString& fileName);
 
-/// Imports one file with this reader, whatever its name.
+/// Imports one file with this reader, regardless of the file's name.
 [[nodiscard]] ImportResult importLabel(const QString& fileName, ReaderKind reader);
 
 } // namespace workbench

@@ -9,7 +9,7 @@ namespace workbench {
 
 namespace {
 
-// Captions of labels that state no size.
+// Caption size of labels that specify none, in points.
 constexpr int kCaptionSize = 8;
 
 int captionSize(const FontValues& font)
@@ -17,8 +17,8 @@ int captionSize(const FontValues& font)
     return font.sized ? font.pointSize : kCaptionSize;
 }
 
-// The colour of what is drawn as ground: that of the label's material, usually white,
-// where the barcode has none of its own.
+// The background color: the barcode's own, or else that of the label's material,
+// usually white.
 QColor groundOf(const BarcodeValues& values)
 {
     return values.background.alpha() > 0 ? values.background : QColor(Qt::white);

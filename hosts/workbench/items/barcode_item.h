@@ -9,16 +9,16 @@
 
 namespace workbench {
 
-/// A barcode, fitted into its box. The fill colour is the background: a barcode has one ground.
+/// A barcode, fitted into its box. The fill color and the background color are the same.
 class BarcodeItem final : public DatasourceLayer<TextStyleLayer<FontLayer<BoxLayer<::BarcodeItem>>>>
 {
 public:
     using DatasourceLayer::DatasourceLayer;
 
-    /// Where the caption stands; importBarcodeProperties() sets the same.
+    /// Alignment of the caption; importBarcodeProperties() sets it too.
     void setTextAlignment(Qt::Alignment alignment) override;
     void setBarcodeType(int code) override;
-    /// The caption takes the colour of the bars; a text colour set later holds for it alone.
+    /// Also sets the caption's color; a text color set later applies to the caption alone.
     void setForegroundColor(const QColor& color) override;
     void setBackgroundColor(const QColor& color) override;
     void setFillColor(const QColor& color) override;
@@ -26,7 +26,7 @@ public:
                                  int textAlignment, int moduleWidth, bool flag1, bool flag2,
                                  int option, int number, int value) override;
 
-    /// Why the content cannot be encoded; it then stands in the box instead of the bars.
+    /// Why the content cannot be encoded; the box then shows this text instead of the bars.
     [[nodiscard]] QString issue() const override;
 
 protected:
@@ -39,7 +39,7 @@ private:
     [[nodiscard]] const barcodes::BarcodeSymbol& symbol() const;
 
     BarcodeValues m_barcode;
-    /// Encoded when it is first asked for, and again after a change.
+    /// Encoded on first use, and again after a change.
     mutable std::optional<barcodes::BarcodeSymbol> m_symbol;
 };
 

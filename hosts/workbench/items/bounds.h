@@ -5,27 +5,27 @@
 
 namespace workbench {
 
-// Labels come from files that may hold any number. These bounds are far beyond every real
-// label and keep painting from running away.
+// Files may contain any number. These limits are far beyond every real label and bound
+// the time and memory of painting.
 
 /// Longest side of a page or an item, in points.
 inline constexpr double kMaximumLength = 10'000'000.0;
-/// Largest distance of an item from the corner of its page, in points.
+/// Largest distance of an item from the page's origin, in points.
 inline constexpr double kMaximumCoordinate = 10'000'000.0;
-/// Coordinates below this stand for one that a file did not give.
+/// Smaller coordinates mean that the file specified none.
 inline constexpr double kCoordinateNotGiven = -1'000'000'000.0;
-/// Largest and default font size, in points.
+/// Maximum and default font size, in points.
 inline constexpr int kMaximumFontSize = 2'000;
 inline constexpr int kDefaultFontSize = 12;
 
-/// The length, 0 for one that is not a number, at most kMaximumLength either way.
+/// The length, 0 if it is not a number, limited to ±kMaximumLength.
 [[nodiscard]] double boundedLength(double length);
 [[nodiscard]] QSizeF boundedSize(const QSizeF& size);
-/// The position, 0 for a coordinate that is not a number or was not given.
+/// The position, 0 for a coordinate that is not a number or was not specified.
 [[nodiscard]] QPointF boundedPosition(const QPointF& position);
-/// The z value, 0 for one that is not a finite number.
+/// The z value, 0 if it is not finite.
 [[nodiscard]] double boundedZ(double z);
-/// The angle, 0 for one that is not a finite number.
+/// The angle, 0 if it is not finite.
 [[nodiscard]] double boundedAngle(double degrees);
 
 } // namespace workbench

@@ -14,8 +14,8 @@
 
 namespace workbench {
 
-/// The ground layer of every item: box, rotation, flips, placement and states, and the
-/// frame of painting.
+/// The base layer of every item: box, rotation, flips, placement, states, and the
+/// setup of painting.
 ///
 /// An item class is a stack of layers on a class of the contract. Each layer holds the
 /// values of one facet, overrides its setters, and adds its group to collect() and
@@ -117,19 +117,19 @@ protected:
     /// Paints into contentRect(); the painter is antialiased and flipped.
     virtual void paintContent(QPainter& painter) = 0;
 
-    /// The box in the item's own coordinates.
+    /// The box in item coordinates.
     [[nodiscard]] virtual QRectF contentRect() const { return {QPointF(0.0, 0.0), m_box.size}; }
 
-    /// How far painting may go beyond the box.
+    /// How far painting may extend beyond the box.
     [[nodiscard]] virtual double overhang() const { return 1.0; }
 
-    /// An item without a real box is kept, but draws nothing.
+    /// An item without a valid box is kept, but draws nothing.
     [[nodiscard]] virtual bool isDrawable() const
     {
         return m_box.size.width() > 0.0 && m_box.size.height() > 0.0;
     }
 
-    /// Called when something else than the box has changed.
+    /// Called when anything but the box has changed.
     virtual void appearanceChanged() { this->update(); }
 
     /// Adds this layer's values.
@@ -141,7 +141,7 @@ protected:
                             m_userBackground};
     }
 
-    /// Takes this layer's values over.
+    /// Restores this layer's values.
     virtual void restore(const ItemValues& values)
     {
         this->setPos(values.placement.position);
@@ -173,7 +173,7 @@ protected:
         this->update();
     }
 
-    /// Items turn about the centre of their box, wherever that now is.
+    /// Items rotate about the current center of their box.
     void centreRotation() { this->setTransformOriginPoint(contentRect().center()); }
 
     [[nodiscard]] const BoxValues& boxValues() const { return m_box; }

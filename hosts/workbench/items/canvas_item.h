@@ -11,34 +11,34 @@ class QGraphicsItem;
 
 namespace workbench {
 
-/// What the workbench knows of every item, whatever its class: its values, its states,
-/// its two other faces. Reach it from an Item or QGraphicsItem by dynamic_cast.
+/// The workbench's interface to every item, whatever its class: its values, its states,
+/// its two base classes. Get it from an Item or QGraphicsItem by dynamic_cast.
 class CanvasItem
 {
 public:
     virtual ~CanvasItem() = default;
 
     [[nodiscard]] virtual KestTypes::ShapeType shapeType() const = 0;
-    /// The same object as the scene and as the contract see it.
+    /// This object as a scene item and as an item of the contract.
     [[nodiscard]] virtual QGraphicsItem* graphicsItem() = 0;
     [[nodiscard]] virtual const QGraphicsItem* graphicsItem() const = 0;
     [[nodiscard]] virtual Item* contractItem() = 0;
 
-    /// All that the item remembers.
+    /// All values of the item.
     [[nodiscard]] virtual ItemValues values() const = 0;
-    /// Takes everything over that the class has; the type stays what it is.
+    /// Restores the values that the class has; the type does not change.
     virtual void setValues(const ItemValues& values) = 0;
 
-    /// An item that is read-only or belongs to the background takes no mouse.
+    /// Read-only items and background items ignore the mouse.
     virtual void setReadOnly(bool readOnly) = 0;
     virtual void setUserBackground(bool background) = 0;
 
     /// The binding to a data source.
     [[nodiscard]] virtual DatasourceValues datasource() const { return {}; }
-    /// Shows this text in place of the item's own content, or the own content again. The
-    /// text comes from a data source and is no part of the item's values.
+    /// Shows this text instead of the item's own content; nullopt shows the own content. The
+    /// text is from a data source and is not stored in the item's values.
     virtual void showContent(const std::optional<QString>& text) { Q_UNUSED(text) }
-    /// Why the item cannot show its content, in words for a person; empty when it can.
+    /// User-visible reason why the item cannot show its content; empty if it can.
     [[nodiscard]] virtual QString issue() const { return {}; }
 };
 

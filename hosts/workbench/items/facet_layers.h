@@ -10,7 +10,7 @@
 
 namespace workbench {
 
-// The layers that stand on BoxLayer, one for each facet that several item classes have.
+// The layers on top of BoxLayer, one for each facet that several item classes share.
 
 /// PenItem.
 template <class Base>
@@ -33,7 +33,7 @@ public:
 protected:
     [[nodiscard]] const PenValues& penValues() const { return m_pen; }
 
-    /// A mitred corner reaches some pen widths beyond the outline.
+    /// A mitered corner extends several pen widths beyond the outline.
     [[nodiscard]] double overhang() const override { return 4.0 * m_pen.width + 1.0; }
 
     void collect(ItemValues& values) const override
@@ -227,7 +227,7 @@ public:
     }
 
 protected:
-    /// The data source's text where there is one, else the item's own.
+    /// The data source's text if there is one, else the item's own.
     [[nodiscard]] QString shownContent(const QString& ownContent) const
     {
         return m_shownContent.value_or(ownContent);

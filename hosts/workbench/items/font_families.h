@@ -5,20 +5,20 @@
 
 namespace workbench {
 
-/// The family that stands in for one that this machine does not have at all.
+/// The replacement for a family that is not installed and has no metric-compatible family.
 [[nodiscard]] QString fallbackFamily();
 
-/// The family of the same widths that shows this one where it is not installed; empty for
+/// The metric-compatible replacement of a family that is not installed; empty for
 /// a family that has none.
 ///
-/// Labels name the families of other systems. Free families of equal widths replace them
-/// without moving a word.
+/// Labels name fonts of other systems. Free families of equal widths replace them
+/// without changing the layout.
 [[nodiscard]] QString standInFamily(const QString& family);
 
-/// The family itself, then those that stand in for it, in the order in which they are tried.
+/// The family itself, then its replacements, in the order in which they are tried.
 [[nodiscard]] QStringList familiesFor(const QString& family);
 
-/// Lets documents find the stand-ins too. Does its work once.
+/// Registers the replacements for documents. Only the first call has an effect.
 void installStandIns();
 
 } // namespace workbench

@@ -8,11 +8,11 @@ class QPainter;
 
 namespace workbench {
 
-/// Readies a painter for an item's content: antialiased, and mirrored within the box
-/// where the item is flipped.
+/// Prepares a painter for an item's content: antialiased, and mirrored within the box
+/// if the item is flipped.
 void prepareContentPainter(QPainter& painter, const QRectF& box, const BoxValues& values);
 
-/// Paints the frame that shows an item as selected.
+/// Paints the selection frame of an item.
 void paintSelectionFrame(QPainter& painter, const QRectF& frame);
 
 } // namespace workbench

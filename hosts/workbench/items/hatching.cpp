@@ -11,11 +11,11 @@ namespace workbench {
 
 namespace {
 
-constexpr double kSpacing = 6.0;          // points between two lines
+constexpr double kSpacing = 6.0;          // distance of two lines in points
 constexpr double kLineWidth = 0.75;       // points
-constexpr double kMaximumLines = 2'000.0; // in one direction
+constexpr double kMaximumLines = 2'000.0; // lines in one direction
 
-// The lines where `position` runs from `from` to `to` on a raster that starts at 0.
+// The lines for positions `from` to `to` on a grid that starts at 0.
 template <class MakeLine>
 void addRaster(QList<QLineF>& lines, double from, double to, double spacing,
                const MakeLine& makeLine)
@@ -38,7 +38,7 @@ void addVertical(QList<QLineF>& lines, const QRectF& area)
               [&area](double x) { return QLineF(x, area.top(), x, area.bottom()); });
 }
 
-// Rising to the right: x + y is the same all along a line.
+// Rising to the right: x + y is constant along a line.
 void addRising(QList<QLineF>& lines, const QRectF& area)
 {
     addRaster(lines, area.left() + area.top(), area.right() + area.bottom(),
@@ -47,7 +47,7 @@ void addRising(QList<QLineF>& lines, const QRectF& area)
               });
 }
 
-// Falling to the right: x - y is the same all along a line.
+// Falling to the right: x - y is constant along a line.
 void addFalling(QList<QLineF>& lines, const QRectF& area)
 {
     addRaster(lines, area.left() - area.bottom(), area.right() - area.top(),
@@ -88,7 +88,7 @@ QList<QLineF> hatchLines(const QRectF& area, int style)
 void paintHatch(QPainter& painter, const QPainterPath& path, const QRectF& box, int style,
                 const QColor& color)
 {
-    // Only what can be seen: a box may be far larger than its page.
+    // Only the visible part: a box may be far larger than its page.
     const QRectF area = painter.hasClipping() ? box.intersected(painter.clipBoundingRect()) : box;
     painter.save();
     painter.setClipPath(path, Qt::IntersectClip);

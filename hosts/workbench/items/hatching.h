@@ -13,8 +13,8 @@ namespace workbench {
 /// Whether the Qt::BrushStyle number is one of the six hatches.
 [[nodiscard]] bool isHatch(int style);
 
-/// The lines of a hatch that cover the area, starting from the same raster wherever the
-/// area begins. Never more than a few thousand: over a very large area they stand wider.
+/// The lines of a hatch that cover the area, on a grid that does not depend on the
+/// area. At most a few thousand: over a very large area the distance is larger.
 [[nodiscard]] QList<QLineF> hatchLines(const QRectF& area, int style);
 
 /// Paints a hatch within the path.

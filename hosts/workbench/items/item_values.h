@@ -15,24 +15,24 @@
 
 namespace workbench {
 
-// Everything that an item remembers, as plain values. Items are read and restored through
-// these alone, so whoever saves, lists or compares items needs no item class.
+// All persistent state of an item, as plain values. Items are read and restored only
+// through these, so code that saves, lists or compares items needs no item class.
 //
 // Lengths are in points, angles in degrees clockwise. Style numbers are those of Qt's
-// enumerations as they were set; what a number that Qt does not know looks like is decided
-// where it is painted.
+// enumerations and are stored unchecked, as they were set; the look of a number that Qt
+// does not know is decided by the painting code.
 
 /// The box of an item, before rotation.
 struct BoxValues
 {
     QSizeF size{0.0, 0.0};
-    double rotation = 0.0; ///< about the centre of the box
+    double rotation = 0.0; ///< about the center of the box
     bool flipHorizontal = false;
     bool flipVertical = false;
     bool operator==(const BoxValues&) const = default;
 };
 
-/// Where an item stands on the canvas, and what may be done to it.
+/// An item's position on the canvas, and what the user may change.
 struct PlacementValues
 {
     QPointF position;
@@ -66,7 +66,7 @@ struct FillValues
 /// The corners of a rounded rectangle.
 struct CornerValues
 {
-    /// Without one, a sixth of the shorter side.
+    /// If unset, a sixth of the shorter side.
     std::optional<double> radius;
     bool operator==(const CornerValues&) const = default;
 };
@@ -77,14 +77,14 @@ struct FontValues
     QString family;
     int pointSize = 12;
     bool sized =
-        false; ///< whether a size was ever given; a single-format text that has none is scaled
+        false; ///< whether a size was ever set; a single-format text without one is scaled
     bool bold = false;
     bool italic = false;
     bool underline = false;
     bool operator==(const FontValues&) const = default;
 };
 
-/// Colour and alignment of characters.
+/// Color and alignment of characters.
 struct TextStyleValues
 {
     QColor color = Qt::black;
@@ -92,7 +92,7 @@ struct TextStyleValues
     bool operator==(const TextStyleValues&) const = default;
 };
 
-/// The content of a text. A text has either plain text or, if it is a rich one, HTML.
+/// The content of a text: plain text, or HTML if the text is a rich one.
 struct TextValues
 {
     QString text;
@@ -159,7 +159,7 @@ struct DatasourceValues
     bool operator==(const DatasourceValues&) const = default;
 };
 
-/// All that one item remembers; the groups that its class does not have are empty.
+/// All values of one item; the groups that its class does not have are empty.
 struct ItemValues
 {
     KestTypes::ShapeType type = KestTypes::Rectangle;

@@ -48,7 +48,7 @@ LabelDocument::LabelDocument(QObject* parent)
 QVariant LabelDocument::loadResource(int type, const QUrl& name)
 {
     Q_UNUSED(name)
-    // An empty answer would not do: the layout then opens a picture's name as a file itself.
+    // An empty answer is not enough: the layout would then open the picture's name as a file.
     if (type == QTextDocument::ImageResource) {
         QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
         nothing.fill(Qt::transparent);

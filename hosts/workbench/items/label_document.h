@@ -5,8 +5,8 @@
 namespace workbench {
 
 /// The document of a rich text: without margins, laid out in sizes that do not depend on
-/// the output, and deaf to everything that its HTML refers to. HTML comes from files, and
-/// a file must not make us open another.
+/// the output. It never loads external resources: HTML is from files, and a file must
+/// not make the program open another one.
 class LabelDocument final : public QTextDocument
 {
 public:
@@ -16,7 +16,7 @@ protected:
     QVariant loadResource(int type, const QUrl& name) override;
 };
 
-/// Brings font sizes that no label has down to the largest that is painted.
+/// Reduces font sizes above the largest that is painted.
 void boundFontSizes(QTextDocument& document);
 
 } // namespace workbench

@@ -90,7 +90,7 @@ void LineItem::paintContent(QPainter& painter)
     const Marker atStart = startMarker(m_line.startMarker);
     const Marker atEnd = endMarker(m_line.endMarker);
 
-    // A line that is shorter than its arrows still gets them, only no line between.
+    // A line shorter than its arrows shows only the arrows.
     const QPointF from = line.p1() + direction * markerInset(atStart, width);
     const QPointF to = line.p2() - direction * markerInset(atEnd, width);
     if (QPointF::dotProduct(to - from, direction) > 0.0) {

@@ -6,17 +6,17 @@
 
 namespace workbench {
 
-/// A straight line from the item's position. Its box is the one that its ends span, so it
-/// turns about its middle.
+/// A straight line from the item's position. Its box is the rectangle between its ends,
+/// so it rotates about its middle.
 class LineItem final : public PenLayer<BoxLayer<::LineItem>>
 {
 public:
     using PenLayer::PenLayer;
 
-    /// Keeps the direction of the line, and lets its ends span a box of this size.
+    /// Keeps the direction of the line; its ends span a box of this size.
     void setItemSize(const QSizeF& size) override;
     void setLineLength(double length) override;
-    /// Moves the item to its start; the other end stays where it is on the page.
+    /// Moves the start of the line; the other end keeps its place on the page.
     void setLineStartPoint(const QPointF& point) override;
     void setLineEndPoint(const QPointF& point) override;
     void setLineStartMarker(int marker) override;

@@ -8,7 +8,7 @@ namespace workbench {
 
 namespace {
 
-// An arrow is three pen widths wide, but never too small to be seen.
+// An arrow is three pen widths wide, with a minimum so that it stays visible.
 double arrowLength(Marker marker, double penWidth)
 {
     const bool small = marker == Marker::SmallArrow;
@@ -34,7 +34,7 @@ void addArrow(QPainterPath& path, const QPointF& tip, const QPointF& outward, do
     path.closeSubpath();
 }
 
-// A stroke across the end, as thick as the line.
+// A stroke across the end, as wide as the line.
 void addDimensionStroke(QPainterPath& path, const QPointF& tip, const QPointF& outward,
                         double penWidth)
 {

@@ -14,10 +14,10 @@ namespace workbench {
 
 namespace {
 
-// The share of ink of Qt::Dense1Pattern to Qt::Dense7Pattern.
+// The ink coverage of Qt::Dense1Pattern to Qt::Dense7Pattern.
 constexpr std::array<double, 7> kInkOfDensePattern{0.94, 0.88, 0.63, 0.50, 0.37, 0.12, 0.06};
 
-// Long enough that the corners of the polygons come out sharp.
+// Large enough for sharp corners of the polygons.
 constexpr double kMiterLimit = 4.0;
 
 Qt::PenStyle knownPenStyle(int style)
@@ -50,8 +50,8 @@ QColor withInk(const QColor& color, double ink)
     return tinted;
 }
 
-// To white and not to nothing: documents (PDF) have no gradient of opacities and would show
-// the plain colour.
+// To white and not to transparent: PDF documents have no gradients of opacity and would show
+// the plain color.
 void addStops(QGradient& gradient, const QColor& color)
 {
     QColor paper = Qt::white;

@@ -10,7 +10,7 @@ namespace workbench {
 
 namespace {
 
-// The size in pixels of the output that the box covers.
+// The size of the box in output pixels.
 QSize outputSize(const QPainter& painter, const QRectF& box)
 {
     const QTransform transform = painter.combinedTransform();
@@ -27,8 +27,8 @@ bool paintsPixels(const QPainter& painter)
     return engine != nullptr && engine->type() == QPaintEngine::Raster;
 }
 
-// Far fewer pixels than the picture has would leave most of them out: thin lines would
-// break. Only pixels on a screen or in an image are made fewer; other outputs keep all.
+// Scaling down without smoothing would skip pixels: thin lines would break. Only screens
+// and images get a reduced picture; other outputs get all pixels.
 QImage fitted(const QImage& image, const QPainter& painter, const QRectF& box)
 {
     const QSize target = outputSize(painter, box);

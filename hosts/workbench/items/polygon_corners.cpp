@@ -7,14 +7,14 @@ namespace workbench {
 
 namespace {
 
-// Corners in a box of 1 by 1, y downwards.
+// Corners in a 1 by 1 box, y downwards.
 struct Corner
 {
     double x;
     double y;
 };
 
-// The part of an octagon's side that its cut corners take.
+// The part of an octagon's side that is cut off at each corner.
 constexpr double kCut = 0.29289321881345254;
 
 constexpr std::array kRightTriangle{Corner{0, 0}, Corner{1, 1}, Corner{0, 1}};
@@ -23,7 +23,7 @@ constexpr std::array kDiamond{Corner{0.5, 0}, Corner{1, 0.5}, Corner{0.5, 1}, Co
 constexpr std::array kPentagon{Corner{0.5, 0}, Corner{1, 0.38196601125010515},
                                Corner{0.8090169943749475, 1}, Corner{0.19098300562505255, 1},
                                Corner{0, 0.38196601125010515}};
-// Points to the left and right: importers turn it where a format has it upright.
+// Points to the left and right: importers rotate it if the format has it upright.
 constexpr std::array kHexagon{Corner{0.25, 0}, Corner{0.75, 0}, Corner{1, 0.5},
                               Corner{0.75, 1}, Corner{0.25, 1}, Corner{0, 0.5}};
 constexpr std::array kOctagon{Corner{kCut, 0},     Corner{1 - kCut, 0}, Corner{1, kCut},

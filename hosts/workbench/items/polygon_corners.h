@@ -7,8 +7,8 @@
 
 namespace workbench {
 
-/// The corners of a polygon kind, stretched to fill the box; empty for a type that is
-/// no polygon.
+/// The corners of a polygon type, stretched to fill the box; empty for a type that
+/// is not a polygon.
 [[nodiscard]] QPolygonF polygonCorners(KestTypes::ShapeType type, const QRectF& box);
 
 } // namespace workbench

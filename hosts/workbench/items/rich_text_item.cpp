@@ -12,8 +12,8 @@ namespace workbench {
 
 namespace {
 
-// What the document leaves to the item's font stays out: read again, it would be a format
-// of its own. A font that nobody asks for stands in for the item's.
+// Omits what the document inherits from the item's font: read again, it would be an explicit
+// format. A placeholder font that no text uses replaces the item's.
 QString htmlOf(const QTextDocument& document)
 {
     QFont nobody(QStringLiteral("-"));
@@ -22,7 +22,7 @@ QString htmlOf(const QTextDocument& document)
     const std::unique_ptr<QTextDocument> copy(document.clone());
     copy->setDefaultFont(nobody);
     static const QRegularExpression bodyStyle(QStringLiteral("<body style=\"[^\"]*\""));
-    // The page of a document that was read has a border of its own, of no width.
+    // The page of a parsed document has its own border, of width 0.
     return copy->toHtml()
         .replace(bodyStyle, QStringLiteral("<body"))
         .replace(QStringLiteral("<table border=\"0\" style=\"-qt-table-type: root;"),
@@ -34,10 +34,10 @@ QString htmlOf(const QTextDocument& document)
 RichTextItem::RichTextItem(KestTypes::ShapeType type)
     : Layers(type)
 {
-    // Every text gets one at once, plain as it may stay, because setHtml() is not ours: into a
-    // document of Qt's own it would load what the HTML refers to.
+    // Every text gets our document at once, even if it stays plain, because setHtml() is not
+    // virtual: a QTextDocument would load the resources that the HTML refers to.
     setDocument(new LabelDocument(this));
-    // A text has a frame only where its label says so.
+    // A text has a frame only if its label specifies one.
     setPenStyle(Qt::NoPen);
 }
 
@@ -72,8 +72,8 @@ bool RichTextItem::showsDocument() const
     return !showsSourceContent() && hasDocument();
 }
 
-// The document in the item's font. Only when it is looked at: a document lays itself out anew
-// for every font, even an empty one and for the same font, and most texts of labels are plain.
+// The document in the item's font. Created on demand: a document is laid out again for
+// every font set, even if empty or if the font is unchanged, and most texts are plain.
 QTextDocument& RichTextItem::labelDocument() const
 {
     if (const QFont font = toFont(fontValues()); document()->defaultFont() != font) {
@@ -88,7 +88,7 @@ PlainText RichTextItem::plainText(bool wraps) const
             textStyleValues().color, wraps};
 }
 
-// A width of 0 or less does not wrap.
+// A width of 0 or less disables wrapping.
 QSizeF RichTextItem::layOutDocument(double width)
 {
     QTextDocument& content = labelDocument();
@@ -99,7 +99,7 @@ QSizeF RichTextItem::layOutDocument(double width)
 
 double RichTextItem::overhang() const
 {
-    // Slanted and accented letters reach beyond the box of their line.
+    // Slanted and accented letters extend beyond their line's box.
     return Layers::overhang() + fontValues().pointSize;
 }
 

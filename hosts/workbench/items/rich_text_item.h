@@ -5,12 +5,12 @@
 
 namespace workbench {
 
-/// A text with formats of its own inside, wrapped at the width of its box.
+/// A text with several formats, wrapped at the width of its box.
 ///
 /// Its content is the document (QGraphicsTextItem::setHtml()), or the plain text of
-/// setText() as long as the document is empty. The alignment places plain text in both
-/// directions, and a document from top to bottom: its paragraphs have alignments of their
-/// own. The document never loads anything that its HTML refers to.
+/// setText() as long as the document is empty. The alignment applies to plain text in both
+/// directions, and to a document vertically: its paragraphs have their own horizontal
+/// alignment. The document never loads external resources.
 class RichTextItem final : public TextLayers<::RichTextItem>
 {
     using Layers = TextLayers<::RichTextItem>;
@@ -19,8 +19,8 @@ public:
     explicit RichTextItem(KestTypes::ShapeType type);
 
     void setText(const QString& text) override;
-    /// Plain text takes no more of the width than it needs, so that further text can stand
-    /// beside it; a document keeps the whole width for the alignment of its paragraphs.
+    /// Plain text uses only the width that it needs, so that other text can follow
+    /// on its right; a document uses the full width, to align its paragraphs.
     void adjustBoxSizeToContent(double width) override;
 
 protected:

@@ -8,7 +8,7 @@ namespace workbench {
 
 namespace {
 
-// What a rounded rectangle without a radius has, as a part of its shorter side.
+// Default radius of a rounded rectangle, as a fraction of its shorter side.
 constexpr double kDefaultCorner = 1.0 / 6.0;
 
 double shorterSide(const QRectF& box)

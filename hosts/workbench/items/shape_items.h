@@ -42,7 +42,7 @@ class RoundedRectangleItem final : public ShapeLayer<::RoundedRectangleItem>
 public:
     using ShapeLayer::ShapeLayer;
 
-    /// A radius of more than half the shorter side is painted as that half.
+    /// A radius above half the shorter side is painted as that half.
     void setCornerRadius(double radius) override;
 
 protected:
@@ -73,7 +73,7 @@ protected:
     [[nodiscard]] QPainterPath outline(const QRectF& box) const override;
 };
 
-/// The polygon that its type names.
+/// The polygon of the item's type.
 class PolygonItem final : public ShapeLayer<::PolygonItem>
 {
 public:

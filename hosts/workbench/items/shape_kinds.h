@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// The kinds of items by name: one table for saved labels, reports and the window.
+/// Names of the item types: one table for saved labels, reports and the window.
 namespace workbench {
 
 /// The name in saved labels, "roundedRectangle"; empty for an unknown type.
@@ -16,7 +16,7 @@ namespace workbench {
 /// The code in reports, "rounded-rectangle"; "item" for an unknown type.
 [[nodiscard]] QString shapeCode(KestTypes::ShapeType type);
 
-/// The title for the user, "Rounded rectangle", in the program's language; empty for an unknown
+/// The translated title for the user, "Rounded rectangle"; empty for an unknown
 /// type.
 [[nodiscard]] QString shapeTitle(KestTypes::ShapeType type);
 /// The title for a code of a report; the code itself if it is unknown.

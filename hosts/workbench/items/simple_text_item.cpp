@@ -14,7 +14,7 @@ constexpr signed char kFixesHeight = 2;
 SimpleTextItem::SimpleTextItem(KestTypes::ShapeType type)
     : Layers(type)
 {
-    // A text has a frame only where its label says so.
+    // A text has a frame only if its label specifies one.
     setPenStyle(Qt::NoPen);
 }
 
@@ -84,7 +84,7 @@ void SimpleTextItem::appearanceChanged()
     Layers::appearanceChanged();
 }
 
-// The sides that are not fixed follow the text, once it has a size of its own.
+// The sides that are not fixed follow the text, once a font size is set.
 void SimpleTextItem::fitBox()
 {
     if (!fontValues().sized || (fixesWidth() && fixesHeight())) {
@@ -103,7 +103,7 @@ PlainText SimpleTextItem::plainText() const
 
 double SimpleTextItem::overhang() const
 {
-    // Slanted and accented letters reach beyond the box of their line.
+    // Slanted and accented letters extend beyond their line's box.
     return Layers::overhang() + fontValues().pointSize;
 }
 

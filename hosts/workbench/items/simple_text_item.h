@@ -7,10 +7,10 @@ namespace workbench {
 
 /// A text in a single format.
 ///
-/// A text that was given a font size has it, and stands in a box whose free sides follow
-/// the text. One that was never given a size is scalable: it fills its box.
+/// With a font size, the text has that size, and the sides of its box that are not
+/// fixed follow the text. Without one it is scaled to fill its box.
 ///
-/// The two options have no effect; they are kept with the item.
+/// The two options have no effect; the item only stores them.
 class SimpleTextItem final : public TextLayers<::SimpleTextItem>
 {
     using Layers = TextLayers<::SimpleTextItem>;

@@ -33,9 +33,9 @@ QByteArray withForeground(const QByteArray& svg, const QColor& color)
     if (!statesProperty(reader.attributes(), QLatin1String("color"))) {
         additions += attribute("color", color);
     }
-    // The root's name begins behind the first "<" that begins a name: a declaration, a
+    // The root's name follows the first "<" before a name character: a declaration, a
     // comment or a document type has another character there. Documents in encodings of
-    // two bytes per character stay as they are.
+    // two bytes per character are not changed.
     const QByteArray start = '<' + reader.qualifiedName().toUtf8();
     const qsizetype position = svg.indexOf(start);
     return position < 0 ? svg : QByteArray(svg).insert(position + start.size(), additions);

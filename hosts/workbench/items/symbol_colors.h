@@ -5,8 +5,8 @@
 
 namespace workbench {
 
-/// The SVG document with the colour as the one that its parts take where they state none,
-/// and as the current colour. A root that states a fill or a colour keeps it.
+/// The SVG document with this color as the default fill of its parts
+/// and as currentColor. A fill or color attribute of the root has precedence.
 [[nodiscard]] QByteArray withForeground(const QByteArray& svg, const QColor& color);
 
 } // namespace workbench

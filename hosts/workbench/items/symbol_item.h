@@ -14,12 +14,12 @@ namespace workbench {
 
 /// A vector symbol, stretched to its box.
 ///
-/// The foreground colour is what the drawing leaves open: parts without a fill of their
-/// own and those that ask for the current colour. Colours that the drawing states stay,
-/// so that a coloured logo keeps them. The fill colour is the background: a symbol has
-/// one ground.
+/// The foreground color applies to what the drawing does not specify: parts without a
+/// fill, and parts that use currentColor. Colors in the drawing are kept, so that
+/// a colored logo does not change. The fill color and the background color are
+/// the same.
 ///
-/// Whatever data it is given, only what is safe of it is drawn: nothing outside the drawing
+/// Data is never trusted: unsafe parts are not drawn, and nothing outside the drawing
 /// is ever opened.
 class SymbolItem final : public DatasourceLayer<BoxLayer<::SymbolItem>>
 {

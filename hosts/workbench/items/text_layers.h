@@ -9,11 +9,11 @@
 
 namespace workbench {
 
-/// What both text kinds stand on: every facet of TextItem but the content.
+/// The common layers of both text classes: every facet of TextItem but the content.
 template <class Base>
 using TextLayers = DatasourceLayer<TextStyleLayer<FontLayer<FillLayer<PenLayer<BoxLayer<Base>>>>>>;
 
-/// Paints what lies behind a text: its ground and its frame.
+/// Paints the background and the frame of a text.
 inline void paintTextGround(QPainter& painter, const QRectF& box, const FillValues& fill,
                             const PenValues& pen)
 {

@@ -13,14 +13,14 @@ namespace workbench {
 
 namespace {
 
-// What is beyond this cannot be read on any label, but would take long to lay out.
+// Longer text is unreadable on any label, but would take long to lay out.
 constexpr qsizetype kMaximumCharacters = 10'000;
 constexpr int kMaximumLines = 5'000;
 
-// The font size in which a text that fills its box is laid out before it is scaled.
+// The font size for the layout of a text that is scaled to its box.
 constexpr int kReferenceSize = 100;
 
-// Rounding must not break a line that was measured to fit.
+// Tolerance for rounding: a line measured to fit must not be broken.
 constexpr double kWidthTolerance = 0.01;
 
 QTextOption optionFor(const PlainText& text)
@@ -42,7 +42,7 @@ void prepareLayout(QTextLayout& layout, const PlainText& text)
     layout.setCacheEnabled(true);
 }
 
-// Lays the lines out one below the other; returns the size of what they take.
+// Lays the lines out from top to bottom; returns their total size.
 QSizeF layOut(QTextLayout& layout, double width)
 {
     double height = 0.0;
@@ -100,8 +100,8 @@ void paintText(QPainter& painter, const PlainText& text, const QRectF& box)
 {
     QTextLayout layout;
     prepareLayout(layout, text);
-    // A line must be given room before it can be aligned: first find how wide the text
-    // is, then align it within the wider of text and box.
+    // A line needs a width before it can be aligned: first measure the text, then align
+    // it within the wider of text and box.
     const QSizeF size = layOut(layout, text.wraps ? box.width() + kWidthTolerance : kMaximumLength);
     const double width = std::max(size.width(), box.width()) + kWidthTolerance;
     if (!text.wraps) {

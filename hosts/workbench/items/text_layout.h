@@ -11,12 +11,12 @@ class QPainter;
 
 namespace workbench {
 
-/// The font of the values. Its pixel size is the size in points: a unit of the scene is a
-/// point, so text has its true size whatever the resolution of the output.
+/// The font of the values. Its pixel size is the size in points: the scene's unit is the
+/// point, so text has its true size at any resolution of the output.
 [[nodiscard]] QFont toFont(const FontValues& values);
 [[nodiscard]] QFont toFont(const FontValues& values, int size);
 
-/// A text in one format. Line feeds begin a new line.
+/// A text in one format. Line feeds start a new line.
 struct PlainText
 {
     QString text;
@@ -26,16 +26,16 @@ struct PlainText
     bool wraps = false; ///< whether lines break at the width of the box
 };
 
-/// The size of the text, broken at the width when it wraps.
+/// The size of the text, broken at the width if it wraps.
 [[nodiscard]] QSizeF measureText(const PlainText& text, double width);
 
-/// Where something begins that is aligned within a box with this much room left over.
+/// The offset of an aligned object in a box with this much free space.
 [[nodiscard]] double verticalOffset(Qt::Alignment alignment, double room);
 
-/// Paints the text where its alignment says within the box; it may stand out of it.
+/// Paints the text with its alignment in the box; it may extend beyond the box.
 void paintText(QPainter& painter, const PlainText& text, const QRectF& box);
 
-/// Paints the text as large as it fits into the box, in one size for both directions.
+/// Paints the text as large as it fits into the box, keeping its proportions.
 void paintTextFilling(QPainter& painter, const PlainText& text, const QRectF& box);
 
 } // namespace workbench

@@ -27,7 +27,7 @@ namespace {
 constexpr double PointsPerInch = 72.0;
 constexpr double MillimetersPerInch = 25.4;
 constexpr int PdfDpi = 1200;
-// The head of a document that holds its size.
+// The attributes of an SVG document that hold its size.
 constexpr qsizetype HeadLength = 600;
 
 struct Words
@@ -40,7 +40,7 @@ QString cannotWrite(const QString& fileName, const QString& reason)
     return Words::tr("Cannot write \"%1\": %2.").arg(fileName, reason);
 }
 
-// The resolution in which fonts of a size in points were laid out.
+// The resolution for the layout of fonts with sizes in points.
 int layoutDpi()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -52,7 +52,7 @@ QByteArray millimeters(double points)
     return QByteArray::number(points / PointsPerInch * MillimetersPerInch, 'g', 8) + "mm";
 }
 
-// The generator rounds the size of a document to pixels; a label is cut to size.
+// The generator rounds a document's size to pixels; a label must have its exact size.
 QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
 {
     QString head = QString::fromUtf8(svg.left(HeadLength));
@@ -74,7 +74,7 @@ QByteArray svgOf(const Canvas& canvas, const QString& title)
     generator.setResolution(layoutDpi());
     generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
     generator.setViewBox(canvas.pageRect());
-    generator.setTitle(title.toHtmlEscaped()); // the generator does not escape it
+    generator.setTitle(title.toHtmlEscaped()); // the generator does not escape the title
     generator.setDescription(QStringLiteral("LabelPort"));
     QPainter painter(&generator);
     paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
@@ -82,7 +82,7 @@ QByteArray svgOf(const Canvas& canvas, const QString& title)
     return withNamedItems(withTrueSize(buffer.data(), canvas.page().size));
 }
 
-// In whole points, as QPdfWriter writes it, and large enough for the page: TrueSizePdf cuts it.
+// In whole points, as QPdfWriter writes it, rounded up: TrueSizePdf corrects it.
 QPageSize pageSizeOf(const Canvas& canvas)
 {
     const QSizeF page = canvas.page().size;
@@ -153,7 +153,7 @@ QString writePdf(const Canvas& canvas, const QString& fileName, const QString& t
 bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,
                 const PreparePage& prepare)
 {
-    // The first page must be as it is wanted before the painting begins.
+    // The first page must be prepared before painting begins.
     if (pages < 1 || !prepare(0)) {
         return false;
     }

@@ -11,11 +11,11 @@ namespace workbench {
 
 class Canvas;
 
-/// Longest side of a page that a PDF document can have, in points.
+/// Longest side of a PDF page, in points.
 inline constexpr double MaximumPdfSide = 14'400.0;
 
 /// Prepares the canvas for the page of this number, counted from 0. Return false to stop; then
-/// nothing is written.
+/// no file is written.
 using PreparePage = std::function<bool(qint64 page)>;
 
 /// Writes the page as SVG in its true size: lines as lines, text as text, and each item as a group

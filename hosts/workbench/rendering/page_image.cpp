@@ -24,11 +24,11 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(workbench::PageImage)
 };
 
-// Pixels as doubles: a page may ask for more than an integer holds.
+// Pixels as doubles: a page's size in pixels may exceed an integer.
 QSizeF pixelSize(const Canvas& canvas, double dpi)
 {
     const QSizeF size = canvas.page().size * (dpi / kPointsPerInch);
-    // A page of whole inches must not get one pixel more because of rounding.
+    // Rounding errors must not add a pixel to a page of whole inches.
     return {std::max(1.0, std::ceil(size.width() - 1e-6)),
             std::max(1.0, std::ceil(size.height() - 1e-6))};
 }
@@ -39,7 +39,7 @@ bool isWithinBounds(const QSizeF& pixels)
            pixels.width() * pixels.height() <= static_cast<double>(kMaximumImagePixels);
 }
 
-// The largest whole resolution at which the page fits.
+// The largest integral resolution at which the page fits.
 int largestDpi(const QSizeF& page)
 {
     const double longest = std::max(page.width(), page.height());
@@ -66,7 +66,7 @@ QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
     return best < 1 ? text : text + Words::tr(" Up to %1 dots per inch are possible.").arg(best);
 }
 
-// The last row and column may be covered by the page in part only: they are the page's too.
+// The page may cover the last row and column only partly: fill them completely.
 QColor groundOf(const Canvas& canvas)
 {
     const QColor color = canvas.canvasBackgroundColor();
@@ -101,8 +101,8 @@ PageImage renderPage(const Canvas& canvas, double dpi)
     painter.scale(dpi / kPointsPerInch, dpi / kPointsPerInch);
     paintPage(painter, canvas);
     painter.end();
-    // Only now: fonts would take a resolution that the image has while it is painted on
-    // for a reason to change their size.
+    // Set after painting: fonts would change their size with the resolution of the image
+    // that they are painted on.
     image.setDotsPerMeterX(dotsPerMetre(dpi));
     image.setDotsPerMeterY(dotsPerMetre(dpi));
     return {image, {}};

@@ -14,7 +14,7 @@ using BeforeItem = std::function<void(int position)>;
 /// Paints the page and its items from bottom to top, clipped to the page.
 ///
 /// The painter's unit must be the point, its origin the upper left corner of the page.
-/// Pictures, prints and vector files are all painted by this function, so that they look alike.
+/// Pictures, prints and vector files all use this function, so that they look alike.
 void paintPage(QPainter& painter, const Canvas& canvas, const BeforeItem& beforeItem = {});
 
 } // namespace workbench

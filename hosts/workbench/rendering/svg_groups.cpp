@@ -12,7 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace workbench {
 namespace {
 
-// A mark is a path without pen and brush, far away from any page: "M-900000,7 L-900000,7". The
+// A mark is a path without pen and brush, far outside any page: "M-900000,7 L-900000,7". The
 // generator writes numbers with six digits.
 constexpr int MarkX = -900'000;
 constexpr int LargestNumber = 999'999;
@@ -85,7 +85,7 @@ private:
         ++m_depth;
         m_isText = m_reader.name() == "text"_L1;
         if (m_depth == StateDepth && m_reader.name() == "g"_L1) {
-            m_state = m_reader.attributes(); // written with its first content
+            m_state = m_reader.attributes(); // start tag, written with the first content
             return;
         }
         if (const std::optional<int> number = markedNumber(m_reader)) {
@@ -152,7 +152,7 @@ private:
     QXmlStreamWriter m_writer;
     int m_depth = 0;
     bool m_isText = false;
-    bool m_isMark = false;   // the state group that ends next held only a mark
+    bool m_isMark = false;   // the current state group contained only a mark
     bool m_isInItem = false; // the group of an item is open
     std::optional<int> m_pendingItem;
     std::optional<QXmlStreamAttributes> m_state;
@@ -163,7 +163,7 @@ private:
 void markSvgItem(QPainter& painter, int number)
 {
     if (number > LargestNumber) {
-        return; // it becomes part of the last item's group
+        return; // its content is appended to the last item's group
     }
     painter.save();
     painter.setPen(Qt::NoPen);

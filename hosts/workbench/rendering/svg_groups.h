@@ -7,9 +7,9 @@ class QPainter;
 namespace workbench {
 
 // Qt's SVG generator writes one group for each change of the painter's state, most of them empty,
-// and cannot give groups a name. Invisible marks in the drawing say where an item begins.
+// and cannot name groups. Invisible marks in the drawing show where an item begins.
 
-/// Marks that what is painted from here on belongs to the item of this number.
+/// Marks the start of the item of this number; all that is painted next belongs to it.
 void markSvgItem(QPainter& painter, int number);
 
 /// The drawing of Qt's generator without empty groups, and with a group "item-7" for the item

@@ -5,12 +5,12 @@
 namespace workbench {
 namespace {
 
-// QPdfWriter writes a page's dictionary at once, with "/MediaBox [0 0 284.000000 341.000000]".
+// QPdfWriter writes a page's dictionary in one call, with "/MediaBox [0 0 284.000000 341.000000]".
 constexpr QByteArrayView PageType = "/Type /Page\n";
 constexpr QByteArrayView BoxStart = "/MediaBox [";
 
-// Left, bottom, right and top in points. The content hangs from the upper edge, so the bottom
-// takes what rounding has added to the height.
+// Left, bottom, right and top in points. The content is positioned from the upper edge, so the
+// bottom takes the height that rounding has added.
 QByteArray mediaBox(const QSizeF& page)
 {
     const double top = std::ceil(page.height());
@@ -39,7 +39,7 @@ qint64 TrueSizePdf::writeData(const char* data, qint64 size)
     if (!given.contains(PageType)) {
         return m_file.write(data, size);
     }
-    // The length must stay: the document's table of contents has byte offsets.
+    // The length must not change: the cross-reference table contains byte offsets.
     QByteArray page = given.toByteArray();
     const qsizetype start = page.indexOf(BoxStart) + BoxStart.size();
     const qsizetype end = page.indexOf(']', start);

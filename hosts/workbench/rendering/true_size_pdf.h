@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// Passes a document of QPdfWriter on to a file, and sets the exact size of its pages:
+/// Forwards a document of QPdfWriter to a file and sets the exact size of its pages:
 /// QPdfWriter rounds it to whole points. Its page size must be that size, rounded up.
 class TrueSizePdf final : public QIODevice
 {

@@ -4,14 +4,14 @@
 
 namespace workbench {
 
-/// Puts the written file in the place of the old one, if all of it reached the disk.
+/// Replaces the old file with the new one if all of it was written.
 ///
-/// A full disk shows only when the buffer is flushed, and committing alone does not look:
-/// it would put half a file in the old one's place.
+/// A full disk is noticed only when the buffer is flushed, and commit() does not check that:
+/// it would replace the old file with an incomplete one.
 [[nodiscard]] inline bool commitWhole(QSaveFile& file)
 {
     if (!file.flush() || file.error() != QFileDevice::NoError) {
-        return false; // discarded with the object; canceling would replace the system's error
+        return false; // discarded by the destructor; canceling would replace the system's error
     }
     return file.commit();
 }

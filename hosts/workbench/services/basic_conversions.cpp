@@ -14,6 +14,6 @@ double BasicConversions::normalizeAngle(double degrees)
     }
     const double turned = std::fmod(degrees, 360.0);
     const double positive = turned < 0.0 ? turned + 360.0 : turned;
-    // A tiny negative angle rounds up to a whole turn; -0.0 becomes 0.0.
+    // A tiny negative angle rounds up to a full turn; -0.0 becomes 0.0.
     return positive >= 360.0 ? 0.0 : positive + 0.0;
 }

@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-// What is on the box.
+// The content of the box.
 class TalMessageBox::Private
 {
 public:
@@ -18,7 +18,7 @@ namespace {
 QLabel* makeLabel(const QString& text, QWidget* parent)
 {
     auto* label = new QLabel(parent);
-    // Messages quote labels, whose content is nobody's markup.
+    // Messages quote texts of labels, which must not be interpreted as markup.
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
     label->setWordWrap(true);
@@ -28,7 +28,7 @@ QLabel* makeLabel(const QString& text, QWidget* parent)
 
 QDialogButtonBox::StandardButtons toBoxButtons(QFlags<QMessageBox::StandardButton> buttons)
 {
-    // The two enumerations share their numbers.
+    // The two enumerations have the same values.
     return QDialogButtonBox::StandardButtons(static_cast<int>(buttons));
 }
 
@@ -66,7 +66,7 @@ TalMessageBox::TalMessageBox(const QString& title, const QString& text,
     }
     connect(d->buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(d->buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    // Whoever hears the signal deletes the box: not from within its own event handling.
+    // A receiver of the signal deletes the box, which must not happen in its own event handler.
     connect(this, &QDialog::finished, this, &TalMessageBox::popupHideSignal, Qt::QueuedConnection);
 }
 
