@@ -5,7 +5,10 @@
 #include "workbench/import/file_check.h"
 #include "workbench/import/label_import.h"
 
+#include <private/qzipwriter_p.h>
+
 #include <QApplication>
+#include <QBuffer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QWidget>
@@ -80,7 +83,38 @@ QStringList textsOf(const QList<ImportIssue>& issues)
     return texts;
 }
 
+// A package whose members are encrypted, as far as an import looks at it.
+QByteArray packageWithManifest(const QByteArray& manifest)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QZipWriter package(&buffer);
+    package.addFile(QStringLiteral("META-INF/manifest.xml"), manifest);
+    package.addFile(QStringLiteral("styles.xml"), QByteArrayLiteral("\x8f\x02\xe1 not XML"));
+    package.addFile(QStringLiteral("content.xml"), QByteArrayLiteral("\x8f\x02\xe1 not XML"));
+    package.close();
+    return bytes;
+}
+
 } // namespace
+
+TEST(LabelImport, SaysThatADocumentIsProtectedByAPassword)
+{
+    const Folder folder;
+    const QString encrypted = folder.write(
+        "encrypted.odt", packageWithManifest("<manifest:manifest><manifest:file-entry>"
+                                             "<manifest:encryption-data/></manifest:file-entry>"
+                                             "</manifest:manifest>"));
+    EXPECT_EQ(importLabel(encrypted).error.toStdString(),
+              "The document is protected by a password. Open it in an office program, save it "
+              "without a password, and import it again.");
+
+    const QString damaged =
+        folder.write("damaged.odt", packageWithManifest("<manifest:manifest/>"));
+    EXPECT_FALSE(importLabel(damaged).error.isEmpty());
+    EXPECT_FALSE(importLabel(damaged).error.contains(QStringLiteral("password")));
+}
 
 TEST(Import, BringsTheItemsOfAFileOntoACanvas)
 {
@@ -104,8 +138,7 @@ TEST(Import, RendersADrawingThatIsARasterPicture)
                            "height='4'><rect width='4' height='4' fill='lime'/></svg>";
     const Folder folder;
     const ImportResult result = importLabel(
-        folder.write("logo.qmtx", "<qmtx><controls><picture_box><image><content>" +
-                                      svg.toBase64() +
+        folder.write("logo.qmtx", "<qmtx><controls><picture_box><image><content>" + svg.toBase64() +
                                       "</content></image></picture_box></controls></qmtx>"));
     ASSERT_TRUE(result.isImported()) << qPrintable(result.error);
     ASSERT_EQ(result.canvas->items().size(), 1);

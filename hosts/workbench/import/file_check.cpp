@@ -1,5 +1,7 @@
 #include "workbench/import/file_check.h"
 
+#include "limits/zip/zip_directory.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -12,6 +14,9 @@ struct Words
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::FileCheck)
 };
+
+// In bytes. A manifest has a few hundred for each member.
+constexpr qint64 LargestManifest = 4LL * 1024 * 1024;
 
 } // namespace
 
@@ -54,6 +59,22 @@ QString misnamedFileHint(const QString& fileName, ReaderKind reader)
             : Words::tr("The file is XML, but it was read as \"%1\". If it is an XML label, rename "
                         "it so that it ends in \".qmtx\", or use --reader %2.");
     return hint.arg(readerOf(reader).name, readerOf(*content).name);
+}
+
+bool isPasswordProtected(const QString& fileName)
+{
+    ziplimits::ZipDirectory package;
+    if (package.open(fileName)) {
+        return false;
+    }
+    const auto manifest = package.read(QStringLiteral("META-INF/manifest.xml"), LargestManifest);
+    return manifest && manifest->contains("encryption-data");
+}
+
+QString passwordProtectedMessage()
+{
+    return Words::tr("The document is protected by a password. Open it in an office program, save "
+                     "it without a password, and import it again.");
 }
 
 } // namespace workbench

@@ -13,4 +13,10 @@ namespace workbench {
 /// format; empty if the content does not show that.
 [[nodiscard]] QString misnamedFileHint(const QString& fileName, ReaderKind reader);
 
+/// Whether a file is an OpenDocument package whose manifest lists encrypted members.
+[[nodiscard]] bool isPasswordProtected(const QString& fileName);
+
+/// User-visible reason why a password-protected document is refused, with the remedy.
+[[nodiscard]] QString passwordProtectedMessage();
+
 } // namespace workbench

@@ -42,6 +42,10 @@ ImportResult importReadableFile(const QString& fileName, ReaderKind reader)
     result.log = observer.log();
     result.cutSources = observer.cutSources();
     if (!imported) {
+        if (isPasswordProtected(fileName)) {
+            result.error = passwordProtectedMessage();
+            return result;
+        }
         const QString misnamed = misnamedFileHint(fileName, reader);
         result.error = misnamed.isEmpty() ? observer.failure() : misnamed;
         return result;
