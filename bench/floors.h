@@ -2,15 +2,15 @@
 
 #include <QString>
 
-/// What no reader can do without: the same bytes gone through with what Qt has for them, and
-/// nothing made of it. A reader cannot be faster than its floor without leaving Qt's tools.
+/// The minimum for any reader: the same bytes read with Qt's classes, and nothing built. A reader
+/// that uses these classes cannot be faster than its floor.
 namespace bench {
 
-/// The file's fields, one after the other, by a bare QDataStream.
+/// Reads the file's fields with a bare QDataStream.
 void walkCanvasFile(const QString& path);
-/// The file into a QDomDocument.
+/// Parses the file into a QDomDocument.
 void parseXmlLabel(const QString& path);
-/// Both members unpacked, each into a QDomDocument.
+/// Unpacks both members and parses each into a QDomDocument.
 void parseDrawing(const QString& path);
 
 } // namespace bench

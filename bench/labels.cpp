@@ -285,7 +285,7 @@ QByteArray drawing(int shapes, Texts texts)
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QZipWriter writer(&buffer);
-    // Other programs tell the format by this member, which stands first and unpacked.
+    // Other programs detect the format by this member, which must be the first and uncompressed.
     writer.setCompressionPolicy(QZipWriter::NeverCompress);
     writer.addFile(u"mimetype"_s, QByteArray("application/vnd.oasis.opendocument.graphics"));
     writer.setCompressionPolicy(QZipWriter::AlwaysCompress);

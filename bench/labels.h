@@ -4,9 +4,9 @@
 
 #include <QByteArray>
 
-/// Labels of any size to measure with. The kinds of objects are mixed as on real labels and
-/// come round every ten objects, so that labels of all sizes are alike. Pictures and symbols
-/// are left out: what they cost is what their decoders cost.
+/// Labels of any size for measurements. The kinds of objects are mixed as on real labels and
+/// repeat every ten objects, so that labels of all sizes are comparable. Without pictures and
+/// symbols, whose time is that of their decoders.
 namespace bench {
 
 /// A binary canvas file of the newest version: shapes, texts and barcodes.
@@ -17,8 +17,8 @@ namespace bench {
 
 enum class Texts { None, Some };
 
-/// A drawing, packed as office programs pack it: rectangles, lines, ellipses, custom shapes,
-/// text boxes. With texts, three of ten shapes have some; without, none has.
+/// A drawing, compressed as by office programs: rectangles, lines, ellipses, custom shapes,
+/// text boxes. With texts, three of ten shapes have one; without, none.
 [[nodiscard]] QByteArray drawing(int shapes, Texts texts);
 
 } // namespace bench

@@ -1,4 +1,4 @@
-// bench_make_label OBJECTS FILE    writes a label to measure with, of the kind of FILE's suffix
+// bench_make_label OBJECTS FILE    writes a label for measurements; FILE's suffix is its format
 
 #include "bench/labels.h"
 

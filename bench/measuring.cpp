@@ -8,7 +8,7 @@ namespace bench {
 
 namespace {
 
-// A line of the system's own account of this process, which it gives in kilobytes.
+// A value of this process's status in the proc file system, in kilobytes.
 qint64 statusBytes(const QByteArray& name)
 {
     QFile status(QStringLiteral("/proc/self/status"));

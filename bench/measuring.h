@@ -8,8 +8,8 @@
 /// Time and memory of one piece of work.
 namespace bench {
 
-/// The processor time of this process, in seconds: what other programs do meanwhile disturbs
-/// it far less than the time on the clock.
+/// The processor time of this process, in seconds: other programs affect it far less than the
+/// elapsed time.
 [[nodiscard]] inline double processSeconds()
 {
     timespec now{};
@@ -25,14 +25,14 @@ template <class Work>
     return processSeconds() - start;
 }
 
-/// The most memory that this process has had at once, in bytes.
+/// The peak memory of this process, in bytes.
 [[nodiscard]] qint64 peakBytes();
 
-/// The memory that this process has now, in bytes.
+/// The current memory of this process, in bytes.
 [[nodiscard]] qint64 currentBytes();
 
-/// By how much a piece of work raises the peak, in bytes. Only the first such measurement of a
-/// process means anything, hence childOutput().
+/// Increase of the peak memory by a piece of work, in bytes. Only the first measurement of a
+/// process is meaningful, hence childOutput().
 template <class Work>
 [[nodiscard]] qint64 peakOf(const Work& work)
 {
@@ -41,7 +41,7 @@ template <class Work>
     return peakBytes() - before;
 }
 
-/// Runs this program again with these arguments, and gives the line that it prints.
+/// Runs this program again with these arguments, and returns the line that it prints.
 [[nodiscard]] QString childOutput(const QStringList& arguments);
 
 } // namespace bench

@@ -1,7 +1,7 @@
-// Each reader into a host that keeps no trace, beside its floor on the same file.
+// Each reader with a host that records nothing, compared with its floor on the same file.
 //
 // bench_readers [LARGEST SIZE]             measures and prints the table
-// bench_readers --peak import|floor FILE   prints the bytes by which that raises the peak
+// bench_readers --peak import|floor FILE   prints the increase of the peak memory in bytes
 
 #include "bench/floors.h"
 #include "bench/labels.h"
@@ -31,7 +31,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Repetitions = 5;
-// So much is done in one repetition that its time can be told.
+// Objects per repetition, enough for a measurable time.
 constexpr int ItemsPerRepetition = 10'000;
 
 template <class Reader>
@@ -43,7 +43,7 @@ void importWith(const QString& path, recorder::RecordingHost& host)
     }
 }
 
-// A program makes one reader for all its files; each import that is measured makes its own.
+// A program uses one reader for all its files; here each measured import creates one.
 template <class Reader>
 void makeReader()
 {
@@ -51,8 +51,8 @@ void makeReader()
     const Reader reader(host.canvasModel(), host.datasourceController());
 }
 
-// A text of a drawing as the reader writes it: what QGraphicsTextItem::setHtml() takes for
-// one is by far the most that such a text costs.
+// A text of a drawing as the reader writes it. Most of the time for such a text is in
+// QGraphicsTextItem::setHtml().
 constexpr char16_t TextHtml[] =
     u"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0//EN\" "
     "\"http://www.w3.org/TR/REC-html40/strict.dtd\">\n"
@@ -67,7 +67,7 @@ constexpr char16_t TextHtml[] =
 
 enum class RichTexts { AreHtml, ArePlain };
 
-// The host's share of an import: the same items made again, and nothing read.
+// The host's share of an import: creates the same items without reading.
 void makeItems(const QList<KestTypes::ShapeType>& types, RichTexts texts,
                recorder::RecordingHost& host)
 {
@@ -114,7 +114,7 @@ QString benchmarkName(const Format& format, int size)
     return format.name + u'/' + QString::number(size);
 }
 
-// One after the other, so that whatever slows the machine down slows all of them.
+// Alternately, so that a temporary slowdown of the machine affects all of them.
 void measureTogether(benchmark::State& state, const Format& format, const QString& path)
 {
     recorder::RecordingHost remembering;
@@ -132,7 +132,7 @@ void measureTogether(benchmark::State& state, const Format& format, const QStrin
         (void)iteration;
         reader += bench::secondsOf(format.makeReader);
         floor += bench::secondsOf([&] { format.floor(path); });
-        // The end of the items is not measured: it comes when the label is closed.
+        // Deleting the items is not measured: it happens when the label is closed.
         recorder::RecordingHost quietHost;
         imported += bench::secondsOf([&] { format.importFile(path, quietHost); });
         quietHost.reset();
@@ -186,7 +186,7 @@ QStringList row(const Format& format, int size, const QString& path, const bench
             megabytes(bench::childOutput({u"--peak"_s, u"floor"_s, path}))};
 }
 
-// How the time grows from one size to the next, which is ten times as large.
+// Growth of the time from one size to the next, which is ten times as large.
 QString growth(const Format& format, int size, const bench::Samples& samples)
 {
     const double before = bench::median(samples.of(benchmarkName(format, size / 10), u"import"_s));

@@ -1,5 +1,5 @@
-// bench_startup FILE    what a process does that imports one label to a picture, and what each
-//                       step takes of the processor; nothing is left out, as nothing is warm
+// bench_startup FILE    processor time of each step of a process that imports one label and
+//                       writes it as a picture, from program start, with cold caches
 #include "bench/measuring.h"
 #include "bench/table.h"
 
@@ -19,7 +19,7 @@ namespace {
 
 constexpr double Dpi = 300.0;
 
-/// The steps and their times, in the order in which they came.
+/// The steps and their times, in the order of execution.
 class Steps
 {
 public:

@@ -55,7 +55,7 @@ void printTable(const QList<QStringList>& rows)
     QTextStream out(stdout);
     for (const QStringList& row : rows) {
         for (qsizetype i = 0; i < row.size(); ++i) {
-            // The first column is words, the others are numbers.
+            // The first column has words, the others numbers.
             out << (i == 0 ? row[i].leftJustified(widths[i]) : row[i].rightJustified(widths[i]))
                 << (i + 1 < row.size() ? "  " : "\n");
         }

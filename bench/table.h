@@ -8,14 +8,14 @@
 
 namespace bench {
 
-/// Gathers the counters of all repetitions, to be looked at when all have run. Prints nothing.
+/// Collects the counters of all repetitions for evaluation after the run. Prints nothing.
 class Samples : public benchmark::BenchmarkReporter
 {
 public:
     bool ReportContext(const Context& /*context*/) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override;
 
-    /// All values of a counter, one for each repetition.
+    /// The values of a counter, one for each repetition.
     [[nodiscard]] QList<double> of(const QString& benchmark, const QString& counter) const;
 
 private:
@@ -23,10 +23,10 @@ private:
 };
 
 [[nodiscard]] double median(QList<double> values);
-/// How far the values lie apart: the lowest and the highest, as "1.02-1.10".
+/// The range of the values, lowest and highest, as "1.02-1.10".
 [[nodiscard]] QString spread(const QList<double>& values, int decimals);
 
-/// Prints rows of texts in columns as wide as they need.
+/// Prints rows of texts in columns of the necessary width.
 void printTable(const QList<QStringList>& rows);
 
 } // namespace bench

@@ -1,10 +1,10 @@
-// The real host at work: importing, saving, opening, drawing; how time and memory grow with the
-// label.
+// The workbench: importing, saving, opening, drawing; growth of time and memory with the size of
+// the label.
 //
 // bench_workbench [LARGEST SIZE]       measures and prints the table
-// bench_workbench --steps FILE         does everything once and prints seconds and bytes
-// bench_workbench --imports N FILE     imports N times after a first time, and prints what each
-//                                      took: seconds of the processor and on the clock
+// bench_workbench --steps FILE         runs each step once and prints seconds and bytes
+// bench_workbench --imports N FILE     imports N times after a warm-up, and prints for each the
+//                                      processor time and the elapsed time in seconds
 
 #include "bench/labels.h"
 #include "bench/measuring.h"
@@ -104,7 +104,7 @@ struct Medians
     QList<double> peak;
 };
 
-// Each round in a process of its own: what one leaves behind in memory would change the next.
+// Each round runs in a new process, so that the memory of one does not affect the next.
 Medians measured(const Format& format, const QString& path)
 {
     Medians all;

@@ -1,9 +1,9 @@
 # labelport_run_path(TARGET FOLDER...)
 #
-# Where an installed target finds its libraries: folders relative to its own place, so that an
-# installation can be moved. Builds use the same path. For one of their own CMake makes room by an
-# empty name, and an empty name is the folder where the user stands: whatever lies there under a
-# library's name would be loaded.
+# The folders in which an installed target finds its libraries, relative to its own folder, so that an
+# installation can be moved. Builds use the same path: CMake would pad a separate one with an empty
+# entry, and an empty entry means the current folder, so libraries of the same name in the current
+# folder would be loaded.
 function(labelport_run_path target)
     list(TRANSFORM ARGN PREPEND "$ORIGIN/" OUTPUT_VARIABLE folders)
     set_target_properties(${target} PROPERTIES
@@ -13,8 +13,8 @@ endfunction()
 
 # labelport_install_program(TARGET)
 #
-# Installs a program. It goes into a folder of its own together with what the importer's library
-# expects beside a program, the symbol databases; the folder of programs gets a link to it.
+# Installs a program in libexec, together with the symbol databases, which the importer's library
+# expects in the program's folder. The folder of programs gets a link to it.
 set(LABELPORT_PROGRAM_DIR ${CMAKE_INSTALL_LIBEXECDIR}/labelport)
 
 function(labelport_install_program target)
@@ -22,7 +22,7 @@ function(labelport_install_program target)
     if(NOT name)
         set(name ${target})
     endif()
-    # In a build, the libraries stand beside the programs.
+    # In a build, the libraries are in the folder of the programs.
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR
         BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBEXECDIR}/labelport" OUTPUT_VARIABLE libraries)
     labelport_run_path(${target} . ${libraries})

@@ -1,9 +1,9 @@
-# Precompiled headers, shared by all targets: more than half of a build's time otherwise goes into
-# reading the same headers of Qt and the standard library.
+# Precompiled headers, shared by all targets: otherwise more than half of the build time is spent on
+# the same headers of Qt and the standard library.
 
 option(LABELPORT_PRECOMPILED_HEADERS "Precompile the headers that most sources include" ON)
 
-# Executables get the code model of libraries, so that one precompiled header serves both.
+# Executables use the code model of libraries, so that both can use one precompiled header.
 set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
 
 # labelport_precompile(TARGET core|widgets|tests)
@@ -14,8 +14,8 @@ set(LABELPORT_PRECOMPILED_core Qt6::Core)
 set(LABELPORT_PRECOMPILED_widgets Qt6::Widgets)
 set(LABELPORT_PRECOMPILED_tests Qt6::Widgets GTest::gtest GTest::gmock)
 
-# To optimize a test's own code takes far longer than it saves; what it tests is optimized as
-# always. The precompiled header must be made with the same options.
+# Optimizing the test code takes far longer than it saves; the tested code is optimized as usual.
+# The precompiled header must be compiled with the same options.
 set(LABELPORT_TEST_OPTIONS $<$<NOT:$<CONFIG:Debug>>:-O1>)
 
 function(labelport_precompile target header)

@@ -4,12 +4,12 @@
 # included by their path below the house, `tavrel/legacy_tavrel.h` for library/tavrel/.
 #
 # A target finds the headers of the rooms that it links, and no others: each room has an include
-# folder of its own, with a link to its sources. So the direction of the dependencies is checked by
-# the compiler.
+# folder of its own, with a link to its sources. The compiler therefore checks the direction of the
+# dependencies.
 #
 # Rooms are object libraries unless STATIC is given: compiled-in resources, static tables and the
-# host's link-time services must reach the program even if nothing refers to them. CORE says that
-# the room does without Qt Widgets.
+# host's link-time services must be in the program even if nothing refers to them. CORE: the room
+# does not use Qt Widgets.
 function(labelport_room name)
     cmake_parse_arguments(ROOM "STATIC;CORE" "" "SOURCES;LINK" ${ARGN})
     set(kind OBJECT)

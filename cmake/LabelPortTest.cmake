@@ -1,11 +1,11 @@
 # labelport_test(NAME [DECIMAL_COMMA] [MOC] SOURCES ... LINK ...)
 #
 # A test program `NAME` of GoogleTest cases, with the main function of tests/support. CTest runs
-# it offscreen, in UTC and in the C locale, and the programs speak English.
+# it offscreen, in UTC and in the C locale, and the programs use English.
 #
-# DECIMAL_COMMA: CTest runs it once more, as NAME.decimal_comma, in a locale that writes 1,5, so
-# that no number is read or written correctly by luck. For readers, command lines, saved formats
-# and numbers. MOC: the test's own sources have a Q_OBJECT.
+# DECIMAL_COMMA: CTest also runs it as NAME.decimal_comma, in a locale that writes 1,5, to find
+# numbers that are read or written in the user's locale by mistake. For readers, command lines,
+# saved formats and numbers. MOC: the test's own sources have a Q_OBJECT.
 
 # Linking with lld takes an eighth of the time.
 find_program(LABELPORT_LLD ld.lld)

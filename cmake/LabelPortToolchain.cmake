@@ -14,14 +14,14 @@ if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
-# All programs and libraries of a build stand in one folder, so that a program
-# finds the library, the symbol databases and its sister programs beside itself.
+# All programs and libraries of a build are in one folder, because a program expects the
+# library, the symbol databases and the other programs in its own folder.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
 find_program(LABELPORT_CCACHE ccache)
 if(LABELPORT_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # Without this ccache compiles everything anew that uses a precompiled header.
+    # Without this, ccache never finds results for sources with a precompiled header.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${LABELPORT_CCACHE})
 endif()
@@ -46,7 +46,7 @@ if(LABELPORT_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
-# libFuzzer's coverage hooks in every room; the fuzzer itself comes with each target.
+# libFuzzer's coverage hooks in every room; only the targets link the fuzzer.
 if(LABELPORT_FUZZ)
     if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         message(FATAL_ERROR "LABELPORT_FUZZ needs clang: set CMAKE_CXX_COMPILER=clang++")

@@ -1,4 +1,4 @@
-// What a file holds, counted by the code that shares nothing with the readers.
+// Counts the objects of a file with the census, which shares no code with the readers.
 
 #include "fuzz/harness.h"
 #include "fuzz/legacy_file.h"
@@ -27,7 +27,7 @@ void fuzzOneInput(const QByteArray& input)
 {
     const Format format = formatOf(input);
     const migration::Census whole = counted(format, input);
-    // A master page may add to what the bound lets through.
+    // A master page may add objects beyond the limit.
     if (whole.objects.size() > 2 * migration::MaximumObjects) {
         qFatal("more objects were counted than may be");
     }
@@ -35,7 +35,7 @@ void fuzzOneInput(const QByteArray& input)
     if (format == Format::Tavrel && part.objects.size() > whole.objects.size()) {
         qFatal("a part of a file holds more than the whole");
     }
-    // XML that ends too early is damaged, and so is JSON.
+    // Truncated XML or JSON is damaged.
     const bool knowsItsEnd = format == Format::Orvanta || format == Format::SavedLabel;
     if (knowsItsEnd && whole.unknown.isEmpty() && part.unknown.isEmpty() &&
         part.objects.size() != whole.objects.size()) {

@@ -1,4 +1,4 @@
-// Tables: indexing, parsing and every cell of a CSV file.
+// Indexes and parses a CSV file and reads each of its cells.
 
 #include "fuzz/harness.h"
 #include "supply/csv_table_model.h"

@@ -1,4 +1,4 @@
-// A file of any format, imported by the real host and reported on.
+// Imports a file of any format into the workbench and writes the report.
 
 #include "fuzz/harness.h"
 #include "fuzz/legacy_file.h"
@@ -42,7 +42,7 @@ qint64 lostObjects(const FileReport& report)
                            });
 }
 
-// What is on the label is in the file, and what is not on it is listed.
+// Imported and lost objects must add up to the objects in the file.
 void checkNumbers(const FileReport& report)
 {
     if (!report.objects.inFile || report.status != Status::Imported) {

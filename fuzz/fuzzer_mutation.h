@@ -9,7 +9,7 @@
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maximum);
 
-/// The fuzzer's own change to some bytes, which become no more than `maximum`.
+/// libFuzzer's own mutation of some bytes; the result has at most `maximum` bytes.
 inline QByteArray fuzzerMutation(const QByteArray& bytes, qsizetype maximum)
 {
     const qsizetype room = std::max<qsizetype>(maximum, 1);
@@ -21,7 +21,7 @@ inline QByteArray fuzzerMutation(const QByteArray& bytes, qsizetype maximum)
     return changed;
 }
 
-/// Puts an input back into the fuzzer's buffer; one that does not fit is cut.
+/// Copies an input to the fuzzer's buffer, truncated if it does not fit.
 inline std::size_t toFuzzer(const QByteArray& input, std::uint8_t* data, std::size_t maximum)
 {
     const std::size_t size = std::min(std::size_t(input.size()), maximum);

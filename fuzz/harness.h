@@ -3,12 +3,12 @@
 #include <QByteArray>
 #include <QString>
 
-/// What a fuzz target's source defines: hands one input to the code under test, as a host
-/// would. Called many times in one process; must leave nothing behind.
+/// Defined by each fuzz target: passes one input to the code under test, as a host would. Called
+/// many times in one process; must not keep state or leave files.
 void fuzzOneInput(const QByteArray& input);
 
-/// A path under which the bytes can be opened as a file while the object lives. The file
-/// stands in memory only.
+/// A path to open the bytes as a file during the lifetime of the object. The file exists only
+/// in memory.
 class MemoryFile
 {
 public:

@@ -1,5 +1,5 @@
-// A damaged journal, as a power cut leaves one: what stands whole in it is known, and goes on
-// being known.
+// A damaged journal, as after a power failure: its complete records are known, and stay known
+// after records are added.
 
 #include "archive/journal.h"
 #include "archive/journal_compaction.h"
@@ -34,7 +34,7 @@ archive::JournalRecord intactRecord()
             {}};
 }
 
-// What the journal says of all inputs; with a record to add, what it says after that.
+// The journal's records of all inputs, after adding a record if one is given.
 Records recordsOf(const archive::JournalRecord* added = nullptr)
 {
     archive::Journal journal;
@@ -59,7 +59,7 @@ void checkWriting(const archive::JournalRecord& record)
     if (line.count('\n') != 1 || !again || archive::lineOf(*again) != line) {
         qFatal("a record that was written is read as another");
     }
-    // Only looks, whatever the paths are.
+    // Must only read, for all paths.
     (void)archive::untouchedOutputs(record, QStringLiteral("/nowhere"));
 }
 
@@ -68,7 +68,7 @@ void checkWriting(const archive::JournalRecord& record)
 void fuzzOneInput(const QByteArray& input)
 {
     if (input.contains("intact")) {
-        return; // a second word on this file would count
+        return; // A later record of this file would replace the first.
     }
     const archive::JournalRecord intact = intactRecord();
     writeScratch(FileName, archive::lineOf(intact) + input);

@@ -2,8 +2,8 @@
 
 #include <QByteArray>
 
-/// The formats that a file may have by its first bytes: an input for all of them needs nothing
-/// in front that would say which it is.
+/// The possible formats of a file, by its first bytes. Inputs for all formats therefore need no
+/// prefix that selects the format.
 enum class Format {
     Tavrel,
     Orvanta,

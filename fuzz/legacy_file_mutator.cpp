@@ -1,4 +1,4 @@
-// Files of all formats: packages stay packages, and binary files keep a version that is read.
+// Mutates files of all formats: packages stay valid, and binary files keep a supported version.
 
 #include "fuzz/fuzzer_mutation.h"
 #include "fuzz/legacy_file.h"

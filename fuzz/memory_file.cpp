@@ -9,7 +9,7 @@ MemoryFile::MemoryFile(const QByteArray& bytes)
     : m_descriptor(::memfd_create("input", MFD_CLOEXEC))
 {
     if (m_descriptor < 0 || ::write(m_descriptor, bytes.constData(), size_t(bytes.size())) < 0) {
-        std::abort(); // without the input there is nothing to test
+        std::abort(); // Nothing can be tested without the input.
     }
 }
 

@@ -5,19 +5,19 @@
 #include <functional>
 #include <optional>
 
-/// Changes to inputs that keep what a blind change would break at once, so that most of them
-/// reach the code behind the outermost checks.
+/// Mutations that keep the outer structure of an input valid, so that most inputs pass the first
+/// checks.
 
-/// Changes bytes blindly.
+/// Changes bytes at random.
 using BlindMutation = std::function<QByteArray(const QByteArray& bytes)>;
 
-/// Changes one member of a zip package and packs all of them again, with right sizes and
-/// checksums. Every number of `seed` chooses another member or packing.
-/// @return nothing when the bytes are no package that can be unpacked
+/// Changes one member of a zip package and repacks all of them with correct sizes and
+/// checksums. `seed` selects the member and the compression.
+/// @return nothing if the bytes are not a package that can be unpacked
 [[nodiscard]] std::optional<QByteArray> mutatedPackage(const QByteArray& package, quint32 seed,
                                                        const BlindMutation& mutate);
 
-/// Changes a binary canvas file behind its start, which stays that of a version that is
-/// read; some seeds change the version for another.
+/// Changes a binary canvas file after its header, which keeps a supported version; some seeds
+/// select another supported version.
 [[nodiscard]] QByteArray mutatedCanvasFile(const QByteArray& file, quint32 seed,
                                            const BlindMutation& mutate);

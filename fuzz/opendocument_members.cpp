@@ -1,5 +1,5 @@
-// The two XML members of an OpenDocument package, without the zip around them: the input is
-// the styles member, a zero byte, and the content member.
+// The two XML members of an OpenDocument package without the zip container. Input: the styles
+// member, a zero byte, the content member.
 
 #include "fuzz/harness.h"
 #include "fuzz/package_bytes.h"

@@ -1,4 +1,4 @@
-// OpenDocument packages as whole files, twice through one reader.
+// Imports a complete OpenDocument package twice with one reader.
 
 #include "fuzz/harness.h"
 #include "opendocument/open_office_reader.h"

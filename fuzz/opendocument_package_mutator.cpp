@@ -1,4 +1,4 @@
-// Packages stay packages in most inputs.
+// Keeps most inputs valid packages.
 
 #include "fuzz/fuzzer_mutation.h"
 

@@ -1,4 +1,4 @@
-// XML labels as whole files, twice through one reader.
+// Imports a complete XML label twice with one reader.
 
 #include "fuzz/harness.h"
 #include "orvanta/legacy_orvanta.h"

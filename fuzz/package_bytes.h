@@ -2,5 +2,5 @@
 
 #include <QByteArray>
 
-/// A zip package with the two members that an OpenDocument file is read from.
+/// A zip package with the two members that the OpenDocument reader requires.
 [[nodiscard]] QByteArray packageBytes(const QByteArray& styles, const QByteArray& content);

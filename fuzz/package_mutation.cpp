@@ -19,7 +19,7 @@ struct Member
     QByteArray bytes;
 };
 
-// Only what the directory vouches for: the zip reader would take any size at its word.
+// Only packages with a valid directory: the zip reader does not check sizes.
 std::optional<QList<Member>> unpacked(const QByteArray& package)
 {
     const MemoryFile file(package);

@@ -1,4 +1,4 @@
-// Saved labels on their way to a picture: whatever values the items have, painting ends.
+// Paints saved labels to a picture: painting must end for all values of the items.
 
 #include "fuzz/harness.h"
 #include "workbench/document/label_file.h"
@@ -10,7 +10,7 @@ using namespace workbench;
 
 namespace {
 
-// So that the picture stays small whatever the page is.
+// Keeps the picture small for any page size.
 double resolutionFor(const QSizeF& page)
 {
     constexpr double pointsPerInch = 72.0;

@@ -1,5 +1,5 @@
-// Runs a fuzz target over files and folders of inputs, without a fuzzer. Prints how many
-// inputs were run; a run over nothing fails, for it would prove nothing.
+// Runs a fuzz target on files and folders of inputs, without a fuzzer. Prints the number of
+// inputs; fails if there are none.
 
 #include <QDir>
 #include <QDirIterator>

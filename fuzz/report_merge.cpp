@@ -1,4 +1,4 @@
-// A JSON report of another machine, merged into reports.
+// Merges a JSON report of another machine.
 
 #include "fuzz/harness.h"
 #include "fuzz/scratch_folder.h"

@@ -1,6 +1,6 @@
-// The text of a shape on its way to a rich-text item: the input is the styles of a content
-// member, a zero byte, and what stands in the shape. Whatever it is, text stays text: no
-// picture, table or link may come out of it, for those name files.
+// Converts the text of a shape to a rich-text item. Input: the styles of a content member, a
+// zero byte, the shape's content. Text must stay text: the result must not have pictures, tables
+// or links, because they refer to files.
 
 #include "fuzz/harness.h"
 #include "fuzz/package_bytes.h"

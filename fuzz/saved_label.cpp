@@ -1,4 +1,4 @@
-// Saved labels: opened, and what was opened saved and opened again.
+// Opens a saved label, saves it, and opens the result.
 
 #include "fuzz/harness.h"
 #include "workbench/document/label_file.h"

@@ -27,7 +27,7 @@ void writeScratch(const char* name, const QByteArray& bytes)
 {
     QFile file(scratchPath(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        std::abort(); // without the input there is nothing to test
+        std::abort(); // Nothing can be tested without the input.
     }
 }
 

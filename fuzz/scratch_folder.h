@@ -3,12 +3,12 @@
 #include <QByteArray>
 #include <QString>
 
-/// Files for what can only be tested on them. They stand in a folder of the process's own, in
-/// memory where the system has such a place.
+/// Files for code that needs real files. They are in a temporary folder of the process, in
+/// memory if the system has such a file system.
 
-/// The path of a file of the folder, which need not exist.
+/// The path of a file in the folder. The file need not exist.
 [[nodiscard]] QString scratchPath(const char* name);
-/// Writes a file of the folder anew.
+/// Writes or replaces a file in the folder.
 void writeScratch(const char* name, const QByteArray& bytes);
-/// What a file of the folder holds; nothing when there is none.
+/// The content of a file in the folder; empty if the file does not exist.
 [[nodiscard]] QByteArray readScratch(const char* name);

@@ -1,5 +1,5 @@
-// Drawings on their way to a symbol: what comes out names nothing outside itself, comes out
-// the same a second time, and can be drawn.
+// Converts drawings to symbols: the result must have no external references, must convert to
+// itself, and must be drawable.
 
 #include "fuzz/harness.h"
 #include "workbench/symbols/symbol_data.h"

@@ -1,4 +1,4 @@
-// Binary canvas files as whole files, twice through one reader.
+// Imports a complete binary canvas file twice with one reader.
 
 #include "fuzz/harness.h"
 #include "recorder/recording_host.h"

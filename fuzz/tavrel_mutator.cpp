@@ -1,4 +1,4 @@
-// Binary canvas files keep a version that is read.
+// Keeps a supported version in binary canvas files.
 
 #include "fuzz/fuzzer_mutation.h"
 

@@ -1,5 +1,5 @@
-// Each decoder of the binary format alone: the first byte picks the decoder, the second the
-// version, and the rest is the stream that it reads, again and again, to its end.
+// A single decoder of the binary format: the first byte selects the decoder, the second the
+// version. The decoder reads the remaining bytes as a stream, repeatedly until its end.
 
 #include "fuzz/harness.h"
 #include "tavrel/barcodes.h"
@@ -28,7 +28,7 @@ struct Reading
     qint64& pixelsLeft;
 };
 
-// What a decoder has taken into memory, in bytes; never more than there was to take from.
+// Returns the bytes that a decoder has allocated, which must not exceed those it has read.
 using Decode = qsizetype (*)(const Reading& reading);
 
 qsizetype sizeOf(const QString& text)

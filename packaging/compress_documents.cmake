@@ -1,5 +1,5 @@
-# Run by CPack on the folders that become packages: Debian wants change logs and manual pages
-# compressed, and without a time stamp, so that the same build makes the same package.
+# Run by CPack on the package folders: Debian requires compressed change logs and manual pages,
+# without a time stamp, so that the same build makes the same package.
 file(GLOB_RECURSE documents ${CPACK_TEMPORARY_DIRECTORY}/*)
 list(FILTER documents INCLUDE REGEX "/share/(doc/[^/]+/changelog(.Debian)?|man/.*\\.[1-9])$")
 foreach(document IN LISTS documents)

@@ -2,9 +2,9 @@
 #
 #   liblabelport0      component library        for programs that embed the importer
 #   liblabelport-dev   component development    to build such programs
-#   labelport          component programs       for everybody else
+#   labelport          component programs       for users
 
-# The default address only shows the form: example.org is nobody's domain.
+# The default address is a placeholder: example.org is a reserved domain.
 set(LABELPORT_PACKAGE_MAINTAINER "The LabelPort authors <labelport@example.org>" CACHE STRING
     "Maintainer of the Debian packages: name <address>")
 
@@ -68,7 +68,7 @@ the guide for programs that embed the importer.")
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_NAME labelport)
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SHLIBDEPS ON)
-# Symbols are kept in SQLite databases; Qt loads its driver only when it is asked for.
+# Symbols are in SQLite databases; Qt loads the driver at run time, so it is not detected.
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_DEPENDS
     "${library_package} (= ${package_version}), libqt6sql6-sqlite")
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_RECOMMENDS

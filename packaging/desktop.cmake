@@ -1,4 +1,4 @@
-# What a desktop needs to know the window program and the labels' kinds of file.
+# Registers the window program and the labels' file types with the desktop.
 install(FILES ${CMAKE_CURRENT_LIST_DIR}/desktop/labelport-workbench.desktop
     DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
     COMPONENT programs)

@@ -1,5 +1,5 @@
-# What an installation looks like, and what others need to build against it: the CMake package
-# LabelPort (find_package) and the pkg-config file labelport.pc.
+# The layout of an installation, and the files to build against it: the CMake package LabelPort
+# (find_package) and the pkg-config file labelport.pc.
 #
 # Rooms install their own headers and targets, into the export set LabelPortTargets.
 
@@ -28,7 +28,7 @@ install(EXPORT LabelPortTargets
     DESTINATION ${LABELPORT_PACKAGE_DIR}
     COMPONENT development)
 
-# The logging library is not known before its folder was read.
+# The logging library is known only after its folder was processed.
 cmake_language(EVAL CODE
     "cmake_language(DEFER CALL include [[${CMAKE_CURRENT_LIST_DIR}/pkg_config_file.cmake]])")
 

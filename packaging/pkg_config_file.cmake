@@ -1,4 +1,4 @@
-# labelport.pc, with paths relative to where it stands.
+# labelport.pc, with paths relative to its own folder.
 
 cmake_path(SET pc_dir "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig")
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY "${pc_dir}"

@@ -1,12 +1,12 @@
 # Shared by ./run and ./test: installs what is missing, configures and builds.
-# Sourced, not run. Messages go to standard error, so that the standard output of
-# a program that ./run starts stays its own.
+# Sourced, not run. Messages go to standard error, so that standard output has only
+# the output of the program that ./run starts.
 
 project_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 say() { printf '%s\n' "$*" >&2; }
 
-# packages_of LIST...: the package names in scripts/packages/LIST, comments left out.
+# packages_of LIST...: the package names in scripts/packages/LIST, without comments.
 packages_of() {
     local list
     for list in "$@"; do
@@ -18,9 +18,9 @@ is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# install_packages LIST...: installs what of the lists is missing.
+# install_packages LIST...: installs the missing packages of the lists.
 install_packages() {
-    command -v apt-get >/dev/null 2>&1 || return 0 # not Debian: CMake tells what is missing
+    command -v apt-get >/dev/null 2>&1 || return 0 # not Debian: CMake reports what is missing
     local package missing=()
     for package in $(packages_of "$@"); do
         is_installed "$package" || missing+=("$package")

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-/// Nothing to save and nowhere to save it: only LegacyTemplateImporter::importLegacyLabel(), the
-/// import with a dialog, asks this class anything.
+/// This host does not save labels. Only LegacyTemplateImporter::importLegacyLabel(), the import
+/// with a dialog, calls this class.
 class Files : public FileController
 {
 public:
@@ -27,7 +27,7 @@ public:
     void emitLabelTypeLoadedSignal(QString /*labelType*/) override {}
 };
 
-/// A counter, the clock or a list of texts, as the importer described it.
+/// A counter, the clock or a list of texts, with the properties that the importer set.
 class Source : public TalDatasource
 {
 public:
@@ -50,7 +50,7 @@ private:
     QVariantMap m_properties;
 };
 
-/// The label's sources, numbered from 1.
+/// The label's data sources, numbered from 1.
 class Sources : public DatasourceController
 {
 public:

@@ -12,17 +12,17 @@
 #include <type_traits>
 #include <utility>
 
-// One layer for each facet of the contract. The classes of items share a handful of facets;
-// each layer implements one of them, once, on top of whichever class needs it:
+// One layer for each facet of the contract. The item classes share a few facets; each layer is a
+// template that adds one of them to a class:
 //
 //     WithPen<WithBox<LineItem>>      a LineItem with a box and a pen
 //
-// A host that draws keeps what the setters bring. This one keeps sizes and fonts, because it
-// lists sizes and a text is as large as its font makes it; the rest it takes and forgets.
+// A host that draws stores all values. This one stores only sizes and fonts, because it lists
+// sizes, and the size of a text depends on its font.
 //
-// Setters come in any order, before importItem() and after it.
+// Setters are called in any order, before and after importItem().
 
-/// Size, rotation and flips: what every item has. The innermost layer.
+/// Size, rotation and flips of every item. The innermost layer.
 template <typename Base>
 class WithBox : public Base, public ListedItem
 {
@@ -31,7 +31,7 @@ public:
         : ListedItem(std::move(kind))
     {}
 
-    // Importers read sizes back, so this one cannot be left empty.
+    // Importers read sizes back, so sizes must be stored.
     void setItemSize(const QSizeF& size) override { m_size = size; }
     [[nodiscard]] QSizeF getItemSize() const override { return m_size; }
     [[nodiscard]] double getItemWidth() const override { return this->getItemSize().width(); }
@@ -74,7 +74,7 @@ public:
     void setBrushStyle(int /*style*/) override {}
 };
 
-/// Font, colour and alignment of texts, and of the line of text under a barcode.
+/// Font, color and alignment of texts, and of the text line below a barcode.
 template <typename Base>
 class WithFont : public Base
 {
@@ -90,7 +90,7 @@ public:
     }
     void setFontPointSize(int size) override
     {
-        // Our scene's unit is the point, so a pixel of it is one. Bounded, because the number
+        // The scene's unit is the point, so a pixel is a point. Limited, because the number
         // comes from a file.
         m_font.setPixelSize(std::clamp(size, 1, 1000));
         useFont();
@@ -122,7 +122,7 @@ private:
     QFont m_font;
 };
 
-/// The content of a text, and a size that follows it until the importer gives one.
+/// The content of a text, which determines the size until the importer sets one.
 template <typename Base>
 class WithText : public Base
 {
@@ -147,7 +147,7 @@ private:
     bool m_followsText = true;
 };
 
-/// The binding to a data source, for items whose content changes from print to print.
+/// The binding to a data source, for items with variable content.
 template <typename Base>
 class WithDatasource : public Base
 {
@@ -157,7 +157,7 @@ public:
     void setDatasourceFields(const QStringList& /*fields*/) override {}
 };
 
-/// The two colours of barcodes and symbols.
+/// The two colors of barcodes and symbols.
 template <typename Base>
 class WithTwoColors : public Base
 {

@@ -16,8 +16,8 @@
 
 #include <cmath>
 
-// The eleven kinds of items: a class of the contract, the layers of its facets, and what only
-// this kind has.
+// The eleven kinds of items. Each has a class of the contract, the layers of its facets, and its
+// own operations.
 
 template <typename Base>
 using Shape = WithBrush<WithFillColor<WithPen<WithBox<Base>>>>;
@@ -34,7 +34,7 @@ public:
     void setCornerRadius(double /*radius*/) override {}
 };
 
-/// A line comes either with a length or with its two ends on the page.
+/// Importers set either the length of a line or its two ends on the page.
 class Line : public WithPen<WithBox<LineItem>>
 {
 public:
@@ -110,14 +110,14 @@ public:
                                  int /*value*/) override
     {}
 
-    // Qt can draw all the other items by itself; a barcode only its host can.
+    // Qt can draw all other items; a barcode needs an encoder.
     [[nodiscard]] QRectF boundingRect() const override { return {QPointF(), getItemSize()}; }
     void paint(QPainter* /*painter*/, const QStyleOptionGraphicsItem* /*option*/,
                QWidget* /*widget*/) override
     {}
 };
 
-/// A picture brings a size with it: one point for a pixel.
+/// A picture has a natural size: one point per pixel.
 class Picture : public WithDatasource<WithBox<PixMapItem>>
 {
 public:
@@ -135,8 +135,8 @@ class Symbol : public WithDatasource<WithTwoColors<WithFillColor<WithBox<SymbolI
 public:
     using WithDatasource<WithTwoColors<WithFillColor<WithBox<SymbolItem>>>>::WithDatasource;
 
-    /// A symbol brings a size, too; whether there is one tells the importer whether the data is
-    /// any good. We do not look into the drawing, so each of ours is an inch square at first.
+    /// A symbol has a natural size, too; importers treat data without a size as invalid. This
+    /// host does not parse the drawing, so the initial size is one inch square.
     void loadItemFromData(const QByteArray& data) override
     {
         setItemSize(data.isEmpty() ? QSizeF(0.0, 0.0) : QSizeF(72.0, 72.0));

@@ -16,8 +16,8 @@ QString points(const QSizeF& size)
     return QStringLiteral("%1 x %2 pt").arg(points(size.width()), points(size.height()));
 }
 
-/// One line of the list. The importer had only the Item*, too: everything else that an item is,
-/// it found by dynamic_cast, as we do here.
+/// One line of the list. The importer, too, gets only an Item* and finds the other bases with
+/// dynamic_cast.
 QString described(const Item& item)
 {
     const auto& listed = dynamic_cast<const ListedItem&>(item);
@@ -65,7 +65,7 @@ Item* Factory::create(KestTypes::ShapeType type)
     case KestTypes::Octagon:
         return new Polygon(QStringLiteral("octagon"));
     }
-    return nullptr; // A code of some later version: the importer leaves the item out.
+    return nullptr; // A code of a later version: the importer omits the item.
 }
 
 void Label::importCanvasParameters(double width, double height, bool /*canvasFlag*/,

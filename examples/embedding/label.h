@@ -11,14 +11,14 @@
 
 class QTextStream;
 
-/// Makes an item of ours for each code of the contract.
+/// Creates this host's item for each code of the contract.
 class Factory : public ClassFactory
 {
 public:
     [[nodiscard]] Item* create(KestTypes::ShapeType type) override;
 };
 
-/// The open label: a page, and the items on it in the order in which they stack.
+/// The open label: a page, and its items in stacking order.
 class Label : public TalCanvasModel
 {
 public:
@@ -26,12 +26,12 @@ public:
 
     void importCanvasParameters(double width, double height, bool canvasFlag,
                                 bool orientation) override;
-    /// The item is ours from here on. The importer may go on setting its properties, so a label
-    /// is not to be looked at before completeCanvasLoading().
+    /// Takes ownership of the item. The importer may set its properties afterwards, so do not
+    /// use the label before completeCanvasLoading().
     void importItem(Item* item) override;
     void completeCanvasLoading() override {}
 
-    // Importers give items these colours later: answer what was set.
+    // Importers use these colors for items later: return the values that were set.
     void setCanvasBackgroundColor(const QColor& color) override { m_background = color; }
     void setCanvasDefaultPenColor(const QColor& color) override { m_pen = color; }
     [[nodiscard]] QColor canvasBackgroundColor() const override { return m_background; }
@@ -40,7 +40,7 @@ public:
     void setReadOnlyStateOnItemsInList(bool readOnly, QList<QGraphicsItem*> items) override;
     void setUserBackgroundStateOnItemsInList(bool background, QList<QGraphicsItem*> items) override;
 
-    /// Writes the page and, a line for each, the items.
+    /// Prints the page, and one line for each item.
     void list(QTextStream& out) const;
 
 private:

@@ -4,10 +4,10 @@
 
 #include <utility>
 
-/// What this host adds to every item: the word that stands for it in the list.
+/// A base that this host adds to every item: the item's name in the list.
 ///
-/// LabelPort does not know of it. Items may have as many bases of their own as you like, as long
-/// as those of the contract stay as they are.
+/// LabelPort does not use it. Items may have any number of additional bases if those of the
+/// contract remain unchanged.
 class ListedItem
 {
 public:

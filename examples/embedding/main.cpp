@@ -1,4 +1,4 @@
-// embedding FILE: imports an old label and lists what was in it.
+// embedding FILE: imports a legacy label and lists its items.
 
 #include "controllers.h"
 #include "label.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Gives the file to the reader that its name calls for.
+/// Selects the reader by the file's name.
 bool importFile(LegacyTemplateImporter& importer, const QString& fileName)
 {
     switch (readerForFile(fileName)) {
@@ -26,8 +26,8 @@ bool importFile(LegacyTemplateImporter& importer, const QString& fileName)
     return importer.importLabelFromTavrelFile(fileName);
 }
 
-/// A window would show the box and wait for its user. Ours has written its message already, so
-/// it is closed as if the user had done it; the reader that made it deletes it.
+/// A program with windows would show the box and wait for the user. This box has already printed
+/// its message, so it is closed at once; the reader that created it deletes it.
 void closeMessage(QWidget* box)
 {
     if (auto* message = qobject_cast<TalMessageBox*>(box)) {
@@ -47,7 +47,7 @@ void listSources(const Sources& sources, QTextStream& out)
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv); // Fonts and pixmaps need one, and so do the readers.
+    QApplication application(argc, argv); // Required by fonts, pixmaps and the readers.
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 2) {
         QTextStream(stderr) << "usage: embedding FILE\n";

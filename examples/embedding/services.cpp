@@ -1,6 +1,6 @@
 // The services: classes that LabelPort declares and calls, and that the host defines. They need
-// no registration. LabelPort's library leaves them open, and finds them in the program that
-// loads it.
+// no registration. They are undefined symbols in LabelPort's library, which the program that
+// loads it supplies.
 
 #include "host/services/basic_conversions.h"
 #include "host/services/common_lists.h"
@@ -16,15 +16,15 @@
 
 #include <cmath>
 
-// ---- What this host can do --------------------------------------------------------------
+// ---- Capabilities of this host ----------------------------------------------------------
 
 bool CommonLists::isValidFamily(QString family)
 {
     return QFontDatabase::families().contains(family, Qt::CaseInsensitive);
 }
 
-// Ask your barcode library. A code that neither of the two knows becomes a barcode of a default
-// kind or none at all, depending on the format.
+// Ask your barcode library. A code that both functions reject becomes a barcode of a default
+// kind or is omitted, depending on the format.
 bool CommonLists::isValidBarcode1D(unsigned short /*code*/)
 {
     return true;
@@ -62,7 +62,7 @@ QRegularExpression WhiteSpace::getWhiteSpacesSplitRegex()
 }
 
 // ---- Symbols ----------------------------------------------------------------------------
-// `Private` is yours to fill: the classes' layout is LabelPort's, what is behind `d` is not.
+// LabelPort defines the layout of the classes; the content of `Private` is up to you.
 
 class SymbolCreator::Private
 {
@@ -84,8 +84,8 @@ void SymbolCreator::loadImportedSvg(const QByteArray& svg)
 
 bool SymbolCreator::convertSvgToSymbol(const QRectF& /*target*/)
 {
-    // Our form of symbol data is the document as it came, which is safe only because nothing of
-    // ours ever renders it: SVG documents can name files to open, and can be made to take hours.
+    // This host stores the unchanged document, which is safe only because it never renders it:
+    // SVG documents can refer to local files, and rendering can take hours.
     if (!d->loaded.contains("<svg")) {
         return false;
     }
@@ -111,7 +111,7 @@ void SymbolDatabaseModel::setDatabasePath(const QString& /*path*/) {}
 
 QByteArray SymbolDatabaseModel::getDataFromSymbolName(QString /*name*/)
 {
-    return {}; // No databases here: symbols that a label only names are left out.
+    return {}; // No databases: symbols that a label only names are omitted.
 }
 
 // ---- Messages ---------------------------------------------------------------------------
@@ -119,8 +119,8 @@ QByteArray SymbolDatabaseModel::getDataFromSymbolName(QString /*name*/)
 class TalMessageBox::Private
 {};
 
-// A program with windows lays out a label and buttons here, and lets QDialog::finished emit
-// popupHideSignal(). On the command line the message is written at once.
+// A program with windows creates a label and buttons here and connects QDialog::finished to
+// popupHideSignal(). This command-line program prints the message at once.
 TalMessageBox::TalMessageBox(const QString& title, const QString& text,
                              QFlags<QMessageBox::StandardButton> /*buttons*/,
                              QMessageBox::StandardButton /*defaultButton*/, QString /*detail*/,
