@@ -10,17 +10,17 @@
 
 namespace recorder {
 
-/// How a recording host behaves. At first without a fault; tests and measurements change it.
+/// How a recording host behaves. By default without faults; tests and measurements change it.
 struct Behavior
 {
     // Answers.
 
-    /// The size that every symbol has; if unset, that of its drawing.
+    /// The size of every symbol; if unset, that of its drawing.
     std::optional<QSizeF> symbolSize;
-    /// What the symbol creator does with a drawing.
+    /// How the symbol creator converts a drawing.
     enum class Conversion {
         OfSvg,      ///< converts SVG documents, and nothing else
-        OfAnything, ///< gives "symbol of " and the drawing, whatever that is
+        OfAnything, ///< returns "symbol of " and the drawing, whatever its format
         Fails,      ///< reports failure, and has no symbol
         Loses,      ///< reports success, and has no symbol
     };
@@ -30,14 +30,14 @@ struct Behavior
 
     bool hasFactory = true;
     QSet<KestTypes::ShapeType> makesNothingOf;
-    /// Types for which the factory makes an item of another class.
+    /// Types for which the factory returns an item of another class.
     QSet<KestTypes::ShapeType> makesOthersOf;
-    /// The canvas deletes the items that it is given.
+    /// The canvas deletes the items that are added.
     bool deletesItems = false;
-    /// Data sources have numbers, but do not exist.
+    /// Data sources have identifiers, but do not exist.
     bool losesDatasources = false;
     bool sourcesHaveFields = true;
-    /// Called for each item that the canvas is given, before it takes it.
+    /// Called for each item before the canvas adds it.
     std::function<void()> onImportItem;
 };
 

@@ -13,7 +13,7 @@ void LogRecorder::append(const QDateTime& /*timeStamp*/, Logger::LogLevel level,
     if (Recording::current() != m_recording) {
         return;
     }
-    // Neither time nor line number: a trace stays the same when code above a log call grows.
+    // Neither time nor line number: code added above a log call must not change the trace.
     m_recording->trace()->log(Logger::levelToString(level).toLower(), QString::fromUtf8(file),
                               QString::fromUtf8(function), message);
 }

@@ -8,7 +8,7 @@
 
 namespace recorder {
 
-/// Puts log records into the trace, between the calls that they were written between.
+/// Writes log records to the trace, in order with the calls.
 class LogRecorder : public AbstractAppender
 {
 public:

@@ -112,7 +112,7 @@ void Recording::hideMessageBoxes()
     const auto boxes = std::exchange(m_messageBoxes, {});
     for (const QPointer<TalMessageBox>& box : boxes) {
         if (box) {
-            // Whoever made the box may delete it during this.
+            // The owner of the box may delete it during this call.
             Q_EMIT box->popupHideSignal();
         }
     }

@@ -18,18 +18,18 @@ class TalMessageBox;
 
 namespace recorder {
 
-/// The memory of a recording: the trace, and who is who in it.
+/// The state of a recording: the trace and the registered items.
 ///
-/// Everything of the recording host shares one, items included, which may outlive the
-/// host that made them.
+/// Shared by all objects of the recording host, including items, which may outlive the
+/// host that created them.
 class Recording
 {
 public:
-    /// @param out where the trace goes; null to keep none
+    /// @param out receives the trace; null to keep none
     explicit Recording(QIODevice* out);
 
-    /// The recording that the link-time services write to; null when there is none. They
-    /// are called without a host at hand, so there can be only one at a time.
+    /// The recording that the link-time services write to; null if there is none. They
+    /// are called without a host, so there can be only one at a time.
     [[nodiscard]] static std::shared_ptr<Recording> current();
     static void setCurrent(const std::shared_ptr<Recording>& recording);
 
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] TraceWriter* trace() { return m_trace ? &*m_trace : nullptr; }
     [[nodiscard]] Behavior& behavior() { return m_behavior; }
 
-    /// Writes a call down. The arguments become text only if a trace is kept.
+    /// Writes a call. The arguments are converted to text only if a trace is kept.
     template <typename... Arguments>
     void call(const QString& target, const char* name, const Arguments&... arguments)
     {
@@ -45,7 +45,7 @@ public:
             m_trace->call(target, name, {TraceValue(arguments)...});
         }
     }
-    /// The same with the value that the call returns.
+    /// The same with the call's return value.
     template <typename Returned, typename... Arguments>
     void answer(const Returned& returned, const QString& target, const char* name,
                 const Arguments&... arguments)
@@ -55,15 +55,15 @@ public:
         }
     }
 
-    /// Forgets everything that was recorded; items must be gone.
+    /// Clears the recording; all items must have been deleted.
     void reset();
 
-    /// The number that the next item will have.
+    /// The number of the next item.
     [[nodiscard]] int nextItemNumber() const;
-    /// Enters the item that has this number.
+    /// Registers the item of this number.
     void addItem(KestTypes::ShapeType type, QGraphicsItem* item);
     void markImported(int number);
-    /// The item is being deleted.
+    /// Called when an item is deleted.
     void forgetItem(int number);
     [[nodiscard]] int importedCount() const;
     /// The item of this number; null once it is deleted.
@@ -71,15 +71,15 @@ public:
     /// States of the items that still exist, in the order of creation.
     [[nodiscard]] std::vector<ItemState> itemStates() const;
 
-    /// Symbol creators that were made, and those that still exist.
+    /// Symbol creators that were created, and those that still exist.
     int symbolCreatorsMade = 0;
     int symbolCreators = 0;
 
-    /// The number of a symbol database that is being made, from 1.
+    /// The number for a new symbol database, from 1.
     [[nodiscard]] int addSymbolDatabase() { return ++m_symbolDatabases; }
 
     void addMessageBox(TalMessageBox* box);
-    /// Closes the message boxes that are open, as a user would.
+    /// Closes the open message boxes, as a user would.
     void hideMessageBoxes();
 
 private:

@@ -104,7 +104,7 @@ void RecordingCanvas::clear()
 
 void RecordingCanvas::adopt(Item* item)
 {
-    // An item that is handed over twice is a fault to be seen in the trace, not a crash.
+    // An item that is added twice is a fault to show in the trace, not a crash.
     if (item != nullptr && !m_adopted.contains(item)) {
         m_adopted.insert(item);
         m_items.emplace_back(item);

@@ -12,7 +12,7 @@
 
 namespace recorder {
 
-/// A canvas that writes down what is done to it. White, with a black pen, at first.
+/// A canvas that records all calls. Initially white, with a black pen.
 class RecordingCanvas : public TalCanvasModel
 {
 public:
@@ -34,7 +34,7 @@ public:
     void setUserBackgroundStateOnItemsInList(bool background, QList<QGraphicsItem*> items) override;
     void completeCanvasLoading() override;
 
-    /// Deletes the items, and is white with a black pen again.
+    /// Deletes the items and resets the colors to white with a black pen.
     void clear();
 
 private:

@@ -24,7 +24,7 @@ private:
     QString m_target;
 };
 
-/// Makes data sources, numbered from 1.
+/// Creates data sources, numbered from 1.
 class RecordingDatasources : public DatasourceController
 {
 public:

@@ -6,7 +6,7 @@ namespace recorder {
 
 namespace {
 
-/// An item as both of what it is, and who it belongs to.
+/// An item by its two base classes, and its owner.
 struct MadeItem
 {
     std::unique_ptr<Item> item;
@@ -67,7 +67,7 @@ RecordingFactory::RecordingFactory(std::shared_ptr<Recording> recording)
 Item* RecordingFactory::create(KestTypes::ShapeType type)
 {
     const Behavior& behavior = m_recording->behavior();
-    // A class that is right for no other type.
+    // A class that is wrong for every other type.
     const auto other = type == KestTypes::Picture ? KestTypes::Line : KestTypes::Picture;
     MadeItem made;
     if (!behavior.makesNothingOf.contains(type)) {

@@ -7,13 +7,13 @@
 
 namespace recorder {
 
-/// Makes recording items of every class of the contract.
+/// Creates recording items of every class of the contract.
 class RecordingFactory : public ClassFactory
 {
 public:
     explicit RecordingFactory(std::shared_ptr<Recording> recording);
 
-    /// Null for a code that the contract does not have.
+    /// Null for a code that is not in the contract.
     [[nodiscard]] Item* create(KestTypes::ShapeType type) override;
 
 private:

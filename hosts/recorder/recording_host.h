@@ -13,7 +13,7 @@ class QIODevice;
 namespace recorder {
 
 /// Agrees to everything and saves nothing. Only the interactive import command calls it,
-/// which nothing in a recording does.
+/// which a recording never uses.
 class IdleFileController : public FileController
 {
 public:
@@ -25,17 +25,17 @@ public:
     void emitLabelTypeLoadedSignal(QString) override {}
 };
 
-/// A whole host that writes down what an importer does to it, and the log with it.
+/// A complete host that records the calls of an importer, and the log with them.
 ///
 /// Its answers never depend on the machine, so the same file gives the same trace
-/// everywhere. The link-time services and the log belong to the host that was made or reset last.
+/// everywhere. The link-time services and the log use the host that was created or reset last.
 class RecordingHost
 {
 public:
-    /// @param out where the trace goes; outlives the host and every item that it made
+    /// @param out receives the trace; must outlive the host and all its items
     explicit RecordingHost(QIODevice& out);
-    /// Keeps no trace, only the items, and takes every drawing for a symbol without a look: what
-    /// an import costs without a host.
+    /// Keeps no trace, only the items, and accepts every drawing as a symbol unparsed: measures
+    /// an import without the time of a host.
     RecordingHost();
     ~RecordingHost();
     RecordingHost(const RecordingHost&) = delete;
@@ -45,24 +45,24 @@ public:
     [[nodiscard]] DatasourceController* datasourceController() { return &m_datasources; }
     [[nodiscard]] FileController* fileController() { return &m_fileController; }
 
-    /// Only of a host that keeps a trace.
+    /// Requires a trace.
     [[nodiscard]] TraceWriter& trace() { return *m_recording->trace(); }
     [[nodiscard]] Behavior& behavior() { return m_recording->behavior(); }
     /// States of the items that still exist, in the order of creation.
     [[nodiscard]] std::vector<ItemState> itemStates() const { return m_recording->itemStates(); }
     [[nodiscard]] int symbolCreatorsMade() const { return m_recording->symbolCreatorsMade; }
     [[nodiscard]] int symbolCreators() const { return m_recording->symbolCreators; }
-    /// Items that the factory made, and those that the canvas was given.
+    /// Items that the factory created, and those that were added to the canvas.
     [[nodiscard]] int createdCount() const { return m_recording->nextItemNumber() - 1; }
     [[nodiscard]] int importedCount() const { return m_recording->importedCount(); }
     /// The item of this number, from 1; null once it is deleted.
     [[nodiscard]] QGraphicsItem* item(int number) const { return m_recording->item(number); }
-    /// Deletes items and data sources, and counts from 1 again: the host is as if new, and the
-    /// link-time services belong to it.
+    /// Deletes items and data sources and restarts the numbers at 1; the link-time
+    /// services then use this host.
     void reset();
     /// Closes the message boxes that importers have opened.
     void hideMessageBoxes() { m_recording->hideMessageBoxes(); }
-    /// Writes what has become of the items.
+    /// Writes the final states of the items.
     void writeItemStates();
 
 private:

@@ -5,9 +5,9 @@
 
 namespace recorder {
 
-/// A symbol out of a symbol database, which is an SQLite file with the table
-/// symbols(name, svg). Opened for reading only; empty when the file is missing or
-/// damaged, or does not know the name.
+/// Reads a symbol from a symbol database, an SQLite file with the table
+/// symbols(name, svg). Opened read-only; empty if the file is missing or
+/// damaged, or has no symbol of this name.
 [[nodiscard]] QByteArray symbolFromFile(const QString& path, const QString& name);
 
 } // namespace recorder

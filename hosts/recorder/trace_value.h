@@ -19,10 +19,10 @@
 
 namespace recorder {
 
-/// One value of a trace, held as the JSON text that stands in the line.
+/// One value of a trace, held as the JSON text of the line.
 ///
-/// The constructors convert on purpose: what a host is called with is put into a line as
-/// it came. Numbers are the shortest texts that read back to the same number, in any
+/// The constructors are implicit on purpose: arguments of a call are written to a line as
+/// they are. Numbers are the shortest texts that read back to the same number, in any
 /// locale; a number that JSON cannot write is the text "nan", "inf" or "-inf".
 class TraceValue
 {
@@ -53,10 +53,10 @@ public:
     TraceValue(const QPointF& point);
     TraceValue(const QSizeF& size);
     TraceValue(const QRectF& rectangle);
-    /// Size and checksum; the bytes themselves would drown the trace.
+    /// Size and checksum; the bytes themselves would make the trace unreadable.
     TraceValue(const QByteArray& bytes);
     TraceValue(const QPixmap& pixmap);
-    /// A property of a data source: by the type that it holds, else as text.
+    /// A property of a data source: by its type, else as text.
     TraceValue(const QVariant& value);
 
     [[nodiscard]] static TraceValue array(const std::vector<TraceValue>& values);

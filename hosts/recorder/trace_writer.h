@@ -13,12 +13,12 @@ class QIODevice;
 
 namespace recorder {
 
-/// What is left of an item when the import is over.
+/// The state of an item after the import.
 struct ItemState
 {
     int number = 0; ///< from 1, in the order of creation
     KestTypes::ShapeType type{};
-    bool imported = false; ///< whether the canvas has it
+    bool imported = false; ///< whether the item is on the canvas
     QPointF position;
     double z = 0;
     bool movable = false;
@@ -27,14 +27,14 @@ struct ItemState
 
 /// Writes a trace, one JSON object on a line.
 ///
-/// Keys stand in the order in which the format lists them, so that two traces can be
+/// Keys are written in the order of the format's description, so that two traces can be
 /// compared as text.
 class TraceWriter
 {
 public:
     using Values = std::vector<TraceValue>;
 
-    /// @param out where the lines go; open for writing, not owned, outlives the writer
+    /// @param out receives the lines; open for writing, not owned, must outlive the writer
     explicit TraceWriter(QIODevice& out);
 
     void start(const QString& fileName, const QString& reader);
@@ -53,7 +53,7 @@ private:
     QIODevice& m_out;
 };
 
-/// The name that a trace gives to an item.
+/// The name of an item in a trace.
 [[nodiscard]] QString itemTarget(int number);
 
 } // namespace recorder

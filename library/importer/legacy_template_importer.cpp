@@ -17,7 +17,7 @@
 #include <QPointer>
 #include <QSettings>
 
-/// Says that an import runs, while it lives. The importer may go before it does.
+/// RAII flag for a running import; safe if the importer is deleted first.
 class LegacyTemplateImporter::RunningImport
 {
 public:
@@ -50,7 +50,7 @@ LegacyTemplateImporter::LegacyTemplateImporter(TalCanvasModel* canvasModel,
 
 LegacyTemplateImporter::~LegacyTemplateImporter()
 {
-    // The binary reader goes first: it is the one that may still show a message box.
+    // The binary reader is first: only it may still show a message box.
     m_tavrelReader.reset();
     m_orvantaReader.reset();
     m_openOfficeReader.reset();
@@ -66,14 +66,14 @@ void LegacyTemplateImporter::importLegacyLabel(const QString& currentFileName)
     if (fileName.isEmpty()) {
         return;
     }
-    // Before the file is read: hosts clear the old label's type here, and a failed import
-    // leaves no old type behind either.
+    // Before the file is read: hosts reset the label type here, and a failed import must
+    // not leave an old type either.
     m_fileController->emitLabelTypeLoadedSignal(QString());
     rememberFolderOf(fileName);
     const QPointer<LegacyTemplateImporter> self(this);
     if (importByName(fileName) && self) {
-        // Only the last suffix goes here, although the reader was chosen by all of them:
-        // users find their old labels under these names.
+        // Removes only the last suffix, although the complete suffix selected the reader:
+        // existing labels were saved under these names.
         m_fileController->saveImportedLabelAs(m_importFolder,
                                               QFileInfo(fileName).completeBaseName(), QString());
     }
@@ -121,7 +121,7 @@ bool LegacyTemplateImporter::importLabelFromOpenOfficeFile(const QString& fileNa
 
 QString LegacyTemplateImporter::chooseFile()
 {
-    // Always the host's folder, whatever was chosen last time: users know the dialog so.
+    // Always the host's folder, not the last one used: users are accustomed to it.
     m_importFolder = FileControllerTools::getDefaultImportFolder();
     const OpenDialogFilters filters = openDialogFilters();
     QString preselected = filters.preselected;
@@ -137,8 +137,8 @@ void LegacyTemplateImporter::rememberFolderOf(const QString& fileName)
     settings.setValue(QStringLiteral("dir/import"), m_importFolder);
 }
 
-// Readers keep what they know of the present file, and the canvas is half filled: a second
-// import in the middle would spoil both.
+// Readers keep state of the current file, and the canvas is half filled: a second
+// import during the first would corrupt both.
 bool LegacyTemplateImporter::isBusy(const char* function) const
 {
     if (m_isImporting) {

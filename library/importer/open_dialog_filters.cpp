@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-// Translations are those of the host's catalogue, in the context of QObject. The
-// separators between the entries travel in the patterns.
+// Translations are from the host's catalog, in the context of QObject. The
+// separators between the entries are part of the patterns.
 
 OpenDialogFilters openDialogFilters()
 {

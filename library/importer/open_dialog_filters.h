@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// What the open-file dialog offers.
+/// The filters of the open-file dialog.
 struct OpenDialogFilters
 {
-    QString all;         ///< every entry, as QFileDialog takes them
-    QString preselected; ///< the entry that the dialog starts with
+    QString all;         ///< all entries, in the format of QFileDialog
+    QString preselected; ///< the entry that is selected at first
 };
 
 /// The filters in the language of the application.

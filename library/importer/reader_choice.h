@@ -11,14 +11,14 @@
 #include <array>
 #include <optional>
 
-/// The readers that a file can be given to.
+/// The available readers.
 enum class ReaderKind : quint8 {
     Tavrel,       ///< binary canvas files
     Orvanta,      ///< XML label files
     OpenDocument, ///< OpenDocument text and drawing files
 };
 
-/// One reader: its names, its files, and how an importer calls it.
+/// One reader: its names, its suffixes, and the importer's function for it.
 struct Reader
 {
     ReaderKind kind;
@@ -29,7 +29,7 @@ struct Reader
     bool (LegacyTemplateImporter::*importFile)(const QString& fileName);
 };
 
-/// All readers. Files of unknown suffixes belong to the first.
+/// All readers. The first one gets files with unknown suffixes.
 inline constexpr std::array Readers{
     Reader{ReaderKind::Tavrel,
            QLatin1String("tavrel"),
@@ -77,9 +77,9 @@ inline constexpr std::array Readers{
     return std::nullopt;
 }
 
-/// The reader that the import command selects: by the name alone, nothing is opened.
+/// The reader that the import command selects: by the name alone, without opening the file.
 ///
-/// Everything after the first dot counts. Two oddities are compatible with old labels:
+/// Everything after the first dot counts. Two oddities keep compatibility with old labels:
 /// "shelf.old.odt" has the suffix "old.odt" and goes to the binary reader, and so does every file
 /// with an unknown suffix or none. Tools use readerByNameOrContent().
 [[nodiscard]] inline ReaderKind readerForFile(const QString& fileName)
@@ -89,8 +89,8 @@ inline constexpr std::array Readers{
         .value_or(ReaderKind::Tavrel);
 }
 
-/// The reader of the format that the first bytes of a file show; empty if they show none. Binary
-/// labels begin with numbers that do not distinguish them.
+/// The reader of the format that the first bytes of a file identify; empty if unknown. Binary
+/// labels begin with numbers, which do not identify them.
 [[nodiscard]] inline std::optional<ReaderKind> readerOfContent(QByteArray head)
 {
     if (head.startsWith("PK\x03\x04")) {

@@ -11,7 +11,7 @@ public:
     AbstractAppender(const AbstractAppender&) = delete;
     AbstractAppender& operator=(const AbstractAppender&) = delete;
 
-    /// Records below this level are not given to append(); Logger::Debug at first.
+    /// Records below this level are not passed to append(); initially Logger::Debug.
     void setDetailsLevel(Logger::LogLevel level) { m_detailsLevel = level; }
     [[nodiscard]] Logger::LogLevel detailsLevel() const
     {
@@ -25,7 +25,7 @@ public:
 protected:
     virtual void append(const QDateTime& timeStamp, Logger::LogLevel level, const char* file,
                         int line, const char* function, const QString& category,
-                        const QString& message) = 0; ///< Takes one record; one at a time.
+                        const QString& message) = 0; ///< Receives one record; not reentrant.
 
 private:
     Logger::LogLevel m_detailsLevel = Logger::Debug;

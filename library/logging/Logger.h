@@ -1,8 +1,8 @@
 #pragma once
 
 // The part of the CuteLogger interface that LabelPort calls, for systems that
-// have no CuteLogger package. Records go to the registered appenders and to
-// Qt's logging category "labelport"; nothing is written anywhere else.
+// have no CuteLogger package. Records are written to the registered appenders and
+// Qt's logging category "labelport", and to no other place.
 
 #include <QByteArray>
 #include <QDateTime>
@@ -13,13 +13,13 @@
 
 class AbstractAppender;
 
-/// The hub that log records pass through. One per process, see cuteLoggerInstance().
+/// The central logger. One per process, see cuteLoggerInstance().
 ///
 /// Records may be written from any thread; appenders are called one at a time.
 class Q_DECL_EXPORT Logger
 {
 public:
-    /// Severity of a record, in rising order.
+    /// Severity of a record, in ascending order.
     enum LogLevel { Trace, Debug, Info, Warning, Error, Fatal };
 
     Logger();
@@ -34,14 +34,14 @@ public:
 
     /// Adds an appender, which the logger then owns until removeAppender().
     void registerAppender(AbstractAppender* appender);
-    /// Takes an appender out again and gives its ownership back to the caller.
+    /// Unregisters an appender and returns its ownership to the caller.
     void removeAppender(AbstractAppender* appender);
 
-    /// Links a category to the global appenders. Here all are: kept for CuteLogger, which drops
-    /// records of other categories.
+    /// Links a category to the global appenders. Here all are linked: kept for CuteLogger, which
+    /// drops records of other categories.
     void logToGlobalInstance(const QString& category, bool logToGlobal = false);
 
-    /// Hands one record to all appenders.
+    /// Passes one record to all appenders.
     void write(const QDateTime& timeStamp, LogLevel level, const char* file, int line,
                const char* function, const char* category, const QString& message);
 
@@ -50,11 +50,11 @@ private:
     std::unique_ptr<Private> d;
 };
 
-/// The logger that the log calls of the library write to.
+/// The logger that the library's log calls use.
 [[nodiscard]] Q_DECL_EXPORT Logger* cuteLoggerInstance();
 #define loggerInstance cuteLoggerInstance
 
-/// One log call: names the place, then writes one message.
+/// One log call: stores its source location, then writes one message.
 class Q_DECL_EXPORT CuteMessageLogger
 {
 public:
@@ -66,16 +66,16 @@ public:
         , m_line(line)
         , m_function(function)
         , m_category(category)
-    {} ///< Names the place; a write() follows.
+    {} ///< Stores the source location; a write() follows.
     ~CuteMessageLogger();
     CuteMessageLogger(const CuteMessageLogger&) = delete;
     CuteMessageLogger& operator=(const CuteMessageLogger&) = delete;
 
     /// Writes a printf-style message; text arguments are local 8-bit.
     void write(const char* format, ...) const Q_ATTRIBUTE_FORMAT_PRINTF(2, 3);
-    /// Writes a message as it stands.
+    /// Writes a message unchanged.
     void write(const QString& message) const;
-    /// Gives a stream; what was put into it is written when this object goes.
+    /// Returns a stream; its content is written when this object is destroyed.
     [[nodiscard]] QDebug write() const;
 
 private:

@@ -114,7 +114,7 @@ CuteMessageLogger::~CuteMessageLogger()
     if (m_streamed.isNull()) {
         return;
     }
-    // QDebug puts a blank behind every value, the last one included.
+    // QDebug appends a space to every value, including the last one.
     if (m_streamed.endsWith(QLatin1Char(' '))) {
         m_streamed.chop(1);
     }

@@ -7,7 +7,7 @@
 
 namespace opendocument {
 
-/// One row of a table that gives an attribute's values their codes.
+/// One row of a table that maps an attribute's values to codes.
 template <class Code>
 struct NamedCode
 {
@@ -15,7 +15,7 @@ struct NamedCode
     Code code;
 };
 
-/// The code of a value, nothing when the table does not have it. Compares exactly.
+/// The code of a value, nothing if the table does not contain it. Case-sensitive.
 template <class Code, std::size_t Size>
 [[nodiscard]] std::optional<Code> codeOf(const NamedCode<Code> (&table)[Size], QStringView value)
 {

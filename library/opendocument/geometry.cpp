@@ -21,7 +21,7 @@ QString withoutParentheses(QString text)
     return text.remove(u'(').remove(u')');
 }
 
-// Documents turn against the clock and in radians, items with it and in degrees.
+// Documents rotate counterclockwise in radians, items clockwise in degrees.
 void readRotate(const QString& argument, double& rotation)
 {
     if (const auto radians = toNumber(withoutParentheses(argument))) {

@@ -7,7 +7,7 @@
 
 namespace opendocument {
 
-/// Place, size, order and rotation of one element, with the values that mean: not given.
+/// Position, size, order and rotation of one element; the defaults mean: not given.
 struct Geometry
 {
     QSizeF size{-1, -1};                        ///< points
@@ -21,11 +21,11 @@ struct Geometry
     [[nodiscard]] bool hasRotation() const { return rotation < 500.0; }
 };
 
-/// Reads the geometry attributes of an element. Leaves alone what is absent or damaged.
+/// Reads the geometry attributes of an element. Does not change absent or damaged ones.
 /// @param unitFactor points per unit of the document's lengths
 void readGeometry(const xmllimits::Element& element, double unitFactor, Geometry& geometry);
 
-/// Reads draw:z-index alone, for elements that have no other geometry in common.
+/// Reads draw:z-index alone, for elements that share no other geometry attributes.
 void readStackingOrder(const xmllimits::Element& element, Geometry& geometry);
 
 /// The position of a text at the top left of a rotated box, so that it keeps its place in the box:

@@ -70,7 +70,7 @@ void readBorderPart(const QString& part, const LengthUnit& unit, OOGraphicStyle&
     if (part.startsWith(u'#')) {
         style.penColor = part;
     } else if (part.endsWith(unit.suffix)) {
-        // A width in another unit than the page's is passed over: old labels depend on it.
+        // A width in a unit other than the page's is ignored: old labels depend on it.
         if (const auto width = toLength(part, unit.factor)) {
             style.penWidth = saturatedToInt(*width);
         }
@@ -91,7 +91,7 @@ void readBorder(const xmllimits::Element& properties, const LengthUnit& unit, OO
 
 void readSpacing(const xmllimits::Element& properties, double factor, Margins& margins)
 {
-    // The other three count only beside the first: old labels depend on it.
+    // The other three apply only together with the first: old labels depend on it.
     if (!properties.hasAttribute(u"draw:start-line-spacing-horizontal"_s)) {
         return;
     }
@@ -106,7 +106,7 @@ Qt::Alignment horizontalPosOf(const QString& value)
     if (value == "center"_L1) {
         return Qt::AlignHCenter;
     }
-    // Everything else stands at the right, "left" included: old labels depend on it.
+    // Everything else is at the right, including "left": old labels depend on it.
     return value == "from-left"_L1 ? Qt::AlignLeft : Qt::AlignRight;
 }
 
@@ -137,7 +137,7 @@ void readPosition(const xmllimits::Element& properties, OOGraphicStyle& style)
     }
 }
 
-// The kind of dashes is told by the name of the dash style, which programs build from words.
+// The name of the dash style gives the kind of dashes; programs build it from words.
 int dashedPenOf(const QString& dashName)
 {
     const QString lower = dashName.toLower();
@@ -181,7 +181,7 @@ void readStrokeDetails(const xmllimits::Element& properties, double factor, OOGr
     style.capStyle = cap.value_or(style.capStyle);
 }
 
-// The kind of hatch, too, is told by a name built from words.
+// The name of the hatch gives its kind; programs build it from words.
 int hatchOf(const QString& hatchName)
 {
     const QString lower = hatchName.toLower();
@@ -227,7 +227,7 @@ void readFillColor(const xmllimits::Element& properties, OOGraphicStyle& style)
     }
 }
 
-// An empty name takes an inherited marker away again: that is how programs write "none".
+// An empty name removes an inherited marker: programs write "none" this way.
 int markerOf(const QString& name, int shift)
 {
     return name.isEmpty() ? MarkerNotGiven : codeOf(Markers, name).value_or(OtherMarker) << shift;

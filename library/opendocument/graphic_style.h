@@ -9,7 +9,7 @@
 
 namespace opendocument {
 
-/// Values of a graphic style that no attribute gives: the item keeps the host's own.
+/// Values that mean that no attribute was given: the item keeps the host's default.
 inline constexpr int PenStyleNotGiven = Qt::CustomDashLine;
 inline constexpr int CapStyleNotGiven = Qt::MPenCapStyle;
 inline constexpr int JoinStyleNotGiven = Qt::MPenJoinStyle;
@@ -29,7 +29,7 @@ enum WrapCode : int {
     WrapDynamicBackground = 7,
 };
 
-/// A graphic style, complete: what a style does not say it has from its parent.
+/// A complete graphic style: values that a style does not specify are its parent's.
 struct OOGraphicStyle
 {
     Qt::Alignment horizontalPos = Qt::AlignHorizontal_Mask; ///< the mask means: not given
@@ -50,11 +50,11 @@ struct OOGraphicStyle
     int markerStart = MarkerNotGiven;    ///< code of ILineItem::setLineStartMarker()
     int markerEnd = MarkerNotGiven;      ///< code of ILineItem::setLineEndMarker()
 
-    /// Writes the whole style to the debug log.
+    /// Writes the complete style to the debug log.
     void debugContent() const;
 };
 
-/// Reads a style:graphic-properties element; null reads nothing. Changes only what is given.
+/// Reads a style:graphic-properties element; null has no effect. Changes only what is given.
 void readGraphicProperties(const xmllimits::Element& properties, const LengthUnit& unit,
                            OOGraphicStyle& style);
 

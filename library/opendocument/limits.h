@@ -2,11 +2,11 @@
 
 #include <QtGlobal>
 
-/// What a package may ask for. Generous for any real label: far beyond what is printed,
-/// and small enough that a hostile file cannot fill the memory of a small machine.
+/// Limits for a package. Generous for any real label: far beyond what is printed,
+/// and small enough that a hostile file cannot exhaust the memory of a small machine.
 namespace opendocument::limits {
 
-/// Sizes of the XML members, uncompressed, and of the trees that they become.
+/// Sizes of the XML members, uncompressed, and of their parsed trees.
 inline constexpr qint64 StylesBytes = 16LL << 20;
 inline constexpr qint64 StylesTreeBytes = 120LL << 20;
 inline constexpr qint64 ContentBytes = 48LL << 20;
@@ -19,13 +19,13 @@ inline constexpr qint64 AllPicturesBytes = 128LL << 20;
 inline constexpr qint64 PicturePixels = 32'000'000;
 inline constexpr qint64 AllPicturesPixels = 60'000'000;
 
-/// Bytes of the styles that stay for the next file, about 150,000 of them. Every file may
-/// add its own for as long as the importer lives.
+/// Bytes of the styles that are kept for the next file, about 150,000 of them. Every file may
+/// add styles during the importer's lifetime.
 inline constexpr qint64 CarriedStylesBytes = 64LL << 20;
 
 /// Characters of one text item.
 inline constexpr qsizetype TextCharacters = 4LL << 20;
-/// Font size in points: font engines are not made for more.
+/// Font size in points: font engines do not support larger ones.
 inline constexpr double FontSize = 10'000.0;
 
 } // namespace opendocument::limits

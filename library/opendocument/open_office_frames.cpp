@@ -1,4 +1,4 @@
-// Frames: boxes of text and pictures of the package.
+// Frames: text boxes and pictures of the package.
 
 #include "opendocument/item_builder.h"
 #include "opendocument/log.h"
@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The pictures that a frame offers, by their suffixes; the last of a suffix counts.
+// The alternative pictures of a frame, by suffix; the last one of a suffix wins.
 QMap<QString, QString> imagesBySuffix(const xmllimits::Element& frame)
 {
     const QString tag = u"draw:image"_s;
@@ -31,7 +31,7 @@ QMap<QString, QString> imagesBySuffix(const xmllimits::Element& frame)
     return images;
 }
 
-// The rectangle that a symbol is to fill; empty, for the symbol's own size, where the frame
+// The rectangle for a symbol; empty, for the symbol's own size, if the frame
 // does not give both sides.
 QRectF symbolTarget(const QSizeF& size)
 {
@@ -51,7 +51,7 @@ FramePlacement OpenOfficeReader::readFrame(const xmllimits::Element& element)
     if (!isPlaced) {
         return {};
     }
-    // Pictures may be left without a position; text that flows around them starts at the left.
+    // Pictures may have no position; text that flows around them starts at the left.
     const double x = geometry.hasX() ? geometry.position.x() : 0.0;
     return {x, geometry.size.height(), geometry.size.width(), geometry.z, style.wrap};
 }
@@ -83,7 +83,7 @@ bool OpenOfficeReader::readTextBox(const xmllimits::Element& frame, OOGraphicSty
     return true;
 }
 
-// What the frame does not give of its position comes from its style and the text flow.
+// Missing coordinates of the frame are those of its style and the text flow.
 QPointF OpenOfficeReader::textBoxPosition(const xmllimits::Element& frame,
                                           const OOGraphicStyle& style,
                                           const Geometry& geometry) const

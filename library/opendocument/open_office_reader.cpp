@@ -1,4 +1,4 @@
-// The conductor: the package, the page, the styles, and which element goes where.
+// The order of an import: package, page, styles, body; and which element is read by which part.
 
 #include "opendocument/open_office_reader.h"
 
@@ -33,7 +33,7 @@ namespace {
 
 const QString StylesMember = u"styles.xml"_s;
 const QString ContentMember = u"content.xml"_s;
-// As the signature was when bodies were document trees: old log filters depend on it.
+// The signature is from when bodies were document trees: old log filters depend on it.
 constexpr char ReadBody[] = "void OpenOfficeReader::readBody(const QDomElement&)";
 
 double pointsPerPixelOf(const QFont& font)
@@ -96,8 +96,8 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
     }
     m_flowOffsetY = 0;
 
-    // Both are read in whole before the canvas hears of either, so that a damaged document
-    // leaves it untouched.
+    // Both are read completely before the first call to the canvas, so that a damaged document
+    // leaves it unchanged.
     xmllimits::ElementTree styles;
     if (const auto failure = styles.parse(stylesBytes, limits::StylesTreeBytes)) {
         logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
@@ -119,7 +119,7 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
     importPageLayout(stylesRoot);
     readDefaultStyles(stylesRoot.firstChildElement(u"office:styles"_s));
     readStyles(stylesRoot.firstChildElement(u"office:styles"_s));
-    // Last, so that they may name common styles as parents and replace those of their name.
+    // Last, so that they can have common styles as parents and replace those of the same name.
     readStyles(contentRoot.firstChildElement(u"office:automatic-styles"_s));
     readBody(contentRoot.firstChildElement(u"office:body"_s));
     m_canvasModel->completeCanvasLoading();
@@ -137,7 +137,7 @@ void OpenOfficeReader::openPackage(const QString& fileName)
     m_pictures = std::make_unique<PictureStore>(
         [this](const QString& name, qint64 largest) { return readMember(name, largest); });
     if (const auto refusal = m_zipDirectory.open(fileName)) {
-        // Of what is no package at all, the missing document tells enough.
+        // For a file that is not a zip package, the missing-document message is enough.
         if (m_zipDirectory.isPackage()) {
             logDebug("open_office_reader", __LINE__, Q_FUNC_INFO, *refusal,
                      refusals::PackageUnreadable);
@@ -147,7 +147,7 @@ void OpenOfficeReader::openPackage(const QString& fileName)
     m_zipReader = std::make_unique<QZipReader>(fileName, QIODevice::ReadOnly);
 }
 
-// The caller has its own words for a document that is missing: no others stand beside them.
+// The caller logs its own message for a missing document; add no other.
 QByteArray OpenOfficeReader::readDocument(const QString& name, qint64 largest)
 {
     return m_zipDirectory.hasMember(name) ? readMember(name, largest) : QByteArray();
@@ -183,7 +183,7 @@ void OpenOfficeReader::importPageLayout(const xmllimits::Element& stylesRoot)
     const PageLayout layout = readPageLayout(stylesRoot);
     if (layout.width) {
         m_unitSuffix = unitOf(*layout.width);
-        // A unit that is not known keeps the last factor: old labels depend on it.
+        // An unknown unit keeps the previous factor: old labels depend on it.
         m_unitFactor = pointsPerUnit(m_unitSuffix).value_or(m_unitFactor);
         m_pageWidth = toLength(*layout.width, m_unitFactor).value_or(m_pageWidth);
         m_pageHeight =
@@ -289,7 +289,7 @@ void OpenOfficeReader::readDrawingElement(const xmllimits::Element& element)
         {"draw:measure"_L1, [](auto& reader, auto& shape) { reader.readLine(shape); }},
         {"draw:custom-shape"_L1, [](auto& reader, auto& shape) { reader.readCustomShape(shape); }},
         {"draw:frame"_L1, [](auto& reader, auto& shape) { reader.readFrame(shape); }},
-        // No element is called so, only a kind of custom shape; kept as old readers had it.
+        // No element has this name, only a type of custom shape; kept for compatibility.
         {"mso-spt100"_L1, [](auto& reader, auto& shape) { reader.readEllipse(shape, true); }},
     };
     if (const auto handler = codeOf(Handlers, element.tagName())) {

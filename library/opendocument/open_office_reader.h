@@ -32,26 +32,26 @@ struct PageLayout;
 
 /// Reads OpenDocument texts and drawings (*.odt, *.odg) onto a canvas.
 ///
-/// One reader serves one canvas for any number of files. Page size, unit and styles that one
-/// file gives stay for the next one, which may not give its own: old labels depend on it.
-/// Only when the styles of all files so far have become more than any real ones are they
-/// forgotten.
+/// One reader serves one canvas for any number of files. Page size, unit and styles of one
+/// file are kept for the next one, which may omit its own: old labels depend on it.
+/// The styles are cleared only when those of all files together exceed the size of any
+/// real ones.
 class OpenOfficeReader
 {
 public:
     using OOTextStyle = opendocument::OOTextStyle;
     using OOGraphicStyle = opendocument::OOGraphicStyle;
 
-    /// @param canvasModel          takes the page and the items; must outlive the reader
-    /// @param datasourceController kept for the host, these formats bind no data
+    /// @param canvasModel          receives the page and the items; must outlive the reader
+    /// @param datasourceController stored only; these formats bind no data
     OpenOfficeReader(TalCanvasModel* canvasModel, DatasourceController* datasourceController);
     ~OpenOfficeReader();
     OpenOfficeReader(const OpenOfficeReader&) = delete;
     OpenOfficeReader& operator=(const OpenOfficeReader&) = delete;
 
     /// Reads the package at this path onto the canvas.
-    /// @return false when the package or its XML cannot be read. The canvas is untouched
-    ///         then, and the log tells the cause.
+    /// @return false if the package or its XML cannot be read. The canvas is then
+    ///         unchanged, and the log gives the cause.
     [[nodiscard]] bool importLabelFromFile(const QString& fileName);
 
     /// Closes the package of the last import, which otherwise stays open until the next.
@@ -123,7 +123,7 @@ private:
     [[maybe_unused]] DatasourceController* m_controller = nullptr;
     double m_pageWidth = 612.0;  // points; US letter until a file says otherwise
     double m_pageHeight = 792.0; // points
-    double m_flowOffsetY = 0;    // points; where the next paragraph of a text begins
+    double m_flowOffsetY = 0;    // points; start of the next paragraph of a text
     QString m_unitSuffix = QStringLiteral("in");
     double m_unitFactor = 72.0; // points per unit
     double m_pointsPerPixel = 1.0;
@@ -134,5 +134,5 @@ private:
 
     ziplimits::ZipDirectory m_zipDirectory;
     std::unique_ptr<opendocument::PictureStore> m_pictures;
-    std::unique_ptr<SymbolCreator> m_symbolCreator; // made for the first symbol
+    std::unique_ptr<SymbolCreator> m_symbolCreator; // created for the first symbol
 };

@@ -60,8 +60,8 @@ OpenOfficeReader::OOGraphicStyle
 OpenOfficeReader::graphicStyleOf(const xmllimits::Element& element) const
 {
     const QString name = element.attribute(u"draw:style-name"_s);
-    // A style without a name is stored under the empty one; an element without a name must not
-    // find it.
+    // A style without a name is stored under the empty name; an element without a style name must
+    // not find it.
     return name.isEmpty() ? m_defaultGraphicStyle
                           : m_graphicStyles.value(name, m_defaultGraphicStyle);
 }

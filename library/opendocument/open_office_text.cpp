@@ -57,7 +57,7 @@ void OpenOfficeReader::readParagraph(const xmllimits::Element& paragraph)
     advanceFlow(flow.lineHeight());
 }
 
-// Frames come first wherever they stand in the paragraph: its text flows around all of them.
+// Frames are read first, wherever they are in the paragraph: its text flows around all of them.
 void OpenOfficeReader::readParagraphFrames(const xmllimits::Element& paragraph, ParagraphFlow& flow)
 {
     const QString tag = u"draw:frame"_s;
@@ -67,7 +67,7 @@ void OpenOfficeReader::readParagraphFrames(const xmllimits::Element& paragraph, 
     }
 }
 
-// One node of a paragraph: an element, or a text where the element is null.
+// One node of a paragraph: an element, or a text if the element is null.
 void OpenOfficeReader::readParagraphNode(const xmllimits::Element& element, const QString& text,
                                          const OOTextStyle& style, ParagraphFlow& flow)
 {
@@ -87,7 +87,7 @@ void OpenOfficeReader::readRun(const QString& text, const OOTextStyle& style, Pa
     if (isTooLong(text.size())) {
         return;
     }
-    // Before each run and not after each node: frames count the same before and after the text.
+    // Before each run, not after each node: a frame has the same effect before and after the text.
     advanceFlow(flow.takeFullLine());
     const QSizeF size =
         placeTextRun(text, style, flow.availableWidth(), flow.cursor(), flow.takeRunZ());

@@ -8,11 +8,11 @@
 
 namespace opendocument {
 
-/// What a document says of its pages, as written.
+/// The page attributes of a document, as written.
 struct PageLayout
 {
     std::optional<QString> width;
-    std::optional<QString> height; ///< never without a width
+    std::optional<QString> height; ///< empty if there is no width
     bool portrait = true;
 };
 

@@ -23,14 +23,14 @@ qint64 pixelsOf(const QSize& size)
     return qint64(size.width()) * size.height();
 }
 
-// A drawing under a picture's name would be painted by Qt's renderer, which opens the local
-// files that it names.
+// Qt's renderer would paint a drawing with a picture's name, and open the local files
+// that the drawing refers to.
 bool isDrawing(const QByteArray& format)
 {
     return format.startsWith("svg") || format == "pdf";
 }
 
-// Whether the picture, by what its header says, may be decoded within so many pixels.
+// Whether the picture, by the size in its header, may be decoded within this number of pixels.
 bool isWithin(QByteArray bytes, qint64 pixels)
 {
     QBuffer buffer(&bytes);

@@ -10,18 +10,18 @@
 namespace opendocument {
 
 /// The pictures of one package, each read and decoded once however many frames show it,
-/// and no more of them than an import may take.
+/// within the limits of one import.
 class PictureStore
 {
 public:
-    /// Reads a member of the package of at most so many bytes; empty when it cannot.
+    /// Reads a member of the package, up to a maximum size in bytes; empty on failure.
     using ReadMember = std::function<QByteArray(const QString& name, qint64 largest)>;
 
     explicit PictureStore(ReadMember readMember);
 
-    /// A picture's member as it is; empty when there is none to read.
+    /// The data of a picture's member; empty if it cannot be read.
     [[nodiscard]] QByteArray bytes(const QString& name);
-    /// A raster picture; null when it is missing, damaged, too large or no raster picture.
+    /// A raster picture; null if it is missing, damaged, too large or not a raster picture.
     [[nodiscard]] QPixmap pixmap(const QString& name);
 
 private:

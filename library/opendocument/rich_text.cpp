@@ -10,7 +10,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// What QTextDocument::toHtml() begins with, so that texts are what the host writes itself.
+// The beginning of QTextDocument::toHtml(), so that texts equal those that the host writes.
 const QString Document =
     u"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0//EN\" "
     "\"http://www.w3.org/TR/REC-html40/strict.dtd\">\n"
@@ -72,7 +72,7 @@ QString HtmlWriter::bodyAttribute() const
                               css.decoration());
 }
 
-// A paragraph's underline has no place in its tag; only spans show it. Old labels depend on it.
+// A paragraph's underline is not written to its tag; only spans show it. Old labels depend on it.
 QString HtmlWriter::paragraphTag(const OOTextStyle& style) const
 {
     const StyleFragments css = fragments(style, m_styling.defaultStyle);
@@ -120,7 +120,7 @@ void HtmlWriter::writeParagraph(const xmllimits::Element& paragraph)
 
 RichText HtmlWriter::finished() const
 {
-    // Both at once: a label's text may contain what looks like a place for an argument.
+    // Both in one call: a label's text may contain a placeholder such as "%1".
     return {m_isBlank ? QString() : Document.arg(bodyAttribute(), m_paragraphs), m_isBlank,
             m_length};
 }

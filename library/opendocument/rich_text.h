@@ -10,14 +10,14 @@ namespace opendocument {
 
 using TextStyles = QMap<QString, OOTextStyle>;
 
-/// The styles that a text is written with.
+/// The styles for writing a text.
 struct TextStyling
 {
     const TextStyles& styles;        ///< by name
-    const OOTextStyle& defaultStyle; ///< for names that are not known
-    double pointsPerPixel = 1.0;     ///< what font sizes in HTML are multiplied by
+    const OOTextStyle& defaultStyle; ///< for unknown names
+    double pointsPerPixel = 1.0;     ///< factor for font sizes in HTML
 
-    /// The style that an element names, or another where it names none that is known.
+    /// The style that an element names, or the fallback if it names no known style.
     [[nodiscard]] const OOTextStyle& styleOf(const xmllimits::Element& element,
                                              const OOTextStyle& otherwise) const;
 };
@@ -26,14 +26,14 @@ struct TextStyling
 struct RichText
 {
     QString html;
-    bool isBlank = true;  ///< no text but white space
-    qsizetype length = 0; ///< characters of text, without the markup
+    bool isBlank = true;  ///< nothing but white space
+    qsizetype length = 0; ///< characters of text, without markup
 };
 
-/// The paragraphs directly inside an element, as an HTML document of Qt's own kind.
+/// The child paragraphs of an element, as an HTML document in Qt's format.
 [[nodiscard]] RichText toRichText(const xmllimits::Element& shape, const TextStyling& styling);
 
-/// Whether an element's tag is one that holds text: a paragraph, heading, span, date or time.
+/// Whether an element contains text by its tag: a paragraph, heading, span, date or time.
 [[nodiscard]] bool holdsText(const xmllimits::Element& element);
 
 } // namespace opendocument

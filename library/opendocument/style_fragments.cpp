@@ -20,7 +20,7 @@ StyleFragments::StyleFragments(const OOTextStyle& style, const OOTextStyle& base
     , m_always(when == Fragment::Always)
 {}
 
-// A family is never repeated, forced or not: the document's own is told against none.
+// A family is never repeated, even if forced: the document's own is compared with none.
 QString StyleFragments::family() const
 {
     if (m_style.fontFamily == m_base.fontFamily) {

@@ -6,15 +6,15 @@
 
 namespace opendocument {
 
-/// Whether a fragment is written although the enclosing element already says the same.
+/// Whether a fragment is written even if the enclosing element already has the same value.
 enum class Fragment { IfDifferent, Always };
 
-/// The fragments of CSS that tell how a text style differs from a base style, which the
-/// enclosing element already states. Each is empty when there is no difference.
+/// The fragments of CSS for the differences of a text style from a base style, which the
+/// enclosing element already specifies. Each is empty if there is no difference.
 class StyleFragments
 {
 public:
-    /// @param pointsPerPixel what font sizes are multiplied by
+    /// @param pointsPerPixel factor for font sizes
     StyleFragments(const OOTextStyle& style, const OOTextStyle& base, double pointsPerPixel,
                    Fragment when = Fragment::IfDifferent);
 

@@ -4,7 +4,7 @@ namespace opendocument {
 
 namespace {
 
-// A style, its name and their node in the map, without the letters.
+// A style, its name and their node in the map, without the characters.
 constexpr qint64 Node = 320;
 
 qint64 lettersOf(const OOTextStyle& style)

@@ -8,7 +8,7 @@
 
 namespace opendocument {
 
-/// About the bytes that styles take with their names. Texts that styles share count for each.
+/// Approximate bytes of styles and their names. Texts shared by styles count for each style.
 [[nodiscard]] qint64 memoryOf(const QMap<QString, OOTextStyle>& styles);
 [[nodiscard]] qint64 memoryOf(const QMap<QString, OOGraphicStyle>& styles);
 

@@ -9,7 +9,7 @@ namespace opendocument {
 
 namespace {
 
-// What stays free between a frame and the text beside it.
+// The gap between a frame and the text beside it.
 constexpr double FrameGap = 4.0;
 
 } // namespace

@@ -6,7 +6,7 @@
 
 namespace opendocument {
 
-/// Where a frame was placed, for the text that flows around it.
+/// The placement of a frame, for the text that flows around it.
 struct FramePlacement
 {
     double x = 0;      ///< points
@@ -16,35 +16,35 @@ struct FramePlacement
     int wrap = 0; ///< a WrapCode
 };
 
-/// The arithmetic of one paragraph of a text document: which place its frames leave, and
-/// where its runs come to lie. All lengths are in points.
+/// The arithmetic of one paragraph of a text document: the space that its frames leave, and
+/// the positions of its runs. All lengths are in points.
 class ParagraphFlow
 {
 public:
     explicit ParagraphFlow(double pageWidth);
 
-    /// Makes room for a frame of the paragraph. All frames come before the first run.
+    /// Reserves space for a frame of the paragraph. All frames precede the first run.
     void passFrame(const FramePlacement& frame);
-    /// How far the frames that no text stands beside push the text down.
+    /// How far frames without text beside them push the text down.
     [[nodiscard]] double blockOffset() const { return m_blockOffset; }
 
-    /// The width that runs are wrapped at.
+    /// The wrap width of runs.
     [[nodiscard]] double availableWidth() const { return m_availableWidth; }
-    /// What is added to a run's own x.
+    /// The offset to add to a run's own x.
     [[nodiscard]] double cursor() const { return m_cursor; }
     /// The z value of the next run: 0, or above a frame in the background, each run above
     /// the one before.
     [[nodiscard]] double takeRunZ();
 
-    /// Moves on behind a run.
+    /// Advances by a run.
     /// @param spaceBelow the second margin of the run's style
     void passRun(const QSizeF& size, double spaceBelow);
-    /// Moves on by white space.
+    /// Advances by white space.
     void moveBy(double width);
-    /// The height of the line that the cursor has left beyond the page's edge, after which
-    /// it stands at the start of a new one; 0 while it is still on the same line.
+    /// If the cursor is beyond the page's edge, starts a new line and returns the height of the
+    /// line before; else returns 0.
     [[nodiscard]] double takeFullLine();
-    /// The height of the line that the cursor is on.
+    /// The height of the current line.
     [[nodiscard]] double lineHeight() const { return m_lineHeight; }
 
 private:
@@ -56,10 +56,10 @@ private:
     double m_textZ = 0;
 };
 
-/// The x of a run before the cursor is added, by its style's alignment and margins.
+/// The x of a run without the cursor, by its style's alignment and margins.
 [[nodiscard]] double runX(const OOTextStyle& style, double pageWidth, double runWidth);
 
-/// The x at which something stands in the middle of the page, between two margins.
+/// The x that centers an object on the page, between two margins.
 [[nodiscard]] double centredX(const Margins& margins, double pageWidth, double width);
 
 } // namespace opendocument

@@ -11,11 +11,11 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// The font size that a value gives, in points; nothing for a unit that is not known.
+// The font size of a value, in points; nothing for an unknown unit.
 std::optional<double> fontSizeOf(const QString& value, double inheritedSize)
 {
     const QString unit = unitOf(value);
-    // Pixels are taken as points: old labels depend on it.
+    // Pixels are read as points: old labels depend on it.
     if (unit == "pt"_L1 || unit == "px"_L1) {
         return toNumber(withoutTail(value, 2));
     }
@@ -59,7 +59,7 @@ void readTextProperties(const xmllimits::Element& properties, IsValidFamily isVa
 void readParagraphProperties(const xmllimits::Element& properties, double unitFactor,
                              OOTextStyle& style)
 {
-    // The right margin counts only beside a left one: old labels depend on it.
+    // The right margin applies only together with a left one: old labels depend on it.
     if (properties.hasAttribute(u"fo:margin-left"_s)) {
         readLength(properties, u"fo:margin-left"_s, unitFactor, style.margins.third);
         readLength(properties, u"fo:margin-right"_s, unitFactor, style.margins.fourth);
@@ -67,8 +67,8 @@ void readParagraphProperties(const xmllimits::Element& properties, double unitFa
     if (properties.hasAttribute(u"fo:text-align"_s)) {
         style.alignment = alignmentOf(properties.attribute(u"fo:text-align"_s));
     }
-    // The colour is looked for here and not among the text properties, where documents
-    // usually have it: old labels depend on their texts keeping the host's colour.
+    // The color is read here and not from the text properties, where documents
+    // usually have it: old labels depend on their texts keeping the host's color.
     if (properties.hasAttribute(u"fo:color"_s)) {
         style.textColor = properties.attribute(u"fo:color"_s);
     }

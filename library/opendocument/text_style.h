@@ -19,7 +19,7 @@ struct Margins
     bool operator==(const Margins&) const = default;
 };
 
-/// A paragraph or text style, complete: what a style does not say it has from its parent.
+/// A complete paragraph or text style: values that a style does not specify are its parent's.
 struct OOTextStyle
 {
     QString fontFamily = FallbackFontFamily;
@@ -33,18 +33,18 @@ struct OOTextStyle
     QString textColor;                                  ///< as written; empty: not given
 
     [[nodiscard]] bool hasAlignment() const { return alignment != Qt::AlignHorizontal_Mask; }
-    /// Writes the whole style to the debug log.
+    /// Writes the complete style to the debug log.
     void debugContent();
 };
 
-/// Tells whether a font family can be used.
+/// Whether a font family is available.
 using IsValidFamily = bool (*)(QString family);
 
-/// Reads a style:text-properties element; null reads nothing. Changes only what is given.
+/// Reads a style:text-properties element; null has no effect. Changes only what is given.
 void readTextProperties(const xmllimits::Element& properties, IsValidFamily isValidFamily,
                         OOTextStyle& style);
 
-/// Reads a style:paragraph-properties element; null reads nothing. Changes only what is given.
+/// Reads a style:paragraph-properties element; null has no effect. Changes only what is given.
 /// @param unitFactor points per unit of the document's lengths
 void readParagraphProperties(const xmllimits::Element& properties, double unitFactor,
                              OOTextStyle& style);

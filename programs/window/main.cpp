@@ -51,7 +51,7 @@ void describe(QCommandLineParser& parser)
                       u"picture"_s});
 }
 
-// Exits if the command line is wrong, or asks only for help or the version.
+// Exits on a usage error and for --help and --version.
 Options readOptions(const QStringList& arguments)
 {
     QCommandLineParser parser;
@@ -68,7 +68,7 @@ Options readOptions(const QStringList& arguments)
 }
 
 // Without a login session or a display, over SSH, in cron or in containers, Qt prints warnings that
-// are of no use to users.
+// do not help users.
 void printMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (!text.startsWith("QStandardPaths: XDG_RUNTIME_DIR"_L1) &&
@@ -84,7 +84,7 @@ bool contains(int argc, char** argv, std::initializer_list<std::string_view> opt
     });
 }
 
-// Whether Qt can connect to a display: a program without one is aborted.
+// Whether Qt can connect to a display: without one it aborts the program.
 bool hasDisplay(int argc, char** argv)
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY") ||

@@ -117,7 +117,7 @@ void MainWindow::connectPanels()
     connect(&m_panels->sources(), &SourcePanel::recordWanted, this, &MainWindow::showRecordNumber);
 }
 
-// Everything that knows items of the label forgets them.
+// Removes all references to items of the label.
 void MainWindow::letLabelGo()
 {
     m_panels->properties().showItem(nullptr, m_unit);

@@ -17,7 +17,7 @@ namespace window {
 class CanvasView;
 class RuledCanvas;
 
-/// The window of the program: one label, its panels, its menus.
+/// The main window: one label, its panels, its menus.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Opens a saved label or imports a legacy one. Tells the user why when it cannot.
+    /// Opens a saved label or imports a legacy one. Shows a message box on failure.
     bool openFile(const QString& fileName);
     /// As openFile(), without a message box. Returns the reason if the file cannot be opened.
     [[nodiscard]] QString openFileQuietly(const QString& fileName);

@@ -1,4 +1,4 @@
-// How the main window is put together: its parts, its menus, what each command does.
+// The construction of the main window: its parts, its menus, the handlers of its commands.
 
 #include "window/canvas/canvas_view.h"
 #include "window/canvas/ruled_canvas.h"
@@ -45,7 +45,7 @@ QString rulersKey()
     return u"window/rulers"_s;
 }
 
-// The files among what is dragged; web addresses are none.
+// The local files of a drag; web addresses are ignored.
 QStringList localFiles(const QMimeData& data)
 {
     QStringList files;
@@ -125,7 +125,7 @@ void MainWindow::fillRecentMenu()
     m_recentMenu->setEnabled(!files.isEmpty());
     int number = 0;
     for (const QString& fileName : files) {
-        // An ampersand in a name is no mnemonic.
+        // An ampersand in a name must not become a mnemonic.
         QString shown = QFileInfo(fileName).fileName();
         shown.replace(QLatin1Char('&'), u"&&"_s);
         QAction* entry = m_recentMenu->addAction(u"&%1  "_s.arg(++number) + shown, this,
@@ -151,7 +151,7 @@ void MainWindow::connectFileActions()
     connect(&action(ActionId::Export), &QAction::triggered, this, &MainWindow::exportByDialog);
     connect(&action(ActionId::Print), &QAction::triggered, this, &MainWindow::printByDialog);
     connect(&action(ActionId::Quit), &QAction::triggered, this, &MainWindow::close);
-    // Queued: the list is not to change under the very action that was picked from it.
+    // Queued: the list must not change while the triggered action still runs.
     connect(session, &LabelSession::recentFilesChanged, this, &MainWindow::fillRecentMenu,
             Qt::QueuedConnection);
 }
@@ -274,7 +274,7 @@ void MainWindow::dropEvent(QDropEvent* event)
         return;
     }
     event->acceptProposedAction();
-    // Later: questions must not keep the program waiting from which the file comes.
+    // Deferred: a question must not block the program that the file is dragged from.
     QMetaObject::invokeMethod(
         this,
         [this, files] {

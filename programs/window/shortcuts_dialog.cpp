@@ -13,7 +13,7 @@ namespace window {
 
 namespace {
 
-// Keys that are no actions: they hold on the canvas alone.
+// Keys without an action: they work on the canvas only.
 QList<ShortcutRow> canvasRows()
 {
     const QString canvas = ShortcutsDialog::tr("Canvas");

@@ -6,7 +6,7 @@
 
 namespace window {
 
-/// All keys of the program.
+/// Lists all shortcuts of the program.
 class ShortcutsDialog final : public QDialog
 {
     Q_OBJECT

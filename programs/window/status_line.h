@@ -12,7 +12,7 @@ class QStatusBar;
 
 namespace window {
 
-/// What the status bar always tells: where the pointer is, the page, the record, the zoom.
+/// The permanent part of the status bar: pointer position, page, record, zoom.
 class StatusLine
 {
 public:
@@ -20,7 +20,7 @@ public:
 
     void setPointer(std::optional<QPointF> point, LengthUnit unit);
     void setPage(std::optional<QSizeF> size, LengthUnit unit);
-    /// Counted from 0. Nothing is told of a single record.
+    /// Counted from 0. A single record is not shown.
     void setRecord(qint64 record, qint64 count);
     void setZoom(std::optional<double> zoom);
 

@@ -6,7 +6,7 @@ namespace window {
 
 class Actions;
 
-/// What a window shows as long as no label is open: how to open one.
+/// Shown while no label is open: explains how to open one.
 class WelcomePage final : public QWidget
 {
     Q_OBJECT

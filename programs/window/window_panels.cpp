@@ -23,7 +23,7 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(window::WindowPanels)
 };
 
-// The object name is what the window's state is stored under.
+// The window's state is saved under the object name.
 QDockWidget* makeDock(QMainWindow& window, Qt::DockWidgetArea area, const QString& title,
                       const QString& objectName, QWidget& panel)
 {
@@ -57,7 +57,7 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
     , m_issueDock(
           makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Issues"), u"issues"_s, *m_issues))
 {
-    // The right side goes down to the status bar: lists of items are long.
+    // The right dock area extends to the status bar: lists of items are long.
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     window.resizeDocks({m_itemDock, m_propertyDock}, {420, 420}, Qt::Horizontal);
     window.resizeDocks({m_sourceDock, m_issueDock}, {150, 150}, Qt::Vertical);

@@ -27,10 +27,10 @@ public:
     void goToItems();
     void goToProperties();
     void goToSources();
-    /// Puts the keyboard on the number of the record.
+    /// Moves keyboard focus to the record number.
     void goToRecord();
     void goToIssues();
-    /// Shows the issues without taking the keyboard.
+    /// Shows the issues without moving keyboard focus.
     void showIssues();
 
 private:

@@ -14,7 +14,7 @@ namespace window {
 
 namespace {
 
-// The window's part of the screen, or the window painted anew if the system forbids screenshots.
+// A screenshot of the window, or the window rendered again if the system forbids screenshots.
 QPixmap shownBy(QWidget& window)
 {
     const QPixmap pixmap = window.screen()->grabWindow(window.winId());
@@ -34,7 +34,7 @@ bool WindowPicture::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Paint && !m_isAsked) {
         m_isAsked = true;
-        // After the paint and what it has called for.
+        // After the paint event and the updates that it has scheduled.
         QTimer::singleShot(0, this, [this] { QTimer::singleShot(0, this, &WindowPicture::take); });
     }
     return QObject::eventFilter(watched, event);

@@ -11,9 +11,9 @@
 #include <memory>
 #include <utility>
 
-// One layer for each facet of the contract. An item of the recording host is its class of
-// the contract with the layers of that class's facets put on: Pen<Fill<Basics<...>>>.
-// The innermost layer is Basics, the others pass its constructor on.
+// One layer for each facet of the contract. An item of the recording host is its contract
+// class with one layer for each facet of that class: Pen<Fill<Basics<...>>>.
+// The innermost layer is Basics, the others inherit its constructor.
 
 namespace recorder {
 
@@ -51,7 +51,7 @@ public:
     void setFlipVertical(bool flip) override { this->record("setFlipVertical", flip); }
 
 protected:
-    /// The size that the content has brought with it.
+    /// Sets the size that the content implies.
     void adoptSize(const QSizeF& size) { m_size = size; }
 
 private:
@@ -130,7 +130,7 @@ public:
     }
 };
 
-/// The two colours that barcodes and symbols have on the item itself.
+/// The two colors that barcodes and symbols have on the item itself.
 template <typename Base>
 class TwoColors : public Base
 {

@@ -6,7 +6,7 @@
 
 namespace recorder {
 
-/// What all items of the recording host have: a number, and a way to the trace.
+/// The common part of all items of the recording host: a number, and access to the trace.
 class RecordedItem
 {
 public:
@@ -43,8 +43,8 @@ private:
     int m_number;
 };
 
-/// How a trace names an item that a call passes: null for none, and for an item that
-/// another host made.
+/// The name in a trace of an item passed to a call: null for none, and for an item of
+/// another host.
 template <typename T>
 [[nodiscard]] TraceValue itemValue(T* item)
 {

@@ -68,7 +68,7 @@ void RecordedSimpleText::setItemSizeLimiting(signed char mode)
 
 void RecordedRichText::adjustBoxSizeToContent(double width)
 {
-    // One line's height, whatever the text: a real one would depend on the fonts installed.
+    // The height of one line, whatever the text: a real one would depend on the installed fonts.
     constexpr double fixedHeight = 12;
     record("adjustBoxSizeToContent", width);
     adoptSize({width, fixedHeight});

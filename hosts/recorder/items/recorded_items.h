@@ -13,7 +13,7 @@
 #include "host/items/symbol_item.h"
 #include "recorder/items/recorded_facets.h"
 
-// The items of the recording host. They paint nothing that anybody looks at: each call on
+// The items of the recording host. They paint nothing: each call to
 // them becomes a line of the trace.
 
 namespace recorder {
@@ -41,8 +41,8 @@ public:
     void setLineEndMarker(int marker) override;
 };
 
-/// The layers of TextItem. The recorded setText() leaves the document alone, so that the
-/// document shows only what came by setHtml().
+/// The layers of TextItem. The recorded setText() does not change the document, so that the
+/// document contains only what setHtml() has set.
 template <typename Base>
 class RecordedText : public DatasourceBinding<TextAlignment<Font<TextColor<Fillable<Base>>>>>
 {

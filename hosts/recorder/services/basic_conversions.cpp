@@ -4,7 +4,7 @@
 
 bool BasicConversions::almostEqual(double a, double b, double tolerance)
 {
-    // Equal infinities have no difference that could be measured.
+    // The difference of equal infinities is not a number.
     return a == b || std::abs(a - b) <= tolerance;
 }
 
@@ -18,6 +18,6 @@ double BasicConversions::normalizeAngle(double degrees)
     if (angle < 0) {
         angle += fullTurn;
     }
-    // An angle just below 0 rounds up to the full turn, which is 0 again.
+    // An angle just below 0 rounds up to the full turn, which equals 0.
     return angle < fullTurn ? angle + 0.0 : 0;
 }

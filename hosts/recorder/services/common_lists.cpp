@@ -8,7 +8,7 @@
 #include <array>
 #include <iterator>
 
-// Fixed lists, whatever fonts and symbologies the machine really has.
+// Fixed lists, whatever fonts and symbologies the machine has.
 
 namespace {
 

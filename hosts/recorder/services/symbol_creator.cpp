@@ -63,8 +63,8 @@ bool SymbolCreator::convertSvgToSymbol(const QRectF& target)
 
 QByteArray SymbolCreator::getSymbolData()
 {
-    // What was loaded, convertible or not, so that a trace shows what an importer does with
-    // a drawing that is none.
+    // The loaded data, convertible or not, so that a trace shows what an importer does with
+    // an invalid drawing.
     if (const auto recording = recorder::Recording::current()) {
         recording->answer(d->loaded, Target, "getSymbolData");
     }

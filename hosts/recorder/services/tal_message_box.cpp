@@ -2,7 +2,7 @@
 
 #include "recorder/recording.h"
 
-// A box that never shows: what it says goes into the trace, and whoever runs the
+// A box that is never shown: its texts are written to the trace, and the user of the
 // recording closes it.
 
 class TalMessageBox::Private

@@ -76,8 +76,7 @@ struct FontValues
 {
     QString family;
     int pointSize = 12;
-    bool sized =
-        false; ///< whether a size was ever set; a single-format text without one is scaled
+    bool sized = false; ///< whether a size was ever set; a single-format text without one is scaled
     bool bold = false;
     bool italic = false;
     bool underline = false;

@@ -24,7 +24,7 @@ struct ActionRow
     const char* hint;
 };
 
-// In the order of the menus. Every action has a key of its own.
+// In the order of the menus. Every action has its own key.
 constexpr ActionRow ActionRows[] = {
     {ActionId::Open, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Open…"), "Ctrl+O",
      IconName::Open, Always, Command,

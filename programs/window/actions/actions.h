@@ -11,7 +11,7 @@
 
 namespace window {
 
-/// Everything that a window can be told to do.
+/// All commands of a window.
 enum class ActionId : quint8 {
     Open,
     Import,
@@ -50,10 +50,10 @@ enum class ActionId : quint8 {
     About,
 };
 
-/// Under which menu an action stands.
+/// The menu of an action.
 enum class MenuId : quint8 { File, Edit, View, Colors, Panels, Record, Help };
 
-/// One row of the help on shortcuts.
+/// One row of the list of shortcuts.
 struct ShortcutRow
 {
     QString menu;
@@ -61,7 +61,7 @@ struct ShortcutRow
     QString keys;
 };
 
-/// The actions of a window, made from one table: text, shortcut, icon, hint.
+/// The actions of a window, created from one table: text, shortcut, icon, tooltip.
 class Actions final : public QObject
 {
     Q_OBJECT
@@ -71,9 +71,9 @@ public:
 
     [[nodiscard]] QAction& at(ActionId id) const { return *m_actions.at(id); }
     [[nodiscard]] QList<QAction*> ofMenu(MenuId menu) const;
-    /// Draws the icons anew in the colors of this palette.
+    /// Redraws the icons in the colors of this palette.
     void drawIcons(const QPalette& palette);
-    /// Enables what needs a label, and nothing else.
+    /// Enables or disables the actions that need a label.
     void setLabelOpen(bool open);
     [[nodiscard]] QList<ShortcutRow> shortcuts() const;
 

@@ -84,7 +84,7 @@ QIcon icon(IconName name, const QPalette& palette)
 
 QIcon applicationIcon()
 {
-    // The drawing that the desktop shows too.
+    // The desktop shows the same drawing.
     QFile drawing(u":/labelport/icons/labelport-workbench.svg"_s);
     const QByteArray svg = drawing.open(QIODevice::ReadOnly) ? drawing.readAll() : QByteArray();
     QIcon result;

@@ -29,7 +29,7 @@ enum class IconName : quint8 {
 /// The icon, drawn in the text color of the palette; a null icon for None.
 [[nodiscard]] QIcon icon(IconName name, const QPalette& palette);
 
-/// The program's sign: a label with bars.
+/// The application icon: a label with bars.
 [[nodiscard]] QIcon applicationIcon();
 
 } // namespace window

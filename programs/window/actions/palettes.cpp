@@ -20,11 +20,11 @@ struct PaletteColors
     QRgb highlight;
     QRgb highlightedText;
     QRgb link;
-    QRgb faint; // of what is disabled, and of hints
+    QRgb faint; // disabled texts and placeholders
 };
 
-// Texts have a contrast of more than seven to one, faint ones of more than four and a half
-// to one in what is not disabled.
+// Texts have a contrast of at least 7:1, faint texts of at least 4.5:1 unless
+// disabled.
 constexpr PaletteColors LightColors{0xfff3f3f4, 0xff1b1c1e, 0xffffffff, 0xfff6f7f9, 0xffececee,
                                     0xfffffbe6, 0xff1a63c6, 0xffffffff, 0xff0b57d0, 0xff6b6f76};
 constexpr PaletteColors DarkColors{0xff2a2c30, 0xffe8eaed, 0xff1e2023, 0xff24262a, 0xff36393f,
@@ -80,7 +80,7 @@ void applyColorScheme(ColorScheme scheme)
         QApplication::setPalette(darkPalette());
         break;
     case ColorScheme::System:
-        // A palette that says nothing lets the desktop's through again.
+        // An empty palette restores the desktop's.
         QApplication::setPalette(QPalette());
         break;
     }

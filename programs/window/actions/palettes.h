@@ -11,10 +11,10 @@ enum class ColorScheme : quint8 { System, Light, Dark };
 [[nodiscard]] QPalette lightPalette();
 [[nodiscard]] QPalette darkPalette();
 
-/// Colors the whole application. System takes whatever the desktop has.
+/// Applies the theme to the whole application. System uses the desktop's palette.
 void applyColorScheme(ColorScheme scheme);
 
-/// The user's choice from the settings; System when there is none.
+/// The user's choice in the settings; System if there is none.
 [[nodiscard]] ColorScheme storedColorScheme();
 void storeColorScheme(ColorScheme scheme);
 

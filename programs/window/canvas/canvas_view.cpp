@@ -21,7 +21,7 @@ namespace {
 constexpr double PointsPerInch = 72.0;
 constexpr double ZoomStep = 1.25;
 constexpr double WheelNotch = 120.0;
-// Part of the view that stays free around a fitted page.
+// Fraction of the view that stays free around a fitted page.
 constexpr double FitMargin = 0.06;
 
 } // namespace
@@ -35,13 +35,13 @@ CanvasView::CanvasView(QWidget* parent)
                    QPainter::TextAntialiasing);
     setDragMode(QGraphicsView::RubberBandDrag);
     setTransformationAnchor(QGraphicsView::NoAnchor);
-    // There is always room to scroll into; bars that come and go would only unsettle.
+    // Always visible: scroll bars that appear and disappear would change the view's size.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     setFrameShape(QFrame::NoFrame);
     setMouseTracking(true);
-    // Files are dropped on the window.
+    // The window accepts dropped files.
     setAcceptDrops(false);
     viewport()->setAcceptDrops(false);
 }
@@ -134,7 +134,7 @@ void CanvasView::showRoomAroundPage()
     if (m_canvas == nullptr) {
         return;
     }
-    // A margin of a part of the view, so that every corner can be brought to the middle.
+    // A margin of half a view on each side, so that every corner can be scrolled to the center.
     const QRectF page = m_canvas->pageRect();
     const double horizontal = viewport()->width() * 0.5 / pixelsPerPoint();
     const double vertical = viewport()->height() * 0.5 / pixelsPerPoint();
@@ -262,7 +262,7 @@ void CanvasView::keyReleaseEvent(QKeyEvent* event)
 
 void CanvasView::focusOutEvent(QFocusEvent* event)
 {
-    // The space bar may come up again in another window.
+    // The space bar may be released in another window.
     setHandReady(false);
     QGraphicsView::focusOutEvent(event);
 }

@@ -13,10 +13,10 @@ class Canvas;
 
 namespace window {
 
-/// The canvas of a label on the screen: zoomed, scrolled, with its items to pick and move.
+/// A label's canvas on the screen: zooms, scrolls, and lets users select and move items.
 ///
-/// The page is shown with room around it. What hangs over its edges is seen faintly,
-/// because it is not printed.
+/// The page is shown with a margin. Parts of items outside the page are dimmed,
+/// because they are not printed.
 class CanvasView final : public QGraphicsView
 {
     Q_OBJECT
@@ -27,34 +27,34 @@ public:
 
     explicit CanvasView(QWidget* parent = nullptr);
 
-    /// The canvas is not owned; null shows none. It must be taken away before it goes.
+    /// The canvas is not owned; null shows none. Call with null before deleting it.
     void setCanvas(workbench::Canvas* canvas);
 
-    /// 1 shows the label in its true size, by what the system says of the screen.
+    /// 1 shows the label in its true size, by the resolution that the system reports.
     [[nodiscard]] double zoom() const { return m_zoom; }
     [[nodiscard]] double pixelsPerPoint() const { return transform().m11(); }
-    /// Keeps the middle of the view where it is.
+    /// Keeps the center of the view fixed.
     void setZoom(double zoom);
-    /// Keeps the canvas where it is at this pixel of the view.
+    /// Keeps the canvas fixed at this pixel of the view.
     void setZoomAt(double zoom, const QPoint& fixed);
     void zoomIn();
     void zoomOut();
-    /// Shows the whole page, and keeps it whole while the view changes its size.
+    /// Fits the page into the view, again after each resize of the view.
     void fitPage();
     /// Shows these items as large as they fit.
     void fitItems(const QList<QGraphicsItem*>& items);
     [[nodiscard]] bool keepsPageFitted() const { return m_keepFitted; }
-    /// Where the page's upper left corner is, in pixels of the view.
+    /// Position of the page's upper left corner, in pixels of the view.
     [[nodiscard]] QPointF pageOrigin() const;
 
 Q_SIGNALS:
     void zoomChanged(double zoom);
-    /// Another part of the canvas is seen, or it is seen in another size.
+    /// The visible part of the canvas or the zoom has changed.
     void partChanged();
     /// The pointer is at this point of the canvas.
     void pointerMoved(const QPointF& canvasPoint, const QPoint& viewPoint);
     void pointerLeft();
-    /// The user has moved items by mouse or keyboard. By mouse they are there already.
+    /// The user has moved items by mouse or keyboard. After a mouse move they are in place.
     void itemsMoved(const QList<window::ItemMove>& moves);
 
 protected:
@@ -88,7 +88,7 @@ private:
     bool m_keepFitted = true;
     bool m_handReady = false; // the space bar is down
     std::optional<QPoint> m_panFrom;
-    QHash<QGraphicsItem*, QPointF> m_positions; // of the selected items, as the mouse went down
+    QHash<QGraphicsItem*, QPointF> m_positions; // of the selected items, when the mouse was pressed
 };
 
 } // namespace window

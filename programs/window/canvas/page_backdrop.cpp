@@ -8,7 +8,7 @@ namespace window {
 namespace {
 
 constexpr int ShadowPixels = 8;
-constexpr int ShadowDarkness = 14; // of each of the layers that make the shadow
+constexpr int ShadowDarkness = 14; // alpha of each layer of the shadow
 constexpr double Veil = 0.72;
 
 } // namespace
@@ -31,7 +31,7 @@ void paintPageGround(QPainter& painter, const QRectF& page, const QColor& ground
                                 spread);
     }
     painter.restore();
-    // A ground that lets through shows the color of paper.
+    // Paper shows through a transparent background color.
     painter.fillRect(page, Qt::white);
     painter.fillRect(page, ground);
 }

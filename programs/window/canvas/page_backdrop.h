@@ -8,18 +8,18 @@ class QPainter;
 
 namespace window {
 
-// What of a label's surroundings is painted on the screen. The painter's unit is the point.
+// The surroundings of a label on the screen. The painter's unit is the point.
 
-/// The color around the page: darker than the window in a light palette,
-/// and in a dark one too.
+/// The color around the page: darker than the window in light and
+/// dark palettes.
 [[nodiscard]] QColor surroundingsColor(const QPalette& palette);
 
-/// The page's shadow, its ground and its outline. The shadow has the same width on the
-/// screen whatever the zoom.
+/// The page's shadow, background and outline. The width of the shadow on the
+/// screen does not depend on the zoom.
 void paintPageGround(QPainter& painter, const QRectF& page, const QColor& ground,
                      double pixelsPerPoint);
 
-/// Veils what of the visible part lies outside the page.
+/// Dims the visible area outside the page.
 void paintPageSurroundings(QPainter& painter, const QRectF& page, const QRectF& visible,
                            const QColor& session);
 

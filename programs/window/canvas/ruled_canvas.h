@@ -11,7 +11,7 @@ namespace window {
 class CanvasView;
 class Ruler;
 
-/// The canvas with its two rulers and, in their corner, the button that changes the unit.
+/// The canvas with two rulers and, in their corner, the button that changes the unit.
 class RuledCanvas final : public QWidget
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     void setRulersVisible(bool visible);
 
 Q_SIGNALS:
-    /// The user wants the other unit.
+    /// The user has clicked the unit button.
     void unitChangeWanted();
 
 private:

@@ -84,7 +84,7 @@ void Ruler::paintEvent(QPaintEvent* event)
     if (m_orientation == Qt::Horizontal) {
         painter.drawLine(0, height() - 1, width(), height() - 1);
     } else {
-        // The vertical ruler is painted as a horizontal one that was turned.
+        // The vertical ruler is painted as a rotated horizontal one.
         painter.drawLine(width() - 1, 0, width() - 1, height());
         painter.translate(width(), 0);
         painter.rotate(90.0);
@@ -102,7 +102,7 @@ void Ruler::paintTick(QPainter& painter, const RulerTick& tick) const
     const double side = thickness();
     const bool horizontal = m_orientation == Qt::Horizontal;
     const double length = lengthOf(tick.rank, side);
-    // Ticks stand on the side of the canvas: below, or right, which turned is above.
+    // Ticks are on the side of the canvas: at the bottom or, rotated, at the right.
     const QLineF line = horizontal ? QLineF(tick.pixel, side - length, tick.pixel, side)
                                    : QLineF(tick.pixel, 0.0, tick.pixel, length);
     painter.drawLine(line);

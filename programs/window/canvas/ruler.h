@@ -8,7 +8,7 @@
 
 namespace window {
 
-/// A ruler along one side of the canvas, with a mark where the pointer is.
+/// A ruler along one side of the canvas, with a mark at the pointer's position.
 class Ruler final : public QWidget
 {
     Q_OBJECT
@@ -18,9 +18,9 @@ public:
 
     void setUnit(LengthUnit unit);
     [[nodiscard]] LengthUnit unit() const { return m_unit; }
-    /// What of the canvas the ruler stands beside; the length is the ruler's own.
+    /// The visible part of the canvas; the length is the ruler's own.
     void setSpan(double originPixel, double pixelsPerPoint);
-    /// Where the pointer is, in pixels along the ruler; nothing when it is elsewhere.
+    /// The pointer's position in pixels along the ruler; nothing if it is elsewhere.
     void setPointer(std::optional<double> pixel);
 
     [[nodiscard]] QSize sizeHint() const override;

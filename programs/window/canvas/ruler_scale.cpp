@@ -8,14 +8,14 @@ namespace window {
 
 namespace {
 
-// Room that a label with four digits takes.
+// Width of a label with four digits, in pixels.
 constexpr double LabelRoom = 54.0;
-// Ticks closer than this run into one another.
+// Minimum distance of ticks, in pixels.
 constexpr double TickRoom = 5.0;
-// Beyond these a number of ticks could not be counted with integers any more.
+// Limits beyond which the number of a tick would overflow an integer.
 constexpr double LargestTickNumber = 1e9;
 
-// Below one inch people halve, above they count in tens.
+// Fractions of an inch are powers of two, multiples are decimal.
 double halvedStep(double least)
 {
     return std::max(std::exp2(std::ceil(std::log2(least))), 1.0 / 64.0);
@@ -32,7 +32,7 @@ double decimalStep(double least)
     return decade * 10.0;
 }
 
-// Into how many parts a labelled step is divided; even, so that there is a middle.
+// The number of parts of a labeled step; even, so that there is a middle.
 int partsOf(double pixelsPerStep, LengthUnit unit)
 {
     const int finest = unit == LengthUnit::Inch ? 16 : 10;

@@ -58,7 +58,7 @@ void DialogImport::saveImportedLabelAs(const QString& folder, const QString& bas
 
 void DialogImport::emitLabelTypeLoadedSignal(QString labelType)
 {
-    // Comes when a file was chosen, before it is read.
+    // Called after a file was chosen and before it is read.
     Q_UNUSED(labelType)
     m_wasChosen = true;
 }

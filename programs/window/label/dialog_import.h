@@ -8,23 +8,23 @@
 
 namespace window {
 
-/// What came of one run of the importer's own import dialog.
+/// The result of the importer's own import dialog.
 struct ImportOutcome
 {
-    /// Whether a file was chosen; if not, nothing has happened.
+    /// Whether a file was chosen; if not, nothing has changed.
     bool wasChosen = false;
-    /// The label with the name to save it under; nothing when the import failed.
+    /// The label with its suggested file name; nothing if the import failed.
     std::optional<OpenLabel> label;
-    /// Why the import failed, in words for a person.
+    /// User-visible reason for a failed import.
     QString error;
 };
 
-/// Runs the import dialog once, onto a new canvas: a failed import leaves the open label
-/// as it is.
+/// Runs the import dialog once, onto a new canvas: a failed import does not change
+/// the open label.
 class DialogImport final : public FileController
 {
 public:
-    /// @param confirmDiscard asks about the unsaved changes of the open label; false stops the
+    /// @param confirmDiscard asks about the unsaved changes of the open label; false cancels the
     /// import
     explicit DialogImport(std::function<bool(bool allowDiscard)> confirmDiscard);
 
@@ -40,7 +40,7 @@ public:
 private:
     std::function<bool(bool)> m_confirmDiscard;
     bool m_wasChosen = false;
-    QString m_saveAs; // empty as long as nothing was imported
+    QString m_saveAs; // empty until a label is imported
 };
 
 } // namespace window

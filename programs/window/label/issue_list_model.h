@@ -6,13 +6,13 @@
 
 namespace window {
 
-/// One thing that a person should know about the open label.
+/// One issue of the open label, for the user.
 struct Issue
 {
     QString text;
-    int item = -1;   ///< row of the item that it is about, -1 for none
-    QString about;   ///< that item in words, empty for none
-    int repeats = 1; ///< how often it was met
+    int item = -1;   ///< row of the affected item, -1 for none
+    QString about;   ///< the name of that item, empty for none
+    int repeats = 1; ///< number of occurrences
     bool operator==(const Issue&) const = default;
 };
 
@@ -27,7 +27,7 @@ public:
     explicit IssueListModel(QObject* parent = nullptr);
 
     void setIssues(const QList<Issue>& issues);
-    /// The item that an issue is about; -1 for none.
+    /// The affected item of an issue; -1 for none.
     [[nodiscard]] int itemOf(int row) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;

@@ -10,7 +10,7 @@ class QTableView;
 
 namespace window {
 
-/// What a person should know about the open label. It stays until the label goes.
+/// The issues of the open label. Shown until the label is closed.
 class IssuesPanel final : public QWidget
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QTableView& table() { return *m_table; }
 
 Q_SIGNALS:
-    /// The user picked an issue that is about this item.
+    /// The user selected an issue of this item.
     void itemWanted(int row);
 
 private:

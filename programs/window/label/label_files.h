@@ -6,7 +6,7 @@
 
 namespace window {
 
-/// A label from a file, or in words for a person why there is none.
+/// A label from a file, or the user-visible reason why there is none.
 struct ReadLabel
 {
     std::optional<OpenLabel> label;
@@ -16,11 +16,11 @@ struct ReadLabel
 /// Opens a saved label. It shows its first record.
 [[nodiscard]] ReadLabel readSavedLabel(const QString& fileName);
 
-/// Imports a legacy label. It shows its first record and is kept in no file yet.
+/// Imports a legacy label. It shows its first record and is not yet saved in a file.
 [[nodiscard]] ReadLabel readLegacyLabel(const QString& fileName);
 
-/// Saves a label. The file appears whole or, when something fails, stays what it was.
-/// Returns in words for a person what failed, else nothing.
+/// Saves a label. Atomic: on failure an existing file is unchanged.
+/// Returns the user-visible error; empty on success.
 [[nodiscard]] QString writeLabel(const OpenLabel& label, const QString& fileName);
 
 } // namespace window

@@ -13,7 +13,7 @@ namespace window {
 
 namespace {
 
-// Shows that work is done, for as long as it lives.
+// RAII wait cursor.
 class WaitCursor
 {
 public:
@@ -39,7 +39,7 @@ LabelSession::LabelSession(QWidget* window)
 
 LabelSession::~LabelSession()
 {
-    // Its commands know items of the label; nobody is told any more.
+    // Its commands point to items of the label; emit no signals from here.
     blockSignals(true);
     m_undoStack.blockSignals(true);
     m_undoStack.clear();

@@ -14,14 +14,14 @@ namespace window {
 
 /// The open label of a window, or none.
 ///
-/// All commands on files go through here, with their questions and messages. A command
-/// that fails leaves the label that lies there as it is.
+/// All file commands are here, with their questions and messages. If a command
+/// fails, the open label does not change.
 class LabelSession final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param window stands behind the dialogs; not owned
+    /// @param window parent of the dialogs; not owned
     explicit LabelSession(QWidget* window);
     ~LabelSession() override;
 
@@ -33,32 +33,32 @@ public:
     [[nodiscard]] const Prompts& prompts() const { return m_prompts; }
 
     void openByDialog();
-    /// Opens a saved label, or imports a legacy one. False when that failed or was canceled.
+    /// Opens a saved label, or imports a legacy one. False if that failed or was canceled.
     bool openFile(const QString& fileName);
     /// As openFile(), without questions and messages, for a session without unsaved changes.
     /// Returns the reason if the file cannot be opened, else an empty text.
     [[nodiscard]] QString openFileQuietly(const QString& fileName);
-    /// Imports by the dialog of the importer and saves the label beside the legacy file.
+    /// Imports through the importer's dialog and saves the label in the legacy file's folder.
     void importByDialog();
     bool save();
     bool saveAs();
     /// Closes the label. False if the user canceled.
     bool close();
-    /// Asks about unsaved changes if there are any. True when they may go, or are saved.
+    /// Asks about unsaved changes if there are any. True if they were saved or may be discarded.
     [[nodiscard]] bool confirmDiscard(bool allowDiscard = true);
 
-    /// Moves items, so that it can be undone.
+    /// Moves items, with undo.
     void moveItems(const QList<ItemMove>& moves);
 
 Q_SIGNALS:
-    /// The label is about to leave: let go of its canvas.
+    /// Emitted before the label is deleted: drop all references to its canvas.
     void aboutToReplaceLabel();
-    /// Another label lies there, or none.
+    /// Another label is open, or none.
     void labelReplaced();
-    /// The label's name, or whether it has unsaved changes, is another.
+    /// The label's name or its modified state has changed.
     void nameChanged();
     void recentFilesChanged();
-    /// Something went well that is worth a line.
+    /// A success message for the status bar.
     void noticeShown(const QString& text);
 
 private:

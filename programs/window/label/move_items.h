@@ -8,7 +8,7 @@ class QGraphicsItem;
 
 namespace window {
 
-/// One item's way.
+/// The move of one item.
 struct ItemMove
 {
     QGraphicsItem* item = nullptr;
@@ -16,8 +16,8 @@ struct ItemMove
     QPointF to;
 };
 
-/// Moves items and back. The items must outlive the command: the stack is emptied before
-/// a canvas goes.
+/// Moves items, with undo. The items must outlive the command: clear the undo stack before
+/// deleting a canvas.
 class MoveItems final : public QUndoCommand
 {
 public:

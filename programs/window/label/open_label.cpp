@@ -19,7 +19,7 @@ Issue worded(const workbench::ImportIssue& issue, const workbench::Canvas& canva
             hasItem ? itemTitle(items.at(issue.item)->values()) : QString(), issue.repeats};
 }
 
-// What an item cannot show depends on the record and is asked for anew each time.
+// Issues of items depend on the record and are collected again each time.
 bool isTheItemsOwn(const workbench::ImportIssue& issue, const QList<workbench::ImportIssue>& now)
 {
     return std::any_of(now.begin(), now.end(), [&issue](const workbench::ImportIssue& other) {

@@ -17,32 +17,32 @@ struct OpenLabel
 {
     std::unique_ptr<workbench::Canvas> canvas;
     std::unique_ptr<workbench::datasources::DatasourceController> sources;
-    /// The *.label file that it is kept in; empty as long as it is kept in none.
+    /// The label's *.label file; empty if it was never saved.
     QString fileName;
-    /// What it would be saved as: the name of the file that it was imported from, with the
-    /// suffix of a label.
+    /// The suggested file name: the name of the imported file with the
+    /// suffix of saved labels.
     QString suggestedName;
-    /// What its import could not carry over.
+    /// The issues of the import.
     QList<workbench::ImportIssue> importIssues;
 };
 
 /// The suffix of saved labels, with its dot.
 [[nodiscard]] QString labelSuffix();
 
-/// Whether the file is a saved label by its name; all other files are imported.
+/// Whether the file name is that of a saved label; all other files are imported.
 [[nodiscard]] bool isSavedLabel(const QString& fileName);
 
-/// The name that a label imported from this file gets: the last suffix is replaced.
+/// The file name for a label imported from this file: the last suffix is replaced.
 [[nodiscard]] QString savedNameFor(const QString& importedFile);
 
-/// What the label is called in titles and questions.
+/// The label's name in titles and questions.
 [[nodiscard]] QString displayName(const OpenLabel& label);
 
 /// Shows a record of the data sources, counted from 0, on the label's items.
 void showRecord(OpenLabel& label, qint64 record);
 
-/// What a person should know about the label as it now is: what the import could not carry
-/// over, and what items cannot show in the present record.
+/// The current issues of the label: those of the import, and
+/// items that cannot show their content in the current record.
 [[nodiscard]] QList<Issue> currentIssues(const OpenLabel& label);
 
 } // namespace window

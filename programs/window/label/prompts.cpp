@@ -46,7 +46,7 @@ QString openFilters()
         .join(u";;"_s);
 }
 
-// File names and reasons quote what stands in files: nothing of it is markup.
+// File names and reasons may contain text from files, which must not be read as markup.
 void setPlainText(QMessageBox& box, const QString& text, const QString& information)
 {
     box.setTextFormat(Qt::PlainText);

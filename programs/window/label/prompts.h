@@ -14,18 +14,18 @@ public:
     enum class Changes : quint8 { Save, Discard, Cancel };
     enum class Existing : quint8 { Replace, Rename, Later };
 
-    /// The window is not owned; dialogs stand before it.
+    /// The window is not owned; it is the dialogs' parent.
     explicit Prompts(QWidget* window);
 
-    /// What is to become of the unsaved changes of a label.
+    /// Asks what to do with the unsaved changes of a label.
     [[nodiscard]] Changes askUnsavedChanges(const QString& labelName, bool allowDiscard) const;
-    /// What to do where the imported label's file already exists.
+    /// Asks what to do if the imported label's file already exists.
     [[nodiscard]] Existing askExisting(const QString& fileName) const;
-    /// A file to open; empty when the user canceled.
+    /// A file to open; empty if the user canceled.
     [[nodiscard]] QString askOpenFile() const;
-    /// A name to save the label under; empty when the user canceled.
+    /// A name to save the label under; empty if the user canceled.
     [[nodiscard]] QString askSaveFile(const QString& suggestedName) const;
-    /// Says what did not work, and why.
+    /// Shows what failed, and why.
     void showError(const QString& what, const QString& why) const;
 
 private:

@@ -4,9 +4,9 @@
 
 namespace window {
 
-/// The files that were opened last, kept in the user's settings.
+/// The files that were opened last, stored in the user's settings.
 ///
-/// Windows that are open at the same time share the list: it is read anew each time.
+/// Windows that are open at the same time share the list: it is read again each time.
 class RecentFiles
 {
 public:
@@ -14,7 +14,7 @@ public:
 
     /// Absolute names, the latest first.
     [[nodiscard]] QStringList files() const;
-    /// Puts a file first; the one that is over goes.
+    /// Moves a file to the front; the last one is removed if there are too many.
     void add(const QString& fileName);
     void remove(const QString& fileName);
     void clear();

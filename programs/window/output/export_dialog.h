@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] OutputOrder order() const;
 
-    // What the dialog asks, for whoever fills it in.
+    // The fields of the dialog, for tests and callers that fill them in.
     void setFormat(OutputFormat format);
     void setFileName(const QString& fileName);
     void setDpi(int dpi);

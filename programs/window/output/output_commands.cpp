@@ -22,7 +22,7 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(window::OutputCommands)
 };
 
-// Work that is over at once shows no dialog.
+// Short operations show no progress dialog.
 class ProgressWindow
 {
 public:
@@ -77,7 +77,7 @@ RecordRange recordsOf(const QPrinter& printer, qint64 shownRecord, qint64 count)
 
 void offerPages(QPrinter& printer, const OpenLabel& label)
 {
-    // Label printers take paper of any size; others let the user choose theirs.
+    // Label printers accept any paper size; for others the user selects the paper.
     printer.setFullPage(true);
     printer.setPageSize(
         QPageSize(label.canvas->page().size, QPageSize::Point, {}, QPageSize::ExactMatch));

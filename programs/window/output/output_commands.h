@@ -10,13 +10,13 @@ namespace window {
 
 class Prompts;
 
-/// Asks what to export and writes it. Returns a line about what was written; empty when
-/// nothing was. The label shows the given record again afterwards.
+/// Asks what to export and writes it. Returns a message about the written files; empty if
+/// there are none. The label shows the given record again afterwards.
 [[nodiscard]] QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
                                   QWidget* window);
 
-/// Asks for a printer and prints. Returns a line about what was printed; empty when nothing
-/// was. The label shows the given record again afterwards.
+/// Asks for a printer and prints. Returns a message about the printed pages; empty if there
+/// are none. The label shows the given record again afterwards.
 [[nodiscard]] QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
                                  QWidget* window);
 

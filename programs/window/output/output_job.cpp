@@ -17,7 +17,7 @@ namespace {
 
 constexpr int FewestDigits = 3;
 
-// Without the suffix.
+// The label's name without the suffix.
 QString titleOf(const OpenLabel& label)
 {
     return QFileInfo(displayName(label)).completeBaseName();
@@ -50,7 +50,7 @@ OutputReport writeSeries(OpenLabel& label, const OutputOrder& order, const Progr
     return report;
 }
 
-// Follows the pages of one document.
+// Reports the progress of one document's pages.
 class Pages
 {
 public:

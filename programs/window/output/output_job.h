@@ -10,11 +10,11 @@ class QPagedPaintDevice;
 
 namespace window {
 
-/// Most records that one export or print may have. A counter may have thousands of millions,
-/// and nobody wants so many files by accident.
+/// Most records of one export or print. A counter may have billions, and writing
+/// that many files is never intended.
 inline constexpr qint64 MaximumRecords = 10'000;
 
-/// Records that are put out, counted from 0.
+/// The records to write, counted from 0.
 struct RecordRange
 {
     qint64 first = 0;
@@ -23,34 +23,34 @@ struct RecordRange
 
 enum class OutputFormat : quint8 { Png, Svg, Pdf };
 
-/// What to write, and where.
+/// The content and the target of an export.
 struct OutputOrder
 {
     OutputFormat format = OutputFormat::Png;
-    QString fileName; ///< of a single file, or what the names of several begin with
-    int dpi = 300;    ///< of pictures
+    QString fileName; ///< of a single file, or the common prefix of several
+    int dpi = 300;    ///< of pictures, in dots per inch
     RecordRange records;
 };
 
-/// What became of an order.
+/// The result of an export or print.
 struct OutputReport
 {
-    QString error; ///< in words for a person; empty when all went well
+    QString error; ///< user-visible; empty on success
     bool wasStopped = false;
-    int files = 0; ///< that were written
+    int files = 0; ///< written files
 };
 
-/// Told before each record how many are done; false stops the work.
+/// Called before each record with the number of finished ones; return false to cancel.
 using Progress = std::function<bool(qint64 done)>;
 
 [[nodiscard]] QString suffixOf(OutputFormat format);
 
 /// The file of a record in a series of pictures or drawings: "name-007.png" for the seventh
-/// of up to 999. A series of one has the name as it stands.
+/// of up to 999. A single record has the name unchanged.
 [[nodiscard]] QString fileNameInSeries(const OutputOrder& order, qint64 position);
 
 /// Writes the files. PDF puts all records into one document. Afterwards the label shows the
-/// last record that was put out; the caller shows the one that is wanted.
+/// last written record; the caller restores the shown one.
 [[nodiscard]] OutputReport writeOutput(OpenLabel& label, const OutputOrder& order,
                                        const Progress& progress);
 

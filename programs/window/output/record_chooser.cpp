@@ -42,7 +42,7 @@ RecordChooser::RecordChooser(qint64 recordCount, qint64 shownRecord, QWidget* pa
         Q_EMIT rangeChanged();
     });
     connect(m_first, &QSpinBox::valueChanged, this, [this](int first) {
-        // A run has at least one record, and no more than can be meant.
+        // A range has at least one record and at most MaximumRecords.
         m_last->setMinimum(first);
         const qint64 most = first + MaximumRecords - 1;
         m_last->setMaximum(boxNumber(std::min<qint64>(most, m_first->maximum())));

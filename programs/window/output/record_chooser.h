@@ -9,19 +9,19 @@ class QSpinBox;
 
 namespace window {
 
-/// Asks which records are put out: the one that is shown, or a run of them.
+/// Asks which records to write: the shown one, or a range.
 class RecordChooser final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @param recordCount how many records there are
-    /// @param shownRecord the record that is shown, counted from 0
+    /// @param recordCount number of records
+    /// @param shownRecord the shown record, counted from 0
     RecordChooser(qint64 recordCount, qint64 shownRecord, QWidget* parent = nullptr);
 
     /// Never more than MaximumRecords.
     [[nodiscard]] RecordRange range() const;
-    /// Chooses a run, both ends counted from 1 and included.
+    /// Selects a range; both ends are inclusive and counted from 1.
     void chooseRun(int first, int last);
 
 Q_SIGNALS:

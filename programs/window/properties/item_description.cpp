@@ -15,7 +15,7 @@ namespace {
 using workbench::ItemValues;
 
 constexpr int SummaryLength = 60;
-// A property shows the beginning of a text; nobody reads a megabyte in a table.
+// A property shows only the beginning of a text: a cell must stay short.
 constexpr int LongestValue = 2000;
 
 struct Words

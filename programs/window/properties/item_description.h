@@ -8,7 +8,7 @@
 
 namespace window {
 
-/// One property of an item in words.
+/// One property of an item as text.
 struct PropertyRow
 {
     QString group;
@@ -17,18 +17,18 @@ struct PropertyRow
     bool operator==(const PropertyRow&) const = default;
 };
 
-/// What an item of this type is called.
+/// The name of an item type.
 [[nodiscard]] QString kindName(KestTypes::ShapeType type);
 
-/// What tells an item from the next one of its kind, on one short line: its text, the
+/// A short line that distinguishes an item from others of its type: its text, the
 /// content of its barcode, the size of its picture. Empty for a plain shape.
 [[nodiscard]] QString contentSummary(const workbench::ItemValues& values);
 
-/// Kind and content together, as a message or a screen reader names the item.
+/// Type and content together, the item's name in messages and for screen readers.
 [[nodiscard]] QString itemTitle(const workbench::ItemValues& values);
 
-/// All properties of an item, groups in a fixed order; groups that it does not have are
-/// left out.
+/// All properties of an item, groups in a fixed order; groups without values are
+/// omitted.
 [[nodiscard]] QList<PropertyRow> describeItem(const workbench::ItemValues& values, LengthUnit unit);
 
 } // namespace window

@@ -33,7 +33,7 @@ QList<int> selectedRows(const ItemTableModel& model, const QGraphicsScene& scene
     return rows;
 }
 
-// Runs of rows as one range each: a selection of very many ranges is slow.
+// Contiguous rows as one range each: a selection of very many ranges is slow.
 QItemSelection selectionOf(const ItemTableModel& model, const QList<int>& rows)
 {
     QItemSelection selection;
@@ -102,7 +102,7 @@ void ItemPanel::refresh()
 void ItemPanel::selectItem(int row)
 {
     if (m_model->itemAt(row) != nullptr) {
-        // Not selectRow(): whichever modifier keys are down, it is this item alone.
+        // Not selectRow(): select only this item, whichever modifier keys are pressed.
         m_table->selectionModel()->setCurrentIndex(m_model->index(row, 0),
                                                    QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);

@@ -15,7 +15,7 @@ namespace window {
 
 class ItemTableModel;
 
-/// The list of a label's items. Its selection is that of the canvas, both ways.
+/// The list of a label's items. Its selection and the canvas's are synchronized.
 class ItemPanel final : public QWidget
 {
     Q_OBJECT
@@ -23,22 +23,22 @@ class ItemPanel final : public QWidget
 public:
     explicit ItemPanel(QWidget* parent = nullptr);
 
-    /// The canvas is not owned; null empties the list. It must be taken away before it goes.
+    /// The canvas is not owned; null empties the list. Call with null before deleting it.
     void setCanvas(workbench::Canvas* canvas);
     void setUnit(LengthUnit unit);
     /// Reads the items again, after they have changed.
     void refresh();
-    /// Selects this item alone. Does nothing for a row that there is not.
+    /// Selects this item alone. Ignores a row out of range.
     void selectItem(int row);
 
     [[nodiscard]] QTableView& table() { return *m_table; }
-    /// The item that the selection is about; null when nothing is selected.
+    /// The current item of the selection; null if nothing is selected.
     [[nodiscard]] workbench::CanvasItem* currentItem() const;
 
 Q_SIGNALS:
-    /// Other items are selected, here and on the canvas.
+    /// The selection has changed, here and on the canvas.
     void selectionChanged();
-    /// The user picked an item in the list: it should be seen.
+    /// The user activated an item of the list: scroll to it.
     void itemWanted(workbench::CanvasItem* item);
 
 private:
@@ -48,7 +48,7 @@ private:
     ItemTableModel* m_model;
     QTableView* m_table;
     workbench::Canvas* m_canvas = nullptr;
-    bool m_isFollowing = false; // one side is being made to follow the other
+    bool m_isFollowing = false; // guards against recursion while one side follows the other
 };
 
 } // namespace window

@@ -16,7 +16,7 @@ class CanvasItem;
 
 namespace window {
 
-/// The items of a canvas as a table, one row each in the order in which they came in.
+/// The items of a canvas as a table, one row each in insertion order.
 class ItemTableModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -26,15 +26,15 @@ public:
 
     explicit ItemTableModel(QObject* parent = nullptr);
 
-    /// The canvas is not owned; null empties the table. It must be taken away before it goes.
+    /// The canvas is not owned; null empties the table. Call with null before deleting it.
     void setCanvas(const workbench::Canvas* canvas);
     void setUnit(LengthUnit unit);
-    /// Reads all items again, after they have been moved or show another record.
+    /// Reads all items again, after a move or a change of the record.
     void refresh();
 
-    /// The item of a row; null for a row that there is not.
+    /// The item of a row; null for a row out of range.
     [[nodiscard]] workbench::CanvasItem* itemAt(int row) const;
-    /// The row of an item of the scene; -1 when it is none of the canvas's.
+    /// The row of an item of the scene; -1 if it is not on the canvas.
     [[nodiscard]] int rowOf(const QGraphicsItem* item) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -44,7 +44,7 @@ public:
                                       int role) const override;
 
 private:
-    // The words of a row. Made once: to read an item is more than a table's cell should cost.
+    // The texts of a row, cached: reading an item is too slow for each repaint of a cell.
     struct Row
     {
         workbench::CanvasItem* item = nullptr;

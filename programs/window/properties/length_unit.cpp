@@ -14,8 +14,8 @@ QString unitSymbol(LengthUnit unit)
 QString lengthNumber(double points, LengthUnit unit)
 {
     const int decimals = unit == LengthUnit::Inch ? 3 : 2;
-    // Adding zero turns a rounded -0.00 into 0.00 only where the value is -0 itself; a page
-    // has no use for finer zeros.
+    // Adding zero turns -0.0 into 0.0. Values that only round to -0.00 keep
+    // their sign.
     return QLocale().toString(inUnit(points, unit) + 0.0, 'f', decimals);
 }
 

@@ -5,7 +5,7 @@
 
 namespace window {
 
-/// The unit in which lengths are shown. Labels themselves are kept in points.
+/// The unit for displayed lengths. Labels are stored in points.
 enum class LengthUnit : quint8 { Millimeter, Inch };
 
 [[nodiscard]] constexpr double pointsPerUnit(LengthUnit unit)
@@ -21,7 +21,7 @@ enum class LengthUnit : quint8 { Millimeter, Inch };
 /// "mm" or "in".
 [[nodiscard]] QString unitSymbol(LengthUnit unit);
 
-/// A length of so many points as a number in the unit, in the user's locale: two decimals
+/// A length in points as a number in the unit, in the user's locale: two decimals
 /// for millimeters, three for inches.
 [[nodiscard]] QString lengthNumber(double points, LengthUnit unit);
 

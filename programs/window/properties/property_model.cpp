@@ -31,7 +31,7 @@ QString PropertyModel::cell(int row, int column) const
     const PropertyRow& property = m_rows.at(row);
     switch (column) {
     case Group:
-        // A group's name stands once, beside its first property.
+        // A group's name is shown once, beside its first property.
         return row > 0 && m_rows.at(row - 1).group == property.group ? QString() : property.group;
     case Name:
         return property.name;

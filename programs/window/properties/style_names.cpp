@@ -60,7 +60,7 @@ constexpr NameRow Brushes[] = {
     {Qt::LinearGradientPattern, QT_TRANSLATE_NOOP("window::StyleNames", "gradient")},
 };
 
-// The same marks for both ends: the start keeps them in the upper half of a byte.
+// The same markers for both ends: the start has them in the upper half of the byte.
 constexpr NameRow Markers[] = {
     {0x00, QT_TRANSLATE_NOOP("window::StyleNames", "none")},
     {0x01, QT_TRANSLATE_NOOP("window::StyleNames", "arrow")},
@@ -117,7 +117,7 @@ QString nameIn(const NameRow (&rows)[Size], int code)
                            : QCoreApplication::translate(Context, "unknown (%1)").arg(code);
 }
 
-// The first flag of the table that is set.
+// The name of the first matching flag of the table.
 template <std::size_t Size>
 QString flagName(const NameRow (&rows)[Size], int flags)
 {

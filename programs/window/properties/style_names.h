@@ -6,7 +6,7 @@
 
 namespace window {
 
-// Words for the numbers that items keep. A number that means nothing is told as such.
+// Names of the numbers in item values. An unknown number is shown as a number.
 
 [[nodiscard]] QString colorName(const QColor& color);
 [[nodiscard]] QString angleText(double degrees);

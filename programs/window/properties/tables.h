@@ -8,11 +8,11 @@ class QWidget;
 
 namespace window {
 
-/// A table as all panels have it: whole rows are picked, Tab leaves it, nothing is edited.
+/// The common setup of tables in panels: selects rows, Tab leaves the table, read-only.
 [[nodiscard]] QTableView* makeTable(QAbstractItemModel& model, const QString& accessibleName,
                                     QWidget* parent);
 
-/// Puts the keyboard on a table, on its present row or else on its first.
+/// Moves keyboard focus to a table, to its current row or else its first.
 void focusTable(QTableView& table);
 
 } // namespace window

@@ -22,7 +22,7 @@ namespace window {
 
 namespace {
 
-// A spin box counts with int; nobody types a larger record.
+// A spin box holds an int; larger numbers are limited.
 int boxNumber(qint64 number)
 {
     return static_cast<int>(std::min<qint64>(number, std::numeric_limits<int>::max()));

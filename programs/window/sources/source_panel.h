@@ -22,16 +22,16 @@ class SourcePanel final : public QWidget
     Q_OBJECT
 
 public:
-    /// The buttons are those of the record actions.
+    /// The buttons trigger the record actions.
     explicit SourcePanel(const Actions& actions, QWidget* parent = nullptr);
 
-    /// Shows the sources as of a record counted from 0. Null empties the panel.
+    /// Shows the sources at a record counted from 0. Null empties the panel.
     void show(const workbench::datasources::DatasourceController* sources, qint64 record);
     [[nodiscard]] QTableView& table() { return *m_table; }
     [[nodiscard]] QSpinBox& recordBox() { return *m_record; }
 
 Q_SIGNALS:
-    /// The user wants another record, counted from 0.
+    /// The user chose another record, counted from 0.
     void recordWanted(qint64 record);
 
 private:

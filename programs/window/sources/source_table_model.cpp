@@ -18,7 +18,7 @@ using workbench::datasources::SequenceSource;
 using workbench::datasources::SystemSource;
 using workbench::datasources::TextListSource;
 
-// A list may be long; a cell shows where it begins.
+// A list may be long; a cell shows only its beginning.
 constexpr qsizetype ListedTexts = 5;
 
 QString kindOf(const Datasource& source)

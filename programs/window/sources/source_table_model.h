@@ -10,7 +10,7 @@ class DatasourceController;
 
 namespace window {
 
-/// The data sources of a label as a table: what each one is and what it shows now.
+/// The data sources of a label as a table: their kinds and their current content.
 class SourceTableModel final : public QAbstractTableModel
 {
     Q_OBJECT
