@@ -1,9 +1,9 @@
 # labelport_run_path(TARGET FOLDER...)
 #
-# The folders in which an installed target finds its libraries, relative to its own folder, so that an
-# installation can be moved. Builds use the same path: CMake would pad a separate one with an empty
-# entry, and an empty entry means the current folder, so libraries of the same name in the current
-# folder would be loaded.
+# The folders in which an installed target finds its libraries, relative to its own folder, so that
+# an installation can be moved. Builds use the same path: CMake would pad a separate one with an
+# empty entry, and an empty entry means the current folder, so libraries of the same name in the
+# current folder would be loaded.
 function(labelport_run_path target)
     list(TRANSFORM ARGN PREPEND "$ORIGIN/" OUTPUT_VARIABLE folders)
     set_target_properties(${target} PROPERTIES

@@ -1,5 +1,5 @@
-// The operations of the contract with their exact arguments: an importer that was built
-// against them must find them in every host.
+// The operations of the contract with their exact arguments: every host must have them for an
+// importer that was built against them.
 
 #include "host/class_factory.h"
 #include "host/datasource_controller.h"
@@ -34,7 +34,7 @@ constexpr bool is = std::is_same_v<Operation, Expected>;
 
 using Items = QList<QGraphicsItem*>;
 
-// The canvas and what it makes.
+// The canvas and the item factory.
 using Canvas = TalCanvasModel;
 static_assert(is<decltype(&Canvas::getClassFactory), ClassFactory* (Canvas::*)()>);
 static_assert(is<decltype(&Canvas::importItem), void (Canvas::*)(Item*)>);

@@ -1,5 +1,5 @@
-// An importer gets an Item from the factory and reaches everything else by a cast at run
-// time. Here every facet of every class is reached so, on the items of a real host.
+// An importer gets an Item from the factory and finds all other bases with dynamic_cast. These
+// tests cast to every facet of every class, on the items of a real host.
 
 #include "host/class_factory.h"
 #include "host/tal_canvas_model.h"
@@ -33,7 +33,7 @@ protected:
         ASSERT_NE(item, nullptr);
         const std::vector<bool> reached{dynamic_cast<Facets*>(item.get()) != nullptr...};
         EXPECT_EQ(reached, std::vector<bool>(sizeof...(Facets), true));
-        // And back again, from where the canvas's lists know it.
+        // And back, from the type in the canvas's lists.
         auto* graphics = dynamic_cast<QGraphicsItem*>(item.get());
         EXPECT_EQ(dynamic_cast<Item*>(graphics), item.get());
     }
@@ -90,7 +90,7 @@ TEST_F(FacetReach, Line)
 {
     expectReached<QGraphicsItem, QObject, QGraphicsLineItem, LineItem, ContouredItem, ColoredItem,
                   PenItem, IColorItem, ILineItem, ITemplateLockItem, ISizeItem>(KestTypes::Line);
-    // A line has no inside.
+    // A line has no fill.
     EXPECT_EQ(dynamic_cast<FillColorItem*>(make(KestTypes::Line).get()), nullptr);
 }
 
@@ -123,7 +123,7 @@ TEST_F(FacetReach, Symbol)
                   ISizeItem>(KestTypes::Symbol);
 }
 
-// --- the order of the bases, as it lies in memory ---
+// --- the order of the bases in memory ---
 
 template <typename... Bases, typename Class>
 void expectInOrder(const Class& object)

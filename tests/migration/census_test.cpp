@@ -79,7 +79,7 @@ TEST(TavrelCensus, KnowsThatACutFileMayHaveHeldMore)
         cutRecords += census.unknown.isEmpty() ? 0 : 1;
         EXPECT_LE(census.objects.size(), 8);
     }
-    // Only a cut between two records leaves no trace: before each of nine, one of them empty.
+    // Only a cut between two records is not detected: before each of nine, one of them empty.
     EXPECT_EQ(cutRecords, whole.size() - 9);
 }
 

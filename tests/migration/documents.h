@@ -10,9 +10,9 @@
 
 #include <functional>
 
-/// Small documents of all formats, and what is reported on them.
+/// Small documents of all formats, and the reports on them.
 
-/// What an OpenDocument package may hold beside its body.
+/// Optional parts of an OpenDocument package besides its body.
 struct DocumentParts
 {
     QByteArray pageLayout = "fo:page-width=\"4in\" fo:page-height=\"3in\"";
@@ -23,14 +23,14 @@ struct DocumentParts
 
 /// A package with a body of any kind.
 [[nodiscard]] QByteArray packageOf(const QByteArray& body, const DocumentParts& parts = {});
-/// A drawing whose first page holds these elements.
+/// A drawing whose first page has these elements.
 [[nodiscard]] QByteArray drawingOf(const QByteArray& shapes, const DocumentParts& parts = {});
 /// A text document of these elements.
 [[nodiscard]] QByteArray textOf(const QByteArray& elements, const DocumentParts& parts = {});
 /// An XML label with these controls, on a page of 400 by 300 pixels.
 [[nodiscard]] QByteArray controlsOf(const QByteArray& controls);
 
-/// A document with the name that its reader goes by.
+/// A document with the name that selects its reader.
 struct Document
 {
     QString name;
@@ -54,23 +54,23 @@ struct Document
     return {QStringLiteral("canvas.cnv"), bytes};
 }
 
-/// A rectangle of an inch on the page of a drawing, which is imported whole.
+/// A rectangle of an inch on the page of a drawing, which is imported completely.
 extern const QByteArray kPlainRect;
-/// A text on the page of an XML label, which is imported whole.
+/// A text on the page of an XML label, which is imported completely.
 extern const QByteArray kPlainLabel;
 
-/// Changes what an import gave before it is reported on.
+/// Changes the result of an import before the report.
 using Tamper = std::function<void(workbench::ImportResult& result)>;
 
-/// Imports the document through the importer and the workbench, and reports on it.
+/// Imports the document through the importer and the workbench, and returns the report.
 [[nodiscard]] migration::FileReport reportOn(const Document& document,
                                              const Tamper& tamper = nullptr,
                                              const migration::ReportOptions& options = {});
 
-/// Takes one item off the label, as a reader does that passes an object over.
+/// Removes one item from the label, like a reader that skips an object.
 void dropItem(workbench::ImportResult& result, qsizetype index);
 
-/// The finding of a code in either list; null when it is in none.
+/// The finding with this code in either list; null if there is none.
 [[nodiscard]] const migration::Finding* findingOf(const migration::FileReport& report,
                                                   const QString& code);
 /// All codes of a report, for messages of tests.

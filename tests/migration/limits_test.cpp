@@ -1,4 +1,4 @@
-// Every limit of what is counted and reported at its last good value and at the first bad one.
+// Every limit of the census and the report, at its last valid and its first invalid value.
 
 #include "limits/json/tree_size.h"
 #include "limits/zip/zip_directory.h"
@@ -23,7 +23,7 @@ using namespace migration;
 
 namespace {
 
-/// A file of so many zero bytes, which takes no room on the disk.
+/// A sparse file of this many zero bytes.
 class HollowFile
 {
 public:
@@ -72,7 +72,7 @@ QByteArray package(const QByteArray& styles, const QByteArray& content)
     return buffer.data();
 }
 
-// A document of just so many bytes.
+// A document of exactly this many bytes.
 QByteArray documentOf(qint64 size)
 {
     return QByteArray("<a/>").leftJustified(size, ' ');
@@ -85,7 +85,7 @@ qsizetype lineRead(QByteArray text)
     return readReportLine(report).size();
 }
 
-// Lists whose parsed tree takes exactly so many bytes.
+// Lists whose parsed tree has exactly this many bytes.
 QByteArray linesOfTree(qint64 tree)
 {
     const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(300'000);
@@ -136,7 +136,7 @@ TEST(CensusLimits, MeasureTheMembersOfPackages)
     EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(MaximumContent + 1)))));
 }
 
-// The format's own: the end of a package is followed by a comment of so many bytes.
+// A limit of the zip format: a comment of up to this many bytes may follow the end record.
 TEST(CensusLimits, FindThePackageBeforeItsComment)
 {
     constexpr qsizetype longest = 65535;
@@ -145,7 +145,7 @@ TEST(CensusLimits, FindThePackageBeforeItsComment)
     EXPECT_FALSE(isCounted(countOpenDocument(plain + QByteArray(longest + 1, 'x'))));
 }
 
-// The parser makes gigabytes of the largest text that is taken, so that one is only asked for.
+// Parsing the largest valid text takes gigabytes, so only its size is checked.
 TEST(CensusLimits, MeasureTheTreeOfSavedLabels)
 {
     const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(1'840'000);
@@ -174,7 +174,7 @@ TEST(CensusLimits, ShortenDetails)
     EXPECT_EQ(tally.details, QStringList{longest});
 }
 
-// What is kept shows in nothing but the time; what is forgotten is queried again.
+// The cache only affects the time; removed entries are queried again.
 TEST(CensusLimits, ForgetFontsWithoutMistakes)
 {
     constexpr int more = 2'500;

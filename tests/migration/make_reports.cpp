@@ -1,6 +1,6 @@
 // Writes reports on labels into a folder, for tests that look at them with other programs:
 //   make_reports FOLDER FILE...
-// The reports hold the files, and one made-up entry for every other end that a file can come to.
+// The reports contain the files, and an artificial entry for every other possible outcome.
 
 #include "migration/file_report_builder.h"
 #include "migration/report/report_writer.h"

@@ -4,7 +4,7 @@
 
 #include <random>
 
-/// A report of any content that a report can have, texts that are hard to write included.
+/// A report with random content, including texts that are hard to write.
 [[nodiscard]] inline QString randomText(std::mt19937& random)
 {
     static const QStringList pieces = {

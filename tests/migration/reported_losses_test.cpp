@@ -153,8 +153,8 @@ QByteArray masterPage(const QByteArray& content)
            "</style:master-page>";
 }
 
-// What accompanies the lost object must be imported: without any item a binary file is
-// refused, and the others could be blank for any reason.
+// The object next to the lost one must be imported: a binary file without any item is refused,
+// and other files could be empty for any reason.
 const QList<Sample>& samples()
 {
     static const QList<Sample> all = {
@@ -327,7 +327,7 @@ TEST_P(ReportedLoss, FailsTheRunWhenTheContentIsHarmed)
     const Sample& sample = samples().at(GetParam());
     const FileReport report = reportOn(sample.document, sample.tamper);
     SCOPED_TRACE(codesOf(report).toStdString());
-    // The samples lose or change one thing, so that alone decides.
+    // Each sample has a single loss or change, which determines the result.
     EXPECT_EQ(hasLoss(report), lossRow(sample.kind).harm == Harm::Content);
 }
 

@@ -112,7 +112,7 @@ void expectEveryDropIsSeen(const Document& document, qint64 objects)
     }
 }
 
-// The switch that no reader has: one kind of element by another name.
+// Readers cannot be made to skip a kind of element, so this renames the element.
 Document without(const Document& document, const QByteArray& tag)
 {
     Document changed = document;
@@ -158,7 +158,7 @@ TEST(SilentLoss, OfAKindThatIsNotDispatchedIsCounted)
 
 TEST(SilentLoss, ADocumentOfOtherPrefixesIsNotCalledWhole)
 {
-    // The prefixes of a document are its own choice; the reader goes by the usual ones.
+    // A document may define other prefixes; the reader only supports the usual ones.
     Document document = {
         QStringLiteral("prefixes.odg"),
         packageOf("<office:drawing><draw:page>" + kPlainRect +

@@ -1,4 +1,4 @@
-// What holds for every fraction, tried on generated ones.
+// Properties of all fractions, checked with generated ones.
 
 #include "numeric/fraction.h"
 

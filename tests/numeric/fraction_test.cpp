@@ -165,7 +165,7 @@ TEST(FractionEquality, ComparesRatiosWhenTheLeftSideIsExact)
     EXPECT_FALSE(Fraction(1, 2) != Fraction(2, 4));
     EXPECT_TRUE(Fraction(1, 2) != Fraction(1, 3));
     EXPECT_TRUE(Fraction(1, 2) != Fraction(3, 2));
-    // The decimal 0.5 holds the ratio 1/1 beside it.
+    // The decimal 0.5 also has the ratio 1/1.
     EXPECT_TRUE(Fraction(1, 1) == Fraction(0.5));
     EXPECT_FALSE(Fraction(1, 2) == Fraction(0.5));
 }
@@ -222,7 +222,7 @@ INSTANTIATE_TEST_SUITE_P(Exact, FractionProduct,
                                          ProductCase{"1", "1/3", "1/3", 1.0 / 3.0, true},
                                          // One side reads as 1/1 and is -1.0, not decimal.
                                          ProductCase{"0", "1/2", "1/2", 0.5, true},
-                                         // What cannot be read is -1.0 too, so it is exact.
+                                         // Unreadable text is -1.0, too, so it is exact.
                                          ProductCase{"abc", "1", "1/1", 1.0, true},
                                          // Within a millionth counts as agreement.
                                          ProductCase{"1.0000005", "1/2", "1/2", 0.5, true},

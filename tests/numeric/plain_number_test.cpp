@@ -1,4 +1,4 @@
-// Plain texts give what Qt gives, and all others are left to Qt.
+// Plain texts have the same result as in Qt, and all others are passed to Qt.
 #include "numeric/plain_number.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-# Programs and libraries of a build name whole folders in which to look for their libraries. An
-# empty name would be the folder where the user stands, and whatever lies there would be loaded.
+# The library search path of programs and libraries in a build has no empty entries. An empty entry
+# means the current folder, so libraries of the same name in the current folder would be loaded.
 
 file(GLOB files ${BUILD}/bin/*)
 set(seen 0)

@@ -47,7 +47,7 @@ list(APPEND samples ${WORK}/broken.qmtx ${WORK}/broken.odg ${WORK}/broken.cnv)
 
 set(records 0)
 foreach(sample IN LISTS samples)
-    # Status 1 is a label that is not imported; it has a trace, too.
+    # Status 1 means that the label was not imported; it has a trace, too.
     foreach(build ${BUILD} ${WORK}/labelport)
         execute_process(COMMAND ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${WORK}/cutelogger
                 ${build}/bin/labelport-trace ${sample}

@@ -1,4 +1,4 @@
-# The three Debian packages: made of this build, unpacked into an empty folder, and used there.
+# The three Debian packages: created from this build, unpacked into an empty folder, and used there.
 include(${CMAKE_CURRENT_LIST_DIR}/package_steps.cmake)
 
 file(REMOVE_RECURSE ${WORK})
@@ -15,7 +15,7 @@ function(package_of name variable)
     set(${variable} ${found} PARENT_SCOPE)
 endfunction()
 
-# expect_field(package field pattern): what a package says of itself.
+# expect_field(package field pattern): checks a field of a package's control file.
 function(expect_field package field pattern)
     run(OUTPUT value COMMAND dpkg-deb --field ${package} ${field})
     if(NOT value MATCHES "${pattern}")
@@ -28,7 +28,7 @@ package_of(${library_name} library)
 package_of(liblabelport-dev development)
 package_of(labelport programs)
 
-# Each needs what it stands on, and the libraries that it is linked with.
+# Each depends on the packages below it, and on the libraries that it links.
 expect_field(${library} Depends "libqt6widgets6")
 expect_field(${library} Depends "libqt6svg6")
 expect_field(${development} Depends "${library_name} \\(= ${VERSION}-1\\).*qt6-base-dev")
@@ -55,7 +55,7 @@ foreach(package ${library} ${development} ${programs})
     run(COMMAND dpkg-deb --extract ${package} ${root})
 endforeach()
 
-# No file belongs to two packages, and each is where it is looked for.
+# No file is in two packages, and each is in its expected folder.
 run(OUTPUT library_files COMMAND dpkg-deb --contents ${library})
 run(OUTPUT development_files COMMAND dpkg-deb --contents ${development})
 run(OUTPUT programs_files COMMAND dpkg-deb --contents ${programs})
@@ -89,13 +89,13 @@ foreach(case
     endforeach()
 endforeach()
 
-# The change log of the packages speaks of this version.
+# The packages' change log has an entry for this version.
 file(STRINGS ${SOURCE}/packaging/debian/changelog first_line LIMIT_COUNT 1)
 if(NOT first_line MATCHES "^labelport \\(${VERSION}-1\\) ")
     message(SEND_ERROR "packaging/debian/changelog begins with\n${first_line}")
 endif()
 
-# The programs run from there, and take the library from there.
+# The programs run from there, and load the library from there.
 run(OUTPUT libraries COMMAND ldd ${root}/usr/${PROGRAMDIR}/labelport)
 if(NOT libraries MATCHES "liblabelport\\.so[^\n]* => ${root}/")
     message(SEND_ERROR "labelport takes another library:\n${libraries}")
@@ -104,7 +104,7 @@ run(OUTPUT version COMMAND ${root}/usr/bin/labelport --version)
 if(NOT version STREQUAL "labelport ${VERSION}\n")
     message(SEND_ERROR "labelport says it is\n${version}")
 endif()
-# This label has a symbol that it only names.
+# This label refers to a symbol by name only.
 run(COMMAND ${root}/usr/bin/labelport import --output-dir ${WORK}/pictures
     ${SOURCE}/samples/tavrel/warning_sign_2000019.roc)
 if(NOT EXISTS ${WORK}/pictures/warning_sign_2000019.png)

@@ -1,5 +1,5 @@
-# A desktop finds the window program, its icon, and its kinds of file: the files are valid, they
-# are installed where desktops look, and they name each other rightly.
+# A desktop finds the window program, its icon, and its file types: the files are valid, are
+# installed in the standard folders, and refer to each other correctly.
 include(${CMAKE_CURRENT_LIST_DIR}/package_steps.cmake)
 
 set(prefix ${WORK}/prefix)
@@ -19,7 +19,7 @@ if(NOT EXISTS ${prefix}/${BINDIR}/${CMAKE_MATCH_1})
     message(SEND_ERROR "the program ${CMAKE_MATCH_1} is not installed")
 endif()
 
-# Every kind of file that we describe opens in the program and has an icon.
+# Each registered file type opens in the program and has an icon.
 file(READ ${data}/mime/packages/labelport.xml kinds)
 string(REGEX MATCHALL "<mime-type type=\"[^\"]+\"" types "${kinds}")
 list(LENGTH types count)
@@ -41,7 +41,7 @@ foreach(icon IN LISTS icons)
     endif()
 endforeach()
 
-# The newest release that software centres show is this one.
+# The newest release in the metainfo file is this version.
 file(READ ${data}/metainfo/org.labelport.Workbench.metainfo.xml metainfo)
 string(REGEX MATCH "<release version=\"([^\"]+)\"" release "${metainfo}")
 if(NOT CMAKE_MATCH_1 STREQUAL VERSION)

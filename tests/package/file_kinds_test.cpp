@@ -1,4 +1,4 @@
-// Which kind of file a desktop takes a label for, by its name and by its content.
+// The file type that a desktop detects for a label, by name and by content.
 
 #include <QDir>
 #include <QFile>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A database of file kinds with ours in it, instead of the user's own.
+/// A MIME database with LabelPort's types, used instead of the user's.
 class FileKinds : public ::testing::Test
 {
 protected:
@@ -19,7 +19,7 @@ protected:
     {
         s_data = std::make_unique<QTemporaryDir>();
         ASSERT_TRUE(QDir(s_data->path()).mkpath(QStringLiteral("mime/packages")));
-        // One folder, as in an installation: between several, Qt does not heed priorities.
+        // One folder, as in an installation: Qt ignores priorities between several.
         for (const char* description :
              {LABELPORT_MIME_FILE, "/usr/share/mime/packages/freedesktop.org.xml"}) {
             const QString file = QString::fromLatin1(description);

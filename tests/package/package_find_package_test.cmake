@@ -1,11 +1,11 @@
-# find_package(LabelPort): the library and its development files are enough to build the
-# example and to run it.
+# find_package(LabelPort): the library and its development files are sufficient to build and
+# run the example.
 include(${CMAKE_CURRENT_LIST_DIR}/package_steps.cmake)
 
 set(prefix ${WORK}/prefix)
 install_to(${prefix} library development)
 
-# What is private to the library stays private, and nothing points back to where it was built.
+# Private headers are not installed, and no file refers to the build folder.
 file(GLOB package_files ${prefix}/${LIBDIR}/cmake/LabelPort/*.cmake)
 list(LENGTH package_files count)
 if(count LESS 4)
@@ -23,7 +23,7 @@ foreach(target LabelPort Host Logging)
     endif()
 endforeach()
 
-# A copy of the example, so that it cannot find a header by standing in our sources.
+# A copy of the example, so that it cannot find headers in the source tree.
 file(REMOVE_RECURSE ${WORK}/embedding ${WORK}/build)
 file(COPY ${SOURCE}/examples/embedding DESTINATION ${WORK})
 run(COMMAND ${CMAKE_COMMAND} -S ${WORK}/embedding -B ${WORK}/build

@@ -1,4 +1,4 @@
-# labelport.pc: its flags, moc and a compiler are all that it takes to build the example.
+# labelport.pc: its flags, moc and a compiler are sufficient to build the example.
 include(${CMAKE_CURRENT_LIST_DIR}/package_steps.cmake)
 
 set(prefix ${WORK}/prefix)

@@ -1,7 +1,7 @@
-# Steps that the tests of this folder share.
+# Common steps of the tests in this folder.
 
-# run(OUTPUT variable COMMAND ...): runs a command, which must succeed; its standard output
-# goes into the variable.
+# run(OUTPUT variable COMMAND ...): runs a command, which must succeed, and stores its standard
+# output in the variable.
 function(run)
     cmake_parse_arguments(RUN "" "OUTPUT" "COMMAND" ${ARGN})
     execute_process(COMMAND ${RUN_COMMAND}
@@ -17,8 +17,8 @@ function(run)
     endif()
 endfunction()
 
-# install_to(prefix [component...]): installs the build, whole or in parts, and then moves the
-# result to the prefix: an installation that knew where it was made would not work there.
+# install_to(prefix [component...]): installs the build, or components of it, and then moves the
+# result to the prefix: an installation with absolute paths would not work there.
 function(install_to prefix)
     file(REMOVE_RECURSE ${prefix} ${prefix}.made)
     set(install ${CMAKE_COMMAND} --install ${BUILD} --config ${CONFIG} --prefix ${prefix}.made)
@@ -32,7 +32,7 @@ function(install_to prefix)
     file(RENAME ${prefix}.made ${prefix})
 endfunction()
 
-# expect_lines(text line...): the lines stand in the text, whole and in this order.
+# expect_lines(text line...): the text has these complete lines in this order.
 function(expect_lines text)
     set(rest "\n${text}")
     foreach(line IN LISTS ARGN)
@@ -47,7 +47,7 @@ function(expect_lines text)
     endforeach()
 endfunction()
 
-# expect_without(file text...): the file says nothing of the texts.
+# expect_without(file text...): the file does not contain the texts.
 function(expect_without file)
     file(READ ${file} content)
     foreach(text IN LISTS ARGN)
@@ -58,7 +58,7 @@ function(expect_without file)
     endforeach()
 endfunction()
 
-# try_example(program): imports a label of each format, and something that is none.
+# try_example(program): imports a label of each format, and a file that is not a label.
 function(try_example program)
     run(OUTPUT text COMMAND ${program} ${SOURCE}/samples/tavrel/asset_tag_2000020.cnv)
     expect_lines("${text}"

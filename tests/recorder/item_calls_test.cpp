@@ -19,7 +19,7 @@ namespace {
 class ItemCalls : public RecorderTest
 {
 protected:
-    /// Does something to a new item and compares the line without its item.
+    /// Calls an operation of a new item and compares the line without the item's name.
     void expectCall(KestTypes::ShapeType type, const std::function<void(Item&)>& act,
                     const char* expected)
     {

@@ -20,7 +20,7 @@ ProgramResult runProgram(const QString& program, const QStringList& arguments,
 
 QProcessEnvironment emptyEnvironment()
 {
-    // A process environment without any entry would inherit ours.
+    // An empty process environment would inherit ours.
     QProcessEnvironment environment;
     environment.insert(QStringLiteral("LABELPORT_TEST"), QStringLiteral("1"));
     const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();

@@ -5,18 +5,18 @@
 #include <QString>
 #include <QStringList>
 
-/// What came out of a program.
+/// The result of a program.
 struct ProgramResult
 {
-    bool finished = false; ///< false when it crashed or never ended
+    bool finished = false; ///< false if it crashed or timed out
     int status = -1;
     QByteArray output;
     QByteArray errors;
 };
 
-/// Runs a program to its end, in the environment that is given and no other.
+/// Runs a program to its end, with only the given environment.
 [[nodiscard]] ProgramResult runProgram(const QString& program, const QStringList& arguments,
                                        const QProcessEnvironment& environment);
 
-/// Nothing but what a sanitizer has to be told.
+/// An environment with only the sanitizers' options.
 [[nodiscard]] QProcessEnvironment emptyEnvironment();

@@ -1,4 +1,4 @@
-// The real program, as a user or a script runs it.
+// The real program, run like by a user or a script.
 
 #include "program_runner.h"
 
@@ -28,7 +28,7 @@ protected:
         file.write(content);
         return path;
     }
-    /// A label that imports, with nothing on it.
+    /// A valid label without items.
     [[nodiscard]] QString goodLabel() const { return file(QStringLiteral("good.qmtx"), "<qmtx/>"); }
 
     QTemporaryDir m_folder;
@@ -178,7 +178,7 @@ TEST_F(TraceProgram, WrongUsageIsStatusTwoAndPrintsNoTrace)
 
 TEST_F(TraceProgram, AFullDiskIsAFailure)
 {
-    // Where there is such a device: every write to it fails.
+    // If this device exists, every write to it fails.
     if (!QFile::exists(QStringLiteral("/dev/full"))) {
         return;
     }

@@ -38,7 +38,7 @@ protected:
     {
         return canvas().getClassFactory()->create(type);
     }
-    /// A new item, its creation already read off the trace.
+    /// A new item, whose creation is already removed from the trace.
     [[nodiscard]] std::unique_ptr<Item> make(KestTypes::ShapeType type)
     {
         std::unique_ptr<Item> item(create(type));

@@ -1,5 +1,5 @@
-// The services that the importer's library takes out of the program, as the recording
-// host answers them.
+// The recording host's answers of the services that the importer's library uses from the
+// program.
 
 #include "host/services/basic_conversions.h"
 #include "host/services/common_lists.h"
@@ -102,7 +102,7 @@ TEST_F(Services, SymbolCreatorTellsWhatIsNoDrawing)
     creator.loadImportedSvg(Drawing);
     creator.loadImportedSvg("<svg");
     EXPECT_FALSE(creator.convertSvgToSymbol(QRectF(1, 2, 3, 4)));
-    // Not the drawing before: an importer that does not ask must not show the wrong one.
+    // Not the previous drawing: an importer that does not check must not show the wrong one.
     EXPECT_EQ(creator.getSymbolData(), QByteArray("<svg"));
 }
 

@@ -51,8 +51,8 @@ TEST(SvgDocument, KeepsTheUnitsOfLengths)
 
 TEST(SvgDocument, OpensNoFileThatItNames)
 {
-    // Without a size of its own, a document is as large as what is drawn: were the picture
-    // or the style sheet opened, it would show.
+    // Without an explicit size, a document has the size of its content: opening the picture or
+    // the style sheet would change it.
     const QTemporaryDir folder;
     QImage picture(50, 50, QImage::Format_RGB32);
     picture.fill(Qt::red);
@@ -70,7 +70,7 @@ TEST(SvgDocument, OpensNoFileThatItNames)
                                 sheet.fileName().toUtf8() + "'?>" + svg("", content);
     EXPECT_EQ(SvgDocument(document).defaultSize(), QSizeF(4, 3));
 
-    // The renderer as it is does open them.
+    // The unprotected renderer opens them.
     QSvgRenderer bare(document);
     EXPECT_NE(bare.defaultSize(), QSize(4, 3));
 }

@@ -1,4 +1,4 @@
-// The kinds of lines, byte for byte, and what becomes of items.
+// The kinds of lines, byte for byte, and the final state of items.
 
 #include "host/items/rich_text_item.h"
 #include "recorder_fixture.h"
@@ -143,7 +143,7 @@ TEST_F(TraceLines, RichTextShowsItsDocument)
 TEST_F(TraceLines, EmptyRichTextHasNoHtml)
 {
     const std::unique_ptr<Item> item = make(KestTypes::RichText);
-    // What the text facet sets is a call, and leaves the document alone.
+    // Setting text through the facet is a call, and does not change the document.
     dynamic_cast<ITextGenericItem&>(*item).setText(QStringLiteral("plain"));
     (void)newLines();
     m_host->writeItemStates();

@@ -20,7 +20,7 @@ QByteArray committed(const QString& fileName)
     return file.readAll();
 }
 
-// How a picture is packed depends on the system's PNG library, what stands before it does not.
+// The compression of a picture depends on the system's PNG library; the bytes before it do not.
 QByteArray upToPicture(const QByteArray& content)
 {
     const qsizetype picture = content.indexOf("\x89PNG");

@@ -1,5 +1,5 @@
 # Run with -D CHECK=<check_supply_tables.cmake> -D GOOD=<folder> -D SCRATCH=<folder>.
-# Each case copies the good folder, spoils one file and looks for the message.
+# Each case copies the good folder, damages one file and expects the message.
 cmake_minimum_required(VERSION 3.25)
 
 file(WRITE ${SCRATCH}/check.cmake
@@ -48,7 +48,7 @@ endfunction()
 copy_of_good(good)
 expect_good(good)
 
-# Written back by CMake, which takes carriage returns away.
+# Written back by CMake, which removes carriage returns.
 copy_of_good(unix_line_ends)
 replace_in(unix_line_ends LabelType.csv "Custom" "Special")
 expect_good(unix_line_ends)

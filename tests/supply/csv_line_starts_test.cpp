@@ -1,4 +1,4 @@
-// Where lines start, wherever the pieces end in which the file comes.
+// The starts of lines, independent of the blocks in which the file is read.
 #include "supply/csv_line_starts.h"
 
 #include <gmock/gmock.h>

@@ -159,7 +159,7 @@ TEST_F(CsvTableModelTest, GrowsColumnsAsLinesAreParsed)
     EXPECT_EQ(table.headerData(1, Qt::Horizontal), QVariant(u"Color"_s));
     EXPECT_FALSE(table.index(0, 2).isValid());
 
-    // A line that stores three fields of which the last two are empty raises nothing.
+    // A line with three fields, of which the last two are empty, does not increase it.
     EXPECT_TRUE(table.parseRow(2));
     EXPECT_EQ(table.columnCount(), 2);
     EXPECT_TRUE(table.parseRow(1));

@@ -2,8 +2,8 @@
 
 #include <array>
 
-/// The palette that old labels count on, written down a second time so that no edit of the
-/// compiled-in table goes unnoticed. The index of an entry is its place.
+/// The palette that old labels require, a second copy, so that the tests find every edit of the
+/// compiled-in table. The index of an entry is its position.
 struct PaletteEntry
 {
     const char* color;

@@ -1,4 +1,4 @@
-// What TableModel makes of any table, shown on one that a test fills in.
+// TableModel's behavior for any table, tested with one that each test fills.
 
 #include "supply/table_model.h"
 #include "tests/support/captured_log.h"
@@ -169,7 +169,7 @@ TEST(TableModel, KeepsItsFileNameWhenAnotherFileDoesNotOpen)
     EXPECT_EQ(log.records()[0].source, QLatin1String("table_model"));
     EXPECT_EQ(log.records()[0].function,
               QLatin1String("virtual bool TableModel::setFileName(const QString&)"));
-    // The stream parts its values by a blank of its own.
+    // The stream separates its values with a space.
     EXPECT_EQ(log.records()[0].message, u"Could not open  \"second\""_s);
 }
 

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Collects the log records that are written while it lives.
+/// Collects the log records that are written during its lifetime.
 class CapturedLog : private AbstractAppender
 {
 public:

@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QImage>
 
-/// A PNG of one colour: of the size that a test is about, in a few bytes.
+/// A PNG of a single color: a picture of any size in a few bytes.
 inline QByteArray monoPng(int width, int height)
 {
     QImage image(width, height, QImage::Format_Mono);

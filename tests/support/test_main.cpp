@@ -1,5 +1,5 @@
 // The main function of all test programs: a widget application without a window
-// system, under a name of its own so that no test touches a user's settings.
+// system, with a separate name so that no test changes the user's settings.
 
 #include <QApplication>
 #include <QStandardPaths>
@@ -13,8 +13,7 @@
 
 namespace {
 
-// A run that is to prove something about a locale must not pass because the locale is
-// not installed.
+// A run that tests a locale must not pass because the locale is not installed.
 bool localeIsAsExpected()
 {
     const char* expected = std::getenv("LABELPORT_EXPECT_DECIMAL_POINT");

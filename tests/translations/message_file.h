@@ -3,7 +3,7 @@
 #include <QList>
 #include <QString>
 
-/// What stands in a message file (*.ts).
+/// The content of a message file (*.ts).
 struct Message
 {
     QString context;

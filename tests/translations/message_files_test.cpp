@@ -1,4 +1,4 @@
-// The message files are whole, and a translation says what the program's text says.
+// The message files are complete, and translations match the program's texts.
 
 #include "tests/translations/message_file.h"
 
@@ -33,14 +33,14 @@ qsizetype keysMarked(const QString& text)
     return sortedMatches(text, "&(?=[^\\s&])").size();
 }
 
-/// What a text ends with, as far as it means something: a stop, a question, more to come.
+/// The final punctuation of a text, if it has a meaning: period, question mark, ellipsis, colon.
 QString endOf(const QString& text)
 {
     static const QRegularExpression end(QStringLiteral("[.?:…]$"));
     return end.match(text).captured();
 }
 
-/// What tells a message from all others.
+/// The unique key of a message.
 QString nameOf(const Message& message)
 {
     return message.context + QStringLiteral(": ") + message.source + QStringLiteral(" / ") +
@@ -96,7 +96,7 @@ TEST_P(MessageFileTest, FillsInTheSameValues)
 
 TEST_P(MessageFileTest, NamesTheSameFilesOptionsAndKeys)
 {
-    // Patterns of files, long options, exit statuses: what a person types stays as it is typed.
+    // File patterns, long options, exit statuses: what a user types must not be translated.
     for (const Message& each : file.messages) {
         for (const char* pattern : {"\\*\\.\\w+", "(?<![\\w-])--[a-z][a-z-]*", "\\w+\\.xml"}) {
             for (const QString& wording : wordings(each)) {
@@ -122,7 +122,7 @@ TEST_P(MessageFileTest, KeepsTheFormOfEveryText)
 
 TEST_P(MessageFileTest, LeavesHardlyAnyTextInEnglish)
 {
-    // Names, units, and words that are the same in both languages.
+    // Names, units, and words that are identical in both languages.
     const auto same =
         std::count_if(file.messages.begin(), file.messages.end(), [](const Message& each) {
             return each.translation == each.source &&

@@ -1,4 +1,4 @@
-// Which language a program speaks, and from when to when.
+// The language of a program, and how long it is installed.
 
 #include "translations/program_language.h"
 

@@ -1,4 +1,4 @@
-// The programs from the outside: what they say follows the environment, what they make does not.
+// The programs as processes: messages depend on the language of the environment, outputs do not.
 
 #include <QFile>
 #include <QProcess>
@@ -128,7 +128,7 @@ TEST_F(Programs, MakeTheSameFilesInEveryLanguage)
 
 TEST_F(Programs, TellOtherProgramsTheSameInEveryLanguage)
 {
-    // The import has something to say about this one.
+    // The import of this one prints a message.
     const QString sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/member_card_2000024.cnv");
     const QStringList inspect{QStringLiteral("inspect"), sample, QStringLiteral("--json")};
     const QStringList formats{QStringLiteral("formats"), QStringLiteral("--json")};
@@ -156,7 +156,7 @@ TEST_F(Programs, TellOtherProgramsTheSameInEveryLanguage)
 
 TEST_F(Programs, TraceTheSameInEveryLanguage)
 {
-    // This one brings up a message box, whose text stands in the trace.
+    // This one opens a message box, whose text is in the trace.
     const QString sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/member_card_2000024.cnv");
     const Outcome plain = run(Trace, {sample}, English);
     EXPECT_EQ(plain.status, 0) << qPrintable(plain.err);

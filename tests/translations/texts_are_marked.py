@@ -17,7 +17,7 @@ import xml.etree.ElementTree
 
 FOLDERS = ["library/importer", "hosts/workbench", "tools", "programs"]
 
-# What the code is made of, as far as it matters here.
+# The relevant tokens of the code.
 TOKEN = re.compile(
     r"""(?P<comment>//[^\n]*|/\*.*?\*/)
       | (?P<letter>(?<!\w)u?8?'(?:[^'\\\n]|\\.)+')
@@ -26,14 +26,14 @@ TOKEN = re.compile(
     """, re.DOTALL | re.VERBOSE)
 PHRASE = re.compile(r"[A-Za-z’']{2,}[,;:.]? +[a-z’']{2,}")
 
-# What a marked text stands in: the last name before the bracket that is open around it.
-# Files may give such a mark a shorter name.
+# MARKS are the callees of marked texts: the last name before the enclosing open bracket.
+# Files may define a shorter name for such a mark.
 MACRO = re.compile(r'#define (\w+)\(\w+\) QT_TRANSLATE_NOOP\(')
-# A function of a file that translates what it is given; lupdate does not see into it, so its texts
-# must be marked in another place.
+# A function of a file that translates its argument. lupdate does not see the texts passed to it, so
+# they must be marked elsewhere.
 HELPER = re.compile(r'(\w+)\(const char\* (\w+)\)\s*\{[^{}]*translate\(\s*"[^"]+",\s*\2\b')
 MARKS = {"tr", "translate", "QT_TRANSLATE_NOOP", "QT_TR_NOOP", "QT_TRANSLATE_NOOP3"}
-# What shows its text whatever it is, even a single word.
+# Callees that show any text to the user, even a single word.
 SHOWN = {"setText", "setWindowTitle", "setToolTip", "setStatusTip", "setTitle", "addButton",
          "addAction", "addMenu", "setAccessibleName", "setPlaceholderText", "printMessage",
          "complain", "setLabelText", "addRow", "setInformativeText"}
@@ -41,12 +41,12 @@ SHOWN = {"setText", "setWindowTitle", "setToolTip", "setStatusTip", "setTitle", 
 FOR_MACHINES = {"write", "writeLog", "logError", "logDebug", "logWarning", "log", "QRegularExpression",
                 "static_assert", "CuteMessageLogger", "setDescription", "setCreator",
                 "horizontalAdvance", "setApplicationName", "include"}
-# What is only there to make a text.
+# Callees that only create a string.
 WRAPPERS = {"", "QStringLiteral", "QLatin1String", "QString", "QStringView", "QLatin1StringView",
             "QByteArrayLiteral", "fromUtf8", "fromLatin1"}
-# Lines that say it themselves, with the reason: "no translation: the program's own marks".
+# Lines with a reason for not translating: "no translation: the program's own marks".
 EXCUSE = "no translation:"
-# Texts that are code of another kind.
+# Texts in another language of code, for example SQL or HTML.
 CODE = re.compile(r"^(SELECT|PRAGMA|INSERT|CREATE|<|\s*[\[{.#@*&]|[a-z-]+=|.*[{}]|.*=['\"\\]|Mozilla)|"
                   r"xmlns|-src |^\^|\$$")
 

@@ -1,4 +1,4 @@
-# The message files have what the code has: collecting its texts anew changes nothing.
+# The message files are up to date: collecting the texts of the code again changes nothing.
 file(REMOVE_RECURSE ${WORK})
 file(GLOB files ${SOURCE}/translations/labelport_*.ts)
 file(COPY ${files} DESTINATION ${WORK})

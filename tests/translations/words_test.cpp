@@ -1,4 +1,4 @@
-// What is said in another language where it matters that it is the right thing.
+// Translated texts that must have a certain content.
 
 #include "translations/program_language.h"
 #include "window/actions/actions.h"
@@ -49,7 +49,7 @@ QString mnemonic(const QString& text)
     return at < 0 ? QString() : text.mid(at + 1, 1).toUpper();
 }
 
-/// Every letter once; what has none is no help without a mouse.
+/// Each text must have a mnemonic, and each letter must be unique.
 void expectDifferentMnemonics(const QStringList& texts)
 {
     QSet<QString> seen;
@@ -72,7 +72,7 @@ TEST_F(Words, MnemonicsWithinAMenuAreDifferent)
                 texts[menu].append(action->text());
             }
         }
-        // What the window adds to them.
+        // Added by the window.
         texts[MenuId::File].append(
             QCoreApplication::translate("window::MainWindow", "Open &Recent"));
         texts[MenuId::View].append(window::menuTitle(MenuId::Colors));

@@ -1,4 +1,4 @@
-// Whoever does not see the windows hears what each control is called.
+// Every control has a name for screen readers.
 
 #include "window_fixture.h"
 
@@ -17,7 +17,7 @@ using namespace window;
 
 namespace {
 
-// What a user acts on, or must be able to tell from its like.
+// Controls that a user operates, or must distinguish from similar ones.
 bool needsName(QAccessible::Role role)
 {
     switch (role) {
@@ -45,7 +45,7 @@ bool needsName(QAccessible::Role role)
     }
 }
 
-// Parts that Qt makes inside its own widgets: they are reached through their owner.
+// Parts that Qt creates inside its widgets: users reach them through their parent.
 bool isInsideOfAWidget(const QObject* object)
 {
     static const QSet<QString> inner{

@@ -59,7 +59,7 @@ void DialogDriver::expectFile(const QString& fileName)
         auto* files = qobject_cast<QFileDialog*>(&dialog);
         ASSERT_NE(files, nullptr);
         files->selectFile(fileName);
-        // What the dialog's button does; accept() is protected there.
+        // Same as the dialog's button; accept() is protected.
         QMetaObject::invokeMethod(files, "accept");
     });
 }
@@ -73,7 +73,7 @@ bool DialogDriver::eventFilter(QObject* watched, QEvent* event)
 {
     auto* dialog = qobject_cast<QDialog*>(watched);
     if (event->type() == QEvent::Show && dialog != nullptr) {
-        // Once it runs its own loop.
+        // As soon as its event loop runs.
         QTimer::singleShot(0, dialog, [this, dialog] { answer(*dialog); });
     }
     return QObject::eventFilter(watched, event);

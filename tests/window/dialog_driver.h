@@ -8,8 +8,8 @@
 #include <functional>
 #include <queue>
 
-/// Answers the dialogs that a command opens, one after the other, as soon as each one is
-/// shown. A dialog that nobody expects is rejected and fails the test, so none can hang it.
+/// Answers the dialogs that a command opens, in turn, as soon as each is shown. An unexpected
+/// dialog is rejected and fails the test, so that no dialog can block it.
 class DialogDriver final : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     DialogDriver();
     ~DialogDriver() override;
 
-    /// The next dialog is answered so.
+    /// Answers the next dialog with this function.
     void expect(Answer answer);
     /// The next dialog is a message box; the button of this role or text is clicked.
     void expectButton(int standardButton);
@@ -29,7 +29,7 @@ public:
     void expectFile(const QString& fileName);
     void expectCancel();
 
-    /// The texts of the dialogs that were shown, with their further texts.
+    /// The texts of the dialogs that were shown, with their informative texts.
     [[nodiscard]] const QStringList& texts() const { return m_texts; }
     [[nodiscard]] bool isDone() const { return m_answers.empty(); }
 

@@ -1,4 +1,4 @@
-// The commands on files, with their questions and messages: the real dialogs are answered.
+// The file commands with their questions and messages, using the real dialogs.
 
 #include "dialog_driver.h"
 #include "window_fixture.h"
@@ -155,7 +155,7 @@ TEST_F(LabelSessionTest, SaveAsGivesTheLabelAnotherFile)
 {
     saveMadeLabel(path(QStringLiteral("a.label")));
     ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
-    dialogs.expectFile(path(QStringLiteral("b"))); // the suffix comes by itself
+    dialogs.expectFile(path(QStringLiteral("b"))); // the suffix is added automatically
 
     ASSERT_TRUE(session.saveAs());
 

@@ -1,4 +1,4 @@
-// The window as a whole: what its commands do to what is seen.
+// The complete window: the visible effects of its commands.
 
 #include "dialog_driver.h"
 #include "window_fixture.h"
@@ -49,7 +49,7 @@ protected:
 
     [[nodiscard]] QTableView& itemTable() { return window.panels().items().table(); }
 
-    /// As a click in the list does, whatever modifier keys a test before has pressed.
+    /// Like a click in the list, independent of modifier keys from an earlier test.
     void pick(int row)
     {
         itemTable().selectionModel()->setCurrentIndex(itemTable().model()->index(row, 0),

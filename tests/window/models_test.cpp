@@ -301,7 +301,7 @@ TEST_F(PalettesTest, TheSystemsColorsComeBack)
 
 namespace {
 
-// The contrast of two colors as the accessibility guidelines for the web reckon it.
+// The contrast of two colors as defined by the Web Content Accessibility Guidelines.
 double luminance(const QColor& color)
 {
     const auto linear = [](double channel) {

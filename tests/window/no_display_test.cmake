@@ -4,7 +4,8 @@
 file(REMOVE_RECURSE ${FOLDER})
 file(MAKE_DIRECTORY ${FOLDER})
 
-# start(STATUS OUTPUT ERRORS argument...): each of the three is a regular expression for all of it.
+# start(STATUS OUTPUT ERRORS argument...): each of the three is a regular expression that must match
+# completely.
 function(start expected_status expected_output expected_errors)
     execute_process(
         COMMAND ${CMAKE_COMMAND} -E env
@@ -29,7 +30,7 @@ start(0 "LabelPort Workbench [0-9.]+\n" "" --version)
 set(picture ${FOLDER}/label.png)
 start(0 "${picture}\n" "" --screenshot ${picture} ${LABEL})
 file(SIZE ${picture} size)
-# An empty window would make a picture of a few hundred bytes.
+# The picture of an empty window has only a few hundred bytes.
 if(size LESS 10000)
     message(SEND_ERROR "the picture has only ${size} bytes")
 endif()

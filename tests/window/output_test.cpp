@@ -1,4 +1,4 @@
-// Export and print: files, series of records, what the dialogs ask.
+// Export and print: files, series of records, dialogs.
 
 #include "dialog_driver.h"
 #include "window_fixture.h"
@@ -48,8 +48,8 @@ protected:
     const Progress goOn = [](qint64) { return true; };
 };
 
-// The mean difference of two pictures of one size, from 0 for none to 1 for black and white.
-// Both are made small before, so that it does not count which pixel an edge falls on.
+// The mean difference of two pictures of equal size, from 0 (equal) to 1 (black and white). Both
+// are scaled down first, so that the exact pixel of an edge does not matter.
 double differenceOf(const QImage& picture, const QImage& drawing)
 {
     const auto small = [](const QImage& image) {
@@ -94,7 +94,7 @@ TEST_F(OutputTest, ADrawingHasTheTrueSizeAndTextAsText)
     EXPECT_TRUE(QSvgRenderer(svg).isValid());
 }
 
-// Fonts whose size is in points come out wrong in a drawing of another resolution.
+// Fonts with a size in points are wrong in a drawing of another resolution.
 TEST_F(OutputTest, ADrawingShowsWhatThePictureShows)
 {
     for (const char* name :
@@ -233,7 +233,7 @@ TEST_F(OutputTest, RecordsAreTheOneShownOrARun)
     chooser.chooseRun(3, 10);
     EXPECT_EQ(chooser.range().first, 2);
     EXPECT_EQ(chooser.range().count, 8);
-    chooser.chooseRun(20, 5); // the end follows the beginning
+    chooser.chooseRun(20, 5); // the end is adjusted to the start
     EXPECT_EQ(chooser.range().first, 19);
     EXPECT_EQ(chooser.range().count, 1);
 }

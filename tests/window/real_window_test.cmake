@@ -1,5 +1,5 @@
-# Starts the program on a virtual X screen, once empty and once with a label, and holds the
-# pictures that it takes of its window against what they must show.
+# Starts the program on a virtual X screen, once empty and once with a label, and checks the
+# content of its screenshots.
 
 file(REMOVE_RECURSE ${FOLDER})
 file(MAKE_DIRECTORY ${FOLDER})
@@ -10,7 +10,7 @@ function(take_picture name)
         COMMAND ${CMAKE_COMMAND} -E env
             QT_QPA_PLATFORM=xcb HOME=${FOLDER} XDG_CONFIG_HOME=${FOLDER}/config
             XDG_RUNTIME_DIR=${FOLDER}
-            # A sanitized build is to find our errors, not what the X libraries keep.
+            # A sanitizer must find our errors, not leaks of the X libraries.
             ASAN_OPTIONS=detect_leaks=0
             ${XVFB_RUN} -a -s "-screen 0 1400x900x24"
             ${PROGRAM} --screenshot ${picture} ${ARGN}
@@ -25,7 +25,7 @@ function(take_picture name)
         message(FATAL_ERROR "${name}: the program said \"${output}\"")
     endif()
     file(SIZE ${picture} size)
-    # An empty or black window would make a picture of a few hundred bytes.
+    # The picture of an empty or black window has only a few hundred bytes.
     if(size LESS 10000)
         message(FATAL_ERROR "${name}: the picture has only ${size} bytes")
     endif()

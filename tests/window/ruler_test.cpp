@@ -1,5 +1,4 @@
-// The rulers' scale: round steps, labels that do not run into one another, no more ticks
-// than there is room for.
+// The rulers' scale: round steps, labels that do not overlap, and no more ticks than fit.
 
 #include "window/canvas/ruler_scale.h"
 #include "window/properties/length_unit.h"
@@ -79,7 +78,7 @@ TEST(RulerScale, AStepHasAMiddleAndSmallTicks)
     const QList<RulerTick> ticks = rulerTicks({0.0, 2.0, 144}, LengthUnit::Inch);
 
     ASSERT_EQ(labelStep(144.0, LengthUnit::Inch), 0.5);
-    // Two half inches of eight parts each, and both ends.
+    // Two half inches with eight ticks each, and both ends.
     EXPECT_EQ(ticks.size(), 17);
     EXPECT_EQ(ticks.at(4).rank, TickRank::Middle);
     EXPECT_EQ(ticks.at(1).rank, TickRank::Small);

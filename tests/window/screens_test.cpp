@@ -1,4 +1,4 @@
-// Every screen once, for looking at: the pictures are in the folder "screens" of the build.
+// Takes a picture of every screen for review, in the folder "screens" of the build.
 
 #include "dialog_driver.h"
 #include "window_fixture.h"
@@ -49,7 +49,7 @@ protected:
     }
 };
 
-// How many different colors the middle of a picture has: an empty screen has few.
+// The number of different colors in the middle of a picture: an empty screen has few.
 int colorsOf(QWidget& widget)
 {
     const QImage image = widget.grab().toImage();
@@ -95,7 +95,7 @@ TEST_F(ScreensTest, WithEachFormat)
         openSample(window, sampleName);
         keepPicture(window, QString::fromLatin1(picture));
         EXPECT_GT(colorsOf(window.view()), 10);
-        // Saved, so that the next one comes without a question.
+        // Saved, so that opening the next one shows no question.
         ASSERT_EQ(writeLabel(*window.session().label(), path(QStringLiteral("x.label"))),
                   QString());
         window.session().label()->fileName = path(QStringLiteral("x.label"));

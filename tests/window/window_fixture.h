@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-/// A folder and settings of a test's own.
+/// A temporary folder and separate settings for a test.
 class WindowFixture : public ::testing::Test
 {
 protected:
@@ -44,15 +44,15 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// A label of three items and a counter of five records: a rectangle, a text that shows the
-/// counter, a line that is locked.
+/// A label with three items and a counter with five records: a rectangle, a text that shows the
+/// counter, a locked line.
 [[nodiscard]] window::OpenLabel makeLabel();
 
 /// Saves makeLabel() under this name.
 void saveMadeLabel(const QString& fileName);
 
-/// Keeps a picture of a widget in the build folder, to be looked at.
+/// Writes a picture of a widget to the build folder, for review.
 void keepPicture(QWidget& widget, const QString& name);
 
-/// The same with a picture that is there already.
+/// The same for an existing picture.
 void keepImage(const QImage& image, const QString& name);

@@ -1,7 +1,7 @@
 #pragma once
 
-// The records of a canvas file as plain values, as a writer fills them in. A member that a
-// version does not know is not written. The defaults make a valid, inconspicuous record.
+// The records of a canvas file as plain values for the writer. Members that a version does not
+// have are not written. The defaults are a valid, simple record.
 
 #include <QByteArray>
 #include <QImage>
@@ -13,7 +13,7 @@
 
 namespace canvas {
 
-/// What an item record starts with.
+/// The start of an item record.
 enum TypeCode : qint32 {
     TextCode = 0x10000,
     SymbolCode = 0x10001,
@@ -74,7 +74,7 @@ struct DatabaseList
     qint32 unused2 = 0;
     qint32 selected = 0;
     QList<DatabaseEntry> entries;
-    /// The count that the record claims, when it is to differ from the true one.
+    /// The count in the record, if it must differ from the true one.
     std::optional<qint32> claimedCount;
 };
 
@@ -98,7 +98,7 @@ struct ShapeRecord
     /// Dots.
     qint32 lineWidth = 4;
     qint32 penStyle = 1;
-    /// 0 empty, 1 filled with the label's colour, 2 filled with the ribbon's.
+    /// 0 empty, 1 filled with the label's color, 2 filled with the ribbon's.
     qint32 fillMode = 0;
     QString name;
 };
@@ -141,7 +141,7 @@ struct BarcodeRecord
 struct TextRecord
 {
     ItemHeader header;
-    /// Inches; not above zero leaves the box free.
+    /// Inches; no fixed size if not above zero.
     double fixedWidth = -1.0;
     double fixedHeight = -1.0;
     QString content;
@@ -160,10 +160,10 @@ struct TextRecord
     bool inverse = false;
     bool transparentBackground = false;
     bool optionA = false;
-    /// The option is written twice; unset, the first is as the second.
+    /// The option is written twice; if unset, the first equals the second.
     std::optional<bool> optionAFirst;
     bool optionB = false;
-    /// Unset, as fontSize.
+    /// If unset, equal to fontSize.
     std::optional<qint32> fontSizeAgain;
     qint32 unusedValue1 = 0;
     qint32 unusedValue2 = 0;

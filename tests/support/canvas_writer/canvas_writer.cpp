@@ -6,7 +6,7 @@
 
 namespace {
 
-// The versions in which a layout began.
+// The first version of each layout.
 constexpr quint32 textsHaveFixedSizes = 2000018;
 constexpr quint32 sizesAreInches = 2000019;
 constexpr quint32 textsHaveOptions = 2000020;

@@ -6,9 +6,9 @@
 
 /// Writes the bytes of a canvas file, record by record, in the layout of one version.
 ///
-/// It checks nothing: records may come in any order, be left out or be nonsense, and raw()
-/// writes whatever a broken file may hold. A version that never was is written like the
-/// nearest one that was. Calls can be chained:
+/// It checks nothing: records may be in any order, missing or invalid, and raw() writes any
+/// bytes of a damaged file. A version that does not exist is written like the nearest one that
+/// does. Calls can be chained:
 ///
 ///     const QByteArray file = CanvasWriter(2000024).start().add(shape).add(text).bytes();
 class CanvasWriter
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] quint32 version() const { return m_version; }
     [[nodiscard]] const QByteArray& bytes() const { return m_bytes; }
 
-    /// All that stands before the items.
+    /// All records before the items.
     CanvasWriter& start(const canvas::CanvasRecord& record = {},
                         const canvas::SequenceRecord& sequence = {},
                         const canvas::DatabaseList& databases = {});
@@ -31,12 +31,12 @@ public:
     CanvasWriter& add(const canvas::SequenceRecord& record);
     CanvasWriter& add(const canvas::DatabaseList& list);
 
-    /// Items, each with its type code before it.
+    /// Items, each preceded by its type code.
     CanvasWriter& add(const canvas::ShapeRecord& record);
     CanvasWriter& add(const canvas::PictureRecord& record);
     CanvasWriter& add(const canvas::SymbolRecord& record);
     CanvasWriter& add(const canvas::TextRecord& record);
-    /// Any code may stand before a barcode's fields, its own two are in canvas::TypeCode.
+    /// Any code may precede a barcode's fields; the two valid ones are in canvas::TypeCode.
     CanvasWriter& add(const canvas::BarcodeRecord& record, qint32 code = canvas::LinearBarcodeCode);
     /// A type code alone.
     CanvasWriter& code(qint32 typeCode);
@@ -49,7 +49,7 @@ public:
         m_stream << value;
         return *this;
     }
-    /// A text, byte array or count that claims a length and holds only these bytes.
+    /// A text, byte array or count with this length, but only these bytes.
     CanvasWriter& claim(quint32 length, const QByteArray& held = {});
 
 private:

@@ -1,5 +1,5 @@
-// The writer is itself a statement of what a canvas file looks like, so each record and each
-// layout of it is held against literal bytes.
+// Other tests rely on the writer's layouts, so each layout of each record is compared with
+// literal bytes.
 
 #include "tests/support/canvas_writer/canvas_writer.h"
 
@@ -14,8 +14,8 @@ namespace {
 constexpr quint32 oldest = 2000016;
 constexpr quint32 newest = 2000024;
 
-// Hexadecimal digits, blanks anywhere; what stands in quotes is a text in the stream's
-// encoding, its length and its UTF-16 units.
+// Hexadecimal digits with optional spaces; a quoted text is written in the stream's encoding, as
+// its length and its UTF-16 units.
 QByteArray bytesOf(const char* notation)
 {
     QByteArray hex;

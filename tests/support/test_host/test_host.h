@@ -29,18 +29,18 @@ public:
     [[nodiscard]] QStringList callsOn(const QString& target) const;
     /// The arguments of the last call of this name on a target; null if there was none.
     [[nodiscard]] QString lastCall(const QString& target, const QString& name) const;
-    /// How often a call of this name was made, on whatever target.
+    /// The number of calls of this name on all targets.
     [[nodiscard]] int count(const QString& name) const;
     void forgetCalls() { (void)takeTrace(); }
-    /// The trace since then, which is forgotten.
+    /// Returns the trace since then, and clears it.
     [[nodiscard]] QByteArray takeTrace();
 
-    /// How a line shows bytes.
+    /// The representation of bytes in a line.
     [[nodiscard]] static QString shown(const QByteArray& bytes);
 
     /// Items that still exist.
     [[nodiscard]] int livingItems() const { return int(m_host.itemStates().size()); }
-    /// Items that were imported and are still there, of all types or of one.
+    /// Items that were imported and still exist, of all types or of one.
     [[nodiscard]] int itemCount() const;
     [[nodiscard]] int itemCount(KestTypes::ShapeType type) const;
     /// The item of this number, in the order of creation; null once it is deleted.
