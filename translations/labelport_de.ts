@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>QDomParser</name>
+    <message>
+        <source>Unexpected token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple DTD sections are not allowed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Import Label</source>
@@ -88,13 +99,6 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
 </context>
 <context>
-    <name>archive::InputList</name>
-    <message>
-        <source>The list of files is no list of file names.</source>
-        <translation>Die Liste der Dateien ist keine Liste von Dateinamen.</translation>
-    </message>
-</context>
-<context>
     <name>archive::Journal</name>
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
@@ -123,83 +127,99 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
-        <source>%1 exists and was not made by labelport, or may have been changed since; it is left as it is (--force overwrites it)</source>
-        <translation>%1 gibt es schon und wurde nicht von labelport erstellt oder vielleicht seitdem verändert; es bleibt, wie es ist (--force überschreibt es)</translation>
+        <source>a folder of that name exists</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>its folder cannot be made</source>
-        <translation>der Ordner dafür kann nicht angelegt werden</translation>
+        <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
-        <source>another of the given files has the same name, so both would become %1; import them into different folders with --output-dir</source>
-        <translation>eine andere der angegebenen Dateien hat denselben Namen, beide würden also zu %1; importieren Sie sie mit --output-dir in verschiedene Ordner</translation>
+        <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The journal in the output folder cannot be written, so --resume will do some files again.</source>
-        <translation>Das Protokoll im Ausgabeordner kann nicht geschrieben werden, daher wird --resume manche Dateien noch einmal bearbeiten.</translation>
+        <source>Cannot write the journal in the output folder; --resume will import some files again.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The processes that import files cannot be started, or end at once. A larger --memory-limit may help.</source>
-        <translation>Die Prozesse, die Dateien importieren, lassen sich nicht starten oder enden sofort. Ein größeres --memory-limit kann helfen.</translation>
+        <source>Cannot start the worker processes, or they exit at once. Try a larger --memory-limit.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>archive::StagingArea</name>
     <message>
-        <source>Nothing can be written to the folder %1.</source>
-        <translation>In den Ordner %1 kann nichts geschrieben werden.</translation>
+        <source>Cannot write to &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The folder %1 cannot be made.</source>
-        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
-    </message>
-</context>
-<context>
-    <name>archive::WorkerDeath</name>
-    <message>
-        <source>the file needed more than %1 MiB of memory (--memory-limit)</source>
-        <translation>die Datei brauchte mehr als %1 MiB Speicher (--memory-limit)</translation>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the file took more than %1 seconds without getting on (--timeout)</source>
-        <translation>die Datei kam länger als %1 Sekunden nicht voran (--timeout)</translation>
-    </message>
-    <message>
-        <source>its import was killed twice, perhaps because the machine had no memory left</source>
-        <translation>der Import wurde zweimal abgebrochen, vielleicht weil der Rechner keinen Speicher mehr hatte</translation>
-    </message>
-    <message>
-        <source>its import crashed twice (%1); please report the file</source>
-        <translation>der Import ist zweimal abgestürzt (%1); bitte melden Sie die Datei</translation>
-    </message>
-    <message>
-        <source>its import ended in disorder, twice; please report the file</source>
-        <translation>der Import endete zweimal ungeordnet; bitte melden Sie die Datei</translation>
-    </message>
-    <message>
-        <source>its import ended twice by itself (status %1); please report the file</source>
-        <translation>der Import endete zweimal von selbst (Status %1); bitte melden Sie die Datei</translation>
+        <source>a file of that name exists</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::ArchiveReports</name>
+    <name>archive::WorkerEnd</name>
     <message>
-        <source>The report %1 cannot be written.</source>
-        <translation>Der Bericht %1 kann nicht geschrieben werden.</translation>
+        <source>The file needs more than %1 MiB of memory; see --memory-limit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The file made no progress for %n second(s); see --timeout.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The worker process was killed twice; perhaps the machine is out of memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import crashed twice (%1). If a larger --memory-limit does not help, please report the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The worker process sent an invalid reply twice; please report the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The worker process exited twice with status %1; please report the file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::CommandLine</name>
+    <name>cli::ExistingOutput</name>
     <message>
-        <source>Show this text.</source>
-        <translation>Zeigt diesen Text.</translation>
+        <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1 --help&quot; tells more.</source>
-        <translation>„%1 --help“ sagt mehr.</translation>
+        <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; does not exist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; is not writable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -223,10 +243,6 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     <message>
         <source>OpenDocument texts and drawings</source>
         <translation>OpenDocument-Texte und -Zeichnungen</translation>
-    </message>
-    <message>
-        <source>all, as packages</source>
-        <translation>alle, als Pakete</translation>
     </message>
     <message>
         <source>labels saved by LabelPort</source>
@@ -265,264 +281,123 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
         <translation>Geschrieben werden (import --to):</translation>
     </message>
     <message>
-        <source>Tells which files are read, in which versions, and what can be written.
-
-Examples:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
-        <translation>Sagt, welche Dateien in welchen Versionen gelesen werden und was geschrieben werden kann.
-
-Beispiele:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
+        <source>all versions (zipped)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tell it as JSON.</source>
-        <translation>Sagt es als JSON.</translation>
-    </message>
-    <message>
-        <source>It takes no files.</source>
-        <translation>Hier werden keine Dateien angegeben.</translation>
+        <source>formats takes no files.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::ImportCommand</name>
     <message>
-        <source>The folder %1 cannot be searched.</source>
-        <translation>Der Ordner %1 kann nicht durchsucht werden.</translation>
+        <source>Stopped. Repeat the command with --resume to continue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) imported incompletely.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
-        <source>Stopped. The same command with --resume goes on.</source>
-        <translation>Angehalten. Derselbe Befehl mit --resume macht weiter.</translation>
+        <source>Cannot search folder &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>There is no label to import.</source>
-        <translation>Es gibt kein Etikett zu importieren.</translation>
-    </message>
-    <message>
-        <source>&quot;labelport import --help&quot; tells more.</source>
-        <translation>„labelport import --help“ sagt mehr.</translation>
-    </message>
-    <message>
-        <source>%1 of %2 files did not come over whole.</source>
-        <translation>%1 von %2 Dateien wurden nicht vollständig übernommen.</translation>
+        <source>No labels to import.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::ImportInputs</name>
     <message>
-        <source>Standard input cannot be kept for the import: %1.</source>
-        <translation>Die Standardeingabe kann nicht für den Import aufbewahrt werden: %1.</translation>
+        <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is longer than any label</source>
-        <translation>sie ist länger als jedes Etikett</translation>
-    </message>
-    <message>
-        <source>The list of files %1 cannot be read: %2.</source>
-        <translation>Die Liste der Dateien %1 kann nicht gelesen werden: %2.</translation>
+        <source>&quot;%1&quot; is not a list of file names.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::ImportOptions</name>
     <message>
-        <source>targets</source>
-        <translation>Ziele</translation>
-    </message>
-    <message>
-        <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
-        <translation>Was geschrieben wird: png, svg, pdf, label; mehrere mit Kommas (Vorgabe: png).</translation>
-    </message>
-    <message>
-        <source>folder</source>
-        <translation>Ordner</translation>
-    </message>
-    <message>
-        <source>Folder to write to; made when it is missing (default: the current one). It gets the subfolders of a folder that is imported.</source>
-        <translation>Ordner, in den geschrieben wird; er wird angelegt, wenn er fehlt (Vorgabe: der aktuelle). Er bekommt die Unterordner eines Ordners, der importiert wird.</translation>
-    </message>
-    <message>
-        <source>number</source>
-        <translation>Zahl</translation>
-    </message>
-    <message>
-        <source>Dots per inch of pictures, 10 to 2400 (default: 300).</source>
-        <translation>Punkte pro Zoll von Bildern, 10 bis 2400 (Vorgabe: 300).</translation>
-    </message>
-    <message>
-        <source>range</source>
-        <translation>Bereich</translation>
-    </message>
-    <message>
-        <source>Records of the label&apos;s data sources: a number, a range as 3-12 or 3-, or all (default: the first). A series of pictures is numbered; a PDF has a page for each.</source>
-        <translation>Datensätze der Datenquellen des Etiketts: eine Nummer, ein Bereich wie 3-12 oder 3-, oder all (Vorgabe: der erste). Eine Reihe von Bildern wird nummeriert; ein PDF hat für jeden eine Seite.</translation>
-    </message>
-    <message>
-        <source>Overwrite files that LabelPort did not make.</source>
-        <translation>Überschreibt auch Dateien, die LabelPort nicht erstellt hat.</translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Read every file as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever its name. Standard input needs it.</source>
-        <translation>Liest jede Datei als tavrel (*.cnv, *.roc), orvanta (*.qmtx) oder opendocument (*.odt, *.odg), wie immer sie heißt. Die Standardeingabe braucht das.</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Import what a file lists as well, a name on each line or between NULs; - reads the list from standard input.</source>
-        <translation>Importiert auch, was eine Datei auflistet, ein Name je Zeile oder zwischen NUL-Zeichen; - liest die Liste von der Standardeingabe.</translation>
-    </message>
-    <message>
-        <source>The list&apos;s names stand between NULs, as find -print0 writes them.</source>
-        <translation>Die Namen der Liste stehen zwischen NUL-Zeichen, wie find -print0 sie schreibt.</translation>
-    </message>
-    <message>
-        <source>Named and listed files below this folder keep their subfolders in the output folder.</source>
-        <translation>Genannte und aufgelistete Dateien unter diesem Ordner behalten im Ausgabeordner ihre Unterordner.</translation>
-    </message>
-    <message>
-        <source>Files to import at the same time (default: one for each processor core).</source>
-        <translation>Dateien, die gleichzeitig importiert werden (Vorgabe: eine je Prozessorkern).</translation>
-    </message>
-    <message>
-        <source>seconds</source>
-        <translation>Sekunden</translation>
-    </message>
-    <message>
-        <source>Give a file up that does not get on for so long; 0 waits for ever (default: 60).</source>
-        <translation>Gibt eine Datei auf, die so lange nicht vorankommt; 0 wartet für immer (Vorgabe: 60).</translation>
-    </message>
-    <message>
-        <source>MiB</source>
-        <translation>MiB</translation>
-    </message>
-    <message>
-        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 4096).</source>
-        <translation>Gibt eine Datei auf, die mehr Speicher braucht; 0 setzt keine Grenze (Vorgabe: 4096).</translation>
-    </message>
-    <message>
-        <source>Leave out what an earlier command with the same options did, if neither the file nor its outputs have changed.</source>
-        <translation>Lässt aus, was ein früherer Befehl mit denselben Optionen erledigt hat, wenn weder die Datei noch ihre Ausgaben sich geändert haben.</translation>
-    </message>
-    <message>
-        <source>K/N</source>
-        <translation>K/N</translation>
-    </message>
-    <message>
-        <source>Import the K-th of N parts of the files, so that N machines can share an archive.</source>
-        <translation>Importiert den K-ten von N Teilen der Dateien, sodass sich N Rechner ein Archiv teilen können.</translation>
-    </message>
-    <message>
-        <source>Write a report on all files, as .json or .html; may be given several times.</source>
-        <translation>Schreibt einen Bericht über alle Dateien, als .json oder .html; kann mehrmals angegeben werden.</translation>
-    </message>
-    <message>
-        <source>End with status 3 when a label did not come over whole.</source>
-        <translation>Endet mit Status 3, wenn ein Etikett nicht vollständig übernommen wurde.</translation>
-    </message>
-    <message>
-        <source>On standard error, tell what failed and nothing else.</source>
-        <translation>Sagt auf der Standardfehlerausgabe nur, was fehlgeschlagen ist.</translation>
-    </message>
-    <message>
-        <source>--%1 takes a whole number from %2 to %3, not &quot;%4&quot;.</source>
-        <translation>--%1 nimmt eine ganze Zahl von %2 bis %3, nicht „%4“.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is nothing that can be written; --to takes: %2.</source>
-        <translation>„%1“ kann nicht geschrieben werden; --to nimmt: %2.</translation>
-    </message>
-    <message>
-        <source>--records takes a number, a range as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
-        <translation>--records nimmt eine Nummer, einen Bereich wie 3-12 oder 3-, oder all, nicht „%1“.</translation>
-    </message>
-    <message>
-        <source>--shard takes a part and their number, as 3/8, not &quot;%1&quot;.</source>
-        <translation>--shard nimmt einen Teil und deren Anzahl, wie 3/8, nicht „%1“.</translation>
-    </message>
-    <message>
-        <source>A report is written to a file whose name ends in .json or .html, not to &quot;%1&quot;.</source>
-        <translation>Ein Bericht wird in eine Datei geschrieben, deren Name auf .json oder .html endet, nicht in „%1“.</translation>
-    </message>
-    <message>
-        <source>--memory-limit takes 0 or at least %1 MiB.</source>
-        <translation>--memory-limit nimmt 0 oder mindestens %1 MiB.</translation>
-    </message>
-    <message>
-        <source>No file to import was given.</source>
-        <translation>Es wurde keine Datei zum Importieren angegeben.</translation>
-    </message>
-    <message>
         <source>Standard input can be a label or a list of files, but not both.</source>
         <translation>Die Standardeingabe kann ein Etikett oder eine Liste von Dateien sein, aber nicht beides.</translation>
     </message>
     <message>
-        <source>Standard input has no name, so --reader must say what it is: %1.</source>
-        <translation>Die Standardeingabe hat keinen Namen, also muss --reader sagen, was sie ist: %1.</translation>
+        <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label),
-and writes what they show. A folder is searched with its subfolders for files of these
-names. What was written is listed on standard output, in the order of the files&apos; names.
-
-Examples:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
-
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something
-was lost (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte (*.label)
-und schreibt, was sie zeigen. Ein Ordner wird mit seinen Unterordnern nach Dateien mit solchen
-Namen durchsucht. Was geschrieben wurde, steht auf der Standardausgabe, nach Dateinamen geordnet.
-
-Beispiele:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
-
-Exit-Status: 0 alles wurde importiert, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas
-ging verloren (mit --fail-on-loss), 130 durch ein Signal angehalten.</translation>
+        <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Label or folder of labels to import; - is standard input.</source>
-        <translation>Etikett oder Ordner mit Etiketten; - ist die Standardeingabe.</translation>
+        <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Show this text.</source>
-        <translation>Zeigt diesen Text.</translation>
+        <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--memory-limit expects 0 or at least %1 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file to import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--files-from can be given only once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--null has no effect without --files-from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--base has no effect without --files-from or a named file in a subfolder of that folder.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::ImportTeller</name>
+    <name>cli::ImportReporter</name>
     <message>
-        <source>warning: %1</source>
-        <translation>Warnung: %1</translation>
+        <source>Warning: %1</source>
+        <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1 of %2 files were imported, %3 had been done before.</source>
-        <translation>%1 von %2 Dateien wurden importiert, %3 waren schon erledigt.</translation>
+    <message numerus="yes">
+        <source>%n file(s) imported.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 files were passed over: only names that end in %2 are taken from folders.</source>
-        <translation>%1 Dateien wurden übergangen: Aus Ordnern werden nur Namen genommen, die auf %2 enden.</translation>
+    <message numerus="yes">
+        <source>%n file(s) had been imported before.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 of %2 files failed.</source>
-        <translation>%1 von %2 Dateien schlugen fehl.</translation>
+    <message numerus="yes">
+        <source>Ignored %n other file(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) failed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -535,84 +410,50 @@ ging verloren (mit --fail-on-loss), 130 durch ein Signal angehalten.</translatio
 <context>
     <name>cli::InspectCommand</name>
     <message>
-        <source>Tells what one label holds, what of it comes over and what does not. Writes nothing.
-
-Examples:
-  labelport inspect shelf.odg
-  labelport inspect shelf.odg --json | jq .lost</source>
-        <translation>Sagt, was ein Etikett enthält, was davon herüberkommt und was nicht. Schreibt nichts.
-
-Beispiele:
-  labelport inspect shelf.odg
-  labelport inspect shelf.odg --json | jq .lost</translation>
+        <source>Cannot start the worker process.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Label to look into.</source>
-        <translation>Etikett, das angesehen wird.</translation>
-    </message>
-    <message>
-        <source>Tell it as JSON, as reports have it.</source>
-        <translation>Sagt es als JSON, wie es in Berichten steht.</translation>
-    </message>
-    <message>
-        <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
-        <translation>Liest die Datei als tavrel, orvanta oder opendocument, wie immer sie heißt.</translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>the process that opens it cannot be started</source>
-        <translation>der Prozess, der sie öffnet, kann nicht gestartet werden</translation>
-    </message>
-    <message>
-        <source>It takes one file.</source>
-        <translation>Hier wird eine Datei angegeben.</translation>
+        <source>inspect needs exactly one file.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::JobOptions</name>
     <message>
-        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
-        <translation>„%1“ ist kein Leser; --reader nimmt: %2.</translation>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::LabelWriter</name>
-    <message>
-        <source>it has only %1 records, none with the number %2</source>
-        <translation>es hat nur %1 Datensätze, keinen mit der Nummer %2</translation>
+    <message numerus="yes">
+        <source>The label has only %n record(s); record %1 does not exist.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
     <message>
-        <source>%1 records are more than the %2 that one command writes; name a part of them with --records</source>
-        <translation>%1 Datensätze sind mehr als die %2, die ein Befehl schreibt; nennen Sie mit --records einen Teil davon</translation>
+        <source>%1 records are more than the %2 that one command writes; select a range with --records.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::Main</name>
     <message>
-        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
-        <translation>Was ist zu tun? „labelport --help“ sagt es.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
-        <translation>„%1“ ist kein Befehl; „labelport --help“ sagt, welche es gibt.</translation>
-    </message>
-    <message>
         <source>Usage: labelport COMMAND [ARGUMENT...]
 
-Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
-LabelPort: *.label. Each command tells more with --help.
+Imports legacy label templates (*.cnv and *.roc, *.qmtx, *.odt and *.odg) and opens labels saved by
+LabelPort (*.label). Help of a command: labelport COMMAND --help
 
 Commands:
-  import FILE...   import labels, or folders of them, and write what they show
-  inspect FILE     tell what a label holds, and what of it comes over
-  report merge     put the reports of several imports together
-  formats          tell what is read and what can be written
-  trace FILE       print every call that an import makes on its host, as JSON lines
-
-  --help           show this text
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  --help           show this help
   --version        show the version
 
 Examples:
@@ -622,75 +463,1280 @@ Examples:
   labelport inspect shelf.odg
   labelport trace shelf.odg
 
-Exit status: 0 all went well, 1 something failed, 2 wrong usage, 3 something was lost
+Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
 (import --fail-on-loss), 130 stopped by a signal.
 </source>
-        <translation>Aufruf: labelport BEFEHL [ARGUMENT...]
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No command given. See &quot;labelport --help&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown command &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::Options</name>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished">Sekunden</translation>
+    </message>
+    <message>
+        <source>Abort a file after this many seconds without progress; 0 for no limit (default: 60).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MiB</source>
+        <translation type="unfinished">MiB</translation>
+    </message>
+    <message>
+        <source>Abort a file that uses more memory than this; 0 for no limit (default: 4096).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished">Name</translation>
+    </message>
+    <message>
+        <source>Read files as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever their names. Default: by the suffix, or else by the content.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>targets</source>
+        <translation type="unfinished">Ziele</translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
+        <translation type="unfinished">Was geschrieben wird: png, svg, pdf, label; mehrere mit Kommas (Vorgabe: png).</translation>
+    </message>
+    <message>
+        <source>folder</source>
+        <translation type="unfinished">Ordner</translation>
+    </message>
+    <message>
+        <source>Folder to write to; created if missing (default: the current folder). Subfolders of an imported folder are kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation type="unfinished">Zahl</translation>
+    </message>
+    <message>
+        <source>Resolution of pictures in dots per inch, 10 to 2400 (default: 300).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>range</source>
+        <translation type="unfinished">Bereich</translation>
+    </message>
+    <message>
+        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page for each record.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite files that labelport did not write, and edited labels.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Named and listed files below this folder keep their subfolders in the output folder.</source>
+        <translation type="unfinished">Genannte und aufgelistete Dateien unter diesem Ordner behalten im Ausgabeordner ihre Unterordner.</translation>
+    </message>
+    <message>
+        <source>Files to import at the same time (default: one for each processor core).</source>
+        <translation type="unfinished">Dateien, die gleichzeitig importiert werden (Vorgabe: eine je Prozessorkern).</translation>
+    </message>
+    <message>
+        <source>Skip files that an earlier command with the same options imported, if they and their outputs are unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>K/N</source>
+        <translation type="unfinished">K/N</translation>
+    </message>
+    <message>
+        <source>Import the K-th of N parts of the files, to share an archive among N machines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation type="unfinished">Datei</translation>
+    </message>
+    <message>
+        <source>Write a report on all files, as .json or .html; may be given several times.</source>
+        <translation type="unfinished">Schreibt einen Bericht über alle Dateien, als .json oder .html; kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Exit with status 3 if a label was not imported completely.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End each file name on standard output with NUL instead of a line break.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report only errors on standard error.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print JSON, as in reports.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report to write, as .json or .html; may be given several times.</source>
+        <translation type="unfinished">Bericht, der geschrieben wird, als .json oder .html; mehrmals möglich.</translation>
+    </message>
+    <message>
+        <source>Overwrite files that are not reports of labelport.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
+and writes them as pictures, drawings, documents or saved labels. A folder is searched with
+its subfolders for files with these suffixes. The files written are listed on standard
+output, in the order of the names of the inputs.
 
-Öffnet alte Etikettenvorlagen: *.cnv und *.roc, *.qmtx, *.odt und *.odg, und von LabelPort
-gespeicherte Etiketten: *.label. Jeder Befehl sagt mit --help mehr.
-
-Befehle:
-  import DATEI...  importiert Etiketten oder Ordner davon und schreibt, was sie zeigen
-  inspect DATEI    sagt, was ein Etikett enthält und was davon herüberkommt
-  report merge     fügt die Berichte mehrerer Importe zusammen
-  formats          sagt, was gelesen wird und was geschrieben werden kann
-  trace DATEI      gibt jeden Aufruf eines Imports an sein Gastprogramm als JSON-Zeile aus
-
-  --help           zeigt diesen Text
-  --version        zeigt die Version
-
-Beispiele:
+Examples:
   labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new --report report.html
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
   labelport import asset.label --to pdf --records all
-  labelport inspect shelf.odg
-  labelport trace shelf.odg
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
 
-Exit-Status: 0 alles ging gut, 1 etwas schlug fehl, 2 falscher Aufruf, 3 etwas ging verloren
-(import --fail-on-loss), 130 durch ein Signal angehalten.
-</translation>
+Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
+imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what one label contains, and what of it is imported. Writes no files.
+
+Examples:
+  labelport inspect shelf.odg
+  labelport inspect - --reader orvanta &lt; shelf.xml
+  labelport inspect shelf.odg --json | jq .lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merges the JSON reports of several imports into the report that one import of all files
+would have written.
+
+Examples:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the formats that labelport reads, with their versions, and the formats that it writes.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
+Lines, then the final state of the items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>import labels, or folders of labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label or folder of labels to import; - is standard input.</source>
+        <translation type="unfinished">Etikett oder Ordner mit Etiketten; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>show what a label contains</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label to inspect; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>merge the reports of several imports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON reports to merge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list supported formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print every call that an import makes on its host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label to import; - is standard input.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::ReportCommand</name>
     <message>
-        <source>Makes one report of the JSON reports of several commands, as one command over all
-files would have written it.
+        <source>No command given: labelport report merge REPORT.json... --to FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown command &quot;report %1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the reports to merge, and the output file with --to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::TraceCommand</name>
+    <message>
+        <source>Cannot run &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>console::CommandLine</name>
+    <message>
+        <source>Unknown option &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: %1 --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Did you mean &quot;%1&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>console::Output</name>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>console::StandardInput</name>
+    <message>
+        <source>Cannot copy standard input to a temporary file: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read standard input: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input is longer than any label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>fields::FieldProblem</name>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 muss %2 sein</translation>
+    </message>
+    <message>
+        <source>%1 is longer than %2</source>
+        <translation>%1 ist länger als %2</translation>
+    </message>
+    <message>
+        <source>a group of fields</source>
+        <translation>eine Gruppe von Feldern</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a whole number in range</source>
+        <translation>eine ganze Zahl im zulässigen Bereich</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a number or null</source>
+        <translation>eine Zahl oder null</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a list of texts</source>
+        <translation>eine Liste von Texten</translation>
+    </message>
+    <message>
+        <source>a color</source>
+        <translation>eine Farbe</translation>
+    </message>
+    <message>
+        <source>a width and a height</source>
+        <translation>eine Breite und eine Höhe</translation>
+    </message>
+    <message>
+        <source>a point</source>
+        <translation>ein Punkt</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>an alignment</source>
+        <translation>eine Ausrichtung</translation>
+    </message>
+    <message>
+        <source>a known type of item</source>
+        <translation>eine bekannte Art von Objekt</translation>
+    </message>
+    <message>
+        <source>a set of properties</source>
+        <translation>ein Satz von Eigenschaften</translation>
+    </message>
+    <message>
+        <source>a picture</source>
+        <translation>ein Bild</translation>
+    </message>
+    <message>
+        <source>a known status</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Census</name>
+    <message>
+        <source>The file cannot be opened to count its objects.</source>
+        <translation>Die Datei kann nicht geöffnet werden, um ihre Objekte zu zählen.</translation>
+    </message>
+    <message>
+        <source>The file is too large to count its objects.</source>
+        <translation>Die Datei ist zu groß, um ihre Objekte zu zählen.</translation>
+    </message>
+    <message>
+        <source>The package has no readable part %1.</source>
+        <translation>Das Paket hat keinen lesbaren Teil %1.</translation>
+    </message>
+    <message>
+        <source>The file has no list of items.</source>
+        <translation>Die Datei hat keine Liste von Objekten.</translation>
+    </message>
+    <message>
+        <source>The file is damaged, so its objects cannot be counted: %1.</source>
+        <translation>Die Datei ist beschädigt, darum lassen sich ihre Objekte nicht zählen: %1.</translation>
+    </message>
+    <message>
+        <source>The file continues with unknown data, which may contain more objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is truncated: it may have contained more objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not a binary label of a supported version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlCard</name>
+    <message>
+        <source>no picture</source>
+        <translation>kein Bild</translation>
+    </message>
+    <message>
+        <source>The label %1</source>
+        <translation>Das Etikett %1</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>Data sources</source>
+        <translation>Datenquellen</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported with changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlPage</name>
+    <message>
+        <source>with losses</source>
+        <translation>mit Verlusten</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>nicht importiert</translation>
+    </message>
+    <message>
+        <source>What was lost or changed</source>
+        <translation>Was verloren ging oder verändert wurde</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Was geschah</translation>
+    </message>
+    <message>
+        <source>What can be done</source>
+        <translation>Was man tun kann</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>imported</source>
+        <translation>importiert</translation>
+    </message>
+    <message>
+        <source>as imported</source>
+        <translation>wie importiert</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>most problems first</source>
+        <translation>die meisten Probleme zuerst</translation>
+    </message>
+    <message>
+        <source>worst status first</source>
+        <translation>der schlechteste Status zuerst</translation>
+    </message>
+    <message>
+        <source>Sort and filter</source>
+        <translation>Ordnen und filtern</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation>Leser</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation>%1 von %2 gezeigt</translation>
+    </message>
+    <message>
+        <source>Migration report</source>
+        <translation>Migrationsbericht</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed in looks, nothing lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported %1 of %2 objects in these files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files whose objects could not be counted: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>most lost objects first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No matching files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 files imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Inspect</name>
+    <message>
+        <source>kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>content</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Page: %1 × %2 mm</source>
+        <translation>Seite: %1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Data sources:</source>
+        <translation>Datenquellen:</translation>
+    </message>
+    <message>
+        <source>Items (millimeters):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported completely:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported with changes:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not imported:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ItemLosses</name>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>migration::LossKinds</name>
+    <message>
+        <source>Objects in groups were left out.</source>
+        <translation>Objekte in Gruppen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Objects on the second and later pages were left out: a label has one page.</source>
+        <translation>Objekte auf der zweiten Seite und den folgenden wurden weggelassen: Ein Etikett hat eine Seite.</translation>
+    </message>
+    <message>
+        <source>Save each page as a document of its own and import those.</source>
+        <translation>Speichern Sie jede Seite als eigenes Dokument und importieren Sie diese.</translation>
+    </message>
+    <message>
+        <source>Objects of the page&apos;s background (its master page) were left out.</source>
+        <translation>Objekte des Seitenhintergrunds (der Masterseite) wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Copy them from the master page to the page itself and import again.</source>
+        <translation>Kopieren Sie sie von der Masterseite auf die Seite selbst und importieren Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Connectors between objects were left out.</source>
+        <translation>Verbinder zwischen Objekten wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Draw them as plain lines.</source>
+        <translation>Zeichnen Sie sie als einfache Linien.</translation>
+    </message>
+    <message>
+        <source>Curves, free polygons and polylines were left out.</source>
+        <translation>Kurven, freie Polygone und Linienzüge wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Convert them to a picture or to plain shapes.</source>
+        <translation>Wandeln Sie sie in ein Bild oder in einfache Formen um.</translation>
+    </message>
+    <message>
+        <source>Callouts were left out.</source>
+        <translation>Legenden wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Three-dimensional objects were left out.</source>
+        <translation>Dreidimensionale Objekte wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Convert them to a picture.</source>
+        <translation>Wandeln Sie sie in ein Bild um.</translation>
+    </message>
+    <message>
+        <source>Form controls were left out.</source>
+        <translation>Formularfelder wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
+        <translation>Eingebettete Objekte wie Diagramme und Formeln wurden weggelassen; an ihrer Stelle ist ein leerer Kasten.</translation>
+    </message>
+    <message>
+        <source>Objects inside texts, text boxes or other objects were left out.</source>
+        <translation>Objekte in Texten, Textfeldern oder anderen Objekten wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Anchor them to the page.</source>
+        <translation>Verankern Sie sie an der Seite.</translation>
+    </message>
+    <message>
+        <source>Texts and objects in tables were left out.</source>
+        <translation>Texte und Objekte in Tabellen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Put them into text boxes.</source>
+        <translation>Setzen Sie sie in Textfelder.</translation>
+    </message>
+    <message>
+        <source>Texts in lists were left out.</source>
+        <translation>Texte in Listen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Texts and objects in sections or indexes were left out.</source>
+        <translation>Texte und Objekte in Bereichen oder Verzeichnissen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Remove the section and keep its content.</source>
+        <translation>Entfernen Sie den Bereich und behalten Sie seinen Inhalt.</translation>
+    </message>
+    <message>
+        <source>Texts and objects of the header or footer were left out.</source>
+        <translation>Texte und Objekte der Kopf- oder Fußzeile wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Copy them into the document itself.</source>
+        <translation>Kopieren Sie sie in das Dokument selbst.</translation>
+    </message>
+    <message>
+        <source>Texts of hyperlinks were left out.</source>
+        <translation>Texte von Hyperlinks wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Remove the hyperlinks and keep their texts.</source>
+        <translation>Entfernen Sie die Hyperlinks und behalten Sie ihre Texte.</translation>
+    </message>
+    <message>
+        <source>Fields in texts, such as page numbers and names, were left out.</source>
+        <translation>Felder in Texten, etwa Seitenzahlen und Namen, wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Footnotes and endnotes were left out.</source>
+        <translation>Fußnoten und Endnoten wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Put their texts into text boxes.</source>
+        <translation>Setzen Sie ihre Texte in Textfelder.</translation>
+    </message>
+    <message>
+        <source>Comments were left out; they are not printed.</source>
+        <translation>Kommentare wurden weggelassen; sie werden nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Animations were left out; they are not printed.</source>
+        <translation>Animationen wurden weggelassen; sie werden nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Nichts.</translation>
+    </message>
+    <message>
+        <source>Open the file in its own program and save it again.</source>
+        <translation>Öffnen Sie die Datei in ihrem eigenen Programm und speichern Sie sie neu.</translation>
+    </message>
+    <message>
+        <source>Picture boxes without a picture were left out.</source>
+        <translation>Bildrahmen ohne Bild wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Look for another copy of the file.</source>
+        <translation>Suchen Sie eine andere Kopie der Datei.</translation>
+    </message>
+    <message>
+        <source>Copy its content into a drawing.</source>
+        <translation>Kopieren Sie seinen Inhalt in eine Zeichnung.</translation>
+    </message>
+    <message>
+        <source>Barcodes of a type without a known counterpart became Code 39.</source>
+        <translation>Barcodes eines Typs ohne bekanntes Gegenstück wurden zu Code 39.</translation>
+    </message>
+    <message>
+        <source>Colored texts lost their color.</source>
+        <translation>Farbige Texte haben ihre Farbe verloren.</translation>
+    </message>
+    <message>
+        <source>Line breaks, tabs or repeated spaces in texts were dropped.</source>
+        <translation>Zeilenumbrüche, Tabulatoren oder mehrfache Leerzeichen in Texten fielen weg.</translation>
+    </message>
+    <message>
+        <source>Formats of characters and paragraphs, such as superscript or line spacing, were dropped.</source>
+        <translation>Formate von Zeichen und Absätzen, etwa Hochstellung oder Zeilenabstand, fielen weg.</translation>
+    </message>
+    <message>
+        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
+        <translation>Verläufe, Schraffuren und Bilder, die Objekte füllen, wurden vereinfacht.</translation>
+    </message>
+    <message>
+        <source>Shadows, transparency, cropping and other effects were dropped.</source>
+        <translation>Schatten, Transparenz, Zuschnitt und andere Effekte fielen weg.</translation>
+    </message>
+    <message>
+        <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each callout with a text and a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each control with a text if it should be printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the label into a drawing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn bullets and numbering off, so that the list becomes plain paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each field with its text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of texts were left out because their type is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare the texts with the original label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts of shapes were left out because they do not begin with a plain paragraph.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change them to plain paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing, unless you need them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects were left out because their type is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw them as shapes that labels support.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Controls were left out because their type is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has several lists of objects; all but the first were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the picture to the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the pictures as PNG in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vector drawings were left out because they cannot be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert the drawings to PNG in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbols were left out because neither the file nor the symbol databases contain their drawings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the label with the latest version of its own program, which stores the drawings, or add the symbols to the symbol databases.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes were left out because their type is not supported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change the barcode type in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file continues with an unknown record; the rest was not read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is damaged or of a newer version. Look for another copy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is neither a text nor a drawing; nothing was imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Content was left out because it exceeds the limits for labels.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reduce the number of objects or the size of the pictures.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects of the file are missing on the label, without a reported reason.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with the original label, and report the file as a bug.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log was cut: there may be losses that are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with the original label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsupported shapes became rectangles or ellipses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace them with supported shapes in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items are no longer bound to their data source: they show their last value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind the items to a data source in the new label editor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label is no longer linked to its database file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect the data in the new label editor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts with a placeholder among other words show only the value of the data source.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the other words into separate texts, or into the data source.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields, such as date, time and page number, became plain text with the value that they had when the document was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes cannot be drawn because their content is invalid for their type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct the content or the barcode type in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan the original label to find the correct type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items are completely outside the page: they are not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the items onto the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items extend beyond the edge of the page: that part is not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sizes, positions or fonts exceed the limits for labels and were reduced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document uses millimeters: the label is ten times larger than the paper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print at a tenth of the size, or save the document with centimeters or inches as its unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths are not in the unit of the page, but were read as if they were.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the document with a single unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit of the page is unknown: its lengths were read as inches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the document with centimeters or inches as its unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page has another size than in the file, which defines no size or several.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the page size in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins of the page were dropped: the text begins in the corner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the texts in the new label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page breaks were dropped: all text is on one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of lines, and skewing and scaling of objects, were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fonts that are not installed were replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install the fonts and import again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretched texts are no longer stretched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set a suitable font size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the color in the new label editor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split the text into paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a plain fill in the original file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import reported a problem with this label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the warnings, and compare with the original label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::MergeReports</name>
+    <message>
+        <source>The reports contain the file &quot;%1&quot; more than once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report &quot;%1&quot; has changed during the merge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportLines</name>
+    <message>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 does not name the format, or an unsupported version of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 does not describe a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportWriter</name>
+    <message>
+        <source>Cannot write the report &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Summary</name>
+    <message>
+        <source>Not imported: %1</source>
+        <translation>Nicht importiert: %1</translation>
+    </message>
+    <message>
+        <source>Objects imported: %1 (the number of objects in the file is unknown).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported %1 of %2 objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost; looks or content changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Totals</name>
+    <message>
+        <source>imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed in looks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with losses</source>
+        <translation type="unfinished">mit Verlusten</translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation type="unfinished">abgestürzt</translation>
+    </message>
+    <message>
+        <source>timed out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished">fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>trace</name>
+    <message>
+        <source>it is a folder</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation type="unfinished">sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
+Lines, then the final state of the items.
 
-Examples:
-  labelport report merge part-1.json part-2.json --to all.html
-  labelport report merge part-*.json --to all.json --to all.html</source>
-        <translation>Macht aus den JSON-Berichten mehrerer Befehle einen, wie ihn ein Befehl über alle
-Dateien geschrieben hätte.
-
-Beispiele:
-  labelport report merge part-1.json part-2.json --to all.html
-  labelport report merge part-*.json --to all.json --to all.html</translation>
+Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>What to do: put reports together.</source>
-        <translation>Was zu tun ist: Berichte zusammenfügen.</translation>
+        <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
+        <translation type="unfinished">Liest die Datei als tavrel, orvanta oder opendocument, wie immer sie heißt.</translation>
     </message>
     <message>
-        <source>Report that an import wrote as JSON.</source>
-        <translation>Bericht, den ein Import als JSON schrieb.</translation>
+        <source>name</source>
+        <translation type="unfinished">Name</translation>
     </message>
     <message>
-        <source>Report to write, as .json or .html; may be given several times.</source>
-        <translation>Bericht, der geschrieben wird, als .json oder .html; mehrmals möglich.</translation>
+        <source>Show the version.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>file</source>
-        <translation>Datei</translation>
+        <source>Label to import; - is standard input.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reports can be put together: &quot;report merge&quot;.</source>
-        <translation>Berichte können zusammengefügt werden: „report merge“.</translation>
+        <source>trace needs exactly one file.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>It takes the reports to put together, and --to says where the whole goes.</source>
-        <translation>Anzugeben sind die Berichte, die zusammengefügt werden, und mit --to, wohin das Ganze kommt.</translation>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1016,6 +2062,13 @@ Beispiele:
     </message>
 </context>
 <context>
+    <name>window::DialogImport</name>
+    <message>
+        <source>There is not enough memory for this file.</source>
+        <translation>Für diese Datei reicht der Speicher nicht.</translation>
+    </message>
+</context>
+<context>
     <name>window::ExportDialog</name>
     <message>
         <source>SVG drawings (*.svg)</source>
@@ -1104,13 +2157,6 @@ Beispiele:
     <message>
         <source>“%1” exists already. Replace it?</source>
         <translation>„%1“ gibt es schon. Ersetzen?</translation>
-    </message>
-</context>
-<context>
-    <name>window::DialogImport</name>
-    <message>
-        <source>There is not enough memory for this file.</source>
-        <translation>Für diese Datei reicht der Speicher nicht.</translation>
     </message>
 </context>
 <context>
@@ -1516,6 +2562,36 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
+    <name>window::Main</name>
+    <message>
+        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
+        <translation type="unfinished">Öffnet alte Etikettenvorlagen, zeigt, speichert, exportiert und druckt sie.</translation>
+    </message>
+    <message>
+        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
+        <translation type="unfinished">Ein Etikett zum Öffnen: *.label, *.cnv, *.roc, *.qmtx, *.odt oder *.odg.</translation>
+    </message>
+    <message>
+        <source>Writes a picture of the window to a PNG file, and exits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>A window shows one label, but %n files were given.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>window::MainWindow</name>
     <message>
         <source>LabelPort Workbench</source>
@@ -1876,70 +2952,6 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
 <context>
     <name>window::StyleNames</name>
     <message>
-        <source>Picture</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Symbol</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Formatted text</source>
-        <translation>Formatierter Text</translation>
-    </message>
-    <message>
-        <source>Barcode</source>
-        <translation>Barcode</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linie</translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation>Rechteck</translation>
-    </message>
-    <message>
-        <source>Rounded rectangle</source>
-        <translation>Abgerundetes Rechteck</translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation>Ellipse</translation>
-    </message>
-    <message>
-        <source>Pie</source>
-        <translation>Kreissektor</translation>
-    </message>
-    <message>
-        <source>Right triangle</source>
-        <translation>Rechtwinkliges Dreieck</translation>
-    </message>
-    <message>
-        <source>Triangle</source>
-        <translation>Dreieck</translation>
-    </message>
-    <message>
-        <source>Diamond</source>
-        <translation>Raute</translation>
-    </message>
-    <message>
-        <source>Pentagon</source>
-        <translation>Fünfeck</translation>
-    </message>
-    <message>
-        <source>Hexagon</source>
-        <translation>Sechseck</translation>
-    </message>
-    <message>
-        <source>Octagon</source>
-        <translation>Achteck</translation>
-    </message>
-    <message>
         <source>none</source>
         <translation>keine</translation>
     </message>
@@ -2139,1004 +3151,10 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
 </context>
 <context>
-    <name>main</name>
+    <name>window::WindowPicture</name>
     <message>
-        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
-        <translation>Öffnet alte Etikettenvorlagen, zeigt, speichert, exportiert und druckt sie.</translation>
-    </message>
-    <message>
-        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
-        <translation>Ein Etikett zum Öffnen: *.label, *.cnv, *.roc, *.qmtx, *.odt oder *.odg.</translation>
-    </message>
-    <message>
-        <source>Writes a picture of the window as PNG as soon as it is there, and ends.</source>
-        <translation>Schreibt ein Bild des Fensters als PNG, sobald es da ist, und endet.</translation>
-    </message>
-    <message>
-        <source>a window holds one label, but %1 were named</source>
-        <translation>ein Fenster fasst ein Etikett, es wurden aber %1 genannt</translation>
-    </message>
-    <message>
-        <source>cannot write “%1”</source>
-        <translation>„%1“ kann nicht geschrieben werden</translation>
-    </message>
-</context>
-<context>
-    <name>migration::Census</name>
-    <message>
-        <source>The file cannot be opened to count its objects.</source>
-        <translation>Die Datei kann nicht geöffnet werden, um ihre Objekte zu zählen.</translation>
-    </message>
-    <message>
-        <source>The file is too large to count its objects.</source>
-        <translation>Die Datei ist zu groß, um ihre Objekte zu zählen.</translation>
-    </message>
-    <message>
-        <source>The package has no readable part %1.</source>
-        <translation>Das Paket hat keinen lesbaren Teil %1.</translation>
-    </message>
-    <message>
-        <source>The file has no list of items.</source>
-        <translation>Die Datei hat keine Liste von Objekten.</translation>
-    </message>
-    <message>
-        <source>The file goes on with something unknown, which may hold more.</source>
-        <translation>Die Datei geht mit etwas Unbekanntem weiter, das noch mehr enthalten kann.</translation>
-    </message>
-    <message>
-        <source>The file ends in the middle of a record: it may have held more.</source>
-        <translation>Die Datei endet mitten in einem Eintrag: Sie kann mehr enthalten haben.</translation>
-    </message>
-    <message>
-        <source>The file is no binary label of a known version.</source>
-        <translation>Die Datei ist kein binäres Etikett einer bekannten Version.</translation>
-    </message>
-    <message>
-        <source>The file is damaged, so its objects cannot be counted: %1.</source>
-        <translation>Die Datei ist beschädigt, darum lassen sich ihre Objekte nicht zählen: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>migration::HtmlCard</name>
-    <message>
-        <source>no picture</source>
-        <translation>kein Bild</translation>
-    </message>
-    <message>
-        <source>The label %1</source>
-        <translation>Das Etikett %1</translation>
-    </message>
-    <message>
-        <source>whole</source>
-        <translation>vollständig</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>verändert</translation>
-    </message>
-    <message>
-        <source>with losses</source>
-        <translation>mit Verlusten</translation>
-    </message>
-    <message>
-        <source>crashed</source>
-        <translation>abgestürzt</translation>
-    </message>
-    <message>
-        <source>took too long</source>
-        <translation>dauerte zu lange</translation>
-    </message>
-    <message>
-        <source>needed too much memory</source>
-        <translation>brauchte zu viel Speicher</translation>
-    </message>
-    <message>
-        <source>failed</source>
-        <translation>fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>%1 × %2 mm</source>
-        <translation>%1 × %2 mm</translation>
-    </message>
-    <message>
-        <source>%1 bytes</source>
-        <translation>%1 Bytes</translation>
-    </message>
-    <message>
-        <source>Came over whole</source>
-        <translation>Vollständig übernommen</translation>
-    </message>
-    <message>
-        <source>Data sources</source>
-        <translation>Datenquellen</translation>
-    </message>
-    <message>
-        <source>What the import said</source>
-        <translation>Was der Import sagte</translation>
-    </message>
-    <message>
-        <source>Written</source>
-        <translation>Geschrieben</translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation>Mehr</translation>
-    </message>
-    <message>
-        <source>Did not come over</source>
-        <translation>Nicht übernommen</translation>
-    </message>
-    <message>
-        <source>Came over changed</source>
-        <translation>Verändert übernommen</translation>
-    </message>
-</context>
-<context>
-    <name>migration::HtmlPage</name>
-    <message>
-        <source>%1 of %2 files came over whole.</source>
-        <translation>%1 von %2 Dateien wurden vollständig übernommen.</translation>
-    </message>
-    <message>
-        <source>whole: nothing lost, nothing changed</source>
-        <translation>vollständig: nichts verloren, nichts verändert</translation>
-    </message>
-    <message>
-        <source>changed in their looks, nothing lost</source>
-        <translation>im Aussehen verändert, nichts verloren</translation>
-    </message>
-    <message>
-        <source>with losses</source>
-        <translation>mit Verlusten</translation>
-    </message>
-    <message>
-        <source>not imported</source>
-        <translation>nicht importiert</translation>
-    </message>
-    <message>
-        <source>Of %1 objects in these files, %2 came over.</source>
-        <translation>Von %1 Objekten in diesen Dateien wurden %2 übernommen.</translation>
-    </message>
-    <message>
-        <source>In %1 files the objects could not be counted.</source>
-        <translation>In %1 Dateien ließen sich die Objekte nicht zählen.</translation>
-    </message>
-    <message>
-        <source>Nothing was lost and nothing was changed.</source>
-        <translation>Nichts ging verloren und nichts wurde verändert.</translation>
-    </message>
-    <message>
-        <source>What was lost or changed</source>
-        <translation>Was verloren ging oder verändert wurde</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
-    </message>
-    <message>
-        <source>Code</source>
-        <translation>Code</translation>
-    </message>
-    <message>
-        <source>What happened</source>
-        <translation>Was geschah</translation>
-    </message>
-    <message>
-        <source>What can be done</source>
-        <translation>Was man tun kann</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>alle</translation>
-    </message>
-    <message>
-        <source>whole</source>
-        <translation>vollständig</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>verändert</translation>
-    </message>
-    <message>
-        <source>imported</source>
-        <translation>importiert</translation>
-    </message>
-    <message>
-        <source>failed</source>
-        <translation>fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>crashed</source>
-        <translation>abgestürzt</translation>
-    </message>
-    <message>
-        <source>took too long</source>
-        <translation>dauerte zu lange</translation>
-    </message>
-    <message>
-        <source>needed too much memory</source>
-        <translation>brauchte zu viel Speicher</translation>
-    </message>
-    <message>
-        <source>as imported</source>
-        <translation>wie importiert</translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>most problems first</source>
-        <translation>die meisten Probleme zuerst</translation>
-    </message>
-    <message>
-        <source>most objects lost first</source>
-        <translation>die meisten verlorenen Objekte zuerst</translation>
-    </message>
-    <message>
-        <source>worst status first</source>
-        <translation>der schlechteste Status zuerst</translation>
-    </message>
-    <message>
-        <source>Sort and filter</source>
-        <translation>Ordnen und filtern</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>Suchen</translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
-    </message>
-    <message>
-        <source>Reader</source>
-        <translation>Leser</translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation>Reihenfolge</translation>
-    </message>
-    <message>
-        <source>Show all</source>
-        <translation>Alle zeigen</translation>
-    </message>
-    <message>
-        <source>%1 of %2 shown</source>
-        <translation>%1 von %2 gezeigt</translation>
-    </message>
-    <message>
-        <source>Migration report</source>
-        <translation>Migrationsbericht</translation>
-    </message>
-    <message>
-        <source>en</source>
-        <translation>de</translation>
-    </message>
-    <message>
-        <source>No file fits the search.</source>
-        <translation>Keine Datei passt zur Suche.</translation>
-    </message>
-</context>
-<context>
-    <name>migration::Inspect</name>
-    <message>
-        <source>kind</source>
-        <translation>Art</translation>
-    </message>
-    <message>
-        <source>x</source>
-        <translation>x</translation>
-    </message>
-    <message>
-        <source>y</source>
-        <translation>y</translation>
-    </message>
-    <message>
-        <source>width</source>
-        <translation>Breite</translation>
-    </message>
-    <message>
-        <source>height</source>
-        <translation>Höhe</translation>
-    </message>
-    <message>
-        <source>source</source>
-        <translation>Quelle</translation>
-    </message>
-    <message>
-        <source>content</source>
-        <translation>Inhalt</translation>
-    </message>
-    <message>
-        <source>Items (millimetres):</source>
-        <translation>Objekte (Millimeter):</translation>
-    </message>
-    <message>
-        <source>Page: %1 × %2 mm</source>
-        <translation>Seite: %1 × %2 mm</translation>
-    </message>
-    <message>
-        <source>Data sources:</source>
-        <translation>Datenquellen:</translation>
-    </message>
-    <message>
-        <source>Came over whole:</source>
-        <translation>Vollständig übernommen:</translation>
-    </message>
-    <message>
-        <source>Came over changed:</source>
-        <translation>Verändert übernommen:</translation>
-    </message>
-    <message>
-        <source>Did not come over:</source>
-        <translation>Nicht übernommen:</translation>
-    </message>
-    <message>
-        <source>What the import said:</source>
-        <translation>Was der Import sagte:</translation>
-    </message>
-</context>
-<context>
-    <name>migration::ItemLosses</name>
-    <message>
-        <source>unknown</source>
-        <translation>unbekannt</translation>
-    </message>
-</context>
-<context>
-    <name>migration::KindNames</name>
-    <message>
-        <source>picture</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>symbol</source>
-        <translation>Symbol</translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>formatted text</source>
-        <translation>formatierter Text</translation>
-    </message>
-    <message>
-        <source>barcode</source>
-        <translation>Barcode</translation>
-    </message>
-    <message>
-        <source>line</source>
-        <translation>Linie</translation>
-    </message>
-    <message>
-        <source>rectangle</source>
-        <translation>Rechteck</translation>
-    </message>
-    <message>
-        <source>rounded rectangle</source>
-        <translation>abgerundetes Rechteck</translation>
-    </message>
-    <message>
-        <source>ellipse</source>
-        <translation>Ellipse</translation>
-    </message>
-    <message>
-        <source>pie</source>
-        <translation>Kreissektor</translation>
-    </message>
-    <message>
-        <source>right triangle</source>
-        <translation>rechtwinkliges Dreieck</translation>
-    </message>
-    <message>
-        <source>triangle</source>
-        <translation>Dreieck</translation>
-    </message>
-    <message>
-        <source>diamond</source>
-        <translation>Raute</translation>
-    </message>
-    <message>
-        <source>pentagon</source>
-        <translation>Fünfeck</translation>
-    </message>
-    <message>
-        <source>hexagon</source>
-        <translation>Sechseck</translation>
-    </message>
-    <message>
-        <source>octagon</source>
-        <translation>Achteck</translation>
-    </message>
-</context>
-<context>
-    <name>migration::LossKinds</name>
-    <message>
-        <source>Objects in groups were left out.</source>
-        <translation>Objekte in Gruppen wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Open the document in its own program, ungroup the objects, save, and import again.</source>
-        <translation>Öffnen Sie das Dokument in seinem eigenen Programm, lösen Sie die Gruppen auf, speichern und importieren Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>Objects on the second and later pages were left out: a label has one page.</source>
-        <translation>Objekte auf der zweiten Seite und den folgenden wurden weggelassen: Ein Etikett hat eine Seite.</translation>
-    </message>
-    <message>
-        <source>Save each page as a document of its own and import those.</source>
-        <translation>Speichern Sie jede Seite als eigenes Dokument und importieren Sie diese.</translation>
-    </message>
-    <message>
-        <source>Objects of the page&apos;s background (its master page) were left out.</source>
-        <translation>Objekte des Seitenhintergrunds (der Masterseite) wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Copy them from the master page to the page itself and import again.</source>
-        <translation>Kopieren Sie sie von der Masterseite auf die Seite selbst und importieren Sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>Connectors between objects were left out.</source>
-        <translation>Verbinder zwischen Objekten wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Draw them as plain lines.</source>
-        <translation>Zeichnen Sie sie als einfache Linien.</translation>
-    </message>
-    <message>
-        <source>Curves, free polygons and polylines were left out.</source>
-        <translation>Kurven, freie Polygone und Linienzüge wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Convert them to a picture or to plain shapes.</source>
-        <translation>Wandeln Sie sie in ein Bild oder in einfache Formen um.</translation>
-    </message>
-    <message>
-        <source>Callouts were left out.</source>
-        <translation>Legenden wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Replace each by a text and a line.</source>
-        <translation>Ersetzen Sie jede durch einen Text und eine Linie.</translation>
-    </message>
-    <message>
-        <source>Three-dimensional objects were left out.</source>
-        <translation>Dreidimensionale Objekte wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Convert them to a picture.</source>
-        <translation>Wandeln Sie sie in ein Bild um.</translation>
-    </message>
-    <message>
-        <source>Form controls were left out.</source>
-        <translation>Formularfelder wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Replace each by a text, if it is to be printed.</source>
-        <translation>Ersetzen Sie jedes durch einen Text, wenn es gedruckt werden soll.</translation>
-    </message>
-    <message>
-        <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
-        <translation>Eingebettete Objekte wie Diagramme und Formeln wurden weggelassen; an ihrer Stelle ist ein leerer Kasten.</translation>
-    </message>
-    <message>
-        <source>Objects inside texts, text boxes or other objects were left out.</source>
-        <translation>Objekte in Texten, Textfeldern oder anderen Objekten wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Anchor them to the page.</source>
-        <translation>Verankern Sie sie an der Seite.</translation>
-    </message>
-    <message>
-        <source>Shapes of a text document were left out: only its texts, text boxes and pictures are taken.</source>
-        <translation>Formen eines Textdokuments wurden weggelassen: Nur seine Texte, Textfelder und Bilder werden übernommen.</translation>
-    </message>
-    <message>
-        <source>Put the label into a drawing instead of a text document.</source>
-        <translation>Legen Sie das Etikett als Zeichnung statt als Textdokument an.</translation>
-    </message>
-    <message>
-        <source>Texts and objects in tables were left out.</source>
-        <translation>Texte und Objekte in Tabellen wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Put them into text boxes.</source>
-        <translation>Setzen Sie sie in Textfelder.</translation>
-    </message>
-    <message>
-        <source>Texts in lists were left out.</source>
-        <translation>Texte in Listen wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Turn the bullets or numbers off, so that the list becomes plain paragraphs.</source>
-        <translation>Schalten Sie die Aufzählungszeichen oder Nummern aus, sodass die Liste zu einfachen Absätzen wird.</translation>
-    </message>
-    <message>
-        <source>Texts and objects in sections or indexes were left out.</source>
-        <translation>Texte und Objekte in Bereichen oder Verzeichnissen wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Remove the section and keep its content.</source>
-        <translation>Entfernen Sie den Bereich und behalten Sie seinen Inhalt.</translation>
-    </message>
-    <message>
-        <source>Texts and objects of the header or footer were left out.</source>
-        <translation>Texte und Objekte der Kopf- oder Fußzeile wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Copy them into the document itself.</source>
-        <translation>Kopieren Sie sie in das Dokument selbst.</translation>
-    </message>
-    <message>
-        <source>Texts of hyperlinks were left out.</source>
-        <translation>Texte von Hyperlinks wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Remove the hyperlinks and keep their texts.</source>
-        <translation>Entfernen Sie die Hyperlinks und behalten Sie ihre Texte.</translation>
-    </message>
-    <message>
-        <source>Fields in texts, such as page numbers and names, were left out.</source>
-        <translation>Felder in Texten, etwa Seitenzahlen und Namen, wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Replace each by its text, or by a data source after the import.</source>
-        <translation>Ersetzen Sie jedes durch seinen Text oder nach dem Import durch eine Datenquelle.</translation>
-    </message>
-    <message>
-        <source>Parts of texts were left out, because their kind is not known.</source>
-        <translation>Teile von Texten wurden weggelassen, weil ihre Art nicht bekannt ist.</translation>
-    </message>
-    <message>
-        <source>Compare the texts with the old label.</source>
-        <translation>Vergleichen Sie die Texte mit dem alten Etikett.</translation>
-    </message>
-    <message>
-        <source>Texts of shapes were left out: they do not begin with a plain paragraph.</source>
-        <translation>Texte von Formen wurden weggelassen: Sie beginnen nicht mit einem einfachen Absatz.</translation>
-    </message>
-    <message>
-        <source>Turn them into plain paragraphs.</source>
-        <translation>Machen Sie einfache Absätze daraus.</translation>
-    </message>
-    <message>
-        <source>Footnotes and endnotes were left out.</source>
-        <translation>Fußnoten und Endnoten wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Put their texts into text boxes.</source>
-        <translation>Setzen Sie ihre Texte in Textfelder.</translation>
-    </message>
-    <message>
-        <source>Comments were left out; they are not printed.</source>
-        <translation>Kommentare wurden weggelassen; sie werden nicht gedruckt.</translation>
-    </message>
-    <message>
-        <source>Nothing, unless somebody needs them.</source>
-        <translation>Nichts, es sei denn, jemand braucht sie.</translation>
-    </message>
-    <message>
-        <source>Animations were left out; they are not printed.</source>
-        <translation>Animationen wurden weggelassen; sie werden nicht gedruckt.</translation>
-    </message>
-    <message>
-        <source>Nothing.</source>
-        <translation>Nichts.</translation>
-    </message>
-    <message>
-        <source>Objects were left out, because their kind is not known.</source>
-        <translation>Objekte wurden weggelassen, weil ihre Art nicht bekannt ist.</translation>
-    </message>
-    <message>
-        <source>Compare with the old label and draw them anew.</source>
-        <translation>Vergleichen Sie mit dem alten Etikett und zeichnen Sie sie neu.</translation>
-    </message>
-    <message>
-        <source>Objects were left out, because their kind of control is not known.</source>
-        <translation>Objekte wurden weggelassen, weil ihre Art von Steuerelement nicht bekannt ist.</translation>
-    </message>
-    <message>
-        <source>The file lists objects more than once; all but the first list were left out.</source>
-        <translation>Die Datei führt Objekte mehr als einmal auf; alle Listen außer der ersten wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Open the file in its own program and save it again.</source>
-        <translation>Öffnen Sie die Datei in ihrem eigenen Programm und speichern Sie sie neu.</translation>
-    </message>
-    <message>
-        <source>Picture boxes without a picture were left out.</source>
-        <translation>Bildrahmen ohne Bild wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>If a picture is missing, put it in after the import.</source>
-        <translation>Wenn ein Bild fehlt, setzen Sie es nach dem Import ein.</translation>
-    </message>
-    <message>
-        <source>Pictures are missing: they are damaged, too large or of an unknown format.</source>
-        <translation>Bilder fehlen: Sie sind beschädigt, zu groß oder von unbekanntem Format.</translation>
-    </message>
-    <message>
-        <source>Save them as PNG and put them in after the import.</source>
-        <translation>Speichern Sie sie als PNG und setzen Sie sie nach dem Import ein.</translation>
-    </message>
-    <message>
-        <source>Vector drawings are missing: they cannot be converted.</source>
-        <translation>Vektorzeichnungen fehlen: Sie lassen sich nicht umwandeln.</translation>
-    </message>
-    <message>
-        <source>Convert them to PNG and put them in after the import.</source>
-        <translation>Wandeln Sie sie in PNG um und setzen Sie sie nach dem Import ein.</translation>
-    </message>
-    <message>
-        <source>Symbols are missing: neither the file nor the symbol databases have a drawing of them.</source>
-        <translation>Symbole fehlen: Weder die Datei noch die Symboldatenbanken haben eine Zeichnung von ihnen.</translation>
-    </message>
-    <message>
-        <source>Save the label with the newest version of its own program, which stores the drawings, or add them to the symbol databases.</source>
-        <translation>Speichern Sie das Etikett mit der neuesten Version seines eigenen Programms, die die Zeichnungen ablegt, oder nehmen Sie sie in die Symboldatenbanken auf.</translation>
-    </message>
-    <message>
-        <source>Barcodes were left out, because their type is not supported.</source>
-        <translation>Barcodes wurden weggelassen, weil ihr Typ nicht unterstützt wird.</translation>
-    </message>
-    <message>
-        <source>Choose another type, and put them in after the import.</source>
-        <translation>Wählen Sie einen anderen Typ und setzen Sie sie nach dem Import ein.</translation>
-    </message>
-    <message>
-        <source>Nothing was read from an unknown record on.</source>
-        <translation>Ab einem unbekannten Eintrag wurde nichts mehr gelesen.</translation>
-    </message>
-    <message>
-        <source>The file is damaged or of a newer version: look for another copy.</source>
-        <translation>Die Datei ist beschädigt oder von einer neueren Version: Suchen Sie eine andere Kopie.</translation>
-    </message>
-    <message>
-        <source>The file ends in the middle: its last object is incomplete, and more may be missing.</source>
-        <translation>Die Datei endet mittendrin: Ihr letztes Objekt ist unvollständig, und es kann noch mehr fehlen.</translation>
-    </message>
-    <message>
-        <source>Look for another copy of the file.</source>
-        <translation>Suchen Sie eine andere Kopie der Datei.</translation>
-    </message>
-    <message>
-        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
-        <translation>Das Dokument ist weder ein Text noch eine Zeichnung: Es wurde nichts daraus übernommen.</translation>
-    </message>
-    <message>
-        <source>Copy its content into a drawing.</source>
-        <translation>Kopieren Sie seinen Inhalt in eine Zeichnung.</translation>
-    </message>
-    <message>
-        <source>Something was left out, because it is larger than anything on a real label.</source>
-        <translation>Etwas wurde weggelassen, weil es größer ist als alles auf einem echten Etikett.</translation>
-    </message>
-    <message>
-        <source>Make the label smaller, or its pictures.</source>
-        <translation>Verkleinern Sie das Etikett oder seine Bilder.</translation>
-    </message>
-    <message>
-        <source>Objects of the file are not on the label, and the import has not said why.</source>
-        <translation>Objekte der Datei sind nicht auf dem Etikett, und der Import hat nicht gesagt, warum.</translation>
-    </message>
-    <message>
-        <source>Compare with the old label, and tell the makers of this program.</source>
-        <translation>Vergleichen Sie mit dem alten Etikett und sagen Sie es denen, die dieses Programm machen.</translation>
-    </message>
-    <message>
-        <source>The import had more to say than was kept: there may be losses that are not listed.</source>
-        <translation>Der Import hatte mehr zu sagen, als behalten wurde: Es kann Verluste geben, die nicht aufgeführt sind.</translation>
-    </message>
-    <message>
-        <source>Import this file alone and look at the label.</source>
-        <translation>Importieren Sie diese Datei allein und sehen Sie sich das Etikett an.</translation>
-    </message>
-    <message>
-        <source>Choose the nearest shape after the import, or put them in as a symbol.</source>
-        <translation>Wählen Sie nach dem Import die ähnlichste Form oder setzen Sie sie als Symbol ein.</translation>
-    </message>
-    <message>
-        <source>Items are no longer bound to their data source: they show what was last in them.</source>
-        <translation>Objekte sind nicht mehr mit ihrer Datenquelle verbunden: Sie zeigen, was zuletzt darin stand.</translation>
-    </message>
-    <message>
-        <source>Bind them to a data source after the import.</source>
-        <translation>Verbinden Sie sie nach dem Import mit einer Datenquelle.</translation>
-    </message>
-    <message>
-        <source>The label was linked to a database file, and is no longer.</source>
-        <translation>Das Etikett war mit einer Datenbankdatei verknüpft und ist es nicht mehr.</translation>
-    </message>
-    <message>
-        <source>Connect the data after the import.</source>
-        <translation>Verbinden Sie die Daten nach dem Import.</translation>
-    </message>
-    <message>
-        <source>Texts with a placeholder among other words are bound to a data source: they show its value alone.</source>
-        <translation>Texte mit einem Platzhalter zwischen anderen Wörtern sind mit einer Datenquelle verbunden: Sie zeigen nur deren Wert.</translation>
-    </message>
-    <message>
-        <source>Put the other words into texts of their own, or into the data source.</source>
-        <translation>Setzen Sie die anderen Wörter in eigene Texte oder in die Datenquelle.</translation>
-    </message>
-    <message>
-        <source>Barcodes cannot be drawn: their type does not allow their content.</source>
-        <translation>Barcodes lassen sich nicht zeichnen: Ihr Typ erlaubt ihren Inhalt nicht.</translation>
-    </message>
-    <message>
-        <source>Correct the content or choose another type.</source>
-        <translation>Berichtigen Sie den Inhalt oder wählen Sie einen anderen Typ.</translation>
-    </message>
-    <message>
-        <source>Barcodes of a type without a known counterpart became Code 39.</source>
-        <translation>Barcodes eines Typs ohne bekanntes Gegenstück wurden zu Code 39.</translation>
-    </message>
-    <message>
-        <source>Scan the old label and choose the right type.</source>
-        <translation>Scannen Sie das alte Etikett und wählen Sie den richtigen Typ.</translation>
-    </message>
-    <message>
-        <source>Items lie wholly outside the page: they are not printed.</source>
-        <translation>Objekte liegen ganz außerhalb der Seite: Sie werden nicht gedruckt.</translation>
-    </message>
-    <message>
-        <source>Move them onto the page, or delete them.</source>
-        <translation>Verschieben Sie sie auf die Seite oder löschen Sie sie.</translation>
-    </message>
-    <message>
-        <source>Items reach beyond the edge of the page: that part is not printed.</source>
-        <translation>Objekte ragen über den Rand der Seite: Dieser Teil wird nicht gedruckt.</translation>
-    </message>
-    <message>
-        <source>Compare with the old label.</source>
-        <translation>Vergleichen Sie mit dem alten Etikett.</translation>
-    </message>
-    <message>
-        <source>Sizes, positions or fonts are larger than anything on a real label, and were limited.</source>
-        <translation>Größen, Positionen oder Schriften sind größer als alles auf einem echten Etikett und wurden begrenzt.</translation>
-    </message>
-    <message>
-        <source>The document measures in millimetres: the label is ten times larger than the paper.</source>
-        <translation>Das Dokument misst in Millimetern: Das Etikett ist zehnmal so groß wie das Papier.</translation>
-    </message>
-    <message>
-        <source>Print at a tenth of the size, or save the document with centimetres or inches as its unit.</source>
-        <translation>Drucken Sie in einem Zehntel der Größe oder speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
-    </message>
-    <message>
-        <source>Lengths are not in the unit of the page: they were read as if they were.</source>
-        <translation>Längen sind nicht in der Einheit der Seite: Sie wurden gelesen, als wären sie es.</translation>
-    </message>
-    <message>
-        <source>Save the document with one unit throughout.</source>
-        <translation>Speichern Sie das Dokument durchgehend mit einer Einheit.</translation>
-    </message>
-    <message>
-        <source>Set the size of the page after the import.</source>
-        <translation>Stellen Sie die Seitengröße nach dem Import ein.</translation>
-    </message>
-    <message>
-        <source>Objects without a position on the page were put where the text runs, or into the corner.</source>
-        <translation>Objekte ohne Position auf der Seite kamen dorthin, wo der Text verläuft, oder in die Ecke.</translation>
-    </message>
-    <message>
-        <source>Turned lines and slanted or scaled objects lost that.</source>
-        <translation>Gedrehte Linien und geneigte oder skalierte Objekte haben das verloren.</translation>
-    </message>
-    <message>
-        <source>Fonts that are not on this machine were replaced.</source>
-        <translation>Schriften, die es auf diesem Rechner nicht gibt, wurden ersetzt.</translation>
-    </message>
-    <message>
-        <source>Install the fonts and import again, if the looks matter.</source>
-        <translation>Installieren Sie die Schriften und importieren Sie noch einmal, wenn es auf das Aussehen ankommt.</translation>
-    </message>
-    <message>
-        <source>Stretched texts are not stretched any more.</source>
-        <translation>Gestreckte Texte sind nicht mehr gestreckt.</translation>
-    </message>
-    <message>
-        <source>Choose a font size that fits.</source>
-        <translation>Wählen Sie eine passende Schriftgröße.</translation>
-    </message>
-    <message>
-        <source>Colored texts lost their color.</source>
-        <translation>Farbige Texte haben ihre Farbe verloren.</translation>
-    </message>
-    <message>
-        <source>Set the color after the import.</source>
-        <translation>Stellen Sie die Farbe nach dem Import ein.</translation>
-    </message>
-    <message>
-        <source>Line breaks, tabs or repeated spaces in texts were dropped.</source>
-        <translation>Zeilenumbrüche, Tabulatoren oder mehrfache Leerzeichen in Texten fielen weg.</translation>
-    </message>
-    <message>
-        <source>Split such a text into paragraphs.</source>
-        <translation>Teilen Sie einen solchen Text in Absätze auf.</translation>
-    </message>
-    <message>
-        <source>Formats of characters and paragraphs, such as superscript or line spacing, were dropped.</source>
-        <translation>Formate von Zeichen und Absätzen, etwa Hochstellung oder Zeilenabstand, fielen weg.</translation>
-    </message>
-    <message>
-        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
-        <translation>Verläufe, Schraffuren und Bilder, die Objekte füllen, wurden vereinfacht.</translation>
-    </message>
-    <message>
-        <source>Choose a fill after the import.</source>
-        <translation>Wählen Sie nach dem Import eine Füllung.</translation>
-    </message>
-    <message>
-        <source>Shadows, transparency, cropping and other effects were dropped.</source>
-        <translation>Schatten, Transparenz, Zuschnitt und andere Effekte fielen weg.</translation>
-    </message>
-    <message>
-        <source>The import has something to say about this label.</source>
-        <translation>Der Import hat zu diesem Etikett etwas zu sagen.</translation>
-    </message>
-    <message>
-        <source>Read it, and compare with the old label.</source>
-        <translation>Lesen Sie es und vergleichen Sie mit dem alten Etikett.</translation>
-    </message>
-    <message>
-        <source>Shapes that have no counterpart became rectangles or ellipses.</source>
-        <translation>Formen ohne Gegenstück wurden zu Rechtecken oder Ellipsen.</translation>
-    </message>
-    <message>
-        <source>Fields, such as date, time and page number, became plain text: they show what they showed when the document was saved.</source>
-        <translation>Felder wie Datum, Uhrzeit und Seitenzahl wurden zu einfachem Text: Sie zeigen, was sie beim Speichern des Dokuments zeigten.</translation>
-    </message>
-    <message>
-        <source>The page is measured in a unit that is not known: its numbers were read as inches.</source>
-        <translation>Die Seite ist in einer unbekannten Einheit gemessen: Ihre Zahlen wurden als Zoll gelesen.</translation>
-    </message>
-    <message>
-        <source>Save the document with centimetres or inches as its unit.</source>
-        <translation>Speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
-    </message>
-    <message>
-        <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
-        <translation>Die Seitengröße ist nicht die der Datei: Sie nennt keine, oder die einer anderen Seite stand zuerst.</translation>
-    </message>
-    <message>
-        <source>The margins of the page were dropped: the text begins in its corner.</source>
-        <translation>Die Seitenränder sind weggefallen: Der Text beginnt in der Ecke der Seite.</translation>
-    </message>
-    <message>
-        <source>Move the texts after the import.</source>
-        <translation>Die Texte nach dem Import verschieben.</translation>
-    </message>
-    <message>
-        <source>Page breaks were dropped: all text runs down one page.</source>
-        <translation>Seitenumbrüche sind weggefallen: Der ganze Text läuft auf einer Seite weiter.</translation>
-    </message>
-</context>
-<context>
-    <name>migration::MergeReports</name>
-    <message>
-        <source>The report %1 has an entry that describes no file.</source>
-        <translation>Der Bericht %1 hat einen Eintrag, der keine Datei beschreibt.</translation>
-    </message>
-    <message>
-        <source>The file %1 stands in the reports more than once.</source>
-        <translation>Die Datei %1 steht mehr als einmal in den Berichten.</translation>
-    </message>
-    <message>
-        <source>The report %1 has changed meanwhile.</source>
-        <translation>Der Bericht %1 hat sich inzwischen geändert.</translation>
-    </message>
-</context>
-<context>
-    <name>migration::ReportReader</name>
-    <message>
-        <source>The report %1 cannot be read: %2.</source>
-        <translation>Der Bericht %1 kann nicht gelesen werden: %2.</translation>
-    </message>
-    <message>
-        <source>%1 is no report of LabelPort: %2.</source>
-        <translation>%1 ist kein Bericht von LabelPort: %2.</translation>
-    </message>
-    <message>
-        <source>it does not begin as one</source>
-        <translation>er beginnt nicht wie einer</translation>
-    </message>
-    <message>
-        <source>its list of files is damaged</source>
-        <translation>seine Liste von Dateien ist beschädigt</translation>
-    </message>
-    <message>
-        <source>it has no list of files, or is of a version that is not known</source>
-        <translation>er hat keine Liste von Dateien oder ist von einer Version, die nicht bekannt ist</translation>
-    </message>
-    <message>
-        <source>it does not name its format</source>
-        <translation>er nennt sein Format nicht</translation>
-    </message>
-</context>
-<context>
-    <name>migration::ReportWriter</name>
-    <message>
-        <source>The report %1 cannot be written: %2.</source>
-        <translation>Der Bericht %1 kann nicht geschrieben werden: %2.</translation>
-    </message>
-</context>
-<context>
-    <name>migration::Summary</name>
-    <message>
-        <source>%1 objects came over; how many the file holds is not known.</source>
-        <translation>%1 Objekte wurden übernommen; wie viele die Datei enthält, ist nicht bekannt.</translation>
-    </message>
-    <message>
-        <source>%1 of %2 objects came over.</source>
-        <translation>%1 von %2 Objekten wurden übernommen.</translation>
-    </message>
-    <message>
-        <source>Not imported: %1</source>
-        <translation>Nicht importiert: %1</translation>
-    </message>
-    <message>
-        <source>Nothing was lost and nothing was changed.</source>
-        <translation>Nichts ging verloren und nichts wurde verändert.</translation>
-    </message>
-    <message>
-        <source>Nothing was lost; something was changed.</source>
-        <translation>Nichts ging verloren; etwas wurde verändert.</translation>
-    </message>
-</context>
-<context>
-    <name>trace</name>
-    <message>
-        <source>Usage: labelport-trace FILE (see labelport-trace --help)</source>
-        <translation>Aufruf: labelport-trace DATEI (siehe labelport-trace --help)</translation>
-    </message>
-    <message>
-        <source>it is a folder</source>
-        <translation>das ist ein Ordner</translation>
-    </message>
-    <message>
-        <source>%1 was not imported; the trace tells how far it came</source>
-        <translation>%1 wurde nicht importiert; die Spur zeigt, wie weit es kam</translation>
-    </message>
-    <message>
-        <source>cannot read %1: %2</source>
-        <translation>%1 ist nicht lesbar: %2</translation>
-    </message>
-    <message>
-        <source>cannot write to standard output</source>
-        <translation>auf die Standardausgabe kann nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>cannot write the trace: %1</source>
-        <translation>die Spur kann nicht geschrieben werden: %1</translation>
-    </message>
-    <message>
-        <source>Imports a legacy label into a host that records, and prints every call on it
-as JSON Lines, then what has become of the items.
-
-Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
-        <translation>Importiert ein altes Etikett in ein Gastprogramm, das mitschreibt, und gibt jeden Aufruf
-als JSON-Zeile aus, danach, was aus den Objekten wurde.
-
-Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
-    </message>
-    <message>
-        <source>The label to import.</source>
-        <translation>Das Etikett, das importiert werden soll.</translation>
-    </message>
-    <message>
-        <source>no file given</source>
-        <translation>keine Datei angegeben</translation>
-    </message>
-    <message>
-        <source>one file at a time, please</source>
-        <translation>bitte nur eine Datei auf einmal</translation>
+        <source>Cannot write &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3193,123 +3211,52 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
 <context>
     <name>workbench::FailureWords</name>
     <message>
-        <source>The file is no binary label, or one of a version that cannot be read: it says version %1, but 2000016 is the oldest that can.</source>
-        <translation>Die Datei ist kein binäres Etikett oder eines in einer nicht lesbaren Version: Sie nennt Version %1, aber 2000016 ist die älteste lesbare.</translation>
+        <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file cannot be opened.</source>
-        <translation>Die Datei kann nicht geöffnet werden.</translation>
+        <source>Not a label, or a damaged one: the first object has the unknown type %1.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is too large for a label: %1.</source>
-        <translation>Die Datei ist zu groß für ein Etikett: %1.</translation>
+        <source>Cannot open the file.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document is damaged: its part %1 is not well-formed at line %2, column %3 (%4).</source>
-        <translation>Das Dokument ist beschädigt: Sein Teil %1 ist in Zeile %2, Spalte %3 nicht wohlgeformt (%4).</translation>
+        <source>The document is damaged: %1 is not well-formed at line %2, column %3 (%4).</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is no label or a damaged one: it is not well-formed XML at line %1, column %2 (%3).</source>
-        <translation>Die Datei ist kein Etikett oder ein beschädigtes: Sie ist in Zeile %1, Spalte %2 kein wohlgeformtes XML (%3).</translation>
+        <source>Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 (%4).</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is XML, but not a label: its outermost element is not &quot;qmtx&quot;.</source>
-        <translation>Die Datei ist XML, aber kein Etikett: Ihr äußerstes Element ist nicht „qmtx“.</translation>
+        <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is no label, or a damaged one: its first item is of an unknown kind (%1).</source>
-        <translation>Die Datei ist kein Etikett oder ein beschädigtes: Ihr erstes Objekt ist von unbekannter Art (%1).</translation>
+        <source>Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is no OpenDocument file, or a damaged one: it has no readable part styles.xml.</source>
-        <translation>Die Datei ist keine OpenDocument-Datei oder eine beschädigte: Sie hat keinen lesbaren Teil styles.xml.</translation>
+        <source>The OpenDocument file is damaged: content.xml is missing or unreadable.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The OpenDocument file is damaged: it has no readable part content.xml.</source>
-        <translation>Die OpenDocument-Datei ist beschädigt: Sie hat keinen lesbaren Teil content.xml.</translation>
+        <source>This is not a regular file.</source>
+        <translation type="unfinished">Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
-        <source>The file holds nothing that can be put on a label.</source>
-        <translation>Die Datei enthält nichts, was auf ein Etikett gebracht werden kann.</translation>
-    </message>
-</context>
-<context>
-    <name>fields::FieldProblem</name>
-    <message>
-        <source>%1 is missing</source>
-        <translation>%1 fehlt</translation>
+        <source>The file is too large for a label.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is not %2</source>
-        <translation>%1 muss %2 sein</translation>
+        <source>The file has too many objects for a label.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is longer than %2</source>
-        <translation>%1 ist länger als %2</translation>
-    </message>
-    <message>
-        <source>a group of fields</source>
-        <translation>eine Gruppe von Feldern</translation>
-    </message>
-    <message>
-        <source>a list</source>
-        <translation>eine Liste</translation>
-    </message>
-    <message>
-        <source>true or false</source>
-        <translation>true oder false</translation>
-    </message>
-    <message>
-        <source>a whole number in range</source>
-        <translation>eine ganze Zahl im zulässigen Bereich</translation>
-    </message>
-    <message>
-        <source>a number</source>
-        <translation>eine Zahl</translation>
-    </message>
-    <message>
-        <source>a number or null</source>
-        <translation>eine Zahl oder null</translation>
-    </message>
-    <message>
-        <source>a text</source>
-        <translation>ein Text</translation>
-    </message>
-    <message>
-        <source>a list of texts</source>
-        <translation>eine Liste von Texten</translation>
-    </message>
-    <message>
-        <source>a color</source>
-        <translation>eine Farbe</translation>
-    </message>
-    <message>
-        <source>a width and a height</source>
-        <translation>eine Breite und eine Höhe</translation>
-    </message>
-    <message>
-        <source>a point</source>
-        <translation>ein Punkt</translation>
-    </message>
-    <message>
-        <source>data</source>
-        <translation>Daten</translation>
-    </message>
-    <message>
-        <source>an alignment</source>
-        <translation>eine Ausrichtung</translation>
-    </message>
-    <message>
-        <source>a known type of item</source>
-        <translation>eine bekannte Art von Objekt</translation>
-    </message>
-    <message>
-        <source>a set of properties</source>
-        <translation>ein Satz von Eigenschaften</translation>
-    </message>
-    <message>
-        <source>a picture</source>
-        <translation>ein Bild</translation>
+        <source>The file contains nothing to put on a label.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3339,31 +3286,91 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Die Datei ist leer.</translation>
     </message>
     <message>
-        <source>The file is a zip package, as OpenDocument files are, but by its name it is a binary label. If it is an OpenDocument file, rename it so that its only dot is that of &quot;.odt&quot; or &quot;.odg&quot;.</source>
-        <translation>Die Datei ist ein Zip-Paket, wie OpenDocument-Dateien es sind, aber dem Namen nach ein binäres Etikett. Wenn sie eine OpenDocument-Datei ist, benennen Sie sie so um, dass ihr einziger Punkt der von „.odt“ oder „.odg“ ist.</translation>
+        <source>The link points to a file that does not exist.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is XML, but by its name it is a binary label. If it is an XML label, rename it so that its only dot is that of &quot;.qmtx&quot;.</source>
-        <translation>Die Datei ist XML, aber dem Namen nach ein binäres Etikett. Wenn sie ein XML-Etikett ist, benennen Sie sie so um, dass ihr einziger Punkt der von „.qmtx“ ist.</translation>
+        <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Open it in an office program, save it without a password, and import it again.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>workbench::IssueWords</name>
     <message>
-        <source>An object of the kind &quot;%1&quot; was left out: the kind is not known.</source>
-        <translation>Ein Objekt der Art „%1“ wurde weggelassen: Die Art ist nicht bekannt.</translation>
+        <source>Left out an object of the unknown type &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Left out of the label: %1</source>
-        <translation>Auf dem Etikett weggelassen: %1</translation>
+        <source>The document is neither a text nor a drawing; nothing was imported from it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
-        <translation>Das Dokument ist weder ein Text noch eine Zeichnung: Es wurde nichts daraus übernommen.</translation>
+        <source>The file continues with an object of the unknown type %1; the rest was not read.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file goes on with a record of an unknown kind (%1): nothing was read from there on.</source>
-        <translation>Die Datei geht mit einem Eintrag unbekannter Art weiter (%1): Von da an wurde nichts gelesen.</translation>
+        <source>Left out symbols: neither the file nor the symbol databases contain their drawings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out barcodes of unsupported types.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database is no longer connected; the label shows its last values.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out an object that the program could not create.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a data source that the program could not create.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a picture that is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a picture of an unsupported format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a picture that is damaged or too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a text that is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has too many objects; the rest was not read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further texts were stretched; they are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file in the package is missing, damaged or too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a drawing that cannot be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3476,6 +3483,73 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ShapeKinds</name>
+    <message>
+        <source>Picture</source>
+        <translation type="unfinished">Bild</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation type="unfinished">Symbol</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished">Text</translation>
+    </message>
+    <message>
+        <source>Formatted text</source>
+        <translation type="unfinished">Formatierter Text</translation>
+    </message>
+    <message>
+        <source>Barcode</source>
+        <translation type="unfinished">Barcode</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished">Linie</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation type="unfinished">Rechteck</translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation type="unfinished">Abgerundetes Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation type="unfinished">Ellipse</translation>
+    </message>
+    <message>
+        <source>Pie</source>
+        <translation type="unfinished">Kreissektor</translation>
+    </message>
+    <message>
+        <source>Right triangle</source>
+        <translation type="unfinished">Rechtwinkliges Dreieck</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation type="unfinished">Dreieck</translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation type="unfinished">Raute</translation>
+    </message>
+    <message>
+        <source>Pentagon</source>
+        <translation type="unfinished">Fünfeck</translation>
+    </message>
+    <message>
+        <source>Hexagon</source>
+        <translation type="unfinished">Sechseck</translation>
+    </message>
+    <message>
+        <source>Octagon</source>
+        <translation type="unfinished">Achteck</translation>
     </message>
 </context>
 <context>

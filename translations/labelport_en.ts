@@ -62,4 +62,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>window::Main</name>
+    <message numerus="yes">
+        <source>A window shows one label, but %n files were given.</source>
+        <translation>
+            <numerusform>A window shows one label, but %n files were given.</numerusform>
+            <numerusform>A window shows one label, but %n files were given.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>QDomParser</name>
+    <message>
+        <source>Unexpected token</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple DTD sections are not allowed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Import Label</source>
@@ -86,13 +97,6 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
 </context>
 <context>
-    <name>archive::InputList</name>
-    <message>
-        <source>The list of files is no list of file names.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>archive::Journal</name>
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
@@ -121,82 +125,98 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 exists and was not made by labelport, or may have been changed since; it is left as it is (--force overwrites it)</source>
+        <source>a folder of that name exists</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>its folder cannot be made</source>
+        <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
-        <source>another of the given files has the same name, so both would become %1; import them into different folders with --output-dir</source>
+        <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The journal in the output folder cannot be written, so --resume will do some files again.</source>
+        <source>Cannot write the journal in the output folder; --resume will import some files again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The processes that import files cannot be started, or end at once. A larger --memory-limit may help.</source>
+        <source>Cannot start the worker processes, or they exit at once. Try a larger --memory-limit.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>archive::StagingArea</name>
     <message>
-        <source>Nothing can be written to the folder %1.</source>
+        <source>Cannot write to &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The folder %1 cannot be made.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>archive::WorkerDeath</name>
-    <message>
-        <source>the file needed more than %1 MiB of memory (--memory-limit)</source>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the file took more than %1 seconds without getting on (--timeout)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>its import was killed twice, perhaps because the machine had no memory left</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>its import crashed twice (%1); please report the file</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>its import ended in disorder, twice; please report the file</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>its import ended twice by itself (status %1); please report the file</source>
+        <source>a file of that name exists</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::ArchiveReports</name>
+    <name>archive::WorkerEnd</name>
     <message>
-        <source>The report %1 cannot be written.</source>
+        <source>The file needs more than %1 MiB of memory; see --memory-limit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The file made no progress for %n second(s); see --timeout.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The worker process was killed twice; perhaps the machine is out of memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import crashed twice (%1). If a larger --memory-limit does not help, please report the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The worker process sent an invalid reply twice; please report the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The worker process exited twice with status %1; please report the file.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::CommandLine</name>
+    <name>cli::ExistingOutput</name>
     <message>
-        <source>Show this text.</source>
+        <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1 --help&quot; tells more.</source>
+        <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; does not exist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; is not writable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -220,10 +240,6 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
     <message>
         <source>OpenDocument texts and drawings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>all, as packages</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -263,62 +279,232 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tells which files are read, in which versions, and what can be written.
-
-Examples:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
+        <source>all versions (zipped)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tell it as JSON.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It takes no files.</source>
+        <source>formats takes no files.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::ImportCommand</name>
     <message>
-        <source>The folder %1 cannot be searched.</source>
+        <source>Stopped. Repeat the command with --resume to continue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) imported incompletely.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot search folder &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Stopped. The same command with --resume goes on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no label to import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&quot;labelport import --help&quot; tells more.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of %2 files did not come over whole.</source>
+        <source>No labels to import.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::ImportInputs</name>
     <message>
-        <source>Standard input cannot be kept for the import: %1.</source>
+        <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is longer than any label</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The list of files %1 cannot be read: %2.</source>
+        <source>&quot;%1&quot; is not a list of file names.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>cli::ImportOptions</name>
+    <message>
+        <source>Standard input can be a label or a list of files, but not both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--memory-limit expects 0 or at least %1 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file to import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--files-from can be given only once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--null has no effect without --files-from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--base has no effect without --files-from or a named file in a subfolder of that folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportReporter</name>
+    <message>
+        <source>Warning: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) imported.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) had been imported before.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Ignored %n other file(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) failed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>cli::ImportWorker</name>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::InspectCommand</name>
+    <message>
+        <source>Cannot start the worker process.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>inspect needs exactly one file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::JobOptions</name>
+    <message>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::LabelWriter</name>
+    <message numerus="yes">
+        <source>The label has only %n record(s); record %1 does not exist.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 records are more than the %2 that one command writes; select a range with --records.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::Main</name>
+    <message>
+        <source>Usage: labelport COMMAND [ARGUMENT...]
+
+Imports legacy label templates (*.cnv and *.roc, *.qmtx, *.odt and *.odg) and opens labels saved by
+LabelPort (*.label). Help of a command: labelport COMMAND --help
+
+Commands:
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  --help           show this help
+  --version        show the version
+
+Examples:
+  labelport import shelf.odg
+  labelport import archive --to png,label --output-dir new --report report.html
+  labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
+  labelport trace shelf.odg
+
+Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
+(import --fail-on-loss), 130 stopped by a signal.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No command given. See &quot;labelport --help&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown command &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::Options</name>
+    <message>
+        <source>seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abort a file after this many seconds without progress; 0 for no limit (default: 60).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MiB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abort a file that uses more memory than this; 0 for no limit (default: 4096).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read files as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever their names. Default: by the suffix, or else by the content.</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>targets</source>
         <translation type="unfinished"></translation>
@@ -332,7 +518,7 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Folder to write to; made when it is missing (default: the current one). It gets the subfolders of a folder that is imported.</source>
+        <source>Folder to write to; created if missing (default: the current folder). Subfolders of an imported folder are kept.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -340,7 +526,7 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Dots per inch of pictures, 10 to 2400 (default: 300).</source>
+        <source>Resolution of pictures in dots per inch, 10 to 2400 (default: 300).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -348,31 +534,23 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Records of the label&apos;s data sources: a number, a range as 3-12 or 3-, or all (default: the first). A series of pictures is numbered; a PDF has a page for each.</source>
+        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page for each record.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Overwrite files that LabelPort did not make.</source>
+        <source>Overwrite files that labelport did not write, and edited labels.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>name</source>
+        <source>list</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Read every file as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever its name. Standard input needs it.</source>
+        <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>file</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import what a file lists as well, a name on each line or between NULs; - reads the list from standard input.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The list&apos;s names stand between NULs, as find -print0 writes them.</source>
+        <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -384,23 +562,7 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>seconds</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Give a file up that does not get on for so long; 0 waits for ever (default: 60).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>MiB</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Give a file up that needs more memory than so much; 0 sets no limit (default: 4096).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Leave out what an earlier command with the same options did, if neither the file nor its outputs have changed.</source>
+        <source>Skip files that an earlier command with the same options imported, if they and their outputs are unchanged.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -408,7 +570,11 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Import the K-th of N parts of the files, so that N machines can share an archive.</source>
+        <source>Import the K-th of N parts of the files, to share an archive among N machines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>file</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -416,53 +582,42 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>End with status 3 when a label did not come over whole.</source>
+        <source>Exit with status 3 if a label was not imported completely.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>On standard error, tell what failed and nothing else.</source>
+        <source>End each file name on standard output with NUL instead of a line break.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>--%1 takes a whole number from %2 to %3, not &quot;%4&quot;.</source>
+        <source>Report only errors on standard error.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is nothing that can be written; --to takes: %2.</source>
+        <source>Print JSON, as in reports.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>--records takes a number, a range as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
+        <source>Report to write, as .json or .html; may be given several times.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>--shard takes a part and their number, as 3/8, not &quot;%1&quot;.</source>
+        <source>Overwrite files that are not reports of labelport.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A report is written to a file whose name ends in .json or .html, not to &quot;%1&quot;.</source>
+        <source>Print JSON.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>--memory-limit takes 0 or at least %1 MiB.</source>
+        <source>Show the version.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No file to import was given.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Standard input can be a label or a list of files, but not both.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Standard input has no name, so --reader must say what it is: %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved ones (*.label),
-and writes what they show. A folder is searched with its subfolders for files of these
-names. What was written is listed on standard output, in the order of the files&apos; names.
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
+and writes them as pictures, drawings, documents or saved labels. A folder is searched with
+its subfolders for files with these suffixes. The files written are listed on standard
+output, in the order of the names of the inputs.
 
 Examples:
   labelport import shelf.odg
@@ -471,10 +626,45 @@ Examples:
   labelport import archive --output-dir new --to label --report report.html
   labelport import archive --output-dir new --to label --resume
   find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import - --reader opendocument
+  curl -s https://labels.example/shelf.odg | labelport import -
 
-Exit status: 0 everything was imported, 1 something failed, 2 wrong usage, 3 something
-was lost (with --fail-on-loss), 130 stopped by a signal.</source>
+Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
+imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what one label contains, and what of it is imported. Writes no files.
+
+Examples:
+  labelport inspect shelf.odg
+  labelport inspect - --reader orvanta &lt; shelf.xml
+  labelport inspect shelf.odg --json | jq .lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merges the JSON reports of several imports into the report that one import of all files
+would have written.
+
+Examples:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the formats that labelport reads, with their versions, and the formats that it writes.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
+Lines, then the final state of the items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>import labels, or folders of labels</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -482,52 +672,1044 @@ was lost (with --fail-on-loss), 130 stopped by a signal.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Show this text.</source>
+        <source>show what a label contains</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label to inspect; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>merge the reports of several imports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON reports to merge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list supported formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print every call that an import makes on its host</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label to import; - is standard input.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::ImportTeller</name>
+    <name>cli::ReportCommand</name>
     <message>
-        <source>warning: %1</source>
+        <source>No command given: labelport report merge REPORT.json... --to FILE</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 of %2 files were imported, %3 had been done before.</source>
+        <source>Unknown command &quot;report %1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 files were passed over: only names that end in %2 are taken from folders.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of %2 files failed.</source>
+        <source>Specify the reports to merge, and the output file with --to.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::ImportWorker</name>
+    <name>cli::TraceCommand</name>
     <message>
-        <source>%1 (%2 times)</source>
+        <source>Cannot run &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>cli::InspectCommand</name>
+    <name>console::CommandLine</name>
     <message>
-        <source>Tells what one label holds, what of it comes over and what does not. Writes nothing.
+        <source>Unknown option &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help: %1 --help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Did you mean &quot;%1&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>console::Output</name>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>console::StandardInput</name>
+    <message>
+        <source>Cannot copy standard input to a temporary file: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read standard input: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input is longer than any label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>fields::FieldProblem</name>
+    <message>
+        <source>%1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is longer than %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a group of fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number in range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number or null</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a width and a height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an alignment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a known type of item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a set of properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a known status</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Census</name>
+    <message>
+        <source>The file cannot be opened to count its objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is too large to count its objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The package has no readable part %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no list of items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is damaged, so its objects cannot be counted: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file continues with unknown data, which may contain more objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is truncated: it may have contained more objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not a binary label of a supported version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlCard</name>
+    <message>
+        <source>no picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data sources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported with changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::HtmlPage</name>
+    <message>
+        <source>with losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was lost or changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What can be done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>most problems first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>worst status first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort and filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reader</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Migration report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed in looks, nothing lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported %1 of %2 objects in these files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files whose objects could not be counted: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>most lost objects first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No matching files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 files imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Inspect</name>
+    <message>
+        <source>kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page: %1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data sources:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items (millimeters):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported completely:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported with changes:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not imported:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ItemLosses</name>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::LossKinds</name>
+    <message>
+        <source>Objects in groups were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects on the second and later pages were left out: a label has one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save each page as a document of its own and import those.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects of the page&apos;s background (its master page) were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy them from the master page to the page itself and import again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connectors between objects were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw them as plain lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curves, free polygons and polylines were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert them to a picture or to plain shapes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Callouts were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Three-dimensional objects were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert them to a picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Form controls were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects inside texts, text boxes or other objects were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Anchor them to the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and objects in tables were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put them into text boxes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts in lists were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and objects in sections or indexes were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the section and keep its content.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts and objects of the header or footer were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy them into the document itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts of hyperlinks were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the hyperlinks and keep their texts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields in texts, such as page numbers and names, were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Footnotes and endnotes were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put their texts into text boxes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comments were left out; they are not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Animations were left out; they are not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the file in its own program and save it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture boxes without a picture were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look for another copy of the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy its content into a drawing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes of a type without a known counterpart became Code 39.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colored texts lost their color.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line breaks, tabs or repeated spaces in texts were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formats of characters and paragraphs, such as superscript or line spacing, were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadows, transparency, cropping and other effects were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each callout with a text and a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each control with a text if it should be printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the label into a drawing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn bullets and numbering off, so that the list becomes plain paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace each field with its text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts of texts were left out because their type is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare the texts with the original label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts of shapes were left out because they do not begin with a plain paragraph.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change them to plain paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing, unless you need them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects were left out because their type is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw them as shapes that labels support.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Controls were left out because their type is unknown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has several lists of objects; all but the first were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the picture to the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the pictures as PNG in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vector drawings were left out because they cannot be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert the drawings to PNG in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbols were left out because neither the file nor the symbol databases contain their drawings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the label with the latest version of its own program, which stores the drawings, or add the symbols to the symbol databases.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes were left out because their type is not supported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change the barcode type in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file continues with an unknown record; the rest was not read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is damaged or of a newer version. Look for another copy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is neither a text nor a drawing; nothing was imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Content was left out because it exceeds the limits for labels.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reduce the number of objects or the size of the pictures.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects of the file are missing on the label, without a reported reason.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with the original label, and report the file as a bug.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log was cut: there may be losses that are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare with the original label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsupported shapes became rectangles or ellipses.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace them with supported shapes in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items are no longer bound to their data source: they show their last value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind the items to a data source in the new label editor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label is no longer linked to its database file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect the data in the new label editor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts with a placeholder among other words show only the value of the data source.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the other words into separate texts, or into the data source.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fields, such as date, time and page number, became plain text with the value that they had when the document was saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcodes cannot be drawn because their content is invalid for their type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct the content or the barcode type in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scan the original label to find the correct type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items are completely outside the page: they are not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the items onto the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items extend beyond the edge of the page: that part is not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sizes, positions or fonts exceed the limits for labels and were reduced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document uses millimeters: the label is ten times larger than the paper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print at a tenth of the size, or save the document with centimeters or inches as its unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths are not in the unit of the page, but were read as if they were.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the document with a single unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit of the page is unknown: its lengths were read as inches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the document with centimeters or inches as its unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page has another size than in the file, which defines no size or several.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the page size in the original file and import it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The margins of the page were dropped: the text begins in the corner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the texts in the new label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page breaks were dropped: all text is on one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation of lines, and skewing and scaling of objects, were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fonts that are not installed were replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install the fonts and import again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretched texts are no longer stretched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set a suitable font size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the color in the new label editor.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split the text into paragraphs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a plain fill in the original file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import reported a problem with this label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the warnings, and compare with the original label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::MergeReports</name>
+    <message>
+        <source>The reports contain the file &quot;%1&quot; more than once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report &quot;%1&quot; has changed during the merge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportLines</name>
+    <message>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 does not name the format, or an unsupported version of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 does not describe a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::ReportWriter</name>
+    <message>
+        <source>Cannot write the report &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Summary</name>
+    <message>
+        <source>Not imported: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects imported: %1 (the number of objects in the file is unknown).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imported %1 of %2 objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost; looks or content changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>migration::Totals</name>
+    <message>
+        <source>imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed in looks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>timed out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>trace</name>
+    <message>
+        <source>it is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
+Lines, then the final state of the items.
 
-Examples:
-  labelport inspect shelf.odg
-  labelport inspect shelf.odg --json | jq .lost</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Label to look into.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tell it as JSON, as reports have it.</source>
+Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -539,104 +1721,19 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the process that opens it cannot be started</source>
+        <source>Show the version.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>It takes one file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>cli::JobOptions</name>
-    <message>
-        <source>&quot;%1&quot; is no reader; --reader takes: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>cli::LabelWriter</name>
-    <message>
-        <source>it has only %1 records, none with the number %2</source>
+        <source>Label to import; - is standard input.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 records are more than the %2 that one command writes; name a part of them with --records</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>cli::Main</name>
-    <message>
-        <source>What is it to do? &quot;labelport --help&quot; tells.</source>
+        <source>trace needs exactly one file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no command; &quot;labelport --help&quot; tells what is.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Usage: labelport COMMAND [ARGUMENT...]
-
-Opens legacy label templates: *.cnv and *.roc, *.qmtx, *.odt and *.odg, and labels saved by
-LabelPort: *.label. Each command tells more with --help.
-
-Commands:
-  import FILE...   import labels, or folders of them, and write what they show
-  inspect FILE     tell what a label holds, and what of it comes over
-  report merge     put the reports of several imports together
-  formats          tell what is read and what can be written
-  trace FILE       print every call that an import makes on its host, as JSON lines
-
-  --help           show this text
-  --version        show the version
-
-Examples:
-  labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new --report report.html
-  labelport import asset.label --to pdf --records all
-  labelport inspect shelf.odg
-  labelport trace shelf.odg
-
-Exit status: 0 all went well, 1 something failed, 2 wrong usage, 3 something was lost
-(import --fail-on-loss), 130 stopped by a signal.
-</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>cli::ReportCommand</name>
-    <message>
-        <source>Makes one report of the JSON reports of several commands, as one command over all
-files would have written it.
-
-Examples:
-  labelport report merge part-1.json part-2.json --to all.html
-  labelport report merge part-*.json --to all.json --to all.html</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What to do: put reports together.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report that an import wrote as JSON.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report to write, as .json or .html; may be given several times.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reports can be put together: &quot;report merge&quot;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It takes the reports to put together, and --to says where the whole goes.</source>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -963,6 +2060,13 @@ Examples:
     </message>
 </context>
 <context>
+    <name>window::DialogImport</name>
+    <message>
+        <source>There is not enough memory for this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>window::ExportDialog</name>
     <message>
         <source>SVG drawings (*.svg)</source>
@@ -1050,13 +2154,6 @@ Examples:
     </message>
     <message>
         <source>“%1” exists already. Replace it?</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>window::DialogImport</name>
-    <message>
-        <source>There is not enough memory for this file.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1461,6 +2558,36 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
+    <name>window::Main</name>
+    <message>
+        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a picture of the window to a PNG file, and exits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>A window shows one label, but %n files were given.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>window::MainWindow</name>
     <message>
         <source>LabelPort Workbench</source>
@@ -1821,70 +2948,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
 <context>
     <name>window::StyleNames</name>
     <message>
-        <source>Picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Symbol</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formatted text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Barcode</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Rectangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Rounded rectangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ellipse</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pie</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Right triangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Triangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Diamond</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pentagon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Hexagon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Octagon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>none</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2084,1000 +3147,9 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>main</name>
+    <name>window::WindowPicture</name>
     <message>
-        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Writes a picture of the window as PNG as soon as it is there, and ends.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a window holds one label, but %1 were named</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>cannot write “%1”</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::Census</name>
-    <message>
-        <source>The file cannot be opened to count its objects.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is too large to count its objects.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The package has no readable part %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file has no list of items.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file goes on with something unknown, which may hold more.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file ends in the middle of a record: it may have held more.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is no binary label of a known version.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is damaged, so its objects cannot be counted: %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::HtmlCard</name>
-    <message>
-        <source>no picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The label %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>whole</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>with losses</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>crashed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>took too long</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>needed too much memory</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>failed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 × %2 mm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Came over whole</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Data sources</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What the import said</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Written</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Did not come over</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Came over changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::HtmlPage</name>
-    <message>
-        <source>%1 of %2 files came over whole.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>whole: nothing lost, nothing changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>changed in their looks, nothing lost</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>with losses</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>not imported</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Of %1 objects in these files, %2 came over.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>In %1 files the objects could not be counted.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing was lost and nothing was changed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What was lost or changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Code</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What happened</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What can be done</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>whole</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>imported</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>failed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>crashed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>took too long</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>needed too much memory</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>as imported</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>most problems first</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>most objects lost first</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>worst status first</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sort and filter</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Status</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Reader</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Order</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show all</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of %2 shown</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Migration report</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>en</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No file fits the search.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::Inspect</name>
-    <message>
-        <source>kind</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>x</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>y</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>width</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>height</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>source</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>content</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Items (millimetres):</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Page: %1 × %2 mm</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Data sources:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Came over whole:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Came over changed:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Did not come over:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>What the import said:</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::ItemLosses</name>
-    <message>
-        <source>unknown</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::KindNames</name>
-    <message>
-        <source>picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>symbol</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>formatted text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>barcode</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>line</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>rectangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>rounded rectangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>ellipse</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>pie</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>right triangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>triangle</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>diamond</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>pentagon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>hexagon</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>octagon</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::LossKinds</name>
-    <message>
-        <source>Objects in groups were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open the document in its own program, ungroup the objects, save, and import again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Objects on the second and later pages were left out: a label has one page.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save each page as a document of its own and import those.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Objects of the page&apos;s background (its master page) were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy them from the master page to the page itself and import again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Connectors between objects were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Draw them as plain lines.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Curves, free polygons and polylines were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Convert them to a picture or to plain shapes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Callouts were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Replace each by a text and a line.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Three-dimensional objects were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Convert them to a picture.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Form controls were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Replace each by a text, if it is to be printed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Objects inside texts, text boxes or other objects were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Anchor them to the page.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shapes of a text document were left out: only its texts, text boxes and pictures are taken.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Put the label into a drawing instead of a text document.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts and objects in tables were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Put them into text boxes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts in lists were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Turn the bullets or numbers off, so that the list becomes plain paragraphs.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts and objects in sections or indexes were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Remove the section and keep its content.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts and objects of the header or footer were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy them into the document itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts of hyperlinks were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Remove the hyperlinks and keep their texts.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fields in texts, such as page numbers and names, were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Replace each by its text, or by a data source after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Parts of texts were left out, because their kind is not known.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Compare the texts with the old label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts of shapes were left out: they do not begin with a plain paragraph.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Turn them into plain paragraphs.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Footnotes and endnotes were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Put their texts into text boxes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Comments were left out; they are not printed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing, unless somebody needs them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Animations were left out; they are not printed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Objects were left out, because their kind is not known.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Compare with the old label and draw them anew.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Objects were left out, because their kind of control is not known.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file lists objects more than once; all but the first list were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open the file in its own program and save it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture boxes without a picture were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>If a picture is missing, put it in after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pictures are missing: they are damaged, too large or of an unknown format.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save them as PNG and put them in after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Vector drawings are missing: they cannot be converted.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Convert them to PNG and put them in after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Symbols are missing: neither the file nor the symbol databases have a drawing of them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the label with the newest version of its own program, which stores the drawings, or add them to the symbol databases.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Barcodes were left out, because their type is not supported.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose another type, and put them in after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing was read from an unknown record on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is damaged or of a newer version: look for another copy.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file ends in the middle: its last object is incomplete, and more may be missing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Look for another copy of the file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy its content into a drawing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Something was left out, because it is larger than anything on a real label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Make the label smaller, or its pictures.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Objects of the file are not on the label, and the import has not said why.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Compare with the old label, and tell the makers of this program.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The import had more to say than was kept: there may be losses that are not listed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Import this file alone and look at the label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose the nearest shape after the import, or put them in as a symbol.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Items are no longer bound to their data source: they show what was last in them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bind them to a data source after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The label was linked to a database file, and is no longer.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Connect the data after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts with a placeholder among other words are bound to a data source: they show its value alone.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Put the other words into texts of their own, or into the data source.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Barcodes cannot be drawn: their type does not allow their content.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Correct the content or choose another type.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Barcodes of a type without a known counterpart became Code 39.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scan the old label and choose the right type.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Items lie wholly outside the page: they are not printed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move them onto the page, or delete them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Items reach beyond the edge of the page: that part is not printed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Compare with the old label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sizes, positions or fonts are larger than anything on a real label, and were limited.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The document measures in millimetres: the label is ten times larger than the paper.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print at a tenth of the size, or save the document with centimetres or inches as its unit.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Lengths are not in the unit of the page: they were read as if they were.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the document with one unit throughout.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the size of the page after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Objects without a position on the page were put where the text runs, or into the corner.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Turned lines and slanted or scaled objects lost that.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fonts that are not on this machine were replaced.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Install the fonts and import again, if the looks matter.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stretched texts are not stretched any more.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose a font size that fits.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Colored texts lost their color.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the color after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Line breaks, tabs or repeated spaces in texts were dropped.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Split such a text into paragraphs.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Formats of characters and paragraphs, such as superscript or line spacing, were dropped.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose a fill after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shadows, transparency, cropping and other effects were dropped.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The import has something to say about this label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Read it, and compare with the old label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shapes that have no counterpart became rectangles or ellipses.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fields, such as date, time and page number, became plain text: they show what they showed when the document was saved.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The page is measured in a unit that is not known: its numbers were read as inches.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the document with centimetres or inches as its unit.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The size of the page is not that of the file: it gives none, or that of another page came first.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The margins of the page were dropped: the text begins in its corner.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the texts after the import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Page breaks were dropped: all text runs down one page.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::MergeReports</name>
-    <message>
-        <source>The report %1 has an entry that describes no file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file %1 stands in the reports more than once.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The report %1 has changed meanwhile.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::ReportReader</name>
-    <message>
-        <source>The report %1 cannot be read: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no report of LabelPort: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it does not begin as one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>its list of files is damaged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it has no list of files, or is of a version that is not known</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it does not name its format</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::ReportWriter</name>
-    <message>
-        <source>The report %1 cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::Summary</name>
-    <message>
-        <source>%1 objects came over; how many the file holds is not known.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of %2 objects came over.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not imported: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing was lost and nothing was changed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing was lost; something was changed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>trace</name>
-    <message>
-        <source>Usage: labelport-trace FILE (see labelport-trace --help)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>it is a folder</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 was not imported; the trace tells how far it came</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>cannot read %1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>cannot write to standard output</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>cannot write the trace: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Imports a legacy label into a host that records, and prints every call on it
-as JSON Lines, then what has become of the items.
-
-Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The label to import.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no file given</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>one file at a time, please</source>
+        <source>Cannot write &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3135,122 +3207,51 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
 <context>
     <name>workbench::FailureWords</name>
     <message>
-        <source>The file is no binary label, or one of a version that cannot be read: it says version %1, but 2000016 is the oldest that can.</source>
+        <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file cannot be opened.</source>
+        <source>Not a label, or a damaged one: the first object has the unknown type %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is too large for a label: %1.</source>
+        <source>Cannot open the file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document is damaged: its part %1 is not well-formed at line %2, column %3 (%4).</source>
+        <source>The document is damaged: %1 is not well-formed at line %2, column %3 (%4).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is no label or a damaged one: it is not well-formed XML at line %1, column %2 (%3).</source>
+        <source>Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 (%4).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is XML, but not a label: its outermost element is not &quot;qmtx&quot;.</source>
+        <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is no label, or a damaged one: its first item is of an unknown kind (%1).</source>
+        <source>Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is no OpenDocument file, or a damaged one: it has no readable part styles.xml.</source>
+        <source>The OpenDocument file is damaged: content.xml is missing or unreadable.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The OpenDocument file is damaged: it has no readable part content.xml.</source>
+        <source>This is not a regular file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file holds nothing that can be put on a label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>fields::FieldProblem</name>
-    <message>
-        <source>%1 is missing</source>
+        <source>The file is too large for a label.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is not %2</source>
+        <source>The file has too many objects for a label.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is longer than %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a group of fields</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a list</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>true or false</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a whole number in range</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a number or null</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a list of texts</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a color</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a width and a height</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a point</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>data</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>an alignment</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a known type of item</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a set of properties</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a picture</source>
+        <source>The file contains nothing to put on a label.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3281,30 +3282,90 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is a zip package, as OpenDocument files are, but by its name it is a binary label. If it is an OpenDocument file, rename it so that its only dot is that of &quot;.odt&quot; or &quot;.odg&quot;.</source>
+        <source>The link points to a file that does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is XML, but by its name it is a binary label. If it is an XML label, rename it so that its only dot is that of &quot;.qmtx&quot;.</source>
+        <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is protected by a password. Open it in an office program, save it without a password, and import it again.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>workbench::IssueWords</name>
     <message>
-        <source>An object of the kind &quot;%1&quot; was left out: the kind is not known.</source>
+        <source>Left out an object of the unknown type &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Left out of the label: %1</source>
+        <source>The document is neither a text nor a drawing; nothing was imported from it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document is neither a text nor a drawing: nothing was taken from it.</source>
+        <source>The file continues with an object of the unknown type %1; the rest was not read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file goes on with a record of an unknown kind (%1): nothing was read from there on.</source>
+        <source>Left out symbols: neither the file nor the symbol databases contain their drawings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out barcodes of unsupported types.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The database is no longer connected; the label shows its last values.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out an object that the program could not create.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a data source that the program could not create.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a picture that is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a picture of an unsupported format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a picture that is damaged or too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a text that is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has too many objects; the rest was not read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further texts were stretched; they are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file in the package is missing, damaged or too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left out a drawing that cannot be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3417,6 +3478,73 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::ShapeKinds</name>
+    <message>
+        <source>Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formatted text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Barcode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pie</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right triangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pentagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexagon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Octagon</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
