@@ -16,7 +16,7 @@ TEST_F(OtherCommands, InspectTellsWhatALabelHolds)
     const Outcome outcome = labelport({u"inspect"_s, sample("orvanta/asset_tag.qmtx")});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
     EXPECT_TRUE(outcome.out.contains(u"asset_tag.qmtx"_s));
-    EXPECT_TRUE(outcome.out.contains(u"barcode"_s)) << qPrintable(outcome.out);
+    EXPECT_TRUE(outcome.out.contains(u"Barcode"_s)) << qPrintable(outcome.out);
 }
 
 TEST_F(OtherCommands, InspectTellsItAsJson)
