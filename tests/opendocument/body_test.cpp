@@ -1,4 +1,4 @@
-// Which elements of a body become items, and of which kind.
+// Which elements of a body become items, and of which type.
 
 #include "documents.h"
 #include "fake_host.h"

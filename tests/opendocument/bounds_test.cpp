@@ -1,4 +1,4 @@
-// Every bound of the package at its last good value and at the first bad one.
+// Every limit of the package with its largest accepted and first rejected value.
 
 #include "documents.h"
 #include "fake_host.h"
@@ -144,7 +144,7 @@ TEST_F(OpenDocumentBounds, LimitFontSizes)
 
 TEST_F(OpenDocumentBounds, LetNoPictureUnpackItsTexts)
 {
-    // Twenty such texts would take 160 megabytes before the picture is even measured.
+    // Twenty such texts would need 160 megabytes before the picture is even measured.
     QByteArray chunk("zTXtkey\0\0", 9);
     chunk += qCompress(QByteArray(7'900'000, 'a')).mid(4);
     QByteArray length(4, '\0');

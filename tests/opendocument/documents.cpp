@@ -11,7 +11,7 @@
 
 xmllimits::Element elementOf(const QByteArray& xml)
 {
-    // An element is only whole as long as its document is.
+    // Elements are valid only during the lifetime of their document.
     static std::list<xmllimits::ElementTree> documents;
     EXPECT_FALSE(documents.emplace_back().parse(xml)) << xml.toStdString();
     return documents.back().documentElement();

@@ -15,11 +15,11 @@
 /// A styles document.
 /// @param pageAttributes attributes of the page layout, empty for an inch document of
 ///                       612 by 792 points
-/// @param styles         what stands in its office:styles
+/// @param styles         content of its office:styles
 [[nodiscard]] QByteArray stylesXml(const QByteArray& pageAttributes = {},
                                    const QByteArray& styles = {});
 
-/// The content document of a drawing: `shapes` stand on its first page.
+/// The content document of a drawing: `shapes` are on its first page.
 [[nodiscard]] QByteArray drawingXml(const QByteArray& shapes, const QByteArray& styles = {});
 
 /// The content document of a text.
@@ -38,11 +38,11 @@ public:
     Package& add(const QString& name, const QByteArray& data);
     /// Stores the members uncompressed instead of deflated.
     Package& storeUncompressed();
-    /// Writes the package and gives its path.
+    /// Writes the package and returns its path.
     [[nodiscard]] QString write();
-    /// Writes these bytes in place of the package and gives the path.
+    /// Writes these bytes instead of the package and returns the path.
     [[nodiscard]] QString writeRaw(const QByteArray& bytes);
-    /// The package as it is written.
+    /// The package as it will be written.
     [[nodiscard]] QByteArray bytes();
 
 private:

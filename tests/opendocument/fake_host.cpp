@@ -47,7 +47,7 @@ QString shown(const QPointF& point)
     return shown(point.x()) + u' ' + shown(point.y());
 }
 
-/// What every item has.
+/// The common part of every item.
 template <class Base>
 class FakeItem : public Base
 {
@@ -95,7 +95,7 @@ private:
     QSizeF m_size{20, 10};
 };
 
-/// What everything with an outline has.
+/// The common part of every item with an outline.
 template <class Base>
 class FakeContoured : public FakeItem<Base>
 {
@@ -109,7 +109,7 @@ public:
     void setJoinStyle(int style) override { this->note("setJoinStyle", style); }
 };
 
-/// What everything with an inside has.
+/// The common part of every item with a fill.
 template <class Base>
 class FakeFillable : public FakeContoured<Base>
 {
@@ -141,7 +141,7 @@ public:
     void setLineEndMarker(int marker) override { note("setLineEndMarker", marker); }
 };
 
-/// A text that is ten points wide for each character, as far as it may be, and 12 high.
+/// A text 12 units high and ten units wide per character, up to its maximum width.
 class FakeRichText : public FakeFillable<RichTextItem>
 {
 public:

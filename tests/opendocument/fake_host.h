@@ -15,7 +15,7 @@
 
 class QGraphicsItem;
 
-/// A host that writes every call into one journal, as "item1.setPenWidth 3", and keeps the
+/// A host that records every call in one journal, as "item1.setPenWidth 3", and keeps the
 /// items. Numbers are written with at most six digits.
 class FakeHost : public TalCanvasModel, public ClassFactory
 {
@@ -37,27 +37,27 @@ public:
 
     [[nodiscard]] Item* create(KestTypes::ShapeType type) override;
 
-    /// Types that the factory refuses to make.
+    /// Types for which the factory returns null.
     QSet<int> refusedTypes;
-    /// Types that the factory gives a picture for, whatever they are.
+    /// Types for which the factory returns a picture.
     QSet<int> confusedTypes;
 
     /// All calls so far.
     [[nodiscard]] const QStringList& journal() const { return m_journal; }
     /// The calls on one item, without its name. Items are counted from 1.
     [[nodiscard]] QStringList callsOn(int item) const;
-    /// The argument of the last call of this name on an item; null when there was none.
+    /// The argument of the last call of this name on an item; null if there was none.
     [[nodiscard]] QString lastCall(int item, const QString& name) const;
-    /// Forgets the calls, not the items.
+    /// Clears the calls, not the items.
     void forgetCalls() { m_journal.clear(); }
 
-    /// An item that was made and is still there, counted from 1 over all that were made.
+    /// An item that still exists; numbers count all created items from 1.
     [[nodiscard]] QGraphicsItem* item(int number) const;
     [[nodiscard]] QString html(int number) const;
-    /// How many items the canvas took.
+    /// Number of items that were added to the canvas.
     [[nodiscard]] int importedCount() const { return int(m_canvas.size()); }
     [[nodiscard]] int createdCount() const { return m_created; }
-    /// The types that were asked for, by name, in order.
+    /// The names of the requested types, in order.
     [[nodiscard]] QStringList createdTypes() const { return m_types; }
 
     void note(const QString& call) { m_journal.append(call); }
@@ -72,8 +72,8 @@ private:
     int m_created = 0;
 };
 
-/// Numbers as the journal writes them.
+/// Numbers in the format of the journal.
 [[nodiscard]] QString shown(double number);
 
-/// What the host's services were called with, newest last; cleared by a new FakeHost.
+/// The calls to the host's services, newest last; cleared by a new FakeHost.
 [[nodiscard]] QStringList& serviceCalls();

@@ -1,4 +1,4 @@
-// The services that a host supplies, as small as they can be.
+// Minimal versions of the services that a host supplies.
 
 #include "fake_host.h"
 

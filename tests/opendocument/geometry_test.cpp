@@ -1,4 +1,4 @@
-// Where an element stands, how large it is, how it is turned and what it covers.
+// Position, size, rotation and order of an element.
 
 #include "documents.h"
 
@@ -91,7 +91,7 @@ TEST(Geometry, TransformIsScannedPartByPart)
         {"rotate (-3.14159265358979)", 180, {NotGiven, NotGiven}},
         {"scale (2) rotate (0)", 0, {NotGiven, NotGiven}},
         {"translate (1in 1in) rotate (0)", 0, {72, 72}},
-        // The last part is never a keyword, and no argument is taken for one.
+        // The last part is never a keyword, and an argument is never read as one.
         {"rotate", 500, {NotGiven, NotGiven}},
         {"translate", 500, {NotGiven, NotGiven}},
         {"rotate rotate (0)", 500, {NotGiven, NotGiven}},

@@ -1,5 +1,5 @@
-// Files that were made to do harm. Each must end in a failure that is told, or in a label,
-// and none may take long or much memory.
+// Malicious files. Each must end in a reported failure or in a label,
+// and none may take much time or memory.
 
 #include "documents.h"
 #include "fake_host.h"

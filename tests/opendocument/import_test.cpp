@@ -1,4 +1,4 @@
-// A whole import: the package, the page, what is logged, and what stays for the next file.
+// Complete imports: the package, the page, the log, and what is kept for the next file.
 
 #include "documents.h"
 #include "fake_host.h"
@@ -41,7 +41,7 @@ protected:
     OpenOfficeReader reader{&host, nullptr};
 };
 
-// What fails must leave the canvas as it was.
+// A failed import must leave the canvas unchanged.
 void expectFailure(FakeHost& host, OpenOfficeReader& reader, const QString& path,
                    const QString& message)
 {
@@ -136,7 +136,7 @@ TEST_F(Import, ReadsThePageInEachUnit)
     EXPECT_EQ(page("fo:page-width=\"21.59cm\" fo:page-height=\"27.94cm\""),
               u"612 792 false true"_s);
     EXPECT_EQ(page("fo:page-width=\"51pc\" fo:page-height=\"66pc\""), u"612 792 false true"_s);
-    // Ten times a millimetre's points and ten times more: old labels depend on it.
+    // Ten times the points of a millimeter, and ten times that: old labels depend on it.
     EXPECT_EQ(page("fo:page-width=\"215.9mm\" fo:page-height=\"279.4mm\""),
               u"61200 79200 false true"_s);
 }

@@ -1,7 +1,7 @@
-// Paragraphs of a text document: runs, their places, and how the flow moves on.
+// Paragraphs of a text document: runs, their positions, and how the flow advances.
 //
-// The fake host's runs are ten points wide for each character, at most as wide as they may
-// be, and 12 points high. The page is 612 points wide.
+// The fake host's runs are 12 points high and ten points wide per character, up to their
+// maximum width. The page is 612 points wide.
 
 #include "documents.h"
 #include "fake_host.h"
@@ -157,7 +157,7 @@ TEST_F(Paragraph, SpacesAndTabsMoveTheCursor)
 
 TEST_F(Paragraph, LineThatPassesThePageGoesOnBelow)
 {
-    const QByteArray wide(62, 'x'); // as wide as the page, which is not beyond it
+    const QByteArray wide(62, 'x'); // as wide as the page, which does not exceed it
     import("<text:p>" + wide +
            "<text:span>a</text:span><text:span>b</text:span></text:p>"
            "<text:p>next</text:p>");

@@ -1,4 +1,4 @@
-// Pictures of a package: read once, bounded, raster only.
+// Pictures of a package: read once, within limits, raster only.
 
 #include "tests/support/captured_log.h"
 

@@ -39,7 +39,7 @@ RichText richText(const QByteArray& paragraphs)
     return toRichText(elementOf("<shape>" + paragraphs + "</shape>"), {known, defaultStyle, 0.75});
 }
 
-// What stands between the tags of the body.
+// The content of the body element.
 QString body(const QByteArray& paragraphs)
 {
     const QString html = richText(paragraphs).html;

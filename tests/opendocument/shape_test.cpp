@@ -1,4 +1,4 @@
-// Shapes and lines on the canvas: which calls they make, in which order.
+// Shapes and lines on the canvas: their calls, and the order of these.
 
 #include "documents.h"
 #include "fake_host.h"
@@ -25,7 +25,7 @@ protected:
             properties + "/></style:style>";
         Package package(stylesXml(), drawingXml(shapes, style));
         ASSERT_TRUE(reader.importLabelFromFile(package.write()));
-        // What stands before and after the items is another test's business.
+        // Other tests check the calls before and after the items.
         calls = host.journal().sliced(1, host.journal().size() - 2);
     }
 

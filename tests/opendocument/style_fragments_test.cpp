@@ -1,4 +1,4 @@
-// The pieces of CSS that tell how one text style differs from another.
+// The fragments of CSS for the differences of one text style from another.
 
 #include "opendocument/style_fragments.h"
 

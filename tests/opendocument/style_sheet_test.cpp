@@ -1,4 +1,4 @@
-// How default, common and automatic styles build on one another.
+// How default, common and automatic styles inherit from each other.
 
 #include "documents.h"
 #include "fake_host.h"
@@ -43,7 +43,7 @@ protected:
         return host.lastCall(host.createdCount(), u"setFontPointSize"_s);
     }
 
-    // The fill colour of a rectangle with this style.
+    // The fill color of a rectangle with this style.
     QString fillOf(const QByteArray& style, const QByteArray& common,
                    const QByteArray& automatic = {})
     {

@@ -7,7 +7,7 @@ namespace {
 
 using DatasourceBuilding = ReaderFixture;
 
-/// What follows from the first call on the controller on.
+/// The calls from the first call to the controller on.
 QStringList bindingOf(const QStringList& calls)
 {
     const auto first = std::find_if(calls.begin(), calls.end(), [](const QString& call) {

@@ -26,7 +26,7 @@ QByteArray encodedAs(QStringConverter::Encoding encoding, const QString& text)
     return encoder(text);
 }
 
-/// Whether a document parses straight from a file that was opened as labels are.
+/// Whether a document parses directly from a file opened in text mode, as the reader does.
 bool parsesFromTextDevice(const QString& path)
 {
     QFile file(path);
@@ -224,8 +224,8 @@ TEST_F(Document, LineEndsOfWindowsAreLineFeeds)
 
 TEST_F(Document, TextModeTakesCarriageReturnsOutOfEveryEncoding)
 {
-    // In two-byte encodings this takes half of a character, and the rest no longer parses.
-    // Labels were always read so, straight from a device in text mode.
+    // In two-byte encodings this removes half of a character, and the rest no longer parses.
+    // Labels have always been read this way, directly from a device in text mode.
     const QString text = labelText(QStringLiteral("<?xml version=\"1.0\"?>\r\n"));
     for (const auto encoding : {QStringConverter::Utf8, QStringConverter::Utf16LE,
                                 QStringConverter::Utf16BE, QStringConverter::Utf32LE}) {

@@ -7,14 +7,14 @@
 
 #include <ostream>
 
-/// What tests of single elements need.
+/// Helpers for tests of single elements.
 namespace element_support {
 
-/// Keeps the document that an element belongs to.
+/// Owns the document of an element.
 class ParsedElement
 {
 public:
-    /// Parses XML text; the root element is what the test is about.
+    /// Parses XML text; the root element is the one under test.
     explicit ParsedElement(const char* xml) { m_document.setContent(QByteArray(xml)); }
     [[nodiscard]] QDomElement element() const { return m_document.documentElement(); }
 
@@ -22,7 +22,7 @@ private:
     QDomDocument m_document;
 };
 
-/// A host that knows Arial and Courier New.
+/// A host that has Arial and Courier New.
 inline bool knowsFamily(QString family)
 {
     return family == QLatin1String("Arial") || family == QLatin1String("Courier New");

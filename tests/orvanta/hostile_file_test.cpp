@@ -11,7 +11,7 @@ namespace {
 
 using HostileFile = ReaderFixture;
 
-/// A label with something of everything, to be damaged.
+/// A label with every kind of content, for the tests to damage.
 QByteArray wholeLabel()
 {
     return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
@@ -188,7 +188,7 @@ TEST_F(HostileFile, AFileThatIsTooLongIsNotRead)
 {
     QFile file(filePath());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.resize(orvanta::MaximumFileSize + 1)); // a hole: takes no room on the disk
+    ASSERT_TRUE(file.resize(orvanta::MaximumFileSize + 1)); // a sparse file: uses no disk space
     file.close();
     EXPECT_FALSE(reader->importLabelFromFile(filePath()));
     EXPECT_EQ(logText(), QStringLiteral("Error reading file: %1 is too large: it has more than "

@@ -1,4 +1,4 @@
-// Every limit of the XML reader at its last good value and at the first bad one.
+// Every limit of the XML reader with its largest accepted and first rejected value.
 
 #include "orvanta/document_limits.h"
 #include "orvanta/raster_picture.h"
@@ -17,7 +17,7 @@ QString refusalOfFileOf(qint64 bytes)
 {
     QTemporaryFile file;
     EXPECT_TRUE(file.open());
-    EXPECT_TRUE(file.resize(bytes)); // a hole, which takes no room
+    EXPECT_TRUE(file.resize(bytes)); // a sparse file, which uses no disk space
     const orvanta::FileContent content = orvanta::readWithinLimits(file);
     EXPECT_EQ(content.bytes.size(), content.refusal.isEmpty() ? bytes : 0);
     return content.refusal;
@@ -50,7 +50,7 @@ TEST(OrvantaLimits, CountObjects)
 TEST(OrvantaLimits, CountThePixelsOfAPicture)
 {
     static_assert(orvanta::MaximumPicturePixels == 8192 * 4096);
-    // None of the two has any pixels, and only the first is asked for them.
+    // Neither has pixel data; only the first is decoded as far as that.
     EXPECT_EQ(orvanta::decodeRasterPicture("P6 8192 4096 255 x", Plenty).refusal, QString());
     EXPECT_EQ(orvanta::decodeRasterPicture("P6 8192 4097 255 x", Plenty).refusal,
               QStringLiteral("a picture of 8192 by 4097 pixels is too large"));

@@ -70,9 +70,9 @@ TEST(PictureContent, SvgLosesWhatTheSerialiserAdded)
         {"<svg d1p1viewBox=\"0, 0, 0, 0\"/>", "<svg d1p1/>"},
         {"<svg a:d1p1:b=''/>", "<svg a:b=''/>"},
         {"<svg D1P1:a=''/>", "<svg D1P1:a=''/>"},
-        // The prefix goes in one pass, so that what its removal joins together stays.
+        // The prefix is removed in one pass, so that prefixes created by the removal are kept.
         {"<svg d1pd1p1:1:a=''/>", "<svg d1p1:a=''/>"},
-        // The prefix goes first, then what stands behind a colon, then the view box.
+        // First the prefix is removed, then names with a colon, then the view box.
         {"<svg vied1p1:wBox=\"0, 0, 0:d1p1, 0\"/>", "<svg />"},
         {"<svg :d1d1p1:p1/>", "<svg />"},
     };

@@ -6,7 +6,7 @@
 
 #include <ostream>
 
-// How GoogleTest shows Qt's values in a failure.
+// GoogleTest's output of Qt's values in a failure.
 
 inline void PrintTo(const QString& value, std::ostream* out)
 {

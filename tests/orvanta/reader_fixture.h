@@ -12,25 +12,25 @@
 
 #include <memory>
 
-/// A reader on a host that takes every drawing for a symbol of 10 by 10, with an empty log.
+/// A reader on a host that accepts every drawing as a symbol of 10 by 10, with an empty log.
 class ReaderFixture : public ::testing::Test
 {
 protected:
     ReaderFixture();
     ~ReaderFixture() override;
 
-    /// Reads the objects of XML text, as they stand under `controls`.
+    /// Reads the objects of XML text, inserted unchanged under `controls`.
     void readControls(const QByteArray& objects);
     /// Writes bytes to a file and imports it.
     bool import(const QByteArray& fileBytes);
-    /// The calls since the last time.
+    /// Returns the calls since the last takeCalls().
     QStringList takeCalls();
-    /// The calls of one target, in order, without its name.
+    /// The calls to one target, in order, without its name.
     [[nodiscard]] QStringList callsOf(const char* target) const
     {
         return host.callsOn(QString::fromLatin1(target));
     }
-    /// The messages of the log, one a line.
+    /// The messages of the log, one per line.
     [[nodiscard]] QString logText() const;
     [[nodiscard]] QString filePath() const { return m_folder.filePath(QStringLiteral("a.qmtx")); }
 

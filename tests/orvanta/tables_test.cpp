@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Every source code that means something else than the default, by the host's code.
+/// Every source code that differs from the default, by the host's code.
 QMap<int, int> barcodeCodes()
 {
     const struct

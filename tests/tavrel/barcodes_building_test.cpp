@@ -1,4 +1,4 @@
-// What the builder of barcodes asks of a host, call by call.
+// The calls of the barcode builder to a host.
 
 #include "tavrel/barcodes.h"
 
@@ -71,7 +71,7 @@ TEST_F(BarcodeBuilder, EachFlagHasItsPlace)
 TEST_F(BarcodeBuilder, HandsTheWholeSymbologyNumberOver)
 {
     BarcodeRecord record = barcode();
-    record.symbology = 0x10014; // its low 16 bits, 20, are only for the question of validity
+    record.symbology = 0x10014; // its low 16 bits, 20, are used only to check the symbology
     EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
     EXPECT_EQ(fake.calls.with("importBarcodeProperties"),
               lines({"item1 importBarcodeProperties 65556 \"42\" yes 132 2 yes no 1 17 3"}));

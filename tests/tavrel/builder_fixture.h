@@ -21,7 +21,7 @@ inline QStringList lines(std::initializer_list<const char*> texts)
     return all;
 }
 
-/// A host that writes down what it is asked for, and a header whose values are all different.
+/// A host that records its calls, and a header whose values are all different.
 class Builders : public testing::Test
 {
 protected:

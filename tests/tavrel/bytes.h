@@ -7,14 +7,14 @@
 
 namespace tavrel_test {
 
-/// Bytes of a hexadecimal text; blanks do not count.
+/// The bytes of a hexadecimal text; blanks are ignored.
 inline QByteArray hex(const char* text)
 {
     return QByteArray::fromHex(QByteArray(text));
 }
 
-/// Writes a file's values one after another, by hand and not by a stream, so that it says
-/// nothing about what a stream would do.
+/// Writes a file's values one after another, by hand and not by a stream, so that tests do
+/// not depend on the stream's own format.
 class Bytes
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace tavrel_test {
 
-/// What was asked of the fake host, one line to a call: "item1 setPenWidth 6".
+/// The calls to the fake host, one line per call: "item1 setPenWidth 6".
 class CallList
 {
 public:
@@ -21,7 +21,7 @@ public:
     }
 
     [[nodiscard]] const QStringList& lines() const { return m_lines; }
-    /// The lines that hold this text.
+    /// The lines that contain this text.
     [[nodiscard]] QStringList with(const char* text) const
     {
         return m_lines.filter(QLatin1String(text));

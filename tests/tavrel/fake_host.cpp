@@ -54,7 +54,7 @@ Item* makeItem(CallList& calls, int number, int type)
     }
 }
 
-// Of a class that is right for no other code.
+// Of a class that is wrong for every other code.
 Item* makeWrongItem(CallList& calls, int number, int type)
 {
     return type == KestTypes::Line ? makeItem(calls, number, KestTypes::Rectangle)

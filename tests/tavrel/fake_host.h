@@ -26,16 +26,16 @@ public:
 
     [[nodiscard]] Item* create(KestTypes::ShapeType type) override;
 
-    QSet<int> makesNothingOf; ///< codes for which it gives no item
-    QSet<int> makesWrongOf;   ///< codes for which it gives an item of another class
+    QSet<int> makesNothingOf; ///< codes for which it returns no item
+    QSet<int> makesWrongOf;   ///< codes for which it returns an item of another class
 
 private:
     CallList& m_calls;
     int m_created = 0;
 };
 
-/// A canvas that keeps what it is given and writes the calls down. White with a black pen
-/// until told otherwise.
+/// A canvas that stores its values and records the calls. White with a black pen
+/// until changed.
 class FakeCanvas : public TalCanvasModel
 {
 public:
@@ -80,14 +80,14 @@ public:
     [[nodiscard]] int createDatasource(const QString& kind) override;
     [[nodiscard]] TalDatasource* getDatasource(int id) override;
 
-    bool forgetsSources = false; ///< has no source for the numbers that it gave
+    bool forgetsSources = false; ///< has no source for the identifiers that it returned
 
 private:
     CallList& m_calls;
     std::map<int, std::unique_ptr<TalDatasource>> m_sources;
 };
 
-/// All of it together.
+/// The complete host.
 struct FakeHost
 {
     CallList calls;

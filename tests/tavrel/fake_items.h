@@ -1,7 +1,7 @@
 #pragma once
 
-// Items that write down what is asked of them. Facets are laid over a contract class one
-// by one, so that each operation is written once.
+// Items that record their calls. Facets are layered on a contract class one
+// by one, so that each operation is implemented once.
 
 #include "host/items/barcode_item.h"
 #include "host/items/ellipse_item.h"
@@ -15,7 +15,7 @@
 
 namespace tavrel_test {
 
-/// The part that every fake item has: its name in the call list, its size, its life.
+/// The part that every fake item has: its name in the call list, its size, its lifetime.
 template <class Base>
 class WithItem : public Base
 {
@@ -47,7 +47,7 @@ public:
     void setFlipVertical(bool flip) override { note("setFlipVertical", flip); }
 
 protected:
-    // Layer, lock and position are Qt's own operations, of which an item is told like this.
+    // Layer, lock and position are Qt's own operations; this notifies an item of them.
     QVariant itemChange(QGraphicsItem::GraphicsItemChange change, const QVariant& value) override
     {
         if (m_noting && change == QGraphicsItem::ItemZValueChange) {

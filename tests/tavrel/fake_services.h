@@ -11,8 +11,8 @@ class TalMessageBox;
 
 namespace tavrel_test {
 
-/// What the fake services answer and what they were asked. One for the process, because the
-/// services are made by the importer and not given to it; reset() before each test.
+/// The results of the fake services and their calls. One per process, because the importer
+/// creates the services itself; reset() before each test.
 struct FakeServices
 {
     struct Box
@@ -32,7 +32,7 @@ struct FakeServices
     QStringList lookUps;
     int databasesAlive = 0;
 
-    /// What a conversion gives for a document.
+    /// The result of converting a document.
     QHash<QByteArray, QByteArray> conversions;
     QList<QByteArray> loadedDocuments;
     int creatorsMade = 0;

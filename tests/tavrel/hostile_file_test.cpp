@@ -1,5 +1,5 @@
-// Files that end anywhere or claim anything: nothing crashes, hangs or takes memory, and
-// what was read before is kept.
+// Files that end anywhere or claim anything: no crash, hang or excessive memory, and
+// what was read before the damage is kept.
 
 #include "tavrel/limits.h"
 #include "tests/tavrel/reader_fixture.h"
@@ -12,7 +12,7 @@ using namespace tavrel_test;
 
 namespace {
 
-// The sanitizers' own memory is no measure of ours.
+// The memory of the sanitizers would distort the measurement.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool MemoryIsMeasured = false;
 #else
@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(Versions, CutFile,
 TEST_F(Hostile, CutRecordIsBuiltFromZeros)
 {
     LabelFile label;
-    label.typeCode(0x10002); // a shape, and not one byte of it
+    label.typeCode(0x10002); // a shape without a single byte
     EXPECT_TRUE(import(label));
     EXPECT_EQ(fake.calls.with("factory create"),
               QStringList(QStringLiteral("factory create \"1002a\"")));

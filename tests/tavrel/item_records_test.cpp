@@ -1,4 +1,4 @@
-// The common item header, shape records and the running number.
+// The common item header, shape records and the sequence number.
 
 #include "tavrel/file_versions.h"
 #include "tavrel/item_header.h"
@@ -60,7 +60,7 @@ TEST_P(HeaderLayout, IsReadWhole)
     EXPECT_EQ(header.height, 36.0);
 }
 
-// 1 dot at 300 and 2 dots at 150 dots per inch; from 2000017 on 1 and 2 inches.
+// 1 dot at 300 and 2 dots at 150 dots per inch; since 2000017, 1 and 2 inches.
 HeaderRow dots(quint32 version)
 {
     return {version, 1.0 / 300.0 * 72.0, 2.0 / 150.0 * 72.0};

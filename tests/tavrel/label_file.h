@@ -7,20 +7,20 @@
 
 namespace tavrel_test {
 
-/// What a test may choose of the records before the items.
+/// Values of the records before the items, for tests to set.
 struct LabelPage
 {
     qint32 labelType = -1;
     qint32 ribbonType = -1;
     bool canvasFlag = true;
     qint32 orientationCode = 0;
-    double resolutionX = 300.0; ///< only stored from 2000024 on, as the other
+    double resolutionX = 300.0; ///< both resolutions are stored since 2000024
     double resolutionY = 305.0;
     qint32 sequenceStart = 10;
 };
 
 /// The bytes of a label of one version, record by record. Values that a test does not
-/// choose are plain ones.
+/// set have ordinary defaults.
 class LabelFile
 {
 public:
@@ -31,7 +31,7 @@ public:
     LabelFile& shape(const QString& name, double layer = 1.0);
     LabelFile& picture(const QByteArray& png, const QString& width = QStringLiteral("25/6"),
                        const QString& height = QStringLiteral("25/6"));
-    /// @param scale the header's width and height; other than "1" gives a note
+    /// @param scale the header's width and height; any value but "1" causes a note
     LabelFile& text(const QString& content, const QString& scale = QStringLiteral("1"),
                     const QString& key = {}, const QString& sourceText = {});
     LabelFile& barcode(bool linear, qint32 symbology, const QString& key = {});
@@ -56,7 +56,7 @@ private:
     QList<qsizetype> m_recordEnds;
 };
 
-/// A PNG of one colour, size 1 by 1 pixel at least.
+/// A PNG of one color, size 1 by 1 pixel at least.
 [[nodiscard]] QByteArray pngOf(int width, int height, QImage::Format format = QImage::Format_RGB32);
 
 } // namespace tavrel_test

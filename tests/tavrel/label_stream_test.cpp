@@ -110,8 +110,8 @@ TEST_P(ClaimBeyondTheEnd, GivesNothingAndTheEndOfTheStream)
 INSTANTIATE_TEST_SUITE_P(Lengths, ClaimBeyondTheEnd,
                          testing::Values("00000004 0041",     // two bytes too many
                                          "80000000 00410042", // 2^31
-                                         "FFFFFFFE 00410042", // as large as can be
-                                         "7FFFFFFE",          // nothing behind it
+                                         "FFFFFFFE 00410042", // the largest length
+                                         "7FFFFFFE",          // no data after it
                                          "0000",              // half a length
                                          ""));
 
@@ -145,14 +145,14 @@ constexpr const char* WholeRun = "01"               // true
                                  "FFFFFFFE"         // -2
                                  "4052000000000000" // 72.0
                                  "FFFFFFFE"         // 4294967294
-                                 "7F";              // true: every byte but 0 is
+                                 "7F";              // true: any byte but 0
 
 Fields readRun(QDataStream& stream)
 {
     return readFields<bool, qint32, double, quint32, bool>(stream);
 }
 
-// By the stream's own operators, which the format is defined by.
+// With the stream's own operators, which define the format.
 Fields readOneByOne(QDataStream& stream)
 {
     Fields fields;

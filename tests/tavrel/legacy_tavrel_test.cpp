@@ -1,4 +1,4 @@
-// Whole files: the order of the records, what is reported and what carries over.
+// Complete files: the order of the records, the reported issues and the imported content.
 
 #include "supply/legacy_supply_info.h"
 #include "tests/tavrel/reader_fixture.h"
@@ -41,7 +41,7 @@ TEST_F(Reader, FileThatIsTooLargeIsRefused)
 {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.resize(64 * 1024 * 1024 + 1)); // a hole, which takes no room
+    ASSERT_TRUE(file.resize(64 * 1024 * 1024 + 1)); // a sparse file, which uses no disk space
     EXPECT_FALSE(reader.importLabelFromFile(path));
     EXPECT_EQ(errors().size(), 1);
     EXPECT_TRUE(fake.calls.lines().isEmpty());
@@ -135,7 +135,7 @@ TEST_F(Reader, PageIsSetBeforeTheColoursAndTheItems)
 
 TEST_F(Reader, FlagsAndColoursAreThoseOfThePage)
 {
-    // Label and ribbon types of different colours, a row of each table.
+    // Label and ribbon types of different colors, a row of each table.
     LegacySupplyInfo supplies;
     const QColor label = supplies.getLabelColor(7);
     const QColor ribbon = supplies.getRibbonColor(3);

@@ -1,4 +1,4 @@
-// Every bound of the binary reader at its last good value and at the first bad one.
+// Every limit of the binary reader with its largest accepted and first rejected value.
 
 #include "tavrel/file_content.h"
 #include "tavrel/limits.h"
@@ -22,7 +22,7 @@ TEST_F(TavrelBounds, MeasureTheFile)
 {
     QTemporaryFile file;
     ASSERT_TRUE(file.open());
-    ASSERT_TRUE(file.resize(MaximumFileSize)); // a hole, which takes no room
+    ASSERT_TRUE(file.resize(MaximumFileSize)); // a sparse file, which uses no disk space
     const FileContent whole = loadFile(file.fileName());
     EXPECT_EQ(whole.status, FileContent::Status::Loaded);
     EXPECT_EQ(whole.bytes.size(), MaximumFileSize);
@@ -56,7 +56,7 @@ TEST_F(TavrelBounds, CountTheCharactersOfNotes)
     EXPECT_EQ(errors().size(), 1);
 }
 
-// A picture of 8 bits a pixel, whose packed data is ten bytes.
+// A picture of 8 bits per pixel with ten bytes of compressed data.
 qint64 pixelsTakenBy(quint32 width, qint64 pixelsLeft = MaximumPixelsPerFile)
 {
     Bytes png;

@@ -1,4 +1,4 @@
-// The one message box of an import, from its signal to its end.
+// The lifetime of an import's only message box.
 
 #include "tests/tavrel/reader_fixture.h"
 

@@ -33,7 +33,7 @@ TEST(CanvasHeader, OnlyAnOldVersionIsRefused)
     EXPECT_TRUE(CanvasHeader{0xFFFFFFFF}.isSupported()) << "a negative number is a large one";
 }
 
-// All of the canvas record behind its size, with the orientation code 2.
+// The complete canvas record after its size, with orientation code 2.
 constexpr char SuppliesHex[] = "00000007"      // label type 7
                                "00000003"      // ribbon type 3
                                "00000002 0041" // unused text "A"

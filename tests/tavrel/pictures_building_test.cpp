@@ -1,4 +1,4 @@
-// What the builder of pictures asks of a host, call by call.
+// The calls of the picture builder to a host.
 
 #include "tavrel/pictures.h"
 

@@ -15,7 +15,7 @@
 
 namespace tavrel_test {
 
-/// A reader, its host, and a folder for the files that it reads.
+/// A reader, its host, and a folder for its files.
 class ReaderTest : public testing::Test
 {
 protected:
@@ -37,13 +37,13 @@ protected:
         return path;
     }
 
-    /// The text of the only box; empty when there is none.
+    /// The text of the only box; empty if there is none.
     [[nodiscard]] QString boxText() const
     {
         EXPECT_LE(services.boxes.size(), 1);
         return services.boxes.isEmpty() ? QString() : services.boxes.first().text;
     }
-    /// What was logged as an error.
+    /// The logged errors.
     [[nodiscard]] QStringList errors() const
     {
         QStringList all;

@@ -1,4 +1,4 @@
-// What the builder of shapes and lines asks of a host, call by call.
+// The calls of the builder of shapes and lines to a host.
 
 #include "tavrel/shapes.h"
 

@@ -18,13 +18,13 @@ namespace {
 
 const QByteArray Marker = hex("00000001");
 const QByteArray Signature = hex("89504E470D0A1A0A");
-// 2 by 1 pixels, eight bits a channel, red, green and blue.
+// 2 by 1 pixels, eight bits per channel, red, green and blue.
 const QByteArray Start = hex("0000000D 49484452 00000002 00000001 08 02 00 00 00 7B40E8DD");
 // A red and a green pixel.
 const QByteArray Pixels = hex("0000000F 49444154 78DA63F8CFC0C0F09F010007FF01FF B80435E0");
 const QByteArray End = hex("00000000 49454E44 AE426082");
 const QByteArray Picture = Marker + Signature + Start + Pixels + End;
-// What follows the picture in the file.
+// The data after the picture in the file.
 const QByteArray Next = hex("0000002A");
 
 struct Outcome
@@ -43,7 +43,7 @@ Outcome read(const QByteArray& bytes, qint64 pixelsLeft = MaximumPixelsPerFile)
     return outcome;
 }
 
-// A chunk with a checksum that nobody looks at.
+// A chunk with a checksum that no reader verifies.
 QByteArray chunk(const char* type, const QByteArray& data)
 {
     return Bytes().word(quint32(data.size())).raw(type).raw(data).word(0).bytes();
@@ -103,7 +103,7 @@ TEST_P(DamagedPicture, IsRefusedAndTheNextRecordIsFound)
     EXPECT_EQ(outcome.left, 4) << GetParam().what;
 }
 
-// 60,000 by 60,000 pixels, checksum included.
+// 60,000 by 60,000 pixels, with a valid checksum.
 const QByteArray HugeStart = hex("0000000D 49484452 0000EA60 0000EA60 08 02 00 00 00 0FB0E215");
 
 INSTANTIATE_TEST_SUITE_P(

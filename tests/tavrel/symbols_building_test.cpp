@@ -1,4 +1,4 @@
-// What the builder of symbols asks of a host, call by call.
+// The calls of the symbol builder to a host.
 
 #include "tavrel/symbols.h"
 

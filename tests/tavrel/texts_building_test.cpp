@@ -1,4 +1,4 @@
-// What the builder of texts asks of a host, call by call.
+// The calls of the text builder to a host.
 
 #include "tavrel/texts.h"
 

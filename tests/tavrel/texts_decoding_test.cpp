@@ -10,7 +10,7 @@ using tavrel_test::hex;
 
 namespace {
 
-// The parts that the layouts are made of, in hexadecimal.
+// The parts of the layouts, in hexadecimal.
 const QByteArray Header = hex(HeaderHex);
 const QByteArray FixedSize = hex("4000000000000000 3FE0000000000000"); // 2.0 and 0.5 inches
 const QByteArray Content = hex("00000004 0048 0069");                  // "Hi"

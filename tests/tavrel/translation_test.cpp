@@ -1,4 +1,4 @@
-// Which texts are for users, and under which context and comment translators find them.
+// Which texts are for users, with their contexts and comments for translators.
 
 #include "tests/tavrel/reader_fixture.h"
 
@@ -9,7 +9,7 @@ using namespace tavrel_test;
 
 namespace {
 
-/// Answers with the text in angle brackets and writes down what it was asked.
+/// Returns the text in angle brackets and records the request.
 class BracketTranslator : public QTranslator
 {
 public:

@@ -8,7 +8,7 @@ using workbench::compactImage;
 
 namespace {
 
-// A picture of so many colours, some of them translucent.
+// A picture with this number of colors, some of them translucent.
 QImage pictureOf(int colors, bool translucent)
 {
     QImage image(40, 40, QImage::Format_ARGB32_Premultiplied);

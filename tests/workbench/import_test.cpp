@@ -1,4 +1,4 @@
-// From a file to a canvas without a window.
+// Imports from a file to a canvas without a window.
 
 #include "workbench/document/label_file.h"
 #include "workbench/document/label_json.h"

@@ -1,4 +1,4 @@
-// What is logged during an import, and its explanation for users.
+// The log records of imports, and their explanations for users.
 
 #include "workbench/import/failure_words.h"
 #include "workbench/import/import_log.h"

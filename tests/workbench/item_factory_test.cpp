@@ -1,4 +1,4 @@
-// Every code of the contract gives an item of its class, with every facet in reach.
+// Every code of the contract gives an item of its class with all facets.
 
 #include "painted.h"
 

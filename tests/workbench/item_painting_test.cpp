@@ -1,4 +1,4 @@
-// What shapes, pictures and symbols put on the page: inside, outside, turned and mirrored.
+// Painting of shapes, pictures and symbols: inside, outside, rotated and mirrored.
 
 #include "painted.h"
 
@@ -34,7 +34,7 @@ struct ShapeRow
     QList<QPoint> outside;
 };
 
-// Points of the page; the box reaches from (20, 20) to (80, 60).
+// Points of the page; the box extends from (20, 20) to (80, 60).
 const ShapeRow kShapes[] = {
     {KestTypes::Rectangle, {{21, 21}, {78, 58}, {50, 40}}, {{18, 40}, {82, 40}, {50, 62}}},
     {KestTypes::RoundedRectangle, {{50, 21}, {21, 40}, {50, 40}}, {{20, 20}, {79, 59}}},
@@ -182,7 +182,7 @@ TEST(ShapePainting, TheCornerRadiusRoundsTheCorners)
     item.setCornerRadius(10.0);
     EXPECT_EQ(page.at(21, 21), QColor(Qt::white));
     EXPECT_EQ(page.at(24, 24), kFill);
-    item.setCornerRadius(500.0); // no more than half the shorter side
+    item.setCornerRadius(500.0); // limited to half the shorter side
     EXPECT_EQ(page.at(24, 24), QColor(Qt::white));
     EXPECT_EQ(page.at(41, 21), kFill);
     item.setCornerRadius(-5.0);

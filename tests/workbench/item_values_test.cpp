@@ -1,4 +1,4 @@
-// What an item is told, it tells again; what it is given whole, it keeps whole.
+// Items return the values that were set, one by one and all together.
 
 #include "painted.h"
 
@@ -40,7 +40,7 @@ ItemValues valuesOf(Item& item)
     return dynamic_cast<CanvasItem&>(item).values();
 }
 
-// Calls every setter that the item has, each with something else than the default.
+// Calls every setter of the item, each with a value that is not the default.
 void setEverything(Item& item)
 {
     item.setItemSize(QSizeF(30.0, 20.0));
@@ -266,7 +266,7 @@ TEST(ItemValues, LengthsAndAnglesThatNoLabelHasAreBounded)
 
 TEST(ItemValues, PositionsThatNoLabelHasAreBounded)
 {
-    // -1000000001 is what importers pass for a coordinate that a file does not give.
+    // -1000000001 is what importers pass for a coordinate that is not in the file.
     for (const BadNumber& row :
          {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, 0.0}, BadNumber{-1'000'000'001.0, 0.0},
           BadNumber{1e300, workbench::kMaximumCoordinate},

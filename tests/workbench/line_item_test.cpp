@@ -19,7 +19,7 @@ LineItem& putLine(Painted& page)
     return line;
 }
 
-// The rows of ink in one column: how thick the line is there.
+// The rows of ink in one column: the thickness of the line there.
 int thickness(const QImage& image, int x)
 {
     return inkOf(image.copy(x, 0, 1, image.height())).height();
@@ -39,7 +39,7 @@ TEST(Line, OfALengthRunsToTheRightFromItsPosition)
 
 TEST(Line, TurnsAboutItsMiddle)
 {
-    // A line of 60 at (64, 46) turned by 90 degrees stands upright from (94, 16) down.
+    // A line of 60 at (64, 46), rotated by 90 degrees, is vertical from (94, 16) downwards.
     Painted page;
     auto& line = putLine(page);
     line.setLineLength(60.0);

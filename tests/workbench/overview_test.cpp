@@ -1,5 +1,5 @@
-// A sheet with everything on it. What can be tested by pixel is tested elsewhere; this one
-// is for looking at: LABELPORT_OVERVIEW names the folder that the picture goes to.
+// A sheet with all items, for visual inspection; other tests check pixels.
+// LABELPORT_OVERVIEW names the folder for the picture.
 
 #include "painted.h"
 

@@ -1,4 +1,4 @@
-// How large a page's picture or document may be: the last good size and the first bad one.
+// Limits of a page's picture or document: the largest accepted and the first rejected size.
 
 #include "workbench/canvas/canvas.h"
 #include "workbench/rendering/page_export.h"

@@ -75,13 +75,13 @@ TEST_F(PageExport, PagesOfADocumentHaveTheExactSize)
         const double height = match.captured(3).toDouble() - match.captured(1).toDouble();
         EXPECT_NEAR(match.captured(2).toDouble(), 100 * PointsPerMillimeter, 0.001);
         EXPECT_NEAR(height, 120 * PointsPerMillimeter, 0.001);
-        EXPECT_EQ(match.captured(3), u"341"_s); // Qt's own height, from which the content hangs
+        EXPECT_EQ(match.captured(3), u"341"_s); // Qt's own height, the upper edge of the content
         ++pages;
     }
     EXPECT_EQ(pages, 2);
 }
 
-// The table of contents of a document has byte offsets, which a changed size must not move.
+// The cross-reference table contains byte offsets, which a changed size must not move.
 TEST_F(PageExport, ADocumentsOffsetsPointToItsObjects)
 {
     const QByteArray pdf = document();

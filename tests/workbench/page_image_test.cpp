@@ -66,7 +66,7 @@ TEST(PageImage, HasTheColorOfThePage)
 
 TEST(PageImage, IsThePagesColorUpToItsLastPixel)
 {
-    // 200 points at 100 dots per inch are 277.8 pixels: the 278th is the page's too.
+    // 200 points at 100 dots per inch are 277.8 pixels: the 278th belongs to the page too.
     Painted page;
     const QImage image = page.image(100.0);
     EXPECT_EQ(image.size(), QSize(278, 139));

@@ -6,13 +6,13 @@
 #include <QImage>
 #include <QRect>
 
-/// A white page of 200 by 100 points, painted one pixel to a point.
+/// A white page of 200 by 100 points, painted at one pixel per point.
 class Painted
 {
 public:
     Painted();
 
-    /// Makes an item on the page; the class must be the one that the type names.
+    /// Creates an item on the page; the class must be that of the type.
     template <class Class>
     Class& make(KestTypes::ShapeType type)
     {
@@ -23,13 +23,13 @@ public:
 
     [[nodiscard]] QImage image(double dpi = 72.0) const;
     [[nodiscard]] QColor at(int x, int y) const;
-    /// The smallest rectangle that holds everything that is not white.
+    /// The bounding rectangle of everything that is not white.
     [[nodiscard]] QRect ink() const;
 
     workbench::Canvas canvas;
 };
 
-/// The smallest rectangle of an image that holds every pixel of another colour than the ground.
+/// The bounding rectangle of all pixels of an image that differ from the background color.
 [[nodiscard]] QRect inkOf(const QImage& image, const QColor& ground = Qt::white);
-/// How many pixels of the rectangle have exactly this colour.
+/// The number of pixels in the rectangle with exactly this color.
 [[nodiscard]] int countOf(const QImage& image, const QRect& rectangle, const QColor& color);

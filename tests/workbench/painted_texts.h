@@ -1,6 +1,6 @@
 #pragma once
 
-// Texts on a painted page, as the importers make them.
+// Texts on a painted page, as importers create them.
 
 #include "painted.h"
 
@@ -18,7 +18,7 @@ inline TextItem& putRich(Painted& page, const QString& text)
     return item;
 }
 
-// A simple text as binary labels have it: no fixed side.
+// A simple text like those of binary labels: no fixed side.
 inline SimpleTextItem& putLabel(Painted& page, const QString& text, int size,
                                 signed char limiting = 0, const QSizeF& box = {})
 {

@@ -1,4 +1,4 @@
-// Pens and brushes, from the numbers that files hold.
+// Pens and brushes with the style numbers of files.
 
 #include "painted.h"
 
@@ -233,7 +233,7 @@ TEST(Fill, HatchLinesCoverTheAreaWhereverItBegins)
 TEST(Fill, AHatchOverAHugeAreaHasABoundedNumberOfLines)
 {
     EXPECT_LE(workbench::hatchLines(QRectF(0, 0, 1e9, 1e9), Qt::DiagCrossPattern).size(), 4'010);
-    // One line every six points, until there are 2,000 steps; then the steps grow.
+    // One line every six points, up to 2,000 lines; over larger areas the distance grows.
     const auto linesOf = [](int steps) {
         return workbench::hatchLines(QRectF(0, 0, 6.0 * steps, 6.0), Qt::VerPattern).size();
     };

@@ -1,4 +1,4 @@
-// What is written must be a PNG file to everybody, Qt's own reader first.
+// The written PNG files must be valid for every reader, Qt's own first.
 
 #include "workbench/pictures/png_encoder.h"
 
@@ -30,7 +30,7 @@ QImage plain(const QImage& image)
     return image.convertToFormat(QImage::Format_ARGB32);
 }
 
-// So many colours, in a size that compresses to more than one piece when there are many.
+// This number of colors, in a size that compresses to several chunks if there are many.
 QImage pictureOf(const QSize& size, quint32 colors, int alpha)
 {
     QImage image(size, QImage::Format_ARGB32);
@@ -45,7 +45,7 @@ QImage pictureOf(const QSize& size, quint32 colors, int alpha)
     return image;
 }
 
-/// Takes so many bytes and no more.
+/// Accepts this number of bytes, then fails.
 class FullDisk : public QIODevice
 {
 public:

@@ -1,4 +1,4 @@
-// The services that the importer's library leaves to its host.
+// The services that the importer's library expects from its host.
 
 #include "host/services/basic_conversions.h"
 #include "host/services/common_lists.h"

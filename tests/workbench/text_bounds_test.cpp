@@ -1,4 +1,4 @@
-// Texts that no label has are painted all the same, within bounds.
+// Extreme texts are painted too, within limits.
 
 #include "painted_texts.h"
 
@@ -12,7 +12,7 @@ const QString kMegabyte = QStringLiteral("word ").repeated(200'000);
 
 } // namespace
 
-// A megabyte in one run: the time that it takes is bounded by the test's time limit.
+// A megabyte in one run: the test's timeout limits its time.
 TEST(TextBounds, ALongRichTextIsPainted)
 {
     Painted page;

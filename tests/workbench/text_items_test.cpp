@@ -1,4 +1,4 @@
-// Where text stands, how large it is, and what its box does.
+// Position and size of texts, and how their boxes follow.
 
 #include "painted_texts.h"
 
@@ -21,7 +21,7 @@ namespace {
 
 const QString kBlock = QStringLiteral("HHHH");
 
-// Height of a capital letter of the font that texts have without a family, at 1 point.
+// Height of a capital letter of the default font at 1 point.
 double capHeight()
 {
     return QFontMetricsF(workbench::toFont({}, 1000)).capHeight() / 1000.0;
@@ -87,8 +87,8 @@ TEST(TextSize, IsTheSameForBothTextKinds)
 
 TEST(TextSize, OfADocumentInDesktopPointsIsTheSameInScreenPixels)
 {
-    // Documents count 72 points to what the screen takes for an inch, the scene counts its
-    // own units: importers convert, so that 12 units high is what they ask for.
+    // Documents use 72 points per inch of the screen, the scene its
+    // own units: importers convert, so that 12 units is the size that they request.
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
     const QFontInfo info{QFont(QStringLiteral("Liberation Sans"), 12)};
@@ -265,7 +265,7 @@ TEST(SimpleText, WithoutASizeFillsItsBox)
     EXPECT_GT(wide.width(), 145);
     EXPECT_LE(wide.width(), 160);
 
-    item.setText(QStringLiteral("H")); // now the height is what bounds it
+    item.setText(QStringLiteral("H")); // now the height limits it
     EXPECT_NEAR(page.ink().height(), 80.0 * capHeight() / 1.15, 5.0);
     item.setItemSize(QSizeF(160.0, 20.0));
     EXPECT_LT(page.ink().height(), 20);
@@ -395,7 +395,7 @@ TEST(TextGround, AFillAndAFrameLieBehindTheText)
         EXPECT_EQ(page.at(148, 78), QColor(Qt::yellow));
         EXPECT_EQ(page.ink(), QRect(50, 20, 100, 60));
         item.setPenWidth(2);
-        EXPECT_EQ(page.ink(), QRect(50, 20, 100, 60)); // no frame unless one is asked for
+        EXPECT_EQ(page.ink(), QRect(50, 20, 100, 60)); // no frame unless one is set
         item.setPenStyle(Qt::SolidLine);
         item.setPenColor(Qt::red);
         EXPECT_EQ(page.at(49, 50), QColor(Qt::red));

@@ -19,7 +19,7 @@ BarcodeRequest request(int symbology, const QString& content)
     return {symbology, content};
 }
 
-/// A symbol either has something to draw within its size, or says why not.
+/// A symbol has either bars within its size or an error.
 void expectSound(const BarcodeSymbol& symbol)
 {
     if (!symbol.isValid()) {
@@ -40,7 +40,7 @@ void expectSound(const BarcodeSymbol& symbol)
 
 TEST(BarcodeEncoder, CountsInModules)
 {
-    // Eleven modules to a character, two start and stop characters and a check character, and
+    // Eleven modules per character, two start and stop characters and a check character, and
     // a final bar of two.
     const BarcodeSymbol symbol = encode(request(20, QStringLiteral("AB")));
     ASSERT_TRUE(symbol.isValid());

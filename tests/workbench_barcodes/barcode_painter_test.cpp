@@ -40,7 +40,7 @@ QImage painted(const BarcodeSymbol& symbol, const QSize& pixels, double scale, c
     return image;
 }
 
-/// The part of the image that is not white.
+/// The bounding rectangle of all pixels that are not white.
 QRect inked(const QImage& image)
 {
     QRect rect;
@@ -111,7 +111,7 @@ TEST(BarcodeLayout, IsEmptyForWhatCannotBeDrawn)
 
 TEST(BarcodePainter, GivesEveryModuleWholePixels)
 {
-    // 57 modules in 180 pixels: three pixels each, and nothing between black and white.
+    // 57 modules in 180 pixels: three pixels each, and no gray pixels.
     const QImage image =
         painted(linear(), {200, 60}, 1.0, QRectF(10.3, 5.0, 180.0, 40.0), plainStyle());
     EXPECT_EQ(inked(image).width(), 57 * 3);

@@ -34,7 +34,7 @@ ZXing::BarcodeFormat format(Reads reads)
     return formats[static_cast<int>(reads)];
 }
 
-/// The barcode as it is printed at 300 dpi, with blank paper round it.
+/// The barcode as printed at 300 dpi, surrounded by blank paper.
 QImage printed(const BarcodeRequest& request, const QSizeF& points, double degrees = 0.0)
 {
     const double side = std::max(points.width(), points.height()) + 2.0 * Margin;

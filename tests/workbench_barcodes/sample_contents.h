@@ -2,10 +2,10 @@
 
 #include <array>
 
-/// A content that suits each symbology, and what an independent decoder makes of it.
+/// A valid content for each symbology, and its text as read by an independent decoder.
 namespace samples {
 
-/// Formats of the decoder; None: it does not know the symbology.
+/// Formats of the decoder; None: not supported.
 enum class Reads {
     None,
     Aztec,
@@ -32,7 +32,7 @@ struct Sample
     int code;
     const char16_t* content;
     Reads reads = Reads::None;
-    /// What is read; null: the content as it is.
+    /// The decoded text; null: equal to the content.
     const char16_t* text = nullptr;
 };
 

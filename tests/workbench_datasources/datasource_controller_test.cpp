@@ -11,7 +11,7 @@ const QString Sequence = QStringLiteral("SequenceDatasource");
 const QString System = QStringLiteral("SystemDatasource");
 const QString TextList = QStringLiteral("TextListDatasource");
 
-/// Creates and fills a source in the way of an importer.
+/// Creates and fills a source as an importer does.
 int create(::DatasourceController& controller, const QString& kind, const QString& property,
            const QVariant& value)
 {

@@ -49,7 +49,7 @@ protected:
     datasources::DatasourceController sources;
 };
 
-/// No file grows beyond this size while it lives: as if the disk were full.
+/// Limits the size of files during its lifetime, to simulate a full disk.
 class FullDisk
 {
 public:

@@ -43,7 +43,7 @@ QJsonObject sampleWith(const char* key, const QJsonValue& value)
 
 using Visit = std::function<void(const QJsonValue& whole)>;
 
-/// Calls visit with the value once for every place in it, something else standing there.
+/// Calls visit with a copy of the value for every replacement of every part of it.
 void forEachReplacement(const QJsonValue& value, const Visit& visit)
 {
     static const QJsonValue others[] = {QJsonValue(),
@@ -91,8 +91,8 @@ void draw(Canvas& canvas)
 
 } // namespace
 
-// A file of the first version, as the description of the format shows it. It must open for
-// ever.
+// A file of the first version, as in the description of the format. All later versions must
+// open it.
 TEST(LabelJson, OpensAFileOfTheFirstVersion)
 {
     const ReadLabel read = fromJson(R"({
@@ -217,7 +217,7 @@ TEST(LabelJson, RefusesEveryChangedByteOrReadsTheSame)
     }
 }
 
-// Replacements that are no damage by their kind must do no harm on the canvas either.
+// Replacements of a valid type must not harm the canvas either.
 TEST(LabelJson, SurvivesAnyValueInAnyPlace)
 {
     int refused = 0;

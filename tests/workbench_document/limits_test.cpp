@@ -1,4 +1,4 @@
-// Every limit of saved labels at its last good value and at the first bad one.
+// Every limit of saved labels with its largest accepted and first rejected value.
 
 #include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
@@ -33,7 +33,7 @@ QString openingOfFileOf(qint64 bytes)
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("a.label")));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_TRUE(file.resize(bytes)); // a hole, which takes no room
+    EXPECT_TRUE(file.resize(bytes)); // a sparse file, which uses no disk space
     file.close();
     Canvas canvas;
     datasources::DatasourceController sources;
@@ -55,7 +55,7 @@ std::string errorOf(const QJsonObject& file)
     return fromJson(QJsonDocument(file).toJson()).error.toStdString();
 }
 
-// What claims to be a picture, as far as its size.
+// The beginning of a picture, up to its size.
 QJsonObject itemClaiming(quint32 width, quint32 height)
 {
     QByteArray header(24, '\0');
@@ -102,12 +102,12 @@ TEST(LabelLimits, CountItems)
     EXPECT_EQ(errorOf(withItems(items)), "The label file is damaged: items is longer than 500000.");
 }
 
-// The parser makes gigabytes of the largest text that is taken, so that one is only asked for.
+// Parsing the largest accepted text takes gigabytes; the test therefore only measures it.
 TEST(LabelLimits, MeasureTheParsersTree)
 {
     const QByteArray lists = QByteArray("[[[[[[[[ ").repeated(1'840'000);
     const qint64 taken = jsonlimits::treeBytes(lists + "\"\"", limits::TreeBytes);
-    const qint64 left = (limits::TreeBytes - taken) / 2; // a letter counts twice
+    const qint64 left = (limits::TreeBytes - taken) / 2; // a character takes two bytes
     const QByteArray most = lists + "\"" + QByteArray(left, 'x');
     ASSERT_LT(most.size(), limits::FileBytes);
     EXPECT_FALSE(jsonlimits::isLargerThan(most + "\"", limits::TreeBytes));

@@ -20,7 +20,7 @@ bool coin()
     return any<bool>();
 }
 
-/// Any text at all, those included that Unicode does not allow.
+/// Any text, including invalid Unicode.
 QString anyText()
 {
     const auto units = any<std::vector<quint16>>();

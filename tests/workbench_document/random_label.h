@@ -4,7 +4,7 @@
 
 #include <rapidcheck.h>
 
-/// Labels with any values whatever, each of any type and with any groups.
+/// Labels with arbitrary values, of any type and with any groups.
 [[nodiscard]] rc::Gen<workbench::document::SavedLabel> anyLabel();
 
 namespace rc {

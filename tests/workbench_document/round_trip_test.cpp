@@ -68,7 +68,7 @@ RC_GTEST_PROP(RoundTrip, OpensToTheSameCanvas, ())
         RC_ASSERT(after.items[i] == before.items[i]);
 }
 
-// Whether a label was shown on a screen before it was saved must make no difference.
+// Showing a label on a screen before saving it must make no difference.
 TEST(RoundTrip, LooksTheSameAndSavesTheSameOnceItWasDrawn)
 {
     Canvas canvas;
@@ -86,7 +86,7 @@ TEST(RoundTrip, LooksTheSameAndSavesTheSameOnceItWasDrawn)
     EXPECT_EQ(toJson(snapshot(reopened, reopenedSources)).toStdString(), onceDrawn.toStdString());
 }
 
-// Formats that the document leaves to the item's font must not become formats of its own.
+// Formats that the document inherits from the item's font must not become explicit formats.
 TEST(RoundTrip, LetsARichTextFollowItsFontAfterwards)
 {
     const auto textIn = [](const QString& family, int size) {

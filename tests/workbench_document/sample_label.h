@@ -5,8 +5,8 @@
 /// A label with an item of every type and a data source of every kind.
 [[nodiscard]] workbench::document::SavedLabel sampleLabel();
 
-/// What an item of this type remembers, every group with values that are not the defaults.
+/// The values of an item of this type; no group has the defaults.
 [[nodiscard]] workbench::ItemValues sampleItem(KestTypes::ShapeType type);
 
-/// Every type of item.
+/// All item types.
 [[nodiscard]] QList<KestTypes::ShapeType> allTypes();

@@ -17,7 +17,7 @@ QByteArray svg(const QByteArray& attributes, const QByteArray& content = "<path 
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" " + attributes + ">" + content + "</svg>";
 }
 
-/// The symbol drawn into a picture of this size, over white.
+/// The symbol on a white picture of this size.
 QImage drawn(const QByteArray& symbol, const QSize& size)
 {
     QImage image(size, QImage::Format_ARGB32);
