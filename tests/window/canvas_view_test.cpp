@@ -229,7 +229,7 @@ TEST_F(CanvasViewTest, ZoomToItemsShowsThemLarge)
 
 TEST_F(CanvasViewTest, ThePageHasItsGroundAndWhatHangsOverIsVeiled)
 {
-    item(0)->setPos(-24.0, 40.0); // a third of it beside the page
+    item(0)->setPos(-24.0, 40.0); // a third of it outside the page
     view.fitPage();
     const QImage image = view.viewport()->grab().toImage();
     const QColor inside = image.pixelColor(pixelOf({18.0, 58.0}));

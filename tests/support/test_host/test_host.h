@@ -11,7 +11,7 @@
 ///     datasources createDatasource 'SystemDatasource'
 ///
 /// Texts are in quotation marks, numbers have at most ten digits, types of items are hexadecimal.
-/// Log records and returned values are left out.
+/// Log records and returned values are omitted.
 class TestHost
 {
 public:
