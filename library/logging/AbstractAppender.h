@@ -25,7 +25,7 @@ public:
 protected:
     virtual void append(const QDateTime& timeStamp, Logger::LogLevel level, const char* file,
                         int line, const char* function, const QString& category,
-                        const QString& message) = 0; ///< Receives one record; not reentrant.
+                        const QString& message) = 0; ///< One record; calls are serialized.
 
 private:
     Logger::LogLevel m_detailsLevel = Logger::Debug;

@@ -94,7 +94,7 @@ TEST(RasterPicture, IsDecodedByItsContent)
     }
 }
 
-// Qt's plug-in would open the picture that a drawing names, and show it.
+// Qt's plug-in would open and show the picture that a drawing refers to.
 TEST(RasterPicture, OfADrawingShowsNoExternalPicture)
 {
     const QTemporaryDir folder;

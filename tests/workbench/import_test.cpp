@@ -83,7 +83,7 @@ QStringList textsOf(const QList<ImportIssue>& issues)
     return texts;
 }
 
-// A package whose members are encrypted, as far as an import looks at it.
+// A package with this manifest; its members do not parse, as if they were encrypted.
 QByteArray packageWithManifest(const QByteArray& manifest)
 {
     QByteArray bytes;
@@ -147,7 +147,7 @@ TEST(Import, RendersADrawingThatIsARasterPicture)
     EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::green));
 }
 
-// Binary labels number their z values on through all imports of a process.
+// The z values of binary labels continue to count up over all imports of a process.
 TEST(Import, SavesTheSameBytesEachTime)
 {
     const QString label = QStringLiteral(LABELPORT_SAMPLES "/tavrel/address_2000016.cnv");
