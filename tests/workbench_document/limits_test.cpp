@@ -58,7 +58,7 @@ std::string errorOf(const QJsonObject& file)
 // The beginning of a picture, up to its size.
 QJsonObject itemClaiming(quint32 width, quint32 height)
 {
-    QByteArray header(24, '\0');
+    QByteArray header = monoPng(1, 1);
     qToBigEndian(width, header.data() + 16);
     qToBigEndian(height, header.data() + 20);
     const QJsonObject image{{QLatin1String("png"), QString::fromLatin1(header.toBase64())}};
