@@ -5,11 +5,11 @@
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
-        <translation type="unfinished"></translation>
+        <translation>Unerwartetes Token</translation>
     </message>
     <message>
         <source>Multiple DTD sections are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere DTD-Abschnitte sind nicht zulässig</translation>
     </message>
 </context>
 <context>
@@ -128,98 +128,98 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>a folder of that name exists</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Ordner dieses Namens ist vorhanden</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist vorhanden und wurde nicht von labelport geschrieben oder seitdem bearbeitet. Mit --force wird die Datei überschrieben.</translation>
     </message>
     <message>
         <source>Cannot create folder &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
         <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine andere Eingabedatei hat denselben Namen; beide würden zu „%1“. Behalten Sie die Unterordner mit --base bei, oder verwenden Sie verschiedene Ordner für --output-dir.</translation>
     </message>
     <message>
         <source>Cannot write the journal in the output folder; --resume will import some files again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Journal im Ausgabeordner kann nicht geschrieben werden; --resume wird einige Dateien noch einmal importieren.</translation>
     </message>
     <message>
         <source>Cannot start the worker processes, or they exit at once. Try a larger --memory-limit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Arbeitsprozesse können nicht gestartet werden oder beenden sich sofort. Versuchen Sie es mit einem größeren Wert für --memory-limit.</translation>
     </message>
 </context>
 <context>
     <name>archive::StagingArea</name>
     <message>
         <source>Cannot write to &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <source>Cannot create folder &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden: %2.</translation>
     </message>
     <message>
         <source>a file of that name exists</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Datei dieses Namens ist vorhanden</translation>
     </message>
 </context>
 <context>
     <name>archive::WorkerEnd</name>
     <message>
         <source>The file needs more than %1 MiB of memory; see --memory-limit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei benötigt mehr als %1 MiB Speicher; siehe --memory-limit.</translation>
     </message>
     <message numerus="yes">
         <source>The file made no progress for %n second(s); see --timeout.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die Datei machte %n Sekunde lang keinen Fortschritt; siehe --timeout.</numerusform>
+            <numerusform>Die Datei machte %n Sekunden lang keinen Fortschritt; siehe --timeout.</numerusform>
         </translation>
     </message>
     <message>
         <source>The worker process was killed twice; perhaps the machine is out of memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsprozess wurde zweimal beendet; möglicherweise reicht der Speicher des Rechners nicht aus.</translation>
     </message>
     <message>
         <source>The import crashed twice (%1). If a larger --memory-limit does not help, please report the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Import ist zweimal abgestürzt (%1). Wenn ein größerer Wert für --memory-limit nicht hilft, melden Sie bitte die Datei.</translation>
     </message>
     <message>
         <source>The worker process sent an invalid reply twice; please report the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsprozess hat zweimal eine ungültige Antwort gesendet; bitte melden Sie die Datei.</translation>
     </message>
     <message>
         <source>The worker process exited twice with status %1; please report the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsprozess wurde zweimal mit dem Status %1 beendet; bitte melden Sie die Datei.</translation>
     </message>
 </context>
 <context>
     <name>cli::ExistingOutput</name>
     <message>
         <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name eines Berichts muss auf .json oder .html enden, anders als „%1“.</translation>
     </message>
     <message>
         <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name eines Berichts muss gültiges UTF-8 sein: „%1“.</translation>
     </message>
     <message>
         <source>the folder &quot;%1&quot; does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ordner „%1“ ist nicht vorhanden</translation>
     </message>
     <message>
         <source>the folder &quot;%1&quot; is not writable</source>
-        <translation type="unfinished"></translation>
+        <translation>der Ordner „%1“ ist schreibgeschützt</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist vorhanden und kein Bericht von labelport. Mit --force wird die Datei überschrieben.</translation>
     </message>
 </context>
 <context>
@@ -282,44 +282,44 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>all versions (zipped)</source>
-        <translation type="unfinished"></translation>
+        <translation>alle Versionen (gezippt)</translation>
     </message>
     <message>
         <source>formats takes no files.</source>
-        <translation type="unfinished"></translation>
+        <translation>formats erwartet keine Dateien.</translation>
     </message>
 </context>
 <context>
     <name>cli::ImportCommand</name>
     <message>
         <source>Stopped. Repeat the command with --resume to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen. Wiederholen Sie den Befehl mit --resume, um fortzufahren.</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) imported incompletely.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei unvollständig importiert.</numerusform>
+            <numerusform>%n Dateien unvollständig importiert.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cannot search folder &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht durchsucht werden: %2.</translation>
     </message>
     <message>
         <source>No labels to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Etiketten zum Importieren.</translation>
     </message>
 </context>
 <context>
     <name>cli::ImportInputs</name>
     <message>
         <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateiliste „%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a list of file names.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Liste von Dateinamen.</translation>
     </message>
 </context>
 <context>
@@ -330,73 +330,73 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 erwartet eine ganze Zahl von %2 bis %3, nicht „%4“.</translation>
     </message>
     <message>
         <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekanntes Ziel „%1“. Unterstützte Ziele: %2.</translation>
     </message>
     <message>
         <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--records erwartet eine Zahl, einen Bereich wie 3-12 oder 3- oder all, nicht „%1“.</translation>
     </message>
     <message>
         <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--shard erwartet die Nummer eines Teils und die Anzahl aller Teile, zum Beispiel 3/8, nicht „%1“.</translation>
     </message>
     <message>
         <source>--memory-limit expects 0 or at least %1 MiB.</source>
-        <translation type="unfinished"></translation>
+        <translation>--memory-limit erwartet 0 oder mindestens %1 MiB.</translation>
     </message>
     <message>
         <source>No file to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Datei zum Importieren angegeben.</translation>
     </message>
     <message>
         <source>--files-from can be given only once.</source>
-        <translation type="unfinished"></translation>
+        <translation>--files-from kann nur einmal angegeben werden.</translation>
     </message>
     <message>
         <source>--null has no effect without --files-from.</source>
-        <translation type="unfinished"></translation>
+        <translation>--null hat ohne --files-from keine Wirkung.</translation>
     </message>
     <message>
         <source>--base has no effect without --files-from or a named file in a subfolder of that folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>--base hat keine Wirkung ohne --files-from oder eine angegebene Datei in einem Unterordner dieses Ordners.</translation>
     </message>
 </context>
 <context>
     <name>cli::ImportReporter</name>
     <message>
         <source>Warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) imported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei importiert.</numerusform>
+            <numerusform>%n Dateien importiert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) had been imported before.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei war bereits importiert.</numerusform>
+            <numerusform>%n Dateien waren bereits importiert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Ignored %n other file(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n andere Datei ignoriert.</numerusform>
+            <numerusform>%n andere Dateien ignoriert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei fehlgeschlagen.</numerusform>
+            <numerusform>%n Dateien fehlgeschlagen.</numerusform>
         </translation>
     </message>
 </context>
@@ -411,32 +411,32 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     <name>cli::InspectCommand</name>
     <message>
         <source>Cannot start the worker process.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsprozess kann nicht gestartet werden.</translation>
     </message>
     <message>
         <source>inspect needs exactly one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>inspect erwartet genau eine Datei.</translation>
     </message>
 </context>
 <context>
     <name>cli::JobOptions</name>
     <message>
         <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Reader „%1“. Unterstützte Reader: %2.</translation>
     </message>
 </context>
 <context>
     <name>cli::LabelWriter</name>
     <message numerus="yes">
         <source>The label has only %n record(s); record %1 does not exist.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Das Etikett hat nur %n Datensatz; Datensatz %1 ist nicht vorhanden.</numerusform>
+            <numerusform>Das Etikett hat nur %n Datensätze; Datensatz %1 ist nicht vorhanden.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 records are more than the %2 that one command writes; select a range with --records.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Datensätze sind mehr als die %2, die ein Befehl schreibt; wählen Sie mit --records einen Bereich.</translation>
     </message>
 </context>
 <context>
@@ -449,7 +449,13 @@ LabelPort (*.label). Help of a command: labelport COMMAND --help
 
 Commands:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Aufruf: labelport BEFEHL [ARGUMENT...]
+
+Importiert alte Etikettenvorlagen (*.cnv und *.roc, *.qmtx, *.odt und *.odg) und öffnet von
+LabelPort gespeicherte Etiketten (*.label). Hilfe zu einem Befehl: labelport BEFEHL --help
+
+Befehle:
+</translation>
     </message>
     <message>
         <source>
@@ -466,154 +472,167 @@ Examples:
 Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
 (import --fail-on-loss), 130 stopped by a signal.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --help           diese Hilfe anzeigen
+  --version        die Version anzeigen
+
+Beispiele:
+  labelport import shelf.odg
+  labelport import archive --to png,label --output-dir new --report report.html
+  labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
+  labelport trace shelf.odg
+
+Exit-Status: 0 Erfolg, 1 eine Datei ist fehlgeschlagen, 2 falscher Aufruf, 3 ein Etikett wurde
+nicht vollständig importiert (import --fail-on-loss), 130 durch ein Signal abgebrochen.
+</translation>
     </message>
     <message>
         <source>No command given. See &quot;labelport --help&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Befehl angegeben. Siehe „labelport --help“.</translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Befehl „%1“.</translation>
     </message>
     <message>
         <source>Help: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe: %1</translation>
     </message>
 </context>
 <context>
     <name>cli::Options</name>
     <message>
         <source>seconds</source>
-        <translation type="unfinished">Sekunden</translation>
+        <translation>Sekunden</translation>
     </message>
     <message>
         <source>Abort a file after this many seconds without progress; 0 for no limit (default: 60).</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei nach so vielen Sekunden ohne Fortschritt abbrechen; 0 für unbegrenzt (Vorgabe: 60).</translation>
     </message>
     <message>
         <source>MiB</source>
-        <translation type="unfinished">MiB</translation>
+        <translation>MiB</translation>
     </message>
     <message>
         <source>Abort a file that uses more memory than this; 0 for no limit (default: 4096).</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei abbrechen, die mehr Speicher als angegeben belegt; 0 für unbegrenzt (Vorgabe: 4096).</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished">Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Read files as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever their names. Default: by the suffix, or else by the content.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien unabhängig von ihrem Namen als tavrel (*.cnv, *.roc), orvanta (*.qmtx) oder opendocument (*.odt, *.odg) lesen. Vorgabe: nach der Dateiendung, sonst nach dem Inhalt.</translation>
     </message>
     <message>
         <source>targets</source>
-        <translation type="unfinished">Ziele</translation>
+        <translation>Ziele</translation>
     </message>
     <message>
         <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
-        <translation type="unfinished">Was geschrieben wird: png, svg, pdf, label; mehrere mit Kommas (Vorgabe: png).</translation>
+        <translation>Ausgabeziele: png, svg, pdf, label; mehrere durch Kommas getrennt (Vorgabe: png).</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished">Ordner</translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Folder to write to; created if missing (default: the current folder). Subfolders of an imported folder are kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner für die Ausgabe; wird bei Bedarf angelegt (Vorgabe: der aktuelle Ordner). Die Unterordner eines importierten Ordners bleiben erhalten.</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished">Zahl</translation>
+        <translation>Zahl</translation>
     </message>
     <message>
         <source>Resolution of pictures in dots per inch, 10 to 2400 (default: 300).</source>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung von Bildern in Punkten pro Zoll, 10 bis 2400 (Vorgabe: 300).</translation>
     </message>
     <message>
         <source>range</source>
-        <translation type="unfinished">Bereich</translation>
+        <translation>Bereich</translation>
     </message>
     <message>
         <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page for each record.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datensätze der Datenquellen des Etiketts: eine Zahl, ein Bereich wie 3-12 oder 3- oder all (Vorgabe: der erste). Die Bilder eines Bereichs werden nummeriert; ein PDF hat eine Seite je Datensatz.</translation>
     </message>
     <message>
         <source>Overwrite files that labelport did not write, and edited labels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien überschreiben, die labelport nicht geschrieben hat, sowie bearbeitete Etiketten.</translation>
     </message>
     <message>
         <source>list</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch die Dateien importieren, die in dieser Liste stehen, ein Name je Zeile oder durch NUL getrennt; - ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Namen in der Liste sind durch NUL getrennt, wie find -print0 sie ausgibt.</translation>
     </message>
     <message>
         <source>Named and listed files below this folder keep their subfolders in the output folder.</source>
-        <translation type="unfinished">Genannte und aufgelistete Dateien unter diesem Ordner behalten im Ausgabeordner ihre Unterordner.</translation>
+        <translation>Angegebene und aufgelistete Dateien in diesem Ordner behalten im Ausgabeordner ihre Unterordner.</translation>
     </message>
     <message>
         <source>Files to import at the same time (default: one for each processor core).</source>
-        <translation type="unfinished">Dateien, die gleichzeitig importiert werden (Vorgabe: eine je Prozessorkern).</translation>
+        <translation>Anzahl der gleichzeitig importierten Dateien (Vorgabe: eine je Prozessorkern).</translation>
     </message>
     <message>
         <source>Skip files that an earlier command with the same options imported, if they and their outputs are unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien überspringen, die ein früherer Befehl mit denselben Optionen importiert hat, wenn sie und ihre Ausgaben unverändert sind.</translation>
     </message>
     <message>
         <source>K/N</source>
-        <translation type="unfinished">K/N</translation>
+        <translation>K/N</translation>
     </message>
     <message>
         <source>Import the K-th of N parts of the files, to share an archive among N machines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den K-ten von N Teilen der Dateien importieren, um ein Archiv auf N Rechner zu verteilen.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished">Datei</translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Write a report on all files, as .json or .html; may be given several times.</source>
-        <translation type="unfinished">Schreibt einen Bericht über alle Dateien, als .json oder .html; kann mehrmals angegeben werden.</translation>
+        <translation>Einen Bericht über alle Dateien schreiben, als .json oder .html; kann mehrmals angegeben werden.</translation>
     </message>
     <message>
         <source>Exit with status 3 if a label was not imported completely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Status 3 beenden, wenn ein Etikett nicht vollständig importiert wurde.</translation>
     </message>
     <message>
         <source>End each file name on standard output with NUL instead of a line break.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden Dateinamen auf der Standardausgabe mit NUL statt mit einem Zeilenumbruch abschließen.</translation>
     </message>
     <message>
         <source>Report only errors on standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf der Standardfehlerausgabe nur Fehler melden.</translation>
     </message>
     <message>
         <source>Print JSON, as in reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON ausgeben, wie in Berichten.</translation>
     </message>
     <message>
         <source>Report to write, as .json or .html; may be given several times.</source>
-        <translation type="unfinished">Bericht, der geschrieben wird, als .json oder .html; mehrmals möglich.</translation>
+        <translation>Bericht, der geschrieben wird, als .json oder .html; kann mehrmals angegeben werden.</translation>
     </message>
     <message>
         <source>Overwrite files that are not reports of labelport.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien überschreiben, die keine Berichte von labelport sind.</translation>
     </message>
     <message>
         <source>Print JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON ausgeben.</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version anzeigen.</translation>
     </message>
     <message>
         <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
@@ -632,7 +651,24 @@ Examples:
 
 Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
 imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte Etiketten
+(*.label) und schreibt sie als Bilder, Zeichnungen, Dokumente oder gespeicherte Etiketten. Ein
+Ordner wird mit seinen Unterordnern nach Dateien mit diesen Endungen durchsucht. Die
+geschriebenen Dateien werden auf der Standardausgabe aufgelistet, in der Reihenfolge der Namen
+der Eingabedateien.
+
+Beispiele:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
+
+Exit-Status: 0 alle Dateien importiert, 1 eine Datei ist fehlgeschlagen, 2 falscher Aufruf,
+3 ein Etikett wurde nicht vollständig importiert (mit --fail-on-loss), 130 durch ein Signal
+abgebrochen.</translation>
     </message>
     <message>
         <source>Shows what one label contains, and what of it is imported. Writes no files.
@@ -641,7 +677,12 @@ Examples:
   labelport inspect shelf.odg
   labelport inspect - --reader orvanta &lt; shelf.xml
   labelport inspect shelf.odg --json | jq .lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, was ein Etikett enthält und was davon importiert wird. Schreibt keine Dateien.
+
+Beispiele:
+  labelport inspect shelf.odg
+  labelport inspect - --reader orvanta &lt; shelf.xml
+  labelport inspect shelf.odg --json | jq .lost</translation>
     </message>
     <message>
         <source>Merges the JSON reports of several imports into the report that one import of all files
@@ -650,7 +691,12 @@ would have written.
 Examples:
   labelport report merge part-1.json part-2.json --to all.html
   labelport report merge part-*.json --to all.json --to all.html</source>
-        <translation type="unfinished"></translation>
+        <translation>Führt die JSON-Berichte mehrerer Importe zu dem Bericht zusammen, den ein einziger Import
+aller Dateien geschrieben hätte.
+
+Beispiele:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</translation>
     </message>
     <message>
         <source>Lists the formats that labelport reads, with their versions, and the formats that it writes.
@@ -658,111 +704,116 @@ Examples:
 Examples:
   labelport formats
   labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Listet die Formate auf, die labelport liest, mit ihren Versionen, und die Formate, die es schreibt.
+
+Beispiele:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
 Lines, then the final state of the items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importiert ein altes Etikett in einen aufzeichnenden Host und gibt jeden Aufruf des Hosts als
+JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>import labels, or folders of labels</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiketten oder Ordner mit Etiketten importieren</translation>
     </message>
     <message>
         <source>Label or folder of labels to import; - is standard input.</source>
-        <translation type="unfinished">Etikett oder Ordner mit Etiketten; - ist die Standardeingabe.</translation>
+        <translation>Etikett oder Ordner mit Etiketten, die importiert werden; - ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>show what a label contains</source>
-        <translation type="unfinished"></translation>
+        <translation>den Inhalt eines Etiketts anzeigen</translation>
     </message>
     <message>
         <source>Label to inspect; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etikett, das untersucht wird; - ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>merge the reports of several imports</source>
-        <translation type="unfinished"></translation>
+        <translation>die Berichte mehrerer Importe zusammenführen</translation>
     </message>
     <message>
         <source>JSON reports to merge.</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON-Berichte, die zusammengeführt werden.</translation>
     </message>
     <message>
         <source>list supported formats</source>
-        <translation type="unfinished"></translation>
+        <translation>unterstützte Formate auflisten</translation>
     </message>
     <message>
         <source>print every call that an import makes on its host</source>
-        <translation type="unfinished"></translation>
+        <translation>jeden Aufruf ausgeben, den ein Import an seinem Host vornimmt</translation>
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etikett, das importiert wird; - ist die Standardeingabe.</translation>
     </message>
 </context>
 <context>
     <name>cli::ReportCommand</name>
     <message>
         <source>No command given: labelport report merge REPORT.json... --to FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Befehl angegeben: labelport report merge BERICHT.json... --to DATEI</translation>
     </message>
     <message>
         <source>Unknown command &quot;report %1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Befehl „report %1“.</translation>
     </message>
     <message>
         <source>Specify the reports to merge, and the output file with --to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie die Berichte an, die zusammengeführt werden, und mit --to die Ausgabedatei.</translation>
     </message>
 </context>
 <context>
     <name>cli::TraceCommand</name>
     <message>
         <source>Cannot run &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht ausgeführt werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>console::CommandLine</name>
     <message>
         <source>Unknown option &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannte Option „%1“.</translation>
     </message>
     <message>
         <source>Show this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Hilfe anzeigen.</translation>
     </message>
     <message>
         <source>Help: %1 --help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe: %1 --help</translation>
     </message>
     <message>
         <source>Did you mean &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Meinten Sie „%1“?</translation>
     </message>
 </context>
 <context>
     <name>console::Output</name>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden: %1.</translation>
     </message>
 </context>
 <context>
     <name>console::StandardInput</name>
     <message>
         <source>Cannot copy standard input to a temporary file: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeingabe kann nicht in eine temporäre Datei kopiert werden: %1.</translation>
     </message>
     <message>
         <source>Cannot read standard input: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeingabe kann nicht gelesen werden: %1.</translation>
     </message>
     <message>
         <source>Standard input is longer than any label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeingabe ist zu lang für ein Etikett.</translation>
     </message>
 </context>
 <context>
@@ -845,7 +896,7 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>a known status</source>
-        <translation type="unfinished"></translation>
+        <translation>ein bekannter Status</translation>
     </message>
 </context>
 <context>
@@ -872,15 +923,15 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>The file continues with unknown data, which may contain more objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei setzt sich mit unbekannten Daten fort, die weitere Objekte enthalten können.</translation>
     </message>
     <message>
         <source>The file is truncated: it may have contained more objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist abgeschnitten: Sie kann weitere Objekte enthalten haben.</translation>
     </message>
     <message>
         <source>The file is not a binary label of a supported version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist kein binäres Etikett einer unterstützten Version.</translation>
     </message>
 </context>
 <context>
@@ -911,23 +962,23 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollständig importiert</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen</translation>
     </message>
     <message>
         <source>Written files</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschriebene Dateien</translation>
     </message>
     <message>
         <source>Not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht importiert</translation>
     </message>
     <message>
         <source>Imported with changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Änderungen importiert</translation>
     </message>
 </context>
 <context>
@@ -1026,35 +1077,35 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>vollständig importiert</translation>
     </message>
     <message>
         <source>changed in looks, nothing lost</source>
-        <translation type="unfinished"></translation>
+        <translation>im Aussehen verändert, nichts verloren</translation>
     </message>
     <message>
         <source>Imported %1 of %2 objects in these files.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Objekten in diesen Dateien importiert.</translation>
     </message>
     <message>
         <source>Files whose objects could not be counted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, deren Objekte nicht gezählt werden konnten: %1.</translation>
     </message>
     <message>
         <source>most lost objects first</source>
-        <translation type="unfinished"></translation>
+        <translation>meiste verlorene Objekte zuerst</translation>
     </message>
     <message>
         <source>Nothing was lost or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ging verloren oder wurde verändert.</translation>
     </message>
     <message>
         <source>No matching files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine passenden Dateien.</translation>
     </message>
     <message>
         <source>%1 of %2 files imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Dateien vollständig importiert</translation>
     </message>
 </context>
 <context>
@@ -1097,23 +1148,23 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Items (millimeters):</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte (Millimeter):</translation>
     </message>
     <message>
         <source>Imported completely:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollständig importiert:</translation>
     </message>
     <message>
         <source>Imported with changes:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Änderungen importiert:</translation>
     </message>
     <message>
         <source>Not imported:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht importiert:</translation>
     </message>
     <message>
         <source>Warnings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen:</translation>
     </message>
 </context>
 <context>
@@ -1291,340 +1342,340 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie das Dokument in seinem eigenen Programm, heben Sie die Gruppierung der Objekte auf, speichern Sie es und importieren Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Replace each callout with a text and a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen Sie jede Legende durch einen Text und eine Linie.</translation>
     </message>
     <message>
         <source>Replace each control with a text if it should be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen Sie jedes Formularfeld durch einen Text, wenn es gedruckt werden soll.</translation>
     </message>
     <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Formen eines Textdokuments wurden weggelassen: Nur Texte, Textfelder und Bilder werden importiert.</translation>
     </message>
     <message>
         <source>Copy the label into a drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren Sie das Etikett in eine Zeichnung.</translation>
     </message>
     <message>
         <source>Turn bullets and numbering off, so that the list becomes plain paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie Aufzählungszeichen und Nummerierung aus, sodass die Liste zu einfachen Absätzen wird.</translation>
     </message>
     <message>
         <source>Replace each field with its text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen Sie jedes Feld durch seinen Text.</translation>
     </message>
     <message>
         <source>Parts of texts were left out because their type is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile von Texten wurden weggelassen, weil ihr Typ unbekannt ist.</translation>
     </message>
     <message>
         <source>Compare the texts with the original label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen Sie die Texte mit dem ursprünglichen Etikett.</translation>
     </message>
     <message>
         <source>Texts of shapes were left out because they do not begin with a plain paragraph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte von Formen wurden weggelassen, weil sie nicht mit einem einfachen Absatz beginnen.</translation>
     </message>
     <message>
         <source>Change them to plain paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wandeln Sie sie in einfache Absätze um.</translation>
     </message>
     <message>
         <source>Nothing, unless you need them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts, es sei denn, Sie benötigen sie.</translation>
     </message>
     <message>
         <source>Objects were left out because their type is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte wurden weggelassen, weil ihr Typ unbekannt ist.</translation>
     </message>
     <message>
         <source>Draw them as shapes that labels support.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnen Sie sie als Formen, die Etiketten unterstützen.</translation>
     </message>
     <message>
         <source>Controls were left out because their type is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Formularfelder wurden weggelassen, weil ihr Typ unbekannt ist.</translation>
     </message>
     <message>
         <source>The file has several lists of objects; all but the first were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat mehrere Objektlisten; alle außer der ersten wurden weggelassen.</translation>
     </message>
     <message>
         <source>Add the picture to the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügen Sie das Bild in die ursprüngliche Datei ein und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder wurden weggelassen, weil sie beschädigt oder zu groß sind oder ihr Format nicht unterstützt wird.</translation>
     </message>
     <message>
         <source>Save the pictures as PNG in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern Sie die Bilder in der ursprünglichen Datei als PNG und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Vector drawings were left out because they cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vektorzeichnungen wurden weggelassen, weil sie nicht umgewandelt werden können.</translation>
     </message>
     <message>
         <source>Convert the drawings to PNG in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wandeln Sie die Zeichnungen in der ursprünglichen Datei in PNG um und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Symbols were left out because neither the file nor the symbol databases contain their drawings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole wurden weggelassen, weil weder die Datei noch die Symboldatenbanken ihre Zeichnungen enthalten.</translation>
     </message>
     <message>
         <source>Save the label with the latest version of its own program, which stores the drawings, or add the symbols to the symbol databases.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern Sie das Etikett mit der neuesten Version seines eigenen Programms, die die Zeichnungen mitspeichert, oder fügen Sie die Symbole den Symboldatenbanken hinzu.</translation>
     </message>
     <message>
         <source>Barcodes were left out because their type is not supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barcodes wurden weggelassen, weil ihr Typ nicht unterstützt wird.</translation>
     </message>
     <message>
         <source>Change the barcode type in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern Sie den Barcodetyp in der ursprünglichen Datei und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>The file continues with an unknown record; the rest was not read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei setzt sich mit einem unbekannten Eintrag fort; der Rest wurde nicht gelesen.</translation>
     </message>
     <message>
         <source>The file is damaged or of a newer version. Look for another copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt oder hat eine neuere Version. Suchen Sie eine andere Kopie.</translation>
     </message>
     <message>
         <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist abgeschnitten: Ihr letztes Objekt ist unvollständig, und weitere können fehlen.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist weder ein Text noch eine Zeichnung; es wurde nichts importiert.</translation>
     </message>
     <message>
         <source>Content was left out because it exceeds the limits for labels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt wurde weggelassen, weil er die Grenzen für Etiketten überschreitet.</translation>
     </message>
     <message>
         <source>Reduce the number of objects or the size of the pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verringern Sie die Anzahl der Objekte oder die Größe der Bilder.</translation>
     </message>
     <message>
         <source>Objects of the file are missing on the label, without a reported reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte der Datei fehlen auf dem Etikett, ohne dass ein Grund gemeldet wurde.</translation>
     </message>
     <message>
         <source>Compare with the original label, and report the file as a bug.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen Sie mit dem ursprünglichen Etikett, und melden Sie die Datei als Fehler.</translation>
     </message>
     <message>
         <source>The log was cut: there may be losses that are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokoll wurde gekürzt: Es kann Verluste geben, die nicht aufgeführt sind.</translation>
     </message>
     <message>
         <source>Compare with the original label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen Sie mit dem ursprünglichen Etikett.</translation>
     </message>
     <message>
         <source>Unsupported shapes became rectangles or ellipses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht unterstützte Formen wurden zu Rechtecken oder Ellipsen.</translation>
     </message>
     <message>
         <source>Replace them with supported shapes in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen Sie sie in der ursprünglichen Datei durch unterstützte Formen und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Items are no longer bound to their data source: they show their last value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte sind nicht mehr mit ihrer Datenquelle verbunden: Sie zeigen ihren letzten Wert.</translation>
     </message>
     <message>
         <source>Bind the items to a data source in the new label editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden Sie die Objekte im neuen Etiketteneditor mit einer Datenquelle.</translation>
     </message>
     <message>
         <source>The label is no longer linked to its database file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Etikett ist nicht mehr mit seiner Datenbankdatei verknüpft.</translation>
     </message>
     <message>
         <source>Connect the data in the new label editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden Sie die Daten im neuen Etiketteneditor.</translation>
     </message>
     <message>
         <source>Texts with a placeholder among other words show only the value of the data source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte mit einem Platzhalter zwischen anderen Wörtern zeigen nur den Wert der Datenquelle.</translation>
     </message>
     <message>
         <source>Move the other words into separate texts, or into the data source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben Sie die anderen Wörter in eigene Texte oder in die Datenquelle.</translation>
     </message>
     <message>
         <source>Fields, such as date, time and page number, became plain text with the value that they had when the document was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder wie Datum, Uhrzeit und Seitenzahl wurden zu einfachem Text mit dem Wert, den sie beim Speichern des Dokuments hatten.</translation>
     </message>
     <message>
         <source>Barcodes cannot be drawn because their content is invalid for their type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barcodes können nicht gezeichnet werden, weil ihr Inhalt für ihren Typ ungültig ist.</translation>
     </message>
     <message>
         <source>Correct the content or the barcode type in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Korrigieren Sie den Inhalt oder den Barcodetyp in der ursprünglichen Datei und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Scan the original label to find the correct type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannen Sie das ursprüngliche Etikett, um den richtigen Typ zu ermitteln.</translation>
     </message>
     <message>
         <source>Items are completely outside the page: they are not printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte liegen vollständig außerhalb der Seite: Sie werden nicht gedruckt.</translation>
     </message>
     <message>
         <source>Move the items onto the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben Sie die Objekte auf die Seite.</translation>
     </message>
     <message>
         <source>Items extend beyond the edge of the page: that part is not printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte ragen über den Seitenrand hinaus: Dieser Teil wird nicht gedruckt.</translation>
     </message>
     <message>
         <source>Sizes, positions or fonts exceed the limits for labels and were reduced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größen, Positionen oder Schriften überschreiten die Grenzen für Etiketten und wurden verkleinert.</translation>
     </message>
     <message>
         <source>The document uses millimeters: the label is ten times larger than the paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument verwendet Millimeter: Das Etikett ist zehnmal so groß wie das Papier.</translation>
     </message>
     <message>
         <source>Print at a tenth of the size, or save the document with centimeters or inches as its unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken Sie mit einem Zehntel der Größe, oder speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
     </message>
     <message>
         <source>Lengths are not in the unit of the page, but were read as if they were.</source>
-        <translation type="unfinished"></translation>
+        <translation>Längen haben nicht die Einheit der Seite, wurden aber so gelesen.</translation>
     </message>
     <message>
         <source>Save the document with a single unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern Sie das Dokument mit einer einzigen Einheit.</translation>
     </message>
     <message>
         <source>The unit of the page is unknown: its lengths were read as inches.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einheit der Seite ist unbekannt: Ihre Längen wurden als Zoll gelesen.</translation>
     </message>
     <message>
         <source>Save the document with centimeters or inches as its unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
     </message>
     <message>
         <source>The page has another size than in the file, which defines no size or several.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seite hat eine andere Größe als in der Datei, die keine oder mehrere Größen festlegt.</translation>
     </message>
     <message>
         <source>Set the page size in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie die Seitengröße in der ursprünglichen Datei fest und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte ohne Position auf der Seite wurden in den Textfluss oder in die Ecke gesetzt.</translation>
     </message>
     <message>
         <source>The margins of the page were dropped: the text begins in the corner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seitenränder wurden verworfen: Der Text beginnt in der Ecke.</translation>
     </message>
     <message>
         <source>Move the texts in the new label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben Sie die Texte im neuen Etikett.</translation>
     </message>
     <message>
         <source>Page breaks were dropped: all text is on one page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenumbrüche wurden verworfen: Der gesamte Text steht auf einer Seite.</translation>
     </message>
     <message>
         <source>Rotation of lines, and skewing and scaling of objects, were dropped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Drehung von Linien sowie die Neigung und Skalierung von Objekten wurden verworfen.</translation>
     </message>
     <message>
         <source>Fonts that are not installed were replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht installierte Schriften wurden ersetzt.</translation>
     </message>
     <message>
         <source>Install the fonts and import again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installieren Sie die Schriften und importieren Sie die Datei noch einmal.</translation>
     </message>
     <message>
         <source>Stretched texts are no longer stretched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestreckte Texte sind nicht mehr gestreckt.</translation>
     </message>
     <message>
         <source>Set a suitable font size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie eine passende Schriftgröße fest.</translation>
     </message>
     <message>
         <source>Set the color in the new label editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie die Farbe im neuen Etiketteneditor fest.</translation>
     </message>
     <message>
         <source>Split the text into paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilen Sie den Text in Absätze auf.</translation>
     </message>
     <message>
         <source>Choose a plain fill in the original file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie in der ursprünglichen Datei eine einfache Füllung.</translation>
     </message>
     <message>
         <source>The import reported a problem with this label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Import hat ein Problem mit diesem Etikett gemeldet.</translation>
     </message>
     <message>
         <source>Read the warnings, and compare with the original label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesen Sie die Warnungen, und vergleichen Sie mit dem ursprünglichen Etikett.</translation>
     </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
     <message>
         <source>The reports contain the file &quot;%1&quot; more than once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Berichte enthalten die Datei „%1“ mehr als einmal.</translation>
     </message>
     <message>
         <source>The report &quot;%1&quot; has changed during the merge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bericht „%1“ wurde während des Zusammenführens geändert.</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportLines</name>
     <message>
         <source>Cannot read &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Bericht von LabelPort: %2.</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist leer</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>das Ende fehlt</translation>
     </message>
     <message>
         <source>line %1 does not name the format, or an unsupported version of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 nennt das Format nicht oder eine nicht unterstützte Version davon</translation>
     </message>
     <message>
         <source>line %1 does not describe a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 beschreibt keine Datei</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportWriter</name>
     <message>
         <source>Cannot write the report &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bericht „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -1635,50 +1686,50 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Objects imported: %1 (the number of objects in the file is unknown).</source>
-        <translation type="unfinished"></translation>
+        <translation>Importierte Objekte: %1 (die Anzahl der Objekte in der Datei ist unbekannt).</translation>
     </message>
     <message>
         <source>Imported %1 of %2 objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Objekten importiert.</translation>
     </message>
     <message>
         <source>Nothing was lost or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ging verloren oder wurde verändert.</translation>
     </message>
     <message>
         <source>Nothing was lost; looks or content changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ging verloren; Aussehen oder Inhalt wurde verändert.</translation>
     </message>
 </context>
 <context>
     <name>migration::Totals</name>
     <message>
         <source>imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>vollständig importiert</translation>
     </message>
     <message>
         <source>changed in looks</source>
-        <translation type="unfinished"></translation>
+        <translation>im Aussehen verändert</translation>
     </message>
     <message>
         <source>with losses</source>
-        <translation type="unfinished">mit Verlusten</translation>
+        <translation>mit Verlusten</translation>
     </message>
     <message>
         <source>crashed</source>
-        <translation type="unfinished">abgestürzt</translation>
+        <translation>abgestürzt</translation>
     </message>
     <message>
         <source>timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit überschritten</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicher reicht nicht aus</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished">fehlgeschlagen</translation>
+        <translation>fehlgeschlagen</translation>
     </message>
 </context>
 <context>
@@ -1689,54 +1740,57 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished">sie ist keine gewöhnliche Datei</translation>
+        <translation>es ist keine reguläre Datei</translation>
     </message>
     <message>
         <source>Cannot read &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht importiert. Die Aufzeichnung zeigt, wie weit der Import kam.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht importiert. Die Aufzeichnung zeigt, wie weit der Import kam; --reader wählt einen anderen Reader.</translation>
     </message>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden: %1.</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
 Lines, then the final state of the items.
 
 Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importiert ein altes Etikett in einen aufzeichnenden Host und gibt jeden Aufruf des Hosts als
+JSON Lines aus, danach den Endzustand der Objekte.
+
+Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
-        <translation type="unfinished">Liest die Datei als tavrel, orvanta oder opendocument, wie immer sie heißt.</translation>
+        <translation>Die Datei unabhängig von ihrem Namen als tavrel, orvanta oder opendocument lesen.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished">Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version anzeigen.</translation>
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etikett, das importiert wird; - ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>trace needs exactly one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>trace erwartet genau eine Datei.</translation>
     </message>
     <message>
         <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Reader „%1“. Unterstützte Reader: %2.</translation>
     </message>
 </context>
 <context>
@@ -2565,30 +2619,30 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>window::Main</name>
     <message>
         <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
-        <translation type="unfinished">Öffnet alte Etikettenvorlagen, zeigt, speichert, exportiert und druckt sie.</translation>
+        <translation>Öffnet alte Etikettenvorlagen, zeigt, speichert, exportiert und druckt sie.</translation>
     </message>
     <message>
         <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
-        <translation type="unfinished">Ein Etikett zum Öffnen: *.label, *.cnv, *.roc, *.qmtx, *.odt oder *.odg.</translation>
+        <translation>Etikett, das geöffnet wird: *.label, *.cnv, *.roc, *.qmtx, *.odt oder *.odg.</translation>
     </message>
     <message>
         <source>Writes a picture of the window to a PNG file, and exits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt ein Bild des Fensters in eine PNG-Datei und beendet das Programm.</translation>
     </message>
     <message numerus="yes">
         <source>A window shows one label, but %n files were given.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ein Fenster zeigt ein Etikett, es wurde aber %n Datei angegeben.</numerusform>
+            <numerusform>Ein Fenster zeigt ein Etikett, es wurden aber %n Dateien angegeben.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cannot open &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
     </message>
     <message>
         <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es kann kein Fenster angezeigt werden: Es gibt keinen Bildschirm. Setzen Sie DISPLAY oder WAYLAND_DISPLAY, oder verwenden Sie --screenshot.</translation>
     </message>
 </context>
 <context>
@@ -3154,7 +3208,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>window::WindowPicture</name>
     <message>
         <source>Cannot write &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
@@ -3212,51 +3266,51 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>workbench::FailureWords</name>
     <message>
         <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein binäres Etikett oder eines in einer nicht unterstützten Version: Die Datei hat die Version %1, die älteste unterstützte Version ist 2000016.</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the first object has the unknown type %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Etikett oder ein beschädigtes: Das erste Objekt hat den unbekannten Typ %1.</translation>
     </message>
     <message>
         <source>Cannot open the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The document is damaged: %1 is not well-formed at line %2, column %3 (%4).</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist beschädigt: %1 ist in Zeile %2, Spalte %3 nicht wohlgeformt (%4).</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 (%4).</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Etikett oder ein beschädigtes: Das XML ist in Zeile %2, Spalte %3 nicht wohlgeformt (%4).</translation>
     </message>
     <message>
         <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist XML, aber kein Etikett: Ihr Wurzelelement ist nicht „qmtx“.</translation>
     </message>
     <message>
         <source>Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine OpenDocument-Datei oder eine beschädigte: styles.xml fehlt oder ist nicht lesbar.</translation>
     </message>
     <message>
         <source>The OpenDocument file is damaged: content.xml is missing or unreadable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die OpenDocument-Datei ist beschädigt: content.xml fehlt oder ist nicht lesbar.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
-        <translation type="unfinished">Das ist keine gewöhnliche Datei.</translation>
+        <translation>Das ist keine reguläre Datei.</translation>
     </message>
     <message>
         <source>The file is too large for a label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist zu groß für ein Etikett.</translation>
     </message>
     <message>
         <source>The file has too many objects for a label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat zu viele Objekte für ein Etikett.</translation>
     </message>
     <message>
         <source>The file contains nothing to put on a label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält nichts, was auf ein Etikett gesetzt werden kann.</translation>
     </message>
 </context>
 <context>
@@ -3287,90 +3341,90 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>The link points to a file that does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verknüpfung zeigt auf eine Datei, die nicht vorhanden ist.</translation>
     </message>
     <message>
         <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist ein Zip-Paket wie OpenDocument-Dateien, wurde aber als „%1“ gelesen. Wenn sie eine OpenDocument-Datei ist, benennen Sie sie so um, dass sie auf „.odt“ oder „.odg“ endet, oder verwenden Sie --reader %2.</translation>
     </message>
     <message>
         <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist XML, wurde aber als „%1“ gelesen. Wenn sie ein XML-Etikett ist, benennen Sie sie so um, dass sie auf „.qmtx“ endet, oder verwenden Sie --reader %2.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Open it in an office program, save it without a password, and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist durch ein Kennwort geschützt. Öffnen Sie es in einem Office-Programm, speichern Sie es ohne Kennwort, und importieren Sie es noch einmal.</translation>
     </message>
 </context>
 <context>
     <name>workbench::IssueWords</name>
     <message>
         <source>Left out an object of the unknown type &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Objekt des unbekannten Typs „%1“ wurde weggelassen.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument ist weder ein Text noch eine Zeichnung; daraus wurde nichts importiert.</translation>
     </message>
     <message>
         <source>The file continues with an object of the unknown type %1; the rest was not read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei setzt sich mit einem Objekt des unbekannten Typs %1 fort; der Rest wurde nicht gelesen.</translation>
     </message>
     <message>
         <source>Left out symbols: neither the file nor the symbol databases contain their drawings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole wurden weggelassen: Weder die Datei noch die Symboldatenbanken enthalten ihre Zeichnungen.</translation>
     </message>
     <message>
         <source>Left out barcodes of unsupported types.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barcodes nicht unterstützter Typen wurden weggelassen.</translation>
     </message>
     <message>
         <source>The database is no longer connected; the label shows its last values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datenbank ist nicht mehr verbunden; das Etikett zeigt ihre letzten Werte.</translation>
     </message>
     <message>
         <source>Left out an object that the program could not create.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Objekt wurde weggelassen, das vom Programm nicht erstellt werden konnte.</translation>
     </message>
     <message>
         <source>Left out a data source that the program could not create.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datenquelle wurde weggelassen, die vom Programm nicht erstellt werden konnte.</translation>
     </message>
     <message>
         <source>Left out a picture that is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein zu großes Bild wurde weggelassen.</translation>
     </message>
     <message>
         <source>Left out a picture of an unsupported format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild in einem nicht unterstützten Format wurde weggelassen.</translation>
     </message>
     <message>
         <source>Left out a picture that is damaged or too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein beschädigtes oder zu großes Bild wurde weggelassen.</translation>
     </message>
     <message>
         <source>Left out a text that is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein zu langer Text wurde weggelassen.</translation>
     </message>
     <message>
         <source>The file has too many objects; the rest was not read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat zu viele Objekte; der Rest wurde nicht gelesen.</translation>
     </message>
     <message>
         <source>Further texts were stretched; they are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Texte waren gestreckt; sie werden nicht aufgeführt.</translation>
     </message>
     <message>
         <source>A file in the package is missing, damaged or too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei im Paket fehlt, ist beschädigt oder zu groß.</translation>
     </message>
     <message>
         <source>Left out a drawing that cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zeichnung wurde weggelassen, die nicht umgewandelt werden kann.</translation>
     </message>
     <message>
         <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text „%1“ war gestreckt; seine Schriftgröße war %2 pt.</translation>
     </message>
 </context>
 <context>
@@ -3489,67 +3543,67 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>workbench::ShapeKinds</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">Bild</translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Symbol</source>
-        <translation type="unfinished">Symbol</translation>
+        <translation>Symbol</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished">Text</translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Formatted text</source>
-        <translation type="unfinished">Formatierter Text</translation>
+        <translation>Formatierter Text</translation>
     </message>
     <message>
         <source>Barcode</source>
-        <translation type="unfinished">Barcode</translation>
+        <translation>Barcode</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">Linie</translation>
+        <translation>Linie</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished">Rechteck</translation>
+        <translation>Rechteck</translation>
     </message>
     <message>
         <source>Rounded rectangle</source>
-        <translation type="unfinished">Abgerundetes Rechteck</translation>
+        <translation>Abgerundetes Rechteck</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished">Ellipse</translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>Pie</source>
-        <translation type="unfinished">Kreissektor</translation>
+        <translation>Kreissektor</translation>
     </message>
     <message>
         <source>Right triangle</source>
-        <translation type="unfinished">Rechtwinkliges Dreieck</translation>
+        <translation>Rechtwinkliges Dreieck</translation>
     </message>
     <message>
         <source>Triangle</source>
-        <translation type="unfinished">Dreieck</translation>
+        <translation>Dreieck</translation>
     </message>
     <message>
         <source>Diamond</source>
-        <translation type="unfinished">Raute</translation>
+        <translation>Raute</translation>
     </message>
     <message>
         <source>Pentagon</source>
-        <translation type="unfinished">Fünfeck</translation>
+        <translation>Fünfeck</translation>
     </message>
     <message>
         <source>Hexagon</source>
-        <translation type="unfinished">Sechseck</translation>
+        <translation>Sechseck</translation>
     </message>
     <message>
         <source>Octagon</source>
-        <translation type="unfinished">Achteck</translation>
+        <translation>Achteck</translation>
     </message>
 </context>
 <context>
