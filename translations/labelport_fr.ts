@@ -5,11 +5,11 @@
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
-        <translation type="unfinished"></translation>
+        <translation>Élément inattendu</translation>
     </message>
     <message>
         <source>Multiple DTD sections are not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs sections DTD ne sont pas autorisées</translation>
     </message>
 </context>
 <context>
@@ -128,98 +128,98 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>a folder of that name exists</source>
-        <translation type="unfinished"></translation>
+        <translation>un dossier de ce nom existe</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» existe et n’a pas été écrit par labelport ou a été modifié depuis. Utilisez --force pour le remplacer.</translation>
     </message>
     <message>
         <source>Cannot create folder &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
         <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre fichier d’entrée porte le même nom&#xa0;; les deux deviendraient «&#xa0;%1&#xa0;». Conservez leurs sous-dossiers avec --base ou utilisez des dossiers --output-dir différents.</translation>
     </message>
     <message>
         <source>Cannot write the journal in the output folder; --resume will import some files again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le journal dans le dossier de sortie&#xa0;; --resume importera de nouveau certains fichiers.</translation>
     </message>
     <message>
         <source>Cannot start the worker processes, or they exit at once. Try a larger --memory-limit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de démarrer les processus de travail, ou ils se terminent aussitôt. Essayez une valeur --memory-limit plus élevée.</translation>
     </message>
 </context>
 <context>
     <name>archive::StagingArea</name>
     <message>
         <source>Cannot write to &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Cannot create folder &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>a file of that name exists</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier de ce nom existe</translation>
     </message>
 </context>
 <context>
     <name>archive::WorkerEnd</name>
     <message>
         <source>The file needs more than %1 MiB of memory; see --memory-limit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier nécessite plus de %1 Mio de mémoire&#xa0;; voir --memory-limit.</translation>
     </message>
     <message numerus="yes">
         <source>The file made no progress for %n second(s); see --timeout.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’importation du fichier n’a pas progressé pendant %n seconde&#xa0;; voir --timeout.</numerusform>
+            <numerusform>L’importation du fichier n’a pas progressé pendant %n secondes&#xa0;; voir --timeout.</numerusform>
         </translation>
     </message>
     <message>
         <source>The worker process was killed twice; perhaps the machine is out of memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le processus de travail a été tué deux fois&#xa0;; la machine manque peut-être de mémoire.</translation>
     </message>
     <message>
         <source>The import crashed twice (%1). If a larger --memory-limit does not help, please report the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’importation a planté deux fois (%1). Si une valeur --memory-limit plus élevée n’y change rien, signalez le fichier.</translation>
     </message>
     <message>
         <source>The worker process sent an invalid reply twice; please report the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le processus de travail a envoyé deux fois une réponse non valide&#xa0;; signalez le fichier.</translation>
     </message>
     <message>
         <source>The worker process exited twice with status %1; please report the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le processus de travail s’est terminé deux fois avec le code %1&#xa0;; signalez le fichier.</translation>
     </message>
 </context>
 <context>
     <name>cli::ExistingOutput</name>
     <message>
         <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un rapport est un fichier qui se termine par .json ou .html&#xa0;; «&#xa0;%1&#xa0;» n’est pas valide.</translation>
     </message>
     <message>
         <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom d’un rapport doit être en UTF-8 valide&#xa0;: «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>the folder &quot;%1&quot; does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
     <message>
         <source>the folder &quot;%1&quot; is not writable</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier «&#xa0;%1&#xa0;» n’est pas accessible en écriture</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» existe et n’est pas un rapport de labelport. Utilisez --force pour le remplacer.</translation>
     </message>
 </context>
 <context>
@@ -282,44 +282,44 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>all versions (zipped)</source>
-        <translation type="unfinished"></translation>
+        <translation>toutes (compressées en zip)</translation>
     </message>
     <message>
         <source>formats takes no files.</source>
-        <translation type="unfinished"></translation>
+        <translation>formats n’accepte pas de fichiers.</translation>
     </message>
 </context>
 <context>
     <name>cli::ImportCommand</name>
     <message>
         <source>Stopped. Repeat the command with --resume to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêté. Répétez la commande avec --resume pour continuer.</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) imported incompletely.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier importé incomplètement.</numerusform>
+            <numerusform>%n fichiers importés incomplètement.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cannot search folder &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de parcourir le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>No labels to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune étiquette à importer.</translation>
     </message>
 </context>
 <context>
     <name>cli::ImportInputs</name>
     <message>
         <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la liste de fichiers «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a list of file names.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une liste de noms de fichiers.</translation>
     </message>
 </context>
 <context>
@@ -330,73 +330,73 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--%1 attend un nombre entier de %2 à %3, et non «&#xa0;%4&#xa0;».</translation>
     </message>
     <message>
         <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cible «&#xa0;%1&#xa0;» inconnue. Cibles prises en charge&#xa0;: %2.</translation>
     </message>
     <message>
         <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--records attend un nombre, une plage comme 3-12 ou 3-, ou all, et non «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>--shard attend le numéro d’une partie et le nombre de parties, comme 3/8, et non «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--memory-limit expects 0 or at least %1 MiB.</source>
-        <translation type="unfinished"></translation>
+        <translation>--memory-limit attend 0 ou au moins %1 Mio.</translation>
     </message>
     <message>
         <source>No file to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier à importer.</translation>
     </message>
     <message>
         <source>--files-from can be given only once.</source>
-        <translation type="unfinished"></translation>
+        <translation>--files-from ne peut être indiqué qu’une fois.</translation>
     </message>
     <message>
         <source>--null has no effect without --files-from.</source>
-        <translation type="unfinished"></translation>
+        <translation>--null est sans effet sans --files-from.</translation>
     </message>
     <message>
         <source>--base has no effect without --files-from or a named file in a subfolder of that folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>--base est sans effet sans --files-from ou un fichier indiqué dans un sous-dossier de ce dossier.</translation>
     </message>
 </context>
 <context>
     <name>cli::ImportReporter</name>
     <message>
         <source>Warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) imported.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier importé.</numerusform>
+            <numerusform>%n fichiers importés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) had been imported before.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier déjà importé auparavant.</numerusform>
+            <numerusform>%n fichiers déjà importés auparavant.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Ignored %n other file(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n autre fichier ignoré.</numerusform>
+            <numerusform>%n autres fichiers ignorés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) failed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fichier en échec.</numerusform>
+            <numerusform>%n fichiers en échec.</numerusform>
         </translation>
     </message>
 </context>
@@ -411,32 +411,32 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <name>cli::InspectCommand</name>
     <message>
         <source>Cannot start the worker process.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de démarrer le processus de travail.</translation>
     </message>
     <message>
         <source>inspect needs exactly one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>inspect attend exactement un fichier.</translation>
     </message>
 </context>
 <context>
     <name>cli::JobOptions</name>
     <message>
         <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecteur «&#xa0;%1&#xa0;» inconnu. Lecteurs pris en charge&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>cli::LabelWriter</name>
     <message numerus="yes">
         <source>The label has only %n record(s); record %1 does not exist.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>L’étiquette n’a que %n enregistrement&#xa0;; l’enregistrement %1 n’existe pas.</numerusform>
+            <numerusform>L’étiquette n’a que %n enregistrements&#xa0;; l’enregistrement %1 n’existe pas.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 records are more than the %2 that one command writes; select a range with --records.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 enregistrements dépassent le maximum de %2 par commande&#xa0;; choisissez une plage avec --records.</translation>
     </message>
 </context>
 <context>
@@ -449,7 +449,13 @@ LabelPort (*.label). Help of a command: labelport COMMAND --help
 
 Commands:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisation&#xa0;: labelport COMMANDE [ARGUMENT...]
+
+Importe d’anciens modèles d’étiquettes (*.cnv et *.roc, *.qmtx, *.odt et *.odg) et ouvre les
+étiquettes enregistrées par LabelPort (*.label). Aide d’une commande&#xa0;: labelport COMMANDE --help
+
+Commandes&#xa0;:
+</translation>
     </message>
     <message>
         <source>
@@ -466,154 +472,167 @@ Examples:
 Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
 (import --fail-on-loss), 130 stopped by a signal.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  --help           afficher cette aide
+  --version        afficher la version
+
+Exemples&#xa0;:
+  labelport import shelf.odg
+  labelport import archive --to png,label --output-dir new --report report.html
+  labelport import asset.label --to pdf --records all
+  labelport inspect shelf.odg
+  labelport trace shelf.odg
+
+Code de retour&#xa0;: 0 succès, 1 échec d’un fichier, 2 utilisation incorrecte, 3 étiquette importée
+incomplètement (import --fail-on-loss), 130 arrêt par un signal.
+</translation>
     </message>
     <message>
         <source>No command given. See &quot;labelport --help&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune commande indiquée. Voir «&#xa0;labelport --help&#xa0;».</translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande «&#xa0;%1&#xa0;» inconnue.</translation>
     </message>
     <message>
         <source>Help: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>cli::Options</name>
     <message>
         <source>seconds</source>
-        <translation type="unfinished">secondes</translation>
+        <translation>secondes</translation>
     </message>
     <message>
         <source>Abort a file after this many seconds without progress; 0 for no limit (default: 60).</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner un fichier après ce nombre de secondes sans progression&#xa0;; 0 pour aucune limite (par défaut&#xa0;: 60).</translation>
     </message>
     <message>
         <source>MiB</source>
-        <translation type="unfinished">MiB</translation>
+        <translation>Mio</translation>
     </message>
     <message>
         <source>Abort a file that uses more memory than this; 0 for no limit (default: 4096).</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonner un fichier qui utilise plus de mémoire que cette valeur&#xa0;; 0 pour aucune limite (par défaut&#xa0;: 4096).</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished">nom</translation>
+        <translation>nom</translation>
     </message>
     <message>
         <source>Read files as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever their names. Default: by the suffix, or else by the content.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire les fichiers comme tavrel (*.cnv, *.roc), orvanta (*.qmtx) ou opendocument (*.odt, *.odg), quel que soit leur nom. Par défaut&#xa0;: d’après le suffixe, sinon d’après le contenu.</translation>
     </message>
     <message>
         <source>targets</source>
-        <translation type="unfinished">cibles</translation>
+        <translation>cibles</translation>
     </message>
     <message>
         <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
-        <translation type="unfinished">Ce qui est écrit&#xa0;: png, svg, pdf, label&#xa0;; plusieurs avec des virgules (par défaut&#xa0;: png).</translation>
+        <translation>Formats à écrire&#xa0;: png, svg, pdf, label&#xa0;; plusieurs séparés par des virgules (par défaut&#xa0;: png).</translation>
     </message>
     <message>
         <source>folder</source>
-        <translation type="unfinished">dossier</translation>
+        <translation>dossier</translation>
     </message>
     <message>
         <source>Folder to write to; created if missing (default: the current folder). Subfolders of an imported folder are kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier de sortie&#xa0;; créé s’il n’existe pas (par défaut&#xa0;: le dossier actuel). Les sous-dossiers d’un dossier importé sont conservés.</translation>
     </message>
     <message>
         <source>number</source>
-        <translation type="unfinished">nombre</translation>
+        <translation>nombre</translation>
     </message>
     <message>
         <source>Resolution of pictures in dots per inch, 10 to 2400 (default: 300).</source>
-        <translation type="unfinished"></translation>
+        <translation>Résolution des images en points par pouce, de 10 à 2400 (par défaut&#xa0;: 300).</translation>
     </message>
     <message>
         <source>range</source>
-        <translation type="unfinished">plage</translation>
+        <translation>plage</translation>
     </message>
     <message>
         <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page for each record.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements des sources de données de l’étiquette&#xa0;: un nombre, une plage comme 3-12 ou 3-, ou all (par défaut&#xa0;: le premier). Les images d’une plage sont numérotées&#xa0;; un PDF a une page par enregistrement.</translation>
     </message>
     <message>
         <source>Overwrite files that labelport did not write, and edited labels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer les fichiers que labelport n’a pas écrits et les étiquettes modifiées.</translation>
     </message>
     <message>
         <source>list</source>
-        <translation type="unfinished"></translation>
+        <translation>liste</translation>
     </message>
     <message>
         <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer aussi les fichiers nommés dans cette liste, un nom par ligne ou séparés par NUL&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les noms de la liste sont séparés par NUL, comme les écrit find -print0.</translation>
     </message>
     <message>
         <source>Named and listed files below this folder keep their subfolders in the output folder.</source>
-        <translation type="unfinished">Les fichiers nommés ou énumérés sous ce dossier gardent leurs sous-dossiers dans le dossier de sortie.</translation>
+        <translation>Les fichiers indiqués ou listés sous ce dossier conservent leurs sous-dossiers dans le dossier de sortie.</translation>
     </message>
     <message>
         <source>Files to import at the same time (default: one for each processor core).</source>
-        <translation type="unfinished">Fichiers à importer en même temps (par défaut&#xa0;: un par cœur de processeur).</translation>
+        <translation>Nombre de fichiers à importer en même temps (par défaut&#xa0;: un par cœur de processeur).</translation>
     </message>
     <message>
         <source>Skip files that an earlier command with the same options imported, if they and their outputs are unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer les fichiers déjà importés par une commande précédente avec les mêmes options, si ces fichiers et leurs sorties sont inchangés.</translation>
     </message>
     <message>
         <source>K/N</source>
-        <translation type="unfinished">K/N</translation>
+        <translation>K/N</translation>
     </message>
     <message>
         <source>Import the K-th of N parts of the files, to share an archive among N machines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer la K-ième de N parties des fichiers, pour répartir une archive sur N machines.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished">fichier</translation>
+        <translation>fichier</translation>
     </message>
     <message>
         <source>Write a report on all files, as .json or .html; may be given several times.</source>
-        <translation type="unfinished">Écrit un rapport sur tous les fichiers, en .json ou .html&#xa0;; peut être indiqué plusieurs fois.</translation>
+        <translation>Écrire un rapport sur tous les fichiers, en .json ou .html&#xa0;; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Exit with status 3 if a label was not imported completely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminer avec le code 3 si une étiquette n’a pas été importée complètement.</translation>
     </message>
     <message>
         <source>End each file name on standard output with NUL instead of a line break.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminer chaque nom de fichier sur la sortie standard par NUL au lieu d’un saut de ligne.</translation>
     </message>
     <message>
         <source>Report only errors on standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>N’afficher que les erreurs sur la sortie d’erreur standard.</translation>
     </message>
     <message>
         <source>Print JSON, as in reports.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher du JSON, comme dans les rapports.</translation>
     </message>
     <message>
         <source>Report to write, as .json or .html; may be given several times.</source>
-        <translation type="unfinished">Rapport à écrire, en .json ou .html&#xa0;; peut être donné plusieurs fois.</translation>
+        <translation>Rapport à écrire, en .json ou .html&#xa0;; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Overwrite files that are not reports of labelport.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer les fichiers qui ne sont pas des rapports de labelport.</translation>
     </message>
     <message>
         <source>Print JSON.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher du JSON.</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la version.</translation>
     </message>
     <message>
         <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
@@ -632,7 +651,23 @@ Examples:
 
 Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
 imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importe d’anciennes étiquettes (*.cnv, *.roc, *.qmtx, *.odt, *.odg), ouvre des étiquettes
+enregistrées (*.label) et les écrit sous forme d’images, de dessins, de documents ou
+d’étiquettes enregistrées. Un dossier est parcouru avec ses sous-dossiers à la recherche de
+fichiers portant ces suffixes. Les fichiers écrits sont listés sur la sortie standard, dans
+l’ordre des noms des fichiers d’entrée.
+
+Exemples&#xa0;:
+  labelport import shelf.odg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
+
+Code de retour&#xa0;: 0 tous les fichiers importés, 1 échec d’un fichier, 2 utilisation incorrecte,
+3 étiquette importée incomplètement (avec --fail-on-loss), 130 arrêt par un signal.</translation>
     </message>
     <message>
         <source>Shows what one label contains, and what of it is imported. Writes no files.
@@ -641,7 +676,12 @@ Examples:
   labelport inspect shelf.odg
   labelport inspect - --reader orvanta &lt; shelf.xml
   labelport inspect shelf.odg --json | jq .lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche le contenu d’une étiquette et ce qui en est importé. N’écrit aucun fichier.
+
+Exemples&#xa0;:
+  labelport inspect shelf.odg
+  labelport inspect - --reader orvanta &lt; shelf.xml
+  labelport inspect shelf.odg --json | jq .lost</translation>
     </message>
     <message>
         <source>Merges the JSON reports of several imports into the report that one import of all files
@@ -650,7 +690,12 @@ would have written.
 Examples:
   labelport report merge part-1.json part-2.json --to all.html
   labelport report merge part-*.json --to all.json --to all.html</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionne les rapports JSON de plusieurs importations en un rapport identique à celui d’une
+seule importation de tous les fichiers.
+
+Exemples&#xa0;:
+  labelport report merge part-1.json part-2.json --to all.html
+  labelport report merge part-*.json --to all.json --to all.html</translation>
     </message>
     <message>
         <source>Lists the formats that labelport reads, with their versions, and the formats that it writes.
@@ -658,111 +703,116 @@ Examples:
 Examples:
   labelport formats
   labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste les formats que labelport lit, avec leurs versions, et les formats qu’il écrit.
+
+Exemples&#xa0;:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
 Lines, then the final state of the items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importe une ancienne étiquette dans un hôte d’enregistrement et affiche chaque appel à l’hôte
+en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>import labels, or folders of labels</source>
-        <translation type="unfinished"></translation>
+        <translation>importer des étiquettes ou des dossiers d’étiquettes</translation>
     </message>
     <message>
         <source>Label or folder of labels to import; - is standard input.</source>
-        <translation type="unfinished">Étiquette ou dossier d’étiquettes à importer&#xa0;; - est l’entrée standard.</translation>
+        <translation>Étiquette ou dossier d’étiquettes à importer&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>show what a label contains</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher le contenu d’une étiquette</translation>
     </message>
     <message>
         <source>Label to inspect; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette à inspecter&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>merge the reports of several imports</source>
-        <translation type="unfinished"></translation>
+        <translation>fusionner les rapports de plusieurs importations</translation>
     </message>
     <message>
         <source>JSON reports to merge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapports JSON à fusionner.</translation>
     </message>
     <message>
         <source>list supported formats</source>
-        <translation type="unfinished"></translation>
+        <translation>lister les formats pris en charge</translation>
     </message>
     <message>
         <source>print every call that an import makes on its host</source>
-        <translation type="unfinished"></translation>
+        <translation>afficher chaque appel d’une importation à son hôte</translation>
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette à importer&#xa0;; - est l’entrée standard.</translation>
     </message>
 </context>
 <context>
     <name>cli::ReportCommand</name>
     <message>
         <source>No command given: labelport report merge REPORT.json... --to FILE</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune commande indiquée&#xa0;: labelport report merge RAPPORT.json... --to FICHIER</translation>
     </message>
     <message>
         <source>Unknown command &quot;report %1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Commande «&#xa0;report %1&#xa0;» inconnue.</translation>
     </message>
     <message>
         <source>Specify the reports to merge, and the output file with --to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquez les rapports à fusionner et le fichier de sortie avec --to.</translation>
     </message>
 </context>
 <context>
     <name>cli::TraceCommand</name>
     <message>
         <source>Cannot run &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’exécuter «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>console::CommandLine</name>
     <message>
         <source>Unknown option &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Option «&#xa0;%1&#xa0;» inconnue.</translation>
     </message>
     <message>
         <source>Show this help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher cette aide.</translation>
     </message>
     <message>
         <source>Help: %1 --help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide&#xa0;: %1 --help</translation>
     </message>
     <message>
         <source>Did you mean &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vouliez-vous dire «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>console::Output</name>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>console::StandardInput</name>
     <message>
         <source>Cannot copy standard input to a temporary file: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de copier l’entrée standard dans un fichier temporaire&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Cannot read standard input: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire l’entrée standard&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Standard input is longer than any label.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’entrée standard est trop longue pour une étiquette.</translation>
     </message>
 </context>
 <context>
@@ -845,7 +895,7 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>a known status</source>
-        <translation type="unfinished"></translation>
+        <translation>un état connu</translation>
     </message>
 </context>
 <context>
@@ -872,15 +922,15 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>The file continues with unknown data, which may contain more objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier se poursuit par des données inconnues, qui peuvent contenir d’autres objets.</translation>
     </message>
     <message>
         <source>The file is truncated: it may have contained more objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est tronqué&#xa0;: il contenait peut-être d’autres objets.</translation>
     </message>
     <message>
         <source>The file is not a binary label of a supported version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est pas une étiquette binaire d’une version prise en charge.</translation>
     </message>
 </context>
 <context>
@@ -911,23 +961,23 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>Importés complètement</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissements</translation>
     </message>
     <message>
         <source>Written files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers écrits</translation>
     </message>
     <message>
         <source>Not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Non importés</translation>
     </message>
     <message>
         <source>Imported with changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Importés avec modifications</translation>
     </message>
 </context>
 <context>
@@ -1026,35 +1076,35 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>importés complètement</translation>
     </message>
     <message>
         <source>changed in looks, nothing lost</source>
-        <translation type="unfinished"></translation>
+        <translation>aspect modifié, aucune perte</translation>
     </message>
     <message>
         <source>Imported %1 of %2 objects in these files.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 objets sur %2 importés dans ces fichiers.</translation>
     </message>
     <message>
         <source>Files whose objects could not be counted: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers dont les objets n’ont pas pu être comptés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>most lost objects first</source>
-        <translation type="unfinished"></translation>
+        <translation>le plus d’objets perdus d’abord</translation>
     </message>
     <message>
         <source>Nothing was lost or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été perdu ni modifié.</translation>
     </message>
     <message>
         <source>No matching files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier correspondant.</translation>
     </message>
     <message>
         <source>%1 of %2 files imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fichiers sur %2 importés complètement</translation>
     </message>
 </context>
 <context>
@@ -1097,23 +1147,23 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Items (millimeters):</source>
-        <translation type="unfinished"></translation>
+        <translation>Objets (millimètres)&#xa0;:</translation>
     </message>
     <message>
         <source>Imported completely:</source>
-        <translation type="unfinished"></translation>
+        <translation>Importés complètement&#xa0;:</translation>
     </message>
     <message>
         <source>Imported with changes:</source>
-        <translation type="unfinished"></translation>
+        <translation>Importés avec modifications&#xa0;:</translation>
     </message>
     <message>
         <source>Not imported:</source>
-        <translation type="unfinished"></translation>
+        <translation>Non importés&#xa0;:</translation>
     </message>
     <message>
         <source>Warnings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissements&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1291,340 +1341,340 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez le document dans son propre programme, dissociez les objets, enregistrez-le et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Replace each callout with a text and a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacez chaque légende par un texte et un trait.</translation>
     </message>
     <message>
         <source>Replace each control with a text if it should be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacez chaque contrôle par un texte s’il doit être imprimé.</translation>
     </message>
     <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des formes d’un document texte ont été omises&#xa0;: seuls les textes, les zones de texte et les images sont importés.</translation>
     </message>
     <message>
         <source>Copy the label into a drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiez l’étiquette dans un dessin.</translation>
     </message>
     <message>
         <source>Turn bullets and numbering off, so that the list becomes plain paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivez les puces et la numérotation pour que la liste devienne de simples paragraphes.</translation>
     </message>
     <message>
         <source>Replace each field with its text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacez chaque champ par son texte.</translation>
     </message>
     <message>
         <source>Parts of texts were left out because their type is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des parties de textes ont été omises, car leur type est inconnu.</translation>
     </message>
     <message>
         <source>Compare the texts with the original label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparez les textes avec l’étiquette d’origine.</translation>
     </message>
     <message>
         <source>Texts of shapes were left out because they do not begin with a plain paragraph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des textes de formes ont été omis, car ils ne commencent pas par un simple paragraphe.</translation>
     </message>
     <message>
         <source>Change them to plain paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Changez-les en simples paragraphes.</translation>
     </message>
     <message>
         <source>Nothing, unless you need them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien, sauf si vous en avez besoin.</translation>
     </message>
     <message>
         <source>Objects were left out because their type is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des objets ont été omis, car leur type est inconnu.</translation>
     </message>
     <message>
         <source>Draw them as shapes that labels support.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessinez-les avec des formes prises en charge par les étiquettes.</translation>
     </message>
     <message>
         <source>Controls were left out because their type is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des contrôles ont été omis, car leur type est inconnu.</translation>
     </message>
     <message>
         <source>The file has several lists of objects; all but the first were left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier contient plusieurs listes d’objets&#xa0;; toutes sauf la première ont été omises.</translation>
     </message>
     <message>
         <source>Add the picture to the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez l’image au fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des images ont été omises, car elles sont endommagées, trop grandes ou d’un format non pris en charge.</translation>
     </message>
     <message>
         <source>Save the pictures as PNG in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez les images en PNG dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Vector drawings were left out because they cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des dessins vectoriels ont été omis, car ils ne peuvent pas être convertis.</translation>
     </message>
     <message>
         <source>Convert the drawings to PNG in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertissez les dessins en PNG dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Symbols were left out because neither the file nor the symbol databases contain their drawings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des symboles ont été omis, car ni le fichier ni les bases de symboles ne contiennent leurs dessins.</translation>
     </message>
     <message>
         <source>Save the label with the latest version of its own program, which stores the drawings, or add the symbols to the symbol databases.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez l’étiquette avec la dernière version de son propre programme, qui enregistre les dessins, ou ajoutez les symboles aux bases de symboles.</translation>
     </message>
     <message>
         <source>Barcodes were left out because their type is not supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des codes-barres ont été omis, car leur type n’est pas pris en charge.</translation>
     </message>
     <message>
         <source>Change the barcode type in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Changez le type de code-barres dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>The file continues with an unknown record; the rest was not read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier se poursuit par un enregistrement inconnu&#xa0;; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>The file is damaged or of a newer version. Look for another copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est endommagé ou d’une version plus récente. Cherchez une autre copie.</translation>
     </message>
     <message>
         <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est tronqué&#xa0;: son dernier objet est incomplet, et d’autres manquent peut-être.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n’est ni un texte ni un dessin&#xa0;; rien n’a été importé.</translation>
     </message>
     <message>
         <source>Content was left out because it exceeds the limits for labels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du contenu a été omis, car il dépasse les limites des étiquettes.</translation>
     </message>
     <message>
         <source>Reduce the number of objects or the size of the pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduisez le nombre d’objets ou la taille des images.</translation>
     </message>
     <message>
         <source>Objects of the file are missing on the label, without a reported reason.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des objets du fichier manquent sur l’étiquette, sans raison signalée.</translation>
     </message>
     <message>
         <source>Compare with the original label, and report the file as a bug.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparez avec l’étiquette d’origine et signalez le fichier comme un bogue.</translation>
     </message>
     <message>
         <source>The log was cut: there may be losses that are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le journal a été tronqué&#xa0;: il peut y avoir des pertes qui ne sont pas listées.</translation>
     </message>
     <message>
         <source>Compare with the original label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparez avec l’étiquette d’origine.</translation>
     </message>
     <message>
         <source>Unsupported shapes became rectangles or ellipses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des formes non prises en charge sont devenues des rectangles ou des ellipses.</translation>
     </message>
     <message>
         <source>Replace them with supported shapes in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacez-les par des formes prises en charge dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Items are no longer bound to their data source: they show their last value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des objets ne sont plus liés à leur source de données&#xa0;: ils affichent sa dernière valeur.</translation>
     </message>
     <message>
         <source>Bind the items to a data source in the new label editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liez les objets à une source de données dans le nouvel éditeur d’étiquettes.</translation>
     </message>
     <message>
         <source>The label is no longer linked to its database file.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’étiquette n’est plus liée à son fichier de base de données.</translation>
     </message>
     <message>
         <source>Connect the data in the new label editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez les données dans le nouvel éditeur d’étiquettes.</translation>
     </message>
     <message>
         <source>Texts with a placeholder among other words show only the value of the data source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des textes contenant un espace réservé parmi d’autres mots n’affichent que la valeur de la source de données.</translation>
     </message>
     <message>
         <source>Move the other words into separate texts, or into the data source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacez les autres mots dans des textes distincts ou dans la source de données.</translation>
     </message>
     <message>
         <source>Fields, such as date, time and page number, became plain text with the value that they had when the document was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des champs, comme la date, l’heure et le numéro de page, sont devenus du texte simple avec la valeur qu’ils avaient à l’enregistrement du document.</translation>
     </message>
     <message>
         <source>Barcodes cannot be drawn because their content is invalid for their type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des codes-barres ne peuvent pas être dessinés, car leur contenu n’est pas valide pour leur type.</translation>
     </message>
     <message>
         <source>Correct the content or the barcode type in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrigez le contenu ou le type de code-barres dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Scan the original label to find the correct type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scannez l’étiquette d’origine pour trouver le type correct.</translation>
     </message>
     <message>
         <source>Items are completely outside the page: they are not printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des objets sont entièrement hors de la page&#xa0;: ils ne sont pas imprimés.</translation>
     </message>
     <message>
         <source>Move the items onto the page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacez les objets sur la page.</translation>
     </message>
     <message>
         <source>Items extend beyond the edge of the page: that part is not printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des objets dépassent le bord de la page&#xa0;: cette partie n’est pas imprimée.</translation>
     </message>
     <message>
         <source>Sizes, positions or fonts exceed the limits for labels and were reduced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des tailles, des positions ou des polices dépassent les limites des étiquettes et ont été réduites.</translation>
     </message>
     <message>
         <source>The document uses millimeters: the label is ten times larger than the paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document utilise des millimètres&#xa0;: l’étiquette est dix fois plus grande que le papier.</translation>
     </message>
     <message>
         <source>Print at a tenth of the size, or save the document with centimeters or inches as its unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimez au dixième de la taille, ou enregistrez le document en centimètres ou en pouces.</translation>
     </message>
     <message>
         <source>Lengths are not in the unit of the page, but were read as if they were.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des longueurs ne sont pas dans l’unité de la page, mais ont été lues comme si elles l’étaient.</translation>
     </message>
     <message>
         <source>Save the document with a single unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez le document avec une seule unité.</translation>
     </message>
     <message>
         <source>The unit of the page is unknown: its lengths were read as inches.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’unité de la page est inconnue&#xa0;: ses longueurs ont été lues en pouces.</translation>
     </message>
     <message>
         <source>Save the document with centimeters or inches as its unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez le document en centimètres ou en pouces.</translation>
     </message>
     <message>
         <source>The page has another size than in the file, which defines no size or several.</source>
-        <translation type="unfinished"></translation>
+        <translation>La page n’a pas la même taille que dans le fichier, qui n’en définit aucune ou en définit plusieurs.</translation>
     </message>
     <message>
         <source>Set the page size in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Définissez la taille de la page dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des objets sans position sur la page ont été placés dans le flux du texte ou dans le coin.</translation>
     </message>
     <message>
         <source>The margins of the page were dropped: the text begins in the corner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les marges de la page ont été supprimées&#xa0;: le texte commence dans le coin.</translation>
     </message>
     <message>
         <source>Move the texts in the new label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacez les textes dans la nouvelle étiquette.</translation>
     </message>
     <message>
         <source>Page breaks were dropped: all text is on one page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des sauts de page ont été supprimés&#xa0;: tout le texte est sur une seule page.</translation>
     </message>
     <message>
         <source>Rotation of lines, and skewing and scaling of objects, were dropped.</source>
-        <translation type="unfinished"></translation>
+        <translation>La rotation de traits ainsi que l’inclinaison et la mise à l’échelle d’objets ont été supprimées.</translation>
     </message>
     <message>
         <source>Fonts that are not installed were replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des polices non installées ont été remplacées.</translation>
     </message>
     <message>
         <source>Install the fonts and import again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installez les polices et importez de nouveau.</translation>
     </message>
     <message>
         <source>Stretched texts are no longer stretched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des textes étirés ne le sont plus.</translation>
     </message>
     <message>
         <source>Set a suitable font size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Définissez une taille de police appropriée.</translation>
     </message>
     <message>
         <source>Set the color in the new label editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Définissez la couleur dans le nouvel éditeur d’étiquettes.</translation>
     </message>
     <message>
         <source>Split the text into paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Divisez le texte en paragraphes.</translation>
     </message>
     <message>
         <source>Choose a plain fill in the original file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un remplissage uni dans le fichier d’origine.</translation>
     </message>
     <message>
         <source>The import reported a problem with this label.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’importation a signalé un problème avec cette étiquette.</translation>
     </message>
     <message>
         <source>Read the warnings, and compare with the original label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisez les avertissements et comparez avec l’étiquette d’origine.</translation>
     </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
     <message>
         <source>The reports contain the file &quot;%1&quot; more than once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les rapports contiennent le fichier «&#xa0;%1&#xa0;» plusieurs fois.</translation>
     </message>
     <message>
         <source>The report &quot;%1&quot; has changed during the merge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rapport «&#xa0;%1&#xa0;» a été modifié pendant la fusion.</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportLines</name>
     <message>
         <source>Cannot read &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un rapport de LabelPort&#xa0;: %2.</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il est vide</translation>
     </message>
     <message>
         <source>its end is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la fin manque</translation>
     </message>
     <message>
         <source>line %1 does not name the format, or an unsupported version of it</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne %1 n’indique pas le format, ou indique une version non prise en charge</translation>
     </message>
     <message>
         <source>line %1 does not describe a file</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne %1 ne décrit pas un fichier</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportWriter</name>
     <message>
         <source>Cannot write the report &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le rapport «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -1635,50 +1685,50 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Objects imported: %1 (the number of objects in the file is unknown).</source>
-        <translation type="unfinished"></translation>
+        <translation>Objets importés&#xa0;: %1 (le nombre d’objets dans le fichier est inconnu).</translation>
     </message>
     <message>
         <source>Imported %1 of %2 objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 objets sur %2 importés.</translation>
     </message>
     <message>
         <source>Nothing was lost or changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été perdu ni modifié.</translation>
     </message>
     <message>
         <source>Nothing was lost; looks or content changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été perdu&#xa0;; l’aspect ou le contenu a été modifié.</translation>
     </message>
 </context>
 <context>
     <name>migration::Totals</name>
     <message>
         <source>imported completely</source>
-        <translation type="unfinished"></translation>
+        <translation>importés complètement</translation>
     </message>
     <message>
         <source>changed in looks</source>
-        <translation type="unfinished"></translation>
+        <translation>aspect modifié</translation>
     </message>
     <message>
         <source>with losses</source>
-        <translation type="unfinished">avec pertes</translation>
+        <translation>avec pertes</translation>
     </message>
     <message>
         <source>crashed</source>
-        <translation type="unfinished">plantage</translation>
+        <translation>plantage</translation>
     </message>
     <message>
         <source>timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>délai dépassé</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>mémoire insuffisante</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished">échec</translation>
+        <translation>échec</translation>
     </message>
 </context>
 <context>
@@ -1689,54 +1739,57 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished">ce n’est pas un fichier ordinaire</translation>
+        <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>Cannot read &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été importé. La trace montre jusqu’où l’importation est allée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été importé. La trace montre jusqu’où l’importation est allée&#xa0;; --reader choisit un autre lecteur.</translation>
     </message>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
 Lines, then the final state of the items.
 
 Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importe une ancienne étiquette dans un hôte d’enregistrement et affiche chaque appel à l’hôte
+en JSON Lines, puis l’état final des objets.
+
+Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</translation>
     </message>
     <message>
         <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
-        <translation type="unfinished">Lit le fichier comme tavrel, orvanta ou opendocument, quel que soit son nom.</translation>
+        <translation>Lire le fichier comme tavrel, orvanta ou opendocument, quel que soit son nom.</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished">nom</translation>
+        <translation>nom</translation>
     </message>
     <message>
         <source>Show the version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la version.</translation>
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette à importer&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>trace needs exactly one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>trace attend exactement un fichier.</translation>
     </message>
     <message>
         <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecteur «&#xa0;%1&#xa0;» inconnu. Lecteurs pris en charge&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -2565,30 +2618,30 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>window::Main</name>
     <message>
         <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
-        <translation type="unfinished">Ouvre d’anciens modèles d’étiquettes, les montre, les enregistre, les exporte et les imprime.</translation>
+        <translation>Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
     </message>
     <message>
         <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
-        <translation type="unfinished">Une étiquette à ouvrir&#xa0;: *.label, *.cnv, *.roc, *.qmtx, *.odt ou *.odg.</translation>
+        <translation>Étiquette à ouvrir&#xa0;: *.label, *.cnv, *.roc, *.qmtx, *.odt ou *.odg.</translation>
     </message>
     <message>
         <source>Writes a picture of the window to a PNG file, and exits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire une image de la fenêtre dans un fichier PNG et quitter.</translation>
     </message>
     <message numerus="yes">
         <source>A window shows one label, but %n files were given.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Une fenêtre affiche une seule étiquette, mais %n fichier a été indiqué.</numerusform>
+            <numerusform>Une fenêtre affiche une seule étiquette, mais %n fichiers ont été indiqués.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cannot open &quot;%1&quot;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’afficher une fenêtre&#xa0;: aucun écran n’est disponible. Définissez DISPLAY ou WAYLAND_DISPLAY, ou utilisez --screenshot.</translation>
     </message>
 </context>
 <context>
@@ -3154,7 +3207,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>window::WindowPicture</name>
     <message>
         <source>Cannot write &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3212,51 +3265,51 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>workbench::FailureWords</name>
     <message>
         <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas une étiquette binaire, ou sa version n’est pas prise en charge&#xa0;: le fichier a la version %1, la plus ancienne version prise en charge est 2000016.</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the first object has the unknown type %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas une étiquette, ou elle est endommagée&#xa0;: le premier objet a le type inconnu %1.</translation>
     </message>
     <message>
         <source>Cannot open the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le fichier.</translation>
     </message>
     <message>
         <source>The document is damaged: %1 is not well-formed at line %2, column %3 (%4).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document est endommagé&#xa0;: %1 n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 (%4).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas une étiquette, ou elle est endommagée&#xa0;: le XML n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
     </message>
     <message>
         <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est en XML, mais n’est pas une étiquette&#xa0;: son élément racine n’est pas «&#xa0;qmtx&#xa0;».</translation>
     </message>
     <message>
         <source>Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier OpenDocument, ou il est endommagé&#xa0;: styles.xml est absent ou illisible.</translation>
     </message>
     <message>
         <source>The OpenDocument file is damaged: content.xml is missing or unreadable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier OpenDocument est endommagé&#xa0;: content.xml est absent ou illisible.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
-        <translation type="unfinished">Ce n’est pas un fichier ordinaire.</translation>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>The file is too large for a label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est trop gros pour une étiquette.</translation>
     </message>
     <message>
         <source>The file has too many objects for a label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier contient trop d’objets pour une étiquette.</translation>
     </message>
     <message>
         <source>The file contains nothing to put on a label.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient rien à placer sur une étiquette.</translation>
     </message>
 </context>
 <context>
@@ -3287,90 +3340,90 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The link points to a file that does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lien pointe vers un fichier qui n’existe pas.</translation>
     </message>
     <message>
         <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est une archive zip, comme les fichiers OpenDocument, mais il a été lu comme «&#xa0;%1&#xa0;». S’il s’agit d’un fichier OpenDocument, renommez-le pour qu’il se termine par «&#xa0;.odt&#xa0;» ou «&#xa0;.odg&#xa0;», ou utilisez --reader %2.</translation>
     </message>
     <message>
         <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est en XML, mais il a été lu comme «&#xa0;%1&#xa0;». S’il s’agit d’une étiquette XML, renommez-le pour qu’il se termine par «&#xa0;.qmtx&#xa0;», ou utilisez --reader %2.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Open it in an office program, save it without a password, and import it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document est protégé par un mot de passe. Ouvrez-le dans un logiciel bureautique, enregistrez-le sans mot de passe et importez-le de nouveau.</translation>
     </message>
 </context>
 <context>
     <name>workbench::IssueWords</name>
     <message>
         <source>Left out an object of the unknown type &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un objet du type inconnu «&#xa0;%1&#xa0;» a été omis.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le document n’est ni un texte ni un dessin&#xa0;; rien n’en a été importé.</translation>
     </message>
     <message>
         <source>The file continues with an object of the unknown type %1; the rest was not read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier se poursuit par un objet du type inconnu %1&#xa0;; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>Left out symbols: neither the file nor the symbol databases contain their drawings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des symboles ont été omis&#xa0;: ni le fichier ni les bases de symboles ne contiennent leurs dessins.</translation>
     </message>
     <message>
         <source>Left out barcodes of unsupported types.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des codes-barres de types non pris en charge ont été omis.</translation>
     </message>
     <message>
         <source>The database is no longer connected; the label shows its last values.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de données n’est plus connectée&#xa0;; l’étiquette affiche ses dernières valeurs.</translation>
     </message>
     <message>
         <source>Left out an object that the program could not create.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un objet que le programme n’a pas pu créer a été omis.</translation>
     </message>
     <message>
         <source>Left out a data source that the program could not create.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une source de données que le programme n’a pas pu créer a été omise.</translation>
     </message>
     <message>
         <source>Left out a picture that is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image trop grande a été omise.</translation>
     </message>
     <message>
         <source>Left out a picture of an unsupported format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image d’un format non pris en charge a été omise.</translation>
     </message>
     <message>
         <source>Left out a picture that is damaged or too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image endommagée ou trop grande a été omise.</translation>
     </message>
     <message>
         <source>Left out a text that is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texte trop long a été omis.</translation>
     </message>
     <message>
         <source>The file has too many objects; the rest was not read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier contient trop d’objets&#xa0;; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>Further texts were stretched; they are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>D’autres textes ont été étirés&#xa0;; ils ne sont pas listés.</translation>
     </message>
     <message>
         <source>A file in the package is missing, damaged or too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de l’archive est absent, endommagé ou trop gros.</translation>
     </message>
     <message>
         <source>Left out a drawing that cannot be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dessin qui ne peut pas être converti a été omis.</translation>
     </message>
     <message>
         <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte «&#xa0;%1&#xa0;» a été étiré&#xa0;; sa taille de police était %2 pt.</translation>
     </message>
 </context>
 <context>
@@ -3489,67 +3542,67 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>workbench::ShapeKinds</name>
     <message>
         <source>Picture</source>
-        <translation type="unfinished">Image</translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Symbol</source>
-        <translation type="unfinished">Symbole</translation>
+        <translation>Symbole</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished">Texte</translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Formatted text</source>
-        <translation type="unfinished">Texte mis en forme</translation>
+        <translation>Texte mis en forme</translation>
     </message>
     <message>
         <source>Barcode</source>
-        <translation type="unfinished">Code-barres</translation>
+        <translation>Code-barres</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished">Trait</translation>
+        <translation>Trait</translation>
     </message>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished">Rectangle</translation>
+        <translation>Rectangle</translation>
     </message>
     <message>
         <source>Rounded rectangle</source>
-        <translation type="unfinished">Rectangle arrondi</translation>
+        <translation>Rectangle arrondi</translation>
     </message>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished">Ellipse</translation>
+        <translation>Ellipse</translation>
     </message>
     <message>
         <source>Pie</source>
-        <translation type="unfinished">Secteur</translation>
+        <translation>Secteur</translation>
     </message>
     <message>
         <source>Right triangle</source>
-        <translation type="unfinished">Triangle rectangle</translation>
+        <translation>Triangle rectangle</translation>
     </message>
     <message>
         <source>Triangle</source>
-        <translation type="unfinished">Triangle</translation>
+        <translation>Triangle</translation>
     </message>
     <message>
         <source>Diamond</source>
-        <translation type="unfinished">Losange</translation>
+        <translation>Losange</translation>
     </message>
     <message>
         <source>Pentagon</source>
-        <translation type="unfinished">Pentagone</translation>
+        <translation>Pentagone</translation>
     </message>
     <message>
         <source>Hexagon</source>
-        <translation type="unfinished">Hexagone</translation>
+        <translation>Hexagone</translation>
     </message>
     <message>
         <source>Octagon</source>
-        <translation type="unfinished">Octogone</translation>
+        <translation>Octogone</translation>
     </message>
 </context>
 <context>
