@@ -14,6 +14,8 @@ inline constexpr double kMaximumLength = 10'000'000.0;
 inline constexpr double kMaximumCoordinate = 10'000'000.0;
 /// Smaller coordinates mean that the file specified none.
 inline constexpr double kCoordinateNotGiven = -1'000'000'000.0;
+/// Widest pen, in points: what the contract can set.
+inline constexpr double kMaximumPenWidth = 65'535.0;
 /// Maximum and default font size, in points.
 inline constexpr int kMaximumFontSize = 2'000;
 inline constexpr int kDefaultFontSize = 12;

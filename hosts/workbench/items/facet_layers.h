@@ -25,7 +25,7 @@ public:
             change(m_pen.color, color);
         }
     }
-    void setPenWidth(quint16 width) override { change(m_pen.width, width); }
+    void setPenWidth(quint16 width) override { change(m_pen.width, double(width)); }
     void setPenStyle(int style) override { change(m_pen.style, style); }
     void setCapStyle(int style) override { change(m_pen.cap, style); }
     void setJoinStyle(int style) override { change(m_pen.join, style); }
@@ -45,7 +45,9 @@ protected:
     void restore(const ItemValues& values) override
     {
         Base::restore(values);
-        change(m_pen, values.pen.value_or(PenValues()));
+        PenValues pen = values.pen.value_or(PenValues());
+        pen.width = std::clamp(boundedLength(pen.width), 0.0, kMaximumPenWidth);
+        change(m_pen, pen);
     }
 
 private:

@@ -47,7 +47,7 @@ struct PlacementValues
 struct PenValues
 {
     QColor color = Qt::black;
-    quint16 width = 1;         ///< 0: the thinnest line of the output
+    double width = 1.0;        ///< points; 0: the thinnest line of the output
     int style = Qt::SolidLine; ///< Qt::PenStyle
     int cap = Qt::FlatCap;     ///< Qt::PenCapStyle
     int join = Qt::MiterJoin;  ///< Qt::PenJoinStyle

@@ -1,0 +1,194 @@
+// From the file to the items.
+
+#include "tests/repair/documents.h"
+
+#include "repair/repaired_import.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char Page[] = "<draw:g><draw:rect draw:style-name=\"g\" svg:width=\"4cm\" "
+                        "svg:height=\"2cm\" svg:x=\"1cm\" svg:y=\"1cm\">"
+                        "<text:p><text:span>red</text:span> <text:span>text</text:span></text:p>"
+                        "</draw:rect></draw:g>"
+                        "<draw:polygon svg:width=\"1cm\" svg:height=\"1cm\" svg:x=\"6cm\" "
+                        "svg:y=\"1cm\" svg:viewBox=\"0 0 10 10\" draw:points=\"0,0 10,0 5,10\"/>";
+constexpr char Style[] = "<style:style style:name=\"g\" style:family=\"graphic\">"
+                         "<style:graphic-properties draw:stroke=\"solid\" "
+                         "svg:stroke-width=\"0.01cm\" draw:fill=\"solid\" "
+                         "draw:fill-color=\"#ffffff\" draw:opacity=\"50%\" "
+                         "draw:textarea-vertical-align=\"bottom\"/>"
+                         "<style:text-properties fo:color=\"#ff0000\" fo:font-size=\"10pt\"/>"
+                         "</style:style>";
+
+class RepairedFile : public ::testing::Test
+{
+protected:
+    void importDrawing(const QByteArray& shapes, const QByteArray& styles)
+    {
+        const QString original =
+            writePackage(folder.path(), drawingContent(shapes, styles), drawingStyles());
+        import = repair::importRepaired(original);
+        ASSERT_TRUE(import.result.isImported()) << import.result.error.toStdString();
+        ASSERT_TRUE(import.isRepaired);
+    }
+
+    [[nodiscard]] workbench::ItemValues item(KestTypes::ShapeType type) const
+    {
+        for (const workbench::CanvasItem* each : import.result.canvas->items()) {
+            if (each->shapeType() == type) {
+                return each->values();
+            }
+        }
+        ADD_FAILURE() << "no item of type " << int(type);
+        return {};
+    }
+
+    QTemporaryDir folder;
+    repair::RepairedImport import;
+};
+
+} // namespace
+
+TEST_F(RepairedFile, HasAllObjectsInTheirTrueSize)
+{
+    importDrawing(Page, Style);
+    EXPECT_EQ(import.result.canvas->items().size(), 3);
+    EXPECT_NEAR(import.result.canvas->page().size.width(), 10 * 72 / 2.54, 0.01);
+    const workbench::ItemValues rectangle = item(KestTypes::Rectangle);
+    EXPECT_NEAR(rectangle.box.size.width(), 4 * 72 / 2.54, 0.01);
+    EXPECT_NEAR(rectangle.placement.position.x(), 72 / 2.54, 0.01);
+    EXPECT_NEAR(item(KestTypes::Symbol).placement.position.x(), 6 * 72 / 2.54, 1.0);
+}
+
+TEST_F(RepairedFile, ShowsColorsPensAndOpacity)
+{
+    importDrawing(Page, Style);
+    const workbench::ItemValues rectangle = item(KestTypes::Rectangle);
+    EXPECT_NEAR(rectangle.pen->width, 0.01 * 72 / 2.54, 0.05);
+    EXPECT_NEAR(rectangle.fill->color.alphaF(), 0.5, 0.01);
+    const workbench::ItemValues text = item(KestTypes::RichText);
+    EXPECT_TRUE(text.text->html.contains("#ff0000"_L1));
+    EXPECT_TRUE(text.text->html.contains("red text"_L1));
+}
+
+TEST_F(RepairedFile, PlacesTextAsItsShapeSays)
+{
+    importDrawing(Page, Style);
+    const workbench::ItemValues text = item(KestTypes::RichText);
+    const double bottom = text.placement.position.y() + text.box.size.height();
+    EXPECT_NEAR(bottom, 3 * 72 / 2.54 - 3.543, 0.01);
+    EXPECT_NEAR(text.placement.position.x(), 72 / 2.54 + 7.087, 0.01);
+}
+
+TEST_F(RepairedFile, TurnsTextWithItsShape)
+{
+    importDrawing("<draw:rect svg:width=\"4cm\" svg:height=\"2cm\" "
+                  "draw:transform=\"rotate (1.5707963267949) translate (1cm 4.5cm)\">"
+                  "<text:p>up</text:p></draw:rect>",
+                  {});
+    const workbench::ItemValues rectangle = item(KestTypes::Rectangle);
+    const workbench::ItemValues text = item(KestTypes::RichText);
+    EXPECT_NEAR(rectangle.placement.position.x() + rectangle.box.size.width() / 2.0, 2 * 72 / 2.54,
+                0.01);
+    EXPECT_NEAR(std::remainder(text.box.rotation + 90.0, 360.0), 0.0, 0.01);
+    // Above in the shape is to the left on the page.
+    EXPECT_LT(text.placement.position.x() + text.box.size.width() / 2.0, 2 * 72 / 2.54);
+}
+
+TEST_F(RepairedFile, CountsItsRepairs)
+{
+    importDrawing(Page, Style);
+    const auto count = [this](const QString& code) {
+        const auto found =
+            std::find_if(import.repairs.begin(), import.repairs.end(),
+                         [&code](const repair::Repair& each) { return each.code == code; });
+        return found != import.repairs.end() ? found->count : 0;
+    };
+    EXPECT_EQ(count(u"groups-dissolved"_s), 1);
+    EXPECT_EQ(count(u"paths-drawn"_s), 1);
+    EXPECT_EQ(count(u"blanks-kept"_s), 1);
+    EXPECT_EQ(count(u"lists-replaced"_s), 0);
+    for (const repair::Repair& each : import.repairs) {
+        EXPECT_NE(repair::repairText(each), each.code);
+    }
+}
+
+TEST(Repair, ImportsAsWrittenWhatItCannotRepair)
+{
+    const QTemporaryDir folder;
+    const QByteArray sheet = "<office:document-content><office:body><office:spreadsheet/>"
+                             "</office:body></office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), sheet, drawingStyles()));
+    ASSERT_TRUE(import.result.isImported()) << import.result.error.toStdString();
+    EXPECT_FALSE(import.isRepaired);
+    EXPECT_TRUE(import.repairs.isEmpty());
+    EXPECT_FALSE(repair::importRepaired(folder.filePath(u"missing.odg"_s)).result.isImported());
+}
+
+TEST(Repair, LaysOutTextDocuments)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles><style:style style:name=\"c\" "
+        "style:family=\"table-column\"><style:table-column-properties "
+        "style:column-width=\"2cm\"/></style:style></office:automatic-styles><office:body>"
+        "<office:text><text:p>one</text:p><text:p>two</text:p><table:table><table:table-column "
+        "table:style-name=\"c\" table:number-columns-repeated=\"2\"/><table:table-row>"
+        "<table:table-cell><text:p>left</text:p></table:table-cell><table:table-cell>"
+        "<text:p>right</text:p></table:table-cell></table:table-row></table:table>"
+        "<text:p>end</text:p><text:soft-page-break/><text:p>next page</text:p>"
+        "</office:text></office:body></office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+    ASSERT_TRUE(import.isRepaired);
+    EXPECT_EQ(import.pageCount, 2);
+    QList<workbench::ItemValues> texts;
+    for (const workbench::CanvasItem* item : import.result.canvas->items()) {
+        if (item->shapeType() == KestTypes::RichText) {
+            texts.append(item->values());
+        }
+    }
+    ASSERT_EQ(texts.size(), 4);
+    const auto top = [&texts](int index) { return texts[index].placement.position.y(); };
+    const auto bottom = [&](int index) { return top(index) + texts[index].box.size.height(); };
+    EXPECT_NEAR(top(1), bottom(0), 0.01);
+    EXPECT_NEAR(top(2), top(1), 0.01);
+    EXPECT_NEAR(texts[2].placement.position.x(), 2 * 72 / 2.54, 0.01);
+    EXPECT_NEAR(top(3), bottom(1), 0.01);
+    EXPECT_TRUE(texts[3].text->html.contains("end"_L1));
+}
+
+TEST(Repair, GivesEachPageADocumentOfItsOwn)
+{
+    const QTemporaryDir folder;
+    QByteArray content = drawingContent("<draw:rect svg:width=\"1in\" svg:height=\"1in\"/>");
+    content.replace("</draw:page>", "</draw:page><draw:page><draw:ellipse svg:width=\"1in\" "
+                                    "svg:height=\"1in\"/></draw:page>");
+    const QString file = writePackage(folder.path(), content, drawingStyles());
+    const repair::RepairedImport second = repair::importRepaired(file, 2);
+    EXPECT_EQ(second.pageCount, 2);
+    ASSERT_EQ(second.result.canvas->items().size(), 1);
+    EXPECT_EQ(second.result.canvas->items().front()->shapeType(), KestTypes::Ellipse);
+}
+
+TEST(Repair, DeclinesWhatItCannotRead)
+{
+    const QTemporaryDir folder;
+    EXPECT_FALSE(repair::repairPage(folder.filePath(u"missing.odg"_s)));
+    EXPECT_FALSE(repair::repairPage(folder.path()));
+    EXPECT_FALSE(repair::repairPage(
+        writePackage(folder.path(), "<office:document-content", drawingStyles())));
+    EXPECT_FALSE(
+        repair::repairPage(writePackage(folder.path(), drawingContent({}), "no styles at all")));
+    EXPECT_FALSE(
+        repair::repairPage(writePackage(folder.path(), drawingContent({}), drawingStyles()), 2));
+}

@@ -1,0 +1,126 @@
+// The texts of shapes: blanks, fields, lists, styles.
+
+#include "tests/repair/documents.h"
+
+#include "repair/text_step.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace repair;
+
+namespace {
+
+/// A rewritten text: its counts, and its paragraphs as "style-less" markup.
+struct Rewritten
+{
+    TextCounts counts;
+    QString text;
+};
+
+Rewritten rewritten(const QByteArray& text, const QByteArray& styles = {})
+{
+    Document document = drawing("<draw:rect>" + text + "</draw:rect>", styles);
+    const TextCounts counts = simplifyTexts(document);
+    QString result;
+    for (const auto& paragraph : object(document, u"draw:rect"_s).children) {
+        for (const auto& span : paragraph->children) {
+            result += u'[' + span->allText() + u']';
+        }
+        result += u'/';
+    }
+    return {counts, result};
+}
+
+} // namespace
+
+TEST(Texts, KeepBlanksBetweenSpans)
+{
+    const Rewritten text =
+        rewritten("<text:p><text:span text:style-name=\"b\">net</text:span> "
+                  "<text:span text:style-name=\"i\">weight</text:span></text:p>",
+                  "<style:style style:name=\"b\" style:family=\"text\"><style:text-properties "
+                  "fo:font-weight=\"bold\"/></style:style>"
+                  "<style:style style:name=\"i\" style:family=\"text\"><style:text-properties "
+                  "fo:font-style=\"italic\"/></style:style>");
+    EXPECT_EQ(text.text, "[net ][weight]/"_L1);
+    EXPECT_EQ(text.counts.blanks, 1);
+}
+
+TEST(Texts, CollapseBlanksAsTheFormatSays)
+{
+    EXPECT_EQ(rewritten("<text:p>\n  a\n  b<text:span> c</text:span></text:p>").text,
+              "[a b c]/"_L1);
+}
+
+TEST(Texts, KeepSpacesTabsAndLineBreaks)
+{
+    const Rewritten text = rewritten("<text:p>a<text:s text:c=\"3\"/>b<text:s/>c<text:tab/>d"
+                                     "<text:line-break/> e</text:p>");
+    EXPECT_EQ(text.text, QString(u"[a   b c\td%1e]/"_s).arg(QChar(QChar::LineSeparator)));
+    EXPECT_EQ(text.counts.blanks, 3);
+}
+
+TEST(Texts, BoundSpaces)
+{
+    EXPECT_LT(rewritten("<text:p>a<text:s text:c=\"2000000000\"/></text:p>").text.size(), 2000);
+}
+
+TEST(Texts, ReplaceFieldsAndLinksByTheirText)
+{
+    const Rewritten text = rewritten(
+        "<text:p><text:date>1.2.2026</text:date><text:a xlink:href=\"http://x\"> see "
+        "<text:span>there</text:span></text:a><office:annotation><text:p>no</text:p>"
+        "</office:annotation><text:page-number>&lt;number&gt;</text:page-number></text:p>");
+    EXPECT_EQ(text.text, "[1.2.2026 see there1]/"_L1);
+    EXPECT_EQ(text.counts.fields, 4);
+}
+
+TEST(Texts, NumberListsAndMarkTheirItems)
+{
+    const Rewritten text = rewritten(
+        "<text:list text:style-name=\"L\"><text:list-item><text:p>one</text:p>"
+        "<text:p>more</text:p></text:list-item><text:list-item><text:p>two</text:p>"
+        "<text:list><text:list-item><text:p>deep</text:p></text:list-item></text:list>"
+        "</text:list-item></text:list>",
+        "<text:list-style style:name=\"L\"><text:list-level-style-number text:level=\"1\" "
+        "style:num-format=\"1\" style:num-suffix=\".\"/><text:list-level-style-bullet "
+        "text:level=\"2\" text:bullet-char=\"-\"/></text:list-style>");
+    EXPECT_EQ(text.text, "[1.\t][one]/[more]/[2.\t][two]/[-\t][deep]/"_L1);
+    EXPECT_EQ(text.counts.lists, 2);
+}
+
+TEST(Texts, AppendNotes)
+{
+    const Rewritten text =
+        rewritten("<text:p>a<text:note><text:note-citation>1</text:note-citation><text:note-body>"
+                  "<text:p>why</text:p></text:note-body></text:note></text:p><text:p>b</text:p>");
+    EXPECT_EQ(text.text, "[a][1]/[b]/[1 why]/"_L1);
+    EXPECT_EQ(text.counts.notes, 1);
+}
+
+TEST(Texts, DissolveSections)
+{
+    const Rewritten text =
+        rewritten("<text:section><text:p>a</text:p></text:section><text:p>b</text:p>");
+    EXPECT_EQ(text.text, "[a]/[b]/"_L1);
+    EXPECT_EQ(text.counts.sections, 1);
+}
+
+TEST(Texts, GetTheFontsOfTheirShape)
+{
+    Document document = drawing(
+        "<draw:frame draw:style-name=\"g\"><draw:text-box><text:p>a</text:p></draw:text-box>"
+        "</draw:frame>",
+        "<style:style style:name=\"g\" style:family=\"graphic\"><style:text-properties "
+        "fo:font-size=\"7pt\" fo:color=\"#112233\"/></style:style>");
+    (void)simplifyTexts(document);
+    const Node& span = *object(document, u"draw:frame"_s)
+                            .child(u"draw:text-box")
+                            ->child(u"text:p")
+                            ->child(u"text:span");
+    const Properties style =
+        document.table().resolved(u"text"_s, span.attribute(u"text:style-name"), false).text;
+    EXPECT_EQ(style.value(u"fo:font-size"_s), "7pt"_L1);
+    EXPECT_EQ(style.value(u"fo:color"_s), "#112233"_L1);
+}

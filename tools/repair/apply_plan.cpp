@@ -1,0 +1,196 @@
+#include "repair/apply_plan.h"
+
+#include "host/items/rich_text_item.h"
+#include "workbench/canvas/canvas.h"
+#include "workbench/items/canvas_item.h"
+
+#include <QMap>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace repair {
+
+namespace {
+
+// The item's z value for one step of an object's order.
+constexpr double ZPerOrder = 1000.0;
+// A text is less than this above its shape.
+constexpr double TextOffset = 0.0005;
+// Points: what a line of no width looks like in print.
+constexpr double Hairline = 0.3;
+// Points: lines that fit must not break for rounding.
+constexpr double WidthTolerance = 0.3;
+
+double widthOf(const QSizeF& natural, const TextPlan& plan)
+{
+    const double own = natural.width() + WidthTolerance;
+    const double room = std::max(plan.area.width(), 1.0) + WidthTolerance;
+    if (plan.wraps) {
+        return plan.fillsWidth ? room : std::min(own, room);
+    }
+    return plan.fillsWidth ? std::max(own, room) : own;
+}
+
+QPointF cornerOf(const QSizeF& size, const TextPlan& plan)
+{
+    const QRectF& area = plan.area;
+    QPointF corner(area.center().x() - size.width() / 2.0, area.top());
+    if (plan.alignment.testFlag(Qt::AlignLeft) || plan.fillsWidth) {
+        corner.setX(area.left());
+    } else if (plan.alignment.testFlag(Qt::AlignRight)) {
+        corner.setX(area.right() - size.width());
+    }
+    if (plan.alignment.testFlag(Qt::AlignVCenter)) {
+        corner.setY(area.center().y() - size.height() / 2.0);
+    } else if (plan.alignment.testFlag(Qt::AlignBottom)) {
+        corner.setY(area.bottom() - size.height());
+    }
+    return corner;
+}
+
+void applyText(workbench::CanvasItem& item, const TextPlan& plan)
+{
+    auto* const text = dynamic_cast<::RichTextItem*>(item.contractItem());
+    if (text == nullptr) {
+        return;
+    }
+    text->setHtml(plan.html);
+    text->adjustBoxSizeToContent(0.0);
+    const double width = widthOf(text->getItemSize(), plan);
+    text->adjustBoxSizeToContent(width);
+    const QSizeF size(width, text->getItemHeight());
+    text->setItemSize(size);
+    // The shape turns about its center, and its text with it; the item about its own.
+    QRectF box(cornerOf(size, plan), size);
+    const QTransform turn = QTransform::fromTranslate(plan.center.x(), plan.center.y())
+                                .rotate(plan.rotation)
+                                .translate(-plan.center.x(), -plan.center.y());
+    box.moveCenter(turn.map(box.center()));
+    item.graphicsItem()->setPos(box.topLeft());
+    if (plan.rotation != 0.0) {
+        text->setItemRotation(plan.rotation);
+    }
+}
+
+void applyOpacity(QColor& color, double opacity)
+{
+    if (opacity < 1.0) {
+        color.setAlphaF(static_cast<float>(color.alphaF() * std::clamp(opacity, 0.0, 1.0)));
+    }
+}
+
+void applyShape(workbench::CanvasItem& item, const ItemPlan& plan)
+{
+    workbench::ItemValues values = item.values();
+    if (values.pen && plan.penWidth) {
+        values.pen->width = std::max(*plan.penWidth, Hairline);
+        applyOpacity(values.pen->color, plan.penOpacity);
+    }
+    if (values.fill) {
+        applyOpacity(values.fill->color, plan.fillOpacity);
+    }
+    item.setValues(values);
+}
+
+/// The items of one object.
+struct ObjectItems
+{
+    const ItemPlan* plan = nullptr;
+    workbench::CanvasItem* shape = nullptr;
+    workbench::CanvasItem* text = nullptr;
+};
+
+// The height that an object needs below the top of its row.
+double heightOf(const ObjectItems& items)
+{
+    if (items.text != nullptr) {
+        const QGraphicsItem* const text = items.text->graphicsItem();
+        const double bottom =
+            text->pos().y() + items.text->contractItem()->getItemHeight() + items.plan->space;
+        const bool isText = items.plan->fillsRow || items.shape == nullptr;
+        return isText || items.shape->contractItem()->getItemHeight() < bottom
+                   ? bottom
+                   : items.shape->contractItem()->getItemHeight();
+    }
+    if (items.plan->space > 0.0) {
+        return items.plan->space;
+    }
+    return items.shape != nullptr ? items.shape->graphicsItem()->pos().y() +
+                                        items.shape->contractItem()->getItemHeight()
+                                  : 0.0;
+}
+
+void placeRow(const QList<ObjectItems>& row, double& y)
+{
+    double height = 0.0;
+    for (const ObjectItems& items : row) {
+        height = std::max(height, heightOf(items));
+    }
+    for (const ObjectItems& items : row) {
+        for (workbench::CanvasItem* const item : {items.shape, items.text}) {
+            if (item != nullptr) {
+                item->graphicsItem()->moveBy(0.0, y);
+            }
+        }
+        const bool isBox =
+            items.shape != nullptr && (items.plan->fillsRow || items.text != nullptr);
+        if (isBox) {
+            Item* const box = items.shape->contractItem();
+            box->setItemSize({box->getItemWidth(), height});
+        }
+    }
+    y += height;
+}
+
+void placeRows(const QMap<int, ObjectItems>& objects, double top)
+{
+    QMap<int, QList<ObjectItems>> rows;
+    for (const ObjectItems& items : objects) {
+        if (items.plan->row > 0) {
+            rows[items.plan->row].append(items);
+        }
+    }
+    double y = top;
+    for (const QList<ObjectItems>& row : rows) {
+        placeRow(row, y);
+    }
+}
+
+// By their order.
+QMap<int, ObjectItems> objectsOf(const workbench::Canvas& canvas, const PagePlan& plan)
+{
+    QMap<int, ObjectItems> objects;
+    for (const ItemPlan& item : plan.items) {
+        objects[item.order].plan = &item;
+    }
+    for (workbench::CanvasItem* const item : canvas.items()) {
+        const double z = item->graphicsItem()->zValue();
+        const int order = static_cast<int>(std::floor((z + TextOffset) / ZPerOrder));
+        const auto found = objects.find(order);
+        if (found != objects.end()) {
+            const bool isText = z - order * ZPerOrder > TextOffset;
+            (isText ? found->text : found->shape) = item;
+        }
+    }
+    return objects;
+}
+
+} // namespace
+
+void applyPlan(workbench::Canvas& canvas, const PagePlan& plan)
+{
+    const QMap<int, ObjectItems> objects = objectsOf(canvas, plan);
+    for (const ObjectItems& items : objects) {
+        if (items.text != nullptr && items.plan->text) {
+            applyText(*items.text, *items.plan->text);
+        }
+        if (items.shape != nullptr) {
+            applyShape(*items.shape, *items.plan);
+        }
+    }
+    placeRows(objects, plan.top);
+}
+
+} // namespace repair

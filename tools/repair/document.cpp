@@ -1,0 +1,106 @@
+#include "repair/document.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString canonical(const Properties& properties)
+{
+    QStringList lines;
+    for (auto it = properties.begin(); it != properties.end(); ++it) {
+        lines.append(it.key() + u'=' + it.value());
+    }
+    lines.sort();
+    return lines.join(u'\n');
+}
+
+void appendProperties(Node& style, const QString& tag, const Properties& properties)
+{
+    if (properties.isEmpty()) {
+        return;
+    }
+    Node& element = style.append(Node::element(tag));
+    QStringList names = properties.keys();
+    names.sort();
+    for (const QString& name : names) {
+        element.attributes.append({name, properties.value(name)});
+    }
+}
+
+} // namespace
+
+Document::Document(std::unique_ptr<Node> stylesRoot, std::unique_ptr<Node> contentRoot,
+                   MemberReader memberReader)
+    : styles(std::move(stylesRoot))
+    , content(std::move(contentRoot))
+    , readMember(std::move(memberReader))
+{}
+
+Node* Document::body() const
+{
+    const Node* const body = content->child(u"office:body");
+    return body != nullptr ? body->firstElement() : nullptr;
+}
+
+Node* Document::page() const
+{
+    Node* const inside = body();
+    return inside != nullptr && inside->is(u"office:drawing") ? inside->child(u"draw:page")
+                                                              : nullptr;
+}
+
+bool Document::isText() const
+{
+    const Node* const inside = body();
+    return inside != nullptr && inside->is(u"office:text");
+}
+
+const StyleTable& Document::table()
+{
+    if (!m_table) {
+        m_table = std::make_unique<StyleTable>(*styles, *content);
+    }
+    return *m_table;
+}
+
+QString Document::styleFor(const QString& family, const StyleProperties& properties)
+{
+    const QString key = family + u'\n' + canonical(properties.graphic) + u'\n' +
+                        canonical(properties.paragraph) + u'\n' + canonical(properties.text);
+    QString& name = m_madeStyles[key];
+    if (name.isEmpty()) {
+        name = u"labelport-%1"_s.arg(++m_made);
+        auto style = Node::element(u"style:style"_s);
+        style->attributes = {{u"style:name"_s, name}, {u"style:family"_s, family}};
+        appendProperties(*style, u"style:graphic-properties"_s, properties.graphic);
+        appendProperties(*style, u"style:paragraph-properties"_s, properties.paragraph);
+        appendProperties(*style, u"style:text-properties"_s, properties.text);
+        content->childOrNew(u"office:automatic-styles"_s).append(std::move(style));
+        if (m_table) {
+            m_table->add(family, name, properties);
+        }
+    }
+    return name;
+}
+
+QString Document::addDrawing(const QByteArray& svg)
+{
+    const QString name = u"Pictures/labelport-%1.svg"_s.arg(newMembers.size() + 1);
+    newMembers.insert(name, svg);
+    return name;
+}
+
+Properties graphicOf(Document& document, const Node& shape)
+{
+    return document.table()
+        .resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true)
+        .graphic;
+}
+
+} // namespace repair

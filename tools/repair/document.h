@@ -1,0 +1,62 @@
+#pragma once
+
+#include "repair/styles.h"
+#include "repair/xml_tree.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace repair {
+
+/// A member of the package; empty if it is missing, damaged or too large.
+using MemberReader = std::function<QByteArray(const QString& name)>;
+
+/// One page of a document while it is being rewritten.
+///
+/// The steps change `content` and `styles`. Names in `labelport:` are ours: the reader does
+/// not know them, the plan for the items does.
+class Document
+{
+public:
+    Document(std::unique_ptr<Node> stylesRoot, std::unique_ptr<Node> contentRoot,
+             MemberReader memberReader);
+
+    std::unique_ptr<Node> styles;
+    std::unique_ptr<Node> content;
+    MemberReader readMember;
+    /// Pictures that were made, by their names in the package.
+    QHash<QString, QByteArray> newMembers;
+    /// The page that is kept, from 1.
+    int pageNumber = 1;
+    /// Whether the page was laid out from a text document.
+    bool wasText = false;
+
+    /// The body: office:drawing, office:text or another one; null if there is none.
+    [[nodiscard]] Node* body() const;
+    /// The page of a drawing; null for all other documents.
+    [[nodiscard]] Node* page() const;
+    [[nodiscard]] bool isText() const;
+
+    /// The styles as they are now. The table is read again after a change of styles.
+    [[nodiscard]] const StyleTable& table();
+    void forgetTable() { m_table.reset(); }
+
+    /// The name of an automatic style with exactly these properties, made if it is missing.
+    [[nodiscard]] QString styleFor(const QString& family, const StyleProperties& properties);
+    /// Puts a drawing into the package and gives its name there.
+    [[nodiscard]] QString addDrawing(const QByteArray& svg);
+
+private:
+    std::unique_ptr<StyleTable> m_table;
+    QHash<QString, QString> m_madeStyles;
+    int m_made = 0;
+};
+
+/// The properties of a shape's graphic style, with the defaults.
+[[nodiscard]] Properties graphicOf(Document& document, const Node& shape);
+
+} // namespace repair

@@ -1,0 +1,236 @@
+#include "repair/drawing.h"
+
+#include "repair/fill_drawing.h"
+#include "repair/lengths.h"
+#include "repair/svg_path.h"
+#include "repair/xml_tree.h"
+
+#include <QLineF>
+#include <QStringList>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Points: what a line of no width looks like in print.
+constexpr double Hairline = 0.3;
+// The part of an arrow head that covers the line.
+constexpr double CoveredByMarker = 0.8;
+
+struct Pen
+{
+    bool isVisible = false;
+    double width = Hairline;
+    QString color = u"#000000"_s;
+    QString attributes;
+};
+
+QString number(double value)
+{
+    return QString::number(value, 'f', 3);
+}
+
+// Lengths of dashes and gaps may be shares of the pen's width.
+double dashLength(const Node& dash, QStringView attribute, double width)
+{
+    const QString text = dash.attribute(attribute);
+    const double length = text.endsWith(u'%') ? shareOf(text) * width : pointsOf(dash, attribute);
+    return length > 0.0 ? length : width;
+}
+
+QString dashAttribute(const Node& dash, double width)
+{
+    QStringList lengths;
+    const QString gap = number(dashLength(dash, u"draw:distance", width));
+    for (const auto& [count, length] : {std::pair{u"draw:dots1", u"draw:dots1-length"},
+                                        std::pair{u"draw:dots2", u"draw:dots2-length"}}) {
+        for (int i = 0; i < std::min(dash.attribute(count).toInt(), 10); ++i) {
+            lengths << number(dashLength(dash, length, width)) << gap;
+        }
+    }
+    return lengths.isEmpty() ? QString() : u" stroke-dasharray=\"%1\""_s.arg(lengths.join(u','));
+}
+
+Pen penOf(const Properties& graphic, const StyleTable& table)
+{
+    Pen pen;
+    const QString stroke = graphic.value(u"draw:stroke"_s);
+    pen.isVisible = stroke != "none"_L1;
+    pen.width = std::max(toPoints(graphic.value(u"svg:stroke-width"_s)).value_or(0.0), Hairline);
+    pen.color = colorName(graphic.value(u"svg:stroke-color"_s), pen.color);
+    const Node* const dash =
+        table.named(u"draw:stroke-dash"_s, graphic.value(u"draw:stroke-dash"_s));
+    if (stroke == "dash"_L1 && dash != nullptr) {
+        pen.attributes += dashAttribute(*dash, pen.width);
+    }
+    const QString join = graphic.value(u"draw:stroke-linejoin"_s);
+    pen.attributes += u" stroke-linejoin=\"%1\""_s.arg(
+        join == "miter"_L1 || join == "bevel"_L1 ? join : u"round"_s);
+    const QString cap = graphic.value(u"svg:stroke-linecap"_s);
+    if (cap == "round"_L1 || cap == "square"_L1) {
+        pen.attributes += u" stroke-linecap=\"%1\""_s.arg(cap);
+    }
+    if (const double opacity = shareOf(graphic.value(u"svg:stroke-opacity"_s)); opacity < 1.0) {
+        pen.attributes += u" stroke-opacity=\"%1\""_s.arg(number(opacity));
+    }
+    return pen;
+}
+
+/// Arrow heads at one end of an open path.
+struct Marker
+{
+    QPainterPath path; // the tip at (0, 0), pointing upwards
+    double length = 0.0;
+};
+
+std::optional<Marker> markerOf(const Properties& graphic, const QString& end,
+                               const StyleTable& table)
+{
+    const Node* const node = table.named(u"draw:marker"_s, graphic.value(u"draw:marker-"_s + end));
+    const auto path = node != nullptr ? parseSvgPath(node->attribute(u"svg:d")) : std::nullopt;
+    const QRectF box = path ? path->boundingRect() : QRectF();
+    if (!(box.width() > 0.0 && box.height() > 0.0)) {
+        return std::nullopt;
+    }
+    const double width = toPoints(graphic.value(u"draw:marker-%1-width"_s.arg(end))).value_or(8.5);
+    const double scale = width / box.width();
+    const bool isCentered = graphic.value(u"draw:marker-%1-center"_s.arg(end)) == "true"_L1;
+    const double tip = isCentered ? box.center().y() : box.top();
+    const QTransform map =
+        QTransform::fromTranslate(-box.center().x(), -tip) * QTransform::fromScale(scale, scale);
+    return Marker{map.map(*path), isCentered ? 0.0 : box.height() * scale};
+}
+
+bool isOpen(const QPainterPath& path)
+{
+    return path.elementCount() > 1 && QPointF(path.elementAt(0)) != path.currentPosition();
+}
+
+// Puts the marker on the end and takes back the line below it.
+QPainterPath placeMarker(QPainterPath& line, const Marker& marker, bool isAtEnd)
+{
+    const int last = line.elementCount() - 1;
+    const int index = isAtEnd ? last : 0;
+    const int neighbor = isAtEnd ? last - 1 : 1;
+    const QPointF tip = line.elementAt(index);
+    const QLineF inward(tip, line.elementAt(neighbor));
+    if (!(inward.length() > 0.0)) {
+        return {};
+    }
+    const double taken = std::min(marker.length * CoveredByMarker, inward.length());
+    const QPointF moved = inward.pointAt(taken / inward.length());
+    line.setElementPositionAt(index, moved.x(), moved.y());
+    const double angle = std::atan2(tip.x() - inward.x2(), -(tip.y() - inward.y2()));
+    return (QTransform().rotateRadians(angle) * QTransform::fromTranslate(tip.x(), tip.y()))
+        .map(marker.path);
+}
+
+QPainterPath markersOn(QPainterPath& line, const Properties& graphic, const StyleTable& table)
+{
+    QPainterPath heads;
+    for (const bool isAtEnd : {false, true}) {
+        const auto marker = markerOf(graphic, isAtEnd ? u"end"_s : u"start"_s, table);
+        if (marker) {
+            heads.addPath(placeMarker(line, *marker, isAtEnd));
+        }
+    }
+    return heads;
+}
+
+/// Collects the elements of the document.
+class Writer
+{
+public:
+    Writer(const Properties& graphic, const StyleTable& table)
+        : m_graphic(graphic)
+        , m_table(table)
+        , m_pen(penOf(graphic, table))
+    {}
+
+    void add(const Outline& outline);
+    [[nodiscard]] Drawing finished();
+
+private:
+    void addStroke(const QPainterPath& path);
+
+    const Properties& m_graphic;
+    const StyleTable& m_table;
+    const Pen m_pen;
+    FillWriter m_fills;
+    QString m_body;
+    QRectF m_bounds;
+};
+
+void Writer::add(const Outline& outline)
+{
+    if (outline.isFilled) {
+        m_body += m_fills.fill(outline.path, m_graphic, m_table);
+    }
+    m_bounds |= outline.path.boundingRect();
+    if (outline.isStroked && m_pen.isVisible) {
+        addStroke(outline.path);
+    }
+}
+
+void Writer::addStroke(const QPainterPath& path)
+{
+    QPainterPath line = path;
+    const QPainterPath heads = isOpen(line) ? markersOn(line, m_graphic, m_table) : QPainterPath();
+    m_body += u"<path fill=\"none\" stroke=\"%1\" stroke-width=\"%2\"%3 d=\"%4\"/>"_s.arg(
+        m_pen.color, number(m_pen.width), m_pen.attributes, toSvgPath(line));
+    if (!heads.isEmpty()) {
+        m_body +=
+            u"<path stroke=\"none\" fill=\"%1\" d=\"%2\"/>"_s.arg(m_pen.color, toSvgPath(heads));
+        m_bounds |= heads.boundingRect();
+    }
+    const double half = m_pen.width / 2.0;
+    m_bounds |= path.boundingRect().adjusted(-half, -half, half, half);
+}
+
+Drawing Writer::finished()
+{
+    // A line without width still needs a box.
+    if (m_bounds.width() < Hairline || m_bounds.height() < Hairline) {
+        m_bounds.adjust(-Hairline, -Hairline, Hairline, Hairline);
+    }
+    const QString svg = u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%3pt\" height=\"%4pt\" "
+                        "viewBox=\"%1 %2 %3 %4\"><defs>%5</defs>%6</svg>"_s.arg(
+                            number(m_bounds.x()), number(m_bounds.y()), number(m_bounds.width()),
+                            number(m_bounds.height()), m_fills.definitions(), m_body);
+    return {svg.toUtf8(), m_bounds};
+}
+
+} // namespace
+
+Drawing makeDrawing(const std::vector<Outline>& outlines, const Properties& graphic,
+                    const StyleTable& table)
+{
+    Writer writer(graphic, table);
+    for (const Outline& outline : outlines) {
+        writer.add(outline);
+    }
+    return writer.finished();
+}
+
+bool isPlainFill(const Properties& graphic)
+{
+    const QString fill = graphic.value(u"draw:fill"_s);
+    return fill != "gradient"_L1 && fill != "hatch"_L1 && fill != "bitmap"_L1;
+}
+
+double shareOf(const QString& percent)
+{
+    bool isNumber = false;
+    const double share =
+        percent.endsWith(u'%') ? percent.chopped(1).toDouble(&isNumber) / 100.0 : 1.0;
+    return isNumber ? share : 1.0;
+}
+
+} // namespace repair

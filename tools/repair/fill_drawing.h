@@ -1,0 +1,31 @@
+#pragma once
+
+#include "repair/styles.h"
+
+#include <QPainterPath>
+#include <QString>
+
+namespace repair {
+
+/// Writes the insides of outlines as SVG: colors, gradients, hatches.
+class FillWriter
+{
+public:
+    /// The elements that fill a path, given in points on the page.
+    [[nodiscard]] QString fill(const QPainterPath& path, const Properties& graphic,
+                               const StyleTable& table);
+    /// The gradients that the elements refer to.
+    [[nodiscard]] const QString& definitions() const { return m_definitions; }
+
+private:
+    [[nodiscard]] QString gradient(const QPainterPath& path, const Node& gradient,
+                                   const QString& attributes);
+
+    QString m_definitions;
+    int m_gradients = 0;
+};
+
+/// A color as "#rrggbb"; the other one if the text is not a color.
+[[nodiscard]] QString colorName(const QString& text, const QString& otherwise);
+
+} // namespace repair

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+namespace repair {
+
+class Document;
+
+/// Turns one page of a text document into a drawing: its text becomes text boxes without a
+/// position, one below the other, and pictures, shapes and tables are placed between them.
+///
+/// Each object gets the row of the page that it is in, and the place and size in it; the rows
+/// are placed when the heights of the texts are known.
+///
+/// @param number of the page, from 1
+/// @return how many pages the document has; 0 if it is not a text document
+int layOutTextPage(Document& document, int number);
+
+/// Where the first row of a page begins.
+inline const QString TopAttribute = QStringLiteral("labelport:top");
+/// The row of an object: a number that grows down the page.
+inline const QString RowAttribute = QStringLiteral("labelport:row");
+/// Whether the object is as high as its row: the cells of a table.
+inline const QString FillsRowAttribute = QStringLiteral("labelport:fills-row");
+
+} // namespace repair

@@ -1,0 +1,176 @@
+#include "repair/item_plan.h"
+
+#include "repair/document.h"
+#include "repair/drawing.h"
+#include "repair/flow_step.h"
+#include "repair/html.h"
+#include "repair/lengths.h"
+#include "repair/shape_parts.h"
+#include "repair/shape_steps.h"
+#include "repair/transform.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Points: 0.25 cm beside a text and 0.125 cm above it.
+constexpr double DefaultSidePadding = 7.087;
+constexpr double DefaultTopPadding = 3.543;
+// Below this luminance, from 0 to 255, automatic text is white.
+constexpr int DarkLuminance = 62;
+// Of a line: its height per font size, and the size where none is given.
+constexpr double LineShare = 1.15;
+constexpr double DefaultSize = 12.0;
+
+int luminance(const QColor& color)
+{
+    return (color.blue() * 29 + color.green() * 151 + color.red() * 76) >> 8;
+}
+
+QColor automaticColor(const Properties& graphic)
+{
+    const QColor ground(graphic.value(u"draw:fill-color"_s));
+    const bool isDark = graphic.value(u"draw:fill"_s) == "solid"_L1 && ground.isValid() &&
+                        luminance(ground) <= DarkLuminance;
+    return isDark ? Qt::white : Qt::black;
+}
+
+double padding(const Properties& graphic, const QString& side, double otherwise)
+{
+    const QString own = graphic.value(u"fo:padding-"_s + side);
+    const QString all = graphic.value(u"fo:padding"_s);
+    return toPoints(own.isEmpty() ? all : own).value_or(otherwise);
+}
+
+RotatedBox boxOf(const Node& shape)
+{
+    const double rotation = toRotatedBox(placementOf(shape)).value_or(RotatedBox()).rotation;
+    // The position is already the one before the rotation.
+    QPointF corner(pointsOf(shape, u"svg:x"), pointsOf(shape, u"svg:y"));
+    if (shape.hasAttribute(u"draw:transform")) {
+        const QTransform map = parseTransform(shape.attribute(u"draw:transform"));
+        corner = {map.dx(), map.dy()};
+    }
+    const QSizeF size(pointsOf(shape, u"svg:width"), pointsOf(shape, u"svg:height"));
+    return {QRectF(corner, size), rotation};
+}
+
+// Where the text may be, without padding.
+QRectF textArea(const Node& shape, const QRectF& box)
+{
+    const QStringList parts = shape.attribute(TextAreaAttribute).split(u' ');
+    if (parts.size() != 4) {
+        return box;
+    }
+    return QRectF(parts[0].toDouble(), parts[1].toDouble(), parts[2].toDouble(),
+                  parts[3].toDouble())
+        .translated(box.topLeft());
+}
+
+Qt::Alignment alignmentOf(const Properties& graphic)
+{
+    const QString vertical = graphic.value(u"draw:textarea-vertical-align"_s);
+    const QString horizontal = graphic.value(u"draw:textarea-horizontal-align"_s);
+    Qt::Alignment alignment = Qt::AlignTop;
+    if (vertical == "middle"_L1 || vertical == "justify"_L1) {
+        alignment = Qt::AlignVCenter;
+    } else if (vertical == "bottom"_L1) {
+        alignment = Qt::AlignBottom;
+    }
+    if (horizontal == "left"_L1) {
+        return alignment | Qt::AlignLeft;
+    }
+    return alignment | (horizontal == "right"_L1 ? Qt::AlignRight : Qt::AlignHCenter);
+}
+
+TextPlan planText(Document& document, const Node& shape, const Node& container,
+                  const Properties& graphic)
+{
+    const RotatedBox placed = boxOf(shape);
+    const double left = padding(graphic, u"left"_s, DefaultSidePadding);
+    const double right = padding(graphic, u"right"_s, DefaultSidePadding);
+    const double top = padding(graphic, u"top"_s, DefaultTopPadding);
+    const double bottom = padding(graphic, u"bottom"_s, DefaultTopPadding);
+    TextPlan plan;
+    plan.html = toHtml(document, container, automaticColor(graphic));
+    plan.area = textArea(shape, placed.box).adjusted(left, top, -right, -bottom);
+    plan.rotation = placed.rotation;
+    plan.center = placed.box.center();
+    plan.alignment = alignmentOf(graphic);
+    const bool isFrame = shape.is(u"draw:frame");
+    const bool grows = isFrame && graphic.value(u"draw:auto-grow-width"_s) == "true"_L1;
+    // Only text boxes and custom shapes break their text.
+    plan.wraps = graphic.value(u"fo:wrap-option"_s) != "no-wrap"_L1 && !grows &&
+                 (isFrame || shape.is(u"draw:custom-shape"));
+    const QString horizontal = graphic.value(u"draw:textarea-horizontal-align"_s);
+    plan.fillsWidth = horizontal.isEmpty() || horizontal == "justify"_L1;
+    if (const QString side = shape.attribute(LineTextAttribute); !side.isEmpty()) {
+        plan.area = placed.box;
+        plan.fillsWidth = false;
+        plan.alignment = (side == "above"_L1 ? Qt::AlignBottom : Qt::AlignTop) | Qt::AlignHCenter;
+    }
+    return plan;
+}
+
+// What paragraphs without a letter take.
+double blankHeight(Document& document, const Node& container)
+{
+    double height = 0.0;
+    for (const auto& child : container.children) {
+        const QString style = child->attribute(u"text:style-name");
+        const Properties text = document.table().resolved(u"paragraph"_s, style, false).text;
+        height += LineShare * toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultSize);
+    }
+    return height;
+}
+
+void planRow(Document& document, const Node& shape, const Node& container,
+             const Properties& graphic, ItemPlan& plan)
+{
+    plan.row = shape.attribute(RowAttribute).toInt();
+    plan.fillsRow = shape.attribute(FillsRowAttribute) == "true"_L1;
+    if (plan.text) {
+        plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding);
+    } else if (shape.child(u"draw:text-box") != nullptr) {
+        plan.space = blankHeight(document, container);
+    }
+}
+
+} // namespace
+
+PagePlan planItems(Document& document)
+{
+    PagePlan plans;
+    const Node* const page = document.page();
+    if (page == nullptr) {
+        return plans;
+    }
+    plans.top = pointsOf(*page, TopAttribute);
+    for (const auto& shape : page->children) {
+        const Properties graphic = graphicOf(document, *shape);
+        ItemPlan plan;
+        plan.order = shape->attribute(u"draw:z-index").toInt();
+        const Node* const box = shape->child(u"draw:text-box");
+        const Node& container = box != nullptr ? *box : *shape;
+        if (hasVisibleText(container)) {
+            plan.text = planText(document, *shape, container, graphic);
+        }
+        if (graphic.value(u"draw:stroke"_s) != "none"_L1) {
+            plan.penWidth = toPoints(graphic.value(u"svg:stroke-width"_s)).value_or(0.0);
+        }
+        plan.penOpacity = shareOf(graphic.value(u"svg:stroke-opacity"_s));
+        plan.fillOpacity = shareOf(graphic.value(u"draw:opacity"_s));
+        planRow(document, *shape, container, graphic, plan);
+        plans.items.append(std::move(plan));
+    }
+    return plans;
+}
+
+} // namespace repair

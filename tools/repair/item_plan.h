@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QRectF>
+#include <QString>
+#include <Qt>
+
+#include <optional>
+
+namespace repair {
+
+class Document;
+
+/// What a text looks like that the reader cannot carry.
+struct TextPlan
+{
+    QString html;
+    /// Where the text may be, in points on the page, before rotation.
+    QRectF area;
+    /// Degrees, clockwise, about the center of the shape.
+    double rotation = 0.0;
+    QPointF center;
+    Qt::Alignment alignment = Qt::AlignTop;
+    /// Whether the text is at least as wide as the area: else it is as wide as its lines, and
+    /// the alignment places it.
+    bool fillsWidth = true;
+    bool wraps = true;
+};
+
+/// What to set on the items of one object after the import.
+struct ItemPlan
+{
+    /// The object's draw:z-index. The reader makes it a thousand times the item's z value; the
+    /// text of the object has 0.001 more.
+    int order = 0;
+    std::optional<TextPlan> text;
+    /// Points; nothing if the object has no pen.
+    std::optional<double> penWidth;
+    double penOpacity = 1.0;
+    double fillOpacity = 1.0;
+    /// The row of a text document's page, which is placed below the one before; 0 for an object
+    /// with a place of its own.
+    int row = 0;
+    /// Whether the object is as high as its row.
+    bool fillsRow = false;
+    /// Points below the text that belong to the object, or the height of one without text.
+    double space = 0.0;
+};
+
+/// What to set on the items of a page.
+struct PagePlan
+{
+    QList<ItemPlan> items;
+    /// Where the first row begins, in points.
+    double top = 0.0;
+};
+
+/// What the items need, of a document that has been rewritten.
+[[nodiscard]] PagePlan planItems(Document& document);
+
+} // namespace repair

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+namespace repair {
+
+class Document;
+class Node;
+
+/// The child with this tag and style:name; null if there is none.
+[[nodiscard]] Node* childNamed(const Node* parent, QStringView tag, const QString& name);
+
+/// The master page of a drawing's page, or of a text's first page; null if there is none.
+[[nodiscard]] Node* masterPage(const Document& document);
+
+/// Where the text of a text document is, in points.
+struct PageArea
+{
+    QRectF box;
+    double headerTop = 0.0;
+    double footerBottom = 0.0;
+};
+
+/// The area that the page's margins, header and footer leave.
+[[nodiscard]] PageArea pageArea(const Document& document);
+
+} // namespace repair

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace repair {
+
+class Document;
+class Node;
+
+// Each step returns how often it changed something.
+
+/// Replaces captions by a box and a line.
+int splitCaptions(Document& document);
+/// Replaces dimension lines by their lines and their text.
+int splitMeasures(Document& document);
+/// Gives the texts of lines and connectors boxes of their own.
+int splitLineTexts(Document& document);
+/// Draws connectors; straight ones become lines.
+int drawConnectors(Document& document);
+/// Draws polygons, polylines, and paths.
+int drawPaths(Document& document);
+/// Draws custom shapes, arcs, and shapes with a fill or skew that no item has.
+int drawShapes(Document& document);
+/// Writes the position of rotated shapes as the reader understands it.
+int rewriteRotations(Document& document);
+/// Leaves in each frame one picture that can be read.
+int choosePictures(Document& document);
+
+/// On which side of a dimension line its text is: "above" or "below".
+inline const QString LineTextAttribute = QStringLiteral("labelport:line-text");
+
+/// The rectangle of a shape's text in its box, where it is not the box: "x y width height" in
+/// points.
+inline const QString TextAreaAttribute = QStringLiteral("labelport:text-area");
+
+} // namespace repair

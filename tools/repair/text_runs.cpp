@@ -1,0 +1,210 @@
+#include "repair/text_runs.h"
+
+#include "repair/document.h"
+
+#include <algorithm>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Spaces that one text:s may represent.
+constexpr int MaximumSpaces = 1000;
+// Elements within one another in a paragraph.
+constexpr int MaximumDepth = 200;
+
+// Neither shown nor text of this place. Objects in a text are handled elsewhere.
+constexpr QLatin1StringView Skipped[] = {"office:annotation"_L1,
+                                         "office:annotation-end"_L1,
+                                         "text:ruby-text"_L1,
+                                         "text:tracked-changes"_L1,
+                                         "draw:frame"_L1,
+                                         "draw:g"_L1,
+                                         "draw:custom-shape"_L1,
+                                         "draw:rect"_L1,
+                                         "draw:line"_L1,
+                                         "draw:ellipse"_L1,
+                                         "draw:circle"_L1,
+                                         "draw:path"_L1,
+                                         "draw:polygon"_L1,
+                                         "draw:polyline"_L1,
+                                         "draw:connector"_L1,
+                                         "draw:caption"_L1,
+                                         "draw:control"_L1,
+                                         "draw:measure"_L1,
+                                         "draw:regular-polygon"_L1,
+                                         "office:event-listeners"_L1,
+                                         "text:index-title-template"_L1};
+constexpr QLatin1StringView Transparent[] = {"text:meta"_L1, "text:ruby"_L1, "text:ruby-base"_L1,
+                                             "text:a"_L1, "text:meta-field"_L1};
+// What a character style states that shows.
+constexpr QLatin1StringView TextNames[] = {"fo:font-size"_L1,
+                                           "style:font-name"_L1,
+                                           "fo:font-weight"_L1,
+                                           "fo:font-style"_L1,
+                                           "fo:color"_L1,
+                                           "fo:background-color"_L1,
+                                           "fo:font-variant"_L1,
+                                           "fo:letter-spacing"_L1,
+                                           "fo:text-transform"_L1,
+                                           "style:text-underline-style"_L1,
+                                           "style:text-line-through-style"_L1,
+                                           "style:text-position"_L1,
+                                           "style:text-scale"_L1,
+                                           "style:use-window-font-color"_L1};
+
+template <std::size_t Size>
+bool contains(const QLatin1StringView (&names)[Size], const QString& name)
+{
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+bool isBlank(const QString& text)
+{
+    return QStringView(text).trimmed().isEmpty();
+}
+
+// Blank runs have no format of their own in the result: the reader drops them.
+std::vector<Run> withoutBlankRuns(std::vector<Run> runs)
+{
+    std::vector<Run> joined;
+    QString before;
+    for (Run& run : runs) {
+        if (!isBlank(run.text)) {
+            run.text.prepend(before);
+            before.clear();
+            joined.push_back(std::move(run));
+        } else if (joined.empty()) {
+            before += run.text;
+        } else {
+            joined.back().text += run.text;
+        }
+    }
+    return joined;
+}
+
+} // namespace
+
+std::vector<Run> RunReader::read(const Node& paragraph, const StyleProperties& base)
+{
+    m_runs.clear();
+    m_endsInBlank = true;
+    readInside(paragraph, base, 0);
+    return std::move(m_runs);
+}
+
+void RunReader::readInside(const Node& parent, const StyleProperties& style, int depth)
+{
+    for (const auto& child : parent.children) {
+        if (child->isText()) {
+            addText(child->text, style);
+        } else if (depth < MaximumDepth) {
+            readElement(*child, style, depth + 1);
+        }
+    }
+}
+
+void RunReader::readElement(const Node& element, const StyleProperties& style, int depth)
+{
+    if (element.is(u"text:span")) {
+        StyleProperties inner = style;
+        inner.overlay(
+            m_document.table().resolved(u"text"_s, element.attribute(u"text:style-name"), false));
+        m_counts.fields += depth > 1 ? 1 : 0;
+        readInside(element, inner, depth);
+    } else if (element.is(u"text:s")) {
+        const int count =
+            element.hasAttribute(u"text:c") ? element.attribute(u"text:c").toInt() : 1;
+        ++m_counts.blanks;
+        add(QString(std::clamp(count, 0, MaximumSpaces), u' '), style);
+    } else if (element.is(u"text:tab")) {
+        add(u"\t"_s, style);
+    } else if (element.is(u"text:line-break")) {
+        ++m_counts.blanks;
+        add(QString(QChar::LineSeparator), style);
+        m_endsInBlank = true;
+    } else if (element.is(u"text:note")) {
+        readNote(element, style);
+    } else if (element.is(u"text:page-number")) {
+        ++m_counts.fields;
+        add(QString::number(m_document.pageNumber), style);
+    } else if (!contains(Skipped, element.name)) {
+        m_counts.fields += contains(Transparent, element.name) || !element.children.empty() ? 1 : 0;
+        readInside(element, style, depth);
+    }
+}
+
+void RunReader::readNote(const Node& note, const StyleProperties& style)
+{
+    ++m_counts.notes;
+    const Node* const citation = note.child(u"text:note-citation");
+    const QString mark = citation != nullptr ? citation->allText() : QString();
+    StyleProperties raised = style;
+    raised.text.insert(u"style:text-position"_s, u"super 58%"_s);
+    add(mark, raised);
+    if (const Node* const body = note.child(u"text:note-body")) {
+        auto copy = body->clone();
+        if (Node* const first = copy->firstElement()) {
+            first->children.insert(first->children.begin(), Node::characters(mark + u' '));
+        }
+        m_notes.push_back(std::move(copy));
+    }
+}
+
+// Blanks, tabs and line ends in the file are one blank; at the start of a paragraph none.
+void RunReader::addText(const QString& text, const StyleProperties& style)
+{
+    QString collapsed;
+    collapsed.reserve(text.size());
+    for (const QChar character : text) {
+        const bool blank =
+            character == u' ' || character == u'\n' || character == u'\t' || character == u'\r';
+        if (!blank) {
+            collapsed += character;
+        } else if (!m_endsInBlank) {
+            collapsed += u' ';
+        }
+        m_endsInBlank = blank;
+    }
+    m_counts.blanks += !collapsed.isEmpty() && isBlank(collapsed) ? 1 : 0;
+    add(collapsed, style);
+}
+
+void RunReader::add(const QString& text, const StyleProperties& style)
+{
+    if (text.isEmpty()) {
+        return;
+    }
+    m_endsInBlank = text.back() == u' ';
+    if (!m_runs.empty() && m_runs.back().style.text == style.text) {
+        m_runs.back().text += text;
+    } else {
+        m_runs.push_back({style, text});
+    }
+}
+
+void writeRuns(Document& document, Node& paragraph, std::vector<Run> runs)
+{
+    paragraph.children.clear();
+    for (const Run& run : withoutBlankRuns(std::move(runs))) {
+        StyleProperties shown;
+        for (const QLatin1StringView name : TextNames) {
+            if (run.style.text.contains(name)) {
+                shown.text.insert(name, run.style.text.value(name));
+            }
+        }
+        const QString declared = run.style.text.value(u"style:font-name"_s);
+        const QString family = declared.isEmpty() ? run.style.text.value(u"fo:font-family"_s)
+                                                  : document.table().fontFamily(declared);
+        if (!family.isEmpty()) {
+            shown.text.insert(u"style:font-name"_s, QString(family).remove(u'\''));
+        }
+        Node& span = paragraph.append(Node::element(u"text:span"_s));
+        span.setAttribute(u"text:style-name"_s, document.styleFor(u"text"_s, shown));
+        span.append(Node::characters(run.text));
+    }
+}
+
+} // namespace repair

@@ -1,0 +1,273 @@
+#include "repair/text_step.h"
+
+#include "repair/document.h"
+#include "repair/lengths.h"
+
+#include <algorithm>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Lists and sections within one another.
+constexpr int MaximumDepth = 100;
+// What drawings mean that give no size.
+const QString DefaultDrawingSize = u"18pt"_s;
+constexpr QLatin1StringView ParagraphNames[] = {
+    "fo:text-align"_L1,    "fo:margin-left"_L1, "fo:margin-right"_L1, "fo:margin-top"_L1,
+    "fo:margin-bottom"_L1, "fo:text-indent"_L1, "fo:line-height"_L1};
+
+bool isParagraph(const Node& node)
+{
+    return node.is(u"text:p") || node.is(u"text:h");
+}
+
+/// Rewrites the blocks of one text.
+class BlockWriter
+{
+public:
+    BlockWriter(Document& document, TextCounts& counts)
+        : m_document(document)
+        , m_counts(counts)
+        , m_reader(document, counts)
+    {}
+
+    void rewrite(Node& container, const StyleProperties& base);
+
+private:
+    struct List
+    {
+        QString style;
+        int level = 0;
+        int number = 0;
+        bool isNewItem = false;
+    };
+
+    void readBlocks(const Node& parent, List* list, int depth);
+    void readList(const Node& element, const List* outer, int depth);
+    void writeParagraph(const Node& paragraph, List* list);
+    void addLabel(List& list, StyleProperties& style, std::vector<Run>& runs);
+
+    Document& m_document;
+    TextCounts& m_counts;
+    RunReader m_reader;
+    StyleProperties m_base;
+    Node::Children m_paragraphs;
+};
+
+void BlockWriter::rewrite(Node& container, const StyleProperties& base)
+{
+    m_base = base;
+    Node::Children old = std::move(container.children);
+    container.children.clear();
+    auto blocks = Node::element(u"text:section"_s);
+    Node::Children others;
+    for (auto& child : old) {
+        const bool isText = child->name.startsWith("text:"_L1);
+        (isText ? blocks->children : others).push_back(std::move(child));
+    }
+    readBlocks(*blocks, nullptr, 0);
+    for (auto notes = m_reader.takeNotes(); !notes.empty(); notes = m_reader.takeNotes()) {
+        for (const auto& note : notes) {
+            readBlocks(*note, nullptr, 0);
+        }
+    }
+    container.children = std::move(m_paragraphs);
+    std::move(others.begin(), others.end(), std::back_inserter(container.children));
+}
+
+void BlockWriter::readBlocks(const Node& parent, List* list, int depth)
+{
+    for (const auto& child : parent.children) {
+        if (depth > MaximumDepth || !child->name.startsWith("text:"_L1)) {
+            continue;
+        }
+        if (isParagraph(*child)) {
+            writeParagraph(*child, list);
+        } else if (child->is(u"text:list")) {
+            ++m_counts.lists;
+            readList(*child, list, depth);
+        } else if (!child->is(u"text:tracked-changes") && !child->name.endsWith("-source"_L1)) {
+            m_counts.sections += child->is(u"text:section") ? 1 : 0;
+            readBlocks(*child, list, depth + 1);
+        }
+    }
+}
+
+void BlockWriter::readList(const Node& element, const List* outer, int depth)
+{
+    List list;
+    list.style = element.attribute(u"text:style-name");
+    list.level = outer != nullptr ? outer->level + 1 : 1;
+    if (list.style.isEmpty() && outer != nullptr) {
+        list.style = outer->style;
+    }
+    for (const auto& item : element.children) {
+        if (item->is(u"text:list-item")) {
+            const int start = item->attribute(u"text:start-value").toInt();
+            list.number = start > 0 ? start : list.number + 1;
+            list.isNewItem = true;
+        }
+        if (!item->isText()) {
+            readBlocks(*item, &list, depth + 1);
+        }
+        list.isNewItem = false;
+    }
+}
+
+QString numberText(int number, const QString& format)
+{
+    if ((format == "a"_L1 || format == "A"_L1) && number >= 1 && number <= 26) {
+        return QChar(format[0].unicode() + number - 1);
+    }
+    if (format == "i"_L1 || format == "I"_L1) {
+        static constexpr struct
+        {
+            int value;
+            QLatin1StringView text;
+        } Digits[] = {{100, "c"_L1}, {90, "xc"_L1}, {50, "l"_L1}, {40, "xl"_L1}, {10, "x"_L1},
+                      {9, "ix"_L1},  {5, "v"_L1},   {4, "iv"_L1}, {1, "i"_L1}};
+        QString roman;
+        int rest = std::min(number, 1000);
+        for (const auto& digit : Digits) {
+            for (; rest >= digit.value; rest -= digit.value) {
+                roman += digit.text;
+            }
+        }
+        return format == "I"_L1 ? roman.toUpper() : roman;
+    }
+    return format.isEmpty() ? QString() : QString::number(number);
+}
+
+// The style of a list's level: bullet, number or picture; null if it is unknown.
+const Node* levelStyle(const StyleTable& table, const QString& list, int level)
+{
+    const Node* const style = table.named(u"text:list-style"_s, list);
+    if (style == nullptr) {
+        return nullptr;
+    }
+    const auto found =
+        std::find_if(style->children.begin(), style->children.end(), [level](const auto& child) {
+            return child->attribute(u"text:level").toInt() == level;
+        });
+    return found != style->children.end() ? found->get() : nullptr;
+}
+
+struct Indent
+{
+    double margin = 0.0;
+    double first = 0.0;
+};
+
+Indent indentOf(const Node& level)
+{
+    const Node* const properties = level.child(u"style:list-level-properties");
+    if (properties == nullptr) {
+        return {};
+    }
+    if (const Node* const aligned = properties->child(u"style:list-level-label-alignment")) {
+        return {pointsOf(*aligned, u"fo:margin-left"), pointsOf(*aligned, u"fo:text-indent")};
+    }
+    const double width = pointsOf(*properties, u"text:min-label-width");
+    return {pointsOf(*properties, u"text:space-before") + width, -width};
+}
+
+void BlockWriter::addLabel(List& list, StyleProperties& style, std::vector<Run>& runs)
+{
+    const Node* const level = levelStyle(m_document.table(), list.style, list.level);
+    QString label = level == nullptr ? u"\u2022"_s : level->attribute(u"text:bullet-char");
+    if (level != nullptr && label.isEmpty()) {
+        label = level->attribute(u"style:num-prefix") +
+                numberText(list.number, level->attribute(u"style:num-format")) +
+                level->attribute(u"style:num-suffix");
+    }
+    const Indent indent = level != nullptr ? indentOf(*level) : Indent{18.0, -18.0};
+    const double own = toPoints(style.paragraph.value(u"fo:margin-left"_s)).value_or(0.0);
+    style.paragraph.insert(u"fo:margin-left"_s, toInches(own + indent.margin));
+    style.paragraph.insert(u"fo:text-indent"_s, toInches(list.isNewItem ? indent.first : 0.0));
+    if (list.isNewItem && !label.isEmpty()) {
+        list.isNewItem = false;
+        runs.insert(runs.begin(), {style, label + u"\t"_s});
+    }
+}
+
+void BlockWriter::writeParagraph(const Node& paragraph, List* list)
+{
+    StyleProperties style = m_base;
+    style.overlay(m_document.table().resolved(
+        u"paragraph"_s, paragraph.attribute(u"text:style-name"), m_document.wasText));
+    std::vector<Run> runs = m_reader.read(paragraph, style);
+    if (list != nullptr) {
+        addLabel(*list, style, runs);
+    }
+    StyleProperties shown;
+    for (const QLatin1StringView name : ParagraphNames) {
+        if (style.paragraph.contains(name)) {
+            shown.paragraph.insert(name, style.paragraph.value(name));
+        }
+    }
+    // The height of an empty paragraph, and the font of one without runs of its own.
+    for (const QString& name : {u"fo:font-size"_s, u"fo:font-weight"_s, u"fo:font-style"_s}) {
+        if (style.text.contains(name)) {
+            shown.text.insert(name, style.text.value(name));
+        }
+    }
+    const QString font = m_document.table().fontFamily(style.text.value(u"style:font-name"_s));
+    if (!font.isEmpty()) {
+        shown.text.insert(u"style:font-name"_s, font);
+    }
+    auto written = Node::element(u"text:p"_s);
+    written->setAttribute(u"text:style-name"_s, m_document.styleFor(u"paragraph"_s, shown));
+    writeRuns(m_document, *written, std::move(runs));
+    m_paragraphs.push_back(std::move(written));
+}
+
+bool holdsText(const Node& node)
+{
+    return std::any_of(node.children.begin(), node.children.end(),
+                       [](const auto& child) { return child->name.startsWith("text:"_L1); });
+}
+
+void simplifyInside(Document& document, Node& parent, const Node* frame, TextCounts& counts)
+{
+    for (const auto& child : parent.children) {
+        if (child->name.startsWith("draw:"_L1)) {
+            const Node* const owner = child->is(u"draw:text-box") ? frame : child.get();
+            simplifyInside(document, *child, owner, counts);
+        }
+    }
+    if (frame != nullptr && holdsText(parent)) {
+        const Node& shape = parent.is(u"draw:text-box") ? *frame : parent;
+        BlockWriter(document, counts).rewrite(parent, textBase(document, shape));
+    }
+}
+
+} // namespace
+
+StyleProperties textBase(Document& document, const Node& shape)
+{
+    const StyleTable& table = document.table();
+    StyleProperties base;
+    if (!document.wasText) {
+        base.text.insert(u"fo:font-size"_s, DefaultDrawingSize);
+        base.overlay(table.resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true));
+    }
+    return base;
+}
+
+TextCounts simplifyTexts(Document& document)
+{
+    TextCounts counts;
+    if (const Node* const page = document.page()) {
+        for (const auto& child : page->children) {
+            if (child->name.startsWith("draw:"_L1)) {
+                simplifyInside(document, *child, child.get(), counts);
+            }
+        }
+    }
+    return counts;
+}
+
+} // namespace repair
