@@ -113,7 +113,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>%1 left</source>
-        <translation>encore %1</translation>
+        <translation>reste %1</translation>
     </message>
     <message>
         <source>%1 failed</source>
@@ -819,7 +819,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     <name>fields::FieldProblem</name>
     <message>
         <source>%1 is missing</source>
-        <translation>%1 manque</translation>
+        <translation>%1 est absent</translation>
     </message>
     <message>
         <source>%1 is not %2</source>
@@ -902,7 +902,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     <name>migration::Census</name>
     <message>
         <source>The file cannot be opened to count its objects.</source>
-        <translation>Le fichier ne peut pas être ouvert pour compter ses objets.</translation>
+        <translation>Impossible d’ouvrir le fichier pour compter ses objets.</translation>
     </message>
     <message>
         <source>The file is too large to count its objects.</source>
@@ -914,11 +914,11 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>The file has no list of items.</source>
-        <translation>Le fichier n’a pas de liste d’objets.</translation>
+        <translation>Le fichier ne contient pas de liste d’objets.</translation>
     </message>
     <message>
         <source>The file is damaged, so its objects cannot be counted: %1.</source>
-        <translation>Le fichier est endommagé, ses objets ne peuvent donc pas être comptés&#xa0;: %1.</translation>
+        <translation>Impossible de compter les objets du fichier, car il est endommagé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The file continues with unknown data, which may contain more objects.</source>
@@ -937,7 +937,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     <name>migration::HtmlCard</name>
     <message>
         <source>no picture</source>
-        <translation>pas d’image</translation>
+        <translation>aucune image</translation>
     </message>
     <message>
         <source>The label %1</source>
@@ -1008,7 +1008,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>What can be done</source>
-        <translation>Ce qu’on peut faire</translation>
+        <translation>Remède</translation>
     </message>
     <message>
         <source>all</source>
@@ -1032,7 +1032,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>worst status first</source>
-        <translation>le pire état d’abord</translation>
+        <translation>état le plus grave d’abord</translation>
     </message>
     <message>
         <source>Sort and filter</source>
@@ -1181,11 +1181,11 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Objects on the second and later pages were left out: a label has one page.</source>
-        <translation>Des objets de la deuxième page et des suivantes ont été omis&#xa0;: une étiquette a une seule page.</translation>
+        <translation>Des objets de la deuxième page et des suivantes ont été omis&#xa0;: une étiquette n’a qu’une page.</translation>
     </message>
     <message>
         <source>Save each page as a document of its own and import those.</source>
-        <translation>Enregistrez chaque page dans son propre document et importez ceux-ci.</translation>
+        <translation>Enregistrez chaque page dans un document distinct et importez ces documents.</translation>
     </message>
     <message>
         <source>Objects of the page&apos;s background (its master page) were left out.</source>
@@ -1201,7 +1201,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Draw them as plain lines.</source>
-        <translation>Dessinez-les comme de simples traits.</translation>
+        <translation>Dessinez-les sous forme de simples traits.</translation>
     </message>
     <message>
         <source>Curves, free polygons and polylines were left out.</source>
@@ -1229,7 +1229,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
-        <translation>Des objets incorporés, comme des diagrammes et des formules, ont été omis&#xa0;; un cadre vide est à leur place.</translation>
+        <translation>Des objets incorporés, comme des diagrammes et des formules, ont été omis&#xa0;; un cadre vide les remplace.</translation>
     </message>
     <message>
         <source>Objects inside texts, text boxes or other objects were left out.</source>
@@ -1245,7 +1245,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Put them into text boxes.</source>
-        <translation>Mettez-les dans des zones de texte.</translation>
+        <translation>Placez-les dans des zones de texte.</translation>
     </message>
     <message>
         <source>Texts in lists were left out.</source>
@@ -1257,7 +1257,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Remove the section and keep its content.</source>
-        <translation>Supprimez la section et gardez son contenu.</translation>
+        <translation>Supprimez la section et conservez son contenu.</translation>
     </message>
     <message>
         <source>Texts and objects of the header or footer were left out.</source>
@@ -1273,7 +1273,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Remove the hyperlinks and keep their texts.</source>
-        <translation>Supprimez les liens hypertexte et gardez leurs textes.</translation>
+        <translation>Supprimez les liens hypertexte et conservez leurs textes.</translation>
     </message>
     <message>
         <source>Fields in texts, such as page numbers and names, were left out.</source>
@@ -1285,7 +1285,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Put their texts into text boxes.</source>
-        <translation>Mettez leurs textes dans des zones de texte.</translation>
+        <translation>Placez leurs textes dans des zones de texte.</translation>
     </message>
     <message>
         <source>Comments were left out; they are not printed.</source>
@@ -1305,7 +1305,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Picture boxes without a picture were left out.</source>
-        <translation>Des cadres sans image ont été omis.</translation>
+        <translation>Des cadres d’image sans image ont été omis.</translation>
     </message>
     <message>
         <source>Look for another copy of the file.</source>
@@ -1800,7 +1800,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Opens a saved label or a legacy one</source>
-        <translation>Ouvre une étiquette enregistrée ou ancienne</translation>
+        <translation>Ouvre une étiquette enregistrée ou une ancienne étiquette</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
@@ -1808,7 +1808,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Imports a legacy label and saves it beside the old file</source>
-        <translation>Importe une ancienne étiquette et l’enregistre à côté de l’ancien fichier</translation>
+        <translation>Importe une ancienne étiquette et l’enregistre dans le dossier de l’ancien fichier</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -1832,7 +1832,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Writes the label as a picture, a drawing or a document</source>
-        <translation>Écrit l’étiquette sous forme d’image, de dessin ou de document</translation>
+        <translation>Exporte l’étiquette sous forme d’image, de dessin ou de document</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
@@ -1872,7 +1872,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Makes the change again</source>
-        <translation>Refait la modification</translation>
+        <translation>Rétablit la modification annulée</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -1888,7 +1888,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Selects no item</source>
-        <translation>Ne sélectionne aucun objet</translation>
+        <translation>Annule la sélection</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1912,7 +1912,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows the whole label, and keeps it whole when the window changes</source>
-        <translation>Montre l’étiquette entière, même si la fenêtre change de taille</translation>
+        <translation>Affiche l’étiquette entière, même si la fenêtre change de taille</translation>
     </message>
     <message>
         <source>&amp;True Size</source>
@@ -1920,7 +1920,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows the label in the size in which it is printed</source>
-        <translation>Montre l’étiquette à la taille à laquelle elle est imprimée</translation>
+        <translation>Affiche l’étiquette à sa taille d’impression</translation>
     </message>
     <message>
         <source>Zoom to &amp;Selection</source>
@@ -1928,7 +1928,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows the selected items as large as they fit</source>
-        <translation>Montre les objets sélectionnés aussi grands que possible</translation>
+        <translation>Affiche les objets sélectionnés aussi grands que possible</translation>
     </message>
     <message>
         <source>&amp;Rulers</source>
@@ -1960,7 +1960,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Takes the colors of the desktop</source>
-        <translation>Reprend les couleurs du bureau</translation>
+        <translation>Utilise les couleurs du bureau</translation>
     </message>
     <message>
         <source>&amp;Light</source>
@@ -1984,7 +1984,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Puts the keyboard on the canvas</source>
-        <translation>Place le clavier sur le canevas</translation>
+        <translation>Place le focus clavier sur le canevas</translation>
     </message>
     <message>
         <source>&amp;Items</source>
@@ -1992,7 +1992,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows the list of items and puts the keyboard on it</source>
-        <translation>Affiche la liste des objets et y place le clavier</translation>
+        <translation>Affiche la liste des objets et y place le focus clavier</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
@@ -2000,7 +2000,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows the properties of an item and puts the keyboard on them</source>
-        <translation>Affiche les propriétés d’un objet et y place le clavier</translation>
+        <translation>Affiche les propriétés d’un objet et y place le focus clavier</translation>
     </message>
     <message>
         <source>&amp;Data Sources</source>
@@ -2008,15 +2008,15 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows the data sources and puts the keyboard on them</source>
-        <translation>Affiche les sources de données et y place le clavier</translation>
+        <translation>Affiche les sources de données et y place le focus clavier</translation>
     </message>
     <message>
         <source>I&amp;ssues</source>
-        <translation>&amp;Messages</translation>
+        <translation>Pro&amp;blèmes</translation>
     </message>
     <message>
         <source>Shows the issues and puts the keyboard on them</source>
-        <translation>Affiche les messages et y place le clavier</translation>
+        <translation>Affiche les problèmes et y place le focus clavier</translation>
     </message>
     <message>
         <source>&amp;First</source>
@@ -2056,7 +2056,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Puts the keyboard on the record&apos;s number</source>
-        <translation>Place le clavier sur le numéro de l’enregistrement</translation>
+        <translation>Place le focus clavier sur le numéro de l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts</source>
@@ -2064,7 +2064,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows all keys</source>
-        <translation>Affiche toutes les touches</translation>
+        <translation>Affiche tous les raccourcis clavier</translation>
     </message>
     <message>
         <source>&amp;About</source>
@@ -2072,7 +2072,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Shows what program this is</source>
-        <translation>Dit quel est ce programme</translation>
+        <translation>Affiche des informations sur le programme</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -2118,7 +2118,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <name>window::DialogImport</name>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation>La mémoire ne suffit pas pour ce fichier.</translation>
+        <translation>Mémoire insuffisante pour ce fichier.</translation>
     </message>
 </context>
 <context>
@@ -2201,7 +2201,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>%1 files: %2 and so on.</source>
-        <translation>%1 fichiers&#xa0;: %2 et ainsi de suite.</translation>
+        <translation>%1 fichiers&#xa0;: %2, etc.</translation>
     </message>
     <message>
         <source>One file.</source>
@@ -2228,18 +2228,18 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>What it is</source>
-        <translation>De quoi il s’agit</translation>
+        <translation>Description</translation>
     </message>
 </context>
 <context>
     <name>window::IssuesPanel</name>
     <message>
         <source>Issues of the label</source>
-        <translation>Messages sur l’étiquette</translation>
+        <translation>Problèmes de l’étiquette</translation>
     </message>
     <message>
         <source>There is nothing to report.</source>
-        <translation>Il n’y a rien à signaler.</translation>
+        <translation>Rien à signaler.</translation>
     </message>
 </context>
 <context>
@@ -2482,7 +2482,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>no picture</source>
-        <translation>pas d’image</translation>
+        <translation>aucune image</translation>
     </message>
     <message>
         <source>Symbol</source>
@@ -2540,7 +2540,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <name>window::ItemTableModel</name>
     <message>
         <source>cannot be shown</source>
-        <translation>ne peut être affiché</translation>
+        <translation>ne peut pas être affiché</translation>
     </message>
     <message>
         <source>background</source>
@@ -2591,11 +2591,11 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <name>window::LabelSession</name>
     <message>
         <source>The label could not be imported.</source>
-        <translation>L’étiquette n’a pas pu être importée.</translation>
+        <translation>Impossible d’importer l’étiquette.</translation>
     </message>
     <message>
         <source>“%1” could not be saved.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être enregistré.</translation>
+        <translation>Impossible d’enregistrer «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>%1
@@ -2611,7 +2611,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>“%1” could not be opened.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être ouvert.</translation>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -2660,11 +2660,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation>Ouvre d’anciens modèles d’étiquettes, les montre, les conserve et les transmet.</translation>
+        <translation>Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation>Ouvert &amp;récemment</translation>
+        <translation>Fichiers &amp;récents</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -2676,7 +2676,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>A window holds one label: only the first file was opened.</source>
-        <translation>Une fenêtre contient une seule étiquette&#xa0;: seul le premier fichier a été ouvert.</translation>
+        <translation>Une fenêtre affiche une seule étiquette&#xa0;: seul le premier fichier a été ouvert.</translation>
     </message>
 </context>
 <context>
@@ -2710,7 +2710,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label could not be exported.</source>
-        <translation>L’étiquette n’a pas pu être exportée.</translation>
+        <translation>Impossible d’exporter l’étiquette.</translation>
     </message>
     <message>
         <source>Printing</source>
@@ -2718,22 +2718,22 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label could not be printed.</source>
-        <translation>L’étiquette n’a pas pu être imprimée.</translation>
+        <translation>Impossible d’imprimer l’étiquette.</translation>
     </message>
     <message>
         <source>Printing was stopped</source>
-        <translation>L’impression a été arrêtée</translation>
+        <translation>Impression arrêtée</translation>
     </message>
     <message>
         <source>%1 pages were given to the printer</source>
-        <translation>%1 pages ont été transmises à l’imprimante</translation>
+        <translation>%1 pages transmises à l’imprimante</translation>
     </message>
 </context>
 <context>
     <name>window::OutputJob</name>
     <message>
         <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
-        <translation>L’imprimante n’a pas accepté les pages. Vérifiez qu’elle est allumée et connectée, ou imprimez dans un fichier PDF avec «&#xa0;Exporter&#xa0;».</translation>
+        <translation>L’imprimante n’a pas accepté les pages. Vérifiez qu’elle est allumée et connectée, ou créez un fichier PDF avec «&#xa0;Exporter&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -2776,7 +2776,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label was imported. It can replace that file, be saved under another name, or be saved later.</source>
-        <translation>L’étiquette a été importée. Elle peut remplacer ce fichier, être enregistrée sous un autre nom ou plus tard.</translation>
+        <translation>L’étiquette a été importée. Elle peut remplacer ce fichier, être enregistrée sous un autre nom ou être enregistrée plus tard.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -2829,7 +2829,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>window::RecordChooser</name>
     <message>
         <source>The one &amp;shown (%1)</source>
-        <translation>Celui qui est a&amp;ffiché (%1)</translation>
+        <translation>L’enregistrement a&amp;ffiché (%1)</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
@@ -2837,7 +2837,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>A run of records</source>
-        <translation>Une suite d’enregistrements</translation>
+        <translation>Une plage d’enregistrements</translation>
     </message>
     <message>
         <source>First record</source>
@@ -2860,7 +2860,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>window::RuledCanvas</name>
     <message>
         <source>Change between millimeters and inches</source>
-        <translation>Passer des millimètres aux pouces et inversement</translation>
+        <translation>Basculer entre millimètres et pouces</translation>
     </message>
     <message>
         <source>Unit of the rulers</source>
@@ -2941,7 +2941,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>&amp;Record</source>
-        <translation>E&amp;nregistrement</translation>
+        <translation>Enre&amp;gistrement</translation>
     </message>
     <message>
         <source>Number of the record that is shown</source>
@@ -2988,7 +2988,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Shows now</source>
-        <translation>Affiche maintenant</translation>
+        <translation>Valeur actuelle</translation>
     </message>
 </context>
 <context>
@@ -3200,7 +3200,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Issues</source>
-        <translation>Messages</translation>
+        <translation>Problèmes</translation>
     </message>
 </context>
 <context>
@@ -3214,7 +3214,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>workbench::BarcodeEncoder</name>
     <message>
         <source>%1: the content has a length that this kind of barcode does not take%2.</source>
-        <translation>%1&#xa0;: la longueur du contenu n’est pas admise par ce type de code-barres%2.</translation>
+        <translation>%1&#xa0;: la longueur du contenu n’est pas admise pour ce type de code-barres%2.</translation>
     </message>
     <message>
         <source>%1: the content does not suit this kind of barcode%2.</source>
@@ -3230,7 +3230,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>%1: the content is too much for the memory%2.</source>
-        <translation>%1&#xa0;: le contenu dépasse la mémoire disponible%2.</translation>
+        <translation>%1&#xa0;: mémoire insuffisante pour le contenu%2.</translation>
     </message>
     <message>
         <source>%1: the content cannot be encoded%2.</source>
@@ -3238,11 +3238,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>There is not enough memory for the barcode.</source>
-        <translation>La mémoire ne suffit pas pour le code-barres.</translation>
+        <translation>Mémoire insuffisante pour le code-barres.</translation>
     </message>
     <message>
         <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
-        <translation>%1&#xa0;: le contenu doit avoir une partie linéaire, un «&#xa0;|&#xa0;» et une seconde partie.</translation>
+        <translation>%1&#xa0;: le contenu doit comporter une partie linéaire, un «&#xa0;|&#xa0;» et une seconde partie.</translation>
     </message>
     <message>
         <source>%1: the content is too long for any barcode.</source>
@@ -3250,15 +3250,15 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>%1: the content gives no bars at all.</source>
-        <translation>%1&#xa0;: le contenu ne donne aucune barre.</translation>
+        <translation>%1&#xa0;: le contenu ne produit aucune barre.</translation>
     </message>
     <message>
         <source>The label asks for a kind of barcode that is not known (number %1).</source>
-        <translation>L’étiquette demande un type de code-barres inconnu (numéro %1).</translation>
+        <translation>L’étiquette contient un type de code-barres inconnu (numéro %1).</translation>
     </message>
     <message>
         <source>%1: there is no content to encode.</source>
-        <translation>%1&#xa0;: il n’y a aucun contenu à encoder.</translation>
+        <translation>%1&#xa0;: aucun contenu à encoder.</translation>
     </message>
 </context>
 <context>
@@ -3332,7 +3332,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The file cannot be opened: %1.</source>
-        <translation>Le fichier ne peut pas être ouvert&#xa0;: %1.</translation>
+        <translation>Impossible d’ouvrir le fichier&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -3430,15 +3430,15 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>workbench::LabelFile</name>
     <message>
         <source>The label cannot be saved as %1: %2.</source>
-        <translation>L’étiquette ne peut pas être enregistrée sous %1&#xa0;: %2.</translation>
+        <translation>Impossible d’enregistrer l’étiquette sous %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be opened: %2.</source>
-        <translation>Le fichier %1 ne peut pas être ouvert&#xa0;: %2.</translation>
+        <translation>Impossible d’ouvrir le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>it has more than %1 items</source>
-        <translation>elle a plus de %1 objets</translation>
+        <translation>elle contient plus de %1 objets</translation>
     </message>
     <message>
         <source>its pictures are too large</source>
@@ -3450,11 +3450,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>it is larger than any label</source>
-        <translation>il est plus gros que n’importe quelle étiquette</translation>
+        <translation>il est trop gros pour une étiquette</translation>
     </message>
     <message>
         <source>The label file is damaged: its data sources do not fit together.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: ses sources de données ne vont pas ensemble.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: ses sources de données sont incohérentes.</translation>
     </message>
     <message>
         <source>The file is not a saved label.</source>
@@ -3462,15 +3462,15 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: version is not a positive whole number.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: version n’est pas un nombre entier positif.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: version doit être un nombre entier positif.</translation>
     </message>
     <message>
         <source>The label was saved by a newer version of the program: its format is %1, and this version knows formats up to %2. Update the program to open it.</source>
-        <translation>L’étiquette a été enregistrée par une version plus récente du programme&#xa0;: son format est %1, et cette version connaît les formats jusqu’à %2. Mettez le programme à jour pour l’ouvrir.</translation>
+        <translation>L’étiquette a été enregistrée par une version plus récente du programme&#xa0;: son format est %1, et cette version prend en charge les formats jusqu’à %2. Mettez le programme à jour pour l’ouvrir.</translation>
     </message>
     <message>
         <source>The label file is damaged: label is missing.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: label manque.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: label est absent.</translation>
     </message>
     <message>
         <source>The label file is damaged: its content has changed since it was saved.</source>
@@ -3478,7 +3478,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The file is not a saved label, or it is damaged: after %1 bytes it cannot be read any further.</source>
-        <translation>Le fichier n’est pas une étiquette enregistrée, ou il est endommagé&#xa0;: après %1 octets, il ne peut plus être lu.</translation>
+        <translation>Le fichier n’est pas une étiquette enregistrée, ou il est endommagé&#xa0;: il est illisible après %1 octets.</translation>
     </message>
     <message>
         <source>The label file is damaged: %1.</source>
@@ -3490,7 +3490,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: it holds more than any label.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: il contient plus que n’importe quelle étiquette.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: son contenu dépasse les limites d’une étiquette.</translation>
     </message>
     <message>
         <source>The label file is damaged: its pictures are too large.</source>
@@ -3501,7 +3501,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>workbench::LabelImport</name>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation>La mémoire ne suffit pas pour ce fichier.</translation>
+        <translation>Mémoire insuffisante pour ce fichier.</translation>
     </message>
 </context>
 <context>
@@ -3512,18 +3512,18 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The page is longer than %1 points, the most that a PDF document can have.</source>
-        <translation>La page est plus longue que %1 points, le maximum d’un document PDF.</translation>
+        <translation>La page dépasse %1 points, la longueur maximale d’un document PDF.</translation>
     </message>
 </context>
 <context>
     <name>workbench::PageImage</name>
     <message>
         <source>The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots per inch. The largest picture is %6 pixels along a side and %7 million in all.</source>
-        <translation>La page mesure %1 sur %2 points, ce qui donne une image de %3 sur %4 pixels à %5 points par pouce. La plus grande image a %6 pixels de côté et %7 millions au total.</translation>
+        <translation>La page mesure %1 sur %2 points, ce qui donne une image de %3 sur %4 pixels à %5 points par pouce. Une image est limitée à %6 pixels de côté et à %7 millions de pixels au total.</translation>
     </message>
     <message>
         <source> Up to %1 dots per inch are possible.</source>
-        <translation> Il est possible d’aller jusqu’à %1 points par pouce.</translation>
+        <translation> La résolution maximale est de %1 points par pouce.</translation>
     </message>
     <message>
         <source>The resolution must be above 0 dots per inch.</source>
@@ -3531,7 +3531,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>There is not enough memory for a picture of %1 by %2 pixels.</source>
-        <translation>La mémoire ne suffit pas pour une image de %1 sur %2 pixels.</translation>
+        <translation>Mémoire insuffisante pour une image de %1 sur %2 pixels.</translation>
     </message>
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
@@ -3613,11 +3613,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>it has no table of symbols</source>
-        <translation>elle n’a pas de table de symboles</translation>
+        <translation>elle ne contient pas de table de symboles</translation>
     </message>
     <message>
         <source>it cannot be read</source>
-        <translation>elle ne peut pas être lue</translation>
+        <translation>elle est illisible</translation>
     </message>
 </context>
 <context>
