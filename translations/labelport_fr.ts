@@ -1704,7 +1704,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     <name>migration::Totals</name>
     <message>
         <source>imported completely</source>
-        <translation>importés complètement</translation>
+        <translation>importation complète</translation>
     </message>
     <message>
         <source>changed in looks</source>
