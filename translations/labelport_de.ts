@@ -58,7 +58,7 @@
 Please update legacy Tavrel to its latest version and re-save file.</source>
         <comment>Content of error message.</comment>
         <translation>Fehler beim Lesen von Symbolobjekten.
-Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speichern.</translation>
+Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die Datei neu.</translation>
     </message>
     <message>
         <source>Unsupported barcode symbols.</source>
@@ -132,7 +132,7 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
-        <translation>„%1“ ist vorhanden und wurde nicht von labelport geschrieben oder seitdem bearbeitet. Mit --force wird die Datei überschrieben.</translation>
+        <translation>„%1“ ist vorhanden und wurde entweder nicht von labelport geschrieben oder danach bearbeitet. Mit --force wird die Datei überschrieben.</translation>
     </message>
     <message>
         <source>Cannot create folder &quot;%1&quot;: %2.</source>
@@ -178,13 +178,13 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     <message numerus="yes">
         <source>The file made no progress for %n second(s); see --timeout.</source>
         <translation>
-            <numerusform>Die Datei machte %n Sekunde lang keinen Fortschritt; siehe --timeout.</numerusform>
-            <numerusform>Die Datei machte %n Sekunden lang keinen Fortschritt; siehe --timeout.</numerusform>
+            <numerusform>Bei der Datei gab es %n Sekunde lang keinen Fortschritt; siehe --timeout.</numerusform>
+            <numerusform>Bei der Datei gab es %n Sekunden lang keinen Fortschritt; siehe --timeout.</numerusform>
         </translation>
     </message>
     <message>
         <source>The worker process was killed twice; perhaps the machine is out of memory.</source>
-        <translation>Der Arbeitsprozess wurde zweimal beendet; möglicherweise reicht der Speicher des Rechners nicht aus.</translation>
+        <translation>Der Arbeitsprozess wurde zweimal zwangsweise beendet; möglicherweise reicht der Speicher des Rechners nicht aus.</translation>
     </message>
     <message>
         <source>The import crashed twice (%1). If a larger --memory-limit does not help, please report the file.</source>
@@ -196,14 +196,14 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>The worker process exited twice with status %1; please report the file.</source>
-        <translation>Der Arbeitsprozess wurde zweimal mit dem Status %1 beendet; bitte melden Sie die Datei.</translation>
+        <translation>Der Arbeitsprozess hat sich zweimal mit dem Status %1 beendet; bitte melden Sie die Datei.</translation>
     </message>
 </context>
 <context>
     <name>cli::ExistingOutput</name>
     <message>
         <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
-        <translation>Der Name eines Berichts muss auf .json oder .html enden, anders als „%1“.</translation>
+        <translation>Ein Bericht ist eine Datei, die auf .json oder .html endet, nicht „%1“.</translation>
     </message>
     <message>
         <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
@@ -215,7 +215,7 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>the folder &quot;%1&quot; is not writable</source>
-        <translation>der Ordner „%1“ ist schreibgeschützt</translation>
+        <translation>in den Ordner „%1“ kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
@@ -266,11 +266,11 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>saved label, to open and edit again</source>
-        <translation>gespeichertes Etikett, zum Öffnen und Bearbeiten</translation>
+        <translation>gespeichertes Etikett, kann wieder geöffnet und bearbeitet werden</translation>
     </message>
     <message>
         <source>Read (import, inspect):</source>
-        <translation>Gelesen werden (import, inspect):</translation>
+        <translation>Eingabeformate (import, inspect):</translation>
     </message>
     <message>
         <source>versions: %1</source>
@@ -278,11 +278,11 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     </message>
     <message>
         <source>Written (import --to):</source>
-        <translation>Geschrieben werden (import --to):</translation>
+        <translation>Ausgabeformate (import --to):</translation>
     </message>
     <message>
         <source>all versions (zipped)</source>
-        <translation>alle Versionen (gezippt)</translation>
+        <translation>alle (gezippt)</translation>
     </message>
     <message>
         <source>formats takes no files.</source>
@@ -326,7 +326,7 @@ Bitte das alte Tavrel auf die neueste Version bringen und die Datei neu speicher
     <name>cli::ImportOptions</name>
     <message>
         <source>Standard input can be a label or a list of files, but not both.</source>
-        <translation>Die Standardeingabe kann ein Etikett oder eine Liste von Dateien sein, aber nicht beides.</translation>
+        <translation>Die Standardeingabe kann ein Etikett oder eine Dateiliste sein, aber nicht beides.</translation>
     </message>
     <message>
         <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
@@ -651,11 +651,10 @@ Examples:
 
 Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
 imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte Etiketten
-(*.label) und schreibt sie als Bilder, Zeichnungen, Dokumente oder gespeicherte Etiketten. Ein
-Ordner wird mit seinen Unterordnern nach Dateien mit diesen Endungen durchsucht. Die
-geschriebenen Dateien werden auf der Standardausgabe aufgelistet, in der Reihenfolge der Namen
-der Eingabedateien.
+        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte (*.label)
+und schreibt sie als Bilder, Zeichnungen, Dokumente oder gespeicherte Etiketten. Ein Ordner wird
+mit Unterordnern nach Dateien mit diesen Endungen durchsucht. Die geschriebenen Dateien werden
+auf der Standardausgabe aufgelistet, in der Reihenfolge der Namen der Eingabedateien.
 
 Beispiele:
   labelport import shelf.odg
@@ -667,8 +666,7 @@ Beispiele:
   curl -s https://labels.example/shelf.odg | labelport import -
 
 Exit-Status: 0 alle Dateien importiert, 1 eine Datei ist fehlgeschlagen, 2 falscher Aufruf,
-3 ein Etikett wurde nicht vollständig importiert (mit --fail-on-loss), 130 durch ein Signal
-abgebrochen.</translation>
+3 ein Etikett wurde unvollständig importiert (mit --fail-on-loss), 130 Abbruch durch ein Signal.</translation>
     </message>
     <message>
         <source>Shows what one label contains, and what of it is imported. Writes no files.
@@ -884,7 +882,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>a known type of item</source>
-        <translation>eine bekannte Art von Objekt</translation>
+        <translation>ein bekannter Objekttyp</translation>
     </message>
     <message>
         <source>a set of properties</source>
@@ -919,7 +917,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>The file is damaged, so its objects cannot be counted: %1.</source>
-        <translation>Die Datei ist beschädigt, darum lassen sich ihre Objekte nicht zählen: %1.</translation>
+        <translation>Die Datei ist beschädigt, daher können ihre Objekte nicht gezählt werden: %1.</translation>
     </message>
     <message>
         <source>The file continues with unknown data, which may contain more objects.</source>
@@ -993,7 +991,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>What was lost or changed</source>
-        <translation>Was verloren ging oder verändert wurde</translation>
+        <translation>Verluste und Änderungen</translation>
     </message>
     <message>
         <source>Files</source>
@@ -1005,11 +1003,11 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>What happened</source>
-        <translation>Was geschah</translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>What can be done</source>
-        <translation>Was man tun kann</translation>
+        <translation>Abhilfe</translation>
     </message>
     <message>
         <source>all</source>
@@ -1021,7 +1019,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>as imported</source>
-        <translation>wie importiert</translation>
+        <translation>in der Reihenfolge des Imports</translation>
     </message>
     <message>
         <source>name</source>
@@ -1037,7 +1035,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Sort and filter</source>
-        <translation>Ordnen und filtern</translation>
+        <translation>Sortieren und filtern</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1053,7 +1051,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Reader</source>
-        <translation>Leser</translation>
+        <translation>Reader</translation>
     </message>
     <message>
         <source>Order</source>
@@ -1061,11 +1059,11 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Show all</source>
-        <translation>Alle zeigen</translation>
+        <translation>Alle anzeigen</translation>
     </message>
     <message>
         <source>%1 of %2 shown</source>
-        <translation>%1 von %2 gezeigt</translation>
+        <translation>%1 von %2 angezeigt</translation>
     </message>
     <message>
         <source>Migration report</source>
@@ -1093,7 +1091,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>most lost objects first</source>
-        <translation>meiste verlorene Objekte zuerst</translation>
+        <translation>die meisten verlorenen Objekte zuerst</translation>
     </message>
     <message>
         <source>Nothing was lost or changed.</source>
@@ -1194,7 +1192,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Copy them from the master page to the page itself and import again.</source>
-        <translation>Kopieren Sie sie von der Masterseite auf die Seite selbst und importieren Sie noch einmal.</translation>
+        <translation>Kopieren Sie sie von der Masterseite auf die Seite selbst und importieren Sie die Datei noch einmal.</translation>
     </message>
     <message>
         <source>Connectors between objects were left out.</source>
@@ -1230,7 +1228,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
-        <translation>Eingebettete Objekte wie Diagramme und Formeln wurden weggelassen; an ihrer Stelle ist ein leerer Kasten.</translation>
+        <translation>Eingebettete Objekte wie Diagramme und Formeln wurden weggelassen; an ihrer Stelle steht ein leerer Rahmen.</translation>
     </message>
     <message>
         <source>Objects inside texts, text boxes or other objects were left out.</source>
@@ -1298,7 +1296,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Nothing.</source>
-        <translation>Nichts.</translation>
+        <translation>Keine Maßnahme erforderlich.</translation>
     </message>
     <message>
         <source>Open the file in its own program and save it again.</source>
@@ -1310,7 +1308,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Look for another copy of the file.</source>
-        <translation>Suchen Sie eine andere Kopie der Datei.</translation>
+        <translation>Suchen Sie nach einer anderen Kopie der Datei.</translation>
     </message>
     <message>
         <source>Copy its content into a drawing.</source>
@@ -1326,11 +1324,11 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Line breaks, tabs or repeated spaces in texts were dropped.</source>
-        <translation>Zeilenumbrüche, Tabulatoren oder mehrfache Leerzeichen in Texten fielen weg.</translation>
+        <translation>Zeilenumbrüche, Tabulatoren oder mehrfache Leerzeichen in Texten wurden verworfen.</translation>
     </message>
     <message>
         <source>Formats of characters and paragraphs, such as superscript or line spacing, were dropped.</source>
-        <translation>Formate von Zeichen und Absätzen, etwa Hochstellung oder Zeilenabstand, fielen weg.</translation>
+        <translation>Formate von Zeichen und Absätzen, etwa Hochstellung oder Zeilenabstand, wurden verworfen.</translation>
     </message>
     <message>
         <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
@@ -1338,7 +1336,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Shadows, transparency, cropping and other effects were dropped.</source>
-        <translation>Schatten, Transparenz, Zuschnitt und andere Effekte fielen weg.</translation>
+        <translation>Schatten, Transparenz, Zuschnitt und andere Effekte wurden verworfen.</translation>
     </message>
     <message>
         <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
@@ -1386,7 +1384,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>Nothing, unless you need them.</source>
-        <translation>Nichts, es sei denn, Sie benötigen sie.</translation>
+        <translation>Keine Maßnahme erforderlich, sofern Sie sie nicht benötigen.</translation>
     </message>
     <message>
         <source>Objects were left out because their type is unknown.</source>
@@ -1446,7 +1444,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>The file is damaged or of a newer version. Look for another copy.</source>
-        <translation>Die Datei ist beschädigt oder hat eine neuere Version. Suchen Sie eine andere Kopie.</translation>
+        <translation>Die Datei ist beschädigt oder hat eine neuere Version. Suchen Sie nach einer anderen Kopie.</translation>
     </message>
     <message>
         <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
@@ -1736,7 +1734,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     <name>trace</name>
     <message>
         <source>it is a folder</source>
-        <translation>das ist ein Ordner</translation>
+        <translation>es ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
@@ -1865,7 +1863,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Takes the last change back</source>
-        <translation>Nimmt die letzte Änderung zurück</translation>
+        <translation>Macht die letzte Änderung rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
@@ -1873,7 +1871,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Makes the change again</source>
-        <translation>Macht die Änderung noch einmal</translation>
+        <translation>Stellt die rückgängig gemachte Änderung wieder her</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -1885,11 +1883,11 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Select &amp;Nothing</source>
-        <translation>&amp;Nichts auswählen</translation>
+        <translation>Auswahl auf&amp;heben</translation>
     </message>
     <message>
         <source>Selects no item</source>
-        <translation>Wählt kein Objekt aus</translation>
+        <translation>Hebt die Auswahl auf</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -1897,7 +1895,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the label larger</source>
-        <translation>Zeigt das Etikett größer</translation>
+        <translation>Zeigt das Etikett größer an</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
@@ -1905,7 +1903,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the label smaller</source>
-        <translation>Zeigt das Etikett kleiner</translation>
+        <translation>Zeigt das Etikett kleiner an</translation>
     </message>
     <message>
         <source>&amp;Whole Label</source>
@@ -1913,7 +1911,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the whole label, and keeps it whole when the window changes</source>
-        <translation>Zeigt das ganze Etikett, auch wenn das Fenster seine Größe ändert</translation>
+        <translation>Zeigt das ganze Etikett an, auch wenn sich die Fenstergröße ändert</translation>
     </message>
     <message>
         <source>&amp;True Size</source>
@@ -1921,7 +1919,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the label in the size in which it is printed</source>
-        <translation>Zeigt das Etikett in der Größe, in der es gedruckt wird</translation>
+        <translation>Zeigt das Etikett in der Größe an, in der es gedruckt wird</translation>
     </message>
     <message>
         <source>Zoom to &amp;Selection</source>
@@ -1929,7 +1927,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the selected items as large as they fit</source>
-        <translation>Zeigt die ausgewählten Objekte so groß, wie es geht</translation>
+        <translation>Zeigt die ausgewählten Objekte so groß wie möglich an</translation>
     </message>
     <message>
         <source>&amp;Rulers</source>
@@ -1937,7 +1935,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows or hides the rulers</source>
-        <translation>Zeigt oder verbirgt die Lineale</translation>
+        <translation>Blendet die Lineale ein oder aus</translation>
     </message>
     <message>
         <source>&amp;Millimeters</source>
@@ -1945,7 +1943,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows lengths in millimeters</source>
-        <translation>Zeigt Längen in Millimetern</translation>
+        <translation>Zeigt Längen in Millimetern an</translation>
     </message>
     <message>
         <source>In&amp;ches</source>
@@ -1953,15 +1951,15 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows lengths in inches</source>
-        <translation>Zeigt Längen in Zoll</translation>
+        <translation>Zeigt Längen in Zoll an</translation>
     </message>
     <message>
         <source>Like the &amp;System</source>
-        <translation>Wie das &amp;System</translation>
+        <translation>Wie im &amp;System</translation>
     </message>
     <message>
         <source>Takes the colors of the desktop</source>
-        <translation>Nimmt die Farben des Desktops</translation>
+        <translation>Verwendet die Farben des Desktops</translation>
     </message>
     <message>
         <source>&amp;Light</source>
@@ -1969,7 +1967,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Dark text on light windows</source>
-        <translation>Dunkler Text auf hellen Fenstern</translation>
+        <translation>Dunkler Text auf hellem Hintergrund</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
@@ -1977,7 +1975,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Light text on dark windows</source>
-        <translation>Heller Text auf dunklen Fenstern</translation>
+        <translation>Heller Text auf dunklem Hintergrund</translation>
     </message>
     <message>
         <source>&amp;Canvas</source>
@@ -1985,7 +1983,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Puts the keyboard on the canvas</source>
-        <translation>Setzt die Tastatur auf die Zeichenfläche</translation>
+        <translation>Setzt den Tastaturfokus auf die Zeichenfläche</translation>
     </message>
     <message>
         <source>&amp;Items</source>
@@ -1993,7 +1991,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the list of items and puts the keyboard on it</source>
-        <translation>Zeigt die Liste der Objekte und setzt die Tastatur darauf</translation>
+        <translation>Zeigt die Liste der Objekte an und setzt den Tastaturfokus darauf</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
@@ -2001,7 +1999,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the properties of an item and puts the keyboard on them</source>
-        <translation>Zeigt die Eigenschaften eines Objekts und setzt die Tastatur darauf</translation>
+        <translation>Zeigt die Eigenschaften eines Objekts an und setzt den Tastaturfokus darauf</translation>
     </message>
     <message>
         <source>&amp;Data Sources</source>
@@ -2009,15 +2007,15 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the data sources and puts the keyboard on them</source>
-        <translation>Zeigt die Datenquellen und setzt die Tastatur darauf</translation>
+        <translation>Zeigt die Datenquellen an und setzt den Tastaturfokus darauf</translation>
     </message>
     <message>
         <source>I&amp;ssues</source>
-        <translation>&amp;Meldungen</translation>
+        <translation>&amp;Probleme</translation>
     </message>
     <message>
         <source>Shows the issues and puts the keyboard on them</source>
-        <translation>Zeigt die Meldungen und setzt die Tastatur darauf</translation>
+        <translation>Zeigt die Probleme an und setzt den Tastaturfokus darauf</translation>
     </message>
     <message>
         <source>&amp;First</source>
@@ -2025,7 +2023,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the first record</source>
-        <translation>Zeigt den ersten Datensatz</translation>
+        <translation>Zeigt den ersten Datensatz an</translation>
     </message>
     <message>
         <source>&amp;Previous</source>
@@ -2033,7 +2031,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the record before</source>
-        <translation>Zeigt den Datensatz davor</translation>
+        <translation>Zeigt den vorherigen Datensatz an</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -2041,7 +2039,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the record after</source>
-        <translation>Zeigt den Datensatz danach</translation>
+        <translation>Zeigt den nächsten Datensatz an</translation>
     </message>
     <message>
         <source>&amp;Last</source>
@@ -2049,7 +2047,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows the last record</source>
-        <translation>Zeigt den letzten Datensatz</translation>
+        <translation>Zeigt den letzten Datensatz an</translation>
     </message>
     <message>
         <source>&amp;Go to…</source>
@@ -2057,7 +2055,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Puts the keyboard on the record&apos;s number</source>
-        <translation>Setzt die Tastatur auf die Nummer des Datensatzes</translation>
+        <translation>Setzt den Tastaturfokus auf die Nummer des Datensatzes</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts</source>
@@ -2065,7 +2063,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows all keys</source>
-        <translation>Zeigt alle Tasten</translation>
+        <translation>Zeigt alle Tastenkürzel an</translation>
     </message>
     <message>
         <source>&amp;About</source>
@@ -2073,7 +2071,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Shows what program this is</source>
-        <translation>Sagt, welches Programm dies ist</translation>
+        <translation>Zeigt Informationen über das Programm an</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -2119,7 +2117,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <name>window::DialogImport</name>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation>Für diese Datei reicht der Speicher nicht.</translation>
+        <translation>Für diese Datei reicht der Speicher nicht aus.</translation>
     </message>
 </context>
 <context>
@@ -2166,7 +2164,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Chooses the file in a dialog</source>
-        <translation>Wählt die Datei in einem Dialog</translation>
+        <translation>Öffnet einen Dialog zur Auswahl der Datei</translation>
     </message>
     <message>
         <source> dpi</source>
@@ -2186,7 +2184,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Re&amp;solution</source>
-        <translation>Au&amp;flösung</translation>
+        <translation>Auf&amp;lösung</translation>
     </message>
     <message>
         <source>Records</source>
@@ -2210,7 +2208,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>“%1” exists already. Replace it?</source>
-        <translation>„%1“ gibt es schon. Ersetzen?</translation>
+        <translation>„%1“ ist bereits vorhanden. Ersetzen?</translation>
     </message>
 </context>
 <context>
@@ -2229,18 +2227,18 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>What it is</source>
-        <translation>Was es ist</translation>
+        <translation>Beschreibung</translation>
     </message>
 </context>
 <context>
     <name>window::IssuesPanel</name>
     <message>
         <source>Issues of the label</source>
-        <translation>Meldungen zum Etikett</translation>
+        <translation>Probleme des Etiketts</translation>
     </message>
     <message>
         <source>There is nothing to report.</source>
-        <translation>Es gibt nichts zu melden.</translation>
+        <translation>Es sind keine Probleme zu melden.</translation>
     </message>
 </context>
 <context>
@@ -2259,7 +2257,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Lage</translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Kind</source>
@@ -2287,11 +2285,11 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Flipped left to right</source>
-        <translation>Links und rechts vertauscht</translation>
+        <translation>Horizontal gespiegelt</translation>
     </message>
     <message>
         <source>Flipped top to bottom</source>
-        <translation>Oben und unten vertauscht</translation>
+        <translation>Vertikal gespiegelt</translation>
     </message>
     <message>
         <source>Layer</source>
@@ -2323,7 +2321,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>thinnest</source>
-        <translation>so dünn wie möglich</translation>
+        <translation>Haarlinie</translation>
     </message>
     <message>
         <source>%1 pt</source>
@@ -2383,11 +2381,11 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Mark at the start</source>
-        <translation>Zeichen am Anfang</translation>
+        <translation>Markierung am Anfang</translation>
     </message>
     <message>
         <source>Mark at the end</source>
-        <translation>Zeichen am Ende</translation>
+        <translation>Markierung am Ende</translation>
     </message>
     <message>
         <source>Text</source>
@@ -2419,7 +2417,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>the default</source>
-        <translation>die Standardschrift</translation>
+        <translation>Standardschrift</translation>
     </message>
     <message>
         <source>Font size</source>
@@ -2427,7 +2425,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>not set</source>
-        <translation>nicht gesetzt</translation>
+        <translation>nicht festgelegt</translation>
     </message>
     <message>
         <source>Bold</source>
@@ -2467,7 +2465,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Ground</source>
-        <translation>Grund</translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Option</source>
@@ -2503,7 +2501,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Symbol ground</source>
-        <translation>Symbolgrund</translation>
+        <translation>Symbolhintergrund</translation>
     </message>
     <message>
         <source>Data source</source>
@@ -2604,7 +2602,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
 The label is still open. Save it in another folder with “Save As”.</source>
         <translation>%1
 
-Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem anderen Ordner speichern.</translation>
+Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in einem anderen Ordner.</translation>
     </message>
     <message>
         <source>Saved as %1</source>
@@ -2619,7 +2617,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>window::Main</name>
     <message>
         <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
-        <translation>Öffnet alte Etikettenvorlagen, zeigt, speichert, exportiert und druckt sie.</translation>
+        <translation>Öffnet alte Etikettenvorlagen, zeigt sie an, speichert, exportiert und druckt sie.</translation>
     </message>
     <message>
         <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
@@ -2661,7 +2659,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation>Öffnet alte Etikettenvorlagen, zeigt sie, bewahrt sie auf und gibt sie weiter.</translation>
+        <translation>Öffnet alte Etikettenvorlagen, zeigt sie an, speichert sie und gibt sie weiter.</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
@@ -2677,7 +2675,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>A window holds one label: only the first file was opened.</source>
-        <translation>Ein Fenster fasst ein Etikett: Nur die erste Datei wurde geöffnet.</translation>
+        <translation>Ein Fenster zeigt ein Etikett: Nur die erste Datei wurde geöffnet.</translation>
     </message>
 </context>
 <context>
@@ -2727,14 +2725,14 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>%1 pages were given to the printer</source>
-        <translation>%1 Seiten wurden an den Drucker übergeben</translation>
+        <translation>%1 Seiten an den Drucker gesendet</translation>
     </message>
 </context>
 <context>
     <name>window::OutputJob</name>
     <message>
         <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
-        <translation>Der Drucker hat die Seiten nicht angenommen. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, oder drucken Sie mit „Exportieren“ in eine PDF-Datei.</translation>
+        <translation>Der Drucker hat die Seiten nicht angenommen. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, oder geben Sie die Seiten mit „Exportieren“ in eine PDF-Datei aus.</translation>
     </message>
 </context>
 <context>
@@ -2761,7 +2759,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>Save the changes to “%1”?</source>
-        <translation>Die Änderungen an „%1“ speichern?</translation>
+        <translation>Änderungen an „%1“ speichern?</translation>
     </message>
     <message>
         <source>Changes that are not saved will be lost.</source>
@@ -2773,11 +2771,11 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>“%1” exists already.</source>
-        <translation>„%1“ gibt es schon.</translation>
+        <translation>„%1“ ist bereits vorhanden.</translation>
     </message>
     <message>
         <source>The label was imported. It can replace that file, be saved under another name, or be saved later.</source>
-        <translation>Das Etikett wurde importiert. Es kann die Datei ersetzen, unter einem anderen Namen oder später gespeichert werden.</translation>
+        <translation>Das Etikett wurde importiert. Sie können die vorhandene Datei ersetzen, das Etikett unter einem anderen Namen speichern oder es später speichern.</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -2830,7 +2828,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>window::RecordChooser</name>
     <message>
         <source>The one &amp;shown (%1)</source>
-        <translation>Der an&amp;gezeigte (%1)</translation>
+        <translation>An&amp;gezeigter Datensatz (%1)</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
@@ -2838,7 +2836,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>A run of records</source>
-        <translation>Eine Folge von Datensätzen</translation>
+        <translation>Ein Bereich von Datensätzen</translation>
     </message>
     <message>
         <source>First record</source>
@@ -2891,11 +2889,11 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>Arrow keys; further with Shift, a little with Ctrl</source>
-        <translation>Pfeiltasten; weiter mit Umschalt, ein wenig mit Strg</translation>
+        <translation>Pfeiltasten; mit Umschalt in größeren, mit Strg in kleineren Schritten</translation>
     </message>
     <message>
         <source>Select nothing</source>
-        <translation>Nichts auswählen</translation>
+        <translation>Auswahl aufheben</translation>
     </message>
     <message>
         <source>Esc</source>
@@ -2903,7 +2901,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>Zoom at the pointer</source>
-        <translation>Zoom am Mauszeiger</translation>
+        <translation>Am Mauszeiger zoomen</translation>
     </message>
     <message>
         <source>Ctrl+wheel</source>
@@ -2989,7 +2987,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>Shows now</source>
-        <translation>Zeigt jetzt</translation>
+        <translation>Aktueller Wert</translation>
     </message>
 </context>
 <context>
@@ -3011,15 +3009,15 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>solid</source>
-        <translation>durchgezogen</translation>
+        <translation>durchgehend</translation>
     </message>
     <message>
         <source>dashes</source>
-        <translation>Striche</translation>
+        <translation>gestrichelt</translation>
     </message>
     <message>
         <source>dots</source>
-        <translation>Punkte</translation>
+        <translation>gepunktet</translation>
     </message>
     <message>
         <source>dash, dot</source>
@@ -3047,7 +3045,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>cut off</source>
-        <translation>abgeschnitten</translation>
+        <translation>abgeschrägt</translation>
     </message>
     <message>
         <source>rounded</source>
@@ -3170,7 +3168,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>window::WelcomePage</name>
     <message>
         <source>Drop a label here</source>
-        <translation>Legen Sie hier ein Etikett ab</translation>
+        <translation>Ziehen Sie ein Etikett hierher</translation>
     </message>
     <message>
         <source>Saved labels (*.label) and legacy ones: binary canvas files (*.cnv, *.roc), XML labels (*.qmtx), OpenDocument texts and drawings (*.odt, *.odg)</source>
@@ -3215,7 +3213,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>workbench::BarcodeEncoder</name>
     <message>
         <source>%1: the content has a length that this kind of barcode does not take%2.</source>
-        <translation>%1: Der Inhalt hat eine Länge, die diese Barcodeart nicht zulässt%2.</translation>
+        <translation>%1: Die Länge des Inhalts ist bei dieser Barcodeart nicht zulässig%2.</translation>
     </message>
     <message>
         <source>%1: the content does not suit this kind of barcode%2.</source>
@@ -3227,39 +3225,39 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
-        <translation>%1: Der Inhalt verträgt sich nicht mit den Einstellungen des Barcodes%2.</translation>
+        <translation>%1: Der Inhalt ist nicht mit den Einstellungen des Barcodes vereinbar%2.</translation>
     </message>
     <message>
         <source>%1: the content is too much for the memory%2.</source>
-        <translation>%1: Der Inhalt ist zu viel für den Speicher%2.</translation>
+        <translation>%1: Für den Inhalt reicht der Speicher nicht aus%2.</translation>
     </message>
     <message>
         <source>%1: the content cannot be encoded%2.</source>
-        <translation>%1: Der Inhalt lässt sich nicht kodieren%2.</translation>
+        <translation>%1: Der Inhalt kann nicht kodiert werden%2.</translation>
     </message>
     <message>
         <source>There is not enough memory for the barcode.</source>
-        <translation>Für den Barcode reicht der Speicher nicht.</translation>
+        <translation>Für den Barcode reicht der Speicher nicht aus.</translation>
     </message>
     <message>
         <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
-        <translation>%1: Der Inhalt braucht einen linearen Teil, ein „|“ und einen zweiten Teil.</translation>
+        <translation>%1: Der Inhalt muss aus einem linearen Teil, einem „|“ und einem zweiten Teil bestehen.</translation>
     </message>
     <message>
         <source>%1: the content is too long for any barcode.</source>
-        <translation>%1: Der Inhalt ist für jeden Barcode zu lang.</translation>
+        <translation>%1: Der Inhalt ist zu lang für einen Barcode.</translation>
     </message>
     <message>
         <source>%1: the content gives no bars at all.</source>
-        <translation>%1: Der Inhalt ergibt gar keine Striche.</translation>
+        <translation>%1: Der Inhalt ergibt keine Striche.</translation>
     </message>
     <message>
         <source>The label asks for a kind of barcode that is not known (number %1).</source>
-        <translation>Das Etikett verlangt eine Barcodeart, die nicht bekannt ist (Nummer %1).</translation>
+        <translation>Das Etikett verwendet eine unbekannte Barcodeart (Nummer %1).</translation>
     </message>
     <message>
         <source>%1: there is no content to encode.</source>
-        <translation>%1: Es gibt keinen Inhalt zu kodieren.</translation>
+        <translation>%1: Es ist kein Inhalt zum Kodieren vorhanden.</translation>
     </message>
 </context>
 <context>
@@ -3317,7 +3315,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>workbench::FileCheck</name>
     <message>
         <source>No file was named.</source>
-        <translation>Es wurde keine Datei genannt.</translation>
+        <translation>Es wurde keine Datei angegeben.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -3329,7 +3327,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>This is not a regular file.</source>
-        <translation>Das ist keine gewöhnliche Datei.</translation>
+        <translation>Das ist keine reguläre Datei.</translation>
     </message>
     <message>
         <source>The file cannot be opened: %1.</source>
@@ -3384,11 +3382,11 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>Left out an object that the program could not create.</source>
-        <translation>Ein Objekt wurde weggelassen, das vom Programm nicht erstellt werden konnte.</translation>
+        <translation>Ein Objekt, das vom Programm nicht erstellt werden konnte, wurde weggelassen.</translation>
     </message>
     <message>
         <source>Left out a data source that the program could not create.</source>
-        <translation>Eine Datenquelle wurde weggelassen, die vom Programm nicht erstellt werden konnte.</translation>
+        <translation>Eine Datenquelle, die vom Programm nicht erstellt werden konnte, wurde weggelassen.</translation>
     </message>
     <message>
         <source>Left out a picture that is too large.</source>
@@ -3420,7 +3418,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>Left out a drawing that cannot be converted.</source>
-        <translation>Eine Zeichnung wurde weggelassen, die nicht umgewandelt werden kann.</translation>
+        <translation>Eine Zeichnung, die nicht umgewandelt werden kann, wurde weggelassen.</translation>
     </message>
     <message>
         <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
@@ -3447,15 +3445,15 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>it is a folder</source>
-        <translation>sie ist ein Ordner</translation>
+        <translation>es ist ein Ordner</translation>
     </message>
     <message>
         <source>it is larger than any label</source>
-        <translation>sie ist größer als jedes Etikett</translation>
+        <translation>sie ist zu groß für ein Etikett</translation>
     </message>
     <message>
         <source>The label file is damaged: its data sources do not fit together.</source>
-        <translation>Die Etikettendatei ist beschädigt: Ihre Datenquellen passen nicht zusammen.</translation>
+        <translation>Die Etikettendatei ist beschädigt: Ihre Datenquellen passen nicht zueinander.</translation>
     </message>
     <message>
         <source>The file is not a saved label.</source>
@@ -3479,7 +3477,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>The file is not a saved label, or it is damaged: after %1 bytes it cannot be read any further.</source>
-        <translation>Die Datei ist kein gespeichertes Etikett, oder sie ist beschädigt: Nach %1 Bytes lässt sie sich nicht weiter lesen.</translation>
+        <translation>Die Datei ist kein gespeichertes Etikett oder beschädigt: Nach %1 Bytes kann sie nicht weiter gelesen werden.</translation>
     </message>
     <message>
         <source>The label file is damaged: %1.</source>
@@ -3487,11 +3485,11 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation>sie ist keine gewöhnliche Datei</translation>
+        <translation>es ist keine reguläre Datei</translation>
     </message>
     <message>
         <source>The label file is damaged: it holds more than any label.</source>
-        <translation>Die Etikettendatei ist beschädigt: Sie enthält mehr als jedes Etikett.</translation>
+        <translation>Die Etikettendatei ist beschädigt: Sie enthält zu viele Daten für ein Etikett.</translation>
     </message>
     <message>
         <source>The label file is damaged: its pictures are too large.</source>
@@ -3502,7 +3500,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>workbench::LabelImport</name>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation>Für diese Datei reicht der Speicher nicht.</translation>
+        <translation>Für diese Datei reicht der Speicher nicht aus.</translation>
     </message>
 </context>
 <context>
@@ -3513,14 +3511,14 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>The page is longer than %1 points, the most that a PDF document can have.</source>
-        <translation>Die Seite ist länger als %1 Punkt; mehr fasst ein PDF-Dokument nicht.</translation>
+        <translation>Die Seite ist länger als %1 Punkt, die Höchstlänge in einem PDF-Dokument.</translation>
     </message>
 </context>
 <context>
     <name>workbench::PageImage</name>
     <message>
         <source>The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots per inch. The largest picture is %6 pixels along a side and %7 million in all.</source>
-        <translation>Die Seite misst %1 mal %2 Punkt, das ergibt bei %5 dpi ein Bild von %3 mal %4 Pixeln. Das größte Bild hat %6 Pixel je Seite und %7 Millionen im Ganzen.</translation>
+        <translation>Die Seite misst %1 mal %2 Punkt; das ergibt bei %5 dpi ein Bild von %3 mal %4 Pixeln. Ein Bild darf höchstens %6 Pixel je Seite und insgesamt %7 Millionen Pixel haben.</translation>
     </message>
     <message>
         <source> Up to %1 dots per inch are possible.</source>
@@ -3532,7 +3530,7 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     </message>
     <message>
         <source>There is not enough memory for a picture of %1 by %2 pixels.</source>
-        <translation>Für ein Bild von %1 mal %2 Pixeln reicht der Speicher nicht.</translation>
+        <translation>Für ein Bild von %1 mal %2 Pixeln reicht der Speicher nicht aus.</translation>
     </message>
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
@@ -3610,11 +3608,11 @@ Das Etikett ist noch offen. Mit „Speichern unter“ lässt es sich in einem an
     <name>workbench::SymbolDatabase</name>
     <message>
         <source>there is no such file</source>
-        <translation>es gibt keine solche Datei</translation>
+        <translation>die Datei ist nicht vorhanden</translation>
     </message>
     <message>
         <source>it has no table of symbols</source>
-        <translation>sie hat keine Tabelle mit Symbolen</translation>
+        <translation>sie enthält keine Symboltabelle</translation>
     </message>
     <message>
         <source>it cannot be read</source>
