@@ -1719,11 +1719,11 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
     <message>
         <source>timed out</source>
-        <translation>Zeit überschritten</translation>
+        <translation>Zeitüberschreitung</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation>Speicher reicht nicht aus</translation>
+        <translation>zu wenig Speicher</translation>
     </message>
     <message>
         <source>failed</source>
