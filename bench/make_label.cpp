@@ -18,7 +18,7 @@ QByteArray labelFor(const QString& path, int objects)
         return bench::xmlLabel(objects);
     }
     return bench::drawing(objects, path.endsWith(QLatin1String("_texts.odg")) ? bench::Texts::Some
-                                                                            : bench::Texts::None);
+                                                                              : bench::Texts::None);
 }
 
 } // namespace

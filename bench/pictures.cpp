@@ -23,7 +23,8 @@ QImage flatLabel()
     painter.setFont(QFont(QStringLiteral("Liberation Sans"), 30));
     painter.drawRect(20, 20, Width - 40, Height - 40);
     for (int line = 0; line < 20; ++line) {
-        painter.drawText(60, 120 + 50 * line, QStringLiteral("Net weight 12.5 kg, line %1").arg(line));
+        painter.drawText(60, 120 + 50 * line,
+                         QStringLiteral("Net weight 12.5 kg, line %1").arg(line));
     }
     for (int bar = 0; bar < 120; ++bar) {
         painter.fillRect(60 + 8 * bar, 1200, bar % 3 + 2, 400, Qt::black);
@@ -40,7 +41,8 @@ QImage photograph()
         for (int x = 0; x < Width; ++x) {
             noise = noise * 1664525U + 1013904223U;
             const int grain = static_cast<int>(noise >> 29);
-            image.setPixel(x, y, qRgb(x * 240 / Width + grain, y * 240 / Height + grain, 90 + grain));
+            image.setPixel(x, y,
+                           qRgb(x * 240 / Width + grain, y * 240 / Height + grain, 90 + grain));
         }
     }
     return image;

@@ -7,8 +7,10 @@
 #include <QJsonObject>
 
 #include <concepts>
+#include <functional>
 #include <optional>
 #include <type_traits>
+#include <utility>
 
 /// Structs to JSON and back. A struct is described once, by a function next to it, in its
 /// namespace:
@@ -38,6 +40,11 @@ concept SingleValue = requires
 class FieldWriter
 {
 public:
+    /// @param progress called after each entry of a list of structs; may be empty
+    explicit FieldWriter(std::function<void()> progress = {})
+        : m_progress(std::move(progress))
+    {}
+
     [[nodiscard]] QJsonObject object() const { return m_object; }
 
     template <class T>
@@ -58,29 +65,33 @@ public:
 
 private:
     template <SingleValue T>
-    [[nodiscard]] static QJsonValue json(const T& value)
+    [[nodiscard]] QJsonValue json(const T& value) const
     {
         return Json<T>::write(value);
     }
 
     template <class T>
-    requires(!SingleValue<T>) [[nodiscard]] static QJsonValue json(const T& group)
+    requires(!SingleValue<T>) [[nodiscard]] QJsonValue json(const T& group) const
     {
-        FieldWriter writer;
+        FieldWriter writer(m_progress);
         describe(writer, group);
         return writer.object();
     }
 
     template <class T>
-    requires(!SingleValue<QList<T>>) [[nodiscard]] static QJsonValue json(const QList<T>& groups)
+    requires(!SingleValue<QList<T>>) [[nodiscard]] QJsonValue json(const QList<T>& groups) const
     {
         QJsonArray array;
         for (const T& group : groups) {
             array.append(json(group));
+            if (m_progress) {
+                m_progress();
+            }
         }
         return array;
     }
 
+    std::function<void()> m_progress;
     QJsonObject m_object;
 };
 

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "limits/zip/zip_directory.h"
 #include "opendocument/geometry.h"
 #include "opendocument/graphic_style.h"
 #include "opendocument/picture_store.h"
 #include "opendocument/rich_text.h"
 #include "opendocument/text_flow.h"
 #include "opendocument/text_style.h"
-#include "limits/zip/zip_directory.h"
 
 #include "host/kest_types.h"
 #include "limits/xml/element_tree.h"

@@ -111,8 +111,7 @@ Written LabelWriter::write(Target target, const QString& output)
         // Contains all records, whatever --records selects.
         return writeFile(output, [&](const QString& file) {
             return workbench::document::saveLabel(file, *m_label.canvas, *m_label.datasources,
-                                                  workbench::document::Origin::Import,
-                                                  m_heartbeat);
+                                                  workbench::document::Origin::Import, m_heartbeat);
         });
     }
     const Records records = recordsOf(m_label, m_options.records);

@@ -132,7 +132,8 @@ TEST(CensusLimits, MeasureTheMembersOfPackages)
     const QByteArray most = package(small, documentOf(MaximumContent));
     ziplimits::ZipDirectory directory;
     ASSERT_FALSE(directory.openBytes(most));
-    EXPECT_TRUE(!directory.refusalOf(QStringLiteral("content.xml"), MaximumContent)) << "only unpacked: it takes long";
+    EXPECT_TRUE(!directory.refusalOf(QStringLiteral("content.xml"), MaximumContent))
+        << "only unpacked: it takes long";
     EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(MaximumContent + 1)))));
 }
 

@@ -4,11 +4,11 @@
 #include "fake_host.h"
 #include "tests/support/captured_log.h"
 
+#include "limits/xml/markup_scanner.h"
 #include "opendocument/limits.h"
 #include "opendocument/open_office_reader.h"
 #include "opendocument/picture_store.h"
 #include "opendocument/style_memory.h"
-#include "limits/xml/markup_scanner.h"
 
 #include <QBuffer>
 #include <QImage>

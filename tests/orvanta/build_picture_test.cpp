@@ -173,8 +173,7 @@ TEST_F(PictureBuilding, RendersADrawingThatDoesNotBeginWithSvg)
 {
     const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='3'>"
                            "<rect width='4' height='3' fill='red'/></svg>";
-    const QByteArray starts[] = {"<?xml version='1.0'?>", "<!-- logo -->", "\n ",
-                                 "<!DOCTYPE svg>"};
+    const QByteArray starts[] = {"<?xml version='1.0'?>", "<!-- logo -->", "\n ", "<!DOCTYPE svg>"};
     for (const QByteArray& start : starts) {
         readControls(pictureBox(start + svg));
         EXPECT_TRUE(takeCalls().filter(QStringLiteral("pixmapImportActions 4x3")).size() == 1)

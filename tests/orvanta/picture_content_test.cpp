@@ -102,12 +102,11 @@ TEST(RasterPicture, OfADrawingShowsNoExternalPicture)
     QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(Qt::red);
     ASSERT_TRUE(picture.save(red));
-    const QByteArray drawing =
-        "<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
-        "xmlns:xlink='http://www.w3.org/1999/xlink' width='8' height='8'>"
-        "<rect width='4' height='8' fill='blue'/>"
-        "<image x='4' width='4' height='8' xlink:href='" +
-        red.toUtf8() + "'/></svg>";
+    const QByteArray drawing = "<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
+                               "xmlns:xlink='http://www.w3.org/1999/xlink' width='8' height='8'>"
+                               "<rect width='4' height='8' fill='blue'/>"
+                               "<image x='4' width='4' height='8' xlink:href='" +
+                               red.toUtf8() + "'/></svg>";
     ASSERT_EQ(QImage::fromData(drawing).pixelColor(6, 4), QColor(Qt::red)) << "by the plug-in";
     const auto rendered = orvanta::decodeRasterPicture(drawing, 64);
     EXPECT_EQ(rendered.refusal, QString());

@@ -63,8 +63,8 @@ TEST_F(TraceProgram, HasTheSizeOfADrawingThatIsARasterPicture)
                              "</content></image></picture_box></controls></qmtx>";
     const ProgramResult result = run({file(QStringLiteral("logo.qmtx"), label)});
     EXPECT_EQ(result.status, 0) << result.errors.constData();
-    EXPECT_TRUE(result.output.contains(
-        "\"pixmapImportActions\",\"args\":[{\"width\":30,\"height\":20}]"))
+    EXPECT_TRUE(
+        result.output.contains("\"pixmapImportActions\",\"args\":[{\"width\":30,\"height\":20}]"))
         << result.output.constData();
     EXPECT_FALSE(result.output.contains("\"log\"")) << result.output.constData();
 }

@@ -2,10 +2,10 @@
 
 #include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
-#include "workbench/document/picture_pixels.h"
 #include "workbench/document/json_values.h"
 #include "workbench/document/label_file.h"
 #include "workbench/document/label_json.h"
+#include "workbench/document/picture_pixels.h"
 
 #include "sample_label.h"
 #include "tests/support/mono_png.h"

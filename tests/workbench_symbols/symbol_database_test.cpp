@@ -1,8 +1,8 @@
 #include "workbench/symbols/symbol_database.h"
 
 #include "host/services/symbol_database_model.h"
-#include "tests/support/captured_log.h"
 #include "limits/svg/svg_limits.h"
+#include "tests/support/captured_log.h"
 #include "workbench/symbols/symbol_data.h"
 
 #include <QFile>

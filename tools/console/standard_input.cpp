@@ -29,20 +29,26 @@ QString copyStandardInput(QTemporaryFile& file)
     if (!input.open(stdin, QIODevice::ReadOnly)) {
         return tr("Cannot read standard input: %1.").arg(input.errorString());
     }
+    const QString problem = copyLabel(input, file, MaximumInputBytes);
+    if (problem.isEmpty() && input.error() != QFileDevice::NoError) {
+        return tr("Cannot read standard input: %1.").arg(input.errorString());
+    }
+    return problem;
+}
+
+QString copyLabel(QIODevice& input, QFile& file, qint64 largest)
+{
     constexpr qint64 blockSize = 1024 * 1024;
     qint64 total = 0;
     for (QByteArray block = input.read(blockSize); !block.isEmpty();
          block = input.read(blockSize)) {
         total += block.size();
-        if (total > MaximumInputBytes) {
+        if (total > largest) {
             return tr("Standard input is longer than any label.");
         }
         if (file.write(block) != block.size()) {
             return cannotKeep(file.errorString());
         }
-    }
-    if (input.error() != QFileDevice::NoError) {
-        return tr("Cannot read standard input: %1.").arg(input.errorString());
     }
     return file.flush() ? QString() : cannotKeep(file.errorString());
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QFile;
+class QIODevice;
 class QTemporaryFile;
 
 namespace console {
@@ -12,5 +14,8 @@ inline constexpr qint64 MaximumInputBytes = 1LL << 30;
 /// Copies standard input to a temporary file, because readers need a file. Returns why that
 /// failed, for a person; else empty.
 [[nodiscard]] QString copyStandardInput(QTemporaryFile& file);
+
+/// Copies at most @p largest bytes from @p input to @p file. Returns why that failed, else empty.
+[[nodiscard]] QString copyLabel(QIODevice& input, QFile& file, qint64 largest);
 
 } // namespace console

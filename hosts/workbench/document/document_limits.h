@@ -16,8 +16,8 @@ inline constexpr qint64 PicturePixels = 32 * 1024 * 1024;
 /// Pixels of all pictures of a label: as many as any reader brings, and not more because a
 /// picture of one colour takes next to nothing in a file.
 inline constexpr qint64 AllPicturePixels = 150'000'000;
-/// Bytes of the parser's tree, as jsonlimits::treeBytes() estimates it. A file of nothing but items, as large as
-/// a file may be, takes eleven times its size.
+/// Bytes of the parser's tree, as jsonlimits::treeBytes() estimates it. A file of nothing but
+/// items, as large as a file may be, takes eleven times its size.
 inline constexpr qint64 TreeBytes = 3LL << 30;
 
 } // namespace workbench::document::limits

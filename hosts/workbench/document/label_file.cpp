@@ -1,8 +1,8 @@
 #include "workbench/document/label_file.h"
 
 #include "workbench/document/document_limits.h"
-#include "workbench/document/picture_pixels.h"
 #include "workbench/document/label_json.h"
+#include "workbench/document/picture_pixels.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -19,10 +19,9 @@ namespace workbench::document {
 
 /// Saves a label. The file is replaced completely or not at all.
 /// @return why it could not be saved, in a sentence for a person; empty when it was
-[[nodiscard]] QString saveLabel(const QString& path, const Canvas& canvas,
-                                const datasources::DatasourceController& datasources,
-                                Origin origin = Origin::Person,
-                                const Heartbeat& heartbeat = [] {});
+[[nodiscard]] QString saveLabel(
+    const QString& path, const Canvas& canvas, const datasources::DatasourceController& datasources,
+    Origin origin = Origin::Person, const Heartbeat& heartbeat = [] {});
 
 /// Whether a file is a label that an import saved and that is unchanged since.
 [[nodiscard]] bool isUneditedImport(const QString& path);

@@ -2,8 +2,8 @@
 
 #include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
-#include "workbench/document/picture_pixels.h"
 #include "workbench/document/label_fields.h"
+#include "workbench/document/picture_pixels.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -66,15 +66,15 @@ constexpr QLatin1String FormatName("labelport-label");
 
 QByteArray toJson(const SavedLabel& label, Origin origin, const Heartbeat& heartbeat)
 {
-    fields::FieldWriter writer;
+    fields::FieldWriter writer(heartbeat);
     describe(writer, label);
     const QJsonObject content = writer.object();
     const QString checksum = checksumOf(content);
     heartbeat();
     QJsonObject file{{FormatKey, FormatName},
-                           {VersionKey, FormatVersion},
-                           {ChecksumKey, checksum},
-                           {LabelKey, content}};
+                     {VersionKey, FormatVersion},
+                     {ChecksumKey, checksum},
+                     {LabelKey, content}};
     if (origin == Origin::Import) {
         file.insert(OriginKey, ImportOrigin);
     }

@@ -14,8 +14,8 @@ inline constexpr int FormatVersion = 1;
 enum class Origin { Person, Import };
 
 /// The label as the bytes of a file.
-[[nodiscard]] QByteArray toJson(const SavedLabel& label, Origin origin = Origin::Person,
-                                const Heartbeat& heartbeat = [] {});
+[[nodiscard]] QByteArray toJson(
+    const SavedLabel& label, Origin origin = Origin::Person, const Heartbeat& heartbeat = [] {});
 
 /// Whether the bytes are a label that an import saved and that is unchanged since: it has the mark
 /// and the right checksum.

@@ -32,7 +32,9 @@ struct Text
 
 bool isKey(const QByteArray& key)
 {
-    const auto isVisible = [](char c) { return (c > ' ' && c < 127) || static_cast<uchar>(c) > 160; };
+    const auto isVisible = [](char c) {
+        return (c > ' ' && c < 127) || static_cast<uchar>(c) > 160;
+    };
     return key.size() <= MaximumKeyCharacters && std::any_of(key.begin(), key.end(), isVisible);
 }
 
@@ -59,7 +61,8 @@ struct PngContent
     {
         const QList<QRgb> table = image.colorTable();
         for (const QRgb color : table) {
-            colors.push_back({png_byte(qRed(color)), png_byte(qGreen(color)), png_byte(qBlue(color))});
+            colors.push_back(
+                {png_byte(qRed(color)), png_byte(qGreen(color)), png_byte(qBlue(color))});
             alphas.push_back(png_byte(qAlpha(color)));
         }
         for (Text& each : texts) {
@@ -106,8 +109,7 @@ void writeBytes(png_structp png, png_bytep data, png_size_t size)
 }
 
 // Only the end marks the file as complete; there is nothing to flush before.
-void flushNothing(png_structp /*png*/)
-{}
+void flushNothing(png_structp /*png*/) {}
 
 // The caller reports failures; libpng itself would print them.
 [[noreturn]] void leave(png_structp png, png_const_charp /*message*/)
@@ -115,8 +117,7 @@ void flushNothing(png_structp /*png*/)
     png_longjmp(png, 1);
 }
 
-void ignoreWarning(png_structp /*png*/, png_const_charp /*message*/)
-{}
+void ignoreWarning(png_structp /*png*/, png_const_charp /*message*/) {}
 
 void writeHead(png_structp png, png_infop info, const PngContent& content)
 {

@@ -39,8 +39,7 @@ constexpr std::array<Signature, 4> Signatures{{
 [[nodiscard]] bool isAcceptable(const QSize& size)
 {
     return size.width() > 0 && size.height() > 0 && size.width() <= ImageSide &&
-           size.height() <= ImageSide &&
-           qint64{size.width()} * size.height() <= ImagePixels;
+           size.height() <= ImageSide && qint64{size.width()} * size.height() <= ImagePixels;
 }
 
 [[nodiscard]] QByteArray base64Payload(const QString& uri)

@@ -275,8 +275,8 @@ Position positionOf(const QByteArray& utf8, qsizetype offset)
     Position position;
     position.line += before.count('\n');
     const QByteArrayView line = before.sliced(before.lastIndexOf('\n') + 1);
-    position.column += std::count_if(line.begin(), line.end(),
-                                  [](char c) { return (static_cast<uchar>(c) & 0xC0U) != 0x80U; });
+    position.column += std::count_if(
+        line.begin(), line.end(), [](char c) { return (static_cast<uchar>(c) & 0xC0U) != 0x80U; });
     return position;
 }
 

@@ -206,8 +206,7 @@ TEST(SvgSanitizer, KeepsTheSizeOfTheDocument)
     const auto safe = sanitizeSvg("<svg viewBox='0 0 3 4' width='5mm'><g/></svg>");
     ASSERT_TRUE(safe);
     EXPECT_EQ(sanitizeSvg(safe->document())->document(), safe->document());
-    EXPECT_THAT(safe->document().toStdString(),
-                HasSubstr(" width=\"5mm\" viewBox=\"0 0 3 4\">"));
+    EXPECT_THAT(safe->document().toStdString(), HasSubstr(" width=\"5mm\" viewBox=\"0 0 3 4\">"));
 }
 
 TEST(SvgSanitizer, LeavesOutElementsWithMonstrousCoordinates)

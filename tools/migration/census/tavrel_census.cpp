@@ -223,7 +223,8 @@ void countRecord(ObjectClass objectClass, quint32 version, ByteCursor& cursor, C
 QString unknownRest()
 {
     return QCoreApplication::translate(
-        "migration::Census", "The file continues with unknown data, which may contain more objects.");
+        "migration::Census",
+        "The file continues with unknown data, which may contain more objects.");
 }
 
 QString cutShort()
