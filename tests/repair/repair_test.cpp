@@ -88,6 +88,26 @@ TEST_F(RepairedFile, PlacesTextAsItsShapeSays)
     EXPECT_NEAR(text.placement.position.x(), 72 / 2.54 + 7.087, 0.01);
 }
 
+TEST_F(RepairedFile, KeepsTheSpaceAroundParagraphs)
+{
+    const auto frame = [](const QByteArray& paragraphs) {
+        return "<draw:frame svg:width=\"8cm\" svg:height=\"4cm\" svg:x=\"0cm\" svg:y=\"0cm\">"
+               "<draw:text-box>" +
+               paragraphs + "</draw:text-box></draw:frame>";
+    };
+    const QByteArray style = "<style:style style:name=\"p\" style:family=\"paragraph\">"
+                             "<style:paragraph-properties fo:margin-top=\"10pt\" "
+                             "fo:margin-bottom=\"20pt\"/></style:style>";
+    importDrawing(frame("<text:p>a</text:p><text:p>b</text:p>"), style);
+    const workbench::ItemValues plain = item(KestTypes::RichText);
+    importDrawing(
+        frame("<text:p text:style-name=\"p\">a</text:p><text:p text:style-name=\"p\">b</text:p>"),
+        style);
+    const workbench::ItemValues spaced = item(KestTypes::RichText);
+    EXPECT_NEAR(spaced.placement.position.y() - plain.placement.position.y(), 10.0, 0.01);
+    EXPECT_NEAR(spaced.box.size.height() - plain.box.size.height(), 30.0, 0.5);
+}
+
 TEST_F(RepairedFile, TurnsTextWithItsShape)
 {
     importDrawing("<draw:rect svg:width=\"4cm\" svg:height=\"2cm\" "

@@ -57,7 +57,10 @@ void applyText(workbench::CanvasItem& item, const TextPlan& plan)
         return;
     }
     text->setHtml(plan.html);
-    text->adjustBoxSizeToContent(0.0);
+    const bool isAsWideAsArea = plan.fillsWidth && plan.wraps;
+    if (!isAsWideAsArea) {
+        text->adjustBoxSizeToContent(0.0);
+    }
     const double width = widthOf(text->getItemSize(), plan);
     text->adjustBoxSizeToContent(width);
     const QSizeF size(width, text->getItemHeight());
@@ -83,6 +86,11 @@ void applyOpacity(QColor& color, double opacity)
 
 void applyShape(workbench::CanvasItem& item, const ItemPlan& plan)
 {
+    const KestTypes::ShapeType type = item.shapeType();
+    // Drawings and pictures have neither; their values take long to set.
+    if (type == KestTypes::Symbol || type == KestTypes::Picture) {
+        return;
+    }
     workbench::ItemValues values = item.values();
     if (values.pen && plan.penWidth) {
         values.pen->width = std::max(*plan.penWidth, Hairline);

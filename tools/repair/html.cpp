@@ -131,12 +131,13 @@ QString HtmlWriter::spanStyle(const Properties& text) const
 // The distance of lines as a share of the font's own, which Qt rounds up to whole pixels.
 double exactShare(const Properties& text)
 {
-    QFont font(text.value(u"style:font-name"_s));
-    font.setPixelSize(MeasuredSize);
-    font.setHintingPreference(QFont::PreferNoHinting);
+    const QString family = text.value(u"style:font-name"_s);
     static QHash<QString, double> heights;
-    double& height = heights[font.family()];
+    double& height = heights[family];
     if (height == 0.0) {
+        QFont font(family);
+        font.setPixelSize(MeasuredSize);
+        font.setHintingPreference(QFont::PreferNoHinting);
         const QFontMetricsF metrics(font);
         height = (metrics.ascent() + metrics.descent() + std::max(0.0, metrics.leading())) /
                  MeasuredSize;

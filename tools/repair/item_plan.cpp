@@ -90,6 +90,25 @@ Qt::Alignment alignmentOf(const Properties& graphic)
     return alignment | (horizontal == "right"_L1 ? Qt::AlignRight : Qt::AlignHCenter);
 }
 
+// The space above the first paragraph, or below the last.
+double outerSpace(Document& document, const Node& container, bool isAbove)
+{
+    const QString name = isAbove ? u"fo:margin-top"_s : u"fo:margin-bottom"_s;
+    double space = 0.0;
+    for (const auto& child : container.children) {
+        const QString style = child->attribute(u"text:style-name");
+        if (child->is(u"text:p")) {
+            const Properties paragraph =
+                document.table().resolved(u"paragraph"_s, style, false).paragraph;
+            space = toPoints(paragraph.value(name)).value_or(0.0);
+            if (isAbove) {
+                break;
+            }
+        }
+    }
+    return space;
+}
+
 TextPlan planText(Document& document, const Node& shape, const Node& container,
                   const Properties& graphic)
 {
@@ -101,6 +120,9 @@ TextPlan planText(Document& document, const Node& shape, const Node& container,
     TextPlan plan;
     plan.html = toHtml(document, container, automaticColor(graphic));
     plan.area = textArea(shape, placed.box).adjusted(left, top, -right, -bottom);
+    // Qt drops the space above the first paragraph; that below the last is not in the HTML.
+    plan.area.adjust(0.0, outerSpace(document, container, true), 0.0,
+                     -outerSpace(document, container, false));
     plan.rotation = placed.rotation;
     plan.center = placed.box.center();
     plan.alignment = alignmentOf(graphic);
@@ -137,7 +159,8 @@ void planRow(Document& document, const Node& shape, const Node& container,
     plan.row = shape.attribute(RowAttribute).toInt();
     plan.fillsRow = shape.attribute(FillsRowAttribute) == "true"_L1;
     if (plan.text) {
-        plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding);
+        plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding) +
+                     outerSpace(document, container, false);
     } else if (shape.child(u"draw:text-box") != nullptr) {
         plan.space = blankHeight(document, container);
     }
