@@ -187,6 +187,29 @@ TEST(Repair, LaysOutTextDocuments)
     EXPECT_TRUE(texts[3].text->html.contains("end"_L1));
 }
 
+TEST(Repair, BreaksTheLinesOfTextDocuments)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles><style:style style:name=\"t\" "
+        "style:family=\"text\"><style:text-properties fo:background-color=\"transparent\"/>"
+        "</style:style></office:automatic-styles><office:body><office:text><text:p><text:span "
+        "text:style-name=\"t\">" +
+        QByteArray("word ").repeated(100) +
+        "</text:span></text:p></office:text></office:body></office:document-content>";
+    const QByteArray noWrap = "<style:default-style style:family=\"graphic\">"
+                              "<style:graphic-properties fo:wrap-option=\"no-wrap\"/>"
+                              "</style:default-style>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles(noWrap)));
+    ASSERT_TRUE(import.isRepaired);
+    const workbench::ItemValues text = import.result.canvas->items().back()->values();
+    ASSERT_EQ(text.type, KestTypes::RichText);
+    EXPECT_LE(text.box.size.width(), import.result.canvas->page().size.width() + 1.0);
+    EXPECT_GT(text.box.size.height(), 100.0);
+    EXPECT_FALSE(text.text->html.contains("background-color"_L1));
+}
+
 TEST(Repair, GivesEachPageADocumentOfItsOwn)
 {
     const QTemporaryDir folder;

@@ -86,7 +86,7 @@ TEST(Texts, NumberListsAndMarkTheirItems)
         "<text:list-style style:name=\"L\"><text:list-level-style-number text:level=\"1\" "
         "style:num-format=\"1\" style:num-suffix=\".\"/><text:list-level-style-bullet "
         "text:level=\"2\" text:bullet-char=\"-\"/></text:list-style>");
-    EXPECT_EQ(text.text, "[1.\t][one]/[more]/[2.\t][two]/[-\t][deep]/"_L1);
+    EXPECT_EQ(text.text, "[1.  ][one]/[more]/[2.  ][two]/[-  ][deep]/"_L1);
     EXPECT_EQ(text.counts.lists, 2);
 }
 

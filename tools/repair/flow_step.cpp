@@ -154,6 +154,7 @@ void writeFrameStyle(Document& document, Node& frame)
         graphic.insert(u"draw:fill-color"_s, color);
     }
     addBorder(graphic, graphic);
+    graphic.insert(u"fo:wrap-option"_s, u"wrap"_s);
     if (!graphic.contains(u"draw:stroke"_s)) {
         graphic.insert(u"draw:stroke"_s, u"none"_s);
     }

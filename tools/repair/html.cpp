@@ -112,7 +112,8 @@ QString HtmlWriter::spanStyle(const Properties& text) const
     const bool isAutomatic = text.value(u"style:use-window-font-color"_s) == "true"_L1;
     const QColor color(isAutomatic ? QString() : text.value(u"fo:color"_s));
     style += u"color:%1;"_s.arg((color.isValid() ? color : m_automatic).name());
-    if (const QColor ground(text.value(u"fo:background-color"_s)); ground.isValid()) {
+    const QString groundName = text.value(u"fo:background-color"_s);
+    if (const QColor ground(groundName); ground.isValid() && groundName.startsWith(u'#')) {
         style += u"background-color:%1;"_s.arg(ground.name());
     }
     if (text.value(u"fo:font-variant"_s) == "small-caps"_L1) {

@@ -133,6 +133,16 @@ void StyleTable::readStyles(const Node* container)
 StyleProperties StyleTable::resolved(const QString& family, const QString& name,
                                      bool withDefault) const
 {
+    const QString key = keyOf(withDefault ? family + u'+' : family, name);
+    const auto known = m_resolved.constFind(key);
+    return known != m_resolved.constEnd()
+               ? *known
+               : *m_resolved.insert(key, resolve(family, name, withDefault));
+}
+
+StyleProperties StyleTable::resolve(const QString& family, const QString& name,
+                                    bool withDefault) const
+{
     std::vector<const Style*> chain;
     auto found = m_styles.constFind(keyOf(family, name));
     while (found != m_styles.constEnd() && chain.size() < MaximumParents) {
@@ -148,6 +158,8 @@ StyleProperties StyleTable::resolved(const QString& family, const QString& name,
 void StyleTable::add(const QString& family, const QString& name, const StyleProperties& properties)
 {
     m_styles.insert(keyOf(family, name), {QString(), properties});
+    m_resolved.remove(keyOf(family, name));
+    m_resolved.remove(keyOf(family + u'+', name));
 }
 
 QString StyleTable::fontFamily(const QString& declaration) const

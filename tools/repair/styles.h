@@ -52,6 +52,11 @@ private:
     void readFonts(const Node& root);
     [[nodiscard]] static StyleProperties ownProperties(const Node& style);
 
+    [[nodiscard]] StyleProperties resolve(const QString& family, const QString& name,
+                                          bool withDefault) const;
+
+    /// Answers of resolved(): thousands of shapes share a few styles.
+    mutable QHash<QString, StyleProperties> m_resolved;
     QHash<QString, Style> m_styles; // by family and name
     QHash<QString, StyleProperties> m_defaults;
     QHash<QString, QString> m_fonts;

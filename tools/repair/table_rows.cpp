@@ -212,6 +212,7 @@ std::unique_ptr<Node> textFrame(Document& document, const QRectF& box, const Pro
     style.graphic = {{u"draw:stroke"_s, u"none"_s},
                      {u"draw:fill"_s, u"none"_s},
                      {u"fo:padding"_s, u"0in"_s},
+                     {u"fo:wrap-option"_s, u"wrap"_s},
                      {u"draw:textarea-horizontal-align"_s, u"justify"_s},
                      {u"draw:textarea-vertical-align"_s, u"top"_s}};
     for (auto it = graphic.begin(); it != graphic.end(); ++it) {

@@ -13,7 +13,10 @@ using namespace Qt::StringLiterals;
 
 // Lists and sections within one another.
 constexpr int MaximumDepth = 100;
-// What drawings mean that give no size.
+// Between a bullet or number and its text: tabs would jump to the layout's own stops.
+const QString LabelGap = u"  "_s;
+// What texts mean that give no font, and drawings that give no size.
+const QString DefaultTextFont = u"Times New Roman"_s;
 const QString DefaultDrawingSize = u"18pt"_s;
 constexpr QLatin1StringView ParagraphNames[] = {
     "fo:text-align"_L1,    "fo:margin-left"_L1, "fo:margin-right"_L1, "fo:margin-top"_L1,
@@ -189,7 +192,7 @@ void BlockWriter::addLabel(List& list, StyleProperties& style, std::vector<Run>&
     style.paragraph.insert(u"fo:text-indent"_s, toInches(list.isNewItem ? indent.first : 0.0));
     if (list.isNewItem && !label.isEmpty()) {
         list.isNewItem = false;
-        runs.insert(runs.begin(), {style, label + u"\t"_s});
+        runs.insert(runs.begin(), {style, label + LabelGap});
     }
 }
 
@@ -250,7 +253,9 @@ StyleProperties textBase(Document& document, const Node& shape)
 {
     const StyleTable& table = document.table();
     StyleProperties base;
-    if (!document.wasText) {
+    if (document.wasText) {
+        base.text.insert(u"style:font-name"_s, DefaultTextFont);
+    } else {
         base.text.insert(u"fo:font-size"_s, DefaultDrawingSize);
         base.overlay(table.resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true));
     }
