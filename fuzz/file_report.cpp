@@ -49,13 +49,13 @@ void checkNumbers(const FileReport& report)
         return;
     }
     if (report.objects.imported + lostObjects(report) != *report.objects.inFile) {
-        qFatal("%lld objects came over and %lld did not, of %lld in the file",
+        qFatal("%lld objects were imported and %lld were not, of %lld in the file",
                static_cast<long long>(report.objects.imported),
                static_cast<long long>(lostObjects(report)),
                static_cast<long long>(*report.objects.inFile));
     }
     if (sumOf(report.whole) > sumOf(report.items)) {
-        qFatal("more items came over whole than there are");
+        qFatal("more items were imported completely than exist");
     }
 }
 

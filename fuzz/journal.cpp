@@ -86,6 +86,6 @@ void fuzzOneInput(const QByteArray& input)
     }
     archive::compactJournal(scratchPath(FileName), 0);
     if (recordsOf() != first) {
-        qFatal("a journal that was written anew says something else");
+        qFatal("a rewritten journal differs");
     }
 }

@@ -10,7 +10,7 @@
 
 namespace orvanta {
 
-/// Tells whether the host can show a font family.
+/// Whether the host can show a font family.
 using FamilyCheck = bool (*)(QString family);
 
 /// One child element that a record is filled from.

@@ -17,7 +17,7 @@ inline constexpr qint64 MaximumLabelPixels = qint64(128) * 1024 * 1024;
 /// What became of a picture's bytes.
 struct RasterPicture
 {
-    QImage image;                      ///< null when the bytes are no picture or were refused
+    QImage image;                      ///< null if the bytes are not a picture or were refused
     QString refusal;                   ///< why a picture was not decoded although it may be one
     const char* refusalCode = nullptr; ///< of messages/refusals.h; null without a refusal
 };

@@ -99,7 +99,7 @@ TEST_F(InputListTest, DoesNotSearchTheOutputFolder)
     folder.write(u"old/out/x.cnv"_s);
     request.outputFolder = folder.path(u"old/out"_s);
     EXPECT_EQ(listed(list("old")), list("old/x.cnv"));
-    // Unless it is what is to be searched.
+    // Unless it is the folder to search.
     EXPECT_EQ(listed(list("old/out")), list("old/out/x.cnv"));
 }
 

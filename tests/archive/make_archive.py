@@ -80,7 +80,7 @@ def make(folder, count, sources):
 def picture_error(content):
     """Why a PNG picture is not whole; None when it is."""
     if not content.startswith(b"\x89PNG\r\n\x1a\n"):
-        return "is no picture"
+        return "is not a picture"
     place, data, last = 8, b"", b""
     while place + 12 <= len(content):
         length = int.from_bytes(content[place:place + 4], "big")
@@ -162,7 +162,7 @@ def torment(program, folder, output, options):
     peaks = {"coordinator": 0, "worker": 0}
     while True:
         command = [program, "import", folder, "--output-dir", output, "--resume", "--quiet", *options]
-        # A file and no pipe: nobody would empty it meanwhile.
+        # A file, not a pipe: a pipe would fill up, because it is read only at the end.
         said = tempfile.TemporaryFile()
         process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=said)
         while process.poll() is None:

@@ -1,4 +1,4 @@
-// The line that tells how far an archive is.
+// The progress line of an archive.
 
 #include "archive/progress.h"
 #include "console/file_name.h"

@@ -30,7 +30,7 @@ void RunFixture::input(const QString& name, const QByteArray& content)
 
 QStringList RunFixture::run()
 {
-    // A file may stand for several inputs in a row of runs; each name counts once.
+    // A file may occur in several runs; each name counts once.
     inputs.erase(std::unique(inputs.begin(), inputs.end()), inputs.end());
     QStringList lines;
     reports.clear();

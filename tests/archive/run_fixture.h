@@ -9,7 +9,7 @@ class RunFixture : public ::testing::Test
 protected:
     RunFixture();
 
-    /// Writes an input whose content tells the worker what to suffer.
+    /// Writes an input whose content names the fault that the worker simulates.
     void input(const QString& name, const QByteArray& content);
 
     /// Imports all inputs. What became of each comes as lines: "outcome name: output output",
@@ -20,7 +20,7 @@ protected:
     {
         return folder.read(QStringLiteral("out/") + name);
     }
-    /// All files of the output folder that are no outputs, journals left out.
+    /// All files of the output folder that are not outputs, without journals.
     QStringList strays() const;
 
     TestFolder folder;

@@ -139,8 +139,8 @@ TEST_F(ArchiveResume, GoesOnBehindATornJournal)
     EXPECT_EQ(resumed(), u"rr"_s);
 }
 
-// Whatever a power cut makes of the journal, outputs that stand whole go on standing as they
-// are: either they are known and left, or they are nobody's and not overwritten.
+// Whatever a power failure does to the journal, complete outputs are kept: they are either known
+// and skipped, or treated as foreign and not overwritten.
 TEST_F(ArchiveResume, KeepsWholeOutputsWhateverBecameOfTheJournal)
 {
     run();

@@ -10,8 +10,8 @@
 ///   kill-once   is killed when the file is met for the first time
 ///   exit        ends the process
 ///   memory      takes all memory it can get
-///   hang        does not come to an end; tells its process in FILE.hanging
-///   slow        gets on, but takes longer than two seconds
+///   hang        does not end; writes its process id to FILE.hanging
+///   slow        makes progress, but takes longer than two seconds
 ///   pid         writes the number of the process to every output
 [[nodiscard]] archive::FileResult suffer(const archive::Job& job,
                                          const archive::Heartbeat& heartbeat);

@@ -9,7 +9,7 @@
 namespace {
 using namespace Qt::StringLiterals;
 
-/// Files one after the other for one worker, who tells the number of its process each time.
+/// Files one after the other for one worker, which reports its process id each time.
 class Client final : public archive::PoolClient
 {
 public:

@@ -39,7 +39,7 @@ TEST(FinalReport, HasTheOutputsThatStand)
     EXPECT_EQ(report.outputs, words("out/a.png"));
 }
 
-// The worker could not know that somebody else's file would stand there.
+// The worker could not know that a foreign file would exist there.
 TEST(FinalReport, FailsWhereAnOutputCouldNotBeWritten)
 {
     const archive::Input file = input();

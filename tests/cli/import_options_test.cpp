@@ -84,7 +84,7 @@ TEST(ImportOptions, RefuseAnUnknownTarget)
 
 TEST(ImportOptions, RefuseAnUnknownOption)
 {
-    EXPECT_EQ(refusal("a.odg --colour red"), u"Unknown option \"--colour\"."_s);
+    EXPECT_EQ(refusal("a.odg --paint red"), u"Unknown option \"--paint\"."_s);
     EXPECT_EQ(refusal("a.odg --ouput-dir x"),
               u"Unknown option \"--ouput-dir\". Did you mean \"--output-dir\"?"_s);
 }

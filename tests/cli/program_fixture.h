@@ -61,7 +61,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// An archive of four good files, a damaged one, and one that is no label.
+/// An archive of four good files, a damaged one, and one that is not a label.
 class ImportArchive : public LabelportProgram
 {
 protected:

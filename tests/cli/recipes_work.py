@@ -42,7 +42,7 @@ def parallel(text, folder, programs):
 
 def slurm(text, folder, programs):
     script = block(text, "Slurm", "sh")
-    count = 4  # whatever the script asks for: the scheduler tells each task
+    count = 4  # the scheduler sets this for each task
     for number in range(1, count + 1):
         run(script, folder, programs, SLURM_ARRAY_TASK_ID=str(number),
             SLURM_ARRAY_TASK_COUNT=str(count), SLURM_CPUS_PER_TASK="1")

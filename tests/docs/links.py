@@ -65,7 +65,7 @@ def try_examples():
         (source / "docs/a.md").write_text(
             "# Two words\n[up](../docs/README.md) [here](#two-words) `[no](link.md)`\n"
             "[web](https://example.org) [gone](gone.md) [lost](#three)\n")
-        (source / "docs/b.md").write_text("nobody links me\n")
+        (source / "docs/b.md").write_text("no page links here\n")
         links = [link for _, link in broken_links(source)]
         alone = [page.name for page in left_out(source)]
     if links != ["gone.md", "#three"] or alone != ["b.md"]:

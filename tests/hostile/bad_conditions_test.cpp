@@ -1,4 +1,4 @@
-// The program labelport where things are not as they should be: inputs that are no files, that
+// The program labelport under bad conditions: inputs that are not files, that
 // never end, are empty or gone; places that cannot be written. Each costs a message with the
 // file's name and nothing else: what is good in the same command is imported all the same.
 

@@ -1,6 +1,6 @@
 // A host that does not do its part: it makes no items or wrong ones, has no data sources,
 // loses symbols, or deletes what it is given. An import leaves out what it cannot have, says
-// so in the log, and goes on.
+// so in the log, and continues.
 
 #include "tests/hostile/importing.h"
 #include "tests/hostile/whole_labels.h"
@@ -133,7 +133,7 @@ TEST_P(MissingItem, IsLeftOutAndSaid)
     EXPECT_EQ(host.itemCount(fault.type), 0);
     EXPECT_EQ(refusedItems(), expected.at(fault.type)) << qPrintable(log.messages().join(u'\n'));
     for (const auto& [type, count] : expected) {
-        // A drawing's text goes with the box that it stands in.
+        // A drawing's text is removed with the box that contains it.
         if (type != fault.type && type != KestTypes::RichText) {
             EXPECT_EQ(host.itemCount(type), count) << std::hex << type;
         }

@@ -10,7 +10,7 @@ import zlib
 
 
 class Names:
-    """The canaries of a folder: files that exist, and that nobody may open."""
+    """The canaries of a folder: files that exist and must not be opened."""
 
     def __init__(self, folder):
         self.folder = folder

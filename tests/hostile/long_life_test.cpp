@@ -21,7 +21,7 @@
 
 namespace {
 
-// What a sanitizer's allocator holds is no measure of ours.
+// The memory held by a sanitizer's allocator says nothing about ours.
 #if defined(__SANITIZE_ADDRESS__)
 constexpr bool MemoryIsMeasured = false;
 #else

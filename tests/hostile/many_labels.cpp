@@ -8,7 +8,7 @@
 
 namespace {
 
-// Where the damage begins: behind what would only be told to be of another format.
+// Where the damage begins: after the bytes that identify the format.
 constexpr qsizetype StartKept = 8;
 
 QStringList samplesIn(const QString& folder)

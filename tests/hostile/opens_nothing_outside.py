@@ -108,7 +108,7 @@ def check_labels(program, labels, folder):
         failures.append(f"of some formats nothing was imported, only of {sorted(kinds)}: "
                         + done.stderr.decode(errors="replace")[:2000])
     if b"canary-content" in b"".join(path.read_bytes() for path in (folder / "out").iterdir()):
-        failures.append("the content of a foreign file stands in an output")
+        failures.append("the content of a foreign file is in an output")
     return failures
 
 

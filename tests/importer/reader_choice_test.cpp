@@ -26,7 +26,7 @@ const ChoiceRow Rows[] = {
     {"LABEL.QMTX", ReaderKind::Orvanta},
     {"label.ODG", ReaderKind::OpenDocument},
     {"label.OdT", ReaderKind::OpenDocument},
-    // All that stands behind the first dot is the suffix.
+    // Everything after the first dot is the suffix.
     {"a.b.qmtx", ReaderKind::Tavrel},
     {"a.tar.odt", ReaderKind::Tavrel},
     {"shelf.old.odt", ReaderKind::Tavrel},

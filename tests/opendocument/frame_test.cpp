@@ -271,7 +271,7 @@ TEST_F(Frame, PictureOfTheFirstSuffixIsTaken)
            images({"a.png", "UPPER.PNG"}) + images({"UPPER.PNG", "b.jpg"}));
     EXPECT_EQ(host.lastCall(1, u"pixmapImportActions"_s), u"3 4"_s) << "jpg before png";
     EXPECT_EQ(host.lastCall(2, u"pixmapImportActions"_s), u"1 1"_s)
-        << "the complete suffix is parts.png, which stands before png";
+        << "the complete suffix is parts.png, which precedes png";
     EXPECT_EQ(host.lastCall(3, u"pixmapImportActions"_s), u"2 2"_s)
         << "letters do not matter, and the last of a suffix counts";
     EXPECT_EQ(host.lastCall(4, u"pixmapImportActions"_s), u"3 4"_s)

@@ -197,7 +197,7 @@ TEST_F(Paragraph, FrameBehindTheTextLiftsIt)
            "a<text:span>b</text:span></text:p><text:p>c</text:p>");
     EXPECT_EQ(host.item(2)->zValue(), 3001);
     EXPECT_EQ(host.item(3)->zValue(), 3002);
-    EXPECT_EQ(host.item(4)->zValue(), 0) << "the next paragraph begins anew";
+    EXPECT_EQ(host.item(4)->zValue(), 0) << "the next paragraph starts again";
     EXPECT_EQ(pos(4), QPointF(0, 12));
 }
 

@@ -145,7 +145,7 @@ TEST_F(Shape, NoPenHasNoEnds)
 TEST_F(Shape, TextThatIsNotAColorSetsAnInvalidColor)
 {
     import("<draw:rect draw:style-name=\"g\"/>",
-           "svg:stroke-color=\"nocolour\" draw:fill-color=\"#12\"");
+           "svg:stroke-color=\"nocolor\" draw:fill-color=\"#12\"");
     EXPECT_EQ(host.lastCall(1, u"setPenColor"_s), u"invalid"_s);
     EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), u"invalid"_s);
     EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"1"_s);

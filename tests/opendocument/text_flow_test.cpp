@@ -116,7 +116,7 @@ TEST(ParagraphFlow, ALineIsFullWhenTheCursorHasPassedThePage)
     flow.moveBy(3);
     EXPECT_EQ(flow.takeFullLine(), 12);
     EXPECT_EQ(flow.cursor(), 0);
-    EXPECT_EQ(flow.lineHeight(), 0) << "the next line begins anew";
+    EXPECT_EQ(flow.lineHeight(), 0) << "the next line starts again";
 }
 
 TEST(RunX, FollowsAlignmentAndMargins)

@@ -96,7 +96,7 @@ TEST_F(TextBuilding, ATextThatTheHostDoesNotMakeIsLeftOut)
     host.behavior().makesNothingOf = {KestTypes::RichText};
     readControls("<transparent_label><items><s>a</s></items></transparent_label>"
                  "<swap_text_box><scaleable>true</scaleable></swap_text_box>");
-    EXPECT_EQ(host.itemCount(), 1) << "the walk goes on";
+    EXPECT_EQ(host.itemCount(), 1) << "the walk continues";
     EXPECT_TRUE(callsOf("datasources").isEmpty());
     EXPECT_EQ(logText(),
               QStringLiteral("Left out of the label: a text, for which the host made no item"));

@@ -159,7 +159,7 @@ TEST_F(Document, AMalformedFileIsLoggedWithItsPlace)
         << log.records().first().message.toStdString();
     EXPECT_TRUE(log.records().first().message.contains(QStringLiteral(":\n")));
     EXPECT_FALSE(log.records().first().message.endsWith(QLatin1Char('\n')))
-        << "the parser's own message stands in the second line";
+        << "the parser's own message is the second line";
     EXPECT_EQ(log.records().first().function, QString::fromLatin1(ImportFunction));
     EXPECT_EQ(logText().count(QLatin1Char('\n')), 1);
     EXPECT_EQ(takeCalls(), QStringList());

@@ -172,7 +172,7 @@ TEST_F(Hostile, PicturesOfAFileShareOneBound)
                            QStringLiteral("item3 pixmapImportActions 2x2")}));
     EXPECT_EQ(errors().size(), 1);
     fake.canvas.clear();
-    EXPECT_TRUE(import(LabelFile().picture(large))) << "the next file starts anew";
+    EXPECT_TRUE(import(LabelFile().picture(large))) << "the next file starts again";
     EXPECT_EQ(fake.calls.with("pixmapImportActions 5000x5000").size(), 2);
     expectModestMemory();
 }
@@ -196,7 +196,7 @@ TEST_F(Hostile, NotesShareOneBound)
     EXPECT_LT(boxText().size(), 70'000);
     EXPECT_TRUE(boxText().endsWith(QStringLiteral("\n\"a b\":\n\tOriginal font size: 12.")));
     services.boxes.clear();
-    EXPECT_TRUE(import(LabelFile().text(large, scaled))) << "the next file starts anew";
+    EXPECT_TRUE(import(LabelFile().text(large, scaled))) << "the next file starts again";
     EXPECT_GT(boxText().size(), 60'000);
 }
 

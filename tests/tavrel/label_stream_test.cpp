@@ -200,7 +200,7 @@ TEST(FieldRun, IsTheSameInAFileAndBehindALookAhead)
     for (QIODevice* device : {static_cast<QIODevice*>(&file), static_cast<QIODevice*>(&buffer)}) {
         QDataStream stream(device);
         skipBytes(stream, 1);
-        EXPECT_EQ(device->peek(3).size(), 3) << "as pictures are told apart";
+        EXPECT_EQ(device->peek(3).size(), 3) << "as pictures are distinguished";
         EXPECT_EQ(std::get<0>(readFields<quint8>(stream)), 0x0B);
         EXPECT_EQ(readRun(stream), Fields(true, -2, 72.0, 4294967294U, true));
         EXPECT_EQ(bytesLeft(stream), 1);

@@ -117,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
         DamageRow{"wrong checksum", Start + hex("00000001 49444154 00 00000000") + End},
         DamageRow{"no start chunk", Pixels + End}, DamageRow{"no pixels", Start + End},
         DamageRow{"short start chunk", chunk("IHDR", hex("00000001")) + End},
-        DamageRow{"unknown colour type",
+        DamageRow{"unknown color type",
                   chunk("IHDR", hex("00000001 00000001 08 09 00 00 00")) + Pixels + End},
         DamageRow{"no size",
                   chunk("IHDR", hex("00000000 00000000 08 02 00 00 00")) + Pixels + End}));

@@ -31,7 +31,7 @@ TEST(CompactImage, IsTheSamePictureWhateverItsColors)
 {
     for (const int colors : {1, 2, 3, 256, 257, 1000}) {
         for (const bool translucent : {false, true}) {
-            SCOPED_TRACE(testing::Message() << colors << " colours, translucent " << translucent);
+            SCOPED_TRACE(testing::Message() << colors << " colors, translucent " << translucent);
             const QImage image = pictureOf(colors, translucent);
             EXPECT_EQ(plain(compactImage(image)), plain(image));
         }

@@ -76,7 +76,7 @@ TEST(PngEncoder, WritesWhatQtReadsBack)
         for (const quint32 colors : {1U, 2U, 200U, 60000U}) {
             for (const int alpha : {255, 128, 0}) {
                 SCOPED_TRACE(testing::Message() << size.width() << 'x' << size.height() << ", "
-                                                << colors << " colours, alpha " << alpha);
+                                                << colors << " colors, alpha " << alpha);
                 const QImage image = pictureOf(size, colors, alpha);
                 EXPECT_EQ(plain(readBack(image)), image);
             }

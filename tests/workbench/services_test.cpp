@@ -132,17 +132,18 @@ TEST(TalMessageBox, ShowsItsTextAsItStands)
 
 TEST(TalMessageBox, HasTheButtonsWithTheirCaptions)
 {
-    const TalMessageBox box(
-        QStringLiteral("t"), QStringLiteral("x"), QMessageBox::Yes | QMessageBox::No,
-        QMessageBox::No, QStringLiteral("further"), {{QMessageBox::Yes, QStringLiteral("Go on")}});
+    const TalMessageBox box(QStringLiteral("t"), QStringLiteral("x"),
+                            QMessageBox::Yes | QMessageBox::No, QMessageBox::No,
+                            QStringLiteral("further"),
+                            {{QMessageBox::Yes, QStringLiteral("Continue")}});
     const QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
     ASSERT_EQ(buttons.size(), 2);
     QStringList captions;
     for (const QPushButton* button : buttons) {
         captions << button->text();
-        EXPECT_EQ(button->isDefault(), button->text() != QLatin1String("Go on"));
+        EXPECT_EQ(button->isDefault(), button->text() != QLatin1String("Continue"));
     }
-    EXPECT_TRUE(captions.contains(QStringLiteral("Go on")));
+    EXPECT_TRUE(captions.contains(QStringLiteral("Continue")));
     EXPECT_EQ(box.findChildren<QLabel*>().size(), 2);
 }
 

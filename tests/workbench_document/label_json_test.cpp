@@ -199,7 +199,7 @@ TEST(LabelJson, NamesThePlaceOfTheDamage)
 TEST(LabelJson, RefusesEveryTruncation)
 {
     const QByteArray whole = toJson(sampleLabel());
-    ASSERT_EQ(whole.back(), '\n') << "the last byte is no part of the label";
+    ASSERT_EQ(whole.back(), '\n') << "the last byte is not part of the label";
     for (qsizetype size = 0; size < whole.size() - 1; ++size)
         ASSERT_THAT(fromJson(whole.left(size)).error.toStdString(),
                     StartsWith("The file is not a saved label, or it is damaged: after "));

@@ -104,7 +104,8 @@ ItemValues anyItem()
     item.box = anyBox();
     item.placement = anyPlacement();
     if (coin())
-        item.pen = PenValues{anyColor(), double(any<quint16>()), any<int>(), any<int>(), any<int>()};
+        item.pen =
+            PenValues{anyColor(), double(any<quint16>()), any<int>(), any<int>(), any<int>()};
     if (coin())
         item.fill = FillValues{anyColor(), coin(), any<int>()};
     if (coin())

@@ -14,7 +14,7 @@ inline constexpr int PictureSide = 30'000;
 /// Pixels of one picture: as many as any reader brings, and as Qt decodes.
 inline constexpr qint64 PicturePixels = 32 * 1024 * 1024;
 /// Pixels of all pictures of a label: as many as any reader brings, and not more because a
-/// picture of one colour takes next to nothing in a file.
+/// picture of one color takes a few bytes in a file.
 inline constexpr qint64 AllPicturePixels = 150'000'000;
 /// Bytes of the parser's tree, as jsonlimits::treeBytes() estimates it. A file of nothing but
 /// items, as large as a file may be, takes eleven times its size.

@@ -24,7 +24,7 @@ enum class Origin { Person, Import };
 struct ReadLabel
 {
     SavedLabel label;
-    /// Why the bytes are no label, in a sentence for a person; empty when they are one.
+    /// User-visible reason why the bytes are not a label; empty on success.
     QString error;
 };
 

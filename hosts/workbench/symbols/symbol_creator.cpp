@@ -9,7 +9,7 @@ public:
     QByteArray symbol;
 };
 
-// The conversion asks the user nothing, so there is nothing for a parent to stand behind.
+// The conversion shows no dialog and therefore needs no parent.
 SymbolCreator::SymbolCreator(QWidget*)
     : d(std::make_unique<Private>())
 {}

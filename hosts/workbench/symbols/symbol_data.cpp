@@ -67,7 +67,7 @@ struct Frame
     return length->value / 100.0 * *whole;
 }
 
-/// Where a view box of another shape stands in the size: 0 at the start, 1 at the end.
+/// Alignment of a view box of another aspect ratio within the size: 0 start, 1 end.
 [[nodiscard]] double alignment(const QString& aspectRatio, QLatin1String low, QLatin1String high)
 {
     if (aspectRatio.contains(low))

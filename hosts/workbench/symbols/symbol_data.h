@@ -8,7 +8,7 @@
 /// Symbol data: the form in which the workbench keeps vector symbols.
 ///
 /// It is an SVG document of its own that draws itself alone: nothing in it names a file or a
-/// network address, its lengths are in user units, its size stands on the outermost element
+/// network address, its lengths are in user units, its size is on the outermost element
 /// in points ("pt"), and its view box is exactly what that size shows, so that a renderer may
 /// stretch the view box to any box. Reading symbol data as an SVG document again gives the
 /// same symbol.
@@ -20,7 +20,7 @@ inline constexpr double MaximumSymbolSide = 100'000.0;
 /// Makes symbol data of an SVG document.
 ///
 /// @param target size in points; one without width or height keeps the document's own size
-/// @return nothing when the text is no SVG document, draws nothing or exceeds the limits
+/// @return nothing if the text is not an SVG document, draws nothing or exceeds the limits
 [[nodiscard]] std::optional<QByteArray> makeSymbolData(const QByteArray& svg,
                                                        const QSizeF& target = {});
 

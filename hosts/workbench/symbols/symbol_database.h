@@ -8,13 +8,13 @@
 /// A symbol database: an SQLite file with the table
 /// `symbols(name TEXT PRIMARY KEY NOT NULL, svg BLOB NOT NULL)`.
 ///
-/// It is opened for reading only and comes from a file that nobody vouches for.
+/// Opened for reading only; the file is not trusted.
 namespace workbench::symbols {
 
 class SymbolDatabase
 {
 public:
-    /// Opens the file. What it is not good for is told by error().
+    /// Opens the file. On failure isOpen() is false and error() gives the reason.
     explicit SymbolDatabase(const QString& path);
     ~SymbolDatabase();
     SymbolDatabase(const SymbolDatabase&) = delete;

@@ -53,6 +53,6 @@ QByteArray SymbolDatabaseModel::getDataFromSymbolName(QString name)
         return {};
     const QByteArray svg = d->database->svg(name);
     d->reportFailure();
-    // What stands in a database is as little vouched for as any other drawing.
+    // The content of a database is as untrusted as any other drawing.
     return workbench::symbols::makeSymbolData(svg).value_or(QByteArray());
 }

@@ -6,7 +6,7 @@
 /// pixels.
 namespace imagelimits {
 
-/// Most scans (passes over the pixels) of a JPEG. Progressive pictures have about ten; each scan
+/// Most scans (passes through the pixels) of a JPEG. Progressive pictures have about ten; each scan
 /// takes a few bytes of the file and the decoding time of the complete picture.
 inline constexpr int MaximumScans = 100;
 

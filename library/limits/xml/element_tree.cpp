@@ -233,7 +233,7 @@ void TreeBuilder::takeText(const QXmlStreamReader& reader)
     m_tree.m_nodes.push_back({ElementTree::TextName, index + 1, store(text)});
 }
 
-// Nobody looks into a comment, but an element that contains one is not empty.
+// Comments have no content here, but an element that contains one is not empty.
 void TreeBuilder::takeOther()
 {
     if (!m_open.empty()) {

@@ -16,7 +16,7 @@ namespace xmllimits {
 class Element;
 class ElementTree;
 
-/// A node of a tree: an element, a text, or something else that stands in the document.
+/// A node of a tree: an element, a text, or another node of the document.
 ///
 /// A node is a place, cheap to copy, and null where there is nothing. It is whole as long as
 /// its tree lives and nothing else is parsed into it.
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] bool isText() const;
     /// The characters of a text; empty for all other nodes.
     [[nodiscard]] QString nodeValue() const;
-    /// The same node; null when it is no element.
+    /// The same node; null if it is not an element.
     [[nodiscard]] Element toElement() const;
 
     [[nodiscard]] Node firstChild() const;
@@ -112,7 +112,7 @@ private:
         quint32 name = 0; // in m_names
         Span value;
     };
-    // All nodes stand in document order, so that what an element contains follows it: the
+    // All nodes are in document order, so that the content of an element follows it: the
     // index behind its last descendant is its next sibling.
     struct NodeRecord
     {

@@ -139,7 +139,7 @@ std::optional<QString> ZipDirectory::readDirectory(const QString& name)
     const auto end = findEndRecord();
     m_isPackage = end.has_value();
     if (!m_isPackage) {
-        return u"The file is no zip package: %1"_s.arg(name);
+        return u"The file is not a zip package: %1"_s.arg(name);
     }
     if (end->members > MaximumMembers) {
         return u"The package has more than %1 members"_s.arg(MaximumMembers);

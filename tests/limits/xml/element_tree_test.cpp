@@ -109,7 +109,7 @@ TEST_F(ElementTreeTest, WalksAllKindsOfNodes)
 TEST_F(ElementTreeTest, AnElementWithAnythingInsideHasChildren)
 {
     EXPECT_FALSE(root("<r></r>").hasChildNodes());
-    EXPECT_FALSE(root("<r> \n </r>").hasChildNodes()) << "white space is no node";
+    EXPECT_FALSE(root("<r> \n </r>").hasChildNodes()) << "white space is not a node";
     EXPECT_FALSE(root("<r>\u00a0</r>").hasChildNodes()) << "nor are hard spaces alone";
     EXPECT_TRUE(root("<r>t</r>").hasChildNodes());
     EXPECT_TRUE(root("<r><!-- c --></r>").hasChildNodes());

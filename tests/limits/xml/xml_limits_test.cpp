@@ -118,7 +118,7 @@ TEST(XmlLimits, DoesNotTakeOtherMarkupForElements)
     EXPECT_EQ(messageFor("<r><?p " + tags + "?></r>"), QString());
     EXPECT_EQ(messageFor("<!DOCTYPE r [<!-- " + tags + " ']> --> <!ENTITY e \"]>\">]><r/>"),
               QString());
-    // "<" may not stand in an attribute's value, ">" may.
+    // An attribute's value may contain ">", but not "<".
     EXPECT_EQ(messageFor("<r a=\"" + QByteArray("/>").repeated(2000) + "\" b='\"'><c/></r>"),
               QString());
 }

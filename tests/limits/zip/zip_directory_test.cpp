@@ -103,9 +103,9 @@ TEST(ZipDirectory, ForgetsTheLastPackage)
 
 TEST(ZipDirectory, RefusesWhatIsNoZipFile)
 {
-    EXPECT_TRUE(openingOf({}).startsWith(u"The file is no zip package"_s));
-    EXPECT_TRUE(openingOf("<xml/>").startsWith(u"The file is no zip package"_s));
-    EXPECT_TRUE(openingOf(QByteArray(200000, 'x')).startsWith(u"The file is no zip package"_s));
+    EXPECT_TRUE(openingOf({}).startsWith(u"The file is not a zip package"_s));
+    EXPECT_TRUE(openingOf("<xml/>").startsWith(u"The file is not a zip package"_s));
+    EXPECT_TRUE(openingOf(QByteArray(200000, 'x')).startsWith(u"The file is not a zip package"_s));
     ZipDirectory directory;
     EXPECT_TRUE(directory.open(u"/tmp"_s)->startsWith(u"The file cannot be opened"_s));
     EXPECT_TRUE(directory.open(QString())->startsWith(u"The file cannot be opened"_s));
@@ -129,7 +129,7 @@ TEST(ZipDirectory, FindsThePackageBeforeTheLongestComment)
     constexpr qsizetype longest = 65535;
     EXPECT_EQ(openingOf(packed() + QByteArray(longest, 'x')), QString());
     EXPECT_TRUE(openingOf(packed() + QByteArray(longest + 1, 'x'))
-                    .startsWith(u"The file is no zip package"_s));
+                    .startsWith(u"The file is not a zip package"_s));
 }
 
 TEST(ZipDirectory, RefusesADamagedTableOfContents)

@@ -31,7 +31,7 @@ qint32 ByteCursor::takeNumber()
 QString ByteCursor::takeText()
 {
     const auto length = static_cast<quint32>(takeNumber());
-    // Half a letter is no text: writers of such lengths wrote nothing behind them.
+    // An odd length is not a text: writers of such lengths wrote nothing after them.
     if (length == kNoLength || length % 2 != 0) {
         return {};
     }

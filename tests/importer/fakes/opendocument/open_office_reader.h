@@ -2,7 +2,7 @@
 
 #include "journal/journal.h"
 
-/// Stands in for the reader of the same name and face.
+/// Replaces the reader of the same name and interface.
 class OpenOfficeReader
 {
 public:

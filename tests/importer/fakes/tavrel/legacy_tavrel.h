@@ -6,7 +6,7 @@
 
 class QWidget;
 
-/// Stands in for the reader of the same name and face. Every import shows a message and
+/// Replaces the reader of the same name and interface. Every import shows a message and
 /// hides it again.
 class LegacyTavrel : public QObject
 {

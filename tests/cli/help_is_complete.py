@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Completion and manual pages know every option that --help shows, and none that it does not.
 
-help_is_told.py BIN GENERATED MAN
+help_is_complete.py BIN GENERATED MAN
 
 BIN is the folder of the programs, GENERATED has the completion and the manual page of labelport,
 MAN the other manual pages. Shells that are not installed are named and skipped.
@@ -25,7 +25,7 @@ def run(*command):
 
 
 def options_of(program, *command):
-    """Long options that stand at the beginnings of the lines of a help."""
+    """Long options at the beginning of the lines of a help text."""
     text = run(program, *command, "--help").stdout
     found = set(re.findall(r"^  (?:-\w, )?--([a-z0-9-]+)", text, re.MULTILINE))
     if not found:
@@ -33,10 +33,10 @@ def options_of(program, *command):
     return found
 
 
-def expect(told, shown, where):
-    for option in sorted(shown - told):
+def expect(offered, shown, where):
+    for option in sorted(shown - offered):
         errors.append(f"{where} does not know --{option}")
-    for option in sorted(told - shown):
+    for option in sorted(offered - shown):
         errors.append(f"{where} knows --{option}, which does not exist")
 
 
@@ -60,16 +60,16 @@ def check_bash_values(folder, work):
         script = f"""source {folder}/labelport.bash
             COMP_WORDS=({line}); COMP_CWORD={len(words) - 1}; _labelport 2>/dev/null
             printf '%s\\n' "${{COMPREPLY[@]}}" """
-        told = set(run("bash", "-c", script).stdout.split())
-        if told != expected:
-            errors.append(f"bash completes {words} with {told}")
+        offered = set(run("bash", "-c", script).stdout.split())
+        if offered != expected:
+            errors.append(f"bash completes {words} with {offered}")
 
 
 def check_fish(folder, command, shown):
     script = f"source {folder}/labelport.fish; complete -C 'labelport {command} --'"
-    told = set(OPTION.findall("\n".join(
+    offered = set(OPTION.findall("\n".join(
         line.split("\t")[0] for line in run("fish", "-c", script).stdout.splitlines())))
-    expect(told, shown, f"fish, {command}")
+    expect(offered, shown, f"fish, {command}")
 
 
 def check_zsh(folder, command, shown):
@@ -85,8 +85,8 @@ def check_manual(page, shown):
             errors.append(f"{page.name}: {done.stderr}")
     else:
         print("SKIPPED: there is no groff")
-    told = set(OPTION.findall(page.read_text(encoding="utf-8").replace("\\-", "-")))
-    expect(told, shown, page.name)
+    offered = set(OPTION.findall(page.read_text(encoding="utf-8").replace("\\-", "-")))
+    expect(offered, shown, page.name)
 
 
 def main():
@@ -108,7 +108,7 @@ def main():
     of_all = set().union(*shown.values()) | options_of(labelport)
     check_manual(completion / "labelport.1", of_all)
     for name in ("labelport-trace", "labelport-workbench"):
-        # Qt's own options are told by --help-all.
+        # --help-all lists Qt's own options.
         check_manual(manual / f"{name}.1", options_of(str(programs / name)) - {"help-all"})
     print("\n".join(errors) or "completion and manual pages know all that --help shows")
     return 1 if errors else 0
