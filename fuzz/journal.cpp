@@ -1,8 +1,7 @@
 // A damaged journal, as after a power failure: its complete records are known, and stay known
-// after records are added.
+// after records are added and replaced ones removed.
 
 #include "archive/journal.h"
-#include "archive/journal_compaction.h"
 #include "fuzz/harness.h"
 #include "fuzz/scratch_folder.h"
 
@@ -28,18 +27,18 @@ archive::JournalRecord intactRecord()
     return {{QStringLiteral("/in/intact.qmtx"), 12, 34},
             QStringLiteral("options"),
             QStringLiteral("1.0"),
-            archive::Fate::Done,
+            archive::FileOutcome::Done,
             {},
             {{QStringLiteral("intact.png"), 56, 78}},
             {}};
 }
 
 // The journal's records of all inputs, after adding a record if one is given.
-Records recordsOf(const archive::JournalRecord* added = nullptr)
+Records recordsOf(const archive::JournalRecord* added = nullptr, bool isRewriting = false)
 {
     archive::Journal journal;
     const QString folder = QFileInfo(scratchPath(FileName)).path();
-    if (!journal.open(folder, {}, inputs()).isEmpty()) {
+    if (!journal.open(folder, {}, inputs(), isRewriting).isEmpty()) {
         qFatal("a damaged journal cannot be opened");
     }
     if (added != nullptr && !journal.append(*added)) {
@@ -47,7 +46,7 @@ Records recordsOf(const archive::JournalRecord* added = nullptr)
     }
     Records records;
     for (qsizetype index = 0; index < inputs().size(); ++index) {
-        records.append(journal.find(index));
+        records.append(journal.find(index, QStringLiteral("options")));
     }
     return records;
 }
@@ -84,8 +83,7 @@ void fuzzOneInput(const QByteArray& input)
     if (recordsOf() != first) {
         qFatal("a record that was added is lost, or another one with it");
     }
-    archive::compactJournal(scratchPath(FileName), 0);
-    if (recordsOf() != first) {
+    if (recordsOf(nullptr, true) != first || recordsOf() != first) {
         qFatal("a rewritten journal differs");
     }
 }

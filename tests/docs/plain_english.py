@@ -46,7 +46,6 @@ PATTERNS = {
     r"\b(?:recogn|normal|optim|serial|initial|organ|minim|maxim|summar)is(?:e|es|ed|ing|ation)\b":
         "American spelling",
     r"\bcancelled\b|\bcancelling\b|\blabelled\b|\blabelling\b": "American spelling",
-    r"^(?!.*%n).*\(s\)": "numerus forms (%n)",
 }
 RULES = [(re.compile(pattern, re.IGNORECASE), remedy) for pattern, remedy in PATTERNS.items()]
 

@@ -16,8 +16,8 @@ namespace {
 
 enum class Making { Nothing, WrongClass };
 
-constexpr ReaderKind Readers[] = {ReaderKind::Tavrel, ReaderKind::Orvanta,
-                                  ReaderKind::OpenDocument};
+constexpr ReaderKind EveryKind[] = {ReaderKind::Tavrel, ReaderKind::Orvanta,
+                                    ReaderKind::OpenDocument};
 
 const WholeLabels& labels()
 {
@@ -52,7 +52,7 @@ struct Fault
 std::vector<Fault> allFaults()
 {
     std::vector<Fault> faults;
-    for (const ReaderKind reader : Readers) {
+    for (const ReaderKind reader : EveryKind) {
         for (const auto& [type, count] : WholeLabels::items(reader)) {
             faults.push_back({reader, type, Making::Nothing});
             faults.push_back({reader, type, Making::WrongClass});
@@ -102,7 +102,7 @@ bool stopsTheProcess(const Fault& fault)
 class EveryReader : public HostFaults, public testing::WithParamInterface<ReaderKind>
 {};
 
-INSTANTIATE_TEST_SUITE_P(Readers, EveryReader, testing::ValuesIn(Readers),
+INSTANTIATE_TEST_SUITE_P(Readers, EveryReader, testing::ValuesIn(EveryKind),
                          [](const auto& row) { return nameOf(row.param); });
 
 TEST_P(EveryReader, TakesTheWholeLabelToAHostWithoutFaults)
@@ -195,7 +195,7 @@ class SymbolFaults : public HostFaults,
 {};
 
 INSTANTIATE_TEST_SUITE_P(Readers, SymbolFaults,
-                         testing::Combine(testing::ValuesIn(Readers),
+                         testing::Combine(testing::ValuesIn(EveryKind),
                                           testing::Values(Conversion::Fails, Conversion::Loses)));
 
 TEST_P(SymbolFaults, CostNothingButTheSymbol)

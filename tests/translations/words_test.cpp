@@ -21,6 +21,7 @@ using window::MenuId;
 
 namespace {
 
+const QStringList English{QStringLiteral("en")};
 const QStringList German{QStringLiteral("de")};
 const QStringList French{QStringLiteral("fr")};
 
