@@ -92,7 +92,7 @@ TEST_F(Words, MnemonicsWithinAMenuAreDifferent)
 TEST_F(Words, WhyAFileIsRefused)
 {
     const QString file = write("old.cnv", QByteArray("\0\0\0\0\0\x1e\x84\x8f", 8));
-    for (const auto language : {English, German, French}) {
+    for (const auto& language : {English, German, French}) {
         const ProgramLanguage program(language);
         const QString error = workbench::importLabel(file).error;
         EXPECT_TRUE(error.contains(QStringLiteral("2000015"))) << qPrintable(error);
