@@ -1731,6 +1731,85 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     </message>
 </context>
 <context>
+    <name>repair</name>
+    <message>
+        <source>%n lengths were converted to inches</source>
+        <translation>%n Längen wurden in Zoll umgerechnet</translation>
+    </message>
+    <message>
+        <source>The page got the size of its master page</source>
+        <translation>Die Seite hat die Größe ihrer Vorlagenseite erhalten</translation>
+    </message>
+    <message>
+        <source>The text was laid out with its margins, spacing, pictures and tables</source>
+        <translation>Der Text wurde mit seinen Rändern, Abständen, Bildern und Tabellen gesetzt</translation>
+    </message>
+    <message>
+        <source>%n objects of the master page were brought onto the page</source>
+        <translation>%n Objekte der Vorlagenseite wurden auf die Seite übernommen</translation>
+    </message>
+    <message>
+        <source>%n groups were dissolved</source>
+        <translation>%n Gruppen wurden aufgelöst</translation>
+    </message>
+    <message>
+        <source>%n captions became boxes with lines</source>
+        <translation>%n Legenden wurden zu Rahmen mit Linien</translation>
+    </message>
+    <message>
+        <source>%n dimension lines became lines and texts</source>
+        <translation>%n Maßlinien wurden zu Linien und Texten</translation>
+    </message>
+    <message>
+        <source>%n texts of lines got boxes of their own</source>
+        <translation>%n Texte von Linien haben eigene Rahmen erhalten</translation>
+    </message>
+    <message>
+        <source>%n connectors became lines or drawings</source>
+        <translation>%n Verbinder wurden zu Linien oder Zeichnungen</translation>
+    </message>
+    <message>
+        <source>%n polygons, polylines, and curves became drawings</source>
+        <translation>%n Polygone, Linienzüge und Kurven wurden zu Zeichnungen</translation>
+    </message>
+    <message>
+        <source>%n shapes that no item can show became drawings</source>
+        <translation>%n Formen, die kein Objekt darstellen kann, wurden zu Zeichnungen</translation>
+    </message>
+    <message>
+        <source>%n frames got the one of their pictures that can be read</source>
+        <translation>%n Rahmen haben das lesbare ihrer Bilder erhalten</translation>
+    </message>
+    <message>
+        <source>%n rotated objects got their position before the rotation</source>
+        <translation>%n gedrehte Objekte haben ihre Position vor der Drehung erhalten</translation>
+    </message>
+    <message>
+        <source>The stacking order of %n objects was kept</source>
+        <translation>Die Stapelreihenfolge von %n Objekten wurde beibehalten</translation>
+    </message>
+    <message>
+        <source>%n spaces and line breaks between words were kept</source>
+        <translation>%n Leerzeichen und Zeilenumbrüche zwischen Wörtern wurden beibehalten</translation>
+    </message>
+    <message>
+        <source>%n fields and links were replaced by their text</source>
+        <translation>%n Felder und Links wurden durch ihren Text ersetzt</translation>
+    </message>
+    <message>
+        <source>%n lists became paragraphs</source>
+        <translation>%n Listen wurden zu Absätzen</translation>
+    </message>
+    <message>
+        <source>%n sections were dissolved</source>
+        <translation>%n Bereiche wurden aufgelöst</translation>
+    </message>
+    <message>
+        <source>%n notes were appended to their text</source>
+        <translation>%n Anmerkungen wurden an ihren Text angehängt</translation>
+    </message>
+</context>
+<context>
     <name>trace</name>
     <message>
         <source>it is a folder</source>

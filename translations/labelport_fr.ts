@@ -652,10 +652,9 @@ Examples:
 Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
 imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
         <translation>Importe d’anciennes étiquettes (*.cnv, *.roc, *.qmtx, *.odt, *.odg), ouvre des étiquettes
-enregistrées (*.label) et les écrit sous forme d’images, de dessins, de documents ou
-d’étiquettes enregistrées. Un dossier est parcouru avec ses sous-dossiers à la recherche de
-fichiers portant ces suffixes. Les fichiers écrits sont listés sur la sortie standard, dans
-l’ordre des noms des fichiers d’entrée.
+enregistrées (*.label) et les écrit en images, dessins, documents ou étiquettes. Les fichiers
+portant ces suffixes sont cherchés dans les dossiers et leurs sous-dossiers. Les fichiers
+écrits sont listés sur la sortie standard, dans l’ordre des noms des fichiers d’entrée.
 
 Exemples&#xa0;:
   labelport import shelf.odg
@@ -1729,6 +1728,85 @@ en JSON Lines, puis l’état final des objets.</translation>
     <message>
         <source>failed</source>
         <translation>échec</translation>
+    </message>
+</context>
+<context>
+    <name>repair</name>
+    <message>
+        <source>%n lengths were converted to inches</source>
+        <translation>%n longueurs ont été converties en pouces</translation>
+    </message>
+    <message>
+        <source>The page got the size of its master page</source>
+        <translation>La page a reçu les dimensions de sa page maîtresse</translation>
+    </message>
+    <message>
+        <source>The text was laid out with its margins, spacing, pictures and tables</source>
+        <translation>Le texte a été mis en page avec ses marges, espacements, images et tableaux</translation>
+    </message>
+    <message>
+        <source>%n objects of the master page were brought onto the page</source>
+        <translation>%n objets de la page maîtresse ont été placés sur la page</translation>
+    </message>
+    <message>
+        <source>%n groups were dissolved</source>
+        <translation>%n groupes ont été dissociés</translation>
+    </message>
+    <message>
+        <source>%n captions became boxes with lines</source>
+        <translation>%n légendes sont devenues des cadres avec des lignes</translation>
+    </message>
+    <message>
+        <source>%n dimension lines became lines and texts</source>
+        <translation>%n lignes de cote sont devenues des lignes et des textes</translation>
+    </message>
+    <message>
+        <source>%n texts of lines got boxes of their own</source>
+        <translation>%n textes de lignes ont reçu leurs propres cadres</translation>
+    </message>
+    <message>
+        <source>%n connectors became lines or drawings</source>
+        <translation>%n connecteurs sont devenus des lignes ou des dessins</translation>
+    </message>
+    <message>
+        <source>%n polygons, polylines, and curves became drawings</source>
+        <translation>%n polygones, lignes brisées et courbes sont devenus des dessins</translation>
+    </message>
+    <message>
+        <source>%n shapes that no item can show became drawings</source>
+        <translation>%n formes qu’aucun objet ne peut représenter sont devenues des dessins</translation>
+    </message>
+    <message>
+        <source>%n frames got the one of their pictures that can be read</source>
+        <translation>%n cadres ont reçu celle de leurs images qui est lisible</translation>
+    </message>
+    <message>
+        <source>%n rotated objects got their position before the rotation</source>
+        <translation>%n objets pivotés ont reçu leur position d’avant la rotation</translation>
+    </message>
+    <message>
+        <source>The stacking order of %n objects was kept</source>
+        <translation>L’ordre d’empilement de %n objets a été conservé</translation>
+    </message>
+    <message>
+        <source>%n spaces and line breaks between words were kept</source>
+        <translation>%n espaces et sauts de ligne entre les mots ont été conservés</translation>
+    </message>
+    <message>
+        <source>%n fields and links were replaced by their text</source>
+        <translation>%n champs et liens ont été remplacés par leur texte</translation>
+    </message>
+    <message>
+        <source>%n lists became paragraphs</source>
+        <translation>%n listes sont devenues des paragraphes</translation>
+    </message>
+    <message>
+        <source>%n sections were dissolved</source>
+        <translation>%n sections ont été dissociées</translation>
+    </message>
+    <message>
+        <source>%n notes were appended to their text</source>
+        <translation>%n notes ont été ajoutées à leur texte</translation>
     </message>
 </context>
 <context>

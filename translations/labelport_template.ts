@@ -1680,6 +1680,85 @@ Lines, then the final state of the items.</source>
     </message>
 </context>
 <context>
+    <name>repair</name>
+    <message>
+        <source>%n lengths were converted to inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page got the size of its master page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The text was laid out with its margins, spacing, pictures and tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n objects of the master page were brought onto the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n groups were dissolved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n captions became boxes with lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n dimension lines became lines and texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n texts of lines got boxes of their own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n connectors became lines or drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n polygons, polylines, and curves became drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n shapes that no item can show became drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n frames got the one of their pictures that can be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n rotated objects got their position before the rotation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The stacking order of %n objects was kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n spaces and line breaks between words were kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n fields and links were replaced by their text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n lists became paragraphs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n sections were dissolved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n notes were appended to their text</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>trace</name>
     <message>
         <source>it is a folder</source>

@@ -21,12 +21,12 @@ enum class ReaderKind : quint8 {
 /// One reader: its names, its suffixes, and the importer's function for it.
 struct Reader
 {
-    ReaderKind kind;
+    ReaderKind kind;    ///< its value is the place in Readers
     QLatin1String name; ///< in options, traces and reports
     /// Suffixes in lower case. The first two select the reader in the import command; tools accept
     /// those of templates as well. Unused places are empty.
     std::array<QLatin1String, 4> suffixes;
-    bool (LegacyTemplateImporter::*importFile)(const QString& fileName);
+    bool (LegacyTemplateImporter::*importFile)(const QString& fileName); ///< its import
 };
 
 /// All readers. The first one gets files with unknown suffixes.

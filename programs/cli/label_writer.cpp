@@ -74,7 +74,8 @@ QString writePicture(const workbench::Canvas& canvas, const QString& output, int
     if (!page.error.isEmpty()) {
         return page.error;
     }
-    // Identifies our outputs; not translated.
+    // Identifies our outputs.
+    // no translation: a keyword of PNG
     page.image.setText(u"Software"_s, QLatin1String(SoftwareMark));
     return workbench::writePng(page.image, output);
 }

@@ -151,6 +151,7 @@ QString zshOptions()
         for (const cli::Option& option : command.options) {
             lines.append(zshOption(option));
         }
+        // no translation: a completion script
         lines.append(u"        '--help[Show help]'%1"_s.arg(
             command.argument != nullptr ? u" \\"_s : QString()));
         if (command.argument != nullptr) {
@@ -271,6 +272,7 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     if (argc != 3) {
+        // no translation: for the build only
         std::fputs("Usage: labelport_shell_files TEMPLATES OUTPUT\n", stderr);
         return 2;
     }
@@ -281,6 +283,7 @@ int main(int argc, char** argv)
     for (const QString& name : templates.entryList({u"*.in"_s}, QDir::Files)) {
         const QString result = output.filePath(name.chopped(3));
         if (!fill(templates.filePath(name), result, generated)) {
+            // no translation: for the build only
             std::fprintf(stderr, "Cannot write %s\n", qPrintable(result));
             return 1;
         }

@@ -71,8 +71,9 @@ Options readOptions(const QStringList& arguments)
 // do not help users.
 void printMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    if (!text.startsWith("QStandardPaths: XDG_RUNTIME_DIR"_L1) &&
-        !text.startsWith("This plugin does not support propagateSizeHints"_L1)) {
+    // no translation: Qt's own text
+    constexpr auto sizeHints = "This plugin does not support propagateSizeHints"_L1;
+    if (!text.startsWith("QStandardPaths: XDG_RUNTIME_DIR"_L1) && !text.startsWith(sizeHints)) {
         std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, text)));
     }
 }

@@ -84,7 +84,7 @@ TEST(ImportOptions, RefuseAnUnknownTarget)
 
 TEST(ImportOptions, RefuseAnUnknownOption)
 {
-    EXPECT_EQ(refusal("a.odg --paint red"), u"Unknown option \"--paint\"."_s);
+    EXPECT_EQ(refusal("a.odg --zebra red"), u"Unknown option \"--zebra\"."_s);
     EXPECT_EQ(refusal("a.odg --ouput-dir x"),
               u"Unknown option \"--ouput-dir\". Did you mean \"--output-dir\"?"_s);
 }

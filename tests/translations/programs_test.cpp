@@ -70,8 +70,8 @@ TEST_F(Programs, SayWhatTheyAreFor)
         const char* german;
         const char* french;
     };
-    for (const Row& row : {Row{Labelport, "Opens legacy label templates",
-                               "Öffnet alte Etikettenvorlagen", "Ouvre d’anciens modèles"},
+    for (const Row& row : {Row{Labelport, "Imports legacy label templates",
+                               "Importiert alte Etikettenvorlagen", "Importe d’anciens modèles"},
                            Row{Trace, "Imports a legacy label", "Importiert ein altes Etikett",
                                "Importe une ancienne étiquette"},
                            Row{Workbench, "Opens legacy label templates",
@@ -91,12 +91,16 @@ TEST_F(Programs, SayWhatIsWrong)
     EXPECT_TRUE(run(Labelport, import, German).err.contains(u"Es gibt keine solche Datei."));
     EXPECT_TRUE(run(Labelport, import, French).err.contains(u"Ce fichier n’existe pas."));
 
-    EXPECT_TRUE(run(Trace, {Missing}, English).err.contains(u"cannot read missing.odg: "));
-    EXPECT_TRUE(run(Trace, {Missing}, German).err.contains(u"missing.odg ist nicht lesbar: "));
+    EXPECT_TRUE(run(Trace, {Missing}, English).err.contains(u"Cannot read \"missing.odg\": "));
+    EXPECT_TRUE(
+        run(Trace, {Missing}, German).err.contains(u"„missing.odg“ kann nicht gelesen werden: "));
 
     const QStringList two{QStringLiteral("a.odg"), QStringLiteral("b.odg")};
-    EXPECT_TRUE(run(Workbench, two, English).err.contains(u"a window holds one label"));
-    EXPECT_TRUE(run(Workbench, two, German).err.contains(u"ein Fenster fasst ein Etikett"));
+    EXPECT_TRUE(run(Workbench, two, English)
+                    .err.contains(u"A window shows one label, but 2 files were given."));
+    EXPECT_TRUE(
+        run(Workbench, two, German)
+            .err.contains(u"Ein Fenster zeigt ein Etikett, es wurden aber 2 Dateien angegeben."));
 }
 
 TEST_F(Programs, SpeakALanguageThatTheCharacterSetOfTheEnvironmentCannotWrite)

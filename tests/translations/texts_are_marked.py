@@ -32,7 +32,8 @@ MACRO = re.compile(r'#define (\w+)\(\w+\) QT_TRANSLATE_NOOP\(')
 # A function of a file that translates its argument. lupdate does not see the texts passed to it, so
 # they must be marked elsewhere.
 HELPER = re.compile(r'(\w+)\(const char\* (\w+)\)\s*\{[^{}]*translate\(\s*"[^"]+",\s*\2\b')
-MARKS = {"tr", "translate", "QT_TRANSLATE_NOOP", "QT_TR_NOOP", "QT_TRANSLATE_NOOP3"}
+MARKS = {"tr", "translate", "QT_TRANSLATE_NOOP", "QT_TR_NOOP", "QT_TRANSLATE_NOOP3",
+         "QT_TRANSLATE_N_NOOP"}
 # Callees that show any text to the user, even a single word.
 SHOWN = {"setText", "setWindowTitle", "setToolTip", "setStatusTip", "setTitle", "addButton",
          "addAction", "addMenu", "setAccessibleName", "setPlaceholderText", "printMessage",
@@ -40,14 +41,14 @@ SHOWN = {"setText", "setWindowTitle", "setToolTip", "setStatusTip", "setTitle", 
 # Callees whose texts are for developers or for other programs.
 FOR_MACHINES = {"write", "writeLog", "logError", "logDebug", "logWarning", "log", "QRegularExpression",
                 "static_assert", "CuteMessageLogger", "setDescription", "setCreator",
-                "horizontalAdvance", "setApplicationName", "include"}
+                "horizontalAdvance", "setApplicationName", "include", "png_error", "qFatal"}
 # Callees that only create a string.
 WRAPPERS = {"", "QStringLiteral", "QLatin1String", "QString", "QStringView", "QLatin1StringView",
             "QByteArrayLiteral", "fromUtf8", "fromLatin1"}
 # Lines with a reason for not translating: "no translation: the program's own marks".
 EXCUSE = "no translation:"
 # Texts in another language of code, for example SQL or HTML.
-CODE = re.compile(r"^(SELECT|PRAGMA|INSERT|CREATE|<|\s*[\[{.#@*&]|[a-z-]+=|.*[{}]|.*=['\"\\]|Mozilla)|"
+CODE = re.compile(r"^labelport( [a-z]+)?$|^(tavrel|png)\b|^(SELECT|PRAGMA|INSERT|CREATE|<|\s*[\[{.#@*&]|[a-z-]+=|.*[{}]|.*=['\"\\]|Mozilla)|"
                   r"xmlns|-src |^\^|\$$")
 
 

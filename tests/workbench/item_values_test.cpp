@@ -291,6 +291,19 @@ TEST(ItemValues, AStackingOrderThatIsNoNumberIsZero)
     EXPECT_EQ(item.zValue(), -12.5);
 }
 
+TEST(ItemValues, APenIsNoWiderThanTheLimit)
+{
+    Painted page;
+    auto& item = page.make<LineItem>(KestTypes::Line);
+    workbench::ItemValues values = valuesOf(item);
+    for (const double width :
+         {workbench::kMaximumPenWidth, workbench::kMaximumPenWidth + 1, -1.0}) {
+        values.pen->width = width;
+        dynamic_cast<CanvasItem&>(item).setValues(values);
+        EXPECT_EQ(valuesOf(item).pen->width, std::clamp(width, 0.0, workbench::kMaximumPenWidth));
+    }
+}
+
 TEST(ItemValues, AFontSizeOfZeroOrLessKeepsTheLastOne)
 {
     Painted page;

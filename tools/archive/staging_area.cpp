@@ -75,18 +75,25 @@ QString StagingArea::open(const QString& outputFolder)
     }
     const console::ReachablePath reachable(outputFolder);
     removeAbandoned(reachable.path());
-    QTemporaryDir folder(QDir(reachable.path()).filePath(Prefix + u"XXXXXX"_s));
-    if (!folder.isValid()) {
-        return cannotWriteTo(outputFolder, folder.errorString());
+    // Another command may take the folder for an abandoned one and remove it before it is locked.
+    constexpr int attempts = 100;
+    QString reason;
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        QTemporaryDir folder(QDir(reachable.path()).filePath(Prefix + u"XXXXXX"_s));
+        if (!folder.isValid()) {
+            return cannotWriteTo(outputFolder, folder.errorString());
+        }
+        const QString lockName = folder.filePath(LockName);
+        m_lock = FileLock::tryLock(lockName, FileLock::Exclusive, true);
+        reason = QString::fromLocal8Bit(std::strerror(errno));
+        if (m_lock.isHeld() && QFileInfo::exists(lockName)) {
+            folder.setAutoRemove(false);
+            m_path = QDir(console::absolutePath(outputFolder))
+                         .filePath(QFileInfo(folder.path()).fileName());
+            return {};
+        }
     }
-    m_lock = FileLock::tryLock(folder.filePath(LockName), FileLock::Exclusive, true);
-    if (!m_lock.isHeld()) {
-        return cannotWriteTo(outputFolder, QString::fromLocal8Bit(std::strerror(errno)));
-    }
-    folder.setAutoRemove(false);
-    m_path =
-        QDir(console::absolutePath(outputFolder)).filePath(QFileInfo(folder.path()).fileName());
-    return {};
+    return cannotWriteTo(outputFolder, reason);
 }
 
 void StagingArea::close()

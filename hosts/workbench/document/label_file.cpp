@@ -3,6 +3,7 @@
 #include "workbench/document/document_limits.h"
 #include "workbench/document/label_json.h"
 #include "workbench/document/picture_pixels.h"
+#include "workbench/pictures/atomic_save.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -92,10 +93,12 @@ QString saveLabel(const QString& path, const Canvas& canvas,
     if (bytes.size() > limits::FileBytes)
         return cannotSave(path, Words::tr("its pictures are too large"));
     QSaveFile file(path);
-    // What is still in a buffer when the file is closed could fail without a word.
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
-        !file.commit())
+    if (!file.open(QIODevice::WriteOnly)) {
         return cannotSave(path, file.errorString());
+    }
+    if (file.write(bytes) != bytes.size() || !commitWhole(file)) {
+        return cannotSave(path, writeError(file));
+    }
     return {};
 }
 

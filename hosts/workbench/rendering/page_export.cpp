@@ -1,10 +1,10 @@
 #include "workbench/rendering/page_export.h"
 
 #include "workbench/canvas/canvas.h"
+#include "workbench/pictures/atomic_save.h"
 #include "workbench/rendering/page_painter.h"
 #include "workbench/rendering/svg_groups.h"
 #include "workbench/rendering/true_size_pdf.h"
-#include "workbench/rendering/whole_file.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -115,7 +115,7 @@ QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& t
     }
     const QByteArray svg = svgOf(canvas, title);
     if (file.write(svg) != svg.size() || !commitWhole(file)) {
-        return cannotWrite(fileName, file.errorString());
+        return cannotWrite(fileName, writeError(file));
     }
     return {};
 }
@@ -144,10 +144,11 @@ QString writePdf(const Canvas& canvas, const QString& fileName, const QString& t
         });
     }
     if (!isComplete) {
+        const QString error = isStopped ? QString() : cannotWrite(fileName, writeError(file));
         file.cancelWriting();
-        return isStopped ? QString() : cannotWrite(fileName, file.errorString());
+        return error;
     }
-    return commitWhole(file) ? QString() : cannotWrite(fileName, file.errorString());
+    return commitWhole(file) ? QString() : cannotWrite(fileName, writeError(file));
 }
 
 bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,

@@ -1,9 +1,9 @@
 #include "workbench/rendering/page_image.h"
 
 #include "workbench/canvas/canvas.h"
+#include "workbench/pictures/atomic_save.h"
 #include "workbench/pictures/png_encoder.h"
 #include "workbench/rendering/page_painter.h"
-#include "workbench/rendering/whole_file.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -115,7 +115,7 @@ QString writePng(const QImage& image, const QString& fileName)
         return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
     if (!encodePng(image, file) || !commitWhole(file)) {
-        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
+        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, writeError(file));
     }
     return {};
 }

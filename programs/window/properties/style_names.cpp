@@ -133,7 +133,9 @@ QString flagName(const NameRow (&rows)[Size], int flags)
 
 QString kindName(KestTypes::ShapeType type)
 {
-    return workbench::shapeTitle(type);
+    const QString title = workbench::shapeTitle(type);
+    return title.isEmpty() ? QCoreApplication::translate(Context, "unknown (%1)").arg(int(type))
+                           : title;
 }
 
 QString colorName(const QColor& color)

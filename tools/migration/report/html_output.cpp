@@ -3,7 +3,7 @@
 #include "migration/report/html_card.h"
 #include "migration/report/html_page.h"
 #include "migration/report/totals.h"
-#include "workbench/rendering/whole_file.h"
+#include "workbench/pictures/atomic_save.h"
 
 #include <QFileInfo>
 #include <QSaveFile>

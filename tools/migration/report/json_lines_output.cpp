@@ -1,7 +1,7 @@
 #include "migration/report/report_lines.h"
 #include "migration/report/report_output.h"
 #include "migration/report/totals.h"
-#include "workbench/rendering/whole_file.h"
+#include "workbench/pictures/atomic_save.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSaveFile>
+#include <QString>
 
 namespace workbench {
 
@@ -14,6 +15,17 @@ namespace workbench {
         return false; // discarded by the destructor; canceling would replace the system's error
     }
     return file.commit();
+}
+
+/// Why the bytes could not be written. The system gives its reason, a full disk for example, only
+/// with the first write that fails completely, and not with the partial one before it.
+/// @param file a file on which writing failed; it must not be committed
+[[nodiscard]] inline QString writeError(QSaveFile& file)
+{
+    file.flush();
+    file.write(" ");
+    file.flush();
+    return file.errorString();
 }
 
 } // namespace workbench
