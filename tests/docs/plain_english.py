@@ -8,7 +8,6 @@ Only comments, string literals and documents are checked, not identifiers.
 
 import pathlib
 import re
-import subprocess
 import sys
 
 PATTERNS = {
@@ -85,18 +84,16 @@ def complaints_of(path, text):
                 yield f'{path}:{number}: "{found.group(0)}": {remedy}'
 
 
-def tracked(source):
-    names = subprocess.run(["git", "ls-files", "-z"], cwd=source, check=False, capture_output=True,
-                           text=True)
-    if names.returncode == 0:
-        return [name for name in names.stdout.split("\0") if name]
-    return [str(path.relative_to(source)) for path in source.rglob("*")
-            if path.is_file() and "build" not in path.parts and ".git" not in path.parts]
+def sources(source):
+    """The project's files. Builds, outputs and hidden folders are not part of it."""
+    names = (path.relative_to(source) for path in sorted(source.rglob("*")) if path.is_file())
+    return [str(name) for name in names
+            if name.parts[0] not in ("build", "out") and not name.parts[0].startswith(".")]
 
 
 def check(source):
     complaints = []
-    for name in tracked(source):
+    for name in sources(source):
         path = source / name
         if name.startswith(SKIPPED) or not path.is_file():
             continue
