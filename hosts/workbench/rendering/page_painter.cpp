@@ -8,19 +8,26 @@
 
 namespace workbench {
 
-namespace {
-
-void paintItem(QPainter& painter, QGraphicsItem& item)
+bool isOnPage(const CanvasItem& item, const Canvas& canvas)
 {
-    QStyleOptionGraphicsItem option;
-    option.exposedRect = item.boundingRect();
-    painter.save();
-    painter.setTransform(item.sceneTransform(), true);
-    item.paint(&painter, &option, nullptr);
-    painter.restore();
+    return item.graphicsItem()->sceneBoundingRect().intersects(canvas.pageRect());
 }
 
-} // namespace
+void paintUnplacedItem(QPainter& painter, const CanvasItem& item)
+{
+    QStyleOptionGraphicsItem option;
+    option.exposedRect = item.graphicsItem()->boundingRect();
+    // Painting does not change an item, but Qt's function is not const.
+    const_cast<QGraphicsItem*>(item.graphicsItem())->paint(&painter, &option, nullptr);
+}
+
+void paintItem(QPainter& painter, const CanvasItem& item)
+{
+    painter.save();
+    painter.setTransform(item.graphicsItem()->sceneTransform(), true);
+    paintUnplacedItem(painter, item);
+    painter.restore();
+}
 
 void paintPage(QPainter& painter, const Canvas& canvas, const BeforeItem& beforeItem)
 {
@@ -30,13 +37,13 @@ void paintPage(QPainter& painter, const Canvas& canvas, const BeforeItem& before
     painter.fillRect(page, canvas.canvasBackgroundColor());
     const QList<CanvasItem*> items = canvas.itemsFromBottom();
     int position = 0;
-    for (CanvasItem* item : items) {
+    for (const CanvasItem* item : items) {
         ++position;
-        if (item->graphicsItem()->sceneBoundingRect().intersects(page)) {
+        if (isOnPage(*item, canvas)) {
             if (beforeItem) {
                 beforeItem(position);
             }
-            paintItem(painter, *item->graphicsItem());
+            paintItem(painter, *item);
         }
     }
     painter.restore();
