@@ -4,6 +4,8 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
+
 namespace translations {
 
 namespace {
@@ -57,12 +59,11 @@ QStringList upToEnglish(const QStringList& languages)
 
 QStringList wantedLanguages(const QProcessEnvironment& environment)
 {
-    if (isPlain(environment.value(QStringLiteral("LC_ALL")))) {
+    if (isPlain(environment.value(u"LC_ALL"_s))) {
         return {};
     }
     QStringList languages;
-    for (const QString& each :
-         environment.value(QStringLiteral("LANGUAGE")).split(QLatin1Char(':'))) {
+    for (const QString& each : environment.value(u"LANGUAGE"_s).split(QLatin1Char(':'))) {
         languages.append(languageOf(each));
     }
     languages.removeAll(QString());
@@ -86,7 +87,7 @@ ProgramLanguage::ProgramLanguage(const QStringList& languages)
         }
     }
     // The texts in the code are English; this adds their plural forms.
-    if (m_own.load(QStringLiteral(":/labelport/translations/labelport_en.qm"))) {
+    if (m_own.load(u":/labelport/translations/labelport_en.qm"_s)) {
         QCoreApplication::installTranslator(&m_own);
     }
 }
@@ -100,12 +101,12 @@ ProgramLanguage::~ProgramLanguage()
 bool ProgramLanguage::load(const QString& language)
 {
     // Where there is none for "de_AT", this takes that for "de".
-    if (!m_own.load(QStringLiteral(":/labelport/translations/labelport_%1.qm").arg(language))) {
+    if (!m_own.load(u":/labelport/translations/labelport_%1.qm"_s.arg(language))) {
         return false;
     }
     m_name = m_own.language();
     // An installation need not have the toolkit's translations; ours do without them.
-    if (m_toolkit.load(QStringLiteral("qtbase_") + language,
+    if (m_toolkit.load(u"qtbase_"_s + language,
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&m_toolkit);
     }

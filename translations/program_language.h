@@ -37,7 +37,7 @@ public:
 private:
     bool load(const QString& language);
 
-    QString m_name = QStringLiteral("en");
+    QString m_name = QLatin1String("en");
     QTranslator m_own;
     QTranslator m_toolkit; // buttons of dialogs, reasons why a file cannot be opened
 };

@@ -5,11 +5,13 @@
 
 #include <QGraphicsItem>
 
+using namespace Qt::StringLiterals;
+
 namespace recorder {
 
 namespace {
 
-const QString Target = QStringLiteral("canvas");
+const QString Target = u"canvas"_s;
 
 TraceValue itemValues(const QList<QGraphicsItem*>& items)
 {

@@ -1,16 +1,18 @@
 #include "recorder/recording_datasources.h"
 
+using namespace Qt::StringLiterals;
+
 namespace recorder {
 
 namespace {
 
-const QString Target = QStringLiteral("datasources");
+const QString Target = u"datasources"_s;
 
 } // namespace
 
 RecordingDatasource::RecordingDatasource(std::shared_ptr<Recording> recording, int id)
     : m_recording(std::move(recording))
-    , m_target(QStringLiteral("datasource:%1").arg(id))
+    , m_target(u"datasource:%1"_s.arg(id))
 {}
 
 void RecordingDatasource::setDatasourceProperty(const QString& name, const QVariant& value)
@@ -20,9 +22,8 @@ void RecordingDatasource::setDatasourceProperty(const QString& name, const QVari
 
 QList<QString> RecordingDatasource::fields() const
 {
-    const QStringList names = m_recording->behavior().sourcesHaveFields
-                                  ? QStringList{QStringLiteral("Value")}
-                                  : QStringList();
+    const QStringList names =
+        m_recording->behavior().sourcesHaveFields ? QStringList{u"Value"_s} : QStringList();
     m_recording->answer(names, m_target, "fields");
     return names;
 }

@@ -2,6 +2,8 @@
 
 #include "recorder/items/recorded_items.h"
 
+using namespace Qt::StringLiterals;
+
 namespace recorder {
 
 namespace {
@@ -77,7 +79,7 @@ Item* RecordingFactory::create(KestTypes::ShapeType type)
         m_recording->addItem(type, made.graphics);
     }
     if (m_recording->trace() != nullptr) {
-        m_recording->answer(itemValue(made.item.get()), QStringLiteral("factory"), "create", type);
+        m_recording->answer(itemValue(made.item.get()), u"factory"_s, "create", type);
     }
     return made.item.release();
 }

@@ -5,22 +5,24 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+using namespace Qt::StringLiterals;
+
 namespace recorder {
 
 namespace {
 
-const QString ConnectionName = QStringLiteral("labelport-recorder-symbols");
+const QString ConnectionName = u"labelport-recorder-symbols"_s;
 
 QByteArray queryIn(const QString& path, const QString& name)
 {
-    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), ConnectionName);
+    QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, ConnectionName);
     database.setDatabaseName(path);
-    database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+    database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
     if (!database.open()) {
         return {};
     }
     QSqlQuery query(database);
-    query.prepare(QStringLiteral("SELECT svg FROM symbols WHERE name = ?"));
+    query.prepare(u"SELECT svg FROM symbols WHERE name = ?"_s);
     query.addBindValue(name);
     return query.exec() && query.next() ? query.value(0).toByteArray() : QByteArray();
 }

@@ -2,6 +2,8 @@
 
 #include <QIODevice>
 
+using namespace Qt::StringLiterals;
+
 namespace recorder {
 
 TraceWriter::TraceWriter(QIODevice& out)
@@ -67,7 +69,7 @@ void TraceWriter::writeLine(const std::vector<TraceValue::Field>& fields)
 
 QString itemTarget(int number)
 {
-    return QStringLiteral("item:%1").arg(number);
+    return u"item:%1"_s.arg(number);
 }
 
 } // namespace recorder

@@ -17,6 +17,8 @@
 #include <QPointer>
 #include <QSettings>
 
+using namespace Qt::StringLiterals;
+
 /// RAII flag for a running import; safe if the importer is deleted first.
 class LegacyTemplateImporter::RunningImport
 {
@@ -134,7 +136,7 @@ void LegacyTemplateImporter::rememberFolderOf(const QString& fileName)
 {
     m_importFolder = QFileInfo(fileName).dir().absolutePath();
     QSettings settings;
-    settings.setValue(QStringLiteral("dir/import"), m_importFolder);
+    settings.setValue(u"dir/import"_s, m_importFolder);
 }
 
 // Readers keep state of the current file, and the canvas is half filled: a second

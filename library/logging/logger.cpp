@@ -10,6 +10,8 @@
 
 #include <cstdarg>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Q_LOGGING_CATEGORY(labelportCategory, "labelport", QtWarningMsg)
@@ -58,17 +60,17 @@ QString Logger::levelToString(LogLevel level)
 {
     switch (level) {
     case Trace:
-        return QStringLiteral("trace");
+        return u"trace"_s;
     case Debug:
-        return QStringLiteral("debug");
+        return u"debug"_s;
     case Info:
-        return QStringLiteral("info");
+        return u"info"_s;
     case Warning:
-        return QStringLiteral("warning");
+        return u"warning"_s;
     case Error:
-        return QStringLiteral("error");
+        return u"error"_s;
     case Fatal:
-        return QStringLiteral("fatal");
+        return u"fatal"_s;
     }
     return {};
 }

@@ -12,7 +12,7 @@ namespace opendocument {
 /// The unit of all lengths of a document: that of the page width.
 struct LengthUnit
 {
-    QString suffix = QStringLiteral("in");
+    QString suffix = QLatin1String("in");
     double factor = 72.0; ///< points per unit
 };
 

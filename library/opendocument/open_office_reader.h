@@ -124,7 +124,7 @@ private:
     double m_pageWidth = 612.0;  // points; US letter until a file says otherwise
     double m_pageHeight = 792.0; // points
     double m_flowOffsetY = 0;    // points; start of the next paragraph of a text
-    QString m_unitSuffix = QStringLiteral("in");
+    QString m_unitSuffix = QLatin1String("in");
     double m_unitFactor = 72.0; // points per unit
     double m_pointsPerPixel = 1.0;
     OOTextStyle m_defaultTextStyle;

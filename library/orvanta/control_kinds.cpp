@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace orvanta {
 
 namespace {

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 namespace orvanta {
 
 namespace {
@@ -39,14 +41,12 @@ RasterPicture decode(QBuffer& buffer, const QByteArray& format, qint64 pixelsLef
     const QSize claimed = reader.size();
     if (pixelCount(claimed) > std::min(pixelsLeft, MaximumPicturePixels)) {
         return refused(refusals::PictureTooLarge,
-                       QStringLiteral("a picture of %1 by %2 pixels is too large")
-                           .arg(claimed.width())
+                       u"a picture of %1 by %2 pixels is too large"_s.arg(claimed.width())
                            .arg(claimed.height()));
     }
     const QImage image = reader.read();
     if (pixelCount(image.size()) > pixelsLeft) {
-        return refused(refusals::PictureTooLarge,
-                       QStringLiteral("the pictures of the label are too large"));
+        return refused(refusals::PictureTooLarge, u"the pictures of the label are too large"_s);
     }
     return {image, QString()};
 }
@@ -56,8 +56,7 @@ RasterPicture renderSvg(const QByteArray& svg, qint64 pixelsLeft)
 {
     const auto safe = svglimits::sanitizeSvg(svg, svglimits::LengthUnits::AsWritten);
     if (!safe) {
-        return refused(refusals::PictureUnreadable,
-                       QStringLiteral("a drawing that is damaged or too large"));
+        return refused(refusals::PictureUnreadable, u"a drawing that is damaged or too large"_s);
     }
     QBuffer buffer;
     buffer.setData(safe->document());
@@ -78,7 +77,7 @@ RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
     buffer.setData(imagelimits::safePicture(bytes));
     if (buffer.data().isEmpty() && !bytes.isEmpty()) {
         return refused(refusals::PictureTooLarge,
-                       QStringLiteral("a picture that takes more work than any real one"));
+                       u"a picture that takes more work than any real one"_s);
     }
     buffer.open(QIODevice::ReadOnly);
     const QByteArray format = QImageReader(&buffer).format();
@@ -89,9 +88,8 @@ RasterPicture decodeRasterPicture(const QByteArray& bytes, qint64 pixelsLeft)
         return renderSvg(buffer.data(), pixelsLeft);
     }
     if (!isRasterFormat(format)) {
-        return refused(refusals::PictureFormat,
-                       QStringLiteral("a picture of the format %1 is not decoded")
-                           .arg(QString::fromLatin1(format)));
+        return refused(refusals::PictureFormat, u"a picture of the format %1 is not decoded"_s.arg(
+                                                    QString::fromLatin1(format)));
     }
     return decode(buffer, format, pixelsLeft);
 }

@@ -16,8 +16,8 @@ LIMIT_NAME = re.compile(r"^k?(Maximum|Most|Largest|Longest)[A-Z]")
 LIMIT_HEADERS = re.compile(r"^(\w+_)?(limits|bounds)\.h$")
 # Other constants in these headers.
 NO_LIMITS = {("library/orvanta/page_geometry.h", "PointsPerPixel"), ("library/orvanta/bounds.h", "CanvasMargin"),
-             ("hosts/workbench/items/bounds.h", "kCoordinateNotGiven"),
-             ("hosts/workbench/items/bounds.h", "kDefaultFontSize"),
+             ("hosts/workbench/items/item_limits.h", "CoordinateNotGiven"),
+             ("hosts/workbench/items/item_limits.h", "DefaultFontSize"),
              ("hosts/workbench/pictures/compact_image.cpp", "MostColors"),
              ("hosts/workbench/rendering/svg_groups.cpp", "LargestNumber"),
              ("hosts/workbench/pictures/png_encoder.cpp", "MaximumKeyCharacters")}

@@ -9,7 +9,7 @@
 #include "host/items/rounded_rectangle_item.h"
 #include "host/items/simple_text_item.h"
 #include "host/items/symbol_item.h"
-#include "workbench/items/bounds.h"
+#include "workbench/items/item_limits.h"
 
 #include <QPixmap>
 
@@ -243,11 +243,11 @@ struct BadNumber
 TEST(ItemValues, LengthsAndAnglesThatNoLabelHasAreBounded)
 {
     for (const BadNumber& row :
-         {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, workbench::kMaximumLength},
-          BadNumber{-kInfinity, -workbench::kMaximumLength},
-          BadNumber{1e308, workbench::kMaximumLength},
-          BadNumber{workbench::kMaximumLength - 1, workbench::kMaximumLength - 1},
-          BadNumber{workbench::kMaximumLength + 1, workbench::kMaximumLength},
+         {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, workbench::MaximumLength},
+          BadNumber{-kInfinity, -workbench::MaximumLength},
+          BadNumber{1e308, workbench::MaximumLength},
+          BadNumber{workbench::MaximumLength - 1, workbench::MaximumLength - 1},
+          BadNumber{workbench::MaximumLength + 1, workbench::MaximumLength},
           BadNumber{-3.0, -3.0}}) {
         SCOPED_TRACE(row.given);
         Painted page;
@@ -269,9 +269,9 @@ TEST(ItemValues, PositionsThatNoLabelHasAreBounded)
     // -1000000001 is what importers pass for a coordinate that is not in the file.
     for (const BadNumber& row :
          {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, 0.0}, BadNumber{-1'000'000'001.0, 0.0},
-          BadNumber{1e300, workbench::kMaximumCoordinate},
-          BadNumber{workbench::kMaximumCoordinate - 1, workbench::kMaximumCoordinate - 1},
-          BadNumber{workbench::kMaximumCoordinate + 1, workbench::kMaximumCoordinate},
+          BadNumber{1e300, workbench::MaximumCoordinate},
+          BadNumber{workbench::MaximumCoordinate - 1, workbench::MaximumCoordinate - 1},
+          BadNumber{workbench::MaximumCoordinate + 1, workbench::MaximumCoordinate},
           BadNumber{-50.0, -50.0}}) {
         SCOPED_TRACE(row.given);
         Painted page;
@@ -296,11 +296,10 @@ TEST(ItemValues, APenIsNoWiderThanTheLimit)
     Painted page;
     auto& item = page.make<LineItem>(KestTypes::Line);
     workbench::ItemValues values = valuesOf(item);
-    for (const double width :
-         {workbench::kMaximumPenWidth, workbench::kMaximumPenWidth + 1, -1.0}) {
+    for (const double width : {workbench::MaximumPenWidth, workbench::MaximumPenWidth + 1, -1.0}) {
         values.pen->width = width;
         dynamic_cast<CanvasItem&>(item).setValues(values);
-        EXPECT_EQ(valuesOf(item).pen->width, std::clamp(width, 0.0, workbench::kMaximumPenWidth));
+        EXPECT_EQ(valuesOf(item).pen->width, std::clamp(width, 0.0, workbench::MaximumPenWidth));
     }
 }
 
@@ -313,10 +312,10 @@ TEST(ItemValues, AFontSizeOfZeroOrLessKeepsTheLastOne)
         item.setFontPointSize(size);
         EXPECT_EQ(valuesOf(item).font->pointSize, 9);
     }
-    item.setFontPointSize(workbench::kMaximumFontSize - 1);
-    EXPECT_EQ(valuesOf(item).font->pointSize, workbench::kMaximumFontSize - 1);
-    for (const int size : {workbench::kMaximumFontSize + 1, std::numeric_limits<int>::max()}) {
+    item.setFontPointSize(workbench::MaximumFontSize - 1);
+    EXPECT_EQ(valuesOf(item).font->pointSize, workbench::MaximumFontSize - 1);
+    for (const int size : {workbench::MaximumFontSize + 1, std::numeric_limits<int>::max()}) {
         item.setFontPointSize(size);
-        EXPECT_EQ(valuesOf(item).font->pointSize, workbench::kMaximumFontSize);
+        EXPECT_EQ(valuesOf(item).font->pointSize, workbench::MaximumFontSize);
     }
 }

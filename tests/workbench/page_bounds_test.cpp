@@ -30,15 +30,15 @@ bool isPainted(double width, double height)
 
 TEST(PageBounds, MeasureAPicturesSide)
 {
-    EXPECT_TRUE(isPainted(kMaximumImageSide, 1));
-    EXPECT_TRUE(isPainted(1, kMaximumImageSide));
-    EXPECT_FALSE(isPainted(kMaximumImageSide + 1, 1));
-    EXPECT_FALSE(isPainted(1, kMaximumImageSide + 1));
+    EXPECT_TRUE(isPainted(MaximumImageSide, 1));
+    EXPECT_TRUE(isPainted(1, MaximumImageSide));
+    EXPECT_FALSE(isPainted(MaximumImageSide + 1, 1));
+    EXPECT_FALSE(isPainted(1, MaximumImageSide + 1));
 }
 
 TEST(PageBounds, MeasureAPicturesArea)
 {
-    static_assert(kMaximumImagePixels == 15'000 * 10'000);
+    static_assert(MaximumImagePixels == 15'000 * 10'000);
     EXPECT_FALSE(isPainted(15'001, 10'000));
 }
 

@@ -9,6 +9,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace migration {
 
 namespace {
@@ -83,8 +85,7 @@ FileReport makeFileReport(const QString& fileName, const QString& shownName, Rea
 FileReport makeSavedLabelReport(const QString& fileName, const QString& shownName,
                                 const workbench::ImportResult& result, const ReportOptions& options)
 {
-    return reportOn(fileName, shownName, QStringLiteral("label"), &countSavedLabel, result,
-                    options);
+    return reportOn(fileName, shownName, u"label"_s, &countSavedLabel, result, options);
 }
 
 } // namespace migration

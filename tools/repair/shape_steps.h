@@ -27,10 +27,10 @@ int rewriteRotations(Document& document);
 int choosePictures(Document& document);
 
 /// On which side of a dimension line its text is: "above" or "below".
-inline const QString LineTextAttribute = QStringLiteral("labelport:line-text");
+inline const QString LineTextAttribute = QLatin1String("labelport:line-text");
 
 /// The rectangle of a shape's text in its box, where it is not the box: "x y width height" in
 /// points.
-inline const QString TextAreaAttribute = QStringLiteral("labelport:text-area");
+inline const QString TextAreaAttribute = QLatin1String("labelport:text-area");
 
 } // namespace repair

@@ -234,7 +234,7 @@ std::unique_ptr<Node> parseTree(const QByteArray& bytes, qint64 treeBytes)
 
 QByteArray writeTree(const Node& root)
 {
-    QString out = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
+    QString out = u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"_s;
     write(root, out);
     return out.toUtf8();
 }

@@ -8,6 +8,8 @@
 #include <array>
 #include <iterator>
 
+using namespace Qt::StringLiterals;
+
 // Fixed lists, whatever fonts and symbologies the machine has.
 
 namespace {
@@ -49,7 +51,7 @@ template <typename Argument>
 bool recorded(const char* call, const Argument& argument, bool answer)
 {
     if (const auto recording = recorder::Recording::current()) {
-        recording->answer(answer, QStringLiteral("lists"), call, argument);
+        recording->answer(answer, u"lists"_s, call, argument);
     }
     return answer;
 }

@@ -3,11 +3,13 @@
 #include "recorder/recording.h"
 #include "recorder/svg_document.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Conversion = recorder::Behavior::Conversion;
 
-const QString Target = QStringLiteral("symbolcreator");
+const QString Target = u"symbolcreator"_s;
 
 } // namespace
 

@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 class SymbolDatabaseModel::Private
 {
 public:
@@ -17,7 +19,7 @@ SymbolDatabaseModel::SymbolDatabaseModel(QObject* parent)
     , d(std::make_unique<Private>())
 {
     if (const auto recording = recorder::Recording::current()) {
-        d->target = QStringLiteral("symboldb:%1").arg(recording->addSymbolDatabase());
+        d->target = u"symboldb:%1"_s.arg(recording->addSymbolDatabase());
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "recorder/recording.h"
 
+using namespace Qt::StringLiterals;
+
 // A box that is never shown: its texts are written to the trace, and the user of the
 // recording closes it.
 
@@ -16,7 +18,7 @@ TalMessageBox::TalMessageBox(const QString& title, const QString& text,
 {
     setWindowTitle(title);
     if (const auto recording = recorder::Recording::current()) {
-        recording->call(QStringLiteral("messagebox"), "create", title, text);
+        recording->call(u"messagebox"_s, "create", title, text);
         recording->addMessageBox(this);
     }
 }

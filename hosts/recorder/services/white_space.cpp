@@ -1,6 +1,8 @@
 #include "host/services/white_space.h"
 
+using namespace Qt::StringLiterals;
+
 QRegularExpression WhiteSpace::getWhiteSpacesSplitRegex()
 {
-    return QRegularExpression(QStringLiteral("\\s+"));
+    return QRegularExpression(u"\\s+"_s);
 }

@@ -13,6 +13,8 @@
 #include <iterator>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench::barcodes {
 
 namespace {
@@ -73,15 +75,14 @@ constexpr std::array<Reason, 5> Reasons{{
     const auto end = std::find(std::begin(symbol.errtxt), std::end(symbol.errtxt), '\0');
     const QString text =
         QString::fromUtf8(symbol.errtxt, std::distance(std::begin(symbol.errtxt), end));
-    const qsizetype colon = text.indexOf(QStringLiteral(": "));
+    const qsizetype colon = text.indexOf(u": "_s);
     return text.startsWith(u"Error ") && colon > 0 ? text.mid(colon + 2) : text;
 }
 
 [[nodiscard]] QString explanation(const zint_symbol& symbol, int code, const QString& name)
 {
     const QString why = detail(symbol);
-    return reasonWords(code).arg(name,
-                                 why.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(why));
+    return reasonWords(code).arg(name, why.isEmpty() ? QString() : u" (%1)"_s.arg(why));
 }
 
 // --- input ------------------------------------------------------------------------------
@@ -100,21 +101,26 @@ void applySettings(zint_symbol& symbol, const BarcodeRequest& request, const Sym
 {
     const int size = inRange(request.number, symbology.sizeMinimum, symbology.sizeMaximum);
     const int level = inRange(request.value, 1, symbology.levelMaximum);
-    if (size > 0)
+    if (size > 0) {
         symbol.option_2 = size;
-    if (symbology.checkDigit && request.option == 1)
+    }
+    if (symbology.checkDigit && request.option == 1) {
         symbol.option_2 = 1;
-    if (request.symbology == BARCODE_PDF417)
+    }
+    if (request.symbology == BARCODE_PDF417) {
         symbol.option_2 = inRange(request.option, 1, 30);
-    if (level > 0)
+    }
+    if (level > 0) {
         symbol.option_1 = level;
+    }
 }
 
 [[nodiscard]] int outputOptions(const BarcodeRequest& request, const Symbology& symbology)
 {
     int options = request.flag1 ? BARCODE_QUIET_ZONES : 0;
-    if (request.flag2 && !symbology.matrix)
+    if (request.flag2 && !symbology.matrix) {
         options |= BARCODE_BIND;
+    }
     return options;
 }
 
@@ -122,8 +128,9 @@ void applySettings(zint_symbol& symbol, const BarcodeRequest& request, const Sym
                                        bool withSettings)
 {
     SymbolPointer symbol(ZBarcode_Create());
-    if (!symbol)
+    if (!symbol) {
         return symbol;
+    }
     symbol->symbology = request.symbology;
     symbol->input_mode = UNICODE_MODE;
     if (hasCapability(request.symbology, ZINT_CAP_GS1) && request.content.startsWith(u'('))
@@ -138,22 +145,26 @@ void applySettings(zint_symbol& symbol, const BarcodeRequest& request, const Sym
     symbol->guard_descent = 0.0F;
     symbol->output_options = outputOptions(request, symbology);
     symbol->border_width = symbol->output_options & BARCODE_BIND ? 2 : 0;
-    if (withSettings)
+    if (withSettings) {
         applySettings(*symbol, request, symbology);
+    }
     return symbol;
 }
 
 /// A composite's linear part has a field of its own. False if it does not fit.
 [[nodiscard]] bool splitComposite(zint_symbol& symbol, QByteArray& bytes)
 {
-    if (!hasCapability(symbol.symbology, ZINT_CAP_COMPOSITE))
+    if (!hasCapability(symbol.symbology, ZINT_CAP_COMPOSITE)) {
         return true;
+    }
     const qsizetype bar = bytes.indexOf('|');
-    if (bar <= 0 || bar >= static_cast<qsizetype>(sizeof symbol.primary))
+    if (bar <= 0 || bar >= static_cast<qsizetype>(sizeof symbol.primary)) {
         return false;
+    }
     const QByteArray primary = bytes.left(bar);
-    if (primary.contains('\0'))
+    if (primary.contains('\0')) {
         return false;
+    }
     std::memcpy(symbol.primary, primary.constData(), static_cast<std::size_t>(bar) + 1);
     bytes.remove(0, bar + 1);
     if (bytes.startsWith('('))
@@ -171,21 +182,24 @@ void takeBars(const zint_vector& vector, BarcodeSymbol& symbol)
 {
     for (const zint_vector_rect* bar = vector.rectangles; bar; bar = bar->next) {
         const QRectF rect(bar->x, bar->y, bar->width, bar->height);
-        if (bar->colour >= 1 && bar->colour <= static_cast<int>(BarColors.size()))
+        if (bar->colour >= 1 && bar->colour <= static_cast<int>(BarColors.size())) {
             symbol.coloredBars << ColoredBar{rect,
                                              BarColors[static_cast<std::size_t>(bar->colour - 1)]};
-        else
+        } else {
             symbol.bars << rect;
+        }
     }
 }
 
 void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
 {
-    for (const zint_vector_hexagon* each = vector.hexagons; each; each = each->next)
+    for (const zint_vector_hexagon* each = vector.hexagons; each; each = each->next) {
         symbol.hexagons << Hexagon{{each->x, each->y}, each->diameter};
-    for (const zint_vector_circle* each = vector.circles; each; each = each->next)
+    }
+    for (const zint_vector_circle* each = vector.circles; each; each = each->next) {
         symbol.circles << Circle{
             {each->x, each->y}, each->diameter, each->width, each->colour != 0};
+    }
 }
 
 [[nodiscard]] QString humanReadable(const zint_symbol& symbol)
@@ -202,8 +216,9 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
     symbol.fixedRatio = hasCapability(request.symbology, ZINT_CAP_FIXED_RATIO);
     takeBars(*encoded.vector, symbol);
     takeRoundShapes(*encoded.vector, symbol);
-    if (request.flag3 && hasCapability(request.symbology, ZINT_CAP_HRT))
+    if (request.flag3 && hasCapability(request.symbology, ZINT_CAP_HRT)) {
         symbol.caption = humanReadable(encoded);
+    }
     return symbol;
 }
 
@@ -218,27 +233,33 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
                                        bool withSettings)
 {
     const SymbolPointer symbol = makeSymbol(request, symbology, withSettings);
-    if (!symbol)
+    if (!symbol) {
         return failure(Words::tr("There is not enough memory for the barcode."));
+    }
     QByteArray bytes = request.content.toUtf8();
     const QString name = symbologyName(request.symbology);
-    if (!splitComposite(*symbol, bytes))
+    if (!splitComposite(*symbol, bytes)) {
         return failure(Words::tr("%1: the content needs a linear part, a \"|\" and a second"
                                  " part.")
                            .arg(name));
-    if (bytes.size() > ZINT_MAX_DATA_LEN)
+    }
+    if (bytes.size() > ZINT_MAX_DATA_LEN) {
         return failure(Words::tr("%1: the content is too long for any barcode.").arg(name));
+    }
     const int encoded =
         ZBarcode_Encode(symbol.get(), reinterpret_cast<const unsigned char*>(bytes.constData()),
                         static_cast<int>(bytes.size()));
-    if (encoded >= ZINT_ERROR)
+    if (encoded >= ZINT_ERROR) {
         return failure(explanation(*symbol, encoded, name));
+    }
     const int drawn = ZBarcode_Buffer_Vector(symbol.get(), 0);
-    if (drawn >= ZINT_ERROR || !symbol->vector)
+    if (drawn >= ZINT_ERROR || !symbol->vector) {
         return failure(explanation(*symbol, drawn, name));
+    }
     const BarcodeSymbol result = taken(*symbol, request);
-    if (isBlank(result))
+    if (isBlank(result)) {
         return failure(Words::tr("%1: the content gives no bars at all.").arg(name));
+    }
     return result;
 }
 
@@ -252,19 +273,23 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
 BarcodeSymbol encode(const BarcodeRequest& request)
 {
     const Symbology* symbology = findSymbology(request.symbology);
-    if (!symbology || !ZBarcode_ValidID(request.symbology))
+    if (!symbology || !ZBarcode_ValidID(request.symbology)) {
         return failure(Words::tr("The label asks for a kind of barcode that is not known"
                                  " (number %1).")
                            .arg(request.symbology));
-    if (request.content.isEmpty())
+    }
+    if (request.content.isEmpty()) {
         return failure(
             Words::tr("%1: there is no content to encode.").arg(symbologyName(request.symbology)));
-    if (request.content.size() > MaximumContent)
+    }
+    if (request.content.size() > MaximumContent) {
         return failure(Words::tr("%1: the content is too long for any barcode.")
                            .arg(symbologyName(request.symbology)));
+    }
     BarcodeSymbol symbol = encodeOnce(request, *symbology, true);
-    if (symbol.isValid() || !hasSettings(request))
+    if (symbol.isValid() || !hasSettings(request)) {
         return symbol;
+    }
     return encodeOnce(request, *symbology, false);
 }
 

@@ -29,8 +29,9 @@ constexpr double LeastSnapped = 2.0;
 
 [[nodiscard]] double wantedPixelSize(const QFont& font)
 {
-    if (font.pixelSize() > 0)
+    if (font.pixelSize() > 0) {
         return font.pixelSize();
+    }
     return font.pointSizeF() > 0.0 ? font.pointSizeF() : 12.0;
 }
 
@@ -64,14 +65,16 @@ void centerBars(BarcodeLayout& layout, const QSizeF& modules, const QRectF& room
 /// (possibly swapped or mirrored); else 0.
 [[nodiscard]] double pixelsPerUnit(const QPainter& painter)
 {
-    if (!painter.paintEngine() || painter.paintEngine()->type() != QPaintEngine::Raster)
+    if (!painter.paintEngine() || painter.paintEngine()->type() != QPaintEngine::Raster) {
         return 0.0;
+    }
     const QTransform transform = painter.deviceTransform();
     const auto isZero = [](double value) { return std::abs(value) < 1e-9; };
     const bool upright = isZero(transform.m12()) && isZero(transform.m21());
     const bool turned = isZero(transform.m11()) && isZero(transform.m22());
-    if (!transform.isAffine() || (!upright && !turned))
+    if (!transform.isAffine() || (!upright && !turned)) {
         return 0.0;
+    }
     const double across = std::hypot(transform.m11(), transform.m12());
     const double down = std::hypot(transform.m21(), transform.m22());
     return std::abs(across - down) < 1e-6 * across ? across : 0.0;
@@ -82,13 +85,15 @@ void centerBars(BarcodeLayout& layout, const QSizeF& modules, const QRectF& room
                                 const QPainter& painter)
 {
     const double scale = pixelsPerUnit(painter);
-    if (scale * layout.moduleWidth < LeastSnapped)
+    if (scale * layout.moduleWidth < LeastSnapped) {
         return false;
+    }
     const QRectF room = layout.bars;
     // Rounding errors just below an integer count as that integer.
     layout.moduleWidth = std::floor(layout.moduleWidth * scale + 1e-3) / scale;
-    if (symbol.fixedRatio)
+    if (symbol.fixedRatio) {
         layout.moduleHeight = layout.moduleWidth;
+    }
     centerBars(layout, symbol.size, room);
 
     const QTransform transform = painter.deviceTransform();
@@ -118,10 +123,12 @@ void centerBars(BarcodeLayout& layout, const QSizeF& modules, const QRectF& room
 {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    for (const QRectF& bar : symbol.bars)
+    for (const QRectF& bar : symbol.bars) {
         path.addRect(bar);
-    for (const Hexagon& hexagon : symbol.hexagons)
+    }
+    for (const Hexagon& hexagon : symbol.hexagons) {
         path.addPath(hexagonPath(hexagon));
+    }
     return path;
 }
 
@@ -144,10 +151,12 @@ void paintSymbol(QPainter& painter, const BarcodeLayout& layout, const BarcodeSy
     painter.setPen(Qt::NoPen);
     painter.setBrush(style.foreground);
     painter.drawPath(foregroundPath(symbol));
-    for (const ColoredBar& bar : symbol.coloredBars)
+    for (const ColoredBar& bar : symbol.coloredBars) {
         painter.fillRect(bar.rect, bar.color);
-    for (const Circle& circle : symbol.circles)
+    }
+    for (const Circle& circle : symbol.circles) {
         paintCircle(painter, circle, style);
+    }
 }
 
 /// A line or paragraph of text with a fractional pixel size.
@@ -185,8 +194,9 @@ void paintCaption(QPainter& painter, const BarcodeLayout& layout, const BarcodeS
         const double scale = MeasuringSize / size;
         const QRectF needed =
             metrics.boundingRect(QRectF(QPointF(), box.size() * scale), Qt::TextWordWrap, text);
-        if (needed.width() <= box.width() * scale && needed.height() <= box.height() * scale)
+        if (needed.width() <= box.width() * scale && needed.height() <= box.height() * scale) {
             break;
+        }
     }
     return size;
 }
@@ -211,8 +221,9 @@ void paintError(QPainter& painter, const QRectF& box, const QString& error,
 BarcodeLayout layOut(const BarcodeSymbol& symbol, const QRectF& box, const BarcodeStyle& style)
 {
     BarcodeLayout layout;
-    if (!isUsable(box) || symbol.size.isEmpty())
+    if (!isUsable(box) || symbol.size.isEmpty()) {
         return layout;
+    }
     QRectF room = box;
     if (!symbol.caption.isEmpty()) {
         layOutCaption(layout, symbol.caption, box, style);
@@ -232,14 +243,16 @@ BarcodeLayout layOut(const BarcodeSymbol& symbol, const QRectF& box, const Barco
 void paintBarcode(QPainter& painter, const QRectF& box, const BarcodeSymbol& symbol,
                   const BarcodeStyle& style)
 {
-    if (!isUsable(box))
+    if (!isUsable(box)) {
         return;
+    }
     painter.save();
     if (!symbol.isValid()) {
         paintError(painter, box, symbol.error, style);
     } else if (BarcodeLayout layout = layOut(symbol, box, style); layout.moduleWidth > 0.0) {
-        if (!symbol.caption.isEmpty())
+        if (!symbol.caption.isEmpty()) {
             paintCaption(painter, layout, symbol, style);
+        }
         const bool snapped = snapToPixels(layout, symbol, painter);
         paintSymbol(painter, layout, symbol, style, snapped);
     }

@@ -1,7 +1,7 @@
 #include "workbench/canvas/canvas.h"
 
 #include "host/items/item.h"
-#include "workbench/items/bounds.h"
+#include "workbench/items/item_limits.h"
 
 #include <QGraphicsItem>
 
@@ -12,11 +12,11 @@ namespace workbench {
 namespace {
 
 // A page without a size would be neither visible nor printable.
-constexpr double kSmallestPageSide = 1.0;
+constexpr double SmallestPageSide = 1.0;
 
 QSizeF boundedPage(const QSizeF& size)
 {
-    return boundedSize(size).expandedTo({kSmallestPageSide, kSmallestPageSide});
+    return boundedSize(size).expandedTo({SmallestPageSide, SmallestPageSide});
 }
 
 } // namespace

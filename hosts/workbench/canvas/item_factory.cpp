@@ -30,7 +30,7 @@ struct Row
     Maker maker;
 };
 
-constexpr std::array kRows{
+constexpr std::array Rows{
     Row{KestTypes::Picture, make<PixMapItem>},
     Row{KestTypes::Symbol, make<SymbolItem>},
     Row{KestTypes::SimpleText, make<SimpleTextItem>},
@@ -51,7 +51,7 @@ constexpr std::array kRows{
 
 std::unique_ptr<Item> makeItem(KestTypes::ShapeType type)
 {
-    for (const Row& row : kRows) {
+    for (const Row& row : Rows) {
         if (row.type == type) {
             return row.maker(type);
         }

@@ -8,8 +8,9 @@ namespace {
 {
     QStringList kept;
     for (const QString& field : wanted) {
-        if (all.contains(field) && !kept.contains(field))
+        if (all.contains(field) && !kept.contains(field)) {
             kept << field;
+        }
     }
     return kept;
 }
@@ -19,16 +20,20 @@ namespace {
 std::optional<QString> Datasource::value(qint64 record, const QStringList& wantedFields) const
 {
     const qint64 count = recordCount();
-    if (record < 0 || count <= 0)
+    if (record < 0 || count <= 0) {
         return std::nullopt;
+    }
     QStringList shown = known(wantedFields, fields());
-    if (shown.isEmpty())
+    if (shown.isEmpty()) {
         shown = m_selectedFields.isEmpty() ? fields() : m_selectedFields;
+    }
     QStringList texts;
-    for (const QString& field : shown)
+    for (const QString& field : shown) {
         texts << fieldValue(record % count, field);
-    if (texts.size() > 1)
+    }
+    if (texts.size() > 1) {
         texts.removeAll(QString());
+    }
     return texts.join(u' ');
 }
 

@@ -18,22 +18,28 @@ DatasourceController::~DatasourceController() = default;
 
 std::unique_ptr<Datasource> DatasourceController::make(const QString& kind) const
 {
-    if (kind == SequenceSource::Kind)
+    if (kind == SequenceSource::Kind) {
         return std::make_unique<SequenceSource>();
-    if (kind == SystemSource::Kind)
+    }
+    if (kind == SystemSource::Kind) {
         return std::make_unique<SystemSource>(m_clock, m_locale);
-    if (kind == TextListSource::Kind)
+    }
+    if (kind == TextListSource::Kind) {
         return std::make_unique<TextListSource>();
+    }
     return nullptr;
 }
 
 std::unique_ptr<Datasource> DatasourceController::restored(const SourceValues& values) const
 {
     std::unique_ptr<Datasource> source = make(values.kind);
-    if (!source)
+    if (!source) {
         return nullptr;
-    for (auto property = values.properties.begin(); property != values.properties.end(); ++property)
+    }
+    for (auto property = values.properties.begin(); property != values.properties.end();
+         ++property) {
         source->setDatasourceProperty(property.key(), property.value());
+    }
     source->setSelectedFields(values.selectedFields);
     return source;
 }
@@ -41,8 +47,9 @@ std::unique_ptr<Datasource> DatasourceController::restored(const SourceValues& v
 int DatasourceController::createDatasource(const QString& kind)
 {
     std::unique_ptr<Datasource> source = make(kind);
-    if (!source || m_lastId == std::numeric_limits<int>::max())
+    if (!source || m_lastId == std::numeric_limits<int>::max()) {
         return NoSource;
+    }
     ++m_lastId;
     m_sources[m_lastId] = std::move(source);
     return m_lastId;
@@ -63,8 +70,9 @@ const Datasource* DatasourceController::source(int id) const
 QList<int> DatasourceController::ids() const
 {
     QList<int> ids;
-    for (const auto& [id, source] : m_sources)
+    for (const auto& [id, source] : m_sources) {
         ids << id;
+    }
     return ids;
 }
 
@@ -78,16 +86,18 @@ std::optional<QString> DatasourceController::recordText(int id, qint64 record,
 qint64 DatasourceController::recordCount() const
 {
     qint64 count = 1;
-    for (const auto& [id, source] : m_sources)
+    for (const auto& [id, source] : m_sources) {
         count = std::max(count, source->recordCount());
+    }
     return count;
 }
 
 QList<SourceValues> DatasourceController::values() const
 {
     QList<SourceValues> all;
-    for (const auto& [id, source] : m_sources)
+    for (const auto& [id, source] : m_sources) {
         all << SourceValues{id, source->kind(), source->properties(), source->selectedFields()};
+    }
     return all;
 }
 
@@ -96,13 +106,15 @@ bool DatasourceController::setValues(const QList<SourceValues>& values)
     Sources sources;
     for (const SourceValues& each : values) {
         std::unique_ptr<Datasource> source = restored(each);
-        if (each.id < 1 || !source || sources.contains(each.id))
+        if (each.id < 1 || !source || sources.contains(each.id)) {
             return false;
+        }
         sources[each.id] = std::move(source);
     }
     m_sources = std::move(sources);
-    if (!m_sources.empty())
+    if (!m_sources.empty()) {
         m_lastId = std::max(m_lastId, m_sources.rbegin()->first);
+    }
     return true;
 }
 

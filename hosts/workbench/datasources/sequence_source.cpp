@@ -5,16 +5,18 @@
 #include <cstdlib>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench::datasources {
 
 namespace {
 
-const QString PrefixName = QStringLiteral("Prefix");
-const QString SuffixName = QStringLiteral("Suffix");
-const QString StartName = QStringLiteral("Start");
-const QString EndName = QStringLiteral("End");
-const QString StepName = QStringLiteral("Step");
-const QString ZeroPadName = QStringLiteral("ZeroPad");
+const QString PrefixName = u"Prefix"_s;
+const QString SuffixName = u"Suffix"_s;
+const QString StartName = u"Start"_s;
+const QString EndName = u"End"_s;
+const QString StepName = u"Step"_s;
+const QString ZeroPadName = u"ZeroPad"_s;
 
 } // namespace
 
@@ -29,26 +31,30 @@ int* SequenceSource::number(const QString& name)
 
 void SequenceSource::setDatasourceProperty(const QString& name, const QVariant& value)
 {
-    if (name == PrefixName)
+    if (name == PrefixName) {
         m_prefix = value.toString();
-    if (name == SuffixName)
+    }
+    if (name == SuffixName) {
         m_suffix = value.toString();
+    }
     bool ok = false;
     const int given = value.toInt(&ok);
-    if (int* property = number(name); property && ok)
+    if (int* property = number(name); property && ok) {
         *property = given;
+    }
 }
 
 QList<QString> SequenceSource::fields() const
 {
-    return {QStringLiteral("Number")};
+    return {u"Number"_s};
 }
 
 qint64 SequenceSource::recordCount() const
 {
     const qint64 step = std::abs(qint64{m_step});
-    if (step == 0)
+    if (step == 0) {
         return 1;
+    }
     return std::abs(qint64{m_end} - m_start) / step + 1;
 }
 
@@ -64,7 +70,7 @@ QString SequenceSource::fieldValue(qint64 record, const QString&) const
     const qint64 number = m_start + record * step;
     const QString digits = QString::number(std::abs(number))
                                .rightJustified(std::clamp(m_zeroPad, 0, MaximumZeroPad), u'0');
-    return m_prefix + (number < 0 ? QStringLiteral("-") : QString()) + digits + m_suffix;
+    return m_prefix + (number < 0 ? u"-"_s : QString()) + digits + m_suffix;
 }
 
 } // namespace workbench::datasources

@@ -2,14 +2,16 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench::datasources {
 
 namespace {
 
-const QString DateFormatName = QStringLiteral("DateFormat");
-const QString TimeFormatName = QStringLiteral("TimeFormat");
-const QString DateField = QStringLiteral("Date");
-const QString TimeField = QStringLiteral("Time");
+const QString DateFormatName = u"DateFormat"_s;
+const QString TimeFormatName = u"TimeFormat"_s;
+const QString DateField = u"Date"_s;
+const QString TimeField = u"Time"_s;
 
 } // namespace
 
@@ -20,10 +22,12 @@ SystemSource::SystemSource(Clock clock, QLocale locale)
 
 void SystemSource::setDatasourceProperty(const QString& name, const QVariant& value)
 {
-    if (name == DateFormatName)
+    if (name == DateFormatName) {
         m_dateFormat = value.toString();
-    if (name == TimeFormatName)
+    }
+    if (name == TimeFormatName) {
         m_timeFormat = value.toString();
+    }
 }
 
 QList<QString> SystemSource::fields() const
@@ -39,8 +43,9 @@ QVariantMap SystemSource::properties() const
 QString SystemSource::fieldValue(qint64, const QString& field) const
 {
     const QString& format = field == DateField ? m_dateFormat : m_timeFormat;
-    if (format.isEmpty() || format.size() > MaximumFormat)
+    if (format.isEmpty() || format.size() > MaximumFormat) {
         return {};
+    }
     return m_locale.toString(m_clock(), format);
 }
 

@@ -1,22 +1,25 @@
 #include "workbench/datasources/text_list_source.h"
 
+using namespace Qt::StringLiterals;
+
 namespace workbench::datasources {
 
 namespace {
 
-const QString TextListName = QStringLiteral("TextList");
+const QString TextListName = u"TextList"_s;
 
 } // namespace
 
 void TextListSource::setDatasourceProperty(const QString& name, const QVariant& value)
 {
-    if (name == TextListName)
+    if (name == TextListName) {
         m_texts = value.toStringList();
+    }
 }
 
 QList<QString> TextListSource::fields() const
 {
-    return {QStringLiteral("Text")};
+    return {u"Text"_s};
 }
 
 QVariantMap TextListSource::properties() const

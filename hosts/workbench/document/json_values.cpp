@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+using namespace Qt::StringLiterals;
+
 namespace fields {
 
 namespace {
@@ -27,10 +29,12 @@ constexpr qsizetype LongColor = 16;
 
 [[nodiscard]] QJsonValue writeProperty(const QVariant& property)
 {
-    if (property.typeId() == QMetaType::QStringList)
+    if (property.typeId() == QMetaType::QStringList) {
         return Json<QStringList>::write(property.toStringList());
-    if (property.typeId() == QMetaType::Int)
+    }
+    if (property.typeId() == QMetaType::Int) {
         return Json<int>::write(property.toInt());
+    }
     return Json<QString>::write(property.toString());
 }
 
@@ -43,10 +47,12 @@ template <class T>
 
 [[nodiscard]] QVariant readProperty(const QJsonValue& json)
 {
-    if (json.isArray())
+    if (json.isArray()) {
         return readPropertyAs<QStringList>(json);
-    if (json.isDouble())
+    }
+    if (json.isDouble()) {
         return readPropertyAs<int>(json);
+    }
     return readPropertyAs<QString>(json);
 }
 
@@ -54,15 +60,18 @@ template <class T>
 
 QJsonValue Json<QColor>::write(const QColor& value)
 {
-    if (!value.isValid())
+    if (!value.isValid()) {
         return {};
+    }
     const QColor rgb = value.toRgb();
-    if (QColor::fromRgba(rgb.rgba()) == rgb)
+    if (QColor::fromRgba(rgb.rgba()) == rgb) {
         return rgb.name(QColor::HexArgb);
+    }
     const QRgba64 wide = rgb.rgba64();
-    QString text = QStringLiteral("#");
-    for (const quint16 channel : {wide.alpha(), wide.red(), wide.green(), wide.blue()})
-        text += QStringLiteral("%1").arg(channel, 4, 16, QLatin1Char('0'));
+    QString text = u"#"_s;
+    for (const quint16 channel : {wide.alpha(), wide.red(), wide.green(), wide.blue()}) {
+        text += u"%1"_s.arg(channel, 4, 16, QLatin1Char('0'));
+    }
     return text;
 }
 
@@ -77,8 +86,9 @@ bool Json<QColor>::read(const QJsonValue& json, QColor& value)
         return true;
     }
     const bool sized = digits.size() == ShortColor || digits.size() == LongColor;
-    if (!ok || !sized || !text.startsWith(u'#') || digits.startsWith(u'+'))
+    if (!ok || !sized || !text.startsWith(u'#') || digits.startsWith(u'+')) {
         return false;
+    }
     if (digits.size() == ShortColor) {
         value = QColor::fromRgba(static_cast<QRgb>(number));
         return true;
@@ -116,8 +126,9 @@ QJsonValue Json<Qt::Alignment>::write(Qt::Alignment value)
 bool Json<Qt::Alignment>::read(const QJsonValue& json, Qt::Alignment& value)
 {
     int flags = 0;
-    if (!Json<int>::read(json, flags))
+    if (!Json<int>::read(json, flags)) {
         return false;
+    }
     value = Qt::Alignment(flags);
     return true;
 }
@@ -138,21 +149,24 @@ bool Json<KestTypes::ShapeType>::read(const QJsonValue& json, KestTypes::ShapeTy
 QJsonValue Json<QVariantMap>::write(const QVariantMap& value)
 {
     QJsonObject object;
-    for (auto property = value.begin(); property != value.end(); ++property)
+    for (auto property = value.begin(); property != value.end(); ++property) {
         object.insert(property.key(), writeProperty(property.value()));
+    }
     return object;
 }
 
 bool Json<QVariantMap>::read(const QJsonValue& json, QVariantMap& value)
 {
-    if (!json.isObject())
+    if (!json.isObject()) {
         return false;
+    }
     QVariantMap properties;
     const QJsonObject object = json.toObject();
     for (auto each = object.begin(); each != object.end(); ++each) {
         const QVariant property = readProperty(each.value());
-        if (!property.isValid())
+        if (!property.isValid()) {
             return false;
+        }
         properties.insert(each.key(), property);
     }
     value = properties;

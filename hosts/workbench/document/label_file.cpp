@@ -57,8 +57,9 @@ void renumberZ(QList<ItemValues>& items)
 SavedLabel snapshot(const Canvas& canvas, const datasources::DatasourceController& datasources)
 {
     SavedLabel label{canvas.page(), datasources.values(), {}};
-    for (const CanvasItem* item : canvas.items())
+    for (const CanvasItem* item : canvas.items()) {
         label.items << item->values();
+    }
     renumberZ(label.items);
     return label;
 }
@@ -66,12 +67,14 @@ SavedLabel snapshot(const Canvas& canvas, const datasources::DatasourceControlle
 bool restore(const SavedLabel& label, Canvas& canvas,
              datasources::DatasourceController& datasources)
 {
-    if (!datasources.setValues(label.datasources))
+    if (!datasources.setValues(label.datasources)) {
         return false;
+    }
     canvas.clear();
     canvas.setPage(label.page);
-    for (const ItemValues& item : label.items)
+    for (const ItemValues& item : label.items) {
         canvas.addItem(item);
+    }
     canvas.showRecord(0, [&](int id, qint64 record, const QStringList& fields) {
         return datasources.recordText(id, record, fields);
     });
@@ -84,14 +87,17 @@ QString saveLabel(const QString& path, const Canvas& canvas,
                   const Heartbeat& heartbeat)
 {
     const SavedLabel label = snapshot(canvas, datasources);
-    if (label.items.size() > limits::Items || label.datasources.size() > limits::Items)
+    if (label.items.size() > limits::Items || label.datasources.size() > limits::Items) {
         return cannotSave(path, Words::tr("it has more than %1 items").arg(limits::Items));
-    if (pixelsOf(label) > limits::AllPicturePixels)
+    }
+    if (pixelsOf(label) > limits::AllPicturePixels) {
         return cannotSave(path, Words::tr("its pictures are too large"));
+    }
     const QByteArray bytes = toJson(label, origin, heartbeat);
     heartbeat();
-    if (bytes.size() > limits::FileBytes)
+    if (bytes.size() > limits::FileBytes) {
         return cannotSave(path, Words::tr("its pictures are too large"));
+    }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
         return cannotSave(path, file.errorString());
@@ -113,25 +119,32 @@ QString openLabel(const QString& path, Canvas& canvas,
                   datasources::DatasourceController& datasources)
 {
     const QFileInfo info(path);
-    if (info.isDir())
+    if (info.isDir()) {
         return cannotOpen(path, Words::tr("it is a folder"));
+    }
     // Opening a pipe could wait for ever.
-    if (info.exists() && !info.isFile())
+    if (info.exists() && !info.isFile()) {
         return cannotOpen(path, Words::tr("it is not a regular file"));
+    }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return cannotOpen(path, file.errorString());
+    }
     // Asked first: to read up to a bound takes the memory of the bound, however small the file.
-    if (file.size() > limits::FileBytes)
+    if (file.size() > limits::FileBytes) {
         return cannotOpen(path, Words::tr("it is larger than any label"));
+    }
     const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
+    if (file.error() != QFileDevice::NoError) {
         return cannotOpen(path, file.errorString());
+    }
     const ReadLabel read = fromJson(bytes);
-    if (!read.error.isEmpty())
+    if (!read.error.isEmpty()) {
         return read.error;
-    if (!restore(read.label, canvas, datasources))
+    }
+    if (!restore(read.label, canvas, datasources)) {
         return Words::tr("The label file is damaged: its data sources do not fit together.");
+    }
     return {};
 }
 

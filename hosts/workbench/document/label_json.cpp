@@ -41,24 +41,29 @@ constexpr QLatin1String FormatName("labelport-label");
 /// What is wrong with the outermost object; empty when the label in it can be read.
 [[nodiscard]] QString envelopeError(const QJsonObject& file)
 {
-    if (file.value(FormatKey) != QJsonValue(FormatName))
+    if (file.value(FormatKey) != QJsonValue(FormatName)) {
         return Words::tr("The file is not a saved label.");
+    }
     int version = 0;
-    if (!fields::Json<int>::read(file.value(VersionKey), version) || version < 1)
+    if (!fields::Json<int>::read(file.value(VersionKey), version) || version < 1) {
         return Words::tr("The label file is damaged: version is not a positive whole number.");
-    if (version > FormatVersion)
+    }
+    if (version > FormatVersion) {
         return Words::tr("The label was saved by a newer version of the program: its format"
                          " is %1, and this version knows formats up to %2. Update the"
                          " program to open it.")
             .arg(version)
             .arg(FormatVersion);
-    if (!file.value(LabelKey).isObject())
+    }
+    if (!file.value(LabelKey).isObject()) {
         return Words::tr("The label file is damaged: label is missing.");
+    }
     // A file that a person or another program has written needs no checksum.
     if (file.contains(ChecksumKey) &&
-        file.value(ChecksumKey) != QJsonValue(checksumOf(file.value(LabelKey).toObject())))
+        file.value(ChecksumKey) != QJsonValue(checksumOf(file.value(LabelKey).toObject()))) {
         return Words::tr("The label file is damaged: its content has changed since it was"
                          " saved.");
+    }
     return {};
 }
 
@@ -93,26 +98,31 @@ bool isUneditedImport(const QByteArray& bytes)
 
 ReadLabel fromJson(const QByteArray& bytes)
 {
-    if (jsonlimits::isLargerThan(bytes, limits::TreeBytes))
+    if (jsonlimits::isLargerThan(bytes, limits::TreeBytes)) {
         return refusal(Words::tr("The label file is damaged: it holds more than any label."));
+    }
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);
-    if (parsing.error != QJsonParseError::NoError)
+    if (parsing.error != QJsonParseError::NoError) {
         return refusal(Words::tr("The file is not a saved label, or it is damaged: after %1"
                                  " bytes it cannot be read any further.")
                            .arg(parsing.offset));
+    }
     const QJsonObject file = document.object();
     const QString error = envelopeError(file);
-    if (!error.isEmpty())
+    if (!error.isEmpty()) {
         return refusal(error);
+    }
     const QJsonObject content = file.value(LabelKey).toObject();
-    if (claimedPixels(content) > limits::AllPicturePixels)
+    if (claimedPixels(content) > limits::AllPicturePixels) {
         return refusal(Words::tr("The label file is damaged: its pictures are too large."));
+    }
     ReadLabel result;
     fields::FieldReader reader(content, limits::Items);
     describe(reader, result.label);
-    if (!reader.error().isEmpty())
+    if (!reader.error().isEmpty()) {
         return refusal(Words::tr("The label file is damaged: %1.").arg(reader.error()));
+    }
     return result;
 }
 

@@ -80,14 +80,17 @@ constexpr std::array<PixelKind, 3> PixelKinds{{
 
 QJsonValue Json<QImage>::write(const QImage& value)
 {
-    if (value.isNull())
+    if (value.isNull()) {
         return {};
+    }
     QImage image = value;
-    if (!kindOf(image.format()))
+    if (!kindOf(image.format())) {
         image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    }
     const PixelKind& kind = *kindOf(image.format());
-    if (!image.reinterpretAsFormat(kind.written))
+    if (!image.reinterpretAsFormat(kind.written)) {
         return {};
+    }
     return QJsonObject{{PngKey, Json<QByteArray>::write(toPng(image))},
                        {PixelsKey, kind.name.toString()}};
 }
@@ -101,14 +104,17 @@ bool Json<QImage>::read(const QJsonValue& json, QImage& value)
     const QJsonObject object = json.toObject();
     const PixelKind* kind = kindOf(object.value(PixelsKey).toString());
     QByteArray png;
-    if (!kind || !Json<QByteArray>::read(object.value(PngKey), png))
+    if (!kind || !Json<QByteArray>::read(object.value(PngKey), png)) {
         return false;
+    }
     QImage image = fromPng(png);
-    if (image.isNull())
+    if (image.isNull()) {
         return false;
+    }
     image.convertTo(kind->written);
-    if (!image.reinterpretAsFormat(kind->format))
+    if (!image.reinterpretAsFormat(kind->format)) {
         return false;
+    }
     value = image;
     return true;
 }

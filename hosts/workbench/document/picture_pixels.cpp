@@ -30,8 +30,9 @@ qint64 claimedPixels(const QJsonObject& label)
 {
     qint64 pixels = 0;
     const QJsonArray items = label[QLatin1String("items")].toArray();
-    for (qsizetype i = 0; i < items.size() && pixels <= limits::AllPicturePixels; ++i)
+    for (qsizetype i = 0; i < items.size() && pixels <= limits::AllPicturePixels; ++i) {
         pixels += claimedPixelsOf(items[i]);
+    }
     return pixels;
 }
 
@@ -39,8 +40,9 @@ qint64 pixelsOf(const SavedLabel& label)
 {
     qint64 pixels = 0;
     for (const ItemValues& item : label.items) {
-        if (item.picture)
+        if (item.picture) {
             pixels += qint64{item.picture->image.width()} * item.picture->image.height();
+        }
     }
     return pixels;
 }

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench {
 
 namespace {
@@ -67,7 +69,7 @@ bool isPasswordProtected(const QString& fileName)
     if (package.open(fileName)) {
         return false;
     }
-    const auto manifest = package.read(QStringLiteral("META-INF/manifest.xml"), LargestManifest);
+    const auto manifest = package.read(u"META-INF/manifest.xml"_s, LargestManifest);
     return manifest && manifest->contains("encryption-data");
 }
 

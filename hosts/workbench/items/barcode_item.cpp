@@ -10,11 +10,11 @@ namespace workbench {
 namespace {
 
 // Caption size of labels that specify none, in points.
-constexpr int kCaptionSize = 8;
+constexpr int CaptionSize = 8;
 
 int captionSize(const FontValues& font)
 {
-    return font.sized ? font.pointSize : kCaptionSize;
+    return font.sized ? font.pointSize : CaptionSize;
 }
 
 // The background color: the barcode's own, or else that of the label's material,

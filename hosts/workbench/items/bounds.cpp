@@ -1,4 +1,4 @@
-#include "workbench/items/bounds.h"
+#include "workbench/items/item_limits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,17 +9,17 @@ namespace {
 
 double boundedCoordinate(double value)
 {
-    if (!std::isfinite(value) || value <= kCoordinateNotGiven) {
+    if (!std::isfinite(value) || value <= CoordinateNotGiven) {
         return 0.0;
     }
-    return std::clamp(value, -kMaximumCoordinate, kMaximumCoordinate);
+    return std::clamp(value, -MaximumCoordinate, MaximumCoordinate);
 }
 
 } // namespace
 
 double boundedLength(double length)
 {
-    return std::isnan(length) ? 0.0 : std::clamp(length, -kMaximumLength, kMaximumLength);
+    return std::isnan(length) ? 0.0 : std::clamp(length, -MaximumLength, MaximumLength);
 }
 
 QSizeF boundedSize(const QSizeF& size)

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "host/items/item.h"
-#include "workbench/items/bounds.h"
 #include "workbench/items/canvas_item.h"
 #include "workbench/items/frame_painting.h"
+#include "workbench/items/item_limits.h"
 
 #include <QGraphicsItem>
 #include <QPainter>

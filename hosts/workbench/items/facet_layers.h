@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/items/bounds.h"
+#include "workbench/items/item_limits.h"
 #include "workbench/items/item_values.h"
 
 #include <QStringList>
@@ -46,7 +46,7 @@ protected:
     {
         Base::restore(values);
         PenValues pen = values.pen.value_or(PenValues());
-        pen.width = std::clamp(boundedLength(pen.width), 0.0, kMaximumPenWidth);
+        pen.width = std::clamp(boundedLength(pen.width), 0.0, MaximumPenWidth);
         change(m_pen, pen);
     }
 
@@ -126,7 +126,7 @@ public:
     {
         m_font.sized = true;
         if (size > 0) {
-            m_font.pointSize = std::min(size, kMaximumFontSize);
+            m_font.pointSize = std::min(size, MaximumFontSize);
         }
         this->appearanceChanged();
     }
@@ -162,7 +162,7 @@ protected:
     {
         Base::restore(values);
         m_font = values.font.value_or(FontValues());
-        m_font.pointSize = std::clamp(m_font.pointSize, 1, kMaximumFontSize);
+        m_font.pointSize = std::clamp(m_font.pointSize, 1, MaximumFontSize);
         this->appearanceChanged();
     }
 

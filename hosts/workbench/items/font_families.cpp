@@ -8,6 +8,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench {
 
 namespace {
@@ -18,7 +20,7 @@ struct StandIn
     QLatin1String standIn;
 };
 
-constexpr std::array kStandIns{
+constexpr std::array StandIns{
     StandIn{QLatin1String("Arial"), QLatin1String("Liberation Sans")},
     StandIn{QLatin1String("Helvetica"), QLatin1String("Liberation Sans")},
     StandIn{QLatin1String("Times New Roman"), QLatin1String("Liberation Serif")},
@@ -32,7 +34,7 @@ constexpr std::array kStandIns{
 QString fallbackFamily()
 {
     static const QString family = [] {
-        const QString preferred = QStringLiteral("Liberation Sans");
+        const QString preferred = u"Liberation Sans"_s;
         return QFontDatabase::hasFamily(preferred)
                    ? preferred
                    : QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
@@ -42,7 +44,7 @@ QString fallbackFamily()
 
 QString standInFamily(const QString& family)
 {
-    for (const StandIn& row : kStandIns) {
+    for (const StandIn& row : StandIns) {
         if (row.family == family) {
             return row.standIn;
         }
@@ -60,7 +62,7 @@ QStringList familiesFor(const QString& family)
 void installStandIns()
 {
     static const bool installed = [] {
-        for (const StandIn& row : kStandIns) {
+        for (const StandIn& row : StandIns) {
             QFont::insertSubstitution(row.family, row.standIn);
         }
         QFont::insertSubstitution(FallbackFontFamily, fallbackFamily());

@@ -11,16 +11,16 @@ namespace workbench {
 
 namespace {
 
-constexpr double kSpacing = 6.0;          // distance of two lines in points
-constexpr double kLineWidth = 0.75;       // points
-constexpr double kMaximumLines = 2'000.0; // lines in one direction
+constexpr double Spacing = 6.0;          // distance of two lines in points
+constexpr double LineWidth = 0.75;       // points
+constexpr double MaximumLines = 2'000.0; // lines in one direction
 
 // The lines for positions `from` to `to` on a grid that starts at 0.
 template <class MakeLine>
 void addRaster(QList<QLineF>& lines, double from, double to, double spacing,
                const MakeLine& makeLine)
 {
-    const double step = std::max(spacing, (to - from) / kMaximumLines);
+    const double step = std::max(spacing, (to - from) / MaximumLines);
     for (double position = std::ceil(from / step) * step; position <= to; position += step) {
         lines.append(makeLine(position));
     }
@@ -28,13 +28,13 @@ void addRaster(QList<QLineF>& lines, double from, double to, double spacing,
 
 void addHorizontal(QList<QLineF>& lines, const QRectF& area)
 {
-    addRaster(lines, area.top(), area.bottom(), kSpacing,
+    addRaster(lines, area.top(), area.bottom(), Spacing,
               [&area](double y) { return QLineF(area.left(), y, area.right(), y); });
 }
 
 void addVertical(QList<QLineF>& lines, const QRectF& area)
 {
-    addRaster(lines, area.left(), area.right(), kSpacing,
+    addRaster(lines, area.left(), area.right(), Spacing,
               [&area](double x) { return QLineF(x, area.top(), x, area.bottom()); });
 }
 
@@ -42,7 +42,7 @@ void addVertical(QList<QLineF>& lines, const QRectF& area)
 void addRising(QList<QLineF>& lines, const QRectF& area)
 {
     addRaster(lines, area.left() + area.top(), area.right() + area.bottom(),
-              kSpacing * std::sqrt(2.0), [&area](double sum) {
+              Spacing * std::sqrt(2.0), [&area](double sum) {
                   return QLineF(sum - area.bottom(), area.bottom(), sum - area.top(), area.top());
               });
 }
@@ -51,7 +51,7 @@ void addRising(QList<QLineF>& lines, const QRectF& area)
 void addFalling(QList<QLineF>& lines, const QRectF& area)
 {
     addRaster(lines, area.left() - area.bottom(), area.right() - area.top(),
-              kSpacing * std::sqrt(2.0), [&area](double difference) {
+              Spacing * std::sqrt(2.0), [&area](double difference) {
                   return QLineF(difference + area.top(), area.top(), difference + area.bottom(),
                                 area.bottom());
               });
@@ -92,7 +92,7 @@ void paintHatch(QPainter& painter, const QPainterPath& path, const QRectF& box, 
     const QRectF area = painter.hasClipping() ? box.intersected(painter.clipBoundingRect()) : box;
     painter.save();
     painter.setClipPath(path, Qt::IntersectClip);
-    painter.setPen(QPen(color, kLineWidth));
+    painter.setPen(QPen(color, LineWidth));
     painter.drawLines(hatchLines(area, style));
     painter.restore();
 }

@@ -1,7 +1,7 @@
 #include "workbench/items/label_document.h"
 
-#include "workbench/items/bounds.h"
 #include "workbench/items/font_families.h"
+#include "workbench/items/item_limits.h"
 
 #include <QImage>
 #include <QTextBlock>
@@ -15,7 +15,7 @@ namespace {
 
 bool isBounded(double size)
 {
-    return size <= kMaximumFontSize;
+    return size <= MaximumFontSize;
 }
 
 struct Stretch
@@ -30,7 +30,7 @@ void boundStretch(QTextDocument& document, const Stretch& stretch)
     cursor.setPosition(stretch.begin);
     cursor.setPosition(stretch.end, QTextCursor::KeepAnchor);
     QTextCharFormat format;
-    format.setFontPointSize(kMaximumFontSize);
+    format.setFontPointSize(MaximumFontSize);
     cursor.mergeCharFormat(format);
 }
 

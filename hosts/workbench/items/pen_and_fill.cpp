@@ -15,10 +15,10 @@ namespace workbench {
 namespace {
 
 // The ink coverage of Qt::Dense1Pattern to Qt::Dense7Pattern.
-constexpr std::array<double, 7> kInkOfDensePattern{0.94, 0.88, 0.63, 0.50, 0.37, 0.12, 0.06};
+constexpr std::array<double, 7> InkOfDensePattern{0.94, 0.88, 0.63, 0.50, 0.37, 0.12, 0.06};
 
 // Large enough for sharp corners of the polygons.
-constexpr double kMiterLimit = 4.0;
+constexpr double MiterLimit = 4.0;
 
 Qt::PenStyle knownPenStyle(int style)
 {
@@ -85,7 +85,7 @@ QBrush plainBrush(const QRectF& box, const FillValues& values)
     }
     if (isTone(values.style)) {
         const auto index = static_cast<std::size_t>(values.style - Qt::Dense1Pattern);
-        return withInk(values.color, kInkOfDensePattern.at(index));
+        return withInk(values.color, InkOfDensePattern.at(index));
     }
     return values.color;
 }
@@ -96,7 +96,7 @@ QPen toPen(const PenValues& values)
 {
     QPen pen(values.color, values.width, knownPenStyle(values.style), knownCap(values.cap),
              knownJoin(values.join));
-    pen.setMiterLimit(kMiterLimit);
+    pen.setMiterLimit(MiterLimit);
     pen.setCosmetic(values.width == 0);
     return pen;
 }

@@ -15,20 +15,20 @@ struct Corner
 };
 
 // The part of an octagon's side that is cut off at each corner.
-constexpr double kCut = 0.29289321881345254;
+constexpr double Cut = 0.29289321881345254;
 
-constexpr std::array kRightTriangle{Corner{0, 0}, Corner{1, 1}, Corner{0, 1}};
-constexpr std::array kTriangle{Corner{0.5, 0}, Corner{1, 1}, Corner{0, 1}};
-constexpr std::array kDiamond{Corner{0.5, 0}, Corner{1, 0.5}, Corner{0.5, 1}, Corner{0, 0.5}};
-constexpr std::array kPentagon{Corner{0.5, 0}, Corner{1, 0.38196601125010515},
-                               Corner{0.8090169943749475, 1}, Corner{0.19098300562505255, 1},
-                               Corner{0, 0.38196601125010515}};
+constexpr std::array RightTriangleCorners{Corner{0, 0}, Corner{1, 1}, Corner{0, 1}};
+constexpr std::array TriangleCorners{Corner{0.5, 0}, Corner{1, 1}, Corner{0, 1}};
+constexpr std::array DiamondCorners{Corner{0.5, 0}, Corner{1, 0.5}, Corner{0.5, 1}, Corner{0, 0.5}};
+constexpr std::array PentagonCorners{Corner{0.5, 0}, Corner{1, 0.38196601125010515},
+                                     Corner{0.8090169943749475, 1}, Corner{0.19098300562505255, 1},
+                                     Corner{0, 0.38196601125010515}};
 // Points to the left and right: importers rotate it if the format has it upright.
-constexpr std::array kHexagon{Corner{0.25, 0}, Corner{0.75, 0}, Corner{1, 0.5},
-                              Corner{0.75, 1}, Corner{0.25, 1}, Corner{0, 0.5}};
-constexpr std::array kOctagon{Corner{kCut, 0},     Corner{1 - kCut, 0}, Corner{1, kCut},
-                              Corner{1, 1 - kCut}, Corner{1 - kCut, 1}, Corner{kCut, 1},
-                              Corner{0, 1 - kCut}, Corner{0, kCut}};
+constexpr std::array HexagonCorners{Corner{0.25, 0}, Corner{0.75, 0}, Corner{1, 0.5},
+                                    Corner{0.75, 1}, Corner{0.25, 1}, Corner{0, 0.5}};
+constexpr std::array OctagonCorners{Corner{Cut, 0},     Corner{1 - Cut, 0}, Corner{1, Cut},
+                                    Corner{1, 1 - Cut}, Corner{1 - Cut, 1}, Corner{Cut, 1},
+                                    Corner{0, 1 - Cut}, Corner{0, Cut}};
 
 struct Kind
 {
@@ -36,13 +36,13 @@ struct Kind
     std::span<const Corner> corners;
 };
 
-constexpr std::array kKinds{
-    Kind{KestTypes::RightTriangle, kRightTriangle},
-    Kind{KestTypes::Triangle, kTriangle},
-    Kind{KestTypes::Diamond, kDiamond},
-    Kind{KestTypes::Pentagon, kPentagon},
-    Kind{KestTypes::Hexagon, kHexagon},
-    Kind{KestTypes::Octagon, kOctagon},
+constexpr std::array Polygons{
+    Kind{KestTypes::RightTriangle, RightTriangleCorners},
+    Kind{KestTypes::Triangle, TriangleCorners},
+    Kind{KestTypes::Diamond, DiamondCorners},
+    Kind{KestTypes::Pentagon, PentagonCorners},
+    Kind{KestTypes::Hexagon, HexagonCorners},
+    Kind{KestTypes::Octagon, OctagonCorners},
 };
 
 } // namespace
@@ -50,7 +50,7 @@ constexpr std::array kKinds{
 QPolygonF polygonCorners(KestTypes::ShapeType type, const QRectF& box)
 {
     QPolygonF polygon;
-    for (const Kind& kind : kKinds) {
+    for (const Kind& kind : Polygons) {
         if (kind.type != type) {
             continue;
         }

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench {
 
 namespace {
@@ -16,17 +18,17 @@ namespace {
 // format. A placeholder font that no text uses replaces the item's.
 QString htmlOf(const QTextDocument& document)
 {
-    QFont nobody(QStringLiteral("-"));
+    QFont nobody(u"-"_s);
     nobody.setPixelSize(1);
     nobody.setWeight(QFont::Weight(1));
     const std::unique_ptr<QTextDocument> copy(document.clone());
     copy->setDefaultFont(nobody);
-    static const QRegularExpression bodyStyle(QStringLiteral("<body style=\"[^\"]*\""));
+    static const QRegularExpression bodyStyle(u"<body style=\"[^\"]*\""_s);
     // The page of a parsed document has its own border, of width 0.
     return copy->toHtml()
-        .replace(bodyStyle, QStringLiteral("<body"))
-        .replace(QStringLiteral("<table border=\"0\" style=\"-qt-table-type: root;"),
-                 QStringLiteral("<table style=\"-qt-table-type: root;"));
+        .replace(bodyStyle, u"<body"_s)
+        .replace(u"<table border=\"0\" style=\"-qt-table-type: root;"_s,
+                 u"<table style=\"-qt-table-type: root;"_s);
 }
 
 } // namespace

@@ -9,7 +9,7 @@ namespace workbench {
 namespace {
 
 // Default radius of a rounded rectangle, as a fraction of its shorter side.
-constexpr double kDefaultCorner = 1.0 / 6.0;
+constexpr double DefaultCorner = 1.0 / 6.0;
 
 double shorterSide(const QRectF& box)
 {
@@ -35,7 +35,7 @@ QPainterPath RoundedRectangleItem::outline(const QRectF& box) const
 {
     const double shorter = shorterSide(box);
     const double radius =
-        std::min(m_corner.radius.value_or(shorter * kDefaultCorner), shorter / 2.0);
+        std::min(m_corner.radius.value_or(shorter * DefaultCorner), shorter / 2.0);
     QPainterPath path;
     path.addRoundedRect(box, radius, radius);
     return path;

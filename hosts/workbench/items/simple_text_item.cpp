@@ -6,8 +6,8 @@ namespace workbench {
 
 namespace {
 
-constexpr signed char kFixesWidth = 1;
-constexpr signed char kFixesHeight = 2;
+constexpr signed char FixesWidth = 1;
+constexpr signed char FixesHeight = 2;
 
 } // namespace
 
@@ -20,12 +20,12 @@ SimpleTextItem::SimpleTextItem(KestTypes::ShapeType type)
 
 bool SimpleTextItem::fixesWidth() const
 {
-    return (m_label.limiting & kFixesWidth) != 0;
+    return (m_label.limiting & FixesWidth) != 0;
 }
 
 bool SimpleTextItem::fixesHeight() const
 {
-    return (m_label.limiting & kFixesHeight) != 0;
+    return (m_label.limiting & FixesHeight) != 0;
 }
 
 void SimpleTextItem::setItemSize(const QSizeF& size)

@@ -1,7 +1,7 @@
 #include "workbench/items/text_layout.h"
 
-#include "workbench/items/bounds.h"
 #include "workbench/items/font_families.h"
+#include "workbench/items/item_limits.h"
 
 #include <QPainter>
 #include <QTextLayout>
@@ -14,14 +14,14 @@ namespace workbench {
 namespace {
 
 // Longer text is unreadable on any label, but would take long to lay out.
-constexpr qsizetype kMaximumCharacters = 10'000;
-constexpr int kMaximumLines = 5'000;
+constexpr qsizetype MaximumCharacters = 10'000;
+constexpr int MaximumLines = 5'000;
 
 // The font size for the layout of a text that is scaled to its box.
-constexpr int kReferenceSize = 100;
+constexpr int ReferenceSize = 100;
 
 // Tolerance for rounding: a line measured to fit must not be broken.
-constexpr double kWidthTolerance = 0.01;
+constexpr double WidthTolerance = 0.01;
 
 QTextOption optionFor(const PlainText& text)
 {
@@ -34,7 +34,7 @@ QTextOption optionFor(const PlainText& text)
 
 void prepareLayout(QTextLayout& layout, const PlainText& text)
 {
-    QString lines = text.text.left(kMaximumCharacters);
+    QString lines = text.text.left(MaximumCharacters);
     lines.replace(QLatin1Char('\n'), QChar::LineSeparator);
     layout.setText(lines);
     layout.setFont(text.font);
@@ -48,7 +48,7 @@ QSizeF layOut(QTextLayout& layout, double width)
     double height = 0.0;
     double used = 0.0;
     layout.beginLayout();
-    for (int count = 0; count < kMaximumLines; ++count) {
+    for (int count = 0; count < MaximumLines; ++count) {
         QTextLine line = layout.createLine();
         if (!line.isValid()) {
             break;
@@ -76,7 +76,7 @@ QFont toFont(const FontValues& values, int size)
 {
     QFont font;
     font.setFamilies(familiesFor(values.family));
-    font.setPixelSize(std::clamp(size, 1, kMaximumFontSize));
+    font.setPixelSize(std::clamp(size, 1, MaximumFontSize));
     font.setBold(values.bold);
     font.setItalic(values.italic);
     font.setUnderline(values.underline);
@@ -93,7 +93,7 @@ QSizeF measureText(const PlainText& text, double width)
 {
     QTextLayout layout;
     prepareLayout(layout, text);
-    return layOut(layout, text.wraps ? width + kWidthTolerance : kMaximumLength);
+    return layOut(layout, text.wraps ? width + WidthTolerance : MaximumLength);
 }
 
 void paintText(QPainter& painter, const PlainText& text, const QRectF& box)
@@ -102,8 +102,8 @@ void paintText(QPainter& painter, const PlainText& text, const QRectF& box)
     prepareLayout(layout, text);
     // A line needs a width before it can be aligned: first measure the text, then align
     // it within the wider of text and box.
-    const QSizeF size = layOut(layout, text.wraps ? box.width() + kWidthTolerance : kMaximumLength);
-    const double width = std::max(size.width(), box.width()) + kWidthTolerance;
+    const QSizeF size = layOut(layout, text.wraps ? box.width() + WidthTolerance : MaximumLength);
+    const double width = std::max(size.width(), box.width()) + WidthTolerance;
     if (!text.wraps) {
         layOut(layout, width);
     }
@@ -122,7 +122,7 @@ void paintTextFilling(QPainter& painter, const PlainText& text, const QRectF& bo
 {
     PlainText reference = text;
     reference.wraps = false;
-    reference.font.setPixelSize(kReferenceSize);
+    reference.font.setPixelSize(ReferenceSize);
     const QSizeF size = measureText(reference, 0.0);
     if (size.width() <= 0.0 || size.height() <= 0.0) {
         return;

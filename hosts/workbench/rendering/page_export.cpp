@@ -20,6 +20,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench {
 
 namespace {
@@ -56,7 +58,7 @@ QByteArray millimeters(double points)
 QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
 {
     QString head = QString::fromUtf8(svg.left(HeadLength));
-    static const QRegularExpression size(QStringLiteral("<svg width=\"[^\"]*\" height=\"[^\"]*\""));
+    static const QRegularExpression size(u"<svg width=\"[^\"]*\" height=\"[^\"]*\""_s);
     const QByteArray exact = "<svg width=\"" + millimeters(page.width()) + "\" height=\"" +
                              millimeters(page.height()) + '"';
     const QRegularExpressionMatch match = size.match(head);
@@ -75,7 +77,7 @@ QByteArray svgOf(const Canvas& canvas, const QString& title)
     generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
     generator.setViewBox(canvas.pageRect());
     generator.setTitle(title.toHtmlEscaped()); // the generator does not escape the title
-    generator.setDescription(QStringLiteral("LabelPort"));
+    generator.setDescription(u"LabelPort"_s);
     QPainter painter(&generator);
     paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
     painter.end();
@@ -101,7 +103,7 @@ void setUp(QPdfWriter& writer, const Canvas& canvas, const QString& title)
     writer.setPageSize(pageSizeOf(canvas));
     writer.setPageOrientation(QPageLayout::Portrait);
     writer.setPageMargins(QMarginsF());
-    writer.setCreator(QStringLiteral("LabelPort"));
+    writer.setCreator(u"LabelPort"_s);
     writer.setTitle(title);
 }
 

@@ -16,8 +16,8 @@ namespace workbench {
 
 namespace {
 
-constexpr double kPointsPerInch = 72.0;
-constexpr double kMetresPerInch = 0.0254;
+constexpr double PointsPerInch = 72.0;
+constexpr double MetresPerInch = 0.0254;
 
 struct Words
 {
@@ -27,7 +27,7 @@ struct Words
 // Pixels as doubles: a page's size in pixels may exceed an integer.
 QSizeF pixelSize(const Canvas& canvas, double dpi)
 {
-    const QSizeF size = canvas.page().size * (dpi / kPointsPerInch);
+    const QSizeF size = canvas.page().size * (dpi / PointsPerInch);
     // Rounding errors must not add a pixel to a page of whole inches.
     return {std::max(1.0, std::ceil(size.width() - 1e-6)),
             std::max(1.0, std::ceil(size.height() - 1e-6))};
@@ -35,18 +35,18 @@ QSizeF pixelSize(const Canvas& canvas, double dpi)
 
 bool isWithinBounds(const QSizeF& pixels)
 {
-    return pixels.width() <= kMaximumImageSide && pixels.height() <= kMaximumImageSide &&
-           pixels.width() * pixels.height() <= static_cast<double>(kMaximumImagePixels);
+    return pixels.width() <= MaximumImageSide && pixels.height() <= MaximumImageSide &&
+           pixels.width() * pixels.height() <= static_cast<double>(MaximumImagePixels);
 }
 
 // The largest integral resolution at which the page fits.
 int largestDpi(const QSizeF& page)
 {
     const double longest = std::max(page.width(), page.height());
-    const double bySide = kMaximumImageSide / longest;
+    const double bySide = MaximumImageSide / longest;
     const double byPixels =
-        std::sqrt(static_cast<double>(kMaximumImagePixels) / (page.width() * page.height()));
-    return static_cast<int>(std::min(bySide, byPixels) * kPointsPerInch);
+        std::sqrt(static_cast<double>(MaximumImagePixels) / (page.width() * page.height()));
+    return static_cast<int>(std::min(bySide, byPixels) * PointsPerInch);
 }
 
 QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
@@ -60,8 +60,8 @@ QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
             .arg(pixels.width(), 0, 'f', 0)
             .arg(pixels.height(), 0, 'f', 0)
             .arg(dpi)
-            .arg(kMaximumImageSide)
-            .arg(kMaximumImagePixels / 1'000'000);
+            .arg(MaximumImageSide)
+            .arg(MaximumImagePixels / 1'000'000);
     const int best = largestDpi(page);
     return best < 1 ? text : text + Words::tr(" Up to %1 dots per inch are possible.").arg(best);
 }
@@ -75,7 +75,7 @@ QColor groundOf(const Canvas& canvas)
 
 int dotsPerMetre(double dpi)
 {
-    return static_cast<int>(std::lround(dpi / kMetresPerInch));
+    return static_cast<int>(std::lround(dpi / MetresPerInch));
 }
 
 } // namespace
@@ -98,7 +98,7 @@ PageImage renderPage(const Canvas& canvas, double dpi)
     }
     image.fill(groundOf(canvas));
     QPainter painter(&image);
-    painter.scale(dpi / kPointsPerInch, dpi / kPointsPerInch);
+    painter.scale(dpi / PointsPerInch, dpi / PointsPerInch);
     paintPage(painter, canvas);
     painter.end();
     // Set after painting: fonts would change their size with the resolution of the image

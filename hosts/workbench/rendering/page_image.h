@@ -8,8 +8,8 @@ namespace workbench {
 class Canvas;
 
 /// Largest picture of a page: pixels per side, and in total.
-inline constexpr int kMaximumImageSide = 20'000;
-inline constexpr qint64 kMaximumImagePixels = 150'000'000;
+inline constexpr int MaximumImageSide = 20'000;
+inline constexpr qint64 MaximumImagePixels = 150'000'000;
 
 /// A picture, or the user-visible reason why there is none.
 struct PageImage

@@ -4,9 +4,11 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 QString FileControllerTools::getDefaultImportFolder()
 {
-    const QString last = QSettings().value(QStringLiteral("dir/import")).toString();
+    const QString last = QSettings().value(u"dir/import"_s).toString();
     if (!last.isEmpty() && QDir(last).exists()) {
         return last;
     }

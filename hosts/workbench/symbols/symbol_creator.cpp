@@ -27,8 +27,9 @@ bool SymbolCreator::convertSvgToSymbol(const QRectF& target)
 {
     const std::optional<QByteArray> symbol =
         workbench::symbols::makeSymbolData(d->svg, target.size());
-    if (symbol)
+    if (symbol) {
         d->symbol = *symbol;
+    }
     return symbol.has_value();
 }
 

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench::symbols {
 
 using svglimits::parseSvgLength;
@@ -38,19 +40,22 @@ struct Frame
 
 [[nodiscard]] std::optional<QRectF> parseViewBox(const QString& text)
 {
-    static const QRegularExpression separators(QStringLiteral("[\\s,]+"));
+    static const QRegularExpression separators(u"[\\s,]+"_s);
     const QStringList parts = text.split(separators, Qt::SkipEmptyParts);
-    if (parts.size() != 4)
+    if (parts.size() != 4) {
         return std::nullopt;
+    }
     double values[4];
     for (int i = 0; i < 4; ++i) {
         bool ok = false;
         values[i] = parts[i].toDouble(&ok);
-        if (!ok || !(std::abs(values[i]) <= svglimits::Coordinate))
+        if (!ok || !(std::abs(values[i]) <= svglimits::Coordinate)) {
             return std::nullopt;
+        }
     }
-    if (values[2] <= 0.0 || values[3] <= 0.0)
+    if (values[2] <= 0.0 || values[3] <= 0.0) {
         return std::nullopt;
+    }
     return QRectF(values[0], values[1], values[2], values[3]);
 }
 
@@ -58,20 +63,24 @@ struct Frame
 [[nodiscard]] std::optional<double> givenSide(const QString& text, std::optional<double> whole)
 {
     const std::optional<SvgLength> length = parseSvgLength(text);
-    if (!length)
+    if (!length) {
         return std::nullopt;
-    if (!length->percent)
+    }
+    if (!length->percent) {
         return length->inUserUnits();
-    if (!whole)
+    }
+    if (!whole) {
         return std::nullopt;
+    }
     return length->value / 100.0 * *whole;
 }
 
 /// Alignment of a view box of another aspect ratio within the size: 0 start, 1 end.
 [[nodiscard]] double alignment(const QString& aspectRatio, QLatin1String low, QLatin1String high)
 {
-    if (aspectRatio.contains(low))
+    if (aspectRatio.contains(low)) {
         return 0.0;
+    }
     return aspectRatio.contains(high) ? 1.0 : 0.5;
 }
 
@@ -79,8 +88,9 @@ struct Frame
 /// than the view box, or with "slice" less.
 [[nodiscard]] QRectF shownPart(const QRectF& box, const QSizeF& size, const QString& aspectRatio)
 {
-    if (aspectRatio.contains(u"none"))
+    if (aspectRatio.contains(u"none")) {
         return box;
+    }
     const double byWidth = box.width() / size.width();
     const double byHeight = box.height() / size.height();
     const bool slice = aspectRatio.contains(u"slice");
@@ -98,12 +108,15 @@ struct Frame
 {
     std::optional<double> width = givenSide(root.width, box.width());
     std::optional<double> height = givenSide(root.height, box.height());
-    if (!width && !height)
+    if (!width && !height) {
         return {box.size(), box};
-    if (!width)
+    }
+    if (!width) {
         width = *height * box.width() / box.height();
-    if (!height)
+    }
+    if (!height) {
         height = *width * box.height() / box.width();
+    }
     const QSizeF size(*width, *height);
     return {size, size.isEmpty() ? box : shownPart(box, size, root.aspectRatio)};
 }
@@ -119,8 +132,9 @@ struct Frame
         return {size, QRectF(QPointF(), size)};
     }
     const QRectF drawn = QSvgRenderer(safe.document({})).viewBoxF();
-    if (!width && !height)
+    if (!width && !height) {
         return {drawn.size(), drawn};
+    }
     const QSizeF size(width.value_or(drawn.right()), height.value_or(drawn.bottom()));
     return {size, QRectF(QPointF(), size)};
 }
@@ -133,10 +147,9 @@ struct Frame
 
 [[nodiscard]] QString sizeAttributes(const QSizeF& points, const QRectF& box)
 {
-    return QStringLiteral(" width=\"%1pt\" height=\"%2pt\" viewBox=\"%3 %4 %5 %6\""
-                          " preserveAspectRatio=\"none\"")
-        .arg(number(points.width()), number(points.height()), number(box.x()), number(box.y()),
-             number(box.width()), number(box.height()));
+    return uR"( width="%1pt" height="%2pt" viewBox="%3 %4 %5 %6" preserveAspectRatio="none")"_s.arg(
+        number(points.width()), number(points.height()), number(box.x()), number(box.y()),
+        number(box.width()), number(box.height()));
 }
 
 } // namespace
@@ -144,30 +157,35 @@ struct Frame
 std::optional<QByteArray> makeSymbolData(const QByteArray& svg, const QSizeF& target)
 {
     const std::optional<SafeSvg> safe = svglimits::sanitizeSvg(svg);
-    if (!safe)
+    if (!safe) {
         return std::nullopt;
+    }
     const std::optional<QRectF> box = parseViewBox(safe->root.viewBox);
     const Frame frame = box ? framedByViewBox(safe->root, *box) : framedByContent(*safe);
     const QSizeF own = frame.size * PointsPerUserUnit;
     const bool targeted = target.width() > 0.0 && target.height() > 0.0;
     const QSizeF points = targeted ? target : own;
-    if (!isSymbolSize(own) || !isSymbolSize(points))
+    if (!isSymbolSize(own) || !isSymbolSize(points)) {
         return std::nullopt;
+    }
     const QByteArray data = safe->document(sizeAttributes(points, frame.viewBox));
-    if (!QSvgRenderer(data).isValid())
+    if (!QSvgRenderer(data).isValid()) {
         return std::nullopt;
+    }
     return data;
 }
 
 QSizeF naturalSize(const QByteArray& symbolData)
 {
     QXmlStreamReader reader(symbolData);
-    if (!reader.readNextStartElement() || reader.name() != u"svg")
+    if (!reader.readNextStartElement() || reader.name() != u"svg") {
         return {0.0, 0.0};
+    }
     const QStringView width = reader.attributes().value(QLatin1String("width"));
     const QStringView height = reader.attributes().value(QLatin1String("height"));
-    if (!width.endsWith(u"pt") || !height.endsWith(u"pt"))
+    if (!width.endsWith(u"pt") || !height.endsWith(u"pt")) {
         return {0.0, 0.0};
+    }
     const QSizeF size(width.chopped(2).toDouble(), height.chopped(2).toDouble());
     return isSymbolSize(size) ? size : QSizeF(0.0, 0.0);
 }

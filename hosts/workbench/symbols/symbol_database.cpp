@@ -10,6 +10,8 @@
 #include <QUuid>
 #include <QVariant>
 
+using namespace Qt::StringLiterals;
+
 namespace workbench::symbols {
 
 namespace {
@@ -28,20 +30,22 @@ constexpr QLatin1String SymbolQuery("SELECT svg FROM symbols WHERE name = ? AND 
 
 [[nodiscard]] std::optional<int> count(QSqlQuery& query, QLatin1String text)
 {
-    if (!query.exec(text) || !query.next())
+    if (!query.exec(text) || !query.next()) {
         return std::nullopt;
+    }
     return query.value(0).toInt();
 }
 
 } // namespace
 
 SymbolDatabase::SymbolDatabase(const QString& path)
-    : m_connection(QStringLiteral("symbols-") + QUuid::createUuid().toString(QUuid::WithoutBraces))
+    : m_connection(u"symbols-"_s + QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
-    if (QFileInfo(path).isFile())
+    if (QFileInfo(path).isFile()) {
         open(path);
-    else
+    } else {
         fail(Words::tr("there is no such file"));
+    }
 }
 
 SymbolDatabase::~SymbolDatabase()
@@ -52,29 +56,32 @@ SymbolDatabase::~SymbolDatabase()
 void SymbolDatabase::open(const QString& path)
 {
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connection);
         database.setDatabaseName(path);
-        database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
         m_open = database.open();
         if (m_open) {
             QSqlQuery settings(database);
-            settings.exec(QStringLiteral("PRAGMA trusted_schema = OFF"));
-            settings.exec(QStringLiteral("PRAGMA cell_size_check = ON"));
+            settings.exec(u"PRAGMA trusted_schema = OFF"_s);
+            settings.exec(u"PRAGMA cell_size_check = ON"_s);
         } else {
             fail(database.lastError().databaseText());
         }
     }
-    if (m_open && !hasSymbolTable())
+    if (m_open && !hasSymbolTable()) {
         m_open = false;
-    if (!m_open)
+    }
+    if (!m_open) {
         close();
+    }
 }
 
 void SymbolDatabase::close()
 {
     m_open = false;
-    if (QSqlDatabase::contains(m_connection))
+    if (QSqlDatabase::contains(m_connection)) {
         QSqlDatabase::removeDatabase(m_connection);
+    }
 }
 
 bool SymbolDatabase::hasSymbolTable()
@@ -94,8 +101,9 @@ bool SymbolDatabase::hasSymbolTable()
 
 QByteArray SymbolDatabase::svg(const QString& name)
 {
-    if (!m_open)
+    if (!m_open) {
         return {};
+    }
     m_error.clear();
     QSqlQuery query(QSqlDatabase::database(m_connection));
     query.setForwardOnly(true);
@@ -106,10 +114,12 @@ QByteArray SymbolDatabase::svg(const QString& name)
         fail(query.lastError().databaseText());
         return {};
     }
-    if (query.next())
+    if (query.next()) {
         return query.value(0).toByteArray();
-    if (query.lastError().isValid())
+    }
+    if (query.lastError().isValid()) {
         fail(query.lastError().databaseText());
+    }
     return {};
 }
 

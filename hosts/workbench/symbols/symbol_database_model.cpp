@@ -22,8 +22,9 @@ public:
 
 void SymbolDatabaseModel::Private::reportFailure()
 {
-    if (path == reportedPath || database->error().isEmpty())
+    if (path == reportedPath || database->error().isEmpty()) {
         return;
+    }
     reportedPath = path;
     CuteMessageLogger(loggerInstance(), Logger::Error, "symbol_database_model", __LINE__,
                       Q_FUNC_INFO)
@@ -40,8 +41,9 @@ SymbolDatabaseModel::~SymbolDatabaseModel() = default;
 
 void SymbolDatabaseModel::setDatabasePath(const QString& path)
 {
-    if (path == d->path && d->database && d->database->isOpen())
+    if (path == d->path && d->database && d->database->isOpen()) {
         return;
+    }
     d->path = path;
     d->database = std::make_unique<SymbolDatabase>(path);
     d->reportFailure();
@@ -49,8 +51,9 @@ void SymbolDatabaseModel::setDatabasePath(const QString& path)
 
 QByteArray SymbolDatabaseModel::getDataFromSymbolName(QString name)
 {
-    if (!d->database)
+    if (!d->database) {
         return {};
+    }
     const QByteArray svg = d->database->svg(name);
     d->reportFailure();
     // The content of a database is as untrusted as any other drawing.

@@ -9,6 +9,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace svglimits {
 
 namespace {
@@ -69,9 +71,9 @@ std::optional<EmbeddedImage> readEmbeddedImage(const QString& uri)
     if (!isAcceptable(size) || reader.read().isNull()) {
         return std::nullopt;
     }
-    return EmbeddedImage{QStringLiteral("data:image/%1;base64,%2")
-                             .arg(QLatin1String(format), QLatin1String(data.toBase64())),
-                         qint64{size.width()} * size.height()};
+    return EmbeddedImage{
+        u"data:image/%1;base64,%2"_s.arg(QLatin1String(format), QLatin1String(data.toBase64())),
+        qint64{size.width()} * size.height()};
 }
 
 } // namespace svglimits

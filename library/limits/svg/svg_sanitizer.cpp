@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace svglimits {
 
 namespace {
@@ -40,8 +42,8 @@ template <std::size_t Size>
 [[nodiscard]] QString attributeText(QStringView name, const QString& value)
 {
     QString escaped = value.toHtmlEscaped();
-    escaped.replace(u'\n', QStringLiteral("&#10;")).replace(u'\t', QStringLiteral("&#9;"));
-    return u' ' + name.toString() + QStringLiteral("=\"") + escaped + u'"';
+    escaped.replace(u'\n', u"&#10;"_s).replace(u'\t', u"&#9;"_s);
+    return u' ' + name.toString() + u"=\""_s + escaped + u'"';
 }
 
 class SvgSanitizer
@@ -97,7 +99,7 @@ bool SvgSanitizer::readRoot()
               attributes.value(QLatin1String("viewBox")).toString(),
               attributes.value(QLatin1String("preserveAspectRatio")).toString()};
     m_references.beginElement(attributes.value(QLatin1String("id")).toString(), {});
-    m_open << QStringLiteral("svg");
+    m_open << u"svg"_s;
     writeAttributes();
     m_body += u'>';
     return true;
@@ -165,7 +167,7 @@ void SvgSanitizer::writeElement(const QString& target)
 
 void SvgSanitizer::endElement()
 {
-    m_body += QStringLiteral("</") + m_open.takeLast() + u'>';
+    m_body += u"</"_s + m_open.takeLast() + u'>';
     m_references.endElement();
 }
 
@@ -247,8 +249,7 @@ QByteArray SafeSvg::document() const
 
 QByteArray SafeSvg::document(const QString& sizeAttributes) const
 {
-    return QStringLiteral("<svg xmlns=\"%1\" xmlns:xlink=\"%2\"")
-        .arg(SvgNamespace, XLinkNamespace)
+    return u"<svg xmlns=\"%1\" xmlns:xlink=\"%2\""_s.arg(SvgNamespace, XLinkNamespace)
         .append(sizeAttributes)
         .append(body)
         .toUtf8();

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace svglimits {
 
 namespace {
@@ -14,7 +16,7 @@ namespace {
 [[nodiscard]] const QRegularExpression& externalPattern()
 {
     static const QRegularExpression pattern(
-        QStringLiteral(R"(\\|@import|@charset|@font-face|url\s*\(\s*["']?\s*(?!["'#\s]))"),
+        uR"(\\|@import|@charset|@font-face|url\s*\(\s*["']?\s*(?!["'#\s]))"_s,
         QRegularExpression::CaseInsensitiveOption);
     return pattern;
 }
@@ -123,20 +125,19 @@ QString filterStyleSheet(const QString& css, bool keepDashes)
         return css;
     }
     QString solid = css;
-    return solid.replace(QStringLiteral("stroke-dasharray"), QStringLiteral("x-dasharray"),
-                         Qt::CaseInsensitive);
+    return solid.replace(u"stroke-dasharray"_s, u"x-dasharray"_s, Qt::CaseInsensitive);
 }
 
 QStringList dashArrays(const QString& css)
 {
-    static const QRegularExpression pattern(QStringLiteral(R"(stroke-dasharray\s*:([^;}]*))"),
+    static const QRegularExpression pattern(uR"(stroke-dasharray\s*:([^;}]*))"_s,
                                             QRegularExpression::CaseInsensitiveOption);
     return capturedTexts(pattern, css);
 }
 
 QStringList urlFragments(QStringView value)
 {
-    static const QRegularExpression pattern(QStringLiteral(R"(url\s*\(\s*["']?\s*#([^"')\s]+))"),
+    static const QRegularExpression pattern(uR"(url\s*\(\s*["']?\s*#([^"')\s]+))"_s,
                                             QRegularExpression::CaseInsensitiveOption);
     return capturedTexts(pattern, value.toString());
 }

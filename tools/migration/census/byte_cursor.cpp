@@ -10,7 +10,7 @@ namespace migration {
 
 namespace {
 
-constexpr quint32 kNoLength = 0xFFFFFFFF;
+constexpr quint32 NoLength = 0xFFFFFFFF;
 
 } // namespace
 
@@ -32,7 +32,7 @@ QString ByteCursor::takeText()
 {
     const auto length = static_cast<quint32>(takeNumber());
     // An odd length is not a text: writers of such lengths wrote nothing after them.
-    if (length == kNoLength || length % 2 != 0) {
+    if (length == NoLength || length % 2 != 0) {
         return {};
     }
     if (length > left()) {
@@ -48,7 +48,7 @@ QString ByteCursor::takeText()
 void ByteCursor::skipBytes()
 {
     const auto length = static_cast<quint32>(takeNumber());
-    if (length != kNoLength) {
+    if (length != NoLength) {
         skip(length);
     }
 }

@@ -182,8 +182,8 @@ Census countOpenDocument(const QByteArray& file)
     ziplimits::ZipDirectory package;
     // A damaged package has no members.
     (void)package.openBytes(file);
-    const auto stylesXml = package.read(QStringLiteral("styles.xml"), MaximumStyles);
-    const auto contentXml = package.read(QStringLiteral("content.xml"), MaximumContent);
+    const auto stylesXml = package.read(u"styles.xml"_s, MaximumStyles);
+    const auto contentXml = package.read(u"content.xml"_s, MaximumContent);
     if (!stylesXml || !contentXml) {
         census.unknown = missing(!stylesXml ? "styles.xml" : "content.xml");
         return census;

@@ -4,7 +4,7 @@
 #include "migration/model/item_class.h"
 #include "migration/model/known_fonts.h"
 #include "workbench/canvas/canvas.h"
-#include "workbench/items/bounds.h"
+#include "workbench/items/item_limits.h"
 #include "workbench/items/shape_kinds.h"
 
 #include <QCoreApplication>
@@ -13,6 +13,8 @@
 
 #include <algorithm>
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 namespace migration {
 
@@ -25,7 +27,7 @@ constexpr double EdgeTolerance = 1.0;
 
 QStringList familiesOfHtml(const QString& html)
 {
-    static const QRegularExpression pattern(QStringLiteral("font-family:'([^']*)'"));
+    static const QRegularExpression pattern(u"font-family:'([^']*)'"_s);
     QStringList families;
     for (auto match = pattern.globalMatch(html); match.hasNext();) {
         families.append(match.next().captured(1));
@@ -39,7 +41,7 @@ bool isBlankText(const ItemValues& values)
     if (!values.text) {
         return false;
     }
-    static const QRegularExpression tags(QStringLiteral("<[^>]*>"));
+    static const QRegularExpression tags(u"<[^>]*>"_s);
     const qsizetype body = values.text->html.indexOf(QLatin1String("<body"));
     const QString shown =
         values.text->html.isEmpty() ? values.text->text : values.text->html.mid(body).remove(tags);
@@ -78,7 +80,7 @@ void lookAtFonts(const ItemValues& values, ItemFacts& item, LabelFacts& facts)
         const QString asked = family == FallbackFontFamily
                                   ? QCoreApplication::translate("migration::ItemLosses", "unknown")
                                   : family;
-        facts.tallies[LossKind::FontReplaced].addDetail(asked + QStringLiteral(" → ") + seen);
+        facts.tallies[LossKind::FontReplaced].addDetail(asked + u" → "_s + seen);
     }
 }
 
@@ -110,11 +112,11 @@ void lookAtPlace(const QRectF& page, const QRectF& box, ItemFacts& item)
 bool isLimited(const ItemValues& values)
 {
     const QPointF position = values.placement.position;
-    const bool isFar = std::abs(position.x()) >= workbench::kMaximumCoordinate ||
-                       std::abs(position.y()) >= workbench::kMaximumCoordinate;
-    const bool isLong = values.box.size.width() >= workbench::kMaximumLength ||
-                        values.box.size.height() >= workbench::kMaximumLength;
-    return isFar || isLong || (values.font && values.font->pointSize > workbench::kMaximumFontSize);
+    const bool isFar = std::abs(position.x()) >= workbench::MaximumCoordinate ||
+                       std::abs(position.y()) >= workbench::MaximumCoordinate;
+    const bool isLong = values.box.size.width() >= workbench::MaximumLength ||
+                        values.box.size.height() >= workbench::MaximumLength;
+    return isFar || isLong || (values.font && values.font->pointSize > workbench::MaximumFontSize);
 }
 
 void lookAtItem(const workbench::CanvasItem& item, const QRectF& page, bool blankTextsCount,
@@ -152,7 +154,7 @@ LabelFacts lookAtItems(const workbench::Canvas& canvas, bool blankTextsCount)
 {
     LabelFacts facts;
     const QSizeF page = canvas.page().size;
-    if (std::max(page.width(), page.height()) >= workbench::kMaximumLength) {
+    if (std::max(page.width(), page.height()) >= workbench::MaximumLength) {
         facts.pageChanges.add(LossKind::SizeLimited);
     }
     for (const workbench::CanvasItem* item : canvas.items()) {

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace migration {
 
 namespace {
@@ -55,7 +57,7 @@ QString statusName(Status status)
     const auto* found =
         std::find_if(Statuses.begin(), Statuses.end(),
                      [status](const StatusRow& row) { return row.status == status; });
-    return found != Statuses.end() ? QString(found->name) : QStringLiteral("failed");
+    return found != Statuses.end() ? QString(found->name) : u"failed"_s;
 }
 
 std::optional<Status> statusOfName(const QString& name)

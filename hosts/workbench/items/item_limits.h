@@ -9,18 +9,18 @@ namespace workbench {
 // the time and memory of painting.
 
 /// Longest side of a page or an item, in points.
-inline constexpr double kMaximumLength = 10'000'000.0;
+inline constexpr double MaximumLength = 10'000'000.0;
 /// Largest distance of an item from the page's origin, in points.
-inline constexpr double kMaximumCoordinate = 10'000'000.0;
+inline constexpr double MaximumCoordinate = 10'000'000.0;
 /// Smaller coordinates mean that the file specified none.
-inline constexpr double kCoordinateNotGiven = -1'000'000'000.0;
+inline constexpr double CoordinateNotGiven = -1'000'000'000.0;
 /// Widest pen, in points: what the contract can set.
-inline constexpr double kMaximumPenWidth = 65'535.0;
+inline constexpr double MaximumPenWidth = 65'535.0;
 /// Maximum and default font size, in points.
-inline constexpr int kMaximumFontSize = 2'000;
-inline constexpr int kDefaultFontSize = 12;
+inline constexpr int MaximumFontSize = 2'000;
+inline constexpr int DefaultFontSize = 12;
 
-/// The length, 0 if it is not a number, limited to ±kMaximumLength.
+/// The length, 0 if it is not a number, limited to ±MaximumLength.
 [[nodiscard]] double boundedLength(double length);
 [[nodiscard]] QSizeF boundedSize(const QSizeF& size);
 /// The position, 0 for a coordinate that is not a number or was not specified.
