@@ -54,7 +54,7 @@ void checkNumbers(const FileReport& report)
                static_cast<long long>(lostObjects(report)),
                static_cast<long long>(*report.objects.inFile));
     }
-    if (sumOf(report.whole) > sumOf(report.items)) {
+    if (sumOf(report.complete) > sumOf(report.items)) {
         qFatal("more items were imported completely than exist");
     }
 }

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 constexpr NamedCode<double> Units[] = {
     {"in"_L1, 72.0},
     {"cm"_L1, 28.346456692913385},
-    // Ten times the points of a millimeter. Old labels in millimeters depend on that scale.
+    // A hundred times the points of a millimeter. Old labels in millimeters depend on that scale.
     {"mm"_L1, 283.46456692913387},
     {"pc"_L1, 12.0},
 };

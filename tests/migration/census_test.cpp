@@ -133,8 +133,11 @@ TEST(OrvantaCensus, DoesNotFollowHostileDepths)
 TEST(SavedLabelCensus, CountsTheItems)
 {
     const Census census =
-        countSavedLabel(R"({"label": {"items": [{"type": 65567}, {"type": 65557}]}})");
+        countSavedLabel(R"({"label": {"items": [{"type": "line"}, {"type": "richText"}]}})");
     EXPECT_EQ(countsOf(census), (std::array<qint64, ObjectClasses>{0, 1, 1, 0, 0, 0}));
+    const Census unknown = countSavedLabel(R"({"label": {"items": [{"type": "hologram"}]}})");
+    ASSERT_EQ(unknown.objects.size(), 1);
+    EXPECT_EQ(unknown.objects.constFirst().lost, LossKind::UnknownObject);
     EXPECT_FALSE(countSavedLabel("{}").unknown.isEmpty());
     EXPECT_FALSE(countSavedLabel("no JSON").unknown.isEmpty());
 }

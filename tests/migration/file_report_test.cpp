@@ -80,14 +80,14 @@ TEST(FileReport, EveryStatusHasAName)
     EXPECT_FALSE(statusOfName(QStringLiteral("fine")).has_value());
 }
 
-TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsWhole)
+TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsComplete)
 {
-    EXPECT_TRUE(isWhole(wholeReport()));
+    EXPECT_EQ(verdictOf(wholeReport()), Verdict::Complete);
     EXPECT_FALSE(hasLoss(wholeReport()));
-    EXPECT_FALSE(isWhole(FileReport()));
+    EXPECT_EQ(verdictOf(FileReport()), Verdict::Failed);
     FileReport uncounted = wholeReport();
     uncounted.objects.inFile.reset();
-    EXPECT_FALSE(isWhole(uncounted)) << "it is unknown whether something is missing";
+    EXPECT_EQ(verdictOf(uncounted), Verdict::Lossy) << "objects may be missing";
 }
 
 TEST(FileReport, HasALossForEveryKindThatHarmsTheContent)
@@ -97,7 +97,8 @@ TEST(FileReport, HasALossForEveryKindThatHarmsTheContent)
         (row.outcome == Outcome::Lost ? report.lost : report.changed)
             .append(findingOfKind(row.kind));
         EXPECT_EQ(hasLoss(report), row.harm == Harm::Content) << row.code;
-        EXPECT_FALSE(isWhole(report)) << row.code;
+        EXPECT_EQ(verdictOf(report), row.harm == Harm::Content ? Verdict::Lossy : Verdict::Changed)
+            << row.code;
     }
 }
 
@@ -129,13 +130,14 @@ TEST(FileReport, SaysHowManyObjectsCameOver)
     FileReport report = wholeReport();
     report.objects.imported = 1;
     report.lost.append(findingOfKind(LossKind::Table));
-    EXPECT_EQ(summaryOf(report), QStringLiteral("Imported 1 of 3 objects."));
+    EXPECT_EQ(summaryOf(report),
+              QStringLiteral("Imported 1 of 3 objects. Content was lost or changed."));
     EXPECT_EQ(objectsLost(report), 2);
 
     report.objects.inFile.reset();
-    EXPECT_EQ(
-        summaryOf(report),
-        QStringLiteral("Objects imported: 1 (the number of objects in the file is unknown)."));
+    EXPECT_EQ(summaryOf(report),
+              QStringLiteral("Objects imported: 1 (the number of objects in the file is unknown). "
+                             "Content was lost or changed."));
     EXPECT_EQ(objectsLost(report), 0);
 }
 
@@ -143,6 +145,28 @@ TEST(FileReport, TellsChangesFromLossesInWords)
 {
     FileReport report = wholeReport();
     report.changed.append(findingOfKind(LossKind::FontReplaced));
-    EXPECT_EQ(summaryOf(report), QStringLiteral("Imported 3 of 3 objects. Nothing was lost; "
-                                                "looks or content changed."));
+    EXPECT_EQ(summaryOf(report), QStringLiteral("Imported 3 of 3 objects. The content is complete; "
+                                                "looks changed."));
+}
+
+// A card must not say "with losses" above "nothing was lost".
+TEST(FileReport, NamesAChangeOfContentALoss)
+{
+    FileReport report = wholeReport();
+    report.changed.append(findingOfKind(LossKind::OutsidePage));
+    EXPECT_EQ(verdictOf(report), Verdict::Lossy);
+    EXPECT_EQ(summaryOf(report),
+              QStringLiteral("Imported 3 of 3 objects. Content was lost or changed."));
+}
+
+TEST(FileReport, EveryVerdictHasAName)
+{
+    QStringList names;
+    for (int index = 0; index < Verdicts; ++index) {
+        names.append(verdictName(static_cast<Verdict>(index)));
+        EXPECT_FALSE(verdictWords(static_cast<Verdict>(index)).isEmpty());
+    }
+    EXPECT_EQ(names, (QStringList{QStringLiteral("complete"), QStringLiteral("changed"),
+                                  QStringLiteral("lossy"), QStringLiteral("failed")}));
+    EXPECT_EQ(toJson(wholeReport())[QStringLiteral("verdict")].toString(), names.constFirst());
 }

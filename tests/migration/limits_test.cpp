@@ -172,7 +172,8 @@ TEST(CensusLimits, ShortenDetails)
     Tally tally;
     tally.addDetail(longest);
     tally.addDetail(longest + u'y');
-    EXPECT_EQ(tally.details, QStringList{longest});
+    const QString cut = longest.left(LongestDetail - 1) + QChar(0x2026);
+    EXPECT_EQ(tally.details, (QStringList{longest, cut}));
 }
 
 // The cache only affects the time; removed entries are queried again.

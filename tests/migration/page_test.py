@@ -76,13 +76,13 @@ everything = view("")
 assert everything.shown == names(files), everything.shown
 assert everything.said == f"{len(files)} of {len(files)} shown", everything.said
 
-failed = [entry for entry in files if entry["status"] == "failed"]
+failed = [entry for entry in files if entry["verdict"] == "failed"]
 assert failed
 expect("status=failed&sort=lost", names(sorted(failed, key=lambda entry: -lost(entry))))
-expect("status=not-imported", names(entry for entry in files if entry["status"] != "imported"))
+expect("status=timed-out", ["slow.odg"])
 expect("sort=lost", names(sorted(files, key=lambda entry: -lost(entry))))
-expect("status=loss&reader=orvanta",
-       names(entry for entry in files if entry["status"] == "imported" and entry["hasLoss"]
+expect("status=lossy&reader=orvanta",
+       names(entry for entry in files if entry["verdict"] == "lossy"
              and entry["reader"] == "orvanta"))
 code = next(finding["code"] for entry in files for finding in entry["changed"])
 expect("code=" + code,

@@ -57,7 +57,7 @@ template <class Value, class Make>
     report.objects.unknown = text();
     report.objects.imported = number();
     report.items = randomList<KindCount>(random, kind);
-    report.whole = randomList<KindCount>(random, kind);
+    report.complete = randomList<KindCount>(random, kind);
     report.changed = randomList<Finding>(random, finding);
     report.lost = randomList<Finding>(random, finding);
     report.datasources = randomList<SourceReport>(random, [&] {

@@ -112,9 +112,9 @@ TEST_F(ReportWriting, JsonHoldsTheFilesAndWhatTheyAddUpTo)
     EXPECT_EQ(lines.at(2)[QStringLiteral("file")].toString(), QStringLiteral("b"));
     const QJsonObject totals = lines.at(5)[QStringLiteral("totals")].toObject();
     EXPECT_EQ(totals[QStringLiteral("files")].toInt(), 4);
-    EXPECT_EQ(totals[QStringLiteral("whole")].toInt(), 1);
+    EXPECT_EQ(totals[QStringLiteral("complete")].toInt(), 1);
     EXPECT_EQ(totals[QStringLiteral("changed")].toInt(), 1);
-    EXPECT_EQ(totals[QStringLiteral("withLoss")].toInt(), 1);
+    EXPECT_EQ(totals[QStringLiteral("lossy")].toInt(), 1);
     EXPECT_EQ(totals[QStringLiteral("failed")].toInt(), 1);
     EXPECT_EQ(totals[QStringLiteral("objectsInFiles")].toInt(), 12);
     EXPECT_EQ(totals[QStringLiteral("objectsImported")].toInt(), 9);
@@ -171,7 +171,7 @@ TEST_F(ReportWriting, NothingFromAFileBecomesMarkup)
     report.issues = {{evil, 0, 1}};
     report.outputs = {evil};
     report.items = {{evil, 1}};
-    report.whole = {{evil, 1}};
+    report.complete = {{evil, 1}};
     ASSERT_EQ(write(path("r.html"), {report}, evil), QString());
     const QByteArray html = contentOf(path("r.html"));
     EXPECT_EQ(html.count("<script>"), 1) << "the page's own";

@@ -20,7 +20,7 @@ FileReport sampleReport()
     report.itemList = {
         {QStringLiteral("rounded-rectangle"), 1.0, 2.0, 30.5, 4.0, {}, -1},
         {QStringLiteral("text"), 0.0, 0.0, 9.0, 3.0, QStringLiteral("Two\nlines"), 4}};
-    report.whole = {{QStringLiteral("text"), 1}};
+    report.complete = {{QStringLiteral("text"), 1}};
     report.lost = {{QStringLiteral("table"),
                     QStringLiteral("Tables were left out."),
                     2,
@@ -37,7 +37,7 @@ TEST(Inspect, DescribesALabelOnOneScreen)
 {
     EXPECT_EQ(describeForPeople(sampleReport()).toStdString(),
               "shelf.odg\n"
-              "  Imported 2 of 3 objects.\n"
+              "  Imported 2 of 3 objects. Content was lost or changed.\n"
               "  Page: 50.8 × 25.4 mm\n"
               "Items (millimeters):\n"
               "  # kind                x   y width height source content\n"

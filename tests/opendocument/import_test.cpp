@@ -136,7 +136,7 @@ TEST_F(Import, ReadsThePageInEachUnit)
     EXPECT_EQ(page("fo:page-width=\"21.59cm\" fo:page-height=\"27.94cm\""),
               u"612 792 false true"_s);
     EXPECT_EQ(page("fo:page-width=\"51pc\" fo:page-height=\"66pc\""), u"612 792 false true"_s);
-    // Ten times the points of a millimeter, and ten times that: old labels depend on it.
+    // A hundred times the points of a millimeter: old labels depend on it.
     EXPECT_EQ(page("fo:page-width=\"215.9mm\" fo:page-height=\"279.4mm\""),
               u"61200 79200 false true"_s);
 }

@@ -15,10 +15,10 @@ namespace migration {
 
 namespace {
 
-// For a file that was not imported, the report only contains the number of its objects.
+// For a file that was not imported, the report only contains the number of its objects. Why they
+// cannot be counted would only be a guess next to the reader's own reason.
 void describeFailure(const Census& census, FileReport& report)
 {
-    report.objects.unknown = census.unknown;
     if (census.unknown.isEmpty()) {
         report.objects.inFile = census.objects.size();
     }

@@ -3,6 +3,7 @@
 #include "limits/json/tree_size.h"
 #include "migration/census/counting.h"
 #include "migration/model/item_class.h"
+#include "workbench/items/shape_kinds.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -26,8 +27,14 @@ Census countSavedLabel(const QByteArray& file)
         return census;
     }
     for (const QJsonValue& item : items.toArray()) {
-        const auto type = static_cast<KestTypes::ShapeType>(item[u"type"_s].toInt());
-        census.objects.append({.objectClass = classOfItem(type)});
+        const auto type = workbench::typeOfSavedName(item[u"type"_s].toString());
+        CountedObject object;
+        if (type) {
+            object.objectClass = classOfItem(*type);
+        } else {
+            object.lost = LossKind::UnknownObject;
+        }
+        census.objects.append(object);
     }
     return census;
 }

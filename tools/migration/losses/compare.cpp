@@ -47,7 +47,7 @@ private:
     void addTallies(const std::map<LossKind, Tally>& tallies, bool isCounted);
     void sumItems();
     void list(Outcome outcome, QList<Finding>& findings);
-    void listWhole();
+    void listComplete();
 
     const Census& m_census;
     const LabelFacts& m_label;
@@ -88,7 +88,7 @@ void Comparison::run()
     addTallies(m_log.tallies, true);
     list(Outcome::Lost, m_report.lost);
     list(Outcome::Changed, m_report.changed);
-    listWhole();
+    listComplete();
 }
 
 // A vector drawing may be a symbol or, in other formats, a picture on the label.
@@ -235,17 +235,17 @@ void Comparison::list(Outcome outcome, QList<Finding>& findings)
     }
 }
 
-void Comparison::listWhole()
+void Comparison::listComplete()
 {
-    QMap<QString, qint64> whole;
+    QMap<QString, qint64> complete;
     for (qsizetype index = 0; index < m_label.items.size(); ++index) {
         const ItemFacts& item = m_label.items.at(index);
-        whole[item.kind] += item.hasContent && m_itemChanges.at(index).isEmpty() ? 1 : 0;
+        complete[item.kind] += item.hasContent && m_itemChanges.at(index).isEmpty() ? 1 : 0;
     }
-    for (auto kind = whole.begin(); kind != whole.end(); ++kind) {
+    for (auto kind = complete.begin(); kind != complete.end(); ++kind) {
         const qint64 count = kind.value() - m_changedByNumber.value(kind.key());
         if (count > 0) {
-            m_report.whole.append({kind.key(), count});
+            m_report.complete.append({kind.key(), count});
         }
     }
 }

@@ -8,7 +8,7 @@
 namespace migration {
 
 /// Compares the file with the label and the log, and fills in the numbers of objects and the lists
-/// of whole, changed and lost objects.
+/// of complete, changed and lost objects.
 ///
 /// Objects and items of one class are matched in order, which readers keep. If their numbers
 /// differ, only the numbers are compared.

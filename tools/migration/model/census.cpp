@@ -4,7 +4,8 @@ namespace migration {
 
 void Tally::addDetail(const QString& detail)
 {
-    const QString shortened = detail.left(LongestDetail);
+    const QString shortened =
+        detail.size() <= LongestDetail ? detail : detail.left(LongestDetail - 1) + QChar(0x2026);
     if (!shortened.isEmpty() && details.size() < MaximumDetails && !details.contains(shortened)) {
         details.append(shortened);
     }

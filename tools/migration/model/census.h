@@ -51,7 +51,7 @@ struct CountedObject
     int barcodeType = NoBarcodeType;
 };
 
-/// Longest detail that is kept, in characters.
+/// Longest detail that is kept, in characters. Longer ones end in an ellipsis.
 inline constexpr qsizetype LongestDetail = 80;
 
 /// How often something occurred, and the names of the first objects concerned.

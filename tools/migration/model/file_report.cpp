@@ -27,6 +27,28 @@ constexpr std::array Statuses{
     StatusRow{Status::OutOfMemory, QLatin1String("out-of-memory")},
 };
 
+struct VerdictRow
+{
+    QLatin1String name;
+    const char* words;
+    /// Follows the number of objects; may be null.
+    const char* sentence;
+};
+
+#define WORDS(text) QT_TRANSLATE_NOOP("migration::Summary", text)
+// In the order of the enumeration.
+constexpr std::array VerdictRows{
+    VerdictRow{QLatin1String("complete"), WORDS("imported completely"),
+               WORDS("Nothing was lost or changed.")},
+    VerdictRow{QLatin1String("changed"), WORDS("imported with changes"),
+               WORDS("The content is complete; looks changed.")},
+    VerdictRow{QLatin1String("lossy"), WORDS("imported with losses"),
+               WORDS("Content was lost or changed.")},
+    VerdictRow{QLatin1String("failed"), WORDS("failed"), nullptr},
+};
+#undef WORDS
+static_assert(VerdictRows.size() == Verdicts);
+
 bool harmsContent(const Finding& finding)
 {
     const LossRow* row = lossRowOf(finding.code);
@@ -37,6 +59,12 @@ bool harmsContent(const Finding& finding)
 QString tr(const char* text)
 {
     return QCoreApplication::translate("migration::Summary", text);
+}
+
+QString verdictSentence(Verdict verdict)
+{
+    const char* const sentence = VerdictRows.at(static_cast<std::size_t>(verdict)).sentence;
+    return sentence != nullptr ? tr(sentence) : QString();
 }
 
 QString countSentence(const FileReport& report)
@@ -67,17 +95,33 @@ std::optional<Status> statusOfName(const QString& name)
     return found != Statuses.end() ? std::optional(found->status) : std::nullopt;
 }
 
-bool hasLoss(const FileReport& report)
+Verdict verdictOf(const FileReport& report)
 {
-    return report.status != Status::Imported ||
-           std::any_of(report.lost.begin(), report.lost.end(), harmsContent) ||
-           std::any_of(report.changed.begin(), report.changed.end(), harmsContent);
+    if (report.status != Status::Imported) {
+        return Verdict::Failed;
+    }
+    const bool isHarmed = std::any_of(report.lost.begin(), report.lost.end(), harmsContent) ||
+                          std::any_of(report.changed.begin(), report.changed.end(), harmsContent);
+    if (isHarmed || !report.objects.inFile) {
+        return Verdict::Lossy;
+    }
+    return report.lost.isEmpty() && report.changed.isEmpty() ? Verdict::Complete : Verdict::Changed;
 }
 
-bool isWhole(const FileReport& report)
+QString verdictName(Verdict verdict)
 {
-    return report.status == Status::Imported && report.objects.inFile.has_value() &&
-           report.lost.isEmpty() && report.changed.isEmpty();
+    return VerdictRows.at(static_cast<std::size_t>(verdict)).name;
+}
+
+QString verdictWords(Verdict verdict)
+{
+    return tr(VerdictRows.at(static_cast<std::size_t>(verdict)).words);
+}
+
+bool hasLoss(const FileReport& report)
+{
+    const Verdict verdict = verdictOf(report);
+    return verdict == Verdict::Lossy || verdict == Verdict::Failed;
 }
 
 qint64 objectsLost(const FileReport& report)
@@ -92,14 +136,11 @@ QString summaryOf(const FileReport& report)
     if (report.status != Status::Imported) {
         return tr("Not imported: %1").arg(report.error);
     }
-    if (isWhole(report)) {
-        return countSentence(report) + QLatin1Char(' ') + tr("Nothing was lost or changed.");
+    QString summary = countSentence(report);
+    if (const QString more = verdictSentence(verdictOf(report)); !more.isEmpty()) {
+        summary += QLatin1Char(' ') + more;
     }
-    if (report.lost.isEmpty()) {
-        return countSentence(report) + QLatin1Char(' ') +
-               tr("Nothing was lost; looks or content changed.");
-    }
-    return countSentence(report);
+    return summary;
 }
 
 } // namespace migration

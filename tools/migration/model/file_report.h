@@ -103,10 +103,10 @@ struct FileReport
     PageReport page;
     ObjectsReport objects;
 
-    QList<KindCount> items; ///< all items on the canvas, by kind
-    QList<KindCount> whole; ///< items that were imported without a change
-    QList<Finding> changed; ///< what was imported with changes
-    QList<Finding> lost;    ///< what was not imported
+    QList<KindCount> items;    ///< all items on the canvas, by kind
+    QList<KindCount> complete; ///< items that were imported without a change
+    QList<Finding> changed;    ///< what was imported with changes
+    QList<Finding> lost;       ///< what was not imported
     QList<SourceReport> datasources;
     QList<IssueReport> issues;
     QByteArray thumbnail;       ///< PNG, at most 160 pixels a side; may be empty
@@ -121,12 +121,24 @@ struct FileReport
 [[nodiscard]] QString statusName(Status status);
 [[nodiscard]] std::optional<Status> statusOfName(const QString& name);
 
-/// Whether content was lost: the file is not imported, or something was lost or changed in its
-/// content. A change of looks alone, such as a replaced font, is not a loss.
-[[nodiscard]] bool hasLoss(const FileReport& report);
+/// The result of one file's import in a word: the same on the command line, in the window, in the
+/// exit status and in reports.
+enum class Verdict : quint8 {
+    Complete, ///< imported; all objects were counted, and nothing was lost or changed
+    Changed,  ///< imported; the content is complete, only looks changed
+    Lossy,    ///< imported; content was lost or changed, or could not be counted
+    Failed,   ///< not imported
+};
+inline constexpr int Verdicts = 4;
 
-/// Whether the file was imported without any loss or change.
-[[nodiscard]] bool isWhole(const FileReport& report);
+[[nodiscard]] Verdict verdictOf(const FileReport& report);
+/// The verdict as reports write it: "complete", "changed", "lossy", "failed".
+[[nodiscard]] QString verdictName(Verdict verdict);
+/// The verdict for the user: "imported with losses".
+[[nodiscard]] QString verdictWords(Verdict verdict);
+
+/// Whether the verdict is lossy or failed: then `--fail-on-loss` fails.
+[[nodiscard]] bool hasLoss(const FileReport& report);
 
 /// The number of lost objects; 0 if it is not known how many the file has.
 [[nodiscard]] qint64 objectsLost(const FileReport& report);

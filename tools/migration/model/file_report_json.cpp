@@ -89,7 +89,7 @@ void describe(auto& field, ValuesOf<FileReport> auto& report)
     field("page", report.page);
     field("objects", report.objects);
     field("items", report.items);
-    field("whole", report.whole);
+    field("complete", report.complete);
     field("changed", report.changed);
     field("lost", report.lost);
     field("datasources", report.datasources);
@@ -147,7 +147,7 @@ QJsonObject toJson(const FileReport& report)
     describe(repair, repaired);
     fields::FieldWriter writer;
     describe(writer, repaired);
-    writer("hasLoss", hasLoss(report));
+    writer("verdict", verdictName(verdictOf(report)));
     return writer.object();
 }
 

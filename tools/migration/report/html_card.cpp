@@ -124,7 +124,7 @@ QString sourceWords(const SourceReport& source)
 TemplateList moreOf(const FileReport& report)
 {
     QList<Entry> imported;
-    for (const KindCount& count : report.whole) {
+    for (const KindCount& count : report.complete) {
         imported.append({u"%1 × %2"_s.arg(count.count).arg(workbench::shapeTitle(count.kind))});
     }
     QList<Entry> sources;
@@ -154,8 +154,8 @@ TemplateData cardData(const FileReport& report, qint64 place)
     TemplateData card;
     card.set("number", number(place));
     card.set("file", templateText(report.file));
-    card.set("state", templateText(stateOf(report)));
-    card.set("stateWords", templateText(stateWords(stateOf(report))));
+    card.set("verdict", templateText(verdictName(verdictOf(report))));
+    card.set("verdictWords", templateText(verdictWords(verdictOf(report))));
     card.set("status", templateText(statusName(report.status)));
     card.set("reader", templateText(report.reader));
     card.set("lost", number(objectsLost(report)));

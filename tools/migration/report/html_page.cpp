@@ -49,10 +49,10 @@ TemplateData figure(const char* address, qint64 count, const QString& words)
 TemplateList figures(const Totals& totals)
 {
     return {
-        figure("status=whole", totals.whole, tr("imported completely")),
-        figure("status=changed", totals.changed, tr("changed in looks, nothing lost")),
-        figure("status=loss&sort=lost", totals.withLoss, tr("with losses")),
-        figure("status=not-imported", totals.failed, tr("not imported")),
+        figure("status=complete", totals.complete, verdictWords(Verdict::Complete)),
+        figure("status=changed", totals.changed, verdictWords(Verdict::Changed)),
+        figure("status=lossy&sort=lost", totals.lossy, verdictWords(Verdict::Lossy)),
+        figure("status=failed", totals.failed, verdictWords(Verdict::Failed)),
     };
 }
 
@@ -108,17 +108,31 @@ TemplateList optionsOf(const QMap<QString, qint64>& counts)
     return options;
 }
 
+// The ways to fail that have a name of their own.
+QString statusWords(Status status)
+{
+    switch (status) {
+    case Status::Crashed:
+        return tr("crashed");
+    case Status::TimedOut:
+        return tr("timed out");
+    case Status::OutOfMemory:
+        return tr("out of memory");
+    default:
+        return statusName(status);
+    }
+}
+
 TemplateList statusOptions()
 {
     TemplateList options;
     addOption(options, {}, tr("all"));
-    for (const char* state : {"whole", "changed", "loss"}) {
-        addOption(options, QString::fromLatin1(state), stateWords(QString::fromLatin1(state)));
+    for (const Verdict verdict :
+         {Verdict::Complete, Verdict::Changed, Verdict::Lossy, Verdict::Failed}) {
+        addOption(options, verdictName(verdict), verdictWords(verdict));
     }
-    addOption(options, u"imported"_s, tr("imported"));
-    addOption(options, u"not-imported"_s, tr("not imported"));
-    for (const char* state : {"failed", "crashed", "timed-out", "out-of-memory"}) {
-        addOption(options, QString::fromLatin1(state), stateWords(QString::fromLatin1(state)));
+    for (const Status status : {Status::Crashed, Status::TimedOut, Status::OutOfMemory}) {
+        addOption(options, statusName(status), statusWords(status));
     }
     return options;
 }
@@ -172,7 +186,7 @@ TemplateData pageHeadData(const Totals& totals, const QString& note)
     page.set("hasNote", !note.isEmpty());
     page.set("note", templateText(note));
     page.set("headline", templateText(tr("%1 of %2 files imported completely")
-                                          .arg(number(totals.whole), number(totals.files))));
+                                          .arg(number(totals.complete), number(totals.files))));
     page.set("figures", TemplateData(figures(totals)));
     page.set("objects", templateText(objectsSentence(totals)));
     page.set("hasCodes", !totals.filesByCode.isEmpty());

@@ -8,8 +8,7 @@
   const nothing = document.getElementById("nothing");
   const cards = [...list.children];
   const fields = ["q", "status", "code", "reader", "sort"];
-  const failures = new Set(["failed", "crashed", "timed-out", "out-of-memory"]);
-  const states = ["whole", "changed", "loss", "failed", "timed-out", "out-of-memory", "crashed"];
+  const verdicts = ["complete", "changed", "lossy", "failed"];
   const collator = new Intl.Collator(undefined, { numeric: true });
   const texts = new Map();
   let order = "";
@@ -22,7 +21,7 @@
     problems: (a, b) => number(b, "problems") - number(a, "problems") || byPlace(a, b),
     lost: (a, b) => number(b, "lost") - number(a, "lost") || byPlace(a, b),
     status: (a, b) =>
-      states.indexOf(b.dataset.state) - states.indexOf(a.dataset.state) || byPlace(a, b),
+      verdicts.indexOf(b.dataset.verdict) - verdicts.indexOf(a.dataset.verdict) || byPlace(a, b),
   };
 
   const textOf = (card) => {
@@ -33,8 +32,7 @@
   };
 
   const fitsStatus = (card, status) =>
-    status === "" || card.dataset.state === status || card.dataset.status === status ||
-    (status === "not-imported" && failures.has(card.dataset.status));
+    status === "" || card.dataset.verdict === status || card.dataset.status === status;
 
   const fits = (card, view) =>
     fitsStatus(card, view.status) &&

@@ -155,7 +155,7 @@ QString describeForPeople(const FileReport& report)
 {
     return headOf(report) + itemTable(report) +
            section(tr("Data sources:"), report.datasources, sourceWords) +
-           section(tr("Imported completely:"), report.whole, countWords) +
+           section(tr("Imported completely:"), report.complete, countWords) +
            section(tr("Imported with changes:"), report.changed, findingWords) +
            section(tr("Not imported:"), report.lost, findingWords) +
            section(tr("Warnings:"), report.issues, [](const IssueReport& issue) {

@@ -2,10 +2,7 @@
 
 #include "fields/field_archives.h"
 
-#include <QCoreApplication>
 #include <QSet>
-
-#include <algorithm>
 
 /// Counts by name.
 template <>
@@ -39,20 +36,15 @@ QSet<QString> codesOf(const FileReport& report)
     return codes;
 }
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("migration::Totals", text);
-}
-
 } // namespace
 
 // Not in the unnamed namespace, where argument-dependent lookup finds nothing.
 void describe(auto& field, fields::ValuesOf<Totals> auto& totals)
 {
     field("files", totals.files);
-    field("whole", totals.whole);
+    field("complete", totals.complete);
     field("changed", totals.changed);
-    field("withLoss", totals.withLoss);
+    field("lossy", totals.lossy);
     field("failed", totals.failed);
     field("objectsInFiles", totals.objectsInFiles);
     field("objectsImported", totals.objectsImported);
@@ -62,35 +54,19 @@ void describe(auto& field, fields::ValuesOf<Totals> auto& totals)
     field("filesByCode", totals.filesByCode);
 }
 
-QString stateOf(const FileReport& report)
+qint64& Totals::filesOf(Verdict verdict)
 {
-    if (report.status != Status::Imported) {
-        return statusName(report.status);
+    switch (verdict) {
+    case Verdict::Complete:
+        return complete;
+    case Verdict::Changed:
+        return changed;
+    case Verdict::Lossy:
+        return lossy;
+    case Verdict::Failed:
+        break;
     }
-    if (hasLoss(report)) {
-        return u"loss"_s;
-    }
-    return isWhole(report) ? u"whole"_s : u"changed"_s;
-}
-
-QString stateWords(const QString& state)
-{
-    struct Row
-    {
-        QLatin1String state;
-        const char* words;
-    };
-    static constexpr Row Rows[] = {
-        {"whole"_L1, QT_TRANSLATE_NOOP("migration::Totals", "imported completely")},
-        {"changed"_L1, QT_TRANSLATE_NOOP("migration::Totals", "changed in looks")},
-        {"loss"_L1, QT_TRANSLATE_NOOP("migration::Totals", "with losses")},
-        {"crashed"_L1, QT_TRANSLATE_NOOP("migration::Totals", "crashed")},
-        {"timed-out"_L1, QT_TRANSLATE_NOOP("migration::Totals", "timed out")},
-        {"out-of-memory"_L1, QT_TRANSLATE_NOOP("migration::Totals", "out of memory")},
-    };
-    const auto* row = std::find_if(std::begin(Rows), std::end(Rows),
-                                   [&state](const Row& each) { return each.state == state; });
-    return row != std::end(Rows) ? tr(row->words) : tr("failed");
+    return failed;
 }
 
 void Totals::add(const FileReport& report)
@@ -102,13 +78,11 @@ void Totals::add(const FileReport& report)
     for (const QString& code : codes) {
         ++filesByCode[code];
     }
-    const QString state = stateOf(report);
-    whole += state == "whole"_L1 ? 1 : 0;
-    changed += state == "changed"_L1 ? 1 : 0;
-    withLoss += state == "loss"_L1 ? 1 : 0;
+    ++filesOf(verdictOf(report));
     if (report.status != Status::Imported) {
-        ++failed;
-    } else if (report.objects.inFile) {
+        return;
+    }
+    if (report.objects.inFile) {
         objectsInFiles += *report.objects.inFile;
         objectsImported += report.objects.imported;
     } else {

@@ -12,10 +12,10 @@ namespace migration {
 struct Totals
 {
     qint64 files = 0;
-    qint64 whole = 0;           ///< imported, nothing lost, nothing changed
-    qint64 changed = 0;         ///< imported without a loss, but not whole
-    qint64 withLoss = 0;        ///< imported, and hasLoss()
-    qint64 failed = 0;          ///< not imported
+    qint64 complete = 0; ///< files of each verdict
+    qint64 changed = 0;
+    qint64 lossy = 0;
+    qint64 failed = 0;
     qint64 objectsInFiles = 0;  ///< of the imported files whose objects are counted
     qint64 objectsImported = 0; ///< of the same files
     qint64 uncounted = 0;       ///< imported files whose objects are not counted
@@ -24,12 +24,10 @@ struct Totals
     QMap<QString, qint64> filesByCode; ///< files with a problem of this code
 
     void add(const FileReport& report);
-};
 
-/// The state of a file: "whole", "changed" or "loss", or its status if it is not imported.
-[[nodiscard]] QString stateOf(const FileReport& report);
-/// The same for the user.
-[[nodiscard]] QString stateWords(const QString& state);
+private:
+    [[nodiscard]] qint64& filesOf(Verdict verdict);
+};
 
 [[nodiscard]] QJsonObject toJson(const Totals& totals);
 
