@@ -27,6 +27,8 @@ migration::FileReport imported()
     migration::FileReport report;
     report.file = u"a.cnv"_s;
     report.status = migration::Status::Imported;
+    report.objects.inFile = 1;
+    report.objects.imported = 1;
     return report;
 }
 
