@@ -4,6 +4,8 @@
 #include "console/command_line.h"
 #include "console/output.h"
 #include "importer/reader_choice.h"
+#include "printing/sheet_json.h"
+#include "printing/sheet_presets.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -74,6 +76,37 @@ QStringList suffixesOf(const Format& format)
     return suffixes;
 }
 
+QJsonArray sheetsAsJson()
+{
+    QJsonArray sheets;
+    for (const printing::Sheet& sheet : printing::sheetPresets()) {
+        sheets.append(printing::toJson(sheet));
+    }
+    return sheets;
+}
+
+QString sheetLine(const printing::Sheet& sheet)
+{
+    return u"  %1 %2 %3\n"_s.arg(sheet.names.join(u", "_s), -24)
+        .arg(sheet.paper, -7)
+        .arg(tr("%1 × %2 labels of %3 × %4 mm")
+                 .arg(sheet.columns)
+                 .arg(sheet.rows)
+                 .arg(sheet.label.width())
+                 .arg(sheet.label.height()));
+}
+
+QString sheetsAsText()
+{
+    QString text = tr("Sheets (--sheet):") + u'\n';
+    text += u"  %1 %2\n"_s.arg(printing::paperNames().join(u", "_s), -24)
+                .arg(tr("plain paper, with as many labels as fit"));
+    for (const printing::Sheet& sheet : printing::sheetPresets()) {
+        text += sheetLine(sheet);
+    }
+    return text;
+}
+
 QJsonObject asJson()
 {
     QJsonArray readers;
@@ -88,7 +121,7 @@ QJsonObject asJson()
         targets.append(QJsonObject{{u"name"_s, nameOf(row.target)},
                                    {u"description"_s, QLatin1String(row.description)}});
     }
-    return {{u"readers"_s, readers}, {u"targets"_s, targets}};
+    return {{u"readers"_s, readers}, {u"targets"_s, targets}, {u"sheets"_s, sheetsAsJson()}};
 }
 
 QString asText()
@@ -104,7 +137,7 @@ QString asText()
     for (const TargetRow& row : Targets) {
         text += u"  %1 %2\n"_s.arg(nameOf(row.target), -13).arg(tr(row.description));
     }
-    return text;
+    return text + u'\n' + sheetsAsText();
 }
 
 } // namespace

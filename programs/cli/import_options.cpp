@@ -2,6 +2,7 @@
 
 #include "archive/input_list.h"
 #include "cli/existing_output.h"
+#include "cli/option_reader.h"
 #include "cli/option_table.h"
 #include "console/command_line.h"
 #include "console/file_name.h"
@@ -16,51 +17,6 @@
 namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
-
-/// Reads the values of parsed options; keeps the first error.
-class OptionReader
-{
-public:
-    explicit OptionReader(const QCommandLineParser& parser)
-        : m_parser(parser)
-    {}
-
-    [[nodiscard]] const QString& error() const { return m_error; }
-
-    bool isSet(QLatin1String name) const { return m_parser.isSet(name); }
-    QString text(QLatin1String name) const { return m_parser.value(name); }
-    QStringList texts(QLatin1String name) const { return m_parser.values(name); }
-
-    int number(QLatin1String name, int least, int most, int whenMissing)
-    {
-        if (!isSet(name)) {
-            return whenMissing;
-        }
-        bool isNumber = false;
-        const int value = text(name).toInt(&isNumber);
-        if (!isNumber || value < least || value > most) {
-            fail(QCoreApplication::translate("cli::ImportOptions",
-                                             "--%1 expects a whole number from %2 to %3, not "
-                                             "\"%4\".")
-                     .arg(name)
-                     .arg(least)
-                     .arg(most)
-                     .arg(text(name)));
-        }
-        return value;
-    }
-
-    void fail(const QString& error)
-    {
-        if (m_error.isEmpty()) {
-            m_error = error;
-        }
-    }
-
-private:
-    const QCommandLineParser& m_parser;
-    QString m_error;
-};
 
 void takeTargets(OptionReader& given, ImportOptions& options)
 {
@@ -78,25 +34,15 @@ void takeTargets(OptionReader& given, ImportOptions& options)
     }
 }
 
-void takeRecords(OptionReader& given, ImportOptions& options)
+void checkSheet(OptionReader& given, const ImportOptions& options)
 {
-    const QLatin1String name("records");
-    const auto records = recordRangeOf(given.isSet(name) ? given.text(name) : u"1"_s);
-    if (!records) {
-        given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "--records expects a number, a range such as 3-12 "
-                                               "or 3-, or all, not \"%1\".")
-                       .arg(given.text(name)));
-    }
-    options.job.records = records.value_or(RecordRange{});
-}
-
-void takeReader(OptionReader& given, ImportOptions& options)
-{
-    const QLatin1String name("reader");
-    options.job.reader = readerOfName(given.text(name));
-    if (given.isSet(name) && !options.job.reader) {
-        given.fail(unknownReaderMessage(given.text(name)));
+    const bool isUsed = options.targets.contains(Target::Pdf);
+    for (const QLatin1String name : {"sheet"_L1, "copies"_L1}) {
+        if (given.isSet(name) && !isUsed) {
+            given.fail(QCoreApplication::translate("cli::ImportOptions",
+                                                   "--%1 has no effect without --to pdf.")
+                           .arg(name));
+        }
     }
 }
 
@@ -124,19 +70,6 @@ void takeReports(OptionReader& given, ImportOptions& options)
     }
     options.failOnLoss = given.isSet("fail-on-loss"_L1);
     options.job.report = options.failOnLoss || !options.reports.isEmpty();
-}
-
-archive::WorkerLimits takeLimits(OptionReader& given)
-{
-    archive::WorkerLimits limits;
-    limits.timeoutSeconds = given.number("timeout"_L1, 0, MaximumTimeout, limits.timeoutSeconds);
-    limits.memoryMiB = given.number("memory-limit"_L1, 0, MaximumMemory, limits.memoryMiB);
-    if (limits.memoryMiB > 0 && limits.memoryMiB < MinimumMemory) {
-        given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                               "--memory-limit expects 0 or at least %1 MiB.")
-                       .arg(MinimumMemory));
-    }
-    return limits;
 }
 
 void takeNumbers(OptionReader& given, ImportOptions& options)
@@ -191,9 +124,11 @@ ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
     options.isNullSeparated = given.isSet("null"_L1);
     options.base = given.text("base"_L1);
     takeTargets(given, options);
-    takeRecords(given, options);
+    takeRecords(given, u"1"_s, options.job);
+    takeSheet(given, options.job);
+    checkSheet(given, options);
     takeNumbers(given, options);
-    takeReader(given, options);
+    takeReader(given, options.job);
     checkInputs(given, options);
     options.outputDir = given.isSet("output-dir"_L1) ? given.text("output-dir"_L1) : u"."_s;
     takeShard(given, options);

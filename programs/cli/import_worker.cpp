@@ -31,8 +31,7 @@ QStringList warningsOf(const OpenedLabel& label)
 void writeAll(OpenedLabel& label, const archive::Job& job, const JobOptions& options,
               const archive::Heartbeat& heartbeat, archive::FileResult& result)
 {
-    LabelWriter writer(label, {options.dpi, options.records, options.force, job.known}, job.staging,
-                       heartbeat);
+    LabelWriter writer(label, {options, job.known}, job.staging, heartbeat);
     for (const archive::PlannedFile& output : job.outputs) {
         const std::optional<Target> target = targetOfName(output.target);
         if (target) {

@@ -12,6 +12,10 @@ constexpr QLatin1String DpiKey("dpi");
 constexpr QLatin1String FirstKey("first");
 constexpr QLatin1String LastKey("last");
 constexpr QLatin1String ReaderKey("reader");
+constexpr QLatin1String SheetKey("sheet");
+constexpr QLatin1String FirstPositionKey("firstPosition");
+constexpr QLatin1String CopiesKey("copies");
+constexpr QLatin1String CropMarksKey("cropMarks");
 constexpr QLatin1String ForceKey("force");
 constexpr QLatin1String ReportKey("report");
 constexpr QLatin1String ItemsKey("items");
@@ -26,6 +30,15 @@ QJsonObject outputOptions(const JobOptions& options)
     }
     if (options.reader) {
         object.insert(ReaderKey, readerOf(*options.reader).name);
+    }
+    // Journals of earlier versions do not have these keys.
+    if (!options.sheet.isEmpty()) {
+        object.insert(SheetKey, options.sheet);
+        object.insert(FirstPositionKey, options.firstPosition);
+        object.insert(CropMarksKey, options.cropMarks);
+    }
+    if (options.copies > 1) {
+        object.insert(CopiesKey, options.copies);
     }
     return object;
 }
@@ -45,6 +58,10 @@ JobOptions jobOptionsFromJson(const QJsonObject& object)
         options.records.last = object.value(LastKey).toInteger();
     }
     options.reader = readerOfName(object.value(ReaderKey).toString());
+    options.sheet = object.value(SheetKey).toString();
+    options.firstPosition = object.value(FirstPositionKey).toInt();
+    options.copies = object.value(CopiesKey).toInt(options.copies);
+    options.cropMarks = object.value(CropMarksKey).toBool();
     options.force = object.value(ForceKey).toBool();
     options.report = object.value(ReportKey).toBool();
     options.items = object.value(ItemsKey).toBool();

@@ -16,6 +16,10 @@ struct JobOptions
 {
     int dpi = 300;
     RecordRange records;
+    QString sheet;         ///< of PDF documents; empty: pages of the label's size
+    int firstPosition = 0; ///< on the first sheet
+    int copies = 1;        ///< of each record, in PDF documents
+    bool cropMarks = false;
     std::optional<ReaderKind> reader; ///< empty: selected by name or content
     bool force = false;               ///< overwrite files that are not ours
     bool report = false;              ///< report on the file

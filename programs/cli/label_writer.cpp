@@ -3,6 +3,8 @@
 #include "archive/publish.h"
 #include "cli/existing_output.h"
 #include "cli/label_input.h"
+#include "printing/print_document.h"
+#include "printing/sheet_presets.h"
 #include "workbench/document/label_file.h"
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"
@@ -95,6 +97,22 @@ QString writeOne(const OpenedLabel& label, Target target, const QString& output,
     return {};
 }
 
+printing::PrintLayout layoutFor(const JobOptions& options, const workbench::Canvas& canvas)
+{
+    return {printing::sheetOfName(options.sheet, printing::labelSize(canvas)),
+            options.firstPosition, options.copies, options.cropMarks};
+}
+
+QString layoutProblem(const printing::PrintLayout& layout, const workbench::Canvas& canvas,
+                      qint64 count)
+{
+    const QSizeF size = printing::labelSize(canvas);
+    if (layout.sheet && printing::fitOf(*layout.sheet, size) == printing::Fit::TooLarge) {
+        return printing::misfitMessage(*layout.sheet, size);
+    }
+    return printing::problemOf(layout, count);
+}
+
 } // namespace
 
 LabelWriter::LabelWriter(OpenedLabel& label, WriteOptions options, const QString& staging,
@@ -115,7 +133,7 @@ Written LabelWriter::write(Target target, const QString& output)
                                                   workbench::document::Origin::Import, m_heartbeat);
         });
     }
-    const Records records = recordsOf(m_label, m_options.records);
+    const Records records = recordsOf(m_label, m_options.job.records);
     if (!records.error.isEmpty()) {
         return {{}, records.error};
     }
@@ -128,11 +146,11 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
     if (console::kindOf(output) == console::FileKind::Folder) {
         return {{}, archive::folderInPlaceMessage(output)};
     }
-    if (!m_options.force && !mayOverwrite(output, m_options.known)) {
+    if (!m_options.job.force && !mayOverwrite(output, m_options.known)) {
         return {{}, archive::foreignFileMessage(output)};
     }
     const bool mayReplace =
-        m_options.force || console::kindOf(output) != console::FileKind::Missing;
+        m_options.job.force || console::kindOf(output) != console::FileKind::Missing;
     const QString name = u"%1.%2"_s.arg(++m_written).arg(QFileInfo(output).suffix());
     const QString path = QDir(m_reachable.path()).filePath(name);
     QString error = write(path);
@@ -148,12 +166,20 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
 
 Written LabelWriter::writeDocument(const QString& output, qint64 first, qint64 count)
 {
+    const workbench::Canvas& canvas = *m_label.canvas;
+    const printing::PrintLayout layout = layoutFor(m_options.job, canvas);
+    const QString problem = layoutProblem(layout, canvas, count);
+    if (!problem.isEmpty()) {
+        return {{}, problem};
+    }
+    const auto show = [&](qint64 record) {
+        m_label.showRecord(first + record);
+        m_heartbeat();
+        return &canvas;
+    };
     return writeFile(output, [&](const QString& file) {
-        return workbench::writePdf(*m_label.canvas, file, titleOf(output), count, [&](qint64 page) {
-            m_label.showRecord(first + page);
-            m_heartbeat();
-            return true;
-        });
+        return printing::writePrintDocument(file, titleOf(output), layout,
+                                            {count, canvas.page().size, show});
     });
 }
 
@@ -164,7 +190,7 @@ Written LabelWriter::writeSeries(Target target, const QString& output, qint64 fi
         m_label.showRecord(record);
         const QString name = count > 1 ? numbered(output, record) : output;
         Written one = writeFile(name, [&](const QString& file) {
-            return writeOne(m_label, target, file, titleOf(output), m_options.dpi);
+            return writeOne(m_label, target, file, titleOf(output), m_options.job.dpi);
         });
         all.files += one.files;
         all.error = one.error;

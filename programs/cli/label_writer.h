@@ -2,7 +2,7 @@
 
 #include "archive/messages.h"
 #include "archive/worker_loop.h"
-#include "cli/record_range.h"
+#include "cli/job_options.h"
 #include "cli/targets.h"
 #include "console/file_name.h"
 
@@ -18,9 +18,7 @@ struct OpenedLabel;
 /// How outputs are made.
 struct WriteOptions
 {
-    int dpi = 300;
-    RecordRange records;
-    bool force = false;              ///< overwrite any file
+    JobOptions job;
     QList<archive::FileStamp> known; ///< outputs of earlier commands, which may be overwritten
 };
 

@@ -29,6 +29,26 @@ constexpr Option ReaderOption{
                       "the content."),
     Completion::Words, ReaderNames};
 
+constexpr Option SheetOption{
+    "sheet", QT_TRANSLATE_NOOP("cli::Options", "name"),
+    QT_TRANSLATE_NOOP("cli::Options",
+                      "Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other "
+                      "plain paper; see labelport formats. Default: paper of the label's size.")};
+constexpr Option FirstPositionOption{
+    "first-position", QT_TRANSLATE_NOOP("cli::Options", "number"),
+    QT_TRANSLATE_NOOP("cli::Options",
+                      "First free label of the first sheet, counted from 1 along the rows "
+                      "(default: 1).")};
+constexpr Option CopiesOption{
+    "copies", QT_TRANSLATE_NOOP("cli::Options", "number"),
+    QT_TRANSLATE_NOOP("cli::Options",
+                      "Copies of each record, one after the other, in documents and prints "
+                      "(default: 1).")};
+constexpr Option CropMarksOption{
+    "crop-marks", nullptr,
+    QT_TRANSLATE_NOOP("cli::Options", "Print marks on the edges of sheets that show where to "
+                                      "cut.")};
+
 constexpr std::array ImportOptions{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "targets"),
            QT_TRANSLATE_NOOP("cli::Options",
@@ -50,6 +70,10 @@ constexpr std::array ImportOptions{
                              "or 3-, or all (default: the first). Pictures of a range are "
                              "numbered; a PDF has one page for each record."),
            Completion::Words, "all"},
+    SheetOption,
+    FirstPositionOption,
+    CopiesOption,
+    CropMarksOption,
     Option{"force", nullptr,
            QT_TRANSLATE_NOOP("cli::Options",
                              "Overwrite files that labelport did not write, and edited labels.")},
@@ -128,6 +152,7 @@ constexpr const char* ImportDescription = QT_TRANSLATE_NOOP(
     "  labelport import shelf.odg\n"
     "  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new\n"
     "  labelport import asset.label --to pdf --records all\n"
+    "  labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5\n"
     "  labelport import archive --output-dir new --to label --report report.html\n"
     "  labelport import archive --output-dir new --to label --resume\n"
     "  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive\n"
@@ -153,7 +178,8 @@ constexpr const char* ReportDescription = QT_TRANSLATE_NOOP(
 
 constexpr const char* FormatsDescription =
     QT_TRANSLATE_NOOP("cli::Options", "Lists the formats that labelport reads, with their "
-                                      "versions, and the formats that it writes.\n\n"
+                                      "versions, the formats that it writes, and the\n"
+                                      "sheets for --sheet.\n\n"
                                       "Examples:\n"
                                       "  labelport formats\n"
                                       "  labelport formats --json | jq -r '.readers[].suffixes[]'");

@@ -116,7 +116,8 @@ TEST(ArchiveOptions, AreRefusedWithoutEffect)
 TEST(JobOptions, SurviveTheirJson)
 {
     for (const char* line : {"a", "a --dpi 72 --records 2-9 --force --reader tavrel",
-                             "a --records all", "a --report a.json"}) {
+                             "a --records all", "a --report a.json",
+                             "a --to pdf --sheet A4 --first-position 3 --copies 2 --crop-marks"}) {
         SCOPED_TRACE(line);
         const cli::JobOptions options = accepted(line).job;
         QJsonObject object = cli::outputOptions(options);
@@ -129,6 +130,10 @@ TEST(JobOptions, SurviveTheirJson)
         EXPECT_EQ(read.records.first, options.records.first);
         EXPECT_EQ(read.records.last, options.records.last);
         EXPECT_EQ(read.reader, options.reader);
+        EXPECT_EQ(read.sheet, options.sheet);
+        EXPECT_EQ(read.firstPosition, options.firstPosition);
+        EXPECT_EQ(read.copies, options.copies);
+        EXPECT_EQ(read.cropMarks, options.cropMarks);
         EXPECT_EQ(read.force, options.force);
         EXPECT_EQ(read.report, options.report);
         EXPECT_EQ(read.items, options.items);
@@ -142,6 +147,12 @@ TEST(JobOptions, SeparateThoseThatChangeOutputs)
     for (const char* other :
          {"a --dpi 72", "a --records 2", "a --records all", "a --reader tavrel"}) {
         EXPECT_NE(decisive("a"), decisive(other)) << other;
+    }
+    EXPECT_EQ(decisive("a"), decisive("a --to pdf"));
+    for (const char* other :
+         {"a --to pdf --copies 2", "a --to pdf --sheet A4", "a --to pdf --sheet A5",
+          "a --to pdf --sheet A4 --first-position 2", "a --to pdf --sheet A4 --crop-marks"}) {
+        EXPECT_NE(decisive("a --to pdf --sheet L7160"), decisive(other)) << other;
     }
 }
 

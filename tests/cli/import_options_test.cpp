@@ -112,4 +112,30 @@ TEST(ImportOptions, ShowHelp)
     }
 }
 
+TEST(ImportOptions, SelectASheet)
+{
+    const cli::JobOptions options =
+        accepted("a.odg --to pdf --sheet l7160 --first-position 5 --copies 3 --crop-marks").job;
+    EXPECT_EQ(options.sheet, u"l7160"_s);
+    EXPECT_EQ(options.firstPosition, 4);
+    EXPECT_EQ(options.copies, 3);
+    EXPECT_TRUE(options.cropMarks);
+}
+
+TEST(ImportOptions, RefuseSheetsThatHaveNoEffect)
+{
+    EXPECT_EQ(refusal("a.odg --to pdf --sheet L716"),
+              u"Unknown sheet \"L716\". \"labelport formats\" lists the sheets. Did you mean "
+              "\"L7160\"?"_s);
+    EXPECT_EQ(refusal("a.odg --sheet L7160"), u"--sheet has no effect without --to pdf."_s);
+    EXPECT_EQ(refusal("a.odg --copies 2"), u"--copies has no effect without --to pdf."_s);
+    EXPECT_EQ(refusal("a.odg --to pdf --crop-marks"),
+              u"--crop-marks has no effect without --sheet."_s);
+    EXPECT_EQ(refusal("a.odg --to pdf --first-position 2"),
+              u"--first-position has no effect without --sheet."_s);
+    EXPECT_TRUE(refusal("a.odg --to pdf --sheet A4 --first-position 0")
+                    .startsWith(u"--first-position expects a whole number from 1"_s));
+    EXPECT_TRUE(refusal("a.odg --to pdf --copies 1001").startsWith(u"--copies expects"_s));
+}
+
 } // namespace

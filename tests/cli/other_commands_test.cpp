@@ -108,14 +108,16 @@ TEST_F(OtherCommands, FormatsAreListed)
 {
     const Outcome text = labelport(words("formats"));
     EXPECT_EQ(text.status, 0);
-    for (const char* word : {"tavrel", "*.cnv", "*.roc", "orvanta", "*.qmtx", "opendocument",
-                             "*.odt", "*.odg", "*.label", "2000016", "png", "svg", "pdf"}) {
-        EXPECT_TRUE(text.out.contains(QLatin1String(word))) << word;
+    for (const char* word :
+         {"tavrel", "*.cnv", "*.roc", "orvanta", "*.qmtx", "opendocument", "*.odt", "*.odg",
+          "*.label", "2000016", "png", "svg", "pdf", "L7160, J8160", "5160", "63.5 × 38.1 mm"}) {
+        EXPECT_TRUE(text.out.contains(QString::fromUtf8(word))) << word;
     }
     const QJsonObject json =
         QJsonDocument::fromJson(labelport(words("formats --json")).out.toUtf8()).object();
     EXPECT_EQ(json.value("readers"_L1).toArray().size(), 4);
     EXPECT_EQ(json.value("targets"_L1).toArray().size(), 4);
+    EXPECT_GE(json.value("sheets"_L1).toArray().size(), 30);
 }
 
 TEST_F(OtherCommands, ReportSaysWhatItCannotMerge)

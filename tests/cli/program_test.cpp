@@ -120,6 +120,32 @@ TEST_F(LabelportProgram, NumbersFilesOnlyIfThereAreSeveral)
     EXPECT_EQ(outcome.out, QStringLiteral("sample_vial.png\n"));
 }
 
+TEST_F(LabelportProgram, PutsRecordsOnSheets)
+{
+    const auto pagesOf = [this](const char* options) {
+        const Outcome outcome = labelport(QStringList{u"import"_s, sample("orvanta/asset_tag.qmtx"),
+                                                      u"--to"_s, u"pdf"_s, u"--force"_s} +
+                                          words(options));
+        EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+        return read(u"asset_tag.pdf"_s).count("/Type /Page\n");
+    };
+    EXPECT_EQ(pagesOf("--records 1-20"), 20);
+    EXPECT_EQ(pagesOf("--records 1-20 --copies 2"), 40);
+    EXPECT_EQ(pagesOf("--records 1-20 --sheet L7163 --crop-marks"), 2);
+    EXPECT_EQ(pagesOf("--records 1-8 --sheet L7163 --copies 2 --first-position 14"), 3);
+    EXPECT_EQ(pagesOf("--sheet letter"), 1);
+}
+
+TEST_F(LabelportProgram, RefusesSheetsForWhichALabelIsTooLarge)
+{
+    const Outcome outcome = labelport(QStringList{u"import"_s, sample("orvanta/asset_tag.qmtx")} +
+                                      words("--to pdf --sheet L4731"));
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.err.contains(u"the labels of sheet \"L4731\" are only 25.4 × 10 mm."_s))
+        << qPrintable(outcome.err);
+    EXPECT_FALSE(has("asset_tag.pdf"));
+}
+
 TEST_F(LabelportProgram, RefusesRecordsThatALabelDoesNotHave)
 {
     const Outcome outcome =

@@ -85,9 +85,8 @@ QByteArray svgOf(const Canvas& canvas, const QString& title)
 }
 
 // In whole points, as QPdfWriter writes it, rounded up: TrueSizePdf corrects it.
-QPageSize pageSizeOf(const Canvas& canvas)
+QPageSize pageSizeOf(const QSizeF& page)
 {
-    const QSizeF page = canvas.page().size;
     return QPageSize(QSizeF(std::ceil(page.width()), std::ceil(page.height())), QPageSize::Point,
                      {}, QPageSize::ExactMatch);
 }
@@ -97,14 +96,35 @@ bool isTooLargeForPdf(const QSizeF& page)
     return std::max(page.width(), page.height()) > MaximumPdfSide;
 }
 
-void setUp(QPdfWriter& writer, const Canvas& canvas, const QString& title)
+void setUp(QPdfWriter& writer, const QSizeF& page, const QString& title)
 {
     writer.setResolution(PdfDpi);
-    writer.setPageSize(pageSizeOf(canvas));
+    writer.setPageSize(pageSizeOf(page));
     writer.setPageOrientation(QPageLayout::Portrait);
     writer.setPageMargins(QMarginsF());
     writer.setCreator(u"LabelPort"_s);
     writer.setTitle(title);
+}
+
+bool paintPages(QPdfWriter& writer, qint64 pages, const PaintPdfPage& paint)
+{
+    QPainter painter;
+    if (pages < 1 || !painter.begin(&writer)) {
+        return false;
+    }
+    for (qint64 page = 0; page < pages; ++page) {
+        if (page > 0 && !writer.newPage()) {
+            return false;
+        }
+        painter.save();
+        painter.scale(writer.logicalDpiX() / PointsPerInch, writer.logicalDpiY() / PointsPerInch);
+        const bool isPainted = paint(painter, page);
+        painter.restore();
+        if (!isPainted) {
+            return false;
+        }
+    }
+    return painter.end();
 }
 
 } // namespace
@@ -125,7 +145,20 @@ QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& t
 QString writePdf(const Canvas& canvas, const QString& fileName, const QString& title, qint64 pages,
                  const PreparePage& prepare)
 {
-    if (isTooLargeForPdf(canvas.page().size)) {
+    return writePdf(fileName, title, canvas.page().size, pages,
+                    [&](QPainter& painter, qint64 page) {
+                        if (!prepare(page)) {
+                            return false;
+                        }
+                        paintPage(painter, canvas);
+                        return true;
+                    });
+}
+
+QString writePdf(const QString& fileName, const QString& title, const QSizeF& page, qint64 pages,
+                 const PaintPdfPage& paint)
+{
+    if (isTooLargeForPdf(page)) {
         return Words::tr(
                    "The page is longer than %1 points, the most that a PDF document can have.")
             .arg(MaximumPdfSide);
@@ -137,11 +170,11 @@ QString writePdf(const Canvas& canvas, const QString& fileName, const QString& t
     bool isComplete = false;
     bool isStopped = false;
     {
-        TrueSizePdf document(file, canvas.page().size);
+        TrueSizePdf document(file, page);
         QPdfWriter writer(&document);
-        setUp(writer, canvas, title);
-        isComplete = paintPages(writer, canvas, pages, [&](qint64 page) {
-            isStopped = !prepare(page);
+        setUp(writer, page, title);
+        isComplete = paintPages(writer, pages, [&](QPainter& painter, qint64 number) {
+            isStopped = !paint(painter, number);
             return !isStopped;
         });
     }

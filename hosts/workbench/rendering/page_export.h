@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QSizeF>
 #include <QString>
 #include <QtGlobal>
 
 #include <functional>
 
 class QPagedPaintDevice;
+class QPainter;
 
 namespace workbench {
 
@@ -18,6 +20,9 @@ inline constexpr double MaximumPdfSide = 14'400.0;
 /// no file is written.
 using PreparePage = std::function<bool(qint64 page)>;
 
+/// Paints the page of this number, counted from 0, in points. Return false to stop.
+using PaintPdfPage = std::function<bool(QPainter& painter, qint64 page)>;
+
 /// Writes the page as SVG in its true size: lines as lines, text as text, and each item as a group
 /// "item-N", counted from the bottom. The file is replaced completely or, on failure, not at all.
 /// Returns the error for the user; empty on success.
@@ -28,6 +33,12 @@ using PreparePage = std::function<bool(qint64 page)>;
 /// empty on success, and if stopped.
 [[nodiscard]] QString writePdf(const Canvas& canvas, const QString& fileName, const QString& title,
                                qint64 pages, const PreparePage& prepare);
+
+/// As above, for pages of any content.
+///
+/// @param page size of all pages in points
+[[nodiscard]] QString writePdf(const QString& fileName, const QString& title, const QSizeF& page,
+                               qint64 pages, const PaintPdfPage& paint);
 
 /// Paints pages in their true size on a printer, each at the upper left corner of the paper. False
 /// if it was stopped or the device failed.
