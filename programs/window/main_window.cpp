@@ -102,6 +102,8 @@ void MainWindow::connectCanvas()
             [this](const QPointF& point) { m_status->setPointer(point, m_unit); });
     connect(&canvas, &CanvasView::pointerLeft, this,
             [this] { m_status->setPointer(std::nullopt, m_unit); });
+    connect(&canvas, &CanvasView::hintShown, this,
+            [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
     connect(&canvas, &CanvasView::itemsMoved, m_session.get(), &LabelSession::moveItems);
     connect(m_canvas, &RuledCanvas::unitChangeWanted, this, [this] {
         setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimeter : LengthUnit::Inch);

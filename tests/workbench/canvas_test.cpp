@@ -185,3 +185,33 @@ TEST(Canvas, ShowsARecordOnBoundItemsOnly)
         8, [](int, qint64, const QStringList&) { return std::optional<QString>(); });
     EXPECT_EQ(page.image(), before);
 }
+
+TEST(Canvas, DetachesItemsAndAttachesThemInTheirPlaces)
+{
+    Canvas canvas;
+    workbench::ItemValues values;
+    values.box.size = QSizeF(10.0, 10.0);
+    for (int number = 0; number < 4; ++number) {
+        canvas.addItem(values);
+    }
+    const QList<CanvasItem*> all = canvas.items();
+    all.at(1)->graphicsItem()->setSelected(true);
+    QSignalSpy selections(canvas.scene(), &QGraphicsScene::selectionChanged);
+
+    const QList<workbench::DetachedItem> detached = canvas.detachItems({all.at(2), all.at(1)});
+    EXPECT_EQ(canvas.items(), (QList<CanvasItem*>{all.at(0), all.at(3)}));
+    EXPECT_FALSE(all.at(1)->graphicsItem()->isVisible());
+    EXPECT_TRUE(canvas.scene()->selectedItems().isEmpty());
+    EXPECT_EQ(selections.size(), 1);
+    ASSERT_EQ(detached.size(), 2);
+    EXPECT_EQ(detached.constFirst().item, all.at(1));
+
+    canvas.attachItems(detached);
+    EXPECT_EQ(canvas.items(), all);
+    EXPECT_EQ(canvas.itemsFromBottom(), all);
+    // The scene stacks items of the same z value as the canvas does.
+    const QList<QGraphicsItem*> stacked = canvas.scene()->items(Qt::AscendingOrder);
+    for (int number = 0; number < 4; ++number) {
+        EXPECT_EQ(stacked.at(number), all.at(number)->graphicsItem()) << number;
+    }
+}

@@ -178,7 +178,9 @@ void paintCaption(QPainter& painter, const BarcodeLayout& layout, const BarcodeS
                   const BarcodeStyle& style)
 {
     const Qt::Alignment across = style.captionAlignment & Qt::AlignHorizontal_Mask;
-    QTextOption option(Qt::AlignVCenter | (across ? across : Qt::Alignment(Qt::AlignLeft)));
+    QTextOption option(Qt::AlignVCenter | Qt::AlignAbsolute |
+                       (across ? across : Qt::Alignment(Qt::AlignLeft)));
+    option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setWrapMode(QTextOption::NoWrap);
     painter.setPen(style.textColor);
     paintText(painter, layout.caption, symbol.caption, style.font, layout.captionPixelSize, option);

@@ -4,6 +4,7 @@
 #include "workbench/items/item_limits.h"
 
 #include <QGraphicsItem>
+#include <QSet>
 
 #include <algorithm>
 
@@ -132,6 +133,39 @@ CanvasItem* Canvas::addItem(const ItemValues& values)
         importItem(item->contractItem());
     }
     return item;
+}
+
+QList<DetachedItem> Canvas::detachItems(const QList<CanvasItem*>& items)
+{
+    const QSet<CanvasItem*> wanted(items.begin(), items.end());
+    QList<DetachedItem> detached;
+    QList<CanvasItem*> kept;
+    {
+        // One change of the selection, not one for each item.
+        const QSignalBlocker silence(&m_scene);
+        for (qsizetype index = 0; index < m_items.size(); ++index) {
+            CanvasItem* item = m_items.at(index);
+            if (wanted.contains(item)) {
+                item->graphicsItem()->setVisible(false);
+                detached.append({item, index});
+            } else {
+                kept.append(item);
+            }
+        }
+    }
+    m_items = kept;
+    Q_EMIT itemsChanged();
+    Q_EMIT m_scene.selectionChanged();
+    return detached;
+}
+
+void Canvas::attachItems(const QList<DetachedItem>& items)
+{
+    for (const DetachedItem& each : items) {
+        m_items.insert(std::clamp<qsizetype>(each.index, 0, m_items.size()), each.item);
+        each.item->graphicsItem()->setVisible(true);
+    }
+    Q_EMIT itemsChanged();
 }
 
 void Canvas::clear()

@@ -25,6 +25,13 @@ struct PageValues
     bool operator==(const PageValues&) const = default;
 };
 
+/// An item that was taken off the canvas, and its index in insertion order.
+struct DetachedItem
+{
+    CanvasItem* item = nullptr;
+    qsizetype index = 0;
+};
+
 /// The canvas of one label: a page and its items, in a scene measured in points.
 ///
 /// In the scene, the page extends from (0, 0) to its size. The scene owns the items.
@@ -63,6 +70,14 @@ public:
 
     /// Creates an item with these values and adds it; null for an unknown item type.
     CanvasItem* addItem(const ItemValues& values);
+    /// Takes items off the canvas. They stay in the scene, hidden, so that attachItems() restores
+    /// their stacking; the scene still owns them. Ignores items that are not on the canvas.
+    /// Returns them in ascending order of their indexes.
+    [[nodiscard]] QList<DetachedItem> detachItems(const QList<CanvasItem*>& items);
+
+    /// Puts the items of detachItems() back at their indexes.
+    void attachItems(const QList<DetachedItem>& items);
+
     /// Deletes all items and resets the page.
     void clear();
 

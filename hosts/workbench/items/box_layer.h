@@ -87,16 +87,16 @@ public:
         return contentRect().normalized().adjusted(-margin, -margin, margin, margin);
     }
 
+    /// The painted area: clicks beside it go to the items below.
     [[nodiscard]] QPainterPath shape() const override
     {
-        QPainterPath path;
-        path.addRect(boundingRect());
-        return path;
+        return isDrawable() ? flipTransform(contentRect(), m_box).map(paintedArea())
+                            : QPainterPath();
     }
 
     [[nodiscard]] bool contains(const QPointF& point) const override
     {
-        return boundingRect().contains(point);
+        return shape().contains(point);
     }
 
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) final
@@ -109,13 +109,21 @@ public:
             painter->restore();
         }
         if (option != nullptr && option->state.testFlag(QStyle::State_Selected)) {
-            paintSelectionFrame(*painter, boundingRect());
+            paintSelectionFrame(*painter, contentRect().normalized());
         }
     }
 
 protected:
     /// Paints into contentRect(); the painter is antialiased and flipped.
     virtual void paintContent(QPainter& painter) = 0;
+
+    /// The area that paintContent() covers, before flips.
+    [[nodiscard]] virtual QPainterPath paintedArea() const
+    {
+        QPainterPath path;
+        path.addRect(contentRect().normalized());
+        return path;
+    }
 
     /// The box in item coordinates.
     [[nodiscard]] virtual QRectF contentRect() const { return {QPointF(0.0, 0.0), m_box.size}; }

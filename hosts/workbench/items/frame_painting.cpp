@@ -5,17 +5,24 @@
 
 namespace workbench {
 
+QTransform flipTransform(const QRectF& box, const BoxValues& values)
+{
+    if (!values.flipHorizontal && !values.flipVertical) {
+        return {};
+    }
+    const QPointF centre = box.center();
+    QTransform transform = QTransform::fromTranslate(centre.x(), centre.y());
+    transform.scale(values.flipHorizontal ? -1.0 : 1.0, values.flipVertical ? -1.0 : 1.0);
+    return transform.translate(-centre.x(), -centre.y());
+}
+
 void prepareContentPainter(QPainter& painter, const QRectF& box, const BoxValues& values)
 {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
-    if (!values.flipHorizontal && !values.flipVertical) {
-        return;
-    }
-    const QPointF centre = box.center();
-    painter.translate(centre);
-    painter.scale(values.flipHorizontal ? -1.0 : 1.0, values.flipVertical ? -1.0 : 1.0);
-    painter.translate(-centre);
+    // Widgets set their own direction, which must not change the label.
+    painter.setLayoutDirection(Qt::LeftToRight);
+    painter.setTransform(flipTransform(box, values), true);
 }
 
 void paintSelectionFrame(QPainter& painter, const QRectF& frame)

@@ -4,9 +4,14 @@
 
 #include <QRectF>
 
+#include <QTransform>
+
 class QPainter;
 
 namespace workbench {
+
+/// Mirrors within the box if the item is flipped.
+[[nodiscard]] QTransform flipTransform(const QRectF& box, const BoxValues& values);
 
 /// Prepares a painter for an item's content: antialiased, and mirrored within the box
 /// if the item is flipped.

@@ -101,6 +101,19 @@ void LineItem::paintContent(QPainter& painter)
     painter.fillPath(markerPath(atEnd, line.p2(), direction, width), penValues().color);
 }
 
+QPainterPath LineItem::paintedArea() const
+{
+    const double width = penValues().width;
+    const QPointF direction = unitVector(m_line.end, QLineF({}, m_line.end).length());
+    QPainterPath line;
+    line.lineTo(m_line.end);
+    QPainterPath area = strokedArea(line, penValues());
+    area.setFillRule(Qt::WindingFill);
+    area.addPath(markerPath(startMarker(m_line.startMarker), {}, -direction, width));
+    area.addPath(markerPath(endMarker(m_line.endMarker), m_line.end, direction, width));
+    return area;
+}
+
 void LineItem::collect(ItemValues& values) const
 {
     PenLayer::collect(values);

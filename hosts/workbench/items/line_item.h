@@ -24,6 +24,7 @@ public:
 
 protected:
     void paintContent(QPainter& painter) override;
+    [[nodiscard]] QPainterPath paintedArea() const override;
     [[nodiscard]] QRectF contentRect() const override;
     [[nodiscard]] double overhang() const override;
     [[nodiscard]] bool isDrawable() const override;

@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <QRadialGradient>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -19,6 +20,9 @@ constexpr std::array<double, 7> InkOfDensePattern{0.94, 0.88, 0.63, 0.50, 0.37, 
 
 // Large enough for sharp corners of the polygons.
 constexpr double MiterLimit = 4.0;
+
+// The width of the area of the output's thinnest line, in points.
+constexpr double ThinnestArea = 0.25;
 
 Qt::PenStyle knownPenStyle(int style)
 {
@@ -75,6 +79,16 @@ QBrush radialBrush(const QRectF& box, const QColor& color)
     return gradient;
 }
 
+bool isVisible(const FillValues& fill)
+{
+    return fill.filled && fill.style != Qt::NoBrush && fill.color.alpha() > 0;
+}
+
+bool isVisible(const PenValues& pen)
+{
+    return pen.style != Qt::NoPen && pen.color.alpha() > 0;
+}
+
 QBrush plainBrush(const QRectF& box, const FillValues& values)
 {
     if (values.style == Qt::LinearGradientPattern) {
@@ -104,7 +118,7 @@ QPen toPen(const PenValues& values)
 void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
                const FillValues& values)
 {
-    if (!values.filled || values.style == Qt::NoBrush || values.color.alpha() == 0) {
+    if (!isVisible(values)) {
         return;
     }
     if (isHatch(values.style)) {
@@ -119,6 +133,26 @@ void paintShape(QPainter& painter, const QPainterPath& path, const QRectF& box,
 {
     paintFill(painter, path, box, fill);
     painter.strokePath(path, toPen(pen));
+}
+
+QPainterPath strokedArea(const QPainterPath& path, const PenValues& pen)
+{
+    if (!isVisible(pen)) {
+        return {};
+    }
+    QPainterPathStroker stroker(toPen(pen));
+    stroker.setDashPattern(Qt::SolidLine);
+    stroker.setWidth(std::max(pen.width, ThinnestArea));
+    return stroker.createStroke(path);
+}
+
+QPainterPath paintedShape(const QPainterPath& path, const FillValues& fill, const PenValues& pen)
+{
+    const QPainterPath stroke = strokedArea(path, pen);
+    if (!isVisible(fill)) {
+        return stroke;
+    }
+    return stroke.isEmpty() ? path : path.united(stroke);
 }
 
 } // namespace workbench

@@ -26,4 +26,11 @@ void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
 void paintShape(QPainter& painter, const QPainterPath& path, const QRectF& box,
                 const FillValues& fill, const PenValues& pen);
 
+/// The area that paintShape() covers. Empty without a visible fill and a visible pen.
+[[nodiscard]] QPainterPath paintedShape(const QPainterPath& path, const FillValues& fill,
+                                        const PenValues& pen);
+
+/// The area of a stroke along the path, without the gaps of dashes; empty for an invisible pen.
+[[nodiscard]] QPainterPath strokedArea(const QPainterPath& path, const PenValues& pen);
+
 } // namespace workbench

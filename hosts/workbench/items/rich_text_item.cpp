@@ -5,6 +5,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include <memory>
 
@@ -91,7 +93,7 @@ PlainText RichTextItem::plainText(bool wraps) const
 }
 
 // A width of 0 or less disables wrapping.
-QSizeF RichTextItem::layOutDocument(double width)
+QSizeF RichTextItem::layOutDocument(double width) const
 {
     QTextDocument& content = labelDocument();
     boundFontSizes(content);
@@ -124,6 +126,34 @@ void RichTextItem::paintDocument(QPainter& painter, const QRectF& box)
     painter.translate(0.0,
                       verticalOffset(textStyleValues().alignment, box.height() - size.height()));
     labelDocument().documentLayout()->draw(&painter, context);
+}
+
+QPainterPath RichTextItem::paintedArea() const
+{
+    const QRectF box = contentRect();
+    QPainterPath lines;
+    if (showsDocument()) {
+        lines = documentLines(box);
+    } else {
+        lines.addRect(textRect(plainText(true), box));
+    }
+    return textArea(lines, box, fillValues(), penValues());
+}
+
+QPainterPath RichTextItem::documentLines(const QRectF& box) const
+{
+    const QSizeF size = layOutDocument(box.width());
+    const double top = verticalOffset(textStyleValues().alignment, box.height() - size.height());
+    QPainterPath lines;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        const QPointF corner = document()->documentLayout()->blockBoundingRect(block).topLeft();
+        const QTextLayout& layout = *block.layout();
+        for (int line = 0; line < layout.lineCount(); ++line) {
+            lines.addRect(
+                layout.lineAt(line).naturalTextRect().translated(corner + QPointF(0.0, top)));
+        }
+    }
+    return lines;
 }
 
 void RichTextItem::collect(ItemValues& values) const

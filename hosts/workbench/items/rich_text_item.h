@@ -25,6 +25,7 @@ public:
 
 protected:
     void paintContent(QPainter& painter) override;
+    [[nodiscard]] QPainterPath paintedArea() const override;
     [[nodiscard]] double overhang() const override;
     void collect(ItemValues& values) const override;
     void restore(const ItemValues& values) override;
@@ -34,7 +35,8 @@ private:
     [[nodiscard]] bool showsDocument() const;
     [[nodiscard]] QTextDocument& labelDocument() const;
     [[nodiscard]] PlainText plainText(bool wraps) const;
-    QSizeF layOutDocument(double width);
+    QSizeF layOutDocument(double width) const;
+    [[nodiscard]] QPainterPath documentLines(const QRectF& box) const;
     void paintDocument(QPainter& painter, const QRectF& box);
 
     QString m_text;

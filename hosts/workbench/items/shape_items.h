@@ -21,6 +21,11 @@ public:
 protected:
     [[nodiscard]] virtual QPainterPath outline(const QRectF& box) const = 0;
 
+    [[nodiscard]] QPainterPath paintedArea() const final
+    {
+        return paintedShape(outline(this->contentRect()), this->fillValues(), this->penValues());
+    }
+
     void paintContent(QPainter& painter) final
     {
         const QRectF box = this->contentRect();

@@ -118,6 +118,15 @@ void SimpleTextItem::paintContent(QPainter& painter)
     }
 }
 
+QPainterPath SimpleTextItem::paintedArea() const
+{
+    const QRectF box = contentRect();
+    QPainterPath lines;
+    lines.addRect(fontValues().sized ? textRect(plainText(), box)
+                                     : fillingTextRect(plainText(), box));
+    return textArea(lines, box, fillValues(), penValues());
+}
+
 void SimpleTextItem::collect(ItemValues& values) const
 {
     Layers::collect(values);

@@ -30,6 +30,7 @@ public:
 
 protected:
     void paintContent(QPainter& painter) override;
+    [[nodiscard]] QPainterPath paintedArea() const override;
     [[nodiscard]] double overhang() const override;
     void appearanceChanged() override;
     void collect(ItemValues& values) const override;

@@ -22,4 +22,17 @@ inline void paintTextGround(QPainter& painter, const QRectF& box, const FillValu
     paintShape(painter, path, box, fill, pen);
 }
 
+/// The painted area of a text: its lines, and its ground and frame if they are visible. The box
+/// if there is nothing of these, so that an empty text can still be selected.
+[[nodiscard]] inline QPainterPath textArea(const QPainterPath& lines, const QRectF& box,
+                                           const FillValues& fill, const PenValues& pen)
+{
+    QPainterPath ground;
+    ground.addRect(box);
+    QPainterPath area = paintedShape(ground, fill, pen);
+    area.addPath(lines);
+    area.setFillRule(Qt::WindingFill);
+    return area.isEmpty() ? ground : area;
+}
+
 } // namespace workbench

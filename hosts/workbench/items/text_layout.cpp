@@ -8,6 +8,7 @@
 #include <QTextOption>
 
 #include <algorithm>
+#include <optional>
 
 namespace workbench {
 
@@ -25,7 +26,9 @@ constexpr double WidthTolerance = 0.01;
 
 QTextOption optionFor(const PlainText& text)
 {
-    QTextOption option(text.alignment & Qt::AlignHorizontal_Mask);
+    // Physical alignment, and a direction by the text: both independent of the program's language.
+    QTextOption option((text.alignment & Qt::AlignHorizontal_Mask) | Qt::AlignAbsolute);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
     option.setWrapMode(text.wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere
                                   : QTextOption::ManualWrap);
     option.setUseDesignMetrics(true);
@@ -60,6 +63,55 @@ QSizeF layOut(QTextLayout& layout, double width)
     }
     layout.endLayout();
     return {used, height};
+}
+
+// The position of laid out lines in a box.
+struct Lines
+{
+    QSizeF size;
+    double width = 0.0; // of the column in which the lines are aligned
+    QPointF topLeft;
+};
+
+// A line needs a width before it can be aligned: first measure the text, then align it within the
+// wider of text and box.
+Lines placeLines(QTextLayout& layout, const PlainText& text, const QRectF& box)
+{
+    Lines lines;
+    lines.size = layOut(layout, text.wraps ? box.width() + WidthTolerance : MaximumLength);
+    lines.width = std::max(lines.size.width(), box.width()) + WidthTolerance;
+    double left = box.left();
+    if (!text.wraps && text.alignment.testFlag(Qt::AlignHCenter)) {
+        left -= (lines.width - box.width()) / 2.0;
+    } else if (!text.wraps && text.alignment.testFlag(Qt::AlignRight)) {
+        left -= lines.width - box.width();
+    }
+    lines.topLeft = {left, box.top() +
+                               verticalOffset(text.alignment, box.height() - lines.size.height())};
+    return lines;
+}
+
+// A text in its reference size, and the box and scale in which it fills its own box.
+struct Scaled
+{
+    PlainText text;
+    QRectF box;
+    double scale = 1.0;
+};
+
+std::optional<Scaled> scaledToFill(const PlainText& text, const QRectF& box)
+{
+    Scaled scaled;
+    scaled.text = text;
+    scaled.text.wraps = false;
+    scaled.text.font.setPixelSize(ReferenceSize);
+    const QSizeF size = measureText(scaled.text, 0.0);
+    if (size.width() <= 0.0 || size.height() <= 0.0) {
+        return std::nullopt;
+    }
+    scaled.scale = std::min(box.width() / size.width(), box.height() / size.height());
+    scaled.box = {0.0, 0.0, box.width() / scaled.scale, box.height() / scaled.scale};
+    return scaled;
 }
 
 } // namespace
@@ -100,39 +152,50 @@ void paintText(QPainter& painter, const PlainText& text, const QRectF& box)
 {
     QTextLayout layout;
     prepareLayout(layout, text);
-    // A line needs a width before it can be aligned: first measure the text, then align
-    // it within the wider of text and box.
-    const QSizeF size = layOut(layout, text.wraps ? box.width() + WidthTolerance : MaximumLength);
-    const double width = std::max(size.width(), box.width()) + WidthTolerance;
+    const Lines lines = placeLines(layout, text, box);
     if (!text.wraps) {
-        layOut(layout, width);
+        layOut(layout, lines.width);
     }
-    double left = box.left();
-    if (!text.wraps && text.alignment.testFlag(Qt::AlignHCenter)) {
-        left -= (width - box.width()) / 2.0;
-    } else if (!text.wraps && text.alignment.testFlag(Qt::AlignRight)) {
-        left -= width - box.width();
-    }
-    const double top = box.top() + verticalOffset(text.alignment, box.height() - size.height());
     painter.setPen(text.color);
-    layout.draw(&painter, {left, top});
+    layout.draw(&painter, lines.topLeft);
+}
+
+QRectF textRect(const PlainText& text, const QRectF& box)
+{
+    QTextLayout layout;
+    prepareLayout(layout, text);
+    const Lines lines = placeLines(layout, text, box);
+    const double room = lines.width - lines.size.width();
+    QPointF corner = lines.topLeft;
+    if (text.alignment.testFlag(Qt::AlignHCenter)) {
+        corner.rx() += room / 2.0;
+    } else if (text.alignment.testFlag(Qt::AlignRight)) {
+        corner.rx() += room;
+    }
+    return {corner, lines.size};
 }
 
 void paintTextFilling(QPainter& painter, const PlainText& text, const QRectF& box)
 {
-    PlainText reference = text;
-    reference.wraps = false;
-    reference.font.setPixelSize(ReferenceSize);
-    const QSizeF size = measureText(reference, 0.0);
-    if (size.width() <= 0.0 || size.height() <= 0.0) {
+    const std::optional<Scaled> scaled = scaledToFill(text, box);
+    if (!scaled) {
         return;
     }
-    const double scale = std::min(box.width() / size.width(), box.height() / size.height());
     painter.save();
     painter.translate(box.topLeft());
-    painter.scale(scale, scale);
-    paintText(painter, reference, {0.0, 0.0, box.width() / scale, box.height() / scale});
+    painter.scale(scaled->scale, scaled->scale);
+    paintText(painter, scaled->text, scaled->box);
     painter.restore();
+}
+
+QRectF fillingTextRect(const PlainText& text, const QRectF& box)
+{
+    const std::optional<Scaled> scaled = scaledToFill(text, box);
+    if (!scaled) {
+        return {};
+    }
+    const QRectF rect = textRect(scaled->text, scaled->box);
+    return {box.topLeft() + rect.topLeft() * scaled->scale, rect.size() * scaled->scale};
 }
 
 } // namespace workbench

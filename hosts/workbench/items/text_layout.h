@@ -35,6 +35,12 @@ struct PlainText
 /// Paints the text with its alignment in the box; it may extend beyond the box.
 void paintText(QPainter& painter, const PlainText& text, const QRectF& box);
 
+/// The rectangle of the lines that paintText() paints.
+[[nodiscard]] QRectF textRect(const PlainText& text, const QRectF& box);
+
+/// The same for paintTextFilling(); empty for an empty text.
+[[nodiscard]] QRectF fillingTextRect(const PlainText& text, const QRectF& box);
+
 /// Paints the text as large as it fits into the box, keeping its proportions.
 void paintTextFilling(QPainter& painter, const PlainText& text, const QRectF& box);
 

@@ -2,6 +2,7 @@
 
 #include "window/canvas/item_nudge.h"
 #include "window/canvas/page_backdrop.h"
+#include "window/canvas/selection_tool.h"
 #include "workbench/canvas/canvas.h"
 
 #include <QFocusEvent>
@@ -28,12 +29,12 @@ constexpr double FitMargin = 0.06;
 
 CanvasView::CanvasView(QWidget* parent)
     : QGraphicsView(parent)
+    , m_tool(new SelectionTool(*this))
 {
     setAccessibleName(tr("Canvas"));
     setAccessibleDescription(tr("The label. The arrow keys move the selected items."));
     setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
                    QPainter::TextAntialiasing);
-    setDragMode(QGraphicsView::RubberBandDrag);
     setTransformationAnchor(QGraphicsView::NoAnchor);
     // Always visible: scroll bars that appear and disappear would change the view's size.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -44,12 +45,14 @@ CanvasView::CanvasView(QWidget* parent)
     // The window accepts dropped files.
     setAcceptDrops(false);
     viewport()->setAcceptDrops(false);
+    connect(m_tool, &SelectionTool::itemsMoved, this, &CanvasView::itemsMoved);
+    connect(m_tool, &SelectionTool::hintShown, this, &CanvasView::hintShown);
 }
 
 void CanvasView::setCanvas(workbench::Canvas* canvas)
 {
     m_canvas = canvas;
-    m_positions.clear();
+    m_tool->setCanvas(canvas);
     setScene(canvas != nullptr ? canvas->scene() : nullptr);
     if (canvas != nullptr) {
         connect(canvas, &workbench::Canvas::pageChanged, this, &CanvasView::showRoomAroundPage);
@@ -175,10 +178,16 @@ void CanvasView::mousePressEvent(QMouseEvent* event)
         beginPan(event->position().toPoint());
         return;
     }
-    QGraphicsView::mousePressEvent(event);
+    // Not the scene: it would select by the items' boxes.
     if (event->button() == Qt::LeftButton) {
-        rememberPositions();
+        m_tool->press(*event);
     }
+}
+
+// The second press of a double click is another click for the tool.
+void CanvasView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mousePressEvent(event);
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event)
@@ -187,7 +196,7 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event)
         panTo(event->position().toPoint());
         return;
     }
-    QGraphicsView::mouseMoveEvent(event);
+    m_tool->move(*event);
     const QPoint at = event->position().toPoint();
     Q_EMIT pointerMoved(mapToScene(at), at);
 }
@@ -198,9 +207,8 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
         endPan();
         return;
     }
-    QGraphicsView::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton) {
-        reportMoves();
+        m_tool->release(*event);
     }
 }
 
@@ -241,7 +249,9 @@ void CanvasView::keyPressEvent(QKeyEvent* event)
         setHandReady(true);
         event->accept();
     } else if (event->key() == Qt::Key_Escape && scene() != nullptr) {
-        scene()->clearSelection();
+        if (!m_tool->cancel()) {
+            scene()->clearSelection();
+        }
         event->accept();
     } else if (nudge(*event)) {
         event->accept();
@@ -292,43 +302,26 @@ bool CanvasView::viewportEvent(QEvent* event)
     return QGraphicsView::viewportEvent(event);
 }
 
+void CanvasView::paintEvent(QPaintEvent* event)
+{
+    QGraphicsView::paintEvent(event);
+    QPainter painter(viewport());
+    m_tool->paint(painter);
+}
+
 bool CanvasView::nudge(const QKeyEvent& event)
 {
     if (scene() == nullptr) {
         return false;
     }
-    const QList<ItemMove> moves =
-        nudgedItems(scene()->selectedItems(), event.key(), event.modifiers());
+    const QList<QGraphicsItem*> items = scene()->selectedItems();
+    const QList<ItemMove> moves = nudgedItems(items, event.key(), event.modifiers());
     if (!moves.isEmpty()) {
         Q_EMIT itemsMoved(moves);
+    } else if (!items.isEmpty() && isArrow(event.key())) {
+        m_tool->explain();
     }
     return !moves.isEmpty();
-}
-
-void CanvasView::rememberPositions()
-{
-    m_positions.clear();
-    if (scene() == nullptr) {
-        return;
-    }
-    const QList<QGraphicsItem*> selected = scene()->selectedItems();
-    for (QGraphicsItem* item : selected) {
-        m_positions.insert(item, item->pos());
-    }
-}
-
-void CanvasView::reportMoves()
-{
-    QList<ItemMove> moves;
-    for (auto item = m_positions.cbegin(); item != m_positions.cend(); ++item) {
-        if (item.key()->pos() != item.value()) {
-            moves.append({item.key(), item.value(), item.key()->pos()});
-        }
-    }
-    m_positions.clear();
-    if (!moves.isEmpty()) {
-        Q_EMIT itemsMoved(moves);
-    }
 }
 
 } // namespace window

@@ -3,7 +3,6 @@
 #include "window/label/move_items.h"
 
 #include <QGraphicsView>
-#include <QHash>
 
 #include <optional>
 
@@ -12,6 +11,8 @@ class Canvas;
 }
 
 namespace window {
+
+class SelectionTool;
 
 /// A label's canvas on the screen: zooms, scrolls, and lets users select and move items.
 ///
@@ -56,6 +57,8 @@ Q_SIGNALS:
     void pointerLeft();
     /// The user has moved items by mouse or keyboard. After a mouse move they are in place.
     void itemsMoved(const QList<window::ItemMove>& moves);
+    /// A message for the status bar: why an item does not move.
+    void hintShown(const QString& text);
 
 protected:
     void drawBackground(QPainter* painter, const QRectF& rect) override;
@@ -70,6 +73,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
     void applyZoom(double zoom);
@@ -80,15 +85,13 @@ private:
     void panTo(const QPoint& at);
     void endPan();
     void setHandReady(bool ready);
-    void rememberPositions();
-    void reportMoves();
 
+    SelectionTool* m_tool;
     workbench::Canvas* m_canvas = nullptr;
     double m_zoom = 1.0;
     bool m_keepFitted = true;
     bool m_handReady = false; // the space bar is down
     std::optional<QPoint> m_panFrom;
-    QHash<QGraphicsItem*, QPointF> m_positions; // of the selected items, when the mouse was pressed
 };
 
 } // namespace window

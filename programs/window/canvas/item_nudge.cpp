@@ -1,5 +1,7 @@
 #include "window/canvas/item_nudge.h"
 
+#include "window/edit/locks.h"
+
 #include <QGraphicsItem>
 
 namespace window {
@@ -35,13 +37,12 @@ double lengthOf(Qt::KeyboardModifiers modifiers)
     return modifiers.testFlag(Qt::ShiftModifier) ? CoarseNudge : Nudge;
 }
 
-bool mayMove(const QGraphicsItem& item)
-{
-    return item.flags().testFlag(QGraphicsItem::ItemIsMovable) &&
-           item.acceptedMouseButtons() != Qt::NoButton;
-}
-
 } // namespace
+
+bool isArrow(int key)
+{
+    return !directionOf(key).isNull();
+}
 
 QList<ItemMove> nudgedItems(const QList<QGraphicsItem*>& items, int key,
                             Qt::KeyboardModifiers modifiers)
@@ -52,7 +53,7 @@ QList<ItemMove> nudgedItems(const QList<QGraphicsItem*>& items, int key,
         return moves;
     }
     for (QGraphicsItem* item : items) {
-        if (mayMove(*item)) {
+        if (isMovable(*item)) {
             moves.append({item, item->pos(), item->pos() + way});
         }
     }

@@ -6,6 +6,8 @@
 
 namespace window {
 
+[[nodiscard]] bool isArrow(int key);
+
 /// How an arrow key moves these items: half a millimeter, five with Shift, a tenth with Ctrl.
 /// Locked items, read-only items and background items are not moved. Empty for
 /// any other key, and if there is nothing to move.
