@@ -8,10 +8,10 @@
 
 namespace cli {
 
-ArchiveReports::ArchiveReports(const QStringList& fileNames, bool countsLosses, bool mayOverwrite)
+ArchiveReports::ArchiveReports(const QStringList& fileNames, bool namesAll, bool mayOverwrite)
     : m_fileNames(fileNames)
-    , m_isNeeded(countsLosses || !fileNames.isEmpty())
     , m_mayOverwrite(mayOverwrite)
+    , m_summary(namesAll)
 {
     for (const QString& fileName : fileNames) {
         QDir().mkpath(QFileInfo(fileName).path());
@@ -32,11 +32,8 @@ QString ArchiveReports::firstProblem() const
 
 void ArchiveReports::add(const archive::Delivery& delivery)
 {
-    if (!m_isNeeded) {
-        return;
-    }
     const migration::FileReport report = finalReport(delivery);
-    m_losses += migration::hasLoss(report) ? 1 : 0;
+    m_summary.add(report);
     for (const auto& writer : m_writers) {
         writer->add(report);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/run.h"
+#include "cli/loss_summary.h"
 #include "migration/report/report_writer.h"
 
 #include <QStringList>
@@ -10,14 +11,14 @@
 
 namespace cli {
 
-/// The reports of one command, written file by file, and the number of labels with losses.
+/// The reports of one command, written file by file, and their summary.
 class ArchiveReports
 {
 public:
     /// @param fileNames    reports to write; may be empty
-    /// @param countsLosses counts losses even without a report
+    /// @param namesAll     lists every label with losses in the summary
     /// @param mayOverwrite overwrites files that are not reports of ours
-    ArchiveReports(const QStringList& fileNames, bool countsLosses, bool mayOverwrite);
+    ArchiveReports(const QStringList& fileNames, bool namesAll, bool mayOverwrite);
 
     /// Why one of the reports cannot be written, for a person; empty if none is known.
     [[nodiscard]] QString firstProblem() const;
@@ -25,15 +26,13 @@ public:
     /// Moves the reports into place; returns what failed, for a person.
     [[nodiscard]] QStringList finish();
 
-    /// Labels that were not imported completely.
-    [[nodiscard]] qint64 losses() const { return m_losses; }
+    [[nodiscard]] const LossSummary& summary() const { return m_summary; }
 
 private:
     QStringList m_fileNames;
-    bool m_isNeeded;
     bool m_mayOverwrite;
     std::vector<std::unique_ptr<migration::ReportWriter>> m_writers;
-    qint64 m_losses = 0;
+    LossSummary m_summary;
 };
 
 } // namespace cli

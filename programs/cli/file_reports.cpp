@@ -2,7 +2,6 @@
 
 #include "cli/label_input.h"
 #include "console/file_name.h"
-#include "migration/file_report_builder.h"
 
 namespace cli {
 namespace {
@@ -35,9 +34,8 @@ migration::FileReport reportWithoutWorker(const archive::Input& input)
 } // namespace
 
 migration::FileReport reportOn(const LabelInput& input, const OpenedLabel& label,
-                               const QString& shownName, bool withItems)
+                               const QString& shownName, const migration::ReportOptions& options)
 {
-    const migration::ReportOptions options{!withItems, withItems};
     const QString name = console::shownFileName(shownName);
     return input.reader()
                ? migration::makeFileReport(input.path(), name, *input.reader(), label, options)

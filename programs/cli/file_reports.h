@@ -2,7 +2,7 @@
 
 #include "archive/messages.h"
 #include "archive/run.h"
-#include "migration/model/file_report.h"
+#include "migration/file_report_builder.h"
 
 namespace cli {
 
@@ -10,9 +10,9 @@ class LabelInput;
 struct OpenedLabel;
 
 /// The report of a worker on a label that it opened or could not open.
-/// @param withItems lists every item
 [[nodiscard]] migration::FileReport reportOn(const LabelInput& input, const OpenedLabel& label,
-                                             const QString& shownName, bool withItems);
+                                             const QString& shownName,
+                                             const migration::ReportOptions& options);
 
 /// The final report on one file: that of the worker, if there is one, with the outputs that were
 /// written and the errors that came later.

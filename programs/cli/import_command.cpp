@@ -34,11 +34,14 @@ archive::RunSettings settingsFor(const ImportOptions& options, const archive::In
     settings.outputFolder = options.outputDir;
     settings.shard = options.shard;
     settings.options = outputOptions(options.job);
-    settings.workerOptions = otherOptions(options.job);
+    // A later run may resume this one with a report; its pages need the pictures.
+    JobOptions job = options.job;
+    job.thumbnail = isArchive(options, list) || !options.reports.isEmpty();
+    settings.workerOptions = otherOptions(job);
     settings.version = QCoreApplication::applicationVersion();
     settings.isResuming = options.resume;
     settings.keepsJournal = isArchive(options, list);
-    settings.needsReports = options.job.report;
+    settings.needsReports = true;
     settings.workers = options.workers;
     settings.limits = options.limits;
     settings.command = workerCommand(options.limits.memoryMiB);
@@ -112,18 +115,30 @@ private:
         }
         const bool isComplete = progress.failed == 0 && !m_run.isBroken() &&
                                 m_list.unreadable.isEmpty() && errors.isEmpty();
-        return isComplete ? checkLosses() : console::ExitFailure;
+        printLosses(errors.isEmpty());
+        if (!isComplete) {
+            return console::ExitFailure;
+        }
+        const bool hasLosses = m_reports.summary().count(migration::Verdict::Lossy) > 0;
+        return m_options.failOnLoss && hasLosses ? console::ExitLoss : console::ExitSuccess;
     }
 
-    int checkLosses()
+    // A single label that was imported completely needs no words; one that failed had them.
+    void printLosses(bool areReportsWritten)
     {
-        if (!m_options.failOnLoss || m_reports.losses() == 0) {
-            return console::ExitSuccess;
+        const LossSummary& summary = m_reports.summary();
+        const bool isAsked = m_options.failOnLoss && summary.count(migration::Verdict::Lossy) > 0;
+        const bool isNews = m_list.inputs.size() > 1 ||
+                            summary.count(migration::Verdict::Changed) > 0 ||
+                            summary.count(migration::Verdict::Lossy) > 0;
+        if (!isAsked && (m_options.quiet || !isNews)) {
+            return;
         }
-        const int losses = static_cast<int>(m_reports.losses());
-        m_reporter.print(QCoreApplication::translate(
-            "cli::ImportCommand", "%n file(s) imported incompletely.", nullptr, losses));
-        return console::ExitLoss;
+        QStringList lines{summary.counts()};
+        lines += summary.worst();
+        lines.append(summary.hint(areReportsWritten ? m_options.reports : QStringList()));
+        lines.removeAll(QString());
+        m_reporter.print(lines.join(u'\n'));
     }
 
     const ImportOptions& m_options;

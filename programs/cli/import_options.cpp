@@ -69,7 +69,6 @@ void takeReports(OptionReader& given, ImportOptions& options)
         }
     }
     options.failOnLoss = given.isSet("fail-on-loss"_L1);
-    options.job.report = options.failOnLoss || !options.reports.isEmpty();
 }
 
 void takeNumbers(OptionReader& given, ImportOptions& options)

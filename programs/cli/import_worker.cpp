@@ -51,11 +51,10 @@ archive::FileResult importFile(const archive::Job& job, const archive::Heartbeat
     heartbeat();
     archive::FileResult result;
     result.warnings = warningsOf(label);
-    if (options.report) {
-        // Before anything is written, because that shows other records on the canvas.
-        result.report = migration::toJson(reportOn(input, label, job.shownName, options.items));
-        heartbeat();
-    }
+    // Before anything is written, because that shows other records on the canvas.
+    result.report = migration::toJson(
+        reportOn(input, label, job.shownName, {options.thumbnail, options.items}));
+    heartbeat();
     if (label.isOpen()) {
         writeAll(label, job, options, heartbeat, result);
         result.outcome =

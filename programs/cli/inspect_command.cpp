@@ -102,7 +102,6 @@ int print(const archive::Input& input, const archive::FileResult& result, bool a
 std::optional<JobOptions> optionsOf(const QCommandLineParser& parser, QString& error)
 {
     JobOptions options;
-    options.report = true;
     options.items = true;
     const QString reader = parser.value(u"reader"_s);
     options.reader = readerOfName(reader);

@@ -17,8 +17,8 @@ constexpr QLatin1String FirstPositionKey("firstPosition");
 constexpr QLatin1String CopiesKey("copies");
 constexpr QLatin1String CropMarksKey("cropMarks");
 constexpr QLatin1String ForceKey("force");
-constexpr QLatin1String ReportKey("report");
 constexpr QLatin1String ItemsKey("items");
+constexpr QLatin1String ThumbnailKey("thumbnail");
 
 } // namespace
 
@@ -45,7 +45,8 @@ QJsonObject outputOptions(const JobOptions& options)
 
 QJsonObject otherOptions(const JobOptions& options)
 {
-    return {{ForceKey, options.force}, {ReportKey, options.report}, {ItemsKey, options.items}};
+    return {
+        {ForceKey, options.force}, {ItemsKey, options.items}, {ThumbnailKey, options.thumbnail}};
 }
 
 JobOptions jobOptionsFromJson(const QJsonObject& object)
@@ -63,8 +64,8 @@ JobOptions jobOptionsFromJson(const QJsonObject& object)
     options.copies = object.value(CopiesKey).toInt(options.copies);
     options.cropMarks = object.value(CropMarksKey).toBool();
     options.force = object.value(ForceKey).toBool();
-    options.report = object.value(ReportKey).toBool();
     options.items = object.value(ItemsKey).toBool();
+    options.thumbnail = object.value(ThumbnailKey).toBool();
     return options;
 }
 

@@ -22,8 +22,8 @@ struct JobOptions
     bool cropMarks = false;
     std::optional<ReaderKind> reader; ///< empty: selected by name or content
     bool force = false;               ///< overwrite files that are not ours
-    bool report = false;              ///< report on the file
     bool items = false;               ///< list every item in the report
+    bool thumbnail = false;           ///< add a picture to the report
 };
 
 /// The options that have an influence on the outputs.

@@ -36,7 +36,6 @@ TEST(ArchiveOptions, HaveDefaults)
     EXPECT_FALSE(options.resume);
     EXPECT_FALSE(options.quiet);
     EXPECT_FALSE(options.failOnLoss);
-    EXPECT_FALSE(options.job.report);
     EXPECT_FALSE(options.job.reader);
 }
 
@@ -64,11 +63,9 @@ TEST(ArchiveOptions, TakeTargetsFromEveryTo)
               (QList<cli::Target>{cli::Target::Png, cli::Target::Svg, cli::Target::Label}));
 }
 
-TEST(ArchiveOptions, NeedAReportWhereLossesAreLookedFor)
+TEST(ArchiveOptions, TakeSeveralReports)
 {
-    EXPECT_TRUE(accepted("old --fail-on-loss").job.report);
     const cli::ImportOptions options = accepted("old --report a.json --report b.HTML");
-    EXPECT_TRUE(options.job.report);
     EXPECT_EQ(options.reports, words("a.json b.HTML"));
     EXPECT_TRUE(refusal("old --report a.txt").contains(u".json or .html"_s));
 }
@@ -135,7 +132,6 @@ TEST(JobOptions, SurviveTheirJson)
         EXPECT_EQ(read.copies, options.copies);
         EXPECT_EQ(read.cropMarks, options.cropMarks);
         EXPECT_EQ(read.force, options.force);
-        EXPECT_EQ(read.report, options.report);
         EXPECT_EQ(read.items, options.items);
     }
 }

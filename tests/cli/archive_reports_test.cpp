@@ -82,9 +82,9 @@ TEST(ArchiveReports, CountLosses)
     const archive::FileResult lost = resultWith(lossy);
     cli::ArchiveReports reports({}, true, false);
     reports.add({file, whole, {}, false});
-    EXPECT_EQ(reports.losses(), 0);
+    EXPECT_EQ(reports.summary().count(migration::Verdict::Lossy), 0);
     reports.add({file, lost, {}, false});
-    EXPECT_EQ(reports.losses(), 1);
+    EXPECT_EQ(reports.summary().count(migration::Verdict::Lossy), 1);
 }
 
 TEST(ArchiveReports, AreWrittenInTheEnd)

@@ -166,10 +166,12 @@ TEST_F(ImportArchive, FailsOnLossOnlyWhenItIsAsked)
                   "<w>9</w><h>9</h></bounds></printable_control></hologram>");
     write(u"lossy.qmtx"_s, label);
     write(u"broken.odg"_s, "no zip");
-    EXPECT_EQ(labelport(import("lossy.qmtx")).status, 0);
+    const Outcome unasked = labelport(import("lossy.qmtx"));
+    EXPECT_EQ(unasked.status, 0);
+    EXPECT_TRUE(unasked.err.contains(u"with losses: 1"_s)) << qPrintable(unasked.err);
     const Outcome lossy = labelport(import("lossy.qmtx --fail-on-loss"));
     EXPECT_EQ(lossy.status, 3) << qPrintable(lossy.err);
-    EXPECT_TRUE(lossy.err.contains(u"1 file imported incompletely."_s));
+    EXPECT_TRUE(lossy.err.contains(u"\n  lossy.qmtx: Imported "_s)) << qPrintable(lossy.err);
     EXPECT_EQ(labelport(import("lossy.qmtx broken.odg --fail-on-loss")).status, 1);
     EXPECT_EQ(labelport(import("old/vial.odg --fail-on-loss")).status, 0);
 }

@@ -67,17 +67,6 @@ QString verdictSentence(Verdict verdict)
     return sentence != nullptr ? tr(sentence) : QString();
 }
 
-QString countSentence(const FileReport& report)
-{
-    if (!report.objects.inFile) {
-        return tr("Objects imported: %1 (the number of objects in the file is unknown).")
-            .arg(report.objects.imported);
-    }
-    return tr("Imported %1 of %2 objects.")
-        .arg(report.objects.imported)
-        .arg(*report.objects.inFile);
-}
-
 } // namespace
 
 QString statusName(Status status)
@@ -129,6 +118,17 @@ qint64 objectsLost(const FileReport& report)
     return report.objects.inFile
                ? std::max<qint64>(0, *report.objects.inFile - report.objects.imported)
                : 0;
+}
+
+QString countSentence(const FileReport& report)
+{
+    if (!report.objects.inFile) {
+        return tr("Objects imported: %1 (the number of objects in the file is unknown).")
+            .arg(report.objects.imported);
+    }
+    return tr("Imported %1 of %2 objects.")
+        .arg(report.objects.imported)
+        .arg(*report.objects.inFile);
 }
 
 QString summaryOf(const FileReport& report)

@@ -143,7 +143,9 @@ inline constexpr int Verdicts = 4;
 /// The number of lost objects; 0 if it is not known how many the file has.
 [[nodiscard]] qint64 objectsLost(const FileReport& report);
 
-/// A summary for the user: "Imported 12 of 14 objects."
+/// "Imported 12 of 14 objects."
+[[nodiscard]] QString countSentence(const FileReport& report);
+/// A summary for the user: the number of objects, and what that means.
 [[nodiscard]] QString summaryOf(const FileReport& report);
 
 /// The report as an object of docs/report.schema.json.
