@@ -5,6 +5,7 @@
 #include "cli/job_options.h"
 #include "cli/label_input.h"
 #include "cli/label_writer.h"
+#include "cli/print_worker.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -72,7 +73,8 @@ archive::FileResult importFile(const archive::Job& job, const archive::Heartbeat
 archive::FileResult importJob(const archive::Job& job, const archive::Heartbeat& heartbeat)
 {
     try {
-        archive::FileResult result = importFile(job, heartbeat);
+        archive::FileResult result =
+            isPrintJob(job) ? writePrintDocuments(job, heartbeat) : importFile(job, heartbeat);
         // No event loop runs here that would delete these objects.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return result;

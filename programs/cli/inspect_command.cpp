@@ -1,10 +1,9 @@
-#include "archive/worker_pool.h"
 #include "cli/commands.h"
 #include "cli/file_reports.h"
 #include "cli/import_options.h"
-#include "cli/import_worker.h"
 #include "cli/job_options.h"
 #include "cli/option_table.h"
+#include "cli/worker_jobs.h"
 #include "console/command_line.h"
 #include "console/output.h"
 #include "console/standard_input.h"
@@ -12,7 +11,6 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QJsonDocument>
 #include <QTemporaryFile>
 
@@ -25,65 +23,16 @@ QString tr(const char* text)
     return QCoreApplication::translate("cli::InspectCommand", text);
 }
 
-/// One file in a worker process, so that a bad file cannot crash the program.
-class Inspection final : public archive::PoolClient
+/// The options that the worker gets.
+QJsonObject allOptions(const JobOptions& options)
 {
-public:
-    Inspection(const archive::Input& input, const JobOptions& options,
-               const archive::WorkerLimits& limits)
-        : m_limits(limits)
-    {
-        m_job.file = input.path;
-        m_job.shownName = input.shownName;
-        m_job.options = outputOptions(options);
-        const QJsonObject others = otherOptions(options);
-        for (auto entry = others.begin(); entry != others.end(); ++entry) {
-            m_job.options.insert(entry.key(), entry.value());
-        }
+    QJsonObject all = outputOptions(options);
+    const QJsonObject others = otherOptions(options);
+    for (auto entry = others.begin(); entry != others.end(); ++entry) {
+        all.insert(entry.key(), entry.value());
     }
-
-    archive::FileResult run()
-    {
-        QEventLoop loop;
-        archive::WorkerPool pool(*this, workerCommand(m_limits.memoryMiB), m_limits, 1);
-        for (const auto end : {&archive::WorkerPool::drained, &archive::WorkerPool::broken}) {
-            QObject::connect(&pool, end, &loop, &QEventLoop::quit, Qt::QueuedConnection);
-        }
-        m_result.errors = {tr("Cannot start the worker process.")};
-        pool.start();
-        loop.exec();
-        return m_result;
-    }
-
-    std::optional<qsizetype> nextTask() override
-    {
-        return m_taken++ == 0 ? std::optional<qsizetype>(0) : std::nullopt;
-    }
-
-    QByteArray lineFor(qsizetype, int) override { return archive::lineOf(m_job); }
-
-    qint64 taskAnswered(qsizetype task, const QByteArray& line) override
-    {
-        if (const std::optional<archive::FileResult> result = archive::resultFromLine(line)) {
-            m_result = *result;
-        } else {
-            taskFailed(task, {archive::WorkerEnd::Garbled, 0});
-        }
-        return 0;
-    }
-
-    void taskFailed(qsizetype, const archive::WorkerEnd& end) override
-    {
-        m_result.outcome = archive::outcomeOf(end);
-        m_result.errors = QStringList{archive::messageFor(end, m_limits)};
-    }
-
-private:
-    archive::Job m_job;
-    archive::WorkerLimits m_limits;
-    archive::FileResult m_result;
-    int m_taken = 0;
-};
+    return all;
+}
 
 int print(const archive::Input& input, const archive::FileResult& result, bool asJson)
 {
@@ -141,8 +90,11 @@ int runInspect(const QStringList& arguments)
         console::printMessage(error);
         return console::ExitFailure;
     }
-    Inspection inspection(input, *options, *limits);
-    return print(input, inspection.run(), parser.isSet(u"json"_s));
+    archive::Job job;
+    job.file = input.path;
+    job.shownName = input.shownName;
+    job.options = allOptions(*options);
+    return print(input, runJobs({job}, *limits, 1).first(), parser.isSet(u"json"_s));
 }
 
 } // namespace cli

@@ -3,7 +3,6 @@
 #include "archive/publish.h"
 #include "cli/existing_output.h"
 #include "cli/label_input.h"
-#include "printing/print_document.h"
 #include "printing/sheet_presets.h"
 #include "workbench/document/label_file.h"
 #include "workbench/rendering/page_export.h"
@@ -24,38 +23,6 @@ struct Words
 {
     Q_DECLARE_TR_FUNCTIONS(cli::LabelWriter)
 };
-
-/// The records to write, counted from 0.
-struct Records
-{
-    qint64 first = 0;
-    qint64 count = 1;
-    QString error;
-};
-
-Records recordsOf(const OpenedLabel& label, const RecordRange& range)
-{
-    const qint64 available = label.datasources->recordCount();
-    if (range.first > available) {
-        const int count = static_cast<int>(std::min<qint64>(available, INT_MAX));
-        return {0, 0,
-                QCoreApplication::translate("cli::LabelWriter",
-                                            "The label has only %n record(s); record %1 does not "
-                                            "exist.",
-                                            nullptr, count)
-                    .arg(range.first)};
-    }
-    const qint64 last = std::min(range.last.value_or(available), available);
-    const qint64 count = last - range.first + 1;
-    if (count > MaximumRecords) {
-        return {0, 0,
-                Words::tr("%1 records are more than the %2 that one command writes; select a "
-                          "range with --records.")
-                    .arg(count)
-                    .arg(MaximumRecords)};
-    }
-    return {range.first - 1, count, {}};
-}
 
 QString numbered(const QString& output, qint64 record)
 {
@@ -97,6 +64,32 @@ QString writeOne(const OpenedLabel& label, Target target, const QString& output,
     return {};
 }
 
+} // namespace
+
+RecordSelection selectRecords(const OpenedLabel& label, const RecordRange& range)
+{
+    const qint64 available = label.datasources->recordCount();
+    if (range.first > available) {
+        const int count = static_cast<int>(std::min<qint64>(available, INT_MAX));
+        return {0, 0,
+                QCoreApplication::translate("cli::LabelWriter",
+                                            "The label has only %n record(s); record %1 does not "
+                                            "exist.",
+                                            nullptr, count)
+                    .arg(range.first)};
+    }
+    const qint64 last = std::min(range.last.value_or(available), available);
+    const qint64 count = last - range.first + 1;
+    if (count > MaximumRecords) {
+        return {0, 0,
+                Words::tr("%1 records are more than the %2 that one command writes; select a "
+                          "range with --records.")
+                    .arg(count)
+                    .arg(MaximumRecords)};
+    }
+    return {range.first - 1, count, {}};
+}
+
 printing::PrintLayout layoutFor(const JobOptions& options, const workbench::Canvas& canvas)
 {
     return {printing::sheetOfName(options.sheet, printing::labelSize(canvas)),
@@ -104,16 +97,14 @@ printing::PrintLayout layoutFor(const JobOptions& options, const workbench::Canv
 }
 
 QString layoutProblem(const printing::PrintLayout& layout, const workbench::Canvas& canvas,
-                      qint64 count)
+                      qint64 records)
 {
     const QSizeF size = printing::labelSize(canvas);
     if (layout.sheet && printing::fitOf(*layout.sheet, size) == printing::Fit::TooLarge) {
         return printing::misfitMessage(*layout.sheet, size);
     }
-    return printing::problemOf(layout, count);
+    return printing::problemOf(layout, records);
 }
-
-} // namespace
 
 LabelWriter::LabelWriter(OpenedLabel& label, WriteOptions options, const QString& staging,
                          archive::Heartbeat heartbeat)
@@ -133,7 +124,7 @@ Written LabelWriter::write(Target target, const QString& output)
                                                   workbench::document::Origin::Import, m_heartbeat);
         });
     }
-    const Records records = recordsOf(m_label, m_options.job.records);
+    const RecordSelection records = selectRecords(m_label, m_options.job.records);
     if (!records.error.isEmpty()) {
         return {{}, records.error};
     }

@@ -5,6 +5,7 @@
 #include "cli/job_options.h"
 #include "cli/targets.h"
 #include "console/file_name.h"
+#include "printing/print_document.h"
 
 #include <QList>
 #include <QString>
@@ -14,6 +15,24 @@
 namespace cli {
 
 struct OpenedLabel;
+
+/// The records to write, counted from 0.
+struct RecordSelection
+{
+    qint64 first = 0;
+    qint64 count = 1;
+    QString error; ///< user-visible; why the records cannot be written
+};
+
+/// The records of a label that --records selects.
+[[nodiscard]] RecordSelection selectRecords(const OpenedLabel& label, const RecordRange& range);
+
+/// The layout of documents of a label.
+[[nodiscard]] printing::PrintLayout layoutFor(const JobOptions& options,
+                                              const workbench::Canvas& canvas);
+/// The user-visible reason why a label cannot be printed like this; empty if it can.
+[[nodiscard]] QString layoutProblem(const printing::PrintLayout& layout,
+                                    const workbench::Canvas& canvas, qint64 records);
 
 /// How outputs are made.
 struct WriteOptions

@@ -52,6 +52,7 @@ Examples:
   labelport import shelf.odg
   labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport print asset.label --printer zebra --records 1-40
   labelport inspect shelf.odg
   labelport trace shelf.odg
 
@@ -108,8 +109,8 @@ bool writesJson(const QStringList& arguments)
 using RunCommand = int (*)(const QStringList& arguments);
 
 /// In the order of cli::commands().
-constexpr std::array RunCommands{&cli::runImport, &cli::runInspect, &cli::runReport,
-                                 &cli::runFormats, &cli::runTrace};
+constexpr std::array RunCommands{&cli::runImport, &cli::runPrint,   &cli::runInspect,
+                                 &cli::runReport, &cli::runFormats, &cli::runTrace};
 
 int printHelp(const QStringList&)
 {

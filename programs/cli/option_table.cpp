@@ -122,6 +122,24 @@ constexpr std::array ImportOptions{
            QT_TRANSLATE_NOOP("cli::Options", "Report only errors on standard error.")},
 };
 
+constexpr std::array PrintOptions{
+    Option{"printer", QT_TRANSLATE_NOOP("cli::Options", "name"),
+           QT_TRANSLATE_NOOP("cli::Options",
+                             "Printer to use; lpstat -e lists all (default: the default "
+                             "printer).")},
+    Option{"records", QT_TRANSLATE_NOOP("cli::Options", "range"),
+           QT_TRANSLATE_NOOP("cli::Options",
+                             "Records of the labels' data sources: a number, a range such as 3-12 "
+                             "or 3-, or all (default: the first)."),
+           Completion::Words, "all"},
+    SheetOption,
+    FirstPositionOption,
+    CopiesOption,
+    CropMarksOption,
+    ReaderOption,
+    TimeoutOption,
+    MemoryOption};
+
 constexpr std::array InspectOptions{
     Option{"json", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Print JSON, as in reports.")},
     ReaderOption, TimeoutOption, MemoryOption};
@@ -160,6 +178,16 @@ constexpr const char* ImportDescription = QT_TRANSLATE_NOOP(
     "Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not\n"
     "imported completely (with --fail-on-loss), 130 stopped by a signal.");
 
+constexpr const char* PrintDescription = QT_TRANSLATE_NOOP(
+    "cli::Options",
+    "Prints labels through CUPS, each on paper of its own size, or on sheets. All labels of the\n"
+    "same paper are one job of the printer. If a label cannot be printed, nothing is. The\n"
+    "identifiers of the jobs are listed on standard output.\n\n"
+    "Examples:\n"
+    "  labelport print asset.label --printer zebra --records 1-40 --copies 2\n"
+    "  labelport print new/*.label --sheet L7160 --first-position 5\n\n"
+    "Exit status: 0 printed, 1 a label or the printer failed, 2 wrong usage.");
+
 constexpr const char* InspectDescription = QT_TRANSLATE_NOOP(
     "cli::Options",
     "Shows what one label contains, and what of it is imported. Writes no files.\n\n"
@@ -195,6 +223,9 @@ constexpr std::array Commands{
             QT_TRANSLATE_NOOP("cli::Options",
                               "Label or folder of labels to import; - is standard input."),
             Completion::Label, ImportDescription, ImportOptions},
+    Command{"print", QT_TRANSLATE_NOOP("cli::Options", "print labels"), "FILE...",
+            QT_TRANSLATE_NOOP("cli::Options", "Label to print; - is standard input."),
+            Completion::Label, PrintDescription, PrintOptions},
     Command{"inspect", QT_TRANSLATE_NOOP("cli::Options", "show what a label contains"), "FILE",
             QT_TRANSLATE_NOOP("cli::Options", "Label to inspect; - is standard input."),
             Completion::Label, InspectDescription, InspectOptions},
