@@ -2,10 +2,10 @@
 
 #include "window/canvas/canvas_view.h"
 #include "window/canvas/ruled_canvas.h"
-#include "window/label/issues_panel.h"
 #include "window/output/output_commands.h"
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
+#include "window/review/issues_panel.h"
 #include "window/shortcuts_dialog.h"
 #include "window/sources/source_panel.h"
 #include "workbench/canvas/canvas.h"
@@ -114,8 +114,7 @@ void MainWindow::connectPanels()
 {
     connect(&m_panels->items(), &ItemPanel::selectionChanged, this, &MainWindow::refreshSelection);
     connect(&m_panels->items(), &ItemPanel::itemWanted, this, &MainWindow::showItem);
-    connect(&m_panels->issues(), &IssuesPanel::itemWanted, &m_panels->items(),
-            &ItemPanel::selectItem);
+    connect(&m_panels->issues(), &IssuesPanel::issueWanted, this, &MainWindow::showIssue);
     connect(&m_panels->sources(), &SourcePanel::recordWanted, this, &MainWindow::showRecordNumber);
 }
 
@@ -125,7 +124,8 @@ void MainWindow::letLabelGo()
     m_panels->properties().showItem(nullptr, m_unit);
     m_panels->items().setCanvas(nullptr);
     m_panels->sources().show(nullptr, 0);
-    m_panels->issues().setIssues({});
+    m_panels->issues().clear();
+    view().setOutlines({});
     view().setCanvas(nullptr);
 }
 
@@ -147,7 +147,7 @@ void MainWindow::showLabel()
     refreshIssues();
     refreshTitle();
     refreshActions();
-    if (m_panels->issues().count() > 0) {
+    if (!m_panels->issues().issues().isEmpty()) {
         m_panels->showIssues();
     }
 }
@@ -181,8 +181,11 @@ void MainWindow::refreshSelection()
 
 void MainWindow::refreshIssues()
 {
-    m_panels->issues().setIssues(m_session->label() != nullptr ? currentIssues(*m_session->label())
-                                                               : QList<Issue>());
+    if (m_session->label() != nullptr) {
+        m_panels->issues().setIssues(currentIssues(*m_session->label()));
+    } else {
+        m_panels->issues().clear();
+    }
 }
 
 void MainWindow::refreshTitle()
@@ -238,16 +241,41 @@ void MainWindow::showItem(workbench::CanvasItem* item)
     }
 }
 
-void MainWindow::selectAll()
+void MainWindow::showIssue(const Issue& issue)
+{
+    QList<workbench::CanvasItem*> items;
+    QRectF bounds;
+    for (const int index : issue.items) {
+        items.append(m_session->label()->canvas->items().at(index));
+        bounds |= items.constLast()->graphicsItem()->sceneBoundingRect();
+    }
+    for (const QRectF& box : issue.missing) {
+        bounds |= box;
+    }
+    selectItems(items);
+    view().setOutlines(issue.missing);
+    const QRectF seen = view().mapToScene(view().viewport()->rect()).boundingRect();
+    if (!seen.contains(bounds)) {
+        view().ensureVisible(bounds);
+    }
+}
+
+void MainWindow::selectItems(const QList<workbench::CanvasItem*>& items)
 {
     {
         // One change of the selection, not one for each item.
         const QSignalBlocker silence(scene());
-        for (workbench::CanvasItem* item : m_session->label()->canvas->items()) {
+        scene()->clearSelection();
+        for (workbench::CanvasItem* item : items) {
             item->graphicsItem()->setSelected(true);
         }
     }
     Q_EMIT scene()->selectionChanged();
+}
+
+void MainWindow::selectAll()
+{
+    selectItems(m_session->label()->canvas->items());
 }
 
 void MainWindow::exportByDialog()

@@ -16,6 +16,7 @@ namespace window {
 
 class CanvasView;
 class RuledCanvas;
+struct Issue;
 
 /// The main window: one label, its panels, its menus.
 class MainWindow final : public QMainWindow
@@ -72,6 +73,8 @@ private:
     void setUnit(LengthUnit unit);
     void setColors(ColorScheme scheme);
     void showItem(workbench::CanvasItem* item);
+    void showIssue(const Issue& issue);
+    void selectItems(const QList<workbench::CanvasItem*>& items);
     void selectAll();
     void exportByDialog();
     void printByDialog();

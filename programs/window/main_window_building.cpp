@@ -2,7 +2,6 @@
 
 #include "window/canvas/canvas_view.h"
 #include "window/canvas/ruled_canvas.h"
-#include "window/label/issues_panel.h"
 #include "window/main_window.h"
 #include "window/properties/item_panel.h"
 #include "window/welcome_page.h"
@@ -77,7 +76,7 @@ void MainWindow::buildMenus()
         menu->addActions(m_actions->ofMenu(id));
         if (id == MenuId::File) {
             m_recentMenu = new QMenu(tr("Open &Recent"), this);
-            menu->insertMenu(&action(ActionId::Import), m_recentMenu);
+            menu->insertMenu(&action(ActionId::Save), m_recentMenu);
             menu->insertSeparator(&action(ActionId::Save));
             menu->insertSeparator(&action(ActionId::Export));
             menu->insertSeparator(&action(ActionId::Close));
@@ -100,7 +99,7 @@ void MainWindow::buildToolBar()
     bar->setAccessibleName(tr("Tools"));
     bar->setIconSize({20, 20});
     const QList<QList<ActionId>> groups{
-        {ActionId::Open, ActionId::Import, ActionId::Save},
+        {ActionId::Open, ActionId::Save},
         {ActionId::Export, ActionId::Print},
         {ActionId::Undo, ActionId::Redo},
         {ActionId::ZoomOut, ActionId::ZoomIn, ActionId::ZoomFit},
@@ -144,7 +143,6 @@ void MainWindow::connectFileActions()
 {
     LabelSession* session = m_session.get();
     connect(&action(ActionId::Open), &QAction::triggered, session, &LabelSession::openByDialog);
-    connect(&action(ActionId::Import), &QAction::triggered, session, &LabelSession::importByDialog);
     connect(&action(ActionId::Save), &QAction::triggered, session, &LabelSession::save);
     connect(&action(ActionId::SaveAs), &QAction::triggered, session, &LabelSession::saveAs);
     connect(&action(ActionId::Close), &QAction::triggered, session, &LabelSession::close);

@@ -46,8 +46,6 @@ WelcomePage::WelcomePage(const Actions& actions, QWidget* parent)
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(makeButton(tr("&Open a Label…"), actions.at(ActionId::Open), this));
-    buttons->addWidget(
-        makeButton(tr("&Import a Legacy Label…"), actions.at(ActionId::Import), this));
     buttons->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(48, 24, 48, 24);

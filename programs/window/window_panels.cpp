@@ -1,9 +1,9 @@
 #include "window/window_panels.h"
 
-#include "window/label/issues_panel.h"
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/properties/tables.h"
+#include "window/review/issues_panel.h"
 #include "window/sources/source_panel.h"
 
 #include <QCoreApplication>
@@ -91,7 +91,7 @@ void WindowPanels::goToRecord()
 void WindowPanels::goToIssues()
 {
     showIssues();
-    focusTable(m_issues->table());
+    m_issues->focusIssues();
 }
 
 void WindowPanels::showIssues()

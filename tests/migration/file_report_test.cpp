@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 using namespace migration;
@@ -59,6 +60,25 @@ TEST(FileReport, IsNotReadWithNumbersThatAreNotExact)
     QJsonObject object = toJson(wholeReport());
     object.insert(QStringLiteral("bytes"), 1e300);
     EXPECT_FALSE(fileReportFromJson(object).has_value());
+}
+
+TEST(FileReport, IsNotReadWithInvalidPlaces)
+{
+    FileReport report = wholeReport();
+    report.lost = {findingOfKind(LossKind::Connector)};
+    report.lost[0].places = FindingPlaces{{1, 2}, {QRectF(1.0, 2.0, 3.0, 4.0)}};
+    EXPECT_EQ(throughText(report), report);
+    for (const char* places :
+         {R"({"items":[1.5],"missing":[]})", R"({"items":[],"missing":[[1,2,3]]})",
+          R"({"items":3,"missing":[]})", R"({"items":[]})"}) {
+        QJsonObject object = toJson(report);
+        QJsonArray lost = object[QStringLiteral("lost")].toArray();
+        QJsonObject finding = lost[0].toObject();
+        finding[QStringLiteral("places")] = QJsonDocument::fromJson(places).object();
+        lost[0] = finding;
+        object[QStringLiteral("lost")] = lost;
+        EXPECT_FALSE(fileReportFromJson(object).has_value()) << places;
+    }
 }
 
 TEST(FileReport, WritesTextsThatAreNotUnicodeAsPlainStrings)

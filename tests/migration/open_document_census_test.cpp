@@ -222,3 +222,52 @@ TEST(OpenDocumentCensus, SurvivesDamagedPackages)
         EXPECT_TRUE(countOpenDocument(whole.first(size)).objects.isEmpty());
     }
 }
+
+TEST(OpenDocumentCensus, KnowsWhereLostObjectsAre)
+{
+    struct Row
+    {
+        const char* shapes;
+        LossKind lost;
+        QRectF box;
+    };
+    const Row rows[] = {
+        {R"(<draw:path svg:x="1cm" svg:y="20mm" svg:width="1in" svg:height="72pt"/>)",
+         LossKind::FreeformShape, QRectF(10.0, 20.0, 25.4, 25.4)},
+        {R"(<draw:connector svg:x1="3cm" svg:y1="2cm" svg:x2="1cm" svg:y2="5cm"/>)",
+         LossKind::Connector, QRectF(10.0, 20.0, 20.0, 30.0)},
+        {R"(<draw:path svg:width="4cm" svg:height="2cm")"
+         R"x( draw:transform="rotate (1.5707963267949) translate (1cm 7cm)"/>)x",
+         LossKind::FreeformShape, QRectF(10.0, 30.0, 20.0, 40.0)},
+        {R"(<draw:g><draw:rect svg:x="1mm" svg:y="2mm" svg:width="3mm" svg:height="4mm"/></draw:g>)",
+         LossKind::GroupedObject, QRectF(1.0, 2.0, 3.0, 4.0)},
+        {R"(<draw:rect svg:x="1mm" svg:y="2mm" svg:width="3mm" svg:height="4mm"><text:p>)"
+         R"(<text:a>link</text:a></text:p></draw:rect>)",
+         LossKind::LinkText, QRectF(1.0, 2.0, 3.0, 4.0)},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.shapes);
+        const Census census = countOpenDocument(drawingOf(row.shapes));
+        const auto lost = std::find_if(census.objects.begin(), census.objects.end(),
+                                       [](const CountedObject& one) { return one.lost; });
+        ASSERT_NE(lost, census.objects.end());
+        EXPECT_EQ(lost->lost, row.lost);
+        ASSERT_TRUE(lost->place.has_value());
+        EXPECT_NEAR(lost->place->x(), row.box.x(), 1e-6);
+        EXPECT_NEAR(lost->place->y(), row.box.y(), 1e-6);
+        EXPECT_NEAR(lost->place->width(), row.box.width(), 1e-6);
+        EXPECT_NEAR(lost->place->height(), row.box.height(), 1e-6);
+    }
+}
+
+TEST(OpenDocumentCensus, KnowsNoPlaceOnFurtherPagesAndOfUnknownLengths)
+{
+    for (const char* shapes :
+         {R"(</draw:page><draw:page><draw:rect svg:x="1mm" svg:y="2mm"/>)",
+          R"(<draw:path svg:x="1 mm and more" svg:y="2mm"/>)", R"(<draw:path svg:y="2mm"/>)",
+          R"(<draw:path svg:x="nanmm" svg:y="infmm"/>)", R"(<draw:path/>)"}) {
+        const Census census = countOpenDocument(drawingOf(shapes));
+        ASSERT_EQ(lostOf(census), 1) << shapes;
+        EXPECT_FALSE(census.objects.constLast().place.has_value()) << shapes;
+    }
+}

@@ -39,8 +39,15 @@ template <class Value, class Make>
     const auto number = [&random] { return static_cast<int>(random() % 2'000'000) - 1; };
     const auto length = [&random] { return static_cast<double>(random()) / 1000.0 - 1e6; };
     const auto finding = [&] {
-        return Finding{text(), text(), number(), random() % 2 == 0,
-                       randomList<QString>(random, text)};
+        Finding made{text(), text(), number(), random() % 2 == 0,
+                     randomList<QString>(random, text)};
+        if (random() % 2 == 0) {
+            made.places =
+                FindingPlaces{randomList<int>(random, number), randomList<QRectF>(random, [&] {
+                                  return QRectF(length(), length(), length(), length());
+                              })};
+        }
+        return made;
     };
     const auto kind = [&] { return KindCount{text(), number()}; };
     FileReport report;

@@ -67,7 +67,7 @@ TEST_F(LabelSessionTest, OpensASavedLabelWithItsSourcesAndItsFirstRecord)
     EXPECT_EQ(RecentFiles().files(), QStringList{path(QStringLiteral("a.label"))});
 }
 
-TEST_F(LabelSessionTest, ImportsALegacyLabelThatIsUnsavedThen)
+TEST_F(LabelSessionTest, ImportsALegacyLabelWithoutAskingToSaveIt)
 {
     const QString file = copied(QStringLiteral("opendocument/shelf_label.odg"));
 
@@ -76,8 +76,13 @@ TEST_F(LabelSessionTest, ImportsALegacyLabelThatIsUnsavedThen)
     EXPECT_FALSE(session.label()->canvas->items().isEmpty());
     EXPECT_TRUE(session.label()->fileName.isEmpty());
     EXPECT_EQ(session.label()->suggestedName, path(QStringLiteral("shelf_label.label")));
-    EXPECT_TRUE(session.hasUnsavedChanges());
     EXPECT_FALSE(QFile::exists(session.label()->suggestedName));
+    EXPECT_FALSE(session.hasUnsavedChanges());
+    EXPECT_TRUE(session.openFile(file));
+    EXPECT_EQ(dialogs.texts(), QStringList());
+    change();
+    EXPECT_TRUE(session.hasUnsavedChanges());
+    session.undoStack().setClean();
 }
 
 TEST_F(LabelSessionTest, OpensEverySampleOfEveryFormat)
@@ -232,88 +237,6 @@ TEST_F(LabelSessionTest, OpensByDialog)
     dialogs.expectCancel();
     session.openByDialog();
     EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
-}
-
-TEST_F(LabelSessionTest, ImportsByTheImportersDialogAndSavesBesideTheOldFile)
-{
-    const QString file = copied(QStringLiteral("orvanta/jar_label.qmtx"));
-    dialogs.expectFile(file);
-
-    session.importByDialog();
-
-    ASSERT_NE(session.label(), nullptr);
-    EXPECT_EQ(dialogs.texts(), QStringList{QStringLiteral("Import Label")});
-    EXPECT_EQ(session.label()->fileName, path(QStringLiteral("jar_label.label")));
-    EXPECT_TRUE(QFile::exists(session.label()->fileName));
-    EXPECT_FALSE(session.hasUnsavedChanges());
-    EXPECT_EQ(readSavedLabel(session.label()->fileName).label->canvas->items().size(),
-              session.label()->canvas->items().size());
-}
-
-TEST_F(LabelSessionTest, AnImportNeverReplacesAFileUnasked)
-{
-    const QString file = copied(QStringLiteral("orvanta/jar_label.qmtx"));
-    const QString target = path(QStringLiteral("jar_label.label"));
-    struct Row
-    {
-        QString button;
-        QString keptIn;
-        bool isReplaced;
-    };
-    const QString other = path(QStringLiteral("other.label"));
-    const Row rows[] = {
-        {QStringLiteral("Save Later"), {}, false},
-        {QStringLiteral("Other Name…"), other, false},
-        {QStringLiteral("Replace"), target, true},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.button.toStdString());
-        writeGarbage(target);
-        if (session.hasUnsavedChanges()) {
-            dialogs.expectButton(QMessageBox::Discard);
-        }
-        dialogs.expectFile(file);
-        dialogs.expectButton(row.button.contains(QLatin1Char('O')) ? QStringLiteral("Other Name…")
-                                                                   : row.button);
-        if (row.keptIn == other) {
-            dialogs.expectFile(other);
-        }
-
-        session.importByDialog();
-
-        EXPECT_EQ(session.label()->fileName, row.keptIn);
-        EXPECT_EQ(readSavedLabel(target).label.has_value(), row.isReplaced);
-    }
-}
-
-TEST_F(LabelSessionTest, AnImportThatFailsOrIsCancelledLeavesTheLabel)
-{
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
-    dialogs.expectCancel();
-    session.importByDialog();
-    EXPECT_EQ(dialogs.texts().size(), 1);
-
-    writeGarbage(path(QStringLiteral("bad.cnv")));
-    dialogs.expectFile(path(QStringLiteral("bad.cnv")));
-    dialogs.expectButton(QMessageBox::Ok);
-    session.importByDialog();
-
-    EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
-    EXPECT_TRUE(
-        dialogs.texts().constLast().startsWith(QStringLiteral("The label could not be imported.")));
-}
-
-TEST_F(LabelSessionTest, AnImportAsksAboutUnsavedChangesFirst)
-{
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
-    change();
-    dialogs.expectButton(QMessageBox::Cancel);
-    session.importByDialog();
-    EXPECT_EQ(dialogs.texts().size(), 1); // no file dialog after that
-    EXPECT_TRUE(session.hasUnsavedChanges());
-    session.undoStack().setClean();
 }
 
 TEST(LabelNames, TheLastSuffixIsReplaced)

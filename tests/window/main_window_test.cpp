@@ -4,11 +4,11 @@
 #include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
-#include "window/label/issues_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
+#include "window/review/issues_panel.h"
 #include "window/sources/source_panel.h"
 
 #include <QApplication>
@@ -212,35 +212,6 @@ TEST_F(MainWindowTest, StepsThroughRecords)
     EXPECT_FALSE(window.isWindowModified());
 }
 
-TEST_F(MainWindowTest, AnIssueSelectsItsItem)
-{
-    OpenLabel label = makeLabel();
-    workbench::ItemValues barcode;
-    barcode.type = KestTypes::Barcode;
-    barcode.box.size = QSizeF(80.0, 30.0);
-    barcode.barcode = workbench::BarcodeValues();
-    barcode.barcode->symbology = 13;
-    barcode.barcode->content = QStringLiteral("not digits");
-    label.canvas->addItem(barcode);
-    ASSERT_EQ(writeLabel(label, path(QStringLiteral("b.label"))), QString());
-    ASSERT_TRUE(window.openFile(path(QStringLiteral("b.label"))));
-    ASSERT_EQ(window.panels().issues().count(), 1);
-    EXPECT_TRUE(window.panels().issues().table().isVisible());
-
-    window.action(ActionId::GoIssues).trigger();
-
-    EXPECT_TRUE(item(3)->isSelected());
-    EXPECT_EQ(selectedRows(), QList<int>{3});
-}
-
-TEST_F(MainWindowTest, IssuesGoWithTheirLabel)
-{
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    window.panels().issues().setIssues({{QStringLiteral("old"), -1, {}, 1}});
-    ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
-    EXPECT_EQ(window.panels().issues().count(), 0);
-}
-
 TEST_F(MainWindowTest, ZoomsByCommands)
 {
     openMadeLabel();
@@ -331,10 +302,10 @@ TEST_F(MainWindowTest, DoesNotCloseOverUnsavedChanges)
     EXPECT_TRUE(window.close());
 }
 
-TEST_F(MainWindowTest, ImportsByItsCommand)
+TEST_F(MainWindowTest, OpenImportsALegacyLabel)
 {
     dialogs.expectFile(copied(QStringLiteral("tavrel/address_2000016.cnv")));
-    window.action(ActionId::Import).trigger();
+    window.action(ActionId::Open).trigger();
     EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("address_2000016.label")));
     EXPECT_GT(itemTable().model()->rowCount(), 0);
 }

@@ -1,10 +1,9 @@
-// The tables: items, properties, issues, data sources, recent files, actions.
+// The tables: items, properties, data sources, recent files, actions.
 
 #include "window_fixture.h"
 
 #include "window/actions/actions.h"
 #include "window/actions/palettes.h"
-#include "window/label/issue_list_model.h"
 #include "window/label/recent_files.h"
 #include "window/properties/item_table_model.h"
 #include "window/properties/property_model.h"
@@ -172,43 +171,6 @@ TEST(PropertyTable, NamesAGroupOnceButTellsItToScreenReaders)
     EXPECT_EQ(model.index(1, PropertyModel::Group).data(Qt::AccessibleTextRole).toString(),
               QStringLiteral("Fill"));
     EXPECT_EQ(cell(model, 1, PropertyModel::Value), QStringLiteral("red"));
-}
-
-TEST(IssueTable, TellsWhatEachIssueIsAboutAndHowOftenItWasMet)
-{
-    IssueListModel model;
-    const QAbstractItemModelTester tester(&model,
-                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.setIssues({{QStringLiteral("Cannot be encoded"), 4, QStringLiteral("Barcode “x”"), 1},
-                     {QStringLiteral("Left out"), -1, {}, 3}});
-
-    EXPECT_EQ(cell(model, 0, IssueListModel::About), QStringLiteral("Barcode “x”"));
-    EXPECT_EQ(cell(model, 1, IssueListModel::About), QStringLiteral("The label"));
-    EXPECT_EQ(cell(model, 1, IssueListModel::Message), QStringLiteral("Left out (3 times)"));
-    EXPECT_EQ(model.itemOf(0), 4);
-    EXPECT_EQ(model.itemOf(1), -1);
-    EXPECT_EQ(model.itemOf(2), -1);
-}
-
-TEST(Issues, OfItemsAreThoseOfTheRecordThatIsShown)
-{
-    OpenLabel label = makeLabel();
-    workbench::ItemValues barcode;
-    barcode.type = KestTypes::Barcode;
-    barcode.box.size = QSizeF(80.0, 30.0);
-    barcode.barcode = workbench::BarcodeValues();
-    barcode.barcode->symbology = 13; // takes digits only
-    barcode.barcode->content = QStringLiteral("not digits");
-    label.canvas->addItem(barcode);
-    label.importIssues = {{QStringLiteral("A note"), -1, 1}};
-
-    const QList<Issue> issues = currentIssues(label);
-
-    ASSERT_EQ(issues.size(), 2);
-    EXPECT_EQ(issues.at(0).text, QStringLiteral("A note"));
-    EXPECT_EQ(issues.at(1).item, 3);
-    EXPECT_EQ(issues.at(1).about, QStringLiteral("Barcode “not digits”"));
-    EXPECT_FALSE(issues.at(1).text.isEmpty());
 }
 
 TEST(SourceTable, TellsKindSettingsRecordsAndPresentText)
@@ -381,7 +343,6 @@ TEST(ActionTable, WithoutALabelOnlyWhatNeedsNoneCanBeDone)
     Actions actions;
     actions.setLabelOpen(false);
     EXPECT_TRUE(actions.at(ActionId::Open).isEnabled());
-    EXPECT_TRUE(actions.at(ActionId::Import).isEnabled());
     EXPECT_FALSE(actions.at(ActionId::Save).isEnabled());
     EXPECT_FALSE(actions.at(ActionId::ZoomIn).isEnabled());
     actions.setLabelOpen(true);

@@ -4,12 +4,12 @@
 #include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
-#include "window/label/issues_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
 #include "window/output/export_dialog.h"
 #include "window/output/record_chooser.h"
 #include "window/properties/item_panel.h"
+#include "window/review/issues_panel.h"
 #include "window/shortcuts_dialog.h"
 
 #include <QApplication>
@@ -95,10 +95,6 @@ TEST_F(ScreensTest, WithEachFormat)
         openSample(window, sampleName);
         keepPicture(window, QString::fromLatin1(picture));
         EXPECT_GT(colorsOf(window.view()), 10);
-        // Saved, so that opening the next one shows no question.
-        ASSERT_EQ(writeLabel(*window.session().label(), path(QStringLiteral("x.label"))),
-                  QString());
-        window.session().label()->fileName = path(QStringLiteral("x.label"));
     }
 }
 
@@ -121,7 +117,11 @@ TEST_F(ScreensTest, Issues)
     ASSERT_TRUE(window.openFile(path(QStringLiteral("bad.label"))));
     window.action(ActionId::GoIssues).trigger();
     keepPicture(window, QStringLiteral("issues"));
-    EXPECT_EQ(window.panels().issues().count(), 1);
+    EXPECT_EQ(window.panels().issues().issues().size(), 1);
+    ASSERT_TRUE(window.openFile(sample(QStringLiteral("opendocument/high_voltage.odg"))));
+    window.action(ActionId::GoIssues).trigger();
+    keepPicture(window, QStringLiteral("issues_of_a_drawing"));
+    EXPECT_GE(window.panels().issues().issues().size(), 1);
 }
 
 TEST_F(ScreensTest, SmallWindowZoomedInInches)

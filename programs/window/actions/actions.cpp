@@ -28,11 +28,7 @@ struct ActionRow
 constexpr ActionRow ActionRows[] = {
     {ActionId::Open, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Open…"), "Ctrl+O",
      IconName::Open, Always, Command,
-     QT_TRANSLATE_NOOP("window::Actions", "Opens a saved label or a legacy one")},
-    {ActionId::Import, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Import…"), "Ctrl+I",
-     IconName::Import, Always, Command,
-     QT_TRANSLATE_NOOP("window::Actions",
-                       "Imports a legacy label and saves it beside the old file")},
+     QT_TRANSLATE_NOOP("window::Actions", "Opens a saved label, or imports a legacy one")},
     {ActionId::Save, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "&Save"), "Ctrl+S",
      IconName::Save, Label, Command, QT_TRANSLATE_NOOP("window::Actions", "Saves the label")},
     {ActionId::SaveAs, MenuId::File, QT_TRANSLATE_NOOP("window::Actions", "Save &As…"),

@@ -14,7 +14,6 @@ namespace window {
 /// All commands of a window.
 enum class ActionId : quint8 {
     Open,
-    Import,
     Save,
     SaveAs,
     Export,

@@ -20,7 +20,6 @@ struct IconRow
 
 constexpr IconRow Icons[] = {
     {IconName::Open, "M3 19V6a1 1 0 0 1 1-1h5l2 3h8a1 1 0 0 1 1 1v2M3 19l3-8h16l-3 8z"},
-    {IconName::Import, "M12 3v11M8 10l4 4 4-4M4 15v5h16v-5"},
     {IconName::Save, "M4 4h13l3 3v13H4zM8 4v5h8V4M7 20v-7h10v7"},
     {IconName::Export, "M12 14V3M8 7l4-4 4 4M4 15v5h16v-5"},
     {IconName::Print, "M7 8V3h10v5M7 17H4V8h16v9h-3M7 14h10v7H7z"},

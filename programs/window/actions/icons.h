@@ -11,7 +11,6 @@ namespace window {
 enum class IconName : quint8 {
     None,
     Open,
-    Import,
     Save,
     Export,
     Print,

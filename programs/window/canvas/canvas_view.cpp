@@ -127,6 +127,12 @@ void CanvasView::fitItems(const QList<QGraphicsItem*>& items)
     centerOn(bounds.center());
 }
 
+void CanvasView::setOutlines(const QList<QRectF>& boxes)
+{
+    m_outlines = boxes;
+    viewport()->update();
+}
+
 QPointF CanvasView::pageOrigin() const
 {
     return viewportTransform().map(QPointF(0.0, 0.0));
@@ -157,6 +163,7 @@ void CanvasView::drawForeground(QPainter* painter, const QRectF& rect)
 {
     if (m_canvas != nullptr) {
         paintPageSurroundings(*painter, m_canvas->pageRect(), rect, surroundingsColor(palette()));
+        paintOutlines(*painter, m_outlines);
     }
 }
 

@@ -45,6 +45,8 @@ public:
     /// Shows these items as large as they fit.
     void fitItems(const QList<QGraphicsItem*>& items);
     [[nodiscard]] bool keepsPageFitted() const { return m_keepFitted; }
+    /// Outlines these boxes of the canvas with dashes, until the next call.
+    void setOutlines(const QList<QRectF>& boxes);
     /// Position of the page's upper left corner, in pixels of the view.
     [[nodiscard]] QPointF pageOrigin() const;
 
@@ -92,6 +94,7 @@ private:
     bool m_keepFitted = true;
     bool m_handReady = false; // the space bar is down
     std::optional<QPoint> m_panFrom;
+    QList<QRectF> m_outlines;
 };
 
 } // namespace window

@@ -54,4 +54,20 @@ void paintPageSurroundings(QPainter& painter, const QRectF& page, const QRectF& 
     painter.restore();
 }
 
+void paintOutlines(QPainter& painter, const QList<QRectF>& boxes)
+{
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    for (const QPen& pen :
+         {QPen(Qt::white, 3.0), QPen(QColor(0xd0, 0x20, 0x20), 2.0, Qt::DashLine)}) {
+        QPen cosmetic = pen;
+        cosmetic.setCosmetic(true);
+        painter.setPen(cosmetic);
+        for (const QRectF& box : boxes) {
+            painter.drawRect(box);
+        }
+    }
+    painter.restore();
+}
+
 } // namespace window

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QList>
 #include <QPalette>
 #include <QRectF>
 
@@ -22,5 +23,8 @@ void paintPageGround(QPainter& painter, const QRectF& page, const QColor& ground
 /// Dims the visible area outside the page.
 void paintPageSurroundings(QPainter& painter, const QRectF& page, const QRectF& visible,
                            const QColor& session);
+
+/// Dashed outlines, visible on light and dark grounds.
+void paintOutlines(QPainter& painter, const QList<QRectF>& boxes);
 
 } // namespace window

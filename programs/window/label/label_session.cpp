@@ -1,6 +1,5 @@
 #include "window/label/label_session.h"
 
-#include "window/label/dialog_import.h"
 #include "window/label/label_files.h"
 
 #include <QCursor>
@@ -47,7 +46,8 @@ LabelSession::~LabelSession()
 
 bool LabelSession::hasUnsavedChanges() const
 {
-    return m_label && (m_label->fileName.isEmpty() || !m_undoStack.isClean());
+    // An imported label can be imported again.
+    return m_label && !m_undoStack.isClean();
 }
 
 void LabelSession::openByDialog()
@@ -81,37 +81,6 @@ QString LabelSession::openFileQuietly(const QString& fileName)
     m_recentFiles.add(fileName);
     Q_EMIT recentFilesChanged();
     return {};
-}
-
-void LabelSession::importByDialog()
-{
-    DialogImport command([this](bool allowDiscard) { return confirmDiscard(allowDiscard); });
-    ImportOutcome outcome = command.run(m_label ? m_label->fileName : QString());
-    if (outcome.label) {
-        setLabel(std::move(*outcome.label));
-        saveImported();
-    } else if (outcome.wasChosen) {
-        m_prompts.showError(tr("The label could not be imported."), outcome.error);
-    }
-}
-
-void LabelSession::saveImported()
-{
-    const QString fileName = m_label->suggestedName;
-    if (!QFileInfo::exists(fileName)) {
-        saveTo(fileName);
-        return;
-    }
-    switch (m_prompts.askExisting(fileName)) {
-    case Prompts::Existing::Replace:
-        saveTo(fileName);
-        break;
-    case Prompts::Existing::Rename:
-        saveAs();
-        break;
-    case Prompts::Existing::Later:
-        break;
-    }
 }
 
 bool LabelSession::save()

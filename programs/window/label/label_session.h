@@ -38,8 +38,6 @@ public:
     /// As openFile(), without questions and messages, for a session without unsaved changes.
     /// Returns the reason if the file cannot be opened, else an empty text.
     [[nodiscard]] QString openFileQuietly(const QString& fileName);
-    /// Imports through the importer's dialog and saves the label in the legacy file's folder.
-    void importByDialog();
     bool save();
     bool saveAs();
     /// Closes the label. False if the user canceled.
@@ -64,7 +62,6 @@ Q_SIGNALS:
 private:
     void setLabel(OpenLabel label);
     void clear();
-    void saveImported();
     bool saveTo(const QString& fileName);
     void showFileError(const QString& fileName, const QString& why);
 

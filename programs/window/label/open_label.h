@@ -1,11 +1,9 @@
 #pragma once
 
-#include "window/label/issue_list_model.h"
+#include "migration/model/file_report.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/datasources/datasource_controller.h"
-#include "workbench/import/issue_words.h"
 
-#include <QList>
 #include <QString>
 
 #include <memory>
@@ -22,8 +20,8 @@ struct OpenLabel
     /// The suggested file name: the name of the imported file with the
     /// suffix of saved labels.
     QString suggestedName;
-    /// The issues of the import.
-    QList<workbench::ImportIssue> importIssues;
+    /// What the import lost and changed.
+    migration::FileReport report;
 };
 
 /// The suffix of saved labels, with its dot.
@@ -40,9 +38,5 @@ struct OpenLabel
 
 /// Shows a record of the data sources, counted from 0, on the label's items.
 void showRecord(OpenLabel& label, qint64 record);
-
-/// The current issues of the label: those of the import, and
-/// items that cannot show their content in the current record.
-[[nodiscard]] QList<Issue> currentIssues(const OpenLabel& label);
 
 } // namespace window

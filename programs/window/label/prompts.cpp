@@ -7,7 +7,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -80,27 +79,6 @@ Prompts::Changes Prompts::askUnsavedChanges(const QString& labelName, bool allow
     default:
         return Changes::Cancel;
     }
-}
-
-Prompts::Existing Prompts::askExisting(const QString& fileName) const
-{
-    QMessageBox box(m_window);
-    box.setIcon(QMessageBox::Question);
-    box.setWindowTitle(Words::tr("Save Imported Label"));
-    setPlainText(
-        box, Words::tr("“%1” exists already.").arg(QFileInfo(fileName).fileName()),
-        Words::tr("The label was imported. It can replace that file, be saved under another "
-                  "name, or be saved later."));
-    QPushButton* replace = box.addButton(Words::tr("&Replace"), QMessageBox::DestructiveRole);
-    QPushButton* rename = box.addButton(Words::tr("&Other Name…"), QMessageBox::AcceptRole);
-    QPushButton* later = box.addButton(Words::tr("Save &Later"), QMessageBox::RejectRole);
-    box.setDefaultButton(rename);
-    box.setEscapeButton(later);
-    box.exec();
-    if (box.clickedButton() == replace) {
-        return Existing::Replace;
-    }
-    return box.clickedButton() == rename ? Existing::Rename : Existing::Later;
 }
 
 QString Prompts::askOpenFile() const

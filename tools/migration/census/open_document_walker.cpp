@@ -1,5 +1,7 @@
 #include "migration/census/open_document_walker.h"
 
+#include "migration/census/open_document_geometry.h"
+
 namespace migration {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,14 @@ void OpenDocumentWalker::push(Spot spot)
 void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
 {
     takeChunk();
+    const std::optional<QRectF> box = boxOf(attributes);
+    m_box = box ? box : m_places.back().box;
+    openChild(name, attributes);
+    m_places.back().box = m_box;
+}
+
+void OpenDocumentWalker::openChild(const QString& name, const Attributes& attributes)
+{
     switch (m_places.back().spot) {
     case Spot::Outside:
         return push(name == "office:body"_L1 ? Spot::Body : Spot::Outside);
@@ -110,7 +120,7 @@ void OpenDocumentWalker::openInPage(const QString& name, const Attributes& attri
         push(Spot::Ignored);
     } else if (name.startsWith("draw:"_L1) && !isInvisible(name)) {
         m_census.detail(LossKind::UnknownObject, name);
-        m_census.objects.append({.lost = LossKind::UnknownObject});
+        addLost({.lost = LossKind::UnknownObject}, m_box);
         openLost(LossKind::UnknownObject, {});
     } else {
         openLostPart(name, LossKind::UnknownObject);
@@ -140,7 +150,7 @@ void OpenDocumentWalker::close()
         if (parent.spot == Spot::LostParagraph) {
             parent.hasText = parent.hasText || place.hasText;
         } else if (place.hasText) {
-            m_census.objects.append({.objectClass = ObjectClass::Text, .lost = place.lost});
+            addLost({.objectClass = ObjectClass::Text, .lost = place.lost}, place.box);
         }
         return;
     case Spot::Shape:

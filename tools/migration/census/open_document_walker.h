@@ -72,10 +72,12 @@ private:
         bool hasPosition = false; ///< a frame that says where it is
         LossSet textChanges = {};
         QString style = {};
+        std::optional<QRectF> box = {}; ///< millimeters; that of the parent if it has none
     };
 
     using Attributes = QXmlStreamAttributes;
 
+    void openChild(const QString& name, const Attributes& attributes);
     void openInBody(const QString& name);
     void openInRunningText(const QString& name, const Attributes& attributes);
     void openInDrawing(const QString& name, const Attributes& attributes);
@@ -99,6 +101,7 @@ private:
     void openLost(LossKind kind, const QString& name);
     void openIgnored(const QString& name);
     void push(Spot spot);
+    void addLost(CountedObject object, const std::optional<QRectF>& box);
 
     void closeParagraph();
     void closeShapeText(const Place& place);
@@ -116,6 +119,7 @@ private:
     const StyleBook& m_styles;
     QString m_unit;
     std::vector<Place> m_places;
+    std::optional<QRectF> m_box; ///< of the element that is being opened
     QString m_masterPage;
     bool m_hasRunningText = false;
     int m_pages = 0;

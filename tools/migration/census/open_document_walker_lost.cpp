@@ -6,12 +6,21 @@ namespace migration {
 
 using namespace Qt::StringLiterals;
 
+void OpenDocumentWalker::addLost(CountedObject object, const std::optional<QRectF>& box)
+{
+    // A place on a further page is not one on the label.
+    if (object.lost != LossKind::FurtherPage) {
+        object.place = box;
+    }
+    m_census.objects.append(object);
+}
+
 // A lost object, or an element whose objects are all lost: the first reason holds for all of them.
 void OpenDocumentWalker::openLost(LossKind kind, const QString& name)
 {
     const DrawingElement* element = drawingElement(name);
     if (element != nullptr) {
-        m_census.objects.append({.objectClass = element->objectClass, .lost = kind});
+        addLost({.objectClass = element->objectClass, .lost = kind}, m_box);
         m_census.detail(kind, kind == LossKind::GroupedObject ? QString() : name);
     }
     if (name == "dr3d:scene"_L1) {

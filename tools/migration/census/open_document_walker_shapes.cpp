@@ -128,8 +128,7 @@ void OpenDocumentWalker::openInFrame(const QString& name, const Attributes& attr
         m_places.back().style = style;
         m_places.back().object = m_census.objects.size() - 1;
     } else if (isEmbedded(name)) {
-        m_census.objects.append(
-            {.objectClass = ObjectClass::Picture, .lost = LossKind::EmbeddedObject});
+        addLost({.objectClass = ObjectClass::Picture, .lost = LossKind::EmbeddedObject}, m_box);
         push(Spot::Ignored);
     } else {
         openLostPart(name, LossKind::UnknownObject);

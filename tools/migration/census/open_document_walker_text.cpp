@@ -221,6 +221,7 @@ void OpenDocumentWalker::closeShapeText(const Place& place)
         text.changes = place.textChanges;
     } else {
         text.lost = LossKind::ShapeText;
+        text.place = place.box;
     }
     m_census.objects.append(text);
 }

@@ -16,6 +16,7 @@ struct Sum
     qint64 objects = 0; ///< lost objects, or changed items
     qint64 others = 0;  ///< concerns no single object
     QStringList details;
+    FindingPlaces places;
 };
 
 // The numbers of the file's symbology that are the default's own.
@@ -72,6 +73,9 @@ void Comparison::run()
     for (const CountedObject& object : m_census.objects) {
         if (object.lost) {
             ++sum(*object.lost).objects;
+            if (object.place) {
+                sum(*object.lost).places.missing.append(*object.place);
+            }
         }
     }
     m_report.objects.imported = 0;
@@ -197,9 +201,12 @@ void Comparison::matchByNumber(const QList<qsizetype>& objects, const QList<qsiz
 
 void Comparison::sumItems()
 {
-    for (const LossSet& changes : m_itemChanges) {
+    for (qsizetype index = 0; index < m_itemChanges.size(); ++index) {
         for (const LossRow& row : lossRows()) {
-            sum(row.kind).objects += changes.has(row.kind) ? 1 : 0;
+            if (m_itemChanges.at(index).has(row.kind)) {
+                ++sum(row.kind).objects;
+                sum(row.kind).places.items.append(static_cast<int>(index));
+            }
         }
     }
     for (const LossRow& row : lossRows()) {
@@ -230,8 +237,12 @@ void Comparison::list(Outcome outcome, QList<Finding>& findings)
         found.details.removeDuplicates();
         const bool countsObjects = outcome == Outcome::Lost && found.objects > 0;
         const qint64 count = countsObjects ? found.objects : found.objects + found.others;
-        findings.append(
-            {lossCode(row.kind), lossWords(row.kind), count, countsObjects, found.details});
+        Finding finding{lossCode(row.kind), lossWords(row.kind), count, countsObjects,
+                        found.details};
+        if (found.places != FindingPlaces()) {
+            finding.places = found.places;
+        }
+        findings.append(finding);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -49,6 +50,8 @@ struct CountedObject
     bool hasPlaceholder = false;
     /// The file's number of a barcode's type, for comparisons.
     int barcodeType = NoBarcodeType;
+    /// Where a lost object was, in millimeters from the page's corner; nothing if unknown.
+    std::optional<QRectF> place = {};
 };
 
 /// Longest detail that is kept, in characters. Longer ones end in an ellipsis.

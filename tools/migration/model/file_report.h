@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 #include <QList>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -28,6 +29,14 @@ struct KindCount
     bool operator==(const KindCount&) const = default;
 };
 
+/// Where on the label something was lost or changed.
+struct FindingPlaces
+{
+    QList<int> items;      ///< indices of the changed items on the canvas
+    QList<QRectF> missing; ///< boxes of lost objects, in millimeters from the page's corner
+    bool operator==(const FindingPlaces&) const = default;
+};
+
 /// Something that was lost or changed.
 struct Finding
 {
@@ -39,6 +48,8 @@ struct Finding
     bool countsObjects = false;
     /// Names of the shapes, fonts or fields concerned; the first few.
     QStringList details;
+    /// Nothing if no place is known.
+    std::optional<FindingPlaces> places = {};
     bool operator==(const Finding&) const = default;
 };
 

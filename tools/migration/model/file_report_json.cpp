@@ -3,7 +3,62 @@
 #include "fields/field_archives.h"
 #include "migration/model/file_report.h"
 
+#include <QJsonArray>
+
+#include <algorithm>
 #include <limits>
+
+template <>
+struct fields::Json<QList<int>>
+{
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("fields::FieldProblem", "a list of whole numbers");
+    [[nodiscard]] static QJsonValue write(const QList<int>& value)
+    {
+        QJsonArray array;
+        for (const int number : value) {
+            array.append(number);
+        }
+        return array;
+    }
+    [[nodiscard]] static bool read(const QJsonValue& json, QList<int>& value)
+    {
+        value.clear();
+        const QJsonArray array = json.toArray();
+        return json.isArray() && std::all_of(array.begin(), array.end(), [&](QJsonValue entry) {
+                   return Json<int>::read(entry, value.emplaceBack());
+               });
+    }
+};
+
+/// Lists of [x, y, width, height].
+template <>
+struct fields::Json<QList<QRectF>>
+{
+    static constexpr const char* Kind =
+        QT_TRANSLATE_NOOP("fields::FieldProblem", "a list of rectangles");
+    [[nodiscard]] static QJsonValue write(const QList<QRectF>& value)
+    {
+        QJsonArray array;
+        for (const QRectF& box : value) {
+            array.append(QJsonArray{box.x(), box.y(), box.width(), box.height()});
+        }
+        return array;
+    }
+    [[nodiscard]] static bool read(const QJsonValue& json, QList<QRectF>& value)
+    {
+        value.clear();
+        for (const QJsonValue entry : json.toArray()) {
+            const QJsonArray box = entry.toArray();
+            if (box.size() != 4) {
+                return false;
+            }
+            value.append(
+                {box[0].toDouble(), box[1].toDouble(), box[2].toDouble(), box[3].toDouble()});
+        }
+        return json.isArray();
+    }
+};
 
 template <>
 struct fields::Json<migration::Status>
@@ -44,6 +99,12 @@ void describe(auto& field, ValuesOf<KindCount> auto& count)
     field("count", count.count);
 }
 
+void describe(auto& field, ValuesOf<FindingPlaces> auto& places)
+{
+    field("items", places.items);
+    field("missing", places.missing);
+}
+
 void describe(auto& field, ValuesOf<Finding> auto& finding)
 {
     field("code", finding.code);
@@ -51,6 +112,7 @@ void describe(auto& field, ValuesOf<Finding> auto& finding)
     field("count", finding.count);
     field("countsObjects", finding.countsObjects);
     field("details", finding.details);
+    field("places", finding.places);
 }
 
 void describe(auto& field, ValuesOf<SourceReport> auto& source)
@@ -128,6 +190,9 @@ public:
     {
         describe(*this, group);
     }
+
+    // Has no texts.
+    void operator()(const char* /*name*/, std::optional<FindingPlaces>& /*places*/) const {}
 
     template <class T>
     requires(!SingleValue<QList<T>>) void operator()(const char* /*name*/, QList<T>& groups) const

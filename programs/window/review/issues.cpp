@@ -1,0 +1,136 @@
+#include "window/review/issues.h"
+
+#include "migration/model/loss_kinds.h"
+#include "window/properties/item_description.h"
+#include "workbench/import/issue_words.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace window {
+
+namespace {
+
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(window::Issues)
+};
+
+constexpr double PointsPerMillimeter = 72.0 / 25.4;
+// Names of items in one issue; the rest is counted.
+constexpr qsizetype NamedItems = 3;
+
+QString namesOf(const QList<int>& items, const workbench::Canvas& canvas)
+{
+    QStringList names;
+    for (const int item : items.mid(0, NamedItems)) {
+        names.append(itemTitle(canvas.items().at(item)->values()));
+    }
+    const qsizetype others = items.size() - names.size();
+    if (others > 0) {
+        names.append(Words::tr("%n more", nullptr, static_cast<int>(others)));
+    }
+    return names.join(u", "_s);
+}
+
+QList<int> existingItems(const QList<int>& items, const workbench::Canvas& canvas)
+{
+    QList<int> existing;
+    std::copy_if(items.begin(), items.end(), std::back_inserter(existing),
+                 [&canvas](int item) { return item >= 0 && item < canvas.items().size(); });
+    return existing;
+}
+
+QString adviceFor(const QString& code)
+{
+    const migration::LossRow* row = migration::lossRowOf(code);
+    return row != nullptr ? migration::lossAdvice(row->kind) : QString();
+}
+
+Issue issueOf(const migration::Finding& finding, IssueGroup group, const workbench::Canvas& canvas)
+{
+    Issue issue{.group = group,
+                .code = finding.code,
+                .text = finding.text,
+                .advice = adviceFor(finding.code),
+                .count = finding.count,
+                .about = finding.details.join(u", "_s)};
+    if (finding.places) {
+        issue.items = existingItems(finding.places->items, canvas);
+        for (const QRectF& box : finding.places->missing) {
+            issue.missing.append(
+                QRectF(box.topLeft() * PointsPerMillimeter, box.size() * PointsPerMillimeter));
+        }
+    }
+    if (issue.about.isEmpty()) {
+        issue.about = namesOf(issue.items, canvas);
+    }
+    return issue;
+}
+
+Issue warningOf(const QString& text, int item, int repeats, const workbench::Canvas& canvas)
+{
+    Issue issue{.group = IssueGroup::Warning, .text = text, .count = repeats};
+    issue.items = existingItems({item}, canvas);
+    issue.about = namesOf(issue.items, canvas);
+    return issue;
+}
+
+// Problems of items depend on the record and are collected again each time.
+bool isOfRecord(const migration::IssueReport& warning,
+                const QList<workbench::ImportIssue>& ofRecord)
+{
+    return std::any_of(
+        ofRecord.begin(), ofRecord.end(), [&warning](const workbench::ImportIssue& other) {
+            return other.item >= 0 && other.item == warning.item && other.text == warning.text;
+        });
+}
+
+} // namespace
+
+QList<Issue> currentIssues(const OpenLabel& label)
+{
+    const workbench::Canvas& canvas = *label.canvas;
+    const QList<workbench::ImportIssue> ofRecord = workbench::collectIssues(canvas, {}, {});
+    const QString notEncodable = migration::lossCode(migration::LossKind::BarcodeNotEncodable);
+    QList<Issue> issues;
+    for (const migration::Finding& finding : label.report.lost) {
+        issues.append(issueOf(finding, IssueGroup::Lost, canvas));
+    }
+    for (const migration::Finding& finding : label.report.changed) {
+        if (finding.code != notEncodable) {
+            issues.append(issueOf(finding, IssueGroup::Changed, canvas));
+        }
+    }
+    for (const workbench::ImportIssue& issue : ofRecord) {
+        Issue problem = warningOf(issue.text, issue.item, issue.repeats, canvas);
+        problem.group = IssueGroup::Changed;
+        problem.code = notEncodable;
+        problem.advice = adviceFor(notEncodable);
+        issues.append(problem);
+    }
+    for (const migration::IssueReport& warning : label.report.issues) {
+        if (!isOfRecord(warning, ofRecord)) {
+            issues.append(warningOf(warning.text, warning.item, warning.repeats, canvas));
+        }
+    }
+    return issues;
+}
+
+QString titleOf(IssueGroup group)
+{
+    switch (group) {
+    case IssueGroup::Lost:
+        return Words::tr("Not imported");
+    case IssueGroup::Changed:
+        return Words::tr("Imported with changes");
+    case IssueGroup::Warning:
+        break;
+    }
+    return Words::tr("Warnings");
+}
+
+} // namespace window

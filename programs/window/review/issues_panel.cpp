@@ -1,0 +1,124 @@
+#include "window/review/issues_panel.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QStackedLayout>
+#include <QStandardItemModel>
+#include <QTreeView>
+
+namespace window {
+
+namespace {
+
+constexpr int IssueRole = Qt::UserRole + 1;
+
+QStandardItem* cell(const QString& text, int issue)
+{
+    auto* item = new QStandardItem(text);
+    item->setEditable(false);
+    item->setToolTip(text);
+    item->setData(issue, IssueRole);
+    return item;
+}
+
+QString countedText(const Issue& issue)
+{
+    return issue.count > 1 ? IssuesPanel::tr("%1 (%2 times)").arg(issue.text).arg(issue.count)
+                           : issue.text;
+}
+
+QStandardItem* addGroup(QStandardItemModel& model, IssueGroup group)
+{
+    auto* item = new QStandardItem(titleOf(group));
+    item->setFlags(Qt::ItemIsEnabled);
+    QFont font = item->font();
+    font.setBold(true);
+    item->setFont(font);
+    model.appendRow(item);
+    return item;
+}
+
+} // namespace
+
+IssuesPanel::IssuesPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_model(new QStandardItemModel(0, ColumnCount, this))
+    , m_tree(new QTreeView(this))
+    , m_none(new QLabel(this))
+    , m_stack(new QStackedLayout(this))
+{
+    m_tree->setModel(m_model);
+    m_tree->setAccessibleName(tr("Issues of the label"));
+    m_tree->setFrameShape(QFrame::NoFrame);
+    m_tree->setWordWrap(true);
+    m_tree->setAlternatingRowColors(true);
+    m_tree->setRootIsDecorated(false);
+    m_tree->setItemsExpandable(false);
+    m_tree->setIndentation(m_tree->indentation() / 2);
+    m_tree->setTabKeyNavigation(false);
+    m_none->setAlignment(Qt::AlignCenter);
+    m_none->setForegroundRole(QPalette::PlaceholderText);
+    m_stack->addWidget(m_none);
+    m_stack->addWidget(m_tree);
+    setFocusProxy(m_tree);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &IssuesPanel::wantIssueAt);
+    connect(m_tree, &QTreeView::clicked, this, &IssuesPanel::wantIssueAt);
+    connect(m_tree, &QTreeView::activated, this, &IssuesPanel::wantIssueAt);
+    clear();
+}
+
+void IssuesPanel::setIssues(const QList<Issue>& issues)
+{
+    m_none->setText(tr("Nothing was lost or changed."));
+    m_stack->setCurrentWidget(issues.isEmpty() ? static_cast<QWidget*>(m_none) : m_tree);
+    // Equal issues, of another record, keep the selection.
+    if (issues != m_issues) {
+        m_issues = issues;
+        fill();
+    }
+}
+
+void IssuesPanel::clear()
+{
+    setIssues({});
+    m_none->setText(tr("No label is open."));
+}
+
+void IssuesPanel::fill()
+{
+    m_model->clear();
+    m_model->setHorizontalHeaderLabels({tr("Issue"), tr("Objects"), tr("What you can do")});
+    QStandardItem* group = nullptr;
+    for (int index = 0; index < m_issues.size(); ++index) {
+        const Issue& issue = m_issues.at(index);
+        if (index == 0 || issue.group != m_issues.at(index - 1).group) {
+            group = addGroup(*m_model, issue.group);
+            m_tree->setFirstColumnSpanned(group->row(), {}, true);
+        }
+        group->appendRow(
+            {cell(countedText(issue), index), cell(issue.about, index), cell(issue.advice, index)});
+    }
+    m_tree->expandAll();
+    const int width = fontMetrics().horizontalAdvance(QLatin1Char('x'));
+    m_tree->setColumnWidth(Text, width * 48);
+    m_tree->setColumnWidth(About, width * 26);
+}
+
+void IssuesPanel::focusIssues()
+{
+    m_tree->setFocus(Qt::ShortcutFocusReason);
+    if (!m_tree->currentIndex().isValid() && !m_issues.isEmpty()) {
+        m_tree->setCurrentIndex(m_model->index(0, Text, m_model->index(0, 0)));
+    }
+}
+
+void IssuesPanel::wantIssueAt(const QModelIndex& index)
+{
+    const QVariant issue = index.data(IssueRole);
+    if (issue.isValid()) {
+        Q_EMIT issueWanted(m_issues.at(issue.toInt()));
+    }
+}
+
+} // namespace window

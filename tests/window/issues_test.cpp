@@ -1,0 +1,200 @@
+// The issues of a label and their panel.
+
+#include "window_fixture.h"
+
+#include "tests/migration/documents.h"
+
+#include "window/canvas/canvas_view.h"
+#include "window/label/label_files.h"
+#include "window/main_window.h"
+#include "window/properties/item_panel.h"
+#include "window/review/issues_panel.h"
+
+#include <QApplication>
+#include <QGraphicsItem>
+#include <QTreeView>
+
+using namespace window;
+
+namespace {
+
+workbench::ItemValues badBarcode()
+{
+    workbench::ItemValues barcode;
+    barcode.type = KestTypes::Barcode;
+    barcode.box.size = QSizeF(80.0, 30.0);
+    barcode.barcode = workbench::BarcodeValues();
+    barcode.barcode->symbology = 13; // takes digits only
+    barcode.barcode->content = QStringLiteral("not digits");
+    return barcode;
+}
+
+/// The texts of a tree with two levels, row by row.
+QStringList textsOf(const QTreeView& tree)
+{
+    QStringList texts;
+    const QAbstractItemModel& model = *tree.model();
+    for (int group = 0; group < model.rowCount(); ++group) {
+        const QModelIndex top = model.index(group, 0);
+        texts.append(top.data().toString());
+        for (int row = 0; row < model.rowCount(top); ++row) {
+            texts.append(model.index(row, 0, top).data().toString());
+        }
+    }
+    return texts;
+}
+
+class IssuesTest : public WindowFixture
+{
+protected:
+    IssuesTest() { window.show(); }
+
+    /// A drawing with these shapes, opened in the window.
+    void openDrawing(const QByteArray& shapes)
+    {
+        QFile file(path(QStringLiteral("drawing.odg")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(drawingOf(shapes));
+        file.close();
+        ASSERT_TRUE(window.openFile(file.fileName()));
+        QApplication::processEvents();
+    }
+
+    [[nodiscard]] IssuesPanel& panel() { return window.panels().issues(); }
+    [[nodiscard]] const Issue* issue(const QString& code)
+    {
+        const QList<Issue>& issues = panel().issues();
+        const auto found = std::find_if(issues.begin(), issues.end(),
+                                        [&code](const Issue& one) { return one.code == code; });
+        return found != issues.end() ? &*found : nullptr;
+    }
+    /// Selects the first issue of a group, as the arrow keys do.
+    void choose(int group)
+    {
+        const QAbstractItemModel& model = *panel().tree().model();
+        panel().tree().setCurrentIndex(model.index(0, 0, model.index(group, 0)));
+    }
+
+    MainWindow window;
+};
+
+constexpr const char* LostPath =
+    R"(<draw:path svg:x="1in" svg:y="1in" svg:width="1in" svg:height="0.5in"/>)";
+constexpr const char* OutsideRect =
+    R"(<draw:rect svg:x="20in" svg:y="1in" svg:width="1in" svg:height="1in"/>)";
+
+} // namespace
+
+TEST(Issues, OfItemsAreThoseOfTheRecordThatIsShown)
+{
+    OpenLabel label = makeLabel();
+    label.canvas->addItem(badBarcode());
+    label.report.issues = {{QStringLiteral("A note"), -1, 2}};
+
+    const QList<Issue> issues = currentIssues(label);
+
+    ASSERT_EQ(issues.size(), 2);
+    EXPECT_EQ(issues.at(0).items, QList<int>{3});
+    EXPECT_EQ(issues.at(0).about, QStringLiteral("Barcode “not digits”"));
+    EXPECT_FALSE(issues.at(0).text.isEmpty());
+    EXPECT_FALSE(issues.at(0).advice.isEmpty());
+    EXPECT_EQ(issues.at(1).group, IssueGroup::Warning);
+    EXPECT_EQ(issues.at(1).text, QStringLiteral("A note"));
+    EXPECT_EQ(issues.at(1).count, 2);
+}
+
+TEST(Issues, NameTheFirstItemsAndCountTheOthers)
+{
+    OpenLabel label = makeLabel();
+    migration::Finding finding{
+        QStringLiteral("outside-page"), QStringLiteral("Outside"), 4, false, {}};
+    finding.places = migration::FindingPlaces{{0, 1, 2, 0, 99, -1}, {}};
+    label.report.changed = {finding};
+    const QList<Issue> issues = currentIssues(label);
+    ASSERT_EQ(issues.size(), 1);
+    EXPECT_EQ(issues.at(0).items, (QList<int>{0, 1, 2, 0})); // those that exist
+    EXPECT_TRUE(issues.at(0).about.endsWith(QStringLiteral(", 1 more")))
+        << issues.at(0).about.toStdString();
+}
+
+TEST_F(IssuesTest, WithoutALabelThePanelSaysSo)
+{
+    EXPECT_TRUE(panel().issues().isEmpty());
+    EXPECT_FALSE(panel().tree().isVisible());
+}
+
+TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
+{
+    const QString file = sample(QStringLiteral("opendocument/high_voltage.odg"));
+    ASSERT_TRUE(window.openFile(file));
+    const workbench::ImportResult result = workbench::importLabel(file);
+    const migration::FileReport report = migration::makeFileReport(
+        file, QStringLiteral("high_voltage.odg"), ReaderKind::OpenDocument, result);
+    ASSERT_FALSE(report.lost.isEmpty() && report.changed.isEmpty());
+    for (const QList<migration::Finding>* list : {&report.lost, &report.changed}) {
+        for (const migration::Finding& finding : *list) {
+            SCOPED_TRACE(finding.code.toStdString());
+            const Issue* shown = issue(finding.code);
+            ASSERT_NE(shown, nullptr);
+            EXPECT_EQ(shown->text, finding.text);
+            EXPECT_EQ(shown->count, finding.count);
+            EXPECT_FALSE(shown->advice.isEmpty());
+        }
+    }
+}
+
+TEST_F(IssuesTest, ALostObjectIsOutlinedWhereItShouldBe)
+{
+    openDrawing(QByteArray(LostPath) + OutsideRect);
+    const QString title = QStringLiteral("Not imported");
+    ASSERT_TRUE(textsOf(panel().tree()).contains(title));
+    const QPoint corner =
+        window.view().mapFromScene(QPointF(72.0, 72.0)) + QPoint(1, 0); // the upper edge
+    const QImage before = window.view().viewport()->grab().toImage();
+
+    choose(0);
+
+    const Issue* lost = issue(QStringLiteral("freeform-shape"));
+    ASSERT_NE(lost, nullptr);
+    ASSERT_EQ(lost->missing.size(), 1);
+    EXPECT_NEAR(lost->missing.at(0).x(), 72.0, 0.01);
+    EXPECT_NEAR(lost->missing.at(0).height(), 36.0, 0.01);
+    const QImage after = window.view().viewport()->grab().toImage();
+    EXPECT_NE(before.pixel(corner), after.pixel(corner));
+    EXPECT_TRUE(window.view().scene()->selectedItems().isEmpty());
+}
+
+TEST_F(IssuesTest, AnIssueSelectsItsItemsAndScrollsToThem)
+{
+    openDrawing(QByteArray(LostPath) + OutsideRect);
+    const Issue* outside = issue(QStringLiteral("outside-page"));
+    ASSERT_NE(outside, nullptr);
+    ASSERT_EQ(outside->items, QList<int>{0});
+
+    choose(1);
+
+    EXPECT_TRUE(window.session().label()->canvas->items().at(0)->graphicsItem()->isSelected());
+    EXPECT_NE(window.panels().items().currentItem(), nullptr);
+}
+
+TEST_F(IssuesTest, AreReachedByTheirKey)
+{
+    OpenLabel label = makeLabel();
+    label.canvas->addItem(badBarcode());
+    ASSERT_EQ(writeLabel(label, path(QStringLiteral("b.label"))), QString());
+    ASSERT_TRUE(window.openFile(path(QStringLiteral("b.label"))));
+    ASSERT_EQ(panel().issues().size(), 1);
+    EXPECT_TRUE(panel().tree().isVisible());
+
+    window.action(ActionId::GoIssues).trigger();
+
+    EXPECT_TRUE(window.session().label()->canvas->items().at(3)->graphicsItem()->isSelected());
+}
+
+TEST_F(IssuesTest, GoWithTheirLabel)
+{
+    openDrawing(LostPath);
+    EXPECT_FALSE(panel().issues().isEmpty());
+    EXPECT_TRUE(window.session().close());
+    EXPECT_TRUE(panel().issues().isEmpty());
+}
