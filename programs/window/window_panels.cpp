@@ -59,6 +59,9 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
 {
     // The right dock area extends to the status bar: lists of items are long.
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    // Issues need the full width: text, objects, advice.
+    window.tabifyDockWidget(m_sourceDock, m_issueDock);
+    m_sourceDock->raise();
     window.resizeDocks({m_itemDock, m_propertyDock}, {420, 420}, Qt::Horizontal);
     window.resizeDocks({m_sourceDock, m_issueDock}, {150, 150}, Qt::Vertical);
 }

@@ -319,7 +319,7 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
             }
         }
     }
-    EXPECT_EQ(actions.shortcuts().size(), 35);
+    EXPECT_EQ(actions.shortcuts().size(), 34);
 }
 
 TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)

@@ -108,7 +108,8 @@ void IssuesPanel::fill()
 void IssuesPanel::focusIssues()
 {
     m_tree->setFocus(Qt::ShortcutFocusReason);
-    if (!m_tree->currentIndex().isValid() && !m_issues.isEmpty()) {
+    // The focus may have made the title of a group the current row.
+    if (!m_tree->currentIndex().data(IssueRole).isValid() && !m_issues.isEmpty()) {
         m_tree->setCurrentIndex(m_model->index(0, Text, m_model->index(0, 0)));
     }
 }
