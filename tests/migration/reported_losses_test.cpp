@@ -138,6 +138,9 @@ QByteArray styled(const char* group, const char* properties)
            "-properties " + properties + "/></style:style>";
 }
 
+const QByteArray kFramedPicture =
+    "<draw:frame draw:style-name=\"S\" text:anchor-type=\"paragraph\" svg:width=\"1in\" "
+    "svg:height=\"1in\"><draw:image xlink:href=\"Pictures/good.png\"/></draw:frame>";
 const QByteArray kStyledRect =
     QByteArray(kPlainRect).replace("<draw:rect", "<draw:rect draw:style-name=\"S\"");
 const QByteArray kStyledText = "<text:p text:style-name=\"S\">Text</text:p>";
@@ -202,6 +205,10 @@ const QList<Sample>& samples()
          1, 1},
         {LossKind::TextElement, odt("<text:p>Text <text:ruby>strange</text:ruby></text:p>"), 1, 1},
         {LossKind::ShapeText, odg(rectWith("<text:h>Heading</text:h>")), 1, 1},
+        {LossKind::LineText,
+         odg("<draw:line svg:x1=\"1in\" svg:y1=\"1in\" svg:x2=\"2in\" svg:y2=\"1in\">"
+             "<text:p>100 mm</text:p></draw:line>"),
+         1, 1},
         {LossKind::Footnote,
          odt("<text:p>Text<text:note><text:note-citation>1</"
              "text:note-citation><text:note-body><text:p>Note</text:p></text:note-body></"
@@ -250,12 +257,12 @@ const QList<Sample>& samples()
         {LossKind::OverPageEdge,
          qmtx(kPlainLabel + shapeControl("<x>580</x><y>210</y><w>90</w><h>50</h>"))},
         {LossKind::SizeLimited,
-         odg(QByteArray(kPlainRect).replace("svg:width=\"1in\"", "svg:width=\"1000000000in\""))},
+         odg(kPlainRect, {.pageLayout = "fo:page-width=\"1000000000in\" fo:page-height=\"3in\""})},
         {LossKind::MillimetersEnlarged,
          odg("<draw:rect svg:x=\"1mm\" svg:y=\"1mm\" svg:width=\"9mm\" svg:height=\"9mm\"/>",
              {.pageLayout = "fo:page-width=\"50mm\" fo:page-height=\"30mm\""})},
         {LossKind::MixedUnits,
-         odg(QByteArray(kPlainRect).replace("svg:width=\"1in\"", "svg:width=\"1cm\""))},
+         odg(QByteArray(kPlainRect).replace("svg:width=\"1in\"", "svg:width=\"0.02cm\""))},
         {LossKind::UnitUnknown,
          odg("<draw:rect svg:x=\"1pt\" svg:y=\"1pt\" svg:width=\"9pt\" svg:height=\"9pt\"/>",
              {.pageLayout = "fo:page-width=\"90pt\" fo:page-height=\"90pt\""})},
@@ -270,18 +277,51 @@ const QList<Sample>& samples()
          odt(kStyledText, {.automaticStyles = styled("paragraph", "fo:break-before=\"page\"")})},
         {LossKind::TransformDropped,
          odg(QByteArray(kPlainRect)
-                 .replace("<draw:rect",
-                          "<draw:rect draw:transform=\"skewX (0.3) translate (1in 1in)\""))},
+                 .replace("svg:x=\"1in\" svg:y=\"1in\"",
+                          "draw:transform=\"skewX (0.001) translate (1in 1in)\""))},
         {LossKind::FontReplaced, qmtx(fontControl("No Such Font"))},
         {LossKind::TextStretched, stretchedText()},
         {LossKind::TextColor,
          odt(kStyledText, {.automaticStyles = styled("text", "fo:color=\"#ff0000\"")})},
-        {LossKind::TextSpacing, odg(rectWith("<text:p>One<text:line-break/>Two</text:p>"))},
+        {LossKind::TextSpacing, odg(rectWith("<text:p>One <text:s/>Two</text:p>"))},
         {LossKind::TextFormat,
          odt(kStyledText,
              {.automaticStyles = styled("text", "style:text-position=\"super 58%\"")})},
+        {LossKind::TextDiffers,
+         odg(rectWith("<text:p><text:span>12.40</text:span> <text:span>kg</text:span></text:p>"))},
+        {LossKind::TextUnreadable,
+         odg(QByteArray(kStyledRect).replace("/>", "><text:p>Mains</text:p></draw:rect>"),
+             {.automaticStyles = styled("graphic", "draw:fill=\"solid\" "
+                                                   "draw:fill-color=\"#000000\"")})},
+        {LossKind::TextsOverlap,
+         odt("<text:p text:style-name=\"S\">Price <text:span>12.40</text:span> per "
+             "kilogram</text:p>",
+             {.automaticStyles = styled("paragraph", "fo:text-align=\"center\"")})},
+        {LossKind::Covered, odt("<text:p>" + kFramedPicture + kFramedPicture + "</text:p>",
+                                {.automaticStyles = styled("graphic", "style:wrap=\"none\"")})},
+        {LossKind::Moved,
+         odg(QByteArray(kPlainRect)
+                 .replace("svg:x=\"1in\" svg:y=\"1in\"",
+                          "draw:transform=\"rotate (0.5) translate (1in 1.5in)\""))},
+        {LossKind::Mirrored,
+         odg("<draw:custom-shape svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+             "svg:height=\"1in\"><draw:enhanced-geometry draw:type=\"right-triangle\" "
+             "draw:mirror-horizontal=\"true\"/></draw:custom-shape>")},
+        {LossKind::Invisible,
+         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:stroke=\"none\" "
+                                                                "draw:fill=\"bitmap\" "
+                                                                "draw:fill-color=\"#ffffff\"")})},
+        {LossKind::FillAdded,
+         odt("<draw:frame draw:style-name=\"S\" svg:width=\"1in\" svg:height=\"1in\">"
+             "<draw:text-box><text:p>Text</text:p></draw:text-box></draw:frame>",
+             {.automaticStyles = styled("graphic", "draw:fill-color=\"#3465a4\"")})},
+        {LossKind::PenWidth,
+         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:stroke=\"solid\" "
+                                                                "svg:stroke-width=\"0.02in\" "
+                                                                "draw:fill=\"none\"")})},
         {LossKind::FillSimplified,
-         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"gradient\"")})},
+         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"gradient\" "
+                                                                "draw:fill-color=\"#3465a4\"")})},
         {LossKind::EffectDropped,
          odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:shadow=\"visible\"")})},
         {LossKind::Other, qmtx(kPlainLabel), 1, 0,

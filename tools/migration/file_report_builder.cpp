@@ -1,6 +1,7 @@
 #include "migration/file_report_builder.h"
 
 #include "migration/census/counting.h"
+#include "migration/losses/check_label.h"
 #include "migration/losses/compare.h"
 #include "migration/losses/item_losses.h"
 #include "migration/losses/label_facts.h"
@@ -64,7 +65,13 @@ FileReport reportOn(const QString& fileName, const QString& shownName, const QSt
     }
     report.status = Status::Imported;
     describeLabel(result, report);
-    compare(census, lookAtItems(*result.canvas, blankTextsCount), lossesOfLog(result), report);
+    LabelFacts label = lookAtItems(*result.canvas, blankTextsCount);
+    if (count == &countOpenDocument) {
+        checkLabel(census, *result.canvas, {}, label);
+    } else {
+        findReplacedFonts(label);
+    }
+    compare(census, label, lossesOfLog(result), report);
     if (options.itemList) {
         report.itemList = itemListOf(*result.canvas);
     }

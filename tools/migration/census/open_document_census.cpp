@@ -3,6 +3,7 @@
 
 #include "limits/zip/zip_directory.h"
 #include "migration/census/counting.h"
+#include "migration/census/open_document_geometry.h"
 #include "migration/census/open_document_names.h"
 #include "migration/census/open_document_styles.h"
 #include "migration/census/open_document_styles_reader.h"
@@ -129,13 +130,25 @@ const MasterPage* usedMasterPage(const Styles& styles, const QString& name)
 
 void addMasterPage(const MasterPage& page, Census& census)
 {
-    census.objects.append(page.census.objects);
+    const qsizetype first = census.appearances.size();
+    for (CountedObject object : page.census.objects) {
+        object.appearance += object.appearance < 0 ? 0 : first;
+        census.objects.append(object);
+    }
+    census.appearances.append(page.census.appearances);
     for (const auto& [kind, tally] : page.census.tallies) {
         census.note(kind, tally.count);
         for (const QString& detail : tally.details) {
             census.detail(kind, detail);
         }
     }
+}
+
+// In points; nothing if a length is missing.
+QSizeF sizeOf(const PageLayout& layout)
+{
+    return {lengthInPoints(layout.width).value_or(0.0),
+            lengthInPoints(layout.height).value_or(0.0)};
 }
 
 // The page is the first that the styles describe, which need not be the one that is used.
@@ -204,6 +217,7 @@ Census countOpenDocument(const QByteArray& file)
         addMasterPage(*used, census);
     }
     refuseTooMany(census);
+    census.pageSize = sizeOf(styles.layouts.value(0));
     notePageSize(styles, used, census);
     if (body.isText && hasMargins(styles, used)) {
         census.note(LossKind::PageMargins);

@@ -1,9 +1,8 @@
 #include "migration/census/open_document_geometry.h"
 
-#include <QStringView>
+#include <QStringList>
 #include <QTransform>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -15,73 +14,134 @@ using namespace Qt::StringLiterals;
 
 struct Unit
 {
-    QLatin1String name;
-    double millimeters;
+    QLatin1String suffix;
+    double points;
 };
 
-constexpr std::array Units{Unit{"mm"_L1, 1.0},        Unit{"cm"_L1, 10.0},
-                           Unit{"in"_L1, 25.4},       Unit{"pt"_L1, 25.4 / 72.0},
-                           Unit{"pc"_L1, 25.4 / 6.0}, Unit{"px"_L1, 25.4 / 96.0}};
+constexpr std::array Units{
+    Unit{"in"_L1, 72.0}, Unit{"cm"_L1, 72.0 / 2.54}, Unit{"mm"_L1, 72.0 / 25.4},
+    Unit{"pt"_L1, 1.0},  Unit{"pc"_L1, 12.0},        Unit{"px"_L1, 0.75},
+};
 
-// Nothing for a text that is not a finite length with a known unit.
-std::optional<double> millimetersOf(QStringView length)
+// Angles are counter-clockwise, while the axis of ordinates points down.
+QTransform operation(QStringView name, const QList<double>& values)
 {
-    const QStringView text = length.trimmed();
+    const auto value = [&values](qsizetype index) { return values.value(index, 0.0); };
+    if (name == "rotate"_L1) {
+        const double sine = std::sin(value(0));
+        const double cosine = std::cos(value(0));
+        return {cosine, -sine, sine, cosine, 0.0, 0.0};
+    }
+    if (name == "translate"_L1) {
+        return QTransform::fromTranslate(value(0), value(1));
+    }
+    if (name == "scale"_L1) {
+        return QTransform::fromScale(value(0), values.value(1, value(0)));
+    }
+    if (name == "skewX"_L1) {
+        return {1.0, 0.0, -std::tan(value(0)), 1.0, 0.0, 0.0};
+    }
+    if (name == "skewY"_L1) {
+        return {1.0, -std::tan(value(0)), 0.0, 1.0, 0.0, 0.0};
+    }
+    if (name == "matrix"_L1) {
+        return {value(0), value(1), value(2), value(3), value(4), value(5)};
+    }
+    return {};
+}
+
+QTransform transformOf(QStringView text)
+{
+    QTransform transform;
+    for (const QStringView part : text.split(u')', Qt::SkipEmptyParts)) {
+        const qsizetype opening = part.indexOf(u'(');
+        if (opening < 0) {
+            continue;
+        }
+        QList<double> values;
+        const QString numbers = part.sliced(opening + 1).toString().replace(u',', u' ');
+        for (const QString& number : numbers.split(u' ', Qt::SkipEmptyParts)) {
+            values.append(lengthInPoints(number).value_or(number.toDouble()));
+        }
+        transform *= operation(part.left(opening).trimmed(), values);
+    }
+    return transform;
+}
+
+std::optional<double> lengthOf(const QXmlStreamAttributes& attributes, QLatin1String name)
+{
+    return lengthInPoints(attributes.value(name));
+}
+
+// Only a translation gives a position.
+bool isMoved(QStringView transform)
+{
+    return transform.contains("translate"_L1) || transform.contains("matrix"_L1);
+}
+
+/// Whether an object without a size has an outline.
+enum class MissingSize : quint8 { HasNone, IsZero };
+
+QPolygonF untransformed(const QXmlStreamAttributes& attributes, bool isPlaced, MissingSize missing)
+{
+    if (attributes.hasAttribute("svg:x1"_L1)) {
+        const QPointF from(lengthOf(attributes, "svg:x1"_L1).value_or(0.0),
+                           lengthOf(attributes, "svg:y1"_L1).value_or(0.0));
+        const QPointF to(lengthOf(attributes, "svg:x2"_L1).value_or(0.0),
+                         lengthOf(attributes, "svg:y2"_L1).value_or(0.0));
+        return QPolygonF({from, to});
+    }
+    const auto x = lengthOf(attributes, "svg:x"_L1);
+    const auto y = lengthOf(attributes, "svg:y"_L1);
+    auto width = lengthOf(attributes, "svg:width"_L1);
+    auto height = lengthOf(attributes, "svg:height"_L1);
+    if (missing == MissingSize::IsZero) {
+        width = width.value_or(0.0);
+        height = height.value_or(0.0);
+    }
+    if (!width || !height || (!isPlaced && (!x || !y))) {
+        return {};
+    }
+    const QRectF box(x.value_or(0.0), y.value_or(0.0), *width, *height);
+    return QPolygonF({box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()});
+}
+
+QPolygonF outline(const QXmlStreamAttributes& attributes, MissingSize missing)
+{
+    const QStringView transform = attributes.value("draw:transform"_L1);
+    const QPolygonF corners = untransformed(attributes, isMoved(transform), missing);
+    return transform.isEmpty() ? corners : transformOf(transform).map(corners);
+}
+
+} // namespace
+
+std::optional<double> lengthInPoints(QStringView length)
+{
     for (const Unit& unit : Units) {
-        bool isNumber = false;
-        const double number =
-            text.endsWith(unit.name) ? text.chopped(unit.name.size()).toDouble(&isNumber) : 0.0;
-        if (isNumber && std::isfinite(number)) {
-            return number * unit.millimeters;
+        if (length.endsWith(unit.suffix)) {
+            bool isNumber = false;
+            const double number = length.chopped(2).toDouble(&isNumber);
+            return isNumber && std::isfinite(number) ? std::optional(number * unit.points)
+                                                     : std::nullopt;
         }
     }
     return std::nullopt;
 }
 
-// Rotations and translations, which are applied in the order of the text.
-std::optional<QTransform> transformOf(QStringView text)
+QPolygonF outlineOf(const QXmlStreamAttributes& attributes)
 {
-    QTransform transform;
-    bool isMoved = false;
-    for (const QStringView part : text.split(u')', Qt::SkipEmptyParts)) {
-        const qsizetype bracket = part.indexOf(u'(');
-        const QStringView name = part.left(std::max<qsizetype>(bracket, 0)).trimmed();
-        const QList<QStringView> values =
-            part.mid(bracket + 1).trimmed().split(u' ', Qt::SkipEmptyParts);
-        if (name == "rotate"_L1) {
-            // Counterclockwise in the document, where the y axis points down.
-            const double angle = values.value(0).toDouble();
-            transform *= QTransform().rotateRadians(std::isfinite(angle) ? -angle : 0.0);
-        } else if (name == "translate"_L1) {
-            const std::optional<double> x = millimetersOf(values.value(0));
-            const std::optional<double> y = millimetersOf(values.value(1));
-            transform *= QTransform::fromTranslate(x.value_or(0.0), y.value_or(0.0));
-            isMoved = x.has_value();
-        }
-    }
-    return isMoved ? std::optional(transform) : std::nullopt;
+    return outline(attributes, MissingSize::HasNone);
 }
-
-} // namespace
 
 std::optional<QRectF> boxOf(const QXmlStreamAttributes& attributes)
 {
-    const auto length = [&attributes](QLatin1String name) {
-        return millimetersOf(attributes.value(name));
-    };
-    const std::optional<double> x1 = length("svg:x1"_L1);
-    const std::optional<double> y1 = length("svg:y1"_L1);
-    if (x1 && y1) {
-        const QPointF end(length("svg:x2"_L1).value_or(*x1), length("svg:y2"_L1).value_or(*y1));
-        return QRectF(QPointF(*x1, *y1), end).normalized();
+    const QPolygonF corners = outline(attributes, MissingSize::IsZero);
+    if (corners.isEmpty()) {
+        return std::nullopt;
     }
-    const QSizeF size(length("svg:width"_L1).value_or(0.0), length("svg:height"_L1).value_or(0.0));
-    if (const auto transform = transformOf(attributes.value("draw:transform"_L1))) {
-        return transform->mapRect(QRectF(QPointF(0.0, 0.0), size));
-    }
-    const std::optional<double> x = length("svg:x"_L1);
-    const std::optional<double> y = length("svg:y"_L1);
-    return x && y ? std::optional(QRectF(QPointF(*x, *y), size)) : std::nullopt;
+    constexpr double millimeters = 25.4 / 72.0;
+    const QRectF box = corners.boundingRect();
+    return QRectF(box.topLeft() * millimeters, box.size() * millimeters);
 }
 
 } // namespace migration

@@ -114,6 +114,12 @@ LossSet changesOf(quint64 dropped, Target target)
     return changes;
 }
 
+// Of a list in CSS.
+QString firstFamily(const QString& families)
+{
+    return families.section(u',', 0, 0).remove(u'\'').remove(u'"').trimmed();
+}
+
 QString valueOf(const QXmlStreamAttributes& attributes, QLatin1String name)
 {
     return attributes.value(name).toString();
@@ -128,7 +134,10 @@ bool isTextFamily(const QString& family)
 
 void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes)
 {
-    if (name == "style:style"_L1 || name == "style:default-style"_L1) {
+    if (name == "style:font-face"_L1) {
+        m_faces.insert(valueOf(attributes, "style:name"_L1),
+                       firstFamily(valueOf(attributes, "svg:font-family"_L1)));
+    } else if (name == "style:style"_L1 || name == "style:default-style"_L1) {
         startStyle(attributes, name == "style:default-style"_L1);
     } else if (name == "style:text-properties"_L1) {
         takeProperties(u"text"_s, attributes);
@@ -146,14 +155,30 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
     const QString parent = valueOf(attributes, "style:parent-style-name"_L1);
     if (isTextFamily(family)) {
         // A parent that comes later is none.
+        Style style = textStyle(parent);
+        if (!m_texts.contains(parent)) {
+            style.font.clear();
+            style.color.clear();
+        }
         m_current = isDefault ? (family == "paragraph"_L1 ? &m_defaultText : &m_nowhere)
-                              : &*m_texts.insert(name, textStyle(parent));
+                              : &*m_texts.insert(name, style);
     } else if (family == "graphic"_L1) {
         m_current = isDefault ? &m_defaultShape : &*m_shapes.insert(name, shapeStyle(parent));
     } else {
         m_current = &m_nowhere;
     }
 }
+
+const std::array<StyleBook::Value, 8> StyleBook::Values{{
+    {"text"_L1, "fo:color"_L1, &Style::color},
+    {"graphic"_L1, "draw:fill"_L1, &Style::fill},
+    {"graphic"_L1, "draw:fill-color"_L1, &Style::fillColor},
+    {"graphic"_L1, "fo:background-color"_L1, &Style::background},
+    {"graphic"_L1, "draw:stroke"_L1, &Style::stroke},
+    {"graphic"_L1, "svg:stroke-width"_L1, &Style::strokeWidth},
+    {"graphic"_L1, "style:wrap"_L1, &Style::wrap},
+    {"graphic"_L1, "draw:auto-grow-height"_L1, &Style::growsHeight},
+}};
 
 StyleBook::Style& StyleBook::current()
 {
@@ -172,12 +197,24 @@ void StyleBook::takeProperties(const QString& group, const QXmlStreamAttributes&
         const bool dropped = asksForIt(property, valueOf(attributes, property.name));
         style.dropped = dropped ? style.dropped | bit : style.dropped & ~bit;
     }
+    for (const auto& [valueGroup, attribute, value] : Values) {
+        if (valueGroup == group && attributes.hasAttribute(attribute)) {
+            style.*value = valueOf(attributes, attribute);
+        }
+    }
     if (group != "text"_L1) {
         return;
     }
     style.isSized = style.isSized || attributes.hasAttribute("fo:font-size"_L1);
+    if (attributes.hasAttribute("fo:font-family"_L1)) {
+        style.font = firstFamily(valueOf(attributes, "fo:font-family"_L1));
+    }
     if (attributes.hasAttribute("style:font-name"_L1)) {
-        style.font = valueOf(attributes, "style:font-name"_L1);
+        const QString face = valueOf(attributes, "style:font-name"_L1);
+        style.font = m_faces.value(face, face);
+    }
+    if (valueOf(attributes, "style:use-window-font-color"_L1) == "true"_L1) {
+        style.color = AutomaticColor;
     }
 }
 
@@ -196,11 +233,6 @@ const StyleBook::Style& StyleBook::shapeStyle(const QString& name) const
 LossSet StyleBook::textChanges(const QString& style) const
 {
     return changesOf(textStyle(style).dropped, Target::Text);
-}
-
-QString StyleBook::fontOf(const QString& style) const
-{
-    return textStyle(style).font;
 }
 
 LossSet StyleBook::shapeChanges(const QString& style) const

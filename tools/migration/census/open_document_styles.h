@@ -1,12 +1,18 @@
 #pragma once
 
+#include "migration/model/appearance.h"
 #include "migration/model/census.h"
 
 #include <QHash>
 #include <QString>
 #include <QXmlStreamAttributes>
 
+#include <array>
+
 namespace migration {
+
+/// As the color of a text: black or white, depending on its ground.
+inline constexpr QLatin1String AutomaticColor("automatic");
 
 /// What the styles of a document ask for that no label shows.
 class StyleBook
@@ -18,8 +24,15 @@ public:
 
     /// What changes on a text in this style, by its name; unknown names count as the default.
     [[nodiscard]] LossSet textChanges(const QString& style) const;
-    /// The family that a text in this style asks for; empty when it asks for none.
-    [[nodiscard]] QString fontOf(const QString& style) const;
+    /// The family that a text asks for, from its own style, that of its paragraph or that of its
+    /// shape, in this order; empty if it asks for none. The shape is null for running text.
+    [[nodiscard]] QString familyOf(const QString& text, const QString& paragraph,
+                                   const QString& shape) const;
+    /// The color in the same way; invalid if it is automatic.
+    [[nodiscard]] QColor colorOf(const QString& text, const QString& paragraph,
+                                 const QString& shape) const;
+    /// Fill and pen of a shape in this style.
+    void describeShape(const QString& style, bool isInText, Appearance& appearance) const;
     /// What changes on a shape in this style.
     [[nodiscard]] LossSet shapeChanges(const QString& style) const;
     /// What changes on the text of a shape in this style: labels take nothing about texts
@@ -32,19 +45,42 @@ public:
 private:
     struct Style
     {
-        quint64 dropped = 0; ///< a bit for each row of the table of properties
-        QString font;
+        quint64 dropped = 0;  ///< a bit for each row of the table of properties
         bool isSized = false; ///< it gives a size of letters
+        // As written; empty if not given by the style or its parents. Those of the default style
+        // are not included: a paragraph's default is weaker than the style of its shape.
+        QString font;
+        QString color;
+        QString fill;
+        QString fillColor;
+        QString background;
+        QString stroke;
+        QString strokeWidth;
+        QString wrap;
+        QString growsHeight;
     };
+
+    /// An attribute whose value is kept as written.
+    struct Value
+    {
+        QLatin1String group;
+        QLatin1String attribute;
+        QString Style::*value;
+    };
+    static const std::array<Value, 8> Values;
 
     [[nodiscard]] Style& current();
     [[nodiscard]] const Style& textStyle(const QString& name) const;
     [[nodiscard]] const Style& shapeStyle(const QString& name) const;
     void startStyle(const QXmlStreamAttributes& attributes, bool isDefault);
     void takeProperties(const QString& group, const QXmlStreamAttributes& attributes);
+    [[nodiscard]] QString firstOf(QString Style::*value, const QString& text,
+                                  const QString& paragraph, const QString& shape) const;
+    [[nodiscard]] QString shapeValue(QString Style::*value, const QString& style) const;
 
     QHash<QString, Style> m_texts;
     QHash<QString, Style> m_shapes;
+    QHash<QString, QString> m_faces; ///< families by the names of their declarations
     Style m_defaultText;
     Style m_defaultShape;
     Style* m_current = nullptr;

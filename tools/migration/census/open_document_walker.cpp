@@ -2,9 +2,30 @@
 
 #include "migration/census/open_document_geometry.h"
 
+#include <algorithm>
+
 namespace migration {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Most spaces that one element stands for; a document may ask for more than memory holds.
+constexpr int MaximumSpaces = 1'000;
+
+QString spacingOf(const QString& name, const QXmlStreamAttributes& attributes)
+{
+    if (name == "text:tab"_L1) {
+        return u"\t"_s;
+    }
+    if (name == "text:line-break"_L1) {
+        return u"\n"_s;
+    }
+    const int count = attributes.value("text:c"_L1).toInt();
+    return QString(std::clamp(count, 1, MaximumSpaces), u' ');
+}
+
+} // namespace
 
 OpenDocumentWalker::OpenDocumentWalker(Census& census, const StyleBook& styles, const QString& unit)
     : m_census(census)
@@ -34,6 +55,11 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
 
 void OpenDocumentWalker::openChild(const QString& name, const Attributes& attributes)
 {
+    if (isSpacing(name)) {
+        takeText(spacingOf(name, attributes));
+    } else if (isParagraph(name)) {
+        startLine();
+    }
     switch (m_places.back().spot) {
     case Spot::Outside:
         return push(name == "office:body"_L1 ? Spot::Body : Spot::Outside);
@@ -59,10 +85,10 @@ void OpenDocumentWalker::openChild(const QString& name, const Attributes& attrib
     case Spot::Frame:
         return openInFrame(name, attributes);
     case Spot::Line:
-        return openLostPart(name, LossKind::ShapeText);
+        return openLostPart(name, LossKind::LineText);
     case Spot::Lost:
     case Spot::LostParagraph:
-        return openInLost(name);
+        return openInLost(name, attributes);
     case Spot::Ignored:
         return push(Spot::Ignored);
     }
@@ -90,7 +116,7 @@ void OpenDocumentWalker::openInRunningText(const QString& name, const Attributes
     } else if (name == "text:soft-page-break"_L1) {
         notePageBreak();
     } else if (name == "draw:g"_L1 || drawingElement(name) != nullptr) {
-        openLost(LossKind::ShapeInText, name);
+        openLost(LossKind::ShapeInText, name, attributes);
     } else {
         openLostPart(name, LossKind::TextElement);
     }
@@ -142,16 +168,29 @@ void OpenDocumentWalker::close()
     case Spot::Run:
         if (parent.spot == Spot::Run) {
             parent.hasText = parent.hasText || place.hasText;
+            parent.text += place.text;
         } else if (place.hasText) {
-            m_runs.append({.objectClass = ObjectClass::Text, .changes = m_runChanges});
+            m_runs.append({.objectClass = ObjectClass::Text,
+                           .changes = m_runChanges,
+                           .appearance = addTextAppearance(m_runLook, place.text)});
         }
         return;
     case Spot::LostParagraph:
         if (parent.spot == Spot::LostParagraph) {
             parent.hasText = parent.hasText || place.hasText;
+            parent.text += place.text;
         } else if (place.hasText) {
-            addLost({.objectClass = ObjectClass::Text, .lost = place.lost}, place.box);
+            addLost({.objectClass = ObjectClass::Text,
+                     .lost = place.lost,
+                     .appearance = addTextAppearance({}, place.text)},
+                    place.box);
+            if (Place* const shape = nearestShape()) {
+                shape->hasLostParts = true;
+            }
         }
+        return;
+    case Spot::ShapeRun:
+        m_runStyle.clear();
         return;
     case Spot::Shape:
     case Spot::TextBox:

@@ -67,9 +67,16 @@ private:
         qsizetype object = -1;                   ///< index of the shape or frame
         bool hasText = false;
         bool hasParagraph = false;
-        bool isDecided = false;   ///< a frame whose kind is known
-        bool isOnPage = false;    ///< a frame that is anchored to the page
-        bool hasPosition = false; ///< a frame that says where it is
+        bool isDecided = false;    ///< a frame whose kind is known
+        bool isOnPage = false;     ///< a frame that is anchored to the page
+        bool hasPosition = false;  ///< a frame that says where it is
+        bool isObject = false;     ///< a lost object: its texts are not those of its parents
+        qsizetype appearance = -1; ///< of the shape or frame
+        bool hasLine = false;      ///< a paragraph of its text has begun
+        bool hasLostParts = false;
+        QString text = {};
+        QStringList families = {};
+        QList<QColor> colors = {};
         LossSet textChanges = {};
         QString style = {};
         std::optional<QRectF> box = {}; ///< millimeters; that of the parent if it has none
@@ -88,7 +95,7 @@ private:
     void openInShapeParagraph(const QString& name, const Attributes& attributes);
     void openInShapeRun(const QString& name, const Attributes& attributes);
     void openInFrame(const QString& name, const Attributes& attributes);
-    void openInLost(const QString& name);
+    void openInLost(const QString& name, const Attributes& attributes);
 
     void openParagraph(const Attributes& attributes);
     void notePageBreak();
@@ -98,7 +105,7 @@ private:
     void openFrame(const Attributes& attributes);
     void openShapeParagraph(const Attributes& attributes);
     void openLostPart(const QString& name, LossKind otherwise);
-    void openLost(LossKind kind, const QString& name);
+    void openLost(LossKind kind, const QString& name, const Attributes& attributes = {});
     void openIgnored(const QString& name);
     void push(Spot spot);
     void addLost(CountedObject object, const std::optional<QRectF>& box);
@@ -111,7 +118,10 @@ private:
     [[nodiscard]] LossSet changesOfShape(const QString& name, const Attributes& attributes);
     void noteGeometry(const Attributes& attributes, LossSet& changes);
     void noteField(const QString& name, const Attributes& attributes, LossSet& changes);
-    void noteFont(const QString& family, LossSet& changes);
+    void takeText(QStringView characters);
+    void startLine();
+    [[nodiscard]] qsizetype addAppearance(const QString& name, const Attributes& attributes);
+    [[nodiscard]] qsizetype addTextAppearance(const Place& look, QString text);
     [[nodiscard]] Place* nearestShape();
     void addShapeText(LossSet changes);
 
@@ -128,6 +138,11 @@ private:
     LossSet m_paragraphChanges;
     LossSet m_runChanges;
     bool m_chunkHasText = false;
+    QString m_chunk;
+    QString m_paragraphStyle;
+    QString m_runStyle;
+    Place m_paragraphLook;
+    Place m_runLook;
 };
 
 } // namespace migration

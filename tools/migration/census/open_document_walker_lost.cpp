@@ -16,11 +16,14 @@ void OpenDocumentWalker::addLost(CountedObject object, const std::optional<QRect
 }
 
 // A lost object, or an element whose objects are all lost: the first reason holds for all of them.
-void OpenDocumentWalker::openLost(LossKind kind, const QString& name)
+void OpenDocumentWalker::openLost(LossKind kind, const QString& name, const Attributes& attributes)
 {
     const DrawingElement* element = drawingElement(name);
     if (element != nullptr) {
-        addLost({.objectClass = element->objectClass, .lost = kind}, m_box);
+        addLost({.objectClass = element->objectClass,
+                 .lost = kind,
+                 .appearance = addAppearance(name, attributes)},
+                m_box);
         m_census.detail(kind, kind == LossKind::GroupedObject ? QString() : name);
     }
     if (name == "dr3d:scene"_L1) {
@@ -28,18 +31,22 @@ void OpenDocumentWalker::openLost(LossKind kind, const QString& name)
     }
     push(Spot::Lost);
     m_places.back().lost = kind;
+    m_places.back().isObject = element != nullptr;
 }
 
-void OpenDocumentWalker::openInLost(const QString& name)
+void OpenDocumentWalker::openInLost(const QString& name, const Attributes& attributes)
 {
-    const LossKind kind = m_places.back().lost;
+    // A note is an object of its own, also in a section that is left out.
+    const bool isNote = name == "text:note"_L1;
+    const LossKind kind = isNote ? LossKind::Footnote : m_places.back().lost;
     if (name == "office:annotation"_L1 || isInvisible(name) || isAnimation(name)) {
         return openIgnored(name);
     }
     if (drawingElement(name) != nullptr) {
-        return openLost(kind, name);
+        return openLost(kind, name, attributes);
     }
-    const bool isText = isParagraph(name) || m_places.back().spot == Spot::LostParagraph;
+    const bool isInParagraph = m_places.back().spot == Spot::LostParagraph;
+    const bool isText = !isNote && (isParagraph(name) || isInParagraph);
     push(isText ? Spot::LostParagraph : Spot::Lost);
     m_places.back().lost = kind;
 }

@@ -42,17 +42,19 @@ void OpenDocumentWalker::openDrawing(const DrawingElement& element, const QStrin
                                      const Attributes& attributes)
 {
     if (element.lost) {
-        return openLost(*element.lost, name);
+        return openLost(*element.lost, name, attributes);
     }
     if (name == "draw:frame"_L1) {
         return openFrame(attributes);
     }
     CountedObject object{.objectClass = element.objectClass};
     object.changes = changesOfShape(name, attributes);
+    object.appearance = addAppearance(name, attributes);
     m_census.objects.append(object);
     push(element.objectClass == ObjectClass::Line ? Spot::Line : Spot::Shape);
     m_places.back().object = m_census.objects.size() - 1;
-    m_places.back().style = attributes.value("draw:style-name"_L1).toString();
+    m_places.back().appearance = object.appearance;
+    m_places.back().style = u""_s + attributes.value("draw:style-name"_L1).toString();
 }
 
 LossSet OpenDocumentWalker::changesOfShape(const QString& name, const Attributes& attributes)
@@ -95,7 +97,8 @@ void OpenDocumentWalker::openFrame(const Attributes& attributes)
 {
     push(Spot::Frame);
     Place& frame = m_places.back();
-    frame.style = attributes.value("draw:style-name"_L1).toString();
+    frame.style = u""_s + attributes.value("draw:style-name"_L1).toString();
+    frame.appearance = addAppearance(u"draw:frame"_s, attributes);
     frame.textChanges = changesOfShape(u"draw:frame"_s, attributes);
     frame.isOnPage = m_pages > 0 || attributes.value("text:anchor-type"_L1) == "page"_L1;
     frame.hasPosition = attributes.hasAttribute("svg:x"_L1) || attributes.hasAttribute("svg:y"_L1);
@@ -109,7 +112,7 @@ void OpenDocumentWalker::openInFrame(const QString& name, const Attributes& attr
         return openIgnored(name);
     }
     frame.isDecided = true;
-    CountedObject object{.changes = frame.textChanges};
+    CountedObject object{.changes = frame.textChanges, .appearance = frame.appearance};
     // A box without a position runs along with the text; all else counts from the page.
     if (!frame.isOnPage && (frame.hasPosition || name != "draw:text-box"_L1)) {
         object.changes.add(LossKind::PositionAssumed);
@@ -127,6 +130,10 @@ void OpenDocumentWalker::openInFrame(const QString& name, const Attributes& attr
         push(Spot::TextBox);
         m_places.back().style = style;
         m_places.back().object = m_census.objects.size() - 1;
+        m_places.back().appearance = object.appearance;
+        if (attributes.hasAttribute("fo:min-height"_L1)) {
+            m_census.appearances[object.appearance].grows = true;
+        }
     } else if (isEmbedded(name)) {
         addLost({.objectClass = ObjectClass::Picture, .lost = LossKind::EmbeddedObject}, m_box);
         push(Spot::Ignored);
@@ -150,12 +157,12 @@ void OpenDocumentWalker::openInShape(const QString& name, const Attributes& attr
         }
         if (attributes.value("draw:mirror-horizontal"_L1) == "true"_L1 ||
             attributes.value("draw:mirror-vertical"_L1) == "true"_L1) {
-            changes.add(LossKind::TransformDropped);
+            changes.add(LossKind::Mirrored);
         }
         return push(Spot::Ignored);
     }
     if (name == "draw:g"_L1 || drawingElement(name) != nullptr) {
-        return openLost(LossKind::NestedObject, name);
+        return openLost(LossKind::NestedObject, name, attributes);
     }
     openLostPart(name, LossKind::TextElement);
 }

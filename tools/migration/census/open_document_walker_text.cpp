@@ -1,7 +1,6 @@
 // The texts of a document: running text, and the texts of shapes.
 
 #include "migration/census/open_document_walker.h"
-#include "migration/model/known_fonts.h"
 
 #include <algorithm>
 
@@ -23,7 +22,11 @@ void OpenDocumentWalker::openParagraph(const Attributes& attributes)
     const QString style = attributes.value("text:style-name"_L1).toString();
     m_runs.clear();
     m_paragraphChanges = m_styles.textChanges(style);
-    noteFont(m_styles.fontOf(style), m_paragraphChanges);
+    m_paragraphStyle = style;
+    m_paragraphLook = {};
+    m_paragraphLook.families = {m_styles.familyOf({}, style, {})};
+    m_paragraphLook.colors = {m_styles.colorOf({}, style, {})};
+    m_census.paragraphs.append(QString());
     push(Spot::Paragraph);
 }
 
@@ -34,7 +37,7 @@ void OpenDocumentWalker::openInParagraph(const QString& name, const Attributes& 
     } else if (name == "text:span"_L1 || isDateOrTime(name) || isParagraph(name)) {
         openRun(name, attributes);
     } else if (name == "draw:g"_L1 || drawingElement(name) != nullptr) {
-        openLost(LossKind::ShapeInText, name);
+        openLost(LossKind::ShapeInText, name, attributes);
     } else if (name == "text:line-break"_L1 ||
                (name == "text:s"_L1 && !attributes.hasAttribute("text:c"_L1))) {
         m_census.note(LossKind::TextSpacing);
@@ -59,7 +62,9 @@ void OpenDocumentWalker::openRun(const QString& name, const Attributes& attribut
     const QString style = attributes.value("text:style-name"_L1).toString();
     m_runChanges = m_paragraphChanges;
     m_runChanges.add(m_styles.textChanges(style));
-    noteFont(m_styles.fontOf(style), m_runChanges);
+    m_runLook = {};
+    m_runLook.families = {m_styles.familyOf(style, m_paragraphStyle, {})};
+    m_runLook.colors = {m_styles.colorOf(style, m_paragraphStyle, {})};
     noteField(name, attributes, m_runChanges);
     push(Spot::Run);
 }
@@ -68,7 +73,7 @@ void OpenDocumentWalker::openRun(const QString& name, const Attributes& attribut
 void OpenDocumentWalker::openInRun(const QString& name, const Attributes& attributes)
 {
     if (drawingElement(name) != nullptr) {
-        return openLost(LossKind::NestedObject, name);
+        return openLost(LossKind::NestedObject, name, attributes);
     }
     noteField(name, attributes, m_runChanges);
     push(Spot::Run);
@@ -91,9 +96,10 @@ void OpenDocumentWalker::noteField(const QString& name, const Attributes& attrib
 void OpenDocumentWalker::openShapeParagraph(const Attributes& attributes)
 {
     const QString style = attributes.value("text:style-name"_L1).toString();
-    LossSet changes = m_styles.textChanges(style);
-    noteFont(m_styles.fontOf(style), changes);
+    const LossSet changes = m_styles.textChanges(style);
     push(Spot::ShapeParagraph);
+    m_paragraphStyle = style;
+    m_runStyle.clear();
     m_places.back().style = style;
     m_places.back().textChanges = changes;
 }
@@ -104,7 +110,7 @@ void OpenDocumentWalker::openInShapeParagraph(const QString& name, const Attribu
         const QString style = attributes.value("text:style-name"_L1).toString();
         LossSet changes = m_places.back().textChanges;
         changes.add(m_styles.textChanges(style));
-        noteFont(m_styles.fontOf(style), changes);
+        m_runStyle = style;
         const QString sizing = m_styles.sizesText(style) ? style : m_places.back().style;
         push(Spot::ShapeRun);
         m_places.back().textChanges = changes;
@@ -117,7 +123,7 @@ void OpenDocumentWalker::openInShapeParagraph(const QString& name, const Attribu
         addShapeText(changes);
         push(Spot::Ignored);
     } else if (drawingElement(name) != nullptr) {
-        openLost(LossKind::NestedObject, name);
+        openLost(LossKind::NestedObject, name, attributes);
     } else {
         openLostPart(name, LossKind::TextElement);
     }
@@ -126,7 +132,7 @@ void OpenDocumentWalker::openInShapeParagraph(const QString& name, const Attribu
 void OpenDocumentWalker::openInShapeRun(const QString& name, const Attributes& attributes)
 {
     if (drawingElement(name) != nullptr) {
-        return openLost(LossKind::NestedObject, name);
+        return openLost(LossKind::NestedObject, name, attributes);
     }
     const LossSet changes = m_places.back().textChanges;
     const QString style = m_places.back().style;
@@ -140,6 +146,7 @@ void OpenDocumentWalker::openInShapeRun(const QString& name, const Attributes& a
 
 void OpenDocumentWalker::text(QStringView characters)
 {
+    takeText(characters);
     if (isBlank(characters)) {
         return;
     }
@@ -183,6 +190,14 @@ void OpenDocumentWalker::markText()
         return;
     }
     shape->hasText = true;
+    const QString family = m_styles.familyOf(m_runStyle, m_paragraphStyle, shape->style);
+    if (!shape->families.contains(family)) {
+        shape->families.append(family);
+    }
+    const QColor color = m_styles.colorOf(m_runStyle, m_paragraphStyle, shape->style);
+    if (!shape->colors.contains(color)) {
+        shape->colors.append(color);
+    }
     LossSet changes = place.textChanges;
     changes.add(m_styles.shapeTextChanges(shape->style));
     if (m_styles.sizesShapeText(shape->style) && !m_styles.sizesText(place.style)) {
@@ -200,9 +215,12 @@ void OpenDocumentWalker::divide()
 void OpenDocumentWalker::takeChunk()
 {
     if (m_chunkHasText) {
-        m_runs.append({.objectClass = ObjectClass::Text, .changes = m_paragraphChanges});
+        m_runs.append({.objectClass = ObjectClass::Text,
+                       .changes = m_paragraphChanges,
+                       .appearance = addTextAppearance(m_paragraphLook, m_chunk)});
     }
     m_chunkHasText = false;
+    m_chunk.clear();
 }
 
 void OpenDocumentWalker::closeParagraph()
@@ -217,6 +235,7 @@ void OpenDocumentWalker::closeShapeText(const Place& place)
         return;
     }
     CountedObject text{.objectClass = ObjectClass::Text};
+    text.appearance = addTextAppearance(place, place.text);
     if (place.hasParagraph) {
         text.changes = place.textChanges;
     } else {
@@ -224,14 +243,6 @@ void OpenDocumentWalker::closeShapeText(const Place& place)
         text.place = place.box;
     }
     m_census.objects.append(text);
-}
-
-void OpenDocumentWalker::noteFont(const QString& family, LossSet& changes)
-{
-    if (!family.isEmpty() && !isFontThere(family)) {
-        changes.add(LossKind::FontReplaced);
-        m_census.detail(LossKind::FontReplaced, family);
-    }
 }
 
 } // namespace migration

@@ -87,7 +87,7 @@ void Comparison::run()
     }
     m_report.objects.unknown = m_census.unknown;
     sumItems();
-    addTallies(m_label.tallies, false);
+    addTallies(m_label.tallies, true);
     addTallies(m_census.tallies, true);
     addTallies(m_log.tallies, true);
     list(Outcome::Lost, m_report.lost);

@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 #include <QGraphicsItem>
+#include <QGraphicsTextItem>
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -68,27 +70,71 @@ QStringList familiesOf(const ItemValues& values)
     return families;
 }
 
-void lookAtFonts(const ItemValues& values, ItemFacts& item, LabelFacts& facts)
+QPolygonF outlineOnPage(const workbench::CanvasItem& item, const ItemValues& values)
 {
-    for (const QString& family : familiesOf(values)) {
-        const QString seen = familySeen(family);
-        if (seen == family) {
-            continue;
-        }
-        item.changes.add(LossKind::FontReplaced);
-        // The census reports the name of the original family.
-        const QString asked = family == FallbackFontFamily
-                                  ? QCoreApplication::translate("migration::ItemLosses", "unknown")
-                                  : family;
-        facts.tallies[LossKind::FontReplaced].addDetail(asked + u" → "_s + seen);
+    if (values.line) {
+        return item.graphicsItem()->mapToScene(QPolygonF({QPointF(0.0, 0.0), values.line->end}));
     }
+    const QRectF box(QPointF(0.0, 0.0), values.box.size);
+    return item.graphicsItem()->mapToScene(
+        QPolygonF({box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()}));
 }
 
-QRectF boxOnPage(const workbench::CanvasItem& item, const ItemValues& values)
+// Black where no color is given.
+QColor textColorOf(const ItemValues& values)
 {
-    const QRectF box = values.line ? QRectF(QPointF(0.0, 0.0), values.line->end).normalized()
-                                   : QRectF(QPointF(0.0, 0.0), values.box.size);
-    return item.graphicsItem()->mapRectToScene(box);
+    if (values.text->html.isEmpty()) {
+        return values.textStyle ? values.textStyle->color : QColor(Qt::black);
+    }
+    static const QRegularExpression pattern(u"[ ;\"]color:(#[0-9a-fA-F]{6})"_s);
+    QStringList colors;
+    for (auto match = pattern.globalMatch(values.text->html); match.hasNext();) {
+        colors.append(match.next().captured(1));
+    }
+    colors.removeDuplicates();
+    if (colors.size() > 1) {
+        return {};
+    }
+    return colors.isEmpty() ? QColor(Qt::black) : QColor(colors.constFirst());
+}
+
+QString shownText(const workbench::CanvasItem& item, const ItemValues& values)
+{
+    const auto* const document = dynamic_cast<const QGraphicsTextItem*>(item.graphicsItem());
+    const QString text = document != nullptr ? document->toPlainText() : QString();
+    return text.isEmpty() ? values.text->text : text;
+}
+
+void lookAtFill(const ItemValues& values, ItemFacts& item)
+{
+    if (values.picture) {
+        item.isOpaque = !values.picture->image.hasAlphaChannel();
+    }
+    if (!values.fill || item.objectClass != ObjectClass::Shape) {
+        return;
+    }
+    const bool isSolid = values.fill->style == Qt::SolidPattern;
+    item.isFilled =
+        values.fill->filled && values.fill->style != Qt::NoBrush && values.fill->color.alpha() > 0;
+    item.isOpaque = item.isFilled && values.fill->color.alpha() == 255 &&
+                    (isSolid || values.fill->style >= Qt::LinearGradientPattern);
+    item.fill = item.isFilled && isSolid ? values.fill->color : QColor();
+}
+
+void lookAtLooks(const workbench::CanvasItem& item, const ItemValues& values, ItemFacts& facts)
+{
+    facts.outline = outlineOnPage(item, values);
+    lookAtFill(values, facts);
+    if (values.text && facts.hasContent) {
+        facts.text = shownText(item, values);
+        facts.families = familiesOf(values);
+        facts.textColor = textColorOf(values);
+    } else if (values.barcode) {
+        facts.families = familiesOf(values);
+    }
+    if (values.pen && values.pen->style != Qt::NoPen) {
+        facts.penWidth = values.pen->width;
+    }
 }
 
 // An empty rectangle lies inside when its corner does.
@@ -129,13 +175,10 @@ void lookAtItem(const workbench::CanvasItem& item, const QRectF& page, bool blan
     itemFacts.hasContent = !isEmptyPicture && (blankTextsCount || !isBlankText(values));
     itemFacts.isBound = values.datasource && values.datasource->id >= 0;
     itemFacts.symbology = values.barcode ? values.barcode->symbology : 0;
-    if (itemFacts.hasContent && !showsNothing(values)) {
-        lookAtPlace(page, boxOnPage(item, values), itemFacts);
-    } else if (itemFacts.hasContent && itemFacts.objectClass == ObjectClass::Text) {
-        lookAtPlace(page, boxOnPage(item, values), itemFacts);
-    }
-    if (itemFacts.hasContent) {
-        lookAtFonts(values, itemFacts, facts);
+    lookAtLooks(item, values, itemFacts);
+    const bool isText = itemFacts.objectClass == ObjectClass::Text;
+    if (itemFacts.hasContent && (isText || !showsNothing(values))) {
+        lookAtPlace(page, itemFacts.outline.boundingRect(), itemFacts);
     }
     if (isLimited(values)) {
         itemFacts.changes.add(LossKind::SizeLimited);
@@ -157,10 +200,35 @@ LabelFacts lookAtItems(const workbench::Canvas& canvas, bool blankTextsCount)
     if (std::max(page.width(), page.height()) >= workbench::MaximumLength) {
         facts.pageChanges.add(LossKind::SizeLimited);
     }
+    facts.pageSize = page;
+    QHash<const workbench::CanvasItem*, int> levels;
+    for (const workbench::CanvasItem* item : canvas.itemsFromBottom()) {
+        levels.insert(item, static_cast<int>(levels.size()));
+    }
     for (const workbench::CanvasItem* item : canvas.items()) {
         lookAtItem(*item, canvas.pageRect(), blankTextsCount, facts);
+        facts.items.last().level = levels.value(item);
     }
     return facts;
+}
+
+void findReplacedFonts(LabelFacts& facts)
+{
+    for (ItemFacts& item : facts.items) {
+        for (const QString& family : item.hasContent ? item.families : QStringList()) {
+            const QString seen = familySeen(family);
+            if (seen == family) {
+                continue;
+            }
+            item.changes.add(LossKind::FontReplaced);
+            // The census reports the name of the original family.
+            const QString asked =
+                family == FallbackFontFamily
+                    ? QCoreApplication::translate("migration::ItemLosses", "unknown")
+                    : family;
+            facts.tallies[LossKind::FontReplaced].addDetail(asked + u" → "_s + seen);
+        }
+    }
 }
 
 } // namespace migration

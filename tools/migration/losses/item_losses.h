@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <map>
+#include <optional>
 
 namespace workbench {
 class Canvas;
@@ -25,14 +26,26 @@ struct ItemFacts
     bool isBound = false; ///< to a data source
     int symbology = 0;    ///< of a barcode
     LossSet changes = {}; ///< visible on the item itself
+
+    // What it looks like, in points on the page.
+    QPolygonF outline = {};    ///< corners of its box; the two ends of a line
+    int level = 0;             ///< in the stack, from the bottom
+    QString text = {};         ///< as shown
+    QStringList families = {}; ///< of the text, as named by the item
+    QColor textColor = {};     ///< invalid if there are several
+    QColor fill = {};          ///< invalid without a fill of one color
+    bool isFilled = false;
+    bool isOpaque = false; ///< hides what is below it
+    std::optional<double> penWidth = {};
 };
 
 /// All items of a label.
 struct LabelFacts
 {
     QList<ItemFacts> items;
-    std::map<LossKind, Tally> tallies; ///< names only; the numbers are those of the items
+    std::map<LossKind, Tally> tallies; ///< names, and numbers of what concerns no item
     LossSet pageChanges;
+    QSizeF pageSize;
 };
 
 /// Finds changes on the items: outside the page, in another font, reduced in size, a barcode that
@@ -40,5 +53,9 @@ struct LabelFacts
 ///
 /// @param blankTextsCount whether a text without a letter counts as an object
 [[nodiscard]] LabelFacts lookAtItems(const workbench::Canvas& canvas, bool blankTextsCount);
+
+/// Finds texts in another font than their item names, for formats whose items name the font of
+/// the file.
+void findReplacedFonts(LabelFacts& facts);
 
 } // namespace migration

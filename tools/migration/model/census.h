@@ -1,13 +1,16 @@
 #pragma once
 
+#include "migration/model/appearance.h"
 #include "migration/model/loss_kinds.h"
 
 #include <QByteArray>
 #include <QList>
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
+#include <bitset>
 #include <map>
 #include <optional>
 
@@ -22,17 +25,18 @@ inline constexpr int ObjectClasses = 6;
 class LossSet
 {
 public:
-    void add(LossKind kind) { m_bits |= bit(kind); }
-    void add(LossSet other) { m_bits |= other.m_bits; }
-    [[nodiscard]] bool has(LossKind kind) const { return (m_bits & bit(kind)) != 0; }
-    [[nodiscard]] bool isEmpty() const { return m_bits == 0; }
+    void add(LossKind kind) { m_bits.set(static_cast<std::size_t>(kind)); }
+    void add(const LossSet& other) { m_bits |= other.m_bits; }
+    [[nodiscard]] bool has(LossKind kind) const
+    {
+        return m_bits.test(static_cast<std::size_t>(kind));
+    }
+    [[nodiscard]] bool isEmpty() const { return m_bits.none(); }
     bool operator==(const LossSet&) const = default;
 
 private:
-    static constexpr quint64 bit(LossKind kind) { return quint64(1) << static_cast<int>(kind); }
-    quint64 m_bits = 0;
+    std::bitset<static_cast<std::size_t>(LossKind::Other) + 1> m_bits;
 };
-static_assert(static_cast<int>(LossKind::Other) < 64);
 
 inline constexpr int NoBarcodeType = -1;
 
@@ -52,6 +56,8 @@ struct CountedObject
     int barcodeType = NoBarcodeType;
     /// Where a lost object was, in millimeters from the page's corner; nothing if unknown.
     std::optional<QRectF> place = {};
+    /// Index in Census::appearances; -1 if only its number is known.
+    qsizetype appearance = -1;
 };
 
 /// Longest detail that is kept, in characters. Longer ones end in an ellipsis.
@@ -76,6 +82,12 @@ struct Census
     std::map<LossKind, Tally> tallies;
     /// Vector drawings among the pictures that should be imported.
     qint64 drawings = 0;
+    /// What the objects look like, of an OpenDocument file.
+    QList<Appearance> appearances;
+    /// The complete texts of its paragraphs.
+    QStringList paragraphs;
+    /// Size of its page in points; 0 if unknown.
+    QSizeF pageSize;
     /// Why the number of objects is unknown; empty if it is known.
     QString unknown;
 

@@ -1,0 +1,102 @@
+// The limits of the comparison of labels with documents.
+
+#include "migration/census/counting.h"
+#include "migration/losses/check_covering.h"
+#include "migration/losses/matching.h"
+#include "tests/migration/documents.h"
+
+#include <gtest/gtest.h>
+
+using namespace migration;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPolygonF box(double x, double y, double width, double height)
+{
+    const QRectF rect(x, y, width, height);
+    return QPolygonF({rect.topLeft(), rect.topRight(), rect.bottomRight(), rect.bottomLeft()});
+}
+
+ItemFacts shapeAt(const QPolygonF& outline, int level)
+{
+    ItemFacts item;
+    item.outline = outline;
+    item.level = level;
+    item.isFilled = true;
+    item.isOpaque = true;
+    return item;
+}
+
+void addObject(Census& census, ObjectClass objectClass, const Appearance& appearance)
+{
+    census.objects.append({.objectClass = objectClass, .appearance = census.appearances.size()});
+    census.appearances.append(appearance);
+}
+
+} // namespace
+
+TEST(CheckLimits, CountSpacesOfOneElement)
+{
+    for (const auto& [wanted, seen] :
+         {std::pair(999, 999), std::pair(1'000, 1'000), std::pair(1'000'000'000, 1'000)}) {
+        const Census census =
+            countOpenDocument(drawingOf("<draw:rect><text:p>A<text:s text:c=\"" +
+                                        QByteArray::number(wanted) + "\"/>B</text:p></draw:rect>"));
+        ASSERT_EQ(census.appearances.size(), 2);
+        EXPECT_EQ(census.appearances.constLast().text.size(), 2 + seen);
+    }
+}
+
+TEST(CheckLimits, MatchManyItemsAtOnePlace)
+{
+    for (const int count : {256, 257, 5'000}) {
+        Census census;
+        LabelFacts label;
+        Appearance appearance;
+        appearance.outline = box(10, 10, 50, 50);
+        for (int index = 0; index < count; ++index) {
+            label.items.append(shapeAt(appearance.outline, index));
+            addObject(census, ObjectClass::Shape, appearance);
+        }
+        const Matching matching = matchItems(census, label, 0, 1.0, false);
+        ASSERT_EQ(matching.shapes.size(), count);
+        for (const Pair& pair : matching.shapes) {
+            EXPECT_EQ(pair.appearance, &census.appearances.at(pair.item));
+        }
+    }
+}
+
+TEST(CheckLimits, SearchManyTexts)
+{
+    // A text of a million characters is searched for other texts, 499 times and 501 times.
+    for (const int count : {499, 501}) {
+        Census census;
+        LabelFacts label;
+        ItemFacts item;
+        item.objectClass = ObjectClass::Text;
+        item.text = QString(999'999, u'x');
+        label.items.append(item);
+        for (int index = 0; index < count; ++index) {
+            Appearance appearance;
+            appearance.text = u"y%1"_s.arg(index);
+            addObject(census, ObjectClass::Text, appearance);
+        }
+        const Matching matching = matchItems(census, label, 0, 1.0, false);
+        EXPECT_EQ(matching.isCut, count > 500);
+        EXPECT_EQ(matching.missingTexts.size(), std::min(count, 500));
+    }
+}
+
+TEST(CheckLimits, CompareManyOpaqueItems)
+{
+    // Each of the items is compared with all: they are below each other, at the same distance
+    // from the left.
+    for (const int count : {4'472, 4'473}) {
+        LabelFacts label;
+        for (int index = 0; index < count; ++index) {
+            label.items.append(shapeAt(box(0, 20.0 * index, 10, 10), index));
+        }
+        EXPECT_EQ(checkCovering({}, label), count == 4'472) << count;
+    }
+}

@@ -1,0 +1,62 @@
+// Fonts, colors, fills and pens that styles ask for.
+
+#include "migration/census/open_document_geometry.h"
+#include "migration/census/open_document_styles.h"
+
+namespace migration {
+
+using namespace Qt::StringLiterals;
+
+// An empty name, or one that is not defined, has no style of its own.
+QString StyleBook::firstOf(QString Style::*value, const QString& text, const QString& paragraph,
+                           const QString& shape) const
+{
+    for (const QString& name : {text, paragraph}) {
+        const auto found = m_texts.constFind(name);
+        if (found != m_texts.constEnd() && !((*found).*value).isEmpty()) {
+            return (*found).*value;
+        }
+    }
+    const QString ofShape = shape.isNull() ? QString() : shapeValue(value, shape);
+    return ofShape.isEmpty() ? m_defaultText.*value : ofShape;
+}
+
+QString StyleBook::shapeValue(QString Style::*value, const QString& style) const
+{
+    return shapeStyle(style).*value;
+}
+
+QString StyleBook::familyOf(const QString& text, const QString& paragraph,
+                            const QString& shape) const
+{
+    return firstOf(&Style::font, text, paragraph, shape);
+}
+
+QColor StyleBook::colorOf(const QString& text, const QString& paragraph, const QString& shape) const
+{
+    const QString color = firstOf(&Style::color, text, paragraph, shape);
+    return color == AutomaticColor ? QColor() : QColor(color);
+}
+
+void StyleBook::describeShape(const QString& style, bool isInText, Appearance& appearance) const
+{
+    const QString fill = shapeValue(&Style::fill, style);
+    const QColor background(shapeValue(&Style::background, style));
+    if (fill == "solid"_L1) {
+        appearance.fill = QColor(shapeValue(&Style::fillColor, style));
+    } else if (fill.isEmpty() && background.isValid()) {
+        appearance.fill = background;
+    }
+    if (!fill.isEmpty() || background.isValid() || isInText) {
+        appearance.isFilled = background.isValid() || (!fill.isEmpty() && fill != "none"_L1);
+    }
+    const QString stroke = shapeValue(&Style::stroke, style);
+    if (stroke == "solid"_L1 || stroke == "dash"_L1) {
+        appearance.penWidth = lengthInPoints(shapeValue(&Style::strokeWidth, style)).value_or(0.0);
+    }
+    const QString wrap = shapeValue(&Style::wrap, style);
+    appearance.mayOverlap = !isInText || wrap == "run-through"_L1 || wrap == "dynamic"_L1;
+    appearance.grows = shapeValue(&Style::growsHeight, style) == "true"_L1;
+}
+
+} // namespace migration

@@ -1,0 +1,103 @@
+// What the objects of a document look like.
+
+#include "migration/census/open_document_geometry.h"
+#include "migration/census/open_document_walker.h"
+
+#include <algorithm>
+
+namespace migration {
+
+using namespace Qt::StringLiterals;
+
+qsizetype OpenDocumentWalker::addAppearance(const QString& name, const Attributes& attributes)
+{
+    Appearance appearance;
+    m_styles.describeShape(attributes.value("draw:style-name"_L1).toString(), m_pages == 0,
+                           appearance);
+    const bool isPlaced = m_pages > 0 || attributes.value("text:anchor-type"_L1) == "page"_L1;
+    // A dimension line is drawn beside its ends.
+    if (isPlaced && name != "draw:measure"_L1) {
+        appearance.outline = outlineOf(attributes);
+    }
+    bool isNumber = false;
+    const int order = attributes.value("draw:z-index"_L1).toInt(&isNumber);
+    appearance.order = isNumber ? order : m_census.appearances.size();
+    appearance.page = m_pages;
+    m_census.appearances.append(appearance);
+    return m_census.appearances.size() - 1;
+}
+
+// A text has the place and the ground of its shape.
+qsizetype OpenDocumentWalker::addTextAppearance(const Place& look, QString text)
+{
+    Appearance appearance;
+    if (look.appearance >= 0) {
+        appearance = m_census.appearances.at(look.appearance);
+    }
+    // The paragraph's text already has that of this run.
+    const bool isRun = look.appearance < 0 && !m_census.paragraphs.isEmpty();
+    const QStringView before =
+        isRun ? QStringView(m_census.paragraphs.constLast())
+                    .chopped(std::min(text.size(), m_census.paragraphs.constLast().size()))
+              : QStringView();
+    appearance.followsBlank = (!before.isEmpty() && before.back().isSpace()) ||
+                              (!text.isEmpty() && text.front().isSpace());
+    appearance.text = std::move(text);
+    appearance.families = look.families;
+    appearance.families.removeAll(QString());
+    appearance.textColor = look.colors.size() == 1 ? look.colors.constFirst() : QColor();
+    appearance.hasLostParts = look.hasLostParts;
+    appearance.page = m_pages;
+    const bool isRunning = std::any_of(m_places.begin(), m_places.end(), [](const Place& place) {
+        return place.spot == Spot::Paragraph;
+    });
+    appearance.paragraph = isRunning && look.appearance < 0 ? int(m_census.paragraphs.size()) : 0;
+    m_census.appearances.append(appearance);
+    return m_census.appearances.size() - 1;
+}
+
+// The innermost paragraph that readers leave out, the shape, or the paragraph of the running text.
+void OpenDocumentWalker::takeText(QStringView characters)
+{
+    bool isTaken = false;
+    for (auto place = m_places.rbegin(); place != m_places.rend(); ++place) {
+        const Spot spot = place->spot;
+        if (spot == Spot::Ignored) {
+            return;
+        }
+        if (!isTaken && (spot == Spot::LostParagraph || spot == Spot::Run)) {
+            place->text += characters;
+            isTaken = true;
+        }
+        const bool isNote = spot == Spot::LostParagraph && place->lost == LossKind::Footnote;
+        if (isNote || place->isObject || spot == Spot::Line) {
+            return;
+        }
+        if (spot == Spot::Shape || spot == Spot::TextBox) {
+            place->text += characters;
+            return;
+        }
+        if (spot == Spot::Paragraph) {
+            m_census.paragraphs.last() += characters;
+            m_chunk += isTaken ? QStringView() : characters;
+            return;
+        }
+    }
+}
+
+void OpenDocumentWalker::startLine()
+{
+    const bool isNested = std::any_of(m_places.begin(), m_places.end(), [](const Place& place) {
+        return place.isObject || (place.spot == Spot::Lost && place.lost == LossKind::Footnote);
+    });
+    Place* const shape = isNested ? nullptr : nearestShape();
+    if (shape == nullptr) {
+        return;
+    }
+    if (shape->hasLine) {
+        shape->text += u'\n';
+    }
+    shape->hasLine = true;
+}
+
+} // namespace migration

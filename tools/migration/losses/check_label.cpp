@@ -1,0 +1,222 @@
+#include "migration/losses/check_label.h"
+
+#include "migration/losses/check_covering.h"
+#include "migration/losses/check_rendering.h"
+#include "migration/losses/matching.h"
+#include "migration/model/known_fonts.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace migration {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr double PointsPerMillimeter = 72.0 / 25.4;
+// Points: a line without a width is drawn at least so wide in print.
+constexpr double ThinnestLine = 0.3;
+constexpr double WidthRatio = 4.0 / 3.0;
+// Factors by which readers enlarge a document in millimeters, and in points.
+constexpr std::array Enlargements{100.0, 72.0};
+// Points: between words of one line.
+constexpr double SmallestGap = 1.0;
+
+double scaleOf(const Census& census, const LabelFacts& label)
+{
+    const double ratio =
+        census.pageSize.width() > 0.0 ? label.pageSize.width() / census.pageSize.width() : 1.0;
+    for (const double enlargement : Enlargements) {
+        if (std::abs(ratio / enlargement - 1.0) < 0.02) {
+            return enlargement;
+        }
+    }
+    return 1.0;
+}
+
+// Line breaks are shown: they may be all that differs.
+QString onOneLine(QString text)
+{
+    return text.replace(QChar::LineFeed, u" ⏎ "_s);
+}
+
+/// One comparison of a label with its document.
+class LabelCheck
+{
+public:
+    LabelCheck(const Matching& matching, LabelFacts& label, double scale)
+        : m_matching(matching)
+        , m_label(label)
+        , m_scale(scale)
+    {}
+
+    void run()
+    {
+        for (const Pair& pair : m_matching.shapes) {
+            checkPlace(pair);
+            checkLooks(pair);
+        }
+        for (const Pair& pair : m_matching.texts) {
+            checkText(pair);
+            checkFonts(pair);
+        }
+        checkGaps();
+    }
+
+private:
+    void add(qsizetype item, LossKind kind, const QString& detail = {})
+    {
+        m_label.items[item].changes.add(kind);
+        if (!detail.isEmpty()) {
+            m_label.tallies[kind].addDetail(detail);
+        }
+    }
+
+    void checkPlace(const Pair& pair);
+    void checkLooks(const Pair& pair);
+    void checkText(const Pair& pair);
+    void checkFonts(const Pair& pair);
+    void checkGaps();
+
+    const Matching& m_matching;
+    LabelFacts& m_label;
+    double m_scale;
+};
+
+void LabelCheck::checkPlace(const Pair& pair)
+{
+    const Appearance& wanted = *pair.appearance;
+    if (wanted.outline.isEmpty()) {
+        return;
+    }
+    const QRectF box = m_label.items.at(pair.item).outline.boundingRect();
+    const QRectF place = wanted.outline.boundingRect();
+    const QRectF seen(box.topLeft() / m_scale, box.size() / m_scale);
+    double away =
+        std::max({std::abs(seen.left() - place.left()), std::abs(seen.right() - place.right()),
+                  std::abs(seen.top() - place.top())});
+    if (!wanted.grows) {
+        away = std::max(away, std::abs(seen.bottom() - place.bottom()));
+    }
+    if (away > PointsPerMillimeter) {
+        add(pair.item, LossKind::Moved, u"%1 mm"_s.arg(away / PointsPerMillimeter, 0, 'f', 0));
+    }
+}
+
+void LabelCheck::checkLooks(const Pair& pair)
+{
+    const ItemFacts& item = m_label.items.at(pair.item);
+    const Appearance& wanted = *pair.appearance;
+    const bool isWhite = item.fill.isValid() && item.fill.rgb() == QColor(Qt::white).rgb();
+    if (item.objectClass == ObjectClass::Shape && item.isFilled && !isWhite &&
+        wanted.isFilled == false) {
+        add(pair.item, LossKind::FillAdded);
+    }
+    // Pens do not grow with a page that is too large; the enlargement is reported by itself.
+    const bool isDrawn =
+        item.objectClass == ObjectClass::Shape || item.objectClass == ObjectClass::Line;
+    if (isDrawn && wanted.penWidth && item.penWidth && m_scale == 1.0) {
+        const double ratio =
+            std::max(*item.penWidth, ThinnestLine) / std::max(*wanted.penWidth, ThinnestLine);
+        if (ratio > WidthRatio || ratio < 1.0 / WidthRatio) {
+            add(pair.item, LossKind::PenWidth);
+        }
+    }
+}
+
+void LabelCheck::checkText(const Pair& pair)
+{
+    if (pair.appearance->hasLostParts && !pair.isExact) {
+        return; // reported as lost
+    }
+    const QString wanted = canonical(pair.text);
+    const QString seen = canonical(m_label.items.at(pair.item).text);
+    if (wanted != seen) {
+        add(pair.item, LossKind::TextDiffers, onOneLine(wanted) + u" → "_s + onOneLine(seen));
+    }
+}
+
+// "Arial1" is the name of a second declaration of Arial.
+QString withoutNumber(QString family)
+{
+    while (!family.isEmpty() && family.back().isDigit()) {
+        family.chop(1);
+    }
+    return family.trimmed();
+}
+
+void LabelCheck::checkFonts(const Pair& pair)
+{
+    QStringList seen;
+    for (const QString& family : m_label.items.at(pair.item).families) {
+        seen.append(familySeen(family));
+    }
+    if (seen.isEmpty() || !pair.isExact) {
+        return;
+    }
+    for (const QString& family : pair.appearance->families) {
+        const bool isSeen = seen.contains(family, Qt::CaseInsensitive) ||
+                            seen.contains(withoutNumber(family), Qt::CaseInsensitive);
+        if (!isSeen) {
+            add(pair.item, LossKind::FontReplaced, family + u" → "_s + seen.constFirst());
+        }
+    }
+}
+
+// Runs of one paragraph have items of their own. The space between two words is in neither when
+// the parser drops it.
+void LabelCheck::checkGaps()
+{
+    for (qsizetype index = 1; index < m_matching.texts.size(); ++index) {
+        const Pair& left = m_matching.texts.at(index - 1);
+        const Pair& right = m_matching.texts.at(index);
+        const int paragraph = right.appearance->paragraph;
+        if (paragraph == 0 || left.appearance->paragraph != paragraph || left.item == right.item) {
+            continue;
+        }
+        const ItemFacts& before = m_label.items.at(left.item);
+        const ItemFacts& after = m_label.items.at(right.item);
+        const QRectF first = before.outline.boundingRect();
+        const QRectF second = after.outline.boundingRect();
+        const bool isOneLine = std::abs(first.top() - second.top()) < first.height() / 2.0;
+        const bool touches = std::abs(second.left() - first.right()) < SmallestGap;
+        const bool hasSpace = before.text.back().isSpace() || after.text.front().isSpace();
+        if (isOneLine && touches && !hasSpace && right.isExact && left.isExact &&
+            right.appearance->followsBlank) {
+            add(right.item, LossKind::TextDiffers,
+                before.text.simplified() + u' ' + after.text.simplified() + u" → "_s +
+                    before.text.simplified() + after.text.simplified());
+        }
+    }
+}
+
+} // namespace
+
+void checkLabel(const Census& original, const workbench::Canvas& canvas, const Reading& reading,
+                LabelFacts& label)
+{
+    if (original.appearances.isEmpty()) {
+        return;
+    }
+    const double scale = scaleOf(original, label);
+    const Matching matching = matchItems(original, label, reading.page, scale, reading.isRepaired);
+    LabelCheck(matching, label, scale).run();
+    const bool isComplete = checkCovering(matching, label);
+    if (!isComplete || matching.isCut) {
+        label.pageChanges.add(LossKind::LogCut);
+    }
+    checkRendering(canvas, matching, label);
+    if (!reading.isPart) {
+        for (const QString& text : matching.missingTexts) {
+            ++label.tallies[LossKind::TextDiffers].count;
+            label.tallies[LossKind::TextDiffers].addDetail(text + u" → "_s);
+        }
+    }
+}
+
+} // namespace migration

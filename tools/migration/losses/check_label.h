@@ -1,0 +1,29 @@
+#pragma once
+
+#include "migration/losses/item_losses.h"
+#include "migration/model/census.h"
+
+namespace workbench {
+class Canvas;
+}
+
+namespace migration {
+
+/// How a document was imported.
+struct Reading
+{
+    /// The page of a drawing that the label shows, from 1; 0 for all of a text document.
+    int page = 1;
+    /// Whether repair should have put on the label what the reader leaves out.
+    bool isRepaired = false;
+    /// Whether the label shows only some of the document's texts, as one of many pages of text.
+    bool isPart = false;
+};
+
+/// Compares the items of a label with the original OpenDocument file, as it was imported or
+/// repaired, and adds what differs to the facts: place and size, texts, fonts, colors, pens, and
+/// items that cover each other.
+void checkLabel(const Census& original, const workbench::Canvas& canvas, const Reading& reading,
+                LabelFacts& label);
+
+} // namespace migration
