@@ -2,6 +2,7 @@
 
 #include "window/canvas/canvas_view.h"
 #include "window/canvas/ruled_canvas.h"
+#include "window/edit_actions.h"
 #include "window/output/output_commands.h"
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
@@ -12,6 +13,7 @@
 
 #include <QCoreApplication>
 #include <QGraphicsItem>
+#include <QMenu>
 #include <QMessageBox>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -105,6 +107,12 @@ void MainWindow::connectCanvas()
     connect(&canvas, &CanvasView::hintShown, this,
             [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
     connect(&canvas, &CanvasView::itemsMoved, m_session.get(), &LabelSession::moveItems);
+    connect(&canvas, &CanvasView::itemsChanged, this,
+            [this](const QString& step, const QList<ItemChange>& changes) {
+                m_session->undoStack().push(new ChangeItems(step, changes));
+            });
+    connect(&canvas, &CanvasView::menuWanted, this, &MainWindow::showContextMenu);
+    connect(&canvas, &CanvasView::propertiesWanted, this, [this] { m_panels->goToProperties(); });
     connect(m_canvas, &RuledCanvas::unitChangeWanted, this, [this] {
         setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimeter : LengthUnit::Inch);
     });
@@ -115,13 +123,21 @@ void MainWindow::connectPanels()
     connect(&m_panels->items(), &ItemPanel::selectionChanged, this, &MainWindow::refreshSelection);
     connect(&m_panels->items(), &ItemPanel::itemWanted, this, &MainWindow::showItem);
     connect(&m_panels->issues(), &IssuesPanel::issueWanted, this, &MainWindow::showIssue);
+    connect(&m_panels->properties(), &PropertyPanel::itemsEdited, this,
+            [this](const QString& step, const QList<ItemChange>& changes) {
+                m_session->undoStack().push(new ChangeItems(step, changes));
+            });
+    connect(&m_panels->properties(), &PropertyPanel::pageEdited, this,
+            [this](const workbench::PageValues& page) {
+                m_session->undoStack().push(new ChangePage(*m_session->label()->canvas, page));
+            });
     connect(&m_panels->sources(), &SourcePanel::recordWanted, this, &MainWindow::showRecordNumber);
 }
 
 // Removes all references to items of the label.
 void MainWindow::letLabelGo()
 {
-    m_panels->properties().showItem(nullptr, m_unit);
+    m_panels->properties().show(nullptr, {}, m_unit);
     m_panels->items().setCanvas(nullptr);
     m_panels->sources().show(nullptr, 0);
     m_panels->issues().clear();
@@ -169,13 +185,20 @@ void MainWindow::showRecordNumber(qint64 record)
 
 void MainWindow::refreshItems()
 {
+    OpenLabel* label = m_session->label();
+    if (label == nullptr) {
+        return;
+    }
     m_panels->items().refresh();
-    refreshSelection();
+    m_status->setPage(label->canvas->page().size, m_unit);
+    refreshIssues();
 }
 
 void MainWindow::refreshSelection()
 {
-    m_panels->properties().showItem(m_panels->items().currentItem(), m_unit);
+    OpenLabel* label = m_session->label();
+    m_panels->properties().show(label != nullptr ? label->canvas.get() : nullptr,
+                                m_panels->items().selectedItems(), m_unit);
     refreshActions();
 }
 
@@ -200,6 +223,9 @@ void MainWindow::refreshActions()
 {
     const bool isOpen = m_session->label() != nullptr;
     m_actions->setLabelOpen(isOpen);
+    if (isOpen) {
+        m_editActions->refresh();
+    }
     action(ActionId::Undo).setEnabled(m_session->undoStack().canUndo());
     action(ActionId::Redo).setEnabled(m_session->undoStack().canRedo());
     action(ActionId::ZoomSelection)
@@ -288,6 +314,15 @@ void MainWindow::printByDialog()
 {
     const QString told = printLabel(*m_session->label(), m_record, m_session->prompts(), this);
     statusBar()->showMessage(told, 10'000);
+}
+
+void MainWindow::showContextMenu(const QPoint& at)
+{
+    if (m_session->label() != nullptr) {
+        QMenu menu(this);
+        m_editActions->fillMenu(menu);
+        menu.exec(at);
+    }
 }
 
 void MainWindow::showShortcuts()

@@ -15,6 +15,7 @@ class QStackedWidget;
 namespace window {
 
 class CanvasView;
+class EditActions;
 class RuledCanvas;
 struct Issue;
 
@@ -78,6 +79,7 @@ private:
     void selectAll();
     void exportByDialog();
     void printByDialog();
+    void showContextMenu(const QPoint& at);
     void showShortcuts();
     void showAbout();
 
@@ -88,6 +90,7 @@ private:
     std::unique_ptr<LabelSession> m_session;
     std::unique_ptr<WindowPanels> m_panels;
     std::unique_ptr<StatusLine> m_status;
+    EditActions* m_editActions = nullptr;
     QStackedWidget* m_center = nullptr;
     RuledCanvas* m_canvas = nullptr;
     QMenu* m_recentMenu = nullptr;

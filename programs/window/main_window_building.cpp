@@ -2,6 +2,7 @@
 
 #include "window/canvas/canvas_view.h"
 #include "window/canvas/ruled_canvas.h"
+#include "window/edit_actions.h"
 #include "window/main_window.h"
 #include "window/properties/item_panel.h"
 #include "window/welcome_page.h"
@@ -70,8 +71,8 @@ void MainWindow::buildCenter()
 
 void MainWindow::buildMenus()
 {
-    for (const MenuId id :
-         {MenuId::File, MenuId::Edit, MenuId::View, MenuId::Panels, MenuId::Record, MenuId::Help}) {
+    for (const MenuId id : {MenuId::File, MenuId::Edit, MenuId::Arrange, MenuId::View,
+                            MenuId::Panels, MenuId::Record, MenuId::Help}) {
         QMenu* menu = menuBar()->addMenu(menuTitle(id));
         menu->addActions(m_actions->ofMenu(id));
         if (id == MenuId::File) {
@@ -81,7 +82,12 @@ void MainWindow::buildMenus()
             menu->insertSeparator(&action(ActionId::Export));
             menu->insertSeparator(&action(ActionId::Close));
         } else if (id == MenuId::Edit) {
+            menu->insertSeparator(&action(ActionId::Cut));
+            menu->insertSeparator(&action(ActionId::EditText));
             menu->insertSeparator(&action(ActionId::SelectAll));
+        } else if (id == MenuId::Arrange) {
+            menu->insertSeparator(&action(ActionId::AlignLeft));
+            menu->insertSeparator(&action(ActionId::DistributeHorizontally));
         } else if (id == MenuId::View) {
             menu->insertSeparator(&action(ActionId::Rulers));
             menu->insertSeparator(&action(ActionId::Millimeters));
@@ -159,6 +165,9 @@ void MainWindow::connectEditActions()
     QUndoStack* stack = &m_session->undoStack();
     connect(&action(ActionId::Undo), &QAction::triggered, stack, &QUndoStack::undo);
     connect(&action(ActionId::Redo), &QAction::triggered, stack, &QUndoStack::redo);
+    m_editActions = new EditActions(*m_actions, *m_session, view(), this);
+    connect(m_editActions, &EditActions::hintShown, this,
+            [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
     connect(&action(ActionId::SelectAll), &QAction::triggered, this, &MainWindow::selectAll);
     connect(&action(ActionId::SelectNone), &QAction::triggered, this,
             [this] { scene()->clearSelection(); });

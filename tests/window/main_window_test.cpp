@@ -333,7 +333,7 @@ TEST_F(MainWindowTest, HelpShowsEveryKey)
         dialog.reject();
     });
     window.action(ActionId::Shortcuts).trigger();
-    EXPECT_EQ(rows, 38);
+    EXPECT_EQ(rows, 56);
     dialogs.expectButton(QMessageBox::Ok);
     window.action(ActionId::About).trigger();
 }

@@ -302,7 +302,7 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
 {
     const Actions actions;
     QSet<QString> keys;
-    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::View, MenuId::Colors,
+    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::Arrange, MenuId::View, MenuId::Colors,
                               MenuId::Panels, MenuId::Record, MenuId::Help}) {
         EXPECT_FALSE(menuTitle(menu).isEmpty());
         const QList<QAction*> ofMenu = actions.ofMenu(menu);
@@ -319,13 +319,13 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
             }
         }
     }
-    EXPECT_EQ(actions.shortcuts().size(), 34);
+    EXPECT_EQ(actions.shortcuts().size(), 52);
 }
 
 TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)
 {
     const Actions actions;
-    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::View, MenuId::Colors,
+    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::Arrange, MenuId::View, MenuId::Colors,
                               MenuId::Panels, MenuId::Record, MenuId::Help}) {
         QSet<QString> letters;
         const QList<QAction*> ofMenu = actions.ofMenu(menu);

@@ -4,10 +4,15 @@
 #include "workbench/items/item_limits.h"
 
 #include <QImage>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextFragment>
 #include <QVariant>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace workbench {
 
@@ -71,6 +76,67 @@ void boundFontSizes(QTextDocument& document)
     for (const Stretch& stretch : oversized) {
         boundStretch(document, stretch);
     }
+}
+
+// A placeholder font that no text uses replaces the item's.
+QString documentHtml(const QTextDocument& document)
+{
+    QFont nobody(u"-"_s);
+    nobody.setPixelSize(1);
+    nobody.setWeight(QFont::Weight(1));
+    const std::unique_ptr<QTextDocument> copy(document.clone());
+    copy->setDefaultFont(nobody);
+    static const QRegularExpression bodyStyle(u"<body style=\"[^\"]*\""_s);
+    // The page of a parsed document has its own border, of width 0.
+    return copy->toHtml()
+        .replace(bodyStyle, u"<body"_s)
+        .replace(u"<table border=\"0\" style=\"-qt-table-type: root;"_s,
+                 u"<table style=\"-qt-table-type: root;"_s);
+}
+
+QString formattedHtml(const QString& html, const QTextCharFormat& format)
+{
+    LabelDocument document(nullptr);
+    document.setHtml(html);
+    QList<Stretch> stretches;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const int begin = it.fragment().position();
+            stretches.append({begin, begin + it.fragment().length()});
+        }
+    }
+    for (const Stretch& stretch : stretches) {
+        QTextCursor cursor(&document);
+        cursor.setPosition(stretch.begin);
+        cursor.setPosition(stretch.end, QTextCursor::KeepAnchor);
+        QTextCharFormat merged = cursor.charFormat();
+        if (format.hasProperty(QTextFormat::FontPixelSize)) {
+            merged.clearProperty(QTextFormat::FontPointSize);
+            merged.clearProperty(QTextFormat::FontSizeAdjustment);
+        }
+        merged.merge(format);
+        cursor.setCharFormat(merged);
+    }
+    return documentHtml(document);
+}
+
+QTextCharFormat sizeFormat(int size)
+{
+    QTextCharFormat format;
+    format.setProperty(QTextFormat::FontPixelSize, size);
+    return format;
+}
+
+QString alignedHtml(const QString& html, Qt::Alignment alignment)
+{
+    LabelDocument document(nullptr);
+    document.setHtml(html);
+    QTextCursor cursor(&document);
+    cursor.select(QTextCursor::Document);
+    QTextBlockFormat format;
+    format.setAlignment(alignment & Qt::AlignHorizontal_Mask);
+    cursor.mergeBlockFormat(format);
+    return documentHtml(document);
 }
 
 } // namespace workbench

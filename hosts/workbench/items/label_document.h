@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTextCharFormat>
 #include <QTextDocument>
 
 namespace workbench {
@@ -18,5 +19,18 @@ protected:
 
 /// Reduces font sizes above the largest that is painted.
 void boundFontSizes(QTextDocument& document);
+
+/// The document as HTML, without the formats that it inherits from the item's font: read again,
+/// they would be explicit.
+[[nodiscard]] QString documentHtml(const QTextDocument& document);
+
+/// The HTML of a document with a format added to all its characters.
+[[nodiscard]] QString formattedHtml(const QString& html, const QTextCharFormat& format);
+
+/// The format of characters of this size in points.
+[[nodiscard]] QTextCharFormat sizeFormat(int size);
+
+/// The HTML of a document with all paragraphs aligned horizontally.
+[[nodiscard]] QString alignedHtml(const QString& html, Qt::Alignment alignment);
 
 } // namespace workbench

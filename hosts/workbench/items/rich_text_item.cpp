@@ -4,36 +4,12 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextLayout>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace workbench {
-
-namespace {
-
-// Omits what the document inherits from the item's font: read again, it would be an explicit
-// format. A placeholder font that no text uses replaces the item's.
-QString htmlOf(const QTextDocument& document)
-{
-    QFont nobody(u"-"_s);
-    nobody.setPixelSize(1);
-    nobody.setWeight(QFont::Weight(1));
-    const std::unique_ptr<QTextDocument> copy(document.clone());
-    copy->setDefaultFont(nobody);
-    static const QRegularExpression bodyStyle(u"<body style=\"[^\"]*\""_s);
-    // The page of a parsed document has its own border, of width 0.
-    return copy->toHtml()
-        .replace(bodyStyle, u"<body"_s)
-        .replace(u"<table border=\"0\" style=\"-qt-table-type: root;"_s,
-                 u"<table style=\"-qt-table-type: root;"_s);
-}
-
-} // namespace
 
 RichTextItem::RichTextItem(KestTypes::ShapeType type)
     : Layers(type)
@@ -41,6 +17,7 @@ RichTextItem::RichTextItem(KestTypes::ShapeType type)
     // Every text gets our document at once, even if it stays plain, because setHtml() is not
     // virtual: a QTextDocument would load the resources that the HTML refers to.
     setDocument(new LabelDocument(this));
+    connect(document(), &QTextDocument::contentsChanged, this, [this] { m_html.reset(); });
     // A text has a frame only if its label specifies one.
     setPenStyle(Qt::NoPen);
 }
@@ -159,15 +136,26 @@ QPainterPath RichTextItem::documentLines(const QRectF& box) const
 void RichTextItem::collect(ItemValues& values) const
 {
     Layers::collect(values);
-    values.text = TextValues{m_text, hasDocument() ? htmlOf(labelDocument()) : QString()};
+    values.text = TextValues{m_text, html()};
+}
+
+const QString& RichTextItem::html() const
+{
+    if (!m_html) {
+        m_html = hasDocument() ? documentHtml(*document()) : QString();
+    }
+    return *m_html;
 }
 
 void RichTextItem::restore(const ItemValues& values)
 {
     const TextValues text = values.text.value_or(TextValues());
-    setText(text.text);
-    if (!text.html.isEmpty()) {
-        setHtml(text.html);
+    // Parsing is slow; a change of another value keeps the document.
+    if (text != TextValues{m_text, html()}) {
+        setText(text.text);
+        if (!text.html.isEmpty()) {
+            setHtml(text.html);
+        }
     }
     Layers::restore(values);
 }

@@ -39,7 +39,11 @@ private:
     [[nodiscard]] QPainterPath documentLines(const QRectF& box) const;
     void paintDocument(QPainter& painter, const QRectF& box);
 
+    /// The document as HTML; empty without one.
+    [[nodiscard]] const QString& html() const;
+
     QString m_text;
+    mutable std::optional<QString> m_html; // of the document, made on first use
 };
 
 } // namespace workbench

@@ -71,8 +71,12 @@ void SymbolItem::collect(ItemValues& values) const
 
 void SymbolItem::restore(const ItemValues& values)
 {
-    m_symbol = values.symbol.value_or(SymbolValues());
-    takeData(m_symbol.data);
+    const SymbolValues symbol = values.symbol.value_or(SymbolValues());
+    // Checking and parsing are slow; a change of another value keeps the drawing.
+    if (symbol != m_symbol) {
+        m_symbol = symbol;
+        takeData(symbol.data);
+    }
     DatasourceLayer::restore(values);
 }
 

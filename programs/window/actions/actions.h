@@ -22,8 +22,26 @@ enum class ActionId : quint8 {
     Quit,
     Undo,
     Redo,
+    Cut,
+    Copy,
+    Paste,
+    Duplicate,
+    Delete,
+    EditText,
     SelectAll,
     SelectNone,
+    ToFront,
+    Raise,
+    Lower,
+    ToBack,
+    AlignLeft,
+    AlignCenter,
+    AlignRight,
+    AlignTop,
+    AlignMiddle,
+    AlignBottom,
+    DistributeHorizontally,
+    DistributeVertically,
     ZoomIn,
     ZoomOut,
     ZoomFit,
@@ -50,7 +68,7 @@ enum class ActionId : quint8 {
 };
 
 /// The menu of an action.
-enum class MenuId : quint8 { File, Edit, View, Colors, Panels, Record, Help };
+enum class MenuId : quint8 { File, Edit, Arrange, View, Colors, Panels, Record, Help };
 
 /// One row of the list of shortcuts.
 struct ShortcutRow

@@ -46,11 +46,13 @@ CanvasView::CanvasView(QWidget* parent)
     setAcceptDrops(false);
     viewport()->setAcceptDrops(false);
     connect(m_tool, &SelectionTool::itemsMoved, this, &CanvasView::itemsMoved);
+    connect(m_tool, &SelectionTool::itemsChanged, this, &CanvasView::itemsChanged);
     connect(m_tool, &SelectionTool::hintShown, this, &CanvasView::hintShown);
 }
 
 void CanvasView::setCanvas(workbench::Canvas* canvas)
 {
+    endEditing(false);
     m_canvas = canvas;
     m_tool->setCanvas(canvas);
     setScene(canvas != nullptr ? canvas->scene() : nullptr);
@@ -185,16 +187,15 @@ void CanvasView::mousePressEvent(QMouseEvent* event)
         beginPan(event->position().toPoint());
         return;
     }
+    if (m_editor != nullptr && isInEditor(event->position().toPoint())) {
+        QGraphicsView::mousePressEvent(event);
+        return;
+    }
+    endEditing(true);
     // Not the scene: it would select by the items' boxes.
     if (event->button() == Qt::LeftButton) {
         m_tool->press(*event);
     }
-}
-
-// The second press of a double click is another click for the tool.
-void CanvasView::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    mousePressEvent(event);
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event)
@@ -203,7 +204,13 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event)
         panTo(event->position().toPoint());
         return;
     }
-    m_tool->move(*event);
+    if (m_editor != nullptr) {
+        QGraphicsView::mouseMoveEvent(event);
+    } else if (event->buttons() == Qt::NoButton && !m_handReady) {
+        m_tool->hover(event->position().toPoint());
+    } else {
+        m_tool->move(*event);
+    }
     const QPoint at = event->position().toPoint();
     Q_EMIT pointerMoved(mapToScene(at), at);
 }
@@ -214,7 +221,9 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
         endPan();
         return;
     }
-    if (event->button() == Qt::LeftButton) {
+    if (m_editor != nullptr) {
+        QGraphicsView::mouseReleaseEvent(event);
+    } else if (event->button() == Qt::LeftButton) {
         m_tool->release(*event);
     }
 }
@@ -252,6 +261,10 @@ void CanvasView::setHandReady(bool ready)
 
 void CanvasView::keyPressEvent(QKeyEvent* event)
 {
+    if (m_editor != nullptr) {
+        QGraphicsView::keyPressEvent(event);
+        return;
+    }
     if (event->key() == Qt::Key_Space) {
         setHandReady(true);
         event->accept();
@@ -281,6 +294,8 @@ void CanvasView::focusOutEvent(QFocusEvent* event)
 {
     // The space bar may be released in another window.
     setHandReady(false);
+    // Menus, too: their commands must find the text that was typed.
+    endEditing(true);
     QGraphicsView::focusOutEvent(event);
 }
 

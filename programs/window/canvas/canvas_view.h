@@ -1,14 +1,17 @@
 #pragma once
 
+#include "window/canvas/text_editor.h"
 #include "window/label/move_items.h"
 
 #include <QGraphicsView>
+#include <QPointer>
 
 #include <optional>
 
 namespace workbench {
 class Canvas;
-}
+class CanvasItem;
+} // namespace workbench
 
 namespace window {
 
@@ -50,6 +53,11 @@ public:
     /// Position of the page's upper left corner, in pixels of the view.
     [[nodiscard]] QPointF pageOrigin() const;
 
+    /// Edits the text of an item in place; false, with a message, if it has none or is read-only.
+    bool editText(workbench::CanvasItem& item);
+    /// Ends editing a text, and keeps or drops what was typed.
+    void endEditing(bool isAccepted);
+
 Q_SIGNALS:
     void zoomChanged(double zoom);
     /// The visible part of the canvas or the zoom has changed.
@@ -59,6 +67,12 @@ Q_SIGNALS:
     void pointerLeft();
     /// The user has moved items by mouse or keyboard. After a mouse move they are in place.
     void itemsMoved(const QList<window::ItemMove>& moves);
+    /// The user has resized or rotated items, or typed a text.
+    void itemsChanged(const QString& step, const QList<window::ItemChange>& changes);
+    /// A context menu for the selected items, at this point of the screen.
+    void menuWanted(const QPoint& at);
+    /// A double click on an item that has no text: edit its properties.
+    void propertiesWanted();
     /// A message for the status bar: why an item does not move.
     void hintShown(const QString& text);
 
@@ -75,6 +89,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool viewportEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
@@ -83,12 +99,14 @@ private:
     void showRoomAroundPage();
     [[nodiscard]] double truePixelsPerPoint() const;
     [[nodiscard]] bool nudge(const QKeyEvent& event);
+    [[nodiscard]] bool isInEditor(const QPoint& at) const;
     void beginPan(const QPoint& at);
     void panTo(const QPoint& at);
     void endPan();
     void setHandReady(bool ready);
 
     SelectionTool* m_tool;
+    QPointer<TextEditor> m_editor; // of the text that is being edited; its scene owns it
     workbench::Canvas* m_canvas = nullptr;
     double m_zoom = 1.0;
     bool m_keepFitted = true;

@@ -1,6 +1,6 @@
 #include "window/canvas/item_nudge.h"
 
-#include "window/edit/locks.h"
+#include "window/canvas/locks.h"
 
 #include <QGraphicsItem>
 

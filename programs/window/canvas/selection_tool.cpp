@@ -1,6 +1,7 @@
 #include "window/canvas/selection_tool.h"
 
-#include "window/edit/locks.h"
+#include "window/canvas/locks.h"
+#include "window/edit/geometry.h"
 #include "workbench/canvas/canvas.h"
 
 #include <QGraphicsItem>
@@ -8,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +21,9 @@ namespace {
 // Distance within which a click hits an item, and beyond which a press is a drag. Pixels.
 constexpr int HitDistance = 3;
 constexpr int DragDistance = 4;
+// Distance within which a drag snaps, and a handle is hit. Pixels.
+constexpr double SnapDistance = 5.0;
+constexpr double HandleDistance = 6.0;
 
 bool changesSelection(const QMouseEvent& event)
 {
@@ -30,9 +35,25 @@ QPointF alongOneAxis(const QPointF& way)
     return std::abs(way.x()) >= std::abs(way.y()) ? QPointF(way.x(), 0.0) : QPointF(0.0, way.y());
 }
 
-bool isSelected(workbench::CanvasItem* item)
+bool isSelected(const workbench::CanvasItem* item)
 {
     return item->graphicsItem()->isSelected();
+}
+
+workbench::CanvasItem* singleSelected(workbench::Canvas& canvas)
+{
+    const QList<QGraphicsItem*> selected = canvas.scene()->selectedItems();
+    return selected.size() == 1 ? dynamic_cast<workbench::CanvasItem*>(selected.constFirst())
+                                : nullptr;
+}
+
+QSet<const workbench::CanvasItem*> setOf(const QList<ItemChange>& changes)
+{
+    QSet<const workbench::CanvasItem*> items;
+    for (const ItemChange& change : changes) {
+        items.insert(change.item);
+    }
+    return items;
 }
 
 } // namespace
@@ -51,6 +72,8 @@ void SelectionTool::setCanvas(workbench::Canvas* canvas)
     m_drag = Drag::None;
     m_hits.clear();
     m_moves.clear();
+    m_changes.clear();
+    m_selectedBefore = nullptr;
     if (canvas != nullptr) {
         // An item of the drag may have been removed.
         connect(canvas, &workbench::Canvas::itemsChanged, this, &SelectionTool::cancel);
@@ -80,6 +103,15 @@ void SelectionTool::press(const QMouseEvent& event)
         return;
     }
     m_pressedAt = event.position().toPoint();
+    m_handle = handleAt(m_pressedAt);
+    if (m_handle != Handle::None) {
+        m_drag = Drag::Handling;
+        m_changes = changeableItems();
+        m_frame = *frameOf(m_changes);
+        m_lines = SnapLines(*m_canvas, setOf(m_changes));
+        return;
+    }
+    m_selectedBefore = singleSelected(*m_canvas);
     m_hits = itemsAt(m_pressedAt);
     m_drag = Drag::Pressed;
     m_selectedByPress = false;
@@ -98,6 +130,8 @@ void SelectionTool::move(const QMouseEvent& event)
     }
     if (m_drag == Drag::Moving) {
         moveItems(event);
+    } else if (m_drag == Drag::Handling) {
+        dragHandle(event);
     } else if (m_drag == Drag::Selecting) {
         m_band = QRect(m_pressedAt, at).normalized();
         m_view.viewport()->update();
@@ -124,6 +158,7 @@ void SelectionTool::beginDrag(const QPoint& at, bool extends)
         }
     }
     m_drag = m_moves.isEmpty() ? Drag::Selecting : Drag::Moving;
+    prepareMove();
     m_band = QRect(m_pressedAt, at).normalized();
 }
 
@@ -133,6 +168,8 @@ void SelectionTool::moveItems(const QMouseEvent& event)
     if (event.modifiers().testFlag(Qt::ControlModifier)) {
         way = alongOneAxis(way);
     }
+    const QRectF box = m_movedBox.translated(way);
+    way += snapped(m_lines.snapBox(box, snapDistance(event)));
     for (ItemMove& move : m_moves) {
         move.item->setPos(move.from + way);
         move.to = move.item->pos();
@@ -142,7 +179,14 @@ void SelectionTool::moveItems(const QMouseEvent& event)
 void SelectionTool::release(const QMouseEvent& event)
 {
     const Drag drag = std::exchange(m_drag, Drag::None);
-    if (drag == Drag::Moving) {
+    m_snap = {};
+    if (drag == Drag::Handling) {
+        QList<ItemChange> changes = std::exchange(m_changes, {});
+        changes.removeIf([](const ItemChange& change) { return change.before == change.after; });
+        if (!changes.isEmpty()) {
+            Q_EMIT itemsChanged(m_handle == Handle::Rotate ? tr("Rotate") : tr("Resize"), changes);
+        }
+    } else if (drag == Drag::Moving) {
         const QList<ItemMove> moves = std::exchange(m_moves, {});
         Q_EMIT itemsMoved(moves);
     } else if (drag == Drag::Selecting) {
@@ -215,24 +259,155 @@ bool SelectionTool::cancel()
         for (const ItemMove& move : std::as_const(m_moves)) {
             move.item->setPos(move.from);
         }
+    } else if (drag == Drag::Handling) {
+        for (const ItemChange& change : std::as_const(m_changes)) {
+            change.item->setValues(change.before);
+        }
     }
+    m_changes.clear();
+    m_snap = {};
+    m_selectedBefore = nullptr;
     m_hits.clear();
     m_moves.clear();
     m_view.viewport()->update();
-    return drag == Drag::Moving || drag == Drag::Selecting;
+    return drag != Drag::None && drag != Drag::Pressed;
 }
 
 void SelectionTool::paint(QPainter& painter) const
 {
-    if (m_drag != Drag::Selecting) {
+    const QColor color = m_view.palette().color(QPalette::Highlight);
+    painter.setPen(QPen(color, 1.0, Qt::DotLine));
+    if (m_snap.x) {
+        const int x = m_view.mapFromScene(QPointF(*m_snap.x, 0.0)).x();
+        painter.drawLine(x, 0, x, m_view.viewport()->height());
+    }
+    if (m_snap.y) {
+        const int y = m_view.mapFromScene(QPointF(0.0, *m_snap.y)).y();
+        painter.drawLine(0, y, m_view.viewport()->width(), y);
+    }
+    if (m_drag == Drag::Selecting) {
+        QColor inside = color;
+        inside.setAlphaF(0.15F);
+        painter.setPen(color);
+        painter.setBrush(inside);
+        painter.drawRect(m_band);
+    } else if (m_canvas != nullptr && m_drag != Drag::Moving) {
+        if (const std::optional<HandleFrame> frame = frameOf(changeableItems())) {
+            paintHandles(painter, m_view, *frame);
+        }
+    }
+}
+
+QList<ItemChange> SelectionTool::changeableItems() const
+{
+    const QList<QGraphicsItem*> selected = m_canvas->scene()->selectedItems();
+    if (selected.size() > MaximumHandledItems) {
+        return {};
+    }
+    QList<ItemChange> changes;
+    for (QGraphicsItem* each : selected) {
+        auto* item = dynamic_cast<workbench::CanvasItem*>(each);
+        if (item != nullptr && isMovable(*each)) {
+            const workbench::ItemValues values = item->values();
+            changes.append({item, values, values});
+        }
+    }
+    return changes;
+}
+
+Handle SelectionTool::handleAt(const QPoint& at) const
+{
+    const std::optional<HandleFrame> frame = frameOf(changeableItems());
+    if (!frame) {
+        return Handle::None;
+    }
+    const QList<Handle> handles = handlesOf(*frame);
+    for (const Handle handle : handles) {
+        const QPointF place = m_view.viewportTransform().map(
+            handlePosition(*frame, handle, m_view.transform().m11()));
+        const QPointF way = place - at;
+        if (std::abs(way.x()) <= HandleDistance && std::abs(way.y()) <= HandleDistance) {
+            return handle;
+        }
+    }
+    return Handle::None;
+}
+
+void SelectionTool::hover(const QPoint& at)
+{
+    const Handle handle = m_canvas != nullptr ? handleAt(at) : Handle::None;
+    if (handle != Handle::None) {
+        m_view.viewport()->setCursor(cursorOf(*frameOf(changeableItems()), handle));
+    } else {
+        m_view.viewport()->unsetCursor();
+    }
+}
+
+// Prepares snapping.
+void SelectionTool::prepareMove()
+{
+    m_movedBox = QRectF();
+    QSet<const workbench::CanvasItem*> dragged;
+    for (const ItemMove& move : std::as_const(m_moves)) {
+        if (const auto* item = dynamic_cast<const workbench::CanvasItem*>(move.item)) {
+            dragged.insert(item);
+            m_movedBox |= boundsOf(item->values());
+        }
+    }
+    if (m_drag == Drag::Moving) {
+        m_lines = SnapLines(*m_canvas, dragged);
+    }
+}
+
+double SelectionTool::snapDistance(const QMouseEvent& event) const
+{
+    return event.modifiers().testFlag(Qt::ShiftModifier) ? -1.0
+                                                         : SnapDistance / m_view.transform().m11();
+}
+
+QPointF SelectionTool::snapped(const SnapLines::Snap& snap)
+{
+    m_snap = snap;
+    return snap.way;
+}
+
+void SelectionTool::dragHandle(const QMouseEvent& event)
+{
+    const double pixelsPerPoint = m_view.transform().m11();
+    HandleDrag drag{m_handle, m_view.mapToScene(m_pressedAt),
+                    m_view.mapToScene(event.position().toPoint()), event.modifiers()};
+    // Only an upright box has edges along the lines.
+    const bool isUpright = m_frame.isLine || m_frame.toCanvas.type() <= QTransform::TxTranslate;
+    if (isUpright && m_handle != Handle::Rotate) {
+        const QPointF moved =
+            handlePosition(m_frame, m_handle, pixelsPerPoint) + drag.to - drag.from;
+        drag.to += snapped(m_lines.snapPoint(moved, SnapDistance / pixelsPerPoint));
+    }
+    applyDrag(m_changes, m_frame, drag);
+    for (const ItemChange& change : std::as_const(m_changes)) {
+        change.item->setValues(change.after);
+    }
+    m_view.viewport()->update();
+}
+
+void SelectionTool::selectAt(const QPoint& at)
+{
+    if (m_canvas == nullptr) {
         return;
     }
-    const QColor color = m_view.palette().color(QPalette::Highlight);
-    QColor inside = color;
-    inside.setAlphaF(0.15F);
-    painter.setPen(color);
-    painter.setBrush(inside);
-    painter.drawRect(m_band);
+    const QList<workbench::CanvasItem*> items = itemsAt(at);
+    if (!items.isEmpty() && std::none_of(items.begin(), items.end(), isSelected)) {
+        selectOnly(items.constFirst());
+    }
+}
+
+workbench::CanvasItem* SelectionTool::itemForDoubleClick(const QPoint& at) const
+{
+    if (m_canvas == nullptr) {
+        return nullptr;
+    }
+    const QList<workbench::CanvasItem*> items = itemsAt(at);
+    return items.contains(m_selectedBefore) ? m_selectedBefore : items.value(0);
 }
 
 } // namespace window

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QGraphicsItem>
 
-#include <algorithm>
 #include <utility>
 
 namespace window {
@@ -25,10 +24,9 @@ void select(QGraphicsScene& scene, const QList<workbench::CanvasItem*>& items)
 
 } // namespace
 
-ChangeItems::ChangeItems(const QString& text, const QList<ItemChange>& changes, int key)
+ChangeItems::ChangeItems(const QString& text, const QList<ItemChange>& changes)
     : QUndoCommand(text)
     , m_changes(changes)
-    , m_key(key)
 {}
 
 void ChangeItems::undo()
@@ -43,22 +41,6 @@ void ChangeItems::redo()
     for (const ItemChange& change : std::as_const(m_changes)) {
         change.item->setValues(change.after);
     }
-}
-
-bool ChangeItems::mergeWith(const QUndoCommand* next)
-{
-    const auto* other = dynamic_cast<const ChangeItems*>(next);
-    if (other == nullptr ||
-        !std::equal(m_changes.begin(), m_changes.end(), other->m_changes.begin(),
-                    other->m_changes.end(), [](const ItemChange& mine, const ItemChange& theirs) {
-                        return mine.item == theirs.item;
-                    })) {
-        return false;
-    }
-    for (qsizetype i = 0; i < m_changes.size(); ++i) {
-        m_changes[i].after = other->m_changes.at(i).after;
-    }
-    return true;
 }
 
 AddItems::AddItems(const QString& text, workbench::Canvas& canvas,

@@ -18,23 +18,25 @@ struct ItemChange
     workbench::ItemValues after;
 };
 
+/// Whether nothing keeps an item from being moved.
+[[nodiscard]] inline bool isMovable(const workbench::ItemValues& values)
+{
+    const workbench::PlacementValues& placement = values.placement;
+    return placement.movable && !placement.readOnly && !placement.userBackground;
+}
+
 /// Changes the values of items.
 class ChangeItems final : public QUndoCommand
 {
 public:
     /// @param text  name of the step in the menu: "Change Font"
-    /// @param key   successive changes of the same items with the same key, 0 or above, are one
-    ///              step; -1 keeps the steps apart
-    ChangeItems(const QString& text, const QList<ItemChange>& changes, int key = -1);
+    ChangeItems(const QString& text, const QList<ItemChange>& changes);
 
     void undo() override;
     void redo() override;
-    [[nodiscard]] int id() const override { return m_key; }
-    [[nodiscard]] bool mergeWith(const QUndoCommand* next) override;
 
 private:
     QList<ItemChange> m_changes;
-    int m_key;
 };
 
 /// Adds new items on top, and selects them.

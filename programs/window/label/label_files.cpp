@@ -55,6 +55,7 @@ ReadLabel readLegacyLabel(const QString& fileName)
         migration::makeFileReport(fileName, shownName(fileName), reader, result, WithPlaces);
     label.canvas = std::move(result.canvas);
     label.sources = std::move(result.datasources);
+    label.importedItems = label.canvas->items();
     label.suggestedName = savedNameFor(fileName);
     return {std::move(label), {}};
 }

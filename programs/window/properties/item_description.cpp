@@ -1,10 +1,15 @@
 #include "window/properties/item_description.h"
 
+#include "window/properties/property.h"
 #include "window/properties/style_names.h"
 
 #include <QCoreApplication>
+#include <QImage>
 #include <QLocale>
 #include <QTextDocumentFragment>
+
+#include <algorithm>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,198 +44,115 @@ QString pixelText(const QSize& size)
     return Words::tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
 }
 
-// Collects rows under one group at a time.
-class Rows
+QString numberText(const PropertyRow& row, LengthUnit unit)
 {
-public:
-    void begin(const QString& group) { m_group = group; }
-    void add(const QString& name, const QString& value)
-    {
-        m_rows.append({m_group, name, shortened(value, LongestValue)});
+    const double number = row.current.toDouble();
+    if (!row.minimumName.isEmpty() && number <= row.minimum) {
+        return row.minimumName;
     }
-    void add(const QString& name, bool value)
-    {
-        add(name, value ? Words::tr("yes") : Words::tr("no"));
-    }
-    void add(const QString& name, int value) { add(name, QLocale().toString(value)); }
-    void add(const QString& name, const QColor& value) { add(name, colorName(value)); }
-    [[nodiscard]] QList<PropertyRow> rows() const { return m_rows; }
-
-private:
-    QString m_group;
-    QList<PropertyRow> m_rows;
-};
-
-void addPlace(Rows& rows, const ItemValues& values, LengthUnit unit)
-{
-    rows.begin(Words::tr("Place"));
-    rows.add(Words::tr("Kind"), kindName(values.type));
-    rows.add(Words::tr("Left"), lengthText(values.placement.position.x(), unit));
-    rows.add(Words::tr("Top"), lengthText(values.placement.position.y(), unit));
-    rows.add(Words::tr("Width"), lengthText(values.box.size.width(), unit));
-    rows.add(Words::tr("Height"), lengthText(values.box.size.height(), unit));
-    rows.add(Words::tr("Angle"), angleText(values.box.rotation));
-    rows.add(Words::tr("Flipped left to right"), values.box.flipHorizontal);
-    rows.add(Words::tr("Flipped top to bottom"), values.box.flipVertical);
-    rows.add(Words::tr("Layer"), QLocale().toString(values.placement.z));
-    rows.add(Words::tr("Movable"), values.placement.movable);
-    rows.add(Words::tr("Read-only"), values.placement.readOnly);
-    rows.add(Words::tr("Background"), values.placement.userBackground);
-}
-
-void addPen(Rows& rows, const workbench::PenValues& pen)
-{
-    rows.begin(Words::tr("Line"));
-    rows.add(Words::tr("Line color"), pen.color);
-    rows.add(Words::tr("Line width"),
-             pen.width == 0 ? Words::tr("thinnest") : Words::tr("%1 pt").arg(pen.width));
-    rows.add(Words::tr("Line style"), penStyleName(pen.style));
-    rows.add(Words::tr("Line ends"), capStyleName(pen.cap));
-    rows.add(Words::tr("Line corners"), joinStyleName(pen.join));
-}
-
-void addFill(Rows& rows, const workbench::FillValues& fill)
-{
-    rows.begin(Words::tr("Fill"));
-    rows.add(Words::tr("Filled"), fill.filled);
-    rows.add(Words::tr("Fill color"), fill.color);
-    rows.add(Words::tr("Fill pattern"), brushStyleName(fill.style));
-}
-
-void addCorner(Rows& rows, const workbench::CornerValues& corner, LengthUnit unit)
-{
-    rows.begin(Words::tr("Corners"));
-    rows.add(Words::tr("Corner radius"), corner.radius ? lengthText(*corner.radius, unit)
-                                                       : Words::tr("a sixth of the shorter side"));
-}
-
-void addLine(Rows& rows, const workbench::LineValues& line, LengthUnit unit)
-{
-    rows.begin(Words::tr("Ends"));
-    rows.add(Words::tr("End, to the right"), lengthText(line.end.x(), unit));
-    rows.add(Words::tr("End, down"), lengthText(line.end.y(), unit));
-    rows.add(Words::tr("Mark at the start"), lineMarkerName(line.startMarker));
-    rows.add(Words::tr("Mark at the end"), lineMarkerName(line.endMarker));
-}
-
-void addText(Rows& rows, const workbench::TextValues& text)
-{
-    rows.begin(Words::tr("Text"));
-    rows.add(Words::tr("Text"), plainText(text));
-}
-
-void addTextStyle(Rows& rows, const workbench::TextStyleValues& style)
-{
-    rows.begin(Words::tr("Text"));
-    rows.add(Words::tr("Text color"), style.color);
-    rows.add(Words::tr("Alignment"), alignmentName(style.alignment));
-}
-
-void addTextLabel(Rows& rows, const workbench::TextLabelValues& label, LengthUnit unit)
-{
-    rows.begin(Words::tr("Text"));
-    rows.add(Words::tr("Text box"), areaText(label.textBox.width(), label.textBox.height(), unit));
-    rows.add(Words::tr("Fixed sides"), fixedSidesName(label.limiting));
-}
-
-void addFont(Rows& rows, const workbench::FontValues& font)
-{
-    rows.begin(Words::tr("Font"));
-    rows.add(Words::tr("Font family"),
-             font.family.isEmpty() ? Words::tr("the default") : font.family);
-    rows.add(Words::tr("Font size"),
-             font.sized ? Words::tr("%1 pt").arg(font.pointSize) : Words::tr("not set"));
-    rows.add(Words::tr("Bold"), font.bold);
-    rows.add(Words::tr("Italic"), font.italic);
-    rows.add(Words::tr("Underlined"), font.underline);
-}
-
-void addBarcode(Rows& rows, const workbench::BarcodeValues& barcode)
-{
-    rows.begin(Words::tr("Barcode"));
-    rows.add(Words::tr("Symbology"), barcode.symbology);
-    rows.add(Words::tr("Content"), barcode.content);
-    rows.add(Words::tr("Module width"), barcode.moduleWidth == 0
-                                            ? Words::tr("automatic")
-                                            : Words::tr("%1 pt").arg(barcode.moduleWidth));
-    rows.add(Words::tr("Bars"), barcode.foreground);
-    rows.add(Words::tr("Ground"), barcode.background);
-    rows.add(Words::tr("Option"), barcode.option);
-}
-
-void addPicture(Rows& rows, const workbench::PictureValues& picture)
-{
-    rows.begin(Words::tr("Picture"));
-    rows.add(Words::tr("Picture size"),
-             picture.image.isNull() ? Words::tr("no picture") : pixelText(picture.image.size()));
-}
-
-void addSymbol(Rows& rows, const workbench::SymbolValues& symbol)
-{
-    rows.begin(Words::tr("Symbol"));
-    rows.add(Words::tr("Drawing"), symbol.data.isEmpty()
-                                       ? Words::tr("none")
-                                       : QLocale().formattedDataSize(symbol.data.size()));
-    rows.add(Words::tr("Symbol color"), symbol.foreground);
-    rows.add(Words::tr("Symbol ground"), symbol.background);
-}
-
-void addDatasource(Rows& rows, const workbench::DatasourceValues& source)
-{
-    rows.begin(Words::tr("Data source"));
-    rows.add(Words::tr("Source"),
-             source.id < 0 ? Words::tr("none") : Words::tr("number %1").arg(source.id));
-    if (!source.fields.isEmpty()) {
-        rows.add(Words::tr("Fields"), source.fields.join(u", "_s));
+    switch (row.kind) {
+    case PropertyKind::Length:
+        return lengthText(number, unit);
+    case PropertyKind::Points:
+        return Words::tr("%1 pt").arg(number);
+    case PropertyKind::Angle:
+        return angleText(number);
+    default:
+        return QLocale().toString(number);
     }
 }
 
-void addTextGroups(Rows& rows, const ItemValues& values, LengthUnit unit)
+QString choiceText(const PropertyRow& row)
 {
-    if (values.text) {
-        addText(rows, *values.text);
+    const int code = row.current.toInt();
+    for (const NamedCode& choice : row.choices) {
+        if (choice.code == code) {
+            return choice.name;
+        }
     }
-    if (values.textStyle) {
-        addTextStyle(rows, *values.textStyle);
-    }
-    if (values.textLabel) {
-        addTextLabel(rows, *values.textLabel, unit);
-    }
-    if (values.font) {
-        addFont(rows, *values.font);
+    return Words::tr("unknown (%1)").arg(code);
+}
+
+QString pictureText(const QImage& image)
+{
+    return image.isNull() ? Words::tr("no picture") : pixelText(image.size());
+}
+
+QString drawingText(const QByteArray& data)
+{
+    return data.isEmpty() ? Words::tr("none") : QLocale().formattedDataSize(data.size());
+}
+
+QString valueText(const PropertyRow& row, LengthUnit unit)
+{
+    switch (row.kind) {
+    case PropertyKind::Note:
+    case PropertyKind::Text:
+        return row.current.toString();
+    case PropertyKind::RichText:
+        return plainText({{}, row.current.toString()});
+    case PropertyKind::Flag:
+        return row.current.toBool() ? Words::tr("yes") : Words::tr("no");
+    case PropertyKind::Color:
+        return colorName(row.current.value<QColor>());
+    case PropertyKind::Choice:
+        return choiceText(row);
+    case PropertyKind::FontFamily:
+        return row.current.toString().isEmpty() ? Words::tr("the default") : row.current.toString();
+    case PropertyKind::Picture:
+        return pictureText(row.current.value<QImage>());
+    case PropertyKind::Symbol:
+        return drawingText(row.current.toByteArray());
+    default:
+        return numberText(row, unit);
     }
 }
 
-void addShapeGroups(Rows& rows, const ItemValues& values, LengthUnit unit)
+// The value that all have; nothing if one of them does not have the property. Different values
+// are reported as an invalid variant.
+template <class Values>
+std::optional<QVariant> commonValue(const Property<Values>& property, const QList<Values>& all)
 {
-    if (values.pen) {
-        addPen(rows, *values.pen);
+    std::optional<QVariant> common;
+    for (const Values& values : all) {
+        const QVariant value = property.get(values);
+        if (!value.isValid()) {
+            return std::nullopt;
+        }
+        if (common && *common != value) {
+            common = QVariant();
+        } else if (!common) {
+            common = value;
+        }
     }
-    if (values.fill) {
-        addFill(rows, *values.fill);
-    }
-    if (values.corner) {
-        addCorner(rows, *values.corner, unit);
-    }
-    if (values.line) {
-        addLine(rows, *values.line, unit);
-    }
+    return common;
 }
 
-void addContentGroups(Rows& rows, const ItemValues& values)
+template <class Values, class IsEditable>
+QList<PropertyRow> describe(const QList<Property<Values>>& properties, const QList<Values>& all,
+                            LengthUnit unit, const IsEditable& isEditable)
 {
-    if (values.barcode) {
-        addBarcode(rows, *values.barcode);
+    QList<PropertyRow> rows;
+    for (qsizetype index = 0; index < properties.size(); ++index) {
+        const Property<Values>& property = properties.at(index);
+        const std::optional<QVariant> common = commonValue(property, all);
+        if (!common) {
+            continue;
+        }
+        PropertyRow row{property.group, property.name, {}};
+        row.property = static_cast<int>(index);
+        row.kind = property.kind;
+        row.current = *common;
+        row.choices = property.choices;
+        row.minimum = property.minimum;
+        row.maximum = property.maximum;
+        row.minimumName = property.minimumName;
+        row.isEditable = property.set != nullptr && isEditable(property.isLock);
+        row.value = common->isValid() ? shortened(valueText(row, unit), LongestValue)
+                                      : Words::tr("different values");
+        rows.append(row);
     }
-    if (values.picture) {
-        addPicture(rows, *values.picture);
-    }
-    if (values.symbol) {
-        addSymbol(rows, *values.symbol);
-    }
-    if (values.datasource) {
-        addDatasource(rows, *values.datasource);
-    }
+    return rows;
 }
 
 } // namespace
@@ -260,12 +182,22 @@ QString itemTitle(const ItemValues& values)
 
 QList<PropertyRow> describeItem(const ItemValues& values, LengthUnit unit)
 {
-    Rows rows;
-    addPlace(rows, values, unit);
-    addTextGroups(rows, values, unit);
-    addContentGroups(rows, values);
-    addShapeGroups(rows, values, unit);
-    return rows.rows();
+    return describeItems({values}, unit);
+}
+
+QList<PropertyRow> describeItems(const QList<ItemValues>& items, LengthUnit unit)
+{
+    return describe(itemProperties(), items, unit, [&items](bool isLock) {
+        return isLock || std::none_of(items.begin(), items.end(), [](const ItemValues& values) {
+                   return values.placement.readOnly;
+               });
+    });
+}
+
+QList<PropertyRow> describePage(const workbench::PageValues& page, LengthUnit unit)
+{
+    return describe(pageProperties(), QList<workbench::PageValues>{page}, unit,
+                    [](bool) { return true; });
 }
 
 } // namespace window

@@ -96,7 +96,12 @@ void ItemPanel::setUnit(LengthUnit unit)
 
 void ItemPanel::refresh()
 {
-    m_model->refresh();
+    {
+        // Resetting the model clears the table's selection, which must not clear the canvas's.
+        const QScopedValueRollback following(m_isFollowing, true);
+        m_model->refresh();
+    }
+    takeFromCanvas();
 }
 
 void ItemPanel::selectItem(int row)
@@ -109,6 +114,19 @@ void ItemPanel::selectItem(int row)
         m_table->scrollTo(m_model->index(row, 0));
         Q_EMIT itemWanted(m_model->itemAt(row));
     }
+}
+
+QList<workbench::CanvasItem*> ItemPanel::selectedItems() const
+{
+    QList<workbench::CanvasItem*> items;
+    if (m_canvas != nullptr) {
+        for (workbench::CanvasItem* item : m_canvas->items()) {
+            if (item->graphicsItem()->isSelected()) {
+                items.append(item);
+            }
+        }
+    }
+    return items;
 }
 
 workbench::CanvasItem* ItemPanel::currentItem() const

@@ -32,6 +32,8 @@ public:
     void selectItem(int row);
 
     [[nodiscard]] QTableView& table() { return *m_table; }
+    /// The selected items in insertion order.
+    [[nodiscard]] QList<workbench::CanvasItem*> selectedItems() const;
     /// The current item of the selection; null if nothing is selected.
     [[nodiscard]] workbench::CanvasItem* currentItem() const;
 

@@ -4,6 +4,8 @@
 #include "window/properties/style_names.h"
 #include "workbench/canvas/canvas.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace window {
@@ -55,11 +57,18 @@ void ItemTableModel::setUnit(LengthUnit unit)
 
 void ItemTableModel::refresh()
 {
-    if (m_canvas == nullptr || m_canvas->items().size() != m_rows.size()) {
+    const bool hasSameItems =
+        m_canvas != nullptr &&
+        std::equal(
+            m_rows.cbegin(), m_rows.cend(), m_canvas->items().cbegin(), m_canvas->items().cend(),
+            [](const Row& row, const workbench::CanvasItem* item) { return row.item == item; });
+    if (!hasSameItems) {
         setCanvas(m_canvas);
         return;
     }
-    readAll();
+    for (Row& row : m_rows) {
+        row.isRead = false;
+    }
     if (!m_rows.isEmpty()) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
     }
@@ -90,7 +99,10 @@ QVariant ItemTableModel::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= m_rows.size()) {
         return {};
     }
-    const Row& row = m_rows.at(index.row());
+    Row& row = m_rows[index.row()];
+    if (!row.isRead) {
+        describe(row);
+    }
     switch (role) {
     case Qt::DisplayRole:
         return row.cells[index.column()];
@@ -134,11 +146,10 @@ QVariant ItemTableModel::headerData(int section, Qt::Orientation orientation, in
     }
 }
 
-ItemTableModel::Row ItemTableModel::describe(workbench::CanvasItem& item) const
+void ItemTableModel::describe(Row& row) const
 {
-    const workbench::ItemValues values = item.values();
-    Row row;
-    row.item = &item;
+    const workbench::ItemValues values = row.item->values();
+    row.isRead = true;
     row.title = itemTitle(values);
     row.cells[Kind] = kindName(values.type);
     row.cells[Content] = contentSummary(values);
@@ -147,8 +158,7 @@ ItemTableModel::Row ItemTableModel::describe(workbench::CanvasItem& item) const
     row.cells[Width] = lengthNumber(values.box.size.width(), m_unit);
     row.cells[Height] = lengthNumber(values.box.size.height(), m_unit);
     row.cells[Angle] = angleText(values.box.rotation);
-    row.cells[State] = stateText(item, values);
-    return row;
+    row.cells[State] = stateText(*row.item, values);
 }
 
 void ItemTableModel::readAll()
@@ -162,7 +172,9 @@ void ItemTableModel::readAll()
     m_rows.reserve(items.size());
     for (workbench::CanvasItem* item : items) {
         m_rowOfItem.insert(item->graphicsItem(), static_cast<int>(m_rows.size()));
-        m_rows.append(describe(*item));
+        Row row;
+        row.item = item;
+        m_rows.append(row);
     }
 }
 

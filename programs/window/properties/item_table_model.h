@@ -44,20 +44,22 @@ public:
                                       int role) const override;
 
 private:
-    // The texts of a row, cached: reading an item is too slow for each repaint of a cell.
+    // The texts of a row, cached: reading an item is too slow for each repaint of a cell. Read when
+    // the row is first shown: a label may have thousands of items.
     struct Row
     {
         workbench::CanvasItem* item = nullptr;
+        bool isRead = false;
         QString title;
         QString cells[ColumnCount];
     };
 
-    [[nodiscard]] Row describe(workbench::CanvasItem& item) const;
+    void describe(Row& row) const;
     void readAll();
 
     const workbench::Canvas* m_canvas = nullptr;
     LengthUnit m_unit = LengthUnit::Millimeter;
-    QList<Row> m_rows;
+    mutable QList<Row> m_rows;
     QHash<const QGraphicsItem*, int> m_rowOfItem;
 };
 

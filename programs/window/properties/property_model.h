@@ -6,7 +6,8 @@
 
 namespace window {
 
-/// The properties of one item, as a table of groups, names and values.
+/// The properties of items or of the page, as a table of groups, names and values. The role
+/// EditRole of a value is PropertyRow::current.
 class PropertyModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -23,9 +24,20 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Emits edited(); the rows change when the items have changed.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+    [[nodiscard]] const PropertyRow& rowAt(int row) const { return m_rows.at(row); }
+
+Q_SIGNALS:
+    /// The user has given a property this value.
+    void edited(int property, const QVariant& value);
 
 private:
     [[nodiscard]] QString cell(int row, int column) const;
+    [[nodiscard]] QVariant swatch(const QModelIndex& index) const;
+    [[nodiscard]] QVariant checkState(const QModelIndex& index) const;
 
     QList<PropertyRow> m_rows;
 };

@@ -117,16 +117,40 @@ QString nameIn(const NameRow (&rows)[Size], int code)
                            : QCoreApplication::translate(Context, "unknown (%1)").arg(code);
 }
 
-// The name of the first matching flag of the table.
 template <std::size_t Size>
-QString flagName(const NameRow (&rows)[Size], int flags)
+QList<NamedCode> choicesOf(const NameRow (&rows)[Size])
+{
+    QList<NamedCode> choices;
+    for (const NameRow& row : rows) {
+        choices.append({row.code, translated(row.name)});
+    }
+    return choices;
+}
+
+// The markers whose code has no bits but these.
+QList<NamedCode> markersWithin(int bits)
+{
+    QList<NamedCode> choices = choicesOf(Markers);
+    choices.removeIf([bits](const NamedCode& choice) { return (choice.code & ~bits) != 0; });
+    return choices;
+}
+
+// The first matching flag of the table, else its first flag.
+template <std::size_t Size>
+int firstFlag(const NameRow (&rows)[Size], int flags)
 {
     for (const NameRow& row : rows) {
         if ((flags & row.code) != 0) {
-            return translated(row.name);
+            return row.code;
         }
     }
-    return translated(rows[0].name);
+    return rows[0].code;
+}
+
+template <std::size_t Size>
+QString flagName(const NameRow (&rows)[Size], int flags)
+{
+    return translated(find(rows, firstFlag(rows, flags)));
 }
 
 } // namespace
@@ -188,6 +212,59 @@ QString alignmentName(Qt::Alignment alignment)
 QString fixedSidesName(int limiting)
 {
     return nameIn(FixedSides, limiting);
+}
+
+QList<NamedCode> penStyleChoices()
+{
+    return choicesOf(PenStyles);
+}
+
+QList<NamedCode> capStyleChoices()
+{
+    return choicesOf(Caps);
+}
+
+QList<NamedCode> joinStyleChoices()
+{
+    return choicesOf(Joins);
+}
+
+QList<NamedCode> brushStyleChoices()
+{
+    return choicesOf(Brushes);
+}
+
+QList<NamedCode> startMarkerChoices()
+{
+    return markersWithin(0xF0);
+}
+
+QList<NamedCode> endMarkerChoices()
+{
+    return markersWithin(0x0F);
+}
+
+QList<NamedCode> fixedSidesChoices()
+{
+    return choicesOf(FixedSides);
+}
+
+int alignmentCode(Qt::Alignment alignment)
+{
+    const int flags = static_cast<int>(alignment);
+    return firstFlag(HorizontalSteps, flags) | firstFlag(VerticalSteps, flags);
+}
+
+QList<NamedCode> alignmentChoices()
+{
+    QList<NamedCode> choices;
+    for (const NameRow& down : VerticalSteps) {
+        for (const NameRow& across : HorizontalSteps) {
+            const int code = across.code | down.code;
+            choices.append({code, alignmentName(Qt::Alignment(code))});
+        }
+    }
+    return choices;
 }
 
 } // namespace window

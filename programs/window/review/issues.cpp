@@ -44,13 +44,30 @@ QList<int> existingItems(const QList<int>& items, const workbench::Canvas& canva
     return existing;
 }
 
+// The present indices of imported items, without those that were deleted.
+QList<int> presentItems(const QList<int>& imported, const OpenLabel& label)
+{
+    const QList<workbench::CanvasItem*>& items = label.canvas->items();
+    if (label.importedItems.isEmpty() || label.importedItems == items) {
+        return existingItems(imported, *label.canvas);
+    }
+    QList<int> present;
+    for (const int item : imported) {
+        const qsizetype index = items.indexOf(label.importedItems.value(item));
+        if (index >= 0) {
+            present.append(static_cast<int>(index));
+        }
+    }
+    return present;
+}
+
 QString adviceFor(const QString& code)
 {
     const migration::LossRow* row = migration::lossRowOf(code);
     return row != nullptr ? migration::lossAdvice(row->kind) : QString();
 }
 
-Issue issueOf(const migration::Finding& finding, IssueGroup group, const workbench::Canvas& canvas)
+Issue issueOf(const migration::Finding& finding, IssueGroup group, const OpenLabel& label)
 {
     Issue issue{.group = group,
                 .code = finding.code,
@@ -59,16 +76,23 @@ Issue issueOf(const migration::Finding& finding, IssueGroup group, const workben
                 .count = finding.count,
                 .about = finding.details.join(u", "_s)};
     if (finding.places) {
-        issue.items = existingItems(finding.places->items, canvas);
+        issue.items = presentItems(finding.places->items, label);
         for (const QRectF& box : finding.places->missing) {
             issue.missing.append(
                 QRectF(box.topLeft() * PointsPerMillimeter, box.size() * PointsPerMillimeter));
         }
     }
     if (issue.about.isEmpty()) {
-        issue.about = namesOf(issue.items, canvas);
+        issue.about = namesOf(issue.items, *label.canvas);
     }
     return issue;
+}
+
+// An issue about items that were all deleted since is settled.
+bool isSettled(const migration::Finding& finding, const Issue& issue)
+{
+    return finding.places && !finding.places->items.isEmpty() && issue.items.isEmpty() &&
+           issue.missing.isEmpty();
 }
 
 Issue warningOf(const QString& text, int item, int repeats, const workbench::Canvas& canvas)
@@ -97,12 +121,18 @@ QList<Issue> currentIssues(const OpenLabel& label)
     const QList<workbench::ImportIssue> ofRecord = workbench::collectIssues(canvas, {}, {});
     const QString notEncodable = migration::lossCode(migration::LossKind::BarcodeNotEncodable);
     QList<Issue> issues;
+    const auto add = [&](const migration::Finding& finding, IssueGroup group) {
+        const Issue issue = issueOf(finding, group, label);
+        if (!isSettled(finding, issue)) {
+            issues.append(issue);
+        }
+    };
     for (const migration::Finding& finding : label.report.lost) {
-        issues.append(issueOf(finding, IssueGroup::Lost, canvas));
+        add(finding, IssueGroup::Lost);
     }
     for (const migration::Finding& finding : label.report.changed) {
         if (finding.code != notEncodable) {
-            issues.append(issueOf(finding, IssueGroup::Changed, canvas));
+            add(finding, IssueGroup::Changed);
         }
     }
     for (const workbench::ImportIssue& issue : ofRecord) {
@@ -112,8 +142,11 @@ QList<Issue> currentIssues(const OpenLabel& label)
         problem.advice = adviceFor(notEncodable);
         issues.append(problem);
     }
-    for (const migration::IssueReport& warning : label.report.issues) {
-        if (!isOfRecord(warning, ofRecord)) {
+    for (migration::IssueReport warning : label.report.issues) {
+        const bool hasItem = warning.item >= 0;
+        warning.item = hasItem ? presentItems({warning.item}, label).value(0, -1) : -1;
+        const bool isDeleted = hasItem && warning.item < 0;
+        if (!isDeleted && !isOfRecord(warning, ofRecord)) {
             issues.append(warningOf(warning.text, warning.item, warning.repeats, canvas));
         }
     }

@@ -1,4 +1,4 @@
-#include "window/edit/locks.h"
+#include "window/canvas/locks.h"
 
 #include "window/properties/item_description.h"
 
