@@ -302,8 +302,8 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
 {
     const Actions actions;
     QSet<QString> keys;
-    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::Arrange, MenuId::View, MenuId::Colors,
-                              MenuId::Panels, MenuId::Record, MenuId::Help}) {
+    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::Arrange, MenuId::View,
+                              MenuId::Colors, MenuId::Panels, MenuId::Record, MenuId::Help}) {
         EXPECT_FALSE(menuTitle(menu).isEmpty());
         const QList<QAction*> ofMenu = actions.ofMenu(menu);
         EXPECT_FALSE(ofMenu.isEmpty());
@@ -325,8 +325,8 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
 TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)
 {
     const Actions actions;
-    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::Arrange, MenuId::View, MenuId::Colors,
-                              MenuId::Panels, MenuId::Record, MenuId::Help}) {
+    for (const MenuId menu : {MenuId::File, MenuId::Edit, MenuId::Arrange, MenuId::View,
+                              MenuId::Colors, MenuId::Panels, MenuId::Record, MenuId::Help}) {
         QSet<QString> letters;
         const QList<QAction*> ofMenu = actions.ofMenu(menu);
         for (const QAction* action : ofMenu) {

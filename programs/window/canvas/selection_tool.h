@@ -75,6 +75,9 @@ Q_SIGNALS:
     void hintShown(const QString& text);
 
 private:
+    // Distance within which a drag snaps, in pixels of the view.
+    static constexpr double SnapPixels = 5.0;
+
     enum class Drag : quint8 { None, Pressed, Moving, Selecting, Handling };
 
     void beginDrag(const QPoint& at, bool extends);

@@ -197,9 +197,14 @@ void PropertyDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionV
 bool PropertyDelegate::eventFilter(QObject* editor, QEvent* event)
 {
     auto* text = qobject_cast<QTextEdit*>(editor);
-    if (text != nullptr && event->type() == QEvent::KeyPress) {
+    const bool isShortcut = event->type() == QEvent::ShortcutOverride;
+    if (text != nullptr && (isShortcut || event->type() == QEvent::KeyPress)) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        if (isEnter && isShortcut) {
+            event->accept();
+            return true;
+        }
         if (isEnter && key->modifiers().testFlag(Qt::ControlModifier)) {
             Q_EMIT commitData(text);
             Q_EMIT closeEditor(text);
