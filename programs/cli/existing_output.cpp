@@ -2,6 +2,7 @@
 
 #include "archive/publish.h"
 #include "console/file_name.h"
+#include "exporting/export_file.h"
 #include "workbench/document/label_file.h"
 
 #include <QCoreApplication>
@@ -40,7 +41,7 @@ bool isOurDrawingOrDocument(QByteArray head)
 {
     head.replace('\0', ""); // texts of a document have two bytes for each letter
     return head.contains("<desc>LabelPort</desc>") ||
-           (head.startsWith("%PDF-") && head.contains(SoftwareMark));
+           (head.startsWith("%PDF-") && head.contains(exporting::SoftwareMark));
 }
 
 bool isOurReport(const QByteArray& head)

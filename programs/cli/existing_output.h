@@ -7,9 +7,6 @@
 
 namespace cli {
 
-/// The name of this program in pictures, drawings and documents that it writes.
-inline constexpr const char* SoftwareMark = "LabelPort";
-
 /// Whether an existing file is a picture, drawing or document that this program wrote, or an
 /// imported label that was saved by this program and has not been edited since.
 [[nodiscard]] bool isOurOutput(const QString& fileName);

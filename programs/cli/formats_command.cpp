@@ -1,8 +1,8 @@
 #include "cli/commands.h"
 #include "cli/option_table.h"
-#include "cli/targets.h"
 #include "console/command_line.h"
 #include "console/output.h"
+#include "exporting/targets.h"
 #include "importer/reader_choice.h"
 #include "printing/sheet_json.h"
 #include "printing/sheet_presets.h"
@@ -46,20 +46,64 @@ constexpr std::array Formats{
 };
 static_assert(Formats.size() == Readers.size() + 1);
 
-struct TargetRow
+const char* nameOf(exporting::RecordFiles records)
 {
-    Target target;
-    const char* description;
-};
+    switch (records) {
+    case exporting::RecordFiles::FileForEach:
+        return "file-for-each";
+    case exporting::RecordFiles::OneFile:
+        return "one-file";
+    case exporting::RecordFiles::Always:
+        break;
+    }
+    return "always-all";
+}
 
-constexpr std::array Targets{
-    TargetRow{Target::Png, QT_TRANSLATE_NOOP("cli::FormatsCommand", "picture")},
-    TargetRow{Target::Svg, QT_TRANSLATE_NOOP("cli::FormatsCommand", "vector drawing")},
-    TargetRow{Target::Pdf,
-              QT_TRANSLATE_NOOP("cli::FormatsCommand", "document, a page for each record")},
-    TargetRow{Target::Label,
-              QT_TRANSLATE_NOOP("cli::FormatsCommand", "saved label, to open and edit again")},
-};
+QJsonObject jsonOf(const exporting::TargetOption& option)
+{
+    QJsonObject object{{u"name"_s, QLatin1String(option.name)},
+                       {u"description"_s, QLatin1String(option.description)},
+                       {u"default"_s, option.initial}};
+    switch (option.kind) {
+    case exporting::OptionKind::Number:
+        object.insert(u"type"_s, u"number"_s);
+        object.insert(u"minimum"_s, option.minimum);
+        object.insert(u"maximum"_s, option.maximum);
+        break;
+    case exporting::OptionKind::Choice: {
+        QJsonArray choices;
+        for (const int choice : option.choices) {
+            choices.append(choice);
+        }
+        object.insert(u"type"_s, u"choice"_s);
+        object.insert(u"choices"_s, choices);
+        break;
+    }
+    case exporting::OptionKind::Switch:
+        object.insert(u"type"_s, u"switch"_s);
+        object.insert(u"default"_s, option.initial != 0);
+        break;
+    case exporting::OptionKind::Name:
+        object.insert(u"type"_s, u"name"_s);
+        object.insert(u"names"_s, QJsonArray::fromStringList(option.names()));
+        object.insert(u"default"_s, QString());
+        break;
+    }
+    return object;
+}
+
+QJsonObject jsonOf(const exporting::TargetEntry& entry)
+{
+    QJsonArray options;
+    for (const exporting::TargetOption& option : entry.options) {
+        options.append(jsonOf(option));
+    }
+    return {{u"name"_s, QLatin1String(entry.name)},
+            {u"suffix"_s, QLatin1String(entry.name)},
+            {u"description"_s, QLatin1String(entry.description)},
+            {u"records"_s, QLatin1String(nameOf(entry.records))},
+            {u"options"_s, options}};
+}
 
 QStringList suffixesOf(const Format& format)
 {
@@ -117,9 +161,8 @@ QJsonObject asJson()
                                    {u"versions"_s, QLatin1String(row.versions)}});
     }
     QJsonArray targets;
-    for (const TargetRow& row : Targets) {
-        targets.append(QJsonObject{{u"name"_s, nameOf(row.target)},
-                                   {u"description"_s, QLatin1String(row.description)}});
+    for (const exporting::TargetEntry& entry : exporting::targets()) {
+        targets.append(jsonOf(entry));
     }
     return {{u"readers"_s, readers}, {u"targets"_s, targets}, {u"sheets"_s, sheetsAsJson()}};
 }
@@ -134,8 +177,9 @@ QString asText()
                     .arg(tr(row.description), tr("versions: %1").arg(tr(row.versions)));
     }
     text += u'\n' + tr("Written (import --to):") + u'\n';
-    for (const TargetRow& row : Targets) {
-        text += u"  %1 %2\n"_s.arg(nameOf(row.target), -13).arg(tr(row.description));
+    for (const exporting::TargetEntry& entry : exporting::targets()) {
+        text += u"  %1 %2\n"_s.arg(QLatin1String(entry.name), -13)
+                    .arg(exporting::translated(entry.description));
     }
     return text + u'\n' + sheetsAsText();
 }

@@ -28,8 +28,8 @@ bool isArchive(const ImportOptions& options, const archive::InputList& list)
 archive::RunSettings settingsFor(const ImportOptions& options, const archive::InputList& list)
 {
     archive::RunSettings settings;
-    for (const Target target : options.targets) {
-        settings.targets.append(nameOf(target));
+    for (const exporting::Target target : options.targets) {
+        settings.targets.append(exporting::nameOf(target));
     }
     settings.outputFolder = options.outputDir;
     settings.shard = options.shard;

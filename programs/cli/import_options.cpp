@@ -16,32 +16,75 @@
 
 namespace cli {
 using namespace Qt::StringLiterals;
+using exporting::Target;
 namespace {
 
 void takeTargets(OptionReader& given, ImportOptions& options)
 {
     const QStringList lists = given.isSet("to"_L1) ? given.texts("to"_L1) : QStringList{u"png"_s};
     for (const QString& name : lists.join(u',').split(u',')) {
-        const std::optional<Target> target = targetOfName(name);
+        const std::optional<Target> target = exporting::targetOfName(name);
         if (!target) {
             given.fail(QCoreApplication::translate("cli::ImportOptions",
                                                    "Unknown target \"%1\". Supported targets: %2.")
-                           .arg(name, targetNames().join(u", "_s)) +
-                       console::suggestion(name, targetNames()));
+                           .arg(name, exporting::targetNames().join(u", "_s)) +
+                       console::suggestion(name, exporting::targetNames()));
         } else if (!options.targets.contains(*target)) {
             options.targets.append(*target);
         }
     }
 }
 
-void checkSheet(OptionReader& given, const ImportOptions& options)
+/// The targets that have an option, for a message: "pdf or zpl".
+QString targetsWith(QLatin1String option)
 {
-    const bool isUsed = options.targets.contains(Target::Pdf);
-    for (const QLatin1String name : {"sheet"_L1, "copies"_L1}) {
-        if (given.isSet(name) && !isUsed) {
-            given.fail(QCoreApplication::translate("cli::ImportOptions",
-                                                   "--%1 has no effect without --to pdf.")
-                           .arg(name));
+    QStringList names;
+    for (const exporting::TargetEntry& entry : exporting::targets()) {
+        if (exporting::findOption(entry.target, option) != nullptr) {
+            names.append(QLatin1String(entry.name));
+        }
+    }
+    //: between the last two targets: "pdf or zpl"
+    return names.join(QCoreApplication::translate("cli::ImportOptions", " or "));
+}
+
+/// An option that one of a few numbers is expected for.
+void checkChoice(OptionReader& given, const exporting::TargetEntry& entry,
+                 const exporting::TargetOption& option)
+{
+    const QLatin1String name(option.name);
+    if (!given.isSet(name) || option.accepts(given.text(name).toInt())) {
+        return;
+    }
+    QStringList choices;
+    for (const int choice : option.choices) {
+        choices.append(QString::number(choice));
+    }
+    given.fail(QCoreApplication::translate("cli::ImportOptions",
+                                           "--%1 expects one of %2 for the target %3, not "
+                                           "\"%4\".")
+                   .arg(name, choices.join(u", "_s), QLatin1String(entry.name), given.text(name)));
+}
+
+void checkTargetOptions(OptionReader& given, const ImportOptions& options)
+{
+    for (const exporting::TargetEntry& entry : exporting::targets()) {
+        for (const exporting::TargetOption& option : entry.options) {
+            const QLatin1String name(option.name);
+            const bool isUsed = std::any_of(
+                options.targets.begin(), options.targets.end(), [&](exporting::Target target) {
+                    return exporting::findOption(target, name) != nullptr;
+                });
+            // A resolution may be given for all targets.
+            if (given.isSet(name) && !isUsed && name != exporting::DpiOption) {
+                given.fail(QCoreApplication::translate("cli::ImportOptions",
+                                                       "--%1 has no effect without --to %2.")
+                               .arg(name, targetsWith(name)));
+            }
+            if (option.kind == exporting::OptionKind::Choice &&
+                options.targets.contains(entry.target)) {
+                checkChoice(given, entry, option);
+            }
         }
     }
 }
@@ -73,7 +116,9 @@ void takeReports(OptionReader& given, ImportOptions& options)
 
 void takeNumbers(OptionReader& given, ImportOptions& options)
 {
-    options.job.dpi = given.number("dpi"_L1, MinimumDpi, MaximumDpi, options.job.dpi);
+    const exporting::TargetOption& dpi =
+        *exporting::findOption(exporting::Target::Png, exporting::DpiOption);
+    options.job.dpi = given.number("dpi"_L1, dpi.minimum, dpi.maximum, dpi.initial);
     options.workers = given.number("jobs"_L1, 1, MaximumWorkers,
                                    std::clamp(QThread::idealThreadCount(), 1, MaximumWorkers));
     options.limits = takeLimits(given);
@@ -125,7 +170,7 @@ ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
     takeTargets(given, options);
     takeRecords(given, u"1"_s, options.job);
     takeSheet(given, options.job);
-    checkSheet(given, options);
+    checkTargetOptions(given, options);
     takeNumbers(given, options);
     takeReader(given, options.job);
     checkInputs(given, options);

@@ -3,7 +3,7 @@
 #include "archive/shard.h"
 #include "archive/worker_end.h"
 #include "cli/job_options.h"
-#include "cli/targets.h"
+#include "exporting/targets.h"
 
 #include <QList>
 #include <QString>
@@ -23,8 +23,8 @@ struct ImportOptions
     QString filesFrom;            ///< list of further files; "-" is standard input; empty for none
     bool isNullSeparated = false; ///< names of that list end with NUL
     QString base;                 ///< named files below it keep their subfolders; empty for none
-    QList<Target> targets;        ///< in the order given, each once
-    QString outputDir;            ///< the current folder when it was not given
+    QList<exporting::Target> targets; ///< in the order given, each once
+    QString outputDir;                ///< the current folder when it was not given
     JobOptions job;
     int workers = 1;
     archive::WorkerLimits limits;
@@ -36,9 +36,6 @@ struct ImportOptions
     bool failOnLoss = false;
 };
 
-/// Range of --dpi.
-inline constexpr int MinimumDpi = 10;
-inline constexpr int MaximumDpi = 2400;
 inline constexpr int MaximumWorkers = 1024;
 inline constexpr int MaximumTimeout = 1'000'000;
 /// MiB. A worker needs the minimum to start.

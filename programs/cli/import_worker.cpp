@@ -34,7 +34,7 @@ void writeAll(OpenedLabel& label, const archive::Job& job, const JobOptions& opt
 {
     LabelWriter writer(label, {options, job.known}, job.staging, heartbeat);
     for (const archive::PlannedFile& output : job.outputs) {
-        const std::optional<Target> target = targetOfName(output.target);
+        const std::optional<exporting::Target> target = exporting::targetOfName(output.target);
         if (target) {
             Written written = writer.write(*target, output.path);
             result.files += written.files;

@@ -42,13 +42,6 @@ LabelInput::LabelInput(const QString& file, const QString& name, std::optional<R
     , m_reader(reader ? reader : selectedReader(name, m_reachable.path()))
 {}
 
-void OpenedLabel::showRecord(qint64 record)
-{
-    canvas->showRecord(record, [this](int id, qint64 wanted, const QStringList& fields) {
-        return datasources->recordText(id, wanted, fields);
-    });
-}
-
 OpenedLabel openLabel(const LabelInput& input)
 {
     return input.reader() ? OpenedLabel{workbench::importLabel(input.path(), *input.reader())}

@@ -34,8 +34,6 @@ private:
 struct OpenedLabel : workbench::ImportResult
 {
     [[nodiscard]] bool isOpen() const { return isImported(); }
-    /// Shows a record on the canvas, counted from 0.
-    void showRecord(qint64 record);
 };
 
 /// Opens the label; error says why that failed.

@@ -3,10 +3,9 @@
 #include "archive/publish.h"
 #include "cli/existing_output.h"
 #include "cli/label_input.h"
+#include "exporting/export_file.h"
 #include "printing/sheet_presets.h"
 #include "workbench/document/label_file.h"
-#include "workbench/rendering/page_export.h"
-#include "workbench/rendering/page_image.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,31 +36,13 @@ QString titleOf(const QString& output)
     return QFileInfo(output).completeBaseName();
 }
 
-QString writePicture(const workbench::Canvas& canvas, const QString& output, int dpi)
+exporting::OptionValues exportOptions(const JobOptions& options)
 {
-    workbench::PageImage page = workbench::renderPage(canvas, dpi);
-    if (!page.error.isEmpty()) {
-        return page.error;
-    }
-    // Identifies our outputs.
-    // no translation: a keyword of PNG
-    page.image.setText(u"Software"_s, QLatin1String(SoftwareMark));
-    return workbench::writePng(page.image, output);
-}
-
-QString writeOne(const OpenedLabel& label, Target target, const QString& output,
-                 const QString& title, int dpi)
-{
-    switch (target) {
-    case Target::Png:
-        return writePicture(*label.canvas, output, dpi);
-    case Target::Svg:
-        return workbench::writeSvg(*label.canvas, output, title);
-    case Target::Label: // all records in one file, see LabelWriter::write()
-    case Target::Pdf:
-        break;
-    }
-    return {};
+    return {{exporting::DpiOption, options.dpi},
+            {exporting::SheetOption, options.sheet},
+            {exporting::FirstPositionOption, options.firstPosition + 1},
+            {exporting::CopiesOption, options.copies},
+            {exporting::CropMarksOption, options.cropMarks}};
 }
 
 } // namespace
@@ -115,10 +96,10 @@ LabelWriter::LabelWriter(OpenedLabel& label, WriteOptions options, const QString
     , m_heartbeat(std::move(heartbeat))
 {}
 
-Written LabelWriter::write(Target target, const QString& output)
+Written LabelWriter::write(exporting::Target target, const QString& output)
 {
-    if (target == Target::Label) {
-        // Contains all records, whatever --records selects.
+    const exporting::RecordFiles files = exporting::entryOf(target).records;
+    if (files == exporting::RecordFiles::Always) {
         return writeFile(output, [&](const QString& file) {
             return workbench::document::saveLabel(file, *m_label.canvas, *m_label.datasources,
                                                   workbench::document::Origin::Import, m_heartbeat);
@@ -128,8 +109,9 @@ Written LabelWriter::write(Target target, const QString& output)
     if (!records.error.isEmpty()) {
         return {{}, records.error};
     }
-    return target == Target::Pdf ? writeDocument(output, records.first, records.count)
-                                 : writeSeries(target, output, records.first, records.count);
+    return files == exporting::RecordFiles::OneFile
+               ? writeRecords(target, output, records.first, records.count, titleOf(output))
+               : writeSeries(target, output, records.first, records.count);
 }
 
 Written LabelWriter::writeFile(const QString& output, const Write& write)
@@ -155,34 +137,28 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
     return {{{staged, stamp, mayReplace}}, {}};
 }
 
-Written LabelWriter::writeDocument(const QString& output, qint64 first, qint64 count)
+Written LabelWriter::writeRecords(exporting::Target target, const QString& output, qint64 first,
+                                  qint64 count, const QString& title)
 {
-    const workbench::Canvas& canvas = *m_label.canvas;
-    const printing::PrintLayout layout = layoutFor(m_options.job, canvas);
-    const QString problem = layoutProblem(layout, canvas, count);
-    if (!problem.isEmpty()) {
-        return {{}, problem};
-    }
-    const auto show = [&](qint64 record) {
-        m_label.showRecord(first + record);
+    const auto beforeRecord = [this](qint64) {
         m_heartbeat();
-        return &canvas;
+        return true;
     };
     return writeFile(output, [&](const QString& file) {
-        return printing::writePrintDocument(file, titleOf(output), layout,
-                                            {count, canvas.page().size, show});
+        return exporting::exportFile(target,
+                                     {*m_label.canvas, *m_label.datasources, first, count, title,
+                                      exportOptions(m_options.job), beforeRecord},
+                                     file);
     });
 }
 
-Written LabelWriter::writeSeries(Target target, const QString& output, qint64 first, qint64 count)
+Written LabelWriter::writeSeries(exporting::Target target, const QString& output, qint64 first,
+                                 qint64 count)
 {
     Written all;
     for (qint64 record = first; record < first + count && all.error.isEmpty(); ++record) {
-        m_label.showRecord(record);
         const QString name = count > 1 ? numbered(output, record) : output;
-        Written one = writeFile(name, [&](const QString& file) {
-            return writeOne(m_label, target, file, titleOf(output), m_options.job.dpi);
-        });
+        Written one = writeRecords(target, name, record, 1, titleOf(output));
         all.files += one.files;
         all.error = one.error;
     }

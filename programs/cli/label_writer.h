@@ -3,8 +3,8 @@
 #include "archive/messages.h"
 #include "archive/worker_loop.h"
 #include "cli/job_options.h"
-#include "cli/targets.h"
 #include "console/file_name.h"
+#include "exporting/targets.h"
 #include "printing/print_document.h"
 
 #include <QList>
@@ -60,14 +60,15 @@ public:
 
     /// @param output final path of the file; the files of a series of pictures
     ///        or drawings carry the record's number before the suffix, "asset-0007.png"
-    [[nodiscard]] Written write(Target target, const QString& output);
+    [[nodiscard]] Written write(exporting::Target target, const QString& output);
 
 private:
     using Write = std::function<QString(const QString& file)>;
 
     [[nodiscard]] Written writeFile(const QString& output, const Write& write);
-    [[nodiscard]] Written writeDocument(const QString& output, qint64 first, qint64 count);
-    [[nodiscard]] Written writeSeries(Target target, const QString& output, qint64 first,
+    [[nodiscard]] Written writeRecords(exporting::Target target, const QString& output,
+                                       qint64 first, qint64 count, const QString& title);
+    [[nodiscard]] Written writeSeries(exporting::Target target, const QString& output, qint64 first,
                                       qint64 count);
 
     OpenedLabel& m_label;

@@ -92,7 +92,7 @@ private:
             job.shownName = u"stdin"_s;
         }
         job.staging = newFolder();
-        job.outputs = {{nameOf(Target::Label), QDir(job.staging).filePath(u"saved.label"_s)}};
+        job.outputs = {{exporting::nameOf(exporting::Target::Label), QDir(job.staging).filePath(u"saved.label"_s)}};
         JobOptions options;
         options.reader = m_options.job.reader;
         job.options = outputOptions(options);

@@ -101,7 +101,8 @@ private:
             return nullptr;
         }
         const Part& part = m_parts.at(m_open);
-        m_label.showRecord(part.records.first + number - part.start);
+        exporting::showRecord(*m_label.canvas, *m_label.datasources,
+                              part.records.first + number - part.start);
         return m_label.canvas.get();
     }
 

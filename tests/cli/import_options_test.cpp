@@ -1,9 +1,12 @@
 // The arguments of `labelport import`.
 
 #include "cli/import_options.h"
+#include "cli/option_table.h"
 #include "tests/cli/program_fixture.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace {
 using namespace Qt::StringLiterals;
@@ -37,7 +40,7 @@ TEST(ImportOptions, HaveDefaults)
 {
     const cli::ImportOptions options = accepted("a.odg");
     EXPECT_EQ(options.files, QStringList{u"a.odg"_s});
-    EXPECT_EQ(options.targets, QList<cli::Target>{cli::Target::Png});
+    EXPECT_EQ(options.targets, QList<exporting::Target>{exporting::Target::Png});
     EXPECT_EQ(options.job.records.first, 1);
     EXPECT_EQ(options.job.dpi, 300);
     EXPECT_EQ(options.outputDir, u"."_s);
@@ -62,8 +65,8 @@ TEST(ImportOptions, TakeWhatFollowsTwoDashesAsFiles)
 TEST(ImportOptions, TakeSeveralTargetsEachOnce)
 {
     EXPECT_EQ(accepted("a.odg --to label,png,svg,pdf,png").targets,
-              (QList<cli::Target>{cli::Target::Label, cli::Target::Png, cli::Target::Svg,
-                                  cli::Target::Pdf}));
+              (QList<exporting::Target>{exporting::Target::Label, exporting::Target::Png,
+                                        exporting::Target::Svg, exporting::Target::Pdf}));
 }
 
 TEST(ImportOptions, TakeARangeOfRecords)
@@ -91,12 +94,37 @@ TEST(ImportOptions, RefuseAnUnknownOption)
 
 TEST(ImportOptions, BoundTheResolution)
 {
-    EXPECT_EQ(accepted("a.odg --dpi 10").job.dpi, 10);
-    EXPECT_EQ(accepted("a.odg --dpi 2400").job.dpi, 2400);
+    for (const int dpi : {10, 2400}) {
+        const std::string line = "a.odg --dpi " + std::to_string(dpi);
+        EXPECT_EQ(accepted(line.c_str()).job.dpi, dpi);
+    }
     for (const char* wrong : {"9", "2401", "0", "-300", "1e3", "300.0", "many", "99999999999"}) {
         SCOPED_TRACE(wrong);
         EXPECT_TRUE(refusal(("a.odg --dpi=" + std::string(wrong)).c_str())
                         .startsWith(u"--dpi expects a whole number"_s));
+    }
+}
+
+// The help and the completion are constants; the table of targets is what the parser accepts.
+TEST(ImportOptions, NameEveryTargetAndItsOptions)
+{
+    const cli::Command& command = cli::commandOf("import");
+    const auto optionOf = [&command](QLatin1String name) {
+        const auto found = std::find_if(
+            command.options.begin(), command.options.end(),
+            [&](const cli::Option& option) { return QLatin1String(option.name) == name; });
+        return found != command.options.end() ? &*found : nullptr;
+    };
+    const cli::Option* to = optionOf("to"_L1);
+    ASSERT_NE(to, nullptr);
+    EXPECT_EQ(QLatin1String(to->words), exporting::targetNames().join(u' '));
+    EXPECT_TRUE(QLatin1String(to->help).contains(exporting::targetNames().join(u", "_s)));
+    for (const exporting::TargetEntry& entry : exporting::targets()) {
+        for (const exporting::TargetOption& option : entry.options) {
+            const cli::Option* offered = optionOf(QLatin1String(option.name));
+            ASSERT_NE(offered, nullptr) << option.name;
+            EXPECT_EQ(offered->value == nullptr, option.kind == exporting::OptionKind::Switch);
+        }
     }
 }
 

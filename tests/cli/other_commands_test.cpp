@@ -1,5 +1,6 @@
 // `labelport inspect`, `formats` and `report`, from the outside.
 
+#include "exporting/targets.h"
 #include "tests/cli/program_fixture.h"
 
 #include <QJsonArray>
@@ -116,7 +117,18 @@ TEST_F(OtherCommands, FormatsAreListed)
     const QJsonObject json =
         QJsonDocument::fromJson(labelport(words("formats --json")).out.toUtf8()).object();
     EXPECT_EQ(json.value("readers"_L1).toArray().size(), 4);
-    EXPECT_EQ(json.value("targets"_L1).toArray().size(), 4);
+    const QJsonArray targets = json.value("targets"_L1).toArray();
+    ASSERT_EQ(targets.size(), exporting::targetNames().size());
+    const QJsonObject png = targets.first().toObject();
+    EXPECT_EQ(png.value("name"_L1).toString(), u"png"_s);
+    EXPECT_EQ(png.value("suffix"_L1).toString(), u"png"_s);
+    EXPECT_EQ(png.value("records"_L1).toString(), u"file-for-each"_s);
+    const QJsonObject dpi = png.value("options"_L1).toArray().first().toObject();
+    EXPECT_EQ(dpi.value("name"_L1).toString(), u"dpi"_s);
+    EXPECT_EQ(dpi.value("type"_L1).toString(), u"number"_s);
+    EXPECT_EQ(dpi.value("minimum"_L1).toInt(), 10);
+    EXPECT_EQ(dpi.value("maximum"_L1).toInt(), 2400);
+    EXPECT_EQ(dpi.value("default"_L1).toInt(), 300);
     EXPECT_GE(json.value("sheets"_L1).toArray().size(), 30);
 }
 

@@ -20,6 +20,7 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QSvgRenderer>
 
 #include <cmath>
@@ -31,10 +32,10 @@ namespace {
 class OutputTest : public WindowFixture
 {
 protected:
-    [[nodiscard]] OutputOrder orderOf(OutputFormat format, const QString& name,
+    [[nodiscard]] OutputOrder orderOf(exporting::Target target, const QString& name,
                                       const RecordRange& records = {}) const
     {
-        return {format, path(name), 150, records};
+        return {target, path(name), {{exporting::DpiOption, 150}}, records};
     }
 
     [[nodiscard]] QByteArray contentOf(const QString& name) const
@@ -77,7 +78,7 @@ qsizetype pagesOf(const QByteArray& pdf)
 TEST_F(OutputTest, APictureHasThePagesPixels)
 {
     const OutputReport report =
-        writeOutput(label, orderOf(OutputFormat::Png, QStringLiteral("a.png")), goOn);
+        writeOutput(label, orderOf(exporting::Target::Png, QStringLiteral("a.png")), goOn);
     EXPECT_EQ(report.error, QString());
     EXPECT_EQ(report.files, 1);
     EXPECT_EQ(QImageReader(path(QStringLiteral("a.png"))).size(), QSize(525, 263));
@@ -86,7 +87,7 @@ TEST_F(OutputTest, APictureHasThePagesPixels)
 TEST_F(OutputTest, ADrawingHasTheTrueSizeAndTextAsText)
 {
     const OutputReport report =
-        writeOutput(label, orderOf(OutputFormat::Svg, QStringLiteral("a.svg")), goOn);
+        writeOutput(label, orderOf(exporting::Target::Svg, QStringLiteral("a.svg")), goOn);
     EXPECT_EQ(report.error, QString());
     const QByteArray svg = contentOf(QStringLiteral("a.svg"));
     EXPECT_TRUE(svg.contains("width=\"88.9mm\" height=\"44.45mm\"")) << svg.left(300).toStdString();
@@ -126,7 +127,7 @@ TEST_F(OutputTest, ADrawingShowsWhatThePictureShows)
 TEST_F(OutputTest, ADocumentHasAPageForEachRecord)
 {
     const OutputReport report =
-        writeOutput(label, orderOf(OutputFormat::Pdf, QStringLiteral("a.pdf"), {1, 4}), goOn);
+        writeOutput(label, orderOf(exporting::Target::Pdf, QStringLiteral("a.pdf"), {1, 4}), goOn);
     EXPECT_EQ(report.error, QString());
     EXPECT_EQ(report.files, 1);
     const QByteArray pdf = contentOf(QStringLiteral("a.pdf"));
@@ -138,7 +139,7 @@ TEST_F(OutputTest, ADocumentHasAPageForEachRecord)
 
 TEST_F(OutputTest, ASeriesOfPicturesIsNumberedByRecord)
 {
-    const OutputOrder order = orderOf(OutputFormat::Svg, QStringLiteral("a.svg"), {1, 3});
+    const OutputOrder order = orderOf(exporting::Target::Svg, QStringLiteral("a.svg"), {1, 3});
     const OutputReport report = writeOutput(label, order, goOn);
     EXPECT_EQ(report.files, 3);
     EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.svg"))));
@@ -148,7 +149,8 @@ TEST_F(OutputTest, ASeriesOfPicturesIsNumberedByRecord)
 
 TEST_F(OutputTest, NamesInASeriesSortAsTheyCount)
 {
-    const OutputOrder order{OutputFormat::Png, QStringLiteral("/x/label.v2.png"), 300, {0, 10'000}};
+    const OutputOrder order{
+        exporting::Target::Png, QStringLiteral("/x/label.v2.png"), {}, {0, 10'000}};
     EXPECT_EQ(fileNameInSeries(order, 0), QStringLiteral("/x/label.v2-00001.png"));
     EXPECT_EQ(fileNameInSeries(order, 9'999), QStringLiteral("/x/label.v2-10000.png"));
 }
@@ -156,13 +158,13 @@ TEST_F(OutputTest, NamesInASeriesSortAsTheyCount)
 TEST_F(OutputTest, WorkCanBeStopped)
 {
     const Progress stopAtTwo = [](qint64 done) { return done < 2; };
-    OutputReport report =
-        writeOutput(label, orderOf(OutputFormat::Png, QStringLiteral("a.png"), {0, 5}), stopAtTwo);
+    OutputReport report = writeOutput(
+        label, orderOf(exporting::Target::Png, QStringLiteral("a.png"), {0, 5}), stopAtTwo);
     EXPECT_TRUE(report.wasStopped);
     EXPECT_EQ(report.files, 2);
 
-    report =
-        writeOutput(label, orderOf(OutputFormat::Pdf, QStringLiteral("a.pdf"), {0, 5}), stopAtTwo);
+    report = writeOutput(label, orderOf(exporting::Target::Pdf, QStringLiteral("a.pdf"), {0, 5}),
+                         stopAtTwo);
     EXPECT_TRUE(report.wasStopped);
     EXPECT_EQ(report.error, QString());
     EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.pdf")))) << "half a document is none";
@@ -170,9 +172,10 @@ TEST_F(OutputTest, WorkCanBeStopped)
 
 TEST_F(OutputTest, WhatCannotBeWrittenIsTold)
 {
-    for (const OutputFormat format : {OutputFormat::Png, OutputFormat::Svg, OutputFormat::Pdf}) {
+    for (const exporting::Target target :
+         {exporting::Target::Png, exporting::Target::Svg, exporting::Target::Pdf}) {
         const OutputReport report =
-            writeOutput(label, orderOf(format, QStringLiteral("no folder/a.x")), goOn);
+            writeOutput(label, orderOf(target, QStringLiteral("no folder/a.x")), goOn);
         EXPECT_TRUE(report.error.contains(QStringLiteral("no folder")))
             << report.error.toStdString();
         EXPECT_EQ(report.files, 0);
@@ -183,10 +186,10 @@ TEST_F(OutputTest, APageThatIsTooLargeIsTold)
 {
     label.canvas->importCanvasParameters(20'000.0, 100.0, false, false);
     const OutputReport pdf =
-        writeOutput(label, orderOf(OutputFormat::Pdf, QStringLiteral("a.pdf")), goOn);
+        writeOutput(label, orderOf(exporting::Target::Pdf, QStringLiteral("a.pdf")), goOn);
     EXPECT_FALSE(pdf.error.isEmpty());
-    OutputOrder order = orderOf(OutputFormat::Png, QStringLiteral("a.png"));
-    order.dpi = 2400;
+    OutputOrder order = orderOf(exporting::Target::Png, QStringLiteral("a.png"));
+    order.options.insert(exporting::DpiOption, 2400);
     EXPECT_FALSE(writeOutput(label, order, goOn).error.isEmpty());
 }
 
@@ -217,12 +220,58 @@ TEST_F(OutputTest, TheDialogsFileFollowsTheFormat)
 {
     ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
     EXPECT_EQ(dialog.order().fileName, path(QStringLiteral("shelf.png")));
-    dialog.setFormat(OutputFormat::Pdf);
+    dialog.setTarget(exporting::Target::Pdf);
     EXPECT_EQ(dialog.order().fileName, path(QStringLiteral("shelf.pdf")));
-    EXPECT_EQ(dialog.order().format, OutputFormat::Pdf);
+    EXPECT_EQ(dialog.order().target, exporting::Target::Pdf);
     dialog.setFileName(QString());
-    dialog.setFormat(OutputFormat::Svg);
+    dialog.setTarget(exporting::Target::Svg);
     EXPECT_EQ(dialog.order().fileName, QString());
+}
+
+// The dialog is built from the table of targets that the command line has, too.
+TEST_F(OutputTest, TheDialogOffersEveryTargetWithItsOptions)
+{
+    ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
+    dialog.show();
+    for (const exporting::TargetEntry& entry : exporting::targets()) {
+        SCOPED_TRACE(entry.name);
+        dialog.setTarget(entry.target);
+        if (entry.records == exporting::RecordFiles::Always) {
+            EXPECT_NE(dialog.order().target, entry.target) << "labels are saved, not exported";
+            continue;
+        }
+        EXPECT_EQ(dialog.order().target, entry.target);
+        EXPECT_EQ(dialog.order().options.size(), static_cast<qsizetype>(entry.options.size()));
+        for (const exporting::TargetOption& option : entry.options) {
+            const QLatin1String name(option.name);
+            if (option.kind == exporting::OptionKind::Name) {
+                EXPECT_EQ(dialog.order().options.value(name).toString(), QString());
+                dialog.setOption(name, 1);
+                EXPECT_EQ(dialog.order().options.value(name).toString(), option.names().first());
+                continue;
+            }
+            const auto value = [&] {
+                return exporting::valueOf(dialog.order().options, entry.target, name);
+            };
+            EXPECT_EQ(value(), option.initial) << option.name;
+            const int other = option.kind == exporting::OptionKind::Number   ? option.minimum
+                              : option.kind == exporting::OptionKind::Choice ? option.choices.back()
+                                                                             : 1;
+            dialog.setOption(name, other);
+            EXPECT_EQ(value(), other) << option.name;
+        }
+    }
+}
+
+TEST_F(OutputTest, TheDialogShowsOnlyTheOptionsOfItsTarget)
+{
+    ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
+    dialog.show();
+    const auto* dpi = dialog.findChild<QSpinBox*>(QStringLiteral("dpi"));
+    ASSERT_NE(dpi, nullptr);
+    EXPECT_TRUE(dpi->isVisible());
+    dialog.setTarget(exporting::Target::Svg);
+    EXPECT_FALSE(dpi->isVisible());
 }
 
 TEST_F(OutputTest, RecordsAreTheOneShownOrARun)
@@ -254,7 +303,7 @@ TEST_F(OutputTest, ExportAsksBeforeItReplacesAndTellsWhatItWrote)
     const QString file = path(QStringLiteral("a.svg"));
     const auto fillIn = [&file](QDialog& dialog) {
         auto& exporting = dynamic_cast<ExportDialog&>(dialog);
-        exporting.setFormat(OutputFormat::Svg);
+        exporting.setTarget(exporting::Target::Svg);
         exporting.setFileName(file);
         exporting.accept();
     };
@@ -277,14 +326,15 @@ TEST_F(OutputTest, AfterASeriesTheLabelShowsItsRecordAgain)
     QWidget window;
     dialogs.expect([this](QDialog& dialog) {
         auto& exporting = dynamic_cast<ExportDialog&>(dialog);
-        exporting.setFormat(OutputFormat::Pdf);
+        exporting.setTarget(exporting::Target::Pdf);
         exporting.setFileName(path(QStringLiteral("a.pdf")));
         exporting.records().chooseRun(1, 5);
         exporting.accept();
     });
     EXPECT_FALSE(exportLabel(label, 1, Prompts(&window), &window).isEmpty());
     ASSERT_EQ(
-        writeOutput(label, orderOf(OutputFormat::Svg, QStringLiteral("x.svg"), {1, 1}), goOn).files,
+        writeOutput(label, orderOf(exporting::Target::Svg, QStringLiteral("x.svg"), {1, 1}), goOn)
+            .files,
         1);
     EXPECT_TRUE(contentOf(QStringLiteral("x.svg")).contains("No. 2"));
 }

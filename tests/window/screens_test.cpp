@@ -140,7 +140,7 @@ TEST_F(ScreensTest, ExportDialogs)
     ExportDialog dialog(path(QStringLiteral("shelf")), 50, 6, nullptr);
     dialog.show();
     keepPicture(dialog, QStringLiteral("export"));
-    dialog.setFormat(OutputFormat::Svg);
+    dialog.setTarget(exporting::Target::Svg);
     dialog.records().chooseRun(1, 50);
     keepPicture(dialog, QStringLiteral("export_series"));
     EXPECT_GT(colorsOf(dialog), 4);

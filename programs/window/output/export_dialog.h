@@ -4,17 +4,19 @@
 
 #include <QDialog>
 
+#include <vector>
+
 class QComboBox;
 class QLabel;
+class QFormLayout;
 class QLineEdit;
 class QPushButton;
-class QSpinBox;
 
 namespace window {
 
 class RecordChooser;
 
-/// Asks what to export: the format, the file, the resolution of pictures, the records.
+/// Asks what to export: the target, the file, the options of the target, the records.
 class ExportDialog final : public QDialog
 {
     Q_OBJECT
@@ -29,26 +31,37 @@ public:
     [[nodiscard]] OutputOrder order() const;
 
     // The fields of the dialog, for tests and callers that fill them in.
-    void setFormat(OutputFormat format);
+    void setTarget(exporting::Target target);
     void setFileName(const QString& fileName);
-    void setDpi(int dpi);
+    /// Sets an option of the current target; one that it does not have is ignored.
+    void setOption(QLatin1String name, int value);
     [[nodiscard]] RecordChooser& records() { return *m_records; }
 
     void accept() override;
 
 private:
+    /// A field of the form for one option of a target.
+    struct OptionField
+    {
+        const exporting::TargetOption* option;
+        QWidget* editor;
+    };
+
     void buildForm();
-    void followFormat();
+    void addOptionFields(QFormLayout& form);
+    [[nodiscard]] QWidget* makeEditor(const exporting::TargetOption& option);
+    void followTarget();
     void browse();
     void followInput();
-    [[nodiscard]] OutputFormat format() const;
+    [[nodiscard]] exporting::Target target() const;
     [[nodiscard]] bool mayReplaceExisting();
     [[nodiscard]] bool askReplace(const QString& fileName);
 
-    QComboBox* m_format;
+    QComboBox* m_target;
     QLineEdit* m_fileName;
     QPushButton* m_browse;
-    QSpinBox* m_dpi;
+    QFormLayout* m_form;
+    std::vector<OptionField> m_options;
     RecordChooser* m_records;
     QLabel* m_note;
     QPushButton* m_export = nullptr;

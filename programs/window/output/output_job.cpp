@@ -1,7 +1,7 @@
 #include "window/output/output_job.h"
 
+#include "exporting/export_file.h"
 #include "workbench/rendering/page_export.h"
-#include "workbench/rendering/page_image.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -23,34 +23,42 @@ QString titleOf(const OpenLabel& label)
     return QFileInfo(displayName(label)).completeBaseName();
 }
 
-QString writeRecord(const OpenLabel& label, const OutputOrder& order, const QString& fileName)
+// Writes one file with some of the records.
+OutputReport writeFile(OpenLabel& label, const OutputOrder& order, const QString& fileName,
+                       const RecordRange& records, const Progress& progress)
 {
-    if (order.format == OutputFormat::Svg) {
-        return workbench::writeSvg(*label.canvas, fileName, titleOf(label));
-    }
-    const workbench::PageImage page = workbench::renderPage(*label.canvas, order.dpi);
-    return page.error.isEmpty() ? workbench::writePng(page.image, fileName) : page.error;
+    OutputReport report;
+    const auto beforeRecord = [&](qint64 done) {
+        report.wasStopped = !progress(done);
+        return !report.wasStopped;
+    };
+    report.error =
+        exporting::exportFile(order.target,
+                              {*label.canvas, *label.sources, records.first, records.count,
+                               titleOf(label), order.options, beforeRecord},
+                              fileName);
+    report.files = report.error.isEmpty() && !report.wasStopped ? 1 : 0;
+    return report;
 }
 
 OutputReport writeSeries(OpenLabel& label, const OutputOrder& order, const Progress& progress)
 {
     OutputReport report;
     for (qint64 position = 0; position < order.records.count; ++position) {
-        if (!progress(position)) {
-            report.wasStopped = true;
+        const OutputReport one = writeFile(label, order, fileNameInSeries(order, position),
+                                           {order.records.first + position, 1},
+                                           [&](qint64) { return progress(position); });
+        report.files += one.files;
+        report.wasStopped = one.wasStopped;
+        report.error = one.error;
+        if (one.files == 0) {
             return report;
         }
-        showRecord(label, order.records.first + position);
-        report.error = writeRecord(label, order, fileNameInSeries(order, position));
-        if (!report.error.isEmpty()) {
-            return report;
-        }
-        ++report.files;
     }
     return report;
 }
 
-// Reports the progress of one document's pages.
+// Reports the progress of printed pages.
 class Pages
 {
 public:
@@ -79,31 +87,11 @@ private:
     bool m_wasStopped = false;
 };
 
-OutputReport writeDocument(OpenLabel& label, const OutputOrder& order, const Progress& progress)
-{
-    Pages pages(label, order.records, progress);
-    OutputReport report;
-    report.error =
-        workbench::writePdf(*label.canvas, order.fileName, titleOf(label), order.records.count,
-                            [&pages](qint64 page) { return pages.prepare(page); });
-    report.wasStopped = pages.wasStopped();
-    report.files = report.error.isEmpty() && !report.wasStopped ? 1 : 0;
-    return report;
-}
-
 } // namespace
 
-QString suffixOf(OutputFormat format)
+bool writesOneFile(const OutputOrder& order)
 {
-    switch (format) {
-    case OutputFormat::Svg:
-        return u"svg"_s;
-    case OutputFormat::Pdf:
-        return u"pdf"_s;
-    case OutputFormat::Png:
-        break;
-    }
-    return u"png"_s;
+    return exporting::entryOf(order.target).records != exporting::RecordFiles::FileForEach;
 }
 
 QString fileNameInSeries(const OutputOrder& order, qint64 position)
@@ -122,8 +110,8 @@ QString fileNameInSeries(const OutputOrder& order, qint64 position)
 
 OutputReport writeOutput(OpenLabel& label, const OutputOrder& order, const Progress& progress)
 {
-    return order.format == OutputFormat::Pdf ? writeDocument(label, order, progress)
-                                             : writeSeries(label, order, progress);
+    return writesOneFile(order) ? writeFile(label, order, order.fileName, order.records, progress)
+                                : writeSeries(label, order, progress);
 }
 
 OutputReport printOutput(OpenLabel& label, QPagedPaintDevice& printer, const RecordRange& records,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exporting/targets.h"
 #include "window/label/open_label.h"
 
 #include <QString>
@@ -21,14 +22,12 @@ struct RecordRange
     qint64 count = 1;
 };
 
-enum class OutputFormat : quint8 { Png, Svg, Pdf };
-
 /// The content and the target of an export.
 struct OutputOrder
 {
-    OutputFormat format = OutputFormat::Png;
-    QString fileName; ///< of a single file, or the common prefix of several
-    int dpi = 300;    ///< of pictures, in dots per inch
+    exporting::Target target = exporting::Target::Png;
+    QString fileName;                ///< of a single file, or the common prefix of several
+    exporting::OptionValues options; ///< of the target
     RecordRange records;
 };
 
@@ -43,14 +42,15 @@ struct OutputReport
 /// Called before each record with the number of finished ones; return false to cancel.
 using Progress = std::function<bool(qint64 done)>;
 
-[[nodiscard]] QString suffixOf(OutputFormat format);
+/// Whether all selected records go into one file.
+[[nodiscard]] bool writesOneFile(const OutputOrder& order);
 
 /// The file of a record in a series of pictures or drawings: "name-007.png" for the seventh
 /// of up to 999. A single record has the name unchanged.
 [[nodiscard]] QString fileNameInSeries(const OutputOrder& order, qint64 position);
 
-/// Writes the files. PDF puts all records into one document. Afterwards the label shows the
-/// last written record; the caller restores the shown one.
+/// Writes the files. Afterwards the label shows the last written record; the caller restores the
+/// shown one.
 [[nodiscard]] OutputReport writeOutput(OpenLabel& label, const OutputOrder& order,
                                        const Progress& progress);
 
