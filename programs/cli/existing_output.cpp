@@ -44,6 +44,11 @@ bool isOurDrawingOrDocument(QByteArray head)
            (head.startsWith("%PDF-") && head.contains(exporting::SoftwareMark));
 }
 
+bool isOurPrinterFile(const QByteArray& head)
+{
+    return head.startsWith("^XA^FX" + QByteArray(exporting::SoftwareMark) + "^FS");
+}
+
 bool isOurReport(const QByteArray& head)
 {
     return head.contains("\"labelport-report\"") ||
@@ -63,7 +68,8 @@ bool isOurOutput(const QString& fileName)
         return workbench::document::isUneditedImport(reachable.path());
     }
     const QByteArray head = headOf(fileName);
-    return suffix == "png"_L1 ? isOurPicture(head) : isOurDrawingOrDocument(head);
+    // The content decides: --output may give any name.
+    return isOurPicture(head) || isOurDrawingOrDocument(head) || isOurPrinterFile(head);
 }
 
 bool mayOverwrite(const QString& fileName, const QList<archive::FileStamp>& known)

@@ -170,6 +170,7 @@ ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
     takeTargets(given, options);
     takeRecords(given, u"1"_s, options.job);
     takeSheet(given, options.job);
+    options.job.zplNative = given.isSet(exporting::ZplNativeOption);
     checkTargetOptions(given, options);
     takeNumbers(given, options);
     takeReader(given, options.job);

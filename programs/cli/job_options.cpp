@@ -16,6 +16,7 @@ constexpr QLatin1String SheetKey("sheet");
 constexpr QLatin1String FirstPositionKey("firstPosition");
 constexpr QLatin1String CopiesKey("copies");
 constexpr QLatin1String CropMarksKey("cropMarks");
+constexpr QLatin1String ZplNativeKey("zplNative");
 constexpr QLatin1String ForceKey("force");
 constexpr QLatin1String ItemsKey("items");
 constexpr QLatin1String ThumbnailKey("thumbnail");
@@ -36,6 +37,9 @@ QJsonObject outputOptions(const JobOptions& options)
         object.insert(SheetKey, options.sheet);
         object.insert(FirstPositionKey, options.firstPosition);
         object.insert(CropMarksKey, options.cropMarks);
+    }
+    if (options.zplNative) {
+        object.insert(ZplNativeKey, true);
     }
     if (options.copies > 1) {
         object.insert(CopiesKey, options.copies);
@@ -63,6 +67,7 @@ JobOptions jobOptionsFromJson(const QJsonObject& object)
     options.firstPosition = object.value(FirstPositionKey).toInt();
     options.copies = object.value(CopiesKey).toInt(options.copies);
     options.cropMarks = object.value(CropMarksKey).toBool();
+    options.zplNative = object.value(ZplNativeKey).toBool();
     options.force = object.value(ForceKey).toBool();
     options.items = object.value(ItemsKey).toBool();
     options.thumbnail = object.value(ThumbnailKey).toBool();

@@ -42,7 +42,8 @@ exporting::OptionValues exportOptions(const JobOptions& options)
             {exporting::SheetOption, options.sheet},
             {exporting::FirstPositionOption, options.firstPosition + 1},
             {exporting::CopiesOption, options.copies},
-            {exporting::CropMarksOption, options.cropMarks}};
+            {exporting::CropMarksOption, options.cropMarks},
+            {exporting::ZplNativeOption, options.zplNative}};
 }
 
 } // namespace

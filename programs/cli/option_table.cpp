@@ -42,8 +42,8 @@ constexpr Option FirstPositionOption{
 constexpr Option CopiesOption{
     "copies", QT_TRANSLATE_NOOP("cli::Options", "number"),
     QT_TRANSLATE_NOOP("cli::Options",
-                      "Copies of each record, one after the other, in documents and prints "
-                      "(default: 1).")};
+                      "Copies of each record, one after the other, in documents, printer files "
+                      "and prints (default: 1).")};
 constexpr Option CropMarksOption{
     "crop-marks", nullptr,
     QT_TRANSLATE_NOOP("cli::Options", "Print marks on the edges of sheets that show where to "
@@ -52,9 +52,9 @@ constexpr Option CropMarksOption{
 constexpr std::array ImportOptions{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "targets"),
            QT_TRANSLATE_NOOP("cli::Options",
-                             "What to write: png, svg, pdf, label; several with commas (default: "
-                             "png)."),
-           Completion::WordList, "png svg pdf label", true},
+                             "What to write: png, svg, pdf, zpl, csv, label; several with commas "
+                             "(default: png)."),
+           Completion::WordList, "png svg pdf zpl csv label", true},
     Option{"output-dir", QT_TRANSLATE_NOOP("cli::Options", "folder"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "Folder to write to; created if missing (default: the current "
@@ -62,18 +62,23 @@ constexpr std::array ImportOptions{
            Completion::Folder},
     Option{"dpi", QT_TRANSLATE_NOOP("cli::Options", "number"),
            QT_TRANSLATE_NOOP("cli::Options",
-                             "Resolution of pictures in dots per inch, 10 to 2400 (default: "
-                             "300).")},
+                             "Resolution of pictures in dots per inch, 10 to 2400; of a label "
+                             "printer 203, 300 or 600 (default: 300).")},
     Option{"records", QT_TRANSLATE_NOOP("cli::Options", "range"),
-           QT_TRANSLATE_NOOP("cli::Options",
-                             "Records of the label's data sources: a number, a range such as 3-12 "
-                             "or 3-, or all (default: the first). Pictures of a range are "
-                             "numbered; a PDF has one page for each record."),
+           QT_TRANSLATE_NOOP(
+               "cli::Options",
+               "Records of the label's data sources: a number, a range such as 3-12 "
+               "or 3-, or all (default: the first). Pictures of a range are "
+               "numbered; a PDF has one page and a printer file one label for each record."),
            Completion::Words, "all"},
     SheetOption,
     FirstPositionOption,
     CopiesOption,
     CropMarksOption,
+    Option{"zpl-native", nullptr,
+           QT_TRANSLATE_NOOP("cli::Options",
+                             "Let the label printer draw barcodes and lines where it can, and "
+                             "advance counters. Otherwise labels are pictures and exact.")},
     Option{"force", nullptr,
            QT_TRANSLATE_NOOP("cli::Options",
                              "Overwrite files that labelport did not write, and edited labels.")},

@@ -60,7 +60,7 @@ TEST(ArchiveOptions, AreTakenOver)
 TEST(ArchiveOptions, TakeTargetsFromEveryTo)
 {
     EXPECT_EQ(accepted("old --to png,svg --to label").targets,
-              (QList<cli::Target>{cli::Target::Png, cli::Target::Svg, cli::Target::Label}));
+              (QList<exporting::Target>{exporting::Target::Png, exporting::Target::Svg, exporting::Target::Label}));
 }
 
 TEST(ArchiveOptions, TakeSeveralReports)
@@ -114,6 +114,7 @@ TEST(JobOptions, SurviveTheirJson)
 {
     for (const char* line : {"a", "a --dpi 72 --records 2-9 --force --reader tavrel",
                              "a --records all", "a --report a.json",
+                             "a --to zpl --zpl-native --dpi 203",
                              "a --to pdf --sheet A4 --first-position 3 --copies 2 --crop-marks"}) {
         SCOPED_TRACE(line);
         const cli::JobOptions options = accepted(line).job;
@@ -130,6 +131,7 @@ TEST(JobOptions, SurviveTheirJson)
         EXPECT_EQ(read.sheet, options.sheet);
         EXPECT_EQ(read.firstPosition, options.firstPosition);
         EXPECT_EQ(read.copies, options.copies);
+        EXPECT_EQ(read.zplNative, options.zplNative);
         EXPECT_EQ(read.cropMarks, options.cropMarks);
         EXPECT_EQ(read.force, options.force);
         EXPECT_EQ(read.items, options.items);

@@ -81,7 +81,8 @@ TEST(ImportOptions, RefuseAnUnknownTarget)
 {
     EXPECT_TRUE(
         refusal("a.odg --to bmp")
-            .startsWith(u"Unknown target \"bmp\". Supported targets: png, svg, pdf, label."_s));
+            .startsWith(
+                u"Unknown target \"bmp\". Supported targets: png, svg, pdf, zpl, csv, label."_s));
     EXPECT_TRUE(refusal("a.odg --to png,").startsWith(u"Unknown target \"\"."_s));
 }
 
@@ -128,6 +129,20 @@ TEST(ImportOptions, NameEveryTargetAndItsOptions)
     }
 }
 
+TEST(ImportOptions, LetThePrinterDraw)
+{
+    EXPECT_TRUE(accepted("a.odg --to zpl --zpl-native").job.zplNative);
+    EXPECT_EQ(refusal("a.odg --zpl-native"), u"--zpl-native has no effect without --to zpl."_s);
+}
+
+TEST(ImportOptions, BoundTheResolutionOfLabelPrinters)
+{
+    EXPECT_EQ(accepted("a.odg --to zpl --dpi 203").job.dpi, 203);
+    EXPECT_EQ(refusal("a.odg --to png,zpl --dpi 204"),
+              u"--dpi expects one of 203, 300, 600 for the target zpl, not \"204\"."_s);
+    EXPECT_EQ(accepted("a.odg --to svg,label --dpi 204").job.dpi, 204);
+}
+
 TEST(ImportOptions, ShowHelp)
 {
     for (const char* line : {"--help", "-h", "a.odg --help"}) {
@@ -156,7 +171,7 @@ TEST(ImportOptions, RefuseSheetsThatHaveNoEffect)
               u"Unknown sheet \"L716\". \"labelport formats\" lists the sheets. Did you mean "
               "\"L7160\"?"_s);
     EXPECT_EQ(refusal("a.odg --sheet L7160"), u"--sheet has no effect without --to pdf."_s);
-    EXPECT_EQ(refusal("a.odg --copies 2"), u"--copies has no effect without --to pdf."_s);
+    EXPECT_EQ(refusal("a.odg --copies 2"), u"--copies has no effect without --to pdf or zpl."_s);
     EXPECT_EQ(refusal("a.odg --to pdf --crop-marks"),
               u"--crop-marks has no effect without --sheet."_s);
     EXPECT_EQ(refusal("a.odg --to pdf --first-position 2"),

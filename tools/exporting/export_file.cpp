@@ -1,5 +1,7 @@
 #include "exporting/export_file.h"
 
+#include "exporting/records_csv.h"
+#include "exporting/zpl.h"
 #include "printing/print_document.h"
 #include "printing/sheet_presets.h"
 #include "workbench/canvas/canvas.h"
@@ -7,20 +9,12 @@
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_image.h"
 
+#include <QCoreApplication>
+
 namespace exporting {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-/// Shows the record of a page before it is written.
-bool prepare(const ExportJob& job, qint64 page)
-{
-    if (!job.beforeRecord(page)) {
-        return false;
-    }
-    showRecord(job.canvas, job.sources, job.firstRecord + page);
-    return true;
-}
 
 QString writePicture(const ExportJob& job, const QString& fileName)
 {
@@ -51,7 +45,9 @@ QString writeDocument(const ExportJob& job, const QString& fileName)
     if (!problem.isEmpty()) {
         return problem;
     }
-    const auto show = [&job](qint64 page) { return prepare(job, page) ? &job.canvas : nullptr; };
+    const auto show = [&job](qint64 page) {
+        return prepareRecord(job, page) ? &job.canvas : nullptr;
+    };
     return printing::writePrintDocument(fileName, job.title, layout,
                                         {job.recordCount, job.canvas.page().size, show});
 }
@@ -61,7 +57,7 @@ QString writeDocument(const ExportJob& job, const QString& fileName)
 QString exportFile(Target target, const ExportJob& job, const QString& fileName)
 {
     const bool isOneRecord = entryOf(target).records == RecordFiles::FileForEach;
-    if (isOneRecord && !prepare(job, 0)) {
+    if (isOneRecord && !prepareRecord(job, 0)) {
         return {};
     }
     switch (target) {
@@ -71,10 +67,29 @@ QString exportFile(Target target, const ExportJob& job, const QString& fileName)
         return workbench::writeSvg(job.canvas, fileName, job.title);
     case Target::Pdf:
         return writeDocument(job, fileName);
+    case Target::Zpl:
+        return writeZpl(job, fileName);
+    case Target::Csv:
+        return writeRecordsCsv(job, fileName);
     case Target::Label:
         break;
     }
     Q_UNREACHABLE();
+}
+
+bool prepareRecord(const ExportJob& job, qint64 page)
+{
+    if (!job.beforeRecord(page)) {
+        return false;
+    }
+    showRecord(job.canvas, job.sources, job.firstRecord + page);
+    return true;
+}
+
+QString cannotWrite(const QString& fileName, const QString& reason)
+{
+    return QCoreApplication::translate("exporting::ExportFile", "Cannot write \"%1\": %2.")
+        .arg(fileName, reason);
 }
 
 void showRecord(workbench::Canvas& canvas,

@@ -36,6 +36,12 @@ struct ExportJob
 /// @return the error for the user; empty on success, and if stopped
 [[nodiscard]] QString exportFile(Target target, const ExportJob& job, const QString& fileName);
 
+/// Shows the record of a page, counted from 0, before it is written. False if the job was stopped.
+[[nodiscard]] bool prepareRecord(const ExportJob& job, qint64 page);
+
+/// A message about a file that cannot be written.
+[[nodiscard]] QString cannotWrite(const QString& fileName, const QString& reason);
+
 /// Shows a record, counted from 0, on the canvas.
 void showRecord(workbench::Canvas& canvas,
                 const workbench::datasources::DatasourceController& sources, qint64 record);

@@ -36,7 +36,8 @@ constexpr std::array DocumentOptions{
     TargetOption{.name = SheetOption.data(),
                  .kind = OptionKind::Name,
                  .label = QT_TRANSLATE_NOOP("exporting::Targets", "&Sheet"),
-                 .description = QT_TRANSLATE_NOOP("exporting::Targets", "sheet of labels, or paper"),
+                 .description =
+                     QT_TRANSLATE_NOOP("exporting::Targets", "sheet of labels, or paper"),
                  .names = &printing::sheetNames},
     TargetOption{FirstPositionOption.data(),
                  OptionKind::Number,
@@ -44,7 +45,7 @@ constexpr std::array DocumentOptions{
                  QT_TRANSLATE_NOOP("exporting::Targets", "first free label of the first sheet"),
                  "",
                  1,
-                 printing::MaximumGrid * printing::MaximumGrid,
+                 printing::MaximumGrid* printing::MaximumGrid,
                  {},
                  1},
     Copies,
@@ -52,6 +53,21 @@ constexpr std::array DocumentOptions{
                  .label = QT_TRANSLATE_NOOP("exporting::Targets", "C&rop marks"),
                  .description = QT_TRANSLATE_NOOP("exporting::Targets",
                                                   "marks on sheets that show where to cut")}};
+
+constexpr std::array PrinterResolutions{203, 300, 600};
+
+constexpr std::array PrinterOptions{
+    TargetOption{DpiOption.data(), OptionKind::Choice,
+                 QT_TRANSLATE_NOOP("exporting::Targets", "&Printer resolution"),
+                 QT_TRANSLATE_NOOP("exporting::Targets", "resolution of the label printer"),
+                 QT_TRANSLATE_NOOP("exporting::Targets", "dpi"), 0, 0, PrinterResolutions, 300},
+    Copies,
+    TargetOption{.name = ZplNativeOption.data(),
+                 .label = QT_TRANSLATE_NOOP("exporting::Targets",
+                                            "&Barcodes, lines and counters by the printer"),
+                 .description = QT_TRANSLATE_NOOP(
+                     "exporting::Targets",
+                     "let the printer draw barcodes and lines, and advance counters")}};
 
 constexpr std::array Targets{
     TargetEntry{Target::Png, "png", QT_TRANSLATE_NOOP("exporting::Targets", "PNG picture"),
@@ -65,12 +81,24 @@ constexpr std::array Targets{
                 QT_TRANSLATE_NOOP("exporting::Targets", "vector drawing"),
                 RecordFiles::FileForEach,
                 {}},
-    TargetEntry{Target::Pdf,
-                "pdf",
-                QT_TRANSLATE_NOOP("exporting::Targets", "PDF document"),
+    TargetEntry{Target::Pdf, "pdf", QT_TRANSLATE_NOOP("exporting::Targets", "PDF document"),
                 QT_TRANSLATE_NOOP("exporting::Targets", "PDF documents"),
                 QT_TRANSLATE_NOOP("exporting::Targets", "document, a page for each record"),
                 RecordFiles::OneFile, DocumentOptions},
+    TargetEntry{Target::Zpl, "zpl",
+                QT_TRANSLATE_NOOP("exporting::Targets", "ZPL for label printers"),
+                QT_TRANSLATE_NOOP("exporting::Targets", "Printer files"),
+                QT_TRANSLATE_NOOP("exporting::Targets",
+                                  "commands for a label printer, a label for each record"),
+                RecordFiles::OneFile, PrinterOptions},
+    TargetEntry{Target::Csv,
+                "csv",
+                QT_TRANSLATE_NOOP("exporting::Targets", "CSV table of records"),
+                QT_TRANSLATE_NOOP("exporting::Targets", "CSV tables"),
+                QT_TRANSLATE_NOOP("exporting::Targets",
+                                  "table of what bound items show, a line for each record"),
+                RecordFiles::OneFile,
+                {}},
     TargetEntry{Target::Label,
                 "label",
                 QT_TRANSLATE_NOOP("exporting::Targets", "LabelPort label"),

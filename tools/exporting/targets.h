@@ -15,6 +15,8 @@ enum class Target : quint8 {
     Png,   ///< a picture
     Svg,   ///< a vector drawing
     Pdf,   ///< a document with one page for each record
+    Zpl,   ///< commands for a label printer
+    Csv,   ///< what bound items show, record by record
     Label, ///< the workbench's own format, for editing
 };
 
@@ -43,7 +45,7 @@ struct TargetOption
     int minimum = 0;
     int maximum = 0;
     std::span<const int> choices = {};
-    int initial = 0;                ///< the default; of a switch, 0 or 1
+    int initial = 0; ///< the default; of a switch, 0 or 1
     QStringList (*names)() = nullptr;
 
     /// Whether a number, choice or switch may have this value.
@@ -88,5 +90,6 @@ inline constexpr QLatin1String SheetOption("sheet");
 inline constexpr QLatin1String FirstPositionOption("first-position");
 inline constexpr QLatin1String CopiesOption("copies");
 inline constexpr QLatin1String CropMarksOption("crop-marks");
+inline constexpr QLatin1String ZplNativeOption("zpl-native");
 
 } // namespace exporting
