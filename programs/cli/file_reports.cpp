@@ -6,6 +6,16 @@
 namespace cli {
 namespace {
 
+migration::FileReport reportWithoutWorker(const archive::Input& input)
+{
+    migration::FileReport report;
+    report.file = console::shownFileName(input.shownName);
+    report.bytes = archive::stampOf(input.path).value_or(archive::FileStamp{}).size;
+    return report;
+}
+
+} // namespace
+
 migration::Status statusOf(archive::FileOutcome outcome)
 {
     switch (outcome) {
@@ -22,16 +32,6 @@ migration::Status statusOf(archive::FileOutcome outcome)
     }
     return migration::Status::Failed;
 }
-
-migration::FileReport reportWithoutWorker(const archive::Input& input)
-{
-    migration::FileReport report;
-    report.file = console::shownFileName(input.shownName);
-    report.bytes = archive::stampOf(input.path).value_or(archive::FileStamp{}).size;
-    return report;
-}
-
-} // namespace
 
 migration::FileReport reportOn(const LabelInput& input, const OpenedLabel& label,
                                const QString& shownName, const migration::ReportOptions& options)

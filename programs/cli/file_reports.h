@@ -9,6 +9,9 @@ namespace cli {
 class LabelInput;
 struct OpenedLabel;
 
+/// The status that reports and events give to an outcome.
+[[nodiscard]] migration::Status statusOf(archive::FileOutcome outcome);
+
 /// The report of a worker on a label that it opened or could not open.
 [[nodiscard]] migration::FileReport reportOn(const LabelInput& input, const OpenedLabel& label,
                                              const QString& shownName,

@@ -3,6 +3,7 @@
 #include "cli/archive_reports.h"
 #include "cli/commands.h"
 #include "cli/existing_output.h"
+#include "cli/import_events.h"
 #include "cli/import_inputs.h"
 #include "cli/import_options.h"
 #include "cli/import_reporter.h"
@@ -11,6 +12,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QTemporaryDir>
 #include <QTimer>
 
 namespace cli {
@@ -32,6 +34,7 @@ archive::RunSettings settingsFor(const ImportOptions& options, const archive::In
         settings.targets.append(exporting::nameOf(target));
     }
     settings.outputFolder = options.outputDir;
+    settings.outputFile = writesToStandardOutput(options) ? QString() : options.output;
     settings.shard = options.shard;
     settings.options = outputOptions(options.job);
     // A later run may resume this one with a report; its pages need the pictures.
@@ -49,6 +52,17 @@ archive::RunSettings settingsFor(const ImportOptions& options, const archive::In
     return settings;
 }
 
+Listing listingFor(const ImportOptions& options)
+{
+    if (writesToStandardOutput(options)) {
+        return Listing::Nothing;
+    }
+    if (options.json) {
+        return Listing::Events;
+    }
+    return options.endsNamesWithNull ? Listing::NamesWithNull : Listing::Names;
+}
+
 /// One run of the command.
 class Import
 {
@@ -56,10 +70,11 @@ public:
     Import(const ImportOptions& options, const archive::InputList& list)
         : m_options(options)
         , m_list(list)
-        , m_reporter(options.quiet, options.endsNamesWithNull)
+        , m_reporter(options.quiet, listingFor(options))
         , m_reports(options.reports, options.failOnLoss, options.job.force)
         , m_run(list.inputs, settingsFor(options, list), [this](const archive::Delivery& delivery) {
             m_reporter.reportFile(delivery);
+            m_written += m_options.output.isEmpty() ? QStringList() : delivery.written;
             m_reports.add(delivery);
         })
     {}
@@ -75,6 +90,10 @@ public:
         waitUntilFinished();
         return conclude();
     }
+
+    [[nodiscard]] archive::Progress progress() const { return m_run.progress(); }
+    /// Collected only for --output, which writes few.
+    [[nodiscard]] const QStringList& written() const { return m_written; }
 
 private:
     void waitUntilFinished()
@@ -143,17 +162,77 @@ private:
 
     const ImportOptions& m_options;
     const archive::InputList& m_list;
+    QStringList m_written;
     ImportReporter m_reporter;
     ArchiveReports m_reports;
     archive::Run m_run;
 };
 
+/// The only file that an import wrote to a temporary folder.
+int printWritten(const QStringList& written)
+{
+    if (written.size() != 1) {
+        console::printMessage(QCoreApplication::translate(
+            "cli::ImportCommand",
+            "%n file(s) cannot be written to standard output; select one "
+            "record with --records.",
+            nullptr, static_cast<int>(written.size())));
+        return console::ExitFailure;
+    }
+    const QString error = console::printFile(written.constFirst());
+    if (!error.isEmpty()) {
+        console::printMessage(error);
+        return console::ExitFailure;
+    }
+    return console::ExitSuccess;
+}
+
+int importTo(const ImportOptions& options, const archive::InputList& list)
+{
+    Import import(options, list);
+    int status = import.run();
+    if (writesToStandardOutput(options) && !import.written().isEmpty() &&
+        status != console::ExitFailure && status != console::ExitStopped) {
+        const int printed = printWritten(import.written());
+        status = printed == console::ExitSuccess ? status : printed;
+    }
+    if (options.json) {
+        console::printBytes(endEvent(import.progress(), list.skipped, status));
+    }
+    return status;
+}
+
+/// The options for a command that writes to standard output: to a temporary folder first, so that
+/// an import that fails prints nothing.
+int importToStandardOutput(ImportOptions options, const archive::InputList& list)
+{
+    const QTemporaryDir folder;
+    if (!folder.isValid()) {
+        console::printMessage(QCoreApplication::translate("cli::ImportCommand",
+                                                          "Cannot create a temporary folder: %1.")
+                                  .arg(folder.errorString()));
+        return console::ExitFailure;
+    }
+    options.outputDir = folder.path();
+    return importTo(options, list);
+}
+
+int refuseInputs(const ImportOptions& options, const QString& message)
+{
+    console::printMessage(message);
+    if (options.json) {
+        console::printBytes(endEvent({}, 0, console::ExitFailure));
+    }
+    return console::ExitFailure;
+}
+
+} // namespace
+
 int importAll(const ImportOptions& options)
 {
     const ImportInputs inputs = findInputs(options);
     if (!inputs.error.isEmpty()) {
-        console::printMessage(inputs.error);
-        return console::ExitFailure;
+        return refuseInputs(options, inputs.error);
     }
     for (const archive::UnreadableFolder& folder : inputs.list.unreadable) {
         console::printMessage(
@@ -161,14 +240,12 @@ int importAll(const ImportOptions& options)
                 .arg(folder.path, folder.reason));
     }
     if (inputs.list.inputs.isEmpty()) {
-        console::printMessage(
-            QCoreApplication::translate("cli::ImportCommand", "No labels to import."));
-        return console::ExitFailure;
+        return refuseInputs(
+            options, QCoreApplication::translate("cli::ImportCommand", "No labels to import."));
     }
-    return Import(options, inputs.list).run();
+    return writesToStandardOutput(options) ? importToStandardOutput(options, inputs.list)
+                                           : importTo(options, inputs.list);
 }
-
-} // namespace
 
 int runImport(const QStringList& arguments)
 {

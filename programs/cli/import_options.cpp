@@ -10,6 +10,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QThread>
 
 #include <algorithm>
@@ -19,9 +20,28 @@ using namespace Qt::StringLiterals;
 using exporting::Target;
 namespace {
 
+/// The target of an output whose name selects it: "png" for "-".
+QString targetNameOf(OptionReader& given, const QString& output)
+{
+    const QString suffix = QFileInfo(output).suffix().toLower();
+    if (output.isEmpty() || output == "-"_L1) {
+        return u"png"_s;
+    }
+    if (!exporting::targetOfName(suffix)) {
+        given.fail(QCoreApplication::translate("cli::ImportOptions",
+                                               "\"%1\" ends in none of the targets' suffixes; "
+                                               "specify one with --to: %2.")
+                       .arg(output, exporting::targetNames().join(u", "_s)));
+        return u"png"_s;
+    }
+    return suffix;
+}
+
 void takeTargets(OptionReader& given, ImportOptions& options)
 {
-    const QStringList lists = given.isSet("to"_L1) ? given.texts("to"_L1) : QStringList{u"png"_s};
+    const QStringList lists = given.isSet("to"_L1)
+                                  ? given.texts("to"_L1)
+                                  : QStringList{targetNameOf(given, options.output)};
     for (const QString& name : lists.join(u',').split(u',')) {
         const std::optional<Target> target = exporting::targetOfName(name);
         if (!target) {
@@ -160,6 +180,34 @@ void checkInputs(OptionReader& given, const ImportOptions& options)
     }
 }
 
+/// --output names one file: one input, one target, and no folder of many.
+void checkOutput(OptionReader& given, const ImportOptions& options)
+{
+    if (!given.isSet("output"_L1)) {
+        return;
+    }
+    const auto exclude = [&given](const char* format, std::initializer_list<QLatin1String> names) {
+        for (const QLatin1String name : names) {
+            if (given.isSet(name)) {
+                given.fail(QCoreApplication::translate("cli::ImportOptions", format).arg(name));
+            }
+        }
+    };
+    exclude(QT_TRANSLATE_NOOP("cli::ImportOptions", "--output and --%1 exclude each other."),
+            {"output-dir"_L1, "files-from"_L1, "base"_L1, "resume"_L1, "shard"_L1});
+    if (writesToStandardOutput(options)) {
+        exclude(QT_TRANSLATE_NOOP("cli::ImportOptions",
+                                  "--%1 prints on standard output, as --output - does."),
+                {"json"_L1, "print0"_L1});
+    }
+    const bool isOneFile = options.files.size() == 1 &&
+                           console::kindOf(options.files.constFirst()) != console::FileKind::Folder;
+    if (options.output.isEmpty() || !isOneFile || options.targets.size() > 1) {
+        given.fail(QCoreApplication::translate(
+            "cli::ImportOptions", "--output needs a file name, one input file and one target."));
+    }
+}
+
 ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
 {
     ImportOptions options;
@@ -167,6 +215,7 @@ ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
     options.filesFrom = given.text("files-from"_L1);
     options.isNullSeparated = given.isSet("null"_L1);
     options.base = given.text("base"_L1);
+    options.output = given.text("output"_L1);
     takeTargets(given, options);
     takeRecords(given, u"1"_s, options.job);
     takeSheet(given, options.job);
@@ -175,13 +224,21 @@ ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
     takeNumbers(given, options);
     takeReader(given, options.job);
     checkInputs(given, options);
-    options.outputDir = given.isSet("output-dir"_L1) ? given.text("output-dir"_L1) : u"."_s;
+    checkOutput(given, options);
+    options.outputDir = given.isSet("output-dir"_L1) ? given.text("output-dir"_L1)
+                        : options.output.isEmpty()   ? u"."_s
+                                                     : QFileInfo(options.output).path();
     takeShard(given, options);
     takeReports(given, options);
     options.job.force = given.isSet("force"_L1);
     options.resume = given.isSet("resume"_L1);
     options.quiet = given.isSet("quiet"_L1);
     options.endsNamesWithNull = given.isSet("print0"_L1);
+    options.json = given.isSet("json"_L1);
+    if (options.json && options.endsNamesWithNull) {
+        given.fail(QCoreApplication::translate("cli::ImportOptions",
+                                               "--json and --print0 exclude each other."));
+    }
     return options;
 }
 
@@ -201,6 +258,11 @@ std::variant<ImportOptions, int> parseImportArguments(const QStringList& argumen
         return console::refuseArguments(command, given.error());
     }
     return options;
+}
+
+bool writesToStandardOutput(const ImportOptions& options)
+{
+    return options.output == "-"_L1;
 }
 
 std::optional<archive::WorkerLimits> limitsOf(const QCommandLineParser& parser, QString& error)

@@ -1,5 +1,6 @@
 #include "cli/import_reporter.h"
 
+#include "cli/import_events.h"
 #include "console/file_name.h"
 #include "console/output.h"
 
@@ -23,28 +24,38 @@ void printAbout(const archive::Input& input, const QString& text)
 
 } // namespace
 
-ImportReporter::ImportReporter(bool isQuiet, bool endsNamesWithNull)
+ImportReporter::ImportReporter(bool isQuiet, Listing listing)
     : m_isQuiet(isQuiet)
-    , m_endsNamesWithNull(endsNamesWithNull)
+    , m_listing(listing)
     , m_display(!isQuiet && archive::isTerminal(), archive::wantsColor())
 {}
 
 void ImportReporter::reportFile(const archive::Delivery& delivery)
 {
     const QStringList warnings = m_isQuiet ? QStringList() : delivery.result.warnings;
-    const QStringList written = delivery.isResumed ? QStringList() : delivery.written;
-    if (!written.isEmpty() || !warnings.isEmpty() || !delivery.result.errors.isEmpty()) {
+    const bool listsSomething =
+        m_listing == Listing::Events || (!delivery.isResumed && !delivery.written.isEmpty());
+    if (listsSomething || !warnings.isEmpty() || !delivery.result.errors.isEmpty()) {
         m_display.clear();
     }
     for (const QString& warning : warnings) {
         printAbout(delivery.input,
                    QCoreApplication::translate("cli::ImportReporter", "Warning: %1").arg(warning));
     }
-    for (const QString& file : written) {
-        console::printFileName(file, m_endsNamesWithNull);
-    }
+    list(delivery);
     for (const QString& error : delivery.result.errors) {
         printAbout(delivery.input, error);
+    }
+}
+
+void ImportReporter::list(const archive::Delivery& delivery) const
+{
+    if (m_listing == Listing::Events) {
+        console::printBytes(fileEvent(delivery));
+    } else if (m_listing != Listing::Nothing && !delivery.isResumed) {
+        for (const QString& file : delivery.written) {
+            console::printFileName(file, m_listing == Listing::NamesWithNull);
+        }
     }
 }
 

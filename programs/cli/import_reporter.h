@@ -5,14 +5,21 @@
 
 namespace cli {
 
+/// What standard output lists.
+enum class Listing : quint8 {
+    Names,         ///< of the files written, one on each line
+    NamesWithNull, ///< each ends with NUL
+    Events,        ///< see fileEvent()
+    Nothing,
+};
+
 /// Reports an import: the files written on standard output, errors and warnings on standard error,
 /// and a progress line on a terminal.
 class ImportReporter
 {
 public:
-    /// @param isQuiet          reports errors only
-    /// @param endsNamesWithNull ends names on standard output with NUL
-    ImportReporter(bool isQuiet, bool endsNamesWithNull);
+    /// @param isQuiet reports errors only
+    ImportReporter(bool isQuiet, Listing listing);
 
     /// One file is done.
     void reportFile(const archive::Delivery& delivery);
@@ -26,8 +33,10 @@ public:
     void printSummary(const archive::Progress& progress, bool isArchive, qint64 ignoredFiles);
 
 private:
+    void list(const archive::Delivery& delivery) const;
+
     bool m_isQuiet;
-    bool m_endsNamesWithNull;
+    Listing m_listing;
     archive::ProgressDisplay m_display;
 };
 

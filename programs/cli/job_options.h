@@ -20,7 +20,7 @@ struct JobOptions
     int firstPosition = 0; ///< on the first sheet
     int copies = 1;        ///< of each record, in PDF documents
     bool cropMarks = false;
-    bool zplNative = false; ///< the printer draws what it can
+    bool zplNative = false;           ///< the printer draws what it can
     std::optional<ReaderKind> reader; ///< empty: selected by name or content
     bool force = false;               ///< overwrite files that are not ours
     bool items = false;               ///< list every item in the report

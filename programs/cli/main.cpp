@@ -54,6 +54,7 @@ Examples:
   labelport import asset.label --to pdf --records all
   labelport print asset.label --printer zebra --records 1-40
   labelport inspect shelf.odg
+  labelport records asset.qmtx --to records.csv
   labelport trace shelf.odg
 
 Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
@@ -109,8 +110,9 @@ bool writesJson(const QStringList& arguments)
 using RunCommand = int (*)(const QStringList& arguments);
 
 /// In the order of cli::commands().
-constexpr std::array RunCommands{&cli::runImport, &cli::runPrint,   &cli::runInspect,
-                                 &cli::runReport, &cli::runFormats, &cli::runTrace};
+constexpr std::array RunCommands{&cli::runImport,  &cli::runPrint,  &cli::runInspect,
+                                 &cli::runRecords, &cli::runReport, &cli::runFormats,
+                                 &cli::runTrace};
 
 int printHelp(const QStringList&)
 {

@@ -55,6 +55,11 @@ constexpr std::array ImportOptions{
                              "What to write: png, svg, pdf, zpl, csv, label; several with commas "
                              "(default: png)."),
            Completion::WordList, "png svg pdf zpl csv label", true},
+    Option{"output", QT_TRANSLATE_NOOP("cli::Options", "file"),
+           QT_TRANSLATE_NOOP("cli::Options",
+                             "File to write the only input to; - is standard output. Without --to, "
+                             "its suffix selects the target."),
+           Completion::File, "", false, "o"},
     Option{"output-dir", QT_TRANSLATE_NOOP("cli::Options", "folder"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "Folder to write to; created if missing (default: the current "
@@ -123,6 +128,10 @@ constexpr std::array ImportOptions{
            QT_TRANSLATE_NOOP("cli::Options",
                              "End each file name on standard output with NUL instead of a line "
                              "break.")},
+    Option{"json", nullptr,
+           QT_TRANSLATE_NOOP("cli::Options",
+                             "Print an event in JSON for each file, instead of the names of the "
+                             "files written.")},
     Option{"quiet", nullptr,
            QT_TRANSLATE_NOOP("cli::Options", "Report only errors on standard error.")},
 };
@@ -149,6 +158,21 @@ constexpr std::array InspectOptions{
     Option{"json", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Print JSON, as in reports.")},
     ReaderOption, TimeoutOption, MemoryOption};
 
+constexpr std::array RecordsOptions{
+    Option{
+        "to", QT_TRANSLATE_NOOP("cli::Options", "file"),
+        QT_TRANSLATE_NOOP("cli::Options", "CSV file to write; - is standard output (default: -)."),
+        Completion::File},
+    Option{"records", QT_TRANSLATE_NOOP("cli::Options", "range"),
+           QT_TRANSLATE_NOOP("cli::Options",
+                             "Records to list: a number, a range such as 3-12 or 3-, or all "
+                             "(default: all)."),
+           Completion::Words, "all"},
+    Option{"force", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Overwrite an existing file.")},
+    ReaderOption,
+    TimeoutOption,
+    MemoryOption};
+
 constexpr std::array ReportOptions{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "file"),
            QT_TRANSLATE_NOOP("cli::Options",
@@ -173,6 +197,7 @@ constexpr const char* ImportDescription = QT_TRANSLATE_NOOP(
     "output, in the order of the names of the inputs.\n\n"
     "Examples:\n"
     "  labelport import shelf.odg\n"
+    "  labelport import shelf.odg -o label.svg\n"
     "  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new\n"
     "  labelport import asset.label --to pdf --records all\n"
     "  labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5\n"
@@ -200,6 +225,14 @@ constexpr const char* InspectDescription = QT_TRANSLATE_NOOP(
     "  labelport inspect shelf.odg\n"
     "  labelport inspect - --reader orvanta < shelf.xml\n"
     "  labelport inspect shelf.odg --json | jq .lost");
+
+constexpr const char* RecordsDescription = QT_TRANSLATE_NOOP(
+    "cli::Options",
+    "Lists what each item shows that is bound to a data source (a counter, a list, a date), as\n"
+    "a CSV table: a line for each record, a column for each item.\n\n"
+    "Examples:\n"
+    "  labelport records asset.qmtx --to records.csv\n"
+    "  labelport records asset.label --records 1-50 | column -t -s ,");
 
 constexpr const char* ReportDescription = QT_TRANSLATE_NOOP(
     "cli::Options",
@@ -234,6 +267,9 @@ constexpr std::array Commands{
     Command{"inspect", QT_TRANSLATE_NOOP("cli::Options", "show what a label contains"), "FILE",
             QT_TRANSLATE_NOOP("cli::Options", "Label to inspect; - is standard input."),
             Completion::Label, InspectDescription, InspectOptions},
+    Command{"records", QT_TRANSLATE_NOOP("cli::Options", "list what bound items show"), "FILE",
+            QT_TRANSLATE_NOOP("cli::Options", "Label to read; - is standard input."),
+            Completion::Label, RecordsDescription, RecordsOptions},
     Command{"report", QT_TRANSLATE_NOOP("cli::Options", "merge the reports of several imports"),
             "merge REPORT.json...", QT_TRANSLATE_NOOP("cli::Options", "JSON reports to merge."),
             Completion::Report, ReportDescription, ReportOptions},
@@ -285,8 +321,12 @@ void describeCommand(QCommandLineParser& parser, const Command& command)
                                      translated(command.argumentHelp), argument);
     }
     for (const Option& option : command.options) {
+        QStringList names{QLatin1String(option.name)};
+        if (option.letter != nullptr) {
+            names.prepend(QLatin1String(option.letter));
+        }
         parser.addOption(
-            QCommandLineOption(QLatin1String(option.name), translated(option.help),
+            QCommandLineOption(names, translated(option.help),
                                option.value != nullptr ? translated(option.value) : QString()));
     }
 }

@@ -30,6 +30,7 @@ struct Option
     Completion completion = Completion::Nothing;
     const char* words = ""; ///< with blanks
     bool isRepeatable = false;
+    const char* letter = nullptr; ///< short name, without "-"
 };
 
 struct Command

@@ -7,6 +7,7 @@
 #include "console/command_line.h"
 #include "console/output.h"
 #include "console/standard_input.h"
+#include "exporting/targets.h"
 #include "printing/print_queue.h"
 
 #include <QCommandLineParser>
@@ -92,7 +93,8 @@ private:
             job.shownName = u"stdin"_s;
         }
         job.staging = newFolder();
-        job.outputs = {{exporting::nameOf(exporting::Target::Label), QDir(job.staging).filePath(u"saved.label"_s)}};
+        job.outputs = {{exporting::nameOf(exporting::Target::Label),
+                        QDir(job.staging).filePath(u"saved.label"_s)}};
         JobOptions options;
         options.reader = m_options.job.reader;
         job.options = outputOptions(options);

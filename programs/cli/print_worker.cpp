@@ -2,6 +2,7 @@
 
 #include "cli/label_input.h"
 #include "cli/label_writer.h"
+#include "exporting/export_file.h"
 #include "printing/print_document.h"
 #include "printing/print_queue.h"
 

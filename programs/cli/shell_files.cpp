@@ -204,10 +204,12 @@ QString fishOptions()
     QStringList lines;
     for (const cli::Command& command : cli::commands()) {
         for (const cli::Option& option : command.options) {
+            const QString letter =
+                option.letter != nullptr ? u" -s "_s + QLatin1String(option.letter) : QString();
             lines.append(
-                u"complete -c labelport -n '__fish_seen_subcommand_from %1' -l %2%3 -d %4"_s.arg(
-                    QLatin1String(command.name), QLatin1String(option.name), fishArguments(option),
-                    fishQuoted(shortHelp(option))));
+                u"complete -c labelport -n '__fish_seen_subcommand_from %1'%2 -l %3%4 -d %5"_s.arg(
+                    QLatin1String(command.name), letter, QLatin1String(option.name),
+                    fishArguments(option), fishQuoted(shortHelp(option))));
         }
     }
     return joined(lines);
@@ -224,11 +226,13 @@ QString manualOptions(const cli::Command& command)
 {
     QStringList lines;
     for (const cli::Option& option : command.options) {
-        const QString name = manualText(u"--"_s + QLatin1String(option.name));
+        const QString letter =
+            option.letter != nullptr ? u"-%1, "_s.arg(QLatin1String(option.letter)) : QString();
+        const QString name = manualText(letter + u"--"_s + QLatin1String(option.name));
         lines.append(u".TP"_s);
-        lines.append(option.value != nullptr
-                         ? u".BI %1 \" %2\""_s.arg(name, manualText(QLatin1String(option.value)))
-                         : u".B "_s + name);
+        lines.append(option.value != nullptr ? u".BI \"%1\" \" %2\""_s.arg(
+                                                   name, manualText(QLatin1String(option.value)))
+                                             : u".B "_s + name);
         lines.append(manualText(QLatin1String(option.help)));
     }
     return joined(lines);

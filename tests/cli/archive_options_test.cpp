@@ -60,7 +60,8 @@ TEST(ArchiveOptions, AreTakenOver)
 TEST(ArchiveOptions, TakeTargetsFromEveryTo)
 {
     EXPECT_EQ(accepted("old --to png,svg --to label").targets,
-              (QList<exporting::Target>{exporting::Target::Png, exporting::Target::Svg, exporting::Target::Label}));
+              (QList<exporting::Target>{exporting::Target::Png, exporting::Target::Svg,
+                                        exporting::Target::Label}));
 }
 
 TEST(ArchiveOptions, TakeSeveralReports)
@@ -112,10 +113,10 @@ TEST(ArchiveOptions, AreRefusedWithoutEffect)
 // Workers get the options as JSON.
 TEST(JobOptions, SurviveTheirJson)
 {
-    for (const char* line : {"a", "a --dpi 72 --records 2-9 --force --reader tavrel",
-                             "a --records all", "a --report a.json",
-                             "a --to zpl --zpl-native --dpi 203",
-                             "a --to pdf --sheet A4 --first-position 3 --copies 2 --crop-marks"}) {
+    for (const char* line :
+         {"a", "a --dpi 72 --records 2-9 --force --reader tavrel", "a --records all",
+          "a --report a.json", "a --to zpl --zpl-native --dpi 203",
+          "a --to pdf --sheet A4 --first-position 3 --copies 2 --crop-marks"}) {
         SCOPED_TRACE(line);
         const cli::JobOptions options = accepted(line).job;
         QJsonObject object = cli::outputOptions(options);

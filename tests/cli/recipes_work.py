@@ -3,16 +3,20 @@
 
 recipes_work.py BIN RECIPES SAMPLES
 
-What a recipe's parts write must be what one import writes, and so must the merged report.
+What the parts of an archive write must be what one import writes, and so must the merged report. The
+other recipes have checks of their own.
 """
 
+import csv
 import os
 import pathlib
 import re
 import shutil
+import socket
 import subprocess
 import sys
 import tempfile
+import threading
 
 MERGE = "labelport report merge parts/*.json --to report.json --to report.html"
 
@@ -23,12 +27,19 @@ def block(text, heading, kind):
     return re.search(rf"```{kind}\n(.*?)```", below, re.DOTALL).group(1)
 
 
-def run(script, folder, programs, **environment):
+def run(script, folder, programs, expected=0, **environment):
+    """Runs a script and returns its output; ends the test if its status is another one."""
     environment = dict(os.environ, PATH=f"{programs}:{os.environ['PATH']}", **environment)
     done = subprocess.run(["bash", "-c", script], cwd=folder, env=environment, check=False,
                           capture_output=True, text=True)
-    if done.returncode:
+    if done.returncode != expected:
         sys.exit(f"status {done.returncode} of\n{script}\n{done.stdout}{done.stderr}")
+    return done.stdout
+
+
+def expect(condition, message):
+    if not condition:
+        sys.exit(message)
 
 
 def parallel(text, folder, programs):
@@ -60,6 +71,82 @@ def kubernetes(text, folder, programs):
     return True
 
 
+def records(text, folder, programs, samples):
+    (folder / "archive").mkdir()
+    shutil.copy(samples / "orvanta" / "asset_tag.qmtx", folder / "archive")
+    shutil.copy(samples / "opendocument" / "sample_vial.odg", folder / "archive")
+    run(block(text, "A CSV file of records", "sh"), folder, programs)
+    with open(folder / "records" / "asset_tag.csv", encoding="utf-8", newline="") as file:
+        header, *lines = csv.reader(file)
+    expect(header[0] == "record" and len(header) > 1, f"records: the columns are {header}")
+    expect(len(lines) > 10 and all(len(line) == len(header) for line in lines), "records: lines")
+    expect([line[0] for line in lines] == [str(number + 1) for number in range(len(lines))],
+           "records: numbers")
+    expect(lines[0][1:] != lines[1][1:], "records: the counter does not advance")
+    expect((folder / "records" / "sample_vial.csv").read_bytes() == b"record\r\n1\r\n",
+           "records: a label without data sources")
+    return f"{len(lines)} records"
+
+
+def printer(text, folder, programs, samples):
+    shutil.copy(samples / "orvanta" / "asset_tag.qmtx", folder / "asset.qmtx")
+    received = []
+
+    def listen(server):
+        connection, _ = server.accept()
+        with connection:
+            while data := connection.recv(65536):
+                received.append(data)
+
+    with socket.create_server(("127.0.0.1", 0)) as server:
+        server.settimeout(300)
+        thread = threading.Thread(target=listen, args=(server,))
+        thread.start()
+        run(block(text, "ZPL to a printer's port", "sh"), folder, programs, PRINTER="127.0.0.1",
+            PORT=str(server.getsockname()[1]))
+        thread.join()
+    labels = b"".join(received)
+    run("labelport import asset.qmtx --to zpl --dpi 203 --records 1-20", folder, programs)
+    expect(labels == (folder / "asset.zpl").read_bytes(), "printer: received something else")
+    expect(labels.count(b"^XA") == labels.count(b"^XZ") == 20, "printer: 20 labels")
+    return f"{len(labels)} bytes"
+
+
+def nightly(text, folder, programs, samples):
+    script = block(text, "A nightly job", "sh")
+    inbox = folder / "inbox"
+    inbox.mkdir()
+    shutil.copy(samples / "opendocument" / "sample_vial.odg", inbox)
+    expect(run(script, folder, programs, LABELS=str(folder)) == "", "nightly: prints too much")
+    (inbox / "lossy.qmtx").write_text(
+        "<qmtx><controls><rich_box/><transparent_label/></controls></qmtx>", encoding="utf-8")
+    expect("report.html" in run(script, folder, programs, expected=3, LABELS=str(folder)),
+           "nightly: does not report the loss")
+    (inbox / "broken.odg").write_text("no zip", encoding="utf-8")
+    expect("broken.odg" in run(script, folder, programs, expected=1, LABELS=str(folder)),
+           "nightly: does not name the broken file")
+    for name in ("sample_vial.label", "sample_vial.pdf", "lossy.pdf"):
+        expect((folder / "new" / name).is_file(), f"nightly: {name} is missing")
+    return "statuses 0, 3 and 1"
+
+
+def documents(text, folder, programs, samples):
+    shutil.copytree(samples / "opendocument", folder / "archive")
+    run(block(text, "An archive as PDF", "sh"), folder, programs)
+    expect((folder / "not-embedded.txt").read_text(encoding="utf-8") == "",
+           "documents: fonts are not embedded")
+    files = list((folder / "documents").glob("*.pdf"))
+    expect(len(files) == len(list((folder / "archive").glob("*.od?"))), "documents: files")
+    fonts = 0
+    for file in files:
+        lines = subprocess.run(["pdffonts", file], check=True, capture_output=True,
+                               text=True).stdout.splitlines()[2:]
+        fonts += len(lines)
+        expect(all(line.split()[-5] == "yes" for line in lines), f"documents: {file}")
+    expect(fonts > 0, "documents: no fonts at all")
+    return f"{fonts} embedded fonts in {len(files)} documents"
+
+
 def contents(folder):
     return {str(path.relative_to(folder)) for path in (folder / "new").rglob("*")
             if path.suffix in (".png", ".label")}
@@ -86,6 +173,10 @@ def main():
                 if (folder / report).read_bytes() != (whole / report).read_bytes():
                     sys.exit(f"{recipe.__name__}: {report} is not that of one import")
             print(f"{recipe.__name__}: {len(contents(folder))} files, and the report of one import")
+        for recipe in (records, printer, nightly, documents):
+            folder = pathlib.Path(work, recipe.__name__)
+            folder.mkdir()
+            print(f"{recipe.__name__}: {recipe(text, folder, programs, samples)}")
     return 0
 
 

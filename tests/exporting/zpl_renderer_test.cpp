@@ -197,7 +197,8 @@ TEST(RenderedNative, EverySymbologyReadsTheSame)
         canvas.importCanvasParameters(288.0, 144.0, false, false);
         workbench::ItemValues code;
         code.type = KestTypes::Barcode;
-        code.box.size = {200.0, 80.0};
+        const bool isMatrix = codes.at(index).symbology == 58 || codes.at(index).symbology == 71;
+        code.box.size = isMatrix ? QSizeF(40.0, 40.0) : QSizeF(200.0, 80.0);
         code.placement.position = {40.0, 30.0};
         code.barcode = workbench::BarcodeValues();
         code.barcode->symbology = codes.at(index).symbology;

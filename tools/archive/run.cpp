@@ -135,6 +135,12 @@ QString Run::fingerprint(qsizetype index) const
     return fingerprintOf(m_settings.options, plannedOutputs(index));
 }
 
+QString Run::outputPath(qsizetype index, const QString& target) const
+{
+    return m_settings.outputFile.isEmpty() ? inOutputFolder(m_names.output(index, target))
+                                           : m_settings.outputFile;
+}
+
 QString Run::inOutputFolder(const QString& path) const
 {
     return QDir::cleanPath(QDir(m_settings.outputFolder).filePath(path));
@@ -166,7 +172,7 @@ QByteArray Run::lineFor(qsizetype task, int slot)
         job.options.insert(entry.key(), entry.value());
     }
     for (const QString& target : m_settings.targets) {
-        job.outputs.append({target, inOutputFolder(m_names.output(task, target))});
+        job.outputs.append({target, outputPath(task, target)});
     }
     job.known = untouchedOutputs(m_journal.outputsOf(task), m_settings.outputFolder);
     return archive::lineOf(job);

@@ -25,6 +25,7 @@ struct RunSettings
 {
     QStringList targets; ///< names, which are the suffixes of the outputs
     QString outputFolder;
+    QString outputFile; ///< in that folder: the output of the only input and target; may be empty
     Shard shard;
     QJsonObject options;       ///< for workers; files imported with others are imported again
     QJsonObject workerOptions; ///< for workers; without influence on the outputs
@@ -93,6 +94,7 @@ private:
     [[nodiscard]] bool finishWithoutWorker(qsizetype index);
     [[nodiscard]] QStringList plannedOutputs(qsizetype index) const;
     [[nodiscard]] QString fingerprint(qsizetype index) const;
+    [[nodiscard]] QString outputPath(qsizetype index, const QString& target) const;
     [[nodiscard]] QString inOutputFolder(const QString& path) const;
     [[nodiscard]] bool isDoneAlready(qsizetype index);
     [[nodiscard]] JournalRecord recordFor(qsizetype index, const FileResult& result);

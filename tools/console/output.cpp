@@ -3,6 +3,7 @@
 #include "console/file_name.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <cerrno>
 #include <csignal>
@@ -74,6 +75,22 @@ void printText(const QString& text)
 void printBytes(const QByteArray& bytes)
 {
     write(bytes);
+}
+
+QString printFile(const QString& fileName)
+{
+    constexpr qint64 blockSize = 1024 * 1024;
+    const ReachablePath reachable(fileName);
+    QFile file(reachable.path());
+    bool isRead = file.open(QIODevice::ReadOnly);
+    while (isRead && !file.atEnd()) {
+        const QByteArray block = file.read(blockSize);
+        isRead = !block.isEmpty();
+        write(block);
+    }
+    return isRead ? QString()
+                  : QCoreApplication::translate("console::Output", "Cannot read \"%1\": %2.")
+                        .arg(fileName, file.errorString());
 }
 
 void printMessage(const QString& text)

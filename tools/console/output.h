@@ -31,6 +31,10 @@ void printText(const QString& text);
 /// Bytes on standard output as they are: JSON.
 void printBytes(const QByteArray& bytes);
 
+/// The content of a file on standard output. Returns why it could not be read, for a person; empty
+/// if it was.
+[[nodiscard]] QString printFile(const QString& fileName);
+
 /// A message for a person on standard error, after the program's name. Control characters are
 /// escaped.
 void printMessage(const QString& text);

@@ -13,7 +13,7 @@ constexpr int Middle = 128;
 /// Least difference of neighbors that is an edge and not a gradient.
 constexpr int EdgeContrast = 96;
 /// Most bytes of one graphic field. Older printers accept no more.
-constexpr int MaximumFieldBytes = 99'999;
+constexpr int FieldBytes = 99'999;
 
 /// The order in which the dots of a 4 by 4 cell are printed as a tone gets darker.
 constexpr std::array<std::array<int, 4>, 4> Pattern{
@@ -172,7 +172,7 @@ QImage printerDots(const QImage& picture, const QList<QRect>& barcodes)
 
 QByteArray graphicFields(const QImage& dots)
 {
-    const int rowsInField = std::max(1, MaximumFieldBytes / std::max(1, (dots.width() + 7) / 8));
+    const int rowsInField = std::max(1, FieldBytes / std::max(1, (dots.width() + 7) / 8));
     QByteArray fields;
     int row = 0;
     while (row < dots.height()) {

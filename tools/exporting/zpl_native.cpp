@@ -48,7 +48,7 @@ constexpr int DataMatrix = 71;
 /// Printers place a QR code this much lower.
 constexpr int QrOffset = 10;
 /// Most dots of a module.
-constexpr int MaximumModule = 10;
+constexpr int WidestModule = 10;
 /// Height of capitals and digits in the printer's font 0.
 constexpr double CapitalHeight = 0.75;
 
@@ -195,7 +195,7 @@ private:
         const bool isMatrix = code.symbology == QrCode || code.symbology == DataMatrix;
         const QRect bars = isMatrix ? ink : barsOf(alone, ink);
         const int module = moduleOf(alone, bars);
-        if (module < 1 || module > MaximumModule || (isMatrix && bars.width() != bars.height())) {
+        if (module < 1 || module > WidestModule || (isMatrix && bars.width() != bars.height())) {
             return {};
         }
         // A caption is a picture, unless it counts.

@@ -71,7 +71,7 @@ void setValue(const TargetOption& option, QWidget& editor, int value)
         choices.setCurrentIndex(choices.findData(value));
         break;
     }
-    case OptionKind::Name: // the position in the list; 0 is no name
+    case OptionKind::Name: // the position in the list; 0 is for no name
         dynamic_cast<QComboBox&>(editor).setCurrentIndex(value);
         break;
     case OptionKind::Switch:
