@@ -17,7 +17,7 @@ void fuzzOneInput(const QByteArray& input)
         !workbench::importLabel(original.path(), ReaderKind::OpenDocument).isImported()) {
         return;
     }
-    if (!repair::importRepaired(original.path()).isRepaired) {
+    if (!repair::importRepaired(original.path()).isRepaired()) {
         qFatal("the reader accepts a document, but not the repaired one");
     }
 }

@@ -6,12 +6,24 @@
 namespace cli {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 migration::FileReport reportWithoutWorker(const archive::Input& input)
 {
     migration::FileReport report;
     report.file = console::shownFileName(input.shownName);
     report.bytes = archive::stampOf(input.path).value_or(archive::FileStamp{}).size;
     return report;
+}
+
+// The texts contain the sums over all pages, which come later.
+QList<migration::RepairReport> repairsOf(const OpenedLabel& label)
+{
+    QList<migration::RepairReport> repairs;
+    for (const repair::Repair& repair : label.repairs) {
+        repairs.append({repair.code, {}, repair.count});
+    }
+    return repairs;
 }
 
 } // namespace
@@ -33,13 +45,43 @@ migration::Status statusOf(archive::FileOutcome outcome)
     return migration::Status::Failed;
 }
 
-migration::FileReport reportOn(const LabelInput& input, const OpenedLabel& label,
-                               const QString& shownName, const migration::ReportOptions& options)
+WorkerReport::WorkerReport(const LabelInput& input, const QString& shownName,
+                           const migration::ReportOptions& options)
+    : m_input(input)
+    , m_name(console::shownFileName(shownName))
+    , m_options(options)
+{}
+
+void WorkerReport::add(const OpenedLabel& label)
 {
-    const QString name = console::shownFileName(shownName);
-    return input.reader()
-               ? migration::makeFileReport(input.path(), name, *input.reader(), label, options)
-               : migration::makeSavedLabelReport(input.path(), name, label, options);
+    if (label.isRepaired()) {
+        if (!m_pages) {
+            m_pages =
+                std::make_unique<migration::RepairedFileReport>(m_input.path(), m_name, m_options);
+        }
+        ++m_pageCount;
+        m_pages->addPage(label, label.package, repairsOf(label), label.pageCount > 1);
+        return;
+    }
+    m_report =
+        m_input.reader()
+            ? migration::makeFileReport(m_input.path(), m_name, *m_input.reader(), label, m_options)
+            : migration::makeSavedLabelReport(m_input.path(), m_name, label, m_options);
+}
+
+migration::FileReport WorkerReport::finish(bool allPages)
+{
+    if (!m_pages) {
+        return m_report;
+    }
+    migration::FileReport report = m_pages->finish(allPages);
+    if (m_pageCount > 1) {
+        report.repaired.append({u"pages-separated"_s, {}, m_pageCount - 1});
+    }
+    for (migration::RepairReport& repair : report.repaired) {
+        repair.text = repair::repairText({repair.code, static_cast<int>(repair.count)});
+    }
+    return report;
 }
 
 migration::FileReport finalReport(const archive::Delivery& delivery)

@@ -230,6 +230,7 @@ ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
                                                      : QFileInfo(options.output).path();
     takeShard(given, options);
     takeReports(given, options);
+    options.job.asWritten = given.isSet("as-written"_L1);
     options.job.force = given.isSet("force"_L1);
     options.resume = given.isSet("resume"_L1);
     options.quiet = given.isSet("quiet"_L1);

@@ -8,8 +8,11 @@
 #include "cli/print_worker.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QEvent>
+#include <QFileInfo>
 
+#include <algorithm>
 #include <new>
 
 namespace cli {
@@ -29,52 +32,115 @@ QStringList warningsOf(const OpenedLabel& label)
     return warnings;
 }
 
-void writeAll(OpenedLabel& label, const archive::Job& job, const JobOptions& options,
-              const archive::Heartbeat& heartbeat, archive::FileResult& result)
+// "new/shelf.png" becomes "new/shelf-2.png".
+QString nameOfPage(const QString& output, const QString& mark, int page)
 {
-    LabelWriter writer(label, {options, job.known}, job.staging, heartbeat);
-    for (const archive::PlannedFile& output : job.outputs) {
-        const std::optional<exporting::Target> target = exporting::targetOfName(output.target);
-        if (target) {
-            Written written = writer.write(*target, output.path);
-            result.files += written.files;
-            result.errors += written.error.isEmpty() ? QStringList() : QStringList{written.error};
-        }
-    }
+    const QFileInfo info(output);
+    return QDir::cleanPath(info.dir().filePath(info.completeBaseName() + mark +
+                                               QString::number(page) + u'.' + info.suffix()));
 }
 
-/// One file: select the reader, import, describe and compare, write.
-archive::FileResult importFile(const archive::Job& job, const archive::Heartbeat& heartbeat)
+/// One file: its label, and those of its further pages.
+class FileImport
 {
-    const JobOptions options = jobOptionsFromJson(job.options);
-    const LabelInput input(job.file, job.shownName, options.reader);
-    OpenedLabel label = openLabel(input);
-    heartbeat();
-    archive::FileResult result;
-    result.warnings = warningsOf(label);
-    // Before anything is written, because that shows other records on the canvas.
-    result.report = migration::toJson(
-        reportOn(input, label, job.shownName, {options.thumbnail, options.items}));
-    heartbeat();
-    if (label.isOpen()) {
-        writeAll(label, job, options, heartbeat, result);
-        result.outcome =
-            result.errors.isEmpty() ? archive::FileOutcome::Done : archive::FileOutcome::Failed;
-    } else {
-        result.errors.append(label.error.replace(input.path(), job.file));
-        result.outcome =
-            label.isOutOfMemory ? archive::FileOutcome::OutOfMemory : archive::FileOutcome::Failed;
+public:
+    FileImport(const archive::Job& job, archive::Heartbeat heartbeat)
+        : m_job(job)
+        , m_options(jobOptionsFromJson(job.options))
+        , m_input(job.file, job.shownName, m_options.reader)
+        , m_report(m_input, job.shownName, {m_options.thumbnail, m_options.items})
+        , m_heartbeat(std::move(heartbeat))
+    {}
+
+    /// Select the reader, import, describe and compare, write.
+    archive::FileResult run()
+    {
+        int pages = 1;
+        {
+            OpenedLabel label = openLabel(m_input, m_options.asWritten);
+            m_heartbeat();
+            take(label, 1);
+            pages = label.pageCount;
+        }
+        const bool isComplete = importFurtherPages(pages);
+        m_result.report = migration::toJson(m_report.finish(isComplete));
+        return m_result;
     }
-    return result;
-}
+
+private:
+    // One after the other, so that only one is in memory. Returns whether there is a label of each.
+    bool importFurtherPages(int pages)
+    {
+        bool isComplete = true;
+        for (int page = 2; page <= std::min(pages, repair::MaximumPages); ++page) {
+            OpenedLabel label = openFurtherPage(m_input, page);
+            m_heartbeat();
+            if (label.isOpen()) {
+                take(label, page);
+            } else {
+                isComplete = false;
+                m_result.warnings.append(QCoreApplication::translate(
+                                             "cli::ImportWorker", "Page %1 could not be imported.")
+                                             .arg(page));
+            }
+        }
+        if (pages > repair::MaximumPages) {
+            isComplete = false;
+            m_result.warnings.append(
+                QCoreApplication::translate("cli::ImportWorker",
+                                            "Only the first %1 of %2 pages were imported.")
+                    .arg(repair::MaximumPages)
+                    .arg(pages));
+        }
+        return isComplete;
+    }
+
+    void take(OpenedLabel& label, int page)
+    {
+        m_result.warnings += warningsOf(label);
+        m_report.add(label);
+        m_heartbeat();
+        if (label.isOpen()) {
+            write(label, page);
+            m_result.outcome = m_result.errors.isEmpty() ? archive::FileOutcome::Done
+                                                         : archive::FileOutcome::Failed;
+        } else {
+            m_result.errors.append(label.error.replace(m_input.path(), m_job.file));
+            m_result.outcome = label.isOutOfMemory ? archive::FileOutcome::OutOfMemory
+                                                   : archive::FileOutcome::Failed;
+        }
+    }
+
+    void write(OpenedLabel& label, int page)
+    {
+        LabelWriter writer(label, {m_options, m_job.known, page}, m_job.staging, m_heartbeat);
+        for (const archive::PlannedFile& output : m_job.outputs) {
+            const std::optional<exporting::Target> target = exporting::targetOfName(output.target);
+            if (target) {
+                const QString path =
+                    page == 1 ? output.path : nameOfPage(output.path, m_job.pageMark, page);
+                Written written = writer.write(*target, path);
+                m_result.files += written.files;
+                m_result.errors +=
+                    written.error.isEmpty() ? QStringList() : QStringList{written.error};
+            }
+        }
+    }
+
+    const archive::Job& m_job;
+    JobOptions m_options;
+    LabelInput m_input;
+    WorkerReport m_report;
+    archive::Heartbeat m_heartbeat;
+    archive::FileResult m_result;
+};
 
 } // namespace
 
 archive::FileResult importJob(const archive::Job& job, const archive::Heartbeat& heartbeat)
 {
     try {
-        archive::FileResult result =
-            isPrintJob(job) ? writePrintDocuments(job, heartbeat) : importFile(job, heartbeat);
+        archive::FileResult result = FileImport(job, heartbeat).run();
         // No event loop runs here that would delete these objects.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return result;

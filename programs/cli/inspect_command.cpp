@@ -52,6 +52,7 @@ std::optional<JobOptions> optionsOf(const QCommandLineParser& parser, QString& e
 {
     JobOptions options;
     options.items = true;
+    options.asWritten = parser.isSet(u"as-written"_s);
     const QString reader = parser.value(u"reader"_s);
     options.reader = readerOfName(reader);
     if (parser.isSet(u"reader"_s) && !options.reader) {

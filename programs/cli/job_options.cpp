@@ -17,6 +17,7 @@ constexpr QLatin1String FirstPositionKey("firstPosition");
 constexpr QLatin1String CopiesKey("copies");
 constexpr QLatin1String CropMarksKey("cropMarks");
 constexpr QLatin1String ZplNativeKey("zplNative");
+constexpr QLatin1String AsWrittenKey("asWritten");
 constexpr QLatin1String ForceKey("force");
 constexpr QLatin1String ItemsKey("items");
 constexpr QLatin1String ThumbnailKey("thumbnail");
@@ -44,6 +45,9 @@ QJsonObject outputOptions(const JobOptions& options)
     if (options.copies > 1) {
         object.insert(CopiesKey, options.copies);
     }
+    if (options.asWritten) {
+        object.insert(AsWrittenKey, true);
+    }
     return object;
 }
 
@@ -68,6 +72,7 @@ JobOptions jobOptionsFromJson(const QJsonObject& object)
     options.copies = object.value(CopiesKey).toInt(options.copies);
     options.cropMarks = object.value(CropMarksKey).toBool();
     options.zplNative = object.value(ZplNativeKey).toBool();
+    options.asWritten = object.value(AsWrittenKey).toBool();
     options.force = object.value(ForceKey).toBool();
     options.items = object.value(ItemsKey).toBool();
     options.thumbnail = object.value(ThumbnailKey).toBool();

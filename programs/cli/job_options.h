@@ -22,6 +22,7 @@ struct JobOptions
     bool cropMarks = false;
     bool zplNative = false;           ///< the printer draws what it can
     std::optional<ReaderKind> reader; ///< empty: selected by name or content
+    bool asWritten = false;           ///< without repair
     bool force = false;               ///< overwrite files that are not ours
     bool items = false;               ///< list every item in the report
     bool thumbnail = false;           ///< add a picture to the report

@@ -1,5 +1,6 @@
 #include "cli/label_input.h"
 
+#include "repair/repaired_import.h"
 #include "workbench/document/label_file.h"
 
 #include <QFileInfo>
@@ -35,6 +36,15 @@ OpenedLabel openSaved(const QString& path)
     return label;
 }
 
+OpenedLabel opened(repair::RepairedImport import)
+{
+    OpenedLabel label{std::move(import.result)};
+    label.repairs = std::move(import.repairs);
+    label.package = std::move(import.package);
+    label.pageCount = import.pageCount;
+    return label;
+}
+
 } // namespace
 
 LabelInput::LabelInput(const QString& file, const QString& name, std::optional<ReaderKind> reader)
@@ -42,10 +52,20 @@ LabelInput::LabelInput(const QString& file, const QString& name, std::optional<R
     , m_reader(reader ? reader : selectedReader(name, m_reachable.path()))
 {}
 
-OpenedLabel openLabel(const LabelInput& input)
+OpenedLabel openLabel(const LabelInput& input, bool asWritten)
 {
-    return input.reader() ? OpenedLabel{workbench::importLabel(input.path(), *input.reader())}
-                          : openSaved(input.path());
+    if (!input.reader()) {
+        return openSaved(input.path());
+    }
+    if (*input.reader() == ReaderKind::OpenDocument && !asWritten) {
+        return opened(repair::importRepaired(input.path()));
+    }
+    return OpenedLabel{workbench::importLabel(input.path(), *input.reader())};
+}
+
+OpenedLabel openFurtherPage(const LabelInput& input, int page)
+{
+    return opened(repair::importFurtherPage(input.path(), page));
 }
 
 } // namespace cli

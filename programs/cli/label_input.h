@@ -2,6 +2,7 @@
 
 #include "console/file_name.h"
 #include "importer/reader_choice.h"
+#include "repair/repair.h"
 #include "workbench/import/label_import.h"
 
 #include <QString>
@@ -34,9 +35,18 @@ private:
 struct OpenedLabel : workbench::ImportResult
 {
     [[nodiscard]] bool isOpen() const { return isImported(); }
+    [[nodiscard]] bool isRepaired() const { return !package.isEmpty(); }
+
+    QList<repair::Repair> repairs = {};
+    /// The repaired document that was imported; empty if it was not repaired.
+    QByteArray package = {};
+    int pageCount = 1; ///< of the document; further pages are labels of their own
 };
 
 /// Opens the label; error says why that failed.
-[[nodiscard]] OpenedLabel openLabel(const LabelInput& input);
+/// @param asWritten without repair
+[[nodiscard]] OpenedLabel openLabel(const LabelInput& input, bool asWritten = false);
+/// Opens a further page of a document that was repaired, from 2.
+[[nodiscard]] OpenedLabel openFurtherPage(const LabelInput& input, int page);
 
 } // namespace cli

@@ -125,7 +125,8 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
     }
     const bool mayReplace =
         m_options.job.force || console::kindOf(output) != console::FileKind::Missing;
-    const QString name = u"%1.%2"_s.arg(++m_written).arg(QFileInfo(output).suffix());
+    const QString name =
+        u"%1-%2.%3"_s.arg(m_options.page).arg(++m_written).arg(QFileInfo(output).suffix());
     const QString path = QDir(m_reachable.path()).filePath(name);
     QString error = write(path);
     m_heartbeat();

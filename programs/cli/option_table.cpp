@@ -48,6 +48,9 @@ constexpr Option CropMarksOption{
     "crop-marks", nullptr,
     QT_TRANSLATE_NOOP("cli::Options", "Print marks on the edges of sheets that show where to "
                                       "cut.")};
+constexpr Option AsWrittenOption{
+    "as-written", nullptr,
+    QT_TRANSLATE_NOOP("cli::Options", "Import OpenDocument files without repairing them first.")};
 
 constexpr std::array ImportOptions{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "targets"),
@@ -88,6 +91,7 @@ constexpr std::array ImportOptions{
            QT_TRANSLATE_NOOP("cli::Options",
                              "Overwrite files that labelport did not write, and edited labels.")},
     ReaderOption,
+    AsWrittenOption,
     Option{"files-from", QT_TRANSLATE_NOOP("cli::Options", "list"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "Also import the files named in this list, one name on each line or "
@@ -156,7 +160,7 @@ constexpr std::array PrintOptions{
 
 constexpr std::array InspectOptions{
     Option{"json", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Print JSON, as in reports.")},
-    ReaderOption, TimeoutOption, MemoryOption};
+    ReaderOption, AsWrittenOption, TimeoutOption, MemoryOption};
 
 constexpr std::array RecordsOptions{
     Option{

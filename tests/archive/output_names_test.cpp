@@ -97,4 +97,17 @@ TEST(OutputNames, DoNotStandWhereAFolderMust)
     EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv"), list("svg png")), list("contested x.png/a.svg"));
 }
 
+TEST(OutputNames, KeepPagesApartFromOtherOutputs)
+{
+    const auto markOf = [](const char* names) {
+        const QList<archive::Input> inputs = inputsOf(list(names));
+        return archive::OutputNames(inputs, {u"png"_s}).pageMark(0);
+    };
+    EXPECT_EQ(markOf("shelf.odg"), u"-"_s);
+    EXPECT_EQ(markOf("shelf.odg rack-2.odg"), u"-"_s);
+    EXPECT_EQ(markOf("shelf.odg shelf-2.odg"), u"-page-"_s);
+    EXPECT_EQ(markOf("shelf.odg shelf-17.cnv shelf-page-3.odg"), u"-page-page-"_s);
+    EXPECT_EQ(markOf("a>shelf.odg b>shelf-2.odg"), u"-"_s);
+}
+
 } // namespace

@@ -67,6 +67,9 @@ template <class Value, class Make>
     report.complete = randomList<KindCount>(random, kind);
     report.changed = randomList<Finding>(random, finding);
     report.lost = randomList<Finding>(random, finding);
+    report.repaired = randomList<RepairReport>(random, [&] {
+        return RepairReport{text(), text(), number()};
+    });
     report.datasources = randomList<SourceReport>(random, [&] {
         return SourceReport{number(), text(), randomList<QString>(random, text), text()};
     });

@@ -26,6 +26,7 @@ FileReport sampleReport()
                     2,
                     true,
                     {QStringLiteral("A"), QStringLiteral("B")}}};
+    report.repaired = {{QStringLiteral("lists-replaced"), QStringLiteral("A list."), 1}};
     report.datasources = {{4, QStringLiteral("SequenceDatasource"), {QStringLiteral("Value")}, {}}};
     report.issues = {{QStringLiteral("Something."), -1, 3}};
     return report;
@@ -49,6 +50,8 @@ TEST(Inspect, DescribesALabelOnOneScreen)
               "  1 × Text\n"
               "Not imported:\n"
               "  table (×2): Tables were left out. [A, B]\n"
+              "Repaired:\n"
+              "  lists-replaced: A list.\n"
               "Warnings:\n"
               "  Something. (×3)\n");
 }

@@ -37,7 +37,7 @@ protected:
             writePackage(folder.path(), drawingContent(shapes, styles), drawingStyles());
         import = repair::importRepaired(original);
         ASSERT_TRUE(import.result.isImported()) << import.result.error.toStdString();
-        ASSERT_TRUE(import.isRepaired);
+        ASSERT_TRUE(import.isRepaired());
     }
 
     [[nodiscard]] workbench::ItemValues item(KestTypes::ShapeType type) const
@@ -149,8 +149,11 @@ TEST(Repair, ImportsAsWrittenWhatItCannotRepair)
     const repair::RepairedImport import =
         repair::importRepaired(writePackage(folder.path(), sheet, drawingStyles()));
     ASSERT_TRUE(import.result.isImported()) << import.result.error.toStdString();
-    EXPECT_FALSE(import.isRepaired);
+    EXPECT_FALSE(import.isRepaired());
     EXPECT_TRUE(import.repairs.isEmpty());
+    ASSERT_FALSE(import.result.issues.isEmpty());
+    EXPECT_EQ(import.result.issues.constLast().text,
+              "The document could not be repaired: it was imported as it is written."_L1);
     EXPECT_FALSE(repair::importRepaired(folder.filePath(u"missing.odg"_s)).result.isImported());
 }
 
@@ -169,7 +172,7 @@ TEST(Repair, LaysOutTextDocuments)
         "</office:text></office:body></office:document-content>";
     const repair::RepairedImport import =
         repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
-    ASSERT_TRUE(import.isRepaired);
+    ASSERT_TRUE(import.isRepaired());
     EXPECT_EQ(import.pageCount, 2);
     QList<workbench::ItemValues> texts;
     for (const workbench::CanvasItem* item : import.result.canvas->items()) {
@@ -202,7 +205,7 @@ TEST(Repair, BreaksTheLinesOfTextDocuments)
                               "</style:default-style>";
     const repair::RepairedImport import =
         repair::importRepaired(writePackage(folder.path(), content, drawingStyles(noWrap)));
-    ASSERT_TRUE(import.isRepaired);
+    ASSERT_TRUE(import.isRepaired());
     const workbench::ItemValues text = import.result.canvas->items().back()->values();
     ASSERT_EQ(text.type, KestTypes::RichText);
     EXPECT_LE(text.box.size.width(), import.result.canvas->page().size.width() + 1.0);
@@ -217,7 +220,7 @@ TEST(Repair, GivesEachPageADocumentOfItsOwn)
     content.replace("</draw:page>", "</draw:page><draw:page><draw:ellipse svg:width=\"1in\" "
                                     "svg:height=\"1in\"/></draw:page>");
     const QString file = writePackage(folder.path(), content, drawingStyles());
-    const repair::RepairedImport second = repair::importRepaired(file, 2);
+    const repair::RepairedImport second = repair::importFurtherPage(file, 2);
     EXPECT_EQ(second.pageCount, 2);
     ASSERT_EQ(second.result.canvas->items().size(), 1);
     EXPECT_EQ(second.result.canvas->items().front()->shapeType(), KestTypes::Ellipse);

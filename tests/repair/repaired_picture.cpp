@@ -23,12 +23,13 @@ int main(int argc, char** argv)
         return 2;
     }
     const int page = std::max(1, arguments.value(4).toInt());
-    const repair::RepairedImport import = repair::importRepaired(arguments[1], page);
+    const repair::RepairedImport import = page == 1 ? repair::importRepaired(arguments[1])
+                                                    : repair::importFurtherPage(arguments[1], page);
     if (!import.result.isImported()) {
         out << import.result.error << '\n';
         return 1;
     }
-    out << (import.isRepaired ? "repaired" : "as written") << ", page " << page << " of "
+    out << (import.isRepaired() ? "repaired" : "as written") << ", page " << page << " of "
         << import.pageCount << '\n';
     for (const repair::Repair& each : import.repairs) {
         out << each.code << ": " << repair::repairText(each) << '\n';

@@ -105,6 +105,7 @@ QByteArray lineOf(const Job& job)
     return lineOf(QJsonObject{{u"file"_s, job.file},
                               {u"shownName"_s, job.shownName},
                               {u"outputs"_s, arrayOf(job.outputs, jsonOfPlanned)},
+                              {u"pageMark"_s, job.pageMark},
                               {u"staging"_s, job.staging},
                               {u"known"_s, arrayOf(job.known, stamp)},
                               {u"options"_s, job.options}});
@@ -131,7 +132,8 @@ std::optional<Job> jobFromLine(const QByteArray& line)
                listOf(object.value("outputs"_L1), plannedOf),
                object.value("staging"_L1).toString(),
                listOf(object.value("known"_L1), fileStampFromJson),
-               object.value("options"_L1).toObject()};
+               object.value("options"_L1).toObject(),
+               object.value("pageMark"_L1).toString()};
 }
 
 std::optional<FileResult> resultFromLine(const QByteArray& line)

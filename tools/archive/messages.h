@@ -30,6 +30,8 @@ struct Job
     QString staging;        ///< an empty folder of the worker, to write to
     QList<FileStamp> known; ///< outputs of earlier commands for this file
     QJsonObject options;    ///< of the command; opaque to the coordinator
+    /// Between the name of an output and the number of a further page: "shelf-2.png".
+    QString pageMark = QString(u'-');
     bool operator==(const Job&) const = default;
 };
 

@@ -14,6 +14,14 @@ QString below(const QString& folder, const QString& name)
     return folder.isEmpty() ? name : folder + u'/' + name;
 }
 
+QString withoutNumber(QString name)
+{
+    while (!name.isEmpty() && name.back() >= u'0' && name.back() <= u'9') {
+        name.chop(1);
+    }
+    return name;
+}
+
 /// Every folder that contains an output of the inputs, with those above it.
 QSet<QString> foldersOf(const QList<Input>& inputs)
 {
@@ -39,6 +47,13 @@ OutputNames::OutputNames(const QList<Input>& inputs, const QStringList& suffixes
     settle(Stem, WholeName);
     settle(WholeName, Contested);
     contestFolders(suffixes);
+    for (qsizetype index = 0; index < m_inputs.size(); ++index) {
+        const QString name = stem(index);
+        const QString letters = withoutNumber(name);
+        if (letters != name) {
+            m_numbered.insert(letters);
+        }
+    }
 }
 
 QString OutputNames::output(qsizetype index, const QString& suffix) const
@@ -49,6 +64,15 @@ QString OutputNames::output(qsizetype index, const QString& suffix) const
 bool OutputNames::isContested(qsizetype index) const
 {
     return m_naming.at(index) == Contested;
+}
+
+QString OutputNames::pageMark(qsizetype index) const
+{
+    QString mark = u"-"_s;
+    while (m_numbered.contains(stem(index) + mark)) {
+        mark.prepend(u"-page"_s);
+    }
+    return mark;
 }
 
 QString OutputNames::stem(qsizetype index) const

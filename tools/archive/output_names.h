@@ -2,6 +2,7 @@
 
 #include "archive/input_list.h"
 
+#include <QSet>
 #include <QStringList>
 
 /// Where the outputs of one command go.
@@ -27,6 +28,10 @@ public:
     [[nodiscard]] QString output(qsizetype index, const QString& suffix) const;
     /// Whether another input of the same command has the same output; neither may be written.
     [[nodiscard]] bool isContested(qsizetype index) const;
+    /// What separates the name of an input's output from the number of a page, so that no page of
+    /// it has the name of another input's output: "-", or "-page-" if shelf.odg and shelf-2.odg
+    /// are both imported.
+    [[nodiscard]] QString pageMark(qsizetype index) const;
 
 private:
     enum Naming : quint8 { Stem, WholeName, Contested };
@@ -37,6 +42,8 @@ private:
 
     const QList<Input>& m_inputs;
     QList<Naming> m_naming;
+    /// The names of outputs that end in a number, without it.
+    QSet<QString> m_numbered;
 };
 
 } // namespace archive

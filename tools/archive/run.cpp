@@ -174,6 +174,7 @@ QByteArray Run::lineFor(qsizetype task, int slot)
     for (const QString& target : m_settings.targets) {
         job.outputs.append({target, outputPath(task, target)});
     }
+    job.pageMark = m_names.pageMark(task);
     job.known = untouchedOutputs(m_journal.outputsOf(task), m_settings.outputFolder);
     return archive::lineOf(job);
 }

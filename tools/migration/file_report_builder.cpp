@@ -10,6 +10,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace migration {
@@ -45,6 +47,20 @@ Count countFor(ReaderKind reader)
         break;
     }
     return &countTavrel;
+}
+
+void addRepairs(QList<RepairReport>& sums, const QList<RepairReport>& repairs)
+{
+    for (const RepairReport& repair : repairs) {
+        const auto same =
+            std::find_if(sums.begin(), sums.end(),
+                         [&repair](const RepairReport& sum) { return sum.code == repair.code; });
+        if (same != sums.end()) {
+            same->count += repair.count;
+        } else {
+            sums.append(repair);
+        }
+    }
 }
 
 FileReport reportOn(const QString& fileName, const QString& shownName, const QString& reader,
@@ -87,6 +103,48 @@ FileReport makeFileReport(const QString& fileName, const QString& shownName, Rea
                           const workbench::ImportResult& result, const ReportOptions& options)
 {
     return reportOn(fileName, shownName, readerOf(reader).name, countFor(reader), result, options);
+}
+
+RepairedFileReport::RepairedFileReport(const QString& fileName, const QString& shownName,
+                                       const ReportOptions& options)
+    : m_options(options)
+    , m_census(censusOf(fileName, &countOpenDocument))
+    , m_losses(m_census)
+{
+    m_report.file = shownName;
+    m_report.bytes = QFileInfo(fileName).size();
+    m_report.reader = readerOf(ReaderKind::OpenDocument).name;
+}
+
+void RepairedFileReport::addPage(const workbench::ImportResult& result, const QByteArray& package,
+                                 const QList<RepairReport>& repairs, bool isPart)
+{
+    const bool isFirst = ++m_pages == 1;
+    m_report.status = Status::Imported;
+    FileReport page;
+    describeLabel(result, page);
+    if (isFirst) {
+        m_report.page = page.page;
+        m_report.itemList = m_options.itemList ? itemListOf(*result.canvas) : QList<ItemReport>();
+        m_report.thumbnail = m_options.thumbnail ? thumbnailOf(*result.canvas) : QByteArray();
+    }
+    addCounts(m_report.items, page.items);
+    m_report.issues.append(page.issues);
+    addRepairs(m_report.repaired, repairs);
+    LabelFacts label = lookAtItems(*result.canvas, false);
+    const bool isText = std::any_of(repairs.begin(), repairs.end(), [](const RepairReport& repair) {
+        return repair.code == "text-laid-out"_L1;
+    });
+    checkLabel(m_census, *result.canvas,
+               {.page = isText ? 0 : m_pages, .isRepaired = true, .isPart = isText && isPart},
+               label);
+    m_losses.addPage(countOpenDocument(package), label, lossesOfLog(result));
+}
+
+FileReport RepairedFileReport::finish(bool allPages)
+{
+    m_losses.fill(m_report, allPages);
+    return m_report;
 }
 
 FileReport makeSavedLabelReport(const QString& fileName, const QString& shownName,

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "importer/reader_choice.h"
+#include "migration/losses/repaired_losses.h"
+#include "migration/model/census.h"
 #include "migration/model/file_report.h"
 
 #include <QString>
@@ -28,6 +30,30 @@ struct ReportOptions
 [[nodiscard]] FileReport makeFileReport(const QString& fileName, const QString& shownName,
                                         ReaderKind reader, const workbench::ImportResult& result,
                                         const ReportOptions& options = {});
+
+/// Builds the report of an OpenDocument file whose pages were repaired and imported one by one.
+class RepairedFileReport
+{
+public:
+    /// @param fileName the file, as the user has it
+    RepairedFileReport(const QString& fileName, const QString& shownName,
+                       const ReportOptions& options = {});
+
+    /// A page that was imported. The picture and the list of items are those of the first one.
+    /// @param package the repaired document that the reader imported
+    /// @param isPart  whether the file has further pages
+    void addPage(const workbench::ImportResult& result, const QByteArray& package,
+                 const QList<RepairReport>& repairs, bool isPart);
+    /// @param allPages whether each page of the file was added
+    [[nodiscard]] FileReport finish(bool allPages);
+
+private:
+    ReportOptions m_options;
+    Census m_census;
+    RepairedLosses m_losses;
+    FileReport m_report;
+    int m_pages = 0;
+};
 
 /// Builds the report of a saved label (*.label) that was opened. Uses only canvas, datasources and
 /// error of the result.

@@ -46,6 +46,9 @@ constexpr Preparation Preparations[] = {
      QT_TRANSLATE_NOOP("repair", "The page got the size of its master page")},
     {"text-laid-out"_L1, QT_TRANSLATE_NOOP("repair", "The text was laid out with its margins, "
                                                      "spacing, pictures and tables")},
+    // Made by who imports the pages one by one.
+    {"pages-separated"_L1,
+     QT_TRANSLATE_NOOP("repair", "%n further pages became labels of their own")},
 };
 
 // In the order in which they are applied.
@@ -121,6 +124,9 @@ void rewrite(Document& document, QList<Repair>& repairs)
 
 std::optional<RepairedPage> repairPage(const QString& fileName, int number)
 {
+    if (number > MaximumPages) {
+        return std::nullopt;
+    }
     Package package(fileName);
     std::optional<Document> document = package.readDocument();
     if (!document) {

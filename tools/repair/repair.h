@@ -10,6 +10,9 @@
 
 namespace repair {
 
+/// Most pages of a document that become labels of their own. Each takes as long as the first.
+inline constexpr int MaximumPages = 200;
+
 /// One kind of repair that was made.
 struct Repair
 {

@@ -2,7 +2,10 @@
 
 #include "repair/apply_plan.h"
 
+#include <QCoreApplication>
 #include <QTemporaryFile>
+
+#include <new>
 
 namespace repair {
 
@@ -17,22 +20,47 @@ workbench::ImportResult importPackage(const QByteArray& package)
     return workbench::importLabel(file.fileName(), ReaderKind::OpenDocument);
 }
 
-} // namespace
-
-RepairedImport importRepaired(const QString& fileName, int page)
+RepairedImport importPage(const QString& fileName, int page)
 {
     RepairedImport import;
-    if (const auto repaired = repairPage(fileName, page)) {
-        import.result = importPackage(repaired->package);
+    std::optional<RepairedPage> repaired = repairPage(fileName, page);
+    if (!repaired) {
+        return import;
+    }
+    import.result = importPackage(repaired->package);
+    if (import.result.isImported()) {
+        applyPlan(*import.result.canvas, repaired->plan);
+        import.repairs = std::move(repaired->repairs);
+        import.package = std::move(repaired->package);
+        import.pageCount = repaired->pageCount;
+    }
+    return import;
+}
+
+} // namespace
+
+RepairedImport importFurtherPage(const QString& fileName, int page)
+{
+    try {
+        return importPage(fileName, page);
+    } catch (const std::bad_alloc&) {
+        // The repaired document is larger than the original, which may still fit.
+        return {};
+    }
+}
+
+RepairedImport importRepaired(const QString& fileName)
+{
+    RepairedImport import = importFurtherPage(fileName, 1);
+    if (!import.isRepaired()) {
+        import.result = workbench::importLabel(fileName, ReaderKind::OpenDocument);
         if (import.result.isImported()) {
-            applyPlan(*import.result.canvas, repaired->plan);
-            import.repairs = repaired->repairs;
-            import.pageCount = repaired->pageCount;
-            import.isRepaired = true;
-            return import;
+            import.result.issues.append(
+                {.text = QCoreApplication::translate(
+                     "repair", "The document could not be repaired: it was imported as it is "
+                               "written.")});
         }
     }
-    import.result = workbench::importLabel(fileName, ReaderKind::OpenDocument);
     return import;
 }
 

@@ -12,17 +12,22 @@ struct RepairedImport
     workbench::ImportResult result;
     /// Empty if the document was imported as it is written.
     QList<Repair> repairs;
-    /// Whether the repaired document was imported. If not, the original was.
-    bool isRepaired = false;
+    /// The repaired document that was imported; empty if the original was.
+    QByteArray package;
     /// Pages of the document; 1 if it could not be repaired.
     int pageCount = 1;
+
+    [[nodiscard]] bool isRepaired() const { return !package.isEmpty(); }
 };
 
 /// Repairs an OpenDocument file, imports the result, and sets what the reader cannot carry. A
 /// document that cannot be repaired, or whose repaired form is refused, is imported as it is
-/// written.
+/// written; an issue of the result mentions that.
+[[nodiscard]] RepairedImport importRepaired(const QString& fileName);
+
+/// The same for one of its further pages, which cannot be imported without repair.
 ///
-/// @param page from 1
-[[nodiscard]] RepairedImport importRepaired(const QString& fileName, int page = 1);
+/// @param page from 2
+[[nodiscard]] RepairedImport importFurtherPage(const QString& fileName, int page);
 
 } // namespace repair

@@ -32,6 +32,13 @@ public:
         return m_bits.test(static_cast<std::size_t>(kind));
     }
     [[nodiscard]] bool isEmpty() const { return m_bits.none(); }
+    template <class Kinds>
+    void remove(const Kinds& kinds)
+    {
+        for (const LossKind kind : kinds) {
+            m_bits.reset(static_cast<std::size_t>(kind));
+        }
+    }
     bool operator==(const LossSet&) const = default;
 
 private:

@@ -53,6 +53,15 @@ struct Finding
     bool operator==(const Finding&) const = default;
 };
 
+/// A kind of repair that was made.
+struct RepairReport
+{
+    QString code; ///< of tools/repair
+    QString text; ///< for the user
+    qint64 count = 1;
+    bool operator==(const RepairReport&) const = default;
+};
+
 /// A data source of the label.
 struct SourceReport
 {
@@ -118,6 +127,8 @@ struct FileReport
     QList<KindCount> complete; ///< items that were imported without a change
     QList<Finding> changed;    ///< what was imported with changes
     QList<Finding> lost;       ///< what was not imported
+    /// What was repaired, and therefore is neither lost nor changed.
+    QList<RepairReport> repaired;
     QList<SourceReport> datasources;
     QList<IssueReport> issues;
     QByteArray thumbnail;       ///< PNG, at most 160 pixels a side; may be empty

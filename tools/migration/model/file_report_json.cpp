@@ -115,6 +115,13 @@ void describe(auto& field, ValuesOf<Finding> auto& finding)
     field("places", finding.places);
 }
 
+void describe(auto& field, ValuesOf<RepairReport> auto& repair)
+{
+    field("code", repair.code);
+    field("text", repair.text);
+    field("count", repair.count);
+}
+
 void describe(auto& field, ValuesOf<SourceReport> auto& source)
 {
     field("id", source.id);
@@ -154,6 +161,7 @@ void describe(auto& field, ValuesOf<FileReport> auto& report)
     field("complete", report.complete);
     field("changed", report.changed);
     field("lost", report.lost);
+    field("repaired", report.repaired);
     field("datasources", report.datasources);
     field("issues", report.issues);
     field("thumbnail", report.thumbnail);

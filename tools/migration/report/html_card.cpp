@@ -90,6 +90,16 @@ void addFindings(TemplateList& lists, const QString& title, const char* kind,
     lists.push_back(list);
 }
 
+void addRepairs(TemplateList& lists, const QList<RepairReport>& repairs)
+{
+    QList<Finding> lines;
+    for (const RepairReport& repair : repairs) {
+        // The text contains the number.
+        lines.append({repair.code, repair.text, 1, false, {}});
+    }
+    addFindings(lists, tr("Repaired"), "repaired", lines);
+}
+
 /// One line of the part of a card that is folded away.
 struct Entry
 {
@@ -169,6 +179,7 @@ TemplateData cardData(const FileReport& report, qint64 place)
     TemplateList findings;
     addFindings(findings, tr("Not imported"), "lost", report.lost);
     addFindings(findings, tr("Imported with changes"), "changed", report.changed);
+    addRepairs(findings, report.repaired);
     card.set("findings", TemplateData(findings));
     const TemplateList more = moreOf(report);
     card.set("hasMore", !more.empty());

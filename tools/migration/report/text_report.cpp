@@ -158,6 +158,10 @@ QString describeForPeople(const FileReport& report)
            section(tr("Imported completely:"), report.complete, countWords) +
            section(tr("Imported with changes:"), report.changed, findingWords) +
            section(tr("Not imported:"), report.lost, findingWords) +
+           section(tr("Repaired:"), report.repaired,
+                   [](const RepairReport& repair) {
+                       return repair.code + u": "_s + printable(repair.text);
+                   }) +
            section(tr("Warnings:"), report.issues, [](const IssueReport& issue) {
                return printable(issue.text) + times(issue.repeats);
            });

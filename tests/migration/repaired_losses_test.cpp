@@ -1,0 +1,129 @@
+// What a report lists of a document that was repaired.
+
+#include "migration/losses/repaired_losses.h"
+
+#include "migration/model/loss_kinds.h"
+
+#include <gtest/gtest.h>
+
+using namespace migration;
+
+namespace {
+
+CountedObject counted(ObjectClass objectClass, std::optional<LossKind> lost = {})
+{
+    CountedObject object;
+    object.objectClass = objectClass;
+    object.lost = lost;
+    return object;
+}
+
+LabelFacts labelOf(const QList<ObjectClass>& classes)
+{
+    LabelFacts label;
+    for (const ObjectClass objectClass : classes) {
+        ItemFacts item;
+        item.kind = QStringLiteral("rectangle");
+        item.objectClass = objectClass;
+        label.items.append(item);
+    }
+    return label;
+}
+
+Census censusOf(const QList<CountedObject>& objects)
+{
+    Census census;
+    census.objects = objects;
+    return census;
+}
+
+FileReport filled(const Census& original, const Census& repaired, const LabelFacts& label,
+                  bool allPages = true)
+{
+    RepairedLosses losses(original);
+    losses.addPage(repaired, label, {});
+    FileReport report;
+    losses.fill(report, allPages);
+    return report;
+}
+
+std::string codesOf(const QList<Finding>& findings)
+{
+    QStringList codes;
+    for (const Finding& finding : findings) {
+        codes.append(QStringLiteral("%1 %2").arg(finding.code).arg(finding.count));
+    }
+    return codes.join(QStringLiteral(", ")).toStdString();
+}
+
+const Census TwoShapes = censusOf({counted(ObjectClass::Shape), counted(ObjectClass::Shape)});
+
+} // namespace
+
+TEST(RepairedLosses, WhatWasRepairedIsNotLost)
+{
+    const Census original = censusOf({counted(ObjectClass::Shape, LossKind::GroupedObject),
+                                      counted(ObjectClass::Shape, LossKind::GroupedObject)});
+    const FileReport report =
+        filled(original, TwoShapes, labelOf({ObjectClass::Shape, ObjectClass::Shape}));
+    EXPECT_EQ(codesOf(report.lost), "");
+    EXPECT_EQ(report.objects.inFile, 2);
+    EXPECT_EQ(report.objects.imported, 2);
+    EXPECT_EQ(report.complete.constFirst().count, 2);
+}
+
+TEST(RepairedLosses, WhatTheRepairedDocumentStillHasIsLost)
+{
+    const Census original = censusOf({counted(ObjectClass::Shape, LossKind::GroupedObject),
+                                      counted(ObjectClass::Text, LossKind::Table)});
+    const Census repaired =
+        censusOf({counted(ObjectClass::Shape), counted(ObjectClass::Text, LossKind::Table)});
+    const FileReport report = filled(original, repaired, labelOf({ObjectClass::Shape}));
+    EXPECT_EQ(codesOf(report.lost), "table 1");
+    EXPECT_EQ(report.objects.imported, 1);
+}
+
+TEST(RepairedLosses, AnItemThatIsNotOnTheLabelIsMissing)
+{
+    const FileReport report = filled(TwoShapes, TwoShapes, labelOf({ObjectClass::Shape}));
+    EXPECT_EQ(codesOf(report.lost), "object-missing 1");
+    EXPECT_EQ(report.objects.inFile, 2);
+    EXPECT_EQ(report.objects.imported, 1);
+}
+
+TEST(RepairedLosses, WhatNoRepairAvoidsIsLostEvenIfTheRepairedDocumentDoesNotHaveIt)
+{
+    const Census original = censusOf({counted(ObjectClass::Shape, LossKind::FormControl)});
+    EXPECT_EQ(codesOf(filled(original, {}, {}).lost), "form-control 1");
+}
+
+TEST(RepairedLosses, APageThatWasNotImportedIsLost)
+{
+    const Census original =
+        censusOf({counted(ObjectClass::Shape), counted(ObjectClass::Shape, LossKind::FurtherPage)});
+    const Census repaired = censusOf({counted(ObjectClass::Shape)});
+    const LabelFacts label = labelOf({ObjectClass::Shape});
+    EXPECT_EQ(codesOf(filled(original, repaired, label, true).lost), "");
+    EXPECT_EQ(codesOf(filled(original, repaired, label, false).lost), "further-page 1");
+}
+
+TEST(RepairedLosses, WhatIsSetOnTheItemsIsNotChanged)
+{
+    Census original = censusOf({counted(ObjectClass::Text)});
+    original.objects[0].changes.add(LossKind::TextColor);
+    original.objects[0].changes.add(LossKind::FixedField);
+    const FileReport report = filled(original, original, labelOf({ObjectClass::Text}));
+    EXPECT_EQ(codesOf(report.changed), "fixed-field 1");
+}
+
+TEST(RepairedLosses, PagesAddUp)
+{
+    RepairedLosses losses(TwoShapes);
+    const Census page = censusOf({counted(ObjectClass::Shape)});
+    losses.addPage(page, {}, {});
+    losses.addPage(page, labelOf({ObjectClass::Shape}), {});
+    FileReport report;
+    losses.fill(report, true);
+    EXPECT_EQ(codesOf(report.lost), "object-missing 1");
+    EXPECT_EQ(report.objects.imported, 1);
+}

@@ -1,0 +1,198 @@
+#include "migration/losses/repaired_losses.h"
+
+#include "migration/losses/compare.h"
+
+#include <algorithm>
+#include <array>
+
+namespace migration {
+
+namespace {
+
+// What repair avoids in the document: it counts where the repaired document still has it. Also
+// what the label and the log show, which are those of the repaired document.
+constexpr std::array SeenInRepaired{
+    LossKind::GroupedObject,
+    LossKind::MasterPageObject,
+    LossKind::Connector,
+    LossKind::FreeformShape,
+    LossKind::Callout,
+    LossKind::EmbeddedObject,
+    LossKind::ShapeInText,
+    LossKind::Table,
+    LossKind::List,
+    LossKind::TextSection,
+    LossKind::HeaderOrFooter,
+    LossKind::LinkText,
+    LossKind::TextField,
+    LossKind::TextElement,
+    LossKind::ShapeText,
+    LossKind::Footnote,
+    LossKind::PictureUnreadable,
+    LossKind::DrawingUnreadable,
+    LossKind::SymbolUnreadable,
+    LossKind::OverLimit,
+    LossKind::ObjectMissing,
+    LossKind::LogCut,
+    LossKind::UnknownShape,
+    LossKind::OutsidePage,
+    LossKind::OverPageEdge,
+    LossKind::SizeLimited,
+    LossKind::MillimetersEnlarged,
+    LossKind::MixedUnits,
+    LossKind::UnitUnknown,
+    LossKind::PageSizeAssumed,
+    LossKind::TransformDropped,
+    LossKind::FontReplaced,
+    LossKind::TextSpacing,
+    LossKind::FillSimplified,
+    LossKind::Other,
+    LossKind::LineText,
+    LossKind::TextDiffers,
+    LossKind::TextUnreadable,
+    LossKind::TextsOverlap,
+    LossKind::Covered,
+    LossKind::Moved,
+    LossKind::Mirrored,
+    LossKind::Invisible,
+    LossKind::FillAdded,
+    LossKind::PenWidth,
+};
+
+// What is set on the items after the import, or given by rows: the repaired document shows no
+// trace of it.
+constexpr std::array SetOnItems{
+    LossKind::TextColor,   LossKind::TextFormat, LossKind::PositionAssumed,
+    LossKind::PageMargins, LossKind::PageBreak,
+};
+
+template <std::size_t Count>
+bool contains(const std::array<LossKind, Count>& kinds, const QString& code)
+{
+    return std::any_of(kinds.begin(), kinds.end(),
+                       [&code](LossKind kind) { return lossCode(kind) == code; });
+}
+
+Finding* findingOf(QList<Finding>& findings, const QString& code)
+{
+    const auto found = std::find_if(findings.begin(), findings.end(),
+                                    [&code](const Finding& each) { return each.code == code; });
+    return found != findings.end() ? &*found : nullptr;
+}
+
+void forgetWhatIsSetLater(Census& census)
+{
+    for (CountedObject& object : census.objects) {
+        object.changes.remove(SetOnItems);
+    }
+    for (const LossKind kind : SetOnItems) {
+        census.tallies.erase(kind);
+    }
+}
+
+void forgetPlaces(QList<Finding>& findings)
+{
+    for (Finding& finding : findings) {
+        finding.places.reset();
+    }
+}
+
+// In the order of the kinds.
+void sortByKind(QList<Finding>& findings)
+{
+    std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
+        return lossRowOf(a.code)->kind < lossRowOf(b.code)->kind;
+    });
+}
+
+} // namespace
+
+void addCounts(QList<KindCount>& sums, const QList<KindCount>& counts)
+{
+    for (const KindCount& count : counts) {
+        const auto same = std::find_if(sums.begin(), sums.end(), [&count](const KindCount& sum) {
+            return sum.kind == count.kind;
+        });
+        if (same != sums.end()) {
+            same->count += count.count;
+        } else {
+            sums.append(count);
+        }
+    }
+}
+
+RepairedLosses::RepairedLosses(const Census& original)
+    : m_original(original)
+{}
+
+void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const LogLosses& log)
+{
+    forgetWhatIsSetLater(repaired);
+    FileReport page;
+    compare(repaired, label, log, page);
+    if (m_hasPages) {
+        // Places are those on the label that is shown: the first page.
+        forgetPlaces(page.lost);
+        forgetPlaces(page.changed);
+    }
+    m_hasPages = true;
+    addTo(m_pages.lost, page.lost);
+    addTo(m_pages.changed, page.changed);
+    addCounts(m_pages.complete, page.complete);
+    m_pages.objects.imported += page.objects.imported;
+}
+
+void RepairedLosses::addTo(QList<Finding>& sums, const QList<Finding>& findings) const
+{
+    for (const Finding& finding : findings) {
+        if (Finding* const sum = findingOf(sums, finding.code)) {
+            sum->count += finding.count;
+            sum->countsObjects = sum->countsObjects || finding.countsObjects;
+        } else {
+            sums.append(finding);
+        }
+    }
+}
+
+QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
+                                         const QList<Finding>& repaired, bool allPages) const
+{
+    QList<Finding> findings = repaired;
+    for (const Finding& finding : original) {
+        const bool isPage = finding.code == lossCode(LossKind::FurtherPage);
+        if (isPage ? allPages
+                   : contains(SeenInRepaired, finding.code) || contains(SetOnItems, finding.code)) {
+            continue;
+        }
+        if (Finding* const same = findingOf(findings, finding.code)) {
+            same->count = std::max(same->count, finding.count);
+            same->countsObjects = finding.countsObjects;
+        } else {
+            findings.append(finding);
+            findings.last().places.reset();
+        }
+    }
+    sortByKind(findings);
+    return findings;
+}
+
+void RepairedLosses::fill(FileReport& report, bool allPages) const
+{
+    FileReport original;
+    compare(m_original, {}, {}, original);
+    report.lost = remaining(original.lost, m_pages.lost, allPages);
+    report.changed = remaining(original.changed, m_pages.changed, allPages);
+    report.complete = m_pages.complete;
+    report.objects.unknown = m_original.unknown;
+    report.objects.imported = m_pages.objects.imported;
+    if (m_original.unknown.isEmpty()) {
+        qint64 lost = 0;
+        for (const Finding& finding : report.lost) {
+            lost += finding.countsObjects ? finding.count : 0;
+        }
+        report.objects.inFile = m_original.objects.size();
+        report.objects.imported = std::max<qint64>(0, m_original.objects.size() - lost);
+    }
+}
+
+} // namespace migration
