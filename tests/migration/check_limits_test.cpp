@@ -2,10 +2,13 @@
 
 #include "migration/census/counting.h"
 #include "migration/losses/check_covering.h"
+#include "migration/losses/label_facts.h"
 #include "migration/losses/matching.h"
 #include "tests/migration/documents.h"
 
 #include <gtest/gtest.h>
+
+#include <QtEndian>
 
 using namespace migration;
 using namespace Qt::StringLiterals;
@@ -46,6 +49,23 @@ TEST(CheckLimits, CountSpacesOfOneElement)
         ASSERT_EQ(census.appearances.size(), 2);
         EXPECT_EQ(census.appearances.constLast().text.size(), 2 + seen);
     }
+}
+
+TEST(PreviewLimits, MeasureThePicture)
+{
+    const auto labelWith = [](const QByteArray& png) {
+        return QByteArray("\0\0\0\0\0\x1e\x84\xa0\0\0\0\1", 12) + png;
+    };
+    EXPECT_FALSE(previewOf(labelWith(pngOf(1'000, 1'000)), ReaderKind::Tavrel).isEmpty());
+    EXPECT_TRUE(previewOf(labelWith(pngOf(1'001, 1'000)), ReaderKind::Tavrel).isEmpty());
+    EXPECT_TRUE(previewOf(labelWith("no picture"), ReaderKind::Tavrel).isEmpty());
+    // The bytes are cut at the limit; a picture that needs more is damaged.
+    QByteArray png = pngOf(10, 10);
+    const QByteArray text = QByteArray(1024 * 1024, 'x');
+    QByteArray chunk(4, '\0');
+    qToBigEndian(quint32(text.size()), chunk.data());
+    png.insert(33, chunk + "tEXt" + text + QByteArray(4, '\0'));
+    EXPECT_TRUE(previewOf(labelWith(png), ReaderKind::Tavrel).isEmpty());
 }
 
 TEST(CheckLimits, MatchManyItemsAtOnePlace)

@@ -76,6 +76,7 @@ template <class Value, class Make>
     report.issues = randomList<IssueReport>(random, [&] {
         return IssueReport{text(), number(), number()};
     });
+    report.preview = QByteArray("preview");
     report.thumbnail = text().toUtf8();
     report.outputs = randomList<QString>(random, text);
     report.itemList = randomList<ItemReport>(random, [&] {

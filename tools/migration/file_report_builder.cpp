@@ -63,6 +63,14 @@ void addRepairs(QList<RepairReport>& sums, const QList<RepairReport>& repairs)
     }
 }
 
+QByteArray previewIn(const QString& fileName, const QString& reader)
+{
+    const std::optional<ReaderKind> kind = readerOfName(reader);
+    QString problem;
+    const QByteArray file = kind ? bytesToCount(fileName, problem) : QByteArray();
+    return kind ? previewOf(file, *kind) : QByteArray();
+}
+
 FileReport reportOn(const QString& fileName, const QString& shownName, const QString& reader,
                     Count count, const workbench::ImportResult& result,
                     const ReportOptions& options)
@@ -93,6 +101,7 @@ FileReport reportOn(const QString& fileName, const QString& shownName, const QSt
     }
     if (options.thumbnail) {
         report.thumbnail = thumbnailOf(*result.canvas);
+        report.preview = previewIn(fileName, reader);
     }
     return report;
 }

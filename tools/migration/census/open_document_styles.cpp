@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace migration {
 
@@ -139,9 +140,15 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
                        firstFamily(valueOf(attributes, "svg:font-family"_L1)));
     } else if (name == "style:style"_L1 || name == "style:default-style"_L1) {
         startStyle(attributes, name == "style:default-style"_L1);
+    } else if (name.startsWith("text:list-level-style"_L1)) {
+        m_isInList = true;
     } else if (name == "style:text-properties"_L1) {
-        takeProperties(u"text"_s, attributes);
+        // Those of a bullet are not those of the text.
+        if (!std::exchange(m_isInList, false)) {
+            takeProperties(u"text"_s, attributes);
+        }
     } else if (name == "style:paragraph-properties"_L1) {
+        m_isInList = false;
         takeProperties(u"paragraph"_s, attributes);
     } else if (name == "style:graphic-properties"_L1) {
         takeProperties(u"graphic"_s, attributes);
@@ -150,6 +157,7 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
 
 void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefault)
 {
+    m_isInList = false;
     const QString family = valueOf(attributes, "style:family"_L1);
     const QString name = valueOf(attributes, "style:name"_L1);
     const QString parent = valueOf(attributes, "style:parent-style-name"_L1);

@@ -85,6 +85,7 @@ private:
     Style m_defaultShape;
     Style* m_current = nullptr;
     Style m_nowhere;
+    bool m_isInList = false; ///< in a level of a list style
 };
 
 } // namespace migration

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Most spaces that one element stands for; a document may ask for more than memory holds.
+// Most spaces of one element; a document may ask for more than memory holds.
 constexpr int MaximumSpaces = 1'000;
 
 QString spacingOf(const QString& name, const QXmlStreamAttributes& attributes)

@@ -19,7 +19,7 @@ namespace {
 constexpr int PictureSide = 400;
 // The least contrast of large texts in accessibility guidelines.
 constexpr double LeastContrast = 3.0;
-// Of 255: a pixel that changes less cannot be told from its ground.
+// Of 255: a pixel that changes less looks like its ground.
 constexpr int VisibleDifference = 6;
 // Below this luminance, from 0 to 255, automatic text is white.
 constexpr int DarkGround = 62;

@@ -1,11 +1,14 @@
 #include "migration/losses/label_facts.h"
 
+#include "limits/image/png_chunks.h"
+#include "limits/zip/zip_directory.h"
 #include "workbench/import/label_import.h"
 #include "workbench/items/shape_kinds.h"
 #include "workbench/rendering/page_image.h"
 
 #include <QBuffer>
 #include <QMap>
+#include <QPainter>
 #include <QTextDocumentFragment>
 
 #include <algorithm>
@@ -15,10 +18,15 @@ namespace migration {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 constexpr double MillimetersPerPoint = 25.4 / 72.0;
 constexpr int ThumbnailSide = 160;
 // Above this a thumbnail has fewer colors, then fewer pixels.
 constexpr qsizetype ThumbnailBytes = 6 * 1024;
+// Of the picture that a file contains; office programs write 256 pixels a side.
+constexpr qint64 MaximumPreview = 1024 * 1024;
+constexpr qint64 MaximumPreviewPixels = 1'000'000;
 // Longest content of an item that a report takes over.
 constexpr qsizetype ContentLength = 2'000;
 // What a source's property with the name of a file is called.
@@ -92,7 +100,55 @@ QByteArray pngOf(const QImage& image)
     return image.save(&buffer, "PNG", best) ? bytes : QByteArray();
 }
 
+QByteArray smallPng(const QImage& picture)
+{
+    QByteArray png;
+    for (const int side : {ThumbnailSide, ThumbnailSide / 2}) {
+        const QImage image =
+            picture.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        png = pngOf(image.convertToFormat(QImage::Format_RGB32));
+        if (png.size() > ThumbnailBytes) {
+            png = pngOf(image.convertToFormat(QImage::Format_Indexed8));
+        }
+        if (png.size() <= ThumbnailBytes) {
+            break;
+        }
+    }
+    return png;
+}
+
+// Behind the version of a binary label is a number, and its picture unless that is 0.
+QByteArray pictureIn(const QByteArray& file, ReaderKind reader)
+{
+    constexpr qsizetype binaryHead = 12;
+    if (reader == ReaderKind::Tavrel) {
+        return file.mid(binaryHead, MaximumPreview);
+    }
+    ziplimits::ZipDirectory package;
+    if (reader != ReaderKind::OpenDocument || package.openBytes(file)) {
+        return {};
+    }
+    return package.read(u"Thumbnails/thumbnail.png"_s, MaximumPreview).value_or(QByteArray());
+}
+
 } // namespace
+
+QByteArray previewOf(const QByteArray& file, ReaderKind reader)
+{
+    const QByteArray picture = pictureIn(file, reader);
+    const auto header = imagelimits::pngHeader(picture);
+    if (!header || header->pixels() > MaximumPreviewPixels) {
+        return {};
+    }
+    const QImage image = QImage::fromData(imagelimits::pixelsOnly(picture), "PNG");
+    if (image.isNull()) {
+        return {};
+    }
+    QImage onWhite(image.size(), QImage::Format_RGB32);
+    onWhite.fill(Qt::white);
+    QPainter(&onWhite).drawImage(0, 0, image);
+    return smallPng(onWhite);
+}
 
 void describeLabel(const workbench::ImportResult& result, FileReport& report)
 {
@@ -127,19 +183,7 @@ QByteArray thumbnailOf(const workbench::Canvas& canvas)
     if (painted.image.isNull()) {
         return {};
     }
-    QByteArray png;
-    for (const int side : {ThumbnailSide, ThumbnailSide / 2}) {
-        const QImage image =
-            painted.image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        png = pngOf(image.convertToFormat(QImage::Format_RGB32));
-        if (png.size() > ThumbnailBytes) {
-            png = pngOf(image.convertToFormat(QImage::Format_Indexed8));
-        }
-        if (png.size() <= ThumbnailBytes) {
-            break;
-        }
-    }
-    return png;
+    return smallPng(painted.image);
 }
 
 } // namespace migration

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "importer/reader_choice.h"
 #include "migration/model/file_report.h"
 #include "workbench/items/item_values.h"
 
@@ -19,5 +20,9 @@ void describeLabel(const workbench::ImportResult& result, FileReport& report);
 /// A small picture of the label as PNG, at most 160 pixels a side and a few kilobytes.
 /// Empty when it cannot be painted.
 [[nodiscard]] QByteArray thumbnailOf(const workbench::Canvas& canvas);
+
+/// The small picture that a file contains, of the same size: of an OpenDocument package or a binary
+/// label. Empty if it has none.
+[[nodiscard]] QByteArray previewOf(const QByteArray& file, ReaderKind reader);
 
 } // namespace migration

@@ -132,6 +132,7 @@ struct FileReport
     QList<SourceReport> datasources;
     QList<IssueReport> issues;
     QByteArray thumbnail;       ///< PNG, at most 160 pixels a side; may be empty
+    QByteArray preview;         ///< the document's own small picture, in the same way
     QStringList outputs;        ///< files that were written
     QList<ItemReport> itemList; ///< all items one by one; empty in reports of archives
 

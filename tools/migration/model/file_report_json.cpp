@@ -165,6 +165,7 @@ void describe(auto& field, ValuesOf<FileReport> auto& report)
     field("datasources", report.datasources);
     field("issues", report.issues);
     field("thumbnail", report.thumbnail);
+    field("preview", report.preview);
     field("outputs", report.outputs);
     field("itemList", report.itemList);
 }

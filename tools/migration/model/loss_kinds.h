@@ -100,7 +100,7 @@ struct LossRow
     Outcome outcome;
     Harm harm;
     const char* words;  ///< untranslated: what happened
-    const char* advice; ///< untranslated: what the user can do
+    const char* advice; ///< untranslated: the command or menu that helps; null if there is none
 };
 
 /// All kinds, in the order of the enumeration: those of Outcome::Lost first.
@@ -112,7 +112,7 @@ struct LossRow
 [[nodiscard]] QString lossCode(LossKind kind);
 /// What happened, in the language of the program.
 [[nodiscard]] QString lossWords(LossKind kind);
-/// What can be done about it, in the language of the program.
+/// What a program of LabelPort can do about it, in the language of the program; empty for nothing.
 [[nodiscard]] QString lossAdvice(LossKind kind);
 
 } // namespace migration

@@ -5,7 +5,10 @@
 #include "workbench/items/shape_kinds.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QLocale>
+#include <QUrl>
 
 namespace migration {
 
@@ -105,6 +108,7 @@ struct Entry
 {
     QString text;
     qint64 count = 1;
+    QString link = {};
 };
 
 void addEntries(TemplateList& lists, const QString& title, const QList<Entry>& texts)
@@ -116,6 +120,8 @@ void addEntries(TemplateList& lists, const QString& title, const QList<Entry>& t
     for (const Entry& text : texts) {
         TemplateData entry;
         entry.set("text", templateText(text.text));
+        entry.set("hasLink", !text.link.isEmpty());
+        entry.set("link", templateText(text.link));
         setRepeats(entry, text.count);
         entries.push_back(entry);
     }
@@ -131,7 +137,30 @@ QString sourceWords(const SourceReport& source)
     return source.file.isEmpty() ? words : words + u" ("_s + source.file + u')';
 }
 
-TemplateList moreOf(const FileReport& report)
+// Relative to the page, so that page and files can be moved together. Empty if there is no such
+// file.
+QString linkTo(const QString& fileName, const QString& folder)
+{
+    const QFileInfo file(fileName);
+    if (fileName.isEmpty() || !file.exists()) {
+        return {};
+    }
+    const QString path = QDir(folder).relativeFilePath(file.absoluteFilePath());
+    return QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
+}
+
+// The picture of the label in full size, if one was written.
+QString pictureOf(const FileReport& report, const QString& folder)
+{
+    for (const QString& output : report.outputs) {
+        if (output.endsWith(".png"_L1, Qt::CaseInsensitive)) {
+            return linkTo(output, folder);
+        }
+    }
+    return {};
+}
+
+TemplateList moreOf(const FileReport& report, const QString& folder)
 {
     QList<Entry> imported;
     for (const KindCount& count : report.complete) {
@@ -147,7 +176,7 @@ TemplateList moreOf(const FileReport& report)
     }
     QList<Entry> outputs;
     for (const QString& output : report.outputs) {
-        outputs.append({output});
+        outputs.append({output, 1, linkTo(output, folder)});
     }
     TemplateList more;
     addEntries(more, tr("Imported completely"), imported);
@@ -159,7 +188,7 @@ TemplateList moreOf(const FileReport& report)
 
 } // namespace
 
-TemplateData cardData(const FileReport& report, qint64 place)
+TemplateData cardData(const FileReport& report, qint64 place, const QString& folder)
 {
     TemplateData card;
     card.set("number", number(place));
@@ -173,6 +202,12 @@ TemplateData cardData(const FileReport& report, qint64 place)
     card.set("codes", templateText(codesOf(report)));
     card.set("hasThumbnail", !report.thumbnail.isEmpty());
     card.set("thumbnail", TemplateData(report.thumbnail.toBase64().toStdString()));
+    card.set("hasPreview", !report.preview.isEmpty());
+    card.set("preview", TemplateData(report.preview.toBase64().toStdString()));
+    card.set("picture", templateText(pictureOf(report, folder)));
+    const QString original = linkTo(report.file, folder);
+    card.set("hasOriginal", !original.isEmpty());
+    card.set("original", templateText(original));
     card.set("alt", templateText(tr("The label %1").arg(report.file)));
     card.set("summary", templateText(summaryOf(report)));
     card.set("facts", templateText(factsOf(report)));
@@ -181,12 +216,14 @@ TemplateData cardData(const FileReport& report, qint64 place)
     addFindings(findings, tr("Imported with changes"), "changed", report.changed);
     addRepairs(findings, report.repaired);
     card.set("findings", TemplateData(findings));
-    const TemplateList more = moreOf(report);
+    const TemplateList more = moreOf(report, folder);
     card.set("hasMore", !more.empty());
     card.set("more", TemplateData(more));
     TemplateData labels;
     labels.set("noPicture", templateText(tr("no picture")));
     labels.set("more", templateText(tr("More")));
+    labels.set("larger", templateText(tr("Show a larger picture")));
+    labels.set("preview", templateText(tr("The document's own picture of %1").arg(report.file)));
     card.set("labels", labels);
     return card;
 }

@@ -8,6 +8,7 @@ namespace migration {
 /// The report of one file, as the data of the template card.html.
 ///
 /// @param number of the file in the report, from 1: its place when nothing is sorted
-[[nodiscard]] TemplateData cardData(const FileReport& report, qint64 number);
+/// @param folder of the page, for links to files
+[[nodiscard]] TemplateData cardData(const FileReport& report, qint64 number, const QString& folder);
 
 } // namespace migration

@@ -25,6 +25,7 @@ public:
         : m_fileName(fileName)
         , m_cards(QFileInfo(fileName).absolutePath() + u"/.labelport-report-XXXXXX"_s)
     {
+        m_folder = QFileInfo(fileName).absolutePath();
         m_isOpen = m_cards.open();
     }
 
@@ -37,6 +38,7 @@ private:
 
     QString m_fileName;
     QString m_note;
+    QString m_folder;
     HtmlTemplate m_card{u"card.html"_s};
     QTemporaryFile m_cards;
     Totals m_totals;
@@ -47,7 +49,7 @@ void HtmlOutput::add(const FileReport& report)
 {
     m_totals.add(report);
     if (m_isOpen) {
-        m_cards.write(m_card.filled(cardData(report, m_totals.files)));
+        m_cards.write(m_card.filled(cardData(report, m_totals.files, m_folder)));
     }
 }
 

@@ -25,14 +25,16 @@ QString number(qint64 value)
     return QLocale(QLocale::English).toString(value);
 }
 
-// Only this style and this script may run, whatever else the page contains.
+// Only this style and this script may run, whatever else the page contains. Pictures may also come
+// from the files next to the page.
 QByteArray contentPolicy()
 {
     const auto hashOf = [](const QByteArray& bytes) {
         return "'sha256-" + QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toBase64() +
                "'";
     };
-    return "default-src 'none'; img-src data:; base-uri 'none'; form-action 'none'; style-src " +
+    return "default-src 'none'; img-src data: 'self' file:; base-uri 'none'; form-action 'none'; "
+           "style-src " +
            hashOf(pageResource(u"page.css"_s)) + "; script-src " +
            hashOf(pageResource(u"page.js"_s));
 }
@@ -81,7 +83,7 @@ TemplateList codeRows(const Totals& totals)
         TemplateData data;
         data.set("files", templateText(number(totals.filesByCode.value(code))));
         data.set("code", templateText(code));
-        data.set("meaning", templateText(row != nullptr ? lossWords(row->kind) : QString()));
+        data.set("meaning", templateText(row != nullptr ? lossWords(row->kind) : code));
         data.set("advice", templateText(row != nullptr ? lossAdvice(row->kind) : QString()));
         rows.push_back(data);
     }
@@ -204,6 +206,8 @@ TemplateData pageHeadData(const Totals& totals, const QString& note)
 TemplateData pageTailData()
 {
     TemplateData page;
+    page.set("large", templateText(tr("Larger picture")));
+    page.set("close", templateText(tr("Close")));
     page.set("script", TemplateData(pageResource(u"page.js"_s).toStdString()));
     return page;
 }

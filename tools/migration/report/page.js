@@ -90,6 +90,28 @@
     apply(view);
   };
 
+  // The picture that was written, or else the small one, next to the document's own.
+  const large = document.getElementById("large");
+  list.addEventListener("click", (event) => {
+    const button = event.target.closest(".thumb button");
+    if (button === null) {
+      return;
+    }
+    const pictures = [...button.querySelectorAll("img")].map((img) => img.cloneNode());
+    const small = pictures[0].src;
+    if (button.dataset.picture !== "") {
+      pictures[0].addEventListener("error", () => { pictures[0].src = small; }, { once: true });
+      pictures[0].src = button.dataset.picture;
+    }
+    large.querySelector("div").replaceChildren(...pictures);
+    large.showModal();
+  });
+  large.addEventListener("click", (event) => {
+    if (event.target === large || event.target.tagName === "BUTTON") {
+      large.close();
+    }
+  });
+
   let waiting = 0;
   form.addEventListener("input", () => {
     clearTimeout(waiting);
