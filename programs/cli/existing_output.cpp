@@ -72,15 +72,6 @@ bool isOurOutput(const QString& fileName)
     return isOurPicture(head) || isOurDrawingOrDocument(head) || isOurPrinterFile(head);
 }
 
-bool mayOverwrite(const QString& fileName, const QList<archive::FileStamp>& known)
-{
-    const std::optional<archive::FileStamp> stamp = archive::stampOf(fileName);
-    if (!stamp) {
-        return console::kindOf(fileName) == console::FileKind::Missing;
-    }
-    return known.contains(*stamp) || isOurOutput(fileName);
-}
-
 QString reportNameProblem(const QString& fileName)
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();

@@ -72,6 +72,7 @@ void WorkerReport::add(const OpenedLabel& label)
 migration::FileReport WorkerReport::finish(bool allPages)
 {
     if (!m_pages) {
+        m_report.sandbox = sandbox::codesOf(sandbox::active());
         return m_report;
     }
     migration::FileReport report = m_pages->finish(allPages);
@@ -81,13 +82,14 @@ migration::FileReport WorkerReport::finish(bool allPages)
     for (migration::RepairReport& repair : report.repaired) {
         repair.text = repair::repairText({repair.code, static_cast<int>(repair.count)});
     }
+    report.sandbox = sandbox::codesOf(sandbox::active());
     return report;
 }
 
 migration::FileReport finalReport(const archive::Delivery& delivery)
 {
     migration::FileReport report = migration::fileReportFromJson(delivery.result.report)
-                                       .value_or(reportWithoutWorker(delivery.input));
+                                       .value_or(reportWithoutWorker(delivery));
     report.status = statusOf(delivery.result.outcome);
     report.outputs.clear();
     for (const QString& output : delivery.written) {

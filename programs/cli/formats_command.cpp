@@ -6,6 +6,7 @@
 #include "importer/reader_choice.h"
 #include "printing/sheet_json.h"
 #include "printing/sheet_presets.h"
+#include "sandbox/confinement.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -164,7 +165,11 @@ QJsonObject asJson()
     for (const exporting::TargetEntry& entry : exporting::targets()) {
         targets.append(jsonOf(entry));
     }
-    return {{u"readers"_s, readers}, {u"targets"_s, targets}, {u"sheets"_s, sheetsAsJson()}};
+    const QStringList sandbox = sandbox::codesOf(sandbox::supported());
+    return {{u"readers"_s, readers},
+            {u"targets"_s, targets},
+            {u"sheets"_s, sheetsAsJson()},
+            {u"sandbox"_s, QJsonArray::fromStringList(sandbox)}};
 }
 
 QString asText()
@@ -181,7 +186,10 @@ QString asText()
         text += u"  %1 %2\n"_s.arg(QLatin1String(entry.name), -13)
                     .arg(exporting::translated(entry.description));
     }
-    return text + u'\n' + sheetsAsText();
+    return text + u'\n' + sheetsAsText() + u'\n' +
+           tr("Sandbox in which files are read, on this system: %1.")
+               .arg(sandbox::describe(sandbox::supported())) +
+           u'\n';
 }
 
 } // namespace

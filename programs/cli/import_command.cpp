@@ -48,7 +48,11 @@ archive::RunSettings settingsFor(const ImportOptions& options, const archive::In
     settings.workers = options.workers;
     settings.limits = options.limits;
     settings.command = workerCommand(options.limits.memoryMiB);
-    settings.mayReplace = [](const QString& path) { return isOurOutput(path); };
+    settings.readable = list.readable;
+    settings.requiresSandbox = options.requiresSandbox;
+    settings.mayReplace = [force = options.job.force](const QString& path) {
+        return force || isOurOutput(path);
+    };
     return settings;
 }
 
@@ -230,6 +234,11 @@ int refuseInputs(const ImportOptions& options, const QString& message)
 
 int importAll(const ImportOptions& options)
 {
+    const QString problem = options.requiresSandbox ? sandboxProblem() : QString();
+    if (!problem.isEmpty()) {
+        console::printMessage(problem);
+        return console::ExitFailure;
+    }
     const ImportInputs inputs = findInputs(options);
     if (!inputs.error.isEmpty()) {
         return refuseInputs(options, inputs.error);

@@ -19,6 +19,7 @@ void addStandardInput(ImportInputs& inputs)
     inputs.standardInput = std::make_unique<QTemporaryFile>();
     inputs.error = console::copyStandardInput(*inputs.standardInput);
     inputs.list.inputs.append({inputs.standardInput->fileName(), u"stdin"_s, {}});
+    inputs.list.readable.append(inputs.standardInput->fileName());
 }
 
 /// The names of a list; `error` says why it could not be read.

@@ -233,6 +233,7 @@ ImportOptions optionsFrom(OptionReader& given, const QStringList& files)
     options.job.asWritten = given.isSet("as-written"_L1);
     options.job.force = given.isSet("force"_L1);
     options.resume = given.isSet("resume"_L1);
+    options.requiresSandbox = given.isSet("require-sandbox"_L1);
     options.quiet = given.isSet("quiet"_L1);
     options.endsNamesWithNull = given.isSet("print0"_L1);
     options.json = given.isSet("json"_L1);

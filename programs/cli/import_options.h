@@ -36,6 +36,7 @@ struct ImportOptions
     bool json = false;              ///< events on standard output
     QStringList reports;            ///< files to write a report to
     bool failOnLoss = false;
+    bool requiresSandbox = false; ///< the workers have a complete sandbox, or import nothing
 };
 
 inline constexpr int MaximumWorkers = 1024;

@@ -113,7 +113,7 @@ private:
 
     void write(OpenedLabel& label, int page)
     {
-        LabelWriter writer(label, {m_options, m_job.known, page}, m_job.staging, m_heartbeat);
+        LabelWriter writer(label, {m_options, page}, m_job.staging, m_heartbeat);
         for (const archive::PlannedFile& output : m_job.outputs) {
             const std::optional<exporting::Target> target = exporting::targetOfName(output.target);
             if (target) {
@@ -154,6 +154,17 @@ archive::WorkerCommand workerCommand(int memoryMiB)
     // The program that runs now, even if a new version has replaced the file.
     return {u"/proc/self/exe"_s,
             {QString::fromLatin1(WorkerCommandName), QString::number(memoryMiB)}};
+}
+
+QString sandboxProblem()
+{
+    const sandbox::Confinement offered = sandbox::supported();
+    return offered.isComplete()
+               ? QString()
+               : QCoreApplication::translate("cli::ImportWorker",
+                                             "This system has no complete sandbox, which "
+                                             "--require-sandbox demands. It has: %1.")
+                     .arg(sandbox::describe(offered));
 }
 
 int runImportWorker(const QStringList& arguments)

@@ -23,4 +23,7 @@ inline constexpr const char* WorkerCommandName = "worker";
 /// How this program starts its workers.
 [[nodiscard]] archive::WorkerCommand workerCommand(int memoryMiB);
 
+/// Why this system cannot meet --require-sandbox, for a person; else empty.
+[[nodiscard]] QString sandboxProblem();
+
 } // namespace cli

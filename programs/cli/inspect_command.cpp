@@ -87,6 +87,10 @@ int runInspect(const QStringList& arguments)
         error = console::copyStandardInput(standardInput);
         input = {standardInput.fileName(), u"stdin"_s, {}};
     }
+    const bool requiresSandbox = parser.isSet(u"require-sandbox"_s);
+    if (error.isEmpty() && requiresSandbox) {
+        error = sandboxProblem();
+    }
     if (!error.isEmpty()) {
         console::printMessage(error);
         return console::ExitFailure;
@@ -95,7 +99,10 @@ int runInspect(const QStringList& arguments)
     job.file = input.path;
     job.shownName = input.shownName;
     job.options = allOptions(*options);
-    return print(input, runJobs({job}, *limits, 1).first(), parser.isSet(u"json"_s));
+    return print(
+        input,
+        runJobs({job}, *limits, 1, {permissionsFor({input.path}, {}), requiresSandbox}).first(),
+        parser.isSet(u"json"_s));
 }
 
 } // namespace cli

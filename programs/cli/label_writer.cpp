@@ -120,11 +120,6 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
     if (console::kindOf(output) == console::FileKind::Folder) {
         return {{}, archive::folderInPlaceMessage(output)};
     }
-    if (!m_options.job.force && !mayOverwrite(output, m_options.known)) {
-        return {{}, archive::foreignFileMessage(output)};
-    }
-    const bool mayReplace =
-        m_options.job.force || console::kindOf(output) != console::FileKind::Missing;
     const QString name =
         u"%1-%2.%3"_s.arg(m_options.page).arg(++m_written).arg(QFileInfo(output).suffix());
     const QString path = QDir(m_reachable.path()).filePath(name);
@@ -136,7 +131,7 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
     const QString staged = QDir(m_staging).filePath(name);
     archive::FileStamp stamp = archive::stampOf(staged).value_or(archive::FileStamp{});
     stamp.path = output;
-    return {{{staged, stamp, mayReplace}}, {}};
+    return {{{staged, stamp}}, {}};
 }
 
 Written LabelWriter::writeRecords(exporting::Target target, const QString& output, qint64 first,

@@ -38,8 +38,7 @@ struct RecordSelection
 struct WriteOptions
 {
     JobOptions job;
-    QList<archive::FileStamp> known; ///< outputs of earlier commands, which may be overwritten
-    int page = 1;                    ///< of the file; keeps the staged files of pages apart
+    int page = 1; ///< of the file; keeps the staged files of pages apart
 };
 
 /// The result of writing one output.

@@ -21,6 +21,11 @@ constexpr Option MemoryOption{
     QT_TRANSLATE_NOOP("cli::Options",
                       "Abort a file that uses more memory than this; 0 for no limit (default: "
                       "4096).")};
+constexpr Option SandboxOption{
+    "require-sandbox", nullptr,
+    QT_TRANSLATE_NOOP("cli::Options",
+                      "Import nothing unless the files are read in a complete sandbox; see "
+                      "\"labelport formats\".")};
 constexpr Option ReaderOption{
     "reader", QT_TRANSLATE_NOOP("cli::Options", "name"),
     QT_TRANSLATE_NOOP("cli::Options",
@@ -112,6 +117,7 @@ constexpr std::array ImportOptions{
                              "core).")},
     TimeoutOption,
     MemoryOption,
+    SandboxOption,
     Option{"resume", nullptr,
            QT_TRANSLATE_NOOP("cli::Options",
                              "Skip files that an earlier command with the same options imported, "
@@ -160,7 +166,7 @@ constexpr std::array PrintOptions{
 
 constexpr std::array InspectOptions{
     Option{"json", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Print JSON, as in reports.")},
-    ReaderOption, AsWrittenOption, TimeoutOption, MemoryOption};
+    ReaderOption, AsWrittenOption, TimeoutOption, MemoryOption, SandboxOption};
 
 constexpr std::array RecordsOptions{
     Option{

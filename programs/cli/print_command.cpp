@@ -1,3 +1,4 @@
+#include "archive/checked_result.h"
 #include "cli/commands.h"
 #include "cli/import_options.h"
 #include "cli/option_reader.h"
@@ -104,12 +105,15 @@ private:
     [[nodiscard]] bool importAll()
     {
         QList<archive::Job> jobs;
+        QStringList inputs;
         for (const QString& file : m_options.files) {
             jobs.append(importJobOf(file));
+            inputs.append(jobs.last().file);
         }
         m_title = QFileInfo(jobs.first().shownName).completeBaseName();
         const int workers = std::clamp(QThread::idealThreadCount(), 1, MaximumWorkers);
-        const QList<archive::FileResult> results = runJobs(jobs, m_options.limits, workers);
+        const QList<archive::FileResult> results = runJobs(
+            jobs, m_options.limits, workers, {permissionsFor(inputs, m_folder.path()), false});
         bool isComplete = true;
         for (qsizetype index = 0; index < jobs.size(); ++index) {
             const QString& name = jobs.at(index).shownName;
@@ -125,9 +129,16 @@ private:
     [[nodiscard]] bool writeDocuments()
     {
         const archive::Job job = printJob(m_labels, m_options.job, newFolder());
-        const archive::FileResult result = runJobs({job}, m_options.limits, 1).first();
+        const archive::FileResult result =
+            runJobs({job}, m_options.limits, 1, {permissionsFor({}, m_folder.path()), false})
+                .first();
         m_documents = documentsOf(result);
-        return reportErrors({}, result);
+        // What a hostile label may have made of its worker must not choose what is printed.
+        const bool areOurs = std::all_of(m_documents.cbegin(), m_documents.cend(),
+                                         [&](const PrintDocument& document) {
+                                             return archive::isFileIn(job.staging, document.file);
+                                         });
+        return reportErrors({}, result) && areOurs;
     }
 
     /// Prints the errors of a result. True if there are none.

@@ -2,6 +2,7 @@
 
 #include "archive/worker_pool.h"
 #include "cli/import_worker.h"
+#include "sandbox/readable_paths.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -12,8 +13,10 @@ namespace {
 class Jobs final : public archive::PoolClient
 {
 public:
-    Jobs(const QList<archive::Job>& jobs, const archive::WorkerLimits& limits)
-        : m_jobs(jobs)
+    Jobs(const QList<archive::Job>& jobs, const archive::WorkerLimits& limits,
+         const archive::WorkerStart& start)
+        : m_start(start)
+        , m_jobs(jobs)
         , m_limits(limits)
         , m_results(jobs.size())
     {
@@ -29,6 +32,9 @@ public:
     {
         return m_taken < m_jobs.size() ? std::optional(m_taken++) : std::nullopt;
     }
+
+    QByteArray startLineFor(int) override { return archive::lineOf(m_start); }
+    void workerStarted(const sandbox::Confinement&) override {}
 
     QByteArray lineFor(qsizetype task, int) override { return archive::lineOf(m_jobs.at(task)); }
 
@@ -50,6 +56,7 @@ public:
     }
 
 private:
+    const archive::WorkerStart& m_start;
     const QList<archive::Job>& m_jobs;
     const archive::WorkerLimits& m_limits;
     QList<archive::FileResult> m_results;
@@ -59,9 +66,10 @@ private:
 } // namespace
 
 QList<archive::FileResult> runJobs(const QList<archive::Job>& jobs,
-                                   const archive::WorkerLimits& limits, int workers)
+                                   const archive::WorkerLimits& limits, int workers,
+                                   const archive::WorkerStart& start)
 {
-    Jobs client(jobs, limits);
+    Jobs client(jobs, limits, start);
     QEventLoop loop;
     archive::WorkerPool pool(client, workerCommand(limits.memoryMiB), limits, workers);
     for (const auto end : {&archive::WorkerPool::drained, &archive::WorkerPool::broken}) {
@@ -70,6 +78,15 @@ QList<archive::FileResult> runJobs(const QList<archive::Job>& jobs,
     pool.start();
     loop.exec();
     return client.results();
+}
+
+sandbox::Permissions permissionsFor(const QStringList& files, const QString& folder)
+{
+    sandbox::ReadablePaths readable;
+    for (const QString& file : files) {
+        readable.addFile(file);
+    }
+    return {readable.paths(), folder.isEmpty() ? QStringList() : QStringList{folder}};
 }
 
 } // namespace cli

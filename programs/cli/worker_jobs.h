@@ -4,6 +4,8 @@
 #include "archive/worker_end.h"
 
 #include <QList>
+#include <QString>
+#include <QStringList>
 
 namespace cli {
 
@@ -11,7 +13,12 @@ namespace cli {
 /// for each, in their order.
 ///
 /// @param workers most processes at a time
+/// @param start   what the workers may read and write
 [[nodiscard]] QList<archive::FileResult> runJobs(const QList<archive::Job>& jobs,
-                                                 const archive::WorkerLimits& limits, int workers);
+                                                 const archive::WorkerLimits& limits, int workers,
+                                                 const archive::WorkerStart& start);
+
+/// Permissions to read these files, and to write to a folder unless it is empty.
+[[nodiscard]] sandbox::Permissions permissionsFor(const QStringList& files, const QString& folder);
 
 } // namespace cli

@@ -15,12 +15,20 @@ TEST(Messages, CarryAJob)
                            u"shown"_s,
                            {{u"png"_s, u"out/a.png"_s}, {u"svg"_s, u"out/a.svg"_s}},
                            u"staging"_s,
-                           {{u"out/a.png"_s, 1LL << 40, 1'700'000'000'123}},
                            {{u"dpi"_s, 300}}};
     const QByteArray line = archive::lineOf(job);
     EXPECT_EQ(line.count('\n'), 1);
     EXPECT_TRUE(line.endsWith('\n'));
     EXPECT_EQ(archive::jobFromLine(line), job);
+}
+
+TEST(Messages, CarryAStart)
+{
+    const archive::WorkerStart start{{{Strange, u"/a"_s}, {u"/b"_s}}, true};
+    const QByteArray line = archive::lineOf(start);
+    EXPECT_EQ(line.count('\n'), 1);
+    EXPECT_EQ(archive::workerStartFromLine(line), start);
+    EXPECT_FALSE(archive::workerStartFromLine(line.left(line.size() / 2)));
 }
 
 TEST(Messages, CarryAResult)
@@ -31,7 +39,7 @@ TEST(Messages, CarryAResult)
         const archive::FileResult result{outcome,
                                          {Strange},
                                          {u"one"_s, u"two"_s},
-                                         {{u"staged"_s, {u"out"_s, 5, 6}, true}},
+                                         {{u"staged"_s, {u"out"_s, 5, 6}}},
                                          {{u"file"_s, Strange}},
                                          12'345'678'901};
         const QByteArray line = archive::lineOf(result);
@@ -42,7 +50,7 @@ TEST(Messages, CarryAResult)
 
 TEST(Messages, ThatAreTornAreNone)
 {
-    const QByteArray job = archive::lineOf(archive::Job{Strange, {}, {}, {}, {}, {}});
+    const QByteArray job = archive::lineOf(archive::Job{Strange, {}, {}, {}, {}});
     const QByteArray result = archive::lineOf(archive::FileResult{});
     EXPECT_FALSE(archive::jobFromLine(job.left(job.size() / 2)));
     EXPECT_FALSE(archive::resultFromLine(result.left(result.size() / 2)));

@@ -5,6 +5,8 @@
 
 #include <QDateTime>
 
+#include <sys/stat.h>
+
 namespace {
 using namespace Qt::StringLiterals;
 
@@ -36,6 +38,22 @@ TEST(StagingArea, EmptiesASlotThatIsUsedAgain)
     ASSERT_TRUE(left.open(QIODevice::WriteOnly));
     EXPECT_EQ(staging.emptySlot(0), slot);
     EXPECT_TRUE(QDir(slot).isEmpty());
+}
+
+// A worker in a sandbox may write to the folder that it was given, not to a new one of that name.
+TEST(StagingArea, KeepsTheFolderOfASlot)
+{
+    const TestFolder folder;
+    archive::StagingArea staging;
+    ASSERT_EQ(staging.open(folder.path()), QString());
+    const auto identity = [&] {
+        struct stat status = {};
+        EXPECT_EQ(::stat(QFile::encodeName(staging.emptySlot(0)).constData(), &status), 0);
+        return status.st_ino;
+    };
+    const auto first = identity();
+    folder.write(QFileInfo(staging.path()).fileName() + u"/0/left.png"_s);
+    EXPECT_EQ(identity(), first);
 }
 
 TEST(StagingArea, RemovesWhatAKilledCommandLeft)

@@ -1,11 +1,13 @@
 // A worker, and a coordinator that can be killed:
 //   archive_test_program worker MIB
+//   archive_test_program confined MIB      a worker in its sandbox
 //   archive_test_program coordinate IN OUT WORKERS [resume]
 
 #include "archive/input_list.h"
 #include "archive/memory_limit.h"
 #include "archive/run.h"
 #include "archive/stop_signals.h"
+#include "tests/archive/hostile_worker.h"
 #include "tests/archive/test_worker.h"
 
 #include <QCoreApplication>
@@ -60,9 +62,12 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
     const QString mode = arguments.isEmpty() ? QString() : arguments.takeFirst();
-    if (mode == "worker"_L1) {
+    if (mode == "worker"_L1 || mode == "confined"_L1) {
         archive::limitMemory(arguments.value(0).toInt());
-        return archive::runWorker(&suffer);
+        // Workers that suffer leave signs beside their files, which a sandbox forbids.
+        const archive::Confine leaveFree = [](const auto&) { return sandbox::Confinement{}; };
+        return mode == "confined"_L1 ? archive::runWorker(&misbehave)
+                                     : archive::runWorker(&suffer, leaveFree);
     }
     return mode == "coordinate"_L1 && arguments.size() >= 3 ? coordinate(arguments) : 2;
 }

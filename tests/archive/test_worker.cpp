@@ -76,9 +76,8 @@ archive::FileResult write(const archive::Job& job, const QByteArray& bytes)
         const QString staged = QDir(job.staging).filePath(u"staged."_s + output.target);
         leave(staged, bytes);
         archive::FileStamp stamp = *archive::stampOf(staged);
-        const auto known = archive::stampOf(output.path);
         stamp.path = output.path;
-        result.files.append({staged, stamp, known && job.known.contains(*known)});
+        result.files.append({staged, stamp});
     }
     if (job.options.value("report"_L1).toBool()) {
         result.report = {{u"file"_s, job.shownName}};

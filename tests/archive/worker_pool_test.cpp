@@ -6,6 +6,8 @@
 
 #include <QEventLoop>
 
+#include <csignal>
+
 namespace {
 using namespace Qt::StringLiterals;
 
@@ -21,6 +23,9 @@ public:
     {
         return m_next < m_count ? std::optional<qsizetype>(m_next++) : std::nullopt;
     }
+
+    QByteArray startLineFor(int) override { return archive::lineOf(archive::WorkerStart{}); }
+    void workerStarted(const sandbox::Confinement&) override {}
 
     QByteArray lineFor(qsizetype task, int slot) override
     {
@@ -97,6 +102,7 @@ TEST(WorkerEnd, HasAMessage)
         words(archive::WorkerEnd::Exited, archive::WorkerExitOutOfMemory).contains(u"300 MiB"_s));
     EXPECT_TRUE(words(archive::WorkerEnd::Signalled, 11).contains(u"SIGSEGV"_s));
     EXPECT_TRUE(words(archive::WorkerEnd::Signalled, 9).contains(u"killed"_s));
+    EXPECT_TRUE(words(archive::WorkerEnd::Signalled, SIGSYS).contains(u"sandbox"_s));
     EXPECT_TRUE(words(archive::WorkerEnd::Exited, 5).contains(u"status 5"_s));
 }
 

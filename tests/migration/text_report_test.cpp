@@ -15,6 +15,7 @@ FileReport sampleReport()
     report.status = Status::Imported;
     report.page.width = 50.8;
     report.page.height = 25.4;
+    report.sandbox = {QStringLiteral("files"), QStringLiteral("calls")};
     report.objects.inFile = 3;
     report.objects.imported = 2;
     report.itemList = {
@@ -40,6 +41,7 @@ TEST(Inspect, DescribesALabelOnOneScreen)
               "shelf.odg\n"
               "  Imported 2 of 3 objects. Content was lost or changed.\n"
               "  Page: 50.8 × 25.4 mm\n"
+              "  Sandbox: files, calls\n"
               "Items (millimeters):\n"
               "  # kind                x   y width height source content\n"
               "  1 Rounded rectangle 1.0 2.0  30.5    4.0 -\n"

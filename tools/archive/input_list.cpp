@@ -1,6 +1,7 @@
 #include "archive/input_list.h"
 
 #include "console/file_name.h"
+#include "sandbox/readable_paths.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,10 +33,12 @@ public:
     {
         if (console::kindOf(argument) == console::FileKind::Folder) {
             m_list.searched = true;
+            m_readable.addFolder(argument);
             addTree(argument);
         } else {
             const QString folder =
                 m_request.base.isEmpty() ? QString() : folderBelow(m_request.base, argument);
+            m_readable.addFile(argument);
             add({{argument, argument, folder}, true});
         }
     }
@@ -52,6 +55,7 @@ public:
         });
         std::sort(m_list.unreadable.begin(), m_list.unreadable.end(),
                   [](const auto& a, const auto& b) { return a.path < b.path; });
+        m_list.readable = m_readable.paths();
         return std::move(m_list);
     }
 
@@ -102,6 +106,9 @@ private:
         const QString name = below.isEmpty() ? fileName : below + u'/' + fileName;
         std::error_code error;
         if (!entry.is_directory(error)) {
+            if (entry.is_symlink(error)) {
+                m_readable.addFile(QDir(root).filePath(name));
+            }
             addFound(QDir(root).filePath(name), below);
         } else if (!entry.is_symlink(error)) {
             folders.append(name);
@@ -142,6 +149,7 @@ private:
     QString m_outputFolder;
     InputList m_list;
     QHash<QString, Found> m_byPath;
+    sandbox::ReadablePaths m_readable;
 };
 
 } // namespace

@@ -45,6 +45,7 @@ struct InputList
     QList<Input> inputs; ///< each file once, in the order of their shown names
     qint64 skipped = 0;  ///< files of folders that have none of the suffixes
     QList<UnreadableFolder> unreadable;
+    QStringList readable;  ///< what holds the inputs, for sandbox::Permissions
     bool searched = false; ///< at least one folder was given
 };
 

@@ -65,16 +65,13 @@ PlannedFile plannedOf(const QJsonObject& object)
 
 QJsonObject jsonOfStaged(const StagedFile& file)
 {
-    return {{u"staged"_s, file.staged},
-            {u"output"_s, toJson(file.output)},
-            {u"mayReplace"_s, file.mayReplace}};
+    return {{u"staged"_s, file.staged}, {u"output"_s, toJson(file.output)}};
 }
 
 StagedFile stagedOf(const QJsonObject& object)
 {
     return {object.value("staged"_L1).toString(),
-            fileStampFromJson(object.value("output"_L1).toObject()),
-            object.value("mayReplace"_L1).toBool()};
+            fileStampFromJson(object.value("output"_L1).toObject())};
 }
 
 } // namespace
@@ -99,15 +96,21 @@ std::optional<FileOutcome> outcomeOfName(const QString& name)
     return std::nullopt;
 }
 
+QByteArray lineOf(const WorkerStart& start)
+{
+    const sandbox::Permissions& permissions = start.permissions;
+    return lineOf(QJsonObject{{u"readable"_s, QJsonArray::fromStringList(permissions.readable)},
+                              {u"writable"_s, QJsonArray::fromStringList(permissions.writable)},
+                              {u"requiresSandbox"_s, start.requiresSandbox}});
+}
+
 QByteArray lineOf(const Job& job)
 {
-    const auto stamp = [](const FileStamp& known) { return toJson(known); };
     return lineOf(QJsonObject{{u"file"_s, job.file},
                               {u"shownName"_s, job.shownName},
                               {u"outputs"_s, arrayOf(job.outputs, jsonOfPlanned)},
                               {u"pageMark"_s, job.pageMark},
                               {u"staging"_s, job.staging},
-                              {u"known"_s, arrayOf(job.known, stamp)},
                               {u"options"_s, job.options}});
 }
 
@@ -121,6 +124,16 @@ QByteArray lineOf(const FileResult& result)
                               {u"memory"_s, result.memory}});
 }
 
+std::optional<WorkerStart> workerStartFromLine(const QByteArray& line)
+{
+    const QJsonObject object = QJsonDocument::fromJson(line).object();
+    if (!object.value("readable"_L1).isArray()) {
+        return std::nullopt;
+    }
+    return WorkerStart{{textsOf(object.value("readable"_L1)), textsOf(object.value("writable"_L1))},
+                       object.value("requiresSandbox"_L1).toBool()};
+}
+
 std::optional<Job> jobFromLine(const QByteArray& line)
 {
     const QJsonObject object = QJsonDocument::fromJson(line).object();
@@ -131,7 +144,6 @@ std::optional<Job> jobFromLine(const QByteArray& line)
                object.value("shownName"_L1).toString(),
                listOf(object.value("outputs"_L1), plannedOf),
                object.value("staging"_L1).toString(),
-               listOf(object.value("known"_L1), fileStampFromJson),
                object.value("options"_L1).toObject(),
                object.value("pageMark"_L1).toString()};
 }

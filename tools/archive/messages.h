@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/file_stamp.h"
+#include "sandbox/confinement.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -21,15 +22,22 @@ struct PlannedFile
     bool operator==(const PlannedFile&) const = default;
 };
 
+/// What a worker gets before its first job.
+struct WorkerStart
+{
+    sandbox::Permissions permissions; ///< it confines itself to them
+    bool requiresSandbox = false;     ///< it exits if the sandbox is not complete
+    bool operator==(const WorkerStart&) const = default;
+};
+
 /// One file to import, as a worker gets it.
 struct Job
 {
     QString file;
     QString shownName;
     QList<PlannedFile> outputs;
-    QString staging;        ///< an empty folder of the worker, to write to
-    QList<FileStamp> known; ///< outputs of earlier commands for this file
-    QJsonObject options;    ///< of the command; opaque to the coordinator
+    QString staging;     ///< an empty folder of the worker, to write to
+    QJsonObject options; ///< of the command; opaque to the coordinator
     /// Between the name of an output and the number of a further page: "shelf-2.png".
     QString pageMark = QString(u'-');
     bool operator==(const Job&) const = default;
@@ -50,9 +58,8 @@ enum class FileOutcome {
 /// One output that a worker wrote.
 struct StagedFile
 {
-    QString staged;          ///< current path
-    FileStamp output;        ///< final path; size and time of the staged file
-    bool mayReplace = false; ///< an existing file may be replaced
+    QString staged;   ///< current path
+    FileStamp output; ///< final path; size and time of the staged file
     bool operator==(const StagedFile&) const = default;
 };
 
@@ -69,10 +76,12 @@ struct FileResult
 };
 
 /// A message on one line, with its line break.
+[[nodiscard]] QByteArray lineOf(const WorkerStart& start);
 [[nodiscard]] QByteArray lineOf(const Job& job);
 [[nodiscard]] QByteArray lineOf(const FileResult& result);
 
 /// Empty if the line is not such a message.
+[[nodiscard]] std::optional<WorkerStart> workerStartFromLine(const QByteArray& line);
 [[nodiscard]] std::optional<Job> jobFromLine(const QByteArray& line);
 [[nodiscard]] std::optional<FileResult> resultFromLine(const QByteArray& line);
 

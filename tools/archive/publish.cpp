@@ -90,7 +90,7 @@ QString foreignFileMessage(const QString& path)
         .arg(path);
 }
 
-QString publish(const StagedFile& file)
+QString publish(const StagedFile& file, bool mayReplace)
 {
     const QString& path = file.output.path;
     const QString folder = QFileInfo(path).path();
@@ -102,9 +102,9 @@ QString publish(const StagedFile& file)
         return folderInPlaceMessage(path);
     }
     const QByteArray staged = console::fileNameToBytes(file.staged);
-    int error = moveFile(staged, console::fileNameToBytes(path), file.mayReplace);
+    int error = moveFile(staged, console::fileNameToBytes(path), mayReplace);
     if (error == EXDEV) {
-        error = copyFile(staged, path, file.mayReplace);
+        error = copyFile(staged, path, mayReplace);
     }
     if (error == EEXIST) {
         return foreignFileMessage(path);
@@ -115,11 +115,10 @@ QString publish(const StagedFile& file)
 void publishAll(FileResult& result, const std::function<bool(const QString& path)>& mayReplace)
 {
     QList<StagedFile> published;
-    for (StagedFile file : std::as_const(result.files)) {
-        QString error = publish(file);
-        if (!error.isEmpty() && !file.mayReplace && mayReplace && mayReplace(file.output.path)) {
-            file.mayReplace = true;
-            error = publish(file);
+    for (const StagedFile& file : std::as_const(result.files)) {
+        QString error = publish(file, false);
+        if (!error.isEmpty() && mayReplace && mayReplace(file.output.path)) {
+            error = publish(file, true);
         }
         if (error.isEmpty()) {
             published.append(file);

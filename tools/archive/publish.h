@@ -10,14 +10,15 @@ namespace archive {
 /// Creates missing folders. A file that must not be replaced is not replaced even if it appeared a
 /// moment ago.
 ///
+/// @param mayReplace an existing file may be replaced
 /// @return why that failed, for a person, and nothing is changed; else empty
-[[nodiscard]] QString publish(const StagedFile& file);
+[[nodiscard]] QString publish(const StagedFile& file, bool mayReplace);
 
 /// Publishes all files of a result. Files that could not be published are removed from it, with an
 /// error each.
 ///
-/// @param mayReplace whether a file that appeared at the path of an output may be replaced: another
-///        command may have written the same output since the worker checked. May be empty.
+/// @param mayReplace whether the file at the path of an output may be replaced; called if there is
+///        one. May be empty.
 void publishAll(FileResult& result, const std::function<bool(const QString& path)>& mayReplace);
 
 /// Messages about an output that cannot be written.

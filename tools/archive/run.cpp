@@ -1,5 +1,6 @@
 #include "archive/run.h"
 
+#include "archive/checked_result.h"
 #include "archive/publish.h"
 #include "console/file_name.h"
 
@@ -83,10 +84,12 @@ Progress Run::progress() const
 {
     Progress progress = m_progress;
     progress.milliseconds = m_elapsed.isValid() ? m_elapsed.elapsed() : 0;
-    const auto oldest = std::min_element(m_begun.begin(), m_begun.end());
-    if (oldest != m_begun.end() && progress.milliseconds - *oldest >= SlowMilliseconds) {
+    const auto oldest =
+        std::min_element(m_work.begin(), m_work.end(),
+                         [](const Work& a, const Work& b) { return a.begun < b.begun; });
+    if (oldest != m_work.end() && progress.milliseconds - oldest->begun >= SlowMilliseconds) {
         progress.slowFile = m_inputs.at(oldest.key()).shownName;
-        progress.slowMilliseconds = progress.milliseconds - *oldest;
+        progress.slowMilliseconds = progress.milliseconds - oldest->begun;
     }
     return progress;
 }
@@ -155,17 +158,30 @@ bool Run::isDoneAlready(qsizetype index)
                             m_settings.needsReports});
 }
 
+QByteArray Run::startLineFor(int slot)
+{
+    return archive::lineOf(WorkerStart{{m_settings.readable, {m_staging.emptySlot(slot)}},
+                                       m_settings.requiresSandbox});
+}
+
+void Run::workerStarted(const sandbox::Confinement& confinement)
+{
+    m_confinement = sandbox::common(m_confinement.value_or(confinement), confinement);
+}
+
 QByteArray Run::lineFor(qsizetype task, int slot)
 {
     const Input& input = m_inputs.at(task);
     const QString path = console::absolutePath(input.path);
-    m_stamps.insert(task, stampOf(path).value_or(FileStamp{path}));
-    m_begun.insert(task, m_elapsed.elapsed());
+    const Work work{stampOf(path).value_or(FileStamp{path}), m_elapsed.elapsed(),
+                    m_staging.emptySlot(slot),
+                    untouchedOutputs(m_journal.outputsOf(task), m_settings.outputFolder)};
+    m_work.insert(task, work);
 
     Job job;
     job.file = input.path;
     job.shownName = input.shownName;
-    job.staging = m_staging.emptySlot(slot);
+    job.staging = work.staging;
     job.options = m_settings.options;
     for (auto entry = m_settings.workerOptions.begin(); entry != m_settings.workerOptions.end();
          ++entry) {
@@ -175,14 +191,18 @@ QByteArray Run::lineFor(qsizetype task, int slot)
         job.outputs.append({target, outputPath(task, target)});
     }
     job.pageMark = m_names.pageMark(task);
-    job.known = untouchedOutputs(m_journal.outputsOf(task), m_settings.outputFolder);
     return archive::lineOf(job);
 }
 
 qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
 {
     std::optional<FileResult> result = resultFromLine(line);
-    if (!result) {
+    const Work work = m_work.value(task);
+    QStringList outputs;
+    for (const QString& output : plannedOutputs(task)) {
+        outputs.append(inOutputFolder(output));
+    }
+    if (!result || !checkFiles(*result, work.staging, outputs)) {
         taskFailed(task, {WorkerEnd::Garbled, 0});
         return 0;
     }
@@ -190,9 +210,16 @@ qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
     // Before the outputs are published: every output in place is in the journal, whichever process
     // is killed.
     remember(task, *result);
-    publishAll(*result, m_settings.mayReplace);
+    publishAll(*result, [&](const QString& path) { return mayReplace(work, path); });
     settle(task, std::move(*result), line.size());
     return memory;
+}
+
+bool Run::mayReplace(const Work& work, const QString& path) const
+{
+    const std::optional<FileStamp> stamp = stampOf(path);
+    return (stamp && work.known.contains(*stamp)) ||
+           (m_settings.mayReplace && m_settings.mayReplace(path));
 }
 
 void Run::taskFailed(qsizetype task, const WorkerEnd& end)
@@ -204,7 +231,8 @@ JournalRecord Run::recordFor(qsizetype index, const FileResult& result)
 {
     const QString path = console::absolutePath(m_inputs.at(index).path);
     JournalRecord record;
-    record.input = m_stamps.value(index, FileStamp{path});
+    const auto work = m_work.constFind(index);
+    record.input = work != m_work.constEnd() ? work->stamp : FileStamp{path};
     record.options = fingerprint(index);
     record.version = m_settings.version;
     record.outcome = result.outcome;
@@ -226,8 +254,7 @@ void Run::remember(qsizetype index, const FileResult& result)
             "archive::Run", "Cannot write the journal in the output folder; --resume will import "
                             "some files again."));
     }
-    m_stamps.remove(index);
-    m_begun.remove(index);
+    m_work.remove(index);
 }
 
 void Run::recordFailure(qsizetype index, FileOutcome outcome, const QString& error)
@@ -259,7 +286,7 @@ void Run::deliver(qsizetype index, FileResult result)
     if (const auto record = isResumed ? m_journal.find(index, fingerprint(index)) : std::nullopt) {
         result.report = record->report;
         for (const FileStamp& output : record->outputs) {
-            result.files.append({{}, output, false});
+            result.files.append({{}, output});
             result.files.last().output.path = inOutputFolder(output.path);
         }
     }
@@ -267,7 +294,8 @@ void Run::deliver(qsizetype index, FileResult result)
     for (const StagedFile& file : result.files) {
         written.append(file.output.path);
     }
-    m_deliver({m_inputs.at(index), result, written, isResumed});
+    m_deliver({m_inputs.at(index), result, written, isResumed,
+               m_confinement.value_or(sandbox::Confinement{})});
 }
 
 void Run::noteBroken()

@@ -36,7 +36,10 @@ struct RunSettings
     int workers = 1;
     WorkerCommand command;
     WorkerLimits limits;
-    /// Whether a file that appeared at the path of an output may be replaced.
+    QStringList readable;         ///< what holds the inputs, see sandbox::Permissions
+    bool requiresSandbox = false; ///< without a complete sandbox no file is imported
+    /// Whether an existing file may be replaced by an output. Outputs of earlier commands that have
+    /// not been touched may be.
     std::function<bool(const QString& path)> mayReplace;
 };
 
@@ -47,6 +50,8 @@ struct Delivery
     const FileResult& result;
     QStringList written;    ///< outputs that exist now, in the order of the targets
     bool isResumed = false; ///< imported by an earlier command
+    /// Active in all workers that have started until now.
+    sandbox::Confinement confinement = {};
 };
 
 /// Imports many files: hands them to workers, publishes their outputs, keeps the journal, and
@@ -87,9 +92,20 @@ Q_SIGNALS:
 
 private:
     std::optional<qsizetype> nextTask() override;
+    QByteArray startLineFor(int slot) override;
+    void workerStarted(const sandbox::Confinement& confinement) override;
     QByteArray lineFor(qsizetype task, int slot) override;
     qint64 taskAnswered(qsizetype task, const QByteArray& line) override;
     void taskFailed(qsizetype task, const WorkerEnd& end) override;
+
+    /// A file in work, as it was when that began.
+    struct Work
+    {
+        FileStamp stamp;
+        qint64 begun = 0; ///< milliseconds of m_elapsed
+        QString staging;
+        QList<FileStamp> known; ///< untouched outputs of earlier commands
+    };
 
     [[nodiscard]] bool finishWithoutWorker(qsizetype index);
     [[nodiscard]] QStringList plannedOutputs(qsizetype index) const;
@@ -98,6 +114,7 @@ private:
     [[nodiscard]] QString inOutputFolder(const QString& path) const;
     [[nodiscard]] bool isDoneAlready(qsizetype index);
     [[nodiscard]] JournalRecord recordFor(qsizetype index, const FileResult& result);
+    [[nodiscard]] bool mayReplace(const Work& work, const QString& path) const;
     void remember(qsizetype index, const FileResult& result);
     void settle(qsizetype index, FileResult result, qint64 size);
     void recordFailure(qsizetype index, FileOutcome outcome, const QString& error);
@@ -114,9 +131,9 @@ private:
     Journal m_journal;
     std::unique_ptr<WorkerPool> m_pool;
     OrderedResults m_results;
-    QSet<qsizetype> m_resumed;            ///< waiting results of earlier commands
-    QHash<qsizetype, FileStamp> m_stamps; ///< of the files in work, when they were begun
-    QHash<qsizetype, qint64> m_begun;     ///< milliseconds of m_elapsed when work began
+    QSet<qsizetype> m_resumed;     ///< waiting results of earlier commands
+    QHash<qsizetype, Work> m_work; ///< the files in work
+    std::optional<sandbox::Confinement> m_confinement;
     qsizetype m_cursor = 0;
     Progress m_progress;
     QElapsedTimer m_elapsed;

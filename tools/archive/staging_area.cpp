@@ -111,9 +111,10 @@ QString StagingArea::emptySlot(int number) const
     const QString slot = QDir(m_path).filePath(QString::number(number));
     const std::filesystem::path path = console::systemPath(slot);
     std::error_code ignored;
-    if (!std::filesystem::is_empty(path, ignored)) {
-        std::filesystem::remove_all(path, ignored);
-        std::filesystem::create_directory(path, ignored);
+    std::filesystem::create_directory(path, ignored);
+    // The folder itself stays: the worker may write to this one, not to another of its name.
+    for (const auto& entry : std::filesystem::directory_iterator(path, ignored)) {
+        std::filesystem::remove_all(entry.path(), ignored);
     }
     return slot;
 }

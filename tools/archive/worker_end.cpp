@@ -44,6 +44,10 @@ QString messageFor(const WorkerEnd& end, const WorkerLimits& limits)
                                            "--timeout.",
                                            nullptr, limits.timeoutSeconds);
     case WorkerEnd::Signalled:
+        if (end.code == SIGSYS) {
+            return tr("The import was stopped twice because it tried something that its sandbox "
+                      "forbids. Do not trust the file, and please report it.");
+        }
         return end.code == SIGKILL
                    ? tr("The worker process was killed twice; perhaps the machine is out of "
                         "memory.")

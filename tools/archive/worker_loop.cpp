@@ -1,6 +1,7 @@
 #include "archive/worker_loop.h"
 
 #include "archive/worker_end.h"
+#include "console/file_name.h"
 
 #include <QFile>
 
@@ -51,6 +52,46 @@ private:
     int m_descriptor;
 };
 
+/// Lines of standard input. QFile would take a pipe byte by byte, and memory for the longest line.
+class Lines
+{
+public:
+    /// A line with its end; less at the end of the input.
+    QByteArray next()
+    {
+        qsizetype end = m_unread.indexOf('\n');
+        for (qsizetype searched = m_unread.size(); end < 0 && searched < MaximumLine && readMore();
+             searched = m_unread.size()) {
+            end = m_unread.indexOf('\n', searched);
+        }
+        const QByteArray line = m_unread.left(end < 0 ? m_unread.size() : end + 1);
+        m_unread.remove(0, line.size());
+        return line;
+    }
+
+private:
+    bool readMore()
+    {
+        constexpr qsizetype blockSize = 64 * 1024;
+        const qsizetype size = m_unread.size();
+        m_unread.resize(size + blockSize);
+        ssize_t got = -1;
+        do {
+            got = ::read(STDIN_FILENO, m_unread.data() + size, blockSize);
+        } while (got < 0 && errno == EINTR);
+        m_unread.resize(size + std::max<ssize_t>(got, 0));
+        return got > 0;
+    }
+
+    QByteArray m_unread;
+};
+
+/// A heartbeat that lists what of the sandbox is active: "+ files network calls".
+QByteArray readyLine(const sandbox::Confinement& confinement)
+{
+    return "+ " + sandbox::codesOf(confinement).join(u' ').toLatin1() + '\n';
+}
+
 /// Bytes of memory that the process has now.
 qint64 memoryHeld()
 {
@@ -64,17 +105,26 @@ qint64 memoryHeld()
 
 } // namespace
 
-int runWorker(const JobHandler& handler)
+int runWorker(const JobHandler& handler, const Confine& confine)
 {
     const Answers answers;
     const Heartbeat heartbeat = [&answers] { answers.send("+\n"); };
-    QFile jobs;
-    if (!jobs.open(STDIN_FILENO, QIODevice::ReadOnly)) {
+    Lines jobs;
+    const std::optional<WorkerStart> start = workerStartFromLine(jobs.next());
+    if (!start) {
         return WorkerExitBroken;
     }
-    heartbeat();
+    if (!start->permissions.writable.isEmpty()) {
+        // Qt keeps large documents in temporary files.
+        qputenv("TMPDIR", console::fileNameToBytes(start->permissions.writable.first()));
+    }
+    const sandbox::Confinement confinement = confine(start->permissions);
+    if (start->requiresSandbox && !confinement.isComplete()) {
+        return WorkerExitUnconfined;
+    }
+    answers.send(readyLine(confinement));
     while (true) {
-        const QByteArray line = jobs.readLine(MaximumLine);
+        const QByteArray line = jobs.next();
         if (line.isEmpty()) {
             return WorkerExitDone;
         }

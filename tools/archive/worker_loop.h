@@ -9,12 +9,15 @@ namespace archive {
 
 /// Reports progress to the coordinator, which restarts the timeout.
 using Heartbeat = std::function<void()>;
+/// Confines the process: sandbox::confine(), except in tests.
+using Confine = std::function<sandbox::Confinement(const sandbox::Permissions&)>;
 using JobHandler = std::function<FileResult(const Job&, const Heartbeat&)>;
 
-/// Answers jobs until standard input is closed. Standard output belongs to the conversation:
-/// what anybody else prints there goes nowhere.
+/// Confines the process as the first line of standard input says, then answers jobs until that is
+/// closed. Standard output belongs to the conversation: what anybody else prints there goes
+/// nowhere.
 ///
 /// @return the exit status of the process
-[[nodiscard]] int runWorker(const JobHandler& handler);
+[[nodiscard]] int runWorker(const JobHandler& handler, const Confine& confine = &sandbox::confine);
 
 } // namespace archive

@@ -44,10 +44,12 @@ void WorkerPool::stopTaking()
 void WorkerPool::fill(std::size_t slot)
 {
     auto worker = std::make_unique<WorkerProcess>(m_command, m_limits);
-    connect(worker.get(), &WorkerProcess::ready, this, [this, slot] {
-        m_failedStarts = 0;
-        feed(slot);
-    });
+    connect(worker.get(), &WorkerProcess::ready, this,
+            [this, slot](const sandbox::Confinement& confinement) {
+                m_failedStarts = 0;
+                m_client.workerStarted(confinement);
+                feed(slot);
+            });
     connect(worker.get(), &WorkerProcess::answered, this,
             [this, slot](const QByteArray& line) { noteAnswer(slot, line); });
     // Queued, because the worker is deleted, which it must not be while it emits.
@@ -55,7 +57,7 @@ void WorkerPool::fill(std::size_t slot)
         worker.get(), &WorkerProcess::ended, this,
         [this, slot](const WorkerEnd& end) { noteEnd(slot, end); }, Qt::QueuedConnection);
     m_slots[slot].worker = std::move(worker);
-    m_slots[slot].worker->start();
+    m_slots[slot].worker->start(m_client.startLineFor(static_cast<int>(slot)));
 }
 
 void WorkerPool::feedAll()

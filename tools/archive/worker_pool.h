@@ -20,8 +20,11 @@ public:
     /// The next task, if there is one that can be begun now. Asked again whenever a worker
     /// has become idle.
     [[nodiscard]] virtual std::optional<qsizetype> nextTask() = 0;
-    /// The job that the worker of a slot (counted from 0) gets for a task. A task can be given out
-    /// twice.
+    /// What the worker of a slot (counted from 0) gets before its first job.
+    [[nodiscard]] virtual QByteArray startLineFor(int slot) = 0;
+    /// A worker has started, with what of its sandbox is active.
+    virtual void workerStarted(const sandbox::Confinement& confinement) = 0;
+    /// The job that the worker of a slot gets for a task. A task can be given out twice.
     [[nodiscard]] virtual QByteArray lineFor(qsizetype task, int slot) = 0;
     /// @return the memory that the worker holds by its own account, in bytes
     virtual qint64 taskAnswered(qsizetype task, const QByteArray& line) = 0;

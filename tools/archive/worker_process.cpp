@@ -56,9 +56,10 @@ WorkerProcess::~WorkerProcess()
     }
 }
 
-void WorkerProcess::start()
+void WorkerProcess::start(const QByteArray& line)
 {
     m_process.start();
+    m_process.write(line);
     m_limits.startTimer(m_clock, StartSeconds);
 }
 
@@ -106,7 +107,8 @@ void WorkerProcess::take(const QByteArray& line)
     if (m_state == State::Starting) {
         m_state = State::Idle;
         m_clock.stop();
-        Q_EMIT ready();
+        const QStringList codes = QString::fromLatin1(line).split(u' ');
+        Q_EMIT ready(sandbox::confinementOf(codes));
     } else if (m_state == State::Busy && line == "+") {
         startClock();
     } else if (m_state == State::Busy) {

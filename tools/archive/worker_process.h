@@ -20,9 +20,9 @@ struct WorkerCommand
     QStringList arguments;
 };
 
-/// One worker: a process of its own that is given one file at a time, as a line on its
-/// standard input, and answers with a line on its standard output. A line that is a single
-/// "+" is a heartbeat: once when it is ready, then after each step.
+/// One worker: a process of its own that confines itself, is given one file at a time, as a line on
+/// its standard input, and answers with a line on its standard output. A line that begins with "+"
+/// is a heartbeat: once when it is ready, with what of its sandbox is active; then after each step.
 ///
 /// The process is killed with this object, and with the program however that ends.
 class WorkerProcess final : public QObject
@@ -33,7 +33,8 @@ public:
     WorkerProcess(const WorkerCommand& command, const WorkerLimits& limits);
     ~WorkerProcess() override;
 
-    void start();
+    /// @param line what the worker gets first, from lineOf(WorkerStart)
+    void start(const QByteArray& line);
     /// Sends a job; the worker must be idle.
     void give(const QByteArray& line);
     /// Lets an idle worker exit.
@@ -47,7 +48,7 @@ public:
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
 
 Q_SIGNALS:
-    void ready();
+    void ready(const sandbox::Confinement& confinement);
     void answered(const QByteArray& line);
     /// The last signal. The worker may have been busy or not.
     void ended(const archive::WorkerEnd& end);

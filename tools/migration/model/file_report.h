@@ -131,9 +131,11 @@ struct FileReport
     QList<RepairReport> repaired;
     QList<SourceReport> datasources;
     QList<IssueReport> issues;
-    QByteArray thumbnail;       ///< PNG, at most 160 pixels a side; may be empty
-    QByteArray preview;         ///< the document's own small picture, in the same way
-    QStringList outputs;        ///< files that were written
+    QByteArray thumbnail; ///< PNG, at most 160 pixels a side; may be empty
+    QByteArray preview;   ///< the document's own small picture, in the same way
+    QStringList outputs;  ///< files that were written
+    /// What the process that read the file was confined to: codes of sandbox/confinement.h.
+    QStringList sandbox;
     QList<ItemReport> itemList; ///< all items one by one; empty in reports of archives
 
     bool operator==(const FileReport&) const = default;

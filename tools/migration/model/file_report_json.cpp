@@ -167,6 +167,7 @@ void describe(auto& field, ValuesOf<FileReport> auto& report)
     field("thumbnail", report.thumbnail);
     field("preview", report.preview);
     field("outputs", report.outputs);
+    field("sandbox", report.sandbox);
     field("itemList", report.itemList);
 }
 

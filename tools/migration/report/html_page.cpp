@@ -67,6 +67,10 @@ QString objectsSentence(const Totals& totals)
             u' ' +
             tr("Files whose objects could not be counted: %1.").arg(number(totals.uncounted));
     }
+    if (totals.exposed() > 0) {
+        sentence += u' ' + tr("Files that were read without a complete sandbox: %1.")
+                               .arg(number(totals.exposed()));
+    }
     return sentence;
 }
 

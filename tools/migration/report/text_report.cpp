@@ -145,6 +145,11 @@ QString headOf(const FileReport& report)
                 tr("Page: %1 × %2 mm")
                     .arg(millimeters(report.page.width), millimeters(report.page.height)) +
                 u'\n';
+        text += u"  "_s +
+                tr("Sandbox: %1")
+                    .arg(report.sandbox.isEmpty() ? tr("none")
+                                                  : printable(report.sandbox.join(u", "_s))) +
+                u'\n';
     }
     return text;
 }

@@ -4,6 +4,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 /// Counts by name.
 template <>
 struct fields::Json<QMap<QString, qint64>>
@@ -51,6 +53,7 @@ void describe(auto& field, fields::ValuesOf<Totals> auto& totals)
     field("uncounted", totals.uncounted);
     field("filesByStatus", totals.filesByStatus);
     field("filesByReader", totals.filesByReader);
+    field("filesBySandbox", totals.filesBySandbox);
     field("filesByCode", totals.filesByCode);
 }
 
@@ -82,12 +85,25 @@ void Totals::add(const FileReport& report)
     if (report.status != Status::Imported) {
         return;
     }
+    for (const QString& part : report.sandbox) {
+        ++filesBySandbox[part];
+    }
     if (report.objects.inFile) {
         objectsInFiles += *report.objects.inFile;
         objectsImported += report.objects.imported;
     } else {
         ++uncounted;
     }
+}
+
+qint64 Totals::exposed() const
+{
+    const qint64 imported = filesByStatus.value(statusName(Status::Imported));
+    qint64 confined = imported;
+    for (const QString& part : {u"files"_s, u"network"_s, u"calls"_s}) {
+        confined = std::min(confined, filesBySandbox.value(part));
+    }
+    return imported - confined;
 }
 
 QJsonObject toJson(const Totals& totals)

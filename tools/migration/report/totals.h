@@ -21,9 +21,12 @@ struct Totals
     qint64 uncounted = 0;       ///< imported files whose objects are not counted
     QMap<QString, qint64> filesByStatus;
     QMap<QString, qint64> filesByReader;
-    QMap<QString, qint64> filesByCode; ///< files with a problem of this code
+    QMap<QString, qint64> filesBySandbox; ///< imported files, by parts of the sandbox
+    QMap<QString, qint64> filesByCode;    ///< files with a problem of this code
 
     void add(const FileReport& report);
+    /// Files that were imported without a complete sandbox.
+    [[nodiscard]] qint64 exposed() const;
 
 private:
     [[nodiscard]] qint64& filesOf(Verdict verdict);

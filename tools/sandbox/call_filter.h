@@ -1,0 +1,18 @@
+#pragma once
+
+namespace sandbox {
+
+/// Whether the kernel filters system calls, and this program is built to let it.
+[[nodiscard]] bool canFilterCalls();
+
+/// Restricts this process to the system calls that an import needs, for good.
+///
+/// A call that no import makes and an attacker needs (to run programs, to start processes, to
+/// trace others, to mount, to enter namespaces, to use keys) ends the process with SIGSYS. Sockets
+/// are refused, because the name services of the system try them. All other calls seem not to
+/// exist, so that a library falls back to older ones.
+///
+/// @return whether that succeeded
+[[nodiscard]] bool filterCalls();
+
+} // namespace sandbox
