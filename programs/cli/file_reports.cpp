@@ -8,11 +8,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-migration::FileReport reportWithoutWorker(const archive::Input& input)
+migration::FileReport reportWithoutWorker(const archive::Delivery& delivery)
 {
     migration::FileReport report;
-    report.file = console::shownFileName(input.shownName);
-    report.bytes = archive::stampOf(input.path).value_or(archive::FileStamp{}).size;
+    report.file = console::shownFileName(delivery.input.shownName);
+    report.bytes = archive::stampOf(delivery.input.path).value_or(archive::FileStamp{}).size;
+    report.sandbox = sandbox::codesOf(delivery.confinement);
     return report;
 }
 

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 #include "cli/file_reports.h"
 #include "cli/import_options.h"
+#include "cli/import_worker.h"
 #include "cli/job_options.h"
 #include "cli/option_table.h"
 #include "cli/worker_jobs.h"

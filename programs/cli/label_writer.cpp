@@ -144,7 +144,7 @@ Written LabelWriter::writeRecords(exporting::Target target, const QString& outpu
     return writeFile(output, [&](const QString& file) {
         return exporting::exportFile(target,
                                      {*m_label.canvas, *m_label.datasources, first, count, title,
-                                      exportOptions(m_options.job), beforeRecord},
+                                      exportOptions(m_options), beforeRecord},
                                      file);
     });
 }
