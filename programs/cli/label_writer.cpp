@@ -4,7 +4,6 @@
 #include "cli/existing_output.h"
 #include "cli/label_input.h"
 #include "exporting/export_file.h"
-#include "printing/sheet_presets.h"
 #include "workbench/document/label_file.h"
 
 #include <QCoreApplication>
@@ -70,22 +69,6 @@ RecordSelection selectRecords(const OpenedLabel& label, const RecordRange& range
                     .arg(MaximumRecords)};
     }
     return {range.first - 1, count, {}};
-}
-
-printing::PrintLayout layoutFor(const JobOptions& options, const workbench::Canvas& canvas)
-{
-    return {printing::sheetOfName(options.sheet, printing::labelSize(canvas)),
-            options.firstPosition, options.copies, options.cropMarks};
-}
-
-QString layoutProblem(const printing::PrintLayout& layout, const workbench::Canvas& canvas,
-                      qint64 records)
-{
-    const QSizeF size = printing::labelSize(canvas);
-    if (layout.sheet && printing::fitOf(*layout.sheet, size) == printing::Fit::TooLarge) {
-        return printing::misfitMessage(*layout.sheet, size);
-    }
-    return printing::problemOf(layout, records);
 }
 
 LabelWriter::LabelWriter(OpenedLabel& label, WriteOptions options, const QString& staging,

@@ -5,7 +5,6 @@
 #include "cli/job_options.h"
 #include "console/file_name.h"
 #include "exporting/targets.h"
-#include "printing/print_document.h"
 
 #include <QList>
 #include <QString>
@@ -26,13 +25,6 @@ struct RecordSelection
 
 /// The records of a label that --records selects.
 [[nodiscard]] RecordSelection selectRecords(const OpenedLabel& label, const RecordRange& range);
-
-/// The layout of documents of a label.
-[[nodiscard]] printing::PrintLayout layoutFor(const JobOptions& options,
-                                              const workbench::Canvas& canvas);
-/// The user-visible reason why a label cannot be printed like this; empty if it can.
-[[nodiscard]] QString layoutProblem(const printing::PrintLayout& layout,
-                                    const workbench::Canvas& canvas, qint64 records);
 
 /// How outputs are made.
 struct WriteOptions

@@ -55,7 +55,7 @@ public:
         if (!importAll() || !writeDocuments()) {
             return console::ExitFailure;
         }
-        for (const PrintDocument& document : m_documents) {
+        for (const printing::PrintDocument& document : m_documents) {
             const printing::Submission submission =
                 printing::submit({document.file, m_options.printer, m_title, document.media});
             if (!submission.error.isEmpty()) {
@@ -156,7 +156,7 @@ private:
     int m_folders = 0;
     QString m_title;
     QList<PrintLabel> m_labels;
-    QList<PrintDocument> m_documents;
+    QList<printing::PrintDocument> m_documents;
 };
 
 } // namespace

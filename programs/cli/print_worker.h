@@ -3,6 +3,7 @@
 #include "archive/messages.h"
 #include "archive/worker_loop.h"
 #include "cli/job_options.h"
+#include "printing/print_batch.h"
 
 #include <QJsonObject>
 #include <QList>
@@ -20,20 +21,12 @@ struct PrintLabel
     bool operator==(const PrintLabel&) const = default;
 };
 
-/// One PDF document for a printer. Labels that need different papers are in different documents.
-struct PrintDocument
-{
-    QString file;
-    QString media; ///< paper, as CUPS names it
-    bool operator==(const PrintDocument&) const = default;
-};
-
 /// A job that writes all labels to documents in a staging folder. The result's report has the
 /// documents.
 [[nodiscard]] archive::Job printJob(const QList<PrintLabel>& labels, const JobOptions& options,
                                     const QString& staging);
 [[nodiscard]] bool isPrintJob(const archive::Job& job);
-[[nodiscard]] QList<PrintDocument> documentsOf(const archive::FileResult& result);
+[[nodiscard]] QList<printing::PrintDocument> documentsOf(const archive::FileResult& result);
 
 /// Runs such a job. If a label cannot be printed, no document is complete.
 [[nodiscard]] archive::FileResult writePrintDocuments(const archive::Job& job,

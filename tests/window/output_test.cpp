@@ -1,4 +1,4 @@
-// Export and print: files, series of records, dialogs.
+// Export: files, series of records, dialogs.
 
 #include "dialog_driver.h"
 #include "window_fixture.h"
@@ -17,7 +17,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
-#include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -193,29 +192,6 @@ TEST_F(OutputTest, APageThatIsTooLargeIsTold)
     EXPECT_FALSE(writeOutput(label, order, goOn).error.isEmpty());
 }
 
-TEST_F(OutputTest, PrintsAPageForEachRecordInItsTrueSize)
-{
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path(QStringLiteral("printed.pdf")));
-    printer.setFullPage(true);
-    printer.setPageSize(QPageSize(QSizeF(252.0, 126.0), QPageSize::Point));
-
-    const OutputReport report = printOutput(label, printer, {0, 5}, goOn);
-
-    EXPECT_EQ(report.error, QString());
-    EXPECT_EQ(pagesOf(contentOf(QStringLiteral("printed.pdf"))), 5);
-}
-
-TEST_F(OutputTest, APrinterThatTakesNothingIsTold)
-{
-    QPrinter printer;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path(QStringLiteral("no folder/printed.pdf")));
-    EXPECT_TRUE(
-        printOutput(label, printer, {0, 1}, goOn).error.contains(QStringLiteral("printer")));
-}
-
 TEST_F(OutputTest, TheDialogsFileFollowsTheFormat)
 {
     ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
@@ -337,12 +313,4 @@ TEST_F(OutputTest, AfterASeriesTheLabelShowsItsRecordAgain)
             .files,
         1);
     EXPECT_TRUE(contentOf(QStringLiteral("x.svg")).contains("No. 2"));
-}
-
-TEST_F(OutputTest, PrintingThatIsCancelledPrintsNothing)
-{
-    DialogDriver dialogs;
-    QWidget window;
-    dialogs.expectCancel();
-    EXPECT_EQ(printLabel(label, 0, Prompts(&window), &window), QString());
 }

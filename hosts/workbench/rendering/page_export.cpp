@@ -198,27 +198,4 @@ QString writePdf(const QString& fileName, const QString& title, const QSizeF& pa
     return commitWhole(file) ? QString() : cannotWrite(fileName, writeError(file));
 }
 
-bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,
-                const PreparePage& prepare)
-{
-    // The first page must be prepared before painting begins.
-    if (pages < 1 || !prepare(0)) {
-        return false;
-    }
-    QPainter painter;
-    if (!painter.begin(&device)) {
-        return false;
-    }
-    for (qint64 page = 0; page < pages; ++page) {
-        if (page > 0 && (!prepare(page) || !device.newPage())) {
-            return false;
-        }
-        painter.save();
-        painter.scale(device.logicalDpiX() / PointsPerInch, device.logicalDpiY() / PointsPerInch);
-        paintPage(painter, canvas);
-        painter.restore();
-    }
-    return painter.end();
-}
-
 } // namespace workbench

@@ -8,7 +8,6 @@
 
 #include <functional>
 
-class QPagedPaintDevice;
 class QPainter;
 
 namespace workbench {
@@ -47,10 +46,5 @@ using Paint = std::function<void(QPainter& painter)>;
 /// @param page size of all pages in points
 [[nodiscard]] QString writePdf(const QString& fileName, const QString& title, const QSizeF& page,
                                qint64 pages, const PaintPdfPage& paint);
-
-/// Paints pages in their true size on a printer, each at the upper left corner of the paper. False
-/// if it was stopped or the device failed.
-[[nodiscard]] bool paintPages(QPagedPaintDevice& device, const Canvas& canvas, qint64 pages,
-                              const PreparePage& prepare);
 
 } // namespace workbench

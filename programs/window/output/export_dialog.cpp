@@ -127,7 +127,10 @@ void ExportDialog::buildForm()
     file->addWidget(m_fileName);
     file->addWidget(m_browse);
     m_form->addRow(tr("&Format"), m_target);
-    m_form->addRow(tr("F&ile"), file);
+    // A row with a layout has no field that its mnemonic could focus.
+    auto* fileCaption = new QLabel(tr("F&ile"), this);
+    fileCaption->setBuddy(m_fileName);
+    m_form->addRow(fileCaption, file);
     addOptionFields(*m_form);
     m_form->addRow(tr("Records"), m_records);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);

@@ -3,15 +3,18 @@
 #include "window/label/prompts.h"
 #include "window/output/export_dialog.h"
 #include "window/output/output_job.h"
+#include "window/output/print_dialog.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
-#include <QPrintDialog>
-#include <QPrinter>
+#include <QGuiApplication>
 #include <QProgressDialog>
+#include <QSaveFile>
+#include <QTemporaryDir>
 
-#include <algorithm>
+using namespace Qt::Literals::StringLiterals;
 
 namespace window {
 
@@ -59,38 +62,62 @@ QString told(const OutputReport& report, const OutputOrder& order)
                              : Words::tr("%1 files written").arg(report.files);
 }
 
-// The pages of the print dialog are the records.
-RecordRange recordsOf(const QPrinter& printer, qint64 shownRecord, qint64 count)
+// A file that the user has chosen; empty if the user canceled.
+QString askPdfFile(const OpenLabel& label, QWidget* window)
 {
-    switch (printer.printRange()) {
-    case QPrinter::PageRange: {
-        const qint64 first = std::clamp<qint64>(printer.fromPage(), 1, count) - 1;
-        const qint64 last = std::clamp<qint64>(printer.toPage(), first + 1, count);
-        return {first, last - first};
-    }
-    case QPrinter::AllPages:
-        return {0, count};
-    default:
-        return {shownRecord, 1};
-    }
+    return QFileDialog::getSaveFileName(window, Words::tr("Print to PDF"),
+                                        suggestedBase(label) + u".pdf"_s,
+                                        Words::tr("PDF documents (*.pdf)"));
 }
 
-void offerPages(QPrinter& printer, const OpenLabel& label)
+// The documents of different papers: "shelf.pdf", "shelf-2.pdf".
+QString moveDocuments(const QList<printing::PrintDocument>& documents, const QString& fileName)
 {
-    // Label printers accept any paper size; for others the user selects the paper.
-    printer.setFullPage(true);
-    printer.setPageSize(
-        QPageSize(label.canvas->page().size, QPageSize::Point, {}, QPageSize::ExactMatch));
-    printer.setDocName(displayName(label));
+    const QFileInfo info(fileName);
+    for (qsizetype index = 0; index < documents.size(); ++index) {
+        const QString name = index == 0 ? fileName
+                                        : info.dir().filePath(u"%1-%2.pdf"_s.arg(
+                                              info.completeBaseName(), QString::number(index + 1)));
+        QFile source(documents.at(index).file);
+        QSaveFile target(name);
+        if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly) ||
+            target.write(source.readAll()) != source.size() || !target.commit()) {
+            return Words::tr("Cannot write \"%1\": %2.").arg(name, target.errorString());
+        }
+    }
+    return {};
 }
 
-void offerRecords(QPrintDialog& dialog, qint64 count)
+QString submitDocuments(const QList<printing::PrintDocument>& documents, const QString& title,
+                        const QString& printer, const PrintServer& server)
 {
-    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, count > 1);
-    dialog.setMinMax(1, static_cast<int>(count));
-    dialog.setFromTo(1, static_cast<int>(count));
-    dialog.setPrintRange(QAbstractPrintDialog::CurrentPage);
+    for (const printing::PrintDocument& document : documents) {
+        const printing::Submission submission =
+            server.submit({document.file, printer, title, document.media});
+        if (!submission.error.isEmpty()) {
+            return submission.error;
+        }
+    }
+    return {};
+}
+
+OutputReport printAll(PrintDialog& dialog, const OpenLabel& label, const QString& pdfFile,
+                      const PrintServer& server, const Progress& progress)
+{
+    OutputReport report;
+    const QTemporaryDir folder;
+    if (!folder.isValid()) {
+        report.error = Words::tr("Cannot create a temporary folder: %1.").arg(folder.errorString());
+        return report;
+    }
+    QList<printing::PrintDocument> documents;
+    report = dialog.write(folder.path(), progress, documents);
+    if (report.error.isEmpty()) {
+        report.error = pdfFile.isEmpty() ? submitDocuments(documents, displayName(label),
+                                                           dialog.printer(), server)
+                                         : moveDocuments(documents, pdfFile);
+    }
+    return report;
 }
 
 } // namespace
@@ -113,27 +140,36 @@ QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts
     return told(report, order);
 }
 
-QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts, QWidget* window)
+QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts, QWidget* window,
+                   const PrintServer& server)
 {
-    const qint64 count = std::min(label.sources->recordCount(), MaximumRecords);
-    QPrinter printer(QPrinter::HighResolution);
-    offerPages(printer, label);
-    QPrintDialog dialog(&printer, window);
-    offerRecords(dialog, count);
-    if (dialog.exec() != QDialog::Accepted) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const printing::Printers printers = server.findPrinters();
+    QGuiApplication::restoreOverrideCursor();
+    PrintDialog dialog(label, shownRecord, printers, window);
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    const QString pdfFile =
+        isAccepted && dialog.printer().isEmpty() ? askPdfFile(label, window) : QString();
+    if (!isAccepted || (dialog.printer().isEmpty() && pdfFile.isEmpty())) {
+        showRecord(label, shownRecord);
         return {};
     }
-    const RecordRange records = recordsOf(printer, shownRecord, count);
-    ProgressWindow progress(Words::tr("Printing"), records.count, window);
-    const OutputReport report = printOutput(
-        label, printer, records, [&progress](qint64 done) { return progress.isWanted(done); });
+    ProgressWindow progress(Words::tr("Printing"), dialog.batch()->records(), window);
+    const OutputReport report = printAll(dialog, label, pdfFile, server, [&progress](qint64 done) {
+        return progress.isWanted(done);
+    });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
         prompts.showError(Words::tr("The label could not be printed."), report.error);
         return {};
     }
-    return report.wasStopped ? Words::tr("Printing was stopped")
-                             : Words::tr("%1 pages were given to the printer").arg(records.count);
+    if (report.wasStopped) {
+        return Words::tr("Printing was stopped");
+    }
+    const int pages = static_cast<int>(dialog.batch()->pages());
+    return pdfFile.isEmpty()
+               ? Words::tr("%n page(s) given to printer %1", nullptr, pages).arg(dialog.printer())
+               : Words::tr("Written: %1").arg(pdfFile);
 }
 
 } // namespace window

@@ -3,7 +3,6 @@
 #include "exporting/export_file.h"
 #include "workbench/rendering/page_export.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -112,24 +111,6 @@ OutputReport writeOutput(OpenLabel& label, const OutputOrder& order, const Progr
 {
     return writesOneFile(order) ? writeFile(label, order, order.fileName, order.records, progress)
                                 : writeSeries(label, order, progress);
-}
-
-OutputReport printOutput(OpenLabel& label, QPagedPaintDevice& printer, const RecordRange& records,
-                         const Progress& progress)
-{
-    Pages pages(label, records, progress);
-    const bool isPrinted =
-        workbench::paintPages(printer, *label.canvas, records.count,
-                              [&pages](qint64 page) { return pages.prepare(page); });
-    OutputReport report;
-    report.wasStopped = pages.wasStopped();
-    if (!isPrinted && !report.wasStopped) {
-        report.error = QCoreApplication::translate(
-            "window::OutputJob",
-            "The printer did not take the pages. See that it is switched on and connected, or "
-            "print into a PDF file with “Export”.");
-    }
-    return report;
 }
 
 } // namespace window

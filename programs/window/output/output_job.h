@@ -7,8 +7,6 @@
 
 #include <functional>
 
-class QPagedPaintDevice;
-
 namespace window {
 
 /// Most records of one export or print. A counter may have billions, and writing
@@ -31,7 +29,7 @@ struct OutputOrder
     RecordRange records;
 };
 
-/// The result of an export or print.
+/// The result of an export.
 struct OutputReport
 {
     QString error; ///< user-visible; empty on success
@@ -53,9 +51,5 @@ using Progress = std::function<bool(qint64 done)>;
 /// shown one.
 [[nodiscard]] OutputReport writeOutput(OpenLabel& label, const OutputOrder& order,
                                        const Progress& progress);
-
-/// Prints one page for each record.
-[[nodiscard]] OutputReport printOutput(OpenLabel& label, QPagedPaintDevice& printer,
-                                       const RecordRange& records, const Progress& progress);
 
 } // namespace window

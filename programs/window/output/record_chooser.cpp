@@ -81,6 +81,11 @@ RecordRange RecordChooser::range() const
     return {first, std::clamp<qint64>(count, 1, MaximumRecords)};
 }
 
+bool RecordChooser::isRun() const
+{
+    return m_run->isChecked();
+}
+
 void RecordChooser::chooseRun(int first, int last)
 {
     m_run->setChecked(true);

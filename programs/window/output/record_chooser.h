@@ -21,6 +21,7 @@ public:
 
     /// Never more than MaximumRecords.
     [[nodiscard]] RecordRange range() const;
+    [[nodiscard]] bool isRun() const;
     /// Selects a range; both ends are inclusive and counted from 1.
     void chooseRun(int first, int last);
 

@@ -1,0 +1,95 @@
+#include "window/output/page_preview.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace window {
+
+namespace {
+
+constexpr double PointsPerMillimeter = 72.0 / 25.4;
+constexpr int Border = 12; // pixels around the paper
+
+} // namespace
+
+PagePreview::PagePreview(QWidget* parent)
+    : QWidget(parent)
+{
+    setAccessibleName(tr("Preview of the page"));
+}
+
+void PagePreview::show(std::shared_ptr<const printing::PrintBatch> batch, qint64 page)
+{
+    m_batch = std::move(batch);
+    m_page = page;
+    m_image = {};
+    update();
+}
+
+QRectF PagePreview::paperRect() const
+{
+    const QRectF available = QRectF(rect()).adjusted(Border, Border, -Border, -Border);
+    const QSizeF paper = m_batch->pageSize(m_page);
+    QRectF fitted({}, paper.scaled(available.size(), Qt::KeepAspectRatio));
+    fitted.moveCenter(available.center());
+    return fitted;
+}
+
+QImage PagePreview::renderedPage(const QSize& size) const
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double scale = size.width() / m_batch->pageSize(m_page).width();
+    painter.scale(scale, scale);
+    if (const printing::Sheet* sheet = m_batch->sheetOf(m_page)) {
+        painter.setPen(QPen(Qt::lightGray, 0.0, Qt::DotLine));
+        for (int position = 0; position < sheet->positions(); ++position) {
+            const QRectF cell = printing::cellAt(*sheet, position);
+            painter.drawRoundedRect(
+                QRectF(cell.topLeft() * PointsPerMillimeter, cell.size() * PointsPerMillimeter),
+                3.0, 3.0);
+        }
+    }
+    (void)m_batch->paint(painter, m_page);
+    return image;
+}
+
+void PagePreview::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().mid());
+    if (m_batch == nullptr) {
+        return;
+    }
+    const QRectF paper = paperRect();
+    const QSize pixels = (paper.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
+    if (m_image.size() != pixels) {
+        m_image = renderedPage(pixels);
+        Q_EMIT painted();
+    }
+    painter.drawImage(paper, m_image);
+    painter.setPen(palette().color(QPalette::Shadow));
+    painter.drawRect(paper);
+}
+
+void PagePreview::mousePressEvent(QMouseEvent* event)
+{
+    const printing::Sheet* sheet = m_batch != nullptr ? m_batch->sheetOf(m_page) : nullptr;
+    if (sheet == nullptr || event->button() != Qt::LeftButton) {
+        return;
+    }
+    const QRectF paper = paperRect();
+    const QPointF point =
+        (event->position() - paper.topLeft()) * (sheet->paperSize.width() / paper.width());
+    for (int position = 0; position < sheet->positions(); ++position) {
+        if (printing::cellAt(*sheet, position).contains(point)) {
+            Q_EMIT positionWanted(position);
+        }
+    }
+}
+
+} // namespace window
