@@ -43,7 +43,7 @@ constexpr std::array Formats{
            QT_TRANSLATE_NOOP("cli::FormatsCommand", "OpenDocument texts and drawings"),
            QT_TRANSLATE_NOOP("cli::FormatsCommand", "all versions (zipped)")},
     Format{"label", QT_TRANSLATE_NOOP("cli::FormatsCommand", "labels saved by LabelPort"),
-           QT_TRANSLATE_NOOP("cli::FormatsCommand", "1")},
+           QT_TRANSLATE_NOOP("cli::FormatsCommand", "1 and 2")},
 };
 static_assert(Formats.size() == Readers.size() + 1);
 

@@ -183,6 +183,14 @@ void MainWindow::showRecordNumber(qint64 record)
     refreshActions();
 }
 
+// Null if the user canceled.
+void MainWindow::pushSourceChange(std::unique_ptr<QUndoCommand> change)
+{
+    if (change != nullptr) {
+        m_session->undoStack().push(change.release());
+    }
+}
+
 void MainWindow::refreshItems()
 {
     OpenLabel* label = m_session->label();
@@ -236,6 +244,8 @@ void MainWindow::refreshActions()
     action(ActionId::PreviousRecord).setEnabled(hasBefore);
     action(ActionId::NextRecord).setEnabled(hasAfter);
     action(ActionId::LastRecord).setEnabled(hasAfter);
+    action(ActionId::EditSource)
+        .setEnabled(isOpen && !m_session->label()->sources->ids().isEmpty());
     action(ActionId::GoRecord).setEnabled(hasBefore || hasAfter);
 }
 

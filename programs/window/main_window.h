@@ -71,6 +71,7 @@ private:
     void refreshTitle();
     void refreshActions();
     void fillRecentMenu();
+    void pushSourceChange(std::unique_ptr<QUndoCommand> change);
     void setUnit(LengthUnit unit);
     void setColors(ColorScheme scheme);
     void showItem(workbench::CanvasItem* item);

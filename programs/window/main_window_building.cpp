@@ -5,6 +5,8 @@
 #include "window/edit_actions.h"
 #include "window/main_window.h"
 #include "window/properties/item_panel.h"
+#include "window/sources/source_commands.h"
+#include "window/sources/source_panel.h"
 #include "window/welcome_page.h"
 #include "workbench/canvas/canvas.h"
 
@@ -224,6 +226,15 @@ void MainWindow::connectRecordActions()
             [this] { showRecordNumber(m_record + 1); });
     connect(&action(ActionId::LastRecord), &QAction::triggered, this,
             [this] { showRecordNumber(recordCount() - 1); });
+    connect(&action(ActionId::ConnectCsv), &QAction::triggered, this, [this] {
+        pushSourceChange(connectCsv(
+            *m_session->label(), [this] { showRecordNumber(m_record); }, this));
+    });
+    connect(&action(ActionId::EditSource), &QAction::triggered, this, [this] {
+        pushSourceChange(editSource(
+            *m_session->label(), m_panels->sources().currentSource(),
+            [this] { showRecordNumber(m_record); }, this));
+    });
 }
 
 void MainWindow::restoreSettings()

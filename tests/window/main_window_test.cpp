@@ -333,7 +333,7 @@ TEST_F(MainWindowTest, HelpShowsEveryKey)
         dialog.reject();
     });
     window.action(ActionId::Shortcuts).trigger();
-    EXPECT_EQ(rows, 56);
+    EXPECT_EQ(rows, 58);
     dialogs.expectButton(QMessageBox::Ok);
     window.action(ActionId::About).trigger();
 }

@@ -319,7 +319,7 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
             }
         }
     }
-    EXPECT_EQ(actions.shortcuts().size(), 52);
+    EXPECT_EQ(actions.shortcuts().size(), 54);
 }
 
 TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)

@@ -215,6 +215,7 @@ TEST_F(PrintTest, AClickOnTheSheetSelectsTheFirstFreePosition)
     dialog.sheet().selectSheet(u"L7165"_s);
     dialogs.expect([](QDialog&) {});
     dialog.show();
+    QCoreApplication::processEvents();
     auto* preview = dialog.findChild<PagePreview*>();
     ASSERT_NE(preview, nullptr);
     QTest::mouseClick(preview, Qt::LeftButton, {}, preview->rect().center() + QPoint(10, 10));
@@ -227,6 +228,7 @@ TEST_F(PrintTest, ThePreviewShowsRealRecordsAndLeavesTheLabelAlone)
     dialog.records().chooseRun(3, 4);
     dialogs.expect([](QDialog&) {});
     dialog.show();
+    QCoreApplication::processEvents();
     const QImage before = dialog.findChild<PagePreview*>()->grab().toImage();
     dialog.records().chooseRun(4, 4);
     const QImage after = dialog.findChild<PagePreview*>()->grab().toImage();

@@ -1,3 +1,4 @@
+#include "workbench/datasources/csv_source.h"
 #include "workbench/document/label_json.h"
 
 #include "sample_label.h"
@@ -144,12 +145,29 @@ TEST(LabelJson, SaysWhatIsNoLabelFile)
 TEST(LabelJson, SaysThatANewerVersionIsNeeded)
 {
     EXPECT_EQ(errorOf(sampleWith("version", FormatVersion + 1)),
-              "The label was saved by a newer version of the program: its format is 2, and this"
-              " version knows formats up to 1. Update the program to open it.");
+              "The label was saved by a newer version of the program: its format is 3, and this"
+              " version knows formats up to 2. Update the program to open it.");
     for (const QJsonValue& bad : {QJsonValue(0), QJsonValue(-1), QJsonValue(1.5),
                                   QJsonValue(QStringLiteral("1")), QJsonValue(1e300)})
         EXPECT_EQ(errorOf(sampleWith("version", bad)),
                   "The label file is damaged: version is not a positive whole number.");
+}
+
+// Older programs open what they can.
+TEST(LabelJson, HasTheOldestVersionThatHasAllParts)
+{
+    SavedLabel label = sampleLabel();
+    EXPECT_EQ(parsed(toJson(label)).value(QLatin1String("version")).toInt(), 1);
+    const workbench::datasources::CsvTable table =
+        workbench::datasources::parseCsv("Name,Price\nApple,1\nPear,2\n");
+    const QVariantMap properties = workbench::datasources::CsvSource::propertiesOf(
+        QStringLiteral("/a/fruit.csv"), {QLatin1Char(',')}, table);
+    label.datasources.append(
+        {99, workbench::datasources::CsvSource::Kind.toString(), properties, {}});
+    EXPECT_EQ(parsed(toJson(label)).value(QLatin1String("version")).toInt(), 2);
+    const ReadLabel read = fromJson(toJson(label));
+    EXPECT_EQ(read.error, QString());
+    EXPECT_EQ(read.label, label);
 }
 
 TEST(LabelJson, NoticesAnyChangeByItsChecksum)

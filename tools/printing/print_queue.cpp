@@ -75,6 +75,7 @@ Submission submit(const PrintRequest& request)
     if (!answer.error.isEmpty()) {
         return {{}, answer.error};
     }
+    // no translation: what the command prints
     static const QRegularExpression reply(u"request id is (\\S+)"_s);
     return {reply.match(answer.out).captured(1), {}};
 }
@@ -87,6 +88,7 @@ Printers findPrinters()
     }
     Printers printers;
     printers.names = names.out.split(u'\n', Qt::SkipEmptyParts);
+    // no translation: what the command prints
     static const QRegularExpression reply(u"system default destination: (\\S+)"_s);
     printers.usual = reply.match(runCommand(u"lpstat"_s, {u"-d"_s}).out).captured(1);
     return printers;

@@ -1,5 +1,6 @@
 #include "workbench/datasources/datasource_controller.h"
 
+#include "workbench/datasources/csv_source.h"
 #include "workbench/datasources/sequence_source.h"
 #include "workbench/datasources/text_list_source.h"
 
@@ -26,6 +27,9 @@ std::unique_ptr<Datasource> DatasourceController::make(const QString& kind) cons
     }
     if (kind == TextListSource::Kind) {
         return std::make_unique<TextListSource>();
+    }
+    if (kind == CsvSource::Kind) {
+        return std::make_unique<CsvSource>();
     }
     return nullptr;
 }

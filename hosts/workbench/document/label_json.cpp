@@ -1,6 +1,7 @@
 #include "workbench/document/label_json.h"
 
 #include "limits/json/tree_size.h"
+#include "workbench/datasources/csv_source.h"
 #include "workbench/document/document_limits.h"
 #include "workbench/document/label_fields.h"
 #include "workbench/document/picture_pixels.h"
@@ -9,6 +10,8 @@
 #include <QCryptographicHash>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace workbench::document {
 
@@ -31,6 +34,16 @@ constexpr QLatin1String FormatName("labelport-label");
 {
     const QByteArray text = QJsonDocument(label).toJson(QJsonDocument::Compact);
     return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex());
+}
+
+// The oldest version that has all parts of the label, so that older programs open what they can.
+[[nodiscard]] int versionFor(const SavedLabel& label)
+{
+    const bool hasCsv = std::any_of(label.datasources.begin(), label.datasources.end(),
+                                    [](const datasources::SourceValues& source) {
+                                        return source.kind == datasources::CsvSource::Kind;
+                                    });
+    return hasCsv ? FormatVersion : 1;
 }
 
 [[nodiscard]] ReadLabel refusal(const QString& error)
@@ -77,7 +90,7 @@ QByteArray toJson(const SavedLabel& label, Origin origin, const Heartbeat& heart
     const QString checksum = checksumOf(content);
     heartbeat();
     QJsonObject file{{FormatKey, FormatName},
-                     {VersionKey, FormatVersion},
+                     {VersionKey, versionFor(label)},
                      {ChecksumKey, checksum},
                      {LabelKey, content}};
     if (origin == Origin::Import) {

@@ -6,8 +6,9 @@
 
 namespace workbench::document {
 
-/// The newest version of the format, which is the one that is written.
-inline constexpr int FormatVersion = 1;
+/// The newest version of the format. A label is written in the oldest version that has all its
+/// parts: 2 with records of a CSV file, else 1.
+inline constexpr int FormatVersion = 2;
 
 /// Who saved a label. An import marks its labels, so that a later import may replace them; the mark
 /// is lost when a person saves the label.

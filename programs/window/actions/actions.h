@@ -63,6 +63,8 @@ enum class ActionId : quint8 {
     NextRecord,
     LastRecord,
     GoRecord,
+    ConnectCsv,
+    EditSource,
     Shortcuts,
     About,
 };

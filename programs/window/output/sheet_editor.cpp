@@ -31,7 +31,7 @@ constexpr QLatin1String OwnSheet("*");
 
 QString lengthText(double length)
 {
-    return QLocale().toString(std::round(length * 10.0) / 10.0, 'g', 6);
+    return QLocale().toString(std::round(length * 100.0) / 100.0, 'g', 6);
 }
 
 QString presetText(const Sheet& sheet)
@@ -152,7 +152,7 @@ void SheetEditor::selectPaper()
     const QString name = m_paper->currentData().toString();
     const std::optional<Sheet> sheet =
         name == OwnSheet ? std::optional(m_own) : printing::sheetOfName(name, m_label);
-    m_measures->setEnabled(sheet.has_value());
+    m_measures->setVisible(sheet.has_value());
     if (sheet) {
         showMeasures(*sheet);
     }

@@ -57,6 +57,8 @@ SourcePanel::SourcePanel(const Actions& actions, QWidget* parent)
                             fontMetrics().horizontalAdvance(u"Number   "_s));
     connect(m_record, &QSpinBox::valueChanged, this,
             [this](int number) { Q_EMIT recordWanted(number - 1); });
+    QAction* edit = &actions.at(ActionId::EditSource);
+    connect(m_table, &QTableView::doubleClicked, edit, &QAction::trigger);
     show(nullptr, 0);
 }
 
@@ -65,7 +67,7 @@ QWidget* SourcePanel::makeRecordBar(const Actions& actions)
     auto* bar = new QWidget(this);
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(6, 4, 6, 4);
-    auto* caption = new QLabel(tr("&Record"), bar);
+    auto* caption = new QLabel(tr("Rec&ord"), bar);
     caption->setBuddy(m_record);
     m_record->setAccessibleName(tr("Number of the record that is shown"));
     m_record->setMinimum(1);
@@ -78,7 +80,15 @@ QWidget* SourcePanel::makeRecordBar(const Actions& actions)
     layout->addWidget(makeButton(actions.at(ActionId::NextRecord), bar));
     layout->addWidget(makeButton(actions.at(ActionId::LastRecord), bar));
     layout->addStretch();
+    layout->addWidget(makeButton(actions.at(ActionId::ConnectCsv), bar));
+    layout->addWidget(makeButton(actions.at(ActionId::EditSource), bar));
     return bar;
+}
+
+int SourcePanel::currentSource() const
+{
+    const int row = m_table->currentIndex().row();
+    return m_model->idOf(std::max(row, 0));
 }
 
 void SourcePanel::show(const workbench::datasources::DatasourceController* sources, qint64 record)

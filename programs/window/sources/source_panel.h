@@ -28,6 +28,8 @@ public:
     /// Shows the sources at a record counted from 0. Null empties the panel.
     void show(const workbench::datasources::DatasourceController* sources, qint64 record);
     [[nodiscard]] QTableView& table() { return *m_table; }
+    /// The identifier of the selected source, else of the first one; -1 if there is none.
+    [[nodiscard]] int currentSource() const;
     [[nodiscard]] QSpinBox& recordBox() { return *m_record; }
 
 Q_SIGNALS:

@@ -1,9 +1,11 @@
 #include "window/sources/source_table_model.h"
 
+#include "workbench/datasources/csv_source.h"
 #include "workbench/datasources/datasource_controller.h"
 #include "workbench/datasources/sequence_source.h"
 #include "workbench/datasources/text_list_source.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,6 +14,7 @@ namespace window {
 
 namespace {
 
+using workbench::datasources::CsvSource;
 using workbench::datasources::Datasource;
 using workbench::datasources::DatasourceController;
 using workbench::datasources::SequenceSource;
@@ -31,6 +34,9 @@ QString kindOf(const Datasource& source)
     }
     if (source.kind() == TextListSource::Kind) {
         return SourceTableModel::tr("List of texts");
+    }
+    if (source.kind() == CsvSource::Kind) {
+        return SourceTableModel::tr("CSV file");
     }
     return source.kind();
 }
@@ -57,8 +63,18 @@ QString listSettings(const QVariantMap& properties)
     return texts.size() > ListedTexts ? begin + u", "_s + QChar(0x2026) : begin;
 }
 
+QString fileSettings(const QVariantMap& properties)
+{
+    return SourceTableModel::tr("%1: %2").arg(
+        QFileInfo(CsvSource::fileOf(properties)).fileName(),
+        properties.value(u"Fields"_s).toStringList().join(u", "_s));
+}
+
 QString settingsOf(const Datasource& source)
 {
+    if (source.kind() == CsvSource::Kind) {
+        return fileSettings(source.properties());
+    }
     if (source.kind() == SequenceSource::Kind) {
         return counterSettings(source.properties());
     }
@@ -79,11 +95,17 @@ void SourceTableModel::show(const DatasourceController* sources, qint64 record)
     const QList<int> ids = sources != nullptr ? sources->ids() : QList<int>();
     for (const int id : ids) {
         const Datasource& source = *sources->source(id);
-        m_rows.append(Row{{QString::number(id), kindOf(source), settingsOf(source),
+        m_rows.append(Row{id,
+                          {QString::number(id), kindOf(source), settingsOf(source),
                            QLocale().toString(source.recordCount()),
                            source.value(record).value_or(QString())}});
     }
     endResetModel();
+}
+
+int SourceTableModel::idOf(int row) const
+{
+    return row >= 0 && row < m_rows.size() ? m_rows.at(row).id : -1;
 }
 
 int SourceTableModel::rowCount(const QModelIndex& parent) const

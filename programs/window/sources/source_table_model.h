@@ -23,6 +23,9 @@ public:
     /// Reads the sources again. Null empties the table.
     void show(const workbench::datasources::DatasourceController* sources, qint64 record);
 
+    /// The identifier of the source in a row; -1 if there is no such row.
+    [[nodiscard]] int idOf(int row) const;
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -32,6 +35,7 @@ public:
 private:
     struct Row
     {
+        int id = -1;
         QString cells[ColumnCount];
     };
 
