@@ -15,6 +15,7 @@
 #include <QGraphicsItem>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
 
@@ -28,6 +29,9 @@ namespace {
 
 enum CenterPage { WelcomeIndex, CanvasIndex };
 
+// Room for the title bar and the frame on small screens.
+constexpr QSize FrameMargin(8, 40);
+
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
@@ -37,7 +41,7 @@ MainWindow::MainWindow(QWidget* parent)
 {
     setAcceptDrops(true);
     setWindowIcon(applicationIcon());
-    resize(1240, 800);
+    resize(QSize(1240, 800).boundedTo(screen()->availableSize() - FrameMargin));
     buildCenter();
     m_panels = std::make_unique<WindowPanels>(*this, *m_actions);
     m_status = std::make_unique<StatusLine>(*statusBar());
@@ -100,6 +104,14 @@ void MainWindow::connectCanvas()
     CanvasView& canvas = view();
     connect(&canvas, &CanvasView::zoomChanged, this,
             [this](double zoom) { m_status->setZoom(zoom); });
+    m_status->onZoomChosen([&canvas](double zoom) {
+        if (zoom > 0.0) {
+            canvas.setZoom(zoom);
+        } else {
+            canvas.fitPage();
+        }
+        canvas.setFocus();
+    });
     connect(&canvas, &CanvasView::pointerMoved, this,
             [this](const QPointF& point) { m_status->setPointer(point, m_unit); });
     connect(&canvas, &CanvasView::pointerLeft, this,
@@ -149,6 +161,8 @@ void MainWindow::showLabel()
 {
     OpenLabel* label = m_session->label();
     m_record = 0;
+    // A message about the previous label.
+    statusBar()->clearMessage();
     m_center->setCurrentIndex(label != nullptr ? CanvasIndex : WelcomeIndex);
     if (label != nullptr) {
         view().setCanvas(label->canvas.get());

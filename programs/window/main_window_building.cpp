@@ -4,6 +4,7 @@
 #include "window/canvas/ruled_canvas.h"
 #include "window/edit_actions.h"
 #include "window/main_window.h"
+#include "window/manual_dialog.h"
 #include "window/properties/item_panel.h"
 #include "window/sources/source_commands.h"
 #include "window/sources/source_panel.h"
@@ -173,6 +174,11 @@ void MainWindow::connectEditActions()
     connect(&action(ActionId::SelectAll), &QAction::triggered, this, &MainWindow::selectAll);
     connect(&action(ActionId::SelectNone), &QAction::triggered, this,
             [this] { scene()->clearSelection(); });
+    connect(&action(ActionId::Manual), &QAction::triggered, this, [this] {
+        auto* manual = new ManualDialog(this);
+        manual->setAttribute(Qt::WA_DeleteOnClose);
+        manual->show();
+    });
     connect(&action(ActionId::Shortcuts), &QAction::triggered, this, &MainWindow::showShortcuts);
     connect(&action(ActionId::About), &QAction::triggered, this, &MainWindow::showAbout);
 }
@@ -296,8 +302,8 @@ void MainWindow::dropEvent(QDropEvent* event)
     QMetaObject::invokeMethod(
         this,
         [this, files] {
-            openFile(files.constFirst());
-            if (files.size() > 1) {
+            const bool isOpened = openFile(files.constFirst());
+            if (isOpened && files.size() > 1) {
                 statusBar()->showMessage(
                     tr("A window holds one label: only the first file was opened."), 10'000);
             }

@@ -62,7 +62,7 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
     // Issues need the full width: text, objects, advice.
     window.tabifyDockWidget(m_sourceDock, m_issueDock);
     m_sourceDock->raise();
-    window.resizeDocks({m_itemDock, m_propertyDock}, {420, 420}, Qt::Horizontal);
+    window.resizeDocks({m_itemDock, m_propertyDock}, {480, 480}, Qt::Horizontal);
     window.resizeDocks({m_sourceDock, m_issueDock}, {150, 150}, Qt::Vertical);
 }
 

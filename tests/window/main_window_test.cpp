@@ -12,18 +12,23 @@
 #include "window/sources/source_panel.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QGraphicsItem>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTest>
+#include <QTextBrowser>
 #include <QUrl>
 
 using namespace window;
@@ -333,7 +338,7 @@ TEST_F(MainWindowTest, HelpShowsEveryKey)
         dialog.reject();
     });
     window.action(ActionId::Shortcuts).trigger();
-    EXPECT_EQ(rows, 58);
+    EXPECT_EQ(rows, 59);
     dialogs.expectButton(QMessageBox::Ok);
     window.action(ActionId::About).trigger();
 }
@@ -351,4 +356,75 @@ TEST_F(MainWindowTest, ManyLabelsInTurnLeaveNothingBehind)
     }
     EXPECT_EQ(itemTable().model()->rowCount(), 3);
     EXPECT_TRUE(window.action(ActionId::Close).isEnabled());
+}
+
+TEST_F(MainWindowTest, FitsTheScreenAtFirst)
+{
+    const MainWindow fresh;
+    EXPECT_LE(fresh.width(), fresh.screen()->availableSize().width());
+    EXPECT_LE(fresh.height(), fresh.screen()->availableSize().height() - 20);
+}
+
+TEST_F(MainWindowTest, TheManualIsInTheProgramWithItsPictures)
+{
+    window.action(ActionId::Manual).trigger();
+    auto* browser = window.findChild<QTextBrowser*>();
+    ASSERT_NE(browser, nullptr);
+    EXPECT_TRUE(browser->toPlainText().contains(QStringLiteral("Editing properties")));
+    const QVariant picture = browser->loadResource(QTextDocument::ImageResource,
+                                                   QUrl(QStringLiteral("images/window.png")));
+    EXPECT_FALSE(picture.isNull());
+    browser->window()->close();
+}
+
+TEST_F(MainWindowTest, TheZoomBoxShowsAndSetsTheZoom)
+{
+    openMadeLabel();
+    const QList<QComboBox*> boxes = window.statusBar()->findChildren<QComboBox*>();
+    ASSERT_EQ(boxes.size(), 1);
+    QComboBox* box = boxes.constFirst();
+    window.action(ActionId::ZoomTrue).trigger();
+    EXPECT_EQ(box->currentText(), QStringLiteral("100 %"));
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), QStringLiteral("250"));
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(window.view().zoom(), 2.5);
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), QStringLiteral("large"));
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(window.view().zoom(), 2.5);
+    EXPECT_EQ(box->currentText(), QStringLiteral("250 %"));
+    box->setCurrentIndex(0);
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    EXPECT_TRUE(window.view().keepsPageFitted());
+}
+
+TEST_F(MainWindowTest, TheRecordBoxLeavesCtrlEToExport)
+{
+    openMadeLabel();
+    auto* line = window.panels().sources().recordBox().findChild<QLineEdit*>();
+    ASSERT_NE(line, nullptr);
+    QKeyEvent key(QEvent::ShortcutOverride, Qt::Key_E, Qt::ControlModifier);
+    key.ignore();
+    QApplication::sendEvent(line, &key);
+    EXPECT_FALSE(key.isAccepted());
+}
+
+TEST_F(MainWindowTest, MessagesAboutALabelGoWithIt)
+{
+    openMadeLabel();
+    window.statusBar()->showMessage(QStringLiteral("old"));
+    window.action(ActionId::Close).trigger();
+    EXPECT_EQ(window.statusBar()->currentMessage(), QString());
+}
+
+TEST_F(MainWindowTest, EveryColumnOfTheItemListIsVisible)
+{
+    window.resize(1280, 800);
+    openMadeLabel();
+    QApplication::processEvents();
+    const QTableView& table = itemTable();
+    const int last = table.model()->columnCount() - 1;
+    EXPECT_LE(table.columnViewportPosition(last) + table.columnWidth(last),
+              table.viewport()->width());
 }

@@ -64,6 +64,8 @@ TEST(ItemTable, ShowsLengthsInTheUnitThatIsWanted)
 
     EXPECT_EQ(cell(model, 0, ItemTableModel::Width), QLocale().toString(1.0, 'f', 3));
     EXPECT_EQ(model.headerData(ItemTableModel::Left, Qt::Horizontal, Qt::DisplayRole).toString(),
+              QStringLiteral("Left"));
+    EXPECT_EQ(model.headerData(ItemTableModel::Left, Qt::Horizontal, Qt::ToolTipRole).toString(),
               QStringLiteral("Left (in)"));
 }
 
@@ -319,7 +321,7 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
             }
         }
     }
-    EXPECT_EQ(actions.shortcuts().size(), 54);
+    EXPECT_EQ(actions.shortcuts().size(), 55);
 }
 
 TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)

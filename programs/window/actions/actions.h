@@ -65,6 +65,7 @@ enum class ActionId : quint8 {
     GoRecord,
     ConnectCsv,
     EditSource,
+    Manual,
     Shortcuts,
     About,
 };

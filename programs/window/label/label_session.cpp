@@ -52,7 +52,7 @@ bool LabelSession::hasUnsavedChanges() const
 
 void LabelSession::openByDialog()
 {
-    const QString fileName = m_prompts.askOpenFile();
+    const QString fileName = m_prompts.askOpenFile(m_label ? m_label->suggestedName : QString());
     if (!fileName.isEmpty()) {
         openFile(fileName);
     }

@@ -20,8 +20,8 @@ struct OpenLabel
     /// The suggested file name: the name of the imported file with the
     /// suffix of saved labels.
     QString suggestedName;
-    /// The imported items; the places in the report refer to them by index. Some may have been deleted
-    /// since.
+    /// The imported items; the places in the report refer to them by index. Some may have been
+    /// deleted since.
     QList<workbench::CanvasItem*> importedItems;
     /// What the import lost and changed.
     migration::FileReport report;

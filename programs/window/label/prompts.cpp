@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QSettings>
-#include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,12 +25,15 @@ QString folderKey()
     return u"window/openFolder"_s;
 }
 
-QString startFolder()
+QString startFolder(const QString& besides)
 {
-    const QString last = QSettings().value(folderKey()).toString();
-    return !last.isEmpty() && QDir(last).exists()
-               ? last
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString open = besides.isEmpty() ? QString() : QFileInfo(besides).absolutePath();
+    for (const QString& folder : {open, QSettings().value(folderKey()).toString()}) {
+        if (!folder.isEmpty() && QDir(folder).exists()) {
+            return folder;
+        }
+    }
+    return QDir::currentPath();
 }
 
 QString openFilters()
@@ -81,10 +83,10 @@ Prompts::Changes Prompts::askUnsavedChanges(const QString& labelName, bool allow
     }
 }
 
-QString Prompts::askOpenFile() const
+QString Prompts::askOpenFile(const QString& besides) const
 {
     const QString fileName = QFileDialog::getOpenFileName(m_window, Words::tr("Open Label"),
-                                                          startFolder(), openFilters());
+                                                          startFolder(besides), openFilters());
     if (!fileName.isEmpty()) {
         QSettings().setValue(folderKey(), QFileInfo(fileName).absolutePath());
     }

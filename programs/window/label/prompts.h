@@ -19,7 +19,8 @@ public:
     /// Asks what to do with the unsaved changes of a label.
     [[nodiscard]] Changes askUnsavedChanges(const QString& labelName, bool allowDiscard) const;
     /// A file to open; empty if the user canceled.
-    [[nodiscard]] QString askOpenFile() const;
+    /// Starts in the folder of this file, or else in the one of the last file.
+    [[nodiscard]] QString askOpenFile(const QString& besides) const;
     /// A name to save the label under; empty if the user canceled.
     [[nodiscard]] QString askSaveFile(const QString& suggestedName) const;
     /// Shows what failed, and why.

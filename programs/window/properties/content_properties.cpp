@@ -68,7 +68,10 @@ void addBarcodeProperties(PropertyTable& table)
     table.add(Words::tr("Content"), PropertyKind::Text, &ItemValues::barcode,
               &BarcodeValues::content);
     table.add(Words::tr("Problem"), PropertyKind::Note, [](const ItemValues& values) {
-        const QString problem = values.barcode ? barcodeObjection(*values.barcode) : QString();
+        // The content of a bound barcode is that of its source.
+        const bool isBound = values.datasource && values.datasource->id >= 0;
+        const QString problem =
+            values.barcode && !isBound ? barcodeObjection(*values.barcode) : QString();
         return problem.isEmpty() ? QVariant() : QVariant(problem);
     });
     table.add(Words::tr("Text below the bars"), PropertyKind::Flag, &ItemValues::barcode,

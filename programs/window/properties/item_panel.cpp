@@ -19,6 +19,9 @@ namespace window {
 
 namespace {
 
+// Rows that determine the widths of columns; reading all would be slow.
+constexpr int SampledRows = 50;
+
 QList<int> selectedRows(const ItemTableModel& model, const QGraphicsScene& scene)
 {
     QList<int> rows;
@@ -61,15 +64,14 @@ ItemPanel::ItemPanel(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_table);
     setFocusProxy(m_table);
-    const int digits = fontMetrics().horizontalAdvance(u"Height (mm)"_s);
-    for (const int column : {ItemTableModel::Left, ItemTableModel::Top, ItemTableModel::Width,
-                             ItemTableModel::Height}) {
-        m_table->setColumnWidth(column, digits);
-    }
-    m_table->setColumnWidth(ItemTableModel::Kind,
-                            fontMetrics().horizontalAdvance(u"Rounded rectangle  "_s));
-    m_table->setColumnWidth(ItemTableModel::Content, digits * 2);
-    m_table->setColumnWidth(ItemTableModel::Angle, digits * 3 / 4);
+    // Headings and numbers are never cut; kind and content share the rest.
+    QHeaderView& header = *m_table->horizontalHeader();
+    header.setStretchLastSection(false);
+    header.setMinimumSectionSize(fontMetrics().averageCharWidth() * 4);
+    header.setResizeContentsPrecision(SampledRows);
+    header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(ItemTableModel::Kind, QHeaderView::Stretch);
+    header.setSectionResizeMode(ItemTableModel::Content, QHeaderView::Stretch);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ItemPanel::takeFromTable);
 }

@@ -117,26 +117,31 @@ QVariant ItemTableModel::data(const QModelIndex& index, int role) const
 
 QVariant ItemTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    const bool isLength = section >= Left && section <= Height;
+    if (role == Qt::ToolTipRole && orientation == Qt::Horizontal && isLength) {
+        // The heading has no unit: all columns must fit beside the canvas.
+        return headerData(section, orientation, Qt::DisplayRole).toString() + u" ("_s +
+               unitSymbol(m_unit) + QLatin1Char(')');
+    }
     if (role != Qt::DisplayRole) {
         return {};
     }
     if (orientation == Qt::Vertical) {
         return section + 1;
     }
-    const QString unit = u" ("_s + unitSymbol(m_unit) + QLatin1Char(')');
     switch (section) {
     case Kind:
         return tr("Kind");
     case Content:
         return tr("Content");
     case Left:
-        return tr("Left") + unit;
+        return tr("Left");
     case Top:
-        return tr("Top") + unit;
+        return tr("Top");
     case Width:
-        return tr("Width") + unit;
+        return tr("Width");
     case Height:
-        return tr("Height") + unit;
+        return tr("Height");
     case Angle:
         return tr("Angle");
     case State:

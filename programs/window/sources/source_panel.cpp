@@ -6,6 +6,7 @@
 #include "workbench/datasources/datasource_controller.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QSpinBox>
@@ -67,10 +68,15 @@ QWidget* SourcePanel::makeRecordBar(const Actions& actions)
     auto* bar = new QWidget(this);
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(6, 4, 6, 4);
-    auto* caption = new QLabel(tr("Rec&ord"), bar);
+    auto* caption = new QLabel(tr("Record &number"), bar);
     caption->setBuddy(m_record);
     m_record->setAccessibleName(tr("Number of the record that is shown"));
     m_record->setMinimum(1);
+    m_record->installEventFilter(this);
+    const QList<QWidget*> parts = m_record->findChildren<QWidget*>();
+    for (QWidget* part : parts) {
+        part->installEventFilter(this);
+    }
     m_record->setKeyboardTracking(false);
     layout->addWidget(caption);
     layout->addWidget(makeButton(actions.at(ActionId::FirstRecord), bar));
@@ -89,6 +95,19 @@ int SourcePanel::currentSource() const
 {
     const int row = m_table->currentIndex().row();
     return m_model->idOf(std::max(row, 0));
+}
+
+// A number has no end of line to go to: Ctrl+E is the window's.
+bool SourcePanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_E && key->modifiers() == Qt::ControlModifier) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void SourcePanel::show(const workbench::datasources::DatasourceController* sources, qint64 record)

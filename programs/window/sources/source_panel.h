@@ -36,6 +36,9 @@ Q_SIGNALS:
     /// The user chose another record, counted from 0.
     void recordWanted(qint64 record);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     [[nodiscard]] QWidget* makeRecordBar(const Actions& actions);
 
