@@ -49,7 +49,7 @@ StatusLine::StatusLine(QStatusBar& bar)
     bar.addPermanentWidget(m_zoom);
     QObject::connect(m_zoom, &QComboBox::activated, m_zoom, [this] { chooseZoom(); });
     QObject::connect(m_zoom->lineEdit(), &QLineEdit::returnPressed, m_zoom, [this] {
-        // An item of the list was already reported.
+        // The box does not report typed texts.
         if (m_zoom->lineEdit()->isModified()) {
             chooseZoom();
         }
