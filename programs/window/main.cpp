@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
+#include <QUrl>
 
 #include <algorithm>
 #include <cstdio>
@@ -44,11 +45,22 @@ void describe(QCommandLineParser& parser)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument(
-        u"file"_s, Words::tr("A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg."),
+        u"file"_s,
+        Words::tr("A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or "
+                  "a folder of labels."),
         u"[file]"_s);
     parser.addOption({u"screenshot"_s,
                       Words::tr("Writes a picture of the window to a PNG file, and exits."),
                       u"picture"_s});
+}
+
+// The file of an address: desktops pass "file:" addresses, and links of reports are "labelport:"
+// addresses. Other arguments are file names.
+QString fileOf(const QString& argument)
+{
+    const bool isAddress =
+        argument.startsWith("file:///"_L1) || argument.startsWith("labelport:///"_L1);
+    return isAddress ? QUrl(argument).path(QUrl::FullyDecoded) : argument;
 }
 
 // Exits on a usage error and for --help and --version.
@@ -64,7 +76,7 @@ Options readOptions(const QStringList& arguments)
         printError(message);
         std::exit(WrongUsage);
     }
-    return {files.value(0), parser.value(u"screenshot"_s)};
+    return {fileOf(files.value(0)), parser.value(u"screenshot"_s)};
 }
 
 // Without a login session or a display, over SSH, in cron or in containers, Qt prints warnings that

@@ -7,11 +7,13 @@
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/review/issues_panel.h"
+#include "window/review/label_list_panel.h"
 #include "window/shortcuts_dialog.h"
 #include "window/sources/source_panel.h"
 #include "workbench/canvas/canvas.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QGraphicsItem>
 #include <QMenu>
 #include <QMessageBox>
@@ -50,6 +52,7 @@ MainWindow::MainWindow(QWidget* parent)
     connectSession();
     connectCanvas();
     connectPanels();
+    connectReview();
     connectFileActions();
     connectEditActions();
     connectViewActions();
@@ -66,11 +69,22 @@ MainWindow::~MainWindow()
 
 bool MainWindow::openFile(const QString& fileName)
 {
-    return m_session->openFile(fileName);
+    if (QFileInfo(fileName).isDir()) {
+        return openFolder(fileName);
+    }
+    const bool isOpen = m_session->openFile(fileName);
+    if (isOpen) {
+        m_panels->labels().setOpenFile(fileName);
+    }
+    return isOpen;
 }
 
 QString MainWindow::openFileQuietly(const QString& fileName)
 {
+    if (QFileInfo(fileName).isDir()) {
+        openFolder(fileName);
+        return {};
+    }
     return m_session->openFileQuietly(fileName);
 }
 
@@ -134,7 +148,6 @@ void MainWindow::connectPanels()
 {
     connect(&m_panels->items(), &ItemPanel::selectionChanged, this, &MainWindow::refreshSelection);
     connect(&m_panels->items(), &ItemPanel::itemWanted, this, &MainWindow::showItem);
-    connect(&m_panels->issues(), &IssuesPanel::issueWanted, this, &MainWindow::showIssue);
     connect(&m_panels->properties(), &PropertyPanel::itemsEdited, this,
             [this](const QString& step, const QList<ItemChange>& changes) {
                 m_session->undoStack().push(new ChangeItems(step, changes));
@@ -168,7 +181,10 @@ void MainWindow::showLabel()
         view().setCanvas(label->canvas.get());
         m_panels->items().setCanvas(label->canvas.get());
         m_panels->sources().show(label->sources.get(), 0);
-        view().setFocus();
+        // Except from the list of labels, where the arrow keys open the next label.
+        if (!m_panels->labels().isAncestorOf(focusWidget())) {
+            view().setFocus();
+        }
     }
     m_status->setPage(label != nullptr ? std::optional(label->canvas->page().size) : std::nullopt,
                       m_unit);
@@ -224,15 +240,6 @@ void MainWindow::refreshSelection()
     refreshActions();
 }
 
-void MainWindow::refreshIssues()
-{
-    if (m_session->label() != nullptr) {
-        m_panels->issues().setIssues(currentIssues(*m_session->label()));
-    } else {
-        m_panels->issues().clear();
-    }
-}
-
 void MainWindow::refreshTitle()
 {
     const QString program = tr("LabelPort Workbench");
@@ -248,6 +255,8 @@ void MainWindow::refreshActions()
     if (isOpen) {
         m_editActions->refresh();
     }
+    action(ActionId::PreviousLabel).setEnabled(m_panels->labels().canStep(-1));
+    action(ActionId::NextLabel).setEnabled(m_panels->labels().canStep(1));
     action(ActionId::Undo).setEnabled(m_session->undoStack().canUndo());
     action(ActionId::Redo).setEnabled(m_session->undoStack().canRedo());
     action(ActionId::ZoomSelection)
@@ -285,25 +294,6 @@ void MainWindow::setColors(ColorScheme scheme)
 void MainWindow::showItem(workbench::CanvasItem* item)
 {
     const QRectF bounds = item->graphicsItem()->sceneBoundingRect();
-    const QRectF seen = view().mapToScene(view().viewport()->rect()).boundingRect();
-    if (!seen.contains(bounds)) {
-        view().ensureVisible(bounds);
-    }
-}
-
-void MainWindow::showIssue(const Issue& issue)
-{
-    QList<workbench::CanvasItem*> items;
-    QRectF bounds;
-    for (const int index : issue.items) {
-        items.append(m_session->label()->canvas->items().at(index));
-        bounds |= items.constLast()->graphicsItem()->sceneBoundingRect();
-    }
-    for (const QRectF& box : issue.missing) {
-        bounds |= box;
-    }
-    selectItems(items);
-    view().setOutlines(issue.missing);
     const QRectF seen = view().mapToScene(view().viewport()->rect()).boundingRect();
     if (!seen.contains(bounds)) {
         view().ensureVisible(bounds);

@@ -18,6 +18,7 @@ class CanvasView;
 class EditActions;
 class RuledCanvas;
 struct Issue;
+enum class Correction : quint8;
 
 /// The main window: one label, its panels, its menus.
 class MainWindow final : public QMainWindow
@@ -28,7 +29,8 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Opens a saved label or imports a legacy one. Shows a message box on failure.
+    /// Opens a saved label, imports a legacy one, or lists the labels of a folder. Shows a message
+    /// box on failure.
     bool openFile(const QString& fileName);
     /// As openFile(), without a message box. Returns the reason if the file cannot be opened.
     [[nodiscard]] QString openFileQuietly(const QString& fileName);
@@ -54,6 +56,7 @@ private:
     void connectSession();
     void connectCanvas();
     void connectPanels();
+    void connectReview();
     void connectFileActions();
     void connectEditActions();
     void connectViewActions();
@@ -75,7 +78,13 @@ private:
     void setUnit(LengthUnit unit);
     void setColors(ColorScheme scheme);
     void showItem(workbench::CanvasItem* item);
+    bool openFolder(const QString& folder);
+    void openFolderByDialog();
+    void browse(const QString& fileName);
     void showIssue(const Issue& issue);
+    void correct(Correction correction, const Issue& issue);
+    void goToComparison();
+    void refreshComparison();
     void selectItems(const QList<workbench::CanvasItem*>& items);
     void selectAll();
     void exportByDialog();

@@ -80,7 +80,7 @@ void MainWindow::buildMenus()
         menu->addActions(m_actions->ofMenu(id));
         if (id == MenuId::File) {
             m_recentMenu = new QMenu(tr("Open &Recent"), this);
-            menu->insertMenu(&action(ActionId::Save), m_recentMenu);
+            menu->insertMenu(&action(ActionId::PreviousLabel), m_recentMenu);
             menu->insertSeparator(&action(ActionId::Save));
             menu->insertSeparator(&action(ActionId::Export));
             menu->insertSeparator(&action(ActionId::Close));
@@ -210,6 +210,8 @@ void MainWindow::connectPanelActions()
 {
     connect(&action(ActionId::GoCanvas), &QAction::triggered, this,
             [this] { view().setFocus(Qt::ShortcutFocusReason); });
+    connect(&action(ActionId::GoLabels), &QAction::triggered, this,
+            [this] { m_panels->goToLabels(); });
     connect(&action(ActionId::GoItems), &QAction::triggered, this,
             [this] { m_panels->goToItems(); });
     connect(&action(ActionId::GoProperties), &QAction::triggered, this,

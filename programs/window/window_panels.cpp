@@ -3,12 +3,16 @@
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/properties/tables.h"
+#include "window/review/comparison_panel.h"
 #include "window/review/issues_panel.h"
+#include "window/review/label_list_panel.h"
 #include "window/sources/source_panel.h"
 
 #include <QCoreApplication>
 #include <QDockWidget>
+#include <QListView>
 #include <QMainWindow>
+#include <QSlider>
 #include <QSpinBox>
 #include <QTableView>
 
@@ -48,6 +52,8 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
     , m_properties(new PropertyPanel)
     , m_sources(new SourcePanel(actions))
     , m_issues(new IssuesPanel)
+    , m_labels(new LabelListPanel)
+    , m_comparison(new ComparisonPanel)
     , m_itemDock(
           makeDock(window, Qt::RightDockWidgetArea, Words::tr("Items"), u"items"_s, *m_items))
     , m_propertyDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Properties"),
@@ -56,7 +62,14 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
                             u"sources"_s, *m_sources))
     , m_issueDock(
           makeDock(window, Qt::BottomDockWidgetArea, Words::tr("Issues"), u"issues"_s, *m_issues))
+    , m_labelDock(
+          makeDock(window, Qt::LeftDockWidgetArea, Words::tr("Labels"), u"labels"_s, *m_labels))
+    , m_comparisonDock(makeDock(window, Qt::RightDockWidgetArea, Words::tr("Original"),
+                                u"original"_s, *m_comparison))
 {
+    // For users who review many labels.
+    m_labelDock->hide();
+    m_comparisonDock->hide();
     // The right dock area extends to the status bar: lists of items are long.
     window.setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     // Issues need the full width: text, objects, advice.
@@ -95,6 +108,23 @@ void WindowPanels::goToIssues()
 {
     showIssues();
     m_issues->focusIssues();
+}
+
+void WindowPanels::goToComparison()
+{
+    bringUp(*m_comparisonDock);
+    m_comparison->slider().setFocus(Qt::ShortcutFocusReason);
+}
+
+void WindowPanels::goToLabels()
+{
+    showLabels();
+    m_labels->list().setFocus(Qt::ShortcutFocusReason);
+}
+
+void WindowPanels::showLabels()
+{
+    bringUp(*m_labelDock);
 }
 
 void WindowPanels::showIssues()

@@ -7,8 +7,10 @@ class QMainWindow;
 
 namespace window {
 
+class ComparisonPanel;
 class IssuesPanel;
 class ItemPanel;
+class LabelListPanel;
 class PropertyPanel;
 class SourcePanel;
 
@@ -23,6 +25,7 @@ public:
     [[nodiscard]] PropertyPanel& properties() const { return *m_properties; }
     [[nodiscard]] SourcePanel& sources() const { return *m_sources; }
     [[nodiscard]] IssuesPanel& issues() const { return *m_issues; }
+    [[nodiscard]] LabelListPanel& labels() const { return *m_labels; }
 
     void goToItems();
     void goToProperties();
@@ -32,16 +35,25 @@ public:
     void goToIssues();
     /// Shows the issues without moving keyboard focus.
     void showIssues();
+    [[nodiscard]] ComparisonPanel& comparison() const { return *m_comparison; }
+    void goToComparison();
+    void goToLabels();
+    /// Shows the labels of the folder without moving keyboard focus.
+    void showLabels();
 
 private:
     ItemPanel* m_items;
     PropertyPanel* m_properties;
     SourcePanel* m_sources;
     IssuesPanel* m_issues;
+    LabelListPanel* m_labels;
+    ComparisonPanel* m_comparison;
     QDockWidget* m_itemDock;
     QDockWidget* m_propertyDock;
     QDockWidget* m_sourceDock;
     QDockWidget* m_issueDock;
+    QDockWidget* m_labelDock;
+    QDockWidget* m_comparisonDock;
 };
 
 } // namespace window

@@ -111,6 +111,7 @@ TEST(Issues, NameTheFirstItemsAndCountTheOthers)
         QStringLiteral("outside-page"), QStringLiteral("Outside"), 4, false, {}};
     finding.places = migration::FindingPlaces{{0, 1, 2, 0, 99, -1}, {}};
     label.report.changed = {finding};
+    label.importedItems = label.canvas->items();
     const QList<Issue> issues = currentIssues(label);
     ASSERT_EQ(issues.size(), 1);
     EXPECT_EQ(issues.at(0).items, (QList<int>{0, 1, 2, 0})); // those that exist

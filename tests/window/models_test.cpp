@@ -321,7 +321,7 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
             }
         }
     }
-    EXPECT_EQ(actions.shortcuts().size(), 55);
+    EXPECT_EQ(actions.shortcuts().size(), 60);
 }
 
 TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)

@@ -35,6 +35,13 @@ if(size LESS 10000)
     message(SEND_ERROR "the picture has only ${size} bytes")
 endif()
 
+# The address of a link in a report.
+start(0 "${picture}\n" "" --screenshot ${picture} labelport://${LABEL})
+file(SIZE ${picture} linked_size)
+if(linked_size LESS 10000)
+    message(SEND_ERROR "the picture of an address has only ${linked_size} bytes")
+endif()
+
 start(1 "" "labelport-workbench: Cannot open \"nofile.odg\": [^\n]+\n"
     nofile.odg --screenshot ${FOLDER}/none.png)
 if(EXISTS ${FOLDER}/none.png)

@@ -2,6 +2,7 @@
 
 #include "host/items/barcode_item.h"
 #include "host/items/item.h"
+#include "window/label/import_process.h"
 #include "window/label/open_label.h"
 #include "workbench/canvas/canvas.h"
 
@@ -23,6 +24,7 @@ protected:
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                            m_folder.filePath(QStringLiteral("settings")));
+        window::ImportProcess::setProgram(QStringLiteral(LABELPORT_PROGRAM));
     }
 
     [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }

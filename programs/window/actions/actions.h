@@ -14,6 +14,9 @@ namespace window {
 /// All commands of a window.
 enum class ActionId : quint8 {
     Open,
+    OpenFolder,
+    PreviousLabel,
+    NextLabel,
     Save,
     SaveAs,
     Export,
@@ -53,6 +56,8 @@ enum class ActionId : quint8 {
     SystemColors,
     LightColors,
     DarkColors,
+    GoLabels,
+    GoOriginal,
     GoCanvas,
     GoItems,
     GoProperties,

@@ -1,7 +1,7 @@
 #include "window/label/label_files.h"
 
-#include "importer/reader_choice.h"
 #include "migration/file_report_builder.h"
+#include "window/label/import_process.h"
 #include "workbench/document/label_file.h"
 #include "workbench/import/label_import.h"
 
@@ -21,6 +21,14 @@ QString shownName(const QString& fileName)
     return QFileInfo(fileName).fileName();
 }
 
+OpenLabel emptyLabel()
+{
+    OpenLabel label;
+    label.canvas = std::make_unique<workbench::Canvas>();
+    label.sources = std::make_unique<workbench::datasources::DatasourceController>();
+    return label;
+}
+
 } // namespace
 
 ReadLabel readSavedLabel(const QString& fileName)
@@ -37,6 +45,7 @@ ReadLabel readSavedLabel(const QString& fileName)
     label.report =
         migration::makeSavedLabelReport(fileName, shownName(fileName), result, WithPlaces);
     label.canvas = std::move(result.canvas);
+    label.importedItems = label.canvas->items();
     label.sources = std::move(result.datasources);
     label.fileName = QFileInfo(fileName).absoluteFilePath();
     label.suggestedName = label.fileName;
@@ -45,16 +54,23 @@ ReadLabel readSavedLabel(const QString& fileName)
 
 ReadLabel readLegacyLabel(const QString& fileName)
 {
-    const ReaderKind reader = readerByNameOrContent(fileName, fileName);
-    workbench::ImportResult result = workbench::importLabel(fileName, reader);
-    if (!result.isImported()) {
-        return {std::nullopt, result.error};
+    const QString file = QFileInfo(fileName).absoluteFilePath();
+    ImportProcess import; // the imported label is in its folder
+    ImportedFiles imported = import.run({file});
+    if (imported.reports.isEmpty()) {
+        return {std::nullopt, imported.error};
     }
-    OpenLabel label;
-    label.report =
-        migration::makeFileReport(fileName, shownName(fileName), reader, result, WithPlaces);
-    label.canvas = std::move(result.canvas);
-    label.sources = std::move(result.datasources);
+    migration::FileReport& report = imported.reports.first();
+    if (report.status != migration::Status::Imported || report.outputs.isEmpty()) {
+        return {std::nullopt, report.error};
+    }
+    OpenLabel label = emptyLabel();
+    const QString error =
+        workbench::document::openLabel(report.outputs.constFirst(), *label.canvas, *label.sources);
+    if (!error.isEmpty()) {
+        return {std::nullopt, error};
+    }
+    label.report = std::move(report);
     label.importedItems = label.canvas->items();
     label.suggestedName = savedNameFor(fileName);
     return {std::move(label), {}};

@@ -83,6 +83,21 @@ QString LabelSession::openFileQuietly(const QString& fileName)
     return {};
 }
 
+std::optional<QString> LabelSession::browse(const QString& fileName)
+{
+    if (!confirmDiscard()) {
+        return std::nullopt;
+    }
+    ReadLabel read = readAnyLabel(fileName);
+    if (read.label) {
+        setLabel(std::move(*read.label));
+    } else {
+        clear();
+        Q_EMIT labelReplaced();
+    }
+    return read.error;
+}
+
 bool LabelSession::save()
 {
     if (!m_label) {
@@ -117,6 +132,7 @@ bool LabelSession::saveTo(const QString& fileName)
     m_recentFiles.add(fileName);
     Q_EMIT nameChanged();
     Q_EMIT recentFilesChanged();
+    Q_EMIT saved(fileName);
     Q_EMIT noticeShown(tr("Saved as %1").arg(fileName));
     return true;
 }

@@ -38,6 +38,9 @@ public:
     /// As openFile(), without questions and messages, for a session without unsaved changes.
     /// Returns the reason if the file cannot be opened, else an empty text.
     [[nodiscard]] QString openFileQuietly(const QString& fileName);
+    /// Shows a label of a folder in place of the open one, without a message box. If it cannot be
+    /// opened, none is open and the reason is returned. Nothing if the user canceled.
+    [[nodiscard]] std::optional<QString> browse(const QString& fileName);
     bool save();
     bool saveAs();
     /// Closes the label. False if the user canceled.
@@ -56,6 +59,7 @@ Q_SIGNALS:
     /// The label's name or its modified state has changed.
     void nameChanged();
     void recentFilesChanged();
+    void saved(const QString& fileName);
     /// A success message for the status bar.
     void noticeShown(const QString& text);
 

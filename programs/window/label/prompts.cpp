@@ -93,6 +93,16 @@ QString Prompts::askOpenFile(const QString& besides) const
     return fileName;
 }
 
+QString Prompts::askFolder() const
+{
+    const QString folder =
+        QFileDialog::getExistingDirectory(m_window, Words::tr("Open Folder"), startFolder());
+    if (!folder.isEmpty()) {
+        QSettings().setValue(folderKey(), QFileInfo(folder).absoluteFilePath());
+    }
+    return folder;
+}
+
 QString Prompts::askSaveFile(const QString& suggestedName) const
 {
     QFileDialog dialog(m_window, Words::tr("Save Label"), QFileInfo(suggestedName).absolutePath(),

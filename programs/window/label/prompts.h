@@ -21,6 +21,8 @@ public:
     /// A file to open; empty if the user canceled.
     /// Starts in the folder of this file, or else in the one of the last file.
     [[nodiscard]] QString askOpenFile(const QString& besides) const;
+    /// A folder with labels; empty if the user canceled.
+    [[nodiscard]] QString askFolder() const;
     /// A name to save the label under; empty if the user canceled.
     [[nodiscard]] QString askSaveFile(const QString& suggestedName) const;
     /// Shows what failed, and why.

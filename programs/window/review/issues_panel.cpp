@@ -1,10 +1,14 @@
 #include "window/review/issues_panel.h"
 
+#include "window/review/correction_commands.h"
+
 #include <QHeaderView>
 #include <QLabel>
-#include <QStackedLayout>
+#include <QPushButton>
+#include <QStackedWidget>
 #include <QStandardItemModel>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace window {
 
@@ -45,7 +49,7 @@ IssuesPanel::IssuesPanel(QWidget* parent)
     , m_model(new QStandardItemModel(0, ColumnCount, this))
     , m_tree(new QTreeView(this))
     , m_none(new QLabel(this))
-    , m_stack(new QStackedLayout(this))
+    , m_stack(new QStackedWidget(this))
 {
     m_tree->setModel(m_model);
     m_tree->setAccessibleName(tr("Issues of the label"));
@@ -57,15 +61,40 @@ IssuesPanel::IssuesPanel(QWidget* parent)
     m_tree->setIndentation(m_tree->indentation() / 2);
     m_tree->setTabKeyNavigation(false);
     m_none->setAlignment(Qt::AlignCenter);
+    m_none->setTextFormat(Qt::PlainText);
+    m_none->setWordWrap(true);
     m_none->setForegroundRole(QPalette::PlaceholderText);
     m_stack->addWidget(m_none);
     m_stack->addWidget(m_tree);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_stack);
+    makeButtons();
     setFocusProxy(m_tree);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &IssuesPanel::wantIssueAt);
     connect(m_tree, &QTreeView::clicked, this, &IssuesPanel::wantIssueAt);
     connect(m_tree, &QTreeView::activated, this, &IssuesPanel::wantIssueAt);
     clear();
+}
+
+void IssuesPanel::makeButtons()
+{
+    auto* bar = new QHBoxLayout;
+    bar->setContentsMargins(4, 2, 4, 4);
+    for (const Correction correction :
+         {Correction::Delete, Correction::ReplaceFont, Correction::SetColor, Correction::Rescale,
+          Correction::Bind}) {
+        auto* button = new QPushButton(titleOf(correction), this);
+        button->hide();
+        connect(button, &QPushButton::clicked, this,
+                [this, correction] { wantCorrection(correction); });
+        bar->addWidget(button);
+        m_buttons[correction] = button;
+    }
+    bar->addStretch();
+    static_cast<QVBoxLayout*>(layout())->addLayout(bar);
 }
 
 void IssuesPanel::setIssues(const QList<Issue>& issues)
@@ -79,15 +108,16 @@ void IssuesPanel::setIssues(const QList<Issue>& issues)
     }
 }
 
-void IssuesPanel::clear()
+void IssuesPanel::clear(const QString& reason)
 {
     setIssues({});
-    m_none->setText(tr("No label is open."));
+    m_none->setText(reason.isEmpty() ? tr("No label is open.") : reason);
 }
 
 void IssuesPanel::fill()
 {
     m_model->clear();
+    showButtons({});
     m_model->setHorizontalHeaderLabels({tr("Issue"), tr("Objects"), tr("What you can do")});
     QStandardItem* group = nullptr;
     for (int index = 0; index < m_issues.size(); ++index) {
@@ -116,9 +146,30 @@ void IssuesPanel::focusIssues()
 
 void IssuesPanel::wantIssueAt(const QModelIndex& index)
 {
+    showButtons(index);
     const QVariant issue = index.data(IssueRole);
     if (issue.isValid()) {
         Q_EMIT issueWanted(m_issues.at(issue.toInt()));
+    }
+}
+
+void IssuesPanel::wantCorrection(Correction correction)
+{
+    const QVariant row = m_tree->currentIndex().data(IssueRole);
+    if (row.isValid()) {
+        // A copy: the correction changes the list.
+        const Issue issue = m_issues.at(row.toInt());
+        Q_EMIT correctionWanted(correction, issue);
+    }
+}
+
+void IssuesPanel::showButtons(const QModelIndex& index)
+{
+    const QVariant issue = index.data(IssueRole);
+    const QList<Correction> corrections =
+        issue.isValid() ? correctionsFor(m_issues.at(issue.toInt())) : QList<Correction>();
+    for (const auto& [correction, button] : m_buttons) {
+        button->setVisible(corrections.contains(correction));
     }
 }
 

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "window/review/corrections.h"
 #include "window/review/issues.h"
 
 #include <QWidget>
 
+#include <map>
+
 class QLabel;
-class QStackedLayout;
+class QPushButton;
+class QStackedWidget;
 class QStandardItemModel;
 class QTreeView;
 
@@ -22,26 +26,34 @@ public:
     explicit IssuesPanel(QWidget* parent = nullptr);
 
     void setIssues(const QList<Issue>& issues);
-    /// Shows that no label is open.
-    void clear();
+    /// Shows that no label is open, and why if there is a reason.
+    void clear(const QString& reason = {});
     [[nodiscard]] const QList<Issue>& issues() const { return m_issues; }
     [[nodiscard]] QTreeView& tree() { return *m_tree; }
+    /// Visible while it can help with the selected issue.
+    [[nodiscard]] QPushButton& button(Correction correction) { return *m_buttons.at(correction); }
     /// Moves keyboard focus to the list, to its current issue or else its first.
     void focusIssues();
 
 Q_SIGNALS:
     /// The user selected this issue.
     void issueWanted(const window::Issue& issue);
+    /// The user wants this correction of the selected issue.
+    void correctionWanted(window::Correction correction, const window::Issue& issue);
 
 private:
     void fill();
+    void makeButtons();
     void wantIssueAt(const QModelIndex& index);
+    void wantCorrection(Correction correction);
+    void showButtons(const QModelIndex& index);
 
     QList<Issue> m_issues;
     QStandardItemModel* m_model;
     QTreeView* m_tree;
     QLabel* m_none;
-    QStackedLayout* m_stack;
+    QStackedWidget* m_stack;
+    std::map<Correction, QPushButton*> m_buttons;
 };
 
 } // namespace window
