@@ -189,7 +189,6 @@ TEST(RenderedNative, EverySymbologyReadsTheSame)
         {20, "Ab 12345678", "Ab 12345678"},
         {58, "https://labels.example/7", "https://labels.example/7"},
         {60, "Abc123", "Abc123"},
-        {71, "Lot 4711, box 3", "Lot 4711, box 3"},
     };
     for (std::size_t index = 0; index < codes.size(); ++index) {
         workbench::Canvas canvas;
@@ -197,7 +196,7 @@ TEST(RenderedNative, EverySymbologyReadsTheSame)
         canvas.importCanvasParameters(288.0, 144.0, false, false);
         workbench::ItemValues code;
         code.type = KestTypes::Barcode;
-        const bool isMatrix = codes.at(index).symbology == 58 || codes.at(index).symbology == 71;
+        const bool isMatrix = codes.at(index).symbology == 58;
         code.box.size = isMatrix ? QSizeF(40.0, 40.0) : QSizeF(200.0, 80.0);
         code.placement.position = {40.0, 30.0};
         code.barcode = workbench::BarcodeValues();

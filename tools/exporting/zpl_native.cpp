@@ -41,10 +41,8 @@ constexpr std::array Symbologies{
     Symbology{20, "[ -=?-}]+", "^BCN,%h,N,N,N,A", ""},
     Symbology{58, "[ -}]+", "^BQN,2,%m", "LA,"},
     Symbology{60, "[ -=?-}]+", "^BCN,%h,N,N,N,A", ""},
-    Symbology{71, "[ -}]+", "^BXN,%m,200", ""},
 };
 constexpr int QrCode = 58;
-constexpr int DataMatrix = 71;
 /// Printers place a QR code this much lower.
 constexpr int QrOffset = 10;
 /// Most dots of a module.
@@ -192,7 +190,7 @@ private:
             !workbench::barcodes::encode({code.symbology, code.content}).isValid()) {
             return {};
         }
-        const bool isMatrix = code.symbology == QrCode || code.symbology == DataMatrix;
+        const bool isMatrix = code.symbology == QrCode;
         const QRect bars = isMatrix ? ink : barsOf(alone, ink);
         const int module = moduleOf(alone, bars);
         if (module < 1 || module > WidestModule || (isMatrix && bars.width() != bars.height())) {
