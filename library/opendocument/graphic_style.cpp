@@ -95,10 +95,10 @@ void readSpacing(const xmllimits::Element& properties, double factor, Margins& m
     if (!properties.hasAttribute(u"draw:start-line-spacing-horizontal"_s)) {
         return;
     }
-    readLength(properties, u"draw:start-line-spacing-horizontal"_s, factor, margins.third);
-    readLength(properties, u"draw:start-line-spacing-vertical"_s, factor, margins.first);
-    readLength(properties, u"draw:end-line-spacing-horizontal"_s, factor, margins.fourth);
-    readLength(properties, u"draw:end-line-spacing-vertical"_s, factor, margins.second);
+    readLength(properties, u"draw:start-line-spacing-horizontal"_s, factor, margins.left);
+    readLength(properties, u"draw:start-line-spacing-vertical"_s, factor, margins.above);
+    readLength(properties, u"draw:end-line-spacing-horizontal"_s, factor, margins.right);
+    readLength(properties, u"draw:end-line-spacing-vertical"_s, factor, margins.below);
 }
 
 Qt::Alignment horizontalPosOf(const QString& value)

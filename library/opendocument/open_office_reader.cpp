@@ -64,7 +64,165 @@ CuteMessageLogger styleRecord(int line, const char* function)
 
 QDebug operator<<(QDebug debug, const Margins& margins)
 {
-    return debug << margins.first << margins.second << margins.third << margins.fourth;
+    return debug << margins.above << margins.below << margins.left << margins.right;
+}
+
+} // namespace
+
+OpenOfficeReader::OpenOfficeReader(TalCanvasModel* canvasModel,
+                                   DatasourceController* datasourceController)
+    : m_canvasModel(canvasModel)
+    , m_classFactory(canvasModel->getClassFactory())
+    , m_controller(datasourceController)
+    , m_pointsPerPixel(pointsPerPixelOf(QApplication::font()))
+{}
+
+OpenOfficeReader::~OpenOfficeReader() = default;
+
+bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
+{
+    openPackage(fileName);
+    QByteArray stylesBytes = readDocument(StylesMember, limits::StylesBytes);
+    if (stylesBytes.isEmpty()) {
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 QString::fromLatin1(messages::StylesMissing));
+        return false;
+    }
+    QByteArray contentBytes = readDocument(ContentMember, limits::ContentBytes);
+    if (contentBytes.isEmpty()) {
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 QString::fromLatin1(messages::ContentMissing));
+        return false;
+    }
+    m_flowOffsetY = 0;
+
+    // Both are read completely before the first call to the canvas, so that a damaged document
+    // leaves it unchanged.
+    xmllimits::ElementTree styles;
+    if (const auto failure = styles.parse(stylesBytes, limits::StylesTreeBytes)) {
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 parseFailureMessage(StylesMember, *failure));
+        return false;
+    }
+    xmllimits::ElementTree content;
+    if (const auto failure = content.parse(contentBytes, limits::ContentTreeBytes)) {
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+                 parseFailureMessage(ContentMember, *failure));
+        return false;
+    }
+    stylesBytes.clear();
+    contentBytes.clear();
+
+    const xmllimits::Element stylesRoot = styles.documentElement();
+    const xmllimits::Element contentRoot = content.documentElement();
+    forgetTooManyStyles();
+    importPageLayout(stylesRoot);
+    readDefaultStyles(stylesRoot.firstChildElement(u"office:styles"_s));
+    readStyles(stylesRoot.firstChildElement(u"office:styles"_s));
+    // Last, so that they can have common styles as parents and replace those of the same name.
+    readStyles(contentRoot.firstChildElement(u"office:automatic-styles"_s));
+    readBody(contentRoot.firstChildElement(u"office:body"_s));
+    m_canvasModel->completeCanvasLoading();
+    return true;
+}
+
+void OpenOfficeReader::closePackage()
+{
+    m_zipReader.reset();
+}
+
+void OpenOfficeReader::openPackage(const QString& fileName)
+{
+    closePackage();
+    m_pictures = std::make_unique<PictureStore>(
+        [this](const QString& name, qint64 largest) { return readMember(name, largest); });
+    if (const auto refusal = m_zipDirectory.open(fileName)) {
+        // For a file that is not a zip package, the missing-document message is enough.
+        if (m_zipDirectory.isPackage()) {
+            logDebug("open_office_reader", __LINE__, Q_FUNC_INFO, *refusal,
+                     refusals::PackageUnreadable);
+        }
+        return;
+    }
+    m_zipReader = std::make_unique<QZipReader>(fileName, QIODevice::ReadOnly);
+}
+
+// The caller logs its own message for a missing document; add no other.
+QByteArray OpenOfficeReader::readDocument(const QString& name, qint64 largest)
+{
+    return m_zipDirectory.hasMember(name) ? readMember(name, largest) : QByteArray();
+}
+
+QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)
+{
+    if (!m_zipReader) {
+        return {};
+    }
+    if (const auto refusal = m_zipDirectory.refusalOf(name, largest)) {
+        logDebug("open_office_reader", __LINE__, Q_FUNC_INFO, *refusal,
+                 refusals::PackageMemberUnreadable);
+        return {};
+    }
+    return m_zipReader->fileData(name);
+}
+
+void OpenOfficeReader::forgetTooManyStyles()
+{
+    if (memoryOf(m_textStyles) + memoryOf(m_graphicStyles) <= limits::CarriedStylesBytes) {
+        return;
+    }
+    m_textStyles.clear();
+    m_graphicStyles.clear();
+    logDebug("open_office_reader", __LINE__, Q_FUNC_INFO,
+             u"The styles of earlier files are forgotten: they take more than %1 bytes"_s.arg(
+                 limits::CarriedStylesBytes));
+}
+
+void OpenOfficeReader::importPageLayout(const xmllimits::Element& stylesRoot)
+{
+    const PageLayout layout = readPageLayout(stylesRoot);
+    if (layout.width) {
+        m_unitSuffix = unitOf(*layout.width);
+        // An unknown unit keeps the previous factor: old labels depend on it.
+        m_unitFactor = pointsPerUnit(m_unitSuffix).value_or(m_unitFactor);
+        m_pageWidth = toLength(*layout.width, m_unitFactor).value_or(m_pageWidth);
+        m_pageHeight =
+            toLength(layout.height.value_or(QString()), m_unitFactor).value_or(m_pageHeight);
+    }
+    m_canvasModel->importCanvasParameters(m_pageWidth, m_pageHeight, false, layout.portrait);
+}
+
+void OpenOfficeReader::readBody(const QDomElement&)";
+
+double pointsPerPixelOf(const QFont& font)
+{
+    const QFontInfo info(font);
+    return info.pixelSize() > 0 ? info.pointSizeF() / info.pixelSize() : 1.0;
+}
+
+QString parseFailureMessage(const QString& member, const xmllimits::ParseFailure& failure)
+{
+    return QString::asprintf(messages::DocumentParsingFailed, member.toLocal8Bit().constData(),
+                             failure.line, failure.column,
+                             failure.message.toLocal8Bit().constData());
+}
+
+// Signatures by the names that the reader gives to the styles.
+constexpr char TextStyleDebug[] = "void OpenOfficeReader::OOTextStyle::debugContent()";
+constexpr char GraphicStyleDebug[] = "void OpenOfficeReader::OOGraphicStyle::debugContent() const";
+
+constexpr char WrapLegend[] =
+    "0 = none; 1 = left; 2 = right; 3 = parallel; 4 = run-through foreground; "
+    "5 = run-through background; 6 = dynamic foreground; 7 = dynamic background\n";
+
+CuteMessageLogger styleRecord(int line, const char* function)
+{
+    return {loggerInstance(), Logger::Debug, "open_office_reader", line, function};
+}
+
+QDebug operator<<(QDebug debug, const Margins& margins)
+{
+    return debug << margins.above << margins.below << margins.left << margins.right;
 }
 
 } // namespace

@@ -74,18 +74,18 @@ double ParagraphFlow::takeFullLine()
 
 double centredX(const Margins& margins, double pageWidth, double width)
 {
-    return (pageWidth + margins.third - margins.fourth - width) * 0.5;
+    return (pageWidth + margins.left - margins.right - width) * 0.5;
 }
 
 double runX(const OOTextStyle& style, double pageWidth, double runWidth)
 {
     if (style.alignment == Qt::AlignRight) {
-        return pageWidth - runWidth - style.margins.fourth;
+        return pageWidth - runWidth - style.margins.right;
     }
     if (style.alignment == Qt::AlignHCenter) {
         return centredX(style.margins, pageWidth, runWidth);
     }
-    return style.margins.third;
+    return style.margins.left;
 }
 
 } // namespace opendocument

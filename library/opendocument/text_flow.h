@@ -37,7 +37,7 @@ public:
     [[nodiscard]] double takeRunZ();
 
     /// Advances by a run.
-    /// @param spaceBelow the second margin of the run's style
+    /// @param spaceBelow the lower margin of the run's style
     void passRun(const QSizeF& size, double spaceBelow);
     /// Advances by white space.
     void moveBy(double width);

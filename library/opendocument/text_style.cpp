@@ -61,8 +61,8 @@ void readParagraphProperties(const xmllimits::Element& properties, double unitFa
 {
     // The right margin applies only together with a left one: old labels depend on it.
     if (properties.hasAttribute(u"fo:margin-left"_s)) {
-        readLength(properties, u"fo:margin-left"_s, unitFactor, style.margins.third);
-        readLength(properties, u"fo:margin-right"_s, unitFactor, style.margins.fourth);
+        readLength(properties, u"fo:margin-left"_s, unitFactor, style.margins.left);
+        readLength(properties, u"fo:margin-right"_s, unitFactor, style.margins.right);
     }
     if (properties.hasAttribute(u"fo:text-align"_s)) {
         style.alignment = alignmentOf(properties.attribute(u"fo:text-align"_s));

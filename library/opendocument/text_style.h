@@ -11,10 +11,10 @@ namespace opendocument {
 /// Margins of a style, in points.
 struct Margins
 {
-    double first = 0;  ///< above
-    double second = 0; ///< below
-    double third = 0;  ///< left
-    double fourth = 0; ///< right
+    double above = 0;
+    double below = 0;
+    double left = 0;
+    double right = 0;
 
     bool operator==(const Margins&) const = default;
 };
@@ -29,7 +29,7 @@ struct OOTextStyle
     bool underline = false;
     double auxValue = 1.0;                              ///< shown by debugContent() only
     Qt::Alignment alignment = Qt::AlignHorizontal_Mask; ///< the mask means: not given
-    Margins margins;                                    ///< first and second stay 0
+    Margins margins;                                    ///< above and below stay 0
     QString textColor;                                  ///< as written; empty: not given
 
     [[nodiscard]] bool hasAlignment() const { return alignment != Qt::AlignHorizontal_Mask; }

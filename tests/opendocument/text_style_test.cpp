@@ -51,7 +51,7 @@ TEST(TextStyle, IsLeftAloneByAbsentProperties)
     style.fontSize = 30;
     style.bold = style.italic = style.underline = true;
     style.alignment = Qt::AlignRight;
-    style.margins.third = 4;
+    style.margins.left = 4;
     style.textColor = u"red"_s;
     readTextProperties(xmllimits::Element(), &isKnown, style);
     readParagraphProperties(xmllimits::Element(), 72, style);
@@ -59,7 +59,7 @@ TEST(TextStyle, IsLeftAloneByAbsentProperties)
     EXPECT_EQ(style.fontSize, 30);
     EXPECT_TRUE(style.bold && style.italic && style.underline);
     EXPECT_EQ(style.alignment, Qt::AlignRight);
-    EXPECT_EQ(style.margins.third, 4);
+    EXPECT_EQ(style.margins.left, 4);
     EXPECT_EQ(style.textColor, u"red"_s);
 }
 

@@ -25,7 +25,7 @@ bool isTooLong(qsizetype length)
     if (length <= limits::TextCharacters) {
         return false;
     }
-    logDebug("open_office_text", __LINE__, Q_FUNC_INFO,
+    logDebug("open_office_reader_text", __LINE__, Q_FUNC_INFO,
              u"A text of %1 characters is left out: it is longer than %2"_s.arg(length).arg(
                  limits::TextCharacters),
              refusals::TextTooLong);
@@ -42,9 +42,9 @@ TextStyling OpenOfficeReader::styling() const
 void OpenOfficeReader::readParagraph(const xmllimits::Element& paragraph)
 {
     const OOTextStyle style = styling().styleOf(paragraph, m_defaultTextStyle);
-    advanceFlow(style.margins.first);
+    advanceFlow(style.margins.above);
     if (!paragraph.hasChildNodes()) {
-        advanceFlow(style.fontSize + style.margins.second);
+        advanceFlow(style.fontSize + style.margins.below);
         return;
     }
     ParagraphFlow flow(m_pageWidth);
@@ -91,7 +91,7 @@ void OpenOfficeReader::readRun(const QString& text, const OOTextStyle& style, Pa
     advanceFlow(flow.takeFullLine());
     const QSizeF size =
         placeTextRun(text, style, flow.availableWidth(), flow.cursor(), flow.takeRunZ());
-    flow.passRun(size, style.margins.second);
+    flow.passRun(size, style.margins.below);
 }
 
 QSizeF OpenOfficeReader::placeTextRun(const QString& text, const OOTextStyle& style,

@@ -91,9 +91,9 @@ QPointF OpenOfficeReader::textBoxPosition(const xmllimits::Element& frame,
     QPointF position = geometry.position;
     const double width = geometry.size.width();
     if (!geometry.hasX()) {
-        position.setX(style.margins.third);
+        position.setX(style.margins.left);
         if (style.horizontalPos == Qt::AlignRight) {
-            position.setX(m_pageWidth - width - style.margins.fourth);
+            position.setX(m_pageWidth - width - style.margins.right);
         } else if (style.horizontalPos == Qt::AlignHCenter) {
             position.setX(centredX(style.margins, m_pageWidth, width));
         }
@@ -101,7 +101,7 @@ QPointF OpenOfficeReader::textBoxPosition(const xmllimits::Element& frame,
     if (!geometry.hasY()) {
         const bool isInFlow =
             style.anchorParagraph || frame.attribute(u"text:anchor-type"_s) == "paragraph"_L1;
-        position.setY((isInFlow ? m_flowOffsetY : 0.0) + style.margins.first);
+        position.setY((isInFlow ? m_flowOffsetY : 0.0) + style.margins.above);
     }
     return position;
 }
@@ -125,7 +125,7 @@ bool OpenOfficeReader::importSymbol(const QString& name, Geometry& geometry)
     }
     m_symbolCreator->loadImportedSvg(svg);
     if (!m_symbolCreator->convertSvgToSymbol(symbolTarget(geometry.size))) {
-        logDebug("open_office_frames", __LINE__, Q_FUNC_INFO,
+        logDebug("open_office_reader_frames", __LINE__, Q_FUNC_INFO,
                  u"The drawing %1 cannot be converted"_s.arg(name),
                  refusals::PackageDrawingUnreadable);
         return false;
