@@ -1,4 +1,4 @@
-# labelport_room(NAME [STATIC] [CORE] SOURCES ... [LINK ...])
+# labelport_room(NAME [STATIC] [CORE] [MOC] SOURCES ... [LINK ...])
 #
 # A room of the house: the target `labelport_NAME`, made from the current folder. Its headers are
 # included by their path below the house, `tavrel/legacy_tavrel.h` for library/tavrel/.
@@ -9,14 +9,16 @@
 #
 # Rooms are object libraries unless STATIC is given: compiled-in resources, static tables and the
 # host's link-time services must be in the program even if nothing refers to them. CORE: the room
-# does not use Qt Widgets.
+# does not use Qt Widgets. MOC: the room has a class with Q_OBJECT; without such a class, Qt's
+# meta-object compiler would cost each target two build steps for nothing.
 function(labelport_room name)
-    cmake_parse_arguments(ROOM "STATIC;CORE" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ROOM "STATIC;CORE;MOC" "" "SOURCES;LINK" ${ARGN})
     set(kind OBJECT)
     if(ROOM_STATIC)
         set(kind STATIC)
     endif()
     add_library(labelport_${name} ${kind} ${ROOM_SOURCES})
+    set_target_properties(labelport_${name} PROPERTIES AUTOMOC ${ROOM_MOC})
     labelport_room_headers(labelport_${name} PUBLIC)
     target_link_libraries(labelport_${name} PUBLIC ${ROOM_LINK})
     if(ROOM_CORE)

@@ -14,63 +14,61 @@ namespace {
 
 using workbench::ItemValues;
 
-using Words = PropertyWords;
-
 constexpr double LargestNumber = 1'000'000.0;
 
 void addPlace(PropertyTable& table)
 {
     using workbench::BoxValues;
     using workbench::PlacementValues;
-    table.begin(Words::tr("Place"));
-    table.add(Words::tr("Kind"), PropertyKind::Note,
+    table.begin(PropertyWords::tr("Place"));
+    table.add(PropertyWords::tr("Kind"), PropertyKind::Note,
               [](const ItemValues& values) { return kindName(values.type); });
     table.add(
-        Words::tr("Left"), PropertyKind::Length,
+        PropertyWords::tr("Left"), PropertyKind::Length,
         [](const ItemValues& values) { return values.placement.position.x(); },
         [](ItemValues& values, const QVariant& x) {
             values.placement.position.setX(x.toDouble());
         });
     table.add(
-        Words::tr("Top"), PropertyKind::Length,
+        PropertyWords::tr("Top"), PropertyKind::Length,
         [](const ItemValues& values) { return values.placement.position.y(); },
         [](ItemValues& values, const QVariant& y) {
             values.placement.position.setY(y.toDouble());
         });
     setRange(table.add(
-                 Words::tr("Width"), PropertyKind::Length,
+                 PropertyWords::tr("Width"), PropertyKind::Length,
                  [](const ItemValues& values) { return values.box.size.width(); },
                  [](ItemValues& values, const QVariant& width) {
                      setSize(values, {width.toDouble(), values.box.size.height()});
                  }),
              0.0, LongestLength);
     setRange(table.add(
-                 Words::tr("Height"), PropertyKind::Length,
+                 PropertyWords::tr("Height"), PropertyKind::Length,
                  [](const ItemValues& values) { return values.box.size.height(); },
                  [](ItemValues& values, const QVariant& height) {
                      setSize(values, {values.box.size.width(), height.toDouble()});
                  }),
              0.0, LongestLength);
-    setRange(
-        table.add(Words::tr("Angle"), PropertyKind::Angle, &ItemValues::box, &BoxValues::rotation),
-        -360.0, 360.0);
-    table.add(Words::tr("Flipped left to right"), PropertyKind::Flag, &ItemValues::box,
+    setRange(table.add(PropertyWords::tr("Angle"), PropertyKind::Angle, &ItemValues::box,
+                       &BoxValues::rotation),
+             -360.0, 360.0);
+    table.add(PropertyWords::tr("Flipped left to right"), PropertyKind::Flag, &ItemValues::box,
               &BoxValues::flipHorizontal);
-    table.add(Words::tr("Flipped top to bottom"), PropertyKind::Flag, &ItemValues::box,
+    table.add(PropertyWords::tr("Flipped top to bottom"), PropertyKind::Flag, &ItemValues::box,
               &BoxValues::flipVertical);
-    setRange(table.add(Words::tr("Layer"), PropertyKind::Number, &ItemValues::placement,
+    setRange(table.add(PropertyWords::tr("Layer"), PropertyKind::Number, &ItemValues::placement,
                        &PlacementValues::z),
              -LargestNumber, LargestNumber);
     table
-        .add(Words::tr("Movable"), PropertyKind::Flag, &ItemValues::placement,
+        .add(PropertyWords::tr("Movable"), PropertyKind::Flag, &ItemValues::placement,
              &PlacementValues::movable)
         .isLock = true;
     table
-        .add(Words::tr("Read-only"), PropertyKind::Flag, &ItemValues::placement,
+        .add(PropertyWords::tr("Read-only"), PropertyKind::Flag, &ItemValues::placement,
              &PlacementValues::readOnly)
         .isLock = true;
     table
-        .add(Words::tr("Background"), PropertyKind::Flag, &ItemValues::placement,
+        .add(PropertyWords::tr("Background"), PropertyKind::Flag, &ItemValues::placement,
              &PlacementValues::userBackground)
         .isLock = true;
 }
@@ -86,23 +84,23 @@ void formatDocument(ItemValues& values, const QTextCharFormat& format)
 void addText(PropertyTable& table)
 {
     using workbench::TextStyleValues;
-    table.begin(Words::tr("Text"));
+    table.begin(PropertyWords::tr("Text"));
     table.add(
-        Words::tr("Text"), PropertyKind::Text,
+        PropertyWords::tr("Text"), PropertyKind::Text,
         [](const ItemValues& values) {
             return values.text && values.text->html.isEmpty() ? QVariant(values.text->text)
                                                               : QVariant();
         },
         [](ItemValues& values, const QVariant& text) { values.text->text = text.toString(); });
     table.add(
-        Words::tr("Text"), PropertyKind::RichText,
+        PropertyWords::tr("Text"), PropertyKind::RichText,
         [](const ItemValues& values) {
             return values.text && !values.text->html.isEmpty() ? QVariant(values.text->html)
                                                                : QVariant();
         },
         [](ItemValues& values, const QVariant& html) { values.text->html = html.toString(); });
     table.add(
-        Words::tr("Text color"), PropertyKind::Color,
+        PropertyWords::tr("Text color"), PropertyKind::Color,
         [](const ItemValues& values) {
             return values.textStyle ? QVariant(values.textStyle->color) : QVariant();
         },
@@ -114,7 +112,7 @@ void addText(PropertyTable& table)
         });
     table
         .add(
-            Words::tr("Alignment"), PropertyKind::Choice,
+            PropertyWords::tr("Alignment"), PropertyKind::Choice,
             [](const ItemValues& values) {
                 return values.textStyle ? QVariant(alignmentCode(values.textStyle->alignment))
                                         : QVariant();
@@ -131,7 +129,7 @@ void addText(PropertyTable& table)
             })
         .choices = alignmentChoices();
     table
-        .add(Words::tr("Fixed sides"), PropertyKind::Choice, &ItemValues::textLabel,
+        .add(PropertyWords::tr("Fixed sides"), PropertyKind::Choice, &ItemValues::textLabel,
              &workbench::TextLabelValues::limiting)
         .choices = fixedSidesChoices();
 }
@@ -155,9 +153,9 @@ void addFontFlag(PropertyTable& table, const QString& name, bool workbench::Font
 void addFont(PropertyTable& table)
 {
     using workbench::FontValues;
-    table.begin(Words::tr("Font"));
+    table.begin(PropertyWords::tr("Font"));
     table.add(
-        Words::tr("Font family"), PropertyKind::FontFamily,
+        PropertyWords::tr("Font family"), PropertyKind::FontFamily,
         [](const ItemValues& values) {
             return values.font ? QVariant(values.font->family) : QVariant();
         },
@@ -168,7 +166,7 @@ void addFont(PropertyTable& table)
             formatDocument(values, format);
         });
     setRange(table.add(
-                 Words::tr("Font size"), PropertyKind::Points,
+                 PropertyWords::tr("Font size"), PropertyKind::Points,
                  [](const ItemValues& values) {
                      return values.font
                                 ? QVariant(values.font->sized ? double(values.font->pointSize)
@@ -182,18 +180,18 @@ void addFont(PropertyTable& table)
                          formatDocument(values, workbench::sizeFormat(size.toInt()));
                      }
                  }),
-             0.0, workbench::MaximumFontSize, Words::tr("not set"));
-    addFontFlag(table, Words::tr("Bold"), &FontValues::bold, [](bool isOn) {
+             0.0, workbench::MaximumFontSize, PropertyWords::tr("not set"));
+    addFontFlag(table, PropertyWords::tr("Bold"), &FontValues::bold, [](bool isOn) {
         QTextCharFormat format;
         format.setFontWeight(isOn ? QFont::Bold : QFont::Normal);
         return format;
     });
-    addFontFlag(table, Words::tr("Italic"), &FontValues::italic, [](bool isOn) {
+    addFontFlag(table, PropertyWords::tr("Italic"), &FontValues::italic, [](bool isOn) {
         QTextCharFormat format;
         format.setFontItalic(isOn);
         return format;
     });
-    addFontFlag(table, Words::tr("Underlined"), &FontValues::underline, [](bool isOn) {
+    addFontFlag(table, PropertyWords::tr("Underlined"), &FontValues::underline, [](bool isOn) {
         QTextCharFormat format;
         format.setFontUnderline(isOn);
         return format;
@@ -202,15 +200,16 @@ void addFont(PropertyTable& table)
 
 void addDatasource(PropertyTable& table)
 {
-    table.begin(Words::tr("Data source"));
-    table.add(Words::tr("Source"), PropertyKind::Note, [](const ItemValues& values) {
+    table.begin(PropertyWords::tr("Data source"));
+    table.add(PropertyWords::tr("Source"), PropertyKind::Note, [](const ItemValues& values) {
         if (!values.datasource) {
             return QVariant();
         }
         const int id = values.datasource->id;
-        return QVariant(id < 0 ? Words::tr("none") : Words::tr("number %1").arg(id));
+        return QVariant(id < 0 ? PropertyWords::tr("none")
+                               : PropertyWords::tr("number %1").arg(id));
     });
-    table.add(Words::tr("Fields"), PropertyKind::Note, [](const ItemValues& values) {
+    table.add(PropertyWords::tr("Fields"), PropertyKind::Note, [](const ItemValues& values) {
         return values.datasource && !values.datasource->fields.isEmpty()
                    ? QVariant(values.datasource->fields.join(QLatin1String(", ")))
                    : QVariant();
