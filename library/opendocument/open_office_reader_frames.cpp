@@ -95,7 +95,7 @@ QPointF OpenOfficeReader::textBoxPosition(const xmllimits::Element& frame,
         if (style.horizontalPos == Qt::AlignRight) {
             position.setX(m_pageWidth - width - style.margins.right);
         } else if (style.horizontalPos == Qt::AlignHCenter) {
-            position.setX(centredX(style.margins, m_pageWidth, width));
+            position.setX(centeredX(style.margins, m_pageWidth, width));
         }
     }
     if (!geometry.hasY()) {

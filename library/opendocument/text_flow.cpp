@@ -72,7 +72,7 @@ double ParagraphFlow::takeFullLine()
     return std::exchange(m_lineHeight, 0);
 }
 
-double centredX(const Margins& margins, double pageWidth, double width)
+double centeredX(const Margins& margins, double pageWidth, double width)
 {
     return (pageWidth + margins.left - margins.right - width) * 0.5;
 }
@@ -83,7 +83,7 @@ double runX(const OOTextStyle& style, double pageWidth, double runWidth)
         return pageWidth - runWidth - style.margins.right;
     }
     if (style.alignment == Qt::AlignHCenter) {
-        return centredX(style.margins, pageWidth, runWidth);
+        return centeredX(style.margins, pageWidth, runWidth);
     }
     return style.margins.left;
 }

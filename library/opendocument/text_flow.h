@@ -60,6 +60,6 @@ private:
 [[nodiscard]] double runX(const OOTextStyle& style, double pageWidth, double runWidth);
 
 /// The x that centers an object on the page, between two margins.
-[[nodiscard]] double centredX(const Margins& margins, double pageWidth, double width);
+[[nodiscard]] double centeredX(const Margins& margins, double pageWidth, double width);
 
 } // namespace opendocument

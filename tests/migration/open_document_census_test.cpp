@@ -133,15 +133,15 @@ TEST(OpenDocumentCensus, StylesInheritWhatLabelsDoNotShow)
     const DocumentParts parts = {.automaticStyles = styleOf("Child", "paragraph", "", "Red") +
                                                     styleOf("Back", "paragraph", black, "Red"),
                                  .commonStyles = styleOf("Red", "paragraph", red)};
-    const auto colourOf = [&parts](const QByteArray& style) {
+    const auto colorOf = [&parts](const QByteArray& style) {
         return changes(countOpenDocument(
                            textOf("<text:p text:style-name=\"" + style + "\">A</text:p>", parts)),
                        LossKind::TextColor);
     };
-    EXPECT_TRUE(colourOf("Red"));
-    EXPECT_TRUE(colourOf("Child"));
-    EXPECT_FALSE(colourOf("Back"));
-    EXPECT_FALSE(colourOf("Unknown"));
+    EXPECT_TRUE(colorOf("Red"));
+    EXPECT_TRUE(colorOf("Child"));
+    EXPECT_FALSE(colorOf("Back"));
+    EXPECT_FALSE(colorOf("Unknown"));
 }
 
 TEST(OpenDocumentCensus, TextsOfShapesTakeNothingFromTheShapesStyle)

@@ -88,7 +88,7 @@ TEST(GraphicStyle, WrapHasACodeForEachWayAndLayer)
         << "\"none\" does not take an inherited wrap away";
 }
 
-TEST(GraphicStyle, BorderGivesPenColourWidthAndStyle)
+TEST(GraphicStyle, BorderGivesPenColorWidthAndStyle)
 {
     const OOGraphicStyle style = after(attribute("fo:border", "0.05in solid #00FF00"));
     EXPECT_EQ(style.penWidth, 3) << "3.6 points, truncated";
@@ -228,7 +228,7 @@ TEST(GraphicStyle, StrokeWidthIsTruncatedButNeverToNothing)
     }
 }
 
-TEST(GraphicStyle, StrokeColourIsTakenUnlessEmpty)
+TEST(GraphicStyle, StrokeColorIsTakenUnlessEmpty)
 {
     OOGraphicStyle inherited;
     inherited.penColor = u"#111111"_s;
@@ -327,7 +327,7 @@ TEST(GraphicStyle, OpacityChangesTheBrush)
               1);
 }
 
-TEST(GraphicStyle, FillColourMakesAnOpenBrushSolid)
+TEST(GraphicStyle, FillColorMakesAnOpenBrushSolid)
 {
     const OOGraphicStyle style = after(attribute("draw:fill-color", "#334455"));
     EXPECT_EQ(style.fillColor, u"#334455"_s);

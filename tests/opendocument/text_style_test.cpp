@@ -138,7 +138,7 @@ TEST(TextStyle, AlignmentIsCentreEndOrLeft)
     }
 }
 
-TEST(TextStyle, ColourIsReadFromTheParagraphOnly)
+TEST(TextStyle, ColorIsReadFromTheParagraphOnly)
 {
     EXPECT_EQ(afterParagraph("fo:color=\"#FF0000\"").textColor, u"#FF0000"_s);
     EXPECT_EQ(afterText("fo:color=\"#FF0000\"").textColor, QString());

@@ -221,7 +221,7 @@ TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)
     EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
 }
 
-TEST_F(PictureBuilding, AnSvgBackgroundIsDrawnInTheCanvasColours)
+TEST_F(PictureBuilding, AnSvgBackgroundIsDrawnInTheCanvasColors)
 {
     EXPECT_TRUE(import("<qmtx><printable_control><bounds><w>400</w><h>600</h></bounds>"
                        "</printable_control><pre_printed_image><content>" +

@@ -73,7 +73,7 @@ TEST_F(TextBuilding, AnEmptyObjectHasDefaults)
     EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
 }
 
-TEST_F(TextBuilding, ANegativeTextIsWrittenInTheBackColour)
+TEST_F(TextBuilding, ANegativeTextIsWrittenInTheBackColor)
 {
     readControls("<transparent_label><printable_control><negative>true</negative>"
                  "<fore_color>16711680</fore_color><back_color>16777215</back_color>"

@@ -99,7 +99,7 @@ TEST(ShapeChoice, EvenIndicesAreOutlines)
     }
 }
 
-TEST(Alignment, IsLeftForZeroRightForTwoCentredOtherwise)
+TEST(Alignment, IsLeftForZeroRightForTwoCenteredOtherwise)
 {
     for (int code = -5; code <= 20; ++code) {
         SCOPED_TRACE(code);

@@ -312,7 +312,7 @@ TEST_F(ItemCalls, SymbolTakesTheDrawingsSize)
     EXPECT_EQ(item->getItemSize(), QSizeF(0, 0));
 }
 
-TEST_F(ItemCalls, SymbolColours)
+TEST_F(ItemCalls, SymbolColors)
 {
     expectOn<SymbolItem>(
         KestTypes::Symbol, [](SymbolItem& item) { item.setForegroundColor(Qt::black); },

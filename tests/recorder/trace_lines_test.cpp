@@ -178,7 +178,7 @@ TEST_F(TraceLines, CanvasCalls)
               QStringLiteral(R"({"on":"canvas","call":"completeCanvasLoading","args":[]})"));
 }
 
-TEST_F(TraceLines, CanvasColoursStartWhiteAndBlackAndFollowTheSetters)
+TEST_F(TraceLines, CanvasColorsStartWhiteAndBlackAndFollowTheSetters)
 {
     EXPECT_EQ(canvas().canvasBackgroundColor(), QColor(Qt::white));
     EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"canvas","call":"canvasBackgroundColor",)"

@@ -122,7 +122,7 @@ TEST(TraceValue, ListsOfTexts)
     EXPECT_EQ(json(QStringList{QStringLiteral("a"), QString()}), "[\"a\",\"\"]");
 }
 
-TEST(TraceValue, ColoursWithAlphaFirst)
+TEST(TraceValue, ColorsWithAlphaFirst)
 {
     EXPECT_EQ(json(QColor(Qt::white)), "\"#ffffffff\"");
     EXPECT_EQ(json(QColor(Qt::transparent)), "\"#00000000\"");

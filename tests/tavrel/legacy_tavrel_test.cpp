@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(Versions, EveryVersion,
                          testing::Values(2000016U, 2000017U, 2000018U, 2000019U, 2000020U, 2000021U,
                                          2000022U, 2000023U, 2000024U, 2000025U, 4294967295U));
 
-TEST_F(Reader, PageIsSetBeforeTheColoursAndTheItems)
+TEST_F(Reader, PageIsSetBeforeTheColorsAndTheItems)
 {
     EXPECT_TRUE(import(LabelFile().shape(Oval)));
     EXPECT_EQ(fake.calls.lines().mid(0, 4),
@@ -133,7 +133,7 @@ TEST_F(Reader, PageIsSetBeforeTheColoursAndTheItems)
                            QStringLiteral("factory create \"1002c\"")}));
 }
 
-TEST_F(Reader, FlagsAndColoursAreThoseOfThePage)
+TEST_F(Reader, FlagsAndColorsAreThoseOfThePage)
 {
     // Label and ribbon types of different colors, a row of each table.
     LegacySupplyInfo supplies;

@@ -37,7 +37,7 @@ struct FillRow
     const char* color;
 };
 
-TEST_F(ShapeBuilder, FillModeChoosesBetweenBackgroundPenColourAndNothing)
+TEST_F(ShapeBuilder, FillModeChoosesBetweenBackgroundPenColorAndNothing)
 {
     for (const FillRow& row : {FillRow{0, "no", "#ffffff00"}, FillRow{1, "yes", "#ffffff00"},
                                FillRow{2, "yes", "#ffff0000"}, FillRow{3, "no", "#ffffff00"},

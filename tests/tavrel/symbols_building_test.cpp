@@ -11,7 +11,7 @@ namespace {
 
 using SymbolBuilder = Builders;
 
-TEST_F(SymbolBuilder, ScalesTheSymbolsOwnSizeAndColoursIt)
+TEST_F(SymbolBuilder, ScalesTheSymbolsOwnSizeAndColorsIt)
 {
     header.width = 600.0;
     header.height = 75.0;

@@ -110,7 +110,7 @@ TEST_F(TextBuilder, BoxIsFixedScaledOrTheItemsOwn)
     }
 }
 
-struct ColourRow
+struct ColorRow
 {
     bool inverse;
     bool transparent;
@@ -118,12 +118,12 @@ struct ColourRow
     const char* background;
 };
 
-TEST_F(TextBuilder, InverseSwapsTheColoursAndTransparencyComesLast)
+TEST_F(TextBuilder, InverseSwapsTheColorsAndTransparencyComesLast)
 {
-    for (const ColourRow& row : {ColourRow{false, false, "#ffff0000", "#ffffff00"},
-                                 ColourRow{true, false, "#ffffff00", "#ffff0000"},
-                                 ColourRow{false, true, "#ffff0000", "#00000000"},
-                                 ColourRow{true, true, "#ffffff00", "#00000000"}}) {
+    for (const ColorRow& row : {ColorRow{false, false, "#ffff0000", "#ffffff00"},
+                                 ColorRow{true, false, "#ffffff00", "#ffff0000"},
+                                 ColorRow{false, true, "#ffff0000", "#00000000"},
+                                 ColorRow{true, true, "#ffffff00", "#00000000"}}) {
         fake.calls.clear();
         TextRecord record = text();
         record.inverse = row.inverse;

@@ -22,7 +22,7 @@ const QByteArray PenAndFont = hex("0000001A"      // line width, 26 dots: 6.24 p
                                   "00000019"      // font size, 25 dots: 6 points
                                   "01 00 01");    // style flags
 const QByteArray Alignment = hex("00000002");
-const QByteArray Colours = hex("01 00");       // inverse, not transparent
+const QByteArray Colors = hex("01 00");       // inverse, not transparent
 const QByteArray Options = hex("00 01 01");    // A, A again, B
 const QByteArray SecondFont = hex("00000032"); // 50 dots: 12 points
 const QByteArray Trailer = hex("00000001 00000002");
@@ -70,19 +70,19 @@ TEST_P(TextLayout, IsReadWhole)
 
 TextRow bare(quint32 version)
 {
-    return {version, Header + Key + PenAndFont + Content + Alignment + Colours};
+    return {version, Header + Key + PenAndFont + Content + Alignment + Colors};
 }
 
 TextRow sized(quint32 version)
 {
-    return {version, Header + FixedSize + Key + PenAndFont + Content + Alignment + Colours, 2.0,
+    return {version, Header + FixedSize + Key + PenAndFont + Content + Alignment + Colors, 2.0,
             0.5};
 }
 
 TextRow withOptions(quint32 version)
 {
     return {version,
-            Header + FixedSize + Key + PenAndFont + Content + Alignment + Colours + Options,
+            Header + FixedSize + Key + PenAndFont + Content + Alignment + Colors + Options,
             2.0,
             0.5,
             {},
@@ -102,7 +102,7 @@ TextRow withSecondFont(quint32 version)
 TextRow contentFirst(quint32 version)
 {
     TextRow row = withSecondFont(version);
-    row.bytes = Header + Content + SourceText + Key + FixedSize + PenAndFont + Alignment + Colours +
+    row.bytes = Header + Content + SourceText + Key + FixedSize + PenAndFont + Alignment + Colors +
                 Options + SecondFont;
     row.sourceText = QStringLiteral("T");
     return row;
@@ -151,7 +151,7 @@ TEST(TextRecord, AlignmentIsACodeUntil2000019AndFlagsThen)
 
 TEST(TextRecord, OfTheFirstOptionTheSecondValueCounts)
 {
-    const QByteArray start = Header + FixedSize + Key + PenAndFont + Content + Alignment + Colours;
+    const QByteArray start = Header + FixedSize + Key + PenAndFont + Content + Alignment + Colors;
     QDataStream stream(start + hex("01 00 00"));
     const TextRecord off = readTextRecord(stream, {2000020, {300.0, 300.0}}, 0);
     EXPECT_FALSE(off.optionA);

@@ -23,7 +23,7 @@ struct StepRow
     double step;
 };
 
-QList<RulerTick> labelled(const QList<RulerTick>& ticks)
+QList<RulerTick> labeled(const QList<RulerTick>& ticks)
 {
     QList<RulerTick> result;
     std::copy_if(ticks.begin(), ticks.end(), std::back_inserter(result),
@@ -55,7 +55,7 @@ TEST(RulerScale, StepsAreRoundNumbersOfTheUnit)
 
 TEST(RulerScale, TheFirstLabelOfThePageStandsAtItsEdge)
 {
-    const QList<RulerTick> ticks = labelled(rulerTicks({40.0, 96.0 / 72.0, 400}, LengthUnit::Inch));
+    const QList<RulerTick> ticks = labeled(rulerTicks({40.0, 96.0 / 72.0, 400}, LengthUnit::Inch));
 
     ASSERT_EQ(ticks.size(), 4);
     EXPECT_DOUBLE_EQ(ticks.at(0).pixel, 40.0);
@@ -67,7 +67,7 @@ TEST(RulerScale, TheFirstLabelOfThePageStandsAtItsEdge)
 TEST(RulerScale, LeftOfThePageNumbersAreNegative)
 {
     const QList<RulerTick> ticks =
-        labelled(rulerTicks({200.0, 96.0 / 72.0, 200}, LengthUnit::Inch));
+        labeled(rulerTicks({200.0, 96.0 / 72.0, 200}, LengthUnit::Inch));
 
     ASSERT_EQ(ticks.size(), 3);
     EXPECT_EQ(ticks.at(0).label, QLocale().toString(-2));
@@ -92,7 +92,7 @@ TEST(RulerScale, NeverMoreTicksThanPixelsAtAnyZoom)
         for (const LengthUnit unit : {LengthUnit::Millimeter, LengthUnit::Inch}) {
             const QList<RulerTick> ticks = rulerTicks({-300.0, pixelsPerPoint, 1000}, unit);
             EXPECT_LE(ticks.size(), 1000);
-            const QList<RulerTick> labels = labelled(ticks);
+            const QList<RulerTick> labels = labeled(ticks);
             for (qsizetype i = 1; i < labels.size(); ++i) {
                 EXPECT_GE(labels.at(i).pixel - labels.at(i - 1).pixel, 50.0);
             }

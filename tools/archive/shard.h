@@ -15,7 +15,7 @@ struct Shard
 
     [[nodiscard]] bool isWhole() const { return count == 1; }
     /// Whether the input of this index, in the order of all inputs, belongs to the part. Each
-    /// belongs to one, and neighbours to different ones: folders with large files are shared.
+    /// belongs to one, and neighbors to different ones: folders with large files are shared.
     [[nodiscard]] bool takes(qsizetype index) const { return index % count == number - 1; }
 };
 

@@ -17,7 +17,7 @@ namespace workbench {
 namespace {
 
 constexpr double PointsPerInch = 72.0;
-constexpr double MetresPerInch = 0.0254;
+constexpr double MetersPerInch = 0.0254;
 
 struct Words
 {
@@ -73,9 +73,9 @@ QColor groundOf(const Canvas& canvas)
     return color.alpha() == 255 ? color : QColor(Qt::transparent);
 }
 
-int dotsPerMetre(double dpi)
+int dotsPerMeter(double dpi)
 {
-    return static_cast<int>(std::lround(dpi / MetresPerInch));
+    return static_cast<int>(std::lround(dpi / MetersPerInch));
 }
 
 } // namespace
@@ -103,8 +103,8 @@ PageImage renderPage(const Canvas& canvas, double dpi)
     painter.end();
     // Set after painting: fonts would change their size with the resolution of the image
     // that they are painted on.
-    image.setDotsPerMeterX(dotsPerMetre(dpi));
-    image.setDotsPerMeterY(dotsPerMetre(dpi));
+    image.setDotsPerMeterX(dotsPerMeter(dpi));
+    image.setDotsPerMeterY(dotsPerMeter(dpi));
     return {image, {}};
 }
 

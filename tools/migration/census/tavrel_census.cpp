@@ -179,7 +179,7 @@ bool isPlaceholderAmongWords(const QString& text)
                         [&text](QLatin1String key) { return text == u'%' + QString(key) + u'%'; });
 }
 
-void judgeSource(const Fields& fields, CountedObject& object, Census& census)
+void recordSource(const Fields& fields, CountedObject& object, Census& census)
 {
     if (fields.key.isEmpty()) {
         return;
@@ -195,7 +195,7 @@ void judgeSource(const Fields& fields, CountedObject& object, Census& census)
     }
 }
 
-void judgeShape(const Fields& fields, CountedObject& object, Census& census)
+void recordShape(const Fields& fields, CountedObject& object, Census& census)
 {
     if (fields.shapeName.endsWith("Line"_L1) && holds(ShapeNames, fields.shapeName)) {
         object.objectClass = ObjectClass::Line;
@@ -210,9 +210,9 @@ void countRecord(ObjectClass objectClass, quint32 version, ByteCursor& cursor, C
     (void)takeFields(ItemHeaderFields, cursor);
     const Fields fields = takeFields(layoutOf(objectClass, version), cursor);
     CountedObject object{.objectClass = objectClass};
-    judgeSource(fields, object, census);
+    recordSource(fields, object, census);
     if (objectClass == ObjectClass::Shape) {
-        judgeShape(fields, object, census);
+        recordShape(fields, object, census);
     }
     // A picture record without a picture shows nothing in the old program either.
     if (objectClass != ObjectClass::Picture || fields.hasPicture) {

@@ -34,7 +34,7 @@ constexpr QLatin1String FileProperty("File");
 
 double toMillimeters(double points)
 {
-    // Micrometres are fine enough, and the same on every machine.
+    // Micrometers are fine enough, and the same on every machine.
     return std::round(points * MillimetersPerPoint * 1000.0) / 1000.0;
 }
 
