@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation>LabelPort Workbench</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation type="unfinished">LabelPort Workbench %1</translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation type="unfinished">Öffnet alte Etikettenvorlagen, zeigt sie an, speichert sie und gibt sie weiter.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished">&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished">Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation type="unfinished">Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation>Ein Fenster enthält ein Etikett: Nur die erste Datei wurde geöffnet.</translation>
+    </message>
+    <message>
+        <source>There are no labels in “%1”.</source>
+        <translation>In „%1“ sind keine Etiketten.</translation>
+    </message>
+    <message>
+        <source>Cannot open “%1”: %2</source>
+        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
@@ -40,7 +83,7 @@
         <translation>Alte Tavrel-Datei %1</translation>
     </message>
     <message>
-        <source>Could not open file &quot;%1&quot; (%2).</source>
+        <source>Could not open file "%1" (%2).</source>
         <translation>Die Datei „%1“ konnte nicht geöffnet werden (%2).</translation>
     </message>
     <message>
@@ -101,7 +144,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>archive::Journal</name>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <source>Cannot write "%1": %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
@@ -123,7 +166,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>archive::Publish</name>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <source>Cannot write "%1": %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
@@ -131,18 +174,18 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>ein Ordner dieses Namens ist vorhanden</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
+        <source>"%1" exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
         <translation>„%1“ ist vorhanden und wurde entweder nicht von labelport geschrieben oder danach bearbeitet. Mit --force wird die Datei überschrieben.</translation>
     </message>
     <message>
-        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <source>Cannot create folder "%1": %2.</source>
         <translation>Der Ordner „%1“ kann nicht angelegt werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
-        <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
+        <source>Another input has the same name; both would become "%1". Keep their subfolders with --base, or use different --output-dir folders.</source>
         <translation>Eine andere Eingabedatei hat denselben Namen; beide würden zu „%1“. Behalten Sie die Unterordner mit --base bei, oder verwenden Sie verschiedene Ordner für --output-dir.</translation>
     </message>
     <message>
@@ -157,11 +200,11 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>archive::StagingArea</name>
     <message>
-        <source>Cannot write to &quot;%1&quot;: %2.</source>
+        <source>Cannot write to "%1": %2.</source>
         <translation>In „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
-        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <source>Cannot create folder "%1": %2.</source>
         <translation>Der Ordner „%1“ kann nicht angelegt werden: %2.</translation>
     </message>
     <message>
@@ -198,27 +241,31 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <source>The worker process exited twice with status %1; please report the file.</source>
         <translation>Der Arbeitsprozess hat sich zweimal mit dem Status %1 beendet; bitte melden Sie die Datei.</translation>
     </message>
+    <message>
+        <source>The import was stopped twice because it tried something that its sandbox forbids. Do not trust the file, and please report it.</source>
+        <translation>Der Import wurde zweimal abgebrochen, weil er etwas versucht hat, was seine Sandbox verbietet. Vertrauen Sie der Datei nicht und melden Sie das Problem bitte.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ExistingOutput</name>
     <message>
-        <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
+        <source>A report is a file that ends in .json or .html, not "%1".</source>
         <translation>Ein Bericht ist eine Datei, die auf .json oder .html endet, nicht „%1“.</translation>
     </message>
     <message>
-        <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
+        <source>The name of a report must be valid UTF-8: "%1".</source>
         <translation>Der Name eines Berichts muss gültiges UTF-8 sein: „%1“.</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; does not exist</source>
+        <source>the folder "%1" does not exist</source>
         <translation>der Ordner „%1“ ist nicht vorhanden</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; is not writable</source>
+        <source>the folder "%1" is not writable</source>
         <translation>in den Ordner „%1“ kann nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
+        <source>"%1" exists and is not a report of labelport. Use --force to overwrite it.</source>
         <translation>„%1“ ist vorhanden und kein Bericht von labelport. Mit --force wird die Datei überschrieben.</translation>
     </message>
 </context>
@@ -249,26 +296,6 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>von LabelPort gespeicherte Etiketten</translation>
     </message>
     <message>
-        <source>1</source>
-        <translation>1</translation>
-    </message>
-    <message>
-        <source>picture</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>vector drawing</source>
-        <translation>Vektorzeichnung</translation>
-    </message>
-    <message>
-        <source>document, a page for each record</source>
-        <translation>Dokument, eine Seite je Datensatz</translation>
-    </message>
-    <message>
-        <source>saved label, to open and edit again</source>
-        <translation>gespeichertes Etikett, kann wieder geöffnet und bearbeitet werden</translation>
-    </message>
-    <message>
         <source>Read (import, inspect):</source>
         <translation>Eingabeformate (import, inspect):</translation>
     </message>
@@ -288,6 +315,26 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <source>formats takes no files.</source>
         <translation>formats erwartet keine Dateien.</translation>
     </message>
+    <message>
+        <source>1 and 2</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 × %2 labels of %3 × %4 mm</source>
+        <translation>%1 × %2 Etiketten zu %3 × %4 mm</translation>
+    </message>
+    <message>
+        <source>Sheets (--sheet):</source>
+        <translation>Bögen (--sheet):</translation>
+    </message>
+    <message>
+        <source>plain paper, with as many labels as fit</source>
+        <translation>Papier mit so vielen Etiketten, wie darauf passen</translation>
+    </message>
+    <message>
+        <source>Sandbox in which files are read, on this system: %1.</source>
+        <translation>Sandbox, in der Dateien auf diesem System gelesen werden: %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportCommand</name>
@@ -295,30 +342,27 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <source>Stopped. Repeat the command with --resume to continue.</source>
         <translation>Abgebrochen. Wiederholen Sie den Befehl mit --resume, um fortzufahren.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n file(s) imported incompletely.</source>
-        <translation>
-            <numerusform>%n Datei unvollständig importiert.</numerusform>
-            <numerusform>%n Dateien unvollständig importiert.</numerusform>
-        </translation>
-    </message>
     <message>
-        <source>Cannot search folder &quot;%1&quot;: %2.</source>
+        <source>Cannot search folder "%1": %2.</source>
         <translation>Der Ordner „%1“ kann nicht durchsucht werden: %2.</translation>
     </message>
     <message>
         <source>No labels to import.</source>
         <translation>Keine Etiketten zum Importieren.</translation>
     </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Ein temporärer Ordner kann nicht angelegt werden: %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportInputs</name>
     <message>
-        <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
+        <source>Cannot read the list of files "%1": %2.</source>
         <translation>Die Dateiliste „%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a list of file names.</source>
+        <source>"%1" is not a list of file names.</source>
         <translation>„%1“ ist keine Liste von Dateinamen.</translation>
     </message>
 </context>
@@ -329,19 +373,19 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>Die Standardeingabe kann ein Etikett oder eine Dateiliste sein, aber nicht beides.</translation>
     </message>
     <message>
-        <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
+        <source>--%1 expects a whole number from %2 to %3, not "%4".</source>
         <translation>--%1 erwartet eine ganze Zahl von %2 bis %3, nicht „%4“.</translation>
     </message>
     <message>
-        <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
+        <source>Unknown target "%1". Supported targets: %2.</source>
         <translation>Unbekanntes Ziel „%1“. Unterstützte Ziele: %2.</translation>
     </message>
     <message>
-        <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
+        <source>--records expects a number, a range such as 3-12 or 3-, or all, not "%1".</source>
         <translation>--records erwartet eine Zahl, einen Bereich wie 3-12 oder 3- oder all, nicht „%1“.</translation>
     </message>
     <message>
-        <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
+        <source>--shard expects the number of a part and of all parts, such as 3/8, not "%1".</source>
         <translation>--shard erwartet die Nummer eines Teils und die Anzahl aller Teile, zum Beispiel 3/8, nicht „%1“.</translation>
     </message>
     <message>
@@ -363,6 +407,47 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
     <message>
         <source>--base has no effect without --files-from or a named file in a subfolder of that folder.</source>
         <translation>--base hat keine Wirkung ohne --files-from oder eine angegebene Datei in einem Unterordner dieses Ordners.</translation>
+    </message>
+    <message>
+        <source>"%1" ends in none of the targets' suffixes; specify one with --to: %2.</source>
+        <translation>„%1“ hat keine Endung eines Ausgabeziels; geben Sie eines mit --to an: %2.</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <extracomment>between the last two targets: "pdf or zpl"</extracomment>
+        <translation> oder </translation>
+    </message>
+    <message>
+        <source>--%1 expects one of %2 for the target %3, not "%4".</source>
+        <translation>--%1 erwartet für das Ziel %3 einen der Werte %2, nicht „%4“.</translation>
+    </message>
+    <message>
+        <source>--%1 has no effect without --to %2.</source>
+        <translation>--%1 hat ohne --to %2 keine Wirkung.</translation>
+    </message>
+    <message>
+        <source>--output and --%1 exclude each other.</source>
+        <translation>--output und --%1 schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>--%1 prints on standard output, as --output - does.</source>
+        <translation>--%1 schreibt auf die Standardausgabe, ebenso wie --output -.</translation>
+    </message>
+    <message>
+        <source>--output needs a file name, one input file and one target.</source>
+        <translation>--output braucht einen Dateinamen, eine Eingabedatei und ein Ziel.</translation>
+    </message>
+    <message>
+        <source>--json and --print0 exclude each other.</source>
+        <translation>--json und --print0 schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>Unknown sheet "%1". "labelport formats" lists the sheets.</source>
+        <translation>Unbekannter Bogen „%1“. „labelport formats“ listet die Bögen auf.</translation>
+    </message>
+    <message>
+        <source>--%1 has no effect without --sheet.</source>
+        <translation>--%1 hat ohne --sheet keine Wirkung.</translation>
     </message>
 </context>
 <context>
@@ -406,6 +491,18 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <source>%1 (%2 times)</source>
         <translation>%1 (%2-mal)</translation>
     </message>
+    <message>
+        <source>Page %1 could not be imported.</source>
+        <translation>Seite %1 konnte nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 pages were imported.</source>
+        <translation>Nur die ersten %1 von %2 Seiten wurden importiert.</translation>
+    </message>
+    <message>
+        <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
+        <translation>Dieses System hat keine vollständige Sandbox, die --require-sandbox verlangt. Vorhanden: %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::InspectCommand</name>
@@ -421,7 +518,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>cli::JobOptions</name>
     <message>
-        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
+        <source>Unknown reader "%1". Supported readers: %2.</source>
         <translation>Unbekannter Reader „%1“. Unterstützte Reader: %2.</translation>
     </message>
 </context>
@@ -437,6 +534,21 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
     <message>
         <source>%1 records are more than the %2 that one command writes; select a range with --records.</source>
         <translation>%1 Datensätze sind mehr als die %2, die ein Befehl schreibt; wählen Sie mit --records einen Bereich.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::LossSummary</name>
+    <message>
+        <source>Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.</source>
+        <translation>Vollständig importierte Etiketten: %1, mit Änderungen: %2, mit Verlusten: %3, fehlgeschlagen: %4.</translation>
+    </message>
+    <message>
+        <source>All details: %1</source>
+        <translation>Alle Einzelheiten: %1</translation>
+    </message>
+    <message>
+        <source>All details: add --report report.html, or run labelport inspect on a file.</source>
+        <translation>Alle Einzelheiten: mit --report report.html, oder rufen Sie labelport inspect für eine Datei auf.</translation>
     </message>
 </context>
 <context>
@@ -458,6 +570,18 @@ Befehle:
 </translation>
     </message>
     <message>
+        <source>No command given. See "labelport --help".</source>
+        <translation>Kein Befehl angegeben. Siehe „labelport --help“.</translation>
+    </message>
+    <message>
+        <source>Unknown command "%1".</source>
+        <translation>Unbekannter Befehl „%1“.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Hilfe: %1</translation>
+    </message>
+    <message>
         <source>
   --help           show this help
   --version        show the version
@@ -466,7 +590,9 @@ Examples:
   labelport import shelf.odg
   labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport print asset.label --printer zebra --records 1-40
   labelport inspect shelf.odg
+  labelport records asset.qmtx --to records.csv
   labelport trace shelf.odg
 
 Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
@@ -480,24 +606,14 @@ Beispiele:
   labelport import shelf.odg
   labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport print asset.label --printer zebra --records 1-40
   labelport inspect shelf.odg
+  labelport records asset.qmtx --to records.csv
   labelport trace shelf.odg
 
 Exit-Status: 0 Erfolg, 1 eine Datei ist fehlgeschlagen, 2 falscher Aufruf, 3 ein Etikett wurde
 nicht vollständig importiert (import --fail-on-loss), 130 durch ein Signal abgebrochen.
 </translation>
-    </message>
-    <message>
-        <source>No command given. See &quot;labelport --help&quot;.</source>
-        <translation>Kein Befehl angegeben. Siehe „labelport --help“.</translation>
-    </message>
-    <message>
-        <source>Unknown command &quot;%1&quot;.</source>
-        <translation>Unbekannter Befehl „%1“.</translation>
-    </message>
-    <message>
-        <source>Help: %1</source>
-        <translation>Hilfe: %1</translation>
     </message>
 </context>
 <context>
@@ -531,10 +647,6 @@ nicht vollständig importiert (import --fail-on-loss), 130 durch ein Signal abge
         <translation>Ziele</translation>
     </message>
     <message>
-        <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
-        <translation>Ausgabeziele: png, svg, pdf, label; mehrere durch Kommas getrennt (Vorgabe: png).</translation>
-    </message>
-    <message>
         <source>folder</source>
         <translation>Ordner</translation>
     </message>
@@ -547,16 +659,8 @@ nicht vollständig importiert (import --fail-on-loss), 130 durch ein Signal abge
         <translation>Zahl</translation>
     </message>
     <message>
-        <source>Resolution of pictures in dots per inch, 10 to 2400 (default: 300).</source>
-        <translation>Auflösung von Bildern in Punkten pro Zoll, 10 bis 2400 (Vorgabe: 300).</translation>
-    </message>
-    <message>
         <source>range</source>
         <translation>Bereich</translation>
-    </message>
-    <message>
-        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page for each record.</source>
-        <translation>Datensätze der Datenquellen des Etiketts: eine Zahl, ein Bereich wie 3-12 oder 3- oder all (Vorgabe: der erste). Die Bilder eines Bereichs werden nummeriert; ein PDF hat eine Seite je Datensatz.</translation>
     </message>
     <message>
         <source>Overwrite files that labelport did not write, and edited labels.</source>
@@ -635,40 +739,6 @@ nicht vollständig importiert (import --fail-on-loss), 130 durch ein Signal abge
         <translation>Die Version anzeigen.</translation>
     </message>
     <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
-and writes them as pictures, drawings, documents or saved labels. A folder is searched with
-its subfolders for files with these suffixes. The files written are listed on standard
-output, in the order of the names of the inputs.
-
-Examples:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import -
-
-Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
-imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte (*.label)
-und schreibt sie als Bilder, Zeichnungen, Dokumente oder gespeicherte Etiketten. Ein Ordner wird
-mit Unterordnern nach Dateien mit diesen Endungen durchsucht. Die geschriebenen Dateien werden
-auf der Standardausgabe aufgelistet, in der Reihenfolge der Namen der Eingabedateien.
-
-Beispiele:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import -
-
-Exit-Status: 0 alle Dateien importiert, 1 eine Datei ist fehlgeschlagen, 2 falscher Aufruf,
-3 ein Etikett wurde unvollständig importiert (mit --fail-on-loss), 130 Abbruch durch ein Signal.</translation>
-    </message>
-    <message>
         <source>Shows what one label contains, and what of it is imported. Writes no files.
 
 Examples:
@@ -695,18 +765,6 @@ aller Dateien geschrieben hätte.
 Beispiele:
   labelport report merge part-1.json part-2.json --to all.html
   labelport report merge part-*.json --to all.json --to all.html</translation>
-    </message>
-    <message>
-        <source>Lists the formats that labelport reads, with their versions, and the formats that it writes.
-
-Examples:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
-        <translation>Listet die Formate auf, die labelport liest, mit ihren Versionen, und die Formate, die es schreibt.
-
-Beispiele:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
@@ -750,6 +808,206 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <source>Label to import; - is standard input.</source>
         <translation>Etikett, das importiert wird; - ist die Standardeingabe.</translation>
     </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
+and writes them as pictures, drawings, documents or saved labels. A folder is searched with
+its subfolders for files with these suffixes. The files written are listed on standard
+output, in the order of the names of the inputs.
+
+Examples:
+  labelport import shelf.odg
+  labelport import shelf.odg -o label.svg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
+
+Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
+imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation>Importiert alte Etiketten (*.cnv, *.roc, *.qmtx, *.odt, *.odg), öffnet gespeicherte (*.label)
+und schreibt sie als Bilder, Zeichnungen, Dokumente oder gespeicherte Etiketten. Ein Ordner wird
+mit Unterordnern nach Dateien mit diesen Endungen durchsucht. Die geschriebenen Dateien werden
+auf der Standardausgabe aufgelistet, in der Reihenfolge der Namen der Eingabedateien.
+
+Beispiele:
+  labelport import shelf.odg
+  labelport import shelf.odg -o label.svg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
+
+Exit-Status: 0 alle Dateien importiert, 1 eine Datei ist fehlgeschlagen, 2 falscher Aufruf,
+3 ein Etikett wurde unvollständig importiert (mit --fail-on-loss), 130 Abbruch durch ein Signal.</translation>
+    </message>
+    <message>
+        <source>Prints labels through CUPS, each on paper of its own size, or on sheets. All labels of the
+same paper are one job of the printer. If a label cannot be printed, nothing is. The
+identifiers of the jobs are listed on standard output.
+
+Examples:
+  labelport print asset.label --printer zebra --records 1-40 --copies 2
+  labelport print new/*.label --sheet L7160 --first-position 5
+
+Exit status: 0 printed, 1 a label or the printer failed, 2 wrong usage.</source>
+        <translation>Druckt Etiketten über CUPS, jedes auf Papier seiner Größe, oder auf Bögen. Alle Etiketten mit
+demselben Papier sind ein Druckauftrag. Kann ein Etikett nicht gedruckt werden, wird nichts
+gedruckt. Die Kennungen der Aufträge werden auf der Standardausgabe aufgelistet.
+
+Beispiele:
+  labelport print asset.label --printer zebra --records 1-40 --copies 2
+  labelport print new/*.label --sheet L7160 --first-position 5
+
+Exit-Status: 0 gedruckt, 1 ein Etikett oder der Drucker ist fehlgeschlagen, 2 falscher Aufruf.</translation>
+    </message>
+    <message>
+        <source>Lists what each item shows that is bound to a data source (a counter, a list, a date), as
+a CSV table: a line for each record, a column for each item.
+
+Examples:
+  labelport records asset.qmtx --to records.csv
+  labelport records asset.label --records 1-50 | column -t -s ,</source>
+        <translation>Listet auf, was jedes Objekt anzeigt, das mit einer Datenquelle (Zähler, Liste, Datum) verbunden
+ist, als CSV-Tabelle: eine Zeile je Datensatz, eine Spalte je Objekt.
+
+Beispiele:
+  labelport records asset.qmtx --to records.csv
+  labelport records asset.label --records 1-50 | column -t -s ,</translation>
+    </message>
+    <message>
+        <source>Lists the formats that labelport reads, with their versions, the formats that it writes, and the
+sheets for --sheet.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r '.readers[].suffixes[]'</source>
+        <translation>Listet die Formate auf, die labelport liest, mit ihren Versionen, die Formate, die es schreibt, und
+die Bögen für --sheet.
+
+Beispiele:
+  labelport formats
+  labelport formats --json | jq -r '.readers[].suffixes[]'</translation>
+    </message>
+    <message>
+        <source>Import nothing unless the files are read in a complete sandbox; see "labelport formats".</source>
+        <translation>Nur importieren, wenn die Dateien in einer vollständigen Sandbox gelesen werden; siehe „labelport formats“.</translation>
+    </message>
+    <message>
+        <source>Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other plain paper; see labelport formats. Default: paper of the label's size.</source>
+        <translation>Etiketten auf Bögen drucken: L7160, 5160 und andere, oder A4, Letter und anderes Papier; siehe labelport formats. Vorgabe: Papier in der Größe des Etiketts.</translation>
+    </message>
+    <message>
+        <source>First free label of the first sheet, counted from 1 along the rows (default: 1).</source>
+        <translation>Erstes freies Etikett des ersten Bogens, zeilenweise ab 1 gezählt (Vorgabe: 1).</translation>
+    </message>
+    <message>
+        <source>Copies of each record, one after the other, in documents, printer files and prints (default: 1).</source>
+        <translation>Exemplare jedes Datensatzes, nacheinander, in Dokumenten, Druckerdateien und Drucken (Vorgabe: 1).</translation>
+    </message>
+    <message>
+        <source>Print marks on the edges of sheets that show where to cut.</source>
+        <translation>Schnittmarken an den Rändern der Bögen drucken.</translation>
+    </message>
+    <message>
+        <source>Import OpenDocument files without repairing them first.</source>
+        <translation>OpenDocument-Dateien importieren, ohne sie vorher zu reparieren.</translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, zpl, csv, label; several with commas (default: png).</source>
+        <translation>Ausgabeziele: png, svg, pdf, zpl, csv, label; mehrere durch Kommas getrennt (Vorgabe: png).</translation>
+    </message>
+    <message>
+        <source>File to write the only input to; - is standard output. Without --to, its suffix selects the target.</source>
+        <translation>Datei, in die die einzige Eingabe geschrieben wird; - ist die Standardausgabe. Ohne --to bestimmt ihre Endung das Ziel.</translation>
+    </message>
+    <message>
+        <source>Resolution of pictures in dots per inch, 10 to 2400; of a label printer 203, 300 or 600 (default: 300).</source>
+        <translation>Auflösung von Bildern in Punkten pro Zoll, 10 bis 2400; eines Etikettendruckers 203, 300 oder 600 (Vorgabe: 300).</translation>
+    </message>
+    <message>
+        <source>Records of the label's data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page and a printer file one label for each record.</source>
+        <translation>Datensätze der Datenquellen des Etiketts: eine Zahl, ein Bereich wie 3-12 oder 3- oder all (Vorgabe: der erste). Die Bilder eines Bereichs werden nummeriert; ein PDF hat eine Seite und eine Druckerdatei ein Etikett je Datensatz.</translation>
+    </message>
+    <message>
+        <source>Let the label printer draw barcodes and lines where it can, and advance counters. Otherwise labels are pictures and exact.</source>
+        <translation>Barcodes und Linien soweit möglich vom Drucker zeichnen und Zähler von ihm weiterzählen lassen. Sonst sind Etiketten Bilder und genau.</translation>
+    </message>
+    <message>
+        <source>Print an event in JSON for each file, instead of the names of the files written.</source>
+        <translation>Für jede Datei ein Ereignis in JSON ausgeben, statt der Namen der geschriebenen Dateien.</translation>
+    </message>
+    <message>
+        <source>Printer to use; lpstat -e lists all (default: the default printer).</source>
+        <translation>Drucker; lpstat -e listet alle auf (Vorgabe: der Standarddrucker).</translation>
+    </message>
+    <message>
+        <source>Records of the labels' data sources: a number, a range such as 3-12 or 3-, or all (default: the first).</source>
+        <translation>Datensätze der Datenquellen der Etiketten: eine Zahl, ein Bereich wie 3-12 oder 3- oder all (Vorgabe: der erste).</translation>
+    </message>
+    <message>
+        <source>CSV file to write; - is standard output (default: -).</source>
+        <translation>Zu schreibende CSV-Datei; - ist die Standardausgabe (Vorgabe: -).</translation>
+    </message>
+    <message>
+        <source>Records to list: a number, a range such as 3-12 or 3-, or all (default: all).</source>
+        <translation>Datensätze: eine Zahl, ein Bereich wie 3-12 oder 3- oder all (Vorgabe: all).</translation>
+    </message>
+    <message>
+        <source>Overwrite an existing file.</source>
+        <translation>Eine vorhandene Datei überschreiben.</translation>
+    </message>
+    <message>
+        <source>print labels</source>
+        <translation>Etiketten drucken</translation>
+    </message>
+    <message>
+        <source>Label to print; - is standard input.</source>
+        <translation>Zu druckendes Etikett; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>list what bound items show</source>
+        <translation>auflisten, was verbundene Objekte anzeigen</translation>
+    </message>
+    <message>
+        <source>Label to read; - is standard input.</source>
+        <translation>Zu lesendes Etikett; - ist die Standardeingabe.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::PrintCommand</name>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Ein temporärer Ordner kann nicht angelegt werden: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot print: %1</source>
+        <translation>Drucken nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>No file to print.</source>
+        <translation>Keine Datei zum Drucken.</translation>
+    </message>
+    <message>
+        <source>Standard input can be given only once.</source>
+        <translation>Die Standardeingabe kann nur einmal angegeben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::RecordsCommand</name>
+    <message>
+        <source>records needs exactly one file.</source>
+        <translation>records braucht genau eine Datei.</translation>
+    </message>
+    <message>
+        <source>--to needs a file name.</source>
+        <translation>--to braucht einen Dateinamen.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ReportCommand</name>
@@ -758,7 +1016,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Kein Befehl angegeben: labelport report merge BERICHT.json... --to DATEI</translation>
     </message>
     <message>
-        <source>Unknown command &quot;report %1&quot;.</source>
+        <source>Unknown command "report %1".</source>
         <translation>Unbekannter Befehl „report %1“.</translation>
     </message>
     <message>
@@ -769,14 +1027,14 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
 <context>
     <name>cli::TraceCommand</name>
     <message>
-        <source>Cannot run &quot;%1&quot;: %2.</source>
+        <source>Cannot run "%1": %2.</source>
         <translation>„%1“ kann nicht ausgeführt werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>console::CommandLine</name>
     <message>
-        <source>Unknown option &quot;%1&quot;.</source>
+        <source>Unknown option "%1".</source>
         <translation>Unbekannte Option „%1“.</translation>
     </message>
     <message>
@@ -788,7 +1046,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Hilfe: %1 --help</translation>
     </message>
     <message>
-        <source>Did you mean &quot;%1&quot;?</source>
+        <source>Did you mean "%1"?</source>
         <translation>Meinten Sie „%1“?</translation>
     </message>
 </context>
@@ -797,6 +1055,10 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     <message>
         <source>Cannot write to standard output: %1.</source>
         <translation>Auf die Standardausgabe kann nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>Cannot read "%1": %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -812,6 +1074,207 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     <message>
         <source>Standard input is longer than any label.</source>
         <translation>Die Standardeingabe ist zu lang für ein Etikett.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::ExportFile</name>
+    <message>
+        <source>Cannot write "%1": %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Glabels</name>
+    <message>
+        <source>Only the first records are in the CSV file.</source>
+        <translation>Die CSV-Datei enthält nur die ersten Datensätze.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such shape.</source>
+        <translation>gLabels hat keine solche Form.</translation>
+    </message>
+    <message>
+        <source>gLabels has no gradients and no hatches.</source>
+        <translation>gLabels hat keine Verläufe und Schraffuren.</translation>
+    </message>
+    <message>
+        <source>gLabels has no dashed lines.</source>
+        <translation>gLabels hat keine gestrichelten Linien.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round or beveled corners.</source>
+        <translation>gLabels hat keine runden oder abgeschrägten Ecken.</translation>
+    </message>
+    <message>
+        <source>gLabels has no arrows.</source>
+        <translation>gLabels hat keine Pfeile.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round line ends.</source>
+        <translation>gLabels hat keine runden Linienenden.</translation>
+    </message>
+    <message>
+        <source>A large picture was scaled down.</source>
+        <translation>Ein großes Bild wurde verkleinert.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such text format.</source>
+        <translation>gLabels hat kein solches Textformat.</translation>
+    </message>
+    <message>
+        <source>The content cannot be encoded.</source>
+        <translation>Der Inhalt kann nicht codiert werden.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode: it shows the first record only.</source>
+        <translation>gLabels codiert diesen Barcode nicht: Er zeigt nur den ersten Datensatz.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode.</source>
+        <translation>gLabels codiert diesen Barcode nicht.</translation>
+    </message>
+    <message>
+        <source>gLabels cannot encode some of the records.</source>
+        <translation>gLabels kann einige Datensätze nicht codieren.</translation>
+    </message>
+    <message>
+        <source>It shows the first record only.</source>
+        <translation>Es zeigt nur den ersten Datensatz.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Targets</name>
+    <message>
+        <source>Re&amp;solution</source>
+        <translation>Auf&amp;lösung</translation>
+    </message>
+    <message>
+        <source>resolution in dots per inch</source>
+        <translation>Auflösung in Punkten pro Zoll</translation>
+    </message>
+    <message>
+        <source>dpi</source>
+        <translation>dpi</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Exemplare</translation>
+    </message>
+    <message>
+        <source>copies of each record</source>
+        <translation>Exemplare jedes Datensatzes</translation>
+    </message>
+    <message>
+        <source>&amp;Sheet</source>
+        <translation>&amp;Bogen</translation>
+    </message>
+    <message>
+        <source>sheet of labels, or paper</source>
+        <translation>Etikettenbogen oder Papier</translation>
+    </message>
+    <message>
+        <source>First &amp;label</source>
+        <translation>Erstes &amp;Etikett</translation>
+    </message>
+    <message>
+        <source>first free label of the first sheet</source>
+        <translation>erstes freies Etikett des ersten Bogens</translation>
+    </message>
+    <message>
+        <source>C&amp;rop marks</source>
+        <translation>S&amp;chnittmarken</translation>
+    </message>
+    <message>
+        <source>marks on sheets that show where to cut</source>
+        <translation>Marken auf Bögen, die zeigen, wo geschnitten wird</translation>
+    </message>
+    <message>
+        <source>&amp;Printer resolution</source>
+        <translation>&amp;Druckerauflösung</translation>
+    </message>
+    <message>
+        <source>resolution of the label printer</source>
+        <translation>Auflösung des Etikettendruckers</translation>
+    </message>
+    <message>
+        <source>&amp;Barcodes, lines and counters by the printer</source>
+        <translation>&amp;Barcodes, Linien und Zähler vom Drucker</translation>
+    </message>
+    <message>
+        <source>let the printer draw barcodes and lines, and advance counters</source>
+        <translation>den Drucker Barcodes und Linien zeichnen und Zähler weiterzählen lassen</translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation>PNG-Bild</translation>
+    </message>
+    <message>
+        <source>PNG pictures</source>
+        <translation>PNG-Bilder</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>SVG drawing</source>
+        <translation>SVG-Zeichnung</translation>
+    </message>
+    <message>
+        <source>SVG drawings</source>
+        <translation>SVG-Zeichnungen</translation>
+    </message>
+    <message>
+        <source>vector drawing</source>
+        <translation>Vektorzeichnung</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>PDF-Dokument</translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation>PDF-Dokumente</translation>
+    </message>
+    <message>
+        <source>document, a page for each record</source>
+        <translation>Dokument, eine Seite je Datensatz</translation>
+    </message>
+    <message>
+        <source>ZPL for label printers</source>
+        <translation>ZPL für Etikettendrucker</translation>
+    </message>
+    <message>
+        <source>Printer files</source>
+        <translation>Druckerdateien</translation>
+    </message>
+    <message>
+        <source>commands for a label printer, a label for each record</source>
+        <translation>Befehle für einen Etikettendrucker, ein Etikett je Datensatz</translation>
+    </message>
+    <message>
+        <source>CSV table of records</source>
+        <translation>CSV-Tabelle der Datensätze</translation>
+    </message>
+    <message>
+        <source>CSV tables</source>
+        <translation>CSV-Tabellen</translation>
+    </message>
+    <message>
+        <source>table of what bound items show, a line for each record</source>
+        <translation>Tabelle dessen, was verbundene Objekte anzeigen, eine Zeile je Datensatz</translation>
+    </message>
+    <message>
+        <source>LabelPort label</source>
+        <translation>LabelPort-Etikett</translation>
+    </message>
+    <message>
+        <source>LabelPort labels</source>
+        <translation>LabelPort-Etiketten</translation>
+    </message>
+    <message>
+        <source>saved label, to open and edit again</source>
+        <translation>gespeichertes Etikett, kann wieder geöffnet und bearbeitet werden</translation>
     </message>
 </context>
 <context>
@@ -896,6 +1359,14 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <source>a known status</source>
         <translation>ein bekannter Status</translation>
     </message>
+    <message>
+        <source>a list of whole numbers</source>
+        <translation>eine Liste ganzer Zahlen</translation>
+    </message>
+    <message>
+        <source>a list of rectangles</source>
+        <translation>eine Liste von Rechtecken</translation>
+    </message>
 </context>
 <context>
     <name>migration::Census</name>
@@ -978,17 +1449,21 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <source>Imported with changes</source>
         <translation>Mit Änderungen importiert</translation>
     </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Repariert</translation>
+    </message>
+    <message>
+        <source>Show a larger picture</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The document's own picture of %1</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>migration::HtmlPage</name>
-    <message>
-        <source>with losses</source>
-        <translation>mit Verlusten</translation>
-    </message>
-    <message>
-        <source>not imported</source>
-        <translation>nicht importiert</translation>
-    </message>
     <message>
         <source>What was lost or changed</source>
         <translation>Verluste und Änderungen</translation>
@@ -1012,10 +1487,6 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     <message>
         <source>all</source>
         <translation>alle</translation>
-    </message>
-    <message>
-        <source>imported</source>
-        <translation>importiert</translation>
     </message>
     <message>
         <source>as imported</source>
@@ -1074,14 +1545,6 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>de</translation>
     </message>
     <message>
-        <source>imported completely</source>
-        <translation>vollständig importiert</translation>
-    </message>
-    <message>
-        <source>changed in looks, nothing lost</source>
-        <translation>im Aussehen verändert, nichts verloren</translation>
-    </message>
-    <message>
         <source>Imported %1 of %2 objects in these files.</source>
         <translation>%1 von %2 Objekten in diesen Dateien importiert.</translation>
     </message>
@@ -1104,6 +1567,30 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     <message>
         <source>%1 of %2 files imported completely</source>
         <translation>%1 von %2 Dateien vollständig importiert</translation>
+    </message>
+    <message>
+        <source>Files that were read without a complete sandbox: %1.</source>
+        <translation>Dateien, die ohne vollständige Sandbox gelesen wurden: %1.</translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation>abgestürzt</translation>
+    </message>
+    <message>
+        <source>timed out</source>
+        <translation>Zeit überschritten</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>zu wenig Speicher</translation>
+    </message>
+    <message>
+        <source>Larger picture</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -1164,6 +1651,18 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <source>Warnings:</source>
         <translation>Warnungen:</translation>
     </message>
+    <message>
+        <source>Sandbox: %1</source>
+        <translation>Sandbox: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Repaired:</source>
+        <translation>Repariert:</translation>
+    </message>
 </context>
 <context>
     <name>migration::ItemLosses</name>
@@ -1183,32 +1682,16 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Objekte auf der zweiten Seite und den folgenden wurden weggelassen: Ein Etikett hat eine Seite.</translation>
     </message>
     <message>
-        <source>Save each page as a document of its own and import those.</source>
-        <translation>Speichern Sie jede Seite als eigenes Dokument und importieren Sie diese.</translation>
-    </message>
-    <message>
-        <source>Objects of the page&apos;s background (its master page) were left out.</source>
+        <source>Objects of the page's background (its master page) were left out.</source>
         <translation>Objekte des Seitenhintergrunds (der Masterseite) wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Copy them from the master page to the page itself and import again.</source>
-        <translation>Kopieren Sie sie von der Masterseite auf die Seite selbst und importieren Sie die Datei noch einmal.</translation>
     </message>
     <message>
         <source>Connectors between objects were left out.</source>
         <translation>Verbinder zwischen Objekten wurden weggelassen.</translation>
     </message>
     <message>
-        <source>Draw them as plain lines.</source>
-        <translation>Zeichnen Sie sie als einfache Linien.</translation>
-    </message>
-    <message>
         <source>Curves, free polygons and polylines were left out.</source>
         <translation>Kurven, freie Polygone und Linienzüge wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Convert them to a picture or to plain shapes.</source>
-        <translation>Wandeln Sie sie in ein Bild oder in einfache Formen um.</translation>
     </message>
     <message>
         <source>Callouts were left out.</source>
@@ -1217,10 +1700,6 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     <message>
         <source>Three-dimensional objects were left out.</source>
         <translation>Dreidimensionale Objekte wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Convert them to a picture.</source>
-        <translation>Wandeln Sie sie in ein Bild um.</translation>
     </message>
     <message>
         <source>Form controls were left out.</source>
@@ -1235,16 +1714,8 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Objekte in Texten, Textfeldern oder anderen Objekten wurden weggelassen.</translation>
     </message>
     <message>
-        <source>Anchor them to the page.</source>
-        <translation>Verankern Sie sie an der Seite.</translation>
-    </message>
-    <message>
         <source>Texts and objects in tables were left out.</source>
         <translation>Texte und Objekte in Tabellen wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Put them into text boxes.</source>
-        <translation>Setzen Sie sie in Textfelder.</translation>
     </message>
     <message>
         <source>Texts in lists were left out.</source>
@@ -1255,24 +1726,12 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Texte und Objekte in Bereichen oder Verzeichnissen wurden weggelassen.</translation>
     </message>
     <message>
-        <source>Remove the section and keep its content.</source>
-        <translation>Entfernen Sie den Bereich und behalten Sie seinen Inhalt.</translation>
-    </message>
-    <message>
         <source>Texts and objects of the header or footer were left out.</source>
         <translation>Texte und Objekte der Kopf- oder Fußzeile wurden weggelassen.</translation>
     </message>
     <message>
-        <source>Copy them into the document itself.</source>
-        <translation>Kopieren Sie sie in das Dokument selbst.</translation>
-    </message>
-    <message>
         <source>Texts of hyperlinks were left out.</source>
         <translation>Texte von Hyperlinks wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Remove the hyperlinks and keep their texts.</source>
-        <translation>Entfernen Sie die Hyperlinks und behalten Sie ihre Texte.</translation>
     </message>
     <message>
         <source>Fields in texts, such as page numbers and names, were left out.</source>
@@ -1283,10 +1742,6 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Fußnoten und Endnoten wurden weggelassen.</translation>
     </message>
     <message>
-        <source>Put their texts into text boxes.</source>
-        <translation>Setzen Sie ihre Texte in Textfelder.</translation>
-    </message>
-    <message>
         <source>Comments were left out; they are not printed.</source>
         <translation>Kommentare wurden weggelassen; sie werden nicht gedruckt.</translation>
     </message>
@@ -1295,24 +1750,8 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Animationen wurden weggelassen; sie werden nicht gedruckt.</translation>
     </message>
     <message>
-        <source>Nothing.</source>
-        <translation>Keine Maßnahme erforderlich.</translation>
-    </message>
-    <message>
-        <source>Open the file in its own program and save it again.</source>
-        <translation>Öffnen Sie die Datei in ihrem eigenen Programm und speichern Sie sie neu.</translation>
-    </message>
-    <message>
         <source>Picture boxes without a picture were left out.</source>
         <translation>Bildrahmen ohne Bild wurden weggelassen.</translation>
-    </message>
-    <message>
-        <source>Look for another copy of the file.</source>
-        <translation>Suchen Sie nach einer anderen Kopie der Datei.</translation>
-    </message>
-    <message>
-        <source>Copy its content into a drawing.</source>
-        <translation>Kopieren Sie seinen Inhalt in eine Zeichnung.</translation>
     </message>
     <message>
         <source>Barcodes of a type without a known counterpart became Code 39.</source>
@@ -1339,60 +1778,20 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Schatten, Transparenz, Zuschnitt und andere Effekte wurden verworfen.</translation>
     </message>
     <message>
-        <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
-        <translation>Öffnen Sie das Dokument in seinem eigenen Programm, heben Sie die Gruppierung der Objekte auf, speichern Sie es und importieren Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>Replace each callout with a text and a line.</source>
-        <translation>Ersetzen Sie jede Legende durch einen Text und eine Linie.</translation>
-    </message>
-    <message>
-        <source>Replace each control with a text if it should be printed.</source>
-        <translation>Ersetzen Sie jedes Formularfeld durch einen Text, wenn es gedruckt werden soll.</translation>
-    </message>
-    <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
         <translation>Formen eines Textdokuments wurden weggelassen: Nur Texte, Textfelder und Bilder werden importiert.</translation>
-    </message>
-    <message>
-        <source>Copy the label into a drawing.</source>
-        <translation>Kopieren Sie das Etikett in eine Zeichnung.</translation>
-    </message>
-    <message>
-        <source>Turn bullets and numbering off, so that the list becomes plain paragraphs.</source>
-        <translation>Schalten Sie Aufzählungszeichen und Nummerierung aus, sodass die Liste zu einfachen Absätzen wird.</translation>
-    </message>
-    <message>
-        <source>Replace each field with its text.</source>
-        <translation>Ersetzen Sie jedes Feld durch seinen Text.</translation>
     </message>
     <message>
         <source>Parts of texts were left out because their type is unknown.</source>
         <translation>Teile von Texten wurden weggelassen, weil ihr Typ unbekannt ist.</translation>
     </message>
     <message>
-        <source>Compare the texts with the original label.</source>
-        <translation>Vergleichen Sie die Texte mit dem ursprünglichen Etikett.</translation>
-    </message>
-    <message>
         <source>Texts of shapes were left out because they do not begin with a plain paragraph.</source>
         <translation>Texte von Formen wurden weggelassen, weil sie nicht mit einem einfachen Absatz beginnen.</translation>
     </message>
     <message>
-        <source>Change them to plain paragraphs.</source>
-        <translation>Wandeln Sie sie in einfache Absätze um.</translation>
-    </message>
-    <message>
-        <source>Nothing, unless you need them.</source>
-        <translation>Keine Maßnahme erforderlich, sofern Sie sie nicht benötigen.</translation>
-    </message>
-    <message>
         <source>Objects were left out because their type is unknown.</source>
         <translation>Objekte wurden weggelassen, weil ihr Typ unbekannt ist.</translation>
-    </message>
-    <message>
-        <source>Draw them as shapes that labels support.</source>
-        <translation>Zeichnen Sie sie als Formen, die Etiketten unterstützen.</translation>
     </message>
     <message>
         <source>Controls were left out because their type is unknown.</source>
@@ -1403,48 +1802,24 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Die Datei hat mehrere Objektlisten; alle außer der ersten wurden weggelassen.</translation>
     </message>
     <message>
-        <source>Add the picture to the original file and import it again.</source>
-        <translation>Fügen Sie das Bild in die ursprüngliche Datei ein und importieren Sie sie noch einmal.</translation>
-    </message>
-    <message>
         <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
         <translation>Bilder wurden weggelassen, weil sie beschädigt oder zu groß sind oder ihr Format nicht unterstützt wird.</translation>
-    </message>
-    <message>
-        <source>Save the pictures as PNG in the original file and import it again.</source>
-        <translation>Speichern Sie die Bilder in der ursprünglichen Datei als PNG und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Vector drawings were left out because they cannot be converted.</source>
         <translation>Vektorzeichnungen wurden weggelassen, weil sie nicht umgewandelt werden können.</translation>
     </message>
     <message>
-        <source>Convert the drawings to PNG in the original file and import it again.</source>
-        <translation>Wandeln Sie die Zeichnungen in der ursprünglichen Datei in PNG um und importieren Sie sie noch einmal.</translation>
-    </message>
-    <message>
         <source>Symbols were left out because neither the file nor the symbol databases contain their drawings.</source>
         <translation>Symbole wurden weggelassen, weil weder die Datei noch die Symboldatenbanken ihre Zeichnungen enthalten.</translation>
-    </message>
-    <message>
-        <source>Save the label with the latest version of its own program, which stores the drawings, or add the symbols to the symbol databases.</source>
-        <translation>Speichern Sie das Etikett mit der neuesten Version seines eigenen Programms, die die Zeichnungen mitspeichert, oder fügen Sie die Symbole den Symboldatenbanken hinzu.</translation>
     </message>
     <message>
         <source>Barcodes were left out because their type is not supported.</source>
         <translation>Barcodes wurden weggelassen, weil ihr Typ nicht unterstützt wird.</translation>
     </message>
     <message>
-        <source>Change the barcode type in the original file and import it again.</source>
-        <translation>Ändern Sie den Barcodetyp in der ursprünglichen Datei und importieren Sie sie noch einmal.</translation>
-    </message>
-    <message>
         <source>The file continues with an unknown record; the rest was not read.</source>
         <translation>Die Datei setzt sich mit einem unbekannten Eintrag fort; der Rest wurde nicht gelesen.</translation>
-    </message>
-    <message>
-        <source>The file is damaged or of a newer version. Look for another copy.</source>
-        <translation>Die Datei ist beschädigt oder hat eine neuere Version. Suchen Sie nach einer anderen Kopie.</translation>
     </message>
     <message>
         <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
@@ -1459,56 +1834,24 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Inhalt wurde weggelassen, weil er die Grenzen für Etiketten überschreitet.</translation>
     </message>
     <message>
-        <source>Reduce the number of objects or the size of the pictures.</source>
-        <translation>Verringern Sie die Anzahl der Objekte oder die Größe der Bilder.</translation>
-    </message>
-    <message>
         <source>Objects of the file are missing on the label, without a reported reason.</source>
         <translation>Objekte der Datei fehlen auf dem Etikett, ohne dass ein Grund gemeldet wurde.</translation>
-    </message>
-    <message>
-        <source>Compare with the original label, and report the file as a bug.</source>
-        <translation>Vergleichen Sie mit dem ursprünglichen Etikett, und melden Sie die Datei als Fehler.</translation>
-    </message>
-    <message>
-        <source>The log was cut: there may be losses that are not listed.</source>
-        <translation>Das Protokoll wurde gekürzt: Es kann Verluste geben, die nicht aufgeführt sind.</translation>
-    </message>
-    <message>
-        <source>Compare with the original label.</source>
-        <translation>Vergleichen Sie mit dem ursprünglichen Etikett.</translation>
     </message>
     <message>
         <source>Unsupported shapes became rectangles or ellipses.</source>
         <translation>Nicht unterstützte Formen wurden zu Rechtecken oder Ellipsen.</translation>
     </message>
     <message>
-        <source>Replace them with supported shapes in the original file and import it again.</source>
-        <translation>Ersetzen Sie sie in der ursprünglichen Datei durch unterstützte Formen und importieren Sie sie noch einmal.</translation>
-    </message>
-    <message>
         <source>Items are no longer bound to their data source: they show their last value.</source>
         <translation>Objekte sind nicht mehr mit ihrer Datenquelle verbunden: Sie zeigen ihren letzten Wert.</translation>
-    </message>
-    <message>
-        <source>Bind the items to a data source in the new label editor.</source>
-        <translation>Verbinden Sie die Objekte im neuen Etiketteneditor mit einer Datenquelle.</translation>
     </message>
     <message>
         <source>The label is no longer linked to its database file.</source>
         <translation>Das Etikett ist nicht mehr mit seiner Datenbankdatei verknüpft.</translation>
     </message>
     <message>
-        <source>Connect the data in the new label editor.</source>
-        <translation>Verbinden Sie die Daten im neuen Etiketteneditor.</translation>
-    </message>
-    <message>
         <source>Texts with a placeholder among other words show only the value of the data source.</source>
         <translation>Texte mit einem Platzhalter zwischen anderen Wörtern zeigen nur den Wert der Datenquelle.</translation>
-    </message>
-    <message>
-        <source>Move the other words into separate texts, or into the data source.</source>
-        <translation>Verschieben Sie die anderen Wörter in eigene Texte oder in die Datenquelle.</translation>
     </message>
     <message>
         <source>Fields, such as date, time and page number, became plain text with the value that they had when the document was saved.</source>
@@ -1519,20 +1862,8 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Barcodes können nicht gezeichnet werden, weil ihr Inhalt für ihren Typ ungültig ist.</translation>
     </message>
     <message>
-        <source>Correct the content or the barcode type in the original file and import it again.</source>
-        <translation>Korrigieren Sie den Inhalt oder den Barcodetyp in der ursprünglichen Datei und importieren Sie sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>Scan the original label to find the correct type.</source>
-        <translation>Scannen Sie das ursprüngliche Etikett, um den richtigen Typ zu ermitteln.</translation>
-    </message>
-    <message>
         <source>Items are completely outside the page: they are not printed.</source>
         <translation>Objekte liegen vollständig außerhalb der Seite: Sie werden nicht gedruckt.</translation>
-    </message>
-    <message>
-        <source>Move the items onto the page.</source>
-        <translation>Verschieben Sie die Objekte auf die Seite.</translation>
     </message>
     <message>
         <source>Items extend beyond the edge of the page: that part is not printed.</source>
@@ -1543,36 +1874,12 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Größen, Positionen oder Schriften überschreiten die Grenzen für Etiketten und wurden verkleinert.</translation>
     </message>
     <message>
-        <source>The document uses millimeters: the label is ten times larger than the paper.</source>
-        <translation>Das Dokument verwendet Millimeter: Das Etikett ist zehnmal so groß wie das Papier.</translation>
-    </message>
-    <message>
-        <source>Print at a tenth of the size, or save the document with centimeters or inches as its unit.</source>
-        <translation>Drucken Sie mit einem Zehntel der Größe, oder speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
-    </message>
-    <message>
         <source>Lengths are not in the unit of the page, but were read as if they were.</source>
         <translation>Längen haben nicht die Einheit der Seite, wurden aber so gelesen.</translation>
     </message>
     <message>
-        <source>Save the document with a single unit.</source>
-        <translation>Speichern Sie das Dokument mit einer einzigen Einheit.</translation>
-    </message>
-    <message>
-        <source>The unit of the page is unknown: its lengths were read as inches.</source>
-        <translation>Die Einheit der Seite ist unbekannt: Ihre Längen wurden als Zoll gelesen.</translation>
-    </message>
-    <message>
-        <source>Save the document with centimeters or inches as its unit.</source>
-        <translation>Speichern Sie das Dokument mit Zentimetern oder Zoll als Einheit.</translation>
-    </message>
-    <message>
         <source>The page has another size than in the file, which defines no size or several.</source>
         <translation>Die Seite hat eine andere Größe als in der Datei, die keine oder mehrere Größen festlegt.</translation>
-    </message>
-    <message>
-        <source>Set the page size in the original file and import it again.</source>
-        <translation>Legen Sie die Seitengröße in der ursprünglichen Datei fest und importieren Sie sie noch einmal.</translation>
     </message>
     <message>
         <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
@@ -1581,10 +1888,6 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
     <message>
         <source>The margins of the page were dropped: the text begins in the corner.</source>
         <translation>Die Seitenränder wurden verworfen: Der Text beginnt in der Ecke.</translation>
-    </message>
-    <message>
-        <source>Move the texts in the new label.</source>
-        <translation>Verschieben Sie die Texte im neuen Etikett.</translation>
     </message>
     <message>
         <source>Page breaks were dropped: all text is on one page.</source>
@@ -1599,57 +1902,137 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Nicht installierte Schriften wurden ersetzt.</translation>
     </message>
     <message>
-        <source>Install the fonts and import again.</source>
-        <translation>Installieren Sie die Schriften und importieren Sie die Datei noch einmal.</translation>
-    </message>
-    <message>
         <source>Stretched texts are no longer stretched.</source>
         <translation>Gestreckte Texte sind nicht mehr gestreckt.</translation>
-    </message>
-    <message>
-        <source>Set a suitable font size.</source>
-        <translation>Legen Sie eine passende Schriftgröße fest.</translation>
-    </message>
-    <message>
-        <source>Set the color in the new label editor.</source>
-        <translation>Legen Sie die Farbe im neuen Etiketteneditor fest.</translation>
-    </message>
-    <message>
-        <source>Split the text into paragraphs.</source>
-        <translation>Teilen Sie den Text in Absätze auf.</translation>
-    </message>
-    <message>
-        <source>Choose a plain fill in the original file.</source>
-        <translation>Wählen Sie in der ursprünglichen Datei eine einfache Füllung.</translation>
     </message>
     <message>
         <source>The import reported a problem with this label.</source>
         <translation>Der Import hat ein Problem mit diesem Etikett gemeldet.</translation>
     </message>
     <message>
-        <source>Read the warnings, and compare with the original label.</source>
-        <translation>Lesen Sie die Warnungen, und vergleichen Sie mit dem ursprünglichen Etikett.</translation>
+        <source>If the document was imported as written, import it without --as-written.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts of lines and dimension lines were left out.</source>
+        <translation>Texte von Linien und Maßlinien wurden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Add the symbols to the symbol databases and import again.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The log was cut, or the label is too large to compare: there may be losses that are not listed.</source>
+        <translation>Das Protokoll wurde gekürzt, oder das Etikett ist zu groß für den Vergleich: Möglicherweise sind nicht alle Verluste aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Bind the items to a data source in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Correct the content or the type in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Choose the type in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Move the items onto the page in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The document uses millimeters: the label is a hundred times larger than the paper. Fonts and lines did not grow with it, so that texts are hardly visible.</source>
+        <translation>Das Dokument verwendet Millimeter: Das Etikett ist hundertmal so groß wie das Papier. Schriften und Linien sind nicht mitgewachsen, sodass Texte kaum zu sehen sind.</translation>
+    </message>
+    <message>
+        <source>The unit of the page is not supported: its lengths were read as inches, so that points become 72 times too large. Fonts and lines did not grow with them, so that texts are hardly visible.</source>
+        <translation>Die Einheit der Seite wird nicht unterstützt: Ihre Längen wurden als Zoll gelesen, sodass Punkte 72-mal zu groß werden. Schriften und Linien sind nicht mitgewachsen, sodass Texte kaum zu sehen sind.</translation>
+    </message>
+    <message>
+        <source>Install the fonts and import again, or choose another font in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Set the font size in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts differ from the document: words run together, or line breaks or words are missing.</source>
+        <translation>Texte weichen vom Dokument ab: Wörter sind zusammengezogen, oder Zeilenumbrüche oder Wörter fehlen.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or correct the text in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts can hardly be read: their color is too similar to what is under them.</source>
+        <translation>Texte sind kaum lesbar: Ihre Farbe ist dem Untergrund zu ähnlich.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or set the color in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts are printed over each other.</source>
+        <translation>Texte überlagern einander.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or move the texts in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Items are covered by others, which they are not in the document.</source>
+        <translation>Objekte sind von anderen verdeckt, was sie im Dokument nicht sind.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or move the items in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Items have another place or size than in the document, by more than 1 mm.</source>
+        <translation>Objekte haben eine andere Position oder Größe als im Dokument, um mehr als 1 mm.</translation>
+    </message>
+    <message>
+        <source>Mirrored shapes are no longer mirrored.</source>
+        <translation>Gespiegelte Formen sind nicht mehr gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Items cannot be seen, because they have the color of what is under them.</source>
+        <translation>Objekte sind nicht zu sehen, weil sie die Farbe des Untergrunds haben.</translation>
+    </message>
+    <message>
+        <source>Choose another fill in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Boxes are filled that are not filled in the document.</source>
+        <translation>Rahmen sind gefüllt, die im Dokument nicht gefüllt sind.</translation>
+    </message>
+    <message>
+        <source>Lines are more than a quarter thinner or thicker than in the document.</source>
+        <translation>Linien sind um mehr als ein Viertel dünner oder dicker als im Dokument.</translation>
     </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
     <message>
-        <source>The reports contain the file &quot;%1&quot; more than once.</source>
+        <source>The reports contain the file "%1" more than once.</source>
         <translation>Die Berichte enthalten die Datei „%1“ mehr als einmal.</translation>
     </message>
     <message>
-        <source>The report &quot;%1&quot; has changed during the merge.</source>
+        <source>The report "%1" has changed during the merge.</source>
         <translation>Der Bericht „%1“ wurde während des Zusammenführens geändert.</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportLines</name>
     <message>
-        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <source>Cannot read "%1": %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
+        <source>"%1" is not a report of LabelPort: %2.</source>
         <translation>„%1“ ist kein Bericht von LabelPort: %2.</translation>
     </message>
     <message>
@@ -1672,7 +2055,7 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
 <context>
     <name>migration::ReportWriter</name>
     <message>
-        <source>Cannot write the report &quot;%1&quot;: %2.</source>
+        <source>Cannot write the report "%1": %2.</source>
         <translation>Der Bericht „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
@@ -1695,39 +2078,85 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>Nichts ging verloren oder wurde verändert.</translation>
     </message>
     <message>
-        <source>Nothing was lost; looks or content changed.</source>
-        <translation>Nichts ging verloren; Aussehen oder Inhalt wurde verändert.</translation>
-    </message>
-</context>
-<context>
-    <name>migration::Totals</name>
-    <message>
         <source>imported completely</source>
         <translation>vollständig importiert</translation>
     </message>
     <message>
-        <source>changed in looks</source>
-        <translation>im Aussehen verändert</translation>
+        <source>imported with changes</source>
+        <translation>mit Änderungen importiert</translation>
     </message>
     <message>
-        <source>with losses</source>
-        <translation>mit Verlusten</translation>
+        <source>The content is complete; looks changed.</source>
+        <translation>Der Inhalt ist vollständig; das Aussehen hat sich geändert.</translation>
     </message>
     <message>
-        <source>crashed</source>
-        <translation>abgestürzt</translation>
+        <source>imported with losses</source>
+        <translation>mit Verlusten importiert</translation>
     </message>
     <message>
-        <source>timed out</source>
-        <translation>Zeitüberschreitung</translation>
-    </message>
-    <message>
-        <source>out of memory</source>
-        <translation>zu wenig Speicher</translation>
+        <source>Content was lost or changed.</source>
+        <translation>Inhalt ging verloren oder hat sich geändert.</translation>
     </message>
     <message>
         <source>failed</source>
         <translation>fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>printing::PrintDocument</name>
+    <message>
+        <source>%1 labels in %2 copies are more than the %3 of one document.</source>
+        <translation>%1 Etiketten in %2 Exemplaren sind mehr als die %3 eines Dokuments.</translation>
+    </message>
+    <message>
+        <source>Sheet "%1" has no position %2; its positions are 1 to %3.</source>
+        <translation>Bogen „%1“ hat keine Position %2; seine Positionen sind 1 bis %3.</translation>
+    </message>
+</context>
+<context>
+    <name>printing::PrintQueue</name>
+    <message>
+        <source>Cannot run "%1". Install the client commands of CUPS.</source>
+        <translation>„%1“ kann nicht ausgeführt werden. Installieren Sie die Client-Befehle von CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server does not reply.</source>
+        <translation>Der Druckserver antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>"%1" failed.</source>
+        <translation>„%1“ ist fehlgeschlagen.</translation>
+    </message>
+</context>
+<context>
+    <name>printing::Sheet</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>The sides of the paper must be from 1 to %1 mm.</source>
+        <translation>Die Seiten des Papiers müssen zwischen 1 und %1 mm lang sein.</translation>
+    </message>
+    <message>
+        <source>A sheet has 1 to %1 rows and columns.</source>
+        <translation>Ein Bogen hat 1 bis %1 Zeilen und Spalten.</translation>
+    </message>
+    <message>
+        <source>The sides of a label must be at least 1 mm.</source>
+        <translation>Die Seiten eines Etiketts müssen mindestens 1 mm lang sein.</translation>
+    </message>
+    <message>
+        <source>The labels of the sheet overlap.</source>
+        <translation>Die Etiketten des Bogens überlappen einander.</translation>
+    </message>
+    <message>
+        <source>The labels of the sheet exceed the paper.</source>
+        <translation>Die Etiketten des Bogens ragen über das Papier hinaus.</translation>
+    </message>
+    <message>
+        <source>The label is %1; the labels of sheet "%2" are only %3.</source>
+        <translation>Das Etikett hat %1; die Etiketten des Bogens „%2“ haben nur %3.</translation>
     </message>
 </context>
 <context>
@@ -1808,6 +2237,33 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <source>%n notes were appended to their text</source>
         <translation>%n Anmerkungen wurden an ihren Text angehängt</translation>
     </message>
+    <message>
+        <source>%n further pages became labels of their own</source>
+        <translation>%n weitere Seiten wurden zu eigenen Etiketten</translation>
+    </message>
+    <message>
+        <source>The document could not be repaired: it was imported as it is written.</source>
+        <translation>Das Dokument konnte nicht repariert werden: Es wurde importiert, wie es geschrieben ist.</translation>
+    </message>
+</context>
+<context>
+    <name>sandbox::Confinement</name>
+    <message>
+        <source>files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>system calls</source>
+        <translation>Systemaufrufe</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
 </context>
 <context>
     <name>trace</name>
@@ -1820,15 +2276,15 @@ JSON Lines aus, danach den Endzustand der Objekte.</translation>
         <translation>es ist keine reguläre Datei</translation>
     </message>
     <message>
-        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <source>Cannot read "%1": %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
+        <source>"%1" was not imported. The trace shows how far the import came.</source>
         <translation>„%1“ wurde nicht importiert. Die Aufzeichnung zeigt, wie weit der Import kam.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
+        <source>"%1" was not imported. The trace shows how far the import came; --reader selects another reader.</source>
         <translation>„%1“ wurde nicht importiert. Die Aufzeichnung zeigt, wie weit der Import kam; --reader wählt einen anderen Reader.</translation>
     </message>
     <message>
@@ -1866,7 +2322,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>trace erwartet genau eine Datei.</translation>
     </message>
     <message>
-        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
+        <source>Unknown reader "%1". Supported readers: %2.</source>
         <translation>Unbekannter Reader „%1“. Unterstützte Reader: %2.</translation>
     </message>
 </context>
@@ -1875,18 +2331,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>&amp;Open…</source>
         <translation>&amp;Öffnen…</translation>
-    </message>
-    <message>
-        <source>Opens a saved label or a legacy one</source>
-        <translation>Öffnet ein gespeichertes oder ein altes Etikett</translation>
-    </message>
-    <message>
-        <source>&amp;Import…</source>
-        <translation>&amp;Importieren…</translation>
-    </message>
-    <message>
-        <source>Imports a legacy label and saves it beside the old file</source>
-        <translation>Importiert ein altes Etikett und speichert es neben der alten Datei</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -2133,7 +2577,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>&amp;Gehe zu…</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the record&apos;s number</source>
+        <source>Puts the keyboard on the record's number</source>
         <translation>Setzt den Tastaturfokus auf die Nummer des Datensatzes</translation>
     </message>
     <message>
@@ -2180,6 +2624,222 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
+    <message>
+        <source>Opens a saved label, or imports a legacy one</source>
+        <translation>Öffnet ein gespeichertes Etikett oder importiert ein altes</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder…</source>
+        <translation>&amp;Ordner öffnen …</translation>
+    </message>
+    <message>
+        <source>Lists the labels of a folder with their states</source>
+        <translation>Listet die Etiketten eines Ordners mit ihrem Zustand auf</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Label</source>
+        <translation>Vor&amp;heriges Etikett</translation>
+    </message>
+    <message>
+        <source>Opens the previous label of the folder</source>
+        <translation>Öffnet das vorherige Etikett des Ordners</translation>
+    </message>
+    <message>
+        <source>&amp;Next Label</source>
+        <translation>&amp;Nächstes Etikett</translation>
+    </message>
+    <message>
+        <source>Opens the next label of the folder</source>
+        <translation>Öffnet das nächste Etikett des Ordners</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Au&amp;sschneiden</translation>
+    </message>
+    <message>
+        <source>Copies the selected items and deletes them</source>
+        <translation>Kopiert die ausgewählten Objekte und löscht sie</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the selected items to the clipboard</source>
+        <translation>Kopiert die ausgewählten Objekte in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>E&amp;infügen</translation>
+    </message>
+    <message>
+        <source>Adds the items of the clipboard to the label</source>
+        <translation>Fügt die Objekte der Zwischenablage in das Etikett ein</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Adds a copy of each selected item</source>
+        <translation>Fügt eine Kopie jedes ausgewählten Objekts hinzu</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Deletes the selected items</source>
+        <translation>Löscht die ausgewählten Objekte</translation>
+    </message>
+    <message>
+        <source>Edit Te&amp;xt</source>
+        <translation>Te&amp;xt bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edits the text of the selected item on the canvas</source>
+        <translation>Bearbeitet den Text des ausgewählten Objekts auf der Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>To Fr&amp;ont</source>
+        <translation>Ganz nach &amp;vorn</translation>
+    </message>
+    <message>
+        <source>Puts the selected items above all others</source>
+        <translation>Legt die ausgewählten Objekte über alle anderen</translation>
+    </message>
+    <message>
+        <source>&amp;Raise</source>
+        <translation>Nach v&amp;orn</translation>
+    </message>
+    <message>
+        <source>Puts the selected items above the next item</source>
+        <translation>Legt die ausgewählten Objekte über das nächste</translation>
+    </message>
+    <message>
+        <source>&amp;Lower</source>
+        <translation>Nach h&amp;inten</translation>
+    </message>
+    <message>
+        <source>Puts the selected items below the next item</source>
+        <translation>Legt die ausgewählten Objekte unter das nächste</translation>
+    </message>
+    <message>
+        <source>To Bac&amp;k</source>
+        <translation>Ganz nach &amp;hinten</translation>
+    </message>
+    <message>
+        <source>Puts the selected items below all others</source>
+        <translation>Legt die ausgewählten Objekte unter alle anderen</translation>
+    </message>
+    <message>
+        <source>Align Le&amp;ft Edges</source>
+        <translation>&amp;Linke Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Aligns the left edges of the selected items; a single item is aligned to the page</source>
+        <translation>Richtet die linken Kanten der ausgewählten Objekte aus; ein einzelnes Objekt wird an der Seite ausgerichtet</translation>
+    </message>
+    <message>
+        <source>Align &amp;Centers</source>
+        <translation>&amp;Mitten ausrichten</translation>
+    </message>
+    <message>
+        <source>Aligns the centers of the selected items on a vertical line</source>
+        <translation>Richtet die Mitten der ausgewählten Objekte an einer senkrechten Linie aus</translation>
+    </message>
+    <message>
+        <source>Align Ri&amp;ght Edges</source>
+        <translation>&amp;Rechte Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Aligns the right edges of the selected items</source>
+        <translation>Richtet die rechten Kanten der ausgewählten Objekte aus</translation>
+    </message>
+    <message>
+        <source>Align &amp;Top Edges</source>
+        <translation>&amp;Obere Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Aligns the top edges of the selected items</source>
+        <translation>Richtet die oberen Kanten der ausgewählten Objekte aus</translation>
+    </message>
+    <message>
+        <source>Align &amp;Middles</source>
+        <translation>M&amp;itten waagerecht ausrichten</translation>
+    </message>
+    <message>
+        <source>Aligns the centers of the selected items on a horizontal line</source>
+        <translation>Richtet die Mitten der ausgewählten Objekte an einer waagerechten Linie aus</translation>
+    </message>
+    <message>
+        <source>Align &amp;Bottom Edges</source>
+        <translation>&amp;Untere Kanten ausrichten</translation>
+    </message>
+    <message>
+        <source>Aligns the bottom edges of the selected items</source>
+        <translation>Richtet die unteren Kanten der ausgewählten Objekte aus</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;Horizontally</source>
+        <translation>&amp;Waagerecht verteilen</translation>
+    </message>
+    <message>
+        <source>Makes the horizontal gaps between the selected items equal</source>
+        <translation>Macht die waagerechten Abstände zwischen den ausgewählten Objekten gleich</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;Vertically</source>
+        <translation>&amp;Senkrecht verteilen</translation>
+    </message>
+    <message>
+        <source>Makes the vertical gaps between the selected items equal</source>
+        <translation>Macht die senkrechten Abstände zwischen den ausgewählten Objekten gleich</translation>
+    </message>
+    <message>
+        <source>&amp;Labels</source>
+        <translation>&amp;Etiketten</translation>
+    </message>
+    <message>
+        <source>Shows the labels of the folder and moves keyboard focus to them</source>
+        <translation>Zeigt die Etiketten des Ordners und setzt den Tastaturfokus darauf</translation>
+    </message>
+    <message>
+        <source>&amp;Original</source>
+        <translation>&amp;Original</translation>
+    </message>
+    <message>
+        <source>Shows the document's own preview next to the label, with a slider</source>
+        <translation>Zeigt die Vorschau des Dokuments neben dem Etikett, mit einem Schieberegler</translation>
+    </message>
+    <message>
+        <source>&amp;Connect CSV File…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Shows columns of a CSV file in items of the label</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Edit Data Source…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Changes the counter, date, list or file that is selected in the panel</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Shows the manual of this window</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Arrange</source>
+        <translation>&amp;Anordnen</translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -2191,28 +2851,255 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <source>The label. The arrow keys move the selected items.</source>
         <translation>Das Etikett. Die Pfeiltasten verschieben die ausgewählten Objekte.</translation>
     </message>
+    <message>
+        <source>The item has no text.</source>
+        <translation>Das Objekt hat keinen Text.</translation>
+    </message>
+    <message>
+        <source>Change Text</source>
+        <translation>Text ändern</translation>
+    </message>
 </context>
 <context>
-    <name>window::DialogImport</name>
+    <name>window::ChangePage</name>
     <message>
-        <source>There is not enough memory for this file.</source>
-        <translation>Für diese Datei reicht der Speicher nicht aus.</translation>
+        <source>Change Page</source>
+        <translation>Seite ändern</translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparisonPanel</name>
+    <message>
+        <source>The original document has no preview.</source>
+        <translation>Das Originaldokument hat keine Vorschau.</translation>
+    </message>
+    <message>
+        <source>Share of the original</source>
+        <translation>Anteil des Originals</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etikett</translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparisonView</name>
+    <message>
+        <source>Original and label</source>
+        <translation>Original und Etikett</translation>
+    </message>
+</context>
+<context>
+    <name>window::Corrections</name>
+    <message>
+        <source>Replace Font</source>
+        <translation>Schrift ersetzen</translation>
+    </message>
+    <message>
+        <source>Font for all texts in %1:</source>
+        <translation>Schrift für alle Texte in %1:</translation>
+    </message>
+    <message>
+        <source>Set Color</source>
+        <translation>Farbe setzen</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Rescale</source>
+        <translation>Skalieren</translation>
+    </message>
+    <message>
+        <source>Size of the paper:</source>
+        <translation>Papiergröße:</translation>
+    </message>
+    <message>
+        <source>Bind to Data Source</source>
+        <translation>Mit Datenquelle verbinden</translation>
+    </message>
+    <message>
+        <source>The label has no data source.</source>
+        <translation>Das Etikett hat keine Datenquelle.</translation>
+    </message>
+    <message>
+        <source>Data source:</source>
+        <translation>Datenquelle:</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Items</source>
+        <translation>Objekte &amp;löschen</translation>
+    </message>
+    <message>
+        <source>Replace F&amp;ont…</source>
+        <translation>S&amp;chrift ersetzen …</translation>
+    </message>
+    <message>
+        <source>Set &amp;Color…</source>
+        <translation>&amp;Farbe setzen …</translation>
+    </message>
+    <message>
+        <source>Re&amp;scale…</source>
+        <translation>S&amp;kalieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Bind to Data Source…</source>
+        <translation>Mit Daten&amp;quelle verbinden …</translation>
+    </message>
+    <message>
+        <source>Delete Items</source>
+        <translation>Objekte löschen</translation>
+    </message>
+</context>
+<context>
+    <name>window::CsvDialog</name>
+    <message>
+        <source>The first line &amp;names the columns</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Items and their columns</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Records of the file</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Connect CSV File</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Items of the label</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Records</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Detect</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>UTF-8</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>UTF-16</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Windows-1252</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Separator</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Encoding</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Item</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Shows column</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>– not from this file –</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>window::EditActions</name>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation>Verteilen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>The clipboard contains no items of a label.</source>
+        <translation>Die Zwischenablage enthält keine Objekte eines Etiketts.</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Read-only items were not deleted.</source>
+        <translation>Schreibgeschützte Objekte wurden nicht gelöscht.</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Ausrichten</translation>
     </message>
 </context>
 <context>
     <name>window::ExportDialog</name>
-    <message>
-        <source>SVG drawings (*.svg)</source>
-        <translation>SVG-Zeichnungen (*.svg)</translation>
-    </message>
-    <message>
-        <source>PDF documents (*.pdf)</source>
-        <translation>PDF-Dokumente (*.pdf)</translation>
-    </message>
-    <message>
-        <source>PNG pictures (*.png)</source>
-        <translation>PNG-Bilder (*.png)</translation>
-    </message>
     <message>
         <source>&amp;Browse…</source>
         <translation>&amp;Durchsuchen…</translation>
@@ -2220,18 +3107,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>Export Label</source>
         <translation>Etikett exportieren</translation>
-    </message>
-    <message>
-        <source>PNG picture</source>
-        <translation>PNG-Bild</translation>
-    </message>
-    <message>
-        <source>SVG drawing</source>
-        <translation>SVG-Zeichnung</translation>
-    </message>
-    <message>
-        <source>PDF document</source>
-        <translation>PDF-Dokument</translation>
     </message>
     <message>
         <source>Format</source>
@@ -2246,14 +3121,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Öffnet einen Dialog zur Auswahl der Datei</translation>
     </message>
     <message>
-        <source> dpi</source>
-        <translation> dpi</translation>
-    </message>
-    <message>
-        <source>Resolution in dots per inch</source>
-        <translation>Auflösung in Punkten pro Zoll</translation>
-    </message>
-    <message>
         <source>&amp;Format</source>
         <translation>&amp;Format</translation>
     </message>
@@ -2262,20 +3129,12 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Date&amp;i</translation>
     </message>
     <message>
-        <source>Re&amp;solution</source>
-        <translation>Auf&amp;lösung</translation>
-    </message>
-    <message>
         <source>Records</source>
         <translation>Datensätze</translation>
     </message>
     <message>
         <source>&amp;Export</source>
         <translation>&amp;Exportieren</translation>
-    </message>
-    <message>
-        <source>One document of %1 pages.</source>
-        <translation>Ein Dokument mit %1 Seiten.</translation>
     </message>
     <message>
         <source>%1 files: %2 and so on.</source>
@@ -2289,24 +3148,50 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <source>“%1” exists already. Replace it?</source>
         <translation>„%1“ ist bereits vorhanden. Ersetzen?</translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>One file of %1 records.</source>
+        <translation>Eine Datei mit %1 Datensätzen.</translation>
+    </message>
 </context>
 <context>
-    <name>window::IssueListModel</name>
+    <name>window::ImportProcess</name>
     <message>
-        <source>%1 (%2 times)</source>
-        <translation>%1 (%2-mal)</translation>
+        <source>Cannot start the program “%1”: %2.</source>
+        <translation>Das Programm „%1“ kann nicht gestartet werden: %2.</translation>
     </message>
     <message>
-        <source>The label</source>
-        <translation>Das Etikett</translation>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Ein temporärer Ordner kann nicht angelegt werden: %1.</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Betrifft</translation>
+        <source>The import ended without a result.</source>
+        <translation>Der Import endete ohne Ergebnis.</translation>
+    </message>
+</context>
+<context>
+    <name>window::Issues</name>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n weiteres</numerusform>
+            <numerusform>%n weitere</numerusform>
+        </translation>
     </message>
     <message>
-        <source>What it is</source>
-        <translation>Beschreibung</translation>
+        <source>Not imported</source>
+        <translation>Nicht importiert</translation>
+    </message>
+    <message>
+        <source>Imported with changes</source>
+        <translation>Mit Änderungen importiert</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
     </message>
 </context>
 <context>
@@ -2316,8 +3201,28 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Probleme des Etiketts</translation>
     </message>
     <message>
-        <source>There is nothing to report.</source>
-        <translation>Es sind keine Probleme zu melden.</translation>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2-mal)</translation>
+    </message>
+    <message>
+        <source>Nothing was lost or changed.</source>
+        <translation>Nichts ging verloren oder wurde verändert.</translation>
+    </message>
+    <message>
+        <source>No label is open.</source>
+        <translation>Es ist kein Etikett geöffnet.</translation>
+    </message>
+    <message>
+        <source>Issue</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>What you can do</source>
+        <translation>Was Sie tun können</translation>
     </message>
 </context>
 <context>
@@ -2451,14 +3356,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Enden</translation>
     </message>
     <message>
-        <source>End, to the right</source>
-        <translation>Ende, nach rechts</translation>
-    </message>
-    <message>
-        <source>End, down</source>
-        <translation>Ende, nach unten</translation>
-    </message>
-    <message>
         <source>Mark at the start</source>
         <translation>Markierung am Anfang</translation>
     </message>
@@ -2477,10 +3374,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>Alignment</source>
         <translation>Ausrichtung</translation>
-    </message>
-    <message>
-        <source>Text box</source>
-        <translation>Textfeld</translation>
     </message>
     <message>
         <source>Fixed sides</source>
@@ -2547,16 +3440,8 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Hintergrund</translation>
     </message>
     <message>
-        <source>Option</source>
-        <translation>Option</translation>
-    </message>
-    <message>
         <source>Picture</source>
         <translation>Bild</translation>
-    </message>
-    <message>
-        <source>Picture size</source>
-        <translation>Bildgröße</translation>
     </message>
     <message>
         <source>no picture</source>
@@ -2605,6 +3490,70 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>%1 “%2”</source>
         <translation>%1 „%2“</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Text below the bars</source>
+        <translation>Text unter den Balken</translation>
+    </message>
+    <message>
+        <source>Blank margins</source>
+        <translation>Leere Ränder</translation>
+    </message>
+    <message>
+        <source>Bearer bars</source>
+        <translation>Trägerbalken</translation>
+    </message>
+    <message>
+        <source>Check digit or columns</source>
+        <translation>Prüfziffer oder Spalten</translation>
+    </message>
+    <message>
+        <source>Symbol size</source>
+        <translation>Symbolgröße</translation>
+    </message>
+    <message>
+        <source>Error correction</source>
+        <translation>Fehlerkorrektur</translation>
+    </message>
+    <message>
+        <source>Page width</source>
+        <translation>Seitenbreite</translation>
+    </message>
+    <message>
+        <source>Page height</source>
+        <translation>Seitenhöhe</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Page color</source>
+        <translation>Seitenfarbe</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>unknown (%1)</source>
+        <translation>unbekannt (%1)</translation>
+    </message>
+    <message>
+        <source>different values</source>
+        <translation>verschiedene Werte</translation>
     </message>
 </context>
 <context>
@@ -2666,11 +3615,42 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
 </context>
 <context>
-    <name>window::LabelSession</name>
+    <name>window::LabelListPanel</name>
     <message>
-        <source>The label could not be imported.</source>
-        <translation>Das Etikett konnte nicht importiert werden.</translation>
+        <source>Filter by name</source>
+        <translation>Nach Namen filtern</translation>
     </message>
+    <message>
+        <source>Filter by state</source>
+        <translation>Nach Zustand filtern</translation>
+    </message>
+    <message>
+        <source>All states</source>
+        <translation>Alle Zustände</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>Nach Namen</translation>
+    </message>
+    <message>
+        <source>By state</source>
+        <translation>Nach Zustand</translation>
+    </message>
+    <message>
+        <source>Labels of the folder</source>
+        <translation>Etiketten des Ordners</translation>
+    </message>
+    <message>
+        <source>%1 of %2 labels</source>
+        <translation>%1 von %2 Etiketten</translation>
+    </message>
+</context>
+<context>
+    <name>window::LabelSession</name>
     <message>
         <source>“%1” could not be saved.</source>
         <translation>„%1“ konnte nicht gespeichert werden.</translation>
@@ -2693,14 +3673,52 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
 </context>
 <context>
+    <name>window::LabelStates</name>
+    <message>
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Vollständig</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>With losses</source>
+        <translation>Mit Verlusten</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <translation>Bearbeitet</translation>
+    </message>
+</context>
+<context>
+    <name>window::Locks</name>
+    <message>
+        <source>%1 is read-only. To move it, clear “Read-only” in its properties.</source>
+        <translation>%1 ist schreibgeschützt. Um es zu verschieben, deaktivieren Sie „Schreibgeschützt“ in seinen Eigenschaften.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the background. To move it, clear “Background” in its properties.</source>
+        <translation>%1 gehört zum Hintergrund. Um es zu verschieben, deaktivieren Sie „Hintergrund“ in seinen Eigenschaften.</translation>
+    </message>
+    <message>
+        <source>%1 is locked. To move it, set “Movable” in its properties.</source>
+        <translation>%1 ist gesperrt. Um es zu verschieben, aktivieren Sie „Beweglich“ in seinen Eigenschaften.</translation>
+    </message>
+</context>
+<context>
     <name>window::Main</name>
     <message>
         <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
         <translation>Öffnet alte Etikettenvorlagen, zeigt sie an, speichert, exportiert und druckt sie.</translation>
-    </message>
-    <message>
-        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
-        <translation>Etikett, das geöffnet wird: *.label, *.cnv, *.roc, *.qmtx, *.odt oder *.odg.</translation>
     </message>
     <message>
         <source>Writes a picture of the window to a PNG file, and exits.</source>
@@ -2714,47 +3732,23 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         </translation>
     </message>
     <message>
-        <source>Cannot open &quot;%1&quot;: %2</source>
+        <source>Cannot open "%1": %2</source>
         <translation>„%1“ kann nicht geöffnet werden: %2</translation>
     </message>
     <message>
         <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
         <translation>Es kann kein Fenster angezeigt werden: Es gibt keinen Bildschirm. Setzen Sie DISPLAY oder WAYLAND_DISPLAY, oder verwenden Sie --screenshot.</translation>
     </message>
+    <message>
+        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or a folder of labels.</source>
+        <translation>Zu öffnendes Etikett: *.label, *.cnv, *.roc, *.qmtx, *.odt oder *.odg; oder ein Ordner mit Etiketten.</translation>
+    </message>
 </context>
 <context>
-    <name>window::MainWindow</name>
+    <name>window::ManualDialog</name>
     <message>
-        <source>LabelPort Workbench</source>
-        <translation>LabelPort Workbench</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Info</translation>
-    </message>
-    <message>
-        <source>LabelPort Workbench %1</source>
-        <translation>LabelPort Workbench %1</translation>
-    </message>
-    <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation>Öffnet alte Etikettenvorlagen, zeigt sie an, speichert sie und gibt sie weiter.</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation>Werkzeuge</translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation>Liste &amp;leeren</translation>
-    </message>
-    <message>
-        <source>A window holds one label: only the first file was opened.</source>
-        <translation>Ein Fenster zeigt ein Etikett: Nur die erste Datei wurde geöffnet.</translation>
+        <source>Manual</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -2803,15 +3797,113 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Der Druck wurde abgebrochen</translation>
     </message>
     <message>
-        <source>%1 pages were given to the printer</source>
-        <translation>%1 Seiten an den Drucker gesendet</translation>
+        <source>Print to PDF</source>
+        <translation>Als PDF drucken</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Cannot write "%1": %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Ein temporärer Ordner kann nicht angelegt werden: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) given to printer %1</source>
+        <translation>
+            <numerusform>%n Seite an Drucker %1 übergeben</numerusform>
+            <numerusform>%n Seiten an Drucker %1 übergeben</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>window::OutputJob</name>
+    <name>window::PagePreview</name>
     <message>
-        <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
-        <translation>Der Drucker hat die Seiten nicht angenommen. Prüfen Sie, ob er eingeschaltet und angeschlossen ist, oder geben Sie die Seiten mit „Exportieren“ in eine PDF-Datei aus.</translation>
+        <source>Preview of the page</source>
+        <translation>Vorschau der Seite</translation>
+    </message>
+</context>
+<context>
+    <name>window::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>PDF file</source>
+        <translation>PDF-Datei</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Pr&amp;inter</source>
+        <translation>&amp;Drucker</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Datensätze</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Exemplare</translation>
+    </message>
+    <message>
+        <source>Labels to print</source>
+        <translation>Zu druckende Etiketten</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <translation>&amp;Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Adds labels of other files to the print</source>
+        <translation>Fügt Etiketten anderer Dateien zum Druck hinzu</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Add Labels</source>
+        <translation>Etiketten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Labels (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;All files (*)</source>
+        <translation>Etiketten (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
     </message>
 </context>
 <context>
@@ -2845,30 +3937,6 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Nicht gespeicherte Änderungen gehen verloren.</translation>
     </message>
     <message>
-        <source>Save Imported Label</source>
-        <translation>Importiertes Etikett speichern</translation>
-    </message>
-    <message>
-        <source>“%1” exists already.</source>
-        <translation>„%1“ ist bereits vorhanden.</translation>
-    </message>
-    <message>
-        <source>The label was imported. It can replace that file, be saved under another name, or be saved later.</source>
-        <translation>Das Etikett wurde importiert. Sie können die vorhandene Datei ersetzen, das Etikett unter einem anderen Namen speichern oder es später speichern.</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>E&amp;rsetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Other Name…</source>
-        <translation>&amp;Anderer Name…</translation>
-    </message>
-    <message>
-        <source>Save &amp;Later</source>
-        <translation>&amp;Später speichern</translation>
-    </message>
-    <message>
         <source>Open Label</source>
         <translation>Etikett öffnen</translation>
     </message>
@@ -2879,6 +3947,21 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>LabelPort Workbench</source>
         <translation>LabelPort Workbench</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>window::PropertyDelegate</name>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter ends editing, Esc cancels it</source>
+        <translation>Strg+Eingabe beendet die Bearbeitung, Esc bricht sie ab</translation>
     </message>
 </context>
 <context>
@@ -2899,8 +3982,12 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
 <context>
     <name>window::PropertyPanel</name>
     <message>
-        <source>Properties of the selected item</source>
-        <translation>Eigenschaften des ausgewählten Objekts</translation>
+        <source>Properties of the selected items</source>
+        <translation>Eigenschaften der ausgewählten Objekte</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
     </message>
 </context>
 <context>
@@ -2935,6 +4022,37 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
 </context>
 <context>
+    <name>window::ReplacementFile</name>
+    <message>
+        <source>Replace Picture</source>
+        <translation>Bild ersetzen</translation>
+    </message>
+    <message>
+        <source>Cannot use "%1": %2</source>
+        <translation>„%1“ kann nicht verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>Das Bild ist zu groß.</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;All files (*)</source>
+        <translation>Bilder (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Replace Symbol</source>
+        <translation>Symbol ersetzen</translation>
+    </message>
+    <message>
+        <source>Drawings (*.svg);;All files (*)</source>
+        <translation>Zeichnungen (*.svg);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The file is not an SVG drawing, or it is too large.</source>
+        <translation>Die Datei ist keine SVG-Zeichnung, oder sie ist zu groß.</translation>
+    </message>
+</context>
+<context>
     <name>window::RuledCanvas</name>
     <message>
         <source>Change between millimeters and inches</source>
@@ -2954,6 +4072,108 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>Vertical ruler</source>
         <translation>Senkrechtes Lineal</translation>
+    </message>
+</context>
+<context>
+    <name>window::SelectionTool</name>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Größe ändern</translation>
+    </message>
+</context>
+<context>
+    <name>window::SheetEditor</name>
+    <message>
+        <source>%1 – %2 × %3 labels of %4 × %5 mm</source>
+        <translation>%1 – %2 × %3 Etiketten zu %4 × %5 mm</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Width of a label</source>
+        <translation>Breite eines Etiketts</translation>
+    </message>
+    <message>
+        <source>Height of a label</source>
+        <translation>Höhe eines Etiketts</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>Gap between columns</source>
+        <translation>Abstand der Spalten</translation>
+    </message>
+    <message>
+        <source>Gap between rows</source>
+        <translation>Abstand der Zeilen</translation>
+    </message>
+    <message>
+        <source>First free position</source>
+        <translation>Erste freie Position</translation>
+    </message>
+    <message>
+        <source>Crop &amp;marks</source>
+        <translation>S&amp;chnittmarken</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>P&amp;apier</translation>
+    </message>
+    <message>
+        <source>The label's own size (%1 × %2 mm)</source>
+        <translation>Die Größe des Etiketts (%1 × %2 mm)</translation>
+    </message>
+    <message>
+        <source>%1, as many labels as fit</source>
+        <translation>%1, so viele Etiketten wie möglich</translation>
+    </message>
+    <message>
+        <source>Sheet with the measures below</source>
+        <translation>Bogen mit den Maßen unten</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Columns, rows</source>
+        <translation>Spalten, Zeilen</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etikett</translation>
+    </message>
+    <message>
+        <source>Left, top margin</source>
+        <translation>Linker, oberer Rand</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Abstände</translation>
+    </message>
+    <message>
+        <source>&amp;First free position</source>
+        <translation>&amp;Erste freie Position</translation>
     </message>
 </context>
 <context>
@@ -3012,14 +4232,92 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
 </context>
 <context>
+    <name>window::SourceCommands</name>
+    <message>
+        <source>Connect CSV File</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Edit Data Source</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>window::SourceDialog</name>
+    <message>
+        <source>Shows</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>S&amp;tep</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Digits, with zeros in front</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Text &amp;before</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Text &amp;after</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Date and Time</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Date</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>List of Texts</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts, one on each line</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Texts</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>One text on each line; \n is a line break in a text.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 (%2 records)</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>window::SourcePanel</name>
     <message>
         <source>Data sources of the label</source>
         <translation>Datenquellen des Etiketts</translation>
-    </message>
-    <message>
-        <source>&amp;Record</source>
-        <translation>&amp;Datensatz</translation>
     </message>
     <message>
         <source>Number of the record that is shown</source>
@@ -3028,6 +4326,10 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>of %1</source>
         <translation>von %1</translation>
+    </message>
+    <message>
+        <source>Record &amp;number</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -3068,6 +4370,14 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <source>Shows now</source>
         <translation>Aktueller Wert</translation>
     </message>
+    <message>
+        <source>CSV file</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>window::StatusLine</name>
@@ -3078,6 +4388,18 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Zoom in percent of the printed size</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Whole label</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -3257,10 +4579,6 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <source>&amp;Open a Label…</source>
         <translation>Etikett &amp;öffnen…</translation>
     </message>
-    <message>
-        <source>&amp;Import a Legacy Label…</source>
-        <translation>Altes Etikett &amp;importieren…</translation>
-    </message>
 </context>
 <context>
     <name>window::WindowPanels</name>
@@ -3280,11 +4598,19 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <source>Issues</source>
         <translation>Meldungen</translation>
     </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
 </context>
 <context>
     <name>window::WindowPicture</name>
     <message>
-        <source>Cannot write &quot;%1&quot;.</source>
+        <source>Cannot write "%1".</source>
         <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
@@ -3303,7 +4629,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>%1: Der Inhalt endet mit einer falschen Prüfziffer%2.</translation>
     </message>
     <message>
-        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
+        <source>%1: the content does not go together with the barcode's settings%2.</source>
         <translation>%1: Der Inhalt ist nicht mit den Einstellungen des Barcodes vereinbar%2.</translation>
     </message>
     <message>
@@ -3319,7 +4645,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Für den Barcode reicht der Speicher nicht aus.</translation>
     </message>
     <message>
-        <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
+        <source>%1: the content needs a linear part, a "|" and a second part.</source>
         <translation>%1: Der Inhalt muss aus einem linearen Teil, einem „|“ und einem zweiten Teil bestehen.</translation>
     </message>
     <message>
@@ -3337,6 +4663,57 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>%1: there is no content to encode.</source>
         <translation>%1: Es ist kein Inhalt zum Kodieren vorhanden.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CsvTable</name>
+    <message>
+        <source>Line %1 has more than %2 columns.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Line %1 has text after a closing quotation mark.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The quotation mark that begins in line %1 is not closed.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Line %1 has %2 fields; the first line has %3.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file has more than %1 cells.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file has more than %1 bytes.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file is not a text in this encoding.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file has no records.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>"%1" is not a file.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Cannot open "%1": %2.</source>
+        <translation type="unfinished">„%1“ kann nicht geöffnet werden: %2. {1"?}</translation>
+    </message>
+    <message>
+        <source>Cannot read "%1": %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -3362,7 +4739,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Kein Etikett oder ein beschädigtes: Das XML ist in Zeile %2, Spalte %3 nicht wohlgeformt (%4).</translation>
     </message>
     <message>
-        <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
+        <source>The file is XML, but not a label: its root element is not "qmtx".</source>
         <translation>Die Datei ist XML, aber kein Etikett: Ihr Wurzelelement ist nicht „qmtx“.</translation>
     </message>
     <message>
@@ -3421,11 +4798,11 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Die Verknüpfung zeigt auf eine Datei, die nicht vorhanden ist.</translation>
     </message>
     <message>
-        <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
+        <source>The file is a zip package, as OpenDocument files are, but it was read as "%1". If it is an OpenDocument file, rename it so that it ends in ".odt" or ".odg", or use --reader %2.</source>
         <translation>Die Datei ist ein Zip-Paket wie OpenDocument-Dateien, wurde aber als „%1“ gelesen. Wenn sie eine OpenDocument-Datei ist, benennen Sie sie so um, dass sie auf „.odt“ oder „.odg“ endet, oder verwenden Sie --reader %2.</translation>
     </message>
     <message>
-        <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
+        <source>The file is XML, but it was read as "%1". If it is an XML label, rename it so that it ends in ".qmtx", or use --reader %2.</source>
         <translation>Die Datei ist XML, wurde aber als „%1“ gelesen. Wenn sie ein XML-Etikett ist, benennen Sie sie so um, dass sie auf „.qmtx“ endet, oder verwenden Sie --reader %2.</translation>
     </message>
     <message>
@@ -3436,7 +4813,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
 <context>
     <name>workbench::IssueWords</name>
     <message>
-        <source>Left out an object of the unknown type &quot;%1&quot;.</source>
+        <source>Left out an object of the unknown type "%1".</source>
         <translation>Ein Objekt des unbekannten Typs „%1“ wurde weggelassen.</translation>
     </message>
     <message>
@@ -3500,7 +4877,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Eine Zeichnung, die nicht umgewandelt werden kann, wurde weggelassen.</translation>
     </message>
     <message>
-        <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
+        <source>Text "%1" was stretched; its font size was %2 pt.</source>
         <translation>Der Text „%1“ war gestreckt; seine Schriftgröße war %2 pt.</translation>
     </message>
 </context>
@@ -3585,7 +4962,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
 <context>
     <name>workbench::PageExport</name>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <source>Cannot write "%1": %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
@@ -3612,7 +4989,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Für ein Bild von %1 mal %2 Pixeln reicht der Speicher nicht aus.</translation>
     </message>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <source>Cannot write "%1": %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>

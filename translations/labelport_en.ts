@@ -12,16 +12,6 @@
     </message>
 </context>
 <context>
-    <name>cli::ImportCommand</name>
-    <message numerus="yes">
-        <source>%n file(s) imported incompletely.</source>
-        <translation>
-            <numerusform>%n file imported incompletely.</numerusform>
-            <numerusform>%n files imported incompletely.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>cli::ImportReporter</name>
     <message numerus="yes">
         <source>%n file(s) imported.</source>
@@ -63,12 +53,32 @@
     </message>
 </context>
 <context>
+    <name>window::Issues</name>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n more</numerusform>
+            <numerusform>%n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>window::Main</name>
     <message numerus="yes">
         <source>A window shows one label, but %n files were given.</source>
         <translation>
             <numerusform>A window shows one label, but %n files were given.</numerusform>
             <numerusform>A window shows one label, but %n files were given.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::OutputCommands</name>
+    <message numerus="yes">
+        <source>%n page(s) given to printer %1</source>
+        <translation>
+            <numerusform>%n page given to printer %1</numerusform>
+            <numerusform>%n pages given to printer %1</numerusform>
         </translation>
     </message>
 </context>

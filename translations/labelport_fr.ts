@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation>LabelPort Workbench</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation type="unfinished">LabelPort Workbench %1</translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation type="unfinished">Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished">Fichiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished">Outils</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation type="unfinished">&amp;Vider la liste</translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation>Une fenêtre contient une étiquette : seul le premier fichier a été ouvert.</translation>
+    </message>
+    <message>
+        <source>There are no labels in “%1”.</source>
+        <translation>Il n’y a pas d’étiquettes dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>Cannot open “%1”: %2</source>
+        <translation>Impossible d’ouvrir « %1 » : %2</translation>
+    </message>
+</context>
+<context>
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
@@ -40,8 +83,8 @@
         <translation>Ancien fichier Tavrel %1</translation>
     </message>
     <message>
-        <source>Could not open file &quot;%1&quot; (%2).</source>
-        <translation>Impossible d’ouvrir le fichier «&#xa0;%1&#xa0;» (%2).</translation>
+        <source>Could not open file "%1" (%2).</source>
+        <translation>Impossible d’ouvrir le fichier « %1 » (%2).</translation>
     </message>
     <message>
         <source>Record</source>
@@ -73,7 +116,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message>
         <source>Invalid canvas file version (%1 != %2) in</source>
         <comment>Content of error message.</comment>
-        <translation>Version de fichier canvas non valide (%1&#xa0;!= %2) dans</translation>
+        <translation>Version de fichier canvas non valide (%1 != %2) dans</translation>
     </message>
     <message>
         <source>Load Error</source>
@@ -88,21 +131,21 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message>
         <source>Warning: Import issues.</source>
         <comment>Error message title.</comment>
-        <translation>Avertissement&#xa0;: problèmes d’importation.</translation>
+        <translation>Avertissement : problèmes d’importation.</translation>
     </message>
     <message>
         <source>:
 	Original font size: %1.</source>
         <comment>Content of error message.</comment>
-        <translation>&#xa0;:
-	Taille de police d’origine&#xa0;: %1.</translation>
+        <translation> :
+	Taille de police d’origine : %1.</translation>
     </message>
 </context>
 <context>
     <name>archive::Journal</name>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
-        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot write "%1": %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
     </message>
 </context>
 <context>
@@ -123,31 +166,31 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
 <context>
     <name>archive::Publish</name>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
-        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot write "%1": %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
     </message>
     <message>
         <source>a folder of that name exists</source>
         <translation>un dossier de ce nom existe</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
-        <translation>«&#xa0;%1&#xa0;» existe et n’a pas été écrit par labelport ou a été modifié depuis. Utilisez --force pour le remplacer.</translation>
+        <source>"%1" exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
+        <translation>« %1 » existe et n’a pas été écrit par labelport ou a été modifié depuis. Utilisez --force pour le remplacer.</translation>
     </message>
     <message>
-        <source>Cannot create folder &quot;%1&quot;: %2.</source>
-        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot create folder "%1": %2.</source>
+        <translation>Impossible de créer le dossier « %1 » : %2.</translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
-        <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
-        <translation>Un autre fichier d’entrée porte le même nom&#xa0;; les deux deviendraient «&#xa0;%1&#xa0;». Conservez leurs sous-dossiers avec --base ou utilisez des dossiers --output-dir différents.</translation>
+        <source>Another input has the same name; both would become "%1". Keep their subfolders with --base, or use different --output-dir folders.</source>
+        <translation>Un autre fichier d’entrée porte le même nom ; les deux deviendraient « %1 ». Conservez leurs sous-dossiers avec --base ou utilisez des dossiers --output-dir différents.</translation>
     </message>
     <message>
         <source>Cannot write the journal in the output folder; --resume will import some files again.</source>
-        <translation>Impossible d’écrire le journal dans le dossier de sortie&#xa0;; --resume importera de nouveau certains fichiers.</translation>
+        <translation>Impossible d’écrire le journal dans le dossier de sortie ; --resume importera de nouveau certains fichiers.</translation>
     </message>
     <message>
         <source>Cannot start the worker processes, or they exit at once. Try a larger --memory-limit.</source>
@@ -157,12 +200,12 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
 <context>
     <name>archive::StagingArea</name>
     <message>
-        <source>Cannot write to &quot;%1&quot;: %2.</source>
-        <translation>Impossible d’écrire dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot write to "%1": %2.</source>
+        <translation>Impossible d’écrire dans « %1 » : %2.</translation>
     </message>
     <message>
-        <source>Cannot create folder &quot;%1&quot;: %2.</source>
-        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot create folder "%1": %2.</source>
+        <translation>Impossible de créer le dossier « %1 » : %2.</translation>
     </message>
     <message>
         <source>a file of that name exists</source>
@@ -173,18 +216,18 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <name>archive::WorkerEnd</name>
     <message>
         <source>The file needs more than %1 MiB of memory; see --memory-limit.</source>
-        <translation>Le fichier nécessite plus de %1 Mio de mémoire&#xa0;; voir --memory-limit.</translation>
+        <translation>Le fichier nécessite plus de %1 Mio de mémoire ; voir --memory-limit.</translation>
     </message>
     <message numerus="yes">
         <source>The file made no progress for %n second(s); see --timeout.</source>
         <translation>
-            <numerusform>L’importation du fichier n’a pas progressé pendant %n seconde&#xa0;; voir --timeout.</numerusform>
-            <numerusform>L’importation du fichier n’a pas progressé pendant %n secondes&#xa0;; voir --timeout.</numerusform>
+            <numerusform>L’importation du fichier n’a pas progressé pendant %n seconde ; voir --timeout.</numerusform>
+            <numerusform>L’importation du fichier n’a pas progressé pendant %n secondes ; voir --timeout.</numerusform>
         </translation>
     </message>
     <message>
         <source>The worker process was killed twice; perhaps the machine is out of memory.</source>
-        <translation>Le processus de travail a été tué deux fois&#xa0;; la machine manque peut-être de mémoire.</translation>
+        <translation>Le processus de travail a été tué deux fois ; la machine manque peut-être de mémoire.</translation>
     </message>
     <message>
         <source>The import crashed twice (%1). If a larger --memory-limit does not help, please report the file.</source>
@@ -192,34 +235,38 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>The worker process sent an invalid reply twice; please report the file.</source>
-        <translation>Le processus de travail a envoyé deux fois une réponse non valide&#xa0;; signalez le fichier.</translation>
+        <translation>Le processus de travail a envoyé deux fois une réponse non valide ; signalez le fichier.</translation>
     </message>
     <message>
         <source>The worker process exited twice with status %1; please report the file.</source>
-        <translation>Le processus de travail s’est terminé deux fois avec le code %1&#xa0;; signalez le fichier.</translation>
+        <translation>Le processus de travail s’est terminé deux fois avec le code %1 ; signalez le fichier.</translation>
+    </message>
+    <message>
+        <source>The import was stopped twice because it tried something that its sandbox forbids. Do not trust the file, and please report it.</source>
+        <translation>L’importation a été arrêtée deux fois parce qu’elle a tenté une action que son bac à sable interdit. Ne faites pas confiance au fichier et signalez le problème.</translation>
     </message>
 </context>
 <context>
     <name>cli::ExistingOutput</name>
     <message>
-        <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
-        <translation>Un rapport est un fichier qui se termine par .json ou .html&#xa0;; «&#xa0;%1&#xa0;» n’est pas valide.</translation>
+        <source>A report is a file that ends in .json or .html, not "%1".</source>
+        <translation>Un rapport est un fichier qui se termine par .json ou .html ; « %1 » n’est pas valide.</translation>
     </message>
     <message>
-        <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
-        <translation>Le nom d’un rapport doit être en UTF-8 valide&#xa0;: «&#xa0;%1&#xa0;».</translation>
+        <source>The name of a report must be valid UTF-8: "%1".</source>
+        <translation>Le nom d’un rapport doit être en UTF-8 valide : « %1 ».</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; does not exist</source>
-        <translation>le dossier «&#xa0;%1&#xa0;» n’existe pas</translation>
+        <source>the folder "%1" does not exist</source>
+        <translation>le dossier « %1 » n’existe pas</translation>
     </message>
     <message>
-        <source>the folder &quot;%1&quot; is not writable</source>
-        <translation>le dossier «&#xa0;%1&#xa0;» n’est pas accessible en écriture</translation>
+        <source>the folder "%1" is not writable</source>
+        <translation>le dossier « %1 » n’est pas accessible en écriture</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
-        <translation>«&#xa0;%1&#xa0;» existe et n’est pas un rapport de labelport. Utilisez --force pour le remplacer.</translation>
+        <source>"%1" exists and is not a report of labelport. Use --force to overwrite it.</source>
+        <translation>« %1 » existe et n’est pas un rapport de labelport. Utilisez --force pour le remplacer.</translation>
     </message>
 </context>
 <context>
@@ -230,7 +277,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>2000016 to 2000024; newer ones are read as 2000024</source>
-        <translation>2000016 à 2000024&#xa0;; les plus récentes sont lues comme 2000024</translation>
+        <translation>2000016 à 2000024 ; les plus récentes sont lues comme 2000024</translation>
     </message>
     <message>
         <source>XML labels</source>
@@ -249,36 +296,16 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>étiquettes enregistrées par LabelPort</translation>
     </message>
     <message>
-        <source>1</source>
-        <translation>1</translation>
-    </message>
-    <message>
-        <source>picture</source>
-        <translation>image</translation>
-    </message>
-    <message>
-        <source>vector drawing</source>
-        <translation>dessin vectoriel</translation>
-    </message>
-    <message>
-        <source>document, a page for each record</source>
-        <translation>document, une page par enregistrement</translation>
-    </message>
-    <message>
-        <source>saved label, to open and edit again</source>
-        <translation>étiquette enregistrée, à rouvrir et modifier</translation>
-    </message>
-    <message>
         <source>Read (import, inspect):</source>
-        <translation>Lus (import, inspect)&#xa0;:</translation>
+        <translation>Lus (import, inspect) :</translation>
     </message>
     <message>
         <source>versions: %1</source>
-        <translation>versions&#xa0;: %1</translation>
+        <translation>versions : %1</translation>
     </message>
     <message>
         <source>Written (import --to):</source>
-        <translation>Écrits (import --to)&#xa0;:</translation>
+        <translation>Écrits (import --to) :</translation>
     </message>
     <message>
         <source>all versions (zipped)</source>
@@ -288,6 +315,26 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <source>formats takes no files.</source>
         <translation>formats n’accepte pas de fichiers.</translation>
     </message>
+    <message>
+        <source>1 and 2</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 × %2 labels of %3 × %4 mm</source>
+        <translation>%1 × %2 étiquettes de %3 × %4 mm</translation>
+    </message>
+    <message>
+        <source>Sheets (--sheet):</source>
+        <translation>Planches (--sheet) :</translation>
+    </message>
+    <message>
+        <source>plain paper, with as many labels as fit</source>
+        <translation>papier, avec autant d’étiquettes que possible</translation>
+    </message>
+    <message>
+        <source>Sandbox in which files are read, on this system: %1.</source>
+        <translation>Bac à sable dans lequel les fichiers sont lus, sur ce système : %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportCommand</name>
@@ -295,31 +342,28 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <source>Stopped. Repeat the command with --resume to continue.</source>
         <translation>Arrêté. Répétez la commande avec --resume pour continuer.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n file(s) imported incompletely.</source>
-        <translation>
-            <numerusform>%n fichier importé incomplètement.</numerusform>
-            <numerusform>%n fichiers importés incomplètement.</numerusform>
-        </translation>
-    </message>
     <message>
-        <source>Cannot search folder &quot;%1&quot;: %2.</source>
-        <translation>Impossible de parcourir le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot search folder "%1": %2.</source>
+        <translation>Impossible de parcourir le dossier « %1 » : %2.</translation>
     </message>
     <message>
         <source>No labels to import.</source>
         <translation>Aucune étiquette à importer.</translation>
     </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Impossible de créer un dossier temporaire : %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportInputs</name>
     <message>
-        <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
-        <translation>Impossible de lire la liste de fichiers «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot read the list of files "%1": %2.</source>
+        <translation>Impossible de lire la liste de fichiers « %1 » : %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a list of file names.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas une liste de noms de fichiers.</translation>
+        <source>"%1" is not a list of file names.</source>
+        <translation>« %1 » n’est pas une liste de noms de fichiers.</translation>
     </message>
 </context>
 <context>
@@ -329,20 +373,20 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>L’entrée standard peut être une étiquette ou une liste de fichiers, mais pas les deux.</translation>
     </message>
     <message>
-        <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
-        <translation>--%1 attend un nombre entier de %2 à %3, et non «&#xa0;%4&#xa0;».</translation>
+        <source>--%1 expects a whole number from %2 to %3, not "%4".</source>
+        <translation>--%1 attend un nombre entier de %2 à %3, et non « %4 ».</translation>
     </message>
     <message>
-        <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
-        <translation>Cible «&#xa0;%1&#xa0;» inconnue. Cibles prises en charge&#xa0;: %2.</translation>
+        <source>Unknown target "%1". Supported targets: %2.</source>
+        <translation>Cible « %1 » inconnue. Cibles prises en charge : %2.</translation>
     </message>
     <message>
-        <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
-        <translation>--records attend un nombre, une plage comme 3-12 ou 3-, ou all, et non «&#xa0;%1&#xa0;».</translation>
+        <source>--records expects a number, a range such as 3-12 or 3-, or all, not "%1".</source>
+        <translation>--records attend un nombre, une plage comme 3-12 ou 3-, ou all, et non « %1 ».</translation>
     </message>
     <message>
-        <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
-        <translation>--shard attend le numéro d’une partie et le nombre de parties, comme 3/8, et non «&#xa0;%1&#xa0;».</translation>
+        <source>--shard expects the number of a part and of all parts, such as 3/8, not "%1".</source>
+        <translation>--shard attend le numéro d’une partie et le nombre de parties, comme 3/8, et non « %1 ».</translation>
     </message>
     <message>
         <source>--memory-limit expects 0 or at least %1 MiB.</source>
@@ -364,12 +408,53 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <source>--base has no effect without --files-from or a named file in a subfolder of that folder.</source>
         <translation>--base est sans effet sans --files-from ou un fichier indiqué dans un sous-dossier de ce dossier.</translation>
     </message>
+    <message>
+        <source>"%1" ends in none of the targets' suffixes; specify one with --to: %2.</source>
+        <translation>« %1 » n’a le suffixe d’aucun format ; précisez-en un avec --to : %2.</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <extracomment>between the last two targets: "pdf or zpl"</extracomment>
+        <translation> ou </translation>
+    </message>
+    <message>
+        <source>--%1 expects one of %2 for the target %3, not "%4".</source>
+        <translation>--%1 attend une des valeurs %2 pour le format %3, et non « %4 ».</translation>
+    </message>
+    <message>
+        <source>--%1 has no effect without --to %2.</source>
+        <translation>--%1 n’a pas d’effet sans --to %2.</translation>
+    </message>
+    <message>
+        <source>--output and --%1 exclude each other.</source>
+        <translation>--output et --%1 s’excluent.</translation>
+    </message>
+    <message>
+        <source>--%1 prints on standard output, as --output - does.</source>
+        <translation>--%1 écrit sur la sortie standard, comme --output -.</translation>
+    </message>
+    <message>
+        <source>--output needs a file name, one input file and one target.</source>
+        <translation>--output exige un nom de fichier, un seul fichier d’entrée et un seul format.</translation>
+    </message>
+    <message>
+        <source>--json and --print0 exclude each other.</source>
+        <translation>--json et --print0 s’excluent.</translation>
+    </message>
+    <message>
+        <source>Unknown sheet "%1". "labelport formats" lists the sheets.</source>
+        <translation>Planche inconnue « %1 ». « labelport formats » liste les planches.</translation>
+    </message>
+    <message>
+        <source>--%1 has no effect without --sheet.</source>
+        <translation>--%1 n’a pas d’effet sans --sheet.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportReporter</name>
     <message>
         <source>Warning: %1</source>
-        <translation>Avertissement&#xa0;: %1</translation>
+        <translation>Avertissement : %1</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) imported.</source>
@@ -406,6 +491,18 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <source>%1 (%2 times)</source>
         <translation>%1 (%2 fois)</translation>
     </message>
+    <message>
+        <source>Page %1 could not be imported.</source>
+        <translation>La page %1 n’a pas pu être importée.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 pages were imported.</source>
+        <translation>Seules les %1 premières pages sur %2 ont été importées.</translation>
+    </message>
+    <message>
+        <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
+        <translation>Ce système n’a pas de bac à sable complet, comme l’exige --require-sandbox. Disponible : %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::InspectCommand</name>
@@ -421,8 +518,8 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
 <context>
     <name>cli::JobOptions</name>
     <message>
-        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
-        <translation>Lecteur «&#xa0;%1&#xa0;» inconnu. Lecteurs pris en charge&#xa0;: %2.</translation>
+        <source>Unknown reader "%1". Supported readers: %2.</source>
+        <translation>Lecteur « %1 » inconnu. Lecteurs pris en charge : %2.</translation>
     </message>
 </context>
 <context>
@@ -430,13 +527,28 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message numerus="yes">
         <source>The label has only %n record(s); record %1 does not exist.</source>
         <translation>
-            <numerusform>L’étiquette n’a que %n enregistrement&#xa0;; l’enregistrement %1 n’existe pas.</numerusform>
-            <numerusform>L’étiquette n’a que %n enregistrements&#xa0;; l’enregistrement %1 n’existe pas.</numerusform>
+            <numerusform>L’étiquette n’a que %n enregistrement ; l’enregistrement %1 n’existe pas.</numerusform>
+            <numerusform>L’étiquette n’a que %n enregistrements ; l’enregistrement %1 n’existe pas.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 records are more than the %2 that one command writes; select a range with --records.</source>
-        <translation>%1 enregistrements dépassent le maximum de %2 par commande&#xa0;; choisissez une plage avec --records.</translation>
+        <translation>%1 enregistrements dépassent le maximum de %2 par commande ; choisissez une plage avec --records.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::LossSummary</name>
+    <message>
+        <source>Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.</source>
+        <translation>Étiquettes importées complètement : %1, avec modifications : %2, avec pertes : %3, échecs : %4.</translation>
+    </message>
+    <message>
+        <source>All details: %1</source>
+        <translation>Tous les détails : %1</translation>
+    </message>
+    <message>
+        <source>All details: add --report report.html, or run labelport inspect on a file.</source>
+        <translation>Tous les détails : ajoutez --report report.html, ou lancez labelport inspect sur un fichier.</translation>
     </message>
 </context>
 <context>
@@ -449,13 +561,25 @@ LabelPort (*.label). Help of a command: labelport COMMAND --help
 
 Commands:
 </source>
-        <translation>Utilisation&#xa0;: labelport COMMANDE [ARGUMENT...]
+        <translation>Utilisation : labelport COMMANDE [ARGUMENT...]
 
 Importe d’anciens modèles d’étiquettes (*.cnv et *.roc, *.qmtx, *.odt et *.odg) et ouvre les
-étiquettes enregistrées par LabelPort (*.label). Aide d’une commande&#xa0;: labelport COMMANDE --help
+étiquettes enregistrées par LabelPort (*.label). Aide d’une commande : labelport COMMANDE --help
 
-Commandes&#xa0;:
+Commandes :
 </translation>
+    </message>
+    <message>
+        <source>No command given. See "labelport --help".</source>
+        <translation>Aucune commande indiquée. Voir « labelport --help ».</translation>
+    </message>
+    <message>
+        <source>Unknown command "%1".</source>
+        <translation>Commande « %1 » inconnue.</translation>
+    </message>
+    <message>
+        <source>Help: %1</source>
+        <translation>Aide : %1</translation>
     </message>
     <message>
         <source>
@@ -466,7 +590,9 @@ Examples:
   labelport import shelf.odg
   labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport print asset.label --printer zebra --records 1-40
   labelport inspect shelf.odg
+  labelport records asset.qmtx --to records.csv
   labelport trace shelf.odg
 
 Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
@@ -476,28 +602,18 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
   --help           afficher cette aide
   --version        afficher la version
 
-Exemples&#xa0;:
+Exemples :
   labelport import shelf.odg
   labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
+  labelport print asset.label --printer zebra --records 1-40
   labelport inspect shelf.odg
+  labelport records asset.qmtx --to records.csv
   labelport trace shelf.odg
 
-Code de retour&#xa0;: 0 succès, 1 échec d’un fichier, 2 utilisation incorrecte, 3 étiquette importée
+Code de retour : 0 succès, 1 échec d’un fichier, 2 utilisation incorrecte, 3 étiquette importée
 incomplètement (import --fail-on-loss), 130 arrêt par un signal.
 </translation>
-    </message>
-    <message>
-        <source>No command given. See &quot;labelport --help&quot;.</source>
-        <translation>Aucune commande indiquée. Voir «&#xa0;labelport --help&#xa0;».</translation>
-    </message>
-    <message>
-        <source>Unknown command &quot;%1&quot;.</source>
-        <translation>Commande «&#xa0;%1&#xa0;» inconnue.</translation>
-    </message>
-    <message>
-        <source>Help: %1</source>
-        <translation>Aide&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -508,7 +624,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Abort a file after this many seconds without progress; 0 for no limit (default: 60).</source>
-        <translation>Abandonner un fichier après ce nombre de secondes sans progression&#xa0;; 0 pour aucune limite (par défaut&#xa0;: 60).</translation>
+        <translation>Abandonner un fichier après ce nombre de secondes sans progression ; 0 pour aucune limite (par défaut : 60).</translation>
     </message>
     <message>
         <source>MiB</source>
@@ -516,7 +632,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Abort a file that uses more memory than this; 0 for no limit (default: 4096).</source>
-        <translation>Abandonner un fichier qui utilise plus de mémoire que cette valeur&#xa0;; 0 pour aucune limite (par défaut&#xa0;: 4096).</translation>
+        <translation>Abandonner un fichier qui utilise plus de mémoire que cette valeur ; 0 pour aucune limite (par défaut : 4096).</translation>
     </message>
     <message>
         <source>name</source>
@@ -524,15 +640,11 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Read files as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever their names. Default: by the suffix, or else by the content.</source>
-        <translation>Lire les fichiers comme tavrel (*.cnv, *.roc), orvanta (*.qmtx) ou opendocument (*.odt, *.odg), quel que soit leur nom. Par défaut&#xa0;: d’après le suffixe, sinon d’après le contenu.</translation>
+        <translation>Lire les fichiers comme tavrel (*.cnv, *.roc), orvanta (*.qmtx) ou opendocument (*.odt, *.odg), quel que soit leur nom. Par défaut : d’après le suffixe, sinon d’après le contenu.</translation>
     </message>
     <message>
         <source>targets</source>
         <translation>cibles</translation>
-    </message>
-    <message>
-        <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
-        <translation>Formats à écrire&#xa0;: png, svg, pdf, label&#xa0;; plusieurs séparés par des virgules (par défaut&#xa0;: png).</translation>
     </message>
     <message>
         <source>folder</source>
@@ -540,23 +652,15 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Folder to write to; created if missing (default: the current folder). Subfolders of an imported folder are kept.</source>
-        <translation>Dossier de sortie&#xa0;; créé s’il n’existe pas (par défaut&#xa0;: le dossier actuel). Les sous-dossiers d’un dossier importé sont conservés.</translation>
+        <translation>Dossier de sortie ; créé s’il n’existe pas (par défaut : le dossier actuel). Les sous-dossiers d’un dossier importé sont conservés.</translation>
     </message>
     <message>
         <source>number</source>
         <translation>nombre</translation>
     </message>
     <message>
-        <source>Resolution of pictures in dots per inch, 10 to 2400 (default: 300).</source>
-        <translation>Résolution des images en points par pouce, de 10 à 2400 (par défaut&#xa0;: 300).</translation>
-    </message>
-    <message>
         <source>range</source>
         <translation>plage</translation>
-    </message>
-    <message>
-        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page for each record.</source>
-        <translation>Enregistrements des sources de données de l’étiquette&#xa0;: un nombre, une plage comme 3-12 ou 3-, ou all (par défaut&#xa0;: le premier). Les images d’une plage sont numérotées&#xa0;; un PDF a une page par enregistrement.</translation>
     </message>
     <message>
         <source>Overwrite files that labelport did not write, and edited labels.</source>
@@ -568,7 +672,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
-        <translation>Importer aussi les fichiers nommés dans cette liste, un nom par ligne ou séparés par NUL&#xa0;; - est l’entrée standard.</translation>
+        <translation>Importer aussi les fichiers nommés dans cette liste, un nom par ligne ou séparés par NUL ; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
@@ -580,7 +684,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Files to import at the same time (default: one for each processor core).</source>
-        <translation>Nombre de fichiers à importer en même temps (par défaut&#xa0;: un par cœur de processeur).</translation>
+        <translation>Nombre de fichiers à importer en même temps (par défaut : un par cœur de processeur).</translation>
     </message>
     <message>
         <source>Skip files that an earlier command with the same options imported, if they and their outputs are unchanged.</source>
@@ -600,7 +704,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Write a report on all files, as .json or .html; may be given several times.</source>
-        <translation>Écrire un rapport sur tous les fichiers, en .json ou .html&#xa0;; peut être indiqué plusieurs fois.</translation>
+        <translation>Écrire un rapport sur tous les fichiers, en .json ou .html ; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Exit with status 3 if a label was not imported completely.</source>
@@ -620,7 +724,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Report to write, as .json or .html; may be given several times.</source>
-        <translation>Rapport à écrire, en .json ou .html&#xa0;; peut être indiqué plusieurs fois.</translation>
+        <translation>Rapport à écrire, en .json ou .html ; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Overwrite files that are not reports of labelport.</source>
@@ -635,40 +739,6 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
         <translation>Afficher la version.</translation>
     </message>
     <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
-and writes them as pictures, drawings, documents or saved labels. A folder is searched with
-its subfolders for files with these suffixes. The files written are listed on standard
-output, in the order of the names of the inputs.
-
-Examples:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import -
-
-Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
-imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation>Importe d’anciennes étiquettes (*.cnv, *.roc, *.qmtx, *.odt, *.odg), ouvre des étiquettes
-enregistrées (*.label) et les écrit en images, dessins, documents ou étiquettes. Les fichiers
-portant ces suffixes sont cherchés dans les dossiers et leurs sous-dossiers. Les fichiers
-écrits sont listés sur la sortie standard, dans l’ordre des noms des fichiers d’entrée.
-
-Exemples&#xa0;:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import -
-
-Code de retour&#xa0;: 0 tous les fichiers importés, 1 échec d’un fichier, 2 utilisation incorrecte,
-3 étiquette importée incomplètement (avec --fail-on-loss), 130 arrêt par un signal.</translation>
-    </message>
-    <message>
         <source>Shows what one label contains, and what of it is imported. Writes no files.
 
 Examples:
@@ -677,7 +747,7 @@ Examples:
   labelport inspect shelf.odg --json | jq .lost</source>
         <translation>Affiche le contenu d’une étiquette et ce qui en est importé. N’écrit aucun fichier.
 
-Exemples&#xa0;:
+Exemples :
   labelport inspect shelf.odg
   labelport inspect - --reader orvanta &lt; shelf.xml
   labelport inspect shelf.odg --json | jq .lost</translation>
@@ -692,21 +762,9 @@ Examples:
         <translation>Fusionne les rapports JSON de plusieurs importations en un rapport identique à celui d’une
 seule importation de tous les fichiers.
 
-Exemples&#xa0;:
+Exemples :
   labelport report merge part-1.json part-2.json --to all.html
   labelport report merge part-*.json --to all.json --to all.html</translation>
-    </message>
-    <message>
-        <source>Lists the formats that labelport reads, with their versions, and the formats that it writes.
-
-Examples:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
-        <translation>Liste les formats que labelport lit, avec leurs versions, et les formats qu’il écrit.
-
-Exemples&#xa0;:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
@@ -720,7 +778,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Label or folder of labels to import; - is standard input.</source>
-        <translation>Étiquette ou dossier d’étiquettes à importer&#xa0;; - est l’entrée standard.</translation>
+        <translation>Étiquette ou dossier d’étiquettes à importer ; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>show what a label contains</source>
@@ -728,7 +786,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Label to inspect; - is standard input.</source>
-        <translation>Étiquette à inspecter&#xa0;; - est l’entrée standard.</translation>
+        <translation>Étiquette à inspecter ; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>merge the reports of several imports</source>
@@ -748,18 +806,218 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation>Étiquette à importer&#xa0;; - est l’entrée standard.</translation>
+        <translation>Étiquette à importer ; - est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
+and writes them as pictures, drawings, documents or saved labels. A folder is searched with
+its subfolders for files with these suffixes. The files written are listed on standard
+output, in the order of the names of the inputs.
+
+Examples:
+  labelport import shelf.odg
+  labelport import shelf.odg -o label.svg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
+
+Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
+imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation>Importe d’anciennes étiquettes (*.cnv, *.roc, *.qmtx, *.odt, *.odg), ouvre des étiquettes
+enregistrées (*.label) et les écrit en images, dessins, documents ou étiquettes. Les fichiers
+portant ces suffixes sont cherchés dans les dossiers et leurs sous-dossiers. Les fichiers
+écrits sont listés sur la sortie standard, dans l’ordre des noms des fichiers d’entrée.
+
+Exemples :
+  labelport import shelf.odg
+  labelport import shelf.odg -o label.svg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
+
+Code de retour : 0 tous les fichiers importés, 1 échec d’un fichier, 2 utilisation incorrecte,
+3 étiquette importée incomplètement (avec --fail-on-loss), 130 arrêt par un signal.</translation>
+    </message>
+    <message>
+        <source>Prints labels through CUPS, each on paper of its own size, or on sheets. All labels of the
+same paper are one job of the printer. If a label cannot be printed, nothing is. The
+identifiers of the jobs are listed on standard output.
+
+Examples:
+  labelport print asset.label --printer zebra --records 1-40 --copies 2
+  labelport print new/*.label --sheet L7160 --first-position 5
+
+Exit status: 0 printed, 1 a label or the printer failed, 2 wrong usage.</source>
+        <translation>Imprime des étiquettes par CUPS, chacune sur du papier à sa taille, ou sur des planches. Toutes
+les étiquettes d’un même papier forment une seule tâche. Si une étiquette ne peut pas être
+imprimée, rien ne l’est. Les identifiants des tâches sont listés sur la sortie standard.
+
+Exemples :
+  labelport print asset.label --printer zebra --records 1-40 --copies 2
+  labelport print new/*.label --sheet L7160 --first-position 5
+
+Code de retour : 0 imprimé, 1 échec d’une étiquette ou de l’imprimante, 2 utilisation incorrecte.</translation>
+    </message>
+    <message>
+        <source>Lists what each item shows that is bound to a data source (a counter, a list, a date), as
+a CSV table: a line for each record, a column for each item.
+
+Examples:
+  labelport records asset.qmtx --to records.csv
+  labelport records asset.label --records 1-50 | column -t -s ,</source>
+        <translation>Liste ce qu’affiche chaque objet lié à une source de données (compteur, liste, date), en table
+CSV : une ligne par enregistrement, une colonne par objet.
+
+Exemples :
+  labelport records asset.qmtx --to records.csv
+  labelport records asset.label --records 1-50 | column -t -s ,</translation>
+    </message>
+    <message>
+        <source>Lists the formats that labelport reads, with their versions, the formats that it writes, and the
+sheets for --sheet.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r '.readers[].suffixes[]'</source>
+        <translation>Liste les formats que labelport lit, avec leurs versions, les formats qu’il écrit et les planches
+pour --sheet.
+
+Exemples :
+  labelport formats
+  labelport formats --json | jq -r '.readers[].suffixes[]'</translation>
+    </message>
+    <message>
+        <source>Import nothing unless the files are read in a complete sandbox; see "labelport formats".</source>
+        <translation>N’importer que si les fichiers sont lus dans un bac à sable complet ; voir « labelport formats ».</translation>
+    </message>
+    <message>
+        <source>Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other plain paper; see labelport formats. Default: paper of the label's size.</source>
+        <translation>Placer les étiquettes sur des planches : L7160, 5160 et autres, ou du papier A4, Letter et autres ; voir labelport formats. Par défaut : papier à la taille de l’étiquette.</translation>
+    </message>
+    <message>
+        <source>First free label of the first sheet, counted from 1 along the rows (default: 1).</source>
+        <translation>Première étiquette libre de la première planche, comptée à partir de 1 le long des lignes (par défaut : 1).</translation>
+    </message>
+    <message>
+        <source>Copies of each record, one after the other, in documents, printer files and prints (default: 1).</source>
+        <translation>Exemplaires de chaque enregistrement, l’un après l’autre, dans les documents, fichiers d’imprimante et impressions (par défaut : 1).</translation>
+    </message>
+    <message>
+        <source>Print marks on the edges of sheets that show where to cut.</source>
+        <translation>Imprimer des traits de coupe sur les bords des planches.</translation>
+    </message>
+    <message>
+        <source>Import OpenDocument files without repairing them first.</source>
+        <translation>Importer les fichiers OpenDocument sans les réparer d’abord.</translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, zpl, csv, label; several with commas (default: png).</source>
+        <translation>Formats à écrire : png, svg, pdf, zpl, csv, label ; plusieurs séparés par des virgules (par défaut : png).</translation>
+    </message>
+    <message>
+        <source>File to write the only input to; - is standard output. Without --to, its suffix selects the target.</source>
+        <translation>Fichier dans lequel écrire l’unique entrée ; - est la sortie standard. Sans --to, son suffixe choisit le format.</translation>
+    </message>
+    <message>
+        <source>Resolution of pictures in dots per inch, 10 to 2400; of a label printer 203, 300 or 600 (default: 300).</source>
+        <translation>Résolution des images en points par pouce, de 10 à 2400 ; d’une imprimante d’étiquettes 203, 300 ou 600 (par défaut : 300).</translation>
+    </message>
+    <message>
+        <source>Records of the label's data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page and a printer file one label for each record.</source>
+        <translation>Enregistrements des sources de données de l’étiquette : un nombre, une plage comme 3-12 ou 3-, ou all (par défaut : le premier). Les images d’une plage sont numérotées ; un PDF a une page et un fichier d’imprimante une étiquette par enregistrement.</translation>
+    </message>
+    <message>
+        <source>Let the label printer draw barcodes and lines where it can, and advance counters. Otherwise labels are pictures and exact.</source>
+        <translation>Laisser l’imprimante dessiner les codes-barres et les lignes si possible, et faire avancer les compteurs. Sinon, les étiquettes sont des images exactes.</translation>
+    </message>
+    <message>
+        <source>Print an event in JSON for each file, instead of the names of the files written.</source>
+        <translation>Écrire un événement JSON par fichier, au lieu des noms des fichiers écrits.</translation>
+    </message>
+    <message>
+        <source>Printer to use; lpstat -e lists all (default: the default printer).</source>
+        <translation>Imprimante à utiliser ; lpstat -e les liste toutes (par défaut : l’imprimante par défaut).</translation>
+    </message>
+    <message>
+        <source>Records of the labels' data sources: a number, a range such as 3-12 or 3-, or all (default: the first).</source>
+        <translation>Enregistrements des sources de données des étiquettes : un nombre, une plage comme 3-12 ou 3-, ou all (par défaut : le premier).</translation>
+    </message>
+    <message>
+        <source>CSV file to write; - is standard output (default: -).</source>
+        <translation>Fichier CSV à écrire ; - est la sortie standard (par défaut : -).</translation>
+    </message>
+    <message>
+        <source>Records to list: a number, a range such as 3-12 or 3-, or all (default: all).</source>
+        <translation>Enregistrements à lister : un nombre, une plage comme 3-12 ou 3-, ou all (par défaut : all).</translation>
+    </message>
+    <message>
+        <source>Overwrite an existing file.</source>
+        <translation>Remplacer un fichier existant.</translation>
+    </message>
+    <message>
+        <source>print labels</source>
+        <translation>imprimer des étiquettes</translation>
+    </message>
+    <message>
+        <source>Label to print; - is standard input.</source>
+        <translation>Étiquette à imprimer ; - est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>list what bound items show</source>
+        <translation>lister ce qu’affichent les objets liés</translation>
+    </message>
+    <message>
+        <source>Label to read; - is standard input.</source>
+        <translation>Étiquette à lire ; - est l’entrée standard.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::PrintCommand</name>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Impossible de créer un dossier temporaire : %1.</translation>
+    </message>
+    <message>
+        <source>Cannot print: %1</source>
+        <translation>Impossible d’imprimer : %1</translation>
+    </message>
+    <message>
+        <source>No file to print.</source>
+        <translation>Aucun fichier à imprimer.</translation>
+    </message>
+    <message>
+        <source>Standard input can be given only once.</source>
+        <translation>L’entrée standard ne peut être indiquée qu’une fois.</translation>
+    </message>
+</context>
+<context>
+    <name>cli::RecordsCommand</name>
+    <message>
+        <source>records needs exactly one file.</source>
+        <translation>records exige exactement un fichier.</translation>
+    </message>
+    <message>
+        <source>--to needs a file name.</source>
+        <translation>--to exige un nom de fichier.</translation>
     </message>
 </context>
 <context>
     <name>cli::ReportCommand</name>
     <message>
         <source>No command given: labelport report merge REPORT.json... --to FILE</source>
-        <translation>Aucune commande indiquée&#xa0;: labelport report merge RAPPORT.json... --to FICHIER</translation>
+        <translation>Aucune commande indiquée : labelport report merge RAPPORT.json... --to FICHIER</translation>
     </message>
     <message>
-        <source>Unknown command &quot;report %1&quot;.</source>
-        <translation>Commande «&#xa0;report %1&#xa0;» inconnue.</translation>
+        <source>Unknown command "report %1".</source>
+        <translation>Commande « report %1 » inconnue.</translation>
     </message>
     <message>
         <source>Specify the reports to merge, and the output file with --to.</source>
@@ -769,15 +1027,15 @@ en JSON Lines, puis l’état final des objets.</translation>
 <context>
     <name>cli::TraceCommand</name>
     <message>
-        <source>Cannot run &quot;%1&quot;: %2.</source>
-        <translation>Impossible d’exécuter «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot run "%1": %2.</source>
+        <translation>Impossible d’exécuter « %1 » : %2.</translation>
     </message>
 </context>
 <context>
     <name>console::CommandLine</name>
     <message>
-        <source>Unknown option &quot;%1&quot;.</source>
-        <translation>Option «&#xa0;%1&#xa0;» inconnue.</translation>
+        <source>Unknown option "%1".</source>
+        <translation>Option « %1 » inconnue.</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -785,33 +1043,238 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Help: %1 --help</source>
-        <translation>Aide&#xa0;: %1 --help</translation>
+        <translation>Aide : %1 --help</translation>
     </message>
     <message>
-        <source>Did you mean &quot;%1&quot;?</source>
-        <translation>Vouliez-vous dire «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <source>Did you mean "%1"?</source>
+        <translation>Vouliez-vous dire « %1 » ?</translation>
     </message>
 </context>
 <context>
     <name>console::Output</name>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation>Impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
+        <translation>Impossible d’écrire sur la sortie standard : %1.</translation>
+    </message>
+    <message>
+        <source>Cannot read "%1": %2.</source>
+        <translation>Impossible de lire « %1 » : %2.</translation>
     </message>
 </context>
 <context>
     <name>console::StandardInput</name>
     <message>
         <source>Cannot copy standard input to a temporary file: %1.</source>
-        <translation>Impossible de copier l’entrée standard dans un fichier temporaire&#xa0;: %1.</translation>
+        <translation>Impossible de copier l’entrée standard dans un fichier temporaire : %1.</translation>
     </message>
     <message>
         <source>Cannot read standard input: %1.</source>
-        <translation>Impossible de lire l’entrée standard&#xa0;: %1.</translation>
+        <translation>Impossible de lire l’entrée standard : %1.</translation>
     </message>
     <message>
         <source>Standard input is longer than any label.</source>
         <translation>L’entrée standard est trop longue pour une étiquette.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::ExportFile</name>
+    <message>
+        <source>Cannot write "%1": %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Glabels</name>
+    <message>
+        <source>Only the first records are in the CSV file.</source>
+        <translation>Le fichier CSV ne contient que les premiers enregistrements.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such shape.</source>
+        <translation>gLabels n’a pas cette forme.</translation>
+    </message>
+    <message>
+        <source>gLabels has no gradients and no hatches.</source>
+        <translation>gLabels n’a ni dégradés ni hachures.</translation>
+    </message>
+    <message>
+        <source>gLabels has no dashed lines.</source>
+        <translation>gLabels n’a pas de lignes pointillées.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round or beveled corners.</source>
+        <translation>gLabels n’a pas de coins arrondis ou biseautés.</translation>
+    </message>
+    <message>
+        <source>gLabels has no arrows.</source>
+        <translation>gLabels n’a pas de flèches.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round line ends.</source>
+        <translation>gLabels n’a pas d’extrémités de ligne arrondies.</translation>
+    </message>
+    <message>
+        <source>A large picture was scaled down.</source>
+        <translation>Une grande image a été réduite.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such text format.</source>
+        <translation>gLabels n’a pas ce format de texte.</translation>
+    </message>
+    <message>
+        <source>The content cannot be encoded.</source>
+        <translation>Le contenu ne peut pas être encodé.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode: it shows the first record only.</source>
+        <translation>gLabels n’encode pas ce code-barres : il ne montre que le premier enregistrement.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode.</source>
+        <translation>gLabels n’encode pas ce code-barres.</translation>
+    </message>
+    <message>
+        <source>gLabels cannot encode some of the records.</source>
+        <translation>gLabels ne peut pas encoder certains enregistrements.</translation>
+    </message>
+    <message>
+        <source>It shows the first record only.</source>
+        <translation>Il ne montre que le premier enregistrement.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Targets</name>
+    <message>
+        <source>Re&amp;solution</source>
+        <translation>&amp;Résolution</translation>
+    </message>
+    <message>
+        <source>resolution in dots per inch</source>
+        <translation>résolution en points par pouce</translation>
+    </message>
+    <message>
+        <source>dpi</source>
+        <translation>ppp</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Exemplaires</translation>
+    </message>
+    <message>
+        <source>copies of each record</source>
+        <translation>exemplaires de chaque enregistrement</translation>
+    </message>
+    <message>
+        <source>&amp;Sheet</source>
+        <translation>&amp;Planche</translation>
+    </message>
+    <message>
+        <source>sheet of labels, or paper</source>
+        <translation>planche d’étiquettes, ou papier</translation>
+    </message>
+    <message>
+        <source>First &amp;label</source>
+        <translation>Première é&amp;tiquette</translation>
+    </message>
+    <message>
+        <source>first free label of the first sheet</source>
+        <translation>première étiquette libre de la première planche</translation>
+    </message>
+    <message>
+        <source>C&amp;rop marks</source>
+        <translation>T&amp;raits de coupe</translation>
+    </message>
+    <message>
+        <source>marks on sheets that show where to cut</source>
+        <translation>marques sur les planches indiquant où couper</translation>
+    </message>
+    <message>
+        <source>&amp;Printer resolution</source>
+        <translation>Résolution de l’i&amp;mprimante</translation>
+    </message>
+    <message>
+        <source>resolution of the label printer</source>
+        <translation>résolution de l’imprimante d’étiquettes</translation>
+    </message>
+    <message>
+        <source>&amp;Barcodes, lines and counters by the printer</source>
+        <translation>&amp;Codes-barres, lignes et compteurs par l’imprimante</translation>
+    </message>
+    <message>
+        <source>let the printer draw barcodes and lines, and advance counters</source>
+        <translation>laisser l’imprimante dessiner codes-barres et lignes, et faire avancer les compteurs</translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation>Image PNG</translation>
+    </message>
+    <message>
+        <source>PNG pictures</source>
+        <translation>Images PNG</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>image</translation>
+    </message>
+    <message>
+        <source>SVG drawing</source>
+        <translation>Dessin SVG</translation>
+    </message>
+    <message>
+        <source>SVG drawings</source>
+        <translation>Dessins SVG</translation>
+    </message>
+    <message>
+        <source>vector drawing</source>
+        <translation>dessin vectoriel</translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation>Document PDF</translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation>Documents PDF</translation>
+    </message>
+    <message>
+        <source>document, a page for each record</source>
+        <translation>document, une page par enregistrement</translation>
+    </message>
+    <message>
+        <source>ZPL for label printers</source>
+        <translation>ZPL pour imprimantes d’étiquettes</translation>
+    </message>
+    <message>
+        <source>Printer files</source>
+        <translation>Fichiers d’imprimante</translation>
+    </message>
+    <message>
+        <source>commands for a label printer, a label for each record</source>
+        <translation>commandes pour une imprimante d’étiquettes, une étiquette par enregistrement</translation>
+    </message>
+    <message>
+        <source>CSV table of records</source>
+        <translation>Table CSV des enregistrements</translation>
+    </message>
+    <message>
+        <source>CSV tables</source>
+        <translation>Tables CSV</translation>
+    </message>
+    <message>
+        <source>table of what bound items show, a line for each record</source>
+        <translation>table de ce qu’affichent les objets liés, une ligne par enregistrement</translation>
+    </message>
+    <message>
+        <source>LabelPort label</source>
+        <translation>Étiquette LabelPort</translation>
+    </message>
+    <message>
+        <source>LabelPort labels</source>
+        <translation>Étiquettes LabelPort</translation>
+    </message>
+    <message>
+        <source>saved label, to open and edit again</source>
+        <translation>étiquette enregistrée, à rouvrir et modifier</translation>
     </message>
 </context>
 <context>
@@ -896,6 +1359,14 @@ en JSON Lines, puis l’état final des objets.</translation>
         <source>a known status</source>
         <translation>un état connu</translation>
     </message>
+    <message>
+        <source>a list of whole numbers</source>
+        <translation>une liste de nombres entiers</translation>
+    </message>
+    <message>
+        <source>a list of rectangles</source>
+        <translation>une liste de rectangles</translation>
+    </message>
 </context>
 <context>
     <name>migration::Census</name>
@@ -917,7 +1388,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>The file is damaged, so its objects cannot be counted: %1.</source>
-        <translation>Impossible de compter les objets du fichier, car il est endommagé&#xa0;: %1.</translation>
+        <translation>Impossible de compter les objets du fichier, car il est endommagé : %1.</translation>
     </message>
     <message>
         <source>The file continues with unknown data, which may contain more objects.</source>
@@ -925,7 +1396,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>The file is truncated: it may have contained more objects.</source>
-        <translation>Le fichier est tronqué&#xa0;: il contenait peut-être d’autres objets.</translation>
+        <translation>Le fichier est tronqué : il contenait peut-être d’autres objets.</translation>
     </message>
     <message>
         <source>The file is not a binary label of a supported version.</source>
@@ -978,17 +1449,21 @@ en JSON Lines, puis l’état final des objets.</translation>
         <source>Imported with changes</source>
         <translation>Importés avec modifications</translation>
     </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Réparé</translation>
+    </message>
+    <message>
+        <source>Show a larger picture</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The document's own picture of %1</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>migration::HtmlPage</name>
-    <message>
-        <source>with losses</source>
-        <translation>avec pertes</translation>
-    </message>
-    <message>
-        <source>not imported</source>
-        <translation>non importés</translation>
-    </message>
     <message>
         <source>What was lost or changed</source>
         <translation>Ce qui a été perdu ou modifié</translation>
@@ -1012,10 +1487,6 @@ en JSON Lines, puis l’état final des objets.</translation>
     <message>
         <source>all</source>
         <translation>tous</translation>
-    </message>
-    <message>
-        <source>imported</source>
-        <translation>importés</translation>
     </message>
     <message>
         <source>as imported</source>
@@ -1074,20 +1545,12 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>fr</translation>
     </message>
     <message>
-        <source>imported completely</source>
-        <translation>importés complètement</translation>
-    </message>
-    <message>
-        <source>changed in looks, nothing lost</source>
-        <translation>aspect modifié, aucune perte</translation>
-    </message>
-    <message>
         <source>Imported %1 of %2 objects in these files.</source>
         <translation>%1 objets sur %2 importés dans ces fichiers.</translation>
     </message>
     <message>
         <source>Files whose objects could not be counted: %1.</source>
-        <translation>Fichiers dont les objets n’ont pas pu être comptés&#xa0;: %1.</translation>
+        <translation>Fichiers dont les objets n’ont pas pu être comptés : %1.</translation>
     </message>
     <message>
         <source>most lost objects first</source>
@@ -1104,6 +1567,30 @@ en JSON Lines, puis l’état final des objets.</translation>
     <message>
         <source>%1 of %2 files imported completely</source>
         <translation>%1 fichiers sur %2 importés complètement</translation>
+    </message>
+    <message>
+        <source>Files that were read without a complete sandbox: %1.</source>
+        <translation>Fichiers lus sans bac à sable complet : %1.</translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation>plantage</translation>
+    </message>
+    <message>
+        <source>timed out</source>
+        <translation>délai dépassé</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>Larger picture</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -1138,31 +1625,43 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Page: %1 × %2 mm</source>
-        <translation>Page&#xa0;: %1 × %2 mm</translation>
+        <translation>Page : %1 × %2 mm</translation>
     </message>
     <message>
         <source>Data sources:</source>
-        <translation>Sources de données&#xa0;:</translation>
+        <translation>Sources de données :</translation>
     </message>
     <message>
         <source>Items (millimeters):</source>
-        <translation>Objets (millimètres)&#xa0;:</translation>
+        <translation>Objets (millimètres) :</translation>
     </message>
     <message>
         <source>Imported completely:</source>
-        <translation>Importés complètement&#xa0;:</translation>
+        <translation>Importés complètement :</translation>
     </message>
     <message>
         <source>Imported with changes:</source>
-        <translation>Importés avec modifications&#xa0;:</translation>
+        <translation>Importés avec modifications :</translation>
     </message>
     <message>
         <source>Not imported:</source>
-        <translation>Non importés&#xa0;:</translation>
+        <translation>Non importés :</translation>
     </message>
     <message>
         <source>Warnings:</source>
-        <translation>Avertissements&#xa0;:</translation>
+        <translation>Avertissements :</translation>
+    </message>
+    <message>
+        <source>Sandbox: %1</source>
+        <translation>Bac à sable : %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>Repaired:</source>
+        <translation>Réparé :</translation>
     </message>
 </context>
 <context>
@@ -1180,35 +1679,19 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Objects on the second and later pages were left out: a label has one page.</source>
-        <translation>Des objets de la deuxième page et des suivantes ont été omis&#xa0;: une étiquette n’a qu’une page.</translation>
+        <translation>Des objets de la deuxième page et des suivantes ont été omis : une étiquette n’a qu’une page.</translation>
     </message>
     <message>
-        <source>Save each page as a document of its own and import those.</source>
-        <translation>Enregistrez chaque page dans un document distinct et importez ces documents.</translation>
-    </message>
-    <message>
-        <source>Objects of the page&apos;s background (its master page) were left out.</source>
+        <source>Objects of the page's background (its master page) were left out.</source>
         <translation>Des objets de l’arrière-plan de la page (sa page maîtresse) ont été omis.</translation>
-    </message>
-    <message>
-        <source>Copy them from the master page to the page itself and import again.</source>
-        <translation>Copiez-les de la page maîtresse sur la page elle-même et importez de nouveau.</translation>
     </message>
     <message>
         <source>Connectors between objects were left out.</source>
         <translation>Des connecteurs entre objets ont été omis.</translation>
     </message>
     <message>
-        <source>Draw them as plain lines.</source>
-        <translation>Dessinez-les sous forme de simples traits.</translation>
-    </message>
-    <message>
         <source>Curves, free polygons and polylines were left out.</source>
         <translation>Des courbes, des polygones libres et des lignes brisées ont été omis.</translation>
-    </message>
-    <message>
-        <source>Convert them to a picture or to plain shapes.</source>
-        <translation>Convertissez-les en image ou en formes simples.</translation>
     </message>
     <message>
         <source>Callouts were left out.</source>
@@ -1219,32 +1702,20 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>Des objets en trois dimensions ont été omis.</translation>
     </message>
     <message>
-        <source>Convert them to a picture.</source>
-        <translation>Convertissez-les en image.</translation>
-    </message>
-    <message>
         <source>Form controls were left out.</source>
         <translation>Des contrôles de formulaire ont été omis.</translation>
     </message>
     <message>
         <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
-        <translation>Des objets incorporés, comme des diagrammes et des formules, ont été omis&#xa0;; un cadre vide les remplace.</translation>
+        <translation>Des objets incorporés, comme des diagrammes et des formules, ont été omis ; un cadre vide les remplace.</translation>
     </message>
     <message>
         <source>Objects inside texts, text boxes or other objects were left out.</source>
         <translation>Des objets placés dans des textes, des zones de texte ou d’autres objets ont été omis.</translation>
     </message>
     <message>
-        <source>Anchor them to the page.</source>
-        <translation>Ancrez-les à la page.</translation>
-    </message>
-    <message>
         <source>Texts and objects in tables were left out.</source>
         <translation>Des textes et objets dans des tableaux ont été omis.</translation>
-    </message>
-    <message>
-        <source>Put them into text boxes.</source>
-        <translation>Placez-les dans des zones de texte.</translation>
     </message>
     <message>
         <source>Texts in lists were left out.</source>
@@ -1255,24 +1726,12 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>Des textes et objets dans des sections ou des index ont été omis.</translation>
     </message>
     <message>
-        <source>Remove the section and keep its content.</source>
-        <translation>Supprimez la section et conservez son contenu.</translation>
-    </message>
-    <message>
         <source>Texts and objects of the header or footer were left out.</source>
         <translation>Des textes et objets de l’en-tête ou du pied de page ont été omis.</translation>
     </message>
     <message>
-        <source>Copy them into the document itself.</source>
-        <translation>Copiez-les dans le document lui-même.</translation>
-    </message>
-    <message>
         <source>Texts of hyperlinks were left out.</source>
         <translation>Des textes de liens hypertexte ont été omis.</translation>
-    </message>
-    <message>
-        <source>Remove the hyperlinks and keep their texts.</source>
-        <translation>Supprimez les liens hypertexte et conservez leurs textes.</translation>
     </message>
     <message>
         <source>Fields in texts, such as page numbers and names, were left out.</source>
@@ -1283,36 +1742,16 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>Des notes de bas de page et de fin ont été omises.</translation>
     </message>
     <message>
-        <source>Put their texts into text boxes.</source>
-        <translation>Placez leurs textes dans des zones de texte.</translation>
-    </message>
-    <message>
         <source>Comments were left out; they are not printed.</source>
-        <translation>Des commentaires ont été omis&#xa0;; ils ne sont pas imprimés.</translation>
+        <translation>Des commentaires ont été omis ; ils ne sont pas imprimés.</translation>
     </message>
     <message>
         <source>Animations were left out; they are not printed.</source>
-        <translation>Des animations ont été omises&#xa0;; elles ne sont pas imprimées.</translation>
-    </message>
-    <message>
-        <source>Nothing.</source>
-        <translation>Rien.</translation>
-    </message>
-    <message>
-        <source>Open the file in its own program and save it again.</source>
-        <translation>Ouvrez le fichier dans son propre programme et enregistrez-le de nouveau.</translation>
+        <translation>Des animations ont été omises ; elles ne sont pas imprimées.</translation>
     </message>
     <message>
         <source>Picture boxes without a picture were left out.</source>
         <translation>Des cadres d’image sans image ont été omis.</translation>
-    </message>
-    <message>
-        <source>Look for another copy of the file.</source>
-        <translation>Cherchez une autre copie du fichier.</translation>
-    </message>
-    <message>
-        <source>Copy its content into a drawing.</source>
-        <translation>Copiez son contenu dans un dessin.</translation>
     </message>
     <message>
         <source>Barcodes of a type without a known counterpart became Code 39.</source>
@@ -1339,60 +1778,20 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>Des ombres, de la transparence, du rognage et d’autres effets ont été supprimés.</translation>
     </message>
     <message>
-        <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
-        <translation>Ouvrez le document dans son propre programme, dissociez les objets, enregistrez-le et importez-le de nouveau.</translation>
-    </message>
-    <message>
-        <source>Replace each callout with a text and a line.</source>
-        <translation>Remplacez chaque légende par un texte et un trait.</translation>
-    </message>
-    <message>
-        <source>Replace each control with a text if it should be printed.</source>
-        <translation>Remplacez chaque contrôle par un texte s’il doit être imprimé.</translation>
-    </message>
-    <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
-        <translation>Des formes d’un document texte ont été omises&#xa0;: seuls les textes, les zones de texte et les images sont importés.</translation>
-    </message>
-    <message>
-        <source>Copy the label into a drawing.</source>
-        <translation>Copiez l’étiquette dans un dessin.</translation>
-    </message>
-    <message>
-        <source>Turn bullets and numbering off, so that the list becomes plain paragraphs.</source>
-        <translation>Désactivez les puces et la numérotation pour que la liste devienne de simples paragraphes.</translation>
-    </message>
-    <message>
-        <source>Replace each field with its text.</source>
-        <translation>Remplacez chaque champ par son texte.</translation>
+        <translation>Des formes d’un document texte ont été omises : seuls les textes, les zones de texte et les images sont importés.</translation>
     </message>
     <message>
         <source>Parts of texts were left out because their type is unknown.</source>
         <translation>Des parties de textes ont été omises, car leur type est inconnu.</translation>
     </message>
     <message>
-        <source>Compare the texts with the original label.</source>
-        <translation>Comparez les textes avec l’étiquette d’origine.</translation>
-    </message>
-    <message>
         <source>Texts of shapes were left out because they do not begin with a plain paragraph.</source>
         <translation>Des textes de formes ont été omis, car ils ne commencent pas par un simple paragraphe.</translation>
     </message>
     <message>
-        <source>Change them to plain paragraphs.</source>
-        <translation>Changez-les en simples paragraphes.</translation>
-    </message>
-    <message>
-        <source>Nothing, unless you need them.</source>
-        <translation>Rien, sauf si vous en avez besoin.</translation>
-    </message>
-    <message>
         <source>Objects were left out because their type is unknown.</source>
         <translation>Des objets ont été omis, car leur type est inconnu.</translation>
-    </message>
-    <message>
-        <source>Draw them as shapes that labels support.</source>
-        <translation>Dessinez-les avec des formes prises en charge par les étiquettes.</translation>
     </message>
     <message>
         <source>Controls were left out because their type is unknown.</source>
@@ -1400,115 +1799,59 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>The file has several lists of objects; all but the first were left out.</source>
-        <translation>Le fichier contient plusieurs listes d’objets&#xa0;; toutes sauf la première ont été omises.</translation>
-    </message>
-    <message>
-        <source>Add the picture to the original file and import it again.</source>
-        <translation>Ajoutez l’image au fichier d’origine et importez-le de nouveau.</translation>
+        <translation>Le fichier contient plusieurs listes d’objets ; toutes sauf la première ont été omises.</translation>
     </message>
     <message>
         <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
         <translation>Des images ont été omises, car elles sont endommagées, trop grandes ou d’un format non pris en charge.</translation>
     </message>
     <message>
-        <source>Save the pictures as PNG in the original file and import it again.</source>
-        <translation>Enregistrez les images en PNG dans le fichier d’origine et importez-le de nouveau.</translation>
-    </message>
-    <message>
         <source>Vector drawings were left out because they cannot be converted.</source>
         <translation>Des dessins vectoriels ont été omis, car ils ne peuvent pas être convertis.</translation>
-    </message>
-    <message>
-        <source>Convert the drawings to PNG in the original file and import it again.</source>
-        <translation>Convertissez les dessins en PNG dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Symbols were left out because neither the file nor the symbol databases contain their drawings.</source>
         <translation>Des symboles ont été omis, car ni le fichier ni les bases de symboles ne contiennent leurs dessins.</translation>
     </message>
     <message>
-        <source>Save the label with the latest version of its own program, which stores the drawings, or add the symbols to the symbol databases.</source>
-        <translation>Enregistrez l’étiquette avec la dernière version de son propre programme, qui enregistre les dessins, ou ajoutez les symboles aux bases de symboles.</translation>
-    </message>
-    <message>
         <source>Barcodes were left out because their type is not supported.</source>
         <translation>Des codes-barres ont été omis, car leur type n’est pas pris en charge.</translation>
     </message>
     <message>
-        <source>Change the barcode type in the original file and import it again.</source>
-        <translation>Changez le type de code-barres dans le fichier d’origine et importez-le de nouveau.</translation>
-    </message>
-    <message>
         <source>The file continues with an unknown record; the rest was not read.</source>
-        <translation>Le fichier se poursuit par un enregistrement inconnu&#xa0;; le reste n’a pas été lu.</translation>
-    </message>
-    <message>
-        <source>The file is damaged or of a newer version. Look for another copy.</source>
-        <translation>Le fichier est endommagé ou d’une version plus récente. Cherchez une autre copie.</translation>
+        <translation>Le fichier se poursuit par un enregistrement inconnu ; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
-        <translation>Le fichier est tronqué&#xa0;: son dernier objet est incomplet, et d’autres manquent peut-être.</translation>
+        <translation>Le fichier est tronqué : son dernier objet est incomplet, et d’autres manquent peut-être.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported.</source>
-        <translation>Le document n’est ni un texte ni un dessin&#xa0;; rien n’a été importé.</translation>
+        <translation>Le document n’est ni un texte ni un dessin ; rien n’a été importé.</translation>
     </message>
     <message>
         <source>Content was left out because it exceeds the limits for labels.</source>
         <translation>Du contenu a été omis, car il dépasse les limites des étiquettes.</translation>
     </message>
     <message>
-        <source>Reduce the number of objects or the size of the pictures.</source>
-        <translation>Réduisez le nombre d’objets ou la taille des images.</translation>
-    </message>
-    <message>
         <source>Objects of the file are missing on the label, without a reported reason.</source>
         <translation>Des objets du fichier manquent sur l’étiquette, sans raison signalée.</translation>
-    </message>
-    <message>
-        <source>Compare with the original label, and report the file as a bug.</source>
-        <translation>Comparez avec l’étiquette d’origine et signalez le fichier comme un bogue.</translation>
-    </message>
-    <message>
-        <source>The log was cut: there may be losses that are not listed.</source>
-        <translation>Le journal a été tronqué&#xa0;: il peut y avoir des pertes qui ne sont pas listées.</translation>
-    </message>
-    <message>
-        <source>Compare with the original label.</source>
-        <translation>Comparez avec l’étiquette d’origine.</translation>
     </message>
     <message>
         <source>Unsupported shapes became rectangles or ellipses.</source>
         <translation>Des formes non prises en charge sont devenues des rectangles ou des ellipses.</translation>
     </message>
     <message>
-        <source>Replace them with supported shapes in the original file and import it again.</source>
-        <translation>Remplacez-les par des formes prises en charge dans le fichier d’origine et importez-le de nouveau.</translation>
-    </message>
-    <message>
         <source>Items are no longer bound to their data source: they show their last value.</source>
-        <translation>Des objets ne sont plus liés à leur source de données&#xa0;: ils affichent sa dernière valeur.</translation>
-    </message>
-    <message>
-        <source>Bind the items to a data source in the new label editor.</source>
-        <translation>Liez les objets à une source de données dans le nouvel éditeur d’étiquettes.</translation>
+        <translation>Des objets ne sont plus liés à leur source de données : ils affichent sa dernière valeur.</translation>
     </message>
     <message>
         <source>The label is no longer linked to its database file.</source>
         <translation>L’étiquette n’est plus liée à son fichier de base de données.</translation>
     </message>
     <message>
-        <source>Connect the data in the new label editor.</source>
-        <translation>Connectez les données dans le nouvel éditeur d’étiquettes.</translation>
-    </message>
-    <message>
         <source>Texts with a placeholder among other words show only the value of the data source.</source>
         <translation>Des textes contenant un espace réservé parmi d’autres mots n’affichent que la valeur de la source de données.</translation>
-    </message>
-    <message>
-        <source>Move the other words into separate texts, or into the data source.</source>
-        <translation>Déplacez les autres mots dans des textes distincts ou dans la source de données.</translation>
     </message>
     <message>
         <source>Fields, such as date, time and page number, became plain text with the value that they had when the document was saved.</source>
@@ -1519,60 +1862,24 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>Des codes-barres ne peuvent pas être dessinés, car leur contenu n’est pas valide pour leur type.</translation>
     </message>
     <message>
-        <source>Correct the content or the barcode type in the original file and import it again.</source>
-        <translation>Corrigez le contenu ou le type de code-barres dans le fichier d’origine et importez-le de nouveau.</translation>
-    </message>
-    <message>
-        <source>Scan the original label to find the correct type.</source>
-        <translation>Scannez l’étiquette d’origine pour trouver le type correct.</translation>
-    </message>
-    <message>
         <source>Items are completely outside the page: they are not printed.</source>
-        <translation>Des objets sont entièrement hors de la page&#xa0;: ils ne sont pas imprimés.</translation>
-    </message>
-    <message>
-        <source>Move the items onto the page.</source>
-        <translation>Déplacez les objets sur la page.</translation>
+        <translation>Des objets sont entièrement hors de la page : ils ne sont pas imprimés.</translation>
     </message>
     <message>
         <source>Items extend beyond the edge of the page: that part is not printed.</source>
-        <translation>Des objets dépassent le bord de la page&#xa0;: cette partie n’est pas imprimée.</translation>
+        <translation>Des objets dépassent le bord de la page : cette partie n’est pas imprimée.</translation>
     </message>
     <message>
         <source>Sizes, positions or fonts exceed the limits for labels and were reduced.</source>
         <translation>Des tailles, des positions ou des polices dépassent les limites des étiquettes et ont été réduites.</translation>
     </message>
     <message>
-        <source>The document uses millimeters: the label is ten times larger than the paper.</source>
-        <translation>Le document utilise des millimètres&#xa0;: l’étiquette est dix fois plus grande que le papier.</translation>
-    </message>
-    <message>
-        <source>Print at a tenth of the size, or save the document with centimeters or inches as its unit.</source>
-        <translation>Imprimez au dixième de la taille, ou enregistrez le document en centimètres ou en pouces.</translation>
-    </message>
-    <message>
         <source>Lengths are not in the unit of the page, but were read as if they were.</source>
         <translation>Des longueurs ne sont pas dans l’unité de la page, mais ont été lues comme si elles l’étaient.</translation>
     </message>
     <message>
-        <source>Save the document with a single unit.</source>
-        <translation>Enregistrez le document avec une seule unité.</translation>
-    </message>
-    <message>
-        <source>The unit of the page is unknown: its lengths were read as inches.</source>
-        <translation>L’unité de la page est inconnue&#xa0;: ses longueurs ont été lues en pouces.</translation>
-    </message>
-    <message>
-        <source>Save the document with centimeters or inches as its unit.</source>
-        <translation>Enregistrez le document en centimètres ou en pouces.</translation>
-    </message>
-    <message>
         <source>The page has another size than in the file, which defines no size or several.</source>
         <translation>La page n’a pas la même taille que dans le fichier, qui n’en définit aucune ou en définit plusieurs.</translation>
-    </message>
-    <message>
-        <source>Set the page size in the original file and import it again.</source>
-        <translation>Définissez la taille de la page dans le fichier d’origine et importez-le de nouveau.</translation>
     </message>
     <message>
         <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
@@ -1580,15 +1887,11 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>The margins of the page were dropped: the text begins in the corner.</source>
-        <translation>Les marges de la page ont été supprimées&#xa0;: le texte commence dans le coin.</translation>
-    </message>
-    <message>
-        <source>Move the texts in the new label.</source>
-        <translation>Déplacez les textes dans la nouvelle étiquette.</translation>
+        <translation>Les marges de la page ont été supprimées : le texte commence dans le coin.</translation>
     </message>
     <message>
         <source>Page breaks were dropped: all text is on one page.</source>
-        <translation>Des sauts de page ont été supprimés&#xa0;: tout le texte est sur une seule page.</translation>
+        <translation>Des sauts de page ont été supprimés : tout le texte est sur une seule page.</translation>
     </message>
     <message>
         <source>Rotation of lines, and skewing and scaling of objects, were dropped.</source>
@@ -1599,58 +1902,138 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>Des polices non installées ont été remplacées.</translation>
     </message>
     <message>
-        <source>Install the fonts and import again.</source>
-        <translation>Installez les polices et importez de nouveau.</translation>
-    </message>
-    <message>
         <source>Stretched texts are no longer stretched.</source>
         <translation>Des textes étirés ne le sont plus.</translation>
-    </message>
-    <message>
-        <source>Set a suitable font size.</source>
-        <translation>Définissez une taille de police appropriée.</translation>
-    </message>
-    <message>
-        <source>Set the color in the new label editor.</source>
-        <translation>Définissez la couleur dans le nouvel éditeur d’étiquettes.</translation>
-    </message>
-    <message>
-        <source>Split the text into paragraphs.</source>
-        <translation>Divisez le texte en paragraphes.</translation>
-    </message>
-    <message>
-        <source>Choose a plain fill in the original file.</source>
-        <translation>Choisissez un remplissage uni dans le fichier d’origine.</translation>
     </message>
     <message>
         <source>The import reported a problem with this label.</source>
         <translation>L’importation a signalé un problème avec cette étiquette.</translation>
     </message>
     <message>
-        <source>Read the warnings, and compare with the original label.</source>
-        <translation>Lisez les avertissements et comparez avec l’étiquette d’origine.</translation>
+        <source>If the document was imported as written, import it without --as-written.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts of lines and dimension lines were left out.</source>
+        <translation>Les textes des lignes et des lignes de cote ont été omis.</translation>
+    </message>
+    <message>
+        <source>Add the symbols to the symbol databases and import again.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The log was cut, or the label is too large to compare: there may be losses that are not listed.</source>
+        <translation>Le journal a été tronqué, ou l’étiquette est trop grande pour être comparée : des pertes peuvent ne pas être listées.</translation>
+    </message>
+    <message>
+        <source>Bind the items to a data source in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Correct the content or the type in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Choose the type in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Move the items onto the page in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The document uses millimeters: the label is a hundred times larger than the paper. Fonts and lines did not grow with it, so that texts are hardly visible.</source>
+        <translation>Le document utilise des millimètres : l’étiquette est cent fois plus grande que le papier. Les polices et les lignes n’ont pas grandi, si bien que les textes sont à peine visibles.</translation>
+    </message>
+    <message>
+        <source>The unit of the page is not supported: its lengths were read as inches, so that points become 72 times too large. Fonts and lines did not grow with them, so that texts are hardly visible.</source>
+        <translation>L’unité de la page n’est pas prise en charge : ses longueurs ont été lues comme des pouces, si bien que les points deviennent 72 fois trop grands. Les polices et les lignes n’ont pas grandi, et les textes sont à peine visibles.</translation>
+    </message>
+    <message>
+        <source>Install the fonts and import again, or choose another font in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Set the font size in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts differ from the document: words run together, or line breaks or words are missing.</source>
+        <translation>Des textes diffèrent du document : des mots sont collés, ou des sauts de ligne ou des mots manquent.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or correct the text in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts can hardly be read: their color is too similar to what is under them.</source>
+        <translation>Des textes sont à peine lisibles : leur couleur est trop proche de ce qui est dessous.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or set the color in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts are printed over each other.</source>
+        <translation>Des textes se superposent.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or move the texts in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Items are covered by others, which they are not in the document.</source>
+        <translation>Des objets sont couverts par d’autres, ce qui n’est pas le cas dans le document.</translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or move the items in labelport-workbench.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Items have another place or size than in the document, by more than 1 mm.</source>
+        <translation>Des objets ont une autre position ou taille que dans le document, de plus de 1 mm.</translation>
+    </message>
+    <message>
+        <source>Mirrored shapes are no longer mirrored.</source>
+        <translation>Des formes retournées ne le sont plus.</translation>
+    </message>
+    <message>
+        <source>Items cannot be seen, because they have the color of what is under them.</source>
+        <translation>Des objets sont invisibles, car ils ont la couleur de ce qui est dessous.</translation>
+    </message>
+    <message>
+        <source>Choose another fill in labelport-workbench under Properties.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Boxes are filled that are not filled in the document.</source>
+        <translation>Des cadres sont remplis alors qu’ils ne le sont pas dans le document.</translation>
+    </message>
+    <message>
+        <source>Lines are more than a quarter thinner or thicker than in the document.</source>
+        <translation>Des lignes sont plus fines ou plus épaisses de plus d’un quart que dans le document.</translation>
     </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
     <message>
-        <source>The reports contain the file &quot;%1&quot; more than once.</source>
-        <translation>Les rapports contiennent le fichier «&#xa0;%1&#xa0;» plusieurs fois.</translation>
+        <source>The reports contain the file "%1" more than once.</source>
+        <translation>Les rapports contiennent le fichier « %1 » plusieurs fois.</translation>
     </message>
     <message>
-        <source>The report &quot;%1&quot; has changed during the merge.</source>
-        <translation>Le rapport «&#xa0;%1&#xa0;» a été modifié pendant la fusion.</translation>
+        <source>The report "%1" has changed during the merge.</source>
+        <translation>Le rapport « %1 » a été modifié pendant la fusion.</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportLines</name>
     <message>
-        <source>Cannot read &quot;%1&quot;: %2.</source>
-        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot read "%1": %2.</source>
+        <translation>Impossible de lire « %1 » : %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un rapport de LabelPort&#xa0;: %2.</translation>
+        <source>"%1" is not a report of LabelPort: %2.</source>
+        <translation>« %1 » n’est pas un rapport de LabelPort : %2.</translation>
     </message>
     <message>
         <source>it is empty</source>
@@ -1672,19 +2055,19 @@ en JSON Lines, puis l’état final des objets.</translation>
 <context>
     <name>migration::ReportWriter</name>
     <message>
-        <source>Cannot write the report &quot;%1&quot;: %2.</source>
-        <translation>Impossible d’écrire le rapport «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot write the report "%1": %2.</source>
+        <translation>Impossible d’écrire le rapport « %1 » : %2.</translation>
     </message>
 </context>
 <context>
     <name>migration::Summary</name>
     <message>
         <source>Not imported: %1</source>
-        <translation>Non importé&#xa0;: %1</translation>
+        <translation>Non importé : %1</translation>
     </message>
     <message>
         <source>Objects imported: %1 (the number of objects in the file is unknown).</source>
-        <translation>Objets importés&#xa0;: %1 (le nombre d’objets dans le fichier est inconnu).</translation>
+        <translation>Objets importés : %1 (le nombre d’objets dans le fichier est inconnu).</translation>
     </message>
     <message>
         <source>Imported %1 of %2 objects.</source>
@@ -1695,39 +2078,85 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>Rien n’a été perdu ni modifié.</translation>
     </message>
     <message>
-        <source>Nothing was lost; looks or content changed.</source>
-        <translation>Rien n’a été perdu&#xa0;; l’aspect ou le contenu a été modifié.</translation>
-    </message>
-</context>
-<context>
-    <name>migration::Totals</name>
-    <message>
         <source>imported completely</source>
-        <translation>importation complète</translation>
+        <translation>importées complètement</translation>
     </message>
     <message>
-        <source>changed in looks</source>
-        <translation>aspect modifié</translation>
+        <source>imported with changes</source>
+        <translation>importées avec modifications</translation>
     </message>
     <message>
-        <source>with losses</source>
-        <translation>avec pertes</translation>
+        <source>The content is complete; looks changed.</source>
+        <translation>Le contenu est complet ; l’apparence a changé.</translation>
     </message>
     <message>
-        <source>crashed</source>
-        <translation>plantage</translation>
+        <source>imported with losses</source>
+        <translation>importées avec pertes</translation>
     </message>
     <message>
-        <source>timed out</source>
-        <translation>délai dépassé</translation>
-    </message>
-    <message>
-        <source>out of memory</source>
-        <translation>mémoire insuffisante</translation>
+        <source>Content was lost or changed.</source>
+        <translation>Du contenu a été perdu ou modifié.</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation>échec</translation>
+        <translation>échecs</translation>
+    </message>
+</context>
+<context>
+    <name>printing::PrintDocument</name>
+    <message>
+        <source>%1 labels in %2 copies are more than the %3 of one document.</source>
+        <translation>%1 étiquettes en %2 exemplaires dépassent les %3 d’un document.</translation>
+    </message>
+    <message>
+        <source>Sheet "%1" has no position %2; its positions are 1 to %3.</source>
+        <translation>La planche « %1 » n’a pas de position %2 ; ses positions vont de 1 à %3.</translation>
+    </message>
+</context>
+<context>
+    <name>printing::PrintQueue</name>
+    <message>
+        <source>Cannot run "%1". Install the client commands of CUPS.</source>
+        <translation>Impossible d’exécuter « %1 ». Installez les commandes clientes de CUPS.</translation>
+    </message>
+    <message>
+        <source>The print server does not reply.</source>
+        <translation>Le serveur d’impression ne répond pas.</translation>
+    </message>
+    <message>
+        <source>"%1" failed.</source>
+        <translation>« %1 » a échoué.</translation>
+    </message>
+</context>
+<context>
+    <name>printing::Sheet</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>The sides of the paper must be from 1 to %1 mm.</source>
+        <translation>Les côtés du papier doivent mesurer de 1 à %1 mm.</translation>
+    </message>
+    <message>
+        <source>A sheet has 1 to %1 rows and columns.</source>
+        <translation>Une planche a de 1 à %1 lignes et colonnes.</translation>
+    </message>
+    <message>
+        <source>The sides of a label must be at least 1 mm.</source>
+        <translation>Les côtés d’une étiquette doivent mesurer au moins 1 mm.</translation>
+    </message>
+    <message>
+        <source>The labels of the sheet overlap.</source>
+        <translation>Les étiquettes de la planche se chevauchent.</translation>
+    </message>
+    <message>
+        <source>The labels of the sheet exceed the paper.</source>
+        <translation>Les étiquettes de la planche dépassent du papier.</translation>
+    </message>
+    <message>
+        <source>The label is %1; the labels of sheet "%2" are only %3.</source>
+        <translation>L’étiquette mesure %1 ; celles de la planche « %2 » seulement %3.</translation>
     </message>
 </context>
 <context>
@@ -1808,6 +2237,33 @@ en JSON Lines, puis l’état final des objets.</translation>
         <source>%n notes were appended to their text</source>
         <translation>%n notes ont été ajoutées à leur texte</translation>
     </message>
+    <message>
+        <source>%n further pages became labels of their own</source>
+        <translation>%n pages suivantes sont devenues des étiquettes</translation>
+    </message>
+    <message>
+        <source>The document could not be repaired: it was imported as it is written.</source>
+        <translation>Le document n’a pas pu être réparé : il a été importé tel qu’il est écrit.</translation>
+    </message>
+</context>
+<context>
+    <name>sandbox::Confinement</name>
+    <message>
+        <source>files</source>
+        <translation>fichiers</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>réseau</translation>
+    </message>
+    <message>
+        <source>system calls</source>
+        <translation>appels système</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
 </context>
 <context>
     <name>trace</name>
@@ -1820,20 +2276,20 @@ en JSON Lines, puis l’état final des objets.</translation>
         <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
-        <source>Cannot read &quot;%1&quot;: %2.</source>
-        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot read "%1": %2.</source>
+        <translation>Impossible de lire « %1 » : %2.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été importé. La trace montre jusqu’où l’importation est allée.</translation>
+        <source>"%1" was not imported. The trace shows how far the import came.</source>
+        <translation>« %1 » n’a pas été importé. La trace montre jusqu’où l’importation est allée.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas été importé. La trace montre jusqu’où l’importation est allée&#xa0;; --reader choisit un autre lecteur.</translation>
+        <source>"%1" was not imported. The trace shows how far the import came; --reader selects another reader.</source>
+        <translation>« %1 » n’a pas été importé. La trace montre jusqu’où l’importation est allée ; --reader choisit un autre lecteur.</translation>
     </message>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation>Impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
+        <translation>Impossible d’écrire sur la sortie standard : %1.</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
@@ -1843,7 +2299,7 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation>Importe une ancienne étiquette dans un hôte d’enregistrement et affiche chaque appel à l’hôte
 en JSON Lines, puis l’état final des objets.
 
-Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</translation>
+Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</translation>
     </message>
     <message>
         <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
@@ -1859,15 +2315,15 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation>Étiquette à importer&#xa0;; - est l’entrée standard.</translation>
+        <translation>Étiquette à importer ; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>trace needs exactly one file.</source>
         <translation>trace attend exactement un fichier.</translation>
     </message>
     <message>
-        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
-        <translation>Lecteur «&#xa0;%1&#xa0;» inconnu. Lecteurs pris en charge&#xa0;: %2.</translation>
+        <source>Unknown reader "%1". Supported readers: %2.</source>
+        <translation>Lecteur « %1 » inconnu. Lecteurs pris en charge : %2.</translation>
     </message>
 </context>
 <context>
@@ -1875,18 +2331,6 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <message>
         <source>&amp;Open…</source>
         <translation>&amp;Ouvrir…</translation>
-    </message>
-    <message>
-        <source>Opens a saved label or a legacy one</source>
-        <translation>Ouvre une étiquette enregistrée ou une ancienne étiquette</translation>
-    </message>
-    <message>
-        <source>&amp;Import…</source>
-        <translation>&amp;Importer…</translation>
-    </message>
-    <message>
-        <source>Imports a legacy label and saves it beside the old file</source>
-        <translation>Importe une ancienne étiquette et l’enregistre dans le dossier de l’ancien fichier</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -2133,7 +2577,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>&amp;Aller à…</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the record&apos;s number</source>
+        <source>Puts the keyboard on the record's number</source>
         <translation>Place le focus clavier sur le numéro de l’enregistrement</translation>
     </message>
     <message>
@@ -2180,6 +2624,222 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <source>&amp;Help</source>
         <translation>A&amp;ide</translation>
     </message>
+    <message>
+        <source>Opens a saved label, or imports a legacy one</source>
+        <translation>Ouvre une étiquette enregistrée ou en importe une ancienne</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder…</source>
+        <translation>Ouvrir un &amp;dossier…</translation>
+    </message>
+    <message>
+        <source>Lists the labels of a folder with their states</source>
+        <translation>Liste les étiquettes d’un dossier avec leur état</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Label</source>
+        <translation>Étiquette &amp;précédente</translation>
+    </message>
+    <message>
+        <source>Opens the previous label of the folder</source>
+        <translation>Ouvre l’étiquette précédente du dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Next Label</source>
+        <translation>Étiquette &amp;suivante</translation>
+    </message>
+    <message>
+        <source>Opens the next label of the folder</source>
+        <translation>Ouvre l’étiquette suivante du dossier</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Couper</translation>
+    </message>
+    <message>
+        <source>Copies the selected items and deletes them</source>
+        <translation>Copie les objets sélectionnés et les supprime</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Co&amp;pier</translation>
+    </message>
+    <message>
+        <source>Copies the selected items to the clipboard</source>
+        <translation>Copie les objets sélectionnés dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Adds the items of the clipboard to the label</source>
+        <translation>Ajoute les objets du presse-papiers à l’étiquette</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Dupliquer</translation>
+    </message>
+    <message>
+        <source>Adds a copy of each selected item</source>
+        <translation>Ajoute une copie de chaque objet sélectionné</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Deletes the selected items</source>
+        <translation>Supprime les objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>Edit Te&amp;xt</source>
+        <translation>Modifier le te&amp;xte</translation>
+    </message>
+    <message>
+        <source>Edits the text of the selected item on the canvas</source>
+        <translation>Modifie le texte de l’objet sélectionné sur le canevas</translation>
+    </message>
+    <message>
+        <source>To Fr&amp;ont</source>
+        <translation>Au &amp;premier plan</translation>
+    </message>
+    <message>
+        <source>Puts the selected items above all others</source>
+        <translation>Place les objets sélectionnés au-dessus de tous les autres</translation>
+    </message>
+    <message>
+        <source>&amp;Raise</source>
+        <translation>&amp;Avancer</translation>
+    </message>
+    <message>
+        <source>Puts the selected items above the next item</source>
+        <translation>Place les objets sélectionnés au-dessus du suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Lower</source>
+        <translation>&amp;Reculer</translation>
+    </message>
+    <message>
+        <source>Puts the selected items below the next item</source>
+        <translation>Place les objets sélectionnés au-dessous du suivant</translation>
+    </message>
+    <message>
+        <source>To Bac&amp;k</source>
+        <translation>À l’arrière-p&amp;lan</translation>
+    </message>
+    <message>
+        <source>Puts the selected items below all others</source>
+        <translation>Place les objets sélectionnés au-dessous de tous les autres</translation>
+    </message>
+    <message>
+        <source>Align Le&amp;ft Edges</source>
+        <translation>Aligner à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Aligns the left edges of the selected items; a single item is aligned to the page</source>
+        <translation>Aligne les bords gauches des objets sélectionnés ; un objet seul est aligné sur la page</translation>
+    </message>
+    <message>
+        <source>Align &amp;Centers</source>
+        <translation>&amp;Centrer</translation>
+    </message>
+    <message>
+        <source>Aligns the centers of the selected items on a vertical line</source>
+        <translation>Aligne les centres des objets sélectionnés sur une ligne verticale</translation>
+    </message>
+    <message>
+        <source>Align Ri&amp;ght Edges</source>
+        <translation>Aligner à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Aligns the right edges of the selected items</source>
+        <translation>Aligne les bords droits des objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>Align &amp;Top Edges</source>
+        <translation>Aligner en &amp;haut</translation>
+    </message>
+    <message>
+        <source>Aligns the top edges of the selected items</source>
+        <translation>Aligne les bords supérieurs des objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>Align &amp;Middles</source>
+        <translation>Aligner au &amp;milieu</translation>
+    </message>
+    <message>
+        <source>Aligns the centers of the selected items on a horizontal line</source>
+        <translation>Aligne les centres des objets sélectionnés sur une ligne horizontale</translation>
+    </message>
+    <message>
+        <source>Align &amp;Bottom Edges</source>
+        <translation>Aligner en &amp;bas</translation>
+    </message>
+    <message>
+        <source>Aligns the bottom edges of the selected items</source>
+        <translation>Aligne les bords inférieurs des objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;Horizontally</source>
+        <translation>&amp;Répartir horizontalement</translation>
+    </message>
+    <message>
+        <source>Makes the horizontal gaps between the selected items equal</source>
+        <translation>Égalise les espaces horizontaux entre les objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;Vertically</source>
+        <translation>Répartir &amp;verticalement</translation>
+    </message>
+    <message>
+        <source>Makes the vertical gaps between the selected items equal</source>
+        <translation>Égalise les espaces verticaux entre les objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>&amp;Labels</source>
+        <translation>É&amp;tiquettes</translation>
+    </message>
+    <message>
+        <source>Shows the labels of the folder and moves keyboard focus to them</source>
+        <translation>Affiche les étiquettes du dossier et y place le focus du clavier</translation>
+    </message>
+    <message>
+        <source>&amp;Original</source>
+        <translation>&amp;Original</translation>
+    </message>
+    <message>
+        <source>Shows the document's own preview next to the label, with a slider</source>
+        <translation>Affiche l’aperçu du document à côté de l’étiquette, avec un curseur</translation>
+    </message>
+    <message>
+        <source>&amp;Connect CSV File…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Shows columns of a CSV file in items of the label</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Edit Data Source…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Changes the counter, date, list or file that is selected in the panel</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Shows the manual of this window</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Arrange</source>
+        <translation>&amp;Disposer</translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -2191,28 +2851,255 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <source>The label. The arrow keys move the selected items.</source>
         <translation>L’étiquette. Les touches fléchées déplacent les objets sélectionnés.</translation>
     </message>
+    <message>
+        <source>The item has no text.</source>
+        <translation>L’objet n’a pas de texte.</translation>
+    </message>
+    <message>
+        <source>Change Text</source>
+        <translation>Modifier le texte</translation>
+    </message>
 </context>
 <context>
-    <name>window::DialogImport</name>
+    <name>window::ChangePage</name>
     <message>
-        <source>There is not enough memory for this file.</source>
-        <translation>Mémoire insuffisante pour ce fichier.</translation>
+        <source>Change Page</source>
+        <translation>Modifier la page</translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparisonPanel</name>
+    <message>
+        <source>The original document has no preview.</source>
+        <translation>Le document d’origine n’a pas d’aperçu.</translation>
+    </message>
+    <message>
+        <source>Share of the original</source>
+        <translation>Part de l’original</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Étiquette</translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparisonView</name>
+    <message>
+        <source>Original and label</source>
+        <translation>Original et étiquette</translation>
+    </message>
+</context>
+<context>
+    <name>window::Corrections</name>
+    <message>
+        <source>Replace Font</source>
+        <translation>Remplacer la police</translation>
+    </message>
+    <message>
+        <source>Font for all texts in %1:</source>
+        <translation>Police pour tous les textes en %1 :</translation>
+    </message>
+    <message>
+        <source>Set Color</source>
+        <translation>Définir la couleur</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Rescale</source>
+        <translation>Mettre à l’échelle</translation>
+    </message>
+    <message>
+        <source>Size of the paper:</source>
+        <translation>Taille du papier :</translation>
+    </message>
+    <message>
+        <source>Bind to Data Source</source>
+        <translation>Lier à une source de données</translation>
+    </message>
+    <message>
+        <source>The label has no data source.</source>
+        <translation>L’étiquette n’a pas de source de données.</translation>
+    </message>
+    <message>
+        <source>Data source:</source>
+        <translation>Source de données :</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Items</source>
+        <translation>&amp;Supprimer les objets</translation>
+    </message>
+    <message>
+        <source>Replace F&amp;ont…</source>
+        <translation>Remplacer la p&amp;olice…</translation>
+    </message>
+    <message>
+        <source>Set &amp;Color…</source>
+        <translation>Définir la &amp;couleur…</translation>
+    </message>
+    <message>
+        <source>Re&amp;scale…</source>
+        <translation>Mettre à l’é&amp;chelle…</translation>
+    </message>
+    <message>
+        <source>&amp;Bind to Data Source…</source>
+        <translation>&amp;Lier à une source de données…</translation>
+    </message>
+    <message>
+        <source>Delete Items</source>
+        <translation>Supprimer les objets</translation>
+    </message>
+</context>
+<context>
+    <name>window::CsvDialog</name>
+    <message>
+        <source>The first line &amp;names the columns</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Items and their columns</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Records of the file</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Connect CSV File</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Items of the label</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Records</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Detect</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>UTF-8</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>UTF-16</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Windows-1252</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Separator</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Encoding</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Item</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Shows column</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>– not from this file –</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>window::EditActions</name>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation>Répartir</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>The clipboard contains no items of a label.</source>
+        <translation>Le presse-papiers ne contient pas d’objets d’étiquette.</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Read-only items were not deleted.</source>
+        <translation>Les objets en lecture seule n’ont pas été supprimés.</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Aligner</translation>
     </message>
 </context>
 <context>
     <name>window::ExportDialog</name>
-    <message>
-        <source>SVG drawings (*.svg)</source>
-        <translation>Dessins SVG (*.svg)</translation>
-    </message>
-    <message>
-        <source>PDF documents (*.pdf)</source>
-        <translation>Documents PDF (*.pdf)</translation>
-    </message>
-    <message>
-        <source>PNG pictures (*.png)</source>
-        <translation>Images PNG (*.png)</translation>
-    </message>
     <message>
         <source>&amp;Browse…</source>
         <translation>&amp;Parcourir…</translation>
@@ -2220,18 +3107,6 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <message>
         <source>Export Label</source>
         <translation>Exporter l’étiquette</translation>
-    </message>
-    <message>
-        <source>PNG picture</source>
-        <translation>Image PNG</translation>
-    </message>
-    <message>
-        <source>SVG drawing</source>
-        <translation>Dessin SVG</translation>
-    </message>
-    <message>
-        <source>PDF document</source>
-        <translation>Document PDF</translation>
     </message>
     <message>
         <source>Format</source>
@@ -2246,24 +3121,12 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>Choisit le fichier dans une boîte de dialogue</translation>
     </message>
     <message>
-        <source> dpi</source>
-        <translation> ppp</translation>
-    </message>
-    <message>
-        <source>Resolution in dots per inch</source>
-        <translation>Résolution en points par pouce</translation>
-    </message>
-    <message>
         <source>&amp;Format</source>
         <translation>F&amp;ormat</translation>
     </message>
     <message>
         <source>F&amp;ile</source>
         <translation>Fich&amp;ier</translation>
-    </message>
-    <message>
-        <source>Re&amp;solution</source>
-        <translation>&amp;Résolution</translation>
     </message>
     <message>
         <source>Records</source>
@@ -2274,12 +3137,8 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>&amp;Exporter</translation>
     </message>
     <message>
-        <source>One document of %1 pages.</source>
-        <translation>Un document de %1 pages.</translation>
-    </message>
-    <message>
         <source>%1 files: %2 and so on.</source>
-        <translation>%1 fichiers&#xa0;: %2, etc.</translation>
+        <translation>%1 fichiers : %2, etc.</translation>
     </message>
     <message>
         <source>One file.</source>
@@ -2287,26 +3146,52 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>“%1” exists already. Replace it?</source>
-        <translation>«&#xa0;%1&#xa0;» existe déjà. Le remplacer&#xa0;?</translation>
+        <translation>« %1 » existe déjà. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>One file of %1 records.</source>
+        <translation>Un fichier de %1 enregistrements.</translation>
     </message>
 </context>
 <context>
-    <name>window::IssueListModel</name>
+    <name>window::ImportProcess</name>
     <message>
-        <source>%1 (%2 times)</source>
-        <translation>%1 (%2 fois)</translation>
+        <source>Cannot start the program “%1”: %2.</source>
+        <translation>Impossible de démarrer le programme « %1 » : %2.</translation>
     </message>
     <message>
-        <source>The label</source>
-        <translation>L’étiquette</translation>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Impossible de créer un dossier temporaire : %1.</translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>Concerne</translation>
+        <source>The import ended without a result.</source>
+        <translation>L’importation s’est terminée sans résultat.</translation>
+    </message>
+</context>
+<context>
+    <name>window::Issues</name>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n autre</numerusform>
+            <numerusform>%n autres</numerusform>
+        </translation>
     </message>
     <message>
-        <source>What it is</source>
-        <translation>Description</translation>
+        <source>Not imported</source>
+        <translation>Non importés</translation>
+    </message>
+    <message>
+        <source>Imported with changes</source>
+        <translation>Importés avec modifications</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Avertissements</translation>
     </message>
 </context>
 <context>
@@ -2316,8 +3201,28 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>Problèmes de l’étiquette</translation>
     </message>
     <message>
-        <source>There is nothing to report.</source>
-        <translation>Rien à signaler.</translation>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2 fois)</translation>
+    </message>
+    <message>
+        <source>Nothing was lost or changed.</source>
+        <translation>Rien n’a été perdu ni modifié.</translation>
+    </message>
+    <message>
+        <source>No label is open.</source>
+        <translation>Aucune étiquette n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>Issue</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objets</translation>
+    </message>
+    <message>
+        <source>What you can do</source>
+        <translation>Ce que vous pouvez faire</translation>
     </message>
 </context>
 <context>
@@ -2451,14 +3356,6 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>Extrémités</translation>
     </message>
     <message>
-        <source>End, to the right</source>
-        <translation>Extrémité, vers la droite</translation>
-    </message>
-    <message>
-        <source>End, down</source>
-        <translation>Extrémité, vers le bas</translation>
-    </message>
-    <message>
         <source>Mark at the start</source>
         <translation>Marque au début</translation>
     </message>
@@ -2477,10 +3374,6 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <message>
         <source>Alignment</source>
         <translation>Alignement</translation>
-    </message>
-    <message>
-        <source>Text box</source>
-        <translation>Zone de texte</translation>
     </message>
     <message>
         <source>Fixed sides</source>
@@ -2547,16 +3440,8 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>Fond</translation>
     </message>
     <message>
-        <source>Option</source>
-        <translation>Option</translation>
-    </message>
-    <message>
         <source>Picture</source>
         <translation>Image</translation>
-    </message>
-    <message>
-        <source>Picture size</source>
-        <translation>Taille de l’image</translation>
     </message>
     <message>
         <source>no picture</source>
@@ -2604,7 +3489,71 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>%1 “%2”</source>
-        <translation>%1 «&#xa0;%2&#xa0;»</translation>
+        <translation>%1 « %2 »</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>Text below the bars</source>
+        <translation>Texte sous les barres</translation>
+    </message>
+    <message>
+        <source>Blank margins</source>
+        <translation>Marges vides</translation>
+    </message>
+    <message>
+        <source>Bearer bars</source>
+        <translation>Barres de support</translation>
+    </message>
+    <message>
+        <source>Check digit or columns</source>
+        <translation>Chiffre de contrôle ou colonnes</translation>
+    </message>
+    <message>
+        <source>Symbol size</source>
+        <translation>Taille du symbole</translation>
+    </message>
+    <message>
+        <source>Error correction</source>
+        <translation>Correction d’erreurs</translation>
+    </message>
+    <message>
+        <source>Page width</source>
+        <translation>Largeur de page</translation>
+    </message>
+    <message>
+        <source>Page height</source>
+        <translation>Hauteur de page</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Page color</source>
+        <translation>Couleur de page</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>portrait</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>paysage</translation>
+    </message>
+    <message>
+        <source>unknown (%1)</source>
+        <translation>inconnu (%1)</translation>
+    </message>
+    <message>
+        <source>different values</source>
+        <translation>valeurs différentes</translation>
     </message>
 </context>
 <context>
@@ -2666,14 +3615,45 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
 </context>
 <context>
-    <name>window::LabelSession</name>
+    <name>window::LabelListPanel</name>
     <message>
-        <source>The label could not be imported.</source>
-        <translation>Impossible d’importer l’étiquette.</translation>
+        <source>Filter by name</source>
+        <translation>Filtrer par nom</translation>
     </message>
     <message>
+        <source>Filter by state</source>
+        <translation>Filtrer par état</translation>
+    </message>
+    <message>
+        <source>All states</source>
+        <translation>Tous les états</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordre</translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation>Par nom</translation>
+    </message>
+    <message>
+        <source>By state</source>
+        <translation>Par état</translation>
+    </message>
+    <message>
+        <source>Labels of the folder</source>
+        <translation>Étiquettes du dossier</translation>
+    </message>
+    <message>
+        <source>%1 of %2 labels</source>
+        <translation>%1 étiquettes sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>window::LabelSession</name>
+    <message>
         <source>“%1” could not be saved.</source>
-        <translation>Impossible d’enregistrer «&#xa0;%1&#xa0;».</translation>
+        <translation>Impossible d’enregistrer « %1 ».</translation>
     </message>
     <message>
         <source>%1
@@ -2681,7 +3661,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
 The label is still open. Save it in another folder with “Save As”.</source>
         <translation>%1
 
-L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec «&#xa0;Enregistrer sous&#xa0;».</translation>
+L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec « Enregistrer sous ».</translation>
     </message>
     <message>
         <source>Saved as %1</source>
@@ -2689,7 +3669,49 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>“%1” could not be opened.</source>
-        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;».</translation>
+        <translation>Impossible d’ouvrir « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>window::LabelStates</name>
+    <message>
+        <source>Waiting</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Complète</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifiée</translation>
+    </message>
+    <message>
+        <source>With losses</source>
+        <translation>Avec pertes</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <translation>Corrigée</translation>
+    </message>
+</context>
+<context>
+    <name>window::Locks</name>
+    <message>
+        <source>%1 is read-only. To move it, clear “Read-only” in its properties.</source>
+        <translation>%1 est en lecture seule. Pour le déplacer, décochez « Lecture seule » dans ses propriétés.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the background. To move it, clear “Background” in its properties.</source>
+        <translation>%1 appartient à l’arrière-plan. Pour le déplacer, décochez « Arrière-plan » dans ses propriétés.</translation>
+    </message>
+    <message>
+        <source>%1 is locked. To move it, set “Movable” in its properties.</source>
+        <translation>%1 est verrouillé. Pour le déplacer, cochez « Déplaçable » dans ses propriétés.</translation>
     </message>
 </context>
 <context>
@@ -2697,10 +3719,6 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
         <translation>Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
-    </message>
-    <message>
-        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
-        <translation>Étiquette à ouvrir&#xa0;: *.label, *.cnv, *.roc, *.qmtx, *.odt ou *.odg.</translation>
     </message>
     <message>
         <source>Writes a picture of the window to a PNG file, and exits.</source>
@@ -2714,47 +3732,23 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         </translation>
     </message>
     <message>
-        <source>Cannot open &quot;%1&quot;: %2</source>
-        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+        <source>Cannot open "%1": %2</source>
+        <translation>Impossible d’ouvrir « %1 » : %2</translation>
     </message>
     <message>
         <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
-        <translation>Impossible d’afficher une fenêtre&#xa0;: aucun écran n’est disponible. Définissez DISPLAY ou WAYLAND_DISPLAY, ou utilisez --screenshot.</translation>
+        <translation>Impossible d’afficher une fenêtre : aucun écran n’est disponible. Définissez DISPLAY ou WAYLAND_DISPLAY, ou utilisez --screenshot.</translation>
+    </message>
+    <message>
+        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or a folder of labels.</source>
+        <translation>Étiquette à ouvrir : *.label, *.cnv, *.roc, *.qmtx, *.odt ou *.odg ; ou un dossier d’étiquettes.</translation>
     </message>
 </context>
 <context>
-    <name>window::MainWindow</name>
+    <name>window::ManualDialog</name>
     <message>
-        <source>LabelPort Workbench</source>
-        <translation>LabelPort Workbench</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>À propos</translation>
-    </message>
-    <message>
-        <source>LabelPort Workbench %1</source>
-        <translation>LabelPort Workbench %1</translation>
-    </message>
-    <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation>Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>Fichiers &amp;récents</translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation>Outils</translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation>&amp;Vider la liste</translation>
-    </message>
-    <message>
-        <source>A window holds one label: only the first file was opened.</source>
-        <translation>Une fenêtre affiche une seule étiquette&#xa0;: seul le premier fichier a été ouvert.</translation>
+        <source>Manual</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -2776,7 +3770,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Written: %1</source>
-        <translation>Écrit&#xa0;: %1</translation>
+        <translation>Écrit : %1</translation>
     </message>
     <message>
         <source>%1 files written</source>
@@ -2803,15 +3797,113 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Impression arrêtée</translation>
     </message>
     <message>
-        <source>%1 pages were given to the printer</source>
-        <translation>%1 pages transmises à l’imprimante</translation>
+        <source>Print to PDF</source>
+        <translation>Imprimer en PDF</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>Documents PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Cannot write "%1": %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Impossible de créer un dossier temporaire : %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) given to printer %1</source>
+        <translation>
+            <numerusform>%n page transmise à l’imprimante %1</numerusform>
+            <numerusform>%n pages transmises à l’imprimante %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
-    <name>window::OutputJob</name>
+    <name>window::PagePreview</name>
     <message>
-        <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
-        <translation>L’imprimante n’a pas accepté les pages. Vérifiez qu’elle est allumée et connectée, ou créez un fichier PDF avec «&#xa0;Exporter&#xa0;».</translation>
+        <source>Preview of the page</source>
+        <translation>Aperçu de la page</translation>
+    </message>
+</context>
+<context>
+    <name>window::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplaires</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimer</translation>
+    </message>
+    <message>
+        <source>PDF file</source>
+        <translation>Fichier PDF</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Pr&amp;inter</source>
+        <translation>I&amp;mprimante</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Enregistrements</translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation>&amp;Exemplaires</translation>
+    </message>
+    <message>
+        <source>Labels to print</source>
+        <translation>Étiquettes à imprimer</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <translation>&amp;Ajouter…</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>Adds labels of other files to the print</source>
+        <translation>Ajoute des étiquettes d’autres fichiers à l’impression</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>Add Labels</source>
+        <translation>Ajouter des étiquettes</translation>
+    </message>
+    <message>
+        <source>Labels (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;All files (*)</source>
+        <translation>Étiquettes (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -2838,35 +3930,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Save the changes to “%1”?</source>
-        <translation>Enregistrer les modifications de «&#xa0;%1&#xa0;»&#xa0;?</translation>
+        <translation>Enregistrer les modifications de « %1 » ?</translation>
     </message>
     <message>
         <source>Changes that are not saved will be lost.</source>
         <translation>Les modifications non enregistrées seront perdues.</translation>
-    </message>
-    <message>
-        <source>Save Imported Label</source>
-        <translation>Enregistrer l’étiquette importée</translation>
-    </message>
-    <message>
-        <source>“%1” exists already.</source>
-        <translation>«&#xa0;%1&#xa0;» existe déjà.</translation>
-    </message>
-    <message>
-        <source>The label was imported. It can replace that file, be saved under another name, or be saved later.</source>
-        <translation>L’étiquette a été importée. Elle peut remplacer ce fichier, être enregistrée sous un autre nom ou être enregistrée plus tard.</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Remplacer</translation>
-    </message>
-    <message>
-        <source>&amp;Other Name…</source>
-        <translation>&amp;Autre nom…</translation>
-    </message>
-    <message>
-        <source>Save &amp;Later</source>
-        <translation>Enregistrer plus &amp;tard</translation>
     </message>
     <message>
         <source>Open Label</source>
@@ -2879,6 +3947,21 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>LabelPort Workbench</source>
         <translation>LabelPort Workbench</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>window::PropertyDelegate</name>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter ends editing, Esc cancels it</source>
+        <translation>Ctrl+Entrée termine la modification, Échap l’annule</translation>
     </message>
 </context>
 <context>
@@ -2899,8 +3982,12 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
 <context>
     <name>window::PropertyPanel</name>
     <message>
-        <source>Properties of the selected item</source>
-        <translation>Propriétés de l’objet sélectionné</translation>
+        <source>Properties of the selected items</source>
+        <translation>Propriétés des objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>Modifier %1</translation>
     </message>
 </context>
 <context>
@@ -2935,6 +4022,37 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
+    <name>window::ReplacementFile</name>
+    <message>
+        <source>Replace Picture</source>
+        <translation>Remplacer l’image</translation>
+    </message>
+    <message>
+        <source>Cannot use "%1": %2</source>
+        <translation>Impossible d’utiliser « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation>L’image est trop grande.</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;All files (*)</source>
+        <translation>Images (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Replace Symbol</source>
+        <translation>Remplacer le symbole</translation>
+    </message>
+    <message>
+        <source>Drawings (*.svg);;All files (*)</source>
+        <translation>Dessins (*.svg);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The file is not an SVG drawing, or it is too large.</source>
+        <translation>Le fichier n’est pas un dessin SVG, ou il est trop grand.</translation>
+    </message>
+</context>
+<context>
     <name>window::RuledCanvas</name>
     <message>
         <source>Change between millimeters and inches</source>
@@ -2957,6 +4075,108 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
+    <name>window::SelectionTool</name>
+    <message>
+        <source>Rotate</source>
+        <translation>Pivoter</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+</context>
+<context>
+    <name>window::SheetEditor</name>
+    <message>
+        <source>%1 – %2 × %3 labels of %4 × %5 mm</source>
+        <translation>%1 – %2 × %3 étiquettes de %4 × %5 mm</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Width of a label</source>
+        <translation>Largeur d’une étiquette</translation>
+    </message>
+    <message>
+        <source>Height of a label</source>
+        <translation>Hauteur d’une étiquette</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Marge gauche</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Marge supérieure</translation>
+    </message>
+    <message>
+        <source>Gap between columns</source>
+        <translation>Espace entre colonnes</translation>
+    </message>
+    <message>
+        <source>Gap between rows</source>
+        <translation>Espace entre lignes</translation>
+    </message>
+    <message>
+        <source>First free position</source>
+        <translation>Première position libre</translation>
+    </message>
+    <message>
+        <source>Crop &amp;marks</source>
+        <translation>T&amp;raits de coupe</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>P&amp;apier</translation>
+    </message>
+    <message>
+        <source>The label's own size (%1 × %2 mm)</source>
+        <translation>La taille de l’étiquette (%1 × %2 mm)</translation>
+    </message>
+    <message>
+        <source>%1, as many labels as fit</source>
+        <translation>%1, autant d’étiquettes que possible</translation>
+    </message>
+    <message>
+        <source>Sheet with the measures below</source>
+        <translation>Planche avec les mesures ci-dessous</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Columns, rows</source>
+        <translation>Colonnes, lignes</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Étiquette</translation>
+    </message>
+    <message>
+        <source>Left, top margin</source>
+        <translation>Marge gauche, supérieure</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Espaces</translation>
+    </message>
+    <message>
+        <source>&amp;First free position</source>
+        <translation>&amp;Première position libre</translation>
+    </message>
+</context>
+<context>
     <name>window::ShortcutsDialog</name>
     <message>
         <source>Canvas</source>
@@ -2968,7 +4188,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Arrow keys; further with Shift, a little with Ctrl</source>
-        <translation>Touches fléchées&#xa0;; plus loin avec Maj, un peu avec Ctrl</translation>
+        <translation>Touches fléchées ; plus loin avec Maj, un peu avec Ctrl</translation>
     </message>
     <message>
         <source>Select nothing</source>
@@ -3012,14 +4232,92 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
+    <name>window::SourceCommands</name>
+    <message>
+        <source>Connect CSV File</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Edit Data Source</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>window::SourceDialog</name>
+    <message>
+        <source>Shows</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Compteur</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>S&amp;tep</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Digits, with zeros in front</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Text &amp;before</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Text &amp;after</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Date and Time</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Date</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>List of Texts</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Texts, one on each line</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Texts</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>One text on each line; \n is a line break in a text.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1 (%2 records)</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
     <name>window::SourcePanel</name>
     <message>
         <source>Data sources of the label</source>
         <translation>Sources de données de l’étiquette</translation>
-    </message>
-    <message>
-        <source>&amp;Record</source>
-        <translation>Enre&amp;gistrement</translation>
     </message>
     <message>
         <source>Number of the record that is shown</source>
@@ -3028,6 +4326,10 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>of %1</source>
         <translation>sur %1</translation>
+    </message>
+    <message>
+        <source>Record &amp;number</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -3068,6 +4370,14 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <source>Shows now</source>
         <translation>Valeur actuelle</translation>
     </message>
+    <message>
+        <source>CSV file</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>window::StatusLine</name>
@@ -3078,6 +4388,18 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Zoom in percent of the printed size</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Whole label</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -3251,15 +4573,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Saved labels (*.label) and legacy ones: binary canvas files (*.cnv, *.roc), XML labels (*.qmtx), OpenDocument texts and drawings (*.odt, *.odg)</source>
-        <translation>Étiquettes enregistrées (*.label) et anciennes&#xa0;: fichiers canvas binaires (*.cnv, *.roc), étiquettes XML (*.qmtx), textes et dessins OpenDocument (*.odt, *.odg)</translation>
+        <translation>Étiquettes enregistrées (*.label) et anciennes : fichiers canvas binaires (*.cnv, *.roc), étiquettes XML (*.qmtx), textes et dessins OpenDocument (*.odt, *.odg)</translation>
     </message>
     <message>
         <source>&amp;Open a Label…</source>
         <translation>&amp;Ouvrir une étiquette…</translation>
-    </message>
-    <message>
-        <source>&amp;Import a Legacy Label…</source>
-        <translation>&amp;Importer une ancienne étiquette…</translation>
     </message>
 </context>
 <context>
@@ -3280,55 +4598,63 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <source>Issues</source>
         <translation>Problèmes</translation>
     </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation>Original</translation>
+    </message>
 </context>
 <context>
     <name>window::WindowPicture</name>
     <message>
-        <source>Cannot write &quot;%1&quot;.</source>
-        <translation>Impossible d’écrire «&#xa0;%1&#xa0;».</translation>
+        <source>Cannot write "%1".</source>
+        <translation>Impossible d’écrire « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>workbench::BarcodeEncoder</name>
     <message>
         <source>%1: the content has a length that this kind of barcode does not take%2.</source>
-        <translation>%1&#xa0;: la longueur du contenu n’est pas admise pour ce type de code-barres%2.</translation>
+        <translation>%1 : la longueur du contenu n’est pas admise pour ce type de code-barres%2.</translation>
     </message>
     <message>
         <source>%1: the content does not suit this kind of barcode%2.</source>
-        <translation>%1&#xa0;: le contenu ne convient pas à ce type de code-barres%2.</translation>
+        <translation>%1 : le contenu ne convient pas à ce type de code-barres%2.</translation>
     </message>
     <message>
         <source>%1: the content ends in a wrong check digit%2.</source>
-        <translation>%1&#xa0;: le contenu se termine par un chiffre de contrôle erroné%2.</translation>
+        <translation>%1 : le contenu se termine par un chiffre de contrôle erroné%2.</translation>
     </message>
     <message>
-        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
-        <translation>%1&#xa0;: le contenu est incompatible avec les réglages du code-barres%2.</translation>
+        <source>%1: the content does not go together with the barcode's settings%2.</source>
+        <translation>%1 : le contenu est incompatible avec les réglages du code-barres%2.</translation>
     </message>
     <message>
         <source>%1: the content is too much for the memory%2.</source>
-        <translation>%1&#xa0;: mémoire insuffisante pour le contenu%2.</translation>
+        <translation>%1 : mémoire insuffisante pour le contenu%2.</translation>
     </message>
     <message>
         <source>%1: the content cannot be encoded%2.</source>
-        <translation>%1&#xa0;: le contenu ne peut pas être encodé%2.</translation>
+        <translation>%1 : le contenu ne peut pas être encodé%2.</translation>
     </message>
     <message>
         <source>There is not enough memory for the barcode.</source>
         <translation>Mémoire insuffisante pour le code-barres.</translation>
     </message>
     <message>
-        <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
-        <translation>%1&#xa0;: le contenu doit comporter une partie linéaire, un «&#xa0;|&#xa0;» et une seconde partie.</translation>
+        <source>%1: the content needs a linear part, a "|" and a second part.</source>
+        <translation>%1 : le contenu doit comporter une partie linéaire, un « | » et une seconde partie.</translation>
     </message>
     <message>
         <source>%1: the content is too long for any barcode.</source>
-        <translation>%1&#xa0;: le contenu est trop long pour un code-barres.</translation>
+        <translation>%1 : le contenu est trop long pour un code-barres.</translation>
     </message>
     <message>
         <source>%1: the content gives no bars at all.</source>
-        <translation>%1&#xa0;: le contenu ne produit aucune barre.</translation>
+        <translation>%1 : le contenu ne produit aucune barre.</translation>
     </message>
     <message>
         <source>The label asks for a kind of barcode that is not known (number %1).</source>
@@ -3336,18 +4662,69 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>%1: there is no content to encode.</source>
-        <translation>%1&#xa0;: aucun contenu à encoder.</translation>
+        <translation>%1 : aucun contenu à encoder.</translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CsvTable</name>
+    <message>
+        <source>Line %1 has more than %2 columns.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Line %1 has text after a closing quotation mark.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The quotation mark that begins in line %1 is not closed.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Line %1 has %2 fields; the first line has %3.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file has more than %1 cells.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file has more than %1 bytes.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file is not a text in this encoding.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The file has no records.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>"%1" is not a file.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Cannot open "%1": %2.</source>
+        <translation type="unfinished">Impossible d’ouvrir « %1 » : %2. {1"?}</translation>
+    </message>
+    <message>
+        <source>Cannot read "%1": %2.</source>
+        <translation>Impossible de lire « %1 » : %2.</translation>
     </message>
 </context>
 <context>
     <name>workbench::FailureWords</name>
     <message>
         <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
-        <translation>Ce n’est pas une étiquette binaire, ou sa version n’est pas prise en charge&#xa0;: le fichier a la version %1, la plus ancienne version prise en charge est 2000016.</translation>
+        <translation>Ce n’est pas une étiquette binaire, ou sa version n’est pas prise en charge : le fichier a la version %1, la plus ancienne version prise en charge est 2000016.</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the first object has the unknown type %1.</source>
-        <translation>Ce n’est pas une étiquette, ou elle est endommagée&#xa0;: le premier objet a le type inconnu %1.</translation>
+        <translation>Ce n’est pas une étiquette, ou elle est endommagée : le premier objet a le type inconnu %1.</translation>
     </message>
     <message>
         <source>Cannot open the file.</source>
@@ -3355,23 +4732,23 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The document is damaged: %1 is not well-formed at line %2, column %3 (%4).</source>
-        <translation>Le document est endommagé&#xa0;: %1 n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
+        <translation>Le document est endommagé : %1 n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 (%4).</source>
-        <translation>Ce n’est pas une étiquette, ou elle est endommagée&#xa0;: le XML n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
+        <translation>Ce n’est pas une étiquette, ou elle est endommagée : le XML n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
     </message>
     <message>
-        <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
-        <translation>Le fichier est en XML, mais n’est pas une étiquette&#xa0;: son élément racine n’est pas «&#xa0;qmtx&#xa0;».</translation>
+        <source>The file is XML, but not a label: its root element is not "qmtx".</source>
+        <translation>Le fichier est en XML, mais n’est pas une étiquette : son élément racine n’est pas « qmtx ».</translation>
     </message>
     <message>
         <source>Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.</source>
-        <translation>Ce n’est pas un fichier OpenDocument, ou il est endommagé&#xa0;: styles.xml est absent ou illisible.</translation>
+        <translation>Ce n’est pas un fichier OpenDocument, ou il est endommagé : styles.xml est absent ou illisible.</translation>
     </message>
     <message>
         <source>The OpenDocument file is damaged: content.xml is missing or unreadable.</source>
-        <translation>Le fichier OpenDocument est endommagé&#xa0;: content.xml est absent ou illisible.</translation>
+        <translation>Le fichier OpenDocument est endommagé : content.xml est absent ou illisible.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
@@ -3410,7 +4787,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The file cannot be opened: %1.</source>
-        <translation>Impossible d’ouvrir le fichier&#xa0;: %1.</translation>
+        <translation>Impossible d’ouvrir le fichier : %1.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -3421,12 +4798,12 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Le lien pointe vers un fichier qui n’existe pas.</translation>
     </message>
     <message>
-        <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
-        <translation>Le fichier est une archive zip, comme les fichiers OpenDocument, mais il a été lu comme «&#xa0;%1&#xa0;». S’il s’agit d’un fichier OpenDocument, renommez-le pour qu’il se termine par «&#xa0;.odt&#xa0;» ou «&#xa0;.odg&#xa0;», ou utilisez --reader %2.</translation>
+        <source>The file is a zip package, as OpenDocument files are, but it was read as "%1". If it is an OpenDocument file, rename it so that it ends in ".odt" or ".odg", or use --reader %2.</source>
+        <translation>Le fichier est une archive zip, comme les fichiers OpenDocument, mais il a été lu comme « %1 ». S’il s’agit d’un fichier OpenDocument, renommez-le pour qu’il se termine par « .odt » ou « .odg », ou utilisez --reader %2.</translation>
     </message>
     <message>
-        <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
-        <translation>Le fichier est en XML, mais il a été lu comme «&#xa0;%1&#xa0;». S’il s’agit d’une étiquette XML, renommez-le pour qu’il se termine par «&#xa0;.qmtx&#xa0;», ou utilisez --reader %2.</translation>
+        <source>The file is XML, but it was read as "%1". If it is an XML label, rename it so that it ends in ".qmtx", or use --reader %2.</source>
+        <translation>Le fichier est en XML, mais il a été lu comme « %1 ». S’il s’agit d’une étiquette XML, renommez-le pour qu’il se termine par « .qmtx », ou utilisez --reader %2.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Open it in an office program, save it without a password, and import it again.</source>
@@ -3436,20 +4813,20 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
 <context>
     <name>workbench::IssueWords</name>
     <message>
-        <source>Left out an object of the unknown type &quot;%1&quot;.</source>
-        <translation>Un objet du type inconnu «&#xa0;%1&#xa0;» a été omis.</translation>
+        <source>Left out an object of the unknown type "%1".</source>
+        <translation>Un objet du type inconnu « %1 » a été omis.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported from it.</source>
-        <translation>Le document n’est ni un texte ni un dessin&#xa0;; rien n’en a été importé.</translation>
+        <translation>Le document n’est ni un texte ni un dessin ; rien n’en a été importé.</translation>
     </message>
     <message>
         <source>The file continues with an object of the unknown type %1; the rest was not read.</source>
-        <translation>Le fichier se poursuit par un objet du type inconnu %1&#xa0;; le reste n’a pas été lu.</translation>
+        <translation>Le fichier se poursuit par un objet du type inconnu %1 ; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>Left out symbols: neither the file nor the symbol databases contain their drawings.</source>
-        <translation>Des symboles ont été omis&#xa0;: ni le fichier ni les bases de symboles ne contiennent leurs dessins.</translation>
+        <translation>Des symboles ont été omis : ni le fichier ni les bases de symboles ne contiennent leurs dessins.</translation>
     </message>
     <message>
         <source>Left out barcodes of unsupported types.</source>
@@ -3457,7 +4834,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The database is no longer connected; the label shows its last values.</source>
-        <translation>La base de données n’est plus connectée&#xa0;; l’étiquette affiche ses dernières valeurs.</translation>
+        <translation>La base de données n’est plus connectée ; l’étiquette affiche ses dernières valeurs.</translation>
     </message>
     <message>
         <source>Left out an object that the program could not create.</source>
@@ -3485,11 +4862,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The file has too many objects; the rest was not read.</source>
-        <translation>Le fichier contient trop d’objets&#xa0;; le reste n’a pas été lu.</translation>
+        <translation>Le fichier contient trop d’objets ; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>Further texts were stretched; they are not listed.</source>
-        <translation>D’autres textes ont été étirés&#xa0;; ils ne sont pas listés.</translation>
+        <translation>D’autres textes ont été étirés ; ils ne sont pas listés.</translation>
     </message>
     <message>
         <source>A file in the package is missing, damaged or too large.</source>
@@ -3500,19 +4877,19 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Un dessin qui ne peut pas être converti a été omis.</translation>
     </message>
     <message>
-        <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
-        <translation>Le texte «&#xa0;%1&#xa0;» a été étiré&#xa0;; sa taille de police était %2 pt.</translation>
+        <source>Text "%1" was stretched; its font size was %2 pt.</source>
+        <translation>Le texte « %1 » a été étiré ; sa taille de police était %2 pt.</translation>
     </message>
 </context>
 <context>
     <name>workbench::LabelFile</name>
     <message>
         <source>The label cannot be saved as %1: %2.</source>
-        <translation>Impossible d’enregistrer l’étiquette sous %1&#xa0;: %2.</translation>
+        <translation>Impossible d’enregistrer l’étiquette sous %1 : %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be opened: %2.</source>
-        <translation>Impossible d’ouvrir le fichier %1&#xa0;: %2.</translation>
+        <translation>Impossible d’ouvrir le fichier %1 : %2.</translation>
     </message>
     <message>
         <source>it has more than %1 items</source>
@@ -3532,7 +4909,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: its data sources do not fit together.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: ses sources de données sont incohérentes.</translation>
+        <translation>Le fichier d’étiquette est endommagé : ses sources de données sont incohérentes.</translation>
     </message>
     <message>
         <source>The file is not a saved label.</source>
@@ -3540,27 +4917,27 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: version is not a positive whole number.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: version doit être un nombre entier positif.</translation>
+        <translation>Le fichier d’étiquette est endommagé : version doit être un nombre entier positif.</translation>
     </message>
     <message>
         <source>The label was saved by a newer version of the program: its format is %1, and this version knows formats up to %2. Update the program to open it.</source>
-        <translation>L’étiquette a été enregistrée par une version plus récente du programme&#xa0;: son format est %1, et cette version prend en charge les formats jusqu’à %2. Mettez le programme à jour pour l’ouvrir.</translation>
+        <translation>L’étiquette a été enregistrée par une version plus récente du programme : son format est %1, et cette version prend en charge les formats jusqu’à %2. Mettez le programme à jour pour l’ouvrir.</translation>
     </message>
     <message>
         <source>The label file is damaged: label is missing.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: label est absent.</translation>
+        <translation>Le fichier d’étiquette est endommagé : label est absent.</translation>
     </message>
     <message>
         <source>The label file is damaged: its content has changed since it was saved.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: son contenu a changé depuis son enregistrement.</translation>
+        <translation>Le fichier d’étiquette est endommagé : son contenu a changé depuis son enregistrement.</translation>
     </message>
     <message>
         <source>The file is not a saved label, or it is damaged: after %1 bytes it cannot be read any further.</source>
-        <translation>Le fichier n’est pas une étiquette enregistrée, ou il est endommagé&#xa0;: il est illisible après %1 octets.</translation>
+        <translation>Le fichier n’est pas une étiquette enregistrée, ou il est endommagé : il est illisible après %1 octets.</translation>
     </message>
     <message>
         <source>The label file is damaged: %1.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: %1.</translation>
+        <translation>Le fichier d’étiquette est endommagé : %1.</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
@@ -3568,11 +4945,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: it holds more than any label.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: son contenu dépasse les limites d’une étiquette.</translation>
+        <translation>Le fichier d’étiquette est endommagé : son contenu dépasse les limites d’une étiquette.</translation>
     </message>
     <message>
         <source>The label file is damaged: its pictures are too large.</source>
-        <translation>Le fichier d’étiquette est endommagé&#xa0;: ses images sont trop grandes.</translation>
+        <translation>Le fichier d’étiquette est endommagé : ses images sont trop grandes.</translation>
     </message>
 </context>
 <context>
@@ -3585,8 +4962,8 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
 <context>
     <name>workbench::PageExport</name>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
-        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot write "%1": %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
     </message>
     <message>
         <source>The page is longer than %1 points, the most that a PDF document can have.</source>
@@ -3612,8 +4989,8 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Mémoire insuffisante pour une image de %1 sur %2 pixels.</translation>
     </message>
     <message>
-        <source>Cannot write &quot;%1&quot;: %2.</source>
-        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+        <source>Cannot write "%1": %2.</source>
+        <translation>Impossible d’écrire « %1 » : %2.</translation>
     </message>
 </context>
 <context>

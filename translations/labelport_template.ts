@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no labels in “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot open “%1”: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
@@ -196,6 +239,10 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <source>The worker process exited twice with status %1; please report the file.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The import was stopped twice because it tried something that its sandbox forbids. Do not trust the file, and please report it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>cli::ExistingOutput</name>
@@ -247,26 +294,6 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>vector drawing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>document, a page for each record</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>saved label, to open and edit again</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Read (import, inspect):</source>
         <translation type="unfinished"></translation>
     </message>
@@ -286,6 +313,26 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <source>formats takes no files.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>1 and 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 labels of %3 × %4 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheets (--sheet):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plain paper, with as many labels as fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sandbox in which files are read, on this system: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportCommand</name>
@@ -293,19 +340,16 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <source>Stopped. Repeat the command with --resume to continue.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message numerus="yes">
-        <source>%n file(s) imported incompletely.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
     <message>
         <source>Cannot search folder &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>No labels to import.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -362,6 +406,47 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <source>--base has no effect without --files-from or a named file in a subfolder of that folder.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; ends in none of the targets&apos; suffixes; specify one with --to: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> or </source>
+        <extracomment>between the last two targets: &quot;pdf or zpl&quot;</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 expects one of %2 for the target %3, not &quot;%4&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 has no effect without --to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--output and --%1 exclude each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 prints on standard output, as --output - does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--output needs a file name, one input file and one target.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--json and --print0 exclude each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown sheet &quot;%1&quot;. &quot;labelport formats&quot; lists the sheets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 has no effect without --sheet.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportReporter</name>
@@ -404,6 +489,18 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <source>%1 (%2 times)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Page %1 could not be imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the first %1 of %2 pages were imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>cli::InspectCommand</name>
@@ -438,6 +535,21 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
 </context>
 <context>
+    <name>cli::LossSummary</name>
+    <message>
+        <source>Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All details: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All details: add --report report.html, or run labelport inspect on a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>cli::Main</name>
     <message>
         <source>Usage: labelport COMMAND [ARGUMENT...]
@@ -446,23 +558,6 @@ Imports legacy label templates (*.cnv and *.roc, *.qmtx, *.odt and *.odg) and op
 LabelPort (*.label). Help of a command: labelport COMMAND --help
 
 Commands:
-</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>
-  --help           show this help
-  --version        show the version
-
-Examples:
-  labelport import shelf.odg
-  labelport import archive --to png,label --output-dir new --report report.html
-  labelport import asset.label --to pdf --records all
-  labelport inspect shelf.odg
-  labelport trace shelf.odg
-
-Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
-(import --fail-on-loss), 130 stopped by a signal.
 </source>
         <translation type="unfinished"></translation>
     </message>
@@ -476,6 +571,25 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
     </message>
     <message>
         <source>Help: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  --help           show this help
+  --version        show the version
+
+Examples:
+  labelport import shelf.odg
+  labelport import archive --to png,label --output-dir new --report report.html
+  labelport import asset.label --to pdf --records all
+  labelport print asset.label --printer zebra --records 1-40
+  labelport inspect shelf.odg
+  labelport records asset.qmtx --to records.csv
+  labelport trace shelf.odg
+
+Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not imported completely
+(import --fail-on-loss), 130 stopped by a signal.
+</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -510,10 +624,6 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>What to write: png, svg, pdf, label; several with commas (default: png).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>folder</source>
         <translation type="unfinished"></translation>
     </message>
@@ -526,15 +636,7 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Resolution of pictures in dots per inch, 10 to 2400 (default: 300).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>range</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page for each record.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -614,25 +716,6 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
-and writes them as pictures, drawings, documents or saved labels. A folder is searched with
-its subfolders for files with these suffixes. The files written are listed on standard
-output, in the order of the names of the inputs.
-
-Examples:
-  labelport import shelf.odg
-  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
-  labelport import asset.label --to pdf --records all
-  labelport import archive --output-dir new --to label --report report.html
-  labelport import archive --output-dir new --to label --resume
-  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
-  curl -s https://labels.example/shelf.odg | labelport import -
-
-Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
-imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shows what one label contains, and what of it is imported. Writes no files.
 
 Examples:
@@ -648,14 +731,6 @@ would have written.
 Examples:
   labelport report merge part-1.json part-2.json --to all.html
   labelport report merge part-*.json --to all.json --to all.html</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Lists the formats that labelport reads, with their versions, and the formats that it writes.
-
-Examples:
-  labelport formats
-  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -697,6 +772,171 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
+and writes them as pictures, drawings, documents or saved labels. A folder is searched with
+its subfolders for files with these suffixes. The files written are listed on standard
+output, in the order of the names of the inputs.
+
+Examples:
+  labelport import shelf.odg
+  labelport import shelf.odg -o label.svg
+  labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
+  labelport import asset.label --to pdf --records all
+  labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
+  labelport import archive --output-dir new --to label --report report.html
+  labelport import archive --output-dir new --to label --resume
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
+  curl -s https://labels.example/shelf.odg | labelport import -
+
+Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
+imported completely (with --fail-on-loss), 130 stopped by a signal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints labels through CUPS, each on paper of its own size, or on sheets. All labels of the
+same paper are one job of the printer. If a label cannot be printed, nothing is. The
+identifiers of the jobs are listed on standard output.
+
+Examples:
+  labelport print asset.label --printer zebra --records 1-40 --copies 2
+  labelport print new/*.label --sheet L7160 --first-position 5
+
+Exit status: 0 printed, 1 a label or the printer failed, 2 wrong usage.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists what each item shows that is bound to a data source (a counter, a list, a date), as
+a CSV table: a line for each record, a column for each item.
+
+Examples:
+  labelport records asset.qmtx --to records.csv
+  labelport records asset.label --records 1-50 | column -t -s ,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the formats that labelport reads, with their versions, the formats that it writes, and the
+sheets for --sheet.
+
+Examples:
+  labelport formats
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import nothing unless the files are read in a complete sandbox; see &quot;labelport formats&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other plain paper; see labelport formats. Default: paper of the label&apos;s size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First free label of the first sheet, counted from 1 along the rows (default: 1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies of each record, one after the other, in documents, printer files and prints (default: 1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print marks on the edges of sheets that show where to cut.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import OpenDocument files without repairing them first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, zpl, csv, label; several with commas (default: png).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File to write the only input to; - is standard output. Without --to, its suffix selects the target.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resolution of pictures in dots per inch, 10 to 2400; of a label printer 203, 300 or 600 (default: 300).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page and a printer file one label for each record.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Let the label printer draw barcodes and lines where it can, and advance counters. Otherwise labels are pictures and exact.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print an event in JSON for each file, instead of the names of the files written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer to use; lpstat -e lists all (default: the default printer).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records of the labels&apos; data sources: a number, a range such as 3-12 or 3-, or all (default: the first).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV file to write; - is standard output (default: -).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records to list: a number, a range such as 3-12 or 3-, or all (default: all).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overwrite an existing file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>print labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label to print; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list what bound items show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label to read; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::PrintCommand</name>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot print: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file to print.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input can be given only once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>cli::RecordsCommand</name>
+    <message>
+        <source>records needs exactly one file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--to needs a file name.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -747,6 +987,10 @@ Lines, then the final state of the items.</source>
         <source>Cannot write to standard output: %1.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>console::StandardInput</name>
@@ -760,6 +1004,207 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Standard input is longer than any label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>exporting::ExportFile</name>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Glabels</name>
+    <message>
+        <source>Only the first records are in the CSV file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no such shape.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no gradients and no hatches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no dashed lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no round or beveled corners.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no arrows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no round line ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A large picture was scaled down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no such text format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The content cannot be encoded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode: it shows the first record only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels cannot encode some of the records.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It shows the first record only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Targets</name>
+    <message>
+        <source>Re&amp;solution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>resolution in dots per inch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dpi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>copies of each record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sheet of labels, or paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First &amp;label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>first free label of the first sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;rop marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>marks on sheets that show where to cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Printer resolution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>resolution of the label printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Barcodes, lines and counters by the printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>let the printer draw barcodes and lines, and advance counters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PNG picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PNG pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vector drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>document, a page for each record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ZPL for label printers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>commands for a label printer, a label for each record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV table of records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>table of what bound items show, a line for each record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LabelPort label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LabelPort labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>saved label, to open and edit again</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -845,6 +1290,14 @@ Lines, then the final state of the items.</source>
         <source>a known status</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>a list of whole numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list of rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>migration::Census</name>
@@ -927,17 +1380,21 @@ Lines, then the final state of the items.</source>
         <source>Imported with changes</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Repaired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show a larger picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document&apos;s own picture of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>migration::HtmlPage</name>
-    <message>
-        <source>with losses</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>not imported</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>What was lost or changed</source>
         <translation type="unfinished"></translation>
@@ -960,10 +1417,6 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>imported</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1023,14 +1476,6 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>imported completely</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>changed in looks, nothing lost</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Imported %1 of %2 objects in these files.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1052,6 +1497,30 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>%1 of %2 files imported completely</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that were read without a complete sandbox: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>timed out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1113,6 +1582,18 @@ Lines, then the final state of the items.</source>
         <source>Warnings:</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Sandbox: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repaired:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>migration::ItemLosses</name>
@@ -1132,15 +1613,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save each page as a document of its own and import those.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Objects of the page&apos;s background (its master page) were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy them from the master page to the page itself and import again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1148,15 +1621,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Draw them as plain lines.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Curves, free polygons and polylines were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Convert them to a picture or to plain shapes.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1165,10 +1630,6 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>Three-dimensional objects were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Convert them to a picture.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1184,15 +1645,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Anchor them to the page.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Texts and objects in tables were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Put them into text boxes.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1204,23 +1657,11 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Remove the section and keep its content.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Texts and objects of the header or footer were left out.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Copy them into the document itself.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Texts of hyperlinks were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Remove the hyperlinks and keep their texts.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1232,10 +1673,6 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Put their texts into text boxes.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Comments were left out; they are not printed.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1244,23 +1681,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Nothing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open the file in its own program and save it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Picture boxes without a picture were left out.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Look for another copy of the file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy its content into a drawing.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1288,31 +1709,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Open the document in its own program, ungroup the objects, save it and import it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Replace each callout with a text and a line.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Replace each control with a text if it should be printed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Copy the label into a drawing.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Turn bullets and numbering off, so that the list becomes plain paragraphs.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Replace each field with its text.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1320,27 +1717,11 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Compare the texts with the original label.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Texts of shapes were left out because they do not begin with a plain paragraph.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Change them to plain paragraphs.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing, unless you need them.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Objects were left out because their type is unknown.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Draw them as shapes that labels support.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1352,15 +1733,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Add the picture to the original file and import it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the pictures as PNG in the original file and import it again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1368,15 +1741,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Convert the drawings to PNG in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Symbols were left out because neither the file nor the symbol databases contain their drawings.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the label with the latest version of its own program, which stores the drawings, or add the symbols to the symbol databases.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1384,15 +1749,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Change the barcode type in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file continues with an unknown record; the rest was not read.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is damaged or of a newer version. Look for another copy.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1408,23 +1765,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Reduce the number of objects or the size of the pictures.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Objects of the file are missing on the label, without a reported reason.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Compare with the original label, and report the file as a bug.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The log was cut: there may be losses that are not listed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Compare with the original label.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1432,15 +1773,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Replace them with supported shapes in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Items are no longer bound to their data source: they show their last value.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bind the items to a data source in the new label editor.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1448,15 +1781,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Connect the data in the new label editor.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Texts with a placeholder among other words show only the value of the data source.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the other words into separate texts, or into the data source.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1468,19 +1793,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Correct the content or the barcode type in the original file and import it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Scan the original label to find the correct type.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Items are completely outside the page: they are not printed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the items onto the page.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1492,35 +1805,11 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The document uses millimeters: the label is ten times larger than the paper.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Print at a tenth of the size, or save the document with centimeters or inches as its unit.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Lengths are not in the unit of the page, but were read as if they were.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save the document with a single unit.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The unit of the page is unknown: its lengths were read as inches.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save the document with centimeters or inches as its unit.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The page has another size than in the file, which defines no size or several.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the page size in the original file and import it again.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1529,10 +1818,6 @@ Lines, then the final state of the items.</source>
     </message>
     <message>
         <source>The margins of the page were dropped: the text begins in the corner.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the texts in the new label.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1548,27 +1833,7 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Install the fonts and import again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Stretched texts are no longer stretched.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set a suitable font size.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Set the color in the new label editor.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Split the text into paragraphs.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Choose a plain fill in the original file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1576,7 +1841,107 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Read the warnings, and compare with the original label.</source>
+        <source>If the document was imported as written, import it without --as-written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts of lines and dimension lines were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the symbols to the symbol databases and import again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The log was cut, or the label is too large to compare: there may be losses that are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind the items to a data source in labelport-workbench.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Correct the content or the type in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose the type in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the items onto the page in labelport-workbench.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document uses millimeters: the label is a hundred times larger than the paper. Fonts and lines did not grow with it, so that texts are hardly visible.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The unit of the page is not supported: its lengths were read as inches, so that points become 72 times too large. Fonts and lines did not grow with them, so that texts are hardly visible.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Install the fonts and import again, or choose another font in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set the font size in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts differ from the document: words run together, or line breaks or words are missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or correct the text in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts can hardly be read: their color is too similar to what is under them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or set the color in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts are printed over each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or move the texts in labelport-workbench.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items are covered by others, which they are not in the document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If the document was imported as written, import it without --as-written. Or move the items in labelport-workbench.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items have another place or size than in the document, by more than 1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirrored shapes are no longer mirrored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items cannot be seen, because they have the color of what is under them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose another fill in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boxes are filled that are not filled in the document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines are more than a quarter thinner or thicker than in the document.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1644,38 +2009,84 @@ Lines, then the final state of the items.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Nothing was lost; looks or content changed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>migration::Totals</name>
-    <message>
         <source>imported completely</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>changed in looks</source>
+        <source>imported with changes</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>with losses</source>
+        <source>The content is complete; looks changed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>crashed</source>
+        <source>imported with losses</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>timed out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>out of memory</source>
+        <source>Content was lost or changed.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>printing::PrintDocument</name>
+    <message>
+        <source>%1 labels in %2 copies are more than the %3 of one document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet &quot;%1&quot; has no position %2; its positions are 1 to %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>printing::PrintQueue</name>
+    <message>
+        <source>Cannot run &quot;%1&quot;. Install the client commands of CUPS.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The print server does not reply.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>printing::Sheet</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sides of the paper must be from 1 to %1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A sheet has 1 to %1 rows and columns.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sides of a label must be at least 1 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels of the sheet overlap.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The labels of the sheet exceed the paper.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label is %1; the labels of sheet &quot;%2&quot; are only %3.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1757,6 +2168,33 @@ Lines, then the final state of the items.</source>
         <source>%n notes were appended to their text</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%n further pages became labels of their own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document could not be repaired: it was imported as it is written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>sandbox::Confinement</name>
+    <message>
+        <source>files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>system calls</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>trace</name>
@@ -1820,18 +2258,6 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     <name>window::Actions</name>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Opens a saved label or a legacy one</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Imports a legacy label and saves it beside the old file</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2126,6 +2552,222 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>&amp;Help</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Opens a saved label, or imports a legacy one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the labels of a folder with their states</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the previous label of the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the next label of the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies the selected items and deletes them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies the selected items to the clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds the items of the clipboard to the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a copy of each selected item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deletes the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit Te&amp;xt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edits the text of the selected item on the canvas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To Fr&amp;ont</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the selected items above all others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Raise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the selected items above the next item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Lower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the selected items below the next item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To Bac&amp;k</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts the selected items below all others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align Le&amp;ft Edges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aligns the left edges of the selected items; a single item is aligned to the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;Centers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aligns the centers of the selected items on a vertical line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align Ri&amp;ght Edges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aligns the right edges of the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;Top Edges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aligns the top edges of the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;Middles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aligns the centers of the selected items on a horizontal line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;Bottom Edges</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aligns the bottom edges of the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distribute &amp;Horizontally</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes the horizontal gaps between the selected items equal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distribute &amp;Vertically</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes the vertical gaps between the selected items equal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the labels of the folder and moves keyboard focus to them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Original</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the document&apos;s own preview next to the label, with a slider</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Connect CSV File…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows columns of a CSV file in items of the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit Data Source…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes the counter, date, list or file that is selected in the panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the manual of this window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Arrange</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -2137,46 +2779,261 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>The label. The arrow keys move the selected items.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The item has no text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change Text</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>window::DialogImport</name>
+    <name>window::ChangePage</name>
     <message>
-        <source>There is not enough memory for this file.</source>
+        <source>Change Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparisonPanel</name>
+    <message>
+        <source>The original document has no preview.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share of the original</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::ComparisonView</name>
+    <message>
+        <source>Original and label</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::Corrections</name>
+    <message>
+        <source>Replace Font</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Font for all texts in %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rescale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the paper:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind to Data Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label has no data source.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data source:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace F&amp;ont…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set &amp;Color…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;scale…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Bind to Data Source…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::CsvDialog</name>
+    <message>
+        <source>The first line &amp;names the columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items and their columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect CSV File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Items of the label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Detect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UTF-16</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows-1252</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;hoose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Encoding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>– not from this file –</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::EditActions</name>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard contains no items of a label.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read-only items were not deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>window::ExportDialog</name>
     <message>
-        <source>SVG drawings (*.svg)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PNG pictures (*.png)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Browse…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Export Label</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PNG picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>SVG drawing</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDF document</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2192,14 +3049,6 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> dpi</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Resolution in dots per inch</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Format</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2208,19 +3057,11 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Re&amp;solution</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Records</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&amp;Export</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>One document of %1 pages.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2235,23 +3076,49 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>“%1” exists already. Replace it?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One file of %1 records.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>window::IssueListModel</name>
+    <name>window::ImportProcess</name>
     <message>
-        <source>%1 (%2 times)</source>
+        <source>Cannot start the program “%1”: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The label</source>
+        <source>Cannot create a temporary folder: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>About</source>
+        <source>The import ended without a result.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::Issues</name>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not imported</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>What it is</source>
+        <source>Imported with changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2262,7 +3129,27 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>There is nothing to report.</source>
+        <source>%1 (%2 times)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was lost or changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No label is open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you can do</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2397,14 +3284,6 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>End, to the right</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>End, down</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Mark at the start</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2422,10 +3301,6 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Text box</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2493,15 +3368,7 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Option</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture size</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2550,6 +3417,70 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
     <message>
         <source>%1 “%2”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text below the bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blank margins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bearer bars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check digit or columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Symbol size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error correction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>different values</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2612,11 +3543,42 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
 </context>
 <context>
-    <name>window::LabelSession</name>
+    <name>window::LabelListPanel</name>
     <message>
-        <source>The label could not be imported.</source>
+        <source>Filter by name</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Filter by state</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All states</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By state</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels of the folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::LabelSession</name>
     <message>
         <source>“%1” could not be saved.</source>
         <translation type="unfinished"></translation>
@@ -2637,13 +3599,51 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>window::Main</name>
+    <name>window::LabelStates</name>
     <message>
-        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
+        <source>Waiting</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg.</source>
+        <source>Complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With losses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::Locks</name>
+    <message>
+        <source>%1 is read-only. To move it, clear “Read-only” in its properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 belongs to the background. To move it, clear “Background” in its properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is locked. To move it, set “Movable” in its properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::Main</name>
+    <message>
+        <source>Opens legacy label templates, shows them, saves, exports and prints them.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2665,39 +3665,15 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or a folder of labels.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
-    <name>window::MainWindow</name>
+    <name>window::ManualDialog</name>
     <message>
-        <source>LabelPort Workbench</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>LabelPort Workbench %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A window holds one label: only the first file was opened.</source>
+        <source>Manual</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2747,14 +3723,112 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 pages were given to the printer</source>
+        <source>Print to PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s) given to printer %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::PagePreview</name>
+    <message>
+        <source>Preview of the page</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
-    <name>window::OutputJob</name>
+    <name>window::PrintDialog</name>
     <message>
-        <source>The printer did not take the pages. See that it is switched on and connected, or print into a PDF file with “Export”.</source>
+        <source>Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;inter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels to print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds labels of other files to the print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2789,30 +3863,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Save Imported Label</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>“%1” exists already.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The label was imported. It can replace that file, be saved under another name, or be saved later.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Other Name…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Save &amp;Later</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Open Label</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2822,6 +3872,21 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>LabelPort Workbench</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::PropertyDelegate</name>
+    <message>
+        <source>pt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Enter ends editing, Esc cancels it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2843,7 +3908,11 @@ The label is still open. Save it in another folder with “Save As”.</source>
 <context>
     <name>window::PropertyPanel</name>
     <message>
-        <source>Properties of the selected item</source>
+        <source>Properties of the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2879,6 +3948,37 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
+    <name>window::ReplacementFile</name>
+    <message>
+        <source>Replace Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot use &quot;%1&quot;: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawings (*.svg);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not an SVG drawing, or it is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>window::RuledCanvas</name>
     <message>
         <source>Change between millimeters and inches</source>
@@ -2897,6 +3997,108 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>Vertical ruler</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::SelectionTool</name>
+    <message>
+        <source>Rotate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::SheetEditor</name>
+    <message>
+        <source>%1 – %2 × %3 labels of %4 × %5 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of a label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of a label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap between columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap between rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First free position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crop &amp;marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;aper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The label&apos;s own size (%1 × %2 mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, as many labels as fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet with the measures below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns, rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left, top margin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;First free position</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2956,13 +4158,91 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>window::SourcePanel</name>
+    <name>window::SourceCommands</name>
     <message>
-        <source>Data sources of the label</source>
+        <source>Connect CSV File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Record</source>
+        <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit Data Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::SourceDialog</name>
+    <message>
+        <source>Shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;tep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Digits, with zeros in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text &amp;before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text &amp;after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List of Texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts, one on each line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One text on each line; \n is a line break in a text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2 records)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::SourcePanel</name>
+    <message>
+        <source>Data sources of the label</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2971,6 +4251,10 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record &amp;number</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3012,6 +4296,14 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>Shows now</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::StatusLine</name>
@@ -3021,6 +4313,18 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom in percent of the printed size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole label</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3201,10 +4505,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>&amp;Open a Label…</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>&amp;Import a Legacy Label…</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>window::WindowPanels</name>
@@ -3222,6 +4522,14 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>Issues</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3280,6 +4588,57 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>%1: there is no content to encode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>workbench::CsvTable</name>
+    <message>
+        <source>Line %1 has more than %2 columns.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1 has text after a closing quotation mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The quotation mark that begins in line %1 is not closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1 has %2 fields; the first line has %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has more than %1 cells.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has more than %1 bytes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not a text in this encoding.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no records.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
