@@ -72,7 +72,7 @@ set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_DEPENDS
     "${library_package} (= ${package_version}), libqt6sql6-sqlite")
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_RECOMMENDS
-    "cups-client, fonts-liberation, fonts-dejavu-core, qt6-translations-l10n")
+    "cups-client, fonts-liberation, fonts-dejavu-core, qt6-image-formats-plugins, qt6-translations-l10n")
 set(CPACK_DEBIAN_PROGRAMS_DESCRIPTION
 "import legacy label templates, view and convert them
 Imports legacy label templates, whole archives of them at a time, and writes

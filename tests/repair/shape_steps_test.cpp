@@ -7,6 +7,9 @@
 #include "repair/svg_path.h"
 #include "repair/transform.h"
 
+#include <QBuffer>
+#include <QImage>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -146,6 +149,49 @@ TEST(ShapeSteps, SplitCaptions)
     EXPECT_EQ(splitCaptions(document), 1);
     EXPECT_EQ(tags(document), "draw:line draw:rect"_L1);
     EXPECT_EQ(object(document, u"draw:line"_s).attribute(u"svg:x2"), "0.000000in"_L1);
+}
+
+TEST(ShapeSteps, SplitTablesIntoCells)
+{
+    Document document = drawing(
+        "<draw:frame svg:x=\"1in\" svg:y=\"2in\" svg:width=\"4in\" svg:height=\"1in\">"
+        "<table:table><table:table-column table:number-columns-repeated=\"2\"/>"
+        "<table:table-row><table:table-cell><text:p>a</text:p></table:table-cell>"
+        "<table:table-cell table:style-name=\"c\"><text:p>b</text:p></table:table-cell>"
+        "</table:table-row><table:table-row><table:table-cell "
+        "table:number-columns-spanned=\"2\"><text:p>wide</text:p></table:table-cell>"
+        "<table:covered-table-cell/></table:table-row></table:table>"
+        "<draw:image xlink:href=\"preview.svm\"/></draw:frame>",
+        "<style:style style:name=\"c\" style:family=\"table-cell\"><style:graphic-properties "
+        "draw:fill=\"solid\" draw:fill-color=\"#ff0000\"/></style:style>");
+    EXPECT_EQ(splitTables(document), 1);
+    EXPECT_EQ(tags(document), "draw:frame draw:frame draw:frame"_L1);
+    const auto& cells = document.page()->children;
+    EXPECT_EQ(cells[1]->attribute(u"svg:x"), "3.000000in"_L1);
+    EXPECT_EQ(cells[1]->allText(), "b"_L1);
+    EXPECT_EQ(graphicOf(document, *cells[1]).value(u"draw:fill-color"_s), "#ff0000"_L1);
+    EXPECT_EQ(cells[2]->attribute(u"svg:y"), "2.500000in"_L1);
+    EXPECT_EQ(cells[2]->attribute(u"svg:width"), "4.000000in"_L1);
+}
+
+TEST(ShapeSteps, MirrorPictures)
+{
+    QImage image(2, 1, QImage::Format_RGB32);
+    image.setPixelColor(0, 0, Qt::red);
+    image.setPixelColor(1, 0, Qt::blue);
+    QByteArray png;
+    QBuffer buffer(&png);
+    ASSERT_TRUE(image.save(&buffer, "PNG"));
+    Document document =
+        drawing("<draw:frame draw:style-name=\"m\"><draw:image xlink:href=\"a.png\"/></draw:frame>"
+                "<draw:frame><draw:image xlink:href=\"a.png\"/></draw:frame>",
+                "<style:style style:name=\"m\" style:family=\"graphic\">"
+                "<style:graphic-properties style:mirror=\"horizontal\"/></style:style>");
+    document.readMember = [&png](const QString&) { return png; };
+    EXPECT_EQ(mirrorPictures(document), 1);
+    ASSERT_EQ(document.newMembers.size(), 1);
+    EXPECT_EQ(QImage::fromData(document.newMembers.cbegin().value()).pixelColor(0, 0),
+              QColor(Qt::blue));
 }
 
 TEST(CustomShapes, AreDrawnFromTheirPath)

@@ -1,6 +1,7 @@
 // Captions, dimension lines, connectors, and the texts of lines.
 
 #include "repair/document.h"
+#include "repair/drawn_table.h"
 #include "repair/lengths.h"
 #include "repair/shape_parts.h"
 #include "repair/shape_steps.h"
@@ -150,6 +151,13 @@ int drawConnectors(Document& document)
 {
     return replaceShapes(document,
                          [&document](Node& shape) { return drawConnector(document, shape); });
+}
+
+int splitTables(Document& document)
+{
+    return replaceShapes(document, [&document](Node& shape) {
+        return shape.is(u"draw:frame") ? drawnTableCells(document, shape) : Parts();
+    });
 }
 
 } // namespace repair

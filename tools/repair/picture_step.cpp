@@ -1,7 +1,10 @@
 #include "repair/document.h"
 #include "repair/shape_steps.h"
 
+#include <QBuffer>
 #include <QFileInfo>
+#include <QImage>
+#include <QImageReader>
 
 #include <algorithm>
 
@@ -10,6 +13,9 @@ namespace repair {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+// What the reader accepts.
+constexpr qint64 PicturePixels = 32'000'000;
 
 // How the pictures begin that the reader understands.
 constexpr QByteArrayView PictureStarts[] = {"\x89PNG", "\xff\xd8\xff", "GIF8", "BM"};
@@ -71,6 +77,43 @@ bool chooseIn(Document& document, Node& frame)
     return true;
 }
 
+// Nothing if the picture is a drawing, or larger than the reader accepts.
+QByteArray mirrored(QByteArray bytes, bool isHorizontal, bool isVertical)
+{
+    QBuffer input(&bytes);
+    QImageReader reader(&input);
+    const QSize size = reader.size();
+    if (!size.isValid() || qint64(size.width()) * size.height() > PicturePixels) {
+        return {};
+    }
+    const QImage image = reader.read();
+    QByteArray result;
+    QBuffer output(&result);
+    return !image.isNull() && image.mirrored(isHorizontal, isVertical).save(&output, "PNG")
+               ? result
+               : QByteArray();
+}
+
+bool mirrorIn(Document& document, Node& frame)
+{
+    Node* const image = frame.child(u"draw:image");
+    const QString mirror = graphicOf(document, frame).value(u"style:mirror"_s);
+    const bool isHorizontal = mirror.contains("horizontal"_L1);
+    const bool isVertical = mirror.contains("vertical"_L1);
+    if (image == nullptr || !(isHorizontal || isVertical)) {
+        return false;
+    }
+    const QString name = plainName(image->attribute(u"xlink:href"));
+    const QByteArray bytes = mirrored(document.readMember(name), isHorizontal, isVertical);
+    if (bytes.isEmpty()) {
+        return false;
+    }
+    const QString made = u"Pictures/labelport-mirrored-%1.png"_s.arg(document.newMembers.size());
+    document.newMembers.insert(made, bytes);
+    image->setAttribute(u"xlink:href"_s, made);
+    return true;
+}
+
 } // namespace
 
 int choosePictures(Document& document)
@@ -80,6 +123,18 @@ int choosePictures(Document& document)
     if (page != nullptr) {
         for (const auto& shape : page->children) {
             count += shape->is(u"draw:frame") && chooseIn(document, *shape) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+int mirrorPictures(Document& document)
+{
+    Node* const page = document.page();
+    int count = 0;
+    if (page != nullptr) {
+        for (const auto& shape : page->children) {
+            count += shape->is(u"draw:frame") && mirrorIn(document, *shape) ? 1 : 0;
         }
     }
     return count;

@@ -15,6 +15,8 @@ int splitCaptions(Document& document);
 int splitMeasures(Document& document);
 /// Gives the texts of lines and connectors boxes of their own.
 int splitLineTexts(Document& document);
+/// Replaces the tables of a drawing by their cells.
+int splitTables(Document& document);
 /// Draws connectors; straight ones become lines.
 int drawConnectors(Document& document);
 /// Draws polygons, polylines, and paths.
@@ -25,6 +27,8 @@ int drawShapes(Document& document);
 int rewriteRotations(Document& document);
 /// Leaves in each frame one picture that can be read.
 int choosePictures(Document& document);
+/// Replaces pictures that are shown mirrored by mirrored ones.
+int mirrorPictures(Document& document);
 
 /// On which side of a dimension line its text is: "above" or "below".
 inline const QString LineTextAttribute = QLatin1String("labelport:line-text");

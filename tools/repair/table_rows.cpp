@@ -14,10 +14,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Columns of one table, and rows of it: what fits on a page and more.
-constexpr int MaximumColumns = 256;
-constexpr int MaximumRows = 2000;
-
 Properties cellProperties(const Document& document, const QString& style)
 {
     Properties result;
@@ -50,11 +46,6 @@ double columnShare(const Document& document, const QString& style)
     return 0.0;
 }
 
-int repeats(const Node& node, QStringView attribute, int most)
-{
-    return std::clamp(node.attribute(attribute).toInt(), 1, most);
-}
-
 void readColumns(const Document& document, const Node& parent, QList<double>& widths)
 {
     for (const auto& child : parent.children) {
@@ -68,25 +59,6 @@ void readColumns(const Document& document, const Node& parent, QList<double>& wi
             readColumns(document, *child, widths);
         }
     }
-}
-
-// The widths in points; columns without one share what is left.
-QList<double> columnWidths(const Document& document, const Node& table, double room)
-{
-    QList<double> widths;
-    readColumns(document, table, widths);
-    double given = 0.0;
-    qsizetype open = 0;
-    for (const double width : widths) {
-        given += width;
-        open += width > 0.0 ? 0 : 1;
-    }
-    const double share = open > 0 ? std::max(0.0, room - given) / static_cast<double>(open) : 0.0;
-    const double scale = given > room && room > 0.0 ? room / given : 1.0;
-    for (double& width : widths) {
-        width = width > 0.0 ? width * scale : share;
-    }
-    return widths;
 }
 
 Properties groundOf(const Properties& cell)
@@ -104,19 +76,6 @@ Properties groundOf(const Properties& cell)
     }
     ground.insert(u"draw:textarea-vertical-align"_s, cell.value(u"style:vertical-align"_s));
     return ground;
-}
-
-// The paragraphs of a cell, those of a table inside it included.
-void takeParagraphs(Node& parent, Node& target, int depth)
-{
-    for (auto& child : parent.children) {
-        if (child->is(u"text:p") || child->is(u"text:h") || child->is(u"text:list")) {
-            target.children.push_back(std::move(child));
-        } else if (depth < 50 && !child->isText()) {
-            takeParagraphs(*child, target, depth + 1);
-        }
-    }
-    std::erase(parent.children, nullptr);
 }
 
 /// Places the cells of one table.
@@ -189,6 +148,41 @@ void TableReader::readRows(Node& parent, int depth)
 }
 
 } // namespace
+
+int repeats(const Node& node, QStringView attribute, int most)
+{
+    return std::clamp(node.attribute(attribute).toInt(), 1, most);
+}
+
+QList<double> columnWidths(const Document& document, const Node& table, double room)
+{
+    QList<double> widths;
+    readColumns(document, table, widths);
+    double given = 0.0;
+    qsizetype open = 0;
+    for (const double width : widths) {
+        given += width;
+        open += width > 0.0 ? 0 : 1;
+    }
+    const double share = open > 0 ? std::max(0.0, room - given) / static_cast<double>(open) : 0.0;
+    const double scale = given > room && room > 0.0 ? room / given : 1.0;
+    for (double& width : widths) {
+        width = width > 0.0 ? width * scale : share;
+    }
+    return widths;
+}
+
+void takeParagraphs(Node& parent, Node& target, int depth)
+{
+    for (auto& child : parent.children) {
+        if (child->is(u"text:p") || child->is(u"text:h") || child->is(u"text:list")) {
+            target.children.push_back(std::move(child));
+        } else if (depth < 50 && !child->isText()) {
+            takeParagraphs(*child, target, depth + 1);
+        }
+    }
+    std::erase(parent.children, nullptr);
+}
 
 void addBorder(const Properties& source, Properties& target)
 {

@@ -3,6 +3,7 @@
 #include "repair/styles.h"
 #include "repair/xml_tree.h"
 
+#include <QList>
 #include <QRectF>
 
 namespace repair {
@@ -24,5 +25,16 @@ void addBorder(const Properties& source, Properties& target);
 /// @param row  counted on for each row of the table
 [[nodiscard]] Node::Children tableCells(Document& document, Node& table, const QRectF& area,
                                         int& row);
+
+/// Columns of one table, and rows of it: what fits on a page and more.
+inline constexpr int MaximumColumns = 256;
+inline constexpr int MaximumRows = 2000;
+
+/// A number of repetitions, at least 1.
+[[nodiscard]] int repeats(const Node& node, QStringView attribute, int most);
+/// The widths of a table's columns in points; columns without one share what is left.
+[[nodiscard]] QList<double> columnWidths(const Document& document, const Node& table, double room);
+/// Moves the paragraphs of a cell, those of a table inside it included.
+void takeParagraphs(Node& parent, Node& target, int depth);
 
 } // namespace repair

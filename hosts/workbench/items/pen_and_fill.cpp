@@ -54,13 +54,29 @@ QColor withInk(const QColor& color, double ink)
     return tinted;
 }
 
+// Colors lighter than this are hardly visible on paper as lines, or next to white.
+constexpr float LightestPattern = 0.8F;
+
+// Of the same hue, dark enough to be seen in a gradient or hatch.
+QColor visibleOnPaper(const QColor& color)
+{
+    float hue = 0.0F;
+    float saturation = 0.0F;
+    float lightness = 0.0F;
+    float alpha = 0.0F;
+    color.getHslF(&hue, &saturation, &lightness, &alpha);
+    return lightness > LightestPattern
+               ? QColor::fromHslF(std::max(hue, 0.0F), saturation, LightestPattern, alpha)
+               : color;
+}
+
 // To white and not to transparent: PDF documents have no gradients of opacity and would show
 // the plain color.
 void addStops(QGradient& gradient, const QColor& color)
 {
     QColor paper = Qt::white;
     paper.setAlphaF(color.alphaF());
-    gradient.setColorAt(0.0, color);
+    gradient.setColorAt(0.0, visibleOnPaper(color));
     gradient.setColorAt(1.0, paper);
 }
 
@@ -134,7 +150,7 @@ void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
         return;
     }
     if (isHatch(values.style)) {
-        paintHatch(painter, path, box, values.style, values.color);
+        paintHatch(painter, path, box, values.style, visibleOnPaper(values.color));
         return;
     }
     const std::optional<QColor> color = plainColor(values);

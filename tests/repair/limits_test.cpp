@@ -1,0 +1,197 @@
+// The limits of docs/limits.md: what is below is repaired, what is above is left out or refused.
+
+#include "tests/repair/documents.h"
+
+#include "repair/enhanced_path.h"
+#include "repair/fill_drawing.h"
+#include "repair/repair.h"
+#include "repair/shape_parts.h"
+#include "repair/svg_path.h"
+#include "repair/table_rows.h"
+#include "repair/text_step.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace repair;
+
+namespace {
+
+bool isDrawn(const QByteArray& path, const QByteArray& equations = {})
+{
+    const auto geometry = parseTree("<draw:enhanced-geometry svg:viewBox=\"0 0 100 100\" "
+                                    "draw:enhanced-path=\"" +
+                                        path + "\">" + equations + "</draw:enhanced-geometry>",
+                                    1 << 28);
+    return geometry && drawCustomShape(*geometry, {10.0, 10.0}).has_value();
+}
+
+bool isComputed(const QByteArray& formula)
+{
+    return isDrawn("M ?f0 0 L 1 1 N",
+                   "<draw:equation draw:name=\"f0\" draw:formula=\"" + formula + "\"/>");
+}
+
+QByteArray nested(const char* tag, int depth, const QByteArray& inside)
+{
+    const QByteArray name(tag);
+    return ('<' + name + '>').repeated(depth) + inside + ("</" + name + '>').repeated(depth);
+}
+
+QString textOfShape(const QByteArray& text)
+{
+    Document document = drawing("<draw:rect>" + text + "</draw:rect>");
+    simplifyTexts(document);
+    return object(document, u"draw:rect"_s).allText();
+}
+
+/// The pages of a text document, and the characters of its first one.
+std::pair<int, QByteArray> textPage(const QByteArray& text)
+{
+    const QTemporaryDir folder;
+    const auto page = repairPage(writePackage(
+        folder.path(),
+        "<office:document-content><office:automatic-styles/><office:body><office:text>" + text +
+            "</office:text></office:body></office:document-content>",
+        drawingStyles()));
+    return page ? std::pair(page->pageCount, page->package) : std::pair(0, QByteArray());
+}
+
+} // namespace
+
+TEST(RepairLimits, CountPages)
+{
+    QByteArray content = drawingContent({});
+    content.replace("</draw:page>",
+                    "</draw:page>" + QByteArray("<draw:page/>").repeated(MaximumPages));
+    const QTemporaryDir folder;
+    const QString file = writePackage(folder.path(), content, drawingStyles());
+    const auto last = repairPage(file, MaximumPages);
+    ASSERT_TRUE(last);
+    EXPECT_EQ(last->pageCount, MaximumPages + 1);
+    EXPECT_FALSE(repairPage(file, MaximumPages + 1));
+}
+
+TEST(RepairLimits, CountPartsOfEnhancedPaths)
+{
+    EXPECT_TRUE(isDrawn("M 0 0 " + QByteArray("L 1 1 ").repeated(5'000) + "N"));
+    EXPECT_FALSE(isDrawn("M 0 0 " + QByteArray("L 1 1 ").repeated(20'001) + "N"));
+}
+
+TEST(RepairLimits, CountPointsOfPaths)
+{
+    EXPECT_TRUE(parsePoints(QByteArray("1,1 ").repeated(100'000), false));
+    EXPECT_FALSE(parsePoints(QByteArray("1,1 ").repeated(100'002), false));
+    EXPECT_FALSE(parseSvgPath(u"M0 0"_s + u"l1 1"_s.repeated(100'002)));
+}
+
+TEST(RepairLimits, HoldCoordinatesOfPaths)
+{
+    EXPECT_TRUE(parseSvgPath(u"M1e7 0L0 0"_s));
+    EXPECT_FALSE(parseSvgPath(u"M1.1e7 0L0 0"_s));
+}
+
+TEST(RepairLimits, CountStepsAndDepthOfFormulas)
+{
+    EXPECT_TRUE(isComputed(QByteArray("1+").repeated(1'000) + "1"));
+    EXPECT_FALSE(isComputed(QByteArray("1+").repeated(200'001) + "1"));
+    EXPECT_TRUE(isComputed(QByteArray(99, '(') + '1' + QByteArray(99, ')')));
+    EXPECT_FALSE(isComputed(QByteArray(101, '(') + '1' + QByteArray(101, ')')));
+    EXPECT_TRUE(isComputed("1000*1000000"));
+    EXPECT_FALSE(isComputed("1001*1000000"));
+}
+
+TEST(RepairLimits, HoldChainsOfEquations)
+{
+    const auto chain = [](int length) {
+        QByteArray equations;
+        for (int i = 0; i < length; ++i) {
+            equations += "<draw:equation draw:name=\"f" + QByteArray::number(i) +
+                         "\" draw:formula=\"?f" + QByteArray::number(i + 1) + "\"/>";
+        }
+        return equations + "<draw:equation draw:name=\"f" + QByteArray::number(length) +
+               "\" draw:formula=\"1\"/>";
+    };
+    EXPECT_TRUE(isDrawn("M ?f0 0 L 1 1 N", chain(99)));
+    EXPECT_FALSE(isDrawn("M ?f0 0 L 1 1 N", chain(100)));
+}
+
+TEST(RepairLimits, CountLinesOfHatches)
+{
+    Document document =
+        drawing({}, {},
+                "<draw:hatch draw:name=\"h\" draw:style=\"single\" draw:color=\"#000000\" "
+                "draw:distance=\"1pt\" draw:rotation=\"0\"/>");
+    QPainterPath square;
+    square.addRect(0.0, 0.0, 1e6, 1e6);
+    const Properties graphic{{u"draw:fill"_s, u"hatch"_s}, {u"draw:fill-hatch-name"_s, u"h"_s}};
+    const qsizetype lines = FillWriter().fill(square, graphic, document.table()).count(u'M');
+    EXPECT_GT(lines, 1'000);
+    EXPECT_LE(lines, 2'001);
+}
+
+TEST(RepairLimits, CountCornersOfRegularPolygons)
+{
+    const auto corners = [](const QByteArray& count) {
+        const auto shape =
+            parseTree("<draw:regular-polygon draw:corners=\"" + count + "\"/>", 1 << 16);
+        return outlineInBox(*shape, {10.0, 10.0}).elementCount();
+    };
+    EXPECT_EQ(corners("1000"), 1'001);
+    EXPECT_EQ(corners("2000000000"), 1'001);
+}
+
+TEST(RepairLimits, CountParentsOfStyles)
+{
+    QByteArray styles = "<style:style style:name=\"s0\" style:family=\"text\">"
+                        "<style:text-properties fo:color=\"#010203\"/></style:style>";
+    for (int i = 1; i <= 100; ++i) {
+        styles += "<style:style style:name=\"s" + QByteArray::number(i) +
+                  "\" style:family=\"text\" style:parent-style-name=\"s" +
+                  QByteArray::number(i - 1) + "\"/>";
+    }
+    Document document = drawing({}, styles);
+    const auto colorOf = [&document](const QString& name) {
+        return document.table().resolved(u"text"_s, name, false).text.value(u"fo:color"_s);
+    };
+    EXPECT_EQ(colorOf(u"s63"_s), "#010203"_L1);
+    EXPECT_EQ(colorOf(u"s64"_s), QString());
+}
+
+TEST(RepairLimits, CountRowsAndColumnsOfTables)
+{
+    const auto table = parseTree(
+        "<table:table><table:table-column table:number-columns-repeated=\"2000000000\"/>" +
+            QByteArray("<table:table-row><table:table-cell/></table:table-row>").repeated(2'001) +
+            "</table:table>",
+        1 << 24);
+    Document document = drawing({});
+    int row = 0;
+    const Node::Children cells = tableCells(document, *table, {0.0, 0.0, 256.0 * 72.0, 100.0}, row);
+    EXPECT_EQ(cells.size(), 2'000U);
+    EXPECT_EQ(cells.front()->attribute(u"svg:width"), "1.000000in"_L1);
+}
+
+TEST(RepairLimits, HoldTheDepthOfTexts)
+{
+    EXPECT_EQ(textOfShape("<text:p>" + nested("text:span", 199, "a") + "</text:p>"), "a"_L1);
+    EXPECT_EQ(textOfShape("<text:p>" + nested("text:span", 202, "a") + "</text:p>"), QString());
+    EXPECT_EQ(textOfShape(nested("text:section", 99, "<text:p>a</text:p>")), "a"_L1);
+    EXPECT_EQ(textOfShape(nested("text:section", 102, "<text:p>a</text:p>")), QString());
+}
+
+TEST(RepairLimits, HoldTheDepthOfTextDocuments)
+{
+    const QByteArray paragraph = "<text:p>sugar</text:p>";
+    EXPECT_TRUE(textPage(nested("text:section", 99, paragraph)).second.contains("sugar"));
+    EXPECT_FALSE(textPage(nested("text:section", 102, paragraph)).second.contains("sugar"));
+}
+
+TEST(RepairLimits, BreakEndlessPages)
+{
+    const QByteArray paragraph = "<text:p>" + QByteArray(15'000, 'a') + "</text:p>";
+    EXPECT_EQ(textPage(paragraph + "<text:p>b</text:p>").first, 1);
+    EXPECT_EQ(textPage(paragraph + paragraph + "<text:p>b</text:p>").first, 2);
+}

@@ -1,0 +1,111 @@
+#include "repair/drawn_table.h"
+
+#include "repair/document.h"
+#include "repair/lengths.h"
+#include "repair/table_rows.h"
+#include "repair/transform.h"
+
+#include <QList>
+
+#include <algorithm>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+double rowHeight(const Document& document, const QString& style)
+{
+    const Node* const automatic = document.content->child(u"office:automatic-styles");
+    if (automatic != nullptr) {
+        for (const auto& each : automatic->children) {
+            const Node* const properties = each->child(u"style:table-row-properties");
+            if (properties != nullptr && each->attribute(u"style:name") == style) {
+                return pointsOf(*properties, u"style:row-height");
+            }
+        }
+    }
+    return 0.0;
+}
+
+// The rows of a drawing's table, which have no headers.
+QList<Node*> rowsOf(const Node& table)
+{
+    QList<Node*> rows;
+    for (const auto& child : table.children) {
+        if (child->is(u"table:table-row") && rows.size() < MaximumRows) {
+            rows.append(child.get());
+        }
+    }
+    return rows;
+}
+
+// The heights in points; rows without one share what the frame leaves.
+QList<double> rowHeights(const Document& document, const QList<Node*>& rows, double room)
+{
+    QList<double> heights;
+    double given = 0.0;
+    int open = 0;
+    for (const Node* const row : rows) {
+        heights.append(rowHeight(document, row->attribute(u"table:style-name")));
+        given += heights.last();
+        open += heights.last() > 0.0 ? 0 : 1;
+    }
+    for (double& height : heights) {
+        height = height > 0.0 ? height : std::max(0.0, room - given) / open;
+    }
+    return heights;
+}
+
+// Ground, border and padding of a cell in a drawing.
+Properties drawnCell(Document& document, const QString& style)
+{
+    const StyleProperties cell = document.table().resolved(u"table-cell"_s, style, true);
+    Properties graphic = cell.graphic;
+    addBorder(cell.paragraph, graphic);
+    return graphic;
+}
+
+} // namespace
+
+Node::Children drawnTableCells(Document& document, Node& frame)
+{
+    Node::Children cells;
+    Node* const table = frame.child(u"table:table");
+    if (table == nullptr) {
+        return cells;
+    }
+    const Placement placement = placementOf(frame);
+    const QList<double> widths = columnWidths(document, *table, placement.size.width());
+    const QList<Node*> rows = rowsOf(*table);
+    const QList<double> heights = rowHeights(document, rows, placement.size.height());
+    const QPointF corner = placement.toPage.map(QPointF());
+    double y = corner.y();
+    for (qsizetype row = 0; row < rows.size(); ++row) {
+        const QString rowStyle = rows[row]->attribute(u"table:default-cell-style-name");
+        double x = corner.x();
+        qsizetype column = 0;
+        for (const auto& cell : rows[row]->children) {
+            const int span = repeats(*cell, u"table:number-columns-spanned", MaximumColumns);
+            double width = 0.0;
+            for (qsizetype i = column; i < std::min(column + span, widths.size()); ++i) {
+                width += widths[i];
+            }
+            if (cell->is(u"table:table-cell") && column < widths.size()) {
+                const QString own = cell->attribute(u"table:style-name");
+                auto box = textFrame(document, {x, y, width, heights[row]},
+                                     drawnCell(document, own.isEmpty() ? rowStyle : own));
+                takeParagraphs(*cell, *box->child(u"draw:text-box"), 0);
+                cells.push_back(std::move(box));
+            }
+            // Cells that a wide one covers are listed too.
+            x += !cell->isText() && column < widths.size() ? widths[column] : 0.0;
+            column += cell->isText() ? 0 : 1;
+        }
+        y += heights[row];
+    }
+    return cells;
+}
+
+} // namespace repair
