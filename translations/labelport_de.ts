@@ -2,49 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>LabelPort Workbench</source>
-        <translation>LabelPort Workbench</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>LabelPort Workbench %1</source>
-        <translation type="unfinished">LabelPort Workbench %1</translation>
-    </message>
-    <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation type="unfinished">Öffnet alte Etikettenvorlagen, zeigt sie an, speichert sie und gibt sie weiter.</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation type="unfinished">&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation type="unfinished">Werkzeuge</translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation type="unfinished">Liste &amp;leeren</translation>
-    </message>
-    <message>
-        <source>A window holds one label: only the first file was opened.</source>
-        <translation>Ein Fenster enthält ein Etikett: Nur die erste Datei wurde geöffnet.</translation>
-    </message>
-    <message>
-        <source>There are no labels in “%1”.</source>
-        <translation>In „%1“ sind keine Etiketten.</translation>
-    </message>
-    <message>
-        <source>Cannot open “%1”: %2</source>
-        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
-    </message>
-</context>
-<context>
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
@@ -317,7 +274,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
     </message>
     <message>
         <source>1 and 2</source>
-        <translation type="unfinished" />
+        <translation>1 und 2</translation>
     </message>
     <message>
         <source>%1 × %2 labels of %3 × %4 mm</source>
@@ -1455,11 +1412,11 @@ Beispiele:
     </message>
     <message>
         <source>Show a larger picture</source>
-        <translation type="unfinished" />
+        <translation>Größeres Bild anzeigen</translation>
     </message>
     <message>
         <source>The document's own picture of %1</source>
-        <translation type="unfinished" />
+        <translation>Vorschau des Dokuments %1</translation>
     </message>
 </context>
 <context>
@@ -1586,11 +1543,11 @@ Beispiele:
     </message>
     <message>
         <source>Larger picture</source>
-        <translation type="unfinished" />
+        <translation>Größeres Bild</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished" />
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -1911,7 +1868,7 @@ Beispiele:
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written.</source>
-        <translation type="unfinished" />
+        <translation>Wenn das Dokument wie geschrieben importiert wurde, importieren Sie es ohne --as-written.</translation>
     </message>
     <message>
         <source>Texts of lines and dimension lines were left out.</source>
@@ -1919,7 +1876,7 @@ Beispiele:
     </message>
     <message>
         <source>Add the symbols to the symbol databases and import again.</source>
-        <translation type="unfinished" />
+        <translation>Fügen Sie die Symbole den Symboldatenbanken hinzu und importieren Sie erneut.</translation>
     </message>
     <message>
         <source>The log was cut, or the label is too large to compare: there may be losses that are not listed.</source>
@@ -1927,19 +1884,19 @@ Beispiele:
     </message>
     <message>
         <source>Bind the items to a data source in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Verbinden Sie die Objekte in labelport-workbench mit einer Datenquelle.</translation>
     </message>
     <message>
         <source>Correct the content or the type in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Korrigieren Sie Inhalt oder Typ in labelport-workbench unter „Eigenschaften“.</translation>
     </message>
     <message>
         <source>Choose the type in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Wählen Sie den Typ in labelport-workbench unter „Eigenschaften“.</translation>
     </message>
     <message>
         <source>Move the items onto the page in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Verschieben Sie die Objekte in labelport-workbench auf die Seite.</translation>
     </message>
     <message>
         <source>The document uses millimeters: the label is a hundred times larger than the paper. Fonts and lines did not grow with it, so that texts are hardly visible.</source>
@@ -1951,11 +1908,11 @@ Beispiele:
     </message>
     <message>
         <source>Install the fonts and import again, or choose another font in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Installieren Sie die Schriften und importieren Sie erneut, oder wählen Sie in labelport-workbench unter „Eigenschaften“ eine andere Schrift.</translation>
     </message>
     <message>
         <source>Set the font size in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Setzen Sie die Schriftgröße in labelport-workbench unter „Eigenschaften“.</translation>
     </message>
     <message>
         <source>Texts differ from the document: words run together, or line breaks or words are missing.</source>
@@ -1963,7 +1920,7 @@ Beispiele:
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or correct the text in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Wenn das Dokument wie geschrieben importiert wurde, importieren Sie es ohne --as-written. Oder korrigieren Sie den Text in labelport-workbench unter „Eigenschaften“.</translation>
     </message>
     <message>
         <source>Texts can hardly be read: their color is too similar to what is under them.</source>
@@ -1971,7 +1928,7 @@ Beispiele:
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or set the color in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Wenn das Dokument wie geschrieben importiert wurde, importieren Sie es ohne --as-written. Oder setzen Sie die Farbe in labelport-workbench unter „Eigenschaften“.</translation>
     </message>
     <message>
         <source>Texts are printed over each other.</source>
@@ -1979,7 +1936,7 @@ Beispiele:
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or move the texts in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Wenn das Dokument wie geschrieben importiert wurde, importieren Sie es ohne --as-written. Oder verschieben Sie die Texte in labelport-workbench.</translation>
     </message>
     <message>
         <source>Items are covered by others, which they are not in the document.</source>
@@ -1987,7 +1944,7 @@ Beispiele:
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or move the items in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Wenn das Dokument wie geschrieben importiert wurde, importieren Sie es ohne --as-written. Oder verschieben Sie die Objekte in labelport-workbench.</translation>
     </message>
     <message>
         <source>Items have another place or size than in the document, by more than 1 mm.</source>
@@ -2003,7 +1960,7 @@ Beispiele:
     </message>
     <message>
         <source>Choose another fill in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Wählen Sie in labelport-workbench unter „Eigenschaften“ eine andere Füllung.</translation>
     </message>
     <message>
         <source>Boxes are filled that are not filled in the document.</source>
@@ -2240,6 +2197,14 @@ Beispiele:
     <message>
         <source>%n further pages became labels of their own</source>
         <translation>%n weitere Seiten wurden zu eigenen Etiketten</translation>
+    </message>
+    <message>
+        <source>%n tables became boxes with texts</source>
+        <translation>%n Tabellen wurden zu Rahmen mit Texten</translation>
+    </message>
+    <message>
+        <source>%n pictures were mirrored</source>
+        <translation>%n Bilder wurden gespiegelt</translation>
     </message>
     <message>
         <source>The document could not be repaired: it was imported as it is written.</source>
@@ -2814,27 +2779,27 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>&amp;Connect CSV File…</source>
-        <translation type="unfinished" />
+        <translation>&amp;CSV-Datei verbinden …</translation>
     </message>
     <message>
         <source>Shows columns of a CSV file in items of the label</source>
-        <translation type="unfinished" />
+        <translation>Zeigt Spalten einer CSV-Datei in Objekten des Etiketts</translation>
     </message>
     <message>
         <source>&amp;Edit Data Source…</source>
-        <translation type="unfinished" />
+        <translation>Daten&amp;quelle bearbeiten …</translation>
     </message>
     <message>
         <source>Changes the counter, date, list or file that is selected in the panel</source>
-        <translation type="unfinished" />
+        <translation>Ändert Zähler, Datum, Liste oder Datei, die in der Liste ausgewählt sind</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished" />
+        <translation>&amp;Handbuch</translation>
     </message>
     <message>
         <source>Shows the manual of this window</source>
-        <translation type="unfinished" />
+        <translation>Zeigt das Handbuch dieses Fensters</translation>
     </message>
     <message>
         <source>&amp;Arrange</source>
@@ -2960,79 +2925,79 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <name>window::CsvDialog</name>
     <message>
         <source>The first line &amp;names the columns</source>
-        <translation type="unfinished" />
+        <translation>Die erste Zeile &amp;benennt die Spalten</translation>
     </message>
     <message>
         <source>Items and their columns</source>
-        <translation type="unfinished" />
+        <translation>Objekte und ihre Spalten</translation>
     </message>
     <message>
         <source>Records of the file</source>
-        <translation type="unfinished" />
+        <translation>Datensätze der Datei</translation>
     </message>
     <message>
         <source>Connect CSV File</source>
-        <translation type="unfinished" />
+        <translation>CSV-Datei verbinden</translation>
     </message>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished" />
+        <translation>&amp;Verbinden</translation>
     </message>
     <message>
         <source>&amp;Items of the label</source>
-        <translation type="unfinished" />
+        <translation>&amp;Objekte des Etiketts</translation>
     </message>
     <message>
         <source>&amp;Records</source>
-        <translation type="unfinished" />
+        <translation>&amp;Datensätze</translation>
     </message>
     <message>
         <source>Detect</source>
-        <translation type="unfinished" />
+        <translation>Erkennen</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished" />
+        <translation>Komma</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished" />
+        <translation>Semikolon</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished" />
+        <translation>Tabulator</translation>
     </message>
     <message>
         <source>Bar</source>
-        <translation type="unfinished" />
+        <translation>Senkrechter Strich</translation>
     </message>
     <message>
         <source>Separator</source>
-        <translation type="unfinished" />
+        <translation>Trennzeichen</translation>
     </message>
     <message>
         <source>UTF-8</source>
-        <translation type="unfinished" />
+        <translation>UTF-8</translation>
     </message>
     <message>
         <source>UTF-16</source>
-        <translation type="unfinished" />
+        <translation>UTF-16</translation>
     </message>
     <message>
         <source>Windows-1252</source>
-        <translation type="unfinished" />
+        <translation>Windows-1252</translation>
     </message>
     <message>
         <source>Encoding</source>
-        <translation type="unfinished" />
+        <translation>Zeichencodierung</translation>
     </message>
     <message>
         <source>C&amp;hoose…</source>
-        <translation type="unfinished" />
+        <translation>&amp;Auswählen …</translation>
     </message>
     <message>
         <source>Read &amp;Again</source>
-        <translation type="unfinished" />
+        <translation>Erneut &amp;lesen</translation>
     </message>
     <message>
         <source>File</source>
@@ -3040,27 +3005,27 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>&amp;Separator</source>
-        <translation type="unfinished" />
+        <translation>&amp;Trennzeichen</translation>
     </message>
     <message>
         <source>&amp;Encoding</source>
-        <translation type="unfinished" />
+        <translation>&amp;Zeichencodierung</translation>
     </message>
     <message>
         <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished" />
+        <translation>CSV-Dateien (*.csv *.tsv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished" />
+        <translation>Objekt</translation>
     </message>
     <message>
         <source>Shows column</source>
-        <translation type="unfinished" />
+        <translation>Zeigt Spalte</translation>
     </message>
     <message>
         <source>– not from this file –</source>
-        <translation type="unfinished" />
+        <translation>– nicht aus dieser Datei –</translation>
     </message>
 </context>
 <context>
@@ -3745,10 +3710,53 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
 </context>
 <context>
+    <name>window::MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation>LabelPort Workbench</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation>LabelPort Workbench %1</translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation>Öffnet alte Etikettenvorlagen, zeigt sie an, speichert sie und gibt sie weiter.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation>Ein Fenster zeigt ein Etikett: Nur die erste Datei wurde geöffnet.</translation>
+    </message>
+    <message>
+        <source>There are no labels in “%1”.</source>
+        <translation>In „%1“ sind keine Etiketten.</translation>
+    </message>
+    <message>
+        <source>Cannot open “%1”: %2</source>
+        <translation>„%1“ kann nicht geöffnet werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>window::ManualDialog</name>
     <message>
         <source>Manual</source>
-        <translation type="unfinished" />
+        <translation>Handbuch</translation>
     </message>
 </context>
 <context>
@@ -4235,22 +4243,22 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <name>window::SourceCommands</name>
     <message>
         <source>Connect CSV File</source>
-        <translation type="unfinished" />
+        <translation>CSV-Datei verbinden</translation>
     </message>
     <message>
         <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished" />
+        <translation>CSV-Dateien (*.csv *.tsv *.txt);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Edit Data Source</source>
-        <translation type="unfinished" />
+        <translation>Datenquelle bearbeiten</translation>
     </message>
 </context>
 <context>
     <name>window::SourceDialog</name>
     <message>
         <source>Shows</source>
-        <translation type="unfinished" />
+        <translation>Zeigt</translation>
     </message>
     <message>
         <source>Counter</source>
@@ -4258,59 +4266,59 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished" />
+        <translation>&amp;Anfang</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished" />
+        <translation>&amp;Ende</translation>
     </message>
     <message>
         <source>S&amp;tep</source>
-        <translation type="unfinished" />
+        <translation>Schritt&amp;weite</translation>
     </message>
     <message>
         <source>&amp;Digits, with zeros in front</source>
-        <translation type="unfinished" />
+        <translation>&amp;Stellen, mit führenden Nullen</translation>
     </message>
     <message>
         <source>Text &amp;before</source>
-        <translation type="unfinished" />
+        <translation>Text da&amp;vor</translation>
     </message>
     <message>
         <source>Text &amp;after</source>
-        <translation type="unfinished" />
+        <translation>Text da&amp;nach</translation>
     </message>
     <message>
         <source>Date and Time</source>
-        <translation type="unfinished" />
+        <translation>Datum und Uhrzeit</translation>
     </message>
     <message>
         <source>&amp;Date</source>
-        <translation type="unfinished" />
+        <translation>&amp;Datum</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished" />
+        <translation>&amp;Uhrzeit</translation>
     </message>
     <message>
         <source>List of Texts</source>
-        <translation type="unfinished" />
+        <translation>Liste von Texten</translation>
     </message>
     <message>
         <source>Texts, one on each line</source>
-        <translation type="unfinished" />
+        <translation>Texte, einer je Zeile</translation>
     </message>
     <message>
         <source>&amp;Texts</source>
-        <translation type="unfinished" />
+        <translation>&amp;Texte</translation>
     </message>
     <message>
         <source>One text on each line; \n is a line break in a text.</source>
-        <translation type="unfinished" />
+        <translation>Ein Text je Zeile; \n ist ein Zeilenumbruch in einem Text.</translation>
     </message>
     <message>
         <source>%1 (%2 records)</source>
-        <translation type="unfinished" />
+        <translation>%1 (%2 Datensätze)</translation>
     </message>
 </context>
 <context>
@@ -4329,7 +4337,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
     <message>
         <source>Record &amp;number</source>
-        <translation type="unfinished" />
+        <translation>Datensatz&amp;nummer</translation>
     </message>
 </context>
 <context>
@@ -4372,7 +4380,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
     <message>
         <source>CSV file</source>
-        <translation type="unfinished" />
+        <translation>CSV-Datei</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4391,15 +4399,15 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished" />
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Zoom in percent of the printed size</source>
-        <translation type="unfinished" />
+        <translation>Zoom in Prozent der gedruckten Größe</translation>
     </message>
     <message>
         <source>Whole label</source>
-        <translation type="unfinished" />
+        <translation>Ganzes Etikett</translation>
     </message>
 </context>
 <context>
@@ -4669,47 +4677,47 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <name>workbench::CsvTable</name>
     <message>
         <source>Line %1 has more than %2 columns.</source>
-        <translation type="unfinished" />
+        <translation>Zeile %1 hat mehr als %2 Spalten.</translation>
     </message>
     <message>
         <source>Line %1 has text after a closing quotation mark.</source>
-        <translation type="unfinished" />
+        <translation>Zeile %1 hat Text nach einem schließenden Anführungszeichen.</translation>
     </message>
     <message>
         <source>The quotation mark that begins in line %1 is not closed.</source>
-        <translation type="unfinished" />
+        <translation>Das Anführungszeichen, das in Zeile %1 beginnt, wird nicht geschlossen.</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished" />
+        <translation>Spalte %1</translation>
     </message>
     <message>
         <source>Line %1 has %2 fields; the first line has %3.</source>
-        <translation type="unfinished" />
+        <translation>Zeile %1 hat %2 Felder; die erste Zeile hat %3.</translation>
     </message>
     <message>
         <source>The file has more than %1 cells.</source>
-        <translation type="unfinished" />
+        <translation>Die Datei hat mehr als %1 Zellen.</translation>
     </message>
     <message>
         <source>The file has more than %1 bytes.</source>
-        <translation type="unfinished" />
+        <translation>Die Datei hat mehr als %1 Byte.</translation>
     </message>
     <message>
         <source>The file is not a text in this encoding.</source>
-        <translation type="unfinished" />
+        <translation>Die Datei ist kein Text in dieser Codierung.</translation>
     </message>
     <message>
         <source>The file has no records.</source>
-        <translation type="unfinished" />
+        <translation>Die Datei hat keine Datensätze.</translation>
     </message>
     <message>
         <source>"%1" is not a file.</source>
-        <translation type="unfinished" />
+        <translation>„%1“ ist keine Datei.</translation>
     </message>
     <message>
         <source>Cannot open "%1": %2.</source>
-        <translation type="unfinished">„%1“ kann nicht geöffnet werden: %2. {1"?}</translation>
+        <translation>„%1“ kann nicht geöffnet werden: %2.</translation>
     </message>
     <message>
         <source>Cannot read "%1": %2.</source>

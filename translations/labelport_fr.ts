@@ -2,49 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>LabelPort Workbench</source>
-        <translation>LabelPort Workbench</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>LabelPort Workbench %1</source>
-        <translation type="unfinished">LabelPort Workbench %1</translation>
-    </message>
-    <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation type="unfinished">Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation type="unfinished">Fichiers &amp;récents</translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation type="unfinished">Outils</translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation type="unfinished">&amp;Vider la liste</translation>
-    </message>
-    <message>
-        <source>A window holds one label: only the first file was opened.</source>
-        <translation>Une fenêtre contient une étiquette : seul le premier fichier a été ouvert.</translation>
-    </message>
-    <message>
-        <source>There are no labels in “%1”.</source>
-        <translation>Il n’y a pas d’étiquettes dans « %1 ».</translation>
-    </message>
-    <message>
-        <source>Cannot open “%1”: %2</source>
-        <translation>Impossible d’ouvrir « %1 » : %2</translation>
-    </message>
-</context>
-<context>
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
@@ -317,7 +274,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>1 and 2</source>
-        <translation type="unfinished" />
+        <translation>1 et 2</translation>
     </message>
     <message>
         <source>%1 × %2 labels of %3 × %4 mm</source>
@@ -1455,11 +1412,11 @@ Exemples :
     </message>
     <message>
         <source>Show a larger picture</source>
-        <translation type="unfinished" />
+        <translation>Afficher une image plus grande</translation>
     </message>
     <message>
         <source>The document's own picture of %1</source>
-        <translation type="unfinished" />
+        <translation>Aperçu du document %1</translation>
     </message>
 </context>
 <context>
@@ -1586,11 +1543,11 @@ Exemples :
     </message>
     <message>
         <source>Larger picture</source>
-        <translation type="unfinished" />
+        <translation>Image plus grande</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished" />
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -1911,7 +1868,7 @@ Exemples :
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written.</source>
-        <translation type="unfinished" />
+        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written.</translation>
     </message>
     <message>
         <source>Texts of lines and dimension lines were left out.</source>
@@ -1919,7 +1876,7 @@ Exemples :
     </message>
     <message>
         <source>Add the symbols to the symbol databases and import again.</source>
-        <translation type="unfinished" />
+        <translation>Ajoutez les symboles aux bases de symboles et importez à nouveau.</translation>
     </message>
     <message>
         <source>The log was cut, or the label is too large to compare: there may be losses that are not listed.</source>
@@ -1927,19 +1884,19 @@ Exemples :
     </message>
     <message>
         <source>Bind the items to a data source in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Liez les objets à une source de données dans labelport-workbench.</translation>
     </message>
     <message>
         <source>Correct the content or the type in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Corrigez le contenu ou le type dans labelport-workbench, sous « Propriétés ».</translation>
     </message>
     <message>
         <source>Choose the type in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Choisissez le type dans labelport-workbench, sous « Propriétés ».</translation>
     </message>
     <message>
         <source>Move the items onto the page in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Déplacez les objets sur la page dans labelport-workbench.</translation>
     </message>
     <message>
         <source>The document uses millimeters: the label is a hundred times larger than the paper. Fonts and lines did not grow with it, so that texts are hardly visible.</source>
@@ -1951,11 +1908,11 @@ Exemples :
     </message>
     <message>
         <source>Install the fonts and import again, or choose another font in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Installez les polices et importez à nouveau, ou choisissez une autre police dans labelport-workbench, sous « Propriétés ».</translation>
     </message>
     <message>
         <source>Set the font size in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Définissez la taille de police dans labelport-workbench, sous « Propriétés ».</translation>
     </message>
     <message>
         <source>Texts differ from the document: words run together, or line breaks or words are missing.</source>
@@ -1963,7 +1920,7 @@ Exemples :
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or correct the text in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou corrigez le texte dans labelport-workbench, sous « Propriétés ».</translation>
     </message>
     <message>
         <source>Texts can hardly be read: their color is too similar to what is under them.</source>
@@ -1971,7 +1928,7 @@ Exemples :
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or set the color in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou définissez la couleur dans labelport-workbench, sous « Propriétés ».</translation>
     </message>
     <message>
         <source>Texts are printed over each other.</source>
@@ -1979,7 +1936,7 @@ Exemples :
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or move the texts in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou déplacez les textes dans labelport-workbench.</translation>
     </message>
     <message>
         <source>Items are covered by others, which they are not in the document.</source>
@@ -1987,7 +1944,7 @@ Exemples :
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or move the items in labelport-workbench.</source>
-        <translation type="unfinished" />
+        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou déplacez les objets dans labelport-workbench.</translation>
     </message>
     <message>
         <source>Items have another place or size than in the document, by more than 1 mm.</source>
@@ -2003,7 +1960,7 @@ Exemples :
     </message>
     <message>
         <source>Choose another fill in labelport-workbench under Properties.</source>
-        <translation type="unfinished" />
+        <translation>Choisissez un autre remplissage dans labelport-workbench, sous « Propriétés ».</translation>
     </message>
     <message>
         <source>Boxes are filled that are not filled in the document.</source>
@@ -2240,6 +2197,14 @@ Exemples :
     <message>
         <source>%n further pages became labels of their own</source>
         <translation>%n pages suivantes sont devenues des étiquettes</translation>
+    </message>
+    <message>
+        <source>%n tables became boxes with texts</source>
+        <translation>%n tableaux sont devenus des cadres avec textes</translation>
+    </message>
+    <message>
+        <source>%n pictures were mirrored</source>
+        <translation>%n images ont été retournées</translation>
     </message>
     <message>
         <source>The document could not be repaired: it was imported as it is written.</source>
@@ -2814,27 +2779,27 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>&amp;Connect CSV File…</source>
-        <translation type="unfinished" />
+        <translation>&amp;Connecter un fichier CSV…</translation>
     </message>
     <message>
         <source>Shows columns of a CSV file in items of the label</source>
-        <translation type="unfinished" />
+        <translation>Affiche les colonnes d’un fichier CSV dans des objets de l’étiquette</translation>
     </message>
     <message>
         <source>&amp;Edit Data Source…</source>
-        <translation type="unfinished" />
+        <translation>&amp;Modifier la source de données…</translation>
     </message>
     <message>
         <source>Changes the counter, date, list or file that is selected in the panel</source>
-        <translation type="unfinished" />
+        <translation>Modifie le compteur, la date, la liste ou le fichier sélectionné dans le panneau</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished" />
+        <translation>&amp;Manuel</translation>
     </message>
     <message>
         <source>Shows the manual of this window</source>
-        <translation type="unfinished" />
+        <translation>Affiche le manuel de cette fenêtre</translation>
     </message>
     <message>
         <source>&amp;Arrange</source>
@@ -2960,79 +2925,79 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     <name>window::CsvDialog</name>
     <message>
         <source>The first line &amp;names the columns</source>
-        <translation type="unfinished" />
+        <translation>La première ligne &amp;nomme les colonnes</translation>
     </message>
     <message>
         <source>Items and their columns</source>
-        <translation type="unfinished" />
+        <translation>Objets et leurs colonnes</translation>
     </message>
     <message>
         <source>Records of the file</source>
-        <translation type="unfinished" />
+        <translation>Enregistrements du fichier</translation>
     </message>
     <message>
         <source>Connect CSV File</source>
-        <translation type="unfinished" />
+        <translation>Connecter un fichier CSV</translation>
     </message>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished" />
+        <translation>&amp;Connecter</translation>
     </message>
     <message>
         <source>&amp;Items of the label</source>
-        <translation type="unfinished" />
+        <translation>&amp;Objets de l’étiquette</translation>
     </message>
     <message>
         <source>&amp;Records</source>
-        <translation type="unfinished" />
+        <translation>&amp;Enregistrements</translation>
     </message>
     <message>
         <source>Detect</source>
-        <translation type="unfinished" />
+        <translation>Détecter</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished" />
+        <translation>Virgule</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished" />
+        <translation>Point-virgule</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished" />
+        <translation>Tabulation</translation>
     </message>
     <message>
         <source>Bar</source>
-        <translation type="unfinished" />
+        <translation>Barre verticale</translation>
     </message>
     <message>
         <source>Separator</source>
-        <translation type="unfinished" />
+        <translation>Séparateur</translation>
     </message>
     <message>
         <source>UTF-8</source>
-        <translation type="unfinished" />
+        <translation>UTF-8</translation>
     </message>
     <message>
         <source>UTF-16</source>
-        <translation type="unfinished" />
+        <translation>UTF-16</translation>
     </message>
     <message>
         <source>Windows-1252</source>
-        <translation type="unfinished" />
+        <translation>Windows-1252</translation>
     </message>
     <message>
         <source>Encoding</source>
-        <translation type="unfinished" />
+        <translation>Encodage</translation>
     </message>
     <message>
         <source>C&amp;hoose…</source>
-        <translation type="unfinished" />
+        <translation>C&amp;hoisir…</translation>
     </message>
     <message>
         <source>Read &amp;Again</source>
-        <translation type="unfinished" />
+        <translation>&amp;Relire</translation>
     </message>
     <message>
         <source>File</source>
@@ -3040,27 +3005,27 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>&amp;Separator</source>
-        <translation type="unfinished" />
+        <translation>&amp;Séparateur</translation>
     </message>
     <message>
         <source>&amp;Encoding</source>
-        <translation type="unfinished" />
+        <translation>Enco&amp;dage</translation>
     </message>
     <message>
         <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished" />
+        <translation>Fichiers CSV (*.csv *.tsv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished" />
+        <translation>Objet</translation>
     </message>
     <message>
         <source>Shows column</source>
-        <translation type="unfinished" />
+        <translation>Affiche la colonne</translation>
     </message>
     <message>
         <source>– not from this file –</source>
-        <translation type="unfinished" />
+        <translation>– pas de ce fichier –</translation>
     </message>
 </context>
 <context>
@@ -3745,10 +3710,53 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
+    <name>window::MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation>LabelPort Workbench</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation>LabelPort Workbench %1</translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation>Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Fichiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vider la liste</translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation>Une fenêtre affiche une seule étiquette : seul le premier fichier a été ouvert.</translation>
+    </message>
+    <message>
+        <source>There are no labels in “%1”.</source>
+        <translation>Il n’y a pas d’étiquettes dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>Cannot open “%1”: %2</source>
+        <translation>Impossible d’ouvrir « %1 » : %2</translation>
+    </message>
+</context>
+<context>
     <name>window::ManualDialog</name>
     <message>
         <source>Manual</source>
-        <translation type="unfinished" />
+        <translation>Manuel</translation>
     </message>
 </context>
 <context>
@@ -4235,22 +4243,22 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>window::SourceCommands</name>
     <message>
         <source>Connect CSV File</source>
-        <translation type="unfinished" />
+        <translation>Connecter un fichier CSV</translation>
     </message>
     <message>
         <source>CSV files (*.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished" />
+        <translation>Fichiers CSV (*.csv *.tsv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Edit Data Source</source>
-        <translation type="unfinished" />
+        <translation>Modifier la source de données</translation>
     </message>
 </context>
 <context>
     <name>window::SourceDialog</name>
     <message>
         <source>Shows</source>
-        <translation type="unfinished" />
+        <translation>Affiche</translation>
     </message>
     <message>
         <source>Counter</source>
@@ -4258,59 +4266,59 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished" />
+        <translation>&amp;Début</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished" />
+        <translation>&amp;Fin</translation>
     </message>
     <message>
         <source>S&amp;tep</source>
-        <translation type="unfinished" />
+        <translation>&amp;Pas</translation>
     </message>
     <message>
         <source>&amp;Digits, with zeros in front</source>
-        <translation type="unfinished" />
+        <translation>&amp;Chiffres, avec zéros à gauche</translation>
     </message>
     <message>
         <source>Text &amp;before</source>
-        <translation type="unfinished" />
+        <translation>Texte a&amp;vant</translation>
     </message>
     <message>
         <source>Text &amp;after</source>
-        <translation type="unfinished" />
+        <translation>Texte a&amp;près</translation>
     </message>
     <message>
         <source>Date and Time</source>
-        <translation type="unfinished" />
+        <translation>Date et heure</translation>
     </message>
     <message>
         <source>&amp;Date</source>
-        <translation type="unfinished" />
+        <translation>&amp;Date</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished" />
+        <translation>&amp;Heure</translation>
     </message>
     <message>
         <source>List of Texts</source>
-        <translation type="unfinished" />
+        <translation>Liste de textes</translation>
     </message>
     <message>
         <source>Texts, one on each line</source>
-        <translation type="unfinished" />
+        <translation>Textes, un par ligne</translation>
     </message>
     <message>
         <source>&amp;Texts</source>
-        <translation type="unfinished" />
+        <translation>&amp;Textes</translation>
     </message>
     <message>
         <source>One text on each line; \n is a line break in a text.</source>
-        <translation type="unfinished" />
+        <translation>Un texte par ligne ; \n est un saut de ligne dans un texte.</translation>
     </message>
     <message>
         <source>%1 (%2 records)</source>
-        <translation type="unfinished" />
+        <translation>%1 (%2 enregistrements)</translation>
     </message>
 </context>
 <context>
@@ -4329,7 +4337,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Record &amp;number</source>
-        <translation type="unfinished" />
+        <translation>&amp;Numéro d’enregistrement</translation>
     </message>
 </context>
 <context>
@@ -4372,7 +4380,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>CSV file</source>
-        <translation type="unfinished" />
+        <translation>Fichier CSV</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -4391,15 +4399,15 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished" />
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Zoom in percent of the printed size</source>
-        <translation type="unfinished" />
+        <translation>Zoom en pourcentage de la taille imprimée</translation>
     </message>
     <message>
         <source>Whole label</source>
-        <translation type="unfinished" />
+        <translation>Étiquette entière</translation>
     </message>
 </context>
 <context>
@@ -4669,47 +4677,47 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>workbench::CsvTable</name>
     <message>
         <source>Line %1 has more than %2 columns.</source>
-        <translation type="unfinished" />
+        <translation>La ligne %1 a plus de %2 colonnes.</translation>
     </message>
     <message>
         <source>Line %1 has text after a closing quotation mark.</source>
-        <translation type="unfinished" />
+        <translation>La ligne %1 contient du texte après un guillemet fermant.</translation>
     </message>
     <message>
         <source>The quotation mark that begins in line %1 is not closed.</source>
-        <translation type="unfinished" />
+        <translation>Le guillemet ouvert à la ligne %1 n’est pas fermé.</translation>
     </message>
     <message>
         <source>Column %1</source>
-        <translation type="unfinished" />
+        <translation>Colonne %1</translation>
     </message>
     <message>
         <source>Line %1 has %2 fields; the first line has %3.</source>
-        <translation type="unfinished" />
+        <translation>La ligne %1 a %2 champs ; la première en a %3.</translation>
     </message>
     <message>
         <source>The file has more than %1 cells.</source>
-        <translation type="unfinished" />
+        <translation>Le fichier a plus de %1 cellules.</translation>
     </message>
     <message>
         <source>The file has more than %1 bytes.</source>
-        <translation type="unfinished" />
+        <translation>Le fichier a plus de %1 octets.</translation>
     </message>
     <message>
         <source>The file is not a text in this encoding.</source>
-        <translation type="unfinished" />
+        <translation>Le fichier n’est pas un texte dans cet encodage.</translation>
     </message>
     <message>
         <source>The file has no records.</source>
-        <translation type="unfinished" />
+        <translation>Le fichier n’a pas d’enregistrements.</translation>
     </message>
     <message>
         <source>"%1" is not a file.</source>
-        <translation type="unfinished" />
+        <translation>« %1 » n’est pas un fichier.</translation>
     </message>
     <message>
         <source>Cannot open "%1": %2.</source>
-        <translation type="unfinished">Impossible d’ouvrir « %1 » : %2. {1"?}</translation>
+        <translation>Impossible d’ouvrir « %1 » : %2.</translation>
     </message>
     <message>
         <source>Cannot read "%1": %2.</source>

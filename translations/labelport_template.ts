@@ -2,49 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>LabelPort Workbench</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>LabelPort Workbench %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A window holds one label: only the first file was opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There are no labels in “%1”.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cannot open “%1”: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>QDomParser</name>
     <message>
         <source>Unexpected token</source>
@@ -2173,6 +2130,14 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%n tables became boxes with texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%n pictures were mirrored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The document could not be repaired: it was imported as it is written.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3667,6 +3632,49 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or a folder of labels.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>window::MainWindow</name>
+    <message>
+        <source>LabelPort Workbench</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LabelPort Workbench %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A window holds one label: only the first file was opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no labels in “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot open “%1”: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

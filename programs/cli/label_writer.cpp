@@ -127,7 +127,7 @@ Written LabelWriter::writeRecords(exporting::Target target, const QString& outpu
     return writeFile(output, [&](const QString& file) {
         return exporting::exportFile(target,
                                      {*m_label.canvas, *m_label.datasources, first, count, title,
-                                      exportOptions(m_options), beforeRecord},
+                                      exportOptions(m_options.job), beforeRecord},
                                      file);
     });
 }

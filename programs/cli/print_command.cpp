@@ -135,7 +135,7 @@ private:
         m_documents = documentsOf(result);
         // What a hostile label may have made of its worker must not choose what is printed.
         const bool areOurs = std::all_of(m_documents.cbegin(), m_documents.cend(),
-                                         [&](const PrintDocument& document) {
+                                         [&](const printing::PrintDocument& document) {
                                              return archive::isFileIn(job.staging, document.file);
                                          });
         return reportErrors({}, result) && areOurs;

@@ -3,6 +3,7 @@
 #include "window/actions/palettes.h"
 #include "window/label/label_session.h"
 #include "window/properties/length_unit.h"
+#include "window/review/corrections.h"
 #include "window/status_line.h"
 #include "window/window_panels.h"
 
@@ -18,7 +19,6 @@ class CanvasView;
 class EditActions;
 class RuledCanvas;
 struct Issue;
-enum class Correction : quint8;
 
 /// The main window: one label, its panels, its menus.
 class MainWindow final : public QMainWindow

@@ -96,7 +96,7 @@ QString Prompts::askOpenFile(const QString& besides) const
 QString Prompts::askFolder() const
 {
     const QString folder =
-        QFileDialog::getExistingDirectory(m_window, Words::tr("Open Folder"), startFolder());
+        QFileDialog::getExistingDirectory(m_window, Words::tr("Open Folder"), startFolder({}));
     if (!folder.isEmpty()) {
         QSettings().setValue(folderKey(), QFileInfo(folder).absoluteFilePath());
     }
