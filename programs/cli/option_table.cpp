@@ -168,7 +168,11 @@ constexpr std::array PrintOptions{
 
 constexpr std::array InspectOptions{
     Option{"json", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Print JSON, as in reports.")},
-    ReaderOption, AsWrittenOption, TimeoutOption, MemoryOption, SandboxOption};
+    ReaderOption,
+    AsWrittenOption,
+    TimeoutOption,
+    MemoryOption,
+    SandboxOption};
 
 constexpr std::array RecordsOptions{
     Option{

@@ -121,9 +121,9 @@ struct ColorRow
 TEST_F(TextBuilder, InverseSwapsTheColorsAndTransparencyComesLast)
 {
     for (const ColorRow& row : {ColorRow{false, false, "#ffff0000", "#ffffff00"},
-                                 ColorRow{true, false, "#ffffff00", "#ffff0000"},
-                                 ColorRow{false, true, "#ffff0000", "#00000000"},
-                                 ColorRow{true, true, "#ffffff00", "#00000000"}}) {
+                                ColorRow{true, false, "#ffffff00", "#ffff0000"},
+                                ColorRow{false, true, "#ffff0000", "#00000000"},
+                                ColorRow{true, true, "#ffffff00", "#00000000"}}) {
         fake.calls.clear();
         TextRecord record = text();
         record.inverse = row.inverse;

@@ -22,7 +22,7 @@ const QByteArray PenAndFont = hex("0000001A"      // line width, 26 dots: 6.24 p
                                   "00000019"      // font size, 25 dots: 6 points
                                   "01 00 01");    // style flags
 const QByteArray Alignment = hex("00000002");
-const QByteArray Colors = hex("01 00");       // inverse, not transparent
+const QByteArray Colors = hex("01 00");        // inverse, not transparent
 const QByteArray Options = hex("00 01 01");    // A, A again, B
 const QByteArray SecondFont = hex("00000032"); // 50 dots: 12 points
 const QByteArray Trailer = hex("00000001 00000002");

@@ -66,8 +66,7 @@ TEST(RulerScale, TheFirstLabelOfThePageStandsAtItsEdge)
 
 TEST(RulerScale, LeftOfThePageNumbersAreNegative)
 {
-    const QList<RulerTick> ticks =
-        labeled(rulerTicks({200.0, 96.0 / 72.0, 200}, LengthUnit::Inch));
+    const QList<RulerTick> ticks = labeled(rulerTicks({200.0, 96.0 / 72.0, 200}, LengthUnit::Inch));
 
     ASSERT_EQ(ticks.size(), 3);
     EXPECT_EQ(ticks.at(0).label, QLocale().toString(-2));
