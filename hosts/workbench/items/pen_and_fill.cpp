@@ -105,16 +105,19 @@ bool isVisible(const PenValues& pen)
     return pen.style != Qt::NoPen && pen.color.alpha() > 0;
 }
 
-bool isGradient(int style)
+QBrush plainBrush(const QRectF& box, const FillValues& values)
 {
-    return style == Qt::LinearGradientPattern || style == Qt::RadialGradientPattern ||
-           style == Qt::ConicalGradientPattern;
-}
-
-QBrush gradientBrush(const QRectF& box, const FillValues& values)
-{
-    return values.style == Qt::LinearGradientPattern ? linearBrush(box, values.color)
-                                                     : radialBrush(box, values.color);
+    if (values.style == Qt::LinearGradientPattern) {
+        return linearBrush(box, values.color);
+    }
+    if (values.style == Qt::RadialGradientPattern || values.style == Qt::ConicalGradientPattern) {
+        return radialBrush(box, values.color);
+    }
+    if (isTone(values.style)) {
+        const auto index = static_cast<std::size_t>(values.style - Qt::Dense1Pattern);
+        return withInk(values.color, InkOfDensePattern.at(index));
+    }
+    return values.color;
 }
 
 } // namespace
@@ -128,21 +131,6 @@ QPen toPen(const PenValues& values)
     return pen;
 }
 
-std::optional<QColor> plainColor(const FillValues& values)
-{
-    if (!isVisible(values)) {
-        return QColor(Qt::transparent);
-    }
-    if (isGradient(values.style) || isHatch(values.style)) {
-        return std::nullopt;
-    }
-    if (isTone(values.style)) {
-        const auto index = static_cast<std::size_t>(values.style - Qt::Dense1Pattern);
-        return withInk(values.color, InkOfDensePattern.at(index));
-    }
-    return values.color;
-}
-
 void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
                const FillValues& values)
 {
@@ -153,8 +141,7 @@ void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
         paintHatch(painter, path, box, values.style, visibleOnPaper(values.color));
         return;
     }
-    const std::optional<QColor> color = plainColor(values);
-    painter.fillPath(path, color ? QBrush(*color) : gradientBrush(box, values));
+    painter.fillPath(path, plainBrush(box, values));
 }
 
 void paintShape(QPainter& painter, const QPainterPath& path, const QRectF& box,

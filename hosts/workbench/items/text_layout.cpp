@@ -117,17 +117,6 @@ Lines placeLines(QTextLayout& layout, const PlainText& text, const QRectF& box)
     return lines;
 }
 
-// Lays out the aligned lines; returns their upper left corner.
-QPointF layOutInBox(QTextLayout& layout, const PlainText& text, const QRectF& box)
-{
-    prepareLayout(layout, text);
-    const Lines lines = placeLines(layout, text, box);
-    if (!text.wraps) {
-        layOut(layout, lines.width);
-    }
-    return lines.topLeft;
-}
-
 // A text in its reference size, and the box and scale in which it fills its own box.
 struct Scaled
 {
@@ -188,23 +177,13 @@ QSizeF measureText(const PlainText& text, double width)
 void paintText(QPainter& painter, const PlainText& text, const QRectF& box)
 {
     QTextLayout layout;
-    const QPointF corner = layOutInBox(layout, text, box);
-    painter.setPen(text.color);
-    layout.draw(&painter, corner);
-}
-
-TextLines textLines(const PlainText& text, const QRectF& box)
-{
-    QTextLayout layout;
-    const QPointF corner = layOutInBox(layout, text, box);
-    TextLines result{{}, static_cast<double>(text.font.pixelSize())};
-    for (int i = 0; i < layout.lineCount(); ++i) {
-        const QTextLine line = layout.lineAt(i);
-        const QString characters = layout.text().mid(line.textStart(), line.textLength());
-        result.lines.append({characters, line.naturalTextRect().translated(corner),
-                             corner.y() + line.y() + line.ascent()});
+    prepareLayout(layout, text);
+    const Lines lines = placeLines(layout, text, box);
+    if (!text.wraps) {
+        layOut(layout, lines.width);
     }
-    return result;
+    painter.setPen(text.color);
+    layout.draw(&painter, lines.topLeft);
 }
 
 QRectF textRect(const PlainText& text, const QRectF& box)
@@ -243,22 +222,6 @@ QRectF fillingTextRect(const PlainText& text, const QRectF& box)
     }
     const QRectF rect = textRect(scaled->text, scaled->box);
     return {box.topLeft() + rect.topLeft() * scaled->scale, rect.size() * scaled->scale};
-}
-
-TextLines textLinesFilling(const PlainText& text, const QRectF& box)
-{
-    const std::optional<Scaled> scaled = scaledToFill(text, box);
-    if (!scaled) {
-        return {};
-    }
-    TextLines result = textLines(scaled->text, scaled->box);
-    for (TextLine& line : result.lines) {
-        line.box = QRectF(box.topLeft() + line.box.topLeft() * scaled->scale,
-                          line.box.size() * scaled->scale);
-        line.baseline = box.top() + line.baseline * scaled->scale;
-    }
-    result.fontSize *= scaled->scale;
-    return result;
 }
 
 } // namespace workbench

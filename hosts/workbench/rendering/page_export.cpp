@@ -68,27 +68,20 @@ QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
     return svg;
 }
 
-QByteArray generatedSvg(const QRectF& area, const QString& title, const Paint& paint)
+QByteArray svgOf(const Canvas& canvas, const QString& title)
 {
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
     generator.setResolution(layoutDpi());
-    generator.setSize(area.size().toSize().expandedTo({1, 1}));
-    generator.setViewBox(area);
+    generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
+    generator.setViewBox(canvas.pageRect());
     generator.setTitle(title.toHtmlEscaped()); // the generator does not escape the title
     generator.setDescription(u"LabelPort"_s);
     QPainter painter(&generator);
-    paint(painter);
+    paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
     painter.end();
-    return withNamedItems(withTrueSize(buffer.data(), area.size()));
-}
-
-QByteArray svgOf(const Canvas& canvas, const QString& title)
-{
-    return generatedSvg(canvas.pageRect(), title, [&canvas](QPainter& painter) {
-        paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
-    });
+    return withNamedItems(withTrueSize(buffer.data(), canvas.page().size));
 }
 
 // In whole points, as QPdfWriter writes it, rounded up: TrueSizePdf corrects it.
@@ -135,11 +128,6 @@ bool paintPages(QPdfWriter& writer, qint64 pages, const PaintPdfPage& paint)
 }
 
 } // namespace
-
-QByteArray drawingSvg(const QRectF& area, const Paint& paint)
-{
-    return generatedSvg(area, {}, paint);
-}
 
 QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& title)
 {
