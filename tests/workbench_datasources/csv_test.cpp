@@ -128,7 +128,7 @@ TEST(CsvTable, SaysWhyAFileCannotBeRead)
 
 TEST(CsvSource, ShowsTheSelectedColumnOfARecord)
 {
-    DatasourceController sources;
+    workbench::datasources::DatasourceController sources;
     const CsvTable table = parseCsv("Name,Price\nApple,1\nPear,2\nFig,\n");
     const CsvOptions options{u';', CsvEncoding::Utf8, false};
     const QVariantMap properties = CsvSource::propertiesOf(u"/a/b.csv"_s, options, table);
