@@ -1041,65 +1041,6 @@ Beispiele:
     </message>
 </context>
 <context>
-    <name>exporting::Glabels</name>
-    <message>
-        <source>Only the first records are in the CSV file.</source>
-        <translation>Die CSV-Datei enthält nur die ersten Datensätze.</translation>
-    </message>
-    <message>
-        <source>gLabels has no such shape.</source>
-        <translation>gLabels hat keine solche Form.</translation>
-    </message>
-    <message>
-        <source>gLabels has no gradients and no hatches.</source>
-        <translation>gLabels hat keine Verläufe und Schraffuren.</translation>
-    </message>
-    <message>
-        <source>gLabels has no dashed lines.</source>
-        <translation>gLabels hat keine gestrichelten Linien.</translation>
-    </message>
-    <message>
-        <source>gLabels has no round or beveled corners.</source>
-        <translation>gLabels hat keine runden oder abgeschrägten Ecken.</translation>
-    </message>
-    <message>
-        <source>gLabels has no arrows.</source>
-        <translation>gLabels hat keine Pfeile.</translation>
-    </message>
-    <message>
-        <source>gLabels has no round line ends.</source>
-        <translation>gLabels hat keine runden Linienenden.</translation>
-    </message>
-    <message>
-        <source>A large picture was scaled down.</source>
-        <translation>Ein großes Bild wurde verkleinert.</translation>
-    </message>
-    <message>
-        <source>gLabels has no such text format.</source>
-        <translation>gLabels hat kein solches Textformat.</translation>
-    </message>
-    <message>
-        <source>The content cannot be encoded.</source>
-        <translation>Der Inhalt kann nicht codiert werden.</translation>
-    </message>
-    <message>
-        <source>gLabels does not encode this barcode: it shows the first record only.</source>
-        <translation>gLabels codiert diesen Barcode nicht: Er zeigt nur den ersten Datensatz.</translation>
-    </message>
-    <message>
-        <source>gLabels does not encode this barcode.</source>
-        <translation>gLabels codiert diesen Barcode nicht.</translation>
-    </message>
-    <message>
-        <source>gLabels cannot encode some of the records.</source>
-        <translation>gLabels kann einige Datensätze nicht codieren.</translation>
-    </message>
-    <message>
-        <source>It shows the first record only.</source>
-        <translation>Es zeigt nur den ersten Datensatz.</translation>
-    </message>
-</context>
-<context>
     <name>exporting::Targets</name>
     <message>
         <source>Re&amp;solution</source>

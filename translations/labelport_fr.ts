@@ -1041,65 +1041,6 @@ Exemples :
     </message>
 </context>
 <context>
-    <name>exporting::Glabels</name>
-    <message>
-        <source>Only the first records are in the CSV file.</source>
-        <translation>Le fichier CSV ne contient que les premiers enregistrements.</translation>
-    </message>
-    <message>
-        <source>gLabels has no such shape.</source>
-        <translation>gLabels n’a pas cette forme.</translation>
-    </message>
-    <message>
-        <source>gLabels has no gradients and no hatches.</source>
-        <translation>gLabels n’a ni dégradés ni hachures.</translation>
-    </message>
-    <message>
-        <source>gLabels has no dashed lines.</source>
-        <translation>gLabels n’a pas de lignes pointillées.</translation>
-    </message>
-    <message>
-        <source>gLabels has no round or beveled corners.</source>
-        <translation>gLabels n’a pas de coins arrondis ou biseautés.</translation>
-    </message>
-    <message>
-        <source>gLabels has no arrows.</source>
-        <translation>gLabels n’a pas de flèches.</translation>
-    </message>
-    <message>
-        <source>gLabels has no round line ends.</source>
-        <translation>gLabels n’a pas d’extrémités de ligne arrondies.</translation>
-    </message>
-    <message>
-        <source>A large picture was scaled down.</source>
-        <translation>Une grande image a été réduite.</translation>
-    </message>
-    <message>
-        <source>gLabels has no such text format.</source>
-        <translation>gLabels n’a pas ce format de texte.</translation>
-    </message>
-    <message>
-        <source>The content cannot be encoded.</source>
-        <translation>Le contenu ne peut pas être encodé.</translation>
-    </message>
-    <message>
-        <source>gLabels does not encode this barcode: it shows the first record only.</source>
-        <translation>gLabels n’encode pas ce code-barres : il ne montre que le premier enregistrement.</translation>
-    </message>
-    <message>
-        <source>gLabels does not encode this barcode.</source>
-        <translation>gLabels n’encode pas ce code-barres.</translation>
-    </message>
-    <message>
-        <source>gLabels cannot encode some of the records.</source>
-        <translation>gLabels ne peut pas encoder certains enregistrements.</translation>
-    </message>
-    <message>
-        <source>It shows the first record only.</source>
-        <translation>Il ne montre que le premier enregistrement.</translation>
-    </message>
-</context>
-<context>
     <name>exporting::Targets</name>
     <message>
         <source>Re&amp;solution</source>

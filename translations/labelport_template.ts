@@ -972,65 +972,6 @@ Examples:
     </message>
 </context>
 <context>
-    <name>exporting::Glabels</name>
-    <message>
-        <source>Only the first records are in the CSV file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels has no such shape.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels has no gradients and no hatches.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels has no dashed lines.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels has no round or beveled corners.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels has no arrows.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels has no round line ends.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A large picture was scaled down.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels has no such text format.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The content cannot be encoded.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels does not encode this barcode: it shows the first record only.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels does not encode this barcode.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>gLabels cannot encode some of the records.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>It shows the first record only.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>exporting::Targets</name>
     <message>
         <source>Re&amp;solution</source>
