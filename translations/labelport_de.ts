@@ -2704,7 +2704,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>&amp;Labels</source>
-        <translation>&amp;Etiketten</translation>
+        <translation>Eti&amp;ketten</translation>
     </message>
     <message>
         <source>Shows the labels of the folder and moves keyboard focus to them</source>
@@ -2712,7 +2712,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>&amp;Original</source>
-        <translation>&amp;Original</translation>
+        <translation>Origina&amp;l</translation>
     </message>
     <message>
         <source>Shows the document's own preview next to the label, with a slider</source>

@@ -2544,7 +2544,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>Pre&amp;vious Label</source>
-        <translation>Étiquette &amp;précédente</translation>
+        <translation>Étiquette précé&amp;dente</translation>
     </message>
     <message>
         <source>Opens the previous label of the folder</source>
@@ -2552,7 +2552,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>&amp;Next Label</source>
-        <translation>Étiquette &amp;suivante</translation>
+        <translation>Étiquette sui&amp;vante</translation>
     </message>
     <message>
         <source>Opens the next label of the folder</source>
@@ -2712,7 +2712,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>&amp;Original</source>
-        <translation>&amp;Original</translation>
+        <translation>Origina&amp;l</translation>
     </message>
     <message>
         <source>Shows the document's own preview next to the label, with a slider</source>

@@ -15,7 +15,9 @@ using namespace Qt::StringLiterals;
 
 const QByteArray Rectangle =
     R"(<draw:rect svg:x="1cm" svg:y="1cm" svg:width="2cm" svg:height="1cm"/>)";
-const QByteArray Group = "<draw:g>" + Rectangle + Rectangle + "</draw:g>";
+// Beside the other one, so that none is covered.
+const QByteArray SecondRectangle = QByteArray(Rectangle).replace("svg:x=\"1cm\"", "svg:x=\"6cm\"");
+const QByteArray Group = "<draw:g>" + Rectangle + SecondRectangle + "</draw:g>";
 
 QByteArray drawing(const QList<QByteArray>& pages)
 {

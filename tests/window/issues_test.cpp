@@ -127,11 +127,11 @@ TEST_F(IssuesTest, WithoutALabelThePanelSaysSo)
 
 TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
 {
-    const QString file = sample(QStringLiteral("opendocument/high_voltage.odg"));
+    const QString file = sample(QStringLiteral("tavrel/stretched_text_2000022.cnv"));
     ASSERT_TRUE(window.openFile(file));
     const workbench::ImportResult result = workbench::importLabel(file);
     const migration::FileReport report = migration::makeFileReport(
-        file, QStringLiteral("high_voltage.odg"), ReaderKind::OpenDocument, result);
+        file, QStringLiteral("stretched_text_2000022.cnv"), ReaderKind::Tavrel, result);
     ASSERT_FALSE(report.lost.isEmpty() && report.changed.isEmpty());
     for (const QList<migration::Finding>* list : {&report.lost, &report.changed}) {
         for (const migration::Finding& finding : *list) {

@@ -102,30 +102,6 @@ TEST(Canvas, HigherItemsLieOnLowerOnesAndLaterOnesOnEarlier)
     EXPECT_EQ(page.at(20, 20), QColor(Qt::red));
 }
 
-TEST(Canvas, NewItemsAreAboveTheTextsOfEarlierOnes)
-{
-    workbench::Canvas canvas;
-    const auto add = [&canvas](double z) {
-        Item* item = canvas.getClassFactory()->create(KestTypes::Rectangle);
-        auto& graphics = dynamic_cast<QGraphicsItem&>(*item);
-        graphics.setZValue(z);
-        canvas.importItem(item);
-        return graphics.zValue();
-    };
-    const double first = add(0.0);
-    EXPECT_GT(first, 0.0);
-    EXPECT_GT(add(0.0), first + 0.001);
-    EXPECT_EQ(add(7000.0), 7000.0);
-}
-
-TEST(Canvas, SavedItemsKeepTheirOrder)
-{
-    workbench::Canvas canvas;
-    workbench::ItemValues values;
-    values.type = KestTypes::Rectangle;
-    EXPECT_EQ(canvas.addItem(values)->graphicsItem()->zValue(), 0.0);
-}
-
 TEST(Canvas, AReadOnlyItemTakesNoMouse)
 {
     Painted page;

@@ -199,8 +199,8 @@ qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
     std::optional<FileResult> result = resultFromLine(line);
     const Work work = m_work.value(task);
     QStringList outputs;
-    for (const QString& output : plannedOutputs(task)) {
-        outputs.append(inOutputFolder(output));
+    for (const QString& target : m_settings.targets) {
+        outputs.append(outputPath(task, target));
     }
     if (!result || !checkFiles(*result, work.staging, outputs)) {
         taskFailed(task, {WorkerEnd::Garbled, 0});

@@ -48,10 +48,6 @@ void Canvas::importItem(Item* item)
     if (graphicsItem->scene() == &m_scene) {
         return; // already on this canvas
     }
-    // Readers place texts just above the shape that they belong to: later items must be above both.
-    if (graphicsItem->zValue() == 0.0) {
-        graphicsItem->setZValue(static_cast<double>(m_items.size()) + 1.0);
-    }
     m_scene.addItem(graphicsItem);
     m_items.append(canvasItem);
     Q_EMIT itemsChanged();
@@ -135,8 +131,6 @@ CanvasItem* Canvas::addItem(const ItemValues& values)
     if (item != nullptr) {
         item->setValues(values);
         importItem(item->contractItem());
-        // A saved label states the order of its items.
-        item->graphicsItem()->setZValue(values.placement.z);
     }
     return item;
 }

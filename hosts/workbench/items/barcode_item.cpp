@@ -1,6 +1,5 @@
 #include "workbench/items/barcode_item.h"
 
-#include "workbench/barcodes/barcode_painter.h"
 #include "workbench/items/text_layout.h"
 
 #include <QPainter>
@@ -25,6 +24,26 @@ QColor groundOf(const BarcodeValues& values)
 }
 
 } // namespace
+
+barcodes::BarcodeRequest barcodeRequest(const BarcodeValues& values, const QString& content)
+{
+    return {values.symbology, content,       values.flag3,  values.flag1,
+            values.flag2,     values.option, values.number, values.value};
+}
+
+barcodes::BarcodeStyle barcodeStyle(const ItemValues& values)
+{
+    const BarcodeValues barcode = values.barcode.value_or(BarcodeValues());
+    const FontValues font = values.font.value_or(FontValues());
+    barcodes::BarcodeStyle style;
+    style.foreground = barcode.foreground;
+    style.background = groundOf(barcode);
+    style.textColor = values.textStyle.value_or(TextStyleValues()).color;
+    style.font = toFont(font, captionSize(font));
+    style.captionAlignment = Qt::Alignment(barcode.textAlignment);
+    style.moduleWidth = barcode.moduleWidth;
+    return style;
+}
 
 void BarcodeItem::setTextAlignment(Qt::Alignment alignment)
 {
@@ -87,9 +106,7 @@ void BarcodeItem::appearanceChanged()
 const barcodes::BarcodeSymbol& BarcodeItem::symbol() const
 {
     if (!m_symbol) {
-        m_symbol = barcodes::encode({m_barcode.symbology, shownContent(m_barcode.content),
-                                     m_barcode.flag3, m_barcode.flag1, m_barcode.flag2,
-                                     m_barcode.option, m_barcode.number, m_barcode.value});
+        m_symbol = barcodes::encode(barcodeRequest(m_barcode, shownContent(m_barcode.content)));
     }
     return *m_symbol;
 }
@@ -98,14 +115,7 @@ void BarcodeItem::paintContent(QPainter& painter)
 {
     const QRectF box = contentRect();
     painter.fillRect(box, m_barcode.background);
-    barcodes::BarcodeStyle style;
-    style.foreground = m_barcode.foreground;
-    style.background = groundOf(m_barcode);
-    style.textColor = textStyleValues().color;
-    style.font = toFont(fontValues(), captionSize(fontValues()));
-    style.captionAlignment = Qt::Alignment(m_barcode.textAlignment);
-    style.moduleWidth = m_barcode.moduleWidth;
-    barcodes::paintBarcode(painter, box, symbol(), style);
+    barcodes::paintBarcode(painter, box, symbol(), barcodeStyle(values()));
 }
 
 void BarcodeItem::collect(ItemValues& values) const

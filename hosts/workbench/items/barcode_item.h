@@ -2,12 +2,19 @@
 
 #include "host/items/barcode_item.h"
 #include "workbench/barcodes/barcode_encoder.h"
+#include "workbench/barcodes/barcode_painter.h"
 #include "workbench/items/box_layer.h"
 #include "workbench/items/facet_layers.h"
 
 #include <optional>
 
 namespace workbench {
+
+/// What a barcode item encodes.
+[[nodiscard]] barcodes::BarcodeRequest barcodeRequest(const BarcodeValues& values,
+                                                      const QString& content);
+/// How a barcode item draws its barcode; the values must have a barcode.
+[[nodiscard]] barcodes::BarcodeStyle barcodeStyle(const ItemValues& values);
 
 /// A barcode, fitted into its box. The fill color and the background color are the same.
 class BarcodeItem final : public DatasourceLayer<TextStyleLayer<FontLayer<BoxLayer<::BarcodeItem>>>>

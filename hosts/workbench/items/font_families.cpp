@@ -29,19 +29,6 @@ constexpr std::array StandIns{
     StandIn{QLatin1String("Courier"), QLatin1String("Liberation Mono")},
 };
 
-// Office suites number the declarations of a font: "Arial1". Empty for a name without a number of
-// one or two digits.
-QString withoutNumber(const QString& family)
-{
-    constexpr qsizetype mostDigits = 2;
-    qsizetype end = family.size();
-    while (end > 0 && family.at(end - 1) >= u'0' && family.at(end - 1) <= u'9') {
-        --end;
-    }
-    const qsizetype digits = family.size() - end;
-    return digits > 0 && digits <= mostDigits ? family.left(end).trimmed() : QString();
-}
-
 } // namespace
 
 QString fallbackFamily()
@@ -67,22 +54,9 @@ QString standInFamily(const QString& family)
 
 QStringList familiesFor(const QString& family)
 {
-    const QString plain = withoutNumber(family);
-    QStringList families{family, standInFamily(family), plain, standInFamily(plain),
-                         fallbackFamily()};
+    QStringList families{family, standInFamily(family), fallbackFamily()};
     families.removeAll(QString());
     return families;
-}
-
-void installStandInOf(const QString& family)
-{
-    const QString plain = withoutNumber(family);
-    const QString standIn = standInFamily(plain);
-    const bool isKnown = !standIn.isEmpty() || QFontDatabase::hasFamily(plain);
-    if (!plain.isEmpty() && isKnown && !QFontDatabase::hasFamily(family) &&
-        QFont::substitutes(family).isEmpty()) {
-        QFont::insertSubstitution(family, standIn.isEmpty() ? plain : standIn);
-    }
 }
 
 void installStandIns()

@@ -21,7 +21,4 @@ namespace workbench {
 /// Registers the replacements for documents. Only the first call has an effect.
 void installStandIns();
 
-/// Registers the replacement of a numbered name, "Arial1", for documents.
-void installStandInOf(const QString& family);
-
 } // namespace workbench

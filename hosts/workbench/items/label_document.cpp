@@ -10,7 +10,6 @@
 #include <QTextFragment>
 #include <QVariant>
 
-#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -69,8 +68,6 @@ void boundFontSizes(QTextDocument& document)
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextFragment fragment = it.fragment();
-            const QStringList families = fragment.charFormat().fontFamilies().toStringList();
-            std::for_each(families.begin(), families.end(), installStandInOf);
             if (!isBounded(fragment.charFormat().fontPointSize())) {
                 oversized.append({fragment.position(), fragment.position() + fragment.length()});
             }

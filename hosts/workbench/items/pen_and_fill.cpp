@@ -54,29 +54,13 @@ QColor withInk(const QColor& color, double ink)
     return tinted;
 }
 
-// Colors lighter than this are hardly visible on paper as lines, or next to white.
-constexpr float LightestPattern = 0.8F;
-
-// Of the same hue, dark enough to be seen in a gradient or hatch.
-QColor visibleOnPaper(const QColor& color)
-{
-    float hue = 0.0F;
-    float saturation = 0.0F;
-    float lightness = 0.0F;
-    float alpha = 0.0F;
-    color.getHslF(&hue, &saturation, &lightness, &alpha);
-    return lightness > LightestPattern
-               ? QColor::fromHslF(std::max(hue, 0.0F), saturation, LightestPattern, alpha)
-               : color;
-}
-
 // To white and not to transparent: PDF documents have no gradients of opacity and would show
 // the plain color.
 void addStops(QGradient& gradient, const QColor& color)
 {
     QColor paper = Qt::white;
     paper.setAlphaF(color.alphaF());
-    gradient.setColorAt(0.0, visibleOnPaper(color));
+    gradient.setColorAt(0.0, color);
     gradient.setColorAt(1.0, paper);
 }
 
@@ -105,19 +89,16 @@ bool isVisible(const PenValues& pen)
     return pen.style != Qt::NoPen && pen.color.alpha() > 0;
 }
 
-QBrush plainBrush(const QRectF& box, const FillValues& values)
+bool isGradient(int style)
 {
-    if (values.style == Qt::LinearGradientPattern) {
-        return linearBrush(box, values.color);
-    }
-    if (values.style == Qt::RadialGradientPattern || values.style == Qt::ConicalGradientPattern) {
-        return radialBrush(box, values.color);
-    }
-    if (isTone(values.style)) {
-        const auto index = static_cast<std::size_t>(values.style - Qt::Dense1Pattern);
-        return withInk(values.color, InkOfDensePattern.at(index));
-    }
-    return values.color;
+    return style == Qt::LinearGradientPattern || style == Qt::RadialGradientPattern ||
+           style == Qt::ConicalGradientPattern;
+}
+
+QBrush gradientBrush(const QRectF& box, const FillValues& values)
+{
+    return values.style == Qt::LinearGradientPattern ? linearBrush(box, values.color)
+                                                     : radialBrush(box, values.color);
 }
 
 } // namespace
@@ -131,6 +112,21 @@ QPen toPen(const PenValues& values)
     return pen;
 }
 
+std::optional<QColor> plainColor(const FillValues& values)
+{
+    if (!isVisible(values)) {
+        return QColor(Qt::transparent);
+    }
+    if (isGradient(values.style) || isHatch(values.style)) {
+        return std::nullopt;
+    }
+    if (isTone(values.style)) {
+        const auto index = static_cast<std::size_t>(values.style - Qt::Dense1Pattern);
+        return withInk(values.color, InkOfDensePattern.at(index));
+    }
+    return values.color;
+}
+
 void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
                const FillValues& values)
 {
@@ -138,10 +134,11 @@ void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
         return;
     }
     if (isHatch(values.style)) {
-        paintHatch(painter, path, box, values.style, visibleOnPaper(values.color));
+        paintHatch(painter, path, box, values.style, values.color);
         return;
     }
-    painter.fillPath(path, plainBrush(box, values));
+    const std::optional<QColor> color = plainColor(values);
+    painter.fillPath(path, color ? QBrush(*color) : gradientBrush(box, values));
 }
 
 void paintShape(QPainter& painter, const QPainterPath& path, const QRectF& box,

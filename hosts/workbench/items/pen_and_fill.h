@@ -5,6 +5,8 @@
 #include <QPen>
 #include <QRectF>
 
+#include <optional>
+
 class QPainter;
 class QPainterPath;
 
@@ -13,6 +15,9 @@ namespace workbench {
 /// The pen of the values. An unknown style number gives a solid line, an unknown cap
 /// a flat one, an unknown join a beveled one; width 0 gives the output's thinnest line.
 [[nodiscard]] QPen toPen(const PenValues& values);
+
+/// The one color of a fill, transparent for no fill; nothing for a gradient or a hatch.
+[[nodiscard]] std::optional<QColor> plainColor(const FillValues& values);
 
 /// Fills the path. The box is the extent of gradients and hatches.
 ///

@@ -3,13 +3,11 @@
 #include "workbench/items/font_families.h"
 #include "workbench/items/item_limits.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
 #include <QTextOption>
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 
 namespace workbench {
@@ -22,9 +20,6 @@ constexpr int MaximumLines = 5'000;
 
 // The font size for the layout of a text that is scaled to its box.
 constexpr int ReferenceSize = 100;
-
-// A font size in pixels whose metrics are exact to a thousandth.
-constexpr int MetricsSize = 1000;
 
 // Tolerance for rounding: a line measured to fit must not be broken.
 constexpr double WidthTolerance = 0.01;
@@ -50,27 +45,9 @@ void prepareLayout(QTextLayout& layout, const PlainText& text)
     layout.setCacheEnabled(true);
 }
 
-/// Ascent and descent of a font in points.
-struct LineMetrics
-{
-    double ascent = 0.0;
-    double descent = 0.0;
-};
-
-// Font engines round the metrics of a small font up to whole pixels, which are points here: a line
-// of 7 points would be 12 % too high. Those of a large font are exact.
-LineMetrics exactMetrics(QFont font)
-{
-    const double share = static_cast<double>(font.pixelSize()) / MetricsSize;
-    font.setPixelSize(MetricsSize);
-    const QFontMetricsF metrics(font);
-    return {metrics.ascent() * share, metrics.descent() * share};
-}
-
 // Lays the lines out from top to bottom; returns their total size.
 QSizeF layOut(QTextLayout& layout, double width)
 {
-    const LineMetrics metrics = exactMetrics(layout.font());
     double height = 0.0;
     double used = 0.0;
     layout.beginLayout();
@@ -80,11 +57,8 @@ QSizeF layOut(QTextLayout& layout, double width)
             break;
         }
         line.setLineWidth(width);
-        // Characters of a replaced font may need more room.
-        const double higher = std::max(0.0, line.ascent() - std::ceil(metrics.ascent));
-        const double deeper = std::max(0.0, line.descent() - std::ceil(metrics.descent));
-        line.setPosition({0.0, height + metrics.ascent + higher - line.ascent()});
-        height += metrics.ascent + metrics.descent + higher + deeper;
+        line.setPosition({0.0, height});
+        height += line.height();
         used = std::max(used, line.naturalTextWidth());
     }
     layout.endLayout();
@@ -115,6 +89,17 @@ Lines placeLines(QTextLayout& layout, const PlainText& text, const QRectF& box)
     lines.topLeft = {left, box.top() +
                                verticalOffset(text.alignment, box.height() - lines.size.height())};
     return lines;
+}
+
+// Lays out the aligned lines; returns their upper left corner.
+QPointF layOutInBox(QTextLayout& layout, const PlainText& text, const QRectF& box)
+{
+    prepareLayout(layout, text);
+    const Lines lines = placeLines(layout, text, box);
+    if (!text.wraps) {
+        layOut(layout, lines.width);
+    }
+    return lines.topLeft;
 }
 
 // A text in its reference size, and the box and scale in which it fills its own box.
@@ -177,13 +162,23 @@ QSizeF measureText(const PlainText& text, double width)
 void paintText(QPainter& painter, const PlainText& text, const QRectF& box)
 {
     QTextLayout layout;
-    prepareLayout(layout, text);
-    const Lines lines = placeLines(layout, text, box);
-    if (!text.wraps) {
-        layOut(layout, lines.width);
-    }
+    const QPointF corner = layOutInBox(layout, text, box);
     painter.setPen(text.color);
-    layout.draw(&painter, lines.topLeft);
+    layout.draw(&painter, corner);
+}
+
+TextLines textLines(const PlainText& text, const QRectF& box)
+{
+    QTextLayout layout;
+    const QPointF corner = layOutInBox(layout, text, box);
+    TextLines result{{}, static_cast<double>(text.font.pixelSize())};
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        const QString characters = layout.text().mid(line.textStart(), line.textLength());
+        result.lines.append({characters, line.naturalTextRect().translated(corner),
+                             corner.y() + line.y() + line.ascent()});
+    }
+    return result;
 }
 
 QRectF textRect(const PlainText& text, const QRectF& box)
@@ -222,6 +217,22 @@ QRectF fillingTextRect(const PlainText& text, const QRectF& box)
     }
     const QRectF rect = textRect(scaled->text, scaled->box);
     return {box.topLeft() + rect.topLeft() * scaled->scale, rect.size() * scaled->scale};
+}
+
+TextLines textLinesFilling(const PlainText& text, const QRectF& box)
+{
+    const std::optional<Scaled> scaled = scaledToFill(text, box);
+    if (!scaled) {
+        return {};
+    }
+    TextLines result = textLines(scaled->text, scaled->box);
+    for (TextLine& line : result.lines) {
+        line.box = QRectF(box.topLeft() + line.box.topLeft() * scaled->scale,
+                          line.box.size() * scaled->scale);
+        line.baseline = box.top() + line.baseline * scaled->scale;
+    }
+    result.fontSize *= scaled->scale;
+    return result;
 }
 
 } // namespace workbench

@@ -3,6 +3,7 @@
 #include "workbench/items/item_values.h"
 
 #include <QFont>
+#include <QList>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
@@ -31,6 +32,26 @@ struct PlainText
 
 /// The offset of an aligned object in a box with this much free space.
 [[nodiscard]] double verticalOffset(Qt::Alignment alignment, double room);
+
+/// One line of a text, as it is painted.
+struct TextLine
+{
+    QString text;
+    QRectF box;            ///< as wide as the characters
+    double baseline = 0.0; ///< y
+};
+
+struct TextLines
+{
+    QList<TextLine> lines;
+    double fontSize = 0.0; ///< points
+};
+
+/// The lines of a text with its alignment in the box.
+[[nodiscard]] TextLines textLines(const PlainText& text, const QRectF& box);
+
+/// The lines of a text that is as large as it fits into the box. None if it is blank.
+[[nodiscard]] TextLines textLinesFilling(const PlainText& text, const QRectF& box);
 
 /// Paints the text with its alignment in the box; it may extend beyond the box.
 void paintText(QPainter& painter, const PlainText& text, const QRectF& box);

@@ -68,20 +68,27 @@ QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
     return svg;
 }
 
-QByteArray svgOf(const Canvas& canvas, const QString& title)
+QByteArray generatedSvg(const QRectF& area, const QString& title, const Paint& paint)
 {
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
     generator.setResolution(layoutDpi());
-    generator.setSize(canvas.page().size.toSize().expandedTo({1, 1}));
-    generator.setViewBox(canvas.pageRect());
+    generator.setSize(area.size().toSize().expandedTo({1, 1}));
+    generator.setViewBox(area);
     generator.setTitle(title.toHtmlEscaped()); // the generator does not escape the title
     generator.setDescription(u"LabelPort"_s);
     QPainter painter(&generator);
-    paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
+    paint(painter);
     painter.end();
-    return withNamedItems(withTrueSize(buffer.data(), canvas.page().size));
+    return withNamedItems(withTrueSize(buffer.data(), area.size()));
+}
+
+QByteArray svgOf(const Canvas& canvas, const QString& title)
+{
+    return generatedSvg(canvas.pageRect(), title, [&canvas](QPainter& painter) {
+        paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
+    });
 }
 
 // In whole points, as QPdfWriter writes it, rounded up: TrueSizePdf corrects it.
@@ -128,6 +135,11 @@ bool paintPages(QPdfWriter& writer, qint64 pages, const PaintPdfPage& paint)
 }
 
 } // namespace
+
+QByteArray drawingSvg(const QRectF& area, const Paint& paint)
+{
+    return generatedSvg(area, {}, paint);
+}
 
 QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& title)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <QtGlobal>
@@ -21,6 +23,12 @@ using PreparePage = std::function<bool(qint64 page)>;
 
 /// Paints the page of this number, counted from 0, in points. Return false to stop.
 using PaintPdfPage = std::function<bool(QPainter& painter, qint64 page)>;
+
+/// Paints a drawing. The painter's unit is the point.
+using Paint = std::function<void(QPainter& painter)>;
+
+/// What is painted in an area, as an SVG document of the area's size.
+[[nodiscard]] QByteArray drawingSvg(const QRectF& area, const Paint& paint);
 
 /// Writes the page as SVG in its true size: lines as lines, text as text, and each item as a group
 /// "item-N", counted from the bottom. The file is replaced completely or, on failure, not at all.
