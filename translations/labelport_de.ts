@@ -40,7 +40,7 @@
         <translation>Alte Tavrel-Datei %1</translation>
     </message>
     <message>
-        <source>Could not open file "%1" (%2).</source>
+        <source>Could not open file &quot;%1&quot; (%2).</source>
         <translation>Die Datei „%1“ konnte nicht geöffnet werden (%2).</translation>
     </message>
     <message>
@@ -101,7 +101,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>archive::Journal</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
@@ -123,7 +123,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>archive::Publish</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
@@ -131,18 +131,18 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>ein Ordner dieses Namens ist vorhanden</translation>
     </message>
     <message>
-        <source>"%1" exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
+        <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
         <translation>„%1“ ist vorhanden und wurde entweder nicht von labelport geschrieben oder danach bearbeitet. Mit --force wird die Datei überschrieben.</translation>
     </message>
     <message>
-        <source>Cannot create folder "%1": %2.</source>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
         <translation>Der Ordner „%1“ kann nicht angelegt werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
-        <source>Another input has the same name; both would become "%1". Keep their subfolders with --base, or use different --output-dir folders.</source>
+        <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
         <translation>Eine andere Eingabedatei hat denselben Namen; beide würden zu „%1“. Behalten Sie die Unterordner mit --base bei, oder verwenden Sie verschiedene Ordner für --output-dir.</translation>
     </message>
     <message>
@@ -157,11 +157,11 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>archive::StagingArea</name>
     <message>
-        <source>Cannot write to "%1": %2.</source>
+        <source>Cannot write to &quot;%1&quot;: %2.</source>
         <translation>In „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
-        <source>Cannot create folder "%1": %2.</source>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
         <translation>Der Ordner „%1“ kann nicht angelegt werden: %2.</translation>
     </message>
     <message>
@@ -206,23 +206,23 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>cli::ExistingOutput</name>
     <message>
-        <source>A report is a file that ends in .json or .html, not "%1".</source>
+        <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
         <translation>Ein Bericht ist eine Datei, die auf .json oder .html endet, nicht „%1“.</translation>
     </message>
     <message>
-        <source>The name of a report must be valid UTF-8: "%1".</source>
+        <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
         <translation>Der Name eines Berichts muss gültiges UTF-8 sein: „%1“.</translation>
     </message>
     <message>
-        <source>the folder "%1" does not exist</source>
+        <source>the folder &quot;%1&quot; does not exist</source>
         <translation>der Ordner „%1“ ist nicht vorhanden</translation>
     </message>
     <message>
-        <source>the folder "%1" is not writable</source>
+        <source>the folder &quot;%1&quot; is not writable</source>
         <translation>in den Ordner „%1“ kann nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>"%1" exists and is not a report of labelport. Use --force to overwrite it.</source>
+        <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
         <translation>„%1“ ist vorhanden und kein Bericht von labelport. Mit --force wird die Datei überschrieben.</translation>
     </message>
 </context>
@@ -300,7 +300,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>Abgebrochen. Wiederholen Sie den Befehl mit --resume, um fortzufahren.</translation>
     </message>
     <message>
-        <source>Cannot search folder "%1": %2.</source>
+        <source>Cannot search folder &quot;%1&quot;: %2.</source>
         <translation>Der Ordner „%1“ kann nicht durchsucht werden: %2.</translation>
     </message>
     <message>
@@ -315,11 +315,11 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
 <context>
     <name>cli::ImportInputs</name>
     <message>
-        <source>Cannot read the list of files "%1": %2.</source>
+        <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
         <translation>Die Dateiliste „%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>"%1" is not a list of file names.</source>
+        <source>&quot;%1&quot; is not a list of file names.</source>
         <translation>„%1“ ist keine Liste von Dateinamen.</translation>
     </message>
 </context>
@@ -330,19 +330,19 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>Die Standardeingabe kann ein Etikett oder eine Dateiliste sein, aber nicht beides.</translation>
     </message>
     <message>
-        <source>--%1 expects a whole number from %2 to %3, not "%4".</source>
+        <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
         <translation>--%1 erwartet eine ganze Zahl von %2 bis %3, nicht „%4“.</translation>
     </message>
     <message>
-        <source>Unknown target "%1". Supported targets: %2.</source>
+        <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
         <translation>Unbekanntes Ziel „%1“. Unterstützte Ziele: %2.</translation>
     </message>
     <message>
-        <source>--records expects a number, a range such as 3-12 or 3-, or all, not "%1".</source>
+        <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
         <translation>--records erwartet eine Zahl, einen Bereich wie 3-12 oder 3- oder all, nicht „%1“.</translation>
     </message>
     <message>
-        <source>--shard expects the number of a part and of all parts, such as 3/8, not "%1".</source>
+        <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
         <translation>--shard erwartet die Nummer eines Teils und die Anzahl aller Teile, zum Beispiel 3/8, nicht „%1“.</translation>
     </message>
     <message>
@@ -366,16 +366,16 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>--base hat keine Wirkung ohne --files-from oder eine angegebene Datei in einem Unterordner dieses Ordners.</translation>
     </message>
     <message>
-        <source>"%1" ends in none of the targets' suffixes; specify one with --to: %2.</source>
+        <source>&quot;%1&quot; ends in none of the targets&apos; suffixes; specify one with --to: %2.</source>
         <translation>„%1“ hat keine Endung eines Ausgabeziels; geben Sie eines mit --to an: %2.</translation>
     </message>
     <message>
         <source> or </source>
-        <extracomment>between the last two targets: "pdf or zpl"</extracomment>
+        <extracomment>between the last two targets: &quot;pdf or zpl&quot;</extracomment>
         <translation> oder </translation>
     </message>
     <message>
-        <source>--%1 expects one of %2 for the target %3, not "%4".</source>
+        <source>--%1 expects one of %2 for the target %3, not &quot;%4&quot;.</source>
         <translation>--%1 erwartet für das Ziel %3 einen der Werte %2, nicht „%4“.</translation>
     </message>
     <message>
@@ -399,7 +399,7 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>--json und --print0 schließen einander aus.</translation>
     </message>
     <message>
-        <source>Unknown sheet "%1". "labelport formats" lists the sheets.</source>
+        <source>Unknown sheet &quot;%1&quot;. &quot;labelport formats&quot; lists the sheets.</source>
         <translation>Unbekannter Bogen „%1“. „labelport formats“ listet die Bögen auf.</translation>
     </message>
     <message>
@@ -471,11 +471,15 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <source>inspect needs exactly one file.</source>
         <translation>inspect erwartet genau eine Datei.</translation>
     </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Ein temporärer Ordner kann nicht angelegt werden: %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::JobOptions</name>
     <message>
-        <source>Unknown reader "%1". Supported readers: %2.</source>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
         <translation>Unbekannter Reader „%1“. Unterstützte Reader: %2.</translation>
     </message>
 </context>
@@ -527,11 +531,11 @@ Befehle:
 </translation>
     </message>
     <message>
-        <source>No command given. See "labelport --help".</source>
+        <source>No command given. See &quot;labelport --help&quot;.</source>
         <translation>Kein Befehl angegeben. Siehe „labelport --help“.</translation>
     </message>
     <message>
-        <source>Unknown command "%1".</source>
+        <source>Unknown command &quot;%1&quot;.</source>
         <translation>Unbekannter Befehl „%1“.</translation>
     </message>
     <message>
@@ -779,7 +783,7 @@ Examples:
   labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
   labelport import archive --output-dir new --to label --report report.html
   labelport import archive --output-dir new --to label --resume
-  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
   curl -s https://labels.example/shelf.odg | labelport import -
 
 Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
@@ -797,7 +801,7 @@ Beispiele:
   labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
   labelport import archive --output-dir new --to label --report report.html
   labelport import archive --output-dir new --to label --resume
-  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
   curl -s https://labels.example/shelf.odg | labelport import -
 
 Exit-Status: 0 alle Dateien importiert, 1 eine Datei ist fehlgeschlagen, 2 falscher Aufruf,
@@ -843,20 +847,20 @@ sheets for --sheet.
 
 Examples:
   labelport formats
-  labelport formats --json | jq -r '.readers[].suffixes[]'</source>
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
         <translation>Listet die Formate auf, die labelport liest, mit ihren Versionen, die Formate, die es schreibt, und
 die Bögen für --sheet.
 
 Beispiele:
   labelport formats
-  labelport formats --json | jq -r '.readers[].suffixes[]'</translation>
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
     </message>
     <message>
-        <source>Import nothing unless the files are read in a complete sandbox; see "labelport formats".</source>
+        <source>Import nothing unless the files are read in a complete sandbox; see &quot;labelport formats&quot;.</source>
         <translation>Nur importieren, wenn die Dateien in einer vollständigen Sandbox gelesen werden; siehe „labelport formats“.</translation>
     </message>
     <message>
-        <source>Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other plain paper; see labelport formats. Default: paper of the label's size.</source>
+        <source>Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other plain paper; see labelport formats. Default: paper of the label&apos;s size.</source>
         <translation>Etiketten auf Bögen drucken: L7160, 5160 und andere, oder A4, Letter und anderes Papier; siehe labelport formats. Vorgabe: Papier in der Größe des Etiketts.</translation>
     </message>
     <message>
@@ -888,7 +892,7 @@ Beispiele:
         <translation>Auflösung von Bildern in Punkten pro Zoll, 10 bis 2400; eines Etikettendruckers 203, 300 oder 600 (Vorgabe: 300).</translation>
     </message>
     <message>
-        <source>Records of the label's data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page and a printer file one label for each record.</source>
+        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page and a printer file one label for each record.</source>
         <translation>Datensätze der Datenquellen des Etiketts: eine Zahl, ein Bereich wie 3-12 oder 3- oder all (Vorgabe: der erste). Die Bilder eines Bereichs werden nummeriert; ein PDF hat eine Seite und eine Druckerdatei ein Etikett je Datensatz.</translation>
     </message>
     <message>
@@ -904,7 +908,7 @@ Beispiele:
         <translation>Drucker; lpstat -e listet alle auf (Vorgabe: der Standarddrucker).</translation>
     </message>
     <message>
-        <source>Records of the labels' data sources: a number, a range such as 3-12 or 3-, or all (default: the first).</source>
+        <source>Records of the labels&apos; data sources: a number, a range such as 3-12 or 3-, or all (default: the first).</source>
         <translation>Datensätze der Datenquellen der Etiketten: eine Zahl, ein Bereich wie 3-12 oder 3- oder all (Vorgabe: der erste).</translation>
     </message>
     <message>
@@ -973,7 +977,7 @@ Beispiele:
         <translation>Kein Befehl angegeben: labelport report merge BERICHT.json... --to DATEI</translation>
     </message>
     <message>
-        <source>Unknown command "report %1".</source>
+        <source>Unknown command &quot;report %1&quot;.</source>
         <translation>Unbekannter Befehl „report %1“.</translation>
     </message>
     <message>
@@ -984,14 +988,14 @@ Beispiele:
 <context>
     <name>cli::TraceCommand</name>
     <message>
-        <source>Cannot run "%1": %2.</source>
+        <source>Cannot run &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht ausgeführt werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>console::CommandLine</name>
     <message>
-        <source>Unknown option "%1".</source>
+        <source>Unknown option &quot;%1&quot;.</source>
         <translation>Unbekannte Option „%1“.</translation>
     </message>
     <message>
@@ -1003,7 +1007,7 @@ Beispiele:
         <translation>Hilfe: %1 --help</translation>
     </message>
     <message>
-        <source>Did you mean "%1"?</source>
+        <source>Did you mean &quot;%1&quot;?</source>
         <translation>Meinten Sie „%1“?</translation>
     </message>
 </context>
@@ -1014,7 +1018,7 @@ Beispiele:
         <translation>Auf die Standardausgabe kann nicht geschrieben werden: %1.</translation>
     </message>
     <message>
-        <source>Cannot read "%1": %2.</source>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
 </context>
@@ -1036,7 +1040,7 @@ Beispiele:
 <context>
     <name>exporting::ExportFile</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
@@ -1356,7 +1360,7 @@ Beispiele:
         <translation>Größeres Bild anzeigen</translation>
     </message>
     <message>
-        <source>The document's own picture of %1</source>
+        <source>The document&apos;s own picture of %1</source>
         <translation>Vorschau des Dokuments %1</translation>
     </message>
 </context>
@@ -1580,7 +1584,7 @@ Beispiele:
         <translation>Objekte auf der zweiten Seite und den folgenden wurden weggelassen: Ein Etikett hat eine Seite.</translation>
     </message>
     <message>
-        <source>Objects of the page's background (its master page) were left out.</source>
+        <source>Objects of the page&apos;s background (its master page) were left out.</source>
         <translation>Objekte des Seitenhintergrunds (der Masterseite) wurden weggelassen.</translation>
     </message>
     <message>
@@ -1915,22 +1919,22 @@ Beispiele:
 <context>
     <name>migration::MergeReports</name>
     <message>
-        <source>The reports contain the file "%1" more than once.</source>
+        <source>The reports contain the file &quot;%1&quot; more than once.</source>
         <translation>Die Berichte enthalten die Datei „%1“ mehr als einmal.</translation>
     </message>
     <message>
-        <source>The report "%1" has changed during the merge.</source>
+        <source>The report &quot;%1&quot; has changed during the merge.</source>
         <translation>Der Bericht „%1“ wurde während des Zusammenführens geändert.</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportLines</name>
     <message>
-        <source>Cannot read "%1": %2.</source>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>"%1" is not a report of LabelPort: %2.</source>
+        <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
         <translation>„%1“ ist kein Bericht von LabelPort: %2.</translation>
     </message>
     <message>
@@ -1953,7 +1957,7 @@ Beispiele:
 <context>
     <name>migration::ReportWriter</name>
     <message>
-        <source>Cannot write the report "%1": %2.</source>
+        <source>Cannot write the report &quot;%1&quot;: %2.</source>
         <translation>Der Bericht „%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
@@ -2007,14 +2011,14 @@ Beispiele:
         <translation>%1 Etiketten in %2 Exemplaren sind mehr als die %3 eines Dokuments.</translation>
     </message>
     <message>
-        <source>Sheet "%1" has no position %2; its positions are 1 to %3.</source>
+        <source>Sheet &quot;%1&quot; has no position %2; its positions are 1 to %3.</source>
         <translation>Bogen „%1“ hat keine Position %2; seine Positionen sind 1 bis %3.</translation>
     </message>
 </context>
 <context>
     <name>printing::PrintQueue</name>
     <message>
-        <source>Cannot run "%1". Install the client commands of CUPS.</source>
+        <source>Cannot run &quot;%1&quot;. Install the client commands of CUPS.</source>
         <translation>„%1“ kann nicht ausgeführt werden. Installieren Sie die Client-Befehle von CUPS.</translation>
     </message>
     <message>
@@ -2022,7 +2026,7 @@ Beispiele:
         <translation>Der Druckserver antwortet nicht.</translation>
     </message>
     <message>
-        <source>"%1" failed.</source>
+        <source>&quot;%1&quot; failed.</source>
         <translation>„%1“ ist fehlgeschlagen.</translation>
     </message>
 </context>
@@ -2053,7 +2057,7 @@ Beispiele:
         <translation>Die Etiketten des Bogens ragen über das Papier hinaus.</translation>
     </message>
     <message>
-        <source>The label is %1; the labels of sheet "%2" are only %3.</source>
+        <source>The label is %1; the labels of sheet &quot;%2&quot; are only %3.</source>
         <translation>Das Etikett hat %1; die Etiketten des Bogens „%2“ haben nur %3.</translation>
     </message>
 </context>
@@ -2182,15 +2186,15 @@ Beispiele:
         <translation>es ist keine reguläre Datei</translation>
     </message>
     <message>
-        <source>Cannot read "%1": %2.</source>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>"%1" was not imported. The trace shows how far the import came.</source>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
         <translation>„%1“ wurde nicht importiert. Die Aufzeichnung zeigt, wie weit der Import kam.</translation>
     </message>
     <message>
-        <source>"%1" was not imported. The trace shows how far the import came; --reader selects another reader.</source>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
         <translation>„%1“ wurde nicht importiert. Die Aufzeichnung zeigt, wie weit der Import kam; --reader wählt einen anderen Reader.</translation>
     </message>
     <message>
@@ -2228,7 +2232,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>trace erwartet genau eine Datei.</translation>
     </message>
     <message>
-        <source>Unknown reader "%1". Supported readers: %2.</source>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
         <translation>Unbekannter Reader „%1“. Unterstützte Reader: %2.</translation>
     </message>
 </context>
@@ -2483,7 +2487,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>&amp;Gehe zu…</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the record's number</source>
+        <source>Puts the keyboard on the record&apos;s number</source>
         <translation>Setzt den Tastaturfokus auf die Nummer des Datensatzes</translation>
     </message>
     <message>
@@ -2715,7 +2719,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Origina&amp;l</translation>
     </message>
     <message>
-        <source>Shows the document's own preview next to the label, with a slider</source>
+        <source>Shows the document&apos;s own preview next to the label, with a slider</source>
         <translation>Zeigt die Vorschau des Dokuments neben dem Etikett, mit einem Schieberegler</translation>
     </message>
     <message>
@@ -3638,7 +3642,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         </translation>
     </message>
     <message>
-        <source>Cannot open "%1": %2</source>
+        <source>Cannot open &quot;%1&quot;: %2</source>
         <translation>„%1“ kann nicht geöffnet werden: %2</translation>
     </message>
     <message>
@@ -3754,7 +3758,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>PDF-Dokumente (*.pdf)</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2.</source>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
@@ -3977,7 +3981,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Bild ersetzen</translation>
     </message>
     <message>
-        <source>Cannot use "%1": %2</source>
+        <source>Cannot use &quot;%1&quot;: %2</source>
         <translation>„%1“ kann nicht verwendet werden: %2</translation>
     </message>
     <message>
@@ -4089,7 +4093,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>P&amp;apier</translation>
     </message>
     <message>
-        <source>The label's own size (%1 × %2 mm)</source>
+        <source>The label&apos;s own size (%1 × %2 mm)</source>
         <translation>Die Größe des Etiketts (%1 × %2 mm)</translation>
     </message>
     <message>
@@ -4559,7 +4563,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
 <context>
     <name>window::WindowPicture</name>
     <message>
-        <source>Cannot write "%1".</source>
+        <source>Cannot write &quot;%1&quot;.</source>
         <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
 </context>
@@ -4578,7 +4582,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>%1: Der Inhalt endet mit einer falschen Prüfziffer%2.</translation>
     </message>
     <message>
-        <source>%1: the content does not go together with the barcode's settings%2.</source>
+        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
         <translation>%1: Der Inhalt ist nicht mit den Einstellungen des Barcodes vereinbar%2.</translation>
     </message>
     <message>
@@ -4594,7 +4598,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Für den Barcode reicht der Speicher nicht aus.</translation>
     </message>
     <message>
-        <source>%1: the content needs a linear part, a "|" and a second part.</source>
+        <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
         <translation>%1: Der Inhalt muss aus einem linearen Teil, einem „|“ und einem zweiten Teil bestehen.</translation>
     </message>
     <message>
@@ -4653,15 +4657,15 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Die Datei hat keine Datensätze.</translation>
     </message>
     <message>
-        <source>"%1" is not a file.</source>
+        <source>&quot;%1&quot; is not a file.</source>
         <translation>„%1“ ist keine Datei.</translation>
     </message>
     <message>
-        <source>Cannot open "%1": %2.</source>
+        <source>Cannot open &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geöffnet werden: %2.</translation>
     </message>
     <message>
-        <source>Cannot read "%1": %2.</source>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
 </context>
@@ -4688,7 +4692,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Kein Etikett oder ein beschädigtes: Das XML ist in Zeile %2, Spalte %3 nicht wohlgeformt (%4).</translation>
     </message>
     <message>
-        <source>The file is XML, but not a label: its root element is not "qmtx".</source>
+        <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
         <translation>Die Datei ist XML, aber kein Etikett: Ihr Wurzelelement ist nicht „qmtx“.</translation>
     </message>
     <message>
@@ -4747,11 +4751,11 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Die Verknüpfung zeigt auf eine Datei, die nicht vorhanden ist.</translation>
     </message>
     <message>
-        <source>The file is a zip package, as OpenDocument files are, but it was read as "%1". If it is an OpenDocument file, rename it so that it ends in ".odt" or ".odg", or use --reader %2.</source>
+        <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
         <translation>Die Datei ist ein Zip-Paket wie OpenDocument-Dateien, wurde aber als „%1“ gelesen. Wenn sie eine OpenDocument-Datei ist, benennen Sie sie so um, dass sie auf „.odt“ oder „.odg“ endet, oder verwenden Sie --reader %2.</translation>
     </message>
     <message>
-        <source>The file is XML, but it was read as "%1". If it is an XML label, rename it so that it ends in ".qmtx", or use --reader %2.</source>
+        <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
         <translation>Die Datei ist XML, wurde aber als „%1“ gelesen. Wenn sie ein XML-Etikett ist, benennen Sie sie so um, dass sie auf „.qmtx“ endet, oder verwenden Sie --reader %2.</translation>
     </message>
     <message>
@@ -4762,7 +4766,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
 <context>
     <name>workbench::IssueWords</name>
     <message>
-        <source>Left out an object of the unknown type "%1".</source>
+        <source>Left out an object of the unknown type &quot;%1&quot;.</source>
         <translation>Ein Objekt des unbekannten Typs „%1“ wurde weggelassen.</translation>
     </message>
     <message>
@@ -4826,7 +4830,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Eine Zeichnung, die nicht umgewandelt werden kann, wurde weggelassen.</translation>
     </message>
     <message>
-        <source>Text "%1" was stretched; its font size was %2 pt.</source>
+        <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
         <translation>Der Text „%1“ war gestreckt; seine Schriftgröße war %2 pt.</translation>
     </message>
 </context>
@@ -4911,7 +4915,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
 <context>
     <name>workbench::PageExport</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
@@ -4938,7 +4942,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Für ein Bild von %1 mal %2 Pixeln reicht der Speicher nicht aus.</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2.</source>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>

@@ -40,8 +40,8 @@
         <translation>Ancien fichier Tavrel %1</translation>
     </message>
     <message>
-        <source>Could not open file "%1" (%2).</source>
-        <translation>Impossible d’ouvrir le fichier « %1 » (%2).</translation>
+        <source>Could not open file &quot;%1&quot; (%2).</source>
+        <translation>Impossible d’ouvrir le fichier «&#xa0;%1&#xa0;» (%2).</translation>
     </message>
     <message>
         <source>Record</source>
@@ -73,7 +73,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message>
         <source>Invalid canvas file version (%1 != %2) in</source>
         <comment>Content of error message.</comment>
-        <translation>Version de fichier canvas non valide (%1 != %2) dans</translation>
+        <translation>Version de fichier canvas non valide (%1&#xa0;!= %2) dans</translation>
     </message>
     <message>
         <source>Load Error</source>
@@ -88,21 +88,21 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message>
         <source>Warning: Import issues.</source>
         <comment>Error message title.</comment>
-        <translation>Avertissement : problèmes d’importation.</translation>
+        <translation>Avertissement&#xa0;: problèmes d’importation.</translation>
     </message>
     <message>
         <source>:
 	Original font size: %1.</source>
         <comment>Content of error message.</comment>
-        <translation> :
-	Taille de police d’origine : %1.</translation>
+        <translation>&#xa0;:
+	Taille de police d’origine&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>archive::Journal</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
-        <translation>Impossible d’écrire « %1 » : %2.</translation>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -123,31 +123,31 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
 <context>
     <name>archive::Publish</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
-        <translation>Impossible d’écrire « %1 » : %2.</translation>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>a folder of that name exists</source>
         <translation>un dossier de ce nom existe</translation>
     </message>
     <message>
-        <source>"%1" exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
-        <translation>« %1 » existe et n’a pas été écrit par labelport ou a été modifié depuis. Utilisez --force pour le remplacer.</translation>
+        <source>&quot;%1&quot; exists, and it was not written by labelport or has been edited since. Use --force to overwrite it.</source>
+        <translation>«&#xa0;%1&#xa0;» existe et n’a pas été écrit par labelport ou a été modifié depuis. Utilisez --force pour le remplacer.</translation>
     </message>
     <message>
-        <source>Cannot create folder "%1": %2.</source>
-        <translation>Impossible de créer le dossier « %1 » : %2.</translation>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>archive::Run</name>
     <message>
-        <source>Another input has the same name; both would become "%1". Keep their subfolders with --base, or use different --output-dir folders.</source>
-        <translation>Un autre fichier d’entrée porte le même nom ; les deux deviendraient « %1 ». Conservez leurs sous-dossiers avec --base ou utilisez des dossiers --output-dir différents.</translation>
+        <source>Another input has the same name; both would become &quot;%1&quot;. Keep their subfolders with --base, or use different --output-dir folders.</source>
+        <translation>Un autre fichier d’entrée porte le même nom&#xa0;; les deux deviendraient «&#xa0;%1&#xa0;». Conservez leurs sous-dossiers avec --base ou utilisez des dossiers --output-dir différents.</translation>
     </message>
     <message>
         <source>Cannot write the journal in the output folder; --resume will import some files again.</source>
-        <translation>Impossible d’écrire le journal dans le dossier de sortie ; --resume importera de nouveau certains fichiers.</translation>
+        <translation>Impossible d’écrire le journal dans le dossier de sortie&#xa0;; --resume importera de nouveau certains fichiers.</translation>
     </message>
     <message>
         <source>Cannot start the worker processes, or they exit at once. Try a larger --memory-limit.</source>
@@ -157,12 +157,12 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
 <context>
     <name>archive::StagingArea</name>
     <message>
-        <source>Cannot write to "%1": %2.</source>
-        <translation>Impossible d’écrire dans « %1 » : %2.</translation>
+        <source>Cannot write to &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>Cannot create folder "%1": %2.</source>
-        <translation>Impossible de créer le dossier « %1 » : %2.</translation>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>a file of that name exists</source>
@@ -173,18 +173,18 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <name>archive::WorkerEnd</name>
     <message>
         <source>The file needs more than %1 MiB of memory; see --memory-limit.</source>
-        <translation>Le fichier nécessite plus de %1 Mio de mémoire ; voir --memory-limit.</translation>
+        <translation>Le fichier nécessite plus de %1 Mio de mémoire&#xa0;; voir --memory-limit.</translation>
     </message>
     <message numerus="yes">
         <source>The file made no progress for %n second(s); see --timeout.</source>
         <translation>
-            <numerusform>L’importation du fichier n’a pas progressé pendant %n seconde ; voir --timeout.</numerusform>
-            <numerusform>L’importation du fichier n’a pas progressé pendant %n secondes ; voir --timeout.</numerusform>
+            <numerusform>L’importation du fichier n’a pas progressé pendant %n seconde&#xa0;; voir --timeout.</numerusform>
+            <numerusform>L’importation du fichier n’a pas progressé pendant %n secondes&#xa0;; voir --timeout.</numerusform>
         </translation>
     </message>
     <message>
         <source>The worker process was killed twice; perhaps the machine is out of memory.</source>
-        <translation>Le processus de travail a été tué deux fois ; la machine manque peut-être de mémoire.</translation>
+        <translation>Le processus de travail a été tué deux fois&#xa0;; la machine manque peut-être de mémoire.</translation>
     </message>
     <message>
         <source>The import crashed twice (%1). If a larger --memory-limit does not help, please report the file.</source>
@@ -192,11 +192,11 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>The worker process sent an invalid reply twice; please report the file.</source>
-        <translation>Le processus de travail a envoyé deux fois une réponse non valide ; signalez le fichier.</translation>
+        <translation>Le processus de travail a envoyé deux fois une réponse non valide&#xa0;; signalez le fichier.</translation>
     </message>
     <message>
         <source>The worker process exited twice with status %1; please report the file.</source>
-        <translation>Le processus de travail s’est terminé deux fois avec le code %1 ; signalez le fichier.</translation>
+        <translation>Le processus de travail s’est terminé deux fois avec le code %1&#xa0;; signalez le fichier.</translation>
     </message>
     <message>
         <source>The import was stopped twice because it tried something that its sandbox forbids. Do not trust the file, and please report it.</source>
@@ -206,24 +206,24 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
 <context>
     <name>cli::ExistingOutput</name>
     <message>
-        <source>A report is a file that ends in .json or .html, not "%1".</source>
-        <translation>Un rapport est un fichier qui se termine par .json ou .html ; « %1 » n’est pas valide.</translation>
+        <source>A report is a file that ends in .json or .html, not &quot;%1&quot;.</source>
+        <translation>Un rapport est un fichier qui se termine par .json ou .html&#xa0;; «&#xa0;%1&#xa0;» n’est pas valide.</translation>
     </message>
     <message>
-        <source>The name of a report must be valid UTF-8: "%1".</source>
-        <translation>Le nom d’un rapport doit être en UTF-8 valide : « %1 ».</translation>
+        <source>The name of a report must be valid UTF-8: &quot;%1&quot;.</source>
+        <translation>Le nom d’un rapport doit être en UTF-8 valide&#xa0;: «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>the folder "%1" does not exist</source>
-        <translation>le dossier « %1 » n’existe pas</translation>
+        <source>the folder &quot;%1&quot; does not exist</source>
+        <translation>le dossier «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
     <message>
-        <source>the folder "%1" is not writable</source>
-        <translation>le dossier « %1 » n’est pas accessible en écriture</translation>
+        <source>the folder &quot;%1&quot; is not writable</source>
+        <translation>le dossier «&#xa0;%1&#xa0;» n’est pas accessible en écriture</translation>
     </message>
     <message>
-        <source>"%1" exists and is not a report of labelport. Use --force to overwrite it.</source>
-        <translation>« %1 » existe et n’est pas un rapport de labelport. Utilisez --force pour le remplacer.</translation>
+        <source>&quot;%1&quot; exists and is not a report of labelport. Use --force to overwrite it.</source>
+        <translation>«&#xa0;%1&#xa0;» existe et n’est pas un rapport de labelport. Utilisez --force pour le remplacer.</translation>
     </message>
 </context>
 <context>
@@ -234,7 +234,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>2000016 to 2000024; newer ones are read as 2000024</source>
-        <translation>2000016 à 2000024 ; les plus récentes sont lues comme 2000024</translation>
+        <translation>2000016 à 2000024&#xa0;; les plus récentes sont lues comme 2000024</translation>
     </message>
     <message>
         <source>XML labels</source>
@@ -254,15 +254,15 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>Read (import, inspect):</source>
-        <translation>Lus (import, inspect) :</translation>
+        <translation>Lus (import, inspect)&#xa0;:</translation>
     </message>
     <message>
         <source>versions: %1</source>
-        <translation>versions : %1</translation>
+        <translation>versions&#xa0;: %1</translation>
     </message>
     <message>
         <source>Written (import --to):</source>
-        <translation>Écrits (import --to) :</translation>
+        <translation>Écrits (import --to)&#xa0;:</translation>
     </message>
     <message>
         <source>all versions (zipped)</source>
@@ -282,7 +282,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>Sheets (--sheet):</source>
-        <translation>Planches (--sheet) :</translation>
+        <translation>Planches (--sheet)&#xa0;:</translation>
     </message>
     <message>
         <source>plain paper, with as many labels as fit</source>
@@ -290,7 +290,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>Sandbox in which files are read, on this system: %1.</source>
-        <translation>Bac à sable dans lequel les fichiers sont lus, sur ce système : %1.</translation>
+        <translation>Bac à sable dans lequel les fichiers sont lus, sur ce système&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -300,8 +300,8 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>Arrêté. Répétez la commande avec --resume pour continuer.</translation>
     </message>
     <message>
-        <source>Cannot search folder "%1": %2.</source>
-        <translation>Impossible de parcourir le dossier « %1 » : %2.</translation>
+        <source>Cannot search folder &quot;%1&quot;: %2.</source>
+        <translation>Impossible de parcourir le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>No labels to import.</source>
@@ -309,18 +309,18 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>Cannot create a temporary folder: %1.</source>
-        <translation>Impossible de créer un dossier temporaire : %1.</translation>
+        <translation>Impossible de créer un dossier temporaire&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>cli::ImportInputs</name>
     <message>
-        <source>Cannot read the list of files "%1": %2.</source>
-        <translation>Impossible de lire la liste de fichiers « %1 » : %2.</translation>
+        <source>Cannot read the list of files &quot;%1&quot;: %2.</source>
+        <translation>Impossible de lire la liste de fichiers «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>"%1" is not a list of file names.</source>
-        <translation>« %1 » n’est pas une liste de noms de fichiers.</translation>
+        <source>&quot;%1&quot; is not a list of file names.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une liste de noms de fichiers.</translation>
     </message>
 </context>
 <context>
@@ -330,20 +330,20 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>L’entrée standard peut être une étiquette ou une liste de fichiers, mais pas les deux.</translation>
     </message>
     <message>
-        <source>--%1 expects a whole number from %2 to %3, not "%4".</source>
-        <translation>--%1 attend un nombre entier de %2 à %3, et non « %4 ».</translation>
+        <source>--%1 expects a whole number from %2 to %3, not &quot;%4&quot;.</source>
+        <translation>--%1 attend un nombre entier de %2 à %3, et non «&#xa0;%4&#xa0;».</translation>
     </message>
     <message>
-        <source>Unknown target "%1". Supported targets: %2.</source>
-        <translation>Cible « %1 » inconnue. Cibles prises en charge : %2.</translation>
+        <source>Unknown target &quot;%1&quot;. Supported targets: %2.</source>
+        <translation>Cible «&#xa0;%1&#xa0;» inconnue. Cibles prises en charge&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>--records expects a number, a range such as 3-12 or 3-, or all, not "%1".</source>
-        <translation>--records attend un nombre, une plage comme 3-12 ou 3-, ou all, et non « %1 ».</translation>
+        <source>--records expects a number, a range such as 3-12 or 3-, or all, not &quot;%1&quot;.</source>
+        <translation>--records attend un nombre, une plage comme 3-12 ou 3-, ou all, et non «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>--shard expects the number of a part and of all parts, such as 3/8, not "%1".</source>
-        <translation>--shard attend le numéro d’une partie et le nombre de parties, comme 3/8, et non « %1 ».</translation>
+        <source>--shard expects the number of a part and of all parts, such as 3/8, not &quot;%1&quot;.</source>
+        <translation>--shard attend le numéro d’une partie et le nombre de parties, comme 3/8, et non «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--memory-limit expects 0 or at least %1 MiB.</source>
@@ -366,17 +366,17 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>--base est sans effet sans --files-from ou un fichier indiqué dans un sous-dossier de ce dossier.</translation>
     </message>
     <message>
-        <source>"%1" ends in none of the targets' suffixes; specify one with --to: %2.</source>
-        <translation>« %1 » n’a le suffixe d’aucun format ; précisez-en un avec --to : %2.</translation>
+        <source>&quot;%1&quot; ends in none of the targets&apos; suffixes; specify one with --to: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a le suffixe d’aucun format&#xa0;; précisez-en un avec --to&#xa0;: %2.</translation>
     </message>
     <message>
         <source> or </source>
-        <extracomment>between the last two targets: "pdf or zpl"</extracomment>
+        <extracomment>between the last two targets: &quot;pdf or zpl&quot;</extracomment>
         <translation> ou </translation>
     </message>
     <message>
-        <source>--%1 expects one of %2 for the target %3, not "%4".</source>
-        <translation>--%1 attend une des valeurs %2 pour le format %3, et non « %4 ».</translation>
+        <source>--%1 expects one of %2 for the target %3, not &quot;%4&quot;.</source>
+        <translation>--%1 attend une des valeurs %2 pour le format %3, et non «&#xa0;%4&#xa0;».</translation>
     </message>
     <message>
         <source>--%1 has no effect without --to %2.</source>
@@ -399,8 +399,8 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>--json et --print0 s’excluent.</translation>
     </message>
     <message>
-        <source>Unknown sheet "%1". "labelport formats" lists the sheets.</source>
-        <translation>Planche inconnue « %1 ». « labelport formats » liste les planches.</translation>
+        <source>Unknown sheet &quot;%1&quot;. &quot;labelport formats&quot; lists the sheets.</source>
+        <translation>Planche inconnue «&#xa0;%1&#xa0;». «&#xa0;labelport formats&#xa0;» liste les planches.</translation>
     </message>
     <message>
         <source>--%1 has no effect without --sheet.</source>
@@ -411,7 +411,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <name>cli::ImportReporter</name>
     <message>
         <source>Warning: %1</source>
-        <translation>Avertissement : %1</translation>
+        <translation>Avertissement&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s) imported.</source>
@@ -458,7 +458,7 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
     <message>
         <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
-        <translation>Ce système n’a pas de bac à sable complet, comme l’exige --require-sandbox. Disponible : %1.</translation>
+        <translation>Ce système n’a pas de bac à sable complet, comme l’exige --require-sandbox. Disponible&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
@@ -471,12 +471,16 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <source>inspect needs exactly one file.</source>
         <translation>inspect attend exactement un fichier.</translation>
     </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation>Impossible de créer un dossier temporaire&#xa0;: %1.</translation>
+    </message>
 </context>
 <context>
     <name>cli::JobOptions</name>
     <message>
-        <source>Unknown reader "%1". Supported readers: %2.</source>
-        <translation>Lecteur « %1 » inconnu. Lecteurs pris en charge : %2.</translation>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
+        <translation>Lecteur «&#xa0;%1&#xa0;» inconnu. Lecteurs pris en charge&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -484,28 +488,28 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message numerus="yes">
         <source>The label has only %n record(s); record %1 does not exist.</source>
         <translation>
-            <numerusform>L’étiquette n’a que %n enregistrement ; l’enregistrement %1 n’existe pas.</numerusform>
-            <numerusform>L’étiquette n’a que %n enregistrements ; l’enregistrement %1 n’existe pas.</numerusform>
+            <numerusform>L’étiquette n’a que %n enregistrement&#xa0;; l’enregistrement %1 n’existe pas.</numerusform>
+            <numerusform>L’étiquette n’a que %n enregistrements&#xa0;; l’enregistrement %1 n’existe pas.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 records are more than the %2 that one command writes; select a range with --records.</source>
-        <translation>%1 enregistrements dépassent le maximum de %2 par commande ; choisissez une plage avec --records.</translation>
+        <translation>%1 enregistrements dépassent le maximum de %2 par commande&#xa0;; choisissez une plage avec --records.</translation>
     </message>
 </context>
 <context>
     <name>cli::LossSummary</name>
     <message>
         <source>Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.</source>
-        <translation>Étiquettes importées complètement : %1, avec modifications : %2, avec pertes : %3, échecs : %4.</translation>
+        <translation>Étiquettes importées complètement&#xa0;: %1, avec modifications&#xa0;: %2, avec pertes&#xa0;: %3, échecs&#xa0;: %4.</translation>
     </message>
     <message>
         <source>All details: %1</source>
-        <translation>Tous les détails : %1</translation>
+        <translation>Tous les détails&#xa0;: %1</translation>
     </message>
     <message>
         <source>All details: add --report report.html, or run labelport inspect on a file.</source>
-        <translation>Tous les détails : ajoutez --report report.html, ou lancez labelport inspect sur un fichier.</translation>
+        <translation>Tous les détails&#xa0;: ajoutez --report report.html, ou lancez labelport inspect sur un fichier.</translation>
     </message>
 </context>
 <context>
@@ -518,25 +522,25 @@ LabelPort (*.label). Help of a command: labelport COMMAND --help
 
 Commands:
 </source>
-        <translation>Utilisation : labelport COMMANDE [ARGUMENT...]
+        <translation>Utilisation&#xa0;: labelport COMMANDE [ARGUMENT...]
 
 Importe d’anciens modèles d’étiquettes (*.cnv et *.roc, *.qmtx, *.odt et *.odg) et ouvre les
-étiquettes enregistrées par LabelPort (*.label). Aide d’une commande : labelport COMMANDE --help
+étiquettes enregistrées par LabelPort (*.label). Aide d’une commande&#xa0;: labelport COMMANDE --help
 
-Commandes :
+Commandes&#xa0;:
 </translation>
     </message>
     <message>
-        <source>No command given. See "labelport --help".</source>
-        <translation>Aucune commande indiquée. Voir « labelport --help ».</translation>
+        <source>No command given. See &quot;labelport --help&quot;.</source>
+        <translation>Aucune commande indiquée. Voir «&#xa0;labelport --help&#xa0;».</translation>
     </message>
     <message>
-        <source>Unknown command "%1".</source>
-        <translation>Commande « %1 » inconnue.</translation>
+        <source>Unknown command &quot;%1&quot;.</source>
+        <translation>Commande «&#xa0;%1&#xa0;» inconnue.</translation>
     </message>
     <message>
         <source>Help: %1</source>
-        <translation>Aide : %1</translation>
+        <translation>Aide&#xa0;: %1</translation>
     </message>
     <message>
         <source>
@@ -559,7 +563,7 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
   --help           afficher cette aide
   --version        afficher la version
 
-Exemples :
+Exemples&#xa0;:
   labelport import shelf.odg
   labelport import archive --to png,label --output-dir new --report report.html
   labelport import asset.label --to pdf --records all
@@ -568,7 +572,7 @@ Exemples :
   labelport records asset.qmtx --to records.csv
   labelport trace shelf.odg
 
-Code de retour : 0 succès, 1 échec d’un fichier, 2 utilisation incorrecte, 3 étiquette importée
+Code de retour&#xa0;: 0 succès, 1 échec d’un fichier, 2 utilisation incorrecte, 3 étiquette importée
 incomplètement (import --fail-on-loss), 130 arrêt par un signal.
 </translation>
     </message>
@@ -581,7 +585,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Abort a file after this many seconds without progress; 0 for no limit (default: 60).</source>
-        <translation>Abandonner un fichier après ce nombre de secondes sans progression ; 0 pour aucune limite (par défaut : 60).</translation>
+        <translation>Abandonner un fichier après ce nombre de secondes sans progression&#xa0;; 0 pour aucune limite (par défaut&#xa0;: 60).</translation>
     </message>
     <message>
         <source>MiB</source>
@@ -589,7 +593,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Abort a file that uses more memory than this; 0 for no limit (default: 4096).</source>
-        <translation>Abandonner un fichier qui utilise plus de mémoire que cette valeur ; 0 pour aucune limite (par défaut : 4096).</translation>
+        <translation>Abandonner un fichier qui utilise plus de mémoire que cette valeur&#xa0;; 0 pour aucune limite (par défaut&#xa0;: 4096).</translation>
     </message>
     <message>
         <source>name</source>
@@ -597,7 +601,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Read files as tavrel (*.cnv, *.roc), orvanta (*.qmtx) or opendocument (*.odt, *.odg), whatever their names. Default: by the suffix, or else by the content.</source>
-        <translation>Lire les fichiers comme tavrel (*.cnv, *.roc), orvanta (*.qmtx) ou opendocument (*.odt, *.odg), quel que soit leur nom. Par défaut : d’après le suffixe, sinon d’après le contenu.</translation>
+        <translation>Lire les fichiers comme tavrel (*.cnv, *.roc), orvanta (*.qmtx) ou opendocument (*.odt, *.odg), quel que soit leur nom. Par défaut&#xa0;: d’après le suffixe, sinon d’après le contenu.</translation>
     </message>
     <message>
         <source>targets</source>
@@ -609,7 +613,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Folder to write to; created if missing (default: the current folder). Subfolders of an imported folder are kept.</source>
-        <translation>Dossier de sortie ; créé s’il n’existe pas (par défaut : le dossier actuel). Les sous-dossiers d’un dossier importé sont conservés.</translation>
+        <translation>Dossier de sortie&#xa0;; créé s’il n’existe pas (par défaut&#xa0;: le dossier actuel). Les sous-dossiers d’un dossier importé sont conservés.</translation>
     </message>
     <message>
         <source>number</source>
@@ -629,7 +633,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
-        <translation>Importer aussi les fichiers nommés dans cette liste, un nom par ligne ou séparés par NUL ; - est l’entrée standard.</translation>
+        <translation>Importer aussi les fichiers nommés dans cette liste, un nom par ligne ou séparés par NUL&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
@@ -641,7 +645,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Files to import at the same time (default: one for each processor core).</source>
-        <translation>Nombre de fichiers à importer en même temps (par défaut : un par cœur de processeur).</translation>
+        <translation>Nombre de fichiers à importer en même temps (par défaut&#xa0;: un par cœur de processeur).</translation>
     </message>
     <message>
         <source>Skip files that an earlier command with the same options imported, if they and their outputs are unchanged.</source>
@@ -661,7 +665,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Write a report on all files, as .json or .html; may be given several times.</source>
-        <translation>Écrire un rapport sur tous les fichiers, en .json ou .html ; peut être indiqué plusieurs fois.</translation>
+        <translation>Écrire un rapport sur tous les fichiers, en .json ou .html&#xa0;; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Exit with status 3 if a label was not imported completely.</source>
@@ -681,7 +685,7 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     </message>
     <message>
         <source>Report to write, as .json or .html; may be given several times.</source>
-        <translation>Rapport à écrire, en .json ou .html ; peut être indiqué plusieurs fois.</translation>
+        <translation>Rapport à écrire, en .json ou .html&#xa0;; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Overwrite files that are not reports of labelport.</source>
@@ -704,7 +708,7 @@ Examples:
   labelport inspect shelf.odg --json | jq .lost</source>
         <translation>Affiche le contenu d’une étiquette et ce qui en est importé. N’écrit aucun fichier.
 
-Exemples :
+Exemples&#xa0;:
   labelport inspect shelf.odg
   labelport inspect - --reader orvanta &lt; shelf.xml
   labelport inspect shelf.odg --json | jq .lost</translation>
@@ -719,7 +723,7 @@ Examples:
         <translation>Fusionne les rapports JSON de plusieurs importations en un rapport identique à celui d’une
 seule importation de tous les fichiers.
 
-Exemples :
+Exemples&#xa0;:
   labelport report merge part-1.json part-2.json --to all.html
   labelport report merge part-*.json --to all.json --to all.html</translation>
     </message>
@@ -735,7 +739,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Label or folder of labels to import; - is standard input.</source>
-        <translation>Étiquette ou dossier d’étiquettes à importer ; - est l’entrée standard.</translation>
+        <translation>Étiquette ou dossier d’étiquettes à importer&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>show what a label contains</source>
@@ -743,7 +747,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Label to inspect; - is standard input.</source>
-        <translation>Étiquette à inspecter ; - est l’entrée standard.</translation>
+        <translation>Étiquette à inspecter&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>merge the reports of several imports</source>
@@ -763,7 +767,7 @@ en JSON Lines, puis l’état final des objets.</translation>
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation>Étiquette à importer ; - est l’entrée standard.</translation>
+        <translation>Étiquette à importer&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>Imports legacy labels (*.cnv, *.roc, *.qmtx, *.odt, *.odg), opens saved labels (*.label),
@@ -779,7 +783,7 @@ Examples:
   labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
   labelport import archive --output-dir new --to label --report report.html
   labelport import archive --output-dir new --to label --resume
-  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
   curl -s https://labels.example/shelf.odg | labelport import -
 
 Exit status: 0 all files imported, 1 a file failed, 2 wrong usage, 3 a label was not
@@ -789,7 +793,7 @@ enregistrées (*.label) et les écrit en images, dessins, documents ou étiquett
 portant ces suffixes sont cherchés dans les dossiers et leurs sous-dossiers. Les fichiers
 écrits sont listés sur la sortie standard, dans l’ordre des noms des fichiers d’entrée.
 
-Exemples :
+Exemples&#xa0;:
   labelport import shelf.odg
   labelport import shelf.odg -o label.svg
   labelport import old/*.cnv --to png,label --dpi 600 --output-dir new
@@ -797,10 +801,10 @@ Exemples :
   labelport import asset.label --to pdf --records 1-40 --sheet L7160 --first-position 5
   labelport import archive --output-dir new --to label --report report.html
   labelport import archive --output-dir new --to label --resume
-  find archive -name '*.odg' -print0 | labelport import --files-from - --base archive
+  find archive -name &apos;*.odg&apos; -print0 | labelport import --files-from - --base archive
   curl -s https://labels.example/shelf.odg | labelport import -
 
-Code de retour : 0 tous les fichiers importés, 1 échec d’un fichier, 2 utilisation incorrecte,
+Code de retour&#xa0;: 0 tous les fichiers importés, 1 échec d’un fichier, 2 utilisation incorrecte,
 3 étiquette importée incomplètement (avec --fail-on-loss), 130 arrêt par un signal.</translation>
     </message>
     <message>
@@ -817,11 +821,11 @@ Exit status: 0 printed, 1 a label or the printer failed, 2 wrong usage.</source>
 les étiquettes d’un même papier forment une seule tâche. Si une étiquette ne peut pas être
 imprimée, rien ne l’est. Les identifiants des tâches sont listés sur la sortie standard.
 
-Exemples :
+Exemples&#xa0;:
   labelport print asset.label --printer zebra --records 1-40 --copies 2
   labelport print new/*.label --sheet L7160 --first-position 5
 
-Code de retour : 0 imprimé, 1 échec d’une étiquette ou de l’imprimante, 2 utilisation incorrecte.</translation>
+Code de retour&#xa0;: 0 imprimé, 1 échec d’une étiquette ou de l’imprimante, 2 utilisation incorrecte.</translation>
     </message>
     <message>
         <source>Lists what each item shows that is bound to a data source (a counter, a list, a date), as
@@ -833,7 +837,7 @@ Examples:
         <translation>Liste ce qu’affiche chaque objet lié à une source de données (compteur, liste, date), en table
 CSV : une ligne par enregistrement, une colonne par objet.
 
-Exemples :
+Exemples&#xa0;:
   labelport records asset.qmtx --to records.csv
   labelport records asset.label --records 1-50 | column -t -s ,</translation>
     </message>
@@ -843,29 +847,29 @@ sheets for --sheet.
 
 Examples:
   labelport formats
-  labelport formats --json | jq -r '.readers[].suffixes[]'</source>
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</source>
         <translation>Liste les formats que labelport lit, avec leurs versions, les formats qu’il écrit et les planches
 pour --sheet.
 
-Exemples :
+Exemples&#xa0;:
   labelport formats
-  labelport formats --json | jq -r '.readers[].suffixes[]'</translation>
+  labelport formats --json | jq -r &apos;.readers[].suffixes[]&apos;</translation>
     </message>
     <message>
-        <source>Import nothing unless the files are read in a complete sandbox; see "labelport formats".</source>
-        <translation>N’importer que si les fichiers sont lus dans un bac à sable complet ; voir « labelport formats ».</translation>
+        <source>Import nothing unless the files are read in a complete sandbox; see &quot;labelport formats&quot;.</source>
+        <translation>N’importer que si les fichiers sont lus dans un bac à sable complet&#xa0;; voir «&#xa0;labelport formats&#xa0;».</translation>
     </message>
     <message>
-        <source>Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other plain paper; see labelport formats. Default: paper of the label's size.</source>
-        <translation>Placer les étiquettes sur des planches : L7160, 5160 et autres, ou du papier A4, Letter et autres ; voir labelport formats. Par défaut : papier à la taille de l’étiquette.</translation>
+        <source>Put the labels on sheets: L7160, 5160 and others, or A4, Letter and other plain paper; see labelport formats. Default: paper of the label&apos;s size.</source>
+        <translation>Placer les étiquettes sur des planches&#xa0;: L7160, 5160 et autres, ou du papier A4, Letter et autres&#xa0;; voir labelport formats. Par défaut&#xa0;: papier à la taille de l’étiquette.</translation>
     </message>
     <message>
         <source>First free label of the first sheet, counted from 1 along the rows (default: 1).</source>
-        <translation>Première étiquette libre de la première planche, comptée à partir de 1 le long des lignes (par défaut : 1).</translation>
+        <translation>Première étiquette libre de la première planche, comptée à partir de 1 le long des lignes (par défaut&#xa0;: 1).</translation>
     </message>
     <message>
         <source>Copies of each record, one after the other, in documents, printer files and prints (default: 1).</source>
-        <translation>Exemplaires de chaque enregistrement, l’un après l’autre, dans les documents, fichiers d’imprimante et impressions (par défaut : 1).</translation>
+        <translation>Exemplaires de chaque enregistrement, l’un après l’autre, dans les documents, fichiers d’imprimante et impressions (par défaut&#xa0;: 1).</translation>
     </message>
     <message>
         <source>Print marks on the edges of sheets that show where to cut.</source>
@@ -877,19 +881,19 @@ Exemples :
     </message>
     <message>
         <source>What to write: png, svg, pdf, zpl, csv, label; several with commas (default: png).</source>
-        <translation>Formats à écrire : png, svg, pdf, zpl, csv, label ; plusieurs séparés par des virgules (par défaut : png).</translation>
+        <translation>Formats à écrire&#xa0;: png, svg, pdf, zpl, csv, label&#xa0;; plusieurs séparés par des virgules (par défaut&#xa0;: png).</translation>
     </message>
     <message>
         <source>File to write the only input to; - is standard output. Without --to, its suffix selects the target.</source>
-        <translation>Fichier dans lequel écrire l’unique entrée ; - est la sortie standard. Sans --to, son suffixe choisit le format.</translation>
+        <translation>Fichier dans lequel écrire l’unique entrée&#xa0;; - est la sortie standard. Sans --to, son suffixe choisit le format.</translation>
     </message>
     <message>
         <source>Resolution of pictures in dots per inch, 10 to 2400; of a label printer 203, 300 or 600 (default: 300).</source>
-        <translation>Résolution des images en points par pouce, de 10 à 2400 ; d’une imprimante d’étiquettes 203, 300 ou 600 (par défaut : 300).</translation>
+        <translation>Résolution des images en points par pouce, de 10 à 2400&#xa0;; d’une imprimante d’étiquettes 203, 300 ou 600 (par défaut&#xa0;: 300).</translation>
     </message>
     <message>
-        <source>Records of the label's data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page and a printer file one label for each record.</source>
-        <translation>Enregistrements des sources de données de l’étiquette : un nombre, une plage comme 3-12 ou 3-, ou all (par défaut : le premier). Les images d’une plage sont numérotées ; un PDF a une page et un fichier d’imprimante une étiquette par enregistrement.</translation>
+        <source>Records of the label&apos;s data sources: a number, a range such as 3-12 or 3-, or all (default: the first). Pictures of a range are numbered; a PDF has one page and a printer file one label for each record.</source>
+        <translation>Enregistrements des sources de données de l’étiquette&#xa0;: un nombre, une plage comme 3-12 ou 3-, ou all (par défaut&#xa0;: le premier). Les images d’une plage sont numérotées&#xa0;; un PDF a une page et un fichier d’imprimante une étiquette par enregistrement.</translation>
     </message>
     <message>
         <source>Let the label printer draw barcodes and lines where it can, and advance counters. Otherwise labels are pictures and exact.</source>
@@ -901,19 +905,19 @@ Exemples :
     </message>
     <message>
         <source>Printer to use; lpstat -e lists all (default: the default printer).</source>
-        <translation>Imprimante à utiliser ; lpstat -e les liste toutes (par défaut : l’imprimante par défaut).</translation>
+        <translation>Imprimante à utiliser&#xa0;; lpstat -e les liste toutes (par défaut&#xa0;: l’imprimante par défaut).</translation>
     </message>
     <message>
-        <source>Records of the labels' data sources: a number, a range such as 3-12 or 3-, or all (default: the first).</source>
-        <translation>Enregistrements des sources de données des étiquettes : un nombre, une plage comme 3-12 ou 3-, ou all (par défaut : le premier).</translation>
+        <source>Records of the labels&apos; data sources: a number, a range such as 3-12 or 3-, or all (default: the first).</source>
+        <translation>Enregistrements des sources de données des étiquettes&#xa0;: un nombre, une plage comme 3-12 ou 3-, ou all (par défaut&#xa0;: le premier).</translation>
     </message>
     <message>
         <source>CSV file to write; - is standard output (default: -).</source>
-        <translation>Fichier CSV à écrire ; - est la sortie standard (par défaut : -).</translation>
+        <translation>Fichier CSV à écrire&#xa0;; - est la sortie standard (par défaut&#xa0;: -).</translation>
     </message>
     <message>
         <source>Records to list: a number, a range such as 3-12 or 3-, or all (default: all).</source>
-        <translation>Enregistrements à lister : un nombre, une plage comme 3-12 ou 3-, ou all (par défaut : all).</translation>
+        <translation>Enregistrements à lister&#xa0;: un nombre, une plage comme 3-12 ou 3-, ou all (par défaut&#xa0;: all).</translation>
     </message>
     <message>
         <source>Overwrite an existing file.</source>
@@ -925,7 +929,7 @@ Exemples :
     </message>
     <message>
         <source>Label to print; - is standard input.</source>
-        <translation>Étiquette à imprimer ; - est l’entrée standard.</translation>
+        <translation>Étiquette à imprimer&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>list what bound items show</source>
@@ -933,18 +937,18 @@ Exemples :
     </message>
     <message>
         <source>Label to read; - is standard input.</source>
-        <translation>Étiquette à lire ; - est l’entrée standard.</translation>
+        <translation>Étiquette à lire&#xa0;; - est l’entrée standard.</translation>
     </message>
 </context>
 <context>
     <name>cli::PrintCommand</name>
     <message>
         <source>Cannot create a temporary folder: %1.</source>
-        <translation>Impossible de créer un dossier temporaire : %1.</translation>
+        <translation>Impossible de créer un dossier temporaire&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Cannot print: %1</source>
-        <translation>Impossible d’imprimer : %1</translation>
+        <translation>Impossible d’imprimer&#xa0;: %1</translation>
     </message>
     <message>
         <source>No file to print.</source>
@@ -970,11 +974,11 @@ Exemples :
     <name>cli::ReportCommand</name>
     <message>
         <source>No command given: labelport report merge REPORT.json... --to FILE</source>
-        <translation>Aucune commande indiquée : labelport report merge RAPPORT.json... --to FICHIER</translation>
+        <translation>Aucune commande indiquée&#xa0;: labelport report merge RAPPORT.json... --to FICHIER</translation>
     </message>
     <message>
-        <source>Unknown command "report %1".</source>
-        <translation>Commande « report %1 » inconnue.</translation>
+        <source>Unknown command &quot;report %1&quot;.</source>
+        <translation>Commande «&#xa0;report %1&#xa0;» inconnue.</translation>
     </message>
     <message>
         <source>Specify the reports to merge, and the output file with --to.</source>
@@ -984,15 +988,15 @@ Exemples :
 <context>
     <name>cli::TraceCommand</name>
     <message>
-        <source>Cannot run "%1": %2.</source>
-        <translation>Impossible d’exécuter « %1 » : %2.</translation>
+        <source>Cannot run &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’exécuter «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>console::CommandLine</name>
     <message>
-        <source>Unknown option "%1".</source>
-        <translation>Option « %1 » inconnue.</translation>
+        <source>Unknown option &quot;%1&quot;.</source>
+        <translation>Option «&#xa0;%1&#xa0;» inconnue.</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -1000,33 +1004,33 @@ Exemples :
     </message>
     <message>
         <source>Help: %1 --help</source>
-        <translation>Aide : %1 --help</translation>
+        <translation>Aide&#xa0;: %1 --help</translation>
     </message>
     <message>
-        <source>Did you mean "%1"?</source>
-        <translation>Vouliez-vous dire « %1 » ?</translation>
+        <source>Did you mean &quot;%1&quot;?</source>
+        <translation>Vouliez-vous dire «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>console::Output</name>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation>Impossible d’écrire sur la sortie standard : %1.</translation>
+        <translation>Impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>Cannot read "%1": %2.</source>
-        <translation>Impossible de lire « %1 » : %2.</translation>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>console::StandardInput</name>
     <message>
         <source>Cannot copy standard input to a temporary file: %1.</source>
-        <translation>Impossible de copier l’entrée standard dans un fichier temporaire : %1.</translation>
+        <translation>Impossible de copier l’entrée standard dans un fichier temporaire&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Cannot read standard input: %1.</source>
-        <translation>Impossible de lire l’entrée standard : %1.</translation>
+        <translation>Impossible de lire l’entrée standard&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Standard input is longer than any label.</source>
@@ -1036,8 +1040,8 @@ Exemples :
 <context>
     <name>exporting::ExportFile</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
-        <translation>Impossible d’écrire « %1 » : %2.</translation>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -1286,7 +1290,7 @@ Exemples :
     </message>
     <message>
         <source>The file is damaged, so its objects cannot be counted: %1.</source>
-        <translation>Impossible de compter les objets du fichier, car il est endommagé : %1.</translation>
+        <translation>Impossible de compter les objets du fichier, car il est endommagé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The file continues with unknown data, which may contain more objects.</source>
@@ -1294,7 +1298,7 @@ Exemples :
     </message>
     <message>
         <source>The file is truncated: it may have contained more objects.</source>
-        <translation>Le fichier est tronqué : il contenait peut-être d’autres objets.</translation>
+        <translation>Le fichier est tronqué&#xa0;: il contenait peut-être d’autres objets.</translation>
     </message>
     <message>
         <source>The file is not a binary label of a supported version.</source>
@@ -1356,7 +1360,7 @@ Exemples :
         <translation>Afficher une image plus grande</translation>
     </message>
     <message>
-        <source>The document's own picture of %1</source>
+        <source>The document&apos;s own picture of %1</source>
         <translation>Aperçu du document %1</translation>
     </message>
 </context>
@@ -1448,7 +1452,7 @@ Exemples :
     </message>
     <message>
         <source>Files whose objects could not be counted: %1.</source>
-        <translation>Fichiers dont les objets n’ont pas pu être comptés : %1.</translation>
+        <translation>Fichiers dont les objets n’ont pas pu être comptés&#xa0;: %1.</translation>
     </message>
     <message>
         <source>most lost objects first</source>
@@ -1468,7 +1472,7 @@ Exemples :
     </message>
     <message>
         <source>Files that were read without a complete sandbox: %1.</source>
-        <translation>Fichiers lus sans bac à sable complet : %1.</translation>
+        <translation>Fichiers lus sans bac à sable complet&#xa0;: %1.</translation>
     </message>
     <message>
         <source>crashed</source>
@@ -1523,35 +1527,35 @@ Exemples :
     </message>
     <message>
         <source>Page: %1 × %2 mm</source>
-        <translation>Page : %1 × %2 mm</translation>
+        <translation>Page&#xa0;: %1 × %2 mm</translation>
     </message>
     <message>
         <source>Data sources:</source>
-        <translation>Sources de données :</translation>
+        <translation>Sources de données&#xa0;:</translation>
     </message>
     <message>
         <source>Items (millimeters):</source>
-        <translation>Objets (millimètres) :</translation>
+        <translation>Objets (millimètres)&#xa0;:</translation>
     </message>
     <message>
         <source>Imported completely:</source>
-        <translation>Importés complètement :</translation>
+        <translation>Importés complètement&#xa0;:</translation>
     </message>
     <message>
         <source>Imported with changes:</source>
-        <translation>Importés avec modifications :</translation>
+        <translation>Importés avec modifications&#xa0;:</translation>
     </message>
     <message>
         <source>Not imported:</source>
-        <translation>Non importés :</translation>
+        <translation>Non importés&#xa0;:</translation>
     </message>
     <message>
         <source>Warnings:</source>
-        <translation>Avertissements :</translation>
+        <translation>Avertissements&#xa0;:</translation>
     </message>
     <message>
         <source>Sandbox: %1</source>
-        <translation>Bac à sable : %1</translation>
+        <translation>Bac à sable&#xa0;: %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -1559,7 +1563,7 @@ Exemples :
     </message>
     <message>
         <source>Repaired:</source>
-        <translation>Réparé :</translation>
+        <translation>Réparé&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1577,10 +1581,10 @@ Exemples :
     </message>
     <message>
         <source>Objects on the second and later pages were left out: a label has one page.</source>
-        <translation>Des objets de la deuxième page et des suivantes ont été omis : une étiquette n’a qu’une page.</translation>
+        <translation>Des objets de la deuxième page et des suivantes ont été omis&#xa0;: une étiquette n’a qu’une page.</translation>
     </message>
     <message>
-        <source>Objects of the page's background (its master page) were left out.</source>
+        <source>Objects of the page&apos;s background (its master page) were left out.</source>
         <translation>Des objets de l’arrière-plan de la page (sa page maîtresse) ont été omis.</translation>
     </message>
     <message>
@@ -1605,7 +1609,7 @@ Exemples :
     </message>
     <message>
         <source>Embedded objects, such as charts and formulas, were left out; an empty box is in their place.</source>
-        <translation>Des objets incorporés, comme des diagrammes et des formules, ont été omis ; un cadre vide les remplace.</translation>
+        <translation>Des objets incorporés, comme des diagrammes et des formules, ont été omis&#xa0;; un cadre vide les remplace.</translation>
     </message>
     <message>
         <source>Objects inside texts, text boxes or other objects were left out.</source>
@@ -1641,11 +1645,11 @@ Exemples :
     </message>
     <message>
         <source>Comments were left out; they are not printed.</source>
-        <translation>Des commentaires ont été omis ; ils ne sont pas imprimés.</translation>
+        <translation>Des commentaires ont été omis&#xa0;; ils ne sont pas imprimés.</translation>
     </message>
     <message>
         <source>Animations were left out; they are not printed.</source>
-        <translation>Des animations ont été omises ; elles ne sont pas imprimées.</translation>
+        <translation>Des animations ont été omises&#xa0;; elles ne sont pas imprimées.</translation>
     </message>
     <message>
         <source>Picture boxes without a picture were left out.</source>
@@ -1677,7 +1681,7 @@ Exemples :
     </message>
     <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
-        <translation>Des formes d’un document texte ont été omises : seuls les textes, les zones de texte et les images sont importés.</translation>
+        <translation>Des formes d’un document texte ont été omises&#xa0;: seuls les textes, les zones de texte et les images sont importés.</translation>
     </message>
     <message>
         <source>Parts of texts were left out because their type is unknown.</source>
@@ -1697,7 +1701,7 @@ Exemples :
     </message>
     <message>
         <source>The file has several lists of objects; all but the first were left out.</source>
-        <translation>Le fichier contient plusieurs listes d’objets ; toutes sauf la première ont été omises.</translation>
+        <translation>Le fichier contient plusieurs listes d’objets&#xa0;; toutes sauf la première ont été omises.</translation>
     </message>
     <message>
         <source>Pictures were left out because they are damaged, too large or of an unsupported format.</source>
@@ -1717,15 +1721,15 @@ Exemples :
     </message>
     <message>
         <source>The file continues with an unknown record; the rest was not read.</source>
-        <translation>Le fichier se poursuit par un enregistrement inconnu ; le reste n’a pas été lu.</translation>
+        <translation>Le fichier se poursuit par un enregistrement inconnu&#xa0;; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>The file is truncated: its last object is incomplete, and more may be missing.</source>
-        <translation>Le fichier est tronqué : son dernier objet est incomplet, et d’autres manquent peut-être.</translation>
+        <translation>Le fichier est tronqué&#xa0;: son dernier objet est incomplet, et d’autres manquent peut-être.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported.</source>
-        <translation>Le document n’est ni un texte ni un dessin ; rien n’a été importé.</translation>
+        <translation>Le document n’est ni un texte ni un dessin&#xa0;; rien n’a été importé.</translation>
     </message>
     <message>
         <source>Content was left out because it exceeds the limits for labels.</source>
@@ -1741,7 +1745,7 @@ Exemples :
     </message>
     <message>
         <source>Items are no longer bound to their data source: they show their last value.</source>
-        <translation>Des objets ne sont plus liés à leur source de données : ils affichent sa dernière valeur.</translation>
+        <translation>Des objets ne sont plus liés à leur source de données&#xa0;: ils affichent sa dernière valeur.</translation>
     </message>
     <message>
         <source>The label is no longer linked to its database file.</source>
@@ -1761,11 +1765,11 @@ Exemples :
     </message>
     <message>
         <source>Items are completely outside the page: they are not printed.</source>
-        <translation>Des objets sont entièrement hors de la page : ils ne sont pas imprimés.</translation>
+        <translation>Des objets sont entièrement hors de la page&#xa0;: ils ne sont pas imprimés.</translation>
     </message>
     <message>
         <source>Items extend beyond the edge of the page: that part is not printed.</source>
-        <translation>Des objets dépassent le bord de la page : cette partie n’est pas imprimée.</translation>
+        <translation>Des objets dépassent le bord de la page&#xa0;: cette partie n’est pas imprimée.</translation>
     </message>
     <message>
         <source>Sizes, positions or fonts exceed the limits for labels and were reduced.</source>
@@ -1785,11 +1789,11 @@ Exemples :
     </message>
     <message>
         <source>The margins of the page were dropped: the text begins in the corner.</source>
-        <translation>Les marges de la page ont été supprimées : le texte commence dans le coin.</translation>
+        <translation>Les marges de la page ont été supprimées&#xa0;: le texte commence dans le coin.</translation>
     </message>
     <message>
         <source>Page breaks were dropped: all text is on one page.</source>
-        <translation>Des sauts de page ont été supprimés : tout le texte est sur une seule page.</translation>
+        <translation>Des sauts de page ont été supprimés&#xa0;: tout le texte est sur une seule page.</translation>
     </message>
     <message>
         <source>Rotation of lines, and skewing and scaling of objects, were dropped.</source>
@@ -1821,7 +1825,7 @@ Exemples :
     </message>
     <message>
         <source>The log was cut, or the label is too large to compare: there may be losses that are not listed.</source>
-        <translation>Le journal a été tronqué, ou l’étiquette est trop grande pour être comparée : des pertes peuvent ne pas être listées.</translation>
+        <translation>Le journal a été tronqué, ou l’étiquette est trop grande pour être comparée&#xa0;: des pertes peuvent ne pas être listées.</translation>
     </message>
     <message>
         <source>Bind the items to a data source in labelport-workbench.</source>
@@ -1829,11 +1833,11 @@ Exemples :
     </message>
     <message>
         <source>Correct the content or the type in labelport-workbench under Properties.</source>
-        <translation>Corrigez le contenu ou le type dans labelport-workbench, sous « Propriétés ».</translation>
+        <translation>Corrigez le contenu ou le type dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
         <source>Choose the type in labelport-workbench under Properties.</source>
-        <translation>Choisissez le type dans labelport-workbench, sous « Propriétés ».</translation>
+        <translation>Choisissez le type dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
         <source>Move the items onto the page in labelport-workbench.</source>
@@ -1841,35 +1845,35 @@ Exemples :
     </message>
     <message>
         <source>The document uses millimeters: the label is a hundred times larger than the paper. Fonts and lines did not grow with it, so that texts are hardly visible.</source>
-        <translation>Le document utilise des millimètres : l’étiquette est cent fois plus grande que le papier. Les polices et les lignes n’ont pas grandi, si bien que les textes sont à peine visibles.</translation>
+        <translation>Le document utilise des millimètres&#xa0;: l’étiquette est cent fois plus grande que le papier. Les polices et les lignes n’ont pas grandi, si bien que les textes sont à peine visibles.</translation>
     </message>
     <message>
         <source>The unit of the page is not supported: its lengths were read as inches, so that points become 72 times too large. Fonts and lines did not grow with them, so that texts are hardly visible.</source>
-        <translation>L’unité de la page n’est pas prise en charge : ses longueurs ont été lues comme des pouces, si bien que les points deviennent 72 fois trop grands. Les polices et les lignes n’ont pas grandi, et les textes sont à peine visibles.</translation>
+        <translation>L’unité de la page n’est pas prise en charge&#xa0;: ses longueurs ont été lues comme des pouces, si bien que les points deviennent 72 fois trop grands. Les polices et les lignes n’ont pas grandi, et les textes sont à peine visibles.</translation>
     </message>
     <message>
         <source>Install the fonts and import again, or choose another font in labelport-workbench under Properties.</source>
-        <translation>Installez les polices et importez à nouveau, ou choisissez une autre police dans labelport-workbench, sous « Propriétés ».</translation>
+        <translation>Installez les polices et importez à nouveau, ou choisissez une autre police dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
         <source>Set the font size in labelport-workbench under Properties.</source>
-        <translation>Définissez la taille de police dans labelport-workbench, sous « Propriétés ».</translation>
+        <translation>Définissez la taille de police dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
         <source>Texts differ from the document: words run together, or line breaks or words are missing.</source>
-        <translation>Des textes diffèrent du document : des mots sont collés, ou des sauts de ligne ou des mots manquent.</translation>
+        <translation>Des textes diffèrent du document&#xa0;: des mots sont collés, ou des sauts de ligne ou des mots manquent.</translation>
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or correct the text in labelport-workbench under Properties.</source>
-        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou corrigez le texte dans labelport-workbench, sous « Propriétés ».</translation>
+        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou corrigez le texte dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
         <source>Texts can hardly be read: their color is too similar to what is under them.</source>
-        <translation>Des textes sont à peine lisibles : leur couleur est trop proche de ce qui est dessous.</translation>
+        <translation>Des textes sont à peine lisibles&#xa0;: leur couleur est trop proche de ce qui est dessous.</translation>
     </message>
     <message>
         <source>If the document was imported as written, import it without --as-written. Or set the color in labelport-workbench under Properties.</source>
-        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou définissez la couleur dans labelport-workbench, sous « Propriétés ».</translation>
+        <translation>Si le document a été importé tel qu’écrit, importez-le sans --as-written. Ou définissez la couleur dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
         <source>Texts are printed over each other.</source>
@@ -1901,7 +1905,7 @@ Exemples :
     </message>
     <message>
         <source>Choose another fill in labelport-workbench under Properties.</source>
-        <translation>Choisissez un autre remplissage dans labelport-workbench, sous « Propriétés ».</translation>
+        <translation>Choisissez un autre remplissage dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
         <source>Boxes are filled that are not filled in the document.</source>
@@ -1915,23 +1919,23 @@ Exemples :
 <context>
     <name>migration::MergeReports</name>
     <message>
-        <source>The reports contain the file "%1" more than once.</source>
-        <translation>Les rapports contiennent le fichier « %1 » plusieurs fois.</translation>
+        <source>The reports contain the file &quot;%1&quot; more than once.</source>
+        <translation>Les rapports contiennent le fichier «&#xa0;%1&#xa0;» plusieurs fois.</translation>
     </message>
     <message>
-        <source>The report "%1" has changed during the merge.</source>
-        <translation>Le rapport « %1 » a été modifié pendant la fusion.</translation>
+        <source>The report &quot;%1&quot; has changed during the merge.</source>
+        <translation>Le rapport «&#xa0;%1&#xa0;» a été modifié pendant la fusion.</translation>
     </message>
 </context>
 <context>
     <name>migration::ReportLines</name>
     <message>
-        <source>Cannot read "%1": %2.</source>
-        <translation>Impossible de lire « %1 » : %2.</translation>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>"%1" is not a report of LabelPort: %2.</source>
-        <translation>« %1 » n’est pas un rapport de LabelPort : %2.</translation>
+        <source>&quot;%1&quot; is not a report of LabelPort: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un rapport de LabelPort&#xa0;: %2.</translation>
     </message>
     <message>
         <source>it is empty</source>
@@ -1953,19 +1957,19 @@ Exemples :
 <context>
     <name>migration::ReportWriter</name>
     <message>
-        <source>Cannot write the report "%1": %2.</source>
-        <translation>Impossible d’écrire le rapport « %1 » : %2.</translation>
+        <source>Cannot write the report &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire le rapport «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>migration::Summary</name>
     <message>
         <source>Not imported: %1</source>
-        <translation>Non importé : %1</translation>
+        <translation>Non importé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Objects imported: %1 (the number of objects in the file is unknown).</source>
-        <translation>Objets importés : %1 (le nombre d’objets dans le fichier est inconnu).</translation>
+        <translation>Objets importés&#xa0;: %1 (le nombre d’objets dans le fichier est inconnu).</translation>
     </message>
     <message>
         <source>Imported %1 of %2 objects.</source>
@@ -1985,7 +1989,7 @@ Exemples :
     </message>
     <message>
         <source>The content is complete; looks changed.</source>
-        <translation>Le contenu est complet ; l’apparence a changé.</translation>
+        <translation>Le contenu est complet&#xa0;; l’apparence a changé.</translation>
     </message>
     <message>
         <source>imported with losses</source>
@@ -2007,23 +2011,23 @@ Exemples :
         <translation>%1 étiquettes en %2 exemplaires dépassent les %3 d’un document.</translation>
     </message>
     <message>
-        <source>Sheet "%1" has no position %2; its positions are 1 to %3.</source>
-        <translation>La planche « %1 » n’a pas de position %2 ; ses positions vont de 1 à %3.</translation>
+        <source>Sheet &quot;%1&quot; has no position %2; its positions are 1 to %3.</source>
+        <translation>La planche «&#xa0;%1&#xa0;» n’a pas de position %2&#xa0;; ses positions vont de 1 à %3.</translation>
     </message>
 </context>
 <context>
     <name>printing::PrintQueue</name>
     <message>
-        <source>Cannot run "%1". Install the client commands of CUPS.</source>
-        <translation>Impossible d’exécuter « %1 ». Installez les commandes clientes de CUPS.</translation>
+        <source>Cannot run &quot;%1&quot;. Install the client commands of CUPS.</source>
+        <translation>Impossible d’exécuter «&#xa0;%1&#xa0;». Installez les commandes clientes de CUPS.</translation>
     </message>
     <message>
         <source>The print server does not reply.</source>
         <translation>Le serveur d’impression ne répond pas.</translation>
     </message>
     <message>
-        <source>"%1" failed.</source>
-        <translation>« %1 » a échoué.</translation>
+        <source>&quot;%1&quot; failed.</source>
+        <translation>«&#xa0;%1&#xa0;» a échoué.</translation>
     </message>
 </context>
 <context>
@@ -2053,8 +2057,8 @@ Exemples :
         <translation>Les étiquettes de la planche dépassent du papier.</translation>
     </message>
     <message>
-        <source>The label is %1; the labels of sheet "%2" are only %3.</source>
-        <translation>L’étiquette mesure %1 ; celles de la planche « %2 » seulement %3.</translation>
+        <source>The label is %1; the labels of sheet &quot;%2&quot; are only %3.</source>
+        <translation>L’étiquette mesure %1&#xa0;; celles de la planche «&#xa0;%2&#xa0;» seulement %3.</translation>
     </message>
 </context>
 <context>
@@ -2149,7 +2153,7 @@ Exemples :
     </message>
     <message>
         <source>The document could not be repaired: it was imported as it is written.</source>
-        <translation>Le document n’a pas pu être réparé : il a été importé tel qu’il est écrit.</translation>
+        <translation>Le document n’a pas pu être réparé&#xa0;: il a été importé tel qu’il est écrit.</translation>
     </message>
 </context>
 <context>
@@ -2182,20 +2186,20 @@ Exemples :
         <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
-        <source>Cannot read "%1": %2.</source>
-        <translation>Impossible de lire « %1 » : %2.</translation>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>"%1" was not imported. The trace shows how far the import came.</source>
-        <translation>« %1 » n’a pas été importé. La trace montre jusqu’où l’importation est allée.</translation>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été importé. La trace montre jusqu’où l’importation est allée.</translation>
     </message>
     <message>
-        <source>"%1" was not imported. The trace shows how far the import came; --reader selects another reader.</source>
-        <translation>« %1 » n’a pas été importé. La trace montre jusqu’où l’importation est allée ; --reader choisit un autre lecteur.</translation>
+        <source>&quot;%1&quot; was not imported. The trace shows how far the import came; --reader selects another reader.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été importé. La trace montre jusqu’où l’importation est allée&#xa0;; --reader choisit un autre lecteur.</translation>
     </message>
     <message>
         <source>Cannot write to standard output: %1.</source>
-        <translation>Impossible d’écrire sur la sortie standard : %1.</translation>
+        <translation>Impossible d’écrire sur la sortie standard&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Imports a legacy label into a recording host, and prints every call on the host as JSON
@@ -2205,7 +2209,7 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation>Importe une ancienne étiquette dans un hôte d’enregistrement et affiche chaque appel à l’hôte
 en JSON Lines, puis l’état final des objets.
 
-Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</translation>
+Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</translation>
     </message>
     <message>
         <source>Read the file as tavrel, orvanta or opendocument, whatever its name.</source>
@@ -2221,15 +2225,15 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>Label to import; - is standard input.</source>
-        <translation>Étiquette à importer ; - est l’entrée standard.</translation>
+        <translation>Étiquette à importer&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>trace needs exactly one file.</source>
         <translation>trace attend exactement un fichier.</translation>
     </message>
     <message>
-        <source>Unknown reader "%1". Supported readers: %2.</source>
-        <translation>Lecteur « %1 » inconnu. Lecteurs pris en charge : %2.</translation>
+        <source>Unknown reader &quot;%1&quot;. Supported readers: %2.</source>
+        <translation>Lecteur «&#xa0;%1&#xa0;» inconnu. Lecteurs pris en charge&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -2483,7 +2487,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
         <translation>&amp;Aller à…</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the record's number</source>
+        <source>Puts the keyboard on the record&apos;s number</source>
         <translation>Place le focus clavier sur le numéro de l’enregistrement</translation>
     </message>
     <message>
@@ -2544,7 +2548,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>Pre&amp;vious Label</source>
-        <translation>Étiquette précé&amp;dente</translation>
+        <translation>Étique&amp;tte précédente</translation>
     </message>
     <message>
         <source>Opens the previous label of the folder</source>
@@ -2644,7 +2648,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>Aligns the left edges of the selected items; a single item is aligned to the page</source>
-        <translation>Aligne les bords gauches des objets sélectionnés ; un objet seul est aligné sur la page</translation>
+        <translation>Aligne les bords gauches des objets sélectionnés&#xa0;; un objet seul est aligné sur la page</translation>
     </message>
     <message>
         <source>Align &amp;Centers</source>
@@ -2715,7 +2719,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
         <translation>Origina&amp;l</translation>
     </message>
     <message>
-        <source>Shows the document's own preview next to the label, with a slider</source>
+        <source>Shows the document&apos;s own preview next to the label, with a slider</source>
         <translation>Affiche l’aperçu du document à côté de l’étiquette, avec un curseur</translation>
     </message>
     <message>
@@ -2807,7 +2811,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>Font for all texts in %1:</source>
-        <translation>Police pour tous les textes en %1 :</translation>
+        <translation>Police pour tous les textes en %1&#xa0;:</translation>
     </message>
     <message>
         <source>Set Color</source>
@@ -2823,7 +2827,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>Size of the paper:</source>
-        <translation>Taille du papier :</translation>
+        <translation>Taille du papier&#xa0;:</translation>
     </message>
     <message>
         <source>Bind to Data Source</source>
@@ -2835,7 +2839,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>Data source:</source>
-        <translation>Source de données :</translation>
+        <translation>Source de données&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Delete Items</source>
@@ -3044,7 +3048,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>%1 files: %2 and so on.</source>
-        <translation>%1 fichiers : %2, etc.</translation>
+        <translation>%1 fichiers&#xa0;: %2, etc.</translation>
     </message>
     <message>
         <source>One file.</source>
@@ -3052,7 +3056,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>“%1” exists already. Replace it?</source>
-        <translation>« %1 » existe déjà. Le remplacer ?</translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>None</source>
@@ -3067,11 +3071,11 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     <name>window::ImportProcess</name>
     <message>
         <source>Cannot start the program “%1”: %2.</source>
-        <translation>Impossible de démarrer le programme « %1 » : %2.</translation>
+        <translation>Impossible de démarrer le programme «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Cannot create a temporary folder: %1.</source>
-        <translation>Impossible de créer un dossier temporaire : %1.</translation>
+        <translation>Impossible de créer un dossier temporaire&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The import ended without a result.</source>
@@ -3395,7 +3399,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     </message>
     <message>
         <source>%1 “%2”</source>
-        <translation>%1 « %2 »</translation>
+        <translation>%1 «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Page</source>
@@ -3559,7 +3563,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
     <name>window::LabelSession</name>
     <message>
         <source>“%1” could not be saved.</source>
-        <translation>Impossible d’enregistrer « %1 ».</translation>
+        <translation>Impossible d’enregistrer «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>%1
@@ -3567,7 +3571,7 @@ Code de retour : 0 importée, 1 non importée, 2 utilisation incorrecte.</trans
 The label is still open. Save it in another folder with “Save As”.</source>
         <translation>%1
 
-L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec « Enregistrer sous ».</translation>
+L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec «&#xa0;Enregistrer sous&#xa0;».</translation>
     </message>
     <message>
         <source>Saved as %1</source>
@@ -3575,7 +3579,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>“%1” could not be opened.</source>
-        <translation>Impossible d’ouvrir « %1 ».</translation>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -3609,15 +3613,15 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <name>window::Locks</name>
     <message>
         <source>%1 is read-only. To move it, clear “Read-only” in its properties.</source>
-        <translation>%1 est en lecture seule. Pour le déplacer, décochez « Lecture seule » dans ses propriétés.</translation>
+        <translation>%1 est en lecture seule. Pour le déplacer, décochez «&#xa0;Lecture seule&#xa0;» dans ses propriétés.</translation>
     </message>
     <message>
         <source>%1 belongs to the background. To move it, clear “Background” in its properties.</source>
-        <translation>%1 appartient à l’arrière-plan. Pour le déplacer, décochez « Arrière-plan » dans ses propriétés.</translation>
+        <translation>%1 appartient à l’arrière-plan. Pour le déplacer, décochez «&#xa0;Arrière-plan&#xa0;» dans ses propriétés.</translation>
     </message>
     <message>
         <source>%1 is locked. To move it, set “Movable” in its properties.</source>
-        <translation>%1 est verrouillé. Pour le déplacer, cochez « Déplaçable » dans ses propriétés.</translation>
+        <translation>%1 est verrouillé. Pour le déplacer, cochez «&#xa0;Déplaçable&#xa0;» dans ses propriétés.</translation>
     </message>
 </context>
 <context>
@@ -3638,16 +3642,16 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         </translation>
     </message>
     <message>
-        <source>Cannot open "%1": %2</source>
-        <translation>Impossible d’ouvrir « %1 » : %2</translation>
+        <source>Cannot open &quot;%1&quot;: %2</source>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>Cannot show a window: there is no display. Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot.</source>
-        <translation>Impossible d’afficher une fenêtre : aucun écran n’est disponible. Définissez DISPLAY ou WAYLAND_DISPLAY, ou utilisez --screenshot.</translation>
+        <translation>Impossible d’afficher une fenêtre&#xa0;: aucun écran n’est disponible. Définissez DISPLAY ou WAYLAND_DISPLAY, ou utilisez --screenshot.</translation>
     </message>
     <message>
         <source>A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or a folder of labels.</source>
-        <translation>Étiquette à ouvrir : *.label, *.cnv, *.roc, *.qmtx, *.odt ou *.odg ; ou un dossier d’étiquettes.</translation>
+        <translation>Étiquette à ouvrir&#xa0;: *.label, *.cnv, *.roc, *.qmtx, *.odt ou *.odg&#xa0;; ou un dossier d’étiquettes.</translation>
     </message>
 </context>
 <context>
@@ -3682,15 +3686,15 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>A window holds one label: only the first file was opened.</source>
-        <translation>Une fenêtre affiche une seule étiquette : seul le premier fichier a été ouvert.</translation>
+        <translation>Une fenêtre affiche une seule étiquette&#xa0;: seul le premier fichier a été ouvert.</translation>
     </message>
     <message>
         <source>There are no labels in “%1”.</source>
-        <translation>Il n’y a pas d’étiquettes dans « %1 ».</translation>
+        <translation>Il n’y a pas d’étiquettes dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Cannot open “%1”: %2</source>
-        <translation>Impossible d’ouvrir « %1 » : %2</translation>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -3719,7 +3723,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Written: %1</source>
-        <translation>Écrit : %1</translation>
+        <translation>Écrit&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 files written</source>
@@ -3754,12 +3758,12 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Documents PDF (*.pdf)</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2.</source>
-        <translation>Impossible d’écrire « %1 » : %2.</translation>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Cannot create a temporary folder: %1.</source>
-        <translation>Impossible de créer un dossier temporaire : %1.</translation>
+        <translation>Impossible de créer un dossier temporaire&#xa0;: %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n page(s) given to printer %1</source>
@@ -3848,7 +3852,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
@@ -3879,7 +3883,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Save the changes to “%1”?</source>
-        <translation>Enregistrer les modifications de « %1 » ?</translation>
+        <translation>Enregistrer les modifications de «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Changes that are not saved will be lost.</source>
@@ -3977,8 +3981,8 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Remplacer l’image</translation>
     </message>
     <message>
-        <source>Cannot use "%1": %2</source>
-        <translation>Impossible d’utiliser « %1 » : %2</translation>
+        <source>Cannot use &quot;%1&quot;: %2</source>
+        <translation>Impossible d’utiliser «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>The picture is too large.</source>
@@ -4089,7 +4093,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>P&amp;apier</translation>
     </message>
     <message>
-        <source>The label's own size (%1 × %2 mm)</source>
+        <source>The label&apos;s own size (%1 × %2 mm)</source>
         <translation>La taille de l’étiquette (%1 × %2 mm)</translation>
     </message>
     <message>
@@ -4137,7 +4141,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Arrow keys; further with Shift, a little with Ctrl</source>
-        <translation>Touches fléchées ; plus loin avec Maj, un peu avec Ctrl</translation>
+        <translation>Touches fléchées&#xa0;; plus loin avec Maj, un peu avec Ctrl</translation>
     </message>
     <message>
         <source>Select nothing</source>
@@ -4255,7 +4259,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>One text on each line; \n is a line break in a text.</source>
-        <translation>Un texte par ligne ; \n est un saut de ligne dans un texte.</translation>
+        <translation>Un texte par ligne&#xa0;; \n est un saut de ligne dans un texte.</translation>
     </message>
     <message>
         <source>%1 (%2 records)</source>
@@ -4325,7 +4329,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -4522,7 +4526,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Saved labels (*.label) and legacy ones: binary canvas files (*.cnv, *.roc), XML labels (*.qmtx), OpenDocument texts and drawings (*.odt, *.odg)</source>
-        <translation>Étiquettes enregistrées (*.label) et anciennes : fichiers canvas binaires (*.cnv, *.roc), étiquettes XML (*.qmtx), textes et dessins OpenDocument (*.odt, *.odg)</translation>
+        <translation>Étiquettes enregistrées (*.label) et anciennes&#xa0;: fichiers canvas binaires (*.cnv, *.roc), étiquettes XML (*.qmtx), textes et dessins OpenDocument (*.odt, *.odg)</translation>
     </message>
     <message>
         <source>&amp;Open a Label…</source>
@@ -4559,51 +4563,51 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
 <context>
     <name>window::WindowPicture</name>
     <message>
-        <source>Cannot write "%1".</source>
-        <translation>Impossible d’écrire « %1 ».</translation>
+        <source>Cannot write &quot;%1&quot;.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>workbench::BarcodeEncoder</name>
     <message>
         <source>%1: the content has a length that this kind of barcode does not take%2.</source>
-        <translation>%1 : la longueur du contenu n’est pas admise pour ce type de code-barres%2.</translation>
+        <translation>%1&#xa0;: la longueur du contenu n’est pas admise pour ce type de code-barres%2.</translation>
     </message>
     <message>
         <source>%1: the content does not suit this kind of barcode%2.</source>
-        <translation>%1 : le contenu ne convient pas à ce type de code-barres%2.</translation>
+        <translation>%1&#xa0;: le contenu ne convient pas à ce type de code-barres%2.</translation>
     </message>
     <message>
         <source>%1: the content ends in a wrong check digit%2.</source>
-        <translation>%1 : le contenu se termine par un chiffre de contrôle erroné%2.</translation>
+        <translation>%1&#xa0;: le contenu se termine par un chiffre de contrôle erroné%2.</translation>
     </message>
     <message>
-        <source>%1: the content does not go together with the barcode's settings%2.</source>
-        <translation>%1 : le contenu est incompatible avec les réglages du code-barres%2.</translation>
+        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
+        <translation>%1&#xa0;: le contenu est incompatible avec les réglages du code-barres%2.</translation>
     </message>
     <message>
         <source>%1: the content is too much for the memory%2.</source>
-        <translation>%1 : mémoire insuffisante pour le contenu%2.</translation>
+        <translation>%1&#xa0;: mémoire insuffisante pour le contenu%2.</translation>
     </message>
     <message>
         <source>%1: the content cannot be encoded%2.</source>
-        <translation>%1 : le contenu ne peut pas être encodé%2.</translation>
+        <translation>%1&#xa0;: le contenu ne peut pas être encodé%2.</translation>
     </message>
     <message>
         <source>There is not enough memory for the barcode.</source>
         <translation>Mémoire insuffisante pour le code-barres.</translation>
     </message>
     <message>
-        <source>%1: the content needs a linear part, a "|" and a second part.</source>
-        <translation>%1 : le contenu doit comporter une partie linéaire, un « | » et une seconde partie.</translation>
+        <source>%1: the content needs a linear part, a &quot;|&quot; and a second part.</source>
+        <translation>%1&#xa0;: le contenu doit comporter une partie linéaire, un «&#xa0;|&#xa0;» et une seconde partie.</translation>
     </message>
     <message>
         <source>%1: the content is too long for any barcode.</source>
-        <translation>%1 : le contenu est trop long pour un code-barres.</translation>
+        <translation>%1&#xa0;: le contenu est trop long pour un code-barres.</translation>
     </message>
     <message>
         <source>%1: the content gives no bars at all.</source>
-        <translation>%1 : le contenu ne produit aucune barre.</translation>
+        <translation>%1&#xa0;: le contenu ne produit aucune barre.</translation>
     </message>
     <message>
         <source>The label asks for a kind of barcode that is not known (number %1).</source>
@@ -4611,7 +4615,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>%1: there is no content to encode.</source>
-        <translation>%1 : aucun contenu à encoder.</translation>
+        <translation>%1&#xa0;: aucun contenu à encoder.</translation>
     </message>
 </context>
 <context>
@@ -4634,7 +4638,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>Line %1 has %2 fields; the first line has %3.</source>
-        <translation>La ligne %1 a %2 champs ; la première en a %3.</translation>
+        <translation>La ligne %1 a %2 champs&#xa0;; la première en a %3.</translation>
     </message>
     <message>
         <source>The file has more than %1 cells.</source>
@@ -4653,27 +4657,27 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Le fichier n’a pas d’enregistrements.</translation>
     </message>
     <message>
-        <source>"%1" is not a file.</source>
-        <translation>« %1 » n’est pas un fichier.</translation>
+        <source>&quot;%1&quot; is not a file.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier.</translation>
     </message>
     <message>
-        <source>Cannot open "%1": %2.</source>
-        <translation>Impossible d’ouvrir « %1 » : %2.</translation>
+        <source>Cannot open &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>Cannot read "%1": %2.</source>
-        <translation>Impossible de lire « %1 » : %2.</translation>
+        <source>Cannot read &quot;%1&quot;: %2.</source>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
     <name>workbench::FailureWords</name>
     <message>
         <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
-        <translation>Ce n’est pas une étiquette binaire, ou sa version n’est pas prise en charge : le fichier a la version %1, la plus ancienne version prise en charge est 2000016.</translation>
+        <translation>Ce n’est pas une étiquette binaire, ou sa version n’est pas prise en charge&#xa0;: le fichier a la version %1, la plus ancienne version prise en charge est 2000016.</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the first object has the unknown type %1.</source>
-        <translation>Ce n’est pas une étiquette, ou elle est endommagée : le premier objet a le type inconnu %1.</translation>
+        <translation>Ce n’est pas une étiquette, ou elle est endommagée&#xa0;: le premier objet a le type inconnu %1.</translation>
     </message>
     <message>
         <source>Cannot open the file.</source>
@@ -4681,23 +4685,23 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The document is damaged: %1 is not well-formed at line %2, column %3 (%4).</source>
-        <translation>Le document est endommagé : %1 n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
+        <translation>Le document est endommagé&#xa0;: %1 n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
     </message>
     <message>
         <source>Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 (%4).</source>
-        <translation>Ce n’est pas une étiquette, ou elle est endommagée : le XML n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
+        <translation>Ce n’est pas une étiquette, ou elle est endommagée&#xa0;: le XML n’est pas bien formé à la ligne %2, colonne %3 (%4).</translation>
     </message>
     <message>
-        <source>The file is XML, but not a label: its root element is not "qmtx".</source>
-        <translation>Le fichier est en XML, mais n’est pas une étiquette : son élément racine n’est pas « qmtx ».</translation>
+        <source>The file is XML, but not a label: its root element is not &quot;qmtx&quot;.</source>
+        <translation>Le fichier est en XML, mais n’est pas une étiquette&#xa0;: son élément racine n’est pas «&#xa0;qmtx&#xa0;».</translation>
     </message>
     <message>
         <source>Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.</source>
-        <translation>Ce n’est pas un fichier OpenDocument, ou il est endommagé : styles.xml est absent ou illisible.</translation>
+        <translation>Ce n’est pas un fichier OpenDocument, ou il est endommagé&#xa0;: styles.xml est absent ou illisible.</translation>
     </message>
     <message>
         <source>The OpenDocument file is damaged: content.xml is missing or unreadable.</source>
-        <translation>Le fichier OpenDocument est endommagé : content.xml est absent ou illisible.</translation>
+        <translation>Le fichier OpenDocument est endommagé&#xa0;: content.xml est absent ou illisible.</translation>
     </message>
     <message>
         <source>This is not a regular file.</source>
@@ -4736,7 +4740,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The file cannot be opened: %1.</source>
-        <translation>Impossible d’ouvrir le fichier : %1.</translation>
+        <translation>Impossible d’ouvrir le fichier&#xa0;: %1.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -4747,12 +4751,12 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Le lien pointe vers un fichier qui n’existe pas.</translation>
     </message>
     <message>
-        <source>The file is a zip package, as OpenDocument files are, but it was read as "%1". If it is an OpenDocument file, rename it so that it ends in ".odt" or ".odg", or use --reader %2.</source>
-        <translation>Le fichier est une archive zip, comme les fichiers OpenDocument, mais il a été lu comme « %1 ». S’il s’agit d’un fichier OpenDocument, renommez-le pour qu’il se termine par « .odt » ou « .odg », ou utilisez --reader %2.</translation>
+        <source>The file is a zip package, as OpenDocument files are, but it was read as &quot;%1&quot;. If it is an OpenDocument file, rename it so that it ends in &quot;.odt&quot; or &quot;.odg&quot;, or use --reader %2.</source>
+        <translation>Le fichier est une archive zip, comme les fichiers OpenDocument, mais il a été lu comme «&#xa0;%1&#xa0;». S’il s’agit d’un fichier OpenDocument, renommez-le pour qu’il se termine par «&#xa0;.odt&#xa0;» ou «&#xa0;.odg&#xa0;», ou utilisez --reader %2.</translation>
     </message>
     <message>
-        <source>The file is XML, but it was read as "%1". If it is an XML label, rename it so that it ends in ".qmtx", or use --reader %2.</source>
-        <translation>Le fichier est en XML, mais il a été lu comme « %1 ». S’il s’agit d’une étiquette XML, renommez-le pour qu’il se termine par « .qmtx », ou utilisez --reader %2.</translation>
+        <source>The file is XML, but it was read as &quot;%1&quot;. If it is an XML label, rename it so that it ends in &quot;.qmtx&quot;, or use --reader %2.</source>
+        <translation>Le fichier est en XML, mais il a été lu comme «&#xa0;%1&#xa0;». S’il s’agit d’une étiquette XML, renommez-le pour qu’il se termine par «&#xa0;.qmtx&#xa0;», ou utilisez --reader %2.</translation>
     </message>
     <message>
         <source>The document is protected by a password. Open it in an office program, save it without a password, and import it again.</source>
@@ -4762,20 +4766,20 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
 <context>
     <name>workbench::IssueWords</name>
     <message>
-        <source>Left out an object of the unknown type "%1".</source>
-        <translation>Un objet du type inconnu « %1 » a été omis.</translation>
+        <source>Left out an object of the unknown type &quot;%1&quot;.</source>
+        <translation>Un objet du type inconnu «&#xa0;%1&#xa0;» a été omis.</translation>
     </message>
     <message>
         <source>The document is neither a text nor a drawing; nothing was imported from it.</source>
-        <translation>Le document n’est ni un texte ni un dessin ; rien n’en a été importé.</translation>
+        <translation>Le document n’est ni un texte ni un dessin&#xa0;; rien n’en a été importé.</translation>
     </message>
     <message>
         <source>The file continues with an object of the unknown type %1; the rest was not read.</source>
-        <translation>Le fichier se poursuit par un objet du type inconnu %1 ; le reste n’a pas été lu.</translation>
+        <translation>Le fichier se poursuit par un objet du type inconnu %1&#xa0;; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>Left out symbols: neither the file nor the symbol databases contain their drawings.</source>
-        <translation>Des symboles ont été omis : ni le fichier ni les bases de symboles ne contiennent leurs dessins.</translation>
+        <translation>Des symboles ont été omis&#xa0;: ni le fichier ni les bases de symboles ne contiennent leurs dessins.</translation>
     </message>
     <message>
         <source>Left out barcodes of unsupported types.</source>
@@ -4783,7 +4787,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The database is no longer connected; the label shows its last values.</source>
-        <translation>La base de données n’est plus connectée ; l’étiquette affiche ses dernières valeurs.</translation>
+        <translation>La base de données n’est plus connectée&#xa0;; l’étiquette affiche ses dernières valeurs.</translation>
     </message>
     <message>
         <source>Left out an object that the program could not create.</source>
@@ -4811,11 +4815,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The file has too many objects; the rest was not read.</source>
-        <translation>Le fichier contient trop d’objets ; le reste n’a pas été lu.</translation>
+        <translation>Le fichier contient trop d’objets&#xa0;; le reste n’a pas été lu.</translation>
     </message>
     <message>
         <source>Further texts were stretched; they are not listed.</source>
-        <translation>D’autres textes ont été étirés ; ils ne sont pas listés.</translation>
+        <translation>D’autres textes ont été étirés&#xa0;; ils ne sont pas listés.</translation>
     </message>
     <message>
         <source>A file in the package is missing, damaged or too large.</source>
@@ -4826,19 +4830,19 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Un dessin qui ne peut pas être converti a été omis.</translation>
     </message>
     <message>
-        <source>Text "%1" was stretched; its font size was %2 pt.</source>
-        <translation>Le texte « %1 » a été étiré ; sa taille de police était %2 pt.</translation>
+        <source>Text &quot;%1&quot; was stretched; its font size was %2 pt.</source>
+        <translation>Le texte «&#xa0;%1&#xa0;» a été étiré&#xa0;; sa taille de police était %2 pt.</translation>
     </message>
 </context>
 <context>
     <name>workbench::LabelFile</name>
     <message>
         <source>The label cannot be saved as %1: %2.</source>
-        <translation>Impossible d’enregistrer l’étiquette sous %1 : %2.</translation>
+        <translation>Impossible d’enregistrer l’étiquette sous %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The file %1 cannot be opened: %2.</source>
-        <translation>Impossible d’ouvrir le fichier %1 : %2.</translation>
+        <translation>Impossible d’ouvrir le fichier %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>it has more than %1 items</source>
@@ -4858,7 +4862,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: its data sources do not fit together.</source>
-        <translation>Le fichier d’étiquette est endommagé : ses sources de données sont incohérentes.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: ses sources de données sont incohérentes.</translation>
     </message>
     <message>
         <source>The file is not a saved label.</source>
@@ -4866,27 +4870,27 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: version is not a positive whole number.</source>
-        <translation>Le fichier d’étiquette est endommagé : version doit être un nombre entier positif.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: version doit être un nombre entier positif.</translation>
     </message>
     <message>
         <source>The label was saved by a newer version of the program: its format is %1, and this version knows formats up to %2. Update the program to open it.</source>
-        <translation>L’étiquette a été enregistrée par une version plus récente du programme : son format est %1, et cette version prend en charge les formats jusqu’à %2. Mettez le programme à jour pour l’ouvrir.</translation>
+        <translation>L’étiquette a été enregistrée par une version plus récente du programme&#xa0;: son format est %1, et cette version prend en charge les formats jusqu’à %2. Mettez le programme à jour pour l’ouvrir.</translation>
     </message>
     <message>
         <source>The label file is damaged: label is missing.</source>
-        <translation>Le fichier d’étiquette est endommagé : label est absent.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: label est absent.</translation>
     </message>
     <message>
         <source>The label file is damaged: its content has changed since it was saved.</source>
-        <translation>Le fichier d’étiquette est endommagé : son contenu a changé depuis son enregistrement.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: son contenu a changé depuis son enregistrement.</translation>
     </message>
     <message>
         <source>The file is not a saved label, or it is damaged: after %1 bytes it cannot be read any further.</source>
-        <translation>Le fichier n’est pas une étiquette enregistrée, ou il est endommagé : il est illisible après %1 octets.</translation>
+        <translation>Le fichier n’est pas une étiquette enregistrée, ou il est endommagé&#xa0;: il est illisible après %1 octets.</translation>
     </message>
     <message>
         <source>The label file is damaged: %1.</source>
-        <translation>Le fichier d’étiquette est endommagé : %1.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
@@ -4894,11 +4898,11 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
     <message>
         <source>The label file is damaged: it holds more than any label.</source>
-        <translation>Le fichier d’étiquette est endommagé : son contenu dépasse les limites d’une étiquette.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: son contenu dépasse les limites d’une étiquette.</translation>
     </message>
     <message>
         <source>The label file is damaged: its pictures are too large.</source>
-        <translation>Le fichier d’étiquette est endommagé : ses images sont trop grandes.</translation>
+        <translation>Le fichier d’étiquette est endommagé&#xa0;: ses images sont trop grandes.</translation>
     </message>
 </context>
 <context>
@@ -4911,8 +4915,8 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
 <context>
     <name>workbench::PageExport</name>
     <message>
-        <source>Cannot write "%1": %2.</source>
-        <translation>Impossible d’écrire « %1 » : %2.</translation>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The page is longer than %1 points, the most that a PDF document can have.</source>
@@ -4938,8 +4942,8 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Mémoire insuffisante pour une image de %1 sur %2 pixels.</translation>
     </message>
     <message>
-        <source>Cannot write "%1": %2.</source>
-        <translation>Impossible d’écrire « %1 » : %2.</translation>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>

@@ -469,6 +469,10 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <source>inspect needs exactly one file.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Cannot create a temporary folder: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>cli::JobOptions</name>

@@ -140,7 +140,8 @@ private:
 archive::FileResult importJob(const archive::Job& job, const archive::Heartbeat& heartbeat)
 {
     try {
-        archive::FileResult result = FileImport(job, heartbeat).run();
+        archive::FileResult result = isPrintJob(job) ? writePrintDocuments(job, heartbeat)
+                                                     : FileImport(job, heartbeat).run();
         // No event loop runs here that would delete these objects.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return result;

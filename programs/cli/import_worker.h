@@ -7,7 +7,8 @@
 
 namespace cli {
 
-/// Imports one file and writes its outputs to the job's staging folder.
+/// Imports one file and writes its outputs to the job's staging folder, or writes the pages of a
+/// print job there.
 [[nodiscard]] archive::FileResult importJob(const archive::Job& job,
                                             const archive::Heartbeat& heartbeat);
 

@@ -13,6 +13,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QJsonDocument>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 namespace cli {
@@ -96,13 +97,19 @@ int runInspect(const QStringList& arguments)
         console::printMessage(error);
         return console::ExitFailure;
     }
+    const QTemporaryDir folder; // the only one in which the worker may write
+    if (!folder.isValid()) {
+        console::printMessage(
+            tr("Cannot create a temporary folder: %1.").arg(folder.errorString()));
+        return console::ExitFailure;
+    }
     archive::Job job;
     job.file = input.path;
     job.shownName = input.shownName;
     job.options = allOptions(*options);
     return print(
         input,
-        runJobs({job}, *limits, 1, {permissionsFor({input.path}, {}), requiresSandbox}).first(),
+        runJobs({job}, *limits, 1, {permissionsFor({input.path}, folder.path()), requiresSandbox}).first(),
         parser.isSet(u"json"_s));
 }
 

@@ -4,6 +4,7 @@
 
 #include "tests/migration/documents.h"
 
+#include "migration/model/loss_kinds.h"
 #include "window/canvas/canvas_view.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
@@ -12,7 +13,13 @@
 
 #include <QApplication>
 #include <QGraphicsItem>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
 #include <QTreeView>
+
+#include <algorithm>
 
 using namespace window;
 
@@ -42,6 +49,16 @@ QStringList textsOf(const QTreeView& tree)
         }
     }
     return texts;
+}
+
+/// What `labelport inspect --json` prints.
+QJsonObject inspected(const QString& file)
+{
+    QProcess process;
+    process.start(QStringLiteral(LABELPORT_PROGRAM),
+                  {QStringLiteral("inspect"), QStringLiteral("--json"), file});
+    EXPECT_TRUE(process.waitForFinished());
+    return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
 }
 
 class IssuesTest : public WindowFixture
@@ -127,21 +144,34 @@ TEST_F(IssuesTest, WithoutALabelThePanelSaysSo)
 
 TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
 {
-    const QString file = sample(QStringLiteral("tavrel/stretched_text_2000022.cnv"));
-    ASSERT_TRUE(window.openFile(file));
-    const workbench::ImportResult result = workbench::importLabel(file);
-    const migration::FileReport report = migration::makeFileReport(
-        file, QStringLiteral("stretched_text_2000022.cnv"), ReaderKind::Tavrel, result);
-    ASSERT_FALSE(report.lost.isEmpty() && report.changed.isEmpty());
-    for (const QList<migration::Finding>* list : {&report.lost, &report.changed}) {
-        for (const migration::Finding& finding : *list) {
-            SCOPED_TRACE(finding.code.toStdString());
-            const Issue* shown = issue(finding.code);
-            ASSERT_NE(shown, nullptr);
-            EXPECT_EQ(shown->text, finding.text);
-            EXPECT_EQ(shown->count, finding.count);
+    const std::pair<const char*, int> samples[] = {{"tavrel/stretched_text_2000022.cnv", 2},
+                                                   {"orvanta/shapes_sheet.qmtx", 1},
+                                                   {"opendocument/cable_markers.odg", 1}};
+    for (const auto& [name, findings] : samples) {
+        SCOPED_TRACE(name);
+        const QString file = sample(QString::fromLatin1(name));
+        ASSERT_TRUE(window.openFile(file));
+        const QJsonObject report = inspected(file);
+        for (const auto& [list, group] :
+             {std::pair("lost", IssueGroup::Lost), std::pair("changed", IssueGroup::Changed)}) {
+            for (const QJsonValue& value : report.value(QLatin1String(list)).toArray()) {
+                const QJsonObject finding = value.toObject();
+                const QString code = finding.value(QStringLiteral("code")).toString();
+                SCOPED_TRACE(code.toStdString());
+                const Issue* shown = issue(code);
+                ASSERT_NE(shown, nullptr);
+                EXPECT_EQ(shown->group, group);
+                EXPECT_EQ(shown->text, finding.value(QStringLiteral("text")).toString());
+                EXPECT_EQ(shown->count, finding.value(QStringLiteral("count")).toInt());
+                EXPECT_EQ(shown->advice, migration::lossAdvice(migration::lossRowOf(code)->kind));
+            }
         }
+        EXPECT_EQ(std::count_if(panel().issues().begin(), panel().issues().end(),
+                                [](const Issue& shown) { return !shown.code.isEmpty(); }),
+                  findings);
     }
+    ASSERT_TRUE(window.openFile(sample(QStringLiteral("orvanta/shapes_sheet.qmtx"))));
+    EXPECT_FALSE(panel().issues().first().advice.isEmpty());
 }
 
 TEST_F(IssuesTest, ALostObjectIsOutlinedWhereItShouldBe)

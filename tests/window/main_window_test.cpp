@@ -422,8 +422,8 @@ TEST_F(MainWindowTest, MessagesAboutALabelGoWithIt)
 TEST_F(MainWindowTest, EveryColumnOfTheItemListIsVisible)
 {
     window.resize(1280, 800);
+    window.show();
     openMadeLabel();
-    QApplication::processEvents();
     const QTableView& table = itemTable();
     const int last = table.model()->columnCount() - 1;
     EXPECT_LE(table.columnViewportPosition(last) + table.columnWidth(last),

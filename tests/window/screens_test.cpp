@@ -118,7 +118,7 @@ TEST_F(ScreensTest, Issues)
     window.action(ActionId::GoIssues).trigger();
     keepPicture(window, QStringLiteral("issues"));
     EXPECT_EQ(window.panels().issues().issues().size(), 1);
-    ASSERT_TRUE(window.openFile(sample(QStringLiteral("opendocument/high_voltage.odg"))));
+    ASSERT_TRUE(window.openFile(sample(QStringLiteral("opendocument/cable_markers.odg"))));
     window.action(ActionId::GoIssues).trigger();
     keepPicture(window, QStringLiteral("issues_of_a_drawing"));
     EXPECT_GE(window.panels().issues().issues().size(), 1);
