@@ -109,7 +109,8 @@ int runInspect(const QStringList& arguments)
     job.options = allOptions(*options);
     return print(
         input,
-        runJobs({job}, *limits, 1, {permissionsFor({input.path}, folder.path()), requiresSandbox}).first(),
+        runJobs({job}, *limits, 1, {permissionsFor({input.path}, folder.path()), requiresSandbox})
+            .first(),
         parser.isSet(u"json"_s));
 }
 
