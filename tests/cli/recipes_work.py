@@ -4,7 +4,7 @@
 recipes_work.py BIN RECIPES SAMPLES
 
 What the parts of an archive write must be what one import writes, and so must the merged report. The
-other recipes have checks of their own.
+other recipes have checks of their own. Recipes for clusters are in tests/clusters.
 """
 
 import csv
@@ -48,16 +48,6 @@ def parallel(text, folder, programs):
         return False
     (folder / "home").mkdir()
     run(block(text, "GNU Parallel", "sh"), folder, programs, HOME=str(folder / "home"))
-    return True
-
-
-def slurm(text, folder, programs):
-    script = block(text, "Slurm", "sh")
-    count = 4  # the scheduler sets this for each task
-    for number in range(1, count + 1):
-        run(script, folder, programs, SLURM_ARRAY_TASK_ID=str(number),
-            SLURM_ARRAY_TASK_COUNT=str(count), SLURM_CPUS_PER_TASK="1")
-    run(MERGE, folder, programs)
     return True
 
 
@@ -162,7 +152,7 @@ def main():
         shutil.copytree(samples / "opendocument", whole / "archive" / "opendocument")
         run("labelport import archive --output-dir new --to label,png --quiet "
             "--report report.json --report report.html", whole, programs)
-        for recipe in (parallel, slurm, kubernetes):
+        for recipe in (parallel, kubernetes):
             folder = pathlib.Path(work, recipe.__name__)
             shutil.copytree(whole / "archive", folder / "archive")
             if not recipe(text, folder, programs):
