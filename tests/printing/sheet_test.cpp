@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 #include <QSet>
 
 #include <gtest/gtest.h>
@@ -52,9 +53,10 @@ TEST(Sheet, TakesLabelsUprightRotatedOrNotAtAll)
     EXPECT_EQ(fitOf(sheet, {64.6, 38.1}), Fit::TooLarge);
     EXPECT_EQ(fitOf(sheet, {38.1, 63.5}), Fit::Rotated);
     EXPECT_EQ(fitOf(sheet, {20.0, 20.0}), Fit::Upright);
-    EXPECT_EQ(
-        misfitMessage(sheet, {100.0, 50.04}),
-        u"The label is 100 × 50 mm; the labels of sheet \"L7160\" are only 63.5 × 38.1 mm."_s);
+    const QLocale locale; // "63,5" in a German one
+    EXPECT_EQ(misfitMessage(sheet, {100.0, 50.04}),
+              u"The label is 100 × 50 mm; the labels of sheet \"L7160\" are only %1 × %2 mm."_s.arg(
+                  locale.toString(63.5), locale.toString(38.1)));
 }
 
 TEST(Sheet, MarksTheEdgesOfLabelsOutsideThem)

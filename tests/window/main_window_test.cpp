@@ -421,10 +421,14 @@ TEST_F(MainWindowTest, MessagesAboutALabelGoWithIt)
 
 TEST_F(MainWindowTest, EveryColumnOfTheItemListIsVisible)
 {
-    window.resize(1280, 800);
-    window.show();
-    openMadeLabel();
-    const QTableView& table = itemTable();
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    // The fixture's window was shown on a virtual screen that is smaller than this.
+    MainWindow wide;
+    wide.resize(1280, 800);
+    wide.show();
+    ASSERT_TRUE(wide.openFile(path(QStringLiteral("a.label"))));
+    QApplication::processEvents();
+    const QTableView& table = wide.panels().items().table();
     const int last = table.model()->columnCount() - 1;
     EXPECT_LE(table.columnViewportPosition(last) + table.columnWidth(last),
               table.viewport()->width());
