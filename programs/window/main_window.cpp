@@ -255,6 +255,9 @@ void MainWindow::refreshActions()
     if (isOpen) {
         m_editActions->refresh();
     }
+    const OpenLabel* label = m_session->label();
+    action(ActionId::OpenAsWritten).setEnabled(isOpen && label->hasOtherReading);
+    action(ActionId::OpenAsWritten).setChecked(isOpen && label->isAsWritten);
     action(ActionId::PreviousLabel).setEnabled(m_panels->labels().canStep(-1));
     action(ActionId::NextLabel).setEnabled(m_panels->labels().canStep(1));
     action(ActionId::Undo).setEnabled(m_session->undoStack().canUndo());

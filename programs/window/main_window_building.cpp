@@ -152,6 +152,11 @@ void MainWindow::connectFileActions()
 {
     LabelSession* session = m_session.get();
     connect(&action(ActionId::Open), &QAction::triggered, session, &LabelSession::openByDialog);
+    connect(&action(ActionId::OpenAsWritten), &QAction::triggered, this,
+            [this, session](bool isWanted) {
+                session->readAgain(isWanted ? Reading::AsWritten : Reading::Repaired);
+                refreshActions(); // the mark of the menu, if the user canceled
+            });
     connect(&action(ActionId::Save), &QAction::triggered, session, &LabelSession::save);
     connect(&action(ActionId::SaveAs), &QAction::triggered, session, &LabelSession::saveAs);
     connect(&action(ActionId::Close), &QAction::triggered, session, &LabelSession::close);

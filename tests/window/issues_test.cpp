@@ -167,11 +167,41 @@ TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
             }
         }
         EXPECT_EQ(std::count_if(panel().issues().begin(), panel().issues().end(),
-                                [](const Issue& shown) { return !shown.code.isEmpty(); }),
+                                [](const Issue& shown) {
+                                    return !shown.code.isEmpty() &&
+                                           shown.group != IssueGroup::Repaired;
+                                }),
                   findings);
     }
     ASSERT_TRUE(window.openFile(sample(QStringLiteral("orvanta/shapes_sheet.qmtx"))));
     EXPECT_FALSE(panel().issues().first().advice.isEmpty());
+}
+
+TEST_F(IssuesTest, ListsTheRepairsOfADocumentUnlessItIsOpenedAsWritten)
+{
+    const QString file = sample(QStringLiteral("opendocument/cable_markers.odg"));
+    ASSERT_TRUE(window.openFile(file));
+    const QJsonArray repairs = inspected(file).value(QStringLiteral("repaired")).toArray();
+    ASSERT_FALSE(repairs.isEmpty());
+    EXPECT_TRUE(textsOf(panel().tree()).contains(QStringLiteral("Repaired")));
+    for (const QJsonValue& value : repairs) {
+        const Issue* shown = issue(value[QStringLiteral("code")].toString());
+        ASSERT_NE(shown, nullptr);
+        EXPECT_EQ(shown->group, IssueGroup::Repaired);
+        EXPECT_EQ(shown->text, value[QStringLiteral("text")].toString());
+    }
+    QAction& asWritten = window.action(ActionId::OpenAsWritten);
+    EXPECT_TRUE(asWritten.isEnabled());
+    EXPECT_FALSE(asWritten.isChecked());
+
+    asWritten.trigger();
+
+    EXPECT_TRUE(asWritten.isChecked());
+    EXPECT_FALSE(textsOf(panel().tree()).contains(QStringLiteral("Repaired")));
+
+    asWritten.trigger();
+    EXPECT_FALSE(asWritten.isChecked());
+    EXPECT_TRUE(textsOf(panel().tree()).contains(QStringLiteral("Repaired")));
 }
 
 TEST_F(IssuesTest, ALostObjectIsOutlinedWhereItShouldBe)

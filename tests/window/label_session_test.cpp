@@ -85,6 +85,50 @@ TEST_F(LabelSessionTest, ImportsALegacyLabelWithoutAskingToSaveIt)
     session.undoStack().setClean();
 }
 
+TEST_F(LabelSessionTest, ADocumentIsRepairedUnlessItIsWantedAsWritten)
+{
+    const QString file = copied(QStringLiteral("opendocument/care_label.odt"));
+    ASSERT_TRUE(session.openFile(file));
+    EXPECT_TRUE(session.label()->hasOtherReading);
+    EXPECT_FALSE(session.label()->isAsWritten);
+    EXPECT_FALSE(session.label()->report.repaired.isEmpty());
+
+    EXPECT_TRUE(session.readAgain(Reading::AsWritten));
+
+    EXPECT_TRUE(session.label()->isAsWritten);
+    EXPECT_TRUE(session.label()->hasOtherReading);
+    EXPECT_EQ(session.label()->importedFile, file);
+    EXPECT_TRUE(session.label()->report.repaired.isEmpty());
+
+    EXPECT_TRUE(session.readAgain(Reading::Repaired));
+    EXPECT_FALSE(session.label()->isAsWritten);
+    EXPECT_FALSE(session.label()->report.repaired.isEmpty());
+    EXPECT_EQ(dialogs.texts(), QStringList());
+}
+
+TEST_F(LabelSessionTest, TheOtherReadingOfALostFileLeavesTheLabel)
+{
+    const QString file = copied(QStringLiteral("opendocument/care_label.odt"));
+    ASSERT_TRUE(session.openFile(file));
+    ASSERT_TRUE(QFile::remove(file));
+    dialogs.expectButton(QMessageBox::Ok);
+
+    EXPECT_FALSE(session.readAgain(Reading::AsWritten));
+
+    ASSERT_NE(session.label(), nullptr);
+    EXPECT_FALSE(session.label()->isAsWritten);
+}
+
+TEST_F(LabelSessionTest, OtherFilesHaveOneReading)
+{
+    ASSERT_TRUE(session.openFile(copied(QStringLiteral("orvanta/jar_label.qmtx"))));
+    EXPECT_FALSE(session.label()->hasOtherReading);
+    saveMadeLabel(path(QStringLiteral("a.label")));
+    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    EXPECT_FALSE(session.label()->hasOtherReading);
+    EXPECT_FALSE(session.readAgain(Reading::AsWritten));
+}
+
 TEST_F(LabelSessionTest, OpensEverySampleOfEveryFormat)
 {
     for (const char* name : {"opendocument/care_label.odt", "opendocument/rating_plate.odg",

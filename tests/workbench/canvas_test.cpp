@@ -96,10 +96,41 @@ TEST(Canvas, HigherItemsLieOnLowerOnesAndLaterOnesOnEarlier)
 {
     Painted page;
     QGraphicsItem* red = addRectangle(page, QRectF(0, 0, 50, 50), Qt::red);
+    QGraphicsItem* blue = addRectangle(page, QRectF(0, 0, 50, 50), Qt::blue);
+    EXPECT_EQ(page.at(20, 20), QColor(Qt::blue));
+    red->setZValue(blue->zValue());
+    EXPECT_EQ(page.at(20, 20), QColor(Qt::blue));
+    red->setZValue(blue->zValue() + 0.001);
+    EXPECT_EQ(page.at(20, 20), QColor(Qt::red));
+}
+
+TEST(Canvas, ATextJustAboveItsShapeDoesNotShineThroughALaterShape)
+{
+    Painted page;
+    const QGraphicsItem* shape = addRectangle(page, QRectF(0, 0, 50, 50), Qt::red);
+    addRectangle(page, QRectF(0, 0, 50, 50), Qt::green)->setZValue(shape->zValue() + 0.001);
     addRectangle(page, QRectF(0, 0, 50, 50), Qt::blue);
     EXPECT_EQ(page.at(20, 20), QColor(Qt::blue));
-    red->setZValue(0.001);
-    EXPECT_EQ(page.at(20, 20), QColor(Qt::red));
+}
+
+TEST(Canvas, AnOrderThatAReaderSetsIsKept)
+{
+    workbench::Canvas canvas;
+    for (const double z : {0.0, 7000.0, -3.0}) {
+        Item* item = canvas.getClassFactory()->create(KestTypes::Rectangle);
+        auto& graphics = dynamic_cast<QGraphicsItem&>(*item);
+        graphics.setZValue(z);
+        canvas.importItem(item);
+        EXPECT_EQ(graphics.zValue(), z);
+    }
+}
+
+TEST(Canvas, SavedItemsKeepTheirOrder)
+{
+    workbench::Canvas canvas;
+    workbench::ItemValues values;
+    values.type = KestTypes::Rectangle;
+    EXPECT_EQ(canvas.addItem(values)->graphicsItem()->zValue(), 0.0);
 }
 
 TEST(Canvas, AReadOnlyItemTakesNoMouse)

@@ -213,6 +213,14 @@ TEST(LineMarker, GrowsWithTheLine)
     EXPECT_EQ(thick.right(), 0.0);
 }
 
+TEST(LineMarker, OfAThinLineIsAsLargeAsThatOfAnOfficeSuite)
+{
+    constexpr double Millimeter = 72.0 / 25.4;
+    const QRectF arrow = workbench::markerPath(Marker::Arrow, {}, {1.0, 0.0}, 0.5).boundingRect();
+    EXPECT_NEAR(arrow.height(), 3.0 * Millimeter, 0.1);
+    EXPECT_NEAR(arrow.width(), 4.5 * Millimeter, 0.1);
+}
+
 TEST(LineMarker, ALineThatIsShorterThanItsArrowsStillHasThem)
 {
     Painted page;

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 using workbench::PenValues;
@@ -265,5 +266,22 @@ TEST(Fill, ARadialGradientIsDarkestInTheMiddle)
         Painted page;
         putBox(page, style);
         EXPECT_LT(page.at(100, 50).red(), page.at(25, 15).red()) << style;
+    }
+}
+
+TEST(Fill, LightGradientsAndHatchesAreVisible)
+{
+    for (const int style : {int(Qt::LinearGradientPattern), int(Qt::RadialGradientPattern),
+                            int(Qt::HorPattern), int(Qt::DiagCrossPattern)}) {
+        for (const QColor light : {QColor(255, 255, 240), QColor(Qt::white)}) {
+            Painted page;
+            putBox(page, style).setFillColor(light);
+            const QImage image = page.image();
+            int darkest = 255;
+            for (int y = 12; y < 88; ++y) {
+                darkest = std::min(darkest, qGray(image.pixel(100, y)));
+            }
+            EXPECT_LT(darkest, 230) << style;
+        }
     }
 }

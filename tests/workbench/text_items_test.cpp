@@ -461,3 +461,56 @@ TEST(TextFont, FamiliesOfOtherSystemsAreReplacedByThoseOfTheSameWidths)
     EXPECT_EQ(painted("_Nare Vol"), painted("Liberation Sans"));
     EXPECT_EQ(painted(""), painted("Liberation Sans"));
 }
+
+TEST(TextFont, ANumberedNameFindsItsFamily)
+{
+    const auto painted = [](const char* family) {
+        Painted page;
+        putRich(page, QStringLiteral("Handling")).setFontFamily(QString::fromLatin1(family));
+        return page.image();
+    };
+    EXPECT_EQ(painted("Times New Roman1"), painted("Liberation Serif"));
+    EXPECT_EQ(painted("Liberation Mono 12"), painted("Liberation Mono"));
+    EXPECT_EQ(painted("1"), painted("Liberation Sans"));
+}
+
+TEST(TextFont, ANumberedNameInADocumentFindsItsFamily)
+{
+    const auto painted = [](const char* family) {
+        Painted page;
+        auto& item = putRich(page, QString());
+        item.setHtml(QStringLiteral("<p><span style=\"font-family:'%1'\">Handling</span></p>")
+                         .arg(QString::fromLatin1(family)));
+        return page.image();
+    };
+    EXPECT_EQ(painted("Courier New1"), painted("Liberation Mono"));
+    EXPECT_EQ(painted("Liberation Serif7"), painted("Liberation Serif"));
+}
+
+TEST(TextSize, LinesAreAsHighAsTheFontSays)
+{
+    // 0.905 and 0.212 of the size, above and below the base line.
+    constexpr double share = 1.117;
+    for (const int size : {5, 7, 9, 40}) {
+        workbench::FontValues font;
+        font.family = QStringLiteral("Liberation Sans");
+        const workbench::PlainText text{QStringLiteral("one\ntwo\nthree"),
+                                        workbench::toFont(font, size), Qt::AlignLeft};
+        EXPECT_NEAR(workbench::measureText(text, 0.0).height(), 3 * share * size, 0.05) << size;
+    }
+}
+
+TEST(RichText, InANarrowBoxBreaksBetweenWordsFirst)
+{
+    workbench::FontValues font;
+    font.family = QStringLiteral("Liberation Sans");
+    workbench::PlainText text{QStringLiteral("weight"), workbench::toFont(font, 10), Qt::AlignLeft};
+    const double word = workbench::measureText(text, 0.0).width();
+    const double line = workbench::measureText(text, 0.0).height();
+    text.text = QStringLiteral("net weight");
+    text.wraps = true;
+    EXPECT_NEAR(workbench::measureText(text, word + 1.0).height(), 2 * line, 0.01);
+    EXPECT_LE(workbench::measureText(text, word + 1.0).width(), word + 0.5);
+    // A word that is wider than the box is broken, but not before the word before it.
+    EXPECT_NEAR(workbench::measureText(text, word * 0.7).height(), 3 * line, 0.01);
+}

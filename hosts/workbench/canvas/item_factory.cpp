@@ -9,6 +9,8 @@
 #include "workbench/items/simple_text_item.h"
 #include "workbench/items/symbol_item.h"
 
+#include <QGraphicsItem>
+
 #include <array>
 #include <memory>
 
@@ -85,6 +87,12 @@ Item* ItemFactory::create(KestTypes::ShapeType type)
 {
     std::unique_ptr<Item> item = makeItem(type);
     applyDefaultColor(item.get(), m_canvas.canvasDefaultPenColor());
+    // The reader of a document without a stacking order places a text just above its shape: the
+    // next shape must be above both. An order that the reader sets replaces this one.
+    if (auto* graphics = dynamic_cast<QGraphicsItem*>(item.get())) {
+        m_topZ += 1.0;
+        graphics->setZValue(m_topZ);
+    }
     return item.release();
 }
 

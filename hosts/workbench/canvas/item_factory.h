@@ -6,7 +6,7 @@ class TalCanvasModel;
 
 namespace workbench {
 
-/// Creates the workbench's items with the canvas's print color.
+/// Creates the workbench's items with the canvas's print color, each above the one before.
 class ItemFactory final : public ClassFactory
 {
 public:
@@ -18,6 +18,7 @@ public:
 
 private:
     const TalCanvasModel& m_canvas;
+    double m_topZ = 0.0; // of the items created so far
 };
 
 } // namespace workbench

@@ -29,6 +29,22 @@ constexpr std::array StandIns{
     StandIn{QLatin1String("Courier"), QLatin1String("Liberation Mono")},
 };
 
+// Of the numbered names that documents know; a replacement must exist before a text is laid out.
+constexpr int LargestNumber = 9;
+
+// Office suites number the declarations of a font: "Arial1". Empty for a name without a number of
+// one or two digits.
+QString withoutNumber(const QString& family)
+{
+    constexpr qsizetype mostDigits = 2;
+    qsizetype end = family.size();
+    while (end > 0 && family.at(end - 1) >= u'0' && family.at(end - 1) <= u'9') {
+        --end;
+    }
+    const qsizetype digits = family.size() - end;
+    return digits > 0 && digits <= mostDigits ? family.left(end).trimmed() : QString();
+}
+
 } // namespace
 
 QString fallbackFamily()
@@ -54,7 +70,9 @@ QString standInFamily(const QString& family)
 
 QStringList familiesFor(const QString& family)
 {
-    QStringList families{family, standInFamily(family), fallbackFamily()};
+    const QString plain = withoutNumber(family);
+    QStringList families{family, standInFamily(family), plain, standInFamily(plain),
+                         fallbackFamily()};
     families.removeAll(QString());
     return families;
 }
@@ -64,6 +82,10 @@ void installStandIns()
     static const bool installed = [] {
         for (const StandIn& row : StandIns) {
             QFont::insertSubstitution(row.family, row.standIn);
+            for (int number = 1; number <= LargestNumber; ++number) {
+                QFont::insertSubstitution(row.family + QString::number(number), row.standIn);
+                QFont::insertSubstitution(row.standIn + QString::number(number), row.standIn);
+            }
         }
         QFont::insertSubstitution(FallbackFontFamily, fallbackFamily());
         return true;

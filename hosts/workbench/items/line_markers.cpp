@@ -8,16 +8,17 @@ namespace workbench {
 
 namespace {
 
-// An arrow is three pen widths wide, with a minimum so that it stays visible.
+// An arrow grows with thick lines. On thin ones it is as large as office suites draw it: 3 mm wide
+// and 4.5 mm long; a small one has half of that.
 double arrowLength(Marker marker, double penWidth)
 {
     const bool small = marker == Marker::SmallArrow;
-    return small ? std::max(5.0, 2.5 * penWidth) : std::max(9.0, 4.0 * penWidth);
+    return small ? std::max(6.4, 2.5 * penWidth) : std::max(12.75, 4.0 * penWidth);
 }
 
 double arrowHalfWidth(Marker marker, double penWidth)
 {
-    return arrowLength(marker, penWidth) * 0.36;
+    return arrowLength(marker, penWidth) / 3.0;
 }
 
 QPointF across(const QPointF& direction)

@@ -54,13 +54,29 @@ QColor withInk(const QColor& color, double ink)
     return tinted;
 }
 
+// Lighter colors are hardly visible on white paper: as an area, and as thin lines. Shares of white.
+constexpr double LightestGradient = 0.8;
+constexpr double LightestHatch = 0.6;
+
+// Of the same hue, and not lighter than the limit.
+QColor visibleOnPaper(const QColor& color, double lightest)
+{
+    const double lightness = qGray(color.rgb()) / 255.0;
+    if (lightness <= lightest) {
+        return color;
+    }
+    const double share = lightest / lightness;
+    const auto darker = [share](int part) { return static_cast<int>(std::lround(part * share)); };
+    return {darker(color.red()), darker(color.green()), darker(color.blue()), color.alpha()};
+}
+
 // To white and not to transparent: PDF documents have no gradients of opacity and would show
 // the plain color.
 void addStops(QGradient& gradient, const QColor& color)
 {
     QColor paper = Qt::white;
     paper.setAlphaF(color.alphaF());
-    gradient.setColorAt(0.0, color);
+    gradient.setColorAt(0.0, visibleOnPaper(color, LightestGradient));
     gradient.setColorAt(1.0, paper);
 }
 
@@ -134,7 +150,7 @@ void paintFill(QPainter& painter, const QPainterPath& path, const QRectF& box,
         return;
     }
     if (isHatch(values.style)) {
-        paintHatch(painter, path, box, values.style, values.color);
+        paintHatch(painter, path, box, values.style, visibleOnPaper(values.color, LightestHatch));
         return;
     }
     const std::optional<QColor> color = plainColor(values);

@@ -3,11 +3,13 @@
 #include "workbench/items/font_families.h"
 #include "workbench/items/item_limits.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
 #include <QTextOption>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace workbench {
@@ -20,6 +22,9 @@ constexpr int MaximumLines = 5'000;
 
 // The font size for the layout of a text that is scaled to its box.
 constexpr int ReferenceSize = 100;
+
+// A font size in pixels whose metrics are exact to a thousandth.
+constexpr int MetricsSize = 1000;
 
 // Tolerance for rounding: a line measured to fit must not be broken.
 constexpr double WidthTolerance = 0.01;
@@ -45,9 +50,27 @@ void prepareLayout(QTextLayout& layout, const PlainText& text)
     layout.setCacheEnabled(true);
 }
 
+/// Ascent and descent of a font in points.
+struct LineMetrics
+{
+    double ascent = 0.0;
+    double descent = 0.0;
+};
+
+// Font engines round the metrics of a small font up to whole pixels, which are points here: a line
+// of 7 points would be 12 % too high. Those of a large font are exact.
+LineMetrics exactMetrics(QFont font)
+{
+    const double share = static_cast<double>(font.pixelSize()) / MetricsSize;
+    font.setPixelSize(MetricsSize);
+    const QFontMetricsF metrics(font);
+    return {metrics.ascent() * share, metrics.descent() * share};
+}
+
 // Lays the lines out from top to bottom; returns their total size.
 QSizeF layOut(QTextLayout& layout, double width)
 {
+    const LineMetrics metrics = exactMetrics(layout.font());
     double height = 0.0;
     double used = 0.0;
     layout.beginLayout();
@@ -57,8 +80,11 @@ QSizeF layOut(QTextLayout& layout, double width)
             break;
         }
         line.setLineWidth(width);
-        line.setPosition({0.0, height});
-        height += line.height();
+        // Characters of a replaced font may need more room.
+        const double higher = std::max(0.0, line.ascent() - std::ceil(metrics.ascent));
+        const double deeper = std::max(0.0, line.descent() - std::ceil(metrics.descent));
+        line.setPosition({0.0, height + metrics.ascent + higher - line.ascent()});
+        height += metrics.ascent + metrics.descent + higher + deeper;
         used = std::max(used, line.naturalTextWidth());
     }
     layout.endLayout();

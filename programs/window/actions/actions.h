@@ -14,6 +14,7 @@ namespace window {
 /// All commands of a window.
 enum class ActionId : quint8 {
     Open,
+    OpenAsWritten,
     OpenFolder,
     PreviousLabel,
     NextLabel,

@@ -61,19 +61,23 @@ QString ImportProcess::reportName() const
     return m_folder.filePath(u"report.json"_s);
 }
 
-void ImportProcess::start(const QStringList& files)
+void ImportProcess::start(const QStringList& files, Reading reading)
 {
     if (!m_folder.isValid()) {
         return end({{}, tr("Cannot create a temporary folder: %1.").arg(m_folder.errorString())});
     }
     QStringList arguments{u"import"_s,   u"--quiet"_s,      u"--to"_s,
                           u"label"_s,    u"--output-dir"_s, m_folder.filePath(u"labels"_s),
-                          u"--report"_s, reportName(),      u"--"_s};
+                          u"--report"_s, reportName()};
+    if (reading == Reading::AsWritten) {
+        arguments.append(u"--as-written"_s);
+    }
+    arguments += u"--"_s;
     arguments += files;
     m_process.start(program(), arguments, QIODevice::ReadOnly);
 }
 
-ImportedFiles ImportProcess::run(const QStringList& files)
+ImportedFiles ImportProcess::run(const QStringList& files, Reading reading)
 {
     ImportedFiles result;
     QEventLoop loop;
@@ -81,7 +85,7 @@ ImportedFiles ImportProcess::run(const QStringList& files)
         result = imported;
         loop.quit();
     });
-    start(files);
+    start(files, reading);
     if (!m_isEnded) {
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     }

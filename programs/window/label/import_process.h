@@ -20,6 +20,9 @@ struct ImportedFiles
     QString error;
 };
 
+/// How documents are imported that can be repaired.
+enum class Reading : quint8 { Repaired, AsWritten };
+
 /// Imports files with `labelport import`, which is installed next to this program.
 ///
 /// The files are read in its worker processes: one that is damaged or hostile can neither crash
@@ -35,9 +38,9 @@ public:
 
     /// Starts an import; ended() comes later. The object imports once.
     /// @param files absolute paths; their names without suffix must differ
-    void start(const QStringList& files);
+    void start(const QStringList& files, Reading reading = Reading::Repaired);
     /// As start(), and waits for the end. The window is painted meanwhile, but takes no input.
-    [[nodiscard]] ImportedFiles run(const QStringList& files);
+    [[nodiscard]] ImportedFiles run(const QStringList& files, Reading reading);
 
     /// For tests, whose program is in another folder.
     static void setProgram(const QString& program);

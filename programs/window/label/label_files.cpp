@@ -1,7 +1,6 @@
 #include "window/label/label_files.h"
 
 #include "migration/file_report_builder.h"
-#include "window/label/import_process.h"
 #include "workbench/document/label_file.h"
 #include "workbench/import/label_import.h"
 
@@ -52,11 +51,11 @@ ReadLabel readSavedLabel(const QString& fileName)
     return {std::move(label), {}};
 }
 
-ReadLabel readLegacyLabel(const QString& fileName)
+ReadLabel readLegacyLabel(const QString& fileName, Reading reading)
 {
     const QString file = QFileInfo(fileName).absoluteFilePath();
     ImportProcess import; // the imported label is in its folder
-    ImportedFiles imported = import.run({file});
+    ImportedFiles imported = import.run({file}, reading);
     if (imported.reports.isEmpty()) {
         return {std::nullopt, imported.error};
     }
@@ -70,6 +69,9 @@ ReadLabel readLegacyLabel(const QString& fileName)
     if (!error.isEmpty()) {
         return {std::nullopt, error};
     }
+    label.importedFile = file;
+    label.isAsWritten = reading == Reading::AsWritten;
+    label.hasOtherReading = label.isAsWritten || !report.repaired.isEmpty();
     label.report = std::move(report);
     label.importedItems = label.canvas->items();
     label.suggestedName = savedNameFor(fileName);

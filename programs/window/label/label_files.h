@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/label/import_process.h"
 #include "window/label/open_label.h"
 
 #include <optional>
@@ -17,7 +18,8 @@ struct ReadLabel
 [[nodiscard]] ReadLabel readSavedLabel(const QString& fileName);
 
 /// Imports a legacy label. It shows its first record and is not yet saved in a file.
-[[nodiscard]] ReadLabel readLegacyLabel(const QString& fileName);
+[[nodiscard]] ReadLabel readLegacyLabel(const QString& fileName,
+                                        Reading reading = Reading::Repaired);
 
 /// Saves a label. Atomic: on failure an existing file is unchanged.
 /// Returns the user-visible error; empty on success.

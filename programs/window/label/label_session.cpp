@@ -22,6 +22,12 @@ public:
     WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
+ReadLabel readWaiting(const QString& fileName, Reading reading)
+{
+    const WaitCursor wait;
+    return readLegacyLabel(fileName, reading);
+}
+
 ReadLabel readAnyLabel(const QString& fileName)
 {
     const WaitCursor wait;
@@ -96,6 +102,21 @@ std::optional<QString> LabelSession::browse(const QString& fileName)
         Q_EMIT labelReplaced();
     }
     return read.error;
+}
+
+bool LabelSession::readAgain(Reading reading)
+{
+    if (!m_label || m_label->importedFile.isEmpty() || !confirmDiscard()) {
+        return false;
+    }
+    const QString fileName = m_label->importedFile;
+    ReadLabel read = readWaiting(fileName, reading);
+    if (!read.label) {
+        showFileError(fileName, read.error);
+        return false;
+    }
+    setLabel(std::move(*read.label));
+    return true;
 }
 
 bool LabelSession::save()

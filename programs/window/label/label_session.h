@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/label/import_process.h"
 #include "window/label/move_items.h"
 #include "window/label/open_label.h"
 #include "window/label/prompts.h"
@@ -41,6 +42,9 @@ public:
     /// Shows a label of a folder in place of the open one, without a message box. If it cannot be
     /// opened, none is open and the reason is returned. Nothing if the user canceled.
     [[nodiscard]] std::optional<QString> browse(const QString& fileName);
+    /// Imports the file of the open label again, with or without repairs. False if that failed or
+    /// was canceled; the label is then unchanged.
+    bool readAgain(Reading reading);
     bool save();
     bool saveAs();
     /// Closes the label. False if the user canceled.

@@ -23,7 +23,12 @@ struct OpenLabel
     /// The imported items; the places in the report refer to them by index. Some may have been
     /// deleted since.
     QList<workbench::CanvasItem*> importedItems;
-    /// What the import lost and changed.
+    /// The legacy file that was imported; empty for a saved label.
+    QString importedFile;
+    bool isAsWritten = false; ///< imported without repairs, at the user's wish
+    /// Whether the document was repaired, or is shown as written.
+    bool hasOtherReading = false;
+    /// What the import lost, changed and repaired.
     migration::FileReport report;
 };
 

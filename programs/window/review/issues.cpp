@@ -150,6 +150,10 @@ QList<Issue> currentIssues(const OpenLabel& label)
             issues.append(warningOf(warning.text, warning.item, warning.repeats, canvas));
         }
     }
+    for (const migration::RepairReport& repair : label.report.repaired) {
+        // Its text contains the number.
+        issues.append({.group = IssueGroup::Repaired, .code = repair.code, .text = repair.text});
+    }
     return issues;
 }
 
@@ -160,6 +164,8 @@ QString titleOf(IssueGroup group)
         return Words::tr("Not imported");
     case IssueGroup::Changed:
         return Words::tr("Imported with changes");
+    case IssueGroup::Repaired:
+        return Words::tr("Repaired");
     case IssueGroup::Warning:
         break;
     }

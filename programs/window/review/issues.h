@@ -10,7 +10,7 @@
 namespace window {
 
 /// The groups of issues, as `labelport inspect` has them.
-enum class IssueGroup : quint8 { Lost, Changed, Warning };
+enum class IssueGroup : quint8 { Lost, Changed, Warning, Repaired };
 
 /// One issue of the open label, for the user.
 struct Issue
@@ -26,8 +26,8 @@ struct Issue
     bool operator==(const Issue&) const = default;
 };
 
-/// The current issues of the label: those of its report, and items that cannot show their content
-/// in the current record.
+/// The current issues of the label: those of its report with its repairs, and items that cannot
+/// show their content in the current record.
 [[nodiscard]] QList<Issue> currentIssues(const OpenLabel& label);
 
 /// The user-visible title of a group.
