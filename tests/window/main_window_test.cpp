@@ -338,7 +338,7 @@ TEST_F(MainWindowTest, HelpShowsEveryKey)
         dialog.reject();
     });
     window.action(ActionId::Shortcuts).trigger();
-    EXPECT_EQ(rows, 64);
+    EXPECT_EQ(rows, 65);
     dialogs.expectButton(QMessageBox::Ok);
     window.action(ActionId::About).trigger();
 }
