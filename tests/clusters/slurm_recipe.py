@@ -131,7 +131,14 @@ def import_on(cluster, text, folder, environment):
     return part
 
 
+def time_out(*_):
+    raise TimeoutError("the test takes too long")
+
+
 def main():
+    # Before ctest kills the test: then Slurm's processes would stay.
+    signal.signal(signal.SIGALRM, time_out)
+    signal.alarm(540)
     programs, text = sys.argv[1], pathlib.Path(sys.argv[2]).read_text(encoding="utf-8")
     environment = dict(os.environ, PATH=f"{programs}:{os.environ['PATH']}")
     with tempfile.TemporaryDirectory() as work:
