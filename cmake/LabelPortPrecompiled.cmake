@@ -8,7 +8,7 @@ set(CMAKE_CXX_COMPILE_OPTIONS_PIE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
 
 # labelport_precompile(TARGET core|widgets|tests)
 #
-# Lets TARGET use cmake/precompiled/core.h, widgets.h or tests.h. TARGET must link the modules
+# TARGET uses cmake/precompiled/core.h, widgets.h or tests.h. TARGET must link the modules
 # below: the compiler rejects a precompiled header if a macro is missing that it was made with.
 set(LABELPORT_PRECOMPILED_core Qt6::Core)
 set(LABELPORT_PRECOMPILED_widgets Qt6::Widgets)

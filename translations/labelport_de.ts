@@ -4582,7 +4582,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>%1: Der Inhalt endet mit einer falschen Prüfziffer%2.</translation>
     </message>
     <message>
-        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
+        <source>%1: the content does not fit the barcode&apos;s settings%2.</source>
         <translation>%1: Der Inhalt ist nicht mit den Einstellungen des Barcodes vereinbar%2.</translation>
     </message>
     <message>
@@ -4610,7 +4610,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>%1: Der Inhalt ergibt keine Striche.</translation>
     </message>
     <message>
-        <source>The label asks for a kind of barcode that is not known (number %1).</source>
+        <source>The label has an unknown kind of barcode (number %1).</source>
         <translation>Das Etikett verwendet eine unbekannte Barcodeart (Nummer %1).</translation>
     </message>
     <message>
@@ -4727,7 +4727,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Es wurde keine Datei angegeben.</translation>
     </message>
     <message>
-        <source>There is no such file.</source>
+        <source>The file does not exist.</source>
         <translation>Es gibt keine solche Datei.</translation>
     </message>
     <message>
@@ -5016,7 +5016,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
 <context>
     <name>workbench::SymbolDatabase</name>
     <message>
-        <source>there is no such file</source>
+        <source>the file does not exist</source>
         <translation>die Datei ist nicht vorhanden</translation>
     </message>
     <message>

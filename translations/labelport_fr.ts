@@ -4582,7 +4582,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>%1&#xa0;: le contenu se termine par un chiffre de contrôle erroné%2.</translation>
     </message>
     <message>
-        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
+        <source>%1: the content does not fit the barcode&apos;s settings%2.</source>
         <translation>%1&#xa0;: le contenu est incompatible avec les réglages du code-barres%2.</translation>
     </message>
     <message>
@@ -4610,7 +4610,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>%1&#xa0;: le contenu ne produit aucune barre.</translation>
     </message>
     <message>
-        <source>The label asks for a kind of barcode that is not known (number %1).</source>
+        <source>The label has an unknown kind of barcode (number %1).</source>
         <translation>L’étiquette contient un type de code-barres inconnu (numéro %1).</translation>
     </message>
     <message>
@@ -4727,7 +4727,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Aucun fichier n’a été indiqué.</translation>
     </message>
     <message>
-        <source>There is no such file.</source>
+        <source>The file does not exist.</source>
         <translation>Ce fichier n’existe pas.</translation>
     </message>
     <message>
@@ -5016,7 +5016,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
 <context>
     <name>workbench::SymbolDatabase</name>
     <message>
-        <source>there is no such file</source>
+        <source>the file does not exist</source>
         <translation>ce fichier n’existe pas</translation>
     </message>
     <message>

@@ -4508,7 +4508,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1: the content does not go together with the barcode&apos;s settings%2.</source>
+        <source>%1: the content does not fit the barcode&apos;s settings%2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4536,7 +4536,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The label asks for a kind of barcode that is not known (number %1).</source>
+        <source>The label has an unknown kind of barcode (number %1).</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4653,7 +4653,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>There is no such file.</source>
+        <source>The file does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4942,7 +4942,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
 <context>
     <name>workbench::SymbolDatabase</name>
     <message>
-        <source>there is no such file</source>
+        <source>the file does not exist</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

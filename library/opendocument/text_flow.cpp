@@ -9,7 +9,7 @@ namespace opendocument {
 
 namespace {
 
-// The gap between a frame and the text beside it.
+// The gap between a frame and the text next to it.
 constexpr double FrameGap = 4.0;
 
 } // namespace

@@ -2,7 +2,7 @@
 #
 # Stops with a message when FOLDER does not hold the three supply tables with the columns and
 # rows that old labels count on: LabelType.csv (13 columns, 412 rows), RibbonType.csv (4 columns,
-# 11 rows) and color1.csv (2 named columns and 3 values a row, 98 rows). Rows are counted behind
+# 11 rows) and color1.csv (2 named columns and 3 values a row, 98 rows). Rows are counted after
 # the header line, one line each.
 
 function(labelport_check_supply_tables folder)
@@ -21,7 +21,7 @@ function(labelport_check_supply_table folder name header_columns columns rows)
     math(EXPR row_count "${line_count} - 1")
     if(NOT row_count EQUAL rows)
         message(FATAL_ERROR
-            "Supply tables: ${name} has ${row_count} rows behind its header line, not ${rows}")
+            "Supply tables: ${name} has ${row_count} rows after its header line, not ${rows}")
     endif()
     set(expected ${header_columns})
     set(line_number 1)
@@ -49,7 +49,7 @@ function(labelport_read_csv_lines file result)
 endfunction()
 
 # A comma inside quotes parts nothing. A comma at the end of a line ends its last column; the
-# table model does not see an empty one behind it.
+# table model does not see a following empty one.
 function(labelport_count_csv_columns line result)
     string(REGEX REPLACE "\"[^\"]*\"" "q" line "${line}")
     string(REGEX REPLACE ",$" "" line "${line}")

@@ -64,7 +64,7 @@ void appendChunk(CutPng& png, const Chunk& chunk, const QByteArray& dataAndCheck
     png.packedPixels += chunk.type == "IDAT" ? qint64(chunk.length) : 0;
 }
 
-// Leaves the stream behind the end chunk, or at its end where that is missing.
+// Leaves the stream after the end chunk, or at its end if the chunk is missing.
 CutPng cutPng(QDataStream& stream, bool keepBytes)
 {
     CutPng png;

@@ -22,7 +22,7 @@ void addStandardInput(ImportInputs& inputs)
     inputs.list.readable.append(inputs.standardInput->fileName());
 }
 
-/// The names of a list; `error` says why it could not be read.
+/// The names of a list; `error` has the reason if it could not be read.
 QStringList namesListedIn(const ImportOptions& options, QString& error)
 {
     const console::ReachablePath reachable(options.filesFrom);

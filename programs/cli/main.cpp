@@ -90,7 +90,7 @@ QStringList wantedLanguages()
 }
 
 /// Whether the command writes JSON. Other programs read it, so it is the same in every language;
-/// and because messages of the command go into it, the command speaks English then.
+/// and because it contains messages of the command, these are in English then.
 bool writesJson(const QStringList& arguments)
 {
     const auto isJson = [](const QString& name) {

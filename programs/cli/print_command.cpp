@@ -133,7 +133,7 @@ private:
             runJobs({job}, m_options.limits, 1, {permissionsFor({}, m_folder.path()), false})
                 .first();
         m_documents = documentsOf(result);
-        // What a hostile label may have made of its worker must not choose what is printed.
+        // A worker that a hostile label controls must not choose what is printed.
         const bool areOurs = std::all_of(m_documents.cbegin(), m_documents.cend(),
                                          [&](const printing::PrintDocument& document) {
                                              return archive::isFileIn(job.staging, document.file);

@@ -17,7 +17,7 @@ namespace window {
 
 namespace {
 
-// Copies appear beside their originals, two millimeters to the right and down.
+// Copies are offset from their originals by two millimeters to the right and down.
 constexpr QPointF CopyOffset(2.0 * 72.0 / 25.4, 2.0 * 72.0 / 25.4);
 
 constexpr std::pair<ActionId, Order> Orders[] = {

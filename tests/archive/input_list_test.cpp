@@ -161,14 +161,14 @@ QStringList namesIn(QByteArray bytes, bool isNullSeparated = false)
     return !error ? names : QStringList{u"error"_s};
 }
 
-TEST(InputNames, StandOnLines)
+TEST(InputNames, EndWithLineBreaks)
 {
     EXPECT_EQ(namesIn("a.cnv\n\nb c.cnv\r\nd.cnv"),
               (QStringList{u"a.cnv"_s, u"b c.cnv"_s, u"d.cnv"_s}));
     EXPECT_EQ(namesIn(""), QStringList());
 }
 
-TEST(InputNames, StandBetweenNuls)
+TEST(InputNames, EndWithNulBytes)
 {
     const QStringList expected = {u"a\n.cnv"_s, u"b.cnv"_s};
     EXPECT_EQ(namesIn(QByteArray("a\n.cnv\0b.cnv\0", 13)), expected);

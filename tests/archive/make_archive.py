@@ -125,7 +125,7 @@ def check(output, suffix):
             errors.append(f"{path} is none of ours")
     for error in errors:
         print(error)
-    print(f"{outputs} outputs, {len(errors)} of them not whole or strays")
+    print(f"{outputs} outputs, {len(errors)} of them incomplete or unexpected")
     return 1 if errors or not outputs else 0
 
 

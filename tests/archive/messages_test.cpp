@@ -48,7 +48,7 @@ TEST(Messages, CarryAResult)
     }
 }
 
-TEST(Messages, ThatAreTornAreNone)
+TEST(Messages, IncompleteLinesAreIgnored)
 {
     const QByteArray job = archive::lineOf(archive::Job{Strange, {}, {}, {}, {}});
     const QByteArray result = archive::lineOf(archive::FileResult{});

@@ -44,7 +44,7 @@ TEST(OrderedResults, PassOverWhatIsSkipped)
     EXPECT_EQ(takeAll(results), (QList<qsizetype>{1, 4}));
 }
 
-TEST(OrderedResults, TellWhenTooMuchWaits)
+TEST(OrderedResults, ReportWhenTooMuchWaits)
 {
     archive::OrderedResults results;
     results.add(1, result(1), archive::MaximumWaitingBytes - 1);

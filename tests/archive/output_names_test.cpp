@@ -57,7 +57,7 @@ TEST(OutputNames, KeepTheFoldersBelowAFolder)
     EXPECT_EQ(outputsOf(list("a/b>old/a/b/x.cnv a>old/a/x.cnv")), list("a/b/x.png a/x.png"));
 }
 
-TEST(OutputNames, AreWholeWhereTwoInputsWouldMeet)
+TEST(OutputNames, AreCompleteWhereTwoInputsWouldConflict)
 {
     EXPECT_EQ(outputsOf(list("a.cnv a.odg b.cnv")), list("a.cnv.png a.odg.png b.png"));
     EXPECT_EQ(outputsOf(list("f>a.cnv f>a.odg g>a.odg")), list("f/a.cnv.png f/a.odg.png g/a.png"));
@@ -83,13 +83,13 @@ TEST(OutputNames, OfTwoFilesOfOneNameAreContested)
 }
 
 // a.odg keeps its whole name because of a.cnv, and meets the input that is named so.
-TEST(OutputNames, SeeAMeetingThatAWholeNameBrings)
+TEST(OutputNames, FindAConflictThatACompleteNameCauses)
 {
     EXPECT_EQ(outputsOf(list("a.odg a.cnv a.odg.qmtx")), list("contested a.cnv.png contested"));
 }
 
 // A folder "x.png" in the archive, beside "x.cnv".
-TEST(OutputNames, DoNotStandWhereAFolderMust)
+TEST(OutputNames, AreNotThoseOfNeededFolders)
 {
     EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv")), list("contested x.png/a.png"));
     EXPECT_EQ(outputsOf(list("x.cnv x.png/y>a.cnv")), list("contested x.png/y/a.png"));

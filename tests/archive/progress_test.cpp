@@ -8,7 +8,7 @@
 namespace {
 using namespace Qt::StringLiterals;
 
-TEST(Progress, TellsRateTimeLeftAndFailures)
+TEST(Progress, ShowsRateTimeLeftAndFailures)
 {
     const archive::Progress half{1000, 500, 0, 3, 10'000, {}, 0};
     EXPECT_EQ(archive::progressLine(half, 120),

@@ -36,7 +36,7 @@ TEST_F(ArchiveResume, LeavesOutWhatIsDone)
     EXPECT_EQ(progress.done, 2);
 }
 
-TEST_F(ArchiveResume, IsNoneUnlessItIsAsked)
+TEST_F(ArchiveResume, IsOnlyDoneOnRequest)
 {
     run();
     EXPECT_EQ(run().value(0), u"done a.cnv: a.png"_s);
@@ -57,7 +57,7 @@ TEST_F(ArchiveResume, DoesFilesAgainThatLostAnOutput)
     EXPECT_EQ(resumed(), u"rd"_s);
 }
 
-// What somebody changed is somebody's: it is neither taken for ours nor overwritten.
+// An output that the user changed is a foreign file: it is neither counted as ours nor overwritten.
 TEST_F(ArchiveResume, DoesNotOverwriteAnOutputThatWasChanged)
 {
     run();
@@ -99,7 +99,7 @@ TEST_F(ArchiveResume, RemembersOtherTargets)
     EXPECT_EQ(resumed(), u"rr"_s);
 }
 
-TEST_F(ArchiveResume, MindsNotHowItIsDone)
+TEST_F(ArchiveResume, IgnoresTheNumberOfWorkers)
 {
     run();
     settings.workerOptions = {{u"force"_s, true}};
@@ -107,7 +107,7 @@ TEST_F(ArchiveResume, MindsNotHowItIsDone)
     EXPECT_EQ(resumed(), u"rr"_s);
 }
 
-TEST_F(ArchiveResume, TellsTheReportsOfAllFiles)
+TEST_F(ArchiveResume, PassesOnTheReportsOfAllFiles)
 {
     settings.needsReports = true;
     settings.workerOptions = {{u"report"_s, true}};
@@ -127,7 +127,7 @@ TEST_F(ArchiveResume, DoesAgainWhatHasNoReportWhenOneIsNeeded)
 }
 
 // Records are written before outputs are put in their place.
-TEST_F(ArchiveResume, GoesOnBehindATornJournal)
+TEST_F(ArchiveResume, ContinuesAfterAnIncompleteJournal)
 {
     settings.workers = 1;
     run();
@@ -141,7 +141,7 @@ TEST_F(ArchiveResume, GoesOnBehindATornJournal)
 
 // Whatever a power failure does to the journal, complete outputs are kept: they are either known
 // and skipped, or treated as foreign and not overwritten.
-TEST_F(ArchiveResume, KeepsWholeOutputsWhateverBecameOfTheJournal)
+TEST_F(ArchiveResume, KeepsCompleteOutputsWithoutAJournal)
 {
     run();
     const QString journal = u"out/.labelport-journal.jsonl"_s;

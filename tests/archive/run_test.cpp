@@ -41,7 +41,7 @@ TEST_F(ArchiveRun, WritesSeveralTargetsInTheirOrder)
     EXPECT_EQ(run(), lines({"done a.cnv: a.svg a.png"}));
 }
 
-TEST_F(ArchiveRun, GoesOnBehindEveryKindOfBadFile)
+TEST_F(ArchiveRun, ContinuesAfterEveryKindOfBadFile)
 {
     input(u"a.cnv"_s, "crash");
     input(u"b.cnv"_s, "fail");
@@ -145,7 +145,7 @@ TEST_F(ArchiveRun, SaysWhenNoWorkerStarts)
     }
 }
 
-TEST_F(ArchiveRun, TellsTheSameForAnyNumberOfWorkers)
+TEST_F(ArchiveRun, ReportsTheSameForAnyNumberOfWorkers)
 {
     const QList<QByteArray> contents = {"ok", "fail", "crash", "ok", "crash-once", "ok", "exit"};
     for (int number = 0; number < 28; ++number) {
@@ -189,7 +189,7 @@ TEST_F(ArchiveRun, WritesNeitherOfTwoFilesThatWouldBecomeOne)
     EXPECT_FALSE(folder.has(u"out/a.png"_s));
 }
 
-TEST_F(ArchiveRun, LeavesSomebodysFileAlone)
+TEST_F(ArchiveRun, NeverOverwritesAForeignFile)
 {
     folder.write(u"out/a.png"_s, "somebody's");
     input(u"a.cnv"_s, "ok");

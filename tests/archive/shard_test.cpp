@@ -18,7 +18,7 @@ TEST(Shard, IsReadFromItsNumberAndTheirCount)
     EXPECT_TRUE(archive::shardOf(u"100000/100000"_s));
 }
 
-TEST(Shard, RefusesWhatIsNoPart)
+TEST(Shard, RefusesInvalidParts)
 {
     for (const char* wrong : {"", "3", "0/8", "9/8", "-1/8", "3/0", "3/8/2", "a/b", "3 / 8",
                               "1/100001", "1/99999999999", "3/8\n"}) {

@@ -81,7 +81,7 @@ TEST(StagingArea, LeavesThoseOfOtherCommandsAlone)
     EXPECT_EQ(stagingFolders(folder).size(), 4);
 }
 
-TEST(StagingArea, SaysWhyThereIsNone)
+TEST(StagingArea, ReportsWhyItCannotBeCreated)
 {
     const TestFolder folder;
     folder.write(u"file"_s);

@@ -32,7 +32,7 @@ migration::FileReport imported()
     return report;
 }
 
-TEST(FinalReport, HasTheOutputsThatStand)
+TEST(FinalReport, ListsTheOutputsInPlace)
 {
     const archive::Input file = input();
     const archive::FileResult result = resultWith(imported());

@@ -67,7 +67,7 @@ TEST_F(ImportArchive, ReadsAFileByTheReaderThatIsNamed)
     EXPECT_EQ(labelport(import("misnamed.cnv --reader orvanta")).out, u"misnamed.png\n"_s);
 }
 
-TEST_F(ImportArchive, GoesOnWhereItWasStopped)
+TEST_F(ImportArchive, ResumesWhereItWasStopped)
 {
     const char* command = "old --output-dir new --to label --resume";
     EXPECT_EQ(labelport(import(command)).status, 0);

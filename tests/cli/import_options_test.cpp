@@ -47,7 +47,7 @@ TEST(ImportOptions, HaveDefaults)
     EXPECT_FALSE(options.job.force);
 }
 
-TEST(ImportOptions, MayStandBeforeAndAfterFiles)
+TEST(ImportOptions, MayPrecedeAndFollowFiles)
 {
     const cli::ImportOptions options =
         accepted("--dpi 96 a.odg --output-dir out b.cnv --to png --force");
@@ -129,7 +129,7 @@ TEST(ImportOptions, NameEveryTargetAndItsOptions)
     }
 }
 
-TEST(ImportOptions, LetThePrinterDraw)
+TEST(ImportOptions, SelectPrinterDrawing)
 {
     EXPECT_TRUE(accepted("a.odg --to zpl --zpl-native").job.zplNative);
     EXPECT_EQ(refusal("a.odg --zpl-native"), u"--zpl-native has no effect without --to zpl."_s);

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 using OtherCommands = LabelportProgram;
 
-TEST_F(OtherCommands, InspectTellsWhatALabelHolds)
+TEST_F(OtherCommands, InspectPrintsTheContentOfALabel)
 {
     const Outcome outcome = labelport({u"inspect"_s, sample("orvanta/asset_tag.qmtx")});
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
@@ -20,7 +20,7 @@ TEST_F(OtherCommands, InspectTellsWhatALabelHolds)
     EXPECT_TRUE(outcome.out.contains(u"Barcode"_s)) << qPrintable(outcome.out);
 }
 
-TEST_F(OtherCommands, InspectTellsItAsJson)
+TEST_F(OtherCommands, InspectPrintsJson)
 {
     const Outcome outcome =
         labelport({u"inspect"_s, sample("orvanta/asset_tag.qmtx"), u"--json"_s});

@@ -37,7 +37,7 @@ TEST_F(LabelportProgram, ImportsEveryFormat)
     }
 }
 
-TEST_F(LabelportProgram, GoesOnBehindAFileThatFails)
+TEST_F(LabelportProgram, ContinuesAfterAFileThatFails)
 {
     write(u"broken.odg"_s, "no zip at all");
     const Outcome outcome = labelport(
@@ -51,7 +51,7 @@ TEST_F(LabelportProgram, GoesOnBehindAFileThatFails)
     EXPECT_FALSE(QFileInfo::exists(path(u"broken.png"_s)));
 }
 
-TEST_F(LabelportProgram, LeavesSomebodysFileAlone)
+TEST_F(LabelportProgram, NeverOverwritesAForeignFile)
 {
     write(u"sample_vial.png"_s, "somebody's own");
     const QStringList command = {u"import"_s, sample("opendocument/sample_vial.odg")};

@@ -147,7 +147,7 @@ def main():
     samples = pathlib.Path(sys.argv[3])
     with tempfile.TemporaryDirectory() as work:
         whole = pathlib.Path(work, "whole")
-        # None of these shows the time, which would not stand still between two imports.
+        # None of these shows the time, which would differ between two imports.
         shutil.copytree(samples / "tavrel", whole / "archive" / "tavrel")
         shutil.copytree(samples / "opendocument", whole / "archive" / "opendocument")
         run("labelport import archive --output-dir new --to label,png --quiet "

@@ -35,7 +35,7 @@ TEST(RecordRange, HasNoEndUnlessOneIsNamed)
     EXPECT_FALSE(range("all")->last);
 }
 
-TEST(RecordRange, RefusesWhatIsNoRange)
+TEST(RecordRange, RefusesInvalidRanges)
 {
     for (const char* text :
          {"", "0", "-3", "5-4", "1-2-3", "a", "3 - 5", "1.5", "0-3", "ALL", "9999999999999999"}) {

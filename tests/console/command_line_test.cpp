@@ -16,7 +16,7 @@ TEST(Suggestion, NamesTheNearestWord)
     EXPECT_EQ(console::suggestion(u"Import"_s, commands), u" Did you mean \"import\"?"_s);
 }
 
-TEST(Suggestion, IsEmptyIfNoneIsNear)
+TEST(Suggestion, IsEmptyWithoutASimilarName)
 {
     EXPECT_EQ(console::suggestion(u"convert"_s, {u"import"_s, u"inspect"_s}), QString());
     EXPECT_EQ(console::suggestion(u"import"_s, {}), QString());

@@ -85,7 +85,7 @@ TEST(FileName, CanBeOpenedThroughAReachablePath)
     std::filesystem::remove_all(folder.path().toStdString());
 }
 
-TEST(FileName, TellsKindsApart)
+TEST(FileName, DistinguishesKinds)
 {
     const QTemporaryDir folder;
     EXPECT_EQ(console::kindOf(folder.path()), console::FileKind::Folder);

@@ -69,7 +69,7 @@ def try_examples():
         links = [link for _, link in broken_links(source)]
         alone = [page.name for page in left_out(source)]
     if links != ["gone.md", "#three"] or alone != ["b.md"]:
-        print("judged wrongly:", links, alone)
+        print("wrong result:", links, alone)
         return 1
     return 0
 

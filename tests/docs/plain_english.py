@@ -44,7 +44,8 @@ PATTERNS = {
     r"\b\w+(?:recogn|normal|optim|serial|initial|organ|minim|maxim|summar)is(?:e|es|ed|ing|ation)\b|"
     r"\b(?:recogn|normal|optim|serial|initial|organ|minim|maxim|summar)is(?:e|es|ed|ing|ation)\b":
         "American spelling",
-    r"\bcancelled\b|\bcancelling\b|\blabelled\b|\blabelling\b": "American spelling",
+    r"\bcancelled\b|\bcancelling\b|\blabelled\b|\blabelling\b|\bsignalled\b|\bbevelled\b|"
+    r"\bserialiser\b|\bcentres\b": "American spelling",
 }
 RULES = [(re.compile(pattern, re.IGNORECASE), remedy) for pattern, remedy in PATTERNS.items()]
 

@@ -107,7 +107,7 @@ static_assert(std::is_constructible_v<
               QMessageBox::StandardButton, QString, QMap<QMessageBox::StandardButton, QString>>);
 static_assert(std::is_base_of_v<QDialog, TalMessageBox>);
 
-TEST(ContractOperations, TheMessageBoxTellsByNameThatItWasClosed)
+TEST(ContractOperations, TheMessageBoxEmitsASignalWithItsName)
 {
     // Importers connect by the names of the signals.
     TalMessageBox box(u"Title"_s, u"Text\n"_s, QMessageBox::Ok, QMessageBox::Ok, QString(), {});

@@ -134,7 +134,7 @@ void expectInOrder(const Class& object)
     }
 }
 
-TEST_F(FacetReach, BasesLieInTheOrderOfTheContract)
+TEST_F(FacetReach, BasesHaveTheOrderOfTheContract)
 {
     const auto recording = std::make_shared<recorder::Recording>(&m_out);
     const auto enter = [&recording](auto* item) { recording->addItem(KestTypes::Line, item); };

@@ -114,7 +114,7 @@ TEST_F(BadConditions, FilesThatAreGone)
     expectOnlyTheGoodOne({path(u"no/such/folder/a.cnv"_s)});
 }
 
-TEST_F(BadConditions, LinksToNowhereAndToThemselves)
+TEST_F(BadConditions, DanglingAndCircularLinks)
 {
     expectOnlyTheGoodOne(forEverySuffix(
         [this](const QString& name) { EXPECT_TRUE(QFile::link(path(u"nothing"_s), name)); }));
@@ -123,7 +123,7 @@ TEST_F(BadConditions, LinksToNowhereAndToThemselves)
     expectOnlyTheGoodOne({loop});
 }
 
-TEST_F(BadConditions, PipesThatNobodyFills)
+TEST_F(BadConditions, PipesWithoutAWriter)
 {
     expectOnlyTheGoodOne(forEverySuffix([](const QString& name) {
         EXPECT_EQ(::mkfifo(QFile::encodeName(name).constData(), 0600), 0);
@@ -163,7 +163,7 @@ TEST_F(BadConditions, NamesThatSpanLines)
     EXPECT_TRUE(isPicture(u"good.png"_s));
 }
 
-TEST_F(BadConditions, NamesThatAreNoText)
+TEST_F(BadConditions, NamesThatAreNotText)
 {
     // No QString can hold such a name: a shell makes it.
     const QString script = QStringLiteral("name=$(printf 'odd\\377.qmtx'); cp good.qmtx \"$name\"; "

@@ -29,7 +29,7 @@ void expectMember(const QByteArray& package, const char* name)
     EXPECT_FALSE(directory.refusalOf(QLatin1String(name), 1 << 20)) << name;
 }
 
-TEST(PackageMutation, KeepsThePackageWhole)
+TEST(PackageMutation, KeepsThePackageReadable)
 {
     const QByteArray package = Package("<styles/>", "<content/>").bytes();
     for (quint32 seed = 0; seed < 8; ++seed) {
@@ -44,7 +44,7 @@ TEST(PackageMutation, KeepsThePackageWhole)
     }
 }
 
-TEST(PackageMutation, TakesNothingThatIsNoPackage)
+TEST(PackageMutation, IgnoresDataThatIsNotAPackage)
 {
     EXPECT_FALSE(mutatedPackage("no package", 1, reversed));
     QByteArray damaged = Package("<styles/>", "<content/>").bytes();

@@ -105,7 +105,7 @@ class EveryReader : public HostFaults, public testing::WithParamInterface<Reader
 INSTANTIATE_TEST_SUITE_P(Readers, EveryReader, testing::ValuesIn(EveryKind),
                          [](const auto& row) { return nameOf(row.param); });
 
-TEST_P(EveryReader, TakesTheWholeLabelToAHostWithoutFaults)
+TEST_P(EveryReader, ImportsTheCompleteLabelIntoAHostWithoutFaults)
 {
     EXPECT_TRUE(import(GetParam()));
     for (const auto& [type, count] : WholeLabels::items(GetParam())) {
@@ -151,7 +151,7 @@ TEST_P(EveryReader, ImportsNothingOntoACanvasWithoutAFactory)
         << qPrintable(log.messages().join(u'\n'));
 }
 
-TEST_P(EveryReader, GoesOnWhenTheCanvasDeletesWhatItGets)
+TEST_P(EveryReader, ContinuesWhenTheCanvasDeletesItems)
 {
     host.behavior().deletesItems = true;
     EXPECT_TRUE(import(GetParam()));
@@ -173,7 +173,7 @@ TEST_F(HostFaults, AnItemThatTheCanvasDeletesBeforeItIsSetUpIsSaid)
     EXPECT_EQ(refusals("deleted an item when it got it"), host.count(u"importItem"_s));
 }
 
-TEST_P(EveryReader, GoesOnWithoutADataSource)
+TEST_P(EveryReader, ContinuesWithoutADataSource)
 {
     host.behavior().losesDatasources = true;
     EXPECT_TRUE(import(GetParam()));

@@ -39,7 +39,7 @@ foreach(wanted IN ITEMS
         "LegacySupplyInfo::")
     string(FIND "${listing}" "${wanted}" place)
     if(place EQUAL -1)
-        message(FATAL_ERROR "The library does not show ${wanted}")
+        message(FATAL_ERROR "The library does not export ${wanted}")
     endif()
 endforeach()
 

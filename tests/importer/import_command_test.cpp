@@ -145,7 +145,7 @@ TEST_F(ImportCommand, AlwaysStartsInTheDefaultFolder)
     EXPECT_EQ(directory, defaultImportFolder());
 }
 
-/// A catalogue that shouts, and notes what it was asked for.
+/// A translator that returns capitals and records the requested texts.
 class Shouter : public QTranslator
 {
 public:
@@ -172,7 +172,7 @@ public:
     }
 };
 
-TEST_F(ImportCommand, SpeaksTheLanguageOfTheHostsCatalogue)
+TEST_F(ImportCommand, UsesTheLanguageOfTheHostsTranslator)
 {
     Shouter shouter;
     QApplication::installTranslator(&shouter);

@@ -68,7 +68,7 @@ TEST_F(ImporterLibrary, TakesTheServicesOutOfTheProgram)
     EXPECT_EQ(hidden.count(), 1);
 }
 
-TEST_F(ImporterLibrary, GoesOnAfterFilesThatFail)
+TEST_F(ImporterLibrary, ContinuesAfterFilesThatFail)
 {
     const QTemporaryDir folder;
     const QString missing = folder.filePath(QStringLiteral("missing"));

@@ -83,7 +83,7 @@ TEST(TavrelCensus, KnowsThatACutFileMayHaveHeldMore)
     EXPECT_EQ(cutRecords, whole.size() - 9);
 }
 
-TEST(TavrelCensus, RefusesWhatIsNoLabel)
+TEST(TavrelCensus, RefusesDataThatIsNotALabel)
 {
     EXPECT_FALSE(countTavrel({}).unknown.isEmpty());
     EXPECT_FALSE(

@@ -110,7 +110,7 @@ TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsComplete)
     EXPECT_EQ(verdictOf(uncounted), Verdict::Lossy) << "objects may be missing";
 }
 
-TEST(FileReport, HasALossForEveryKindThatHarmsTheContent)
+TEST(FileReport, HasALossForEveryKindThatAffectsTheContent)
 {
     for (const LossRow& row : lossRows()) {
         FileReport report = wholeReport();
@@ -145,7 +145,7 @@ TEST(FileReport, SaysInWordsThatNothingWasLost)
               QStringLiteral("Imported 3 of 3 objects. Nothing was lost or changed."));
 }
 
-TEST(FileReport, SaysHowManyObjectsCameOver)
+TEST(FileReport, ReportsHowManyObjectsWereImported)
 {
     FileReport report = wholeReport();
     report.objects.imported = 1;
@@ -161,7 +161,7 @@ TEST(FileReport, SaysHowManyObjectsCameOver)
     EXPECT_EQ(objectsLost(report), 0);
 }
 
-TEST(FileReport, TellsChangesFromLossesInWords)
+TEST(FileReport, DistinguishesChangesFromLossesInTheText)
 {
     FileReport report = wholeReport();
     report.changed.append(findingOfKind(LossKind::FontReplaced));

@@ -50,7 +50,7 @@ TEST(OpenDocumentCensus, CountsObjectsAsALabelDesignerDoes)
         {"a text frame: box and text",
          drawingOf("<draw:frame><draw:text-box><text:p>A</text:p></draw:text-box></draw:frame>"), 2,
          0},
-        {"a picture and its stand-in",
+        {"a picture and its replacement",
          drawingOf("<draw:frame><draw:image xlink:href=\"a.svg\"/><draw:image "
                    "xlink:href=\"a.png\"/></draw:frame>"),
          1, 0},
@@ -163,7 +163,7 @@ TEST(OpenDocumentCensus, TextsOfShapesTakeNothingFromTheShapesStyle)
                    "</text:span></text:p></draw:rect>"));
 }
 
-TEST(OpenDocumentCensus, TurnedAndMovedIsNoLossAndAllElseIs)
+TEST(OpenDocumentCensus, RotationAndTranslationAreKeptOtherTransformsAreLosses)
 {
     const auto dropped = [](const QByteArray& transform) {
         return changes(
@@ -175,7 +175,7 @@ TEST(OpenDocumentCensus, TurnedAndMovedIsNoLossAndAllElseIs)
     EXPECT_TRUE(dropped("rotate(1.57) translate (2in 3in)")) << "read with the blank alone";
 }
 
-TEST(OpenDocumentCensus, FramesInATextStandWhereTheTextRuns)
+TEST(OpenDocumentCensus, FramesInATextHaveThePositionOfTheText)
 {
     const auto isMoved = [](const QByteArray& frame, const QByteArray& content) {
         const QByteArray text =
@@ -191,7 +191,7 @@ TEST(OpenDocumentCensus, FramesInATextStandWhereTheTextRuns)
     EXPECT_FALSE(isMoved("text:anchor-type=\"paragraph\"", box)) << "runs along with the text";
 }
 
-TEST(OpenDocumentCensus, PageBreaksAndUncountedSpacesAreTold)
+TEST(OpenDocumentCensus, PageBreaksAndUncountedSpacesAreReported)
 {
     const Census census = countOpenDocument(
         textOf("<text:p>A<text:s/>B<text:s text:c=\"2\"/>C</text:p><text:soft-page-break/>"));

@@ -344,7 +344,7 @@ std::string nameOf(const testing::TestParamInfo<qsizetype>& info)
 
 } // namespace
 
-TEST_P(ReportedLoss, IsTold)
+TEST_P(ReportedLoss, IsReported)
 {
     const Sample& sample = samples().at(GetParam());
     const LossRow& row = lossRow(sample.kind);
@@ -362,7 +362,7 @@ TEST_P(ReportedLoss, IsTold)
     EXPECT_NE(verdictOf(report), Verdict::Complete);
 }
 
-TEST_P(ReportedLoss, FailsTheRunWhenTheContentIsHarmed)
+TEST_P(ReportedLoss, FailsTheRunWhenTheContentIsAffected)
 {
     const Sample& sample = samples().at(GetParam());
     const FileReport report = reportOn(sample.document, sample.tamper);
@@ -385,7 +385,7 @@ TEST(ReportedLosses, EveryKindHasASample)
     }
 }
 
-TEST(ReportedLosses, NothingIsToldOfWholeDocuments)
+TEST(ReportedLosses, NothingIsReportedForCompleteDocuments)
 {
     CanvasWriter writer(kVersion);
     writer.start();

@@ -156,7 +156,7 @@ TEST(SilentLoss, OfAKindThatIsNotDispatchedIsCounted)
     }
 }
 
-TEST(SilentLoss, ADocumentOfOtherPrefixesIsNotCalledWhole)
+TEST(SilentLoss, ADocumentOfOtherPrefixesIsNotReportedAsComplete)
 {
     // A document may define other prefixes; the reader only supports the usual ones.
     Document document = {

@@ -120,7 +120,7 @@ TEST_F(Body, EmptyDocumentsHaveNoItems)
     EXPECT_EQ(typesOf(contentXml("<office:drawing/>")), QStringList());
 }
 
-TEST_F(Body, OtherKindsOfDocumentAreToldAndStillCompleted)
+TEST_F(Body, OtherKindsOfDocumentAreReportedAndStillCompleted)
 {
     for (const QByteArray& content :
          {contentXml("<office:spreadsheet><draw:rect/></office:spreadsheet>"),

@@ -142,7 +142,7 @@ TEST_F(OpenDocumentBounds, LimitFontSizes)
     EXPECT_EQ(sizeOf("10001pt"), OOTextStyle().fontSize);
 }
 
-TEST_F(OpenDocumentBounds, LetNoPictureUnpackItsTexts)
+TEST_F(OpenDocumentBounds, NeverUnpackTheTextsOfAPicture)
 {
     // Twenty such texts would need 160 megabytes before the picture is even measured.
     QByteArray chunk("zTXtkey\0\0", 9);

@@ -134,7 +134,7 @@ TEST_F(Frame, TextBoxMayHaveRoundCorners)
     EXPECT_EQ(host.lastCall(1, u"setCornerRadius"_s), u"36"_s);
 }
 
-TEST_F(Frame, WhatIsNoPictureIsATextBox)
+TEST_F(Frame, AFrameWithoutAPictureIsATextBox)
 {
     import("<draw:frame/><draw:frame><draw:object/><draw:image xlink:href=\"Pictures/a.png\"/>"
            "</draw:frame>");
@@ -188,7 +188,7 @@ TEST_F(Frame, EachCoordinateIsGivenByItself)
     EXPECT_EQ(host.item(2)->pos(), QPointF(0, 72));
 }
 
-TEST_F(Frame, BoxWithoutWidthStandsByItsOwn)
+TEST_F(Frame, BoxWithoutWidthIsPositionedAlone)
 {
     import("<draw:frame draw:style-name=\"g\"><draw:text-box/></draw:frame>",
            "style:horizontal-pos=\"right\"");

@@ -107,7 +107,7 @@ TEST(GraphicStyle, BorderWidthInAnotherUnitIsPassedOver)
     EXPECT_EQ(style.penColor, u"#000000"_s);
 }
 
-TEST(GraphicStyle, BorderSurvivesWhateverStandsInIt)
+TEST(GraphicStyle, BorderSurvivesAnyContent)
 {
     const OOGraphicStyle style =
         after(attribute("fo:border", "  dashed xin in 1e308in nanin solid  #1 "));
@@ -142,7 +142,7 @@ TEST(GraphicStyle, HorizontalPositionPutsLeftAtTheRight)
     }
 }
 
-TEST(GraphicStyle, VerticalPositionIsCentreTopOrBottom)
+TEST(GraphicStyle, VerticalPositionIsCenterTopOrBottom)
 {
     const struct
     {
@@ -195,7 +195,7 @@ TEST(GraphicStyle, StrokeGivesThePenStyle)
     EXPECT_EQ(after(attribute("draw:stroke", "")).penStyle, 6);
 }
 
-TEST(GraphicStyle, DashesAreToldByTheNameOfTheirStyle)
+TEST(GraphicStyle, DashesAreReportedByTheNameOfTheirStyle)
 {
     const struct
     {
@@ -288,7 +288,7 @@ TEST(GraphicStyle, FillGivesTheBrushStyle)
     }
 }
 
-TEST(GraphicStyle, HatchesAreToldByTheirName)
+TEST(GraphicStyle, HatchesAreReportedByName)
 {
     const struct
     {

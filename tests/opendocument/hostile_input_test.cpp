@@ -67,7 +67,7 @@ TEST_F(HostileInput, EveryDamagedBytePassesOrFails)
     }
 }
 
-TEST_F(HostileInput, AWrongChecksumIsTold)
+TEST_F(HostileInput, AWrongChecksumIsReported)
 {
     QByteArray zip = Package(stylesXml(), drawingXml("")).bytes();
     zip[zip.lastIndexOf("PK\x01\x02") + 16] ^= 1;

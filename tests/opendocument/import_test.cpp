@@ -90,7 +90,7 @@ TEST_F(Import, FailsOnEmptyMembers)
     expectFailure(host, reader, Package(stylesXml(), {}).write(), u"Unable to get file content."_s);
 }
 
-TEST_F(Import, FailsOnFilesThatAreNoPackages)
+TEST_F(Import, FailsOnFilesThatAreNotPackages)
 {
     Package package;
     const QString message = u"Unable to get file styles."_s;
@@ -102,7 +102,7 @@ TEST_F(Import, FailsOnFilesThatAreNoPackages)
     expectFailure(host, reader, QString(), message);
 }
 
-TEST_F(Import, TellsWhyAPackageWasRefused)
+TEST_F(Import, ReportsWhyAPackageWasRefused)
 {
     const CapturedLog log;
     Package package(stylesXml(), drawingXml(""));
@@ -221,7 +221,7 @@ TEST_F(Import, AppliesAStyleWithoutChangingIt)
     EXPECT_EQ(host.lastCall(2, u"setPenWidth"_s), u"72"_s);
 }
 
-TEST_F(Import, StartsTheTextFlowAnewAndKeepsTheRestAfterAFailure)
+TEST_F(Import, ResetsTheTextFlowAndKeepsTheRestAfterAFailure)
 {
     const QByteArray text = textXml("<text:p>a</text:p><text:p>b</text:p>");
     ASSERT_TRUE(import(stylesXml("fo:page-width=\"2in\" fo:page-height=\"3in\""), text));

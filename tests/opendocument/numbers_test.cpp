@@ -60,7 +60,7 @@ TEST(Lengths, AreReadInTheGivenUnitWhateverTheirOwn)
     EXPECT_EQ(toLength(u"-0.5pt", 12.0), -6.0);
 }
 
-TEST(Lengths, ThatDoNotConvertAreNone)
+TEST(Lengths, ThatDoNotConvertAreZero)
 {
     for (const QStringView text : {u"", u"i", u"in", u"x1in", u"nanin", u"infin", u"72"}) {
         SCOPED_TRACE(text.toString().toStdString());

@@ -94,7 +94,7 @@ TEST_F(Paragraph, RunMakesItsCallsInOrder)
     EXPECT_EQ(host.item(1)->zValue(), 0);
 }
 
-TEST_F(Paragraph, RunsStandByTheirAlignment)
+TEST_F(Paragraph, RunsArePositionedByTheirAlignment)
 {
     import("<text:p text:style-name=\"center\">0123456789</text:p>"
            "<text:p text:style-name=\"left\">x</text:p>"
@@ -118,7 +118,7 @@ TEST_F(Paragraph, EmptyOnesMoveTheFlowByTheirFontSize)
     EXPECT_DOUBLE_EQ(pos(1).y(), 12 + 20.9 + 12 + 12);
 }
 
-TEST_F(Paragraph, RunsOfMixedContentStandSideBySide)
+TEST_F(Paragraph, RunsOfMixedContentAreSideBySide)
 {
     import("<text:p>ab<text:span text:style-name=\"right\">cd</text:span>e</text:p>"
            "<text:p>next</text:p>");
@@ -155,7 +155,7 @@ TEST_F(Paragraph, SpacesAndTabsMoveTheCursor)
     EXPECT_EQ(pos(4).x(), 54);
 }
 
-TEST_F(Paragraph, LineThatPassesThePageGoesOnBelow)
+TEST_F(Paragraph, LineThatExceedsThePageContinuesBelow)
 {
     const QByteArray wide(62, 'x'); // as wide as the page, which does not exceed it
     import("<text:p>" + wide +

@@ -79,7 +79,7 @@ TEST(RichText, HeaderIsTheSameWhateverTheFramework)
                                      "</style></head><body "_s));
 }
 
-TEST(RichText, BodyStatesTheWholeDefaultStyle)
+TEST(RichText, BodyHasTheCompleteDefaultStyle)
 {
     EXPECT_TRUE(
         richText("<text:p>x</text:p>")
@@ -155,13 +155,13 @@ TEST(RichText, MarkupCharactersAreEscaped)
                       "<span style=\"\">&lt;b&gt;</span></p>"_s);
 }
 
-TEST(RichText, PercentSignsOfALabelAreNoPlacesForArguments)
+TEST(RichText, PercentSignsOfALabelAreNotPlaceholders)
 {
     EXPECT_EQ(body("<text:p>100 %1 %2 %3 %L1 %%<text:span>%1</text:span></text:p>"),
               Plain + u"<span>100 %1 %2 %3 %L1 %%</span><span style=\"\">%1</span></p>"_s);
 }
 
-TEST(RichText, WithoutVisibleTextThereIsNone)
+TEST(RichText, IsEmptyWithoutVisibleText)
 {
     for (const QByteArray blank :
          {"", "<text:p/>", "<text:p>  </text:p>", "<text:p><text:tab/></text:p>",

@@ -188,7 +188,7 @@ TEST_F(Shape, CornerRadiusIsSetFirst)
     EXPECT_EQ(calls.value(1), u"item1.setCornerRadius 36"_s);
 }
 
-TEST_F(Shape, CornerRadiusThatIsNoneStillRoundsTheRectangle)
+TEST_F(Shape, InvalidCornerRadiusStillRoundsTheRectangle)
 {
     import("<draw:rect draw:corner-radius=\"x\"/><draw:rect draw:corner-radius=\"-1in\"/>");
     EXPECT_EQ(host.createdTypes(), (QStringList{u"RoundedRectangle"_s, u"RoundedRectangle"_s}));
@@ -214,7 +214,7 @@ TEST_F(Shape, EachKindTakesStyleAndPlace)
     EXPECT_EQ(host.importedCount(), 4);
 }
 
-TEST_F(Shape, TextLiesOnItsShape)
+TEST_F(Shape, TextIsAboveItsShape)
 {
     import("<draw:rect " + Box +
            "draw:z-index=\"3\" draw:transform=\"rotate (-1.5707963267949)\"><text:p>x</text:p>"
@@ -237,7 +237,7 @@ TEST_F(Shape, TextLiesOnItsShape)
     EXPECT_TRUE(host.html(2).contains(u">x<"_s));
 }
 
-TEST_F(Shape, TextLiesAboveAShapeWithoutOrderToo)
+TEST_F(Shape, TextIsAboveAShapeWithoutOrderToo)
 {
     import("<draw:ellipse><text:p>x</text:p></draw:ellipse>");
     EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 0.001);

@@ -30,7 +30,7 @@ TEST(StyleFragments, AreEmptyWhereNothingDiffers)
               QString());
 }
 
-TEST(StyleFragments, TellEachDifference)
+TEST(StyleFragments, ReportEachDifference)
 {
     const OOTextStyle base;
     const OOTextStyle style = other();

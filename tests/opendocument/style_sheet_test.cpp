@@ -112,13 +112,13 @@ TEST_F(StyleSheet, ParagraphAndTextStylesShareTheirNames)
         u"10"_s);
 }
 
-TEST_F(StyleSheet, AParentThatComesLaterIsNone)
+TEST_F(StyleSheet, AParentThatFollowsIsIgnored)
 {
     const QByteArray child = text("child", "parent", size("150%"));
     EXPECT_EQ(sizeOf("child", child + text("parent", "", size("10pt"))), u"18"_s);
 }
 
-TEST_F(StyleSheet, TheLaterOfTwoStylesOfOneNameWins)
+TEST_F(StyleSheet, TheLastOfTwoStylesOfOneNameApplies)
 {
     EXPECT_EQ(sizeOf("a", "", text("a", "", size("10pt")) + text("a", "", size("11pt"))), u"11"_s);
     EXPECT_EQ(sizeOf("a", text("a", "", size("10pt") + " fo:font-weight=\"bold\""),

@@ -127,7 +127,7 @@ TEST(RunX, FollowsAlignmentAndMargins)
     EXPECT_EQ(runX(aligned(Qt::AlignHorizontal_Mask), PageWidth, 100), 10);
 }
 
-TEST(RunX, CentresOnALetterPage)
+TEST(RunX, CentersOnALetterPage)
 {
     OOTextStyle style;
     style.alignment = Qt::AlignHCenter;

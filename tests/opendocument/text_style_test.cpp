@@ -123,7 +123,7 @@ TEST(TextStyle, MarginsNeedALeftOne)
         << "the first two are never set";
 }
 
-TEST(TextStyle, AlignmentIsCentreEndOrLeft)
+TEST(TextStyle, AlignmentIsCenterEndOrLeft)
 {
     const struct
     {

@@ -45,7 +45,7 @@ TEST_F(PictureBuilding, AByteOrderMarkInFrontOfARasterPictureGoesToo)
     EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 12x8"));
 }
 
-TEST_F(PictureBuilding, BytesThatAreNoPictureKeepTheirPlace)
+TEST_F(PictureBuilding, InvalidPicturesKeepTheirPosition)
 {
     readControls(pictureBox("no picture", Place));
     EXPECT_EQ(callsOf("item:1").mid(0, 2), QStringList({QStringLiteral("pixmapImportActions 0x0"),
@@ -54,7 +54,7 @@ TEST_F(PictureBuilding, BytesThatAreNoPictureKeepTheirPlace)
     EXPECT_EQ(logText(), QString());
 }
 
-TEST_F(PictureBuilding, WithoutBytesThereIsNoItem)
+TEST_F(PictureBuilding, CreatesNoItemWithoutBytes)
 {
     readControls("<picture_box/><picture_box><image/></picture_box>"
                  "<picture_box><image><content/></image></picture_box>"
@@ -104,7 +104,7 @@ TEST_F(PictureBuilding, OneSymbolCreatorServesAllPicturesOfAReader)
     EXPECT_EQ(host.recorder().symbolCreators(), 0);
 }
 
-TEST_F(PictureBuilding, WithoutSvgThereIsNoSymbolCreator)
+TEST_F(PictureBuilding, UsesNoSymbolCreatorWithoutSvg)
 {
     readControls(pictureBox(monoPng(1, 1)));
     EXPECT_EQ(host.recorder().symbolCreatorsMade(), 0);
@@ -154,7 +154,7 @@ TEST_F(PictureBuilding, APictureThatClaimsToBeHugeIsAFailedLoad)
                                         "is too large"));
 }
 
-TEST_F(PictureBuilding, AllPicturesOfALabelTogetherAreBoundedAndTheNextLabelStartsAnew)
+TEST_F(PictureBuilding, TheLimitOfAllPicturesAppliesToEachLabel)
 {
     // 25 million pixels each: five fit into 128 million, the sixth does not.
     const QByteArray large = pictureBox(monoPng(5000, 5000)).repeated(6);
@@ -239,7 +239,7 @@ TEST_F(PictureBuilding, AnSvgBackgroundIsDrawnInTheCanvasColors)
               }));
 }
 
-TEST_F(PictureBuilding, ABackgroundWithoutBytesOrSymbolIsNone)
+TEST_F(PictureBuilding, ABackgroundWithoutBytesOrSymbolIsIgnored)
 {
     host.behavior().conversion = recorder::Behavior::Conversion::Fails;
     for (const QByteArray& image :

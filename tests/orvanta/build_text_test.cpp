@@ -84,7 +84,7 @@ TEST_F(TextBuilding, ANegativeTextIsWrittenInTheBackColor)
                                             QStringLiteral("setTextColor '#ffffffff'")}));
 }
 
-TEST_F(TextBuilding, TextIsPassedOnAsItStands)
+TEST_F(TextBuilding, TextIsPassedOnUnchanged)
 {
     readControls("<transparent_label><printable_control><text>&lt;b&gt; 50 %s\nend</text>"
                  "</printable_control></transparent_label>");

@@ -84,7 +84,7 @@ TEST(TextControl, ReadsItemsScalingAndAlignment)
     EXPECT_EQ(control.alignment, Qt::AlignRight);
 }
 
-TEST(TextControl, AnAlignmentThatIsNoNumberIsLeft)
+TEST(TextControl, AnInvalidAlignmentIsLeft)
 {
     EXPECT_EQ(decode(orvanta::readTextControl, "<alignment>left</alignment>").alignment,
               Qt::AlignLeft);

@@ -53,7 +53,7 @@ TEST(ControlProperties, ReadEveryChild)
     EXPECT_EQ(properties.fontStyle, 3);
 }
 
-TEST(ControlProperties, TransparencyThatIsThereMustBeExactlyTrue)
+TEST(ControlProperties, TransparencyMustBeExactlyTrueIfPresent)
 {
     EXPECT_TRUE(read("<transparency>true</transparency>").transparent);
     EXPECT_FALSE(read("<transparency>True</transparency>").transparent);

@@ -142,7 +142,7 @@ TEST_F(Document, AFileThatIsNotThereIsLogged)
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
-TEST_F(Document, AFolderOrNoNameIsNoFile)
+TEST_F(Document, AFolderOrAnEmptyNameIsNotAFile)
 {
     EXPECT_FALSE(reader->importLabelFromFile(QStringLiteral("/")));
     EXPECT_FALSE(reader->importLabelFromFile(QString()));

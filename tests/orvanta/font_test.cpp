@@ -45,7 +45,7 @@ TEST(Font, AFamilyThatTheHostLacksBecomesTheFallback)
     }
 }
 
-TEST(Font, WhatIsNoNumberIsZero)
+TEST(Font, InvalidNumbersAreZero)
 {
     const orvanta::Font font = orvanta::readFont(
         ParsedElement("<font><size>big</size><style>bold</style></font>").element(), knowsFamily);

@@ -37,7 +37,7 @@ QByteArray repeated(const QByteArray& piece, int count)
 
 } // namespace
 
-TEST_F(HostileFile, ALabelCutOffAtAnyByteIsRefusedWhole)
+TEST_F(HostileFile, ALabelTruncatedAtAnyByteIsRefusedCompletely)
 {
     const QByteArray whole = wholeLabel();
     for (qsizetype length = 0; length < whole.size(); ++length) {
@@ -70,7 +70,7 @@ TEST_F(HostileFile, AnyByteMayBeWrong)
     }
 }
 
-TEST_F(HostileFile, FilesThatAreNoXmlAreRefused)
+TEST_F(HostileFile, FilesThatAreNotXmlAreRefused)
 {
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("\0\0\0\0", 4), QByteArray("PK\x03\x04"), QByteArray("qmtx"),
@@ -152,7 +152,7 @@ TEST_F(HostileFile, NumbersOutOfRangeReachTheHostAsTheyAre)
     EXPECT_TRUE(callsOf("item:2").contains(QStringLiteral("setFontPointSize 0")));
 }
 
-TEST_F(HostileFile, HundredThousandWholeObjectsAreImported)
+TEST_F(HostileFile, HundredThousandCompleteObjectsAreImported)
 {
     const int count = 100'000;
     const QByteArray whole =
@@ -203,7 +203,7 @@ TEST_F(HostileFile, ADeviceWithoutEndIsNotReadToItsEnd)
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
-TEST_F(HostileFile, APipeThatNobodyFillsIsNotWaitedFor)
+TEST_F(HostileFile, APipeWithoutAWriterDoesNotBlock)
 {
     const QString pipe = filePath() + QStringLiteral(".pipe");
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
@@ -213,7 +213,7 @@ TEST_F(HostileFile, APipeThatNobodyFillsIsNotWaitedFor)
     QFile::remove(pipe);
 }
 
-TEST_F(HostileFile, ManyAttributesAndLongNamesDoNoHarm)
+TEST_F(HostileFile, ManyAttributesAndLongNamesAreHarmless)
 {
     QByteArray attributes;
     for (int number = 0; number < 500; ++number) {

@@ -53,7 +53,7 @@ TEST(Bounds, PixelsBehindTheMarginBecomePoints)
     }
 }
 
-TEST(Bounds, NotANumberIsNoPositionButAWidth)
+TEST(Bounds, NotANumberIsZeroAsPositionButKeptAsWidth)
 {
     const QRectF points =
         orvanta::readBounds(ParsedElement("<bounds><x>nan</x><w>nan</w></bounds>").element());

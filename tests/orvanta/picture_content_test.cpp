@@ -53,7 +53,7 @@ TEST(PictureContent, IsSvgOnlyWithTheExactStart)
     }
 }
 
-TEST(PictureContent, SvgLosesWhatTheSerialiserAdded)
+TEST(PictureContent, SvgLosesWhatTheSerializerAdded)
 {
     const struct
     {
@@ -116,7 +116,7 @@ TEST(RasterPicture, OfADrawingShowsNoExternalPicture)
     EXPECT_NE(orvanta::decodeRasterPicture(drawing, 63).refusal, QString());
 }
 
-TEST(RasterPicture, ThatIsNoneIsNullWithoutRefusal)
+TEST(RasterPicture, OtherDataIsNullWithoutRefusal)
 {
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("abc"), QByteArray(1000, '\xFF'), QByteArray("<html/>")}) {

@@ -13,7 +13,7 @@ QString samplePath(const QString& name)
 
 } // namespace
 
-TEST_F(Samples, AreImportedWholeAndWithoutALogLine)
+TEST_F(Samples, AreImportedCompletelyAndWithoutALogLine)
 {
     const struct
     {

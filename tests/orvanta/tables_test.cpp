@@ -65,7 +65,7 @@ KestTypes::ShapeType expectedShape(int sides, int index)
 
 } // namespace
 
-TEST(BarcodeCodes, CoverTheWholeRange)
+TEST(BarcodeCodes, CoverTheCompleteRange)
 {
     const QMap<int, int> codes = barcodeCodes();
     ASSERT_EQ(codes.size(), 49);

@@ -112,7 +112,7 @@ TEST_F(ItemCalls, SizesStartAtNothingAndAreKept)
     }
 }
 
-TEST_F(ItemCalls, SizesThatAreNoNumbers)
+TEST_F(ItemCalls, SizesThatAreNotNumbers)
 {
     const double infinite = std::numeric_limits<double>::infinity();
     expectCall(

@@ -118,7 +118,7 @@ TEST_F(TraceProgram, AMissingFileStillHasAStartAndAnEnd)
     EXPECT_TRUE(result.errors.contains("none.odg\": No such file")) << result.errors.constData();
 }
 
-TEST_F(TraceProgram, AFolderIsNoFile)
+TEST_F(TraceProgram, AFolderIsNotAFile)
 {
     const ProgramResult result = run({m_folder.path()});
     EXPECT_EQ(result.status, 1);
@@ -126,7 +126,7 @@ TEST_F(TraceProgram, AFolderIsNoFile)
     EXPECT_TRUE(result.errors.contains("it is a folder")) << result.errors.constData();
 }
 
-TEST_F(TraceProgram, TellsTheReaderByTheSuffix)
+TEST_F(TraceProgram, ChoosesTheReaderByTheSuffix)
 {
     const std::pair<const char*, const char*> rows[] = {{"a.cnv", "tavrel"},
                                                         {"a.ROC", "tavrel"},
@@ -151,7 +151,7 @@ TEST_F(TraceProgram, TakesNamesOfAnyScript)
         QStringLiteral("{\"trace\":1,\"file\":\"Größe \\\"ß\\\".qmtx\"").toUtf8()));
 }
 
-TEST_F(TraceProgram, HelpAndVersionAreNoFailure)
+TEST_F(TraceProgram, HelpAndVersionSucceed)
 {
     for (const char* option : {"--help", "-h"}) {
         const ProgramResult result = run({QString::fromLatin1(option)});

@@ -93,7 +93,7 @@ TEST_F(Services, SymbolCreatorGivesTheDrawingBack)
         R"({"on":"symbolcreator","call":"getSymbolData","args":[],"returns":{"bytes":64,)")));
 }
 
-TEST_F(Services, SymbolCreatorTellsWhatIsNoDrawing)
+TEST_F(Services, SymbolCreatorReportsInvalidDrawings)
 {
     SymbolCreator creator(nullptr);
     EXPECT_FALSE(creator.convertSvgToSymbol(QRectF()));
@@ -246,7 +246,7 @@ TEST_F(Services, DataSourcesAreNumberedFromOne)
     EXPECT_NE(source, sources->getDatasource(1));
 }
 
-TEST_F(Services, UnknownDataSourcesAreNone)
+TEST_F(Services, UnknownDataSourcesAreNull)
 {
     for (const int id : {0, -1, 1, std::numeric_limits<int>::max()}) {
         EXPECT_EQ(m_host->datasourceController()->getDatasource(id), nullptr) << id;

@@ -25,7 +25,7 @@ TEST(SvgDocument, KnowsItsSize)
     EXPECT_EQ(SvgDocument(svg("", "<rect width='7' height='9'/>")).defaultSize(), QSizeF(7, 9));
 }
 
-TEST(SvgDocument, RefusesWhatIsNoDrawing)
+TEST(SvgDocument, RefusesInvalidDrawings)
 {
     for (const char* bytes : {"", "no xml", "<svg", "<html/>", "\x1f\x8b\x08", "<svg></g></svg>"}) {
         const SvgDocument document(bytes);

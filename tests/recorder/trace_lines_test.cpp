@@ -40,7 +40,7 @@ TEST_F(TraceLines, SignalsHaveOneKey)
     EXPECT_EQ(newLine(), QStringLiteral(R"({"signal":"popupShowSignal"})"));
 }
 
-TEST_F(TraceLines, LogRecordsStandBetweenTheCalls)
+TEST_F(TraceLines, LogRecordsAreBetweenTheCalls)
 {
     canvas().completeCanvasLoading();
     CuteMessageLogger(loggerInstance(), Logger::Error, "reader.cpp", 7, "bool Reader::read(int)")
@@ -56,7 +56,7 @@ TEST_F(TraceLines, LogRecordsStandBetweenTheCalls)
                                           "\"function\":\"void f()\",\"message\":\"seen\"}"));
 }
 
-TEST_F(TraceLines, TheLogIsLetGoWithTheHost)
+TEST_F(TraceLines, TheLogIsReleasedWithTheHost)
 {
     m_host.reset();
     CuteMessageLogger(loggerInstance(), Logger::Error, "reader.cpp", 7, "f").write("late");
@@ -77,7 +77,7 @@ TEST_F(TraceLines, TheFactoryNumbersItsItems)
         QStringLiteral(R"({"on":"factory","call":"create","args":[65565],"returns":"item:2"})"));
 }
 
-TEST_F(TraceLines, AnUnknownShapeIsNoItemAndTakesNoNumber)
+TEST_F(TraceLines, AnUnknownShapeCreatesNoItemAndUsesNoNumber)
 {
     EXPECT_EQ(create(static_cast<KestTypes::ShapeType>(1)), nullptr);
     EXPECT_EQ(newLine(),
@@ -86,7 +86,7 @@ TEST_F(TraceLines, AnUnknownShapeIsNoItemAndTakesNoNumber)
     EXPECT_TRUE(newLine().contains(QStringLiteral("\"item:1\"")));
 }
 
-TEST_F(TraceLines, StatesTellWhereItemsStand)
+TEST_F(TraceLines, StatesContainTheStackingOrder)
 {
     canvas().importItem(create(KestTypes::Rectangle));
     const std::unique_ptr<Item> kept(create(KestTypes::Ellipse));
@@ -231,7 +231,7 @@ TEST_F(TraceLines, CanvasSurvivesNoItemAndTheSameItemTwice)
     EXPECT_EQ(newLines().size(), 3);
 }
 
-TEST_F(TraceLines, AnItemOfAnotherHostIsNobody)
+TEST_F(TraceLines, AnItemOfAnotherHostIsUnknown)
 {
     QGraphicsRectItem stranger;
     canvas().setReadOnlyStateOnItemsInList(true, {&stranger});

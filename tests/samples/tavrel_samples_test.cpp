@@ -37,7 +37,7 @@ TEST(TavrelSamples, AreWhatTheirProgramWrites)
     }
 }
 
-TEST(TavrelSamples, NoneIsLeftOver)
+TEST(TavrelSamples, EachHasATest)
 {
     QStringList names;
     for (const SampleLabel& label : sampleLabels()) {

@@ -44,7 +44,7 @@ TEST(Confinement, IsNotActiveBeforeItIsAskedFor)
     EXPECT_EQ(sandbox::active(), Confinement{});
 }
 
-// In a process of its own, because it is for good.
+// In a separate process, because confinement is irrevocable.
 TEST(Confinement, GivesWhatTheSystemOffers)
 {
     const TestFolder folder;

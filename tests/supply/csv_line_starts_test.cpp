@@ -53,7 +53,7 @@ TEST(CsvLineStarts, ReportTheirPosition)
     EXPECT_EQ(starts.position(), 4);
 }
 
-TEST(CsvLineStarts, StartAnewInMemoryThatWasUsed)
+TEST(CsvLineStarts, StartEmptyInReusedMemory)
 {
     CsvLineStarts starts(std::vector<qint64>{7, 8, 9});
     starts.take(std::string_view("a\n"));

@@ -171,7 +171,7 @@ TEST_F(CsvTableModelTest, GrowsColumnsAsLinesAreParsed)
     EXPECT_EQ(table.columnCount(), 3);
 }
 
-TEST_F(CsvTableModelTest, TakesHeaderNamesAsTheyStandWhenOnlyOpened)
+TEST_F(CsvTableModelTest, KeepsHeaderNamesUnchangedWhenOnlyOpened)
 {
     CsvTableModel table(1);
     ASSERT_TRUE(table.openFile(fileOf("a,a,,\"q\"\n")));
@@ -232,7 +232,7 @@ TEST_F(CsvTableModelTest, AFileThatDoesNotOpenLeavesItEmpty)
     EXPECT_EQ(table.rowCount(), 1);
 }
 
-TEST_F(CsvTableModelTest, StartsAfreshWithEachFile)
+TEST_F(CsvTableModelTest, IsResetWithEachFile)
 {
     CsvTableModel table(1);
     ASSERT_TRUE(table.setFileName(fileOf("a,b,c\n1,2,3\n4,5,6\n")));

@@ -154,7 +154,7 @@ TEST(LegacySupplyInfo, HasTheRowsThatOldLabelsNeed)
     EXPECT_FALSE(supplies.ribbonData(0, 4).isValid());
 }
 
-TEST(LegacySupplyInfo, EveryCatalogueRowIsWellFormed)
+TEST(LegacySupplyInfo, EveryTableRowIsWellFormed)
 {
     const LegacySupplyInfo supplies;
     std::set<QString> partNumbers;

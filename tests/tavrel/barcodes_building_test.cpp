@@ -68,7 +68,7 @@ TEST_F(BarcodeBuilder, EachFlagHasItsPlace)
                      "item4 importBarcodeProperties 20 \"42\" no 132 2 no no 1 17 3"}));
 }
 
-TEST_F(BarcodeBuilder, HandsTheWholeSymbologyNumberOver)
+TEST_F(BarcodeBuilder, PassesTheCompleteSymbologyNumber)
 {
     BarcodeRecord record = barcode();
     record.symbology = 0x10014; // its low 16 bits, 20, are used only to check the symbology

@@ -32,7 +32,7 @@ struct BarcodeRow
 class BarcodeLayout : public testing::TestWithParam<BarcodeRow>
 {};
 
-TEST_P(BarcodeLayout, IsReadWhole)
+TEST_P(BarcodeLayout, IsReadCompletely)
 {
     QDataStream stream(GetParam().bytes + Next);
     const BarcodeRecord record = readBarcodeRecord(stream, {GetParam().version, {300.0, 150.0}}, 4);
@@ -125,7 +125,7 @@ struct NumberRow
     int number;
 };
 
-TEST(BarcodeRecord, NumberThatIsNoneIsZero)
+TEST(BarcodeRecord, InvalidNumberIsZero)
 {
     for (const NumberRow& row :
          {NumberRow{QStringLiteral("abc"), 0}, NumberRow{QStringLiteral("99999999999"), 0},

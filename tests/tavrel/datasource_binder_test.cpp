@@ -118,7 +118,7 @@ TEST_F(Binding, KeyInTheTextIsTheFirstOfTheList)
     EXPECT_EQ(fake.calls.with("createDatasource").size(), 1);
 }
 
-TEST_F(Binding, HostThatForgetsItsSourceDoesNoHarm)
+TEST_F(Binding, HostWithoutTheNewSourceIsHarmless)
 {
     fake.datasources.forgetsSources = true;
     EXPECT_TRUE(bind("_SEQUENCE"));

@@ -34,7 +34,7 @@ class Hostile : public ReaderTest
 class CutFile : public ReaderTest, public testing::WithParamInterface<quint32>
 {};
 
-TEST_P(CutFile, KeepsWhatStandsBeforeTheCut)
+TEST_P(CutFile, KeepsRecordsBeforeTheCut)
 {
     LabelFile label(GetParam(), {QStringLiteral("C:\\data\\list.csv")});
     label.shape(QStringLiteral("Oval"))
@@ -115,7 +115,7 @@ TEST_F(Hostile, LengthsBeyondTheEndGiveEmptyValues)
     expectModestMemory();
 }
 
-TEST_F(Hostile, SvgBeyondTheEndIsNoSvg)
+TEST_F(Hostile, SvgBeyondTheEndIsIgnored)
 {
     LabelFile label(2000024);
     label.symbol(QStringLiteral("arrow.svg"));
@@ -142,7 +142,7 @@ const QByteArray HugePng = hex("89504E470D0A1A0A"
                                "0000000F 49444154 78DA63F8CFC0C0F09F010007FF01FFB80435E0"
                                "00000000 49454E44 AE426082");
 
-TEST_F(Hostile, HugePictureIsLeftEmptyAndReadingGoesOn)
+TEST_F(Hostile, HugePictureIsLeftEmptyAndReadingContinues)
 {
     EXPECT_TRUE(import(LabelFile().picture(HugePng).shape(QStringLiteral("Oval"))));
     EXPECT_EQ(fake.canvas.itemCount(), 2U);
@@ -209,7 +209,7 @@ TEST_F(Hostile, TextOfBlanksAloneTakesNoMemoryForItsNote)
     expectModestMemory();
 }
 
-TEST_F(Hostile, NumbersThatAreNonePassWithoutHarm)
+TEST_F(Hostile, NumbersThatAreNotFiniteAreHarmless)
 {
     for (const double odd : {double(NAN), double(HUGE_VAL), -double(HUGE_VAL), 0.0, -1.0, 1e300}) {
         SCOPED_TRACE(odd);

@@ -11,7 +11,7 @@ const QString Symbols = QStringLiteral("Errors reading symbol items.\nPlease upd
 const QString Barcodes = QStringLiteral("Unsupported barcode symbols.");
 const QString Datasource = QStringLiteral("Datasource not connected.");
 
-TEST(ImportIssues, NothingToTellIsAnEmptyText)
+TEST(ImportIssues, NothingToReportIsAnEmptyText)
 {
     ImportIssues issues;
     EXPECT_EQ(issues.text(), QString());
@@ -19,7 +19,7 @@ TEST(ImportIssues, NothingToTellIsAnEmptyText)
     EXPECT_EQ(issues.text(), QString());
 }
 
-TEST(ImportIssues, EachIssueStandsAlone)
+TEST(ImportIssues, EachIssueIsReportedAlone)
 {
     ImportIssues symbols;
     symbols.symbolErrors = true;
@@ -35,7 +35,7 @@ TEST(ImportIssues, EachIssueStandsAlone)
     EXPECT_EQ(note.text(), QStringLiteral("a note"));
 }
 
-TEST(ImportIssues, SymbolsAndBarcodesStandOneBelowTheOther)
+TEST(ImportIssues, SymbolsAndBarcodesAreListedOnePerLine)
 {
     ImportIssues issues;
     issues.barcodeErrors = true;

@@ -46,7 +46,7 @@ struct HeaderRow
 class HeaderLayout : public testing::TestWithParam<HeaderRow>
 {};
 
-TEST_P(HeaderLayout, IsReadWhole)
+TEST_P(HeaderLayout, IsReadCompletely)
 {
     QDataStream stream(hex(HeaderHex) + hex("55"));
     const ItemHeader header = readItemHeader(stream, file(GetParam().version), 5);
@@ -77,7 +77,7 @@ INSTANTIATE_TEST_SUITE_P(Versions, HeaderLayout,
                                          inches(2000021), inches(2000022), inches(2000023),
                                          inches(2000024), inches(2000025)));
 
-TEST(ItemHeader, BeforeReadingHasNoSizeAndStandsAtTheOrigin)
+TEST(ItemHeader, BeforeReadingHasNoSizeAndIsAtTheOrigin)
 {
     const ItemHeader header;
     EXPECT_EQ(header.size(), QSizeF(-1.0, -1.0));
@@ -119,7 +119,7 @@ TEST(ItemHeader, LengthsAreFractionsOfAnInch)
     }
 }
 
-TEST(ItemHeader, EndlessLengthIsNoNumber)
+TEST(ItemHeader, InfiniteLengthIsNotANumber)
 {
     for (const auto& [size, points] : {std::pair(999, 36.0), std::pair(1000, 72.0)}) {
         const QString text = QStringLiteral("0.5").leftJustified(size + 1, QLatin1Char('0'));
@@ -235,7 +235,7 @@ struct SymbolRow
 class SymbolLayout : public testing::TestWithParam<SymbolRow>
 {};
 
-TEST_P(SymbolLayout, IsReadWhole)
+TEST_P(SymbolLayout, IsReadCompletely)
 {
     QDataStream stream(hex(HeaderHex) + hex(SymbolHex));
     const SymbolRecord record = readSymbolRecord(stream, file(GetParam().version), 0);

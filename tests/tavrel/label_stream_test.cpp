@@ -85,7 +85,7 @@ TEST(LabelStream, TextOfOddLengthTakesOnlyTheLength)
     }
 }
 
-TEST(LabelStream, GoesOnAfterABadValue)
+TEST(LabelStream, ContinuesAfterABadValue)
 {
     QDataStream stream(hex("00000003 00000007"));
     EXPECT_EQ(readText(stream), QString());
@@ -167,7 +167,7 @@ TEST(FieldRun, IsReadInItsOrder)
     EXPECT_TRUE(stream.atEnd());
 }
 
-TEST(FieldRun, LeavesWhatStandsBehindIt)
+TEST(FieldRun, LeavesTheFollowingBytes)
 {
     QDataStream stream(hex("00000007 00000009"));
     EXPECT_EQ(readFields<qint32>(stream), std::tuple(7));

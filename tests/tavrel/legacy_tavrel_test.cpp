@@ -167,7 +167,7 @@ TEST_F(Reader, PictureAndSymbolAreScaledByTheResolutionOfTheFile)
               QStringList(QStringLiteral("item1 setItemSize 40x60")));
 }
 
-TEST_F(Reader, LaterItemsOfALayerStandInFront)
+TEST_F(Reader, LaterItemsOfALayerAreInFront)
 {
     EXPECT_TRUE(import(LabelFile().shape(Oval, 1.0).shape(Oval, 1.0).shape(Oval, 2.0)));
     const double first = fake.canvas.item(0)->zValue();
@@ -198,7 +198,7 @@ TEST_F(Reader, LabelWithoutItemsFails)
     EXPECT_TRUE(errors().isEmpty());
 }
 
-TEST_F(Reader, LabelWithoutItemsTellsOfItsDatabaseAllTheSame)
+TEST_F(Reader, LabelWithoutItemsStillReportsItsDatabase)
 {
     EXPECT_FALSE(import(LabelFile(2000024, {QStringLiteral("C:\\data\\list.csv")})));
     ASSERT_EQ(services.boxes.size(), 1);
@@ -206,7 +206,7 @@ TEST_F(Reader, LabelWithoutItemsTellsOfItsDatabaseAllTheSame)
     EXPECT_EQ(boxText(), NotConnected);
 }
 
-TEST_F(Reader, EmptyRecordsAreNoItems)
+TEST_F(Reader, EmptyRecordsAreNotItems)
 {
     EXPECT_FALSE(import(LabelFile().empty().empty()));
     EXPECT_TRUE(services.boxes.isEmpty());
@@ -246,13 +246,13 @@ TEST_F(Reader, UnknownCodeAfterAnItemEndsTheFile)
     EXPECT_EQ(fake.calls.with("completeCanvasLoading").size(), 1);
 }
 
-TEST_F(Reader, UnknownCodeAfterAnItemStillTellsTheIssues)
+TEST_F(Reader, UnknownCodeAfterAnItemStillReportsTheIssues)
 {
     EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 1).typeCode(65535)));
     EXPECT_EQ(boxText(), BarcodeErrors);
 }
 
-TEST_F(Reader, FailuresAreSkippedAndToldTogether)
+TEST_F(Reader, FailuresAreSkippedAndReportedTogether)
 {
     EXPECT_TRUE(import(LabelFile()
                            .barcode(true, 1)
@@ -263,7 +263,7 @@ TEST_F(Reader, FailuresAreSkippedAndToldTogether)
     EXPECT_EQ(fake.canvas.itemCount(), 1U);
 }
 
-TEST_F(Reader, FailuresAloneAreNoSuccess)
+TEST_F(Reader, FailuresAloneAreNotASuccess)
 {
     EXPECT_FALSE(import(LabelFile().barcode(true, 1).symbol(QStringLiteral("unknown"))));
     EXPECT_EQ(services.boxes.first().title, Warning);
@@ -337,7 +337,7 @@ TEST_F(Reader, SymbolThatCannotBeConvertedIsAnError)
     EXPECT_TRUE(fake.calls.with("factory create").isEmpty());
 }
 
-TEST_F(Reader, IssuesAreToldBeforeTheCanvasIsComplete)
+TEST_F(Reader, IssuesAreReportedBeforeTheCanvasIsComplete)
 {
     QObject::connect(&reader, &LegacyTavrel::popupShowSignal, &reader, [this] {
         EXPECT_EQ(fake.canvas.itemCount(), 1U);

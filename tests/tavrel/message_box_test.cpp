@@ -83,7 +83,7 @@ TEST_F(MessageBox, OfALaterImportTakesThePlaceOfOneThatIsStillThere)
     EXPECT_EQ(hidden.count(), 2);
 }
 
-TEST_F(MessageBox, StaysWhenALaterImportHasNothingToTell)
+TEST_F(MessageBox, StaysWhenALaterImportHasNothingToReport)
 {
     EXPECT_TRUE(importWithIssue());
     EXPECT_TRUE(import(LabelFile().shape({})));

@@ -61,7 +61,7 @@ struct CanvasRow
 class CanvasLayout : public testing::TestWithParam<CanvasRow>
 {};
 
-TEST_P(CanvasLayout, IsReadWhole)
+TEST_P(CanvasLayout, IsReadCompletely)
 {
     const CanvasRow& row = GetParam();
     QDataStream stream(row.bytes + hex("55"));
@@ -159,7 +159,7 @@ struct SequenceRow
 class SequenceLayout : public testing::TestWithParam<SequenceRow>
 {};
 
-TEST_P(SequenceLayout, IsReadWhole)
+TEST_P(SequenceLayout, IsReadCompletely)
 {
     const SequenceRow& row = GetParam();
     QDataStream stream(hex(SequenceHex) + hex("00000005"));
@@ -195,7 +195,7 @@ struct DatabaseRow
 class DatabaseList : public testing::TestWithParam<DatabaseRow>
 {};
 
-TEST_P(DatabaseList, TellsWhetherAFileIsSelected)
+TEST_P(DatabaseList, ReportsWhetherAFileIsSelected)
 {
     const DatabaseRow& row = GetParam();
     Bytes bytes;

@@ -70,7 +70,7 @@ TEST(StreamPicture, IsWhatTheStreamOfQtWrites)
     EXPECT_EQ(read(bytes).left, 4) << "the null picture is a marker of 0";
 }
 
-TEST(StreamPicture, MarkerOfZeroIsNoPicture)
+TEST(StreamPicture, MarkerOfZeroIsNotAPicture)
 {
     const Outcome outcome = read(hex("00000000") + Next);
     EXPECT_TRUE(outcome.picture.image.isNull());
@@ -78,7 +78,7 @@ TEST(StreamPicture, MarkerOfZeroIsNoPicture)
     EXPECT_EQ(outcome.left, 4);
 }
 
-TEST(StreamPicture, WhatIsNoPngStaysInTheStream)
+TEST(StreamPicture, OtherDataThanPngStaysInTheStream)
 {
     const Outcome outcome = read(Marker + Next);
     EXPECT_TRUE(outcome.picture.image.isNull());

@@ -56,7 +56,7 @@ TEST_F(Symbols, FolderOfTheNameDoesNotCount)
     }
 }
 
-TEST_F(Symbols, DatabasesAreOpenedOnceAndGoWithTheSource)
+TEST_F(Symbols, DatabasesAreOpenedOnceAndDeletedWithTheSource)
 {
     {
         SymbolSource source;

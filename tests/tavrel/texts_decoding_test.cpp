@@ -43,7 +43,7 @@ struct TextRow
 class TextLayout : public testing::TestWithParam<TextRow>
 {};
 
-TEST_P(TextLayout, IsReadWhole)
+TEST_P(TextLayout, IsReadCompletely)
 {
     const TextRow& row = GetParam();
     QDataStream stream(row.bytes + Next);

@@ -50,7 +50,7 @@ QProcessEnvironment environmentOf(const Case& each)
     return environment;
 }
 
-QString openWords()
+QString openActionText()
 {
     return QCoreApplication::translate("window::Actions", "&Open…");
 }
@@ -62,7 +62,7 @@ TEST(WantedLanguages, FollowTheEnvironment)
     }
 }
 
-TEST(KeepLanguage, TellsProgramsThatAreStarted)
+TEST(KeepLanguage, IsPassedToStartedPrograms)
 {
     for (const QStringList& languages :
          {QStringList{QStringLiteral("de_AT"), QStringLiteral("fr")}, QStringList()}) {
@@ -76,15 +76,15 @@ TEST(KeepLanguage, TellsProgramsThatAreStarted)
     }
 }
 
-TEST(ProgramLanguage, SpeaksWhileItLives)
+TEST(ProgramLanguage, TranslatesDuringItsLifetime)
 {
-    EXPECT_EQ(openWords(), QStringLiteral("&Open…"));
+    EXPECT_EQ(openActionText(), QStringLiteral("&Open…"));
     {
         const translations::ProgramLanguage language({QStringLiteral("de")});
         EXPECT_EQ(language.name(), QStringLiteral("de"));
-        EXPECT_EQ(openWords(), QStringLiteral("&Öffnen…"));
+        EXPECT_EQ(openActionText(), QStringLiteral("&Öffnen…"));
     }
-    EXPECT_EQ(openWords(), QStringLiteral("&Open…"));
+    EXPECT_EQ(openActionText(), QStringLiteral("&Open…"));
 }
 
 TEST(ProgramLanguage, TakesTheFirstThatThereIs)
@@ -92,15 +92,15 @@ TEST(ProgramLanguage, TakesTheFirstThatThereIs)
     const translations::ProgramLanguage language(
         {QStringLiteral("pl"), QStringLiteral("fr_CA"), QStringLiteral("de")});
     EXPECT_EQ(language.name(), QStringLiteral("fr"));
-    EXPECT_EQ(openWords(), QStringLiteral("&Ouvrir…"));
+    EXPECT_EQ(openActionText(), QStringLiteral("&Ouvrir…"));
 }
 
-TEST(ProgramLanguage, IsEnglishWhereThereIsNone)
+TEST(ProgramLanguage, IsEnglishWithoutATranslation)
 {
     for (const QStringList& languages : {QStringList(), QStringList{QStringLiteral("pl_PL")}}) {
         const translations::ProgramLanguage language(languages);
         EXPECT_EQ(language.name(), QStringLiteral("en"));
-        EXPECT_EQ(openWords(), QStringLiteral("&Open…"));
+        EXPECT_EQ(openActionText(), QStringLiteral("&Open…"));
     }
 }
 

@@ -87,7 +87,7 @@ TEST_F(Programs, SayWhatTheyAreFor)
 TEST_F(Programs, SayWhatIsWrong)
 {
     const QStringList import{QStringLiteral("import"), Missing};
-    EXPECT_TRUE(run(Labelport, import, English).err.contains(u"There is no such file."));
+    EXPECT_TRUE(run(Labelport, import, English).err.contains(u"The file does not exist."));
     EXPECT_TRUE(run(Labelport, import, German).err.contains(u"Es gibt keine solche Datei."));
     EXPECT_TRUE(run(Labelport, import, French).err.contains(u"Ce fichier n’existe pas."));
 
@@ -103,7 +103,7 @@ TEST_F(Programs, SayWhatIsWrong)
             .err.contains(u"Ein Fenster zeigt ein Etikett, es wurden aber 2 Dateien angegeben."));
 }
 
-TEST_F(Programs, SpeakALanguageThatTheCharacterSetOfTheEnvironmentCannotWrite)
+TEST_F(Programs, TranslateToALanguageThatTheLocalesEncodingLacks)
 {
     const Outcome outcome =
         run(Labelport, {QStringLiteral("import"), Missing}, {{"LANG", "de_DE.ISO-8859-1"}});
@@ -130,7 +130,7 @@ TEST_F(Programs, MakeTheSameFilesInEveryLanguage)
     }
 }
 
-TEST_F(Programs, TellOtherProgramsTheSameInEveryLanguage)
+TEST_F(Programs, WriteTheSameDataInEveryLanguage)
 {
     // The import of this one prints a message.
     const QString sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/member_card_2000024.cnv");

@@ -151,7 +151,7 @@ def try_examples():
     failures += [helper] if examine(helper, {"is marked elsewhere"}) else []
     failures += [code for code in bad if len(examine(code)) != 1]
     for code in failures:
-        print("judged wrongly:", code)
+        print("wrong result:", code)
     return 1 if failures else 0
 
 

@@ -53,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST_F(CanvasViewTest, ALabelIsSeenWholeAtFirstAndStaysSoWhenTheViewGrows)
+TEST_F(CanvasViewTest, ALabelFitsTheViewAtFirstAndWhenTheViewGrows)
 {
     const auto pageOnScreen = [this] {
         return view.mapFromScene(label.canvas->pageRect()).boundingRect();
@@ -227,7 +227,7 @@ TEST_F(CanvasViewTest, ZoomToItemsShowsThemLarge)
     EXPECT_EQ(view.zoom(), zoom);
 }
 
-TEST_F(CanvasViewTest, ThePageHasItsGroundAndWhatHangsOverIsVeiled)
+TEST_F(CanvasViewTest, ThePageHasItsGroundAndOverhangsAreDimmed)
 {
     item(0)->setPos(-24.0, 40.0); // a third of it outside the page
     view.fitPage();

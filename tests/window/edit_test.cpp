@@ -306,7 +306,7 @@ TEST(Clipboard, CarriesItemsToALabelAndDropsBindingsThatItDoesNotHave)
     EXPECT_EQ(pastedItems(data.get(), none).at(1).datasource->id, -1);
 }
 
-TEST(Clipboard, IgnoresDataThatIsNoLabel)
+TEST(Clipboard, IgnoresDataThatIsNotALabel)
 {
     const workbench::datasources::DatasourceController sources;
     QMimeData data;

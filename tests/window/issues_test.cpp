@@ -253,7 +253,7 @@ TEST_F(IssuesTest, AreReachedByTheirKey)
     EXPECT_TRUE(window.session().label()->canvas->items().at(3)->graphicsItem()->isSelected());
 }
 
-TEST_F(IssuesTest, GoWithTheirLabel)
+TEST_F(IssuesTest, AreRemovedWithTheirLabel)
 {
     openDrawing(LostPath);
     EXPECT_FALSE(panel().issues().isEmpty());

@@ -185,7 +185,7 @@ TEST_F(LabelSessionTest, SavesAndOpensAgainWhatWasChanged)
     EXPECT_EQ(placeOfFirst(*again.label), placeOfFirst(*session.label()));
 }
 
-TEST_F(LabelSessionTest, AChangeThatIsTakenBackIsNone)
+TEST_F(LabelSessionTest, AnUndoneChangeIsNotAChange)
 {
     saveMadeLabel(path(QStringLiteral("a.label")));
     ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
@@ -213,7 +213,7 @@ TEST_F(LabelSessionTest, SaveAsGivesTheLabelAnotherFile)
     EXPECT_EQ(RecentFiles().files().size(), 2);
 }
 
-TEST_F(LabelSessionTest, AFileThatCannotBeWrittenIsTold)
+TEST_F(LabelSessionTest, AWriteErrorIsReported)
 {
     const QString file = path(QStringLiteral("a.label"));
     saveMadeLabel(file);

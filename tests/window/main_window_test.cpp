@@ -269,7 +269,7 @@ TEST_F(MainWindowTest, TakesADroppedFile)
     EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a.label")));
 }
 
-TEST_F(MainWindowTest, TakesNoDropThatIsNoFile)
+TEST_F(MainWindowTest, IgnoresDropsOfOtherData)
 {
     drop({QUrl(QStringLiteral("https://example.org/a.label"))});
     EXPECT_FALSE(m_isAccepted);
@@ -411,7 +411,7 @@ TEST_F(MainWindowTest, TheRecordBoxLeavesCtrlEToExport)
     EXPECT_FALSE(key.isAccepted());
 }
 
-TEST_F(MainWindowTest, MessagesAboutALabelGoWithIt)
+TEST_F(MainWindowTest, MessagesAboutALabelDisappearWithIt)
 {
     openMadeLabel();
     window.statusBar()->showMessage(QStringLiteral("old"));

@@ -39,7 +39,7 @@ QString propertyOf(const QList<PropertyRow>& rows, const QString& name)
 
 } // namespace
 
-TEST(ItemTable, HasARowForEveryItemInTheOrderInWhichTheyCame)
+TEST(ItemTable, HasARowForEveryItemInTheOrderOfCreation)
 {
     const OpenLabel label = makeLabel();
     ItemTableModel model;
@@ -160,7 +160,7 @@ TEST(StyleNames, SayWhatNumbersMean)
     EXPECT_EQ(colorName(QColor()), QStringLiteral("none"));
 }
 
-TEST(PropertyTable, NamesAGroupOnceButTellsItToScreenReaders)
+TEST(PropertyTable, ShowsAGroupOnceAndNamesItToScreenReaders)
 {
     PropertyModel model;
     const QAbstractItemModelTester tester(&model,
@@ -175,7 +175,7 @@ TEST(PropertyTable, NamesAGroupOnceButTellsItToScreenReaders)
     EXPECT_EQ(cell(model, 1, PropertyModel::Value), QStringLiteral("red"));
 }
 
-TEST(SourceTable, TellsKindSettingsRecordsAndPresentText)
+TEST(SourceTable, ShowsKindSettingsRecordsAndCurrentText)
 {
     const OpenLabel label = makeLabel();
     SourceTableModel model;
@@ -340,7 +340,7 @@ TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)
     }
 }
 
-TEST(ActionTable, WithoutALabelOnlyWhatNeedsNoneCanBeDone)
+TEST(ActionTable, DisablesActionsThatNeedALabel)
 {
     Actions actions;
     actions.setLabelOpen(false);

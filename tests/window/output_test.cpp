@@ -169,7 +169,7 @@ TEST_F(OutputTest, WorkCanBeStopped)
     EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.pdf")))) << "half a document is none";
 }
 
-TEST_F(OutputTest, WhatCannotBeWrittenIsTold)
+TEST_F(OutputTest, WriteErrorsAreReported)
 {
     for (const exporting::Target target :
          {exporting::Target::Png, exporting::Target::Svg, exporting::Target::Pdf}) {
@@ -181,7 +181,7 @@ TEST_F(OutputTest, WhatCannotBeWrittenIsTold)
     }
 }
 
-TEST_F(OutputTest, APageThatIsTooLargeIsTold)
+TEST_F(OutputTest, APageThatIsTooLargeIsReported)
 {
     label.canvas->importCanvasParameters(20'000.0, 100.0, false, false);
     const OutputReport pdf =
@@ -271,7 +271,7 @@ TEST_F(OutputTest, ARunIsBounded)
     EXPECT_EQ(chooser.range().count, MaximumRecords);
 }
 
-TEST_F(OutputTest, ExportAsksBeforeItReplacesAndTellsWhatItWrote)
+TEST_F(OutputTest, ExportConfirmsReplacingAndReportsTheOutput)
 {
     DialogDriver dialogs;
     QWidget window;

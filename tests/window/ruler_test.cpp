@@ -53,7 +53,7 @@ TEST(RulerScale, StepsAreRoundNumbersOfTheUnit)
     }
 }
 
-TEST(RulerScale, TheFirstLabelOfThePageStandsAtItsEdge)
+TEST(RulerScale, TheFirstLabelOfThePageIsAtItsEdge)
 {
     const QList<RulerTick> ticks = labeled(rulerTicks({40.0, 96.0 / 72.0, 400}, LengthUnit::Inch));
 

@@ -235,7 +235,7 @@ TEST_F(SourcesTest, ACounterIsEdited)
     EXPECT_EQ(label.sources->values(), before);
 }
 
-TEST_F(SourcesTest, AnUnchangedSourceIsNoStepOfUndo)
+TEST_F(SourcesTest, AnUnchangedSourceAddsNoUndoStep)
 {
     OpenLabel label = makeLabel();
     dialogs.expect([](QDialog& dialog) { dialog.accept(); });

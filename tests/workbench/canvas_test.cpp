@@ -69,7 +69,7 @@ TEST(Canvas, KeepsItsColors)
     EXPECT_EQ(canvas.canvasDefaultPenColor(), QColor(Qt::red));
 }
 
-TEST(Canvas, ListsItemsInTheOrderInWhichTheyCame)
+TEST(Canvas, ListsItemsInTheOrderOfCreation)
 {
     Painted page;
     QGraphicsItem* first = addRectangle(page, QRectF(0, 0, 10, 10), Qt::red);
@@ -92,7 +92,7 @@ TEST(Canvas, TakesAnItemOnceAndNoNothing)
     EXPECT_EQ(page.canvas.items().size(), 1);
 }
 
-TEST(Canvas, HigherItemsLieOnLowerOnesAndLaterOnesOnEarlier)
+TEST(Canvas, HigherItemsCoverLowerOnesAndLaterOnesEarlier)
 {
     Painted page;
     QGraphicsItem* red = addRectangle(page, QRectF(0, 0, 50, 50), Qt::red);
@@ -150,7 +150,7 @@ TEST(Canvas, AReadOnlyItemTakesNoMouse)
     EXPECT_NE(first->acceptedMouseButtons(), Qt::NoButton);
 }
 
-TEST(Canvas, ABackgroundItemTakesNoMouseEvenWhenItIsNoLongerReadOnly)
+TEST(Canvas, ABackgroundItemIgnoresTheMouseEvenWhenItIsNoLongerReadOnly)
 {
     Painted page;
     QGraphicsItem* item = addRectangle(page, QRectF(0, 0, 10, 10), Qt::red);
@@ -161,7 +161,7 @@ TEST(Canvas, ABackgroundItemTakesNoMouseEvenWhenItIsNoLongerReadOnly)
     EXPECT_EQ(item->acceptedMouseButtons(), Qt::NoButton);
 }
 
-TEST(Canvas, TellsWhenALabelIsThereWhole)
+TEST(Canvas, ReportsWhenALabelIsComplete)
 {
     Canvas canvas;
     QSignalSpy spy(&canvas, &Canvas::loadingCompleted);

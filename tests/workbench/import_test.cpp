@@ -172,7 +172,7 @@ TEST(Import, BindsListsAndShowsTheirFirstRecord)
     EXPECT_EQ(result.datasources->recordText(source.id, 1), QStringLiteral("second"));
 }
 
-TEST(Import, TellsWhatWasLeftOut)
+TEST(Import, ReportsOmittedItems)
 {
     const Folder folder;
     const ImportResult result = importLabel(folder.write("shelf.qmtx", kLabel));
@@ -196,7 +196,7 @@ TEST(Import, SaysWhyAFileCannotBeRead)
 {
     const Folder folder;
     EXPECT_EQ(errorOf(QString()), QStringLiteral("No file was named."));
-    EXPECT_EQ(errorOf(folder.path("none.cnv")), QStringLiteral("There is no such file."));
+    EXPECT_EQ(errorOf(folder.path("none.cnv")), QStringLiteral("The file does not exist."));
     EXPECT_EQ(errorOf(folder.path("")), QStringLiteral("This is a folder, not a file."));
     EXPECT_EQ(errorOf(folder.write("empty.odg", "")), QStringLiteral("The file is empty."));
     EXPECT_EQ(errorOf(QStringLiteral("/dev/null")), QStringLiteral("This is not a regular file."));

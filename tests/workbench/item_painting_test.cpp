@@ -84,7 +84,7 @@ TEST(ShapePainting, EachShapeCoversWhatItsNameSays)
     }
 }
 
-TEST(ShapePainting, TheOutlineStandsHalfOnEitherSideOfTheEdge)
+TEST(ShapePainting, TheOutlineIsCenteredOnTheEdge)
 {
     Painted page;
     auto& item = putShape(page, KestTypes::Rectangle);
@@ -127,7 +127,7 @@ TEST(ShapePainting, AShapeWithoutASizeIsKeptAndDrawsNothing)
     }
 }
 
-TEST(ShapePainting, AnItemTurnsClockwiseAboutTheCentreOfItsBox)
+TEST(ShapePainting, AnItemRotatesClockwiseAboutTheCenterOfItsBox)
 {
     Painted page;
     auto& item = putShape(page, KestTypes::RightTriangle); // its right angle lower left
@@ -149,7 +149,7 @@ TEST(ShapePainting, TheAngleIsAbsoluteAndMayGoAllTheWayRound)
     }
 }
 
-TEST(ShapePainting, ATurnedItemThatGetsAnotherSizeTurnsAboutItsNewCentre)
+TEST(ShapePainting, ARotatedItemOfAnotherSizeRotatesAboutItsNewCenter)
 {
     Painted page;
     auto& item = putShape(page, KestTypes::Rectangle);
@@ -321,7 +321,7 @@ TEST(SymbolPainting, TheForegroundIsWhatTheDrawingLeavesOpen)
     EXPECT_EQ(page.at(35, 10), QColor(Qt::white));
 }
 
-TEST(SymbolPainting, TheBackgroundLiesBehindTheDrawing)
+TEST(SymbolPainting, TheBackgroundIsBehindTheDrawing)
 {
     Painted page;
     auto& item = page.make<SymbolItem>(KestTypes::Symbol);

@@ -118,7 +118,7 @@ void setEverything(Item& item)
 
 } // namespace
 
-TEST(ItemValues, WhatWasSetIsToldAgain)
+TEST(ItemValues, PropertiesAreReadBack)
 {
     Painted page;
     auto& item = page.make<FillableItem>(KestTypes::RoundedRectangle);
@@ -138,7 +138,7 @@ TEST(ItemValues, WhatWasSetIsToldAgain)
     EXPECT_FALSE(values.datasource);
 }
 
-TEST(ItemValues, TextsTellFontStyleContentAndSource)
+TEST(ItemValues, TextsHaveFontStyleContentAndSource)
 {
     Painted page;
     auto& item = page.make<SimpleTextItem>(KestTypes::SimpleText);
@@ -154,7 +154,7 @@ TEST(ItemValues, TextsTellFontStyleContentAndSource)
     EXPECT_EQ(*values.datasource, (workbench::DatasourceValues{4, {QStringLiteral("Value")}}));
 }
 
-TEST(ItemValues, ABarcodeTellsAllTenPropertiesAndItsColors)
+TEST(ItemValues, ABarcodeHasAllTenPropertiesAndItsColors)
 {
     Painted page;
     auto& item = page.make<BarcodeItem>(KestTypes::Barcode);
@@ -222,7 +222,7 @@ TEST(ItemValues, ARichTextKeepsItsDocument)
     EXPECT_EQ(other.image(), page.image());
 }
 
-TEST(ItemValues, TheShownRecordIsNoPartOfTheValues)
+TEST(ItemValues, TheShownRecordIsNotPartOfTheValues)
 {
     Painted page;
     auto& item = page.make<TextItem>(KestTypes::RichText);
@@ -281,7 +281,7 @@ TEST(ItemValues, PositionsThatNoLabelHasAreBounded)
     }
 }
 
-TEST(ItemValues, AStackingOrderThatIsNoNumberIsZero)
+TEST(ItemValues, AnInvalidStackingOrderIsZero)
 {
     Painted page;
     auto& item = page.make<QGraphicsItem>(KestTypes::Rectangle);
@@ -291,7 +291,7 @@ TEST(ItemValues, AStackingOrderThatIsNoNumberIsZero)
     EXPECT_EQ(item.zValue(), -12.5);
 }
 
-TEST(ItemValues, APenIsNoWiderThanTheLimit)
+TEST(ItemValues, APenIsNotWiderThanTheLimit)
 {
     Painted page;
     auto& item = page.make<LineItem>(KestTypes::Line);

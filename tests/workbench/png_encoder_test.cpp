@@ -151,7 +151,7 @@ TEST(PngEncoder, RefusesAPictureOfNothing)
     EXPECT_TRUE(buffer.data().isEmpty());
 }
 
-TEST(PngEncoder, TellsWhenTheDeviceIsFull)
+TEST(PngEncoder, ReportsAFullDevice)
 {
     const QImage image = pictureOf({300, 200}, 60000, 255);
     const qint64 needed = encoded(image).size();

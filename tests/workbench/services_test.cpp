@@ -72,7 +72,7 @@ TEST(CommonLists, InstalledFamiliesAreValidInTheirOwnSpelling)
     EXPECT_FALSE(CommonLists::isValidFamily(QString()));
 }
 
-TEST(CommonLists, FamiliesThatHaveAStandInAreValid)
+TEST(CommonLists, FamiliesWithASubstituteAreValid)
 {
     EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Arial")));
     EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Times New Roman")));
@@ -118,7 +118,7 @@ TEST(WhiteSpace, SplitsAtRunsOfAnyWhiteSpace)
                            QStringLiteral("kg")}));
 }
 
-TEST(TalMessageBox, ShowsItsTextAsItStands)
+TEST(TalMessageBox, ShowsItsTextUnchanged)
 {
     const auto box = makeBox();
     EXPECT_EQ(box->windowTitle(), QStringLiteral("Title"));
@@ -147,7 +147,7 @@ TEST(TalMessageBox, HasTheButtonsWithTheirCaptions)
     EXPECT_EQ(box.findChildren<QLabel*>().size(), 2);
 }
 
-TEST(TalMessageBox, TellsOnceThatItWasClosedAndMayThenBeDeleted)
+TEST(TalMessageBox, ReportsOnceThatItWasClosedAndMayThenBeDeleted)
 {
     for (const bool byButton : {true, false}) {
         auto box = makeBox();

@@ -99,7 +99,7 @@ TEST(TextSize, OfADocumentInDesktopPointsIsTheSameInScreenPixels)
     EXPECT_NEAR(inkOf(page.image(288.0)).height(), 24 * capHeight() * 4.0, 3.0);
 }
 
-TEST(RichText, StandsInItsBoxAsItsAlignmentSays)
+TEST(RichText, IsAlignedInItsBox)
 {
     for (const AlignmentRow& row : kAlignments) {
         SCOPED_TRACE(row.alignment.toInt());
@@ -162,7 +162,7 @@ TEST(RichText, ShrunkToItsTextIsPaintedOnAsManyLinesAsMeasured)
     EXPECT_EQ(page.ink().left(), 50);
 }
 
-TEST(RichText, OfADocumentKeepsTheWholeWidthForItsParagraphs)
+TEST(RichText, OfADocumentKeepsTheFullWidthForItsParagraphs)
 {
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
@@ -304,7 +304,7 @@ TEST(SimpleText, WithASizeHasIt)
     EXPECT_NEAR(inkOf(page.image(288.0)).height(), 12 * capHeight() * 4.0, 2.0);
 }
 
-TEST(SimpleText, ASizeOfNothingStillIsNoScaling)
+TEST(SimpleText, AnEmptySizeDoesNotScale)
 {
     Painted page;
     putLabel(page, kBlock, 0, 3, QSizeF(160.0, 80.0));
@@ -369,7 +369,7 @@ TEST(SimpleText, StyleFlagsAreBoldItalicUnderlined)
     EXPECT_FALSE(fontAfter(false, true, true).bold);
 }
 
-TEST(SimpleText, IsTurnedAboutTheCentreOfTheBoxThatItsTextMade)
+TEST(SimpleText, IsRotatedAboutTheCenterOfItsTextsBox)
 {
     Painted page;
     auto& item = putLabel(page, kBlock, 20);
@@ -383,7 +383,7 @@ TEST(SimpleText, IsTurnedAboutTheCentreOfTheBoxThatItsTextMade)
     EXPECT_NEAR(page.ink().center().x(), 60.0 + item.getItemWidth() / 2.0, 2.0);
 }
 
-TEST(TextGround, AFillAndAFrameLieBehindTheText)
+TEST(TextGround, AFillAndAFrameAreBehindTheText)
 {
     for (const auto type : {KestTypes::SimpleText, KestTypes::RichText}) {
         Painted page;

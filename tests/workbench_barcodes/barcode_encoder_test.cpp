@@ -136,7 +136,7 @@ TEST(BarcodeEncoder, ExplainsWhatCannotBeEncoded)
         {51, "1234567", "Pharmacode: the content has a length that this kind of barcode does not"},
         {16, "12345", "GS1-128: the content does not suit this kind of barcode ("},
         {130, "331234567890", "EAN Composite: the content needs a linear part, a \"|\" and"},
-        {5, "1", "The label asks for a kind of barcode that is not known (number 5)."},
+        {5, "1", "The label has an unknown kind of barcode (number 5)."},
         {-1, "1", "not known (number -1)."},
         {0x10008, "1", "not known"},
         {28, "0", "Flattermarken: the content gives no bars at all."},

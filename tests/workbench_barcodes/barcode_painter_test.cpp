@@ -134,7 +134,7 @@ TEST(BarcodePainter, SmoothsWhatIsTooSmallForWholePixels)
     EXPECT_NEAR(inked(image).width(), 80, 1) << "as wide as the box";
 }
 
-TEST(BarcodePainter, DrawsOnDevicesWithoutPixelsAsLaidOut)
+TEST(BarcodePainter, DrawsTheLayoutOnDevicesWithoutPixels)
 {
     QPicture picture;
     QPainter painter(&picture);

@@ -25,7 +25,7 @@ int create(::DatasourceController& controller, const QString& kind, const QStrin
 
 } // namespace
 
-TEST(DatasourceController, MakesEveryKindAnewEachTime)
+TEST(DatasourceController, CreatesANewSourceEachTime)
 {
     Controller controller;
     for (const QString& kind : {Sequence, System, TextList}) {

@@ -65,7 +65,7 @@ TEST(SequenceSource, CountsFromStartToEnd)
     }
 }
 
-TEST(SequenceSource, IsOneZeroUntilToldOtherwise)
+TEST(SequenceSource, IsOneZeroByDefault)
 {
     const SequenceSource source;
     EXPECT_EQ(source.recordCount(), 1);

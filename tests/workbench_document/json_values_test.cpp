@@ -46,7 +46,7 @@ TEST(JsonValues, TakeWholeNumbersInTheirRange)
     EXPECT_FALSE(reads<signed char>(128));
 }
 
-TEST(JsonValues, WriteWhatIsNoNumberAsZero)
+TEST(JsonValues, WriteInvalidNumbersAsZero)
 {
     EXPECT_EQ(Json<double>::write(std::numeric_limits<double>::quiet_NaN()), QJsonValue(0.0));
     EXPECT_EQ(Json<double>::write(std::numeric_limits<double>::infinity()), QJsonValue(0.0));

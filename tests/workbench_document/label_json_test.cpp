@@ -132,7 +132,7 @@ TEST(LabelJson, OpensAFileOfTheFirstVersion)
     EXPECT_FALSE(item.text.has_value());
 }
 
-TEST(LabelJson, SaysWhatIsNoLabelFile)
+TEST(LabelJson, ReportsFilesThatAreNotLabels)
 {
     for (const QByteArray& other : {QByteArray("{}"), QByteArray("[]"),
                                     QByteArray(R"({"format": "something", "version": 1})")})

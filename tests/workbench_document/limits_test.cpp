@@ -144,7 +144,7 @@ TEST(LabelLimits, CountThePixelsOfAllPictures)
               "The label file is damaged: its pictures are too large.");
 }
 
-TEST(LabelLimits, LetNoLabelBeSavedThatCouldNotBeOpened)
+TEST(LabelLimits, RefuseToSaveALabelThatCouldNotBeOpened)
 {
     SavedLabel label = sampleLabel();
     qint64 pixels = pixelsOf(label);

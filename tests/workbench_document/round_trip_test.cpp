@@ -87,7 +87,7 @@ TEST(RoundTrip, LooksTheSameAndSavesTheSameOnceItWasDrawn)
 }
 
 // Formats that the document inherits from the item's font must not become explicit formats.
-TEST(RoundTrip, LetsARichTextFollowItsFontAfterwards)
+TEST(RoundTrip, KeepsARichTextFollowingItsFont)
 {
     const auto textIn = [](const QString& family, int size) {
         SavedLabel label;

@@ -95,7 +95,7 @@ TEST_F(SymbolDatabaseTest, MakesStoredDrawingsSafe)
     EXPECT_FALSE(data.contains("secret"));
 }
 
-TEST_F(SymbolDatabaseTest, AnswersEmptyWithOneLineForWhatIsNoDatabase)
+TEST_F(SymbolDatabaseTest, IsEmptyAndLogsOneLineForAnInvalidDatabase)
 {
     const QByteArray half = [this] {
         QFile file(goodDatabase());

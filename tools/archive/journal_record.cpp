@@ -59,7 +59,7 @@ QByteArray nextLine(QIODevice& journal, qint64 longest)
 
 std::optional<JournalRecord> recordFromLine(const QByteArray& line)
 {
-    // Most of what a power cut leaves does not even begin as a record.
+    // Most incomplete lines of a power failure do not start as a record.
     if (!line.startsWith('{') || jsonlimits::isLargerThan(line, MaximumLineTree)) {
         return std::nullopt;
     }

@@ -175,7 +175,7 @@ double angleOf(const QRectF& box, const QPointF& point)
     return std::atan2(-from.y() * box.width(), from.x() * box.height()) * DegreesPerRadian;
 }
 
-// The corners of the ellipse's box, a point that the arc begins towards, one that it ends at.
+// The corners of the ellipse's box, then points in the directions of the arc's start and end.
 void Drawer::arc(bool startsAnew, bool isClockwise)
 {
     const QRectF box = QRectF(point(0), point(1)).normalized();

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 // What the reader accepts.
 constexpr qint64 PicturePixels = 32'000'000;
 
-// How the pictures begin that the reader understands.
+// First bytes of the pictures that the reader supports.
 constexpr QByteArrayView PictureStarts[] = {"\x89PNG", "\xff\xd8\xff", "GIF8", "BM"};
 
 bool isPicture(const QByteArray& bytes)

@@ -56,7 +56,7 @@ constexpr std::array<Reason, 5> Reasons{{
                                                  "%1: the content ends in a wrong check digit%2.")},
     {ZINT_ERROR_INVALID_OPTION,
      QT_TRANSLATE_NOOP("workbench::BarcodeEncoder",
-                       "%1: the content does not go together with the barcode's settings%2.")},
+                       "%1: the content does not fit the barcode's settings%2.")},
     {ZINT_ERROR_MEMORY, QT_TRANSLATE_NOOP("workbench::BarcodeEncoder",
                                           "%1: the content is too much for the memory%2.")},
 }};
@@ -274,7 +274,7 @@ BarcodeSymbol encode(const BarcodeRequest& request)
 {
     const Symbology* symbology = findSymbology(request.symbology);
     if (!symbology || !ZBarcode_ValidID(request.symbology)) {
-        return failure(Words::tr("The label asks for a kind of barcode that is not known"
+        return failure(Words::tr("The label has an unknown kind of barcode"
                                  " (number %1).")
                            .arg(request.symbology));
     }

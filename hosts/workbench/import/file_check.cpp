@@ -32,7 +32,7 @@ QString whyFileCannotBeRead(const QString& fileName)
         return Words::tr("The link points to a file that does not exist.");
     }
     if (!info.exists()) {
-        return Words::tr("There is no such file.");
+        return Words::tr("The file does not exist.");
     }
     if (info.isDir()) {
         return Words::tr("This is a folder, not a file.");

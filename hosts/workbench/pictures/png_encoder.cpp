@@ -51,7 +51,7 @@ QList<Text> textsOf(const QImage& image)
     return texts;
 }
 
-/// All that a picture's file holds, prepared before libpng runs: libpng leaves a failed function
+/// The content of a picture's file, prepared before libpng runs: libpng leaves a failed function
 /// by longjmp(), which destroys no objects.
 struct PngContent
 {

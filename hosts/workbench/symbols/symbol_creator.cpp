@@ -19,7 +19,7 @@ SymbolCreator::~SymbolCreator() = default;
 void SymbolCreator::loadImportedSvg(const QByteArray& svg)
 {
     d->svg = svg;
-    // A document that cannot be converted must not come out as the one before it.
+    // After a failed conversion the creator must not return the previous symbol.
     d->symbol.clear();
 }
 

@@ -21,7 +21,7 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(workbench::SymbolDatabase)
 };
 
-/// A view or a computed column could run for ever; a table proper has pages of its own.
+/// A view or a computed column could run forever; only tables have root pages.
 constexpr QLatin1String TableQuery("SELECT count(*) FROM sqlite_master"
                                    " WHERE type = 'table' AND name = 'symbols' AND rootpage > 0");
 constexpr QLatin1String ColumnsQuery("SELECT count(*) FROM pragma_table_xinfo('symbols')"
@@ -44,7 +44,7 @@ SymbolDatabase::SymbolDatabase(const QString& path)
     if (QFileInfo(path).isFile()) {
         open(path);
     } else {
-        fail(Words::tr("there is no such file"));
+        fail(Words::tr("the file does not exist"));
     }
 }
 

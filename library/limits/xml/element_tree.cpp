@@ -41,7 +41,7 @@ Node Node::nextSibling() const
     return {m_tree, m_tree->m_nodes[m_index].end, m_end};
 }
 
-// The node itself or the first behind it that is an element, of this name where one is given.
+// This node or the first following sibling that is an element, of this name if one is given.
 Element Node::nextElementFrom(Node node, QStringView tag) const
 {
     for (; !node.isNull(); node = node.nextSibling()) {

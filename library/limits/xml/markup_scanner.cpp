@@ -148,7 +148,7 @@ void Scanner::countNode(qint64 characters)
     m_estimate += m_costs.node + m_costs.character * characters;
 }
 
-// At a quotation mark: moves behind its partner and gives the length in between.
+// At a quotation mark: moves past the closing one and returns the length in between.
 qsizetype Scanner::skipQuoted()
 {
     const char quote[] = {m_text[m_at], '\0'};

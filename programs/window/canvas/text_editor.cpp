@@ -167,7 +167,7 @@ bool TextEditor::changeFormat(const QKeyEvent& event)
         format.setFontUnderline(!cursor.charFormat().fontUnderline());
     }
     if (!m_isRich) {
-        // What was inherited from the item must be in the document from now on.
+        // From now on, the document must contain the formats that it inherited from the item.
         QTextCursor all(document());
         all.select(QTextCursor::Document);
         QTextBlockFormat block;

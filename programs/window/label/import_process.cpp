@@ -108,7 +108,7 @@ void ImportProcess::end(const ImportedFiles& files)
 ImportedFiles ImportProcess::readReports()
 {
     if (!QFile::exists(reportName())) {
-        // The program could not begin; the last line of its messages says why.
+        // The program could not start; the last line of its messages has the reason.
         const QString messages = QString::fromLocal8Bit(m_process.readAllStandardError());
         const QString last = messages.trimmed().section(u'\n', -1);
         return {{}, last.isEmpty() ? tr("The import ended without a result.") : last};

@@ -108,7 +108,7 @@ TEST(SafePicture, TextsThatUnpackToGigabytesTakeNoMemory)
     EXPECT_LT(peakKilobytes() - before, 32 * 1024);
 }
 
-TEST(SafePicture, CutAnywhereIsNoMoreThanItWas)
+TEST(SafePicture, TruncatedAnywhereIsNotLarger)
 {
     const QByteArray whole = withChunks(encoded(checkered(), "PNG"), packedText(100));
     for (qsizetype size = 0; size < whole.size(); ++size) {

@@ -89,7 +89,7 @@ TEST(SvgLimits, HoldCoordinates)
     EXPECT_EQ(kept("<path", "<path d='M0 0L1000000001 0'/>"), 0);
 }
 
-TEST(SvgLimits, LetNoPictureUnpackItsTexts)
+TEST(SvgLimits, NeverUnpackTheTextsOfAPicture)
 {
     QByteArray chunk("zTXtkey\0\0", 9);
     chunk += qCompress(QByteArray(7'900'000, 'a')).mid(4);

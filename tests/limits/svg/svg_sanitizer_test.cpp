@@ -228,7 +228,7 @@ TEST(SvgSanitizer, DrawsOutlinesSolidWhereDashesWouldBeCountless)
                 Not(HasSubstr("stroke-dasharray")));
 }
 
-TEST(SvgSanitizer, RefusesWhatIsNoSvg)
+TEST(SvgSanitizer, RefusesDataThatIsNotSvg)
 {
     for (const QByteArray& text :
          {QByteArray(), QByteArray("text"), QByteArray("<html/>"), QByteArray("<svg"),

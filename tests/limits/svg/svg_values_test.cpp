@@ -34,7 +34,7 @@ TEST(SvgLength, KeepsPercentagesApart)
     EXPECT_DOUBLE_EQ(length->value, 50.0);
 }
 
-TEST(SvgLength, RefusesWhatIsNoLength)
+TEST(SvgLength, RefusesInvalidLengths)
 {
     for (const QStringView text :
          {u"", u"mm", u"auto", u"12 parsecs", u"1e999", u"nan", u"inf", u"1,5mm", u"%", u"10mm10"})

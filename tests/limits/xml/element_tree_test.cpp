@@ -44,7 +44,7 @@ TEST_F(ElementTreeTest, KeepsThePrefixesOfNames)
     EXPECT_EQ(element.attribute(u"o:a"), u"1"_s);
 }
 
-TEST_F(ElementTreeTest, TellsAnEmptyAttributeFromAMissingOne)
+TEST_F(ElementTreeTest, DistinguishesAnEmptyAttributeFromAMissingOne)
 {
     const Element element = root("<r a='' b='x'/>");
     EXPECT_TRUE(element.hasAttribute(u"a"));
@@ -127,7 +127,7 @@ TEST_F(ElementTreeTest, GathersTextInOrderAndLeavesTheRest)
     EXPECT_EQ(root("<a/>").text(), QString());
 }
 
-TEST_F(ElementTreeTest, IgnoresWhatStandsBesideTheRoot)
+TEST_F(ElementTreeTest, IgnoresContentOutsideTheRoot)
 {
     const Element element = root("<?xml version='1.0'?><!-- a --><?p?><r/><!-- b --><?q?>");
     EXPECT_EQ(element.tagName(), u"r"_s);

@@ -191,7 +191,7 @@ const QByteArrayList& documents()
     return all;
 }
 
-// So much before the interesting part that it lies beyond what the reader decodes at once.
+// Content before the interesting part that exceeds the block that the reader decodes at once.
 QByteArray farInside(const QByteArray& part, int padding)
 {
     return "<r>" + QByteArray("<b a='\xc3\xa9'>t</b>\n").repeated(padding) + part + "</r>";

@@ -137,7 +137,7 @@ TEST(XmlLimits, FindsNestingBehindOtherMarkup)
               QStringLiteral("Elements are nested deeper than 1000"));
 }
 
-TEST(XmlLimits, TellsThePlaceOfTheExcess)
+TEST(XmlLimits, ReportsThePositionOfTheExcess)
 {
     QByteArray xml = "<?xml version=\"1.0\"?>\n<a>\n";
     xml += QString::fromUtf8("äö").toUtf8() + QByteArray("<a>").repeated(1000);

@@ -101,7 +101,7 @@ TEST(ZipDirectory, ForgetsTheLastPackage)
     EXPECT_FALSE(directory.isPackage());
 }
 
-TEST(ZipDirectory, RefusesWhatIsNoZipFile)
+TEST(ZipDirectory, RefusesDataThatIsNotAZipFile)
 {
     EXPECT_TRUE(openingOf({}).startsWith(u"The file is not a zip package"_s));
     EXPECT_TRUE(openingOf("<xml/>").startsWith(u"The file is not a zip package"_s));
@@ -114,7 +114,7 @@ TEST(ZipDirectory, RefusesWhatIsNoZipFile)
     EXPECT_FALSE(directory.isPackage());
 }
 
-TEST(ZipDirectory, TellsADamagedPackageFromNone)
+TEST(ZipDirectory, DistinguishesADamagedPackageFromOtherData)
 {
     QByteArray zip = packed();
     zip[entryIn(zip)] = 'X';
@@ -176,7 +176,7 @@ TEST(ZipDirectory, RefusesMembersThatAreTooLarge)
                     .startsWith(u"The package's member a.xml is too large: 4294967280"_s));
 }
 
-TEST(ZipDirectory, RefusesDataThatLiesOutsideTheFile)
+TEST(ZipDirectory, RefusesDataOutsideTheFile)
 {
     const QByteArray zip = packed();
     const qsizetype entry = entryIn(zip);

@@ -295,7 +295,7 @@ TEST(CanvasWriter, RepeatsOptionAndFontSizeWhenTheyAreNotSetApart)
     EXPECT_EQ(bytes.right(7), QByteArray::fromHex("010101 00000032"));
 }
 
-TEST(CanvasWriter, StartsAFileWithAllThatStandsBeforeTheItems)
+TEST(CanvasWriter, StartsAFileWithAllRecordsBeforeTheItems)
 {
     for (quint32 version = oldest; version <= newest; ++version) {
         CanvasWriter parts(version);

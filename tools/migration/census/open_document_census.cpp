@@ -92,7 +92,7 @@ QString unitOf(const Styles& styles)
     return styles.layouts.isEmpty() ? QString() : styles.layouts.first().width.right(2);
 }
 
-/// What the body says of the document as a whole.
+/// Properties of the complete document in its body.
 struct Body
 {
     QString masterPage;
@@ -116,7 +116,7 @@ QString readContent(const QByteArray& xml, Styles& styles, Census& census, Body&
     return error;
 }
 
-// Texts begin with the master page of this name, unless their first paragraph says another.
+// Texts begin with the master page of this name, unless their first paragraph names another.
 const MasterPage* usedMasterPage(const Styles& styles, const QString& name)
 {
     const QString wanted = name.isEmpty() ? u"Standard"_s : name;

@@ -162,7 +162,7 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
     const QString name = valueOf(attributes, "style:name"_L1);
     const QString parent = valueOf(attributes, "style:parent-style-name"_L1);
     if (isTextFamily(family)) {
-        // A parent that comes later is none.
+        // A parent must precede its styles.
         Style style = textStyle(parent);
         if (!m_texts.contains(parent)) {
             style.font.clear();

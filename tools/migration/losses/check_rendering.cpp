@@ -73,7 +73,7 @@ Candidates candidatesOf(const Matching& matching, const LabelFacts& label)
     }
     for (const Pair& pair : matching.texts) {
         const ItemFacts& item = label.items.at(pair.item);
-        // Several colors cannot be judged by one.
+        // The contrast with several colors is not defined.
         const bool isKnown = item.textColor.isValid() && pair.isExact;
         const bool hasOtherColor =
             isKnown && item.textColor.rgb() != documentColor(*pair.appearance).rgb();

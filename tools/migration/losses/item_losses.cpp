@@ -137,7 +137,7 @@ void lookAtLooks(const workbench::CanvasItem& item, const ItemValues& values, It
     }
 }
 
-// An empty rectangle lies inside when its corner does.
+// An empty rectangle is inside if its corner is.
 bool touches(const QRectF& page, const QRectF& box)
 {
     return box.right() >= page.left() && box.left() <= page.right() && box.bottom() >= page.top() &&

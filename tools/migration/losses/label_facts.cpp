@@ -29,7 +29,7 @@ constexpr qint64 MaximumPreview = 1024 * 1024;
 constexpr qint64 MaximumPreviewPixels = 1'000'000;
 // Longest content of an item that a report takes over.
 constexpr qsizetype ContentLength = 2'000;
-// What a source's property with the name of a file is called.
+// The name of a source's property that contains a file name.
 constexpr QLatin1String FileProperty("File");
 
 double toMillimeters(double points)
@@ -117,7 +117,7 @@ QByteArray smallPng(const QImage& picture)
     return png;
 }
 
-// Behind the version of a binary label is a number, and its picture unless that is 0.
+// The version of a binary label is followed by a number, and by its picture unless that is 0.
 QByteArray pictureIn(const QByteArray& file, ReaderKind reader)
 {
     constexpr qsizetype binaryHead = 12;

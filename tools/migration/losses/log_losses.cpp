@@ -18,7 +18,7 @@ enum class About : quint8 {
     Nothing, ///< counted by other means, or for developers
     Object,  ///< one object that is missing on the label
     Part,    ///< a part of a package; logged once, however many objects show it
-    Label,   ///< the label as a whole
+    Label,   ///< the complete label
 };
 
 // What readers log, by code.
@@ -52,7 +52,7 @@ constexpr Row LogRows[] = {
     {refusals::PackageDrawingUnreadable, About::Part, LossKind::DrawingUnreadable},
 };
 
-// What the message box of the binary reader says.
+// The text of the binary reader's message box.
 constexpr Row BoxRows[] = {
     {messages::SymbolsUnreadable.text, About::Part, LossKind::SymbolUnreadable,
      ObjectClass::Symbol},
