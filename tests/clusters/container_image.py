@@ -45,6 +45,14 @@ def contents(folder):
             if path.suffix in (".png", ".label")}
 
 
+def refuse_missing_packages(build, folder):
+    """Without LabelPort's packages, nothing is downloaded or written."""
+    done = subprocess.run([build, folder, f"{folder}/image.tar"], check=False, capture_output=True,
+                          text=True)
+    expect(done.returncode == 1 and "there is no package" in done.stderr
+           and not os.listdir(folder), f"without packages: {done.returncode}\n{done.stderr}")
+
+
 def labels_for_nobody(folder, samples):
     """A folder of labels to which the image's user can write."""
     shutil.copytree(samples / "tavrel", folder / "archive")
@@ -113,6 +121,8 @@ def main():
     with tempfile.TemporaryDirectory(dir="/var/tmp") as work:
         pathlib.Path(work).chmod(0o755)
         folders = {name: pathlib.Path(work, name) for name in ("import", "job", "whole", "part")}
+        with tempfile.TemporaryDirectory() as empty:
+            refuse_missing_packages(build, empty)
         image = pathlib.Path(work, "labelport.tar")
         done = subprocess.run([build, packages, str(image)], check=False, capture_output=True,
                               text=True)
