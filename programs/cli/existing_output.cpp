@@ -3,9 +3,11 @@
 #include "archive/publish.h"
 #include "console/file_name.h"
 #include "exporting/export_file.h"
+#include "exporting/glabels_export.h"
 #include "workbench/document/label_file.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -18,6 +20,9 @@ struct Words
 {
     Q_DECLARE_TR_FUNCTIONS(cli::ExistingOutput)
 };
+
+/// Longest records that are compared, in bytes.
+constexpr qint64 LargestRecords = 256 * 1024 * 1024;
 
 /// The marks of our outputs are near their beginnings: metadata in a picture before the pixels, a
 /// description in a drawing, the producer in a document, the format in a report.
@@ -49,6 +54,16 @@ bool isOurPrinterFile(const QByteArray& head)
     return head.startsWith("^XA^FX" + QByteArray(exporting::SoftwareMark) + "^FS");
 }
 
+/// Records next to a label for gLabels, which has their checksum. Edited records are not ours.
+bool areOurRecords(const QString& fileName)
+{
+    constexpr qsizetype suffixLength = 4;
+    const console::ReachablePath reachable(fileName);
+    QFile file(reachable.path());
+    return file.open(QIODevice::ReadOnly) && file.size() <= LargestRecords &&
+           exporting::areRecordsOf(headOf(fileName.chopped(suffixLength)), file.readAll());
+}
+
 bool isOurReport(const QByteArray& head)
 {
     return head.contains("\"labelport-report\"") ||
@@ -67,9 +82,13 @@ bool isOurOutput(const QString& fileName)
         const console::ReachablePath reachable(fileName);
         return workbench::document::isUneditedImport(reachable.path());
     }
+    if (suffix == "csv"_L1) {
+        return areOurRecords(fileName);
+    }
     const QByteArray head = headOf(fileName);
     // The content decides: --output may give any name.
-    return isOurPicture(head) || isOurDrawingOrDocument(head) || isOurPrinterFile(head);
+    return isOurPicture(head) || isOurDrawingOrDocument(head) || isOurPrinterFile(head) ||
+           exporting::isUneditedGlabels(head);
 }
 
 QString reportNameProblem(const QString& fileName)

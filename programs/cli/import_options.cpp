@@ -200,6 +200,11 @@ void checkOutput(OptionReader& given, const ImportOptions& options)
                                   "--%1 prints on standard output, as --output - does."),
                 {"json"_L1, "print0"_L1});
     }
+    if (writesToStandardOutput(options) && options.targets.contains(Target::Glabels)) {
+        given.fail(QCoreApplication::translate(
+            "cli::ImportOptions",
+            "--output - cannot be used with --to glabels, which may write a second file."));
+    }
     const bool isOneFile = options.files.size() == 1 &&
                            console::kindOf(options.files.constFirst()) != console::FileKind::Folder;
     if (options.output.isEmpty() || !isOneFile || options.targets.size() > 1) {

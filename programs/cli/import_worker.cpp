@@ -40,6 +40,17 @@ QString nameOfPage(const QString& output, const QString& mark, int page)
                                                QString::number(page) + u'.' + info.suffix()));
 }
 
+QList<migration::ExportReport> exportReports(const QList<exporting::ExportFinding>& findings)
+{
+    QList<migration::ExportReport> reports;
+    for (const exporting::ExportFinding& finding : findings) {
+        reports.append({exporting::nameOf(exporting::Target::Glabels),
+                        exporting::nameOf(finding.fidelity), finding.kind, finding.text,
+                        finding.count});
+    }
+    return reports;
+}
+
 /// One file: its label, and those of its further pages.
 class FileImport
 {
@@ -63,7 +74,9 @@ public:
             pages = label.pageCount;
         }
         const bool isComplete = importFurtherPages(pages);
-        m_result.report = migration::toJson(m_report.finish(isComplete));
+        migration::FileReport report = m_report.finish(isComplete);
+        report.exports = exportReports(m_exports.all());
+        m_result.report = migration::toJson(report);
         return m_result;
     }
 
@@ -121,6 +134,7 @@ private:
                     page == 1 ? output.path : nameOfPage(output.path, m_job.pageMark, page);
                 Written written = writer.write(*target, path);
                 m_result.files += written.files;
+                m_exports.add(written.findings);
                 m_result.errors +=
                     written.error.isEmpty() ? QStringList() : QStringList{written.error};
             }
@@ -131,6 +145,7 @@ private:
     JobOptions m_options;
     LabelInput m_input;
     WorkerReport m_report;
+    exporting::ExportFindings m_exports;
     archive::Heartbeat m_heartbeat;
     archive::FileResult m_result;
 };

@@ -45,6 +45,13 @@ exporting::OptionValues exportOptions(const JobOptions& options)
             {exporting::ZplNativeOption, options.zplNative}};
 }
 
+archive::StagedFile stagedFile(const QString& staged, const QString& output)
+{
+    archive::FileStamp stamp = archive::stampOf(staged).value_or(archive::FileStamp{});
+    stamp.path = output;
+    return {staged, stamp};
+}
+
 } // namespace
 
 RecordSelection selectRecords(const OpenedLabel& label, const RecordRange& range)
@@ -82,6 +89,9 @@ LabelWriter::LabelWriter(OpenedLabel& label, WriteOptions options, const QString
 
 Written LabelWriter::write(exporting::Target target, const QString& output)
 {
+    if (target == exporting::Target::Glabels) {
+        return writeGlabels(output);
+    }
     const exporting::RecordFiles files = exporting::entryOf(target).records;
     if (files == exporting::RecordFiles::Always) {
         return writeFile(output, [&](const QString& file) {
@@ -112,9 +122,7 @@ Written LabelWriter::writeFile(const QString& output, const Write& write)
         return {{}, error.replace(path, output)};
     }
     const QString staged = QDir(m_staging).filePath(name);
-    archive::FileStamp stamp = archive::stampOf(staged).value_or(archive::FileStamp{});
-    stamp.path = output;
-    return {{{staged, stamp}}, {}};
+    return {{stagedFile(staged, output)}, {}};
 }
 
 Written LabelWriter::writeRecords(exporting::Target target, const QString& output, qint64 first,
@@ -130,6 +138,31 @@ Written LabelWriter::writeRecords(exporting::Target target, const QString& outpu
                                       exportOptions(m_options.job), beforeRecord},
                                      file);
     });
+}
+
+Written LabelWriter::writeGlabels(const QString& output)
+{
+    exporting::ExportFindings findings;
+    Written written = writeFile(output, [&](const QString& file) {
+        return exporting::exportFile(exporting::Target::Glabels,
+                                     {*m_label.canvas, *m_label.datasources, 0, 1, titleOf(output),
+                                      exportOptions(m_options.job),
+                                      [this](qint64) {
+                                          m_heartbeat();
+                                          return true;
+                                      },
+                                      output, &findings},
+                                     file);
+    });
+    written.findings = findings;
+    const QString staged = written.files.isEmpty() ? QString() : written.files.first().staged;
+    const QString records = exporting::recordsFileOf(exporting::Target::Glabels, staged);
+    if (!staged.isEmpty() && console::kindOf(records) == console::FileKind::File) {
+        // Before the label: whether existing records are ours depends on the label next to them.
+        written.files.prepend(
+            stagedFile(records, exporting::recordsFileOf(exporting::Target::Glabels, output)));
+    }
+    return written;
 }
 
 Written LabelWriter::writeSeries(exporting::Target target, const QString& output, qint64 first,

@@ -4,6 +4,7 @@
 #include "archive/worker_loop.h"
 #include "cli/job_options.h"
 #include "console/file_name.h"
+#include "exporting/export_findings.h"
 #include "exporting/targets.h"
 
 #include <QList>
@@ -36,8 +37,9 @@ struct WriteOptions
 /// The result of writing one output.
 struct Written
 {
-    QList<archive::StagedFile> files; ///< in the order in which they were written
-    QString error;                    ///< why not all files were written; else empty
+    QList<archive::StagedFile> files;        ///< in the order in which they were written
+    QString error;                           ///< why not all files were written; else empty
+    exporting::ExportFindings findings = {}; ///< of a format that cannot express everything
 };
 
 /// Writes a label to a staging folder, one target after the other.
@@ -60,6 +62,7 @@ private:
     [[nodiscard]] Written writeFile(const QString& output, const Write& write);
     [[nodiscard]] Written writeRecords(exporting::Target target, const QString& output,
                                        qint64 first, qint64 count, const QString& title);
+    [[nodiscard]] Written writeGlabels(const QString& output);
     [[nodiscard]] Written writeSeries(exporting::Target target, const QString& output, qint64 first,
                                       qint64 count);
 

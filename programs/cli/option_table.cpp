@@ -62,9 +62,9 @@ constexpr Option AsWrittenOption{
 constexpr std::array ImportOptions{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "targets"),
            QT_TRANSLATE_NOOP("cli::Options",
-                             "What to write: png, svg, pdf, zpl, csv, label; several with commas "
-                             "(default: png)."),
-           Completion::WordList, "png svg pdf zpl csv label", true},
+                             "What to write: png, svg, pdf, zpl, csv, label, glabels; several with "
+                             "commas (default: png)."),
+           Completion::WordList, "png svg pdf zpl csv label glabels", true},
     Option{"output", QT_TRANSLATE_NOOP("cli::Options", "file"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "File to write the only input to; - is standard output. Without --to, "

@@ -12,7 +12,9 @@ protected:
     [[nodiscard]] bool check(const QString& staged, const QString& output)
     {
         result.files = {{staged, {output, 1, 1}}};
-        return archive::checkFiles(result, folder.path(u"slot"_s), {u"out/asset.png"_s});
+        return archive::checkFiles(
+            result, folder.path(u"slot"_s),
+            {{u"png"_s, u"out/asset.png"_s}, {u"glabels"_s, u"out/asset.glabels"_s}});
     }
 
     TestFolder folder;
@@ -32,6 +34,15 @@ TEST_F(CheckedResult, PassesTheRecordsOfASeries)
 {
     EXPECT_TRUE(check(good, u"out/asset-0007.png"_s));
     EXPECT_TRUE(check(good, u"out/asset-123456.png"_s));
+}
+
+TEST_F(CheckedResult, PassesTheTableOfRecordsOfALabelForGlabels)
+{
+    EXPECT_TRUE(check(good, u"out/asset.glabels.csv"_s));
+    EXPECT_TRUE(check(good, u"out/asset-2.glabels.csv"_s));
+    EXPECT_FALSE(check(good, u"out/asset.png.csv"_s));
+    EXPECT_FALSE(check(good, u"out/other.glabels.csv"_s));
+    EXPECT_FALSE(check(good, u"out/asset.glabels.csv.csv"_s));
 }
 
 TEST_F(CheckedResult, RefusesOtherOutputs)

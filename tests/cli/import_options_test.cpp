@@ -82,7 +82,7 @@ TEST(ImportOptions, RefuseAnUnknownTarget)
     EXPECT_TRUE(
         refusal("a.odg --to bmp")
             .startsWith(
-                u"Unknown target \"bmp\". Supported targets: png, svg, pdf, zpl, csv, label."_s));
+                u"Unknown target \"bmp\". Supported targets: png, svg, pdf, zpl, csv, label, glabels."_s));
     EXPECT_TRUE(refusal("a.odg --to png,").startsWith(u"Unknown target \"\"."_s));
 }
 

@@ -61,6 +61,24 @@ def kubernetes(text, folder, programs):
     return True
 
 
+def glabels(text, folder, programs, samples):
+    (folder / "archive").mkdir()
+    shutil.copy(samples / "orvanta" / "asset_tag.qmtx", folder / "archive")
+    shutil.copy(samples / "opendocument" / "sample_vial.odg", folder / "archive")
+    run(block(text, "A folder to gLabels", "sh"), folder, programs)
+    sheets = folder / "sheets"
+    with open(sheets / "asset_tag.glabels.csv", encoding="utf-8", newline="") as file:
+        labels = len(list(csv.reader(file))) - 1
+    facts = subprocess.run(["pdfinfo", sheets / "asset_tag.pdf"], check=True, capture_output=True,
+                           text=True).stdout
+    pages = int(re.search(r"Pages: +(\d+)", facts).group(1))
+    expect(labels > 14 and pages == -(-labels // 14), f"glabels: {labels} labels, {pages} pages")
+    expect("A4" in re.search(r"Page size: .*", facts).group(0), "glabels: the paper")
+    expect((sheets / "sample_vial.pdf").is_file(), "glabels: a label without records")
+    expect(not (sheets / "sample_vial.glabels.csv").exists(), "glabels: a table without records")
+    return f"{labels} labels on {pages} sheets"
+
+
 def records(text, folder, programs, samples):
     (folder / "archive").mkdir()
     shutil.copy(samples / "orvanta" / "asset_tag.qmtx", folder / "archive")
@@ -163,7 +181,7 @@ def main():
                 if (folder / report).read_bytes() != (whole / report).read_bytes():
                     sys.exit(f"{recipe.__name__}: {report} is not that of one import")
             print(f"{recipe.__name__}: {len(contents(folder))} files, and the report of one import")
-        for recipe in (records, printer, nightly, documents):
+        for recipe in (glabels, records, printer, nightly, documents):
             folder = pathlib.Path(work, recipe.__name__)
             folder.mkdir()
             print(f"{recipe.__name__}: {recipe(text, folder, programs, samples)}")

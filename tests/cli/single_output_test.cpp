@@ -90,7 +90,7 @@ TEST_F(SingleOutput, IsRefusedWhereItMakesNoSense)
           "import vial.odg -o x.png --resume", "import vial.odg -o x.png --shard 1/2",
           "import --files-from list -o x.png", "import vial.odg -o - --json",
           "import vial.odg -o - --print0", "import vial.odg --json --print0",
-          "import vial.odg --output="}) {
+          "import vial.odg --to glabels -o -", "import vial.odg --output="}) {
         SCOPED_TRACE(line);
         const Outcome outcome = labelport(words(line));
         EXPECT_EQ(outcome.status, 2);
@@ -108,6 +108,36 @@ TEST_F(SingleOutput, IsALabelForAPrinter)
     EXPECT_EQ(outcome.bytes.count("^PQ2^XZ"), 3);
     ASSERT_EQ(labelport(words("import tag.qmtx --to zpl")).status, 0);
     EXPECT_EQ(labelport(words("import tag.qmtx --to zpl")).status, 0) << "replaces its own";
+}
+
+TEST_F(SingleOutput, IsALabelForGlabelsWithItsRecords)
+{
+    const Outcome outcome =
+        labelport(words("import tag.qmtx --to glabels -o new/t.xml --report r.json"));
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    EXPECT_TRUE(read(u"r.json"_s).contains(R"("fidelity":"exact","kind":"barcode")"));
+    EXPECT_EQ(outcome.out, u"new/t.xml.csv\nnew/t.xml\n"_s);
+    EXPECT_TRUE(read(u"new/t.xml"_s).contains("src=\"t.xml.csv\""));
+    EXPECT_GT(read(u"new/t.xml.csv"_s).count('\n'), 2);
+    EXPECT_EQ(labelport(words("import tag.qmtx --to glabels -o new/t.xml")).status, 0)
+        << "replaces its own";
+
+    write(u"new/t.xml.csv"_s, read(u"new/t.xml.csv"_s) + "mine\r\n");
+    const Outcome edited = labelport(words("import tag.qmtx --to glabels -o new/t.xml"));
+    EXPECT_EQ(edited.status, 1);
+    EXPECT_TRUE(edited.err.contains(u"t.xml.csv"_s)) << qPrintable(edited.err);
+    EXPECT_TRUE(read(u"new/t.xml.csv"_s).endsWith("mine\r\n"));
+}
+
+TEST_F(SingleOutput, IsALabelForGlabelsOnASheet)
+{
+    const Outcome outcome = labelport(words("import vial.odg --to glabels --sheet A4"));
+    EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
+    EXPECT_EQ(outcome.out, u"vial.glabels\n"_s);
+    EXPECT_TRUE(read(u"vial.glabels"_s).contains("part=\"A4\""));
+    const Outcome misfit = labelport(words("import vial.odg --to glabels --sheet L7651"));
+    EXPECT_EQ(misfit.status, 1);
+    EXPECT_FALSE(misfit.err.isEmpty());
 }
 
 TEST_F(SingleOutput, RecordsAreListedAsCsv)

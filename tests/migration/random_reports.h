@@ -79,6 +79,9 @@ template <class Value, class Make>
     report.preview = QByteArray("preview");
     report.thumbnail = text().toUtf8();
     report.outputs = randomList<QString>(random, text);
+    report.exports = randomList<ExportReport>(random, [&] {
+        return ExportReport{text(), text(), text(), text(), number()};
+    });
     report.sandbox = random() % 2 == 0 ? QStringList() : QStringList{QStringLiteral("files")};
     report.itemList = randomList<ItemReport>(random, [&] {
         return ItemReport{text(), length(), length(), length(), length(), text(), number()};

@@ -170,6 +170,7 @@ TEST_F(ReportWriting, NothingFromAFileBecomesMarkup)
     report.datasources = {{1, evil, {evil}, evil}};
     report.issues = {{evil, 0, 1}};
     report.outputs = {evil};
+    report.exports = {{evil, evil, evil, evil, 1}};
     report.items = {{evil, 1}};
     report.complete = {{evil, 1}};
     ASSERT_EQ(write(path("r.html"), {report}, evil), QString());
@@ -178,6 +179,24 @@ TEST_F(ReportWriting, NothingFromAFileBecomesMarkup)
     EXPECT_EQ(html.count("</script>"), 1);
     EXPECT_FALSE(html.contains("<img src=x"));
     EXPECT_FALSE(html.contains("\" onload"));
+}
+
+TEST_F(ReportWriting, ThePageListsWhatBecameOfItemsInGlabels)
+{
+    FileReport report = named(QStringLiteral("a"));
+    report.exports = {
+        {QStringLiteral("glabels"), QStringLiteral("exact"), QStringLiteral("line"), {}, 2},
+        {QStringLiteral("glabels"), QStringLiteral("picture"), QStringLiteral("pie"),
+         QStringLiteral("No such shape."), 1},
+        {QStringLiteral("glabels"), QStringLiteral("simplified"), QStringLiteral("label"),
+         QStringLiteral("Only a part."), 1}};
+    ASSERT_EQ(write(path("r.html"), {report}), QString());
+    const QByteArray html = contentOf(path("r.html"));
+    for (const char* line :
+         {"<bdi>Line: exact</bdi> <b>×2</b>", "<bdi>Pie: became a picture. No such shape.</bdi>",
+          "<bdi>Label: simplified. Only a part.</bdi>"}) {
+        EXPECT_TRUE(html.contains(line)) << line;
+    }
 }
 
 TEST_F(ReportWriting, ThePageNeedsNothingFromElsewhere)

@@ -212,7 +212,7 @@ TEST_F(OutputTest, TheDialogOffersEveryTargetWithItsOptions)
     for (const exporting::TargetEntry& entry : exporting::targets()) {
         SCOPED_TRACE(entry.name);
         dialog.setTarget(entry.target);
-        if (entry.records == exporting::RecordFiles::Always) {
+        if (entry.target == exporting::Target::Label) {
             EXPECT_NE(dialog.order().target, entry.target) << "labels are saved, not exported";
             continue;
         }
@@ -237,6 +237,22 @@ TEST_F(OutputTest, TheDialogOffersEveryTargetWithItsOptions)
             EXPECT_EQ(value(), other) << option.name;
         }
     }
+}
+
+TEST_F(OutputTest, ALabelForGlabelsHasAllRecordsInATable)
+{
+    ExportDialog dialog(path(QStringLiteral("shelf")), 5, 0, nullptr);
+    dialog.setTarget(exporting::Target::Glabels);
+    EXPECT_FALSE(dialog.findChild<RecordChooser*>()->isEnabled());
+    dialog.setTarget(exporting::Target::Pdf);
+    EXPECT_TRUE(dialog.findChild<RecordChooser*>()->isEnabled());
+
+    const OutputReport report =
+        writeOutput(label, orderOf(exporting::Target::Glabels, QStringLiteral("a.glabels")), goOn);
+    EXPECT_EQ(report.error, QString());
+    EXPECT_EQ(report.files, 1);
+    EXPECT_TRUE(contentOf(QStringLiteral("a.glabels")).contains("src=\"a.glabels.csv\""));
+    EXPECT_GT(contentOf(QStringLiteral("a.glabels.csv")).count('\n'), 2);
 }
 
 TEST_F(OutputTest, TheDialogShowsOnlyTheOptionsOfItsTarget)

@@ -33,6 +33,15 @@ bool isPlanned(const QString& path, const QString& planned)
     });
 }
 
+/// A label for gLabels may have a table of records next to it: "asset.glabels.csv".
+bool isPlanned(const QString& path, const PlannedFile& planned)
+{
+    constexpr QLatin1String tableSuffix(".csv");
+    const bool isTable = planned.target == "glabels"_L1 && path.endsWith(tableSuffix);
+    return isPlanned(path, planned.path) ||
+           (isTable && isPlanned(path.chopped(tableSuffix.size()), planned.path));
+}
+
 } // namespace
 
 bool isFileIn(const QString& folder, const QString& path)
@@ -45,13 +54,13 @@ bool isFileIn(const QString& folder, const QString& path)
            status.type() == std::filesystem::file_type::regular;
 }
 
-bool checkFiles(FileResult& result, const QString& staging, const QStringList& outputs)
+bool checkFiles(FileResult& result, const QString& staging, const QList<PlannedFile>& outputs)
 {
     for (StagedFile& file : result.files) {
         const QString path = file.output.path;
         const bool isExpected =
             std::any_of(outputs.begin(), outputs.end(),
-                        [&](const QString& planned) { return isPlanned(path, planned); });
+                        [&](const PlannedFile& planned) { return isPlanned(path, planned); });
         const std::optional<FileStamp> stamp =
             isExpected && isFileIn(staging, file.staged) ? stampOf(file.staged) : std::nullopt;
         if (!stamp) {

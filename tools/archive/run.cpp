@@ -144,6 +144,15 @@ QString Run::outputPath(qsizetype index, const QString& target) const
                                            : m_settings.outputFile;
 }
 
+QList<PlannedFile> Run::plannedFiles(qsizetype index) const
+{
+    QList<PlannedFile> files;
+    for (const QString& target : m_settings.targets) {
+        files.append({target, outputPath(index, target)});
+    }
+    return files;
+}
+
 QString Run::inOutputFolder(const QString& path) const
 {
     return QDir::cleanPath(QDir(m_settings.outputFolder).filePath(path));
@@ -187,9 +196,7 @@ QByteArray Run::lineFor(qsizetype task, int slot)
          ++entry) {
         job.options.insert(entry.key(), entry.value());
     }
-    for (const QString& target : m_settings.targets) {
-        job.outputs.append({target, outputPath(task, target)});
-    }
+    job.outputs = plannedFiles(task);
     job.pageMark = m_names.pageMark(task);
     return archive::lineOf(job);
 }
@@ -198,11 +205,7 @@ qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
 {
     std::optional<FileResult> result = resultFromLine(line);
     const Work work = m_work.value(task);
-    QStringList outputs;
-    for (const QString& target : m_settings.targets) {
-        outputs.append(outputPath(task, target));
-    }
-    if (!result || !checkFiles(*result, work.staging, outputs)) {
+    if (!result || !checkFiles(*result, work.staging, plannedFiles(task))) {
         taskFailed(task, {WorkerEnd::Garbled, 0});
         return 0;
     }

@@ -111,6 +111,7 @@ private:
     [[nodiscard]] QStringList plannedOutputs(qsizetype index) const;
     [[nodiscard]] QString fingerprint(qsizetype index) const;
     [[nodiscard]] QString outputPath(qsizetype index, const QString& target) const;
+    [[nodiscard]] QList<PlannedFile> plannedFiles(qsizetype index) const;
     [[nodiscard]] QString inOutputFolder(const QString& path) const;
     [[nodiscard]] bool isDoneAlready(qsizetype index);
     [[nodiscard]] JournalRecord recordFor(qsizetype index, const FileResult& result);

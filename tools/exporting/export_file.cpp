@@ -1,5 +1,6 @@
 #include "exporting/export_file.h"
 
+#include "exporting/glabels_export.h"
 #include "exporting/records_csv.h"
 #include "exporting/zpl.h"
 #include "printing/print_document.h"
@@ -71,6 +72,8 @@ QString exportFile(Target target, const ExportJob& job, const QString& fileName)
         return writeZpl(job, fileName);
     case Target::Csv:
         return writeRecordsCsv(job, fileName);
+    case Target::Glabels:
+        return writeGlabels(job, fileName);
     case Target::Label:
         break;
     }

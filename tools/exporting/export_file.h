@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exporting/export_findings.h"
 #include "exporting/targets.h"
 
 #include <QString>
@@ -29,10 +30,16 @@ struct ExportJob
     QString title; ///< of drawings and documents
     OptionValues options;
     BeforeRecord beforeRecord;
+    /// The final name of the file, by which a label for gLabels finds its records; empty: that of
+    /// the written file.
+    QString finalName = {};
+    /// Filled by targets that cannot express all items; may be null.
+    ExportFindings* findings = nullptr;
 };
 
-/// Writes one file. It is replaced completely or, on failure or if stopped, not at all. Afterwards
-/// the canvas shows the last written record. Not for Target::Label.
+/// Writes one file, and its table of records if it has one: see recordsFileOf(). It is replaced
+/// completely or, on failure or if stopped, not at all. Afterwards the canvas shows the last
+/// written record. Not for Target::Label.
 /// @return the error for the user; empty on success, and if stopped
 [[nodiscard]] QString exportFile(Target target, const ExportJob& job, const QString& fileName);
 

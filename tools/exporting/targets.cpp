@@ -32,13 +32,17 @@ constexpr TargetOption Copies{CopiesOption.data(),
                               {},
                               1};
 
+constexpr TargetOption Sheets{
+    .name = SheetOption.data(),
+    .kind = OptionKind::Name,
+    .label = QT_TRANSLATE_NOOP("exporting::Targets", "&Sheet"),
+    .description = QT_TRANSLATE_NOOP("exporting::Targets", "sheet of labels, or paper"),
+    .names = &printing::sheetNames};
+
+constexpr std::array GlabelsOptions{Sheets};
+
 constexpr std::array DocumentOptions{
-    TargetOption{.name = SheetOption.data(),
-                 .kind = OptionKind::Name,
-                 .label = QT_TRANSLATE_NOOP("exporting::Targets", "&Sheet"),
-                 .description =
-                     QT_TRANSLATE_NOOP("exporting::Targets", "sheet of labels, or paper"),
-                 .names = &printing::sheetNames},
+    Sheets,
     TargetOption{FirstPositionOption.data(),
                  OptionKind::Number,
                  QT_TRANSLATE_NOOP("exporting::Targets", "First &label"),
@@ -106,6 +110,12 @@ constexpr std::array Targets{
                 QT_TRANSLATE_NOOP("exporting::Targets", "saved label, to open and edit again"),
                 RecordFiles::Always,
                 {}},
+    TargetEntry{Target::Glabels, "glabels",
+                QT_TRANSLATE_NOOP("exporting::Targets", "gLabels label"),
+                QT_TRANSLATE_NOOP("exporting::Targets", "gLabels labels"),
+                QT_TRANSLATE_NOOP("exporting::Targets",
+                                  "label for gLabels, with its records in a CSV file"),
+                RecordFiles::Always, GlabelsOptions},
 };
 
 } // namespace
@@ -177,6 +187,11 @@ QStringList targetNames()
 QString translated(const char* text)
 {
     return QCoreApplication::translate("exporting::Targets", text);
+}
+
+QString recordsFileOf(Target target, const QString& fileName)
+{
+    return target == Target::Glabels ? fileName + QLatin1String(".csv") : QString();
 }
 
 int valueOf(const OptionValues& values, Target target, QLatin1String name)

@@ -12,12 +12,13 @@ namespace exporting {
 
 /// A format to write.
 enum class Target : quint8 {
-    Png,   ///< a picture
-    Svg,   ///< a vector drawing
-    Pdf,   ///< a document with one page for each record
-    Zpl,   ///< commands for a label printer
-    Csv,   ///< what bound items show, record by record
-    Label, ///< the workbench's own format, for editing
+    Png,     ///< a picture
+    Svg,     ///< a vector drawing
+    Pdf,     ///< a document with one page for each record
+    Zpl,     ///< commands for a label printer
+    Csv,     ///< what bound items show, record by record
+    Label,   ///< the workbench's own format, for editing
+    Glabels, ///< a label for gLabels, with its records in a CSV file
 };
 
 /// How the files of a target contain the records of a label.
@@ -78,6 +79,10 @@ struct TargetEntry
 
 /// A text of the table in the language of the user.
 [[nodiscard]] QString translated(const char* text);
+
+/// The table of records that is written next to a file of a target, if its label has any:
+/// "asset.glabels.csv". Empty if the target has no such table.
+[[nodiscard]] QString recordsFileOf(Target target, const QString& fileName);
 
 /// The values of options, by name: integers, true for a switch, a text for a name.
 using OptionValues = QJsonObject;

@@ -102,7 +102,7 @@ ExportDialog::ExportDialog(const QString& suggestedName, qint64 recordCount, qin
     setWindowTitle(tr("Export Label"));
     for (const TargetEntry& entry : exporting::targets()) {
         // Labels are saved, not exported.
-        if (entry.records != exporting::RecordFiles::Always) {
+        if (entry.target != exporting::Target::Label) {
             m_target->addItem(exporting::translated(entry.title), static_cast<int>(entry.target));
         }
     }
@@ -239,6 +239,7 @@ void ExportDialog::followTarget()
             label->setVisible(isShown);
         }
     }
+    m_records->setEnabled(entry.records != exporting::RecordFiles::Always);
     followInput();
 }
 
@@ -246,7 +247,9 @@ void ExportDialog::followInput()
 {
     const OutputOrder wanted = order();
     m_export->setEnabled(!wanted.fileName.isEmpty());
-    if (wanted.records.count > 1 && writesOneFile(wanted)) {
+    if (exporting::entryOf(wanted.target).records == exporting::RecordFiles::Always) {
+        m_note->setText(tr("One file. The records are in a table next to it."));
+    } else if (wanted.records.count > 1 && writesOneFile(wanted)) {
         m_note->setText(tr("One file of %1 records.").arg(wanted.records.count));
     } else if (wanted.records.count > 1 && !wanted.fileName.isEmpty()) {
         m_note->setText(tr("%1 files: %2 and so on.")
@@ -284,7 +287,9 @@ bool ExportDialog::mayReplaceExisting()
             return askReplace(QFileInfo(fileName).fileName());
         }
     }
-    return true;
+    const QString records = exporting::recordsFileOf(wanted.target, wanted.fileName);
+    return records.isEmpty() || !QFileInfo::exists(records) ||
+           askReplace(QFileInfo(records).fileName());
 }
 
 bool ExportDialog::askReplace(const QString& fileName)

@@ -94,6 +94,17 @@ struct ItemReport
     bool operator==(const ItemReport&) const = default;
 };
 
+/// What became of the items of one kind in the format of another program.
+struct ExportReport
+{
+    QString target;   ///< "glabels"
+    QString fidelity; ///< "exact", "picture" or "simplified"
+    QString kind;     ///< as in KindCount; "label" for the label itself
+    QString text;     ///< the reason, for the user; empty if exact
+    qint64 count = 1;
+    bool operator==(const ExportReport&) const = default;
+};
+
 /// The page of a label.
 struct PageReport
 {
@@ -134,6 +145,8 @@ struct FileReport
     QByteArray thumbnail; ///< PNG, at most 160 pixels a side; may be empty
     QByteArray preview;   ///< the document's own small picture, in the same way
     QStringList outputs;  ///< files that were written
+    /// What became of the items in outputs that cannot express all of them.
+    QList<ExportReport> exports;
     /// What the process that read the file was confined to: codes of sandbox/confinement.h.
     QStringList sandbox;
     QList<ItemReport> itemList; ///< all items one by one; empty in reports of archives

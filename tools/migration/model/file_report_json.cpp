@@ -148,6 +148,15 @@ void describe(auto& field, ValuesOf<ItemReport> auto& item)
     field("datasource", item.datasource);
 }
 
+void describe(auto& field, ValuesOf<ExportReport> auto& exported)
+{
+    field("target", exported.target);
+    field("fidelity", exported.fidelity);
+    field("kind", exported.kind);
+    field("text", exported.text);
+    field("count", exported.count);
+}
+
 void describe(auto& field, ValuesOf<FileReport> auto& report)
 {
     field("file", report.file);
@@ -167,6 +176,7 @@ void describe(auto& field, ValuesOf<FileReport> auto& report)
     field("thumbnail", report.thumbnail);
     field("preview", report.preview);
     field("outputs", report.outputs);
+    field("exports", report.exports);
     field("sandbox", report.sandbox);
     field("itemList", report.itemList);
 }

@@ -137,6 +137,18 @@ QString sourceWords(const SourceReport& source)
     return source.file.isEmpty() ? words : words + u" ("_s + source.file + u')';
 }
 
+QString exportWords(const ExportReport& exported)
+{
+    const QString kind =
+        exported.kind == "label"_L1 ? tr("Label") : workbench::shapeTitle(exported.kind);
+    if (exported.fidelity == "exact"_L1) {
+        return tr("%1: exact").arg(kind);
+    }
+    return (exported.fidelity == "picture"_L1 ? tr("%1: became a picture. %2")
+                                              : tr("%1: simplified. %2"))
+        .arg(kind, exported.text);
+}
+
 // Relative to the page, so that page and files can be moved together. Empty if there is no such
 // file.
 QString linkTo(const QString& fileName, const QString& folder)
@@ -178,11 +190,16 @@ TemplateList moreOf(const FileReport& report, const QString& folder)
     for (const QString& output : report.outputs) {
         outputs.append({output, 1, linkTo(output, folder)});
     }
+    QList<Entry> exported;
+    for (const ExportReport& each : report.exports) {
+        exported.append({exportWords(each), each.count});
+    }
     TemplateList more;
     addEntries(more, tr("Imported completely"), imported);
     addEntries(more, tr("Data sources"), sources);
     addEntries(more, tr("Warnings"), issues);
     addEntries(more, tr("Written files"), outputs);
+    addEntries(more, tr("In gLabels"), exported);
     return more;
 }
 
