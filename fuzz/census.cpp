@@ -36,8 +36,8 @@ void fuzzOneInput(const QByteArray& input)
         qFatal("a part of a file holds more than the whole");
     }
     // Truncated XML or JSON is damaged.
-    const bool knowsItsEnd = format == Format::Orvanta || format == Format::SavedLabel;
-    if (knowsItsEnd && whole.unknown.isEmpty() && part.unknown.isEmpty() &&
+    const bool hasEndMark = format == Format::Orvanta || format == Format::SavedLabel;
+    if (hasEndMark && whole.unknown.isEmpty() && part.unknown.isEmpty() &&
         part.objects.size() != whole.objects.size()) {
         qFatal("a document that is cut off within its objects is taken for whole");
     }

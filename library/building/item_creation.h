@@ -14,22 +14,22 @@
 namespace building {
 
 /// The item as one of its classes or facets; null, and the item deleted, if it has no such base.
-template <typename Wanted>
-[[nodiscard]] std::unique_ptr<Wanted> itemAs(std::unique_ptr<Item> item)
+template <typename Target>
+[[nodiscard]] std::unique_ptr<Target> itemAs(std::unique_ptr<Item> item)
 {
-    auto* const wanted = dynamic_cast<Wanted*>(item.get());
-    if (wanted != nullptr) {
+    auto* const target = dynamic_cast<Target*>(item.get());
+    if (target != nullptr) {
         static_cast<void>(item.release());
     }
-    return std::unique_ptr<Wanted>(wanted);
+    return std::unique_ptr<Target>(target);
 }
 
 /// Creates an item, owned by the caller.
 /// @return null without a factory, and if the factory creates nothing or an item of another class
-template <typename Wanted>
-[[nodiscard]] std::unique_ptr<Wanted> createItem(ClassFactory* factory, KestTypes::ShapeType type)
+template <typename Target>
+[[nodiscard]] std::unique_ptr<Target> createItem(ClassFactory* factory, KestTypes::ShapeType type)
 {
-    return factory != nullptr ? itemAs<Wanted>(std::unique_ptr<Item>(factory->create(type)))
+    return factory != nullptr ? itemAs<Target>(std::unique_ptr<Item>(factory->create(type)))
                               : nullptr;
 }
 

@@ -95,11 +95,11 @@ void applyFill(FillableItem& shape, OOGraphicStyle& style)
 
 } // namespace
 
-template <class Wanted>
-NewItem<Wanted> makeItem(ClassFactory* factory, KestTypes::ShapeType type)
+template <class Target>
+NewItem<Target> makeItem(ClassFactory* factory, KestTypes::ShapeType type)
 {
-    auto created = building::createItem<Wanted>(factory, type);
-    NewItem<Wanted> made;
+    auto created = building::createItem<Target>(factory, type);
+    NewItem<Target> made;
     made.item = created.get();
     made.owned = std::move(created);
     if (made.item == nullptr) {

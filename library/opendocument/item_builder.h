@@ -20,19 +20,19 @@ class TalCanvasModel;
 namespace opendocument {
 
 /// A new item, by its owner and by its class. Owned by the reader until the canvas takes it.
-template <class Wanted>
+template <class Target>
 struct NewItem
 {
     std::unique_ptr<Item> owned;
-    Wanted* item = nullptr; ///< the same item; null if there is none
+    Target* item = nullptr; ///< the same item; null if there is none
 
     explicit operator bool() const { return item != nullptr; }
-    Wanted* operator->() const { return item; }
+    Target* operator->() const { return item; }
 };
 
 /// Creates an item. Empty, and logged, if the factory returns no item of the class.
-template <class Wanted>
-[[nodiscard]] NewItem<Wanted> makeItem(ClassFactory* factory, KestTypes::ShapeType type);
+template <class Target>
+[[nodiscard]] NewItem<Target> makeItem(ClassFactory* factory, KestTypes::ShapeType type);
 
 /// Adds an item to the canvas, which then owns it.
 /// @return whether the item still exists; false, and logged, if the canvas

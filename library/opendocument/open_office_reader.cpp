@@ -114,7 +114,7 @@ bool OpenOfficeReader::importLabelFromFile(const QString& fileName)
 
     const xmllimits::Element stylesRoot = styles.documentElement();
     const xmllimits::Element contentRoot = content.documentElement();
-    forgetTooManyStyles();
+    dropTooManyStyles();
     importPageLayout(stylesRoot);
     readDefaultStyles(stylesRoot.firstChildElement(u"office:styles"_s));
     readStyles(stylesRoot.firstChildElement(u"office:styles"_s));
@@ -165,7 +165,7 @@ QByteArray OpenOfficeReader::readMember(const QString& name, qint64 largest)
     return m_zipReader->fileData(name);
 }
 
-void OpenOfficeReader::forgetTooManyStyles()
+void OpenOfficeReader::dropTooManyStyles()
 {
     if (memoryOf(m_textStyles) + memoryOf(m_graphicStyles) <= limits::CarriedStylesBytes) {
         return;

@@ -64,7 +64,7 @@ private:
     [[nodiscard]] QByteArray readMember(const QString& name, qint64 largest);
 
     // Page and styles.
-    void forgetTooManyStyles();
+    void dropTooManyStyles();
     void importPageLayout(const xmllimits::Element& stylesRoot);
     void readDefaultStyles(const xmllimits::Element& officeStyles);
     void readStyles(const xmllimits::Element& container);

@@ -27,7 +27,7 @@ struct CutPng
     QByteArray bytes;        ///< signature and kept chunks
     qint64 packedPixels = 0; ///< bytes of pixel data
     bool isPng = false;
-    bool isWhole = false;
+    bool isComplete = false;
 };
 
 struct Chunk
@@ -70,17 +70,17 @@ CutPng cutPng(QDataStream& stream, bool keepBytes)
     CutPng png;
     png.isPng = takeSignature(stream);
     png.bytes = PngSignature.toByteArray();
-    while (png.isPng && !png.isWhole && bytesLeft(stream) > 0) {
+    while (png.isPng && !png.isComplete && bytesLeft(stream) > 0) {
         const Chunk chunk = readChunkStart(stream);
         const qint64 rest = chunk.length + PngChecksumSize;
         if (rest > bytesLeft(stream)) {
             skipBytes(stream, bytesLeft(stream));
         } else if (keepBytes && isPixelChunk(chunk.type)) {
             appendChunk(png, chunk, stream.device()->read(rest));
-            png.isWhole = chunk.type == PngEndType;
+            png.isComplete = chunk.type == PngEndType;
         } else {
             skipBytes(stream, rest);
-            png.isWhole = chunk.type == PngEndType;
+            png.isComplete = chunk.type == PngEndType;
         }
     }
     return png;
@@ -121,7 +121,7 @@ StreamPicture readPicture(QDataStream& stream, qint64& pixelsLeft)
     }
     const CutPng png = cutPng(stream, true);
     const auto header = pngHeader(png.bytes);
-    if (png.isWhole && header && isAffordable(*header, png.packedPixels, pixelsLeft)) {
+    if (png.isComplete && header && isAffordable(*header, png.packedPixels, pixelsLeft)) {
         pixelsLeft -= header->pixels();
         picture.image = decode(png.bytes);
     }

@@ -26,7 +26,7 @@ bool harmsContent(const migration::Finding& finding)
 }
 
 // The loss of the most objects; lost objects before changed ones.
-const migration::Finding* gravest(const migration::FileReport& report)
+const migration::Finding* mostSevere(const migration::FileReport& report)
 {
     const migration::Finding* found = nullptr;
     for (const QList<migration::Finding>* list : {&report.lost, &report.changed}) {
@@ -63,7 +63,7 @@ void LossSummary::add(const migration::FileReport& report)
             label.problems += harmsContent(finding) ? finding.count : 0;
         }
     }
-    const migration::Finding* const loss = gravest(report);
+    const migration::Finding* const loss = mostSevere(report);
     label.text = report.file + u": "_s + migration::countSentence(report) +
                  (loss != nullptr ? u' ' + loss->text : QString());
     m_worst.insert(std::upper_bound(m_worst.begin(), m_worst.end(), label, isWorse), label);

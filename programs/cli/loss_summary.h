@@ -31,7 +31,7 @@ public:
     [[nodiscard]] bool isComplete() const;
     /// "Labels imported completely: 3, with changes: 1, with losses: 2, failed: 0."
     [[nodiscard]] QString counts() const;
-    /// The labels with losses, the worst first, with the gravest loss of each.
+    /// The labels with losses, the worst first, with the most severe loss of each.
     [[nodiscard]] QStringList worst() const;
     /// How to get the rest; empty if every label was imported completely.
     /// @param reports the reports that were written

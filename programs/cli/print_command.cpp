@@ -134,11 +134,11 @@ private:
                 .first();
         m_documents = documentsOf(result);
         // A worker that a hostile label controls must not choose what is printed.
-        const bool areOurs = std::all_of(m_documents.cbegin(), m_documents.cend(),
-                                         [&](const printing::PrintDocument& document) {
-                                             return archive::isFileIn(job.staging, document.file);
-                                         });
-        return reportErrors({}, result) && areOurs;
+        const bool areOwnOutputs = std::all_of(
+            m_documents.cbegin(), m_documents.cend(), [&](const printing::PrintDocument& document) {
+                return archive::isFileIn(job.staging, document.file);
+            });
+        return reportErrors({}, result) && areOwnOutputs;
     }
 
     /// Prints the errors of a result. True if there are none.

@@ -28,10 +28,10 @@ QList<PrintLabel> labelsOf(const archive::Job& job)
 }
 
 /// Opens labels one at a time, and shows their records.
-class LabelReel
+class LabelLoader
 {
 public:
-    explicit LabelReel(const archive::Heartbeat& heartbeat)
+    explicit LabelLoader(const archive::Heartbeat& heartbeat)
         : m_heartbeat(heartbeat)
     {}
 
@@ -61,10 +61,10 @@ private:
 };
 
 /// The user-visible reason why a label cannot be printed; empty if it can.
-QString addLabel(printing::PrintBatch& batch, LabelReel& reel, const PrintLabel& label,
+QString addLabel(printing::PrintBatch& batch, LabelLoader& loader, const PrintLabel& label,
                  const RecordRange& range)
 {
-    const OpenedLabel& opened = reel.open(label);
+    const OpenedLabel& opened = loader.open(label);
     if (!opened.isOpen()) {
         return opened.error;
     }
@@ -72,8 +72,8 @@ QString addLabel(printing::PrintBatch& batch, LabelReel& reel, const PrintLabel&
     if (!records.error.isEmpty()) {
         return records.error;
     }
-    const auto show = [&reel, label, first = records.first](qint64 number) {
-        return reel.show(label, first + number);
+    const auto show = [&loader, label, first = records.first](qint64 number) {
+        return loader.show(label, first + number);
     };
     return batch.add({label.shownName, opened.canvas->page().size, records.count, show});
 }
@@ -126,11 +126,11 @@ archive::FileResult writePrintDocuments(const archive::Job& job,
         return printing::sheetOfName(options.sheet, label);
     };
     archive::FileResult result;
-    LabelReel reel(heartbeat);
+    LabelLoader loader(heartbeat);
     printing::PrintBatch batch(sheetFor,
                                {{}, options.firstPosition, options.copies, options.cropMarks});
     for (const PrintLabel& label : labelsOf(job)) {
-        const QString error = addLabel(batch, reel, label, options.records);
+        const QString error = addLabel(batch, loader, label, options.records);
         if (!error.isEmpty()) {
             result.errors.append(u"%1: %2"_s.arg(label.shownName, error));
         }

@@ -32,8 +32,8 @@ WindowPicture::WindowPicture(QWidget& window, const QString& fileName)
 
 bool WindowPicture::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Paint && !m_isAsked) {
-        m_isAsked = true;
+    if (event->type() == QEvent::Paint && !m_isRequested) {
+        m_isRequested = true;
         // After the paint event and the updates that it has scheduled.
         QTimer::singleShot(0, this, [this] { QTimer::singleShot(0, this, &WindowPicture::take); });
     }

@@ -25,7 +25,7 @@ private:
 
     QWidget& m_window;
     QString m_fileName;
-    bool m_isAsked = false;
+    bool m_isRequested = false;
 };
 
 } // namespace window

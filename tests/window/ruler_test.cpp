@@ -27,7 +27,7 @@ QList<RulerTick> labeled(const QList<RulerTick>& ticks)
 {
     QList<RulerTick> result;
     std::copy_if(ticks.begin(), ticks.end(), std::back_inserter(result),
-                 [](const RulerTick& tick) { return tick.rank == TickRank::Labelled; });
+                 [](const RulerTick& tick) { return tick.rank == TickRank::Labeled; });
     return result;
 }
 

@@ -374,12 +374,12 @@ TEST(SimpleText, IsRotatedAboutTheCenterOfItsTextsBox)
     Painted page;
     auto& item = putLabel(page, kBlock, 20);
     item.setPos(60.0, 40.0);
-    const QPointF centre = item.sceneBoundingRect().center();
+    const QPointF center = item.sceneBoundingRect().center();
     item.setItemRotation(90.0);
     item.setText(kBlock + kBlock);
     item.setItemRotation(0.0);
     item.setItemRotation(180.0);
-    EXPECT_NEAR(item.sceneBoundingRect().center().y(), centre.y(), 1.0);
+    EXPECT_NEAR(item.sceneBoundingRect().center().y(), center.y(), 1.0);
     EXPECT_NEAR(page.ink().center().x(), 60.0 + item.getItemWidth() / 2.0, 2.0);
 }
 

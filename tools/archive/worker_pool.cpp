@@ -103,8 +103,9 @@ void WorkerPool::noteAnswer(std::size_t slot, const QByteArray& line)
     const qsizetype task = *m_slots[slot].task;
     m_slots[slot].task.reset();
     const qint64 memory = m_client.taskAnswered(task, line);
-    const bool isWorn = m_slots[slot].worker->served() >= MaximumServed || memory >= MaximumMemory;
-    if (isWorn && !m_isStopping) {
+    const bool needsReplacement =
+        m_slots[slot].worker->served() >= MaximumServed || memory >= MaximumMemory;
+    if (needsReplacement && !m_isStopping) {
         recycle(slot);
     }
     feedAll();

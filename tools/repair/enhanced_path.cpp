@@ -36,8 +36,8 @@ private:
     [[nodiscard]] bool readNumbers(const QStringList& parts, qsizetype& at, int count);
     void run(QChar command);
     void runState(QChar command);
-    void ellipse(bool startsAnew);
-    void arc(bool startsAnew, bool isClockwise);
+    void ellipse(bool startsSubpath);
+    void arc(bool startsSubpath, bool isClockwise);
     void arcByAngles();
     void quadrant(bool startsAlongX);
     [[nodiscard]] QPointF point(int index) const
@@ -149,7 +149,7 @@ void Drawer::runState(QChar command)
 }
 
 // Center, radii, start angle, end angle; in degrees, clockwise.
-void Drawer::ellipse(bool startsAnew)
+void Drawer::ellipse(bool startsSubpath)
 {
     const QSizeF radii(m_numbers[2], m_numbers[3]);
     const QRectF box(m_numbers[0] - radii.width(), m_numbers[1] - radii.height(),
@@ -160,11 +160,11 @@ void Drawer::ellipse(bool startsAnew)
         sweep += 360.0;
     }
     QPainterPath& path = m_outlines.back().path;
-    if (startsAnew) {
+    if (startsSubpath) {
         path.arcMoveTo(box, -start);
     }
     path.arcTo(box, -start, -sweep);
-    if (startsAnew && sweep == 360.0) {
+    if (startsSubpath && sweep == 360.0) {
         path.closeSubpath();
     }
 }
@@ -176,7 +176,7 @@ double angleOf(const QRectF& box, const QPointF& point)
 }
 
 // The corners of the ellipse's box, then points in the directions of the arc's start and end.
-void Drawer::arc(bool startsAnew, bool isClockwise)
+void Drawer::arc(bool startsSubpath, bool isClockwise)
 {
     const QRectF box = QRectF(point(0), point(1)).normalized();
     const double start = angleOf(box, point(2));
@@ -187,7 +187,7 @@ void Drawer::arc(bool startsAnew, bool isClockwise)
         sweep += 360.0;
     }
     QPainterPath& path = m_outlines.back().path;
-    if (startsAnew) {
+    if (startsSubpath) {
         path.arcMoveTo(box, start);
     }
     path.arcTo(box, start, sweep);

@@ -61,7 +61,7 @@ constexpr std::array<Reason, 5> Reasons{{
                                           "%1: the content is too much for the memory%2.")},
 }};
 
-[[nodiscard]] QString reasonWords(int code)
+[[nodiscard]] QString reasonText(int code)
 {
     const auto found = std::find_if(Reasons.begin(), Reasons.end(),
                                     [code](const Reason& each) { return each.code == code; });
@@ -82,7 +82,7 @@ constexpr std::array<Reason, 5> Reasons{{
 [[nodiscard]] QString explanation(const zint_symbol& symbol, int code, const QString& name)
 {
     const QString why = detail(symbol);
-    return reasonWords(code).arg(name, why.isEmpty() ? QString() : u" (%1)"_s.arg(why));
+    return reasonText(code).arg(name, why.isEmpty() ? QString() : u" (%1)"_s.arg(why));
 }
 
 // --- input ------------------------------------------------------------------------------

@@ -27,7 +27,7 @@ constexpr double LeastSnapped = 2.0;
     return font;
 }
 
-[[nodiscard]] double wantedPixelSize(const QFont& font)
+[[nodiscard]] double targetPixelSize(const QFont& font)
 {
     if (font.pixelSize() > 0) {
         return font.pixelSize();
@@ -41,7 +41,7 @@ void layOutCaption(BarcodeLayout& layout, const QString& caption, const QRectF& 
     const QFontMetricsF metrics(measuringFont(style));
     const double width = std::max(1.0, metrics.horizontalAdvance(caption)) / MeasuringSize;
     const double height = metrics.height() / MeasuringSize;
-    layout.captionPixelSize = std::min({wantedPixelSize(style.font), box.width() / width,
+    layout.captionPixelSize = std::min({targetPixelSize(style.font), box.width() / width,
                                         box.height() * MaximumCaptionShare / height});
     const double line = layout.captionPixelSize * height;
     layout.caption = QRectF(box.left(), box.bottom() - line, box.width(), line);
@@ -191,7 +191,7 @@ void paintCaption(QPainter& painter, const BarcodeLayout& layout, const BarcodeS
                                       const BarcodeStyle& style)
 {
     const QFontMetricsF metrics(measuringFont(style));
-    double size = std::min(wantedPixelSize(style.font), box.height() * 0.5);
+    double size = std::min(targetPixelSize(style.font), box.height() * 0.5);
     for (int attempt = 0; attempt < 20; ++attempt, size *= 0.85) {
         const double scale = MeasuringSize / size;
         const QRectF needed =

@@ -56,7 +56,7 @@ constexpr std::array Rows{
     Row{refusals::PackageDrawingUnreadable, WORDS("Left out a drawing that cannot be converted.")},
 };
 // %1 is a text, %2 a size in points.
-constexpr const char* StretchedWords = WORDS("Text \"%1\" was stretched; its font size was %2 pt.");
+constexpr const char* StretchedText = WORDS("Text \"%1\" was stretched; its font size was %2 pt.");
 #undef WORDS
 
 QString translated(const char* words)
@@ -196,7 +196,7 @@ void BoxReader::addNote(const QString& text, const QString& points)
     if (!m_finder) {
         m_finder.emplace(m_canvas);
     }
-    m_issues.add({.text = translated(StretchedWords).arg(text, points),
+    m_issues.add({.text = translated(StretchedText).arg(text, points),
                   .item = m_finder->itemWithText(text),
                   .code = QString::fromLatin1(messages::TextStretched.text)});
 }

@@ -177,12 +177,12 @@ protected:
     {
         this->prepareGeometryChange();
         m_box.size = size;
-        centreRotation();
+        centerRotation();
         this->update();
     }
 
     /// Items rotate about the current center of their box.
-    void centreRotation() { this->setTransformOriginPoint(contentRect().center()); }
+    void centerRotation() { this->setTransformOriginPoint(contentRect().center()); }
 
     [[nodiscard]] const BoxValues& boxValues() const { return m_box; }
 

@@ -14,19 +14,19 @@ namespace workbench {
 
 namespace {
 
-struct StandIn
+struct Substitute
 {
     QLatin1String family;
-    QLatin1String standIn;
+    QLatin1String substitute;
 };
 
-constexpr std::array StandIns{
-    StandIn{QLatin1String("Arial"), QLatin1String("Liberation Sans")},
-    StandIn{QLatin1String("Helvetica"), QLatin1String("Liberation Sans")},
-    StandIn{QLatin1String("Times New Roman"), QLatin1String("Liberation Serif")},
-    StandIn{QLatin1String("Times"), QLatin1String("Liberation Serif")},
-    StandIn{QLatin1String("Courier New"), QLatin1String("Liberation Mono")},
-    StandIn{QLatin1String("Courier"), QLatin1String("Liberation Mono")},
+constexpr std::array Substitutes{
+    Substitute{QLatin1String("Arial"), QLatin1String("Liberation Sans")},
+    Substitute{QLatin1String("Helvetica"), QLatin1String("Liberation Sans")},
+    Substitute{QLatin1String("Times New Roman"), QLatin1String("Liberation Serif")},
+    Substitute{QLatin1String("Times"), QLatin1String("Liberation Serif")},
+    Substitute{QLatin1String("Courier New"), QLatin1String("Liberation Mono")},
+    Substitute{QLatin1String("Courier"), QLatin1String("Liberation Mono")},
 };
 
 // Of the numbered names that documents know; a replacement must exist before a text is laid out.
@@ -58,11 +58,11 @@ QString fallbackFamily()
     return family;
 }
 
-QString standInFamily(const QString& family)
+QString substituteFamily(const QString& family)
 {
-    for (const StandIn& row : StandIns) {
+    for (const Substitute& row : Substitutes) {
         if (row.family == family) {
-            return row.standIn;
+            return row.substitute;
         }
     }
     return {};
@@ -71,20 +71,20 @@ QString standInFamily(const QString& family)
 QStringList familiesFor(const QString& family)
 {
     const QString plain = withoutNumber(family);
-    QStringList families{family, standInFamily(family), plain, standInFamily(plain),
+    QStringList families{family, substituteFamily(family), plain, substituteFamily(plain),
                          fallbackFamily()};
     families.removeAll(QString());
     return families;
 }
 
-void installStandIns()
+void installSubstitutes()
 {
     static const bool installed = [] {
-        for (const StandIn& row : StandIns) {
-            QFont::insertSubstitution(row.family, row.standIn);
+        for (const Substitute& row : Substitutes) {
+            QFont::insertSubstitution(row.family, row.substitute);
             for (int number = 1; number <= LargestNumber; ++number) {
-                QFont::insertSubstitution(row.family + QString::number(number), row.standIn);
-                QFont::insertSubstitution(row.standIn + QString::number(number), row.standIn);
+                QFont::insertSubstitution(row.family + QString::number(number), row.substitute);
+                QFont::insertSubstitution(row.substitute + QString::number(number), row.substitute);
             }
         }
         QFont::insertSubstitution(FallbackFontFamily, fallbackFamily());

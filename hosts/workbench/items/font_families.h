@@ -13,12 +13,12 @@ namespace workbench {
 ///
 /// Labels name fonts of other systems. Free families of equal widths replace them
 /// without changing the layout.
-[[nodiscard]] QString standInFamily(const QString& family);
+[[nodiscard]] QString substituteFamily(const QString& family);
 
 /// The family itself, then its replacements, in the order in which they are tried.
 [[nodiscard]] QStringList familiesFor(const QString& family);
 
 /// Registers the replacements for documents. Only the first call has an effect.
-void installStandIns();
+void installSubstitutes();
 
 } // namespace workbench

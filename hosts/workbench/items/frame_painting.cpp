@@ -10,10 +10,10 @@ QTransform flipTransform(const QRectF& box, const BoxValues& values)
     if (!values.flipHorizontal && !values.flipVertical) {
         return {};
     }
-    const QPointF centre = box.center();
-    QTransform transform = QTransform::fromTranslate(centre.x(), centre.y());
+    const QPointF center = box.center();
+    QTransform transform = QTransform::fromTranslate(center.x(), center.y());
     transform.scale(values.flipHorizontal ? -1.0 : 1.0, values.flipVertical ? -1.0 : 1.0);
-    return transform.translate(-centre.x(), -centre.y());
+    return transform.translate(-center.x(), -center.y());
 }
 
 void prepareContentPainter(QPainter& painter, const QRectF& box, const BoxValues& values)

@@ -44,7 +44,7 @@ void boundStretch(QTextDocument& document, const Stretch& stretch)
 LabelDocument::LabelDocument(QObject* parent)
     : QTextDocument(parent)
 {
-    installStandIns();
+    installSubstitutes();
     setDocumentMargin(0.0);
     setUseDesignMetrics(true);
     setUndoRedoEnabled(false);
@@ -81,11 +81,11 @@ void boundFontSizes(QTextDocument& document)
 // A placeholder font that no text uses replaces the item's.
 QString documentHtml(const QTextDocument& document)
 {
-    QFont nobody(u"-"_s);
-    nobody.setPixelSize(1);
-    nobody.setWeight(QFont::Weight(1));
+    QFont placeholder(u"-"_s);
+    placeholder.setPixelSize(1);
+    placeholder.setWeight(QFont::Weight(1));
     const std::unique_ptr<QTextDocument> copy(document.clone());
-    copy->setDefaultFont(nobody);
+    copy->setDefaultFont(placeholder);
     static const QRegularExpression bodyStyle(u"<body style=\"[^\"]*\""_s);
     // The page of a parsed document has its own border, of width 0.
     return copy->toHtml()

@@ -12,7 +12,7 @@ bool CommonLists::isValidFamily(QString family)
         return false;
     }
     const QStringList families = QFontDatabase::families();
-    return families.contains(family) || families.contains(workbench::standInFamily(family));
+    return families.contains(family) || families.contains(workbench::substituteFamily(family));
 }
 
 bool CommonLists::isValidBarcode1D(unsigned short code)

@@ -61,7 +61,7 @@ public:
 private:
     [[nodiscard]] bool readRoot();
     [[nodiscard]] bool isWithinLimits() const;
-    [[nodiscard]] bool isWanted() const;
+    [[nodiscard]] bool isAllowed() const;
     void readElement();
     void writeElement(const QString& target);
     void writeAttributes();
@@ -81,7 +81,7 @@ private:
     qint64 m_imagePixels = 0;
 };
 
-bool SvgSanitizer::isWanted() const
+bool SvgSanitizer::isAllowed() const
 {
     const QStringView space = m_reader.namespaceUri();
     return (space.isEmpty() || space == SvgNamespace) && !contains(Forbidden, m_reader.name()) &&
@@ -90,7 +90,7 @@ bool SvgSanitizer::isWanted() const
 
 bool SvgSanitizer::readRoot()
 {
-    if (!m_reader.readNextStartElement() || m_reader.name() != u"svg" || !isWanted()) {
+    if (!m_reader.readNextStartElement() || m_reader.name() != u"svg" || !isAllowed()) {
         return false;
     }
     const QXmlStreamAttributes attributes = m_reader.attributes();
@@ -139,7 +139,7 @@ bool SvgSanitizer::isWithinLimits() const
 void SvgSanitizer::readElement()
 {
     ++m_elements;
-    if (!isWanted()) {
+    if (!isAllowed()) {
         m_reader.skipCurrentElement();
         return;
     }

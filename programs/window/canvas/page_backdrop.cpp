@@ -9,7 +9,7 @@ namespace {
 
 constexpr int ShadowPixels = 8;
 constexpr int ShadowDarkness = 14; // alpha of each layer of the shadow
-constexpr double Veil = 0.72;
+constexpr double DimmingOpacity = 0.72;
 
 } // namespace
 
@@ -43,9 +43,9 @@ void paintPageSurroundings(QPainter& painter, const QRectF& page, const QRectF& 
     QPainterPath outside;
     outside.addRect(visible);
     outside.addRect(page);
-    QColor veil = session;
-    veil.setAlphaF(static_cast<float>(Veil));
-    painter.fillPath(outside, veil);
+    QColor dimming = session;
+    dimming.setAlphaF(static_cast<float>(DimmingOpacity));
+    painter.fillPath(outside, dimming);
     QPen outline(QColor(0, 0, 0, 90));
     outline.setCosmetic(true);
     painter.setPen(outline);

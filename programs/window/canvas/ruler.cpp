@@ -15,7 +15,7 @@ QString nameOf(Qt::Orientation orientation)
 double lengthOf(TickRank rank, double thickness)
 {
     switch (rank) {
-    case TickRank::Labelled:
+    case TickRank::Labeled:
         return thickness;
     case TickRank::Middle:
         return thickness * 0.45;

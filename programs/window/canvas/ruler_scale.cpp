@@ -47,7 +47,7 @@ int partsOf(double pixelsPerStep, LengthUnit unit)
 TickRank rankOf(qint64 number, int parts)
 {
     if (number % parts == 0) {
-        return TickRank::Labelled;
+        return TickRank::Labeled;
     }
     return number % (parts / 2) == 0 ? TickRank::Middle : TickRank::Small;
 }
@@ -84,7 +84,7 @@ QList<RulerTick> rulerTicks(const RulerSpan& span, LengthUnit unit)
         const TickRank rank = rankOf(number, parts);
         const double pixel = span.origin + static_cast<double>(number) * pixelsPerTick;
         const double value = static_cast<double>(number / parts) * step;
-        ticks.append({pixel, rank, rank == TickRank::Labelled ? labelOf(value) : QString()});
+        ticks.append({pixel, rank, rank == TickRank::Labeled ? labelOf(value) : QString()});
     }
     return ticks;
 }

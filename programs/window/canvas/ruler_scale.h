@@ -16,7 +16,7 @@ struct RulerSpan
 };
 
 /// The length of a tick.
-enum class TickRank : quint8 { Labelled, Middle, Small };
+enum class TickRank : quint8 { Labeled, Middle, Small };
 
 struct RulerTick
 {

@@ -37,7 +37,7 @@ public:
         m_dialog.setMinimumDuration(500);
     }
 
-    bool isWanted(qint64 done)
+    bool isNotCanceled(qint64 done)
     {
         m_dialog.setValue(static_cast<int>(done));
         return !m_dialog.wasCanceled();
@@ -53,7 +53,7 @@ QString suggestedBase(const OpenLabel& label)
     return info.dir().filePath(info.completeBaseName());
 }
 
-QString told(const OutputReport& report, const OutputOrder& order)
+QString resultMessage(const OutputReport& report, const OutputOrder& order)
 {
     if (report.wasStopped) {
         return Words::tr("Stopped after %1 files").arg(report.files);
@@ -130,14 +130,14 @@ QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts
     }
     const OutputOrder order = dialog.order();
     ProgressWindow progress(Words::tr("Exporting"), order.records.count, window);
-    const OutputReport report =
-        writeOutput(label, order, [&progress](qint64 done) { return progress.isWanted(done); });
+    const OutputReport report = writeOutput(
+        label, order, [&progress](qint64 done) { return progress.isNotCanceled(done); });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
         prompts.showError(Words::tr("The label could not be exported."), report.error);
         return {};
     }
-    return told(report, order);
+    return resultMessage(report, order);
 }
 
 QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts, QWidget* window,
@@ -156,7 +156,7 @@ QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
     }
     ProgressWindow progress(Words::tr("Printing"), dialog.batch()->records(), window);
     const OutputReport report = printAll(dialog, label, pdfFile, server, [&progress](qint64 done) {
-        return progress.isWanted(done);
+        return progress.isNotCanceled(done);
     });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {

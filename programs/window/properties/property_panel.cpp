@@ -115,14 +115,14 @@ void PropertyPanel::askValue(const QPersistentModelIndex& index)
     if (!index.isValid()) {
         return;
     }
-    const QVariant value = askedValue(m_model->rowAt(index.row()));
+    const QVariant value = chooseValue(m_model->rowAt(index.row()));
     // The label may have been closed while the dialog was open.
     if (value.isValid() && index.isValid()) {
         m_model->setData(index, value, Qt::EditRole);
     }
 }
 
-QVariant PropertyPanel::askedValue(const PropertyRow& row)
+QVariant PropertyPanel::chooseValue(const PropertyRow& row)
 {
     const PropertyRow asked = row; // the dialogs process events
     if (asked.kind == PropertyKind::Color) {

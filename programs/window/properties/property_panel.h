@@ -39,7 +39,7 @@ private:
     void edit(int property, const QVariant& value);
     void checkText(int property, const QString& text);
     void askValue(const QPersistentModelIndex& index);
-    [[nodiscard]] QVariant askedValue(const struct PropertyRow& row);
+    [[nodiscard]] QVariant chooseValue(const struct PropertyRow& row);
 
     PropertyModel* m_model;
     PropertyDelegate* m_delegate;

@@ -33,7 +33,7 @@ bool isFontThere(const QString& family)
     if (isInstalled(family)) {
         return true;
     }
-    const QString standIn = workbench::standInFamily(family);
+    const QString standIn = workbench::substituteFamily(family);
     return !standIn.isEmpty() && isInstalled(standIn);
 }
 
