@@ -171,3 +171,18 @@ TEST(CheckLabel, FindsAnItemBelowALaterOne)
             {.automaticStyles = styles}));
     EXPECT_EQ(findingOf(same, lossCode(LossKind::Covered)), nullptr) << codesOf(same).toStdString();
 }
+
+// A box over the upper third of a shape hides the text, although it hides less than half of
+// the shape.
+TEST(CheckLabel, AcceptsATextThatTheDocumentCovers)
+{
+    const QByteArray styles = graphicStyle("A", "draw:fill=\"solid\" draw:fill-color=\"#ffffff\"") +
+                              graphicStyle("B", "draw:fill=\"solid\" draw:fill-color=\"#0000ff\"");
+    const FileReport report =
+        reportOn(odg(boxAt("svg:x=\"1in\" svg:y=\"1in\"", "A", "<text:p>Hidden</text:p>") +
+                         "<draw:rect draw:style-name=\"B\" svg:x=\"0.5in\" svg:y=\"0.9in\" "
+                         "svg:width=\"2in\" svg:height=\"0.45in\"/>",
+                     {.automaticStyles = styles}));
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::Covered)), nullptr)
+        << codesOf(report).toStdString();
+}

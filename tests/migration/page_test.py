@@ -9,6 +9,7 @@ import json
 import os
 import subprocess
 import sys
+import urllib.parse
 
 chromium, page, data, folder = sys.argv[1:]
 with open(data, encoding="utf-8") as file:
@@ -23,6 +24,7 @@ class Cards(html.parser.HTMLParser):
         super().__init__()
         self.shown, self.all, self.said, self.in_output = [], 0, "", False
         self.scripts = 0
+        self.opening = []
 
     def handle_starttag(self, tag, attributes):
         attributes = dict(attributes)
@@ -31,6 +33,8 @@ class Cards(html.parser.HTMLParser):
             if "hidden" not in attributes:
                 self.shown.append(attributes["data-name"])
         self.scripts += tag == "script"
+        if tag == "a" and attributes.get("href", "").startswith("labelport:"):
+            self.opening.append(attributes["href"])
         self.in_output = tag == "output"
 
     def handle_endtag(self, tag):
@@ -75,6 +79,12 @@ def expect(state, wanted):
 everything = view("")
 assert everything.shown == names(files), everything.shown
 assert everything.said == f"{len(files)} of {len(files)} shown", everything.said
+
+originals = [os.path.abspath(os.path.join(os.path.dirname(os.path.abspath(page)), entry["file"]))
+             for entry in files]
+wanted = ["labelport://" + urllib.parse.quote(file) for file in originals if os.path.exists(file)]
+assert wanted, "the report has originals"
+assert everything.opening == wanted, (everything.opening, wanted)
 
 failed = [entry for entry in files if entry["verdict"] == "failed"]
 assert failed

@@ -116,6 +116,39 @@ TEST(RepairedLosses, WhatIsSetOnTheItemsIsNotChanged)
     EXPECT_EQ(codesOf(report.changed), "fixed-field 1");
 }
 
+TEST(RepairedLosses, TransparencyIsSetOnTheItems)
+{
+    Census original = censusOf({counted(ObjectClass::Shape)});
+    original.objects[0].changes.add(LossKind::Transparency);
+    original.objects[0].changes.add(LossKind::EffectDropped);
+    const FileReport report = filled(original, original, labelOf({ObjectClass::Shape}));
+    EXPECT_EQ(codesOf(report.changed), "effect-dropped 1");
+}
+
+TEST(RepairedLosses, AHeaderIsLostOnlyIfNoPageShowsItsText)
+{
+    Census original = censusOf({counted(ObjectClass::Text, LossKind::HeaderOrFooter),
+                                counted(ObjectClass::Text, LossKind::HeaderOrFooter),
+                                counted(ObjectClass::Picture, LossKind::HeaderOrFooter)});
+    for (const char* text : {"Page header", "Other footer", ""}) {
+        Appearance appearance;
+        appearance.text = QString::fromLatin1(text);
+        original.objects[original.appearances.size()].appearance = original.appearances.size();
+        original.appearances.append(appearance);
+    }
+    // The repaired document still has the master page.
+    LabelFacts label = labelOf({ObjectClass::Text});
+    label.items[0].text = QStringLiteral("Page  header");
+    RepairedLosses losses(original);
+    losses.addPage(original, label, {});
+    losses.addPage(original, labelOf({}), {});
+    FileReport report;
+    losses.fill(report, true);
+    EXPECT_EQ(codesOf(report.lost), "header-or-footer 2");
+    EXPECT_EQ(report.objects.inFile, 3);
+    EXPECT_EQ(report.objects.imported, 1);
+}
+
 TEST(RepairedLosses, PagesAddUp)
 {
     RepairedLosses losses(TwoShapes);

@@ -324,6 +324,8 @@ const QList<Sample>& samples()
                                                                 "draw:fill-color=\"#3465a4\"")})},
         {LossKind::EffectDropped,
          odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:shadow=\"visible\"")})},
+        {LossKind::Transparency,
+         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:opacity=\"40%\"")})},
         {LossKind::Other, qmtx(kPlainLabel), 1, 0,
          [](auto& result) {
              result.log.append({true, QStringLiteral("x.cpp"), QStringLiteral("News")});

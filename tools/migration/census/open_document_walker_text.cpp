@@ -146,7 +146,13 @@ void OpenDocumentWalker::openInShapeRun(const QString& name, const Attributes& a
 
 void OpenDocumentWalker::text(QStringView characters)
 {
-    takeText(characters);
+    // Of a page's number, office programs write a sign instead of the number that they show.
+    if (m_pages > 0 && characters == u"<number>") {
+        takeText(QString::number(m_pages));
+    } else {
+        // A line break in the file is a space in the text.
+        takeText(characters.toString().replace(u'\n', u' '));
+    }
     if (isBlank(characters)) {
         return;
     }

@@ -157,7 +157,17 @@ private:
         const bool isAbove =
             cover->order > item->order || (cover->order == item->order && item->text.isEmpty());
         const bool isOpaque = cover->isFilled.value_or(true);
-        return isAbove && isOpaque && coveredShare(item->outline, cover->outline) >= CoveredShare;
+        return isAbove && isOpaque &&
+               (coveredShare(item->outline, cover->outline) >= CoveredShare ||
+                coversText(*item, m_label.items.at(below), *cover));
+    }
+
+    // The document shows the place of the shape, which may be covered less than its text.
+    static bool coversText(const Appearance& text, const ItemFacts& item, const Appearance& cover)
+    {
+        return !text.text.isEmpty() &&
+               text.outline.boundingRect().contains(item.outline.boundingRect().center()) &&
+               coveredShare(item.outline, cover.outline) >= CoveredShare;
     }
 
     LabelFacts& m_label;

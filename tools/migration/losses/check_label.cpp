@@ -49,10 +49,11 @@ QString onOneLine(QString text)
 class LabelCheck
 {
 public:
-    LabelCheck(const Matching& matching, LabelFacts& label, double scale)
+    LabelCheck(const Matching& matching, LabelFacts& label, double scale, bool isRepaired)
         : m_matching(matching)
         , m_label(label)
         , m_scale(scale)
+        , m_isRepaired(isRepaired)
     {}
 
     void run()
@@ -64,6 +65,7 @@ public:
         for (const Pair& pair : m_matching.texts) {
             checkText(pair);
             checkFonts(pair);
+            checkColor(pair);
         }
         checkGaps();
     }
@@ -81,11 +83,13 @@ private:
     void checkLooks(const Pair& pair);
     void checkText(const Pair& pair);
     void checkFonts(const Pair& pair);
+    void checkColor(const Pair& pair);
     void checkGaps();
 
     const Matching& m_matching;
     LabelFacts& m_label;
     double m_scale;
+    bool m_isRepaired;
 };
 
 void LabelCheck::checkPlace(const Pair& pair)
@@ -168,6 +172,17 @@ void LabelCheck::checkFonts(const Pair& pair)
     }
 }
 
+// Repair sets the colors that the reader drops. Without repair, the census knows them.
+void LabelCheck::checkColor(const Pair& pair)
+{
+    const QColor& wanted = pair.appearance->textColor;
+    const QColor& seen = m_label.items.at(pair.item).textColor;
+    if (m_isRepaired && pair.isExact && wanted.isValid() && seen.isValid() &&
+        wanted.rgb() != seen.rgb()) {
+        add(pair.item, LossKind::TextColor, wanted.name() + u" → "_s + seen.name());
+    }
+}
+
 // Runs of one paragraph have items of their own. The space between two words is in neither when
 // the parser drops it.
 void LabelCheck::checkGaps()
@@ -205,7 +220,7 @@ void checkLabel(const Census& original, const workbench::Canvas& canvas, const R
     }
     const double scale = scaleOf(original, label);
     const Matching matching = matchItems(original, label, reading.page, scale, reading.isRepaired);
-    LabelCheck(matching, label, scale).run();
+    LabelCheck(matching, label, scale, reading.isRepaired).run();
     const bool isComplete = checkCovering(matching, label);
     if (!isComplete || matching.isCut) {
         label.pageChanges.add(LossKind::LogCut);

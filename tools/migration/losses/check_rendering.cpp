@@ -21,6 +21,8 @@ constexpr int PictureSide = 400;
 constexpr double LeastContrast = 3.0;
 // Of 255: a pixel that changes less looks like its ground.
 constexpr int VisibleDifference = 6;
+// Points: a drawing has the width of its pen more than the item that it replaces.
+constexpr double DrawingTolerance = 6.0;
 // Below this luminance, from 0 to 255, automatic text is white.
 constexpr int DarkGround = 62;
 
@@ -58,16 +60,34 @@ struct Candidate
 
 using Candidates = QHash<qsizetype, Candidate>;
 
+bool isNear(const QRectF& a, const QRectF& b)
+{
+    return std::max({std::abs(a.left() - b.left()), std::abs(a.right() - b.right()),
+                     std::abs(a.top() - b.top()), std::abs(a.bottom() - b.bottom())}) <
+           DrawingTolerance;
+}
+
+// A fill that items do not have is drawn. The item above the drawing only carries the text.
+bool hasDrawing(const Pair& pair, const LabelFacts& label)
+{
+    const QRectF box = label.items.at(pair.item).outline.boundingRect();
+    return std::any_of(label.items.begin(), label.items.end(), [&box](const ItemFacts& item) {
+        return item.objectClass == ObjectClass::Symbol && item.hasContent &&
+               isNear(item.outline.boundingRect(), box);
+    });
+}
+
 // A text whose color or ground is not that of the document; a shape whose fill was simplified.
 Candidates candidatesOf(const Matching& matching, const LabelFacts& label)
 {
     Candidates candidates;
-    QHash<const Appearance*, bool> hasOtherFill;
     for (const Pair& pair : matching.shapes) {
         const ItemFacts& item = label.items.at(pair.item);
         const bool isFilled = pair.appearance->isFilled.value_or(item.isFilled);
         const bool isSimplified = isFilled && !pair.appearance->fill.isValid();
-        if (isSimplified && item.objectClass == ObjectClass::Shape && item.hasContent) {
+        const bool isMeasured =
+            isSimplified && item.objectClass == ObjectClass::Shape && item.hasContent;
+        if (isMeasured && !hasDrawing(pair, label)) {
             candidates[pair.item].shape = pair.appearance;
         }
     }

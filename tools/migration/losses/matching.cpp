@@ -22,18 +22,6 @@ constexpr qsizetype MaximumNeighbors = 256;
 // Characters that are searched for texts without an item of their own.
 constexpr qint64 MaximumSearch = 500'000'000;
 
-QString squeezed(const QString& text)
-{
-    QString result;
-    result.reserve(text.size());
-    for (const QChar c : text) {
-        if (!c.isSpace()) {
-            result += c;
-        }
-    }
-    return result;
-}
-
 using Cell = std::pair<int, int>;
 using Cells = QHash<Cell, QList<qsizetype>>;
 
@@ -96,6 +84,15 @@ private:
     {
         const QRectF box = m_label.items.at(item).outline.boundingRect();
         return {box.topLeft() / m_scale, box.size() / m_scale};
+    }
+
+    // Also if the document does not show the size.
+    [[nodiscard]] bool hasSizeOf(qsizetype item, const Appearance& appearance) const
+    {
+        const QSizeF away = appearance.outline.boundingRect().size() - placeOf(item).size();
+        return appearance.outline.isEmpty() ||
+               (std::abs(away.width()) <= PointsPerMillimeter &&
+                (appearance.grows || std::abs(away.height()) <= PointsPerMillimeter));
     }
 
     [[nodiscard]] qsizetype takeNearest(Cells& cells, const QRectF& place);
@@ -177,6 +174,9 @@ void Matcher::matchPlaces(ObjectClass objectClass)
     items.removeIf([this](qsizetype item) { return m_used.at(item); });
     // Readers keep the order. If numbers differ, it is unknown which item an object became.
     for (qsizetype index = 0; items.size() == unmatched.size() && index < items.size(); ++index) {
+        if (m_expectsAll && !hasSizeOf(items.at(index), *unmatched.at(index))) {
+            continue; // repair also adds items, and makes drawings of objects
+        }
         m_used[items.at(index)] = true;
         m_matching.shapes.append({items.at(index), unmatched.at(index)});
     }
@@ -274,6 +274,11 @@ Matching matchItems(const Census& census, const LabelFacts& label, int page, dou
                     bool expectsAll)
 {
     return Matcher(census, label, page, scale, expectsAll).run();
+}
+
+QString squeezed(const QString& text)
+{
+    return text.simplified().remove(u' ');
 }
 
 QString canonical(const QString& text)

@@ -38,6 +38,9 @@ struct Matching
 [[nodiscard]] Matching matchItems(const Census& census, const LabelFacts& label, int page,
                                   double scale, bool expectsAll);
 
+/// A text without spaces and line breaks.
+[[nodiscard]] QString squeezed(const QString& text);
+
 /// A text with one space for each blank, and without blank lines around it.
 [[nodiscard]] QString canonical(const QString& text);
 

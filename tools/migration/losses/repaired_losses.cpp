@@ -1,6 +1,7 @@
 #include "migration/losses/repaired_losses.h"
 
 #include "migration/losses/compare.h"
+#include "migration/losses/matching.h"
 
 #include <algorithm>
 #include <array>
@@ -22,7 +23,6 @@ constexpr std::array SeenInRepaired{
     LossKind::Table,
     LossKind::List,
     LossKind::TextSection,
-    LossKind::HeaderOrFooter,
     LossKind::LinkText,
     LossKind::TextField,
     LossKind::TextElement,
@@ -63,7 +63,7 @@ constexpr std::array SeenInRepaired{
 // trace of it.
 constexpr std::array SetOnItems{
     LossKind::TextColor,   LossKind::TextFormat, LossKind::PositionAssumed,
-    LossKind::PageMargins, LossKind::PageBreak,
+    LossKind::PageMargins, LossKind::PageBreak,  LossKind::Transparency,
 };
 
 template <std::size_t Count>
@@ -85,6 +85,9 @@ void forgetWhatIsSetLater(Census& census)
     for (CountedObject& object : census.objects) {
         object.changes.remove(SetOnItems);
     }
+    // Their texts are on the page, and are searched for there.
+    census.objects.removeIf(
+        [](const CountedObject& object) { return object.lost == LossKind::HeaderOrFooter; });
     for (const LossKind kind : SetOnItems) {
         census.tallies.erase(kind);
     }
@@ -123,11 +126,47 @@ void addCounts(QList<KindCount>& sums, const QList<KindCount>& counts)
 
 RepairedLosses::RepairedLosses(const Census& original)
     : m_original(original)
-{}
+{
+    for (qsizetype index = 0; index < original.objects.size(); ++index) {
+        const CountedObject& object = original.objects.at(index);
+        if (object.lost == LossKind::HeaderOrFooter && object.appearance >= 0) {
+            m_missingHeaders.append(index);
+        }
+    }
+}
+
+void RepairedLosses::findHeaders(const LabelFacts& label)
+{
+    QString shown;
+    for (const ItemFacts& item : m_missingHeaders.isEmpty() ? QList<ItemFacts>() : label.items) {
+        shown += squeezed(item.text);
+    }
+    m_missingHeaders.removeIf([&](qsizetype index) {
+        const qsizetype appearance = m_original.objects.at(index).appearance;
+        const QString text = squeezed(m_original.appearances.at(appearance).text);
+        return !text.isEmpty() && shown.contains(text);
+    });
+}
+
+Census RepairedLosses::withoutShownHeaders() const
+{
+    Census census = m_original;
+    census.objects.clear();
+    for (qsizetype index = 0; index < m_original.objects.size(); ++index) {
+        const CountedObject& object = m_original.objects.at(index);
+        const bool isShown = object.lost == LossKind::HeaderOrFooter && object.appearance >= 0 &&
+                             !m_missingHeaders.contains(index);
+        if (!isShown) {
+            census.objects.append(object);
+        }
+    }
+    return census;
+}
 
 void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const LogLosses& log)
 {
     forgetWhatIsSetLater(repaired);
+    findHeaders(label);
     FileReport page;
     compare(repaired, label, log, page);
     if (m_hasPages) {
@@ -179,7 +218,7 @@ QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
 void RepairedLosses::fill(FileReport& report, bool allPages) const
 {
     FileReport original;
-    compare(m_original, {}, {}, original);
+    compare(withoutShownHeaders(), {}, {}, original);
     report.lost = remaining(original.lost, m_pages.lost, allPages);
     report.changed = remaining(original.changed, m_pages.changed, allPages);
     report.complete = m_pages.complete;

@@ -30,7 +30,12 @@ private:
     [[nodiscard]] QList<Finding> remaining(const QList<Finding>& original,
                                            const QList<Finding>& repaired, bool allPages) const;
 
+    void findHeaders(const LabelFacts& label);
+    [[nodiscard]] Census withoutShownHeaders() const;
+
     const Census& m_original;
+    /// Indices of the texts of headers and footers that no label shows yet.
+    QList<qsizetype> m_missingHeaders;
     FileReport m_pages; ///< the sums over all pages
     bool m_hasPages = false;
 };

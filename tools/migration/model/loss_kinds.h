@@ -83,6 +83,7 @@ enum class LossKind : quint8 {
     PenWidth,
     FillSimplified,
     EffectDropped,
+    Transparency,
     Other,
 };
 

@@ -176,6 +176,7 @@ TemplateData labels()
     data.set("search", templateText(tr("Search")));
     data.set("reset", templateText(tr("Show all")));
     data.set("shown", templateText(tr("%1 of %2 shown")));
+    data.set("open", templateText(tr("Open in the LabelPort workbench")));
     data.set("nothingFound", templateText(tr("No matching files.")));
     return data;
 }

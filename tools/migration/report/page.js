@@ -112,6 +112,22 @@
     }
   });
 
+  // The window opens "labelport:" addresses, which are absolute: only a page on this machine
+  // knows them.
+  if (location.protocol === "file:") {
+    for (const original of list.querySelectorAll("h2 a")) {
+      const link = document.createElement("a");
+      link.href = "labelport://" + new URL(original.href).pathname;
+      link.textContent = list.dataset.open;
+      link.className = "open";
+      original.closest("h2").after(link);
+    }
+  }
+  // A phone shows the labels before the long list of problems.
+  if (matchMedia("(max-width: 40rem)").matches) {
+    document.querySelector("header details")?.removeAttribute("open");
+  }
+
   let waiting = 0;
   form.addEventListener("input", () => {
     clearTimeout(waiting);
