@@ -16,6 +16,7 @@ struct FieldProblem
     [[nodiscard]] QString text() const { return words.arg(path); }
 };
 
+/// Empty on success.
 using MaybeProblem = std::optional<FieldProblem>;
 
 /// Kinds of fields that are not single values.

@@ -13,7 +13,7 @@
 #include <type_traits>
 
 /// Single values in JSON. Json<T>::write() gives what Json<T>::read() accepts; read() returns
-/// false for anything else and leaves the value as it is. Json<T>::Kind describes the kind in
+/// false for anything else, with the value unchanged. Json<T>::Kind describes the kind in
 /// error messages. Specialize Json for a type of your own to make it a single value.
 namespace fields {
 

@@ -25,7 +25,7 @@ public:
 
     /// Reserves space for a frame of the paragraph. All frames precede the first run.
     void passFrame(const FramePlacement& frame);
-    /// How far frames without text beside them push the text down.
+    /// How far frames without text next to them push the text down.
     [[nodiscard]] double blockOffset() const { return m_blockOffset; }
 
     /// The wrap width of runs.

@@ -68,6 +68,7 @@ struct ShapeControl
     int sides = 0;
 };
 
+/// Each reads one kind of control. Missing child elements keep the defaults of the structure.
 [[nodiscard]] BarcodeControl readBarcodeControl(const QDomElement& element,
                                                 FamilyCheck isKnownFamily);
 [[nodiscard]] ListControl readListControl(const QDomElement& element, FamilyCheck isKnownFamily);

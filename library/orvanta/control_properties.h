@@ -43,6 +43,7 @@ struct Font
 /// becomes FallbackFontFamily.
 [[nodiscard]] Font readFont(const QDomElement& font, FamilyCheck isKnownFamily);
 
+/// The properties that all kinds of controls share.
 struct ControlProperties
 {
     QString text;
@@ -78,6 +79,7 @@ struct DrawingColors
     QColor fill;
 };
 
+/// The fore and back color, swapped for a negative control; no fill for a transparent one.
 [[nodiscard]] DrawingColors drawingColors(const ControlProperties& properties);
 
 } // namespace orvanta

@@ -34,6 +34,7 @@ struct BarcodeRecord
     [[nodiscard]] int option() const;
 };
 
+/// Reads a record after its type code. Values beyond the end of the stream are zero or empty.
 [[nodiscard]] BarcodeRecord readBarcodeRecord(QDataStream& stream, const FileContext& file,
                                               qint64 itemNumber);
 

@@ -19,6 +19,7 @@ enum class DatasourceKind {
     Database, ///< a field of a database, which is not imported
 };
 
+/// A data-source key with its kind, and the formats if it refers to the clock.
 struct DatasourceRule
 {
     QString key;

@@ -19,6 +19,7 @@ struct FileContent
     QByteArray bytes;
 };
 
+/// Reads a complete file into memory, unless it exceeds the limit.
 [[nodiscard]] FileContent loadFile(const QString& path);
 
 } // namespace tavrel

@@ -19,6 +19,7 @@ struct HostCanvas
     ClassFactory* factory = nullptr;
 };
 
+/// What became of an item that a record describes.
 enum class BuildResult {
     Built,
     NoItem, ///< the host created no item, or one of another class than the contract requires

@@ -23,6 +23,7 @@ struct CanvasHeader
     [[nodiscard]] bool isSupported() const;
 };
 
+/// Reads the first values of a file. Does not check the version.
 [[nodiscard]] CanvasHeader readCanvasHeader(QDataStream& stream);
 
 /// The page: its size, its supplies and the resolution that item records refer to.
@@ -37,6 +38,7 @@ struct CanvasRecord
     Resolution resolution;
 };
 
+/// Reads the page; the version of the file selects the layout.
 [[nodiscard]] CanvasRecord readCanvasRecord(QDataStream& stream, quint32 version);
 
 /// The counter of a label. Each item that is bound to it gets a data source with these values.
@@ -51,6 +53,7 @@ struct SequenceSettings
     QString sequenceSuffix;
 };
 
+/// Reads the settings of the counter; the version of the file selects the layout.
 [[nodiscard]] SequenceSettings readSequenceSettings(QDataStream& stream, quint32 version);
 
 /// Reads the list of a label's databases. The binding to them is not imported.

@@ -6,6 +6,7 @@
 /// Picture items.
 namespace tavrel {
 
+/// A picture item as the file stores it.
 struct PictureRecord
 {
     ItemHeader header;

@@ -7,6 +7,7 @@
 /// Shapes and lines.
 namespace tavrel {
 
+/// A shape or a line as the file stores it.
 struct ShapeRecord
 {
     ItemHeader header;
@@ -23,12 +24,14 @@ enum class ShapeRule {
     VerticalLine,   ///< a vertical line as long as the box is high
 };
 
+/// A type of shape, and how its record is interpreted.
 struct ShapeKind
 {
     KestTypes::ShapeType type = KestTypes::Rectangle;
     ShapeRule rule = ShapeRule::Filled;
 };
 
+/// Reads a record after its type code. Values beyond the end of the stream are zero or empty.
 [[nodiscard]] ShapeRecord readShapeRecord(QDataStream& stream, const FileContext& file,
                                           qint64 itemNumber);
 

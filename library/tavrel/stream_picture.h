@@ -12,11 +12,11 @@ struct StreamPicture
     bool refused = false; ///< there is a picture, but too large or damaged
 };
 
-/// Reads a picture and takes its pixels off those that the file may still unpack.
+/// Reads a picture and subtracts its pixels from those that the file may still unpack.
 ///
 /// The PNG's chunks are walked over by their lengths first, so that the next record is
-/// found behind a picture that cannot be decoded. Data that does not start as a PNG is
-/// left in the stream, as the stream itself would leave it.
+/// found after a picture that cannot be decoded. Data that does not start as a PNG is
+/// left in the stream, as QDataStream would leave it.
 [[nodiscard]] StreamPicture readPicture(QDataStream& stream, qint64& pixelsLeft);
 
 /// Moves over a picture without decoding it.

@@ -13,6 +13,7 @@ class SymbolDatabaseModel;
 /// Symbol items.
 namespace tavrel {
 
+/// A symbol item as the file stores it.
 struct SymbolRecord
 {
     ItemHeader header;
@@ -20,6 +21,7 @@ struct SymbolRecord
     QByteArray data; ///< an SVG document; empty if the label only names its symbol
 };
 
+/// Reads a record after its type code. Values beyond the end of the stream are zero or empty.
 [[nodiscard]] SymbolRecord readSymbolRecord(QDataStream& stream, const FileContext& file,
                                             qint64 itemNumber);
 

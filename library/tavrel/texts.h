@@ -10,6 +10,7 @@ namespace tavrel {
 
 class DatasourceBinder;
 
+/// A text item as the file stores it; the version of the file decides which values exist.
 struct TextRecord
 {
     /// Width and height are the text's scale: 72 points mean a scale of 1.
@@ -32,6 +33,7 @@ struct TextRecord
     bool optionB = false; ///< stored after option A, for ITextLabelItem::setOptionB()
 };
 
+/// Reads a record after its type code. Values beyond the end of the stream are zero or empty.
 [[nodiscard]] TextRecord readTextRecord(QDataStream& stream, const FileContext& file,
                                         qint64 itemNumber);
 
@@ -41,6 +43,7 @@ struct TextOutcome
     bool scaled = false; ///< the text was stretched, which the item cannot be
 };
 
+/// Creates the item, sets its properties and adds it to the canvas, which takes ownership.
 TextOutcome buildText(const HostCanvas& host, const TextRecord& record,
                       const DatasourceBinder& binder);
 

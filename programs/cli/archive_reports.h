@@ -20,10 +20,10 @@ public:
     /// @param mayOverwrite overwrites files that are not reports of ours
     ArchiveReports(const QStringList& fileNames, bool namesAll, bool mayOverwrite);
 
-    /// Why one of the reports cannot be written, for a person; empty if none is known.
+    /// User-visible reason why a report cannot be written; empty if none is known.
     [[nodiscard]] QString firstProblem() const;
     void add(const archive::Delivery& delivery);
-    /// Moves the reports into place; returns what failed, for a person.
+    /// Moves the reports into place; returns the user-visible errors.
     [[nodiscard]] QStringList finish();
 
     [[nodiscard]] const LossSummary& summary() const { return m_summary; }

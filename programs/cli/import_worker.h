@@ -24,7 +24,7 @@ inline constexpr const char* WorkerCommandName = "worker";
 /// How this program starts its workers.
 [[nodiscard]] archive::WorkerCommand workerCommand(int memoryMiB);
 
-/// Why this system cannot meet --require-sandbox, for a person; else empty.
+/// User-visible reason why this system cannot meet --require-sandbox; empty if it can.
 [[nodiscard]] QString sandboxProblem();
 
 } // namespace cli

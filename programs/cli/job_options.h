@@ -20,7 +20,7 @@ struct JobOptions
     int firstPosition = 0; ///< on the first sheet
     int copies = 1;        ///< of each record, in PDF documents
     bool cropMarks = false;
-    bool zplNative = false;           ///< the printer draws what it can
+    bool zplNative = false;           ///< the printer draws barcodes and lines
     std::optional<ReaderKind> reader; ///< empty: selected by name or content
     bool asWritten = false;           ///< without repair
     bool force = false;               ///< overwrite files that are not ours

@@ -22,6 +22,7 @@ enum class Completion {
     Label,
 };
 
+/// An option of the command line. Texts are in English and are translated when shown.
 struct Option
 {
     const char* name;  ///< without "--"
@@ -33,6 +34,7 @@ struct Option
     const char* letter = nullptr; ///< short name, without "-"
 };
 
+/// A command of labelport with its options.
 struct Command
 {
     const char* name;
@@ -44,6 +46,7 @@ struct Command
     std::span<const Option> options;
 };
 
+/// All commands, in the order of --help.
 [[nodiscard]] std::span<const Command> commands();
 /// The command of a name, which must exist.
 [[nodiscard]] const Command& commandOf(const char* name);

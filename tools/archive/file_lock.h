@@ -8,6 +8,7 @@ namespace archive {
 class FileLock
 {
 public:
+    /// Any number of processes may hold a shared lock, only one an exclusive lock.
     enum Kind { Shared, Exclusive };
 
     FileLock() = default;

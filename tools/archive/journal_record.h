@@ -31,6 +31,7 @@ struct JournalRecord
 /// Bytes that the tree of a line may take. A label with the maximum of data sources stays below.
 inline constexpr qint64 MaximumLineTree = 512LL * 1024 * 1024;
 
+/// The record as one line with its line feed.
 [[nodiscard]] QByteArray lineOf(const JournalRecord& record);
 /// The next line with its end, or its first `longest` bytes. Takes no more memory than the line
 /// has; QIODevice::readLine(longest) would reserve the maximum for each line.

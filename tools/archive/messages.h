@@ -67,8 +67,8 @@ struct StagedFile
 struct FileResult
 {
     FileOutcome outcome = FileOutcome::Failed;
-    QStringList warnings; ///< for a person
-    QStringList errors;   ///< for a person; empty if it is done
+    QStringList warnings; ///< user-visible
+    QStringList errors;   ///< user-visible; empty on success
     QList<StagedFile> files;
     QJsonObject report; ///< opaque to the coordinator; empty if none was requested
     qint64 memory = 0;  ///< bytes that the worker uses now

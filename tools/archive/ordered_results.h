@@ -17,6 +17,7 @@ inline constexpr qint64 MaximumWaitingBytes = 64LL * 1024 * 1024;
 class OrderedResults
 {
 public:
+    /// A result and the index of its input.
     struct Finished
     {
         qsizetype index = 0;
@@ -27,13 +28,13 @@ public:
     void add(qsizetype index, FileResult result, qint64 size);
     /// An index without a result: it is skipped.
     void skip(qsizetype index);
-    /// The result whose turn it is, if it has come.
+    /// The next result in order, if it is complete.
     [[nodiscard]] std::optional<Finished> takeNext();
     /// The first of those that have come, its turn or not.
     [[nodiscard]] std::optional<Finished> takeAny();
 
     [[nodiscard]] bool isFull() const { return m_waitingBytes >= MaximumWaitingBytes; }
-    /// The index whose turn it is.
+    /// Index of the next result in order.
     [[nodiscard]] qsizetype next() const { return m_next; }
 
 private:

@@ -18,7 +18,7 @@ struct Progress
     qint64 slowMilliseconds = 0; ///< since its work began
 };
 
-/// One line for a person: a bar, counts, files per second, the time left, failures so far, and a
+/// One line for a terminal: a bar, counts, files per second, the time left, failures so far, and a
 /// file that takes long.
 ///
 /// @param columns maximum of characters; the bar is left out first

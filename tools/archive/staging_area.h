@@ -18,7 +18,7 @@ public:
     StagingArea& operator=(const StagingArea&) = delete;
 
     /// Creates the folder, and the output folder if it is missing.
-    /// @return why that failed, for a person; else empty
+    /// @return user-visible error; empty on success
     [[nodiscard]] QString open(const QString& outputFolder);
     /// Removes the folder with all that is in it.
     void close();

@@ -21,6 +21,7 @@ enum WorkerExit : int {
 /// How a worker process ended.
 struct WorkerEnd
 {
+    /// Why a worker ended. Garbled: it sent an invalid reply.
     enum Kind { Exited, Signalled, TimedOut, Garbled, NotStarted };
     Kind kind = Exited;
     int code = 0; ///< exit status or signal
@@ -48,7 +49,7 @@ struct WorkerLimits
 /// The outcome of the file that the worker was importing.
 [[nodiscard]] FileOutcome outcomeOf(const WorkerEnd& end);
 
-/// The error message of that file, for a person.
+/// User-visible error message of that file.
 [[nodiscard]] QString messageFor(const WorkerEnd& end, const WorkerLimits& limits);
 
 } // namespace archive

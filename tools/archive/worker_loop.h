@@ -14,7 +14,7 @@ using Confine = std::function<sandbox::Confinement(const sandbox::Permissions&)>
 using JobHandler = std::function<FileResult(const Job&, const Heartbeat&)>;
 
 /// Confines the process as the first line of standard input says, then answers jobs until that is
-/// closed. Standard output belongs to the conversation: what anybody else prints there goes
+/// closed. Standard output is reserved for replies: output of libraries goes
 /// nowhere.
 ///
 /// @return the exit status of the process

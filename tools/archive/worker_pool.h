@@ -32,10 +32,10 @@ public:
     virtual void taskFailed(qsizetype task, const WorkerEnd& end) = 0;
 };
 
-/// Hands tasks to worker processes, one at a time each, and replaces those that die.
+/// Hands tasks to worker processes, one at a time each, and replaces those that exit.
 ///
 /// A task whose worker dies is given once more to a worker that has done nothing yet: so
-/// neither a stray signal nor what earlier files did to a worker decides whether a file is
+/// neither a signal from outside nor an earlier file decides whether a file is
 /// imported. What runs out of time is not tried again.
 class WorkerPool final : public QObject
 {
@@ -52,7 +52,7 @@ public:
                int count);
     ~WorkerPool() override;
 
-    /// Begins; drained() or broken() comes later.
+    /// Starts the workers; emits drained() or broken() later.
     void start();
     /// No task is begun any more; those in work are finished.
     void stopTaking();

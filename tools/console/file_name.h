@@ -19,7 +19,7 @@ namespace console {
 /// Whether Qt's file classes can use the name.
 [[nodiscard]] bool isUtf8FileName(const QString& name);
 
-/// The name on one line for a person: bytes that are not UTF-8 as \xF6, control characters and
+/// The name on one line, for display: bytes that are not UTF-8 as \xF6, control characters and
 /// characters that change the direction of writing as \n, \x1B or \u202E.
 [[nodiscard]] QString shownFileName(const QString& name);
 /// The same for a text that may have several lines: keeps line breaks and tabs.
@@ -28,6 +28,7 @@ namespace console {
 /// The path from the root, without "." and "..".
 [[nodiscard]] QString absolutePath(const QString& path);
 
+/// The type of a file; the target's for a link.
 enum class FileKind {
     Missing, ///< a dangling link included
     File,

@@ -31,11 +31,11 @@ void printText(const QString& text);
 /// Bytes on standard output as they are: JSON.
 void printBytes(const QByteArray& bytes);
 
-/// The content of a file on standard output. Returns why it could not be read, for a person; empty
+/// The content of a file on standard output. Returns the user-visible error; empty
 /// if it was.
 [[nodiscard]] QString printFile(const QString& fileName);
 
-/// A message for a person on standard error, after the program's name. Control characters are
+/// A message on standard error, after the program's name. Control characters are
 /// escaped.
 void printMessage(const QString& text);
 

@@ -12,7 +12,7 @@ namespace console {
 inline constexpr qint64 MaximumInputBytes = 1LL << 30;
 
 /// Copies standard input to a temporary file, because readers need a file. Returns why that
-/// failed, for a person; else empty.
+/// failed (user-visible), else empty.
 [[nodiscard]] QString copyStandardInput(QTemporaryFile& file);
 
 /// Copies at most @p largest bytes from @p input to @p file. Returns why that failed, else empty.

@@ -28,6 +28,7 @@ enum class RecordFiles : quint8 {
     Always,      ///< all records in one file, whatever is selected
 };
 
+/// The type of an option's value.
 enum class OptionKind : quint8 {
     Number, ///< an integer from minimum to maximum
     Choice, ///< one of the choices

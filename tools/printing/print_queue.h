@@ -30,6 +30,7 @@ struct Submission
 /// Gives a document to a printer. The document may be deleted afterwards.
 [[nodiscard]] Submission submit(const PrintRequest& request);
 
+/// The printers of the system.
 struct Printers
 {
     QStringList names;

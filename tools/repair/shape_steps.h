@@ -23,7 +23,7 @@ int drawConnectors(Document& document);
 int drawPaths(Document& document);
 /// Draws custom shapes, arcs, and shapes with a fill or skew that no item has.
 int drawShapes(Document& document);
-/// Writes the position of rotated shapes as the reader understands it.
+/// Writes the position of rotated shapes in the form that the reader supports.
 int rewriteRotations(Document& document);
 /// Leaves in each frame one picture that can be read.
 int choosePictures(Document& document);

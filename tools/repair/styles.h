@@ -30,7 +30,7 @@ public:
     StyleTable() = default;
     StyleTable(const Node& styles, const Node& content);
 
-    /// A style with its parents; with the default style of its family if wanted. An unknown
+    /// A style with its parents; with the default style of its family if requested. An unknown
     /// name gives the default style alone.
     [[nodiscard]] StyleProperties resolved(const QString& family, const QString& name,
                                            bool withDefault) const;

@@ -22,7 +22,7 @@ struct Placement
 /// Size, position and transformation of a shape, in points.
 [[nodiscard]] Placement placementOf(const Node& shape);
 
-/// A placement as the reader understands it: a box that is rotated about its center.
+/// A placement in the form that the reader supports: a box that is rotated about its center.
 struct RotatedBox
 {
     QRectF box;

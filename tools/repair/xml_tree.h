@@ -11,6 +11,7 @@
 
 namespace repair {
 
+/// An attribute with its qualified name.
 struct Attribute
 {
     QString name;

@@ -2,10 +2,10 @@
 
 namespace sandbox {
 
-/// Whether the kernel filters system calls, and this program is built to let it.
+/// Whether the kernel and this build of the program support filters of system calls.
 [[nodiscard]] bool canFilterCalls();
 
-/// Restricts this process to the system calls that an import needs, for good.
+/// Restricts this process to the system calls that an import needs, irrevocably.
 ///
 /// A call that no import makes and an attacker needs (to run programs, to start processes, to
 /// trace others, to mount, to enter namespaces, to use keys) ends the process with SIGSYS. Sockets

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Confinement of this process, for good: a decoder that a hostile file has taken over can neither
+/// Irrevocable confinement of this process: a decoder that a hostile file controls can neither
 /// read or write other files, nor run programs, nor reach the network.
 namespace sandbox {
 
@@ -44,7 +44,7 @@ Confinement confine(const Permissions& permissions);
 [[nodiscard]] QStringList codesOf(const Confinement& confinement);
 [[nodiscard]] Confinement confinementOf(const QStringList& codes);
 
-/// For a person: "files, network, system calls"; "none" if nothing is in force.
+/// User-visible: "files, network, system calls"; "none" if nothing is in force.
 [[nodiscard]] QString describe(const Confinement& confinement);
 
 } // namespace sandbox

@@ -10,7 +10,7 @@ inline constexpr int FirstVersionWithNetwork = 4;
 /// The version of Landlock that the kernel offers; 0 without it.
 [[nodiscard]] int fileRulesVersion();
 
-/// Restricts this process to these files, for good. What does not exist is left out.
+/// Restricts this process to these files, irrevocably. Missing files are left out.
 ///
 /// @param readable files, and folders with all that is in them
 /// @param writable folders

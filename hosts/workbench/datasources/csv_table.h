@@ -14,6 +14,7 @@ inline constexpr qsizetype MaximumCsvColumns = 500;
 /// Most cells, without the header.
 inline constexpr qsizetype MaximumCsvCells = 500'000;
 
+/// Detect looks for a byte order mark, then for valid UTF-8.
 enum class CsvEncoding { Detect, Utf8, Utf16, Windows1252 };
 
 /// How to read a file.

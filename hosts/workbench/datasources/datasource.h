@@ -13,6 +13,7 @@
 /// billion of them.
 namespace workbench::datasources {
 
+/// A data source of a label. The controller that created it owns it.
 class Datasource : public TalDatasource
 {
 public:
@@ -23,8 +24,8 @@ public:
     /// All properties by name, as set by setDatasourceProperty() or their defaults.
     [[nodiscard]] virtual QVariantMap properties() const = 0;
 
-    /// The text of the record: the wanted fields, joined by spaces, empty fields
-    /// omitted. Without wanted fields, the selected fields; without these, all fields.
+    /// The text of the record: the requested fields, joined by spaces, empty fields
+    /// omitted. Without requested fields, the selected fields; without these, all fields.
     /// After its last record a source starts again, so that no label of a series is blank.
     /// @return nothing if the source has no records or the number is negative
     [[nodiscard]] std::optional<QString> value(qint64 record,

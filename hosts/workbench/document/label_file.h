@@ -18,7 +18,7 @@ namespace workbench::document {
                            datasources::DatasourceController& datasources);
 
 /// Saves a label. The file is replaced completely or not at all.
-/// @return why it could not be saved, in a sentence for a person; empty when it was
+/// @return user-visible reason why it could not be saved; empty on success
 [[nodiscard]] QString saveLabel(
     const QString& path, const Canvas& canvas, const datasources::DatasourceController& datasources,
     Origin origin = Origin::Person, const Heartbeat& heartbeat = [] {});
@@ -27,7 +27,7 @@ namespace workbench::document {
 [[nodiscard]] bool isUneditedImport(const QString& path);
 
 /// Opens a saved label in place of what is on the canvas.
-/// @return why it could not be opened, in a sentence for a person, and nothing is changed;
+/// @return user-visible reason why it could not be opened, and nothing is changed;
 ///         empty when it was
 [[nodiscard]] QString openLabel(const QString& path, Canvas& canvas,
                                 datasources::DatasourceController& datasources);

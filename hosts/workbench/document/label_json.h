@@ -22,6 +22,7 @@ enum class Origin { Person, Import };
 /// and the right checksum.
 [[nodiscard]] bool isUneditedImport(const QByteArray& bytes);
 
+/// The result of reading a saved label.
 struct ReadLabel
 {
     SavedLabel label;

@@ -14,7 +14,7 @@ namespace workbench::document {
 /// Called after each step of a task that may take long, a picture for example.
 using Heartbeat = std::function<void()>;
 
-/// A whole label as plain values: all that a saved file holds.
+/// A complete label as plain values, as in a saved file.
 struct SavedLabel
 {
     PageValues page;

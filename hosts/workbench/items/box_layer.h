@@ -87,7 +87,7 @@ public:
         return contentRect().normalized().adjusted(-margin, -margin, margin, margin);
     }
 
-    /// The painted area: clicks beside it go to the items below.
+    /// The painted area: clicks outside it go to the items below.
     [[nodiscard]] QPainterPath shape() const override
     {
         return isDrawable() ? flipTransform(contentRect(), m_box).map(paintedArea())

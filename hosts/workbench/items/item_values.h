@@ -136,6 +136,7 @@ struct BarcodeValues
     bool operator==(const BarcodeValues&) const = default;
 };
 
+/// A picture and how it is mirrored.
 struct PictureValues
 {
     QImage image;

@@ -41,6 +41,7 @@ struct TextLine
     double baseline = 0.0; ///< y
 };
 
+/// A text broken into lines, and the font size for them.
 struct TextLines
 {
     QList<TextLine> lines;

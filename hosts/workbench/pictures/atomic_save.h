@@ -17,7 +17,7 @@ namespace workbench {
     return file.commit();
 }
 
-/// Why the bytes could not be written. The system gives its reason, a full disk for example, only
+/// The system's reason why writing failed, such as a full disk. The system gives it only
 /// with the first write that fails completely, and not with the partial one before it.
 /// @param file a file on which writing failed; it must not be committed
 [[nodiscard]] inline QString writeError(QSaveFile& file)

@@ -11,6 +11,7 @@
 /// Opened for reading only; the file is not trusted.
 namespace workbench::symbols {
 
+/// A symbol database, open for reading. The destructor closes it.
 class SymbolDatabase
 {
 public:

@@ -7,6 +7,7 @@
 /// Pictures embedded in an SVG document.
 namespace svglimits {
 
+/// A raster picture inside an SVG document.
 struct EmbeddedImage
 {
     /// The picture as a data URI without optional parameters.

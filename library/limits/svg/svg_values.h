@@ -49,6 +49,7 @@ struct SvgLength
 /// unknown.
 [[nodiscard]] std::optional<SvgLength> parseSvgLength(QStringView text);
 
+/// Statistics of the numbers in an attribute.
 struct NumberSummary
 {
     qint64 count = 0;

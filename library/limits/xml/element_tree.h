@@ -18,7 +18,7 @@ class ElementTree;
 
 /// A node of a tree: an element, a text, or another node of the document.
 ///
-/// A node is a place, cheap to copy, and null where there is nothing. It is whole as long as
+/// A node is an index, cheap to copy, and null if nothing was found. It is valid as long as
 /// its tree lives and nothing else is parsed into it.
 class Node
 {
@@ -50,7 +50,7 @@ protected:
 
     const ElementTree* m_tree = nullptr;
     quint32 m_index = 0;
-    quint32 m_end = 0; // behind the last sibling and all that it contains
+    quint32 m_end = 0; // after the last sibling and its descendants
 };
 
 /// An element. A null one has no name, no attributes and no children.
@@ -63,12 +63,12 @@ public:
     [[nodiscard]] QString tagName() const;
     [[nodiscard]] bool hasAttribute(QStringView name) const;
     [[nodiscard]] QString attribute(QStringView name, const QString& otherwise = QString()) const;
-    /// All text inside, however deep it lies.
+    /// All text inside, at any depth.
     [[nodiscard]] QString text() const;
 
     /// The first child element, or the first of this name.
     [[nodiscard]] Element firstChildElement(QStringView tag = {}) const;
-    /// The next element beside this one, or the next of this name.
+    /// The next sibling element, or the next of this name.
     [[nodiscard]] Element nextSiblingElement(QStringView tag = {}) const;
 
 private:
@@ -113,7 +113,7 @@ private:
         Span value;
     };
     // All nodes are in document order, so that the content of an element follows it: the
-    // index behind its last descendant is its next sibling.
+    // index after its last descendant is its next sibling.
     struct NodeRecord
     {
         quint32 name = 0; // in m_names; or TextName, OtherName

@@ -18,6 +18,7 @@ struct RulerSpan
 /// The length of a tick.
 enum class TickRank : quint8 { Labeled, Middle, Small };
 
+/// A mark of a ruler.
 struct RulerTick
 {
     double pixel = 0.0;

@@ -11,6 +11,7 @@ namespace window {
 class Prompts
 {
 public:
+    /// The user's answer about unsaved changes.
     enum class Changes : quint8 { Save, Discard, Cancel };
 
     /// The window is not owned; it is the dialogs' parent.

@@ -25,7 +25,7 @@ public:
 
     /// The sheet for labels of a size; none for paper of their own size.
     [[nodiscard]] std::optional<printing::Sheet> sheetFor(const QSizeF& label) const;
-    /// User-visible reason why the measures make no sense; empty if they do.
+    /// User-visible reason why the measures are invalid; empty if they are valid.
     [[nodiscard]] QString problem() const;
     /// Counted from 0.
     [[nodiscard]] int firstPosition() const;

@@ -38,7 +38,7 @@ public:
 Q_SIGNALS:
     /// The user selected this issue.
     void issueWanted(const window::Issue& issue);
-    /// The user wants this correction of the selected issue.
+    /// The user chose this correction of the selected issue.
     void correctionWanted(window::Correction correction, const window::Issue& issue);
 
 private:

@@ -7,7 +7,7 @@ namespace migration {
 
 /// Goes over the bytes of a binary label, whose numbers have their highest byte first.
 ///
-/// What the end of the file cuts off counts as empty and is remembered: isCut().
+/// Values beyond the end of the file are empty; then isCut() is true.
 class ByteCursor
 {
 public:
@@ -16,7 +16,7 @@ public:
     {}
 
     [[nodiscard]] bool atEnd() const { return m_at >= m_bytes.size(); }
-    /// Whether something was asked for that the file no longer holds.
+    /// Whether a value beyond the end of the file was requested.
     [[nodiscard]] bool isCut() const { return m_isCut; }
 
     void skip(qint64 count);
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] QString takeText();
     void skipText() { (void)takeText(); }
     void skipBytes();
-    /// A number that is 0 for no picture, else a PNG behind it. True when there is one.
+    /// A number, and a PNG unless the number is 0. Returns whether there is a picture.
     [[nodiscard]] bool skipPicture();
 
 private:

@@ -31,14 +31,14 @@ struct DrawingElement
 {
     QLatin1String name;
     ObjectClass objectClass;
-    /// Why a page's own element of this name stays behind; nothing when it is imported.
+    /// Why a page's own element of this name is not imported; nothing if it is.
     std::optional<LossKind> lost;
 };
 
 /// The element that draws an object; null for every other name. Groups draw nothing.
 [[nodiscard]] const DrawingElement* drawingElement(const QString& name);
 
-/// Why the text and the objects in this element of a text stay behind; nothing for an
+/// Why the text and the objects in this element of a text are not imported; nothing for an
 /// element that holds neither, or is a plain part of a text.
 [[nodiscard]] std::optional<LossKind> lostTextPart(const QString& name);
 

@@ -18,7 +18,7 @@ inline constexpr QLatin1String AutomaticColor("automatic");
 class StyleBook
 {
 public:
-    /// Takes the start of an element that stands anywhere in the styles, its name in
+    /// Takes the start of any element in the styles, its name in
     /// OpenDocument's own form.
     void take(const QString& name, const QXmlStreamAttributes& attributes);
 

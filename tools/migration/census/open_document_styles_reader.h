@@ -22,7 +22,7 @@ struct PageLayout
     bool hasMargins = false;
 };
 
-/// The objects behind the page.
+/// The objects in the background of the page.
 struct MasterPage
 {
     QString name;
@@ -30,7 +30,7 @@ struct MasterPage
     Census census;
 };
 
-/// What styles.xml says.
+/// The content of styles.xml.
 struct Styles
 {
     StyleBook book;

@@ -69,7 +69,7 @@ private:
         bool hasParagraph = false;
         bool isDecided = false;    ///< a frame whose kind is known
         bool isOnPage = false;     ///< a frame that is anchored to the page
-        bool hasPosition = false;  ///< a frame that says where it is
+        bool hasPosition = false;  ///< a frame with a position
         bool isObject = false;     ///< a lost object: its texts are not those of its parents
         qsizetype appearance = -1; ///< of the shape or frame
         bool hasLine = false;      ///< a paragraph of its text has begun

@@ -5,9 +5,9 @@
 
 namespace migration {
 
-/// Why no parser is to see an XML document, for a person; empty when one may.
+/// User-visible reason why an XML document must not be parsed; empty if it may.
 [[nodiscard]] QString whyNotCountable(const QByteArray& xml);
-/// That a document is damaged, for a person.
+/// User-visible error: a damaged document.
 [[nodiscard]] QString notWellFormed(const QString& why);
 
 } // namespace migration

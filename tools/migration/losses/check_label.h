@@ -14,7 +14,7 @@ struct Reading
 {
     /// The page of a drawing that the label shows, from 1; 0 for all of a text document.
     int page = 1;
-    /// Whether repair should have put on the label what the reader leaves out.
+    /// Whether objects that the reader leaves out should be on the label after repair.
     bool isRepaired = false;
     /// Whether the label shows only some of the document's texts, as one of many pages of text.
     bool isPart = false;

@@ -27,7 +27,7 @@ struct ItemFacts
     int symbology = 0;    ///< of a barcode
     LossSet changes = {}; ///< visible on the item itself
 
-    // What it looks like, in points on the page.
+    // Its appearance, in points on the page.
     QPolygonF outline = {};    ///< corners of its box; the two ends of a line
     int level = 0;             ///< in the stack, from the bottom
     QString text = {};         ///< as shown

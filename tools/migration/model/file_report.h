@@ -169,6 +169,7 @@ enum class Verdict : quint8 {
 };
 inline constexpr int Verdicts = 4;
 
+/// The overall result for a file, from its status, losses and changes.
 [[nodiscard]] Verdict verdictOf(const FileReport& report);
 /// The verdict as reports write it: "complete", "changed", "lossy", "failed".
 [[nodiscard]] QString verdictName(Verdict verdict);

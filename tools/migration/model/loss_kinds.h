@@ -110,6 +110,7 @@ struct LossRow
 /// The row of a code; null for an unknown code.
 [[nodiscard]] const LossRow* lossRowOf(const QString& code);
 
+/// The stable code of reports, such as "font-replaced".
 [[nodiscard]] QString lossCode(LossKind kind);
 /// What happened, in the language of the program.
 [[nodiscard]] QString lossWords(LossKind kind);

@@ -32,6 +32,7 @@ private:
     [[nodiscard]] qint64& filesOf(Verdict verdict);
 };
 
+/// The last line of a report in JSON Lines.
 [[nodiscard]] QJsonObject toJson(const Totals& totals);
 
 } // namespace migration
