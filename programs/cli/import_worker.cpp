@@ -67,13 +67,15 @@ public:
     archive::FileResult run()
     {
         int pages = 1;
+        std::shared_ptr<repair::DocumentRepair> document;
         {
             OpenedLabel label = openLabel(m_input, m_options.asWritten);
             m_heartbeat();
             take(label, 1);
             pages = label.pageCount;
+            document = std::move(label.document);
         }
-        const bool isComplete = importFurtherPages(pages);
+        const bool isComplete = document == nullptr || importFurtherPages(*document, pages);
         migration::FileReport report = m_report.finish(isComplete);
         report.exports = exportReports(m_exports.all());
         m_result.report = migration::toJson(report);
@@ -82,11 +84,11 @@ public:
 
 private:
     // One after the other, so that only one is in memory. Returns whether there is a label of each.
-    bool importFurtherPages(int pages)
+    bool importFurtherPages(repair::DocumentRepair& document, int pages)
     {
         bool isComplete = true;
         for (int page = 2; page <= std::min(pages, repair::MaximumPages); ++page) {
-            OpenedLabel label = openFurtherPage(m_input, page);
+            OpenedLabel label = openFurtherPage(document, page);
             m_heartbeat();
             if (label.isOpen()) {
                 take(label, page);

@@ -1,6 +1,5 @@
 #include "cli/label_input.h"
 
-#include "repair/repaired_import.h"
 #include "workbench/document/label_file.h"
 
 #include <QFileInfo>
@@ -42,6 +41,7 @@ OpenedLabel opened(repair::RepairedImport import)
     label.repairs = std::move(import.repairs);
     label.package = std::move(import.package);
     label.pageCount = import.pageCount;
+    label.document = std::move(import.document);
     return label;
 }
 
@@ -63,9 +63,9 @@ OpenedLabel openLabel(const LabelInput& input, bool asWritten)
     return OpenedLabel{workbench::importLabel(input.path(), *input.reader())};
 }
 
-OpenedLabel openFurtherPage(const LabelInput& input, int page)
+OpenedLabel openFurtherPage(repair::DocumentRepair& document, int page)
 {
-    return opened(repair::importFurtherPage(input.path(), page));
+    return opened(repair::importFurtherPage(document, page));
 }
 
 } // namespace cli

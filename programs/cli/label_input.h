@@ -2,11 +2,12 @@
 
 #include "console/file_name.h"
 #include "importer/reader_choice.h"
-#include "repair/repair.h"
+#include "repair/repaired_import.h"
 #include "workbench/import/label_import.h"
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace cli {
@@ -41,12 +42,14 @@ struct OpenedLabel : workbench::ImportResult
     /// The repaired document that was imported; empty if it was not repaired.
     QByteArray package = {};
     int pageCount = 1; ///< of the document; further pages are labels of their own
+    /// Has the further pages; null if there are none.
+    std::shared_ptr<repair::DocumentRepair> document = {};
 };
 
 /// Opens the label; error says why that failed.
 /// @param asWritten without repair
 [[nodiscard]] OpenedLabel openLabel(const LabelInput& input, bool asWritten = false);
-/// Opens a further page of a document that was repaired, from 2.
-[[nodiscard]] OpenedLabel openFurtherPage(const LabelInput& input, int page);
+/// Opens a further page of a document that was repaired, from 2. Each can be opened once.
+[[nodiscard]] OpenedLabel openFurtherPage(repair::DocumentRepair& document, int page);
 
 } // namespace cli

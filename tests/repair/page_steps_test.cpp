@@ -10,7 +10,7 @@
 using namespace Qt::StringLiterals;
 using namespace repair;
 
-TEST(PageSteps, KeepOnePage)
+TEST(PageSteps, TakeThePages)
 {
     constexpr qint64 Bytes = 1 << 20;
     Document document(
@@ -20,9 +20,14 @@ TEST(PageSteps, KeepOnePage)
                   "</office:drawing></office:body></office:document-content>",
                   Bytes),
         {});
-    EXPECT_EQ(keepPage(document, 2), 3);
-    EXPECT_EQ(document.body()->children.size(), 1U);
-    EXPECT_EQ(document.page()->attribute(u"draw:name"), "2"_L1);
+    Node::Children pages = takePages(document);
+    ASSERT_EQ(pages.size(), 3U);
+    EXPECT_TRUE(document.body()->children.empty());
+    const Document second = document.withPage(std::move(pages[1]), 2);
+    EXPECT_EQ(second.pageNumber, 2);
+    EXPECT_EQ(second.body()->children.size(), 1U);
+    EXPECT_EQ(second.page()->attribute(u"draw:name"), "2"_L1);
+    EXPECT_EQ(document.page(), nullptr);
 }
 
 TEST(PageSteps, DissolveGroupsInTheirOrder)

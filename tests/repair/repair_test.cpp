@@ -157,62 +157,6 @@ TEST(Repair, ImportsAsWrittenWhatItCannotRepair)
     EXPECT_FALSE(repair::importRepaired(folder.filePath(u"missing.odg"_s)).result.isImported());
 }
 
-TEST(Repair, LaysOutTextDocuments)
-{
-    const QTemporaryDir folder;
-    const QByteArray content =
-        "<office:document-content><office:automatic-styles><style:style style:name=\"c\" "
-        "style:family=\"table-column\"><style:table-column-properties "
-        "style:column-width=\"2cm\"/></style:style></office:automatic-styles><office:body>"
-        "<office:text><text:p>one</text:p><text:p>two</text:p><table:table><table:table-column "
-        "table:style-name=\"c\" table:number-columns-repeated=\"2\"/><table:table-row>"
-        "<table:table-cell><text:p>left</text:p></table:table-cell><table:table-cell>"
-        "<text:p>right</text:p></table:table-cell></table:table-row></table:table>"
-        "<text:p>end</text:p><text:soft-page-break/><text:p>next page</text:p>"
-        "</office:text></office:body></office:document-content>";
-    const repair::RepairedImport import =
-        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
-    ASSERT_TRUE(import.isRepaired());
-    EXPECT_EQ(import.pageCount, 2);
-    QList<workbench::ItemValues> texts;
-    for (const workbench::CanvasItem* item : import.result.canvas->items()) {
-        if (item->shapeType() == KestTypes::RichText) {
-            texts.append(item->values());
-        }
-    }
-    ASSERT_EQ(texts.size(), 4);
-    const auto top = [&texts](int index) { return texts[index].placement.position.y(); };
-    const auto bottom = [&](int index) { return top(index) + texts[index].box.size.height(); };
-    EXPECT_NEAR(top(1), bottom(0), 0.01);
-    EXPECT_NEAR(top(2), top(1), 0.01);
-    EXPECT_NEAR(texts[2].placement.position.x(), 2 * 72 / 2.54, 0.01);
-    EXPECT_NEAR(top(3), bottom(1), 0.01);
-    EXPECT_TRUE(texts[3].text->html.contains("end"_L1));
-}
-
-TEST(Repair, BreaksTheLinesOfTextDocuments)
-{
-    const QTemporaryDir folder;
-    const QByteArray content =
-        "<office:document-content><office:automatic-styles><style:style style:name=\"t\" "
-        "style:family=\"text\"><style:text-properties fo:background-color=\"transparent\"/>"
-        "</style:style></office:automatic-styles><office:body><office:text><text:p><text:span "
-        "text:style-name=\"t\">" +
-        QByteArray("word ").repeated(100) +
-        "</text:span></text:p></office:text></office:body></office:document-content>";
-    const QByteArray noWrap = "<style:default-style style:family=\"graphic\">"
-                              "<style:graphic-properties fo:wrap-option=\"no-wrap\"/>"
-                              "</style:default-style>";
-    const repair::RepairedImport import =
-        repair::importRepaired(writePackage(folder.path(), content, drawingStyles(noWrap)));
-    ASSERT_TRUE(import.isRepaired());
-    const workbench::ItemValues text = import.result.canvas->items().back()->values();
-    ASSERT_EQ(text.type, KestTypes::RichText);
-    EXPECT_LE(text.box.size.width(), import.result.canvas->page().size.width() + 1.0);
-    EXPECT_GT(text.box.size.height(), 100.0);
-    EXPECT_FALSE(text.text->html.contains("background-color"_L1));
-}
-
 TEST(Repair, GivesEachPageADocumentOfItsOwn)
 {
     const QTemporaryDir folder;
@@ -220,10 +164,23 @@ TEST(Repair, GivesEachPageADocumentOfItsOwn)
     content.replace("</draw:page>", "</draw:page><draw:page><draw:ellipse svg:width=\"1in\" "
                                     "svg:height=\"1in\"/></draw:page>");
     const QString file = writePackage(folder.path(), content, drawingStyles());
-    const repair::RepairedImport second = repair::importFurtherPage(file, 2);
+    const repair::RepairedImport first = repair::importRepaired(file);
+    ASSERT_TRUE(first.document);
+    EXPECT_EQ(first.result.canvas->items().front()->shapeType(), KestTypes::Rectangle);
+    const repair::RepairedImport second = repair::importFurtherPage(*first.document, 2);
     EXPECT_EQ(second.pageCount, 2);
     ASSERT_EQ(second.result.canvas->items().size(), 1);
     EXPECT_EQ(second.result.canvas->items().front()->shapeType(), KestTypes::Ellipse);
+    EXPECT_FALSE(repair::importFurtherPage(*first.document, 2).isRepaired());
+    EXPECT_FALSE(repair::importFurtherPage(*first.document, 3).isRepaired());
+    // What concerns the document as a whole is counted once.
+    const auto converted = [](const repair::RepairedImport& import) {
+        return std::count_if(
+            import.repairs.begin(), import.repairs.end(),
+            [](const repair::Repair& each) { return each.code == "lengths-converted"_L1; });
+    };
+    EXPECT_EQ(converted(first), 1);
+    EXPECT_EQ(converted(second), 0);
 }
 
 TEST(Repair, DeclinesWhatItCannotRead)

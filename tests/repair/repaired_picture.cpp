@@ -23,8 +23,10 @@ int main(int argc, char** argv)
         return 2;
     }
     const int page = std::max(1, arguments.value(4).toInt());
-    const repair::RepairedImport import = page == 1 ? repair::importRepaired(arguments[1])
-                                                    : repair::importFurtherPage(arguments[1], page);
+    repair::RepairedImport import = repair::importRepaired(arguments[1]);
+    if (page > 1 && import.document) {
+        import = repair::importFurtherPage(*import.document, page);
+    }
     if (!import.result.isImported()) {
         out << import.result.error << '\n';
         return 1;

@@ -69,23 +69,6 @@ TEST(ShapeSteps, KeepPlainShapes)
     EXPECT_EQ(tags(document), "draw:rect draw:ellipse draw:line"_L1);
 }
 
-TEST(ShapeSteps, DrawGradientsInTheirColors)
-{
-    Document document = drawing(
-        "<draw:rect draw:style-name=\"g\" "_ba + Square + "><text:p>on it</text:p></draw:rect>",
-        "<style:style style:name=\"g\" style:family=\"graphic\"><style:graphic-properties "
-        "draw:fill=\"gradient\" draw:fill-gradient-name=\"G\"/></style:style>",
-        "<draw:gradient draw:name=\"G\" draw:style=\"linear\" draw:start-color=\"#ff0000\" "
-        "draw:end-color=\"#00ff00\"/>");
-    EXPECT_EQ(drawShapes(document), 1);
-    EXPECT_EQ(tags(document), "draw:frame draw:frame"_L1);
-    const QString svg = drawingOf(document);
-    EXPECT_TRUE(svg.contains("linearGradient"_L1));
-    EXPECT_TRUE(svg.contains("stop-color=\"#ff0000\""_L1));
-    const Node& text = *document.page()->children[1];
-    EXPECT_EQ(text.child(u"draw:text-box")->allText(), "on it"_L1);
-}
-
 TEST(ShapeSteps, DrawPolygonsInTheirPlace)
 {
     Document document =
@@ -167,6 +150,8 @@ TEST(ShapeSteps, SplitTablesIntoCells)
     EXPECT_EQ(splitTables(document), 1);
     EXPECT_EQ(tags(document), "draw:frame draw:frame draw:frame"_L1);
     const auto& cells = document.page()->children;
+    EXPECT_EQ(graphicOf(document, *cells[0]).value(u"draw:fill"_s), "solid"_L1);
+    EXPECT_EQ(graphicOf(document, *cells[0]).value(u"draw:fill-color"_s), "#729fcf"_L1);
     EXPECT_EQ(cells[1]->attribute(u"svg:x"), "3.000000in"_L1);
     EXPECT_EQ(cells[1]->allText(), "b"_L1);
     EXPECT_EQ(graphicOf(document, *cells[1]).value(u"draw:fill-color"_s), "#ff0000"_L1);

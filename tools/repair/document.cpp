@@ -61,6 +61,20 @@ bool Document::isText() const
     return inside != nullptr && inside->is(u"office:text");
 }
 
+Document Document::withPage(std::unique_ptr<Node> onlyPage, int number) const
+{
+    Document copy(styles->clone(), content->clone(), readMember);
+    copy.newMembers = newMembers;
+    copy.m_madeStyles = m_madeStyles;
+    copy.m_made = m_made;
+    copy.wasText = wasText;
+    copy.pageNumber = number;
+    Node& inside = *copy.body();
+    inside.children.clear();
+    inside.append(std::move(onlyPage));
+    return copy;
+}
+
 const StyleTable& Document::table()
 {
     if (!m_table) {

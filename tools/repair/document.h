@@ -30,7 +30,7 @@ public:
     MemberReader readMember;
     /// Pictures that were made, by their names in the package.
     QHash<QString, QByteArray> newMembers;
-    /// The page that is kept, from 1.
+    /// The page, from 1.
     int pageNumber = 1;
     /// Whether the page was laid out from a text document.
     bool wasText = false;
@@ -40,6 +40,10 @@ public:
     /// The page of a drawing; null for all other documents.
     [[nodiscard]] Node* page() const;
     [[nodiscard]] bool isText() const;
+
+    /// A drawing of one page, with everything else as it is here.
+    /// @param number of the page, from 1
+    [[nodiscard]] Document withPage(std::unique_ptr<Node> onlyPage, int number) const;
 
     /// The styles as they are now. The table is read again after a change of styles.
     [[nodiscard]] const StyleTable& table();

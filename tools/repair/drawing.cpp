@@ -222,7 +222,8 @@ Drawing makeDrawing(const std::vector<Outline>& outlines, const Properties& grap
 bool isPlainFill(const Properties& graphic)
 {
     const QString fill = graphic.value(u"draw:fill"_s);
-    return fill != "gradient"_L1 && fill != "hatch"_L1 && fill != "bitmap"_L1;
+    return fill != "gradient"_L1 && fill != "hatch"_L1 && fill != "bitmap"_L1 &&
+           (fill == "none"_L1 || !graphic.contains(u"draw:opacity-name"_s));
 }
 
 double shareOf(const QString& percent)

@@ -58,13 +58,19 @@ QList<double> rowHeights(const Document& document, const QList<Node*>& rows, dou
     return heights;
 }
 
-// Ground, border and padding of a cell in a drawing.
-Properties drawnCell(Document& document, const QString& style)
+// Ground, border and fonts of a cell in a drawing. What it does not state is that of shapes.
+StyleProperties drawnCell(Document& document, const QString& style)
 {
     const StyleProperties cell = document.table().resolved(u"table-cell"_s, style, true);
-    Properties graphic = cell.graphic;
-    addBorder(cell.paragraph, graphic);
-    return graphic;
+    const StyleProperties shapes = document.table().resolved(u"graphic"_s, u"standard"_s, true);
+    StyleProperties result;
+    result.graphic = {
+        {u"draw:fill"_s, shapes.graphic.value(u"draw:fill"_s, u"solid"_s)},
+        {u"draw:fill-color"_s, shapes.graphic.value(u"draw:fill-color"_s, u"#729fcf"_s)}};
+    result.text = shapes.text;
+    result.overlay(cell);
+    addBorder(cell.paragraph, result.graphic);
+    return result;
 }
 
 } // namespace
@@ -94,8 +100,9 @@ Node::Children drawnTableCells(Document& document, Node& frame)
             }
             if (cell->is(u"table:table-cell") && column < widths.size()) {
                 const QString own = cell->attribute(u"table:style-name");
-                auto box = textFrame(document, {x, y, width, heights[row]},
-                                     drawnCell(document, own.isEmpty() ? rowStyle : own));
+                const StyleProperties style = drawnCell(document, own.isEmpty() ? rowStyle : own);
+                auto box =
+                    textFrame(document, {x, y, width, heights[row]}, style.graphic, style.text);
                 takeParagraphs(*cell, *box->child(u"draw:text-box"), 0);
                 cells.push_back(std::move(box));
             }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace repair {
 
@@ -81,6 +82,19 @@ QString stop(double offset, const QString& color)
     return u"<stop offset=\"%1\" stop-color=\"%2\"/>"_s.arg(number(offset), color);
 }
 
+QString transparentStop(double offset, const QString& color, double opacity)
+{
+    return u"<stop offset=\"%1\" stop-color=\"%2\" stop-opacity=\"%3\"/>"_s.arg(
+        number(offset), color, number(opacity));
+}
+
+double borderOf(const Node& gradient)
+{
+    return gradient.hasAttribute(u"draw:border")
+               ? std::clamp(shareOf(gradient.attribute(u"draw:border")), 0.0, 1.0)
+               : 0.0;
+}
+
 QString linearGradient(const QString& id, const QRectF& box, double angle, const QString& stops)
 {
     const double radians = angle / DegreesPerRadian;
@@ -102,12 +116,35 @@ QString radialGradient(const QString& id, const QRectF& box, const Node& gradien
     const double cy =
         gradient.hasAttribute(u"draw:cy") ? shareOf(gradient.attribute(u"draw:cy")) : 0.5;
     const bool isRound = gradient.attribute(u"draw:style") == "radial"_L1;
-    const double radius = isRound ? std::hypot(box.width(), box.height()) / 2.0
-                                  : std::max(box.width(), box.height()) / 2.0;
-    return u"<radialGradient id=\"%1\" gradientUnits=\"userSpaceOnUse\" cx=\"%2\" cy=\"%3\" "
-           "r=\"%4\">%5</radialGradient>"_s.arg(id, number(box.x() + cx * box.width()),
-                                                number(box.y() + cy * box.height()), number(radius),
-                                                stops);
+    // Around the box: a circle, or an ellipse of its proportions.
+    const double rx =
+        isRound ? std::hypot(box.width(), box.height()) / 2.0 : box.width() / std::sqrt(2.0);
+    const double ry = isRound ? rx : box.height() / std::sqrt(2.0);
+    return u"<radialGradient id=\"%1\" gradientUnits=\"userSpaceOnUse\" cx=\"0\" cy=\"0\" "
+           "r=\"1\" gradientTransform=\"translate(%2 %3) rotate(%4) scale(%5 %6)\">%7"
+           "</radialGradient>"_s.arg(id, number(box.x() + cx * box.width()),
+                                     number(box.y() + cy * box.height()),
+                                     number(isRound ? 0.0 : -angleOf(gradient, u"draw:angle")),
+                                     number(rx), number(ry), stops);
+}
+
+// The first color is that of the edge of a radial gradient, and of the middle of an axial one.
+QString gradientOf(const QString& id, const QRectF& box, const Node& gradient,
+                   const std::function<QString(double)>& first,
+                   const std::function<QString(double)>& last)
+{
+    const double border = borderOf(gradient);
+    const QString style = gradient.attribute(u"draw:style");
+    const double angle = angleOf(gradient, u"draw:angle");
+    if (style == "linear"_L1) {
+        return linearGradient(id, box, angle, first(0.0) + first(border) + last(1.0));
+    }
+    if (style == "axial"_L1) {
+        return linearGradient(id, box, angle,
+                              last(0.0) + last(border / 2.0) + first(0.5) +
+                                  last(1.0 - border / 2.0) + last(1.0));
+    }
+    return radialGradient(id, box, gradient, last(0.0) + first(1.0 - border) + first(1.0));
 }
 
 // The parts of a horizontal line that are inside the polygons.
@@ -176,28 +213,30 @@ QString FillWriter::gradient(const QPainterPath& path, const Node& gradient,
                              const QString& attributes)
 {
     const QString id = u"g%1"_s.arg(++m_gradients);
-    const QString style = gradient.attribute(u"draw:style");
     const QString start = dimmed(colorName(gradient.attribute(u"draw:start-color"), u"#000000"_s),
                                  gradient.attribute(u"draw:start-intensity"));
     const QString end = dimmed(colorName(gradient.attribute(u"draw:end-color"), u"#ffffff"_s),
                                gradient.attribute(u"draw:end-intensity"));
-    const double border = gradient.hasAttribute(u"draw:border")
-                              ? std::clamp(shareOf(gradient.attribute(u"draw:border")), 0.0, 1.0)
-                              : 0.0;
-    const QRectF box = path.boundingRect();
-    if (style == "linear"_L1) {
-        m_definitions += linearGradient(id, box, angleOf(gradient, u"draw:angle"),
-                                        stop(0.0, start) + stop(border, start) + stop(1.0, end));
-    } else if (style == "axial"_L1) {
-        m_definitions +=
-            linearGradient(id, box, angleOf(gradient, u"draw:angle"),
-                           stop(0.0, start) + stop(border / 2.0, start) + stop(0.5, end) +
-                               stop(1.0 - border / 2.0, start) + stop(1.0, start));
-    } else {
-        m_definitions += radialGradient(
-            id, box, gradient, stop(0.0, end) + stop(1.0 - border, start) + stop(1.0, start));
-    }
+    m_definitions += gradientOf(
+        id, path.boundingRect(), gradient, [&start](double offset) { return stop(offset, start); },
+        [&end](double offset) { return stop(offset, end); });
     return plain(path, u"url(#%1)"_s.arg(id), attributes);
+}
+
+QString FillWriter::transparency(const QPainterPath& path, const QString& color,
+                                 const Node& opacity)
+{
+    const QString id = u"g%1"_s.arg(++m_gradients);
+    const auto shareAt = [&opacity](QStringView end) {
+        return std::clamp(shareOf(opacity.attribute(end)), 0.0, 1.0);
+    };
+    const double start = shareAt(u"draw:start");
+    const double end = shareAt(u"draw:end");
+    m_definitions += gradientOf(
+        id, path.boundingRect(), opacity,
+        [&color, start](double offset) { return transparentStop(offset, color, start); },
+        [&color, end](double offset) { return transparentStop(offset, color, end); });
+    return plain(path, u"url(#%1)"_s.arg(id), {});
 }
 
 QString FillWriter::fill(const QPainterPath& path, const Properties& graphic,
@@ -223,6 +262,10 @@ QString FillWriter::fill(const QPainterPath& path, const Properties& graphic,
         const bool isSolid = graphic.value(u"draw:fill-hatch-solid"_s) == "true"_L1;
         return (isSolid ? plain(path, color, attributes) : QString()) +
                hatch(path, hatchNode != nullptr ? *hatchNode : unknownHatch());
+    }
+    if (const Node* const opacityNode =
+            table.named(u"draw:opacity"_s, graphic.value(u"draw:opacity-name"_s))) {
+        return transparency(path, color, *opacityNode);
     }
     return plain(path, color, attributes);
 }

@@ -20,6 +20,8 @@ public:
 private:
     [[nodiscard]] QString gradient(const QPainterPath& path, const Node& gradient,
                                    const QString& attributes);
+    [[nodiscard]] QString transparency(const QPainterPath& path, const QString& color,
+                                       const Node& opacity);
 
     QString m_definitions;
     int m_gradients = 0;

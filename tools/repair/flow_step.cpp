@@ -31,20 +31,19 @@ bool isShape(const Node& node)
     return node.name.startsWith("draw:"_L1) && !node.is(u"draw:a");
 }
 
-/// Lays out the blocks of the body, page by page, and keeps those of one page.
+/// Lays out the blocks of the body, page by page.
 class FlowWriter
 {
 public:
-    FlowWriter(Document& document, const PageArea& area, int wanted)
+    FlowWriter(Document& document, const PageArea& area)
         : m_document(document)
         , m_area(area)
-        , m_wanted(wanted)
     {}
 
     void readBlocks(Node& parent, int depth);
     void endText();
-    [[nodiscard]] int pages() const { return m_page; }
-    [[nodiscard]] Node::Children takeObjects() { return std::move(m_objects); }
+    /// The objects of each page.
+    [[nodiscard]] std::vector<Node::Children> take() { return std::move(m_pages); }
 
 private:
     void readParagraph(std::unique_ptr<Node> paragraph);
@@ -53,25 +52,24 @@ private:
     void placeShape(std::unique_ptr<Node> shape);
     void breakPage();
     [[nodiscard]] bool startsPage(const Node& paragraph) const;
-    [[nodiscard]] bool isWanted() const { return m_page == m_wanted; }
+    [[nodiscard]] Node::Children& objects() { return m_pages.back(); }
 
     Document& m_document;
     const PageArea m_area;
-    const int m_wanted;
-    int m_page = 1;
-    int m_row = 0;
+    int m_row = 0;         // of the present page
     bool m_isEmpty = true; // the present page
     bool m_breaksAfter = false;
     qsizetype m_characters = 0; // of the present page
     Node::Children m_text;
-    Node::Children m_objects;
+    std::vector<Node::Children> m_pages{1};
 };
 
 void FlowWriter::breakPage()
 {
     if (!m_isEmpty) {
         endText();
-        ++m_page;
+        m_pages.emplace_back();
+        m_row = 0;
         m_isEmpty = true;
         m_characters = 0;
     }
@@ -172,14 +170,11 @@ void writeFrameStyle(Document& document, Node& frame)
 void FlowWriter::placeShape(std::unique_ptr<Node> shape)
 {
     m_isEmpty = false;
-    if (!isWanted()) {
-        return;
-    }
     if (shape->is(u"draw:frame")) {
         writeFrameStyle(m_document, *shape);
     }
     if (shape->attribute(u"text:anchor-type") == "page"_L1) {
-        m_objects.push_back(std::move(shape));
+        objects().push_back(std::move(shape));
         return;
     }
     endText();
@@ -198,30 +193,28 @@ void FlowWriter::placeShape(std::unique_ptr<Node> shape)
         shape->setAttribute(u"svg:y"_s, u"0in"_s);
     }
     shape->setAttribute(RowAttribute, QString::number(++m_row));
-    m_objects.push_back(std::move(shape));
+    objects().push_back(std::move(shape));
 }
 
 void FlowWriter::readTable(Node& table)
 {
     m_isEmpty = false;
     endText();
-    if (isWanted()) {
-        Node::Children cells = tableCells(m_document, table, m_area.box, m_row);
-        std::move(cells.begin(), cells.end(), std::back_inserter(m_objects));
-    }
+    Node::Children cells = tableCells(m_document, table, m_area.box, m_row);
+    std::move(cells.begin(), cells.end(), std::back_inserter(objects()));
 }
 
 void FlowWriter::endText()
 {
     Node::Children text = std::move(m_text);
     m_text.clear();
-    if (text.empty() || !isWanted()) {
+    if (text.empty()) {
         return;
     }
     auto frame = textFrame(m_document, {m_area.box.left(), 0.0, m_area.box.width(), 0.0}, {});
     frame->setAttribute(RowAttribute, QString::number(++m_row));
     frame->child(u"draw:text-box")->children = std::move(text);
-    m_objects.push_back(std::move(frame));
+    objects().push_back(std::move(frame));
 }
 
 // Header and footer: texts of the master page.
@@ -232,9 +225,8 @@ void addMargin(Document& document, const Node* margin, const PageArea& area, boo
         return;
     }
     QRectF box = area.box;
-    const double height = 14.0;
-    box.setTop(isHeader ? area.headerTop : area.footerBottom - height);
-    box.setHeight(height);
+    box.setTop(isHeader ? area.headerTop : area.footerTop);
+    box.setHeight(linesHeight(document, *margin));
     auto frame = textFrame(document, box, {});
     for (const auto& child : margin->children) {
         if (isParagraph(*child) || child->is(u"text:list")) {
@@ -259,32 +251,39 @@ Node::Children textLast(Node::Children objects)
     return objects;
 }
 
-} // namespace
-
-int layOutTextPage(Document& document, int number)
+std::unique_ptr<Node> pageOf(Document& document, const PageArea& area, Node::Children objects)
 {
-    if (!document.isText()) {
-        return 0;
-    }
-    const PageArea area = pageArea(document);
-    FlowWriter writer(document, area, number);
-    writer.readBlocks(*document.body(), 0);
-    writer.endText();
     auto page = Node::element(u"draw:page"_s);
-    page->children = textLast(writer.takeObjects());
+    page->children = textLast(std::move(objects));
     page->setAttribute(TopAttribute, toInches(area.box.top()));
     if (const Node* const master = masterPage(document)) {
         addMargin(document, master->child(u"style:header"), area, true, page->children);
         addMargin(document, master->child(u"style:footer"), area, false, page->children);
         page->setAttribute(u"draw:master-page-name"_s, master->attribute(u"style:name"));
     }
+    return page;
+}
+
+} // namespace
+
+Node::Children layOutPages(Document& document)
+{
+    if (!document.isText()) {
+        return {};
+    }
+    const PageArea area = pageArea(document);
+    FlowWriter writer(document, area);
+    writer.readBlocks(*document.body(), 0);
+    writer.endText();
+    Node::Children pages;
+    for (Node::Children& objects : writer.take()) {
+        pages.push_back(pageOf(document, area, std::move(objects)));
+    }
     Node& body = *document.body();
     body.name = u"office:drawing"_s;
     body.children.clear();
-    body.append(std::move(page));
     document.wasText = true;
-    document.pageNumber = number;
-    return writer.pages();
+    return pages;
 }
 
 } // namespace repair

@@ -1,20 +1,19 @@
 #pragma once
 
+#include "repair/document.h"
+
 #include <QString>
 
 namespace repair {
 
-class Document;
-
-/// Turns one page of a text document into a drawing: its text becomes text boxes without a
+/// Turns a text document into a drawing, and returns its pages. Text becomes text boxes without a
 /// position, one below the other, and pictures, shapes and tables are placed between them.
 ///
 /// Each object gets the row of the page that it is in, and the place and size in it; the rows
 /// are placed when the heights of the texts are known.
 ///
-/// @param number of the page, from 1
-/// @return how many pages the document has; 0 if it is not a text document
-int layOutTextPage(Document& document, int number);
+/// @return none if it is not a text document; else the body is then an empty drawing
+[[nodiscard]] Node::Children layOutPages(Document& document);
 
 /// Where the first row of a page begins.
 inline const QString TopAttribute = QLatin1String("labelport:top");

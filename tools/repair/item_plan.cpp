@@ -5,6 +5,7 @@
 #include "repair/flow_step.h"
 #include "repair/html.h"
 #include "repair/lengths.h"
+#include "repair/page_area.h"
 #include "repair/shape_parts.h"
 #include "repair/shape_steps.h"
 #include "repair/transform.h"
@@ -25,9 +26,6 @@ constexpr double DefaultSidePadding = 7.087;
 constexpr double DefaultTopPadding = 3.543;
 // Below this luminance, from 0 to 255, automatic text is white.
 constexpr int DarkLuminance = 62;
-// Of a line: its height per font size, and the size where none is given.
-constexpr double LineShare = 1.15;
-constexpr double DefaultSize = 12.0;
 
 int luminance(const QColor& color)
 {
@@ -141,18 +139,6 @@ TextPlan planText(Document& document, const Node& shape, const Node& container,
     return plan;
 }
 
-// What paragraphs without a letter take.
-double blankHeight(Document& document, const Node& container)
-{
-    double height = 0.0;
-    for (const auto& child : container.children) {
-        const QString style = child->attribute(u"text:style-name");
-        const Properties text = document.table().resolved(u"paragraph"_s, style, false).text;
-        height += LineShare * toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultSize);
-    }
-    return height;
-}
-
 void planRow(Document& document, const Node& shape, const Node& container,
              const Properties& graphic, ItemPlan& plan)
 {
@@ -162,7 +148,9 @@ void planRow(Document& document, const Node& shape, const Node& container,
         plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding) +
                      outerSpace(document, container, false);
     } else if (shape.child(u"draw:text-box") != nullptr) {
-        plan.space = blankHeight(document, container);
+        plan.space = linesHeight(document, container) +
+                     padding(graphic, u"top"_s, DefaultTopPadding) +
+                     padding(graphic, u"bottom"_s, DefaultTopPadding);
     }
 }
 

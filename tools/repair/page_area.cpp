@@ -11,17 +11,35 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// A header or footer takes its own height and its distance from the text.
-double marginHeight(const Node& layout, const QString& tag, const QString& side)
+// Of a line: its height per font size, and the size where none is given.
+constexpr double LineShare = 1.15;
+constexpr double DefaultSize = 12.0;
+
+/// A header or footer, in points.
+struct Margin
 {
-    const Node* const style = layout.child(tag);
+    double height = 0.0;
+    double distance = 0.0; // from the text
+};
+
+// A header grows with its text.
+Margin marginOf(Document& document, const Node& layout, const QString& kind, const QString& side)
+{
+    const Node* const master = masterPage(document);
+    const Node* const content = master != nullptr ? master->child(u"style:"_s + kind) : nullptr;
+    if (content == nullptr) {
+        return {};
+    }
+    Margin margin{linesHeight(document, *content), 0.0};
+    const Node* const style = layout.child(u"style:%1-style"_s.arg(kind));
     const Node* const properties =
         style != nullptr ? style->child(u"style:header-footer-properties") : nullptr;
-    if (properties == nullptr) {
-        return 0.0;
+    if (properties != nullptr) {
+        margin.height = std::max({margin.height, pointsOf(*properties, u"fo:min-height"),
+                                  pointsOf(*properties, u"svg:height")});
+        margin.distance = pointsOf(*properties, side);
     }
-    return std::max(pointsOf(*properties, u"fo:min-height"), pointsOf(*properties, u"svg:height")) +
-           pointsOf(*properties, side);
+    return margin;
 }
 
 } // namespace
@@ -51,10 +69,23 @@ Node* masterPage(const Document& document)
     return named != nullptr ? named : masters->child(u"style:master-page");
 }
 
-PageArea pageArea(const Document& document)
+double linesHeight(Document& document, const Node& container)
+{
+    double height = 0.0;
+    for (const auto& child : container.children) {
+        if (!child->isText()) {
+            const QString style = child->attribute(u"text:style-name");
+            const Properties text = document.table().resolved(u"paragraph"_s, style, true).text;
+            height += LineShare * toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultSize);
+        }
+    }
+    return height;
+}
+
+PageArea pageArea(Document& document)
 {
     // A page that is not described has the reader's default.
-    PageArea area{QRectF(0.0, 0.0, 612.0, 792.0), 0.0, 792.0};
+    PageArea area{QRectF(0.0, 0.0, 612.0, 792.0), 0.0, 792.0, 792.0};
     const Node* const automatic = document.styles->child(u"office:automatic-styles");
     const Node* const layout =
         automatic != nullptr ? automatic->child(u"style:page-layout") : nullptr;
@@ -71,15 +102,11 @@ PageArea pageArea(const Document& document)
     const double height = toPoints(page->attribute(u"fo:page-height")).value_or(792.0);
     area.headerTop = margin(u"top"_s);
     area.footerBottom = height - margin(u"bottom"_s);
-    const Node* const master = masterPage(document);
-    const bool hasHeader = master != nullptr && master->child(u"style:header") != nullptr;
-    const bool hasFooter = master != nullptr && master->child(u"style:footer") != nullptr;
-    const double header =
-        hasHeader ? marginHeight(*layout, u"style:header-style"_s, u"fo:margin-bottom"_s) : 0.0;
-    const double footer =
-        hasFooter ? marginHeight(*layout, u"style:footer-style"_s, u"fo:margin-top"_s) : 0.0;
-    area.box = QRectF(QPointF(margin(u"left"_s), area.headerTop + header),
-                      QPointF(width - margin(u"right"_s), area.footerBottom - footer));
+    const Margin header = marginOf(document, *layout, u"header"_s, u"fo:margin-bottom"_s);
+    const Margin footer = marginOf(document, *layout, u"footer"_s, u"fo:margin-top"_s);
+    area.footerTop = area.footerBottom - footer.height;
+    area.box = QRectF(QPointF(margin(u"left"_s), area.headerTop + header.height + header.distance),
+                      QPointF(width - margin(u"right"_s), area.footerTop - footer.distance));
     return area;
 }
 

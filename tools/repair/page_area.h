@@ -19,10 +19,14 @@ struct PageArea
 {
     QRectF box;
     double headerTop = 0.0;
+    double footerTop = 0.0;
     double footerBottom = 0.0;
 };
 
 /// The area that the page's margins, header and footer leave.
-[[nodiscard]] PageArea pageArea(const Document& document);
+[[nodiscard]] PageArea pageArea(Document& document);
+
+/// The least height of paragraphs, one line each, in points.
+[[nodiscard]] double linesHeight(Document& document, const Node& container);
 
 } // namespace repair

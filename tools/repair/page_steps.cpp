@@ -140,18 +140,16 @@ void takeOut(Node& group, const QTransform& outer, Node::Children& objects)
 
 } // namespace
 
-int keepPage(Document& document, int number)
+Node::Children takePages(Document& document)
 {
     Node* const body = document.body();
     if (body == nullptr || !body->is(u"office:drawing")) {
-        return 1;
+        return {};
     }
-    int count = 0;
-    std::erase_if(body->children, [&count, number](const auto& child) {
-        return child->isText() || !child->is(u"draw:page") || ++count != number;
-    });
-    document.pageNumber = number;
-    return count;
+    Node::Children pages = std::move(body->children);
+    body->children.clear();
+    std::erase_if(pages, [](const auto& child) { return !child->is(u"draw:page"); });
+    return pages;
 }
 
 int usePageLayout(Document& document)

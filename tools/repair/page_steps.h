@@ -1,13 +1,11 @@
 #pragma once
 
+#include "repair/document.h"
+
 namespace repair {
 
-class Document;
-
-/// Removes all pages of a drawing but one.
-/// @param number from 1
-/// @return how many pages the drawing has; 1 for other documents
-int keepPage(Document& document, int number);
+/// Takes the pages of a drawing out of its body, which is then empty. None of other documents.
+[[nodiscard]] Node::Children takePages(Document& document);
 
 // Each step returns how often it changed something.
 

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace repair {
 
@@ -126,29 +127,60 @@ void rewrite(Document& document, QList<Repair>& repairs)
 
 } // namespace
 
+DocumentRepair::DocumentRepair(const QString& fileName)
+    : m_package(std::make_unique<Package>(fileName))
+{
+    std::optional<Document> document = m_package->readDocument();
+    if (!document) {
+        return;
+    }
+    m_document = std::make_unique<Document>(std::move(*document));
+    note(m_repairs, "lengths-converted"_L1, convertAllLengths(*m_document));
+    if (m_document->isText()) {
+        note(m_repairs, "page-layout-chosen"_L1, usePageLayout(*m_document));
+        note(m_repairs, "text-laid-out"_L1, 1);
+        m_pages = layOutPages(*m_document);
+    } else {
+        m_pages = takePages(*m_document);
+    }
+}
+
+DocumentRepair::~DocumentRepair() = default;
+
+// The whole document for its only page; else a copy, which shares the characters.
+Document DocumentRepair::documentOf(int number)
+{
+    std::unique_ptr<Node> page = std::move(m_pages.at(static_cast<std::size_t>(number - 1)));
+    if (m_pages.size() > 1) {
+        return m_document->withPage(std::move(page), number);
+    }
+    m_document->body()->append(std::move(page));
+    return std::move(*m_document);
+}
+
+std::optional<RepairedPage> DocumentRepair::takePage(int number)
+{
+    const bool isThere = number >= 1 && number <= std::min(pageCount(), MaximumPages) &&
+                         m_pages.at(static_cast<std::size_t>(number - 1)) != nullptr;
+    if (!isThere) {
+        return std::nullopt;
+    }
+    Document document = documentOf(number);
+    RepairedPage page;
+    page.pageCount = pageCount();
+    page.repairs = std::exchange(m_repairs, {});
+    if (!document.wasText) {
+        note(page.repairs, "page-layout-chosen"_L1, usePageLayout(document));
+    }
+    rewrite(document, page.repairs);
+    page.plan = planItems(document);
+    page.package = m_package->written(document);
+    return page.package.isEmpty() ? std::nullopt : std::optional(std::move(page));
+}
+
 std::optional<RepairedPage> repairPage(const QString& fileName, int number)
 {
-    if (number > MaximumPages) {
-        return std::nullopt;
-    }
-    Package package(fileName);
-    std::optional<Document> document = package.readDocument();
-    if (!document) {
-        return std::nullopt;
-    }
-    RepairedPage page;
-    note(page.repairs, "lengths-converted"_L1, convertAllLengths(*document));
-    note(page.repairs, "page-layout-chosen"_L1, usePageLayout(*document));
-    page.pageCount =
-        document->isText() ? layOutTextPage(*document, number) : keepPage(*document, number);
-    if (document->page() == nullptr || number > page.pageCount) {
-        return std::nullopt;
-    }
-    note(page.repairs, "text-laid-out"_L1, document->wasText ? 1 : 0);
-    rewrite(*document, page.repairs);
-    page.plan = planItems(*document);
-    page.package = package.written(*document);
-    return page.package.isEmpty() ? std::nullopt : std::optional(std::move(page));
+    return DocumentRepair(fileName).takePage(number);
 }
 
 QString repairText(const Repair& repair)

@@ -6,11 +6,17 @@
 #include <QList>
 #include <QString>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace repair {
 
-/// Most pages of a document that become labels of their own. Each takes as long as the first.
+class Document;
+class Node;
+class Package;
+
+/// Most pages of a document that become labels of their own.
 inline constexpr int MaximumPages = 200;
 
 /// One kind of repair that was made.
@@ -35,11 +41,33 @@ struct RepairedPage
     int pageCount = 1;
 };
 
-/// Rewrites one page of an OpenDocument drawing or text. The file is only read, and nothing that it
-/// names is opened.
-///
+/// Rewrites the pages of an OpenDocument drawing or text. The file is only read, once, and nothing
+/// that it names is opened.
+class DocumentRepair
+{
+public:
+    /// Has no pages if the file is not such a document, or damaged, or larger than the limits.
+    explicit DocumentRepair(const QString& fileName);
+    ~DocumentRepair();
+
+    [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
+    /// One page, which is then no longer in memory: each can be taken once.
+    ///
+    /// @param number of the page, from 1
+    /// @return nothing for a page that is not there, was taken, or is too large
+    [[nodiscard]] std::optional<RepairedPage> takePage(int number);
+
+private:
+    [[nodiscard]] Document documentOf(int number);
+
+    std::unique_ptr<Package> m_package;
+    std::unique_ptr<Document> m_document; // without its pages; null if it cannot be repaired
+    std::vector<std::unique_ptr<Node>> m_pages;
+    QList<Repair> m_repairs; // of the document as a whole
+};
+
+/// One page of a file.
 /// @param number of the page, from 1
-/// @return nothing if the file is not such a document, or damaged, or larger than the limits
 [[nodiscard]] std::optional<RepairedPage> repairPage(const QString& fileName, int number = 1);
 
 /// A sentence for the user about a repair; the code itself if it is unknown.

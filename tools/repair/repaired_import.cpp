@@ -20,10 +20,10 @@ workbench::ImportResult importPackage(const QByteArray& package)
     return workbench::importLabel(file.fileName(), ReaderKind::OpenDocument);
 }
 
-RepairedImport importPage(const QString& fileName, int page)
+RepairedImport importPage(DocumentRepair& document, int page)
 {
     RepairedImport import;
-    std::optional<RepairedPage> repaired = repairPage(fileName, page);
+    std::optional<RepairedPage> repaired = document.takePage(page);
     if (!repaired) {
         return import;
     }
@@ -37,21 +37,35 @@ RepairedImport importPage(const QString& fileName, int page)
     return import;
 }
 
-} // namespace
-
-RepairedImport importFurtherPage(const QString& fileName, int page)
+// The repaired document is larger than the original, which may still fit into memory.
+RepairedImport importFirstPage(const QString& fileName)
 {
     try {
-        return importPage(fileName, page);
+        auto document = std::make_shared<DocumentRepair>(fileName);
+        RepairedImport import = importPage(*document, 1);
+        if (import.pageCount > 1) {
+            import.document = std::move(document);
+        }
+        return import;
     } catch (const std::bad_alloc&) {
-        // The repaired document is larger than the original, which may still fit.
+        return {};
+    }
+}
+
+} // namespace
+
+RepairedImport importFurtherPage(DocumentRepair& document, int page)
+{
+    try {
+        return importPage(document, page);
+    } catch (const std::bad_alloc&) {
         return {};
     }
 }
 
 RepairedImport importRepaired(const QString& fileName)
 {
-    RepairedImport import = importFurtherPage(fileName, 1);
+    RepairedImport import = importFirstPage(fileName);
     if (!import.isRepaired()) {
         import.result = workbench::importLabel(fileName, ReaderKind::OpenDocument);
         if (import.result.isImported()) {

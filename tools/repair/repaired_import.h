@@ -4,6 +4,8 @@
 
 #include "workbench/import/label_import.h"
 
+#include <memory>
+
 namespace repair {
 
 /// One page of a document on a canvas.
@@ -16,6 +18,8 @@ struct RepairedImport
     QByteArray package;
     /// Pages of the document; 1 if it could not be repaired.
     int pageCount = 1;
+    /// Has the further pages; null if there are none.
+    std::shared_ptr<DocumentRepair> document;
 
     [[nodiscard]] bool isRepaired() const { return !package.isEmpty(); }
 };
@@ -25,9 +29,9 @@ struct RepairedImport
 /// written; an issue of the result mentions that.
 [[nodiscard]] RepairedImport importRepaired(const QString& fileName);
 
-/// The same for one of its further pages, which cannot be imported without repair.
+/// Imports a further page of a document, once, which cannot be imported without repair.
 ///
 /// @param page from 2
-[[nodiscard]] RepairedImport importFurtherPage(const QString& fileName, int page);
+[[nodiscard]] RepairedImport importFurtherPage(DocumentRepair& document, int page);
 
 } // namespace repair

@@ -5,6 +5,7 @@
 #include "repair/lengths.h"
 
 #include <QList>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -14,15 +15,19 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-Properties cellProperties(const Document& document, const QString& style)
+const QString BackgroundColor = u"fo:background-color"_s;
+
+// What the style of a table, row, column or cell states.
+Properties statedBy(const Document& document, const Node& part, const QString& tag)
 {
     Properties result;
+    const QString style = part.attribute(u"table:style-name");
     const Node* const automatic = document.content->child(u"office:automatic-styles");
-    if (automatic == nullptr) {
+    if (automatic == nullptr || style.isEmpty()) {
         return result;
     }
     for (const auto& each : automatic->children) {
-        const Node* const properties = each->child(u"style:table-cell-properties");
+        const Node* const properties = each->child(tag);
         if (properties != nullptr && each->attribute(u"style:name") == style) {
             for (const Attribute& attribute : properties->attributes) {
                 result.insert(attribute.name, attribute.value);
@@ -32,25 +37,22 @@ Properties cellProperties(const Document& document, const QString& style)
     return result;
 }
 
-double columnShare(const Document& document, const QString& style)
+// The first color that is given, of a cell, its row, and its table.
+QString firstColor(const QStringList& colors)
 {
-    const Node* const automatic = document.content->child(u"office:automatic-styles");
-    if (automatic != nullptr) {
-        for (const auto& each : automatic->children) {
-            const Node* const properties = each->child(u"style:table-column-properties");
-            if (properties != nullptr && each->attribute(u"style:name") == style) {
-                return pointsOf(*properties, u"style:column-width");
-            }
-        }
-    }
-    return 0.0;
+    const auto found = std::find_if(colors.begin(), colors.end(),
+                                    [](const QString& color) { return color.startsWith(u'#'); });
+    return found != colors.end() ? *found : QString();
 }
 
 void readColumns(const Document& document, const Node& parent, QList<double>& widths)
 {
     for (const auto& child : parent.children) {
         if (child->is(u"table:table-column")) {
-            const double width = columnShare(document, child->attribute(u"table:style-name"));
+            const double width =
+                toPoints(statedBy(document, *child, u"style:table-column-properties"_s)
+                             .value(u"style:column-width"_s))
+                    .value_or(0.0);
             const int count = repeats(*child, u"table:number-columns-repeated", MaximumColumns);
             for (int i = 0; i < count && widths.size() < MaximumColumns; ++i) {
                 widths.append(width);
@@ -61,12 +63,11 @@ void readColumns(const Document& document, const Node& parent, QList<double>& wi
     }
 }
 
-Properties groundOf(const Properties& cell)
+Properties groundOf(const Properties& cell, const QString& fill)
 {
     Properties ground;
     addBorder(cell, ground);
-    const QString fill = cell.value(u"fo:background-color"_s);
-    if (fill.startsWith(u'#')) {
+    if (!fill.isEmpty()) {
         ground.insert(u"draw:fill"_s, u"solid"_s);
         ground.insert(u"draw:fill-color"_s, fill);
     }
@@ -82,10 +83,11 @@ Properties groundOf(const Properties& cell)
 class TableReader
 {
 public:
-    TableReader(Document& document, QList<double> widths, double left, int& row)
+    TableReader(Document& document, QList<double> widths, double left, QString fill, int& row)
         : m_document(document)
         , m_widths(std::move(widths))
         , m_left(left)
+        , m_fill(std::move(fill))
         , m_row(row)
     {}
 
@@ -99,6 +101,7 @@ private:
     Document& m_document;
     const QList<double> m_widths;
     const double m_left;
+    const QString m_fill; // color of the table; may be empty
     int& m_row;
     int m_rows = 0;
     Node::Children m_cells;
@@ -116,6 +119,8 @@ double TableReader::widthOf(qsizetype column, int span) const
 void TableReader::readRow(Node& row)
 {
     ++m_row;
+    const QString rowFill =
+        statedBy(m_document, row, u"style:table-row-properties"_s).value(BackgroundColor);
     qsizetype column = 0;
     for (const auto& cell : row.children) {
         const int count = repeats(*cell, u"table:number-columns-repeated", MaximumColumns);
@@ -123,9 +128,9 @@ void TableReader::readRow(Node& row)
             const int span = repeats(*cell, u"table:number-columns-spanned", MaximumColumns);
             const QRectF box(m_left + widthOf(0, static_cast<int>(column)), 0.0,
                              widthOf(column, span), 0.0);
-            const Properties style =
-                cellProperties(m_document, cell->attribute(u"table:style-name"));
-            auto frame = textFrame(m_document, box, groundOf(style));
+            const Properties style = statedBy(m_document, *cell, u"style:table-cell-properties"_s);
+            const QString fill = firstColor({style.value(BackgroundColor), rowFill, m_fill});
+            auto frame = textFrame(m_document, box, groundOf(style, fill));
             frame->setAttribute(RowAttribute, QString::number(m_row));
             frame->setAttribute(FillsRowAttribute, u"true"_s);
             takeParagraphs(*cell, *frame->child(u"draw:text-box"), 0);
@@ -200,9 +205,11 @@ void addBorder(const Properties& source, Properties& target)
     }
 }
 
-std::unique_ptr<Node> textFrame(Document& document, const QRectF& box, const Properties& graphic)
+std::unique_ptr<Node> textFrame(Document& document, const QRectF& box, const Properties& graphic,
+                                const Properties& text)
 {
     StyleProperties style;
+    style.text = text;
     style.graphic = {{u"draw:stroke"_s, u"none"_s},
                      {u"draw:fill"_s, u"none"_s},
                      {u"fo:padding"_s, u"0in"_s},
@@ -226,7 +233,10 @@ std::unique_ptr<Node> textFrame(Document& document, const QRectF& box, const Pro
 
 Node::Children tableCells(Document& document, Node& table, const QRectF& area, int& row)
 {
-    TableReader reader(document, columnWidths(document, table, area.width()), area.left(), row);
+    const QString fill =
+        statedBy(document, table, u"style:table-properties"_s).value(BackgroundColor);
+    TableReader reader(document, columnWidths(document, table, area.width()), area.left(), fill,
+                       row);
     reader.readRows(table, 0);
     return reader.take();
 }

@@ -13,8 +13,10 @@ class Document;
 /// A text box without padding at a place of the page.
 ///
 /// @param graphic further properties of its style
+/// @param text    of its style
 [[nodiscard]] std::unique_ptr<Node> textFrame(Document& document, const QRectF& box,
-                                              const Properties& graphic);
+                                              const Properties& graphic,
+                                              const Properties& text = {});
 
 /// States the border of a frame or cell as a pen. Items have one for all sides.
 void addBorder(const Properties& source, Properties& target);

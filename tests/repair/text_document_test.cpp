@@ -1,0 +1,124 @@
+// Text documents as labels: paragraphs, tables and headers get their places.
+
+#include "tests/repair/documents.h"
+
+#include "repair/repaired_import.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(TextDocument, IsLaidOut)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles><style:style style:name=\"c\" "
+        "style:family=\"table-column\"><style:table-column-properties "
+        "style:column-width=\"2cm\"/></style:style></office:automatic-styles><office:body>"
+        "<office:text><text:p>one</text:p><text:p>two</text:p><table:table><table:table-column "
+        "table:style-name=\"c\" table:number-columns-repeated=\"2\"/><table:table-row>"
+        "<table:table-cell><text:p>left</text:p></table:table-cell><table:table-cell>"
+        "<text:p>right</text:p></table:table-cell></table:table-row></table:table>"
+        "<text:p>end</text:p><text:soft-page-break/><text:p>next page</text:p>"
+        "</office:text></office:body></office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+    ASSERT_TRUE(import.isRepaired());
+    EXPECT_EQ(import.pageCount, 2);
+    QList<workbench::ItemValues> texts;
+    for (const workbench::CanvasItem* item : import.result.canvas->items()) {
+        if (item->shapeType() == KestTypes::RichText) {
+            texts.append(item->values());
+        }
+    }
+    ASSERT_EQ(texts.size(), 4);
+    const auto top = [&texts](int index) { return texts[index].placement.position.y(); };
+    const auto bottom = [&](int index) { return top(index) + texts[index].box.size.height(); };
+    EXPECT_NEAR(top(1), bottom(0), 0.01);
+    EXPECT_NEAR(top(2), top(1), 0.01);
+    EXPECT_NEAR(texts[2].placement.position.x(), 2 * 72 / 2.54, 0.01);
+    EXPECT_NEAR(top(3), bottom(1), 0.01);
+    EXPECT_TRUE(texts[3].text->html.contains("end"_L1));
+}
+
+TEST(TextDocument, BeginsBelowTheHeaderOfItsPage)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:body><office:text><text:p>article</text:p></office:text>"
+        "</office:body></office:document-content>";
+    QByteArray styles = drawingStyles({}, {}, "<style:header><text:p>top</text:p></style:header>");
+    styles.replace("fo:page-height=\"5cm\"/>",
+                   "fo:page-height=\"5cm\" fo:margin=\"1in\"/><style:header-style>"
+                   "<style:header-footer-properties fo:min-height=\"0in\" "
+                   "fo:margin-bottom=\"0.5in\"/></style:header-style>");
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, styles));
+    ASSERT_TRUE(import.isRepaired());
+    int texts = 0;
+    for (const workbench::CanvasItem* item : import.result.canvas->items()) {
+        const workbench::ItemValues values = item->values();
+        if (item->shapeType() == KestTypes::RichText) {
+            ++texts;
+            // One line of 12 points, and the distance.
+            const bool isArticle = values.text->html.contains("article"_L1);
+            EXPECT_NEAR(values.placement.position.y(), isArticle ? 72.0 + 13.8 + 36.0 : 72.0, 0.1);
+        }
+    }
+    EXPECT_EQ(texts, 2);
+}
+
+TEST(TextDocument, CellsHaveTheColorOfTheirRowOrTable)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles>"
+        "<style:style style:name=\"t\" style:family=\"table\"><style:table-properties "
+        "fo:background-color=\"#0000ff\"/></style:style>"
+        "<style:style style:name=\"r\" style:family=\"table-row\"><style:table-row-properties "
+        "fo:background-color=\"#00ff00\"/></style:style>"
+        "<style:style style:name=\"c\" style:family=\"table-cell\"><style:table-cell-properties "
+        "fo:background-color=\"#ff0000\"/></style:style></office:automatic-styles><office:body>"
+        "<office:text><table:table "
+        "table:style-name=\"t\"><table:table-column/><table:table-column/>"
+        "<table:table-row table:style-name=\"r\"><table:table-cell table:style-name=\"c\"/>"
+        "<table:table-cell/></table:table-row><table:table-row><table:table-cell/>"
+        "<table:table-cell><text:p/></table:table-cell></table:table-row></table:table>"
+        "</office:text></office:body></office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+    ASSERT_TRUE(import.isRepaired());
+    QStringList colors;
+    for (const workbench::CanvasItem* item : import.result.canvas->items()) {
+        const workbench::ItemValues values = item->values();
+        if (values.fill) {
+            colors.append(values.fill->color.name());
+        }
+    }
+    EXPECT_EQ(colors, (QStringList{u"#ff0000"_s, u"#00ff00"_s, u"#0000ff"_s, u"#0000ff"_s}));
+}
+
+TEST(TextDocument, BreaksItsLines)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles><style:style style:name=\"t\" "
+        "style:family=\"text\"><style:text-properties fo:background-color=\"transparent\"/>"
+        "</style:style></office:automatic-styles><office:body><office:text><text:p><text:span "
+        "text:style-name=\"t\">" +
+        QByteArray("word ").repeated(100) +
+        "</text:span></text:p></office:text></office:body></office:document-content>";
+    const QByteArray noWrap = "<style:default-style style:family=\"graphic\">"
+                              "<style:graphic-properties fo:wrap-option=\"no-wrap\"/>"
+                              "</style:default-style>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles(noWrap)));
+    ASSERT_TRUE(import.isRepaired());
+    const workbench::ItemValues text = import.result.canvas->items().back()->values();
+    ASSERT_EQ(text.type, KestTypes::RichText);
+    EXPECT_LE(text.box.size.width(), import.result.canvas->page().size.width() + 1.0);
+    EXPECT_GT(text.box.size.height(), 100.0);
+    EXPECT_FALSE(text.text->html.contains("background-color"_L1));
+}
