@@ -30,7 +30,7 @@ constexpr std::array Substitutes{
 };
 
 // Of the numbered names that documents know; a replacement must exist before a text is laid out.
-constexpr int LargestNumber = 9;
+constexpr int LastNumber = 9;
 
 // Office suites number the declarations of a font: "Arial1". Empty for a name without a number of
 // one or two digits.
@@ -82,7 +82,7 @@ void installSubstitutes()
     static const bool installed = [] {
         for (const Substitute& row : Substitutes) {
             QFont::insertSubstitution(row.family, row.substitute);
-            for (int number = 1; number <= LargestNumber; ++number) {
+            for (int number = 1; number <= LastNumber; ++number) {
                 QFont::insertSubstitution(row.family + QString::number(number), row.substitute);
                 QFont::insertSubstitution(row.substitute + QString::number(number), row.substitute);
             }
