@@ -29,8 +29,8 @@ constexpr int DarkGround = 62;
 double luminance(const QColor& color)
 {
     const auto linear = [](double channel) {
-        constexpr double knee = 0.03928;
-        return channel <= knee ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+        constexpr double linearLimit = 0.03928;
+        return channel <= linearLimit ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
            0.0722 * linear(color.blueF());
@@ -176,7 +176,7 @@ private:
             facts.changes.add(LossKind::Invisible);
         }
         if (candidate.text != nullptr) {
-            judgeText(groundOf(before), *candidate.text, facts);
+            checkTextContrast(groundOf(before), *candidate.text, facts);
         }
     }
 
@@ -213,7 +213,7 @@ private:
     }
 
     // A text without contrast in the document was not lost.
-    void judgeText(const QColor& ground, const Appearance& text, ItemFacts& item)
+    void checkTextContrast(const QColor& ground, const Appearance& text, ItemFacts& item)
     {
         const QColor original = text.fill.isValid() ? text.fill : ground;
         const bool wasReadable = contrast(documentColor(text), original) >= LeastContrast;

@@ -44,7 +44,7 @@ private:
     [[nodiscard]] qint64 emptyPictures() const;
     void match(const QList<qsizetype>& objects, const QList<qsizetype>& items);
     void matchByNumber(const QList<qsizetype>& objects, const QList<qsizetype>& items);
-    void judgePair(const CountedObject& object, const ItemFacts& item, LossSet& changes) const;
+    void comparePair(const CountedObject& object, const ItemFacts& item, LossSet& changes) const;
     void addTallies(const std::map<LossKind, Tally>& tallies, bool isCounted);
     void sumItems();
     void list(Outcome outcome, QList<Finding>& findings);
@@ -154,8 +154,8 @@ qint64 Comparison::emptyPictures() const
     });
 }
 
-void Comparison::judgePair(const CountedObject& object, const ItemFacts& item,
-                           LossSet& changes) const
+void Comparison::comparePair(const CountedObject& object, const ItemFacts& item,
+                             LossSet& changes) const
 {
     changes.add(object.changes);
     if (object.wantsSource && !item.isBound) {
@@ -175,7 +175,7 @@ void Comparison::match(const QList<qsizetype>& objects, const QList<qsizetype>& 
 {
     for (qsizetype index = 0; index < objects.size(); ++index) {
         const CountedObject& object = m_census.objects.at(objects.at(index));
-        judgePair(object, m_label.items.at(items.at(index)), m_itemChanges[items.at(index)]);
+        comparePair(object, m_label.items.at(items.at(index)), m_itemChanges[items.at(index)]);
     }
 }
 

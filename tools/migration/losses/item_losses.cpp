@@ -121,7 +121,8 @@ void lookAtFill(const ItemValues& values, ItemFacts& item)
     item.fill = item.isFilled && isSolid ? values.fill->color : QColor();
 }
 
-void lookAtLooks(const workbench::CanvasItem& item, const ItemValues& values, ItemFacts& facts)
+void checkItemAppearance(const workbench::CanvasItem& item, const ItemValues& values,
+                         ItemFacts& facts)
 {
     facts.outline = outlineOnPage(item, values);
     lookAtFill(values, facts);
@@ -144,7 +145,7 @@ bool touches(const QRectF& page, const QRectF& box)
            box.top() <= page.bottom();
 }
 
-void lookAtPlace(const QRectF& page, const QRectF& box, ItemFacts& item)
+void checkItemPlace(const QRectF& page, const QRectF& box, ItemFacts& item)
 {
     if (!touches(page, box)) {
         item.changes.add(LossKind::OutsidePage);
@@ -175,10 +176,10 @@ void lookAtItem(const workbench::CanvasItem& item, const QRectF& page, bool blan
     itemFacts.hasContent = !isEmptyPicture && (blankTextsCount || !isBlankText(values));
     itemFacts.isBound = values.datasource && values.datasource->id >= 0;
     itemFacts.symbology = values.barcode ? values.barcode->symbology : 0;
-    lookAtLooks(item, values, itemFacts);
+    checkItemAppearance(item, values, itemFacts);
     const bool isText = itemFacts.objectClass == ObjectClass::Text;
     if (itemFacts.hasContent && (isText || !showsNothing(values))) {
-        lookAtPlace(page, itemFacts.outline.boundingRect(), itemFacts);
+        checkItemPlace(page, itemFacts.outline.boundingRect(), itemFacts);
     }
     if (isLimited(values)) {
         itemFacts.changes.add(LossKind::SizeLimited);
