@@ -58,8 +58,8 @@ void describe(QCommandLineParser& parser)
 // addresses. Other arguments are file names.
 QString fileOf(const QString& argument)
 {
-    const bool isAddress =
-        argument.startsWith("file:///"_L1) || argument.startsWith("labelport:///"_L1);
+    const bool isAddress = argument.startsWith("file:///"_L1, Qt::CaseInsensitive) ||
+                           argument.startsWith("labelport:///"_L1, Qt::CaseInsensitive);
     return isAddress ? QUrl(argument).path(QUrl::FullyDecoded) : argument;
 }
 
@@ -137,12 +137,12 @@ int main(int argc, char** argv)
     QCoreApplication::setOrganizationName(u"LabelPort"_s);
     QCoreApplication::setApplicationName(u"LabelPort Workbench"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
-    QApplication::setStyle(u"Fusion"_s);
     const bool isVisible = hasDisplay(argc, argv);
     if (!isVisible || contains(argc, argv, {"-h", "--help", "--help-all", "-v", "--version"})) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
+    QApplication::setStyle(new window::ProgramStyle); // owned by the application
     const translations::ProgramLanguage language(
         translations::wantedLanguages(QProcessEnvironment::systemEnvironment()));
     QApplication::setWindowIcon(window::applicationIcon());

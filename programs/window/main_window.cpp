@@ -21,8 +21,6 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace window {
@@ -96,11 +94,6 @@ CanvasView& MainWindow::view()
 QGraphicsScene* MainWindow::scene()
 {
     return view().scene();
-}
-
-qint64 MainWindow::recordCount() const
-{
-    return m_session->label() != nullptr ? m_session->label()->sources->recordCount() : 1;
 }
 
 void MainWindow::connectSession()
@@ -198,29 +191,6 @@ void MainWindow::showLabel()
     }
 }
 
-void MainWindow::showRecordNumber(qint64 record)
-{
-    OpenLabel* label = m_session->label();
-    if (label == nullptr) {
-        return;
-    }
-    m_record = std::clamp<qint64>(record, 0, recordCount() - 1);
-    showRecord(*label, m_record);
-    m_panels->sources().show(label->sources.get(), m_record);
-    m_status->setRecord(m_record, recordCount());
-    refreshItems();
-    refreshIssues();
-    refreshActions();
-}
-
-// Null if the user canceled.
-void MainWindow::pushSourceChange(std::unique_ptr<QUndoCommand> change)
-{
-    if (change != nullptr) {
-        m_session->undoStack().push(change.release());
-    }
-}
-
 void MainWindow::refreshItems()
 {
     OpenLabel* label = m_session->label();
@@ -270,28 +240,11 @@ void MainWindow::refreshActions()
     action(ActionId::PreviousRecord).setEnabled(hasBefore);
     action(ActionId::NextRecord).setEnabled(hasAfter);
     action(ActionId::LastRecord).setEnabled(hasAfter);
-    action(ActionId::EditSource)
-        .setEnabled(isOpen && !m_session->label()->sources->ids().isEmpty());
+    const bool hasSource = isOpen && !m_session->label()->sources->ids().isEmpty();
+    action(ActionId::EditSource).setEnabled(hasSource);
+    action(ActionId::ShowSource)
+        .setEnabled(hasSource && !m_panels->items().selectedItems().isEmpty());
     action(ActionId::GoRecord).setEnabled(hasBefore || hasAfter);
-}
-
-void MainWindow::setUnit(LengthUnit unit)
-{
-    m_unit = unit;
-    action(unit == LengthUnit::Inch ? ActionId::Inches : ActionId::Millimeters).setChecked(true);
-    m_canvas->setUnit(unit);
-    m_panels->items().setUnit(unit);
-    m_status->setPointer(std::nullopt, unit);
-    if (m_session->label() != nullptr) {
-        m_status->setPage(m_session->label()->canvas->page().size, unit);
-    }
-    refreshSelection();
-}
-
-void MainWindow::setColors(ColorScheme scheme)
-{
-    applyColorScheme(scheme);
-    storeColorScheme(scheme);
 }
 
 void MainWindow::showItem(workbench::CanvasItem* item)

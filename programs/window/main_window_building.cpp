@@ -5,18 +5,13 @@
 #include "window/edit_actions.h"
 #include "window/main_window.h"
 #include "window/manual_dialog.h"
-#include "window/properties/item_panel.h"
-#include "window/sources/source_commands.h"
-#include "window/sources/source_panel.h"
 #include "window/welcome_page.h"
-#include "workbench/canvas/canvas.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
@@ -27,26 +22,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace window {
 
 namespace {
-
-QString geometryKey()
-{
-    return u"window/geometry"_s;
-}
-
-QString stateKey()
-{
-    return u"window/state"_s;
-}
-
-QString unitKey()
-{
-    return u"window/unit"_s;
-}
-
-QString rulersKey()
-{
-    return u"window/rulers"_s;
-}
 
 // The local files of a drag; web addresses are ignored.
 QStringList localFiles(const QMimeData& data)
@@ -91,6 +66,9 @@ void MainWindow::buildMenus()
         } else if (id == MenuId::Arrange) {
             menu->insertSeparator(&action(ActionId::AlignLeft));
             menu->insertSeparator(&action(ActionId::DistributeHorizontally));
+        } else if (id == MenuId::Record) {
+            menu->insertSeparator(&action(ActionId::ConnectCsv));
+            menu->insertSeparator(&action(ActionId::NewCounter));
         } else if (id == MenuId::View) {
             menu->insertSeparator(&action(ActionId::Rulers));
             menu->insertSeparator(&action(ActionId::Millimeters));
@@ -227,58 +205,6 @@ void MainWindow::connectPanelActions()
             [this] { m_panels->goToIssues(); });
     connect(&action(ActionId::GoRecord), &QAction::triggered, this,
             [this] { m_panels->goToRecord(); });
-}
-
-void MainWindow::connectRecordActions()
-{
-    connect(&action(ActionId::FirstRecord), &QAction::triggered, this,
-            [this] { showRecordNumber(0); });
-    connect(&action(ActionId::PreviousRecord), &QAction::triggered, this,
-            [this] { showRecordNumber(m_record - 1); });
-    connect(&action(ActionId::NextRecord), &QAction::triggered, this,
-            [this] { showRecordNumber(m_record + 1); });
-    connect(&action(ActionId::LastRecord), &QAction::triggered, this,
-            [this] { showRecordNumber(recordCount() - 1); });
-    connect(&action(ActionId::ConnectCsv), &QAction::triggered, this, [this] {
-        pushSourceChange(connectCsv(
-            *m_session->label(), [this] { showRecordNumber(m_record); }, this));
-    });
-    connect(&action(ActionId::EditSource), &QAction::triggered, this, [this] {
-        pushSourceChange(editSource(
-            *m_session->label(), m_panels->sources().currentSource(),
-            [this] { showRecordNumber(m_record); }, this));
-    });
-}
-
-void MainWindow::restoreSettings()
-{
-    const QSettings settings;
-    restoreGeometry(settings.value(geometryKey()).toByteArray());
-    restoreState(settings.value(stateKey()).toByteArray());
-    action(ActionId::Rulers).setChecked(settings.value(rulersKey(), true).toBool());
-    m_canvas->setRulersVisible(action(ActionId::Rulers).isChecked());
-    const bool isInch = settings.value(unitKey()).toString() == QLatin1String("in");
-    setUnit(isInch ? LengthUnit::Inch : LengthUnit::Millimeter);
-    switch (storedColorScheme()) {
-    case ColorScheme::System:
-        action(ActionId::SystemColors).setChecked(true);
-        break;
-    case ColorScheme::Light:
-        action(ActionId::LightColors).setChecked(true);
-        break;
-    case ColorScheme::Dark:
-        action(ActionId::DarkColors).setChecked(true);
-        break;
-    }
-}
-
-void MainWindow::storeSettings() const
-{
-    QSettings settings;
-    settings.setValue(geometryKey(), saveGeometry());
-    settings.setValue(stateKey(), saveState());
-    settings.setValue(rulersKey(), m_actions->at(ActionId::Rulers).isChecked());
-    settings.setValue(unitKey(), unitSymbol(m_unit));
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -52,8 +52,11 @@ bool MainWindow::openFolder(const QString& folder)
         return false;
     }
     m_panels->showLabels();
-    m_panels->labels().openFolder(folder);
-    if (m_panels->labels().review().model().entries().isEmpty()) {
+    const bool isComplete = m_panels->labels().openFolder(folder);
+    if (!isComplete) {
+        statusBar()->showMessage(
+            tr("“%1” contains too many files; the list of labels is not complete.").arg(folder));
+    } else if (m_panels->labels().review().model().entries().isEmpty()) {
         statusBar()->showMessage(tr("There are no labels in “%1”.").arg(folder), 10'000);
     }
     return true;

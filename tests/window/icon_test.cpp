@@ -1,10 +1,13 @@
-// The window's icon is the one that desktops show for the program.
+// The window's icon is the one that desktops show for the program; check boxes are visible.
 
 #include "window/actions/icons.h"
+#include "window/actions/palettes.h"
 
+#include <QCheckBox>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
+#include <QStyleOptionButton>
 #include <QSvgRenderer>
 
 #include <gtest/gtest.h>
@@ -37,6 +40,19 @@ TEST(ApplicationIcon, ShowsSomething)
     const QImage icon = window::applicationIcon().pixmap(Side).toImage();
     EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0);
     EXPECT_EQ(icon.pixelColor(Side - 12, Side / 2).rgb(), QColor(0x20, 0x21, 0x24).rgb());
+}
+
+TEST(ProgramStyle, UncheckedBoxesAreVisibleInDarkColors)
+{
+    window::ProgramStyle style;
+    QCheckBox box;
+    box.setStyle(&style);
+    box.setPalette(window::darkPalette());
+    QStyleOptionButton option;
+    option.initFrom(&box);
+    const QRect frame = style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+    const QColor edge = box.grab().toImage().pixelColor(frame.left(), frame.center().y());
+    EXPECT_GT(edge.lightness(), 100);
 }
 
 } // namespace

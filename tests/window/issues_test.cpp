@@ -142,6 +142,24 @@ TEST_F(IssuesTest, WithoutALabelThePanelSaysSo)
     EXPECT_FALSE(panel().tree().isVisible());
 }
 
+TEST_F(IssuesTest, LongTextsAreWrapped)
+{
+    const auto rowHeight = [](const QString& advice) {
+        IssuesPanel panel;
+        panel.resize(600, 300);
+        panel.setIssues({{.group = IssueGroup::Warning,
+                          .text = QStringLiteral("A short text"),
+                          .advice = advice}});
+        panel.show();
+        QApplication::processEvents();
+        const QModelIndex group = panel.tree().model()->index(0, 0);
+        return panel.tree().visualRect(panel.tree().model()->index(0, 0, group)).height();
+    };
+    const QString advice = QStringLiteral("Correct the content or the type in the properties. ");
+    const int line = rowHeight(QStringLiteral("Short advice"));
+    EXPECT_GE(rowHeight(advice.repeated(4)), 3 * line);
+}
+
 TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
 {
     const std::pair<const char*, int> samples[] = {{"tavrel/stretched_text_2000022.cnv", 2},

@@ -9,6 +9,7 @@
 #include "window/review/label_list_panel.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QComboBox>
 #include <QGraphicsItem>
 #include <QLineEdit>
@@ -102,6 +103,15 @@ TEST_F(LabelListTest, ListsTheLabelsOfAFolderAndItsSubfolders)
     EXPECT_EQ(model.entries().at(0).state, LabelState::Waiting);
 }
 
+TEST_F(LabelListTest, AFolderWithTooManyFilesIsListedInPart)
+{
+    LabelListModel model;
+    EXPECT_TRUE(model.setFolder(folder(), 6));
+    EXPECT_EQ(model.entries().size(), 4);
+    EXPECT_FALSE(model.setFolder(folder(), 2));
+    EXPECT_LE(model.entries().size(), 2);
+}
+
 TEST_F(LabelListTest, ASavedLabelBelongsToItsLegacyLabel)
 {
     saveMadeLabel(path(QStringLiteral("labels/a_shelf.label")));
@@ -132,6 +142,26 @@ TEST_F(LabelListTest, EachLabelGetsAStateAndAThumbnail)
         EXPECT_NE(entries.at(row).state, LabelState::Failed);
         EXPECT_FALSE(QImage::fromData(entries.at(row).thumbnail, "PNG").isNull());
     }
+}
+
+TEST_F(LabelListTest, ThumbnailsAreShownCompletelyAndInOneSize)
+{
+    LabelListModel model;
+    model.setFolder(folder());
+    QImage wide(480, 60, QImage::Format_RGB32);
+    wide.fill(Qt::blue);
+    migration::FileReport report;
+    QBuffer buffer(&report.thumbnail);
+    ASSERT_TRUE(wide.save(&buffer, "PNG"));
+    model.setReport(0, report);
+    const QModelIndex index = model.index(0);
+    const QImage shown = index.data(Qt::DecorationRole).value<QPixmap>().toImage();
+    EXPECT_EQ(shown.size(), LabelListModel::ThumbnailSize);
+    EXPECT_EQ(shown.pixelColor(0, shown.height() / 2), QColor(Qt::blue));
+    EXPECT_EQ(shown.pixelColor(shown.width() - 1, shown.height() / 2), QColor(Qt::blue));
+    EXPECT_EQ(shown.pixelColor(shown.width() / 2, 4).alpha(), 0);
+    EXPECT_EQ(model.index(1).data(Qt::DecorationRole).value<QPixmap>().size(),
+              LabelListModel::ThumbnailSize);
 }
 
 TEST_F(LabelListTest, LabelsOfTheSameNameAreAllImported)

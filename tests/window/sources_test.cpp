@@ -305,3 +305,70 @@ TEST_F(SourcesTest, TheWindowEditsTheSelectedSource)
     EXPECT_EQ(main.session().label()->sources->recordCount(), 2);
     EXPECT_EQ(main.session().undoStack().count(), 1);
 }
+
+TEST_F(SourcesTest, ANewCounterIsShownInTheSelectedTextAndUndone)
+{
+    OpenLabel made = makeLabel();
+    ASSERT_TRUE(made.sources->setValues({}));
+    workbench::CanvasItem* text = made.canvas->items().at(1);
+    workbench::ItemValues unbound = text->values();
+    unbound.datasource = workbench::DatasourceValues();
+    text->setValues(unbound);
+    ASSERT_EQ(writeLabel(made, path(u"a.label"_s)), QString());
+    MainWindow main;
+    ASSERT_EQ(main.openFileQuietly(path(u"a.label"_s)), QString());
+    const OpenLabel& label = *main.session().label();
+    EXPECT_FALSE(main.action(ActionId::ShowSource).isEnabled());
+    main.action(ActionId::SelectAll).trigger();
+    dialogs.expect([](QDialog& dialog) {
+        field<QSpinBox>(dialog, u"End"_s).setValue(3);
+        dialog.accept();
+    });
+    main.action(ActionId::NewCounter).trigger();
+    EXPECT_EQ(label.sources->recordCount(), 3);
+    // The rectangle and the line show no text.
+    const int id = label.sources->ids().first();
+    EXPECT_EQ(label.canvas->items().at(1)->datasource().id, id);
+    EXPECT_FALSE(label.canvas->items().at(0)->values().datasource);
+    main.session().undoStack().undo();
+    EXPECT_TRUE(label.sources->ids().isEmpty());
+    EXPECT_EQ(label.canvas->items().at(1)->datasource().id, -1);
+    main.session().undoStack().setClean();
+}
+
+TEST_F(SourcesTest, NewDatesAndListsStartWithUsefulValues)
+{
+    OpenLabel label = makeLabel();
+    const qsizetype before = label.sources->ids().size();
+    const auto add = [&](QStringView kind) {
+        dialogs.expect([](QDialog& dialog) { dialog.accept(); });
+        const auto command = addSource(label, kind.toString(), {}, changed, &window);
+        command->redo();
+    };
+    add(workbench::datasources::SystemSource::Kind);
+    add(workbench::datasources::TextListSource::Kind);
+    ASSERT_EQ(label.sources->ids().size(), before + 2);
+    const int date = label.sources->ids().at(before);
+    EXPECT_EQ(label.sources->recordText(date, 0).value_or(QString()).size(), 10);
+    dialogs.expectCancel();
+    EXPECT_EQ(addSource(label, u"TextListDatasource"_s, {}, changed, &window), nullptr);
+}
+
+TEST_F(SourcesTest, AnExistingSourceIsShownInSelectedItems)
+{
+    OpenLabel label = makeLabel();
+    const int id = label.sources->ids().first();
+    const QList<workbench::CanvasItem*> items = label.canvas->items();
+    // The text shows it already, the others cannot.
+    EXPECT_EQ(showSource(label, id, items, changed, &window), nullptr);
+    workbench::ItemValues unbound = items.at(1)->values();
+    unbound.datasource = workbench::DatasourceValues();
+    items.at(1)->setValues(unbound);
+    EXPECT_EQ(showSource(label, 99, items, changed, &window), nullptr);
+    const auto command = showSource(label, id, items, changed, &window);
+    ASSERT_NE(command, nullptr);
+    command->redo();
+    EXPECT_EQ(items.at(1)->datasource().id, id);
+    command->undo();
+    EXPECT_EQ(items.at(1)->datasource().id, -1);
+}

@@ -1,7 +1,9 @@
 #include "window/actions/palettes.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QSettings>
+#include <QStyleOption>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -100,6 +102,32 @@ ColorScheme storedColorScheme()
 void storeColorScheme(ColorScheme scheme)
 {
     QSettings().setValue(settingsKey(), QString::fromLatin1(SchemeNames[static_cast<int>(scheme)]));
+}
+
+ProgramStyle::ProgramStyle()
+    : QProxyStyle(u"Fusion"_s)
+{}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                 QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const QPalette& palette = option->palette;
+    const bool isDark = palette.base().color().lightness() < palette.text().color().lightness();
+    const bool isBox = element == PE_IndicatorCheckBox;
+    if (isDark && (isBox || element == PE_IndicatorRadioButton)) {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(palette.color(QPalette::PlaceholderText));
+        painter->setBrush(Qt::NoBrush);
+        const QRectF frame = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        if (isBox) {
+            painter->drawRect(frame);
+        } else {
+            painter->drawEllipse(frame);
+        }
+        painter->restore();
+    }
 }
 
 } // namespace window

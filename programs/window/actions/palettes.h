@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPalette>
+#include <QProxyStyle>
 #include <QtGlobal>
 
 namespace window {
@@ -17,5 +18,16 @@ void applyColorScheme(ColorScheme scheme);
 /// The user's choice in the settings; System if there is none.
 [[nodiscard]] ColorScheme storedColorScheme();
 void storeColorScheme(ColorScheme scheme);
+
+/// The style of the program. In dark colors, it also draws the frames of check boxes and radio
+/// buttons, which would be darker than their background.
+class ProgramStyle final : public QProxyStyle
+{
+public:
+    ProgramStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+};
 
 } // namespace window

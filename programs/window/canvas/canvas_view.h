@@ -28,6 +28,8 @@ class CanvasView final : public QGraphicsView
 public:
     static constexpr double SmallestZoom = 0.005;
     static constexpr double LargestZoom = 64.0;
+    /// Factor of one step of zooming.
+    static constexpr double ZoomStep = 1.25;
 
     explicit CanvasView(QWidget* parent = nullptr);
 

@@ -40,6 +40,25 @@ QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent
     return button;
 }
 
+// Makes the fields of all forms begin below each other.
+void alignForms(const QWidget& dialog)
+{
+    QList<QWidget*> captions;
+    int width = 0;
+    for (const QFormLayout* form : dialog.findChildren<QFormLayout*>()) {
+        for (int row = 0; row < form->rowCount(); ++row) {
+            const QLayoutItem* caption = form->itemAt(row, QFormLayout::LabelRole);
+            if (caption != nullptr && caption->widget() != nullptr) {
+                captions.append(caption->widget());
+                width = std::max(width, caption->sizeHint().width());
+            }
+        }
+    }
+    for (QWidget* caption : captions) {
+        caption->setMinimumWidth(width);
+    }
+}
+
 } // namespace
 
 PrintDialog::PrintDialog(OpenLabel& label, qint64 shownRecord, const printing::Printers& printers,
@@ -68,6 +87,7 @@ PrintDialog::PrintDialog(OpenLabel& label, qint64 shownRecord, const printing::P
     auto* columns = new QHBoxLayout;
     columns->addWidget(makeForm());
     columns->addWidget(makePreview(), 1);
+    alignForms(*this);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(columns, 1);
     layout->addWidget(buttons);

@@ -11,15 +11,16 @@ FolderReview::FolderReview(QObject* parent)
     : QObject(parent)
 {}
 
-void FolderReview::openFolder(const QString& folder)
+bool FolderReview::openFolder(const QString& folder)
 {
     ++m_batches;
     m_process.reset();
     m_batch.clear();
-    m_model.setFolder(folder);
+    const bool isComplete = m_model.setFolder(folder);
     m_waiting.resize(m_model.entries().size());
     std::iota(m_waiting.begin(), m_waiting.end(), 0);
     startBatch();
+    return isComplete;
 }
 
 void FolderReview::refresh(const QString& file)

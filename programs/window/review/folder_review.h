@@ -22,7 +22,7 @@ public:
 
     explicit FolderReview(QObject* parent = nullptr);
 
-    void openFolder(const QString& folder);
+    bool openFolder(const QString& folder);
     [[nodiscard]] LabelListModel& model() { return m_model; }
     /// Imports a label again, for example because it was saved.
     void refresh(const QString& file);

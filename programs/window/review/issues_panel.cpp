@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -15,6 +16,31 @@ namespace window {
 namespace {
 
 constexpr int IssueRole = Qt::UserRole + 1;
+
+/// Makes rows as high as their texts, wrapped in the columns.
+class WrappedTexts final : public QStyledItemDelegate
+{
+public:
+    explicit WrappedTexts(QTreeView& tree)
+        : QStyledItemDelegate(&tree)
+        , m_tree(tree)
+    {}
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem wrapped = option;
+        const bool isTitle = !index.parent().isValid();
+        const bool isIndented = index.column() == IssuesPanel::Text;
+        const int indentation = isIndented ? m_tree.indentation() : 0;
+        wrapped.rect.setWidth(isTitle ? m_tree.viewport()->width()
+                                      : m_tree.columnWidth(index.column()) - indentation);
+        return QStyledItemDelegate::sizeHint(wrapped, index);
+    }
+
+private:
+    QTreeView& m_tree;
+};
 
 QStandardItem* cell(const QString& text, int issue)
 {
@@ -55,6 +81,11 @@ IssuesPanel::IssuesPanel(QWidget* parent)
     m_tree->setAccessibleName(tr("Issues of the label"));
     m_tree->setFrameShape(QFrame::NoFrame);
     m_tree->setWordWrap(true);
+    m_tree->setItemDelegate(new WrappedTexts(*m_tree));
+    m_tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    // Queued: a layout may show the scroll bar, which resizes the columns.
+    connect(m_tree->header(), &QHeaderView::sectionResized, m_tree, &QTreeView::doItemsLayout,
+            Qt::QueuedConnection);
     m_tree->setAlternatingRowColors(true);
     m_tree->setRootIsDecorated(false);
     m_tree->setItemsExpandable(false);
@@ -130,9 +161,7 @@ void IssuesPanel::fill()
             {cell(countedText(issue), index), cell(issue.about, index), cell(issue.advice, index)});
     }
     m_tree->expandAll();
-    const int width = fontMetrics().horizontalAdvance(QLatin1Char('x'));
-    m_tree->setColumnWidth(Text, width * 48);
-    m_tree->setColumnWidth(About, width * 26);
+    m_tree->header()->setSectionResizeMode(QHeaderView::Stretch);
 }
 
 void IssuesPanel::focusIssues()

@@ -4,12 +4,12 @@
 #include "window/label/open_label.h"
 #include "workbench/document/label_file.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHash>
-#include <QIcon>
+#include <QPainter>
 #include <QPixmap>
 
 #include <algorithm>
@@ -79,6 +79,24 @@ QList<LabelEntry> joined(const QList<LabelEntry>& files)
     return entries;
 }
 
+// Centered on a picture of one size, so that the names beside the pictures are aligned.
+QPixmap thumbnailOf(const QByteArray& png)
+{
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    QPixmap thumbnail(LabelListModel::ThumbnailSize * ratio);
+    thumbnail.fill(Qt::transparent);
+    QPixmap picture;
+    if (picture.loadFromData(png, "PNG")) {
+        const QPixmap scaled =
+            picture.scaled(thumbnail.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        QRect place(QPoint(), scaled.size());
+        place.moveCenter(thumbnail.rect().center());
+        QPainter(&thumbnail).drawPixmap(place, scaled);
+    }
+    thumbnail.setDevicePixelRatio(ratio);
+    return thumbnail;
+}
+
 } // namespace
 
 QString stateName(LabelState state)
@@ -104,19 +122,26 @@ LabelListModel::LabelListModel(QObject* parent)
     : QAbstractListModel(parent)
 {}
 
-void LabelListModel::setFolder(const QString& folder)
+bool LabelListModel::setFolder(const QString& folder, int mostFiles)
 {
     const QDir root(folder);
+    const QStringList patterns = labelPatterns();
     QList<LabelEntry> files;
-    QDirIterator walk(root.absolutePath(), labelPatterns(), QDir::Files,
+    // Without patterns, which would visit any number of other files in one step.
+    QDirIterator walk(root.absolutePath(), QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot,
                       QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
+    int visited = 0;
+    for (; walk.hasNext() && visited < mostFiles; ++visited) {
         const QString path = walk.next();
-        LabelEntry entry;
-        entry.path = path;
-        entry.name = root.relativeFilePath(path);
-        files.append(entry);
+        const QFileInfo file = walk.fileInfo();
+        if (!file.isDir() && QDir::match(patterns, file.fileName())) {
+            LabelEntry entry;
+            entry.path = path;
+            entry.name = root.relativeFilePath(path);
+            files.append(entry);
+        }
     }
+    const bool isComplete = !walk.hasNext();
     QList<LabelEntry> entries = joined(files);
     std::sort(entries.begin(), entries.end(), [](const LabelEntry& one, const LabelEntry& other) {
         return QString::localeAwareCompare(one.name, other.name) < 0;
@@ -124,6 +149,7 @@ void LabelListModel::setFolder(const QString& folder)
     beginResetModel();
     m_entries = entries;
     endResetModel();
+    return isComplete;
 }
 
 int LabelListModel::rowOf(const QString& file) const
@@ -176,11 +202,8 @@ QVariant LabelListModel::data(const QModelIndex& index, int role) const
         return QString(entry.name + u'\n' + stateName(entry.state));
     case Qt::ToolTipRole:
         return entry.summary.isEmpty() ? entry.path : QString(entry.path + u'\n' + entry.summary);
-    case Qt::DecorationRole: {
-        QPixmap picture;
-        picture.loadFromData(entry.thumbnail, "PNG");
-        return picture;
-    }
+    case Qt::DecorationRole:
+        return thumbnailOf(entry.thumbnail);
     case StateRole:
         return static_cast<int>(entry.state);
     case NameRole:

@@ -4,6 +4,7 @@
 
 #include <QAbstractListModel>
 #include <QList>
+#include <QSize>
 #include <QString>
 
 namespace window {
@@ -45,13 +46,19 @@ class LabelListModel final : public QAbstractListModel
     Q_OBJECT
 
 public:
+    /// Of each label's picture, in pixels of the screen without scaling.
+    static constexpr QSize ThumbnailSize{112, 72};
+
     enum Role { StateRole = Qt::UserRole + 1, NameRole, FileRole };
 
     explicit LabelListModel(QObject* parent = nullptr);
 
+    /// Files and folders that are visited: someone may open the folder of all files.
+    static constexpr int MostFiles = 50'000;
+
     /// Lists the labels. A saved label next to the legacy label that it was made from is the same
-    /// label. Links to folders are not followed.
-    void setFolder(const QString& folder);
+    /// label. Links to folders are not followed. Returns false if there are more files than these.
+    bool setFolder(const QString& folder, int mostFiles = MostFiles);
     [[nodiscard]] const QList<LabelEntry>& entries() const { return m_entries; }
     /// The label of a file, legacy or saved, whether the latter exists or not; -1 for others.
     [[nodiscard]] int rowOf(const QString& file) const;

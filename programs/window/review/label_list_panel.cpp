@@ -14,7 +14,6 @@ namespace window {
 
 namespace {
 
-constexpr QSize ThumbnailSize(112, 72);
 constexpr int AllStates = -1;
 
 /// Filters by name and state.
@@ -86,7 +85,7 @@ LabelListPanel::LabelListPanel(QWidget* parent)
     connect(m_shown, &QAbstractItemModel::rowsRemoved, this, [this] { m_isFollowing = false; });
     m_list->setModel(m_shown);
     m_list->setAccessibleName(tr("Labels of the folder"));
-    m_list->setIconSize(ThumbnailSize);
+    m_list->setIconSize(LabelListModel::ThumbnailSize);
     m_list->setUniformItemSizes(true);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setAlternatingRowColors(true);
@@ -119,12 +118,13 @@ LabelListPanel::LabelListPanel(QWidget* parent)
     showCount();
 }
 
-void LabelListPanel::openFolder(const QString& folder)
+bool LabelListPanel::openFolder(const QString& folder)
 {
     m_nameFilter->clear();
     m_stateFilter->setCurrentIndex(0);
-    m_review.openFolder(folder);
+    const bool isComplete = m_review.openFolder(folder);
     step(1);
+    return isComplete;
 }
 
 void LabelListPanel::setOpenFile(const QString& file)

@@ -21,7 +21,7 @@ public:
     explicit LabelListPanel(QWidget* parent = nullptr);
 
     /// Lists the labels of a folder and selects the first one.
-    void openFolder(const QString& folder);
+    bool openFolder(const QString& folder);
     /// Selects the label of an open file without opening it again.
     void setOpenFile(const QString& file);
     /// Updates the state of a label that was saved.

@@ -3,6 +3,8 @@
 #include "window/sources/csv_dialog.h"
 #include "window/sources/source_dialog.h"
 #include "workbench/datasources/csv_source.h"
+#include "workbench/datasources/sequence_source.h"
+#include "workbench/datasources/system_source.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -18,7 +20,9 @@ namespace {
 
 using workbench::datasources::CsvSource;
 using workbench::datasources::CsvTable;
+using workbench::datasources::SequenceSource;
 using workbench::datasources::SourceValues;
+using workbench::datasources::SystemSource;
 
 struct Words
 {
@@ -105,6 +109,31 @@ std::unique_ptr<QUndoCommand> editCsv(OpenLabel& label, const SourceValues& sour
     return runCsvDialog(dialog, label, changed);
 }
 
+// Of a new data source, as a user is likely to want it.
+QVariantMap firstProperties(const QString& kind)
+{
+    if (kind == SequenceSource::Kind) {
+        return {{u"Start"_s, 1}, {u"End"_s, 100}, {u"Step"_s, 1}};
+    }
+    if (kind == SystemSource::Kind) {
+        return {{u"DateFormat"_s, u"yyyy-MM-dd"_s}, {u"TimeFormat"_s, QString()}};
+    }
+    return {};
+}
+
+// Of texts and barcodes that do not show this data source yet.
+QList<Binding> bindingsTo(int id, const QList<workbench::CanvasItem*>& items)
+{
+    QList<Binding> bindings;
+    for (workbench::CanvasItem* item : items) {
+        const workbench::ItemValues values = item->values();
+        if (values.datasource && values.datasource->id != id && !values.placement.readOnly) {
+            bindings.append({item, {id, {}}});
+        }
+    }
+    return bindings;
+}
+
 } // namespace
 
 std::unique_ptr<QUndoCommand> connectCsv(OpenLabel& label, const ChangeSources::Changed& changed,
@@ -143,6 +172,37 @@ std::unique_ptr<QUndoCommand> editSource(OpenLabel& label, int id,
     replaceSource(sources, dialog.source());
     return std::make_unique<ChangeSources>(Words::tr("Edit Data Source"), label, sources,
                                            QList<Binding>(), changed);
+}
+
+std::unique_ptr<QUndoCommand> addSource(OpenLabel& label, const QString& kind,
+                                        const QList<workbench::CanvasItem*>& items,
+                                        const ChangeSources::Changed& changed, QWidget* window)
+{
+    QList<SourceValues> sources = label.sources->values();
+    const int id = nextId(sources);
+    SourceDialog dialog({id, kind, firstProperties(kind), {}}, window);
+    if (dialog.exec() != QDialog::Accepted) {
+        return nullptr;
+    }
+    sources.append(dialog.source());
+    return std::make_unique<ChangeSources>(Words::tr("Add Data Source"), label, sources,
+                                           bindingsTo(id, items), changed);
+}
+
+std::unique_ptr<QUndoCommand> showSource(OpenLabel& label, int id,
+                                         const QList<workbench::CanvasItem*>& items,
+                                         const ChangeSources::Changed& changed, QWidget* window)
+{
+    const QList<SourceValues> sources = label.sources->values();
+    if (csvSourceOf(sources) == id) {
+        return editSource(label, id, changed, window);
+    }
+    const QList<Binding> bindings = bindingsTo(id, items);
+    if (bindings.isEmpty() || label.sources->source(id) == nullptr) {
+        return nullptr;
+    }
+    return std::make_unique<ChangeSources>(Words::tr("Show Data Source"), label, sources, bindings,
+                                           changed);
 }
 
 } // namespace window

@@ -17,4 +17,18 @@ connectCsv(OpenLabel& label, const ChangeSources::Changed& changed, QWidget* win
 [[nodiscard]] std::unique_ptr<QUndoCommand>
 editSource(OpenLabel& label, int id, const ChangeSources::Changed& changed, QWidget* window);
 
+/// Asks for a new data source of this kind, which those of the items show that can. Null if the
+/// user canceled.
+[[nodiscard]] std::unique_ptr<QUndoCommand> addSource(OpenLabel& label, const QString& kind,
+                                                      const QList<workbench::CanvasItem*>& items,
+                                                      const ChangeSources::Changed& changed,
+                                                      QWidget* window);
+
+/// Shows a data source in those of the items that can; asks for the columns of a CSV file. Null if
+/// nothing changes.
+[[nodiscard]] std::unique_ptr<QUndoCommand> showSource(OpenLabel& label, int id,
+                                                       const QList<workbench::CanvasItem*>& items,
+                                                       const ChangeSources::Changed& changed,
+                                                       QWidget* window);
+
 } // namespace window

@@ -6,6 +6,7 @@
 #include "workbench/datasources/datasource_controller.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
@@ -54,8 +55,12 @@ SourcePanel::SourcePanel(const Actions& actions, QWidget* parent)
     layout->addWidget(makeRecordBar(actions));
     layout->addWidget(m_table);
     setFocusProxy(m_table);
-    m_table->setColumnWidth(SourceTableModel::Number,
-                            fontMetrics().horizontalAdvance(u"Number   "_s));
+    // The settings and the text of the record need the room.
+    QHeaderView& header = *m_table->horizontalHeader();
+    header.setStretchLastSection(false);
+    header.setSectionResizeMode(QHeaderView::ResizeToContents);
+    header.setSectionResizeMode(SourceTableModel::Settings, QHeaderView::Stretch);
+    header.setSectionResizeMode(SourceTableModel::Now, QHeaderView::Stretch);
     connect(m_record, &QSpinBox::valueChanged, this,
             [this](int number) { Q_EMIT recordWanted(number - 1); });
     QAction* edit = &actions.at(ActionId::EditSource);
