@@ -1,8 +1,11 @@
 #include "window/manual_dialog.h"
 
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QPushButton>
 #include <QTextBrowser>
+#include <QUrl>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -15,19 +18,30 @@ ManualDialog::ManualDialog(QWidget* parent)
 {
     setWindowTitle(tr("Manual"));
     m_browser->setAccessibleName(windowTitle());
-    m_browser->setOpenExternalLinks(true);
-    m_browser->setSearchPaths({u":/labelport/manual"_s});
-    QFile manual(u":/labelport/manual/workbench.md"_s);
-    if (manual.open(QIODevice::ReadOnly)) {
-        m_browser->document()->setMarkdown(QString::fromUtf8(manual.readAll()));
-    }
-    m_browser->moveCursor(QTextCursor::Start);
+    m_browser->setOpenLinks(false);
+    connect(m_browser, &QTextBrowser::anchorClicked, this, &ManualDialog::follow);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    QPushButton* back = buttons->addButton(tr("&Back"), QDialogButtonBox::ActionRole);
+    back->setEnabled(false);
+    connect(back, &QPushButton::clicked, m_browser, &QTextBrowser::backward);
+    connect(m_browser, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_browser->setSource(QUrl(u"qrc:/labelport/manual/workbench.md"_s));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_browser);
     layout->addWidget(buttons);
     resize(820, 640);
+}
+
+// A page that the program does not contain would replace the manual by an empty page.
+void ManualDialog::follow(const QUrl& link)
+{
+    const QUrl page = m_browser->source().resolved(link);
+    if (page.scheme() == "https"_L1) {
+        QDesktopServices::openUrl(page);
+    } else if (page.scheme() == "qrc"_L1 && QFile::exists(u':' + page.path())) {
+        m_browser->setSource(page);
+    }
 }
 
 } // namespace window

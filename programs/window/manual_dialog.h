@@ -17,6 +17,8 @@ public:
     [[nodiscard]] QTextBrowser& browser() { return *m_browser; }
 
 private:
+    void follow(const QUrl& link);
+
     QTextBrowser* m_browser;
 };
 

@@ -6,6 +6,7 @@
 #include "window/canvas/canvas_view.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
+#include "window/manual_dialog.h"
 #include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/review/issues_panel.h"
@@ -432,4 +433,19 @@ TEST_F(MainWindowTest, EveryColumnOfTheItemListIsVisible)
     const int last = table.model()->columnCount() - 1;
     EXPECT_LE(table.columnViewportPosition(last) + table.columnWidth(last),
               table.viewport()->width());
+}
+
+TEST_F(MainWindowTest, TheManualFollowsOnlyLinksThatItContains)
+{
+    ManualDialog manual;
+    QTextBrowser& browser = manual.browser();
+    const QString text = browser.toPlainText();
+    EXPECT_TRUE(text.contains(QStringLiteral("LabelPort Workbench")));
+    Q_EMIT browser.anchorClicked(QUrl(QStringLiteral("qrc:/labelport/manual/missing.md")));
+    EXPECT_EQ(browser.toPlainText(), text);
+    Q_EMIT browser.anchorClicked(QUrl(QStringLiteral("migration-report.md")));
+    EXPECT_NE(browser.toPlainText(), text);
+    EXPECT_FALSE(browser.toPlainText().isEmpty());
+    browser.backward();
+    EXPECT_EQ(browser.toPlainText(), text);
 }

@@ -198,9 +198,11 @@ TEST_P(TourTest, Manual)
     keep(manual, u"manual"_s);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Settings, TourTest,
-    ::testing::Combine(::testing::Values(u"en"_s, u"de"_s, u"fr"_s),
-                       ::testing::Values(QSize(1280, 800), QSize(1920, 1080)),
-                       ::testing::Values(ColorScheme::Light, ColorScheme::Dark)),
-    [](const ::testing::TestParamInfo<Setting>& info) { return nameOf(info.param).toStdString(); });
+INSTANTIATE_TEST_SUITE_P(Settings, TourTest,
+                         ::testing::Combine(::testing::Values(u"en"_s, u"de"_s, u"fr"_s),
+                                            ::testing::Values(QSize(1280, 800), QSize(1920, 1080)),
+                                            ::testing::Values(ColorScheme::Light,
+                                                              ColorScheme::Dark)),
+                         [](const ::testing::TestParamInfo<Setting>& setting) {
+                             return nameOf(setting.param).toStdString();
+                         });
