@@ -17,6 +17,7 @@ public:
     [[nodiscard]] QTextBrowser& browser() { return *m_browser; }
 
 private:
+    void fitPictures();
     void follow(const QUrl& link);
 
     QTextBrowser* m_browser;

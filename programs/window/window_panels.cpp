@@ -48,7 +48,8 @@ void bringUp(QDockWidget& dock)
 } // namespace
 
 WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
-    : m_items(new ItemPanel)
+    : m_window(window)
+    , m_items(new ItemPanel)
     , m_properties(new PropertyPanel)
     , m_sources(new SourcePanel(actions))
     , m_issues(new IssuesPanel)
@@ -112,6 +113,12 @@ void WindowPanels::goToIssues()
 
 void WindowPanels::goToComparison()
 {
+    if (m_comparisonDock->isHidden()) {
+        bringUp(*m_comparisonDock);
+        // Details of the label must be visible: half of the height, as long as the user keeps it.
+        m_window.resizeDocks({m_itemDock, m_propertyDock, m_comparisonDock}, {1, 1, 2},
+                             Qt::Vertical);
+    }
     bringUp(*m_comparisonDock);
     m_comparison->slider().setFocus(Qt::ShortcutFocusReason);
 }
@@ -124,6 +131,13 @@ void WindowPanels::goToLabels()
 
 void WindowPanels::showLabels()
 {
+    if (m_labelDock->isHidden()) {
+        // The room for the list is the canvas's: the columns of the items need theirs.
+        const int width = m_itemDock->width();
+        bringUp(*m_labelDock);
+        m_window.resizeDocks({m_labelDock, m_itemDock}, {m_labelDock->sizeHint().width(), width},
+                             Qt::Horizontal);
+    }
     bringUp(*m_labelDock);
 }
 

@@ -42,6 +42,7 @@ public:
     void showLabels();
 
 private:
+    QMainWindow& m_window;
     ItemPanel* m_items;
     PropertyPanel* m_properties;
     SourcePanel* m_sources;

@@ -48,6 +48,7 @@ TEST(ProgramStyle, UncheckedBoxesAreVisibleInDarkColors)
     QCheckBox box;
     box.setStyle(&style);
     box.setPalette(window::darkPalette());
+    box.resize(60, 24);
     QStyleOptionButton option;
     option.initFrom(&box);
     const QRect frame = style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);

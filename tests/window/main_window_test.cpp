@@ -339,7 +339,7 @@ TEST_F(MainWindowTest, HelpShowsEveryKey)
         dialog.reject();
     });
     window.action(ActionId::Shortcuts).trigger();
-    EXPECT_EQ(rows, 65);
+    EXPECT_EQ(rows, 69);
     dialogs.expectButton(QMessageBox::Ok);
     window.action(ActionId::About).trigger();
 }

@@ -321,7 +321,7 @@ TEST(ActionTable, EveryActionHasAKeyOfItsOwnATextAndAHint)
             }
         }
     }
-    EXPECT_EQ(actions.shortcuts().size(), 64);
+    EXPECT_EQ(actions.shortcuts().size(), 65);
 }
 
 TEST(ActionTable, MnemonicsWithinAMenuAreDifferent)

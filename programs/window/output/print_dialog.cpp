@@ -154,7 +154,8 @@ QWidget* PrintDialog::makeLabelList()
     buttons->addStretch();
     auto* layout = new QHBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_labels, 1);
+    layout->addWidget(m_labels, 1, Qt::AlignTop);
+    panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     layout->addLayout(buttons);
     connect(add, &QPushButton::clicked, this, &PrintDialog::askForLabels);
     connect(m_remove, &QPushButton::clicked, this, &PrintDialog::removeLabel);

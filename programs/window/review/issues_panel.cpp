@@ -33,8 +33,11 @@ public:
         const bool isTitle = !index.parent().isValid();
         const bool isIndented = index.column() == IssuesPanel::Text;
         const int indentation = isIndented ? m_tree.indentation() : 0;
-        wrapped.rect.setWidth(isTitle ? m_tree.viewport()->width()
-                                      : m_tree.columnWidth(index.column()) - indentation);
+        // Texts are wrapped only in a valid rectangle.
+        wrapped.rect = QRect(0, 0,
+                             isTitle ? m_tree.viewport()->width()
+                                     : m_tree.columnWidth(index.column()) - indentation,
+                             1);
         return QStyledItemDelegate::sizeHint(wrapped, index);
     }
 
@@ -82,6 +85,7 @@ IssuesPanel::IssuesPanel(QWidget* parent)
     m_tree->setFrameShape(QFrame::NoFrame);
     m_tree->setWordWrap(true);
     m_tree->setItemDelegate(new WrappedTexts(*m_tree));
+    m_tree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     // Queued: a layout may show the scroll bar, which resizes the columns.
     connect(m_tree->header(), &QHeaderView::sectionResized, m_tree, &QTreeView::doItemsLayout,

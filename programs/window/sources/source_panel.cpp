@@ -12,6 +12,7 @@
 #include <QLocale>
 #include <QSpinBox>
 #include <QTableView>
+#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -91,8 +92,18 @@ QWidget* SourcePanel::makeRecordBar(const Actions& actions)
     layout->addWidget(makeButton(actions.at(ActionId::NextRecord), bar));
     layout->addWidget(makeButton(actions.at(ActionId::LastRecord), bar));
     layout->addStretch();
-    layout->addWidget(makeButton(actions.at(ActionId::ConnectCsv), bar));
-    layout->addWidget(makeButton(actions.at(ActionId::EditSource), bar));
+    // A tool bar has a menu for the buttons for which a narrow window has no room.
+    auto* commands = new QToolBar(tr("Data source"), bar);
+    commands->setAccessibleName(tr("Data source"));
+    commands->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (const ActionId id : {ActionId::ConnectCsv, ActionId::EditSource}) {
+        QAction& action = actions.at(id);
+        commands->addAction(&action);
+        QWidget* button = commands->widgetForAction(&action);
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setAccessibleName(action.statusTip());
+    }
+    layout->addWidget(commands);
     return bar;
 }
 
