@@ -62,7 +62,7 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
-    letLabelGo();
+    releaseLabel();
 }
 
 bool MainWindow::openFile(const QString& fileName)
@@ -98,7 +98,7 @@ QGraphicsScene* MainWindow::scene()
 
 void MainWindow::connectSession()
 {
-    connect(m_session.get(), &LabelSession::aboutToReplaceLabel, this, &MainWindow::letLabelGo);
+    connect(m_session.get(), &LabelSession::aboutToReplaceLabel, this, &MainWindow::releaseLabel);
     connect(m_session.get(), &LabelSession::labelReplaced, this, &MainWindow::showLabel);
     connect(m_session.get(), &LabelSession::nameChanged, this, &MainWindow::refreshTitle);
     connect(m_session.get(), &LabelSession::noticeShown, this,
@@ -153,7 +153,7 @@ void MainWindow::connectPanels()
 }
 
 // Removes all references to items of the label.
-void MainWindow::letLabelGo()
+void MainWindow::releaseLabel()
 {
     m_panels->properties().show(nullptr, {}, m_unit);
     m_panels->items().setCanvas(nullptr);

@@ -65,7 +65,7 @@ private:
     void restoreSettings();
     void storeSettings() const;
 
-    void letLabelGo();
+    void releaseLabel();
     void showLabel();
     void showRecordNumber(qint64 record);
     void refreshItems();

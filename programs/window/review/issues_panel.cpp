@@ -108,9 +108,9 @@ IssuesPanel::IssuesPanel(QWidget* parent)
     makeButtons();
     setFocusProxy(m_tree);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &IssuesPanel::wantIssueAt);
-    connect(m_tree, &QTreeView::clicked, this, &IssuesPanel::wantIssueAt);
-    connect(m_tree, &QTreeView::activated, this, &IssuesPanel::wantIssueAt);
+            &IssuesPanel::requestIssueAt);
+    connect(m_tree, &QTreeView::clicked, this, &IssuesPanel::requestIssueAt);
+    connect(m_tree, &QTreeView::activated, this, &IssuesPanel::requestIssueAt);
     clear();
 }
 
@@ -124,7 +124,7 @@ void IssuesPanel::makeButtons()
         auto* button = new QPushButton(titleOf(correction), this);
         button->hide();
         connect(button, &QPushButton::clicked, this,
-                [this, correction] { wantCorrection(correction); });
+                [this, correction] { requestCorrection(correction); });
         bar->addWidget(button);
         m_buttons[correction] = button;
     }
@@ -177,7 +177,7 @@ void IssuesPanel::focusIssues()
     }
 }
 
-void IssuesPanel::wantIssueAt(const QModelIndex& index)
+void IssuesPanel::requestIssueAt(const QModelIndex& index)
 {
     showButtons(index);
     const QVariant issue = index.data(IssueRole);
@@ -186,7 +186,7 @@ void IssuesPanel::wantIssueAt(const QModelIndex& index)
     }
 }
 
-void IssuesPanel::wantCorrection(Correction correction)
+void IssuesPanel::requestCorrection(Correction correction)
 {
     const QVariant row = m_tree->currentIndex().data(IssueRole);
     if (row.isValid()) {

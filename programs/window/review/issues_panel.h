@@ -44,8 +44,8 @@ Q_SIGNALS:
 private:
     void fill();
     void makeButtons();
-    void wantIssueAt(const QModelIndex& index);
-    void wantCorrection(Correction correction);
+    void requestIssueAt(const QModelIndex& index);
+    void requestCorrection(Correction correction);
     void showButtons(const QModelIndex& index);
 
     QList<Issue> m_issues;

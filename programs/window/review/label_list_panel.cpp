@@ -108,7 +108,7 @@ LabelListPanel::LabelListPanel(QWidget* parent)
     connect(m_order, &QComboBox::currentIndexChanged, this,
             [this] { m_shown->setSortRole(m_order->currentData().toInt()); });
     connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &LabelListPanel::wantCurrent);
+            &LabelListPanel::requestCurrent);
     for (const auto change :
          {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
         connect(m_shown, change, this, &LabelListPanel::showCount);
@@ -148,7 +148,7 @@ bool LabelListPanel::canStep(int rows) const
     return row >= 0 && row < m_shown->rowCount();
 }
 
-void LabelListPanel::wantCurrent()
+void LabelListPanel::requestCurrent()
 {
     Q_EMIT stepsChanged();
     if (!m_isFollowing && m_list->currentIndex().isValid()) {

@@ -43,7 +43,7 @@ Q_SIGNALS:
     void stepsChanged();
 
 private:
-    void wantCurrent();
+    void requestCurrent();
     void showCount();
 
     FolderReview m_review;
