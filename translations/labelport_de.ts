@@ -406,6 +406,10 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <source>--%1 has no effect without --sheet.</source>
         <translation>--%1 hat ohne --sheet keine Wirkung.</translation>
     </message>
+    <message>
+        <source>--output - cannot be used with --to glabels, which may write a second file.</source>
+        <translation>--output - ist mit --to glabels nicht möglich, da eine zweite Datei geschrieben werden kann.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportReporter</name>
@@ -880,10 +884,6 @@ Beispiele:
         <translation>OpenDocument-Dateien importieren, ohne sie vorher zu reparieren.</translation>
     </message>
     <message>
-        <source>What to write: png, svg, pdf, zpl, csv, label; several with commas (default: png).</source>
-        <translation>Ausgabeziele: png, svg, pdf, zpl, csv, label; mehrere durch Kommas getrennt (Vorgabe: png).</translation>
-    </message>
-    <message>
         <source>File to write the only input to; - is standard output. Without --to, its suffix selects the target.</source>
         <translation>Datei, in die die einzige Eingabe geschrieben wird; - ist die Standardausgabe. Ohne --to bestimmt ihre Endung das Ziel.</translation>
     </message>
@@ -938,6 +938,10 @@ Beispiele:
     <message>
         <source>Label to read; - is standard input.</source>
         <translation>Zu lesendes Etikett; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, zpl, csv, label, glabels; several with commas (default: png).</source>
+        <translation>Was geschrieben wird: png, svg, pdf, zpl, csv, label, glabels; mehrere mit Kommas (Voreinstellung: png).</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1046,65 @@ Beispiele:
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Glabels</name>
+    <message>
+        <source>Only the first records are in the CSV file.</source>
+        <translation>Nur die ersten Datensätze sind in der CSV-Datei.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such shape.</source>
+        <translation>gLabels kennt diese Form nicht.</translation>
+    </message>
+    <message>
+        <source>gLabels has no gradients and no hatches.</source>
+        <translation>gLabels kennt weder Farbverläufe noch Schraffuren.</translation>
+    </message>
+    <message>
+        <source>gLabels has no dashed lines.</source>
+        <translation>gLabels kennt keine gestrichelten Linien.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round or beveled corners.</source>
+        <translation>gLabels kennt keine runden oder abgeschrägten Ecken.</translation>
+    </message>
+    <message>
+        <source>gLabels has no arrows.</source>
+        <translation>gLabels kennt keine Pfeile.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round line ends.</source>
+        <translation>gLabels kennt keine runden Linienenden.</translation>
+    </message>
+    <message>
+        <source>A large picture was scaled down.</source>
+        <translation>Ein großes Bild wurde verkleinert.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such text format.</source>
+        <translation>gLabels kennt dieses Textformat nicht.</translation>
+    </message>
+    <message>
+        <source>The content cannot be encoded.</source>
+        <translation>Der Inhalt kann nicht kodiert werden.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode: it shows the first record only.</source>
+        <translation>gLabels kodiert diesen Barcode nicht: Er zeigt nur den ersten Datensatz.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode.</source>
+        <translation>gLabels kodiert diesen Barcode nicht.</translation>
+    </message>
+    <message>
+        <source>gLabels cannot encode some of the records.</source>
+        <translation>gLabels kann einige der Datensätze nicht kodieren.</translation>
+    </message>
+    <message>
+        <source>It shows the first record only.</source>
+        <translation>Es zeigt nur den ersten Datensatz.</translation>
     </message>
 </context>
 <context>
@@ -1177,6 +1240,18 @@ Beispiele:
     <message>
         <source>saved label, to open and edit again</source>
         <translation>gespeichertes Etikett, kann wieder geöffnet und bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>gLabels label</source>
+        <translation>gLabels-Etikett</translation>
+    </message>
+    <message>
+        <source>gLabels labels</source>
+        <translation>gLabels-Etiketten</translation>
+    </message>
+    <message>
+        <source>label for gLabels, with its records in a CSV file</source>
+        <translation>Etikett für gLabels, mit seinen Datensätzen in einer CSV-Datei</translation>
     </message>
 </context>
 <context>
@@ -1363,6 +1438,26 @@ Beispiele:
         <source>The document&apos;s own picture of %1</source>
         <translation>Vorschau des Dokuments %1</translation>
     </message>
+    <message>
+        <source>Label</source>
+        <translation>Etikett</translation>
+    </message>
+    <message>
+        <source>%1: exact</source>
+        <translation>%1: genau</translation>
+    </message>
+    <message>
+        <source>%1: became a picture. %2</source>
+        <translation>%1: wurde zu einem Bild. %2</translation>
+    </message>
+    <message>
+        <source>%1: simplified. %2</source>
+        <translation>%1: vereinfacht. %2</translation>
+    </message>
+    <message>
+        <source>In gLabels</source>
+        <translation>In gLabels</translation>
+    </message>
 </context>
 <context>
     <name>migration::HtmlPage</name>
@@ -1493,6 +1588,10 @@ Beispiele:
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Open in the LabelPort workbench</source>
+        <translation>In labelport-workbench öffnen</translation>
     </message>
 </context>
 <context>
@@ -1674,10 +1773,6 @@ Beispiele:
     <message>
         <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
         <translation>Verläufe, Schraffuren und Bilder, die Objekte füllen, wurden vereinfacht.</translation>
-    </message>
-    <message>
-        <source>Shadows, transparency, cropping and other effects were dropped.</source>
-        <translation>Schatten, Transparenz, Zuschnitt und andere Effekte wurden verworfen.</translation>
     </message>
     <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
@@ -1915,6 +2010,14 @@ Beispiele:
         <source>Lines are more than a quarter thinner or thicker than in the document.</source>
         <translation>Linien sind um mehr als ein Viertel dünner oder dicker als im Dokument.</translation>
     </message>
+    <message>
+        <source>Shadows, gradients of transparency, cropping and other effects were dropped.</source>
+        <translation>Schatten, Transparenzverläufe, Zuschnitte und andere Effekte sind entfallen.</translation>
+    </message>
+    <message>
+        <source>Transparent fills and lines became opaque.</source>
+        <translation>Transparente Füllungen und Linien wurden deckend.</translation>
+    </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
@@ -2064,96 +2167,156 @@ Beispiele:
 <context>
     <name>repair</name>
     <message>
-        <source>%n lengths were converted to inches</source>
-        <translation>%n Längen wurden in Zoll umgerechnet</translation>
-    </message>
-    <message>
-        <source>The page got the size of its master page</source>
-        <translation>Die Seite hat die Größe ihrer Vorlagenseite erhalten</translation>
-    </message>
-    <message>
-        <source>The text was laid out with its margins, spacing, pictures and tables</source>
-        <translation>Der Text wurde mit seinen Rändern, Abständen, Bildern und Tabellen gesetzt</translation>
-    </message>
-    <message>
-        <source>%n objects of the master page were brought onto the page</source>
-        <translation>%n Objekte der Vorlagenseite wurden auf die Seite übernommen</translation>
-    </message>
-    <message>
-        <source>%n groups were dissolved</source>
-        <translation>%n Gruppen wurden aufgelöst</translation>
-    </message>
-    <message>
-        <source>%n captions became boxes with lines</source>
-        <translation>%n Legenden wurden zu Rahmen mit Linien</translation>
-    </message>
-    <message>
-        <source>%n dimension lines became lines and texts</source>
-        <translation>%n Maßlinien wurden zu Linien und Texten</translation>
-    </message>
-    <message>
-        <source>%n texts of lines got boxes of their own</source>
-        <translation>%n Texte von Linien haben eigene Rahmen erhalten</translation>
-    </message>
-    <message>
-        <source>%n connectors became lines or drawings</source>
-        <translation>%n Verbinder wurden zu Linien oder Zeichnungen</translation>
-    </message>
-    <message>
-        <source>%n polygons, polylines, and curves became drawings</source>
-        <translation>%n Polygone, Linienzüge und Kurven wurden zu Zeichnungen</translation>
-    </message>
-    <message>
-        <source>%n shapes that no item can show became drawings</source>
-        <translation>%n Formen, die kein Objekt darstellen kann, wurden zu Zeichnungen</translation>
-    </message>
-    <message>
-        <source>%n frames got the one of their pictures that can be read</source>
-        <translation>%n Rahmen haben das lesbare ihrer Bilder erhalten</translation>
-    </message>
-    <message>
-        <source>%n rotated objects got their position before the rotation</source>
-        <translation>%n gedrehte Objekte haben ihre Position vor der Drehung erhalten</translation>
-    </message>
-    <message>
-        <source>The stacking order of %n objects was kept</source>
-        <translation>Die Stapelreihenfolge von %n Objekten wurde beibehalten</translation>
-    </message>
-    <message>
-        <source>%n spaces and line breaks between words were kept</source>
-        <translation>%n Leerzeichen und Zeilenumbrüche zwischen Wörtern wurden beibehalten</translation>
-    </message>
-    <message>
-        <source>%n fields and links were replaced by their text</source>
-        <translation>%n Felder und Links wurden durch ihren Text ersetzt</translation>
-    </message>
-    <message>
-        <source>%n lists became paragraphs</source>
-        <translation>%n Listen wurden zu Absätzen</translation>
-    </message>
-    <message>
-        <source>%n sections were dissolved</source>
-        <translation>%n Bereiche wurden aufgelöst</translation>
-    </message>
-    <message>
-        <source>%n notes were appended to their text</source>
-        <translation>%n Anmerkungen wurden an ihren Text angehängt</translation>
-    </message>
-    <message>
-        <source>%n further pages became labels of their own</source>
-        <translation>%n weitere Seiten wurden zu eigenen Etiketten</translation>
-    </message>
-    <message>
-        <source>%n tables became boxes with texts</source>
-        <translation>%n Tabellen wurden zu Rahmen mit Texten</translation>
-    </message>
-    <message>
-        <source>%n pictures were mirrored</source>
-        <translation>%n Bilder wurden gespiegelt</translation>
-    </message>
-    <message>
         <source>The document could not be repaired: it was imported as it is written.</source>
         <translation>Das Dokument konnte nicht repariert werden: Es wurde importiert, wie es geschrieben ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n length(s) converted to inches</source>
+        <translation>
+            <numerusform>%n Länge in Zoll umgerechnet</numerusform>
+            <numerusform>%n Längen in Zoll umgerechnet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Page size taken from the master page</source>
+        <translation>Seitengröße von der Vorlagenseite übernommen</translation>
+    </message>
+    <message>
+        <source>Text laid out with its margins, spacing, pictures and tables</source>
+        <translation>Text mit seinen Rändern, Abständen, Bildern und Tabellen gesetzt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further page(s) imported as separate labels</source>
+        <translation>
+            <numerusform>%n weitere Seite als eigenes Etikett importiert</numerusform>
+            <numerusform>%n weitere Seiten als eigene Etiketten importiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) of the master page copied to the page</source>
+        <translation>
+            <numerusform>%n Objekt der Vorlagenseite auf die Seite übernommen</numerusform>
+            <numerusform>%n Objekte der Vorlagenseite auf die Seite übernommen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s) dissolved</source>
+        <translation>
+            <numerusform>%n Gruppe aufgelöst</numerusform>
+            <numerusform>%n Gruppen aufgelöst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) replaced by boxes with text</source>
+        <translation>
+            <numerusform>%n Tabelle durch Rahmen mit Text ersetzt</numerusform>
+            <numerusform>%n Tabellen durch Rahmen mit Text ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) replaced by boxes with lines</source>
+        <translation>
+            <numerusform>%n Legende durch Rahmen mit Linien ersetzt</numerusform>
+            <numerusform>%n Legenden durch Rahmen mit Linien ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimension line(s) replaced by lines and text</source>
+        <translation>
+            <numerusform>%n Maßlinie durch Linien und Text ersetzt</numerusform>
+            <numerusform>%n Maßlinien durch Linien und Text ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n text(s) on lines moved into text boxes</source>
+        <translation>
+            <numerusform>%n Text auf Linien in Textrahmen übernommen</numerusform>
+            <numerusform>%n Texte auf Linien in Textrahmen übernommen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n connector(s) replaced by lines or drawings</source>
+        <translation>
+            <numerusform>%n Verbinder durch Linien oder Zeichnungen ersetzt</numerusform>
+            <numerusform>%n Verbinder durch Linien oder Zeichnungen ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n freeform shape(s) replaced by drawings</source>
+        <translation>
+            <numerusform>%n Freiform durch eine Zeichnung ersetzt</numerusform>
+            <numerusform>%n Freiformen durch Zeichnungen ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unsupported shape(s) replaced by drawings</source>
+        <translation>
+            <numerusform>%n nicht unterstützte Form durch eine Zeichnung ersetzt</numerusform>
+            <numerusform>%n nicht unterstützte Formen durch Zeichnungen ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s) reduced to a readable picture</source>
+        <translation>
+            <numerusform>%n Rahmen auf ein lesbares Bild beschränkt</numerusform>
+            <numerusform>%n Rahmen auf ein lesbares Bild beschränkt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) mirrored</source>
+        <translation>
+            <numerusform>%n Bild gespiegelt</numerusform>
+            <numerusform>%n Bilder gespiegelt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Position of %n rotated object(s) corrected</source>
+        <translation>
+            <numerusform>Position von %n gedrehten Objekt korrigiert</numerusform>
+            <numerusform>Position von %n gedrehten Objekten korrigiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stacking order of %n object(s) kept</source>
+        <translation>
+            <numerusform>Stapelreihenfolge von %n Objekt beibehalten</numerusform>
+            <numerusform>Stapelreihenfolge von %n Objekten beibehalten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n space(s) or line break(s) between words kept</source>
+        <translation>
+            <numerusform>%n Leerzeichen oder Zeilenumbruch zwischen Wörtern beibehalten</numerusform>
+            <numerusform>%n Leerzeichen oder Zeilenumbrüche zwischen Wörtern beibehalten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) or link(s) replaced by text</source>
+        <translation>
+            <numerusform>%n Feld oder Link durch Text ersetzt</numerusform>
+            <numerusform>%n Felder oder Links durch Text ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n list(s) replaced by paragraphs</source>
+        <translation>
+            <numerusform>%n Liste durch Absätze ersetzt</numerusform>
+            <numerusform>%n Listen durch Absätze ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n section(s) dissolved</source>
+        <translation>
+            <numerusform>%n Bereich aufgelöst</numerusform>
+            <numerusform>%n Bereiche aufgelöst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) appended to the text</source>
+        <translation>
+            <numerusform>%n Anmerkung an den Text angehängt</numerusform>
+            <numerusform>%n Anmerkungen an den Text angehängt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2540,7 +2703,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Open &amp;Folder…</source>
-        <translation>&amp;Ordner öffnen …</translation>
+        <translation>&amp;Ordner öffnen…</translation>
     </message>
     <message>
         <source>Lists the labels of a folder with their states</source>
@@ -2749,6 +2912,14 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>&amp;Arrange</source>
         <translation>&amp;Anordnen</translation>
+    </message>
+    <message>
+        <source>Open as &amp;Written</source>
+        <translation>Ohne &amp;Reparatur öffnen</translation>
+    </message>
+    <message>
+        <source>Shows the imported document without repairs</source>
+        <translation>Zeigt das importierte Dokument ohne Reparaturen</translation>
     </message>
 </context>
 <context>
@@ -3066,6 +3237,10 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <source>One file of %1 records.</source>
         <translation>Eine Datei mit %1 Datensätzen.</translation>
     </message>
+    <message>
+        <source>One file. The records are in a table next to it.</source>
+        <translation>Eine Datei. Die Datensätze stehen in einer Tabelle daneben.</translation>
+    </message>
 </context>
 <context>
     <name>window::ImportProcess</name>
@@ -3102,6 +3277,10 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>Warnings</source>
         <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Repariert</translation>
     </message>
 </context>
 <context>

@@ -53,6 +53,149 @@
     </message>
 </context>
 <context>
+    <name>repair</name>
+    <message numerus="yes">
+        <source>%n length(s) converted to inches</source>
+        <translation>
+            <numerusform>%n length converted to inches</numerusform>
+            <numerusform>%n lengths converted to inches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further page(s) imported as separate labels</source>
+        <translation>
+            <numerusform>%n further page imported as separate labels</numerusform>
+            <numerusform>%n further pages imported as separate labels</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) of the master page copied to the page</source>
+        <translation>
+            <numerusform>%n object of the master page copied to the page</numerusform>
+            <numerusform>%n objects of the master page copied to the page</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s) dissolved</source>
+        <translation>
+            <numerusform>%n group dissolved</numerusform>
+            <numerusform>%n groups dissolved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) replaced by boxes with text</source>
+        <translation>
+            <numerusform>%n table replaced by boxes with text</numerusform>
+            <numerusform>%n tables replaced by boxes with text</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) replaced by boxes with lines</source>
+        <translation>
+            <numerusform>%n caption replaced by boxes with lines</numerusform>
+            <numerusform>%n captions replaced by boxes with lines</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimension line(s) replaced by lines and text</source>
+        <translation>
+            <numerusform>%n dimension line replaced by lines and text</numerusform>
+            <numerusform>%n dimension lines replaced by lines and text</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n text(s) on lines moved into text boxes</source>
+        <translation>
+            <numerusform>%n text on lines moved into text boxes</numerusform>
+            <numerusform>%n texts on lines moved into text boxes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n connector(s) replaced by lines or drawings</source>
+        <translation>
+            <numerusform>%n connector replaced by lines or drawings</numerusform>
+            <numerusform>%n connectors replaced by lines or drawings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n freeform shape(s) replaced by drawings</source>
+        <translation>
+            <numerusform>%n freeform shape replaced by drawings</numerusform>
+            <numerusform>%n freeform shapes replaced by drawings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unsupported shape(s) replaced by drawings</source>
+        <translation>
+            <numerusform>%n unsupported shape replaced by drawings</numerusform>
+            <numerusform>%n unsupported shapes replaced by drawings</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s) reduced to a readable picture</source>
+        <translation>
+            <numerusform>%n frame reduced to a readable picture</numerusform>
+            <numerusform>%n frames reduced to a readable picture</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) mirrored</source>
+        <translation>
+            <numerusform>%n picture mirrored</numerusform>
+            <numerusform>%n pictures mirrored</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Position of %n rotated object(s) corrected</source>
+        <translation>
+            <numerusform>Position of %n rotated object corrected</numerusform>
+            <numerusform>Position of %n rotated objects corrected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stacking order of %n object(s) kept</source>
+        <translation>
+            <numerusform>Stacking order of %n object kept</numerusform>
+            <numerusform>Stacking order of %n objects kept</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n space(s) or line break(s) between words kept</source>
+        <translation>
+            <numerusform>%n space or line break between words kept</numerusform>
+            <numerusform>%n spaces or line breaks between words kept</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) or link(s) replaced by text</source>
+        <translation>
+            <numerusform>%n field or link replaced by text</numerusform>
+            <numerusform>%n fields or links replaced by text</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n list(s) replaced by paragraphs</source>
+        <translation>
+            <numerusform>%n list replaced by paragraphs</numerusform>
+            <numerusform>%n lists replaced by paragraphs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n section(s) dissolved</source>
+        <translation>
+            <numerusform>%n section dissolved</numerusform>
+            <numerusform>%n sections dissolved</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) appended to the text</source>
+        <translation>
+            <numerusform>%n note appended to the text</numerusform>
+            <numerusform>%n notes appended to the text</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>window::Issues</name>
     <message numerus="yes">
         <source>%n more</source>

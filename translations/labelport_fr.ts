@@ -406,6 +406,10 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <source>--%1 has no effect without --sheet.</source>
         <translation>--%1 n’a pas d’effet sans --sheet.</translation>
     </message>
+    <message>
+        <source>--output - cannot be used with --to glabels, which may write a second file.</source>
+        <translation>--output - est impossible avec --to glabels, qui peut écrire un second fichier.</translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportReporter</name>
@@ -880,10 +884,6 @@ Exemples&#xa0;:
         <translation>Importer les fichiers OpenDocument sans les réparer d’abord.</translation>
     </message>
     <message>
-        <source>What to write: png, svg, pdf, zpl, csv, label; several with commas (default: png).</source>
-        <translation>Formats à écrire&#xa0;: png, svg, pdf, zpl, csv, label&#xa0;; plusieurs séparés par des virgules (par défaut&#xa0;: png).</translation>
-    </message>
-    <message>
         <source>File to write the only input to; - is standard output. Without --to, its suffix selects the target.</source>
         <translation>Fichier dans lequel écrire l’unique entrée&#xa0;; - est la sortie standard. Sans --to, son suffixe choisit le format.</translation>
     </message>
@@ -938,6 +938,10 @@ Exemples&#xa0;:
     <message>
         <source>Label to read; - is standard input.</source>
         <translation>Étiquette à lire&#xa0;; - est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, zpl, csv, label, glabels; several with commas (default: png).</source>
+        <translation>Ce qu’il faut écrire&#xa0;: png, svg, pdf, zpl, csv, label, glabels&#xa0;; plusieurs séparés par des virgules (par défaut&#xa0;: png).</translation>
     </message>
 </context>
 <context>
@@ -1042,6 +1046,65 @@ Exemples&#xa0;:
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
         <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Glabels</name>
+    <message>
+        <source>Only the first records are in the CSV file.</source>
+        <translation>Seuls les premiers enregistrements sont dans le fichier CSV.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such shape.</source>
+        <translation>gLabels n’a pas cette forme.</translation>
+    </message>
+    <message>
+        <source>gLabels has no gradients and no hatches.</source>
+        <translation>gLabels n’a ni dégradés ni hachures.</translation>
+    </message>
+    <message>
+        <source>gLabels has no dashed lines.</source>
+        <translation>gLabels n’a pas de lignes en tirets.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round or beveled corners.</source>
+        <translation>gLabels n’a pas de coins arrondis ou biseautés.</translation>
+    </message>
+    <message>
+        <source>gLabels has no arrows.</source>
+        <translation>gLabels n’a pas de flèches.</translation>
+    </message>
+    <message>
+        <source>gLabels has no round line ends.</source>
+        <translation>gLabels n’a pas d’extrémités de ligne arrondies.</translation>
+    </message>
+    <message>
+        <source>A large picture was scaled down.</source>
+        <translation>Une grande image a été réduite.</translation>
+    </message>
+    <message>
+        <source>gLabels has no such text format.</source>
+        <translation>gLabels n’a pas ce format de texte.</translation>
+    </message>
+    <message>
+        <source>The content cannot be encoded.</source>
+        <translation>Le contenu ne peut pas être encodé.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode: it shows the first record only.</source>
+        <translation>gLabels n’encode pas ce code-barres&#xa0;: il ne montre que le premier enregistrement.</translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode.</source>
+        <translation>gLabels n’encode pas ce code-barres.</translation>
+    </message>
+    <message>
+        <source>gLabels cannot encode some of the records.</source>
+        <translation>gLabels ne peut pas encoder certains des enregistrements.</translation>
+    </message>
+    <message>
+        <source>It shows the first record only.</source>
+        <translation>Seul le premier enregistrement est affiché.</translation>
     </message>
 </context>
 <context>
@@ -1177,6 +1240,18 @@ Exemples&#xa0;:
     <message>
         <source>saved label, to open and edit again</source>
         <translation>étiquette enregistrée, à rouvrir et modifier</translation>
+    </message>
+    <message>
+        <source>gLabels label</source>
+        <translation>Étiquette gLabels</translation>
+    </message>
+    <message>
+        <source>gLabels labels</source>
+        <translation>Étiquettes gLabels</translation>
+    </message>
+    <message>
+        <source>label for gLabels, with its records in a CSV file</source>
+        <translation>étiquette pour gLabels, avec ses enregistrements dans un fichier CSV</translation>
     </message>
 </context>
 <context>
@@ -1363,6 +1438,26 @@ Exemples&#xa0;:
         <source>The document&apos;s own picture of %1</source>
         <translation>Aperçu du document %1</translation>
     </message>
+    <message>
+        <source>Label</source>
+        <translation>Étiquette</translation>
+    </message>
+    <message>
+        <source>%1: exact</source>
+        <translation>%1&#xa0;: exact</translation>
+    </message>
+    <message>
+        <source>%1: became a picture. %2</source>
+        <translation>%1&#xa0;: devenu une image. %2</translation>
+    </message>
+    <message>
+        <source>%1: simplified. %2</source>
+        <translation>%1&#xa0;: simplifié. %2</translation>
+    </message>
+    <message>
+        <source>In gLabels</source>
+        <translation>Dans gLabels</translation>
+    </message>
 </context>
 <context>
     <name>migration::HtmlPage</name>
@@ -1493,6 +1588,10 @@ Exemples&#xa0;:
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Open in the LabelPort workbench</source>
+        <translation>Ouvrir dans labelport-workbench</translation>
     </message>
 </context>
 <context>
@@ -1674,10 +1773,6 @@ Exemples&#xa0;:
     <message>
         <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
         <translation>Des dégradés, hachures et images qui remplissent des objets ont été simplifiés.</translation>
-    </message>
-    <message>
-        <source>Shadows, transparency, cropping and other effects were dropped.</source>
-        <translation>Des ombres, de la transparence, du rognage et d’autres effets ont été supprimés.</translation>
     </message>
     <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
@@ -1915,6 +2010,14 @@ Exemples&#xa0;:
         <source>Lines are more than a quarter thinner or thicker than in the document.</source>
         <translation>Des lignes sont plus fines ou plus épaisses de plus d’un quart que dans le document.</translation>
     </message>
+    <message>
+        <source>Shadows, gradients of transparency, cropping and other effects were dropped.</source>
+        <translation>Les ombres, dégradés de transparence, rognages et autres effets ont été abandonnés.</translation>
+    </message>
+    <message>
+        <source>Transparent fills and lines became opaque.</source>
+        <translation>Les remplissages et lignes transparents sont devenus opaques.</translation>
+    </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
@@ -2064,96 +2167,156 @@ Exemples&#xa0;:
 <context>
     <name>repair</name>
     <message>
-        <source>%n lengths were converted to inches</source>
-        <translation>%n longueurs ont été converties en pouces</translation>
-    </message>
-    <message>
-        <source>The page got the size of its master page</source>
-        <translation>La page a reçu les dimensions de sa page maîtresse</translation>
-    </message>
-    <message>
-        <source>The text was laid out with its margins, spacing, pictures and tables</source>
-        <translation>Le texte a été mis en page avec ses marges, espacements, images et tableaux</translation>
-    </message>
-    <message>
-        <source>%n objects of the master page were brought onto the page</source>
-        <translation>%n objets de la page maîtresse ont été placés sur la page</translation>
-    </message>
-    <message>
-        <source>%n groups were dissolved</source>
-        <translation>%n groupes ont été dissociés</translation>
-    </message>
-    <message>
-        <source>%n captions became boxes with lines</source>
-        <translation>%n légendes sont devenues des cadres avec des lignes</translation>
-    </message>
-    <message>
-        <source>%n dimension lines became lines and texts</source>
-        <translation>%n lignes de cote sont devenues des lignes et des textes</translation>
-    </message>
-    <message>
-        <source>%n texts of lines got boxes of their own</source>
-        <translation>%n textes de lignes ont reçu leurs propres cadres</translation>
-    </message>
-    <message>
-        <source>%n connectors became lines or drawings</source>
-        <translation>%n connecteurs sont devenus des lignes ou des dessins</translation>
-    </message>
-    <message>
-        <source>%n polygons, polylines, and curves became drawings</source>
-        <translation>%n polygones, lignes brisées et courbes sont devenus des dessins</translation>
-    </message>
-    <message>
-        <source>%n shapes that no item can show became drawings</source>
-        <translation>%n formes qu’aucun objet ne peut représenter sont devenues des dessins</translation>
-    </message>
-    <message>
-        <source>%n frames got the one of their pictures that can be read</source>
-        <translation>%n cadres ont reçu celle de leurs images qui est lisible</translation>
-    </message>
-    <message>
-        <source>%n rotated objects got their position before the rotation</source>
-        <translation>%n objets pivotés ont reçu leur position d’avant la rotation</translation>
-    </message>
-    <message>
-        <source>The stacking order of %n objects was kept</source>
-        <translation>L’ordre d’empilement de %n objets a été conservé</translation>
-    </message>
-    <message>
-        <source>%n spaces and line breaks between words were kept</source>
-        <translation>%n espaces et sauts de ligne entre les mots ont été conservés</translation>
-    </message>
-    <message>
-        <source>%n fields and links were replaced by their text</source>
-        <translation>%n champs et liens ont été remplacés par leur texte</translation>
-    </message>
-    <message>
-        <source>%n lists became paragraphs</source>
-        <translation>%n listes sont devenues des paragraphes</translation>
-    </message>
-    <message>
-        <source>%n sections were dissolved</source>
-        <translation>%n sections ont été dissociées</translation>
-    </message>
-    <message>
-        <source>%n notes were appended to their text</source>
-        <translation>%n notes ont été ajoutées à leur texte</translation>
-    </message>
-    <message>
-        <source>%n further pages became labels of their own</source>
-        <translation>%n pages suivantes sont devenues des étiquettes</translation>
-    </message>
-    <message>
-        <source>%n tables became boxes with texts</source>
-        <translation>%n tableaux sont devenus des cadres avec textes</translation>
-    </message>
-    <message>
-        <source>%n pictures were mirrored</source>
-        <translation>%n images ont été retournées</translation>
-    </message>
-    <message>
         <source>The document could not be repaired: it was imported as it is written.</source>
         <translation>Le document n’a pas pu être réparé&#xa0;: il a été importé tel qu’il est écrit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n length(s) converted to inches</source>
+        <translation>
+            <numerusform>%n longueur convertie en pouces</numerusform>
+            <numerusform>%n longueurs converties en pouces</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Page size taken from the master page</source>
+        <translation>Dimensions de la page reprises de la page maîtresse</translation>
+    </message>
+    <message>
+        <source>Text laid out with its margins, spacing, pictures and tables</source>
+        <translation>Texte mis en page avec ses marges, espacements, images et tableaux</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further page(s) imported as separate labels</source>
+        <translation>
+            <numerusform>%n page suivante importée comme étiquette distincte</numerusform>
+            <numerusform>%n pages suivantes importées comme étiquettes distinctes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) of the master page copied to the page</source>
+        <translation>
+            <numerusform>%n objet de la page maîtresse copié sur la page</numerusform>
+            <numerusform>%n objets de la page maîtresse copiés sur la page</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s) dissolved</source>
+        <translation>
+            <numerusform>%n groupe dissocié</numerusform>
+            <numerusform>%n groupes dissociés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) replaced by boxes with text</source>
+        <translation>
+            <numerusform>%n tableau remplacé par des cadres de texte</numerusform>
+            <numerusform>%n tableaux remplacés par des cadres de texte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) replaced by boxes with lines</source>
+        <translation>
+            <numerusform>%n légende remplacée par des cadres et des lignes</numerusform>
+            <numerusform>%n légendes remplacées par des cadres et des lignes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimension line(s) replaced by lines and text</source>
+        <translation>
+            <numerusform>%n ligne de cote remplacée par des lignes et du texte</numerusform>
+            <numerusform>%n lignes de cote remplacées par des lignes et du texte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n text(s) on lines moved into text boxes</source>
+        <translation>
+            <numerusform>%n texte sur ligne placé dans un cadre</numerusform>
+            <numerusform>%n textes sur ligne placés dans des cadres</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n connector(s) replaced by lines or drawings</source>
+        <translation>
+            <numerusform>%n connecteur remplacé par des lignes ou des dessins</numerusform>
+            <numerusform>%n connecteurs remplacés par des lignes ou des dessins</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n freeform shape(s) replaced by drawings</source>
+        <translation>
+            <numerusform>%n forme libre remplacée par un dessin</numerusform>
+            <numerusform>%n formes libres remplacées par des dessins</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unsupported shape(s) replaced by drawings</source>
+        <translation>
+            <numerusform>%n forme non prise en charge remplacée par un dessin</numerusform>
+            <numerusform>%n formes non prises en charge remplacées par des dessins</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s) reduced to a readable picture</source>
+        <translation>
+            <numerusform>%n cadre réduit à une image lisible</numerusform>
+            <numerusform>%n cadres réduits à une image lisible</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) mirrored</source>
+        <translation>
+            <numerusform>%n image retournée</numerusform>
+            <numerusform>%n images retournées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Position of %n rotated object(s) corrected</source>
+        <translation>
+            <numerusform>Position de %n objet pivoté corrigée</numerusform>
+            <numerusform>Position de %n objets pivotés corrigée</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stacking order of %n object(s) kept</source>
+        <translation>
+            <numerusform>Ordre d’empilement de %n objet conservé</numerusform>
+            <numerusform>Ordre d’empilement de %n objets conservé</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n space(s) or line break(s) between words kept</source>
+        <translation>
+            <numerusform>%n espace ou saut de ligne entre les mots conservé</numerusform>
+            <numerusform>%n espaces ou sauts de ligne entre les mots conservés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) or link(s) replaced by text</source>
+        <translation>
+            <numerusform>%n champ ou lien remplacé par du texte</numerusform>
+            <numerusform>%n champs ou liens remplacés par du texte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n list(s) replaced by paragraphs</source>
+        <translation>
+            <numerusform>%n liste remplacée par des paragraphes</numerusform>
+            <numerusform>%n listes remplacées par des paragraphes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n section(s) dissolved</source>
+        <translation>
+            <numerusform>%n section dissociée</numerusform>
+            <numerusform>%n sections dissociées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) appended to the text</source>
+        <translation>
+            <numerusform>%n note ajoutée au texte</numerusform>
+            <numerusform>%n notes ajoutées au texte</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2750,6 +2913,14 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <source>&amp;Arrange</source>
         <translation>&amp;Disposer</translation>
     </message>
+    <message>
+        <source>Open as &amp;Written</source>
+        <translation>Ouvrir sans &amp;réparation</translation>
+    </message>
+    <message>
+        <source>Shows the imported document without repairs</source>
+        <translation>Affiche le document importé sans réparations</translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -3066,6 +3237,10 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <source>One file of %1 records.</source>
         <translation>Un fichier de %1 enregistrements.</translation>
     </message>
+    <message>
+        <source>One file. The records are in a table next to it.</source>
+        <translation>Un fichier. Les enregistrements sont dans un tableau à côté.</translation>
+    </message>
 </context>
 <context>
     <name>window::ImportProcess</name>
@@ -3102,6 +3277,10 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <message>
         <source>Warnings</source>
         <translation>Avertissements</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Réparé</translation>
     </message>
 </context>
 <context>

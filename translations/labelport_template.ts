@@ -404,6 +404,10 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <source>--%1 has no effect without --sheet.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>--output - cannot be used with --to glabels, which may write a second file.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>cli::ImportReporter</name>
@@ -811,10 +815,6 @@ Examples:
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>What to write: png, svg, pdf, zpl, csv, label; several with commas (default: png).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>File to write the only input to; - is standard output. Without --to, its suffix selects the target.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -868,6 +868,10 @@ Examples:
     </message>
     <message>
         <source>Label to read; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What to write: png, svg, pdf, zpl, csv, label, glabels; several with commas (default: png).</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -972,6 +976,65 @@ Examples:
     <name>exporting::ExportFile</name>
     <message>
         <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>exporting::Glabels</name>
+    <message>
+        <source>Only the first records are in the CSV file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no such shape.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no gradients and no hatches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no dashed lines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no round or beveled corners.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no arrows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no round line ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A large picture was scaled down.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels has no such text format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The content cannot be encoded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode: it shows the first record only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels does not encode this barcode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels cannot encode some of the records.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It shows the first record only.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1107,6 +1170,18 @@ Examples:
     </message>
     <message>
         <source>saved label, to open and edit again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>label for gLabels, with its records in a CSV file</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1294,6 +1369,26 @@ Examples:
         <source>The document&apos;s own picture of %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: exact</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: became a picture. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: simplified. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In gLabels</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>migration::HtmlPage</name>
@@ -1423,6 +1518,10 @@ Examples:
     </message>
     <message>
         <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open in the LabelPort workbench</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1604,10 +1703,6 @@ Examples:
     </message>
     <message>
         <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shadows, transparency, cropping and other effects were dropped.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1846,6 +1941,14 @@ Examples:
         <source>Lines are more than a quarter thinner or thicker than in the document.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Shadows, gradients of transparency, cropping and other effects were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transparent fills and lines became opaque.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>migration::MergeReports</name>
@@ -1995,96 +2098,156 @@ Examples:
 <context>
     <name>repair</name>
     <message>
-        <source>%n lengths were converted to inches</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The page got the size of its master page</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The text was laid out with its margins, spacing, pictures and tables</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n objects of the master page were brought onto the page</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n groups were dissolved</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n captions became boxes with lines</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n dimension lines became lines and texts</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n texts of lines got boxes of their own</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n connectors became lines or drawings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n polygons, polylines, and curves became drawings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n shapes that no item can show became drawings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n frames got the one of their pictures that can be read</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n rotated objects got their position before the rotation</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The stacking order of %n objects was kept</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n spaces and line breaks between words were kept</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n fields and links were replaced by their text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n lists became paragraphs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n sections were dissolved</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n notes were appended to their text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n further pages became labels of their own</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n tables became boxes with texts</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%n pictures were mirrored</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The document could not be repaired: it was imported as it is written.</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n length(s) converted to inches</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Page size taken from the master page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text laid out with its margins, spacing, pictures and tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further page(s) imported as separate labels</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) of the master page copied to the page</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n group(s) dissolved</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n table(s) replaced by boxes with text</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) replaced by boxes with lines</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimension line(s) replaced by lines and text</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n text(s) on lines moved into text boxes</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n connector(s) replaced by lines or drawings</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n freeform shape(s) replaced by drawings</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unsupported shape(s) replaced by drawings</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s) reduced to a readable picture</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n picture(s) mirrored</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Position of %n rotated object(s) corrected</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stacking order of %n object(s) kept</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n space(s) or line break(s) between words kept</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n field(s) or link(s) replaced by text</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n list(s) replaced by paragraphs</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n section(s) dissolved</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s) appended to the text</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2678,6 +2841,14 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>&amp;Arrange</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Open as &amp;Written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the imported document without repairs</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -2994,6 +3165,10 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>One file of %1 records.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>One file. The records are in a table next to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::ImportProcess</name>
@@ -3029,6 +3204,10 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
     <message>
         <source>Warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repaired</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
