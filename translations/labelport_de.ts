@@ -2921,6 +2921,38 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <source>Shows the imported document without repairs</source>
         <translation>Zeigt das importierte Dokument ohne Reparaturen</translation>
     </message>
+    <message>
+        <source>Show in &amp;Selected Items</source>
+        <translation>In &amp;ausgewählten Objekten zeigen</translation>
+    </message>
+    <message>
+        <source>Lets the selected texts and barcodes show the data source of the panel</source>
+        <translation>Lässt die ausgewählten Texte und Barcodes die Datenquelle des Bereichs zeigen</translation>
+    </message>
+    <message>
+        <source>New Co&amp;unter…</source>
+        <translation>Neuer &amp;Zähler…</translation>
+    </message>
+    <message>
+        <source>Adds a counter and shows it in the selected items</source>
+        <translation>Fügt einen Zähler hinzu und zeigt ihn in den ausgewählten Objekten</translation>
+    </message>
+    <message>
+        <source>New &amp;Date and Time…</source>
+        <translation>Neues &amp;Datum mit Uhrzeit…</translation>
+    </message>
+    <message>
+        <source>Adds the date and the time of printing and shows them in the selected items</source>
+        <translation>Fügt Datum und Uhrzeit des Drucks hinzu und zeigt sie in den ausgewählten Objekten</translation>
+    </message>
+    <message>
+        <source>New List of &amp;Texts…</source>
+        <translation>Neue Liste von &amp;Texten…</translation>
+    </message>
+    <message>
+        <source>Adds a text for each record and shows it in the selected items</source>
+        <translation>Fügt für jeden Datensatz einen Text hinzu und zeigt ihn in den ausgewählten Objekten</translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -3875,12 +3907,24 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <source>Cannot open “%1”: %2</source>
         <translation>„%1“ kann nicht geöffnet werden: %2</translation>
     </message>
+    <message>
+        <source>To show the data source, select texts or barcodes, then “Show in Selected Items”.</source>
+        <translation>Um die Datenquelle zu zeigen, Texte oder Barcodes auswählen, dann „In ausgewählten Objekten zeigen“.</translation>
+    </message>
+    <message>
+        <source>“%1” contains too many files; the list of labels is not complete.</source>
+        <translation>„%1“ enthält zu viele Dateien; die Liste der Etiketten ist nicht vollständig.</translation>
+    </message>
 </context>
 <context>
     <name>window::ManualDialog</name>
     <message>
         <source>Manual</source>
         <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
     </message>
 </context>
 <context>
@@ -4377,6 +4421,14 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <source>Edit Data Source</source>
         <translation>Datenquelle bearbeiten</translation>
     </message>
+    <message>
+        <source>Add Data Source</source>
+        <translation>Datenquelle hinzufügen</translation>
+    </message>
+    <message>
+        <source>Show Data Source</source>
+        <translation>Datenquelle zeigen</translation>
+    </message>
 </context>
 <context>
     <name>window::SourceDialog</name>
@@ -4462,6 +4514,10 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>Record &amp;number</source>
         <translation>Datensatz&amp;nummer</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Datenquelle</translation>
     </message>
 </context>
 <context>

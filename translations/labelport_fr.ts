@@ -2921,6 +2921,38 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <source>Shows the imported document without repairs</source>
         <translation>Affiche le document importé sans réparations</translation>
     </message>
+    <message>
+        <source>Show in &amp;Selected Items</source>
+        <translation>Afficher dans les objets &amp;sélectionnés</translation>
+    </message>
+    <message>
+        <source>Lets the selected texts and barcodes show the data source of the panel</source>
+        <translation>Affiche la source de données du panneau dans les textes et codes-barres sélectionnés</translation>
+    </message>
+    <message>
+        <source>New Co&amp;unter…</source>
+        <translation>Nouveau co&amp;mpteur…</translation>
+    </message>
+    <message>
+        <source>Adds a counter and shows it in the selected items</source>
+        <translation>Ajoute un compteur et l’affiche dans les objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>New &amp;Date and Time…</source>
+        <translation>Nouvelle d&amp;ate et heure…</translation>
+    </message>
+    <message>
+        <source>Adds the date and the time of printing and shows them in the selected items</source>
+        <translation>Ajoute la date et l’heure d’impression et les affiche dans les objets sélectionnés</translation>
+    </message>
+    <message>
+        <source>New List of &amp;Texts…</source>
+        <translation>Nouvelle liste de &amp;textes…</translation>
+    </message>
+    <message>
+        <source>Adds a text for each record and shows it in the selected items</source>
+        <translation>Ajoute un texte pour chaque enregistrement et l’affiche dans les objets sélectionnés</translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -3875,12 +3907,24 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <source>Cannot open “%1”: %2</source>
         <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>To show the data source, select texts or barcodes, then “Show in Selected Items”.</source>
+        <translation>Pour afficher la source de données, sélectionnez des textes ou codes-barres, puis «&#xa0;Afficher dans les objets sélectionnés&#xa0;».</translation>
+    </message>
+    <message>
+        <source>“%1” contains too many files; the list of labels is not complete.</source>
+        <translation>«&#xa0;%1&#xa0;» contient trop de fichiers&#xa0;; la liste des étiquettes n’est pas complète.</translation>
+    </message>
 </context>
 <context>
     <name>window::ManualDialog</name>
     <message>
         <source>Manual</source>
         <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Retour</translation>
     </message>
 </context>
 <context>
@@ -4377,6 +4421,14 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <source>Edit Data Source</source>
         <translation>Modifier la source de données</translation>
     </message>
+    <message>
+        <source>Add Data Source</source>
+        <translation>Ajouter une source de données</translation>
+    </message>
+    <message>
+        <source>Show Data Source</source>
+        <translation>Afficher la source de données</translation>
+    </message>
 </context>
 <context>
     <name>window::SourceDialog</name>
@@ -4462,6 +4514,10 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>Record &amp;number</source>
         <translation>&amp;Numéro d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Data source</source>
+        <translation>Source de données</translation>
     </message>
 </context>
 <context>

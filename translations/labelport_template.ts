@@ -2849,6 +2849,38 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>Shows the imported document without repairs</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Show in &amp;Selected Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lets the selected texts and barcodes show the data source of the panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Co&amp;unter…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a counter and shows it in the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New &amp;Date and Time…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds the date and the time of printing and shows them in the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New List of &amp;Texts…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a text for each record and shows it in the selected items</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -3801,11 +3833,23 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>Cannot open “%1”: %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>To show the data source, select texts or barcodes, then “Show in Selected Items”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” contains too many files; the list of labels is not complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::ManualDialog</name>
     <message>
         <source>Manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4303,6 +4347,14 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>Edit Data Source</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Add Data Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Data Source</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::SourceDialog</name>
@@ -4387,6 +4439,10 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>Record &amp;number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data source</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
