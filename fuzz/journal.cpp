@@ -13,9 +13,9 @@ using Records = QList<std::optional<archive::JournalRecord>>;
 
 constexpr char FileName[] = ".labelport-journal.jsonl";
 
-QList<archive::Input> inputs()
+archive::Inputs inputs()
 {
-    QList<archive::Input> list;
+    archive::Inputs list;
     for (const char* name : {"/in/a.cnv", "/in/b.odt", "/in/intact.qmtx"}) {
         list.append({QString::fromLatin1(name), QString::fromLatin1(name), {}});
     }

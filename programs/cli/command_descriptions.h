@@ -50,6 +50,20 @@ inline constexpr const char* RecordsDescription = QT_TRANSLATE_NOOP(
     "  labelport records asset.qmtx --to records.csv\n"
     "  labelport records asset.label --records 1-50 | column -t -s ,");
 
+inline constexpr const char* ListDescription = QT_TRANSLATE_NOOP(
+    "cli::Options",
+    "Lists the labels of a large archive once, as several lists that machines import on their "
+    "own:\n"
+    "\"labelport import --files-from LIST\" reads neither the archive's folders nor the other "
+    "lists.\n"
+    "Output names are chosen over the complete archive. The lists are named 1.jsonl, 2.jsonl and "
+    "so\n"
+    "on; their names are listed on standard output.\n\n"
+    "Examples:\n"
+    "  labelport list archive --shards 100 --to lists\n"
+    "  labelport import --files-from lists/17.jsonl --to label --output-dir new --resume\n\n"
+    "Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.");
+
 inline constexpr const char* ReportDescription = QT_TRANSLATE_NOOP(
     "cli::Options",
     "Merges the JSON reports of several imports into the report that one import of all files\n"

@@ -9,6 +9,7 @@ namespace cli {
 [[nodiscard]] int runPrint(const QStringList& arguments);
 [[nodiscard]] int runInspect(const QStringList& arguments);
 [[nodiscard]] int runRecords(const QStringList& arguments);
+[[nodiscard]] int runList(const QStringList& arguments);
 [[nodiscard]] int runReport(const QStringList& arguments);
 [[nodiscard]] int runFormats(const QStringList& arguments);
 

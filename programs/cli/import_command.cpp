@@ -27,15 +27,18 @@ bool isArchive(const ImportOptions& options, const archive::InputList& list)
            !options.shard.isWhole() || list.inputs.size() > ManyFiles;
 }
 
-archive::RunSettings settingsFor(const ImportOptions& options, const archive::InputList& list)
+archive::RunSettings settingsFor(const ImportOptions& options, const ImportInputs& inputs)
 {
+    const archive::InputList& list = inputs.list;
     archive::RunSettings settings;
     for (const exporting::Target target : options.targets) {
         settings.targets.append(exporting::nameOf(target));
     }
     settings.outputFolder = options.outputDir;
     settings.outputFile = writesToStandardOutput(options) ? QString() : options.output;
-    settings.shard = options.shard;
+    settings.shard = inputs.part ? inputs.part->shard : options.shard;
+    settings.names = inputs.part ? inputs.part->names : QList<archive::OutputName>();
+    settings.isPart = inputs.part.has_value();
     settings.options = outputOptions(options.job);
     // A later run may resume this one with a report; its pages need the pictures.
     JobOptions job = options.job;
@@ -71,16 +74,17 @@ Listing listingFor(const ImportOptions& options)
 class Import
 {
 public:
-    Import(const ImportOptions& options, const archive::InputList& list)
+    Import(const ImportOptions& options, const ImportInputs& inputs)
         : m_options(options)
-        , m_list(list)
+        , m_list(inputs.list)
         , m_reporter(options.quiet, listingFor(options))
         , m_reports(options.reports, options.failOnLoss, options.job.force)
-        , m_run(list.inputs, settingsFor(options, list), [this](const archive::Delivery& delivery) {
-            m_reporter.reportFile(delivery);
-            m_written += m_options.output.isEmpty() ? QStringList() : delivery.written;
-            m_reports.add(delivery);
-        })
+        , m_run(m_list.inputs, settingsFor(options, inputs),
+                [this](const archive::Delivery& delivery) {
+                    m_reporter.reportFile(delivery);
+                    m_written += m_options.output.isEmpty() ? QStringList() : delivery.written;
+                    m_reports.add(delivery);
+                })
     {}
 
     int run()
@@ -191,9 +195,9 @@ int printWritten(const QStringList& written)
     return console::ExitSuccess;
 }
 
-int importTo(const ImportOptions& options, const archive::InputList& list)
+int importTo(const ImportOptions& options, const ImportInputs& inputs)
 {
-    Import import(options, list);
+    Import import(options, inputs);
     int status = import.run();
     if (writesToStandardOutput(options) && !import.written().isEmpty() &&
         status != console::ExitFailure && status != console::ExitStopped) {
@@ -201,14 +205,14 @@ int importTo(const ImportOptions& options, const archive::InputList& list)
         status = printed == console::ExitSuccess ? status : printed;
     }
     if (options.json) {
-        console::printBytes(endEvent(import.progress(), list.skipped, status));
+        console::printBytes(endEvent(import.progress(), inputs.list.skipped, status));
     }
     return status;
 }
 
 /// The options for a command that writes to standard output: to a temporary folder first, so that
 /// an import that fails prints nothing.
-int importToStandardOutput(ImportOptions options, const archive::InputList& list)
+int importToStandardOutput(ImportOptions options, const ImportInputs& inputs)
 {
     const QTemporaryDir folder;
     if (!folder.isValid()) {
@@ -218,7 +222,7 @@ int importToStandardOutput(ImportOptions options, const archive::InputList& list
         return console::ExitFailure;
     }
     options.outputDir = folder.path();
-    return importTo(options, list);
+    return importTo(options, inputs);
 }
 
 int refuseInputs(const ImportOptions& options, const QString& message)
@@ -243,17 +247,14 @@ int importAll(const ImportOptions& options)
     if (!inputs.error.isEmpty()) {
         return refuseInputs(options, inputs.error);
     }
-    for (const archive::UnreadableFolder& folder : inputs.list.unreadable) {
-        console::printMessage(
-            QCoreApplication::translate("cli::ImportCommand", "Cannot search folder \"%1\": %2.")
-                .arg(folder.path, folder.reason));
-    }
-    if (inputs.list.inputs.isEmpty()) {
+    printUnreadableFolders(inputs.list);
+    // A part of an archive may be empty.
+    if (inputs.list.inputs.isEmpty() && !inputs.part) {
         return refuseInputs(
             options, QCoreApplication::translate("cli::ImportCommand", "No labels to import."));
     }
-    return writesToStandardOutput(options) ? importToStandardOutput(options, inputs.list)
-                                           : importTo(options, inputs.list);
+    return writesToStandardOutput(options) ? importToStandardOutput(options, inputs)
+                                           : importTo(options, inputs);
 }
 
 int runImport(const QStringList& arguments)

@@ -110,9 +110,9 @@ bool writesJson(const QStringList& arguments)
 using RunCommand = int (*)(const QStringList& arguments);
 
 /// In the order of cli::commands().
-constexpr std::array RunCommands{&cli::runImport,  &cli::runPrint,  &cli::runInspect,
-                                 &cli::runRecords, &cli::runReport, &cli::runFormats,
-                                 &cli::runTrace};
+constexpr std::array RunCommands{&cli::runImport,  &cli::runPrint, &cli::runInspect,
+                                 &cli::runRecords, &cli::runList,  &cli::runReport,
+                                 &cli::runFormats, &cli::runTrace};
 
 int printHelp(const QStringList&)
 {

@@ -58,6 +58,23 @@ constexpr Option CropMarksOption{
 constexpr Option AsWrittenOption{
     "as-written", nullptr,
     QT_TRANSLATE_NOOP("cli::Options", "Import OpenDocument files without repairing them first.")};
+constexpr Option FilesFromOption{
+    "files-from", QT_TRANSLATE_NOOP("cli::Options", "list"),
+    QT_TRANSLATE_NOOP("cli::Options",
+                      "Also take the files named in this list, one name on each line or "
+                      "separated by NUL; - is standard input."),
+    Completion::File};
+constexpr Option NullOption{
+    "null", nullptr,
+    QT_TRANSLATE_NOOP("cli::Options",
+                      "Names in the list are separated by NUL, as find -print0 writes "
+                      "them.")};
+constexpr Option BaseOption{
+    "base", QT_TRANSLATE_NOOP("cli::Options", "folder"),
+    QT_TRANSLATE_NOOP("cli::Options",
+                      "Named and listed files below this folder keep their subfolders in "
+                      "the output folder."),
+    Completion::Folder};
 
 constexpr std::array ImportOptions{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "targets"),
@@ -99,20 +116,9 @@ constexpr std::array ImportOptions{
                              "Overwrite files that labelport did not write, and edited labels.")},
     ReaderOption,
     AsWrittenOption,
-    Option{"files-from", QT_TRANSLATE_NOOP("cli::Options", "list"),
-           QT_TRANSLATE_NOOP("cli::Options",
-                             "Also import the files named in this list, one name on each line or "
-                             "separated by NUL; - is standard input."),
-           Completion::File},
-    Option{"null", nullptr,
-           QT_TRANSLATE_NOOP("cli::Options",
-                             "Names in the list are separated by NUL, as find -print0 writes "
-                             "them.")},
-    Option{"base", QT_TRANSLATE_NOOP("cli::Options", "folder"),
-           QT_TRANSLATE_NOOP("cli::Options",
-                             "Named and listed files below this folder keep their subfolders in "
-                             "the output folder."),
-           Completion::Folder},
+    FilesFromOption,
+    NullOption,
+    BaseOption,
     Option{"jobs", QT_TRANSLATE_NOOP("cli::Options", "number"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "Files to import at the same time (default: one for each processor "
@@ -189,6 +195,25 @@ constexpr std::array RecordsOptions{
     TimeoutOption,
     MemoryOption};
 
+constexpr std::array ListOptions{
+    Option{
+        "to", QT_TRANSLATE_NOOP("cli::Options", "folder"),
+        QT_TRANSLATE_NOOP("cli::Options",
+                          "Folder to write the lists to; created if missing. Lists of an earlier "
+                          "command are replaced."),
+        Completion::Folder},
+    Option{"shards", QT_TRANSLATE_NOOP("cli::Options", "number"),
+           QT_TRANSLATE_NOOP("cli::Options", "Number of lists, up to 100000 (default: 1).")},
+    FilesFromOption,
+    NullOption,
+    BaseOption,
+    Option{"output-dir", QT_TRANSLATE_NOOP("cli::Options", "folder"),
+           QT_TRANSLATE_NOOP("cli::Options",
+                             "Folder that the labels will be imported to, if it is in the "
+                             "archive: it is not searched."),
+           Completion::Folder},
+};
+
 constexpr std::array ReportOptions{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "file"),
            QT_TRANSLATE_NOOP("cli::Options",
@@ -220,6 +245,10 @@ constexpr std::array Commands{
     Command{"records", QT_TRANSLATE_NOOP("cli::Options", "list what bound items show"), "FILE",
             QT_TRANSLATE_NOOP("cli::Options", "Label to read; - is standard input."),
             Completion::Label, RecordsDescription, RecordsOptions},
+    Command{"list",
+            QT_TRANSLATE_NOOP("cli::Options", "list the labels of an archive for several machines"),
+            "FILE...", QT_TRANSLATE_NOOP("cli::Options", "Label or folder of labels to list."),
+            Completion::Label, ListDescription, ListOptions},
     Command{"report", QT_TRANSLATE_NOOP("cli::Options", "merge the reports of several imports"),
             "merge REPORT.json...", QT_TRANSLATE_NOOP("cli::Options", "JSON reports to merge."),
             Completion::Report, ReportDescription, ReportOptions},

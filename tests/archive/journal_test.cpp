@@ -23,9 +23,9 @@ protected:
                 {{u"file"_s, u"x"_s}}};
     }
 
-    QList<archive::Input> inputs() const
+    archive::Inputs inputs() const
     {
-        return {{u"/in/a.cnv"_s, u"a"_s, {}}, {u"/in/b.cnv"_s, u"b"_s, {}}};
+        return archive::Inputs({{u"/in/a.cnv"_s, u"a"_s, {}}, {u"/in/b.cnv"_s, u"b"_s, {}}});
     }
 
     void openIn(archive::Journal& journal, const archive::Shard& shard = {}) const
@@ -192,7 +192,11 @@ TEST_F(JournalTest, KnowsTheSavedLabelsOfAFolder)
     saved.outputs = {{u"x/a.label"_s, 1, 1}, {u"x/a.png"_s, 1, 1}};
     folder.write(name, archive::lineOf(saved));
     const QHash<QString, QString> expected{{folder.path(u"x/a.label"_s), a}};
-    EXPECT_EQ(archive::Journal::sourcesOfOutputs(folder.path(), u".label"_s), expected);
+    QHash<QString, QString> sources;
+    archive::Journal::visitOutputs(
+        folder.path(), u".label"_s,
+        [&](const QString& output, const QString& source) { sources.insert(output, source); });
+    EXPECT_EQ(sources, expected);
 }
 
 TEST_F(JournalTest, CannotBeWrittenWhereNothingCan)

@@ -9,9 +9,9 @@
 namespace {
 using namespace Qt::StringLiterals;
 
-QList<archive::Input> inputsOf(const QStringList& names)
+archive::Inputs inputsOf(const QStringList& names)
 {
-    QList<archive::Input> inputs;
+    archive::Inputs inputs;
     for (const QString& name : names) {
         // "folder>file" is a file that keeps a folder.
         const QStringList parts = name.split(u'>');
@@ -22,7 +22,7 @@ QList<archive::Input> inputsOf(const QStringList& names)
 
 QStringList outputsOf(const QStringList& names, const QStringList& suffixes = {u"png"_s})
 {
-    const QList<archive::Input> inputs = inputsOf(names);
+    const archive::Inputs inputs = inputsOf(names);
     const archive::OutputNames plan(inputs, suffixes);
     QStringList outputs;
     for (qsizetype index = 0; index < inputs.size(); ++index) {
@@ -100,7 +100,7 @@ TEST(OutputNames, AreNotThoseOfNeededFolders)
 TEST(OutputNames, KeepPagesApartFromOtherOutputs)
 {
     const auto markOf = [](const char* names) {
-        const QList<archive::Input> inputs = inputsOf(list(names));
+        const archive::Inputs inputs = inputsOf(list(names));
         return archive::OutputNames(inputs, {u"png"_s}).pageMark(0);
     };
     EXPECT_EQ(markOf("shelf.odg"), u"-"_s);

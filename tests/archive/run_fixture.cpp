@@ -35,7 +35,8 @@ QStringList RunFixture::run()
     QStringList lines;
     reports.clear();
     const QDir out(settings.outputFolder);
-    archive::Run archive(inputs, settings, [&](const archive::Delivery& delivery) {
+    const archive::Inputs files(inputs);
+    archive::Run archive(files, settings, [&](const archive::Delivery& delivery) {
         QString line = u"%1 %2:"_s.arg(
             delivery.isResumed ? u"resumed"_s : archive::nameOf(delivery.result.outcome),
             delivery.input.shownName);

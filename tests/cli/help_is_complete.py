@@ -14,7 +14,7 @@ import shutil
 import subprocess
 import sys
 
-COMMANDS = ["import", "print", "inspect", "records", "report", "formats", "trace"]
+COMMANDS = ["import", "print", "inspect", "records", "list", "report", "formats", "trace"]
 OPTION = re.compile(r"(?<![\w-])--([a-z][a-z0-9-]*)")
 errors = []
 

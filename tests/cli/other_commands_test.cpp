@@ -142,7 +142,7 @@ TEST_F(OtherCommands, ReportSaysWhatItCannotMerge)
 
 TEST_F(OtherCommands, ShowHelpThatNamesThem)
 {
-    for (const char* command : {"import", "inspect", "formats", "report"}) {
+    for (const char* command : {"import", "inspect", "list", "formats", "report"}) {
         const Outcome outcome = labelport({QLatin1String(command), u"--help"_s});
         EXPECT_EQ(outcome.status, 0);
         EXPECT_TRUE(outcome.out.startsWith(u"Usage: labelport "_s + QLatin1String(command)))
@@ -153,11 +153,28 @@ TEST_F(OtherCommands, ShowHelpThatNamesThem)
 
 TEST_F(OtherCommands, RefuseWrongArguments)
 {
-    for (const char* line :
-         {"inspect", "inspect a b", "inspect a --reader x", "inspect --x a",
-          "inspect a --timeout x", "inspect a --memory-limit 127", "formats a", "formats --x",
-          "report", "report split a.json", "report merge", "report merge a.json",
-          "report merge --to b.json", "formats --jsn", "worker"}) {
+    for (const char* line : {"inspect",
+                             "inspect a b",
+                             "inspect a --reader x",
+                             "inspect --x a",
+                             "inspect a --timeout x",
+                             "inspect a --memory-limit 127",
+                             "formats a",
+                             "formats --x",
+                             "report",
+                             "report split a.json",
+                             "report merge",
+                             "report merge a.json",
+                             "report merge --to b.json",
+                             "formats --jsn",
+                             "worker",
+                             "list",
+                             "list a",
+                             "list --to l",
+                             "list a --to l --shards 0",
+                             "list a --to l --shards 100001",
+                             "list - --to l",
+                             "list a --to l --null"}) {
         SCOPED_TRACE(line);
         const Outcome outcome = labelport(words(line));
         if (QLatin1String(line) != "worker"_L1) {

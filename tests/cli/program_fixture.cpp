@@ -13,11 +13,23 @@ QStringList words(const char* line)
 Outcome LabelportProgram::labelport(const QStringList& arguments, const QStringList& environment,
                                     const QByteArray& input)
 {
+    return run(QStringLiteral(LABELPORT_PROGRAM), arguments, environment, input);
+}
+
+Outcome LabelportProgram::labelportWithoutSandbox(const QStringList& arguments)
+{
+    return run(QStringLiteral(LABELPORT_WITHOUT_SANDBOX),
+               QStringList{QStringLiteral(LABELPORT_PROGRAM)} + arguments, {}, {});
+}
+
+Outcome LabelportProgram::run(const QString& program, const QStringList& arguments,
+                              const QStringList& environment, const QByteArray& input)
+{
     QProcess process;
     process.setProcessEnvironment(QProcessEnvironment());
     process.setEnvironment(environment);
     process.setWorkingDirectory(m_folder.path());
-    process.start(QStringLiteral(LABELPORT_PROGRAM), arguments);
+    process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
     if (!process.waitForFinished(120'000)) {

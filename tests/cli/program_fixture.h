@@ -49,6 +49,9 @@ protected:
     Outcome labelport(const QStringList& arguments, const QStringList& environment = {},
                       const QByteArray& input = {});
 
+    /// The same on a kernel that offers no sandbox.
+    Outcome labelportWithoutSandbox(const QStringList& arguments);
+
     QString path(const QString& name) const { return m_folder.filePath(name); }
     /// Writes a file, and the folders above it.
     QString write(const QString& name, const QByteArray& bytes);
@@ -58,6 +61,9 @@ protected:
     void copy(const char* sampleName, const char* name);
 
 private:
+    Outcome run(const QString& program, const QStringList& arguments,
+                const QStringList& environment, const QByteArray& input);
+
     QTemporaryDir m_folder;
 };
 

@@ -79,6 +79,12 @@ def glabels(text, folder, programs, samples):
     return f"{labels} labels on {pages} sheets"
 
 
+def lists(text, folder, programs):
+    run(block(text, "Millions of files", "sh").replace("100", "5"), folder, programs)
+    expect(len(list((folder / "lists").iterdir())) == 5, "lists: number")
+    return True
+
+
 def records(text, folder, programs, samples):
     (folder / "archive").mkdir()
     shutil.copy(samples / "orvanta" / "asset_tag.qmtx", folder / "archive")
@@ -170,7 +176,7 @@ def main():
         shutil.copytree(samples / "opendocument", whole / "archive" / "opendocument")
         run("labelport import archive --output-dir new --to label,png --quiet "
             "--report report.json --report report.html", whole, programs)
-        for recipe in (parallel, kubernetes):
+        for recipe in (parallel, kubernetes, lists):
             folder = pathlib.Path(work, recipe.__name__)
             shutil.copytree(whole / "archive", folder / "archive")
             if not recipe(text, folder, programs):

@@ -1,7 +1,6 @@
 #include "archive/input_list.h"
 
 #include "console/file_name.h"
-#include "sandbox/readable_paths.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -20,139 +19,168 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// One search through the given folders.
-class Collector
+/// Of the inputs with one path, that with the longer folder wins: that below the outermost folder
+/// given; else that with the shorter name.
+bool isPreferred(const Input& a, const Input& b)
 {
-public:
-    explicit Collector(const InputRequest& request)
-        : m_request(request)
-        , m_outputFolder(console::absolutePath(request.outputFolder))
-    {}
-
-    void addArgument(const QString& argument)
-    {
-        if (console::kindOf(argument) == console::FileKind::Folder) {
-            m_list.searched = true;
-            m_readable.addFolder(argument);
-            addTree(argument);
-        } else {
-            const QString folder =
-                m_request.base.isEmpty() ? QString() : folderBelow(m_request.base, argument);
-            m_readable.addFile(argument);
-            add({{argument, argument, folder}, true});
-        }
-    }
-
-    InputList take()
-    {
-        for (auto entry = m_byPath.cbegin(); entry != m_byPath.cend(); ++entry) {
-            if (entry->isNamed || !isMadeOfAnotherInput(entry.key())) {
-                m_list.inputs.append(entry->input);
-            }
-        }
-        std::sort(m_list.inputs.begin(), m_list.inputs.end(), [](const Input& a, const Input& b) {
-            return std::tie(a.shownName, a.path) < std::tie(b.shownName, b.path);
-        });
-        std::sort(m_list.unreadable.begin(), m_list.unreadable.end(),
-                  [](const auto& a, const auto& b) { return a.path < b.path; });
-        m_list.readable = m_readable.paths();
-        return std::move(m_list);
-    }
-
-private:
-    struct Found
-    {
-        Input input;
-        bool isNamed = false; ///< not only found in a folder
+    const auto rank = [](const Input& input) {
+        return std::make_tuple(-input.folder.size(), input.shownName.size(), input.shownName);
     };
-
-    void addTree(const QString& root)
-    {
-        QStringList folders{QString()};
-        while (!folders.isEmpty()) {
-            addFolder(root, folders.takeLast(), folders);
-        }
-    }
-
-    void addFolder(const QString& root, const QString& below, QStringList& folders)
-    {
-        const QString path = below.isEmpty() ? root : QDir(root).filePath(below);
-        if (!below.isEmpty() && console::absolutePath(path) == m_outputFolder) {
-            return;
-        }
-        const std::filesystem::path folder = console::systemPath(path);
-        if (::access(folder.c_str(), R_OK | X_OK) != 0) {
-            m_list.unreadable.append({path, QString::fromLocal8Bit(std::strerror(errno))});
-            return;
-        }
-        std::error_code error;
-        std::filesystem::directory_iterator entry(folder, error);
-        for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-            addEntry(*entry, root, below, folders);
-        }
-        if (error) {
-            m_list.unreadable.append({path, QString::fromLocal8Bit(error.message().c_str())});
-        }
-    }
-
-    void addEntry(const std::filesystem::directory_entry& entry, const QString& root,
-                  const QString& below, QStringList& folders)
-    {
-        const QString fileName =
-            console::fileNameFromBytes(QByteArray::fromStdString(entry.path().filename().string()));
-        if (fileName.startsWith(u'.')) {
-            return;
-        }
-        const QString name = below.isEmpty() ? fileName : below + u'/' + fileName;
-        std::error_code error;
-        if (!entry.is_directory(error)) {
-            if (entry.is_symlink(error)) {
-                m_readable.addFile(QDir(root).filePath(name));
-            }
-            addFound(QDir(root).filePath(name), below);
-        } else if (!entry.is_symlink(error)) {
-            folders.append(name);
-        }
-    }
-
-    void addFound(const QString& path, const QString& below)
-    {
-        if (m_request.suffixes.contains(QFileInfo(path).suffix().toLower())) {
-            add({{path, QDir::cleanPath(path), below}, false});
-        } else {
-            ++m_list.skipped;
-        }
-    }
-
-    /// A file that is found twice keeps the longer of its folders: that below the outermost
-    /// folder given; else the shorter name.
-    void add(const Found& found)
-    {
-        const auto rank = [](const Input& entry) {
-            return std::make_tuple(-entry.folder.size(), entry.shownName.size(), entry.shownName);
-        };
-        Found& kept = m_byPath[console::absolutePath(found.input.path)];
-        const bool isNamed = kept.isNamed || found.isNamed;
-        if (kept.input.path.isEmpty() || rank(found.input) < rank(kept.input)) {
-            kept = found;
-        }
-        kept.isNamed = isNamed;
-    }
-
-    [[nodiscard]] bool isMadeOfAnotherInput(const QString& path) const
-    {
-        const QString source = m_request.sourcesOfOutputs.value(path);
-        return source != path && m_byPath.contains(source);
-    }
-
-    const InputRequest& m_request;
-    QString m_outputFolder;
-    InputList m_list;
-    QHash<QString, Found> m_byPath;
-    sandbox::ReadablePaths m_readable;
-};
+    return rank(a) < rank(b);
+}
 
 } // namespace
+
+InputCollector::InputCollector(const InputRequest& request)
+    : m_request(request)
+    , m_outputFolder(console::absolutePath(request.outputFolder))
+{}
+
+void InputCollector::add(const QString& argument)
+{
+    if (console::kindOf(argument) == console::FileKind::Folder) {
+        m_list.searched = true;
+        m_readable.addFolder(argument);
+        addTree(argument);
+    } else {
+        const QString folder =
+            m_request.base.isEmpty() ? QString() : folderBelow(m_request.base, argument);
+        m_readable.addFile(argument);
+        m_list.inputs.append({argument, argument, folder});
+        m_isNamed.push_back(true);
+    }
+}
+
+InputList InputCollector::take()
+{
+    mergeDuplicates();
+    removeOutputs();
+    m_list.inputs.sort();
+    std::sort(m_list.unreadable.begin(), m_list.unreadable.end(),
+              [](const auto& a, const auto& b) { return a.path < b.path; });
+    m_list.readable = m_readable.paths();
+    return std::move(m_list);
+}
+
+void InputCollector::addTree(const QString& root)
+{
+    QStringList folders{QString()};
+    while (!folders.isEmpty()) {
+        addFolder(root, folders.takeLast(), folders);
+    }
+}
+
+void InputCollector::addFolder(const QString& root, const QString& below, QStringList& folders)
+{
+    const QString path = below.isEmpty() ? root : QDir(root).filePath(below);
+    if (!below.isEmpty() && console::absolutePath(path) == m_outputFolder) {
+        return;
+    }
+    const std::filesystem::path folder = console::systemPath(path);
+    if (::access(folder.c_str(), R_OK | X_OK) != 0) {
+        m_list.unreadable.append({path, QString::fromLocal8Bit(std::strerror(errno))});
+        return;
+    }
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        addEntry(*entry, root, below, folders);
+    }
+    if (error) {
+        m_list.unreadable.append({path, QString::fromLocal8Bit(error.message().c_str())});
+    }
+}
+
+void InputCollector::addEntry(const std::filesystem::directory_entry& entry, const QString& root,
+                              const QString& below, QStringList& folders)
+{
+    const QString fileName =
+        console::fileNameFromBytes(QByteArray::fromStdString(entry.path().filename().string()));
+    if (fileName.startsWith(u'.')) {
+        return;
+    }
+    const QString name = below.isEmpty() ? fileName : below + u'/' + fileName;
+    std::error_code error;
+    if (!entry.is_directory(error)) {
+        if (entry.is_symlink(error)) {
+            m_readable.addFile(QDir(root).filePath(name));
+        }
+        addFound(QDir(root).filePath(name), below);
+    } else if (!entry.is_symlink(error)) {
+        folders.append(name);
+    }
+}
+
+void InputCollector::addFound(const QString& path, const QString& below)
+{
+    if (m_request.suffixes.contains(QFileInfo(path).suffix().toLower())) {
+        m_list.inputs.append({path, QDir::cleanPath(path), below});
+        m_isNamed.push_back(false);
+    } else {
+        ++m_list.skipped;
+    }
+}
+
+void InputCollector::mergeDuplicates()
+{
+    const QList<QList<qsizetype>> duplicates = PathIndex(m_list.inputs).duplicates();
+    if (duplicates.isEmpty()) {
+        return;
+    }
+    std::vector<bool> isKept(m_isNamed.size(), true);
+    for (const QList<qsizetype>& indexes : duplicates) {
+        const auto best =
+            *std::min_element(indexes.begin(), indexes.end(), [this](qsizetype a, qsizetype b) {
+                return isPreferred(m_list.inputs.at(a), m_list.inputs.at(b));
+            });
+        for (const qsizetype index : indexes) {
+            const auto place = static_cast<std::size_t>(index);
+            isKept[place] = index == best;
+            m_isNamed[static_cast<std::size_t>(best)] =
+                m_isNamed[static_cast<std::size_t>(best)] || m_isNamed[place];
+        }
+    }
+    remove(isKept);
+}
+
+void InputCollector::removeOutputs()
+{
+    // Reading the journals takes long; most archives hold no outputs.
+    const Inputs& inputs = m_list.inputs;
+    bool isAnyOutput = false;
+    for (qsizetype index = 0; index < inputs.size() && !isAnyOutput; ++index) {
+        isAnyOutput = !m_isNamed[static_cast<std::size_t>(index)] &&
+                      inputs.at(index).path.endsWith(m_request.outputSuffix);
+    }
+    if (!isAnyOutput || !m_request.visitOutputs) {
+        return;
+    }
+    const PathIndex paths(inputs);
+    QHash<qsizetype, bool> outputs; // the latest record of an output decides
+    m_request.visitOutputs([&](const QString& output, const QString& source) {
+        const std::optional<qsizetype> index = paths.find(output);
+        if (index && !m_isNamed[static_cast<std::size_t>(*index)]) {
+            outputs.insert(*index, source != output && paths.find(source).has_value());
+        }
+    });
+    std::vector<bool> isKept(m_isNamed.size(), true);
+    for (auto output = outputs.cbegin(); output != outputs.cend(); ++output) {
+        isKept[static_cast<std::size_t>(output.key())] = !output.value();
+    }
+    remove(isKept);
+}
+
+void InputCollector::remove(const std::vector<bool>& isKept)
+{
+    m_list.inputs.keep(isKept);
+    std::size_t kept = 0;
+    for (std::size_t index = 0; index < isKept.size(); ++index) {
+        if (isKept[index]) {
+            m_isNamed[kept++] = m_isNamed[index];
+        }
+    }
+    m_isNamed.resize(kept);
+}
 
 QString folderBelow(const QString& base, const QString& path)
 {
@@ -164,17 +192,17 @@ QString folderBelow(const QString& base, const QString& path)
 
 InputList listInputs(const InputRequest& request)
 {
-    Collector collector(request);
+    InputCollector collector(request);
     for (const QString& argument : request.arguments) {
-        collector.addArgument(argument);
+        collector.add(argument);
     }
     return collector.take();
 }
 
-QStringList readNames(QIODevice& device, bool isNullSeparated, bool& error, qint64 largest)
+bool readNames(QIODevice& device, bool isNullSeparated,
+               const std::function<void(const QString& name)>& take, qint64 largest)
 {
     constexpr qint64 blockSize = 64 * 1024;
-    QStringList names;
     QByteArray rest = device.read(blockSize);
     qint64 total = rest.size();
     const char separator = isNullSeparated || rest.contains('\0') ? '\0' : '\n';
@@ -184,8 +212,8 @@ QStringList readNames(QIODevice& device, bool isNullSeparated, bool& error, qint
             name.chop(1);
         }
         isList = isList && name.size() <= MaximumNameBytes;
-        if (!name.isEmpty()) {
-            names.append(console::fileNameFromBytes(name));
+        if (isList && !name.isEmpty()) {
+            take(console::fileNameFromBytes(name));
         }
     };
     for (QByteArray block = rest; isList && !block.isEmpty();) {
@@ -201,8 +229,7 @@ QStringList readNames(QIODevice& device, bool isNullSeparated, bool& error, qint
         isList = isList && total <= largest;
     }
     keep(rest);
-    error = !isList;
-    return isList ? names : QStringList();
+    return isList;
 }
 
 } // namespace archive

@@ -1,23 +1,21 @@
 #pragma once
 
-#include <QHash>
+#include "archive/inputs.h"
+#include "sandbox/readable_paths.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <filesystem>
+#include <functional>
+#include <vector>
 
 class QIODevice;
 
 namespace archive {
 
-/// One file to import. Names and paths are file names as console/file_name.h describes them.
-struct Input
-{
-    QString path;      ///< what is opened
-    QString shownName; ///< its name in messages and reports; its outputs are named after it
-    /// Folder below the output folder that its outputs go to, "a/b"; empty for none.
-    QString folder;
-    bool operator==(const Input&) const = default;
-};
+using OutputVisitor = std::function<void(const QString& output, const QString& source)>;
 
 /// What a command was given to import, and how folders are searched.
 struct InputRequest
@@ -26,9 +24,11 @@ struct InputRequest
     QStringList suffixes;  ///< last suffixes of the files taken from folders, in lower case
     QString base;          ///< named files below this folder keep their subfolder; empty for none
     QString outputFolder;  ///< not searched if it is below a folder that is searched
-    /// Outputs of earlier commands with the inputs that they were made of, as absolute paths. A
-    /// folder's file that was made of another input of this request is left out.
-    QHash<QString, QString> sourcesOfOutputs;
+    /// Passes the outputs of earlier commands, and the input that each was made of, to a function;
+    /// all as absolute paths. A folder's file that was made of another input of this request is
+    /// left out. May be empty.
+    std::function<void(const OutputVisitor& visit)> visitOutputs;
+    QString outputSuffix; ///< of the outputs that visitOutputs knows: ".label"
 };
 
 /// A folder that could not be searched.
@@ -42,8 +42,8 @@ struct UnreadableFolder
 /// The files of a command.
 struct InputList
 {
-    QList<Input> inputs; ///< each file once, in the order of their shown names
-    qint64 skipped = 0;  ///< files of folders that have none of the suffixes
+    Inputs inputs;      ///< each file once, in the order of their shown names
+    qint64 skipped = 0; ///< files of folders that have none of the suffixes
     QList<UnreadableFolder> unreadable;
     QStringList readable;  ///< what holds the inputs, for sandbox::Permissions
     bool searched = false; ///< at least one folder was given
@@ -56,6 +56,33 @@ struct InputList
 /// link or a pipe is reported, not skipped. Folders are searched with their subfolders; hidden
 /// files and folders are left out, and links to folders are not followed. The result does not
 /// depend on the order of the arguments, nor on that of a folder's entries.
+class InputCollector
+{
+public:
+    explicit InputCollector(const InputRequest& request);
+
+    /// A file, or a folder to search.
+    void add(const QString& argument);
+    [[nodiscard]] InputList take();
+
+private:
+    void addTree(const QString& root);
+    void addFolder(const QString& root, const QString& below, QStringList& folders);
+    void addEntry(const std::filesystem::directory_entry& entry, const QString& root,
+                  const QString& below, QStringList& folders);
+    void addFound(const QString& path, const QString& below);
+    void mergeDuplicates();
+    void removeOutputs();
+    void remove(const std::vector<bool>& isKept);
+
+    const InputRequest& m_request;
+    QString m_outputFolder;
+    InputList m_list;
+    std::vector<bool> m_isNamed; ///< for each input: not only found in a folder
+    sandbox::ReadablePaths m_readable;
+};
+
+/// Lists the arguments of the request.
 [[nodiscard]] InputList listInputs(const InputRequest& request);
 
 /// The folder of a path relative to a folder above it; empty if it is not below that folder.
@@ -65,12 +92,14 @@ struct InputList
 inline constexpr qint64 MaximumListBytes = 1LL << 30;
 inline constexpr qint64 MaximumNameBytes = 64 * 1024;
 
-/// The names of a list: one on each line, or, if `isNullSeparated` is set or the list's
+/// Reads the names of a list: one on each line, or, if `isNullSeparated` is set or the list's
 /// first block holds a NUL, between NULs. Empty names are left out.
 ///
-/// @param error   set to true if these bytes are not a list of file names
+/// @param take    called for each name; names before an error are passed too
 /// @param largest bytes that the list may have
-[[nodiscard]] QStringList readNames(QIODevice& device, bool isNullSeparated, bool& error,
-                                    qint64 largest = MaximumListBytes);
+/// @return false if these bytes are not a list of file names
+[[nodiscard]] bool readNames(QIODevice& device, bool isNullSeparated,
+                             const std::function<void(const QString& name)>& take,
+                             qint64 largest = MaximumListBytes);
 
 } // namespace archive

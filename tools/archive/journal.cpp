@@ -94,7 +94,7 @@ bool lastLineIsUnterminated(const QString& path)
 
 } // namespace
 
-QString Journal::open(const QString& outputFolder, const Shard& shard, const QList<Input>& inputs,
+QString Journal::open(const QString& outputFolder, const Shard& shard, const Inputs& inputs,
                       bool isRewriting)
 {
     m_folder.emplace(outputFolder);
@@ -108,19 +108,17 @@ QString Journal::open(const QString& outputFolder, const Shard& shard, const QLi
     if (isTorn) {
         m_file.write("\n");
     }
-    QHash<QString, qsizetype> indexes;
-    for (qsizetype index = 0; index < inputs.size(); ++index) {
-        indexes.insert(console::absolutePath(inputs.at(index).path), index);
-    }
-    m_places.resize(inputs.size());
+    const PathIndex paths(inputs);
     m_files = journalsIn(m_folder->path());
     for (qsizetype file = 0; file < m_files.size(); ++file) {
-        notePlaces(indexes, file);
+        notePlaces(paths, static_cast<quint32>(file));
     }
+    std::stable_sort(m_places.begin(), m_places.end(),
+                     [](const Place& a, const Place& b) { return a.input < b.input; });
     return {};
 }
 
-void Journal::notePlaces(const QHash<QString, qsizetype>& indexes, qsizetype file)
+void Journal::notePlaces(const PathIndex& inputs, quint32 file)
 {
     QFile journal(m_files.at(file));
     if (!journal.open(QIODevice::ReadOnly)) {
@@ -129,15 +127,25 @@ void Journal::notePlaces(const QHash<QString, qsizetype>& indexes, qsizetype fil
     while (!journal.atEnd()) {
         const qint64 offset = journal.pos();
         const std::optional<JournalRecord> record = recordFromLine(nextLine(journal));
-        const auto index = record ? indexes.constFind(record->input.path) : indexes.constEnd();
-        if (index == indexes.constEnd()) {
-            continue;
+        const std::optional<qsizetype> input =
+            record ? inputs.find(record->input.path) : std::nullopt;
+        if (input) {
+            m_places.append({offset, qHash(record->options), static_cast<quint32>(*input), file});
         }
-        QList<Place>& places = m_places[*index];
-        const std::size_t options = qHash(record->options);
-        places.removeIf([options](const Place& place) { return place.options == options; });
-        places.append({file, offset, options});
     }
+}
+
+QList<Journal::Place> Journal::placesOf(qsizetype index) const
+{
+    QList<Place> places;
+    const auto first =
+        std::lower_bound(m_places.begin(), m_places.end(), index,
+                         [](const Place& place, qsizetype input) { return place.input < input; });
+    for (auto place = first; place != m_places.end() && place->input == index; ++place) {
+        places.removeIf([place](const Place& old) { return old.options == place->options; });
+        places.append(*place);
+    }
+    return places;
 }
 
 std::optional<JournalRecord> Journal::recordAt(const Place& place)
@@ -154,7 +162,7 @@ std::optional<JournalRecord> Journal::recordAt(const Place& place)
 
 std::optional<JournalRecord> Journal::find(qsizetype index, const QString& options)
 {
-    for (const Place& place : m_places.value(index)) {
+    for (const Place& place : placesOf(index)) {
         if (place.options == qHash(options)) {
             std::optional<JournalRecord> record = recordAt(place);
             return record && record->options == options ? record : std::nullopt;
@@ -166,7 +174,7 @@ std::optional<JournalRecord> Journal::find(qsizetype index, const QString& optio
 QList<FileStamp> Journal::outputsOf(qsizetype index)
 {
     QList<FileStamp> outputs;
-    for (const Place& place : m_places.value(index)) {
+    for (const Place& place : placesOf(index)) {
         if (const std::optional<JournalRecord> record = recordAt(place)) {
             outputs += record->outputs;
         }
@@ -185,10 +193,9 @@ bool Journal::append(const JournalRecord& record)
     return false;
 }
 
-QHash<QString, QString> Journal::sourcesOfOutputs(const QString& outputFolder,
-                                                  const QString& suffix)
+void Journal::visitOutputs(const QString& outputFolder, const QString& suffix,
+                           const OutputVisitor& visit)
 {
-    QHash<QString, QString> sources;
     const console::ReachablePath reachable(outputFolder);
     const QDir folder(console::absolutePath(outputFolder));
     for (const QString& path : journalsIn(reachable.path())) {
@@ -200,13 +207,11 @@ QHash<QString, QString> Journal::sourcesOfOutputs(const QString& outputFolder,
             const std::optional<JournalRecord> record = recordFromLine(nextLine(journal));
             for (const FileStamp& output : record ? record->outputs : QList<FileStamp>()) {
                 if (output.path.endsWith(suffix)) {
-                    sources.insert(QDir::cleanPath(folder.filePath(output.path)),
-                                   record->input.path);
+                    visit(QDir::cleanPath(folder.filePath(output.path)), record->input.path);
                 }
             }
         }
     }
-    return sources;
 }
 
 QString Journal::fileNameFor(const Shard& shard)

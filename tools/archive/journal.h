@@ -7,7 +7,6 @@
 #include "console/file_name.h"
 
 #include <QFile>
-#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -30,7 +29,7 @@ public:
     /// @param isRewriting removes replaced records first, unless another command uses the folder
     /// @return why the journal cannot be written, for a person; else empty
     [[nodiscard]] QString open(const QString& outputFolder, const Shard& shard,
-                               const QList<Input>& inputs, bool isRewriting = false);
+                               const Inputs& inputs, bool isRewriting = false);
 
     [[nodiscard]] bool isOpen() const { return m_file.isOpen(); }
     /// The record that an earlier command wrote about the input of this index.
@@ -41,28 +40,31 @@ public:
     /// Adds a record. Returns false if writing failed; the journal stays usable.
     [[nodiscard]] bool append(const JournalRecord& record);
 
-    /// The outputs with a suffix that the folder's journals name, and the input that each was made
-    /// of; all as absolute paths.
-    [[nodiscard]] static QHash<QString, QString> sourcesOfOutputs(const QString& outputFolder,
-                                                                  const QString& suffix);
+    /// Passes the outputs with a suffix that the folder's journals name, and the input that each
+    /// was made of, to a function; all as absolute paths.
+    static void visitOutputs(const QString& outputFolder, const QString& suffix,
+                             const OutputVisitor& visit);
     [[nodiscard]] static QString fileNameFor(const Shard& shard);
 
 private:
     struct Place
     {
-        qsizetype file = 0; ///< index in m_files
         qint64 offset = 0;
         std::size_t options = 0; ///< hash of the record's options
+        quint32 input = 0;       ///< index
+        quint32 file = 0;        ///< index in m_files
     };
 
-    void notePlaces(const QHash<QString, qsizetype>& indexes, qsizetype file);
+    void notePlaces(const PathIndex& inputs, quint32 file);
+    /// The places of an input's records that no later record replaces, in order.
+    [[nodiscard]] QList<Place> placesOf(qsizetype index) const;
     [[nodiscard]] std::optional<JournalRecord> recordAt(const Place& place);
 
     std::optional<console::ReachablePath> m_folder;
     QFile m_file;
-    QStringList m_files; ///< all journals of the folder
-    QFile m_read;        ///< the one that was read last
-    QList<QList<Place>> m_places;
+    QStringList m_files;   ///< all journals of the folder
+    QFile m_read;          ///< the one that was read last
+    QList<Place> m_places; ///< by input, then in the order of the journals
     FileLock m_lock;
 };
 

@@ -3,7 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
-#include <QSet>
+
+#include <algorithm>
 
 namespace archive {
 using namespace Qt::StringLiterals;
@@ -22,37 +23,36 @@ QString withoutNumber(QString name)
     return name;
 }
 
-/// Every folder that contains an output of the inputs, with those above it.
-QSet<QString> foldersOf(const QList<Input>& inputs)
-{
-    QSet<QString> folders;
-    for (const Input& input : inputs) {
-        for (QString folder = input.folder; !folder.isEmpty() && !folders.contains(folder);
-             folder = folder.left(folder.lastIndexOf(u'/'))) {
-            folders.insert(folder);
-            if (!folder.contains(u'/')) {
-                break;
-            }
-        }
-    }
-    return folders;
-}
-
 } // namespace
 
-OutputNames::OutputNames(const QList<Input>& inputs, const QStringList& suffixes)
+OutputNames::OutputNames(const Inputs& inputs, const QStringList& suffixes)
     : m_inputs(inputs)
-    , m_naming(inputs.size(), Stem)
+    , m_suffixes(suffixes)
+    , m_naming(inputs.size(), Naming::Stem)
 {
-    settle(Stem, WholeName);
-    settle(WholeName, Contested);
-    contestFolders(suffixes);
+    settle(Naming::Stem, Naming::WholeName);
+    settle(Naming::WholeName, Naming::Contested);
+    findFolders();
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
         const QString name = stem(index);
         const QString letters = withoutNumber(name);
         if (letters != name) {
-            m_numbered.insert(letters);
+            m_numbered.insert(qHash(letters, 0));
         }
+    }
+}
+
+OutputNames::OutputNames(const Inputs& inputs, const QStringList& suffixes,
+                         const QList<OutputName>& chosen)
+    : m_inputs(inputs)
+{
+    for (const OutputName& name : chosen) {
+        const bool isFolder =
+            std::any_of(suffixes.begin(), suffixes.end(), [&](const QString& suffix) {
+                return name.folderSuffixes.contains(suffix);
+            });
+        m_naming.append(isFolder ? Naming::Contested : name.naming);
+        m_pageMarks.append(name.pageMark);
     }
 }
 
@@ -63,38 +63,67 @@ QString OutputNames::output(qsizetype index, const QString& suffix) const
 
 bool OutputNames::isContested(qsizetype index) const
 {
-    return m_naming.at(index) == Contested;
+    if (m_naming.at(index) == Naming::Contested) {
+        return true;
+    }
+    return !m_folders.isEmpty() &&
+           std::any_of(m_suffixes.begin(), m_suffixes.end(), [&](const QString& suffix) {
+               return m_folders.contains(output(index, suffix));
+           });
 }
 
 QString OutputNames::pageMark(qsizetype index) const
 {
+    if (!m_pageMarks.isEmpty()) {
+        return m_pageMarks.at(index);
+    }
     QString mark = u"-"_s;
-    while (m_numbered.contains(stem(index) + mark)) {
+    while (m_numbered.contains(qHash(stem(index) + mark, 0))) {
         mark.prepend(u"-page"_s);
     }
     return mark;
 }
 
+OutputName OutputNames::chosen(qsizetype index) const
+{
+    OutputName name{m_naming.at(index), pageMark(index), {}};
+    for (const QString& suffix : m_suffixes) {
+        if (m_folders.contains(output(index, suffix))) {
+            name.folderSuffixes.append(suffix);
+        }
+    }
+    return name;
+}
+
 QString OutputNames::stem(qsizetype index) const
 {
-    const Input& input = m_inputs.at(index);
+    const Input input = m_inputs.at(index);
     // The shown name: what comes through standard input has no name of its own.
     const QFileInfo info(input.shownName);
     return below(input.folder,
-                 m_naming.at(index) == Stem ? info.completeBaseName() : info.fileName());
+                 m_naming.at(index) == Naming::Stem ? info.completeBaseName() : info.fileName());
 }
 
 void OutputNames::settle(Naming from, Naming to)
 {
-    QHash<QString, qsizetype> uses;
+    HashedIndexes stems;
+    stems.reserve(m_inputs.size());
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
-        ++uses[stem(index)];
+        stems.add(stem(index), index);
     }
+    stems.sort();
     QList<qsizetype> meeting;
-    for (qsizetype index = 0; index < m_inputs.size(); ++index) {
-        // A short name that equals a complete name is contested like that name.
-        if (uses.value(stem(index)) > 1 && (m_naming.at(index) == from || to == Contested)) {
-            meeting.append(index);
+    for (const QList<qsizetype>& group : stems.groups()) {
+        QHash<QString, qsizetype> uses;
+        for (const qsizetype index : group) {
+            ++uses[stem(index)];
+        }
+        for (const qsizetype index : group) {
+            // A short name that equals a complete name is contested like that name.
+            if (uses.value(stem(index)) > 1 &&
+                (m_naming.at(index) == from || to == Naming::Contested)) {
+                meeting.append(index);
+            }
         }
     }
     for (const qsizetype index : meeting) {
@@ -102,18 +131,13 @@ void OutputNames::settle(Naming from, Naming to)
     }
 }
 
-void OutputNames::contestFolders(const QStringList& suffixes)
+void OutputNames::findFolders()
 {
-    const QSet<QString> folders = foldersOf(m_inputs);
-    if (folders.isEmpty()) {
-        return;
-    }
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
-        for (const QString& suffix : suffixes) {
-            if (folders.contains(output(index, suffix))) {
-                m_naming[index] = Contested;
-                break;
-            }
+        QString folder = m_inputs.at(index).folder;
+        while (!folder.isEmpty() && !m_folders.contains(folder)) {
+            m_folders.insert(folder);
+            folder = folder.left(std::max<qsizetype>(folder.lastIndexOf(u'/'), 0));
         }
     }
 }

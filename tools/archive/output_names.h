@@ -1,12 +1,24 @@
 #pragma once
 
-#include "archive/input_list.h"
+#include "archive/inputs.h"
 
+#include <QList>
 #include <QSet>
 #include <QStringList>
 
 /// Where the outputs of one command go.
 namespace archive {
+
+/// How the outputs of one input are named.
+struct OutputName
+{
+    enum Naming : quint8 { Stem, WholeName, Contested };
+
+    Naming naming = Stem;
+    QString pageMark;
+    /// With these suffixes the output would have the name of a folder of other outputs.
+    QStringList folderSuffixes;
+};
 
 /// The names of all outputs of a command.
 ///
@@ -22,7 +34,9 @@ class OutputNames
 public:
     /// @param inputs   must outlive the names and stay as they are
     /// @param suffixes of all targets, without dots
-    OutputNames(const QList<Input>& inputs, const QStringList& suffixes);
+    OutputNames(const Inputs& inputs, const QStringList& suffixes);
+    /// With names that were chosen over a complete archive, of which the inputs are a part.
+    OutputNames(const Inputs& inputs, const QStringList& suffixes, const QList<OutputName>& chosen);
 
     /// Path below the output folder of an input's output as a target.
     [[nodiscard]] QString output(qsizetype index, const QString& suffix) const;
@@ -32,18 +46,25 @@ public:
     /// it has the name of another input's output: "-", or "-page-" if shelf.odg and shelf-2.odg
     /// are both imported.
     [[nodiscard]] QString pageMark(qsizetype index) const;
+    /// How an input's outputs are named; only the suffixes of the names count as folders.
+    [[nodiscard]] OutputName chosen(qsizetype index) const;
 
 private:
-    enum Naming : quint8 { Stem, WholeName, Contested };
+    using Naming = OutputName::Naming;
 
     [[nodiscard]] QString stem(qsizetype index) const;
     void settle(Naming from, Naming to);
-    void contestFolders(const QStringList& suffixes);
+    void findFolders();
 
-    const QList<Input>& m_inputs;
+    const Inputs& m_inputs;
+    QStringList m_suffixes;
     QList<Naming> m_naming;
-    /// The names of outputs that end in a number, without it.
-    QSet<QString> m_numbered;
+    /// Every folder that contains an output, with those above it.
+    QSet<QString> m_folders;
+    /// Hashes of the names of outputs that end in a number, without it. If two names have one
+    /// hash, a page mark is longer than it must be.
+    QSet<std::size_t> m_numbered;
+    QList<QString> m_pageMarks; ///< if the names were chosen before
 };
 
 } // namespace archive

@@ -30,18 +30,24 @@ QString nameClashMessage(const QString& output)
 
 } // namespace
 
-Run::Run(const QList<Input>& inputs, RunSettings settings, Deliver deliver)
+Run::Run(const Inputs& inputs, RunSettings settings, Deliver deliver)
     : m_inputs(inputs)
     , m_settings(std::move(settings))
     , m_deliver(std::move(deliver))
-    , m_names(m_inputs, m_settings.targets)
+    , m_names(m_settings.isPart ? OutputNames(m_inputs, m_settings.targets, m_settings.names)
+                                : OutputNames(m_inputs, m_settings.targets))
 {
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
-        m_progress.total += m_settings.shard.takes(index) ? 1 : 0;
+        m_progress.total += takes(index) ? 1 : 0;
     }
 }
 
 Run::~Run() = default;
+
+bool Run::takes(qsizetype index) const
+{
+    return m_settings.isPart || m_settings.shard.takes(index);
+}
 
 QString Run::open()
 {
@@ -98,7 +104,7 @@ std::optional<qsizetype> Run::nextTask()
 {
     while (m_cursor < m_inputs.size() && !m_results.isFull() && !m_isStopped) {
         const qsizetype index = m_cursor++;
-        if (!m_settings.shard.takes(index)) {
+        if (!takes(index)) {
             m_results.skip(index);
         } else if (!finishWithoutWorker(index)) {
             return index;
@@ -180,7 +186,7 @@ void Run::workerStarted(const sandbox::Confinement& confinement)
 
 QByteArray Run::lineFor(qsizetype task, int slot)
 {
-    const Input& input = m_inputs.at(task);
+    const Input input = m_inputs.at(task);
     const QString path = console::absolutePath(input.path);
     const Work work{stampOf(path).value_or(FileStamp{path}), m_elapsed.elapsed(),
                     m_staging.emptySlot(slot),

@@ -27,6 +27,9 @@ struct RunSettings
     QString outputFolder;
     QString outputFile; ///< in that folder: the output of the only input and target; may be empty
     Shard shard;
+    /// The names of the outputs, if they were chosen over a complete archive.
+    QList<OutputName> names;
+    bool isPart = false;       ///< the inputs are those of the shard only
     QJsonObject options;       ///< for workers; files imported with others are imported again
     QJsonObject workerOptions; ///< for workers; without influence on the outputs
     QString version;           ///< of the program; files imported by another are imported again
@@ -66,7 +69,7 @@ public:
     using Deliver = std::function<void(const Delivery&)>;
 
     /// @param inputs  must outlive the run
-    Run(const QList<Input>& inputs, RunSettings settings, Deliver deliver);
+    Run(const Inputs& inputs, RunSettings settings, Deliver deliver);
     ~Run() override;
 
     /// Prepares the output folder. @return why that failed, for a person; else empty
@@ -107,6 +110,7 @@ private:
         QList<FileStamp> known; ///< untouched outputs of earlier commands
     };
 
+    [[nodiscard]] bool takes(qsizetype index) const;
     [[nodiscard]] bool finishWithoutWorker(qsizetype index);
     [[nodiscard]] QStringList plannedOutputs(qsizetype index) const;
     [[nodiscard]] QString fingerprint(qsizetype index) const;
@@ -124,7 +128,7 @@ private:
     void noteBroken();
     void finish();
 
-    const QList<Input>& m_inputs;
+    const Inputs& m_inputs;
     RunSettings m_settings;
     Deliver m_deliver;
     OutputNames m_names;

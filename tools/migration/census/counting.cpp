@@ -32,7 +32,8 @@ QByteArray bytesToCount(const QString& fileName, QString& unknown)
         unknown = tooLargeToCount();
         return {};
     }
-    return file.read(MaximumFile);
+    // Not the maximum, which would be reserved.
+    return file.read(file.size());
 }
 
 } // namespace migration
