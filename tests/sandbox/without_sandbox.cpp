@@ -5,6 +5,7 @@
 
 #include <seccomp.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 
@@ -18,8 +19,9 @@ int main(int argc, char** argv)
     }
     const scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
     bool isReady = filter != nullptr;
-    for (const long call : {SYS_landlock_create_ruleset, SYS_landlock_add_rule,
-                            SYS_landlock_restrict_self, SYS_seccomp}) {
+    constexpr std::array<long, 4> calls{SYS_landlock_create_ruleset, SYS_landlock_add_rule,
+                                        SYS_landlock_restrict_self, SYS_seccomp};
+    for (const long call : calls) {
         isReady = isReady &&
                   seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), static_cast<int>(call), 0) == 0;
     }
