@@ -43,6 +43,16 @@
     </message>
 </context>
 <context>
+    <name>cli::ListCommand</name>
+    <message numerus="yes">
+        <source>%n file(s) listed.</source>
+        <translation>
+            <numerusform>%n file listed.</numerusform>
+            <numerusform>%n files listed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>cli::LabelWriter</name>
     <message numerus="yes">
         <source>The label has only %n record(s); record %1 does not exist.</source>

@@ -22,8 +22,9 @@ TEST_F(OldKernel, ImportsWithoutASandbox)
         labelportWithoutSandbox(words("import a.qmtx --dpi 40 --report report.json"));
     EXPECT_EQ(imported.status, 0) << qPrintable(imported.err);
     EXPECT_EQ(imported.out, u"a.png\n"_s);
-    const QJsonObject report = QJsonDocument::fromJson(read(u"report.json"_s)).object();
-    const QJsonObject file = report.value("files"_L1).toArray().first().toObject();
+    // A header, then a line for each file.
+    const QByteArray line = read(u"report.json"_s).split('\n').value(1);
+    const QJsonObject file = QJsonDocument::fromJson(line).object();
     EXPECT_EQ(file.value("file"_L1).toString(), u"a.qmtx"_s);
     EXPECT_TRUE(file.value("sandbox"_L1).toArray().isEmpty());
 }
