@@ -106,6 +106,17 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
     </message>
 </context>
 <context>
+    <name>archive::PreparedList</name>
+    <message>
+        <source>it was written by another version of labelport</source>
+        <translation>sie wurde von einer anderen Version von labelport geschrieben</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete</source>
+        <translation>sie ist beschädigt oder unvollständig</translation>
+    </message>
+</context>
+<context>
     <name>archive::Progress</name>
     <message>
         <source>%1 files/s</source>
@@ -300,10 +311,6 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>Abgebrochen. Wiederholen Sie den Befehl mit --resume, um fortzufahren.</translation>
     </message>
     <message>
-        <source>Cannot search folder &quot;%1&quot;: %2.</source>
-        <translation>Der Ordner „%1“ kann nicht durchsucht werden: %2.</translation>
-    </message>
-    <message>
         <source>No labels to import.</source>
         <translation>Keine Etiketten zum Importieren.</translation>
     </message>
@@ -321,6 +328,14 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
     <message>
         <source>&quot;%1&quot; is not a list of file names.</source>
         <translation>„%1“ ist keine Liste von Dateinamen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written by &quot;labelport list&quot;: it excludes other files, --base, --shard and --null.</source>
+        <translation>„%1“ wurde von „labelport list“ geschrieben: Andere Dateien, --base, --shard und --null sind damit nicht möglich.</translation>
+    </message>
+    <message>
+        <source>Cannot search folder &quot;%1&quot;: %2.</source>
+        <translation>Ordner „%1“ kann nicht durchsucht werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -502,6 +517,52 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
     </message>
 </context>
 <context>
+    <name>cli::ListCommand</name>
+    <message>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists, and is not a list of labelport.</source>
+        <translation>„%1“ existiert und ist keine Liste von labelport.</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>No file to list.</source>
+        <translation>Keine Datei zum Auflisten.</translation>
+    </message>
+    <message>
+        <source>Specify the folder of the lists with --to.</source>
+        <translation>Den Ordner der Listen mit --to angeben.</translation>
+    </message>
+    <message>
+        <source>A label from standard input cannot be listed.</source>
+        <translation>Ein Etikett von der Standardeingabe kann nicht aufgelistet werden.</translation>
+    </message>
+    <message>
+        <source>--null has no effect without --files-from.</source>
+        <translation>--null hat ohne --files-from keine Wirkung.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written by &quot;labelport list&quot;.</source>
+        <translation>„%1“ wurde von „labelport list“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>No labels to list.</source>
+        <translation>Keine Etiketten zum Auflisten.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) listed.</source>
+        <translation>
+            <numerusform>%n Datei aufgelistet.</numerusform>
+            <numerusform>%n Dateien aufgelistet.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>cli::LossSummary</name>
     <message>
         <source>Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.</source>
@@ -634,10 +695,6 @@ nicht vollständig importiert (import --fail-on-loss), 130 durch ein Signal abge
     <message>
         <source>list</source>
         <translation>Liste</translation>
-    </message>
-    <message>
-        <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
-        <translation>Auch die Dateien importieren, die in dieser Liste stehen, ein Name je Zeile oder durch NUL getrennt; - ist die Standardeingabe.</translation>
     </message>
     <message>
         <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
@@ -942,6 +999,52 @@ Beispiele:
     <message>
         <source>What to write: png, svg, pdf, zpl, csv, label, glabels; several with commas (default: png).</source>
         <translation>Was geschrieben wird: png, svg, pdf, zpl, csv, label, glabels; mehrere mit Kommas (Voreinstellung: png).</translation>
+    </message>
+    <message>
+        <source>Lists the labels of a large archive once, as several lists that machines import on their own:
+&quot;labelport import --files-from LIST&quot; reads neither the archive&apos;s folders nor the other lists.
+Output names are chosen over the complete archive. The lists are named 1.jsonl, 2.jsonl and so
+on; their names are listed on standard output.
+
+Examples:
+  labelport list archive --shards 100 --to lists
+  labelport import --files-from lists/17.jsonl --to label --output-dir new --resume
+
+Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
+        <translation>Listet die Etiketten eines großen Archivs einmal auf, als mehrere Listen, die Maschinen unabhängig
+importieren: „labelport import --files-from LISTE“ liest weder die Ordner des Archivs noch die
+anderen Listen. Die Namen der Ausgaben gelten für das ganze Archiv. Die Listen heißen 1.jsonl,
+2.jsonl und so weiter; ihre Namen werden auf der Standardausgabe aufgelistet.
+
+Beispiele:
+  labelport list archive --shards 100 --to lists
+  labelport import --files-from lists/17.jsonl --to label --output-dir new --resume
+
+Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falscher Aufruf.</translation>
+    </message>
+    <message>
+        <source>Also take the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
+        <translation>Auch die Dateien dieser Liste nehmen, ein Name je Zeile oder durch NUL getrennt; - ist die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Folder to write the lists to; created if missing. Lists of an earlier command are replaced.</source>
+        <translation>Ordner für die Listen; wird bei Bedarf angelegt. Listen eines früheren Befehls werden ersetzt.</translation>
+    </message>
+    <message>
+        <source>Number of lists, up to 100000 (default: 1).</source>
+        <translation>Anzahl der Listen, bis 100000 (Voreinstellung: 1).</translation>
+    </message>
+    <message>
+        <source>Folder that the labels will be imported to, if it is in the archive: it is not searched.</source>
+        <translation>Ordner, in den die Etiketten importiert werden, falls er im Archiv liegt: Er wird nicht durchsucht.</translation>
+    </message>
+    <message>
+        <source>list the labels of an archive for several machines</source>
+        <translation>die Etiketten eines Archivs für mehrere Maschinen auflisten</translation>
+    </message>
+    <message>
+        <source>Label or folder of labels to list.</source>
+        <translation>Etikett oder Ordner mit Etiketten, die aufgelistet werden.</translation>
     </message>
 </context>
 <context>

@@ -43,22 +43,22 @@
     </message>
 </context>
 <context>
-    <name>cli::ListCommand</name>
-    <message numerus="yes">
-        <source>%n file(s) listed.</source>
-        <translation>
-            <numerusform>%n file listed.</numerusform>
-            <numerusform>%n files listed.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>cli::LabelWriter</name>
     <message numerus="yes">
         <source>The label has only %n record(s); record %1 does not exist.</source>
         <translation>
             <numerusform>The label has only %n record; record %1 does not exist.</numerusform>
             <numerusform>The label has only %n records; record %1 does not exist.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>cli::ListCommand</name>
+    <message numerus="yes">
+        <source>%n file(s) listed.</source>
+        <translation>
+            <numerusform>%n file listed.</numerusform>
+            <numerusform>%n files listed.</numerusform>
         </translation>
     </message>
 </context>

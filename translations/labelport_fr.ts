@@ -106,6 +106,17 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
 </context>
 <context>
+    <name>archive::PreparedList</name>
+    <message>
+        <source>it was written by another version of labelport</source>
+        <translation>il a été écrit par une autre version de labelport</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete</source>
+        <translation>il est endommagé ou incomplet</translation>
+    </message>
+</context>
+<context>
     <name>archive::Progress</name>
     <message>
         <source>%1 files/s</source>
@@ -300,10 +311,6 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>Arrêté. Répétez la commande avec --resume pour continuer.</translation>
     </message>
     <message>
-        <source>Cannot search folder &quot;%1&quot;: %2.</source>
-        <translation>Impossible de parcourir le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
-    </message>
-    <message>
         <source>No labels to import.</source>
         <translation>Aucune étiquette à importer.</translation>
     </message>
@@ -321,6 +328,14 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message>
         <source>&quot;%1&quot; is not a list of file names.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une liste de noms de fichiers.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written by &quot;labelport list&quot;: it excludes other files, --base, --shard and --null.</source>
+        <translation>«&#xa0;%1&#xa0;» a été écrit par «&#xa0;labelport list&#xa0;»&#xa0;: il exclut d’autres fichiers, --base, --shard et --null.</translation>
+    </message>
+    <message>
+        <source>Cannot search folder &quot;%1&quot;: %2.</source>
+        <translation>Impossible de parcourir le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -502,6 +517,52 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     </message>
 </context>
 <context>
+    <name>cli::ListCommand</name>
+    <message>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists, and is not a list of labelport.</source>
+        <translation>«&#xa0;%1&#xa0;» existe et n’est pas une liste de labelport.</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation>Impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>No file to list.</source>
+        <translation>Aucun fichier à lister.</translation>
+    </message>
+    <message>
+        <source>Specify the folder of the lists with --to.</source>
+        <translation>Indiquez le dossier des listes avec --to.</translation>
+    </message>
+    <message>
+        <source>A label from standard input cannot be listed.</source>
+        <translation>Une étiquette de l’entrée standard ne peut pas être listée.</translation>
+    </message>
+    <message>
+        <source>--null has no effect without --files-from.</source>
+        <translation>--null est sans effet sans --files-from.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written by &quot;labelport list&quot;.</source>
+        <translation>«&#xa0;%1&#xa0;» a été écrit par «&#xa0;labelport list&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No labels to list.</source>
+        <translation>Aucune étiquette à lister.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) listed.</source>
+        <translation>
+            <numerusform>%n fichier listé.</numerusform>
+            <numerusform>%n fichiers listés.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>cli::LossSummary</name>
     <message>
         <source>Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.</source>
@@ -634,10 +695,6 @@ incomplètement (import --fail-on-loss), 130 arrêt par un signal.
     <message>
         <source>list</source>
         <translation>liste</translation>
-    </message>
-    <message>
-        <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
-        <translation>Importer aussi les fichiers nommés dans cette liste, un nom par ligne ou séparés par NUL&#xa0;; - est l’entrée standard.</translation>
     </message>
     <message>
         <source>Names in the list are separated by NUL, as find -print0 writes them.</source>
@@ -942,6 +999,52 @@ Exemples&#xa0;:
     <message>
         <source>What to write: png, svg, pdf, zpl, csv, label, glabels; several with commas (default: png).</source>
         <translation>Ce qu’il faut écrire&#xa0;: png, svg, pdf, zpl, csv, label, glabels&#xa0;; plusieurs séparés par des virgules (par défaut&#xa0;: png).</translation>
+    </message>
+    <message>
+        <source>Lists the labels of a large archive once, as several lists that machines import on their own:
+&quot;labelport import --files-from LIST&quot; reads neither the archive&apos;s folders nor the other lists.
+Output names are chosen over the complete archive. The lists are named 1.jsonl, 2.jsonl and so
+on; their names are listed on standard output.
+
+Examples:
+  labelport list archive --shards 100 --to lists
+  labelport import --files-from lists/17.jsonl --to label --output-dir new --resume
+
+Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
+        <translation>Liste une fois les étiquettes d’une grande archive, en plusieurs listes que des machines importent
+séparément&#xa0;: «&#xa0;labelport import --files-from LISTE&#xa0;» ne lit ni les dossiers de l’archive ni les
+autres listes. Les noms des sorties valent pour toute l’archive. Les listes s’appellent 1.jsonl,
+2.jsonl, etc.&#xa0;; leurs noms sont listés sur la sortie standard.
+
+Exemples&#xa0;:
+  labelport list archive --shards 100 --to lists
+  labelport import --files-from lists/17.jsonl --to label --output-dir new --resume
+
+Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 utilisation incorrecte.</translation>
+    </message>
+    <message>
+        <source>Also take the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
+        <translation>Prendre aussi les fichiers de cette liste, un nom par ligne ou séparés par NUL&#xa0;; - est l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>Folder to write the lists to; created if missing. Lists of an earlier command are replaced.</source>
+        <translation>Dossier des listes&#xa0;; créé s’il manque. Les listes d’une commande précédente sont remplacées.</translation>
+    </message>
+    <message>
+        <source>Number of lists, up to 100000 (default: 1).</source>
+        <translation>Nombre de listes, jusqu’à 100000 (par défaut&#xa0;: 1).</translation>
+    </message>
+    <message>
+        <source>Folder that the labels will be imported to, if it is in the archive: it is not searched.</source>
+        <translation>Dossier où les étiquettes seront importées, s’il est dans l’archive&#xa0;: il n’est pas parcouru.</translation>
+    </message>
+    <message>
+        <source>list the labels of an archive for several machines</source>
+        <translation>lister les étiquettes d’une archive pour plusieurs machines</translation>
+    </message>
+    <message>
+        <source>Label or folder of labels to list.</source>
+        <translation>Étiquette ou dossier d’étiquettes à lister.</translation>
     </message>
 </context>
 <context>

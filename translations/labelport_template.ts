@@ -104,6 +104,17 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
 </context>
 <context>
+    <name>archive::PreparedList</name>
+    <message>
+        <source>it was written by another version of labelport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>archive::Progress</name>
     <message>
         <source>%1 files/s</source>
@@ -298,10 +309,6 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cannot search folder &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>No labels to import.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -318,6 +325,14 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
     <message>
         <source>&quot;%1&quot; is not a list of file names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written by &quot;labelport list&quot;: it excludes other files, --base, --shard and --null.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot search folder &quot;%1&quot;: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -500,6 +515,52 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
 </context>
 <context>
+    <name>cli::ListCommand</name>
+    <message>
+        <source>Cannot create folder &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists, and is not a list of labelport.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file to list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the folder of the lists with --to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A label from standard input cannot be listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--null has no effect without --files-from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was written by &quot;labelport list&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No labels to list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) listed.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>cli::LossSummary</name>
     <message>
         <source>Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.</source>
@@ -610,10 +671,6 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
     </message>
     <message>
         <source>list</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Also import the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -872,6 +929,43 @@ Examples:
     </message>
     <message>
         <source>What to write: png, svg, pdf, zpl, csv, label, glabels; several with commas (default: png).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the labels of a large archive once, as several lists that machines import on their own:
+&quot;labelport import --files-from LIST&quot; reads neither the archive&apos;s folders nor the other lists.
+Output names are chosen over the complete archive. The lists are named 1.jsonl, 2.jsonl and so
+on; their names are listed on standard output.
+
+Examples:
+  labelport list archive --shards 100 --to lists
+  labelport import --files-from lists/17.jsonl --to label --output-dir new --resume
+
+Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Also take the files named in this list, one name on each line or separated by NUL; - is standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder to write the lists to; created if missing. Lists of an earlier command are replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of lists, up to 100000 (default: 1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder that the labels will be imported to, if it is in the archive: it is not searched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list the labels of an archive for several machines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label or folder of labels to list.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
