@@ -198,10 +198,11 @@ TEST_F(ImportArchive, GivesAFileUpThatNeedsTooMuchMemory)
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "SKIPPED: no bounds of memory under the sanitizer";
 #endif
-    const Outcome outcome =
-        labelport(words("import old/vial.odg --dpi 2400 --memory-limit 128 --output-dir new"));
+    const Outcome outcome = labelport(
+        words("import old/tags/more/sign.QMTX --dpi 2400 --memory-limit 128 --output-dir new"));
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_FALSE(has("new/vial.png"));
+    EXPECT_TRUE(outcome.err.contains(u"memory"_s)) << qPrintable(outcome.err);
+    EXPECT_FALSE(has("new/sign.png"));
 }
 
 // Ten commands at once into one folder: each finds its own or the others' pictures there.
