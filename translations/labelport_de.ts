@@ -1209,6 +1209,22 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <source>It shows the first record only.</source>
         <translation>Es zeigt nur den ersten Datensatz.</translation>
     </message>
+    <message>
+        <source>A text in several formats became a text for each line and format.</source>
+        <translation>Ein Text in mehreren Formaten wurde zu einem Text je Zeile und Format.</translation>
+    </message>
+    <message>
+        <source>A text from a data source is not underlined.</source>
+        <translation>Ein Text aus einer Datenquelle ist nicht unterstrichen.</translation>
+    </message>
+    <message>
+        <source>Justified text is aligned left.</source>
+        <translation>Blocksatz ist linksbündig.</translation>
+    </message>
+    <message>
+        <source>gLabels knows only installed fonts: &quot;%1&quot; became &quot;%2&quot;.</source>
+        <translation>gLabels kennt nur installierte Schriften: „%1“ wurde zu „%2“.</translation>
+    </message>
 </context>
 <context>
     <name>exporting::Targets</name>
@@ -2990,7 +3006,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>&amp;Connect CSV File…</source>
-        <translation>&amp;CSV-Datei verbinden …</translation>
+        <translation>&amp;CSV-Datei verbinden…</translation>
     </message>
     <message>
         <source>Shows columns of a CSV file in items of the label</source>
@@ -2998,7 +3014,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>&amp;Edit Data Source…</source>
-        <translation>Daten&amp;quelle bearbeiten …</translation>
+        <translation>Daten&amp;quelle bearbeiten…</translation>
     </message>
     <message>
         <source>Changes the counter, date, list or file that is selected in the panel</source>
@@ -3153,19 +3169,19 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>Replace F&amp;ont…</source>
-        <translation>S&amp;chrift ersetzen …</translation>
+        <translation>S&amp;chrift ersetzen…</translation>
     </message>
     <message>
         <source>Set &amp;Color…</source>
-        <translation>&amp;Farbe setzen …</translation>
+        <translation>&amp;Farbe setzen…</translation>
     </message>
     <message>
         <source>Re&amp;scale…</source>
-        <translation>S&amp;kalieren …</translation>
+        <translation>S&amp;kalieren…</translation>
     </message>
     <message>
         <source>&amp;Bind to Data Source…</source>
-        <translation>Mit Daten&amp;quelle verbinden …</translation>
+        <translation>Mit Daten&amp;quelle verbinden…</translation>
     </message>
     <message>
         <source>Delete Items</source>
@@ -3244,7 +3260,7 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     </message>
     <message>
         <source>C&amp;hoose…</source>
-        <translation>&amp;Auswählen …</translation>
+        <translation>&amp;Auswählen…</translation>
     </message>
     <message>
         <source>Read &amp;Again</source>
@@ -4150,7 +4166,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
     <message>
         <source>A&amp;dd…</source>
-        <translation>&amp;Hinzufügen …</translation>
+        <translation>&amp;Hinzufügen…</translation>
     </message>
     <message>
         <source>Remo&amp;ve</source>

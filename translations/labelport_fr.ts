@@ -1209,6 +1209,22 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <source>It shows the first record only.</source>
         <translation>Seul le premier enregistrement est affiché.</translation>
     </message>
+    <message>
+        <source>A text in several formats became a text for each line and format.</source>
+        <translation>Un texte en plusieurs formats est devenu un texte par ligne et format.</translation>
+    </message>
+    <message>
+        <source>A text from a data source is not underlined.</source>
+        <translation>Un texte d’une source de données n’est pas souligné.</translation>
+    </message>
+    <message>
+        <source>Justified text is aligned left.</source>
+        <translation>Le texte justifié est aligné à gauche.</translation>
+    </message>
+    <message>
+        <source>gLabels knows only installed fonts: &quot;%1&quot; became &quot;%2&quot;.</source>
+        <translation>gLabels ne connaît que les polices installées&#xa0;: «&#xa0;%1&#xa0;» est devenu «&#xa0;%2&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>exporting::Targets</name>
@@ -3018,7 +3034,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Open as &amp;Written</source>
-        <translation>Ouvrir sans &amp;réparation</translation>
+        <translation>Ouvrir s&amp;ans réparation</translation>
     </message>
     <message>
         <source>Shows the imported document without repairs</source>
@@ -3026,7 +3042,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>Show in &amp;Selected Items</source>
-        <translation>Afficher dans les objets &amp;sélectionnés</translation>
+        <translation>Afficher dans les &amp;objets sélectionnés</translation>
     </message>
     <message>
         <source>Lets the selected texts and barcodes show the data source of the panel</source>
@@ -3034,7 +3050,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>New Co&amp;unter…</source>
-        <translation>Nouveau co&amp;mpteur…</translation>
+        <translation>No&amp;uveau compteur…</translation>
     </message>
     <message>
         <source>Adds a counter and shows it in the selected items</source>
@@ -3042,7 +3058,7 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     </message>
     <message>
         <source>New &amp;Date and Time…</source>
-        <translation>Nouvelle d&amp;ate et heure…</translation>
+        <translation>Nouvelle date et &amp;heure…</translation>
     </message>
     <message>
         <source>Adds the date and the time of printing and shows them in the selected items</source>

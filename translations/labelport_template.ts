@@ -1131,6 +1131,22 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <source>It shows the first record only.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>A text in several formats became a text for each line and format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text from a data source is not underlined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Justified text is aligned left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels knows only installed fonts: &quot;%1&quot; became &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>exporting::Targets</name>

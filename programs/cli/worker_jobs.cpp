@@ -40,11 +40,12 @@ public:
 
     qint64 taskAnswered(qsizetype task, const QByteArray& line) override
     {
-        const std::optional<archive::FileResult> result = archive::resultFromLine(line);
+        std::optional<archive::FileResult> result = archive::resultFromLine(line);
         if (!result) {
             taskFailed(task, {archive::WorkerEnd::Garbled, 0});
             return 0;
         }
+        archive::nameMemoryLimit(*result, m_limits);
         m_results[task] = *result;
         return result->memory;
     }

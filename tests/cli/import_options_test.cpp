@@ -170,7 +170,8 @@ TEST(ImportOptions, RefuseSheetsThatHaveNoEffect)
     EXPECT_EQ(refusal("a.odg --to pdf --sheet L716"),
               u"Unknown sheet \"L716\". \"labelport formats\" lists the sheets. Did you mean "
               "\"L7160\"?"_s);
-    EXPECT_EQ(refusal("a.odg --sheet L7160"), u"--sheet has no effect without --to pdf or glabels."_s);
+    EXPECT_EQ(refusal("a.odg --sheet L7160"),
+              u"--sheet has no effect without --to pdf or glabels."_s);
     EXPECT_EQ(refusal("a.odg --copies 2"), u"--copies has no effect without --to pdf or zpl."_s);
     EXPECT_EQ(refusal("a.odg --to pdf --crop-marks"),
               u"--crop-marks has no effect without --sheet."_s);

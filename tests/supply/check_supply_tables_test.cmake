@@ -66,15 +66,15 @@ expect_refusal(no_ribbons "RibbonType.csv does not exist")
 
 copy_of_good(label_missing)
 replace_in(label_missing LabelType.csv ",Blackmark Sensed,FFFFFFFF,1,,3,0,0,0,0,0,0,0\n" "")
-expect_refusal(label_missing "LabelType.csv has 411 rows behind its header line, not 412")
+expect_refusal(label_missing "LabelType.csv has 411 rows after its header line, not 412")
 
 copy_of_good(ribbon_added)
 file(APPEND ${SCRATCH}/ribbon_added/RibbonType.csv "R-X,X,0,#000000\r\n")
-expect_refusal(ribbon_added "RibbonType.csv has 12 rows behind its header line, not 11")
+expect_refusal(ribbon_added "RibbonType.csv has 12 rows after its header line, not 11")
 
 copy_of_good(color_missing)
 replace_in(color_missing color1.csv "97,#512826,color_cocoa\n" "")
-expect_refusal(color_missing "color1.csv has 97 rows behind its header line, not 98")
+expect_refusal(color_missing "color1.csv has 97 rows after its header line, not 98")
 
 copy_of_good(empty_line)
 replace_in(empty_line color1.csv "97,#512826,color_cocoa" "")

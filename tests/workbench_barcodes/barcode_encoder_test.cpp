@@ -137,8 +137,8 @@ TEST(BarcodeEncoder, ExplainsWhatCannotBeEncoded)
         {16, "12345", "GS1-128: the content does not suit this kind of barcode ("},
         {130, "331234567890", "EAN Composite: the content needs a linear part, a \"|\" and"},
         {5, "1", "The label has an unknown kind of barcode (number 5)."},
-        {-1, "1", "not known (number -1)."},
-        {0x10008, "1", "not known"},
+        {-1, "1", "The label has an unknown kind of barcode (number -1)."},
+        {0x10008, "1", "unknown kind of barcode"},
         {28, "0", "Flattermarken: the content gives no bars at all."},
     };
     for (const auto& row : rows) {

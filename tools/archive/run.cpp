@@ -215,6 +215,7 @@ qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
         taskFailed(task, {WorkerEnd::Garbled, 0});
         return 0;
     }
+    nameMemoryLimit(*result, m_settings.limits);
     const qint64 memory = result->memory;
     // Before the outputs are published: every output in place is in the journal, whichever process
     // is killed.

@@ -64,4 +64,11 @@ QString messageFor(const WorkerEnd& end, const WorkerLimits& limits)
         .arg(end.code);
 }
 
+void nameMemoryLimit(FileResult& result, const WorkerLimits& limits)
+{
+    if (result.outcome == FileOutcome::OutOfMemory) {
+        result.errors = {messageFor({WorkerEnd::Exited, WorkerExitOutOfMemory}, limits)};
+    }
+}
+
 } // namespace archive

@@ -52,4 +52,7 @@ struct WorkerLimits
 /// User-visible error message of that file.
 [[nodiscard]] QString messageFor(const WorkerEnd& end, const WorkerLimits& limits);
 
+/// Names the limit in the error of a file that a worker refused because it needs too much memory.
+void nameMemoryLimit(FileResult& result, const WorkerLimits& limits);
+
 } // namespace archive

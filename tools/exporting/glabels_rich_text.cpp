@@ -24,6 +24,11 @@ using namespace workbench;
 
 namespace {
 
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("exporting::Glabels", text);
+}
+
 /// Sizes that fitSize() tries, and how much better they must be.
 constexpr std::array SizeFactors{0.9975, 1.0025, 0.995, 1.005, 0.99, 1.01};
 constexpr double NoticeableGain = 0.7;
@@ -199,11 +204,6 @@ void addBlock(GlabelsDocument& document, const QTransform& toPage, const QTextBl
 
 } // namespace
 
-QString words(const char* text)
-{
-    return QCoreApplication::translate("exporting::Glabels", text);
-}
-
 QRectF widened(const QRectF& box, double width, Qt::Alignment alignment)
 {
     const double missing = std::max(0.0, width + Tolerance - box.width());
@@ -264,7 +264,7 @@ bool addRichText(GlabelsDocument& document, ExportFindings& findings, const Walk
                  style.color);
     }
     findings.add(Fidelity::Simplified, shapeCode(values.type),
-                 words("A text in several formats became a text for each line and format."));
+                 tr("A text in several formats became a text for each line and format."));
     return true;
 }
 

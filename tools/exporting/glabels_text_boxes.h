@@ -10,9 +10,6 @@
 /// What plain and rich texts have in common.
 namespace exporting {
 
-/// A user-visible text, translated.
-[[nodiscard]] QString words(const char* text);
-
 /// The box, wide enough for a line of this width in gLabels. It grows away from the aligned edge.
 [[nodiscard]] QRectF widened(const QRectF& box, double width, Qt::Alignment alignment);
 

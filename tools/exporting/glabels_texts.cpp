@@ -18,6 +18,11 @@ using namespace workbench;
 
 namespace {
 
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("exporting::Glabels", text);
+}
+
 /// Pixels, in which widths are not rounded.
 constexpr int MeasuringSize = 100;
 /// Keeps a text from moving by a point if its place is whole points, except for a rounding error.
@@ -84,13 +89,13 @@ void noteChanges(ExportFindings& findings, const ItemValues& values, const QStri
     const Qt::Alignment alignment = values.textStyle.value_or(TextStyleValues()).alignment;
     if (losesUnderline) {
         findings.add(Fidelity::Simplified, kind,
-                     words("A text from a data source is not underlined."));
+                     tr("A text from a data source is not underlined."));
     } else if (alignment.testFlag(Qt::AlignJustify)) {
-        findings.add(Fidelity::Simplified, kind, words("Justified text is aligned left."));
+        findings.add(Fidelity::Simplified, kind, tr("Justified text is aligned left."));
     } else if (!wanted.isEmpty() && wanted != family) {
         findings.add(
             Fidelity::Simplified, kind,
-            words("gLabels knows only installed fonts: \"%1\" became \"%2\".").arg(wanted, family));
+            tr("gLabels knows only installed fonts: \"%1\" became \"%2\".").arg(wanted, family));
     } else {
         findings.add(Fidelity::Exact, kind);
     }
