@@ -113,7 +113,8 @@ class Cluster:
             host=socket.gethostname().split(".")[0], folder=self.folder, user=pwd.getpwuid(os.getuid()).pw_name,
             controller_port=controller_port, node_port=node_port), encoding="utf-8")
 
-        self.daemon("munged", "--foreground", f"--key-file={key}", f"--socket={munge}/socket",
+        # By force, because it otherwise refuses a root folder that other users cannot enter.
+        self.daemon("munged", "--foreground", "--force", f"--key-file={key}", f"--socket={munge}/socket",
                     f"--pid-file={munge}/pid", f"--log-file={munge}/log",
                     f"--seed-file={munge}/seed")
         self.await_state((munge / "socket").exists, "munged")
