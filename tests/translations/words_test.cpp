@@ -2,6 +2,7 @@
 
 #include "translations/program_language.h"
 #include "window/actions/actions.h"
+#include "window/review/issues.h"
 #include "workbench/barcodes/barcode_encoder.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/datasources/datasource_controller.h"
@@ -122,6 +123,36 @@ TEST_F(Words, WhichFieldOfASavedLabelIsWrong)
     EXPECT_EQ(workbench::document::openLabel(file, canvas, sources),
               QString::fromUtf8("Le fichier d’étiquette est endommagé\u00a0: page.size doit être "
                                 "une largeur et une hauteur."));
+}
+
+// The report of an import is English.
+TEST_F(Words, IssuesOfALabelInTheWindow)
+{
+    window::OpenLabel label;
+    label.canvas = std::make_unique<workbench::Canvas>();
+    migration::Finding finding;
+    finding.code = QStringLiteral("over-page-edge");
+    finding.text = QStringLiteral("English");
+    label.report.changed = {finding};
+    label.report.repaired = {{QStringLiteral("groups-dissolved"), QStringLiteral("English"), 1},
+                             {QStringLiteral("lists-replaced"), QStringLiteral("English"), 2}};
+    const std::pair<QStringList, QStringList> rows[] = {
+        {English,
+         {QStringLiteral("Items extend beyond the edge of the page: that part is not printed."),
+          QStringLiteral("1 group dissolved"), QStringLiteral("2 lists replaced by paragraphs")}},
+        {German,
+         {QStringLiteral(
+              "Objekte ragen über den Seitenrand hinaus: Dieser Teil wird nicht gedruckt."),
+          QStringLiteral("1 Gruppe aufgelöst"), QStringLiteral("2 Listen durch Absätze ersetzt")}},
+    };
+    for (const auto& [languages, expected] : rows) {
+        const ProgramLanguage language(languages);
+        QStringList texts;
+        for (const window::Issue& issue : window::currentIssues(label)) {
+            texts.append(issue.text);
+        }
+        EXPECT_EQ(texts, expected);
+    }
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "tests/migration/documents.h"
 
 #include "migration/model/loss_kinds.h"
+#include "translations/program_language.h"
 #include "window/canvas/canvas_view.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
@@ -197,6 +198,7 @@ TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
 
 TEST_F(IssuesTest, ListsTheRepairsOfADocumentUnlessItIsOpenedAsWritten)
 {
+    const translations::ProgramLanguage language({QStringLiteral("en")}); // with plural forms
     const QString file = sample(QStringLiteral("opendocument/cable_markers.odg"));
     ASSERT_TRUE(window.openFile(file));
     const QJsonArray repairs = inspected(file).value(QStringLiteral("repaired")).toArray();

@@ -1,6 +1,7 @@
 #include "window/review/issues.h"
 
 #include "migration/model/loss_kinds.h"
+#include "repair/repair.h"
 #include "window/properties/item_description.h"
 #include "workbench/import/issue_words.h"
 
@@ -67,11 +68,18 @@ QString adviceFor(const QString& code)
     return row != nullptr ? migration::lossAdvice(row->kind) : QString();
 }
 
+// Reports are English; the window speaks the language of the user.
+QString textOf(const migration::Finding& finding)
+{
+    const migration::LossRow* row = migration::lossRowOf(finding.code);
+    return row != nullptr ? migration::lossWords(row->kind) : finding.text;
+}
+
 Issue issueOf(const migration::Finding& finding, IssueGroup group, const OpenLabel& label)
 {
     Issue issue{.group = group,
                 .code = finding.code,
-                .text = finding.text,
+                .text = textOf(finding),
                 .advice = adviceFor(finding.code),
                 .count = finding.count,
                 .about = finding.details.join(u", "_s)};
@@ -150,9 +158,10 @@ QList<Issue> currentIssues(const OpenLabel& label)
             issues.append(warningOf(warning.text, warning.item, warning.repeats, canvas));
         }
     }
-    for (const migration::RepairReport& repair : label.report.repaired) {
-        // Its text contains the number.
-        issues.append({.group = IssueGroup::Repaired, .code = repair.code, .text = repair.text});
+    for (const migration::RepairReport& made : label.report.repaired) {
+        // The text contains the number.
+        const QString text = repair::repairText({made.code, static_cast<int>(made.count)});
+        issues.append({.group = IssueGroup::Repaired, .code = made.code, .text = text});
     }
     return issues;
 }
