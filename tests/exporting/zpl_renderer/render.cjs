@@ -8,6 +8,8 @@
 
 const fs = require("node:fs");
 const path = require("node:path");
+// Global only from Node.js 19 on; the renderer needs it. Debian 12 has Node.js 18.
+globalThis.crypto ??= require("node:crypto").webcrypto;
 const { ready } = require("zpl-renderer-js");
 
 const [folder, dotsPerMillimeter] = process.argv.slice(2);
