@@ -204,7 +204,9 @@ private:
         for (int y = 0; y < area.height(); ++y) {
             for (int x = 0; x < area.width(); ++x) {
                 const QRgb color = area.pixel(x, y);
-                if (++counts[color] > counts[best]) {
+                // In two steps: an insertion may move the other count.
+                const int count = ++counts[color];
+                if (count > counts.value(best)) {
                     best = color;
                 }
             }
