@@ -11,7 +11,7 @@ lupdate sees neither through a macro nor into a function, and would put a text i
 than the one in which the program looks for it. So it gets a copy of the code in which the two short
 forms that files give themselves are written out:
 
-    #define WORDS(text) QT_TRANSLATE_NOOP("context", text)
+    #define TEXT(text) QT_TRANSLATE_NOOP("context", text)
     QString tr(const char* text) { return QCoreApplication::translate("context", text); }
 """
 

@@ -5024,7 +5024,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
 </context>
 <context>
-    <name>workbench::FailureWords</name>
+    <name>workbench::FailureText</name>
     <message>
         <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
         <translation>Kein binäres Etikett oder eines in einer nicht unterstützten Version: Die Datei hat die Version %1, die älteste unterstützte Version ist 2000016.</translation>
@@ -5118,7 +5118,7 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     </message>
 </context>
 <context>
-    <name>workbench::IssueWords</name>
+    <name>workbench::IssueText</name>
     <message>
         <source>Left out an object of the unknown type &quot;%1&quot;.</source>
         <translation>Ein Objekt des unbekannten Typs „%1“ wurde weggelassen.</translation>

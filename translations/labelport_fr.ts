@@ -5024,7 +5024,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>workbench::FailureWords</name>
+    <name>workbench::FailureText</name>
     <message>
         <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
         <translation>Ce n’est pas une étiquette binaire, ou sa version n’est pas prise en charge&#xa0;: le fichier a la version %1, la plus ancienne version prise en charge est 2000016.</translation>
@@ -5118,7 +5118,7 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     </message>
 </context>
 <context>
-    <name>workbench::IssueWords</name>
+    <name>workbench::IssueText</name>
     <message>
         <source>Left out an object of the unknown type &quot;%1&quot;.</source>
         <translation>Un objet du type inconnu «&#xa0;%1&#xa0;» a été omis.</translation>

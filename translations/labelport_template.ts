@@ -4941,7 +4941,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>workbench::FailureWords</name>
+    <name>workbench::FailureText</name>
     <message>
         <source>Not a binary label, or one of an unsupported version: the file has version %1, the oldest supported version is 2000016.</source>
         <translation type="unfinished"></translation>
@@ -5035,7 +5035,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
 </context>
 <context>
-    <name>workbench::IssueWords</name>
+    <name>workbench::IssueText</name>
     <message>
         <source>Left out an object of the unknown type &quot;%1&quot;.</source>
         <translation type="unfinished"></translation>

@@ -57,7 +57,7 @@ QStringList upToEnglish(const QStringList& languages)
 
 } // namespace
 
-QStringList wantedLanguages(const QProcessEnvironment& environment)
+QStringList preferredLanguages(const QProcessEnvironment& environment)
 {
     if (isPlain(environment.value(u"LC_ALL"_s))) {
         return {};

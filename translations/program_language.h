@@ -14,7 +14,7 @@ namespace translations {
 ///
 /// LANGUAGE is a list with colons and decides, then LC_ALL, LC_MESSAGES, LANG, of which the first
 /// that is set counts. LC_ALL=C is for scripts and decides before LANGUAGE.
-[[nodiscard]] QStringList wantedLanguages(const QProcessEnvironment& environment);
+[[nodiscard]] QStringList preferredLanguages(const QProcessEnvironment& environment);
 
 /// Writes down in the environment which language that is, so that programs that are started from
 /// here speak it too, whatever becomes of the other variables.

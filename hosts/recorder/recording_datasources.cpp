@@ -50,7 +50,7 @@ int RecordingDatasources::createDatasource(const QString& kind)
 TalDatasource* RecordingDatasources::getDatasource(int id)
 {
     const bool known = id >= 1 && id <= static_cast<int>(m_sources.size()) &&
-                       !m_recording->behavior().losesDatasources;
+                       !m_recording->behavior().hidesDatasources;
     m_recording->answer(known ? TraceValue(id) : TraceValue(nullptr), Target, "getDatasource", id);
     return known ? m_sources[static_cast<std::size_t>(id - 1)].get() : nullptr;
 }

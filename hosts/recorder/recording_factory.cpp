@@ -72,8 +72,8 @@ Item* RecordingFactory::create(KestTypes::ShapeType type)
     // A class that is wrong for every other type.
     const auto other = type == KestTypes::Picture ? KestTypes::Line : KestTypes::Picture;
     MadeItem made;
-    if (!behavior.makesNothingOf.contains(type)) {
-        made = makeItem(behavior.makesOthersOf.contains(type) ? other : type, m_recording);
+    if (!behavior.refusedTypes.contains(type)) {
+        made = makeItem(behavior.mismatchedTypes.contains(type) ? other : type, m_recording);
     }
     if (made.item) {
         m_recording->addItem(type, made.graphics);

@@ -12,7 +12,7 @@
 #include "messages/reader_messages.h"
 #include "messages/refusals.h"
 #include "orvanta/control_kinds.h"
-#include "orvanta/document_limits.h"
+#include "orvanta/file_limits.h"
 #include "orvanta/page_geometry.h"
 #include "orvanta/picture_content.h"
 #include "orvanta/raster_picture.h"

@@ -16,7 +16,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::ExistingOutput)
 };
@@ -95,12 +95,11 @@ QString reportNameProblem(const QString& fileName)
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();
     if (suffix != "json"_L1 && suffix != "html"_L1) {
-        return Words::tr("A report is a file that ends in .json or .html, not \"%1\".")
-            .arg(fileName);
+        return Tr::tr("A report is a file that ends in .json or .html, not \"%1\".").arg(fileName);
     }
     return console::isUtf8FileName(fileName)
                ? QString()
-               : Words::tr("The name of a report must be valid UTF-8: \"%1\".").arg(fileName);
+               : Tr::tr("The name of a report must be valid UTF-8: \"%1\".").arg(fileName);
 }
 
 QString reportProblem(const QString& fileName, bool mayOverwrite)
@@ -112,16 +111,16 @@ QString reportProblem(const QString& fileName, bool mayOverwrite)
     }
     if (!folder.isDir()) {
         return archive::cannotWrite(fileName,
-                                    Words::tr("the folder \"%1\" does not exist").arg(info.path()));
+                                    Tr::tr("the folder \"%1\" does not exist").arg(info.path()));
     }
     if (!folder.isWritable()) {
-        return archive::cannotWrite(
-            fileName, Words::tr("the folder \"%1\" is not writable").arg(info.path()));
+        return archive::cannotWrite(fileName,
+                                    Tr::tr("the folder \"%1\" is not writable").arg(info.path()));
     }
     const bool isForeign =
         !mayOverwrite && info.exists() && info.size() > 0 && !isOurReport(headOf(fileName));
-    return isForeign ? Words::tr("\"%1\" exists and is not a report of labelport. Use --force to "
-                                 "overwrite it.")
+    return isForeign ? Tr::tr("\"%1\" exists and is not a report of labelport. Use --force to "
+                              "overwrite it.")
                            .arg(fileName)
                      : QString();
 }

@@ -24,7 +24,7 @@ constexpr qsizetype ManyFiles = 32;
 bool isArchive(const ImportOptions& options, const archive::InputList& list)
 {
     return list.searched || !options.filesFrom.isEmpty() || options.resume ||
-           !options.shard.isWhole() || list.inputs.size() > ManyFiles;
+           !options.shard.isEverything() || list.inputs.size() > ManyFiles;
 }
 
 archive::RunSettings settingsFor(const ImportOptions& options, const ImportInputs& inputs)
@@ -154,11 +154,12 @@ private:
     void printLosses(bool areReportsWritten)
     {
         const LossSummary& summary = m_reports.summary();
-        const bool isAsked = m_options.failOnLoss && summary.count(migration::Verdict::Lossy) > 0;
+        const bool failsOnLoss =
+            m_options.failOnLoss && summary.count(migration::Verdict::Lossy) > 0;
         const bool isNews = m_list.inputs.size() > 1 ||
                             summary.count(migration::Verdict::Changed) > 0 ||
                             summary.count(migration::Verdict::Lossy) > 0;
-        if (!isAsked && (m_options.quiet || !isNews)) {
+        if (!failsOnLoss && (m_options.quiet || !isNews)) {
             return;
         }
         QStringList lines{summary.counts()};

@@ -24,7 +24,7 @@ void addStandardInput(ImportInputs& inputs)
     inputs.list.readable.append(inputs.standardInput->fileName());
 }
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::ImportInputs)
 };
@@ -33,10 +33,10 @@ struct Words
 QString problemOfPreparedList(const ImportOptions& options)
 {
     const bool isAlone = options.files.isEmpty() && options.base.isEmpty() &&
-                         options.shard.isWhole() && !options.isNullSeparated;
+                         options.shard.isEverything() && !options.isNullSeparated;
     return isAlone ? QString()
-                   : Words::tr("\"%1\" was written by \"labelport list\": it excludes other files, "
-                               "--base, --shard and --null.")
+                   : Tr::tr("\"%1\" was written by \"labelport list\": it excludes other files, "
+                            "--base, --shard and --null.")
                          .arg(options.filesFrom);
 }
 
@@ -50,7 +50,7 @@ void takePreparedList(const ImportOptions& options, QIODevice& device, ImportInp
     archive::PreparedList list = archive::readPreparedList(device, reason);
     if (!reason.isEmpty()) {
         inputs.error =
-            Words::tr("Cannot read the list of files \"%1\": %2.").arg(options.filesFrom, reason);
+            Tr::tr("Cannot read the list of files \"%1\": %2.").arg(options.filesFrom, reason);
         return;
     }
     inputs.list.inputs = std::move(list.inputs);
@@ -67,13 +67,13 @@ void addListed(const ImportOptions& options, archive::InputCollector& collector,
     const bool isOpen = options.filesFrom == "-"_L1 ? list.open(stdin, QIODevice::ReadOnly)
                                                     : list.open(QIODevice::ReadOnly);
     if (!isOpen) {
-        inputs.error = Words::tr("Cannot read the list of files \"%1\": %2.")
+        inputs.error = Tr::tr("Cannot read the list of files \"%1\": %2.")
                            .arg(options.filesFrom, list.errorString());
     } else if (archive::isPreparedList(list.peek(archive::PreparedListStart))) {
         takePreparedList(options, list, inputs);
     } else if (!archive::readNames(list, options.isNullSeparated,
                                    [&](const QString& name) { collector.add(name); })) {
-        inputs.error = Words::tr("\"%1\" is not a list of file names.").arg(options.filesFrom);
+        inputs.error = Tr::tr("\"%1\" is not a list of file names.").arg(options.filesFrom);
     }
 }
 
@@ -115,7 +115,7 @@ void printUnreadableFolders(const archive::InputList& list)
 {
     for (const archive::UnreadableFolder& folder : list.unreadable) {
         console::printMessage(
-            Words::tr("Cannot search folder \"%1\": %2.").arg(folder.path, folder.reason));
+            Tr::tr("Cannot search folder \"%1\": %2.").arg(folder.path, folder.reason));
     }
 }
 

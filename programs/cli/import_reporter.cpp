@@ -27,7 +27,7 @@ void printAbout(const archive::Input& input, const QString& text)
 ImportReporter::ImportReporter(bool isQuiet, Listing listing)
     : m_isQuiet(isQuiet)
     , m_listing(listing)
-    , m_display(!isQuiet && archive::isTerminal(), archive::wantsColor())
+    , m_display(!isQuiet && archive::isTerminal(), archive::supportsColor())
 {}
 
 void ImportReporter::reportFile(const archive::Delivery& delivery)

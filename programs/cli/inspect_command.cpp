@@ -43,7 +43,7 @@ int print(const archive::Input& input, const archive::FileResult& result, bool a
         console::printBytes(
             QJsonDocument(migration::toJson(report)).toJson(QJsonDocument::Indented));
     } else {
-        console::printText(migration::describeForPeople(report));
+        console::printText(migration::describeAsText(report));
     }
     return result.outcome == archive::FileOutcome::Done ? console::ExitSuccess
                                                         : console::ExitFailure;

@@ -17,7 +17,7 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::LabelWriter)
 };
@@ -70,8 +70,8 @@ RecordSelection selectRecords(const OpenedLabel& label, const RecordRange& range
     const qint64 count = last - range.first + 1;
     if (count > MaximumRecords) {
         return {0, 0,
-                Words::tr("%1 records are more than the %2 that one command writes; select a "
-                          "range with --records.")
+                Tr::tr("%1 records are more than the %2 that one command writes; select a "
+                       "range with --records.")
                     .arg(count)
                     .arg(MaximumRecords)};
     }

@@ -19,10 +19,10 @@ QString tr(const char* text)
     return QCoreApplication::translate("cli::LossSummary", text);
 }
 
-bool harmsContent(const migration::Finding& finding)
+bool affectsContent(const migration::Finding& finding)
 {
     const migration::LossRow* row = migration::lossRowOf(finding.code);
-    return row == nullptr || row->harm == migration::Harm::Content;
+    return row == nullptr || row->impact == migration::Impact::Content;
 }
 
 // The loss of the most objects; lost objects before changed ones.
@@ -31,7 +31,7 @@ const migration::Finding* mostSevere(const migration::FileReport& report)
     const migration::Finding* found = nullptr;
     for (const QList<migration::Finding>* list : {&report.lost, &report.changed}) {
         for (const migration::Finding& finding : *list) {
-            if (harmsContent(finding) && (found == nullptr || finding.count > found->count)) {
+            if (affectsContent(finding) && (found == nullptr || finding.count > found->count)) {
                 found = &finding;
             }
         }
@@ -60,7 +60,7 @@ void LossSummary::add(const migration::FileReport& report)
     label.lostObjects = migration::objectsLost(report);
     for (const QList<migration::Finding>* list : {&report.lost, &report.changed}) {
         for (const migration::Finding& finding : *list) {
-            label.problems += harmsContent(finding) ? finding.count : 0;
+            label.problems += affectsContent(finding) ? finding.count : 0;
         }
     }
     const migration::Finding* const loss = mostSevere(report);

@@ -20,7 +20,7 @@
 namespace {
 using namespace Qt::StringLiterals;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::Main)
 };
@@ -63,7 +63,7 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
 
 QString helpText()
 {
-    QString text = Words::tr(HelpStart);
+    QString text = Tr::tr(HelpStart);
     for (const cli::Command& command : cli::commands()) {
         QString usage = QLatin1String(command.name);
         if (command.argument != nullptr) {
@@ -71,7 +71,7 @@ QString helpText()
         }
         text += u"  %1 %2\n"_s.arg(usage, -16).arg(cli::translated(command.summary));
     }
-    return text + Words::tr(HelpEnd);
+    return text + Tr::tr(HelpEnd);
 }
 
 void setUpApplication()
@@ -84,9 +84,9 @@ void setUpApplication()
     QCoreApplication::setApplicationVersion(QStringLiteral(LABELPORT_VERSION));
 }
 
-QStringList wantedLanguages()
+QStringList preferredLanguages()
 {
-    return translations::wantedLanguages(QProcessEnvironment::systemEnvironment());
+    return translations::preferredLanguages(QProcessEnvironment::systemEnvironment());
 }
 
 /// Whether the command writes JSON. Other programs read it, so it is the same in every language;
@@ -142,12 +142,12 @@ RunCommand functionOf(const QString& command)
 int refuseCommand(const QString& command)
 {
     if (command.isEmpty()) {
-        console::printMessage(Words::tr("No command given. See \"labelport --help\"."));
+        console::printMessage(Tr::tr("No command given. See \"labelport --help\"."));
     } else {
         const QStringList known = cli::commandNames() + QStringList{u"--help"_s, u"--version"_s};
-        console::printMessage(Words::tr("Unknown command \"%1\".").arg(command) +
+        console::printMessage(Tr::tr("Unknown command \"%1\".").arg(command) +
                               console::suggestion(command, known));
-        console::printMessage(Words::tr("Help: %1").arg(u"labelport --help"_s));
+        console::printMessage(Tr::tr("Help: %1").arg(u"labelport --help"_s));
     }
     return console::ExitUsage;
 }
@@ -157,7 +157,7 @@ int runCommand(int argc, char** argv, const QString& command, const QStringList&
 {
     setUpApplication();
     const QCoreApplication application(argc, argv);
-    const translations::ProgramLanguage language(wantedLanguages());
+    const translations::ProgramLanguage language(preferredLanguages());
     const RunCommand run = functionOf(command);
     return console::finishOutput(run != nullptr ? run(arguments) : refuseCommand(command));
 }
@@ -169,7 +169,7 @@ int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     setUpApplication();
     const QApplication application(argc, argv);
-    const translations::ProgramLanguage language(wantedLanguages());
+    const translations::ProgramLanguage language(preferredLanguages());
     return cli::runImportWorker(arguments);
 }
 
@@ -178,7 +178,7 @@ int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
 int main(int argc, char** argv)
 {
     console::prepareStreams(u"labelport"_s);
-    const QStringList languages = wantedLanguages(); // before the locale changes
+    const QStringList languages = preferredLanguages(); // before the locale changes
     chooseUtf8Locale();
     QStringList arguments = console::argumentsOf(argc, argv);
     // Workers and the trace use the same language.

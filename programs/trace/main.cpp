@@ -23,7 +23,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(trace)
 };
@@ -39,10 +39,10 @@ struct Request
 QString readProblem(const QString& path)
 {
     if (console::kindOf(path) == console::FileKind::Folder) {
-        return Words::tr("it is a folder");
+        return Tr::tr("it is a folder");
     }
     if (console::kindOf(path) == console::FileKind::Other) {
-        return Words::tr("it is not a regular file");
+        return Tr::tr("it is not a regular file");
     }
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
@@ -52,14 +52,14 @@ void explainFailure(const Request& request, const QString& path)
 {
     const QString reason = readProblem(path);
     if (!reason.isEmpty()) {
-        console::printMessage(Words::tr("Cannot read \"%1\": %2.").arg(request.file, reason));
+        console::printMessage(Tr::tr("Cannot read \"%1\": %2.").arg(request.file, reason));
     } else if (request.reader) {
         console::printMessage(
-            Words::tr("\"%1\" was not imported. The trace shows how far the import came.")
+            Tr::tr("\"%1\" was not imported. The trace shows how far the import came.")
                 .arg(request.file));
     } else {
-        console::printMessage(Words::tr("\"%1\" was not imported. The trace shows how far the "
-                                        "import came; --reader selects another reader.")
+        console::printMessage(Tr::tr("\"%1\" was not imported. The trace shows how far the "
+                                     "import came; --reader selects another reader.")
                                   .arg(request.file));
     }
 }
@@ -85,7 +85,7 @@ int trace(const Request& request, const QStringList& languages)
     const translations::ProgramLanguage language(languages);
     if (!canWrite || !out.flush() || std::fflush(stdout) != 0) {
         console::printMessage(
-            Words::tr("Cannot write to standard output: %1.").arg(out.errorString()));
+            Tr::tr("Cannot write to standard output: %1.").arg(out.errorString()));
         return console::ExitFailure;
     }
     if (!imported) {
@@ -100,15 +100,15 @@ std::variant<Request, int> requestOf(const QString& command, const QStringList& 
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        Words::tr("Imports a legacy label into a recording host, and prints every call on the host "
-                  "as JSON\nLines, then the final state of the items.\n\n"
-                  "Exit status: 0 imported, 1 not imported, 2 wrong usage."));
+        Tr::tr("Imports a legacy label into a recording host, and prints every call on the host "
+               "as JSON\nLines, then the final state of the items.\n\n"
+               "Exit status: 0 imported, 1 not imported, 2 wrong usage."));
     parser.addOption({u"reader"_s,
-                      Words::tr("Read the file as tavrel, orvanta or opendocument, whatever its "
-                                "name."),
-                      Words::tr("name")});
-    parser.addOption({u"version"_s, Words::tr("Show the version.")});
-    parser.addPositionalArgument(u"FILE"_s, Words::tr("Label to import; - is standard input."));
+                      Tr::tr("Read the file as tavrel, orvanta or opendocument, whatever its "
+                             "name."),
+                      Tr::tr("name")});
+    parser.addOption({u"version"_s, Tr::tr("Show the version.")});
+    parser.addPositionalArgument(u"FILE"_s, Tr::tr("Label to import; - is standard input."));
     if (const std::optional<int> status = console::parseCommand(parser, command, arguments)) {
         return *status;
     }
@@ -118,13 +118,13 @@ std::variant<Request, int> requestOf(const QString& command, const QStringList& 
     }
     const QStringList files = parser.positionalArguments();
     if (files.size() != 1) {
-        return console::refuseArguments(command, Words::tr("trace needs exactly one file."));
+        return console::refuseArguments(command, Tr::tr("trace needs exactly one file."));
     }
     const QString reader = parser.value(u"reader"_s);
     const Request request{files.first(), readerOfName(reader)};
     if (parser.isSet(u"reader"_s) && !request.reader) {
         return console::refuseArguments(command,
-                                        Words::tr("Unknown reader \"%1\". Supported readers: %2.")
+                                        Tr::tr("Unknown reader \"%1\". Supported readers: %2.")
                                             .arg(reader, u"tavrel, orvanta, opendocument"_s));
     }
     return request;
@@ -150,7 +150,7 @@ int main(int argc, char** argv)
     const QString command = isCommand ? u"labelport trace"_s : u"labelport-trace"_s;
     console::prepareStreams(isCommand ? u"labelport"_s : command);
     const QStringList languages =
-        translations::wantedLanguages(QProcessEnvironment::systemEnvironment());
+        translations::preferredLanguages(QProcessEnvironment::systemEnvironment());
     prepareRepeatableEnvironment();
     // Warnings of Qt's about the environment are of no use here; QT_LOGGING_RULES enables them.
     QLoggingCategory::setFilterRules(

@@ -130,9 +130,10 @@ void MainWindow::connectCanvas()
             [this](const QString& step, const QList<ItemChange>& changes) {
                 m_session->undoStack().push(new ChangeItems(step, changes));
             });
-    connect(&canvas, &CanvasView::menuWanted, this, &MainWindow::showContextMenu);
-    connect(&canvas, &CanvasView::propertiesWanted, this, [this] { m_panels->goToProperties(); });
-    connect(m_canvas, &RuledCanvas::unitChangeWanted, this, [this] {
+    connect(&canvas, &CanvasView::menuRequested, this, &MainWindow::showContextMenu);
+    connect(&canvas, &CanvasView::propertiesRequested, this,
+            [this] { m_panels->goToProperties(); });
+    connect(m_canvas, &RuledCanvas::unitChangeRequested, this, [this] {
         setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimeter : LengthUnit::Inch);
     });
 }
@@ -140,7 +141,7 @@ void MainWindow::connectCanvas()
 void MainWindow::connectPanels()
 {
     connect(&m_panels->items(), &ItemPanel::selectionChanged, this, &MainWindow::refreshSelection);
-    connect(&m_panels->items(), &ItemPanel::itemWanted, this, &MainWindow::showItem);
+    connect(&m_panels->items(), &ItemPanel::itemRequested, this, &MainWindow::showItem);
     connect(&m_panels->properties(), &PropertyPanel::itemsEdited, this,
             [this](const QString& step, const QList<ItemChange>& changes) {
                 m_session->undoStack().push(new ChangeItems(step, changes));
@@ -149,7 +150,8 @@ void MainWindow::connectPanels()
             [this](const workbench::PageValues& page) {
                 m_session->undoStack().push(new ChangePage(*m_session->label()->canvas, page));
             });
-    connect(&m_panels->sources(), &SourcePanel::recordWanted, this, &MainWindow::showRecordNumber);
+    connect(&m_panels->sources(), &SourcePanel::recordRequested, this,
+            &MainWindow::showRecordNumber);
 }
 
 // Removes all references to items of the label.
@@ -276,14 +278,14 @@ void MainWindow::selectAll()
 
 void MainWindow::exportByDialog()
 {
-    const QString told = exportLabel(*m_session->label(), m_record, m_session->prompts(), this);
-    statusBar()->showMessage(told, 10'000);
+    const QString result = exportLabel(*m_session->label(), m_record, m_session->prompts(), this);
+    statusBar()->showMessage(result, 10'000);
 }
 
 void MainWindow::printByDialog()
 {
-    const QString told = printLabel(*m_session->label(), m_record, m_session->prompts(), this);
-    statusBar()->showMessage(told, 10'000);
+    const QString result = printLabel(*m_session->label(), m_record, m_session->prompts(), this);
+    statusBar()->showMessage(result, 10'000);
 }
 
 void MainWindow::showContextMenu(const QPoint& at)

@@ -33,11 +33,11 @@ void MainWindow::connectReview()
             [labels] { labels->step(-1); });
     connect(&action(ActionId::NextLabel), &QAction::triggered, labels,
             [labels] { labels->step(1); });
-    connect(labels, &LabelListPanel::fileWanted, this, &MainWindow::browse);
+    connect(labels, &LabelListPanel::fileRequested, this, &MainWindow::browse);
     connect(labels, &LabelListPanel::stepsChanged, this, &MainWindow::refreshActions);
     connect(m_session.get(), &LabelSession::saved, labels, &LabelListPanel::noteSaved);
-    connect(&m_panels->issues(), &IssuesPanel::issueWanted, this, &MainWindow::showIssue);
-    connect(&m_panels->issues(), &IssuesPanel::correctionWanted, this, &MainWindow::correct);
+    connect(&m_panels->issues(), &IssuesPanel::issueRequested, this, &MainWindow::showIssue);
+    connect(&m_panels->issues(), &IssuesPanel::correctionRequested, this, &MainWindow::correct);
     connect(&action(ActionId::GoOriginal), &QAction::triggered, this, &MainWindow::goToComparison);
     connect(m_session.get(), &LabelSession::labelReplaced, this, &MainWindow::refreshComparison);
     connect(&m_session->undoStack(), &QUndoStack::indexChanged, this,

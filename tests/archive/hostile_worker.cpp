@@ -117,11 +117,11 @@ bool link(Scene& scene, const QByteArray& path)
     return ::symlink(path.constData(), name.constData()) == 0 && claim(scene, name);
 }
 
-using Deed = std::function<bool(Scene& scene, const QByteArray& argument)>;
+using Attack = std::function<bool(Scene& scene, const QByteArray& argument)>;
 
-const QMap<QByteArray, Deed>& deeds()
+const QMap<QByteArray, Attack>& attacks()
 {
-    static const QMap<QByteArray, Deed> all{
+    static const QMap<QByteArray, Attack> all{
         {"write",
          [](Scene& scene, const QByteArray& text) {
              put(scene, text);
@@ -168,9 +168,9 @@ archive::FileResult misbehave(const archive::Job& job, const archive::Heartbeat&
     const QList<QByteArray> lines = file.readAll().split('\n');
     for (const QByteArray& line : lines) {
         const QByteArray word = line.split(' ').first();
-        const auto deed = deeds().constFind(word);
+        const auto attack = attacks().constFind(word);
         errno = 0;
-        if (deed != deeds().constEnd() && !(*deed)(scene, line.mid(word.size() + 1))) {
+        if (attack != attacks().constEnd() && !(*attack)(scene, line.mid(word.size() + 1))) {
             scene.result.errors.append(QString::fromLatin1(word) + u": "_s +
                                        QString::fromLatin1(std::strerror(errno)));
         }

@@ -29,9 +29,9 @@ protected:
 
     /// Imports a hostile file between two good ones, which must be imported.
     /// @return the outcome of the hostile file, with its errors
-    QString outcomeOf(const QByteArray& deeds)
+    QString outcomeOf(const QByteArray& attacks)
     {
-        input(u"b.cnv"_s, deeds);
+        input(u"b.cnv"_s, attacks);
         const QStringList lines = run();
         if (lines.size() != 3) {
             ADD_FAILURE() << qPrintable(lines.join(u'\n'));
@@ -41,7 +41,7 @@ protected:
         EXPECT_EQ(lines.at(2), u"done c.cnv: c.png"_s);
         EXPECT_EQ(output(u"a.png"_s), "first");
         EXPECT_EQ(output(u"c.png"_s), "third");
-        EXPECT_EQ(strays(), QStringList());
+        EXPECT_EQ(unexpectedFiles(), QStringList());
         return lines.at(1);
     }
 };
@@ -75,9 +75,9 @@ TEST_F(HostileWorker, CannotReadForeignFiles)
 TEST_F(HostileWorker, CannotWriteOutsideItsFolder)
 {
     REQUIRE_KERNEL(files);
-    const QByteArray mine = folder.write(u"mine"_s, "mine").toUtf8();
-    EXPECT_EQ(outcomeOf("spoil " + mine), u"failed b.cnv: spoil: Permission denied"_s);
-    EXPECT_EQ(outcomeOf("remove " + mine), u"failed b.cnv: remove: Permission denied"_s);
+    const QByteArray ownFile = folder.write(u"mine"_s, "mine").toUtf8();
+    EXPECT_EQ(outcomeOf("spoil " + ownFile), u"failed b.cnv: spoil: Permission denied"_s);
+    EXPECT_EQ(outcomeOf("remove " + ownFile), u"failed b.cnv: remove: Permission denied"_s);
     EXPECT_EQ(outcomeOf("create " + folder.path(u"out/planted.png"_s).toUtf8()),
               u"failed b.cnv: create: Permission denied"_s);
     EXPECT_EQ(outcomeOf("spoil " + folder.path(u"in/a.cnv"_s).toUtf8()),
@@ -137,9 +137,9 @@ TEST_F(HostileWorker, CannotHaveForeignFilesMovedOrReplaced)
 {
     const QString invalid =
         u"crashed b.cnv: The worker process sent an invalid reply twice; please report the file."_s;
-    const QString mine = folder.write(u"mine"_s, "mine");
-    EXPECT_EQ(outcomeOf("claim " + mine.toUtf8()), invalid);
-    EXPECT_EQ(outcomeOf("place " + mine.toUtf8()), invalid);
+    const QString ownFile = folder.write(u"mine"_s, "mine");
+    EXPECT_EQ(outcomeOf("claim " + ownFile.toUtf8()), invalid);
+    EXPECT_EQ(outcomeOf("place " + ownFile.toUtf8()), invalid);
     EXPECT_EQ(outcomeOf("place " + folder.path(u"out/a.png"_s).toUtf8()), invalid);
     EXPECT_EQ(folder.read(u"mine"_s), "mine");
 }

@@ -7,11 +7,11 @@
 namespace {
 using namespace Qt::StringLiterals;
 
-const QString Strange = u"a \"b\"\n\\ \u00e4 \U0001F3F7"_s;
+const QString SpecialCharacters = u"a \"b\"\n\\ \u00e4 \U0001F3F7"_s;
 
 TEST(Messages, CarryAJob)
 {
-    const archive::Job job{Strange,
+    const archive::Job job{SpecialCharacters,
                            u"shown"_s,
                            {{u"png"_s, u"out/a.png"_s}, {u"svg"_s, u"out/a.svg"_s}},
                            u"staging"_s,
@@ -24,7 +24,7 @@ TEST(Messages, CarryAJob)
 
 TEST(Messages, CarryAStart)
 {
-    const archive::WorkerStart start{{{Strange, u"/a"_s}, {u"/b"_s}}, true};
+    const archive::WorkerStart start{{{SpecialCharacters, u"/a"_s}, {u"/b"_s}}, true};
     const QByteArray line = archive::lineOf(start);
     EXPECT_EQ(line.count('\n'), 1);
     EXPECT_EQ(archive::workerStartFromLine(line), start);
@@ -37,10 +37,10 @@ TEST(Messages, CarryAResult)
          {archive::FileOutcome::Done, archive::FileOutcome::Failed, archive::FileOutcome::Crashed,
           archive::FileOutcome::TimedOut, archive::FileOutcome::OutOfMemory}) {
         const archive::FileResult result{outcome,
-                                         {Strange},
+                                         {SpecialCharacters},
                                          {u"one"_s, u"two"_s},
                                          {{u"staged"_s, {u"out"_s, 5, 6}}},
-                                         {{u"file"_s, Strange}},
+                                         {{u"file"_s, SpecialCharacters}},
                                          12'345'678'901};
         const QByteArray line = archive::lineOf(result);
         EXPECT_EQ(line.count('\n'), 1);
@@ -50,7 +50,7 @@ TEST(Messages, CarryAResult)
 
 TEST(Messages, IncompleteLinesAreIgnored)
 {
-    const QByteArray job = archive::lineOf(archive::Job{Strange, {}, {}, {}, {}});
+    const QByteArray job = archive::lineOf(archive::Job{SpecialCharacters, {}, {}, {}, {}});
     const QByteArray result = archive::lineOf(archive::FileResult{});
     EXPECT_FALSE(archive::jobFromLine(job.left(job.size() / 2)));
     EXPECT_FALSE(archive::resultFromLine(result.left(result.size() / 2)));

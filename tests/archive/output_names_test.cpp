@@ -26,8 +26,8 @@ QStringList outputsOf(const QStringList& names, const QStringList& suffixes = {u
     const archive::OutputNames plan(inputs, suffixes);
     QStringList outputs;
     for (qsizetype index = 0; index < inputs.size(); ++index) {
-        outputs.append(plan.isContested(index) ? u"contested"_s
-                                               : plan.output(index, suffixes.first()));
+        outputs.append(plan.isConflicting(index) ? u"conflicting"_s
+                                                 : plan.output(index, suffixes.first()));
     }
     return outputs;
 }
@@ -79,22 +79,23 @@ TEST(OutputNames, DoNotDependOnTheOrderOfInputs)
 
 TEST(OutputNames, OfTwoFilesOfOneNameAreContested)
 {
-    EXPECT_EQ(outputsOf(list("x/a.odg y/a.odg")), list("contested contested"));
+    EXPECT_EQ(outputsOf(list("x/a.odg y/a.odg")), list("conflicting conflicting"));
 }
 
 // a.odg keeps its whole name because of a.cnv, and meets the input that is named so.
 TEST(OutputNames, FindAConflictThatACompleteNameCauses)
 {
-    EXPECT_EQ(outputsOf(list("a.odg a.cnv a.odg.qmtx")), list("contested a.cnv.png contested"));
+    EXPECT_EQ(outputsOf(list("a.odg a.cnv a.odg.qmtx")), list("conflicting a.cnv.png conflicting"));
 }
 
 // A folder "x.png" in the archive, beside "x.cnv".
 TEST(OutputNames, AreNotThoseOfNeededFolders)
 {
-    EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv")), list("contested x.png/a.png"));
-    EXPECT_EQ(outputsOf(list("x.cnv x.png/y>a.cnv")), list("contested x.png/y/a.png"));
+    EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv")), list("conflicting x.png/a.png"));
+    EXPECT_EQ(outputsOf(list("x.cnv x.png/y>a.cnv")), list("conflicting x.png/y/a.png"));
     EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv"), list("svg label")), list("x.svg x.png/a.svg"));
-    EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv"), list("svg png")), list("contested x.png/a.svg"));
+    EXPECT_EQ(outputsOf(list("x.cnv x.png>a.cnv"), list("svg png")),
+              list("conflicting x.png/a.svg"));
 }
 
 TEST(OutputNames, KeepPagesApartFromOtherOutputs)

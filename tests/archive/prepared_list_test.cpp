@@ -64,8 +64,8 @@ TEST_F(PreparedListTest, HoldsThePartWithItsNames)
     // The page mark is due to a name of the first part, and so is the folder b.png.
     const archive::OutputNames otherNames(other.inputs, {u"png"_s}, other.names);
     EXPECT_EQ(otherNames.output(0, u"png"_s), u"a/shelf.cnv.png"_s);
-    EXPECT_TRUE(otherNames.isContested(1));
-    EXPECT_FALSE(archive::OutputNames(other.inputs, {u"svg"_s}, other.names).isContested(1));
+    EXPECT_TRUE(otherNames.isConflicting(1));
+    EXPECT_FALSE(archive::OutputNames(other.inputs, {u"svg"_s}, other.names).isConflicting(1));
 }
 
 TEST_F(PreparedListTest, KeepsPageMarks)

@@ -63,7 +63,7 @@ QStringList RunFixture::run()
     return lines;
 }
 
-QStringList RunFixture::strays() const
+QStringList RunFixture::unexpectedFiles() const
 {
     QStringList names;
     QDirIterator files(folder.path(u"out"_s),

@@ -21,7 +21,7 @@ protected:
         return folder.read(QStringLiteral("out/") + name);
     }
     /// All files of the output folder that are not outputs, without journals.
-    QStringList strays() const;
+    QStringList unexpectedFiles() const;
 
     TestFolder folder;
     archive::RunSettings settings;

@@ -164,11 +164,11 @@ TEST_F(ArchiveResume, KeepsCompleteOutputsWithoutAJournal)
         folder.write(journal, damage);
         EXPECT_EQ(resumed().remove(u'r').remove(u'f'), QString());
         EXPECT_EQ(output(u"a.png"_s), before);
-        EXPECT_EQ(strays(), QStringList());
+        EXPECT_EQ(unexpectedFiles(), QStringList());
     }
 }
 
-TEST_F(ArchiveResume, KnowsTheWorkOfAllParts)
+TEST_F(ArchiveResume, CombinesTheWorkOfAllParts)
 {
     for (int number = 1; number <= 2; ++number) {
         settings.shard = {number, 2};

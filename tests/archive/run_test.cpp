@@ -156,10 +156,10 @@ TEST_F(ArchiveRun, ReportsTheSameForAnyNumberOfWorkers)
         SCOPED_TRACE(workers);
         settings.workers = workers;
         settings.outputFolder = folder.path(u"out%1"_s.arg(workers));
-        const QStringList told = run();
-        EXPECT_EQ(told.size(), 28);
-        first = first.isEmpty() ? told : first;
-        EXPECT_EQ(told, first);
+        const QStringList lines = run();
+        EXPECT_EQ(lines.size(), 28);
+        first = first.isEmpty() ? lines : first;
+        EXPECT_EQ(lines, first);
     }
 }
 
@@ -181,9 +181,9 @@ TEST_F(ArchiveRun, WritesNeitherOfTwoFilesThatWouldBecomeOne)
 {
     input(u"a.cnv"_s, "ok");
     inputs.append({inputs.first().path, u"other/a.cnv"_s, {}});
-    const QStringList told = run();
-    ASSERT_EQ(told.size(), 2);
-    for (const QString& line : told) {
+    const QStringList lines = run();
+    ASSERT_EQ(lines.size(), 2);
+    for (const QString& line : lines) {
         EXPECT_TRUE(line.contains(u"Another input has the same name"_s));
     }
     EXPECT_FALSE(folder.has(u"out/a.png"_s));
@@ -193,9 +193,9 @@ TEST_F(ArchiveRun, NeverOverwritesAForeignFile)
 {
     folder.write(u"out/a.png"_s, "somebody's");
     input(u"a.cnv"_s, "ok");
-    const QStringList told = run();
-    EXPECT_TRUE(told.value(0).startsWith(u"failed a.cnv: "_s));
-    EXPECT_TRUE(told.value(0).contains(u"--force"_s));
+    const QStringList lines = run();
+    EXPECT_TRUE(lines.value(0).startsWith(u"failed a.cnv: "_s));
+    EXPECT_TRUE(lines.value(0).contains(u"--force"_s));
     EXPECT_EQ(output(u"a.png"_s), "somebody's");
     settings.mayReplace = [](const QString&) { return true; };
     EXPECT_EQ(run(), lines({"done a.cnv: a.png"}));

@@ -13,8 +13,8 @@ TEST(Shard, IsReadFromItsNumberAndTheirCount)
     ASSERT_TRUE(shard);
     EXPECT_EQ(shard->number, 3);
     EXPECT_EQ(shard->count, 8);
-    EXPECT_FALSE(shard->isWhole());
-    EXPECT_TRUE(archive::shardOf(u"1/1"_s)->isWhole());
+    EXPECT_FALSE(shard->isEverything());
+    EXPECT_TRUE(archive::shardOf(u"1/1"_s)->isEverything());
     EXPECT_TRUE(archive::shardOf(u"100000/100000"_s));
 }
 

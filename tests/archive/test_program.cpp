@@ -64,10 +64,10 @@ int main(int argc, char** argv)
     const QString mode = arguments.isEmpty() ? QString() : arguments.takeFirst();
     if (mode == "worker"_L1 || mode == "confined"_L1) {
         archive::limitMemory(arguments.value(0).toInt());
-        // Workers that suffer leave signs beside their files, which a sandbox forbids.
+        // Workers with faults leave marks next to their files, which a sandbox forbids.
         const archive::Confine leaveFree = [](const auto&) { return sandbox::Confinement{}; };
         return mode == "confined"_L1 ? archive::runWorker(&misbehave)
-                                     : archive::runWorker(&suffer, leaveFree);
+                                     : archive::runWorker(&simulateFault, leaveFree);
     }
     return mode == "coordinate"_L1 && arguments.size() >= 3 ? coordinate(arguments) : 2;
 }

@@ -95,7 +95,7 @@ archive::FileResult failure()
 
 } // namespace
 
-archive::FileResult suffer(const archive::Job& job, const archive::Heartbeat& heartbeat)
+archive::FileResult simulateFault(const archive::Job& job, const archive::Heartbeat& heartbeat)
 {
     const QByteArray content = contentOf(job.file);
     const QByteArray word = content.split(' ').first();

@@ -13,5 +13,5 @@
 ///   hang        does not end; writes its process id to FILE.hanging
 ///   slow        makes progress, but takes longer than two seconds
 ///   pid         writes the number of the process to every output
-[[nodiscard]] archive::FileResult suffer(const archive::Job& job,
-                                         const archive::Heartbeat& heartbeat);
+[[nodiscard]] archive::FileResult simulateFault(const archive::Job& job,
+                                                const archive::Heartbeat& heartbeat);

@@ -41,13 +41,13 @@ public:
     {
         EXPECT_TRUE(archive::resultFromLine(line));
         workers.append(m_folder.read(u"staged.png"_s));
-        return archive::WorkerPool::MaximumMemory - (task == wornAfter ? 0 : 1);
+        return archive::WorkerPool::MaximumMemory - (task == replacedAfter ? 0 : 1);
     }
 
     void taskFailed(qsizetype, const archive::WorkerEnd&) override { ADD_FAILURE(); }
 
     QList<QByteArray> workers;
-    qsizetype wornAfter = -1;
+    qsizetype replacedAfter = -1;
 
 private:
     TestFolder m_folder;
@@ -76,7 +76,7 @@ TEST(WorkerPool, KeepsAWorkerThatIsWell)
 TEST(WorkerPool, ReplacesAWorkerWhoseMemoryHasGrown)
 {
     Client client(4);
-    client.wornAfter = 1;
+    client.replacedAfter = 1;
     run(client);
     ASSERT_EQ(client.workers.size(), 4);
     EXPECT_EQ(client.workers.at(0), client.workers.at(1));
@@ -100,9 +100,9 @@ TEST(WorkerEnd, HasAMessage)
     EXPECT_TRUE(words(archive::WorkerEnd::TimedOut, 9).contains(u"7 second"_s));
     EXPECT_TRUE(
         words(archive::WorkerEnd::Exited, archive::WorkerExitOutOfMemory).contains(u"300 MiB"_s));
-    EXPECT_TRUE(words(archive::WorkerEnd::Signalled, 11).contains(u"SIGSEGV"_s));
-    EXPECT_TRUE(words(archive::WorkerEnd::Signalled, 9).contains(u"killed"_s));
-    EXPECT_TRUE(words(archive::WorkerEnd::Signalled, SIGSYS).contains(u"sandbox"_s));
+    EXPECT_TRUE(words(archive::WorkerEnd::Signaled, 11).contains(u"SIGSEGV"_s));
+    EXPECT_TRUE(words(archive::WorkerEnd::Signaled, 9).contains(u"killed"_s));
+    EXPECT_TRUE(words(archive::WorkerEnd::Signaled, SIGSYS).contains(u"sandbox"_s));
     EXPECT_TRUE(words(archive::WorkerEnd::Exited, 5).contains(u"status 5"_s));
 }
 
@@ -113,10 +113,10 @@ TEST(WorkerEnd, DecidesTheOutcome)
     EXPECT_EQ(archive::outcomeOf({End::Exited, archive::WorkerExitOutOfMemory}),
               archive::FileOutcome::OutOfMemory);
     EXPECT_EQ(archive::outcomeOf({End::Exited, 0}), archive::FileOutcome::Crashed);
-    EXPECT_EQ(archive::outcomeOf({End::Signalled, 11}), archive::FileOutcome::Crashed);
+    EXPECT_EQ(archive::outcomeOf({End::Signaled, 11}), archive::FileOutcome::Crashed);
     EXPECT_EQ(archive::outcomeOf({End::Garbled, 0}), archive::FileOutcome::Crashed);
     EXPECT_FALSE((End{End::TimedOut, 9}.mayBeRetried()));
-    EXPECT_TRUE((End{End::Signalled, 11}.mayBeRetried()));
+    EXPECT_TRUE((End{End::Signaled, 11}.mayBeRetried()));
 }
 
 } // namespace

@@ -32,7 +32,7 @@ TEST(ArchiveOptions, HaveDefaults)
     EXPECT_GE(options.workers, 1);
     EXPECT_EQ(options.limits.timeoutSeconds, 60);
     EXPECT_EQ(options.limits.memoryMiB, 4096);
-    EXPECT_TRUE(options.shard.isWhole());
+    EXPECT_TRUE(options.shard.isEverything());
     EXPECT_FALSE(options.resume);
     EXPECT_FALSE(options.quiet);
     EXPECT_FALSE(options.failOnLoss);

@@ -56,13 +56,13 @@ TEST(FinalReport, FailsWhereAnOutputCouldNotBeWritten)
 TEST(FinalReport, IsMadeForFilesThatNoWorkerReportedOn)
 {
     const archive::Input file = input();
-    const std::pair<archive::FileOutcome, migration::Status> fates[] = {
+    const std::pair<archive::FileOutcome, migration::Status> cases[] = {
         {archive::FileOutcome::Crashed, migration::Status::Crashed},
         {archive::FileOutcome::TimedOut, migration::Status::TimedOut},
         {archive::FileOutcome::OutOfMemory, migration::Status::OutOfMemory},
         {archive::FileOutcome::Failed, migration::Status::Failed},
     };
-    for (const auto& [outcome, status] : fates) {
+    for (const auto& [outcome, status] : cases) {
         archive::FileResult result;
         result.outcome = outcome;
         result.errors = words("why");

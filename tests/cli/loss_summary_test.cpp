@@ -24,7 +24,7 @@ FileReport lossy(const QString& name, qint64 lost)
 {
     FileReport report = complete(name);
     report.objects.imported -= lost;
-    report.lost = {{lossCode(LossKind::Table), lossWords(LossKind::Table), lost, true, {}}};
+    report.lost = {{lossCode(LossKind::Table), lossText(LossKind::Table), lost, true, {}}};
     return report;
 }
 

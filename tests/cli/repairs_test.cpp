@@ -74,7 +74,7 @@ QStringList codesOf(const QJsonValue& list)
     return codes;
 }
 
-TEST_F(Repairs, AreMadeUnlessTheFileIsWantedAsWritten)
+TEST_F(Repairs, AreMadeUnlessAsWrittenIsGiven)
 {
     write(u"group.odg"_s, drawing({Group}));
     const QJsonObject repaired = inspect("group.odg");
@@ -89,7 +89,7 @@ TEST_F(Repairs, AreMadeUnlessTheFileIsWantedAsWritten)
     EXPECT_EQ(import("group.odg --fail-on-loss --as-written").status, 3);
 }
 
-TEST_F(Repairs, AreListedForPeople)
+TEST_F(Repairs, AreListedAsText)
 {
     write(u"group.odg"_s, drawing({Group}));
     const Outcome outcome = labelport(words("inspect group.odg"));

@@ -52,8 +52,7 @@ struct TypeList
 /// Whether the base is public and not virtual: only then can a pointer to it be cast to the class
 /// without accessing the object.
 template <typename Class, typename Base>
-constexpr bool plainlyDerives = std::is_base_of_v<Base, Class>&& requires(Base* base,
-                                                                          Class* derived)
+constexpr bool isDirectBase = std::is_base_of_v<Base, Class>&& requires(Base* base, Class* derived)
 {
     static_cast<Base*>(derived);
     static_cast<Class*>(base);
@@ -69,11 +68,11 @@ struct Bases
 
     template <typename... Expected>
     static constexpr bool are = std::is_same_v<Declared, TypeList<Expected...>> &&
-                                (plainlyDerives<Class, Expected> && ...);
+                                (isDirectBase<Class, Expected> && ...);
 #else
     // This compiler cannot list bases; the order is then checked at run time only.
     template <typename... Expected>
-    static constexpr bool are = (plainlyDerives<Class, Expected> && ...);
+    static constexpr bool are = (isDirectBase<Class, Expected> && ...);
 #endif
 };
 
@@ -110,13 +109,13 @@ static_assert(Bases<SymbolItem>::are<QGraphicsSvgItem, ColoredItem, ResizeRotate
 
 /// Every facet can be deleted through, and cast from, at run time.
 template <typename... Facets>
-constexpr bool areDestroyedWhole = (std::has_virtual_destructor_v<Facets> && ...);
+constexpr bool haveVirtualDestructors = (std::has_virtual_destructor_v<Facets> && ...);
 
 static_assert(
-    areDestroyedWhole<ISizeItem, ITemplateLockItem, IColorItem, PenItem, FillColorItem, IBrushItem,
-                      TextColorItem, ITextGenericItem, IFontItem, ITextAlignItem, IDatasourceItem,
-                      ITextLabelItem, IRichTextItem, IBarcodeItem, ImageableItem, IGraphicItem,
-                      ResizeRotatedHelper, IPieItem, ILineItem>);
+    haveVirtualDestructors<ISizeItem, ITemplateLockItem, IColorItem, PenItem, FillColorItem,
+                           IBrushItem, TextColorItem, ITextGenericItem, IFontItem, ITextAlignItem,
+                           IDatasourceItem, ITextLabelItem, IRichTextItem, IBarcodeItem,
+                           ImageableItem, IGraphicItem, ResizeRotatedHelper, IPieItem, ILineItem>);
 
 /// The item classes of the contract are abstract: a host must derive its own.
 template <typename... Classes>

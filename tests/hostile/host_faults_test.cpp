@@ -2,8 +2,8 @@
 // loses symbols, or deletes what it is given. An import leaves out what it cannot have, says
 // so in the log, and continues.
 
+#include "tests/hostile/complete_labels.h"
 #include "tests/hostile/importing.h"
-#include "tests/hostile/whole_labels.h"
 #include "tests/support/captured_log.h"
 #include "tests/support/test_host/test_host.h"
 
@@ -19,9 +19,9 @@ enum class Making { Nothing, WrongClass };
 constexpr ReaderKind EveryKind[] = {ReaderKind::Tavrel, ReaderKind::Orvanta,
                                     ReaderKind::OpenDocument};
 
-const WholeLabels& labels()
+const CompleteLabels& labels()
 {
-    static const WholeLabels labels;
+    static const CompleteLabels labels;
     return labels;
 }
 
@@ -32,7 +32,7 @@ std::string nameOf(ReaderKind reader)
                                            : "OpenDocument";
 }
 
-int sumOf(const WholeLabels::Counts& counts)
+int sumOf(const CompleteLabels::Counts& counts)
 {
     int sum = 0;
     for (const auto& [type, count] : counts) {
@@ -53,7 +53,7 @@ std::vector<Fault> allFaults()
 {
     std::vector<Fault> faults;
     for (const ReaderKind reader : EveryKind) {
-        for (const auto& [type, count] : WholeLabels::items(reader)) {
+        for (const auto& [type, count] : CompleteLabels::items(reader)) {
             faults.push_back({reader, type, Making::Nothing});
             faults.push_back({reader, type, Making::WrongClass});
         }
@@ -108,10 +108,10 @@ INSTANTIATE_TEST_SUITE_P(Readers, EveryReader, testing::ValuesIn(EveryKind),
 TEST_P(EveryReader, ImportsTheCompleteLabelIntoAHostWithoutFaults)
 {
     EXPECT_TRUE(import(GetParam()));
-    for (const auto& [type, count] : WholeLabels::items(GetParam())) {
+    for (const auto& [type, count] : CompleteLabels::items(GetParam())) {
         EXPECT_EQ(host.itemCount(type), count) << std::hex << type;
     }
-    EXPECT_EQ(host.itemCount(), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(host.itemCount(), sumOf(CompleteLabels::items(GetParam())));
     EXPECT_EQ(refusedItems(), 0) << qPrintable(log.messages().join(u'\n'));
     EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 1);
 }
@@ -121,15 +121,15 @@ INSTANTIATE_TEST_SUITE_P(Faults, MissingItem, testing::ValuesIn(allFaults()), na
 TEST_P(MissingItem, IsLeftOutAndSaid)
 {
     const Fault fault = GetParam();
-    (fault.making == Making::Nothing ? host.behavior().makesNothingOf
-                                     : host.behavior().makesOthersOf) = {fault.type};
+    (fault.making == Making::Nothing ? host.behavior().refusedTypes
+                                     : host.behavior().mismatchedTypes) = {fault.type};
     if (stopsTheProcess(fault)) {
         EXPECT_DEATH((void)import(fault.reader), "makes no lines");
         return;
     }
     EXPECT_TRUE(import(fault.reader));
     EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 1);
-    const auto expected = WholeLabels::items(fault.reader);
+    const auto expected = CompleteLabels::items(fault.reader);
     EXPECT_EQ(host.itemCount(fault.type), 0);
     EXPECT_EQ(refusedItems(), expected.at(fault.type)) << qPrintable(log.messages().join(u'\n'));
     for (const auto& [type, count] : expected) {
@@ -146,7 +146,7 @@ TEST_P(EveryReader, ImportsNothingOntoACanvasWithoutAFactory)
     LegacyTemplateImporter poor(host.canvas(), host.files(), host.datasources());
     (void)importBy(poor, GetParam(), labels().path(GetParam()));
     EXPECT_EQ(host.itemCount(), 0);
-    EXPECT_GE(refusedItems(), sumOf(WholeLabels::items(GetParam())) - 2)
+    EXPECT_GE(refusedItems(), sumOf(CompleteLabels::items(GetParam())) - 2)
         << "but for the texts of boxes that are not there: "
         << qPrintable(log.messages().join(u'\n'));
 }
@@ -156,7 +156,7 @@ TEST_P(EveryReader, ContinuesWhenTheCanvasDeletesItems)
     host.behavior().deletesItems = true;
     EXPECT_TRUE(import(GetParam()));
     EXPECT_EQ(host.itemCount(), 0);
-    EXPECT_GE(host.count(u"importItem"_s), sumOf(WholeLabels::items(GetParam())) - 2);
+    EXPECT_GE(host.count(u"importItem"_s), sumOf(CompleteLabels::items(GetParam())) - 2);
     EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 1);
 }
 
@@ -167,7 +167,7 @@ TEST_F(HostFaults, AnItemThatTheCanvasDeletesBeforeItIsSetUpIsSaid)
     EXPECT_EQ(refusals("deleted the item"), 1) << "only texts are set up in the canvas";
     EXPECT_TRUE(import(ReaderKind::Orvanta));
     EXPECT_EQ(refusals("which the host deleted when it got it"),
-              sumOf(WholeLabels::items(ReaderKind::Orvanta)));
+              sumOf(CompleteLabels::items(ReaderKind::Orvanta)));
     host.forgetCalls();
     EXPECT_TRUE(import(ReaderKind::OpenDocument));
     EXPECT_EQ(refusals("deleted an item when it got it"), host.count(u"importItem"_s));
@@ -175,9 +175,9 @@ TEST_F(HostFaults, AnItemThatTheCanvasDeletesBeforeItIsSetUpIsSaid)
 
 TEST_P(EveryReader, ContinuesWithoutADataSource)
 {
-    host.behavior().losesDatasources = true;
+    host.behavior().hidesDatasources = true;
     EXPECT_TRUE(import(GetParam()));
-    EXPECT_EQ(host.itemCount(), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(host.itemCount(), sumOf(CompleteLabels::items(GetParam())));
     EXPECT_EQ(refusals("does not have the data source") + refusals("a data source of the kind"),
               host.count(u"createDatasource"_s));
     EXPECT_EQ(host.count(u"createDatasource"_s) > 0, GetParam() != ReaderKind::OpenDocument);
@@ -187,7 +187,7 @@ TEST_P(EveryReader, BindsToASourceWithoutFields)
 {
     host.behavior().sourcesHaveFields = false;
     EXPECT_TRUE(import(GetParam()));
-    EXPECT_EQ(host.itemCount(), sumOf(WholeLabels::items(GetParam())));
+    EXPECT_EQ(host.itemCount(), sumOf(CompleteLabels::items(GetParam())));
 }
 
 class SymbolFaults : public HostFaults,
@@ -196,15 +196,17 @@ class SymbolFaults : public HostFaults,
 
 INSTANTIATE_TEST_SUITE_P(Readers, SymbolFaults,
                          testing::Combine(testing::ValuesIn(EveryKind),
-                                          testing::Values(Conversion::Fails, Conversion::Loses)));
+                                          testing::Values(Conversion::Fails,
+                                                          Conversion::StaysEmpty)));
 
 TEST_P(SymbolFaults, CostNothingButTheSymbol)
 {
     const auto [reader, conversion] = GetParam();
     host.behavior().conversion = conversion;
     EXPECT_TRUE(import(reader));
-    const int all = sumOf(WholeLabels::items(reader));
+    const int all = sumOf(CompleteLabels::items(reader));
     // A drawing keeps the place of a symbol that its host has lost.
-    const bool keepsPlace = reader == ReaderKind::OpenDocument && conversion == Conversion::Loses;
+    const bool keepsPlace =
+        reader == ReaderKind::OpenDocument && conversion == Conversion::StaysEmpty;
     EXPECT_EQ(host.itemCount(), keepsPlace ? all : all - 1);
 }

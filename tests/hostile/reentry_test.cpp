@@ -1,8 +1,8 @@
 // What a host may do while an import runs: from the signals about message boxes everything,
 // the importer's end included; a second import in the middle of one is refused.
 
+#include "tests/hostile/complete_labels.h"
 #include "tests/hostile/importing.h"
-#include "tests/hostile/whole_labels.h"
 #include "tests/support/captured_log.h"
 #include "tests/support/test_host/test_host.h"
 
@@ -61,7 +61,7 @@ TEST_F(Reentry, AnImportFromThePopupIsRefused)
 
 TEST_F(Reentry, AnImportFromAHostsOwnCallIsRefusedWhateverTheFormat)
 {
-    const WholeLabels labels;
+    const CompleteLabels labels;
     for (const ReaderKind outer :
          {ReaderKind::Tavrel, ReaderKind::Orvanta, ReaderKind::OpenDocument}) {
         for (const ReaderKind inner :
@@ -74,7 +74,7 @@ TEST_F(Reentry, AnImportFromAHostsOwnCallIsRefusedWhateverTheFormat)
             EXPECT_TRUE(importBy(*importer, outer, labels.path(outer)));
             const int added = host.itemCount() - before;
             int expected = 0;
-            for (const auto& [type, count] : WholeLabels::items(outer)) {
+            for (const auto& [type, count] : CompleteLabels::items(outer)) {
                 expected += count;
             }
             EXPECT_EQ(added, expected);

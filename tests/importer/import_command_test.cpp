@@ -46,7 +46,7 @@ TEST_F(ImportCommand, StopsWhenTheUserKeepsTheChanges)
     EXPECT_FALSE(rememberedFolder().isValid());
 }
 
-TEST_F(ImportCommand, StopsWhenTheDialogIsCancelled)
+TEST_F(ImportCommand, StopsWhenTheDialogIsCanceled)
 {
     QSettings().setValue(QStringLiteral("dir/import"), QStringLiteral("/before"));
     FileDialogDriver::cancel();

@@ -66,7 +66,7 @@ TEST(TavrelCensus, CountsEveryVersion)
         EXPECT_TRUE(census.unknown.isEmpty()) << census.unknown.toStdString();
         // shapes, lines, texts, barcodes, pictures, symbols
         EXPECT_EQ(countsOf(census), (std::array<qint64, ObjectClasses>{1, 1, 2, 2, 1, 1}));
-        EXPECT_TRUE(census.objects.constFirst().wantsSource);
+        EXPECT_TRUE(census.objects.constFirst().needsSource);
     }
 }
 

@@ -12,7 +12,7 @@ using namespace migration;
 
 namespace {
 
-FileReport wholeReport()
+FileReport sampleReport()
 {
     FileReport report;
     report.file = QStringLiteral("a.cnv");
@@ -24,7 +24,7 @@ FileReport wholeReport()
 
 Finding findingOfKind(LossKind kind)
 {
-    return {lossCode(kind), lossWords(kind), 2, true, {}};
+    return {lossCode(kind), lossText(kind), 2, true, {}};
 }
 
 FileReport throughText(const FileReport& report)
@@ -47,24 +47,24 @@ TEST(FileReport, ComesBackFromJsonAsItWas)
 TEST(FileReport, IsNotReadFromOtherObjects)
 {
     EXPECT_FALSE(fileReportFromJson({}).has_value());
-    QJsonObject object = toJson(wholeReport());
+    QJsonObject object = toJson(sampleReport());
     object.insert(QStringLiteral("status"), QStringLiteral("glorious"));
     EXPECT_FALSE(fileReportFromJson(object).has_value());
-    object = toJson(wholeReport());
+    object = toJson(sampleReport());
     object.remove(QStringLiteral("file"));
     EXPECT_FALSE(fileReportFromJson(object).has_value());
 }
 
 TEST(FileReport, IsNotReadWithNumbersThatAreNotExact)
 {
-    QJsonObject object = toJson(wholeReport());
+    QJsonObject object = toJson(sampleReport());
     object.insert(QStringLiteral("bytes"), 1e300);
     EXPECT_FALSE(fileReportFromJson(object).has_value());
 }
 
 TEST(FileReport, IsNotReadWithInvalidPlaces)
 {
-    FileReport report = wholeReport();
+    FileReport report = sampleReport();
     report.lost = {findingOfKind(LossKind::Connector)};
     report.lost[0].places = FindingPlaces{{1, 2}, {QRectF(1.0, 2.0, 3.0, 4.0)}};
     EXPECT_EQ(throughText(report), report);
@@ -83,7 +83,7 @@ TEST(FileReport, IsNotReadWithInvalidPlaces)
 
 TEST(FileReport, WritesTextsThatAreNotUnicodeAsPlainStrings)
 {
-    FileReport report = wholeReport();
+    FileReport report = sampleReport();
     report.outputs = {QStringLiteral("a") + QChar(0xd800)};
     report.lost = {{QStringLiteral("x"), {}, 1, true, {QString(QChar(0xdc00))}}};
     const QJsonObject object = toJson(report);
@@ -102,10 +102,10 @@ TEST(FileReport, EveryStatusHasAName)
 
 TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsComplete)
 {
-    EXPECT_EQ(verdictOf(wholeReport()), Verdict::Complete);
-    EXPECT_FALSE(hasLoss(wholeReport()));
+    EXPECT_EQ(verdictOf(sampleReport()), Verdict::Complete);
+    EXPECT_FALSE(hasLoss(sampleReport()));
     EXPECT_EQ(verdictOf(FileReport()), Verdict::Failed);
-    FileReport uncounted = wholeReport();
+    FileReport uncounted = sampleReport();
     uncounted.objects.inFile.reset();
     EXPECT_EQ(verdictOf(uncounted), Verdict::Lossy) << "objects may be missing";
 }
@@ -113,18 +113,19 @@ TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsComplete)
 TEST(FileReport, HasALossForEveryKindThatAffectsTheContent)
 {
     for (const LossRow& row : lossRows()) {
-        FileReport report = wholeReport();
+        FileReport report = sampleReport();
         (row.outcome == Outcome::Lost ? report.lost : report.changed)
             .append(findingOfKind(row.kind));
-        EXPECT_EQ(hasLoss(report), row.harm == Harm::Content) << row.code;
-        EXPECT_EQ(verdictOf(report), row.harm == Harm::Content ? Verdict::Lossy : Verdict::Changed)
+        EXPECT_EQ(hasLoss(report), row.impact == Impact::Content) << row.code;
+        EXPECT_EQ(verdictOf(report),
+                  row.impact == Impact::Content ? Verdict::Lossy : Verdict::Changed)
             << row.code;
     }
 }
 
 TEST(FileReport, HasALossForACodeOfANewerProgram)
 {
-    FileReport report = wholeReport();
+    FileReport report = sampleReport();
     report.changed.append({QStringLiteral("from-the-future"), {}, 1, false, {}});
     EXPECT_TRUE(hasLoss(report));
 }
@@ -133,7 +134,7 @@ TEST(FileReport, HasALossWheneverTheFileIsNotImported)
 {
     for (const Status status :
          {Status::Failed, Status::Crashed, Status::TimedOut, Status::OutOfMemory}) {
-        FileReport report = wholeReport();
+        FileReport report = sampleReport();
         report.status = status;
         EXPECT_TRUE(hasLoss(report));
     }
@@ -141,13 +142,13 @@ TEST(FileReport, HasALossWheneverTheFileIsNotImported)
 
 TEST(FileReport, SaysInWordsThatNothingWasLost)
 {
-    EXPECT_EQ(summaryOf(wholeReport()),
+    EXPECT_EQ(summaryOf(sampleReport()),
               QStringLiteral("Imported 3 of 3 objects. Nothing was lost or changed."));
 }
 
 TEST(FileReport, ReportsHowManyObjectsWereImported)
 {
-    FileReport report = wholeReport();
+    FileReport report = sampleReport();
     report.objects.imported = 1;
     report.lost.append(findingOfKind(LossKind::Table));
     EXPECT_EQ(summaryOf(report),
@@ -163,7 +164,7 @@ TEST(FileReport, ReportsHowManyObjectsWereImported)
 
 TEST(FileReport, DistinguishesChangesFromLossesInTheText)
 {
-    FileReport report = wholeReport();
+    FileReport report = sampleReport();
     report.changed.append(findingOfKind(LossKind::FontReplaced));
     EXPECT_EQ(summaryOf(report), QStringLiteral("Imported 3 of 3 objects. The content is complete; "
                                                 "looks changed."));
@@ -172,7 +173,7 @@ TEST(FileReport, DistinguishesChangesFromLossesInTheText)
 // A card must not say "with losses" above "nothing was lost".
 TEST(FileReport, NamesAChangeOfContentALoss)
 {
-    FileReport report = wholeReport();
+    FileReport report = sampleReport();
     report.changed.append(findingOfKind(LossKind::OutsidePage));
     EXPECT_EQ(verdictOf(report), Verdict::Lossy);
     EXPECT_EQ(summaryOf(report),
@@ -184,9 +185,9 @@ TEST(FileReport, EveryVerdictHasAName)
     QStringList names;
     for (int index = 0; index < Verdicts; ++index) {
         names.append(verdictName(static_cast<Verdict>(index)));
-        EXPECT_FALSE(verdictWords(static_cast<Verdict>(index)).isEmpty());
+        EXPECT_FALSE(verdictText(static_cast<Verdict>(index)).isEmpty());
     }
     EXPECT_EQ(names, (QStringList{QStringLiteral("complete"), QStringLiteral("changed"),
                                   QStringLiteral("lossy"), QStringLiteral("failed")}));
-    EXPECT_EQ(toJson(wholeReport())[QStringLiteral("verdict")].toString(), names.constFirst());
+    EXPECT_EQ(toJson(sampleReport())[QStringLiteral("verdict")].toString(), names.constFirst());
 }

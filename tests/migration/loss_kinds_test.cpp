@@ -23,7 +23,7 @@ TEST(LossKinds, EachIsFoundByItsCodeAndHasWords)
 {
     for (const LossRow& row : lossRows()) {
         EXPECT_EQ(lossRowOf(lossCode(row.kind)), &row);
-        EXPECT_FALSE(lossWords(row.kind).isEmpty()) << row.code;
+        EXPECT_FALSE(lossText(row.kind).isEmpty()) << row.code;
         // Advice names a program or an option of ours; without one, there is none.
         const QString advice = lossAdvice(row.kind);
         EXPECT_TRUE(advice.isEmpty() || advice.contains(QLatin1String("import")) ||
@@ -39,9 +39,9 @@ TEST(LossKinds, AreAllInTheManual)
     ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(manual.readAll());
     for (const LossRow& row : lossRows()) {
-        const QString harm =
-            row.harm == Harm::Content ? QStringLiteral("yes") : QStringLiteral("no");
-        const QString line = QStringLiteral("| `%1` | %2 |").arg(lossCode(row.kind), harm);
+        const QString impact =
+            row.impact == Impact::Content ? QStringLiteral("yes") : QStringLiteral("no");
+        const QString line = QStringLiteral("| `%1` | %2 |").arg(lossCode(row.kind), impact);
         EXPECT_TRUE(text.contains(line)) << line.toStdString();
     }
 }

@@ -60,7 +60,7 @@ int main(int argc, char* argv[])
     QList<FileReport> reports;
     for (const QString& fileName : arguments.mid(2)) {
         reports.append(reportOn(fileName));
-        QTextStream(stdout) << describeForPeople(reports.constLast()) << '\n';
+        QTextStream(stdout) << describeAsText(reports.constLast()) << '\n';
     }
     reports.append(ended(Status::Crashed, QStringLiteral("crashed <b>.cnv")));
     reports.append(ended(Status::TimedOut, QStringLiteral("slow.odg")));

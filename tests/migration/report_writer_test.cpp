@@ -139,7 +139,7 @@ TEST_F(ReportWriting, TheSameReportsGiveTheSameBytes)
     }
 }
 
-TEST_F(ReportWriting, WhatStoodThereStaysUntilTheEnd)
+TEST_F(ReportWriting, TheOldReportStaysUntilTheEnd)
 {
     for (const char* name : {"r.jsonl", "r.html"}) {
         putContent(path(name), "old");
@@ -161,19 +161,19 @@ TEST_F(ReportWriting, AFolderThatIsNotThereIsAnErrorInWords)
 
 TEST_F(ReportWriting, NothingFromAFileBecomesMarkup)
 {
-    const QString evil =
+    const QString hostile =
         QStringLiteral("</script><script>alert(1)</script>\" onload='x' <img src=x>");
-    FileReport report = named(evil, Status::Failed);
-    report.error = evil;
-    report.reader = evil;
-    report.lost = {{evil, evil, 1, true, {evil}}};
-    report.datasources = {{1, evil, {evil}, evil}};
-    report.issues = {{evil, 0, 1}};
-    report.outputs = {evil};
-    report.exports = {{evil, evil, evil, evil, 1}};
-    report.items = {{evil, 1}};
-    report.complete = {{evil, 1}};
-    ASSERT_EQ(write(path("r.html"), {report}, evil), QString());
+    FileReport report = named(hostile, Status::Failed);
+    report.error = hostile;
+    report.reader = hostile;
+    report.lost = {{hostile, hostile, 1, true, {hostile}}};
+    report.datasources = {{1, hostile, {hostile}, hostile}};
+    report.issues = {{hostile, 0, 1}};
+    report.outputs = {hostile};
+    report.exports = {{hostile, hostile, hostile, hostile, 1}};
+    report.items = {{hostile, 1}};
+    report.complete = {{hostile, 1}};
+    ASSERT_EQ(write(path("r.html"), {report}, hostile), QString());
     const QByteArray html = contentOf(path("r.html"));
     EXPECT_EQ(html.count("<script>"), 1) << "the page's own";
     EXPECT_EQ(html.count("</script>"), 1);

@@ -370,7 +370,7 @@ TEST_P(ReportedLoss, FailsTheRunWhenTheContentIsAffected)
     const FileReport report = reportOn(sample.document, sample.tamper);
     SCOPED_TRACE(codesOf(report).toStdString());
     // Each sample has a single loss or change, which determines the result.
-    EXPECT_EQ(hasLoss(report), lossRow(sample.kind).harm == Harm::Content);
+    EXPECT_EQ(hasLoss(report), lossRow(sample.kind).impact == Impact::Content);
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ReportedLoss,

@@ -37,7 +37,7 @@ FileReport sampleReport()
 
 TEST(Inspect, DescribesALabelOnOneScreen)
 {
-    EXPECT_EQ(describeForPeople(sampleReport()).toStdString(),
+    EXPECT_EQ(describeAsText(sampleReport()).toStdString(),
               "shelf.odg\n"
               "  Imported 2 of 3 objects. Content was lost or changed.\n"
               "  Page: 50.8 × 25.4 mm\n"
@@ -63,7 +63,7 @@ TEST(Inspect, SaysWhyAFileWasNotImported)
     FileReport report;
     report.file = QStringLiteral("old.cnv");
     report.error = QStringLiteral("The file is empty.");
-    EXPECT_EQ(describeForPeople(report).toStdString(),
+    EXPECT_EQ(describeAsText(report).toStdString(),
               "old.cnv\n  Not imported: The file is empty.\n");
 }
 
@@ -72,8 +72,8 @@ TEST(Inspect, NothingFromAFileMovesTheCursor)
     FileReport report = sampleReport();
     report.itemList[0].content = QStringLiteral("\x1b[2J\x07");
     report.issues[0].text = QStringLiteral("\x1b]0;title\x07");
-    EXPECT_FALSE(describeForPeople(report).contains(QChar(0x1b)));
-    EXPECT_FALSE(describeForPeople(report).contains(QChar(0x07)));
+    EXPECT_FALSE(describeAsText(report).contains(QChar(0x1b)));
+    EXPECT_FALSE(describeAsText(report).contains(QChar(0x07)));
 }
 
 TEST(Inspect, ListsEveryItemOfALabel)

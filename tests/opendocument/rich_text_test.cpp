@@ -57,12 +57,12 @@ TEST(RichText, BeginsAndEndsAsTheFrameworksOwnHtml)
 {
     QTextDocument document;
     document.setPlainText(u"x"_s);
-    const QString theirs = document.toHtml();
+    const QString expected = document.toHtml();
     const QString ours = richText("<text:p>x</text:p>").html;
-    const QString header = theirs.first(theirs.indexOf(u"<body"_s));
+    const QString header = expected.first(expected.indexOf(u"<body"_s));
     EXPECT_EQ(ours.first(header.size()), header);
     EXPECT_TRUE(ours.endsWith(u"</p></body></html>"_s));
-    EXPECT_TRUE(theirs.endsWith(u"</p></body></html>"_s));
+    EXPECT_TRUE(expected.endsWith(u"</p></body></html>"_s));
 }
 
 TEST(RichText, HeaderIsTheSameWhateverTheFramework)

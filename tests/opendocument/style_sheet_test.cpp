@@ -132,7 +132,7 @@ TEST_F(StyleSheet, AStyleMayBuildOnTheOneThatItReplaces)
     EXPECT_EQ(sizeOf("a", text("a", "", size("10pt")), text("a", "a", size("150%"))), u"15"_s);
 }
 
-TEST_F(StyleSheet, GraphicStylesInheritLikewise)
+TEST_F(StyleSheet, GraphicStylesInheritTheSame)
 {
     const QByteArray parent = graphic("parent", "", "draw:fill-color=\"#010203\"");
     EXPECT_EQ(fillOf("child", parent + graphic("child", "parent", "")), u"#ff010203"_s);

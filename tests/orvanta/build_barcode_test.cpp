@@ -62,7 +62,7 @@ TEST_F(BarcodeBuilding, ASizeBeyondAnIntIsTheLargest)
 
 TEST_F(BarcodeBuilding, ABarcodeThatTheHostDoesNotMakeIsLeftOut)
 {
-    host.behavior().makesOthersOf = {KestTypes::Barcode};
+    host.behavior().mismatchedTypes = {KestTypes::Barcode};
     readControls("<barcode><ArrayOfString><s>a</s></ArrayOfString></barcode>");
     EXPECT_EQ(host.itemCount(), 0);
     EXPECT_TRUE(callsOf("datasources").isEmpty());

@@ -142,7 +142,7 @@ TEST_F(DatasourceBuilding, AnEmptyCounterStaysAtZeroAndMayBeEdited)
 
 TEST_F(DatasourceBuilding, ASourceThatTheHostDoesNotMakeLeavesTheItemUnbound)
 {
-    host.behavior().losesDatasources = true;
+    host.behavior().hidesDatasources = true;
     readControls("<numeric_up_down/><date_time_picker/>");
     EXPECT_EQ(host.itemCount(), 2);
     EXPECT_TRUE(callsOf("item:1").filter(QStringLiteral("Datasource")).isEmpty());
@@ -156,7 +156,7 @@ TEST_F(DatasourceBuilding, ASourceThatTheHostDoesNotMakeLeavesTheItemUnbound)
 
 TEST_F(DatasourceBuilding, WithoutAnItemNoSourceIsMade)
 {
-    host.behavior().makesNothingOf = {KestTypes::SimpleText};
+    host.behavior().refusedTypes = {KestTypes::SimpleText};
     readControls("<numeric_up_down/><date_time_picker/>"
                  "<combo_box><ArrayOfAnyType><a>x</a></ArrayOfAnyType></combo_box>");
     EXPECT_TRUE(callsOf("datasources").isEmpty());

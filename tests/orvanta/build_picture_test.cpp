@@ -135,8 +135,8 @@ TEST_F(PictureBuilding, ASymbolWithoutSizeIsDeleted)
 
 TEST_F(PictureBuilding, PicturesThatTheHostDoesNotMakeAreLeftOut)
 {
-    host.behavior().makesNothingOf = {KestTypes::Symbol};
-    host.behavior().makesOthersOf = {KestTypes::Picture};
+    host.behavior().refusedTypes = {KestTypes::Symbol};
+    host.behavior().mismatchedTypes = {KestTypes::Picture};
     readControls(pictureBox("<svg/>") + pictureBox(monoPng(1, 1)));
     EXPECT_EQ(host.itemCount(), 0);
     EXPECT_EQ(host.livingItems(), 0);

@@ -112,8 +112,8 @@ TEST_F(ShapeBuilding, TheLineWidthHas16Bits)
 
 TEST_F(ShapeBuilding, AShapeThatTheHostDoesNotMakeIsLeftOut)
 {
-    host.behavior().makesNothingOf = {KestTypes::Ellipse};
-    host.behavior().makesOthersOf = {KestTypes::Rectangle};
+    host.behavior().refusedTypes = {KestTypes::Ellipse};
+    host.behavior().mismatchedTypes = {KestTypes::Rectangle};
     readControls("<transparent_shape/><transparent_shape><sides>7</sides></transparent_shape>"
                  "<transparent_shape><sides>3</sides></transparent_shape>");
     EXPECT_EQ(host.itemCount(), 1);

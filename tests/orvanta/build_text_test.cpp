@@ -93,7 +93,7 @@ TEST_F(TextBuilding, TextIsPassedOnUnchanged)
 
 TEST_F(TextBuilding, ATextThatTheHostDoesNotMakeIsLeftOut)
 {
-    host.behavior().makesNothingOf = {KestTypes::RichText};
+    host.behavior().refusedTypes = {KestTypes::RichText};
     readControls("<transparent_label><items><s>a</s></items></transparent_label>"
                  "<swap_text_box><scaleable>true</scaleable></swap_text_box>");
     EXPECT_EQ(host.itemCount(), 1) << "the walk continues";
@@ -104,7 +104,7 @@ TEST_F(TextBuilding, ATextThatTheHostDoesNotMakeIsLeftOut)
 
 TEST_F(TextBuilding, AnItemOfAnotherClassIsDeletedAndLeftOut)
 {
-    host.behavior().makesOthersOf = {KestTypes::RichText};
+    host.behavior().mismatchedTypes = {KestTypes::RichText};
     readControls("<transparent_label/>");
     EXPECT_EQ(host.itemCount(), 0);
     EXPECT_EQ(host.livingItems(), 0);

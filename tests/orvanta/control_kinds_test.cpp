@@ -196,7 +196,7 @@ TEST(NumericControl, ReadsItsNumbers)
     EXPECT_EQ(control.increment, 5);
 }
 
-TEST(NumericControl, OnlyTheMisspeltIncrementCounts)
+TEST(NumericControl, OnlyTheMisspelledIncrementCounts)
 {
     EXPECT_EQ(decode(orvanta::readNumericControl, "<increment>5</increment>").increment, 1);
     EXPECT_EQ(decode(orvanta::readNumericControl, "<incrememnt>x</incrememnt>").increment, 0);

@@ -1,6 +1,6 @@
 #include "tests/orvanta/reader_fixture.h"
 
-#include "orvanta/document_limits.h"
+#include "orvanta/file_limits.h"
 
 #include <QFile>
 #include <QStringConverter>

@@ -1,6 +1,6 @@
 #include "tests/orvanta/reader_fixture.h"
 
-#include "orvanta/document_limits.h"
+#include "orvanta/file_limits.h"
 
 #include <QFile>
 #include <QTemporaryFile>
@@ -12,7 +12,7 @@ namespace {
 using HostileFile = ReaderFixture;
 
 /// A label with every kind of content, for the tests to damage.
-QByteArray wholeLabel()
+QByteArray sampleLabel()
 {
     return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
            "<qmtx><printable_control><bounds><x>0</x><y>0</y><w>384</w><h>192</h></bounds>"
@@ -39,7 +39,7 @@ QByteArray repeated(const QByteArray& piece, int count)
 
 TEST_F(HostileFile, ALabelTruncatedAtAnyByteIsRefusedCompletely)
 {
-    const QByteArray whole = wholeLabel();
+    const QByteArray whole = sampleLabel();
     for (qsizetype length = 0; length < whole.size(); ++length) {
         log.clear();
         EXPECT_FALSE(import(whole.left(length))) << length;
@@ -54,7 +54,7 @@ TEST_F(HostileFile, ALabelTruncatedAtAnyByteIsRefusedCompletely)
 
 TEST_F(HostileFile, AnyByteMayBeWrong)
 {
-    const QByteArray whole = wholeLabel();
+    const QByteArray whole = sampleLabel();
     for (qsizetype place = 0; place < whole.size(); ++place) {
         for (const char byte : {'\0', '<', '&', '9', '\xFF'}) {
             QByteArray damaged = whole;

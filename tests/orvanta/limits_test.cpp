@@ -1,6 +1,6 @@
 // Every limit of the XML reader with its largest accepted and first rejected value.
 
-#include "orvanta/document_limits.h"
+#include "orvanta/file_limits.h"
 #include "orvanta/raster_picture.h"
 #include "tests/orvanta/printing.h"
 

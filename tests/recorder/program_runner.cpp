@@ -5,13 +5,13 @@
 ProgramResult runProgram(const QString& program, const QStringList& arguments,
                          const QProcessEnvironment& environment)
 {
-    constexpr int patience = 120000;
+    constexpr int timeout = 120000;
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(program, arguments, QIODevice::ReadOnly);
     ProgramResult result;
     result.finished =
-        process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit;
+        process.waitForFinished(timeout) && process.exitStatus() == QProcess::NormalExit;
     result.status = process.exitCode();
     result.output = process.readAllStandardOutput();
     result.errors = process.readAllStandardError();

@@ -233,8 +233,8 @@ TEST_F(TraceLines, CanvasSurvivesNoItemAndTheSameItemTwice)
 
 TEST_F(TraceLines, AnItemOfAnotherHostIsUnknown)
 {
-    QGraphicsRectItem stranger;
-    canvas().setReadOnlyStateOnItemsInList(true, {&stranger});
+    QGraphicsRectItem foreign;
+    canvas().setReadOnlyStateOnItemsInList(true, {&foreign});
     EXPECT_TRUE(newLine().endsWith(QStringLiteral("[true,[null]]}")));
 }
 

@@ -93,7 +93,7 @@ TEST_F(BarcodeBuilder, BindsBeforeItHandsOver)
 
 TEST_F(BarcodeBuilder, HostWithoutBarcodesLeavesItOut)
 {
-    fake.canvas.factory.makesWrongOf = {KestTypes::Barcode};
+    fake.canvas.factory.mismatchedTypes = {KestTypes::Barcode};
     EXPECT_EQ(buildBarcode(host(), barcode(), binder()), BuildResult::NoItem);
 }
 

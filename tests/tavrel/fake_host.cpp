@@ -66,12 +66,12 @@ Item* makeWrongItem(CallList& calls, int number, int type)
 Item* FakeFactory::create(KestTypes::ShapeType type)
 {
     m_calls.add(QStringLiteral("factory"), "create", QString::number(static_cast<int>(type), 16));
-    if (makesNothingOf.contains(type)) {
+    if (refusedTypes.contains(type)) {
         return nullptr;
     }
     const int number = ++m_created;
-    return makesWrongOf.contains(type) ? makeWrongItem(m_calls, number, type)
-                                       : makeItem(m_calls, number, type);
+    return mismatchedTypes.contains(type) ? makeWrongItem(m_calls, number, type)
+                                          : makeItem(m_calls, number, type);
 }
 
 FakeCanvas::FakeCanvas(CallList& calls)

@@ -26,8 +26,8 @@ public:
 
     [[nodiscard]] Item* create(KestTypes::ShapeType type) override;
 
-    QSet<int> makesNothingOf; ///< codes for which it returns no item
-    QSet<int> makesWrongOf;   ///< codes for which it returns an item of another class
+    QSet<int> refusedTypes;    ///< codes for which it returns no item
+    QSet<int> mismatchedTypes; ///< codes for which it returns an item of another class
 
 private:
     CallList& m_calls;

@@ -353,7 +353,7 @@ TEST_F(Reader, IssuesAreReportedBeforeTheCanvasIsComplete)
 
 TEST_F(Reader, ItemThatTheHostCannotMakeIsLeftOutAndLogged)
 {
-    fake.canvas.factory.makesNothingOf = {0x1002C, 0x1000C, 0x10015, 0x1001D, 0x1000D};
+    fake.canvas.factory.refusedTypes = {0x1002C, 0x1000C, 0x10015, 0x1001D, 0x1000D};
     EXPECT_TRUE(import(LabelFile()
                            .shape(Oval)
                            .picture(pngOf(2, 2))

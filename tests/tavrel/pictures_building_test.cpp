@@ -51,7 +51,7 @@ TEST_F(PictureBuilder, OddNumbersPassToTheHost)
 
 TEST_F(PictureBuilder, HostWithoutPicturesLeavesItOut)
 {
-    fake.canvas.factory.makesWrongOf = {KestTypes::Picture};
+    fake.canvas.factory.mismatchedTypes = {KestTypes::Picture};
     EXPECT_EQ(buildPicture(host(), picture(2, 2), Printer), BuildResult::NoItem);
     EXPECT_EQ(fake.canvas.itemCount(), 0U);
 }

@@ -92,8 +92,8 @@ TEST_F(ShapeBuilder, LockedItemIsNotMovable)
 
 TEST_F(ShapeBuilder, HostWithoutTheShapeLeavesItOut)
 {
-    fake.canvas.factory.makesNothingOf = {KestTypes::Ellipse};
-    fake.canvas.factory.makesWrongOf = {KestTypes::Diamond, KestTypes::Line};
+    fake.canvas.factory.refusedTypes = {KestTypes::Ellipse};
+    fake.canvas.factory.mismatchedTypes = {KestTypes::Diamond, KestTypes::Line};
     EXPECT_EQ(buildShape(host(), shape("Oval")), BuildResult::NoItem);
     EXPECT_EQ(buildShape(host(), shape("Diamond")), BuildResult::NoItem);
     EXPECT_EQ(buildShape(host(), shape("HorizontalLine")), BuildResult::NoItem);
@@ -103,7 +103,7 @@ TEST_F(ShapeBuilder, HostWithoutTheShapeLeavesItOut)
 TEST_F(ShapeBuilder, HostWithoutLinesIsStopped)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
-    fake.canvas.factory.makesNothingOf = {KestTypes::Line};
+    fake.canvas.factory.refusedTypes = {KestTypes::Line};
     EXPECT_DEATH((void)buildShape(host(), shape("HorizontalLine")), "makes no lines");
     EXPECT_DEATH((void)buildShape(host(), shape("VerticalLine")), "makes no lines");
 }

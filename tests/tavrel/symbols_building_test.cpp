@@ -37,7 +37,7 @@ TEST_F(SymbolBuilder, SymbolThatDrawsNothingIsDropped)
 
 TEST_F(SymbolBuilder, HostWithoutSymbolsLeavesItOut)
 {
-    fake.canvas.factory.makesNothingOf = {KestTypes::Symbol};
+    fake.canvas.factory.refusedTypes = {KestTypes::Symbol};
     EXPECT_EQ(buildSymbol(host(), header, Printer, "40x30"), BuildResult::NoItem);
 }
 

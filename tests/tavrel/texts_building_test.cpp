@@ -163,7 +163,7 @@ TEST(ScaledTextNote, JoinsWhitespaceAndLeavesTheRest)
 
 TEST_F(TextBuilder, HostWithoutTextsLeavesItOut)
 {
-    fake.canvas.factory.makesNothingOf = {KestTypes::SimpleText};
+    fake.canvas.factory.refusedTypes = {KestTypes::SimpleText};
     TextRecord record = text();
     record.header.width = 144.0;
     const TextOutcome outcome = build(record);

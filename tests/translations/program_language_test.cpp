@@ -55,10 +55,11 @@ QString openActionText()
     return QCoreApplication::translate("window::Actions", "&Open…");
 }
 
-TEST(WantedLanguages, FollowTheEnvironment)
+TEST(PreferredLanguages, FollowTheEnvironment)
 {
     for (const Case& each : Cases) {
-        EXPECT_EQ(translations::wantedLanguages(environmentOf(each)), each.languages) << each.name;
+        EXPECT_EQ(translations::preferredLanguages(environmentOf(each)), each.languages)
+            << each.name;
     }
 }
 
@@ -71,7 +72,7 @@ TEST(KeepLanguage, IsPassedToStartedPrograms)
         QProcessEnvironment environment;
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         environment.insert(QStringLiteral("LANGUAGE"), qEnvironmentVariable("LANGUAGE"));
-        EXPECT_EQ(translations::wantedLanguages(environment), languages);
+        EXPECT_EQ(translations::preferredLanguages(environment), languages);
         qputenv("LANGUAGE", before);
     }
 }

@@ -126,11 +126,11 @@ def try_examples():
     """A mark, an excuse and a log are taken for what they are; all else is found."""
     good = [
         'return tr("The file is empty.");',
-        'return Words::tr("%1 is not %2"\n    " at all").arg(Path, name);',
+        'return Tr::tr("%1 is not %2"\n    " at all").arg(Path, name);',
         '{1, QT_TRANSLATE_NOOP("workbench::X", "does not fit")},',
         'QCoreApplication::translate("main", "opens a label");',
         'log("could not open %s", name);',
-        '#define WORDS(text) QT_TRANSLATE_NOOP("x", text)\nRow{1, WORDS("was left out")},',
+        '#define TEXT(text) QT_TRANSLATE_NOOP("x", text)\nRow{1, TEXT("was left out")},',
         'query.exec(QStringLiteral("SELECT svg FROM symbols"));',
         'path(u"M3 19V6a1");  // a comment with several words',
         'setObjectName(QStringLiteral("items"));',

@@ -8,7 +8,7 @@
 #include <functional>
 #include <queue>
 
-/// Answers the dialogs that a command opens, in turn, as soon as each is shown. An unexpected
+/// ReplyPipe the dialogs that a command opens, in turn, as soon as each is shown. An unexpected
 /// dialog is rejected and fails the test, so that no dialog can block it.
 class DialogDriver final : public QObject
 {
@@ -20,7 +20,7 @@ public:
     DialogDriver();
     ~DialogDriver() override;
 
-    /// Answers the next dialog with this function.
+    /// ReplyPipe the next dialog with this function.
     void expect(Answer answer);
     /// The next dialog is a message box; the button of this role or text is clicked.
     void expectButton(int standardButton);

@@ -55,7 +55,7 @@ TEST(ItemTable, HasARowForEveryItemInTheOrderOfCreation)
     EXPECT_EQ(cell(model, 0, ItemTableModel::Width), QLocale().toString(25.4, 'f', 2));
 }
 
-TEST(ItemTable, ShowsLengthsInTheUnitThatIsWanted)
+TEST(ItemTable, ShowsLengthsInTheSelectedUnit)
 {
     const OpenLabel label = makeLabel();
     ItemTableModel model;

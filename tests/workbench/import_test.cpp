@@ -15,10 +15,10 @@
 
 #include <gtest/gtest.h>
 
+using workbench::fileAccessError;
 using workbench::ImportIssue;
 using workbench::importLabel;
 using workbench::ImportResult;
-using workbench::whyFileCannotBeRead;
 
 namespace {
 

@@ -73,7 +73,7 @@ TEST(Pen, StylesThatQtKnowsAreTaken)
     EXPECT_EQ(toPen(penWith(1, 0, 0x100)).joinStyle(), Qt::SvgMiterJoin);
 }
 
-TEST(Pen, UnknownNumbersAreASolidLineAFlatCapABevelledJoin)
+TEST(Pen, UnknownNumbersAreASolidLineAFlatCapABeveledJoin)
 {
     for (const int number :
          {-1, 6, 7, 99, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {

@@ -151,9 +151,9 @@ TEST(TalMessageBox, ReportsOnceThatItWasClosedAndMayThenBeDeleted)
 {
     for (const bool byButton : {true, false}) {
         auto box = makeBox();
-        int told = 0;
+        int calls = 0;
         QObject::connect(box.get(), &TalMessageBox::popupHideSignal, box.get(), [&] {
-            ++told;
+            ++calls;
             box.reset(); // as the importer does
         });
         box->show();
@@ -162,9 +162,9 @@ TEST(TalMessageBox, ReportsOnceThatItWasClosedAndMayThenBeDeleted)
         } else {
             box->close();
         }
-        EXPECT_EQ(told, 0); // not from within the event that closed it
+        EXPECT_EQ(calls, 0); // not from within the event that closed it
         QCoreApplication::processEvents();
-        EXPECT_EQ(told, 1);
+        EXPECT_EQ(calls, 1);
         EXPECT_EQ(box, nullptr);
     }
 }

@@ -152,7 +152,7 @@ TEST(SystemSource, NamesDaysInTheLocale)
     EXPECT_EQ(source.value(0), QStringLiteral("Dienstag"));
 }
 
-TEST(SystemSource, ShowsTheWantedFields)
+TEST(SystemSource, ShowsTheRequestedFields)
 {
     SystemSource source = systemSource(QStringLiteral("yyyy"), QStringLiteral("hh"));
     EXPECT_EQ(source.fields(), QStringList({QStringLiteral("Date"), QStringLiteral("Time")}));

@@ -1,4 +1,4 @@
-#include "workbench/document/json_values.h"
+#include "workbench/document/item_json_values.h"
 
 #include "tests/support/mono_png.h"
 #include "workbench/document/document_limits.h"
@@ -67,7 +67,7 @@ TEST(JsonValues, KeepTextsThatUnicodeDoesNotAllow)
     EXPECT_FALSE(reads<QString>(QJsonObject()));
 }
 
-TEST(JsonValues, WriteColorsForAPerson)
+TEST(JsonValues, WriteReadableColors)
 {
     EXPECT_EQ(Json<QColor>::write(QColor(1, 2, 3)), QJsonValue(QLatin1String("#ff010203")));
     EXPECT_EQ(Json<QColor>::write(QColor(Qt::transparent)), QJsonValue(QLatin1String("#00000000")));

@@ -82,7 +82,7 @@ TEST_F(LabelFile, SendsAHeartbeatForEachItem)
     ASSERT_GE(label.items.size(), 4);
     ASSERT_TRUE(restore(label, canvas, sources));
     qsizetype count = 0;
-    EXPECT_EQ(saveLabel(path(), canvas, sources, Origin::Person, [&count] { ++count; }), QString());
+    EXPECT_EQ(saveLabel(path(), canvas, sources, Origin::User, [&count] { ++count; }), QString());
     EXPECT_GT(count, label.items.size());
 }
 

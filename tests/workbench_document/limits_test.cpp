@@ -2,7 +2,7 @@
 
 #include "limits/json/tree_size.h"
 #include "workbench/document/document_limits.h"
-#include "workbench/document/json_values.h"
+#include "workbench/document/item_json_values.h"
 #include "workbench/document/label_file.h"
 #include "workbench/document/label_json.h"
 #include "workbench/document/picture_pixels.h"

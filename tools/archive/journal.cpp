@@ -216,7 +216,7 @@ void Journal::visitOutputs(const QString& outputFolder, const QString& suffix,
 
 QString Journal::fileNameFor(const Shard& shard)
 {
-    return shard.isWhole()
+    return shard.isEverything()
                ? u".labelport-journal.jsonl"_s
                : u".labelport-journal-%1-of-%2.jsonl"_s.arg(shard.number).arg(shard.count);
 }

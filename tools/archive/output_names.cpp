@@ -30,8 +30,8 @@ OutputNames::OutputNames(const Inputs& inputs, const QStringList& suffixes)
     , m_suffixes(suffixes)
     , m_naming(inputs.size(), Naming::Stem)
 {
-    settle(Naming::Stem, Naming::WholeName);
-    settle(Naming::WholeName, Naming::Contested);
+    resolveConflicts(Naming::Stem, Naming::CompleteName);
+    resolveConflicts(Naming::CompleteName, Naming::Conflicting);
     findFolders();
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
         const QString name = stem(index);
@@ -51,7 +51,7 @@ OutputNames::OutputNames(const Inputs& inputs, const QStringList& suffixes,
             std::any_of(suffixes.begin(), suffixes.end(), [&](const QString& suffix) {
                 return name.folderSuffixes.contains(suffix);
             });
-        m_naming.append(isFolder ? Naming::Contested : name.naming);
+        m_naming.append(isFolder ? Naming::Conflicting : name.naming);
         m_pageMarks.append(name.pageMark);
     }
 }
@@ -61,9 +61,9 @@ QString OutputNames::output(qsizetype index, const QString& suffix) const
     return stem(index) + u'.' + suffix;
 }
 
-bool OutputNames::isContested(qsizetype index) const
+bool OutputNames::isConflicting(qsizetype index) const
 {
-    if (m_naming.at(index) == Naming::Contested) {
+    if (m_naming.at(index) == Naming::Conflicting) {
         return true;
     }
     return !m_folders.isEmpty() &&
@@ -104,7 +104,7 @@ QString OutputNames::stem(qsizetype index) const
                  m_naming.at(index) == Naming::Stem ? info.completeBaseName() : info.fileName());
 }
 
-void OutputNames::settle(Naming from, Naming to)
+void OutputNames::resolveConflicts(Naming from, Naming to)
 {
     HashedIndexes stems;
     stems.reserve(m_inputs.size());
@@ -112,21 +112,21 @@ void OutputNames::settle(Naming from, Naming to)
         stems.add(stem(index), index);
     }
     stems.sort();
-    QList<qsizetype> meeting;
+    QList<qsizetype> conflicting;
     for (const QList<qsizetype>& group : stems.groups()) {
         QHash<QString, qsizetype> uses;
         for (const qsizetype index : group) {
             ++uses[stem(index)];
         }
         for (const qsizetype index : group) {
-            // A short name that equals a complete name is contested like that name.
+            // A short name that equals a complete name conflicts like that name.
             if (uses.value(stem(index)) > 1 &&
-                (m_naming.at(index) == from || to == Naming::Contested)) {
-                meeting.append(index);
+                (m_naming.at(index) == from || to == Naming::Conflicting)) {
+                conflicting.append(index);
             }
         }
     }
-    for (const qsizetype index : meeting) {
+    for (const qsizetype index : conflicting) {
         m_naming[index] = to;
     }
 }

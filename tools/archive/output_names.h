@@ -12,7 +12,7 @@ namespace archive {
 /// How the outputs of one input are named.
 struct OutputName
 {
-    enum Naming : quint8 { Stem, WholeName, Contested };
+    enum Naming : quint8 { Stem, CompleteName, Conflicting };
 
     Naming naming = Stem;
     QString pageMark;
@@ -26,7 +26,7 @@ struct OutputName
 /// shelf.old.cnv becomes shelf.old.png. Inputs of one folder that would get the same name,
 /// shelf.cnv and shelf.odg, keep their complete names: shelf.cnv.png and shelf.odg.png. If complete
 /// names are equal as well (two files of one name from two folders), or an output has the name of a
-/// folder of other outputs, the names are contested, and none of them is written.
+/// folder of other outputs, the names conflict, and none of them is written.
 ///
 /// The names depend on the set of inputs only, not on their order.
 class OutputNames
@@ -41,7 +41,7 @@ public:
     /// Path below the output folder of an input's output as a target.
     [[nodiscard]] QString output(qsizetype index, const QString& suffix) const;
     /// Whether another input of the same command has the same output; neither may be written.
-    [[nodiscard]] bool isContested(qsizetype index) const;
+    [[nodiscard]] bool isConflicting(qsizetype index) const;
     /// What separates the name of an input's output from the number of a page, so that no page of
     /// it has the name of another input's output: "-", or "-page-" if shelf.odg and shelf-2.odg
     /// are both imported.
@@ -53,7 +53,7 @@ private:
     using Naming = OutputName::Naming;
 
     [[nodiscard]] QString stem(qsizetype index) const;
-    void settle(Naming from, Naming to);
+    void resolveConflicts(Naming from, Naming to);
     void findFolders();
 
     const Inputs& m_inputs;

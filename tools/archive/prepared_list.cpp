@@ -45,7 +45,7 @@ QByteArray lineOf(const Input& input, const OutputName& name)
     }
     if (name.naming != OutputName::Stem) {
         object.insert(u"naming"_s,
-                      name.naming == OutputName::WholeName ? u"whole"_s : u"contested"_s);
+                      name.naming == OutputName::CompleteName ? u"complete"_s : u"conflicting"_s);
     }
     if (name.pageMark != "-"_L1) {
         object.insert(u"pages"_s, name.pageMark);
@@ -73,10 +73,10 @@ bool isPageMark(QString mark)
 std::optional<OutputName::Naming> namingOf(const QJsonValue& value)
 {
     const QString word = value.toString();
-    return value.isUndefined()      ? std::optional(OutputName::Stem)
-           : word == "whole"_L1     ? std::optional(OutputName::WholeName)
-           : word == "contested"_L1 ? std::optional(OutputName::Contested)
-                                    : std::nullopt;
+    return value.isUndefined()        ? std::optional(OutputName::Stem)
+           : word == "complete"_L1    ? std::optional(OutputName::CompleteName)
+           : word == "conflicting"_L1 ? std::optional(OutputName::Conflicting)
+                                      : std::nullopt;
 }
 
 bool readInput(const QJsonObject& object, PreparedList& list)

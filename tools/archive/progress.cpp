@@ -135,7 +135,7 @@ bool isTerminal()
     return ::isatty(STDERR_FILENO) == 1 && qgetenv("TERM") != "dumb";
 }
 
-bool wantsColor()
+bool supportsColor()
 {
     // By convention an empty variable counts as not set.
     return isTerminal() && qgetenv("NO_COLOR").isEmpty();

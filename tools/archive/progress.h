@@ -53,6 +53,6 @@ private:
 /// Whether standard error is a terminal that can move its cursor.
 [[nodiscard]] bool isTerminal();
 /// Whether to use colors: on a terminal, unless NO_COLOR is set.
-[[nodiscard]] bool wantsColor();
+[[nodiscard]] bool supportsColor();
 
 } // namespace archive

@@ -116,7 +116,7 @@ std::optional<qsizetype> Run::nextTask()
 
 bool Run::finishWithoutWorker(qsizetype index)
 {
-    if (m_names.isContested(index)) {
+    if (m_names.isConflicting(index)) {
         const QString output = m_names.output(index, m_settings.targets.first());
         recordFailure(index, FileOutcome::Failed, nameClashMessage(inOutputFolder(output)));
         return true;
@@ -124,7 +124,7 @@ bool Run::finishWithoutWorker(qsizetype index)
     if (m_settings.isResuming && isDoneAlready(index)) {
         m_resumed.insert(index);
         ++m_progress.skipped;
-        settle(index, {FileOutcome::Done, {}, {}, {}, {}, 0}, 0);
+        recordResult(index, {FileOutcome::Done, {}, {}, {}, {}, 0}, 0);
         return true;
     }
     return false;
@@ -221,7 +221,7 @@ qint64 Run::taskAnswered(qsizetype task, const QByteArray& line)
     // is killed.
     remember(task, *result);
     publishAll(*result, [&](const QString& path) { return mayReplace(work, path); });
-    settle(task, std::move(*result), line.size());
+    recordResult(task, std::move(*result), line.size());
     return memory;
 }
 
@@ -271,10 +271,10 @@ void Run::recordFailure(qsizetype index, FileOutcome outcome, const QString& err
 {
     FileResult result{outcome, {}, {error}, {}, {}, 0};
     remember(index, result);
-    settle(index, std::move(result), error.size());
+    recordResult(index, std::move(result), error.size());
 }
 
-void Run::settle(qsizetype index, FileResult result, qint64 size)
+void Run::recordResult(qsizetype index, FileResult result, qint64 size)
 {
     ++m_progress.done;
     m_progress.failed += result.outcome == FileOutcome::Done ? 0 : 1;

@@ -121,7 +121,7 @@ private:
     [[nodiscard]] JournalRecord recordFor(qsizetype index, const FileResult& result);
     [[nodiscard]] bool mayReplace(const Work& work, const QString& path) const;
     void remember(qsizetype index, const FileResult& result);
-    void settle(qsizetype index, FileResult result, qint64 size);
+    void recordResult(qsizetype index, FileResult result, qint64 size);
     void recordFailure(qsizetype index, FileOutcome outcome, const QString& error);
     void deliverReady();
     void deliver(qsizetype index, FileResult result);

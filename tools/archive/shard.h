@@ -13,7 +13,7 @@ struct Shard
     int number = 1; ///< from 1 to count
     int count = 1;
 
-    [[nodiscard]] bool isWhole() const { return count == 1; }
+    [[nodiscard]] bool isEverything() const { return count == 1; }
     /// Whether the input of this index, in the order of all inputs, belongs to the part. Each
     /// belongs to one, and neighbors to different ones: folders with large files are shared.
     [[nodiscard]] bool takes(qsizetype index) const { return index % count == number - 1; }

@@ -36,11 +36,11 @@ void removeAbandoned(const QString& outputFolder)
         if (isBeingCreated(folder)) {
             continue;
         }
-        QDir stray(folder.filePath());
+        QDir abandoned(folder.filePath());
         const FileLock lock =
-            FileLock::tryLock(stray.filePath(LockName), FileLock::Exclusive, true);
+            FileLock::tryLock(abandoned.filePath(LockName), FileLock::Exclusive, true);
         if (lock.isHeld()) {
-            stray.removeRecursively();
+            abandoned.removeRecursively();
         }
     }
 }

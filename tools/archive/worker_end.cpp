@@ -43,7 +43,7 @@ QString messageFor(const WorkerEnd& end, const WorkerLimits& limits)
                                            "The file made no progress for %n second(s); see "
                                            "--timeout.",
                                            nullptr, limits.timeoutSeconds);
-    case WorkerEnd::Signalled:
+    case WorkerEnd::Signaled:
         if (end.code == SIGSYS) {
             return tr("The import was stopped twice because it tried something that its sandbox "
                       "forbids. Do not trust the file, and please report it.");

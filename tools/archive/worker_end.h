@@ -22,7 +22,7 @@ enum WorkerExit : int {
 struct WorkerEnd
 {
     /// Why a worker ended. Garbled: it sent an invalid reply.
-    enum Kind { Exited, Signalled, TimedOut, Garbled, NotStarted };
+    enum Kind { Exited, Signaled, TimedOut, Garbled, NotStarted };
     Kind kind = Exited;
     int code = 0; ///< exit status or signal
 

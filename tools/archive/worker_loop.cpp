@@ -16,22 +16,22 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The pipe to the coordinator, kept apart from standard output, which libraries may print to.
-class Answers
+class ReplyPipe
 {
 public:
-    Answers()
+    ReplyPipe()
         : m_descriptor(::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3))
     {
-        const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-        if (nowhere >= 0) {
-            ::dup2(nowhere, STDOUT_FILENO);
-            ::close(nowhere);
+        const int nullDevice = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+        if (nullDevice >= 0) {
+            ::dup2(nullDevice, STDOUT_FILENO);
+            ::close(nullDevice);
         }
     }
 
-    ~Answers() { ::close(m_descriptor); }
-    Answers(const Answers&) = delete;
-    Answers& operator=(const Answers&) = delete;
+    ~ReplyPipe() { ::close(m_descriptor); }
+    ReplyPipe(const ReplyPipe&) = delete;
+    ReplyPipe& operator=(const ReplyPipe&) = delete;
 
     /// Returns false if the coordinator has closed the pipe.
     bool send(const QByteArray& line) const
@@ -107,8 +107,8 @@ qint64 memoryHeld()
 
 int runWorker(const JobHandler& handler, const Confine& confine)
 {
-    const Answers answers;
-    const Heartbeat heartbeat = [&answers] { answers.send("+\n"); };
+    const ReplyPipe replies;
+    const Heartbeat heartbeat = [&replies] { replies.send("+\n"); };
     Lines jobs;
     const std::optional<WorkerStart> start = workerStartFromLine(jobs.next());
     if (!start) {
@@ -122,7 +122,7 @@ int runWorker(const JobHandler& handler, const Confine& confine)
     if (start->requiresSandbox && !confinement.isComplete()) {
         return WorkerExitUnconfined;
     }
-    answers.send(readyLine(confinement));
+    replies.send(readyLine(confinement));
     while (true) {
         const QByteArray line = jobs.next();
         if (line.isEmpty()) {
@@ -134,7 +134,7 @@ int runWorker(const JobHandler& handler, const Confine& confine)
         }
         FileResult result = handler(*job, heartbeat);
         result.memory = memoryHeld();
-        if (!answers.send(lineOf(result))) {
+        if (!replies.send(lineOf(result))) {
             return WorkerExitDone;
         }
     }

@@ -51,7 +51,7 @@ void WorkerPool::fill(std::size_t slot)
                 feed(slot);
             });
     connect(worker.get(), &WorkerProcess::answered, this,
-            [this, slot](const QByteArray& line) { noteAnswer(slot, line); });
+            [this, slot](const QByteArray& line) { handleReply(slot, line); });
     // Queued, because the worker is deleted, which it must not be while it emits.
     connect(
         worker.get(), &WorkerProcess::ended, this,
@@ -98,7 +98,7 @@ void WorkerPool::hand(std::size_t slot, qsizetype task, bool isSecondTry)
     entry.worker->give(m_client.lineFor(task, static_cast<int>(slot)));
 }
 
-void WorkerPool::noteAnswer(std::size_t slot, const QByteArray& line)
+void WorkerPool::handleReply(std::size_t slot, const QByteArray& line)
 {
     const qsizetype task = *m_slots[slot].task;
     m_slots[slot].task.reset();

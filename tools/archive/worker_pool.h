@@ -75,7 +75,7 @@ private:
     void feedAll();
     void feed(std::size_t slot);
     void hand(std::size_t slot, qsizetype task, bool isSecondTry);
-    void noteAnswer(std::size_t slot, const QByteArray& line);
+    void handleReply(std::size_t slot, const QByteArray& line);
     void noteEnd(std::size_t slot, const WorkerEnd& end);
     void recycle(std::size_t slot);
     void noteIfDrained();

@@ -123,17 +123,17 @@ void WorkerProcess::noteTimeout()
 {
     // If this program was stopped for a while, an answer may be in the pipe.
     m_process.waitForReadyRead(0);
-    const bool isAnswered = m_state == State::Idle;
-    const bool lives = m_clock.isActive();
-    if (!isAnswered && !lives) {
+    const bool hasReplied = m_state == State::Idle;
+    const bool isRunning = m_clock.isActive();
+    if (!hasReplied && !isRunning) {
         kill(m_state == State::Starting ? WorkerEnd::NotStarted : WorkerEnd::TimedOut);
     }
 }
 
-void WorkerProcess::kill(WorkerEnd::Kind why)
+void WorkerProcess::kill(WorkerEnd::Kind reason)
 {
     if (!m_killedFor) {
-        m_killedFor = why;
+        m_killedFor = reason;
         m_process.kill();
     }
 }
@@ -144,7 +144,7 @@ void WorkerProcess::noteEnd(int code, QProcess::ExitStatus status)
     if (m_killedFor) {
         end({*m_killedFor, code});
     } else {
-        end({status == QProcess::CrashExit ? WorkerEnd::Signalled : WorkerEnd::Exited, code});
+        end({status == QProcess::CrashExit ? WorkerEnd::Signaled : WorkerEnd::Exited, code});
     }
 }
 

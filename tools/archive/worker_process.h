@@ -59,7 +59,7 @@ private:
     void readLines();
     void take(const QByteArray& line);
     void noteTimeout();
-    void kill(WorkerEnd::Kind why);
+    void kill(WorkerEnd::Kind reason);
     void noteEnd(int code, QProcess::ExitStatus status);
     void noteError(QProcess::ProcessError error);
     void end(const WorkerEnd& end);

@@ -82,10 +82,10 @@ QString writeFiles(const GlabelsLabel& label, const QString& fileName)
     if (!file.open(QIODevice::WriteOnly) || file.write(label.label) < 0 || !file.flush()) {
         return cannotWrite(fileName, file.errorString());
     }
-    if (hasRecords && !commitWhole(records)) {
+    if (hasRecords && !commitComplete(records)) {
         return cannotWrite(recordsFile, writeError(records));
     }
-    return commitWhole(file) ? QString() : cannotWrite(fileName, writeError(file));
+    return commitComplete(file) ? QString() : cannotWrite(fileName, writeError(file));
 }
 
 } // namespace

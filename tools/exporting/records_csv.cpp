@@ -88,8 +88,8 @@ QString writeRecordsCsv(const ExportJob& job, const QString& fileName)
         }
         file.write(csvLine(cellsOf(job, job.firstRecord + page, positions)));
     }
-    return workbench::commitWhole(file) ? QString()
-                                        : cannotWrite(fileName, workbench::writeError(file));
+    return workbench::commitComplete(file) ? QString()
+                                           : cannotWrite(fileName, workbench::writeError(file));
 }
 
 } // namespace exporting

@@ -90,8 +90,8 @@ QString writeZpl(const ExportJob& job, const QString& fileName)
                            quantityOf(records, copies)));
         page += records - 1;
     }
-    return workbench::commitWhole(file) ? QString()
-                                        : cannotWrite(fileName, workbench::writeError(file));
+    return workbench::commitComplete(file) ? QString()
+                                           : cannotWrite(fileName, workbench::writeError(file));
 }
 
 } // namespace exporting

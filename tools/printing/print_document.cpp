@@ -13,7 +13,7 @@
 namespace printing {
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(printing::PrintDocument)
 };
@@ -88,13 +88,13 @@ QSizeF labelSize(const workbench::Canvas& canvas)
 QString problemOf(const PrintLayout& layout, qint64 labels)
 {
     if (labels > MaximumLabels / layout.copies) {
-        return Words::tr("%1 labels in %2 copies are more than the %3 of one document.")
+        return Tr::tr("%1 labels in %2 copies are more than the %3 of one document.")
             .arg(labels)
             .arg(layout.copies)
             .arg(MaximumLabels);
     }
     if (layout.sheet && layout.firstPosition >= layout.sheet->positions()) {
-        return Words::tr("Sheet \"%1\" has no position %2; its positions are 1 to %3.")
+        return Tr::tr("Sheet \"%1\" has no position %2; its positions are 1 to %3.")
             .arg(layout.sheet->name())
             .arg(layout.firstPosition + 1)
             .arg(layout.sheet->positions());

@@ -8,7 +8,7 @@ namespace printing {
 using namespace Qt::StringLiterals;
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(printing::PrintQueue)
 };
@@ -36,17 +36,16 @@ Answer runCommand(const QString& program, const QStringList& arguments)
     process.setProcessEnvironment(environment);
     process.start(program, arguments, QIODevice::ReadOnly);
     if (!process.waitForStarted()) {
-        return {{},
-                Words::tr("Cannot run \"%1\". Install the client commands of CUPS.").arg(program)};
+        return {{}, Tr::tr("Cannot run \"%1\". Install the client commands of CUPS.").arg(program)};
     }
     if (!process.waitForFinished(TimeoutMilliseconds)) {
         process.kill();
         process.waitForFinished();
-        return {{}, Words::tr("The print server does not reply.")};
+        return {{}, Tr::tr("The print server does not reply.")};
     }
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         const QString reason = lastLine(process.readAllStandardError());
-        return {{}, reason.isEmpty() ? Words::tr("\"%1\" failed.").arg(program) : reason};
+        return {{}, reason.isEmpty() ? Tr::tr("\"%1\" failed.").arg(program) : reason};
     }
     return {QString::fromUtf8(process.readAllStandardOutput()), {}};
 }

@@ -55,7 +55,7 @@ private:
     [[nodiscard]] StyleProperties resolve(const QString& family, const QString& name,
                                           bool withDefault) const;
 
-    /// Answers of resolved(): thousands of shapes share a few styles.
+    /// The results of resolved(): thousands of shapes share a few styles.
     mutable QHash<QString, StyleProperties> m_resolved;
     QHash<QString, Style> m_styles; // by family and name
     QHash<QString, StyleProperties> m_defaults;

@@ -57,7 +57,7 @@ bool SymbolCreator::convertSvgToSymbol(const QRectF& target)
     if (conversion == Conversion::OfAnything) {
         d->loaded.prepend("symbol of ");
     }
-    if (conversion == Conversion::Fails || conversion == Conversion::Loses) {
+    if (conversion == Conversion::Fails || conversion == Conversion::StaysEmpty) {
         d->loaded.clear();
     }
     return converted;

@@ -19,7 +19,7 @@ namespace workbench::barcodes {
 
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::BarcodeEncoder)
 };
@@ -65,8 +65,8 @@ constexpr std::array<Reason, 5> Reasons{{
 {
     const auto found = std::find_if(Reasons.begin(), Reasons.end(),
                                     [code](const Reason& each) { return each.code == code; });
-    return found == Reasons.end() ? Words::tr("%1: the content cannot be encoded%2.")
-                                  : Words::tr(found->words);
+    return found == Reasons.end() ? Tr::tr("%1: the content cannot be encoded%2.")
+                                  : Tr::tr(found->words);
 }
 
 /// The library's own explanation without its "Error 123: ".
@@ -81,8 +81,8 @@ constexpr std::array<Reason, 5> Reasons{{
 
 [[nodiscard]] QString explanation(const zint_symbol& symbol, int code, const QString& name)
 {
-    const QString why = detail(symbol);
-    return reasonText(code).arg(name, why.isEmpty() ? QString() : u" (%1)"_s.arg(why));
+    const QString reason = detail(symbol);
+    return reasonText(code).arg(name, reason.isEmpty() ? QString() : u" (%1)"_s.arg(reason));
 }
 
 // --- input ------------------------------------------------------------------------------
@@ -234,17 +234,17 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
 {
     const SymbolPointer symbol = makeSymbol(request, symbology, withSettings);
     if (!symbol) {
-        return failure(Words::tr("There is not enough memory for the barcode."));
+        return failure(Tr::tr("There is not enough memory for the barcode."));
     }
     QByteArray bytes = request.content.toUtf8();
     const QString name = symbologyName(request.symbology);
     if (!splitComposite(*symbol, bytes)) {
-        return failure(Words::tr("%1: the content needs a linear part, a \"|\" and a second"
-                                 " part.")
+        return failure(Tr::tr("%1: the content needs a linear part, a \"|\" and a second"
+                              " part.")
                            .arg(name));
     }
     if (bytes.size() > ZINT_MAX_DATA_LEN) {
-        return failure(Words::tr("%1: the content is too long for any barcode.").arg(name));
+        return failure(Tr::tr("%1: the content is too long for any barcode.").arg(name));
     }
     const int encoded =
         ZBarcode_Encode(symbol.get(), reinterpret_cast<const unsigned char*>(bytes.constData()),
@@ -258,7 +258,7 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
     }
     const BarcodeSymbol result = taken(*symbol, request);
     if (isBlank(result)) {
-        return failure(Words::tr("%1: the content gives no bars at all.").arg(name));
+        return failure(Tr::tr("%1: the content gives no bars at all.").arg(name));
     }
     return result;
 }
@@ -274,16 +274,16 @@ BarcodeSymbol encode(const BarcodeRequest& request)
 {
     const Symbology* symbology = findSymbology(request.symbology);
     if (!symbology || !ZBarcode_ValidID(request.symbology)) {
-        return failure(Words::tr("The label has an unknown kind of barcode"
-                                 " (number %1).")
+        return failure(Tr::tr("The label has an unknown kind of barcode"
+                              " (number %1).")
                            .arg(request.symbology));
     }
     if (request.content.isEmpty()) {
         return failure(
-            Words::tr("%1: there is no content to encode.").arg(symbologyName(request.symbology)));
+            Tr::tr("%1: there is no content to encode.").arg(symbologyName(request.symbology)));
     }
     if (request.content.size() > MaximumContent) {
-        return failure(Words::tr("%1: the content is too long for any barcode.")
+        return failure(Tr::tr("%1: the content is too long for any barcode.")
                            .arg(symbologyName(request.symbology)));
     }
     BarcodeSymbol symbol = encodeOnce(request, *symbology, true);

@@ -17,13 +17,13 @@ namespace {
 
 } // namespace
 
-std::optional<QString> Datasource::value(qint64 record, const QStringList& wantedFields) const
+std::optional<QString> Datasource::value(qint64 record, const QStringList& requestedFields) const
 {
     const qint64 count = recordCount();
     if (record < 0 || count <= 0) {
         return std::nullopt;
     }
-    QStringList shown = known(wantedFields, fields());
+    QStringList shown = known(requestedFields, fields());
     if (shown.isEmpty()) {
         shown = m_selectedFields.isEmpty() ? fields() : m_selectedFields;
     }

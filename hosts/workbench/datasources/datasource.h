@@ -29,7 +29,7 @@ public:
     /// After its last record a source starts again, so that no label of a series is blank.
     /// @return nothing if the source has no records or the number is negative
     [[nodiscard]] std::optional<QString> value(qint64 record,
-                                               const QStringList& wantedFields = {}) const;
+                                               const QStringList& requestedFields = {}) const;
 
     /// Fields that the source does not have are ignored.
     void setSelectedFields(const QList<QString>& fields) override;

@@ -81,10 +81,10 @@ QList<int> DatasourceController::ids() const
 }
 
 std::optional<QString> DatasourceController::recordText(int id, qint64 record,
-                                                        const QStringList& wantedFields) const
+                                                        const QStringList& requestedFields) const
 {
     const Datasource* found = source(id);
-    return found ? found->value(record, wantedFields) : std::nullopt;
+    return found ? found->value(record, requestedFields) : std::nullopt;
 }
 
 qint64 DatasourceController::recordCount() const

@@ -44,7 +44,7 @@ public:
     [[nodiscard]] QList<int> ids() const;
     /// The text of a source for a record; nothing if there is no such source or record.
     [[nodiscard]] std::optional<QString> recordText(int id, qint64 record,
-                                                    const QStringList& wantedFields = {}) const;
+                                                    const QStringList& requestedFields = {}) const;
     /// Records of a complete series: those of the longest source, at least 1.
     [[nodiscard]] qint64 recordCount() const;
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "fields/field_archives.h"
-#include "workbench/document/json_values.h"
+#include "workbench/document/item_json_values.h"
 #include "workbench/document/saved_label.h"
 
 /// The fields of every group of a saved label, for fields::FieldWriter and fields::FieldReader.

@@ -18,21 +18,20 @@ namespace workbench::document {
 
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::LabelFile)
 };
 
 [[nodiscard]] QString cannotSave(const QString& path, const QString& reason)
 {
-    return Words::tr("The label cannot be saved as %1: %2.")
+    return Tr::tr("The label cannot be saved as %1: %2.")
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
 [[nodiscard]] QString cannotOpen(const QString& path, const QString& reason)
 {
-    return Words::tr("The file %1 cannot be opened: %2.")
-        .arg(QDir::toNativeSeparators(path), reason);
+    return Tr::tr("The file %1 cannot be opened: %2.").arg(QDir::toNativeSeparators(path), reason);
 }
 
 // Readers number z values on through all labels of a process. A saved label must not depend on
@@ -88,21 +87,21 @@ QString saveLabel(const QString& path, const Canvas& canvas,
 {
     const SavedLabel label = snapshot(canvas, datasources);
     if (label.items.size() > limits::Items || label.datasources.size() > limits::Items) {
-        return cannotSave(path, Words::tr("it has more than %1 items").arg(limits::Items));
+        return cannotSave(path, Tr::tr("it has more than %1 items").arg(limits::Items));
     }
     if (pixelsOf(label) > limits::AllPicturePixels) {
-        return cannotSave(path, Words::tr("its pictures are too large"));
+        return cannotSave(path, Tr::tr("its pictures are too large"));
     }
     const QByteArray bytes = toJson(label, origin, heartbeat);
     heartbeat();
     if (bytes.size() > limits::FileBytes) {
-        return cannotSave(path, Words::tr("its pictures are too large"));
+        return cannotSave(path, Tr::tr("its pictures are too large"));
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
         return cannotSave(path, file.errorString());
     }
-    if (file.write(bytes) != bytes.size() || !commitWhole(file)) {
+    if (file.write(bytes) != bytes.size() || !commitComplete(file)) {
         return cannotSave(path, writeError(file));
     }
     return {};
@@ -120,11 +119,11 @@ QString openLabel(const QString& path, Canvas& canvas,
 {
     const QFileInfo info(path);
     if (info.isDir()) {
-        return cannotOpen(path, Words::tr("it is a folder"));
+        return cannotOpen(path, Tr::tr("it is a folder"));
     }
     // Opening a pipe could wait for ever.
     if (info.exists() && !info.isFile()) {
-        return cannotOpen(path, Words::tr("it is not a regular file"));
+        return cannotOpen(path, Tr::tr("it is not a regular file"));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -132,7 +131,7 @@ QString openLabel(const QString& path, Canvas& canvas,
     }
     // Asked first: to read up to a bound takes the memory of the bound, however small the file.
     if (file.size() > limits::FileBytes) {
-        return cannotOpen(path, Words::tr("it is larger than any label"));
+        return cannotOpen(path, Tr::tr("it is larger than any label"));
     }
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
@@ -143,7 +142,7 @@ QString openLabel(const QString& path, Canvas& canvas,
         return read.error;
     }
     if (!restore(read.label, canvas, datasources)) {
-        return Words::tr("The label file is damaged: its data sources do not fit together.");
+        return Tr::tr("The label file is damaged: its data sources do not fit together.");
     }
     return {};
 }

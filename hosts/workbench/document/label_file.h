@@ -21,7 +21,7 @@ namespace workbench::document {
 /// @return user-visible reason why it could not be saved; empty on success
 [[nodiscard]] QString saveLabel(
     const QString& path, const Canvas& canvas, const datasources::DatasourceController& datasources,
-    Origin origin = Origin::Person, const Heartbeat& heartbeat = [] {});
+    Origin origin = Origin::User, const Heartbeat& heartbeat = [] {});
 
 /// Whether a file is a label that an import saved and that is unchanged since.
 [[nodiscard]] bool isUneditedImport(const QString& path);

@@ -12,11 +12,11 @@ inline constexpr int FormatVersion = 2;
 
 /// Who saved a label. An import marks its labels, so that a later import may replace them; the mark
 /// is lost when a person saves the label.
-enum class Origin { Person, Import };
+enum class Origin { User, Import };
 
 /// The label as the bytes of a file.
 [[nodiscard]] QByteArray toJson(
-    const SavedLabel& label, Origin origin = Origin::Person, const Heartbeat& heartbeat = [] {});
+    const SavedLabel& label, Origin origin = Origin::User, const Heartbeat& heartbeat = [] {});
 
 /// Whether the bytes are a label that an import saved and that is unchanged since: it has the mark
 /// and the right checksum.

@@ -1,4 +1,4 @@
-#include "workbench/document/json_values.h"
+#include "workbench/document/item_json_values.h"
 
 #include "limits/image/png_chunks.h"
 #include "limits/image/safe_picture.h"

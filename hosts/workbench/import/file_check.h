@@ -7,7 +7,7 @@
 namespace workbench {
 
 /// User-visible reason why a file cannot be read at all; empty if it can.
-[[nodiscard]] QString whyFileCannotBeRead(const QString& fileName);
+[[nodiscard]] QString fileAccessError(const QString& fileName);
 
 /// User-visible remedy for a file that a reader refused because its content has another reader's
 /// format; empty if the content does not show that.

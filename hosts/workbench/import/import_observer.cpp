@@ -1,7 +1,7 @@
 #include "workbench/import/import_observer.h"
 
 #include "importer/legacy_template_importer.h"
-#include "workbench/import/failure_words.h"
+#include "workbench/import/failure_text.h"
 
 #include <QWidget>
 
@@ -26,7 +26,7 @@ QList<ImportIssue> ImportObserver::issues(const Canvas& canvas) const
 
 QString ImportObserver::failure() const
 {
-    return whyImportFailed(m_log.records(), m_messages);
+    return importFailureReason(m_log.records(), m_messages);
 }
 
 void ImportObserver::noteMessage(const QWidget* popup)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "workbench/import/import_log.h"
-#include "workbench/import/issue_words.h"
+#include "workbench/import/issue_text.h"
 
 #include <QObject>
 #include <QStringList>

@@ -50,11 +50,11 @@ Format takenApart(const QString& format)
 
 bool fits(const QString& argument, bool isNumber)
 {
-    bool isWhole = true;
+    bool isInteger = true;
     if (isNumber) {
-        (void)argument.toLongLong(&isWhole);
+        (void)argument.toLongLong(&isInteger);
     }
-    return isWhole;
+    return isInteger;
 }
 
 // Matches the placeholders from `index` on against the message from `start` on. An argument may

@@ -67,7 +67,7 @@ ImportResult importLabel(const QString& fileName)
 ImportResult importLabel(const QString& fileName, ReaderKind reader)
 {
     ImportResult result;
-    result.error = whyFileCannotBeRead(fileName);
+    result.error = fileAccessError(fileName);
     if (!result.error.isEmpty()) {
         return result;
     }

@@ -3,7 +3,7 @@
 #include "workbench/canvas/canvas.h"
 #include "workbench/datasources/datasource_controller.h"
 #include "workbench/import/import_log.h"
-#include "workbench/import/issue_words.h"
+#include "workbench/import/issue_text.h"
 
 #include "importer/reader_choice.h"
 

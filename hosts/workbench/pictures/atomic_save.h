@@ -9,7 +9,7 @@ namespace workbench {
 ///
 /// A full disk is noticed only when the buffer is flushed, and commit() does not check that:
 /// it would replace the old file with an incomplete one.
-[[nodiscard]] inline bool commitWhole(QSaveFile& file)
+[[nodiscard]] inline bool commitComplete(QSaveFile& file)
 {
     if (!file.flush() || file.error() != QFileDevice::NoError) {
         return false; // discarded by the destructor; canceling would replace the system's error

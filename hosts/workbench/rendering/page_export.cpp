@@ -32,14 +32,14 @@ constexpr int PdfDpi = 1200;
 // The attributes of an SVG document that hold its size.
 constexpr qsizetype HeadLength = 600;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::PageExport)
 };
 
 QString cannotWrite(const QString& fileName, const QString& reason)
 {
-    return Words::tr("Cannot write \"%1\": %2.").arg(fileName, reason);
+    return Tr::tr("Cannot write \"%1\": %2.").arg(fileName, reason);
 }
 
 // The resolution for the layout of fonts with sizes in points.
@@ -148,7 +148,7 @@ QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& t
         return cannotWrite(fileName, file.errorString());
     }
     const QByteArray svg = svgOf(canvas, title);
-    if (file.write(svg) != svg.size() || !commitWhole(file)) {
+    if (file.write(svg) != svg.size() || !commitComplete(file)) {
         return cannotWrite(fileName, writeError(file));
     }
     return {};
@@ -171,8 +171,7 @@ QString writePdf(const QString& fileName, const QString& title, const QSizeF& pa
                  const PaintPdfPage& paint)
 {
     if (isTooLargeForPdf(page)) {
-        return Words::tr(
-                   "The page is longer than %1 points, the most that a PDF document can have.")
+        return Tr::tr("The page is longer than %1 points, the most that a PDF document can have.")
             .arg(MaximumPdfSide);
     }
     QSaveFile file(fileName);
@@ -195,7 +194,7 @@ QString writePdf(const QString& fileName, const QString& title, const QSizeF& pa
         file.cancelWriting();
         return error;
     }
-    return commitWhole(file) ? QString() : cannotWrite(fileName, writeError(file));
+    return commitComplete(file) ? QString() : cannotWrite(fileName, writeError(file));
 }
 
 } // namespace workbench

@@ -19,7 +19,7 @@ namespace {
 constexpr double PointsPerInch = 72.0;
 constexpr double MetersPerInch = 0.0254;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::PageImage)
 };
@@ -52,9 +52,8 @@ int largestDpi(const QSizeF& page)
 QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
 {
     const QString text =
-        Words::tr(
-            "The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots "
-            "per inch. The largest picture is %6 pixels along a side and %7 million in all.")
+        Tr::tr("The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots "
+               "per inch. The largest picture is %6 pixels along a side and %7 million in all.")
             .arg(page.width())
             .arg(page.height())
             .arg(pixels.width(), 0, 'f', 0)
@@ -63,7 +62,7 @@ QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
             .arg(MaximumImageSide)
             .arg(MaximumImagePixels / 1'000'000);
     const int best = largestDpi(page);
-    return best < 1 ? text : text + Words::tr(" Up to %1 dots per inch are possible.").arg(best);
+    return best < 1 ? text : text + Tr::tr(" Up to %1 dots per inch are possible.").arg(best);
 }
 
 // The page may cover the last row and column only partly: fill them completely.
@@ -83,7 +82,7 @@ int dotsPerMeter(double dpi)
 PageImage renderPage(const Canvas& canvas, double dpi)
 {
     if (!std::isfinite(dpi) || dpi <= 0.0) {
-        return {{}, Words::tr("The resolution must be above 0 dots per inch.")};
+        return {{}, Tr::tr("The resolution must be above 0 dots per inch.")};
     }
     const QSizeF pixels = pixelSize(canvas, dpi);
     if (!isWithinBounds(pixels)) {
@@ -92,7 +91,7 @@ PageImage renderPage(const Canvas& canvas, double dpi)
     QImage image(pixels.toSize(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) {
         return {{},
-                Words::tr("There is not enough memory for a picture of %1 by %2 pixels.")
+                Tr::tr("There is not enough memory for a picture of %1 by %2 pixels.")
                     .arg(pixels.width())
                     .arg(pixels.height())};
     }
@@ -112,10 +111,10 @@ QString writePng(const QImage& image, const QString& fileName)
 {
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly)) {
-        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
+        return Tr::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
-    if (!encodePng(image, file) || !commitWhole(file)) {
-        return Words::tr("Cannot write \"%1\": %2.").arg(fileName, writeError(file));
+    if (!encodePng(image, file) || !commitComplete(file)) {
+        return Tr::tr("Cannot write \"%1\": %2.").arg(fileName, writeError(file));
     }
     return {};
 }

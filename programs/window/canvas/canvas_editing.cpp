@@ -21,7 +21,7 @@ bool CanvasView::editText(workbench::CanvasItem& item)
     endEditing(true);
     const workbench::ItemValues values = item.values();
     if (!TextEditor::canEdit(values)) {
-        Q_EMIT hintShown(values.text ? whyNotMovable(values) : tr("The item has no text."));
+        Q_EMIT hintShown(values.text ? immovableReason(values) : tr("The item has no text."));
         return false;
     }
     setFocus();
@@ -64,7 +64,7 @@ void CanvasView::mouseDoubleClickEvent(QMouseEvent* event)
     if (item->values().text) {
         editText(*item);
     } else {
-        Q_EMIT propertiesWanted();
+        Q_EMIT propertiesRequested();
     }
 }
 
@@ -91,7 +91,7 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event)
     if (event->reason() == QContextMenuEvent::Mouse) {
         m_tool->selectAt(event->pos());
     }
-    Q_EMIT menuWanted(event->globalPos());
+    Q_EMIT menuRequested(event->globalPos());
     event->accept();
 }
 

@@ -72,9 +72,9 @@ Q_SIGNALS:
     /// The user has resized or rotated items, or typed a text.
     void itemsChanged(const QString& step, const QList<window::ItemChange>& changes);
     /// A context menu for the selected items, at this point of the screen.
-    void menuWanted(const QPoint& at);
+    void menuRequested(const QPoint& at);
     /// A double click on an item that has no text: edit its properties.
-    void propertiesWanted();
+    void propertiesRequested();
     /// A message for the status bar: why an item does not move.
     void hintShown(const QString& text);
 

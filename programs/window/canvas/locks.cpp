@@ -9,27 +9,27 @@ namespace window {
 
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Locks)
 };
 
 } // namespace
 
-QString whyNotMovable(const workbench::ItemValues& values)
+QString immovableReason(const workbench::ItemValues& values)
 {
     const QString title = itemTitle(values);
     if (values.placement.readOnly) {
-        return Words::tr("%1 is read-only. To move it, clear “Read-only” in its properties.")
+        return Tr::tr("%1 is read-only. To move it, clear “Read-only” in its properties.")
             .arg(title);
     }
     if (values.placement.userBackground) {
-        return Words::tr("%1 belongs to the background. To move it, clear “Background” in its "
-                         "properties.")
+        return Tr::tr("%1 belongs to the background. To move it, clear “Background” in its "
+                      "properties.")
             .arg(title);
     }
     if (!values.placement.movable) {
-        return Words::tr("%1 is locked. To move it, set “Movable” in its properties.").arg(title);
+        return Tr::tr("%1 is locked. To move it, set “Movable” in its properties.").arg(title);
     }
     return {};
 }

@@ -30,7 +30,7 @@ RuledCanvas::RuledCanvas(QWidget* parent)
     grid->addWidget(m_vertical, 1, 0);
     grid->addWidget(m_view, 1, 1);
     setFocusProxy(m_view);
-    connect(m_corner, &QToolButton::clicked, this, &RuledCanvas::unitChangeWanted);
+    connect(m_corner, &QToolButton::clicked, this, &RuledCanvas::unitChangeRequested);
     connect(m_view, &CanvasView::partChanged, this, &RuledCanvas::followView);
     connect(m_view, &CanvasView::pointerMoved, this, [this](const QPointF&, const QPoint& at) {
         m_horizontal->setPointer(at.x());

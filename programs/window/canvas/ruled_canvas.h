@@ -25,7 +25,7 @@ public:
 
 Q_SIGNALS:
     /// The user has clicked the unit button.
-    void unitChangeWanted();
+    void unitChangeRequested();
 
 private:
     void followView();

@@ -241,7 +241,7 @@ void SelectionTool::explain()
     const QList<QGraphicsItem*> selected = m_canvas->scene()->selectedItems();
     auto* item =
         selected.isEmpty() ? nullptr : dynamic_cast<workbench::CanvasItem*>(selected.constFirst());
-    const QString reason = item != nullptr ? whyNotMovable(item->values()) : QString();
+    const QString reason = item != nullptr ? immovableReason(item->values()) : QString();
     if (!reason.isEmpty()) {
         Q_EMIT hintShown(reason);
     }

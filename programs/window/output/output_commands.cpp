@@ -20,7 +20,7 @@ namespace window {
 
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::OutputCommands)
 };
@@ -30,7 +30,7 @@ class ProgressWindow
 {
 public:
     ProgressWindow(const QString& title, qint64 count, QWidget* window)
-        : m_dialog(title, Words::tr("Stop"), 0, static_cast<int>(count), window)
+        : m_dialog(title, Tr::tr("Stop"), 0, static_cast<int>(count), window)
     {
         m_dialog.setWindowTitle(title);
         m_dialog.setWindowModality(Qt::WindowModal);
@@ -56,18 +56,18 @@ QString suggestedBase(const OpenLabel& label)
 QString resultMessage(const OutputReport& report, const OutputOrder& order)
 {
     if (report.wasStopped) {
-        return Words::tr("Stopped after %1 files").arg(report.files);
+        return Tr::tr("Stopped after %1 files").arg(report.files);
     }
-    return report.files == 1 ? Words::tr("Written: %1").arg(fileNameInSeries(order, 0))
-                             : Words::tr("%1 files written").arg(report.files);
+    return report.files == 1 ? Tr::tr("Written: %1").arg(fileNameInSeries(order, 0))
+                             : Tr::tr("%1 files written").arg(report.files);
 }
 
 // A file that the user has chosen; empty if the user canceled.
 QString askPdfFile(const OpenLabel& label, QWidget* window)
 {
-    return QFileDialog::getSaveFileName(window, Words::tr("Print to PDF"),
+    return QFileDialog::getSaveFileName(window, Tr::tr("Print to PDF"),
                                         suggestedBase(label) + u".pdf"_s,
-                                        Words::tr("PDF documents (*.pdf)"));
+                                        Tr::tr("PDF documents (*.pdf)"));
 }
 
 // The documents of different papers: "shelf.pdf", "shelf-2.pdf".
@@ -82,7 +82,7 @@ QString moveDocuments(const QList<printing::PrintDocument>& documents, const QSt
         QSaveFile target(name);
         if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly) ||
             target.write(source.readAll()) != source.size() || !target.commit()) {
-            return Words::tr("Cannot write \"%1\": %2.").arg(name, target.errorString());
+            return Tr::tr("Cannot write \"%1\": %2.").arg(name, target.errorString());
         }
     }
     return {};
@@ -107,7 +107,7 @@ OutputReport printAll(PrintDialog& dialog, const OpenLabel& label, const QString
     OutputReport report;
     const QTemporaryDir folder;
     if (!folder.isValid()) {
-        report.error = Words::tr("Cannot create a temporary folder: %1.").arg(folder.errorString());
+        report.error = Tr::tr("Cannot create a temporary folder: %1.").arg(folder.errorString());
         return report;
     }
     QList<printing::PrintDocument> documents;
@@ -129,12 +129,12 @@ QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts
         return {};
     }
     const OutputOrder order = dialog.order();
-    ProgressWindow progress(Words::tr("Exporting"), order.records.count, window);
+    ProgressWindow progress(Tr::tr("Exporting"), order.records.count, window);
     const OutputReport report = writeOutput(
         label, order, [&progress](qint64 done) { return progress.isNotCanceled(done); });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
-        prompts.showError(Words::tr("The label could not be exported."), report.error);
+        prompts.showError(Tr::tr("The label could not be exported."), report.error);
         return {};
     }
     return resultMessage(report, order);
@@ -154,22 +154,22 @@ QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
         showRecord(label, shownRecord);
         return {};
     }
-    ProgressWindow progress(Words::tr("Printing"), dialog.batch()->records(), window);
+    ProgressWindow progress(Tr::tr("Printing"), dialog.batch()->records(), window);
     const OutputReport report = printAll(dialog, label, pdfFile, server, [&progress](qint64 done) {
         return progress.isNotCanceled(done);
     });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
-        prompts.showError(Words::tr("The label could not be printed."), report.error);
+        prompts.showError(Tr::tr("The label could not be printed."), report.error);
         return {};
     }
     if (report.wasStopped) {
-        return Words::tr("Printing was stopped");
+        return Tr::tr("Printing was stopped");
     }
     const int pages = static_cast<int>(dialog.batch()->pages());
     return pdfFile.isEmpty()
-               ? Words::tr("%n page(s) given to printer %1", nullptr, pages).arg(dialog.printer())
-               : Words::tr("Written: %1").arg(pdfFile);
+               ? Tr::tr("%n page(s) given to printer %1", nullptr, pages).arg(dialog.printer())
+               : Tr::tr("Written: %1").arg(pdfFile);
 }
 
 } // namespace window

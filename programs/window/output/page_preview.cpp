@@ -87,7 +87,7 @@ void PagePreview::mousePressEvent(QMouseEvent* event)
         (event->position() - paper.topLeft()) * (sheet->paperSize.width() / paper.width());
     for (int position = 0; position < sheet->positions(); ++position) {
         if (printing::cellAt(*sheet, position).contains(point)) {
-            Q_EMIT positionWanted(position);
+            Q_EMIT positionRequested(position);
         }
     }
 }

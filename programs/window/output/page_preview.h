@@ -25,7 +25,7 @@ public:
 
 Q_SIGNALS:
     /// The user clicked a position of the sheet, counted from 0.
-    void positionWanted(int position);
+    void positionRequested(int position);
     /// A page was painted: the labels show other records now.
     void painted();
 

@@ -96,7 +96,7 @@ PrintDialog::PrintDialog(OpenLabel& label, qint64 shownRecord, const printing::P
     connect(m_sheet, &SheetEditor::changed, this, &PrintDialog::refresh);
     connect(m_records, &RecordChooser::rangeChanged, this, &PrintDialog::refresh);
     connect(m_copies, &QSpinBox::valueChanged, this, &PrintDialog::refresh);
-    connect(m_preview, &PagePreview::positionWanted, m_sheet, &SheetEditor::setFirstPosition);
+    connect(m_preview, &PagePreview::positionRequested, m_sheet, &SheetEditor::setFirstPosition);
     connect(m_preview, &PagePreview::painted, this, [this] { showRecord(m_label, m_shownRecord); });
     m_printer->setFocus();
     resize(900, 600);

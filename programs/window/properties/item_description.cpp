@@ -23,7 +23,7 @@ constexpr int SummaryLength = 60;
 // A property shows only the beginning of a text: a cell must stay short.
 constexpr int LongestValue = 2000;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::ItemDescription)
 };
@@ -41,7 +41,7 @@ QString plainText(const workbench::TextValues& text)
 
 QString pixelText(const QSize& size)
 {
-    return Words::tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
+    return Tr::tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
 }
 
 QString numberText(const PropertyRow& row, LengthUnit unit)
@@ -54,7 +54,7 @@ QString numberText(const PropertyRow& row, LengthUnit unit)
     case PropertyKind::Length:
         return lengthText(number, unit);
     case PropertyKind::Points:
-        return Words::tr("%1 pt").arg(number);
+        return Tr::tr("%1 pt").arg(number);
     case PropertyKind::Angle:
         return angleText(number);
     default:
@@ -70,17 +70,17 @@ QString choiceText(const PropertyRow& row)
             return choice.name;
         }
     }
-    return Words::tr("unknown (%1)").arg(code);
+    return Tr::tr("unknown (%1)").arg(code);
 }
 
 QString pictureText(const QImage& image)
 {
-    return image.isNull() ? Words::tr("no picture") : pixelText(image.size());
+    return image.isNull() ? Tr::tr("no picture") : pixelText(image.size());
 }
 
 QString drawingText(const QByteArray& data)
 {
-    return data.isEmpty() ? Words::tr("none") : QLocale().formattedDataSize(data.size());
+    return data.isEmpty() ? Tr::tr("none") : QLocale().formattedDataSize(data.size());
 }
 
 QString valueText(const PropertyRow& row, LengthUnit unit)
@@ -92,13 +92,13 @@ QString valueText(const PropertyRow& row, LengthUnit unit)
     case PropertyKind::RichText:
         return plainText({{}, row.current.toString()});
     case PropertyKind::Flag:
-        return row.current.toBool() ? Words::tr("yes") : Words::tr("no");
+        return row.current.toBool() ? Tr::tr("yes") : Tr::tr("no");
     case PropertyKind::Color:
         return colorName(row.current.value<QColor>());
     case PropertyKind::Choice:
         return choiceText(row);
     case PropertyKind::FontFamily:
-        return row.current.toString().isEmpty() ? Words::tr("the default") : row.current.toString();
+        return row.current.toString().isEmpty() ? Tr::tr("the default") : row.current.toString();
     case PropertyKind::Picture:
         return pictureText(row.current.value<QImage>());
     case PropertyKind::Symbol:
@@ -149,7 +149,7 @@ QList<PropertyRow> describe(const QList<Property<Values>>& properties, const QLi
         row.minimumName = property.minimumName;
         row.isEditable = property.set != nullptr && isEditable(property.isLock);
         row.value = common->isValid() ? shortened(valueText(row, unit), LongestValue)
-                                      : Words::tr("different values");
+                                      : Tr::tr("different values");
         rows.append(row);
     }
     return rows;
@@ -168,7 +168,7 @@ QString contentSummary(const ItemValues& values)
         content = pixelText(values.picture->image.size());
     }
     if (content.isEmpty() && values.datasource && values.datasource->id >= 0) {
-        content = Words::tr("data source %1").arg(values.datasource->id);
+        content = Tr::tr("data source %1").arg(values.datasource->id);
     }
     return shortened(content.left(SummaryLength * 4).simplified(), SummaryLength);
 }
@@ -177,7 +177,7 @@ QString itemTitle(const ItemValues& values)
 {
     const QString summary = contentSummary(values);
     const QString kind = kindName(values.type);
-    return summary.isEmpty() ? kind : Words::tr("%1 “%2”").arg(kind, summary);
+    return summary.isEmpty() ? kind : Tr::tr("%1 “%2”").arg(kind, summary);
 }
 
 QList<PropertyRow> describeItem(const ItemValues& values, LengthUnit unit)

@@ -114,7 +114,7 @@ void ItemPanel::selectItem(int row)
                                                    QItemSelectionModel::ClearAndSelect |
                                                        QItemSelectionModel::Rows);
         m_table->scrollTo(m_model->index(row, 0));
-        Q_EMIT itemWanted(m_model->itemAt(row));
+        Q_EMIT itemRequested(m_model->itemAt(row));
     }
 }
 
@@ -157,7 +157,7 @@ void ItemPanel::takeFromTable()
     }
     Q_EMIT selectionChanged();
     if (workbench::CanvasItem* item = currentItem()) {
-        Q_EMIT itemWanted(item);
+        Q_EMIT itemRequested(item);
     }
 }
 

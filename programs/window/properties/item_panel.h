@@ -41,7 +41,7 @@ Q_SIGNALS:
     /// The selection has changed, here and on the canvas.
     void selectionChanged();
     /// The user activated an item of the list: scroll to it.
-    void itemWanted(workbench::CanvasItem* item);
+    void itemRequested(workbench::CanvasItem* item);
 
 private:
     void takeFromTable();

@@ -68,7 +68,7 @@ QWidget* PropertyDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     case PropertyKind::Color:
     case PropertyKind::Picture:
     case PropertyKind::Symbol:
-        Q_EMIT dialogWanted(index);
+        Q_EMIT dialogRequested(index);
         return nullptr;
     case PropertyKind::Note:
     case PropertyKind::Flag:

@@ -31,7 +31,7 @@ Q_SIGNALS:
     /// The text in the editor of this property has changed.
     void textTyped(int property, const QString& text) const;
     /// A dialog asks for the value: a color, or the file of a picture or symbol.
-    void dialogWanted(const QPersistentModelIndex& index) const;
+    void dialogRequested(const QPersistentModelIndex& index) const;
 
 protected:
     bool eventFilter(QObject* editor, QEvent* event) override;

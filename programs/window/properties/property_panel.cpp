@@ -41,7 +41,7 @@ PropertyPanel::PropertyPanel(QWidget* parent)
     connect(m_delegate, &PropertyDelegate::textTyped, this, &PropertyPanel::checkText);
     connect(m_delegate, &QAbstractItemDelegate::closeEditor, m_note, &QWidget::hide);
     // Queued: the view is still beginning to edit.
-    connect(m_delegate, &PropertyDelegate::dialogWanted, this, &PropertyPanel::askValue,
+    connect(m_delegate, &PropertyDelegate::dialogRequested, this, &PropertyPanel::askValue,
             Qt::QueuedConnection);
 }
 
@@ -124,13 +124,13 @@ void PropertyPanel::askValue(const QPersistentModelIndex& index)
 
 QVariant PropertyPanel::chooseValue(const PropertyRow& row)
 {
-    const PropertyRow asked = row; // the dialogs process events
-    if (asked.kind == PropertyKind::Color) {
-        const QColor color = QColorDialog::getColor(asked.current.value<QColor>(), this, asked.name,
-                                                    QColorDialog::ShowAlphaChannel);
+    const PropertyRow requested = row; // the dialogs process events
+    if (requested.kind == PropertyKind::Color) {
+        const QColor color = QColorDialog::getColor(requested.current.value<QColor>(), this,
+                                                    requested.name, QColorDialog::ShowAlphaChannel);
         return color.isValid() ? QVariant(color) : QVariant();
     }
-    return asked.kind == PropertyKind::Picture ? askPicture(this) : askSymbol(this);
+    return requested.kind == PropertyKind::Picture ? askPicture(this) : askSymbol(this);
 }
 
 } // namespace window

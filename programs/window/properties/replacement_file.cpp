@@ -20,18 +20,17 @@ namespace {
 // Bytes of a drawing.
 constexpr qint64 LargestDrawing = 32 * 1024 * 1024;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::ReplacementFile)
 };
 
 void showError(QWidget* parent, const QString& path, const QString& reason)
 {
-    QMessageBox box(QMessageBox::Warning, Words::tr("Replace Picture"), {}, QMessageBox::Ok,
-                    parent);
+    QMessageBox box(QMessageBox::Warning, Tr::tr("Replace Picture"), {}, QMessageBox::Ok, parent);
     // File names may contain markup.
     box.setTextFormat(Qt::PlainText);
-    box.setText(Words::tr("Cannot use \"%1\": %2").arg(QFileInfo(path).fileName(), reason));
+    box.setText(Tr::tr("Cannot use \"%1\": %2").arg(QFileInfo(path).fileName(), reason));
     box.exec();
 }
 
@@ -48,14 +47,14 @@ QImage readPicture(QWidget* parent, const QString& path)
     reader.setAutoTransform(true);
     // Before decoding: a small file may be a huge picture.
     if (isTooLarge(reader.size())) {
-        showError(parent, path, Words::tr("The picture is too large."));
+        showError(parent, path, Tr::tr("The picture is too large."));
         return {};
     }
     const QImage image = reader.read();
     if (image.isNull()) {
         showError(parent, path, reader.errorString());
     } else if (isTooLarge(image.size())) {
-        showError(parent, path, Words::tr("The picture is too large."));
+        showError(parent, path, Tr::tr("The picture is too large."));
         return {};
     }
     return image;
@@ -66,8 +65,8 @@ QImage readPicture(QWidget* parent, const QString& path)
 QVariant askPicture(QWidget* parent)
 {
     const QString path = QFileDialog::getOpenFileName(
-        parent, Words::tr("Replace Picture"), {},
-        Words::tr("Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;All files (*)"));
+        parent, Tr::tr("Replace Picture"), {},
+        Tr::tr("Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;All files (*)"));
     if (path.isEmpty()) {
         return {};
     }
@@ -77,8 +76,8 @@ QVariant askPicture(QWidget* parent)
 
 QVariant askSymbol(QWidget* parent)
 {
-    const QString path = QFileDialog::getOpenFileName(parent, Words::tr("Replace Symbol"), {},
-                                                      Words::tr("Drawings (*.svg);;All files (*)"));
+    const QString path = QFileDialog::getOpenFileName(parent, Tr::tr("Replace Symbol"), {},
+                                                      Tr::tr("Drawings (*.svg);;All files (*)"));
     if (path.isEmpty()) {
         return {};
     }
@@ -91,7 +90,7 @@ QVariant askSymbol(QWidget* parent)
     const std::optional<QByteArray> data =
         bytes.size() <= LargestDrawing ? workbench::symbols::makeSymbolData(bytes) : std::nullopt;
     if (!data) {
-        showError(parent, path, Words::tr("The file is not an SVG drawing, or it is too large."));
+        showError(parent, path, Tr::tr("The file is not an SVG drawing, or it is too large."));
         return {};
     }
     return *data;

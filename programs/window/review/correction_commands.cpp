@@ -19,7 +19,7 @@ namespace window {
 
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Corrections)
 };
@@ -77,18 +77,17 @@ bool replaceFont(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidge
     const Items& all = label.canvas->items();
     const QStringList from = fontsToReplace(issue.items.isEmpty() ? all : itemsOf(issue, label));
     bool isChosen = false;
-    const QString to =
-        QInputDialog::getItem(window, Words::tr("Replace Font"),
-                              Words::tr("Font for all texts in %1:").arg(from.join(u", "_s)),
-                              QFontDatabase::families(), 0, false, &isChosen);
-    return isChosen && push(stack, Words::tr("Replace Font"), withFont(all, from, to));
+    const QString to = QInputDialog::getItem(
+        window, Tr::tr("Replace Font"), Tr::tr("Font for all texts in %1:").arg(from.join(u", "_s)),
+        QFontDatabase::families(), 0, false, &isChosen);
+    return isChosen && push(stack, Tr::tr("Replace Font"), withFont(all, from, to));
 }
 
 bool setColor(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* window)
 {
-    const QColor color = QColorDialog::getColor(Qt::black, window, Words::tr("Set Color"));
+    const QColor color = QColorDialog::getColor(Qt::black, window, Tr::tr("Set Color"));
     return color.isValid() &&
-           push(stack, Words::tr("Set Color"), withColor(itemsOf(issue, label), color));
+           push(stack, Tr::tr("Set Color"), withColor(itemsOf(issue, label), color));
 }
 
 QString paperText(const QSizeF& points)
@@ -96,7 +95,7 @@ QString paperText(const QSizeF& points)
     const auto millimeters = [](double length) {
         return QString::number(std::round(length * MillimetersPerPoint * 10.0) / 10.0);
     };
-    return Words::tr("%1 × %2 mm").arg(millimeters(points.width()), millimeters(points.height()));
+    return Tr::tr("%1 × %2 mm").arg(millimeters(points.width()), millimeters(points.height()));
 }
 
 bool rescale(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* window)
@@ -109,7 +108,7 @@ bool rescale(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* w
                u"Letter: 215.9 × 279.4 mm"_s, u"100 × 150 mm"_s,     u"100 × 50 mm"_s};
     bool isChosen = false;
     const QString text = QInputDialog::getItem(
-        window, Words::tr("Rescale"), Words::tr("Size of the paper:"), papers, 0, true, &isChosen);
+        window, Tr::tr("Rescale"), Tr::tr("Size of the paper:"), papers, 0, true, &isChosen);
     const std::optional<QSizeF> paper = isChosen ? paperOf(text) : std::nullopt;
     if (!paper || before.size.isEmpty()) {
         return false;
@@ -118,7 +117,7 @@ bool rescale(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* w
     after.size = *paper;
     const double factor =
         std::min(paper->width() / before.size.width(), paper->height() / before.size.height());
-    stack.beginMacro(Words::tr("Rescale"));
+    stack.beginMacro(Tr::tr("Rescale"));
     stack.push(new ChangePage(*label.canvas, after));
     // The reader enlarges lengths in millimeters, but neither fonts nor lines.
     push(stack, {}, scaled(label.canvas->items(), factor, !isEnlarged));
@@ -134,19 +133,18 @@ bool bind(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* wind
         names.append(u"%1: %2"_s.arg(source.id).arg(source.kind));
     }
     if (names.isEmpty()) {
-        QMessageBox::information(window, Words::tr("Bind to Data Source"),
-                                 Words::tr("The label has no data source."));
+        QMessageBox::information(window, Tr::tr("Bind to Data Source"),
+                                 Tr::tr("The label has no data source."));
         return false;
     }
     bool isChosen = false;
-    const QString name =
-        QInputDialog::getItem(window, Words::tr("Bind to Data Source"), Words::tr("Data source:"),
-                              names, 0, false, &isChosen);
+    const QString name = QInputDialog::getItem(window, Tr::tr("Bind to Data Source"),
+                                               Tr::tr("Data source:"), names, 0, false, &isChosen);
     const qsizetype row = names.indexOf(name);
     if (!isChosen || row < 0) {
         return false;
     }
-    return push(stack, Words::tr("Bind to Data Source"),
+    return push(stack, Tr::tr("Bind to Data Source"),
                 bound(itemsOf(issue, label), sources.at(row).id));
 }
 
@@ -156,17 +154,17 @@ QString titleOf(Correction correction)
 {
     switch (correction) {
     case Correction::Delete:
-        return Words::tr("&Delete Items");
+        return Tr::tr("&Delete Items");
     case Correction::ReplaceFont:
-        return Words::tr("Replace F&ont…");
+        return Tr::tr("Replace F&ont…");
     case Correction::SetColor:
-        return Words::tr("Set &Color…");
+        return Tr::tr("Set &Color…");
     case Correction::Rescale:
-        return Words::tr("Re&scale…");
+        return Tr::tr("Re&scale…");
     case Correction::Bind:
         break;
     }
-    return Words::tr("&Bind to Data Source…");
+    return Tr::tr("&Bind to Data Source…");
 }
 
 bool applyCorrection(Correction correction, const Issue& issue, OpenLabel& label, QUndoStack& stack,
@@ -174,8 +172,7 @@ bool applyCorrection(Correction correction, const Issue& issue, OpenLabel& label
 {
     switch (correction) {
     case Correction::Delete:
-        stack.push(
-            new RemoveItems(Words::tr("Delete Items"), *label.canvas, itemsOf(issue, label)));
+        stack.push(new RemoveItems(Tr::tr("Delete Items"), *label.canvas, itemsOf(issue, label)));
         return true;
     case Correction::ReplaceFont:
         return replaceFont(issue, label, stack, window);

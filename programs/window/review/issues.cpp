@@ -3,7 +3,7 @@
 #include "migration/model/loss_kinds.h"
 #include "repair/repair.h"
 #include "window/properties/item_description.h"
-#include "workbench/import/issue_words.h"
+#include "workbench/import/issue_text.h"
 
 #include <QCoreApplication>
 
@@ -15,7 +15,7 @@ namespace window {
 
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Issues)
 };
@@ -32,7 +32,7 @@ QString namesOf(const QList<int>& items, const workbench::Canvas& canvas)
     }
     const qsizetype others = items.size() - names.size();
     if (others > 0) {
-        names.append(Words::tr("%n more", nullptr, static_cast<int>(others)));
+        names.append(Tr::tr("%n more", nullptr, static_cast<int>(others)));
     }
     return names.join(u", "_s);
 }
@@ -72,7 +72,7 @@ QString adviceFor(const QString& code)
 QString textOf(const migration::Finding& finding)
 {
     const migration::LossRow* row = migration::lossRowOf(finding.code);
-    return row != nullptr ? migration::lossWords(row->kind) : finding.text;
+    return row != nullptr ? migration::lossText(row->kind) : finding.text;
 }
 
 Issue issueOf(const migration::Finding& finding, IssueGroup group, const OpenLabel& label)
@@ -170,15 +170,15 @@ QString titleOf(IssueGroup group)
 {
     switch (group) {
     case IssueGroup::Lost:
-        return Words::tr("Not imported");
+        return Tr::tr("Not imported");
     case IssueGroup::Changed:
-        return Words::tr("Imported with changes");
+        return Tr::tr("Imported with changes");
     case IssueGroup::Repaired:
-        return Words::tr("Repaired");
+        return Tr::tr("Repaired");
     case IssueGroup::Warning:
         break;
     }
-    return Words::tr("Warnings");
+    return Tr::tr("Warnings");
 }
 
 } // namespace window

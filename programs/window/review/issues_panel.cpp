@@ -182,7 +182,7 @@ void IssuesPanel::requestIssueAt(const QModelIndex& index)
     showButtons(index);
     const QVariant issue = index.data(IssueRole);
     if (issue.isValid()) {
-        Q_EMIT issueWanted(m_issues.at(issue.toInt()));
+        Q_EMIT issueRequested(m_issues.at(issue.toInt()));
     }
 }
 
@@ -192,7 +192,7 @@ void IssuesPanel::requestCorrection(Correction correction)
     if (row.isValid()) {
         // A copy: the correction changes the list.
         const Issue issue = m_issues.at(row.toInt());
-        Q_EMIT correctionWanted(correction, issue);
+        Q_EMIT correctionRequested(correction, issue);
     }
 }
 

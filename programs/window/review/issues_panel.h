@@ -37,9 +37,9 @@ public:
 
 Q_SIGNALS:
     /// The user selected this issue.
-    void issueWanted(const window::Issue& issue);
+    void issueRequested(const window::Issue& issue);
     /// The user chose this correction of the selected issue.
-    void correctionWanted(window::Correction correction, const window::Issue& issue);
+    void correctionRequested(window::Correction correction, const window::Issue& issue);
 
 private:
     void fill();

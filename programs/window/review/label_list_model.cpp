@@ -20,7 +20,7 @@ namespace window {
 
 namespace {
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::LabelStates)
 };
@@ -103,19 +103,19 @@ QString stateName(LabelState state)
 {
     switch (state) {
     case LabelState::Waiting:
-        return Words::tr("Waiting");
+        return Tr::tr("Waiting");
     case LabelState::Complete:
-        return Words::tr("Complete");
+        return Tr::tr("Complete");
     case LabelState::Changed:
-        return Words::tr("Changed");
+        return Tr::tr("Changed");
     case LabelState::Lossy:
-        return Words::tr("With losses");
+        return Tr::tr("With losses");
     case LabelState::Failed:
-        return Words::tr("Failed");
+        return Tr::tr("Failed");
     case LabelState::Edited:
         break;
     }
-    return Words::tr("Edited");
+    return Tr::tr("Edited");
 }
 
 LabelListModel::LabelListModel(QObject* parent)

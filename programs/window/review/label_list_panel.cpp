@@ -152,7 +152,7 @@ void LabelListPanel::requestCurrent()
 {
     Q_EMIT stepsChanged();
     if (!m_isFollowing && m_list->currentIndex().isValid()) {
-        Q_EMIT fileWanted(m_list->currentIndex().data(LabelListModel::FileRole).toString());
+        Q_EMIT fileRequested(m_list->currentIndex().data(LabelListModel::FileRole).toString());
     }
 }
 

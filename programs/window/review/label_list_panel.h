@@ -38,7 +38,7 @@ public:
 
 Q_SIGNALS:
     /// The user selected the label of this file.
-    void fileWanted(const QString& file);
+    void fileRequested(const QString& file);
     /// The possible steps have changed.
     void stepsChanged();
 

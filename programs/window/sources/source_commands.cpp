@@ -24,7 +24,7 @@ using workbench::datasources::SequenceSource;
 using workbench::datasources::SourceValues;
 using workbench::datasources::SystemSource;
 
-struct Words
+struct Tr
 {
     Q_DECLARE_TR_FUNCTIONS(window::SourceCommands)
 };
@@ -93,7 +93,7 @@ std::unique_ptr<QUndoCommand> runCsvDialog(CsvDialog& dialog, OpenLabel& label,
                    CsvSource::Kind.toString(),
                    CsvSource::propertiesOf(dialog.fileName(), dialog.options(), dialog.table()),
                    {}});
-    return std::make_unique<ChangeSources>(Words::tr("Connect CSV File"), label, sources,
+    return std::make_unique<ChangeSources>(Tr::tr("Connect CSV File"), label, sources,
                                            bindingsFor(dialog.mapping(), id), changed);
 }
 
@@ -142,8 +142,8 @@ std::unique_ptr<QUndoCommand> connectCsv(OpenLabel& label, const ChangeSources::
     const QString folder =
         QFileInfo(label.fileName.isEmpty() ? label.suggestedName : label.fileName).path();
     const QString fileName =
-        QFileDialog::getOpenFileName(window, Words::tr("Connect CSV File"), folder,
-                                     Words::tr("CSV files (*.csv *.tsv *.txt);;All files (*)"));
+        QFileDialog::getOpenFileName(window, Tr::tr("Connect CSV File"), folder,
+                                     Tr::tr("CSV files (*.csv *.tsv *.txt);;All files (*)"));
     if (fileName.isEmpty()) {
         return nullptr;
     }
@@ -170,7 +170,7 @@ std::unique_ptr<QUndoCommand> editSource(OpenLabel& label, int id,
         return nullptr;
     }
     replaceSource(sources, dialog.source());
-    return std::make_unique<ChangeSources>(Words::tr("Edit Data Source"), label, sources,
+    return std::make_unique<ChangeSources>(Tr::tr("Edit Data Source"), label, sources,
                                            QList<Binding>(), changed);
 }
 
@@ -185,7 +185,7 @@ std::unique_ptr<QUndoCommand> addSource(OpenLabel& label, const QString& kind,
         return nullptr;
     }
     sources.append(dialog.source());
-    return std::make_unique<ChangeSources>(Words::tr("Add Data Source"), label, sources,
+    return std::make_unique<ChangeSources>(Tr::tr("Add Data Source"), label, sources,
                                            bindingsTo(id, items), changed);
 }
 
@@ -201,7 +201,7 @@ std::unique_ptr<QUndoCommand> showSource(OpenLabel& label, int id,
     if (bindings.isEmpty() || label.sources->source(id) == nullptr) {
         return nullptr;
     }
-    return std::make_unique<ChangeSources>(Words::tr("Show Data Source"), label, sources, bindings,
+    return std::make_unique<ChangeSources>(Tr::tr("Show Data Source"), label, sources, bindings,
                                            changed);
 }
 

@@ -63,7 +63,7 @@ SourcePanel::SourcePanel(const Actions& actions, QWidget* parent)
     header.setSectionResizeMode(SourceTableModel::Settings, QHeaderView::Stretch);
     header.setSectionResizeMode(SourceTableModel::Now, QHeaderView::Stretch);
     connect(m_record, &QSpinBox::valueChanged, this,
-            [this](int number) { Q_EMIT recordWanted(number - 1); });
+            [this](int number) { Q_EMIT recordRequested(number - 1); });
     QAction* edit = &actions.at(ActionId::EditSource);
     connect(m_table, &QTableView::doubleClicked, edit, &QAction::trigger);
     show(nullptr, 0);

@@ -34,7 +34,7 @@ public:
 
 Q_SIGNALS:
     /// The user chose another record, counted from 0.
-    void recordWanted(qint64 record);
+    void recordRequested(qint64 record);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

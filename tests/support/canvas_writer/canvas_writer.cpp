@@ -12,7 +12,7 @@ constexpr quint32 sizesAreInches = 2000019;
 constexpr quint32 textsHaveOptions = 2000020;
 constexpr quint32 sequencesHaveTrailingValue = 2000020;
 constexpr quint32 textsHaveSecondFontSize = 2000021;
-constexpr quint32 contentStandsFirst = 2000022;
+constexpr quint32 contentIsFirst = 2000022;
 constexpr quint32 textsHaveUnusedValues = 2000023;
 constexpr quint32 symbolsHaveData = 2000023;
 constexpr quint32 canvasHasResolution = 2000024;
@@ -103,7 +103,7 @@ CanvasWriter& CanvasWriter::add(const canvas::TextRecord& record)
 {
     code(canvas::TextCode);
     write(record.header);
-    if (m_version >= contentStandsFirst) {
+    if (m_version >= contentIsFirst) {
         writeTextFrom22(record);
     } else {
         writeTextBefore22(record);
@@ -115,7 +115,7 @@ CanvasWriter& CanvasWriter::add(const canvas::BarcodeRecord& record, qint32 type
 {
     code(typeCode);
     write(record.header);
-    if (m_version >= contentStandsFirst) {
+    if (m_version >= contentIsFirst) {
         writeBarcodeFrom22(record);
     } else {
         writeBarcodeBefore22(record);

@@ -202,7 +202,7 @@ Census countOpenDocument(const QByteArray& file)
         return census;
     }
     for (const QByteArray& xml : {*stylesXml, *contentXml}) {
-        census.unknown = census.unknown.isEmpty() ? whyNotCountable(xml) : census.unknown;
+        census.unknown = census.unknown.isEmpty() ? uncountableReason(xml) : census.unknown;
     }
     if (!census.unknown.isEmpty()) {
         return census;

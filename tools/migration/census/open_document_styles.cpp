@@ -88,7 +88,7 @@ bool isNonZero(const QString& value)
     return std::any_of(value.begin(), value.end(), [](QChar c) { return c >= u'1' && c <= u'9'; });
 }
 
-bool asksForIt(const Property& property, const QString& value)
+bool hasEffect(const Property& property, const QString& value)
 {
     switch (property.test) {
     case Test::IsNot:
@@ -168,12 +168,12 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
             style.font.clear();
             style.color.clear();
         }
-        m_current = isDefault ? (family == "paragraph"_L1 ? &m_defaultText : &m_nowhere)
+        m_current = isDefault ? (family == "paragraph"_L1 ? &m_defaultText : &m_ignored)
                               : &*m_texts.insert(name, style);
     } else if (family == "graphic"_L1) {
         m_current = isDefault ? &m_defaultShape : &*m_shapes.insert(name, shapeStyle(parent));
     } else {
-        m_current = &m_nowhere;
+        m_current = &m_ignored;
     }
 }
 
@@ -190,7 +190,7 @@ const std::array<StyleBook::Value, 8> StyleBook::Values{{
 
 StyleBook::Style& StyleBook::current()
 {
-    return m_current != nullptr ? *m_current : m_nowhere;
+    return m_current != nullptr ? *m_current : m_ignored;
 }
 
 void StyleBook::takeProperties(const QString& group, const QXmlStreamAttributes& attributes)
@@ -202,7 +202,7 @@ void StyleBook::takeProperties(const QString& group, const QXmlStreamAttributes&
             continue;
         }
         const quint64 bit = quint64(1) << row;
-        const bool dropped = asksForIt(property, valueOf(attributes, property.name));
+        const bool dropped = hasEffect(property, valueOf(attributes, property.name));
         style.dropped = dropped ? style.dropped | bit : style.dropped & ~bit;
     }
     for (const auto& [valueGroup, attribute, value] : Values) {

@@ -84,7 +84,7 @@ private:
     Style m_defaultText;
     Style m_defaultShape;
     Style* m_current = nullptr;
-    Style m_nowhere;
+    Style m_ignored;
     bool m_isInList = false; ///< in a level of a list style
 };
 

@@ -103,7 +103,7 @@ void Counter::open(const QString& tag)
         openControl(tag);
     } else if (m_path.size() == 5 && m_control != nullptr && isAt(3, m_control->list) &&
                isAt(1, "controls"_L1)) {
-        m_object.wantsSource = true;
+        m_object.needsSource = true;
     }
     m_isPageSized =
         m_isPageSized || m_path == QStringList{u"qmtx"_s, u"printable_control"_s, u"bounds"_s};
@@ -118,7 +118,7 @@ void Counter::openControl(const QString& tag)
     m_shapeIndex = 0;
     if (m_control != nullptr) {
         m_object.objectClass = m_control->objectClass;
-        m_object.wantsSource = m_control->alwaysHasSource;
+        m_object.needsSource = m_control->alwaysHasSource;
         // Without a type, or if the type is not a number, the number is 0.
         m_object.barcodeType = m_object.objectClass == ObjectClass::Barcode ? 0 : NoBarcodeType;
     } else {
@@ -215,7 +215,7 @@ void Counter::finish()
 Census countOrvanta(const QByteArray& file)
 {
     Census census;
-    census.unknown = whyNotCountable(file);
+    census.unknown = uncountableReason(file);
     if (!census.unknown.isEmpty()) {
         return census;
     }

@@ -173,7 +173,7 @@ std::string_view layoutOf(ObjectClass objectClass, quint32 version)
     }
 }
 
-bool isPlaceholderAmongWords(const QString& text)
+bool isPlaceholderInSentence(const QString& text)
 {
     return std::none_of(SourceKeys.begin(), SourceKeys.end(),
                         [&text](QLatin1String key) { return text == u'%' + QString(key) + u'%'; });
@@ -184,9 +184,9 @@ void recordSource(const Fields& fields, CountedObject& object, Census& census)
     if (fields.key.isEmpty()) {
         return;
     }
-    object.wantsSource = true;
+    object.needsSource = true;
     if (fields.key == SpecialKey) {
-        object.hasPlaceholder = isPlaceholderAmongWords(fields.keyText);
+        object.hasPlaceholder = isPlaceholderInSentence(fields.keyText);
         if (object.hasPlaceholder) {
             census.detail(LossKind::PlaceholderText, fields.keyText);
         }

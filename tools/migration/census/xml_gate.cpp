@@ -8,7 +8,7 @@
 
 namespace migration {
 
-QString whyNotCountable(const QByteArray& xml)
+QString uncountableReason(const QByteArray& xml)
 {
     // Counting builds no tree, so only its depth and its attributes matter.
     constexpr qint64 anySize = std::numeric_limits<qint64>::max() / 2;
@@ -16,11 +16,11 @@ QString whyNotCountable(const QByteArray& xml)
     return excess ? notWellFormed(excess->message) : QString();
 }
 
-QString notWellFormed(const QString& why)
+QString notWellFormed(const QString& reason)
 {
     return QCoreApplication::translate("migration::Census",
                                        "The file is damaged, so its objects cannot be counted: %1.")
-        .arg(why);
+        .arg(reason);
 }
 
 } // namespace migration

@@ -6,8 +6,8 @@
 namespace migration {
 
 /// User-visible reason why an XML document must not be parsed; empty if it may.
-[[nodiscard]] QString whyNotCountable(const QByteArray& xml);
+[[nodiscard]] QString uncountableReason(const QByteArray& xml);
 /// User-visible error: a damaged document.
-[[nodiscard]] QString notWellFormed(const QString& why);
+[[nodiscard]] QString notWellFormed(const QString& reason);
 
 } // namespace migration

@@ -60,7 +60,7 @@ public:
     {
         for (const Pair& pair : m_matching.shapes) {
             checkPlace(pair);
-            checkLooks(pair);
+            checkAppearance(pair);
         }
         for (const Pair& pair : m_matching.texts) {
             checkText(pair);
@@ -80,7 +80,7 @@ private:
     }
 
     void checkPlace(const Pair& pair);
-    void checkLooks(const Pair& pair);
+    void checkAppearance(const Pair& pair);
     void checkText(const Pair& pair);
     void checkFonts(const Pair& pair);
     void checkColor(const Pair& pair);
@@ -112,7 +112,7 @@ void LabelCheck::checkPlace(const Pair& pair)
     }
 }
 
-void LabelCheck::checkLooks(const Pair& pair)
+void LabelCheck::checkAppearance(const Pair& pair)
 {
     const ItemFacts& item = m_label.items.at(pair.item);
     const Appearance& wanted = *pair.appearance;

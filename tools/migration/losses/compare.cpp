@@ -158,7 +158,7 @@ void Comparison::comparePair(const CountedObject& object, const ItemFacts& item,
                              LossSet& changes) const
 {
     changes.add(object.changes);
-    if (object.wantsSource && !item.isBound) {
+    if (object.needsSource && !item.isBound) {
         changes.add(LossKind::DatasourceUnbound);
     }
     if (object.hasPlaceholder && item.isBound) {
@@ -237,7 +237,7 @@ void Comparison::list(Outcome outcome, QList<Finding>& findings)
         found.details.removeDuplicates();
         const bool countsObjects = outcome == Outcome::Lost && found.objects > 0;
         const qint64 count = countsObjects ? found.objects : found.objects + found.others;
-        Finding finding{lossCode(row.kind), lossWords(row.kind), count, countsObjects,
+        Finding finding{lossCode(row.kind), lossText(row.kind), count, countsObjects,
                         found.details};
         if (found.places != FindingPlaces()) {
             finding.places = found.places;

@@ -223,11 +223,11 @@ void findReplacedFonts(LabelFacts& facts)
             }
             item.changes.add(LossKind::FontReplaced);
             // The census reports the name of the original family.
-            const QString asked =
+            const QString requestedFamily =
                 family == FallbackFontFamily
                     ? QCoreApplication::translate("migration::ItemLosses", "unknown")
                     : family;
-            facts.tallies[LossKind::FontReplaced].addDetail(asked + u" → "_s + seen);
+            facts.tallies[LossKind::FontReplaced].addDetail(requestedFamily + u" → "_s + seen);
         }
     }
 }

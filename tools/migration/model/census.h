@@ -56,7 +56,7 @@ struct CountedObject
     /// The changes that its import causes.
     LossSet changes = {};
     /// Its content comes from a data source.
-    bool wantsSource = false;
+    bool needsSource = false;
     /// A text with a placeholder for its data source among other words.
     bool hasPlaceholder = false;
     /// The file's number of a barcode's type, for comparisons.

@@ -35,25 +35,25 @@ struct VerdictRow
     const char* sentence;
 };
 
-#define WORDS(text) QT_TRANSLATE_NOOP("migration::Summary", text)
+#define TEXT(text) QT_TRANSLATE_NOOP("migration::Summary", text)
 // In the order of the enumeration.
 constexpr std::array VerdictRows{
-    VerdictRow{QLatin1String("complete"), WORDS("imported completely"),
-               WORDS("Nothing was lost or changed.")},
-    VerdictRow{QLatin1String("changed"), WORDS("imported with changes"),
-               WORDS("The content is complete; looks changed.")},
-    VerdictRow{QLatin1String("lossy"), WORDS("imported with losses"),
-               WORDS("Content was lost or changed.")},
-    VerdictRow{QLatin1String("failed"), WORDS("failed"), nullptr},
+    VerdictRow{QLatin1String("complete"), TEXT("imported completely"),
+               TEXT("Nothing was lost or changed.")},
+    VerdictRow{QLatin1String("changed"), TEXT("imported with changes"),
+               TEXT("The content is complete; looks changed.")},
+    VerdictRow{QLatin1String("lossy"), TEXT("imported with losses"),
+               TEXT("Content was lost or changed.")},
+    VerdictRow{QLatin1String("failed"), TEXT("failed"), nullptr},
 };
-#undef WORDS
+#undef TEXT
 static_assert(VerdictRows.size() == Verdicts);
 
-bool harmsContent(const Finding& finding)
+bool affectsContent(const Finding& finding)
 {
     const LossRow* row = lossRowOf(finding.code);
     // A code of a newer program: better a warning too many.
-    return row == nullptr || row->harm == Harm::Content;
+    return row == nullptr || row->impact == Impact::Content;
 }
 
 QString tr(const char* text)
@@ -89,9 +89,10 @@ Verdict verdictOf(const FileReport& report)
     if (report.status != Status::Imported) {
         return Verdict::Failed;
     }
-    const bool isHarmed = std::any_of(report.lost.begin(), report.lost.end(), harmsContent) ||
-                          std::any_of(report.changed.begin(), report.changed.end(), harmsContent);
-    if (isHarmed || !report.objects.inFile) {
+    const bool isContentAffected =
+        std::any_of(report.lost.begin(), report.lost.end(), affectsContent) ||
+        std::any_of(report.changed.begin(), report.changed.end(), affectsContent);
+    if (isContentAffected || !report.objects.inFile) {
         return Verdict::Lossy;
     }
     return report.lost.isEmpty() && report.changed.isEmpty() ? Verdict::Complete : Verdict::Changed;
@@ -102,7 +103,7 @@ QString verdictName(Verdict verdict)
     return VerdictRows.at(static_cast<std::size_t>(verdict)).name;
 }
 
-QString verdictWords(Verdict verdict)
+QString verdictText(Verdict verdict)
 {
     return tr(VerdictRows.at(static_cast<std::size_t>(verdict)).words);
 }

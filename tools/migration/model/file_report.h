@@ -174,7 +174,7 @@ inline constexpr int Verdicts = 4;
 /// The verdict as reports write it: "complete", "changed", "lossy", "failed".
 [[nodiscard]] QString verdictName(Verdict verdict);
 /// The verdict for the user: "imported with losses".
-[[nodiscard]] QString verdictWords(Verdict verdict);
+[[nodiscard]] QString verdictText(Verdict verdict);
 
 /// Whether the verdict is lossy or failed: then `--fail-on-loss` fails.
 [[nodiscard]] bool hasLoss(const FileReport& report);

@@ -33,8 +33,8 @@ bool isFontThere(const QString& family)
     if (isInstalled(family)) {
         return true;
     }
-    const QString standIn = workbench::substituteFamily(family);
-    return !standIn.isEmpty() && isInstalled(standIn);
+    const QString substitute = workbench::substituteFamily(family);
+    return !substitute.isEmpty() && isInstalled(substitute);
 }
 
 QString familySeen(const QString& family)

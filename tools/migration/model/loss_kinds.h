@@ -91,7 +91,7 @@ enum class LossKind : quint8 {
 enum class Outcome : quint8 { Lost, Changed };
 
 /// Whether the content of the label is affected, or only its looks.
-enum class Harm : quint8 { Content, Looks };
+enum class Impact : quint8 { Content, Appearance };
 
 /// One kind.
 struct LossRow
@@ -99,7 +99,7 @@ struct LossRow
     LossKind kind;
     const char* code; ///< kebab case; stable
     Outcome outcome;
-    Harm harm;
+    Impact impact;
     const char* words;  ///< untranslated: what happened
     const char* advice; ///< untranslated: the command or menu that helps; null if there is none
 };
@@ -113,7 +113,7 @@ struct LossRow
 /// The stable code of reports, such as "font-replaced".
 [[nodiscard]] QString lossCode(LossKind kind);
 /// What happened, in the language of the program.
-[[nodiscard]] QString lossWords(LossKind kind);
+[[nodiscard]] QString lossText(LossKind kind);
 /// What a program of LabelPort can do about it, in the language of the program; empty for nothing.
 [[nodiscard]] QString lossAdvice(LossKind kind);
 

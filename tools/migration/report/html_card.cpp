@@ -131,7 +131,7 @@ void addEntries(TemplateList& lists, const QString& title, const QList<Entry>& t
     lists.push_back(list);
 }
 
-QString sourceWords(const SourceReport& source)
+QString sourceText(const SourceReport& source)
 {
     const QString words = source.kind + u": "_s + source.fields.join(u", "_s);
     return source.file.isEmpty() ? words : words + u" ("_s + source.file + u')';
@@ -180,7 +180,7 @@ TemplateList moreOf(const FileReport& report, const QString& folder)
     }
     QList<Entry> sources;
     for (const SourceReport& source : report.datasources) {
-        sources.append({sourceWords(source)});
+        sources.append({sourceText(source)});
     }
     QList<Entry> issues;
     for (const IssueReport& issue : report.issues) {
@@ -211,7 +211,7 @@ TemplateData cardData(const FileReport& report, qint64 place, const QString& fol
     card.set("number", number(place));
     card.set("file", templateText(report.file));
     card.set("verdict", templateText(verdictName(verdictOf(report))));
-    card.set("verdictWords", templateText(verdictWords(verdictOf(report))));
+    card.set("verdictText", templateText(verdictText(verdictOf(report))));
     card.set("status", templateText(statusName(report.status)));
     card.set("reader", templateText(report.reader));
     card.set("lost", number(objectsLost(report)));

@@ -81,7 +81,8 @@ QString HtmlOutput::finish()
         return cannotWrite(m_fileName, m_cards.errorString());
     }
     page.write(HtmlTemplate(u"page_tail.html"_s).filled(pageTailData()));
-    return workbench::commitWhole(page) ? QString() : cannotWrite(m_fileName, page.errorString());
+    return workbench::commitComplete(page) ? QString()
+                                           : cannotWrite(m_fileName, page.errorString());
 }
 
 } // namespace

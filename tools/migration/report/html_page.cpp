@@ -51,10 +51,10 @@ TemplateData figure(const char* address, qint64 count, const QString& words)
 TemplateList figures(const Totals& totals)
 {
     return {
-        figure("status=complete", totals.complete, verdictWords(Verdict::Complete)),
-        figure("status=changed", totals.changed, verdictWords(Verdict::Changed)),
-        figure("status=lossy&sort=lost", totals.lossy, verdictWords(Verdict::Lossy)),
-        figure("status=failed", totals.failed, verdictWords(Verdict::Failed)),
+        figure("status=complete", totals.complete, verdictText(Verdict::Complete)),
+        figure("status=changed", totals.changed, verdictText(Verdict::Changed)),
+        figure("status=lossy&sort=lost", totals.lossy, verdictText(Verdict::Lossy)),
+        figure("status=failed", totals.failed, verdictText(Verdict::Failed)),
     };
 }
 
@@ -87,7 +87,7 @@ TemplateList codeRows(const Totals& totals)
         TemplateData data;
         data.set("files", templateText(number(totals.filesByCode.value(code))));
         data.set("code", templateText(code));
-        data.set("meaning", templateText(row != nullptr ? lossWords(row->kind) : code));
+        data.set("meaning", templateText(row != nullptr ? lossText(row->kind) : code));
         data.set("advice", templateText(row != nullptr ? lossAdvice(row->kind) : QString()));
         rows.push_back(data);
     }
@@ -115,7 +115,7 @@ TemplateList optionsOf(const QMap<QString, qint64>& counts)
 }
 
 // The ways to fail that have a name of their own.
-QString statusWords(Status status)
+QString statusText(Status status)
 {
     switch (status) {
     case Status::Crashed:
@@ -135,10 +135,10 @@ TemplateList statusOptions()
     addOption(options, {}, tr("all"));
     for (const Verdict verdict :
          {Verdict::Complete, Verdict::Changed, Verdict::Lossy, Verdict::Failed}) {
-        addOption(options, verdictName(verdict), verdictWords(verdict));
+        addOption(options, verdictName(verdict), verdictText(verdict));
     }
     for (const Status status : {Status::Crashed, Status::TimedOut, Status::OutOfMemory}) {
-        addOption(options, statusName(status), statusWords(status));
+        addOption(options, statusName(status), statusText(status));
     }
     return options;
 }

@@ -55,8 +55,8 @@ QString JsonLinesOutput::finish()
         return cannotWrite(m_file.fileName(), m_file.errorString());
     }
     write({{u"totals"_s, toJson(m_totals)}});
-    return workbench::commitWhole(m_file) ? QString()
-                                          : cannotWrite(m_file.fileName(), m_file.errorString());
+    return workbench::commitComplete(m_file) ? QString()
+                                             : cannotWrite(m_file.fileName(), m_file.errorString());
 }
 
 } // namespace

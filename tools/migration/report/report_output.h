@@ -24,6 +24,6 @@ public:
 [[nodiscard]] std::unique_ptr<ReportOutput> makeHtmlOutput(const QString& fileName);
 
 /// The error message for a report that cannot be written.
-[[nodiscard]] QString cannotWrite(const QString& fileName, const QString& why);
+[[nodiscard]] QString cannotWrite(const QString& fileName, const QString& reason);
 
 } // namespace migration

@@ -39,11 +39,11 @@ QString ReportWriter::finish()
     return m_output->finish();
 }
 
-QString cannotWrite(const QString& fileName, const QString& why)
+QString cannotWrite(const QString& fileName, const QString& reason)
 {
     return QCoreApplication::translate("migration::ReportWriter",
                                        "Cannot write the report \"%1\": %2.")
-        .arg(fileName, why);
+        .arg(fileName, reason);
 }
 
 } // namespace migration

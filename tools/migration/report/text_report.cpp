@@ -111,7 +111,7 @@ QString times(qint64 count)
     return count > 1 ? u" (×%1)"_s.arg(count) : QString();
 }
 
-QString findingWords(const Finding& finding)
+QString findingText(const Finding& finding)
 {
     QString words = finding.code + times(finding.count) + u": "_s + printable(finding.text);
     if (!finding.details.isEmpty()) {
@@ -120,7 +120,7 @@ QString findingWords(const Finding& finding)
     return words;
 }
 
-QString sourceWords(const SourceReport& source)
+QString sourceText(const SourceReport& source)
 {
     QString words = u"%1: "_s.arg(source.id) + printable(source.kind);
     if (!source.fields.isEmpty()) {
@@ -129,7 +129,7 @@ QString sourceWords(const SourceReport& source)
     return source.file.isEmpty() ? words : words + u" <- "_s + printable(source.file);
 }
 
-QString countWords(const KindCount& count)
+QString countText(const KindCount& count)
 {
     return u"%1 × "_s.arg(count.count) + workbench::shapeTitle(count.kind);
 }
@@ -156,13 +156,13 @@ QString headOf(const FileReport& report)
 
 } // namespace
 
-QString describeForPeople(const FileReport& report)
+QString describeAsText(const FileReport& report)
 {
     return headOf(report) + itemTable(report) +
-           section(tr("Data sources:"), report.datasources, sourceWords) +
-           section(tr("Imported completely:"), report.complete, countWords) +
-           section(tr("Imported with changes:"), report.changed, findingWords) +
-           section(tr("Not imported:"), report.lost, findingWords) +
+           section(tr("Data sources:"), report.datasources, sourceText) +
+           section(tr("Imported completely:"), report.complete, countText) +
+           section(tr("Imported with changes:"), report.changed, findingText) +
+           section(tr("Not imported:"), report.lost, findingText) +
            section(tr("Repaired:"), report.repaired,
                    [](const RepairReport& repair) {
                        return repair.code + u": "_s + printable(repair.text);

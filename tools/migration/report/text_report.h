@@ -10,6 +10,6 @@ namespace migration {
 /// imported completely, with changes or not at all, and warnings. Ends with a line end.
 ///
 /// @param report made with ReportOptions::itemList
-[[nodiscard]] QString describeForPeople(const FileReport& report);
+[[nodiscard]] QString describeAsText(const FileReport& report);
 
 } // namespace migration

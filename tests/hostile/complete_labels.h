@@ -9,13 +9,13 @@
 #include <map>
 
 /// A label of each format that holds an object of every kind that its reader makes.
-class WholeLabels
+class CompleteLabels
 {
 public:
     /// Items of a label by the code that they are made with.
     using Counts = std::map<KestTypes::ShapeType, int>;
 
-    WholeLabels();
+    CompleteLabels();
 
     /// The label's file.
     [[nodiscard]] QString path(ReaderKind reader) const;

@@ -1,4 +1,4 @@
-#include "tests/hostile/whole_labels.h"
+#include "tests/hostile/complete_labels.h"
 
 #include "tests/opendocument/documents.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
@@ -138,19 +138,19 @@ void write(const QString& path, const QByteArray& bytes)
 
 } // namespace
 
-WholeLabels::WholeLabels()
+CompleteLabels::CompleteLabels()
 {
     write(path(ReaderKind::Tavrel), canvasFile());
     write(path(ReaderKind::Orvanta), xmlLabel());
     write(path(ReaderKind::OpenDocument), openDocumentFile());
 }
 
-QString WholeLabels::path(ReaderKind reader) const
+QString CompleteLabels::path(ReaderKind reader) const
 {
     return m_folder.filePath(QStringLiteral("label.") + QLatin1String(suffixOf(reader)));
 }
 
-WholeLabels::Counts WholeLabels::items(ReaderKind reader)
+CompleteLabels::Counts CompleteLabels::items(ReaderKind reader)
 {
     using namespace KestTypes;
     switch (reader) {

@@ -1,4 +1,4 @@
-#include "workbench/import/issue_words.h"
+#include "workbench/import/issue_text.h"
 
 #include "host/services/white_space.h"
 #include "messages/reader_messages.h"
@@ -26,45 +26,45 @@ struct Row
     const char* words; ///< %1: the first argument of the message
 };
 
-#define WORDS(text) QT_TRANSLATE_NOOP("workbench::IssueWords", text)
+#define TEXT(text) QT_TRANSLATE_NOOP("workbench::IssueText", text)
 // Other debug records are for developers; other error records are shown unchanged.
 constexpr std::array Rows{
-    Row{messages::ControlUnknown, WORDS("Left out an object of the unknown type \"%1\".")},
+    Row{messages::ControlUnknown, TEXT("Left out an object of the unknown type \"%1\".")},
     Row{messages::DocumentTypeUnsupported,
-        WORDS("The document is neither a text nor a drawing; nothing was imported from it.")},
+        TEXT("The document is neither a text nor a drawing; nothing was imported from it.")},
     Row{messages::RecordTypeUnknown,
-        WORDS("The file continues with an object of the unknown type %1; the rest was not read.")},
+        TEXT("The file continues with an object of the unknown type %1; the rest was not read.")},
     Row{messages::SymbolsUnreadable.text,
-        WORDS("Left out symbols: neither the file nor the symbol databases contain their "
-              "drawings.")},
-    Row{messages::BarcodesUnsupported.text, WORDS("Left out barcodes of unsupported types.")},
+        TEXT("Left out symbols: neither the file nor the symbol databases contain their "
+             "drawings.")},
+    Row{messages::BarcodesUnsupported.text, TEXT("Left out barcodes of unsupported types.")},
     Row{messages::DatabaseNotConnected.text,
-        WORDS("The database is no longer connected; the label shows its last values.")},
-    Row{refusals::ItemRefused, WORDS("Left out an object that the program could not create.")},
+        TEXT("The database is no longer connected; the label shows its last values.")},
+    Row{refusals::ItemRefused, TEXT("Left out an object that the program could not create.")},
     Row{refusals::DatasourceRefused,
-        WORDS("Left out a data source that the program could not create.")},
-    Row{refusals::PictureTooLarge, WORDS("Left out a picture that is too large.")},
-    Row{refusals::PictureFormat, WORDS("Left out a picture of an unsupported format.")},
-    Row{refusals::PictureUnreadable, WORDS("Left out a picture that is damaged or too large.")},
-    Row{refusals::TextTooLong, WORDS("Left out a text that is too long.")},
-    Row{refusals::TooManyItems, WORDS("The file has too many objects; the rest was not read.")},
-    Row{refusals::TooManyNotes, WORDS("Further texts were stretched; they are not listed.")},
+        TEXT("Left out a data source that the program could not create.")},
+    Row{refusals::PictureTooLarge, TEXT("Left out a picture that is too large.")},
+    Row{refusals::PictureFormat, TEXT("Left out a picture of an unsupported format.")},
+    Row{refusals::PictureUnreadable, TEXT("Left out a picture that is damaged or too large.")},
+    Row{refusals::TextTooLong, TEXT("Left out a text that is too long.")},
+    Row{refusals::TooManyItems, TEXT("The file has too many objects; the rest was not read.")},
+    Row{refusals::TooManyNotes, TEXT("Further texts were stretched; they are not listed.")},
     Row{refusals::PackageMemberUnreadable,
-        WORDS("A file in the package is missing, damaged or too large.")},
+        TEXT("A file in the package is missing, damaged or too large.")},
     Row{refusals::PackagePictureUnreadable,
-        WORDS("Left out a picture that is damaged or too large.")},
-    Row{refusals::PackageDrawingUnreadable, WORDS("Left out a drawing that cannot be converted.")},
+        TEXT("Left out a picture that is damaged or too large.")},
+    Row{refusals::PackageDrawingUnreadable, TEXT("Left out a drawing that cannot be converted.")},
 };
 // %1 is a text, %2 a size in points.
-constexpr const char* StretchedText = WORDS("Text \"%1\" was stretched; its font size was %2 pt.");
-#undef WORDS
+constexpr const char* StretchedText = TEXT("Text \"%1\" was stretched; its font size was %2 pt.");
+#undef TEXT
 
 QString translated(const char* words)
 {
-    return QCoreApplication::translate("workbench::IssueWords", words);
+    return QCoreApplication::translate("workbench::IssueText", words);
 }
 
-QString wordsFor(const KnownMessage& message)
+QString textFor(const KnownMessage& message)
 {
     const auto* row = std::find_if(Rows.begin(), Rows.end(), [&message](const Row& candidate) {
         return message.code == QLatin1String(candidate.code);
@@ -171,7 +171,7 @@ bool BoxReader::takeSentence(const messages::Translated& sentence)
     }
     m_lines.remove(0, lines.size());
     const QString code = QString::fromLatin1(sentence.text);
-    m_issues.add({.text = wordsFor({code, {}}), .code = code});
+    m_issues.add({.text = textFor({code, {}}), .code = code});
     return true;
 }
 
@@ -204,7 +204,7 @@ void BoxReader::addNote(const QString& text, const QString& points)
 void addRecord(const LogRecord& record, IssueList& issues)
 {
     const KnownMessage message = recognize(record);
-    const QString words = wordsFor(message);
+    const QString words = textFor(message);
     if (!words.isEmpty()) {
         issues.add({.text = words, .code = message.code});
     } else if (record.isError) {

@@ -12,6 +12,7 @@ namespace workbench {
 ///
 /// @param records  what was logged during the import
 /// @param messages the texts of the message boxes that the reader requested
-[[nodiscard]] QString whyImportFailed(const QList<LogRecord>& records, const QStringList& messages);
+[[nodiscard]] QString importFailureReason(const QList<LogRecord>& records,
+                                          const QStringList& messages);
 
 } // namespace workbench

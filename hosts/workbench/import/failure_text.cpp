@@ -1,4 +1,4 @@
-#include "workbench/import/failure_words.h"
+#include "workbench/import/failure_text.h"
 
 #include "messages/reader_messages.h"
 #include "messages/refusals.h"
@@ -23,35 +23,35 @@ struct Row
     const char* words;
 };
 
-#define WORDS(text) QT_TRANSLATE_NOOP("workbench::FailureWords", text)
+#define TEXT(text) QT_TRANSLATE_NOOP("workbench::FailureText", text)
 constexpr std::array Rows{
     Row{messages::VersionRefused.text,
-        WORDS("Not a binary label, or one of an unsupported version: the file has version %1, the "
-              "oldest supported version is 2000016.")},
+        TEXT("Not a binary label, or one of an unsupported version: the file has version %1, the "
+             "oldest supported version is 2000016.")},
     Row{messages::RecordTypeUnknown,
-        WORDS("Not a label, or a damaged one: the first object has the unknown type %1.")},
-    Row{messages::OpeningFailed, WORDS("Cannot open the file.")},
+        TEXT("Not a label, or a damaged one: the first object has the unknown type %1.")},
+    Row{messages::OpeningFailed, TEXT("Cannot open the file.")},
     Row{messages::DocumentParsingFailed,
-        WORDS("The document is damaged: %1 is not well-formed at line %2, column %3 (%4).")},
+        TEXT("The document is damaged: %1 is not well-formed at line %2, column %3 (%4).")},
     Row{messages::ParsingFailed,
-        WORDS("Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 "
-              "(%4).")},
+        TEXT("Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 "
+             "(%4).")},
     Row{messages::RootElementUnknown,
-        WORDS("The file is XML, but not a label: its root element is not \"qmtx\".")},
+        TEXT("The file is XML, but not a label: its root element is not \"qmtx\".")},
     Row{messages::StylesMissing,
-        WORDS("Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.")},
+        TEXT("Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.")},
     Row{messages::ContentMissing,
-        WORDS("The OpenDocument file is damaged: content.xml is missing or unreadable.")},
-    Row{refusals::NotAFile, WORDS("This is not a regular file.")},
-    Row{refusals::FileTooLarge, WORDS("The file is too large for a label.")},
-    Row{refusals::TooManyControls, WORDS("The file has too many objects for a label.")},
+        TEXT("The OpenDocument file is damaged: content.xml is missing or unreadable.")},
+    Row{refusals::NotAFile, TEXT("This is not a regular file.")},
+    Row{refusals::FileTooLarge, TEXT("The file is too large for a label.")},
+    Row{refusals::TooManyControls, TEXT("The file has too many objects for a label.")},
 };
-constexpr const char* NothingFound = WORDS("The file contains nothing to put on a label.");
-#undef WORDS
+constexpr const char* NothingFound = TEXT("The file contains nothing to put on a label.");
+#undef TEXT
 
 QString translated(const char* words)
 {
-    return QCoreApplication::translate("workbench::FailureWords", words);
+    return QCoreApplication::translate("workbench::FailureText", words);
 }
 
 // All placeholders at once: an argument may look like one.
@@ -70,7 +70,7 @@ QString filled(const QString& words, const QStringList& arguments)
     return result;
 }
 
-QString wordsFor(const LogRecord& record)
+QString textFor(const LogRecord& record)
 {
     const KnownMessage message = recognize(record);
     const auto* row = std::find_if(Rows.begin(), Rows.end(), [&message](const Row& candidate) {
@@ -88,10 +88,10 @@ QString lastError(const QList<LogRecord>& records)
 
 } // namespace
 
-QString whyImportFailed(const QList<LogRecord>& records, const QStringList& messages)
+QString importFailureReason(const QList<LogRecord>& records, const QStringList& messages)
 {
     for (auto record = records.crbegin(); record != records.crend(); ++record) {
-        const QString words = wordsFor(*record);
+        const QString words = textFor(*record);
         if (!words.isEmpty()) {
             return words;
         }

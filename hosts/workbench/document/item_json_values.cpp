@@ -1,4 +1,4 @@
-#include "workbench/document/json_values.h"
+#include "workbench/document/item_json_values.h"
 
 #include "workbench/items/shape_kinds.h"
 

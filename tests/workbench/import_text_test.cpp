@@ -1,8 +1,8 @@
 // The log records of imports, and their explanations for users.
 
-#include "workbench/import/failure_words.h"
+#include "workbench/import/failure_text.h"
 #include "workbench/import/import_log.h"
-#include "workbench/import/issue_words.h"
+#include "workbench/import/issue_text.h"
 #include "workbench/import/known_messages.h"
 
 #include "host/items/simple_text_item.h"
@@ -16,11 +16,11 @@
 
 using workbench::argumentsOf;
 using workbench::collectIssues;
+using workbench::importFailureReason;
 using workbench::ImportIssue;
 using workbench::KnownMessage;
 using workbench::LogRecord;
 using workbench::recognize;
-using workbench::whyImportFailed;
 
 namespace {
 
@@ -53,7 +53,7 @@ struct FailureRow
 
 } // namespace
 
-TEST(FailureWords, ExplainTheMessagesOfTheReaders)
+TEST(FailureText, ExplainTheMessagesOfTheReaders)
 {
     for (const FailureRow& row :
          {FailureRow{"Invalid canvas file version (2000015 != 2000024) in /a/b.cnv",
@@ -75,33 +75,33 @@ TEST(FailureWords, ExplainTheMessagesOfTheReaders)
                      "unreadable."},
           FailureRow{"Unable to get file content.",
                      "The OpenDocument file is damaged: content.xml is missing or unreadable."}}) {
-        EXPECT_EQ(whyImportFailed({debugRecord("before"), debugRecord(row.message)}, {}),
+        EXPECT_EQ(importFailureReason({debugRecord("before"), debugRecord(row.message)}, {}),
                   QString::fromLatin1(row.words));
     }
 }
 
-TEST(FailureWords, ExplainARefusalByItsCodeWhateverItsMessage)
+TEST(FailureText, ExplainARefusalByItsCodeWhateverItsMessage)
 {
-    EXPECT_EQ(whyImportFailed({refusal(refusals::FileTooLarge)}, {}),
+    EXPECT_EQ(importFailureReason({refusal(refusals::FileTooLarge)}, {}),
               QStringLiteral("The file is too large for a label."));
-    EXPECT_EQ(whyImportFailed({refusal(refusals::TooManyControls)}, {}),
+    EXPECT_EQ(importFailureReason({refusal(refusals::TooManyControls)}, {}),
               QStringLiteral("The file has too many objects for a label."));
 }
 
-TEST(FailureWords, FallBackToTheMessageBoxThenToTheLogThenToNothingReadable)
+TEST(FailureText, FallBackToTheMessageBoxThenToTheLogThenToNothingReadable)
 {
     const LogRecord error{true, QStringLiteral("x"), QStringLiteral("Something went wrong")};
     const QString box = QStringLiteral("Errors reading items.");
-    EXPECT_EQ(whyImportFailed({error}, {box}), box);
-    EXPECT_EQ(whyImportFailed({error, debugRecord("later")}, {}), error.message);
-    EXPECT_EQ(whyImportFailed({debugRecord("some debugging")}, {}),
+    EXPECT_EQ(importFailureReason({error}, {box}), box);
+    EXPECT_EQ(importFailureReason({error, debugRecord("later")}, {}), error.message);
+    EXPECT_EQ(importFailureReason({debugRecord("some debugging")}, {}),
               QStringLiteral("The file contains nothing to put on a label."));
 }
 
-TEST(FailureWords, ContentOfAFileIsNotTakenForAPlaceholder)
+TEST(FailureText, ContentOfAFileIsNotTakenForAPlaceholder)
 {
     EXPECT_EQ(
-        whyImportFailed({debugRecord("Error parsing file: x at line 1, column 2:\n%1 %2")}, {}),
+        importFailureReason({debugRecord("Error parsing file: x at line 1, column 2:\n%1 %2")}, {}),
         QStringLiteral("Not a label, or a damaged one: the XML is not well-formed at line 1, "
                        "column 2 (%1 %2)."));
 }
@@ -135,7 +135,7 @@ TEST(KnownMessages, OtherRecordsHaveNoCode)
     EXPECT_EQ(recognize(debugRecord("No: Not processing: \"x\"")).code, QString());
 }
 
-TEST(IssueWords, TakeTheTextOfABoxApart)
+TEST(IssueText, TakeTheTextOfABoxApart)
 {
     const workbench::Canvas canvas;
     const QList<ImportIssue> issues = collectIssues(
@@ -156,7 +156,7 @@ TEST(IssueWords, TakeTheTextOfABoxApart)
     EXPECT_EQ(issues.at(4).code, QString());
 }
 
-TEST(IssueWords, PointToTheItemThatANoteQuotes)
+TEST(IssueText, PointToTheItemThatANoteQuotes)
 {
     Painted page;
     page.make<TextItem>(KestTypes::SimpleText).setText(QStringLiteral("other"));
@@ -170,7 +170,7 @@ TEST(IssueWords, PointToTheItemThatANoteQuotes)
     EXPECT_EQ(issues.at(1).item, -1);
 }
 
-TEST(IssueWords, CountWhatIsMetAgain)
+TEST(IssueText, CountWhatIsMetAgain)
 {
     const workbench::Canvas canvas;
     const QList<ImportIssue> issues = collectIssues(
@@ -183,7 +183,7 @@ TEST(IssueWords, CountWhatIsMetAgain)
     EXPECT_EQ(issues.at(1).repeats, 1);
 }
 
-TEST(IssueWords, ShowErrorsOfTheLogAndExplainThoseThatAreKnown)
+TEST(IssueText, ShowErrorsOfTheLogAndExplainThoseThatAreKnown)
 {
     const workbench::Canvas canvas;
     const QList<ImportIssue> issues =
@@ -202,7 +202,7 @@ TEST(IssueWords, ShowErrorsOfTheLogAndExplainThoseThatAreKnown)
                            QStringLiteral("Left out a picture that is too large.")}));
 }
 
-TEST(IssueWords, ExplainEveryObjectThatAReaderRefuses)
+TEST(IssueText, ExplainEveryObjectThatAReaderRefuses)
 {
     const workbench::Canvas canvas;
     for (const char* code :

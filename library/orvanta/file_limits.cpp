@@ -1,4 +1,4 @@
-#include "orvanta/document_limits.h"
+#include "orvanta/file_limits.h"
 
 #include <QDomElement>
 #include <QFile>
