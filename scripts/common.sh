@@ -42,11 +42,12 @@ install_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
 }
 
-# build_preset PRESET [CMAKE ARGUMENT...]: configures and builds build/PRESET.
+# build_preset PRESET TARGETS [CMAKE ARGUMENT...]: configures build/PRESET and builds the targets.
 # Ninja shows the progress on a terminal. Elsewhere only the log of a failed build is printed.
 build_preset() {
-    local preset=$1 log
-    shift
+    local preset=$1 targets log
+    read -ra targets <<<"$2"
+    shift 2
     log=$(mktemp)
     if ! (cd "$project_root" && cmake --preset "$preset" "$@") >"$log" 2>&1; then
         cat "$log" >&2
@@ -55,8 +56,8 @@ build_preset() {
         return 1
     fi
     if [ -t 2 ]; then
-        (cd "$project_root" && cmake --build --preset "$preset") >&2 || log=
-    elif ! (cd "$project_root" && cmake --build --preset "$preset") >"$log" 2>&1; then
+        (cd "$project_root" && cmake --build --preset "$preset" --target "${targets[@]}") >&2 || log=
+    elif ! (cd "$project_root" && cmake --build --preset "$preset" --target "${targets[@]}") >"$log" 2>&1; then
         cat "$log" >&2
         rm -f "$log"
         log=

@@ -26,7 +26,7 @@ TEST_F(ArchiveRun, WritesTheOutputsOfAllFilesInTheirFolders)
     EXPECT_EQ(run(), lines({"done a.cnv: a.png", "done b/c/d.cnv: b/c/d.png"}));
     EXPECT_EQ(output(u"a.png"_s), "ok one");
     EXPECT_EQ(output(u"b/c/d.png"_s), "ok two");
-    EXPECT_EQ(strays(), QStringList());
+    EXPECT_EQ(unexpectedFiles(), QStringList());
 }
 
 TEST_F(ArchiveRun, IsOverAtOnceWithoutFiles)
@@ -156,10 +156,10 @@ TEST_F(ArchiveRun, ReportsTheSameForAnyNumberOfWorkers)
         SCOPED_TRACE(workers);
         settings.workers = workers;
         settings.outputFolder = folder.path(u"out%1"_s.arg(workers));
-        const QStringList lines = run();
-        EXPECT_EQ(lines.size(), 28);
-        first = first.isEmpty() ? lines : first;
-        EXPECT_EQ(lines, first);
+        const QStringList reported = run();
+        EXPECT_EQ(reported.size(), 28);
+        first = first.isEmpty() ? reported : first;
+        EXPECT_EQ(reported, first);
     }
 }
 
@@ -181,9 +181,9 @@ TEST_F(ArchiveRun, WritesNeitherOfTwoFilesThatWouldBecomeOne)
 {
     input(u"a.cnv"_s, "ok");
     inputs.append({inputs.first().path, u"other/a.cnv"_s, {}});
-    const QStringList lines = run();
-    ASSERT_EQ(lines.size(), 2);
-    for (const QString& line : lines) {
+    const QStringList reported = run();
+    ASSERT_EQ(reported.size(), 2);
+    for (const QString& line : reported) {
         EXPECT_TRUE(line.contains(u"Another input has the same name"_s));
     }
     EXPECT_FALSE(folder.has(u"out/a.png"_s));
@@ -193,9 +193,9 @@ TEST_F(ArchiveRun, NeverOverwritesAForeignFile)
 {
     folder.write(u"out/a.png"_s, "somebody's");
     input(u"a.cnv"_s, "ok");
-    const QStringList lines = run();
-    EXPECT_TRUE(lines.value(0).startsWith(u"failed a.cnv: "_s));
-    EXPECT_TRUE(lines.value(0).contains(u"--force"_s));
+    const QStringList reported = run();
+    EXPECT_TRUE(reported.value(0).startsWith(u"failed a.cnv: "_s));
+    EXPECT_TRUE(reported.value(0).contains(u"--force"_s));
     EXPECT_EQ(output(u"a.png"_s), "somebody's");
     settings.mayReplace = [](const QString&) { return true; };
     EXPECT_EQ(run(), lines({"done a.cnv: a.png"}));
