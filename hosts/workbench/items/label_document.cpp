@@ -3,6 +3,7 @@
 #include "workbench/items/font_families.h"
 #include "workbench/items/item_limits.h"
 
+#include <QChildEvent>
 #include <QImage>
 #include <QRegularExpression>
 #include <QTextBlock>
@@ -39,20 +40,9 @@ void boundStretch(QTextDocument& document, const Stretch& stretch)
     cursor.mergeCharFormat(format);
 }
 
-} // namespace
-
-LabelDocument::LabelDocument(QObject* parent)
-    : QTextDocument(parent)
+/// What a document gets instead of a resource.
+QVariant emptyResource(int type)
 {
-    installSubstitutes();
-    setDocumentMargin(0.0);
-    setUseDesignMetrics(true);
-    setUndoRedoEnabled(false);
-}
-
-QVariant LabelDocument::loadResource(int type, const QUrl& name)
-{
-    Q_UNUSED(name)
     // An empty answer is not enough: the layout would then open the picture's name as a file.
     if (type == QTextDocument::ImageResource) {
         QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
@@ -60,6 +50,47 @@ QVariant LabelDocument::loadResource(int type, const QUrl& name)
         return nothing;
     }
     return QByteArray();
+}
+
+} // namespace
+
+LabelDocument::LabelDocument(QObject* parent)
+    : QTextDocument(parent)
+{
+    prepareDocument(*this);
+}
+
+QVariant LabelDocument::loadResource(int type, const QUrl& name)
+{
+    Q_UNUSED(name)
+    return emptyResource(type);
+}
+
+ResourceBlocker::ResourceBlocker(QObject& control)
+{
+    control.installEventFilter(this);
+}
+
+QVariant ResourceBlocker::loadResource(int type, const QUrl& name)
+{
+    Q_UNUSED(name)
+    return emptyResource(type);
+}
+
+bool ResourceBlocker::eventFilter(QObject* control, QEvent* event)
+{
+    if (event->type() == QEvent::ChildAdded) {
+        static_cast<QChildEvent*>(event)->child()->setParent(this);
+    }
+    return QObject::eventFilter(control, event);
+}
+
+void prepareDocument(QTextDocument& document)
+{
+    installSubstitutes();
+    document.setDocumentMargin(0.0);
+    document.setUseDesignMetrics(true);
+    document.setUndoRedoEnabled(false);
 }
 
 void boundFontSizes(QTextDocument& document)

@@ -3,6 +3,7 @@
 #include "workbench/items/label_document.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QChildEvent>
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -14,10 +15,6 @@ namespace workbench {
 RichTextItem::RichTextItem(KestTypes::ShapeType type)
     : Layers(type)
 {
-    // Every text gets our document at once, even if it stays plain, because setHtml() is not
-    // virtual: a QTextDocument would load the resources that the HTML refers to.
-    setDocument(new LabelDocument(this));
-    connect(document(), &QTextDocument::contentsChanged, this, [this] { m_html.reset(); });
     // A text has a frame only if its label specifies one.
     setPenStyle(Qt::NoPen);
 }
@@ -32,6 +29,16 @@ void RichTextItem::setText(const QString& text)
     appearanceChanged();
 }
 
+// The first child is the text control, which creates the document next.
+void RichTextItem::childEvent(QChildEvent* event)
+{
+    if (event->added() && m_blocker == nullptr) {
+        m_blocker = new ResourceBlocker(*event->child());
+        m_blocker->setParent(this);
+    }
+    Layers::childEvent(event);
+}
+
 void RichTextItem::adjustBoxSizeToContent(double width)
 {
     const double bounded = boundedLength(width);
@@ -43,9 +50,27 @@ void RichTextItem::adjustBoxSizeToContent(double width)
     setBoxSize({bounded > 0.0 ? bounded : size.width(), size.height()});
 }
 
+QTextDocument* RichTextItem::existingDocument() const
+{
+    return m_blocker != nullptr ? &preparedDocument() : nullptr;
+}
+
+QTextDocument& RichTextItem::preparedDocument() const
+{
+    QTextDocument& content = *document();
+    if (!m_isPrepared) {
+        m_isPrepared = true;
+        m_html.reset();
+        prepareDocument(content);
+        connect(&content, &QTextDocument::contentsChanged, this, [this] { m_html.reset(); });
+    }
+    return content;
+}
+
 bool RichTextItem::hasDocument() const
 {
-    return !document()->isEmpty();
+    const QTextDocument* content = existingDocument();
+    return content != nullptr && !content->isEmpty();
 }
 
 bool RichTextItem::showsDocument() const
@@ -57,10 +82,11 @@ bool RichTextItem::showsDocument() const
 // every font set, even if empty or if the font is unchanged, and most texts are plain.
 QTextDocument& RichTextItem::labelDocument() const
 {
-    if (const QFont font = toFont(fontValues()); document()->defaultFont() != font) {
-        document()->setDefaultFont(font);
+    QTextDocument& content = preparedDocument();
+    if (const QFont font = toFont(fontValues()); content.defaultFont() != font) {
+        content.setDefaultFont(font);
     }
-    return *document();
+    return content;
 }
 
 PlainText RichTextItem::plainText(bool wraps) const
@@ -141,8 +167,9 @@ void RichTextItem::collect(ItemValues& values) const
 
 const QString& RichTextItem::html() const
 {
+    const bool isDocument = hasDocument(); // forgets the HTML if the document is new
     if (!m_html) {
-        m_html = hasDocument() ? documentHtml(*document()) : QString();
+        m_html = isDocument ? documentHtml(*document()) : QString();
     }
     return *m_html;
 }
@@ -154,6 +181,7 @@ void RichTextItem::restore(const ItemValues& values)
     if (text != TextValues{m_text, html()}) {
         setText(text.text);
         if (!text.html.isEmpty()) {
+            (void)preparedDocument(); // first: the HTML of a label may have margins of its own
             setHtml(text.html);
         }
     }
