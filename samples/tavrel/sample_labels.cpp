@@ -5,7 +5,7 @@
 
 namespace {
 
-// Rows of the stand-in catalogue.
+// Rows of the sample catalog.
 constexpr qint32 whiteLabel = 1;
 constexpr qint32 silverLabel = 37;
 constexpr qint32 yellowLabel = 41;

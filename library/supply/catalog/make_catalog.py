@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the stand-in catalogues LabelType.csv and RibbonType.csv.
+"""Writes the sample tables LabelType.csv and RibbonType.csv.
 
 Old labels name the label and the ribbon they were designed for by row number. A build for
 labels of a real supplier takes that supplier's tables (CMake variable LABELPORT_SUPPLY_DIR).
@@ -7,8 +7,8 @@ This script makes the tables of every other build: a systematic grid of plain su
 columns and with the number of rows that old labels expect. The palette color1.csv is fixed and
 not made here.
 
-    make_catalogue.py [FOLDER]    writes the two files (FOLDER: where this script stands)
-    make_catalogue.py --check     writes nothing, fails when the files are not what it would write
+    make_catalog.py [FOLDER]    writes the two files (default: the folder of this script)
+    make_catalog.py --check     only checks that the files are up to date
 """
 
 import itertools
@@ -27,7 +27,7 @@ RIBBON_ROWS = 11
 EVERY_PRINTER = "FFFFFFFF"
 CUSTOM, SOLID, STRIPED, BLACKMARK = range(4)
 
-# Name of a colour, its code in part numbers, its index in color1.csv.
+# Name of a color, its code in part numbers, its index in color1.csv.
 COLORS = {
     "White": ("WH", 1), "Black": ("BK", 2), "Clear": ("CL", 3), "Silver": ("SI", 83),
     "Gray": ("GY", 84), "Blue": ("BL", 6), "Green": ("GN", 7), "Yellow": ("YE", 8),
@@ -39,7 +39,7 @@ MATERIALS = {"Vinyl": ("V", 1), "Polyester": ("P", 2), "Paper": ("A", 3)}
 
 SOLID_WIDTHS = (0.5, 0.75, 1.0, 1.5, 2.0, 2.5, 3.0, 4.0)
 STRIPED_WIDTHS = (1.0, 2.0, 3.0, 4.0)
-# Ground colour, stripe colour.
+# Ground color, stripe color.
 STRIPES = (
     ("White", "Red"), ("White", "Blue"), ("White", "Green"), ("White", "Orange"),
     ("Yellow", "Black"), ("Red", "White"))
@@ -114,12 +114,12 @@ def csv_table(header, rows, expected_rows):
         sys.exit(f"{len(rows)} rows instead of {expected_rows}")
     skus = [row[0] for row in rows if row[0]]
     if len(set(skus)) != len(skus):
-        sys.exit("a part number stands twice")
+        sys.exit("a part number occurs twice")
     lines = [",".join(map(csv_field, row)) + "\r\n" for row in [header, *rows]]
     return "".join(lines).encode("latin-1")
 
 
-def catalogues():
+def tables():
     labels = itertools.chain(generic_labels(), solid_labels(), striped_labels(), die_cut_labels())
     return {"LabelType.csv": csv_table(LABEL_HEADER, labels, LABEL_ROWS),
             "RibbonType.csv": csv_table(RIBBON_HEADER, ribbons(), RIBBON_ROWS)}
@@ -128,13 +128,13 @@ def catalogues():
 def main(arguments):
     here = pathlib.Path(__file__).resolve().parent
     if arguments == ["--check"]:
-        stale = [name for name, content in catalogues().items()
+        stale = [name for name, content in tables().items()
                  if (here / name).read_bytes() != content]
         if stale:
-            sys.exit(f"not what make_catalogue.py writes: {', '.join(stale)}")
+            sys.exit(f"not up to date; run make_catalog.py: {', '.join(stale)}")
         return
     folder = pathlib.Path(arguments[0]) if arguments else here
-    for name, content in catalogues().items():
+    for name, content in tables().items():
         (folder / name).write_bytes(content)
 
 
