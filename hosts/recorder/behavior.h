@@ -2,8 +2,11 @@
 
 #include "host/kest_types.h"
 
+#include <QByteArray>
+#include <QHash>
 #include <QSet>
 #include <QSizeF>
+#include <QString>
 
 #include <functional>
 #include <optional>
@@ -13,8 +16,13 @@ namespace recorder {
 /// How a recording host behaves. By default without faults; tests and measurements change it.
 struct Behavior
 {
-    // What the services reply.
+    // What items and services reply.
 
+    /// The size of every new item, in points.
+    QSizeF itemSize{0, 0};
+    /// The width of a character of rich text, in points. A text is no wider than its box; if 0,
+    /// it is as wide as its box.
+    double characterWidth = 0;
     /// The size of every symbol; if unset, that of its drawing.
     std::optional<QSizeF> symbolSize;
     /// How the symbol creator converts a drawing.
@@ -25,6 +33,15 @@ struct Behavior
         StaysEmpty, ///< reports success, and has no symbol
     };
     Conversion conversion = Conversion::OfSvg;
+    /// The content of the symbol databases, by path and then by symbol name; if unset, the
+    /// databases' files are read.
+    std::optional<QHash<QString, QHash<QString, QByteArray>>> symbols;
+
+    // What the trace contains.
+
+    /// Also an item's layer, lock and position, which are Qt's own operations: setZValue,
+    /// setMovable, setPos. For items that are created from now on.
+    bool recordsPlacement = false;
 
     // Faults.
 

@@ -74,6 +74,8 @@ public:
     /// Symbol creators that were created, and those that still exist.
     int symbolCreatorsMade = 0;
     int symbolCreators = 0;
+    /// Symbol databases that still exist.
+    int symbolDatabases = 0;
 
     /// The number for a new symbol database, from 1.
     [[nodiscard]] int addSymbolDatabase() { return ++m_symbolDatabases; }

@@ -52,6 +52,7 @@ public:
     [[nodiscard]] std::vector<ItemState> itemStates() const { return m_recording->itemStates(); }
     [[nodiscard]] int symbolCreatorsMade() const { return m_recording->symbolCreatorsMade; }
     [[nodiscard]] int symbolCreators() const { return m_recording->symbolCreators; }
+    [[nodiscard]] int symbolDatabases() const { return m_recording->symbolDatabases; }
     /// Items that the factory created, and those that were added to the canvas.
     [[nodiscard]] int createdCount() const { return m_recording->nextItemNumber() - 1; }
     [[nodiscard]] int importedCount() const { return m_recording->importedCount(); }

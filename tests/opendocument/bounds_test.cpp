@@ -1,20 +1,16 @@
 // Every limit of the package with its largest accepted and first rejected value.
 
-#include "documents.h"
-#include "fake_host.h"
+#include "reader_fixture.h"
 #include "tests/support/captured_log.h"
 
 #include "limits/xml/markup_scanner.h"
 #include "opendocument/limits.h"
-#include "opendocument/open_office_reader.h"
 #include "opendocument/picture_store.h"
 #include "opendocument/style_memory.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <QtEndian>
-
-#include <gtest/gtest.h>
 
 using namespace opendocument;
 using namespace Qt::StringLiterals;
@@ -36,7 +32,7 @@ PictureStore storeOf(const QMap<QString, QByteArray>& members)
     return PictureStore([members](const QString& name, qint64) { return members.value(name); });
 }
 
-class OpenDocumentBounds : public testing::Test
+class OpenDocumentBounds : public ReaderTest
 {
 protected:
     QString messageFor(const QByteArray& styles, const QByteArray& content)
@@ -45,9 +41,6 @@ protected:
         EXPECT_FALSE(reader.importLabelFromFile(Package(styles, content).write()));
         return log.messages().last();
     }
-
-    FakeHost host;
-    OpenOfficeReader reader{&host, nullptr};
 };
 
 } // namespace
@@ -106,9 +99,9 @@ TEST_F(OpenDocumentBounds, MeasureTheStylesThatStay)
         left -= memoryOfName(longName);
     }
     ASSERT_TRUE(import(named(QByteArray((left - memoryOfName(0)) / 2, 'z')), {}));
-    EXPECT_EQ(fill(), u"#ff040506"_s) << "just as much as may stay";
+    EXPECT_EQ(fill(), u"'#ff040506'"_s) << "just as much as may stay";
     ASSERT_TRUE(import(named("j"), {}));
-    EXPECT_NE(fill(), u"#ff040506"_s) << "a style too many";
+    EXPECT_NE(fill(), u"'#ff040506'"_s) << "a style too many";
 }
 
 TEST_F(OpenDocumentBounds, CountThePixelsOfAPicture)

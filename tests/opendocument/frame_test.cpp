@@ -1,16 +1,10 @@
 // Frames: text boxes and pictures.
 
-#include "documents.h"
-#include "fake_host.h"
+#include "reader_fixture.h"
 #include "tests/support/captured_log.h"
 
-#include "opendocument/open_office_reader.h"
-
 #include <QBuffer>
-#include <QGraphicsItem>
 #include <QImage>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -26,14 +20,16 @@ QByteArray picture(int width, int height, const char* format = "PNG")
     return buffer.data();
 }
 
-class Frame : public testing::Test
+const QByteArray Drawing = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1\" height=\"1\"/>";
+
+class Frame : public ReaderTest
 {
 protected:
     Frame()
     {
         package.add(u"Pictures/a.png"_s, picture(5, 6));
         package.add(u"Pictures/b.jpg"_s, picture(3, 4, "JPG"));
-        package.add(u"Pictures/c.svg"_s, "<svg/>");
+        package.add(u"Pictures/c.svg"_s, Drawing);
         package.add(u"Pictures/bad.svg"_s, "no drawing");
         package.add(u"Pictures/bad.png"_s, "no picture");
         package.add(u"Pictures/two.parts.png"_s, picture(1, 1));
@@ -61,13 +57,9 @@ protected:
     {
         package.add(u"styles.xml"_s, stylesXml()).add(u"content.xml"_s, content);
         ASSERT_TRUE(reader.importLabelFromFile(package.write()));
-        calls = host.journal().sliced(1, host.journal().size() - 2);
     }
 
     Package package;
-    FakeHost host;
-    OpenOfficeReader reader{&host, nullptr};
-    QStringList calls;
 };
 
 QByteArray images(const QByteArrayList& names, const QByteArray& attributes = {})
@@ -89,23 +81,14 @@ TEST_F(Frame, TextBoxMakesItsCallsInOrder)
                "draw:transform=\"rotate (-1.5707963267949)\"><draw:text-box>"
                "<text:p>x</text:p></draw:text-box></draw:frame>",
            "draw:fill=\"solid\"");
-    EXPECT_EQ(calls, (QStringList{
-                         u"factory.create Rectangle"_s,
-                         u"canvas.importItem 1"_s,
-                         u"item1.setItemSize 216 288"_s,
-                         u"item1.setFlipHorizontal false"_s,
-                         u"item1.setFlipVertical false"_s,
-                         u"item1.setPenStyle 0"_s,
-                         u"item1.setPenWidth 0"_s,
-                         u"item1.setItemRotation 90"_s,
-                         u"item1.setBrushStyle 1"_s,
-                         u"factory.create RichText"_s,
-                         u"item2.adjustBoxSizeToContent 216"_s,
-                         u"item2.getItemWidth"_s,
-                         u"item2.getItemHeight"_s,
-                         u"canvas.importItem 2"_s,
-                         u"item2.setItemRotation 90"_s,
-                     }));
+    EXPECT_EQ(
+        itemCalls(),
+        lines({"factory create 1002a", "canvas importItem 'item:1'", "item:1 setItemSize 216 288",
+               "item:1 setFlipHorizontal false", "item:1 setFlipVertical false",
+               "item:1 setPenStyle 0", "item:1 setPenWidth 0", "item:1 setItemRotation 90",
+               "item:1 setBrushStyle 1", "factory create 10016",
+               "item:2 adjustBoxSizeToContent 216", "item:2 getItemWidth", "item:2 getItemHeight",
+               "canvas importItem 'item:2'", "item:2 setItemRotation 90"}));
     EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));
     EXPECT_EQ(host.item(1)->zValue(), 2000);
     EXPECT_NEAR(host.item(2)->pos().x(), 72 + 108 + (144 - 6) - 108, 1e-9);
@@ -130,7 +113,7 @@ TEST_F(Frame, TextBoxMayHaveRoundCorners)
 {
     import("<draw:frame><draw:text-box draw:corner-radius=\"0.5in\"/></draw:frame>"
            "<draw:frame draw:corner-radius=\"1in\"><draw:text-box/></draw:frame>");
-    EXPECT_EQ(host.createdTypes(), (QStringList{u"RoundedRectangle"_s, u"Rectangle"_s}));
+    EXPECT_EQ(host.requestedTypes(), (Types{KestTypes::RoundedRectangle, KestTypes::Rectangle}));
     EXPECT_EQ(host.lastCall(1, u"setCornerRadius"_s), u"36"_s);
 }
 
@@ -138,7 +121,7 @@ TEST_F(Frame, AFrameWithoutAPictureIsATextBox)
 {
     import("<draw:frame/><draw:frame><draw:object/><draw:image xlink:href=\"Pictures/a.png\"/>"
            "</draw:frame>");
-    EXPECT_EQ(host.createdTypes(), (QStringList{u"Rectangle"_s, u"Rectangle"_s}));
+    EXPECT_EQ(host.requestedTypes(), (Types{KestTypes::Rectangle, KestTypes::Rectangle}));
 }
 
 TEST_F(Frame, TextBoxWithoutAParagraphHasNoText)
@@ -222,13 +205,9 @@ TEST_F(Frame, PictureMakesItsCallsInOrder)
     import(images({"a.png"}, Box + "draw:z-index=\"4\" draw:style-name=\"g\" "
                                    "draw:transform=\"rotate (-1.5707963267949)\""),
            "style:mirror=\"horizontal\"");
-    EXPECT_EQ(calls, (QStringList{
-                         u"factory.create Picture"_s,
-                         u"item1.pixmapImportActions 5 6"_s,
-                         u"item1.setItemSize 216 288"_s,
-                         u"item1.setItemRotation 90"_s,
-                         u"canvas.importItem 1"_s,
-                     }));
+    EXPECT_EQ(itemCalls(), lines({"factory create 1000c", "item:1 pixmapImportActions 5 6",
+                                  "item:1 setItemSize 216 288", "item:1 setItemRotation 90",
+                                  "canvas importItem 'item:1'"}));
     EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));
     EXPECT_EQ(host.item(1)->zValue(), 4000);
 }
@@ -245,14 +224,16 @@ TEST_F(Frame, PictureWithoutSizeKeepsItsOwn)
 TEST_F(Frame, DrawingBecomesASymbol)
 {
     import(images({"a.png", "c.svg"}, Box));
-    EXPECT_EQ(calls, (QStringList{
-                         u"factory.create Symbol"_s,
-                         u"item1.loadItemFromData symbol of <svg/>"_s,
-                         u"item1.setItemSize 216 288"_s,
-                         u"canvas.importItem 1"_s,
-                     }));
-    EXPECT_EQ(serviceCalls(), (QStringList{u"new SymbolCreator"_s, u"loadImportedSvg"_s,
-                                           u"convertSvgToSymbol 0 0 216 288"_s}));
+    const QString shown = TestHost::shown(Drawing);
+    EXPECT_EQ(itemCalls(), (QStringList{
+                               u"symbolcreator loadImportedSvg "_s + shown,
+                               u"symbolcreator convertSvgToSymbol [0 0 216 288]"_s,
+                               u"symbolcreator getSymbolData"_s,
+                               u"factory create 1000d"_s,
+                               u"item:1 loadItemFromData "_s + shown,
+                               u"item:1 setItemSize 216 288"_s,
+                               u"canvas importItem 'item:1'"_s,
+                           }));
 }
 
 TEST_F(Frame, SymbolWithoutBothSidesKeepsItsOwn)
@@ -260,21 +241,21 @@ TEST_F(Frame, SymbolWithoutBothSidesKeepsItsOwn)
     import(images({"c.svg"}, "svg:width=\"3in\"") + images({"c.svg"}));
     EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"216 8"_s);
     EXPECT_EQ(host.lastCall(2, u"setItemSize"_s), u"7 8"_s);
-    EXPECT_EQ(serviceCalls().filter(u"convert"_s),
-              (QStringList{u"convertSvgToSymbol 0 0 0 0"_s, u"convertSvgToSymbol 0 0 0 0"_s}));
-    EXPECT_EQ(serviceCalls().count(u"new SymbolCreator"_s), 1) << "one serves all";
+    EXPECT_EQ(host.callsWith("convert"), lines({"symbolcreator convertSvgToSymbol [0 0 0 0]",
+                                                "symbolcreator convertSvgToSymbol [0 0 0 0]"}));
+    EXPECT_EQ(host.recorder().symbolCreatorsMade(), 1) << "one serves all";
 }
 
 TEST_F(Frame, PictureOfTheFirstSuffixIsTaken)
 {
     import(images({"a.png", "b.jpg"}) + images({"two.parts.png", "a.png"}) +
            images({"a.png", "UPPER.PNG"}) + images({"UPPER.PNG", "b.jpg"}));
-    EXPECT_EQ(host.lastCall(1, u"pixmapImportActions"_s), u"3 4"_s) << "jpg before png";
-    EXPECT_EQ(host.lastCall(2, u"pixmapImportActions"_s), u"1 1"_s)
+    EXPECT_EQ(host.lastCall(1, u"pixmapImportActions"_s), u"3x4"_s) << "jpg before png";
+    EXPECT_EQ(host.lastCall(2, u"pixmapImportActions"_s), u"1x1"_s)
         << "the complete suffix is parts.png, which precedes png";
-    EXPECT_EQ(host.lastCall(3, u"pixmapImportActions"_s), u"2 2"_s)
+    EXPECT_EQ(host.lastCall(3, u"pixmapImportActions"_s), u"2x2"_s)
         << "letters do not matter, and the last of a suffix counts";
-    EXPECT_EQ(host.lastCall(4, u"pixmapImportActions"_s), u"3 4"_s)
+    EXPECT_EQ(host.lastCall(4, u"pixmapImportActions"_s), u"3x4"_s)
         << "capital letters come no earlier";
 }
 
@@ -299,7 +280,7 @@ TEST_F(Frame, NothingOutsideThePackageIsOpened)
 
 TEST_F(Frame, PicturesThatTheHostDoesNotMakeAreLeftOut)
 {
-    host.refusedTypes = {KestTypes::Picture, KestTypes::Symbol};
+    host.behavior().refusedTypes = {KestTypes::Picture, KestTypes::Symbol};
     import(images({"a.png"}) + images({"c.svg"}) + "<draw:rect/>");
     EXPECT_EQ(host.importedCount(), 1);
 }
@@ -312,7 +293,7 @@ TEST_F(Frame, WhatGivesNoPictureTakesNoPlaceInTheFlow)
                images({"a.png"}, "svg:height=\"1in\"") + images({"c.svg"}, "svg:height=\"2in\"") +
                "<text:p>x</text:p>");
     EXPECT_EQ(host.item(3)->pos(), QPointF(0, 216)) << "below the two that are pictures";
-    host.refusedTypes = {KestTypes::Picture, KestTypes::Symbol};
+    host.behavior().refusedTypes = {KestTypes::Picture, KestTypes::Symbol};
     importText(images({"a.png"}, high) + images({"c.svg"}, high) + "<text:p>x</text:p>");
     EXPECT_EQ(host.item(4)->pos(), QPointF(0, 0)) << "the host makes neither";
 }
@@ -331,7 +312,7 @@ TEST_F(Frame, AMissingPositionIsZeroForTheTextBesideAPicture)
 
 TEST_F(Frame, ABoxThatTheHostDoesNotMakeTakesNoPlaceInTheFlow)
 {
-    host.refusedTypes = {KestTypes::Rectangle};
+    host.behavior().refusedTypes = {KestTypes::Rectangle};
     importText("<draw:frame svg:height=\"5in\"><draw:text-box/></draw:frame><text:p>x</text:p>");
     EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
 }

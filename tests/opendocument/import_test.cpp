@@ -1,17 +1,11 @@
 // Complete imports: the package, the page, the log, and what is kept for the next file.
 
-#include "documents.h"
-#include "fake_host.h"
+#include "reader_fixture.h"
 #include "tests/support/captured_log.h"
-
-#include "opendocument/open_office_reader.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGraphicsItem>
 #include <QLocale>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -20,34 +14,25 @@ namespace {
 const QByteArray OneRectangle = "<draw:rect svg:width=\"1in\" svg:height=\"1in\"/>";
 const QString ImportSignature = u"bool OpenOfficeReader::importLabelFromFile(const QString&)"_s;
 
-class Import : public testing::Test
+class Import : public ReaderTest
 {
 protected:
-    bool import(const QByteArray& styles, const QByteArray& content)
-    {
-        Package package(styles, content);
-        return reader.importLabelFromFile(package.write());
-    }
-
     // The canvas parameters of a document with such a page.
     QString page(const QByteArray& attributes)
     {
         host.forgetCalls();
         EXPECT_TRUE(import(stylesXml(attributes), drawingXml("")));
-        return host.journal().value(0).remove(u"canvas.importCanvasParameters "_s);
+        return host.calls().value(0).remove(u"canvas importCanvasParameters "_s);
     }
-
-    FakeHost host;
-    OpenOfficeReader reader{&host, nullptr};
 };
 
 // A failed import must leave the canvas unchanged.
-void expectFailure(FakeHost& host, OpenOfficeReader& reader, const QString& path,
+void expectFailure(TestHost& host, OpenOfficeReader& reader, const QString& path,
                    const QString& message)
 {
     const CapturedLog log;
     EXPECT_FALSE(reader.importLabelFromFile(path));
-    EXPECT_TRUE(host.journal().isEmpty());
+    EXPECT_TRUE(host.calls().isEmpty());
     ASSERT_EQ(log.records().size(), 1) << log.messages().join(u'\n').toStdString();
     const auto& record = log.records().last();
     EXPECT_EQ(record.level, Logger::Debug);
@@ -62,10 +47,10 @@ TEST_F(Import, SetsThePageThenTheItemsThenCompletesTheCanvas)
 {
     const CapturedLog log;
     EXPECT_TRUE(import(stylesXml(), drawingXml(OneRectangle)));
-    EXPECT_EQ(host.journal().first(), u"canvas.importCanvasParameters 612 792 false true"_s);
-    EXPECT_EQ(host.journal().value(1), u"factory.create Rectangle"_s);
-    EXPECT_EQ(host.journal().last(), u"canvas.completeCanvasLoading"_s);
-    EXPECT_EQ(host.journal().count(u"canvas.completeCanvasLoading"_s), 1);
+    EXPECT_EQ(host.calls().first(), u"canvas importCanvasParameters 612 792 false true"_s);
+    EXPECT_EQ(host.calls().value(1), u"factory create 1002a"_s);
+    EXPECT_EQ(host.calls().last(), u"canvas completeCanvasLoading"_s);
+    EXPECT_EQ(host.calls().count(u"canvas completeCanvasLoading"_s), 1);
     EXPECT_TRUE(log.records().isEmpty()) << log.messages().join(u'\n').toStdString();
 }
 
@@ -177,12 +162,12 @@ TEST_F(Import, KeepsTheFactorOfAUnitThatIsNotKnown)
 TEST_F(Import, CarriesThePageOverToTheNextFile)
 {
     EXPECT_EQ(page("fo:page-width=\"2cm\" fo:page-height=\"4cm\""),
-              u"56.6929 113.386 false true"_s);
-    EXPECT_EQ(page("x=\"y\""), u"56.6929 113.386 false true"_s);
+              u"56.69291339 113.3858268 false true"_s);
+    EXPECT_EQ(page("x=\"y\""), u"56.69291339 113.3858268 false true"_s);
     host.forgetCalls();
     ASSERT_TRUE(import(stylesXml("x=\"y\""), drawingXml("<draw:rect svg:width=\"1cm\" "
                                                         "svg:height=\"2in\"/>")));
-    EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"28.3465 56.6929"_s) << "and its unit";
+    EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"28.34645669 56.69291339"_s) << "and its unit";
 }
 
 TEST_F(Import, CarriesStylesOverToTheNextFile)
@@ -198,8 +183,8 @@ TEST_F(Import, CarriesStylesOverToTheNextFile)
         "fo:font-size=\"30pt\"/></style:style>";
     ASSERT_TRUE(import(stylesXml({}, styles), drawingXml("")));
     ASSERT_TRUE(import(stylesXml(), drawingXml("<draw:rect/><draw:rect draw:style-name=\"g\"/>")));
-    EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), u"#ff010203"_s);
-    EXPECT_EQ(host.lastCall(2, u"setFillColor"_s), u"#ff040506"_s);
+    EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), u"'#ff010203'"_s);
+    EXPECT_EQ(host.lastCall(2, u"setFillColor"_s), u"'#ff040506'"_s);
     ASSERT_TRUE(import(stylesXml(), textXml("<text:p>a</text:p>"
                                             "<text:p text:style-name=\"p\">b</text:p>")));
     EXPECT_EQ(host.lastCall(3, u"setFontPointSize"_s), u"20"_s);
@@ -228,7 +213,7 @@ TEST_F(Import, ResetsTheTextFlowAndKeepsTheRestAfterAFailure)
     EXPECT_FALSE(import(stylesXml("fo:page-width=\"9in\" fo:page-height=\"9in\""), "<a"));
     host.forgetCalls();
     ASSERT_TRUE(import(stylesXml("x=\"y\""), text));
-    EXPECT_EQ(host.journal().first(), u"canvas.importCanvasParameters 144 216 false true"_s);
+    EXPECT_EQ(host.calls().first(), u"canvas importCanvasParameters 144 216 false true"_s);
     EXPECT_EQ(host.item(3)->pos(), QPointF(0, 0));
     EXPECT_EQ(host.item(4)->pos(), QPointF(0, 12));
 }
@@ -242,7 +227,7 @@ TEST_F(Import, ReadsTheSameInALocaleWithADecimalComma)
                                   "draw:transform=\"rotate (1.5707963267949) "
                                   "translate (0.5in 1.5in)\"><text:p>x</text:p></draw:rect>")));
     QLocale::setDefault(before);
-    EXPECT_EQ(host.journal().first(), u"canvas.importCanvasParameters 108 180 false true"_s);
+    EXPECT_EQ(host.calls().first(), u"canvas importCanvasParameters 108 180 false true"_s);
     EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"36 18"_s);
     EXPECT_EQ(host.lastCall(1, u"setItemRotation"_s), u"270"_s);
     EXPECT_EQ(host.item(1)->pos(), QPointF(36, 108));
@@ -274,10 +259,11 @@ TEST(Uncompressed, ReadsMembersThatAreStoredUncompressed)
                                             "xlink:href=\"Pictures/a.png\"/></draw:frame>"));
     package.add(u"Pictures/a.png"_s, picture).storeUncompressed();
     ASSERT_TRUE(package.bytes().contains("<draw:rect/>")) << "nothing is compressed";
-    FakeHost host;
-    OpenOfficeReader reader(&host, nullptr);
+    TestHost host;
+    OpenOfficeReader reader(host.canvas(), nullptr);
     EXPECT_TRUE(reader.importLabelFromFile(package.write()));
-    EXPECT_EQ(host.createdTypes(), (QStringList{u"Rectangle"_s, u"Picture"_s}));
+    EXPECT_EQ(host.requestedTypes(),
+              (QList<KestTypes::ShapeType>{KestTypes::Rectangle, KestTypes::Picture}));
 
     QByteArray damaged = package.bytes();
     damaged.replace("<draw:rect/>", "<draw:reft/>");

@@ -1,17 +1,9 @@
 // Paragraphs of a text document: runs, their positions, and how the flow advances.
-//
-// The fake host's runs are 12 points high and ten points wide per character, up to their
-// maximum width. The page is 612 points wide.
+// The page is 612 points wide.
 
-#include "documents.h"
-#include "fake_host.h"
+#include "reader_fixture.h"
 
 #include "opendocument/limits.h"
-#include "opendocument/open_office_reader.h"
-
-#include <QGraphicsItem>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +31,7 @@ QByteArray frame(const QByteArray& style, const QByteArray& attributes = {})
            attributes + "><draw:text-box/></draw:frame>";
 }
 
-class Paragraph : public testing::Test
+class Paragraph : public ReaderTest
 {
 protected:
     void import(const QByteArray& text)
@@ -56,19 +48,13 @@ protected:
             frameStyle("parallel", "style:wrap=\"parallel\"") +
             frameStyle("front", "style:wrap=\"run-through\"") +
             frameStyle("back", "style:wrap=\"run-through\" style:run-through=\"background\"");
-        Package package(stylesXml(), textXml(text, styles));
-        ASSERT_TRUE(reader.importLabelFromFile(package.write()));
-        calls = host.journal().sliced(1, host.journal().size() - 2);
+        ASSERT_TRUE(ReaderTest::import(stylesXml(), textXml(text, styles)));
     }
 
     [[nodiscard]] QPointF pos(int item) const
     {
         return host.item(item) != nullptr ? host.item(item)->pos() : QPointF(-7, -7);
     }
-
-    FakeHost host;
-    OpenOfficeReader reader{&host, nullptr};
-    QStringList calls;
 };
 
 } // namespace
@@ -76,20 +62,12 @@ protected:
 TEST_F(Paragraph, RunMakesItsCallsInOrder)
 {
     import("<text:p text:style-name=\"right\">abc</text:p>");
-    EXPECT_EQ(calls, (QStringList{
-                         u"factory.create RichText"_s,
-                         u"canvas.importItem 1"_s,
-                         u"item1.setText abc"_s,
-                         u"item1.setFontFamily _Nare Vol"_s,
-                         u"item1.setFontBold true"_s,
-                         u"item1.setFontItalic false"_s,
-                         u"item1.setFontUnderline false"_s,
-                         u"item1.setFontPointSize 20"_s,
-                         u"item1.adjustBoxSizeToContent 612"_s,
-                         u"item1.getItemWidth"_s,
-                         u"item1.setTextAlignment 2"_s,
-                         u"item1.getItemHeight"_s,
-                     }));
+    EXPECT_EQ(itemCalls(),
+              lines({"factory create 10016", "canvas importItem 'item:1'", "item:1 setText 'abc'",
+                     "item:1 setFontFamily '_Nare Vol'", "item:1 setFontBold true",
+                     "item:1 setFontItalic false", "item:1 setFontUnderline false",
+                     "item:1 setFontPointSize 20", "item:1 adjustBoxSizeToContent 612",
+                     "item:1 getItemWidth", "item:1 setTextAlignment 2", "item:1 getItemHeight"}));
     EXPECT_EQ(pos(1), QPointF(612 - 30 - 18, 0));
     EXPECT_EQ(host.item(1)->zValue(), 0);
 }
@@ -142,8 +120,8 @@ TEST_F(Paragraph, SpansFallBackToTheParagraphsStyle)
 {
     import("<text:p text:style-name=\"center\"><text:span>a</text:span>"
            "<text:span text:style-name=\"unknown\">b</text:span></text:p>");
-    EXPECT_EQ(host.lastCall(1, u"setFontFamily"_s), u"Arial"_s);
-    EXPECT_EQ(host.lastCall(2, u"setFontFamily"_s), u"Arial"_s);
+    EXPECT_EQ(host.lastCall(1, u"setFontFamily"_s), u"'Arial'"_s);
+    EXPECT_EQ(host.lastCall(2, u"setFontFamily"_s), u"'Arial'"_s);
 }
 
 TEST_F(Paragraph, SpacesAndTabsMoveTheCursor)
@@ -170,7 +148,7 @@ TEST_F(Paragraph, LineThatExceedsThePageContinuesBelow)
 TEST_F(Paragraph, FrameWithoutWrapPushesTheTextDown)
 {
     import("<text:p>a" + frame("none") + frame("none") + "</text:p><text:p>b</text:p>");
-    EXPECT_EQ(host.createdTypes().first(), u"Rectangle"_s) << "frames first";
+    EXPECT_EQ(host.requestedTypes().first(), KestTypes::Rectangle) << "frames first";
     EXPECT_EQ(pos(1), QPointF(0, 0));
     EXPECT_NEAR(pos(3).y(), 60, 1e-6);
     EXPECT_NEAR(pos(4).y(), 72, 1e-6);
@@ -227,12 +205,12 @@ TEST_F(Paragraph, ALineEndsBeforeTheNextRunAndNotAfterASpace)
 TEST_F(Paragraph, FramesInsideSpansAreNotRead)
 {
     import("<text:p><text:span>" + frame("none") + "a</text:span></text:p>");
-    EXPECT_EQ(host.createdTypes(), QStringList{u"RichText"_s});
+    EXPECT_EQ(host.requestedTypes(), Types{KestTypes::RichText});
 }
 
 TEST_F(Paragraph, RunsThatTheHostDoesNotMakeTakeNoPlace)
 {
-    host.refusedTypes = {KestTypes::RichText};
+    host.behavior().refusedTypes = {KestTypes::RichText};
     import("<text:p>a</text:p><draw:frame><draw:text-box/></draw:frame>");
     EXPECT_EQ(pos(1), QPointF(0, 0));
 }
@@ -240,7 +218,7 @@ TEST_F(Paragraph, RunsThatTheHostDoesNotMakeTakeNoPlace)
 TEST_F(Paragraph, AMegabyteOfTextIsOneRun)
 {
     import("<text:p>" + QByteArray(1 << 20, 'x') + "</text:p>");
-    EXPECT_EQ(host.lastCall(1, u"setText"_s).size(), 1 << 20);
+    EXPECT_EQ(host.lastCall(1, u"setText"_s).size(), 2 + (1 << 20)) << "in quotation marks";
 }
 
 TEST_F(Paragraph, EndlessTextIsLeftOut)

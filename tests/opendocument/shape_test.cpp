@@ -1,21 +1,15 @@
 // Shapes and lines on the canvas: their calls, and the order of these.
 
-#include "documents.h"
-#include "fake_host.h"
-
-#include "opendocument/open_office_reader.h"
+#include "reader_fixture.h"
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QGraphicsItem>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class Shape : public testing::Test
+class Shape : public ReaderTest
 {
 protected:
     void import(const QByteArray& shapes, const QByteArray& properties = {})
@@ -23,15 +17,8 @@ protected:
         const QByteArray style =
             "<style:style style:family=\"graphic\" style:name=\"g\"><style:graphic-properties " +
             properties + "/></style:style>";
-        Package package(stylesXml(), drawingXml(shapes, style));
-        ASSERT_TRUE(reader.importLabelFromFile(package.write()));
-        // Other tests check the calls before and after the items.
-        calls = host.journal().sliced(1, host.journal().size() - 2);
+        ASSERT_TRUE(ReaderTest::import(stylesXml(), drawingXml(shapes, style)));
     }
-
-    FakeHost host;
-    OpenOfficeReader reader{&host, nullptr};
-    QStringList calls;
 };
 
 const QByteArray Box = "svg:x=\"1in\" svg:y=\"2in\" svg:width=\"3in\" svg:height=\"4in\" ";
@@ -45,21 +32,13 @@ TEST_F(Shape, MakesItsCallsInOrder)
            "style:mirror=\"horizontal\" draw:stroke=\"solid\" svg:stroke-width=\"0.05in\" "
            "svg:stroke-color=\"#112233\" svg:stroke-linecap=\"round\" "
            "draw:stroke-linejoin=\"bevel\" draw:fill=\"gradient\" draw:fill-color=\"#445566\"");
-    EXPECT_EQ(calls, (QStringList{
-                         u"factory.create Rectangle"_s,
-                         u"item1.setItemSize 216 288"_s,
-                         u"item1.setFlipHorizontal true"_s,
-                         u"item1.setFlipVertical false"_s,
-                         u"item1.setPenStyle 1"_s,
-                         u"item1.setPenWidth 3"_s,
-                         u"item1.setPenColor #ff112233"_s,
-                         u"item1.setCapStyle 32"_s,
-                         u"item1.setJoinStyle 64"_s,
-                         u"item1.setItemRotation 90"_s,
-                         u"item1.setBrushStyle 15"_s,
-                         u"item1.setFillColor #ff445566"_s,
-                         u"canvas.importItem 1"_s,
-                     }));
+    EXPECT_EQ(itemCalls(), lines({"factory create 1002a", "item:1 setItemSize 216 288",
+                                  "item:1 setFlipHorizontal true", "item:1 setFlipVertical false",
+                                  "item:1 setPenStyle 1", "item:1 setPenWidth 3",
+                                  "item:1 setPenColor '#ff112233'", "item:1 setCapStyle 32",
+                                  "item:1 setJoinStyle 64", "item:1 setItemRotation 90",
+                                  "item:1 setBrushStyle 15", "item:1 setFillColor '#ff445566'",
+                                  "canvas importItem 'item:1'"}));
     EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));
     EXPECT_EQ(host.item(1)->zValue(), 3000);
 }
@@ -67,18 +46,11 @@ TEST_F(Shape, MakesItsCallsInOrder)
 TEST_F(Shape, LeavesToTheHostWhatIsNotGiven)
 {
     import("<draw:rect/>");
-    EXPECT_EQ(calls, (QStringList{
-                         u"factory.create Rectangle"_s,
-                         u"item1.getItemWidth"_s,
-                         u"item1.getItemHeight"_s,
-                         u"item1.setItemSize 20 10"_s,
-                         u"item1.setFlipHorizontal false"_s,
-                         u"item1.setFlipVertical false"_s,
-                         u"item1.setPenStyle 0"_s,
-                         u"item1.setPenWidth 0"_s,
-                         u"item1.setBrushStyle 0"_s,
-                         u"canvas.importItem 1"_s,
-                     }));
+    EXPECT_EQ(itemCalls(),
+              lines({"factory create 1002a", "item:1 getItemWidth", "item:1 getItemHeight",
+                     "item:1 setItemSize 20 10", "item:1 setFlipHorizontal false",
+                     "item:1 setFlipVertical false", "item:1 setPenStyle 0", "item:1 setPenWidth 0",
+                     "item:1 setBrushStyle 0", "canvas importItem 'item:1'"}));
     EXPECT_EQ(host.item(1)->pos(), QPointF(-1000000001, -1000000001));
     EXPECT_EQ(host.item(1)->zValue(), 0);
 }
@@ -146,8 +118,8 @@ TEST_F(Shape, TextThatIsNotAColorSetsAnInvalidColor)
 {
     import("<draw:rect draw:style-name=\"g\"/>",
            "svg:stroke-color=\"nocolor\" draw:fill-color=\"#12\"");
-    EXPECT_EQ(host.lastCall(1, u"setPenColor"_s), u"invalid"_s);
-    EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), u"invalid"_s);
+    EXPECT_EQ(host.lastCall(1, u"setPenColor"_s), u"null"_s);
+    EXPECT_EQ(host.lastCall(1, u"setFillColor"_s), u"null"_s);
     EXPECT_EQ(host.lastCall(1, u"setBrushStyle"_s), u"1"_s);
 }
 
@@ -184,14 +156,15 @@ TEST_F(Shape, AnEmptyStyleNameIsTheDefaultEvenIfAStyleHasNoName)
 TEST_F(Shape, CornerRadiusIsSetFirst)
 {
     import("<draw:rect draw:corner-radius=\"0.5in\"/>");
-    EXPECT_EQ(calls.value(0), u"factory.create RoundedRectangle"_s);
-    EXPECT_EQ(calls.value(1), u"item1.setCornerRadius 36"_s);
+    EXPECT_EQ(itemCalls().value(0), u"factory create 1002b"_s);
+    EXPECT_EQ(itemCalls().value(1), u"item:1 setCornerRadius 36"_s);
 }
 
 TEST_F(Shape, InvalidCornerRadiusStillRoundsTheRectangle)
 {
     import("<draw:rect draw:corner-radius=\"x\"/><draw:rect draw:corner-radius=\"-1in\"/>");
-    EXPECT_EQ(host.createdTypes(), (QStringList{u"RoundedRectangle"_s, u"RoundedRectangle"_s}));
+    EXPECT_EQ(host.requestedTypes(),
+              (Types{KestTypes::RoundedRectangle, KestTypes::RoundedRectangle}));
     EXPECT_EQ(host.lastCall(1, u"setCornerRadius"_s), QString());
     EXPECT_EQ(host.lastCall(2, u"setCornerRadius"_s), u"-72"_s) << "hosts clamp it";
 }
@@ -219,22 +192,17 @@ TEST_F(Shape, TextIsAboveItsShape)
     import("<draw:rect " + Box +
            "draw:z-index=\"3\" draw:transform=\"rotate (-1.5707963267949)\"><text:p>x</text:p>"
            "</draw:rect>");
-    EXPECT_EQ(calls.sliced(calls.indexOf(u"canvas.importItem 1"_s)),
-              (QStringList{
-                  u"canvas.importItem 1"_s,
-                  u"factory.create RichText"_s,
-                  u"item2.adjustBoxSizeToContent 216"_s,
-                  u"item2.getItemWidth"_s,
-                  u"item2.getItemHeight"_s,
-                  u"canvas.importItem 2"_s,
-                  u"item2.setItemRotation 90"_s,
-              }));
+    EXPECT_EQ(
+        itemCalls().sliced(itemCalls().indexOf(u"canvas importItem 'item:1'"_s)),
+        lines({"canvas importItem 'item:1'", "factory create 10016",
+               "item:2 adjustBoxSizeToContent 216", "item:2 getItemWidth", "item:2 getItemHeight",
+               "canvas importItem 'item:2'", "item:2 setItemRotation 90"}));
     // A text of 216 by 12 in a box of 216 by 288, both rotated about their centers: its upper
     // edge is at the right edge of the box.
     EXPECT_NEAR(host.item(2)->pos().x(), 72 + 108 + (144 - 6) - 108, 1e-9);
     EXPECT_NEAR(host.item(2)->pos().y(), 144 + 144 - 6, 1e-9);
     EXPECT_DOUBLE_EQ(host.item(2)->zValue(), 3000.001);
-    EXPECT_TRUE(host.html(2).contains(u">x<"_s));
+    EXPECT_TRUE(html(2).contains(u">x<"_s));
 }
 
 TEST_F(Shape, TextIsAboveAShapeWithoutOrderToo)
@@ -256,14 +224,12 @@ TEST_F(Shape, TextIsScaledByTheFontOfTheApplication)
     const QFontInfo font(QApplication::font());
     const double pointsPerPixel = font.pointSizeF() / font.pixelSize();
     ASSERT_NE(pointsPerPixel, 1.0) << "a platform on which this shows nothing";
-    Package package(stylesXml(),
-                    drawingXml("<draw:rect><text:p text:style-name=\"P\">x</text:p></draw:rect>",
-                               "<style:style style:family=\"paragraph\" style:name=\"P\">"
-                               "<style:text-properties fo:font-size=\"40pt\"/></style:style>"));
-    ASSERT_TRUE(reader.importLabelFromFile(package.write()));
+    ASSERT_TRUE(ReaderTest::import(
+        stylesXml(), drawingXml("<draw:rect><text:p text:style-name=\"P\">x</text:p></draw:rect>",
+                                "<style:style style:family=\"paragraph\" style:name=\"P\">"
+                                "<style:text-properties fo:font-size=\"40pt\"/></style:style>")));
     const double size = QString::number(40.0 * pointsPerPixel, 'f', 2).toDouble();
-    EXPECT_TRUE(host.html(2).contains(u" font-size:%1pt;"_s.arg(size)))
-        << host.html(2).toStdString();
+    EXPECT_TRUE(html(2).contains(u" font-size:%1pt;"_s.arg(size))) << html(2).toStdString();
 }
 
 TEST_F(Shape, WithoutAParagraphOrVisibleTextHasNone)
@@ -277,12 +243,12 @@ TEST_F(Shape, WithoutAParagraphOrVisibleTextHasNone)
 TEST_F(Shape, WithAParagraphAllItsTextCounts)
 {
     import("<draw:rect><text:h>title</text:h><text:p/></draw:rect>");
-    EXPECT_TRUE(host.html(2).contains(u"title"_s));
+    EXPECT_TRUE(html(2).contains(u"title"_s));
 }
 
 TEST_F(Shape, TextIsLeftOutWhereTheHostMakesNone)
 {
-    host.refusedTypes = {KestTypes::RichText};
+    host.behavior().refusedTypes = {KestTypes::RichText};
     import("<draw:rect><text:p>x</text:p></draw:rect><draw:ellipse/>");
     EXPECT_EQ(host.importedCount(), 2);
 }
@@ -300,18 +266,12 @@ TEST_F(Shape, LinesMakeTheirCallsInOrder)
            "svg:x2=\"3in\" svg:y2=\"4in\"><text:p>no</text:p></draw:line>",
            "svg:stroke-width=\"0.05in\" draw:marker-start=\"Arrow\" "
            "draw:marker-end=\"Dimension_20_Lines\" draw:fill=\"solid\"");
-    EXPECT_EQ(calls, (QStringList{
-                         u"factory.create Line"_s,
-                         u"canvas.importItem 1"_s,
-                         u"item1.setLineStartPoint 72 144"_s,
-                         u"item1.setLineEndPoint 216 288"_s,
-                         u"item1.setFlipHorizontal false"_s,
-                         u"item1.setFlipVertical false"_s,
-                         u"item1.setPenStyle 1"_s,
-                         u"item1.setPenWidth 3"_s,
-                         u"item1.setLineStartMarker 16"_s,
-                         u"item1.setLineEndMarker 8"_s,
-                     }));
+    EXPECT_EQ(itemCalls(),
+              lines({"factory create 1001f", "canvas importItem 'item:1'",
+                     "item:1 setLineStartPoint 72 144", "item:1 setLineEndPoint 216 288",
+                     "item:1 setFlipHorizontal false", "item:1 setFlipVertical false",
+                     "item:1 setPenStyle 1", "item:1 setPenWidth 3", "item:1 setLineStartMarker 16",
+                     "item:1 setLineEndMarker 8"}));
     EXPECT_EQ(host.item(1)->zValue(), 2000);
 }
 

@@ -1,11 +1,6 @@
 // How default, common and automatic styles inherit from each other.
 
-#include "documents.h"
-#include "fake_host.h"
-
-#include "opendocument/open_office_reader.h"
-
-#include <gtest/gtest.h>
+#include "reader_fixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,15 +26,16 @@ QByteArray size(const QByteArray& value)
     return "fo:font-size=\"" + value + "\"";
 }
 
-class StyleSheet : public testing::Test
+class StyleSheet : public ReaderTest
 {
 protected:
     // The font size of a paragraph with this style.
     QString sizeOf(const QByteArray& style, const QByteArray& common,
                    const QByteArray& automatic = {})
     {
-        import(stylesXml({}, common),
-               textXml("<text:p text:style-name=\"" + style + "\">x</text:p>", automatic));
+        EXPECT_TRUE(
+            import(stylesXml({}, common),
+                   textXml("<text:p text:style-name=\"" + style + "\">x</text:p>", automatic)));
         return host.lastCall(host.createdCount(), u"setFontPointSize"_s);
     }
 
@@ -47,19 +43,11 @@ protected:
     QString fillOf(const QByteArray& style, const QByteArray& common,
                    const QByteArray& automatic = {})
     {
-        import(stylesXml({}, common),
-               drawingXml("<draw:rect draw:style-name=\"" + style + "\"/>", automatic));
+        EXPECT_TRUE(
+            import(stylesXml({}, common),
+                   drawingXml("<draw:rect draw:style-name=\"" + style + "\"/>", automatic)));
         return host.lastCall(host.createdCount(), u"setFillColor"_s);
     }
-
-    void import(const QByteArray& styles, const QByteArray& content)
-    {
-        Package package(styles, content);
-        ASSERT_TRUE(reader.importLabelFromFile(package.write()));
-    }
-
-    FakeHost host;
-    OpenOfficeReader reader{&host, nullptr};
 };
 
 } // namespace
@@ -67,7 +55,7 @@ protected:
 TEST_F(StyleSheet, WithoutStylesTheDefaultsHold)
 {
     EXPECT_EQ(sizeOf("missing", ""), u"12"_s);
-    EXPECT_EQ(host.lastCall(1, u"setFontFamily"_s), u"_Nare Vol"_s);
+    EXPECT_EQ(host.lastCall(1, u"setFontFamily"_s), u"'_Nare Vol'"_s);
 }
 
 TEST_F(StyleSheet, DefaultStylesChangeTheDefaults)
@@ -83,9 +71,9 @@ TEST_F(StyleSheet, DefaultStylesChangeTheDefaults)
         "<style:default-style style:family=\"text\"><style:text-properties "
         "fo:font-size=\"98pt\"/></style:default-style>";
     EXPECT_EQ(sizeOf("missing", defaults), u"20"_s);
-    EXPECT_EQ(host.lastCall(1, u"setFontFamily"_s), u"Arial"_s);
+    EXPECT_EQ(host.lastCall(1, u"setFontFamily"_s), u"'Arial'"_s);
     EXPECT_EQ(host.lastCall(1, u"setTextAlignment"_s), u"2"_s);
-    EXPECT_EQ(fillOf("", defaults), u"#ff010203"_s);
+    EXPECT_EQ(fillOf("", defaults), u"'#ff010203'"_s);
 }
 
 TEST_F(StyleSheet, AutomaticDefaultStylesAreNotRead)
@@ -135,7 +123,7 @@ TEST_F(StyleSheet, AStyleMayBuildOnTheOneThatItReplaces)
 TEST_F(StyleSheet, GraphicStylesInheritTheSame)
 {
     const QByteArray parent = graphic("parent", "", "draw:fill-color=\"#010203\"");
-    EXPECT_EQ(fillOf("child", parent + graphic("child", "parent", "")), u"#ff010203"_s);
+    EXPECT_EQ(fillOf("child", parent + graphic("child", "parent", "")), u"'#ff010203'"_s);
     EXPECT_EQ(fillOf("child2", graphic("child2", "parent2", "") +
                                    graphic("parent2", "", "draw:fill-color=\"#010203\"")),
               QString());
@@ -144,7 +132,7 @@ TEST_F(StyleSheet, GraphicStylesInheritTheSame)
 TEST_F(StyleSheet, TextAndGraphicStylesKeepTheirNamesApart)
 {
     EXPECT_EQ(fillOf("a", graphic("a", "", "draw:fill-color=\"#010203\"") + text("a", "", "")),
-              u"#ff010203"_s);
+              u"'#ff010203'"_s);
 }
 
 TEST_F(StyleSheet, OtherFamiliesAreIgnored)

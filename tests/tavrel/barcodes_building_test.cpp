@@ -32,14 +32,15 @@ protected:
 
 TEST_F(BarcodeBuilder, HandsTheStoredPropertiesOver)
 {
-    EXPECT_EQ(buildBarcode(host(), barcode(), binder()), BuildResult::Built);
+    EXPECT_EQ(buildBarcode(canvas(), barcode(), binder()), BuildResult::Built);
     EXPECT_EQ(
-        fake.calls.lines(),
-        lines({"factory create \"1001d\"",
-               "item1 importBarcodeProperties 20 \"42\" yes 132 2 yes no 1 17 3",
-               "item1 setItemSize 60x20", "item1 setItemRotation 30", "item1 setZValue 1003",
-               "item1 setFlag movable yes", "item1 setForegroundColor #ffff0000",
-               "item1 setBackgroundColor #ffffff00", "item1 setPos 100x50", "canvas importItem"}));
+        host.calls(),
+        lines({"factory create 1001d",
+               "item:1 importBarcodeProperties 20 '42' true 132 2 true false 1 17 3",
+               "item:1 setItemSize 60 20", "item:1 setItemRotation 30", "item:1 setZValue 1003",
+               "item:1 setMovable true", "item:1 setForegroundColor '#ffff0000'",
+               "item:1 setBackgroundColor '#ffffff00'", "item:1 setPos 100 50",
+               "canvas importItem 'item:1'"}));
     expectPlaced();
 }
 
@@ -47,9 +48,9 @@ TEST_F(BarcodeBuilder, Symbology55TakesItsNumberOption)
 {
     BarcodeRecord record = barcode();
     record.symbology = 55;
-    EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
-    EXPECT_EQ(fake.calls.with("importBarcodeProperties"),
-              lines({"item1 importBarcodeProperties 55 \"42\" yes 132 2 yes no 9 17 3"}));
+    EXPECT_EQ(buildBarcode(canvas(), record, binder()), BuildResult::Built);
+    EXPECT_EQ(host.callsWith("importBarcodeProperties"),
+              lines({"item:1 importBarcodeProperties 55 '42' true 132 2 true false 9 17 3"}));
 }
 
 TEST_F(BarcodeBuilder, EachFlagHasItsPlace)
@@ -59,22 +60,22 @@ TEST_F(BarcodeBuilder, EachFlagHasItsPlace)
         BarcodeRecord record = barcode();
         record.hasQuietZones = record.hasBearerBars = record.hasText = record.hasCheckDigit = false;
         record.*flag = true;
-        EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
+        EXPECT_EQ(buildBarcode(canvas(), record, binder()), BuildResult::Built);
     }
-    EXPECT_EQ(fake.calls.with("importBarcodeProperties"),
-              lines({"item1 importBarcodeProperties 20 \"42\" no 132 2 yes no 0 17 3",
-                     "item2 importBarcodeProperties 20 \"42\" no 132 2 no yes 0 17 3",
-                     "item3 importBarcodeProperties 20 \"42\" yes 132 2 no no 0 17 3",
-                     "item4 importBarcodeProperties 20 \"42\" no 132 2 no no 1 17 3"}));
+    EXPECT_EQ(host.callsWith("importBarcodeProperties"),
+              lines({"item:1 importBarcodeProperties 20 '42' false 132 2 true false 0 17 3",
+                     "item:2 importBarcodeProperties 20 '42' false 132 2 false true 0 17 3",
+                     "item:3 importBarcodeProperties 20 '42' true 132 2 false false 0 17 3",
+                     "item:4 importBarcodeProperties 20 '42' false 132 2 false false 1 17 3"}));
 }
 
 TEST_F(BarcodeBuilder, PassesTheCompleteSymbologyNumber)
 {
     BarcodeRecord record = barcode();
     record.symbology = 0x10014; // its low 16 bits, 20, are used only to check the symbology
-    EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
-    EXPECT_EQ(fake.calls.with("importBarcodeProperties"),
-              lines({"item1 importBarcodeProperties 65556 \"42\" yes 132 2 yes no 1 17 3"}));
+    EXPECT_EQ(buildBarcode(canvas(), record, binder()), BuildResult::Built);
+    EXPECT_EQ(host.callsWith("importBarcodeProperties"),
+              lines({"item:1 importBarcodeProperties 65556 '42' true 132 2 true false 1 17 3"}));
 }
 
 TEST_F(BarcodeBuilder, BindsBeforeItHandsOver)
@@ -82,33 +83,33 @@ TEST_F(BarcodeBuilder, BindsBeforeItHandsOver)
     BarcodeRecord record = barcode();
     record.datasourceKey = QStringLiteral("_SPECIAL");
     record.datasourceText = QStringLiteral("%_TIME%");
-    EXPECT_EQ(buildBarcode(host(), record, binder()), BuildResult::Built);
-    EXPECT_EQ(fake.calls.lines().mid(9),
-              lines({"datasources createDatasource \"SystemDatasource\"", "item1 setDatasourceId 1",
-                     "datasources getDatasource 1",
-                     "datasource1 setDatasourceProperty \"DateFormat\" \"\"",
-                     "datasource1 setDatasourceProperty \"TimeFormat\" \"hh:mm:ss\"",
-                     "canvas importItem"}));
+    EXPECT_EQ(buildBarcode(canvas(), record, binder()), BuildResult::Built);
+    EXPECT_EQ(
+        host.calls().mid(9),
+        lines({"datasources createDatasource 'SystemDatasource'", "item:1 setDatasourceId 1",
+               "datasources getDatasource 1", "datasource:1 setDatasourceProperty 'DateFormat' ''",
+               "datasource:1 setDatasourceProperty 'TimeFormat' 'hh:mm:ss'",
+               "canvas importItem 'item:1'"}));
 }
 
 TEST_F(BarcodeBuilder, HostWithoutBarcodesLeavesItOut)
 {
-    fake.canvas.factory.mismatchedTypes = {KestTypes::Barcode};
-    EXPECT_EQ(buildBarcode(host(), barcode(), binder()), BuildResult::NoItem);
+    host.behavior().mismatchedTypes = {KestTypes::Barcode};
+    EXPECT_EQ(buildBarcode(canvas(), barcode(), binder()), BuildResult::NoItem);
 }
 
 TEST(Symbology, IsAskedOfItsOwnListWithSixteenBits)
 {
-    FakeServices& services = FakeServices::reset();
-    services.linearCodes = {20};
-    services.matrixCodes = {55};
+    const TestHost host;
     EXPECT_TRUE(isValidSymbology(20, true));
     EXPECT_FALSE(isValidSymbology(20, false));
     EXPECT_FALSE(isValidSymbology(55, true));
     EXPECT_TRUE(isValidSymbology(55, false));
     EXPECT_TRUE(isValidSymbology(0x10014, true)) << "the low bits are 20";
     EXPECT_FALSE(isValidSymbology(-1, true));
-    EXPECT_EQ(services.askedCodes, (QList<int>{20, 20, 55, 55, 20, 65535}));
+    EXPECT_EQ(host.callsOn(QStringLiteral("lists")),
+              lines({"isValidBarcode1D 20", "isValidBarcode2D 20", "isValidBarcode1D 55",
+                     "isValidBarcode2D 55", "isValidBarcode1D 20", "isValidBarcode1D 65535"}));
 }
 
 } // namespace

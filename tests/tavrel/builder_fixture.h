@@ -2,8 +2,9 @@
 
 #include "tavrel/datasource_binder.h"
 #include "tavrel/item_building.h"
-#include "tests/tavrel/fake_host.h"
-#include "tests/tavrel/fake_services.h"
+#include "tests/support/test_host/test_host.h"
+
+#include <QGraphicsItem>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,22 +13,12 @@ namespace tavrel_test {
 
 inline constexpr tavrel::Resolution Printer{300.0, 150.0};
 
-inline QStringList lines(std::initializer_list<const char*> texts)
-{
-    QStringList all;
-    for (const char* text : texts) {
-        all.append(QString::fromUtf8(text));
-    }
-    return all;
-}
-
-/// A host that records its calls, and a header whose values are all different.
+/// A host with a yellow canvas and a red pen, and a header whose values are all different.
 class Builders : public testing::Test
 {
 protected:
     Builders()
     {
-        FakeServices::reset();
         header.movable = true;
         header.x = 100.0;
         header.y = 50.0;
@@ -35,29 +26,33 @@ protected:
         header.rotation = 30.0;
         header.width = 60.0;
         header.height = 20.0;
-        fake.canvas.setCanvasBackgroundColor(Qt::yellow);
-        fake.canvas.setCanvasDefaultPenColor(Qt::red);
-        fake.calls.clear();
+        host.behavior().recordsPlacement = true;
+        host.behavior().itemSize = {33.0, 11.0};
+        host.canvas()->setCanvasBackgroundColor(Qt::yellow);
+        host.canvas()->setCanvasDefaultPenColor(Qt::red);
+        host.forgetCalls();
     }
     ~Builders() override
     {
-        fake.canvas.clear();
-        EXPECT_EQ(fake.calls.itemsAlive, 0) << "every item has one owner";
+        EXPECT_EQ(host.livingItems(), host.itemCount()) << "the canvas owns every item";
     }
 
-    [[nodiscard]] tavrel::HostCanvas host() { return {&fake.canvas, &fake.canvas.factory}; }
-    [[nodiscard]] tavrel::DatasourceBinder binder() { return {&fake.datasources, sequence}; }
+    [[nodiscard]] tavrel::HostCanvas canvas()
+    {
+        return {host.canvas(), host.canvas()->getClassFactory()};
+    }
+    [[nodiscard]] tavrel::DatasourceBinder binder() { return {host.datasources(), sequence}; }
 
     void expectPlaced(const QPointF& position = {100.0, 50.0})
     {
-        ASSERT_EQ(fake.canvas.itemCount(), 1U);
-        const QGraphicsItem* const item = fake.canvas.item(0);
+        ASSERT_EQ(host.itemCount(), 1);
+        const QGraphicsItem* const item = host.item(1);
         EXPECT_EQ(item->zValue(), 1003.0);
         EXPECT_EQ(item->pos(), position);
         EXPECT_TRUE(item->flags().testFlag(QGraphicsItem::ItemIsMovable));
     }
 
-    FakeHost fake;
+    TestHost host;
     tavrel::SequenceSettings sequence;
     tavrel::ItemHeader header;
 };

@@ -1,12 +1,13 @@
+#include "host/items/simple_text_item.h"
 #include "tavrel/datasource_binder.h"
-#include "tests/tavrel/fake_host.h"
-#include "tests/tavrel/fake_items.h"
+#include "tests/support/test_host/test_host.h"
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 using tavrel::DatasourceBinder;
 using tavrel::SequenceSettings;
-using namespace tavrel_test;
 
 namespace {
 
@@ -15,6 +16,9 @@ class Binding : public testing::Test
 protected:
     Binding()
     {
+        item.reset(dynamic_cast<SimpleTextItem*>(
+            host.canvas()->getClassFactory()->create(KestTypes::SimpleText)));
+        host.forgetCalls();
         sequence.sequenceTrailingValue = 77;
         sequence.sequenceStart = 10;
         sequence.sequenceEnd = 99;
@@ -26,30 +30,26 @@ protected:
 
     bool bind(const char* key, const char* text = "")
     {
-        const DatasourceBinder binder(&fake.datasources, sequence);
-        return binder.bindDatasource(item, QLatin1String(key), QLatin1String(text));
+        const DatasourceBinder binder(host.datasources(), sequence);
+        return binder.bindDatasource(*item, QLatin1String(key), QLatin1String(text));
     }
 
-    FakeHost fake;
+    TestHost host;
     SequenceSettings sequence;
-    FakeText item{fake.calls, 1};
+    std::unique_ptr<SimpleTextItem> item;
 };
 
 TEST_F(Binding, SequenceTakesTheLabelsSettings)
 {
     EXPECT_TRUE(bind("_SEQUENCE"));
-    EXPECT_EQ(fake.calls.lines(),
-              (QStringList{
-                  QStringLiteral("datasources createDatasource \"SequenceDatasource\""),
-                  QStringLiteral("item1 setDatasourceId 1"),
-                  QStringLiteral("datasources getDatasource 1"),
-                  QStringLiteral("datasource1 setDatasourceProperty \"Prefix\" \"No\""),
-                  QStringLiteral("datasource1 setDatasourceProperty \"Suffix\" \"!\""),
-                  QStringLiteral("datasource1 setDatasourceProperty \"Start\" 10"),
-                  QStringLiteral("datasource1 setDatasourceProperty \"End\" 99"),
-                  QStringLiteral("datasource1 setDatasourceProperty \"Step\" -1"),
-                  QStringLiteral("datasource1 setDatasourceProperty \"ZeroPad\" 4"),
-              }));
+    EXPECT_EQ(host.calls(), lines({"datasources createDatasource 'SequenceDatasource'",
+                                   "item:1 setDatasourceId 1", "datasources getDatasource 1",
+                                   "datasource:1 setDatasourceProperty 'Prefix' 'No'",
+                                   "datasource:1 setDatasourceProperty 'Suffix' '!'",
+                                   "datasource:1 setDatasourceProperty 'Start' 10",
+                                   "datasource:1 setDatasourceProperty 'End' 99",
+                                   "datasource:1 setDatasourceProperty 'Step' -1",
+                                   "datasource:1 setDatasourceProperty 'ZeroPad' 4"}));
 }
 
 struct SystemRow
@@ -66,14 +66,14 @@ TEST_F(Binding, ClockKeysTakeDateThenTimeFormat)
          {SystemRow{"_DATE", "ddd MMM d yyyy", ""}, SystemRow{"_DATES", "d/MM/yyyy", ""},
           SystemRow{"_DATEX", "MMMM-d-yy", ""}, SystemRow{"_TIME", "", "hh:mm:ss"}}) {
         SCOPED_TRACE(row.key);
-        fake.calls.clear();
+        host.forgetCalls();
         EXPECT_TRUE(bind(row.key));
         const QString source = QStringLiteral("datasource%1 setDatasourceProperty ").arg(++id);
         const QString format = QStringLiteral("\"%1\" \"%2\"");
-        EXPECT_EQ(fake.calls.lines(),
+        EXPECT_EQ(host.calls(),
                   (QStringList{
-                      QStringLiteral("datasources createDatasource \"SystemDatasource\""),
-                      QStringLiteral("item1 setDatasourceId %1").arg(id),
+                      QStringLiteral("datasources createDatasource 'SystemDatasource'"),
+                      QStringLiteral("item:1 setDatasourceId %1").arg(id),
                       QStringLiteral("datasources getDatasource %1").arg(id),
                       source + format.arg(QLatin1String("DateFormat"), QLatin1String(row.date)),
                       source + format.arg(QLatin1String("TimeFormat"), QLatin1String(row.time)),
@@ -85,9 +85,9 @@ TEST_F(Binding, EveryItemGetsASourceOfItsOwn)
 {
     EXPECT_TRUE(bind("_DATE"));
     EXPECT_TRUE(bind("_DATE"));
-    EXPECT_EQ(fake.calls.with("createDatasource").size(), 2);
-    EXPECT_EQ(fake.calls.with("setDatasourceId").value(1),
-              QStringLiteral("item1 setDatasourceId 2"));
+    EXPECT_EQ(host.callsWith("createDatasource").size(), 2);
+    EXPECT_EQ(host.callsWith("setDatasourceId").value(1),
+              QStringLiteral("item:1 setDatasourceId 2"));
 }
 
 TEST_F(Binding, DatabaseFieldsAreNotCarriedOver)
@@ -95,7 +95,7 @@ TEST_F(Binding, DatabaseFieldsAreNotCarriedOver)
     EXPECT_FALSE(bind("Record"));
     EXPECT_FALSE(bind("Value"));
     EXPECT_FALSE(bind("_SPECIAL", "%Value%"));
-    EXPECT_TRUE(fake.calls.lines().isEmpty());
+    EXPECT_TRUE(host.calls().isEmpty());
 }
 
 TEST_F(Binding, OtherKeysBindNothing)
@@ -106,24 +106,24 @@ TEST_F(Binding, OtherKeysBindNothing)
     EXPECT_TRUE(bind("_SPECIAL", ""));
     EXPECT_TRUE(bind("_SPECIAL", "no key _DATE in here"));
     EXPECT_TRUE(bind("_SPECIAL", "%_ROW% hides %_DATE%"));
-    EXPECT_TRUE(fake.calls.lines().isEmpty());
+    EXPECT_TRUE(host.calls().isEmpty());
 }
 
 TEST_F(Binding, KeyInTheTextIsTheFirstOfTheList)
 {
     EXPECT_TRUE(bind("_SPECIAL", "Lot %_DATES% / %_TIME%"));
-    EXPECT_EQ(fake.calls.with("DateFormat"),
-              QStringList(QStringLiteral(
-                  "datasource1 setDatasourceProperty \"DateFormat\" \"d/MM/yyyy\"")));
-    EXPECT_EQ(fake.calls.with("createDatasource").size(), 1);
+    EXPECT_EQ(
+        host.callsWith("DateFormat"),
+        QStringList(QStringLiteral("datasource:1 setDatasourceProperty 'DateFormat' 'd/MM/yyyy'")));
+    EXPECT_EQ(host.callsWith("createDatasource").size(), 1);
 }
 
 TEST_F(Binding, HostWithoutTheNewSourceIsHarmless)
 {
-    fake.datasources.forgetsSources = true;
+    host.behavior().hidesDatasources = true;
     EXPECT_TRUE(bind("_SEQUENCE"));
     EXPECT_TRUE(bind("_DATE"));
-    EXPECT_TRUE(fake.calls.with("setDatasourceProperty").isEmpty());
+    EXPECT_TRUE(host.callsWith("setDatasourceProperty").isEmpty());
 }
 
 } // namespace

@@ -44,23 +44,20 @@ TEST_P(CutFile, KeepsRecordsBeforeTheCut)
         .barcode(false, 55)
         .symbol(QStringLiteral("arrow.svg"), "<svg/>")
         .shape(QStringLiteral("VerticalLine"));
-    services.conversions["<svg/>"] = "8x8";
     QFile file(written(label.bytes()));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     for (qsizetype size = label.bytes().size(); size >= 0; --size) {
         SCOPED_TRACE(size);
         ASSERT_TRUE(file.resize(size));
-        fake.canvas.clear();
-        fake.calls.clear();
+        host.recorder().reset();
         const bool imported = reader.importLabelFromFile(path);
-        const auto whole =
-            std::size_t(std::count_if(label.recordEnds().begin(), label.recordEnds().end(),
-                                      [size](qsizetype end) { return end <= size; }));
-        EXPECT_GE(fake.canvas.itemCount(), whole);
-        EXPECT_LE(fake.canvas.itemCount(), whole + 1);
-        EXPECT_EQ(imported, fake.calls.with("completeCanvasLoading").size() == 1);
-        EXPECT_EQ(imported, fake.canvas.itemCount() > 0);
-        EXPECT_EQ(fake.calls.itemsAlive, int(fake.canvas.itemCount()));
+        const auto whole = int(std::count_if(label.recordEnds().begin(), label.recordEnds().end(),
+                                             [size](qsizetype end) { return end <= size; }));
+        EXPECT_GE(host.itemCount(), whole);
+        EXPECT_LE(host.itemCount(), whole + 1);
+        EXPECT_EQ(imported, host.takeTrace().count("completeCanvasLoading") == 1);
+        EXPECT_EQ(imported, host.itemCount() > 0);
+        EXPECT_EQ(host.livingItems(), host.itemCount());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     expectModestMemory();
@@ -75,33 +72,31 @@ TEST_F(Hostile, CutRecordIsBuiltFromZeros)
     LabelFile label;
     label.typeCode(0x10002); // a shape without a single byte
     EXPECT_TRUE(import(label));
-    EXPECT_EQ(fake.calls.with("factory create"),
-              QStringList(QStringLiteral("factory create \"1002a\"")));
-    EXPECT_EQ(fake.calls.with("setItemSize"),
-              QStringList(QStringLiteral("item1 setItemSize 72x72")));
-    EXPECT_EQ(fake.canvas.item(0)->pos(), QPointF(0.0, 0.0));
+    EXPECT_EQ(host.callsWith("factory create"), lines({"factory create 1002a"}));
+    EXPECT_EQ(host.callsWith("setItemSize"), lines({"item:1 setItemSize 72 72"}));
+    EXPECT_EQ(host.item(1)->pos(), QPointF(0.0, 0.0));
 }
 
 TEST_F(Hostile, HeaderAloneIsAPageOfZeros)
 {
     EXPECT_FALSE(import(hex("00000000 001E8498")));
-    EXPECT_EQ(fake.calls.with("importCanvasParameters"),
-              QStringList(QStringLiteral("canvas importCanvasParameters 0 0 no yes")));
-    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_EQ(host.callsWith("importCanvasParameters"),
+              lines({"canvas importCanvasParameters 0 0 false true"}));
+    EXPECT_TRUE(boxes.isEmpty());
 }
 
 TEST_F(Hostile, HalfATypeCodeIsTheCodeZero)
 {
     EXPECT_TRUE(import(LabelFile().shape({}).raw(hex("0001"))));
-    EXPECT_EQ(errors(), QStringList(QStringLiteral("Invalid type: 0")));
-    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_EQ(errors(), lines({"Invalid type: 0"}));
+    EXPECT_EQ(host.itemCount(), 1);
 }
 
 TEST_F(Hostile, LengthsBeyondTheEndGiveEmptyValues)
 {
     for (const char* length : {"80000000", "7FFFFFFE", "FFFFFFFE", "00FFFFFE"}) {
         SCOPED_TRACE(length);
-        fake.calls.clear();
+        host.forgetCalls();
         const QByteArray plain(37, '\0'); // lock, position, layer, rotation, empty width
         EXPECT_TRUE(import(LabelFile()
                                .shape({})
@@ -109,8 +104,8 @@ TEST_F(Hostile, LengthsBeyondTheEndGiveEmptyValues)
                                .raw(plain)
                                .raw(hex(length))
                                .raw(QByteArray(1000, 'x'))));
-        EXPECT_EQ(fake.calls.with("importTextProperties").size(), 1);
-        EXPECT_EQ(fake.calls.with("importTextProperties \"\"").size(), 1);
+        EXPECT_EQ(host.callsWith("importTextProperties").size(), 1);
+        EXPECT_EQ(host.callsWith("importTextProperties \"\"").size(), 1);
     }
     expectModestMemory();
 }
@@ -122,7 +117,7 @@ TEST_F(Hostile, SvgBeyondTheEndIsIgnored)
     QByteArray bytes = label.bytes();
     bytes.chop(4);
     EXPECT_TRUE(import(bytes + hex("80000000 3C"))) << "the name is looked up instead";
-    EXPECT_EQ(services.creatorsMade, 0);
+    EXPECT_EQ(host.recorder().symbolCreatorsMade(), 0);
 }
 
 TEST_F(Hostile, DatabaseCountOfTwoBillionStopsAtTheEnd)
@@ -145,10 +140,9 @@ const QByteArray HugePng = hex("89504E470D0A1A0A"
 TEST_F(Hostile, HugePictureIsLeftEmptyAndReadingContinues)
 {
     EXPECT_TRUE(import(LabelFile().picture(HugePng).shape(QStringLiteral("Oval"))));
-    EXPECT_EQ(fake.canvas.itemCount(), 2U);
+    EXPECT_EQ(host.itemCount(), 2);
     EXPECT_EQ(errors().size(), 1);
-    EXPECT_EQ(fake.calls.with("pixmapImportActions"),
-              QStringList(QStringLiteral("item1 pixmapImportActions 0x0")));
+    EXPECT_EQ(host.callsWith("pixmapImportActions"), lines({"item:1 pixmapImportActions 0x0"}));
     expectModestMemory();
 }
 
@@ -157,7 +151,7 @@ TEST_F(Hostile, HugePreviewIsNotDecoded)
     const QByteArray label = LabelFile().shape({}).bytes();
     const qsizetype rest = 12 + pngOf(3, 2).size();
     EXPECT_TRUE(import(label.left(12) + HugePng + label.mid(rest)));
-    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_EQ(host.itemCount(), 1);
     EXPECT_TRUE(errors().isEmpty());
     expectModestMemory();
 }
@@ -166,14 +160,13 @@ TEST_F(Hostile, PicturesOfAFileShareOneBound)
 {
     const QByteArray large = pngOf(5000, 5000, QImage::Format_Mono);
     EXPECT_TRUE(import(LabelFile().picture(large).picture(large).picture(pngOf(2, 2))));
-    EXPECT_EQ(fake.calls.with("pixmapImportActions"),
-              (QStringList{QStringLiteral("item1 pixmapImportActions 5000x5000"),
-                           QStringLiteral("item2 pixmapImportActions 0x0"),
-                           QStringLiteral("item3 pixmapImportActions 2x2")}));
+    EXPECT_EQ(host.callsWith("pixmapImportActions"),
+              lines({"item:1 pixmapImportActions 5000x5000", "item:2 pixmapImportActions 0x0",
+                     "item:3 pixmapImportActions 2x2"}));
     EXPECT_EQ(errors().size(), 1);
-    fake.canvas.clear();
+    host.recorder().reset();
     EXPECT_TRUE(import(LabelFile().picture(large))) << "the next file starts again";
-    EXPECT_EQ(fake.calls.with("pixmapImportActions 5000x5000").size(), 2);
+    EXPECT_EQ(host.callsWith("pixmapImportActions 5000x5000").size(), 2);
     expectModestMemory();
 }
 
@@ -195,7 +188,7 @@ TEST_F(Hostile, NotesShareOneBound)
     EXPECT_EQ(errors().size(), 1);
     EXPECT_LT(boxText().size(), 70'000);
     EXPECT_TRUE(boxText().endsWith(QStringLiteral("\n\"a b\":\n\tOriginal font size: 12.")));
-    services.boxes.clear();
+    boxes.clear();
     EXPECT_TRUE(import(LabelFile().text(large, scaled))) << "the next file starts again";
     EXPECT_GT(boxText().size(), 60'000);
 }
@@ -204,7 +197,7 @@ TEST_F(Hostile, TextOfBlanksAloneTakesNoMemoryForItsNote)
 {
     EXPECT_TRUE(
         import(LabelFile().text(QStringLiteral("a ").repeated(2'000'000), QStringLiteral("2"))));
-    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_TRUE(boxes.isEmpty());
     EXPECT_EQ(errors().size(), 1);
     expectModestMemory();
 }
@@ -225,9 +218,9 @@ TEST_F(Hostile, NumbersThatAreNotFiniteAreHarmless)
                                      .shape(QStringLiteral("VerticalLine"))
                                      .bytes()
                                      .mid(bytes.size());
-        fake.canvas.clear();
+        host.recorder().reset();
         EXPECT_TRUE(import(bytes + items));
-        EXPECT_EQ(fake.canvas.itemCount(), 5U);
+        EXPECT_EQ(host.itemCount(), 5);
     }
 }
 
@@ -245,9 +238,9 @@ TEST_F(Hostile, NoiseIsReadToAnEnd)
             state = state * 1664525U + 1013904223U;
             bytes[qsizetype(8 + (state >> 8) % quint32(bytes.size() - 8))] = char(state >> 24);
         }
-        fake.canvas.clear();
+        host.recorder().reset();
         (void)import(bytes);
-        EXPECT_EQ(fake.calls.itemsAlive, int(fake.canvas.itemCount()));
+        EXPECT_EQ(host.livingItems(), host.itemCount());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     expectModestMemory();

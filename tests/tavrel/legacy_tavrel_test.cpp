@@ -26,15 +26,15 @@ TEST_F(Reader, FileThatCannotBeOpenedIsRefusedSilently)
     EXPECT_FALSE(reader.importLabelFromFile(folder.path())) << "a folder";
     EXPECT_FALSE(reader.importLabelFromFile(QString()));
     EXPECT_TRUE(log.records().isEmpty());
-    EXPECT_TRUE(fake.calls.lines().isEmpty());
-    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_TRUE(host.calls().isEmpty());
+    EXPECT_TRUE(boxes.isEmpty());
 }
 
 TEST_F(Reader, DeviceThatNeverEndsIsRefused)
 {
     EXPECT_FALSE(reader.importLabelFromFile(QStringLiteral("/dev/zero")));
     EXPECT_EQ(errors().size(), 1);
-    EXPECT_TRUE(fake.calls.lines().isEmpty());
+    EXPECT_TRUE(host.calls().isEmpty());
 }
 
 TEST_F(Reader, FileThatIsTooLargeIsRefused)
@@ -44,7 +44,7 @@ TEST_F(Reader, FileThatIsTooLargeIsRefused)
     ASSERT_TRUE(file.resize(64 * 1024 * 1024 + 1)); // a sparse file, which uses no disk space
     EXPECT_FALSE(reader.importLabelFromFile(path));
     EXPECT_EQ(errors().size(), 1);
-    EXPECT_TRUE(fake.calls.lines().isEmpty());
+    EXPECT_TRUE(host.calls().isEmpty());
 }
 
 TEST_F(Reader, OldVersionIsRefusedWithALogLine)
@@ -58,8 +58,8 @@ TEST_F(Reader, OldVersionIsRefusedWithALogLine)
               QStringLiteral("bool LegacyTavrel::importLabelFromFile(const QString&)"));
     EXPECT_EQ(record.message,
               QStringLiteral("Invalid canvas file version (2000015 != 2000024) in ") + path);
-    EXPECT_TRUE(fake.calls.lines().isEmpty()) << "the canvas is not touched";
-    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_TRUE(host.calls().isEmpty()) << "the canvas is not touched";
+    EXPECT_TRUE(boxes.isEmpty());
 }
 
 TEST_F(Reader, PathIsLoggedAsGiven)
@@ -94,21 +94,17 @@ TEST_P(EveryVersion, IsReadToTheLastItem)
 {
     EXPECT_TRUE(import(label(GetParam())));
     EXPECT_TRUE(errors().isEmpty());
-    EXPECT_TRUE(services.boxes.isEmpty());
-    EXPECT_EQ(
-        fake.calls.with("factory create"),
-        (QStringList{
-            QStringLiteral("factory create \"1002c\""), QStringLiteral("factory create \"1001f\""),
-            QStringLiteral("factory create \"10015\""), QStringLiteral("factory create \"1000c\""),
-            QStringLiteral("factory create \"1001d\""), QStringLiteral("factory create \"1001d\""),
-            QStringLiteral("factory create \"1000d\""),
-            QStringLiteral("factory create \"1001f\"")}));
-    EXPECT_EQ(fake.canvas.itemCount(), 8U);
-    EXPECT_EQ(fake.calls.with("canvas importCanvasParameters"),
-              QStringList(QStringLiteral("canvas importCanvasParameters 288 144 yes yes")));
-    EXPECT_EQ(fake.calls.with("\"Prefix\""),
-              QStringList(QStringLiteral("datasource1 setDatasourceProperty \"Prefix\" \"No\"")));
-    EXPECT_EQ(fake.calls.lines().last(), QStringLiteral("canvas completeCanvasLoading"));
+    EXPECT_TRUE(boxes.isEmpty());
+    EXPECT_EQ(host.callsWith("factory create"),
+              lines({"factory create 1002c", "factory create 1001f", "factory create 10015",
+                     "factory create 1000c", "factory create 1001d", "factory create 1001d",
+                     "factory create 1000d", "factory create 1001f"}));
+    EXPECT_EQ(host.itemCount(), 8);
+    EXPECT_EQ(host.callsWith("canvas importCanvasParameters"),
+              lines({"canvas importCanvasParameters 288 144 true true"}));
+    EXPECT_EQ(host.callsWith("\"Prefix\""),
+              lines({"datasource:1 setDatasourceProperty 'Prefix' 'No'"}));
+    EXPECT_EQ(host.calls().last(), QStringLiteral("canvas completeCanvasLoading"));
 }
 
 TEST_P(EveryVersion, PositionsAreInDotsAtFirstAndThenInInches)
@@ -116,7 +112,7 @@ TEST_P(EveryVersion, PositionsAreInDotsAtFirstAndThenInInches)
     EXPECT_TRUE(import(label(GetParam())));
     const QPointF expected = GetParam() <= 2000016 ? QPointF(1.0 / 300.0 * 72.0, 0.5 / 305.0 * 72.0)
                                                    : QPointF(72.0, 36.0);
-    EXPECT_EQ(fake.canvas.item(0)->pos(), expected);
+    EXPECT_EQ(host.item(1)->pos(), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Versions, EveryVersion,
@@ -126,11 +122,10 @@ INSTANTIATE_TEST_SUITE_P(Versions, EveryVersion,
 TEST_F(Reader, PageIsSetBeforeTheColorsAndTheItems)
 {
     EXPECT_TRUE(import(LabelFile().shape(Oval)));
-    EXPECT_EQ(fake.calls.lines().mid(0, 4),
-              (QStringList{QStringLiteral("canvas importCanvasParameters 288 144 yes yes"),
-                           QStringLiteral("canvas setCanvasBackgroundColor #ffffffff"),
-                           QStringLiteral("canvas setCanvasDefaultPenColor #ff000000"),
-                           QStringLiteral("factory create \"1002c\"")}));
+    EXPECT_EQ(host.calls().mid(0, 4),
+              lines({"canvas importCanvasParameters 288 144 true true",
+                     "canvas setCanvasBackgroundColor '#ffffffff'",
+                     "canvas setCanvasDefaultPenColor '#ff000000'", "factory create 1002c"}));
 }
 
 TEST_F(Reader, FlagsAndColorsAreThoseOfThePage)
@@ -145,47 +140,46 @@ TEST_F(Reader, FlagsAndColorsAreThoseOfThePage)
     page.labelType = 7;
     page.ribbonType = 3;
     EXPECT_TRUE(import(LabelFile(2000024, {}, page).shape(Oval)));
-    EXPECT_EQ(fake.canvas.canvasBackgroundColor(), label);
-    EXPECT_EQ(fake.canvas.canvasDefaultPenColor(), ribbon);
+    EXPECT_EQ(host.canvas()->canvasBackgroundColor(), label);
+    EXPECT_EQ(host.canvas()->canvasDefaultPenColor(), ribbon);
 
     page.orientationCode = 1;
     EXPECT_TRUE(import(LabelFile(2000024, {}, page).shape(Oval)));
     page.canvasFlag = false;
     page.orientationCode = 2;
     EXPECT_TRUE(import(LabelFile(2000024, {}, page).shape(Oval)));
-    EXPECT_EQ(fake.calls.with("importCanvasParameters"),
-              (QStringList{QStringLiteral("canvas importCanvasParameters 288 144 yes yes"),
-                           QStringLiteral("canvas importCanvasParameters 288 144 yes no"),
-                           QStringLiteral("canvas importCanvasParameters 288 144 no yes")}));
+    EXPECT_EQ(host.callsWith("importCanvasParameters"),
+              lines({"canvas importCanvasParameters 288 144 true true",
+                     "canvas importCanvasParameters 288 144 true false",
+                     "canvas importCanvasParameters 288 144 false true"}));
 }
 
 TEST_F(Reader, PictureAndSymbolAreScaledByTheResolutionOfTheFile)
 {
     // 25/6 inches are 300 points, one for each dot of the printer's width.
     EXPECT_TRUE(import(LabelFile(2000023).picture(pngOf(40, 61))));
-    EXPECT_EQ(fake.calls.with("item1 setItemSize"),
-              QStringList(QStringLiteral("item1 setItemSize 40x60")));
+    EXPECT_EQ(host.callsWith("item:1 setItemSize"), lines({"item:1 setItemSize 40 60"}));
 }
 
 TEST_F(Reader, LaterItemsOfALayerAreInFront)
 {
     EXPECT_TRUE(import(LabelFile().shape(Oval, 1.0).shape(Oval, 1.0).shape(Oval, 2.0)));
-    const double first = fake.canvas.item(0)->zValue();
-    EXPECT_EQ(fake.canvas.item(1)->zValue(), first + 1.0);
-    EXPECT_EQ(fake.canvas.item(2)->zValue(), first + 1002.0);
+    const double first = host.item(1)->zValue();
+    EXPECT_EQ(host.item(2)->zValue(), first + 1.0);
+    EXPECT_EQ(host.item(3)->zValue(), first + 1002.0);
     EXPECT_TRUE(import(LabelFile().shape(Oval, 1.0)));
-    EXPECT_EQ(fake.canvas.item(3)->zValue(), first + 3.0) << "the number is never reset";
+    EXPECT_EQ(host.item(4)->zValue(), first + 3.0) << "the number is never reset";
 }
 
 TEST_F(Reader, EveryHeaderThatIsReadTakesANumber)
 {
     EXPECT_TRUE(import(LabelFile()
                            .shape(Oval)
-                           .barcode(true, 1)
+                           .barcode(true, 5)
                            .symbol(QStringLiteral("unknown"))
                            .empty()
                            .shape(Oval)));
-    EXPECT_EQ(fake.canvas.item(1)->zValue(), fake.canvas.item(0)->zValue() + 3.0);
+    EXPECT_EQ(host.item(2)->zValue(), host.item(1)->zValue() + 3.0);
 }
 
 // What counts as a success, and what is reported
@@ -193,23 +187,23 @@ TEST_F(Reader, EveryHeaderThatIsReadTakesANumber)
 TEST_F(Reader, LabelWithoutItemsFails)
 {
     EXPECT_FALSE(import(LabelFile()));
-    EXPECT_TRUE(services.boxes.isEmpty());
-    EXPECT_TRUE(fake.calls.with("completeCanvasLoading").isEmpty());
+    EXPECT_TRUE(boxes.isEmpty());
+    EXPECT_TRUE(host.callsWith("completeCanvasLoading").isEmpty());
     EXPECT_TRUE(errors().isEmpty());
 }
 
 TEST_F(Reader, LabelWithoutItemsStillReportsItsDatabase)
 {
     EXPECT_FALSE(import(LabelFile(2000024, {QStringLiteral("C:\\data\\list.csv")})));
-    ASSERT_EQ(services.boxes.size(), 1);
-    EXPECT_EQ(services.boxes.first().title, Warning);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes.first()->windowTitle(), Warning);
     EXPECT_EQ(boxText(), NotConnected);
 }
 
 TEST_F(Reader, EmptyRecordsAreNotItems)
 {
     EXPECT_FALSE(import(LabelFile().empty().empty()));
-    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_TRUE(boxes.isEmpty());
     EXPECT_TRUE(import(LabelFile().empty().shape(Oval).empty()));
 }
 
@@ -223,50 +217,50 @@ TEST_F(Reader, UnknownCodeAtFirstIsALoadError)
     EXPECT_EQ(record.function, QStringLiteral("bool LegacyTavrel::importCanvasAndItems("
                                               "QDataStream&, quint32, bool)"));
     EXPECT_EQ(record.message, QStringLiteral("Invalid type: 65543"));
-    ASSERT_EQ(services.boxes.size(), 1);
-    EXPECT_EQ(services.boxes.first().title, LoadError);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes.first()->windowTitle(), LoadError);
     EXPECT_EQ(boxText(), QStringLiteral("Errors reading items.")) << "and nothing else";
-    EXPECT_TRUE(fake.calls.with("completeCanvasLoading").isEmpty());
+    EXPECT_TRUE(host.callsWith("completeCanvasLoading").isEmpty());
 }
 
 TEST_F(Reader, UnknownCodeAfterFailuresAloneIsALoadErrorToo)
 {
-    EXPECT_FALSE(import(LabelFile().barcode(true, 1).empty().typeCode(-1).shape(Oval)));
-    EXPECT_EQ(errors(), QStringList(QStringLiteral("Invalid type: -1")));
+    EXPECT_FALSE(import(LabelFile().barcode(true, 5).empty().typeCode(-1).shape(Oval)));
+    EXPECT_EQ(errors(), lines({"Invalid type: -1"}));
     EXPECT_EQ(boxText(), QStringLiteral("Errors reading items."));
-    EXPECT_EQ(fake.canvas.itemCount(), 0U);
+    EXPECT_EQ(host.itemCount(), 0);
 }
 
 TEST_F(Reader, UnknownCodeAfterAnItemEndsTheFile)
 {
     EXPECT_TRUE(import(LabelFile().shape(Oval).typeCode(65535).shape(Oval)));
-    EXPECT_EQ(fake.canvas.itemCount(), 1U);
-    EXPECT_EQ(errors(), QStringList(QStringLiteral("Invalid type: 65535")));
-    EXPECT_TRUE(services.boxes.isEmpty());
-    EXPECT_EQ(fake.calls.with("completeCanvasLoading").size(), 1);
+    EXPECT_EQ(host.itemCount(), 1);
+    EXPECT_EQ(errors(), lines({"Invalid type: 65535"}));
+    EXPECT_TRUE(boxes.isEmpty());
+    EXPECT_EQ(host.callsWith("completeCanvasLoading").size(), 1);
 }
 
 TEST_F(Reader, UnknownCodeAfterAnItemStillReportsTheIssues)
 {
-    EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 1).typeCode(65535)));
+    EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 5).typeCode(65535)));
     EXPECT_EQ(boxText(), BarcodeErrors);
 }
 
 TEST_F(Reader, FailuresAreSkippedAndReportedTogether)
 {
     EXPECT_TRUE(import(LabelFile()
-                           .barcode(true, 1)
+                           .barcode(true, 5)
                            .symbol(QStringLiteral("unknown"))
                            .barcode(false, 20)
                            .shape(Oval)));
     EXPECT_EQ(boxText(), SymbolErrors + QLatin1Char('\n') + BarcodeErrors);
-    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_EQ(host.itemCount(), 1);
 }
 
 TEST_F(Reader, FailuresAloneAreNotASuccess)
 {
-    EXPECT_FALSE(import(LabelFile().barcode(true, 1).symbol(QStringLiteral("unknown"))));
-    EXPECT_EQ(services.boxes.first().title, Warning);
+    EXPECT_FALSE(import(LabelFile().barcode(true, 5).symbol(QStringLiteral("unknown"))));
+    EXPECT_EQ(boxes.first()->windowTitle(), Warning);
     EXPECT_EQ(boxText(), SymbolErrors + QLatin1Char('\n') + BarcodeErrors);
 }
 
@@ -285,75 +279,74 @@ TEST_F(Reader, TextBindsItsKey)
 {
     EXPECT_TRUE(import(LabelFile().text(QStringLiteral("x"), QStringLiteral("1"),
                                         QStringLiteral("_SPECIAL"), QStringLiteral("%_TIME%"))));
-    EXPECT_EQ(fake.calls.with("createDatasource").size(), 1);
-    EXPECT_EQ(fake.calls.with("hh:mm:ss").size(), 1);
+    EXPECT_EQ(host.callsWith("createDatasource").size(), 1);
+    EXPECT_EQ(host.callsWith("hh:mm:ss").size(), 1);
 }
 
 TEST_F(Reader, OlderTextHasNoTextToSearchForAKey)
 {
     EXPECT_TRUE(import(LabelFile(2000021).text(QStringLiteral("%_TIME%"), QStringLiteral("1"),
                                                QStringLiteral("_SPECIAL"))));
-    EXPECT_TRUE(fake.calls.with("createDatasource").isEmpty());
+    EXPECT_TRUE(host.callsWith("createDatasource").isEmpty());
 }
 
 TEST_F(Reader, DatabaseKeyIsReadOver)
 {
     EXPECT_TRUE(import(
         LabelFile().text(QStringLiteral("x"), QStringLiteral("1"), QStringLiteral("Record"))));
-    EXPECT_TRUE(services.boxes.isEmpty());
-    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_TRUE(boxes.isEmpty());
+    EXPECT_EQ(host.itemCount(), 1);
 }
 
 // Symbols
 
 TEST_F(Reader, EmbeddedSymbolNeverAsksTheDatabases)
 {
-    services.conversions["<svg/>"] = "8x8";
     EXPECT_TRUE(import(LabelFile().symbol(QStringLiteral("arrow.svg"), "<svg/>")));
-    EXPECT_TRUE(services.lookUps.isEmpty());
-    EXPECT_EQ(fake.calls.with("loadItemFromData"),
-              QStringList(QStringLiteral("item1 loadItemFromData \"8x8\"")));
+    EXPECT_TRUE(lookUps().isEmpty());
+    EXPECT_EQ(host.callsWith("loadItemFromData"), lines({"item:1 loadItemFromData "}));
 }
 
 TEST_F(Reader, SymbolWithoutDataIsLookedUp)
 {
     EXPECT_TRUE(import(LabelFile(2000024).symbol(QStringLiteral("/old/arrow.svg"))));
-    EXPECT_EQ(services.lookUps, QStringList(QStringLiteral("symbols.db:arrow.svg")));
-    EXPECT_EQ(services.creatorsMade, 0);
+    EXPECT_EQ(lookUps(), lines({"symboldb:1 getDataFromSymbolName 'arrow.svg'"}));
+    EXPECT_EQ(host.recorder().symbolCreatorsMade(), 0);
 }
 
 TEST_F(Reader, SymbolThatDrawsNothingIsAnError)
 {
-    services.conversions["<svg/>"] = "0x8";
+    host.behavior().symbolSize = QSizeF(0, 8);
     EXPECT_FALSE(import(LabelFile().symbol(QStringLiteral("a"), "<svg/>")));
     EXPECT_EQ(boxText(), SymbolErrors);
-    EXPECT_EQ(fake.calls.itemsAlive, 0);
+    EXPECT_EQ(host.livingItems(), 0);
 }
 
 TEST_F(Reader, SymbolThatCannotBeConvertedIsAnError)
 {
+    host.behavior().conversion = recorder::Behavior::Conversion::Fails;
     EXPECT_FALSE(import(LabelFile().symbol(QStringLiteral("arrow.svg"), "no svg")));
     EXPECT_EQ(boxText(), SymbolErrors);
-    EXPECT_TRUE(fake.calls.with("factory create").isEmpty());
+    EXPECT_TRUE(host.callsWith("factory create").isEmpty());
 }
 
 TEST_F(Reader, IssuesAreReportedBeforeTheCanvasIsComplete)
 {
     QObject::connect(&reader, &LegacyTavrel::popupShowSignal, &reader, [this] {
-        EXPECT_EQ(fake.canvas.itemCount(), 1U);
-        EXPECT_TRUE(fake.calls.with("completeCanvasLoading").isEmpty());
+        EXPECT_EQ(host.itemCount(), 1);
+        EXPECT_TRUE(host.callsWith("completeCanvasLoading").isEmpty());
     });
     const QSignalSpy shown(&reader, &LegacyTavrel::popupShowSignal);
-    EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 1)));
+    EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 5)));
     EXPECT_EQ(shown.count(), 1);
-    EXPECT_EQ(fake.calls.lines().last(), QStringLiteral("canvas completeCanvasLoading"));
+    EXPECT_EQ(host.calls().last(), QStringLiteral("canvas completeCanvasLoading"));
 }
 
 // A host that fails
 
 TEST_F(Reader, ItemThatTheHostCannotMakeIsLeftOutAndLogged)
 {
-    fake.canvas.factory.refusedTypes = {0x1002C, 0x1000C, 0x10015, 0x1001D, 0x1000D};
+    host.behavior().refusedTypes = {0x1002C, 0x1000C, 0x10015, 0x1001D, 0x1000D};
     EXPECT_TRUE(import(LabelFile()
                            .shape(Oval)
                            .picture(pngOf(2, 2))
@@ -362,7 +355,7 @@ TEST_F(Reader, ItemThatTheHostCannotMakeIsLeftOutAndLogged)
                            .symbol(QStringLiteral("arrow.svg"))
                            .shape(QStringLiteral("Square"))));
     EXPECT_EQ(errors().size(), 5);
-    EXPECT_EQ(fake.canvas.itemCount(), 1U);
+    EXPECT_EQ(host.itemCount(), 1);
     EXPECT_EQ(boxText(), SymbolErrors);
 }
 
@@ -372,21 +365,21 @@ TEST_F(Reader, FilesInTurnDoNotMixEvenWithAFailureBetween)
 {
     EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
                            .text(QStringLiteral("a"), QStringLiteral("2"))
-                           .barcode(true, 1)));
-    const QString first = services.boxes.first().text;
+                           .barcode(true, 5)));
+    const QString first = textOf(boxes.first());
     EXPECT_FALSE(import(hex("00000000 00000001")));
     EXPECT_FALSE(import(LabelFile(2000018).typeCode(1)));
-    services.boxes.clear();
-    fake.calls.clear();
+    boxes.clear();
+    host.forgetCalls();
 
     EXPECT_TRUE(import(LabelFile(2000016).shape(Oval)));
-    EXPECT_TRUE(services.boxes.isEmpty()) << "issues are those of one file";
-    EXPECT_EQ(fake.calls.with("completeCanvasLoading").size(), 1);
+    EXPECT_TRUE(boxes.isEmpty()) << "issues are those of one file";
+    EXPECT_EQ(host.callsWith("completeCanvasLoading").size(), 1);
 
     EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
                            .text(QStringLiteral("a"), QStringLiteral("2"))
-                           .barcode(true, 1)));
-    EXPECT_EQ(services.boxes.last().text, first);
+                           .barcode(true, 5)));
+    EXPECT_EQ(textOf(boxes.last()), first);
 }
 
 TEST_F(Reader, ResolutionAndCounterAreThoseOfTheFile)
@@ -406,25 +399,23 @@ TEST_F(Reader, ResolutionAndCounterAreThoseOfTheFile)
     EXPECT_TRUE(import(label(2000023, page)));
     EXPECT_TRUE(import(label(2000016, {})));
     // 25/6 inches are 300 points.
-    EXPECT_EQ(fake.calls.with("setItemSize "),
-              (QStringList{QStringLiteral("item1 setItemSize 20x122"),
-                           QStringLiteral("item3 setItemSize 39.3442622951x61"),
-                           QStringLiteral("item5 setItemSize 40x60")}));
-    EXPECT_EQ(fake.calls.with("\"Start\""),
-              (QStringList{QStringLiteral("datasource1 setDatasourceProperty \"Start\" 10"),
-                           QStringLiteral("datasource2 setDatasourceProperty \"Start\" 11"),
-                           QStringLiteral("datasource3 setDatasourceProperty \"Start\" 10")}));
+    EXPECT_EQ(host.callsWith("setItemSize "),
+              lines({"item:1 setItemSize 20 122", "item:3 setItemSize 39.3442622951 61",
+                     "item:5 setItemSize 40 60"}));
+    EXPECT_EQ(host.callsWith("\"Start\""),
+              lines({"datasource:1 setDatasourceProperty 'Start' 10",
+                     "datasource:2 setDatasourceProperty 'Start' 11",
+                     "datasource:3 setDatasourceProperty 'Start' 10"}));
 }
 
 TEST_F(Reader, ServicesAreMadeOnceForAllFiles)
 {
-    services.conversions["<svg/>"] = "8x8";
     const LabelFile label =
         LabelFile().symbol(QStringLiteral("a"), "<svg/>").symbol(QStringLiteral("unknown"));
     EXPECT_TRUE(import(label));
     EXPECT_TRUE(import(label));
-    EXPECT_EQ(services.creatorsMade, 1);
-    EXPECT_EQ(services.databasePaths.size(), 2);
+    EXPECT_EQ(host.recorder().symbolCreatorsMade(), 1);
+    EXPECT_EQ(host.count(QStringLiteral("setDatabasePath")), 2);
 }
 
 } // namespace

@@ -12,8 +12,8 @@ namespace {
 class MessageBox : public ReaderTest
 {
 protected:
-    bool importWithIssue() { return import(LabelFile().shape({}).barcode(true, 1)); }
-    [[nodiscard]] TalMessageBox* lastBox() const { return services.boxes.last().box; }
+    bool importWithIssue() { return import(LabelFile().shape({}).barcode(true, 5)); }
+    [[nodiscard]] TalMessageBox* lastBox() const { return boxes.last(); }
     static void runEventLoopOnce()
     {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -26,26 +26,26 @@ protected:
 TEST_F(MessageBox, IsNotMadeWhenAllWentWell)
 {
     EXPECT_TRUE(import(LabelFile().shape({})));
-    EXPECT_TRUE(services.boxes.isEmpty());
+    EXPECT_TRUE(host.callsOn(QStringLiteral("messagebox")).isEmpty());
     EXPECT_EQ(shown.count(), 0);
 }
 
 TEST_F(MessageBox, IsAnnouncedOnceAndKept)
 {
     EXPECT_TRUE(importWithIssue());
-    ASSERT_EQ(services.boxes.size(), 1);
-    const FakeServices::Box& box = services.boxes.first();
-    EXPECT_EQ(box.title, QStringLiteral("Warning: Import issues."));
-    EXPECT_EQ(box.text, QStringLiteral("Unsupported barcode symbols."));
-    EXPECT_EQ(box.buttons, int(QMessageBox::Ok));
-    EXPECT_EQ(box.defaultButton, int(QMessageBox::Ok));
-    EXPECT_EQ(box.detail, QString());
-    EXPECT_EQ(box.captionCount, 0);
+    ASSERT_EQ(boxes.size(), 1);
+    const QPointer<TalMessageBox> box = boxes.first();
+    EXPECT_EQ(box->windowTitle(), QStringLiteral("Warning: Import issues."));
+    EXPECT_EQ(textOf(box), QStringLiteral("Unsupported barcode symbols."));
+    EXPECT_EQ(box->property("buttons"), int(QMessageBox::Ok));
+    EXPECT_EQ(box->property("defaultButton"), int(QMessageBox::Ok));
+    EXPECT_EQ(box->property("detail"), QString());
+    EXPECT_EQ(box->property("captions"), 0);
     ASSERT_EQ(shown.count(), 1);
-    EXPECT_EQ(shown.first().first().value<QWidget*>(), box.box);
+    EXPECT_EQ(shown.first().first().value<QWidget*>(), box);
     EXPECT_EQ(hidden.count(), 0);
     runEventLoopOnce();
-    EXPECT_FALSE(box.box.isNull());
+    EXPECT_FALSE(box.isNull());
 }
 
 TEST_F(MessageBox, IsWithdrawnAndDeletedWhenTheUserClosesIt)
@@ -53,9 +53,9 @@ TEST_F(MessageBox, IsWithdrawnAndDeletedWhenTheUserClosesIt)
     EXPECT_TRUE(importWithIssue());
     Q_EMIT lastBox()->popupHideSignal();
     EXPECT_EQ(hidden.count(), 1);
-    EXPECT_FALSE(services.boxes.first().box.isNull()) << "not in its own signal";
+    EXPECT_FALSE(boxes.first().isNull()) << "not in its own signal";
     runEventLoopOnce();
-    EXPECT_TRUE(services.boxes.first().box.isNull());
+    EXPECT_TRUE(boxes.first().isNull());
     EXPECT_EQ(hidden.count(), 1);
 }
 
@@ -67,7 +67,7 @@ TEST_F(MessageBox, MayBeClosedWhileItIsAnnounced)
     EXPECT_TRUE(importWithIssue());
     EXPECT_EQ(hidden.count(), 1);
     runEventLoopOnce();
-    EXPECT_TRUE(services.boxes.first().box.isNull());
+    EXPECT_TRUE(boxes.first().isNull());
 }
 
 TEST_F(MessageBox, OfALaterImportTakesThePlaceOfOneThatIsStillThere)
@@ -77,8 +77,8 @@ TEST_F(MessageBox, OfALaterImportTakesThePlaceOfOneThatIsStillThere)
     EXPECT_EQ(shown.count(), 2);
     EXPECT_EQ(hidden.count(), 1);
     runEventLoopOnce();
-    EXPECT_TRUE(services.boxes.first().box.isNull());
-    EXPECT_FALSE(services.boxes.last().box.isNull());
+    EXPECT_TRUE(boxes.first().isNull());
+    EXPECT_FALSE(boxes.last().isNull());
     Q_EMIT lastBox()->popupHideSignal();
     EXPECT_EQ(hidden.count(), 2);
 }
@@ -88,7 +88,7 @@ TEST_F(MessageBox, StaysWhenALaterImportHasNothingToReport)
     EXPECT_TRUE(importWithIssue());
     EXPECT_TRUE(import(LabelFile().shape({})));
     EXPECT_EQ(hidden.count(), 0);
-    EXPECT_FALSE(services.boxes.first().box.isNull());
+    EXPECT_FALSE(boxes.first().isNull());
 }
 
 TEST_F(MessageBox, ImportFromTheHidingSignalKeepsItsOwnBox)
@@ -102,8 +102,8 @@ TEST_F(MessageBox, ImportFromTheHidingSignalKeepsItsOwnBox)
     EXPECT_TRUE(importWithIssue());
     Q_EMIT lastBox()->popupHideSignal();
     runEventLoopOnce();
-    EXPECT_TRUE(services.boxes.first().box.isNull());
-    EXPECT_FALSE(services.boxes.last().box.isNull());
+    EXPECT_TRUE(boxes.first().isNull());
+    EXPECT_FALSE(boxes.last().isNull());
 }
 
 TEST_F(MessageBox, DeletedByItsHostLeavesNothingBehind)
@@ -121,15 +121,16 @@ TEST_F(MessageBox, DeletedByItsHostLeavesNothingBehind)
 TEST_F(MessageBox, GoesWithTheReader)
 {
     {
-        LegacyTavrel other(&fake.canvas, &fake.datasources);
-        const QString label = written(LabelFile().shape({}).barcode(true, 1).bytes());
+        LegacyTavrel other(host.canvas(), host.datasources());
+        collectBoxes(other);
+        const QString label = written(LabelFile().shape({}).barcode(true, 5).bytes());
         EXPECT_TRUE(other.importLabelFromFile(label));
         Q_EMIT lastBox()->popupHideSignal(); // withdrawn, and no event loop runs
         EXPECT_TRUE(other.importLabelFromFile(label));
     }
-    ASSERT_EQ(services.boxes.size(), 2);
-    EXPECT_TRUE(services.boxes.first().box.isNull());
-    EXPECT_TRUE(services.boxes.last().box.isNull());
+    ASSERT_EQ(boxes.size(), 2);
+    EXPECT_TRUE(boxes.first().isNull());
+    EXPECT_TRUE(boxes.last().isNull());
 }
 
 } // namespace

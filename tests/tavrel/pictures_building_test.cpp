@@ -24,19 +24,19 @@ TEST_F(PictureBuilder, ScalesThePicturesOwnSize)
 {
     header.width = 600.0;
     header.height = 75.0;
-    EXPECT_EQ(buildPicture(host(), picture(40, 30), Printer), BuildResult::Built);
+    EXPECT_EQ(buildPicture(canvas(), picture(40, 30), Printer), BuildResult::Built);
     EXPECT_EQ(
-        fake.calls.lines(),
-        lines({"factory create \"1000c\"", "item1 pixmapImportActions 40x30", "item1 getItemSize",
-               "item1 setItemSize 80x15", "item1 setItemRotation 30", "item1 setZValue 1003",
-               "item1 setFlag movable yes", "item1 setPos 100x50", "canvas importItem"}));
+        host.calls(),
+        lines({"factory create 1000c", "item:1 pixmapImportActions 40x30", "item:1 getItemSize",
+               "item:1 setItemSize 80 15", "item:1 setItemRotation 30", "item:1 setZValue 1003",
+               "item:1 setMovable true", "item:1 setPos 100 50", "canvas importItem 'item:1'"}));
     expectPlaced();
 }
 
 TEST_F(PictureBuilder, NoPictureGivesAnItemOfNoSize)
 {
-    EXPECT_EQ(buildPicture(host(), {header, {}}, Printer), BuildResult::Built);
-    EXPECT_EQ(fake.calls.with("setItemSize"), lines({"item1 setItemSize 0x0"}));
+    EXPECT_EQ(buildPicture(canvas(), {header, {}}, Printer), BuildResult::Built);
+    EXPECT_EQ(host.callsWith("setItemSize"), lines({"item:1 setItemSize 0 0"}));
 }
 
 TEST_F(PictureBuilder, OddNumbersPassToTheHost)
@@ -44,16 +44,16 @@ TEST_F(PictureBuilder, OddNumbersPassToTheHost)
     header.width = HUGE_VAL;
     header.height = NAN;
     header.rotation = NAN;
-    EXPECT_EQ(buildPicture(host(), picture(2, 2), Printer), BuildResult::Built);
-    EXPECT_EQ(fake.calls.with("setItemSize"), lines({"item1 setItemSize infxnan"}));
-    EXPECT_EQ(fake.calls.with("setItemRotation"), lines({"item1 setItemRotation nan"}));
+    EXPECT_EQ(buildPicture(canvas(), picture(2, 2), Printer), BuildResult::Built);
+    EXPECT_EQ(host.callsWith("setItemSize"), lines({"item:1 setItemSize inf nan"}));
+    EXPECT_EQ(host.callsWith("setItemRotation"), lines({"item:1 setItemRotation 'nan'"}));
 }
 
 TEST_F(PictureBuilder, HostWithoutPicturesLeavesItOut)
 {
-    fake.canvas.factory.mismatchedTypes = {KestTypes::Picture};
-    EXPECT_EQ(buildPicture(host(), picture(2, 2), Printer), BuildResult::NoItem);
-    EXPECT_EQ(fake.canvas.itemCount(), 0U);
+    host.behavior().mismatchedTypes = {KestTypes::Picture};
+    EXPECT_EQ(buildPicture(canvas(), picture(2, 2), Printer), BuildResult::NoItem);
+    EXPECT_EQ(host.itemCount(), 0);
 }
 
 } // namespace

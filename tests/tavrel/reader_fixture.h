@@ -3,11 +3,13 @@
 #include "host/services/tal_message_box.h"
 #include "tavrel/legacy_tavrel.h"
 #include "tests/support/captured_log.h"
-#include "tests/tavrel/fake_host.h"
-#include "tests/tavrel/fake_services.h"
+#include "tests/support/test_host/test_host.h"
 #include "tests/tavrel/label_file.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QGraphicsItem>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -15,15 +17,20 @@
 
 namespace tavrel_test {
 
-/// A reader, its host, and a folder for its files.
+/// A reader, its host, and a folder for its files. The host accepts every drawing as a symbol of
+/// 30 by 20; its first database has the symbol arrow.svg.
 class ReaderTest : public testing::Test
 {
 protected:
     ReaderTest()
     {
-        services.linearCodes = {20};
-        services.matrixCodes = {55};
-        services.databases[QStringLiteral("symbols.db")][QStringLiteral("arrow.svg")] = "30x20";
+        host.behavior().conversion = recorder::Behavior::Conversion::OfAnything;
+        host.behavior().symbolSize = QSizeF(30, 20);
+        host.behavior().sourcesHaveFields = false;
+        const QString folderOfDatabases = QCoreApplication::applicationDirPath();
+        host.behavior().symbols = {{folderOfDatabases + QStringLiteral("/symbols.db"),
+                                    {{QStringLiteral("arrow.svg"), "arrow"}}}};
+        collectBoxes(reader);
     }
 
     bool import(const QByteArray& bytes) { return reader.importLabelFromFile(written(bytes)); }
@@ -37,12 +44,23 @@ protected:
         return path;
     }
 
+    void collectBoxes(LegacyTavrel& from)
+    {
+        QObject::connect(&from, &LegacyTavrel::popupShowSignal, &from,
+                         [this](QWidget* box) { boxes.append(qobject_cast<TalMessageBox*>(box)); });
+    }
     /// The text of the only box; empty if there is none.
     [[nodiscard]] QString boxText() const
     {
-        EXPECT_LE(services.boxes.size(), 1);
-        return services.boxes.isEmpty() ? QString() : services.boxes.first().text;
+        EXPECT_LE(boxes.size(), 1);
+        return boxes.isEmpty() ? QString() : textOf(boxes.first());
     }
+    [[nodiscard]] static QString textOf(const TalMessageBox* box)
+    {
+        return box->property("text").toString();
+    }
+    /// The names that were looked up in the symbol databases.
+    [[nodiscard]] QStringList lookUps() const { return host.callsWith("getDataFromSymbolName"); }
     /// The logged errors.
     [[nodiscard]] QStringList errors() const
     {
@@ -55,9 +73,9 @@ protected:
         return all;
     }
 
-    FakeServices& services = FakeServices::reset();
-    FakeHost fake;
-    LegacyTavrel reader{&fake.canvas, &fake.datasources};
+    TestHost host;
+    QList<QPointer<TalMessageBox>> boxes; ///< that the readers have announced
+    LegacyTavrel reader{host.canvas(), host.datasources()};
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("label.cnv"));
     CapturedLog log;

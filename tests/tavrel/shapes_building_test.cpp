@@ -20,13 +20,13 @@ protected:
 
 TEST_F(ShapeBuilder, SetsUpAShapeInItsBox)
 {
-    EXPECT_EQ(buildShape(host(), shape("Oval", 1)), BuildResult::Built);
-    EXPECT_EQ(
-        fake.calls.lines(),
-        lines({"factory create \"1002c\"", "item1 setItemSize 60x20", "item1 setItemRotation 30",
-               "item1 setZValue 1003", "item1 setFlag movable yes", "item1 setPos 100x50",
-               "item1 setPenWidth 6", "item1 setPenStyle 2", "item1 setPenColor #ffff0000",
-               "item1 setFilled yes", "item1 setFillColor #ffffff00", "canvas importItem"}));
+    EXPECT_EQ(buildShape(canvas(), shape("Oval", 1)), BuildResult::Built);
+    EXPECT_EQ(host.calls(),
+              lines({"factory create 1002c", "item:1 setItemSize 60 20",
+                     "item:1 setItemRotation 30", "item:1 setZValue 1003", "item:1 setMovable true",
+                     "item:1 setPos 100 50", "item:1 setPenWidth 6", "item:1 setPenStyle 2",
+                     "item:1 setPenColor '#ffff0000'", "item:1 setFilled true",
+                     "item:1 setFillColor '#ffffff00'", "canvas importItem 'item:1'"}));
     expectPlaced();
 }
 
@@ -39,14 +39,15 @@ struct FillRow
 
 TEST_F(ShapeBuilder, FillModeChoosesBetweenBackgroundPenColorAndNothing)
 {
-    for (const FillRow& row : {FillRow{0, "no", "#ffffff00"}, FillRow{1, "yes", "#ffffff00"},
-                               FillRow{2, "yes", "#ffff0000"}, FillRow{3, "no", "#ffffff00"},
-                               FillRow{-1, "no", "#ffffff00"}}) {
+    for (const FillRow& row :
+         {FillRow{0, "false", "'#ffffff00'"}, FillRow{1, "true", "'#ffffff00'"},
+          FillRow{2, "true", "'#ffff0000'"}, FillRow{3, "false", "'#ffffff00'"},
+          FillRow{-1, "false", "'#ffffff00'"}}) {
         SCOPED_TRACE(row.mode);
-        fake.calls.clear();
-        EXPECT_EQ(buildShape(host(), shape("Diamond", row.mode)), BuildResult::Built);
-        EXPECT_TRUE(fake.calls.with("setFilled").value(0).endsWith(QLatin1String(row.filled)));
-        EXPECT_TRUE(fake.calls.with("setFillColor").value(0).endsWith(QLatin1String(row.color)));
+        host.forgetCalls();
+        EXPECT_EQ(buildShape(canvas(), shape("Diamond", row.mode)), BuildResult::Built);
+        EXPECT_TRUE(host.callsWith("setFilled").value(0).endsWith(QLatin1String(row.filled)));
+        EXPECT_TRUE(host.callsWith("setFillColor").value(0).endsWith(QLatin1String(row.color)));
     }
 }
 
@@ -54,19 +55,19 @@ TEST_F(ShapeBuilder, EveryFilledShapeCanBeBuilt)
 {
     for (const char* name : {"RoundedRectangle", "Triangle", "Octagon", "Diamond", "Hexagon",
                              "Oval", "Rectangle", "unheard of"}) {
-        EXPECT_EQ(buildShape(host(), shape(name)), BuildResult::Built) << name;
+        EXPECT_EQ(buildShape(canvas(), shape(name)), BuildResult::Built) << name;
     }
-    EXPECT_EQ(fake.canvas.itemCount(), 8U);
+    EXPECT_EQ(host.itemCount(), 8);
 }
 
 TEST_F(ShapeBuilder, HorizontalLineIsAsLongAsItsBoxIsWide)
 {
-    EXPECT_EQ(buildShape(host(), shape("HorizontalLine", 1)), BuildResult::Built);
-    EXPECT_EQ(fake.calls.lines(),
-              lines({"factory create \"1001f\"", "item1 setLineLength 60",
-                     "item1 setItemRotation 30", "item1 setZValue 1003",
-                     "item1 setFlag movable yes", "item1 setPenWidth 6", "item1 setPenStyle 2",
-                     "item1 setPenColor #ffff0000", "item1 setPos 100x50", "canvas importItem"}))
+    EXPECT_EQ(buildShape(canvas(), shape("HorizontalLine", 1)), BuildResult::Built);
+    EXPECT_EQ(host.calls(),
+              lines({"factory create 1001f", "item:1 setLineLength 60", "item:1 setItemRotation 30",
+                     "item:1 setZValue 1003", "item:1 setMovable true", "item:1 setPenWidth 6",
+                     "item:1 setPenStyle 2", "item:1 setPenColor '#ffff0000'",
+                     "item:1 setPos 100 50", "canvas importItem 'item:1'"}))
         << "a line has no fill, whatever the mode";
     expectPlaced();
 }
@@ -77,35 +78,35 @@ TEST_F(ShapeBuilder, VerticalLineIsTurnedAboutItsMiddle)
     header.y = 100.0;
     header.height = 72.0;
     header.rotation = 0.0;
-    EXPECT_EQ(buildShape(host(), shape("VerticalLine")), BuildResult::Built);
-    EXPECT_EQ(fake.calls.with("setLineLength"), lines({"item1 setLineLength 72"}));
-    EXPECT_EQ(fake.calls.with("setItemRotation"), lines({"item1 setItemRotation 90"}));
+    EXPECT_EQ(buildShape(canvas(), shape("VerticalLine")), BuildResult::Built);
+    EXPECT_EQ(host.callsWith("setLineLength"), lines({"item:1 setLineLength 72"}));
+    EXPECT_EQ(host.callsWith("setItemRotation"), lines({"item:1 setItemRotation 90"}));
     expectPlaced({64.0, 136.0});
 }
 
 TEST_F(ShapeBuilder, LockedItemIsNotMovable)
 {
     header.movable = false;
-    EXPECT_EQ(buildShape(host(), shape("Oval")), BuildResult::Built);
-    EXPECT_FALSE(fake.canvas.item(0)->flags().testFlag(QGraphicsItem::ItemIsMovable));
+    EXPECT_EQ(buildShape(canvas(), shape("Oval")), BuildResult::Built);
+    EXPECT_FALSE(host.item(1)->flags().testFlag(QGraphicsItem::ItemIsMovable));
 }
 
 TEST_F(ShapeBuilder, HostWithoutTheShapeLeavesItOut)
 {
-    fake.canvas.factory.refusedTypes = {KestTypes::Ellipse};
-    fake.canvas.factory.mismatchedTypes = {KestTypes::Diamond, KestTypes::Line};
-    EXPECT_EQ(buildShape(host(), shape("Oval")), BuildResult::NoItem);
-    EXPECT_EQ(buildShape(host(), shape("Diamond")), BuildResult::NoItem);
-    EXPECT_EQ(buildShape(host(), shape("HorizontalLine")), BuildResult::NoItem);
-    EXPECT_EQ(fake.canvas.itemCount(), 0U);
+    host.behavior().refusedTypes = {KestTypes::Ellipse};
+    host.behavior().mismatchedTypes = {KestTypes::Diamond, KestTypes::Line};
+    EXPECT_EQ(buildShape(canvas(), shape("Oval")), BuildResult::NoItem);
+    EXPECT_EQ(buildShape(canvas(), shape("Diamond")), BuildResult::NoItem);
+    EXPECT_EQ(buildShape(canvas(), shape("HorizontalLine")), BuildResult::NoItem);
+    EXPECT_EQ(host.itemCount(), 0);
 }
 
 TEST_F(ShapeBuilder, HostWithoutLinesIsStopped)
 {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
-    fake.canvas.factory.refusedTypes = {KestTypes::Line};
-    EXPECT_DEATH((void)buildShape(host(), shape("HorizontalLine")), "makes no lines");
-    EXPECT_DEATH((void)buildShape(host(), shape("VerticalLine")), "makes no lines");
+    host.behavior().refusedTypes = {KestTypes::Line};
+    EXPECT_DEATH((void)buildShape(canvas(), shape("HorizontalLine")), "makes no lines");
+    EXPECT_DEATH((void)buildShape(canvas(), shape("VerticalLine")), "makes no lines");
 }
 
 } // namespace

@@ -1,43 +1,53 @@
 #include "tavrel/symbols.h"
-#include "tests/tavrel/fake_services.h"
+#include "tests/support/test_host/test_host.h"
 
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
 using tavrel::SymbolSource;
-using tavrel_test::FakeServices;
 
 namespace {
 
-const QString First = QStringLiteral("symbols.db");
-const QString Second = QStringLiteral("legacy_symbols.db");
+const QString First = QStringLiteral("/symbols.db");
+const QString Second = QStringLiteral("/legacy_symbols.db");
+const QStringList BothAreAsked = lines({"symboldb:1 setDatabasePath 'symbols.db'",
+                                        "symboldb:1 getDataFromSymbolName 'arrow.svg'",
+                                        "symboldb:2 setDatabasePath 'legacy_symbols.db'",
+                                        "symboldb:2 getDataFromSymbolName 'arrow.svg'"});
 
 class Symbols : public testing::Test
 {
 protected:
-    FakeServices& services = FakeServices::reset();
+    Symbols()
+    {
+        host.behavior().conversion = recorder::Behavior::Conversion::OfAnything;
+        host.behavior().symbols.emplace();
+    }
+    void store(const QString& database, const QByteArray& data)
+    {
+        const QString path = QCoreApplication::applicationDirPath() + database;
+        (*host.behavior().symbols)[path][QStringLiteral("arrow.svg")] = data;
+    }
+
+    TestHost host;
 };
 
 TEST_F(Symbols, FirstDatabaseIsEnoughWhenItKnowsTheName)
 {
-    services.databases[First][QStringLiteral("arrow.svg")] = "1x1";
-    services.databases[Second][QStringLiteral("arrow.svg")] = "2x2";
+    store(First, "1x1");
+    store(Second, "2x2");
     SymbolSource source;
     EXPECT_EQ(source.getSymbolData(QStringLiteral("arrow.svg")), QByteArray("1x1"));
-    EXPECT_EQ(services.databasePaths,
-              QStringList(QCoreApplication::applicationDirPath() + QStringLiteral("/symbols.db")));
+    EXPECT_EQ(host.calls(), BothAreAsked.first(2));
 }
 
 TEST_F(Symbols, SecondDatabaseIsAskedNext)
 {
-    services.databases[Second][QStringLiteral("arrow.svg")] = "2x2";
+    store(Second, "2x2");
     SymbolSource source;
     EXPECT_EQ(source.getSymbolData(QStringLiteral("arrow.svg")), QByteArray("2x2"));
-    EXPECT_EQ(services.lookUps, (QStringList{QStringLiteral("symbols.db:arrow.svg"),
-                                             QStringLiteral("legacy_symbols.db:arrow.svg")}));
-    EXPECT_EQ(services.databasePaths.value(1),
-              QCoreApplication::applicationDirPath() + QStringLiteral("/legacy_symbols.db"));
+    EXPECT_EQ(host.calls(), BothAreAsked);
 }
 
 TEST_F(Symbols, UnknownNameGivesNothing)
@@ -49,7 +59,7 @@ TEST_F(Symbols, UnknownNameGivesNothing)
 
 TEST_F(Symbols, FolderOfTheNameDoesNotCount)
 {
-    services.databases[First][QStringLiteral("arrow.svg")] = "1x1";
+    store(First, "1x1");
     SymbolSource source;
     for (const char* name : {"/usr/share/arrow.svg", "C:/symbols/arrow.svg", "../arrow.svg"}) {
         EXPECT_EQ(source.getSymbolData(QLatin1String(name)), QByteArray("1x1")) << name;
@@ -60,35 +70,37 @@ TEST_F(Symbols, DatabasesAreOpenedOnceAndDeletedWithTheSource)
 {
     {
         SymbolSource source;
-        EXPECT_EQ(services.databasesAlive, 0) << "not before the first need";
+        EXPECT_EQ(host.recorder().symbolDatabases(), 0) << "not before the first need";
         (void)source.getSymbolData(QStringLiteral("a"));
         (void)source.getSymbolData(QStringLiteral("b"));
-        EXPECT_EQ(services.databasesAlive, 2);
-        EXPECT_EQ(services.databasePaths.size(), 2);
+        EXPECT_EQ(host.recorder().symbolDatabases(), 2);
+        EXPECT_EQ(host.count(QStringLiteral("setDatabasePath")), 2);
     }
-    EXPECT_EQ(services.databasesAlive, 0);
+    EXPECT_EQ(host.recorder().symbolDatabases(), 0);
 }
 
 TEST_F(Symbols, DocumentIsReplacedByTheHostsSymbol)
 {
-    services.conversions["<svg/>"] = "8x8";
-    services.conversions["<svg></svg>"] = "9x9";
     {
         SymbolSource source;
         QByteArray first = "<svg/>";
         source.convertSvgSymbol(first);
-        EXPECT_EQ(first, QByteArray("8x8"));
+        EXPECT_EQ(first, QByteArray("symbol of <svg/>"));
         QByteArray second = "<svg></svg>";
         source.convertSvgSymbol(second);
-        EXPECT_EQ(second, QByteArray("9x9"));
-        EXPECT_EQ(services.creatorsMade, 1) << "one creator serves all";
-        EXPECT_TRUE(services.lookUps.isEmpty());
+        EXPECT_EQ(second, QByteArray("symbol of <svg></svg>"));
+        EXPECT_EQ(host.recorder().symbolCreatorsMade(), 1) << "one creator serves all";
+        EXPECT_EQ(host.callsWith("convertSvgToSymbol"),
+                  lines({"symbolcreator convertSvgToSymbol [0 0 0 0]",
+                         "symbolcreator convertSvgToSymbol [0 0 0 0]"}));
+        EXPECT_TRUE(host.callsWith("symboldb").isEmpty());
     }
-    EXPECT_EQ(services.creatorsAlive, 0);
+    EXPECT_EQ(host.recorder().symbolCreators(), 0);
 }
 
 TEST_F(Symbols, DocumentThatCannotBeConvertedGivesNothing)
 {
+    host.behavior().conversion = recorder::Behavior::Conversion::Fails;
     SymbolSource source;
     QByteArray data = "no svg";
     source.convertSvgSymbol(data);

@@ -15,30 +15,33 @@ TEST_F(SymbolBuilder, ScalesTheSymbolsOwnSizeAndColorsIt)
 {
     header.width = 600.0;
     header.height = 75.0;
-    EXPECT_EQ(buildSymbol(host(), header, Printer, "40x30"), BuildResult::Built);
-    EXPECT_EQ(fake.calls.lines(),
-              lines({"factory create \"1000d\"", "item1 loadItemFromData \"40x30\"",
-                     "item1 getItemSize", "item1 setItemSize 80x15", "item1 setItemRotation 30",
-                     "item1 setZValue 1003", "item1 setFlag movable yes", "item1 setPos 100x50",
-                     "item1 setForegroundColor #ffff0000", "item1 setBackgroundColor #ffffff00",
-                     "canvas importItem"}));
+    host.behavior().symbolSize = QSizeF(40, 30);
+    const QByteArray loaded = "item:1 loadItemFromData " + TestHost::shown("data").toUtf8();
+    EXPECT_EQ(buildSymbol(canvas(), header, Printer, "data"), BuildResult::Built);
+    EXPECT_EQ(host.calls(),
+              lines({"factory create 1000d", loaded.constData(), "item:1 getItemSize",
+                     "item:1 setItemSize 80 15", "item:1 setItemRotation 30",
+                     "item:1 setZValue 1003", "item:1 setMovable true", "item:1 setPos 100 50",
+                     "item:1 setForegroundColor '#ffff0000'",
+                     "item:1 setBackgroundColor '#ffffff00'", "canvas importItem 'item:1'"}));
     expectPlaced();
 }
 
 TEST_F(SymbolBuilder, SymbolThatDrawsNothingIsDropped)
 {
-    for (const char* data : {"0x30", "40x0", "-1x30", "nonsense"}) {
-        EXPECT_EQ(buildSymbol(host(), header, Printer, data), BuildResult::NoSize) << data;
-        EXPECT_EQ(fake.calls.itemsAlive, 0) << data;
+    for (const QSizeF& size : {QSizeF(0, 30), QSizeF(40, 0), QSizeF(-1, 30), QSizeF(0, 0)}) {
+        host.behavior().symbolSize = size;
+        EXPECT_EQ(buildSymbol(canvas(), header, Printer, "data"), BuildResult::NoSize);
+        EXPECT_EQ(host.livingItems(), 0);
     }
-    EXPECT_TRUE(fake.calls.with("importItem").isEmpty());
-    EXPECT_TRUE(fake.calls.with("setItemSize").isEmpty());
+    EXPECT_TRUE(host.callsWith("importItem").isEmpty());
+    EXPECT_TRUE(host.callsWith("setItemSize").isEmpty());
 }
 
 TEST_F(SymbolBuilder, HostWithoutSymbolsLeavesItOut)
 {
-    fake.canvas.factory.refusedTypes = {KestTypes::Symbol};
-    EXPECT_EQ(buildSymbol(host(), header, Printer, "40x30"), BuildResult::NoItem);
+    host.behavior().refusedTypes = {KestTypes::Symbol};
+    EXPECT_EQ(buildSymbol(canvas(), header, Printer, "data"), BuildResult::NoItem);
 }
 
 } // namespace

@@ -28,7 +28,7 @@ protected:
         record.optionB = true;
         return record;
     }
-    TextOutcome build(const TextRecord& record) { return buildText(host(), record, binder()); }
+    TextOutcome build(const TextRecord& record) { return buildText(canvas(), record, binder()); }
 };
 
 TEST_F(TextBuilder, ImportsTheItemBeforeItSetsItUp)
@@ -37,14 +37,15 @@ TEST_F(TextBuilder, ImportsTheItemBeforeItSetsItUp)
     EXPECT_EQ(outcome.result, BuildResult::Built);
     EXPECT_FALSE(outcome.scaled);
     EXPECT_EQ(
-        fake.calls.lines(),
-        lines({"factory create \"10015\"", "item1 setZValue 1003", "canvas importItem",
-               "item1 getItemSize", "item1 getItemSize", "item1 setItemSizeLimiting 0",
-               "item1 setTextBoxSize 33x11",
-               "item1 importTextProperties \"Net  weight\" 12 yes no yes 2", "item1 setPenWidth 6",
-               "item1 setPenStyle 2", "item1 setPenColor #ffff0000", "item1 setFillColor #ffffff00",
-               "item1 setTextColor #ffff0000", "item1 setOptionA no", "item1 setOptionB yes",
-               "item1 applyTextOptions", "item1 setFlag movable yes", "item1 setPos 100x50"}));
+        host.calls(),
+        lines({"factory create 10015", "item:1 setZValue 1003", "canvas importItem 'item:1'",
+               "item:1 getItemSize", "item:1 getItemSize", "item:1 setItemSizeLimiting 0",
+               "item:1 setTextBoxSize 33 11",
+               "item:1 importTextProperties 'Net  weight' 12 true false true 2",
+               "item:1 setPenWidth 6", "item:1 setPenStyle 2", "item:1 setPenColor '#ffff0000'",
+               "item:1 setFillColor '#ffffff00'", "item:1 setTextColor '#ffff0000'",
+               "item:1 setOptionA false", "item:1 setOptionB true", "item:1 applyTextOptions",
+               "item:1 setMovable true", "item:1 setPos 100 50"}));
     expectPlaced();
 }
 
@@ -57,13 +58,13 @@ TEST_F(TextBuilder, EachFlagHasItsPlace)
         record.*flag = true;
         EXPECT_EQ(build(record).result, BuildResult::Built);
     }
-    EXPECT_EQ(fake.calls.with("importTextProperties"),
-              lines({"item1 importTextProperties \"Net  weight\" 12 yes no no 2",
-                     "item2 importTextProperties \"Net  weight\" 12 no yes no 2",
-                     "item3 importTextProperties \"Net  weight\" 12 no no yes 2",
-                     "item4 importTextProperties \"Net  weight\" 12 no no no 2"}));
-    EXPECT_EQ(fake.calls.with("item4 setOption"),
-              lines({"item4 setOptionA yes", "item4 setOptionB no"}));
+    EXPECT_EQ(host.callsWith("importTextProperties"),
+              lines({"item:1 importTextProperties 'Net  weight' 12 true false false 2",
+                     "item:2 importTextProperties 'Net  weight' 12 false true false 2",
+                     "item:3 importTextProperties 'Net  weight' 12 false false true 2",
+                     "item:4 importTextProperties 'Net  weight' 12 false false false 2"}));
+    EXPECT_EQ(host.callsWith("item:4 setOption"),
+              lines({"item:4 setOptionA true", "item:4 setOptionB false"}));
 }
 
 struct BoxRow
@@ -79,32 +80,32 @@ struct BoxRow
 
 TEST_F(TextBuilder, BoxIsFixedScaledOrTheItemsOwn)
 {
-    for (const BoxRow& row : {BoxRow{-1, -1, 72.0, 72.0, 0, "33x11", false},
-                              BoxRow{2, -1, 72.0, 72.0, 1, "144x11", false},
-                              BoxRow{-1, 0.5, 72.0, 72.0, 2, "33x36", false},
-                              BoxRow{2, 0.5, 72.0, 72.0, 3, "144x36", false},
-                              BoxRow{2, 0.5, 144.0, 10.0, 3, "144x36", false},
-                              BoxRow{0, 0, 72.0, 72.0, 0, "33x11", false},
-                              BoxRow{-1, -1, 144.0, 72.0, 0, "144x11", true},
-                              BoxRow{-1, -1, 72.0, 36.0, 0, "33x36", true},
-                              BoxRow{-1, -1, 144.0, 36.0, 0, "144x36", true},
-                              BoxRow{2, -1, 72.0, 36.0, 1, "144x36", true},
-                              BoxRow{-1, -1, 72.0004, 71.9996, 0, "33x11", false},
-                              BoxRow{-1, -1, 72.0006, 72.0, 0, "72.0006x11", true},
-                              BoxRow{NAN, -1, 72.0, 72.0, 0, "33x11", false},
-                              BoxRow{-1, -1, NAN, 72.0, 0, "nanx11", true}}) {
+    for (const BoxRow& row : {BoxRow{-1, -1, 72.0, 72.0, 0, "33 11", false},
+                              BoxRow{2, -1, 72.0, 72.0, 1, "144 11", false},
+                              BoxRow{-1, 0.5, 72.0, 72.0, 2, "33 36", false},
+                              BoxRow{2, 0.5, 72.0, 72.0, 3, "144 36", false},
+                              BoxRow{2, 0.5, 144.0, 10.0, 3, "144 36", false},
+                              BoxRow{0, 0, 72.0, 72.0, 0, "33 11", false},
+                              BoxRow{-1, -1, 144.0, 72.0, 0, "144 11", true},
+                              BoxRow{-1, -1, 72.0, 36.0, 0, "33 36", true},
+                              BoxRow{-1, -1, 144.0, 36.0, 0, "144 36", true},
+                              BoxRow{2, -1, 72.0, 36.0, 1, "144 36", true},
+                              BoxRow{-1, -1, 72.0004, 71.9996, 0, "33 11", false},
+                              BoxRow{-1, -1, 72.0006, 72.0, 0, "72.0006 11", true},
+                              BoxRow{NAN, -1, 72.0, 72.0, 0, "33 11", false},
+                              BoxRow{-1, -1, NAN, 72.0, 0, "'nan' 11", true}}) {
         SCOPED_TRACE(row.size);
-        fake.calls.clear();
+        host.forgetCalls();
         TextRecord record = text();
         record.fixedWidth = row.fixedWidth;
         record.fixedHeight = row.fixedHeight;
         record.header.width = row.headerWidth;
         record.header.height = row.headerHeight;
         EXPECT_EQ(build(record).scaled, row.scaled);
-        EXPECT_TRUE(fake.calls.with("setItemSizeLimiting")
+        EXPECT_TRUE(host.callsWith("setItemSizeLimiting")
                         .value(0)
                         .endsWith(QStringLiteral(" %1").arg(row.limiting)));
-        EXPECT_TRUE(fake.calls.with("setTextBoxSize")
+        EXPECT_TRUE(host.callsWith("setTextBoxSize")
                         .value(0)
                         .endsWith(QLatin1Char(' ') + QLatin1String(row.size)));
     }
@@ -120,19 +121,19 @@ struct ColorRow
 
 TEST_F(TextBuilder, InverseSwapsTheColorsAndTransparencyComesLast)
 {
-    for (const ColorRow& row : {ColorRow{false, false, "#ffff0000", "#ffffff00"},
-                                ColorRow{true, false, "#ffffff00", "#ffff0000"},
-                                ColorRow{false, true, "#ffff0000", "#00000000"},
-                                ColorRow{true, true, "#ffffff00", "#00000000"}}) {
-        fake.calls.clear();
+    for (const ColorRow& row : {ColorRow{false, false, "'#ffff0000'", "'#ffffff00'"},
+                                ColorRow{true, false, "'#ffffff00'", "'#ffff0000'"},
+                                ColorRow{false, true, "'#ffff0000'", "'#00000000'"},
+                                ColorRow{true, true, "'#ffffff00'", "'#00000000'"}}) {
+        host.forgetCalls();
         TextRecord record = text();
         record.inverse = row.inverse;
         record.transparentBackground = row.transparent;
         build(record);
-        EXPECT_TRUE(fake.calls.with("setPenColor").value(0).endsWith(QLatin1String(row.text)));
-        EXPECT_TRUE(fake.calls.with("setTextColor").value(0).endsWith(QLatin1String(row.text)));
+        EXPECT_TRUE(host.callsWith("setPenColor").value(0).endsWith(QLatin1String(row.text)));
+        EXPECT_TRUE(host.callsWith("setTextColor").value(0).endsWith(QLatin1String(row.text)));
         EXPECT_TRUE(
-            fake.calls.with("setFillColor").value(0).endsWith(QLatin1String(row.background)));
+            host.callsWith("setFillColor").value(0).endsWith(QLatin1String(row.background)));
     }
 }
 
@@ -141,11 +142,11 @@ TEST_F(TextBuilder, BindsBetweenContentAndLook)
     TextRecord record = text();
     record.datasourceKey = QStringLiteral("_DATE");
     build(record);
-    EXPECT_EQ(fake.calls.lines().mid(7, 4),
-              lines({"item1 importTextProperties \"Net  weight\" 12 yes no yes 2",
-                     "datasources createDatasource \"SystemDatasource\"", "item1 setDatasourceId 1",
+    EXPECT_EQ(host.calls().mid(7, 4),
+              lines({"item:1 importTextProperties 'Net  weight' 12 true false true 2",
+                     "datasources createDatasource 'SystemDatasource'", "item:1 setDatasourceId 1",
                      "datasources getDatasource 1"}));
-    EXPECT_EQ(fake.calls.lines().value(13), QStringLiteral("item1 setPenWidth 6"));
+    EXPECT_EQ(host.calls().value(13), QStringLiteral("item:1 setPenWidth 6"));
 }
 
 TEST(ScaledTextNote, NamesTheWordsAndTheFontSize)
@@ -163,7 +164,7 @@ TEST(ScaledTextNote, JoinsWhitespaceAndLeavesTheRest)
 
 TEST_F(TextBuilder, HostWithoutTextsLeavesItOut)
 {
-    fake.canvas.factory.refusedTypes = {KestTypes::SimpleText};
+    host.behavior().refusedTypes = {KestTypes::SimpleText};
     TextRecord record = text();
     record.header.width = 144.0;
     const TextOutcome outcome = build(record);

@@ -59,9 +59,9 @@ TEST_F(Translation, OfTheWarning)
 {
     EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
                            .text(QStringLiteral("Lot"), QStringLiteral("2"))
-                           .barcode(true, 1)
+                           .barcode(true, 5)
                            .symbol(QStringLiteral("unknown"))));
-    EXPECT_EQ(services.boxes.first().title, QStringLiteral("<Warning: Import issues.>"));
+    EXPECT_EQ(boxes.first()->windowTitle(), QStringLiteral("<Warning: Import issues.>"));
     EXPECT_EQ(boxText(),
               QStringLiteral("<Errors reading symbol items.\nPlease update legacy Tavrel to its "
                              "latest version and re-save file.>\n<Unsupported barcode symbols.>\n"
@@ -79,7 +79,7 @@ TEST_F(Translation, OfTheWarning)
 TEST_F(Translation, OfTheLoadError)
 {
     EXPECT_FALSE(import(LabelFile().typeCode(1)));
-    EXPECT_EQ(services.boxes.first().title, QStringLiteral("<Load Error>"));
+    EXPECT_EQ(boxes.first()->windowTitle(), QStringLiteral("<Load Error>"));
     EXPECT_EQ(boxText(), QStringLiteral("<Errors reading items.>"));
     EXPECT_EQ(translator.commentOf(QStringLiteral("Load Error")), Title);
     EXPECT_EQ(translator.commentOf(QStringLiteral("Errors reading items.")), Content);
@@ -99,7 +99,7 @@ TEST_F(Translation, OfDatabaseKeysIsThatOfTheLibrarysStart)
                    .text(QStringLiteral("a"), QStringLiteral("1"), QStringLiteral("_SPECIAL"),
                          QStringLiteral("%Record% %_ROW%"))
                    .text(QStringLiteral("a"), QStringLiteral("1"), QStringLiteral("_DATE"))));
-    EXPECT_EQ(fake.calls.with("createDatasource").size(), 1);
+    EXPECT_EQ(host.callsWith("createDatasource").size(), 1);
     EXPECT_EQ(translator.commentOf(QStringLiteral("Record")), QStringLiteral("never asked"));
 }
 

@@ -3,9 +3,12 @@
 #include "recorder/items/recorded_item.h"
 
 #include <QColor>
+#include <QGraphicsItem>
+#include <QPointF>
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <Qt>
 
 #include <memory>
@@ -17,14 +20,20 @@
 
 namespace recorder {
 
-/// The layer of Item: size, rotation, flips. Everything starts at 0 by 0.
+/// The layer of Item: size, rotation, flips. The size is at first that of the behavior.
 template <typename Base>
 class Basics : public Base, public RecordedItem
 {
 public:
     Basics(std::shared_ptr<Recording> recording, int number)
         : RecordedItem(std::move(recording), number)
-    {}
+        , m_size(behavior().itemSize)
+    {
+        if (behavior().recordsPlacement) {
+            this->setFlag(QGraphicsItem::ItemSendsGeometryChanges);
+            m_recordsPlacement = true;
+        }
+    }
 
     void setItemSize(const QSizeF& size) override
     {
@@ -54,8 +63,21 @@ protected:
     /// Sets the size that the content implies.
     void adoptSize(const QSizeF& size) { m_size = size; }
 
+    QVariant itemChange(QGraphicsItem::GraphicsItemChange change, const QVariant& value) override
+    {
+        if (m_recordsPlacement && change == QGraphicsItem::ItemZValueChange) {
+            this->record("setZValue", value.toDouble());
+        } else if (m_recordsPlacement && change == QGraphicsItem::ItemFlagsChange) {
+            this->record("setMovable", (value.toInt() & QGraphicsItem::ItemIsMovable) != 0);
+        } else if (m_recordsPlacement && change == QGraphicsItem::ItemPositionChange) {
+            this->record("setPos", value.toPointF().x(), value.toPointF().y());
+        }
+        return Base::itemChange(change, value);
+    }
+
 private:
-    QSizeF m_size{0, 0};
+    QSizeF m_size;
+    bool m_recordsPlacement = false;
 };
 
 template <typename Base>

@@ -2,6 +2,8 @@
 
 #include "recorder/svg_document.h"
 
+#include <algorithm>
+
 namespace recorder {
 
 void RecordedRoundedRectangle::setCornerRadius(double radius)
@@ -66,12 +68,19 @@ void RecordedSimpleText::setItemSizeLimiting(signed char mode)
     record("setItemSizeLimiting", mode);
 }
 
+void RecordedRichText::setText(const QString& text)
+{
+    RecordedText::setText(text);
+    m_characters = text.size();
+}
+
 void RecordedRichText::adjustBoxSizeToContent(double width)
 {
     // The height of one line, whatever the text: a real one would depend on the installed fonts.
     constexpr double fixedHeight = 12;
     record("adjustBoxSizeToContent", width);
-    adoptSize({width, fixedHeight});
+    const double textWidth = behavior().characterWidth * static_cast<double>(m_characters);
+    adoptSize({textWidth > 0 ? std::min(textWidth, width) : width, fixedHeight});
 }
 
 void RecordedBarcode::setBarcodeType(int code)

@@ -68,7 +68,11 @@ class RecordedRichText : public RecordedText<RichTextItem>
 {
 public:
     using RecordedText<RichTextItem>::RecordedText;
+    void setText(const QString& text) override;
     void adjustBoxSizeToContent(double width) override;
+
+private:
+    qsizetype m_characters = 0; ///< of setText()
 };
 
 class RecordedBarcode

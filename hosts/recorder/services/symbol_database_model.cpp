@@ -12,18 +12,25 @@ class SymbolDatabaseModel::Private
 public:
     QString target;
     QString path;
+    std::shared_ptr<recorder::Recording> countedBy = recorder::Recording::current();
 };
 
 SymbolDatabaseModel::SymbolDatabaseModel(QObject* parent)
     : QObject(parent)
     , d(std::make_unique<Private>())
 {
-    if (const auto recording = recorder::Recording::current()) {
-        d->target = u"symboldb:%1"_s.arg(recording->addSymbolDatabase());
+    if (d->countedBy) {
+        d->target = u"symboldb:%1"_s.arg(d->countedBy->addSymbolDatabase());
+        ++d->countedBy->symbolDatabases;
     }
 }
 
-SymbolDatabaseModel::~SymbolDatabaseModel() = default;
+SymbolDatabaseModel::~SymbolDatabaseModel()
+{
+    if (d->countedBy) {
+        --d->countedBy->symbolDatabases;
+    }
+}
 
 void SymbolDatabaseModel::setDatabasePath(const QString& path)
 {
@@ -35,8 +42,11 @@ void SymbolDatabaseModel::setDatabasePath(const QString& path)
 
 QByteArray SymbolDatabaseModel::getDataFromSymbolName(QString name)
 {
-    const QByteArray data = recorder::symbolFromFile(d->path, name);
-    if (const auto recording = recorder::Recording::current()) {
+    const auto recording = recorder::Recording::current();
+    const bool isGiven = recording && recording->behavior().symbols;
+    const QByteArray data = isGiven ? recording->behavior().symbols->value(d->path).value(name)
+                                    : recorder::symbolFromFile(d->path, name);
+    if (recording) {
         recording->answer(data, d->target, "getDataFromSymbolName", name);
     }
     return data;

@@ -114,6 +114,15 @@ QString TestHost::shown(const QByteArray& bytes)
     return textOf(QJsonDocument::fromJson(recorder::TraceValue(bytes).json()).object());
 }
 
+QList<KestTypes::ShapeType> TestHost::requestedTypes() const
+{
+    QList<KestTypes::ShapeType> types;
+    for (const QString& call : callsOn(u"factory"_s)) {
+        types.append(KestTypes::ShapeType(call.section(u' ', 1).toInt(nullptr, 16)));
+    }
+    return types;
+}
+
 int TestHost::itemCount() const
 {
     const auto states = m_host.itemStates();
@@ -127,4 +136,13 @@ int TestHost::itemCount(KestTypes::ShapeType type) const
     return static_cast<int>(std::count_if(states.begin(), states.end(), [=](const auto& state) {
         return state.imported && state.type == type;
     }));
+}
+
+QStringList lines(std::initializer_list<const char*> texts)
+{
+    QStringList all;
+    for (const char* text : texts) {
+        all.append(QString::fromUtf8(text));
+    }
+    return all;
 }
