@@ -5,11 +5,11 @@
 #include "tavrel/barcodes.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/label_stream.h"
-#include "tavrel/limits.h"
 #include "tavrel/page_records.h"
 #include "tavrel/pictures.h"
 #include "tavrel/shapes.h"
 #include "tavrel/symbols.h"
+#include "tavrel/tavrel_limits.h"
 #include "tavrel/texts.h"
 
 #include <QDataStream>

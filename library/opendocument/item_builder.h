@@ -1,6 +1,6 @@
 #pragma once
 
-#include "opendocument/geometry.h"
+#include "opendocument/element_geometry.h"
 #include "opendocument/graphic_style.h"
 
 #include "host/kest_types.h"

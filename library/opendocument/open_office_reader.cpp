@@ -4,8 +4,8 @@
 
 #include "opendocument/code_table.h"
 #include "opendocument/item_builder.h"
-#include "opendocument/limits.h"
 #include "opendocument/log.h"
+#include "opendocument/opendocument_limits.h"
 #include "opendocument/page_layout.h"
 #include "opendocument/style_memory.h"
 

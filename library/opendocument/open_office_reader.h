@@ -1,7 +1,7 @@
 #pragma once
 
 #include "limits/zip/zip_directory.h"
-#include "opendocument/geometry.h"
+#include "opendocument/element_geometry.h"
 #include "opendocument/graphic_style.h"
 #include "opendocument/picture_store.h"
 #include "opendocument/rich_text.h"

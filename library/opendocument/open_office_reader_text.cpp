@@ -2,10 +2,10 @@
 
 #include "numeric/saturation.h"
 #include "opendocument/item_builder.h"
-#include "opendocument/limits.h"
 #include "opendocument/log.h"
 #include "opendocument/numbers.h"
 #include "opendocument/open_office_reader.h"
+#include "opendocument/opendocument_limits.h"
 
 #include "host/items/rich_text_item.h"
 #include "host/tal_canvas_model.h"

@@ -1,7 +1,7 @@
 #include "opendocument/picture_store.h"
 
-#include "opendocument/limits.h"
 #include "opendocument/log.h"
+#include "opendocument/opendocument_limits.h"
 
 #include "limits/image/safe_picture.h"
 #include "messages/refusals.h"

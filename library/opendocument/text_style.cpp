@@ -1,7 +1,7 @@
 #include "opendocument/text_style.h"
 
-#include "opendocument/limits.h"
 #include "opendocument/numbers.h"
+#include "opendocument/opendocument_limits.h"
 
 #include <cmath>
 

@@ -5,7 +5,7 @@
 #include "tavrel/datasource_binder.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/label_stream.h"
-#include "tavrel/lengths.h"
+#include "tavrel/printer_dots.h"
 
 #include <Qt>
 

@@ -1,7 +1,7 @@
 #include "tavrel/file_content.h"
 
 #include "limits/file/special_file.h"
-#include "tavrel/limits.h"
+#include "tavrel/tavrel_limits.h"
 
 #include <QFile>
 

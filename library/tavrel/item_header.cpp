@@ -3,8 +3,8 @@
 #include "numeric/fraction.h"
 #include "tavrel/file_versions.h"
 #include "tavrel/label_stream.h"
-#include "tavrel/lengths.h"
-#include "tavrel/limits.h"
+#include "tavrel/printer_dots.h"
+#include "tavrel/tavrel_limits.h"
 
 namespace tavrel {
 namespace {

@@ -11,9 +11,9 @@
 #include "tavrel/file_versions.h"
 #include "tavrel/import_issues.h"
 #include "tavrel/label_stream.h"
-#include "tavrel/limits.h"
 #include "tavrel/pictures.h"
 #include "tavrel/shapes.h"
+#include "tavrel/tavrel_limits.h"
 #include "tavrel/texts.h"
 
 #include <Logger.h>

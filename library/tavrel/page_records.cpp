@@ -2,7 +2,7 @@
 
 #include "tavrel/file_versions.h"
 #include "tavrel/label_stream.h"
-#include "tavrel/lengths.h"
+#include "tavrel/printer_dots.h"
 
 namespace tavrel {
 namespace {

@@ -3,7 +3,7 @@
 #include "host/items/fillable_item.h"
 #include "host/items/line_item.h"
 #include "tavrel/label_stream.h"
-#include "tavrel/lengths.h"
+#include "tavrel/printer_dots.h"
 
 #include <QLatin1String>
 

@@ -2,7 +2,7 @@
 
 #include "limits/image/png_chunks.h"
 #include "tavrel/label_stream.h"
-#include "tavrel/limits.h"
+#include "tavrel/tavrel_limits.h"
 
 #include <QBuffer>
 #include <QByteArray>

@@ -1,5 +1,5 @@
-#include "cli/commands.h"
 #include "cli/option_table.h"
+#include "cli/subcommands.h"
 #include "console/command_line.h"
 #include "console/output.h"
 #include "exporting/targets.h"

@@ -1,13 +1,13 @@
 #include "archive/run.h"
 #include "archive/stop_signals.h"
 #include "cli/archive_reports.h"
-#include "cli/commands.h"
 #include "cli/existing_output.h"
 #include "cli/import_events.h"
 #include "cli/import_inputs.h"
 #include "cli/import_options.h"
 #include "cli/import_reporter.h"
 #include "cli/import_worker.h"
+#include "cli/subcommands.h"
 #include "console/output.h"
 
 #include <QCoreApplication>

@@ -1,9 +1,9 @@
 // labelport: the command line of LabelPort.
 
 #include "archive/memory_limit.h"
-#include "cli/commands.h"
 #include "cli/import_worker.h"
 #include "cli/option_table.h"
+#include "cli/subcommands.h"
 #include "console/command_line.h"
 #include "console/output.h"
 #include "translations/program_language.h"

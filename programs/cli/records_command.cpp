@@ -1,7 +1,7 @@
-#include "cli/commands.h"
 #include "cli/import_options.h"
 #include "cli/option_reader.h"
 #include "cli/option_table.h"
+#include "cli/subcommands.h"
 #include "console/command_line.h"
 
 #include <QCommandLineParser>

@@ -1,6 +1,6 @@
-#include "cli/commands.h"
 #include "cli/existing_output.h"
 #include "cli/option_table.h"
+#include "cli/subcommands.h"
 #include "console/command_line.h"
 #include "console/file_name.h"
 #include "console/output.h"

@@ -1,4 +1,4 @@
-#include "cli/commands.h"
+#include "cli/subcommands.h"
 #include "console/file_name.h"
 #include "console/output.h"
 

@@ -4,7 +4,7 @@
 #include "tests/support/captured_log.h"
 
 #include "limits/xml/markup_scanner.h"
-#include "opendocument/limits.h"
+#include "opendocument/opendocument_limits.h"
 #include "opendocument/picture_store.h"
 #include "opendocument/style_memory.h"
 

@@ -4,7 +4,7 @@
 #include "reader_fixture.h"
 #include "tests/support/captured_log.h"
 
-#include "opendocument/limits.h"
+#include "opendocument/opendocument_limits.h"
 
 #include <QtEndian>
 

@@ -3,7 +3,7 @@
 
 #include "reader_fixture.h"
 
-#include "opendocument/limits.h"
+#include "opendocument/opendocument_limits.h"
 
 using namespace Qt::StringLiterals;
 

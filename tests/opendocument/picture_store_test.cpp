@@ -2,7 +2,7 @@
 
 #include "tests/support/captured_log.h"
 
-#include "opendocument/limits.h"
+#include "opendocument/opendocument_limits.h"
 #include "opendocument/picture_store.h"
 
 #include <QBuffer>

@@ -1,7 +1,7 @@
 // Files that end anywhere or claim anything: no crash, hang or excessive memory, and
 // what was read before the damage is kept.
 
-#include "tavrel/limits.h"
+#include "tavrel/tavrel_limits.h"
 #include "tests/tavrel/reader_fixture.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // Every limit of the binary reader with its largest accepted and first rejected value.
 
 #include "tavrel/file_content.h"
-#include "tavrel/limits.h"
 #include "tavrel/stream_picture.h"
+#include "tavrel/tavrel_limits.h"
 #include "tests/tavrel/reader_fixture.h"
 
 #include <QBuffer>

@@ -1,7 +1,7 @@
 #include "tavrel/label_stream.h"
-#include "tavrel/limits.h"
 #include "tavrel/pictures.h"
 #include "tavrel/stream_picture.h"
+#include "tavrel/tavrel_limits.h"
 #include "tests/tavrel/bytes.h"
 
 #include <QBuffer>

@@ -1,4 +1,4 @@
-#include "tavrel/lengths.h"
+#include "tavrel/printer_dots.h"
 
 #include <limits>
 

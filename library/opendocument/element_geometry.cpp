@@ -1,4 +1,4 @@
-#include "opendocument/geometry.h"
+#include "opendocument/element_geometry.h"
 
 #include "opendocument/numbers.h"
 

@@ -2,7 +2,7 @@
 
 #include "documents.h"
 
-#include "opendocument/geometry.h"
+#include "opendocument/element_geometry.h"
 
 #include <gtest/gtest.h>
 
