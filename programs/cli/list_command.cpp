@@ -52,7 +52,7 @@ QString removeEarlierLists(const QDir& folder, int count)
     return {};
 }
 
-/// Writes the lists. Returns why that failed, for a person.
+/// Writes the lists. Returns a message for the user if that failed, else an empty text.
 QString writeLists(const QString& folder, const archive::Inputs& inputs, int count)
 {
     const QString folderError = console::makeFolder(folder);

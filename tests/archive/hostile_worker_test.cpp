@@ -99,25 +99,25 @@ TEST_F(HostileWorker, CannotConnect)
     ASSERT_EQ(::getsockname(server, name, &size), 0);
     EXPECT_EQ(outcomeOf("connect " + QByteArray::number(ntohs(address.sin_port))),
               u"failed b.cnv: connect: Permission denied"_s);
-    EXPECT_EQ(::accept(server, nullptr, nullptr), -1) << "somebody has connected";
+    EXPECT_EQ(::accept(server, nullptr, nullptr), -1) << "the worker has connected";
     ::close(server);
 }
 
 TEST_F(HostileWorker, IsStoppedWhenItRunsProgramsOrForks)
 {
     REQUIRE_KERNEL(calls);
-    for (const char* deed : {"execute /bin/true", "fork"}) {
-        SCOPED_TRACE(deed);
-        EXPECT_EQ(outcomeOf(deed), u"crashed b.cnv: "_s + Stopped);
+    for (const char* action : {"execute /bin/true", "fork"}) {
+        SCOPED_TRACE(action);
+        EXPECT_EQ(outcomeOf(action), u"crashed b.cnv: "_s + Stopped);
     }
 }
 
 TEST_F(HostileWorker, IsStoppedWhenItReachesForOtherProcesses)
 {
     REQUIRE_KERNEL(calls);
-    for (const char* deed : {"trace", "kill"}) {
-        SCOPED_TRACE(deed);
-        EXPECT_EQ(outcomeOf(deed), u"crashed b.cnv: "_s + Stopped);
+    for (const char* action : {"trace", "kill"}) {
+        SCOPED_TRACE(action);
+        EXPECT_EQ(outcomeOf(action), u"crashed b.cnv: "_s + Stopped);
     }
 }
 

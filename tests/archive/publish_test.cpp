@@ -32,10 +32,10 @@ TEST_F(Publish, MovesAFileAndMakesItsFolder)
 
 TEST_F(Publish, ReplacesOnlyWhatMayBeReplaced)
 {
-    folder.write(u"b.png"_s, "somebody's");
+    folder.write(u"b.png"_s, "the user's");
     const QString error = archive::publish(staged(u"b.png"_s), false);
     EXPECT_TRUE(error.contains(u"--force"_s)) << qPrintable(error);
-    EXPECT_EQ(folder.read(u"b.png"_s), "somebody's");
+    EXPECT_EQ(folder.read(u"b.png"_s), "the user's");
     EXPECT_EQ(archive::publish(staged(u"b.png"_s), true), QString());
     EXPECT_EQ(folder.read(u"b.png"_s), "new");
 }

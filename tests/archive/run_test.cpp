@@ -191,12 +191,12 @@ TEST_F(ArchiveRun, WritesNeitherOfTwoFilesThatWouldBecomeOne)
 
 TEST_F(ArchiveRun, NeverOverwritesAForeignFile)
 {
-    folder.write(u"out/a.png"_s, "somebody's");
+    folder.write(u"out/a.png"_s, "the user's");
     input(u"a.cnv"_s, "ok");
     const QStringList reported = run();
     EXPECT_TRUE(reported.value(0).startsWith(u"failed a.cnv: "_s));
     EXPECT_TRUE(reported.value(0).contains(u"--force"_s));
-    EXPECT_EQ(output(u"a.png"_s), "somebody's");
+    EXPECT_EQ(output(u"a.png"_s), "the user's");
     settings.mayReplace = [](const QString&) { return true; };
     EXPECT_EQ(run(), lines({"done a.cnv: a.png"}));
 }

@@ -53,15 +53,15 @@ TEST_F(LabelportProgram, ContinuesAfterAFileThatFails)
 
 TEST_F(LabelportProgram, NeverOverwritesAForeignFile)
 {
-    write(u"sample_vial.png"_s, "somebody's own");
+    write(u"sample_vial.png"_s, "the user's own");
     const QStringList command = {u"import"_s, sample("opendocument/sample_vial.odg")};
     const Outcome refused = labelport(command);
     EXPECT_EQ(refused.status, 1);
     EXPECT_TRUE(refused.err.contains(u"--force"_s));
-    EXPECT_EQ(read(u"sample_vial.png"_s), "somebody's own");
+    EXPECT_EQ(read(u"sample_vial.png"_s), "the user's own");
 
     EXPECT_EQ(labelport(command + QStringList{u"--force"_s}).status, 0);
-    EXPECT_NE(read(u"sample_vial.png"_s), "somebody's own");
+    EXPECT_NE(read(u"sample_vial.png"_s), "the user's own");
 }
 
 TEST_F(LabelportProgram, ReplacesItsOwnPictures)

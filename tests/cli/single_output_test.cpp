@@ -35,9 +35,9 @@ TEST_F(SingleOutput, MayHaveAnyNameWithATarget)
         EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
         EXPECT_TRUE(read(u"picture.dat"_s).startsWith("\x89PNG")) << "its own picture is replaced";
     }
-    write(u"mine.dat"_s, "somebody's own");
+    write(u"mine.dat"_s, "the user's own");
     EXPECT_EQ(labelport(words("import vial.odg --to png -o mine.dat")).status, 1);
-    EXPECT_EQ(read(u"mine.dat"_s), "somebody's own");
+    EXPECT_EQ(read(u"mine.dat"_s), "the user's own");
 }
 
 TEST_F(SingleOutput, GoesToStandardOutput)

@@ -2,8 +2,8 @@
 """plain_english.py SOURCE    checks texts, comments and documents for words of our old dialect
 plain_english.py --try       checks that the check works
 
-Each pattern stands for phrases that readers had to decode. The remedy names the usual replacement.
-Only comments, string literals and documents are checked, not identifiers.
+Each pattern finds phrases that readers had to decode. The remedy names the usual replacement.
+Comments, string literals and documents are checked for phrases, identifiers of C++ for words.
 """
 
 import pathlib
@@ -46,7 +46,27 @@ PATTERNS = {
         "American spelling",
     r"\bcancelled\b|\bcancelling\b|\blabelled\b|\blabelling\b|\bsignalled\b|\bbevelled\b|"
     r"\bserialiser\b|\bcentres\b": "American spelling",
+    r"\bfor a person\b": "user-visible",
+    r"\bfor good\b": "permanently, irrevocably",
+    r"\b(?:any|some)body\b": "the user, another program",
+    r"\bwhose turn\b": "the next",
+    r"\bas the reader understands\b|\breader understands\b": "supports",
+    r"\bwhat (?:is|was) (?:wanted|asked for)\b": "the requested value",
 }
+# Words that no identifier contains, in any case: "tellHost", "TickRank::Labelled".
+ODD_NAMES = {
+    "tell": "report", "tells": "reports", "told": "reported", "teller": "reporter",
+    "nobody": "none", "somebody": "a user", "somebodys": "foreign", "whoever": "any",
+    "anew": "again", "afresh": "again", "fate": "outcome", "fates": "outcomes", "tamed": "limited",
+    "reel": "loader", "desk": "session", "veil": "dimming", "veiled": "dimmed",
+    "judge": "check, classify", "judges": "checks", "judged": "checked", "gravest": "mostSevere",
+    "want": "request", "wants": "needs", "stands": "is", "stood": "was",
+    "troubles": "warnings", "deed": "action", "deeds": "actions", "knee": "limit",
+    "centre": "center", "centres": "centers", "centred": "centered", "labelled": "labeled",
+    "signalled": "signaled", "cancelled": "canceled", "bevelled": "beveled", "behaviour": "behavior",
+    "serialiser": "serializer", "misspelt": "misspelled", "favourite": "favorite",
+}
+WORD = re.compile(r"[A-Z]?[a-z]+|[A-Z]+(?![a-z])")
 RULES = [(re.compile(pattern, re.IGNORECASE), remedy) for pattern, remedy in PATTERNS.items()]
 
 # Files whose text is not ours to choose: required wordings, formats, samples, the license.
@@ -77,12 +97,28 @@ def prose_of(path, text):
         yield number, prose
 
 
+def names_of(path, text):
+    """The identifiers of C++ source, with their lines."""
+    if path.suffix not in (".cpp", ".h"):
+        return
+    for number, line in enumerate(text.splitlines(), 1):
+        if KEPT in line:
+            continue
+        code = LITERAL.sub('""', line).split("//", 1)[0]
+        for name in re.findall(r"[A-Za-z_]\w+", code):
+            yield number, name
+
+
 def complaints_of(path, text):
     for number, line in prose_of(path, text):
         for pattern, remedy in RULES:
             found = pattern.search(line)
             if found:
                 yield f'{path}:{number}: "{found.group(0)}": {remedy}'
+    for number, name in names_of(path, text):
+        for word in WORD.findall(name):
+            if word.lower() in ODD_NAMES:
+                yield f"{path}:{number}: {name}: {ODD_NAMES[word.lower()]}"
 
 
 def sources(source):
@@ -109,8 +145,9 @@ def check(source):
 def check_itself():
     bad = {"x.cpp": '// Whoever reads it.\nfail("The file is no label.");\n',
            "x.md": "A bad file costs only itself.\n",
+           "y.h": "void letLabelGoAnew();\nenum class Rank { Labelled };\nvoid judgeFile();\n",
            "x.py": "# the colour\n"}
-    good = {"x.cpp": 'int tells = 1; // There is no file.\nsay("not a label"); // required wording: is no\n',
+    good = {"x.cpp": 'int standard = 1; // There is no file.\nsay("not a label"); // required wording: is no\n',
             "x.md": "A bad file does not affect the others.\n"}
     for name, text in bad.items():
         lines = len(text.splitlines())

@@ -181,7 +181,7 @@ TEST(LabelJson, NoticesAnyChangeByItsChecksum)
     EXPECT_EQ(errorOf(file),
               "The label file is damaged: its content has changed since it was saved.");
     file.remove(QLatin1String("checksum"));
-    EXPECT_EQ(errorOf(file), "") << "a file that somebody wrote by hand has none";
+    EXPECT_EQ(errorOf(file), "") << "a file that a user wrote has none";
 }
 
 TEST(LabelJson, NamesThePlaceOfTheDamage)

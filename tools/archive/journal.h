@@ -27,7 +27,7 @@ public:
     /// folder. The latest record of a file and its options wins; only its offset is kept in memory.
     ///
     /// @param isRewriting removes replaced records first, unless another command uses the folder
-    /// @return why the journal cannot be written, for a person; else empty
+    /// @return a message for the user if the journal cannot be written; else empty
     [[nodiscard]] QString open(const QString& outputFolder, const Shard& shard,
                                const Inputs& inputs, bool isRewriting = false);
 

@@ -72,20 +72,20 @@ public:
     Run(const Inputs& inputs, RunSettings settings, Deliver deliver);
     ~Run() override;
 
-    /// Prepares the output folder. @return why that failed, for a person; else empty
+    /// Prepares the output folder. @return a message for the user if that failed; else empty
     [[nodiscard]] QString open();
-    /// Begins; finished() comes later.
+    /// Starts the run; finished() is emitted at its end.
     void start();
-    /// Starts no more files; finished() comes when those in work are done or took too long.
+    /// Starts no more files. finished() is emitted when the current files are done or timed out.
     void stop();
-    /// Aborts those in work too.
+    /// Starts no more files, and ends the workers of the current ones.
     void stopAtOnce();
 
     [[nodiscard]] Progress progress() const;
     [[nodiscard]] bool isStopped() const { return m_isStopped; }
     /// Whether files were not imported because no worker could be started.
     [[nodiscard]] bool isBroken() const { return m_isBroken; }
-    /// Messages about the complete run, for a person.
+    /// Messages for the user about the complete run.
     [[nodiscard]] const QStringList& warnings() const { return m_warnings; }
 
 Q_SIGNALS:
