@@ -48,7 +48,7 @@ bool isFileIn(const QString& folder, const QString& path)
 {
     const QString name = path.section(u'/', -1);
     std::error_code error;
-    // Of the file itself: a link can lead anywhere.
+    // The file itself, not the target of a link, which can be anywhere.
     const auto status = std::filesystem::symlink_status(console::systemPath(path), error);
     return !name.isEmpty() && name != ".."_L1 && path == QDir(folder).filePath(name) &&
            status.type() == std::filesystem::file_type::regular;

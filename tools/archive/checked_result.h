@@ -4,10 +4,10 @@
 
 namespace archive {
 
-/// Checks the files that a worker reported, because a hostile label may have taken the worker
-/// over: each must be a regular file in its staging folder, for one of the planned outputs, one of
-/// their series, or the table of records of a label for gLabels. Their sizes and times are taken
-/// from the files themselves.
+/// Checks the files that a worker reported, because a hostile label may control the worker: each
+/// must be a regular file in its staging folder, for one of the planned outputs, one of their
+/// series, or the table of records of a label for gLabels. Their sizes and times are taken from the
+/// files themselves.
 ///
 /// @param outputs planned, as in the job
 /// @return whether all files pass

@@ -19,8 +19,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Of the inputs with one path, that with the longer folder wins: that below the outermost folder
-/// given; else that with the shorter name.
+/// Of several inputs with one path, the one with the longer folder is kept, which is that of the
+/// outermost argument; otherwise the one with the shorter name.
 bool isPreferred(const Input& a, const Input& b)
 {
     const auto rank = [](const Input& input) {
@@ -145,7 +145,7 @@ void InputCollector::mergeDuplicates()
 
 void InputCollector::removeOutputs()
 {
-    // Reading the journals takes long; most archives hold no outputs.
+    // Reading the journals takes long, and most archives contain no outputs.
     const Inputs& inputs = m_list.inputs;
     bool isAnyOutput = false;
     for (qsizetype index = 0; index < inputs.size() && !isAnyOutput; ++index) {
@@ -156,7 +156,7 @@ void InputCollector::removeOutputs()
         return;
     }
     const PathIndex paths(inputs);
-    QHash<qsizetype, bool> outputs; // the latest record of an output decides
+    QHash<qsizetype, bool> outputs; // the latest record of an output counts
     m_request.visitOutputs([&](const QString& output, const QString& source) {
         const std::optional<qsizetype> index = paths.find(output);
         if (index && !m_isNamed[static_cast<std::size_t>(*index)]) {

@@ -17,7 +17,7 @@ namespace archive {
 
 using OutputVisitor = std::function<void(const QString& output, const QString& source)>;
 
-/// What a command was given to import, and how folders are searched.
+/// The arguments of a command that imports files, and how folders are searched.
 struct InputRequest
 {
     QStringList arguments; ///< files and folders
@@ -45,17 +45,18 @@ struct InputList
     Inputs inputs;      ///< each file once, in the order of their shown names
     qint64 skipped = 0; ///< files of folders that have none of the suffixes
     QList<UnreadableFolder> unreadable;
-    QStringList readable;  ///< what holds the inputs, for sandbox::Permissions
+    QStringList readable;  ///< files and folders of the inputs, for sandbox::Permissions
     bool searched = false; ///< at least one folder was given
 };
 
 /// Lists the files to import.
 ///
-/// A named file is taken whatever its name, and even if it does not exist: its import then reports
-/// that. So is everything in a folder that has a label's suffix and is not a folder: a dangling
-/// link or a pipe is reported, not skipped. Folders are searched with their subfolders; hidden
-/// files and folders are left out, and links to folders are not followed. The result does not
-/// depend on the order of the arguments, nor on that of a folder's entries.
+/// A file that is named in the arguments is always listed, whatever its suffix and even if it does
+/// not exist; its import then reports the error. In folders, all entries with the suffix of a label
+/// are listed but folders: a dangling link or a pipe is reported, not skipped. Folders are searched
+/// with their subfolders; hidden files and folders are left out, and links to folders are not
+/// followed. The result does not depend on the order of the arguments, nor on that of a folder's
+/// entries.
 class InputCollector
 {
 public:

@@ -70,7 +70,7 @@ void Inputs::keep(const std::vector<bool>& isKept)
 
 quint32 Inputs::indexOf(const Folder& folder)
 {
-    // Inputs come folder by folder.
+    // Inputs are added folder by folder.
     if (!m_folders.isEmpty() && m_folders.constLast() == folder) {
         return static_cast<quint32>(m_folders.size() - 1);
     }

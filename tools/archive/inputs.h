@@ -15,7 +15,7 @@ namespace archive {
 /// One file to import. Names and paths are file names as console/file_name.h describes them.
 struct Input
 {
-    QString path;      ///< what is opened
+    QString path;      ///< the file to open
     QString shownName; ///< its name in messages and reports; its outputs are named after it
     /// Folder below the output folder that its outputs go to, "a/b"; empty for none.
     QString folder;
@@ -41,11 +41,11 @@ public:
     void keep(const std::vector<bool>& isKept);
 
 private:
-    /// What the inputs of a folder have in common.
+    /// The common part of the inputs of a folder.
     struct Folder
     {
-        QString path;      ///< up to and with the last slash
-        QString shownName; ///< also
+        QString path;      ///< up to the last slash, included
+        QString shownName; ///< the same part of the shown names
         QString folder;
         bool operator==(const Folder&) const = default;
         friend std::size_t qHash(const Folder& key, std::size_t seed = 0)
@@ -79,7 +79,7 @@ public:
 
     void reserve(qsizetype size) { m_entries.reserve(static_cast<std::size_t>(size)); }
     void add(const QString& text, qsizetype index);
-    /// Before the other calls, after the last add().
+    /// Must be called after the last add() and before the functions below.
     void sort();
     /// The indexes of texts with this one's hash, in order.
     [[nodiscard]] QList<qsizetype> find(const QString& text) const;
@@ -94,7 +94,7 @@ private:
 class PathIndex
 {
 public:
-    /// @param inputs must outlive the index and stay as they are
+    /// @param inputs must outlive the index, unchanged
     explicit PathIndex(const Inputs& inputs);
 
     /// The last input with this path.

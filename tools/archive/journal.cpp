@@ -189,7 +189,7 @@ bool Journal::append(const JournalRecord& record)
     if (m_file.write(line) == line.size()) {
         return true;
     }
-    m_file.write("\n"); // ends a part of the line that may have been written
+    m_file.write("\n"); // ends a line that was written in part
     return false;
 }
 

@@ -20,7 +20,7 @@ constexpr bool CanLimitMemory = false;
 constexpr bool CanLimitMemory = true;
 #endif
 
-/// std::bad_alloc that left a noexcept function, or was not caught.
+/// Called if std::bad_alloc leaves a noexcept function or is not caught.
 void terminate()
 {
     try {

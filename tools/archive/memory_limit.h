@@ -2,7 +2,7 @@
 
 namespace archive {
 
-/// To be called first in a worker: limits the memory of the process. If operator new fails, the
+/// Limits the memory of the process. Must be called first in a worker. If operator new fails, the
 /// process exits with WorkerExitOutOfMemory; an uncaught std::bad_alloc has the same
 /// effect. A library that does not check what malloc() returns crashes instead, and the crash is
 /// reported as one.

@@ -22,7 +22,7 @@ struct PlannedFile
     bool operator==(const PlannedFile&) const = default;
 };
 
-/// What a worker gets before its first job.
+/// The first message to a worker.
 struct WorkerStart
 {
     sandbox::Permissions permissions; ///< it confines itself to them
@@ -30,7 +30,7 @@ struct WorkerStart
     bool operator==(const WorkerStart&) const = default;
 };
 
-/// One file to import, as a worker gets it.
+/// A job: one file to import.
 struct Job
 {
     QString file;

@@ -9,11 +9,11 @@
 
 namespace archive {
 
-/// Bytes of results that may wait for the result of an earlier file. When it is reached no
-/// new files are begun until that one is there.
+/// Bytes of results that may wait for the result of an earlier file. When it is reached,
+/// no further file is started until that result has arrived.
 inline constexpr qint64 MaximumWaitingBytes = 64LL * 1024 * 1024;
 
-/// Puts results, which come as workers finish, into the order of their files.
+/// Sorts results, which arrive when workers finish, by the order of their files.
 class OrderedResults
 {
 public:
@@ -30,7 +30,7 @@ public:
     void skip(qsizetype index);
     /// The next result in order, if it is complete.
     [[nodiscard]] std::optional<Finished> takeNext();
-    /// The first of those that have come, its turn or not.
+    /// The first result that has arrived, even if earlier ones are missing.
     [[nodiscard]] std::optional<Finished> takeAny();
 
     [[nodiscard]] bool isFull() const { return m_waitingBytes >= MaximumWaitingBytes; }

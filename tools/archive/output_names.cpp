@@ -98,7 +98,7 @@ OutputName OutputNames::chosen(qsizetype index) const
 QString OutputNames::stem(qsizetype index) const
 {
     const Input input = m_inputs.at(index);
-    // The shown name: what comes through standard input has no name of its own.
+    // The shown name: a label from standard input has no other.
     const QFileInfo info(input.shownName);
     return below(input.folder,
                  m_naming.at(index) == Naming::Stem ? info.completeBaseName() : info.fileName());

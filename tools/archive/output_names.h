@@ -32,10 +32,10 @@ struct OutputName
 class OutputNames
 {
 public:
-    /// @param inputs   must outlive the names and stay as they are
+    /// @param inputs   must outlive the names, unchanged
     /// @param suffixes of all targets, without dots
     OutputNames(const Inputs& inputs, const QStringList& suffixes);
-    /// With names that were chosen over a complete archive, of which the inputs are a part.
+    /// With names that were chosen for a complete archive, of which the inputs are a part.
     OutputNames(const Inputs& inputs, const QStringList& suffixes, const QList<OutputName>& chosen);
 
     /// Path below the output folder of an input's output as a target.

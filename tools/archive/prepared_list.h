@@ -15,17 +15,17 @@ class QIODevice;
 
 namespace archive {
 
-/// One part of an archive, listed beforehand: the machine that imports it reads neither the
-/// archive's folders nor the names of the other parts.
+/// A list of one part of an archive, made beforehand: the machine that imports the part reads
+/// neither the archive's folders nor the names of the other parts.
 ///
 /// The file is JSON Lines: a header, then a line for each input with the names of its outputs,
-/// which were chosen over the complete archive. What has its default is left out.
+/// which were chosen for the complete archive. Values that are the default are left out.
 struct PreparedList
 {
     Shard shard;
     Inputs inputs;
     QList<OutputName> names; ///< of the outputs, for each input
-    QStringList readable;    ///< what holds the inputs, for sandbox::Permissions
+    QStringList readable;    ///< files and folders of the inputs, for sandbox::Permissions
 };
 
 /// Whether a file with these first bytes is a prepared list.
@@ -40,7 +40,7 @@ inline constexpr qint64 MaximumPreparedLine = 1LL << 20;
 /// Reads a list; `error` gives the reason if it is damaged.
 [[nodiscard]] PreparedList readPreparedList(QIODevice& device, QString& error);
 
-/// What is written for one part.
+/// The content of the list of one part.
 struct PartRequest
 {
     const Inputs& inputs; ///< of the complete archive

@@ -13,9 +13,9 @@ struct Progress
     qint64 done = 0;    ///< finished in any way, including skipped ones
     qint64 skipped = 0; ///< imported by an earlier command
     qint64 failed = 0;
-    qint64 milliseconds = 0;     ///< since the beginning
-    QString slowFile;            ///< the oldest file in work, if it takes long; else empty
-    qint64 slowMilliseconds = 0; ///< since its work began
+    qint64 milliseconds = 0; ///< since the beginning
+    QString slowFile;        ///< the current file that started first, if it takes long; else empty
+    qint64 slowMilliseconds = 0; ///< since its start
 };
 
 /// One line for a terminal: a bar, counts, files per second, the time left, failures so far, and a

@@ -11,7 +11,7 @@ namespace archive {
 /// moment ago.
 ///
 /// @param mayReplace an existing file may be replaced
-/// @return user-visible error, and nothing is changed; empty on success
+/// @return user-visible error, after which nothing has changed; empty on success
 [[nodiscard]] QString publish(const StagedFile& file, bool mayReplace);
 
 /// Publishes all files of a result. Files that could not be published are removed from it, with an

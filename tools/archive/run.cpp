@@ -13,7 +13,7 @@
 namespace archive {
 namespace {
 
-/// Time that files in work have left after the run was asked to stop.
+/// Time for the current files after the run was asked to stop.
 constexpr int GraceMilliseconds = 3'000;
 
 /// A file that takes longer is named in the progress.

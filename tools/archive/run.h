@@ -39,7 +39,7 @@ struct RunSettings
     int workers = 1;
     WorkerCommand command;
     WorkerLimits limits;
-    QStringList readable;         ///< what holds the inputs, see sandbox::Permissions
+    QStringList readable;         ///< files and folders of the inputs, see sandbox::Permissions
     bool requiresSandbox = false; ///< without a complete sandbox no file is imported
     /// Whether an existing file may be replaced by an output. Outputs of earlier commands that have
     /// not been touched may be.
@@ -53,14 +53,14 @@ struct Delivery
     const FileResult& result;
     QStringList written;    ///< outputs that exist now, in the order of the targets
     bool isResumed = false; ///< imported by an earlier command
-    /// Active in all workers that have started until now.
+    /// The parts that are active in all workers so far.
     sandbox::Confinement confinement = {};
 };
 
 /// Imports many files: hands them to workers, publishes their outputs, keeps the journal, and
 /// delivers the outcomes in the order of the inputs.
 ///
-/// Results and their order depend on the files only. Of each waiting file a few bytes are kept.
+/// Results and their order depend on the files only. A file that waits takes a few bytes.
 class Run final : public QObject, private PoolClient
 {
     Q_OBJECT
@@ -101,7 +101,7 @@ private:
     qint64 taskAnswered(qsizetype task, const QByteArray& line) override;
     void taskFailed(qsizetype task, const WorkerEnd& end) override;
 
-    /// A file in work, as it was when that began.
+    /// A file that a worker imports, as it was at the start.
     struct Work
     {
         FileStamp stamp;
@@ -136,8 +136,8 @@ private:
     Journal m_journal;
     std::unique_ptr<WorkerPool> m_pool;
     OrderedResults m_results;
-    QSet<qsizetype> m_resumed;     ///< waiting results of earlier commands
-    QHash<qsizetype, Work> m_work; ///< the files in work
+    QSet<qsizetype> m_resumed;     ///< files with a result of an earlier command, not yet delivered
+    QHash<qsizetype, Work> m_work; ///< the files that workers import now
     std::optional<sandbox::Confinement> m_confinement;
     qsizetype m_cursor = 0;
     Progress m_progress;

@@ -19,7 +19,7 @@ namespace {
 const QString Prefix = u".labelport-work-"_s;
 const QString LockName = u"lock"_s;
 
-/// Another command creates its folder a moment before it locks it.
+/// The folder of another command exists for a moment before it is locked.
 bool isBeingCreated(const QFileInfo& folder)
 {
     constexpr qint64 moment = 60;
@@ -112,7 +112,7 @@ QString StagingArea::emptySlot(int number) const
     const std::filesystem::path path = console::systemPath(slot);
     std::error_code ignored;
     std::filesystem::create_directory(path, ignored);
-    // The folder itself stays: the worker may write to this one, not to another of its name.
+    // The folder itself is kept: the permission of the worker is for this folder, not for its name.
     for (const auto& entry : std::filesystem::directory_iterator(path, ignored)) {
         std::filesystem::remove_all(entry.path(), ignored);
     }

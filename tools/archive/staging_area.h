@@ -20,7 +20,7 @@ public:
     /// Creates the folder, and the output folder if it is missing.
     /// @return user-visible error; empty on success
     [[nodiscard]] QString open(const QString& outputFolder);
-    /// Removes the folder with all that is in it.
+    /// Removes the folder and its contents.
     void close();
 
     [[nodiscard]] const QString& path() const { return m_path; }

@@ -20,7 +20,7 @@ extern "C" void wakeUp(int)
 {
     const int before = errno;
     const char byte = 's';
-    // A full pipe has woken the program already.
+    // If the pipe is full, the program has already been notified.
     [[maybe_unused]] const ssize_t written = ::write(pipeEnds[1], &byte, 1);
     errno = before;
 }
@@ -30,7 +30,7 @@ extern "C" void wakeUp(int)
 StopSignals::StopSignals()
 {
     if (::pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
-        return; // signals end the program as they always did
+        return; // signals end the program by default
     }
     m_notifier = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &StopSignals::noteSignal);

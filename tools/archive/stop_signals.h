@@ -6,9 +6,8 @@ class QSocketNotifier;
 
 namespace archive {
 
-/// Turns the signals by which a person or a system asks a program to stop (SIGINT, SIGTERM,
-/// SIGHUP) into a Qt signal. One at a time in a program; the signals work as before when it
-/// goes.
+/// Converts the signals that ask a program to stop (SIGINT, SIGTERM, SIGHUP) into a Qt signal.
+/// A program may have one such object at a time; its destructor restores the default handlers.
 class StopSignals final : public QObject
 {
     Q_OBJECT
@@ -18,7 +17,7 @@ public:
     ~StopSignals() override;
 
 Q_SIGNALS:
-    /// @param times how often it was asked by now
+    /// @param times how many signals have arrived
     void stopRequested(int times);
 
 private:

@@ -15,7 +15,7 @@ enum WorkerExit : int {
     WorkerExitDone = 0,    ///< its input was closed
     WorkerExitBroken = 70, ///< it received a message that it could not read
     WorkerExitOutOfMemory = 71,
-    WorkerExitUnconfined = 72, ///< it must have a sandbox, and has none that is complete
+    WorkerExitUnconfined = 72, ///< the sandbox is required, and is not complete
 };
 
 /// How a worker process ended.

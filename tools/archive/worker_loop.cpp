@@ -86,13 +86,13 @@ private:
     QByteArray m_unread;
 };
 
-/// A heartbeat that lists what of the sandbox is active: "+ files network calls".
+/// A heartbeat that lists the active parts of the sandbox: "+ files network calls".
 QByteArray readyLine(const sandbox::Confinement& confinement)
 {
     return "+ " + sandbox::codesOf(confinement).join(u' ').toLatin1() + '\n';
 }
 
-/// Bytes of memory that the process has now.
+/// The memory of the process, in bytes.
 qint64 memoryHeld()
 {
     QFile file(u"/proc/self/statm"_s);

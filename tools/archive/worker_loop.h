@@ -13,9 +13,9 @@ using Heartbeat = std::function<void()>;
 using Confine = std::function<sandbox::Confinement(const sandbox::Permissions&)>;
 using JobHandler = std::function<FileResult(const Job&, const Heartbeat&)>;
 
-/// Confines the process as the first line of standard input says, then answers jobs until that is
-/// closed. Standard output is reserved for replies: output of libraries goes
-/// nowhere.
+/// Confines the process as the first line of standard input specifies, then answers jobs until
+/// standard input is closed. Standard output is reserved for replies: output of libraries is
+/// discarded.
 ///
 /// @return the exit status of the process
 [[nodiscard]] int runWorker(const JobHandler& handler, const Confine& confine = &sandbox::confine);

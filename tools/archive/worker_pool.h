@@ -17,14 +17,13 @@ class PoolClient
 public:
     virtual ~PoolClient() = default;
 
-    /// The next task, if there is one that can be begun now. Asked again whenever a worker
-    /// has become idle.
+    /// The next task, if one can be started now. Called again whenever a worker becomes idle.
     [[nodiscard]] virtual std::optional<qsizetype> nextTask() = 0;
-    /// What the worker of a slot (counted from 0) gets before its first job.
+    /// The line that the worker of a slot (counted from 0) receives before its first job.
     [[nodiscard]] virtual QByteArray startLineFor(int slot) = 0;
-    /// A worker has started, with what of its sandbox is active.
+    /// A worker has started, with these active parts of its sandbox.
     virtual void workerStarted(const sandbox::Confinement& confinement) = 0;
-    /// The job that the worker of a slot gets for a task. A task can be given out twice.
+    /// The job of a task for the worker of a slot. Called twice for a task that is tried again.
     [[nodiscard]] virtual QByteArray lineFor(qsizetype task, int slot) = 0;
     /// @return the memory that the worker holds by its own account, in bytes
     virtual qint64 taskAnswered(qsizetype task, const QByteArray& line) = 0;
@@ -34,9 +33,9 @@ public:
 
 /// Hands tasks to worker processes, one at a time each, and replaces those that exit.
 ///
-/// A task whose worker dies is given once more to a worker that has done nothing yet: so
-/// neither a signal from outside nor an earlier file decides whether a file is
-/// imported. What runs out of time is not tried again.
+/// A task whose worker dies is tried once more by a new worker, so that neither a signal from
+/// outside nor an earlier file decides whether a file is imported. A task that exceeds the time
+/// limit is not tried again.
 class WorkerPool final : public QObject
 {
     Q_OBJECT
@@ -54,11 +53,11 @@ public:
 
     /// Starts the workers; emits drained() or broken() later.
     void start();
-    /// No task is begun any more; those in work are finished.
+    /// Starts no further task; current tasks are finished.
     void stopTaking();
 
 Q_SIGNALS:
-    /// No task is left, and none is in work.
+    /// All tasks are finished.
     void drained();
     /// Workers cannot be started.
     void broken();

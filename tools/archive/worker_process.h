@@ -22,9 +22,10 @@ struct WorkerCommand
 
 /// One worker: a process of its own that confines itself, is given one file at a time, as a line on
 /// its standard input, and answers with a line on its standard output. A line that begins with "+"
-/// is a heartbeat: once when it is ready, with what of its sandbox is active; then after each step.
+/// is a heartbeat: once when it is ready, with the active parts of its sandbox; then after each
+/// step.
 ///
-/// The process is killed with this object, and with the program however that ends.
+/// The process is killed when this object is deleted, and when the program ends in any way.
 class WorkerProcess final : public QObject
 {
     Q_OBJECT
@@ -33,7 +34,7 @@ public:
     WorkerProcess(const WorkerCommand& command, const WorkerLimits& limits);
     ~WorkerProcess() override;
 
-    /// @param line what the worker gets first, from lineOf(WorkerStart)
+    /// @param line the first line for the worker, from lineOf(WorkerStart)
     void start(const QByteArray& line);
     /// Sends a job; the worker must be idle.
     void give(const QByteArray& line);
@@ -43,14 +44,14 @@ public:
     [[nodiscard]] bool isReady() const { return m_state != State::Starting; }
     [[nodiscard]] bool isIdle() const { return m_state == State::Idle; }
     [[nodiscard]] bool isBusy() const { return m_state == State::Busy; }
-    /// Files that it has answered.
+    /// The number of files for which it has replied.
     [[nodiscard]] int served() const { return m_served; }
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
 
 Q_SIGNALS:
     void ready(const sandbox::Confinement& confinement);
     void answered(const QByteArray& line);
-    /// The last signal. The worker may have been busy or not.
+    /// The process has ended, busy or not. No other signal follows.
     void ended(const archive::WorkerEnd& end);
 
 private:

@@ -12,10 +12,10 @@ namespace console {
 /// The arguments of main() after the program's name, as file names that keep every byte.
 [[nodiscard]] QStringList argumentsOf(int argc, char** argv);
 
-/// Reads the arguments of a command with --help. If there is nothing more to do (help was shown, or
-/// the arguments were wrong and that was reported), returns the exit status.
+/// Reads the arguments of a command with --help. Returns the exit status if the command must not
+/// continue: after help, or after an error in the arguments, which is reported.
 ///
-/// @param command as people type it: "labelport inspect"
+/// @param command as users type it: "labelport inspect"
 [[nodiscard]] std::optional<int> parseCommand(QCommandLineParser& parser, const QString& command,
                                               const QStringList& arguments);
 

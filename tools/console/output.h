@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// What a program prints. Results go to standard output, messages to standard error; neither
+/// The output of a program. Results go to standard output, messages to standard error; neither
 /// passes through Qt's logging, so that no logging rule changes them.
 namespace console {
 
@@ -16,8 +16,8 @@ enum ExitStatus : int {
     ExitStopped = 130, ///< stopped by a signal, as shells count Ctrl-C
 };
 
-/// To be called first in main(): writing to a closed pipe fails instead of ending the process, and
-/// no file takes the descriptor of a standard stream that is closed.
+/// Must be called first in main(): writing to a closed pipe fails instead of ending the process,
+/// and no file takes the descriptor of a standard stream that is closed.
 ///
 /// @param name what messages begin with: "labelport"
 void prepareStreams(const QString& name);

@@ -26,8 +26,9 @@ constexpr bool CanFilter = true;
 
 using Filter = std::unique_ptr<void, decltype(&seccomp_release)>;
 
-/// Measured: what imports of all samples to all targets call, with fonts, image plug-ins and symbol
-/// databases; and what the same functions of the C library call on other systems.
+/// The system calls of imports of all samples to all targets, with fonts, image plug-ins and symbol
+/// databases, as measured; and those that the same functions of the C library make on other
+/// systems.
 constexpr std::array Allowed{
     // files
     SCMP_SYS(read),
@@ -140,7 +141,8 @@ constexpr std::array Allowed{
     SCMP_SYS(exit_group),
 };
 
-/// No import makes these calls, and no library tries them: who does has been taken over.
+/// No import makes these calls, and no library tries them. A process that does is controlled by a
+/// hostile file.
 constexpr std::array Fatal{
     // programs and processes
     SCMP_SYS(execve),
@@ -206,14 +208,14 @@ scmp_arg_cmp equals(unsigned int argument, scmp_datum_t value)
     return {argument, SCMP_CMP_EQ, value, 0};
 }
 
-/// Calls that are harmless or not by their arguments.
+/// Calls that are allowed or not depending on their arguments.
 bool addConditional(void* filter)
 {
     const auto self = static_cast<scmp_datum_t>(::getpid());
     constexpr scmp_datum_t thread = CLONE_THREAD;
     bool isComplete = true;
-    // A thread, but no process. The C library takes clone() if there is no clone3(), whose
-    // arguments no filter can see.
+    // Allows threads, not processes. A filter cannot read the arguments of clone3(); without it,
+    // the C library calls clone().
     isComplete &=
         addWith(filter, SCMP_ACT_ALLOW, SCMP_SYS(clone), {0, SCMP_CMP_MASKED_EQ, thread, thread});
     isComplete &=
@@ -251,7 +253,7 @@ bool filterCalls()
     return filter && addAll(filter.get(), SCMP_ACT_ALLOW, Allowed) &&
            addAll(filter.get(), SCMP_ACT_KILL_PROCESS, Fatal) &&
            addAll(filter.get(), SCMP_ACT_ERRNO(EACCES), Sockets) && addConditional(filter.get()) &&
-           // A tree, instead of a list that each call is compared with.
+           // A binary tree: comparing each call with a list would take longer.
            seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_OPTIMIZE, 2) == 0 &&
            seccomp_load(filter.get()) == 0;
 }

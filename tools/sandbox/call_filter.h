@@ -9,10 +9,10 @@ namespace sandbox {
 ///
 /// A call that no import makes and an attacker needs (to run programs, to start processes, to
 /// trace others, to mount, to enter namespaces, to use keys) ends the process with SIGSYS. Sockets
-/// are refused, because the name services of the system try them. All other calls seem not to
-/// exist, so that a library falls back to older ones.
+/// are refused, because the name services of the system try them. All other calls fail as on a
+/// kernel without them, so that a library falls back to older ones.
 ///
-/// @return whether that succeeded
+/// @return whether the filter is active
 [[nodiscard]] bool filterCalls();
 
 } // namespace sandbox

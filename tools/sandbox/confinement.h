@@ -7,7 +7,7 @@
 /// read or write other files, nor run programs, nor reach the network.
 namespace sandbox {
 
-/// What of the confinement is in force.
+/// The active parts of the confinement.
 struct Confinement
 {
     bool files = false;   ///< only the permitted files can be opened (Landlock)
@@ -19,7 +19,7 @@ struct Confinement
 };
 
 /// The files that a process needs besides those of the system. Names as console/file_name.h
-/// describes them; what does not exist is left out.
+/// describes them; missing files are ignored.
 struct Permissions
 {
     QStringList readable; ///< files, and folders with all that is in them
@@ -27,24 +27,24 @@ struct Permissions
     bool operator==(const Permissions&) const = default;
 };
 
-/// What this system offers. Changes nothing.
+/// The parts that this system supports. Confines nothing.
 [[nodiscard]] Confinement supported();
 
-/// Confines the process as far as the system offers it. To be called once, before there are other
-/// threads and before the first byte of a stranger is read.
+/// Confines the process as far as the system supports it. Must be called once, before other threads
+/// are started and before the first byte of an untrusted file is read.
 Confinement confine(const Permissions& permissions);
 
-/// What confine() has achieved in this process.
+/// The parts that confine() has activated in this process.
 [[nodiscard]] Confinement active();
 
-/// What is in force in both.
+/// The parts that are active in both.
 [[nodiscard]] Confinement common(const Confinement& a, const Confinement& b);
 
-/// "files", "network", "calls": stable names of what is in force.
+/// Stable names of the active parts: "files", "network", "calls".
 [[nodiscard]] QStringList codesOf(const Confinement& confinement);
 [[nodiscard]] Confinement confinementOf(const QStringList& codes);
 
-/// User-visible: "files, network, system calls"; "none" if nothing is in force.
+/// User-visible: "files, network, system calls"; "none" if no part is active.
 [[nodiscard]] QString describe(const Confinement& confinement);
 
 } // namespace sandbox

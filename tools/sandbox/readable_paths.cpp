@@ -37,7 +37,7 @@ bool isBelow(const QString& path, const QSet<QString>& folders)
     return false;
 }
 
-/// Replaces the deepest folders by those above until there are few.
+/// Replaces the deepest folders by their parents until there are few enough.
 void bound(QSet<QString>& folders, qsizetype most)
 {
     const auto depth = [](const QString& path) { return path.count(QLatin1Char('/')); };

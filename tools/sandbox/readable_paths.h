@@ -8,14 +8,14 @@
 
 namespace sandbox {
 
-/// Collects what a confined process must be able to read: as precise as it can be with a bounded
-/// number of rules, whose number decides what a start takes.
+/// Collects the files that a confined process must be able to read. The number of rules is limited,
+/// because each rule delays the start of the process; the paths are as precise as that permits.
 class ReadablePaths
 {
 public:
     static constexpr qsizetype MaximumPaths = 256;
 
-    /// A file, or what a link leads to. Left out if it does not exist.
+    /// A file, or the target of a link. Ignored if it does not exist.
     void addFile(const QString& path);
     /// A folder with all that is in it.
     void addFolder(const QString& path);
@@ -30,7 +30,7 @@ private:
     QSet<QString> m_files;
     QSet<QString> m_folders;
     bool m_keepsFolders = false; ///< there were too many files
-    // Files come folder by folder.
+    // Files are added folder by folder.
     std::filesystem::path m_lastFolder;
     QString m_lastCanonical;
 };

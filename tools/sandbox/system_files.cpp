@@ -16,7 +16,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Takes a list of fontconfig's, which belongs to us.
+/// Reads and frees a list that fontconfig has allocated.
 void append(FcStrList* list, QStringList& files)
 {
     if (list == nullptr) {
@@ -28,13 +28,14 @@ void append(FcStrList* list, QStringList& files)
     FcStrListDone(list);
 }
 
-/// Without what is in a folder of the list: each entry is a rule, and takes time.
+/// Removes paths below a folder of the list: each path becomes a rule, which takes time.
 QStringList outermost(QStringList files)
 {
     files.sort();
     QStringList kept;
     for (const QString& file : std::as_const(files)) {
-        // Sorted: what is in a folder comes after it, but not at once ("/a", "/a-b", "/a/c").
+        // In a sorted list, paths below a folder follow it, but not directly ("/a", "/a-b",
+        // "/a/c").
         const bool isInside = std::any_of(kept.cbegin(), kept.cend(), [&](const QString& folder) {
             return file == folder || file.startsWith(folder + u'/');
         });
@@ -63,7 +64,7 @@ QStringList systemFiles()
                       u"/usr/local/lib"_s, u"/usr/share"_s, u"/usr/local/share"_s, u"/lib"_s,
                       u"/lib64"_s, u"/etc/fonts"_s, u"/etc/ld.so.cache"_s, u"/etc/localtime"_s,
                       u"/etc/timezone"_s, u"/dev/urandom"_s, u"/sys/devices/system/cpu"_s,
-                      // Its memory, which a worker reports.
+                      // A worker reports its own memory.
                       u"/proc/%1"_s.arg(::getpid())};
     for (const auto part :
          {QLibraryInfo::LibrariesPath, QLibraryInfo::PluginsPath, QLibraryInfo::TranslationsPath}) {

@@ -4,10 +4,10 @@
 
 namespace sandbox {
 
-/// What a program of ours reads of the system after it has started: libraries and plug-ins that
-/// are loaded later, fonts with their settings and caches, time zones, itself.
+/// The system files that our programs read after they have started: libraries and plug-ins that
+/// are loaded later, fonts with their settings and caches, time zones, the program itself.
 ///
-/// Reads the settings of the fonts, and brings their caches up to date: a confined process cannot.
+/// Reads the settings of the fonts, and updates their caches, because a confined process cannot.
 [[nodiscard]] QStringList systemFiles();
 
 } // namespace sandbox

@@ -5,7 +5,7 @@
 
 namespace migration {
 
-/// Goes over the bytes of a binary label, whose numbers have their highest byte first.
+/// Reads the bytes of a binary label, whose numbers have their highest byte first.
 ///
 /// Values beyond the end of the file are empty; then isCut() is true.
 class ByteCursor

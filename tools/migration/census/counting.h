@@ -9,13 +9,13 @@
 ///
 /// Each format has a second, independent parser here, on purpose. A reader that skips an object
 /// does not report it; only a second count can show that an object is missing on the label. It
-/// shares no code with the readers, so that a mistake there cannot hide itself here. It builds
+/// shares no code with the readers, so that the same mistake cannot be in both. It builds
 /// nothing and needs less of the format: which objects there are, not where and how they look.
 namespace migration {
 
-/// Most objects that are counted; every reader takes fewer.
+/// Most objects that are counted; every reader imports fewer.
 inline constexpr qsizetype MaximumObjects = 1'000'000;
-/// Largest file that is counted, in bytes: as much as the most generous reader takes.
+/// Largest file that is counted, in bytes: the largest size that any reader accepts.
 inline constexpr qint64 MaximumFile = 256LL * 1024 * 1024;
 /// Bytes of a package's members, as many as its reader takes.
 inline constexpr qint64 MaximumStyles = 16LL * 1024 * 1024;

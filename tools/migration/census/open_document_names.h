@@ -12,13 +12,12 @@
 /// Names of the elements of OpenDocument.
 namespace migration {
 
-/// Turns names as a document has them into those that OpenDocument's own examples use. A
-/// document may call its prefixes what it likes; a reader that goes by the usual ones then
-/// finds nothing, and that must show.
+/// Converts the names of a document to the usual prefixes. A document may declare other prefixes;
+/// the reader, which knows only the usual ones, then finds nothing, and the report must show it.
 class NameTable
 {
 public:
-    /// Takes the declarations of an element; they hold from there on.
+    /// Reads the declarations of an element. They apply to all later names.
     void learn(const QXmlStreamAttributes& attributes);
     [[nodiscard]] QString nameOf(QStringView qualified) const;
 
@@ -26,7 +25,7 @@ private:
     QHash<QString, QString> m_prefixes;
 };
 
-/// What becomes of an element that draws something.
+/// The result of an element that draws something.
 struct DrawingElement
 {
     QLatin1String name;
@@ -42,12 +41,12 @@ struct DrawingElement
 /// element that holds neither, or is a plain part of a text.
 [[nodiscard]] std::optional<LossKind> lostTextPart(const QString& name);
 
-/// Elements that hold nothing to be seen.
+/// Elements without visible content.
 [[nodiscard]] bool isInvisible(const QString& name);
 
 /// Blanks, tabs and line ends that are elements.
 [[nodiscard]] bool isSpacing(const QString& name);
-/// The fields that readers take.
+/// The fields that the reader imports.
 [[nodiscard]] bool isDateOrTime(const QString& name);
 [[nodiscard]] bool isAnimation(const QString& name);
 

@@ -14,7 +14,7 @@ namespace migration {
 /// As the color of a text: black or white, depending on its ground.
 inline constexpr QLatin1String AutomaticColor("automatic");
 
-/// What the styles of a document ask for that no label shows.
+/// The properties in the styles of a document that labels do not show.
 class StyleBook
 {
 public:
@@ -24,8 +24,8 @@ public:
 
     /// What changes on a text in this style, by its name; unknown names count as the default.
     [[nodiscard]] LossSet textChanges(const QString& style) const;
-    /// The family that a text asks for, from its own style, that of its paragraph or that of its
-    /// shape, in this order; empty if it asks for none. The shape is null for running text.
+    /// The font family of a text, from its own style, that of its paragraph or that of its
+    /// shape, in this order; empty if none of them has one. The shape is null for running text.
     [[nodiscard]] QString familyOf(const QString& text, const QString& paragraph,
                                    const QString& shape) const;
     /// The color in the same way; invalid if it is automatic.
