@@ -1,3 +1,4 @@
+#include "cli/option_reader.h"
 #include "cli/option_table.h"
 #include "cli/subcommands.h"
 #include "console/command_line.h"

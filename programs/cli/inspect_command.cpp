@@ -2,6 +2,7 @@
 #include "cli/import_options.h"
 #include "cli/import_worker.h"
 #include "cli/job_options.h"
+#include "cli/option_reader.h"
 #include "cli/option_table.h"
 #include "cli/subcommands.h"
 #include "cli/worker_jobs.h"

@@ -1,6 +1,7 @@
 #include "cli/option_reader.h"
 
 #include "cli/import_options.h"
+#include "cli/option_table.h"
 #include "console/command_line.h"
 #include "printing/print_document.h"
 #include "printing/sheet_presets.h"
@@ -24,6 +25,25 @@ void checkSheetName(OptionReader& given, const QString& name)
 }
 
 } // namespace
+
+void describeCommand(QCommandLineParser& parser, const Command& command)
+{
+    parser.setApplicationDescription(translated(command.description));
+    if (command.argument != nullptr) {
+        const QString argument = QLatin1String(command.argument);
+        parser.addPositionalArgument(argument.section(QLatin1Char(' '), -1),
+                                     translated(command.argumentHelp), argument);
+    }
+    for (const Option& option : command.options) {
+        QStringList names{QLatin1String(option.name)};
+        if (option.letter != nullptr) {
+            names.prepend(QLatin1String(option.letter));
+        }
+        parser.addOption(
+            QCommandLineOption(names, translated(option.help),
+                               option.value != nullptr ? translated(option.value) : QString()));
+    }
+}
 
 bool OptionReader::isSet(QLatin1String name) const
 {

@@ -11,6 +11,11 @@ class QCommandLineParser;
 
 namespace cli {
 
+struct Command;
+
+/// Adds description, argument and options of a command, except --help.
+void describeCommand(QCommandLineParser& parser, const Command& command);
+
 /// Reads the values of parsed options; keeps the first error.
 class OptionReader
 {

@@ -2,7 +2,6 @@
 
 #include "cli/command_descriptions.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 
 #include <array>
@@ -289,25 +288,6 @@ QStringList commandNames()
 QString translated(const char* text)
 {
     return QCoreApplication::translate("cli::Options", text);
-}
-
-void describeCommand(QCommandLineParser& parser, const Command& command)
-{
-    parser.setApplicationDescription(translated(command.description));
-    if (command.argument != nullptr) {
-        const QString argument = QLatin1String(command.argument);
-        parser.addPositionalArgument(argument.section(QLatin1Char(' '), -1),
-                                     translated(command.argumentHelp), argument);
-    }
-    for (const Option& option : command.options) {
-        QStringList names{QLatin1String(option.name)};
-        if (option.letter != nullptr) {
-            names.prepend(QLatin1String(option.letter));
-        }
-        parser.addOption(
-            QCommandLineOption(names, translated(option.help),
-                               option.value != nullptr ? translated(option.value) : QString()));
-    }
 }
 
 } // namespace cli

@@ -5,8 +5,6 @@
 
 #include <span>
 
-class QCommandLineParser;
-
 /// The commands and their options: one table for the parsers, the help, the shells' completion and
 /// the manual page.
 namespace cli {
@@ -27,7 +25,7 @@ struct Option
 {
     const char* name;  ///< without "--"
     const char* value; ///< name of the value; null for a switch
-    const char* help;  ///< translated by helpOf()
+    const char* help;  ///< translated when shown
     Completion completion = Completion::Nothing;
     const char* words = ""; ///< with blanks
     bool isRepeatable = false;
@@ -53,8 +51,5 @@ struct Command
 [[nodiscard]] QStringList commandNames();
 /// A text of the table in the language of the user.
 [[nodiscard]] QString translated(const char* text);
-
-/// Adds description, argument and options of a command, except --help.
-void describeCommand(QCommandLineParser& parser, const Command& command);
 
 } // namespace cli

@@ -1,4 +1,5 @@
 #include "cli/existing_output.h"
+#include "cli/option_reader.h"
 #include "cli/option_table.h"
 #include "cli/subcommands.h"
 #include "console/command_line.h"
