@@ -80,6 +80,7 @@ public:
     /// The number for a new symbol database, from 1.
     [[nodiscard]] int addSymbolDatabase() { return ++m_symbolDatabases; }
 
+    /// Registers a message box, which hideMessageBoxes() closes if it still exists.
     void addMessageBox(TalMessageBox* box);
     /// Closes the open message boxes, as a user would.
     void hideMessageBoxes();

@@ -37,14 +37,21 @@ public:
     /// @param out receives the lines; open for writing, not owned, must outlive the writer
     explicit TraceWriter(QIODevice& out);
 
+    /// The first line: the imported file and its reader.
     void start(const QString& fileName, const QString& reader);
+    /// A call without a return value, on "canvas", "item:1" and so on.
     void call(const QString& target, const char* name, const Values& arguments);
+    /// A call with the value that it returned.
     void call(const QString& target, const char* name, const Values& arguments,
               const TraceValue& returned);
+    /// A signal of the importer.
     void signal(const char* name);
+    /// A log record. @param source the base name of the file that wrote it
     void log(const QString& level, const QString& source, const QString& function,
              const QString& message);
+    /// The final state of an item.
     void itemState(const ItemState& state);
+    /// The last line. @param result whether the import succeeded
     void end(bool result);
 
 private:

@@ -17,6 +17,7 @@ public:
     /// Starts with the first line, at 0. Reuses the memory of `offsets`, but not its content.
     explicit CsvLineStarts(std::vector<qint64> offsets = {});
 
+    /// Reads the next bytes of the file.
     void take(std::span<const char> piece);
     /// Call it after the last piece. A last line without a line feed counts.
     void finish();

@@ -8,6 +8,7 @@ namespace tavrel {
 /// A label file in memory, or the reason why it could not be loaded.
 struct FileContent
 {
+    /// Why a file has no content. Only Loaded comes with bytes.
     enum class Status {
         Loaded,
         CannotBeOpened,

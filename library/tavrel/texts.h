@@ -37,6 +37,7 @@ struct TextRecord
 [[nodiscard]] TextRecord readTextRecord(QDataStream& stream, const FileContext& file,
                                         qint64 itemNumber);
 
+/// The result of building a text.
 struct TextOutcome
 {
     BuildResult result = BuildResult::NoItem;

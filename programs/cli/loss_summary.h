@@ -23,6 +23,7 @@ public:
         : m_namesAll(namesAll)
     {}
 
+    /// Counts a label, and keeps its losses if it is one of those to be named.
     void add(const migration::FileReport& report);
 
     /// Labels with this verdict.

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] static FileLock waitForLock(const QString& path, Kind kind);
 
     [[nodiscard]] bool isHeld() const { return m_descriptor >= 0; }
+    /// Unlocks the file now; without effect if no lock is held.
     void release();
 
 private:

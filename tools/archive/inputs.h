@@ -30,6 +30,7 @@ public:
     Inputs() = default;
     explicit Inputs(const QList<Input>& inputs);
 
+    /// Adds an input at the end. Inputs of one folder should follow one another, to share its name.
     void append(const Input& input);
     [[nodiscard]] Input at(qsizetype index) const;
     [[nodiscard]] qsizetype size() const { return m_entries.size(); }
@@ -78,6 +79,7 @@ public:
     using Entry = std::pair<std::size_t, quint32>;
 
     void reserve(qsizetype size) { m_entries.reserve(static_cast<std::size_t>(size)); }
+    /// Adds an index, which must fit in 32 bits, under the hash of a text.
     void add(const QString& text, qsizetype index);
     /// Must be called after the last add() and before the functions below.
     void sort();

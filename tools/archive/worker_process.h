@@ -49,7 +49,9 @@ public:
     [[nodiscard]] qint64 processId() const { return m_process.processId(); }
 
 Q_SIGNALS:
+    /// The worker can take its first job; these parts of its sandbox are active.
     void ready(const sandbox::Confinement& confinement);
+    /// The reply to the job. The worker is idle again.
     void answered(const QByteArray& line);
     /// The process has ended, busy or not. No other signal follows.
     void ended(const archive::WorkerEnd& end);

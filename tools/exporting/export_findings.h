@@ -29,6 +29,7 @@ struct ExportFinding
 class ExportFindings
 {
 public:
+    /// Counts one item of a kind; items with the same result and reason share a finding.
     void add(Fidelity fidelity, const QString& kind, const QString& text = {})
     {
         add({fidelity, kind, text, 1});

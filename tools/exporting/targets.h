@@ -91,6 +91,7 @@ using OptionValues = QJsonObject;
 /// The value of an option of a target, or its default; a switch is 0 or 1.
 [[nodiscard]] int valueOf(const OptionValues& values, Target target, QLatin1String name);
 
+/// Names of the options in OptionValues, as on the command line without "--".
 inline constexpr QLatin1String DpiOption("dpi");
 inline constexpr QLatin1String SheetOption("sheet");
 inline constexpr QLatin1String FirstPositionOption("first-position");

@@ -34,6 +34,7 @@ public:
     QList<Attribute> attributes;
     Children children;
 
+    /// A new element, a new text, and a copy with everything inside.
     [[nodiscard]] static std::unique_ptr<Node> element(const QString& name);
     [[nodiscard]] static std::unique_ptr<Node> characters(const QString& text);
     [[nodiscard]] std::unique_ptr<Node> clone() const;
@@ -42,6 +43,7 @@ public:
     [[nodiscard]] bool is(QStringView tag) const { return name == tag; }
     [[nodiscard]] QString attribute(QStringView attributeName) const;
     [[nodiscard]] bool hasAttribute(QStringView attributeName) const;
+    /// Replaces the value of an attribute, or adds it as the last.
     void setAttribute(const QString& attributeName, const QString& value);
     void removeAttribute(QStringView attributeName);
 

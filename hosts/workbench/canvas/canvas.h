@@ -58,6 +58,7 @@ public:
     void completeCanvasLoading() override;
 
     [[nodiscard]] const PageValues& page() const { return m_page; }
+    /// Sets size, colors and flags of the page. Items keep their places.
     void setPage(const PageValues& page);
     [[nodiscard]] QRectF pageRect() const { return {QPointF(0.0, 0.0), m_page.size}; }
 

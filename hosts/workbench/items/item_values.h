@@ -143,6 +143,7 @@ struct PictureValues
     bool operator==(const PictureValues&) const = default;
 };
 
+/// The drawing of a symbol, as SVG, and its colors.
 struct SymbolValues
 {
     QByteArray data;

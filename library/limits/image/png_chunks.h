@@ -8,11 +8,13 @@
 /// The structure of PNG files, without decoding them.
 namespace imagelimits {
 
+/// The first bytes of every PNG file.
 inline constexpr QByteArrayView PngSignature("\x89PNG\r\n\x1a\n");
 
 /// Bytes of a chunk in addition to its data: length and type before it, checksum after it.
 inline constexpr qint64 PngChunkHeadSize = 8;
 inline constexpr qint64 PngChecksumSize = 4;
+/// The type of the last chunk.
 inline constexpr QByteArrayView PngEndType("IEND");
 
 /// Bytes of a file from which pngHeader() can be read.

@@ -19,6 +19,7 @@ public:
     /// Whether a value beyond the end of the file was requested.
     [[nodiscard]] bool isCut() const { return m_isCut; }
 
+    /// Skips so many bytes, a number, a text or an array of bytes with its length.
     void skip(qint64 count);
     [[nodiscard]] qint32 takeNumber();
     [[nodiscard]] QString takeText();

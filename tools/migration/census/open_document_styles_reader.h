@@ -46,6 +46,8 @@ public:
         : m_styles(styles)
     {}
 
+    /// The start of an element, by its usual name; its characters; its end, in the order of the
+    /// document.
     void open(const QString& name, const QXmlStreamAttributes& attributes);
     void text(QStringView characters);
     void close();

@@ -28,6 +28,8 @@ public:
     /// Starts in a place whose objects are all lost, to walk over a part of a document only.
     void startLost(LossKind kind);
 
+    /// The start of an element, by its usual name; its characters; its end, in the order of the
+    /// document.
     void open(const QString& name, const QXmlStreamAttributes& attributes);
     void text(QStringView characters);
     /// A comment or an instruction, which divides a text.

@@ -76,6 +76,7 @@ struct Tally
     static constexpr qsizetype MaximumDetails = 12;
     qint64 count = 0;
     QStringList details;
+    /// Keeps a detail, shortened to LongestDetail, unless it is known or there are enough.
     void addDetail(const QString& detail);
 };
 
@@ -98,7 +99,9 @@ struct Census
     /// Why the number of objects is unknown; empty if it is known.
     QString unknown;
 
+    /// Counts losses that concern no single object.
     void note(LossKind kind, qint64 count = 1, const QString& detail = {});
+    /// Keeps the name of an object with such a loss, without counting it.
     void detail(LossKind kind, const QString& detail);
 };
 

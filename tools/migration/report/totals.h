@@ -24,6 +24,7 @@ struct Totals
     QMap<QString, qint64> filesBySandbox; ///< imported files, by parts of the sandbox
     QMap<QString, qint64> filesByCode;    ///< files with a problem of this code
 
+    /// Adds the numbers of one file.
     void add(const FileReport& report);
     /// Files that were imported without a complete sandbox.
     [[nodiscard]] qint64 exposed() const;
