@@ -2,8 +2,8 @@
 
 #include "tests/opendocument/documents.h"
 #include "tests/support/canvas_writer/canvas_writer.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QImage>
 
@@ -19,14 +19,6 @@ QImage smallImage()
     QImage image(4, 3, QImage::Format_RGB32);
     image.fill(Qt::red);
     return image;
-}
-
-QByteArray pngBytes()
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    smallImage().save(&buffer, "PNG");
-    return buffer.data();
 }
 
 QByteArray canvasFile()
@@ -68,7 +60,7 @@ QByteArray pictureControl(const QByteArray& bytes)
 
 QByteArray xmlLabel()
 {
-    return "<qmtx><pre_printed_image><content>" + pngBytes().toBase64() +
+    return "<qmtx><pre_printed_image><content>" + encoded(smallImage()).toBase64() +
            "</content></pre_printed_image><controls>"
            "<barcode><ArrayOfString><string>1</string></ArrayOfString></barcode>"
            "<combo_box><ArrayOfAnyType><a>x</a></ArrayOfAnyType></combo_box>"
@@ -77,7 +69,7 @@ QByteArray xmlLabel()
            "<swap_text_box><scaleable>true</scaleable></swap_text_box>" +
            shapeControl(0, 1) + shapeControl(0, 3) + shapeControl(0, 5) + shapeControl(4) +
            shapeControl(5) + shapeControl(6) + shapeControl(8) + pictureControl(Svg) +
-           pictureControl(pngBytes()) + "</controls></qmtx>";
+           pictureControl(encoded(smallImage())) + "</controls></qmtx>";
 }
 
 QByteArray customShape(const char* type)
@@ -111,7 +103,7 @@ QByteArray drawing()
 QByteArray openDocumentFile()
 {
     Package package(stylesXml(), drawing());
-    package.add(QStringLiteral("Pictures/1.png"), pngBytes());
+    package.add(QStringLiteral("Pictures/1.png"), encoded(smallImage()));
     package.add(QStringLiteral("Pictures/1.svg"), Svg);
     return package.bytes();
 }

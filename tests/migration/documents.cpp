@@ -1,5 +1,6 @@
 #include "tests/migration/documents.h"
 
+#include "tests/support/encoded_picture.h"
 #include "workbench/document/label_file.h"
 
 #include <QBuffer>
@@ -143,8 +144,5 @@ QByteArray pngOf(int width, int height)
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
-    return bytes;
+    return encoded(image);
 }

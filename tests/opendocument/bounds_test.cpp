@@ -7,8 +7,8 @@
 #include "opendocument/opendocument_limits.h"
 #include "opendocument/picture_store.h"
 #include "opendocument/style_memory.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QtEndian>
 
@@ -16,16 +16,6 @@ using namespace opendocument;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray png(int width, int height)
-{
-    QImage image(width, height, QImage::Format_Mono);
-    image.fill(1);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data();
-}
 
 PictureStore storeOf(const QMap<QString, QByteArray>& members)
 {
@@ -107,7 +97,8 @@ TEST_F(OpenDocumentBounds, MeasureTheStylesThatStay)
 TEST_F(OpenDocumentBounds, CountThePixelsOfAPicture)
 {
     static_assert(limits::PicturePixels == 8000 * 4000);
-    PictureStore store = storeOf({{u"most"_s, png(8000, 4000)}, {u"more"_s, png(4000, 8001)}});
+    PictureStore store =
+        storeOf({{u"most"_s, monoPng(8000, 4000)}, {u"more"_s, monoPng(4000, 8001)}});
     EXPECT_TRUE(store.pixmap(u"more"_s).isNull());
     EXPECT_EQ(store.pixmap(u"most"_s).size(), QSize(8000, 4000));
 }
@@ -115,8 +106,8 @@ TEST_F(OpenDocumentBounds, CountThePixelsOfAPicture)
 TEST_F(OpenDocumentBounds, CountThePixelsOfAllPictures)
 {
     static_assert(limits::AllPicturesPixels == 2 * 6000 * 5000);
-    const QByteArray half = png(6000, 5000);
-    PictureStore store = storeOf({{u"a"_s, half}, {u"b"_s, half}, {u"c"_s, png(1, 1)}});
+    const QByteArray half = monoPng(6000, 5000);
+    PictureStore store = storeOf({{u"a"_s, half}, {u"b"_s, half}, {u"c"_s, monoPng(1, 1)}});
     EXPECT_FALSE(store.pixmap(u"a"_s).isNull());
     EXPECT_FALSE(store.pixmap(u"b"_s).isNull());
     EXPECT_TRUE(store.pixmap(u"c"_s).isNull()) << "one pixel more";
@@ -143,7 +134,7 @@ TEST_F(OpenDocumentBounds, NeverUnpackTheTextsOfAPicture)
     QByteArray length(4, '\0');
     qToBigEndian(quint32(chunk.size() - 4), length.data());
     constexpr qsizetype behindHeader = 33;
-    QByteArray bomb = png(3, 2);
+    QByteArray bomb = monoPng(3, 2);
     bomb.insert(behindHeader, (length + chunk + QByteArray(4, '\0')).repeated(20));
     PictureStore store = storeOf({{u"a"_s, bomb}});
     EXPECT_EQ(store.pixmap(u"a"_s).size(), QSize(3, 2));

@@ -2,8 +2,8 @@
 
 #include "reader_fixture.h"
 #include "tests/support/captured_log.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 
 using namespace Qt::StringLiterals;
@@ -14,10 +14,7 @@ QByteArray picture(int width, int height, const char* format = "PNG")
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(Qt::red);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return buffer.data();
+    return encoded(image, format);
 }
 
 const QByteArray Drawing = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1\" height=\"1\"/>";

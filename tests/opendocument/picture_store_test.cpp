@@ -4,8 +4,8 @@
 
 #include "opendocument/opendocument_limits.h"
 #include "opendocument/picture_store.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QMap>
 #include <QtEndian>
@@ -16,16 +16,6 @@ using namespace opendocument;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray png(int width, int height)
-{
-    QImage image(width, height, QImage::Format_Mono);
-    image.fill(1);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data();
-}
 
 /// A package that counts how often it is read.
 struct Members
@@ -49,7 +39,7 @@ struct Members
 
 TEST(PictureStore, DecodesAPictureOnce)
 {
-    Members members{{{u"a.png"_s, png(3, 2)}}, {}};
+    Members members{{{u"a.png"_s, monoPng(3, 2)}}, {}};
     PictureStore store = members.store();
     EXPECT_EQ(store.pixmap(u"a.png"_s).size(), QSize(3, 2));
     EXPECT_EQ(store.pixmap(u"a.png"_s).size(), QSize(3, 2));
@@ -67,7 +57,7 @@ TEST(PictureStore, ReadsADrawingOnce)
 
 TEST(PictureStore, MissingOrDamagedPicturesAreNull)
 {
-    Members members{{{u"bad.png"_s, "no picture"}, {u"cut.png"_s, png(50, 50).first(60)}}, {}};
+    Members members{{{u"bad.png"_s, "no picture"}, {u"cut.png"_s, monoPng(50, 50).first(60)}}, {}};
     PictureStore store = members.store();
     EXPECT_TRUE(store.pixmap(u"missing.png"_s).isNull());
     EXPECT_TRUE(store.bytes(u"missing.svg"_s).isEmpty());
@@ -89,7 +79,7 @@ TEST(PictureStore, NeverPaintsADrawingUnderAPicturesName)
 
 TEST(PictureStore, RefusesPicturesByTheSizeTheirHeaderClaims)
 {
-    QByteArray huge = png(3, 2);
+    QByteArray huge = monoPng(3, 2);
     qToBigEndian<quint32>(100000, huge.data() + 16);
     qToBigEndian<quint32>(100000, huge.data() + 20);
     Members members{{{u"a.png"_s, huge}}, {}};
@@ -99,8 +89,8 @@ TEST(PictureStore, RefusesPicturesByTheSizeTheirHeaderClaims)
 TEST(PictureStore, RefusesMorePixelsThanAnImportMayTake)
 {
     // 30 million pixels each, in a few kilobytes.
-    const QByteArray large = png(5500, 5500);
-    Members members{{{u"a.png"_s, large}, {u"b.png"_s, large}, {u"c.png"_s, png(2, 2)}}, {}};
+    const QByteArray large = monoPng(5500, 5500);
+    Members members{{{u"a.png"_s, large}, {u"b.png"_s, large}, {u"c.png"_s, monoPng(2, 2)}}, {}};
     PictureStore store = members.store();
     EXPECT_FALSE(store.pixmap(u"a.png"_s).isNull());
     EXPECT_TRUE(store.pixmap(u"b.png"_s).isNull());

@@ -1,7 +1,6 @@
 #include "tests/orvanta/reader_fixture.h"
-#include "tests/support/mono_png.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 
 namespace {

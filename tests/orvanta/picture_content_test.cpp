@@ -2,8 +2,8 @@
 
 #include "orvanta/raster_picture.h"
 #include "tests/orvanta/printing.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QTemporaryDir>
 
@@ -12,15 +12,6 @@
 namespace {
 
 constexpr qint64 Plenty = orvanta::MaximumLabelPixels;
-
-QByteArray encoded(const QImage& image, const char* format)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return bytes;
-}
 
 QImage checkered()
 {

@@ -1,6 +1,5 @@
 #include "tests/tavrel/label_file.h"
-
-#include <QBuffer>
+#include "tests/support/encoded_picture.h"
 
 namespace tavrel_test {
 
@@ -153,11 +152,7 @@ QByteArray pngOf(int width, int height, QImage::Format format)
 {
     QImage image(width, height, format);
     image.fill(Qt::darkGreen);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
+    return encoded(image);
 }
 
 } // namespace tavrel_test

@@ -1,9 +1,8 @@
 #include "workbench/document/item_json_values.h"
 
-#include "tests/support/mono_png.h"
+#include "tests/support/encoded_picture.h"
 #include "workbench/document/document_limits.h"
 
-#include <QBuffer>
 #include <QJsonArray>
 #include <QJsonObject>
 

@@ -8,9 +8,8 @@
 #include "workbench/document/picture_pixels.h"
 
 #include "sample_label.h"
-#include "tests/support/mono_png.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>

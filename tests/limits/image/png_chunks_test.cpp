@@ -1,6 +1,6 @@
 #include "limits/image/png_chunks.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QtEndian>
 
@@ -11,14 +11,6 @@
 using namespace imagelimits;
 
 namespace {
-
-QByteArray pngOf(const QImage& image)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data();
-}
 
 QByteArray withSize(QByteArray png, quint32 width, quint32 height)
 {
@@ -39,7 +31,7 @@ TEST(PngHeader, HasSizeAndDepth)
     for (const auto& row : rows) {
         QImage image(3, 5, row.format);
         image.fill(0);
-        const auto header = pngHeader(pngOf(image));
+        const auto header = pngHeader(encoded(image));
         ASSERT_TRUE(header);
         EXPECT_EQ(header->width, 3);
         EXPECT_EQ(header->height, 5);
@@ -50,7 +42,7 @@ TEST(PngHeader, HasSizeAndDepth)
 
 TEST(PngHeader, MustBeFirstAndComplete)
 {
-    const QByteArray png = pngOf(QImage(1, 1, QImage::Format_RGB32));
+    const QByteArray png = encoded(QImage(1, 1, QImage::Format_RGB32));
     EXPECT_TRUE(pngHeader(png.first(PngHeaderEnd)));
     EXPECT_FALSE(pngHeader(png.first(PngHeaderEnd - 1)));
     EXPECT_FALSE(pngHeader({}));
@@ -61,7 +53,7 @@ TEST(PngHeader, MustBeFirstAndComplete)
 TEST(PngHeader, CountsPixelsWithoutOverflow)
 {
     constexpr quint32 most = std::numeric_limits<quint32>::max();
-    const QByteArray png = pngOf(QImage(1, 1, QImage::Format_RGB32));
+    const QByteArray png = encoded(QImage(1, 1, QImage::Format_RGB32));
     EXPECT_EQ(pngHeader(withSize(png, most, most))->pixels(), std::numeric_limits<qint64>::max());
     EXPECT_EQ(pngHeader(withSize(png, most, 0))->pixels(), 0);
     EXPECT_EQ(pngHeader(withSize(png, most, 2))->pixels(), 2 * qint64(most));
@@ -69,7 +61,7 @@ TEST(PngHeader, CountsPixelsWithoutOverflow)
 
 TEST(PngChunks, EndWithTheirEndChunkOrTheFile)
 {
-    const QByteArray png = pngOf(QImage(1, 1, QImage::Format_RGB32)) + "trailing bytes";
+    const QByteArray png = encoded(QImage(1, 1, QImage::Format_RGB32)) + "trailing bytes";
     const auto countOf = [](QByteArrayView bytes, bool& isComplete) {
         PngChunks chunks(bytes.sliced(PngSignature.size()));
         int count = 0;

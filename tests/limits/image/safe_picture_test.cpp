@@ -1,6 +1,6 @@
 #include "limits/image/safe_picture.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QtEndian>
 
@@ -21,14 +21,6 @@ QImage checkered()
         }
     }
     return image;
-}
-
-QByteArray encoded(const QImage& image, const char* format)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return buffer.data();
 }
 
 QByteArray bigEndian(quint32 value)

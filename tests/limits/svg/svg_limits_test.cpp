@@ -2,9 +2,8 @@
 
 #include "limits/svg/svg_limits.h"
 #include "limits/svg/svg_sanitizer.h"
-#include "tests/support/mono_png.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QtEndian>
 

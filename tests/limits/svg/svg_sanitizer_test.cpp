@@ -1,7 +1,7 @@
 #include "limits/svg/svg_limits.h"
 #include "limits/svg/svg_sanitizer.h"
+#include "tests/support/encoded_picture.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
@@ -34,11 +34,7 @@ QByteArray pngOf(int width, int height, Qt::GlobalColor color = Qt::red)
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(color);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
-    return bytes;
+    return encoded(image);
 }
 
 QImage drawn(const QByteArray& document)
