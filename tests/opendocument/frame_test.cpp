@@ -202,7 +202,7 @@ TEST_F(Frame, PictureMakesItsCallsInOrder)
     import(images({"a.png"}, Box + "draw:z-index=\"4\" draw:style-name=\"g\" "
                                    "draw:transform=\"rotate (-1.5707963267949)\""),
            "style:mirror=\"horizontal\"");
-    EXPECT_EQ(itemCalls(), lines({"factory create 1000c", "item:1 pixmapImportActions 5 6",
+    EXPECT_EQ(itemCalls(), lines({"factory create 1000c", "item:1 pixmapImportActions 5x6",
                                   "item:1 setItemSize 216 288", "item:1 setItemRotation 90",
                                   "canvas importItem 'item:1'"}));
     EXPECT_EQ(host.item(1)->pos(), QPointF(72, 144));

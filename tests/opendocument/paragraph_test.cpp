@@ -63,7 +63,8 @@ TEST_F(Paragraph, RunMakesItsCallsInOrder)
 {
     import("<text:p text:style-name=\"right\">abc</text:p>");
     EXPECT_EQ(itemCalls(),
-              lines({"factory create 10016", "canvas importItem 'item:1'", "item:1 setText 'abc'",
+              lines({"lists isValidFamily 'Arial'", "factory create 10016",
+                     "canvas importItem 'item:1'", "item:1 setText 'abc'",
                      "item:1 setFontFamily '_Nare Vol'", "item:1 setFontBold true",
                      "item:1 setFontItalic false", "item:1 setFontUnderline false",
                      "item:1 setFontPointSize 20", "item:1 adjustBoxSizeToContent 612",

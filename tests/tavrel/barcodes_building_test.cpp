@@ -33,14 +33,14 @@ protected:
 TEST_F(BarcodeBuilder, HandsTheStoredPropertiesOver)
 {
     EXPECT_EQ(buildBarcode(canvas(), barcode(), binder()), BuildResult::Built);
-    EXPECT_EQ(
-        host.calls(),
-        lines({"factory create 1001d",
-               "item:1 importBarcodeProperties 20 '42' true 132 2 true false 1 17 3",
-               "item:1 setItemSize 60 20", "item:1 setItemRotation 30", "item:1 setZValue 1003",
-               "item:1 setMovable true", "item:1 setForegroundColor '#ffff0000'",
-               "item:1 setBackgroundColor '#ffffff00'", "item:1 setPos 100 50",
-               "canvas importItem 'item:1'"}));
+    EXPECT_EQ(host.calls(),
+              lines({"factory create 1001d",
+                     "item:1 importBarcodeProperties 20 '42' true 132 2 true false 1 17 3",
+                     "item:1 setItemSize 60 20", "item:1 setItemRotation 30",
+                     "item:1 setZValue 1003", "item:1 setMovable true",
+                     "canvas canvasDefaultPenColor", "item:1 setForegroundColor '#ffff0000'",
+                     "canvas canvasBackgroundColor", "item:1 setBackgroundColor '#ffffff00'",
+                     "item:1 setPos 100 50", "canvas importItem 'item:1'"}));
     expectPlaced();
 }
 
@@ -85,7 +85,7 @@ TEST_F(BarcodeBuilder, BindsBeforeItHandsOver)
     record.datasourceText = QStringLiteral("%_TIME%");
     EXPECT_EQ(buildBarcode(canvas(), record, binder()), BuildResult::Built);
     EXPECT_EQ(
-        host.calls().mid(9),
+        host.calls().mid(11),
         lines({"datasources createDatasource 'SystemDatasource'", "item:1 setDatasourceId 1",
                "datasources getDatasource 1", "datasource:1 setDatasourceProperty 'DateFormat' ''",
                "datasource:1 setDatasourceProperty 'TimeFormat' 'hh:mm:ss'",

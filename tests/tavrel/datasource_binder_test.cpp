@@ -68,8 +68,8 @@ TEST_F(Binding, ClockKeysTakeDateThenTimeFormat)
         SCOPED_TRACE(row.key);
         host.forgetCalls();
         EXPECT_TRUE(bind(row.key));
-        const QString source = QStringLiteral("datasource%1 setDatasourceProperty ").arg(++id);
-        const QString format = QStringLiteral("\"%1\" \"%2\"");
+        const QString source = QStringLiteral("datasource:%1 setDatasourceProperty ").arg(++id);
+        const QString format = QStringLiteral("'%1' '%2'");
         EXPECT_EQ(host.calls(),
                   (QStringList{
                       QStringLiteral("datasources createDatasource 'SystemDatasource'"),

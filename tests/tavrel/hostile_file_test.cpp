@@ -105,7 +105,7 @@ TEST_F(Hostile, LengthsBeyondTheEndGiveEmptyValues)
                                .raw(hex(length))
                                .raw(QByteArray(1000, 'x'))));
         EXPECT_EQ(host.callsWith("importTextProperties").size(), 1);
-        EXPECT_EQ(host.callsWith("importTextProperties \"\"").size(), 1);
+        EXPECT_EQ(host.callsWith("importTextProperties ''").size(), 1);
     }
     expectModestMemory();
 }

@@ -45,7 +45,7 @@ TEST_F(PictureBuilder, OddNumbersPassToTheHost)
     header.height = NAN;
     header.rotation = NAN;
     EXPECT_EQ(buildPicture(canvas(), picture(2, 2), Printer), BuildResult::Built);
-    EXPECT_EQ(host.callsWith("setItemSize"), lines({"item:1 setItemSize inf nan"}));
+    EXPECT_EQ(host.callsWith("setItemSize"), lines({"item:1 setItemSize 'inf' 'nan'"}));
     EXPECT_EQ(host.callsWith("setItemRotation"), lines({"item:1 setItemRotation 'nan'"}));
 }
 

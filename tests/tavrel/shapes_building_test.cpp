@@ -25,7 +25,8 @@ TEST_F(ShapeBuilder, SetsUpAShapeInItsBox)
               lines({"factory create 1002c", "item:1 setItemSize 60 20",
                      "item:1 setItemRotation 30", "item:1 setZValue 1003", "item:1 setMovable true",
                      "item:1 setPos 100 50", "item:1 setPenWidth 6", "item:1 setPenStyle 2",
-                     "item:1 setPenColor '#ffff0000'", "item:1 setFilled true",
+                     "canvas canvasDefaultPenColor", "item:1 setPenColor '#ffff0000'",
+                     "item:1 setFilled true", "canvas canvasBackgroundColor",
                      "item:1 setFillColor '#ffffff00'", "canvas importItem 'item:1'"}));
     expectPlaced();
 }
@@ -66,8 +67,9 @@ TEST_F(ShapeBuilder, HorizontalLineIsAsLongAsItsBoxIsWide)
     EXPECT_EQ(host.calls(),
               lines({"factory create 1001f", "item:1 setLineLength 60", "item:1 setItemRotation 30",
                      "item:1 setZValue 1003", "item:1 setMovable true", "item:1 setPenWidth 6",
-                     "item:1 setPenStyle 2", "item:1 setPenColor '#ffff0000'",
-                     "item:1 setPos 100 50", "canvas importItem 'item:1'"}))
+                     "item:1 setPenStyle 2", "canvas canvasDefaultPenColor",
+                     "item:1 setPenColor '#ffff0000'", "item:1 setPos 100 50",
+                     "canvas importItem 'item:1'"}))
         << "a line has no fill, whatever the mode";
     expectPlaced();
 }

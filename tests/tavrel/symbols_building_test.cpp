@@ -18,12 +18,13 @@ TEST_F(SymbolBuilder, ScalesTheSymbolsOwnSizeAndColorsIt)
     host.behavior().symbolSize = QSizeF(40, 30);
     const QByteArray loaded = "item:1 loadItemFromData " + TestHost::shown("data").toUtf8();
     EXPECT_EQ(buildSymbol(canvas(), header, Printer, "data"), BuildResult::Built);
-    EXPECT_EQ(host.calls(),
-              lines({"factory create 1000d", loaded.constData(), "item:1 getItemSize",
-                     "item:1 setItemSize 80 15", "item:1 setItemRotation 30",
-                     "item:1 setZValue 1003", "item:1 setMovable true", "item:1 setPos 100 50",
-                     "item:1 setForegroundColor '#ffff0000'",
-                     "item:1 setBackgroundColor '#ffffff00'", "canvas importItem 'item:1'"}));
+    EXPECT_EQ(
+        host.calls(),
+        lines({"factory create 1000d", loaded.constData(), "item:1 getItemSize",
+               "item:1 setItemSize 80 15", "item:1 setItemRotation 30", "item:1 setZValue 1003",
+               "item:1 setMovable true", "item:1 setPos 100 50", "canvas canvasDefaultPenColor",
+               "item:1 setForegroundColor '#ffff0000'", "canvas canvasBackgroundColor",
+               "item:1 setBackgroundColor '#ffffff00'", "canvas importItem 'item:1'"}));
     expectPlaced();
 }
 

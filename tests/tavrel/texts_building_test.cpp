@@ -36,16 +36,26 @@ TEST_F(TextBuilder, ImportsTheItemBeforeItSetsItUp)
     const TextOutcome outcome = build(text());
     EXPECT_EQ(outcome.result, BuildResult::Built);
     EXPECT_FALSE(outcome.scaled);
-    EXPECT_EQ(
-        host.calls(),
-        lines({"factory create 10015", "item:1 setZValue 1003", "canvas importItem 'item:1'",
-               "item:1 getItemSize", "item:1 getItemSize", "item:1 setItemSizeLimiting 0",
-               "item:1 setTextBoxSize 33 11",
-               "item:1 importTextProperties 'Net  weight' 12 true false true 2",
-               "item:1 setPenWidth 6", "item:1 setPenStyle 2", "item:1 setPenColor '#ffff0000'",
-               "item:1 setFillColor '#ffffff00'", "item:1 setTextColor '#ffff0000'",
-               "item:1 setOptionA false", "item:1 setOptionB true", "item:1 applyTextOptions",
-               "item:1 setMovable true", "item:1 setPos 100 50"}));
+    EXPECT_EQ(host.calls(), lines({"canvas canvasDefaultPenColor",
+                                   "canvas canvasBackgroundColor",
+                                   "factory create 10015",
+                                   "item:1 setZValue 1003",
+                                   "canvas importItem 'item:1'",
+                                   "item:1 getItemSize",
+                                   "item:1 getItemSize",
+                                   "item:1 setItemSizeLimiting 0",
+                                   "item:1 setTextBoxSize 33 11",
+                                   "item:1 importTextProperties 'Net  weight' 12 true false true 2",
+                                   "item:1 setPenWidth 6",
+                                   "item:1 setPenStyle 2",
+                                   "item:1 setPenColor '#ffff0000'",
+                                   "item:1 setFillColor '#ffffff00'",
+                                   "item:1 setTextColor '#ffff0000'",
+                                   "item:1 setOptionA false",
+                                   "item:1 setOptionB true",
+                                   "item:1 applyTextOptions",
+                                   "item:1 setMovable true",
+                                   "item:1 setPos 100 50"}));
     expectPlaced();
 }
 
@@ -142,11 +152,11 @@ TEST_F(TextBuilder, BindsBetweenContentAndLook)
     TextRecord record = text();
     record.datasourceKey = QStringLiteral("_DATE");
     build(record);
-    EXPECT_EQ(host.calls().mid(7, 4),
+    EXPECT_EQ(host.calls().mid(9, 4),
               lines({"item:1 importTextProperties 'Net  weight' 12 true false true 2",
                      "datasources createDatasource 'SystemDatasource'", "item:1 setDatasourceId 1",
                      "datasources getDatasource 1"}));
-    EXPECT_EQ(host.calls().value(13), QStringLiteral("item:1 setPenWidth 6"));
+    EXPECT_EQ(host.calls().value(15), QStringLiteral("item:1 setPenWidth 6"));
 }
 
 TEST(ScaledTextNote, NamesTheWordsAndTheFontSize)
