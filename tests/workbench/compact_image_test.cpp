@@ -38,6 +38,21 @@ TEST(CompactImage, IsTheSamePictureWhateverItsColors)
     }
 }
 
+TEST(CompactImage, KeepsRowsThatRepeatAndThoseThatDifferInOnePixel)
+{
+    QImage image(33, 9, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    for (const int y : {3, 4, 5, 8}) {
+        for (int x = 0; x < image.width(); ++x) {
+            image.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::red);
+        }
+    }
+    image.setPixelColor(32, 4, Qt::blue); // the last pixel of a row that else repeats
+    const QImage compact = compactImage(image);
+    EXPECT_EQ(compact.format(), QImage::Format_Indexed8);
+    EXPECT_EQ(plain(compact), plain(image));
+}
+
 TEST(CompactImage, HasATableOfUpTo256Colors)
 {
     EXPECT_EQ(compactImage(pictureOf(256, false)).format(), QImage::Format_Indexed8);

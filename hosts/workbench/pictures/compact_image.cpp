@@ -2,6 +2,7 @@
 
 #include <QHash>
 
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <span>
@@ -74,13 +75,22 @@ bool numberRow(std::span<const QRgb> pixels, ColorNumbers& numbers, uchar* to)
     return true;
 }
 
+bool areEqual(std::span<const QRgb> a, std::span<const QRgb> b)
+{
+    return std::memcmp(a.data(), b.data(), a.size_bytes()) == 0;
+}
+
 // The picture with a color table; null if it has too many colors.
 QImage withColorTable(const QImage& image)
 {
     QImage result(image.size(), QImage::Format_Indexed8);
     ColorNumbers numbers;
     for (int y = 0; y < result.height(); ++y) {
-        if (!numberRow(pixelsOf(image, y), numbers, result.scanLine(y))) {
+        const std::span<const QRgb> row = pixelsOf(image, y);
+        // Empty space and bar codes repeat the row above; comparing is faster than numbering.
+        if (y > 0 && areEqual(row, pixelsOf(image, y - 1))) {
+            std::memcpy(result.scanLine(y), result.constScanLine(y - 1), row.size());
+        } else if (!numberRow(row, numbers, result.scanLine(y))) {
             return {};
         }
     }
