@@ -4,6 +4,8 @@
 
 #include <QBuffer>
 
+#include <algorithm>
+
 #include <private/qzipwriter_p.h>
 
 namespace bench {
@@ -236,16 +238,56 @@ QByteArray drawingStyles()
            "style:page-layout-name=\"PM1\"/></office:master-styles></office:document-styles>";
 }
 
-QByteArray manifest()
+QByteArray runsFrom(int first, int end)
+{
+    QByteArray runs;
+    for (int i = first; i < end; ++i) {
+        const QByteArray words = "run " + number(i) + ' ';
+        runs += i % 2 == 0 ? words : "<text:span text:style-name=\"T1\">" + words + "</text:span>";
+    }
+    return runs;
+}
+
+QByteArray textContent(int runs)
+{
+    constexpr int inParagraph = 6;
+    QByteArray content = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                         "<office:document-content" +
+                         namespaces() + "><office:automatic-styles>" + graphicStyles() +
+                         "</office:automatic-styles><office:body><office:text>";
+    for (int i = 0; i < runs; i += inParagraph) {
+        content += "<text:p text:style-name=\"P1\">" +
+                   runsFrom(i, std::min(i + inParagraph, runs)) + "</text:p>";
+    }
+    return content + "</office:text></office:body></office:document-content>";
+}
+
+QByteArray manifest(const QByteArray& type)
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<manifest:manifest xmlns:manifest="
            "\"urn:oasis:names:tc:opendocument:xmlns:manifest:1.0\" manifest:version=\"1.2\">"
-           "<manifest:file-entry manifest:full-path=\"/\" manifest:media-type="
-           "\"application/vnd.oasis.opendocument.graphics\"/>"
-           "<manifest:file-entry manifest:full-path=\"content.xml\" "
+           "<manifest:file-entry manifest:full-path=\"/\" manifest:media-type=\"" +
+           type +
+           "\"/><manifest:file-entry manifest:full-path=\"content.xml\" "
            "manifest:media-type=\"text/xml\"/><manifest:file-entry "
            "manifest:full-path=\"styles.xml\" manifest:media-type=\"text/xml\"/>"
            "</manifest:manifest>";
+}
+
+QByteArray package(const QByteArray& type, const QByteArray& content)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QZipWriter writer(&buffer);
+    // Other programs detect the format by this member, which must be the first and uncompressed.
+    writer.setCompressionPolicy(QZipWriter::NeverCompress);
+    writer.addFile(u"mimetype"_s, type);
+    writer.setCompressionPolicy(QZipWriter::AlwaysCompress);
+    writer.addFile(u"META-INF/manifest.xml"_s, manifest(type));
+    writer.addFile(u"styles.xml"_s, drawingStyles());
+    writer.addFile(u"content.xml"_s, content);
+    writer.close();
+    return buffer.data();
 }
 
 } // namespace
@@ -282,18 +324,12 @@ QByteArray xmlLabel(int items)
 
 QByteArray drawing(int shapes, Texts texts)
 {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QZipWriter writer(&buffer);
-    // Other programs detect the format by this member, which must be the first and uncompressed.
-    writer.setCompressionPolicy(QZipWriter::NeverCompress);
-    writer.addFile(u"mimetype"_s, QByteArray("application/vnd.oasis.opendocument.graphics"));
-    writer.setCompressionPolicy(QZipWriter::AlwaysCompress);
-    writer.addFile(u"META-INF/manifest.xml"_s, manifest());
-    writer.addFile(u"styles.xml"_s, drawingStyles());
-    writer.addFile(u"content.xml"_s, drawingContent(shapes, texts));
-    writer.close();
-    return buffer.data();
+    return package("application/vnd.oasis.opendocument.graphics", drawingContent(shapes, texts));
+}
+
+QByteArray textDocument(int runs)
+{
+    return package("application/vnd.oasis.opendocument.text", textContent(runs));
 }
 
 } // namespace bench

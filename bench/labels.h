@@ -21,4 +21,7 @@ enum class Texts { None, Some };
 /// text boxes. With texts, three of ten shapes have one; without, none.
 [[nodiscard]] QByteArray drawing(int shapes, Texts texts);
 
+/// A text document: paragraphs of six runs, every second of them bold.
+[[nodiscard]] QByteArray textDocument(int runs);
+
 } // namespace bench

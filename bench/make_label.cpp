@@ -17,6 +17,9 @@ QByteArray labelFor(const QString& path, int objects)
     if (path.endsWith(QLatin1String(".qmtx"))) {
         return bench::xmlLabel(objects);
     }
+    if (path.endsWith(QLatin1String(".odt"))) {
+        return bench::textDocument(objects);
+    }
     return bench::drawing(objects, path.endsWith(QLatin1String("_texts.odg")) ? bench::Texts::Some
                                                                               : bench::Texts::None);
 }
@@ -26,7 +29,7 @@ QByteArray labelFor(const QString& path, int objects)
 int main(int argc, char** argv)
 {
     if (argc != 3) {
-        std::fputs("Usage: bench_make_label OBJECTS FILE.cnv|.qmtx|.odg|_texts.odg\n", stderr);
+        std::fputs("Usage: bench_make_label OBJECTS FILE.cnv|.qmtx|.odg|_texts.odg|.odt\n", stderr);
         return 2;
     }
     const QString path = QString::fromLocal8Bit(argv[2]);

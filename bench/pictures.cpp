@@ -55,7 +55,7 @@ bool writeWithQt(const QImage& image, QIODevice& device)
     return image.save(&device, "png");
 }
 
-void write(benchmark::State& state, const QImage& image, Write writer)
+void measureWriter(benchmark::State& state, const QImage& image, Write writer)
 {
     qint64 bytes = 0;
     for ([[maybe_unused]] auto step : state) {
@@ -78,9 +78,10 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     const QImage label = flatLabel();
     const QImage photo = photograph();
-    benchmark::RegisterBenchmark("label/encodePng", write, label, &workbench::encodePng);
-    benchmark::RegisterBenchmark("label/Qt", write, label, &writeWithQt);
-    benchmark::RegisterBenchmark("photograph/encodePng", write, photo, &workbench::encodePng);
-    benchmark::RegisterBenchmark("photograph/Qt", write, photo, &writeWithQt);
+    benchmark::RegisterBenchmark("label/encodePng", measureWriter, label, &workbench::encodePng);
+    benchmark::RegisterBenchmark("label/Qt", measureWriter, label, &writeWithQt);
+    benchmark::RegisterBenchmark("photograph/encodePng", measureWriter, photo,
+                                 &workbench::encodePng);
+    benchmark::RegisterBenchmark("photograph/Qt", measureWriter, photo, &writeWithQt);
     benchmark::RunSpecifiedBenchmarks();
 }

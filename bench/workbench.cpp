@@ -44,6 +44,7 @@ const QList<Format>& formats()
         {u"XML"_s, u".qmtx"_s, &bench::xmlLabel, 3},
         {u"OpenDocument"_s, u"_texts.odg"_s,
          [](int shapes) { return bench::drawing(shapes, bench::Texts::Some); }, 3},
+        {u"text document"_s, u".odt"_s, &bench::textDocument, 3},
     };
     return all;
 }
@@ -55,6 +56,7 @@ struct Steps
     double open = 0.0;
     double draw = 0.0;
     qint64 importedBytes = 0;
+    qint64 importPeak = 0; // of the process, Qt and the program included
 };
 
 void require(const QString& error)
@@ -72,6 +74,7 @@ Steps stepsOf(const QString& path)
     steps.import = bench::secondsOf([&] { label = workbench::importLabel(path); });
     require(label.error);
     steps.importedBytes = bench::currentBytes() - before;
+    steps.importPeak = bench::peakBytes();
     const QString saved = path + u".label"_s;
     steps.save = bench::secondsOf(
         [&] { require(workbench::document::saveLabel(saved, *label.canvas, *label.datasources)); });
@@ -101,6 +104,7 @@ struct Medians
     QList<double> open;
     QList<double> draw;
     QList<double> bytes;
+    QList<double> importPeak;
     QList<double> peak;
 };
 
@@ -115,7 +119,8 @@ Medians measured(const Format& format, const QString& path)
         all.open.append(words.value(2).toDouble());
         all.draw.append(words.value(3).toDouble());
         all.bytes.append(words.value(4).toDouble());
-        all.peak.append(words.value(5).toDouble());
+        all.importPeak.append(words.value(5).toDouble());
+        all.peak.append(words.value(6).toDouble());
     }
     return all;
 }
@@ -136,7 +141,7 @@ int measure(const QList<int>& sizes)
     const QTemporaryDir folder;
     QList<QStringList> rows = {{u"label"_s, u"items"_s, u"import ms"_s, u"growth"_s, u"save ms"_s,
                                 u"growth"_s, u"open ms"_s, u"growth"_s, u"draw ms"_s, u"growth"_s,
-                                u"bytes/item"_s, u"peak MB"_s}};
+                                u"bytes/item"_s, u"imported MB"_s, u"peak MB"_s}};
     for (const Format& format : formats()) {
         Medians before;
         for (const int size : sizes) {
@@ -147,6 +152,7 @@ int measure(const QList<int>& sizes)
                          growth(before.open, now.open), milliseconds(now.draw),
                          growth(before.draw, now.draw),
                          QString::number(bench::median(now.bytes) / size, 'f', 0),
+                         QString::number(bench::median(now.importPeak) / (1 << 20), 'f', 0),
                          QString::number(bench::median(now.peak) / (1 << 20), 'f', 0)});
             before = now;
         }
@@ -174,8 +180,9 @@ int printImports(int times, const QString& path)
 int printSteps(const QString& path)
 {
     const Steps steps = stepsOf(path);
-    std::printf("%.6f %.6f %.6f %.6f %lld %lld\n", steps.import, steps.save, steps.open, steps.draw,
-                static_cast<long long>(steps.importedBytes),
+    std::printf("%.6f %.6f %.6f %.6f %lld %lld %lld\n", steps.import, steps.save, steps.open,
+                steps.draw, static_cast<long long>(steps.importedBytes),
+                static_cast<long long>(steps.importPeak),
                 static_cast<long long>(bench::peakBytes()));
     return 0;
 }
