@@ -50,7 +50,7 @@ TEST_F(Batch, HasADocumentForEachPaper)
         EXPECT_EQ(batch.add(labelOf(width, 30.0, 2)), QString());
     }
     EXPECT_EQ(batch.pages(), 8);
-    EXPECT_EQ(batch.records(), 8);
+    EXPECT_EQ(batch.labels(), 8);
     EXPECT_NEAR(batch.pageSize(4).width(), 180.0, 1e-9); // 63.5 mm
     EXPECT_EQ(mediaOf(batch),
               (QStringList{u"Custom.50x30mm"_s, u"Custom.63.5x30mm"_s, u"Custom.50x30mm"_s}));

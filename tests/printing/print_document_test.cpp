@@ -89,7 +89,7 @@ TEST_F(PrintDocument, RepeatsEachLabelForItsCopies)
     EXPECT_EQ(labelAt(first, grid, 0), -1);
     EXPECT_EQ(labelAt(first, grid, 1), 0);
     EXPECT_EQ(labelAt(first, grid, 3), 0);
-    EXPECT_EQ(shown, QList<qint64>{0}); // copies do not show the record again
+    EXPECT_EQ(shown, (QList<qint64>{0, 0, 0})) << "printing can be stopped before each copy";
     const QImage second = page(layout, 2, 1);
     EXPECT_EQ(labelAt(second, grid, 2), 1);
     EXPECT_EQ(labelAt(second, grid, 3), -1);

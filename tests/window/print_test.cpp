@@ -209,6 +209,26 @@ TEST_F(PrintTest, IsStoppedWithoutADocument)
     EXPECT_FALSE(QFile::exists(path(u"1.pdf"_s)));
 }
 
+TEST_F(PrintTest, ProgressCountsEachCopy)
+{
+    for (const QString& paper : {QString(), u"L7165"_s}) {
+        PrintDialog dialog = makeDialog();
+        dialog.records().chooseRun(1, 5);
+        dialog.copies().setValue(4);
+        dialog.sheet().selectSheet(paper);
+        ASSERT_EQ(dialog.batch()->labels(), 20);
+        QList<qint64> done;
+        QList<printing::PrintDocument> written;
+        const auto count = [&done](qint64 labels) {
+            done.append(labels);
+            return true;
+        };
+        EXPECT_EQ(dialog.write(path(u"."_s), count, written).error, QString());
+        EXPECT_EQ(done.size(), 20);
+        EXPECT_EQ(done.constLast(), 19) << "the progress dialog closes at 20";
+    }
+}
+
 TEST_F(PrintTest, AClickOnTheSheetSelectsTheFirstFreePosition)
 {
     PrintDialog dialog = makeDialog();
@@ -246,6 +266,27 @@ TEST_F(PrintTest, ThePreviewShowsRealRecordsAndLeavesTheLabelAlone)
     showRecord(label, 1);
     paint(expected);
     EXPECT_EQ(shown, expected);
+}
+
+TEST_F(PrintTest, APreviewThatTakesTooLongShowsItsFirstLabels)
+{
+    PrintDialog dialog = makeDialog();
+    dialog.sheet().selectSheet(u"L7165"_s);
+    dialogs.expect([](QDialog&) {});
+    dialog.show();
+    QCoreApplication::processEvents();
+    dialog.findChild<PagePreview*>()->grab();
+    EXPECT_EQ(dialog.pageText(), u"Page 1 of 1"_s);
+    dialog.setPreviewLimit(-1);
+    dialog.copies().setValue(8);
+    dialog.findChild<PagePreview*>()->grab();
+    EXPECT_EQ(dialog.pageText(), u"Page 1 of 1 – the preview shows its first labels only"_s);
+    QList<printing::PrintDocument> written;
+    EXPECT_FALSE(dialog
+                     .write(
+                         path(u"."_s), [](qint64) { return true; }, written)
+                     .wasStopped);
+    EXPECT_EQ(written.size(), 1) << "printing has no such limit";
 }
 
 TEST_F(PrintTest, PrintingThatIsCanceledPrintsNothing)

@@ -70,13 +70,13 @@ QString PrintBatch::add(const BatchLabel& label)
     return {};
 }
 
-qint64 PrintBatch::records() const
+qint64 PrintBatch::labels() const
 {
-    qint64 records = 0;
+    qint64 labels = 0;
     for (const Document& document : m_documents) {
-        records += document.count;
+        labels += document.count * document.layout.copies;
     }
-    return records;
+    return labels;
 }
 
 qint64 PrintBatch::pages() const

@@ -37,8 +37,8 @@ public:
     /// Adds a label. Returns the user-visible reason if it cannot be printed like this.
     [[nodiscard]] QString add(const BatchLabel& label);
 
-    /// Number of records, without copies.
-    [[nodiscard]] qint64 records() const;
+    /// Number of printed labels, copies included.
+    [[nodiscard]] qint64 labels() const;
     [[nodiscard]] qint64 pages() const;
     /// Size of a page in points; the number is in range.
     [[nodiscard]] QSizeF pageSize(qint64 page) const;

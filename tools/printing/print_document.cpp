@@ -61,11 +61,8 @@ bool paintSheet(QPainter& painter, const PrintLayout& layout, const LabelSeries&
     const qint64 before = page * sheet.positions() - layout.firstPosition;
     const qint64 first = std::max<qint64>(before, 0);
     const qint64 end = std::min(before + sheet.positions(), series.count * layout.copies);
-    const workbench::Canvas* canvas = nullptr;
     for (qint64 index = first; index < end; ++index) {
-        if (canvas == nullptr || index % layout.copies == 0) {
-            canvas = series.show(index / layout.copies);
-        }
+        const workbench::Canvas* canvas = series.show(index / layout.copies);
         if (canvas == nullptr) {
             return false;
         }

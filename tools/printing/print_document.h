@@ -26,7 +26,7 @@ struct PrintLayout
 };
 
 /// Prepares the label of this number, counted from 0, and returns the canvas that shows it; null
-/// to stop.
+/// to stop. Called before each copy, so that many copies can be stopped, too.
 using ShowLabel = std::function<const workbench::Canvas*(qint64 number)>;
 
 /// Labels to print, in their order.

@@ -1,8 +1,8 @@
 #include "window/output/export_dialog.h"
 
+#include "window/output/option_editor.h"
 #include "window/output/record_chooser.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -42,42 +41,6 @@ QString filterOf(exporting::Target target)
 {
     const TargetEntry& entry = exporting::entryOf(target);
     return u"%1 (*.%2)"_s.arg(exporting::translated(entry.files), QLatin1String(entry.name));
-}
-
-// The current value of an editor that makeEditor() made.
-QJsonValue valueOf(const TargetOption& option, const QWidget& editor)
-{
-    switch (option.kind) {
-    case OptionKind::Number:
-        return dynamic_cast<const QSpinBox&>(editor).value();
-    case OptionKind::Choice:
-        return dynamic_cast<const QComboBox&>(editor).currentData().toInt();
-    case OptionKind::Name:
-        return dynamic_cast<const QComboBox&>(editor).currentData().toString();
-    case OptionKind::Switch:
-        break;
-    }
-    return dynamic_cast<const QCheckBox&>(editor).isChecked();
-}
-
-void setValue(const TargetOption& option, QWidget& editor, int value)
-{
-    switch (option.kind) {
-    case OptionKind::Number:
-        dynamic_cast<QSpinBox&>(editor).setValue(value);
-        break;
-    case OptionKind::Choice: {
-        auto& choices = dynamic_cast<QComboBox&>(editor);
-        choices.setCurrentIndex(choices.findData(value));
-        break;
-    }
-    case OptionKind::Name: // the position in the list; 0 is for no name
-        dynamic_cast<QComboBox&>(editor).setCurrentIndex(value);
-        break;
-    case OptionKind::Switch:
-        dynamic_cast<QCheckBox&>(editor).setChecked(value != 0);
-        break;
-    }
 }
 
 // Whether a target has this option. The options of targets are separate objects.
@@ -149,7 +112,7 @@ void ExportDialog::addOptionFields(QFormLayout& form)
     for (int index = 0; index < m_target->count(); ++index) {
         const auto target = static_cast<exporting::Target>(m_target->itemData(index).toInt());
         for (const TargetOption& option : exporting::entryOf(target).options) {
-            QWidget* editor = makeEditor(option);
+            QWidget* editor = makeOptionEditor(option, this);
             // A check box has its own label.
             form.addRow(option.kind == OptionKind::Switch ? QString()
                                                           : exporting::translated(option.label),
@@ -157,39 +120,6 @@ void ExportDialog::addOptionFields(QFormLayout& form)
             m_options.push_back({&option, editor});
         }
     }
-}
-
-QWidget* ExportDialog::makeEditor(const TargetOption& option)
-{
-    const QString unit = exporting::translated(option.unit);
-    QWidget* editor = nullptr;
-    if (option.kind == OptionKind::Number) {
-        auto* number = new QSpinBox(this);
-        number->setRange(option.minimum, option.maximum);
-        number->setSuffix(unit.isEmpty() ? QString() : QLatin1Char(' ') + unit);
-        editor = number;
-    } else if (option.kind == OptionKind::Choice) {
-        auto* choices = new QComboBox(this);
-        for (const int choice : option.choices) {
-            choices->addItem(u"%1 %2"_s.arg(choice).arg(unit).trimmed(), choice);
-        }
-        editor = choices;
-    } else if (option.kind == OptionKind::Name) {
-        auto* names = new QComboBox(this);
-        names->addItem(tr("None"), QString());
-        for (const QString& name : option.names()) {
-            names->addItem(name, name);
-        }
-        editor = names;
-    } else {
-        editor = new QCheckBox(exporting::translated(option.label), this);
-    }
-    const QString description = exporting::translated(option.description);
-    editor->setObjectName(QLatin1String(option.name));
-    editor->setAccessibleName(description);
-    editor->setToolTip(description);
-    setValue(option, *editor, option.initial);
-    return editor;
 }
 
 exporting::Target ExportDialog::target() const
@@ -203,7 +133,8 @@ OutputOrder ExportDialog::order() const
     exporting::OptionValues values;
     for (const OptionField& field : m_options) {
         if (hasOption(entry, *field.option)) {
-            values.insert(QLatin1String(field.option->name), valueOf(*field.option, *field.editor));
+            values.insert(QLatin1String(field.option->name),
+                          optionValue(*field.option, *field.editor));
         }
     }
     return {target(), m_fileName->text().trimmed(), values, m_records->range()};
@@ -218,7 +149,7 @@ void ExportDialog::setOption(QLatin1String name, int value)
 {
     for (const OptionField& field : m_options) {
         if (field.option == exporting::findOption(target(), name)) {
-            setValue(*field.option, *field.editor, value);
+            setOptionValue(*field.option, *field.editor, value);
         }
     }
 }

@@ -49,7 +49,6 @@ private:
 
     void buildForm();
     void addOptionFields(QFormLayout& form);
-    [[nodiscard]] QWidget* makeEditor(const exporting::TargetOption& option);
     void followTarget();
     void browse();
     void followInput();

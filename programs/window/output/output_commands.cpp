@@ -56,10 +56,10 @@ QString suggestedBase(const OpenLabel& label)
 QString resultMessage(const OutputReport& report, const OutputOrder& order)
 {
     if (report.wasStopped) {
-        return Tr::tr("Stopped after %1 files").arg(report.files);
+        return Tr::tr("Stopped after %n file(s)", nullptr, report.files);
     }
     return report.files == 1 ? Tr::tr("Written: %1").arg(fileNameInSeries(order, 0))
-                             : Tr::tr("%1 files written").arg(report.files);
+                             : Tr::tr("%n file(s) written", nullptr, report.files);
 }
 
 // A file that the user has chosen; empty if the user canceled.
@@ -154,7 +154,7 @@ QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
         showRecord(label, shownRecord);
         return {};
     }
-    ProgressWindow progress(Tr::tr("Printing"), dialog.batch()->records(), window);
+    ProgressWindow progress(Tr::tr("Printing"), dialog.batch()->labels(), window);
     const OutputReport report = printAll(dialog, label, pdfFile, server, [&progress](qint64 done) {
         return progress.isNotCanceled(done);
     });

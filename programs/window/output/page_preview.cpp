@@ -37,11 +37,12 @@ QRectF PagePreview::paperRect() const
     return fitted;
 }
 
-QImage PagePreview::renderedPage(const QSize& size) const
+void PagePreview::renderPage(const QSize& size)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
+    Q_EMIT aboutToPaint();
+    m_image = QImage(size, QImage::Format_ARGB32_Premultiplied);
+    m_image.fill(Qt::white);
+    QPainter painter(&m_image);
     painter.setRenderHint(QPainter::Antialiasing);
     const double scale = size.width() / m_batch->pageSize(m_page).width();
     painter.scale(scale, scale);
@@ -54,8 +55,9 @@ QImage PagePreview::renderedPage(const QSize& size) const
                 3.0, 3.0);
         }
     }
-    (void)m_batch->paint(painter, m_page);
-    return image;
+    const bool isComplete = m_batch->paint(painter, m_page);
+    painter.end();
+    Q_EMIT painted(isComplete);
 }
 
 void PagePreview::paintEvent(QPaintEvent* /*event*/)
@@ -68,8 +70,7 @@ void PagePreview::paintEvent(QPaintEvent* /*event*/)
     const QRectF paper = paperRect();
     const QSize pixels = (paper.size() * devicePixelRatioF()).toSize().expandedTo({1, 1});
     if (m_image.size() != pixels) {
-        m_image = renderedPage(pixels);
-        Q_EMIT painted();
+        renderPage(pixels);
     }
     painter.drawImage(paper, m_image);
     painter.setPen(palette().color(QPalette::Shadow));

@@ -26,8 +26,10 @@ public:
 Q_SIGNALS:
     /// The user clicked a position of the sheet, counted from 0.
     void positionRequested(int position);
-    /// A page was painted: the labels show other records now.
-    void painted();
+    /// A page will be painted, before its first label.
+    void aboutToPaint();
+    /// A page was painted, or its first labels: the labels show other records now.
+    void painted(bool isComplete);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -35,7 +37,7 @@ protected:
 
 private:
     [[nodiscard]] QRectF paperRect() const;
-    [[nodiscard]] QImage renderedPage(const QSize& size) const;
+    void renderPage(const QSize& size);
 
     std::shared_ptr<const printing::PrintBatch> m_batch;
     qint64 m_page = 0;

@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -21,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,34 +30,6 @@ namespace {
 
 constexpr double PointsPerMillimeter = 72.0 / 25.4;
 constexpr QLatin1String PrinterKey("print/printer");
-
-QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, QWidget* parent)
-{
-    auto* button = new QToolButton(parent);
-    button->setArrowType(arrow);
-    button->setAccessibleName(name);
-    button->setToolTip(name);
-    return button;
-}
-
-// Makes the fields of all forms begin below each other.
-void alignForms(const QWidget& dialog)
-{
-    QList<QWidget*> captions;
-    int width = 0;
-    for (const QFormLayout* form : dialog.findChildren<QFormLayout*>()) {
-        for (int row = 0; row < form->rowCount(); ++row) {
-            const QLayoutItem* caption = form->itemAt(row, QFormLayout::LabelRole);
-            if (caption != nullptr && caption->widget() != nullptr) {
-                captions.append(caption->widget());
-                width = std::max(width, caption->sizeHint().width());
-            }
-        }
-    }
-    for (QWidget* caption : captions) {
-        caption->setMinimumWidth(width);
-    }
-}
 
 } // namespace
 
@@ -87,7 +59,7 @@ PrintDialog::PrintDialog(OpenLabel& label, qint64 shownRecord, const printing::P
     auto* columns = new QHBoxLayout;
     columns->addWidget(makeForm());
     columns->addWidget(makePreview(), 1);
-    alignForms(*this);
+    alignForms();
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(columns, 1);
     layout->addWidget(buttons);
@@ -97,7 +69,9 @@ PrintDialog::PrintDialog(OpenLabel& label, qint64 shownRecord, const printing::P
     connect(m_records, &RecordChooser::rangeChanged, this, &PrintDialog::refresh);
     connect(m_copies, &QSpinBox::valueChanged, this, &PrintDialog::refresh);
     connect(m_preview, &PagePreview::positionRequested, m_sheet, &SheetEditor::setFirstPosition);
-    connect(m_preview, &PagePreview::painted, this, [this] { showRecord(m_label, m_shownRecord); });
+    m_mayShow = [this] { return m_previewTime.elapsed() <= m_previewLimit; };
+    connect(m_preview, &PagePreview::aboutToPaint, this, [this] { m_previewTime.start(); });
+    connect(m_preview, &PagePreview::painted, this, &PrintDialog::finishPreview);
     m_printer->setFocus();
     resize(900, 600);
     refresh();
@@ -122,69 +96,6 @@ void PrintDialog::fillPrinters(const printing::Printers& printers)
     }
 }
 
-QWidget* PrintDialog::makeForm()
-{
-    auto* panel = new QWidget(this);
-    auto* form = new QFormLayout;
-    form->addRow(tr("Pr&inter"), m_printer);
-    form->addRow(tr("Labels"), makeLabelList());
-    form->addRow(tr("Records"), m_records);
-    form->addRow(tr("&Copies"), m_copies);
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(form);
-    layout->addWidget(m_sheet);
-    layout->addStretch();
-    layout->addWidget(m_note);
-    return panel;
-}
-
-QWidget* PrintDialog::makeLabelList()
-{
-    auto* panel = new QWidget(this);
-    m_labels->setAccessibleName(tr("Labels to print"));
-    m_labels->setMaximumHeight(fontMetrics().height() * 4);
-    m_labels->setCurrentRow(0);
-    auto* add = new QPushButton(tr("A&dd…"), panel);
-    m_remove = new QPushButton(tr("Remo&ve"), panel);
-    add->setAccessibleDescription(tr("Adds labels of other files to the print"));
-    auto* buttons = new QVBoxLayout;
-    buttons->addWidget(add);
-    buttons->addWidget(m_remove);
-    buttons->addStretch();
-    auto* layout = new QHBoxLayout(panel);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_labels, 1, Qt::AlignTop);
-    panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    layout->addLayout(buttons);
-    connect(add, &QPushButton::clicked, this, &PrintDialog::askForLabels);
-    connect(m_remove, &QPushButton::clicked, this, &PrintDialog::removeLabel);
-    const auto follow = [this] { m_remove->setEnabled(m_labels->currentRow() > 0); };
-    connect(m_labels, &QListWidget::currentRowChanged, this, follow);
-    follow();
-    return panel;
-}
-
-QWidget* PrintDialog::makePreview()
-{
-    auto* panel = new QWidget(this);
-    m_back = makeArrow(Qt::LeftArrow, tr("Previous page"), panel);
-    m_forward = makeArrow(Qt::RightArrow, tr("Next page"), panel);
-    auto* pages = new QHBoxLayout;
-    pages->addStretch();
-    pages->addWidget(m_back);
-    pages->addWidget(m_pageText);
-    pages->addWidget(m_forward);
-    pages->addStretch();
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_preview, 1);
-    layout->addLayout(pages);
-    connect(m_back, &QToolButton::clicked, this, [this] { showPage(m_page - 1); });
-    connect(m_forward, &QToolButton::clicked, this, [this] { showPage(m_page + 1); });
-    return panel;
-}
-
 QString PrintDialog::printer() const
 {
     return m_printer->currentData().toString();
@@ -194,7 +105,7 @@ void PrintDialog::askForLabels()
 {
     addLabels(QFileDialog::getOpenFileNames(
         this, tr("Add Labels"), QFileInfo(m_label.suggestedName).path(),
-        tr("Labels (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;All files (*)")));
+        tr("Labels (%1);;All files (*)").arg(u"*.label "_s + legacyPatterns())));
 }
 
 void PrintDialog::addLabels(const QStringList& fileNames)
@@ -206,6 +117,8 @@ void PrintDialog::addLabels(const QStringList& fileNames)
         if (read.label) {
             m_labels->addItem(QFileInfo(fileName).fileName());
             m_added.push_back(std::make_unique<OpenLabel>(std::move(*read.label)));
+        } else if (read.isCanceled) {
+            break;
         } else {
             errors.append(tr("%1: %2").arg(QFileInfo(fileName).fileName(), read.error));
         }
@@ -251,7 +164,7 @@ QString PrintDialog::addAll(printing::PrintBatch& batch)
     for (OpenLabel* label : labels) {
         const RecordRange records = recordsOf(*label);
         const auto show = [this, label, records](qint64 number) -> const workbench::Canvas* {
-            if (m_mayShow && !m_mayShow()) {
+            if (!m_mayShow()) {
                 return nullptr;
             }
             showRecord(*label, records.first + number);
@@ -287,21 +200,35 @@ OutputReport PrintDialog::write(const QString& folder, const Progress& progress,
 {
     OutputReport report;
     qint64 done = 0;
-    m_mayShow = [&] {
+    const auto mayPreview = std::exchange(m_mayShow, [&] {
         report.wasStopped = report.wasStopped || !progress(done++);
         return !report.wasStopped;
-    };
+    });
     report.error = m_batch->write(folder, documents);
-    m_mayShow = {};
+    m_mayShow = mayPreview;
     if (report.wasStopped) {
         documents.clear();
     }
     return report;
 }
 
+void PrintDialog::finishPreview(bool isComplete)
+{
+    showRecord(m_label, m_shownRecord);
+    if (!isComplete) {
+        m_pageText->setText(
+            tr("%1 – the preview shows its first labels only").arg(m_pageText->text()));
+    }
+}
+
 QString PrintDialog::problem() const
 {
     return m_note->text();
+}
+
+QString PrintDialog::pageText() const
+{
+    return m_pageText->text();
 }
 
 void PrintDialog::showPage(qint64 page)

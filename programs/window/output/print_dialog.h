@@ -6,6 +6,7 @@
 #include "window/output/output_job.h"
 
 #include <QDialog>
+#include <QElapsedTimer>
 
 #include <functional>
 #include <memory>
@@ -53,6 +54,9 @@ public:
     [[nodiscard]] RecordChooser& records() { return *m_records; }
     [[nodiscard]] QSpinBox& copies() { return *m_copies; }
     [[nodiscard]] QString problem() const;
+    /// The preview stops after so many milliseconds: a sheet may have many large labels.
+    void setPreviewLimit(qint64 milliseconds) { m_previewLimit = milliseconds; }
+    [[nodiscard]] QString pageText() const;
 
     void accept() override;
 
@@ -61,10 +65,12 @@ private:
     [[nodiscard]] QWidget* makeForm();
     [[nodiscard]] QWidget* makeLabelList();
     [[nodiscard]] QWidget* makePreview();
+    void alignForms();
     void askForLabels();
     void removeLabel();
     void refresh();
     void showPage(qint64 page);
+    void finishPreview(bool isComplete);
     [[nodiscard]] QString addAll(printing::PrintBatch& batch);
     [[nodiscard]] RecordRange recordsOf(const OpenLabel& label) const;
 
@@ -73,7 +79,9 @@ private:
     std::vector<std::unique_ptr<OpenLabel>> m_added;
     std::shared_ptr<const printing::PrintBatch> m_batch;
     qint64 m_page = 0;
-    std::function<bool()> m_mayShow; ///< asked before each record; null in the preview
+    std::function<bool()> m_mayShow; ///< asked before each record is painted
+    QElapsedTimer m_previewTime;
+    qint64 m_previewLimit = 1000; ///< milliseconds
 
     QComboBox* m_printer;
     QListWidget* m_labels;
