@@ -24,11 +24,13 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
+#include <QSet>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -372,9 +374,21 @@ TEST_F(MainWindowTest, TheManualIsInTheProgramWithItsPictures)
     auto* browser = window.findChild<QTextBrowser*>();
     ASSERT_NE(browser, nullptr);
     EXPECT_TRUE(browser->toPlainText().contains(QStringLiteral("Editing properties")));
-    const QVariant picture = browser->loadResource(QTextDocument::ImageResource,
-                                                   QUrl(QStringLiteral("images/window.png")));
-    EXPECT_FALSE(picture.isNull());
+    QSet<QString> pictures;
+    const QTextDocument& page = *browser->document();
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextImageFormat format = part.fragment().charFormat().toImageFormat();
+            if (format.isValid()) {
+                pictures.insert(format.name());
+                const QVariant picture =
+                    browser->loadResource(QTextDocument::ImageResource, QUrl(format.name()));
+                EXPECT_FALSE(picture.isNull()) << qPrintable(format.name());
+                EXPECT_LE(format.width(), browser->viewport()->width());
+            }
+        }
+    }
+    EXPECT_GE(pictures.size(), 6);
     browser->window()->close();
 }
 
@@ -448,4 +462,22 @@ TEST_F(MainWindowTest, TheManualFollowsOnlyLinksThatItContains)
     EXPECT_FALSE(browser.toPlainText().isEmpty());
     browser.backward();
     EXPECT_EQ(browser.toPlainText(), text);
+}
+
+TEST_F(MainWindowTest, ALongImportCanBeCanceled)
+{
+    openMadeLabel();
+    const QString name = displayName(*window.session().label());
+    QFile program(path(QStringLiteral("endless")));
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\nexec sleep 600\n");
+    program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    program.close();
+    ImportProcess::setProgram(program.fileName());
+    ImportProcess::setDialogDelay(0);
+    dialogs.expectButton(QStringLiteral("Cancel"));
+    EXPECT_FALSE(window.openFile(copied(QStringLiteral("opendocument/shelf_label.odg"))));
+    EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("The import was canceled."));
+    EXPECT_EQ(displayName(*window.session().label()), name);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }

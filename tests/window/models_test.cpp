@@ -2,6 +2,7 @@
 
 #include "window_fixture.h"
 
+#include "translations/program_language.h"
 #include "window/actions/actions.h"
 #include "window/actions/palettes.h"
 #include "window/label/recent_files.h"
@@ -127,6 +128,18 @@ TEST(ItemDescription, ListsTheGroupsThatAnItemHasAndNoOthers)
     EXPECT_EQ(propertyOf(text, QStringLiteral("Text")), QStringLiteral("Own text"));
     EXPECT_EQ(propertyOf(text, QStringLiteral("Font size")), QStringLiteral("14 pt"));
     EXPECT_EQ(propertyOf(text, QStringLiteral("Source")), QStringLiteral("number 1"));
+}
+
+TEST(ItemDescription, FollowsTheLanguage)
+{
+    const auto names = [] {
+        const OpenLabel label = makeLabel();
+        return QStringList{describeItem(label.canvas->items().at(0)->values(), {}).at(1).name,
+                           describePage(label.canvas->page(), {}).at(0).name};
+    };
+    EXPECT_EQ(names(), (QStringList{QStringLiteral("Left"), QStringLiteral("Page width")}));
+    const translations::ProgramLanguage german({QStringLiteral("de")});
+    EXPECT_EQ(names(), (QStringList{QStringLiteral("Links"), QStringLiteral("Seitenbreite")}));
 }
 
 TEST(ItemDescription, SummariesAreOneShortLine)

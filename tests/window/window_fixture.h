@@ -25,6 +25,8 @@ protected:
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
                            m_folder.filePath(QStringLiteral("settings")));
         window::ImportProcess::setProgram(QStringLiteral(LABELPORT_PROGRAM));
+        // On a slow machine, a dialog would confuse tests that expect others.
+        window::ImportProcess::setDialogDelay(600'000);
     }
 
     [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }

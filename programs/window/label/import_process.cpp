@@ -2,10 +2,14 @@
 
 #include "migration/report/report_lines.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QProgressDialog>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +21,23 @@ QString& programOfTests()
 {
     static QString program;
     return program;
+}
+
+int& dialogDelay()
+{
+    static int milliseconds = 1000;
+    return milliseconds;
+}
+
+// A window for the dialog; null if there is none, as for a picture of the window.
+QWidget* visibleWindow()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->windowType() == Qt::Window) {
+            return widget;
+        }
+    }
+    return nullptr;
 }
 
 QString program()
@@ -56,6 +77,11 @@ void ImportProcess::setProgram(const QString& program)
     programOfTests() = program;
 }
 
+void ImportProcess::setDialogDelay(int milliseconds)
+{
+    dialogDelay() = milliseconds;
+}
+
 QString ImportProcess::reportName() const
 {
     return m_folder.filePath(u"report.json"_s);
@@ -87,9 +113,37 @@ ImportedFiles ImportProcess::run(const QStringList& files, Reading reading)
     });
     start(files, reading);
     if (!m_isEnded) {
+        QTimer::singleShot(dialogDelay(), &loop, &QEventLoop::quit);
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     }
+    if (!m_isEnded) {
+        waitInDialog(loop, files.constFirst());
+    }
     return result;
+}
+
+void ImportProcess::waitInDialog(QEventLoop& loop, const QString& fileName)
+{
+    QWidget* window = QApplication::activeModalWidget();
+    window = window != nullptr ? window : visibleWindow();
+    if (window == nullptr) {
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+        return;
+    }
+    QProgressDialog dialog(window);
+    dialog.setWindowTitle(tr("Import"));
+    dialog.setWindowModality(Qt::ApplicationModal);
+    auto* text = new QLabel(tr("Importing “%1”…").arg(QFileInfo(fileName).fileName()), &dialog);
+    text->setTextFormat(Qt::PlainText); // a file name may contain markup
+    dialog.setLabel(text);
+    dialog.setRange(0, 0);
+    connect(&dialog, &QProgressDialog::canceled, this, [this] {
+        end({.reports = {}, .error = tr("The import was canceled."), .isCanceled = true});
+    });
+    dialog.show();
+    QApplication::setOverrideCursor(Qt::ArrowCursor); // instead of the wait cursor
+    loop.exec();
+    QApplication::restoreOverrideCursor();
 }
 
 void ImportProcess::noteEnd()

@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class QEventLoop;
+
 namespace window {
 
 /// The result of an import of files.
@@ -18,6 +20,7 @@ struct ImportedFiles
     QList<migration::FileReport> reports;
     /// Why there are no reports, for the user; else empty.
     QString error;
+    bool isCanceled = false; ///< by the user
 };
 
 /// How documents are imported that can be repaired.
@@ -39,17 +42,21 @@ public:
     /// Starts an import; ended() comes later. The object imports once.
     /// @param files absolute paths; their names without suffix must differ
     void start(const QStringList& files, Reading reading = Reading::Repaired);
-    /// As start(), and waits for the end. The window is painted meanwhile, but takes no input.
+    /// As start(), and waits for the end. The window is painted meanwhile, but takes no input. A
+    /// long import shows a dialog with a button to cancel it.
     [[nodiscard]] ImportedFiles run(const QStringList& files, Reading reading);
 
     /// For tests, whose program is in another folder.
     static void setProgram(const QString& program);
+    /// Milliseconds before run() shows its dialog. For tests, because machines differ.
+    static void setDialogDelay(int milliseconds);
 
 Q_SIGNALS:
     void ended(const window::ImportedFiles& files);
 
 private:
     void noteEnd();
+    void waitInDialog(QEventLoop& loop, const QString& fileName);
     void end(const ImportedFiles& files);
     [[nodiscard]] QString reportName() const;
     [[nodiscard]] ImportedFiles readReports();

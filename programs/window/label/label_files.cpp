@@ -57,7 +57,7 @@ ReadLabel readLegacyLabel(const QString& fileName, Reading reading)
     ImportProcess import; // the imported label is in its folder
     ImportedFiles imported = import.run({file}, reading);
     if (imported.reports.isEmpty()) {
-        return {std::nullopt, imported.error};
+        return {std::nullopt, imported.error, imported.isCanceled};
     }
     migration::FileReport& report = imported.reports.first();
     if (report.status != migration::Status::Imported || report.outputs.isEmpty()) {

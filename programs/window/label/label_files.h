@@ -12,6 +12,7 @@ struct ReadLabel
 {
     std::optional<OpenLabel> label;
     QString error;
+    bool isCanceled = false; ///< by the user, who needs no message box
 };
 
 /// Opens a saved label. It shows its first record.

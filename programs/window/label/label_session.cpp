@@ -1,7 +1,5 @@
 #include "window/label/label_session.h"
 
-#include "window/label/label_files.h"
-
 #include <QCursor>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -69,11 +67,12 @@ bool LabelSession::openFile(const QString& fileName)
     if (!confirmDiscard()) {
         return false;
     }
-    const QString error = openFileQuietly(fileName);
-    if (!error.isEmpty()) {
-        showFileError(fileName, error);
+    ReadLabel read = readAnyLabel(fileName);
+    if (!read.label) {
+        showFailure(fileName, read);
         return false;
     }
+    takeFile(fileName, std::move(*read.label));
     return true;
 }
 
@@ -83,9 +82,7 @@ QString LabelSession::openFileQuietly(const QString& fileName)
     if (!read.label) {
         return read.error;
     }
-    setLabel(std::move(*read.label));
-    m_recentFiles.add(fileName);
-    Q_EMIT recentFilesChanged();
+    takeFile(fileName, std::move(*read.label));
     return {};
 }
 
@@ -112,7 +109,7 @@ bool LabelSession::readAgain(Reading reading)
     const QString fileName = m_label->importedFile;
     ReadLabel read = readWaiting(fileName, reading);
     if (!read.label) {
-        showFileError(fileName, read.error);
+        showFailure(fileName, read);
         return false;
     }
     setLabel(std::move(*read.label));
@@ -205,13 +202,25 @@ void LabelSession::clear()
     m_label.reset();
 }
 
-void LabelSession::showFileError(const QString& fileName, const QString& why)
+void LabelSession::takeFile(const QString& fileName, OpenLabel label)
 {
+    setLabel(std::move(label));
+    m_recentFiles.add(fileName);
+    Q_EMIT recentFilesChanged();
+}
+
+void LabelSession::showFailure(const QString& fileName, const ReadLabel& read)
+{
+    if (read.isCanceled) {
+        Q_EMIT noticeShown(read.error);
+        return;
+    }
     if (!QFileInfo::exists(fileName)) {
         m_recentFiles.remove(fileName);
         Q_EMIT recentFilesChanged();
     }
-    m_prompts.showError(tr("“%1” could not be opened.").arg(QFileInfo(fileName).fileName()), why);
+    m_prompts.showError(tr("“%1” could not be opened.").arg(QFileInfo(fileName).fileName()),
+                        read.error);
 }
 
 } // namespace window

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/label/import_process.h"
+#include "window/label/label_files.h"
 #include "window/label/move_items.h"
 #include "window/label/open_label.h"
 #include "window/label/prompts.h"
@@ -64,14 +64,15 @@ Q_SIGNALS:
     void nameChanged();
     void recentFilesChanged();
     void saved(const QString& fileName);
-    /// A success message for the status bar.
+    /// A message for the status bar.
     void noticeShown(const QString& text);
 
 private:
     void setLabel(OpenLabel label);
     void clear();
     bool saveTo(const QString& fileName);
-    void showFileError(const QString& fileName, const QString& why);
+    void takeFile(const QString& fileName, OpenLabel label);
+    void showFailure(const QString& fileName, const ReadLabel& read);
 
     Prompts m_prompts;
     RecentFiles m_recentFiles;

@@ -1,5 +1,7 @@
 #include "window/label/open_label.h"
 
+#include "importer/reader_choice.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -10,6 +12,19 @@ namespace window {
 QString labelSuffix()
 {
     return u".label"_s;
+}
+
+QString legacyPatterns()
+{
+    QStringList patterns;
+    for (const Reader& reader : Readers) {
+        for (const QLatin1String suffix : reader.suffixes) {
+            if (!suffix.isEmpty()) {
+                patterns.append(u"*."_s + suffix);
+            }
+        }
+    }
+    return patterns.join(u' ');
 }
 
 bool isSavedLabel(const QString& fileName)

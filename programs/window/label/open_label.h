@@ -35,6 +35,9 @@ struct OpenLabel
 /// The suffix of saved labels, with its dot.
 [[nodiscard]] QString labelSuffix();
 
+/// The name patterns of legacy labels for file dialogs: "*.cnv *.roc …".
+[[nodiscard]] QString legacyPatterns();
+
 /// Whether the file name is that of a saved label; all other files are imported.
 [[nodiscard]] bool isSavedLabel(const QString& fileName);
 

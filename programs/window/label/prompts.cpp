@@ -39,9 +39,9 @@ QString startFolder(const QString& besides)
 QString openFilters()
 {
     return QStringList{
-        Tr::tr("All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)"),
+        Tr::tr("All labels (%1)").arg(u"*.label "_s + legacyPatterns()),
         Tr::tr("Saved labels (*.label)"),
-        Tr::tr("Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)"),
+        Tr::tr("Legacy labels (%1)").arg(legacyPatterns()),
         Tr::tr("All files (*)"),
     }
         .join(u";;"_s);

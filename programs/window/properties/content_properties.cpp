@@ -173,42 +173,38 @@ void addShapeProperties(PropertyTable& table)
         .choices = endMarkerChoices();
 }
 
-const QList<Property<PageValues>>& pageProperties()
+QList<Property<PageValues>> pageProperties()
 {
-    static const QList<Property<PageValues>> all = [] {
-        QList<Property<PageValues>> properties{
-            pageProperty(
-                PropertyWords::tr("Page width"), PropertyKind::Length,
-                [](const PageValues& page) { return page.size.width(); },
-                [](PageValues& page, const QVariant& x) { page.size.setWidth(x.toDouble()); }),
-            pageProperty(
-                PropertyWords::tr("Page height"), PropertyKind::Length,
-                [](const PageValues& page) { return page.size.height(); },
-                [](PageValues& page, const QVariant& y) { page.size.setHeight(y.toDouble()); }),
-            pageProperty(
-                PropertyWords::tr("Orientation"), PropertyKind::Choice,
-                [](const PageValues& page) {
-                    return int(page.size.width() > page.size.height() ? Qt::Horizontal
-                                                                      : Qt::Vertical);
-                },
-                [](PageValues& page, const QVariant& direction) {
-                    const bool isWide = page.size.width() > page.size.height();
-                    if (isWide != (direction.toInt() == Qt::Horizontal)) {
-                        page.size.transpose();
-                    }
-                }),
-            pageProperty(
-                PropertyWords::tr("Page color"), PropertyKind::Color,
-                [](const PageValues& page) { return page.background; },
-                [](PageValues& page, const QVariant& color) {
-                    page.background = color.value<QColor>();
-                }),
-        };
-        properties[2].choices = {{Qt::Vertical, PropertyWords::tr("portrait")},
-                                 {Qt::Horizontal, PropertyWords::tr("landscape")}};
-        return properties;
-    }();
-    return all;
+    QList<Property<PageValues>> properties{
+        pageProperty(
+            PropertyWords::tr("Page width"), PropertyKind::Length,
+            [](const PageValues& page) { return page.size.width(); },
+            [](PageValues& page, const QVariant& x) { page.size.setWidth(x.toDouble()); }),
+        pageProperty(
+            PropertyWords::tr("Page height"), PropertyKind::Length,
+            [](const PageValues& page) { return page.size.height(); },
+            [](PageValues& page, const QVariant& y) { page.size.setHeight(y.toDouble()); }),
+        pageProperty(
+            PropertyWords::tr("Orientation"), PropertyKind::Choice,
+            [](const PageValues& page) {
+                return int(page.size.width() > page.size.height() ? Qt::Horizontal : Qt::Vertical);
+            },
+            [](PageValues& page, const QVariant& direction) {
+                const bool isWide = page.size.width() > page.size.height();
+                if (isWide != (direction.toInt() == Qt::Horizontal)) {
+                    page.size.transpose();
+                }
+            }),
+        pageProperty(
+            PropertyWords::tr("Page color"), PropertyKind::Color,
+            [](const PageValues& page) { return page.background; },
+            [](PageValues& page, const QVariant& color) {
+                page.background = color.value<QColor>();
+            }),
+    };
+    properties[2].choices = {{Qt::Vertical, PropertyWords::tr("portrait")},
+                             {Qt::Horizontal, PropertyWords::tr("landscape")}};
+    return properties;
 }
 
 } // namespace window

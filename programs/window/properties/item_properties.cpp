@@ -218,20 +218,17 @@ void addDatasource(PropertyTable& table)
 
 } // namespace
 
-const QList<Property<ItemValues>>& itemProperties()
+QList<Property<ItemValues>> itemProperties()
 {
-    static const QList<Property<ItemValues>> all = [] {
-        PropertyTable table;
-        addPlace(table);
-        addText(table);
-        addFont(table);
-        addBarcodeProperties(table);
-        addPictureProperties(table);
-        addDatasource(table);
-        addShapeProperties(table);
-        return table.properties();
-    }();
-    return all;
+    PropertyTable table;
+    addPlace(table);
+    addText(table);
+    addFont(table);
+    addBarcodeProperties(table);
+    addPictureProperties(table);
+    addDatasource(table);
+    addShapeProperties(table);
+    return table.properties();
 }
 
 } // namespace window

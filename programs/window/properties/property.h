@@ -50,13 +50,13 @@ struct Property
     bool isLock = false;
 };
 
-/// All properties of items, groups in a fixed order.
-[[nodiscard]] const QList<Property<workbench::ItemValues>>& itemProperties();
+/// All properties of items, groups in a fixed order, in the present language.
+[[nodiscard]] QList<Property<workbench::ItemValues>> itemProperties();
 
 /// Why the content of a barcode cannot be encoded, for the user; empty if it can.
 [[nodiscard]] QString barcodeObjection(const workbench::BarcodeValues& barcode);
 
-/// The properties of the page.
-[[nodiscard]] const QList<Property<workbench::PageValues>>& pageProperties();
+/// The properties of the page, in the present language.
+[[nodiscard]] QList<Property<workbench::PageValues>> pageProperties();
 
 } // namespace window

@@ -83,7 +83,7 @@ void PropertyPanel::edit(int property, const QVariant& value)
         Q_EMIT pageEdited(page);
         return;
     }
-    const Property<workbench::ItemValues>& changed = itemProperties().at(property);
+    const Property<workbench::ItemValues> changed = itemProperties().at(property);
     QList<ItemChange> changes;
     for (workbench::CanvasItem* item : std::as_const(m_items)) {
         const workbench::ItemValues before = item->values();
