@@ -96,64 +96,6 @@ QGraphicsScene* MainWindow::scene()
     return view().scene();
 }
 
-void MainWindow::connectSession()
-{
-    connect(m_session.get(), &LabelSession::aboutToReplaceLabel, this, &MainWindow::releaseLabel);
-    connect(m_session.get(), &LabelSession::labelReplaced, this, &MainWindow::showLabel);
-    connect(m_session.get(), &LabelSession::nameChanged, this, &MainWindow::refreshTitle);
-    connect(m_session.get(), &LabelSession::noticeShown, this,
-            [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
-    connect(&m_session->undoStack(), &QUndoStack::indexChanged, this, &MainWindow::refreshItems);
-}
-
-void MainWindow::connectCanvas()
-{
-    CanvasView& canvas = view();
-    connect(&canvas, &CanvasView::zoomChanged, this,
-            [this](double zoom) { m_status->setZoom(zoom); });
-    m_status->onZoomChosen([&canvas](double zoom) {
-        if (zoom > 0.0) {
-            canvas.setZoom(zoom);
-        } else {
-            canvas.fitPage();
-        }
-        canvas.setFocus();
-    });
-    connect(&canvas, &CanvasView::pointerMoved, this,
-            [this](const QPointF& point) { m_status->setPointer(point, m_unit); });
-    connect(&canvas, &CanvasView::pointerLeft, this,
-            [this] { m_status->setPointer(std::nullopt, m_unit); });
-    connect(&canvas, &CanvasView::hintShown, this,
-            [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
-    connect(&canvas, &CanvasView::itemsMoved, m_session.get(), &LabelSession::moveItems);
-    connect(&canvas, &CanvasView::itemsChanged, this,
-            [this](const QString& step, const QList<ItemChange>& changes) {
-                m_session->undoStack().push(new ChangeItems(step, changes));
-            });
-    connect(&canvas, &CanvasView::menuRequested, this, &MainWindow::showContextMenu);
-    connect(&canvas, &CanvasView::propertiesRequested, this,
-            [this] { m_panels->goToProperties(); });
-    connect(m_canvas, &RuledCanvas::unitChangeRequested, this, [this] {
-        setUnit(m_unit == LengthUnit::Inch ? LengthUnit::Millimeter : LengthUnit::Inch);
-    });
-}
-
-void MainWindow::connectPanels()
-{
-    connect(&m_panels->items(), &ItemPanel::selectionChanged, this, &MainWindow::refreshSelection);
-    connect(&m_panels->items(), &ItemPanel::itemRequested, this, &MainWindow::showItem);
-    connect(&m_panels->properties(), &PropertyPanel::itemsEdited, this,
-            [this](const QString& step, const QList<ItemChange>& changes) {
-                m_session->undoStack().push(new ChangeItems(step, changes));
-            });
-    connect(&m_panels->properties(), &PropertyPanel::pageEdited, this,
-            [this](const workbench::PageValues& page) {
-                m_session->undoStack().push(new ChangePage(*m_session->label()->canvas, page));
-            });
-    connect(&m_panels->sources(), &SourcePanel::recordRequested, this,
-            &MainWindow::showRecordNumber);
-}
-
 // Removes all references to items of the label.
 void MainWindow::releaseLabel()
 {
@@ -308,8 +250,8 @@ void MainWindow::showAbout()
     box.setWindowTitle(tr("About"));
     box.setIconPixmap(applicationIcon().pixmap(64));
     box.setText(tr("LabelPort Workbench %1").arg(QCoreApplication::applicationVersion()));
-    box.setInformativeText(tr("Opens legacy label templates, shows them, keeps them and hands "
-                              "them on."));
+    box.setInformativeText(tr("Opens legacy label templates; corrects, saves, exports and "
+                              "prints them."));
     box.exec();
 }
 

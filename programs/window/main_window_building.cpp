@@ -1,10 +1,8 @@
-// The construction of the main window: its parts, its menus, the handlers of its commands.
+// The construction of the main window: its parts and its menus; its events.
 
 #include "window/canvas/canvas_view.h"
 #include "window/canvas/ruled_canvas.h"
-#include "window/edit_actions.h"
 #include "window/main_window.h"
-#include "window/manual_dialog.h"
 #include "window/welcome_page.h"
 
 #include <QCloseEvent>
@@ -124,87 +122,6 @@ void MainWindow::fillRecentMenu()
         RecentFiles().clear();
         fillRecentMenu();
     });
-}
-
-void MainWindow::connectFileActions()
-{
-    LabelSession* session = m_session.get();
-    connect(&action(ActionId::Open), &QAction::triggered, session, &LabelSession::openByDialog);
-    connect(&action(ActionId::OpenAsWritten), &QAction::triggered, this,
-            [this, session](bool isWanted) {
-                session->readAgain(isWanted ? Reading::AsWritten : Reading::Repaired);
-                refreshActions(); // the mark of the menu, if the user canceled
-            });
-    connect(&action(ActionId::Save), &QAction::triggered, session, &LabelSession::save);
-    connect(&action(ActionId::SaveAs), &QAction::triggered, session, &LabelSession::saveAs);
-    connect(&action(ActionId::Close), &QAction::triggered, session, &LabelSession::close);
-    connect(&action(ActionId::Export), &QAction::triggered, this, &MainWindow::exportByDialog);
-    connect(&action(ActionId::Print), &QAction::triggered, this, &MainWindow::printByDialog);
-    connect(&action(ActionId::Quit), &QAction::triggered, this, &MainWindow::close);
-    // Queued: the list must not change while the triggered action still runs.
-    connect(session, &LabelSession::recentFilesChanged, this, &MainWindow::fillRecentMenu,
-            Qt::QueuedConnection);
-}
-
-void MainWindow::connectEditActions()
-{
-    QUndoStack* stack = &m_session->undoStack();
-    connect(&action(ActionId::Undo), &QAction::triggered, stack, &QUndoStack::undo);
-    connect(&action(ActionId::Redo), &QAction::triggered, stack, &QUndoStack::redo);
-    m_editActions = new EditActions(*m_actions, *m_session, view(), this);
-    connect(m_editActions, &EditActions::hintShown, this,
-            [this](const QString& text) { statusBar()->showMessage(text, 10'000); });
-    connect(&action(ActionId::SelectAll), &QAction::triggered, this, &MainWindow::selectAll);
-    connect(&action(ActionId::SelectNone), &QAction::triggered, this,
-            [this] { scene()->clearSelection(); });
-    connect(&action(ActionId::Manual), &QAction::triggered, this, [this] {
-        auto* manual = new ManualDialog(this);
-        manual->setAttribute(Qt::WA_DeleteOnClose);
-        manual->show();
-    });
-    connect(&action(ActionId::Shortcuts), &QAction::triggered, this, &MainWindow::showShortcuts);
-    connect(&action(ActionId::About), &QAction::triggered, this, &MainWindow::showAbout);
-}
-
-void MainWindow::connectViewActions()
-{
-    CanvasView* canvas = &view();
-    connect(&action(ActionId::ZoomIn), &QAction::triggered, canvas, &CanvasView::zoomIn);
-    connect(&action(ActionId::ZoomOut), &QAction::triggered, canvas, &CanvasView::zoomOut);
-    connect(&action(ActionId::ZoomFit), &QAction::triggered, canvas, &CanvasView::fitPage);
-    connect(&action(ActionId::ZoomTrue), &QAction::triggered, canvas,
-            [canvas] { canvas->setZoom(1.0); });
-    connect(&action(ActionId::ZoomSelection), &QAction::triggered, canvas,
-            [canvas] { canvas->fitItems(canvas->scene()->selectedItems()); });
-    connect(&action(ActionId::Rulers), &QAction::toggled, m_canvas, &RuledCanvas::setRulersVisible);
-    connect(&action(ActionId::Millimeters), &QAction::triggered, this,
-            [this] { setUnit(LengthUnit::Millimeter); });
-    connect(&action(ActionId::Inches), &QAction::triggered, this,
-            [this] { setUnit(LengthUnit::Inch); });
-    connect(&action(ActionId::SystemColors), &QAction::triggered, this,
-            [this] { setColors(ColorScheme::System); });
-    connect(&action(ActionId::LightColors), &QAction::triggered, this,
-            [this] { setColors(ColorScheme::Light); });
-    connect(&action(ActionId::DarkColors), &QAction::triggered, this,
-            [this] { setColors(ColorScheme::Dark); });
-}
-
-void MainWindow::connectPanelActions()
-{
-    connect(&action(ActionId::GoCanvas), &QAction::triggered, this,
-            [this] { view().setFocus(Qt::ShortcutFocusReason); });
-    connect(&action(ActionId::GoLabels), &QAction::triggered, this,
-            [this] { m_panels->goToLabels(); });
-    connect(&action(ActionId::GoItems), &QAction::triggered, this,
-            [this] { m_panels->goToItems(); });
-    connect(&action(ActionId::GoProperties), &QAction::triggered, this,
-            [this] { m_panels->goToProperties(); });
-    connect(&action(ActionId::GoSources), &QAction::triggered, this,
-            [this] { m_panels->goToSources(); });
-    connect(&action(ActionId::GoIssues), &QAction::triggered, this,
-            [this] { m_panels->goToIssues(); });
-    connect(&action(ActionId::GoRecord), &QAction::triggered, this,
-            [this] { m_panels->goToRecord(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

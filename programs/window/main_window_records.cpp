@@ -79,7 +79,6 @@ void MainWindow::showRecordNumber(qint64 record)
     m_panels->sources().show(label->sources.get(), m_record);
     m_status->setRecord(m_record, recordCount());
     refreshItems();
-    refreshIssues();
     refreshActions();
 }
 

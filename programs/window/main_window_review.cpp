@@ -42,8 +42,6 @@ void MainWindow::connectReview()
     connect(m_session.get(), &LabelSession::labelReplaced, this, &MainWindow::refreshComparison);
     connect(&m_session->undoStack(), &QUndoStack::indexChanged, this,
             &MainWindow::refreshComparison);
-    // A correction may solve an issue.
-    connect(&m_session->undoStack(), &QUndoStack::indexChanged, this, &MainWindow::refreshIssues);
 }
 
 bool MainWindow::openFolder(const QString& folder)
@@ -115,6 +113,11 @@ void MainWindow::showIssue(const Issue& issue)
 void MainWindow::correct(Correction correction, const Issue& issue)
 {
     OpenLabel& label = *m_session->label();
+    // A label that lost its database may have no data source left.
+    if (correction == Correction::Bind && label.sources->ids().isEmpty()) {
+        action(ActionId::ConnectCsv).trigger();
+        return;
+    }
     if (applyCorrection(correction, issue, label, m_session->undoStack(), this)) {
         // An item that was bound shows its record.
         showRecordNumber(m_record);

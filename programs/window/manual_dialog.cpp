@@ -52,7 +52,10 @@ void ManualDialog::fitPictures()
             QTextImageFormat picture = part.fragment().charFormat().toImageFormat();
             if (picture.isValid()) {
                 const QImage image(u":/labelport/manual/"_s + picture.name());
-                const QSizeF size = QSizeF(image.size()).scaled(PictureSize, Qt::KeepAspectRatio);
+                QSizeF size = image.size();
+                if (size.boundedTo(PictureSize) != size) {
+                    size.scale(PictureSize, Qt::KeepAspectRatio);
+                }
                 picture.setWidth(size.width());
                 picture.setHeight(size.height());
                 QTextCursor cursor(block);

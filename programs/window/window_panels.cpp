@@ -76,7 +76,7 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
     window.tabifyDockWidget(m_sourceDock, m_issueDock);
     m_sourceDock->raise();
     window.resizeDocks({m_itemDock, m_propertyDock}, {480, 480}, Qt::Horizontal);
-    window.resizeDocks({m_sourceDock, m_issueDock}, {150, 150}, Qt::Vertical);
+    window.resizeDocks({m_sourceDock, m_issueDock}, {190, 190}, Qt::Vertical);
 }
 
 void WindowPanels::goToItems()

@@ -16,6 +16,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGraphicsItem>
 #include <QInputDialog>
 #include <QPushButton>
@@ -172,7 +173,11 @@ TEST_F(CorrectionsTest, EnlargedMillimetersShrinkWithoutTheirFonts)
 TEST_F(CorrectionsTest, BindsToADataSource)
 {
     const int source = label.sources->values().constFirst().id;
-    dialogs.expect([](QDialog& dialog) { dialog.accept(); });
+    dialogs.expect([](QDialog& dialog) {
+        EXPECT_TRUE(dialog.findChild<QComboBox*>()->currentText().endsWith(
+            QStringLiteral(": Counter (1 to 5, step 1)")));
+        dialog.accept();
+    });
     workbench::ItemValues text = valuesOf(1);
     text.datasource->id = -1;
     label.canvas->items().at(1)->setValues(text);
@@ -190,6 +195,38 @@ TEST_F(CorrectionsTest, CanceledChangesNothing)
                                      &window));
     }
     EXPECT_EQ(stack.count(), 0);
+}
+
+TEST_F(CorrectionsTest, ProposeTheFontThatIsShownInsteadOfAMissingOne)
+{
+    dialogs.expect([](QDialog& dialog) { dialog.accept(); });
+    EXPECT_TRUE(applyCorrection(Correction::ReplaceFont, issueOf(LossKind::FontReplaced, {3}),
+                                label, stack, &window));
+    EXPECT_EQ(familyOf(valuesOf(3)), QFontInfo(QFont(QStringLiteral("No Such Font"))).family());
+}
+
+TEST_F(CorrectionsTest, ALabelWithoutDataSourcesIsBoundToACsvFile)
+{
+    MainWindow mainWindow;
+    ASSERT_TRUE(mainWindow.openFile(copied(QStringLiteral("tavrel/member_card_2000024.cnv"))));
+    ASSERT_TRUE(mainWindow.session().label()->sources->ids().isEmpty());
+    mainWindow.show();
+    mainWindow.action(ActionId::GoIssues).trigger();
+    QFile file(path(QStringLiteral("members.csv")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("Name,Number\nRobin Marsh,Member 0117\nKim Reed,Member 0118\n");
+    file.close();
+    dialogs.expectFile(file.fileName());
+    dialogs.expectButton(QStringLiteral("Connect"));
+    mainWindow.panels().issues().button(Correction::Bind).click();
+    EXPECT_EQ(mainWindow.session().label()->sources->recordCount(), 2);
+    mainWindow.action(ActionId::NextRecord).trigger();
+    EXPECT_EQ(mainWindow.session().label()->canvas->items().at(3)->values().text->text,
+              QStringLiteral("Robin Marsh"))
+        << "the record does not change the item";
+    mainWindow.session().undoStack().undo();
+    EXPECT_EQ(mainWindow.session().label()->sources->recordCount(), 1);
+    mainWindow.session().undoStack().setClean();
 }
 
 TEST(Papers, AreReadFromTexts)

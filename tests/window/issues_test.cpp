@@ -145,12 +145,11 @@ TEST_F(IssuesTest, WithoutALabelThePanelSaysSo)
 
 TEST_F(IssuesTest, LongTextsAreWrapped)
 {
-    const auto rowHeight = [](const QString& advice) {
+    const auto rowHeight = [](const QString& advice,
+                              const QString& text = QStringLiteral("A short text")) {
         IssuesPanel panel;
         panel.resize(600, 300);
-        panel.setIssues({{.group = IssueGroup::Warning,
-                          .text = QStringLiteral("A short text"),
-                          .advice = advice}});
+        panel.setIssues({{.group = IssueGroup::Warning, .text = text, .advice = advice}});
         panel.show();
         QApplication::processEvents();
         const QModelIndex group = panel.tree().model()->index(0, 0);
@@ -159,6 +158,8 @@ TEST_F(IssuesTest, LongTextsAreWrapped)
     const QString advice = QStringLiteral("Correct the content or the type in the properties. ");
     const int line = rowHeight(QStringLiteral("Short advice"));
     EXPECT_GE(rowHeight(advice.repeated(4)), 3 * line);
+    EXPECT_GT(rowHeight(QStringLiteral("Short advice"), advice), line);
+    EXPECT_EQ(rowHeight({}, advice), line) << "a text alone has the full width";
 }
 
 TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace window;
@@ -162,6 +163,23 @@ TEST_F(LabelListTest, ThumbnailsAreShownCompletelyAndInOneSize)
     EXPECT_EQ(shown.pixelColor(shown.width() / 2, 4).alpha(), 0);
     EXPECT_EQ(model.index(1).data(Qt::DecorationRole).value<QPixmap>().size(),
               LabelListModel::ThumbnailSize);
+}
+
+TEST_F(LabelListTest, LongNamesAreShortenedInsteadOfScrolled)
+{
+    for (int number = 0; number < 9; ++number) {
+        saveMadeLabel(
+            path(QStringLiteral("labels/a_label_with_quite_a_long_name_%1.label").arg(number)));
+    }
+    LabelListPanel panel;
+    panel.resize(260, 300);
+    panel.openFolder(folder());
+    panel.show();
+    QApplication::processEvents();
+    EXPECT_GT(panel.list().verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(panel.list().horizontalScrollBar()->maximum(), 0);
+    const QModelIndex first = panel.list().model()->index(0, 0);
+    EXPECT_EQ(panel.list().visualRect(first).width(), panel.list().viewport()->width());
 }
 
 TEST_F(LabelListTest, LabelsOfTheSameNameAreAllImported)

@@ -17,6 +17,7 @@
 #include <QDoubleSpinBox>
 #include <QGraphicsItem>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
 #include <QTextEdit>
@@ -288,6 +289,16 @@ TEST_F(PropertiesTest, EscapeDropsTheTypedText)
     QApplication::processEvents();
     EXPECT_EQ(item(1).values().text->text, u"Own text"_s);
     EXPECT_FALSE(window.isWindowModified());
+}
+
+TEST_F(PropertiesTest, EditingATextThatShowsADataSourceSaysSo)
+{
+    QSignalSpy hints(&window.view(), &CanvasView::hintShown);
+    ASSERT_TRUE(window.view().editText(item(1)));
+    ASSERT_EQ(hints.size(), 1);
+    EXPECT_TRUE(hints.at(0).at(0).toString().contains(u"data source"_s));
+    ASSERT_TRUE(window.view().editText(item(3)));
+    EXPECT_EQ(hints.size(), 1);
 }
 
 TEST_F(PropertiesTest, AClickBesideTheTextKeepsWhatWasTyped)

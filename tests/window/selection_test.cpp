@@ -144,6 +144,19 @@ TEST_F(SelectionTest, CtrlKeepsADragToOneAxis)
     EXPECT_EQ(positionOf(2).y(), 30.0);
 }
 
+TEST_F(SelectionTest, CtrlKeepsADragToOneAxisNearASnapLine)
+{
+    const double pixel = 1.0 / view.pixelsPerPoint();
+    workbench::CanvasItem& item = *canvas.items().at(2);
+    workbench::ItemValues values = item.values();
+    values.placement.position.ry() += 3.0 * pixel; // the edge of box 0 is three pixels above
+    item.setValues(values);
+    drag({130.0, 50.0}, {150.0, 50.0}, Qt::ControlModifier);
+    EXPECT_EQ(positionOf(2).y(), 30.0 + 3.0 * pixel);
+    drag({150.0, 50.0}, {130.0, 50.0});
+    EXPECT_NEAR(positionOf(2).y(), 30.0, 1e-9) << "without Ctrl it snaps";
+}
+
 TEST_F(SelectionTest, EscapeEndsADragAndPutsTheItemBack)
 {
     QSignalSpy moved(&view, &CanvasView::itemsMoved);

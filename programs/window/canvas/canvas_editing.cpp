@@ -29,6 +29,10 @@ bool CanvasView::editText(workbench::CanvasItem& item)
     // Queued: the editor is still handling the key.
     connect(m_editor, &TextEditor::finished, this, &CanvasView::endEditing, Qt::QueuedConnection);
     ensureVisible(m_editor);
+    if (values.datasource && values.datasource->id >= 0) {
+        Q_EMIT hintShown(
+            tr("The item shows a data source; its own text is shown only without one."));
+    }
     return true;
 }
 

@@ -10,7 +10,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <cmath>
 
 namespace window {
 
@@ -23,11 +22,6 @@ constexpr int DragDistance = 4;
 bool changesSelection(const QMouseEvent& event)
 {
     return (event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
-}
-
-QPointF alongOneAxis(const QPointF& way)
-{
-    return std::abs(way.x()) >= std::abs(way.y()) ? QPointF(way.x(), 0.0) : QPointF(0.0, way.y());
 }
 
 bool isSelected(const workbench::CanvasItem* item)
@@ -133,44 +127,6 @@ void SelectionTool::move(const QMouseEvent& event)
     }
 }
 
-void SelectionTool::beginDrag(const QPoint& at, bool extends)
-{
-    m_moves.clear();
-    bool isOnSelection = std::any_of(m_hits.begin(), m_hits.end(), isSelected);
-    if (!isOnSelection && !m_hits.isEmpty() && !extends) {
-        selectOnly(m_hits.constFirst());
-        isOnSelection = true;
-    }
-    if (isOnSelection) {
-        const QList<QGraphicsItem*> selected = m_canvas->scene()->selectedItems();
-        for (QGraphicsItem* item : selected) {
-            if (isMovable(*item)) {
-                m_moves.append({item, item->pos(), item->pos()});
-            }
-        }
-        if (m_moves.isEmpty()) {
-            explain();
-        }
-    }
-    m_drag = m_moves.isEmpty() ? Drag::Selecting : Drag::Moving;
-    prepareMove();
-    m_band = QRect(m_pressedAt, at).normalized();
-}
-
-void SelectionTool::moveItems(const QMouseEvent& event)
-{
-    QPointF way = m_view.mapToScene(event.position().toPoint()) - m_view.mapToScene(m_pressedAt);
-    if (event.modifiers().testFlag(Qt::ControlModifier)) {
-        way = alongOneAxis(way);
-    }
-    const QRectF box = m_movedBox.translated(way);
-    way += snapped(m_lines.snapBox(box, snapDistance(event)));
-    for (ItemMove& move : m_moves) {
-        move.item->setPos(move.from + way);
-        move.to = move.item->pos();
-    }
-}
-
 void SelectionTool::release(const QMouseEvent& event)
 {
     const Drag drag = std::exchange(m_drag, Drag::None);
@@ -266,22 +222,6 @@ bool SelectionTool::cancel()
     m_moves.clear();
     m_view.viewport()->update();
     return drag != Drag::None && drag != Drag::Pressed;
-}
-
-// Prepares snapping.
-void SelectionTool::prepareMove()
-{
-    m_movedBox = QRectF();
-    QSet<const workbench::CanvasItem*> dragged;
-    for (const ItemMove& move : std::as_const(m_moves)) {
-        if (const auto* item = dynamic_cast<const workbench::CanvasItem*>(move.item)) {
-            dragged.insert(item);
-            m_movedBox |= boundsOf(item->values());
-        }
-    }
-    if (m_drag == Drag::Moving) {
-        m_lines = SnapLines(*m_canvas, dragged);
-    }
 }
 
 void SelectionTool::selectAt(const QPoint& at)

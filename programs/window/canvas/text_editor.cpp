@@ -129,6 +129,10 @@ bool TextEditor::isTextKey(const QKeyEvent& event)
                                                   QKeySequence::DeleteEndOfWord,
                                                   QKeySequence::DeleteStartOfWord,
                                                   QKeySequence::MoveToNextWord,
+                                                  QKeySequence::MoveToStartOfDocument,
+                                                  QKeySequence::MoveToEndOfDocument,
+                                                  QKeySequence::SelectStartOfDocument,
+                                                  QKeySequence::SelectEndOfDocument,
                                                   QKeySequence::MoveToPreviousWord};
     const bool isCommand = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0 ||
                            (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F35);

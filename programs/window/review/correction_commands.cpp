@@ -1,13 +1,14 @@
 #include "window/review/correction_commands.h"
 
 #include "migration/model/loss_kinds.h"
+#include "window/sources/source_table_model.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGraphicsItem>
 #include <QInputDialog>
-#include <QMessageBox>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -76,10 +77,13 @@ bool replaceFont(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidge
 {
     const Items& all = label.canvas->items();
     const QStringList from = fontsToReplace(issue.items.isEmpty() ? all : itemsOf(issue, label));
+    const QStringList families = QFontDatabase::families();
+    // The font that is already shown instead.
+    const qsizetype shown = families.indexOf(QFontInfo(QFont(from.value(0))).family());
     bool isChosen = false;
     const QString to = QInputDialog::getItem(
         window, Tr::tr("Replace Font"), Tr::tr("Font for all texts in %1:").arg(from.join(u", "_s)),
-        QFontDatabase::families(), 0, false, &isChosen);
+        families, static_cast<int>(std::max<qsizetype>(shown, 0)), false, &isChosen);
     return isChosen && push(stack, Tr::tr("Replace Font"), withFont(all, from, to));
 }
 
@@ -128,14 +132,9 @@ bool rescale(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* w
 bool bind(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* window)
 {
     QStringList names;
-    const QList<workbench::datasources::SourceValues> sources = label.sources->values();
-    for (const workbench::datasources::SourceValues& source : sources) {
-        names.append(u"%1: %2"_s.arg(source.id).arg(source.kind));
-    }
-    if (names.isEmpty()) {
-        QMessageBox::information(window, Tr::tr("Bind to Data Source"),
-                                 Tr::tr("The label has no data source."));
-        return false;
+    const QList<int> sources = label.sources->ids();
+    for (const int id : sources) {
+        names.append(u"%1: %2"_s.arg(id).arg(sourceTitle(*label.sources->source(id))));
     }
     bool isChosen = false;
     const QString name = QInputDialog::getItem(window, Tr::tr("Bind to Data Source"),
@@ -145,7 +144,7 @@ bool bind(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* wind
         return false;
     }
     return push(stack, Tr::tr("Bind to Data Source"),
-                bound(itemsOf(issue, label), sources.at(row).id));
+                bound(itemsOf(issue, label), sources.at(row)));
 }
 
 } // namespace

@@ -2,10 +2,10 @@
 
 #include "migration/model/loss_kinds.h"
 #include "workbench/items/item_limits.h"
+#include "workbench/items/label_document.h"
 
 #include <QRegularExpression>
-#include <QTextCursor>
-#include <QTextDocument>
+#include <QTextCharFormat>
 
 #include <algorithm>
 #include <cmath>
@@ -64,22 +64,12 @@ QString withScaledSizes(const QString& html, double factor)
     return result.append(QStringView(html).mid(end));
 }
 
-QString colored(const QString& html, const QColor& color)
-{
-    QTextDocument document;
-    document.setHtml(html);
-    QTextCursor cursor(&document);
-    cursor.select(QTextCursor::Document);
-    QTextCharFormat format;
-    format.setForeground(color);
-    cursor.mergeCharFormat(format);
-    return document.toHtml();
-}
-
 void setColor(ItemValues& values, const QColor& color)
 {
     if (values.text && !values.text->html.isEmpty()) {
-        values.text->html = colored(values.text->html, color);
+        QTextCharFormat format;
+        format.setForeground(color);
+        values.text->html = workbench::formattedHtml(values.text->html, format);
     } else if (values.textStyle && values.text) {
         values.textStyle->color = color;
     } else if (values.barcode) {

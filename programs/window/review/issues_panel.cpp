@@ -30,14 +30,13 @@ public:
                                  const QModelIndex& index) const override
     {
         QStyleOptionViewItem wrapped = option;
-        const bool isTitle = !index.parent().isValid();
-        const bool isIndented = index.column() == IssuesPanel::Text;
+        const bool isSpanned = m_tree.isFirstColumnSpanned(index.row(), index.parent());
+        const bool isIndented = index.column() == IssuesPanel::Text && index.parent().isValid();
         const int indentation = isIndented ? m_tree.indentation() : 0;
+        const int width =
+            isSpanned ? m_tree.viewport()->width() : m_tree.columnWidth(index.column());
         // Texts are wrapped only in a valid rectangle.
-        wrapped.rect = QRect(0, 0,
-                             isTitle ? m_tree.viewport()->width()
-                                     : m_tree.columnWidth(index.column()) - indentation,
-                             1);
+        wrapped.rect = QRect(0, 0, width - indentation, 1);
         return QStyledItemDelegate::sizeHint(wrapped, index);
     }
 
@@ -163,6 +162,9 @@ void IssuesPanel::fill()
         }
         group->appendRow(
             {cell(countedText(issue), index), cell(issue.about, index), cell(issue.advice, index)});
+        if (issue.about.isEmpty() && issue.advice.isEmpty()) {
+            m_tree->setFirstColumnSpanned(group->rowCount() - 1, group->index(), true);
+        }
     }
     m_tree->expandAll();
     m_tree->header()->setSectionResizeMode(QHeaderView::Stretch);

@@ -6,8 +6,10 @@
 #include <QListView>
 #include <QScopedValueRollback>
 #include <QSortFilterProxyModel>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace window {
@@ -51,6 +53,20 @@ private:
     int m_state = AllStates;
 };
 
+/// Makes the rows as wide as the list, so that long names are shortened.
+class NarrowRows final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {std::min(size.width(), LabelListModel::ThumbnailSize.width()), size.height()};
+    }
+};
+
 } // namespace
 
 LabelListPanel::LabelListPanel(QWidget* parent)
@@ -87,6 +103,9 @@ LabelListPanel::LabelListPanel(QWidget* parent)
     m_list->setAccessibleName(tr("Labels of the folder"));
     m_list->setIconSize(LabelListModel::ThumbnailSize);
     m_list->setUniformItemSizes(true);
+    m_list->setItemDelegate(new NarrowRows(m_list));
+    // Names of labels often differ only at their ends.
+    m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setAlternatingRowColors(true);
     m_count->setForegroundRole(QPalette::PlaceholderText);

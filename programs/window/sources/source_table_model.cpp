@@ -84,6 +84,11 @@ QString settingsOf(const Datasource& source)
 
 } // namespace
 
+QString sourceTitle(const Datasource& source)
+{
+    return SourceTableModel::tr("%1 (%2)").arg(kindOf(source), settingsOf(source));
+}
+
 SourceTableModel::SourceTableModel(QObject* parent)
     : QAbstractTableModel(parent)
 {}

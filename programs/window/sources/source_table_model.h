@@ -5,10 +5,14 @@
 #include <QString>
 
 namespace workbench::datasources {
+class Datasource;
 class DatasourceController;
-}
+} // namespace workbench::datasources
 
 namespace window {
+
+/// The kind and the settings of a data source: "Counter (1 to 5, step 1)".
+[[nodiscard]] QString sourceTitle(const workbench::datasources::Datasource& source);
 
 /// The data sources of a label as a table: their kinds and their current content.
 class SourceTableModel final : public QAbstractTableModel
