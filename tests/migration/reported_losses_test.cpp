@@ -287,6 +287,8 @@ const QList<Sample>& samples()
         {LossKind::TextFormat,
          odt(kStyledText,
              {.automaticStyles = styled("text", "style:text-position=\"super 58%\"")})},
+        {LossKind::TextEffect,
+         odt(kStyledText, {.automaticStyles = styled("text", "style:text-outline=\"true\"")})},
         {LossKind::TextDiffers,
          odg(rectWith("<text:p><text:span>12.40</text:span> <text:span>kg</text:span></text:p>"))},
         {LossKind::TextUnreadable,
@@ -321,6 +323,9 @@ const QList<Sample>& samples()
                                                                 "draw:fill=\"none\"")})},
         {LossKind::FillSimplified,
          odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"gradient\" "
+                                                                "draw:fill-color=\"#3465a4\"")})},
+        {LossKind::PictureFill,
+         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"bitmap\" "
                                                                 "draw:fill-color=\"#3465a4\"")})},
         {LossKind::EffectDropped,
          odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:shadow=\"visible\"")})},

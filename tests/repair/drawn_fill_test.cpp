@@ -4,6 +4,9 @@
 
 #include "repair/shape_steps.h"
 
+#include <QBuffer>
+#include <QImage>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -69,4 +72,37 @@ TEST(DrawnFill, HasATransparencyThatChanges)
     const QString svg = drawingOf(document);
     EXPECT_TRUE(svg.contains("stop-color=\"#00ff00\" stop-opacity=\"1.000\""_L1));
     EXPECT_TRUE(svg.contains("stop-color=\"#00ff00\" stop-opacity=\"0.250\""_L1));
+}
+
+TEST(DrawnFill, OfAPictureHasItsMeanColor)
+{
+    Document document =
+        drawing("<draw:rect draw:style-name=\"b\" svg:width=\"1in\" svg:height=\"1in\"/>",
+                "<style:style style:name=\"b\" style:family=\"graphic\"><style:graphic-properties "
+                "draw:fill=\"bitmap\" draw:fill-image-name=\"P\"/></style:style>",
+                "<draw:fill-image draw:name=\"P\" xlink:href=\"Pictures/p.png\"/>");
+    QImage picture(2, 1, QImage::Format_RGB32);
+    picture.setPixelColor(0, 0, QColor(200, 0, 100));
+    picture.setPixelColor(1, 0, QColor(100, 0, 200));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    ASSERT_TRUE(picture.save(&buffer, "PNG"));
+    document.readMember = [bytes](const QString& name) {
+        return name == "Pictures/p.png"_L1 ? bytes : QByteArray();
+    };
+    EXPECT_EQ(drawShapes(document), 1);
+    EXPECT_TRUE(drawingOf(document).contains("fill=\"#960096\""_L1))
+        << drawingOf(document).toStdString();
+}
+
+TEST(DrawnTable, HasSpaceAroundTheTextsOfItsCells)
+{
+    Document document = drawing(
+        "<draw:frame svg:width=\"2in\" svg:height=\"1in\"><table:table><table:table-column/>"
+        "<table:table-row><table:table-cell><text:p>a</text:p></table:table-cell>"
+        "</table:table-row></table:table></draw:frame>");
+    EXPECT_EQ(splitTables(document), 1);
+    const Properties cell = graphicOf(document, object(document, u"draw:frame"_s));
+    EXPECT_EQ(cell.value(u"fo:padding-left"_s), u"0.098425in"_s);
+    EXPECT_EQ(cell.value(u"fo:padding-top"_s), u"0.049213in"_s);
 }

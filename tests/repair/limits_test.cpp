@@ -6,8 +6,11 @@
 #include "repair/fill_drawing.h"
 #include "repair/repair.h"
 #include "repair/shape_parts.h"
+#include "repair/shape_place.h"
+#include "repair/shape_steps.h"
 #include "repair/svg_path.h"
 #include "repair/table_rows.h"
+#include "repair/text_anchor.h"
 #include "repair/text_step.h"
 
 #include <QTemporaryDir>
@@ -171,7 +174,9 @@ TEST(RepairLimits, CountRowsAndColumnsOfTables)
         1 << 24);
     Document document = drawing({});
     int row = 0;
-    const Node::Children cells = tableCells(document, *table, {0.0, 0.0, 256.0 * 72.0, 100.0}, row);
+    const PageArea page;
+    const TextPlace place{page, {0.0, 0.0, 256.0 * 72.0, 100.0}};
+    const Node::Children cells = tableCells(document, *table, place, row);
     EXPECT_EQ(cells.size(), 2'000U);
     EXPECT_EQ(cells.front()->attribute(u"svg:width"), "1.000000in"_L1);
 }
@@ -189,6 +194,67 @@ TEST(RepairLimits, HoldTheDepthOfTextDocuments)
     const QByteArray paragraph = "<text:p>sugar</text:p>";
     EXPECT_TRUE(textPage(nested("text:section", 99, paragraph)).second.contains("sugar"));
     EXPECT_FALSE(textPage(nested("text:section", 102, paragraph)).second.contains("sugar"));
+}
+
+TEST(RepairLimits, HoldTheDepthOfObjectsInTexts)
+{
+    const auto hasMark = [](int lists) {
+        const QByteArray object = "<text:p>x<draw:rect text:anchor-type=\"as-char\" "
+                                  "svg:width=\"1in\" svg:height=\"1in\"/></text:p>";
+        return textPage(nested("text:list", lists, object)).second.contains("labelport:anchor");
+    };
+    EXPECT_TRUE(hasMark(100));
+    EXPECT_FALSE(hasMark(101));
+    const auto widthOf = [](int groups) {
+        const auto group = parseTree(
+            "<all>" +
+                nested("draw:g", groups, "<draw:rect svg:width=\"1in\" svg:height=\"1in\"/>") +
+                "</all>",
+            1 << 24);
+        return boundsOf(*group->firstElement()).width();
+    };
+    EXPECT_NEAR(widthOf(100), 72.0, 0.01);
+    EXPECT_EQ(widthOf(102), 0.0);
+    const QByteArray box = nested("text:p", 1, "x");
+    QByteArray frames = box;
+    for (int depth = 0; depth < 200; ++depth) {
+        frames = "<text:p><draw:frame text:anchor-type=\"as-char\"><draw:text-box>" + frames +
+                 "</draw:text-box></draw:frame></text:p>";
+    }
+    EXPECT_EQ(textPage(frames).first, 1);
+}
+
+TEST(RepairLimits, CountEmbeddedDocuments)
+{
+    QByteArray frames;
+    for (int number = 0; number < 51; ++number) {
+        frames += "<draw:frame svg:width=\"1in\" svg:height=\"1in\"><draw:object "
+                  "xlink:href=\"./Object\"/></draw:frame>";
+    }
+    Document document = drawing(frames);
+    document.readMember = [](const QString& name) {
+        return name == "Object/content.xml"_L1
+                   ? QByteArray("<office:document-content><office:body><office:text><text:p>a"
+                                "</text:p></office:text></office:body></office:document-content>")
+                   : QByteArray();
+    };
+    EXPECT_EQ(unpackDocuments(document), 50);
+    const auto textOfRow = [](int groups) {
+        Document sheet = drawing("<draw:frame><draw:object xlink:href=\"./Object\"/></draw:frame>");
+        sheet.readMember = [groups](const QString& name) {
+            return name == "Object/content.xml"_L1
+                       ? "<office:document-content><office:body><office:spreadsheet>" +
+                             nested("table:table", groups,
+                                    "<table:table-row><table:table-cell><text:p>cell</text:p>"
+                                    "</table:table-cell></table:table-row>") +
+                             "</office:spreadsheet></office:body></office:document-content>"
+                       : QByteArray();
+        };
+        EXPECT_EQ(unpackDocuments(sheet), 1);
+        return sheet.page()->allText();
+    };
+    EXPECT_EQ(textOfRow(20), u"cell"_s);
+    EXPECT_EQ(textOfRow(21), QString());
 }
 
 TEST(RepairLimits, BreakEndlessPages)

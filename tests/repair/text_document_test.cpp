@@ -2,6 +2,7 @@
 
 #include "tests/repair/documents.h"
 
+#include "host/items/rich_text_item.h"
 #include "repair/repaired_import.h"
 
 #include <QTemporaryDir>
@@ -121,4 +122,32 @@ TEST(TextDocument, BreaksItsLines)
     EXPECT_LE(text.box.size.width(), import.result.canvas->page().size.width() + 1.0);
     EXPECT_GT(text.box.size.height(), 100.0);
     EXPECT_FALSE(text.text->html.contains("background-color"_L1));
+}
+
+TEST(TextDocument, HasNoHiddenText)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles><style:style style:name=\"h\" "
+        "style:family=\"text\"><style:text-properties text:display=\"none\"/></style:style>"
+        "</office:automatic-styles><office:body><office:text>"
+        "<text:section text:display=\"none\"><text:p>one</text:p></text:section>"
+        "<text:section text:display=\"condition\" text:is-hidden=\"true\"><text:p>two</text:p>"
+        "</text:section><text:p>shown<text:span text:style-name=\"h\">three</text:span>"
+        "<text:hidden-text text:is-hidden=\"true\">four</text:hidden-text> and "
+        "<text:hidden-text text:is-hidden=\"false\">five</text:hidden-text></text:p>"
+        "<table:table><table:table-column/><table:table-row><table:table-cell><text:section "
+        "text:display=\"none\"><text:p>six</text:p></text:section><text:p>cell</text:p>"
+        "</table:table-cell></table:table-row></table:table></office:text></office:body>"
+        "</office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+    ASSERT_TRUE(import.isRepaired());
+    QStringList texts;
+    for (workbench::CanvasItem* const item : import.result.canvas->items()) {
+        if (const auto* text = dynamic_cast<RichTextItem*>(item->contractItem())) {
+            texts.append(text->toPlainText());
+        }
+    }
+    EXPECT_EQ(texts.join(u'|'), u"shown and five|cell"_s);
 }

@@ -2,10 +2,10 @@
 
 #include "exporting/label_walk.h"
 #include "workbench/canvas/canvas.h"
+#include "workbench/items/label_document.h"
 #include "workbench/pictures/atomic_save.h"
 
 #include <QSaveFile>
-#include <QTextDocumentFragment>
 
 #include <algorithm>
 
@@ -39,8 +39,7 @@ QString shownText(const workbench::ItemValues& values)
         return values.barcode->content;
     }
     const workbench::TextValues text = values.text.value_or(workbench::TextValues());
-    return text.html.isEmpty() ? text.text
-                               : QTextDocumentFragment::fromHtml(text.html).toPlainText();
+    return text.html.isEmpty() ? text.text : workbench::textOfHtml(text.html);
 }
 
 QStringList cellsOf(const ExportJob& job, qint64 record, const QList<int>& positions)

@@ -97,7 +97,7 @@ FileReport reportOn(const QString& fileName, const QString& shownName, const QSt
     }
     compare(census, label, lossesOfLog(result), report);
     if (options.itemList) {
-        report.itemList = itemListOf(*result.canvas);
+        report.itemList = itemListOf(result);
     }
     if (options.thumbnail) {
         report.thumbnail = thumbnailOf(*result.canvas);
@@ -134,7 +134,7 @@ void RepairedFileReport::addPage(const workbench::ImportResult& result, const QB
     describeLabel(result, page);
     if (isFirst) {
         m_report.page = page.page;
-        m_report.itemList = m_options.itemList ? itemListOf(*result.canvas) : QList<ItemReport>();
+        m_report.itemList = m_options.itemList ? itemListOf(result) : QList<ItemReport>();
         m_report.thumbnail = m_options.thumbnail ? thumbnailOf(*result.canvas) : QByteArray();
     }
     addCounts(m_report.items, page.items);

@@ -1,5 +1,7 @@
 #include "repair/apply_plan.h"
 
+#include "repair/object_places.h"
+
 #include "host/items/rich_text_item.h"
 #include "workbench/canvas/canvas.h"
 #include "workbench/items/canvas_item.h"
@@ -102,70 +104,6 @@ void applyShape(workbench::CanvasItem& item, const ItemPlan& plan)
     item.setValues(values);
 }
 
-/// The items of one object.
-struct ObjectItems
-{
-    const ItemPlan* plan = nullptr;
-    workbench::CanvasItem* shape = nullptr;
-    workbench::CanvasItem* text = nullptr;
-};
-
-// The height that an object needs below the top of its row.
-double heightOf(const ObjectItems& items)
-{
-    if (items.text != nullptr) {
-        const QGraphicsItem* const text = items.text->graphicsItem();
-        const double bottom =
-            text->pos().y() + items.text->contractItem()->getItemHeight() + items.plan->space;
-        const bool isText = items.plan->fillsRow || items.shape == nullptr;
-        return isText || items.shape->contractItem()->getItemHeight() < bottom
-                   ? bottom
-                   : items.shape->contractItem()->getItemHeight();
-    }
-    if (items.plan->space > 0.0) {
-        return items.plan->space;
-    }
-    return items.shape != nullptr ? items.shape->graphicsItem()->pos().y() +
-                                        items.shape->contractItem()->getItemHeight()
-                                  : 0.0;
-}
-
-void placeRow(const QList<ObjectItems>& row, double& y)
-{
-    double height = 0.0;
-    for (const ObjectItems& items : row) {
-        height = std::max(height, heightOf(items));
-    }
-    for (const ObjectItems& items : row) {
-        for (workbench::CanvasItem* const item : {items.shape, items.text}) {
-            if (item != nullptr) {
-                item->graphicsItem()->moveBy(0.0, y);
-            }
-        }
-        const bool isBox =
-            items.shape != nullptr && (items.plan->fillsRow || items.text != nullptr);
-        if (isBox) {
-            Item* const box = items.shape->contractItem();
-            box->setItemSize({box->getItemWidth(), height});
-        }
-    }
-    y += height;
-}
-
-void placeRows(const QMap<int, ObjectItems>& objects, double top)
-{
-    QMap<int, QList<ObjectItems>> rows;
-    for (const ObjectItems& items : objects) {
-        if (items.plan->row > 0) {
-            rows[items.plan->row].append(items);
-        }
-    }
-    double y = top;
-    for (const QList<ObjectItems>& row : rows) {
-        placeRow(row, y);
-    }
-}
-
 // By their order.
 QMap<int, ObjectItems> objectsOf(const workbench::Canvas& canvas, const PagePlan& plan)
 {
@@ -198,7 +136,7 @@ void applyPlan(workbench::Canvas& canvas, const PagePlan& plan)
             applyShape(*items.shape, *items.plan);
         }
     }
-    placeRows(objects, plan.top);
+    placeObjects(objects, plan.top);
 }
 
 } // namespace repair

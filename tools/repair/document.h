@@ -34,6 +34,8 @@ public:
     int pageNumber = 1;
     /// Whether the page was laid out from a text document.
     bool wasText = false;
+    /// Whether the styles of the master pages are among those of the content.
+    bool hasMasterStyles = false;
 
     /// The body: office:drawing, office:text or another one; null if there is none.
     [[nodiscard]] Node* body() const;
@@ -51,6 +53,8 @@ public:
 
     /// The name of an automatic style with exactly these properties, made if it is missing.
     [[nodiscard]] QString styleFor(const QString& family, const StyleProperties& properties);
+    /// A number for the mark that an object leaves in its text.
+    [[nodiscard]] int newMark() { return ++m_marks; }
     /// Puts a drawing into the package and gives its name there.
     [[nodiscard]] QString addDrawing(const QByteArray& svg);
 
@@ -58,6 +62,7 @@ private:
     std::unique_ptr<StyleTable> m_table;
     QHash<QString, QString> m_madeStyles;
     int m_made = 0;
+    int m_marks = 0;
 };
 
 /// The properties of a shape's graphic style, with the defaults.

@@ -15,6 +15,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// 0.25 cm beside the text of a cell and 0.125 cm above it, where a cell states nothing.
+const QString SidePadding = u"0.098425in"_s;
+const QString TopPadding = u"0.049213in"_s;
+
 double rowHeight(const Document& document, const QString& style)
 {
     const Node* const automatic = document.content->child(u"office:automatic-styles");
@@ -68,6 +72,12 @@ StyleProperties drawnCell(Document& document, const QString& style)
         {u"draw:fill"_s, shapes.graphic.value(u"draw:fill"_s, u"solid"_s)},
         {u"draw:fill-color"_s, shapes.graphic.value(u"draw:fill-color"_s, u"#729fcf"_s)}};
     result.text = shapes.text;
+    if (!cell.graphic.contains(u"fo:padding"_s)) {
+        result.graphic.insert(u"fo:padding-left"_s, SidePadding);
+        result.graphic.insert(u"fo:padding-right"_s, SidePadding);
+        result.graphic.insert(u"fo:padding-top"_s, TopPadding);
+        result.graphic.insert(u"fo:padding-bottom"_s, TopPadding);
+    }
     result.overlay(cell);
     addBorder(cell.paragraph, result.graphic);
     return result;

@@ -1,12 +1,12 @@
 #include "repair/flow_step.h"
 
+#include "repair/anchored_shapes.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/page_area.h"
+#include "repair/page_steps.h"
+#include "repair/shape_place.h"
 #include "repair/table_rows.h"
-#include "repair/transform.h"
-
-#include <QStringList>
 
 #include <algorithm>
 
@@ -20,16 +20,6 @@ using namespace Qt::StringLiterals;
 constexpr int MaximumDepth = 100;
 // A page with more is broken: documents of other programs have no breaks.
 constexpr qsizetype MaximumCharacters = 20'000;
-
-bool isParagraph(const Node& node)
-{
-    return node.is(u"text:p") || node.is(u"text:h");
-}
-
-bool isShape(const Node& node)
-{
-    return node.name.startsWith("draw:"_L1) && !node.is(u"draw:a");
-}
 
 /// Lays out the blocks of the body, page by page.
 class FlowWriter
@@ -46,19 +36,19 @@ public:
     [[nodiscard]] std::vector<Node::Children> take() { return std::move(m_pages); }
 
 private:
-    void readParagraph(std::unique_ptr<Node> paragraph);
+    void readText(std::unique_ptr<Node> block);
     void readTable(Node& table);
-    void takeShapes(Node& parent, int depth);
     void placeShape(std::unique_ptr<Node> shape);
+    void placeRow(std::unique_ptr<Node> shape);
+    void placeRows(Node::Children shapes);
     void breakPage();
     [[nodiscard]] bool startsPage(const Node& paragraph) const;
     [[nodiscard]] Node::Children& objects() { return m_pages.back(); }
 
     Document& m_document;
     const PageArea m_area;
-    int m_row = 0;         // of the present page
-    bool m_isEmpty = true; // the present page
-    bool m_breaksAfter = false;
+    int m_row = 0;              // of the present page
+    bool m_isEmpty = true;      // the present page
     qsizetype m_characters = 0; // of the present page
     Node::Children m_text;
     std::vector<Node::Children> m_pages{1};
@@ -85,15 +75,12 @@ bool FlowWriter::startsPage(const Node& paragraph) const
 void FlowWriter::readBlocks(Node& parent, int depth)
 {
     for (auto& child : parent.children) {
-        if (depth > MaximumDepth || child == nullptr || child->isText()) {
+        if (depth > MaximumDepth || child == nullptr || child->isText() || isHidden(*child)) {
             continue;
         }
-        if (isParagraph(*child)) {
-            readParagraph(std::move(child));
-        } else if (child->is(u"text:list") || child->is(u"text:numbered-paragraph")) {
-            takeShapes(*child, 0);
-            m_isEmpty = false;
-            m_text.push_back(std::move(child));
+        if (isParagraph(*child) || child->is(u"text:list") ||
+            child->is(u"text:numbered-paragraph")) {
+            readText(std::move(child));
         } else if (child->is(u"table:table")) {
             readTable(*child);
         } else if (child->is(u"text:soft-page-break")) {
@@ -107,100 +94,61 @@ void FlowWriter::readBlocks(Node& parent, int depth)
     }
 }
 
-void FlowWriter::readParagraph(std::unique_ptr<Node> paragraph)
+void FlowWriter::readText(std::unique_ptr<Node> block)
 {
-    if (startsPage(*paragraph)) {
+    if (startsPage(*block)) {
         breakPage();
     }
     m_isEmpty = false;
-    takeShapes(*paragraph, 0);
-    m_characters += paragraph->allText().size();
-    m_text.push_back(std::move(paragraph));
-    if (m_breaksAfter || m_characters > MaximumCharacters) {
-        m_breaksAfter = false;
+    TakenShapes taken = takeShapes(m_document, *block, {m_area, m_area.box}, true);
+    placeRows(std::move(taken.above));
+    std::move(taken.anchored.begin(), taken.anchored.end(), std::back_inserter(objects()));
+    m_characters += block->allText().size();
+    m_text.push_back(std::move(block));
+    placeRows(std::move(taken.below));
+    if (taken.hasPageBreak || m_characters > MaximumCharacters) {
         breakPage();
     }
 }
 
-// Objects in a text are placed above it, so that they do not cover it.
-void FlowWriter::takeShapes(Node& parent, int depth)
+void FlowWriter::placeRow(std::unique_ptr<Node> shape)
 {
-    for (auto& child : parent.children) {
-        if (child->is(u"text:soft-page-break")) {
-            m_breaksAfter = true;
-        }
-        if (isShape(*child)) {
-            placeShape(std::move(child));
-        } else if (depth < MaximumDepth && !child->is(u"text:note") &&
-                   !child->is(u"office:annotation")) {
-            takeShapes(*child, depth + 1);
-        }
-    }
-    std::erase(parent.children, nullptr);
-}
-
-// Frames have neither pen nor fill by default, but borders and a background.
-void writeFrameStyle(Document& document, Node& frame)
-{
-    StyleProperties style =
-        document.table().resolved(u"graphic"_s, frame.attribute(u"draw:style-name"), false);
-    Properties& graphic = style.graphic;
-    const QString fill = graphic.value(u"draw:fill"_s);
-    if (fill.isEmpty()) {
-        const QString color = graphic.value(u"fo:background-color"_s);
-        graphic.insert(u"draw:fill"_s, color.startsWith(u'#') ? u"solid"_s : u"none"_s);
-        graphic.insert(u"draw:fill-color"_s, color);
-    }
-    addBorder(graphic, graphic);
-    graphic.insert(u"fo:wrap-option"_s, u"wrap"_s);
-    if (!graphic.contains(u"draw:stroke"_s)) {
-        graphic.insert(u"draw:stroke"_s, u"none"_s);
-    }
-    for (const QString& side : {u"left"_s, u"right"_s, u"top"_s, u"bottom"_s}) {
-        const QString name = u"fo:padding-"_s + side;
-        if (!graphic.contains(u"fo:padding"_s) && !graphic.contains(name)) {
-            graphic.insert(name, u"0in"_s);
-        }
-    }
-    style.text.clear();
-    style.paragraph.clear();
-    frame.setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
-}
-
-void FlowWriter::placeShape(std::unique_ptr<Node> shape)
-{
-    m_isEmpty = false;
-    if (shape->is(u"draw:frame")) {
-        writeFrameStyle(m_document, *shape);
-    }
-    if (shape->attribute(u"text:anchor-type") == "page"_L1) {
-        objects().push_back(std::move(shape));
-        return;
-    }
-    endText();
-    const Properties graphic = graphicOf(m_document, *shape);
-    const QString position = graphic.value(u"style:horizontal-pos"_s);
-    Placement placement = placementOf(*shape);
-    double left = m_area.box.left() + pointsOf(*shape, u"svg:x");
-    const double room = m_area.box.width() - placement.size.width();
-    if (position == "center"_L1) {
-        left = m_area.box.left() + room / 2.0;
-    } else if (position == "right"_L1) {
-        left = m_area.box.left() + room;
-    }
-    if (!shape->hasAttribute(u"draw:transform") && !shape->hasAttribute(u"svg:x1")) {
-        shape->setAttribute(u"svg:x"_s, toInches(left));
-        shape->setAttribute(u"svg:y"_s, u"0in"_s);
-    }
     shape->setAttribute(RowAttribute, QString::number(++m_row));
     objects().push_back(std::move(shape));
+}
+
+// Objects beside which no lines run.
+void FlowWriter::placeRows(Node::Children shapes)
+{
+    if (!shapes.empty()) {
+        endText();
+    }
+    for (auto& shape : shapes) {
+        placeRow(std::move(shape));
+    }
+}
+
+// An object between paragraphs: it belongs to the page, or has none beside it.
+void FlowWriter::placeShape(std::unique_ptr<Node> shape)
+{
+    auto paragraph = Node::element(u"text:p"_s);
+    paragraph->append(std::move(shape));
+    m_isEmpty = false;
+    TakenShapes taken = takeShapes(m_document, *paragraph, {m_area, m_area.box}, true);
+    placeRows(std::move(taken.above));
+    placeRows(std::move(taken.below));
+    const bool isInText = !paragraph->children.empty();
+    std::move(taken.anchored.begin(), taken.anchored.end(), std::back_inserter(objects()));
+    if (isInText) {
+        m_text.push_back(std::move(paragraph));
+    }
 }
 
 void FlowWriter::readTable(Node& table)
 {
     m_isEmpty = false;
     endText();
-    Node::Children cells = tableCells(m_document, table, m_area.box, m_row);
+    Node::Children cells = tableCells(m_document, table, {m_area, m_area.box}, m_row);
     std::move(cells.begin(), cells.end(), std::back_inserter(objects()));
 }
 
@@ -221,18 +169,21 @@ void FlowWriter::endText()
 void addMargin(Document& document, const Node* margin, const PageArea& area, bool isHeader,
                Node::Children& objects)
 {
-    if (margin == nullptr || margin->allText().trimmed().isEmpty()) {
+    if (margin == nullptr) {
         return;
     }
     QRectF box = area.box;
     box.setTop(isHeader ? area.headerTop : area.footerTop);
     box.setHeight(linesHeight(document, *margin));
     auto frame = textFrame(document, box, {});
-    for (const auto& child : margin->children) {
-        if (isParagraph(*child) || child->is(u"text:list")) {
-            frame->child(u"draw:text-box")->append(child->clone());
-        }
+    Node& text = *frame->child(u"draw:text-box");
+    const auto copy = copyFromMaster(document, *margin);
+    takeParagraphs(*copy, text, 0);
+    Node::Children taken = takeAllShapes(document, text, {area, area.box});
+    if (taken.empty() && text.allText().trimmed().isEmpty()) {
+        return;
     }
+    std::move(taken.begin(), taken.end(), std::back_inserter(objects));
     objects.push_back(std::move(frame));
 }
 

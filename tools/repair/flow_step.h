@@ -17,8 +17,6 @@ namespace repair {
 
 /// Where the first row of a page begins.
 inline const QString TopAttribute = QLatin1String("labelport:top");
-/// The row of an object: a number that grows down the page.
-inline const QString RowAttribute = QLatin1String("labelport:row");
 /// Whether the object is as high as its row: the cells of a table.
 inline const QString FillsRowAttribute = QLatin1String("labelport:fills-row");
 

@@ -1,7 +1,9 @@
 #include "repair/html.h"
 
+#include "repair/anchored_shapes.h"
 #include "repair/document.h"
 #include "repair/drawing.h"
+#include "repair/item_plan.h"
 #include "repair/lengths.h"
 
 #include <QFont>
@@ -68,6 +70,15 @@ double sizeOf(const Properties& text)
     return toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultSize);
 }
 
+// The color behind characters or a paragraph. Nothing for "transparent".
+QString groundStyle(const Properties& properties)
+{
+    const QString name = properties.value(u"fo:background-color"_s);
+    const QColor ground(name);
+    return ground.isValid() && name.startsWith(u'#') ? u"background-color:%1;"_s.arg(ground.name())
+                                                     : QString();
+}
+
 // "super 58%", "sub 58%", "33% 58%"; nothing for text on the line.
 QString raisedStyle(const QString& position, double& size)
 {
@@ -112,10 +123,7 @@ QString HtmlWriter::spanStyle(const Properties& text) const
     const bool isAutomatic = text.value(u"style:use-window-font-color"_s) == "true"_L1;
     const QColor color(isAutomatic ? QString() : text.value(u"fo:color"_s));
     style += u"color:%1;"_s.arg((color.isValid() ? color : m_automatic).name());
-    const QString groundName = text.value(u"fo:background-color"_s);
-    if (const QColor ground(groundName); ground.isValid() && groundName.startsWith(u'#')) {
-        style += u"background-color:%1;"_s.arg(ground.name());
-    }
+    style += groundStyle(text);
     if (text.value(u"fo:font-variant"_s) == "small-caps"_L1) {
         style += u"font-variant:small-caps;"_s;
     }
@@ -175,7 +183,8 @@ QString HtmlWriter::paragraphStyle(const Properties& paragraph, double spacing)
            "margin-right:%3px;text-indent:%4px;line-height:%5%;"_s.arg(
                number(above), number(length(u"fo:margin-left"_s)),
                number(length(u"fo:margin-right"_s)), number(length(u"fo:text-indent"_s)),
-               number(spacing));
+               number(spacing)) +
+           groundStyle(paragraph);
 }
 
 QString alignmentOf(const Properties& paragraph)
@@ -192,6 +201,34 @@ Properties HtmlWriter::textOf(const Node& node, const QString& family) const
     return m_document.table().resolved(family, node.attribute(u"text:style-name"), false).text;
 }
 
+// Invisible pictures that keep the room of objects.
+QString marksHtml(const Node& node)
+{
+    QString html;
+    for (const QString& mark : node.attribute(MarksAttribute).split(u';', Qt::SkipEmptyParts)) {
+        const QStringList parts = mark.split(u' ');
+        if (parts.size() == 4) {
+            const QString side = parts[3];
+            const QString style =
+                side == "none"_L1 ? QString() : u" style=\"float:%1;\""_s.arg(side);
+            html += u"<img src=\"%1%2\" width=\"%3\" height=\"%4\"%5 />"_s.arg(
+                MarkPrefix, parts[0], parts[1], parts[2], style);
+        }
+    }
+    return html;
+}
+
+// A line with an object is higher than its font.
+bool hasMarkInLine(const Node& paragraph)
+{
+    const auto isInLine = [](const Node& node) {
+        return node.attribute(MarksAttribute).contains(" none"_L1);
+    };
+    return isInLine(paragraph) ||
+           std::any_of(paragraph.children.begin(), paragraph.children.end(),
+                       [&isInLine](const auto& span) { return isInLine(*span); });
+}
+
 void HtmlWriter::writeParagraph(const Node& paragraph)
 {
     const StyleProperties style =
@@ -199,16 +236,20 @@ void HtmlWriter::writeParagraph(const Node& paragraph)
     const bool isEmpty = paragraph.children.empty();
     m_html += u"<p align=\"%1\" style=\"%2%3%4\">"_s.arg(
         alignmentOf(style.paragraph), isEmpty ? u"-qt-paragraph-type:empty;"_s : QString(),
-        paragraphStyle(style.paragraph, lineSpacing(paragraph, style.paragraph)),
+        paragraphStyle(style.paragraph,
+                       hasMarkInLine(paragraph) ? 100.0 : lineSpacing(paragraph, style.paragraph)),
         isEmpty ? spanStyle(style.text) : QString());
     if (isEmpty) {
         m_html += u"<br />"_s;
     }
     for (const auto& span : paragraph.children) {
-        m_html += u"<span style=\"%1\">%2</span>"_s.arg(spanStyle(textOf(*span, u"text"_s)),
-                                                        span->allText().toHtmlEscaped());
+        m_html += marksHtml(*span);
+        if (const QString text = span->allText(); text != MarkHolder) {
+            m_html += u"<span style=\"%1\">%2</span>"_s.arg(spanStyle(textOf(*span, u"text"_s)),
+                                                            text.toHtmlEscaped());
+        }
     }
-    m_html += u"</p>"_s;
+    m_html += marksHtml(paragraph) + u"</p>"_s;
 }
 
 QString HtmlWriter::finished() const

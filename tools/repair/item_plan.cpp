@@ -7,6 +7,7 @@
 #include "repair/lengths.h"
 #include "repair/page_area.h"
 #include "repair/shape_parts.h"
+#include "repair/shape_place.h"
 #include "repair/shape_steps.h"
 #include "repair/transform.h"
 
@@ -143,6 +144,8 @@ void planRow(Document& document, const Node& shape, const Node& container,
              const Properties& graphic, ItemPlan& plan)
 {
     plan.row = shape.attribute(RowAttribute).toInt();
+    plan.mark = shape.attribute(AnchorAttribute).toInt();
+    plan.isInLine = shape.attribute(InLineAttribute) == "true"_L1;
     plan.fillsRow = shape.attribute(FillsRowAttribute) == "true"_L1;
     if (plan.text) {
         plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding) +

@@ -28,6 +28,10 @@ struct TextPlan
     bool wraps = true;
 };
 
+/// Before the number of a mark: the name of the invisible picture that keeps an object's room in a
+/// text.
+inline const QString MarkPrefix = QLatin1String("mark-");
+
 /// What to set on the items of one object after the import.
 struct ItemPlan
 {
@@ -42,6 +46,11 @@ struct ItemPlan
     /// The row of a text document's page, which is placed below the one before; 0 for an object
     /// with a place of its own.
     int row = 0;
+    /// The mark that the object left in a text; 0 if it left none. Its place is relative to the
+    /// mark.
+    int mark = 0;
+    /// Whether its place across the page is also relative to the mark.
+    bool isInLine = false;
     /// Whether the object is as high as its row.
     bool fillsRow = false;
     /// Points below the text that belong to the object, or the height of one without text.

@@ -85,7 +85,7 @@ double linesHeight(Document& document, const Node& container)
 PageArea pageArea(Document& document)
 {
     // A page that is not described has the reader's default.
-    PageArea area{QRectF(0.0, 0.0, 612.0, 792.0), 0.0, 792.0, 792.0};
+    PageArea area{QRectF(0.0, 0.0, 612.0, 792.0), QSizeF(612.0, 792.0), 0.0, 792.0, 792.0};
     const Node* const automatic = document.styles->child(u"office:automatic-styles");
     const Node* const layout =
         automatic != nullptr ? automatic->child(u"style:page-layout") : nullptr;
@@ -100,6 +100,7 @@ PageArea pageArea(Document& document)
     };
     const double width = toPoints(page->attribute(u"fo:page-width")).value_or(612.0);
     const double height = toPoints(page->attribute(u"fo:page-height")).value_or(792.0);
+    area.size = {width, height};
     area.headerTop = margin(u"top"_s);
     area.footerBottom = height - margin(u"bottom"_s);
     const Margin header = marginOf(document, *layout, u"header"_s, u"fo:margin-bottom"_s);

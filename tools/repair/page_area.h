@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
 
 namespace repair {
@@ -18,6 +19,7 @@ class Node;
 struct PageArea
 {
     QRectF box;
+    QSizeF size; ///< of the page
     double headerTop = 0.0;
     double footerTop = 0.0;
     double footerBottom = 0.0;

@@ -3,6 +3,7 @@
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/page_area.h"
+#include "repair/shape_place.h"
 #include "repair/transform.h"
 
 #include <QTransform>
@@ -18,12 +19,15 @@ using namespace Qt::StringLiterals;
 const QString AutomaticStyles = u"office:automatic-styles"_s;
 
 // Styles of the master page have names of their own: both documents may have a "gr1".
+const QString MasterPrefix = u"master-"_s;
+
 void importMasterStyles(Document& document, const QString& prefix)
 {
     const Node* const source = document.styles->child(AutomaticStyles);
-    if (source == nullptr) {
+    if (source == nullptr || document.hasMasterStyles) {
         return;
     }
+    document.hasMasterStyles = true;
     Node& target = document.content->childOrNew(AutomaticStyles);
     for (const auto& style : source->children) {
         if (style->is(u"style:style") || style->is(u"text:list-style")) {
@@ -125,20 +129,30 @@ void applyGroup(Node& shape, const QTransform& group)
 }
 
 // Takes the objects of a group out, in their order.
-void takeOut(Node& group, const QTransform& outer, Node::Children& objects)
+void takeOut(Node& group, const QTransform& outer, const Node& place, Node::Children& objects)
 {
     const QTransform map = parseTransform(group.attribute(u"draw:transform")) * outer;
     for (auto& child : group.children) {
         if (child->is(u"draw:g") || child->is(u"draw:a")) {
-            takeOut(*child, map, objects);
+            takeOut(*child, map, place, objects);
         } else if (isObject(*child)) {
             applyGroup(*child, map);
+            keepPlace(place, *child);
             objects.push_back(std::move(child));
         }
     }
 }
 
 } // namespace
+
+std::unique_ptr<Node> copyFromMaster(Document& document, const Node& part)
+{
+    importMasterStyles(document, MasterPrefix);
+    auto copy = part.clone();
+    renameStyles(document, *copy, MasterPrefix);
+    forEachElement(*copy, [&](Node& node) { renameStyles(document, node, MasterPrefix); });
+    return copy;
+}
 
 Node::Children takePages(Document& document)
 {
@@ -185,19 +199,12 @@ int addMasterObjects(Document& document)
     if (auto background = backgroundOf(document, *master)) {
         objects.push_back(std::move(background));
     }
-    const QString prefix = u"master-"_s;
     for (const auto& child : master->children) {
         const bool isHidden =
             shown.value(u"presentation:background-objects-visible"_s) == "false"_L1;
         if (isObject(*child) && !isHidden) {
-            objects.push_back(child->clone());
-            renameStyles(document, *objects.back(), prefix);
-            forEachElement(*objects.back(),
-                           [&](Node& node) { renameStyles(document, node, prefix); });
+            objects.push_back(copyFromMaster(document, *child));
         }
-    }
-    if (!objects.empty()) {
-        importMasterStyles(document, prefix);
     }
     const int count = static_cast<int>(objects.size());
     page->children.insert(page->children.begin(), std::make_move_iterator(objects.begin()),
@@ -216,7 +223,7 @@ int dissolveGroups(Document& document)
     for (auto& child : page->children) {
         if (child->is(u"draw:g") || child->is(u"draw:a")) {
             ++count;
-            takeOut(*child, QTransform(), objects);
+            takeOut(*child, QTransform(), *child, objects);
         } else if (isObject(*child)) {
             objects.push_back(std::move(child));
         }

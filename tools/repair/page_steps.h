@@ -7,6 +7,9 @@ namespace repair {
 /// Takes the pages of a drawing out of its body, which is then empty. None of other documents.
 [[nodiscard]] Node::Children takePages(Document& document);
 
+/// A copy of a part of a master page, with styles that the page knows.
+[[nodiscard]] std::unique_ptr<Node> copyFromMaster(Document& document, const Node& part);
+
 // Each step returns how often it changed something.
 
 /// Moves the page layout that the page has to where the reader looks for it.

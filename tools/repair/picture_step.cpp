@@ -77,16 +77,20 @@ bool chooseIn(Document& document, Node& frame)
     return true;
 }
 
-// Nothing if the picture is a drawing, or larger than the reader accepts.
-QByteArray mirrored(QByteArray bytes, bool isHorizontal, bool isVertical)
+// A picture that is not larger than the reader accepts.
+QImage smallEnough(QByteArray bytes)
 {
     QBuffer input(&bytes);
     QImageReader reader(&input);
     const QSize size = reader.size();
-    if (!size.isValid() || qint64(size.width()) * size.height() > PicturePixels) {
-        return {};
-    }
-    const QImage image = reader.read();
+    return size.isValid() && qint64(size.width()) * size.height() <= PicturePixels ? reader.read()
+                                                                                   : QImage();
+}
+
+// Nothing if the picture is a drawing, or larger than the reader accepts.
+QByteArray mirrored(QByteArray bytes, bool isHorizontal, bool isVertical)
+{
+    const QImage image = smallEnough(std::move(bytes));
     QByteArray result;
     QBuffer output(&result);
     return !image.isNull() && image.mirrored(isHorizontal, isVertical).save(&output, "PNG")
@@ -115,6 +119,31 @@ bool mirrorIn(Document& document, Node& frame)
 }
 
 } // namespace
+
+void fillWithMeanColor(Document& document, Properties& graphic)
+{
+    const Node* const fill =
+        graphic.value(u"draw:fill"_s) == "bitmap"_L1
+            ? document.table().named(u"draw:fill-image"_s, graphic.value(u"draw:fill-image-name"_s))
+            : nullptr;
+    if (fill == nullptr) {
+        return;
+    }
+    const QImage picture =
+        smallEnough(document.readMember(plainName(fill->attribute(u"xlink:href"))));
+    if (!picture.isNull()) {
+        const QImage mean = picture.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        graphic.insert(u"draw:fill-color"_s, mean.pixelColor(0, 0).name());
+    }
+}
+
+bool hasReadablePicture(const Document& document, const Node& frame)
+{
+    return std::any_of(frame.children.begin(), frame.children.end(), [&](const auto& child) {
+        return child->is(u"draw:image") &&
+               rankOf(document, plainName(child->attribute(u"xlink:href"))) > 0;
+    });
+}
 
 int choosePictures(Document& document)
 {

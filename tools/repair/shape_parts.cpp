@@ -3,6 +3,8 @@
 #include "repair/document.h"
 #include "repair/drawing.h"
 #include "repair/lengths.h"
+#include "repair/shape_place.h"
+#include "repair/shape_steps.h"
 #include "repair/svg_path.h"
 #include "repair/text_step.h"
 
@@ -111,6 +113,9 @@ int replaceShapes(Document& document, const Replacement& replacement)
             continue;
         }
         ++count;
+        for (const auto& part : parts) {
+            keepPlace(*shape, *part);
+        }
         std::move(parts.begin(), parts.end(), std::back_inserter(shapes));
     }
     page->children = std::move(shapes);
@@ -137,7 +142,9 @@ QPointF endOf(const Node& line)
 std::unique_ptr<Node> drawnFrame(Document& document, const Node& shape,
                                  const std::vector<Outline>& outlines)
 {
-    const Drawing drawing = makeDrawing(outlines, graphicOf(document, shape), document.table());
+    Properties graphic = graphicOf(document, shape);
+    fillWithMeanColor(document, graphic);
+    const Drawing drawing = makeDrawing(outlines, graphic, document.table());
     auto frame = Node::element(u"draw:frame"_s);
     for (const QString& name : {u"draw:name"_s, u"draw:z-index"_s, u"draw:layer"_s}) {
         if (shape.hasAttribute(name)) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "repair/styles.h"
+
 #include <QString>
 
 namespace repair {
@@ -25,10 +27,17 @@ int drawPaths(Document& document);
 int drawShapes(Document& document);
 /// Writes the position of rotated shapes in the form that the reader supports.
 int rewriteRotations(Document& document);
+/// Replaces embedded documents without a picture that can be read by what they contain.
+int unpackDocuments(Document& document);
 /// Leaves in each frame one picture that can be read.
 int choosePictures(Document& document);
 /// Replaces pictures that are shown mirrored by mirrored ones.
 int mirrorPictures(Document& document);
+
+/// Gives a shape that is filled with a picture the mean color of the picture.
+void fillWithMeanColor(Document& document, Properties& graphic);
+/// Whether one of the pictures of a frame can be read.
+[[nodiscard]] bool hasReadablePicture(const Document& document, const Node& frame);
 
 /// On which side of a dimension line its text is: "above" or "below".
 inline const QString LineTextAttribute = QLatin1String("labelport:line-text");

@@ -1,8 +1,10 @@
 #include "repair/table_rows.h"
 
+#include "repair/anchored_shapes.h"
 #include "repair/document.h"
 #include "repair/flow_step.h"
 #include "repair/lengths.h"
+#include "repair/shape_place.h"
 
 #include <QList>
 #include <QStringList>
@@ -83,10 +85,11 @@ Properties groundOf(const Properties& cell, const QString& fill)
 class TableReader
 {
 public:
-    TableReader(Document& document, QList<double> widths, double left, QString fill, int& row)
+    TableReader(Document& document, QList<double> widths, const TextPlace& place, QString fill,
+                int& row)
         : m_document(document)
         , m_widths(std::move(widths))
-        , m_left(left)
+        , m_place(place)
         , m_fill(std::move(fill))
         , m_row(row)
     {}
@@ -100,7 +103,7 @@ private:
 
     Document& m_document;
     const QList<double> m_widths;
-    const double m_left;
+    const TextPlace& m_place;
     const QString m_fill; // color of the table; may be empty
     int& m_row;
     int m_rows = 0;
@@ -126,7 +129,7 @@ void TableReader::readRow(Node& row)
         const int count = repeats(*cell, u"table:number-columns-repeated", MaximumColumns);
         if (cell->is(u"table:table-cell")) {
             const int span = repeats(*cell, u"table:number-columns-spanned", MaximumColumns);
-            const QRectF box(m_left + widthOf(0, static_cast<int>(column)), 0.0,
+            const QRectF box(m_place.column.left() + widthOf(0, static_cast<int>(column)), 0.0,
                              widthOf(column, span), 0.0);
             const Properties style = statedBy(m_document, *cell, u"style:table-cell-properties"_s);
             const QString fill = firstColor({style.value(BackgroundColor), rowFill, m_fill});
@@ -134,6 +137,9 @@ void TableReader::readRow(Node& row)
             frame->setAttribute(RowAttribute, QString::number(m_row));
             frame->setAttribute(FillsRowAttribute, u"true"_s);
             takeParagraphs(*cell, *frame->child(u"draw:text-box"), 0);
+            Node::Children shapes = takeAllShapes(m_document, *frame->child(u"draw:text-box"),
+                                                  {m_place.page, box, m_place.depth});
+            std::move(shapes.begin(), shapes.end(), std::back_inserter(m_cells));
             m_cells.push_back(std::move(frame));
         }
         column += cell->isText() ? 0 : count;
@@ -182,7 +188,7 @@ void takeParagraphs(Node& parent, Node& target, int depth)
     for (auto& child : parent.children) {
         if (child->is(u"text:p") || child->is(u"text:h") || child->is(u"text:list")) {
             target.children.push_back(std::move(child));
-        } else if (depth < 50 && !child->isText()) {
+        } else if (depth < 50 && !child->isText() && !isHidden(*child)) {
             takeParagraphs(*child, target, depth + 1);
         }
     }
@@ -231,11 +237,11 @@ std::unique_ptr<Node> textFrame(Document& document, const QRectF& box, const Pro
     return frame;
 }
 
-Node::Children tableCells(Document& document, Node& table, const QRectF& area, int& row)
+Node::Children tableCells(Document& document, Node& table, const TextPlace& place, int& row)
 {
     const QString fill =
         statedBy(document, table, u"style:table-properties"_s).value(BackgroundColor);
-    TableReader reader(document, columnWidths(document, table, area.width()), area.left(), fill,
+    TableReader reader(document, columnWidths(document, table, place.column.width()), place, fill,
                        row);
     reader.readRows(table, 0);
     return reader.take();

@@ -9,6 +9,7 @@
 namespace repair {
 
 class Document;
+struct TextPlace;
 
 /// A text box without padding at a place of the page.
 ///
@@ -23,9 +24,9 @@ void addBorder(const Properties& source, Properties& target);
 
 /// The cells of a table as text boxes, row by row; nested tables become text.
 ///
-/// @param area of the page's text
-/// @param row  counted on for each row of the table
-[[nodiscard]] Node::Children tableCells(Document& document, Node& table, const QRectF& area,
+/// @param place of the table
+/// @param row   counted on for each row of the table
+[[nodiscard]] Node::Children tableCells(Document& document, Node& table, const TextPlace& place,
                                         int& row);
 
 /// Columns of one table, and rows of it: what fits on a page and more.

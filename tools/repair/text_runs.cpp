@@ -1,5 +1,6 @@
 #include "repair/text_runs.h"
 
+#include "repair/anchored_shapes.h"
 #include "repair/document.h"
 
 #include <algorithm>
@@ -72,17 +73,30 @@ std::vector<Run> withoutBlankRuns(std::vector<Run> runs)
     std::vector<Run> joined;
     QString before;
     for (Run& run : runs) {
-        if (!isBlank(run.text)) {
+        if (!run.mark.isEmpty()) {
+            joined.push_back(std::move(run));
+        } else if (!isBlank(run.text)) {
             run.text.prepend(before);
             before.clear();
             joined.push_back(std::move(run));
-        } else if (joined.empty()) {
+        } else if (joined.empty() || !joined.back().mark.isEmpty()) {
             before += run.text;
         } else {
             joined.back().text += run.text;
         }
     }
     return joined;
+}
+
+// The reader makes an item only of text.
+std::vector<Run> withMarkHolder(std::vector<Run> runs)
+{
+    const bool hasText =
+        std::any_of(runs.begin(), runs.end(), [](const Run& run) { return run.mark.isEmpty(); });
+    if (!runs.empty() && !hasText) {
+        runs.push_back({runs.back().style, MarkHolder});
+    }
+    return runs;
 }
 
 } // namespace
@@ -112,6 +126,9 @@ void RunReader::readElement(const Node& element, const StyleProperties& style, i
         StyleProperties inner = style;
         inner.overlay(
             m_document.table().resolved(u"text"_s, element.attribute(u"text:style-name"), false));
+        if (inner.text.value(u"text:display"_s) == "none"_L1) {
+            return;
+        }
         m_counts.fields += depth > 1 ? 1 : 0;
         readInside(element, inner, depth);
     } else if (element.is(u"text:s")) {
@@ -127,10 +144,12 @@ void RunReader::readElement(const Node& element, const StyleProperties& style, i
         m_endsInBlank = true;
     } else if (element.is(u"text:note")) {
         readNote(element, style);
+    } else if (element.is(MarkElement)) {
+        addMark(element, style);
     } else if (element.is(u"text:page-number")) {
         ++m_counts.fields;
         add(QString::number(m_document.pageNumber), style);
-    } else if (!contains(Skipped, element.name)) {
+    } else if (!contains(Skipped, element.name) && !isHidden(element)) {
         m_counts.fields += contains(Transparent, element.name) || !element.children.empty() ? 1 : 0;
         readInside(element, style, depth);
     }
@@ -178,17 +197,31 @@ void RunReader::add(const QString& text, const StyleProperties& style)
         return;
     }
     m_endsInBlank = text.back() == u' ';
-    if (!m_runs.empty() && m_runs.back().style.text == style.text) {
+    if (!m_runs.empty() && m_runs.back().mark.isEmpty() && m_runs.back().style.text == style.text) {
         m_runs.back().text += text;
     } else {
         m_runs.push_back({style, text});
     }
 }
 
+void RunReader::addMark(const Node& mark, const StyleProperties& style)
+{
+    const QStringList values{mark.attribute(u"key"), mark.attribute(u"width"),
+                             mark.attribute(u"height"), mark.attribute(u"side")};
+    m_runs.push_back({style, QString(), values.join(u' ')});
+    // A blank after an object in its line separates it from the next word.
+    m_endsInBlank = m_endsInBlank && values.constLast() != "none"_L1;
+}
+
 void writeRuns(Document& document, Node& paragraph, std::vector<Run> runs)
 {
     paragraph.children.clear();
-    for (const Run& run : withoutBlankRuns(std::move(runs))) {
+    QStringList marks;
+    for (const Run& run : withMarkHolder(withoutBlankRuns(std::move(runs)))) {
+        if (!run.mark.isEmpty()) {
+            marks.append(run.mark);
+            continue;
+        }
         StyleProperties shown;
         for (const QLatin1StringView name : TextNames) {
             if (run.style.text.contains(name)) {
@@ -204,6 +237,13 @@ void writeRuns(Document& document, Node& paragraph, std::vector<Run> runs)
         Node& span = paragraph.append(Node::element(u"text:span"_s));
         span.setAttribute(u"text:style-name"_s, document.styleFor(u"text"_s, shown));
         span.append(Node::characters(run.text));
+        if (!marks.isEmpty()) {
+            span.setAttribute(MarksAttribute, marks.join(u';'));
+            marks.clear();
+        }
+    }
+    if (!marks.isEmpty()) {
+        paragraph.setAttribute(MarksAttribute, marks.join(u';'));
     }
 }
 

@@ -18,6 +18,8 @@ struct Run
 {
     StyleProperties style;
     QString text;
+    /// The mark of an object, in the form of MarksAttribute; then there is no text.
+    QString mark = {};
 };
 
 /// What was replaced in the texts of a document.
@@ -50,6 +52,7 @@ private:
     void readNote(const Node& note, const StyleProperties& style);
     void addText(const QString& text, const StyleProperties& style);
     void add(const QString& text, const StyleProperties& style);
+    void addMark(const Node& mark, const StyleProperties& style);
 
     Document& m_document;
     TextCounts& m_counts;

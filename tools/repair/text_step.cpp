@@ -20,7 +20,7 @@ const QString DefaultTextFont = u"Times New Roman"_s;
 const QString DefaultDrawingSize = u"18pt"_s;
 constexpr QLatin1StringView ParagraphNames[] = {
     "fo:text-align"_L1,    "fo:margin-left"_L1, "fo:margin-right"_L1, "fo:margin-top"_L1,
-    "fo:margin-bottom"_L1, "fo:text-indent"_L1, "fo:line-height"_L1};
+    "fo:margin-bottom"_L1, "fo:text-indent"_L1, "fo:line-height"_L1,  "fo:background-color"_L1};
 
 bool isParagraph(const Node& node)
 {

@@ -224,6 +224,16 @@ QString Node::allText() const
     return all;
 }
 
+bool isHidden(const Node& node)
+{
+    const QString display = node.attribute(u"text:display");
+    if (display == "none"_L1) {
+        return true;
+    }
+    const bool hasCondition = display == "condition"_L1 || node.name.startsWith("text:hidden-"_L1);
+    return hasCondition && node.attribute(u"text:is-hidden") == "true"_L1;
+}
+
 std::unique_ptr<Node> parseTree(const QByteArray& bytes, qint64 treeBytes)
 {
     if (xmllimits::exceededLimit(bytes, treeBytes, Costs)) {

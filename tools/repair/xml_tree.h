@@ -67,6 +67,9 @@ public:
 /// The document as UTF-8 text.
 [[nodiscard]] QByteArray writeTree(const Node& root);
 
+/// Whether a section, paragraph or text of a text document is not shown.
+[[nodiscard]] bool isHidden(const Node& node);
+
 /// Calls a function with every element below the root, parents first.
 template <class Function>
 void forEachElement(Node& root, const Function& function)

@@ -8,7 +8,9 @@
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextDocumentFragment>
 #include <QTextFragment>
+#include <QTextFrame>
 #include <QVariant>
 
 #include <memory>
@@ -38,6 +40,41 @@ void boundStretch(QTextDocument& document, const Stretch& stretch)
     QTextCharFormat format;
     format.setFontPointSize(MaximumFontSize);
     cursor.mergeCharFormat(format);
+}
+
+// A parsed document states the plain page that it would have anyway. Written, it would be a table,
+// in which Qt reads an empty first paragraph as two.
+void forgetPlainPage(QTextDocument& document)
+{
+    const QTextFrameFormat page = document.rootFrame()->frameFormat();
+    const bool isPlain = page.border() == 0.0 && page.padding() == 0.0 && page.topMargin() == 0.0 &&
+                         page.bottomMargin() == 0.0 && page.leftMargin() == 0.0 &&
+                         page.rightMargin() == 0.0 &&
+                         page.width().type() == QTextLength::VariableLength &&
+                         page.height().type() == QTextLength::VariableLength;
+    if (!isPlain) {
+        return;
+    }
+    document.setDocumentMargin(0.0); // not part of a copy
+    QTextFrameFormat plain;
+    plain.setMargin(0.0);
+    if (page.hasProperty(QTextFormat::BackgroundBrush)) {
+        plain.setBackground(page.background());
+    }
+    document.rootFrame()->setFrameFormat(plain);
+}
+
+// In a page with a format of its own, Qt reads an empty first paragraph as two.
+void writeOneParagraphLess(const QTextDocument& document, QString& html)
+{
+    const QTextBlock first = document.firstBlock();
+    const bool isRead = html.contains("-qt-table-type: root"_L1) && first.text().isEmpty() &&
+                        first.next().isValid() && first.next().text().isEmpty();
+    const qsizetype begin = html.indexOf("<p style=\"-qt-paragraph-type:empty"_L1);
+    const qsizetype end = html.indexOf("</p>"_L1, begin);
+    if (isRead && begin >= 0 && end > begin) {
+        html.remove(begin, end + 4 - begin);
+    }
 }
 
 /// What a document gets instead of a resource.
@@ -117,12 +154,21 @@ QString documentHtml(const QTextDocument& document)
     placeholder.setWeight(QFont::Weight(1));
     const std::unique_ptr<QTextDocument> copy(document.clone());
     copy->setDefaultFont(placeholder);
+    forgetPlainPage(*copy);
     static const QRegularExpression bodyStyle(u"<body style=\"[^\"]*\""_s);
     // The page of a parsed document has its own border, of width 0.
-    return copy->toHtml()
-        .replace(bodyStyle, u"<body"_s)
-        .replace(u"<table border=\"0\" style=\"-qt-table-type: root;"_s,
-                 u"<table style=\"-qt-table-type: root;"_s);
+    QString html = copy->toHtml()
+                       .replace(bodyStyle, u"<body"_s)
+                       .replace(u"<table border=\"0\" style=\"-qt-table-type: root;"_s,
+                                u"<table style=\"-qt-table-type: root;"_s);
+    writeOneParagraphLess(*copy, html);
+    return html;
+}
+
+QString textOfHtml(const QString& html)
+{
+    return QTextDocumentFragment::fromHtml(html).toPlainText().remove(
+        QChar::ObjectReplacementCharacter);
 }
 
 QString formattedHtml(const QString& html, const QTextCharFormat& format)

@@ -48,6 +48,9 @@ void boundFontSizes(QTextDocument& document);
 /// they would be explicit.
 [[nodiscard]] QString documentHtml(const QTextDocument& document);
 
+/// The characters of a document's HTML, without its pictures.
+[[nodiscard]] QString textOfHtml(const QString& html);
+
 /// The HTML of a document with a format added to all its characters.
 [[nodiscard]] QString formattedHtml(const QString& html, const QTextCharFormat& format);
 

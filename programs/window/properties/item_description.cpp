@@ -3,10 +3,11 @@
 #include "window/properties/property.h"
 #include "window/properties/style_names.h"
 
+#include "workbench/items/label_document.h"
+
 #include <QCoreApplication>
 #include <QImage>
 #include <QLocale>
-#include <QTextDocumentFragment>
 
 #include <algorithm>
 #include <optional>
@@ -35,8 +36,7 @@ QString shortened(const QString& text, int length)
 
 QString plainText(const workbench::TextValues& text)
 {
-    return text.html.isEmpty() ? text.text
-                               : QTextDocumentFragment::fromHtml(text.html).toPlainText();
+    return text.html.isEmpty() ? text.text : workbench::textOfHtml(text.html);
 }
 
 QString pixelText(const QSize& size)

@@ -32,6 +32,7 @@ struct Property
 };
 
 constexpr auto FormatLoss = LossKind::TextFormat;
+constexpr auto LetterLoss = LossKind::TextEffect;
 constexpr auto EffectLoss = LossKind::EffectDropped;
 constexpr auto FillLoss = LossKind::FillSimplified;
 
@@ -41,15 +42,15 @@ constexpr std::array Properties{
     Property{"text"_L1, "style:text-position"_L1, Test::IsNot, "0% 100%"_L1, FormatLoss},
     Property{"text"_L1, "style:text-line-through-style"_L1, Test::IsNot, "none"_L1, FormatLoss},
     Property{"text"_L1, "style:text-line-through-type"_L1, Test::IsNot, "none"_L1, FormatLoss},
-    Property{"text"_L1, "style:text-outline"_L1, Test::Is, "true"_L1, FormatLoss},
-    Property{"text"_L1, "fo:text-shadow"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"text"_L1, "style:text-outline"_L1, Test::Is, "true"_L1, LetterLoss},
+    Property{"text"_L1, "fo:text-shadow"_L1, Test::IsNot, "none"_L1, LetterLoss},
     Property{"text"_L1, "fo:font-variant"_L1, Test::IsNot, "normal"_L1, FormatLoss},
     Property{"text"_L1, "fo:text-transform"_L1, Test::IsNot, "none"_L1, FormatLoss},
     Property{"text"_L1, "fo:letter-spacing"_L1, Test::IsNonZero, {}, FormatLoss},
-    Property{"text"_L1, "style:text-scale"_L1, Test::IsNot, "100%"_L1, FormatLoss},
+    Property{"text"_L1, "style:text-scale"_L1, Test::IsNot, "100%"_L1, LetterLoss},
     Property{"text"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, FormatLoss},
-    Property{"text"_L1, "style:font-relief"_L1, Test::IsNot, "none"_L1, FormatLoss},
-    Property{"text"_L1, "style:text-rotation-angle"_L1, Test::IsNonZero, {}, FormatLoss},
+    Property{"text"_L1, "style:font-relief"_L1, Test::IsNot, "none"_L1, LetterLoss},
+    Property{"text"_L1, "style:text-rotation-angle"_L1, Test::IsNonZero, {}, LetterLoss},
     Property{"paragraph"_L1, "fo:margin-top"_L1, Test::IsNonZero, {}, FormatLoss},
     Property{"paragraph"_L1, "fo:margin-bottom"_L1, Test::IsNonZero, {}, FormatLoss},
     Property{"paragraph"_L1, "fo:break-before"_L1, Test::IsNot, "auto"_L1, LossKind::PageBreak},
@@ -58,16 +59,16 @@ constexpr std::array Properties{
     Property{"paragraph"_L1, "fo:line-height"_L1, Test::IsNot, "100%"_L1, FormatLoss},
     Property{"paragraph"_L1, "fo:text-align"_L1, Test::Is, "justify"_L1, FormatLoss},
     Property{"paragraph"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, FormatLoss},
-    Property{"paragraph"_L1, "fo:border"_L1, Test::IsNot, "none"_L1, FormatLoss},
-    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsNot, "none"_L1, FormatLoss},
-    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsNot, "none"_L1, FormatLoss},
-    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsNot, "none"_L1, FormatLoss},
-    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border"_L1, Test::IsNot, "none"_L1, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsNot, "none"_L1, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsNot, "none"_L1, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsNot, "none"_L1, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsNot, "none"_L1, LetterLoss},
     Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "gradient"_L1, FillLoss, Target::Shape},
     Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "hatch"_L1, FillLoss, Target::Shape},
-    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "bitmap"_L1, FillLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:fill"_L1, Test::Is, "bitmap"_L1, LossKind::PictureFill, Target::Shape},
     Property{"graphic"_L1, "draw:opacity"_L1, Test::IsOpacity, {}, LossKind::Transparency, Target::Shape},
-    Property{"graphic"_L1, "draw:opacity-name"_L1, Test::IsNot, ""_L1, EffectLoss, Target::Shape},
+    Property{"graphic"_L1, "draw:opacity-name"_L1, Test::IsNot, ""_L1, LossKind::Transparency, Target::Shape},
     Property{"graphic"_L1, "svg:stroke-opacity"_L1, Test::IsOpacity, {}, LossKind::Transparency, Target::Shape},
     Property{"graphic"_L1, "draw:shadow"_L1, Test::Is, "visible"_L1, EffectLoss, Target::Shape},
     Property{"graphic"_L1, "style:shadow"_L1, Test::IsNot, "none"_L1, EffectLoss, Target::Shape},

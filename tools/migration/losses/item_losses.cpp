@@ -101,7 +101,10 @@ QColor textColorOf(const ItemValues& values)
 QString shownText(const workbench::CanvasItem& item, const ItemValues& values)
 {
     const auto* const document = dynamic_cast<const QGraphicsTextItem*>(item.graphicsItem());
-    const QString text = document != nullptr ? document->toPlainText() : QString();
+    // Invisible pictures keep the room of objects in a text.
+    const QString text = document != nullptr
+                             ? document->toPlainText().remove(QChar::ObjectReplacementCharacter)
+                             : QString();
     return text.isEmpty() ? values.text->text : text;
 }
 

@@ -3,13 +3,13 @@
 #include "limits/image/png_chunks.h"
 #include "limits/zip/zip_directory.h"
 #include "workbench/import/label_import.h"
+#include "workbench/items/label_document.h"
 #include "workbench/items/shape_kinds.h"
 #include "workbench/rendering/page_image.h"
 
 #include <QBuffer>
 #include <QMap>
 #include <QPainter>
-#include <QTextDocumentFragment>
 
 #include <algorithm>
 #include <cmath>
@@ -69,9 +69,8 @@ QString contentOf(const workbench::ItemValues& values)
     if (!values.text) {
         return {};
     }
-    const QString text = values.text->html.isEmpty()
-                             ? values.text->text
-                             : QTextDocumentFragment::fromHtml(values.text->html).toPlainText();
+    const QString text =
+        values.text->html.isEmpty() ? values.text->text : workbench::textOfHtml(values.text->html);
     return text.left(ContentLength);
 }
 
@@ -80,7 +79,18 @@ QSizeF sizeOf(const workbench::ItemValues& values)
     return values.line ? QSizeF(values.line->end.x(), values.line->end.y()) : values.box.size;
 }
 
-ItemReport itemReportOf(const workbench::ItemValues& values)
+// What the label shows: an item that is bound to a data source shows its first record.
+QString shownContent(const workbench::ItemValues& values, const workbench::ImportResult& result)
+{
+    std::optional<QString> content;
+    if (values.datasource && result.datasources) {
+        content =
+            result.datasources->recordText(values.datasource->id, 0, values.datasource->fields);
+    }
+    return content ? content->left(ContentLength) : contentOf(values);
+}
+
+ItemReport itemReportOf(const workbench::ItemValues& values, const workbench::ImportResult& result)
 {
     const QSizeF size = sizeOf(values);
     return {workbench::shapeCode(values.type),
@@ -88,7 +98,7 @@ ItemReport itemReportOf(const workbench::ItemValues& values)
             toMillimeters(values.placement.position.y()),
             toMillimeters(size.width()),
             toMillimeters(size.height()),
-            contentOf(values),
+            shownContent(values, result),
             values.datasource ? values.datasource->id : -1};
 }
 
@@ -164,11 +174,11 @@ void describeLabel(const workbench::ImportResult& result, FileReport& report)
     }
 }
 
-QList<ItemReport> itemListOf(const workbench::Canvas& canvas)
+QList<ItemReport> itemListOf(const workbench::ImportResult& result)
 {
     QList<ItemReport> items;
-    for (const workbench::CanvasItem* item : canvas.items()) {
-        items.append(itemReportOf(item->values()));
+    for (const workbench::CanvasItem* item : result.canvas->items()) {
+        items.append(itemReportOf(item->values(), result));
     }
     return items;
 }

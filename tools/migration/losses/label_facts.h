@@ -15,7 +15,7 @@ namespace migration {
 void describeLabel(const workbench::ImportResult& result, FileReport& report);
 
 /// Every item, one by one.
-[[nodiscard]] QList<ItemReport> itemListOf(const workbench::Canvas& canvas);
+[[nodiscard]] QList<ItemReport> itemListOf(const workbench::ImportResult& result);
 
 /// A small picture of the label as PNG, at most 160 pixels a side and a few kilobytes.
 /// Empty when it cannot be painted.

@@ -1,0 +1,245 @@
+#include "repair/anchored_shapes.h"
+
+#include "repair/document.h"
+#include "repair/lengths.h"
+#include "repair/shape_place.h"
+#include "repair/table_rows.h"
+
+#include <algorithm>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Sections, lists, and objects within one another.
+constexpr int MaximumDepth = 100;
+// Points below its paragraph's top from where an object is placed below it.
+constexpr double BelowParagraph = 8.0;
+
+QString sideOf(Flow flow)
+{
+    if (flow == Flow::BesideLeft || flow == Flow::BesideRight) {
+        return flow == Flow::BesideLeft ? u"left"_s : u"right"_s;
+    }
+    return u"none"_s;
+}
+
+// Shapes in a text have an outline unless they state none.
+void writeShapeStyle(Document& document, Node& shape)
+{
+    StyleProperties style =
+        document.table().resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true);
+    if (!shape.is(u"draw:g") && !style.graphic.contains(u"draw:stroke"_s)) {
+        style.graphic.insert(u"draw:stroke"_s, u"solid"_s);
+        shape.setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
+    }
+}
+
+/// Takes the objects out of paragraphs.
+class ShapeTaker
+{
+public:
+    ShapeTaker(Document& document, const TextPlace& place, bool inRows, TakenShapes& taken)
+        : m_document(document)
+        , m_place(place)
+        , m_inRows(inRows)
+        , m_taken(taken)
+    {}
+
+    void takeFrom(Node& paragraph);
+
+private:
+    void takeInside(Node& parent, int depth);
+    [[nodiscard]] std::unique_ptr<Node> place(std::unique_ptr<Node> shape);
+    void placeInRow(std::unique_ptr<Node> shape, const QRectF& box);
+    void takeNested(Node& box, const QRectF& column);
+    [[nodiscard]] std::unique_ptr<Node> mark(Node& shape, const Anchor& anchor);
+
+    Document& m_document;
+    const TextPlace& m_place;
+    const bool m_inRows;
+    TakenShapes& m_taken;
+    Node::Children m_marks; // at the start of the paragraph
+};
+
+void ShapeTaker::takeFrom(Node& paragraph)
+{
+    takeInside(paragraph, 0);
+    paragraph.children.insert(paragraph.children.begin(), std::make_move_iterator(m_marks.begin()),
+                              std::make_move_iterator(m_marks.end()));
+    m_marks.clear();
+}
+
+void ShapeTaker::takeInside(Node& parent, int depth)
+{
+    for (auto& child : parent.children) {
+        if (child->is(u"text:soft-page-break")) {
+            m_taken.hasPageBreak = true;
+        } else if (isShape(*child)) {
+            child = place(std::move(child));
+        } else if (depth < MaximumDepth && !child->is(u"text:note") &&
+                   !child->is(u"office:annotation")) {
+            takeInside(*child, depth + 1);
+        }
+    }
+    std::erase(parent.children, nullptr);
+}
+
+// The mark that the object leaves in its place; null if it leaves none.
+std::unique_ptr<Node> ShapeTaker::place(std::unique_ptr<Node> shape)
+{
+    if (shape->is(u"draw:frame")) {
+        writeFrameStyle(m_document, *shape);
+    } else {
+        writeShapeStyle(m_document, *shape);
+    }
+    Anchor anchor = anchorOf(m_document, *shape, m_place);
+    if (Node* const box = shape->child(u"draw:text-box")) {
+        takeNested(*box, anchor.box);
+    }
+    if (anchor.flow == Flow::Page) {
+        moveShape(*shape, anchor.box.topLeft() - boundsOf(*shape).topLeft());
+        m_taken.anchored.push_back(std::move(shape));
+        return nullptr;
+    }
+    if (anchor.flow == Flow::Rows) {
+        if (m_inRows) {
+            placeInRow(std::move(shape), anchor.box);
+            return nullptr;
+        }
+        anchor.flow = Flow::InLine;
+        anchor.room = anchor.box.size();
+    }
+    auto left = mark(*shape, anchor);
+    m_taken.anchored.push_back(std::move(shape));
+    if (anchor.flow == Flow::InLine) {
+        return left;
+    }
+    m_marks.push_back(std::move(left));
+    return nullptr;
+}
+
+void ShapeTaker::takeNested(Node& box, const QRectF& column)
+{
+    if (m_place.depth < MaximumDepth) {
+        Node::Children nested =
+            takeAllShapes(m_document, box, {m_place.page, column, m_place.depth + 1});
+        std::move(nested.begin(), nested.end(), std::back_inserter(m_taken.anchored));
+    }
+}
+
+std::unique_ptr<Node> ShapeTaker::mark(Node& shape, const Anchor& anchor)
+{
+    const QString key = QString::number(m_document.newMark());
+    shape.setAttribute(AnchorAttribute, key);
+    const QRectF own = boundsOf(shape);
+    if (anchor.flow == Flow::InLine) {
+        shape.setAttribute(InLineAttribute, u"true"_s);
+        moveShape(shape, -own.topLeft());
+    } else {
+        moveShape(shape, anchor.box.topLeft() - own.topLeft());
+    }
+    auto node = Node::element(MarkElement);
+    node->attributes = {{u"key"_s, key},
+                        {u"width"_s, QString::number(anchor.room.width(), 'f', 2)},
+                        {u"height"_s, QString::number(anchor.room.height(), 'f', 2)},
+                        {u"side"_s, sideOf(anchor.flow)}};
+    return node;
+}
+
+void ShapeTaker::placeInRow(std::unique_ptr<Node> shape, const QRectF& box)
+{
+    const QRectF own = boundsOf(*shape);
+    const bool isBelow = box.top() > BelowParagraph;
+    moveShape(*shape, {box.left() - own.left(), -own.top()});
+    (isBelow ? m_taken.below : m_taken.above).push_back(std::move(shape));
+}
+
+void takeFromBlock(ShapeTaker& taker, Node& block, int depth)
+{
+    if (isParagraph(block)) {
+        taker.takeFrom(block);
+        return;
+    }
+    for (const auto& child : block.children) {
+        if (depth < MaximumDepth && child->name.startsWith("text:"_L1)) {
+            takeFromBlock(taker, *child, depth + 1);
+        }
+    }
+}
+
+// A frame grows with its text: its lines are counted.
+void writeHeight(Document& document, Node& frame)
+{
+    const Node* const box = frame.child(u"draw:text-box");
+    if (box == nullptr || frame.hasAttribute(u"svg:height")) {
+        return;
+    }
+    const Properties graphic = graphicOf(document, frame);
+    const double padding = 2.0 * toPoints(graphic.value(u"fo:padding"_s)).value_or(0.0);
+    const double lines = linesHeight(document, *box) + padding;
+    frame.setAttribute(u"svg:height"_s,
+                       toInches(std::max(lines, pointsOf(*box, u"fo:min-height"))));
+}
+
+} // namespace
+
+bool isParagraph(const Node& node)
+{
+    return node.is(u"text:p") || node.is(u"text:h");
+}
+
+bool isShape(const Node& node)
+{
+    return node.name.startsWith("draw:"_L1) && !node.is(u"draw:a");
+}
+
+TakenShapes takeShapes(Document& document, Node& block, const TextPlace& place, bool inRows)
+{
+    TakenShapes taken;
+    ShapeTaker taker(document, place, inRows, taken);
+    takeFromBlock(taker, block, 0);
+    return taken;
+}
+
+Node::Children takeAllShapes(Document& document, Node& container, const TextPlace& place)
+{
+    TakenShapes taken;
+    ShapeTaker taker(document, place, false, taken);
+    for (const auto& child : container.children) {
+        takeFromBlock(taker, *child, 0);
+    }
+    return std::move(taken.anchored);
+}
+
+void writeFrameStyle(Document& document, Node& frame)
+{
+    StyleProperties style =
+        document.table().resolved(u"graphic"_s, frame.attribute(u"draw:style-name"), false);
+    Properties& graphic = style.graphic;
+    const QString fill = graphic.value(u"draw:fill"_s);
+    if (fill.isEmpty()) {
+        const QString color = graphic.value(u"fo:background-color"_s);
+        graphic.insert(u"draw:fill"_s, color.startsWith(u'#') ? u"solid"_s : u"none"_s);
+        graphic.insert(u"draw:fill-color"_s, color);
+    }
+    addBorder(graphic, graphic);
+    graphic.insert(u"fo:wrap-option"_s, u"wrap"_s);
+    if (!graphic.contains(u"draw:stroke"_s)) {
+        graphic.insert(u"draw:stroke"_s, u"none"_s);
+    }
+    for (const QString& side : {u"left"_s, u"right"_s, u"top"_s, u"bottom"_s}) {
+        const QString name = u"fo:padding-"_s + side;
+        if (!graphic.contains(u"fo:padding"_s) && !graphic.contains(name)) {
+            graphic.insert(name, u"0in"_s);
+        }
+    }
+    style.text.clear();
+    style.paragraph.clear();
+    frame.setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
+    writeHeight(document, frame);
+}
+
+} // namespace repair

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "repair/text_anchor.h"
+#include "repair/xml_tree.h"
+
+#include <QString>
+
+namespace repair {
+
+class Document;
+
+// An object in a text leaves a mark. After the import, a mark is an invisible picture as large as
+// the object: lines leave room for it, and the layout of the text decides where the object is.
+
+/// The element of a mark in a paragraph, with the attributes key, width, height (points) and side.
+inline const QString MarkElement = QLatin1String("labelport:mark");
+/// Marks before a span, or at the end of a paragraph: "key width height side", separated by ";".
+inline const QString MarksAttribute = QLatin1String("labelport:marks");
+/// The text of a paragraph that has marks and no words: the reader makes no item without text.
+inline constexpr QChar MarkHolder = QChar(0x200B);
+
+/// The objects of a paragraph or list.
+struct TakenShapes
+{
+    Node::Children anchored; ///< with marks, or with a place on the page
+    Node::Children above;    ///< that the lines do not run beside
+    Node::Children below;
+    bool hasPageBreak = false;
+};
+
+/// Takes the objects out of a paragraph or list.
+///
+/// @param inRows whether objects may come above and below the text; otherwise all are anchored
+[[nodiscard]] TakenShapes takeShapes(Document& document, Node& block, const TextPlace& place,
+                                     bool inRows);
+
+/// The same for all paragraphs of a cell, header, or frame.
+[[nodiscard]] Node::Children takeAllShapes(Document& document, Node& container,
+                                           const TextPlace& place);
+
+/// Frames have neither pen nor fill by default, but borders and a background.
+void writeFrameStyle(Document& document, Node& frame);
+
+[[nodiscard]] bool isShape(const Node& node);
+[[nodiscard]] bool isParagraph(const Node& node);
+
+} // namespace repair
