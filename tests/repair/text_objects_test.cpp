@@ -59,6 +59,19 @@ public:
         }
         return boxes;
     }
+    /// The colors of their pens.
+    [[nodiscard]] QStringList pens() const
+    {
+        QStringList pens;
+        for (const workbench::CanvasItem* const item : m_import.result.canvas->items()) {
+            const workbench::ItemValues values = item->values();
+            if (item->shapeType() == KestTypes::Rectangle && values.box.size.width() < 1.5 * Inch) {
+                const bool isDrawn = values.pen && values.pen->style != Qt::NoPen;
+                pens.append(isDrawn ? values.pen->color.name() : u"none"_s);
+            }
+        }
+        return pens;
+    }
     [[nodiscard]] QRectF rectangle() const { return boxes(KestTypes::Rectangle).value(0); }
 
 private:
