@@ -34,6 +34,7 @@ archive::RunSettings settingsFor(const ImportOptions& options, const ImportInput
     for (const exporting::Target target : options.targets) {
         settings.targets.append(exporting::nameOf(target));
     }
+    settings.tables = exporting::recordsSuffixes(settings.targets);
     settings.outputFolder = options.outputDir;
     settings.outputFile = writesToStandardOutput(options) ? QString() : options.output;
     settings.shard = inputs.part ? inputs.part->shard : options.shard;

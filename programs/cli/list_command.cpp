@@ -66,7 +66,8 @@ QString writeLists(const QString& folder, const archive::Inputs& inputs, int cou
         return Tr::tr("\"%1\" exists, and is not a list of labelport.")
             .arg(QDir(folder).filePath(foreign));
     }
-    const archive::OutputNames names(inputs, exporting::targetNames());
+    const QStringList targets = exporting::targetNames();
+    const archive::OutputNames names(inputs, targets + exporting::recordsSuffixes(targets));
     for (int number = 1; number <= count; ++number) {
         const QString name = listName(number);
         QSaveFile file(directory.filePath(name));

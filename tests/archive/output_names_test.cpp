@@ -98,6 +98,25 @@ TEST(OutputNames, AreNotThoseOfNeededFolders)
               list("conflicting x.png/a.svg"));
 }
 
+// "a.glabels.csv" is the table of "a.glabels", and would be the output of "a.glabels.cnv".
+TEST(OutputNames, AreNotThoseOfTables)
+{
+    const QStringList suffixes = list("csv glabels glabels.csv");
+    EXPECT_EQ(outputsOf(list("a.cnv a.glabels.cnv b.cnv"), suffixes),
+              list("a.cnv.csv a.glabels.cnv.csv b.csv"));
+    EXPECT_EQ(outputsOf(list("f>a.cnv g>a.glabels.cnv"), suffixes),
+              list("f/a.csv g/a.glabels.csv"));
+    EXPECT_EQ(outputsOf(list("a.glabels.cnv a.cnv a.glabels.odg"), suffixes),
+              list("a.glabels.cnv.csv a.cnv.csv a.glabels.odg.csv"));
+    EXPECT_EQ(outputsOf(list("a.cnv a.odg a.cnv.glabels.odg"), suffixes),
+              list("conflicting a.odg.csv conflicting"));
+    EXPECT_EQ(outputsOf(list("a.cnv a.glabels.cnv"), list("glabels glabels.csv")),
+              list("a.glabels a.glabels.glabels"))
+        << "no output is a \"csv\"";
+    EXPECT_EQ(outputsOf(list("a.cnv a.glabels.csv>b.cnv"), suffixes),
+              list("conflicting a.glabels.csv/b.csv"));
+}
+
 TEST(OutputNames, KeepPagesApartFromOtherOutputs)
 {
     const auto markOf = [](const char* names) {
@@ -109,6 +128,9 @@ TEST(OutputNames, KeepPagesApartFromOtherOutputs)
     EXPECT_EQ(markOf("shelf.odg shelf-2.odg"), u"-page-"_s);
     EXPECT_EQ(markOf("shelf.odg shelf-17.cnv shelf-page-3.odg"), u"-page-page-"_s);
     EXPECT_EQ(markOf("a>shelf.odg b>shelf-2.odg"), u"-"_s);
+    const archive::Inputs inputs = inputsOf(list("shelf.odg shelf-2.glabels.cnv"));
+    EXPECT_EQ(archive::OutputNames(inputs, list("csv glabels glabels.csv")).pageMark(0),
+              u"-page-"_s);
 }
 
 } // namespace

@@ -33,8 +33,12 @@ OutputNames::OutputNames(const Inputs& inputs, const QStringList& suffixes)
     resolveConflicts(Naming::Stem, Naming::CompleteName);
     resolveConflicts(Naming::CompleteName, Naming::Conflicting);
     findFolders();
+    const QStringList parts = tableParts();
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
-        const QString name = stem(index);
+        QString name = stem(index);
+        for (const QString& part : parts) {
+            name.chop(name.endsWith(part) ? part.size() : 0);
+        }
         const QString letters = withoutNumber(name);
         if (letters != name) {
             m_numbered.insert(qHash(letters, 0));
@@ -104,24 +108,57 @@ QString OutputNames::stem(qsizetype index) const
                  m_naming.at(index) == Naming::Stem ? info.completeBaseName() : info.fileName());
 }
 
+/// What the names of tables have between the stem and the suffix of another target: ".glabels" of
+/// "shelf.glabels.csv", if "shelf.glabels" may also become a "csv".
+QStringList OutputNames::tableParts() const
+{
+    QStringList parts;
+    for (const QString& suffix : m_suffixes) {
+        const qsizetype dot = suffix.indexOf(u'.');
+        if (dot > 0 && m_suffixes.contains(suffix.mid(dot + 1))) {
+            parts.append(u'.' + suffix.left(dot));
+        }
+    }
+    return parts;
+}
+
+/// The stems that no other input may have.
+QStringList OutputNames::claims(qsizetype index) const
+{
+    const QString own = stem(index);
+    QStringList stems{own};
+    for (const QString& part : tableParts()) {
+        stems.append(own + part);
+    }
+    return stems;
+}
+
 void OutputNames::resolveConflicts(Naming from, Naming to)
 {
     HashedIndexes stems;
     stems.reserve(m_inputs.size());
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
-        stems.add(stem(index), index);
+        for (const QString& claim : claims(index)) {
+            stems.add(claim, index);
+        }
     }
     stems.sort();
     QList<qsizetype> conflicting;
     for (const QList<qsizetype>& group : stems.groups()) {
         QHash<QString, qsizetype> uses;
-        for (const qsizetype index : group) {
-            ++uses[stem(index)];
+        const QSet<qsizetype> indexes(group.begin(), group.end());
+        for (const qsizetype index : indexes) {
+            for (const QString& claim : claims(index)) {
+                ++uses[claim];
+            }
         }
-        for (const qsizetype index : group) {
+        for (const qsizetype index : indexes) {
+            const QStringList own = claims(index);
+            const bool isContested = std::any_of(own.begin(), own.end(), [&](const QString& claim) {
+                return uses.value(claim) > 1;
+            });
             // A short name that equals a complete name conflicts like that name.
-            if (uses.value(stem(index)) > 1 &&
-                (m_naming.at(index) == from || to == Naming::Conflicting)) {
+            if (isContested && (m_naming.at(index) == from || to == Naming::Conflicting)) {
                 conflicting.append(index);
             }
         }

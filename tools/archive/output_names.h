@@ -28,12 +28,16 @@ struct OutputName
 /// names are equal as well (two files of one name from two folders), or an output has the name of a
 /// folder of other outputs, the names conflict, and none of them is written.
 ///
-/// The names depend on the set of inputs only, not on their order.
+/// An output may have a table of records next to it, "shelf.glabels.csv". Its name counts, too: the
+/// outputs of shelf.cnv and shelf.glabels.cnv keep their complete names.
+///
+/// The names depend on the set of inputs and suffixes only, not on the order of inputs.
 class OutputNames
 {
 public:
     /// @param inputs   must outlive the names, unchanged
-    /// @param suffixes of all targets, without dots
+    /// @param suffixes of all targets and of their tables, without the first dot: "glabels",
+    ///                 "glabels.csv"
     OutputNames(const Inputs& inputs, const QStringList& suffixes);
     /// With names that were chosen for a complete archive, of which the inputs are a part.
     OutputNames(const Inputs& inputs, const QStringList& suffixes, const QList<OutputName>& chosen);
@@ -53,6 +57,8 @@ private:
     using Naming = OutputName::Naming;
 
     [[nodiscard]] QString stem(qsizetype index) const;
+    [[nodiscard]] QStringList claims(qsizetype index) const;
+    [[nodiscard]] QStringList tableParts() const;
     void resolveConflicts(Naming from, Naming to);
     void findFolders();
 

@@ -34,8 +34,9 @@ Run::Run(const Inputs& inputs, RunSettings settings, Deliver deliver)
     : m_inputs(inputs)
     , m_settings(std::move(settings))
     , m_deliver(std::move(deliver))
-    , m_names(m_settings.isPart ? OutputNames(m_inputs, m_settings.targets, m_settings.names)
-                                : OutputNames(m_inputs, m_settings.targets))
+    , m_names(m_settings.isPart
+                  ? OutputNames(m_inputs, m_settings.targets + m_settings.tables, m_settings.names)
+                  : OutputNames(m_inputs, m_settings.targets + m_settings.tables))
 {
     for (qsizetype index = 0; index < m_inputs.size(); ++index) {
         m_progress.total += takes(index) ? 1 : 0;

@@ -24,6 +24,7 @@ namespace archive {
 struct RunSettings
 {
     QStringList targets; ///< names, which are the suffixes of the outputs
+    QStringList tables;  ///< suffixes of the tables that outputs may have next to them
     QString outputFolder;
     QString outputFile; ///< in that folder: the output of the only input and target; may be empty
     Shard shard;

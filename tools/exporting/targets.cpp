@@ -194,6 +194,18 @@ QString recordsFileOf(Target target, const QString& fileName)
     return target == Target::Glabels ? fileName + QLatin1String(".csv") : QString();
 }
 
+QStringList recordsSuffixes(const QStringList& targetNames)
+{
+    QStringList suffixes;
+    for (const TargetEntry& entry : Targets) {
+        const QString table = recordsFileOf(entry.target, QLatin1String(entry.name));
+        if (!table.isEmpty() && targetNames.contains(QLatin1String(entry.name))) {
+            suffixes.append(table);
+        }
+    }
+    return suffixes;
+}
+
 int valueOf(const OptionValues& values, Target target, QLatin1String name)
 {
     const TargetOption* option = findOption(target, name);

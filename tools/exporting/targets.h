@@ -85,6 +85,9 @@ struct TargetEntry
 /// "asset.glabels.csv". Empty if the target has no such table.
 [[nodiscard]] QString recordsFileOf(Target target, const QString& fileName);
 
+/// The suffixes of these tables, without the first dot: "glabels.csv".
+[[nodiscard]] QStringList recordsSuffixes(const QStringList& targetNames);
+
 /// The values of options, by name: integers, true for a switch, a text for a name.
 using OptionValues = QJsonObject;
 
