@@ -1,14 +1,10 @@
-#include "exporting/glabels_export.h"
+// Labels for gLabels: paper, shapes, barcodes, records.
 
-#include "exporting/glabels_embedding.h"
+#include "glabels_fixture.h"
+
 #include "exporting/records_table.h"
-#include "workbench/canvas/canvas.h"
-#include "workbench/datasources/datasource_controller.h"
-
-#include <QXmlStreamReader>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -17,98 +13,6 @@ using namespace workbench;
 using namespace Qt::StringLiterals;
 using testing::HasSubstr;
 using testing::Not;
-
-ItemValues itemOf(KestTypes::ShapeType type, const QSizeF& size = {40, 20})
-{
-    ItemValues values;
-    values.type = type;
-    values.box.size = size;
-    values.placement.position = {10, 20};
-    return values;
-}
-
-ItemValues shapeOf(KestTypes::ShapeType type)
-{
-    ItemValues values = itemOf(type);
-    values.pen = PenValues{Qt::red, 2.0};
-    values.fill = FillValues{QColor(0, 255, 0, 128)};
-    return values;
-}
-
-ItemValues textOf(const QString& text)
-{
-    ItemValues values = itemOf(KestTypes::SimpleText, {200, 20});
-    values.pen = PenValues{Qt::black, 1.0, Qt::NoPen};
-    values.fill = FillValues();
-    values.font = FontValues{u"Liberation Sans"_s, 10, true};
-    values.textStyle = TextStyleValues{Qt::blue, Qt::AlignRight | Qt::AlignBottom};
-    values.text = TextValues{text, {}};
-    values.textLabel = TextLabelValues{{200, 20}};
-    return values;
-}
-
-ItemValues barcodeOf(int symbology, const QString& content)
-{
-    ItemValues values = itemOf(KestTypes::Barcode, {160, 60});
-    values.barcode = BarcodeValues();
-    values.barcode->symbology = symbology;
-    values.barcode->content = content;
-    return values;
-}
-
-class Glabels : public testing::Test
-{
-protected:
-    int addCounter(int end)
-    {
-        const int id = sources.createDatasource(u"SequenceDatasource"_s);
-        sources.getDatasource(id)->setDatasourceProperty(u"Start"_s, 1);
-        sources.getDatasource(id)->setDatasourceProperty(u"End"_s, end);
-        return id;
-    }
-
-    int addList(const QStringList& texts)
-    {
-        const int id = sources.createDatasource(u"TextListDatasource"_s);
-        sources.getDatasource(id)->setDatasourceProperty(u"TextList"_s, texts);
-        return id;
-    }
-
-    void addBound(ItemValues values, int id)
-    {
-        values.datasource = DatasourceValues{id, {}};
-        canvas.addItem(values);
-    }
-
-    GlabelsLabel write(const std::optional<printing::Sheet>& sheet = {})
-    {
-        canvas.showRecord(0, [this](int id, qint64 record, const QStringList& fields) {
-            return sources.recordText(id, record, fields);
-        });
-        GlabelsLabel label = toGlabels(canvas, sources, {u"asset"_s, u"asset.csv"_s, sheet});
-        QXmlStreamReader reader(label.label);
-        while (!reader.atEnd()) {
-            reader.readNext();
-        }
-        EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
-        return label;
-    }
-
-    std::string xml(const std::optional<printing::Sheet>& sheet = {})
-    {
-        return write(sheet).label.toStdString();
-    }
-
-    Fidelity onlyFidelity()
-    {
-        const QList<ExportFinding> findings = write().findings.all();
-        EXPECT_EQ(findings.size(), 1);
-        return findings.value(0).fidelity;
-    }
-
-    Canvas canvas;
-    datasources::DatasourceController sources;
-};
 
 TEST_F(Glabels, HasAPaperOfTheLabelsSize)
 {
@@ -169,29 +73,6 @@ TEST_F(Glabels, FlipsWithTheTransform)
     EXPECT_THAT(xml(), HasSubstr(R"(a0="-1" a1="0" a2="0" a3="1")"));
 }
 
-TEST_F(Glabels, EmbedsWhatItCannotDraw)
-{
-    ItemValues dashed = shapeOf(KestTypes::Rectangle);
-    dashed.pen->style = Qt::DashLine;
-    ItemValues gradient = shapeOf(KestTypes::Rectangle);
-    gradient.fill->style = Qt::LinearGradientPattern;
-    ItemValues beveled = shapeOf(KestTypes::Rectangle);
-    beveled.pen->join = Qt::BevelJoin;
-    ItemValues arrow = itemOf(KestTypes::Line);
-    arrow.pen = PenValues{Qt::black, 1.0};
-    arrow.line = LineValues{{50, 10}, 0, 1};
-    for (const ItemValues& values :
-         {dashed, gradient, beveled, arrow, shapeOf(KestTypes::Diamond), shapeOf(KestTypes::Pie),
-          shapeOf(KestTypes::RoundedRectangle)}) {
-        canvas.clear();
-        canvas.addItem(values);
-        EXPECT_EQ(onlyFidelity(), Fidelity::Picture);
-        EXPECT_THAT(xml(), HasSubstr(R"(<Object-image)"));
-        EXPECT_THAT(xml(), HasSubstr(R"(<File name="drawing-1.svg" format="SVG"><![CDATA[)"));
-        EXPECT_THAT(xml(), HasSubstr(R"(preserveAspectRatio="none")"));
-    }
-}
-
 TEST_F(Glabels, LengthensLinesWithSquareEnds)
 {
     ItemValues line = itemOf(KestTypes::Line);
@@ -200,58 +81,6 @@ TEST_F(Glabels, LengthensLinesWithSquareEnds)
     canvas.addItem(line);
     EXPECT_THAT(xml(), HasSubstr(R"(<Object-line x="8pt" y="20pt" dx="34pt" dy="0pt")"));
     EXPECT_EQ(onlyFidelity(), Fidelity::Exact);
-}
-
-TEST_F(Glabels, WritesATextWithoutTheMarginOfGlabels)
-{
-    canvas.addItem(textOf(u"Anna & <Bob>\nCity"_s));
-    const std::string label = xml();
-    EXPECT_THAT(label, HasSubstr(R"(<Object-text x="7pt")"));
-    EXPECT_THAT(label, HasSubstr(R"(w="206pt")"));
-    EXPECT_THAT(label, HasSubstr(R"(justify="Right" valign="Bottom")"));
-    EXPECT_THAT(label, HasSubstr("font_family=\"Liberation Sans\""));
-    EXPECT_THAT(label, HasSubstr(R"(color="0x0000ffff")"));
-    EXPECT_THAT(label, HasSubstr("Anna &amp; &lt;Bob&gt;<NL/>City</Span>"));
-    EXPECT_EQ(onlyFidelity(), Fidelity::Exact);
-}
-
-TEST_F(Glabels, KeepsGlabelsFromFindingFieldsInATextAndOmitsControlCharacters)
-{
-    canvas.addItem(textOf(u"${Number}\u0001!"_s));
-    EXPECT_THAT(xml(), HasSubstr("$\u200B{Number}!"));
-}
-
-TEST_F(Glabels, UnderlinesWithALine)
-{
-    ItemValues text = textOf(u"Price"_s);
-    text.font->underline = true;
-    canvas.addItem(text);
-    EXPECT_THAT(xml(), HasSubstr("<Object-line"));
-}
-
-TEST_F(Glabels, ReportsReplacedFonts)
-{
-    ItemValues text = textOf(u"Price"_s);
-    text.font->family = u"No Such Font"_s;
-    canvas.addItem(text);
-    const GlabelsLabel label = write();
-    EXPECT_THAT(label.label.toStdString(), Not(HasSubstr("No Such Font")));
-    EXPECT_THAT(label.findings.all().value(0).text.toStdString(), HasSubstr("No Such Font"));
-}
-
-TEST_F(Glabels, WritesATextForEachFormat)
-{
-    ItemValues text = textOf({});
-    text.type = KestTypes::RichText;
-    text.textLabel.reset();
-    text.text = TextValues{{}, u"<p>one <b>two</b></p><p>three</p>"_s};
-    canvas.addItem(text);
-    const std::string label = xml();
-    EXPECT_THAT(label, HasSubstr(">one </Span>"));
-    EXPECT_THAT(label, HasSubstr(R"(font_weight="Bold" font_italic="False")"));
-    EXPECT_THAT(label, HasSubstr(">two</Span>"));
-    EXPECT_THAT(label, HasSubstr(">three</Span>"));
-    EXPECT_EQ(onlyFidelity(), Fidelity::Simplified);
 }
 
 TEST_F(Glabels, EncodesBarcodesItselfWhereItCan)
@@ -327,35 +156,6 @@ TEST_F(Glabels, LimitsTheCellsOfTheRecords)
         addBound(textOf({}), addCounter(20'000));
     }
     EXPECT_EQ(write().records.count('\n'), MaximumTableCells / 200 + 1);
-}
-
-TEST_F(Glabels, ScalesPicturesDownThatAreTooLargeToEmbed)
-{
-    ItemValues picture = itemOf(KestTypes::Picture);
-    QImage image(3000, 1500, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    picture.picture = PictureValues{image};
-    canvas.addItem(picture);
-    const GlabelsLabel label = write();
-    EXPECT_LT(label.label.size(), MaximumEmbedded + 2000);
-    EXPECT_GT(label.label.size(), MaximumEmbedded * 9 / 10);
-    EXPECT_EQ(label.findings.all().value(0).fidelity, Fidelity::Simplified);
-}
-
-TEST_F(Glabels, EmbedsPicturesAsPixels)
-{
-    QImage image(2, 1, QImage::Format_ARGB32);
-    image.setPixelColor(0, 0, QColor(1, 2, 3, 255));
-    image.setPixelColor(1, 0, QColor(4, 5, 6, 7));
-    const QByteArray bytes = pixdataOf(embeddable(image));
-    EXPECT_EQ(bytes.toHex(), "47646b50"
-                             "00000020"
-                             "01010002"
-                             "00000008"
-                             "00000002"
-                             "00000001"
-                             "010203ff"
-                             "04050607");
 }
 
 TEST_F(Glabels, RecognizesItsOwnLabels)

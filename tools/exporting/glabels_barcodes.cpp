@@ -97,10 +97,10 @@ bool isGlabelsContent(const BarcodeValues& values, const QString& content)
     return styleOf(values, content) != nullptr;
 }
 
-std::optional<GlabelsSymbol> glabelsSymbol(const BarcodeValues& values, const QString& content,
-                                           const BarcodeSymbol& symbol, const BarcodeLayout& layout)
+std::optional<GlabelsSymbol> glabelsSymbol(const BarcodeValues& values, const BarcodeSymbol& symbol,
+                                           const BarcodeLayout& layout)
 {
-    const Style* style = styleOf(values, content);
+    const Style* style = styleOf(values, values.content);
     const QRectF extent = extentOf(symbol);
     if (style == nullptr || hasOwnSettings(values) || extent.isEmpty() ||
         layout.moduleWidth < LeastModule) {
@@ -116,8 +116,13 @@ std::optional<GlabelsSymbol> glabelsSymbol(const BarcodeValues& values, const QS
     if (style->placing == Placing::Margins) {
         box.adjust(-Margin - style->leadingModules * layout.moduleWidth, -Margin, Margin, Margin);
     }
-    return GlabelsSymbol{QLatin1String(style->backend), QLatin1String(style->style), box,
-                         values.option == 1};
+    return GlabelsSymbol{{QLatin1String(style->backend),
+                          QLatin1String(style->style),
+                          values.option == 1,
+                          values.content,
+                          {},
+                          values.foreground},
+                         box};
 }
 
 } // namespace exporting

@@ -1,30 +1,24 @@
 #pragma once
 
+#include "exporting/glabels_document.h"
 #include "workbench/barcodes/barcode_painter.h"
-#include "workbench/items/item_values.h"
-
-#include <QRectF>
-#include <QString>
 
 #include <optional>
 
 /// Which barcodes gLabels encodes itself, and how large it draws them.
 namespace exporting {
 
-/// A barcode in the terms of gLabels.
+/// A barcode of gLabels, and the box of its object: with the margins that gLabels adds, so that the
+/// bars have our place.
 struct GlabelsSymbol
 {
-    QString backend;
-    QString style;
-    /// For the object: with the margins that gLabels adds, so that the bars have our place.
+    GlabelsBarcode barcode;
     QRectF box;
-    bool checksum = false;
 };
 
 /// The barcode, if gLabels draws one of the same content and size.
-/// @param content of the symbol
 [[nodiscard]] std::optional<GlabelsSymbol>
-glabelsSymbol(const workbench::BarcodeValues& values, const QString& content,
+glabelsSymbol(const workbench::BarcodeValues& values,
               const workbench::barcodes::BarcodeSymbol& symbol,
               const workbench::barcodes::BarcodeLayout& layout);
 

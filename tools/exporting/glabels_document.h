@@ -1,37 +1,23 @@
 #pragma once
 
+#include "printing/sheet.h"
+#include "workbench/items/item_values.h"
+
 #include <QByteArray>
 #include <QColor>
-#include <QImage>
 #include <QList>
 #include <QRectF>
 #include <QString>
 #include <QTransform>
 #include <QXmlStreamWriter>
 
+#include <utility>
+
 namespace exporting {
 
-/// Labels on a sheet. Points.
-struct GlabelsSheet
-{
-    QString brand;
-    QString part;
-    QSizeF paper;
-    QSizeF label;
-    double cornerRadius = 0.0;
-    int columns = 1;
-    int rows = 1;
-    QPointF first;          ///< upper left corner of the first label
-    QSizeF distances;       ///< from one label to the next
-    bool isRotated = false; ///< the label's upper edge is at the right edge of its place
-};
-
-/// The outline of a box, an ellipse or a line.
-struct GlabelsPen
-{
-    QColor color = Qt::black;
-    double width = 0.0; ///< 0: no outline
-};
+/// Longest embedded drawing, in bytes: libxml2, with which gLabels reads the document, accepts
+/// texts of up to ten million bytes.
+inline constexpr qint64 MaximumEmbedded = 9'500'000;
 
 /// A text in one format.
 struct GlabelsText
@@ -51,9 +37,9 @@ struct GlabelsBarcode
 {
     QString backend;
     QString style;
+    bool checksum = false;
     QString content;
     QString field; ///< of the records; if set, it replaces the content
-    bool checksum = false;
     QColor color = Qt::black;
 };
 
@@ -64,21 +50,19 @@ struct GlabelsBarcode
 class GlabelsDocument
 {
 public:
-    explicit GlabelsDocument(const GlabelsSheet& sheet);
+    /// @param isRotated the label's upper edge is at the right edge of its place
+    GlabelsDocument(const printing::Sheet& sheet, bool isRotated);
 
-    void addBox(const QRectF& box, const QTransform& toPage, const GlabelsPen& pen,
+    void addBox(const QRectF& box, const QTransform& toPage, const workbench::PenValues& pen,
                 const QColor& fill);
-    void addEllipse(const QRectF& box, const QTransform& toPage, const GlabelsPen& pen,
+    void addEllipse(const QRectF& box, const QTransform& toPage, const workbench::PenValues& pen,
                     const QColor& fill);
-    void addLine(const QPointF& from, const QPointF& to, const GlabelsPen& pen);
+    void addLine(const QPointF& from, const QPointF& to, const workbench::PenValues& pen);
     /// The characters begin at the left edge of the box, without the margin of gLabels.
     void addText(const QRectF& box, const QTransform& toPage, const GlabelsText& text);
     void addBarcode(const QRectF& box, const QTransform& toPage, const GlabelsBarcode& barcode);
-    /// Returns false and adds nothing if the drawing is too large.
-    [[nodiscard]] bool addDrawing(const QRectF& box, const QTransform& toPage,
-                                  const QByteArray& svg);
-    /// Returns false if the picture had too many pixels and was scaled down.
-    bool addPicture(const QRectF& box, const QTransform& toPage, const QImage& picture);
+    /// @param svg a drawing of up to MaximumEmbedded bytes, which fills the box
+    void addDrawing(const QRectF& box, const QTransform& toPage, const QByteArray& svg);
 
     /// The bytes of the file. Nothing can be added afterwards.
     /// @param remark  a comment at the beginning
@@ -86,24 +70,20 @@ public:
     [[nodiscard]] QByteArray finish(const QString& remark, const QString& records);
 
 private:
-    struct Embedded
-    {
-        QString name;
-        QByteArray bytes;
-        bool isDrawing = false;
-    };
+    using Attributes = QList<std::pair<const char*, QString>>;
 
-    void writeSheet(const GlabelsSheet& sheet);
-    void startObject(const QString& name, const QRectF& box, const QTransform& toPage);
-    void endObject(const QTransform& toPage);
-    void writeOutlined(const QString& name, const QRectF& box, const QTransform& toPage,
-                       const GlabelsPen& pen, const QColor& fill);
-    void writeImage(const QRectF& box, const QTransform& toPage, const QString& source);
-    void writeEmbedded();
+    void start(const char* element, const Attributes& attributes);
+    void writeAttributes(const Attributes& attributes);
+    void startObject(const char* element, const QPointF& at, const QTransform& toPage,
+                     const Attributes& attributes);
+    void startBox(const char* element, const QRectF& box, const QTransform& toPage,
+                  const Attributes& attributes);
+    void addOutlined(const char* element, const QRectF& box, const QTransform& toPage,
+                     const workbench::PenValues& pen, const QColor& fill);
 
     QByteArray m_bytes;
     QXmlStreamWriter m_xml;
-    QList<Embedded> m_embedded;
+    QList<QByteArray> m_drawings;
 };
 
 } // namespace exporting

@@ -26,33 +26,17 @@ QString tr(const char* text)
     return QCoreApplication::translate("exporting::Glabels", text);
 }
 
-/// The sheet in points, with labels as large as its cells.
-GlabelsSheet onPaper(const printing::Sheet& sheet, const QSizeF& page)
+/// Paper of the label's size, in millimeters.
+printing::Sheet ownPaper(const QString& name, const QSizeF& size)
 {
-    constexpr double pointsPerMillimeter = 72.0 / 25.4;
-    const bool isRotated =
-        printing::fitOf(sheet, page / pointsPerMillimeter) == printing::Fit::Rotated;
-    return {u"LabelPort"_s,
-            sheet.name(),
-            sheet.paperSize * pointsPerMillimeter,
-            sheet.label * pointsPerMillimeter,
-            0.0,
-            sheet.columns,
-            sheet.rows,
-            sheet.start * pointsPerMillimeter,
-            sheet.pitch * pointsPerMillimeter,
-            isRotated};
-}
-
-GlabelsSheet onOwnPaper(const QString& name, const QSizeF& page)
-{
-    return {u"LabelPort"_s, name, page, page, 0.0, 1, 1, {}, page, false};
+    return {{name}, {}, size, 1, 1, size, {}, size};
 }
 
 /// A label that is smaller than its place is centered in it.
-QTransform centered(const GlabelsSheet& sheet, const QSizeF& page)
+QTransform centered(const QSizeF& place, const QSizeF& page)
 {
-    const QSizeF room = (sheet.isRotated ? sheet.label.transposed() : sheet.label) - page;
+    constexpr double pointsPerMillimeter = 72.0 / 25.4;
+    const QSizeF room = place * pointsPerMillimeter - page;
     return QTransform::fromTranslate(room.width() / 2.0, room.height() / 2.0);
 }
 
@@ -60,7 +44,8 @@ QTransform centered(const GlabelsSheet& sheet, const QSizeF& page)
 void addBackground(GlabelsDocument& document, const PageValues& page, const QTransform& toLabel)
 {
     if (page.background.alpha() > 0 && page.background != QColor(Qt::white)) {
-        document.addBox(QRectF({0.0, 0.0}, page.size), toLabel, {}, page.background);
+        document.addBox(QRectF({0.0, 0.0}, page.size), toLabel, {{}, 0.0, Qt::NoPen},
+                        page.background);
     }
 }
 
@@ -96,11 +81,12 @@ GlabelsLabel toGlabels(const Canvas& canvas, const datasources::DatasourceContro
     QList<WalkedItem> items = walkLabel(canvas, sources, 0);
     RecordsTable records(items, sources);
     heartbeat();
-    const QSizeF page = canvas.page().size;
-    const GlabelsSheet sheet =
-        options.sheet ? onPaper(*options.sheet, page) : onOwnPaper(options.name, page);
-    const QTransform toLabel = centered(sheet, page);
-    GlabelsDocument document(sheet);
+    const QSizeF size = printing::labelSize(canvas);
+    const printing::Sheet sheet = options.sheet.value_or(ownPaper(options.name, size));
+    const bool isRotated = printing::fitOf(sheet, size) == printing::Fit::Rotated;
+    const QTransform toLabel =
+        centered(isRotated ? sheet.label.transposed() : sheet.label, canvas.page().size);
+    GlabelsDocument document(sheet, isRotated);
     addBackground(document, canvas.page(), toLabel);
     GlabelsItems writer(document, records, toLabel);
     for (WalkedItem& item : items) {

@@ -1,7 +1,6 @@
 #include "exporting/glabels_items.h"
 
 #include "exporting/glabels_barcodes.h"
-#include "exporting/glabels_embedding.h"
 #include "exporting/glabels_texts.h"
 #include "workbench/items/barcode_item.h"
 #include "workbench/items/line_item.h"
@@ -25,25 +24,27 @@ using namespace workbench;
 
 namespace {
 
-/// The thinnest line of our output; gLabels would draw nothing.
-constexpr double HairlineWidth = 0.25;
 /// Up to this width, in points, the corners of a box look alike with any join.
 constexpr double ThinOutline = 1.0;
-constexpr double PointsPerInch = 72.0;
-/// Of an item whose drawing is too large.
-constexpr double RasterDpi = 300.0;
+/// Of a drawing that is too large to be embedded: dots per point, most dots, and most of a side. A
+/// dot has up to four bytes, and base 64 makes four characters of three bytes.
+constexpr double RasterScale = 300.0 / 72.0;
+constexpr double MostDots = MaximumEmbedded * 0.95 / (4.0 * 4.0 / 3.0);
+constexpr double LongestRasterSide = 4'000.0;
 
 QString tr(const char* text)
 {
     return QCoreApplication::translate("exporting::Glabels", text);
 }
 
-GlabelsPen penOf(const PenValues& pen)
+QRectF boxOf(const WalkedItem& item)
 {
-    if (pen.style == Qt::NoPen) {
-        return {};
-    }
-    return {pen.color, pen.width > 0.0 ? pen.width : HairlineWidth};
+    return {{0.0, 0.0}, item.values.box.size};
+}
+
+PenValues penOf(const WalkedItem& item)
+{
+    return item.values.pen.value_or(PenValues());
 }
 
 bool isSolid(const PenValues& pen)
@@ -51,15 +52,38 @@ bool isSolid(const PenValues& pen)
     return pen.style < Qt::DashLine || pen.style > Qt::DashDotDotLine;
 }
 
-bool isPlainOutline(const PenValues& pen)
+/// Why gLabels cannot draw such a box or ellipse; empty if it can.
+QString obstacleOf(const WalkedItem& item, bool hasCorners)
 {
+    const PenValues pen = penOf(item);
     const bool isMiter = pen.join == Qt::MiterJoin || pen.join == Qt::SvgMiterJoin;
-    return isSolid(pen) && (isMiter || pen.style == Qt::NoPen || pen.width <= ThinOutline);
+    if (!plainColor(item.values.fill.value_or(FillValues()))) {
+        return tr("gLabels has no gradients and no hatches.");
+    }
+    if (!isSolid(pen)) {
+        return tr("gLabels has no dashed lines.");
+    }
+    if (hasCorners && !isMiter && pen.style != Qt::NoPen && pen.width > ThinOutline) {
+        return tr("gLabels has no round or beveled corners.");
+    }
+    return {};
 }
 
-QRectF boxOf(const WalkedItem& item)
+/// What is painted, in dots.
+QImage rasterOf(const QRectF& area, const Paint& paint)
 {
-    return {{0.0, 0.0}, item.values.box.size};
+    const double scale =
+        std::min({RasterScale, LongestRasterSide / std::max(area.width(), area.height()),
+                  std::sqrt(MostDots / (area.width() * area.height()))});
+    QImage image((area.size() * scale).toSize().expandedTo({1, 1}),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.scale(image.width() / area.width(), image.height() / area.height());
+    painter.translate(-area.topLeft());
+    paint(painter);
+    return image;
 }
 
 } // namespace
@@ -80,7 +104,9 @@ void GlabelsItems::add(const WalkedItem& item)
         addLine(item);
         break;
     case KestTypes::Picture:
-        addPicture(item);
+        if (!item.values.picture.value_or(PictureValues()).image.isNull()) {
+            addDrawing(item, {});
+        }
         break;
     case KestTypes::SimpleText:
     case KestTypes::RichText:
@@ -102,33 +128,27 @@ void GlabelsItems::note(Fidelity fidelity, const WalkedItem& item, const QString
 
 void GlabelsItems::addShape(const WalkedItem& item)
 {
-    const PenValues pen = item.values.pen.value_or(PenValues());
-    const FillValues fill = item.values.fill.value_or(FillValues());
-    const std::optional<QColor> color = plainColor(fill);
-    const bool isEllipse = item.values.type == KestTypes::Ellipse;
-    if (!color) {
-        addDrawing(item, tr("gLabels has no gradients and no hatches."));
-    } else if (!isSolid(pen)) {
-        addDrawing(item, tr("gLabels has no dashed lines."));
-    } else if (!isEllipse && !isPlainOutline(pen)) {
-        addDrawing(item, tr("gLabels has no round or beveled corners."));
-    } else {
-        isEllipse ? m_document.addEllipse(boxOf(item), item.toPage, penOf(pen), *color)
-                  : m_document.addBox(boxOf(item), item.toPage, penOf(pen), *color);
-        note(Fidelity::Exact, item);
+    const bool isBox = item.values.type == KestTypes::Rectangle;
+    const QString obstacle = obstacleOf(item, isBox);
+    if (!obstacle.isEmpty()) {
+        addDrawing(item, obstacle);
+        return;
     }
+    const QColor fill = *plainColor(item.values.fill.value_or(FillValues()));
+    isBox ? m_document.addBox(boxOf(item), item.toPage, penOf(item), fill)
+          : m_document.addEllipse(boxOf(item), item.toPage, penOf(item), fill);
+    note(Fidelity::Exact, item);
 }
 
 void GlabelsItems::addLine(const WalkedItem& item)
 {
-    const PenValues pen = item.values.pen.value_or(PenValues());
+    const PenValues pen = penOf(item);
     const LineValues line = item.values.line.value_or(LineValues());
     if (pen.style == Qt::NoPen || line.end.isNull()) {
         return; // nothing is painted
     }
-    const bool hasMarkers =
-        startMarker(line.startMarker) != Marker::None || endMarker(line.endMarker) != Marker::None;
-    if (hasMarkers) {
+    if (startMarker(line.startMarker) != Marker::None ||
+        endMarker(line.endMarker) != Marker::None) {
         addDrawing(item, tr("gLabels has no arrows."));
     } else if (!isSolid(pen)) {
         addDrawing(item, tr("gLabels has no dashed lines."));
@@ -139,36 +159,24 @@ void GlabelsItems::addLine(const WalkedItem& item)
         if (pen.cap == Qt::SquareCap) {
             extension = line.end * (pen.width / 2.0 / std::hypot(line.end.x(), line.end.y()));
         }
-        m_document.addLine(item.toPage.map(-extension), item.toPage.map(line.end + extension),
-                           penOf(pen));
+        m_document.addLine(item.toPage.map(-extension), item.toPage.map(line.end + extension), pen);
         note(Fidelity::Exact, item);
-    }
-}
-
-void GlabelsItems::addPicture(const WalkedItem& item)
-{
-    const PictureValues picture = item.values.picture.value_or(PictureValues());
-    if (picture.image.isNull()) {
-        return; // nothing is painted
-    }
-    if (m_document.addPicture(boxOf(item), item.toPage, picture.image)) {
-        note(Fidelity::Exact, item);
-    } else {
-        note(Fidelity::Simplified, item, tr("A large picture was scaled down."));
     }
 }
 
 void GlabelsItems::addText(const WalkedItem& item)
 {
-    const QString field = item.isBound ? m_records.columnOf(*item.values.datasource) : QString();
-    QString longest;
-    for (const QString& record : m_records.recordsOf(field)) {
-        longest = record.size() > longest.size() ? record : longest;
+    GlabelsField field;
+    if (item.isBound) {
+        field.name = m_records.columnOf(*item.values.datasource);
+    }
+    for (const QString& record : m_records.recordsOf(field.name)) {
+        field.longest = record.size() > field.longest.size() ? record : field.longest;
     }
     // The characters are added above the background, so it comes first; if gLabels cannot
     // express them, the picture covers it.
     addGround(item);
-    if (!addTextItem(m_document, m_findings, item, field, longest)) {
+    if (!addTextItem(m_document, m_findings, item, field)) {
         addDrawing(item, tr("gLabels has no such text format."));
     }
 }
@@ -176,15 +184,15 @@ void GlabelsItems::addText(const WalkedItem& item)
 /// The background and the frame of a text.
 void GlabelsItems::addGround(const WalkedItem& item)
 {
-    const PenValues pen = item.values.pen.value_or(PenValues());
+    const PenValues pen = penOf(item);
     const FillValues fill = item.values.fill.value_or(FillValues());
-    const std::optional<QColor> color = plainColor(fill);
-    if (pen.style == Qt::NoPen && color && color->alpha() == 0) {
+    const QColor color = plainColor(fill).value_or(QColor(Qt::black));
+    if (pen.style == Qt::NoPen && color.alpha() == 0) {
         return;
     }
     const QRectF box = boxOf(item);
-    if (color && isPlainOutline(pen)) {
-        m_document.addBox(box, item.toPage, penOf(pen), *color);
+    if (obstacleOf(item, true).isEmpty()) {
+        m_document.addBox(box, item.toPage, pen, color);
         return;
     }
     const double margin = 4.0 * pen.width + 1.0;
@@ -199,68 +207,38 @@ void GlabelsItems::addGround(const WalkedItem& item)
 void GlabelsItems::addBarcode(const WalkedItem& item)
 {
     const BarcodeValues values = item.values.barcode.value_or(BarcodeValues());
-    barcodes::BarcodeSymbol symbol = barcodes::encode(barcodeRequest(values, values.content));
+    const barcodes::BarcodeSymbol symbol = barcodes::encode(barcodeRequest(values, values.content));
     const barcodes::BarcodeStyle style = barcodeStyle(item.values);
     const barcodes::BarcodeLayout layout = barcodes::layOut(symbol, boxOf(item), style);
     if (!symbol.isValid() || layout.moduleWidth <= 0.0) {
         addDrawing(item, tr("The content cannot be encoded."));
         return;
     }
+    auto known = glabelsSymbol(values, symbol, layout);
+    if (!known) {
+        addDrawing(item, tr("gLabels does not encode this barcode."));
+        return;
+    }
     if (values.background.alpha() > 0) {
-        m_document.addBox(boxOf(item), item.toPage, {}, values.background);
+        m_document.addBox(boxOf(item), item.toPage, {{}, 0.0, Qt::NoPen}, values.background);
     }
-    const bool followsRecords = addBars(item, values, symbol, layout, style);
+    QString& field = known->barcode.field;
+    field = item.isBound ? m_records.columnOf(*item.values.datasource) : QString();
+    m_document.addBarcode(known->box, item.toPage, known->barcode);
     if (!symbol.caption.isEmpty()) {
-        addCaption(m_document, layout.caption, item.toPage, symbol.caption,
-                   followsRecords ? captionColumn(item, values) : QString(), style.font,
-                   layout.captionPixelSize, style.textColor, style.captionAlignment);
+        addCaption(m_document, item.toPage, symbol.caption,
+                   field.isEmpty() ? QString() : captionColumn(values, field), layout, style);
     }
-}
-
-/// Returns whether the bars follow the records.
-bool GlabelsItems::addBars(const WalkedItem& item, const BarcodeValues& values,
-                           barcodes::BarcodeSymbol symbol, const barcodes::BarcodeLayout& layout,
-                           const barcodes::BarcodeStyle& style)
-{
-    if (const auto known = glabelsSymbol(values, values.content, symbol, layout)) {
-        const QString field =
-            item.isBound ? m_records.columnOf(*item.values.datasource) : QString();
-        m_document.addBarcode(known->box, item.toPage,
-                              {known->backend, known->style, values.content, field, known->checksum,
-                               values.foreground});
-        noteRecords(item, values, field);
-        return !field.isEmpty();
-    }
-    symbol.caption.clear();
-    const QRectF bars = layout.bars;
-    addSvg(bars, item.toPage,
-           [&](QPainter& painter) { barcodes::paintBarcode(painter, bars, symbol, style); });
-    if (item.isBound) {
-        note(Fidelity::Simplified, item,
-             tr("gLabels does not encode this barcode: it shows the first record only."));
-    } else {
-        note(Fidelity::Picture, item, tr("gLabels does not encode this barcode."));
-    }
-    return false;
-}
-
-void GlabelsItems::noteRecords(const WalkedItem& item, const BarcodeValues& values,
-                               const QString& field)
-{
     const QStringList records = m_records.recordsOf(field);
     const bool areKnown = std::all_of(records.begin(), records.end(), [&](const QString& text) {
         return isGlabelsContent(values, text);
     });
-    if (areKnown) {
-        note(Fidelity::Exact, item);
-    } else {
-        note(Fidelity::Simplified, item, tr("gLabels cannot encode some of the records."));
-    }
+    note(areKnown ? Fidelity::Exact : Fidelity::Simplified, item,
+         areKnown ? QString() : tr("gLabels cannot encode some of the records."));
 }
 
-QString GlabelsItems::captionColumn(const WalkedItem& item, const BarcodeValues& values)
+QString GlabelsItems::captionColumn(const BarcodeValues& values, const QString& column)
 {
-    const QString column = m_records.columnOf(*item.values.datasource);
     const QString suffix = u"%1 %2"_s.arg(values.symbology).arg(values.option);
     return m_records.addDerived(column, suffix, [&](const QString& content) {
         return barcodes::encode(barcodeRequest(values, content)).caption;
@@ -270,40 +248,32 @@ QString GlabelsItems::captionColumn(const WalkedItem& item, const BarcodeValues&
 void GlabelsItems::addDrawing(const WalkedItem& item, const QString& reason)
 {
     const QGraphicsItem& graphicsItem = *item.item->graphicsItem();
-    // The item paints its flips itself.
-    addSvg(graphicsItem.boundingRect(), graphicsItem.sceneTransform() * m_toLabel,
-           [&](QPainter& painter) { paintUnplacedItem(painter, *item.item); });
+    const bool isPicture = reason.isEmpty();
+    // The item paints its flips itself. A picture fills its box.
+    const bool isReduced =
+        addSvg(isPicture ? boxOf(item) : graphicsItem.boundingRect(),
+               graphicsItem.sceneTransform() * m_toLabel,
+               [&](QPainter& painter) { paintUnplacedItem(painter, *item.item); });
     if (item.isBound) {
-        note(Fidelity::Simplified, item, reason + u' ' + tr("It shows the first record only."));
+        note(Fidelity::Simplified, item,
+             (reason + u' ' + tr("It shows the first record only.")).trimmed());
+    } else if (isReduced) {
+        note(Fidelity::Simplified, item, tr("A large picture was scaled down."));
     } else {
-        note(Fidelity::Picture, item, reason);
+        note(isPicture ? Fidelity::Exact : Fidelity::Picture, item, reason);
     }
 }
 
-void GlabelsItems::addSvg(const QRectF& area, const QTransform& toPage, const Paint& paint)
+bool GlabelsItems::addSvg(const QRectF& area, const QTransform& toPage, const Paint& paint)
 {
-    if (!m_document.addDrawing(area, toPage, drawingSvg(area, paint))) {
-        addRaster(area, toPage, paint);
+    QByteArray svg = drawingSvg(area, paint);
+    const bool isReduced = svg.size() > MaximumEmbedded;
+    if (isReduced) {
+        svg = drawingSvg(
+            area, [&](QPainter& painter) { painter.drawImage(area, rasterOf(area, paint)); });
     }
-}
-
-/// A drawing that is too large to be embedded becomes a picture.
-void GlabelsItems::addRaster(const QRectF& area, const QTransform& toPage, const Paint& paint)
-{
-    constexpr double bytesPerPixel = 4.0 * 4.0 / 3.0; // in base 64
-    const double scale =
-        std::min(RasterDpi / PointsPerInch,
-                 std::sqrt(MaximumEmbedded / bytesPerPixel /
-                           (std::max(1.0, area.width()) * std::max(1.0, area.height()))));
-    QImage image((area.size() * scale).toSize().expandedTo({1, 1}),
-                 QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.scale(scale, scale);
-    painter.translate(-area.topLeft());
-    paint(painter);
-    painter.end();
-    m_document.addPicture(area, toPage, image);
+    m_document.addDrawing(area, toPage, svg);
+    return isReduced;
 }
 
 } // namespace exporting

@@ -29,21 +29,15 @@ private:
     void note(Fidelity fidelity, const WalkedItem& item, const QString& text = {});
     void addShape(const WalkedItem& item);
     void addLine(const WalkedItem& item);
-    void addPicture(const WalkedItem& item);
     void addText(const WalkedItem& item);
     void addGround(const WalkedItem& item);
     void addBarcode(const WalkedItem& item);
-    [[nodiscard]] bool addBars(const WalkedItem& item, const workbench::BarcodeValues& values,
-                               workbench::barcodes::BarcodeSymbol symbol,
-                               const workbench::barcodes::BarcodeLayout& layout,
-                               const workbench::barcodes::BarcodeStyle& style);
-    void noteRecords(const WalkedItem& item, const workbench::BarcodeValues& values,
-                     const QString& field);
-    [[nodiscard]] QString captionColumn(const WalkedItem& item,
-                                        const workbench::BarcodeValues& values);
+    [[nodiscard]] QString captionColumn(const workbench::BarcodeValues& values,
+                                        const QString& column);
+    /// @param reason why it is not an object of its own kind; empty for a picture, which is one
     void addDrawing(const WalkedItem& item, const QString& reason);
-    void addSvg(const QRectF& area, const QTransform& toPage, const workbench::Paint& paint);
-    void addRaster(const QRectF& area, const QTransform& toPage, const workbench::Paint& paint);
+    /// Returns whether the drawing was too large and became a picture of fewer dots.
+    bool addSvg(const QRectF& area, const QTransform& toPage, const workbench::Paint& paint);
 
     GlabelsDocument& m_document;
     RecordsTable& m_records;

@@ -1,12 +1,17 @@
 #include "exporting/glabels_texts.h"
 
-#include "exporting/glabels_text_boxes.h"
+#include "exporting/glabels_fonts.h"
+#include "workbench/items/canvas_item.h"
 #include "workbench/items/shape_kinds.h"
 #include "workbench/items/text_layout.h"
 
 #include <QCoreApplication>
-#include <QFontInfo>
-#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QGraphicsTextItem>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -18,166 +23,302 @@ using namespace workbench;
 
 namespace {
 
+/// Keeps a text from moving by a point if its place is whole points, except for a rounding error.
+constexpr double HeightTolerance = 0.01;
+/// Lines at equal distances are lines of one text.
+constexpr double PitchTolerance = 0.01;
+/// A line that gLabels measures a little wider than calculated would be broken.
+constexpr double WidthTolerance = 1.03;
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("exporting::Glabels", text);
 }
 
-/// Pixels, in which widths are not rounded.
-constexpr int MeasuringSize = 100;
-/// Keeps a text from moving by a point if its place is whole points, except for a rounding error.
-constexpr double HeightTolerance = 0.01;
-
-PlainText plainTextOf(const ItemValues& values)
+/// Lines in one format, as we paint them.
+struct FormattedLines
 {
-    const FontValues font = values.font.value_or(FontValues());
-    const TextStyleValues style = values.textStyle.value_or(TextStyleValues());
-    const bool fixesWidth = !values.textLabel || (values.textLabel->limiting & 1) != 0;
-    const bool wraps = values.type == KestTypes::RichText || (font.sized && fixesWidth);
-    return {values.text.value_or(TextValues()).text, toFont(font), style.alignment, style.color,
-            wraps};
+    QRawFont font;
+    QColor color;
+    bool isUnderlined = false;
+    Qt::Alignment alignment;
+    QRectF box; ///< in which the lines are aligned
+    QList<TextLine> lines;
+};
+
+/// The box, wide enough for a line of this width in gLabels. It grows away from the aligned edge.
+QRectF widened(const QRectF& box, double width, Qt::Alignment alignment)
+{
+    const double missing = std::max(0.0, width * WidthTolerance + 1.0 - box.width());
+    const double left = alignment.testFlag(Qt::AlignHCenter) ? missing / 2.0
+                        : alignment.testFlag(Qt::AlignRight) ? missing
+                                                             : 0.0;
+    return box.adjusted(-left, 0.0, missing - left, 0.0);
 }
 
-TextLines linesOf(const ItemValues& values, const PlainText& text, const QRectF& box)
+/// gLabels has no underlined text.
+void underline(GlabelsDocument& document, const QTransform& toPage, const FormattedLines& text)
 {
-    const bool isFilling =
-        values.type == KestTypes::SimpleText && !values.font.value_or(FontValues()).sized;
-    return isFilling ? textLinesFilling(text, box) : textLines(text, box);
-}
-
-void underlineLines(GlabelsDocument& document, const QTransform& toPage, const TextLines& laid,
-                    const PlainText& text)
-{
-    const QFontMetricsF metrics(text.font);
-    const double scale = laid.fontSize / text.font.pixelSize();
-    for (const TextLine& line : laid.lines) {
-        const double y = line.baseline + metrics.underlinePos() * scale;
+    for (const TextLine& line : text.lines) {
+        const double y = line.baseline + text.font.underlinePosition();
         if (line.box.width() > 0.0) {
-            addUnderline(document, toPage, {line.box.left(), y, line.box.right(), y},
-                         {text.color, metrics.lineWidth() * scale});
+            document.addLine(toPage.map(QPointF(line.box.left(), y)),
+                             toPage.map(QPointF(line.box.right(), y)),
+                             {text.color, text.font.lineThickness()});
         }
     }
 }
 
-/// How far gLabels would place the first line above its place. It measures the height of the text
-/// in whole points, and places it at whole points from the upper edge of the box.
-double riseOf(const TextLines& laid, const GlabelsText& text, const QRectF& box)
+/// Adds the lines as one text. Returns it.
+GlabelsText addLines(GlabelsDocument& document, const QTransform& toPage,
+                     const FormattedLines& text, const GlabelsField& field)
 {
-    const GlabelsMetrics metrics = metricsOf(text);
-    const double pitch = metrics.height() + text.lineGap;
-    const double height = metrics.height() + pitch * static_cast<double>(laid.lines.size() - 1);
-    const double room = box.height() - std::ceil(height);
-    const double top = box.top() + std::trunc(verticalOffset(text.alignment, room));
-    return laid.lines.first().baseline - top - metrics.ascent();
+    GlabelsText written;
+    double ours = 0.0;
+    for (const TextLine& line : text.lines) {
+        written.lines.append(QString(line.text).remove(QChar::LineSeparator));
+        ours += line.box.width();
+    }
+    setFont(written, text.font);
+    written.size = GlabelsFont(written).fittingSize(written.lines, ours);
+    written.field = field.name;
+    written.color = text.color;
+    written.alignment = text.alignment;
+    const GlabelsFont font(written);
+    if (text.lines.size() > 1) {
+        written.lineGap = text.lines.at(1).baseline - text.lines.at(0).baseline - font.height();
+    }
+    double widest = font.width(field.longest);
+    for (const QString& line : written.lines) {
+        widest = std::max(widest, font.width(line));
+    }
+    QRectF box = widened(text.box, widest, text.alignment);
+    box.setHeight(box.height() + HeightTolerance);
+    // gLabels measures the height of a text in whole points, and places it at whole points from the
+    // upper edge of the box.
+    const double height = font.height() * static_cast<double>(text.lines.size()) +
+                          written.lineGap * static_cast<double>(text.lines.size() - 1);
+    const double offset =
+        std::trunc(verticalOffset(text.alignment, box.height() - std::ceil(height)));
+    box.moveTop(text.lines.first().baseline - font.ascent() - offset);
+    document.addText(box, toPage, written);
+    if (text.isUnderlined && field.name.isEmpty()) {
+        underline(document, toPage, text);
+    }
+    return written;
 }
 
-/// Whether a record is on one line in our own layout, and must be in gLabels.
-bool isOnOneLine(const QString& record, const PlainText& text, double fontSize, double boxWidth)
-{
-    PlainText line = text;
-    line.text = record;
-    line.wraps = false;
-    const double width = measureText(line, 0.0).width() * fontSize / text.font.pixelSize();
-    return !text.wraps || width <= boxWidth;
-}
-
-void noteChanges(ExportFindings& findings, const ItemValues& values, const QString& family,
+void noteChanges(ExportFindings& findings, const ItemValues& values, const GlabelsText& written,
                  bool losesUnderline)
 {
     const QString kind = shapeCode(values.type);
     const QString wanted = values.font.value_or(FontValues()).family;
-    const Qt::Alignment alignment = values.textStyle.value_or(TextStyleValues()).alignment;
     if (losesUnderline) {
         findings.add(Fidelity::Simplified, kind,
                      tr("A text from a data source is not underlined."));
-    } else if (alignment.testFlag(Qt::AlignJustify)) {
+    } else if (written.alignment.testFlag(Qt::AlignJustify)) {
         findings.add(Fidelity::Simplified, kind, tr("Justified text is aligned left."));
-    } else if (!wanted.isEmpty() && wanted != family) {
-        findings.add(
-            Fidelity::Simplified, kind,
-            tr("gLabels knows only installed fonts: \"%1\" became \"%2\".").arg(wanted, family));
+    } else if (!wanted.isEmpty() && wanted != written.family) {
+        findings.add(Fidelity::Simplified, kind,
+                     tr("gLabels knows only installed fonts: \"%1\" became \"%2\".")
+                         .arg(wanted, written.family));
     } else {
         findings.add(Fidelity::Exact, kind);
     }
 }
 
 void addPlainText(GlabelsDocument& document, ExportFindings& findings, const WalkedItem& item,
-                  const QString& field, const QString& longest)
+                  GlabelsField field)
 {
-    const QRectF box({0.0, 0.0}, item.values.box.size);
-    const PlainText text = plainTextOf(item.values);
-    const TextLines laid = linesOf(item.values, text, box);
+    const ItemValues& values = item.values;
+    const FontValues font = values.font.value_or(FontValues());
+    const TextStyleValues style = values.textStyle.value_or(TextStyleValues());
+    const bool isRich = values.type == KestTypes::RichText;
+    const bool fixesWidth = !values.textLabel || (values.textLabel->limiting & 1) != 0;
+    const PlainText text{values.text.value_or(TextValues()).text, toFont(font), style.alignment,
+                         style.color, isRich || (font.sized && fixesWidth)};
+    const QRectF box({0.0, 0.0}, values.box.size);
+    const TextLines laid =
+        isRich || font.sized ? textLines(text, box) : textLinesFilling(text, box);
     if (laid.lines.isEmpty() || laid.fontSize <= 0.0) {
         return;
     }
-    GlabelsText written;
-    for (const TextLine& line : laid.lines) {
-        written.lines.append(QString(line.text).remove(QChar::LineSeparator));
+    QRawFont face = QRawFont::fromFont(text.font);
+    face.setPixelSize(laid.fontSize);
+    GlabelsText measured;
+    setFont(measured, face);
+    // Other records are broken into lines as in our layout.
+    if (text.wraps && GlabelsFont(measured).exactWidth(field.longest) > box.width()) {
+        field.longest.clear();
     }
-    written.field = field;
-    written.family = installedFamily(QFontInfo(text.font).family());
-    written.size = laid.fontSize;
-    written.bold = text.font.bold();
-    written.italic = text.font.italic();
-    written.color = text.color;
-    written.alignment = text.alignment;
-    double width = 0.0;
-    for (const TextLine& line : laid.lines) {
-        width += line.box.width();
+    const GlabelsText written =
+        addLines(document, item.toPage,
+                 {face, style.color, font.underline, style.alignment, box, laid.lines}, field);
+    noteChanges(findings, values, written, font.underline && !field.name.isEmpty());
+}
+
+/// Whether gLabels has all formats of a document.
+bool isSimple(const QTextDocument& document)
+{
+    const QList<QTextFormat> formats = document.allFormats();
+    return document.rootFrame()->childFrames().isEmpty() &&
+           std::none_of(formats.begin(), formats.end(), [](const QTextFormat& format) {
+               const QTextCharFormat characters = format.toCharFormat();
+               return format.isImageFormat() || format.isListFormat() ||
+                      format.background().style() != Qt::NoBrush ||
+                      format.hasProperty(QTextFormat::BlockTrailingHorizontalRulerWidth) ||
+                      characters.verticalAlignment() != QTextCharFormat::AlignNormal ||
+                      characters.fontStrikeOut() || characters.fontOverline() ||
+                      characters.fontLetterSpacing() != 0.0 ||
+                      characters.fontCapitalization() != QFont::MixedCase;
+           });
+}
+
+/// A line of a laid out document.
+struct DocumentLine
+{
+    const QTextBlock& block;
+    const QTextLine& line;
+    QPointF corner; ///< of the block
+    QColor color;   ///< of text without its own color
+};
+
+void appendRun(QList<FormattedLines>& runs, const DocumentLine& place, int start, int end,
+               const QTextCharFormat& format)
+{
+    const QString characters = place.block.text().mid(start, end - start);
+    const QList<QGlyphRun> glyphs = place.block.layout()->glyphRuns(start, end - start);
+    if (glyphs.isEmpty() || characters.trimmed().isEmpty()) {
+        return;
     }
-    fitSize(written, width);
-    if (laid.lines.size() > 1) {
-        const double pitch = laid.lines.at(1).baseline - laid.lines.first().baseline;
-        written.lineGap = pitch - metricsOf(written).height();
+    const double from = place.line.cursorToX(start);
+    const double to = place.line.cursorToX(end);
+    const double y = place.corner.y() + place.line.y();
+    const QRectF box(place.corner.x() + std::min(from, to), y, std::abs(to - from),
+                     place.line.height());
+    const bool isUnderlined =
+        format.fontUnderline() || format.underlineStyle() != QTextCharFormat::NoUnderline;
+    const QBrush brush = format.foreground();
+    runs.append({glyphs.first().rawFont(),
+                 brush.style() == Qt::NoBrush ? place.color : brush.color(),
+                 isUnderlined,
+                 Qt::AlignLeft,
+                 box,
+                 {{characters, box, y + place.line.ascent()}}});
+}
+
+/// The characters of one format on a line. Tabs and justified spaces have no fixed width: what they
+/// separate becomes several runs.
+QList<FormattedLines> runsOf(const DocumentLine& place, Qt::Alignment alignment)
+{
+    const QString separators = QString(QChar::LineSeparator) + u'\t' +
+                               (alignment.testFlag(Qt::AlignJustify) ? u" "_s : QString());
+    const QString text = place.block.text();
+    const int lineStart = place.line.textStart();
+    QList<FormattedLines> runs;
+    for (auto it = place.block.begin(); !it.atEnd(); ++it) {
+        const int first = it.fragment().position() - place.block.position();
+        const int end =
+            std::min(first + it.fragment().length(), lineStart + place.line.textLength());
+        for (int next = 0, start = std::max(first, lineStart); start < end; start = next + 1) {
+            for (next = start; next < end && !separators.contains(text.at(next)); ++next) {
+            }
+            appendRun(runs, place, start, next, it.fragment().charFormat());
+        }
     }
-    const GlabelsMetrics metrics = metricsOf(written);
-    const bool isOneLine =
-        !field.isEmpty() && isOnOneLine(longest, text, laid.fontSize, box.width());
-    double widest = isOneLine ? metrics.width(longest) : 0.0;
-    for (const QString& line : written.lines) {
-        widest = std::max(widest, metrics.width(line));
+    if (runs.size() == 1 && !text.contains(u'\t') && !alignment.testFlag(Qt::AlignJustify)) {
+        runs.first().alignment = alignment & Qt::AlignHorizontal_Mask;
+        runs.first().box.setLeft(place.corner.x() + place.line.x());
+        runs.first().box.setWidth(place.line.width());
     }
-    QRectF room = widened(box, widest, text.alignment);
-    room.setHeight(box.height() + HeightTolerance);
-    document.addText(room.translated(0.0, riseOf(laid, written, room)), item.toPage, written);
-    const bool isUnderlined = text.font.underline();
-    if (isUnderlined && field.isEmpty()) {
-        underlineLines(document, item.toPage, laid, text);
+    return runs;
+}
+
+/// Whether runs are the lines of one text.
+bool areOneText(const QList<FormattedLines>& runs)
+{
+    const auto lineOf = [&](qsizetype i) { return runs.at(i).lines.first(); };
+    const double pitch = runs.size() > 1 ? lineOf(1).baseline - lineOf(0).baseline : 0.0;
+    for (qsizetype i = 1; i < runs.size(); ++i) {
+        const FormattedLines& run = runs.at(i);
+        const FormattedLines& first = runs.first();
+        const bool isNext =
+            std::abs(lineOf(i).baseline - lineOf(i - 1).baseline - pitch) < PitchTolerance;
+        if (!isNext || pitch <= 0.0 || run.font != first.font || run.color != first.color ||
+            run.isUnderlined != first.isUnderlined || run.alignment != first.alignment ||
+            run.box.left() != first.box.left() || run.box.width() != first.box.width()) {
+            return false;
+        }
     }
-    noteChanges(findings, item.values, written.family, isUnderlined && !field.isEmpty());
+    return true;
+}
+
+bool addRichText(GlabelsDocument& document, ExportFindings& findings, const WalkedItem& item)
+{
+    const TextStyleValues style = item.values.textStyle.value_or(TextStyleValues());
+    // The item's own document: HTML does not express all of a layout.
+    const auto* painted = dynamic_cast<const QGraphicsTextItem*>(item.item->graphicsItem());
+    if (painted == nullptr || !isSimple(*painted->document())) {
+        return false;
+    }
+    QTextDocument& text = *painted->document();
+    const QSizeF box = item.values.box.size;
+    text.setTextWidth(box.width());
+    const double top = verticalOffset(style.alignment, box.height() - text.size().height());
+    QList<FormattedLines> runs;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        const QPointF corner = block.layout()->position() + QPointF(0.0, top);
+        for (int i = 0; i < block.layout()->lineCount(); ++i) {
+            const QTextLine line = block.layout()->lineAt(i);
+            runs += runsOf({block, line, corner, style.color}, block.blockFormat().alignment());
+        }
+    }
+    if (areOneText(runs)) {
+        for (; runs.size() > 1; runs.removeAt(1)) {
+            runs.first().lines.append(runs.at(1).lines);
+        }
+        findings.add(Fidelity::Exact, shapeCode(item.values.type));
+    } else {
+        findings.add(Fidelity::Simplified, shapeCode(item.values.type),
+                     tr("A text in several formats became a text for each line and format."));
+    }
+    for (const FormattedLines& run : runs) {
+        addLines(document, item.toPage, run, {});
+    }
+    return true;
 }
 
 } // namespace
 
 bool addTextItem(GlabelsDocument& document, ExportFindings& findings, const WalkedItem& item,
-                 const QString& field, const QString& longest)
+                 const GlabelsField& field)
 {
     if (item.values.text && !item.values.text->html.isEmpty()) {
         return addRichText(document, findings, item);
     }
-    addPlainText(document, findings, item, field, longest);
+    addPlainText(document, findings, item, field);
     return true;
 }
 
-void addCaption(GlabelsDocument& document, const QRectF& box, const QTransform& toPage,
-                const QString& text, const QString& field, const QFont& font, double size,
-                const QColor& color, Qt::Alignment alignment)
+void addCaption(GlabelsDocument& document, const QTransform& toPage, const QString& text,
+                const QString& field, const barcodes::BarcodeLayout& layout,
+                const barcodes::BarcodeStyle& style)
 {
-    GlabelsText written;
-    written.lines = {text};
-    written.field = field;
-    written.family = installedFamily(QFontInfo(font).family());
-    written.size = size;
-    written.bold = font.bold();
-    written.italic = font.italic();
-    written.color = color;
-    written.alignment = alignment & Qt::AlignHorizontal_Mask;
-    QFont measured = font;
-    measured.setPixelSize(MeasuringSize);
-    const double width = QFontMetricsF(measured).horizontalAdvance(text) * size / MeasuringSize;
-    fitSize(written, width);
-    document.addText(widened(box, metricsOf(written).width(text), written.alignment), toPage,
-                     written);
+    QRawFont face = QRawFont::fromFont(style.font);
+    face.setPixelSize(layout.captionPixelSize);
+    GlabelsText measured;
+    setFont(measured, face);
+    const GlabelsFont font(measured);
+    QRectF line = layout.caption;
+    line.setWidth(font.exactWidth(text));
+    addLines(document, toPage,
+             {face,
+              style.textColor,
+              false,
+              style.captionAlignment & Qt::AlignHorizontal_Mask,
+              layout.caption,
+              {{text, line, line.top() + font.ascent()}}},
+             {field, {}});
 }
 
 } // namespace exporting

@@ -29,6 +29,9 @@ namespace {
 constexpr double PointsPerInch = 72.0;
 constexpr double MillimetersPerInch = 25.4;
 constexpr int PdfDpi = 1200;
+// Of drawings that are embedded in other documents, and the most of a side.
+constexpr double UnitsPerPoint = 100.0;
+constexpr double MostUnits = 1e8;
 // The attributes of an SVG document that hold its size.
 constexpr qsizetype HeadLength = 600;
 
@@ -54,18 +57,20 @@ QByteArray millimeters(double points)
     return QByteArray::number(points / PointsPerInch * MillimetersPerInch, 'g', 8) + "mm";
 }
 
-// The generator rounds a document's size to pixels; a label must have its exact size.
-QByteArray withTrueSize(QByteArray svg, const QSizeF& page)
+QByteArray sizeAttributes(const QByteArray& width, const QByteArray& height)
 {
-    QString head = QString::fromUtf8(svg.left(HeadLength));
+    return "width=\"" + width + "\" height=\"" + height + '"';
+}
+
+// The generator rounds a document's size to pixels; a label must have its exact size.
+QByteArray withSize(QByteArray svg, const QByteArray& attributes)
+{
+    const QString head = QString::fromUtf8(svg.left(HeadLength));
     static const QRegularExpression size(u"<svg width=\"[^\"]*\" height=\"[^\"]*\""_s);
-    const QByteArray exact = "<svg width=\"" + millimeters(page.width()) + "\" height=\"" +
-                             millimeters(page.height()) + '"';
     const QRegularExpressionMatch match = size.match(head);
-    if (match.hasMatch()) {
-        svg.replace(match.capturedStart(), match.capturedLength(), exact);
-    }
-    return svg;
+    return match.hasMatch()
+               ? svg.replace(match.capturedStart(), match.capturedLength(), "<svg " + attributes)
+               : svg;
 }
 
 QByteArray generatedSvg(const QRectF& area, const QString& title, const Paint& paint)
@@ -81,14 +86,16 @@ QByteArray generatedSvg(const QRectF& area, const QString& title, const Paint& p
     QPainter painter(&generator);
     paint(painter);
     painter.end();
-    return withNamedItems(withTrueSize(buffer.data(), area.size()));
+    return withNamedItems(buffer.data());
 }
 
 QByteArray svgOf(const Canvas& canvas, const QString& title)
 {
-    return generatedSvg(canvas.pageRect(), title, [&canvas](QPainter& painter) {
+    const QSizeF page = canvas.page().size;
+    const QByteArray svg = generatedSvg(canvas.pageRect(), title, [&canvas](QPainter& painter) {
         paintPage(painter, canvas, [&](int position) { markSvgItem(painter, position); });
     });
+    return withSize(svg, sizeAttributes(millimeters(page.width()), millimeters(page.height())));
 }
 
 // In whole points, as QPdfWriter writes it, rounded up: TrueSizePdf corrects it.
@@ -138,7 +145,15 @@ bool paintPages(QPdfWriter& writer, qint64 pages, const PaintPdfPage& paint)
 
 QByteArray drawingSvg(const QRectF& area, const Paint& paint)
 {
-    return generatedSvg(area, {}, paint);
+    // Programs round the size of a drawing to whole units; many units make the error small.
+    const double unitsPerPoint =
+        std::min(UnitsPerPoint, MostUnits / std::max({1.0, area.width(), area.height()}));
+    const auto side = [unitsPerPoint](double points) {
+        return QByteArray::number(std::max(1.0, std::round(points * unitsPerPoint)), 'f', 0);
+    };
+    return withSize(generatedSvg(area, {}, paint),
+                    sizeAttributes(side(area.width()), side(area.height())) +
+                        " preserveAspectRatio=\"none\"");
 }
 
 QString writeSvg(const Canvas& canvas, const QString& fileName, const QString& title)

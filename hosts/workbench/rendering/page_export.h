@@ -27,7 +27,8 @@ using PaintPdfPage = std::function<bool(QPainter& painter, qint64 page)>;
 /// Paints a drawing. The painter's unit is the point.
 using Paint = std::function<void(QPainter& painter)>;
 
-/// What is painted in an area, as an SVG document of the area's size.
+/// What is painted in an area, as an SVG document to be embedded: it has no proportions of its own,
+/// so that it fills any box exactly.
 [[nodiscard]] QByteArray drawingSvg(const QRectF& area, const Paint& paint);
 
 /// Writes the page as SVG in its true size: lines as lines, text as text, and each item as a group

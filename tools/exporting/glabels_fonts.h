@@ -1,0 +1,45 @@
+#pragma once
+
+#include "exporting/glabels_document.h"
+
+#include <QFont>
+#include <QList>
+#include <QRawFont>
+
+namespace exporting {
+
+/// Sets family, size and style of a text to those of a font.
+void setFont(GlabelsText& text, const QRawFont& font);
+
+/// How gLabels measures a font. It rounds the advance of each glyph to whole points, but not the
+/// height of lines; our own layout does the opposite. Lengths are in points.
+class GlabelsFont
+{
+public:
+    explicit GlabelsFont(const GlabelsText& text);
+
+    /// From the upper edge of a line to its baseline.
+    [[nodiscard]] double ascent() const { return m_ascent; }
+    /// Of a line.
+    [[nodiscard]] double height() const { return m_height; }
+    [[nodiscard]] double width(const QString& line) const;
+    /// The width before advances are rounded.
+    [[nodiscard]] double exactWidth(const QString& line) const;
+
+    /// The size, or one that is up to one percent larger or smaller, if the lines then are as wide
+    /// as we paint them: where gLabels rounds the advances of letters by half a point, they are
+    /// rounded down instead of up, or up instead of down.
+    ///
+    /// @param ours the width of all lines together, as we paint them
+    [[nodiscard]] double fittingSize(const QStringList& lines, double ours) const;
+
+private:
+    [[nodiscard]] QList<double> advances(const QString& line) const;
+
+    QFont m_large; ///< in a size in which nothing is rounded
+    double m_scale;
+    double m_ascent;
+    double m_height;
+};
+
+} // namespace exporting
