@@ -15,6 +15,7 @@ using namespace exporting;
 using namespace workbench;
 using namespace Qt::StringLiterals;
 using testing::HasSubstr;
+using testing::Not;
 
 // Noise cannot be compressed.
 ItemValues noiseOf(const QSizeF& box)
@@ -75,6 +76,31 @@ TEST_F(Glabels, ScalesLargeDrawingsDownToTheResolutionOfPrinters)
 {
     canvas.addItem(noiseOf({72, 36}));
     EXPECT_EQ(sizeOfEmbedded(write().label), QSize(300, 150));
+}
+
+// Qt's SVG generator ignores the place and the size of radial gradients.
+TEST_F(Glabels, EmbedsRadialGradientsOfSymbolsAsDots)
+{
+    const QByteArray symbol =
+        R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 10 10"><defs>)"
+        R"(<%1Gradient id="g"><stop offset="0" stop-color="#00ff00"/>)"
+        R"(<stop offset="1" stop-color="#0000ff"/></%1Gradient></defs>)"
+        R"svg(<rect width="10" height="10" fill="url(#g)"/></svg>)svg";
+    ItemValues item = itemOf(KestTypes::Symbol, {72, 36});
+    item.symbol = SymbolValues{QByteArray(symbol).replace("%1", "radial")};
+    canvas.addItem(item);
+    EXPECT_THAT(xml(), Not(HasSubstr("<radialGradient")));
+    EXPECT_EQ(sizeOfEmbedded(write().label), QSize(300, 150));
+
+    item.box.size = {1'000'000, 10};
+    canvas.clear();
+    canvas.addItem(item);
+    EXPECT_EQ(sizeOfEmbedded(write().label), QSize(4000, 1));
+
+    item.symbol = SymbolValues{QByteArray(symbol).replace("%1", "linear")};
+    canvas.clear();
+    canvas.addItem(item);
+    EXPECT_THAT(xml(), HasSubstr("<linearGradient"));
 }
 
 TEST_F(Glabels, LimitsTheDotsOfLongDrawings)

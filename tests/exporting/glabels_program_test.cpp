@@ -27,20 +27,18 @@ using namespace Qt::StringLiterals;
 constexpr double LeastSimilarity = 0.95;
 
 /// gLabels rounds the advances of letters to whole points, so lines of small letters become longer
-/// or shorter. It also has its own error correction for QR codes. Measured values, rounded down.
+/// or shorter. Measured values, rounded down.
 struct Exception
 {
     double similarity;
     const char* reason;
 };
 const std::map<QString, Exception> Exceptions{
-    {u"address_2000016.cnv"_s, {0.89, "a line of 8 points becomes 5 % shorter"}},
-    {u"book_label.qmtx"_s, {0.935, "lines of 9 and 10 points"}},
-    {u"care_label.odt"_s, {0.82, "a text in several formats: each part is placed after the last"}},
+    {u"address_2000016.cnv"_s, {0.915, "a line of 8 points becomes 5 % shorter"}},
+    {u"book_label.qmtx"_s, {0.94, "lines of 9 and 10 points"}},
+    {u"care_label.odt"_s, {0.86, "lines of 11 points become 2 % shorter or 4 % longer"}},
     {u"parcel_label.qmtx"_s, {0.93, "lines of 8 and 9 points"}},
-    {u"picture_2000017.cnv"_s, {0.92, "lines of 10 points become 6 % longer"}},
-    {u"sample_vial.odg"_s, {0.93, "a QR code"}},
-    {u"stretched_text_2000022.cnv"_s, {0.94, "a line of 14 points becomes 2 % longer"}}};
+    {u"picture_2000017.cnv"_s, {0.93, "lines of 10 points become 6 % longer"}}};
 
 QByteArray run(const QString& program, const QStringList& arguments, const QString& folder)
 {
@@ -122,8 +120,9 @@ QImage firstPage(const QString& document, const QString& folder)
 QByteArray lettersOf(const QString& document, const QString& folder)
 {
     QString text = QString::fromUtf8(run(u"pdftotext"_s, {document, u"-"_s}, folder));
-    QByteArray letters =
-        text.remove(QRegularExpression(u"\\d{1,2}:\\d{2}(:\\d{2})?( [AP]M)?"_s)).toUtf8();
+    QByteArray letters = text.remove(QRegularExpression(u"\\d{1,2}:\\d{2}(:\\d{2})?( [AP]M)?"_s))
+                             .normalized(QString::NormalizationForm_KC) // ligatures
+                             .toUtf8();
     letters.removeIf([](char letter) { return static_cast<unsigned char>(letter) <= ' '; });
     std::sort(letters.begin(), letters.end());
     return letters;

@@ -31,6 +31,26 @@ TEST_F(Glabels, KeepsGlabelsFromFindingFieldsInATextAndOmitsControlCharacters)
     EXPECT_THAT(xml(), HasSubstr("$\u200B{Number}!"));
 }
 
+TEST_F(Glabels, DrawsTextsThatAreNotUpright)
+{
+    ItemValues code = barcodeOf(20, u"ABC-123"_s);
+    for (ItemValues values : {textOf(u"Price"_s), code}) {
+        for (const double angle : {0.0, 90.0, 180.0, 270.0, -90.0}) {
+            values.box.rotation = angle;
+            canvas.clear();
+            canvas.addItem(values);
+            EXPECT_EQ(onlyFidelity(), Fidelity::Exact) << angle;
+        }
+        for (const double angle : {1.0, 45.0, 89.0, -30.0}) {
+            values.box.rotation = angle;
+            canvas.clear();
+            canvas.addItem(values);
+            EXPECT_EQ(onlyFidelity(), Fidelity::Picture) << angle;
+            EXPECT_THAT(xml(), Not(HasSubstr("<Object-text"))) << angle;
+        }
+    }
+}
+
 TEST_F(Glabels, UnderlinesWithALine)
 {
     ItemValues text = textOf(u"Price"_s);

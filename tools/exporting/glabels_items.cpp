@@ -69,6 +69,15 @@ QString obstacleOf(const WalkedItem& item, bool hasCorners)
     return {};
 }
 
+/// gLabels 3 distorts the characters of a text at any other angle, and omits all further objects
+/// after a text at 45°.
+bool isUpright(const QTransform& toPage)
+{
+    constexpr double tolerance = 1e-6;
+    return (std::abs(toPage.m12()) < tolerance && std::abs(toPage.m21()) < tolerance) ||
+           (std::abs(toPage.m11()) < tolerance && std::abs(toPage.m22()) < tolerance);
+}
+
 /// What is painted, in dots.
 QImage rasterOf(const QRectF& area, const Paint& paint)
 {
@@ -166,6 +175,10 @@ void GlabelsItems::addLine(const WalkedItem& item)
 
 void GlabelsItems::addText(const WalkedItem& item)
 {
+    if (!isUpright(item.toPage)) {
+        addDrawing(item, tr("gLabels 3 distorts text at such angles."));
+        return;
+    }
     GlabelsField field;
     if (item.isBound) {
         field.name = m_records.columnOf(*item.values.datasource);
@@ -217,6 +230,10 @@ void GlabelsItems::addBarcode(const WalkedItem& item)
     auto known = glabelsSymbol(values, symbol, layout);
     if (!known) {
         addDrawing(item, tr("gLabels does not encode this barcode."));
+        return;
+    }
+    if (!symbol.caption.isEmpty() && !isUpright(item.toPage)) {
+        addDrawing(item, tr("gLabels 3 distorts text at such angles."));
         return;
     }
     if (values.background.alpha() > 0) {

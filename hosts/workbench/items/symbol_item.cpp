@@ -3,10 +3,41 @@
 #include "workbench/items/symbol_colors.h"
 #include "workbench/symbols/symbol_data.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+
 namespace workbench {
+
+namespace {
+
+constexpr double DotsPerPoint = 300.0 / 72.0;
+constexpr double LongestSide = 4'000.0;
+
+/// Qt's SVG generator ignores the place and the size of radial gradients.
+bool losesGradients(const QPainter& painter, const QByteArray& svg)
+{
+    const QPaintEngine* engine = painter.paintEngine();
+    return engine != nullptr && engine->type() == QPaintEngine::SVG &&
+           svg.contains("radialGradient");
+}
+
+void paintDots(QPainter& painter, QSvgRenderer& drawing, const QRectF& box)
+{
+    const double scale =
+        std::min(DotsPerPoint, LongestSide / std::max({1.0, box.width(), box.height()}));
+    QImage image((box.size() * scale).toSize().expandedTo({1, 1}),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter dots(&image);
+    drawing.render(&dots);
+    dots.end();
+    painter.drawImage(box, image);
+}
+
+} // namespace
 
 SymbolItem::SymbolItem(KestTypes::ShapeType type)
     : DatasourceLayer(type)
@@ -58,7 +89,9 @@ void SymbolItem::paintContent(QPainter& painter)
 {
     const QRectF box = contentRect();
     painter.fillRect(box, m_symbol.background);
-    if (m_drawing->isValid()) {
+    if (m_drawing->isValid() && losesGradients(painter, m_safeData)) {
+        paintDots(painter, *m_drawing, box);
+    } else if (m_drawing->isValid()) {
         m_drawing->render(&painter, box);
     }
 }
