@@ -312,6 +312,33 @@ TEST_F(OutputTest, ExportConfirmsReplacingAndReportsTheOutput)
     EXPECT_TRUE(contentOf(QStringLiteral("a.svg")).contains("No. 3"));
 }
 
+// The label has a text and a barcode.
+TEST_F(OutputTest, ExportToGlabelsShowsWhatBecameOfTheItems)
+{
+    DialogDriver dialogs;
+    QWidget window;
+    workbench::ItemValues dashed;
+    dashed.type = KestTypes::Ellipse;
+    dashed.box.size = {20, 20};
+    dashed.pen = workbench::PenValues{Qt::black, 1.0, Qt::DashLine};
+    label.canvas->addItem(dashed);
+    dialogs.expect([this](QDialog& dialog) {
+        auto& exporting = dynamic_cast<ExportDialog&>(dialog);
+        exporting.setTarget(exporting::Target::Glabels);
+        exporting.setFileName(path(QStringLiteral("a.glabels")));
+        exporting.accept();
+    });
+    dialogs.expectButton(QMessageBox::Ok);
+    EXPECT_EQ(exportLabel(label, 0, Prompts(&window), &window),
+              QStringLiteral("Written: ") + path(QStringLiteral("a.glabels")));
+    ASSERT_TRUE(dialogs.isDone());
+    const QString shown = dialogs.texts().join(QLatin1Char('\n'));
+    EXPECT_TRUE(
+        shown.contains(QStringLiteral("Ellipse: became a picture. gLabels has no dashed lines.")))
+        << shown.toStdString();
+    EXPECT_TRUE(shown.contains(QStringLiteral(": exact"))) << shown.toStdString();
+}
+
 TEST_F(OutputTest, AfterASeriesTheLabelShowsItsRecordAgain)
 {
     DialogDriver dialogs;

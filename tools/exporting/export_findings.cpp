@@ -1,10 +1,23 @@
 #include "exporting/export_findings.h"
 
+#include "workbench/items/shape_kinds.h"
+
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace exporting {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("exporting::ExportFindings", text);
+}
+
+} // namespace
 
 QString nameOf(Fidelity fidelity)
 {
@@ -17,6 +30,22 @@ QString nameOf(Fidelity fidelity)
         break;
     }
     return u"simplified"_s;
+}
+
+QString describe(const ExportFinding& finding)
+{
+    const bool isLabel = finding.kind == "label"_L1;
+    const QString kind = isLabel ? tr("Label") : workbench::shapeTitle(finding.kind);
+    const QString counted = finding.count == 1 ? kind : u"%1 × %2"_s.arg(finding.count).arg(kind);
+    switch (finding.fidelity) {
+    case Fidelity::Exact:
+        return tr("%1: exact").arg(counted);
+    case Fidelity::Picture:
+        return tr("%1: became a picture. %2").arg(counted, finding.text);
+    case Fidelity::Simplified:
+        break;
+    }
+    return tr("%1: simplified. %2").arg(counted, finding.text);
 }
 
 void ExportFindings::add(const ExportFinding& finding)

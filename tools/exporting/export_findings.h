@@ -25,6 +25,9 @@ struct ExportFinding
     bool operator==(const ExportFinding&) const = default;
 };
 
+/// "Ellipse: exact", in the language of the user.
+[[nodiscard]] QString describe(const ExportFinding& finding);
+
 /// Counts findings.
 class ExportFindings
 {

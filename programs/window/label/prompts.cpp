@@ -126,4 +126,14 @@ void Prompts::showError(const QString& what, const QString& why) const
     box.exec();
 }
 
+void Prompts::showResult(const QString& what, const QString& details) const
+{
+    QMessageBox box(m_window);
+    box.setIcon(QMessageBox::Information);
+    box.setWindowTitle(Tr::tr("LabelPort Workbench"));
+    setPlainText(box, what, details);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
 } // namespace window

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] QString askSaveFile(const QString& suggestedName) const;
     /// Shows what failed, and why.
     void showError(const QString& what, const QString& why) const;
+    /// Shows what was done, and its details.
+    void showResult(const QString& what, const QString& details) const;
 
 private:
     QWidget* m_window;

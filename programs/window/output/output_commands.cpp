@@ -62,6 +62,18 @@ QString resultMessage(const OutputReport& report, const OutputOrder& order)
                              : Tr::tr("%n file(s) written", nullptr, report.files);
 }
 
+void showFindings(const exporting::ExportFindings& findings, const QString& result,
+                  const Prompts& prompts)
+{
+    QStringList lines;
+    for (const exporting::ExportFinding& finding : findings.all()) {
+        lines.append(exporting::describe(finding));
+    }
+    if (!lines.isEmpty()) {
+        prompts.showResult(result, lines.join(u'\n'));
+    }
+}
+
 // A file that the user has chosen; empty if the user canceled.
 QString askPdfFile(const OpenLabel& label, QWidget* window)
 {
@@ -137,7 +149,9 @@ QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts
         prompts.showError(Tr::tr("The label could not be exported."), report.error);
         return {};
     }
-    return resultMessage(report, order);
+    const QString result = resultMessage(report, order);
+    showFindings(report.findings, result, prompts);
+    return result;
 }
 
 QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts, QWidget* window,

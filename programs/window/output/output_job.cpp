@@ -34,7 +34,8 @@ OutputReport writeFile(OpenLabel& label, const OutputOrder& order, const QString
     report.error =
         exporting::exportFile(order.target,
                               {*label.canvas, *label.sources, records.first, records.count,
-                               titleOf(label), order.options, beforeRecord},
+                               titleOf(label), order.options, beforeRecord,
+                               {}, &report.findings},
                               fileName);
     report.files = report.error.isEmpty() && !report.wasStopped ? 1 : 0;
     return report;

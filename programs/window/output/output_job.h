@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exporting/export_findings.h"
 #include "exporting/targets.h"
 #include "window/label/open_label.h"
 
@@ -35,6 +36,8 @@ struct OutputReport
     QString error; ///< user-visible; empty on success
     bool wasStopped = false;
     int files = 0; ///< written files
+    /// What became of the items, if the target cannot express all.
+    exporting::ExportFindings findings = {};
 };
 
 /// Called before each record with the number of finished ones; return false to cancel.
