@@ -83,7 +83,7 @@ TEST_F(Glabels, EmbedsRadialGradientsOfSymbolsAsDots)
 {
     const QByteArray symbol =
         R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 10 10"><defs>)"
-        R"(<%1Gradient id="g"><stop offset="0" stop-color="#00ff00"/>)"
+        R"(<%1Gradient id="g" cx="0.5" cy="0.5" r="0.5"><stop offset="0" stop-color="#00ff00"/>)"
         R"(<stop offset="1" stop-color="#0000ff"/></%1Gradient></defs>)"
         R"svg(<rect width="10" height="10" fill="url(#g)"/></svg>)svg";
     ItemValues item = itemOf(KestTypes::Symbol, {72, 36});
