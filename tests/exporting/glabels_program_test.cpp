@@ -34,11 +34,13 @@ struct Exception
     const char* reason;
 };
 const std::map<QString, Exception> Exceptions{
-    {u"address_2000016.cnv"_s, {0.915, "a line of 8 points becomes 5 % shorter"}},
+    {u"address_2000016.cnv"_s, {0.9, "a line of 8 points becomes 5 % shorter"}},
     {u"book_label.qmtx"_s, {0.94, "lines of 9 and 10 points"}},
     {u"care_label.odt"_s, {0.86, "lines of 11 points become 2 % shorter or 4 % longer"}},
+    {u"centred_runs_overlap.odt"_s, {0.94, "lines of 12 points"}},
     {u"parcel_label.qmtx"_s, {0.93, "lines of 8 and 9 points"}},
-    {u"picture_2000017.cnv"_s, {0.93, "lines of 10 points become 6 % longer"}}};
+    {u"picture_2000017.cnv"_s, {0.925, "lines of 10 points become 6 % longer"}},
+    {u"stretched_text_2000022.cnv"_s, {0.94, "a line of 14 points becomes 2 % longer"}}};
 
 QByteArray run(const QString& program, const QStringList& arguments, const QString& folder)
 {
