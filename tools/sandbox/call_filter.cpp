@@ -225,10 +225,12 @@ bool addConditional(void* filter)
         isComplete &= addWith(filter, SCMP_ACT_KILL_PROCESS, call, {0, SCMP_CMP_NE, self, 0});
     }
     // Asks whether a descriptor is a terminal, and how much can be read. Others write to terminals.
-    for (const scmp_datum_t request : {TCGETS, FIONREAD, FIOCLEX}) {
+    constexpr std::array<scmp_datum_t, 3> requests{TCGETS, FIONREAD, FIOCLEX};
+    for (const scmp_datum_t request : requests) {
         isComplete &= addWith(filter, SCMP_ACT_ALLOW, SCMP_SYS(ioctl), equals(1, request));
     }
-    for (const scmp_datum_t option : {PR_SET_NAME, PR_GET_NAME, PR_SET_VMA}) {
+    constexpr std::array<scmp_datum_t, 3> options{PR_SET_NAME, PR_GET_NAME, PR_SET_VMA};
+    for (const scmp_datum_t option : options) {
         isComplete &= addWith(filter, SCMP_ACT_ALLOW, SCMP_SYS(prctl), equals(0, option));
     }
     // Its own limits, which it may lower.
