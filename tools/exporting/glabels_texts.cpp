@@ -1,6 +1,7 @@
 #include "exporting/glabels_texts.h"
 
 #include "exporting/glabels_fonts.h"
+#include "exporting/glabels_lines.h"
 #include "workbench/items/canvas_item.h"
 #include "workbench/items/shape_kinds.h"
 #include "workbench/items/text_layout.h"
@@ -23,89 +24,12 @@ using namespace workbench;
 
 namespace {
 
-/// Keeps a text from moving by a point if its place is whole points, except for a rounding error.
-constexpr double HeightTolerance = 0.01;
 /// Lines at equal distances are lines of one text.
 constexpr double PitchTolerance = 0.01;
-/// A line that gLabels measures a little wider than calculated would be broken.
-constexpr double WidthTolerance = 1.03;
 
 QString tr(const char* text)
 {
     return QCoreApplication::translate("exporting::Glabels", text);
-}
-
-/// Lines in one format, as we paint them.
-struct FormattedLines
-{
-    QRawFont font;
-    QColor color;
-    bool isUnderlined = false;
-    Qt::Alignment alignment;
-    QRectF box; ///< in which the lines are aligned
-    QList<TextLine> lines;
-};
-
-/// The box, wide enough for a line of this width in gLabels. It grows away from the aligned edge.
-QRectF widened(const QRectF& box, double width, Qt::Alignment alignment)
-{
-    const double missing = std::max(0.0, width * WidthTolerance + 1.0 - box.width());
-    const double left = alignment.testFlag(Qt::AlignHCenter) ? missing / 2.0
-                        : alignment.testFlag(Qt::AlignRight) ? missing
-                                                             : 0.0;
-    return box.adjusted(-left, 0.0, missing - left, 0.0);
-}
-
-/// gLabels has no underlined text.
-void underline(GlabelsDocument& document, const QTransform& toPage, const FormattedLines& text)
-{
-    for (const TextLine& line : text.lines) {
-        const double y = line.baseline + text.font.underlinePosition();
-        if (line.box.width() > 0.0) {
-            document.addLine(toPage.map(QPointF(line.box.left(), y)),
-                             toPage.map(QPointF(line.box.right(), y)),
-                             {text.color, text.font.lineThickness()});
-        }
-    }
-}
-
-/// Adds the lines as one text. Returns it.
-GlabelsText addLines(GlabelsDocument& document, const QTransform& toPage,
-                     const FormattedLines& text, const GlabelsField& field)
-{
-    GlabelsText written;
-    double ours = 0.0;
-    for (const TextLine& line : text.lines) {
-        written.lines.append(QString(line.text).remove(QChar::LineSeparator));
-        ours += line.box.width();
-    }
-    setFont(written, text.font);
-    written.size = GlabelsFont(written).fittingSize(written.lines, ours);
-    written.field = field.name;
-    written.color = text.color;
-    written.alignment = text.alignment;
-    const GlabelsFont font(written);
-    if (text.lines.size() > 1) {
-        written.lineGap = text.lines.at(1).baseline - text.lines.at(0).baseline - font.height();
-    }
-    double widest = font.width(field.longest);
-    for (const QString& line : written.lines) {
-        widest = std::max(widest, font.width(line));
-    }
-    QRectF box = widened(text.box, widest, text.alignment);
-    box.setHeight(box.height() + HeightTolerance);
-    // gLabels measures the height of a text in whole points, and places it at whole points from the
-    // upper edge of the box.
-    const double height = font.height() * static_cast<double>(text.lines.size()) +
-                          written.lineGap * static_cast<double>(text.lines.size() - 1);
-    const double offset =
-        std::trunc(verticalOffset(text.alignment, box.height() - std::ceil(height)));
-    box.moveTop(text.lines.first().baseline - font.ascent() - offset);
-    document.addText(box, toPage, written);
-    if (text.isUnderlined && field.name.isEmpty()) {
-        underline(document, toPage, text);
-    }
-    return written;
 }
 
 void noteChanges(ExportFindings& findings, const ItemValues& values, const GlabelsText& written,
