@@ -21,6 +21,10 @@
 #include <QTest>
 #include <QTextDocument>
 
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
 using namespace window;
 using namespace Qt::Literals::StringLiterals;
 
@@ -82,6 +86,37 @@ QString plainTextOf(const workbench::ItemValues& values)
     return values.text->html.isEmpty() ? values.text->text : document.toPlainText();
 }
 
+// Where two pictures differ, and by how much.
+std::string differenceOf(const QImage& one, const QImage& other)
+{
+    if (one.size() != other.size()) {
+        return "different sizes";
+    }
+    int pixels = 0;
+    int most = 0;
+    QRect box;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QColor a = one.pixelColor(x, y);
+            const QColor b = other.pixelColor(x, y);
+            if (a != b) {
+                ++pixels;
+                box |= QRect(x, y, 1, 1);
+                most = std::max({most, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                                 std::abs(a.blue() - b.blue())});
+            }
+        }
+    }
+    return QStringLiteral("%1 pixels at %2, %3 to %4, %5, by up to %6")
+        .arg(pixels)
+        .arg(box.left())
+        .arg(box.top())
+        .arg(box.right())
+        .arg(box.bottom())
+        .arg(most)
+        .toStdString();
+}
+
 QStringList files()
 {
     const QString folder = qEnvironmentVariable("LABELPORT_FILES");
@@ -136,10 +171,10 @@ TEST_P(CorrectedFilesTest, AreSavedOpenedUndoneAndPrinted)
     for (int step = 0; step < steps; ++step) {
         main.action(ActionId::Undo).trigger();
     }
-    EXPECT_EQ(picture(), original);
+    EXPECT_TRUE(picture() == original) << differenceOf(picture(), original);
     main.session().undoStack().setClean();
     ASSERT_EQ(main.openFileQuietly(path(u"corrected.label"_s)), QString());
-    EXPECT_EQ(picture(), corrected);
+    EXPECT_TRUE(picture() == corrected) << differenceOf(picture(), corrected);
     const qint64 reopened = time.restart();
 
     PrintDialog print(label(), 0, {}, nullptr);

@@ -64,7 +64,7 @@ protected:
         keepImage(image, u"manual/"_s + name);
         QFile file(QStringLiteral(LABELPORT_PICTURES "/manual/%1.png").arg(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_LT(file.size(), 100'000) << "they are in the program";
+        EXPECT_LT(file.size(), 150'000) << "they are in the program";
     }
 
     static std::unique_ptr<MainWindow> makeWindow()
