@@ -163,6 +163,18 @@ TEST(OpenDocumentCensus, TextsOfShapesTakeNothingFromTheShapesStyle)
                    "</text:span></text:p></draw:rect>"));
 }
 
+TEST(OpenDocumentCensus, ATextOfZeroWidthIsNoObject)
+{
+    const auto objects = [](const QByteArray& text) {
+        return countOpenDocument(drawingOf("<draw:frame><draw:text-box><text:p>" + text +
+                                           "</text:p></draw:text-box></draw:frame>"))
+            .objects.size();
+    };
+    EXPECT_EQ(objects("\xe2\x80\x8b"), objects(" "));
+    EXPECT_EQ(objects("\xe2\x80\x8bword"), objects("word"));
+    EXPECT_LT(objects(" "), objects("word"));
+}
+
 TEST(OpenDocumentCensus, RotationAndTranslationAreKeptOtherTransformsAreLosses)
 {
     const auto dropped = [](const QByteArray& transform) {

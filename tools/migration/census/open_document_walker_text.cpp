@@ -10,9 +10,11 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// Repair writes zero width spaces into texts that only hold the places of objects.
 bool isBlank(QStringView text)
 {
-    return text.trimmed().isEmpty();
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar each) { return each.isSpace() || each == QChar(0x200B); });
 }
 
 } // namespace

@@ -45,9 +45,9 @@ bool isBlankText(const ItemValues& values)
     }
     static const QRegularExpression tags(u"<[^>]*>"_s);
     const qsizetype body = values.text->html.indexOf(QLatin1String("<body"));
-    const QString shown =
+    QString shown =
         values.text->html.isEmpty() ? values.text->text : values.text->html.mid(body).remove(tags);
-    return shown.trimmed().isEmpty();
+    return shown.remove(QChar(0x200B)).trimmed().isEmpty();
 }
 
 bool showsNothing(const ItemValues& values)
