@@ -1152,6 +1152,25 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
     </message>
 </context>
 <context>
+    <name>exporting::ExportFindings</name>
+    <message>
+        <source>Label</source>
+        <translation>Etikett</translation>
+    </message>
+    <message>
+        <source>%1: exact</source>
+        <translation>%1: genau</translation>
+    </message>
+    <message>
+        <source>%1: became a picture. %2</source>
+        <translation>%1: wurde zu einem Bild. %2</translation>
+    </message>
+    <message>
+        <source>%1: simplified. %2</source>
+        <translation>%1: vereinfacht. %2</translation>
+    </message>
+</context>
+<context>
     <name>exporting::Glabels</name>
     <message>
         <source>Only the first records are in the CSV file.</source>
@@ -1194,10 +1213,6 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Der Inhalt kann nicht kodiert werden.</translation>
     </message>
     <message>
-        <source>gLabels does not encode this barcode: it shows the first record only.</source>
-        <translation>gLabels kodiert diesen Barcode nicht: Er zeigt nur den ersten Datensatz.</translation>
-    </message>
-    <message>
         <source>gLabels does not encode this barcode.</source>
         <translation>gLabels kodiert diesen Barcode nicht.</translation>
     </message>
@@ -1224,6 +1239,10 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
     <message>
         <source>gLabels knows only installed fonts: &quot;%1&quot; became &quot;%2&quot;.</source>
         <translation>gLabels kennt nur installierte Schriften: „%1“ wurde zu „%2“.</translation>
+    </message>
+    <message>
+        <source>gLabels 3 distorts text at such angles.</source>
+        <translation>gLabels 3 verzerrt Text bei solchen Winkeln.</translation>
     </message>
 </context>
 <context>
@@ -1890,10 +1909,6 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Formate von Zeichen und Absätzen, etwa Hochstellung oder Zeilenabstand, wurden verworfen.</translation>
     </message>
     <message>
-        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
-        <translation>Verläufe, Schraffuren und Bilder, die Objekte füllen, wurden vereinfacht.</translation>
-    </message>
-    <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
         <translation>Formen eines Textdokuments wurden weggelassen: Nur Texte, Textfelder und Bilder werden importiert.</translation>
     </message>
@@ -2130,12 +2145,24 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Linien sind um mehr als ein Viertel dünner oder dicker als im Dokument.</translation>
     </message>
     <message>
-        <source>Shadows, gradients of transparency, cropping and other effects were dropped.</source>
-        <translation>Schatten, Transparenzverläufe, Zuschnitte und andere Effekte sind entfallen.</translation>
-    </message>
-    <message>
         <source>Transparent fills and lines became opaque.</source>
         <translation>Transparente Füllungen und Linien wurden deckend.</translation>
+    </message>
+    <message>
+        <source>Effects of characters and paragraphs, such as shadow, outline, stretching or borders, were dropped.</source>
+        <translation>Effekte von Zeichen und Absätzen wie Schatten, Kontur, Dehnung oder Rahmen gingen verloren.</translation>
+    </message>
+    <message>
+        <source>Gradients and hatchings that fill objects were simplified.</source>
+        <translation>Verläufe und Schraffuren, die Objekte füllen, wurden vereinfacht.</translation>
+    </message>
+    <message>
+        <source>Pictures and patterns that fill objects were replaced by a color.</source>
+        <translation>Bilder und Muster, die Objekte füllen, wurden durch eine Farbe ersetzt.</translation>
+    </message>
+    <message>
+        <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
+        <translation>Schatten, Transparenz von Bildern, Zuschnitt und andere Effekte gingen verloren.</translation>
     </message>
 </context>
 <context>
@@ -2437,6 +2464,13 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
             <numerusform>%n Anmerkungen an den Text angehängt</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n embedded document(s) replaced by their content</source>
+        <translation>
+            <numerusform>%n eingebettetes Dokument durch seinen Inhalt ersetzt</numerusform>
+            <numerusform>%n eingebettete Dokumente durch ihren Inhalt ersetzt</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>sandbox::Confinement</name>
@@ -2569,24 +2603,12 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>Ends the program</source>
-        <translation>Beendet das Programm</translation>
-    </message>
-    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>Takes the last change back</source>
-        <translation>Macht die letzte Änderung rückgängig</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
-        <source>Makes the change again</source>
-        <translation>Stellt die rückgängig gemachte Änderung wieder her</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -2633,10 +2655,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>&amp;Originalgröße</translation>
     </message>
     <message>
-        <source>Shows the label in the size in which it is printed</source>
-        <translation>Zeigt das Etikett in der Größe an, in der es gedruckt wird</translation>
-    </message>
-    <message>
         <source>Zoom to &amp;Selection</source>
         <translation>Auf &amp;Auswahl zoomen</translation>
     </message>
@@ -2673,10 +2691,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>Wie im &amp;System</translation>
     </message>
     <message>
-        <source>Takes the colors of the desktop</source>
-        <translation>Verwendet die Farben des Desktops</translation>
-    </message>
-    <message>
         <source>&amp;Light</source>
         <translation>&amp;Hell</translation>
     </message>
@@ -2697,40 +2711,20 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>&amp;Zeichenfläche</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the canvas</source>
-        <translation>Setzt den Tastaturfokus auf die Zeichenfläche</translation>
-    </message>
-    <message>
         <source>&amp;Items</source>
         <translation>&amp;Objekte</translation>
-    </message>
-    <message>
-        <source>Shows the list of items and puts the keyboard on it</source>
-        <translation>Zeigt die Liste der Objekte an und setzt den Tastaturfokus darauf</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
         <translation>&amp;Eigenschaften</translation>
     </message>
     <message>
-        <source>Shows the properties of an item and puts the keyboard on them</source>
-        <translation>Zeigt die Eigenschaften eines Objekts an und setzt den Tastaturfokus darauf</translation>
-    </message>
-    <message>
         <source>&amp;Data Sources</source>
         <translation>&amp;Datenquellen</translation>
     </message>
     <message>
-        <source>Shows the data sources and puts the keyboard on them</source>
-        <translation>Zeigt die Datenquellen an und setzt den Tastaturfokus darauf</translation>
-    </message>
-    <message>
         <source>I&amp;ssues</source>
         <translation>&amp;Probleme</translation>
-    </message>
-    <message>
-        <source>Shows the issues and puts the keyboard on them</source>
-        <translation>Zeigt die Probleme an und setzt den Tastaturfokus darauf</translation>
     </message>
     <message>
         <source>&amp;First</source>
@@ -2745,16 +2739,8 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>&amp;Vorheriger</translation>
     </message>
     <message>
-        <source>Shows the record before</source>
-        <translation>Zeigt den vorherigen Datensatz an</translation>
-    </message>
-    <message>
         <source>&amp;Next</source>
         <translation>&amp;Nächster</translation>
-    </message>
-    <message>
-        <source>Shows the record after</source>
-        <translation>Zeigt den nächsten Datensatz an</translation>
     </message>
     <message>
         <source>&amp;Last</source>
@@ -2769,24 +2755,12 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <translation>&amp;Gehe zu…</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the record&apos;s number</source>
-        <translation>Setzt den Tastaturfokus auf die Nummer des Datensatzes</translation>
-    </message>
-    <message>
         <source>&amp;Keyboard Shortcuts</source>
         <translation>&amp;Tastenkürzel</translation>
     </message>
     <message>
-        <source>Shows all keys</source>
-        <translation>Zeigt alle Tastenkürzel an</translation>
-    </message>
-    <message>
         <source>&amp;About</source>
         <translation>&amp;Info</translation>
-    </message>
-    <message>
-        <source>Shows what program this is</source>
-        <translation>Zeigt Informationen über das Programm an</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -3072,6 +3046,66 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
         <source>Adds a text for each record and shows it in the selected items</source>
         <translation>Fügt für jeden Datensatz einen Text hinzu und zeigt ihn in den ausgewählten Objekten</translation>
     </message>
+    <message>
+        <source>Closes the window</source>
+        <translation>Schließt das Fenster</translation>
+    </message>
+    <message>
+        <source>Undoes the last change</source>
+        <translation>Macht die letzte Änderung rückgängig</translation>
+    </message>
+    <message>
+        <source>Redoes the last undone change</source>
+        <translation>Stellt die letzte rückgängig gemachte Änderung wieder her</translation>
+    </message>
+    <message>
+        <source>Shows the label in its printed size</source>
+        <translation>Zeigt das Etikett in Druckgröße</translation>
+    </message>
+    <message>
+        <source>Uses the colors of the desktop</source>
+        <translation>Verwendet die Farben der Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Moves keyboard focus to the canvas</source>
+        <translation>Setzt den Tastaturfokus auf die Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>Shows the list of items and moves keyboard focus to it</source>
+        <translation>Zeigt die Objektliste und setzt den Tastaturfokus darauf</translation>
+    </message>
+    <message>
+        <source>Shows the properties of an item and moves keyboard focus to them</source>
+        <translation>Zeigt die Eigenschaften eines Objekts und setzt den Tastaturfokus darauf</translation>
+    </message>
+    <message>
+        <source>Shows the data sources and moves keyboard focus to them</source>
+        <translation>Zeigt die Datenquellen und setzt den Tastaturfokus darauf</translation>
+    </message>
+    <message>
+        <source>Shows the issues and moves keyboard focus to them</source>
+        <translation>Zeigt die Probleme und setzt den Tastaturfokus darauf</translation>
+    </message>
+    <message>
+        <source>Shows the previous record</source>
+        <translation>Zeigt den vorigen Datensatz</translation>
+    </message>
+    <message>
+        <source>Shows the next record</source>
+        <translation>Zeigt den nächsten Datensatz</translation>
+    </message>
+    <message>
+        <source>Moves keyboard focus to the record number</source>
+        <translation>Setzt den Tastaturfokus auf die Datensatznummer</translation>
+    </message>
+    <message>
+        <source>Lists the keys of all commands</source>
+        <translation>Listet die Tasten aller Befehle auf</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program</source>
+        <translation>Zeigt die Version des Programms</translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -3090,6 +3124,10 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>Change Text</source>
         <translation>Text ändern</translation>
+    </message>
+    <message>
+        <source>The item shows a data source; its own text is shown only without one.</source>
+        <translation>Das Objekt zeigt eine Datenquelle; sein eigener Text erscheint nur ohne eine solche.</translation>
     </message>
 </context>
 <context>
@@ -3154,10 +3192,6 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>Bind to Data Source</source>
         <translation>Mit Datenquelle verbinden</translation>
-    </message>
-    <message>
-        <source>The label has no data source.</source>
-        <translation>Das Etikett hat keine Datenquelle.</translation>
     </message>
     <message>
         <source>Data source:</source>
@@ -3406,6 +3440,18 @@ Exit-Status: 0 importiert, 1 nicht importiert, 2 falscher Aufruf.</translation>
     <message>
         <source>The import ended without a result.</source>
         <translation>Der Import endete ohne Ergebnis.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Importing “%1”…</source>
+        <translation>„%1“ wird importiert …</translation>
+    </message>
+    <message>
+        <source>The import was canceled.</source>
+        <translation>Der Import wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -3999,10 +4045,6 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>LabelPort Workbench %1</translation>
     </message>
     <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation>Öffnet alte Etikettenvorlagen, zeigt sie an, speichert sie und gibt sie weiter.</translation>
-    </message>
-    <message>
         <source>Open &amp;Recent</source>
         <translation>&amp;Zuletzt geöffnet</translation>
     </message>
@@ -4034,6 +4076,10 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <source>“%1” contains too many files; the list of labels is not complete.</source>
         <translation>„%1“ enthält zu viele Dateien; die Liste der Etiketten ist nicht vollständig.</translation>
     </message>
+    <message>
+        <source>Opens legacy label templates; corrects, saves, exports and prints them.</source>
+        <translation>Öffnet alte Etikettenvorlagen; korrigiert, speichert, exportiert und druckt sie.</translation>
+    </message>
 </context>
 <context>
     <name>window::ManualDialog</name>
@@ -4060,16 +4106,8 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Stopped after %1 files</source>
-        <translation>Nach %1 Dateien abgebrochen</translation>
-    </message>
-    <message>
         <source>Written: %1</source>
         <translation>Geschrieben: %1</translation>
-    </message>
-    <message>
-        <source>%1 files written</source>
-        <translation>%1 Dateien geschrieben</translation>
     </message>
     <message>
         <source>Exporting</source>
@@ -4112,6 +4150,20 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>
             <numerusform>%n Seite an Drucker %1 übergeben</numerusform>
             <numerusform>%n Seiten an Drucker %1 übergeben</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped after %n file(s)</source>
+        <translation>
+            <numerusform>Nach %n Datei angehalten</numerusform>
+            <numerusform>Nach %n Dateien angehalten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written</source>
+        <translation>
+            <numerusform>%n Datei geschrieben</numerusform>
+            <numerusform>%n Dateien geschrieben</numerusform>
         </translation>
     </message>
 </context>
@@ -4189,10 +4241,6 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <translation>Etiketten hinzufügen</translation>
     </message>
     <message>
-        <source>Labels (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;All files (*)</source>
-        <translation>Etiketten (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -4200,20 +4248,20 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
     </message>
+    <message>
+        <source>Labels (%1);;All files (*)</source>
+        <translation>Etiketten (%1);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1 – the preview shows its first labels only</source>
+        <translation>%1 – die Vorschau zeigt nur die ersten Etiketten</translation>
+    </message>
 </context>
 <context>
     <name>window::Prompts</name>
     <message>
-        <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
-        <translation>Alle Etiketten (*.label *.cnv *.roc *.qmtx *.odt *.odg)</translation>
-    </message>
-    <message>
         <source>Saved labels (*.label)</source>
         <translation>Gespeicherte Etiketten (*.label)</translation>
-    </message>
-    <message>
-        <source>Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)</source>
-        <translation>Alte Etiketten (*.cnv *.roc *.qmtx *.odt *.odg)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -4246,6 +4294,14 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>Open Folder</source>
         <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>All labels (%1)</source>
+        <translation>Alle Etiketten (%1)</translation>
+    </message>
+    <message>
+        <source>Legacy labels (%1)</source>
+        <translation>Alte Etiketten (%1)</translation>
     </message>
 </context>
 <context>
@@ -4684,6 +4740,10 @@ Das Etikett ist noch geöffnet. Speichern Sie es mit „Speichern unter“ in ei
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

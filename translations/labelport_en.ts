@@ -204,6 +204,13 @@
             <numerusform>%n notes appended to the text</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n embedded document(s) replaced by their content</source>
+        <translation>
+            <numerusform>%n embedded document replaced by their content</numerusform>
+            <numerusform>%n embedded documents replaced by their content</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>window::Issues</name>
@@ -232,6 +239,20 @@
         <translation>
             <numerusform>%n page given to printer %1</numerusform>
             <numerusform>%n pages given to printer %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped after %n file(s)</source>
+        <translation>
+            <numerusform>Stopped after %n file</numerusform>
+            <numerusform>Stopped after %n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written</source>
+        <translation>
+            <numerusform>%n file written</numerusform>
+            <numerusform>%n files written</numerusform>
         </translation>
     </message>
 </context>

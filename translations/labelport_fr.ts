@@ -1152,6 +1152,25 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
     </message>
 </context>
 <context>
+    <name>exporting::ExportFindings</name>
+    <message>
+        <source>Label</source>
+        <translation>Étiquette</translation>
+    </message>
+    <message>
+        <source>%1: exact</source>
+        <translation>%1&#xa0;: exact</translation>
+    </message>
+    <message>
+        <source>%1: became a picture. %2</source>
+        <translation>%1&#xa0;: devenu une image. %2</translation>
+    </message>
+    <message>
+        <source>%1: simplified. %2</source>
+        <translation>%1&#xa0;: simplifié. %2</translation>
+    </message>
+</context>
+<context>
     <name>exporting::Glabels</name>
     <message>
         <source>Only the first records are in the CSV file.</source>
@@ -1194,10 +1213,6 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Le contenu ne peut pas être encodé.</translation>
     </message>
     <message>
-        <source>gLabels does not encode this barcode: it shows the first record only.</source>
-        <translation>gLabels n’encode pas ce code-barres&#xa0;: il ne montre que le premier enregistrement.</translation>
-    </message>
-    <message>
         <source>gLabels does not encode this barcode.</source>
         <translation>gLabels n’encode pas ce code-barres.</translation>
     </message>
@@ -1224,6 +1239,10 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
     <message>
         <source>gLabels knows only installed fonts: &quot;%1&quot; became &quot;%2&quot;.</source>
         <translation>gLabels ne connaît que les polices installées&#xa0;: «&#xa0;%1&#xa0;» est devenu «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>gLabels 3 distorts text at such angles.</source>
+        <translation>gLabels 3 déforme le texte à de tels angles.</translation>
     </message>
 </context>
 <context>
@@ -1890,10 +1909,6 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Des formats de caractères et de paragraphes, comme l’exposant ou l’interligne, ont été supprimés.</translation>
     </message>
     <message>
-        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
-        <translation>Des dégradés, hachures et images qui remplissent des objets ont été simplifiés.</translation>
-    </message>
-    <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
         <translation>Des formes d’un document texte ont été omises&#xa0;: seuls les textes, les zones de texte et les images sont importés.</translation>
     </message>
@@ -2130,12 +2145,24 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Des lignes sont plus fines ou plus épaisses de plus d’un quart que dans le document.</translation>
     </message>
     <message>
-        <source>Shadows, gradients of transparency, cropping and other effects were dropped.</source>
-        <translation>Les ombres, dégradés de transparence, rognages et autres effets ont été abandonnés.</translation>
-    </message>
-    <message>
         <source>Transparent fills and lines became opaque.</source>
         <translation>Les remplissages et lignes transparents sont devenus opaques.</translation>
+    </message>
+    <message>
+        <source>Effects of characters and paragraphs, such as shadow, outline, stretching or borders, were dropped.</source>
+        <translation>Des effets de caractères et de paragraphes (ombre, contour, étirement, bordures) ont été perdus.</translation>
+    </message>
+    <message>
+        <source>Gradients and hatchings that fill objects were simplified.</source>
+        <translation>Des dégradés et hachures de remplissage ont été simplifiés.</translation>
+    </message>
+    <message>
+        <source>Pictures and patterns that fill objects were replaced by a color.</source>
+        <translation>Des images et motifs de remplissage ont été remplacés par une couleur.</translation>
+    </message>
+    <message>
+        <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
+        <translation>Des ombres, la transparence d’images, des rognages et d’autres effets ont été perdus.</translation>
     </message>
 </context>
 <context>
@@ -2437,6 +2464,13 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
             <numerusform>%n notes ajoutées au texte</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n embedded document(s) replaced by their content</source>
+        <translation>
+            <numerusform>%n document incorporé remplacé par son contenu</numerusform>
+            <numerusform>%n documents incorporés remplacés par leur contenu</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>sandbox::Confinement</name>
@@ -2569,24 +2603,12 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <source>Ends the program</source>
-        <translation>Quitte le programme</translation>
-    </message>
-    <message>
         <source>&amp;Undo</source>
         <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>Takes the last change back</source>
-        <translation>Annule la dernière modification</translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
         <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>Makes the change again</source>
-        <translation>Rétablit la modification annulée</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
@@ -2633,10 +2655,6 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>&amp;Taille réelle</translation>
     </message>
     <message>
-        <source>Shows the label in the size in which it is printed</source>
-        <translation>Affiche l’étiquette à sa taille d’impression</translation>
-    </message>
-    <message>
         <source>Zoom to &amp;Selection</source>
         <translation>Zoom sur la &amp;sélection</translation>
     </message>
@@ -2673,10 +2691,6 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>Comme le &amp;système</translation>
     </message>
     <message>
-        <source>Takes the colors of the desktop</source>
-        <translation>Utilise les couleurs du bureau</translation>
-    </message>
-    <message>
         <source>&amp;Light</source>
         <translation>&amp;Clair</translation>
     </message>
@@ -2697,40 +2711,20 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>&amp;Canevas</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the canvas</source>
-        <translation>Place le focus clavier sur le canevas</translation>
-    </message>
-    <message>
         <source>&amp;Items</source>
         <translation>&amp;Objets</translation>
-    </message>
-    <message>
-        <source>Shows the list of items and puts the keyboard on it</source>
-        <translation>Affiche la liste des objets et y place le focus clavier</translation>
     </message>
     <message>
         <source>&amp;Properties</source>
         <translation>&amp;Propriétés</translation>
     </message>
     <message>
-        <source>Shows the properties of an item and puts the keyboard on them</source>
-        <translation>Affiche les propriétés d’un objet et y place le focus clavier</translation>
-    </message>
-    <message>
         <source>&amp;Data Sources</source>
         <translation>&amp;Sources de données</translation>
     </message>
     <message>
-        <source>Shows the data sources and puts the keyboard on them</source>
-        <translation>Affiche les sources de données et y place le focus clavier</translation>
-    </message>
-    <message>
         <source>I&amp;ssues</source>
         <translation>Pro&amp;blèmes</translation>
-    </message>
-    <message>
-        <source>Shows the issues and puts the keyboard on them</source>
-        <translation>Affiche les problèmes et y place le focus clavier</translation>
     </message>
     <message>
         <source>&amp;First</source>
@@ -2745,16 +2739,8 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>P&amp;récédent</translation>
     </message>
     <message>
-        <source>Shows the record before</source>
-        <translation>Affiche l’enregistrement précédent</translation>
-    </message>
-    <message>
         <source>&amp;Next</source>
         <translation>&amp;Suivant</translation>
-    </message>
-    <message>
-        <source>Shows the record after</source>
-        <translation>Affiche l’enregistrement suivant</translation>
     </message>
     <message>
         <source>&amp;Last</source>
@@ -2769,24 +2755,12 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <translation>&amp;Aller à…</translation>
     </message>
     <message>
-        <source>Puts the keyboard on the record&apos;s number</source>
-        <translation>Place le focus clavier sur le numéro de l’enregistrement</translation>
-    </message>
-    <message>
         <source>&amp;Keyboard Shortcuts</source>
         <translation>&amp;Raccourcis clavier</translation>
     </message>
     <message>
-        <source>Shows all keys</source>
-        <translation>Affiche tous les raccourcis clavier</translation>
-    </message>
-    <message>
         <source>&amp;About</source>
         <translation>À &amp;propos</translation>
-    </message>
-    <message>
-        <source>Shows what program this is</source>
-        <translation>Affiche des informations sur le programme</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -3072,6 +3046,66 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
         <source>Adds a text for each record and shows it in the selected items</source>
         <translation>Ajoute un texte pour chaque enregistrement et l’affiche dans les objets sélectionnés</translation>
     </message>
+    <message>
+        <source>Closes the window</source>
+        <translation>Ferme la fenêtre</translation>
+    </message>
+    <message>
+        <source>Undoes the last change</source>
+        <translation>Annule la dernière modification</translation>
+    </message>
+    <message>
+        <source>Redoes the last undone change</source>
+        <translation>Rétablit la dernière modification annulée</translation>
+    </message>
+    <message>
+        <source>Shows the label in its printed size</source>
+        <translation>Affiche l’étiquette à sa taille imprimée</translation>
+    </message>
+    <message>
+        <source>Uses the colors of the desktop</source>
+        <translation>Utilise les couleurs du bureau</translation>
+    </message>
+    <message>
+        <source>Moves keyboard focus to the canvas</source>
+        <translation>Place le focus du clavier sur le canevas</translation>
+    </message>
+    <message>
+        <source>Shows the list of items and moves keyboard focus to it</source>
+        <translation>Affiche la liste des objets et y place le focus du clavier</translation>
+    </message>
+    <message>
+        <source>Shows the properties of an item and moves keyboard focus to them</source>
+        <translation>Affiche les propriétés d’un objet et y place le focus du clavier</translation>
+    </message>
+    <message>
+        <source>Shows the data sources and moves keyboard focus to them</source>
+        <translation>Affiche les sources de données et y place le focus du clavier</translation>
+    </message>
+    <message>
+        <source>Shows the issues and moves keyboard focus to them</source>
+        <translation>Affiche les problèmes et y place le focus du clavier</translation>
+    </message>
+    <message>
+        <source>Shows the previous record</source>
+        <translation>Affiche l’enregistrement précédent</translation>
+    </message>
+    <message>
+        <source>Shows the next record</source>
+        <translation>Affiche l’enregistrement suivant</translation>
+    </message>
+    <message>
+        <source>Moves keyboard focus to the record number</source>
+        <translation>Place le focus du clavier sur le numéro d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Lists the keys of all commands</source>
+        <translation>Liste les touches de toutes les commandes</translation>
+    </message>
+    <message>
+        <source>Shows the version of the program</source>
+        <translation>Affiche la version du programme</translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -3090,6 +3124,10 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <message>
         <source>Change Text</source>
         <translation>Modifier le texte</translation>
+    </message>
+    <message>
+        <source>The item shows a data source; its own text is shown only without one.</source>
+        <translation>L’objet affiche une source de données&#xa0;; son propre texte n’apparaît que sans source.</translation>
     </message>
 </context>
 <context>
@@ -3154,10 +3192,6 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <message>
         <source>Bind to Data Source</source>
         <translation>Lier à une source de données</translation>
-    </message>
-    <message>
-        <source>The label has no data source.</source>
-        <translation>L’étiquette n’a pas de source de données.</translation>
     </message>
     <message>
         <source>Data source:</source>
@@ -3406,6 +3440,18 @@ Code de retour&#xa0;: 0 importée, 1 non importée, 2 utilisation incorrecte.</t
     <message>
         <source>The import ended without a result.</source>
         <translation>L’importation s’est terminée sans résultat.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Importing “%1”…</source>
+        <translation>Importation de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+    <message>
+        <source>The import was canceled.</source>
+        <translation>L’importation a été annulée.</translation>
     </message>
 </context>
 <context>
@@ -3999,10 +4045,6 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>LabelPort Workbench %1</translation>
     </message>
     <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation>Ouvre d’anciens modèles d’étiquettes, les affiche, les enregistre, les exporte et les imprime.</translation>
-    </message>
-    <message>
         <source>Open &amp;Recent</source>
         <translation>Fichiers &amp;récents</translation>
     </message>
@@ -4034,6 +4076,10 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <source>“%1” contains too many files; the list of labels is not complete.</source>
         <translation>«&#xa0;%1&#xa0;» contient trop de fichiers&#xa0;; la liste des étiquettes n’est pas complète.</translation>
     </message>
+    <message>
+        <source>Opens legacy label templates; corrects, saves, exports and prints them.</source>
+        <translation>Ouvre d’anciens modèles d’étiquettes&#xa0;; les corrige, enregistre, exporte et imprime.</translation>
+    </message>
 </context>
 <context>
     <name>window::ManualDialog</name>
@@ -4060,16 +4106,8 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Arrêter</translation>
     </message>
     <message>
-        <source>Stopped after %1 files</source>
-        <translation>Arrêté après %1 fichiers</translation>
-    </message>
-    <message>
         <source>Written: %1</source>
         <translation>Écrit&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>%1 files written</source>
-        <translation>%1 fichiers écrits</translation>
     </message>
     <message>
         <source>Exporting</source>
@@ -4112,6 +4150,20 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>
             <numerusform>%n page transmise à l’imprimante %1</numerusform>
             <numerusform>%n pages transmises à l’imprimante %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped after %n file(s)</source>
+        <translation>
+            <numerusform>Arrêté après %n fichier</numerusform>
+            <numerusform>Arrêté après %n fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written</source>
+        <translation>
+            <numerusform>%n fichier écrit</numerusform>
+            <numerusform>%n fichiers écrits</numerusform>
         </translation>
     </message>
 </context>
@@ -4189,10 +4241,6 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <translation>Ajouter des étiquettes</translation>
     </message>
     <message>
-        <source>Labels (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;All files (*)</source>
-        <translation>Étiquettes (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
     </message>
@@ -4200,20 +4248,20 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
     </message>
+    <message>
+        <source>Labels (%1);;All files (*)</source>
+        <translation>Étiquettes (%1);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 – the preview shows its first labels only</source>
+        <translation>%1 – l’aperçu ne montre que les premières étiquettes</translation>
+    </message>
 </context>
 <context>
     <name>window::Prompts</name>
     <message>
-        <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
-        <translation>Toutes les étiquettes (*.label *.cnv *.roc *.qmtx *.odt *.odg)</translation>
-    </message>
-    <message>
         <source>Saved labels (*.label)</source>
         <translation>Étiquettes enregistrées (*.label)</translation>
-    </message>
-    <message>
-        <source>Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)</source>
-        <translation>Anciennes étiquettes (*.cnv *.roc *.qmtx *.odt *.odg)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -4246,6 +4294,14 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>Open Folder</source>
         <translation>Ouvrir un dossier</translation>
+    </message>
+    <message>
+        <source>All labels (%1)</source>
+        <translation>Toutes les étiquettes (%1)</translation>
+    </message>
+    <message>
+        <source>Legacy labels (%1)</source>
+        <translation>Anciennes étiquettes (%1)</translation>
     </message>
 </context>
 <context>
@@ -4684,6 +4740,10 @@ L’étiquette est toujours ouverte. Enregistrez-la dans un autre dossier avec �
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>

@@ -1074,6 +1074,25 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
     </message>
 </context>
 <context>
+    <name>exporting::ExportFindings</name>
+    <message>
+        <source>Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: exact</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: became a picture. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: simplified. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>exporting::Glabels</name>
     <message>
         <source>Only the first records are in the CSV file.</source>
@@ -1116,10 +1135,6 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>gLabels does not encode this barcode: it shows the first record only.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>gLabels does not encode this barcode.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1145,6 +1160,10 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
     </message>
     <message>
         <source>gLabels knows only installed fonts: &quot;%1&quot; became &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gLabels 3 distorts text at such angles.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1812,10 +1831,6 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Gradients, hatchings and pictures that fill objects were simplified.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Shapes of a text document were left out: only texts, text boxes and pictures are imported.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2052,11 +2067,23 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shadows, gradients of transparency, cropping and other effects were dropped.</source>
+        <source>Transparent fills and lines became opaque.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Transparent fills and lines became opaque.</source>
+        <source>Effects of characters and paragraphs, such as shadow, outline, stretching or borders, were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gradients and hatchings that fill objects were simplified.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures and patterns that fill objects were replaced by a color.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2359,6 +2386,13 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
             <numerusform></numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n embedded document(s) replaced by their content</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>sandbox::Confinement</name>
@@ -2488,23 +2522,11 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Ends the program</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Undo</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Takes the last change back</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Makes the change again</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2552,10 +2574,6 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shows the label in the size in which it is printed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Zoom to &amp;Selection</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2592,10 +2610,6 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Takes the colors of the desktop</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Light</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2616,15 +2630,7 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Puts the keyboard on the canvas</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Items</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shows the list of items and puts the keyboard on it</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2632,23 +2638,11 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shows the properties of an item and puts the keyboard on them</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Data Sources</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shows the data sources and puts the keyboard on them</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>I&amp;ssues</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shows the issues and puts the keyboard on them</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2664,15 +2658,7 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shows the record before</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shows the record after</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2688,23 +2674,11 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Puts the keyboard on the record&apos;s number</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Keyboard Shortcuts</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shows all keys</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Shows what program this is</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2991,6 +2965,66 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
         <source>Adds a text for each record and shows it in the selected items</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Closes the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undoes the last change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redoes the last undone change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the label in its printed size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uses the colors of the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves keyboard focus to the canvas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the list of items and moves keyboard focus to it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the properties of an item and moves keyboard focus to them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the data sources and moves keyboard focus to them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the issues and moves keyboard focus to them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the previous record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the next record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves keyboard focus to the record number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lists the keys of all commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the version of the program</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::CanvasView</name>
@@ -3008,6 +3042,10 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
     <message>
         <source>Change Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The item shows a data source; its own text is shown only without one.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3072,10 +3110,6 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
     <message>
         <source>Bind to Data Source</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The label has no data source.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3324,6 +3358,18 @@ Exit status: 0 imported, 1 not imported, 2 wrong usage.</source>
     </message>
     <message>
         <source>The import ended without a result.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Importing “%1”…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The import was canceled.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3916,10 +3962,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Opens legacy label templates, shows them, keeps them and hands them on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Open &amp;Recent</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3951,6 +3993,10 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>“%1” contains too many files; the list of labels is not complete.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Opens legacy label templates; corrects, saves, exports and prints them.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::ManualDialog</name>
@@ -3977,15 +4023,7 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Stopped after %1 files</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Written: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 files written</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4026,6 +4064,20 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message numerus="yes">
         <source>%n page(s) given to printer %1</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Stopped after %n file(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
@@ -4106,10 +4158,6 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Labels (*.label *.cnv *.roc *.qmtx *.odt *.odg *.ott *.otg);;All files (*)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4117,19 +4165,19 @@ The label is still open. Save it in another folder with “Save As”.</source>
         <source>Page %1 of %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Labels (%1);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 – the preview shows its first labels only</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>window::Prompts</name>
     <message>
-        <source>All labels (*.label *.cnv *.roc *.qmtx *.odt *.odg)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Saved labels (*.label)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Legacy labels (*.cnv *.roc *.qmtx *.odt *.odg)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4162,6 +4210,14 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>Open Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All labels (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Legacy labels (%1)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4600,6 +4656,10 @@ The label is still open. Save it in another folder with “Save As”.</source>
     </message>
     <message>
         <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
