@@ -20,8 +20,8 @@ struct Behavior
 
     /// The size of every new item, in points.
     QSizeF itemSize{0, 0};
-    /// The width of a character of rich text, in points. A text is at most as wide as its box; if 0,
-    /// exactly as wide.
+    /// The width of a character of rich text, in points. A text is at most as wide as its box; if
+    /// 0, exactly as wide.
     double characterWidth = 0;
     /// The size of every symbol; if unset, that of its drawing.
     std::optional<QSizeF> symbolSize;

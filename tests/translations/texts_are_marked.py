@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Finds texts for people in the code that no translator would ever see.
+"""Finds user-visible texts in the code that are not marked for translation.
 
-texts_are_marked.py SOURCE   names every one of them and fails when there is one
-texts_are_marked.py --try    proves itself on examples
+texts_are_marked.py SOURCE   prints each of them, and fails if there is one
+texts_are_marked.py --try    checks the rules with examples
 
-A text is for people when it is a sentence or a phrase, at least two words of which the second is
-in small letters (names of fonts and of kinds of barcode are none), or when it is handed to something that shows texts. It is marked when it
-stands in tr(), translate() or one of Qt's marks for tables. Logs are for developers and stay
-English; so do the readers of the formats, whose few texts for people have tests of their own.
+A text is user-visible if it is a phrase (at least two words, the second in small letters; names of
+fonts and kinds of barcode are none) or if it is passed to a function that shows texts. It is marked
+if it is in tr(), translate() or one of Qt's macros for tables. Logs are for developers and stay
+English, as do the readers of the formats: their few user-visible texts have tests of their own.
 """
 
 import pathlib

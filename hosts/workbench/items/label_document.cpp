@@ -67,9 +67,10 @@ void forgetPlainPage(QTextDocument& document)
 // In a page with a format of its own, Qt reads an empty first paragraph as two.
 void writeOneParagraphLess(const QTextDocument& document, QString& html)
 {
+    static constexpr QLatin1String Page("-qt-table-type: root"); // no translation: a style in HTML
     const QTextBlock first = document.firstBlock();
-    const bool isRead = html.contains("-qt-table-type: root"_L1) && first.text().isEmpty() &&
-                        first.next().isValid() && first.next().text().isEmpty();
+    const bool isRead = html.contains(Page) && first.text().isEmpty() && first.next().isValid() &&
+                        first.next().text().isEmpty();
     const qsizetype begin = html.indexOf("<p style=\"-qt-paragraph-type:empty"_L1);
     const qsizetype end = html.indexOf("</p>"_L1, begin);
     if (isRead && begin >= 0 && end > begin) {

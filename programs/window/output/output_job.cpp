@@ -31,12 +31,17 @@ OutputReport writeFile(OpenLabel& label, const OutputOrder& order, const QString
         report.wasStopped = !progress(done);
         return !report.wasStopped;
     };
-    report.error =
-        exporting::exportFile(order.target,
-                              {*label.canvas, *label.sources, records.first, records.count,
-                               titleOf(label), order.options, beforeRecord,
-                               {}, &report.findings},
-                              fileName);
+    report.error = exporting::exportFile(order.target,
+                                         {*label.canvas,
+                                          *label.sources,
+                                          records.first,
+                                          records.count,
+                                          titleOf(label),
+                                          order.options,
+                                          beforeRecord,
+                                          {},
+                                          &report.findings},
+                                         fileName);
     report.files = report.error.isEmpty() && !report.wasStopped ? 1 : 0;
     return report;
 }
