@@ -1,14 +1,14 @@
 #include "window/main_window.h"
 
 #include "window/canvas/canvas_view.h"
-#include "window/canvas/ruled_canvas.h"
 #include "window/edit_actions.h"
+#include "window/help/shortcuts_dialog.h"
+#include "window/items/item_panel.h"
 #include "window/output/output_commands.h"
-#include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/review/issues_panel.h"
 #include "window/review/label_list_panel.h"
-#include "window/shortcuts_dialog.h"
+#include "window/rulers/ruled_canvas.h"
 #include "window/sources/source_panel.h"
 #include "workbench/canvas/canvas.h"
 

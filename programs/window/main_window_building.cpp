@@ -1,9 +1,9 @@
 // The construction of the main window: its parts and its menus; its events.
 
 #include "window/canvas/canvas_view.h"
-#include "window/canvas/ruled_canvas.h"
+#include "window/help/welcome_page.h"
 #include "window/main_window.h"
-#include "window/welcome_page.h"
+#include "window/rulers/ruled_canvas.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>

@@ -1,12 +1,12 @@
 // The handlers of the main window's commands, and of the signals of its parts.
 
 #include "window/canvas/canvas_view.h"
-#include "window/canvas/ruled_canvas.h"
 #include "window/edit_actions.h"
+#include "window/help/manual_dialog.h"
+#include "window/items/item_panel.h"
 #include "window/main_window.h"
-#include "window/manual_dialog.h"
-#include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
+#include "window/rulers/ruled_canvas.h"
 #include "window/sources/source_panel.h"
 #include "workbench/canvas/canvas.h"
 

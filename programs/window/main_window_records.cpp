@@ -1,7 +1,7 @@
 // The records of the label and its data sources in the main window.
 
+#include "window/items/item_panel.h"
 #include "window/main_window.h"
-#include "window/properties/item_panel.h"
 #include "window/sources/source_commands.h"
 #include "window/sources/source_panel.h"
 #include "workbench/datasources/sequence_source.h"

@@ -1,8 +1,8 @@
 // What the main window remembers: its geometry, its unit, its colors.
 
-#include "window/canvas/ruled_canvas.h"
+#include "window/items/item_panel.h"
 #include "window/main_window.h"
-#include "window/properties/item_panel.h"
+#include "window/rulers/ruled_canvas.h"
 #include "workbench/canvas/canvas.h"
 
 #include <QSettings>

@@ -1,6 +1,6 @@
 #include "window/window_panels.h"
 
-#include "window/properties/item_panel.h"
+#include "window/items/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/properties/tables.h"
 #include "window/review/comparison_panel.h"

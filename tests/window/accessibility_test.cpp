@@ -3,9 +3,9 @@
 #include "window_fixture.h"
 
 #include "host/services/tal_message_box.h"
+#include "window/help/shortcuts_dialog.h"
 #include "window/main_window.h"
 #include "window/output/export_dialog.h"
-#include "window/shortcuts_dialog.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -6,10 +6,10 @@
 #include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
+#include "window/items/item_panel.h"
 #include "window/main_window.h"
 #include "window/output/print_dialog.h"
 #include "window/output/sheet_editor.h"
-#include "window/properties/item_panel.h"
 #include "window/properties/property_model.h"
 #include "window/properties/property_panel.h"
 #include "workbench/rendering/page_image.h"

@@ -2,10 +2,10 @@
 #include "window_fixture.h"
 
 #include "window/canvas/handles.h"
-#include "window/canvas/snapping.h"
 #include "window/edit/arrange.h"
 #include "window/edit/clipboard.h"
 #include "window/edit/geometry.h"
+#include "window/edit/snapping.h"
 
 #include <QGraphicsItem>
 #include <QMimeData>

@@ -7,9 +7,9 @@
 #include "migration/model/loss_kinds.h"
 #include "translations/program_language.h"
 #include "window/canvas/canvas_view.h"
+#include "window/items/item_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
-#include "window/properties/item_panel.h"
 #include "window/review/issues_panel.h"
 
 #include <QApplication>

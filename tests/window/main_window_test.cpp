@@ -4,10 +4,10 @@
 #include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
+#include "window/help/manual_dialog.h"
+#include "window/items/item_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
-#include "window/manual_dialog.h"
-#include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/review/issues_panel.h"
 #include "window/sources/source_panel.h"

@@ -5,11 +5,11 @@
 #include "window_fixture.h"
 
 #include "translations/program_language.h"
+#include "window/items/item_panel.h"
 #include "window/main_window.h"
 #include "window/output/print_dialog.h"
 #include "window/output/record_chooser.h"
 #include "window/output/sheet_editor.h"
-#include "window/properties/item_panel.h"
 #include "window/properties/property_panel.h"
 #include "window/review/comparison_panel.h"
 #include "window/review/issues_panel.h"

@@ -3,9 +3,9 @@
 #include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
+#include "window/items/item_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
-#include "window/properties/item_panel.h"
 #include "window/properties/property_delegate.h"
 #include "window/properties/property_model.h"
 #include "window/properties/property_panel.h"

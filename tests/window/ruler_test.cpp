@@ -1,7 +1,7 @@
 // The rulers' scale: round steps, labels that do not overlap, and no more ticks than fit.
 
-#include "window/canvas/ruler_scale.h"
 #include "window/properties/length_unit.h"
+#include "window/rulers/ruler_scale.h"
 
 #include <QLocale>
 

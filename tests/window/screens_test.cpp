@@ -4,13 +4,13 @@
 #include "window_fixture.h"
 
 #include "window/canvas/canvas_view.h"
+#include "window/help/shortcuts_dialog.h"
+#include "window/items/item_panel.h"
 #include "window/label/label_files.h"
 #include "window/main_window.h"
 #include "window/output/export_dialog.h"
 #include "window/output/record_chooser.h"
-#include "window/properties/item_panel.h"
 #include "window/review/issues_panel.h"
-#include "window/shortcuts_dialog.h"
 
 #include <QApplication>
 #include <QSet>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "window/canvas/handles.h"
-#include "window/canvas/snapping.h"
+#include "window/edit/snapping.h"
 #include "window/label/move_items.h"
 
 #include <QObject>

@@ -1,8 +1,8 @@
 #include "window/properties/property_panel.h"
 
+#include "window/edit/replacement_file.h"
 #include "window/properties/property_delegate.h"
 #include "window/properties/property_model.h"
-#include "window/properties/replacement_file.h"
 #include "window/properties/tables.h"
 
 #include <QColorDialog>

@@ -1,4 +1,4 @@
-#include "window/welcome_page.h"
+#include "window/help/welcome_page.h"
 
 #include "window/actions/actions.h"
 

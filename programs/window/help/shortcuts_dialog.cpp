@@ -1,4 +1,4 @@
-#include "window/shortcuts_dialog.h"
+#include "window/help/shortcuts_dialog.h"
 
 #include "window/properties/tables.h"
 

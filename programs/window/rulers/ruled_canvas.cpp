@@ -1,7 +1,7 @@
-#include "window/canvas/ruled_canvas.h"
+#include "window/rulers/ruled_canvas.h"
 
 #include "window/canvas/canvas_view.h"
-#include "window/canvas/ruler.h"
+#include "window/rulers/ruler.h"
 
 #include <QGridLayout>
 #include <QToolButton>

@@ -1,4 +1,4 @@
-#include "window/properties/replacement_file.h"
+#include "window/edit/replacement_file.h"
 
 #include "workbench/document/document_limits.h"
 #include "workbench/symbols/symbol_data.h"

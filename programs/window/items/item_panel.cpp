@@ -1,6 +1,6 @@
-#include "window/properties/item_panel.h"
+#include "window/items/item_panel.h"
 
-#include "window/properties/item_table_model.h"
+#include "window/items/item_table_model.h"
 #include "window/properties/tables.h"
 #include "workbench/canvas/canvas.h"
 

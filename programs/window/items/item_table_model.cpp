@@ -1,4 +1,4 @@
-#include "window/properties/item_table_model.h"
+#include "window/items/item_table_model.h"
 
 #include "window/properties/item_description.h"
 #include "window/properties/style_names.h"

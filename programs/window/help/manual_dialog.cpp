@@ -1,4 +1,4 @@
-#include "window/manual_dialog.h"
+#include "window/help/manual_dialog.h"
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>

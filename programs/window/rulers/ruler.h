@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/canvas/ruler_scale.h"
+#include "window/rulers/ruler_scale.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "window/canvas/ruler.h"
+#include "window/rulers/ruler.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "window/canvas/ruler_scale.h"
+#include "window/rulers/ruler_scale.h"
 
 #include <QLocale>
 

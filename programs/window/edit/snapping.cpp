@@ -1,4 +1,4 @@
-#include "window/canvas/snapping.h"
+#include "window/edit/snapping.h"
 
 #include "window/edit/geometry.h"
 #include "workbench/canvas/canvas.h"
