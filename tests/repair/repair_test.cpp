@@ -79,6 +79,32 @@ TEST_F(RepairedFile, ShowsColorsPensAndOpacity)
     EXPECT_TRUE(text.text->html.contains("red text"_L1));
 }
 
+TEST_F(RepairedFile, KeepsSizeAndAutomaticColorOfATextOnADrawnShape)
+{
+    importDrawing("<draw:polygon draw:style-name=\"dark\" draw:text-style-name=\"small\" "
+                  "svg:width=\"4cm\" svg:height=\"2cm\" svg:x=\"1cm\" svg:y=\"1cm\" "
+                  "svg:viewBox=\"0 0 10 10\" draw:points=\"0,0 10,0 10,10 0,10\">"
+                  "<text:p>ZINC</text:p></draw:polygon>",
+                  "<style:style style:name=\"dark\" style:family=\"graphic\">"
+                  "<style:graphic-properties draw:fill=\"solid\" draw:fill-color=\"#18040f\"/>"
+                  "</style:style><style:style style:name=\"small\" style:family=\"paragraph\">"
+                  "<style:text-properties fo:font-size=\"5pt\"/></style:style>");
+    const QString html = item(KestTypes::RichText).text->html;
+    // A point of the label is a pixel of the text, and there are 96 pixels per inch.
+    EXPECT_TRUE(html.contains("font-size:3.75pt"_L1)) << html.toStdString();
+    EXPECT_TRUE(html.contains("color:#ffffff"_L1)) << html.toStdString();
+}
+
+TEST_F(RepairedFile, IgnoresTheParagraphStyleOfATextBox)
+{
+    importDrawing("<draw:frame draw:text-style-name=\"small\" svg:width=\"4cm\" "
+                  "svg:height=\"2cm\" svg:x=\"1cm\" svg:y=\"1cm\"><draw:text-box>"
+                  "<text:p>box</text:p></draw:text-box></draw:frame>",
+                  "<style:style style:name=\"small\" style:family=\"paragraph\">"
+                  "<style:text-properties fo:font-size=\"5pt\"/></style:style>");
+    EXPECT_TRUE(item(KestTypes::RichText).text->html.contains("font-size:13.5pt"_L1));
+}
+
 TEST_F(RepairedFile, PlacesTextAsItsShapeSays)
 {
     importDrawing(Page, Style);

@@ -35,9 +35,9 @@ int luminance(const QColor& color)
 
 QColor automaticColor(const Properties& graphic)
 {
-    const QColor ground(graphic.value(u"draw:fill-color"_s));
-    const bool isDark = graphic.value(u"draw:fill"_s) == "solid"_L1 && ground.isValid() &&
-                        luminance(ground) <= DarkLuminance;
+    const bool isFilled = graphic.value(u"draw:fill"_s) == "solid"_L1;
+    const QColor ground(graphic.value(isFilled ? u"draw:fill-color"_s : GroundProperty));
+    const bool isDark = ground.isValid() && luminance(ground) <= DarkLuminance;
     return isDark ? Qt::white : Qt::black;
 }
 

@@ -162,8 +162,12 @@ std::unique_ptr<Node> takeText(Document& document, Node& shape, const Placement&
     if (!hasVisibleText(shape)) {
         return nullptr;
     }
-    StyleProperties style =
-        document.table().resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true);
+    StyleProperties style = shapeStyle(document.table(), shape);
+    const bool isLine =
+        shape.is(u"draw:line") || shape.is(u"draw:connector") || shape.is(u"draw:measure");
+    if (!isLine && style.graphic.value(u"draw:fill"_s) == "solid"_L1) {
+        style.graphic.insert(GroundProperty, style.graphic.value(u"draw:fill-color"_s));
+    }
     style.graphic.insert(u"draw:stroke"_s, u"none"_s);
     style.graphic.insert(u"draw:fill"_s, u"none"_s);
     for (const QString& name : {u"draw:marker-start"_s, u"draw:marker-end"_s, u"draw:opacity"_s,

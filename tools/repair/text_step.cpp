@@ -249,6 +249,16 @@ void simplifyInside(Document& document, Node& parent, const Node* frame, TextCou
 
 } // namespace
 
+StyleProperties shapeStyle(const StyleTable& table, const Node& shape)
+{
+    StyleProperties style = table.resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true);
+    if (!shape.is(u"draw:frame")) {
+        style.overlay(
+            table.resolved(u"paragraph"_s, shape.attribute(u"draw:text-style-name"), false));
+    }
+    return style;
+}
+
 StyleProperties textBase(Document& document, const Node& shape)
 {
     const StyleTable& table = document.table();
@@ -257,7 +267,7 @@ StyleProperties textBase(Document& document, const Node& shape)
         base.text.insert(u"style:font-name"_s, DefaultTextFont);
     } else {
         base.text.insert(u"fo:font-size"_s, DefaultDrawingSize);
-        base.overlay(table.resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true));
+        base.overlay(shapeStyle(table, shape));
     }
     return base;
 }

@@ -8,6 +8,10 @@ namespace repair {
 /// nothing else. Styles are complete, fonts of graphic styles included.
 [[nodiscard]] TextCounts simplifyTexts(Document& document);
 
+/// The graphic style of a shape, and the paragraph style that the shape names for paragraphs
+/// without one. Like the office suite, it ignores the latter for text boxes.
+[[nodiscard]] StyleProperties shapeStyle(const StyleTable& table, const Node& shape);
+
 /// The default and graphic style that the paragraphs of a shape begin with.
 [[nodiscard]] StyleProperties textBase(Document& document, const Node& shape);
 
