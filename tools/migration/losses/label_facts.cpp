@@ -5,6 +5,7 @@
 #include "workbench/import/label_import.h"
 #include "workbench/items/label_document.h"
 #include "workbench/items/shape_kinds.h"
+#include "workbench/pictures/png_encoder.h"
 #include "workbench/rendering/page_image.h"
 
 #include <QBuffer>
@@ -106,8 +107,8 @@ QByteArray pngOf(const QImage& image)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    constexpr int best = 0; // of Qt's scale for PNG: the smallest file
-    return image.save(&buffer, "PNG", best) ? bytes : QByteArray();
+    return buffer.open(QIODevice::WriteOnly) && workbench::encodePng(image, buffer) ? bytes
+                                                                                    : QByteArray();
 }
 
 QByteArray smallPng(const QImage& picture)
