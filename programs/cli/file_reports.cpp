@@ -61,7 +61,7 @@ void WorkerReport::add(const OpenedLabel& label)
                 std::make_unique<migration::RepairedFileReport>(m_input.path(), m_name, m_options);
         }
         ++m_pageCount;
-        m_pages->addPage(label, label.package, repairsOf(label), label.pageCount > 1);
+        m_pages->addPage(label, label.package, repairsOf(label));
         return;
     }
     m_report =

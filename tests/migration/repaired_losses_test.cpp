@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 using namespace migration;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -173,4 +174,36 @@ TEST(RepairedLosses, PagesAddUp)
     losses.fill(report, true);
     EXPECT_EQ(codesOf(report.lost), "object-missing 1");
     EXPECT_EQ(report.objects.imported, 1);
+}
+
+// Each page is compared with all texts of the document.
+TEST(RepairedLosses, ATextIsMissingOnlyIfNoPageShowsIt)
+{
+    Census original;
+    for (const char* text : {"First page", "Second page", "Lost text", "Twice", "Twice",
+                             "A paragraph that begins on one page and ends on the next"}) {
+        Appearance appearance;
+        appearance.text = QString::fromLatin1(text);
+        original.objects.append(counted(ObjectClass::Text));
+        original.objects.last().appearance = original.appearances.size();
+        original.appearances.append(appearance);
+    }
+    const QString split = original.appearances.constLast().text;
+    LabelFacts first = labelOf({ObjectClass::Text});
+    first.items[0].text = split.left(30);
+    first.missingTexts = QStringList{u"Second page"_s, u"Lost text"_s, u"Twice"_s, split};
+    LabelFacts second = labelOf({ObjectClass::Text});
+    second.items[0].text = split.mid(30);
+    second.missingTexts =
+        QStringList{u"First page"_s, u"Lost text"_s, u"Twice"_s, u"Twice"_s, split};
+    RepairedLosses losses(original);
+    losses.addPage({}, first, {});
+    losses.addPage({}, second, {});
+    FileReport report;
+    losses.fill(report, true);
+    ASSERT_EQ(codesOf(report.changed), "text-differs 2");
+    EXPECT_EQ(report.changed.constFirst().details, (QStringList{u"Lost text → "_s, u"Twice → "_s}));
+    FileReport part;
+    losses.fill(part, false);
+    EXPECT_EQ(codesOf(part.changed), "");
 }

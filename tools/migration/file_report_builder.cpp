@@ -126,7 +126,7 @@ RepairedFileReport::RepairedFileReport(const QString& fileName, const QString& s
 }
 
 void RepairedFileReport::addPage(const workbench::ImportResult& result, const QByteArray& package,
-                                 const QList<RepairReport>& repairs, bool isPart)
+                                 const QList<RepairReport>& repairs)
 {
     const bool isFirst = ++m_pages == 1;
     m_report.status = Status::Imported;
@@ -141,12 +141,7 @@ void RepairedFileReport::addPage(const workbench::ImportResult& result, const QB
     m_report.issues.append(page.issues);
     addRepairs(m_report.repaired, repairs);
     LabelFacts label = lookAtItems(*result.canvas, false);
-    const bool isText = std::any_of(repairs.begin(), repairs.end(), [](const RepairReport& repair) {
-        return repair.code == "text-laid-out"_L1;
-    });
-    checkLabel(m_census, *result.canvas,
-               {.page = isText ? 0 : m_pages, .isRepaired = true, .isPart = isText && isPart},
-               label);
+    checkLabel(m_census, *result.canvas, {.page = m_pages, .isRepaired = true}, label);
     m_losses.addPage(countOpenDocument(package), label, lossesOfLog(result));
 }
 

@@ -41,9 +41,8 @@ public:
 
     /// A page that was imported. The picture and the list of items are those of the first one.
     /// @param package the repaired document that the reader imported
-    /// @param isPart  whether the file has further pages
     void addPage(const workbench::ImportResult& result, const QByteArray& package,
-                 const QList<RepairReport>& repairs, bool isPart);
+                 const QList<RepairReport>& repairs);
     /// @param allPages whether each page of the file was added
     [[nodiscard]] FileReport finish(bool allPages);
 

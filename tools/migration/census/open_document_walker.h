@@ -125,6 +125,7 @@ private:
     [[nodiscard]] qsizetype addAppearance(const QString& name, const Attributes& attributes);
     [[nodiscard]] qsizetype addTextAppearance(const Place& look, QString text);
     [[nodiscard]] Place* nearestShape();
+    [[nodiscard]] const Place* innermostLostObject() const;
     void addShapeText(LossSet changes);
 
     Census& m_census;

@@ -33,6 +33,12 @@ qsizetype OpenDocumentWalker::addTextAppearance(const Place& look, QString text)
     Appearance appearance;
     if (look.appearance >= 0) {
         appearance = m_census.appearances.at(look.appearance);
+        appearance.isInShape = true;
+    } else if (const Place* const object = innermostLostObject()) {
+        const Appearance& shape = m_census.appearances.at(object->appearance);
+        appearance.outline = shape.outline;
+        appearance.mayOverlap = shape.mayOverlap;
+        appearance.isInShape = true;
     }
     // The paragraph's text already has that of this run.
     const bool isRun = look.appearance < 0 && !m_census.paragraphs.isEmpty();
@@ -54,6 +60,13 @@ qsizetype OpenDocumentWalker::addTextAppearance(const Place& look, QString text)
     appearance.paragraph = isRunning && look.appearance < 0 ? int(m_census.paragraphs.size()) : 0;
     m_census.appearances.append(appearance);
     return m_census.appearances.size() - 1;
+}
+
+const OpenDocumentWalker::Place* OpenDocumentWalker::innermostLostObject() const
+{
+    const auto found = std::find_if(m_places.rbegin(), m_places.rend(),
+                                    [](const Place& place) { return place.isObject; });
+    return found != m_places.rend() ? &*found : nullptr;
 }
 
 // The innermost paragraph that readers leave out, the shape, or the paragraph of the running text.

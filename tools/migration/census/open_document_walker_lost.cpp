@@ -19,10 +19,9 @@ void OpenDocumentWalker::addLost(CountedObject object, const std::optional<QRect
 void OpenDocumentWalker::openLost(LossKind kind, const QString& name, const Attributes& attributes)
 {
     const DrawingElement* element = drawingElement(name);
+    const qsizetype appearance = element != nullptr ? addAppearance(name, attributes) : -1;
     if (element != nullptr) {
-        addLost({.objectClass = element->objectClass,
-                 .lost = kind,
-                 .appearance = addAppearance(name, attributes)},
+        addLost({.objectClass = element->objectClass, .lost = kind, .appearance = appearance},
                 m_box);
         m_census.detail(kind, kind == LossKind::GroupedObject ? QString() : name);
     }
@@ -32,6 +31,7 @@ void OpenDocumentWalker::openLost(LossKind kind, const QString& name, const Attr
     push(Spot::Lost);
     m_places.back().lost = kind;
     m_places.back().isObject = element != nullptr;
+    m_places.back().appearance = appearance;
 }
 
 void OpenDocumentWalker::openInLost(const QString& name, const Attributes& attributes)

@@ -1,5 +1,7 @@
 #include "migration/losses/check_covering.h"
 
+#include "migration/losses/polygons.h"
+
 #include <QHash>
 
 #include <algorithm>
@@ -11,23 +13,8 @@ namespace migration {
 namespace {
 
 constexpr double CoveredShare = 0.5;
-// Of the smaller of two texts: a slanted letter may reach into the next run.
-constexpr double OverlapShare = 0.2;
-// Texts of a paragraph that are compared with each other.
-constexpr qsizetype Neighbors = 8;
 // Comparisons of items; more than a label of a hundred thousand items needs.
 constexpr qint64 MaximumComparisons = 20'000'000;
-
-double areaOf(const QPolygonF& polygon)
-{
-    double doubled = 0.0;
-    for (qsizetype index = 0; index < polygon.size(); ++index) {
-        const QPointF& a = polygon.at(index);
-        const QPointF& b = polygon.at((index + 1) % polygon.size());
-        doubled += a.x() * b.y() - b.x() * a.y();
-    }
-    return std::abs(doubled) / 2.0;
-}
 
 // A line, or a box without height, has an area too.
 QPolygonF thickened(const QPolygonF& outline)
@@ -35,40 +22,7 @@ QPolygonF thickened(const QPolygonF& outline)
     if (outline.size() > 2 && areaOf(outline) > 1.0) {
         return outline;
     }
-    const QRectF box = outline.boundingRect().adjusted(-0.5, -0.5, 0.5, 0.5);
-    return QPolygonF({box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()});
-}
-
-double side(const QPointF& from, const QPointF& to, const QPointF& point)
-{
-    return (to.x() - from.x()) * (point.y() - from.y()) -
-           (to.y() - from.y()) * (point.x() - from.x());
-}
-
-// The part of a polygon inside a convex one.
-QPolygonF clipped(QPolygonF polygon, const QPolygonF& window)
-{
-    const QPointF center = window.boundingRect().center();
-    for (qsizetype edge = 0; edge < window.size(); ++edge) {
-        const QPointF& from = window.at(edge);
-        const QPointF& to = window.at((edge + 1) % window.size());
-        const double inside = side(from, to, center) < 0.0 ? -1.0 : 1.0;
-        QPolygonF rest;
-        for (qsizetype index = 0; index < polygon.size(); ++index) {
-            const QPointF& a = polygon.at(index);
-            const QPointF& b = polygon.at((index + 1) % polygon.size());
-            const double sideOfA = inside * side(from, to, a);
-            const double sideOfB = inside * side(from, to, b);
-            if (sideOfA >= 0.0) {
-                rest.append(a);
-            }
-            if ((sideOfA > 0.0 && sideOfB < 0.0) || (sideOfA < 0.0 && sideOfB > 0.0)) {
-                rest.append(a + (b - a) * (sideOfA / (sideOfA - sideOfB)));
-            }
-        }
-        polygon = rest;
-    }
-    return polygon;
+    return cornersOf(outline.boundingRect().adjusted(-0.5, -0.5, 0.5, 0.5));
 }
 
 double coveredShare(const QPolygonF& below, const QPolygonF& above)
@@ -175,35 +129,10 @@ private:
     qint64 m_comparisons = 0;
 };
 
-void findOverlappingTexts(const Matching& matching, LabelFacts& label)
-{
-    for (qsizetype index = 0; index < matching.texts.size(); ++index) {
-        const Pair& text = matching.texts.at(index);
-        const QRectF box = label.items.at(text.item).outline.boundingRect();
-        for (qsizetype other = std::max<qsizetype>(0, index - Neighbors); other < index; ++other) {
-            const Pair& before = matching.texts.at(other);
-            if (text.appearance->paragraph == 0 || before.appearance->paragraph == 0 ||
-                text.item == before.item) {
-                continue;
-            }
-            const QRectF neighbor = label.items.at(before.item).outline.boundingRect();
-            const QRectF common = box.intersected(neighbor);
-            const double smaller =
-                std::min(box.width() * box.height(), neighbor.width() * neighbor.height());
-            if (smaller > 0.0 && common.width() * common.height() > OverlapShare * smaller) {
-                label.items[text.item].changes.add(LossKind::TextsOverlap);
-                label.tallies[LossKind::TextsOverlap].addDetail(
-                    label.items.at(text.item).text.simplified());
-            }
-        }
-    }
-}
-
 } // namespace
 
 bool checkCovering(const Matching& matching, LabelFacts& label)
 {
-    findOverlappingTexts(matching, label);
     return Covering(matching, label).run();
 }
 

@@ -4,8 +4,8 @@
 
 namespace migration {
 
-/// Finds items that are at least half covered by a later opaque item, and texts of the running
-/// text that are printed over each other, if they are not in the document.
+/// Finds items that are at least half covered by a later opaque item, if they are not in the
+/// document.
 ///
 /// @return false if the label is too large to compare all items
 [[nodiscard]] bool checkCovering(const Matching& matching, LabelFacts& label);

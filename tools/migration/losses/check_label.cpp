@@ -1,6 +1,7 @@
 #include "migration/losses/check_label.h"
 
 #include "migration/losses/check_covering.h"
+#include "migration/losses/check_overlap.h"
 #include "migration/losses/check_rendering.h"
 #include "migration/losses/matching.h"
 #include "migration/model/known_fonts.h"
@@ -221,16 +222,18 @@ void checkLabel(const Census& original, const workbench::Canvas& canvas, const R
     const double scale = scaleOf(original, label);
     const Matching matching = matchItems(original, label, reading.page, scale, reading.isRepaired);
     LabelCheck(matching, label, scale, reading.isRepaired).run();
-    const bool isComplete = checkCovering(matching, label);
-    if (!isComplete || matching.isCut) {
+    const bool comparesItems = checkCovering(matching, label);
+    const bool comparesTexts = checkOverlap(drawnTexts(canvas, label), matching, scale, label);
+    if (!comparesItems || !comparesTexts || matching.isCut) {
         label.pageChanges.add(LossKind::LogCut);
     }
     checkRendering(canvas, matching, label);
-    if (!reading.isPart) {
-        for (const QString& text : matching.missingTexts) {
-            ++label.tallies[LossKind::TextDiffers].count;
-            label.tallies[LossKind::TextDiffers].addDetail(text + u" → "_s);
-        }
+    if (reading.isRepaired) {
+        label.missingTexts = matching.missingTexts; // they may be on another page
+        return;
+    }
+    for (const QString& text : matching.missingTexts) {
+        noteMissingText(text, label.tallies[LossKind::TextDiffers]);
     }
 }
 

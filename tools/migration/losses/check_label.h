@@ -16,8 +16,6 @@ struct Reading
     int page = 1;
     /// Whether objects that the reader leaves out should be on the label after repair.
     bool isRepaired = false;
-    /// Whether the label shows only some of the document's texts, as one of many pages of text.
-    bool isPart = false;
 };
 
 /// Compares the items of a label with the original OpenDocument file, as it was imported or

@@ -216,6 +216,12 @@ LabelFacts lookAtItems(const workbench::Canvas& canvas, bool blankTextsCount)
     return facts;
 }
 
+void noteMissingText(const QString& text, Tally& tally)
+{
+    ++tally.count;
+    tally.addDetail(text + u" → "_s);
+}
+
 void findReplacedFonts(LabelFacts& facts)
 {
     for (ItemFacts& item : facts.items) {

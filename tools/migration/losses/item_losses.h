@@ -46,7 +46,12 @@ struct LabelFacts
     std::map<LossKind, Tally> tallies; ///< names, and numbers of what concerns no item
     LossSet pageChanges;
     QSizeF pageSize;
+    /// Texts of the document that no item of this page of a repaired document shows.
+    QStringList missingTexts;
 };
+
+/// Counts a text of the document that the label does not show.
+void noteMissingText(const QString& text, Tally& tally);
 
 /// Finds changes on the items: outside the page, in another font, reduced in size, a barcode that
 /// cannot be encoded.

@@ -100,6 +100,30 @@ void forgetPlaces(QList<Finding>& findings)
     }
 }
 
+// Whether all of a text is shown: a paragraph may begin at the end of a page, and continue on the
+// next one. Pieces of a few letters are found in any text.
+bool isTextIn(QStringView text, const QString& shown)
+{
+    constexpr int mostPieces = 4;
+    constexpr qsizetype shortestPiece = 8;
+    for (int piece = 0; piece < mostPieces && !text.isEmpty(); ++piece) {
+        if (shown.contains(text)) {
+            return true;
+        }
+        qsizetype found = 0; // as many letters are on one page
+        qsizetype tooMany = text.size();
+        while (tooMany - found > 1) {
+            const qsizetype middle = (found + tooMany) / 2;
+            (shown.contains(text.left(middle)) ? found : tooMany) = middle;
+        }
+        if (found < shortestPiece) {
+            return false;
+        }
+        text = text.mid(found);
+    }
+    return text.isEmpty();
+}
+
 // In the order of the kinds.
 void sortByKind(QList<Finding>& findings)
 {
@@ -148,6 +172,45 @@ void RepairedLosses::findHeaders(const LabelFacts& label)
     });
 }
 
+void RepairedLosses::findTexts(const LabelFacts& label)
+{
+    for (const QString& text : label.missingTexts) {
+        ++m_missingTexts[text];
+    }
+    for (const ItemFacts& item : label.items) {
+        m_shownText += squeezed(item.text);
+    }
+    m_shownText += QChar::LineFeed;
+}
+
+// Each page of a text is compared with all of it: what is on one page is missing on all others.
+QList<Finding> RepairedLosses::missingTexts(bool allPages) const
+{
+    QMap<QString, qint64> runningTexts;
+    for (const CountedObject& object : m_original.objects) {
+        if (object.objectClass == ObjectClass::Text && object.appearance >= 0 &&
+            m_original.appearances.at(object.appearance).page == 0) {
+            ++runningTexts[m_original.appearances.at(object.appearance).text.simplified()];
+        }
+    }
+    LabelFacts label;
+    for (auto text = m_missingTexts.begin(); text != m_missingTexts.end(); ++text) {
+        const qint64 count = runningTexts.value(text.key());
+        const qint64 missing = text.value() - count * (m_pageCount - 1);
+        const bool isOnNoPage = missing >= count;
+        if (missing <= 0 || (count > 0 && !allPages) ||
+            (isOnNoPage && isTextIn(squeezed(text.key()), m_shownText))) {
+            continue;
+        }
+        for (qint64 each = 0; each < missing; ++each) {
+            noteMissingText(text.key(), label.tallies[LossKind::TextDiffers]);
+        }
+    }
+    FileReport report;
+    compare({}, label, {}, report);
+    return report.changed;
+}
+
 Census RepairedLosses::withoutShownHeaders() const
 {
     Census census = m_original;
@@ -169,12 +232,13 @@ void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const Log
     findHeaders(label);
     FileReport page;
     compare(repaired, label, log, page);
-    if (m_hasPages) {
+    findTexts(label);
+    if (m_pageCount > 0) {
         // Places are those on the label that is shown: the first page.
         forgetPlaces(page.lost);
         forgetPlaces(page.changed);
     }
-    m_hasPages = true;
+    ++m_pageCount;
     addTo(m_pages.lost, page.lost);
     addTo(m_pages.changed, page.changed);
     addCounts(m_pages.complete, page.complete);
@@ -220,7 +284,9 @@ void RepairedLosses::fill(FileReport& report, bool allPages) const
     FileReport original;
     compare(withoutShownHeaders(), {}, {}, original);
     report.lost = remaining(original.lost, m_pages.lost, allPages);
-    report.changed = remaining(original.changed, m_pages.changed, allPages);
+    QList<Finding> changed = m_pages.changed;
+    addTo(changed, missingTexts(allPages));
+    report.changed = remaining(original.changed, changed, allPages);
     report.complete = m_pages.complete;
     report.objects.unknown = m_original.unknown;
     report.objects.imported = m_pages.objects.imported;

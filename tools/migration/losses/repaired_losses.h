@@ -5,6 +5,8 @@
 #include "migration/model/census.h"
 #include "migration/model/file_report.h"
 
+#include <QMap>
+
 namespace migration {
 
 /// Adds numbers of items by their kind.
@@ -31,13 +33,18 @@ private:
                                            const QList<Finding>& repaired, bool allPages) const;
 
     void findHeaders(const LabelFacts& label);
+    void findTexts(const LabelFacts& label);
+    [[nodiscard]] QList<Finding> missingTexts(bool allPages) const;
     [[nodiscard]] Census withoutShownHeaders() const;
 
     const Census& m_original;
     /// Indices of the texts of headers and footers that no label shows yet.
     QList<qsizetype> m_missingHeaders;
     FileReport m_pages; ///< the sums over all pages
-    bool m_hasPages = false;
+    qint64 m_pageCount = 0;
+    /// On how many pages each text is missing, and what all pages show.
+    QMap<QString, qint64> m_missingTexts;
+    QString m_shownText;
 };
 
 } // namespace migration

@@ -35,6 +35,8 @@ struct Appearance
     int paragraph = 0;
     /// Of a run: whether there is a blank between it and the run before it.
     bool followsBlank = false;
+    /// Of a text: whether it belongs to a shape or a text box.
+    bool isInShape = false;
     /// Whether other objects may be above or below it.
     bool mayOverlap = true;
     /// Whether its height follows from its text.

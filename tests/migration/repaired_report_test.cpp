@@ -1,0 +1,57 @@
+// Reports on documents that are really repaired, page by page.
+
+#include "migration/model/loss_kinds.h"
+#include "repair/repaired_import.h"
+#include "tests/migration/documents.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+using namespace migration;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+FileReport repairedReport(const Document& document)
+{
+    const QTemporaryDir folder;
+    const QString fileName = folder.filePath(document.name);
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(document.bytes) < 0 || !file.flush()) {
+        return {};
+    }
+    RepairedFileReport report(fileName, document.name);
+    repair::RepairedImport import = repair::importRepaired(fileName);
+    const std::shared_ptr<repair::DocumentRepair> pages = import.document;
+    const int count = import.pageCount;
+    for (int page = 1; page <= count; ++page) {
+        if (page > 1) {
+            import = repair::importFurtherPage(*pages, page);
+        }
+        QList<RepairReport> repairs;
+        for (const repair::Repair& repair : import.repairs) {
+            repairs.append({repair.code, {}, repair.count});
+        }
+        report.addPage(import.result, import.package, repairs);
+    }
+    return report.finish(true);
+}
+
+const DocumentParts PageBreaks = {
+    .automaticStyles =
+        "<style:style style:name=\"B\" style:family=\"paragraph\"><style:paragraph-properties "
+        "fo:break-before=\"page\"/></style:style>"};
+
+} // namespace
+
+TEST(RepairedReport, ATextOfSeveralPagesIsComplete)
+{
+    const FileReport report =
+        repairedReport(odt("<text:p>First page</text:p>"
+                           "<text:p text:style-name=\"B\">Second page</text:p>"
+                           "<text:p text:style-name=\"B\">Third page</text:p>",
+                           PageBreaks));
+    EXPECT_EQ(report.objects.imported, 3);
+    EXPECT_EQ(verdictOf(report), Verdict::Complete) << codesOf(report).toStdString();
+}
