@@ -66,16 +66,14 @@ public:
     /// Select the reader, import, describe and compare, write.
     archive::FileResult run()
     {
-        int pages = 1;
         std::shared_ptr<repair::DocumentRepair> document;
         {
             OpenedLabel label = openLabel(m_input, m_options.asWritten);
             m_heartbeat();
             take(label, 1);
-            pages = label.pageCount;
             document = std::move(label.document);
         }
-        const bool isComplete = document == nullptr || importFurtherPages(*document, pages);
+        const bool isComplete = document == nullptr || importFurtherPages(*document);
         migration::FileReport report = m_report.finish(isComplete);
         report.exports = exportReports(m_exports.all());
         m_result.report = migration::toJson(report);
@@ -84,10 +82,11 @@ public:
 
 private:
     // One after the other, so that only one is in memory. Returns whether there is a label of each.
-    bool importFurtherPages(repair::DocumentRepair& document, int pages)
+    bool importFurtherPages(repair::DocumentRepair& document)
     {
         bool isComplete = true;
-        for (int page = 2; page <= std::min(pages, repair::MaximumPages); ++page) {
+        // Pages that are full add further ones.
+        for (int page = 2; page <= std::min(document.pageCount(), repair::MaximumPages); ++page) {
             OpenedLabel label = openFurtherPage(document, page);
             m_heartbeat();
             if (label.isOpen()) {
@@ -99,13 +98,13 @@ private:
                                              .arg(page));
             }
         }
-        if (pages > repair::MaximumPages) {
+        if (document.pageCount() > repair::MaximumPages) {
             isComplete = false;
             m_result.warnings.append(
-                QCoreApplication::translate("cli::ImportWorker",
-                                            "Only the first %1 of %2 pages were imported.")
-                    .arg(repair::MaximumPages)
-                    .arg(pages));
+                QCoreApplication::translate(
+                    "cli::ImportWorker",
+                    "Only the first %1 pages were imported; the document has more.")
+                    .arg(repair::MaximumPages));
         }
         return isComplete;
     }

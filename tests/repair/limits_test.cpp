@@ -259,7 +259,8 @@ TEST(RepairLimits, CountEmbeddedDocuments)
 
 TEST(RepairLimits, BreakEndlessPages)
 {
-    const QByteArray paragraph = "<text:p>" + QByteArray(15'000, 'a') + "</text:p>";
-    EXPECT_EQ(textPage(paragraph + "<text:p>b</text:p>").first, 1);
-    EXPECT_EQ(textPage(paragraph + paragraph + "<text:p>b</text:p>").first, 2);
+    const QByteArray paragraph = "<text:p>" + QByteArray(4'998, 'a') + "</text:p>";
+    EXPECT_EQ(textPage(paragraph + paragraph + "<text:p>b</text:p>").first, 1);
+    EXPECT_EQ(textPage(paragraph + paragraph + "<text:p>bc</text:p>").first, 2);
+    EXPECT_EQ(textPage("<text:p>" + QByteArray(10'001, 'a') + "</text:p>").first, 2);
 }

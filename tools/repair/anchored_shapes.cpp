@@ -2,6 +2,7 @@
 
 #include "repair/document.h"
 #include "repair/lengths.h"
+#include "repair/page_end.h"
 #include "repair/shape_place.h"
 #include "repair/table_rows.h"
 
@@ -56,6 +57,7 @@ private:
     void placeInRow(std::unique_ptr<Node> shape, const QRectF& box);
     void takeNested(Node& box, const QRectF& column);
     [[nodiscard]] std::unique_ptr<Node> mark(Node& shape, const Anchor& anchor);
+    [[nodiscard]] std::unique_ptr<Node> pageMark(Node& shape);
 
     Document& m_document;
     const TextPlace& m_place;
@@ -101,6 +103,9 @@ std::unique_ptr<Node> ShapeTaker::place(std::unique_ptr<Node> shape)
     }
     if (anchor.flow == Flow::Page) {
         moveShape(*shape, anchor.box.topLeft() - boundsOf(*shape).topLeft());
+        if (m_inRows && shape->attribute(u"text:anchor-type") != "page"_L1) {
+            m_marks.push_back(pageMark(*shape));
+        }
         m_taken.anchored.push_back(std::move(shape));
         return nullptr;
     }
@@ -149,6 +154,17 @@ std::unique_ptr<Node> ShapeTaker::mark(Node& shape, const Anchor& anchor)
     return node;
 }
 
+// The object is on the page of its paragraph.
+std::unique_ptr<Node> ShapeTaker::pageMark(Node& shape)
+{
+    const QString key = QString::number(m_document.newMark());
+    shape.setAttribute(FromTextAttribute, key);
+    auto node = Node::element(MarkElement);
+    node->attributes = {
+        {u"key"_s, key}, {u"width"_s, u"0"_s}, {u"height"_s, u"0"_s}, {u"side"_s, u"page"_s}};
+    return node;
+}
+
 void ShapeTaker::placeInRow(std::unique_ptr<Node> shape, const QRectF& box)
 {
     const QRectF own = boundsOf(*shape);
@@ -185,6 +201,11 @@ void writeHeight(Document& document, Node& frame)
 }
 
 } // namespace
+
+bool takesRoom(const QString& mark)
+{
+    return !mark.endsWith(" page"_L1);
+}
 
 bool isParagraph(const Node& node)
 {

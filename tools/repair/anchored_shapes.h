@@ -12,10 +12,13 @@ class Document;
 // An object in a text leaves a mark. After the import, a mark is an invisible picture as large as
 // the object: lines leave room for it, and the layout of the text decides where the object is.
 
-/// The element of a mark in a paragraph, with the attributes key, width, height (points) and side.
+/// The element of a mark in a paragraph, with the attributes key, width, height (points) and side:
+/// left, right, none for an object in its line, page for one that needs no room.
 inline const QString MarkElement = QLatin1String("labelport:mark");
 /// Marks before a span, or at the end of a paragraph: "key width height side", separated by ";".
 inline const QString MarksAttribute = QLatin1String("labelport:marks");
+/// Whether a mark, in the form of MarksAttribute, is a character of the text.
+[[nodiscard]] bool takesRoom(const QString& mark);
 /// The text of a paragraph that has marks and no words: the reader makes no item without text.
 inline constexpr QChar MarkHolder = QChar(0x200B);
 

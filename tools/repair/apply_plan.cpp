@@ -125,7 +125,7 @@ QMap<int, ObjectItems> objectsOf(const workbench::Canvas& canvas, const PagePlan
 
 } // namespace
 
-void applyPlan(workbench::Canvas& canvas, const PagePlan& plan)
+std::optional<PageEnd> applyPlan(workbench::Canvas& canvas, const PagePlan& plan)
 {
     const QMap<int, ObjectItems> objects = objectsOf(canvas, plan);
     for (const ObjectItems& items : objects) {
@@ -136,7 +136,7 @@ void applyPlan(workbench::Canvas& canvas, const PagePlan& plan)
             applyShape(*items.shape, *items.plan);
         }
     }
-    placeObjects(objects, plan.top);
+    return placeObjects(objects, plan);
 }
 
 } // namespace repair

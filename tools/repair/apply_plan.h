@@ -1,6 +1,9 @@
 #pragma once
 
 #include "repair/item_plan.h"
+#include "repair/page_end.h"
+
+#include <optional>
 
 namespace workbench {
 class Canvas;
@@ -10,6 +13,7 @@ namespace repair {
 
 /// Sets on the items of a canvas what the reader could not carry. The items must come from
 /// the document that the plan was made for.
-void applyPlan(workbench::Canvas& canvas, const PagePlan& plan);
+/// @return where the page is full, if its text needs another one
+std::optional<PageEnd> applyPlan(workbench::Canvas& canvas, const PagePlan& plan);
 
 } // namespace repair

@@ -4,9 +4,12 @@
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/page_area.h"
+#include "repair/page_end.h"
 #include "repair/page_steps.h"
 #include "repair/shape_place.h"
 #include "repair/table_rows.h"
+
+#include <QSet>
 
 #include <algorithm>
 
@@ -18,8 +21,8 @@ using namespace Qt::StringLiterals;
 
 // Sections, lists, and objects within one another.
 constexpr int MaximumDepth = 100;
-// A page with more is broken: documents of other programs have no breaks.
-constexpr qsizetype MaximumCharacters = 20'000;
+// Points: text on lower pages is not broken into further pages.
+constexpr double LowestPage = 20.0;
 
 /// Lays out the blocks of the body, page by page.
 class FlowWriter
@@ -34,6 +37,9 @@ public:
     void endText();
     /// The objects of each page.
     [[nodiscard]] std::vector<Node::Children> take() { return std::move(m_pages); }
+    /// Whether the last editor's break is before a page, and whether it left any.
+    [[nodiscard]] bool isContinued(int page) const { return m_continued.contains(page); }
+    [[nodiscard]] bool hasEditorBreaks() const { return m_hasEditorBreaks; }
 
 private:
     void readText(std::unique_ptr<Node> block);
@@ -42,14 +48,17 @@ private:
     void placeRow(std::unique_ptr<Node> shape);
     void placeRows(Node::Children shapes);
     void breakPage();
-    [[nodiscard]] bool startsPage(const Node& paragraph) const;
+    void continueOnNextPage();
+    void keepObjects(Node::Children anchored);
+    [[nodiscard]] bool hasBreak(const Node& paragraph, const QString& side) const;
     [[nodiscard]] Node::Children& objects() { return m_pages.back(); }
 
     Document& m_document;
     const PageArea m_area;
-    int m_row = 0;              // of the present page
-    bool m_isEmpty = true;      // the present page
-    qsizetype m_characters = 0; // of the present page
+    int m_row = 0;         // of the present page
+    bool m_isEmpty = true; // the present page
+    bool m_hasEditorBreaks = false;
+    QSet<int> m_continued;
     Node::Children m_text;
     std::vector<Node::Children> m_pages{1};
 };
@@ -61,15 +70,24 @@ void FlowWriter::breakPage()
         m_pages.emplace_back();
         m_row = 0;
         m_isEmpty = true;
-        m_characters = 0;
     }
 }
 
-bool FlowWriter::startsPage(const Node& paragraph) const
+// Where the last editor had a break, because the page was full.
+void FlowWriter::continueOnNextPage()
+{
+    m_hasEditorBreaks = true;
+    if (!m_isEmpty) {
+        m_continued.insert(static_cast<int>(m_pages.size()));
+        breakPage();
+    }
+}
+
+bool FlowWriter::hasBreak(const Node& paragraph, const QString& side) const
 {
     const QString style = paragraph.attribute(u"text:style-name");
     const StyleProperties properties = m_document.table().resolved(u"paragraph"_s, style, false);
-    return properties.paragraph.value(u"fo:break-before"_s) == "page"_L1;
+    return properties.paragraph.value(u"fo:break-"_s + side) == "page"_L1;
 }
 
 void FlowWriter::readBlocks(Node& parent, int depth)
@@ -84,7 +102,7 @@ void FlowWriter::readBlocks(Node& parent, int depth)
         } else if (child->is(u"table:table")) {
             readTable(*child);
         } else if (child->is(u"text:soft-page-break")) {
-            breakPage();
+            continueOnNextPage();
         } else if (isShape(*child)) {
             placeShape(std::move(child));
         } else if (child->name.startsWith("text:"_L1) && !child->is(u"text:tracked-changes") &&
@@ -96,18 +114,31 @@ void FlowWriter::readBlocks(Node& parent, int depth)
 
 void FlowWriter::readText(std::unique_ptr<Node> block)
 {
-    if (startsPage(*block)) {
+    if (hasBreak(*block, u"before"_s)) {
         breakPage();
     }
+    const bool endsPage = hasBreak(*block, u"after"_s);
     m_isEmpty = false;
     TakenShapes taken = takeShapes(m_document, *block, {m_area, m_area.box}, true);
     placeRows(std::move(taken.above));
-    std::move(taken.anchored.begin(), taken.anchored.end(), std::back_inserter(objects()));
-    m_characters += block->allText().size();
+    keepObjects(std::move(taken.anchored));
     m_text.push_back(std::move(block));
     placeRows(std::move(taken.below));
-    if (taken.hasPageBreak || m_characters > MaximumCharacters) {
+    if (taken.hasPageBreak) {
+        continueOnNextPage();
+    } else if (endsPage) {
         breakPage();
+    }
+}
+
+// Objects in the text, which will be the next row.
+void FlowWriter::keepObjects(Node::Children anchored)
+{
+    for (auto& object : anchored) {
+        if (!object->hasAttribute(AnchorAttribute) && !object->hasAttribute(FromTextAttribute)) {
+            object->setAttribute(FromRowAttribute, QString::number(m_row + 1));
+        }
+        objects().push_back(std::move(object));
     }
 }
 
@@ -137,8 +168,10 @@ void FlowWriter::placeShape(std::unique_ptr<Node> shape)
     TakenShapes taken = takeShapes(m_document, *paragraph, {m_area, m_area.box}, true);
     placeRows(std::move(taken.above));
     placeRows(std::move(taken.below));
-    const bool isInText = !paragraph->children.empty();
-    std::move(taken.anchored.begin(), taken.anchored.end(), std::back_inserter(objects()));
+    const bool isInText =
+        std::any_of(paragraph->children.begin(), paragraph->children.end(),
+                    [](const auto& mark) { return mark->attribute(u"side") != "page"_L1; });
+    keepObjects(std::move(taken.anchored));
     if (isInText) {
         m_text.push_back(std::move(paragraph));
     }
@@ -161,6 +194,7 @@ void FlowWriter::endText()
     }
     auto frame = textFrame(m_document, {m_area.box.left(), 0.0, m_area.box.width(), 0.0}, {});
     frame->setAttribute(RowAttribute, QString::number(++m_row));
+    frame->setAttribute(FlowsAttribute, u"true"_s);
     frame->child(u"draw:text-box")->children = std::move(text);
     objects().push_back(std::move(frame));
 }
@@ -202,11 +236,23 @@ Node::Children textLast(Node::Children objects)
     return objects;
 }
 
+// A line that does not fit may be nearer to the page's edge, but not on the footer.
+double lowestLine(const PageArea& area)
+{
+    const bool hasFooter = area.footerTop < area.footerBottom;
+    return std::max(area.box.bottom(),
+                    hasFooter ? area.footerTop : (area.footerBottom + area.size.height()) / 2.0);
+}
+
 std::unique_ptr<Node> pageOf(Document& document, const PageArea& area, Node::Children objects)
 {
     auto page = Node::element(u"draw:page"_s);
     page->children = textLast(std::move(objects));
     page->setAttribute(TopAttribute, toInches(area.box.top()));
+    if (area.box.height() >= LowestPage) {
+        page->setAttribute(BottomAttribute, toInches(area.box.bottom()));
+        page->setAttribute(LowestAttribute, toInches(lowestLine(area)));
+    }
     if (const Node* const master = masterPage(document)) {
         addMargin(document, master->child(u"style:header"), area, true, page->children);
         addMargin(document, master->child(u"style:footer"), area, false, page->children);
@@ -216,6 +262,11 @@ std::unique_ptr<Node> pageOf(Document& document, const PageArea& area, Node::Chi
 }
 
 } // namespace
+
+std::unique_ptr<Node> emptyPage(Document& document)
+{
+    return pageOf(document, pageArea(document), {});
+}
 
 Node::Children layOutPages(Document& document)
 {
@@ -228,7 +279,15 @@ Node::Children layOutPages(Document& document)
     writer.endText();
     Node::Children pages;
     for (Node::Children& objects : writer.take()) {
-        pages.push_back(pageOf(document, area, std::move(objects)));
+        const bool isContinued = writer.isContinued(static_cast<int>(pages.size()));
+        Node& page = *pages.emplace_back(pageOf(document, area, std::move(objects)));
+        if (isContinued) {
+            page.setAttribute(ContinuesAttribute, u"true"_s);
+        }
+        // The editor had room for the lines of each page.
+        if (writer.hasEditorBreaks() && page.hasAttribute(LowestAttribute)) {
+            page.setAttribute(BottomAttribute, page.attribute(LowestAttribute));
+        }
     }
     Node& body = *document.body();
     body.name = u"office:drawing"_s;

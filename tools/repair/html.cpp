@@ -207,7 +207,7 @@ QString marksHtml(const Node& node)
     QString html;
     for (const QString& mark : node.attribute(MarksAttribute).split(u';', Qt::SkipEmptyParts)) {
         const QStringList parts = mark.split(u' ');
-        if (parts.size() == 4) {
+        if (parts.size() == 4 && takesRoom(mark)) {
             const QString side = parts[3];
             const QString style =
                 side == "none"_L1 ? QString() : u" style=\"float:%1;\""_s.arg(side);

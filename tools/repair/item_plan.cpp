@@ -6,6 +6,7 @@
 #include "repair/html.h"
 #include "repair/lengths.h"
 #include "repair/page_area.h"
+#include "repair/page_end.h"
 #include "repair/shape_parts.h"
 #include "repair/shape_place.h"
 #include "repair/shape_steps.h"
@@ -147,6 +148,7 @@ void planRow(Document& document, const Node& shape, const Node& container,
     plan.mark = shape.attribute(AnchorAttribute).toInt();
     plan.isInLine = shape.attribute(InLineAttribute) == "true"_L1;
     plan.fillsRow = shape.attribute(FillsRowAttribute) == "true"_L1;
+    plan.flows = shape.hasAttribute(FlowsAttribute);
     if (plan.text) {
         plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding) +
                      outerSpace(document, container, false);
@@ -167,6 +169,8 @@ PagePlan planItems(Document& document)
         return plans;
     }
     plans.top = pointsOf(*page, TopAttribute);
+    plans.bottom = pointsOf(*page, BottomAttribute);
+    plans.lowest = pointsOf(*page, LowestAttribute);
     for (const auto& shape : page->children) {
         const Properties graphic = graphicOf(document, *shape);
         ItemPlan plan;

@@ -53,6 +53,8 @@ struct ItemPlan
     bool isInLine = false;
     /// Whether the object is as high as its row.
     bool fillsRow = false;
+    /// Whether it is a text whose lines may be on two pages.
+    bool flows = false;
     /// Points below the text that belong to the object, or the height of one without text.
     double space = 0.0;
 };
@@ -63,6 +65,9 @@ struct PagePlan
     QList<ItemPlan> items;
     /// Where the first row begins, in points.
     double top = 0.0;
+    /// Where the lines end, and the lowest place for the last few; 0 if the page has no end.
+    double bottom = 0.0;
+    double lowest = 0.0;
 };
 
 /// What the items need, of a document that has been rewritten.

@@ -1,5 +1,7 @@
 #include "repair/object_places.h"
 
+#include "repair/text_marks.h"
+
 #include "host/items/rich_text_item.h"
 #include "workbench/items/canvas_item.h"
 
@@ -43,49 +45,8 @@ void growWithText(const ObjectItems& items)
     }
 }
 
-/// A mark in a text.
-struct Mark
-{
-    int number = 0;
-    QPointF corner;   ///< of its picture, from the corner of the text's item
-    double top = 0.0; ///< of its line
-};
-
-Mark markAt(const QTextDocument& document, const QTextBlock& block, const QTextFragment& fragment)
-{
-    const QTextImageFormat format = fragment.charFormat().toImageFormat();
-    const int inBlock = fragment.position() - block.position();
-    const QTextLine line = block.layout()->lineForTextPosition(inBlock);
-    const QPointF corner = document.documentLayout()->blockBoundingRect(block).topLeft();
-    Mark mark;
-    mark.number = format.name().sliced(MarkPrefix.size()).toInt();
-    mark.top = corner.y();
-    if (line.isValid()) {
-        mark.top += line.y();
-        mark.corner =
-            corner + QPointF(line.cursorToX(inBlock), line.y() + line.ascent() - format.height());
-    }
-    return mark;
-}
-
-QList<Mark> marksOf(workbench::CanvasItem& item)
-{
-    const auto* const text = dynamic_cast<const ::RichTextItem*>(item.contractItem());
-    QList<Mark> marks;
-    if (text == nullptr) {
-        return marks;
-    }
-    const QTextDocument& document = *text->document();
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextCharFormat format = it.fragment().charFormat();
-            if (format.isImageFormat() && format.toImageFormat().name().startsWith(MarkPrefix)) {
-                marks.append(markAt(document, block, it.fragment()));
-            }
-        }
-    }
-    return marks;
-}
+// Points: heights of fonts are rounded.
+constexpr double HeightTolerance = 1.0;
 
 /// Places the objects of a page.
 class Placer
@@ -95,8 +56,18 @@ public:
 
     void placeRows(double top);
     void placeAtMarks();
+    [[nodiscard]] std::optional<PageEnd> pageEnd(double bottom) const;
 
 private:
+    /// A row that is placed.
+    struct Row
+    {
+        QList<ObjectItems> objects;
+        double bottom = 0.0;
+    };
+
+    [[nodiscard]] std::optional<PageEnd> endInText(const ObjectItems& items, double bottom) const;
+    [[nodiscard]] bool hasObjectBelow(const QList<Mark>& marks, int paragraph, double bottom) const;
     void placeRow(const QList<ObjectItems>& row, double& y) const;
     void placeAtMarks(const ObjectItems& items);
     [[nodiscard]] double heightOf(const ObjectItems& items) const;
@@ -104,6 +75,7 @@ private:
 
     const QMap<int, ObjectItems>& m_objects;
     QMultiHash<int, ObjectItems> m_marked; // by mark; an object may have several parts
+    QList<Row> m_rows;
 };
 
 Placer::Placer(const QMap<int, ObjectItems>& objects)
@@ -175,7 +147,71 @@ void Placer::placeRows(double top)
     double y = top;
     for (const QList<ObjectItems>& row : rows) {
         placeRow(row, y);
+        m_rows.append({row, y});
     }
+}
+
+// Whether an object beside the lines of a paragraph would be cut.
+bool Placer::hasObjectBelow(const QList<Mark>& marks, int paragraph, double bottom) const
+{
+    const auto isBelow = [bottom](const ObjectItems& marked) {
+        auto* const item = marked.shape != nullptr ? marked.shape : marked.text;
+        return item != nullptr && !marked.plan->isInLine &&
+               bottomOf(*item) > bottom + HeightTolerance;
+    };
+    return std::any_of(marks.begin(), marks.end(), [&](const Mark& mark) {
+        const QList<ObjectItems> marked = m_marked.values(mark.number);
+        return mark.paragraph == paragraph && std::any_of(marked.begin(), marked.end(), isBelow);
+    });
+}
+
+// The first line, or paragraph with an object, that ends below.
+std::optional<PageEnd> Placer::endInText(const ObjectItems& items, double bottom) const
+{
+    const auto* const text = dynamic_cast<const ::RichTextItem*>(items.text->contractItem());
+    if (text == nullptr) {
+        return std::nullopt;
+    }
+    const QTextDocument& document = *text->document();
+    const QList<Mark> marks = m_marked.isEmpty() ? QList<Mark>() : marksOf(*items.text);
+    PageEnd end{.order = items.plan->order, .paragraphCount = document.blockCount()};
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const double top = items.text->graphicsItem()->pos().y() +
+                           document.documentLayout()->blockBoundingRect(block).top();
+        end.paragraph = block.blockNumber();
+        int full = end.paragraph > 0 && hasObjectBelow(marks, end.paragraph, bottom) ? 0 : -1;
+        end.lineStarts.clear();
+        for (int number = 0; number < block.layout()->lineCount(); ++number) {
+            const QTextLine line = block.layout()->lineAt(number);
+            end.lineStarts.append(line.textStart());
+            if (full < 0 && top + line.y() + line.height() > bottom + HeightTolerance) {
+                full = number;
+            }
+        }
+        if (full >= 0 && !end.lineStarts.isEmpty()) {
+            end.line = full;
+            return end;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PageEnd> Placer::pageEnd(double bottom) const
+{
+    for (const Row& row : m_rows) {
+        if (row.bottom <= bottom + HeightTolerance) {
+            continue;
+        }
+        const ObjectItems& items = row.objects.front();
+        if (items.plan->flows && items.text != nullptr) {
+            if (std::optional<PageEnd> end = endInText(items, bottom)) {
+                return end;
+            }
+        } else if (&row != &m_rows.front()) {
+            return PageEnd{.order = items.plan->order};
+        }
+    }
+    return std::nullopt;
 }
 
 // Objects in objects follow those that contain them.
@@ -211,11 +247,13 @@ void Placer::placeAtMarks()
 
 } // namespace
 
-void placeObjects(const QMap<int, ObjectItems>& objects, double top)
+std::optional<PageEnd> placeObjects(const QMap<int, ObjectItems>& objects, const PagePlan& page)
 {
     Placer placer(objects);
-    placer.placeRows(top);
+    placer.placeRows(page.top);
     placer.placeAtMarks();
+    const bool isFull = page.lowest > 0.0 && placer.pageEnd(page.lowest);
+    return isFull ? placer.pageEnd(page.bottom) : std::nullopt;
 }
 
 } // namespace repair

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "repair/item_plan.h"
+#include "repair/page_end.h"
 
 #include <QMap>
+
+#include <optional>
 
 namespace workbench {
 class CanvasItem;
@@ -19,9 +22,10 @@ struct ObjectItems
 };
 
 /// Places the objects of a text document, whose texts have their sizes: its rows one below the
-/// other from `top`, in points, and the objects in its texts at their marks.
+/// other, and the objects in its texts at their marks.
 ///
 /// @param objects by their order
-void placeObjects(const QMap<int, ObjectItems>& objects, double top);
+/// @return where the page is full, if its rows need another one
+std::optional<PageEnd> placeObjects(const QMap<int, ObjectItems>& objects, const PagePlan& page);
 
 } // namespace repair

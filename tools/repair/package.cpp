@@ -78,7 +78,10 @@ QByteArray Package::written(const Document& document)
         const auto made = document.newMembers.constFind(name);
         const QByteArray bytes =
             made != document.newMembers.constEnd() ? *made : member(name, PictureBytes);
-        m_pictureBytes += bytes.size();
+        if (!m_written.contains(name)) {
+            m_written.insert(name);
+            m_pictureBytes += bytes.size();
+        }
         if (m_pictureBytes > AllPicturesBytes) {
             return {};
         }

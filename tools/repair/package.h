@@ -3,6 +3,7 @@
 #include "repair/document.h"
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -30,6 +31,7 @@ private:
     [[nodiscard]] QByteArray member(const QString& name, qint64 largest);
 
     std::unique_ptr<ziplimits::ZipDirectory> m_directory;
+    QSet<QString> m_written; // pictures: each counts once
     qint64 m_pictureBytes = 0;
 };
 

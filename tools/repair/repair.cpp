@@ -4,6 +4,7 @@
 #include "repair/flow_step.h"
 #include "repair/lengths.h"
 #include "repair/package.h"
+#include "repair/page_end.h"
 #include "repair/page_steps.h"
 #include "repair/shape_steps.h"
 #include "repair/text_step.h"
@@ -11,6 +12,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace repair {
@@ -147,10 +149,19 @@ DocumentRepair::DocumentRepair(const QString& fileName)
 
 DocumentRepair::~DocumentRepair() = default;
 
-// The whole document for its only page; else a copy, which shares the characters.
+// The last page's document if it has a rest for this one. Otherwise the whole document for its
+// only page; else a copy, which shares the characters.
 Document DocumentRepair::documentOf(int number)
 {
     std::unique_ptr<Node> page = std::move(m_pages.at(static_cast<std::size_t>(number - 1)));
+    if (m_last != nullptr && number == m_lastNumber + 1 && !m_rest.empty()) {
+        m_last->pageNumber = number;
+        countRowsFrom(m_rest, *page);
+        m_last->body()->children.clear();
+        m_last->body()->append(std::move(page));
+        return std::move(*m_last);
+    }
+    m_rest.clear();
     if (m_pages.size() > 1) {
         return m_document->withPage(std::move(page), number);
     }
@@ -165,16 +176,66 @@ std::optional<RepairedPage> DocumentRepair::takePage(int number)
     if (!isThere) {
         return std::nullopt;
     }
-    Document document = documentOf(number);
-    RepairedPage page;
-    page.pageCount = pageCount();
-    page.repairs = std::exchange(m_repairs, {});
+    m_last = std::make_unique<Document>(documentOf(number));
+    m_lastNumber = number;
+    Document& document = *m_last;
+    QList<Repair> repairs = std::exchange(m_repairs, {});
     if (!document.wasText) {
-        note(page.repairs, "page-layout-chosen"_L1, usePageLayout(document));
+        note(repairs, "page-layout-chosen"_L1, usePageLayout(document));
     }
-    rewrite(document, page.repairs);
-    page.plan = planItems(document);
-    page.package = m_package->written(document);
+    rewrite(document, repairs);
+    if (!m_rest.empty()) {
+        putRest(document, std::exchange(m_rest, {}));
+    }
+    if (const auto end = document.wasText ? endOfCharacters(document) : std::nullopt) {
+        keepForNextPage(takeRest(document, *end));
+    }
+    RepairedPage page = finished(std::move(repairs));
+    if (!document.wasText) {
+        m_last.reset();
+    }
+    return page.package.isEmpty() ? std::nullopt : std::optional(std::move(page));
+}
+
+RepairedPage DocumentRepair::finished(QList<Repair> repairs)
+{
+    RepairedPage page;
+    page.repairs = std::move(repairs);
+    page.plan = planItems(*m_last);
+    page.pageCount = pageCount();
+    page.package = m_package->written(*m_last);
+    return page;
+}
+
+// A page that begins with a break of the document takes no text of the one before.
+void DocumentRepair::keepForNextPage(std::vector<std::unique_ptr<Node>> rest)
+{
+    const auto next = m_pages.begin() + m_lastNumber;
+    const bool isOpen = next != m_pages.end() && *next != nullptr &&
+                        (!m_rest.empty() || (*next)->hasAttribute(ContinuesAttribute));
+    if (!rest.empty() && !isOpen) {
+        m_pages.insert(next, emptyPage(*m_last));
+    }
+    m_rest.insert(m_rest.begin(), std::make_move_iterator(rest.begin()),
+                  std::make_move_iterator(rest.end()));
+}
+
+std::optional<RepairedPage> DocumentRepair::breakPage(const PageEnd& end)
+{
+    if (m_last == nullptr || m_lastNumber >= MaximumPages) {
+        return std::nullopt;
+    }
+    // They come before the rest that is known already.
+    Node::Children rest = takeRest(*m_last, end);
+    if (rest.empty()) {
+        return std::nullopt;
+    }
+    Node shown;
+    shown.children = std::move(m_rest);
+    countRowsFrom(rest, shown);
+    m_rest = std::move(shown.children);
+    keepForNextPage(std::move(rest));
+    RepairedPage page = finished({});
     return page.package.isEmpty() ? std::nullopt : std::optional(std::move(page));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "repair/item_plan.h"
+#include "repair/page_end.h"
 
 #include <QByteArray>
 #include <QList>
@@ -37,7 +38,7 @@ struct RepairedPage
     /// What to set on the items after the import.
     PagePlan plan;
     /// Pages of the original, at least 1. Each becomes a document of its own. Those of a text
-    /// document are where its last editor had breaks.
+    /// document are where its last editor had breaks; pages that are full add to them.
     int pageCount = 1;
 };
 
@@ -56,14 +57,24 @@ public:
     /// @param number of the page, from 1
     /// @return nothing for a page that is not there, was taken, or is too large
     [[nodiscard]] std::optional<RepairedPage> takePage(int number);
+    /// The page that was taken last, without what is behind its end: that comes first on the next
+    /// page, which must be taken next.
+    ///
+    /// @return nothing if nothing is behind the end, or if the page is the last one possible
+    [[nodiscard]] std::optional<RepairedPage> breakPage(const PageEnd& end);
 
 private:
     [[nodiscard]] Document documentOf(int number);
+    void keepForNextPage(std::vector<std::unique_ptr<Node>> rest);
+    [[nodiscard]] RepairedPage finished(QList<Repair> repairs);
 
     std::unique_ptr<Package> m_package;
     std::unique_ptr<Document> m_document; // without its pages; null if it cannot be repaired
     std::vector<std::unique_ptr<Node>> m_pages;
-    QList<Repair> m_repairs; // of the document as a whole
+    QList<Repair> m_repairs;          // of the document as a whole
+    std::unique_ptr<Document> m_last; // of the page taken last, if it was a text document
+    int m_lastNumber = 0;
+    std::vector<std::unique_ptr<Node>> m_rest; // rewritten objects for the next page
 };
 
 /// One page of a file.

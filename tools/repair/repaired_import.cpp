@@ -20,6 +20,23 @@ workbench::ImportResult importPackage(const QByteArray& package)
     return workbench::importLabel(file.fileName(), ReaderKind::OpenDocument);
 }
 
+// What does not fit on the page is left to the next one. The heights of texts are known only now.
+void endFullPage(DocumentRepair& document, const PageEnd& end, RepairedPage& repaired,
+                 workbench::ImportResult& result)
+{
+    std::optional<RepairedPage> shorter = document.breakPage(end);
+    if (!shorter) {
+        return;
+    }
+    workbench::ImportResult again = importPackage(shorter->package);
+    if (again.isImported()) {
+        applyPlan(*again.canvas, shorter->plan);
+        result = std::move(again);
+        shorter->repairs = std::move(repaired.repairs);
+        repaired = *std::move(shorter);
+    }
+}
+
 RepairedImport importPage(DocumentRepair& document, int page)
 {
     RepairedImport import;
@@ -29,10 +46,12 @@ RepairedImport importPage(DocumentRepair& document, int page)
     }
     import.result = importPackage(repaired->package);
     if (import.result.isImported()) {
-        applyPlan(*import.result.canvas, repaired->plan);
+        if (const auto end = applyPlan(*import.result.canvas, repaired->plan)) {
+            endFullPage(document, *end, *repaired, import.result);
+        }
         import.repairs = std::move(repaired->repairs);
         import.package = std::move(repaired->package);
-        import.pageCount = repaired->pageCount;
+        import.pageCount = document.pageCount();
     }
     return import;
 }

@@ -16,7 +16,8 @@ struct RepairedImport
     QList<Repair> repairs;
     /// The repaired document that was imported; empty if the original was.
     QByteArray package;
-    /// Pages of the document; 1 if it could not be repaired.
+    /// Pages of the document as far as known: text that does not fit on a page adds some. 1 if it
+    /// could not be repaired.
     int pageCount = 1;
     /// Has the further pages; null if there are none.
     std::shared_ptr<DocumentRepair> document;

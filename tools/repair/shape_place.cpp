@@ -1,6 +1,7 @@
 #include "repair/shape_place.h"
 
 #include "repair/lengths.h"
+#include "repair/page_end.h"
 #include "repair/transform.h"
 #include "repair/xml_tree.h"
 
@@ -70,7 +71,8 @@ void moveShape(Node& shape, const QPointF& offset)
 
 void keepPlace(const Node& shape, Node& part)
 {
-    for (const QString& name : {RowAttribute, AnchorAttribute, InLineAttribute}) {
+    for (const QString& name :
+         {RowAttribute, AnchorAttribute, InLineAttribute, FromRowAttribute, FromTextAttribute}) {
         if (shape.hasAttribute(name) && !part.hasAttribute(name)) {
             part.setAttribute(name, shape.attribute(name));
         }

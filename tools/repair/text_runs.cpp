@@ -93,7 +93,10 @@ std::vector<Run> withMarkHolder(std::vector<Run> runs)
 {
     const bool hasText =
         std::any_of(runs.begin(), runs.end(), [](const Run& run) { return run.mark.isEmpty(); });
-    if (!runs.empty() && !hasText) {
+    const bool hasRoom = std::any_of(runs.begin(), runs.end(), [](const Run& run) {
+        return !run.mark.isEmpty() && takesRoom(run.mark);
+    });
+    if (hasRoom && !hasText) {
         runs.push_back({runs.back().style, MarkHolder});
     }
     return runs;

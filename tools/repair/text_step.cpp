@@ -2,6 +2,8 @@
 
 #include "repair/document.h"
 #include "repair/lengths.h"
+#include "repair/list_labels.h"
+#include "repair/page_end.h"
 
 #include <algorithm>
 
@@ -120,63 +122,6 @@ void BlockWriter::readList(const Node& element, const List* outer, int depth)
     }
 }
 
-QString numberText(int number, const QString& format)
-{
-    if ((format == "a"_L1 || format == "A"_L1) && number >= 1 && number <= 26) {
-        return QChar(format[0].unicode() + number - 1);
-    }
-    if (format == "i"_L1 || format == "I"_L1) {
-        static constexpr struct
-        {
-            int value;
-            QLatin1StringView text;
-        } Digits[] = {{100, "c"_L1}, {90, "xc"_L1}, {50, "l"_L1}, {40, "xl"_L1}, {10, "x"_L1},
-                      {9, "ix"_L1},  {5, "v"_L1},   {4, "iv"_L1}, {1, "i"_L1}};
-        QString roman;
-        int rest = std::min(number, 1000);
-        for (const auto& digit : Digits) {
-            for (; rest >= digit.value; rest -= digit.value) {
-                roman += digit.text;
-            }
-        }
-        return format == "I"_L1 ? roman.toUpper() : roman;
-    }
-    return format.isEmpty() ? QString() : QString::number(number);
-}
-
-// The style of a list's level: bullet, number or picture; null if it is unknown.
-const Node* levelStyle(const StyleTable& table, const QString& list, int level)
-{
-    const Node* const style = table.named(u"text:list-style"_s, list);
-    if (style == nullptr) {
-        return nullptr;
-    }
-    const auto found =
-        std::find_if(style->children.begin(), style->children.end(), [level](const auto& child) {
-            return child->attribute(u"text:level").toInt() == level;
-        });
-    return found != style->children.end() ? found->get() : nullptr;
-}
-
-struct Indent
-{
-    double margin = 0.0;
-    double first = 0.0;
-};
-
-Indent indentOf(const Node& level)
-{
-    const Node* const properties = level.child(u"style:list-level-properties");
-    if (properties == nullptr) {
-        return {};
-    }
-    if (const Node* const aligned = properties->child(u"style:list-level-label-alignment")) {
-        return {pointsOf(*aligned, u"fo:margin-left"), pointsOf(*aligned, u"fo:text-indent")};
-    }
-    const double width = pointsOf(*properties, u"text:min-label-width");
-    return {pointsOf(*properties, u"text:space-before") + width, -width};
-}
-
 void BlockWriter::addLabel(List& list, StyleProperties& style, std::vector<Run>& runs)
 {
     const Node* const level = levelStyle(m_document.table(), list.style, list.level);
@@ -193,6 +138,20 @@ void BlockWriter::addLabel(List& list, StyleProperties& style, std::vector<Run>&
     if (list.isNewItem && !label.isEmpty()) {
         list.isNewItem = false;
         runs.insert(runs.begin(), {style, label + LabelGap});
+    }
+}
+
+// What a break between pages must not separate.
+void writeKeeps(const Properties& style, Node& paragraph)
+{
+    if (style.value(u"fo:keep-with-next"_s) == "always"_L1) {
+        paragraph.setAttribute(KeepAttribute, u"true"_s);
+    }
+    if (const QString orphans = style.value(u"fo:orphans"_s); orphans.toInt() > 0) {
+        paragraph.setAttribute(OrphansAttribute, orphans);
+    }
+    if (const QString widows = style.value(u"fo:widows"_s); widows.toInt() > 0) {
+        paragraph.setAttribute(WidowsAttribute, widows);
     }
 }
 
@@ -223,6 +182,9 @@ void BlockWriter::writeParagraph(const Node& paragraph, List* list)
     }
     auto written = Node::element(u"text:p"_s);
     written->setAttribute(u"text:style-name"_s, m_document.styleFor(u"paragraph"_s, shown));
+    if (m_document.wasText) {
+        writeKeeps(style.paragraph, *written);
+    }
     writeRuns(m_document, *written, std::move(runs));
     m_paragraphs.push_back(std::move(written));
 }

@@ -1,0 +1,244 @@
+// Text documents without page breaks: a page that is full continues on the next one.
+
+#include "tests/repair/documents.h"
+
+#include "host/items/rich_text_item.h"
+#include "repair/repaired_import.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Points: the page of these documents, 5 cm high, with margins of 36 points above and below.
+constexpr double PageHeight = 5.0 * 72.0 / 2.54;
+constexpr double Margin = 20.0;
+
+QByteArray pageStyles(const QByteArray& footer = {})
+{
+    QByteArray styles = drawingStyles({}, {}, footer);
+    styles.replace("fo:page-height=\"5cm\"/>",
+                   "fo:page-height=\"5cm\" fo:margin=\"20pt\"/><style:footer-style>"
+                   "<style:header-footer-properties fo:min-height=\"15pt\"/></style:footer-style>");
+    return styles;
+}
+
+QByteArray textDocument(const QByteArray& text, const QByteArray& styles = {})
+{
+    return "<office:document-content><office:automatic-styles>" + styles +
+           "</office:automatic-styles><office:body><office:text>" + text +
+           "</office:text></office:body></office:document-content>";
+}
+
+QByteArray paragraphs(int first, int last, const QByteArray& style = {})
+{
+    QByteArray text;
+    for (int number = first; number <= last; ++number) {
+        text += "<text:p text:style-name=\"" + style + "\">p" + QByteArray::number(number) +
+                "</text:p>";
+    }
+    return text;
+}
+
+/// The texts of one label, from top to bottom, and where they end.
+struct Label
+{
+    QString text;
+    double bottom = 0.0;
+    double objectTop = 0.0; ///< of the last drawn object
+    int pageCount = 0;
+};
+
+Label labelOf(const repair::RepairedImport& import)
+{
+    Label label;
+    label.pageCount = import.pageCount;
+    for (workbench::CanvasItem* const item : import.result.canvas->items()) {
+        const double top = item->graphicsItem()->pos().y();
+        if (auto* const text = dynamic_cast<RichTextItem*>(item->contractItem())) {
+            label.text += (label.text.isEmpty() ? QString() : u"|"_s) + text->toPlainText();
+            label.bottom = std::max(label.bottom, top + text->getItemHeight());
+        } else if (item->shapeType() == KestTypes::Ellipse) {
+            label.objectTop = top;
+        }
+    }
+    return label;
+}
+
+QList<Label> labelsOf(const QByteArray& content, const QByteArray& styles = pageStyles())
+{
+    const QTemporaryDir folder;
+    const repair::RepairedImport first =
+        repair::importRepaired(writePackage(folder.path(), content, styles));
+    QList<Label> labels;
+    if (!first.isRepaired()) {
+        return labels;
+    }
+    labels.append(labelOf(first));
+    for (int page = 2; first.document && page <= first.document->pageCount(); ++page) {
+        labels.append(labelOf(repair::importFurtherPage(*first.document, page)));
+    }
+    return labels;
+}
+
+QStringList wordsOf(const QList<Label>& labels)
+{
+    QStringList words;
+    for (const Label& label : labels) {
+        words += QString(label.text)
+                     .replace(u'\n', u' ')
+                     .replace(u'|', u' ')
+                     .split(u' ', Qt::SkipEmptyParts);
+    }
+    return words;
+}
+
+QStringList numbered(int count)
+{
+    QStringList words;
+    for (int number = 1; number <= count; ++number) {
+        words.append(u"p%1"_s.arg(number));
+    }
+    return words;
+}
+
+} // namespace
+
+TEST(PageBreaks, ContinueFullPages)
+{
+    const QList<Label> labels = labelsOf(textDocument(paragraphs(1, 18)));
+    ASSERT_EQ(labels.size(), 3);
+    EXPECT_EQ(wordsOf(labels).join(u' '), numbered(18).join(u' '));
+    EXPECT_EQ(labels[0].pageCount, 2); // as far as known
+    EXPECT_EQ(labels[2].pageCount, 3);
+    for (const Label& label : labels) {
+        EXPECT_LE(label.bottom, PageHeight - Margin + 1.0);
+    }
+}
+
+TEST(PageBreaks, LeaveTextThatFits)
+{
+    EXPECT_EQ(labelsOf(textDocument(paragraphs(1, 7))).size(), 1);
+    // Blank paragraphs behind it need no page.
+    EXPECT_EQ(labelsOf(textDocument(paragraphs(1, 7) + QByteArray("<text:p/>").repeated(9))).size(),
+              1);
+}
+
+TEST(PageBreaks, SeparateLinesOfAParagraph)
+{
+    QByteArray text;
+    for (const QString& word : numbered(300)) {
+        text += word.toLatin1() + ' ';
+    }
+    const QList<Label> labels = labelsOf(textDocument("<text:p>" + text + "</text:p>"));
+    ASSERT_GT(labels.size(), 2);
+    EXPECT_EQ(wordsOf(labels).join(u' '), numbered(300).join(u' '));
+    for (const Label& label : labels) {
+        EXPECT_LE(label.bottom, PageHeight - Margin + 1.0);
+    }
+}
+
+TEST(PageBreaks, KeepLinesAndHeadingsTogether)
+{
+    const QByteArray styles =
+        "<style:style style:name=\"k\" style:family=\"paragraph\"><style:paragraph-properties "
+        "fo:keep-with-next=\"always\"/></style:style>"
+        "<style:style style:name=\"w\" style:family=\"paragraph\"><style:paragraph-properties "
+        "fo:orphans=\"2\" fo:widows=\"2\"/></style:style>";
+    const QByteArray lines = "<text:p text:style-name=\"w\">a<text:line-break/>b<text:line-break/>c"
+                             "</text:p>";
+    // Seven lines have room: one of the three would be left, or one would be on the next page.
+    for (const int before : {5, 6}) {
+        const QList<Label> labels = labelsOf(textDocument(
+            paragraphs(2, before) + paragraphs(1, 1, "k") + lines + paragraphs(21, 22), styles));
+        ASSERT_EQ(labels.size(), 2) << before;
+        EXPECT_TRUE(labels[0].text.endsWith(u"p%1"_s.arg(before))) << labels[0].text.toStdString();
+        EXPECT_TRUE(labels[1].text.startsWith("p1\na"_L1)) << labels[1].text.toStdString();
+    }
+}
+
+TEST(PageBreaks, RepeatTheFooterWithThePagesNumber)
+{
+    const QList<Label> labels = labelsOf(
+        textDocument(paragraphs(1, 8)),
+        pageStyles("<style:footer><text:p>page <text:page-number>1</text:page-number></text:p>"
+                   "</style:footer>"));
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_TRUE(labels[0].text.endsWith("|page 1"_L1)) << labels[0].text.toStdString();
+    EXPECT_TRUE(labels[1].text.endsWith("|page 2"_L1)) << labels[1].text.toStdString();
+}
+
+TEST(PageBreaks, MoveObjectsWithTheirParagraph)
+{
+    const auto ellipse = [](const QByteArray& place) {
+        return "<text:p>p8<draw:ellipse " + place +
+               " svg:width=\"10pt\" svg:height=\"10pt\"/></text:p>";
+    };
+    const QByteArray onPage =
+        "<style:style style:name=\"g\" style:family=\"graphic\"><style:graphic-properties "
+        "style:vertical-rel=\"page\" style:vertical-pos=\"from-top\"/></style:style>";
+    for (const QByteArray& place :
+         {QByteArray("text:anchor-type=\"as-char\""),
+          QByteArray("text:anchor-type=\"paragraph\" draw:style-name=\"g\" svg:y=\"40pt\"")}) {
+        const QList<Label> labels =
+            labelsOf(textDocument(paragraphs(1, 7) + paragraphs(9, 9) + ellipse(place), onPage));
+        ASSERT_EQ(labels.size(), 2);
+        EXPECT_EQ(labels[0].objectTop, 0.0);
+        EXPECT_GT(labels[1].objectTop, Margin - 1.0);
+        EXPECT_LT(labels[1].objectTop, 41.0);
+    }
+}
+
+TEST(PageBreaks, KeepRowsOfTablesWhole)
+{
+    const auto row = [](const QByteArray& text) {
+        return "<table:table-row><table:table-cell>" + text +
+               "</table:table-cell>"
+               "</table:table-row>";
+    };
+    const QByteArray table = "<table:table><table:table-column/>" + row(paragraphs(5, 6)) +
+                             row(paragraphs(7, 9)) + row(paragraphs(10, 29)) +
+                             row(paragraphs(30, 30)) + "</table:table>";
+    const QList<Label> labels = labelsOf(textDocument(paragraphs(1, 4) + table));
+    ASSERT_EQ(labels.size(), 4);
+    EXPECT_TRUE(labels[0].text.endsWith("|p5\np6"_L1)) << labels[0].text.toStdString();
+    EXPECT_EQ(labels[1].text, "p7\np8\np9"_L1);
+    // A row that is higher than a page has its own.
+    EXPECT_TRUE(labels[2].text.startsWith("p10\n"_L1));
+    EXPECT_EQ(labels[3].text, "p30"_L1);
+}
+
+TEST(PageBreaks, FillThePageUpToTheNextBreakOfTheDocument)
+{
+    const QByteArray styles =
+        "<style:style style:name=\"b\" style:family=\"paragraph\"><style:paragraph-properties "
+        "fo:break-before=\"page\"/></style:style><style:style style:name=\"a\" "
+        "style:family=\"paragraph\"><style:paragraph-properties fo:break-after=\"page\"/>"
+        "</style:style>";
+    // The text before a break of the editor continues; that before one of the author does not.
+    const QByteArray soft = "<text:soft-page-break/>";
+    QList<Label> labels = labelsOf(textDocument(
+        paragraphs(1, 9) + soft + paragraphs(10, 11) + paragraphs(12, 12, "b"), styles));
+    ASSERT_EQ(labels.size(), 3);
+    EXPECT_EQ(wordsOf(labels).join(u' '), numbered(12).join(u' '));
+    EXPECT_TRUE(labels[1].text.contains("p10"_L1));
+    EXPECT_EQ(labels[2].text, "p12"_L1);
+    labels =
+        labelsOf(textDocument(paragraphs(1, 2) + paragraphs(3, 3, "a") + paragraphs(4, 4), styles));
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_EQ(labels[1].text, "p4"_L1);
+}
+
+TEST(PageBreaks, LayOutLongTextsInParts)
+{
+    const QList<Label> labels = labelsOf(textDocument(
+        paragraphs(1, 40) + "<text:p>" + QByteArray("word ").repeated(2'200) + "</text:p>"));
+    ASSERT_FALSE(labels.isEmpty());
+    EXPECT_EQ(wordsOf(labels).size(), 2'240);
+    for (const Label& label : labels) {
+        EXPECT_LE(label.bottom, PageHeight - Margin + 1.0);
+    }
+}

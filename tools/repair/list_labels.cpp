@@ -1,0 +1,63 @@
+#include "repair/list_labels.h"
+
+#include "repair/lengths.h"
+#include "repair/styles.h"
+#include "repair/xml_tree.h"
+
+#include <algorithm>
+
+namespace repair {
+
+using namespace Qt::StringLiterals;
+
+QString numberText(int number, const QString& format)
+{
+    if ((format == "a"_L1 || format == "A"_L1) && number >= 1 && number <= 26) {
+        return QChar(format[0].unicode() + number - 1);
+    }
+    if (format == "i"_L1 || format == "I"_L1) {
+        static constexpr struct
+        {
+            int value;
+            QLatin1StringView text;
+        } Digits[] = {{100, "c"_L1}, {90, "xc"_L1}, {50, "l"_L1}, {40, "xl"_L1}, {10, "x"_L1},
+                      {9, "ix"_L1},  {5, "v"_L1},   {4, "iv"_L1}, {1, "i"_L1}};
+        QString roman;
+        int rest = std::min(number, 1000);
+        for (const auto& digit : Digits) {
+            for (; rest >= digit.value; rest -= digit.value) {
+                roman += digit.text;
+            }
+        }
+        return format == "I"_L1 ? roman.toUpper() : roman;
+    }
+    return format.isEmpty() ? QString() : QString::number(number);
+}
+
+const Node* levelStyle(const StyleTable& table, const QString& list, int level)
+{
+    const Node* const style = table.named(u"text:list-style"_s, list);
+    if (style == nullptr) {
+        return nullptr;
+    }
+    const auto found =
+        std::find_if(style->children.begin(), style->children.end(), [level](const auto& child) {
+            return child->attribute(u"text:level").toInt() == level;
+        });
+    return found != style->children.end() ? found->get() : nullptr;
+}
+
+Indent indentOf(const Node& level)
+{
+    const Node* const properties = level.child(u"style:list-level-properties");
+    if (properties == nullptr) {
+        return {};
+    }
+    if (const Node* const aligned = properties->child(u"style:list-level-label-alignment")) {
+        return {pointsOf(*aligned, u"fo:margin-left"), pointsOf(*aligned, u"fo:text-indent")};
+    }
+    const double width = pointsOf(*properties, u"text:min-label-width");
+    return {pointsOf(*properties, u"text:space-before") + width, -width};
+}
+
+} // namespace repair
