@@ -84,6 +84,32 @@ TEST_F(Glabels, WritesATextForEachFormat)
     EXPECT_EQ(onlyFidelity(), Fidelity::Simplified);
 }
 
+// gLabels prints letters of 10 points up to 8 % wider, because it rounds their advances.
+TEST_F(Glabels, SplitsLinesInSeveralFormatsWhereLettersWouldMove)
+{
+    ItemValues text = textOf({});
+    text.type = KestTypes::RichText;
+    text.textLabel.reset();
+    text.text = TextValues{{},
+                           u"<body style='font-family:Liberation Sans; font-size:10px'>"
+                           "<p>opened once, <b>in use</b></p><p><u>do not open</u></p>"_s};
+    canvas.addItem(text);
+    const std::string label = xml();
+    EXPECT_THAT(label, HasSubstr(">opened</Span>"));
+    EXPECT_THAT(label, HasSubstr(">once,</Span>"));
+    EXPECT_THAT(label, HasSubstr(R"(justify="Center")"));
+    EXPECT_THAT(label, HasSubstr(">do not open</Span>")) << "its line has no gaps";
+}
+
+TEST_F(Glabels, KeepsTextInOneFormatTogether)
+{
+    ItemValues text = textOf(u"opened once, do not open"_s);
+    text.font->bold = false;
+    canvas.addItem(text);
+    EXPECT_THAT(xml(), HasSubstr(">opened once, do not open</Span>"));
+    EXPECT_EQ(onlyFidelity(), Fidelity::Exact);
+}
+
 TEST_F(Glabels, WritesADocumentInOneFormatAsOneText)
 {
     ItemValues text = textOf({});

@@ -7,7 +7,6 @@
 #include <QTextLayout>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numeric>
 
@@ -20,16 +19,6 @@ constexpr double Unlimited = 1e7;
 constexpr qsizetype MeasuredCharacters = 10'000;
 /// A half is rounded up, even if it is a little less because of rounding errors.
 constexpr double HalfPoint = 0.5 + 1e-4;
-/// Sizes that fittingSize() tries, and how much better they must be.
-constexpr std::array SizeFactors{0.9975, 1.0025, 0.995, 1.005, 0.99, 1.01};
-constexpr double NoticeableGain = 0.7;
-
-double roundedSum(const QList<double>& advances, double scale)
-{
-    return std::accumulate(advances.begin(), advances.end(), 0.0, [scale](double sum, double each) {
-        return sum + std::floor(each * scale + HalfPoint);
-    });
-}
 
 /// The name of an installed family with its capitals, which gLabels requires; the name itself if it
 /// is not installed.
@@ -97,33 +86,16 @@ QList<double> GlabelsFont::advances(const QString& line) const
 
 double GlabelsFont::width(const QString& line) const
 {
-    return roundedSum(advances(line), m_scale);
+    const QList<double> all = advances(line);
+    return std::accumulate(all.begin(), all.end(), 0.0, [this](double sum, double each) {
+        return sum + std::floor(each * m_scale + HalfPoint);
+    });
 }
 
 double GlabelsFont::exactWidth(const QString& line) const
 {
     const QList<double> all = advances(line);
     return std::accumulate(all.begin(), all.end(), 0.0) * m_scale;
-}
-
-double GlabelsFont::fittingSize(const QStringList& lines, double ours) const
-{
-    QList<double> all;
-    for (const QString& line : lines) {
-        all += advances(line);
-    }
-    const auto difference = [&](double factor) {
-        return std::abs(roundedSum(all, m_scale * factor) - ours);
-    };
-    double best = 1.0;
-    double least = difference(1.0) * NoticeableGain;
-    for (const double factor : SizeFactors) {
-        if (difference(factor) < least) {
-            least = difference(factor);
-            best = factor;
-        }
-    }
-    return best * m_scale * LargeSize;
 }
 
 } // namespace exporting

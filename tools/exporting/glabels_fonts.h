@@ -26,13 +26,6 @@ public:
     /// The width before advances are rounded.
     [[nodiscard]] double exactWidth(const QString& line) const;
 
-    /// The size, or one that is up to one percent larger or smaller, if the lines then are as wide
-    /// as we paint them: where gLabels rounds the advances of letters by half a point, they are
-    /// rounded down instead of up, or up instead of down.
-    ///
-    /// @param ours the width of all lines together, as we paint them
-    [[nodiscard]] double fittingSize(const QStringList& lines, double ours) const;
-
 private:
     [[nodiscard]] QList<double> advances(const QString& line) const;
 

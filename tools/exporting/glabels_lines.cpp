@@ -15,6 +15,8 @@ namespace {
 constexpr double HeightTolerance = 0.01;
 /// A line that gLabels measures a little wider than calculated would be broken.
 constexpr double WidthTolerance = 1.03;
+/// Points. Letters that are farther from their places look wrong.
+constexpr double NoticeableShift = 1.0;
 
 /// The box, wide enough for a line of this width in gLabels. It grows away from the aligned edge.
 QRectF widened(const QRectF& box, double width, Qt::Alignment alignment)
@@ -39,19 +41,18 @@ void underline(GlabelsDocument& document, const QTransform& toPage, const Format
     }
 }
 
+QString withoutBreaks(const TextLine& line)
+{
+    return QString(line.text).remove(QChar::LineSeparator);
+}
+
 } // namespace
 
 GlabelsText addLines(GlabelsDocument& document, const QTransform& toPage,
                      const FormattedLines& text, const GlabelsField& field)
 {
     GlabelsText written;
-    double ours = 0.0;
-    for (const TextLine& line : text.lines) {
-        written.lines.append(QString(line.text).remove(QChar::LineSeparator));
-        ours += line.box.width();
-    }
     setFont(written, text.font);
-    written.size = GlabelsFont(written).fittingSize(written.lines, ours);
     written.field = field.name;
     written.color = text.color;
     written.alignment = text.alignment;
@@ -60,8 +61,9 @@ GlabelsText addLines(GlabelsDocument& document, const QTransform& toPage,
         written.lineGap = text.lines.at(1).baseline - text.lines.at(0).baseline - font.height();
     }
     double widest = font.width(field.longest);
-    for (const QString& line : written.lines) {
-        widest = std::max(widest, font.width(line));
+    for (const TextLine& line : text.lines) {
+        written.lines.append(withoutBreaks(line));
+        widest = std::max(widest, font.width(written.lines.last()));
     }
     QRectF box = widened(text.box, widest, text.alignment);
     box.setHeight(box.height() + HeightTolerance);
@@ -77,6 +79,40 @@ GlabelsText addLines(GlabelsDocument& document, const QTransform& toPage,
         underline(document, toPage, text);
     }
     return written;
+}
+
+QList<FormattedLines> wordsOf(const FormattedLines& run)
+{
+    GlabelsText format;
+    setFont(format, run.font);
+    const GlabelsFont font(format);
+    const TextLine& line = run.lines.first();
+    const QString text = withoutBreaks(line);
+    const bool isShifted = std::abs(font.width(text) - line.box.width()) > NoticeableShift;
+    // The line under words has no gaps.
+    if (!isShifted || run.isUnderlined || text.isRightToLeft()) {
+        return {run};
+    }
+    QList<FormattedLines> words;
+    qsizetype end = 0;
+    for (qsizetype start = 0; start < text.size(); start = end + 1) {
+        end = text.indexOf(u' ', start);
+        end = end < 0 ? text.size() : end;
+        if (end > start) {
+            const QString word = text.mid(start, end - start);
+            QRectF box = line.box;
+            box.moveLeft(box.left() + font.exactWidth(text.left(start)));
+            box.setWidth(font.exactWidth(word));
+            // What is centered is wrong by the same length on both sides.
+            words.append({run.font,
+                          run.color,
+                          run.isUnderlined,
+                          Qt::AlignHCenter,
+                          box,
+                          {{word, box, line.baseline}}});
+        }
+    }
+    return words;
 }
 
 } // namespace exporting

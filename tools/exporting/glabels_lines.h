@@ -23,4 +23,8 @@ struct FormattedLines
 GlabelsText addLines(GlabelsDocument& document, const QTransform& toPage,
                      const FormattedLines& text, const GlabelsField& field);
 
+/// A line as its words, at the places where we paint them, if gLabels would print some of its
+/// letters noticeably elsewhere; otherwise the line.
+[[nodiscard]] QList<FormattedLines> wordsOf(const FormattedLines& run);
+
 } // namespace exporting

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace exporting {
 
@@ -203,8 +204,12 @@ bool addRichText(GlabelsDocument& document, ExportFindings& findings, const Walk
         }
         findings.add(Fidelity::Exact, shapeCode(item.values.type));
     } else {
+        const QList<FormattedLines> lines = std::exchange(runs, {});
+        for (const FormattedLines& line : lines) {
+            runs += wordsOf(line);
+        }
         findings.add(Fidelity::Simplified, shapeCode(item.values.type),
-                     tr("A text in several formats became a text for each line and format."));
+                     tr("A text in several formats became a text for each line, format or word."));
     }
     for (const FormattedLines& run : runs) {
         addLines(document, item.toPage, run, {});
