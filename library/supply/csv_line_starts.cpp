@@ -8,20 +8,25 @@ CsvLineStarts::CsvLineStarts(std::vector<qint64> offsets)
 
 void CsvLineStarts::take(std::span<const char> piece)
 {
+    // In registers: each label reads the tables again.
     qint64 next = m_position;
+    bool isHidden = m_isHidden;
+    bool isQuoted = m_isQuoted;
     for (const char byte : piece) {
         ++next;
-        if (m_isHidden) {
-            m_isHidden = false;
+        if (isHidden) {
+            isHidden = false;
         } else if (byte == '\\') {
-            m_isHidden = true;
+            isHidden = true;
         } else if (byte == '"') {
-            m_isQuoted = !m_isQuoted;
-        } else if (byte == '\n' && !m_isQuoted) {
+            isQuoted = !isQuoted;
+        } else if (byte == '\n' && !isQuoted) {
             m_offsets.push_back(next);
         }
     }
     m_position = next;
+    m_isHidden = isHidden;
+    m_isQuoted = isQuoted;
 }
 
 void CsvLineStarts::finish()

@@ -165,6 +165,7 @@ int runCommand(int argc, char** argv, const QString& command, const QStringList&
 int runWorkerCommand(int argc, char** argv, const QStringList& arguments)
 {
     archive::limitMemory(arguments.value(0).toInt());
+    archive::keepFreedMemory();
     // Pictures are drawn without a window system, whatever the environment offers.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     setUpApplication();

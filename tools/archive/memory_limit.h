@@ -10,6 +10,10 @@ namespace archive {
 /// @param memoryMiB limit of the process's data; 0 for none
 void limitMemory(int memoryMiB);
 
+/// Keeps freed memory for the next file. Without this, the memory of each picture goes back to the
+/// system, which has to clear it again for the next one.
+void keepFreedMemory();
+
 /// Exits with WorkerExitOutOfMemory, for code that catches std::bad_alloc.
 [[noreturn]] void exitOutOfMemory();
 

@@ -41,7 +41,6 @@ void paintDots(QPainter& painter, QSvgRenderer& drawing, const QRectF& box)
 
 SymbolItem::SymbolItem(KestTypes::ShapeType type)
     : DatasourceLayer(type)
-    , m_drawing(std::make_unique<QSvgRenderer>())
 {}
 
 SymbolItem::~SymbolItem() = default;
@@ -49,14 +48,14 @@ SymbolItem::~SymbolItem() = default;
 void SymbolItem::loadItemFromData(const QByteArray& data)
 {
     takeData(data);
-    setBoxSize(m_drawing->isValid() ? boundedSize(symbols::naturalSize(m_safeData))
-                                    : QSizeF(0.0, 0.0));
+    setBoxSize(m_safeData.isEmpty() ? QSizeF(0.0, 0.0)
+                                    : boundedSize(symbols::naturalSize(m_safeData)));
 }
 
 void SymbolItem::setForegroundColor(const QColor& color)
 {
     m_symbol.foreground = color;
-    loadDrawing();
+    colorChanged();
 }
 
 void SymbolItem::setBackgroundColor(const QColor& color)
@@ -76,12 +75,20 @@ void SymbolItem::takeData(const QByteArray& data)
 {
     m_symbol.data = data;
     m_safeData = symbols::makeSymbolData(data).value_or(QByteArray());
-    loadDrawing();
+    colorChanged();
 }
 
-void SymbolItem::loadDrawing()
+QSvgRenderer& SymbolItem::drawing()
 {
-    m_drawing->load(withForeground(m_safeData, m_symbol.foreground));
+    if (!m_drawing) {
+        m_drawing = std::make_unique<QSvgRenderer>(withForeground(m_safeData, m_symbol.foreground));
+    }
+    return *m_drawing;
+}
+
+void SymbolItem::colorChanged()
+{
+    m_drawing.reset();
     appearanceChanged();
 }
 
@@ -89,10 +96,13 @@ void SymbolItem::paintContent(QPainter& painter)
 {
     const QRectF box = contentRect();
     painter.fillRect(box, m_symbol.background);
-    if (m_drawing->isValid() && losesGradients(painter, m_safeData)) {
-        paintDots(painter, *m_drawing, box);
-    } else if (m_drawing->isValid()) {
-        m_drawing->render(&painter, box);
+    if (m_safeData.isEmpty() || !drawing().isValid()) {
+        return;
+    }
+    if (losesGradients(painter, m_safeData)) {
+        paintDots(painter, drawing(), box);
+    } else {
+        drawing().render(&painter, box);
     }
 }
 

@@ -39,9 +39,12 @@ protected:
 
 private:
     void takeData(const QByteArray& data);
-    void loadDrawing();
+    /// The drawing in its color; parsed when it is first needed.
+    [[nodiscard]] QSvgRenderer& drawing();
+    void colorChanged();
 
     SymbolValues m_symbol;
+    /// Empty if the data is not a drawing that may be shown.
     QByteArray m_safeData;
     std::unique_ptr<QSvgRenderer> m_drawing;
 };

@@ -188,8 +188,7 @@ QByteArray thumbnailOf(const workbench::Canvas& canvas)
 {
     const QSizeF page = canvas.page().size;
     const double longest = std::max({page.width(), page.height(), 1.0});
-    // Painted at twice the size and made smaller, hair lines stay visible.
-    const double dpi = 72.0 * 2.0 * ThumbnailSide / longest;
+    const double dpi = 72.0 * ThumbnailSide / longest;
     const workbench::PageImage painted = workbench::renderPage(canvas, dpi);
     if (painted.image.isNull()) {
         return {};
