@@ -17,7 +17,7 @@ namespace {
 // `printable_control`. A second one replaces the first, except flips and rotation, which are
 // separate children of the object.
 template <typename Record>
-void takePrintableControl(const QDomElement& child, FamilyCheck isKnownFamily, Record& record)
+void takePrintableControl(const Element& child, FamilyCheck isKnownFamily, Record& record)
 {
     ControlProperties properties = readControlProperties(child, isKnownFamily);
     properties.rotation = record.properties.rotation;
@@ -28,31 +28,31 @@ void takePrintableControl(const QDomElement& child, FamilyCheck isKnownFamily, R
 
 // `flip_horizontally`
 template <typename Record>
-void takeFlipHorizontal(const QDomElement& child, FamilyCheck /*unused*/, Record& record)
+void takeFlipHorizontal(const Element& child, FamilyCheck /*unused*/, Record& record)
 {
     record.properties.flipHorizontal = readFlag(child);
 }
 
 // `flip_vertically`
 template <typename Record>
-void takeFlipVertical(const QDomElement& child, FamilyCheck /*unused*/, Record& record)
+void takeFlipVertical(const Element& child, FamilyCheck /*unused*/, Record& record)
 {
     record.properties.flipVertical = readFlag(child);
 }
 
 // `rotation`, in whole degrees
 template <typename Record>
-void takeRotation(const QDomElement& child, FamilyCheck /*unused*/, Record& record)
+void takeRotation(const Element& child, FamilyCheck /*unused*/, Record& record)
 {
     record.properties.rotation = readInteger(child);
 }
 
-void takeTexts(const QDomElement& child, FamilyCheck /*unused*/, BarcodeControl& control)
+void takeTexts(const Element& child, FamilyCheck /*unused*/, BarcodeControl& control)
 {
     control.texts = readTexts(child);
 }
 
-void takeBarcodeType(const QDomElement& child, FamilyCheck /*unused*/, BarcodeControl& control)
+void takeBarcodeType(const Element& child, FamilyCheck /*unused*/, BarcodeControl& control)
 {
     control.hostType = hostBarcodeCode(readInteger(child));
 }
@@ -63,7 +63,7 @@ constexpr Field<BarcodeControl> BarcodeFields[] = {
     {"barcode_type"_L1, takeBarcodeType},
 };
 
-void takeEntries(const QDomElement& child, FamilyCheck /*unused*/, ListControl& control)
+void takeEntries(const Element& child, FamilyCheck /*unused*/, ListControl& control)
 {
     control.entries = readTexts(child);
 }
@@ -89,7 +89,7 @@ constexpr FormatRow FormatRows[] = {
 // For all other codes: date and time.
 constexpr FormatRow OtherFormat = {0, 2, 3};
 
-void takeFormat(const QDomElement& child, FamilyCheck /*unused*/, DateTimeControl& control)
+void takeFormat(const Element& child, FamilyCheck /*unused*/, DateTimeControl& control)
 {
     control.formats = dateTimeFormats(readInteger(child));
 }
@@ -99,22 +99,22 @@ constexpr Field<DateTimeControl> DateTimeFields[] = {
     {"format"_L1, takeFormat},
 };
 
-void takeReadOnly(const QDomElement& child, FamilyCheck /*unused*/, NumericControl& control)
+void takeReadOnly(const Element& child, FamilyCheck /*unused*/, NumericControl& control)
 {
     control.readOnly = readFlag(child);
 }
 
-void takeMinimum(const QDomElement& child, FamilyCheck /*unused*/, NumericControl& control)
+void takeMinimum(const Element& child, FamilyCheck /*unused*/, NumericControl& control)
 {
     control.minimum = readInteger(child);
 }
 
-void takeMaximum(const QDomElement& child, FamilyCheck /*unused*/, NumericControl& control)
+void takeMaximum(const Element& child, FamilyCheck /*unused*/, NumericControl& control)
 {
     control.maximum = readInteger(child);
 }
 
-void takeIncrement(const QDomElement& child, FamilyCheck /*unused*/, NumericControl& control)
+void takeIncrement(const Element& child, FamilyCheck /*unused*/, NumericControl& control)
 {
     control.increment = readInteger(child);
 }
@@ -129,7 +129,7 @@ constexpr Field<NumericControl> NumericFields[] = {
     {"incrememnt"_L1, takeIncrement},
 };
 
-void takeImage(const QDomElement& child, FamilyCheck /*unused*/, PictureControl& control)
+void takeImage(const Element& child, FamilyCheck /*unused*/, PictureControl& control)
 {
     control.bytes = readPictureContent(child);
 }
@@ -145,17 +145,17 @@ constexpr Field<PictureControl> PictureFields[] = {
 constexpr int LeftCode = 0;
 constexpr int RightCode = 2;
 
-void takeItems(const QDomElement& child, FamilyCheck /*unused*/, TextControl& control)
+void takeItems(const Element& child, FamilyCheck /*unused*/, TextControl& control)
 {
     control.items = readTexts(child);
 }
 
-void takeScaleable(const QDomElement& child, FamilyCheck /*unused*/, TextControl& control)
+void takeScaleable(const Element& child, FamilyCheck /*unused*/, TextControl& control)
 {
     control.scaleable = readFlag(child);
 }
 
-void takeAlignment(const QDomElement& child, FamilyCheck /*unused*/, TextControl& control)
+void takeAlignment(const Element& child, FamilyCheck /*unused*/, TextControl& control)
 {
     control.alignment = alignmentFromCode(readInteger(child));
 }
@@ -170,17 +170,17 @@ constexpr Field<TextControl> TextFields[] = {
     {"alignment"_L1, takeAlignment},
 };
 
-void takeShapeIndex(const QDomElement& child, FamilyCheck /*unused*/, ShapeControl& control)
+void takeShapeIndex(const Element& child, FamilyCheck /*unused*/, ShapeControl& control)
 {
     control.shapeIndex = readInteger(child);
 }
 
-void takeLineWidth(const QDomElement& child, FamilyCheck /*unused*/, ShapeControl& control)
+void takeLineWidth(const Element& child, FamilyCheck /*unused*/, ShapeControl& control)
 {
     control.lineWidth = readInteger(child);
 }
 
-void takeSides(const QDomElement& child, FamilyCheck /*unused*/, ShapeControl& control)
+void takeSides(const Element& child, FamilyCheck /*unused*/, ShapeControl& control)
 {
     control.sides = readInteger(child);
 }
@@ -197,21 +197,21 @@ constexpr Field<ShapeControl> ShapeFields[] = {
 
 } // namespace
 
-BarcodeControl readBarcodeControl(const QDomElement& element, FamilyCheck isKnownFamily)
+BarcodeControl readBarcodeControl(const Element& element, FamilyCheck isKnownFamily)
 {
     BarcodeControl control;
     readFields(element, BarcodeFields, isKnownFamily, control);
     return control;
 }
 
-ListControl readListControl(const QDomElement& element, FamilyCheck isKnownFamily)
+ListControl readListControl(const Element& element, FamilyCheck isKnownFamily)
 {
     ListControl control;
     readFields(element, ListFields, isKnownFamily, control);
     return control;
 }
 
-DateTimeControl readDateTimeControl(const QDomElement& element, FamilyCheck isKnownFamily)
+DateTimeControl readDateTimeControl(const Element& element, FamilyCheck isKnownFamily)
 {
     DateTimeControl control;
     readFields(element, DateTimeFields, isKnownFamily, control);
@@ -226,21 +226,21 @@ QStringList dateTimeFormats(int code)
     return {DateFormats.at(row.date), TimeFormats.at(row.time)};
 }
 
-NumericControl readNumericControl(const QDomElement& element, FamilyCheck isKnownFamily)
+NumericControl readNumericControl(const Element& element, FamilyCheck isKnownFamily)
 {
     NumericControl control;
     readFields(element, NumericFields, isKnownFamily, control);
     return control;
 }
 
-PictureControl readPictureControl(const QDomElement& element, FamilyCheck isKnownFamily)
+PictureControl readPictureControl(const Element& element, FamilyCheck isKnownFamily)
 {
     PictureControl control;
     readFields(element, PictureFields, isKnownFamily, control);
     return control;
 }
 
-TextControl readTextControl(const QDomElement& element, FamilyCheck isKnownFamily)
+TextControl readTextControl(const Element& element, FamilyCheck isKnownFamily)
 {
     TextControl control;
     readFields(element, TextFields, isKnownFamily, control);
@@ -259,7 +259,7 @@ Qt::Alignment alignmentFromCode(int code)
     }
 }
 
-ShapeControl readShapeControl(const QDomElement& element, FamilyCheck isKnownFamily)
+ShapeControl readShapeControl(const Element& element, FamilyCheck isKnownFamily)
 {
     ShapeControl control;
     readFields(element, ShapeFields, isKnownFamily, control);

@@ -69,17 +69,14 @@ struct ShapeControl
 };
 
 /// Each reads one kind of control. Missing child elements keep the defaults of the structure.
-[[nodiscard]] BarcodeControl readBarcodeControl(const QDomElement& element,
-                                                FamilyCheck isKnownFamily);
-[[nodiscard]] ListControl readListControl(const QDomElement& element, FamilyCheck isKnownFamily);
-[[nodiscard]] DateTimeControl readDateTimeControl(const QDomElement& element,
+[[nodiscard]] BarcodeControl readBarcodeControl(const Element& element, FamilyCheck isKnownFamily);
+[[nodiscard]] ListControl readListControl(const Element& element, FamilyCheck isKnownFamily);
+[[nodiscard]] DateTimeControl readDateTimeControl(const Element& element,
                                                   FamilyCheck isKnownFamily);
-[[nodiscard]] NumericControl readNumericControl(const QDomElement& element,
-                                                FamilyCheck isKnownFamily);
-[[nodiscard]] PictureControl readPictureControl(const QDomElement& element,
-                                                FamilyCheck isKnownFamily);
-[[nodiscard]] TextControl readTextControl(const QDomElement& element, FamilyCheck isKnownFamily);
-[[nodiscard]] ShapeControl readShapeControl(const QDomElement& element, FamilyCheck isKnownFamily);
+[[nodiscard]] NumericControl readNumericControl(const Element& element, FamilyCheck isKnownFamily);
+[[nodiscard]] PictureControl readPictureControl(const Element& element, FamilyCheck isKnownFamily);
+[[nodiscard]] TextControl readTextControl(const Element& element, FamilyCheck isKnownFamily);
+[[nodiscard]] ShapeControl readShapeControl(const Element& element, FamilyCheck isKnownFamily);
 
 /// The alignment of a stored code. Old labels depend on left and right having no vertical part.
 [[nodiscard]] Qt::Alignment alignmentFromCode(int code);

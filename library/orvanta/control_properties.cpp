@@ -11,18 +11,18 @@ namespace orvanta {
 
 namespace {
 
-void takeFamily(const QDomElement& child, FamilyCheck isKnownFamily, Font& font)
+void takeFamily(const Element& child, FamilyCheck isKnownFamily, Font& font)
 {
     const QString family = child.text();
     font.family = isKnownFamily(family) ? family : QString(FallbackFontFamily);
 }
 
-void takeSize(const QDomElement& child, FamilyCheck /*unused*/, Font& font)
+void takeSize(const Element& child, FamilyCheck /*unused*/, Font& font)
 {
     font.size = readDouble(child);
 }
 
-void takeStyle(const QDomElement& child, FamilyCheck /*unused*/, Font& font)
+void takeStyle(const Element& child, FamilyCheck /*unused*/, Font& font)
 {
     font.style = readInteger(child);
 }
@@ -33,38 +33,37 @@ constexpr Field<Font> FontFields[] = {
     {"style"_L1, takeStyle},
 };
 
-void takeText(const QDomElement& child, FamilyCheck /*unused*/, ControlProperties& properties)
+void takeText(const Element& child, FamilyCheck /*unused*/, ControlProperties& properties)
 {
     properties.text = child.text();
 }
 
-void takeTransparency(const QDomElement& child, FamilyCheck /*unused*/,
-                      ControlProperties& properties)
+void takeTransparency(const Element& child, FamilyCheck /*unused*/, ControlProperties& properties)
 {
     properties.transparent = readFlag(child);
 }
 
-void takeNegative(const QDomElement& child, FamilyCheck /*unused*/, ControlProperties& properties)
+void takeNegative(const Element& child, FamilyCheck /*unused*/, ControlProperties& properties)
 {
     properties.negative = readFlag(child);
 }
 
-void takeForeColor(const QDomElement& child, FamilyCheck /*unused*/, ControlProperties& properties)
+void takeForeColor(const Element& child, FamilyCheck /*unused*/, ControlProperties& properties)
 {
     properties.foreColor = colorFromInteger(readInteger(child));
 }
 
-void takeBackColor(const QDomElement& child, FamilyCheck /*unused*/, ControlProperties& properties)
+void takeBackColor(const Element& child, FamilyCheck /*unused*/, ControlProperties& properties)
 {
     properties.backColor = colorFromInteger(readInteger(child));
 }
 
-void takeBounds(const QDomElement& child, FamilyCheck /*unused*/, ControlProperties& properties)
+void takeBounds(const Element& child, FamilyCheck /*unused*/, ControlProperties& properties)
 {
     properties.bounds = readBounds(child);
 }
 
-void takeFont(const QDomElement& child, FamilyCheck isKnownFamily, ControlProperties& properties)
+void takeFont(const Element& child, FamilyCheck isKnownFamily, ControlProperties& properties)
 {
     const Font font = readFont(child, isKnownFamily);
     properties.fontFamily = font.family;
@@ -84,15 +83,14 @@ constexpr Field<ControlProperties> PrintableControlFields[] = {
 
 } // namespace
 
-Font readFont(const QDomElement& font, FamilyCheck isKnownFamily)
+Font readFont(const Element& font, FamilyCheck isKnownFamily)
 {
     Font result;
     readFields(font, FontFields, isKnownFamily, result);
     return result;
 }
 
-ControlProperties readControlProperties(const QDomElement& printableControl,
-                                        FamilyCheck isKnownFamily)
+ControlProperties readControlProperties(const Element& printableControl, FamilyCheck isKnownFamily)
 {
     ControlProperties properties;
     readFields(printableControl, PrintableControlFields, isKnownFamily, properties);

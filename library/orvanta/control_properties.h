@@ -41,7 +41,7 @@ struct Font
 
 /// Reads a `font` element; a missing value has its default. A family that the host cannot show
 /// becomes FallbackFontFamily.
-[[nodiscard]] Font readFont(const QDomElement& font, FamilyCheck isKnownFamily);
+[[nodiscard]] Font readFont(const Element& font, FamilyCheck isKnownFamily);
 
 /// The properties that all kinds of controls share.
 struct ControlProperties
@@ -65,7 +65,7 @@ struct ControlProperties
 };
 
 /// Reads a `printable_control` element; a missing value has its default.
-[[nodiscard]] ControlProperties readControlProperties(const QDomElement& printableControl,
+[[nodiscard]] ControlProperties readControlProperties(const Element& printableControl,
                                                       FamilyCheck isKnownFamily);
 
 /// The opaque color of 0xRRGGBB. Bits 24 to 31 are ignored: the source stores an alpha value there

@@ -6,14 +6,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace orvanta {
 
-int readInteger(const QDomElement& element)
+int readInteger(const Element& element)
 {
     bool isNumber = false;
     const int value = element.text().toInt(&isNumber, 10);
     return isNumber ? value : 0;
 }
 
-double readDouble(const QDomElement& element)
+double readDouble(const Element& element)
 {
     const QString text = element.text();
     if (const std::optional<double> plain = plainDecimal(text)) {
@@ -24,15 +24,15 @@ double readDouble(const QDomElement& element)
     return isNumber ? value : 0.0;
 }
 
-bool readFlag(const QDomElement& element)
+bool readFlag(const Element& element)
 {
     return element.text() == "true"_L1;
 }
 
-QStringList readTexts(const QDomElement& element)
+QStringList readTexts(const Element& element)
 {
     QStringList texts;
-    for (QDomElement child = element.firstChildElement(); !child.isNull();
+    for (Element child = element.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
         texts.append(child.text());
     }

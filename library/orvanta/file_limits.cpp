@@ -1,6 +1,5 @@
 #include "orvanta/file_limits.h"
 
-#include <QDomElement>
 #include <QFile>
 
 using namespace Qt::Literals::StringLiterals;
@@ -29,10 +28,10 @@ FileContent readWithinLimits(QFile& file)
     return content;
 }
 
-QString exceededLimit(const QDomElement& controls)
+QString exceededLimit(const Element& controls)
 {
     int count = 0;
-    for (QDomElement control = controls.firstChildElement(); !control.isNull();
+    for (Element control = controls.firstChildElement(); !control.isNull();
          control = control.nextSiblingElement()) {
         if (++count > MaximumControls) {
             return u"it has more than %1 objects"_s.arg(MaximumControls);

@@ -8,7 +8,7 @@
 #include "host/tal_canvas_model.h"
 #include "host/tal_datasource.h"
 #include "limits/file/special_file.h"
-#include "limits/xml/xml_limits.h"
+#include "limits/xml/element_tree.h"
 #include "messages/reader_messages.h"
 #include "messages/refusals.h"
 #include "orvanta/control_kinds.h"
@@ -27,8 +27,12 @@
 using namespace Qt::Literals::StringLiterals;
 
 using orvanta::ControlProperties;
+using orvanta::Element;
 
 namespace {
+
+// The signature is from when labels were document trees: old log filters depend on it.
+constexpr char ReadControls[] = "void LegacyOrvanta::readControls(QDomElement)";
 
 CuteMessageLogger debugLog(int line, const char* function, const char* code = nullptr)
 {
@@ -63,9 +67,8 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
                    content.refusal.toLocal8Bit().constData());
         return false;
     }
-    QDomDocument document;
-    if (const auto failure =
-            xmllimits::parseDocument(content.bytes, document, orvanta::MaximumTreeBytes)) {
+    xmllimits::ElementTree document;
+    if (const auto failure = document.parse(content.bytes, orvanta::MaximumTreeBytes)) {
         debugLog(__LINE__, Q_FUNC_INFO)
             .write(messages::ParsingFailed, printableName.constData(), failure->line,
                    failure->column, failure->message.toLocal8Bit().constData());
@@ -73,7 +76,7 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     }
     file.close();
     content.bytes.clear();
-    const QDomElement root = document.documentElement();
+    const Element root = document.documentElement();
     if (root.tagName() != "qmtx"_L1) {
         debugLog(__LINE__, Q_FUNC_INFO).write(messages::RootElementUnknown);
         return false;
@@ -89,23 +92,23 @@ bool LegacyOrvanta::importLabelFromFile(const QString& fileName)
     return true;
 }
 
-void LegacyOrvanta::readLabel(const QDomElement& root)
+void LegacyOrvanta::readLabel(const Element& root)
 {
     m_pixelsLeft = orvanta::MaximumLabelPixels;
     const orvanta::LabelPage page = orvanta::readLabelPage(root);
     m_canvasModel->importCanvasParameters(page.width, page.height, false, page.higherThanWide);
-    const QDomElement image = root.firstChildElement(u"pre_printed_image"_s);
+    const Element image = root.firstChildElement(u"pre_printed_image"_s);
     if (!image.isNull()) {
         readPrePrintedImage(image, page);
     }
-    const QDomElement controls = root.firstChildElement(u"controls"_s);
+    const Element controls = root.firstChildElement(u"controls"_s);
     if (!controls.isNull()) {
-        readControls(controls);
+        buildControls(controls);
     }
     m_canvasModel->completeCanvasLoading();
 }
 
-void LegacyOrvanta::readPrePrintedImage(const QDomElement& image, const orvanta::LabelPage& page)
+void LegacyOrvanta::readPrePrintedImage(const Element& image, const orvanta::LabelPage& page)
 {
     const QByteArray bytes = orvanta::readPictureContent(image);
     if (bytes.isEmpty()) {
@@ -122,10 +125,16 @@ void LegacyOrvanta::readPrePrintedImage(const QDomElement& image, const orvanta:
 
 void LegacyOrvanta::readControls(QDomElement controls)
 {
+    const xmllimits::ElementTree tree(controls);
+    buildControls(tree.documentElement());
+}
+
+void LegacyOrvanta::buildControls(const Element& controls)
+{
     struct ControlReader
     {
         QLatin1String tag;
-        void (LegacyOrvanta::*read)(const QDomElement&);
+        void (LegacyOrvanta::*read)(const Element&);
     };
     static constexpr ControlReader Readers[] = {
         {"barcode"_L1, &LegacyOrvanta::readBarcode},
@@ -138,35 +147,35 @@ void LegacyOrvanta::readControls(QDomElement controls)
         {"transparent_shape"_L1, &LegacyOrvanta::readShape},
         {"transparent_polygon"_L1, &LegacyOrvanta::readShape},
     };
-    for (QDomElement control = controls.firstChildElement(); !control.isNull();
+    for (Element control = controls.firstChildElement(); !control.isNull();
          control = control.nextSiblingElement()) {
         const QString tag = control.tagName();
         const auto* reader =
             std::find_if(std::begin(Readers), std::end(Readers),
                          [&tag](const ControlReader& known) { return tag == known.tag; });
         if (reader == std::end(Readers)) {
-            debugLog(__LINE__, Q_FUNC_INFO).write() << messages::ControlUnknown << tag;
+            debugLog(__LINE__, ReadControls).write() << messages::ControlUnknown << tag;
             continue;
         }
         (this->*reader->read)(control);
     }
 }
 
-void LegacyOrvanta::readBarcode(const QDomElement& element)
+void LegacyOrvanta::readBarcode(const Element& element)
 {
     const auto control = orvanta::readBarcodeControl(element, CommonLists::isValidFamily);
     BarcodeItem* item = buildBarcode(control.hostType, control.properties);
     bindTextList(item, control.texts);
 }
 
-void LegacyOrvanta::readList(const QDomElement& element)
+void LegacyOrvanta::readList(const Element& element)
 {
     const auto control = orvanta::readListControl(element, CommonLists::isValidFamily);
     TextItem* item = buildText(true, control.properties);
     bindTextList(item, control.entries);
 }
 
-void LegacyOrvanta::readDateTime(const QDomElement& element)
+void LegacyOrvanta::readDateTime(const Element& element)
 {
     const auto control = orvanta::readDateTimeControl(element, CommonLists::isValidFamily);
     TextItem* item = buildText(true, control.properties);
@@ -176,7 +185,7 @@ void LegacyOrvanta::readDateTime(const QDomElement& element)
         {{u"DateFormat"_s, control.formats.value(0)}, {u"TimeFormat"_s, control.formats.value(1)}});
 }
 
-void LegacyOrvanta::readNumeric(const QDomElement& element)
+void LegacyOrvanta::readNumeric(const Element& element)
 {
     const auto control = orvanta::readNumericControl(element, CommonLists::isValidFamily);
     TextItem* item = buildText(true, control.properties);
@@ -189,7 +198,7 @@ void LegacyOrvanta::readNumeric(const QDomElement& element)
     }
 }
 
-void LegacyOrvanta::readPicture(const QDomElement& element)
+void LegacyOrvanta::readPicture(const Element& element)
 {
     const auto control = orvanta::readPictureControl(element, CommonLists::isValidFamily);
     if (!control.bytes.isEmpty()) {
@@ -197,7 +206,7 @@ void LegacyOrvanta::readPicture(const QDomElement& element)
     }
 }
 
-void LegacyOrvanta::readText(const QDomElement& element)
+void LegacyOrvanta::readText(const Element& element)
 {
     const auto control = orvanta::readTextControl(element, CommonLists::isValidFamily);
     TextItem* item = buildText(control.scaleable, control.properties);
@@ -207,7 +216,7 @@ void LegacyOrvanta::readText(const QDomElement& element)
     }
 }
 
-void LegacyOrvanta::readShape(const QDomElement& element)
+void LegacyOrvanta::readShape(const Element& element)
 {
     const auto control = orvanta::readShapeControl(element, CommonLists::isValidFamily);
     // The host's pen width has 16 bits: larger widths wrap modulo 65536.

@@ -24,6 +24,10 @@ struct ControlProperties;
 struct LabelPage;
 } // namespace orvanta
 
+namespace xmllimits {
+class Element;
+} // namespace xmllimits
+
 /// Reads labels of the XML format (*.qmtx) into the host's canvas.
 ///
 /// A reader can import any number of files, one after the other, and keeps nothing of a file. It
@@ -55,16 +59,17 @@ private:
         QVariant value;
     };
 
-    void readLabel(const QDomElement& root);
-    void readPrePrintedImage(const QDomElement& image, const orvanta::LabelPage& page);
+    void readLabel(const xmllimits::Element& root);
+    void buildControls(const xmllimits::Element& controls);
+    void readPrePrintedImage(const xmllimits::Element& image, const orvanta::LabelPage& page);
 
-    void readBarcode(const QDomElement& element);
-    void readList(const QDomElement& element);
-    void readDateTime(const QDomElement& element);
-    void readNumeric(const QDomElement& element);
-    void readPicture(const QDomElement& element);
-    void readText(const QDomElement& element);
-    void readShape(const QDomElement& element);
+    void readBarcode(const xmllimits::Element& element);
+    void readList(const xmllimits::Element& element);
+    void readDateTime(const xmllimits::Element& element);
+    void readNumeric(const xmllimits::Element& element);
+    void readPicture(const xmllimits::Element& element);
+    void readText(const xmllimits::Element& element);
+    void readShape(const xmllimits::Element& element);
 
     // Each creates an item, gives it to the canvas, which then owns it, and sets it up. Null if
     // there is no item.

@@ -1,7 +1,5 @@
 #include "orvanta/page_geometry.h"
 
-#include "orvanta/elements.h"
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace orvanta {
@@ -10,7 +8,7 @@ namespace {
 
 // A position within the margin becomes the label's edge. Old labels depend on the opposite edge
 // staying in place.
-void takeLeft(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectangle)
+void takeLeft(const Element& child, FamilyCheck /*unused*/, QRectF& rectangle)
 {
     const double x = readDouble(child);
     if (x > CanvasMargin) {
@@ -18,7 +16,7 @@ void takeLeft(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectangl
     }
 }
 
-void takeTop(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectangle)
+void takeTop(const Element& child, FamilyCheck /*unused*/, QRectF& rectangle)
 {
     const double y = readDouble(child);
     if (y > CanvasMargin) {
@@ -26,12 +24,12 @@ void takeTop(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectangle
     }
 }
 
-void takeWidth(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectangle)
+void takeWidth(const Element& child, FamilyCheck /*unused*/, QRectF& rectangle)
 {
     rectangle.setWidth(readDouble(child) * PointsPerPixel);
 }
 
-void takeHeight(const QDomElement& child, FamilyCheck /*unused*/, QRectF& rectangle)
+void takeHeight(const Element& child, FamilyCheck /*unused*/, QRectF& rectangle)
 {
     rectangle.setHeight(readDouble(child) * PointsPerPixel);
 }
@@ -45,16 +43,16 @@ constexpr Field<QRectF> BoundsFields[] = {
 
 } // namespace
 
-QRectF readBounds(const QDomElement& bounds)
+QRectF readBounds(const Element& bounds)
 {
     QRectF rectangle;
     readFields(bounds, BoundsFields, nullptr, rectangle);
     return rectangle;
 }
 
-LabelPage readLabelPage(const QDomElement& root)
+LabelPage readLabelPage(const Element& root)
 {
-    const QDomElement bounds =
+    const Element bounds =
         root.firstChildElement(u"printable_control"_s).firstChildElement(u"bounds"_s);
     if (bounds.isNull()) {
         return {};

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QRectF>
+#include "orvanta/elements.h"
 
-class QDomElement;
+#include <QRectF>
 
 /// Positions and sizes on the page.
 namespace orvanta {
@@ -18,7 +18,7 @@ inline constexpr double CanvasMargin = 200.0;
 /// The children change the edges of a rectangle in document order. The rectangle is first empty,
 /// at the corner. `x` and `y` move one edge, so they reduce a width or height before them, and a
 /// width or height after them moves the other edge.
-[[nodiscard]] QRectF readBounds(const QDomElement& bounds);
+[[nodiscard]] QRectF readBounds(const Element& bounds);
 
 /// The page of a label, in points. The default is six by four inches.
 struct LabelPage
@@ -29,6 +29,6 @@ struct LabelPage
 };
 
 /// Reads the page from the `printable_control` of the root element.
-[[nodiscard]] LabelPage readLabelPage(const QDomElement& root);
+[[nodiscard]] LabelPage readLabelPage(const Element& root);
 
 } // namespace orvanta

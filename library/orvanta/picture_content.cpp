@@ -1,7 +1,5 @@
 #include "orvanta/picture_content.h"
 
-#include <QDomElement>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace orvanta {
@@ -16,7 +14,7 @@ constexpr const char* SerializerLeftovers[] = {"d1p1:", ":d1p1", "viewBox=\"0, 0
 
 } // namespace
 
-QByteArray readPictureContent(const QDomElement& parent)
+QByteArray readPictureContent(const Element& parent)
 {
     const QString text = parent.firstChildElement(u"content"_s).text();
     return QByteArray::fromBase64(text.toUtf8());

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QByteArray>
+#include "orvanta/elements.h"
 
-class QDomElement;
+#include <QByteArray>
 
 /// The bytes of an embedded picture.
 namespace orvanta {
 
 /// The bytes in the first `content` child of an element, decoded from base64. Characters that are
 /// not base64 are skipped; empty if nothing is left.
-[[nodiscard]] QByteArray readPictureContent(const QDomElement& parent);
+[[nodiscard]] QByteArray readPictureContent(const Element& parent);
 
 /// The bytes without a leading UTF-8 byte-order mark.
 [[nodiscard]] QByteArray withoutByteOrderMark(QByteArray bytes);

@@ -14,7 +14,7 @@ constexpr char TurnsAndText[] = "<rotation>30</rotation>"
                                 "<printable_control><text>t</text></printable_control>";
 
 template <typename Control>
-Control decode(Control (*read)(const QDomElement&, orvanta::FamilyCheck),
+Control decode(Control (*read)(const orvanta::Element&, orvanta::FamilyCheck),
                const QByteArray& children)
 {
     const QByteArray xml = "<control>" + children + "</control>";

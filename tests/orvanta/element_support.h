@@ -1,8 +1,8 @@
 #pragma once
 
+#include "orvanta/elements.h"
 #include "tests/orvanta/printing.h"
 
-#include <QDomDocument>
 #include <QString>
 
 #include <ostream>
@@ -15,11 +15,11 @@ class ParsedElement
 {
 public:
     /// Parses XML text; the root element is the one under test.
-    explicit ParsedElement(const char* xml) { m_document.setContent(QByteArray(xml)); }
-    [[nodiscard]] QDomElement element() const { return m_document.documentElement(); }
+    explicit ParsedElement(const char* xml) { (void)m_document.parse(QByteArray(xml)); }
+    [[nodiscard]] orvanta::Element element() const { return m_document.documentElement(); }
 
 private:
-    QDomDocument m_document;
+    xmllimits::ElementTree m_document;
 };
 
 /// A host that has Arial and Courier New.

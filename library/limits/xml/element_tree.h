@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+class QDomElement;
+
 namespace xmllimits {
 
 class Element;
@@ -85,6 +87,10 @@ private:
 class ElementTree
 {
 public:
+    ElementTree() = default;
+    /// A copy of an element and all that it contains; an empty tree of a null element.
+    explicit ElementTree(const QDomElement& root);
+
     /// Reads a document, after checking the bounds. External entities are never loaded.
     ///
     /// @param bytes     the document in any encoding that its declaration names

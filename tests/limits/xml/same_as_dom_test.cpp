@@ -215,6 +215,22 @@ QByteArray mutated(QByteArray xml, QRandomGenerator& random)
 
 } // namespace
 
+// A host may have parsed the document itself.
+TEST(ElementTree, CopiesAnElementOfQtsTree)
+{
+    for (const QByteArray& xml : documents()) {
+        QDomDocument document;
+        if (!document.setContent(xml)) {
+            continue;
+        }
+        const ElementTree copy(document.documentElement());
+        QString contents;
+        describe(xmllimits::Node(copy.documentElement()), contents);
+        EXPECT_EQ(contents, outcomeOfDom(xml).contents) << xml.toStdString();
+    }
+    EXPECT_TRUE(ElementTree(QDomElement()).documentElement().isNull());
+}
+
 TEST(SameAsDom, ForDocumentsOfAllKinds)
 {
     for (const QByteArray& xml : documents()) {
