@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace repair {
 
 namespace {
@@ -85,9 +87,18 @@ QString Builder::shared(QStringView name)
     return *m_names.insert(name.toString());
 }
 
+bool isEscaped(QChar character)
+{
+    return character <= u'>' && QStringView(u"<>&\"\r\n\t").contains(character);
+}
+
 // Blanks that a parser would change are written as references.
 QString escaped(const QString& text, bool isValue)
 {
+    // As most texts are. The functions below take each character separately.
+    if (std::none_of(text.begin(), text.end(), isEscaped)) {
+        return text;
+    }
     QString safe = text.toHtmlEscaped();
     safe.replace(u'\r', "&#13;"_L1);
     if (isValue) {

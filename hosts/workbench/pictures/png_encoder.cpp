@@ -20,6 +20,9 @@ namespace {
 constexpr int CompressionLevel = 3;
 constexpr png_size_t PieceBytes = 1 << 16;
 constexpr int BitsPerSample = 8;
+// Rows in the order of the file's bytes at a time. Qt converts many pixels with one instruction,
+// libpng each byte of a row.
+constexpr int BandRows = 32;
 // The format's own limit.
 constexpr qsizetype MaximumKeyCharacters = 79;
 
@@ -92,7 +95,24 @@ struct PngContent
         return hasTable() ? bits : BitsPerSample;
     }
 
+    /// A row in the order of the file's bytes; rows are taken from top to bottom.
+    [[nodiscard]] const uchar* row(int y)
+    {
+        if (hasTable()) {
+            return image.constScanLine(y);
+        }
+        if (y % BandRows == 0) {
+            const int rows = std::min(BandRows, image.height() - y);
+            const QImage part(image.constScanLine(y), image.width(), rows, image.bytesPerLine(),
+                              image.format());
+            band = part.convertToFormat(image.hasAlphaChannel() ? QImage::Format_RGBA8888
+                                                                : QImage::Format_RGB888);
+        }
+        return band.isNull() ? nullptr : band.constScanLine(y % BandRows);
+    }
+
     QImage image;
+    QImage band;
     QList<Text> texts;
     std::vector<png_color> colors;
     std::vector<png_byte> alphas;
@@ -142,34 +162,20 @@ void writeHead(png_structp png, png_infop info, const PngContent& content)
     png_write_info(png, info);
 }
 
-// From the order of a color's bytes in memory to that of the file.
-void orderBytes(png_structp png, const PngContent& content)
-{
-    constexpr bool isLittleEndian = Q_BYTE_ORDER == Q_LITTLE_ENDIAN;
-    if (content.hasTable()) {
-        png_set_packing(png);
-        return;
-    }
-    if (isLittleEndian) {
-        png_set_bgr(png);
-    }
-    if (content.colorType() == PNG_COLOR_TYPE_RGB) {
-        png_set_filler(png, 0, isLittleEndian ? PNG_FILLER_AFTER : PNG_FILLER_BEFORE);
-    } else if (!isLittleEndian) {
-        png_set_swap_alpha(png);
-    }
-}
-
 // No object with a destructor may live here or in a function that libpng calls.
-bool writeContent(png_structp png, png_infop info, const PngContent& content)
+bool writeContent(png_structp png, png_infop info, PngContent& content)
 {
     if (setjmp(png_jmpbuf(png)) != 0) {
         return false;
     }
     writeHead(png, info, content);
-    orderBytes(png, content);
+    png_set_packing(png);
     for (int y = 0; y < content.image.height(); ++y) {
-        png_write_row(png, content.image.constScanLine(y));
+        const uchar* row = content.row(y);
+        if (row == nullptr) {
+            return false; // no memory
+        }
+        png_write_row(png, row);
     }
     png_write_end(png, nullptr);
     return true;
@@ -179,7 +185,7 @@ bool writeContent(png_structp png, png_infop info, const PngContent& content)
 
 bool encodePng(const QImage& image, QIODevice& device)
 {
-    const PngContent content(compactImage(image));
+    PngContent content(compactImage(image));
     png_structp png =
         content.image.isNull()
             ? nullptr
