@@ -140,6 +140,26 @@ TEST(CheckOverlap, AcceptsShapesThatAreOverEachOtherInTheDocument)
               QStringList());
 }
 
+// The text is longer than its shape, in the document as well. In another font it may be longer.
+TEST(CheckOverlap, AcceptsTextsThatAreTooLongForTheirShapes)
+{
+    const auto textsIn = [](const char* family) {
+        const QByteArray narrow = "<draw:rect draw:style-name=\"T\" " +
+                                  placeOf(0.5, 0.5, 0.5, 0.25) +
+                                  "><text:p>Temperature</text:p></draw:rect>";
+        const QByteArray below = "<draw:rect draw:style-name=\"T\" " +
+                                 placeOf(0.5, 0.7, 0.5, 0.25) +
+                                 "><text:p>Humidity</text:p></draw:rect>";
+        return overlapsOf(
+            odg(narrow + below,
+                {.automaticStyles = "<style:style style:name=\"T\" style:family=\"graphic\">"
+                                    "<style:text-properties fo:font-family=\"" +
+                                    QByteArray(family) + "\"/></style:style>"}));
+    };
+    EXPECT_EQ(textsIn("Liberation Sans"), QStringList());
+    EXPECT_EQ(textsIn("No Such Font"), QStringList{u"Humidity"_s});
+}
+
 // Readers turn a shape about its center: it gets to another place, and over another shape.
 TEST(CheckOverlap, FindsATextThatMovedOverAnother)
 {
@@ -157,9 +177,9 @@ TEST(CheckOverlap, FindsOnlyWhatIsVisible)
 {
     const QPolygonF line = inkAt(10, 100, 200, 10);
     // Lines that are set closely; letters that reach into the next run.
-    EXPECT_EQ(countOver({line, inkAt(10, 108.5, 200, 10)}), 0);
+    EXPECT_EQ(countOver({line, inkAt(10, 109, 200, 10)}), 0);
     EXPECT_EQ(countOver({line, inkAt(207, 100, 100, 10)}), 0);
-    EXPECT_EQ(countOver({line, inkAt(10, 107, 200, 10)}), 1);
+    EXPECT_EQ(countOver({line, inkAt(10, 108.5, 200, 10)}), 1);
     EXPECT_EQ(countOver({line, inkAt(200, 100, 100, 10)}), 1);
     // One letter, and a text that is turned.
     EXPECT_EQ(countOver({line, inkAt(50, 101, 4, 9)}), 1);

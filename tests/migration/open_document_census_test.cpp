@@ -283,3 +283,34 @@ TEST(OpenDocumentCensus, KnowsNoPlaceOnFurtherPagesAndOfUnknownLengths)
         EXPECT_FALSE(census.objects.constLast().place.has_value()) << shapes;
     }
 }
+
+TEST(OpenDocumentCensus, DoesNotCountWhatTheDocumentHides)
+{
+    const Census census = countOpenDocument(
+        textOf("<text:section text:display=\"none\"><text:p>Hidden</text:p></text:section>"
+               "<text:section text:display=\"condition\" text:is-hidden=\"true\"><text:p>Hidden"
+               "</text:p></text:section><text:p>Shown<text:hidden-text text:is-hidden=\"true\">not"
+               "</text:hidden-text><text:hidden-text text:is-hidden=\"false\">too"
+               "</text:hidden-text></text:p>"));
+    ASSERT_EQ(census.objects.size(), 2);
+    EXPECT_EQ(census.paragraphs, QStringList{QStringLiteral("Showntoo")});
+}
+
+TEST(OpenDocumentCensus, FindsSectionsThatDoNotLookLikePlainText)
+{
+    const auto effects = [](const QByteArray& properties) {
+        const Census census = countOpenDocument(
+            textOf("<text:section text:style-name=\"S\" text:name=\"Notes\"><text:section "
+                   "text:style-name=\"S\"><text:p>Text</text:p></text:section></text:section>",
+                   {.automaticStyles =
+                        styleOf("S", "section", "<style:section-properties " + properties)}));
+        const auto tally = census.tallies.find(LossKind::TextEffect);
+        return tally != census.tallies.end() ? tally->second.count : 0;
+    };
+    EXPECT_EQ(effects("fo:background-color=\"#e0e0e0\"/>"), 2);
+    EXPECT_EQ(effects("fo:margin-left=\"0.4in\"/>"), 2);
+    EXPECT_EQ(effects("><style:columns fo:column-count=\"2\"/></style:section-properties>"), 2);
+    EXPECT_EQ(effects("fo:background-color=\"transparent\" fo:margin-left=\"0in\"><style:columns "
+                      "fo:column-count=\"1\"/></style:section-properties>"),
+              0);
+}

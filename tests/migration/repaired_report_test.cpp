@@ -55,3 +55,17 @@ TEST(RepairedReport, ATextOfSeveralPagesIsComplete)
     EXPECT_EQ(report.objects.imported, 3);
     EXPECT_EQ(verdictOf(report), Verdict::Complete) << codesOf(report).toStdString();
 }
+
+// Unlike a frame, a shape of a text is filled unless its style says otherwise.
+TEST(RepairedReport, AShapeOfATextIsFilledByDefault)
+{
+    const FileReport report = repairedReport(
+        odt("<text:p>Text<draw:rect text:anchor-type=\"paragraph\" draw:style-name=\"F\" "
+            "svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" svg:height=\"1in\"/></text:p>",
+            {.automaticStyles = "<style:style style:name=\"F\" style:family=\"graphic\">"
+                                "<style:graphic-properties draw:fill-color=\"#ffde21\"/>"
+                                "</style:style>"}));
+    EXPECT_EQ(report.objects.imported, 2);
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::FillAdded)), nullptr)
+        << codesOf(report).toStdString();
+}

@@ -5,6 +5,7 @@
 #include "host/items/rich_text_item.h"
 #include "repair/repaired_import.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -150,4 +151,27 @@ TEST(TextDocument, HasNoHiddenText)
         }
     }
     EXPECT_EQ(texts.join(u'|'), u"shown and five|cell"_s);
+}
+
+TEST(TextDocument, LinksHaveTheStyleOfLinks)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles>"
+        "<style:style style:name=\"Internet_20_link\" style:family=\"text\"><style:text-properties "
+        "fo:color=\"#000080\"/></style:style><style:style style:name=\"own\" style:family=\"text\">"
+        "<style:text-properties fo:color=\"#ff0000\"/></style:style></office:automatic-styles>"
+        "<office:body><office:text><text:p>Links: <text:a xlink:href=\"x\">plain</text:a>, "
+        "<text:a text:style-name=\"own\" xlink:href=\"x\">own</text:a></text:p>"
+        "</office:text></office:body></office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+    ASSERT_TRUE(import.isRepaired());
+    // The first item is from the master page.
+    ASSERT_EQ(import.result.canvas->items().size(), 2);
+    const workbench::ItemValues values = import.result.canvas->items().constLast()->values();
+    for (const char* pattern : {"color:#000080[^>]*>plain<", "color:#ff0000[^>]*>own<"}) {
+        const QRegularExpression link(QString::fromLatin1(pattern));
+        EXPECT_TRUE(link.match(values.text->html).hasMatch()) << values.text->html.toStdString();
+    }
 }

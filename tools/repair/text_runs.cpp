@@ -39,7 +39,7 @@ constexpr QLatin1StringView Skipped[] = {"office:annotation"_L1,
                                          "office:event-listeners"_L1,
                                          "text:index-title-template"_L1};
 constexpr QLatin1StringView Transparent[] = {"text:meta"_L1, "text:ruby"_L1, "text:ruby-base"_L1,
-                                             "text:a"_L1, "text:meta-field"_L1};
+                                             "text:meta-field"_L1};
 // What a character style states that shows.
 constexpr QLatin1StringView TextNames[] = {"fo:font-size"_L1,
                                            "style:font-name"_L1,
@@ -134,6 +134,8 @@ void RunReader::readElement(const Node& element, const StyleProperties& style, i
         }
         m_counts.fields += depth > 1 ? 1 : 0;
         readInside(element, inner, depth);
+    } else if (element.is(u"text:a")) {
+        readLink(element, style, depth);
     } else if (element.is(u"text:s")) {
         const int count =
             element.hasAttribute(u"text:c") ? element.attribute(u"text:c").toInt() : 1;
@@ -156,6 +158,17 @@ void RunReader::readElement(const Node& element, const StyleProperties& style, i
         m_counts.fields += contains(Transparent, element.name) || !element.children.empty() ? 1 : 0;
         readInside(element, style, depth);
     }
+}
+
+// Office programs give links a style of their own, even if the link does not name it.
+void RunReader::readLink(const Node& link, const StyleProperties& style, int depth)
+{
+    const QString named = link.attribute(u"text:style-name");
+    StyleProperties inner = style;
+    inner.overlay(m_document.table().resolved(
+        u"text"_s, named.isEmpty() ? u"Internet_20_link"_s : named, false));
+    ++m_counts.fields;
+    readInside(link, inner, depth);
 }
 
 void RunReader::readNote(const Node& note, const StyleProperties& style)

@@ -49,6 +49,7 @@ public:
 private:
     void readInside(const Node& parent, const StyleProperties& style, int depth);
     void readElement(const Node& element, const StyleProperties& style, int depth);
+    void readLink(const Node& link, const StyleProperties& style, int depth);
     void readNote(const Node& note, const StyleProperties& style);
     void addText(const QString& text, const StyleProperties& style);
     void add(const QString& text, const StyleProperties& style);

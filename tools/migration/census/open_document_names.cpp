@@ -187,6 +187,14 @@ bool isSpacing(const QString& name)
     return name == "text:s"_L1 || name == "text:tab"_L1 || name == "text:line-break"_L1;
 }
 
+bool isHidden(const QString& name, const QXmlStreamAttributes& attributes)
+{
+    const QStringView display = attributes.value("text:display"_L1);
+    const bool hasCondition = display == "condition"_L1 || name.startsWith("text:hidden-"_L1);
+    return display == "none"_L1 ||
+           (hasCondition && attributes.value("text:is-hidden"_L1) == "true"_L1);
+}
+
 bool isDateOrTime(const QString& name)
 {
     return name == "text:date"_L1 || name == "text:time"_L1;

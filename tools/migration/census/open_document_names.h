@@ -46,6 +46,8 @@ struct DrawingElement
 
 /// Blanks, tabs and line ends that are elements.
 [[nodiscard]] bool isSpacing(const QString& name);
+/// Whether the document hides an element: a section, a field or a text.
+[[nodiscard]] bool isHidden(const QString& name, const QXmlStreamAttributes& attributes);
 /// The fields that the reader imports.
 [[nodiscard]] bool isDateOrTime(const QString& name);
 [[nodiscard]] bool isAnimation(const QString& name);

@@ -38,7 +38,8 @@ QColor StyleBook::colorOf(const QString& text, const QString& paragraph, const Q
     return color == AutomaticColor ? QColor() : QColor(color);
 }
 
-void StyleBook::describeShape(const QString& style, bool isInText, Appearance& appearance) const
+void StyleBook::describeShape(const QString& style, bool isInText, bool isFrame,
+                              Appearance& appearance) const
 {
     const QString fill = shapeValue(&Style::fill, style);
     const QColor background(shapeValue(&Style::background, style));
@@ -47,7 +48,7 @@ void StyleBook::describeShape(const QString& style, bool isInText, Appearance& a
     } else if (fill.isEmpty() && background.isValid()) {
         appearance.fill = background;
     }
-    if (!fill.isEmpty() || background.isValid() || isInText) {
+    if (!fill.isEmpty() || background.isValid() || (isInText && isFrame)) {
         appearance.isFilled = background.isValid() || (!fill.isEmpty() && fill != "none"_L1);
     }
     const QString stroke = shapeValue(&Style::stroke, style);

@@ -136,7 +136,9 @@ bool isTextFamily(const QString& family)
 
 void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes)
 {
-    if (name == "style:font-face"_L1) {
+    if (name == "style:page-layout"_L1) {
+        m_sectionName.clear();
+    } else if (name == "style:font-face"_L1) {
         m_faces.insert(valueOf(attributes, "style:name"_L1),
                        firstFamily(valueOf(attributes, "svg:font-family"_L1)));
     } else if (name == "style:style"_L1 || name == "style:default-style"_L1) {
@@ -153,6 +155,24 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
         takeProperties(u"paragraph"_s, attributes);
     } else if (name == "style:graphic-properties"_L1) {
         takeProperties(u"graphic"_s, attributes);
+    } else if (!m_sectionName.isEmpty()) {
+        takeSection(name, attributes);
+    }
+}
+
+void StyleBook::takeSection(const QString& name, const QXmlStreamAttributes& attributes)
+{
+    bool isShown = false;
+    if (name == "style:section-properties"_L1) {
+        const QString background = valueOf(attributes, "fo:background-color"_L1);
+        isShown = (!background.isEmpty() && background != "transparent"_L1) ||
+                  isNonZero(valueOf(attributes, "fo:margin-left"_L1)) ||
+                  isNonZero(valueOf(attributes, "fo:margin-right"_L1));
+    } else if (name == "style:columns"_L1) {
+        isShown = attributes.value("fo:column-count"_L1).toInt() > 1;
+    }
+    if (isShown) {
+        m_sections.insert(m_sectionName);
     }
 }
 
@@ -161,6 +181,7 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
     m_isInList = false;
     const QString family = valueOf(attributes, "style:family"_L1);
     const QString name = valueOf(attributes, "style:name"_L1);
+    m_sectionName = family == "section"_L1 ? name : QString();
     const QString parent = valueOf(attributes, "style:parent-style-name"_L1);
     if (isTextFamily(family)) {
         // A parent must precede its styles.
@@ -254,6 +275,11 @@ LossSet StyleBook::shapeTextChanges(const QString& style) const
     LossSet changes = changesOf(shapeStyle(style).dropped, Target::ShapeText);
     changes.add(changesOf(shapeStyle(style).dropped, Target::Text));
     return changes;
+}
+
+bool StyleBook::changesSection(const QString& style) const
+{
+    return m_sections.contains(style);
 }
 
 bool StyleBook::sizesText(const QString& style) const

@@ -4,6 +4,7 @@
 #include "migration/model/census.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QXmlStreamAttributes>
 
@@ -32,12 +33,16 @@ public:
     [[nodiscard]] QColor colorOf(const QString& text, const QString& paragraph,
                                  const QString& shape) const;
     /// Fill and pen of a shape in this style.
-    void describeShape(const QString& style, bool isInText, Appearance& appearance) const;
+    /// @param isFrame a frame of a text has no fill by default, unlike a shape
+    void describeShape(const QString& style, bool isInText, bool isFrame,
+                       Appearance& appearance) const;
     /// What changes on a shape in this style.
     [[nodiscard]] LossSet shapeChanges(const QString& style) const;
     /// What changes on the text of a shape in this style: labels take nothing about texts
     /// from the styles of shapes.
     [[nodiscard]] LossSet shapeTextChanges(const QString& style) const;
+    /// Whether a style gives a section a background, margins or columns, which labels do not show.
+    [[nodiscard]] bool changesSection(const QString& style) const;
     /// Whether a style gives texts the size of their letters.
     [[nodiscard]] bool sizesText(const QString& style) const;
     [[nodiscard]] bool sizesShapeText(const QString& style) const;
@@ -72,6 +77,7 @@ private:
     [[nodiscard]] Style& current();
     [[nodiscard]] const Style& textStyle(const QString& name) const;
     [[nodiscard]] const Style& shapeStyle(const QString& name) const;
+    void takeSection(const QString& name, const QXmlStreamAttributes& attributes);
     void startStyle(const QXmlStreamAttributes& attributes, bool isDefault);
     void takeProperties(const QString& group, const QXmlStreamAttributes& attributes);
     [[nodiscard]] QString firstOf(QString Style::*value, const QString& text,
@@ -80,6 +86,8 @@ private:
 
     QHash<QString, Style> m_texts;
     QHash<QString, Style> m_shapes;
+    QString m_sectionName;    ///< of the style that is read; empty if it is not one of a section
+    QSet<QString> m_sections; ///< with a background, margins or columns
     QHash<QString, QString> m_faces; ///< families by the names of their declarations
     Style m_defaultText;
     Style m_defaultShape;

@@ -55,6 +55,9 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
 
 void OpenDocumentWalker::openChild(const QString& name, const Attributes& attributes)
 {
+    if (isHidden(name, attributes)) {
+        return push(Spot::Ignored);
+    }
     if (isSpacing(name)) {
         takeText(spacingOf(name, attributes));
     } else if (isParagraph(name)) {
@@ -118,6 +121,7 @@ void OpenDocumentWalker::openInRunningText(const QString& name, const Attributes
     } else if (name == "draw:g"_L1 || drawingElement(name) != nullptr) {
         openLost(LossKind::ShapeInText, name, attributes);
     } else {
+        noteSection(name, attributes);
         openLostPart(name, LossKind::TextElement);
     }
 }

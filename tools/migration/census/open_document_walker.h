@@ -108,6 +108,7 @@ private:
     void openShapeParagraph(const Attributes& attributes);
     void openLostPart(const QString& name, LossKind otherwise);
     void openLost(LossKind kind, const QString& name, const Attributes& attributes = {});
+    void noteSection(const QString& name, const Attributes& attributes);
     void openIgnored(const QString& name);
     void push(Spot spot);
     void addLost(CountedObject object, const std::optional<QRectF>& box);

@@ -13,7 +13,7 @@ qsizetype OpenDocumentWalker::addAppearance(const QString& name, const Attribute
 {
     Appearance appearance;
     m_styles.describeShape(attributes.value("draw:style-name"_L1).toString(), m_pages == 0,
-                           appearance);
+                           name == "draw:frame"_L1, appearance);
     const bool isPlaced = m_pages > 0 || attributes.value("text:anchor-type"_L1) == "page"_L1;
     // A dimension line is drawn beside its ends.
     if (isPlaced && name != "draw:measure"_L1) {
@@ -52,6 +52,7 @@ qsizetype OpenDocumentWalker::addTextAppearance(const Place& look, QString text)
     appearance.families = look.families;
     appearance.families.removeAll(QString());
     appearance.textColor = look.colors.size() == 1 ? look.colors.constFirst() : QColor();
+    appearance.isColorKnown = !look.colors.isEmpty();
     appearance.hasLostParts = look.hasLostParts;
     appearance.page = m_pages;
     const bool isRunning = std::any_of(m_places.begin(), m_places.end(), [](const Place& place) {

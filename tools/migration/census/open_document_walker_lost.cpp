@@ -45,6 +45,7 @@ void OpenDocumentWalker::openInLost(const QString& name, const Attributes& attri
     if (drawingElement(name) != nullptr) {
         return openLost(kind, name, attributes);
     }
+    noteSection(name, attributes);
     const bool isInParagraph = m_places.back().spot == Spot::LostParagraph;
     const bool isText = !isNote && (isParagraph(name) || isInParagraph);
     push(isText ? Spot::LostParagraph : Spot::Lost);
@@ -67,6 +68,15 @@ void OpenDocumentWalker::openLostPart(const QString& name, LossKind otherwise)
     }
     push(isPiece ? Spot::LostParagraph : Spot::Lost);
     m_places.back().lost = kind;
+}
+
+// Its texts are imported by repair, what surrounds them is not.
+void OpenDocumentWalker::noteSection(const QString& name, const Attributes& attributes)
+{
+    if (lostTextPart(name) == LossKind::TextSection &&
+        m_styles.changesSection(attributes.value("text:style-name"_L1).toString())) {
+        m_census.note(LossKind::TextEffect, 1, attributes.value("text:name"_L1).toString());
+    }
 }
 
 void OpenDocumentWalker::openIgnored(const QString& name)

@@ -13,11 +13,13 @@ namespace {
 
 // Of the height of the smaller letters: lines may be set closely, and a slanted letter may reach
 // into the next run.
-constexpr double LeastDepth = 0.2;
+constexpr double LeastDepth = 0.12;
 // Of the square of that height: about half a letter.
 constexpr double LeastArea = 0.4;
 // Of the smaller text: it may be one letter.
 constexpr double LeastShare = 0.5;
+// Of the smaller of an item and the shape that it belongs to.
+constexpr double SamePlaceShare = 0.8;
 // Of the smaller of the boxes of two runs of a paragraph, and runs that are compared with each
 // other.
 constexpr double RunShare = 0.2;
@@ -168,6 +170,9 @@ private:
         if (first == nullptr || second == nullptr) {
             return false;
         }
+        if (isAtItsPlace(a, *first) && isAtItsPlace(b, *second)) {
+            return true;
+        }
         if (!first->outline.isEmpty() && !second->outline.isEmpty()) {
             QPolygonF place = common;
             for (QPointF& corner : place) {
@@ -179,6 +184,19 @@ private:
         }
         // Running text has no place, but the document may let it run through a box.
         return (first->isInShape && first->mayOverlap) || (second->isInShape && second->mayOverlap);
+    }
+
+    // Text that is too large for its shape is drawn beyond it in the document as well. In another
+    // font, it may be larger than in the document.
+    [[nodiscard]] bool isAtItsPlace(qsizetype item, const Appearance& appearance) const
+    {
+        const ItemFacts& facts = m_label.items.at(item);
+        const QRectF box = facts.outline.boundingRect();
+        const QRectF seen(box.topLeft() / m_scale, box.size() / m_scale);
+        const QRectF place = appearance.outline.boundingRect();
+        const QRectF common = seen.intersected(place);
+        return !appearance.outline.isEmpty() && !facts.changes.has(LossKind::FontReplaced) &&
+               areaOf(common) >= SamePlaceShare * std::min(areaOf(seen), areaOf(place));
     }
 
     LabelFacts& m_label;

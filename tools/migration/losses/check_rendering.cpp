@@ -19,6 +19,8 @@ namespace {
 constexpr int PictureSide = 400;
 // The least contrast of large texts in accessibility guidelines.
 constexpr double LeastContrast = 3.0;
+// Of texts whose color in the document is unknown: below, they cannot be seen at all.
+constexpr double LeastUnknownContrast = 1.5;
 // Of 255: a pixel that changes less looks like its ground.
 constexpr int VisibleDifference = 6;
 // Points: a drawing has the width of its pen more than the item that it replaces.
@@ -218,8 +220,10 @@ private:
     void checkTextContrast(const QColor& ground, const Appearance& text, ItemFacts& item)
     {
         const QColor original = text.fill.isValid() ? text.fill : ground;
-        const bool wasReadable = contrast(documentColor(text), original) >= LeastContrast;
-        if (wasReadable && contrast(item.textColor, ground) < LeastContrast) {
+        const bool wasReadable =
+            !text.isColorKnown || contrast(documentColor(text), original) >= LeastContrast;
+        const double least = text.isColorKnown ? LeastContrast : LeastUnknownContrast;
+        if (wasReadable && contrast(item.textColor, ground) < least) {
             item.changes.add(LossKind::TextUnreadable);
             m_label.tallies[LossKind::TextUnreadable].addDetail(item.text.simplified());
         }

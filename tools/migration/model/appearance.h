@@ -21,6 +21,8 @@ struct Appearance
     QStringList families;
     /// Invalid if it is automatic, or if there are several.
     QColor textColor;
+    /// Of a text: whether its color was looked up. That of lost texts is not.
+    bool isColorKnown = false;
     /// Of a shape, or of the shape that the text belongs to. Invalid if it is not one color.
     QColor fill;
     /// Whether it has a fill of any kind; unknown if the document leaves that open.
