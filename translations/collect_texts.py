@@ -7,12 +7,11 @@ All of them go into TARGET/labelport_template.ts, and what is new into each
 TARGET/labelport_XX.ts, to be translated there. Texts that the code has no longer go. Places in the
 code are not kept: they would change with every line.
 
-lupdate sees neither through a macro nor into a function, and would put a text into another context
-than the one in which the program looks for it. So it gets a copy of the code in which the two short
-forms that files give themselves are written out:
+lupdate does not see through a macro, and would put a text into another context than the one in
+which the program looks for it. So it gets a copy of the code in which the short form that files
+define for tables is written out:
 
     #define TEXT(text) QT_TRANSLATE_NOOP("context", text)
-    QString tr(const char* text) { return QCoreApplication::translate("context", text); }
 """
 
 import pathlib
@@ -23,21 +22,14 @@ import tempfile
 import xml.etree.ElementTree
 
 MACRO = re.compile(r'#define (\w+)\((\w+)\) QT_TRANSLATE_NOOP\("([^"]+)", \2\)')
-HELPER = re.compile(r'QString tr\(const char\* (\w+)\)\s*\{\s*'
-                    r'return QCoreApplication::translate\("([^"]+)", \1\);\s*\}')
 
 
 def written_out(code):
-    """The code with the short forms that it defines written out where they are used."""
+    """The code with the short form that it defines written out where it is used."""
     for macro in list(MACRO.finditer(code)):
         name, _, context = macro.groups()
         code = code.replace(macro.group(0), "")
         code = re.sub(rf'(?<!\w){name}\((?=\s*")', f'QT_TRANSLATE_NOOP("{context}", ', code)
-    helper = HELPER.search(code)
-    if helper:
-        context = helper.group(2)
-        code = code.replace(helper.group(0), "")
-        code = re.sub(r'(?<![\w:.])tr\((?=\s*")', f'QCoreApplication::translate("{context}", ', code)
     return code
 
 

@@ -11,7 +11,7 @@ namespace recorder {
 
 namespace {
 
-const QString Target = u"canvas"_s;
+const QString CanvasTarget = u"canvas"_s;
 
 TraceValue itemValues(const QList<QGraphicsItem*>& items)
 {
@@ -34,7 +34,7 @@ RecordingCanvas::~RecordingCanvas() = default;
 void RecordingCanvas::importItem(Item* item)
 {
     if (m_recording->trace() != nullptr) {
-        m_recording->call(Target, "importItem", itemValue(item));
+        m_recording->call(CanvasTarget, "importItem", itemValue(item));
     }
     if (const auto* recorded = dynamic_cast<RecordedItem*>(item)) {
         m_recording->markImported(recorded->number());
@@ -53,47 +53,49 @@ void RecordingCanvas::importItem(Item* item)
 void RecordingCanvas::importCanvasParameters(double width, double height, bool canvasFlag,
                                              bool orientation)
 {
-    m_recording->call(Target, "importCanvasParameters", width, height, canvasFlag, orientation);
+    m_recording->call(CanvasTarget, "importCanvasParameters", width, height, canvasFlag,
+                      orientation);
 }
 
 void RecordingCanvas::setCanvasBackgroundColor(const QColor& color)
 {
-    m_recording->call(Target, "setCanvasBackgroundColor", color);
+    m_recording->call(CanvasTarget, "setCanvasBackgroundColor", color);
     m_backgroundColor = color;
 }
 
 void RecordingCanvas::setCanvasDefaultPenColor(const QColor& color)
 {
-    m_recording->call(Target, "setCanvasDefaultPenColor", color);
+    m_recording->call(CanvasTarget, "setCanvasDefaultPenColor", color);
     m_defaultPenColor = color;
 }
 
 QColor RecordingCanvas::canvasBackgroundColor() const
 {
-    m_recording->answer(m_backgroundColor, Target, "canvasBackgroundColor");
+    m_recording->answer(m_backgroundColor, CanvasTarget, "canvasBackgroundColor");
     return m_backgroundColor;
 }
 
 QColor RecordingCanvas::canvasDefaultPenColor() const
 {
-    m_recording->answer(m_defaultPenColor, Target, "canvasDefaultPenColor");
+    m_recording->answer(m_defaultPenColor, CanvasTarget, "canvasDefaultPenColor");
     return m_defaultPenColor;
 }
 
 void RecordingCanvas::setReadOnlyStateOnItemsInList(bool readOnly, QList<QGraphicsItem*> items)
 {
-    m_recording->call(Target, "setReadOnlyStateOnItemsInList", readOnly, itemValues(items));
+    m_recording->call(CanvasTarget, "setReadOnlyStateOnItemsInList", readOnly, itemValues(items));
 }
 
 void RecordingCanvas::setUserBackgroundStateOnItemsInList(bool background,
                                                           QList<QGraphicsItem*> items)
 {
-    m_recording->call(Target, "setUserBackgroundStateOnItemsInList", background, itemValues(items));
+    m_recording->call(CanvasTarget, "setUserBackgroundStateOnItemsInList", background,
+                      itemValues(items));
 }
 
 void RecordingCanvas::completeCanvasLoading()
 {
-    m_recording->call(Target, "completeCanvasLoading");
+    m_recording->call(CanvasTarget, "completeCanvasLoading");
 }
 
 void RecordingCanvas::clear()

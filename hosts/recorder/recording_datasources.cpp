@@ -6,7 +6,7 @@ namespace recorder {
 
 namespace {
 
-const QString Target = u"datasources"_s;
+const QString DatasourcesTarget = u"datasources"_s;
 
 } // namespace
 
@@ -43,7 +43,7 @@ int RecordingDatasources::createDatasource(const QString& kind)
 {
     const int id = static_cast<int>(m_sources.size()) + 1;
     m_sources.push_back(std::make_unique<RecordingDatasource>(m_recording, id));
-    m_recording->answer(id, Target, "createDatasource", kind);
+    m_recording->answer(id, DatasourcesTarget, "createDatasource", kind);
     return id;
 }
 
@@ -51,7 +51,8 @@ TalDatasource* RecordingDatasources::getDatasource(int id)
 {
     const bool known = id >= 1 && id <= static_cast<int>(m_sources.size()) &&
                        !m_recording->behavior().hidesDatasources;
-    m_recording->answer(known ? TraceValue(id) : TraceValue(nullptr), Target, "getDatasource", id);
+    m_recording->answer(known ? TraceValue(id) : TraceValue(nullptr), DatasourcesTarget,
+                        "getDatasource", id);
     return known ? m_sources[static_cast<std::size_t>(id - 1)].get() : nullptr;
 }
 

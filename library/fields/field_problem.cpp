@@ -6,7 +6,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Tr
+struct FieldProblemTr
 {
     Q_DECLARE_TR_FUNCTIONS(fields::FieldProblem)
 };
@@ -17,17 +17,18 @@ const QString Path = u"%1"_s; // stays a placeholder until the path is known
 
 MaybeProblem fieldIsMissing()
 {
-    return FieldProblem{{}, Tr::tr("%1 is missing")};
+    return FieldProblem{{}, FieldProblemTr::tr("%1 is missing")};
 }
 
 MaybeProblem fieldIsNot(const char* kind)
 {
-    return FieldProblem{{}, Tr::tr("%1 is not %2").arg(Path, Tr::tr(kind))};
+    return FieldProblem{{}, FieldProblemTr::tr("%1 is not %2").arg(Path, FieldProblemTr::tr(kind))};
 }
 
 MaybeProblem fieldIsLonger(qsizetype limit)
 {
-    return FieldProblem{{}, Tr::tr("%1 is longer than %2").arg(Path, QString::number(limit))};
+    return FieldProblem{
+        {}, FieldProblemTr::tr("%1 is longer than %2").arg(Path, QString::number(limit))};
 }
 
 } // namespace fields

@@ -65,7 +65,7 @@ void readContentFirst(QDataStream& stream, const FileContext& file, BarcodeRecor
     readSymbolSettings(stream, file, record);
 }
 
-constexpr std::array Layouts{
+constexpr std::array BarcodeLayouts{
     Layout{OldestVersion, &readKeyFirst},
     Layout{FirstWithContentFirst, &readContentFirst},
 };
@@ -81,7 +81,7 @@ BarcodeRecord readBarcodeRecord(QDataStream& stream, const FileContext& file, qi
 {
     BarcodeRecord record;
     record.header = readItemHeader(stream, file, itemNumber);
-    layoutFor(Layouts, file.version)(stream, file, record);
+    layoutFor(BarcodeLayouts, file.version)(stream, file, record);
     return record;
 }
 

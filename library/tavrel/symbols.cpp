@@ -30,7 +30,7 @@ SymbolRecord readNameAndData(QDataStream& stream, const FileContext& file, qint6
     return record;
 }
 
-constexpr std::array Layouts{
+constexpr std::array SymbolLayouts{
     Layout{OldestVersion, &readNameOnly},
     Layout{FirstWithSymbolData, &readNameAndData},
 };
@@ -49,7 +49,7 @@ SymbolDatabaseModel& openedOnce(std::unique_ptr<SymbolDatabaseModel>& database,
 
 SymbolRecord readSymbolRecord(QDataStream& stream, const FileContext& file, qint64 itemNumber)
 {
-    return layoutFor(Layouts, file.version)(stream, file, itemNumber);
+    return layoutFor(SymbolLayouts, file.version)(stream, file, itemNumber);
 }
 
 SymbolSource::SymbolSource() = default;

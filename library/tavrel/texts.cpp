@@ -110,7 +110,7 @@ void readWithSecondFontSize(QDataStream& stream, const FileContext& file, TextRe
     readFontSize(stream, file, record);
 }
 
-void readContentFirst(QDataStream& stream, const FileContext& file, TextRecord& record)
+void readTextContentFirst(QDataStream& stream, const FileContext& file, TextRecord& record)
 {
     record.content = readText(stream);
     record.datasourceText = readText(stream);
@@ -125,16 +125,16 @@ void readContentFirst(QDataStream& stream, const FileContext& file, TextRecord& 
 
 void readWithTrailer(QDataStream& stream, const FileContext& file, TextRecord& record)
 {
-    readContentFirst(stream, file, record);
+    readTextContentFirst(stream, file, record);
     (void)readFields<qint32, qint32>(stream);
 }
 
-constexpr std::array Layouts{
+constexpr std::array TextLayouts{
     Layout{OldestVersion, &readBare},
     Layout{FirstWithFixedTextSize, &readSized},
     Layout{FirstWithTextOptions, &readWithOptions},
     Layout{FirstWithSecondFontSize, &readWithSecondFontSize},
-    Layout{FirstWithContentFirst, &readContentFirst},
+    Layout{FirstWithContentFirst, &readTextContentFirst},
     Layout{FirstWithTextTrailer, &readWithTrailer},
 };
 
@@ -235,7 +235,7 @@ TextRecord readTextRecord(QDataStream& stream, const FileContext& file, qint64 i
 {
     TextRecord record;
     record.header = readItemHeader(stream, file, itemNumber);
-    layoutFor(Layouts, file.version)(stream, file, record);
+    layoutFor(TextLayouts, file.version)(stream, file, record);
     return record;
 }
 

@@ -16,7 +16,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Tr
+struct ExistingOutputTr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::ExistingOutput)
 };
@@ -95,11 +95,13 @@ QString reportNameProblem(const QString& fileName)
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();
     if (suffix != "json"_L1 && suffix != "html"_L1) {
-        return Tr::tr("A report is a file that ends in .json or .html, not \"%1\".").arg(fileName);
+        return ExistingOutputTr::tr("A report is a file that ends in .json or .html, not \"%1\".")
+            .arg(fileName);
     }
     return console::isUtf8FileName(fileName)
                ? QString()
-               : Tr::tr("The name of a report must be valid UTF-8: \"%1\".").arg(fileName);
+               : ExistingOutputTr::tr("The name of a report must be valid UTF-8: \"%1\".")
+                     .arg(fileName);
 }
 
 QString reportProblem(const QString& fileName, bool mayOverwrite)
@@ -110,17 +112,18 @@ QString reportProblem(const QString& fileName, bool mayOverwrite)
         return archive::folderInPlaceMessage(fileName);
     }
     if (!folder.isDir()) {
-        return archive::cannotWrite(fileName,
-                                    Tr::tr("the folder \"%1\" does not exist").arg(info.path()));
+        return archive::cannotWrite(
+            fileName, ExistingOutputTr::tr("the folder \"%1\" does not exist").arg(info.path()));
     }
     if (!folder.isWritable()) {
-        return archive::cannotWrite(fileName,
-                                    Tr::tr("the folder \"%1\" is not writable").arg(info.path()));
+        return archive::cannotWrite(
+            fileName, ExistingOutputTr::tr("the folder \"%1\" is not writable").arg(info.path()));
     }
     const bool isForeign =
         !mayOverwrite && info.exists() && info.size() > 0 && !isOurReport(headOf(fileName));
-    return isForeign ? Tr::tr("\"%1\" exists and is not a report of labelport. Use --force to "
-                              "overwrite it.")
+    return isForeign ? ExistingOutputTr::tr(
+                           "\"%1\" exists and is not a report of labelport. Use --force to "
+                           "overwrite it.")
                            .arg(fileName)
                      : QString();
 }

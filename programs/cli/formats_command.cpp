@@ -21,10 +21,10 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-QString tr(const char* text)
+struct FormatsCommandTr
 {
-    return QCoreApplication::translate("cli::FormatsCommand", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(cli::FormatsCommand)
+};
 
 struct Format
 {
@@ -135,7 +135,7 @@ QString sheetLine(const printing::Sheet& sheet)
 {
     return u"  %1 %2 %3\n"_s.arg(sheet.names.join(u", "_s), -24)
         .arg(sheet.paper, -7)
-        .arg(tr("%1 × %2 labels of %3 × %4 mm")
+        .arg(FormatsCommandTr::tr("%1 × %2 labels of %3 × %4 mm")
                  .arg(sheet.columns)
                  .arg(sheet.rows)
                  .arg(sheet.label.width())
@@ -144,9 +144,9 @@ QString sheetLine(const printing::Sheet& sheet)
 
 QString sheetsAsText()
 {
-    QString text = tr("Sheets (--sheet):") + u'\n';
+    QString text = FormatsCommandTr::tr("Sheets (--sheet):") + u'\n';
     text += u"  %1 %2\n"_s.arg(printing::paperNames().join(u", "_s), -24)
-                .arg(tr("plain paper, with as many labels as fit"));
+                .arg(FormatsCommandTr::tr("plain paper, with as many labels as fit"));
     for (const printing::Sheet& sheet : printing::sheetPresets()) {
         text += sheetLine(sheet);
     }
@@ -175,20 +175,22 @@ QJsonObject asJson()
 
 QString asText()
 {
-    QString text = tr("Read (import, inspect):") + u'\n';
+    QString text = FormatsCommandTr::tr("Read (import, inspect):") + u'\n';
     for (const Format& row : Formats) {
         const QString suffixes = u"*."_s + suffixesOf(row).join(u", *."_s);
-        text += u"  %1 %2 %3; %4\n"_s.arg(QLatin1String(row.name), -13)
-                    .arg(suffixes, -26)
-                    .arg(tr(row.description), tr("versions: %1").arg(tr(row.versions)));
+        text +=
+            u"  %1 %2 %3; %4\n"_s.arg(QLatin1String(row.name), -13)
+                .arg(suffixes, -26)
+                .arg(FormatsCommandTr::tr(row.description),
+                     FormatsCommandTr::tr("versions: %1").arg(FormatsCommandTr::tr(row.versions)));
     }
-    text += u'\n' + tr("Written (import --to):") + u'\n';
+    text += u'\n' + FormatsCommandTr::tr("Written (import --to):") + u'\n';
     for (const exporting::TargetEntry& entry : exporting::targets()) {
         text += u"  %1 %2\n"_s.arg(QLatin1String(entry.name), -13)
                     .arg(exporting::translated(entry.description));
     }
     return text + u'\n' + sheetsAsText() + u'\n' +
-           tr("Sandbox in which files are read, on this system: %1.")
+           FormatsCommandTr::tr("Sandbox in which files are read, on this system: %1.")
                .arg(sandbox::describe(sandbox::supported())) +
            u'\n';
 }
@@ -204,7 +206,7 @@ int runFormats(const QStringList& arguments)
         return *status;
     }
     if (!parser.positionalArguments().isEmpty()) {
-        return console::refuseArguments(command, tr("formats takes no files."));
+        return console::refuseArguments(command, FormatsCommandTr::tr("formats takes no files."));
     }
     if (parser.isSet(u"json"_s)) {
         console::printBytes(QJsonDocument(asJson()).toJson(QJsonDocument::Indented));

@@ -24,7 +24,7 @@ void addStandardInput(ImportInputs& inputs)
     inputs.list.readable.append(inputs.standardInput->fileName());
 }
 
-struct Tr
+struct ImportInputsTr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::ImportInputs)
 };
@@ -35,8 +35,9 @@ QString problemOfPreparedList(const ImportOptions& options)
     const bool isAlone = options.files.isEmpty() && options.base.isEmpty() &&
                          options.shard.isEverything() && !options.isNullSeparated;
     return isAlone ? QString()
-                   : Tr::tr("\"%1\" was written by \"labelport list\": it excludes other files, "
-                            "--base, --shard and --null.")
+                   : ImportInputsTr::tr(
+                         "\"%1\" was written by \"labelport list\": it excludes other files, "
+                         "--base, --shard and --null.")
                          .arg(options.filesFrom);
 }
 
@@ -49,8 +50,8 @@ void takePreparedList(const ImportOptions& options, QIODevice& device, ImportInp
     QString reason;
     archive::PreparedList list = archive::readPreparedList(device, reason);
     if (!reason.isEmpty()) {
-        inputs.error =
-            Tr::tr("Cannot read the list of files \"%1\": %2.").arg(options.filesFrom, reason);
+        inputs.error = ImportInputsTr::tr("Cannot read the list of files \"%1\": %2.")
+                           .arg(options.filesFrom, reason);
         return;
     }
     inputs.list.inputs = std::move(list.inputs);
@@ -67,13 +68,14 @@ void addListed(const ImportOptions& options, archive::InputCollector& collector,
     const bool isOpen = options.filesFrom == "-"_L1 ? list.open(stdin, QIODevice::ReadOnly)
                                                     : list.open(QIODevice::ReadOnly);
     if (!isOpen) {
-        inputs.error = Tr::tr("Cannot read the list of files \"%1\": %2.")
+        inputs.error = ImportInputsTr::tr("Cannot read the list of files \"%1\": %2.")
                            .arg(options.filesFrom, list.errorString());
     } else if (archive::isPreparedList(list.peek(archive::PreparedListStart))) {
         takePreparedList(options, list, inputs);
     } else if (!archive::readNames(list, options.isNullSeparated,
                                    [&](const QString& name) { collector.add(name); })) {
-        inputs.error = Tr::tr("\"%1\" is not a list of file names.").arg(options.filesFrom);
+        inputs.error =
+            ImportInputsTr::tr("\"%1\" is not a list of file names.").arg(options.filesFrom);
     }
 }
 
@@ -115,7 +117,7 @@ void printUnreadableFolders(const archive::InputList& list)
 {
     for (const archive::UnreadableFolder& folder : list.unreadable) {
         console::printMessage(
-            Tr::tr("Cannot search folder \"%1\": %2.").arg(folder.path, folder.reason));
+            ImportInputsTr::tr("Cannot search folder \"%1\": %2.").arg(folder.path, folder.reason));
     }
 }
 

@@ -21,10 +21,10 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-QString tr(const char* text)
+struct InspectCommandTr
 {
-    return QCoreApplication::translate("cli::InspectCommand", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(cli::InspectCommand)
+};
 
 /// The options that the worker gets.
 QJsonObject allOptions(const JobOptions& options)
@@ -76,7 +76,8 @@ int runInspect(const QStringList& arguments)
         return *status;
     }
     const QStringList files = parser.positionalArguments();
-    QString error = files.size() == 1 ? QString() : tr("inspect needs exactly one file.");
+    QString error =
+        files.size() == 1 ? QString() : InspectCommandTr::tr("inspect needs exactly one file.");
     const std::optional<JobOptions> options =
         error.isEmpty() ? optionsOf(parser, error) : std::nullopt;
     const std::optional<archive::WorkerLimits> limits =
@@ -100,8 +101,8 @@ int runInspect(const QStringList& arguments)
     }
     const QTemporaryDir folder; // the only one in which the worker may write
     if (!folder.isValid()) {
-        console::printMessage(
-            tr("Cannot create a temporary folder: %1.").arg(folder.errorString()));
+        console::printMessage(InspectCommandTr::tr("Cannot create a temporary folder: %1.")
+                                  .arg(folder.errorString()));
         return console::ExitFailure;
     }
     archive::Job job;

@@ -17,7 +17,7 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-struct Tr
+struct LabelWriterTr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::LabelWriter)
 };
@@ -69,11 +69,12 @@ RecordSelection selectRecords(const OpenedLabel& label, const RecordRange& range
     const qint64 last = std::min(range.last.value_or(available), available);
     const qint64 count = last - range.first + 1;
     if (count > MaximumRecords) {
-        return {0, 0,
-                Tr::tr("%1 records are more than the %2 that one command writes; select a "
-                       "range with --records.")
-                    .arg(count)
-                    .arg(MaximumRecords)};
+        return {
+            0, 0,
+            LabelWriterTr::tr("%1 records are more than the %2 that one command writes; select a "
+                              "range with --records.")
+                .arg(count)
+                .arg(MaximumRecords)};
     }
     return {range.first - 1, count, {}};
 }

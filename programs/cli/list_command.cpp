@@ -19,7 +19,7 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-struct Tr
+struct ListCommandTr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::ListCommand)
 };
@@ -57,13 +57,13 @@ QString writeLists(const QString& folder, const archive::Inputs& inputs, int cou
 {
     const QString folderError = console::makeFolder(folder);
     if (!folderError.isEmpty()) {
-        return Tr::tr("Cannot create folder \"%1\": %2.").arg(folder, folderError);
+        return ListCommandTr::tr("Cannot create folder \"%1\": %2.").arg(folder, folderError);
     }
     const console::ReachablePath reachable(folder);
     const QDir directory(reachable.path());
     const QString foreign = removeEarlierLists(directory, count);
     if (!foreign.isEmpty()) {
-        return Tr::tr("\"%1\" exists, and is not a list of labelport.")
+        return ListCommandTr::tr("\"%1\" exists, and is not a list of labelport.")
             .arg(QDir(folder).filePath(foreign));
     }
     const QStringList targets = exporting::targetNames();
@@ -75,7 +75,7 @@ QString writeLists(const QString& folder, const archive::Inputs& inputs, int cou
                                archive::writePreparedList(file, {inputs, names, {number, count}}) &&
                                file.commit();
         if (!isWritten) {
-            return Tr::tr("Cannot write \"%1\": %2.")
+            return ListCommandTr::tr("Cannot write \"%1\": %2.")
                 .arg(QDir(folder).filePath(name), file.errorString());
         }
         console::printFileName(QDir(folder).filePath(name), false);
@@ -86,16 +86,16 @@ QString writeLists(const QString& folder, const archive::Inputs& inputs, int cou
 QString problemOf(const ImportOptions& options, const QString& to)
 {
     if (options.files.isEmpty() && options.filesFrom.isEmpty()) {
-        return Tr::tr("No file to list.");
+        return ListCommandTr::tr("No file to list.");
     }
     if (to.isEmpty()) {
-        return Tr::tr("Specify the folder of the lists with --to.");
+        return ListCommandTr::tr("Specify the folder of the lists with --to.");
     }
     if (options.files.contains("-"_L1)) {
-        return Tr::tr("A label from standard input cannot be listed.");
+        return ListCommandTr::tr("A label from standard input cannot be listed.");
     }
     if (options.isNullSeparated && options.filesFrom.isEmpty()) {
-        return Tr::tr("--null has no effect without --files-from.");
+        return ListCommandTr::tr("--null has no effect without --files-from.");
     }
     return {};
 }
@@ -104,14 +104,15 @@ int listTo(const QString& folder, const ImportOptions& options, int count)
 {
     const ImportInputs inputs = findInputs(options);
     if (!inputs.error.isEmpty() || inputs.part) {
-        console::printMessage(
-            inputs.part ? Tr::tr("\"%1\" was written by \"labelport list\".").arg(options.filesFrom)
-                        : inputs.error);
+        console::printMessage(inputs.part
+                                  ? ListCommandTr::tr("\"%1\" was written by \"labelport list\".")
+                                        .arg(options.filesFrom)
+                                  : inputs.error);
         return console::ExitFailure;
     }
     printUnreadableFolders(inputs.list);
     if (inputs.list.inputs.isEmpty()) {
-        console::printMessage(Tr::tr("No labels to list."));
+        console::printMessage(ListCommandTr::tr("No labels to list."));
         return console::ExitFailure;
     }
     const QString error = writeLists(folder, inputs.list.inputs, count);
@@ -119,8 +120,8 @@ int listTo(const QString& folder, const ImportOptions& options, int count)
         console::printMessage(error);
         return console::ExitFailure;
     }
-    console::printMessage(
-        Tr::tr("%n file(s) listed.", nullptr, static_cast<int>(inputs.list.inputs.size())));
+    console::printMessage(ListCommandTr::tr("%n file(s) listed.", nullptr,
+                                            static_cast<int>(inputs.list.inputs.size())));
     return inputs.list.unreadable.isEmpty() ? console::ExitSuccess : console::ExitFailure;
 }
 

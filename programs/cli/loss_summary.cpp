@@ -14,10 +14,10 @@ namespace {
 using namespace Qt::StringLiterals;
 using migration::Verdict;
 
-QString tr(const char* text)
+struct LossSummaryTr
 {
-    return QCoreApplication::translate("cli::LossSummary", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(cli::LossSummary)
+};
 
 bool affectsContent(const migration::Finding& finding)
 {
@@ -84,7 +84,8 @@ bool LossSummary::isComplete() const
 
 QString LossSummary::counts() const
 {
-    return tr("Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.")
+    return LossSummaryTr::tr(
+               "Labels imported completely: %1, with changes: %2, with losses: %3, failed: %4.")
         .arg(count(Verdict::Complete))
         .arg(count(Verdict::Changed))
         .arg(count(Verdict::Lossy))
@@ -106,9 +107,11 @@ QString LossSummary::hint(const QStringList& reports) const
         return {};
     }
     if (!reports.isEmpty()) {
-        return tr("All details: %1").arg(console::shownFileName(reports.constFirst()));
+        return LossSummaryTr::tr("All details: %1")
+            .arg(console::shownFileName(reports.constFirst()));
     }
-    return tr("All details: add --report report.html, or run labelport inspect on a file.");
+    return LossSummaryTr::tr(
+        "All details: add --report report.html, or run labelport inspect on a file.");
 }
 
 } // namespace cli

@@ -20,7 +20,7 @@
 namespace {
 using namespace Qt::StringLiterals;
 
-struct Tr
+struct CliMainTr
 {
     Q_DECLARE_TR_FUNCTIONS(cli::Main)
 };
@@ -63,7 +63,7 @@ Exit status: 0 success, 1 a file failed, 2 wrong usage, 3 a label was not import
 
 QString helpText()
 {
-    QString text = Tr::tr(HelpStart);
+    QString text = CliMainTr::tr(HelpStart);
     for (const cli::Command& command : cli::commands()) {
         QString usage = QLatin1String(command.name);
         if (command.argument != nullptr) {
@@ -71,7 +71,7 @@ QString helpText()
         }
         text += u"  %1 %2\n"_s.arg(usage, -16).arg(cli::translated(command.summary));
     }
-    return text + Tr::tr(HelpEnd);
+    return text + CliMainTr::tr(HelpEnd);
 }
 
 void setUpApplication()
@@ -142,12 +142,12 @@ RunCommand functionOf(const QString& command)
 int refuseCommand(const QString& command)
 {
     if (command.isEmpty()) {
-        console::printMessage(Tr::tr("No command given. See \"labelport --help\"."));
+        console::printMessage(CliMainTr::tr("No command given. See \"labelport --help\"."));
     } else {
         const QStringList known = cli::commandNames() + QStringList{u"--help"_s, u"--version"_s};
-        console::printMessage(Tr::tr("Unknown command \"%1\".").arg(command) +
+        console::printMessage(CliMainTr::tr("Unknown command \"%1\".").arg(command) +
                               console::suggestion(command, known));
-        console::printMessage(Tr::tr("Help: %1").arg(u"labelport --help"_s));
+        console::printMessage(CliMainTr::tr("Help: %1").arg(u"labelport --help"_s));
     }
     return console::ExitUsage;
 }

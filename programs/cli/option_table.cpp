@@ -75,7 +75,7 @@ constexpr Option BaseOption{
                       "the output folder."),
     Completion::Folder};
 
-constexpr std::array ImportOptions{
+constexpr std::array ImportRows{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "targets"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "What to write: png, svg, pdf, zpl, csv, label, glabels; several with "
@@ -153,7 +153,7 @@ constexpr std::array ImportOptions{
            QT_TRANSLATE_NOOP("cli::Options", "Report only errors on standard error.")},
 };
 
-constexpr std::array PrintOptions{
+constexpr std::array PrintRows{
     Option{"printer", QT_TRANSLATE_NOOP("cli::Options", "name"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "Printer to use; lpstat -e lists all (default: the default "
@@ -171,7 +171,7 @@ constexpr std::array PrintOptions{
     TimeoutOption,
     MemoryOption};
 
-constexpr std::array InspectOptions{
+constexpr std::array InspectRows{
     Option{"json", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Print JSON, as in reports.")},
     ReaderOption,
     AsWrittenOption,
@@ -179,7 +179,7 @@ constexpr std::array InspectOptions{
     MemoryOption,
     SandboxOption};
 
-constexpr std::array RecordsOptions{
+constexpr std::array RecordsRows{
     Option{
         "to", QT_TRANSLATE_NOOP("cli::Options", "file"),
         QT_TRANSLATE_NOOP("cli::Options", "CSV file to write; - is standard output (default: -)."),
@@ -194,7 +194,7 @@ constexpr std::array RecordsOptions{
     TimeoutOption,
     MemoryOption};
 
-constexpr std::array ListOptions{
+constexpr std::array ListRows{
     Option{
         "to", QT_TRANSLATE_NOOP("cli::Options", "folder"),
         QT_TRANSLATE_NOOP("cli::Options",
@@ -213,7 +213,7 @@ constexpr std::array ListOptions{
            Completion::Folder},
 };
 
-constexpr std::array ReportOptions{
+constexpr std::array ReportRows{
     Option{"to", QT_TRANSLATE_NOOP("cli::Options", "file"),
            QT_TRANSLATE_NOOP("cli::Options",
                              "Report to write, as .json or .html; may be given several times."),
@@ -222,10 +222,10 @@ constexpr std::array ReportOptions{
            QT_TRANSLATE_NOOP("cli::Options", "Overwrite files that are not reports of labelport.")},
 };
 
-constexpr std::array FormatsOptions{
+constexpr std::array FormatsRows{
     Option{"json", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Print JSON.")}};
 
-constexpr std::array TraceOptions{
+constexpr std::array TraceRows{
     ReaderOption,
     Option{"version", nullptr, QT_TRANSLATE_NOOP("cli::Options", "Show the version.")}};
 
@@ -234,29 +234,29 @@ constexpr std::array Commands{
             "FILE...",
             QT_TRANSLATE_NOOP("cli::Options",
                               "Label or folder of labels to import; - is standard input."),
-            Completion::Label, ImportDescription, ImportOptions},
+            Completion::Label, ImportDescription, ImportRows},
     Command{"print", QT_TRANSLATE_NOOP("cli::Options", "print labels"), "FILE...",
             QT_TRANSLATE_NOOP("cli::Options", "Label to print; - is standard input."),
-            Completion::Label, PrintDescription, PrintOptions},
+            Completion::Label, PrintDescription, PrintRows},
     Command{"inspect", QT_TRANSLATE_NOOP("cli::Options", "show what a label contains"), "FILE",
             QT_TRANSLATE_NOOP("cli::Options", "Label to inspect; - is standard input."),
-            Completion::Label, InspectDescription, InspectOptions},
+            Completion::Label, InspectDescription, InspectRows},
     Command{"records", QT_TRANSLATE_NOOP("cli::Options", "list what bound items show"), "FILE",
             QT_TRANSLATE_NOOP("cli::Options", "Label to read; - is standard input."),
-            Completion::Label, RecordsDescription, RecordsOptions},
+            Completion::Label, RecordsDescription, RecordsRows},
     Command{"list",
             QT_TRANSLATE_NOOP("cli::Options", "list the labels of an archive for several machines"),
             "FILE...", QT_TRANSLATE_NOOP("cli::Options", "Label or folder of labels to list."),
-            Completion::Label, ListDescription, ListOptions},
+            Completion::Label, ListDescription, ListRows},
     Command{"report", QT_TRANSLATE_NOOP("cli::Options", "merge the reports of several imports"),
             "merge REPORT.json...", QT_TRANSLATE_NOOP("cli::Options", "JSON reports to merge."),
-            Completion::Report, ReportDescription, ReportOptions},
+            Completion::Report, ReportDescription, ReportRows},
     Command{"formats", QT_TRANSLATE_NOOP("cli::Options", "list supported formats"), nullptr,
-            nullptr, Completion::Nothing, FormatsDescription, FormatsOptions},
+            nullptr, Completion::Nothing, FormatsDescription, FormatsRows},
     Command{"trace",
             QT_TRANSLATE_NOOP("cli::Options", "print every call that an import makes on its host"),
             "FILE", QT_TRANSLATE_NOOP("cli::Options", "Label to import; - is standard input."),
-            Completion::Label, TraceDescription, TraceOptions},
+            Completion::Label, TraceDescription, TraceRows},
 };
 
 } // namespace

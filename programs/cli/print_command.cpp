@@ -25,10 +25,10 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-QString tr(const char* text)
+struct PrintCommandTr
 {
-    return QCoreApplication::translate("cli::PrintCommand", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(cli::PrintCommand)
+};
 
 struct PrintOptions
 {
@@ -50,7 +50,8 @@ public:
     [[nodiscard]] int run()
     {
         if (!m_folder.isValid()) {
-            return fail(tr("Cannot create a temporary folder: %1.").arg(m_folder.errorString()));
+            return fail(PrintCommandTr::tr("Cannot create a temporary folder: %1.")
+                            .arg(m_folder.errorString()));
         }
         if (!importAll() || !writeDocuments()) {
             return console::ExitFailure;
@@ -59,7 +60,7 @@ public:
             const printing::Submission submission =
                 printing::submit({document.file, m_options.printer, m_title, document.media});
             if (!submission.error.isEmpty()) {
-                return fail(tr("Cannot print: %1").arg(submission.error));
+                return fail(PrintCommandTr::tr("Cannot print: %1").arg(submission.error));
             }
             console::printText(submission.job + u'\n');
         }
@@ -178,10 +179,10 @@ int runPrint(const QStringList& arguments)
     takeSheet(given, options.job);
     options.limits = takeLimits(given);
     if (options.files.isEmpty()) {
-        given.fail(tr("No file to print."));
+        given.fail(PrintCommandTr::tr("No file to print."));
     }
     if (options.files.count(u"-"_s) > 1) {
-        given.fail(tr("Standard input can be given only once."));
+        given.fail(PrintCommandTr::tr("Standard input can be given only once."));
     }
     return given.error().isEmpty() ? Print(options).run()
                                    : console::refuseArguments(command, given.error());

@@ -14,23 +14,24 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-QString tr(const char* text)
+struct ReportCommandTr
 {
-    return QCoreApplication::translate("cli::ReportCommand", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(cli::ReportCommand)
+};
 
 /// What is wrong with the arguments; empty if nothing is.
 QString usageProblem(const QStringList& words, const QStringList& outputs)
 {
     if (words.isEmpty()) {
-        return tr("No command given: labelport report merge REPORT.json... --to FILE");
+        return ReportCommandTr::tr(
+            "No command given: labelport report merge REPORT.json... --to FILE");
     }
     if (words.first() != "merge"_L1) {
-        return tr("Unknown command \"report %1\".").arg(words.first()) +
+        return ReportCommandTr::tr("Unknown command \"report %1\".").arg(words.first()) +
                console::suggestion(words.first(), {u"merge"_s});
     }
     if (words.size() == 1 || outputs.isEmpty()) {
-        return tr("Specify the reports to merge, and the output file with --to.");
+        return ReportCommandTr::tr("Specify the reports to merge, and the output file with --to.");
     }
     for (const QString& output : outputs) {
         const QString problem = reportNameProblem(output);

@@ -23,7 +23,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Tr
+struct TraceMainTr
 {
     Q_DECLARE_TR_FUNCTIONS(trace)
 };
@@ -39,10 +39,10 @@ struct Request
 QString readProblem(const QString& path)
 {
     if (console::kindOf(path) == console::FileKind::Folder) {
-        return Tr::tr("it is a folder");
+        return TraceMainTr::tr("it is a folder");
     }
     if (console::kindOf(path) == console::FileKind::Other) {
-        return Tr::tr("it is not a regular file");
+        return TraceMainTr::tr("it is not a regular file");
     }
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
@@ -52,15 +52,16 @@ void explainFailure(const Request& request, const QString& path)
 {
     const QString reason = readProblem(path);
     if (!reason.isEmpty()) {
-        console::printMessage(Tr::tr("Cannot read \"%1\": %2.").arg(request.file, reason));
+        console::printMessage(TraceMainTr::tr("Cannot read \"%1\": %2.").arg(request.file, reason));
     } else if (request.reader) {
         console::printMessage(
-            Tr::tr("\"%1\" was not imported. The trace shows how far the import came.")
+            TraceMainTr::tr("\"%1\" was not imported. The trace shows how far the import came.")
                 .arg(request.file));
     } else {
-        console::printMessage(Tr::tr("\"%1\" was not imported. The trace shows how far the "
-                                     "import came; --reader selects another reader.")
-                                  .arg(request.file));
+        console::printMessage(
+            TraceMainTr::tr("\"%1\" was not imported. The trace shows how far the "
+                            "import came; --reader selects another reader.")
+                .arg(request.file));
     }
 }
 
@@ -85,7 +86,7 @@ int trace(const Request& request, const QStringList& languages)
     const translations::ProgramLanguage language(languages);
     if (!canWrite || !out.flush() || std::fflush(stdout) != 0) {
         console::printMessage(
-            Tr::tr("Cannot write to standard output: %1.").arg(out.errorString()));
+            TraceMainTr::tr("Cannot write to standard output: %1.").arg(out.errorString()));
         return console::ExitFailure;
     }
     if (!imported) {
@@ -99,16 +100,18 @@ int trace(const Request& request, const QStringList& languages)
 std::variant<Request, int> requestOf(const QString& command, const QStringList& arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        Tr::tr("Imports a legacy label into a recording host, and prints every call on the host "
-               "as JSON\nLines, then the final state of the items.\n\n"
-               "Exit status: 0 imported, 1 not imported, 2 wrong usage."));
-    parser.addOption({u"reader"_s,
-                      Tr::tr("Read the file as tavrel, orvanta or opendocument, whatever its "
-                             "name."),
-                      Tr::tr("name")});
-    parser.addOption({u"version"_s, Tr::tr("Show the version.")});
-    parser.addPositionalArgument(u"FILE"_s, Tr::tr("Label to import; - is standard input."));
+    parser.setApplicationDescription(TraceMainTr::tr(
+        "Imports a legacy label into a recording host, and prints every call on the host "
+        "as JSON\nLines, then the final state of the items.\n\n"
+        "Exit status: 0 imported, 1 not imported, 2 wrong usage."));
+    parser.addOption(
+        {u"reader"_s,
+         TraceMainTr::tr("Read the file as tavrel, orvanta or opendocument, whatever its "
+                         "name."),
+         TraceMainTr::tr("name")});
+    parser.addOption({u"version"_s, TraceMainTr::tr("Show the version.")});
+    parser.addPositionalArgument(u"FILE"_s,
+                                 TraceMainTr::tr("Label to import; - is standard input."));
     if (const std::optional<int> status = console::parseCommand(parser, command, arguments)) {
         return *status;
     }
@@ -118,14 +121,14 @@ std::variant<Request, int> requestOf(const QString& command, const QStringList& 
     }
     const QStringList files = parser.positionalArguments();
     if (files.size() != 1) {
-        return console::refuseArguments(command, Tr::tr("trace needs exactly one file."));
+        return console::refuseArguments(command, TraceMainTr::tr("trace needs exactly one file."));
     }
     const QString reader = parser.value(u"reader"_s);
     const Request request{files.first(), readerOfName(reader)};
     if (parser.isSet(u"reader"_s) && !request.reader) {
-        return console::refuseArguments(command,
-                                        Tr::tr("Unknown reader \"%1\". Supported readers: %2.")
-                                            .arg(reader, u"tavrel, orvanta, opendocument"_s));
+        return console::refuseArguments(
+            command, TraceMainTr::tr("Unknown reader \"%1\". Supported readers: %2.")
+                         .arg(reader, u"tavrel, orvanta, opendocument"_s));
     }
     return request;
 }

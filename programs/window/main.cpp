@@ -22,7 +22,7 @@ namespace {
 
 constexpr int WrongUsage = 2;
 
-struct Tr
+struct WindowMainTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Main)
 };
@@ -40,17 +40,17 @@ struct Options
 
 void describe(QCommandLineParser& parser)
 {
-    parser.setApplicationDescription(
-        Tr::tr("Opens legacy label templates, shows them, saves, exports and prints them."));
+    parser.setApplicationDescription(WindowMainTr::tr(
+        "Opens legacy label templates, shows them, saves, exports and prints them."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument(
         u"file"_s,
-        Tr::tr("A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or "
-               "a folder of labels."),
+        WindowMainTr::tr("A label to open: *.label, *.cnv, *.roc, *.qmtx, *.odt or *.odg; or "
+                         "a folder of labels."),
         u"[file]"_s);
     parser.addOption({u"screenshot"_s,
-                      Tr::tr("Writes a picture of the window to a PNG file, and exits."),
+                      WindowMainTr::tr("Writes a picture of the window to a PNG file, and exits."),
                       u"picture"_s});
 }
 
@@ -71,8 +71,9 @@ Options readOptions(const QStringList& arguments)
     parser.process(arguments);
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1) {
-        const QString message = Tr::tr("A window shows one label, but %n files were given.",
-                                       nullptr, static_cast<int>(files.size()));
+        const QString message =
+            WindowMainTr::tr("A window shows one label, but %n files were given.", nullptr,
+                             static_cast<int>(files.size()));
         printError(message);
         std::exit(WrongUsage);
     }
@@ -120,7 +121,7 @@ int showWindow(const Options& options)
     if (!options.file.isEmpty()) {
         const QString error = mainWindow.openFileQuietly(options.file);
         if (!error.isEmpty()) {
-            printError(Tr::tr("Cannot open \"%1\": %2").arg(options.file, error));
+            printError(WindowMainTr::tr("Cannot open \"%1\": %2").arg(options.file, error));
             return EXIT_FAILURE;
         }
     }
@@ -148,8 +149,8 @@ int main(int argc, char** argv)
     QApplication::setWindowIcon(window::applicationIcon());
     const Options options = readOptions(QApplication::arguments());
     if (!isVisible && options.picture.isEmpty()) {
-        printError(Tr::tr("Cannot show a window: there is no display. "
-                          "Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot."));
+        printError(WindowMainTr::tr("Cannot show a window: there is no display. "
+                                    "Set DISPLAY or WAYLAND_DISPLAY, or use --screenshot."));
         return EXIT_FAILURE;
     }
     window::applyColorScheme(window::storedColorScheme());

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int Percents[] = {50, 75, 100, 150, 200, 400, 800};
 
-struct Tr
+struct StatusLineTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::StatusLine)
 };
@@ -38,13 +38,13 @@ StatusLine::StatusLine(QStatusBar& bar)
 {
     m_zoom->setEditable(true);
     m_zoom->setInsertPolicy(QComboBox::NoInsert);
-    m_zoom->setAccessibleName(Tr::tr("Zoom"));
+    m_zoom->setAccessibleName(StatusLineTr::tr("Zoom"));
     m_zoom->lineEdit()->setAccessibleName(m_zoom->accessibleName());
-    m_zoom->setToolTip(Tr::tr("Zoom in percent of the printed size"));
+    m_zoom->setToolTip(StatusLineTr::tr("Zoom in percent of the printed size"));
     m_zoom->setFrame(false);
-    m_zoom->addItem(Tr::tr("Whole label"));
+    m_zoom->addItem(StatusLineTr::tr("Whole label"));
     for (const int percent : Percents) {
-        m_zoom->addItem(Tr::tr("%1 %").arg(percent));
+        m_zoom->addItem(StatusLineTr::tr("%1 %").arg(percent));
     }
     bar.addPermanentWidget(m_zoom);
     QObject::connect(m_zoom, &QComboBox::activated, m_zoom, [this] { chooseZoom(); });
@@ -87,7 +87,7 @@ void StatusLine::setPage(std::optional<QSizeF> size, LengthUnit unit)
 void StatusLine::setRecord(qint64 record, qint64 count)
 {
     m_record->setText(count > 1
-                          ? Tr::tr("Record %1 of %2")
+                          ? StatusLineTr::tr("Record %1 of %2")
                                 .arg(QLocale().toString(record + 1), QLocale().toString(count))
                           : QString());
 }
@@ -96,7 +96,7 @@ void StatusLine::setZoom(std::optional<double> zoom)
 {
     m_zoom->setEnabled(zoom.has_value());
     m_shownZoom = zoom.value_or(1.0);
-    m_zoom->setEditText(zoom ? Tr::tr("%1 %").arg(qRound(*zoom * 100.0)) : QString());
+    m_zoom->setEditText(zoom ? StatusLineTr::tr("%1 %").arg(qRound(*zoom * 100.0)) : QString());
 }
 
 } // namespace window

@@ -22,7 +22,7 @@ namespace window {
 
 namespace {
 
-struct Tr
+struct WindowPanelsTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::WindowPanels)
 };
@@ -55,17 +55,18 @@ WindowPanels::WindowPanels(QMainWindow& window, const Actions& actions)
     , m_issues(new IssuesPanel)
     , m_labels(new LabelListPanel)
     , m_comparison(new ComparisonPanel)
-    , m_itemDock(makeDock(window, Qt::RightDockWidgetArea, Tr::tr("Items"), u"items"_s, *m_items))
-    , m_propertyDock(makeDock(window, Qt::RightDockWidgetArea, Tr::tr("Properties"),
+    , m_itemDock(makeDock(window, Qt::RightDockWidgetArea, WindowPanelsTr::tr("Items"), u"items"_s,
+                          *m_items))
+    , m_propertyDock(makeDock(window, Qt::RightDockWidgetArea, WindowPanelsTr::tr("Properties"),
                               u"properties"_s, *m_properties))
-    , m_sourceDock(makeDock(window, Qt::BottomDockWidgetArea, Tr::tr("Data Sources"), u"sources"_s,
-                            *m_sources))
-    , m_issueDock(
-          makeDock(window, Qt::BottomDockWidgetArea, Tr::tr("Issues"), u"issues"_s, *m_issues))
-    , m_labelDock(
-          makeDock(window, Qt::LeftDockWidgetArea, Tr::tr("Labels"), u"labels"_s, *m_labels))
-    , m_comparisonDock(makeDock(window, Qt::RightDockWidgetArea, Tr::tr("Original"), u"original"_s,
-                                *m_comparison))
+    , m_sourceDock(makeDock(window, Qt::BottomDockWidgetArea, WindowPanelsTr::tr("Data Sources"),
+                            u"sources"_s, *m_sources))
+    , m_issueDock(makeDock(window, Qt::BottomDockWidgetArea, WindowPanelsTr::tr("Issues"),
+                           u"issues"_s, *m_issues))
+    , m_labelDock(makeDock(window, Qt::LeftDockWidgetArea, WindowPanelsTr::tr("Labels"),
+                           u"labels"_s, *m_labels))
+    , m_comparisonDock(makeDock(window, Qt::RightDockWidgetArea, WindowPanelsTr::tr("Original"),
+                                u"original"_s, *m_comparison))
 {
     // For users who review many labels.
     m_labelDock->hide();

@@ -1,30 +1,10 @@
 // The arguments of `labelport import` for whole archives.
 
 #include "cli/import_options.h"
-#include "tests/cli/program_fixture.h"
+#include "tests/cli/arguments.h"
 
 namespace {
 using namespace Qt::StringLiterals;
-
-cli::ImportOptions accepted(const char* line)
-{
-    const auto result = cli::parseImportArguments(words(line));
-    if (const auto* options = std::get_if<cli::ImportOptions>(&result)) {
-        return *options;
-    }
-    ADD_FAILURE() << "refused: " << line;
-    return {};
-}
-
-/// The message about wrong arguments; empty if they are accepted.
-QString refusal(const char* line)
-{
-    testing::internal::CaptureStderr();
-    const auto result = cli::parseImportArguments(words(line));
-    const QString printed = QString::fromStdString(testing::internal::GetCapturedStderr());
-    const int* status = std::get_if<int>(&result);
-    return status != nullptr && *status == 2 ? printed.section(u'\n', 0, 0).mid(2) : QString();
-}
 
 TEST(ArchiveOptions, HaveDefaults)
 {

@@ -2,7 +2,7 @@
 
 #include "cli/import_options.h"
 #include "cli/option_table.h"
-#include "tests/cli/program_fixture.h"
+#include "tests/cli/arguments.h"
 
 #include <gtest/gtest.h>
 
@@ -10,26 +10,6 @@
 
 namespace {
 using namespace Qt::StringLiterals;
-
-cli::ImportOptions accepted(const char* line)
-{
-    const auto result = cli::parseImportArguments(words(line));
-    if (const auto* options = std::get_if<cli::ImportOptions>(&result)) {
-        return *options;
-    }
-    ADD_FAILURE() << "refused: " << line;
-    return {};
-}
-
-/// The message about wrong arguments; empty if they are accepted.
-QString refusal(const char* line)
-{
-    testing::internal::CaptureStderr();
-    const auto result = cli::parseImportArguments(words(line));
-    const QString printed = QString::fromStdString(testing::internal::GetCapturedStderr());
-    const int* status = std::get_if<int>(&result);
-    return status != nullptr && *status == 2 ? printed.section(u'\n', 0, 0).mid(2) : QString();
-}
 
 TEST(ImportOptions, NeedAFile)
 {

@@ -8,7 +8,7 @@ using namespace migration;
 
 namespace {
 
-FileReport sampleReport()
+FileReport shelfReport()
 {
     FileReport report;
     report.file = QStringLiteral("shelf.odg");
@@ -37,7 +37,7 @@ FileReport sampleReport()
 
 TEST(Inspect, DescribesALabelOnOneScreen)
 {
-    EXPECT_EQ(describeAsText(sampleReport()).toStdString(),
+    EXPECT_EQ(describeAsText(shelfReport()).toStdString(),
               "shelf.odg\n"
               "  Imported 2 of 3 objects. Content was lost or changed.\n"
               "  Page: 50.8 × 25.4 mm\n"
@@ -69,7 +69,7 @@ TEST(Inspect, SaysWhyAFileWasNotImported)
 
 TEST(Inspect, NothingFromAFileMovesTheCursor)
 {
-    FileReport report = sampleReport();
+    FileReport report = shelfReport();
     report.itemList[0].content = QStringLiteral("\x1b[2J\x07");
     report.issues[0].text = QStringLiteral("\x1b]0;title\x07");
     EXPECT_FALSE(describeAsText(report).contains(QChar(0x1b)));

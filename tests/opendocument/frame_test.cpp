@@ -68,13 +68,13 @@ QByteArray images(const QByteArrayList& names, const QByteArray& attributes = {}
     return xml + "</draw:frame>";
 }
 
-const QByteArray Box = "svg:x=\"1in\" svg:y=\"2in\" svg:width=\"3in\" svg:height=\"4in\" ";
+const QByteArray FrameBox = "svg:x=\"1in\" svg:y=\"2in\" svg:width=\"3in\" svg:height=\"4in\" ";
 
 } // namespace
 
 TEST_F(Frame, TextBoxMakesItsCallsInOrder)
 {
-    import("<draw:frame draw:style-name=\"g\" draw:z-index=\"2\" " + Box +
+    import("<draw:frame draw:style-name=\"g\" draw:z-index=\"2\" " + FrameBox +
                "draw:transform=\"rotate (-1.5707963267949)\"><draw:text-box>"
                "<text:p>x</text:p></draw:text-box></draw:frame>",
            "draw:fill=\"solid\"");
@@ -95,10 +95,10 @@ TEST_F(Frame, TextBoxMakesItsCallsInOrder)
 
 TEST_F(Frame, MinimalHeightReplacesTheHeight)
 {
-    import("<draw:frame " + Box +
+    import("<draw:frame " + FrameBox +
            "><draw:text-box fo:min-height=\"1in\"/></draw:frame>"
            "<draw:frame " +
-           Box +
+           FrameBox +
            "><draw:text-box fo:min-height=\"x\"/></draw:frame>"
            "<draw:frame svg:width=\"3in\"><draw:text-box fo:min-height=\"2in\"/></draw:frame>");
     EXPECT_EQ(host.lastCall(1, u"setItemSize"_s), u"216 72"_s);
@@ -199,8 +199,8 @@ TEST_F(Frame, FramesInTheFlowAreStacked)
 
 TEST_F(Frame, PictureMakesItsCallsInOrder)
 {
-    import(images({"a.png"}, Box + "draw:z-index=\"4\" draw:style-name=\"g\" "
-                                   "draw:transform=\"rotate (-1.5707963267949)\""),
+    import(images({"a.png"}, FrameBox + "draw:z-index=\"4\" draw:style-name=\"g\" "
+                                        "draw:transform=\"rotate (-1.5707963267949)\""),
            "style:mirror=\"horizontal\"");
     EXPECT_EQ(itemCalls(), lines({"factory create 1000c", "item:1 pixmapImportActions 5x6",
                                   "item:1 setItemSize 216 288", "item:1 setItemRotation 90",
@@ -220,7 +220,7 @@ TEST_F(Frame, PictureWithoutSizeKeepsItsOwn)
 
 TEST_F(Frame, DrawingBecomesASymbol)
 {
-    import(images({"a.png", "c.svg"}, Box));
+    import(images({"a.png", "c.svg"}, FrameBox));
     const QString shown = TestHost::shown(Drawing);
     EXPECT_EQ(itemCalls(), (QStringList{
                                u"symbolcreator loadImportedSvg "_s + shown,

@@ -21,13 +21,13 @@ protected:
     }
 };
 
-const QByteArray Box = "svg:x=\"1in\" svg:y=\"2in\" svg:width=\"3in\" svg:height=\"4in\" ";
+const QByteArray ShapeBox = "svg:x=\"1in\" svg:y=\"2in\" svg:width=\"3in\" svg:height=\"4in\" ";
 
 } // namespace
 
 TEST_F(Shape, MakesItsCallsInOrder)
 {
-    import("<draw:rect draw:style-name=\"g\" " + Box +
+    import("<draw:rect draw:style-name=\"g\" " + ShapeBox +
                "draw:z-index=\"3\" draw:transform=\"rotate (-1.5707963267949)\"/>",
            "style:mirror=\"horizontal\" draw:stroke=\"solid\" svg:stroke-width=\"0.05in\" "
            "svg:stroke-color=\"#112233\" svg:stroke-linecap=\"round\" "
@@ -171,7 +171,7 @@ TEST_F(Shape, InvalidCornerRadiusStillRoundsTheRectangle)
 
 TEST_F(Shape, EachKindTakesStyleAndPlace)
 {
-    const QByteArray attributes = "draw:style-name=\"g\" " + Box;
+    const QByteArray attributes = "draw:style-name=\"g\" " + ShapeBox;
     const QByteArray geometry = "<draw:enhanced-geometry draw:type=\"";
     const QByteArray custom = "<draw:custom-shape " + attributes + ">" + geometry;
     const QByteArray end = "\"/></draw:custom-shape>";
@@ -189,7 +189,7 @@ TEST_F(Shape, EachKindTakesStyleAndPlace)
 
 TEST_F(Shape, TextIsAboveItsShape)
 {
-    import("<draw:rect " + Box +
+    import("<draw:rect " + ShapeBox +
            "draw:z-index=\"3\" draw:transform=\"rotate (-1.5707963267949)\"><text:p>x</text:p>"
            "</draw:rect>");
     EXPECT_EQ(

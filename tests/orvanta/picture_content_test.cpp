@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr qint64 Plenty = orvanta::MaximumLabelPixels;
+constexpr qint64 PlentyOfPixels = orvanta::MaximumLabelPixels;
 
 QImage checkered()
 {
@@ -77,7 +77,8 @@ TEST(RasterPicture, IsDecodedByItsContent)
 {
     for (const char* format : {"PNG", "BMP", "PPM", "XPM"}) {
         SCOPED_TRACE(format);
-        const auto picture = orvanta::decodeRasterPicture(encoded(checkered(), format), Plenty);
+        const auto picture =
+            orvanta::decodeRasterPicture(encoded(checkered(), format), PlentyOfPixels);
         EXPECT_EQ(picture.refusal, QString());
         ASSERT_EQ(picture.image.size(), QSize(7, 5));
         EXPECT_EQ(picture.image.pixelColor(3, 2), QColor(Qt::red));
@@ -111,7 +112,7 @@ TEST(RasterPicture, OtherDataIsNullWithoutRefusal)
 {
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("abc"), QByteArray(1000, '\xFF'), QByteArray("<html/>")}) {
-        const auto picture = orvanta::decodeRasterPicture(bytes, Plenty);
+        const auto picture = orvanta::decodeRasterPicture(bytes, PlentyOfPixels);
         EXPECT_TRUE(picture.image.isNull());
         EXPECT_EQ(picture.refusal, QString());
     }
@@ -121,21 +122,21 @@ TEST(RasterPicture, CutOffAnywhereIsNullOrAPicture)
 {
     const QByteArray whole = encoded(checkered(), "PNG");
     for (qsizetype length = 0; length < whole.size(); ++length) {
-        const auto picture = orvanta::decodeRasterPicture(whole.left(length), Plenty);
+        const auto picture = orvanta::decodeRasterPicture(whole.left(length), PlentyOfPixels);
         EXPECT_TRUE(picture.image.isNull() || picture.image.size() == QSize(7, 5)) << length;
     }
 }
 
 TEST(RasterPicture, ThatClaimsTooManyPixelsIsRefusedUndecoded)
 {
-    const auto picture = orvanta::decodeRasterPicture("P6 20000 30000 255 x", Plenty);
+    const auto picture = orvanta::decodeRasterPicture("P6 20000 30000 255 x", PlentyOfPixels);
     EXPECT_TRUE(picture.image.isNull());
     EXPECT_EQ(picture.refusal, QStringLiteral("a picture of 20000 by 30000 pixels is too large"));
 
     QByteArray bitmap = encoded(checkered(), "BMP");
     const QByteArray huge("\x00\x00\x01\x00", 4); // 65536, little-endian
     bitmap.replace(18, 4, huge).replace(22, 4, huge);
-    EXPECT_TRUE(orvanta::decodeRasterPicture(bitmap, Plenty).image.isNull());
+    EXPECT_TRUE(orvanta::decodeRasterPicture(bitmap, PlentyOfPixels).image.isNull());
 }
 
 TEST(RasterPicture, MayUseWhatIsLeftToTheLabel)
@@ -154,6 +155,6 @@ TEST(RasterPicture, RendersADrawingBehindADeclarationOrSpaces)
           "height=\"4\"/>",
           " <svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" height=\"4\"/>"}) {
         SCOPED_TRACE(svg);
-        EXPECT_EQ(orvanta::decodeRasterPicture(svg, Plenty).image.size(), QSize(4, 4));
+        EXPECT_EQ(orvanta::decodeRasterPicture(svg, PlentyOfPixels).image.size(), QSize(4, 4));
     }
 }

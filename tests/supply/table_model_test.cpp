@@ -38,14 +38,14 @@ private:
     bool m_opens = true;
 };
 
-QStringList words(const char* text)
+QStringList cells(const char* text)
 {
     return QString::fromLatin1(text).split(u',');
 }
 
 TEST(TableModel, CountsTheLinesAfterItsHeaders)
 {
-    const QList<QStringList> lines = {words("h,i"), words("a,b"), words("c,d")};
+    const QList<QStringList> lines = {cells("h,i"), cells("a,b"), cells("c,d")};
     for (const int headerRows : {0, 1, 2}) {
         const FilledTable table(headerRows, lines);
         EXPECT_EQ(table.rowCount(), 3 - headerRows);
@@ -64,7 +64,7 @@ TEST(TableModel, HasNoRowsWhenEvenItsHeaderIsMissing)
 
 TEST(TableModel, GivesTextAndAlignmentOnly)
 {
-    const FilledTable table(1, {words("h"), words("a")});
+    const FilledTable table(1, {cells("h"), cells("a")});
     const QModelIndex cell = table.index(0, 0);
 
     EXPECT_EQ(table.data(cell, Qt::DisplayRole), QVariant(u"a"_s));
@@ -116,7 +116,7 @@ TEST(TableModel, LettersItsColumnsWhenItHasNoHeaderLine)
 
 TEST(TableModel, TakesColumnNamesFromItsHeaderLine)
 {
-    FilledTable table(1, {words("SKU,Name"), words("1,2")});
+    FilledTable table(1, {cells("SKU,Name"), cells("1,2")});
     EXPECT_FALSE(table.headerData(0, Qt::Horizontal).isValid());
 
     ASSERT_TRUE(table.setFileName(u"some file"_s));
@@ -138,13 +138,13 @@ TEST(TableModel, MakesColumnNamesUnique)
                        {"B,,B", "B,B1,B2"},  {"a,a,a1", "a,a1,a11"}};
     for (const auto& row : cases) {
         SCOPED_TRACE(row.header);
-        FilledTable table(1, {words(row.header)});
+        FilledTable table(1, {cells(row.header)});
         table.setFileName(u"x"_s);
         QStringList names;
         for (int column = 0; column < table.columnCount(); ++column) {
             names.append(table.headerData(column, Qt::Horizontal).toString());
         }
-        EXPECT_EQ(names, words(row.names)) << names.join(u',').toStdString();
+        EXPECT_EQ(names, cells(row.names)) << names.join(u',').toStdString();
     }
 }
 
@@ -157,7 +157,7 @@ TEST(TableModel, NamesManyEqualColumnsInReasonableTime)
 
 TEST(TableModel, KeepsItsFileNameWhenAnotherFileDoesNotOpen)
 {
-    FilledTable table(1, {words("a")});
+    FilledTable table(1, {cells("a")});
     table.setFileName(u"first"_s);
     table.setOpens(false);
     const CapturedLog log;
@@ -175,7 +175,7 @@ TEST(TableModel, KeepsItsFileNameWhenAnotherFileDoesNotOpen)
 
 TEST(TableModel, NotifiesItsViewsOfAChangedTable)
 {
-    FilledTable table(1, {words("a"), words("b")});
+    FilledTable table(1, {cells("a"), cells("b")});
     const QAbstractItemModelTester tester(&table,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QSignalSpy reset(&table, &QAbstractItemModel::modelReset);

@@ -48,7 +48,7 @@ TEST(DatasourceKeys, OneOfThemPointsIntoTheText)
     EXPECT_FALSE(isEmbeddedKey(QString()));
 }
 
-struct TextRow
+struct CodeRow
 {
     const char* text;
     const char* key; // null for none
@@ -56,13 +56,13 @@ struct TextRow
 
 TEST(DatasourceKeys, AreFoundInATextBetweenPercentSigns)
 {
-    for (const TextRow& row :
-         {TextRow{"Lot %_DATES% / %_TIME%", "_DATES"}, TextRow{"%_TIME%%_DATE%", "_DATE"},
-          TextRow{"%_SEQUENCE%", "_SEQUENCE"}, TextRow{"%_DATE% %_ROW%", "_ROW"},
-          TextRow{"%_DATEX%", "_DATEX"}, TextRow{"a%Record%b", "Record"},
-          TextRow{"%Value% %Record%", "Record"}, TextRow{"%Value%", "Value"},
-          TextRow{"_DATE", nullptr}, TextRow{"%_DATE", nullptr}, TextRow{"%_date%", nullptr},
-          TextRow{"% _DATE %", nullptr}, TextRow{"%_SPECIAL%", nullptr}, TextRow{"", nullptr}}) {
+    for (const CodeRow& row :
+         {CodeRow{"Lot %_DATES% / %_TIME%", "_DATES"}, CodeRow{"%_TIME%%_DATE%", "_DATE"},
+          CodeRow{"%_SEQUENCE%", "_SEQUENCE"}, CodeRow{"%_DATE% %_ROW%", "_ROW"},
+          CodeRow{"%_DATEX%", "_DATEX"}, CodeRow{"a%Record%b", "Record"},
+          CodeRow{"%Value% %Record%", "Record"}, CodeRow{"%Value%", "Value"},
+          CodeRow{"_DATE", nullptr}, CodeRow{"%_DATE", nullptr}, CodeRow{"%_date%", nullptr},
+          CodeRow{"% _DATE %", nullptr}, CodeRow{"%_SPECIAL%", nullptr}, CodeRow{"", nullptr}}) {
         SCOPED_TRACE(row.text);
         const DatasourceRule* rule = ruleOfKeyIn(QLatin1String(row.text));
         ASSERT_EQ(rule != nullptr, row.key != nullptr);

@@ -6,8 +6,9 @@ using tavrel::ImportIssues;
 
 namespace {
 
-const QString Symbols = QStringLiteral("Errors reading symbol items.\nPlease update legacy Tavrel "
-                                       "to its latest version and re-save file.");
+const QString SymbolIssue =
+    QStringLiteral("Errors reading symbol items.\nPlease update legacy Tavrel "
+                   "to its latest version and re-save file.");
 const QString Barcodes = QStringLiteral("Unsupported barcode symbols.");
 const QString Datasource = QStringLiteral("Datasource not connected.");
 
@@ -23,7 +24,7 @@ TEST(ImportIssues, EachIssueIsReportedAlone)
 {
     ImportIssues symbols;
     symbols.symbolErrors = true;
-    EXPECT_EQ(symbols.text(), Symbols);
+    EXPECT_EQ(symbols.text(), SymbolIssue);
     ImportIssues barcodes;
     barcodes.barcodeErrors = true;
     EXPECT_EQ(barcodes.text(), Barcodes);
@@ -40,7 +41,7 @@ TEST(ImportIssues, SymbolsAndBarcodesAreListedOnePerLine)
     ImportIssues issues;
     issues.barcodeErrors = true;
     issues.symbolErrors = true;
-    EXPECT_EQ(issues.text(), Symbols + QLatin1Char('\n') + Barcodes);
+    EXPECT_EQ(issues.text(), SymbolIssue + QLatin1Char('\n') + Barcodes);
 }
 
 TEST(ImportIssues, AllTogetherKeepTheirOrder)
@@ -52,8 +53,8 @@ TEST(ImportIssues, AllTogetherKeepTheirOrder)
     issues.addNote(QStringLiteral("two"));
     issues.barcodeErrors = true;
     issues.symbolErrors = true;
-    EXPECT_EQ(issues.text(),
-              Symbols + QLatin1Char('\n') + Barcodes + QStringLiteral("\none\ntwo\n") + Datasource);
+    EXPECT_EQ(issues.text(), SymbolIssue + QLatin1Char('\n') + Barcodes +
+                                 QStringLiteral("\none\ntwo\n") + Datasource);
 }
 
 } // namespace

@@ -25,7 +25,7 @@ const QByteArray Pixels = hex("0000000F 49444154 78DA63F8CFC0C0F09F010007FF01FF 
 const QByteArray End = hex("00000000 49454E44 AE426082");
 const QByteArray Picture = Marker + Signature + Start + Pixels + End;
 // The data after the picture in the file.
-const QByteArray Next = hex("0000002A");
+const QByteArray NextField = hex("0000002A");
 
 struct Outcome
 {
@@ -51,7 +51,7 @@ QByteArray chunk(const char* type, const QByteArray& data)
 
 TEST(StreamPicture, IsAMarkerAndAPng)
 {
-    const Outcome outcome = read(Picture + Next);
+    const Outcome outcome = read(Picture + NextField);
     EXPECT_EQ(outcome.picture.image.size(), QSize(2, 1));
     EXPECT_EQ(outcome.picture.image.pixelColor(0, 0), QColor(Qt::red));
     EXPECT_EQ(outcome.picture.image.pixelColor(1, 0), QColor(Qt::green));
@@ -72,7 +72,7 @@ TEST(StreamPicture, IsWhatTheStreamOfQtWrites)
 
 TEST(StreamPicture, MarkerOfZeroIsNotAPicture)
 {
-    const Outcome outcome = read(hex("00000000") + Next);
+    const Outcome outcome = read(hex("00000000") + NextField);
     EXPECT_TRUE(outcome.picture.image.isNull());
     EXPECT_FALSE(outcome.picture.refused);
     EXPECT_EQ(outcome.left, 4);
@@ -80,7 +80,7 @@ TEST(StreamPicture, MarkerOfZeroIsNotAPicture)
 
 TEST(StreamPicture, OtherDataThanPngStaysInTheStream)
 {
-    const Outcome outcome = read(Marker + Next);
+    const Outcome outcome = read(Marker + NextField);
     EXPECT_TRUE(outcome.picture.image.isNull());
     EXPECT_TRUE(outcome.picture.refused);
     EXPECT_EQ(outcome.left, 4);
@@ -97,7 +97,7 @@ class DamagedPicture : public testing::TestWithParam<DamageRow>
 
 TEST_P(DamagedPicture, IsRefusedAndTheNextRecordIsFound)
 {
-    const Outcome outcome = read(Marker + Signature + GetParam().png + Next);
+    const Outcome outcome = read(Marker + Signature + GetParam().png + NextField);
     EXPECT_TRUE(outcome.picture.image.isNull()) << GetParam().what;
     EXPECT_TRUE(outcome.picture.refused) << GetParam().what;
     EXPECT_EQ(outcome.left, 4) << GetParam().what;
@@ -136,7 +136,7 @@ TEST(StreamPicture, ChunkBeyondTheEndTakesTheRest)
 {
     for (const char* length : {"00000100", "80000000", "FFFFFFFF"}) {
         const Outcome outcome =
-            read(Marker + Signature + Start + hex(length) + QByteArray("IDAT") + Next);
+            read(Marker + Signature + Start + hex(length) + QByteArray("IDAT") + NextField);
         EXPECT_TRUE(outcome.picture.refused) << length;
         EXPECT_EQ(outcome.left, 0) << length;
     }
@@ -153,7 +153,8 @@ TEST(StreamPicture, ChunksThatThePixelsDoNotNeedAreLeftOut)
 {
     const QByteArray bomb = chunk("zTXt", QByteArray("key\0\0", 5) + QByteArray(2000, 'x'));
     const QByteArray profile = chunk("iCCP", QByteArray("p\0\0", 3) + QByteArray(2000, 'x'));
-    const Outcome outcome = read(Marker + Signature + Start + bomb + profile + Pixels + End + Next);
+    const Outcome outcome =
+        read(Marker + Signature + Start + bomb + profile + Pixels + End + NextField);
     EXPECT_EQ(outcome.picture.image.size(), QSize(2, 1));
     EXPECT_TRUE(outcome.picture.image.textKeys().isEmpty());
     EXPECT_EQ(outcome.left, 4);
@@ -164,7 +165,7 @@ TEST(StreamPicture, PixelsOfAFileAreCounted)
     EXPECT_EQ(read(Picture, 10).pixelsLeft, 8);
     EXPECT_FALSE(read(Picture, 2).picture.refused);
 
-    const Outcome outcome = read(Picture + Next, 1);
+    const Outcome outcome = read(Picture + NextField, 1);
     EXPECT_TRUE(outcome.picture.refused);
     EXPECT_EQ(outcome.pixelsLeft, 1);
     EXPECT_EQ(outcome.left, 4);
@@ -191,13 +192,14 @@ TEST_P(SkippedPicture, LeavesTheStreamWhereReadingLeavesIt)
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, SkippedPicture,
-                         testing::Values(Picture + Next, hex("00000000") + Next, Marker + Next,
-                                         Marker + Signature + HugeStart + Pixels + End + Next,
+                         testing::Values(Picture + NextField, hex("00000000") + NextField,
+                                         Marker + NextField,
+                                         Marker + Signature + HugeStart + Pixels + End + NextField,
                                          Marker + Signature + Start, Marker, QByteArray()));
 
 TEST(PictureRecord, IsHeaderAndPicture)
 {
-    QDataStream stream(hex(HeaderHex) + Picture + Next);
+    QDataStream stream(hex(HeaderHex) + Picture + NextField);
     qint64 pixelsLeft = 100;
     const PictureRecord record =
         readPictureRecord(stream, {2000024, {300.0, 150.0}}, 4, pixelsLeft);

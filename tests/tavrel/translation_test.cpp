@@ -53,7 +53,7 @@ protected:
 };
 
 const QString Title = QStringLiteral("QObject/Error message title.");
-const QString Content = QStringLiteral("QObject/Content of error message.");
+const QString TranslatedContent = QStringLiteral("QObject/Content of error message.");
 
 TEST_F(Translation, OfTheWarning)
 {
@@ -72,7 +72,7 @@ TEST_F(Translation, OfTheWarning)
           "re-save file.",
           "Unsupported barcode symbols.", ":\n\tOriginal font size: %1.",
           "Datasource not connected."}) {
-        EXPECT_EQ(translator.commentOf(QString::fromUtf8(text)), Content) << text;
+        EXPECT_EQ(translator.commentOf(QString::fromUtf8(text)), TranslatedContent) << text;
     }
 }
 
@@ -82,7 +82,7 @@ TEST_F(Translation, OfTheLoadError)
     EXPECT_EQ(boxes.first()->windowTitle(), QStringLiteral("<Load Error>"));
     EXPECT_EQ(boxText(), QStringLiteral("<Errors reading items.>"));
     EXPECT_EQ(translator.commentOf(QStringLiteral("Load Error")), Title);
-    EXPECT_EQ(translator.commentOf(QStringLiteral("Errors reading items.")), Content);
+    EXPECT_EQ(translator.commentOf(QStringLiteral("Errors reading items.")), TranslatedContent);
 }
 
 TEST_F(Translation, OfTheVersionRefusal)

@@ -22,9 +22,9 @@ using window::MenuId;
 
 namespace {
 
-const QStringList English{QStringLiteral("en")};
-const QStringList German{QStringLiteral("de")};
-const QStringList French{QStringLiteral("fr")};
+const QStringList EnglishLocale{QStringLiteral("en")};
+const QStringList GermanLocale{QStringLiteral("de")};
+const QStringList FrenchLocale{QStringLiteral("fr")};
 
 constexpr MenuId Menus[] = {MenuId::File,   MenuId::Edit,   MenuId::View, MenuId::Colors,
                             MenuId::Panels, MenuId::Record, MenuId::Help};
@@ -65,7 +65,7 @@ void expectDifferentMnemonics(const QStringList& texts)
 
 TEST_F(Words, MnemonicsWithinAMenuAreDifferent)
 {
-    for (const QStringList& languages : {German, French}) {
+    for (const QStringList& languages : {GermanLocale, FrenchLocale}) {
         const ProgramLanguage language(languages);
         const window::Actions actions;
         QMap<MenuId, QStringList> texts;
@@ -93,7 +93,7 @@ TEST_F(Words, MnemonicsWithinAMenuAreDifferent)
 TEST_F(Words, WhyAFileIsRefused)
 {
     const QString file = write("old.cnv", QByteArray("\0\0\0\0\0\x1e\x84\x8f", 8));
-    for (const auto& language : {English, German, French}) {
+    for (const auto& language : {EnglishLocale, GermanLocale, FrenchLocale}) {
         const ProgramLanguage program(language);
         const QString error = workbench::importLabel(file).error;
         EXPECT_TRUE(error.contains(QStringLiteral("2000015"))) << qPrintable(error);
@@ -103,7 +103,7 @@ TEST_F(Words, WhyAFileIsRefused)
 
 TEST_F(Words, WhyABarcodeIsNotDrawn)
 {
-    const ProgramLanguage language(German);
+    const ProgramLanguage language(GermanLocale);
     workbench::barcodes::BarcodeRequest request;
     request.symbology = 14;
     request.content = QStringLiteral("x");
@@ -117,7 +117,7 @@ TEST_F(Words, WhichFieldOfASavedLabelIsWrong)
 {
     const QString file = write("a.label", R"({"format": "labelport-label", "version": 1,
         "label": {"page": {"size": "wide"}, "datasources": [], "items": []}})");
-    const ProgramLanguage language(French);
+    const ProgramLanguage language(FrenchLocale);
     workbench::Canvas canvas;
     workbench::datasources::DatasourceController sources;
     EXPECT_EQ(workbench::document::openLabel(file, canvas, sources),
@@ -137,10 +137,10 @@ TEST_F(Words, IssuesOfALabelInTheWindow)
     label.report.repaired = {{QStringLiteral("groups-dissolved"), QStringLiteral("English"), 1},
                              {QStringLiteral("lists-replaced"), QStringLiteral("English"), 2}};
     const std::pair<QStringList, QStringList> rows[] = {
-        {English,
+        {EnglishLocale,
          {QStringLiteral("Items extend beyond the edge of the page: that part is not printed."),
           QStringLiteral("1 group dissolved"), QStringLiteral("2 lists replaced by paragraphs")}},
-        {German,
+        {GermanLocale,
          {QStringLiteral(
               "Objekte ragen über den Seitenrand hinaus: Dieser Teil wird nicht gedruckt."),
           QStringLiteral("1 Gruppe aufgelöst"), QStringLiteral("2 Listen durch Absätze ersetzt")}},

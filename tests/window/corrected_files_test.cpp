@@ -87,7 +87,7 @@ QString plainTextOf(const workbench::ItemValues& values)
 }
 
 // Where two pictures differ, and by how much.
-std::string differenceOf(const QImage& one, const QImage& other)
+std::string pixelDifference(const QImage& one, const QImage& other)
 {
     if (one.size() != other.size()) {
         return "different sizes";
@@ -171,10 +171,10 @@ TEST_P(CorrectedFilesTest, AreSavedOpenedUndoneAndPrinted)
     for (int step = 0; step < steps; ++step) {
         main.action(ActionId::Undo).trigger();
     }
-    EXPECT_TRUE(picture() == original) << differenceOf(picture(), original);
+    EXPECT_TRUE(picture() == original) << pixelDifference(picture(), original);
     main.session().undoStack().setClean();
     ASSERT_EQ(main.openFileQuietly(path(u"corrected.label"_s)), QString());
-    EXPECT_TRUE(picture() == corrected) << differenceOf(picture(), corrected);
+    EXPECT_TRUE(picture() == corrected) << pixelDifference(picture(), corrected);
     const qint64 reopened = time.restart();
 
     PrintDialog print(label(), 0, {}, nullptr);

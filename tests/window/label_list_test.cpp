@@ -22,8 +22,6 @@ using namespace window;
 
 namespace {
 
-constexpr int Timeout = 120'000; // milliseconds; far more than an import takes
-
 class LabelListTest : public WindowFixture
 {
 protected:
@@ -58,7 +56,7 @@ protected:
     static void waitFor(FolderReview& review)
     {
         QSignalSpy completed(&review, &FolderReview::completed);
-        EXPECT_TRUE(!review.isBusy() || completed.wait(Timeout));
+        EXPECT_TRUE(!review.isBusy() || completed.wait(ImportTimeout));
     }
 };
 

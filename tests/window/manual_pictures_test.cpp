@@ -29,7 +29,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int Timeout = 120'000; // milliseconds; far more than an import takes
 constexpr QSize WindowSize(1000, 640);
 
 // 32 steps of each color make a smaller file.
@@ -112,7 +111,7 @@ TEST_F(ManualPictures, Review)
     FolderReview& review = window->panels().labels().review();
     QSignalSpy completed(&review, &FolderReview::completed);
     ASSERT_TRUE(window->openFile(folder));
-    ASSERT_TRUE(!review.isBusy() || completed.wait(Timeout));
+    ASSERT_TRUE(!review.isBusy() || completed.wait(ImportTimeout));
     ASSERT_TRUE(window->openFile(folder + u"/member_card_2000024.cnv"_s));
     window->action(ActionId::GoIssues).trigger();
     keep(*window, u"review"_s);

@@ -35,8 +35,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int Timeout = 120'000; // milliseconds; far more than an import takes
-
 using Setting = std::tuple<QString, QSize, ColorScheme>;
 
 QString nameOf(const Setting& setting)
@@ -170,7 +168,7 @@ TEST_P(TourTest, Folder)
     FolderReview& review = window->panels().labels().review();
     QSignalSpy completed(&review, &FolderReview::completed);
     ASSERT_TRUE(window->openFile(folder));
-    ASSERT_TRUE(!review.isBusy() || completed.wait(Timeout));
+    ASSERT_TRUE(!review.isBusy() || completed.wait(ImportTimeout));
     window->action(ActionId::GoOriginal).trigger();
     keep(*window, u"original"_s);
     ASSERT_TRUE(window->openFile(folder + u"/member_card_2000024.cnv"_s));

@@ -15,6 +15,9 @@
 
 #include <gtest/gtest.h>
 
+/// Milliseconds; far more than an import takes.
+inline constexpr int ImportTimeout = 120'000;
+
 /// A temporary folder and separate settings for a test.
 class WindowFixture : public ::testing::Test
 {

@@ -26,7 +26,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QStringList textsOf(const QList<ImportIssue>& issues)
+QStringList issueTexts(const QList<ImportIssue>& issues)
 {
     QStringList texts;
     for (const ImportIssue& issue : issues) {
@@ -143,7 +143,7 @@ TEST(IssueText, TakeTheTextOfABoxApart)
         {QStringLiteral("Errors reading symbol items.\nPlease update legacy Tavrel to its latest "
                         "version and re-save file.\nUnsupported barcode symbols.\n\"Net\":\n\t"
                         "Original font size: 6.\nDatasource not connected.\nSomething else.")});
-    EXPECT_EQ(textsOf(issues),
+    EXPECT_EQ(issueTexts(issues),
               QStringList({QStringLiteral("Left out symbols: neither the file nor the symbol "
                                           "databases contain their drawings."),
                            QStringLiteral("Left out barcodes of unsupported types."),
@@ -193,7 +193,7 @@ TEST(IssueText, ShowErrorsOfTheLogAndExplainThoseThatAreKnown)
                        debugRecord("Unsupported document type."),
                        refusal(refusals::PictureTooLarge)},
                       {});
-    EXPECT_EQ(textsOf(issues),
+    EXPECT_EQ(issueTexts(issues),
               QStringList({QStringLiteral("Something went wrong"),
                            QStringLiteral("The file continues with an object of the unknown type "
                                           "-7; the rest was not read."),

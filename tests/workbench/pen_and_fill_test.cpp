@@ -42,7 +42,7 @@ FillableItem& putBox(Painted& page, int brushStyle)
     return item;
 }
 
-LineItem& putLine(Painted& page)
+LineItem& putWideLine(Painted& page)
 {
     auto& line = page.make<LineItem>(KestTypes::Line);
     line.setPos(20.0, 50.0);
@@ -87,7 +87,7 @@ TEST(Pen, UnknownNumbersAreASolidLineAFlatCapABeveledJoin)
 TEST(Pen, AWidthOfZeroIsTheThinnestLineOfTheOutput)
 {
     Painted page;
-    putLine(page).setPenWidth(0);
+    putWideLine(page).setPenWidth(0);
     EXPECT_LE(inkOf(page.image(72.0)).height(), 2);
     EXPECT_GE(inkOf(page.image(72.0)).height(), 1);
     EXPECT_LE(inkOf(page.image(600.0)).height(), 2);
@@ -96,7 +96,7 @@ TEST(Pen, AWidthOfZeroIsTheThinnestLineOfTheOutput)
 TEST(Pen, AWidthIsInPoints)
 {
     Painted page;
-    putLine(page);
+    putWideLine(page);
     EXPECT_EQ(inkOf(page.image(72.0)), QRect(20, 48, 160, 4));
     EXPECT_EQ(inkOf(page.image(288.0)), QRect(80, 192, 640, 16));
 }
@@ -105,11 +105,11 @@ TEST(Pen, DashesLeaveGapsAndASolidLineNone)
 {
     const QRect line(20, 49, 160, 1);
     Painted solid;
-    putLine(solid);
+    putWideLine(solid);
     EXPECT_EQ(countOf(solid.image(), line, Qt::white), 0);
     for (const int style : {2, 3, 4, 5}) {
         Painted dashed;
-        putLine(dashed).setPenStyle(style);
+        putWideLine(dashed).setPenStyle(style);
         const QImage image = dashed.image();
         EXPECT_GT(countOf(image, line, Qt::white), 20) << style;
         EXPECT_GT(countOf(image, line, Qt::black), 20) << style;
@@ -119,7 +119,7 @@ TEST(Pen, DashesLeaveGapsAndASolidLineNone)
 TEST(Pen, CapsReachBeyondTheEnds)
 {
     Painted page;
-    auto& line = putLine(page);
+    auto& line = putWideLine(page);
     line.setCapStyle(Qt::SquareCap);
     EXPECT_EQ(page.ink(), QRect(18, 48, 164, 4));
     line.setCapStyle(Qt::FlatCap);

@@ -25,7 +25,7 @@ QImage readBack(const QImage& image)
     return QImage::fromData(encoded(image), "png");
 }
 
-QImage plain(const QImage& image)
+QImage withAlpha(const QImage& image)
 {
     return image.convertToFormat(QImage::Format_ARGB32);
 }
@@ -78,7 +78,7 @@ TEST(PngEncoder, WritesWhatQtReadsBack)
                 SCOPED_TRACE(testing::Message() << size.width() << 'x' << size.height() << ", "
                                                 << colors << " colors, alpha " << alpha);
                 const QImage image = pictureOf(size, colors, alpha);
-                EXPECT_EQ(plain(readBack(image)), image);
+                EXPECT_EQ(withAlpha(readBack(image)), image);
             }
         }
     }
@@ -89,10 +89,10 @@ TEST(PngEncoder, TakesPicturesOfEveryFormat)
     const QImage image = pictureOf({20, 20}, 60000, 255);
     for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
                               QImage::Format_RGB888, QImage::Format_RGBA8888}) {
-        EXPECT_EQ(plain(readBack(image.convertToFormat(format))), image) << int(format);
+        EXPECT_EQ(withAlpha(readBack(image.convertToFormat(format))), image) << int(format);
     }
     const QImage mono = image.convertToFormat(QImage::Format_Mono);
-    EXPECT_EQ(plain(readBack(mono)), plain(mono));
+    EXPECT_EQ(withAlpha(readBack(mono)), withAlpha(mono));
 }
 
 TEST(PngEncoder, WritesTheKindOfPictureThatIsNeeded)
@@ -108,7 +108,7 @@ TEST(PngEncoder, WritesTheKindOfPictureThatIsNeeded)
         const QImage image = pictureOf({40, 40}, row.colors, 255);
         EXPECT_EQ(encoded(image).at(BitDepthAt), row.bits) << row.colors;
         EXPECT_EQ(encoded(image).at(ColorTypeAt), 3) << row.colors;
-        EXPECT_EQ(plain(readBack(image)), image) << row.colors;
+        EXPECT_EQ(withAlpha(readBack(image)), image) << row.colors;
     }
     EXPECT_EQ(encoded(pictureOf({20, 20}, 100, 255)).at(ColorTypeAt), 3);
     EXPECT_EQ(encoded(pictureOf({20, 20}, 60000, 255)).at(ColorTypeAt), 2);
@@ -140,7 +140,7 @@ TEST(PngEncoder, LeavesOutTextsWithoutAKey)
     image.setText(QStringLiteral(" "), QStringLiteral("no key"));
     image.setText(QString(80, u'k'), QStringLiteral("long key"));
     EXPECT_FALSE(encoded(image).contains("iTXt"));
-    EXPECT_EQ(plain(readBack(image)), image);
+    EXPECT_EQ(withAlpha(readBack(image)), image);
 }
 
 TEST(PngEncoder, RefusesAPictureOfNothing)

@@ -23,8 +23,8 @@
 
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 std::unique_ptr<TalMessageBox> makeBox()
 {
@@ -41,8 +41,8 @@ TEST(BasicConversions, ValuesWithinTheToleranceAreAlmostEqual)
     EXPECT_TRUE(BasicConversions::almostEqual(1.0, 1.5, 0.5));
     EXPECT_TRUE(BasicConversions::almostEqual(0.0, -0.0, 0.0));
     EXPECT_FALSE(BasicConversions::almostEqual(72.0, 72.001, 0.0005));
-    EXPECT_FALSE(BasicConversions::almostEqual(kNaN, kNaN, 1.0));
-    EXPECT_FALSE(BasicConversions::almostEqual(1.0, kNaN, 1.0));
+    EXPECT_FALSE(BasicConversions::almostEqual(NotANumber, NotANumber, 1.0));
+    EXPECT_FALSE(BasicConversions::almostEqual(1.0, NotANumber, 1.0));
 }
 
 TEST(BasicConversions, AnglesAreBroughtIntoOneTurn)
@@ -54,7 +54,7 @@ TEST(BasicConversions, AnglesAreBroughtIntoOneTurn)
     };
     for (const Row& row :
          {Row{0, 0}, Row{359.5, 359.5}, Row{360, 0}, Row{450, 90}, Row{-90, 270}, Row{-360, 0},
-          Row{-3690, 270}, Row{kNaN, 0}, Row{kInfinity, 0}, Row{-kInfinity, 0}}) {
+          Row{-3690, 270}, Row{NotANumber, 0}, Row{Infinity, 0}, Row{-Infinity, 0}}) {
         EXPECT_EQ(BasicConversions::normalizeAngle(row.given), row.angle) << row.given;
     }
     const double tiny = BasicConversions::normalizeAngle(-1e-30);

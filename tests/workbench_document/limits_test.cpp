@@ -49,7 +49,7 @@ QJsonObject withItems(const QJsonArray& items)
     return file;
 }
 
-std::string errorOf(const QJsonObject& file)
+std::string refusalOf(const QJsonObject& file)
 {
     return fromJson(QJsonDocument(file).toJson()).error.toStdString();
 }
@@ -95,10 +95,11 @@ TEST(LabelLimits, CountItems)
     QJsonArray items;
     for (qsizetype i = 0; i < limits::Items; ++i)
         items.append(0);
-    EXPECT_EQ(errorOf(withItems(items)),
+    EXPECT_EQ(refusalOf(withItems(items)),
               "The label file is damaged: items[0] is not a group of fields.");
     items.append(0);
-    EXPECT_EQ(errorOf(withItems(items)), "The label file is damaged: items is longer than 500000.");
+    EXPECT_EQ(refusalOf(withItems(items)),
+              "The label file is damaged: items is longer than 500000.");
 }
 
 // Parsing the largest accepted text takes gigabytes; the test therefore only measures it.
@@ -135,11 +136,11 @@ TEST(LabelLimits, CountThePixelsOfAllPictures)
     const QJsonObject half = itemClaiming(15'000, 5'000);
     const QJsonObject most{{QLatin1String("items"), QJsonArray{half, half}}};
     EXPECT_EQ(claimedPixels(most), limits::AllPicturePixels);
-    EXPECT_NE(errorOf(withItems({half, half})),
+    EXPECT_NE(refusalOf(withItems({half, half})),
               "The label file is damaged: its pictures are too large.");
-    EXPECT_EQ(errorOf(withItems({half, half, itemClaiming(1, 1)})),
+    EXPECT_EQ(refusalOf(withItems({half, half, itemClaiming(1, 1)})),
               "The label file is damaged: its pictures are too large.");
-    EXPECT_EQ(errorOf(withItems({itemClaiming(0xFFFFFFFF, 0xFFFFFFFF)})),
+    EXPECT_EQ(refusalOf(withItems({itemClaiming(0xFFFFFFFF, 0xFFFFFFFF)})),
               "The label file is damaged: its pictures are too large.");
 }
 

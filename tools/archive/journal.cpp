@@ -13,7 +13,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const QString LockName = u".labelport-journal.lock"_s;
+const QString JournalLockName = u".labelport-journal.lock"_s;
 
 QStringList journalsIn(const QString& folder)
 {
@@ -73,7 +73,7 @@ void rewrite(const QString& path)
 /// another command uses them.
 FileLock lockJournals(const QString& folder, bool isRewriting)
 {
-    const QString path = QDir(folder).filePath(LockName);
+    const QString path = QDir(folder).filePath(JournalLockName);
     if (isRewriting) {
         const FileLock exclusive = FileLock::tryLock(path, FileLock::Exclusive, true);
         if (exclusive.isHeld()) {

@@ -20,7 +20,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 /// The first key of a header. QJsonObject writes keys in alphabetical order.
-constexpr QLatin1String VersionKey("_labelport_list");
+constexpr QLatin1String ListVersionKey("_labelport_list");
 constexpr int Version = 1;
 
 qsizetype inputsIn(const Shard& shard, qsizetype inputs)
@@ -29,12 +29,12 @@ qsizetype inputsIn(const Shard& shard, qsizetype inputs)
     return inputs > before ? (inputs - before - 1) / shard.count + 1 : 0;
 }
 
-QByteArray lineOf(const QJsonObject& object)
+QByteArray listLine(const QJsonObject& object)
 {
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
-QByteArray lineOf(const Input& input, const OutputName& name)
+QByteArray listLine(const Input& input, const OutputName& name)
 {
     QJsonObject object{{u"file"_s, input.path}};
     if (input.shownName != input.path) {
@@ -53,7 +53,7 @@ QByteArray lineOf(const Input& input, const OutputName& name)
     if (!name.folderSuffixes.isEmpty()) {
         object.insert(u"folders"_s, QJsonArray::fromStringList(name.folderSuffixes));
     }
-    return lineOf(object);
+    return listLine(object);
 }
 
 /// Outputs must stay below the output folder.
@@ -113,7 +113,8 @@ std::optional<QJsonObject> nextObject(QIODevice& device)
 
 bool isPreparedList(const QByteArray& start)
 {
-    return start.startsWith("{\"" + QByteArray(VersionKey.data(), VersionKey.size()) + "\":");
+    return start.startsWith("{\"" + QByteArray(ListVersionKey.data(), ListVersionKey.size()) +
+                            "\":");
 }
 
 PreparedList readPreparedList(QIODevice& device, QString& error)
@@ -123,7 +124,7 @@ PreparedList readPreparedList(QIODevice& device, QString& error)
         return PreparedList();
     };
     const QJsonObject header = nextObject(device).value_or(QJsonObject());
-    if (header.value(VersionKey).toInt() != Version) {
+    if (header.value(ListVersionKey).toInt() != Version) {
         return fail(QT_TRANSLATE_NOOP("archive::PreparedList",
                                       "it was written by another version of labelport"));
     }
@@ -148,13 +149,13 @@ PreparedList readPreparedList(QIODevice& device, QString& error)
 
 bool writePreparedList(QIODevice& device, const PartRequest& part)
 {
-    const QJsonObject header{{VersionKey, Version},
+    const QJsonObject header{{ListVersionKey, Version},
                              {u"shard"_s, u"%1/%2"_s.arg(part.shard.number).arg(part.shard.count)},
                              {u"files"_s, inputsIn(part.shard, part.inputs.size())}};
-    bool isWritten = device.write(lineOf(header)) > 0;
+    bool isWritten = device.write(listLine(header)) > 0;
     for (qsizetype index = part.shard.number - 1; isWritten && index < part.inputs.size();
          index += part.shard.count) {
-        isWritten = device.write(lineOf(part.inputs.at(index), part.names.chosen(index))) > 0;
+        isWritten = device.write(listLine(part.inputs.at(index), part.names.chosen(index))) > 0;
     }
     return isWritten;
 }

@@ -16,10 +16,10 @@ namespace archive {
 using namespace Qt::StringLiterals;
 namespace {
 
-QString tr(const char* text)
+struct ProgressTr
 {
-    return QCoreApplication::translate("archive::Progress", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(archive::Progress)
+};
 
 QString bar(double share, int width)
 {
@@ -78,11 +78,11 @@ QString progressLine(const Progress& progress, int columns)
     if (rate > 0.0) {
         const auto left =
             static_cast<qint64>(static_cast<double>(progress.total - progress.done) / rate + 0.5);
-        parts.append(tr("%1 files/s").arg(rate, 0, 'f', rate < 10.0 ? 1 : 0));
-        parts.append(tr("%1 left").arg(durationText(left)));
+        parts.append(ProgressTr::tr("%1 files/s").arg(rate, 0, 'f', rate < 10.0 ? 1 : 0));
+        parts.append(ProgressTr::tr("%1 left").arg(durationText(left)));
     }
     if (progress.failed > 0) {
-        parts.append(tr("%1 failed").arg(progress.failed));
+        parts.append(ProgressTr::tr("%1 failed").arg(progress.failed));
     }
     if (!progress.slowFile.isEmpty()) {
         parts.append(slowFileText(progress));

@@ -21,10 +21,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString tr(const char* text)
+struct PublishTr
 {
-    return QCoreApplication::translate("archive::Publish", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(archive::Publish)
+};
 
 /// Moves a file; returns 0 or the system's error number.
 int moveFile(const QByteArray& from, const QByteArray& to, bool mayReplace)
@@ -75,18 +75,19 @@ int copyFile(const QByteArray& from, const QString& output, bool mayReplace)
 
 QString cannotWrite(const QString& path, const QString& reason)
 {
-    return tr("Cannot write \"%1\": %2.").arg(path, reason);
+    return PublishTr::tr("Cannot write \"%1\": %2.").arg(path, reason);
 }
 
 QString folderInPlaceMessage(const QString& path)
 {
-    return cannotWrite(path, tr("a folder of that name exists"));
+    return cannotWrite(path, PublishTr::tr("a folder of that name exists"));
 }
 
 QString foreignFileMessage(const QString& path)
 {
-    return tr("\"%1\" exists, and it was not written by labelport or has been edited since. Use "
-              "--force to overwrite it.")
+    return PublishTr::tr(
+               "\"%1\" exists, and it was not written by labelport or has been edited since. Use "
+               "--force to overwrite it.")
         .arg(path);
 }
 
@@ -96,7 +97,7 @@ QString publish(const StagedFile& file, bool mayReplace)
     const QString folder = QFileInfo(path).path();
     const QString folderError = console::makeFolder(folder);
     if (!folderError.isEmpty()) {
-        return tr("Cannot create folder \"%1\": %2.").arg(folder, folderError);
+        return PublishTr::tr("Cannot create folder \"%1\": %2.").arg(folder, folderError);
     }
     if (console::kindOf(path) == console::FileKind::Folder) {
         return folderInPlaceMessage(path);

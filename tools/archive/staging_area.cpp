@@ -17,13 +17,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString Prefix = u".labelport-work-"_s;
-const QString LockName = u"lock"_s;
+const QString StagingLockName = u"lock"_s;
 
 /// The folder of another command exists for a moment before it is locked.
 bool isBeingCreated(const QFileInfo& folder)
 {
     constexpr qint64 moment = 60;
-    return !QFileInfo::exists(QDir(folder.filePath()).filePath(LockName)) &&
+    return !QFileInfo::exists(QDir(folder.filePath()).filePath(StagingLockName)) &&
            folder.lastModified().secsTo(QDateTime::currentDateTime()) < moment;
 }
 
@@ -38,7 +38,7 @@ void removeAbandoned(const QString& outputFolder)
         }
         QDir abandoned(folder.filePath());
         const FileLock lock =
-            FileLock::tryLock(abandoned.filePath(LockName), FileLock::Exclusive, true);
+            FileLock::tryLock(abandoned.filePath(StagingLockName), FileLock::Exclusive, true);
         if (lock.isHeld()) {
             abandoned.removeRecursively();
         }
@@ -83,7 +83,7 @@ QString StagingArea::open(const QString& outputFolder)
         if (!folder.isValid()) {
             return cannotWriteTo(outputFolder, folder.errorString());
         }
-        const QString lockName = folder.filePath(LockName);
+        const QString lockName = folder.filePath(StagingLockName);
         m_lock = FileLock::tryLock(lockName, FileLock::Exclusive, true);
         reason = QString::fromLocal8Bit(std::strerror(errno));
         if (m_lock.isHeld() && QFileInfo::exists(lockName)) {

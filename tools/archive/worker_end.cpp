@@ -9,10 +9,10 @@ namespace archive {
 using namespace Qt::StringLiterals;
 namespace {
 
-QString tr(const char* text)
+struct WorkerEndTr
 {
-    return QCoreApplication::translate("archive::WorkerEnd", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(archive::WorkerEnd)
+};
 
 /// "SIGABRT", in every language.
 QString signalName(int number)
@@ -34,7 +34,7 @@ FileOutcome outcomeOf(const WorkerEnd& end)
 QString messageFor(const WorkerEnd& end, const WorkerLimits& limits)
 {
     if (end.isOutOfMemory()) {
-        return tr("The file needs more than %1 MiB of memory; see --memory-limit.")
+        return WorkerEndTr::tr("The file needs more than %1 MiB of memory; see --memory-limit.")
             .arg(limits.memoryMiB);
     }
     switch (end.kind) {
@@ -45,22 +45,27 @@ QString messageFor(const WorkerEnd& end, const WorkerLimits& limits)
                                            nullptr, limits.timeoutSeconds);
     case WorkerEnd::Signaled:
         if (end.code == SIGSYS) {
-            return tr("The import was stopped twice because it tried something that its sandbox "
-                      "forbids. Do not trust the file, and please report it.");
+            return WorkerEndTr::tr(
+                "The import was stopped twice because it tried something that its sandbox "
+                "forbids. Do not trust the file, and please report it.");
         }
         return end.code == SIGKILL
-                   ? tr("The worker process was killed twice; perhaps the machine is out of "
-                        "memory.")
-                   : tr("The import crashed twice (%1). If a larger --memory-limit does not help, "
-                        "please report the file.")
+                   ? WorkerEndTr::tr(
+                         "The worker process was killed twice; perhaps the machine is out of "
+                         "memory.")
+                   : WorkerEndTr::tr(
+                         "The import crashed twice (%1). If a larger --memory-limit does not help, "
+                         "please report the file.")
                          .arg(signalName(end.code));
     case WorkerEnd::Garbled:
-        return tr("The worker process sent an invalid reply twice; please report the file.");
+        return WorkerEndTr::tr(
+            "The worker process sent an invalid reply twice; please report the file.");
     case WorkerEnd::NotStarted:
     case WorkerEnd::Exited:
         break;
     }
-    return tr("The worker process exited twice with status %1; please report the file.")
+    return WorkerEndTr::tr(
+               "The worker process exited twice with status %1; please report the file.")
         .arg(end.code);
 }
 

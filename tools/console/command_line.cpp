@@ -15,10 +15,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString tr(const char* text)
+struct CommandLineTr
 {
-    return QCoreApplication::translate("console::CommandLine", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(console::CommandLine)
+};
 
 /// Insertions, deletions and replacements that make one word the other.
 int distance(const QString& from, const QString& to)
@@ -60,7 +60,8 @@ QString parserError(const QCommandLineParser& parser)
         return parser.errorText();
     }
     const QString option = (unknown.first().size() > 1 ? u"--"_s : u"-"_s) + unknown.first();
-    return tr("Unknown option \"%1\".").arg(option) + suggestion(option, optionNames(parser));
+    return CommandLineTr::tr("Unknown option \"%1\".").arg(option) +
+           suggestion(option, optionNames(parser));
 }
 
 } // namespace
@@ -77,7 +78,7 @@ QStringList argumentsOf(int argc, char** argv)
 std::optional<int> parseCommand(QCommandLineParser& parser, const QString& command,
                                 const QStringList& arguments)
 {
-    parser.addOption({{u"h"_s, u"help"_s}, tr("Show this help.")});
+    parser.addOption({{u"h"_s, u"help"_s}, CommandLineTr::tr("Show this help.")});
     if (!parser.parse(QStringList{command} + arguments)) {
         return refuseArguments(command, parserError(parser));
     }
@@ -92,7 +93,7 @@ std::optional<int> parseCommand(QCommandLineParser& parser, const QString& comma
 int refuseArguments(const QString& command, const QString& reason)
 {
     printMessage(reason);
-    printMessage(tr("Help: %1 --help").arg(command));
+    printMessage(CommandLineTr::tr("Help: %1 --help").arg(command));
     return ExitUsage;
 }
 
@@ -106,7 +107,7 @@ QString suggestion(const QString& word, const QStringList& known)
     if (nearest == known.end() || distance(word, *nearest) > tolerated) {
         return {};
     }
-    return u' ' + tr("Did you mean \"%1\"?").arg(*nearest);
+    return u' ' + CommandLineTr::tr("Did you mean \"%1\"?").arg(*nearest);
 }
 
 } // namespace console

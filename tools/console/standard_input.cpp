@@ -8,14 +8,14 @@
 namespace console {
 namespace {
 
-QString tr(const char* text)
+struct StandardInputTr
 {
-    return QCoreApplication::translate("console::StandardInput", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(console::StandardInput)
+};
 
 QString cannotKeep(const QString& reason)
 {
-    return tr("Cannot copy standard input to a temporary file: %1.").arg(reason);
+    return StandardInputTr::tr("Cannot copy standard input to a temporary file: %1.").arg(reason);
 }
 
 } // namespace
@@ -27,11 +27,11 @@ QString copyStandardInput(QTemporaryFile& file)
     }
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) {
-        return tr("Cannot read standard input: %1.").arg(input.errorString());
+        return StandardInputTr::tr("Cannot read standard input: %1.").arg(input.errorString());
     }
     const QString problem = copyLabel(input, file, MaximumInputBytes);
     if (problem.isEmpty() && input.error() != QFileDevice::NoError) {
-        return tr("Cannot read standard input: %1.").arg(input.errorString());
+        return StandardInputTr::tr("Cannot read standard input: %1.").arg(input.errorString());
     }
     return problem;
 }
@@ -44,7 +44,7 @@ QString copyLabel(QIODevice& input, QFile& file, qint64 largest)
          block = input.read(blockSize)) {
         total += block.size();
         if (total > largest) {
-            return tr("Standard input is longer than any label.");
+            return StandardInputTr::tr("Standard input is longer than any label.");
         }
         if (file.write(block) != block.size()) {
             return cannotKeep(file.errorString());

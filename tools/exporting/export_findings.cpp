@@ -12,10 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString tr(const char* text)
+struct ExportFindingsTr
 {
-    return QCoreApplication::translate("exporting::ExportFindings", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(exporting::ExportFindings)
+};
 
 } // namespace
 
@@ -35,17 +35,18 @@ QString nameOf(Fidelity fidelity)
 QString describe(const ExportFinding& finding)
 {
     const bool isLabel = finding.kind == "label"_L1;
-    const QString kind = isLabel ? tr("Label") : workbench::shapeTitle(finding.kind);
+    const QString kind =
+        isLabel ? ExportFindingsTr::tr("Label") : workbench::shapeTitle(finding.kind);
     const QString counted = finding.count == 1 ? kind : u"%1 × %2"_s.arg(finding.count).arg(kind);
     switch (finding.fidelity) {
     case Fidelity::Exact:
-        return tr("%1: exact").arg(counted);
+        return ExportFindingsTr::tr("%1: exact").arg(counted);
     case Fidelity::Picture:
-        return tr("%1: became a picture. %2").arg(counted, finding.text);
+        return ExportFindingsTr::tr("%1: became a picture. %2").arg(counted, finding.text);
     case Fidelity::Simplified:
         break;
     }
-    return tr("%1: simplified. %2").arg(counted, finding.text);
+    return ExportFindingsTr::tr("%1: simplified. %2").arg(counted, finding.text);
 }
 
 void ExportFindings::add(const ExportFinding& finding)

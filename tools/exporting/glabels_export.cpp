@@ -21,10 +21,10 @@ namespace {
 
 constexpr QLatin1String Mark("LabelPort");
 
-QString tr(const char* text)
+struct GlabelsExportTr
 {
-    return QCoreApplication::translate("exporting::Glabels", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(exporting::Glabels)
+};
 
 /// Paper of the label's size, in millimeters.
 printing::Sheet ownPaper(const QString& name, const QSizeF& size)
@@ -96,7 +96,7 @@ GlabelsLabel toGlabels(const Canvas& canvas, const datasources::DatasourceContro
     }
     if (records.isCut()) {
         writer.findings().add(Fidelity::Simplified, u"label"_s,
-                              tr("Only the first records are in the CSV file."));
+                              GlabelsExportTr::tr("Only the first records are in the CSV file."));
     }
     GlabelsLabel result;
     QString remark = Mark;

@@ -32,10 +32,10 @@ constexpr double RasterScale = 300.0 / 72.0;
 constexpr double MostDots = MaximumEmbedded * 0.95 / (4.0 * 4.0 / 3.0);
 constexpr double LongestRasterSide = 4'000.0;
 
-QString tr(const char* text)
+struct GlabelsItemsTr
 {
-    return QCoreApplication::translate("exporting::Glabels", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(exporting::Glabels)
+};
 
 QRectF boxOf(const WalkedItem& item)
 {
@@ -58,13 +58,13 @@ QString obstacleOf(const WalkedItem& item, bool hasCorners)
     const PenValues pen = penOf(item);
     const bool isMiter = pen.join == Qt::MiterJoin || pen.join == Qt::SvgMiterJoin;
     if (!plainColor(item.values.fill.value_or(FillValues()))) {
-        return tr("gLabels has no gradients and no hatches.");
+        return GlabelsItemsTr::tr("gLabels has no gradients and no hatches.");
     }
     if (!isSolid(pen)) {
-        return tr("gLabels has no dashed lines.");
+        return GlabelsItemsTr::tr("gLabels has no dashed lines.");
     }
     if (hasCorners && !isMiter && pen.style != Qt::NoPen && pen.width > ThinOutline) {
-        return tr("gLabels has no round or beveled corners.");
+        return GlabelsItemsTr::tr("gLabels has no round or beveled corners.");
     }
     return {};
 }
@@ -125,7 +125,7 @@ void GlabelsItems::add(const WalkedItem& item)
         addBarcode(item);
         break;
     default:
-        addDrawing(item, tr("gLabels has no such shape."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels has no such shape."));
         break;
     }
 }
@@ -158,11 +158,11 @@ void GlabelsItems::addLine(const WalkedItem& item)
     }
     if (startMarker(line.startMarker) != Marker::None ||
         endMarker(line.endMarker) != Marker::None) {
-        addDrawing(item, tr("gLabels has no arrows."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels has no arrows."));
     } else if (!isSolid(pen)) {
-        addDrawing(item, tr("gLabels has no dashed lines."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels has no dashed lines."));
     } else if (pen.cap == Qt::RoundCap && pen.width > ThinOutline) {
-        addDrawing(item, tr("gLabels has no round line ends."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels has no round line ends."));
     } else {
         QPointF extension;
         if (pen.cap == Qt::SquareCap) {
@@ -176,7 +176,7 @@ void GlabelsItems::addLine(const WalkedItem& item)
 void GlabelsItems::addText(const WalkedItem& item)
 {
     if (!isUpright(item.toPage)) {
-        addDrawing(item, tr("gLabels 3 distorts text at such angles."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels 3 distorts text at such angles."));
         return;
     }
     GlabelsField field;
@@ -190,7 +190,7 @@ void GlabelsItems::addText(const WalkedItem& item)
     // express them, the picture covers it.
     addGround(item);
     if (!addTextItem(m_document, m_findings, item, field)) {
-        addDrawing(item, tr("gLabels has no such text format."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels has no such text format."));
     }
 }
 
@@ -224,16 +224,16 @@ void GlabelsItems::addBarcode(const WalkedItem& item)
     const barcodes::BarcodeStyle style = barcodeStyle(item.values);
     const barcodes::BarcodeLayout layout = barcodes::layOut(symbol, boxOf(item), style);
     if (!symbol.isValid() || layout.moduleWidth <= 0.0) {
-        addDrawing(item, tr("The content cannot be encoded."));
+        addDrawing(item, GlabelsItemsTr::tr("The content cannot be encoded."));
         return;
     }
     auto known = glabelsSymbol(values, symbol, layout);
     if (!known) {
-        addDrawing(item, tr("gLabels does not encode this barcode."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels does not encode this barcode."));
         return;
     }
     if (!symbol.caption.isEmpty() && !isUpright(item.toPage)) {
-        addDrawing(item, tr("gLabels 3 distorts text at such angles."));
+        addDrawing(item, GlabelsItemsTr::tr("gLabels 3 distorts text at such angles."));
         return;
     }
     if (values.background.alpha() > 0) {
@@ -251,7 +251,7 @@ void GlabelsItems::addBarcode(const WalkedItem& item)
         return isGlabelsContent(values, text);
     });
     note(areKnown ? Fidelity::Exact : Fidelity::Simplified, item,
-         areKnown ? QString() : tr("gLabels cannot encode some of the records."));
+         areKnown ? QString() : GlabelsItemsTr::tr("gLabels cannot encode some of the records."));
 }
 
 QString GlabelsItems::captionColumn(const BarcodeValues& values, const QString& column)
@@ -273,9 +273,9 @@ void GlabelsItems::addDrawing(const WalkedItem& item, const QString& reason)
                [&](QPainter& painter) { paintUnplacedItem(painter, *item.item); });
     if (item.isBound) {
         note(Fidelity::Simplified, item,
-             (reason + u' ' + tr("It shows the first record only.")).trimmed());
+             (reason + u' ' + GlabelsItemsTr::tr("It shows the first record only.")).trimmed());
     } else if (isReduced) {
-        note(Fidelity::Simplified, item, tr("A large picture was scaled down."));
+        note(Fidelity::Simplified, item, GlabelsItemsTr::tr("A large picture was scaled down."));
     } else {
         note(isPicture ? Fidelity::Exact : Fidelity::Picture, item, reason);
     }

@@ -28,10 +28,10 @@ namespace {
 /// Lines at equal distances are lines of one text.
 constexpr double PitchTolerance = 0.01;
 
-QString tr(const char* text)
+struct GlabelsTextsTr
 {
-    return QCoreApplication::translate("exporting::Glabels", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(exporting::Glabels)
+};
 
 void noteChanges(ExportFindings& findings, const ItemValues& values, const GlabelsText& written,
                  bool losesUnderline)
@@ -40,12 +40,13 @@ void noteChanges(ExportFindings& findings, const ItemValues& values, const Glabe
     const QString wanted = values.font.value_or(FontValues()).family;
     if (losesUnderline) {
         findings.add(Fidelity::Simplified, kind,
-                     tr("A text from a data source is not underlined."));
+                     GlabelsTextsTr::tr("A text from a data source is not underlined."));
     } else if (written.alignment.testFlag(Qt::AlignJustify)) {
-        findings.add(Fidelity::Simplified, kind, tr("Justified text is aligned left."));
+        findings.add(Fidelity::Simplified, kind,
+                     GlabelsTextsTr::tr("Justified text is aligned left."));
     } else if (!wanted.isEmpty() && wanted != written.family) {
         findings.add(Fidelity::Simplified, kind,
-                     tr("gLabels knows only installed fonts: \"%1\" became \"%2\".")
+                     GlabelsTextsTr::tr("gLabels knows only installed fonts: \"%1\" became \"%2\".")
                          .arg(wanted, written.family));
     } else {
         findings.add(Fidelity::Exact, kind);
@@ -209,7 +210,8 @@ bool addRichText(GlabelsDocument& document, ExportFindings& findings, const Walk
             runs += wordsOf(line);
         }
         findings.add(Fidelity::Simplified, shapeCode(item.values.type),
-                     tr("A text in several formats became a text for each line, format or word."));
+                     GlabelsTextsTr::tr(
+                         "A text in several formats became a text for each line, format or word."));
     }
     for (const FormattedLines& run : runs) {
         addLines(document, item.toPage, run, {});

@@ -1,6 +1,7 @@
 #include "printing/print_batch.h"
 
 #include "printing/print_queue.h"
+#include "workbench/items/units.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -11,7 +12,7 @@ namespace printing {
 using namespace Qt::StringLiterals;
 namespace {
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 
 } // namespace
 

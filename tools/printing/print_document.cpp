@@ -1,6 +1,7 @@
 #include "printing/print_document.h"
 
 #include "workbench/canvas/canvas.h"
+#include "workbench/items/units.h"
 #include "workbench/rendering/page_export.h"
 #include "workbench/rendering/page_painter.h"
 
@@ -13,12 +14,12 @@
 namespace printing {
 namespace {
 
-struct Tr
+struct PrintDocumentTr
 {
     Q_DECLARE_TR_FUNCTIONS(printing::PrintDocument)
 };
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 constexpr double MarkWidth = 0.1; // millimeters
 
 QSizeF inPoints(const QSizeF& millimeters)
@@ -85,13 +86,13 @@ QSizeF labelSize(const workbench::Canvas& canvas)
 QString problemOf(const PrintLayout& layout, qint64 labels)
 {
     if (labels > MaximumLabels / layout.copies) {
-        return Tr::tr("%1 labels in %2 copies are more than the %3 of one document.")
+        return PrintDocumentTr::tr("%1 labels in %2 copies are more than the %3 of one document.")
             .arg(labels)
             .arg(layout.copies)
             .arg(MaximumLabels);
     }
     if (layout.sheet && layout.firstPosition >= layout.sheet->positions()) {
-        return Tr::tr("Sheet \"%1\" has no position %2; its positions are 1 to %3.")
+        return PrintDocumentTr::tr("Sheet \"%1\" has no position %2; its positions are 1 to %3.")
             .arg(layout.sheet->name())
             .arg(layout.firstPosition + 1)
             .arg(layout.sheet->positions());

@@ -5,6 +5,8 @@
 #include <functional>
 #include <optional>
 
+class QPainter;
+
 namespace workbench {
 class Canvas;
 }

@@ -8,7 +8,7 @@ namespace printing {
 using namespace Qt::StringLiterals;
 namespace {
 
-struct Tr
+struct PrintQueueTr
 {
     Q_DECLARE_TR_FUNCTIONS(printing::PrintQueue)
 };
@@ -36,16 +36,18 @@ Answer runCommand(const QString& program, const QStringList& arguments)
     process.setProcessEnvironment(environment);
     process.start(program, arguments, QIODevice::ReadOnly);
     if (!process.waitForStarted()) {
-        return {{}, Tr::tr("Cannot run \"%1\". Install the client commands of CUPS.").arg(program)};
+        return {{},
+                PrintQueueTr::tr("Cannot run \"%1\". Install the client commands of CUPS.")
+                    .arg(program)};
     }
     if (!process.waitForFinished(TimeoutMilliseconds)) {
         process.kill();
         process.waitForFinished();
-        return {{}, Tr::tr("The print server does not reply.")};
+        return {{}, PrintQueueTr::tr("The print server does not reply.")};
     }
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         const QString reason = lastLine(process.readAllStandardError());
-        return {{}, reason.isEmpty() ? Tr::tr("\"%1\" failed.").arg(program) : reason};
+        return {{}, reason.isEmpty() ? PrintQueueTr::tr("\"%1\" failed.").arg(program) : reason};
     }
     return {QString::fromUtf8(process.readAllStandardOutput()), {}};
 }

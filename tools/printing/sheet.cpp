@@ -12,7 +12,7 @@ namespace printing {
 using namespace Qt::StringLiterals;
 namespace {
 
-struct Tr
+struct SheetTr
 {
     Q_DECLARE_TR_FUNCTIONS(printing::Sheet)
 };
@@ -54,7 +54,7 @@ QString sizeText(const QSizeF& size)
     const auto number = [&locale](double value) {
         return locale.toString(std::round(value * 10.0) / 10.0, 'g', 6);
     };
-    return Tr::tr("%1 × %2 mm").arg(number(size.width()), number(size.height()));
+    return SheetTr::tr("%1 × %2 mm").arg(number(size.width()), number(size.height()));
 }
 
 bool fits(const QSizeF& label, const QSizeF& cell)
@@ -77,18 +77,18 @@ QList<double> edges(double start, int count, double pitch, double size)
 QString problemOf(const Sheet& sheet)
 {
     if (!isUsable(sheet.paperSize.width(), 1.0) || !isUsable(sheet.paperSize.height(), 1.0)) {
-        return Tr::tr("The sides of the paper must be from 1 to %1 mm.").arg(MaximumPaperSide);
+        return SheetTr::tr("The sides of the paper must be from 1 to %1 mm.").arg(MaximumPaperSide);
     }
     if (std::min(sheet.columns, sheet.rows) < 1 ||
         std::max(sheet.columns, sheet.rows) > MaximumGrid) {
-        return Tr::tr("A sheet has 1 to %1 rows and columns.").arg(MaximumGrid);
+        return SheetTr::tr("A sheet has 1 to %1 rows and columns.").arg(MaximumGrid);
     }
     if (!isUsable(sheet.label.width(), 1.0) || !isUsable(sheet.label.height(), 1.0)) {
-        return Tr::tr("The sides of a label must be at least 1 mm.");
+        return SheetTr::tr("The sides of a label must be at least 1 mm.");
     }
     if (!isUsable(sheet.pitch.width(), sheet.label.width() - Rounding) ||
         !isUsable(sheet.pitch.height(), sheet.label.height() - Rounding)) {
-        return Tr::tr("The labels of the sheet overlap.");
+        return SheetTr::tr("The labels of the sheet overlap.");
     }
     const double right =
         sheet.start.x() + extent(sheet.columns, sheet.pitch.width(), sheet.label.width());
@@ -97,7 +97,7 @@ QString problemOf(const Sheet& sheet)
     const bool isOnPaper = isUsable(sheet.start.x(), 0.0) && isUsable(sheet.start.y(), 0.0) &&
                            right <= sheet.paperSize.width() + Rounding &&
                            bottom <= sheet.paperSize.height() + Rounding;
-    return isOnPaper ? QString() : Tr::tr("The labels of the sheet exceed the paper.");
+    return isOnPaper ? QString() : SheetTr::tr("The labels of the sheet exceed the paper.");
 }
 
 QSizeF paperSizeOf(const QString& name)
@@ -155,7 +155,7 @@ Fit fitOf(const Sheet& sheet, const QSizeF& label)
 
 QString misfitMessage(const Sheet& sheet, const QSizeF& label)
 {
-    return Tr::tr("The label is %1; the labels of sheet \"%2\" are only %3.")
+    return SheetTr::tr("The label is %1; the labels of sheet \"%2\" are only %3.")
         .arg(sizeText(label), sheet.name(), sizeText(sheet.label));
 }
 

@@ -15,7 +15,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Sections, lists, and objects within one another.
-constexpr int MaximumDepth = 100;
+constexpr int MaximumAnchorDepth = 100;
 // Points below its paragraph's top from where an object is placed below it.
 constexpr double BelowParagraph = 8.0;
 
@@ -81,7 +81,7 @@ void ShapeTaker::takeInside(Node& parent, int depth)
             m_taken.hasPageBreak = true;
         } else if (isShape(*child)) {
             child = place(std::move(child));
-        } else if (depth < MaximumDepth && !child->is(u"text:note") &&
+        } else if (depth < MaximumAnchorDepth && !child->is(u"text:note") &&
                    !child->is(u"office:annotation")) {
             takeInside(*child, depth + 1);
         }
@@ -128,7 +128,7 @@ std::unique_ptr<Node> ShapeTaker::place(std::unique_ptr<Node> shape)
 
 void ShapeTaker::takeNested(Node& box, const QRectF& column)
 {
-    if (m_place.depth < MaximumDepth) {
+    if (m_place.depth < MaximumAnchorDepth) {
         Node::Children nested =
             takeAllShapes(m_document, box, {m_place.page, column, m_place.depth + 1});
         std::move(nested.begin(), nested.end(), std::back_inserter(m_taken.anchored));
@@ -180,7 +180,7 @@ void takeFromBlock(ShapeTaker& taker, Node& block, int depth)
         return;
     }
     for (const auto& child : block.children) {
-        if (depth < MaximumDepth && child->name.startsWith("text:"_L1)) {
+        if (depth < MaximumAnchorDepth && child->name.startsWith("text:"_L1)) {
             takeFromBlock(taker, *child, depth + 1);
         }
     }

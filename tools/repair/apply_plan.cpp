@@ -1,5 +1,6 @@
 #include "repair/apply_plan.h"
 
+#include "repair/lengths.h"
 #include "repair/object_places.h"
 
 #include "host/items/rich_text_item.h"
@@ -20,8 +21,6 @@ namespace {
 constexpr double ZPerOrder = 1000.0;
 // A text is less than this above its shape.
 constexpr double TextOffset = 0.0005;
-// Points: what a line of no width looks like in print.
-constexpr double Hairline = 0.3;
 // Points: lines that fit must not break for rounding.
 constexpr double WidthTolerance = 0.3;
 

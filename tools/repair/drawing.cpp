@@ -19,8 +19,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Points: what a line of no width looks like in print.
-constexpr double Hairline = 0.3;
 // The part of an arrow head that covers the line.
 constexpr double CoveredByMarker = 0.8;
 
@@ -31,11 +29,6 @@ struct Pen
     QString color = u"#000000"_s;
     QString attributes;
 };
-
-QString number(double value)
-{
-    return QString::number(value, 'f', 3);
-}
 
 // Lengths of dashes and gaps may be shares of the pen's width.
 double dashLength(const Node& dash, QStringView attribute, double width)
@@ -48,11 +41,11 @@ double dashLength(const Node& dash, QStringView attribute, double width)
 QString dashAttribute(const Node& dash, double width)
 {
     QStringList lengths;
-    const QString gap = number(dashLength(dash, u"draw:distance", width));
+    const QString gap = svgNumber(dashLength(dash, u"draw:distance", width));
     for (const auto& [count, length] : {std::pair{u"draw:dots1", u"draw:dots1-length"},
                                         std::pair{u"draw:dots2", u"draw:dots2-length"}}) {
         for (int i = 0; i < std::min(dash.attribute(count).toInt(), 10); ++i) {
-            lengths << number(dashLength(dash, length, width)) << gap;
+            lengths << svgNumber(dashLength(dash, length, width)) << gap;
         }
     }
     return lengths.isEmpty() ? QString() : u" stroke-dasharray=\"%1\""_s.arg(lengths.join(u','));
@@ -78,7 +71,7 @@ Pen penOf(const Properties& graphic, const StyleTable& table)
         pen.attributes += u" stroke-linecap=\"%1\""_s.arg(cap);
     }
     if (const double opacity = shareOf(graphic.value(u"svg:stroke-opacity"_s)); opacity < 1.0) {
-        pen.attributes += u" stroke-opacity=\"%1\""_s.arg(number(opacity));
+        pen.attributes += u" stroke-opacity=\"%1\""_s.arg(svgNumber(opacity));
     }
     return pen;
 }
@@ -184,7 +177,7 @@ void Writer::addStroke(const QPainterPath& path)
     QPainterPath line = path;
     const QPainterPath heads = isOpen(line) ? markersOn(line, m_graphic, m_table) : QPainterPath();
     m_body += u"<path fill=\"none\" stroke=\"%1\" stroke-width=\"%2\"%3 d=\"%4\"/>"_s.arg(
-        m_pen.color, number(m_pen.width), m_pen.attributes, toSvgPath(line));
+        m_pen.color, svgNumber(m_pen.width), m_pen.attributes, toSvgPath(line));
     if (!heads.isEmpty()) {
         m_body +=
             u"<path stroke=\"none\" fill=\"%1\" d=\"%2\"/>"_s.arg(m_pen.color, toSvgPath(heads));
@@ -200,10 +193,11 @@ Drawing Writer::finished()
     if (m_bounds.width() < Hairline || m_bounds.height() < Hairline) {
         m_bounds.adjust(-Hairline, -Hairline, Hairline, Hairline);
     }
-    const QString svg = u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%3pt\" height=\"%4pt\" "
-                        "viewBox=\"%1 %2 %3 %4\"><defs>%5</defs>%6</svg>"_s.arg(
-                            number(m_bounds.x()), number(m_bounds.y()), number(m_bounds.width()),
-                            number(m_bounds.height()), m_fills.definitions(), m_body);
+    const QString svg =
+        u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%3pt\" height=\"%4pt\" "
+        "viewBox=\"%1 %2 %3 %4\"><defs>%5</defs>%6</svg>"_s.arg(
+            svgNumber(m_bounds.x()), svgNumber(m_bounds.y()), svgNumber(m_bounds.width()),
+            svgNumber(m_bounds.height()), m_fills.definitions(), m_body);
     return {svg.toUtf8(), m_bounds};
 }
 

@@ -17,9 +17,9 @@ using namespace Qt::StringLiterals;
 constexpr int MaximumEmbedded = 50;
 constexpr qint64 EmbeddedTreeBytes = 32LL << 20;
 // Tables within groups of rows.
-constexpr int MaximumDepth = 20;
+constexpr int MaximumRowGroupDepth = 20;
 constexpr double PointsPerHundredth = 72.0 / 2540.0; // of a millimeter
-const QString AutomaticStyles = u"office:automatic-styles"_s;
+const QString AutomaticStylesTag = u"office:automatic-styles"_s;
 
 /// A document inside the document.
 struct Embedded
@@ -94,13 +94,13 @@ void importStyles(Document& document, Embedded& embedded, const QString& prefix)
             continue;
         }
         renameStyles(*root, prefix);
-        Node& automatic = document.content->childOrNew(AutomaticStyles);
+        Node& automatic = document.content->childOrNew(AutomaticStylesTag);
         moveChildren(root->child(u"office:styles"), automatic);
         moveChildren(root->child(u"office:font-face-decls"),
                      document.content->childOrNew(u"office:font-face-decls"_s));
     }
-    moveChildren(embedded.content->child(AutomaticStyles),
-                 document.content->childOrNew(AutomaticStyles));
+    moveChildren(embedded.content->child(AutomaticStylesTag),
+                 document.content->childOrNew(AutomaticStylesTag));
     document.forgetTable();
 }
 
@@ -144,7 +144,7 @@ void takeRows(const Node& parent, Node& target, int depth)
                 }
                 row.append(Node::characters(cells[i]));
             }
-        } else if (depth < MaximumDepth && child->name.startsWith("table:table"_L1)) {
+        } else if (depth < MaximumRowGroupDepth && child->name.startsWith("table:table"_L1)) {
             takeRows(*child, target, depth + 1);
         }
     }

@@ -2,6 +2,7 @@
 
 #include "repair/enhanced_path_parts.h"
 #include "repair/formula.h"
+#include "repair/lengths.h"
 #include "repair/xml_tree.h"
 
 #include <QStringList>
@@ -17,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 // Paths of real shapes have below 1,000 parts.
 constexpr qsizetype MaximumParts = 20'000;
-constexpr double DegreesPerRadian = 57.29577951308232;
 // Of a quarter of a circle drawn as a curve: the control points' distance per radius.
 constexpr double QuarterReach = 0.5522847498;
 

@@ -19,15 +19,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr double DegreesPerRadian = 57.29577951308232;
 // Lines of one hatch, and its smallest distance in points.
 constexpr int MaximumHatchLines = 2000;
 constexpr double SmallestDistance = 0.5;
-
-QString number(double value)
-{
-    return QString::number(value, 'f', 3);
-}
 
 // What a document shows that does not define its gradient or hatch: the fill stays visible.
 const Node& unknownGradient()
@@ -79,13 +73,13 @@ QString dimmed(const QString& color, const QString& intensity)
 
 QString stop(double offset, const QString& color)
 {
-    return u"<stop offset=\"%1\" stop-color=\"%2\"/>"_s.arg(number(offset), color);
+    return u"<stop offset=\"%1\" stop-color=\"%2\"/>"_s.arg(svgNumber(offset), color);
 }
 
 QString transparentStop(double offset, const QString& color, double opacity)
 {
     return u"<stop offset=\"%1\" stop-color=\"%2\" stop-opacity=\"%3\"/>"_s.arg(
-        number(offset), color, number(opacity));
+        svgNumber(offset), color, svgNumber(opacity));
 }
 
 double borderOf(const Node& gradient)
@@ -104,8 +98,9 @@ QString linearGradient(const QString& id, const QRectF& box, double angle, const
     const QPointF from = box.center() - direction * half;
     const QPointF to = box.center() + direction * half;
     return u"<linearGradient id=\"%1\" gradientUnits=\"userSpaceOnUse\" x1=\"%2\" y1=\"%3\" "
-           "x2=\"%4\" y2=\"%5\">%6</linearGradient>"_s.arg(id, number(from.x()), number(from.y()),
-                                                           number(to.x()), number(to.y()), stops);
+           "x2=\"%4\" y2=\"%5\">%6</linearGradient>"_s.arg(id, svgNumber(from.x()),
+                                                           svgNumber(from.y()), svgNumber(to.x()),
+                                                           svgNumber(to.y()), stops);
 }
 
 QString radialGradient(const QString& id, const QRectF& box, const Node& gradient,
@@ -122,10 +117,10 @@ QString radialGradient(const QString& id, const QRectF& box, const Node& gradien
     const double ry = isRound ? rx : box.height() / std::sqrt(2.0);
     return u"<radialGradient id=\"%1\" gradientUnits=\"userSpaceOnUse\" cx=\"0\" cy=\"0\" "
            "r=\"1\" gradientTransform=\"translate(%2 %3) rotate(%4) scale(%5 %6)\">%7"
-           "</radialGradient>"_s.arg(id, number(box.x() + cx * box.width()),
-                                     number(box.y() + cy * box.height()),
-                                     number(isRound ? 0.0 : -angleOf(gradient, u"draw:angle")),
-                                     number(rx), number(ry), stops);
+           "</radialGradient>"_s.arg(id, svgNumber(box.x() + cx * box.width()),
+                                     svgNumber(box.y() + cy * box.height()),
+                                     svgNumber(isRound ? 0.0 : -angleOf(gradient, u"draw:angle")),
+                                     svgNumber(rx), svgNumber(ry), stops);
 }
 
 // The first color is that of the edge of a radial gradient, and of the middle of an axial one.
@@ -245,7 +240,7 @@ QString FillWriter::fill(const QPainterPath& path, const Properties& graphic,
     const QString kind = graphic.value(u"draw:fill"_s);
     const double opacity = shareOf(graphic.value(u"draw:opacity"_s));
     const QString attributes =
-        opacity < 1.0 ? u" fill-opacity=\"%1\""_s.arg(number(opacity)) : QString();
+        opacity < 1.0 ? u" fill-opacity=\"%1\""_s.arg(svgNumber(opacity)) : QString();
     const QString color = colorName(graphic.value(u"draw:fill-color"_s), u"#729fcf"_s);
     const Node* const gradientNode =
         table.named(u"draw:gradient"_s, graphic.value(u"draw:fill-gradient-name"_s));

@@ -20,7 +20,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Sections, lists, and objects within one another.
-constexpr int MaximumDepth = 100;
+constexpr int MaximumSectionDepth = 100;
 // Points: text on lower pages is not broken into further pages.
 constexpr double LowestPage = 20.0;
 
@@ -93,7 +93,7 @@ bool FlowWriter::hasBreak(const Node& paragraph, const QString& side) const
 void FlowWriter::readBlocks(Node& parent, int depth)
 {
     for (auto& child : parent.children) {
-        if (depth > MaximumDepth || child == nullptr || child->isText() || isHidden(*child)) {
+        if (depth > MaximumSectionDepth || child == nullptr || child->isText() || isHidden(*child)) {
             continue;
         }
         if (isParagraph(*child) || child->is(u"text:list") ||

@@ -15,7 +15,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Equations that refer to one another.
-constexpr int MaximumDepth = 100;
+constexpr int MaximumEquationDepth = 100;
 // Points to 1/100 mm, the unit of logwidth.
 constexpr double HundredthsPerPoint = 2540.0 / 72.0;
 
@@ -83,7 +83,7 @@ std::optional<double> Formulas::equation(const QString& name)
         return *known;
     }
     const auto found = m_equations.constFind(name);
-    if (found == m_equations.constEnd() || ++m_depth > MaximumDepth) {
+    if (found == m_equations.constEnd() || ++m_depth > MaximumEquationDepth) {
         return std::nullopt;
     }
     const auto result = value(*found);

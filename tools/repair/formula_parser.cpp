@@ -10,7 +10,7 @@ namespace repair {
 namespace {
 
 // Parentheses within one another, and work for all formulas of a shape.
-constexpr int MaximumDepth = 100;
+constexpr int MaximumFormulaDepth = 100;
 constexpr int MaximumSteps = 200'000;
 // Coordinates of real shapes stay below 10,000,000.
 constexpr double MaximumValue = 1e9;
@@ -102,7 +102,7 @@ double FormulaParser::factor()
 
 double FormulaParser::parenthesized()
 {
-    if (++m_formulas.m_depth > MaximumDepth) {
+    if (++m_formulas.m_depth > MaximumFormulaDepth) {
         return fail();
     }
     const double value = sum();
@@ -150,7 +150,7 @@ double FormulaParser::named()
 
 double FormulaParser::call(QStringView name)
 {
-    if (++m_formulas.m_depth > MaximumDepth) {
+    if (++m_formulas.m_depth > MaximumFormulaDepth) {
         return fail();
     }
     QList<double> values{sum()};

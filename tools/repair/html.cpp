@@ -21,13 +21,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr double DefaultSize = 12.0;
+constexpr double DefaultFontSize = 12.0;
 // Raised and lowered text; the share of the size if the document gives none.
 constexpr double DefaultRaisedShare = 0.58;
 // In which fonts are measured, so that rounding does not count.
 constexpr int MeasuredSize = 1000;
 
-QString number(double value)
+QString cssNumber(double value)
 {
     return QString::number(value, 'f', 2);
 }
@@ -67,7 +67,7 @@ private:
 
 double sizeOf(const Properties& text)
 {
-    return toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultSize);
+    return toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultFontSize);
 }
 
 // The color behind characters or a paragraph. Nothing for "transparent".
@@ -97,7 +97,7 @@ QString HtmlWriter::spanStyle(const Properties& text) const
 {
     double size = sizeOf(text);
     QString style = raisedStyle(text.value(u"style:text-position"_s), size);
-    style += u"font-size:%1pt;"_s.arg(number(size * m_pointsPerPixel));
+    style += u"font-size:%1pt;"_s.arg(cssNumber(size * m_pointsPerPixel));
     const QString family = text.value(u"style:font-name"_s);
     if (!family.isEmpty()) {
         style += u"font-family:'%1';"_s.arg(family.toHtmlEscaped());
@@ -132,7 +132,7 @@ QString HtmlWriter::spanStyle(const Properties& text) const
         style += u"text-transform:%1;"_s.arg(change);
     }
     if (const auto spacing = toPoints(text.value(u"fo:letter-spacing"_s))) {
-        style += u"letter-spacing:%1px;"_s.arg(number(*spacing));
+        style += u"letter-spacing:%1px;"_s.arg(cssNumber(*spacing));
     }
     return style;
 }
@@ -181,13 +181,13 @@ QString HtmlWriter::paragraphStyle(const Properties& paragraph, double spacing)
     m_spaceBefore = length(u"fo:margin-bottom"_s);
     return u"white-space:pre-wrap;margin-top:%1px;margin-bottom:0px;margin-left:%2px;"
            "margin-right:%3px;text-indent:%4px;line-height:%5%;"_s.arg(
-               number(above), number(length(u"fo:margin-left"_s)),
-               number(length(u"fo:margin-right"_s)), number(length(u"fo:text-indent"_s)),
-               number(spacing)) +
+               cssNumber(above), cssNumber(length(u"fo:margin-left"_s)),
+               cssNumber(length(u"fo:margin-right"_s)), cssNumber(length(u"fo:text-indent"_s)),
+               cssNumber(spacing)) +
            groundStyle(paragraph);
 }
 
-QString alignmentOf(const Properties& paragraph)
+QString textAlignmentOf(const Properties& paragraph)
 {
     const QString align = paragraph.value(u"fo:text-align"_s);
     if (align == "center"_L1 || align == "justify"_L1) {
@@ -235,7 +235,7 @@ void HtmlWriter::writeParagraph(const Node& paragraph)
         m_document.table().resolved(u"paragraph"_s, paragraph.attribute(u"text:style-name"), false);
     const bool isEmpty = paragraph.children.empty();
     m_html += u"<p align=\"%1\" style=\"%2%3%4\">"_s.arg(
-        alignmentOf(style.paragraph), isEmpty ? u"-qt-paragraph-type:empty;"_s : QString(),
+        textAlignmentOf(style.paragraph), isEmpty ? u"-qt-paragraph-type:empty;"_s : QString(),
         paragraphStyle(style.paragraph,
                        hasMarkInLine(paragraph) ? 100.0 : lineSpacing(paragraph, style.paragraph)),
         isEmpty ? spanStyle(style.text) : QString());

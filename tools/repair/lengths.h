@@ -9,6 +9,10 @@ namespace repair {
 
 class Node;
 
+inline constexpr double DegreesPerRadian = 57.29577951308232;
+/// Points: what a line of no width looks like in print.
+inline constexpr double Hairline = 0.3;
+
 /// A length with a unit, in points. Nothing for other texts.
 [[nodiscard]] std::optional<double> toPoints(QStringView length);
 

@@ -16,7 +16,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // 1/100 mm, the unit of a connector's path.
-constexpr double PointsPerHundredth = 72.0 / 2540.0;
+constexpr double PathScale = 72.0 / 2540.0;
 
 // A box without height along a line, to be read from left to right or upwards.
 Placement alongLine(const QPointF& from, const QPointF& to)
@@ -32,9 +32,9 @@ Placement alongLine(const QPointF& from, const QPointF& to)
 
 QTransform connectorMap(const QPainterPath& path, const Node& connector)
 {
-    const QPointF first = QPointF(path.elementAt(0)) * PointsPerHundredth;
+    const QPointF first = QPointF(path.elementAt(0)) * PathScale;
     const QPointF offset = startOf(connector) - first;
-    return QTransform::fromScale(PointsPerHundredth, PointsPerHundredth) *
+    return QTransform::fromScale(PathScale, PathScale) *
            QTransform::fromTranslate(offset.x(), offset.y());
 }
 

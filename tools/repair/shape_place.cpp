@@ -12,14 +12,14 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Groups within one another.
-constexpr int MaximumDepth = 100;
+constexpr int MaximumGroupDepth = 100;
 
 void uniteBounds(const Node& node, const QTransform& outer, int depth, QRectF& bounds)
 {
     if (node.is(u"draw:g") || node.is(u"draw:a")) {
         const QTransform map = parseTransform(node.attribute(u"draw:transform")) * outer;
         for (const auto& child : node.children) {
-            if (depth < MaximumDepth && !child->isText()) {
+            if (depth < MaximumGroupDepth && !child->isText()) {
                 uniteBounds(*child, map, depth + 1, bounds);
             }
         }

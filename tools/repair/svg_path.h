@@ -14,6 +14,9 @@ namespace repair {
 /// The corners of a draw:points attribute, "x,y x,y".
 [[nodiscard]] std::optional<QPainterPath> parsePoints(const QString& points, bool isClosed);
 
+/// A number for an SVG document.
+[[nodiscard]] QString svgNumber(double value);
+
 /// The data of a path for an SVG document, in points.
 [[nodiscard]] QString toSvgPath(const QPainterPath& path);
 

@@ -7,14 +7,10 @@
 
 namespace repair {
 
-namespace {
-
-QString number(double value)
+QString svgNumber(double value)
 {
     return QString::number(value, 'f', 3);
 }
-
-} // namespace
 
 // Closed outlines say so: their first corner is joined, too.
 QString toSvgPath(const QPainterPath& path)
@@ -38,7 +34,7 @@ QString toSvgPath(const QPainterPath& path)
             data += u' ';
             break;
         }
-        data += number(element.x) + u' ' + number(element.y);
+        data += svgNumber(element.x) + u' ' + svgNumber(element.y);
         const bool isLast = i + 1 == path.elementCount() || path.elementAt(i + 1).isMoveTo();
         if (isLast && QPointF(element) == start && !element.isMoveTo()) {
             data += u'Z';

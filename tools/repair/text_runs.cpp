@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 // Spaces that one text:s may represent.
 constexpr int MaximumSpaces = 1000;
 // Elements within one another in a paragraph.
-constexpr int MaximumDepth = 200;
+constexpr int MaximumSpanDepth = 200;
 
 // Neither shown nor text of this place. Objects in a text are handled elsewhere.
 constexpr QLatin1StringView Skipped[] = {"office:annotation"_L1,
@@ -117,7 +117,7 @@ void RunReader::readInside(const Node& parent, const StyleProperties& style, int
     for (const auto& child : parent.children) {
         if (child->isText()) {
             addText(child->text, style);
-        } else if (depth < MaximumDepth) {
+        } else if (depth < MaximumSpanDepth) {
             readElement(*child, style, depth + 1);
         }
     }

@@ -1,5 +1,6 @@
 #include "repair/text_step.h"
 
+#include "repair/anchored_shapes.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/list_labels.h"
@@ -14,7 +15,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Lists and sections within one another.
-constexpr int MaximumDepth = 100;
+constexpr int MaximumTextDepth = 100;
 // Between a bullet or number and its text: tabs would jump to the layout's own stops.
 const QString LabelGap = u"  "_s;
 // What texts mean that give no font, and drawings that give no size.
@@ -23,11 +24,6 @@ const QString DefaultDrawingSize = u"18pt"_s;
 constexpr QLatin1StringView ParagraphNames[] = {
     "fo:text-align"_L1,    "fo:margin-left"_L1, "fo:margin-right"_L1, "fo:margin-top"_L1,
     "fo:margin-bottom"_L1, "fo:text-indent"_L1, "fo:line-height"_L1,  "fo:background-color"_L1};
-
-bool isParagraph(const Node& node)
-{
-    return node.is(u"text:p") || node.is(u"text:h");
-}
 
 /// Rewrites the blocks of one text.
 class BlockWriter
@@ -86,7 +82,7 @@ void BlockWriter::rewrite(Node& container, const StyleProperties& base)
 void BlockWriter::readBlocks(const Node& parent, List* list, int depth)
 {
     for (const auto& child : parent.children) {
-        if (depth > MaximumDepth || !child->name.startsWith("text:"_L1)) {
+        if (depth > MaximumTextDepth || !child->name.startsWith("text:"_L1)) {
             continue;
         }
         if (isParagraph(*child)) {

@@ -14,7 +14,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr double DegreesPerRadian = 57.29577951308232;
 // Degrees; and the share of a side by which it may be out of square.
 constexpr double NoRotation = 0.005;
 constexpr double NoSkew = 0.002;

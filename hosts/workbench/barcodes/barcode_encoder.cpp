@@ -19,7 +19,7 @@ namespace workbench::barcodes {
 
 namespace {
 
-struct Tr
+struct BarcodeEncoderTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::BarcodeEncoder)
 };
@@ -65,8 +65,8 @@ constexpr std::array<Reason, 5> Reasons{{
 {
     const auto found = std::find_if(Reasons.begin(), Reasons.end(),
                                     [code](const Reason& each) { return each.code == code; });
-    return found == Reasons.end() ? Tr::tr("%1: the content cannot be encoded%2.")
-                                  : Tr::tr(found->words);
+    return found == Reasons.end() ? BarcodeEncoderTr::tr("%1: the content cannot be encoded%2.")
+                                  : BarcodeEncoderTr::tr(found->words);
 }
 
 /// The library's own explanation without its "Error 123: ".
@@ -234,17 +234,19 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
 {
     const SymbolPointer symbol = makeSymbol(request, symbology, withSettings);
     if (!symbol) {
-        return failure(Tr::tr("There is not enough memory for the barcode."));
+        return failure(BarcodeEncoderTr::tr("There is not enough memory for the barcode."));
     }
     QByteArray bytes = request.content.toUtf8();
     const QString name = symbologyName(request.symbology);
     if (!splitComposite(*symbol, bytes)) {
-        return failure(Tr::tr("%1: the content needs a linear part, a \"|\" and a second"
-                              " part.")
-                           .arg(name));
+        return failure(
+            BarcodeEncoderTr::tr("%1: the content needs a linear part, a \"|\" and a second"
+                                 " part.")
+                .arg(name));
     }
     if (bytes.size() > ZINT_MAX_DATA_LEN) {
-        return failure(Tr::tr("%1: the content is too long for any barcode.").arg(name));
+        return failure(
+            BarcodeEncoderTr::tr("%1: the content is too long for any barcode.").arg(name));
     }
     const int encoded =
         ZBarcode_Encode(symbol.get(), reinterpret_cast<const unsigned char*>(bytes.constData()),
@@ -258,7 +260,7 @@ void takeRoundShapes(const zint_vector& vector, BarcodeSymbol& symbol)
     }
     const BarcodeSymbol result = taken(*symbol, request);
     if (isBlank(result)) {
-        return failure(Tr::tr("%1: the content gives no bars at all.").arg(name));
+        return failure(BarcodeEncoderTr::tr("%1: the content gives no bars at all.").arg(name));
     }
     return result;
 }
@@ -274,16 +276,16 @@ BarcodeSymbol encode(const BarcodeRequest& request)
 {
     const Symbology* symbology = findSymbology(request.symbology);
     if (!symbology || !ZBarcode_ValidID(request.symbology)) {
-        return failure(Tr::tr("The label has an unknown kind of barcode"
-                              " (number %1).")
+        return failure(BarcodeEncoderTr::tr("The label has an unknown kind of barcode"
+                                            " (number %1).")
                            .arg(request.symbology));
     }
     if (request.content.isEmpty()) {
-        return failure(
-            Tr::tr("%1: there is no content to encode.").arg(symbologyName(request.symbology)));
+        return failure(BarcodeEncoderTr::tr("%1: there is no content to encode.")
+                           .arg(symbologyName(request.symbology)));
     }
     if (request.content.size() > MaximumContent) {
-        return failure(Tr::tr("%1: the content is too long for any barcode.")
+        return failure(BarcodeEncoderTr::tr("%1: the content is too long for any barcode.")
                            .arg(symbologyName(request.symbology)));
     }
     BarcodeSymbol symbol = encodeOnce(request, *symbology, true);

@@ -14,7 +14,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Tr
+struct CsvTableTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::CsvTable)
 };
@@ -106,13 +106,14 @@ public:
         do {
             fields.append(atQuote() ? quotedField() : plainField());
             if (fields.size() > MaximumCsvColumns && m_error.isEmpty()) {
-                m_error = Tr::tr("Line %1 has more than %2 columns.")
+                m_error = CsvTableTr::tr("Line %1 has more than %2 columns.")
                               .arg(m_recordLine)
                               .arg(MaximumCsvColumns);
             }
         } while (m_error.isEmpty() && take(m_separator));
         if (m_error.isEmpty() && !atEnd() && !takeLineBreak()) {
-            m_error = Tr::tr("Line %1 has text after a closing quotation mark.").arg(m_line);
+            m_error =
+                CsvTableTr::tr("Line %1 has text after a closing quotation mark.").arg(m_line);
         }
         return m_error.isEmpty() ? fields : QStringList();
     }
@@ -162,7 +163,8 @@ private:
             }
             field += u'"';
         }
-        m_error = Tr::tr("The quotation mark that begins in line %1 is not closed.").arg(m_line);
+        m_error =
+            CsvTableTr::tr("The quotation mark that begins in line %1 is not closed.").arg(m_line);
         return {};
     }
 
@@ -187,7 +189,7 @@ QStringList columnNames(const QStringList& header, bool hasHeader)
     for (qsizetype column = 0; column < header.size(); ++column) {
         QString name = hasHeader ? header.at(column).simplified() : QString();
         if (name.isEmpty()) {
-            name = Tr::tr("Column %1").arg(column + 1);
+            name = CsvTableTr::tr("Column %1").arg(column + 1);
         }
         QString unique = name;
         for (int number = 2; used.contains(unique); ++number) {
@@ -203,13 +205,13 @@ QStringList columnNames(const QStringList& header, bool hasHeader)
 QString recordProblem(const CsvTable& table, const QStringList& record, qsizetype line)
 {
     if (record.size() != table.fields.size()) {
-        return Tr::tr("Line %1 has %2 fields; the first line has %3.")
+        return CsvTableTr::tr("Line %1 has %2 fields; the first line has %3.")
             .arg(line)
             .arg(record.size())
             .arg(table.fields.size());
     }
     if (table.cells.size() + record.size() > MaximumCsvCells) {
-        return Tr::tr("The file has more than %1 cells.").arg(MaximumCsvCells);
+        return CsvTableTr::tr("The file has more than %1 cells.").arg(MaximumCsvCells);
     }
     return {};
 }
@@ -226,11 +228,11 @@ CsvTable refusal(const QString& error)
 CsvTable parseCsv(const QByteArray& bytes, const CsvOptions& options)
 {
     if (bytes.size() > MaximumCsvBytes) {
-        return refusal(Tr::tr("The file has more than %1 bytes.").arg(MaximumCsvBytes));
+        return refusal(CsvTableTr::tr("The file has more than %1 bytes.").arg(MaximumCsvBytes));
     }
     const QString text = decoded(bytes, options.encoding);
     if ((text.isNull() && !bytes.isEmpty()) || text.contains(QChar::Null)) {
-        return refusal(Tr::tr("The file is not a text in this encoding."));
+        return refusal(CsvTableTr::tr("The file is not a text in this encoding."));
     }
     CsvTable table;
     table.separator = options.separator.isNull() ? separatorOf(text) : options.separator;
@@ -255,7 +257,7 @@ CsvTable parseCsv(const QByteArray& bytes, const CsvOptions& options)
     if (!parser.error().isEmpty()) {
         return refusal(parser.error());
     }
-    return table.cells.isEmpty() ? refusal(Tr::tr("The file has no records.")) : table;
+    return table.cells.isEmpty() ? refusal(CsvTableTr::tr("The file has no records.")) : table;
 }
 
 CsvTable readCsv(const QString& fileName, const CsvOptions& options)
@@ -263,14 +265,14 @@ CsvTable readCsv(const QString& fileName, const CsvOptions& options)
     QFile file(fileName);
     // Opening a pipe could wait forever.
     if (QFileInfo::exists(fileName) && !QFileInfo(fileName).isFile()) {
-        return refusal(Tr::tr("\"%1\" is not a file.").arg(fileName));
+        return refusal(CsvTableTr::tr("\"%1\" is not a file.").arg(fileName));
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        return refusal(Tr::tr("Cannot open \"%1\": %2.").arg(fileName, file.errorString()));
+        return refusal(CsvTableTr::tr("Cannot open \"%1\": %2.").arg(fileName, file.errorString()));
     }
     const QByteArray bytes = file.read(MaximumCsvBytes + 1);
     if (file.error() != QFileDevice::NoError) {
-        return refusal(Tr::tr("Cannot read \"%1\": %2.").arg(fileName, file.errorString()));
+        return refusal(CsvTableTr::tr("Cannot read \"%1\": %2.").arg(fileName, file.errorString()));
     }
     return parseCsv(bytes, options);
 }

@@ -18,20 +18,21 @@ namespace workbench::document {
 
 namespace {
 
-struct Tr
+struct LabelFileTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::LabelFile)
 };
 
 [[nodiscard]] QString cannotSave(const QString& path, const QString& reason)
 {
-    return Tr::tr("The label cannot be saved as %1: %2.")
+    return LabelFileTr::tr("The label cannot be saved as %1: %2.")
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
 [[nodiscard]] QString cannotOpen(const QString& path, const QString& reason)
 {
-    return Tr::tr("The file %1 cannot be opened: %2.").arg(QDir::toNativeSeparators(path), reason);
+    return LabelFileTr::tr("The file %1 cannot be opened: %2.")
+        .arg(QDir::toNativeSeparators(path), reason);
 }
 
 // Readers number z values on through all labels of a process. A saved label must not depend on
@@ -87,15 +88,15 @@ QString saveLabel(const QString& path, const Canvas& canvas,
 {
     const SavedLabel label = snapshot(canvas, datasources);
     if (label.items.size() > limits::Items || label.datasources.size() > limits::Items) {
-        return cannotSave(path, Tr::tr("it has more than %1 items").arg(limits::Items));
+        return cannotSave(path, LabelFileTr::tr("it has more than %1 items").arg(limits::Items));
     }
     if (pixelsOf(label) > limits::AllPicturePixels) {
-        return cannotSave(path, Tr::tr("its pictures are too large"));
+        return cannotSave(path, LabelFileTr::tr("its pictures are too large"));
     }
     const QByteArray bytes = toJson(label, origin, heartbeat);
     heartbeat();
     if (bytes.size() > limits::FileBytes) {
-        return cannotSave(path, Tr::tr("its pictures are too large"));
+        return cannotSave(path, LabelFileTr::tr("its pictures are too large"));
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
@@ -119,11 +120,11 @@ QString openLabel(const QString& path, Canvas& canvas,
 {
     const QFileInfo info(path);
     if (info.isDir()) {
-        return cannotOpen(path, Tr::tr("it is a folder"));
+        return cannotOpen(path, LabelFileTr::tr("it is a folder"));
     }
     // Opening a pipe could wait for ever.
     if (info.exists() && !info.isFile()) {
-        return cannotOpen(path, Tr::tr("it is not a regular file"));
+        return cannotOpen(path, LabelFileTr::tr("it is not a regular file"));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -131,7 +132,7 @@ QString openLabel(const QString& path, Canvas& canvas,
     }
     // Asked first: to read up to a bound takes the memory of the bound, however small the file.
     if (file.size() > limits::FileBytes) {
-        return cannotOpen(path, Tr::tr("it is larger than any label"));
+        return cannotOpen(path, LabelFileTr::tr("it is larger than any label"));
     }
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
@@ -142,7 +143,7 @@ QString openLabel(const QString& path, Canvas& canvas,
         return read.error;
     }
     if (!restore(read.label, canvas, datasources)) {
-        return Tr::tr("The label file is damaged: its data sources do not fit together.");
+        return LabelFileTr::tr("The label file is damaged: its data sources do not fit together.");
     }
     return {};
 }

@@ -17,7 +17,7 @@ namespace workbench::document {
 
 namespace {
 
-struct Tr
+struct LabelJsonTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::LabelFile)
 };
@@ -55,27 +55,28 @@ constexpr QLatin1String FormatName("labelport-label");
 [[nodiscard]] QString envelopeError(const QJsonObject& file)
 {
     if (file.value(FormatKey) != QJsonValue(FormatName)) {
-        return Tr::tr("The file is not a saved label.");
+        return LabelJsonTr::tr("The file is not a saved label.");
     }
     int version = 0;
     if (!fields::Json<int>::read(file.value(VersionKey), version) || version < 1) {
-        return Tr::tr("The label file is damaged: version is not a positive whole number.");
+        return LabelJsonTr::tr(
+            "The label file is damaged: version is not a positive whole number.");
     }
     if (version > FormatVersion) {
-        return Tr::tr("The label was saved by a newer version of the program: its format"
-                      " is %1, and this version knows formats up to %2. Update the"
-                      " program to open it.")
+        return LabelJsonTr::tr("The label was saved by a newer version of the program: its format"
+                               " is %1, and this version knows formats up to %2. Update the"
+                               " program to open it.")
             .arg(version)
             .arg(FormatVersion);
     }
     if (!file.value(LabelKey).isObject()) {
-        return Tr::tr("The label file is damaged: label is missing.");
+        return LabelJsonTr::tr("The label file is damaged: label is missing.");
     }
     // A file that a person or another program has written needs no checksum.
     if (file.contains(ChecksumKey) &&
         file.value(ChecksumKey) != QJsonValue(checksumOf(file.value(LabelKey).toObject()))) {
-        return Tr::tr("The label file is damaged: its content has changed since it was"
-                      " saved.");
+        return LabelJsonTr::tr("The label file is damaged: its content has changed since it was"
+                               " saved.");
     }
     return {};
 }
@@ -112,13 +113,13 @@ bool isUneditedImport(const QByteArray& bytes)
 ReadLabel fromJson(const QByteArray& bytes)
 {
     if (jsonlimits::isLargerThan(bytes, limits::TreeBytes)) {
-        return refusal(Tr::tr("The label file is damaged: it holds more than any label."));
+        return refusal(LabelJsonTr::tr("The label file is damaged: it holds more than any label."));
     }
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parsing);
     if (parsing.error != QJsonParseError::NoError) {
-        return refusal(Tr::tr("The file is not a saved label, or it is damaged: after %1"
-                              " bytes it cannot be read any further.")
+        return refusal(LabelJsonTr::tr("The file is not a saved label, or it is damaged: after %1"
+                                       " bytes it cannot be read any further.")
                            .arg(parsing.offset));
     }
     const QJsonObject file = document.object();
@@ -128,13 +129,13 @@ ReadLabel fromJson(const QByteArray& bytes)
     }
     const QJsonObject content = file.value(LabelKey).toObject();
     if (claimedPixels(content) > limits::AllPicturePixels) {
-        return refusal(Tr::tr("The label file is damaged: its pictures are too large."));
+        return refusal(LabelJsonTr::tr("The label file is damaged: its pictures are too large."));
     }
     ReadLabel result;
     fields::FieldReader reader(content, limits::Items);
     describe(reader, result.label);
     if (!reader.error().isEmpty()) {
-        return refusal(Tr::tr("The label file is damaged: %1.").arg(reader.error()));
+        return refusal(LabelJsonTr::tr("The label file is damaged: %1.").arg(reader.error()));
     }
     return result;
 }

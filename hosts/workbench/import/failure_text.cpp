@@ -17,39 +17,42 @@ using namespace Qt::StringLiterals;
 
 // The readers' messages on failure, and their explanations for users. %1 and so on are the
 // arguments of the message.
-struct Row
+struct FailureRow
 {
     const char* code;
     const char* words;
 };
 
 #define TEXT(text) QT_TRANSLATE_NOOP("workbench::FailureText", text)
-constexpr std::array Rows{
-    Row{messages::VersionRefused.text,
+constexpr std::array FailureRows{
+    FailureRow{
+        messages::VersionRefused.text,
         TEXT("Not a binary label, or one of an unsupported version: the file has version %1, the "
              "oldest supported version is 2000016.")},
-    Row{messages::RecordTypeUnknown,
-        TEXT("Not a label, or a damaged one: the first object has the unknown type %1.")},
-    Row{messages::OpeningFailed, TEXT("Cannot open the file.")},
-    Row{messages::DocumentParsingFailed,
-        TEXT("The document is damaged: %1 is not well-formed at line %2, column %3 (%4).")},
-    Row{messages::ParsingFailed,
+    FailureRow{messages::RecordTypeUnknown,
+               TEXT("Not a label, or a damaged one: the first object has the unknown type %1.")},
+    FailureRow{messages::OpeningFailed, TEXT("Cannot open the file.")},
+    FailureRow{messages::DocumentParsingFailed,
+               TEXT("The document is damaged: %1 is not well-formed at line %2, column %3 (%4).")},
+    FailureRow{
+        messages::ParsingFailed,
         TEXT("Not a label, or a damaged one: the XML is not well-formed at line %2, column %3 "
              "(%4).")},
-    Row{messages::RootElementUnknown,
-        TEXT("The file is XML, but not a label: its root element is not \"qmtx\".")},
-    Row{messages::StylesMissing,
+    FailureRow{messages::RootElementUnknown,
+               TEXT("The file is XML, but not a label: its root element is not \"qmtx\".")},
+    FailureRow{
+        messages::StylesMissing,
         TEXT("Not an OpenDocument file, or a damaged one: styles.xml is missing or unreadable.")},
-    Row{messages::ContentMissing,
-        TEXT("The OpenDocument file is damaged: content.xml is missing or unreadable.")},
-    Row{refusals::NotAFile, TEXT("This is not a regular file.")},
-    Row{refusals::FileTooLarge, TEXT("The file is too large for a label.")},
-    Row{refusals::TooManyControls, TEXT("The file has too many objects for a label.")},
+    FailureRow{messages::ContentMissing,
+               TEXT("The OpenDocument file is damaged: content.xml is missing or unreadable.")},
+    FailureRow{refusals::NotAFile, TEXT("This is not a regular file.")},
+    FailureRow{refusals::FileTooLarge, TEXT("The file is too large for a label.")},
+    FailureRow{refusals::TooManyControls, TEXT("The file has too many objects for a label.")},
 };
 constexpr const char* NothingFound = TEXT("The file contains nothing to put on a label.");
 #undef TEXT
 
-QString translated(const char* words)
+QString translatedFailure(const char* words)
 {
     return QCoreApplication::translate("workbench::FailureText", words);
 }
@@ -73,10 +76,12 @@ QString filled(const QString& words, const QStringList& arguments)
 QString textFor(const LogRecord& record)
 {
     const KnownMessage message = recognize(record);
-    const auto* row = std::find_if(Rows.begin(), Rows.end(), [&message](const Row& candidate) {
-        return message.code == QLatin1String(candidate.code);
-    });
-    return row != Rows.end() ? filled(translated(row->words), message.arguments) : QString();
+    const auto* row = std::find_if(FailureRows.begin(), FailureRows.end(),
+                                   [&message](const FailureRow& candidate) {
+                                       return message.code == QLatin1String(candidate.code);
+                                   });
+    return row != FailureRows.end() ? filled(translatedFailure(row->words), message.arguments)
+                                    : QString();
 }
 
 QString lastError(const QList<LogRecord>& records)
@@ -100,7 +105,7 @@ QString importFailureReason(const QList<LogRecord>& records, const QStringList& 
         return messages.join(u'\n');
     }
     const QString error = lastError(records);
-    return error.isEmpty() ? translated(NothingFound) : error;
+    return error.isEmpty() ? translatedFailure(NothingFound) : error;
 }
 
 } // namespace workbench

@@ -12,7 +12,7 @@ namespace workbench {
 
 namespace {
 
-struct Tr
+struct FileCheckTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::FileCheck)
 };
@@ -26,25 +26,25 @@ QString fileAccessError(const QString& fileName)
 {
     const QFileInfo info(fileName);
     if (fileName.isEmpty()) {
-        return Tr::tr("No file was named.");
+        return FileCheckTr::tr("No file was named.");
     }
     if (!info.exists() && info.isSymLink()) {
-        return Tr::tr("The link points to a file that does not exist.");
+        return FileCheckTr::tr("The link points to a file that does not exist.");
     }
     if (!info.exists()) {
-        return Tr::tr("The file does not exist.");
+        return FileCheckTr::tr("The file does not exist.");
     }
     if (info.isDir()) {
-        return Tr::tr("This is a folder, not a file.");
+        return FileCheckTr::tr("This is a folder, not a file.");
     }
     if (!info.isFile()) {
-        return Tr::tr("This is not a regular file.");
+        return FileCheckTr::tr("This is not a regular file.");
     }
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Tr::tr("The file cannot be opened: %1.").arg(file.errorString());
+        return FileCheckTr::tr("The file cannot be opened: %1.").arg(file.errorString());
     }
-    return file.size() == 0 ? Tr::tr("The file is empty.") : QString();
+    return file.size() == 0 ? FileCheckTr::tr("The file is empty.") : QString();
 }
 
 QString misnamedFileHint(const QString& fileName, ReaderKind reader)
@@ -55,11 +55,13 @@ QString misnamedFileHint(const QString& fileName, ReaderKind reader)
     }
     const QString hint =
         *content == ReaderKind::OpenDocument
-            ? Tr::tr("The file is a zip package, as OpenDocument files are, but it was read as "
-                     "\"%1\". If it is an OpenDocument file, rename it so that it ends in "
-                     "\".odt\" or \".odg\", or use --reader %2.")
-            : Tr::tr("The file is XML, but it was read as \"%1\". If it is an XML label, rename "
-                     "it so that it ends in \".qmtx\", or use --reader %2.");
+            ? FileCheckTr::tr(
+                  "The file is a zip package, as OpenDocument files are, but it was read as "
+                  "\"%1\". If it is an OpenDocument file, rename it so that it ends in "
+                  "\".odt\" or \".odg\", or use --reader %2.")
+            : FileCheckTr::tr(
+                  "The file is XML, but it was read as \"%1\". If it is an XML label, rename "
+                  "it so that it ends in \".qmtx\", or use --reader %2.");
     return hint.arg(readerOf(reader).name, readerOf(*content).name);
 }
 
@@ -75,8 +77,9 @@ bool isPasswordProtected(const QString& fileName)
 
 QString passwordProtectedMessage()
 {
-    return Tr::tr("The document is protected by a password. Open it in an office program, save "
-                  "it without a password, and import it again.");
+    return FileCheckTr::tr(
+        "The document is protected by a password. Open it in an office program, save "
+        "it without a password, and import it again.");
 }
 
 } // namespace workbench

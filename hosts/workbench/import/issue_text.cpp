@@ -20,7 +20,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Row
+struct IssueRow
 {
     const char* code;
     const char* words; ///< %1: the first argument of the message
@@ -28,49 +28,53 @@ struct Row
 
 #define TEXT(text) QT_TRANSLATE_NOOP("workbench::IssueText", text)
 // Other debug records are for developers; other error records are shown unchanged.
-constexpr std::array Rows{
-    Row{messages::ControlUnknown, TEXT("Left out an object of the unknown type \"%1\".")},
-    Row{messages::DocumentTypeUnsupported,
-        TEXT("The document is neither a text nor a drawing; nothing was imported from it.")},
-    Row{messages::RecordTypeUnknown,
+constexpr std::array IssueRows{
+    IssueRow{messages::ControlUnknown, TEXT("Left out an object of the unknown type \"%1\".")},
+    IssueRow{messages::DocumentTypeUnsupported,
+             TEXT("The document is neither a text nor a drawing; nothing was imported from it.")},
+    IssueRow{
+        messages::RecordTypeUnknown,
         TEXT("The file continues with an object of the unknown type %1; the rest was not read.")},
-    Row{messages::SymbolsUnreadable.text,
-        TEXT("Left out symbols: neither the file nor the symbol databases contain their "
-             "drawings.")},
-    Row{messages::BarcodesUnsupported.text, TEXT("Left out barcodes of unsupported types.")},
-    Row{messages::DatabaseNotConnected.text,
-        TEXT("The database is no longer connected; the label shows its last values.")},
-    Row{refusals::ItemRefused, TEXT("Left out an object that the program could not create.")},
-    Row{refusals::DatasourceRefused,
-        TEXT("Left out a data source that the program could not create.")},
-    Row{refusals::PictureTooLarge, TEXT("Left out a picture that is too large.")},
-    Row{refusals::PictureFormat, TEXT("Left out a picture of an unsupported format.")},
-    Row{refusals::PictureUnreadable, TEXT("Left out a picture that is damaged or too large.")},
-    Row{refusals::TextTooLong, TEXT("Left out a text that is too long.")},
-    Row{refusals::TooManyItems, TEXT("The file has too many objects; the rest was not read.")},
-    Row{refusals::TooManyNotes, TEXT("Further texts were stretched; they are not listed.")},
-    Row{refusals::PackageMemberUnreadable,
-        TEXT("A file in the package is missing, damaged or too large.")},
-    Row{refusals::PackagePictureUnreadable,
-        TEXT("Left out a picture that is damaged or too large.")},
-    Row{refusals::PackageDrawingUnreadable, TEXT("Left out a drawing that cannot be converted.")},
+    IssueRow{messages::SymbolsUnreadable.text,
+             TEXT("Left out symbols: neither the file nor the symbol databases contain their "
+                  "drawings.")},
+    IssueRow{messages::BarcodesUnsupported.text, TEXT("Left out barcodes of unsupported types.")},
+    IssueRow{messages::DatabaseNotConnected.text,
+             TEXT("The database is no longer connected; the label shows its last values.")},
+    IssueRow{refusals::ItemRefused, TEXT("Left out an object that the program could not create.")},
+    IssueRow{refusals::DatasourceRefused,
+             TEXT("Left out a data source that the program could not create.")},
+    IssueRow{refusals::PictureTooLarge, TEXT("Left out a picture that is too large.")},
+    IssueRow{refusals::PictureFormat, TEXT("Left out a picture of an unsupported format.")},
+    IssueRow{refusals::PictureUnreadable, TEXT("Left out a picture that is damaged or too large.")},
+    IssueRow{refusals::TextTooLong, TEXT("Left out a text that is too long.")},
+    IssueRow{refusals::TooManyItems, TEXT("The file has too many objects; the rest was not read.")},
+    IssueRow{refusals::TooManyNotes, TEXT("Further texts were stretched; they are not listed.")},
+    IssueRow{refusals::PackageMemberUnreadable,
+             TEXT("A file in the package is missing, damaged or too large.")},
+    IssueRow{refusals::PackagePictureUnreadable,
+             TEXT("Left out a picture that is damaged or too large.")},
+    IssueRow{refusals::PackageDrawingUnreadable,
+             TEXT("Left out a drawing that cannot be converted.")},
 };
 // %1 is a text, %2 a size in points.
 constexpr const char* StretchedText = TEXT("Text \"%1\" was stretched; its font size was %2 pt.");
 #undef TEXT
 
-QString translated(const char* words)
+QString translatedIssue(const char* words)
 {
     return QCoreApplication::translate("workbench::IssueText", words);
 }
 
 QString textFor(const KnownMessage& message)
 {
-    const auto* row = std::find_if(Rows.begin(), Rows.end(), [&message](const Row& candidate) {
-        return message.code == QLatin1String(candidate.code);
-    });
-    return row != Rows.end() ? translated(row->words).replace(u"%1"_s, message.arguments.value(0))
-                             : QString();
+    const auto* row =
+        std::find_if(IssueRows.begin(), IssueRows.end(), [&message](const IssueRow& candidate) {
+            return message.code == QLatin1String(candidate.code);
+        });
+    return row != IssueRows.end()
+               ? translatedIssue(row->words).replace(u"%1"_s, message.arguments.value(0))
+               : QString();
 }
 
 /// Finds the items that notes on texts refer to.
@@ -196,7 +200,7 @@ void BoxReader::addNote(const QString& text, const QString& points)
     if (!m_finder) {
         m_finder.emplace(m_canvas);
     }
-    m_issues.add({.text = translated(StretchedText).arg(text, points),
+    m_issues.add({.text = translatedIssue(StretchedText).arg(text, points),
                   .item = m_finder->itemWithText(text),
                   .code = QString::fromLatin1(messages::TextStretched.text)});
 }

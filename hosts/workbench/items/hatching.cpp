@@ -11,16 +11,16 @@ namespace workbench {
 
 namespace {
 
-constexpr double Spacing = 6.0;          // distance of two lines in points
-constexpr double LineWidth = 0.75;       // points
-constexpr double MaximumLines = 2'000.0; // lines in one direction
+constexpr double Spacing = 6.0;               // distance of two lines in points
+constexpr double LineWidth = 0.75;            // points
+constexpr double MaximumHatchLines = 2'000.0; // lines in one direction
 
 // The lines for positions `from` to `to` on a grid that starts at 0.
 template <class MakeLine>
 void addRaster(QList<QLineF>& lines, double from, double to, double spacing,
                const MakeLine& makeLine)
 {
-    const double step = std::max(spacing, (to - from) / MaximumLines);
+    const double step = std::max(spacing, (to - from) / MaximumHatchLines);
     for (double position = std::ceil(from / step) * step; position <= to; position += step) {
         lines.append(makeLine(position));
     }

@@ -18,7 +18,7 @@ namespace {
 
 // Longer text is unreadable on any label, but would take long to lay out.
 constexpr qsizetype MaximumCharacters = 10'000;
-constexpr int MaximumLines = 5'000;
+constexpr int MaximumTextLines = 5'000;
 
 // The font size for the layout of a text that is scaled to its box.
 constexpr int ReferenceSize = 100;
@@ -74,7 +74,7 @@ QSizeF layOut(QTextLayout& layout, double width)
     double height = 0.0;
     double used = 0.0;
     layout.beginLayout();
-    for (int count = 0; count < MaximumLines; ++count) {
+    for (int count = 0; count < MaximumTextLines; ++count) {
         QTextLine line = layout.createLine();
         if (!line.isValid()) {
             break;

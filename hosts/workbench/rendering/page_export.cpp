@@ -1,6 +1,7 @@
 #include "workbench/rendering/page_export.h"
 
 #include "workbench/canvas/canvas.h"
+#include "workbench/items/units.h"
 #include "workbench/pictures/atomic_save.h"
 #include "workbench/rendering/page_painter.h"
 #include "workbench/rendering/svg_groups.h"
@@ -26,7 +27,6 @@ namespace workbench {
 
 namespace {
 
-constexpr double PointsPerInch = 72.0;
 constexpr double MillimetersPerInch = 25.4;
 constexpr int PdfDpi = 1200;
 // Of drawings that are embedded in other documents, and the most of a side.
@@ -35,14 +35,14 @@ constexpr double MostUnits = 1e8;
 // The attributes of an SVG document that hold its size.
 constexpr qsizetype HeadLength = 600;
 
-struct Tr
+struct PageExportTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::PageExport)
 };
 
 QString cannotWrite(const QString& fileName, const QString& reason)
 {
-    return Tr::tr("Cannot write \"%1\": %2.").arg(fileName, reason);
+    return PageExportTr::tr("Cannot write \"%1\": %2.").arg(fileName, reason);
 }
 
 // The resolution for the layout of fonts with sizes in points.
@@ -186,7 +186,8 @@ QString writePdf(const QString& fileName, const QString& title, const QSizeF& pa
                  const PaintPdfPage& paint)
 {
     if (isTooLargeForPdf(page)) {
-        return Tr::tr("The page is longer than %1 points, the most that a PDF document can have.")
+        return PageExportTr::tr(
+                   "The page is longer than %1 points, the most that a PDF document can have.")
             .arg(MaximumPdfSide);
     }
     QSaveFile file(fileName);

@@ -1,6 +1,7 @@
 #include "workbench/rendering/page_image.h"
 
 #include "workbench/canvas/canvas.h"
+#include "workbench/items/units.h"
 #include "workbench/pictures/atomic_save.h"
 #include "workbench/pictures/png_encoder.h"
 #include "workbench/rendering/page_painter.h"
@@ -16,10 +17,9 @@ namespace workbench {
 
 namespace {
 
-constexpr double PointsPerInch = 72.0;
 constexpr double MetersPerInch = 0.0254;
 
-struct Tr
+struct PageImageTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::PageImage)
 };
@@ -52,8 +52,9 @@ int largestDpi(const QSizeF& page)
 QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
 {
     const QString text =
-        Tr::tr("The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots "
-               "per inch. The largest picture is %6 pixels along a side and %7 million in all.")
+        PageImageTr::tr(
+            "The page is %1 by %2 points, which gives a picture of %3 by %4 pixels at %5 dots "
+            "per inch. The largest picture is %6 pixels along a side and %7 million in all.")
             .arg(page.width())
             .arg(page.height())
             .arg(pixels.width(), 0, 'f', 0)
@@ -62,7 +63,8 @@ QString tooLarge(const QSizeF& page, const QSizeF& pixels, double dpi)
             .arg(MaximumImageSide)
             .arg(MaximumImagePixels / 1'000'000);
     const int best = largestDpi(page);
-    return best < 1 ? text : text + Tr::tr(" Up to %1 dots per inch are possible.").arg(best);
+    return best < 1 ? text
+                    : text + PageImageTr::tr(" Up to %1 dots per inch are possible.").arg(best);
 }
 
 // The page may cover the last row and column only partly: fill them completely.
@@ -82,7 +84,7 @@ int dotsPerMeter(double dpi)
 PageImage renderPage(const Canvas& canvas, double dpi)
 {
     if (!std::isfinite(dpi) || dpi <= 0.0) {
-        return {{}, Tr::tr("The resolution must be above 0 dots per inch.")};
+        return {{}, PageImageTr::tr("The resolution must be above 0 dots per inch.")};
     }
     const QSizeF pixels = pixelSize(canvas, dpi);
     if (!isWithinBounds(pixels)) {
@@ -91,7 +93,7 @@ PageImage renderPage(const Canvas& canvas, double dpi)
     QImage image(pixels.toSize(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) {
         return {{},
-                Tr::tr("There is not enough memory for a picture of %1 by %2 pixels.")
+                PageImageTr::tr("There is not enough memory for a picture of %1 by %2 pixels.")
                     .arg(pixels.width())
                     .arg(pixels.height())};
     }
@@ -111,10 +113,10 @@ QString writePng(const QImage& image, const QString& fileName)
 {
     QSaveFile file(fileName);
     if (!file.open(QIODevice::WriteOnly)) {
-        return Tr::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
+        return PageImageTr::tr("Cannot write \"%1\": %2.").arg(fileName, file.errorString());
     }
     if (!encodePng(image, file) || !commitComplete(file)) {
-        return Tr::tr("Cannot write \"%1\": %2.").arg(fileName, writeError(file));
+        return PageImageTr::tr("Cannot write \"%1\": %2.").arg(fileName, writeError(file));
     }
     return {};
 }

@@ -16,7 +16,7 @@ namespace workbench::symbols {
 
 namespace {
 
-struct Tr
+struct SymbolDatabaseTr
 {
     Q_DECLARE_TR_FUNCTIONS(workbench::SymbolDatabase)
 };
@@ -44,7 +44,7 @@ SymbolDatabase::SymbolDatabase(const QString& path)
     if (QFileInfo(path).isFile()) {
         open(path);
     } else {
-        fail(Tr::tr("the file does not exist"));
+        fail(SymbolDatabaseTr::tr("the file does not exist"));
     }
 }
 
@@ -93,7 +93,7 @@ bool SymbolDatabase::hasSymbolTable()
         return false;
     }
     if (*tables != 1 || count(query, ColumnsQuery) != 2) {
-        fail(Tr::tr("it has no table of symbols"));
+        fail(SymbolDatabaseTr::tr("it has no table of symbols"));
         return false;
     }
     return true;
@@ -125,7 +125,7 @@ QByteArray SymbolDatabase::svg(const QString& name)
 
 void SymbolDatabase::fail(const QString& error)
 {
-    m_error = error.isEmpty() ? Tr::tr("it cannot be read") : error;
+    m_error = error.isEmpty() ? SymbolDatabaseTr::tr("it cannot be read") : error;
 }
 
 } // namespace workbench::symbols

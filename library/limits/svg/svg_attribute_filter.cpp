@@ -22,12 +22,6 @@ constexpr std::array<QStringView, 19> Lengths{
     u"x",  u"y",  u"width", u"height", u"x1", u"y1", u"x2", u"y2",           u"cx",       u"cy",
     u"dx", u"dy", u"r",     u"rx",     u"ry", u"fx", u"fy", u"stroke-width", u"font-size"};
 
-template <std::size_t Size>
-[[nodiscard]] bool contains(const std::array<QStringView, Size>& names, QStringView name)
-{
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 [[nodiscard]] QString plainNumber(double value)
 {
     return QString::number(value, 'g', 12);

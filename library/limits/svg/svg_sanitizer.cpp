@@ -33,12 +33,6 @@ constexpr std::array<QStringView, 5> NeedReference{u"image", u"use", u"feImage",
 constexpr std::array<QStringView, 4> RootSizes{u"width", u"height", u"viewBox",
                                                u"preserveAspectRatio"};
 
-template <std::size_t Size>
-[[nodiscard]] bool contains(const std::array<QStringView, Size>& names, QStringView name)
-{
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 [[nodiscard]] QString attributeText(QStringView name, const QString& value)
 {
     QString escaped = value.toHtmlEscaped();

@@ -4,11 +4,20 @@
 #include <QStringList>
 #include <QStringView>
 
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <optional>
 
 /// The texts of SVG attributes and style sheets: styles, lengths, coordinate lists.
 namespace svglimits {
+
+/// Whether a table of names has this one.
+template <std::size_t Size>
+[[nodiscard]] bool contains(const std::array<QStringView, Size>& names, QStringView name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
 
 /// Whether the text names something outside the document: a url() other than "#fragment",
 /// an import, or an escape that could hide either.

@@ -3,6 +3,7 @@
 #include "window/canvas/page_backdrop.h"
 #include "window/canvas/selection_tool.h"
 #include "workbench/canvas/canvas.h"
+#include "workbench/items/units.h"
 
 #include <QGraphicsItem>
 #include <QScrollBar>
@@ -13,7 +14,7 @@ namespace window {
 
 namespace {
 
-constexpr double PointsPerInch = 72.0;
+using workbench::PointsPerInch;
 // Fraction of the view that stays free around a fitted page.
 constexpr double FitMargin = 0.06;
 

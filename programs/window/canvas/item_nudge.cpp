@@ -1,6 +1,7 @@
 #include "window/canvas/item_nudge.h"
 
 #include "window/canvas/locks.h"
+#include "workbench/items/units.h"
 
 #include <QGraphicsItem>
 
@@ -8,7 +9,7 @@ namespace window {
 
 namespace {
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 constexpr double Nudge = 0.5 * PointsPerMillimeter;
 constexpr double CoarseNudge = 5.0 * PointsPerMillimeter;
 constexpr double FineNudge = 0.1 * PointsPerMillimeter;

@@ -9,7 +9,7 @@ namespace window {
 
 namespace {
 
-struct Tr
+struct LocksTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Locks)
 };
@@ -20,16 +20,16 @@ QString immovableReason(const workbench::ItemValues& values)
 {
     const QString title = itemTitle(values);
     if (values.placement.readOnly) {
-        return Tr::tr("%1 is read-only. To move it, clear “Read-only” in its properties.")
+        return LocksTr::tr("%1 is read-only. To move it, clear “Read-only” in its properties.")
             .arg(title);
     }
     if (values.placement.userBackground) {
-        return Tr::tr("%1 belongs to the background. To move it, clear “Background” in its "
-                      "properties.")
+        return LocksTr::tr("%1 belongs to the background. To move it, clear “Background” in its "
+                           "properties.")
             .arg(title);
     }
     if (!values.placement.movable) {
-        return Tr::tr("%1 is locked. To move it, set “Movable” in its properties.").arg(title);
+        return LocksTr::tr("%1 is locked. To move it, set “Movable” in its properties.").arg(title);
     }
     return {};
 }

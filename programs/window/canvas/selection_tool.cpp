@@ -24,11 +24,6 @@ bool changesSelection(const QMouseEvent& event)
     return (event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) != 0;
 }
 
-bool isSelected(const workbench::CanvasItem* item)
-{
-    return item->graphicsItem()->isSelected();
-}
-
 workbench::CanvasItem* singleSelected(workbench::Canvas& canvas)
 {
     const QList<QGraphicsItem*> selected = canvas.scene()->selectedItems();
@@ -51,6 +46,11 @@ SelectionTool::SelectionTool(QGraphicsView& view)
     : QObject(&view)
     , m_view(view)
 {}
+
+bool SelectionTool::isSelected(const workbench::CanvasItem* item)
+{
+    return item->graphicsItem()->isSelected();
+}
 
 void SelectionTool::setCanvas(workbench::Canvas* canvas)
 {

@@ -80,6 +80,7 @@ private:
 
     enum class Drag : quint8 { None, Pressed, Moving, Selecting, Handling };
 
+    [[nodiscard]] static bool isSelected(const workbench::CanvasItem* item);
     void beginDrag(const QPoint& at, bool extends);
     void prepareMove();
     void moveItems(const QMouseEvent& event);

@@ -21,11 +21,6 @@ QPointF alongOneAxis(const QPointF& way)
     return std::abs(way.x()) >= std::abs(way.y()) ? QPointF(way.x(), 0.0) : QPointF(0.0, way.y());
 }
 
-bool isSelected(const workbench::CanvasItem* item)
-{
-    return item->graphicsItem()->isSelected();
-}
-
 } // namespace
 
 void SelectionTool::beginDrag(const QPoint& at, bool extends)

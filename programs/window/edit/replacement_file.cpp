@@ -20,17 +20,19 @@ namespace {
 // Bytes of a drawing.
 constexpr qint64 LargestDrawing = 32 * 1024 * 1024;
 
-struct Tr
+struct ReplacementFileTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::ReplacementFile)
 };
 
 void showError(QWidget* parent, const QString& path, const QString& reason)
 {
-    QMessageBox box(QMessageBox::Warning, Tr::tr("Replace Picture"), {}, QMessageBox::Ok, parent);
+    QMessageBox box(QMessageBox::Warning, ReplacementFileTr::tr("Replace Picture"), {},
+                    QMessageBox::Ok, parent);
     // File names may contain markup.
     box.setTextFormat(Qt::PlainText);
-    box.setText(Tr::tr("Cannot use \"%1\": %2").arg(QFileInfo(path).fileName(), reason));
+    box.setText(
+        ReplacementFileTr::tr("Cannot use \"%1\": %2").arg(QFileInfo(path).fileName(), reason));
     box.exec();
 }
 
@@ -47,14 +49,14 @@ QImage readPicture(QWidget* parent, const QString& path)
     reader.setAutoTransform(true);
     // Before decoding: a small file may be a huge picture.
     if (isTooLarge(reader.size())) {
-        showError(parent, path, Tr::tr("The picture is too large."));
+        showError(parent, path, ReplacementFileTr::tr("The picture is too large."));
         return {};
     }
     const QImage image = reader.read();
     if (image.isNull()) {
         showError(parent, path, reader.errorString());
     } else if (isTooLarge(image.size())) {
-        showError(parent, path, Tr::tr("The picture is too large."));
+        showError(parent, path, ReplacementFileTr::tr("The picture is too large."));
         return {};
     }
     return image;
@@ -65,8 +67,8 @@ QImage readPicture(QWidget* parent, const QString& path)
 QVariant askPicture(QWidget* parent)
 {
     const QString path = QFileDialog::getOpenFileName(
-        parent, Tr::tr("Replace Picture"), {},
-        Tr::tr("Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;All files (*)"));
+        parent, ReplacementFileTr::tr("Replace Picture"), {},
+        ReplacementFileTr::tr("Pictures (*.png *.jpg *.jpeg *.bmp *.gif *.webp);;All files (*)"));
     if (path.isEmpty()) {
         return {};
     }
@@ -76,8 +78,9 @@ QVariant askPicture(QWidget* parent)
 
 QVariant askSymbol(QWidget* parent)
 {
-    const QString path = QFileDialog::getOpenFileName(parent, Tr::tr("Replace Symbol"), {},
-                                                      Tr::tr("Drawings (*.svg);;All files (*)"));
+    const QString path =
+        QFileDialog::getOpenFileName(parent, ReplacementFileTr::tr("Replace Symbol"), {},
+                                     ReplacementFileTr::tr("Drawings (*.svg);;All files (*)"));
     if (path.isEmpty()) {
         return {};
     }
@@ -90,7 +93,8 @@ QVariant askSymbol(QWidget* parent)
     const std::optional<QByteArray> data =
         bytes.size() <= LargestDrawing ? workbench::symbols::makeSymbolData(bytes) : std::nullopt;
     if (!data) {
-        showError(parent, path, Tr::tr("The file is not an SVG drawing, or it is too large."));
+        showError(parent, path,
+                  ReplacementFileTr::tr("The file is not an SVG drawing, or it is too large."));
         return {};
     }
     return *data;

@@ -15,7 +15,7 @@ namespace window {
 
 namespace {
 
-struct Tr
+struct PromptsTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Prompts)
 };
@@ -39,10 +39,10 @@ QString startFolder(const QString& besides)
 QString openFilters()
 {
     return QStringList{
-        Tr::tr("All labels (%1)").arg(u"*.label "_s + legacyPatterns()),
-        Tr::tr("Saved labels (*.label)"),
-        Tr::tr("Legacy labels (%1)").arg(legacyPatterns()),
-        Tr::tr("All files (*)"),
+        PromptsTr::tr("All labels (%1)").arg(u"*.label "_s + legacyPatterns()),
+        PromptsTr::tr("Saved labels (*.label)"),
+        PromptsTr::tr("Legacy labels (%1)").arg(legacyPatterns()),
+        PromptsTr::tr("All files (*)"),
     }
         .join(u";;"_s);
 }
@@ -65,9 +65,9 @@ Prompts::Changes Prompts::askUnsavedChanges(const QString& labelName, bool allow
 {
     QMessageBox box(m_window);
     box.setIcon(QMessageBox::Question);
-    box.setWindowTitle(Tr::tr("Unsaved Changes"));
-    setPlainText(box, Tr::tr("Save the changes to “%1”?").arg(labelName),
-                 Tr::tr("Changes that are not saved will be lost."));
+    box.setWindowTitle(PromptsTr::tr("Unsaved Changes"));
+    setPlainText(box, PromptsTr::tr("Save the changes to “%1”?").arg(labelName),
+                 PromptsTr::tr("Changes that are not saved will be lost."));
     box.setStandardButtons(QMessageBox::Save | QMessageBox::Cancel);
     if (allowDiscard) {
         box.addButton(QMessageBox::Discard);
@@ -85,7 +85,7 @@ Prompts::Changes Prompts::askUnsavedChanges(const QString& labelName, bool allow
 
 QString Prompts::askOpenFile(const QString& besides) const
 {
-    const QString fileName = QFileDialog::getOpenFileName(m_window, Tr::tr("Open Label"),
+    const QString fileName = QFileDialog::getOpenFileName(m_window, PromptsTr::tr("Open Label"),
                                                           startFolder(besides), openFilters());
     if (!fileName.isEmpty()) {
         QSettings().setValue(folderKey(), QFileInfo(fileName).absolutePath());
@@ -96,7 +96,7 @@ QString Prompts::askOpenFile(const QString& besides) const
 QString Prompts::askFolder() const
 {
     const QString folder =
-        QFileDialog::getExistingDirectory(m_window, Tr::tr("Open Folder"), startFolder({}));
+        QFileDialog::getExistingDirectory(m_window, PromptsTr::tr("Open Folder"), startFolder({}));
     if (!folder.isEmpty()) {
         QSettings().setValue(folderKey(), QFileInfo(folder).absoluteFilePath());
     }
@@ -105,8 +105,9 @@ QString Prompts::askFolder() const
 
 QString Prompts::askSaveFile(const QString& suggestedName) const
 {
-    QFileDialog dialog(m_window, Tr::tr("Save Label"), QFileInfo(suggestedName).absolutePath(),
-                       Tr::tr("Saved labels (*.label)"));
+    QFileDialog dialog(m_window, PromptsTr::tr("Save Label"),
+                       QFileInfo(suggestedName).absolutePath(),
+                       PromptsTr::tr("Saved labels (*.label)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(labelSuffix().mid(1));
     dialog.selectFile(QFileInfo(suggestedName).fileName());
@@ -120,7 +121,7 @@ void Prompts::showError(const QString& what, const QString& why) const
 {
     QMessageBox box(m_window);
     box.setIcon(QMessageBox::Warning);
-    box.setWindowTitle(Tr::tr("LabelPort Workbench"));
+    box.setWindowTitle(PromptsTr::tr("LabelPort Workbench"));
     setPlainText(box, what, why);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
@@ -130,7 +131,7 @@ void Prompts::showResult(const QString& what, const QString& details) const
 {
     QMessageBox box(m_window);
     box.setIcon(QMessageBox::Information);
-    box.setWindowTitle(Tr::tr("LabelPort Workbench"));
+    box.setWindowTitle(PromptsTr::tr("LabelPort Workbench"));
     setPlainText(box, what, details);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();

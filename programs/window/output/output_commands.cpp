@@ -20,7 +20,7 @@ namespace window {
 
 namespace {
 
-struct Tr
+struct OutputCommandsTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::OutputCommands)
 };
@@ -30,7 +30,7 @@ class ProgressWindow
 {
 public:
     ProgressWindow(const QString& title, qint64 count, QWidget* window)
-        : m_dialog(title, Tr::tr("Stop"), 0, static_cast<int>(count), window)
+        : m_dialog(title, OutputCommandsTr::tr("Stop"), 0, static_cast<int>(count), window)
     {
         m_dialog.setWindowTitle(title);
         m_dialog.setWindowModality(Qt::WindowModal);
@@ -56,10 +56,10 @@ QString suggestedBase(const OpenLabel& label)
 QString resultMessage(const OutputReport& report, const OutputOrder& order)
 {
     if (report.wasStopped) {
-        return Tr::tr("Stopped after %n file(s)", nullptr, report.files);
+        return OutputCommandsTr::tr("Stopped after %n file(s)", nullptr, report.files);
     }
-    return report.files == 1 ? Tr::tr("Written: %1").arg(fileNameInSeries(order, 0))
-                             : Tr::tr("%n file(s) written", nullptr, report.files);
+    return report.files == 1 ? OutputCommandsTr::tr("Written: %1").arg(fileNameInSeries(order, 0))
+                             : OutputCommandsTr::tr("%n file(s) written", nullptr, report.files);
 }
 
 void showFindings(const exporting::ExportFindings& findings, const QString& result,
@@ -77,9 +77,9 @@ void showFindings(const exporting::ExportFindings& findings, const QString& resu
 // A file that the user has chosen; empty if the user canceled.
 QString askPdfFile(const OpenLabel& label, QWidget* window)
 {
-    return QFileDialog::getSaveFileName(window, Tr::tr("Print to PDF"),
+    return QFileDialog::getSaveFileName(window, OutputCommandsTr::tr("Print to PDF"),
                                         suggestedBase(label) + u".pdf"_s,
-                                        Tr::tr("PDF documents (*.pdf)"));
+                                        OutputCommandsTr::tr("PDF documents (*.pdf)"));
 }
 
 // The documents of different papers: "shelf.pdf", "shelf-2.pdf".
@@ -94,7 +94,7 @@ QString moveDocuments(const QList<printing::PrintDocument>& documents, const QSt
         QSaveFile target(name);
         if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly) ||
             target.write(source.readAll()) != source.size() || !target.commit()) {
-            return Tr::tr("Cannot write \"%1\": %2.").arg(name, target.errorString());
+            return OutputCommandsTr::tr("Cannot write \"%1\": %2.").arg(name, target.errorString());
         }
     }
     return {};
@@ -119,7 +119,8 @@ OutputReport printAll(PrintDialog& dialog, const OpenLabel& label, const QString
     OutputReport report;
     const QTemporaryDir folder;
     if (!folder.isValid()) {
-        report.error = Tr::tr("Cannot create a temporary folder: %1.").arg(folder.errorString());
+        report.error =
+            OutputCommandsTr::tr("Cannot create a temporary folder: %1.").arg(folder.errorString());
         return report;
     }
     QList<printing::PrintDocument> documents;
@@ -141,12 +142,12 @@ QString exportLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts
         return {};
     }
     const OutputOrder order = dialog.order();
-    ProgressWindow progress(Tr::tr("Exporting"), order.records.count, window);
+    ProgressWindow progress(OutputCommandsTr::tr("Exporting"), order.records.count, window);
     const OutputReport report = writeOutput(
         label, order, [&progress](qint64 done) { return progress.isNotCanceled(done); });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
-        prompts.showError(Tr::tr("The label could not be exported."), report.error);
+        prompts.showError(OutputCommandsTr::tr("The label could not be exported."), report.error);
         return {};
     }
     const QString result = resultMessage(report, order);
@@ -168,22 +169,23 @@ QString printLabel(OpenLabel& label, qint64 shownRecord, const Prompts& prompts,
         showRecord(label, shownRecord);
         return {};
     }
-    ProgressWindow progress(Tr::tr("Printing"), dialog.batch()->labels(), window);
+    ProgressWindow progress(OutputCommandsTr::tr("Printing"), dialog.batch()->labels(), window);
     const OutputReport report = printAll(dialog, label, pdfFile, server, [&progress](qint64 done) {
         return progress.isNotCanceled(done);
     });
     showRecord(label, shownRecord);
     if (!report.error.isEmpty()) {
-        prompts.showError(Tr::tr("The label could not be printed."), report.error);
+        prompts.showError(OutputCommandsTr::tr("The label could not be printed."), report.error);
         return {};
     }
     if (report.wasStopped) {
-        return Tr::tr("Printing was stopped");
+        return OutputCommandsTr::tr("Printing was stopped");
     }
     const int pages = static_cast<int>(dialog.batch()->pages());
     return pdfFile.isEmpty()
-               ? Tr::tr("%n page(s) given to printer %1", nullptr, pages).arg(dialog.printer())
-               : Tr::tr("Written: %1").arg(pdfFile);
+               ? OutputCommandsTr::tr("%n page(s) given to printer %1", nullptr, pages)
+                     .arg(dialog.printer())
+               : OutputCommandsTr::tr("Written: %1").arg(pdfFile);
 }
 
 } // namespace window

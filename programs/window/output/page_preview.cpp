@@ -1,5 +1,7 @@
 #include "window/output/page_preview.h"
 
+#include "workbench/items/units.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -9,7 +11,7 @@ namespace window {
 
 namespace {
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 constexpr int Border = 12; // pixels around the paper
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "window/output/page_preview.h"
 #include "window/output/record_chooser.h"
 #include "window/output/sheet_editor.h"
+#include "workbench/items/units.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -28,7 +29,7 @@ namespace window {
 
 namespace {
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 constexpr QLatin1String PrinterKey("print/printer");
 
 } // namespace

@@ -24,7 +24,7 @@ constexpr int SummaryLength = 60;
 // A property shows only the beginning of a text: a cell must stay short.
 constexpr int LongestValue = 2000;
 
-struct Tr
+struct ItemDescriptionTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::ItemDescription)
 };
@@ -41,7 +41,7 @@ QString plainText(const workbench::TextValues& text)
 
 QString pixelText(const QSize& size)
 {
-    return Tr::tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
+    return ItemDescriptionTr::tr("%1 × %2 pixels").arg(size.width()).arg(size.height());
 }
 
 QString numberText(const PropertyRow& row, LengthUnit unit)
@@ -54,7 +54,7 @@ QString numberText(const PropertyRow& row, LengthUnit unit)
     case PropertyKind::Length:
         return lengthText(number, unit);
     case PropertyKind::Points:
-        return Tr::tr("%1 pt").arg(number);
+        return ItemDescriptionTr::tr("%1 pt").arg(number);
     case PropertyKind::Angle:
         return angleText(number);
     default:
@@ -70,17 +70,18 @@ QString choiceText(const PropertyRow& row)
             return choice.name;
         }
     }
-    return Tr::tr("unknown (%1)").arg(code);
+    return ItemDescriptionTr::tr("unknown (%1)").arg(code);
 }
 
 QString pictureText(const QImage& image)
 {
-    return image.isNull() ? Tr::tr("no picture") : pixelText(image.size());
+    return image.isNull() ? ItemDescriptionTr::tr("no picture") : pixelText(image.size());
 }
 
 QString drawingText(const QByteArray& data)
 {
-    return data.isEmpty() ? Tr::tr("none") : QLocale().formattedDataSize(data.size());
+    return data.isEmpty() ? ItemDescriptionTr::tr("none")
+                          : QLocale().formattedDataSize(data.size());
 }
 
 QString valueText(const PropertyRow& row, LengthUnit unit)
@@ -92,13 +93,14 @@ QString valueText(const PropertyRow& row, LengthUnit unit)
     case PropertyKind::RichText:
         return plainText({{}, row.current.toString()});
     case PropertyKind::Flag:
-        return row.current.toBool() ? Tr::tr("yes") : Tr::tr("no");
+        return row.current.toBool() ? ItemDescriptionTr::tr("yes") : ItemDescriptionTr::tr("no");
     case PropertyKind::Color:
         return colorName(row.current.value<QColor>());
     case PropertyKind::Choice:
         return choiceText(row);
     case PropertyKind::FontFamily:
-        return row.current.toString().isEmpty() ? Tr::tr("the default") : row.current.toString();
+        return row.current.toString().isEmpty() ? ItemDescriptionTr::tr("the default")
+                                                : row.current.toString();
     case PropertyKind::Picture:
         return pictureText(row.current.value<QImage>());
     case PropertyKind::Symbol:
@@ -149,7 +151,7 @@ QList<PropertyRow> describe(const QList<Property<Values>>& properties, const QLi
         row.minimumName = property.minimumName;
         row.isEditable = property.set != nullptr && isEditable(property.isLock);
         row.value = common->isValid() ? shortened(valueText(row, unit), LongestValue)
-                                      : Tr::tr("different values");
+                                      : ItemDescriptionTr::tr("different values");
         rows.append(row);
     }
     return rows;
@@ -168,7 +170,7 @@ QString contentSummary(const ItemValues& values)
         content = pixelText(values.picture->image.size());
     }
     if (content.isEmpty() && values.datasource && values.datasource->id >= 0) {
-        content = Tr::tr("data source %1").arg(values.datasource->id);
+        content = ItemDescriptionTr::tr("data source %1").arg(values.datasource->id);
     }
     return shortened(content.left(SummaryLength * 4).simplified(), SummaryLength);
 }
@@ -177,7 +179,7 @@ QString itemTitle(const ItemValues& values)
 {
     const QString summary = contentSummary(values);
     const QString kind = kindName(values.type);
-    return summary.isEmpty() ? kind : Tr::tr("%1 “%2”").arg(kind, summary);
+    return summary.isEmpty() ? kind : ItemDescriptionTr::tr("%1 “%2”").arg(kind, summary);
 }
 
 QList<PropertyRow> describeItem(const ItemValues& values, LengthUnit unit)

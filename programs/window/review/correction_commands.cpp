@@ -20,7 +20,7 @@ namespace window {
 
 namespace {
 
-struct Tr
+struct CorrectionCommandsTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Corrections)
 };
@@ -82,16 +82,19 @@ bool replaceFont(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidge
     const qsizetype shown = families.indexOf(QFontInfo(QFont(from.value(0))).family());
     bool isChosen = false;
     const QString to = QInputDialog::getItem(
-        window, Tr::tr("Replace Font"), Tr::tr("Font for all texts in %1:").arg(from.join(u", "_s)),
-        families, static_cast<int>(std::max<qsizetype>(shown, 0)), false, &isChosen);
-    return isChosen && push(stack, Tr::tr("Replace Font"), withFont(all, from, to));
+        window, CorrectionCommandsTr::tr("Replace Font"),
+        CorrectionCommandsTr::tr("Font for all texts in %1:").arg(from.join(u", "_s)), families,
+        static_cast<int>(std::max<qsizetype>(shown, 0)), false, &isChosen);
+    return isChosen &&
+           push(stack, CorrectionCommandsTr::tr("Replace Font"), withFont(all, from, to));
 }
 
 bool setColor(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* window)
 {
-    const QColor color = QColorDialog::getColor(Qt::black, window, Tr::tr("Set Color"));
-    return color.isValid() &&
-           push(stack, Tr::tr("Set Color"), withColor(itemsOf(issue, label), color));
+    const QColor color =
+        QColorDialog::getColor(Qt::black, window, CorrectionCommandsTr::tr("Set Color"));
+    return color.isValid() && push(stack, CorrectionCommandsTr::tr("Set Color"),
+                                   withColor(itemsOf(issue, label), color));
 }
 
 QString paperText(const QSizeF& points)
@@ -99,7 +102,8 @@ QString paperText(const QSizeF& points)
     const auto millimeters = [](double length) {
         return QString::number(std::round(length * MillimetersPerPoint * 10.0) / 10.0);
     };
-    return Tr::tr("%1 × %2 mm").arg(millimeters(points.width()), millimeters(points.height()));
+    return CorrectionCommandsTr::tr("%1 × %2 mm")
+        .arg(millimeters(points.width()), millimeters(points.height()));
 }
 
 bool rescale(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* window)
@@ -111,8 +115,9 @@ bool rescale(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* w
     papers += {u"A4: 210 × 297 mm"_s,         u"A5: 148 × 210 mm"_s, u"A6: 105 × 148 mm"_s,
                u"Letter: 215.9 × 279.4 mm"_s, u"100 × 150 mm"_s,     u"100 × 50 mm"_s};
     bool isChosen = false;
-    const QString text = QInputDialog::getItem(
-        window, Tr::tr("Rescale"), Tr::tr("Size of the paper:"), papers, 0, true, &isChosen);
+    const QString text = QInputDialog::getItem(window, CorrectionCommandsTr::tr("Rescale"),
+                                               CorrectionCommandsTr::tr("Size of the paper:"),
+                                               papers, 0, true, &isChosen);
     const std::optional<QSizeF> paper = isChosen ? paperOf(text) : std::nullopt;
     if (!paper || before.size.isEmpty()) {
         return false;
@@ -121,7 +126,7 @@ bool rescale(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* w
     after.size = *paper;
     const double factor =
         std::min(paper->width() / before.size.width(), paper->height() / before.size.height());
-    stack.beginMacro(Tr::tr("Rescale"));
+    stack.beginMacro(CorrectionCommandsTr::tr("Rescale"));
     stack.push(new ChangePage(*label.canvas, after));
     // The reader enlarges lengths in millimeters, but neither fonts nor lines.
     push(stack, {}, scaled(label.canvas->items(), factor, !isEnlarged));
@@ -137,13 +142,14 @@ bool bind(const Issue& issue, OpenLabel& label, QUndoStack& stack, QWidget* wind
         names.append(u"%1: %2"_s.arg(id).arg(sourceTitle(*label.sources->source(id))));
     }
     bool isChosen = false;
-    const QString name = QInputDialog::getItem(window, Tr::tr("Bind to Data Source"),
-                                               Tr::tr("Data source:"), names, 0, false, &isChosen);
+    const QString name =
+        QInputDialog::getItem(window, CorrectionCommandsTr::tr("Bind to Data Source"),
+                              CorrectionCommandsTr::tr("Data source:"), names, 0, false, &isChosen);
     const qsizetype row = names.indexOf(name);
     if (!isChosen || row < 0) {
         return false;
     }
-    return push(stack, Tr::tr("Bind to Data Source"),
+    return push(stack, CorrectionCommandsTr::tr("Bind to Data Source"),
                 bound(itemsOf(issue, label), sources.at(row)));
 }
 
@@ -153,17 +159,17 @@ QString titleOf(Correction correction)
 {
     switch (correction) {
     case Correction::Delete:
-        return Tr::tr("&Delete Items");
+        return CorrectionCommandsTr::tr("&Delete Items");
     case Correction::ReplaceFont:
-        return Tr::tr("Replace F&ont…");
+        return CorrectionCommandsTr::tr("Replace F&ont…");
     case Correction::SetColor:
-        return Tr::tr("Set &Color…");
+        return CorrectionCommandsTr::tr("Set &Color…");
     case Correction::Rescale:
-        return Tr::tr("Re&scale…");
+        return CorrectionCommandsTr::tr("Re&scale…");
     case Correction::Bind:
         break;
     }
-    return Tr::tr("&Bind to Data Source…");
+    return CorrectionCommandsTr::tr("&Bind to Data Source…");
 }
 
 bool applyCorrection(Correction correction, const Issue& issue, OpenLabel& label, QUndoStack& stack,
@@ -171,7 +177,8 @@ bool applyCorrection(Correction correction, const Issue& issue, OpenLabel& label
 {
     switch (correction) {
     case Correction::Delete:
-        stack.push(new RemoveItems(Tr::tr("Delete Items"), *label.canvas, itemsOf(issue, label)));
+        stack.push(new RemoveItems(CorrectionCommandsTr::tr("Delete Items"), *label.canvas,
+                                   itemsOf(issue, label)));
         return true;
     case Correction::ReplaceFont:
         return replaceFont(issue, label, stack, window);

@@ -3,6 +3,7 @@
 #include "migration/model/loss_kinds.h"
 #include "workbench/items/item_limits.h"
 #include "workbench/items/label_document.h"
+#include "workbench/items/units.h"
 
 #include <QRegularExpression>
 #include <QTextCharFormat>
@@ -21,7 +22,7 @@ namespace {
 using migration::LossKind;
 using workbench::ItemValues;
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 
 bool isOneOf(const QString& code, std::initializer_list<LossKind> kinds)
 {

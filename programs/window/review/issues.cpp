@@ -4,6 +4,7 @@
 #include "repair/repair.h"
 #include "window/properties/item_description.h"
 #include "workbench/import/issue_text.h"
+#include "workbench/items/units.h"
 
 #include <QCoreApplication>
 
@@ -15,12 +16,12 @@ namespace window {
 
 namespace {
 
-struct Tr
+struct IssuesTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::Issues)
 };
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 // Names of items in one issue; the rest is counted.
 constexpr qsizetype NamedItems = 3;
 
@@ -32,7 +33,7 @@ QString namesOf(const QList<int>& items, const workbench::Canvas& canvas)
     }
     const qsizetype others = items.size() - names.size();
     if (others > 0) {
-        names.append(Tr::tr("%n more", nullptr, static_cast<int>(others)));
+        names.append(IssuesTr::tr("%n more", nullptr, static_cast<int>(others)));
     }
     return names.join(u", "_s);
 }
@@ -170,15 +171,15 @@ QString titleOf(IssueGroup group)
 {
     switch (group) {
     case IssueGroup::Lost:
-        return Tr::tr("Not imported");
+        return IssuesTr::tr("Not imported");
     case IssueGroup::Changed:
-        return Tr::tr("Imported with changes");
+        return IssuesTr::tr("Imported with changes");
     case IssueGroup::Repaired:
-        return Tr::tr("Repaired");
+        return IssuesTr::tr("Repaired");
     case IssueGroup::Warning:
         break;
     }
-    return Tr::tr("Warnings");
+    return IssuesTr::tr("Warnings");
 }
 
 } // namespace window

@@ -20,7 +20,7 @@ namespace window {
 
 namespace {
 
-struct Tr
+struct LabelListModelTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::LabelStates)
 };
@@ -103,19 +103,19 @@ QString stateName(LabelState state)
 {
     switch (state) {
     case LabelState::Waiting:
-        return Tr::tr("Waiting");
+        return LabelListModelTr::tr("Waiting");
     case LabelState::Complete:
-        return Tr::tr("Complete");
+        return LabelListModelTr::tr("Complete");
     case LabelState::Changed:
-        return Tr::tr("Changed");
+        return LabelListModelTr::tr("Changed");
     case LabelState::Lossy:
-        return Tr::tr("With losses");
+        return LabelListModelTr::tr("With losses");
     case LabelState::Failed:
-        return Tr::tr("Failed");
+        return LabelListModelTr::tr("Failed");
     case LabelState::Edited:
         break;
     }
-    return Tr::tr("Edited");
+    return LabelListModelTr::tr("Edited");
 }
 
 LabelListModel::LabelListModel(QObject* parent)

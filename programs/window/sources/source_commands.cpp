@@ -24,7 +24,7 @@ using workbench::datasources::SequenceSource;
 using workbench::datasources::SourceValues;
 using workbench::datasources::SystemSource;
 
-struct Tr
+struct SourceCommandsTr
 {
     Q_DECLARE_TR_FUNCTIONS(window::SourceCommands)
 };
@@ -93,7 +93,7 @@ std::unique_ptr<QUndoCommand> runCsvDialog(CsvDialog& dialog, OpenLabel& label,
                    CsvSource::Kind.toString(),
                    CsvSource::propertiesOf(dialog.fileName(), dialog.options(), dialog.table()),
                    {}});
-    return std::make_unique<ChangeSources>(Tr::tr("Connect CSV File"), label, sources,
+    return std::make_unique<ChangeSources>(SourceCommandsTr::tr("Connect CSV File"), label, sources,
                                            bindingsFor(dialog.mapping(), id), changed);
 }
 
@@ -141,9 +141,9 @@ std::unique_ptr<QUndoCommand> connectCsv(OpenLabel& label, const ChangeSources::
 {
     const QString folder =
         QFileInfo(label.fileName.isEmpty() ? label.suggestedName : label.fileName).path();
-    const QString fileName =
-        QFileDialog::getOpenFileName(window, Tr::tr("Connect CSV File"), folder,
-                                     Tr::tr("CSV files (*.csv *.tsv *.txt);;All files (*)"));
+    const QString fileName = QFileDialog::getOpenFileName(
+        window, SourceCommandsTr::tr("Connect CSV File"), folder,
+        SourceCommandsTr::tr("CSV files (*.csv *.tsv *.txt);;All files (*)"));
     if (fileName.isEmpty()) {
         return nullptr;
     }
@@ -170,7 +170,7 @@ std::unique_ptr<QUndoCommand> editSource(OpenLabel& label, int id,
         return nullptr;
     }
     replaceSource(sources, dialog.source());
-    return std::make_unique<ChangeSources>(Tr::tr("Edit Data Source"), label, sources,
+    return std::make_unique<ChangeSources>(SourceCommandsTr::tr("Edit Data Source"), label, sources,
                                            QList<Binding>(), changed);
 }
 
@@ -185,7 +185,7 @@ std::unique_ptr<QUndoCommand> addSource(OpenLabel& label, const QString& kind,
         return nullptr;
     }
     sources.append(dialog.source());
-    return std::make_unique<ChangeSources>(Tr::tr("Add Data Source"), label, sources,
+    return std::make_unique<ChangeSources>(SourceCommandsTr::tr("Add Data Source"), label, sources,
                                            bindingsTo(id, items), changed);
 }
 
@@ -201,8 +201,8 @@ std::unique_ptr<QUndoCommand> showSource(OpenLabel& label, int id,
     if (bindings.isEmpty() || label.sources->source(id) == nullptr) {
         return nullptr;
     }
-    return std::make_unique<ChangeSources>(Tr::tr("Show Data Source"), label, sources, bindings,
-                                           changed);
+    return std::make_unique<ChangeSources>(SourceCommandsTr::tr("Show Data Source"), label, sources,
+                                           bindings, changed);
 }
 
 } // namespace window

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <algorithm>
+
 /// Counts the objects of a file, from its bytes and without the readers.
 ///
 /// Each format has a second, independent parser here, on purpose. A reader that skips an object
@@ -27,6 +29,13 @@ inline constexpr qint64 MaximumContent = 48LL * 1024 * 1024;
 
 /// Bytes that a saved label's tree may take: as many as where it is opened.
 inline constexpr qint64 MaximumSavedTree = 3LL << 30;
+
+/// Whether a table of names has this one.
+template <class Names>
+[[nodiscard]] bool holds(const Names& names, const QString& name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
 
 /// The message for a file that is too large to be counted.
 [[nodiscard]] QString tooLargeToCount();

@@ -1,5 +1,7 @@
 #include "migration/census/open_document_names.h"
 
+#include "migration/census/counting.h"
+
 #include <algorithm>
 #include <array>
 
@@ -122,12 +124,6 @@ constexpr std::array KnownShapes{
     "mso-spt100"_L1,        "mso-spt202"_L1,
     "flowchart-process"_L1,
 };
-
-template <class Names>
-bool holds(const Names& names, const QString& name)
-{
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 } // namespace
 

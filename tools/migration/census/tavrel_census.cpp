@@ -87,12 +87,6 @@ constexpr std::array ShapeNames{"HorizontalLine"_L1, "VerticalLine"_L1, "Rounded
                                 "Rectangle"_L1,      "Triangle"_L1,     "Octagon"_L1,
                                 "Diamond"_L1,        "Hexagon"_L1,      "Oval"_L1};
 
-template <class Names>
-bool holds(const Names& names, const QString& name)
-{
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 // What is remembered of the fields of a record.
 struct Fields
 {

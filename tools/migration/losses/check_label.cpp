@@ -5,6 +5,7 @@
 #include "migration/losses/check_rendering.h"
 #include "migration/losses/matching.h"
 #include "migration/model/known_fonts.h"
+#include "workbench/items/units.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -19,7 +20,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 // Points: a line without a width is drawn at least so wide in print.
 constexpr double ThinnestLine = 0.3;
 constexpr double WidthRatio = 4.0 / 3.0;

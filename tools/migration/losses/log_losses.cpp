@@ -22,7 +22,7 @@ enum class About : quint8 {
 };
 
 // What readers log, by code.
-struct Row
+struct LogRow
 {
     const char* code;
     About about;
@@ -34,7 +34,7 @@ constexpr auto Unreadable = LossKind::PictureUnreadable;
 // As many as are missing.
 constexpr qint64 All = std::numeric_limits<qint32>::max();
 
-constexpr Row LogRows[] = {
+constexpr LogRow LogRows[] = {
     {messages::ControlUnknown, About::Nothing},
     {messages::DocumentTypeUnsupported, About::Nothing},
     {messages::RecordTypeUnknown, About::Label, LossKind::RestUnread},
@@ -53,7 +53,7 @@ constexpr Row LogRows[] = {
 };
 
 // The text of the binary reader's message box.
-constexpr Row BoxRows[] = {
+constexpr LogRow BoxRows[] = {
     {messages::SymbolsUnreadable.text, About::Part, LossKind::SymbolUnreadable,
      ObjectClass::Symbol},
     {messages::BarcodesUnsupported.text, About::Part, LossKind::BarcodeUnsupported,
@@ -62,11 +62,12 @@ constexpr Row BoxRows[] = {
 };
 
 template <std::size_t Count>
-const Row* rowOf(const Row (&rows)[Count], const QString& code)
+const LogRow* rowOf(const LogRow (&rows)[Count], const QString& code)
 {
-    const auto* row = std::find_if(std::begin(rows), std::end(rows), [&code](const Row& candidate) {
-        return code == QLatin1String(candidate.code);
-    });
+    const auto* row =
+        std::find_if(std::begin(rows), std::end(rows), [&code](const LogRow& candidate) {
+            return code == QLatin1String(candidate.code);
+        });
     return row != std::end(rows) ? row : nullptr;
 }
 
@@ -89,7 +90,7 @@ void addLabelTally(LogLosses& losses, LossKind kind, const QString& detail)
     tally.addDetail(detail);
 }
 
-void addRow(const Row& row, const QString& detail, LogLosses& losses)
+void addRow(const LogRow& row, const QString& detail, LogLosses& losses)
 {
     switch (row.about) {
     case About::Nothing:
@@ -105,7 +106,7 @@ void addRow(const Row& row, const QString& detail, LogLosses& losses)
 
 void addRecord(const workbench::LogRecord& record, LogLosses& losses)
 {
-    if (const Row* row = rowOf(LogRows, workbench::recognize(record).code)) {
+    if (const LogRow* row = rowOf(LogRows, workbench::recognize(record).code)) {
         addRow(*row, record.message, losses);
     } else if (record.isError) {
         addLabelTally(losses, LossKind::Other, record.message);
@@ -120,7 +121,7 @@ void addIssue(const workbench::ImportIssue& issue, LogLosses& losses)
         } else {
             losses.tallies[LossKind::TextStretched].count += issue.repeats;
         }
-    } else if (const Row* row = rowOf(BoxRows, issue.code)) {
+    } else if (const LogRow* row = rowOf(BoxRows, issue.code)) {
         addRow(*row, {}, losses);
     }
 }

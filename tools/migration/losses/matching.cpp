@@ -1,5 +1,7 @@
 #include "migration/losses/matching.h"
 
+#include "workbench/items/units.h"
+
 #include <QHash>
 #include <QMultiHash>
 #include <QSet>
@@ -12,7 +14,7 @@ namespace migration {
 
 namespace {
 
-constexpr double PointsPerMillimeter = 72.0 / 25.4;
+using workbench::PointsPerMillimeter;
 // Cells of the index of places, in points of the document.
 constexpr double CellSize = 2.0 * PointsPerMillimeter;
 // Points: places that differ less are the same.

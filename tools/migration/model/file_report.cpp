@@ -56,15 +56,15 @@ bool affectsContent(const Finding& finding)
     return row == nullptr || row->impact == Impact::Content;
 }
 
-QString tr(const char* text)
+struct FileReportTr
 {
-    return QCoreApplication::translate("migration::Summary", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(migration::Summary)
+};
 
 QString verdictSentence(Verdict verdict)
 {
     const char* const sentence = VerdictRows.at(static_cast<std::size_t>(verdict)).sentence;
-    return sentence != nullptr ? tr(sentence) : QString();
+    return sentence != nullptr ? FileReportTr::tr(sentence) : QString();
 }
 
 } // namespace
@@ -105,7 +105,7 @@ QString verdictName(Verdict verdict)
 
 QString verdictText(Verdict verdict)
 {
-    return tr(VerdictRows.at(static_cast<std::size_t>(verdict)).words);
+    return FileReportTr::tr(VerdictRows.at(static_cast<std::size_t>(verdict)).words);
 }
 
 bool hasLoss(const FileReport& report)
@@ -124,10 +124,11 @@ qint64 objectsLost(const FileReport& report)
 QString countSentence(const FileReport& report)
 {
     if (!report.objects.inFile) {
-        return tr("Objects imported: %1 (the number of objects in the file is unknown).")
+        return FileReportTr::tr(
+                   "Objects imported: %1 (the number of objects in the file is unknown).")
             .arg(report.objects.imported);
     }
-    return tr("Imported %1 of %2 objects.")
+    return FileReportTr::tr("Imported %1 of %2 objects.")
         .arg(report.objects.imported)
         .arg(*report.objects.inFile);
 }
@@ -135,7 +136,7 @@ QString countSentence(const FileReport& report)
 QString summaryOf(const FileReport& report)
 {
     if (report.status != Status::Imported) {
-        return tr("Not imported: %1").arg(report.error);
+        return FileReportTr::tr("Not imported: %1").arg(report.error);
     }
     QString summary = countSentence(report);
     if (const QString more = verdictSentence(verdictOf(report)); !more.isEmpty()) {

@@ -16,10 +16,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString tr(const char* text)
+struct HtmlCardTr
 {
-    return QCoreApplication::translate("migration::HtmlCard", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(migration::HtmlCard)
+};
 
 QString codesOf(const FileReport& report)
 {
@@ -48,11 +48,11 @@ QString factsOf(const FileReport& report)
 {
     QStringList facts;
     if (report.page.width > 0.0 && report.page.height > 0.0) {
-        facts.append(tr("%1 × %2 mm")
+        facts.append(HtmlCardTr::tr("%1 × %2 mm")
                          .arg(QLocale::c().toString(report.page.width, 'f', 1),
                               QLocale::c().toString(report.page.height, 'f', 1)));
     }
-    facts.append(tr("%1 bytes").arg(report.bytes));
+    facts.append(HtmlCardTr::tr("%1 bytes").arg(report.bytes));
     if (!report.reader.isEmpty()) {
         facts.append(report.reader);
     }
@@ -100,7 +100,7 @@ void addRepairs(TemplateList& lists, const QList<RepairReport>& repairs)
         // The text contains the number.
         lines.append({repair.code, repair.text, 1, false, {}});
     }
-    addFindings(lists, tr("Repaired"), "repaired", lines);
+    addFindings(lists, HtmlCardTr::tr("Repaired"), "repaired", lines);
 }
 
 /// One line of the part of a card that is folded away.
@@ -139,13 +139,13 @@ QString sourceText(const SourceReport& source)
 
 QString exportWords(const ExportReport& exported)
 {
-    const QString kind =
-        exported.kind == "label"_L1 ? tr("Label") : workbench::shapeTitle(exported.kind);
+    const QString kind = exported.kind == "label"_L1 ? HtmlCardTr::tr("Label")
+                                                     : workbench::shapeTitle(exported.kind);
     if (exported.fidelity == "exact"_L1) {
-        return tr("%1: exact").arg(kind);
+        return HtmlCardTr::tr("%1: exact").arg(kind);
     }
-    return (exported.fidelity == "picture"_L1 ? tr("%1: became a picture. %2")
-                                              : tr("%1: simplified. %2"))
+    return (exported.fidelity == "picture"_L1 ? HtmlCardTr::tr("%1: became a picture. %2")
+                                              : HtmlCardTr::tr("%1: simplified. %2"))
         .arg(kind, exported.text);
 }
 
@@ -195,11 +195,11 @@ TemplateList moreOf(const FileReport& report, const QString& folder)
         exported.append({exportWords(each), each.count});
     }
     TemplateList more;
-    addEntries(more, tr("Imported completely"), imported);
-    addEntries(more, tr("Data sources"), sources);
-    addEntries(more, tr("Warnings"), issues);
-    addEntries(more, tr("Written files"), outputs);
-    addEntries(more, tr("In gLabels"), exported);
+    addEntries(more, HtmlCardTr::tr("Imported completely"), imported);
+    addEntries(more, HtmlCardTr::tr("Data sources"), sources);
+    addEntries(more, HtmlCardTr::tr("Warnings"), issues);
+    addEntries(more, HtmlCardTr::tr("Written files"), outputs);
+    addEntries(more, HtmlCardTr::tr("In gLabels"), exported);
     return more;
 }
 
@@ -225,22 +225,23 @@ TemplateData cardData(const FileReport& report, qint64 place, const QString& fol
     const QString original = linkTo(report.file, folder);
     card.set("hasOriginal", !original.isEmpty());
     card.set("original", templateText(original));
-    card.set("alt", templateText(tr("The label %1").arg(report.file)));
+    card.set("alt", templateText(HtmlCardTr::tr("The label %1").arg(report.file)));
     card.set("summary", templateText(summaryOf(report)));
     card.set("facts", templateText(factsOf(report)));
     TemplateList findings;
-    addFindings(findings, tr("Not imported"), "lost", report.lost);
-    addFindings(findings, tr("Imported with changes"), "changed", report.changed);
+    addFindings(findings, HtmlCardTr::tr("Not imported"), "lost", report.lost);
+    addFindings(findings, HtmlCardTr::tr("Imported with changes"), "changed", report.changed);
     addRepairs(findings, report.repaired);
     card.set("findings", TemplateData(findings));
     const TemplateList more = moreOf(report, folder);
     card.set("hasMore", !more.empty());
     card.set("more", TemplateData(more));
     TemplateData labels;
-    labels.set("noPicture", templateText(tr("no picture")));
-    labels.set("more", templateText(tr("More")));
-    labels.set("larger", templateText(tr("Show a larger picture")));
-    labels.set("preview", templateText(tr("The document's own picture of %1").arg(report.file)));
+    labels.set("noPicture", templateText(HtmlCardTr::tr("no picture")));
+    labels.set("more", templateText(HtmlCardTr::tr("More")));
+    labels.set("larger", templateText(HtmlCardTr::tr("Show a larger picture")));
+    labels.set("preview",
+               templateText(HtmlCardTr::tr("The document's own picture of %1").arg(report.file)));
     card.set("labels", labels);
     return card;
 }

@@ -15,12 +15,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString tr(const char* text)
+struct HtmlPageTr
 {
-    return QCoreApplication::translate("migration::HtmlPage", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(migration::HtmlPage)
+};
 
-QString number(qint64 value)
+QString localNumber(qint64 value)
 {
     return QLocale(QLocale::English).toString(value);
 }
@@ -43,7 +43,7 @@ TemplateData figure(const char* address, qint64 count, const QString& words)
 {
     TemplateData data;
     data.set("address", TemplateData(address));
-    data.set("count", templateText(number(count)));
+    data.set("count", templateText(localNumber(count)));
     data.set("words", templateText(words));
     return data;
 }
@@ -60,16 +60,16 @@ TemplateList figures(const Totals& totals)
 
 QString objectsSentence(const Totals& totals)
 {
-    QString sentence = tr("Imported %1 of %2 objects in these files.")
-                           .arg(number(totals.objectsImported), number(totals.objectsInFiles));
+    QString sentence =
+        HtmlPageTr::tr("Imported %1 of %2 objects in these files.")
+            .arg(localNumber(totals.objectsImported), localNumber(totals.objectsInFiles));
     if (totals.uncounted > 0) {
-        sentence +=
-            u' ' +
-            tr("Files whose objects could not be counted: %1.").arg(number(totals.uncounted));
+        sentence += u' ' + HtmlPageTr::tr("Files whose objects could not be counted: %1.")
+                               .arg(localNumber(totals.uncounted));
     }
     if (totals.exposed() > 0) {
-        sentence += u' ' + tr("Files that were read without a complete sandbox: %1.")
-                               .arg(number(totals.exposed()));
+        sentence += u' ' + HtmlPageTr::tr("Files that were read without a complete sandbox: %1.")
+                               .arg(localNumber(totals.exposed()));
     }
     return sentence;
 }
@@ -85,7 +85,7 @@ TemplateList codeRows(const Totals& totals)
     for (const QString& code : codes) {
         const LossRow* row = lossRowOf(code);
         TemplateData data;
-        data.set("files", templateText(number(totals.filesByCode.value(code))));
+        data.set("files", templateText(localNumber(totals.filesByCode.value(code))));
         data.set("code", templateText(code));
         data.set("meaning", templateText(row != nullptr ? lossText(row->kind) : code));
         data.set("advice", templateText(row != nullptr ? lossAdvice(row->kind) : QString()));
@@ -105,10 +105,11 @@ void addOption(TemplateList& options, const QString& value, const QString& words
 TemplateList optionsOf(const QMap<QString, qint64>& counts)
 {
     TemplateList options;
-    addOption(options, {}, tr("all"));
+    addOption(options, {}, HtmlPageTr::tr("all"));
     for (auto count = counts.begin(); count != counts.end(); ++count) {
         if (!count.key().isEmpty()) {
-            addOption(options, count.key(), u"%1 (%2)"_s.arg(count.key(), number(count.value())));
+            addOption(options, count.key(),
+                      u"%1 (%2)"_s.arg(count.key(), localNumber(count.value())));
         }
     }
     return options;
@@ -119,11 +120,11 @@ QString statusText(Status status)
 {
     switch (status) {
     case Status::Crashed:
-        return tr("crashed");
+        return HtmlPageTr::tr("crashed");
     case Status::TimedOut:
-        return tr("timed out");
+        return HtmlPageTr::tr("timed out");
     case Status::OutOfMemory:
-        return tr("out of memory");
+        return HtmlPageTr::tr("out of memory");
     default:
         return statusName(status);
     }
@@ -132,7 +133,7 @@ QString statusText(Status status)
 TemplateList statusOptions()
 {
     TemplateList options;
-    addOption(options, {}, tr("all"));
+    addOption(options, {}, HtmlPageTr::tr("all"));
     for (const Verdict verdict :
          {Verdict::Complete, Verdict::Changed, Verdict::Lossy, Verdict::Failed}) {
         addOption(options, verdictName(verdict), verdictText(verdict));
@@ -146,11 +147,11 @@ TemplateList statusOptions()
 TemplateList sortOptions()
 {
     TemplateList options;
-    addOption(options, u"place"_s, tr("as imported"));
-    addOption(options, u"name"_s, tr("name"));
-    addOption(options, u"problems"_s, tr("most problems first"));
-    addOption(options, u"lost"_s, tr("most lost objects first"));
-    addOption(options, u"status"_s, tr("worst status first"));
+    addOption(options, u"place"_s, HtmlPageTr::tr("as imported"));
+    addOption(options, u"name"_s, HtmlPageTr::tr("name"));
+    addOption(options, u"problems"_s, HtmlPageTr::tr("most problems first"));
+    addOption(options, u"lost"_s, HtmlPageTr::tr("most lost objects first"));
+    addOption(options, u"status"_s, HtmlPageTr::tr("worst status first"));
     return options;
 }
 
@@ -166,18 +167,18 @@ TemplateData choice(const char* name, const QString& label, const TemplateList& 
 TemplateData labels()
 {
     TemplateData data;
-    data.set("codes", templateText(tr("What was lost or changed")));
-    data.set("files", templateText(tr("Files")));
-    data.set("code", templateText(tr("Code")));
-    data.set("meaning", templateText(tr("What happened")));
-    data.set("advice", templateText(tr("What can be done")));
-    data.set("nothingLost", templateText(tr("Nothing was lost or changed.")));
-    data.set("tools", templateText(tr("Sort and filter")));
-    data.set("search", templateText(tr("Search")));
-    data.set("reset", templateText(tr("Show all")));
-    data.set("shown", templateText(tr("%1 of %2 shown")));
-    data.set("open", templateText(tr("Open in the LabelPort workbench")));
-    data.set("nothingFound", templateText(tr("No matching files.")));
+    data.set("codes", templateText(HtmlPageTr::tr("What was lost or changed")));
+    data.set("files", templateText(HtmlPageTr::tr("Files")));
+    data.set("code", templateText(HtmlPageTr::tr("Code")));
+    data.set("meaning", templateText(HtmlPageTr::tr("What happened")));
+    data.set("advice", templateText(HtmlPageTr::tr("What can be done")));
+    data.set("nothingLost", templateText(HtmlPageTr::tr("Nothing was lost or changed.")));
+    data.set("tools", templateText(HtmlPageTr::tr("Sort and filter")));
+    data.set("search", templateText(HtmlPageTr::tr("Search")));
+    data.set("reset", templateText(HtmlPageTr::tr("Show all")));
+    data.set("shown", templateText(HtmlPageTr::tr("%1 of %2 shown")));
+    data.set("open", templateText(HtmlPageTr::tr("Open in the LabelPort workbench")));
+    data.set("nothingFound", templateText(HtmlPageTr::tr("No matching files.")));
     return data;
 }
 
@@ -186,24 +187,26 @@ TemplateData labels()
 TemplateData pageHeadData(const Totals& totals, const QString& note)
 {
     TemplateData page;
-    page.set("language", templateText(tr("en")));
+    page.set("language", templateText(HtmlPageTr::tr("en")));
     page.set("policy", TemplateData(contentPolicy().toStdString()));
     page.set("style", TemplateData(pageResource(u"page.css"_s).toStdString()));
-    page.set("title", templateText(tr("Migration report")));
+    page.set("title", templateText(HtmlPageTr::tr("Migration report")));
     page.set("hasNote", !note.isEmpty());
     page.set("note", templateText(note));
-    page.set("headline", templateText(tr("%1 of %2 files imported completely")
-                                          .arg(number(totals.complete), number(totals.files))));
+    page.set("headline",
+             templateText(HtmlPageTr::tr("%1 of %2 files imported completely")
+                              .arg(localNumber(totals.complete), localNumber(totals.files))));
     page.set("figures", TemplateData(figures(totals)));
     page.set("objects", templateText(objectsSentence(totals)));
     page.set("hasCodes", !totals.filesByCode.isEmpty());
     page.set("codes", TemplateData(codeRows(totals)));
-    page.set("choices", TemplateData(TemplateList{
-                            choice("status", tr("Status"), statusOptions()),
-                            choice("code", tr("Problem"), optionsOf(totals.filesByCode)),
-                            choice("reader", tr("Reader"), optionsOf(totals.filesByReader)),
-                            choice("sort", tr("Order"), sortOptions()),
-                        }));
+    page.set("choices",
+             TemplateData(TemplateList{
+                 choice("status", HtmlPageTr::tr("Status"), statusOptions()),
+                 choice("code", HtmlPageTr::tr("Problem"), optionsOf(totals.filesByCode)),
+                 choice("reader", HtmlPageTr::tr("Reader"), optionsOf(totals.filesByReader)),
+                 choice("sort", HtmlPageTr::tr("Order"), sortOptions()),
+             }));
     page.set("labels", labels());
     return page;
 }
@@ -211,8 +214,8 @@ TemplateData pageHeadData(const Totals& totals, const QString& note)
 TemplateData pageTailData()
 {
     TemplateData page;
-    page.set("large", templateText(tr("Larger picture")));
-    page.set("close", templateText(tr("Close")));
+    page.set("large", templateText(HtmlPageTr::tr("Larger picture")));
+    page.set("close", templateText(HtmlPageTr::tr("Close")));
     page.set("script", TemplateData(pageResource(u"page.js"_s).toStdString()));
     return page;
 }

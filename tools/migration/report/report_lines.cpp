@@ -12,10 +12,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString tr(const char* text)
+struct ReportLinesTr
 {
-    return QCoreApplication::translate("migration::ReportLines", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(migration::ReportLines)
+};
 
 // Empty for a line that exceeds a limit or is not a JSON object.
 QJsonObject objectOf(QFile& file)
@@ -44,13 +44,14 @@ ReportLineReader::ReportLineReader(const QString& fileName)
     : m_file(fileName)
 {
     if (!m_file.open(QIODevice::ReadOnly)) {
-        m_error = tr("Cannot read \"%1\": %2.").arg(fileName, m_file.errorString());
+        m_error = ReportLinesTr::tr("Cannot read \"%1\": %2.").arg(fileName, m_file.errorString());
     }
 }
 
 void ReportLineReader::fail(const QString& reason)
 {
-    m_error = tr("\"%1\" is not a report of LabelPort: %2.").arg(m_file.fileName(), reason);
+    m_error = ReportLinesTr::tr("\"%1\" is not a report of LabelPort: %2.")
+                  .arg(m_file.fileName(), reason);
 }
 
 std::optional<ReportLineReader::Line> ReportLineReader::next()
@@ -61,9 +62,9 @@ std::optional<ReportLineReader::Line> ReportLineReader::next()
         }
     }
     if (m_error.isEmpty() && m_lines == 0) {
-        fail(tr("it is empty"));
+        fail(ReportLinesTr::tr("it is empty"));
     } else if (m_error.isEmpty() && m_isOpen) {
-        fail(tr("its end is missing"));
+        fail(ReportLinesTr::tr("its end is missing"));
     }
     return std::nullopt;
 }
@@ -79,7 +80,8 @@ std::optional<ReportLineReader::Line> ReportLineReader::readLine()
         return std::nullopt;
     }
     if (!m_isOpen) {
-        fail(tr("line %1 does not name the format, or an unsupported version of it").arg(m_lines));
+        fail(ReportLinesTr::tr("line %1 does not name the format, or an unsupported version of it")
+                 .arg(m_lines));
         return std::nullopt;
     }
     if (line.contains(u"totals"_s)) {
@@ -88,7 +90,7 @@ std::optional<ReportLineReader::Line> ReportLineReader::readLine()
     }
     auto report = fileReportFromJson(line);
     if (!report) {
-        fail(tr("line %1 does not describe a file").arg(m_lines));
+        fail(ReportLinesTr::tr("line %1 does not describe a file").arg(m_lines));
         return std::nullopt;
     }
     return Line{offset, *report};

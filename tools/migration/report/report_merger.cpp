@@ -21,10 +21,10 @@ struct Place
     qint64 offset = 0;
 };
 
-QString tr(const char* text)
+struct ReportMergerTr
 {
-    return QCoreApplication::translate("migration::MergeReports", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(migration::MergeReports)
+};
 
 // Appends the places of all files of a report; returns why that is not possible.
 QString findPlaces(const QString& fileName, qsizetype input, std::vector<Place>& places)
@@ -43,7 +43,8 @@ QString fileTwice(const std::vector<Place>& places)
                            [](const Place& a, const Place& b) { return a.file == b.file; });
     return twice == places.end()
                ? QString()
-               : tr("The reports contain the file \"%1\" more than once.").arg(twice->file);
+               : ReportMergerTr::tr("The reports contain the file \"%1\" more than once.")
+                     .arg(twice->file);
 }
 
 } // namespace
@@ -67,7 +68,7 @@ QString mergeReports(const QStringList& inputs, const QString& output)
     for (const Place& place : places) {
         const auto report = ReportLineReader::reportAt(inputs.at(place.input), place.offset);
         if (!report) {
-            return tr("The report \"%1\" has changed during the merge.")
+            return ReportMergerTr::tr("The report \"%1\" has changed during the merge.")
                 .arg(inputs.at(place.input));
         }
         writer.add(*report);

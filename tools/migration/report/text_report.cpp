@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 // Longest content of an item that the table shows.
 constexpr qsizetype ContentWidth = 60;
 
-QString tr(const char* text)
+struct TextReportTr
 {
-    return QCoreApplication::translate("migration::Inspect", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(migration::Inspect)
+};
 
 // A text of the file on one line, without what would move a terminal's cursor.
 QString printable(const QString& text)
@@ -80,8 +80,9 @@ QString itemTable(const FileReport& report)
     if (report.itemList.isEmpty()) {
         return {};
     }
-    QList<Row> rows{{u"#"_s, tr("kind"), tr("x"), tr("y"), tr("width"), tr("height"), tr("source"),
-                     tr("content")}};
+    QList<Row> rows{{u"#"_s, TextReportTr::tr("kind"), TextReportTr::tr("x"), TextReportTr::tr("y"),
+                     TextReportTr::tr("width"), TextReportTr::tr("height"),
+                     TextReportTr::tr("source"), TextReportTr::tr("content")}};
     for (qsizetype index = 0; index < report.itemList.size(); ++index) {
         const ItemReport& item = report.itemList.at(index);
         rows.append({QString::number(index + 1), workbench::shapeTitle(item.kind),
@@ -90,7 +91,7 @@ QString itemTable(const FileReport& report)
                      item.datasource < 0 ? u"-"_s : QString::number(item.datasource),
                      shortened(item.content)});
     }
-    return tr("Items (millimeters):") + u'\n' + tableOf(rows, 2, 5);
+    return TextReportTr::tr("Items (millimeters):") + u'\n' + tableOf(rows, 2, 5);
 }
 
 template <class Value, class Words>
@@ -120,7 +121,7 @@ QString findingText(const Finding& finding)
     return words;
 }
 
-QString sourceText(const SourceReport& source)
+QString sourceLine(const SourceReport& source)
 {
     QString words = u"%1: "_s.arg(source.id) + printable(source.kind);
     if (!source.fields.isEmpty()) {
@@ -142,12 +143,12 @@ QString headOf(const FileReport& report)
     }
     if (report.status == Status::Imported) {
         text += u"  "_s +
-                tr("Page: %1 × %2 mm")
+                TextReportTr::tr("Page: %1 × %2 mm")
                     .arg(millimeters(report.page.width), millimeters(report.page.height)) +
                 u'\n';
         text += u"  "_s +
-                tr("Sandbox: %1")
-                    .arg(report.sandbox.isEmpty() ? tr("none")
+                TextReportTr::tr("Sandbox: %1")
+                    .arg(report.sandbox.isEmpty() ? TextReportTr::tr("none")
                                                   : printable(report.sandbox.join(u", "_s))) +
                 u'\n';
     }
@@ -159,15 +160,15 @@ QString headOf(const FileReport& report)
 QString describeAsText(const FileReport& report)
 {
     return headOf(report) + itemTable(report) +
-           section(tr("Data sources:"), report.datasources, sourceText) +
-           section(tr("Imported completely:"), report.complete, countText) +
-           section(tr("Imported with changes:"), report.changed, findingText) +
-           section(tr("Not imported:"), report.lost, findingText) +
-           section(tr("Repaired:"), report.repaired,
+           section(TextReportTr::tr("Data sources:"), report.datasources, sourceLine) +
+           section(TextReportTr::tr("Imported completely:"), report.complete, countText) +
+           section(TextReportTr::tr("Imported with changes:"), report.changed, findingText) +
+           section(TextReportTr::tr("Not imported:"), report.lost, findingText) +
+           section(TextReportTr::tr("Repaired:"), report.repaired,
                    [](const RepairReport& repair) {
                        return repair.code + u": "_s + printable(repair.text);
                    }) +
-           section(tr("Warnings:"), report.issues, [](const IssueReport& issue) {
+           section(TextReportTr::tr("Warnings:"), report.issues, [](const IssueReport& issue) {
                return printable(issue.text) + times(issue.repeats);
            });
 }

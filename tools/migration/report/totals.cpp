@@ -27,7 +27,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QSet<QString> codesOf(const FileReport& report)
+QSet<QString> distinctCodes(const FileReport& report)
 {
     QSet<QString> codes;
     for (const QList<Finding>* list : {&report.lost, &report.changed}) {
@@ -77,7 +77,7 @@ void Totals::add(const FileReport& report)
     ++files;
     ++filesByStatus[statusName(report.status)];
     ++filesByReader[report.reader];
-    const QSet<QString> codes = codesOf(report);
+    const QSet<QString> codes = distinctCodes(report);
     for (const QString& code : codes) {
         ++filesByCode[code];
     }
