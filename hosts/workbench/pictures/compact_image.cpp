@@ -1,7 +1,8 @@
 #include "workbench/pictures/compact_image.h"
 
-#include <QHash>
+#include <QList>
 
+#include <array>
 #include <cstring>
 #include <memory>
 #include <optional>
@@ -20,23 +21,36 @@ public:
     /// The number of a color; nothing if there are too many.
     [[nodiscard]] std::optional<uchar> numberOf(QRgb color)
     {
-        const auto known = m_numbers.constFind(color);
-        if (known != m_numbers.constEnd()) {
-            return *known;
+        std::size_t place = placeOf(color);
+        while (m_places[place] != 0) {
+            const int number = m_places[place] - 1;
+            if (m_colors.at(number) == color) {
+                return static_cast<uchar>(number);
+            }
+            place = (place + 1) % Places;
         }
         if (m_colors.size() == MostColors) {
             return std::nullopt;
         }
-        const auto number = static_cast<uchar>(m_colors.size());
         m_colors.append(color);
-        m_numbers.insert(color, number);
-        return number;
+        m_places[place] = static_cast<quint16>(m_colors.size());
+        return static_cast<uchar>(m_colors.size() - 1);
     }
 
     [[nodiscard]] const QList<QRgb>& colors() const { return m_colors; }
 
 private:
-    QHash<QRgb, uchar> m_numbers;
+    static constexpr std::size_t PlaceBits = 10;
+    static constexpr std::size_t Places = 1 << PlaceBits;
+
+    /// Where the search for a color begins. The factor spreads similar colors.
+    [[nodiscard]] static std::size_t placeOf(QRgb color)
+    {
+        constexpr quint32 spread = 0x9E3779B1;
+        return (color * spread) >> (32 - PlaceBits);
+    }
+
+    std::array<quint16, Places> m_places{}; // a color's number plus 1; 0 if free
     QList<QRgb> m_colors;
 };
 
