@@ -8,6 +8,7 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -62,11 +63,23 @@ QString barcodeIn(const QImage& picture)
     return QString::fromStdString(ZXing::ReadBarcode(view, hints).text());
 }
 
+/// The text of the first barcode of a label's picture in colors; empty for none.
+QString barcodeOf(const QString& file)
+{
+    constexpr double dpi = 300.0;
+    static QHash<QString, QString> known;
+    const auto found = known.constFind(file);
+    if (found != known.constEnd()) {
+        return *found;
+    }
+    const workbench::ImportResult label = workbench::importLabel(file);
+    return *known.insert(file, barcodeIn(workbench::renderPage(*label.canvas, dpi).image));
+}
+
 struct Label
 {
     QString file;
-    QImage dots;    ///< of the last record
-    QImage picture; ///< of the last record, in colors
+    QImage dots; ///< of the last record
 };
 
 /// Writes a label with its first records.
@@ -79,8 +92,7 @@ Label writeLabel(const QString& file, const QString& zpl, const OptionValues& op
                         options,       [](qint64) { return true; }};
     EXPECT_EQ(exportFile(Target::Zpl, job, zpl), QString());
     const int dpi = valueOf(options, Target::Zpl, DpiOption);
-    return {file, labelDots(job, records - 1, dpi).dots,
-            workbench::renderPage(*label.canvas, printerResolution(dpi)).image};
+    return {file, labelDots(job, records - 1, dpi).dots};
 }
 
 /// The number of dots that differ.
@@ -88,6 +100,9 @@ int difference(const QImage& one, const QImage& other)
 {
     const QImage a = one.convertToFormat(QImage::Format_Grayscale8);
     const QImage b = other.convertToFormat(QImage::Format_Grayscale8);
+    if (a == b) {
+        return 0;
+    }
     int count = 0;
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x) {
@@ -114,12 +129,12 @@ TEST_P(RenderedZpl, SamplesShowTheirPictures)
     render(folder.path(), dpi == 203 ? 8 : dpi / 25);
     int decoded = 0;
     for (std::size_t index = 0; index < labels.size(); ++index) {
-        const auto& [file, dots, picture] = labels.at(index);
+        const auto& [file, dots] = labels.at(index);
         SCOPED_TRACE(file.toStdString());
         const QImage printed(folder.filePath(u"%1-1.png"_s.arg(index)));
         ASSERT_EQ(printed.size(), dots.size());
         EXPECT_EQ(difference(printed, dots), 0);
-        const QString barcode = barcodeIn(picture);
+        const QString barcode = barcodeOf(file);
         if (!barcode.isEmpty()) {
             ++decoded;
             EXPECT_EQ(barcodeIn(printed).toStdString(), barcode.toStdString());
@@ -153,16 +168,22 @@ TEST(RenderedNative, SamplesReadTheSame)
     int fields = 0;
     for (const QString& file : samples()) {
         const QString zpl = folder.filePath(QString::number(labels.size()) + u".zpl"_s);
-        labels.push_back(writeLabel(file, zpl, {{u"dpi"_s, 300}, {u"zpl-native"_s, true}}));
+        const Label label = writeLabel(file, zpl, {{u"dpi"_s, 300}, {u"zpl-native"_s, true}});
         QFile written(zpl);
         ASSERT_TRUE(written.open(QIODevice::ReadOnly));
         const QByteArray bytes = written.readAll();
-        fields += static_cast<int>(bytes.count("^BY") + bytes.count("^GB"));
+        const auto own = bytes.count("^BY") + bytes.count("^GB");
+        fields += static_cast<int>(own);
+        if (own > 0) {
+            labels.push_back(label);
+        } else { // only graphic fields, as without the option
+            written.remove();
+        }
     }
     EXPECT_GE(fields, 5);
     render(folder.path(), 12);
     for (std::size_t index = 0; index < labels.size(); ++index) {
-        const auto& [file, dots, picture] = labels.at(index);
+        const auto& [file, dots] = labels.at(index);
         SCOPED_TRACE(file.toStdString());
         const QImage printed(folder.filePath(u"%1-1.png"_s.arg(index)));
         ASSERT_EQ(printed.size(), dots.size());

@@ -156,26 +156,14 @@ void GlabelsDocument::startBox(const char* element, const QRectF& box, const QTr
     startObject(element, box.topLeft(), toPage, size + attributes);
 }
 
-void GlabelsDocument::addOutlined(const char* element, const QRectF& box, const QTransform& toPage,
-                                  const PenValues& pen, const QColor& fill)
+void GlabelsDocument::addShape(Shape shape, const QRectF& box, const QTransform& toPage,
+                               const PenValues& pen, const QColor& fill)
 {
-    startBox(element, box, toPage,
+    startBox(shape == Shape::Box ? "Object-box" : "Object-ellipse", box, toPage,
              {{"line_width", widthOf(pen)},
               {"line_color", colorOf(pen)},
               {"fill_color", colorOf(fill)}});
     m_xml.writeEndElement();
-}
-
-void GlabelsDocument::addBox(const QRectF& box, const QTransform& toPage, const PenValues& pen,
-                             const QColor& fill)
-{
-    addOutlined("Object-box", box, toPage, pen, fill);
-}
-
-void GlabelsDocument::addEllipse(const QRectF& box, const QTransform& toPage, const PenValues& pen,
-                                 const QColor& fill)
-{
-    addOutlined("Object-ellipse", box, toPage, pen, fill);
 }
 
 void GlabelsDocument::addLine(const QPointF& from, const QPointF& to, const PenValues& pen)

@@ -53,10 +53,9 @@ public:
     /// @param isRotated the label's upper edge is at the right edge of its place
     GlabelsDocument(const printing::Sheet& sheet, bool isRotated);
 
-    void addBox(const QRectF& box, const QTransform& toPage, const workbench::PenValues& pen,
-                const QColor& fill);
-    void addEllipse(const QRectF& box, const QTransform& toPage, const workbench::PenValues& pen,
-                    const QColor& fill);
+    enum class Shape : quint8 { Box, Ellipse };
+    void addShape(Shape shape, const QRectF& box, const QTransform& toPage,
+                  const workbench::PenValues& pen, const QColor& fill);
     void addLine(const QPointF& from, const QPointF& to, const workbench::PenValues& pen);
     /// The characters begin at the left edge of the box, without the margin of gLabels.
     void addText(const QRectF& box, const QTransform& toPage, const GlabelsText& text);
@@ -78,8 +77,6 @@ private:
                      const Attributes& attributes);
     void startBox(const char* element, const QRectF& box, const QTransform& toPage,
                   const Attributes& attributes);
-    void addOutlined(const char* element, const QRectF& box, const QTransform& toPage,
-                     const workbench::PenValues& pen, const QColor& fill);
 
     QByteArray m_bytes;
     QXmlStreamWriter m_xml;

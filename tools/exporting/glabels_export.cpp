@@ -44,8 +44,8 @@ QTransform centered(const QSizeF& place, const QSizeF& page)
 void addBackground(GlabelsDocument& document, const PageValues& page, const QTransform& toLabel)
 {
     if (page.background.alpha() > 0 && page.background != QColor(Qt::white)) {
-        document.addBox(QRectF({0.0, 0.0}, page.size), toLabel, {{}, 0.0, Qt::NoPen},
-                        page.background);
+        document.addShape(GlabelsDocument::Shape::Box, QRectF({0.0, 0.0}, page.size), toLabel,
+                          {{}, 0.0, Qt::NoPen}, page.background);
     }
 }
 

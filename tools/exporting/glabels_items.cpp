@@ -144,8 +144,8 @@ void GlabelsItems::addShape(const WalkedItem& item)
         return;
     }
     const QColor fill = *plainColor(item.values.fill.value_or(FillValues()));
-    isBox ? m_document.addBox(boxOf(item), item.toPage, penOf(item), fill)
-          : m_document.addEllipse(boxOf(item), item.toPage, penOf(item), fill);
+    m_document.addShape(isBox ? GlabelsDocument::Shape::Box : GlabelsDocument::Shape::Ellipse,
+                        boxOf(item), item.toPage, penOf(item), fill);
     note(Fidelity::Exact, item);
 }
 
@@ -205,7 +205,7 @@ void GlabelsItems::addGround(const WalkedItem& item)
     }
     const QRectF box = boxOf(item);
     if (obstacleOf(item, true).isEmpty()) {
-        m_document.addBox(box, item.toPage, pen, color);
+        m_document.addShape(GlabelsDocument::Shape::Box, box, item.toPage, pen, color);
         return;
     }
     const double margin = 4.0 * pen.width + 1.0;
@@ -237,7 +237,8 @@ void GlabelsItems::addBarcode(const WalkedItem& item)
         return;
     }
     if (values.background.alpha() > 0) {
-        m_document.addBox(boxOf(item), item.toPage, {{}, 0.0, Qt::NoPen}, values.background);
+        m_document.addShape(GlabelsDocument::Shape::Box, boxOf(item), item.toPage,
+                            {{}, 0.0, Qt::NoPen}, values.background);
     }
     QString& field = known->barcode.field;
     field = item.isBound ? m_records.columnOf(*item.values.datasource) : QString();

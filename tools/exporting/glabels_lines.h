@@ -4,9 +4,38 @@
 #include "exporting/glabels_texts.h"
 #include "workbench/items/text_layout.h"
 
+#include <QFont>
+#include <QList>
 #include <QRawFont>
 
 namespace exporting {
+
+/// Sets family, size and style of a text to those of a font.
+void setFont(GlabelsText& text, const QRawFont& font);
+
+/// How gLabels measures a font. It rounds the advance of each glyph to whole points, but not the
+/// height of lines; our own layout does the opposite. Lengths are in points.
+class GlabelsFont
+{
+public:
+    explicit GlabelsFont(const GlabelsText& text);
+
+    /// From the upper edge of a line to its baseline.
+    [[nodiscard]] double ascent() const { return m_ascent; }
+    /// Of a line.
+    [[nodiscard]] double height() const { return m_height; }
+    [[nodiscard]] double width(const QString& line) const;
+    /// The width before advances are rounded.
+    [[nodiscard]] double exactWidth(const QString& line) const;
+
+private:
+    [[nodiscard]] QList<double> advances(const QString& line) const;
+
+    QFont m_large; ///< in a size in which nothing is rounded
+    double m_scale;
+    double m_ascent;
+    double m_height;
+};
 
 /// Lines in one format, as we paint them.
 struct FormattedLines

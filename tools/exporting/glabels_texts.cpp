@@ -1,6 +1,5 @@
 #include "exporting/glabels_texts.h"
 
-#include "exporting/glabels_fonts.h"
 #include "exporting/glabels_lines.h"
 #include "workbench/items/canvas_item.h"
 #include "workbench/items/shape_kinds.h"

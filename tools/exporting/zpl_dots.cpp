@@ -1,5 +1,7 @@
 #include "exporting/zpl_dots.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <numeric>
 
@@ -28,23 +30,14 @@ QRect inkOf(const QImage& dots)
 
 void erase(QImage& dots, const QRect& area)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            dots.setPixel(x, y, 0);
-        }
-    }
+    QPainter(&dots).fillRect(area, Qt::color0);
 }
 
 bool isFilled(const QImage& dots, const QRect& area)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            if (!isPrintedAt(dots, x, y)) {
-                return false;
-            }
-        }
-    }
-    return !area.isEmpty();
+    QImage gaps = dots.copy(area);
+    gaps.invertPixels();
+    return !area.isEmpty() && inkOf(gaps).isEmpty();
 }
 
 QList<int> runsIn(const QImage& dots, const QRect& area, int y)
