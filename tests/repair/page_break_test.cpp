@@ -192,6 +192,25 @@ TEST(PageBreaks, MoveObjectsWithTheirParagraph)
     }
 }
 
+TEST(PageBreaks, SeparateLinesBesideAnObject)
+{
+    QByteArray text;
+    for (const QString& word : numbered(120)) {
+        text += word.toLatin1() + ' ';
+    }
+    const QByteArray styles = "<style:style style:name=\"g\" style:family=\"graphic\">"
+                              "<style:graphic-properties style:wrap=\"parallel\"/></style:style>";
+    const QList<Label> labels = labelsOf(
+        textDocument("<text:p><draw:ellipse text:anchor-type=\"paragraph\" draw:style-name=\"g\" "
+                     "svg:y=\"40pt\" svg:width=\"30pt\" svg:height=\"30pt\"/>" +
+                         text + "</text:p>",
+                     styles));
+    ASSERT_GT(labels.size(), 1);
+    EXPECT_EQ(wordsOf(labels).join(u' ').remove(QChar::ObjectReplacementCharacter),
+              numbered(120).join(u' '));
+    EXPECT_NEAR(labels[0].objectTop, Margin + 40.0, 0.5);
+}
+
 TEST(PageBreaks, KeepRowsOfTablesWhole)
 {
     const auto row = [](const QByteArray& text) {

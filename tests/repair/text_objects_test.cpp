@@ -127,6 +127,27 @@ TEST(TextObjects, InALineAreBetweenTheirWords)
     EXPECT_GT(lines[0].height(), Inch / 2.0);
 }
 
+TEST(TextObjects, AreNotConfusedWithCharactersOfTheDocument)
+{
+    // The characters that marks consist of, once in their own span.
+    const QString own = u"a\uFFFCb\u200B\uFFFC"_s;
+    const TextPage page("<text:p>a\uFFFC"
+                        "b<text:span text:style-name=\"bold\">\u200B</text:span>"
+                        "\uFFFC</text:p><text:p><text:span text:style-name=\"bold\">\u200B"
+                        "</text:span></text:p><text:p>" +
+                            rectangle("as-char") + "</text:p>",
+                        "<style:style style:name=\"bold\" style:family=\"text\">"
+                        "<style:text-properties fo:font-weight=\"bold\"/></style:style>");
+    const RichTextItem* const text = page.text(u"b"_s);
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->document()->firstBlock().text(), own);
+    EXPECT_EQ(text->document()->findBlockByNumber(1).text(), u"\u200B"_s);
+    const QList<QRectF> lines = linesOf(*text);
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_NEAR(page.rectangle().top(), lines[1].bottom(), 1.5);
+    EXPECT_NEAR(page.rectangle().left(), 0.0, 0.1);
+}
+
 TEST(TextObjects, AloneInALineTakeNoOtherLine)
 {
     const TextPage page("<text:p>" + rectangle("as-char") + "</text:p><text:p>below</text:p>");
@@ -158,6 +179,27 @@ TEST(TextObjects, HaveLinesBesideThem)
         }
         EXPECT_GE(beside, 2);
     }
+}
+
+TEST(TextObjects, HaveWholeLinesAboveThem)
+{
+    const TextPage page("<text:p>" +
+                            rectangle("paragraph", "wrap", "svg:x=\"0in\" svg:y=\"0.5in\"") +
+                            QByteArray("word ").repeated(100) + "</text:p>",
+                        graphicStyle("wrap", "style:wrap=\"parallel\""));
+    const RichTextItem* const text = page.text(u"word word"_s);
+    ASSERT_NE(text, nullptr);
+    const QRectF box = page.rectangle();
+    EXPECT_NEAR(box.top(), Inch / 2.0, 0.5);
+    int above = 0;
+    int beside = 0;
+    for (const QRectF& line : linesOf(*text)) {
+        EXPECT_FALSE(line.intersects(box.adjusted(0.0, 1.0, 0.0, -1.0))) << line.top();
+        above += line.bottom() <= box.top() + 1.0 && line.left() < 1.0 ? 1 : 0;
+        beside += line.top() < box.bottom() && line.left() > box.right() - 1.0 ? 1 : 0;
+    }
+    EXPECT_EQ(above, 2);
+    EXPECT_GE(beside, 3);
 }
 
 TEST(TextObjects, WithoutLinesBesideThemAreAboveOrBelowTheirText)

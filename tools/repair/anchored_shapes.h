@@ -21,6 +21,8 @@ inline const QString MarksAttribute = QLatin1String("labelport:marks");
 [[nodiscard]] bool takesRoom(const QString& mark);
 /// The text of a paragraph that has marks and no words: the reader makes no item without text.
 inline constexpr QChar MarkHolder = QChar(0x200B);
+/// Of a span: its text is a MarkHolder, not the same character of the document.
+inline const QString HolderAttribute = QLatin1String("labelport:holder");
 
 /// The objects of a paragraph or list.
 struct TakenShapes

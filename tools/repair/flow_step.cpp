@@ -23,6 +23,9 @@ using namespace Qt::StringLiterals;
 constexpr int MaximumSectionDepth = 100;
 // Points: text on lower pages is not broken into further pages.
 constexpr double LowestPage = 20.0;
+// Of the bottom margin: room for lines that do not fit; more if the last editor had room for them.
+constexpr double MarginShare = 0.5;
+constexpr double EditorsMarginShare = 0.75;
 
 /// Lays out the blocks of the body, page by page.
 class FlowWriter
@@ -236,14 +239,6 @@ Node::Children textLast(Node::Children objects)
     return objects;
 }
 
-// A line that does not fit may be nearer to the page's edge, but not on the footer.
-double lowestLine(const PageArea& area)
-{
-    const bool hasFooter = area.footerTop < area.footerBottom;
-    return std::max(area.box.bottom(),
-                    hasFooter ? area.footerTop : (area.footerBottom + area.size.height()) / 2.0);
-}
-
 std::unique_ptr<Node> pageOf(Document& document, const PageArea& area, Node::Children objects)
 {
     auto page = Node::element(u"draw:page"_s);
@@ -251,7 +246,7 @@ std::unique_ptr<Node> pageOf(Document& document, const PageArea& area, Node::Chi
     page->setAttribute(TopAttribute, toInches(area.box.top()));
     if (area.box.height() >= LowestPage) {
         page->setAttribute(BottomAttribute, toInches(area.box.bottom()));
-        page->setAttribute(LowestAttribute, toInches(lowestLine(area)));
+        page->setAttribute(LowestAttribute, toInches(lowestLine(area, MarginShare)));
     }
     if (const Node* const master = masterPage(document)) {
         addMargin(document, master->child(u"style:header"), area, true, page->children);
@@ -286,7 +281,9 @@ Node::Children layOutPages(Document& document)
         }
         // The editor had room for the lines of each page.
         if (writer.hasEditorBreaks() && page.hasAttribute(LowestAttribute)) {
-            page.setAttribute(BottomAttribute, page.attribute(LowestAttribute));
+            const QString lowest = toInches(lowestLine(area, EditorsMarginShare));
+            page.setAttribute(BottomAttribute, lowest);
+            page.setAttribute(LowestAttribute, lowest);
         }
     }
     Node& body = *document.body();

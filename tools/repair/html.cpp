@@ -5,15 +5,12 @@
 #include "repair/drawing.h"
 #include "repair/item_plan.h"
 #include "repair/lengths.h"
+#include "repair/line_distance.h"
 
-#include <QFont>
 #include <QFontInfo>
-#include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QHash>
 
 #include <algorithm>
-#include <cmath>
 
 namespace repair {
 
@@ -24,8 +21,6 @@ using namespace Qt::StringLiterals;
 constexpr double DefaultFontSize = 12.0;
 // Raised and lowered text; the share of the size if the document gives none.
 constexpr double DefaultRaisedShare = 0.58;
-// In which fonts are measured, so that rounding does not count.
-constexpr int MeasuredSize = 1000;
 
 QString cssNumber(double value)
 {
@@ -70,6 +65,12 @@ double sizeOf(const Properties& text)
     return toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultFontSize);
 }
 
+bool isBold(const Properties& text)
+{
+    const QString weight = text.value(u"fo:font-weight"_s);
+    return weight == "bold"_L1 || weight.toInt() >= 600;
+}
+
 // The color behind characters or a paragraph. Nothing for "transparent".
 QString groundStyle(const Properties& properties)
 {
@@ -102,8 +103,7 @@ QString HtmlWriter::spanStyle(const Properties& text) const
     if (!family.isEmpty()) {
         style += u"font-family:'%1';"_s.arg(family.toHtmlEscaped());
     }
-    const QString weight = text.value(u"fo:font-weight"_s);
-    style += u"font-weight:%1;"_s.arg(weight == "bold"_L1 || weight.toInt() >= 600 ? 700 : 400);
+    style += u"font-weight:%1;"_s.arg(isBold(text) ? 700 : 400);
     if (const QString slant = text.value(u"fo:font-style"_s);
         slant == "italic"_L1 || slant == "oblique"_L1) {
         style += u"font-style:italic;"_s;
@@ -137,24 +137,6 @@ QString HtmlWriter::spanStyle(const Properties& text) const
     return style;
 }
 
-// The distance of lines as a share of the font's own, which Qt rounds up to whole pixels.
-double exactShare(const Properties& text)
-{
-    const QString family = text.value(u"style:font-name"_s);
-    static QHash<QString, double> heights;
-    double& height = heights[family];
-    if (height == 0.0) {
-        QFont font(family);
-        font.setPixelSize(MeasuredSize);
-        font.setHintingPreference(QFont::PreferNoHinting);
-        const QFontMetricsF metrics(font);
-        height = (metrics.ascent() + metrics.descent() + std::max(0.0, metrics.leading())) /
-                 MeasuredSize;
-    }
-    const double exact = height * sizeOf(text);
-    return exact > 0.0 ? exact / std::ceil(exact) : 1.0;
-}
-
 double HtmlWriter::lineSpacing(const Node& node, const Properties& paragraph)
 {
     Properties largest = textOf(node, u"paragraph"_s);
@@ -168,7 +150,9 @@ double HtmlWriter::lineSpacing(const Node& node, const Properties& paragraph)
     }
     const QString height = paragraph.value(u"fo:line-height"_s);
     const double wanted = height.endsWith(u'%') ? shareOf(height) : 1.0;
-    return 100.0 * wanted * exactShare(largest);
+    return 100.0 * wanted *
+           exactLineShare(largest.value(u"style:font-name"_s), isBold(largest), sizeOf(largest),
+                          m_pointsPerPixel);
 }
 
 // The spaces between two paragraphs add up, where Qt takes the larger one.
@@ -244,9 +228,9 @@ void HtmlWriter::writeParagraph(const Node& paragraph)
     }
     for (const auto& span : paragraph.children) {
         m_html += marksHtml(*span);
-        if (const QString text = span->allText(); text != MarkHolder) {
+        if (!span->hasAttribute(HolderAttribute)) {
             m_html += u"<span style=\"%1\">%2</span>"_s.arg(spanStyle(textOf(*span, u"text"_s)),
-                                                            text.toHtmlEscaped());
+                                                            span->allText().toHtmlEscaped());
         }
     }
     m_html += marksHtml(paragraph) + u"</p>"_s;

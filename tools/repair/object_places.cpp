@@ -54,6 +54,7 @@ class Placer
 public:
     explicit Placer(const QMap<int, ObjectItems>& objects);
 
+    void lowerObjects();
     void placeRows(double top);
     void placeAtMarks();
     [[nodiscard]] std::optional<PageEnd> pageEnd(double bottom) const;
@@ -136,6 +137,33 @@ void Placer::placeRow(const QList<ObjectItems>& row, double& y) const
     y += height;
 }
 
+// An object that begins below the first line of its paragraph leaves the lines above it alone.
+void Placer::lowerObjects()
+{
+    const auto topOf = [this](int number) {
+        const ObjectItems marked = m_marked.value(number);
+        auto* const item = marked.shape != nullptr ? marked.shape : marked.text;
+        return item != nullptr ? item->graphicsItem()->pos().y() : 0.0;
+    };
+    for (const ObjectItems& items : m_objects) {
+        if (m_marked.isEmpty() || items.text == nullptr) {
+            continue;
+        }
+        const QHash<int, double> lowered = lowerMarks(*items.text, topOf);
+        for (auto it = lowered.begin(); it != lowered.end(); ++it) {
+            for (const ObjectItems& marked : m_marked.values(it.key())) {
+                moveItems(marked, {0.0, -it.value()});
+            }
+        }
+        if (!lowered.isEmpty()) {
+            Item* const text = items.text->contractItem();
+            const double width = text->getItemWidth();
+            dynamic_cast<::RichTextItem&>(*text).adjustBoxSizeToContent(width);
+            text->setItemSize({width, text->getItemHeight()});
+        }
+    }
+}
+
 void Placer::placeRows(double top)
 {
     QMap<int, QList<ObjectItems>> rows;
@@ -183,7 +211,8 @@ std::optional<PageEnd> Placer::endInText(const ObjectItems& items, double bottom
         end.lineStarts.clear();
         for (int number = 0; number < block.layout()->lineCount(); ++number) {
             const QTextLine line = block.layout()->lineAt(number);
-            end.lineStarts.append(line.textStart());
+            end.lineStarts.append(
+                number > 0 ? line.textStart() + marksBehind(block, line.textStart()) : 0);
             if (full < 0 && top + line.y() + line.height() > bottom + HeightTolerance) {
                 full = number;
             }
@@ -250,6 +279,7 @@ void Placer::placeAtMarks()
 std::optional<PageEnd> placeObjects(const QMap<int, ObjectItems>& objects, const PagePlan& page)
 {
     Placer placer(objects);
+    placer.lowerObjects();
     placer.placeRows(page.top);
     placer.placeAtMarks();
     const bool isFull = page.lowest > 0.0 && placer.pageEnd(page.lowest);

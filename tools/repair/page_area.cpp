@@ -111,4 +111,11 @@ PageArea pageArea(Document& document)
     return area;
 }
 
+double lowestLine(const PageArea& area, double share)
+{
+    const bool hasFooter = area.footerTop < area.footerBottom;
+    const double inMargin = area.footerBottom + share * (area.size.height() - area.footerBottom);
+    return std::max(area.box.bottom(), hasFooter ? area.footerTop : inMargin);
+}
+
 } // namespace repair

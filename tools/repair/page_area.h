@@ -28,6 +28,9 @@ struct PageArea
 /// The area that the page's margins, header and footer leave.
 [[nodiscard]] PageArea pageArea(Document& document);
 
+/// Where lines may be that do not fit: in this share of the bottom margin, but not on the footer.
+[[nodiscard]] double lowestLine(const PageArea& area, double share);
+
 /// The least height of paragraphs, one line each, in points.
 [[nodiscard]] double linesHeight(Document& document, const Node& container);
 

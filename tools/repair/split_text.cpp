@@ -41,8 +41,7 @@ void writeMarks(Node& node, const QStringList& marks)
 
 QString shownText(const Node& span)
 {
-    const QString text = span.allText();
-    return text == MarkHolder ? QString() : text;
+    return span.hasAttribute(HolderAttribute) ? QString() : span.allText();
 }
 
 // The end of a paragraph from this character on, as a paragraph. Marks are characters.

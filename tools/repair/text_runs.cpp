@@ -97,7 +97,9 @@ std::vector<Run> withMarkHolder(std::vector<Run> runs)
         return !run.mark.isEmpty() && takesRoom(run.mark);
     });
     if (hasRoom && !hasText) {
-        runs.push_back({runs.back().style, MarkHolder});
+        Run holder{runs.back().style, MarkHolder};
+        holder.isHolder = true;
+        runs.push_back(std::move(holder));
     }
     return runs;
 }
@@ -253,6 +255,9 @@ void writeRuns(Document& document, Node& paragraph, std::vector<Run> runs)
         Node& span = paragraph.append(Node::element(u"text:span"_s));
         span.setAttribute(u"text:style-name"_s, document.styleFor(u"text"_s, shown));
         span.append(Node::characters(run.text));
+        if (run.isHolder) {
+            span.setAttribute(HolderAttribute, u"true"_s);
+        }
         if (!marks.isEmpty()) {
             span.setAttribute(MarksAttribute, marks.join(u';'));
             marks.clear();

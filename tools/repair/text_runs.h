@@ -20,6 +20,8 @@ struct Run
     QString text;
     /// The mark of an object, in the form of MarksAttribute; then there is no text.
     QString mark = {};
+    /// Whether the text is only there because the reader makes an item only of text.
+    bool isHolder = false;
 };
 
 /// What was replaced in the texts of a document.
