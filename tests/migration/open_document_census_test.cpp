@@ -314,3 +314,26 @@ TEST(OpenDocumentCensus, FindsSectionsThatDoNotLookLikePlainText)
                       "fo:column-count=\"1\"/></style:section-properties>"),
               0);
 }
+
+TEST(OpenDocumentCensus, FindsTabsThatAreNotAtTheLeft)
+{
+    const auto effects = [](const QByteArray& stop, const QByteArray& paragraphs) {
+        const QByteArray stops = "<style:paragraph-properties><style:tab-stops><style:tab-stop " +
+                                 stop + "/></style:tab-stops></style:paragraph-properties>";
+        const Census census = countOpenDocument(
+            textOf(paragraphs, {.automaticStyles = styleOf("P", "paragraph", stops) +
+                                                   styleOf("C", "paragraph", {}, "P")}));
+        const auto tally = census.tallies.find(LossKind::TextEffect);
+        return tally != census.tallies.end() ? tally->second.count : 0;
+    };
+    const QByteArray tabs = "<text:p text:style-name=\"C\">A<text:tab/>B<text:tab/>C</text:p>";
+    EXPECT_EQ(effects("style:position=\"2in\" style:type=\"right\"", tabs), 1);
+    EXPECT_EQ(
+        effects("style:position=\"2in\" style:leader-style=\"dotted\"",
+                "<text:list><text:list-item>" + tabs + tabs + "</text:list-item></text:list>"),
+        2);
+    EXPECT_EQ(effects("style:position=\"2in\"", tabs), 0);
+    EXPECT_EQ(effects("style:position=\"2in\" style:type=\"right\"",
+                      "<text:p text:style-name=\"P\">A B</text:p><text:p>C<text:tab/>D</text:p>"),
+              0);
+}

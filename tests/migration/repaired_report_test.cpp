@@ -69,3 +69,24 @@ TEST(RepairedReport, AShapeOfATextIsFilledByDefault)
     EXPECT_EQ(findingOf(report, lossCode(LossKind::FillAdded)), nullptr)
         << codesOf(report).toStdString();
 }
+
+// The colors of texts in tables are not looked up: white letters on gray are the document's own.
+TEST(RepairedReport, TextsOfTablesHaveTheColorsOfTheDocument)
+{
+    const auto unreadable = [](const QByteArray& ground) {
+        const FileReport report = repairedReport(
+            odt("<table:table><table:table-column/><table:table-row><table:table-cell "
+                "table:style-name=\"C\"><text:p><text:span text:style-name=\"W\">Head</text:span>"
+                "</text:p></table:table-cell></table:table-row></table:table>",
+                {.automaticStyles =
+                     "<style:style style:name=\"C\" style:family=\"table-cell\">"
+                     "<style:table-cell-properties fo:background-color=\"" +
+                     ground +
+                     "\"/></style:style><style:style style:name=\"W\" style:family=\"text\">"
+                     "<style:text-properties fo:color=\"#ffffff\"/></style:style>"}));
+        EXPECT_EQ(report.objects.imported, 1);
+        return findingOf(report, lossCode(LossKind::TextUnreadable)) != nullptr;
+    };
+    EXPECT_FALSE(unreadable("#b2b2b2"));
+    EXPECT_TRUE(unreadable("transparent"));
+}

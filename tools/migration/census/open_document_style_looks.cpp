@@ -60,4 +60,24 @@ void StyleBook::describeShape(const QString& style, bool isInText, bool isFrame,
     appearance.grows = shapeValue(&Style::growsHeight, style) == "true"_L1;
 }
 
+bool StyleBook::changesSection(const QString& style) const
+{
+    return m_sections.contains(style);
+}
+
+bool StyleBook::alignsTabs(const QString& style) const
+{
+    return textStyle(style).alignsTabs;
+}
+
+bool StyleBook::sizesText(const QString& style) const
+{
+    return textStyle(style).isSized;
+}
+
+bool StyleBook::sizesShapeText(const QString& style) const
+{
+    return shapeStyle(style).isSized;
+}
+
 } // namespace migration

@@ -155,6 +155,14 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
         takeProperties(u"paragraph"_s, attributes);
     } else if (name == "style:graphic-properties"_L1) {
         takeProperties(u"graphic"_s, attributes);
+    } else if (name == "style:tab-stops"_L1) {
+        current().alignsTabs = false; // instead of those of the parent
+    } else if (name == "style:tab-stop"_L1) {
+        const QString type = valueOf(attributes, "style:type"_L1);
+        const QString leader = valueOf(attributes, "style:leader-style"_L1);
+        const bool isPlain =
+            (type.isEmpty() || type == "left"_L1) && (leader.isEmpty() || leader == "none"_L1);
+        current().alignsTabs = current().alignsTabs || !isPlain;
     } else if (!m_sectionName.isEmpty()) {
         takeSection(name, attributes);
     }
@@ -275,21 +283,6 @@ LossSet StyleBook::shapeTextChanges(const QString& style) const
     LossSet changes = changesOf(shapeStyle(style).dropped, Target::ShapeText);
     changes.add(changesOf(shapeStyle(style).dropped, Target::Text));
     return changes;
-}
-
-bool StyleBook::changesSection(const QString& style) const
-{
-    return m_sections.contains(style);
-}
-
-bool StyleBook::sizesText(const QString& style) const
-{
-    return textStyle(style).isSized;
-}
-
-bool StyleBook::sizesShapeText(const QString& style) const
-{
-    return shapeStyle(style).isSized;
 }
 
 } // namespace migration

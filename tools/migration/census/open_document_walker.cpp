@@ -60,8 +60,10 @@ void OpenDocumentWalker::openChild(const QString& name, const Attributes& attrib
     }
     if (isSpacing(name)) {
         takeText(spacingOf(name, attributes));
+        noteTab(name);
     } else if (isParagraph(name)) {
         startLine();
+        m_lineStyle = attributes.value("text:style-name"_L1).toString();
     }
     switch (m_places.back().spot) {
     case Spot::Outside:

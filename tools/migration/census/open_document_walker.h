@@ -109,6 +109,7 @@ private:
     void openLostPart(const QString& name, LossKind otherwise);
     void openLost(LossKind kind, const QString& name, const Attributes& attributes = {});
     void noteSection(const QString& name, const Attributes& attributes);
+    void noteTab(const QString& name);
     void openIgnored(const QString& name);
     void push(Spot spot);
     void addLost(CountedObject object, const std::optional<QRectF>& box);
@@ -144,6 +145,7 @@ private:
     bool m_chunkHasText = false;
     QString m_chunk;
     QString m_paragraphStyle;
+    QString m_lineStyle; ///< of the paragraph that is open, wherever it is
     QString m_runStyle;
     Place m_paragraphLook;
     Place m_runLook;

@@ -79,6 +79,15 @@ void OpenDocumentWalker::noteSection(const QString& name, const Attributes& attr
     }
 }
 
+// Labels have tab stops at equal distances. Counts a paragraph once.
+void OpenDocumentWalker::noteTab(const QString& name)
+{
+    if (name == "text:tab"_L1 && m_styles.alignsTabs(m_lineStyle)) {
+        m_census.note(LossKind::TextEffect, 1, name);
+        m_lineStyle.clear();
+    }
+}
+
 void OpenDocumentWalker::openIgnored(const QString& name)
 {
     if (name == "office:annotation"_L1) {
