@@ -27,7 +27,7 @@ bool isMark(const QTextCharFormat& format)
     return format.isImageFormat() && format.toImageFormat().name().startsWith(MarkPrefix);
 }
 
-// Whether lines are beside it; it is no character of a line then.
+// Whether lines are beside it; it is not a character of a line then.
 bool isBesideLines(const QTextCharFormat& format)
 {
     return isMark(format) && format.objectIndex() >= 0;
@@ -89,7 +89,7 @@ bool putMark(QTextDocument& document, TakenMark mark, double top)
 }
 
 // Qt keeps the room of marks that are no longer there.
-void layOutAnew(::RichTextItem& text)
+void layOutAgain(::RichTextItem& text)
 {
     const double width = text.document()->textWidth();
     text.setHtml(workbench::documentHtml(*text.document()));
@@ -158,14 +158,14 @@ QHash<int, double> lowerMarks(workbench::CanvasItem& item,
     if (taken.isEmpty()) {
         return lowered;
     }
-    layOutAnew(*text);
+    layOutAgain(*text);
     while (!taken.isEmpty()) {
         const TakenMark mark = taken.takeLast();
         if (putMark(*text->document(), mark, topOf(mark.number))) {
             lowered.insert(mark.number, 0.0);
         }
     }
-    layOutAnew(*text);
+    layOutAgain(*text);
     for (const Mark& mark : marksOf(item)) {
         if (lowered.contains(mark.number)) {
             const QTextBlock block = text->document()->findBlockByNumber(mark.paragraph);
