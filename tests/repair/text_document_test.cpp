@@ -102,6 +102,33 @@ TEST(TextDocument, CellsHaveTheColorOfTheirRowOrTable)
     EXPECT_EQ(colors, (QStringList{u"#ff0000"_s, u"#00ff00"_s, u"#0000ff"_s, u"#0000ff"_s}));
 }
 
+TEST(TextDocument, RowsOfTablesHaveRoomForTheirBorders)
+{
+    const QTemporaryDir folder;
+    const QByteArray cell = "<table:table-row><table:table-cell table:style-name=\"c\">"
+                            "<text:p>cell</text:p></table:table-cell></table:table-row>";
+    const auto distanceOfRows = [&folder, &cell](const QByteArray& border) {
+        const QByteArray content =
+            "<office:document-content><office:automatic-styles><style:style style:name=\"c\" "
+            "style:family=\"table-cell\"><style:table-cell-properties fo:padding=\"3pt\" "
+            "fo:border=\"" +
+            border +
+            " solid #000000\"/></style:style></office:automatic-styles><office:body><office:text>"
+            "<table:table><table:table-column/>" +
+            cell + cell + "</table:table></office:text></office:body></office:document-content>";
+        const repair::RepairedImport import =
+            repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+        QList<double> tops;
+        for (const workbench::CanvasItem* item : import.result.canvas->items()) {
+            if (item->shapeType() == KestTypes::RichText) {
+                tops.append(item->values().placement.position.y());
+            }
+        }
+        return tops.size() == 2 ? tops[1] - tops[0] : 0.0;
+    };
+    EXPECT_NEAR(distanceOfRows("4pt") - distanceOfRows("1pt"), 3.0, 0.01);
+}
+
 TEST(TextDocument, BreaksItsLines)
 {
     const QTemporaryDir folder;

@@ -140,13 +140,17 @@ QString HtmlWriter::spanStyle(const Properties& text) const
 double HtmlWriter::lineSpacing(const Node& node, const Properties& paragraph)
 {
     Properties largest = textOf(node, u"paragraph"_s);
-    bool isFirst = true;
+    // The largest font, and of several the one with most characters.
+    double size = 0.0;
+    qsizetype length = 0;
     for (const auto& span : node.children) {
         const Properties text = textOf(*span, u"text"_s);
-        if (isFirst || sizeOf(text) > sizeOf(largest)) {
+        const qsizetype characters = span->allText().size();
+        if (sizeOf(text) > size || (sizeOf(text) == size && characters > length)) {
             largest = text;
+            size = sizeOf(text);
+            length = characters;
         }
-        isFirst = false;
     }
     const QString height = paragraph.value(u"fo:line-height"_s);
     const double wanted = height.endsWith(u'%') ? shareOf(height) : 1.0;

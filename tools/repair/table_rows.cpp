@@ -73,9 +73,11 @@ Properties groundOf(const Properties& cell, const QString& fill)
         ground.insert(u"draw:fill"_s, u"solid"_s);
         ground.insert(u"draw:fill-color"_s, fill);
     }
+    // The border is between the paddings of two cells.
     const QString padding = cell.value(u"fo:padding"_s);
     if (!padding.isEmpty()) {
-        ground.insert(u"fo:padding"_s, padding);
+        const double border = toPoints(ground.value(u"svg:stroke-width"_s)).value_or(0.0);
+        ground.insert(u"fo:padding"_s, toInches(toPoints(padding).value_or(0.0) + border / 2.0));
     }
     ground.insert(u"draw:textarea-vertical-align"_s, cell.value(u"style:vertical-align"_s));
     return ground;
