@@ -315,25 +315,26 @@ TEST(OpenDocumentCensus, FindsSectionsThatDoNotLookLikePlainText)
               0);
 }
 
-TEST(OpenDocumentCensus, FindsTabsThatAreNotAtTheLeft)
+TEST(OpenDocumentCensus, FindsTabsAtOtherPlacesThanOnLabels)
 {
-    const auto effects = [](const QByteArray& stop, const QByteArray& paragraphs) {
-        const QByteArray stops = "<style:paragraph-properties><style:tab-stops><style:tab-stop " +
-                                 stop + "/></style:tab-stops></style:paragraph-properties>";
+    const auto effects = [](const QByteArray& paragraphs) {
+        const QByteArray stops = "<style:paragraph-properties><style:tab-stops><style:tab-stop "
+                                 "style:position=\"2in\"/></style:tab-stops>"
+                                 "</style:paragraph-properties>";
+        const QByteArray none =
+            "<style:paragraph-properties><style:tab-stops/></style:paragraph-properties>";
         const Census census = countOpenDocument(
             textOf(paragraphs, {.automaticStyles = styleOf("P", "paragraph", stops) +
-                                                   styleOf("C", "paragraph", {}, "P")}));
+                                                   styleOf("C", "paragraph", {}, "P") +
+                                                   styleOf("N", "paragraph", none, "P")}));
         const auto tally = census.tallies.find(LossKind::TextEffect);
         return tally != census.tallies.end() ? tally->second.count : 0;
     };
     const QByteArray tabs = "<text:p text:style-name=\"C\">A<text:tab/>B<text:tab/>C</text:p>";
-    EXPECT_EQ(effects("style:position=\"2in\" style:type=\"right\"", tabs), 1);
+    EXPECT_EQ(effects(tabs), 1);
     EXPECT_EQ(
-        effects("style:position=\"2in\" style:leader-style=\"dotted\"",
-                "<text:list><text:list-item>" + tabs + tabs + "</text:list-item></text:list>"),
-        2);
-    EXPECT_EQ(effects("style:position=\"2in\"", tabs), 0);
-    EXPECT_EQ(effects("style:position=\"2in\" style:type=\"right\"",
-                      "<text:p text:style-name=\"P\">A B</text:p><text:p>C<text:tab/>D</text:p>"),
+        effects("<text:list><text:list-item>" + tabs + tabs + "</text:list-item></text:list>"), 2);
+    EXPECT_EQ(effects("<text:p text:style-name=\"P\">A B</text:p><text:p>C<text:tab/>D</text:p>"
+                      "<text:p text:style-name=\"N\">E<text:tab/>F</text:p>"),
               0);
 }

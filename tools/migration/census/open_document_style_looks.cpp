@@ -65,9 +65,9 @@ bool StyleBook::changesSection(const QString& style) const
     return m_sections.contains(style);
 }
 
-bool StyleBook::alignsTabs(const QString& style) const
+bool StyleBook::hasTabStops(const QString& style) const
 {
-    return textStyle(style).alignsTabs;
+    return textStyle(style).hasTabStops;
 }
 
 bool StyleBook::sizesText(const QString& style) const

@@ -156,13 +156,9 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
     } else if (name == "style:graphic-properties"_L1) {
         takeProperties(u"graphic"_s, attributes);
     } else if (name == "style:tab-stops"_L1) {
-        current().alignsTabs = false; // instead of those of the parent
+        current().hasTabStops = false; // instead of those of the parent
     } else if (name == "style:tab-stop"_L1) {
-        const QString type = valueOf(attributes, "style:type"_L1);
-        const QString leader = valueOf(attributes, "style:leader-style"_L1);
-        const bool isPlain =
-            (type.isEmpty() || type == "left"_L1) && (leader.isEmpty() || leader == "none"_L1);
-        current().alignsTabs = current().alignsTabs || !isPlain;
+        current().hasTabStops = true;
     } else if (!m_sectionName.isEmpty()) {
         takeSection(name, attributes);
     }

@@ -43,8 +43,8 @@ public:
     [[nodiscard]] LossSet shapeTextChanges(const QString& style) const;
     /// Whether a style gives a section a background, margins or columns, which labels do not show.
     [[nodiscard]] bool changesSection(const QString& style) const;
-    /// Whether the tabs of a paragraph align at their right or center, or have dots before them.
-    [[nodiscard]] bool alignsTabs(const QString& style) const;
+    /// Whether a paragraph has tab stops at other places than at equal distances.
+    [[nodiscard]] bool hasTabStops(const QString& style) const;
     /// Whether a style gives texts the size of their letters.
     [[nodiscard]] bool sizesText(const QString& style) const;
     [[nodiscard]] bool sizesShapeText(const QString& style) const;
@@ -54,7 +54,7 @@ private:
     {
         quint64 dropped = 0;  ///< a bit for each row of the table of properties
         bool isSized = false; ///< it gives a size of letters
-        bool alignsTabs = false;
+        bool hasTabStops = false;
         // As written; empty if not given by the style or its parents. Those of the default style
         // are not included: a paragraph's default is weaker than the style of its shape.
         QString font;

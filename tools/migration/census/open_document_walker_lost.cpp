@@ -82,7 +82,7 @@ void OpenDocumentWalker::noteSection(const QString& name, const Attributes& attr
 // Labels have tab stops at equal distances. Counts a paragraph once.
 void OpenDocumentWalker::noteTab(const QString& name)
 {
-    if (name == "text:tab"_L1 && m_styles.alignsTabs(m_lineStyle)) {
+    if (name == "text:tab"_L1 && m_styles.hasTabStops(m_lineStyle)) {
         m_census.note(LossKind::TextEffect, 1, name);
         m_lineStyle.clear();
     }
