@@ -2,6 +2,7 @@
 // texts, the same barcodes.
 
 #include "tests/hostile/complete_labels.h"
+#include "tests/support/canvas_writer/canvas_writer.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -21,6 +22,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -38,6 +40,7 @@ struct Exception
 };
 const std::map<QString, Exception> Exceptions{
     {u"address_2000016_cnv"_s, {0.9, "texts in one format; a line becomes 4.5 % shorter"}},
+    {u"barcodes_cnv"_s, {0.93, "its own bars are narrower"}},
     {u"book_label_qmtx"_s, {0.945, "its own bars are narrower; 0.98 without the barcode"}},
     {u"care_label_odt"_s, {0.9, "an underlined line becomes 5 % wider, letters of words move"}},
     {u"parcel_label_qmtx"_s, {0.93, "its own pattern of the QR code; 0.97 without the code"}},
@@ -197,9 +200,41 @@ QStringList completeLabels()
     return {u"complete_cnv"_s, u"complete_qmtx"_s, u"complete_odg"_s};
 }
 
+constexpr auto BarcodesLabel = "barcodes_cnv";
+
+/// A label with a linear barcode of each kind that gLabels encodes and the decoder reads.
+QByteArray barcodesLabel()
+{
+    const std::vector<std::pair<int, const char*>> codes{
+        {3, "12345678"}, {8, "AB-12 3"},  {13, "400638133393"}, {13, "9638507"}, {18, "A12345B"},
+        {20, "Ab-1234"}, {25, "CODE 93"}, {34, "01234567890"},  {37, "0123456"}};
+    constexpr int columns = 3;
+    constexpr double width = 2.2;
+    constexpr double height = 1.0;
+    constexpr double pitch = 0.5;
+    canvas::CanvasRecord page;
+    page.width = pitch + columns * (width + pitch);
+    page.height = pitch + 4 * (height + pitch);
+    CanvasWriter writer(2000024);
+    writer.start(page);
+    int place = 0;
+    for (const auto& [symbology, content] : codes) {
+        canvas::BarcodeRecord code;
+        code.header.x = pitch + place % columns * (width + pitch);
+        code.header.y = pitch + static_cast<double>(place / columns) * (height + pitch);
+        code.header.width = QString::number(width);
+        code.header.height = QString::number(height);
+        code.symbology = symbology;
+        code.content = QString::fromLatin1(content);
+        writer.add(code);
+        ++place;
+    }
+    return writer.bytes();
+}
+
 QStringList labelNames()
 {
-    QStringList names = completeLabels();
+    QStringList names = completeLabels() + QStringList{QLatin1String(BarcodesLabel)};
     for (const QString& document : documents()) {
         names.append(labelName(document));
     }
@@ -241,6 +276,9 @@ private:
         copy(labels.path(ReaderKind::Tavrel), completeLabels().at(0));
         copy(labels.path(ReaderKind::Orvanta), completeLabels().at(1));
         copy(labels.path(ReaderKind::OpenDocument), completeLabels().at(2));
+        QFile barcodes(folder + u'/' + QLatin1String(BarcodesLabel) + u".cnv"_s);
+        ASSERT_TRUE(barcodes.open(QIODevice::WriteOnly));
+        barcodes.write(barcodesLabel());
     }
 
     /// gLabels writes one document after the other into a pipe.
@@ -289,6 +327,9 @@ TEST_P(GlabelsProgram, PrintsTheDocumentAsWeDo)
         formats.push_back(format);
     }
     EXPECT_EQ(barcodesOf(theirPage, formats), barcodes);
+    if (GetParam() == QLatin1String(BarcodesLabel)) {
+        EXPECT_EQ(barcodes.size(), 9U) << "kinds";
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, GlabelsProgram, testing::ValuesIn(labelNames()),

@@ -56,6 +56,9 @@ constexpr std::array Styles{
     Style{71, "[ -~]+", "libiec16022", "IEC16022", Placing::Fill, 0},
 };
 
+/// GNU barcode omits its check characters without the setting; scanners require them.
+constexpr int Code93 = 25;
+
 constexpr double Margin = 10.0;
 /// GNU barcode draws no narrower module; points.
 constexpr double LeastModule = 0.5;
@@ -118,7 +121,7 @@ std::optional<GlabelsSymbol> glabelsSymbol(const BarcodeValues& values, const Ba
     }
     return GlabelsSymbol{{QLatin1String(style->backend),
                           QLatin1String(style->style),
-                          values.option == 1,
+                          values.option == 1 || values.symbology == Code93,
                           values.content,
                           {},
                           values.foreground},
