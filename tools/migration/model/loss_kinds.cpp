@@ -257,11 +257,6 @@ static_assert([] {
     return true;
 }());
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("migration::LossKinds", text);
-}
-
 } // namespace
 
 std::span<const LossRow> lossRows()
@@ -289,13 +284,14 @@ QString lossCode(LossKind kind)
 
 QString lossText(LossKind kind)
 {
-    return translated(lossRow(kind).words);
+    return QCoreApplication::translate("migration::LossKinds", lossRow(kind).words);
 }
 
 QString lossAdvice(LossKind kind)
 {
     const char* const advice = lossRow(kind).advice;
-    return advice != nullptr ? translated(advice) : QString();
+    return advice != nullptr ? QCoreApplication::translate("migration::LossKinds", advice)
+                             : QString();
 }
 
 } // namespace migration
