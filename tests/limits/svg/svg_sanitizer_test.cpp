@@ -17,7 +17,7 @@ using testing::Not;
 
 namespace {
 
-QByteArray svg(const QByteArray& content)
+QByteArray svgOf(const QByteArray& content)
 {
     return R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink")"
            R"( width="10" height="10">)" +
@@ -26,7 +26,7 @@ QByteArray svg(const QByteArray& content)
 
 std::string sanitized(const QByteArray& content)
 {
-    const auto safe = sanitizeSvg(svg(content));
+    const auto safe = sanitizeSvg(svgOf(content));
     return safe ? safe->document({}).toStdString() : "refused";
 }
 
@@ -103,7 +103,7 @@ TEST(SvgSanitizer, DropsAStyleSheetInstructionBeforeTheDocument)
 {
     const auto safe = sanitizeSvg("<?xml version=\"1.0\"?><?xml-stylesheet href=\"secret.css\"?>"
                                   "<!DOCTYPE svg SYSTEM \"secret.dtd\">" +
-                                  svg("<path/>"));
+                                  svgOf("<path/>"));
     ASSERT_TRUE(safe);
     EXPECT_THAT(safe->document({}).toStdString(), Not(HasSubstr("secret")));
 }
@@ -116,7 +116,7 @@ TEST(SvgSanitizer, NeverOpensExternalEntities)
     file.write("SECRET");
     file.close();
     const auto safe = sanitizeSvg("<!DOCTYPE svg [<!ENTITY e SYSTEM \"" + file.fileName().toUtf8() +
-                                  "\">]>" + svg("<text>&e;</text>"));
+                                  "\">]>" + svgOf("<text>&e;</text>"));
     if (safe) {
         EXPECT_THAT(safe->document({}).toStdString(), Not(HasSubstr("SECRET")));
     }
@@ -125,7 +125,7 @@ TEST(SvgSanitizer, NeverOpensExternalEntities)
 TEST(SvgSanitizer, ResolvesInternalEntitiesAndRefusesTheirExplosion)
 {
     const auto safe =
-        sanitizeSvg("<!DOCTYPE svg [<!ENTITY red \"#ff0000\">]>" + svg("<path fill=\"&red;\"/>"));
+        sanitizeSvg("<!DOCTYPE svg [<!ENTITY red \"#ff0000\">]>" + svgOf("<path fill=\"&red;\"/>"));
     ASSERT_TRUE(safe);
     EXPECT_THAT(safe->document({}).toStdString(), HasSubstr("fill=\"#ff0000\""));
 
@@ -134,7 +134,7 @@ TEST(SvgSanitizer, ResolvesInternalEntitiesAndRefusesTheirExplosion)
         const QByteArray last = "&e" + QByteArray::number(i - 1) + ";";
         nested += "<!ENTITY e" + QByteArray::number(i) + " \"" + last + last + "\">";
     }
-    EXPECT_FALSE(sanitizeSvg(nested + "]>" + svg("<text>&e29;</text>")));
+    EXPECT_FALSE(sanitizeSvg(nested + "]>" + svgOf("<text>&e29;</text>")));
 }
 
 // The renderer opens the file that an image names; nothing of it may show.
@@ -146,7 +146,7 @@ TEST(SvgSanitizer, ShowsNothingOfALocalPicture)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(pngOf(10, 10));
     file.close();
-    const QByteArray document = svg(
+    const QByteArray document = svgOf(
         "<image x=\"0\" y=\"0\" width=\"10\" height=\"10\" xlink:href=\"" + path.toUtf8() + "\"/>");
     ASSERT_EQ(drawn(document).pixelColor(5, 5), QColor(Qt::red)) << "the renderer would show it";
     const auto safe = sanitizeSvg(document);
@@ -157,8 +157,8 @@ TEST(SvgSanitizer, ShowsNothingOfALocalPicture)
 TEST(SvgSanitizer, KeepsAnEmbeddedPicture)
 {
     const QByteArray document =
-        svg("<image x=\"0\" y=\"0\" width=\"10\" height=\"10\" href=\"data:image/png;base64,\n " +
-            pngOf(4, 4).toBase64() + "\"/>");
+        svgOf("<image x=\"0\" y=\"0\" width=\"10\" height=\"10\" href=\"data:image/png;base64,\n " +
+              pngOf(4, 4).toBase64() + "\"/>");
     const auto safe = sanitizeSvg(document);
     ASSERT_TRUE(safe);
     EXPECT_EQ(drawn(safe->document()).pixelColor(5, 5), QColor(Qt::red));
@@ -190,7 +190,7 @@ TEST(SvgSanitizer, TurnsLengthsIntoUserUnits)
 
 TEST(SvgSanitizer, KeepsUnitsOnRequest)
 {
-    const QByteArray document = svg("<rect width='1mm' height='2' font-size='99999pt'/>");
+    const QByteArray document = svgOf("<rect width='1mm' height='2' font-size='99999pt'/>");
     const auto safe = sanitizeSvg(document, svglimits::LengthUnits::AsWritten);
     ASSERT_TRUE(safe);
     EXPECT_THAT(safe->body.toStdString(), HasSubstr("width=\"1mm\" height=\"2\""));
@@ -235,7 +235,7 @@ TEST(SvgSanitizer, RefusesDataThatIsNotSvg)
 
 TEST(SvgSanitizer, RefusesEveryTruncation)
 {
-    const QByteArray whole = svg(R"(<g id="a"><path d="M0 0L5 5"/></g><use xlink:href="#a"/>)");
+    const QByteArray whole = svgOf(R"(<g id="a"><path d="M0 0L5 5"/></g><use xlink:href="#a"/>)");
     ASSERT_TRUE(sanitizeSvg(whole));
     for (qsizetype size = 0; size < whole.size(); ++size)
         EXPECT_FALSE(sanitizeSvg(whole.left(size))) << size;
@@ -244,14 +244,14 @@ TEST(SvgSanitizer, RefusesEveryTruncation)
 TEST(SvgSanitizer, BoundsDepthAndNumberOfElements)
 {
     const auto nested = [](int depth) {
-        return svg(QByteArray("<g>").repeated(depth) + QByteArray("</g>").repeated(depth));
+        return svgOf(QByteArray("<g>").repeated(depth) + QByteArray("</g>").repeated(depth));
     };
     EXPECT_TRUE(sanitizeSvg(nested(svglimits::Depth - 1)));
     EXPECT_FALSE(sanitizeSvg(nested(svglimits::Depth)));
     EXPECT_FALSE(sanitizeSvg(nested(300'000)));
-    EXPECT_TRUE(sanitizeSvg(svg(QByteArray("<g/>").repeated(svglimits::Elements))));
-    EXPECT_FALSE(sanitizeSvg(svg(QByteArray("<g/>").repeated(svglimits::Elements + 1))));
-    EXPECT_FALSE(sanitizeSvg(svg(QByteArray(svglimits::DocumentBytes, ' '))));
+    EXPECT_TRUE(sanitizeSvg(svgOf(QByteArray("<g/>").repeated(svglimits::Elements))));
+    EXPECT_FALSE(sanitizeSvg(svgOf(QByteArray("<g/>").repeated(svglimits::Elements + 1))));
+    EXPECT_FALSE(sanitizeSvg(svgOf(QByteArray(svglimits::DocumentBytes, ' '))));
 }
 
 TEST(SvgSanitizer, RefusesWhatWouldKeepTheParserOrTheRendererBusy)
@@ -259,10 +259,10 @@ TEST(SvgSanitizer, RefusesWhatWouldKeepTheParserOrTheRendererBusy)
     QByteArray crowded = "<g";
     for (int i = 0; i < 200'000; ++i)
         crowded += " a" + QByteArray::number(i) + "=\"\"";
-    EXPECT_FALSE(sanitizeSvg(svg(crowded + "/>")));
-    EXPECT_TRUE(sanitizeSvg(svg("<style>" + QByteArray(svglimits::StyleText, ' ') + "</style>")));
+    EXPECT_FALSE(sanitizeSvg(svgOf(crowded + "/>")));
+    EXPECT_TRUE(sanitizeSvg(svgOf("<style>" + QByteArray(svglimits::StyleText, ' ') + "</style>")));
     EXPECT_FALSE(sanitizeSvg(
-        svg("<style>" + QByteArray(svglimits::StyleText, ' ') + "</style><style> </style>")));
+        svgOf("<style>" + QByteArray(svglimits::StyleText, ' ') + "</style><style> </style>")));
 }
 
 TEST(SvgSanitizer, RefusesReferencesThatExplodeRecurOrGoTooDeep)
@@ -276,10 +276,10 @@ TEST(SvgSanitizer, RefusesReferencesThatExplodeRecurOrGoTooDeep)
         if (i < 12)
             explosion += begin + use.repeated(10) + "</g>";
     }
-    EXPECT_FALSE(sanitizeSvg(svg(explosion)));
-    EXPECT_FALSE(sanitizeSvg(svg(chain)));
-    EXPECT_FALSE(sanitizeSvg(svg(R"(<g id="a"><use href="#a"/></g>)")));
+    EXPECT_FALSE(sanitizeSvg(svgOf(explosion)));
+    EXPECT_FALSE(sanitizeSvg(svgOf(chain)));
+    EXPECT_FALSE(sanitizeSvg(svgOf(R"(<g id="a"><use href="#a"/></g>)")));
     EXPECT_FALSE(
-        sanitizeSvg(svg(R"(<g id="a"><use href="#b"/></g><g id="b"><use href="#a"/></g>)")));
-    EXPECT_TRUE(sanitizeSvg(svg(R"(<g id="a"><a href="#a"><path/></a></g>)"))) << "only a link";
+        sanitizeSvg(svgOf(R"(<g id="a"><use href="#b"/></g><g id="b"><use href="#a"/></g>)")));
+    EXPECT_TRUE(sanitizeSvg(svgOf(R"(<g id="a"><a href="#a"><path/></a></g>)"))) << "only a link";
 }
