@@ -96,7 +96,8 @@ bool FlowWriter::hasBreak(const Node& paragraph, const QString& side) const
 void FlowWriter::readBlocks(Node& parent, int depth)
 {
     for (auto& child : parent.children) {
-        if (depth > MaximumSectionDepth || child == nullptr || child->isText() || isHidden(*child)) {
+        if (depth > MaximumSectionDepth || child == nullptr || child->isText() ||
+            isHidden(*child)) {
             continue;
         }
         if (isParagraph(*child) || child->is(u"text:list") ||
