@@ -202,3 +202,38 @@ TEST(TextDocument, LinksHaveTheStyleOfLinks)
         EXPECT_TRUE(link.match(values.text->html).hasMatch()) << values.text->html.toStdString();
     }
 }
+
+// As on shapes: white if the color behind it is dark.
+TEST(TextDocument, AutomaticTextIsWhiteOnADarkGround)
+{
+    const QTemporaryDir folder;
+    const auto text = [](const QByteArray& name, const QByteArray& properties) -> QByteArray {
+        return "<style:style style:name=\"" + name +
+               "\" style:family=\"text\"><style:text-properties " + properties + "/></style:style>";
+    };
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles>" +
+        text("dark", "fo:background-color=\"#0000ff\"") +
+        text("red", "fo:background-color=\"#ff0000\"") +
+        text("own", "fo:background-color=\"#0000ff\" fo:color=\"#000000\"") +
+        "<style:style style:name=\"P\" style:family=\"paragraph\"><style:paragraph-properties "
+        "fo:background-color=\"#000000\"/></style:style></office:automatic-styles><office:body>"
+        "<office:text><text:p><text:span text:style-name=\"dark\">one</text:span>"
+        "<text:span text:style-name=\"red\">two</text:span><text:span "
+        "text:style-name=\"own\">three</text:span>four</text:p><text:p text:style-name=\"P\">five"
+        "<text:span text:style-name=\"red\">six</text:span></text:p></office:text></office:body>"
+        "</office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+    ASSERT_TRUE(import.isRepaired());
+    ASSERT_EQ(import.result.canvas->items().size(), 2);
+    const QString html = import.result.canvas->items().constLast()->values().text->html;
+    QStringList colors;
+    for (const char* word : {"one", "two", "three", "four", "five", "six"}) {
+        const QRegularExpression span(
+            u"[; ]color:(#[0-9a-f]{6});[^>]*>%1<"_s.arg(QLatin1String(word)));
+        colors.append(span.match(html).captured(1));
+    }
+    EXPECT_EQ(colors.join(u' '), u"#ffffff #000000 #000000 #000000 #ffffff #000000"_s)
+        << html.toStdString();
+}

@@ -21,6 +21,19 @@ using namespace Qt::StringLiterals;
 constexpr double DefaultFontSize = 12.0;
 // Raised and lowered text; the share of the size if the document gives none.
 constexpr double DefaultRaisedShare = 0.58;
+// Below this luminance of their ground, from 0 to 255, automatic texts are white.
+constexpr int DarkLuminance = 62;
+
+int luminance(const QColor& color)
+{
+    return (color.blue() * 29 + color.green() * 151 + color.red() * 76) >> 8;
+}
+
+QColor automaticColor(const QColor& ground)
+{
+    const bool isDark = ground.isValid() && luminance(ground) <= DarkLuminance;
+    return isDark ? Qt::white : Qt::black;
+}
 
 QString cssNumber(double value)
 {
@@ -38,9 +51,9 @@ double pointsPerPixel()
 class HtmlWriter
 {
 public:
-    HtmlWriter(Document& document, const QColor& automatic)
+    HtmlWriter(Document& document, const QColor& ground)
         : m_document(document)
-        , m_automatic(automatic)
+        , m_ground(ground)
         , m_pointsPerPixel(pointsPerPixel())
     {}
 
@@ -48,13 +61,13 @@ public:
     [[nodiscard]] QString finished() const;
 
 private:
-    [[nodiscard]] QString spanStyle(const Properties& text) const;
+    [[nodiscard]] QString spanStyle(const Properties& text, const QColor& below) const;
     [[nodiscard]] QString paragraphStyle(const Properties& paragraph, double spacing);
     [[nodiscard]] double lineSpacing(const Node& node, const Properties& paragraph);
     [[nodiscard]] Properties textOf(const Node& node, const QString& family) const;
 
     Document& m_document;
-    QColor m_automatic;
+    QColor m_ground;
     double m_pointsPerPixel;
     double m_spaceBefore = 0.0; // points, below the paragraph before
     QString m_html;
@@ -71,13 +84,18 @@ bool isBold(const Properties& text)
     return weight == "bold"_L1 || weight.toInt() >= 600;
 }
 
-// The color behind characters or a paragraph. Nothing for "transparent".
-QString groundStyle(const Properties& properties)
+// The color behind characters or a paragraph; the one below if theirs is "transparent".
+QColor groundOf(const Properties& properties, const QColor& below = {})
 {
     const QString name = properties.value(u"fo:background-color"_s);
-    const QColor ground(name);
-    return ground.isValid() && name.startsWith(u'#') ? u"background-color:%1;"_s.arg(ground.name())
-                                                     : QString();
+    const QColor own(name);
+    return own.isValid() && name.startsWith(u'#') ? own : below;
+}
+
+QString groundStyle(const Properties& properties)
+{
+    const QColor ground = groundOf(properties);
+    return ground.isValid() ? u"background-color:%1;"_s.arg(ground.name()) : QString();
 }
 
 // "super 58%", "sub 58%", "33% 58%"; nothing for text on the line.
@@ -94,7 +112,7 @@ QString raisedStyle(const QString& position, double& size)
     return isLowered ? u"vertical-align:sub;"_s : u"vertical-align:super;"_s;
 }
 
-QString HtmlWriter::spanStyle(const Properties& text) const
+QString HtmlWriter::spanStyle(const Properties& text, const QColor& below) const
 {
     double size = sizeOf(text);
     QString style = raisedStyle(text.value(u"style:text-position"_s), size);
@@ -122,7 +140,8 @@ QString HtmlWriter::spanStyle(const Properties& text) const
     }
     const bool isAutomatic = text.value(u"style:use-window-font-color"_s) == "true"_L1;
     const QColor color(isAutomatic ? QString() : text.value(u"fo:color"_s));
-    style += u"color:%1;"_s.arg((color.isValid() ? color : m_automatic).name());
+    style += u"color:%1;"_s.arg(
+        (color.isValid() ? color : automaticColor(groundOf(text, below))).name());
     style += groundStyle(text);
     if (text.value(u"fo:font-variant"_s) == "small-caps"_L1) {
         style += u"font-variant:small-caps;"_s;
@@ -222,19 +241,20 @@ void HtmlWriter::writeParagraph(const Node& paragraph)
     const StyleProperties style =
         m_document.table().resolved(u"paragraph"_s, paragraph.attribute(u"text:style-name"), false);
     const bool isEmpty = paragraph.children.empty();
+    const QColor ground = groundOf(style.paragraph, m_ground);
     m_html += u"<p align=\"%1\" style=\"%2%3%4\">"_s.arg(
         textAlignmentOf(style.paragraph), isEmpty ? u"-qt-paragraph-type:empty;"_s : QString(),
         paragraphStyle(style.paragraph,
                        hasMarkInLine(paragraph) ? 100.0 : lineSpacing(paragraph, style.paragraph)),
-        isEmpty ? spanStyle(style.text) : QString());
+        isEmpty ? spanStyle(style.text, ground) : QString());
     if (isEmpty) {
         m_html += u"<br />"_s;
     }
     for (const auto& span : paragraph.children) {
         m_html += marksHtml(*span);
         if (!span->hasAttribute(HolderAttribute)) {
-            m_html += u"<span style=\"%1\">%2</span>"_s.arg(spanStyle(textOf(*span, u"text"_s)),
-                                                            span->allText().toHtmlEscaped());
+            m_html += u"<span style=\"%1\">%2</span>"_s.arg(
+                spanStyle(textOf(*span, u"text"_s), ground), span->allText().toHtmlEscaped());
         }
     }
     m_html += marksHtml(paragraph) + u"</p>"_s;
@@ -247,9 +267,9 @@ QString HtmlWriter::finished() const
 
 } // namespace
 
-QString toHtml(Document& document, const Node& container, const QColor& automatic)
+QString toHtml(Document& document, const Node& container, const QColor& ground)
 {
-    HtmlWriter writer(document, automatic);
+    HtmlWriter writer(document, ground);
     for (const auto& child : container.children) {
         if (child->is(u"text:p")) {
             writer.writeParagraph(*child);

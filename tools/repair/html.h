@@ -13,7 +13,7 @@ class Node;
 /// The rewritten paragraphs below a node as HTML, with everything that their styles state.
 /// Lengths are in pixels, which are the points of a canvas.
 ///
-/// @param automatic color of characters that have none of their own
-[[nodiscard]] QString toHtml(Document& document, const Node& container, const QColor& automatic);
+/// @param ground color behind the text, on which the color of characters without one depends
+[[nodiscard]] QString toHtml(Document& document, const Node& container, const QColor& ground);
 
 } // namespace repair

@@ -98,6 +98,19 @@ QColor textColorOf(const ItemValues& values)
     return colors.isEmpty() ? QColor(Qt::black) : QColor(colors.constFirst());
 }
 
+// Characters without a color of their own behind them are on what is under the item.
+QColor textGroundOf(const ItemValues& values)
+{
+    static const QRegularExpression pattern(
+        u"[ ;\"]color:#[0-9a-fA-F]{6}(?:; *background-color:(#[0-9a-fA-F]{6}))?"_s);
+    QStringList grounds;
+    for (auto match = pattern.globalMatch(values.text->html); match.hasNext();) {
+        grounds.append(match.next().captured(1));
+    }
+    grounds.removeDuplicates();
+    return grounds.size() == 1 ? QColor(grounds.constFirst()) : QColor();
+}
+
 QString shownText(const workbench::CanvasItem& item, const ItemValues& values)
 {
     const auto* const document = dynamic_cast<const QGraphicsTextItem*>(item.graphicsItem());
@@ -133,6 +146,7 @@ void checkItemAppearance(const workbench::CanvasItem& item, const ItemValues& va
         facts.text = shownText(item, values);
         facts.families = familiesOf(values);
         facts.textColor = textColorOf(values);
+        facts.textGround = textGroundOf(values);
     } else if (values.barcode) {
         facts.families = familiesOf(values);
     }

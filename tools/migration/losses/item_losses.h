@@ -33,6 +33,7 @@ struct ItemFacts
     QString text = {};         ///< as shown
     QStringList families = {}; ///< of the text, as named by the item
     QColor textColor = {};     ///< invalid if there are several
+    QColor textGround = {};    ///< behind all characters; invalid without one or with several
     QColor fill = {};          ///< invalid without a fill of one color
     bool isFilled = false;
     bool isOpaque = false; ///< hides what is below it
