@@ -105,6 +105,22 @@ TEST(CheckLabel, FindsOnlyShapesThatMovedByMoreThanAMillimeter)
     EXPECT_NE(findingOf(moved, lossCode(LossKind::Moved)), nullptr);
 }
 
+// A shape whose style says nothing about its fill is filled; the reader leaves it empty.
+TEST(CheckLabel, FindsAFillThatTheLabelLacks)
+{
+    const auto isFound = [](const char* properties) {
+        const FileReport report = reportOn(odg(boxAt("svg:x=\"1in\" svg:y=\"1in\"", "S"),
+                                               {.automaticStyles = graphicStyle("S", properties)}));
+        EXPECT_EQ(report.objects.imported, 1);
+        return findingOf(report, lossCode(LossKind::FillSimplified)) != nullptr;
+    };
+    EXPECT_TRUE(isFound(""));
+    EXPECT_FALSE(isFound("draw:fill-color=\"#3465a4\""));
+    EXPECT_FALSE(isFound("draw:fill=\"none\""));
+    EXPECT_FALSE(isFound("draw:fill=\"solid\" draw:fill-color=\"#3465a4\""));
+    EXPECT_FALSE(isFound("draw:fill=\"solid\" draw:fill-color=\"#3465a4\" draw:opacity=\"0%\""));
+}
+
 TEST(CheckLabel, AllowsForTheEnlargementOfMillimeters)
 {
     const FileReport report =

@@ -66,8 +66,22 @@ TEST(RepairedReport, AShapeOfATextIsFilledByDefault)
                                 "<style:graphic-properties draw:fill-color=\"#ffde21\"/>"
                                 "</style:style>"}));
     EXPECT_EQ(report.objects.imported, 2);
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::FillSimplified)), nullptr)
+        << codesOf(report).toStdString();
     EXPECT_EQ(findingOf(report, lossCode(LossKind::FillAdded)), nullptr)
         << codesOf(report).toStdString();
+}
+
+// White letters are on the blue behind them, not on the white page.
+TEST(RepairedReport, AutomaticTextIsReadableOnItsOwnDarkGround)
+{
+    const FileReport report = repairedReport(
+        odt("<text:p><text:span text:style-name=\"D\">Night</text:span></text:p>",
+            {.automaticStyles = "<style:style style:name=\"D\" style:family=\"text\">"
+                                "<style:text-properties fo:background-color=\"#000080\"/>"
+                                "</style:style>"}));
+    EXPECT_EQ(report.objects.imported, 1);
+    EXPECT_EQ(verdictOf(report), Verdict::Complete) << codesOf(report).toStdString();
 }
 
 // The colors of texts in tables are not looked up: white letters on gray are the document's own.

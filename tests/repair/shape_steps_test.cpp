@@ -234,6 +234,25 @@ TEST(CustomShapes, AreNotGuessed)
                              "<draw:equation draw:name=\"f0\" draw:formula=\"" + deep + "\"/>"));
 }
 
+// Office programs fill a shape whose style says nothing about its fill.
+TEST(ShapeSteps, FillShapesWhoseStyleLeavesTheFillOpen)
+{
+    const auto fillOf = [](const QByteArray& tag, const QByteArray& properties) {
+        Document document = drawing("<draw:" + tag + " draw:style-name=\"S\" " + Square + "/>",
+                                    "<style:style style:name=\"S\" style:family=\"graphic\">"
+                                    "<style:graphic-properties " +
+                                        properties + "/></style:style>");
+        (void)drawPaths(document);
+        const Properties graphic = graphicOf(document, *document.page()->children[0]);
+        return graphic.value(u"draw:fill"_s) + u' ' + graphic.value(u"draw:fill-color"_s);
+    };
+    EXPECT_EQ(fillOf("rect", ""), "solid #99ccff"_L1);
+    EXPECT_EQ(fillOf("custom-shape", "draw:fill-color=\"#123456\""), "solid #123456"_L1);
+    EXPECT_EQ(fillOf("ellipse", "draw:fill=\"none\""), "none "_L1);
+    EXPECT_EQ(fillOf("line", ""), " "_L1);
+    EXPECT_EQ(fillOf("frame", ""), " "_L1);
+}
+
 TEST(SvgPaths, AreReadAsSvgWritesThem)
 {
     const auto path = parseSvgPath(u"M10-5.5.5 1h10v-2l-1-1z"_s);

@@ -16,6 +16,11 @@ using namespace Qt::StringLiterals;
 
 // Sides that differ by less are equal, for shapes whose corners depend on it.
 constexpr double SquareTolerance = 0.02;
+// Only old programs leave the color of a fill out: newer ones write it into the default style.
+const QString DefaultFillColor = u"#99ccff"_s;
+constexpr QLatin1StringView FillableTags[] = {
+    "draw:rect"_L1,    "draw:ellipse"_L1, "draw:circle"_L1,         "draw:custom-shape"_L1,
+    "draw:polygon"_L1, "draw:path"_L1,    "draw:regular-polygon"_L1};
 
 std::vector<Outline> onPage(std::vector<Outline> outlines, const QTransform& toPage)
 {
@@ -186,11 +191,31 @@ Parts drawTextBoxGround(Document& document, Node& frame)
     return parts;
 }
 
+// Unlike a frame or a line, a shape is filled unless its style says otherwise.
+void fillByDefault(Document& document, Node& shape)
+{
+    const QString name = shape.attribute(u"draw:style-name");
+    const bool isFillable = std::find(std::begin(FillableTags), std::end(FillableTags),
+                                      shape.name) != std::end(FillableTags);
+    const Properties graphic = graphicOf(document, shape);
+    if (!isFillable || name.isEmpty() || graphic.contains(u"draw:fill"_s)) {
+        return;
+    }
+    StyleProperties style = document.table().resolved(u"graphic"_s, name, false);
+    style.graphic.insert(u"draw:fill"_s, u"solid"_s);
+    style.graphic.insert(u"draw:fill-color"_s,
+                         graphic.value(u"draw:fill-color"_s, DefaultFillColor));
+    shape.setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
+}
+
 } // namespace
 
 int drawPaths(Document& document)
 {
-    return replaceShapes(document, [&document](Node& shape) { return drawPath(document, shape); });
+    return replaceShapes(document, [&document](Node& shape) {
+        fillByDefault(document, shape);
+        return drawPath(document, shape);
+    });
 }
 
 int drawShapes(Document& document)

@@ -7,6 +7,13 @@ namespace migration {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Of a fill whose color no style gives, as office programs show it.
+constexpr QColor DefaultFillColor(0x99, 0xcc, 0xff);
+
+} // namespace
+
 // An empty name, or one that is not defined, has no style of its own.
 QString StyleBook::firstOf(QString Style::*value, const QString& text, const QString& paragraph,
                            const QString& shape) const
@@ -41,15 +48,20 @@ QColor StyleBook::colorOf(const QString& text, const QString& paragraph, const Q
 void StyleBook::describeShape(const QString& style, bool isInText, bool isFrame,
                               Appearance& appearance) const
 {
-    const QString fill = shapeValue(&Style::fill, style);
+    const QString color = shapeValue(&Style::fillColor, style);
     const QColor background(shapeValue(&Style::background, style));
-    if (fill == "solid"_L1) {
-        appearance.fill = QColor(shapeValue(&Style::fillColor, style));
+    QString fill = shapeValue(&Style::fill, style);
+    if (fill.isEmpty() && !background.isValid() && !style.isEmpty() && !isFrame) {
+        fill = u"solid"_s;
+        appearance.fill = color.isEmpty() ? DefaultFillColor : QColor(color);
+    } else if (fill == "solid"_L1) {
+        appearance.fill = QColor(color);
     } else if (fill.isEmpty() && background.isValid()) {
         appearance.fill = background;
     }
     if (!fill.isEmpty() || background.isValid() || (isInText && isFrame)) {
-        appearance.isFilled = background.isValid() || (!fill.isEmpty() && fill != "none"_L1);
+        const bool isSeen = fill != "none"_L1 && shapeValue(&Style::opacity, style) != "0%"_L1;
+        appearance.isFilled = background.isValid() || (!fill.isEmpty() && isSeen);
     }
     const QString stroke = shapeValue(&Style::stroke, style);
     if (stroke == "solid"_L1 || stroke == "dash"_L1) {

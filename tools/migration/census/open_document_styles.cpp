@@ -203,10 +203,11 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
     }
 }
 
-const std::array<StyleBook::Value, 8> StyleBook::Values{{
+const std::array<StyleBook::Value, 9> StyleBook::Values{{
     {"text"_L1, "fo:color"_L1, &Style::color},
     {"graphic"_L1, "draw:fill"_L1, &Style::fill},
     {"graphic"_L1, "draw:fill-color"_L1, &Style::fillColor},
+    {"graphic"_L1, "draw:opacity"_L1, &Style::opacity},
     {"graphic"_L1, "fo:background-color"_L1, &Style::background},
     {"graphic"_L1, "draw:stroke"_L1, &Style::stroke},
     {"graphic"_L1, "svg:stroke-width"_L1, &Style::strokeWidth},

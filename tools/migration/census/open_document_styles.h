@@ -33,7 +33,7 @@ public:
     [[nodiscard]] QColor colorOf(const QString& text, const QString& paragraph,
                                  const QString& shape) const;
     /// Fill and pen of a shape in this style.
-    /// @param isFrame a frame of a text has no fill by default, unlike a shape
+    /// @param isFrame a frame has no fill by default, unlike a shape with a style
     void describeShape(const QString& style, bool isInText, bool isFrame,
                        Appearance& appearance) const;
     /// What changes on a shape in this style.
@@ -61,6 +61,7 @@ private:
         QString color;
         QString fill;
         QString fillColor;
+        QString opacity;
         QString background;
         QString stroke;
         QString strokeWidth;
@@ -75,7 +76,7 @@ private:
         QLatin1String attribute;
         QString Style::*value;
     };
-    static const std::array<Value, 8> Values;
+    static const std::array<Value, 9> Values;
 
     [[nodiscard]] Style& current();
     [[nodiscard]] const Style& textStyle(const QString& name) const;

@@ -15,6 +15,8 @@ namespace migration {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 // Of the picture that is measured.
 constexpr int PictureSide = 400;
 // The least contrast of large texts in accessibility guidelines.
@@ -77,6 +79,29 @@ bool hasDrawing(const Pair& pair, const LabelFacts& label)
         return item.objectClass == ObjectClass::Symbol && item.hasContent &&
                isNear(item.outline.boundingRect(), box);
     });
+}
+
+// Where the place of an object follows from the text around it, its pair is not certain.
+bool isInPlace(const Pair& pair, const ItemFacts& item)
+{
+    const QRectF place = pair.appearance->outline.boundingRect();
+    return !place.isEmpty() && isNear(place, item.outline.boundingRect());
+}
+
+// A color that the document shows and the label does not. White is that of most pages.
+void checkFills(const Matching& matching, LabelFacts& label)
+{
+    for (const Pair& pair : matching.shapes) {
+        ItemFacts& item = label.items[pair.item];
+        const QColor& wanted = pair.appearance->fill;
+        const bool isShown = pair.appearance->isFilled.value_or(false) && wanted.isValid() &&
+                             wanted.rgb() != QColor(Qt::white).rgb();
+        if (isShown && item.objectClass == ObjectClass::Shape && !item.isFilled &&
+            isInPlace(pair, item) && !hasDrawing(pair, label)) {
+            item.changes.add(LossKind::FillSimplified);
+            label.tallies[LossKind::FillSimplified].addDetail(wanted.name() + u" → –"_s);
+        }
+    }
 }
 
 // A text whose color or ground is not that of the document; a shape whose fill was simplified.
@@ -178,7 +203,8 @@ private:
             facts.changes.add(LossKind::Invisible);
         }
         if (candidate.text != nullptr) {
-            checkTextContrast(groundOf(before), *candidate.text, facts);
+            checkTextContrast(facts.textGround.isValid() ? facts.textGround : groundOf(before),
+                              *candidate.text, facts);
         }
     }
 
@@ -239,6 +265,7 @@ private:
 
 void checkRendering(const workbench::Canvas& canvas, const Matching& matching, LabelFacts& label)
 {
+    checkFills(matching, label);
     const Candidates candidates = candidatesOf(matching, label);
     if (!candidates.isEmpty()) {
         Measurement(canvas, label).run(candidates);
