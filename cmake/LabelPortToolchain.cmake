@@ -57,7 +57,11 @@ if(LABELPORT_FUZZ)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
-if(LABELPORT_COVERAGE)
+# gcov's counters, or clang's, which the fuzz targets need: they are also built with clang.
+if(LABELPORT_COVERAGE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+    add_link_options(-fprofile-instr-generate)
+elseif(LABELPORT_COVERAGE)
     add_compile_options(--coverage -fprofile-update=atomic)
     add_link_options(--coverage)
 endif()
