@@ -4,8 +4,8 @@
 usage: coverage_of_rooms.py COVERAGE.json ROOT
 
 COVERAGE.json is the output of "llvm-cov export -summary-only". A room is a folder of library/,
-hosts/workbench/ or tools/. Headers count in their room; rooms without executed lines are left out,
-because no fuzz target uses them.
+hosts/workbench/ or tools/. Headers count in their room. Sources that no fuzz target links, and
+rooms without executed lines, are not listed.
 """
 
 import collections
@@ -28,7 +28,7 @@ def main():
     root = pathlib.Path(sys.argv[2]).resolve()
     rooms = collections.defaultdict(collections.Counter)
     for file in report["data"][0]["files"]:
-        path = pathlib.Path(file["filename"])
+        path = pathlib.Path(file["filename"]).resolve()
         if not path.is_relative_to(root):
             continue
         room = room_of(path.relative_to(root))

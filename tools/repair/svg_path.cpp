@@ -141,7 +141,8 @@ bool PathReader::readCommand(Scanner& scanner, QChar command)
     const int count = numbersOf(command);
     for (int i = 0; i < count; ++i) {
         const bool isFlag = count == 7 && (i == 3 || i == 4);
-        if (!(isFlag ? scanner.readFlag(values[i]) : scanner.read(values[i]))) {
+        double& value = values[std::size_t(i)];
+        if (!(isFlag ? scanner.readFlag(value) : scanner.read(value))) {
             return false;
         }
     }
