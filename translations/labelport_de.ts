@@ -402,10 +402,6 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>--output und --%1 schließen einander aus.</translation>
     </message>
     <message>
-        <source>--%1 prints on standard output, as --output - does.</source>
-        <translation>--%1 schreibt auf die Standardausgabe, ebenso wie --output -.</translation>
-    </message>
-    <message>
         <source>--output needs a file name, one input file and one target.</source>
         <translation>--output braucht einen Dateinamen, eine Eingabedatei und ein Ziel.</translation>
     </message>
@@ -424,6 +420,10 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
     <message>
         <source>--output - cannot be used with --to glabels, which may write a second file.</source>
         <translation>--output - ist mit --to glabels nicht möglich, da eine zweite Datei geschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>--%1 and --output - both write to standard output. Use only one of them.</source>
+        <translation>--%1 und --output - schreiben beide auf die Standardausgabe. Verwenden Sie nur eines davon.</translation>
     </message>
 </context>
 <context>
@@ -472,12 +472,12 @@ Aktualisieren Sie das alte Tavrel auf die neueste Version und speichern Sie die 
         <translation>Seite %1 konnte nicht importiert werden.</translation>
     </message>
     <message>
-        <source>Only the first %1 of %2 pages were imported.</source>
-        <translation>Nur die ersten %1 von %2 Seiten wurden importiert.</translation>
-    </message>
-    <message>
         <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
         <translation>Dieses System hat keine vollständige Sandbox, die --require-sandbox verlangt. Vorhanden: %1.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 pages were imported; the document has more.</source>
+        <translation>Nur die ersten %1 Seiten wurden importiert; das Dokument hat mehr.</translation>
     </message>
 </context>
 <context>
@@ -1225,10 +1225,6 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Es zeigt nur den ersten Datensatz.</translation>
     </message>
     <message>
-        <source>A text in several formats became a text for each line and format.</source>
-        <translation>Ein Text in mehreren Formaten wurde zu einem Text je Zeile und Format.</translation>
-    </message>
-    <message>
         <source>A text from a data source is not underlined.</source>
         <translation>Ein Text aus einer Datenquelle ist nicht unterstrichen.</translation>
     </message>
@@ -1243,6 +1239,10 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
     <message>
         <source>gLabels 3 distorts text at such angles.</source>
         <translation>gLabels 3 verzerrt Text bei solchen Winkeln.</translation>
+    </message>
+    <message>
+        <source>A text in several formats became a text for each line, format or word.</source>
+        <translation>Ein Text in mehreren Formaten wurde zu einem Text je Zeile, Format oder Wort.</translation>
     </message>
 </context>
 <context>

@@ -402,10 +402,6 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>--output et --%1 s’excluent.</translation>
     </message>
     <message>
-        <source>--%1 prints on standard output, as --output - does.</source>
-        <translation>--%1 écrit sur la sortie standard, comme --output -.</translation>
-    </message>
-    <message>
         <source>--output needs a file name, one input file and one target.</source>
         <translation>--output exige un nom de fichier, un seul fichier d’entrée et un seul format.</translation>
     </message>
@@ -424,6 +420,10 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
     <message>
         <source>--output - cannot be used with --to glabels, which may write a second file.</source>
         <translation>--output - est impossible avec --to glabels, qui peut écrire un second fichier.</translation>
+    </message>
+    <message>
+        <source>--%1 and --output - both write to standard output. Use only one of them.</source>
+        <translation>--%1 et --output - écrivent tous deux sur la sortie standard. N’utilisez que l’un des deux.</translation>
     </message>
 </context>
 <context>
@@ -472,12 +472,12 @@ Mettez à jour l’ancien Tavrel vers sa dernière version et enregistrez de nou
         <translation>La page %1 n’a pas pu être importée.</translation>
     </message>
     <message>
-        <source>Only the first %1 of %2 pages were imported.</source>
-        <translation>Seules les %1 premières pages sur %2 ont été importées.</translation>
-    </message>
-    <message>
         <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
         <translation>Ce système n’a pas de bac à sable complet, comme l’exige --require-sandbox. Disponible&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Only the first %1 pages were imported; the document has more.</source>
+        <translation>Seules les %1 premières pages ont été importées&#xa0;; le document en a davantage.</translation>
     </message>
 </context>
 <context>
@@ -1225,10 +1225,6 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Seul le premier enregistrement est affiché.</translation>
     </message>
     <message>
-        <source>A text in several formats became a text for each line and format.</source>
-        <translation>Un texte en plusieurs formats est devenu un texte par ligne et format.</translation>
-    </message>
-    <message>
         <source>A text from a data source is not underlined.</source>
         <translation>Un texte d’une source de données n’est pas souligné.</translation>
     </message>
@@ -1243,6 +1239,10 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
     <message>
         <source>gLabels 3 distorts text at such angles.</source>
         <translation>gLabels 3 déforme le texte à de tels angles.</translation>
+    </message>
+    <message>
+        <source>A text in several formats became a text for each line, format or word.</source>
+        <translation>Un texte à plusieurs formats est devenu un texte par ligne, format ou mot.</translation>
     </message>
 </context>
 <context>

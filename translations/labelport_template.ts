@@ -400,10 +400,6 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>--%1 prints on standard output, as --output - does.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>--output needs a file name, one input file and one target.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -421,6 +417,10 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
     </message>
     <message>
         <source>--output - cannot be used with --to glabels, which may write a second file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 and --output - both write to standard output. Use only one of them.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -470,11 +470,11 @@ Please update legacy Tavrel to its latest version and re-save file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Only the first %1 of %2 pages were imported.</source>
+        <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This system has no complete sandbox, which --require-sandbox demands. It has: %1.</source>
+        <source>Only the first %1 pages were imported; the document has more.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1147,10 +1147,6 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A text in several formats became a text for each line and format.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>A text from a data source is not underlined.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1164,6 +1160,10 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
     </message>
     <message>
         <source>gLabels 3 distorts text at such angles.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text in several formats became a text for each line, format or word.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

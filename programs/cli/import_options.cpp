@@ -196,8 +196,9 @@ void checkOutput(OptionReader& given, const ImportOptions& options)
     exclude(QT_TRANSLATE_NOOP("cli::ImportOptions", "--output and --%1 exclude each other."),
             {"output-dir"_L1, "files-from"_L1, "base"_L1, "resume"_L1, "shard"_L1});
     if (writesToStandardOutput(options)) {
-        exclude(QT_TRANSLATE_NOOP("cli::ImportOptions",
-                                  "--%1 prints on standard output, as --output - does."),
+        exclude(QT_TRANSLATE_NOOP(
+                    "cli::ImportOptions",
+                    "--%1 and --output - both write to standard output. Use only one of them."),
                 {"json"_L1, "print0"_L1});
     }
     if (writesToStandardOutput(options) && options.targets.contains(Target::Glabels)) {
