@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QProcess>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace bench {
 
 namespace {
@@ -11,7 +13,7 @@ namespace {
 // A value of this process's status in the proc file system, in kilobytes.
 qint64 statusBytes(const QByteArray& name)
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
     }

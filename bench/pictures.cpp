@@ -9,6 +9,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int Width = 1200;
@@ -20,11 +22,10 @@ QImage flatLabel()
     QImage image(Width, Height, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
     QPainter painter(&image);
-    painter.setFont(QFont(QStringLiteral("Liberation Sans"), 30));
+    painter.setFont(QFont(u"Liberation Sans"_s, 30));
     painter.drawRect(20, 20, Width - 40, Height - 40);
     for (int line = 0; line < 20; ++line) {
-        painter.drawText(60, 120 + 50 * line,
-                         QStringLiteral("Net weight 12.5 kg, line %1").arg(line));
+        painter.drawText(60, 120 + 50 * line, u"Net weight 12.5 kg, line %1"_s.arg(line));
     }
     for (int bar = 0; bar < 120; ++bar) {
         painter.fillRect(60 + 8 * bar, 1200, bar % 3 + 2, 400, Qt::black);

@@ -10,6 +10,8 @@
 
 #include <numeric>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -75,7 +77,7 @@ void fuzzOneInput(const QByteArray& input)
     const ReaderKind reader = readerOf(formatOf(input));
     const MemoryFile file(input);
     const workbench::ImportResult result = workbench::importLabel(file.path(), reader);
-    const FileReport report = makeFileReport(file.path(), QStringLiteral("input"), reader, result,
+    const FileReport report = makeFileReport(file.path(), u"input"_s, reader, result,
                                              {.thumbnail = false, .itemList = true});
     checkNumbers(report);
     checkWriting(report);

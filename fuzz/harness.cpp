@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+using namespace Qt::Literals::StringLiterals;
+
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv);
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -19,7 +21,7 @@ extern "C" const char* __lsan_default_suppressions()
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
+    QLoggingCategory::setFilterRules(u"*=false"_s);
     // Never deleted: libFuzzer exits without returning from main.
     static int argumentCount = *argc;
     static QApplication application(argumentCount, *argv);

@@ -7,6 +7,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Records = QList<std::optional<archive::JournalRecord>>;
@@ -24,12 +26,12 @@ archive::Inputs inputs()
 
 archive::JournalRecord intactRecord()
 {
-    return {{QStringLiteral("/in/intact.qmtx"), 12, 34},
-            QStringLiteral("options"),
-            QStringLiteral("1.0"),
+    return {{u"/in/intact.qmtx"_s, 12, 34},
+            u"options"_s,
+            u"1.0"_s,
             archive::FileOutcome::Done,
             {},
-            {{QStringLiteral("intact.png"), 56, 78}},
+            {{u"intact.png"_s, 56, 78}},
             {}};
 }
 
@@ -46,7 +48,7 @@ Records recordsOf(const archive::JournalRecord* added = nullptr, bool isRewritin
     }
     Records records;
     for (qsizetype index = 0; index < inputs().size(); ++index) {
-        records.append(journal.find(index, QStringLiteral("options")));
+        records.append(journal.find(index, u"options"_s));
     }
     return records;
 }
@@ -59,7 +61,7 @@ void checkWriting(const archive::JournalRecord& record)
         qFatal("a record that was written is read as another");
     }
     // Must only read, for all paths.
-    (void)archive::untouchedOutputs(record.outputs, QStringLiteral("/nowhere"));
+    (void)archive::untouchedOutputs(record.outputs, u"/nowhere"_s);
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 MemoryFile::MemoryFile(const QByteArray& bytes)
     : m_descriptor(::memfd_create("input", MFD_CLOEXEC))
 {
@@ -20,5 +22,5 @@ MemoryFile::~MemoryFile()
 
 QString MemoryFile::path() const
 {
-    return QStringLiteral("/proc/self/fd/%1").arg(m_descriptor);
+    return u"/proc/self/fd/%1"_s.arg(m_descriptor);
 }

@@ -4,14 +4,16 @@
 
 #include <private/qzipwriter_p.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 QByteArray packageBytes(const QByteArray& styles, const QByteArray& content)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QZipWriter writer(&buffer);
     writer.setCompressionPolicy(QZipWriter::NeverCompress);
-    writer.addFile(QStringLiteral("styles.xml"), styles);
-    writer.addFile(QStringLiteral("content.xml"), content);
+    writer.addFile(u"styles.xml"_s, styles);
+    writer.addFile(u"content.xml"_s, content);
     writer.close();
     return buffer.data();
 }

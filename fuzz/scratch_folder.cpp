@@ -7,11 +7,13 @@
 
 #include <cstdlib>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QString place()
 {
-    const QString memory = QStringLiteral("/dev/shm");
+    const QString memory = u"/dev/shm"_s;
     return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
 }
 
@@ -19,7 +21,7 @@ QString place()
 
 QString scratchPath(const char* name)
 {
-    static const QTemporaryDir folder(place() + QStringLiteral("/labelport-fuzz-XXXXXX"));
+    static const QTemporaryDir folder(place() + u"/labelport-fuzz-XXXXXX"_s);
     return folder.filePath(QString::fromLatin1(name));
 }
 

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// This host does not save labels. Only LegacyTemplateImporter::importLegacyLabel(), the import
 /// with a dialog, calls this class.
 class Files : public FileController
@@ -39,7 +41,7 @@ public:
     {
         m_properties.insert(name, value);
     }
-    [[nodiscard]] QList<QString> fields() const override { return {QStringLiteral("Value")}; }
+    [[nodiscard]] QList<QString> fields() const override { return {u"Value"_s}; }
     void setSelectedFields(const QList<QString>& /*fields*/) override {}
 
     [[nodiscard]] QString kind() const { return m_kind; }

@@ -4,6 +4,8 @@
 
 #include <QTextStream>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QString points(double length)
@@ -13,7 +15,7 @@ QString points(double length)
 
 QString points(const QSizeF& size)
 {
-    return QStringLiteral("%1 x %2 pt").arg(points(size.width()), points(size.height()));
+    return u"%1 x %2 pt"_s.arg(points(size.width()), points(size.height()));
 }
 
 /// One line of the list. The importer, too, gets only an Item* and finds the other bases with
@@ -22,9 +24,8 @@ QString described(const Item& item)
 {
     const auto& listed = dynamic_cast<const ListedItem&>(item);
     const QPointF position = dynamic_cast<const QGraphicsItem&>(item).pos();
-    return QStringLiteral("  %1 %2 at %3, %4")
-        .arg(listed.kind().leftJustified(18), points(item.getItemSize()), points(position.x()),
-             points(position.y()));
+    return u"  %1 %2 at %3, %4"_s.arg(listed.kind().leftJustified(18), points(item.getItemSize()),
+                                      points(position.x()), points(position.y()));
 }
 
 } // namespace
@@ -33,37 +34,37 @@ Item* Factory::create(KestTypes::ShapeType type)
 {
     switch (type) {
     case KestTypes::Picture:
-        return new Picture(QStringLiteral("picture"));
+        return new Picture(u"picture"_s);
     case KestTypes::Symbol:
-        return new Symbol(QStringLiteral("symbol"));
+        return new Symbol(u"symbol"_s);
     case KestTypes::SimpleText:
-        return new SimpleText(QStringLiteral("text"));
+        return new SimpleText(u"text"_s);
     case KestTypes::RichText:
-        return new RichText(QStringLiteral("rich text"));
+        return new RichText(u"rich text"_s);
     case KestTypes::Barcode:
-        return new Barcode(QStringLiteral("barcode"));
+        return new Barcode(u"barcode"_s);
     case KestTypes::Line:
-        return new Line(QStringLiteral("line"));
+        return new Line(u"line"_s);
     case KestTypes::Rectangle:
-        return new Rectangle(QStringLiteral("rectangle"));
+        return new Rectangle(u"rectangle"_s);
     case KestTypes::RoundedRectangle:
-        return new RoundedRectangle(QStringLiteral("rounded rectangle"));
+        return new RoundedRectangle(u"rounded rectangle"_s);
     case KestTypes::Ellipse:
-        return new Ellipse(QStringLiteral("ellipse"));
+        return new Ellipse(u"ellipse"_s);
     case KestTypes::Pie:
-        return new Pie(QStringLiteral("pie"));
+        return new Pie(u"pie"_s);
     case KestTypes::RightTriangle:
-        return new Polygon(QStringLiteral("right triangle"));
+        return new Polygon(u"right triangle"_s);
     case KestTypes::Triangle:
-        return new Polygon(QStringLiteral("triangle"));
+        return new Polygon(u"triangle"_s);
     case KestTypes::Diamond:
-        return new Polygon(QStringLiteral("diamond"));
+        return new Polygon(u"diamond"_s);
     case KestTypes::Pentagon:
-        return new Polygon(QStringLiteral("pentagon"));
+        return new Polygon(u"pentagon"_s);
     case KestTypes::Hexagon:
-        return new Polygon(QStringLiteral("hexagon"));
+        return new Polygon(u"hexagon"_s);
     case KestTypes::Octagon:
-        return new Polygon(QStringLiteral("octagon"));
+        return new Polygon(u"octagon"_s);
     }
     return nullptr; // A code of a later version: the importer omits the item.
 }

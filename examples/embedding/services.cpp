@@ -16,6 +16,8 @@
 
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 // ---- Capabilities of this host ----------------------------------------------------------
 
 bool CommonLists::isValidFamily(QString family)
@@ -58,7 +60,7 @@ double BasicConversions::normalizeAngle(double degrees)
 
 QRegularExpression WhiteSpace::getWhiteSpacesSplitRegex()
 {
-    return QRegularExpression(QStringLiteral("\\s+"));
+    return QRegularExpression(u"\\s+"_s);
 }
 
 // ---- Symbols ----------------------------------------------------------------------------

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 using namespace Qt::StringLiterals;
 
@@ -12,8 +14,8 @@ TEST(Progress, ShowsRateTimeLeftAndFailures)
 {
     const archive::Progress half{1000, 500, 0, 3, 10'000, {}, 0};
     EXPECT_EQ(archive::progressLine(half, 120),
-              QStringLiteral("[###############...............]  500/1000  50 files/s  0:10 left  "
-                             "3 failed"));
+              u"[###############...............]  500/1000  50 files/s  0:10 left  "
+              "3 failed"_s);
 }
 
 TEST(Progress, CountsSkippedFilesAsDoneButNotAsWork)

@@ -3,6 +3,8 @@
 #include "archive/run.h"
 #include "tests/archive/test_folder.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Runs archives in a folder of its own: inputs below "in", outputs below "out".
 class RunFixture : public ::testing::Test
 {
@@ -16,10 +18,7 @@ protected:
     /// with what went wrong behind it.
     QStringList run();
 
-    QByteArray output(const QString& name) const
-    {
-        return folder.read(QStringLiteral("out/") + name);
-    }
+    QByteArray output(const QString& name) const { return folder.read(u"out/"_s + name); }
     /// All files of the output folder that are not outputs, without journals.
     QStringList unexpectedFiles() const;
 

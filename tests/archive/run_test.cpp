@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QTimer>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 using namespace Qt::StringLiterals;
 
@@ -126,8 +128,8 @@ TEST_F(ArchiveRun, ReportsACrashOfALibraryThatDoesNotCheckItsMemory)
 TEST_F(ArchiveRun, GivesAFileUpWhoseWorkerTalksNonsense)
 {
     settings.command = {u"/bin/sh"_s,
-                        {u"-c"_s, QStringLiteral("echo +; while read job; do echo "
-                                                 "nonsense; done")}};
+                        {u"-c"_s, u"echo +; while read job; do echo "
+                                  "nonsense; done"_s}};
     input(u"a.cnv"_s, "ok");
     EXPECT_EQ(run(), lines({"crashed a.cnv: The worker process sent an invalid reply twice; please "
                             "report the file."}));

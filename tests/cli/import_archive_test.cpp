@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 using namespace Qt::StringLiterals;
 
@@ -17,10 +19,10 @@ TEST_F(ImportArchive, KeepsTheTreeBelowAFolder)
 {
     const Outcome outcome = labelport(import("old --output-dir new --to png,label"));
     EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
-    EXPECT_EQ(outcome.out, QStringLiteral("new/tags/asset.png\nnew/tags/asset.label\n"
-                                          "new/tags/more/sign.png\nnew/tags/more/sign.label\n"
-                                          "new/tags/shelf.png\nnew/tags/shelf.label\n"
-                                          "new/vial.png\nnew/vial.label\n"));
+    EXPECT_EQ(outcome.out, u"new/tags/asset.png\nnew/tags/asset.label\n"
+                           "new/tags/more/sign.png\nnew/tags/more/sign.label\n"
+                           "new/tags/shelf.png\nnew/tags/shelf.label\n"
+                           "new/vial.png\nnew/vial.label\n"_s);
     EXPECT_TRUE(outcome.err.contains(u"4 files imported."_s));
     EXPECT_TRUE(outcome.err.contains(u"Ignored 1 other file."_s));
     EXPECT_FALSE(QImage(path(u"new/tags/more/sign.png"_s)).isNull());

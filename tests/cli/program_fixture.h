@@ -14,6 +14,8 @@
 #include <ostream>
 #include <system_error>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Texts are shown as texts when a test fails.
 inline void PrintTo(const QString& text, std::ostream* stream)
 {
@@ -77,7 +79,7 @@ protected:
         copy("orvanta/asset_tag.qmtx", "old/tags/asset.qmtx");
         copy("orvanta/warning_sign.qmtx", "old/tags/more/sign.QMTX");
         copy("tavrel/shelf_label_2000021.roc", "old/tags/shelf.roc");
-        write(QStringLiteral("old/readme.txt"), "no label");
+        write(u"old/readme.txt"_s, "no label");
     }
 
     QStringList import(const char* arguments)

@@ -4,6 +4,8 @@
 
 #include <QImage>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 using namespace Qt::StringLiterals;
 
@@ -111,15 +113,14 @@ TEST_F(LabelportProgram, NumbersThePicturesOfASeries)
 TEST_F(LabelportProgram, NumbersFilesOnlyIfThereAreSeveral)
 {
     for (const char* records : {"5", "5-5"}) {
-        const Outcome outcome = labelport(
-            {QStringLiteral("import"), sample("orvanta/asset_tag.qmtx"),
-             QStringLiteral("--records"), QString::fromLatin1(records), QStringLiteral("--force")});
-        EXPECT_EQ(outcome.out, QStringLiteral("asset_tag.png\n")) << records;
+        const Outcome outcome =
+            labelport({u"import"_s, sample("orvanta/asset_tag.qmtx"), u"--records"_s,
+                       QString::fromLatin1(records), u"--force"_s});
+        EXPECT_EQ(outcome.out, u"asset_tag.png\n"_s) << records;
     }
     const Outcome outcome =
-        labelport({QStringLiteral("import"), sample("opendocument/sample_vial.odg"),
-                   QStringLiteral("--records"), QStringLiteral("all")});
-    EXPECT_EQ(outcome.out, QStringLiteral("sample_vial.png\n"));
+        labelport({u"import"_s, sample("opendocument/sample_vial.odg"), u"--records"_s, u"all"_s});
+    EXPECT_EQ(outcome.out, u"sample_vial.png\n"_s);
 }
 
 TEST_F(LabelportProgram, PutsRecordsOnSheets)
@@ -250,7 +251,7 @@ TEST_F(LabelportProgram, HandsATraceOverToTheTracer)
     const Outcome outcome = labelport({u"trace"_s, sample("opendocument/sample_vial.odg")});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_TRUE(outcome.out.startsWith(
-        QStringLiteral(R"({"trace":1,"file":"sample_vial.odg","reader":"opendocument"})")))
+        uR"({"trace":1,"file":"sample_vial.odg","reader":"opendocument"})"_s))
         << qPrintable(outcome.out.left(200));
     EXPECT_TRUE(outcome.out.endsWith(u"{\"result\":true}\n"_s));
     EXPECT_EQ(labelport({u"trace"_s, u"missing.odg"_s}).status, 1);

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// A label that is exported to gLabels.
 class Glabels : public testing::Test
 {
@@ -34,7 +36,7 @@ protected:
         workbench::ItemValues values = itemOf(KestTypes::SimpleText, {200, 20});
         values.pen = workbench::PenValues{Qt::black, 1.0, Qt::NoPen};
         values.fill = workbench::FillValues();
-        values.font = workbench::FontValues{QStringLiteral("Liberation Sans"), 10, true};
+        values.font = workbench::FontValues{u"Liberation Sans"_s, 10, true};
         values.textStyle = workbench::TextStyleValues{Qt::blue, Qt::AlignRight | Qt::AlignBottom};
         values.text = workbench::TextValues{text, {}};
         values.textLabel = workbench::TextLabelValues{{200, 20}};
@@ -52,16 +54,16 @@ protected:
 
     int addCounter(int end)
     {
-        const int id = sources.createDatasource(QStringLiteral("SequenceDatasource"));
-        sources.getDatasource(id)->setDatasourceProperty(QStringLiteral("Start"), 1);
-        sources.getDatasource(id)->setDatasourceProperty(QStringLiteral("End"), end);
+        const int id = sources.createDatasource(u"SequenceDatasource"_s);
+        sources.getDatasource(id)->setDatasourceProperty(u"Start"_s, 1);
+        sources.getDatasource(id)->setDatasourceProperty(u"End"_s, end);
         return id;
     }
 
     int addList(const QStringList& texts)
     {
-        const int id = sources.createDatasource(QStringLiteral("TextListDatasource"));
-        sources.getDatasource(id)->setDatasourceProperty(QStringLiteral("TextList"), texts);
+        const int id = sources.createDatasource(u"TextListDatasource"_s);
+        sources.getDatasource(id)->setDatasourceProperty(u"TextList"_s, texts);
         return id;
     }
 
@@ -76,8 +78,8 @@ protected:
         canvas.showRecord(0, [this](int id, qint64 record, const QStringList& fields) {
             return sources.recordText(id, record, fields);
         });
-        exporting::GlabelsLabel label = exporting::toGlabels(
-            canvas, sources, {QStringLiteral("asset"), QStringLiteral("asset.csv"), sheet});
+        exporting::GlabelsLabel label =
+            exporting::toGlabels(canvas, sources, {u"asset"_s, u"asset.csv"_s, sheet});
         QXmlStreamReader reader(label.label);
         while (!reader.atEnd()) {
             reader.readNext();

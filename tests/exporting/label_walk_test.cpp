@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using namespace workbench;
@@ -72,13 +74,13 @@ TEST_F(LabelWalk, MapsTheBoxToThePage)
 
 TEST_F(LabelWalk, ShowsTheContentOfTheRecord)
 {
-    const int id = sources.createDatasource(QStringLiteral("SequenceDatasource"));
-    sources.getDatasource(id)->setDatasourceProperty(QStringLiteral("Start"), 7);
-    sources.getDatasource(id)->setDatasourceProperty(QStringLiteral("End"), 9);
+    const int id = sources.createDatasource(u"SequenceDatasource"_s);
+    sources.getDatasource(id)->setDatasourceProperty(u"Start"_s, 7);
+    sources.getDatasource(id)->setDatasourceProperty(u"End"_s, 9);
     ItemValues text = itemAt(KestTypes::RichText, {0, 0}, {100, 20});
-    text.text = TextValues{QStringLiteral("own"), {}};
+    text.text = TextValues{u"own"_s, {}};
     canvas.addItem(text);
-    text.text = TextValues{{}, QStringLiteral("<b>own</b>")};
+    text.text = TextValues{{}, u"<b>own</b>"_s};
     text.datasource = DatasourceValues{id, {}};
     canvas.addItem(text);
     ItemValues barcode = itemAt(KestTypes::Barcode, {0, 0}, {100, 20});
@@ -89,23 +91,23 @@ TEST_F(LabelWalk, ShowsTheContentOfTheRecord)
     const auto items = walk(1);
     ASSERT_EQ(items.size(), 3);
     EXPECT_FALSE(items.at(0).isBound);
-    EXPECT_EQ(items.at(0).values.text->text, QStringLiteral("own"));
+    EXPECT_EQ(items.at(0).values.text->text, u"own"_s);
     EXPECT_TRUE(items.at(1).isBound);
-    EXPECT_EQ(items.at(1).values.text, (TextValues{QStringLiteral("8"), {}}));
-    EXPECT_EQ(items.at(2).values.barcode->content, QStringLiteral("8"));
+    EXPECT_EQ(items.at(1).values.text, (TextValues{u"8"_s, {}}));
+    EXPECT_EQ(items.at(2).values.barcode->content, u"8"_s);
 }
 
 TEST_F(LabelWalk, KeepsTheContentOfAnItemWithoutItsSource)
 {
     ItemValues text = itemAt(KestTypes::SimpleText, {0, 0}, {100, 20});
-    text.text = TextValues{QStringLiteral("own"), {}};
+    text.text = TextValues{u"own"_s, {}};
     text.datasource = DatasourceValues{99, {}};
     canvas.addItem(text);
 
     const auto items = walk();
     ASSERT_EQ(items.size(), 1);
     EXPECT_FALSE(items.at(0).isBound);
-    EXPECT_EQ(items.at(0).values.text->text, QStringLiteral("own"));
+    EXPECT_EQ(items.at(0).values.text->text, u"own"_s);
 }
 
 } // namespace

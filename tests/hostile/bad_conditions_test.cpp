@@ -18,6 +18,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 using namespace Qt::StringLiterals;
 
@@ -166,8 +168,8 @@ TEST_F(BadConditions, NamesThatSpanLines)
 TEST_F(BadConditions, NamesThatAreNotText)
 {
     // No QString can hold such a name: a shell makes it.
-    const QString script = QStringLiteral("name=$(printf 'odd\\377.qmtx'); cp good.qmtx \"$name\"; "
-                                          "exec \"$0\" import \"$name\" good.qmtx --dpi 50");
+    const QString script = u"name=$(printf 'odd\\377.qmtx'); cp good.qmtx \"$name\"; "
+                           "exec \"$0\" import \"$name\" good.qmtx --dpi 50"_s;
     const Outcome outcome = run(u"sh"_s, {u"-c"_s, script, QStringLiteral(LABELPORT_PROGRAM)});
     EXPECT_EQ(outcome.status, 0) << outcome.err.constData();
     EXPECT_EQ(outcome.out, "good.png\nodd\xFF.png\n");

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr char Svg[] = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'>"
@@ -32,12 +34,12 @@ QByteArray canvasFile()
         writer.add(shape);
     }
     canvas::TextRecord text;
-    text.content = QStringLiteral("Net weight");
-    text.datasourceKey = QStringLiteral("_SEQUENCE");
+    text.content = u"Net weight"_s;
+    text.datasourceKey = u"_SEQUENCE"_s;
     writer.add(text);
     canvas::BarcodeRecord barcode;
-    barcode.content = QStringLiteral("123");
-    barcode.datasourceKey = QStringLiteral("_DATE");
+    barcode.content = u"123"_s;
+    barcode.datasourceKey = u"_DATE"_s;
     writer.add(barcode);
     canvas::SymbolRecord symbol;
     symbol.svg = Svg;
@@ -103,8 +105,8 @@ QByteArray drawing()
 QByteArray openDocumentFile()
 {
     Package package(stylesXml(), drawing());
-    package.add(QStringLiteral("Pictures/1.png"), encoded(smallImage()));
-    package.add(QStringLiteral("Pictures/1.svg"), Svg);
+    package.add(u"Pictures/1.png"_s, encoded(smallImage()));
+    package.add(u"Pictures/1.svg"_s, Svg);
     return package.bytes();
 }
 
@@ -139,7 +141,7 @@ CompleteLabels::CompleteLabels()
 
 QString CompleteLabels::path(ReaderKind reader) const
 {
-    return m_folder.filePath(QStringLiteral("label.") + QLatin1String(suffixOf(reader)));
+    return m_folder.filePath(u"label."_s + QLatin1String(suffixOf(reader)));
 }
 
 CompleteLabels::Counts CompleteLabels::items(ReaderKind reader)

@@ -19,6 +19,8 @@
 
 #include <malloc.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // The memory held by a sanitizer's allocator says nothing about ours.
@@ -44,19 +46,19 @@ void runEventLoopOnce()
 /// was opened, and how far the process-wide number of items had come.
 QByteArray comparable(const QByteArray& trace, qint64 firstItemNumber)
 {
-    static const QRegularExpression database(QStringLiteral("symboldb:\\d+"));
-    static const QRegularExpression zValue(QStringLiteral("\"z\":([-+.e0-9]+)"));
+    static const QRegularExpression database(u"symboldb:\\d+"_s);
+    static const QRegularExpression zValue(u"\"z\":([-+.e0-9]+)"_s);
     QByteArrayList lines;
     for (const QByteArray& line : trace.split('\n')) {
         if (line.contains("\"setDatabasePath\"")) {
             continue;
         }
         QString text = QString::fromUtf8(line);
-        text.replace(database, QStringLiteral("symboldb"));
+        text.replace(database, u"symboldb"_s);
         const QRegularExpressionMatch match = zValue.match(text);
         if (match.hasMatch()) {
             const double z = match.captured(1).toDouble() - double(firstItemNumber);
-            text.replace(zValue, QStringLiteral("\"z\":%1").arg(z, 0, 'g', 9));
+            text.replace(zValue, u"\"z\":%1"_s.arg(z, 0, 'g', 9));
         }
         lines.append(text.toUtf8());
     }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // Where the damage begins: after the bytes that identify the format.
@@ -14,10 +16,8 @@ constexpr qsizetype StartKept = 8;
 QStringList samplesIn(const QString& folder)
 {
     QStringList files;
-    QDirIterator walk(folder,
-                      {QStringLiteral("*.cnv"), QStringLiteral("*.roc"), QStringLiteral("*.qmtx"),
-                       QStringLiteral("*.od?")},
-                      QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator walk(folder, {u"*.cnv"_s, u"*.roc"_s, u"*.qmtx"_s, u"*.od?"_s}, QDir::Files,
+                      QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         files.append(walk.next());
     }
@@ -50,9 +50,9 @@ ManyLabels::ManyLabels(const QString& samples)
     for (const QString& path : files) {
         addWithDamage(path);
     }
-    add(QStringLiteral("empty.cnv"), {});
-    add(QStringLiteral("empty.odg"), {});
-    add(QStringLiteral("other.qmtx"), read(files.first()));
+    add(u"empty.cnv"_s, {});
+    add(u"empty.odg"_s, {});
+    add(u"other.qmtx"_s, read(files.first()));
 }
 
 void ManyLabels::add(const QString& name, const QByteArray& bytes)
@@ -69,7 +69,7 @@ void ManyLabels::addWithDamage(const QString& path)
     const QByteArray whole = read(path);
     const QString name = QFileInfo(path).fileName();
     add(name, whole);
-    add(QStringLiteral("cut_") + name, whole.left(whole.size() * 2 / 3));
-    add(QStringLiteral("spoilt_") + name, changed(whole, m_noise, 1));
-    add(QStringLiteral("wrecked_") + name, changed(whole, m_noise, 20));
+    add(u"cut_"_s + name, whole.left(whole.size() * 2 / 3));
+    add(u"spoilt_"_s + name, changed(whole, m_noise, 1));
+    add(u"wrecked_"_s + name, changed(whole, m_noise, 20));
 }

@@ -11,6 +11,8 @@
 
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 bool paintDrawing(const QByteArray& bytes, QPainter& painter)
@@ -41,6 +43,6 @@ int main(int argc, char** argv)
     const QByteArray bytes = file.readAll();
     QImage image(100, 100, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
-    const bool isDrawing = file.fileName().endsWith(QStringLiteral(".svg"));
+    const bool isDrawing = file.fileName().endsWith(u".svg"_s);
     return (isDrawing ? paintDrawing(bytes, painter) : paintText(bytes, painter)) ? 0 : 1;
 }

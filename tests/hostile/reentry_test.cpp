@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class Reentry : public testing::Test
@@ -24,8 +26,8 @@ protected:
     Reentry()
     {
         canvas::TextRecord text;
-        text.header.width = QStringLiteral("2"); // stretched, which gives a note in a box
-        text.content = QStringLiteral("Net weight");
+        text.header.width = u"2"_s; // stretched, which gives a note in a box
+        text.content = u"Net weight"_s;
         QFile file(withBox);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(CanvasWriter(2000024).start().add(text).bytes());
@@ -34,11 +36,11 @@ protected:
 
     [[nodiscard]] int refusals() const
     {
-        return int(log.messages().filter(QStringLiteral("while another one runs")).size());
+        return int(log.messages().filter(u"while another one runs"_s).size());
     }
 
     QTemporaryDir folder;
-    const QString withBox = folder.filePath(QStringLiteral("label.cnv"));
+    const QString withBox = folder.filePath(u"label.cnv"_s);
     CapturedLog log;
     TestHost host;
     std::unique_ptr<LegacyTemplateImporter> importer =
@@ -56,7 +58,7 @@ TEST_F(Reentry, AnImportFromThePopupIsRefused)
     EXPECT_FALSE(nested);
     EXPECT_EQ(refusals(), 1);
     EXPECT_EQ(host.itemCount(), 1);
-    EXPECT_EQ(host.count(QStringLiteral("completeCanvasLoading")), 1);
+    EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 1);
 }
 
 TEST_F(Reentry, AnImportFromAHostsOwnCallIsRefusedWhateverTheFormat)
@@ -123,8 +125,7 @@ TEST_F(Reentry, TheImporterMayGoWhenTheBoxIsShown)
                      });
     EXPECT_FALSE(importer->importLabelFromTavrelFile(withBox));
     EXPECT_TRUE(box.isNull()) << "the box was the importer's";
-    EXPECT_EQ(host.count(QStringLiteral("completeCanvasLoading")), 0)
-        << "the canvas may be gone, too";
+    EXPECT_EQ(host.count(u"completeCanvasLoading"_s), 0) << "the canvas may be gone, too";
 }
 
 TEST_F(Reentry, TheImporterMayGoWhenAnEarlierBoxIsWithdrawn)

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 void whenDialogWaits(const std::function<void(QFileDialog&)>& act)
@@ -29,7 +31,7 @@ void whenDialogWaits(const std::function<void(QFileDialog&)>& act)
 void FileDialogDriver::pick(const QString& fileName)
 {
     whenDialogWaits([fileName](QFileDialog& dialog) {
-        auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        auto* edit = dialog.findChild<QLineEdit*>(u"fileNameEdit"_s);
         ASSERT_NE(edit, nullptr);
         edit->setText(fileName);
         static_cast<QDialog&>(dialog).accept();

@@ -7,21 +7,23 @@
 #include <QFileDialog>
 #include <QTranslator>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using ImportCommand = ImporterTest;
 
 TEST_F(ImportCommand, TakesOneStepAfterTheOther)
 {
-    FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
-    m_importer->importLegacyLabel(QStringLiteral("open.label"));
+    FileDialogDriver::pick(file(u"shelf.cnv"_s));
+    m_importer->importLegacyLabel(u"open.label"_s);
 
     const QStringList expected{
-        QStringLiteral("asked about open.label, may discard"),
-        QStringLiteral("label type ''"),
-        QStringLiteral("tavrel made"),
-        QStringLiteral("tavrel reads shelf.cnv"),
-        QStringLiteral("save 'shelf' in %1 as type ''").arg(folder()),
+        u"asked about open.label, may discard"_s,
+        u"label type ''"_s,
+        u"tavrel made"_s,
+        u"tavrel reads shelf.cnv"_s,
+        u"save 'shelf' in %1 as type ''"_s.arg(folder()),
     };
     EXPECT_EQ(journal().events, expected);
     EXPECT_EQ(m_fileController.askedAbout, canvasModel());
@@ -30,44 +32,44 @@ TEST_F(ImportCommand, TakesOneStepAfterTheOther)
 
 TEST_F(ImportCommand, RemembersTheFolderBetweenTheLabelTypeAndTheReader)
 {
-    QSettings().setValue(QStringLiteral("dir/import"), QStringLiteral("/before"));
-    FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
+    QSettings().setValue(u"dir/import"_s, u"/before"_s);
+    FileDialogDriver::pick(file(u"shelf.cnv"_s));
     m_importer->importLegacyLabel(QString());
-    EXPECT_EQ(journal().folderAtLabelType, QVariant(QStringLiteral("/before")));
+    EXPECT_EQ(journal().folderAtLabelType, QVariant(u"/before"_s));
     EXPECT_EQ(journal().folderAtReading, QVariant(folder()));
 }
 
 TEST_F(ImportCommand, StopsWhenTheUserKeepsTheChanges)
 {
     m_fileController.mayGoOn = false;
-    m_importer->importLegacyLabel(QStringLiteral("open.label"));
+    m_importer->importLegacyLabel(u"open.label"_s);
 
-    EXPECT_EQ(journal().events, QStringList{QStringLiteral("asked about open.label, may discard")});
+    EXPECT_EQ(journal().events, QStringList{u"asked about open.label, may discard"_s});
     EXPECT_FALSE(rememberedFolder().isValid());
 }
 
 TEST_F(ImportCommand, StopsWhenTheDialogIsCanceled)
 {
-    QSettings().setValue(QStringLiteral("dir/import"), QStringLiteral("/before"));
+    QSettings().setValue(u"dir/import"_s, u"/before"_s);
     FileDialogDriver::cancel();
     m_importer->importLegacyLabel(QString());
 
-    EXPECT_EQ(journal().events, QStringList{QStringLiteral("asked about , may discard")});
-    EXPECT_EQ(rememberedFolder(), QVariant(QStringLiteral("/before")));
+    EXPECT_EQ(journal().events, QStringList{u"asked about , may discard"_s});
+    EXPECT_EQ(rememberedFolder(), QVariant(u"/before"_s));
 }
 
 TEST_F(ImportCommand, SavesNothingWhenTheReaderFails)
 {
     journal().readersSucceed = false;
-    FileDialogDriver::pick(file(QStringLiteral("broken.qmtx")));
+    FileDialogDriver::pick(file(u"broken.qmtx"_s));
     m_importer->importLegacyLabel(QString());
 
     // The type is announced and the folder remembered all the same.
     const QStringList expected{
-        QStringLiteral("asked about , may discard"),
-        QStringLiteral("label type ''"),
-        QStringLiteral("orvanta made"),
-        QStringLiteral("orvanta reads broken.qmtx"),
+        u"asked about , may discard"_s,
+        u"label type ''"_s,
+        u"orvanta made"_s,
+        u"orvanta reads broken.qmtx"_s,
     };
     EXPECT_EQ(journal().events, expected);
     EXPECT_EQ(rememberedFolder(), QVariant(folder()));
@@ -97,9 +99,9 @@ TEST_F(ImportCommand, ChoosesTheReaderByAllSuffixesAndSavesWithoutTheLast)
         FileDialogDriver::pick(file(name));
         m_importer->importLegacyLabel(QString());
 
-        const QString read = QStringLiteral("%1 reads %2").arg(QLatin1String(row.reader), name);
+        const QString read = u"%1 reads %2"_s.arg(QLatin1String(row.reader), name);
         const QString saved =
-            QStringLiteral("save '%1' in %2 as type ''").arg(QLatin1String(row.baseName), folder());
+            u"save '%1' in %2 as type ''"_s.arg(QLatin1String(row.baseName), folder());
         ASSERT_GE(journal().events.size(), 2);
         EXPECT_EQ(journal().events.at(journal().events.size() - 2), read);
         EXPECT_EQ(journal().events.last(), saved);
@@ -114,14 +116,14 @@ TEST_F(ImportCommand, OffersOneFilterForEachFormatAndPreselectsAll)
     FileDialogDriver::inspect([&](const QFileDialog& dialog) {
         looked = true;
         const QStringList filters{
-            QStringLiteral("Legacy Tavrel File (*.cnv *.roc)"),
-            QStringLiteral("Orvanta File (*.qmtx)"),
-            QStringLiteral("OpenOffice File (*.odt *.odg)"),
-            QStringLiteral("All Legacy Files (*.cnv *.roc *.qmtx *.odt *.odg)"),
+            u"Legacy Tavrel File (*.cnv *.roc)"_s,
+            u"Orvanta File (*.qmtx)"_s,
+            u"OpenOffice File (*.odt *.odg)"_s,
+            u"All Legacy Files (*.cnv *.roc *.qmtx *.odt *.odg)"_s,
         };
         EXPECT_EQ(dialog.nameFilters(), filters);
         EXPECT_EQ(dialog.selectedNameFilter(), filters.last());
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Import Label"));
+        EXPECT_EQ(dialog.windowTitle(), u"Import Label"_s);
         EXPECT_EQ(dialog.directory().absolutePath(), defaultImportFolder());
         EXPECT_EQ(dialog.parentWidget(), nullptr);
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
@@ -134,7 +136,7 @@ TEST_F(ImportCommand, OffersOneFilterForEachFormatAndPreselectsAll)
 
 TEST_F(ImportCommand, AlwaysStartsInTheDefaultFolder)
 {
-    FileDialogDriver::pick(file(QStringLiteral("shelf.cnv")));
+    FileDialogDriver::pick(file(u"shelf.cnv"_s));
     m_importer->importLegacyLabel(QString());
     ASSERT_NE(folder(), defaultImportFolder());
 
@@ -189,22 +191,21 @@ TEST_F(ImportCommand, UsesTheLanguageOfTheHostsTranslator)
 
     // The patterns are put in after the translation, and stay as they are.
     EXPECT_EQ(filters, (QStringList{
-                           QStringLiteral("LEGACY TAVREL FILE (*.cnv *.roc)"),
-                           QStringLiteral("ORVANTA FILE (*.qmtx)"),
-                           QStringLiteral("OPENOFFICE FILE (*.odt *.odg)"),
-                           QStringLiteral("ALL LEGACY FILES (*.cnv *.roc *.qmtx *.odt *.odg)"),
+                           u"LEGACY TAVREL FILE (*.cnv *.roc)"_s,
+                           u"ORVANTA FILE (*.qmtx)"_s,
+                           u"OPENOFFICE FILE (*.odt *.odg)"_s,
+                           u"ALL LEGACY FILES (*.cnv *.roc *.qmtx *.odt *.odg)"_s,
                        }));
     EXPECT_EQ(selected, filters.last());
-    EXPECT_EQ(title, QStringLiteral("IMPORT LABEL"));
+    EXPECT_EQ(title, u"IMPORT LABEL"_s);
     for (const char* text : {"All Legacy Files %1", "OpenOffice File %1", "Orvanta File %1",
                              "Legacy Tavrel File %1"}) {
-        EXPECT_TRUE(shouter.requests.contains({QStringLiteral("QObject"), QLatin1String(text),
-                                               QStringLiteral("Filter for Open File dialog")}))
+        EXPECT_TRUE(shouter.requests.contains(
+            {u"QObject"_s, QLatin1String(text), u"Filter for Open File dialog"_s}))
             << text;
     }
     EXPECT_TRUE(
-        shouter.requests.contains({QStringLiteral("QObject"), QStringLiteral("Import Label"),
-                                   QStringLiteral("Dialog to open a file.")}));
+        shouter.requests.contains({u"QObject"_s, u"Import Label"_s, u"Dialog to open a file."_s}));
 }
 
 } // namespace

@@ -13,6 +13,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// An importer between a host and readers that only take notes, and settings of its own.
 class ImporterTest : public ::testing::Test
 {
@@ -21,9 +23,9 @@ protected:
     {
         journal() = {};
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                           m_folder.filePath(QStringLiteral("settings")));
-        QDir(m_folder.path()).mkdir(QStringLiteral("default"));
-        defaultImportFolder() = m_folder.filePath(QStringLiteral("default"));
+                           m_folder.filePath(u"settings"_s));
+        QDir(m_folder.path()).mkdir(u"default"_s);
+        defaultImportFolder() = m_folder.filePath(u"default"_s);
     }
 
     /// An empty file in the test's folder; its whole name.
@@ -35,10 +37,7 @@ protected:
         return path;
     }
     [[nodiscard]] QString folder() const { return QDir(m_folder.path()).absolutePath(); }
-    [[nodiscard]] static QVariant rememberedFolder()
-    {
-        return QSettings().value(QStringLiteral("dir/import"));
-    }
+    [[nodiscard]] static QVariant rememberedFolder() { return QSettings().value(u"dir/import"_s); }
 
     // Never looked into by the importer, so any address does.
     [[nodiscard]] TalCanvasModel* canvasModel() { return reinterpret_cast<TalCanvasModel*>(this); }

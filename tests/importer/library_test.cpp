@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class ImporterLibrary : public ::testing::Test
@@ -71,7 +73,7 @@ TEST_F(ImporterLibrary, TakesTheServicesOutOfTheProgram)
 TEST_F(ImporterLibrary, ContinuesAfterFilesThatFail)
 {
     const QTemporaryDir folder;
-    const QString missing = folder.filePath(QStringLiteral("missing"));
+    const QString missing = folder.filePath(u"missing"_s);
     EXPECT_FALSE(m_importer.importLabelFromTavrelFile(missing));
     EXPECT_FALSE(m_importer.importLabelFromOrvantaFile(missing));
     EXPECT_FALSE(m_importer.importLabelFromOpenOfficeFile(missing));
@@ -82,7 +84,7 @@ TEST_F(ImporterLibrary, BringsItsTablesWithIt)
 {
     // Resources of an object inside the library; a program that never names them gets them.
     for (const char* table : {"LabelType.csv", "RibbonType.csv", "color1.csv"}) {
-        const QString path = QStringLiteral(":/tables/csv/") + QLatin1String(table);
+        const QString path = u":/tables/csv/"_s + QLatin1String(table);
         EXPECT_TRUE(QFile::exists(path)) << table;
     }
 }

@@ -6,6 +6,8 @@
 
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct ChoiceRow
@@ -63,7 +65,7 @@ TEST(ReaderChoice, ofToolsGoesByTheLastSuffix)
     for (const ChoiceRow& row : rows) {
         EXPECT_EQ(readerByNameOrContent(QLatin1String(row.fileName)), row.reader) << row.fileName;
     }
-    EXPECT_EQ(readerForFile(QStringLiteral("template.ott")), ReaderKind::Tavrel)
+    EXPECT_EQ(readerForFile(u"template.ott"_s), ReaderKind::Tavrel)
         << "the import command does not know templates";
 }
 
@@ -78,7 +80,7 @@ TEST(ReaderChoice, ofToolsGoesByTheContentIfTheSuffixIsUnknown)
         {QByteArray("\0\0\0\1", 4), ReaderKind::Tavrel},
         {"", ReaderKind::Tavrel}};
     for (const auto& [bytes, reader] : contents) {
-        QFile file(folder.filePath(QStringLiteral("label.v2")));
+        QFile file(folder.filePath(u"label.v2"_s));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
         file.close();
@@ -92,7 +94,7 @@ TEST(ReaderChoice, knowsReadersByTheirNames)
         EXPECT_EQ(readerOfName(reader.name), reader.kind);
         EXPECT_EQ(readerOf(reader.kind).name, reader.name);
     }
-    EXPECT_FALSE(readerOfName(QStringLiteral("qmtx")));
+    EXPECT_FALSE(readerOfName(u"qmtx"_s));
 }
 
 } // namespace

@@ -7,15 +7,17 @@
 
 #include <stdexcept>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using ReaderLife = ImporterTest;
 
-const QString File = QStringLiteral("file");
+const QString File = u"file"_s;
 
 QStringList made(const QStringList& events)
 {
-    return events.filter(QStringLiteral(" made"));
+    return events.filter(u" made"_s);
 }
 
 TEST_F(ReaderLife, BeginsWithTheFirstFile)
@@ -23,7 +25,7 @@ TEST_F(ReaderLife, BeginsWithTheFirstFile)
     EXPECT_EQ(journal().events, QStringList());
 
     EXPECT_TRUE(m_importer->importLabelFromOpenOfficeFile(File));
-    EXPECT_EQ(made(journal().events), QStringList{QStringLiteral("opendocument made")});
+    EXPECT_EQ(made(journal().events), QStringList{u"opendocument made"_s});
     EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
     EXPECT_TRUE(m_importer->importLabelFromTavrelFile(File));
     EXPECT_EQ(made(journal().events).size(), 3);
@@ -89,9 +91,9 @@ TEST_F(ReaderLife, EndsInAFixedOrder)
     journal().events.clear();
     m_importer.reset();
     EXPECT_EQ(journal().events, (QStringList{
-                                    QStringLiteral("tavrel destroyed"),
-                                    QStringLiteral("orvanta destroyed"),
-                                    QStringLiteral("opendocument destroyed"),
+                                    u"tavrel destroyed"_s,
+                                    u"orvanta destroyed"_s,
+                                    u"opendocument destroyed"_s,
                                 }));
 }
 
@@ -100,7 +102,7 @@ TEST_F(ReaderLife, EndsOnlyForReadersThatWereMade)
     EXPECT_TRUE(m_importer->importLabelFromOrvantaFile(File));
     journal().events.clear();
     m_importer.reset();
-    EXPECT_EQ(journal().events, QStringList{QStringLiteral("orvanta destroyed")});
+    EXPECT_EQ(journal().events, QStringList{u"orvanta destroyed"_s});
 }
 
 TEST_F(ReaderLife, AReaderThatCouldNotBeMadeIsTriedAgain)
@@ -129,7 +131,7 @@ TEST_F(ReaderLife, AnImportWithinAnImportReadsNothingAndReturnsFalse)
         journal().duringImport = [&] { nested = (m_importer.get()->*import)(File); };
         EXPECT_TRUE((m_importer.get()->*import)(File));
         EXPECT_FALSE(nested);
-        EXPECT_EQ(journal().events.filter(QStringLiteral(" reads ")).size(), 1);
+        EXPECT_EQ(journal().events.filter(u" reads "_s).size(), 1);
         EXPECT_TRUE((m_importer.get()->*import)(File)) << "not busy afterwards";
     }
 }

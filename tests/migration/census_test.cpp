@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -31,26 +33,26 @@ QByteArray canvasOfAll(quint32 version)
     header.preview = QImage(3, 3, QImage::Format_RGB32);
     header.preview.fill(Qt::blue);
     canvas::DatabaseList databases;
-    databases.entries = {{QStringLiteral("a.csv"), 1}, {QStringLiteral("b.csv"), 2}};
+    databases.entries = {{u"a.csv"_s, 1}, {u"b.csv"_s, 2}};
     writer.add(header).add(canvas::CanvasRecord()).add(canvas::SequenceRecord()).add(databases);
     canvas::TextRecord text;
-    text.content = QStringLiteral("Text %_DATE%");
+    text.content = u"Text %_DATE%"_s;
     text.datasourceText = text.content;
-    text.datasourceKey = QStringLiteral("_SPECIAL");
+    text.datasourceKey = u"_SPECIAL"_s;
     canvas::BarcodeRecord barcode;
-    barcode.content = QStringLiteral("123");
-    barcode.unusedText = QStringLiteral("unused");
-    barcode.numericText = QStringLiteral("17");
+    barcode.content = u"123"_s;
+    barcode.unusedText = u"unused"_s;
+    barcode.numericText = u"17"_s;
     canvas::PictureRecord picture;
     picture.picture = QImage(2, 2, QImage::Format_RGB32);
     picture.picture.fill(Qt::red);
     canvas::SymbolRecord symbol;
-    symbol.name = QStringLiteral("star.svg");
+    symbol.name = u"star.svg"_s;
     symbol.svg = "<svg/>";
     canvas::ShapeRecord shape;
-    shape.name = QStringLiteral("Oval");
+    shape.name = u"Oval"_s;
     canvas::ShapeRecord line;
-    line.name = QStringLiteral("VerticalLine");
+    line.name = u"VerticalLine"_s;
     writer.add(text).code(canvas::EmptyCode).add(barcode).add(picture).add(symbol);
     writer.add(barcode, canvas::TwoDimensionalBarcodeCode).add(shape).add(line).add(text);
     return writer.bytes();
@@ -145,9 +147,9 @@ TEST(SavedLabelCensus, CountsTheItems)
 TEST(Census, ReadsNoFolderAndNoDevice)
 {
     QString unknown;
-    EXPECT_TRUE(bytesToCount(QStringLiteral("/dev/zero"), unknown).isEmpty());
+    EXPECT_TRUE(bytesToCount(u"/dev/zero"_s, unknown).isEmpty());
     EXPECT_FALSE(unknown.isEmpty());
     unknown.clear();
-    EXPECT_TRUE(bytesToCount(QStringLiteral("/"), unknown).isEmpty());
+    EXPECT_TRUE(bytesToCount(u"/"_s, unknown).isEmpty());
     EXPECT_FALSE(unknown.isEmpty());
 }

@@ -86,7 +86,7 @@ TEST(CheckRepaired, FindsAColorThatRepairDidNotSet)
 TEST(CheckRepaired, AcceptsABoxInFrontOfItsDrawing)
 {
     const Document document =
-        odg(QByteArray(kPlainRect).replace("<draw:rect", "<draw:rect draw:style-name=\"S\""),
+        odg(QByteArray(PlainRect).replace("<draw:rect", "<draw:rect draw:style-name=\"S\""),
             {.automaticStyles = "<style:style style:name=\"S\" style:family=\"graphic\">"
                                 "<style:graphic-properties draw:stroke=\"none\" "
                                 "draw:fill=\"bitmap\" draw:fill-color=\"#ffffff\"/>"

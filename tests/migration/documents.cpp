@@ -9,9 +9,11 @@
 
 #include <private/qzipwriter_p.h>
 
-const QByteArray kPlainRect = "<draw:rect svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
-                              "svg:height=\"1in\"/>";
-const QByteArray kPlainLabel =
+using namespace Qt::Literals::StringLiterals;
+
+const QByteArray PlainRect = "<draw:rect svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+                             "svg:height=\"1in\"/>";
+const QByteArray PlainLabel =
     "<transparent_label><printable_control><text>Plain</text><bounds><x>220</x><y>220</y>"
     "<w>100</w><h>40</h></bounds><font><family>Liberation Sans</family><size>10</size></font>"
     "</printable_control></transparent_label>";
@@ -59,9 +61,9 @@ QByteArray packageOf(const QByteArray& body, const DocumentParts& parts)
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QZipWriter zip(&buffer);
-    zip.addFile(QStringLiteral("styles.xml"), styles);
-    zip.addFile(QStringLiteral("content.xml"), content);
-    zip.addFile(QStringLiteral("Pictures/good.png"), pngOf());
+    zip.addFile(u"styles.xml"_s, styles);
+    zip.addFile(u"content.xml"_s, content);
+    zip.addFile(u"Pictures/good.png"_s, pngOf());
     zip.close();
     return buffer.data();
 }
@@ -131,13 +133,12 @@ QString codesOf(const migration::FileReport& report)
     QStringList codes;
     for (const QList<migration::Finding>* list : {&report.lost, &report.changed}) {
         for (const migration::Finding& finding : *list) {
-            codes.append(QStringLiteral("%1 ×%2 [%3]")
-                             .arg(finding.code)
+            codes.append(u"%1 ×%2 [%3]"_s.arg(finding.code)
                              .arg(finding.count)
-                             .arg(finding.details.join(QStringLiteral(", "))));
+                             .arg(finding.details.join(u", "_s)));
         }
     }
-    return codes.join(QStringLiteral("; "));
+    return codes.join(u"; "_s);
 }
 
 QByteArray pngOf(int width, int height)

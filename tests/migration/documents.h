@@ -10,6 +10,8 @@
 
 #include <functional>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Small documents of all formats, and the reports on them.
 
 /// Optional parts of an OpenDocument package besides its body.
@@ -39,25 +41,25 @@ struct Document
 
 [[nodiscard]] inline Document odg(const QByteArray& shapes, const DocumentParts& parts = {})
 {
-    return {QStringLiteral("drawing.odg"), drawingOf(shapes, parts)};
+    return {u"drawing.odg"_s, drawingOf(shapes, parts)};
 }
 [[nodiscard]] inline Document odt(const QByteArray& elements, const DocumentParts& parts = {})
 {
-    return {QStringLiteral("text.odt"), textOf(elements, parts)};
+    return {u"text.odt"_s, textOf(elements, parts)};
 }
 [[nodiscard]] inline Document qmtx(const QByteArray& controls)
 {
-    return {QStringLiteral("label.qmtx"), controlsOf(controls)};
+    return {u"label.qmtx"_s, controlsOf(controls)};
 }
 [[nodiscard]] inline Document cnv(const QByteArray& bytes)
 {
-    return {QStringLiteral("canvas.cnv"), bytes};
+    return {u"canvas.cnv"_s, bytes};
 }
 
 /// A rectangle of an inch on the page of a drawing, which is imported completely.
-extern const QByteArray kPlainRect;
+extern const QByteArray PlainRect;
 /// A text on the page of an XML label, which is imported completely.
-extern const QByteArray kPlainLabel;
+extern const QByteArray PlainLabel;
 
 /// Changes the result of an import before the report.
 using Tamper = std::function<void(workbench::ImportResult& result)>;

@@ -8,6 +8,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -15,7 +17,7 @@ namespace {
 FileReport sampleReport()
 {
     FileReport report;
-    report.file = QStringLiteral("a.cnv");
+    report.file = u"a.cnv"_s;
     report.status = Status::Imported;
     report.objects.inFile = 3;
     report.objects.imported = 3;
@@ -48,17 +50,17 @@ TEST(FileReport, IsNotReadFromOtherObjects)
 {
     EXPECT_FALSE(fileReportFromJson({}).has_value());
     QJsonObject object = toJson(sampleReport());
-    object.insert(QStringLiteral("status"), QStringLiteral("glorious"));
+    object.insert(u"status"_s, u"glorious"_s);
     EXPECT_FALSE(fileReportFromJson(object).has_value());
     object = toJson(sampleReport());
-    object.remove(QStringLiteral("file"));
+    object.remove(u"file"_s);
     EXPECT_FALSE(fileReportFromJson(object).has_value());
 }
 
 TEST(FileReport, IsNotReadWithNumbersThatAreNotExact)
 {
     QJsonObject object = toJson(sampleReport());
-    object.insert(QStringLiteral("bytes"), 1e300);
+    object.insert(u"bytes"_s, 1e300);
     EXPECT_FALSE(fileReportFromJson(object).has_value());
 }
 
@@ -72,11 +74,11 @@ TEST(FileReport, IsNotReadWithInvalidPlaces)
          {R"({"items":[1.5],"missing":[]})", R"({"items":[],"missing":[[1,2,3]]})",
           R"({"items":3,"missing":[]})", R"({"items":[]})"}) {
         QJsonObject object = toJson(report);
-        QJsonArray lost = object[QStringLiteral("lost")].toArray();
+        QJsonArray lost = object[u"lost"_s].toArray();
         QJsonObject finding = lost[0].toObject();
-        finding[QStringLiteral("places")] = QJsonDocument::fromJson(places).object();
+        finding[u"places"_s] = QJsonDocument::fromJson(places).object();
         lost[0] = finding;
-        object[QStringLiteral("lost")] = lost;
+        object[u"lost"_s] = lost;
         EXPECT_FALSE(fileReportFromJson(object).has_value()) << places;
     }
 }
@@ -84,11 +86,11 @@ TEST(FileReport, IsNotReadWithInvalidPlaces)
 TEST(FileReport, WritesTextsThatAreNotUnicodeAsPlainStrings)
 {
     FileReport report = sampleReport();
-    report.outputs = {QStringLiteral("a") + QChar(0xd800)};
-    report.lost = {{QStringLiteral("x"), {}, 1, true, {QString(QChar(0xdc00))}}};
+    report.outputs = {u"a"_s + QChar(0xd800)};
+    report.lost = {{u"x"_s, {}, 1, true, {QString(QChar(0xdc00))}}};
     const QJsonObject object = toJson(report);
-    EXPECT_TRUE(object[QStringLiteral("outputs")][0].isString());
-    EXPECT_TRUE(object[QStringLiteral("lost")][0][QStringLiteral("details")][0].isString());
+    EXPECT_TRUE(object[u"outputs"_s][0].isString());
+    EXPECT_TRUE(object[u"lost"_s][0][u"details"_s][0].isString());
 }
 
 TEST(FileReport, EveryStatusHasAName)
@@ -97,7 +99,7 @@ TEST(FileReport, EveryStatusHasAName)
                                 Status::OutOfMemory}) {
         EXPECT_EQ(statusOfName(statusName(status)), status);
     }
-    EXPECT_FALSE(statusOfName(QStringLiteral("fine")).has_value());
+    EXPECT_FALSE(statusOfName(u"fine"_s).has_value());
 }
 
 TEST(FileReport, OnlyAnImportedFileWithoutFindingsIsComplete)
@@ -126,7 +128,7 @@ TEST(FileReport, HasALossForEveryKindThatAffectsTheContent)
 TEST(FileReport, HasALossForACodeOfANewerProgram)
 {
     FileReport report = sampleReport();
-    report.changed.append({QStringLiteral("from-the-future"), {}, 1, false, {}});
+    report.changed.append({u"from-the-future"_s, {}, 1, false, {}});
     EXPECT_TRUE(hasLoss(report));
 }
 
@@ -143,7 +145,7 @@ TEST(FileReport, HasALossWheneverTheFileIsNotImported)
 TEST(FileReport, SaysInWordsThatNothingWasLost)
 {
     EXPECT_EQ(summaryOf(sampleReport()),
-              QStringLiteral("Imported 3 of 3 objects. Nothing was lost or changed."));
+              u"Imported 3 of 3 objects. Nothing was lost or changed."_s);
 }
 
 TEST(FileReport, ReportsHowManyObjectsWereImported)
@@ -151,14 +153,13 @@ TEST(FileReport, ReportsHowManyObjectsWereImported)
     FileReport report = sampleReport();
     report.objects.imported = 1;
     report.lost.append(findingOfKind(LossKind::Table));
-    EXPECT_EQ(summaryOf(report),
-              QStringLiteral("Imported 1 of 3 objects. Content was lost or changed."));
+    EXPECT_EQ(summaryOf(report), u"Imported 1 of 3 objects. Content was lost or changed."_s);
     EXPECT_EQ(objectsLost(report), 2);
 
     report.objects.inFile.reset();
     EXPECT_EQ(summaryOf(report),
-              QStringLiteral("Objects imported: 1 (the number of objects in the file is unknown). "
-                             "Content was lost or changed."));
+              u"Objects imported: 1 (the number of objects in the file is unknown). "
+              "Content was lost or changed."_s);
     EXPECT_EQ(objectsLost(report), 0);
 }
 
@@ -166,8 +167,8 @@ TEST(FileReport, DistinguishesChangesFromLossesInTheText)
 {
     FileReport report = sampleReport();
     report.changed.append(findingOfKind(LossKind::FontReplaced));
-    EXPECT_EQ(summaryOf(report), QStringLiteral("Imported 3 of 3 objects. The content is complete; "
-                                                "looks changed."));
+    EXPECT_EQ(summaryOf(report), u"Imported 3 of 3 objects. The content is complete; "
+                                 "looks changed."_s);
 }
 
 // A card must not say "with losses" above "nothing was lost".
@@ -176,8 +177,7 @@ TEST(FileReport, NamesAChangeOfContentALoss)
     FileReport report = sampleReport();
     report.changed.append(findingOfKind(LossKind::OutsidePage));
     EXPECT_EQ(verdictOf(report), Verdict::Lossy);
-    EXPECT_EQ(summaryOf(report),
-              QStringLiteral("Imported 3 of 3 objects. Content was lost or changed."));
+    EXPECT_EQ(summaryOf(report), u"Imported 3 of 3 objects. Content was lost or changed."_s);
 }
 
 TEST(FileReport, EveryVerdictHasAName)
@@ -187,7 +187,6 @@ TEST(FileReport, EveryVerdictHasAName)
         names.append(verdictName(static_cast<Verdict>(index)));
         EXPECT_FALSE(verdictText(static_cast<Verdict>(index)).isEmpty());
     }
-    EXPECT_EQ(names, (QStringList{QStringLiteral("complete"), QStringLiteral("changed"),
-                                  QStringLiteral("lossy"), QStringLiteral("failed")}));
-    EXPECT_EQ(toJson(sampleReport())[QStringLiteral("verdict")].toString(), names.constFirst());
+    EXPECT_EQ(names, (QStringList{u"complete"_s, u"changed"_s, u"lossy"_s, u"failed"_s}));
+    EXPECT_EQ(toJson(sampleReport())[u"verdict"_s].toString(), names.constFirst());
 }

@@ -19,6 +19,8 @@
 
 #include <private/qzipwriter_p.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -28,7 +30,7 @@ class HollowFile
 {
 public:
     explicit HollowFile(qint64 size)
-        : m_name(m_folder.filePath(QStringLiteral("hollow")))
+        : m_name(m_folder.filePath(u"hollow"_s))
     {
         QFile file(m_name);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(size));
@@ -66,8 +68,8 @@ QByteArray package(const QByteArray& styles, const QByteArray& content)
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QZipWriter zip(&buffer);
-    zip.addFile(QStringLiteral("styles.xml"), styles);
-    zip.addFile(QStringLiteral("content.xml"), content);
+    zip.addFile(u"styles.xml"_s, styles);
+    zip.addFile(u"content.xml"_s, content);
     zip.close();
     return buffer.data();
 }
@@ -132,7 +134,7 @@ TEST(CensusLimits, MeasureTheMembersOfPackages)
     const QByteArray most = package(small, documentOf(MaximumContent));
     ziplimits::ZipDirectory directory;
     ASSERT_FALSE(directory.openBytes(most));
-    EXPECT_TRUE(!directory.refusalOf(QStringLiteral("content.xml"), MaximumContent))
+    EXPECT_TRUE(!directory.refusalOf(u"content.xml"_s, MaximumContent))
         << "only unpacked: it takes long";
     EXPECT_FALSE(isCounted(countOpenDocument(package(small, documentOf(MaximumContent + 1)))));
 }
@@ -160,7 +162,7 @@ TEST(CensusLimits, KeepTheFirstDetails)
 {
     Tally tally;
     for (int index = 0; index <= Tally::MaximumDetails; ++index) {
-        tally.addDetail(QStringLiteral("%1").arg(index));
+        tally.addDetail(u"%1"_s.arg(index));
     }
     EXPECT_EQ(tally.details.size(), Tally::MaximumDetails);
     EXPECT_FALSE(tally.details.contains(QString::number(Tally::MaximumDetails)));
@@ -181,8 +183,8 @@ TEST(CensusLimits, ForgetFontsWithoutMistakes)
 {
     constexpr int more = 2'500;
     for (int index = 0; index < more; ++index) {
-        EXPECT_FALSE(isFontThere(QStringLiteral("No font %1").arg(index)));
-        EXPECT_EQ(familySeen(QStringLiteral("Liberation Sans")), QStringLiteral("Liberation Sans"));
+        EXPECT_FALSE(isFontThere(u"No font %1"_s.arg(index)));
+        EXPECT_EQ(familySeen(u"Liberation Sans"_s), u"Liberation Sans"_s);
     }
 }
 
@@ -202,7 +204,7 @@ TEST(ReportLimits, TakeWholeNumbersThatAreExact)
 {
     const auto bytesOf = [](double bytes) {
         QJsonObject object = toJson(FileReport());
-        object.insert(QStringLiteral("bytes"), bytes);
+        object.insert(u"bytes"_s, bytes);
         const auto report = fileReportFromJson(object);
         return report ? std::optional(report->bytes) : std::nullopt;
     };

@@ -6,11 +6,13 @@
 #include <QRegularExpression>
 #include <QSet>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 TEST(LossKinds, CodesAreStableNamesInKebabCase)
 {
-    static const QRegularExpression kebab(QStringLiteral("^[a-z]+(-[a-z]+)*$"));
+    static const QRegularExpression kebab(u"^[a-z]+(-[a-z]+)*$"_s);
     QSet<QString> codes;
     for (const LossRow& row : lossRows()) {
         EXPECT_TRUE(kebab.match(lossCode(row.kind)).hasMatch()) << row.code;
@@ -30,7 +32,7 @@ TEST(LossKinds, EachIsFoundByItsCodeAndHasWords)
                     advice.contains(QLatin1String("labelport-workbench")))
             << row.code;
     }
-    EXPECT_EQ(lossRowOf(QStringLiteral("no-such-code")), nullptr);
+    EXPECT_EQ(lossRowOf(u"no-such-code"_s), nullptr);
 }
 
 TEST(LossKinds, AreAllInTheManual)
@@ -39,9 +41,8 @@ TEST(LossKinds, AreAllInTheManual)
     ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(manual.readAll());
     for (const LossRow& row : lossRows()) {
-        const QString impact =
-            row.impact == Impact::Content ? QStringLiteral("yes") : QStringLiteral("no");
-        const QString line = QStringLiteral("| `%1` | %2 |").arg(lossCode(row.kind), impact);
+        const QString impact = row.impact == Impact::Content ? u"yes"_s : u"no"_s;
+        const QString line = u"| `%1` | %2 |"_s.arg(lossCode(row.kind), impact);
         EXPECT_TRUE(text.contains(line)) << line.toStdString();
     }
 }

@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QTextStream>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -45,8 +47,8 @@ FileReport ended(Status status, const QString& name)
     FileReport report;
     report.file = name;
     report.status = status;
-    report.error = QStringLiteral("It ended as \"%1\" </script> & so on.").arg(statusName(status));
-    report.reader = QStringLiteral("tavrel");
+    report.error = u"It ended as \"%1\" </script> & so on."_s.arg(statusName(status));
+    report.reader = u"tavrel"_s;
     return report;
 }
 
@@ -62,9 +64,9 @@ int main(int argc, char* argv[])
         reports.append(reportOn(fileName));
         QTextStream(stdout) << describeAsText(reports.constLast()) << '\n';
     }
-    reports.append(ended(Status::Crashed, QStringLiteral("crashed <b>.cnv")));
-    reports.append(ended(Status::TimedOut, QStringLiteral("slow.odg")));
-    reports.append(ended(Status::OutOfMemory, QStringLiteral("large.qmtx")));
+    reports.append(ended(Status::Crashed, u"crashed <b>.cnv"_s));
+    reports.append(ended(Status::TimedOut, u"slow.odg"_s));
+    reports.append(ended(Status::OutOfMemory, u"large.qmtx"_s));
     for (const char* name : {"report.jsonl", "report.html"}) {
         ReportWriter writer(folder.filePath(QString::fromLatin1(name)));
         for (const FileReport& report : reports) {

@@ -7,6 +7,8 @@
 
 #include <random>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -293,7 +295,7 @@ TEST(OpenDocumentCensus, DoesNotCountWhatTheDocumentHides)
                "</text:hidden-text><text:hidden-text text:is-hidden=\"false\">too"
                "</text:hidden-text></text:p>"));
     ASSERT_EQ(census.objects.size(), 2);
-    EXPECT_EQ(census.paragraphs, QStringList{QStringLiteral("Showntoo")});
+    EXPECT_EQ(census.paragraphs, QStringList{u"Showntoo"_s});
 }
 
 TEST(OpenDocumentCensus, FindsSectionsThatDoNotLookLikePlainText)

@@ -4,14 +4,24 @@
 
 #include <random>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// A report with random content, including texts that are hard to write.
 [[nodiscard]] inline QString randomText(std::mt19937& random)
 {
     static const QStringList pieces = {
-        QStringLiteral("plain"),       QStringLiteral("</script><b>"), QStringLiteral("\"'&<>"),
-        QStringLiteral("%1 %2 %%"),    QStringLiteral("\n\t"),         QString(QChar(u'\0')),
-        QStringLiteral("Zürich 日本"), QStringLiteral("\U0001F600"),   QStringLiteral("]]>--"),
-        QStringLiteral("\\u0022"),     QString(QChar(0x202E)),         QString(),
+        u"plain"_s,
+        u"</script><b>"_s,
+        u"\"'&<>"_s,
+        u"%1 %2 %%"_s,
+        u"\n\t"_s,
+        QString(QChar(u'\0')),
+        u"Zürich 日本"_s,
+        u"\U0001F600"_s,
+        u"]]>--"_s,
+        u"\\u0022"_s,
+        QString(QChar(0x202E)),
+        QString(),
     };
     QString text;
     const auto count = random() % 4;
@@ -82,7 +92,7 @@ template <class Value, class Make>
     report.exports = randomList<ExportReport>(random, [&] {
         return ExportReport{text(), text(), text(), text(), number()};
     });
-    report.sandbox = random() % 2 == 0 ? QStringList() : QStringList{QStringLiteral("files")};
+    report.sandbox = random() % 2 == 0 ? QStringList() : QStringList{u"files"_s};
     report.itemList = randomList<ItemReport>(random, [&] {
         return ItemReport{text(), length(), length(), length(), length(), text(), number()};
     });

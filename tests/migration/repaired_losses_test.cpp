@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 using namespace Qt::StringLiterals;
 
@@ -24,7 +26,7 @@ LabelFacts labelOf(const QList<ObjectClass>& classes)
     LabelFacts label;
     for (const ObjectClass objectClass : classes) {
         ItemFacts item;
-        item.kind = QStringLiteral("rectangle");
+        item.kind = u"rectangle"_s;
         item.objectClass = objectClass;
         label.items.append(item);
     }
@@ -52,9 +54,9 @@ std::string codesOf(const QList<Finding>& findings)
 {
     QStringList codes;
     for (const Finding& finding : findings) {
-        codes.append(QStringLiteral("%1 %2").arg(finding.code).arg(finding.count));
+        codes.append(u"%1 %2"_s.arg(finding.code).arg(finding.count));
     }
-    return codes.join(QStringLiteral(", ")).toStdString();
+    return codes.join(u", "_s).toStdString();
 }
 
 const Census TwoShapes = censusOf({counted(ObjectClass::Shape), counted(ObjectClass::Shape)});
@@ -153,7 +155,7 @@ TEST(RepairedLosses, AHeaderIsLostOnlyIfNoPageShowsItsText)
     }
     // The repaired document still has the master page.
     LabelFacts label = labelOf({ObjectClass::Text});
-    label.items[0].text = QStringLiteral("Page  header");
+    label.items[0].text = u"Page  header"_s;
     RepairedLosses losses(original);
     losses.addPage(original, label, {});
     losses.addPage(original, labelOf({}), {});

@@ -18,6 +18,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -74,7 +76,7 @@ QList<FileReport> someReports(int count)
     QList<FileReport> reports;
     for (int index = 0; index < count; ++index) {
         FileReport report = randomReport(random);
-        report.file = QStringLiteral("%1 %2").arg(index, 4, 10, QLatin1Char('0')).arg(report.file);
+        report.file = u"%1 %2"_s.arg(index, 4, 10, QLatin1Char('0')).arg(report.file);
         reports.append(report);
     }
     return reports;
@@ -96,29 +98,29 @@ private:
 
 TEST_F(ReportWriting, JsonHoldsTheFilesAndWhatTheyAddUpTo)
 {
-    FileReport lossy = named(QStringLiteral("b"));
+    FileReport lossy = named(u"b"_s);
     lossy.objects.imported = 1;
     lossy.lost = {{lossCode(LossKind::Table), {}, 3, true, {}}};
-    FileReport changed = named(QStringLiteral("c"));
+    FileReport changed = named(u"c"_s);
     changed.changed = {{lossCode(LossKind::FontReplaced), {}, 1, false, {}}};
-    ASSERT_EQ(write(path("r.jsonl"), {named(QStringLiteral("a")), lossy, changed,
-                                      named(QStringLiteral("d"), Status::Crashed)}),
-              QString());
+    ASSERT_EQ(
+        write(path("r.jsonl"), {named(u"a"_s), lossy, changed, named(u"d"_s, Status::Crashed)}),
+        QString());
 
     const QList<QJsonObject> lines = linesOf(contentOf(path("r.jsonl")));
     ASSERT_EQ(lines.size(), 6);
-    EXPECT_EQ(lines.at(0)[QStringLiteral("format")].toString(), QStringLiteral("labelport-report"));
-    EXPECT_EQ(lines.at(0)[QStringLiteral("version")].toInt(), 1);
-    EXPECT_EQ(lines.at(2)[QStringLiteral("file")].toString(), QStringLiteral("b"));
-    const QJsonObject totals = lines.at(5)[QStringLiteral("totals")].toObject();
-    EXPECT_EQ(totals[QStringLiteral("files")].toInt(), 4);
-    EXPECT_EQ(totals[QStringLiteral("complete")].toInt(), 1);
-    EXPECT_EQ(totals[QStringLiteral("changed")].toInt(), 1);
-    EXPECT_EQ(totals[QStringLiteral("lossy")].toInt(), 1);
-    EXPECT_EQ(totals[QStringLiteral("failed")].toInt(), 1);
-    EXPECT_EQ(totals[QStringLiteral("objectsInFiles")].toInt(), 12);
-    EXPECT_EQ(totals[QStringLiteral("objectsImported")].toInt(), 9);
-    EXPECT_EQ(totals[QStringLiteral("filesByCode")][QStringLiteral("table")].toInt(), 1);
+    EXPECT_EQ(lines.at(0)[u"format"_s].toString(), u"labelport-report"_s);
+    EXPECT_EQ(lines.at(0)[u"version"_s].toInt(), 1);
+    EXPECT_EQ(lines.at(2)[u"file"_s].toString(), u"b"_s);
+    const QJsonObject totals = lines.at(5)[u"totals"_s].toObject();
+    EXPECT_EQ(totals[u"files"_s].toInt(), 4);
+    EXPECT_EQ(totals[u"complete"_s].toInt(), 1);
+    EXPECT_EQ(totals[u"changed"_s].toInt(), 1);
+    EXPECT_EQ(totals[u"lossy"_s].toInt(), 1);
+    EXPECT_EQ(totals[u"failed"_s].toInt(), 1);
+    EXPECT_EQ(totals[u"objectsInFiles"_s].toInt(), 12);
+    EXPECT_EQ(totals[u"objectsImported"_s].toInt(), 9);
+    EXPECT_EQ(totals[u"filesByCode"_s][u"table"_s].toInt(), 1);
 }
 
 TEST_F(ReportWriting, AnEmptyRunIsAReportToo)
@@ -145,7 +147,7 @@ TEST_F(ReportWriting, TheOldReportStaysUntilTheEnd)
         putContent(path(name), "old");
         {
             ReportWriter writer(path(name));
-            writer.add(named(QStringLiteral("a")));
+            writer.add(named(u"a"_s));
         }
         EXPECT_EQ(contentOf(path(name)), "old") << "a writer that was not finished";
     }
@@ -155,14 +157,13 @@ TEST_F(ReportWriting, TheOldReportStaysUntilTheEnd)
 TEST_F(ReportWriting, AFolderThatIsNotThereIsAnErrorInWords)
 {
     for (const char* name : {"none/r.jsonl", "none/r.html"}) {
-        EXPECT_TRUE(write(path(name), {named(QStringLiteral("a"))}).contains(path(name)));
+        EXPECT_TRUE(write(path(name), {named(u"a"_s)}).contains(path(name)));
     }
 }
 
 TEST_F(ReportWriting, NothingFromAFileBecomesMarkup)
 {
-    const QString hostile =
-        QStringLiteral("</script><script>alert(1)</script>\" onload='x' <img src=x>");
+    const QString hostile = u"</script><script>alert(1)</script>\" onload='x' <img src=x>"_s;
     FileReport report = named(hostile, Status::Failed);
     report.error = hostile;
     report.reader = hostile;
@@ -183,13 +184,10 @@ TEST_F(ReportWriting, NothingFromAFileBecomesMarkup)
 
 TEST_F(ReportWriting, ThePageListsWhatBecameOfItemsInGlabels)
 {
-    FileReport report = named(QStringLiteral("a"));
-    report.exports = {
-        {QStringLiteral("glabels"), QStringLiteral("exact"), QStringLiteral("line"), {}, 2},
-        {QStringLiteral("glabels"), QStringLiteral("picture"), QStringLiteral("pie"),
-         QStringLiteral("No such shape."), 1},
-        {QStringLiteral("glabels"), QStringLiteral("simplified"), QStringLiteral("label"),
-         QStringLiteral("Only a part."), 1}};
+    FileReport report = named(u"a"_s);
+    report.exports = {{u"glabels"_s, u"exact"_s, u"line"_s, {}, 2},
+                      {u"glabels"_s, u"picture"_s, u"pie"_s, u"No such shape."_s, 1},
+                      {u"glabels"_s, u"simplified"_s, u"label"_s, u"Only a part."_s, 1}};
     ASSERT_EQ(write(path("r.html"), {report}), QString());
     const QByteArray html = contentOf(path("r.html"));
     for (const char* line :
@@ -201,7 +199,7 @@ TEST_F(ReportWriting, ThePageListsWhatBecameOfItemsInGlabels)
 
 TEST_F(ReportWriting, ThePageNeedsNothingFromElsewhere)
 {
-    ASSERT_EQ(write(path("r.html"), {named(QStringLiteral("a"))}), QString());
+    ASSERT_EQ(write(path("r.html"), {named(u"a"_s)}), QString());
     const QByteArray html = contentOf(path("r.html"));
     EXPECT_FALSE(html.contains("http://"));
     EXPECT_FALSE(html.contains("https://"));
@@ -232,8 +230,8 @@ TEST_F(ReportWriting, MergedShardsAreTheReportOfOneRun)
 
 TEST_F(ReportWriting, ConcatenatedReportsAreMerged)
 {
-    ASSERT_EQ(write(path("a.jsonl"), {named(QStringLiteral("one"))}), QString());
-    ASSERT_EQ(write(path("b.jsonl"), {named(QStringLiteral("two"))}), QString());
+    ASSERT_EQ(write(path("a.jsonl"), {named(u"one"_s)}), QString());
+    ASSERT_EQ(write(path("b.jsonl"), {named(u"two"_s)}), QString());
     putContent(path("both.jsonl"), contentOf(path("a.jsonl")) + contentOf(path("b.jsonl")));
     ASSERT_EQ(mergeReports({path("a.jsonl"), path("b.jsonl")}, path("1.jsonl")), QString());
     ASSERT_EQ(mergeReports({path("both.jsonl")}, path("2.jsonl")), QString());
@@ -242,9 +240,9 @@ TEST_F(ReportWriting, ConcatenatedReportsAreMerged)
 
 TEST_F(ReportWriting, MergingRefusesWhatDoesNotBelongTogether)
 {
-    ASSERT_EQ(write(path("a.jsonl"), {named(QStringLiteral("one"))}), QString());
-    EXPECT_TRUE(mergeReports({path("a.jsonl"), path("a.jsonl")}, path("m.jsonl"))
-                    .contains(QStringLiteral("one")));
+    ASSERT_EQ(write(path("a.jsonl"), {named(u"one"_s)}), QString());
+    EXPECT_TRUE(
+        mergeReports({path("a.jsonl"), path("a.jsonl")}, path("m.jsonl")).contains(u"one"_s));
     EXPECT_FALSE(mergeReports({path("missing.jsonl")}, path("m.jsonl")).isEmpty());
     const QByteArray whole = contentOf(path("a.jsonl"));
     const QByteArray first = "{\"format\":\"labelport-report\",\"version\":1}\n";
@@ -285,9 +283,9 @@ TEST(Thumbnail, OfAPhotographIsSmallToo)
 
 TEST(Thumbnail, IsASmallPictureOfTheLabel)
 {
-    const FileReport report = reportOn(qmtx(kPlainLabel));
+    const FileReport report = reportOn(qmtx(PlainLabel));
     const QImage image = QImage::fromData(report.thumbnail);
     EXPECT_EQ(image.size(), QSize(160, 120));
     EXPECT_LT(report.thumbnail.size(), 8 * 1024);
-    EXPECT_TRUE(reportOn(qmtx(kPlainLabel), nullptr, {.thumbnail = false}).thumbnail.isEmpty());
+    EXPECT_TRUE(reportOn(qmtx(PlainLabel), nullptr, {.thumbnail = false}).thumbnail.isEmpty());
 }

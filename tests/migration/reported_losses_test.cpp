@@ -11,6 +11,8 @@
 
 #include <ostream>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -24,15 +26,15 @@ struct Sample
     Tamper tamper = nullptr;
 };
 
-constexpr quint32 kVersion = 2000024;
+constexpr quint32 ReadVersion = 2000024;
 
 CanvasWriter& shapeOn(CanvasWriter& writer, const char* name = "Rectangle")
 {
     canvas::ShapeRecord shape;
     shape.header.x = 0.5;
     shape.header.y = 0.5;
-    shape.header.width = QStringLiteral("1/2");
-    shape.header.height = QStringLiteral("1/2");
+    shape.header.width = u"1/2"_s;
+    shape.header.height = u"1/2"_s;
     shape.name = QString::fromLatin1(name);
     return writer.add(shape);
 }
@@ -40,7 +42,7 @@ CanvasWriter& shapeOn(CanvasWriter& writer, const char* name = "Rectangle")
 template <class Record>
 Document canvasWith(const Record& record)
 {
-    CanvasWriter writer(kVersion);
+    CanvasWriter writer(ReadVersion);
     writer.start();
     return cnv(shapeOn(writer).add(record).bytes());
 }
@@ -50,7 +52,7 @@ canvas::TextRecord textRecord(const char* key, const char* keyText = "")
     canvas::TextRecord text;
     text.header.x = 0.2;
     text.header.y = 0.2;
-    text.content = QStringLiteral("Content");
+    text.content = u"Content"_s;
     text.datasourceKey = QString::fromLatin1(key);
     text.datasourceText = QString::fromLatin1(keyText);
     return text;
@@ -69,14 +71,14 @@ Document placeholderText()
 Document stretchedText()
 {
     canvas::TextRecord text = textRecord("");
-    text.header.width = QStringLiteral("2");
+    text.header.width = u"2"_s;
     return canvasWith(text);
 }
 
 Document unknownSymbol()
 {
     canvas::SymbolRecord symbol;
-    symbol.name = QStringLiteral("no such symbol.svg");
+    symbol.name = u"no such symbol.svg"_s;
     return canvasWith(symbol);
 }
 
@@ -92,14 +94,14 @@ canvas::BarcodeRecord barcodeRecord(qint32 symbology, const char* content)
 
 Document unknownRecord()
 {
-    CanvasWriter writer(kVersion);
+    CanvasWriter writer(ReadVersion);
     writer.start();
     return cnv(shapeOn(writer).code(77).bytes());
 }
 
 Document cutFile()
 {
-    CanvasWriter writer(kVersion);
+    CanvasWriter writer(ReadVersion);
     writer.start();
     return cnv(shapeOn(shapeOn(writer)).bytes().chopped(10));
 }
@@ -107,8 +109,8 @@ Document cutFile()
 Document linkedFile()
 {
     canvas::DatabaseList databases;
-    databases.entries = {{QStringLiteral("C:\\data\\list.csv"), 0}};
-    CanvasWriter writer(kVersion);
+    databases.entries = {{u"C:\\data\\list.csv"_s, 0}};
+    CanvasWriter writer(ReadVersion);
     writer.start({}, {}, databases);
     return cnv(shapeOn(writer).bytes());
 }
@@ -128,7 +130,7 @@ QByteArray pictureControl(const QByteArray& bytes)
 
 QByteArray fontControl(const char* family)
 {
-    return QByteArray(kPlainLabel).replace("Liberation Sans", family);
+    return QByteArray(PlainLabel).replace("Liberation Sans", family);
 }
 
 QByteArray styled(const char* group, const char* properties)
@@ -138,16 +140,16 @@ QByteArray styled(const char* group, const char* properties)
            "-properties " + properties + "/></style:style>";
 }
 
-const QByteArray kFramedPicture =
+const QByteArray FramedPicture =
     "<draw:frame draw:style-name=\"S\" text:anchor-type=\"paragraph\" svg:width=\"1in\" "
     "svg:height=\"1in\"><draw:image xlink:href=\"Pictures/good.png\"/></draw:frame>";
-const QByteArray kStyledRect =
-    QByteArray(kPlainRect).replace("<draw:rect", "<draw:rect draw:style-name=\"S\"");
-const QByteArray kStyledText = "<text:p text:style-name=\"S\">Text</text:p>";
+const QByteArray StyledRect =
+    QByteArray(PlainRect).replace("<draw:rect", "<draw:rect draw:style-name=\"S\"");
+const QByteArray StyledText = "<text:p text:style-name=\"S\">Text</text:p>";
 
 QByteArray rectWith(const QByteArray& children)
 {
-    return QByteArray(kPlainRect).replace("/>", ">" + children + "</draw:rect>");
+    return QByteArray(PlainRect).replace("/>", ">" + children + "</draw:rect>");
 }
 
 QByteArray masterPage(const QByteArray& content)
@@ -162,24 +164,23 @@ const QList<Sample>& samples()
 {
     static const QList<Sample> all = {
         {LossKind::GroupedObject,
-         odg(kPlainRect + "<draw:g>" + kPlainRect + "<draw:g>" + kPlainRect + "</draw:g></draw:g>"),
-         2, 2},
+         odg(PlainRect + "<draw:g>" + PlainRect + "<draw:g>" + PlainRect + "</draw:g></draw:g>"), 2,
+         2},
         {LossKind::FurtherPage,
-         {QStringLiteral("pages.odg"),
-          packageOf("<office:drawing><draw:page>" + kPlainRect + "</draw:page><draw:page>" +
+         {u"pages.odg"_s,
+          packageOf("<office:drawing><draw:page>" + PlainRect + "</draw:page><draw:page>" +
                     rectWith("<text:p>Back</text:p>") + "</draw:page></office:drawing>")},
          2,
          2},
-        {LossKind::MasterPageObject, odg(kPlainRect, {.masterPages = masterPage(kPlainRect)}), 1,
-         1},
-        {LossKind::Connector, odg(kPlainRect + "<draw:connector/>"), 1, 1},
-        {LossKind::FreeformShape, odg(kPlainRect + "<draw:path/><draw:polygon/><draw:polyline/>"),
-         3, 3},
-        {LossKind::Callout, odg(kPlainRect + "<draw:caption/>"), 1, 1},
-        {LossKind::ThreeDScene, odg(kPlainRect + "<dr3d:scene><dr3d:cube/></dr3d:scene>"), 1, 1},
-        {LossKind::FormControl, odg(kPlainRect + "<draw:control/>"), 1, 1},
+        {LossKind::MasterPageObject, odg(PlainRect, {.masterPages = masterPage(PlainRect)}), 1, 1},
+        {LossKind::Connector, odg(PlainRect + "<draw:connector/>"), 1, 1},
+        {LossKind::FreeformShape, odg(PlainRect + "<draw:path/><draw:polygon/><draw:polyline/>"), 3,
+         3},
+        {LossKind::Callout, odg(PlainRect + "<draw:caption/>"), 1, 1},
+        {LossKind::ThreeDScene, odg(PlainRect + "<dr3d:scene><dr3d:cube/></dr3d:scene>"), 1, 1},
+        {LossKind::FormControl, odg(PlainRect + "<draw:control/>"), 1, 1},
         {LossKind::EmbeddedObject,
-         odg(kPlainRect + "<draw:frame svg:x=\"1in\"><draw:object/><draw:image/></draw:frame>"), 1,
+         odg(PlainRect + "<draw:frame svg:x=\"1in\"><draw:object/><draw:image/></draw:frame>"), 1,
          1},
         {LossKind::NestedObject, odg(rectWith("<text:p>Text<draw:rect/></text:p>")), 1, 1},
         {LossKind::ShapeInText, odt("<text:p>Text<draw:rect/></text:p>"), 1, 1},
@@ -217,29 +218,28 @@ const QList<Sample>& samples()
         {LossKind::Comment,
          odt("<text:p>Text<office:annotation><text:p>Why?</text:p></office:annotation></text:p>"),
          1, 0},
-        {LossKind::Animation, odg(kPlainRect + "<anim:par/>"), 1, 0},
-        {LossKind::UnknownObject, odg(kPlainRect + "<draw:hologram/>"), 1, 1},
-        {LossKind::UnknownControl, qmtx(kPlainLabel + "<rich_box/><rich_box/>"), 2, 2},
-        {LossKind::FurtherControls, qmtx(kPlainLabel + "</controls><controls>" + kPlainLabel), 1,
-         1},
-        {LossKind::EmptyPictureBox, qmtx(kPlainLabel + pictureControl({})), 1, 1},
-        {LossKind::PictureUnreadable, qmtx(kPlainLabel + pictureControl("no picture")), 1, 1},
-        {LossKind::DrawingUnreadable, qmtx(kPlainLabel + pictureControl("<svg")), 1, 1},
+        {LossKind::Animation, odg(PlainRect + "<anim:par/>"), 1, 0},
+        {LossKind::UnknownObject, odg(PlainRect + "<draw:hologram/>"), 1, 1},
+        {LossKind::UnknownControl, qmtx(PlainLabel + "<rich_box/><rich_box/>"), 2, 2},
+        {LossKind::FurtherControls, qmtx(PlainLabel + "</controls><controls>" + PlainLabel), 1, 1},
+        {LossKind::EmptyPictureBox, qmtx(PlainLabel + pictureControl({})), 1, 1},
+        {LossKind::PictureUnreadable, qmtx(PlainLabel + pictureControl("no picture")), 1, 1},
+        {LossKind::DrawingUnreadable, qmtx(PlainLabel + pictureControl("<svg")), 1, 1},
         {LossKind::SymbolUnreadable, unknownSymbol(), 1, 1},
         {LossKind::BarcodeUnsupported, canvasWith(barcodeRecord(9999, "1")), 1, 1},
         {LossKind::RestUnread, unknownRecord(), 1, 0},
         {LossKind::FileCutShort, cutFile(), 1, 0},
         {LossKind::DocumentTypeUnsupported,
-         {QStringLiteral("sheet.odt"),
+         {u"sheet.odt"_s,
           packageOf(
               "<office:spreadsheet><table:table><table:table-row><table:table-cell><text:p>A</"
               "text:p></table:table-cell></table:table-row></table:table></office:spreadsheet>")},
          1,
          1},
         {LossKind::OverLimit, odt("<text:p>" + QByteArray((4 << 20) + 1, 'a') + "</text:p>"), 1, 1},
-        {LossKind::ObjectMissing, qmtx(kPlainLabel + kPlainLabel), 1, 1,
+        {LossKind::ObjectMissing, qmtx(PlainLabel + PlainLabel), 1, 1,
          [](auto& result) { dropItem(result, 0); }},
-        {LossKind::LogCut, qmtx(kPlainLabel + QByteArray("<rich_box/>").repeated(1001)), 1, 1001},
+        {LossKind::LogCut, qmtx(PlainLabel + QByteArray("<rich_box/>").repeated(1001)), 1, 1001},
         {LossKind::UnknownShape, odg("<draw:custom-shape svg:x=\"1in\" svg:y=\"1in\" "
                                      "svg:width=\"1in\" svg:height=\"1in\"><draw:enhanced-geometry "
                                      "draw:type=\"star5\"/></draw:custom-shape>")},
@@ -253,87 +253,84 @@ const QList<Sample>& samples()
              "<barcode><printable_control><text>123</text><bounds><x>210</x><y>210</y><w>100</"
              "w><h>50</h></bounds></printable_control><barcode_type>999</barcode_type></barcode>")},
         {LossKind::OutsidePage,
-         qmtx(kPlainLabel + shapeControl("<x>900</x><y>210</y><w>50</w><h>50</h>"))},
+         qmtx(PlainLabel + shapeControl("<x>900</x><y>210</y><w>50</w><h>50</h>"))},
         {LossKind::OverPageEdge,
-         qmtx(kPlainLabel + shapeControl("<x>580</x><y>210</y><w>90</w><h>50</h>"))},
+         qmtx(PlainLabel + shapeControl("<x>580</x><y>210</y><w>90</w><h>50</h>"))},
         {LossKind::SizeLimited,
-         odg(kPlainRect, {.pageLayout = "fo:page-width=\"1000000000in\" fo:page-height=\"3in\""})},
+         odg(PlainRect, {.pageLayout = "fo:page-width=\"1000000000in\" fo:page-height=\"3in\""})},
         {LossKind::MillimetersEnlarged,
          odg("<draw:rect svg:x=\"1mm\" svg:y=\"1mm\" svg:width=\"9mm\" svg:height=\"9mm\"/>",
              {.pageLayout = "fo:page-width=\"50mm\" fo:page-height=\"30mm\""})},
         {LossKind::MixedUnits,
-         odg(QByteArray(kPlainRect).replace("svg:width=\"1in\"", "svg:width=\"0.02cm\""))},
+         odg(QByteArray(PlainRect).replace("svg:width=\"1in\"", "svg:width=\"0.02cm\""))},
         {LossKind::UnitUnknown,
          odg("<draw:rect svg:x=\"1pt\" svg:y=\"1pt\" svg:width=\"9pt\" svg:height=\"9pt\"/>",
              {.pageLayout = "fo:page-width=\"90pt\" fo:page-height=\"90pt\""})},
         {LossKind::PageSizeAssumed,
-         {QStringLiteral("bare.qmtx"), "<qmtx><controls>" + kPlainLabel + "</controls></qmtx>"}},
+         {u"bare.qmtx"_s, "<qmtx><controls>" + PlainLabel + "</controls></qmtx>"}},
         {LossKind::PositionAssumed, odg("<draw:rect svg:width=\"1in\" svg:height=\"1in\"/>")},
         {LossKind::PageMargins,
          odt("<text:p>Text</text:p>",
              {.pageLayout = "fo:page-width=\"4in\" fo:page-height=\"3in\" fo:margin-top=\"1in\"",
               .masterPages = masterPage("")})},
         {LossKind::PageBreak,
-         odt(kStyledText, {.automaticStyles = styled("paragraph", "fo:break-before=\"page\"")})},
-        {LossKind::TransformDropped,
-         odg(QByteArray(kPlainRect)
-                 .replace("svg:x=\"1in\" svg:y=\"1in\"",
-                          "draw:transform=\"skewX (0.001) translate (1in 1in)\""))},
+         odt(StyledText, {.automaticStyles = styled("paragraph", "fo:break-before=\"page\"")})},
+        {LossKind::TransformDropped, odg(QByteArray(PlainRect).replace(
+                                         "svg:x=\"1in\" svg:y=\"1in\"",
+                                         "draw:transform=\"skewX (0.001) translate (1in 1in)\""))},
         {LossKind::FontReplaced, qmtx(fontControl("No Such Font"))},
         {LossKind::TextStretched, stretchedText()},
         {LossKind::TextColor,
-         odt(kStyledText, {.automaticStyles = styled("text", "fo:color=\"#ff0000\"")})},
+         odt(StyledText, {.automaticStyles = styled("text", "fo:color=\"#ff0000\"")})},
         {LossKind::TextSpacing, odg(rectWith("<text:p>One <text:s/>Two</text:p>"))},
         {LossKind::TextFormat,
-         odt(kStyledText,
-             {.automaticStyles = styled("text", "style:text-position=\"super 58%\"")})},
+         odt(StyledText, {.automaticStyles = styled("text", "style:text-position=\"super 58%\"")})},
         {LossKind::TextEffect,
-         odt(kStyledText, {.automaticStyles = styled("text", "style:text-outline=\"true\"")})},
+         odt(StyledText, {.automaticStyles = styled("text", "style:text-outline=\"true\"")})},
         {LossKind::TextDiffers,
          odg(rectWith("<text:p><text:span>12.40</text:span> <text:span>kg</text:span></text:p>"))},
         {LossKind::TextUnreadable,
-         odg(QByteArray(kStyledRect).replace("/>", "><text:p>Mains</text:p></draw:rect>"),
+         odg(QByteArray(StyledRect).replace("/>", "><text:p>Mains</text:p></draw:rect>"),
              {.automaticStyles = styled("graphic", "draw:fill=\"solid\" "
                                                    "draw:fill-color=\"#000000\"")})},
         {LossKind::TextsOverlap,
          odt("<text:p text:style-name=\"S\">Price <text:span>12.40</text:span> per "
              "kilogram</text:p>",
              {.automaticStyles = styled("paragraph", "fo:text-align=\"center\"")})},
-        {LossKind::Covered, odt("<text:p>" + kFramedPicture + kFramedPicture + "</text:p>",
+        {LossKind::Covered, odt("<text:p>" + FramedPicture + FramedPicture + "</text:p>",
                                 {.automaticStyles = styled("graphic", "style:wrap=\"none\"")})},
-        {LossKind::Moved,
-         odg(QByteArray(kPlainRect)
-                 .replace("svg:x=\"1in\" svg:y=\"1in\"",
-                          "draw:transform=\"rotate (0.5) translate (1in 1.5in)\""))},
+        {LossKind::Moved, odg(QByteArray(PlainRect).replace(
+                              "svg:x=\"1in\" svg:y=\"1in\"",
+                              "draw:transform=\"rotate (0.5) translate (1in 1.5in)\""))},
         {LossKind::Mirrored,
          odg("<draw:custom-shape svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
              "svg:height=\"1in\"><draw:enhanced-geometry draw:type=\"right-triangle\" "
              "draw:mirror-horizontal=\"true\"/></draw:custom-shape>")},
         {LossKind::Invisible,
-         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:stroke=\"none\" "
-                                                                "draw:fill=\"bitmap\" "
-                                                                "draw:fill-color=\"#ffffff\"")})},
+         odg(StyledRect, {.automaticStyles = styled("graphic", "draw:stroke=\"none\" "
+                                                               "draw:fill=\"bitmap\" "
+                                                               "draw:fill-color=\"#ffffff\"")})},
         {LossKind::FillAdded,
          odt("<draw:frame draw:style-name=\"S\" svg:width=\"1in\" svg:height=\"1in\">"
              "<draw:text-box><text:p>Text</text:p></draw:text-box></draw:frame>",
              {.automaticStyles = styled("graphic", "draw:fill-color=\"#3465a4\"")})},
         {LossKind::PenWidth,
-         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:stroke=\"solid\" "
-                                                                "svg:stroke-width=\"0.02in\" "
-                                                                "draw:fill=\"none\"")})},
+         odg(StyledRect, {.automaticStyles = styled("graphic", "draw:stroke=\"solid\" "
+                                                               "svg:stroke-width=\"0.02in\" "
+                                                               "draw:fill=\"none\"")})},
         {LossKind::FillSimplified,
-         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"gradient\" "
-                                                                "draw:fill-color=\"#3465a4\"")})},
+         odg(StyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"gradient\" "
+                                                               "draw:fill-color=\"#3465a4\"")})},
         {LossKind::PictureFill,
-         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"bitmap\" "
-                                                                "draw:fill-color=\"#3465a4\"")})},
+         odg(StyledRect, {.automaticStyles = styled("graphic", "draw:fill=\"bitmap\" "
+                                                               "draw:fill-color=\"#3465a4\"")})},
         {LossKind::EffectDropped,
-         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:shadow=\"visible\"")})},
+         odg(StyledRect, {.automaticStyles = styled("graphic", "draw:shadow=\"visible\"")})},
         {LossKind::Transparency,
-         odg(kStyledRect, {.automaticStyles = styled("graphic", "draw:opacity=\"40%\"")})},
-        {LossKind::Other, qmtx(kPlainLabel), 1, 0,
+         odg(StyledRect, {.automaticStyles = styled("graphic", "draw:opacity=\"40%\"")})},
+        {LossKind::Other, qmtx(PlainLabel), 1, 0,
          [](auto& result) {
-             result.log.append({true, QStringLiteral("x.cpp"), QStringLiteral("News")});
+             result.log.append({true, u"x.cpp"_s, u"News"_s});
          }},
     };
     return all;
@@ -394,10 +391,10 @@ TEST(ReportedLosses, EveryKindHasASample)
 
 TEST(ReportedLosses, NothingIsReportedForCompleteDocuments)
 {
-    CanvasWriter writer(kVersion);
+    CanvasWriter writer(ReadVersion);
     writer.start();
-    for (const Document& document : {odg(kPlainRect), odt("<text:p>Text</text:p>"),
-                                     qmtx(kPlainLabel), cnv(shapeOn(writer).bytes())}) {
+    for (const Document& document : {odg(PlainRect), odt("<text:p>Text</text:p>"), qmtx(PlainLabel),
+                                     cnv(shapeOn(writer).bytes())}) {
         const FileReport report = reportOn(document);
         SCOPED_TRACE(codesOf(report).toStdString());
         EXPECT_TRUE(report.lost.isEmpty());
@@ -411,7 +408,7 @@ TEST(ReportedLosses, APictureThatManyFramesShowIsMissingInAll)
 {
     const QByteArray frame = "<draw:frame svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
                              "svg:height=\"1in\"><draw:image xlink:href=\"no.png\"/></draw:frame>";
-    const FileReport report = reportOn(odg(kPlainRect + frame.repeated(3)));
+    const FileReport report = reportOn(odg(PlainRect + frame.repeated(3)));
     const Finding* finding = findingOf(report, lossCode(LossKind::PictureUnreadable));
     ASSERT_NE(finding, nullptr) << codesOf(report).toStdString();
     EXPECT_EQ(finding->count, 3);

@@ -55,7 +55,7 @@ TEST(SavedLabelReport, IsCompleteForAPlainLabel)
     const QString original = folder.filePath(u"plain.qmtx"_s);
     QFile file(original);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(controlsOf(kPlainLabel));
+    file.write(controlsOf(PlainLabel));
     file.close();
     const FileReport report =
         reportOnSaved(workbench::importLabel(original), folder.filePath(u"plain.label"_s));

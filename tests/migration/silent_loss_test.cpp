@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace migration;
 
 namespace {
@@ -68,8 +70,8 @@ Document fullCanvas()
         header->x = 0.2;
         header->y = 0.2;
     }
-    text.content = QStringLiteral("Text");
-    barcode.content = QStringLiteral("12345");
+    text.content = u"Text"_s;
+    barcode.content = u"12345"_s;
     picture.picture = QImage(4, 4, QImage::Format_RGB32);
     picture.picture.fill(Qt::red);
     symbol.svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"><rect "
@@ -160,8 +162,8 @@ TEST(SilentLoss, ADocumentOfOtherPrefixesIsNotReportedAsComplete)
 {
     // A document may define other prefixes; the reader only supports the usual ones.
     Document document = {
-        QStringLiteral("prefixes.odg"),
-        packageOf("<office:drawing><draw:page>" + kPlainRect +
+        u"prefixes.odg"_s,
+        packageOf("<office:drawing><draw:page>" + PlainRect +
                   "<d:rect xmlns:d=\"urn:oasis:names:tc:opendocument:xmlns:drawing:1.0\"/>"
                   "</draw:page></office:drawing>")};
     const FileReport report = reportOn(document);

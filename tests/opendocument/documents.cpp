@@ -9,6 +9,8 @@
 
 #include <private/qzipwriter_p.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 xmllimits::Element elementOf(const QByteArray& xml)
 {
     // Elements are valid only during the lifetime of their document.
@@ -48,8 +50,8 @@ QByteArray textXml(const QByteArray& text, const QByteArray& styles)
 
 Package::Package(const QByteArray& styles, const QByteArray& content)
 {
-    add(QStringLiteral("styles.xml"), styles);
-    add(QStringLiteral("content.xml"), content);
+    add(u"styles.xml"_s, styles);
+    add(u"content.xml"_s, content);
 }
 
 Package& Package::add(const QString& name, const QByteArray& data)
@@ -85,7 +87,7 @@ QString Package::write()
 
 QString Package::writeRaw(const QByteArray& bytes)
 {
-    const QString path = m_folder.filePath(QStringLiteral("label%1.odg").arg(++m_written));
+    const QString path = m_folder.filePath(u"label%1.odg"_s.arg(++m_written));
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);

@@ -1,5 +1,7 @@
 #include "tests/orvanta/reader_fixture.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using BarcodeBuilding = ReaderFixture;
@@ -16,20 +18,20 @@ TEST_F(BarcodeBuilding, ABarcodeIsMadeImportedAndSetUpInOrder)
                  "<barcode_type>10</barcode_type>"
                  "<rotation>90</rotation><flip_horizontally>true</flip_horizontally></barcode>");
     EXPECT_EQ(takeCalls(), QStringList({
-                               QStringLiteral("factory create 1001d"),
-                               QStringLiteral("canvas importItem 'item:1'"),
-                               QStringLiteral("item:1 setBackgroundColor '#ff00ff00'"),
-                               QStringLiteral("item:1 setForegroundColor '#ff0000ff'"),
-                               QStringLiteral("item:1 setItemSize 300 75"),
-                               QStringLiteral("item:1 setFlipHorizontal false"),
-                               QStringLiteral("item:1 setFlipVertical false"),
-                               QStringLiteral("item:1 setItemRotation 0"),
-                               QStringLiteral("item:1 setFontFamily 'Arial'"),
-                               QStringLiteral("item:1 setFontBold false"),
-                               QStringLiteral("item:1 setFontItalic true"),
-                               QStringLiteral("item:1 setFontUnderline false"),
-                               QStringLiteral("item:1 setFontPointSize 9"),
-                               QStringLiteral("item:1 setBarcodeType 13"),
+                               u"factory create 1001d"_s,
+                               u"canvas importItem 'item:1'"_s,
+                               u"item:1 setBackgroundColor '#ff00ff00'"_s,
+                               u"item:1 setForegroundColor '#ff0000ff'"_s,
+                               u"item:1 setItemSize 300 75"_s,
+                               u"item:1 setFlipHorizontal false"_s,
+                               u"item:1 setFlipVertical false"_s,
+                               u"item:1 setItemRotation 0"_s,
+                               u"item:1 setFontFamily 'Arial'"_s,
+                               u"item:1 setFontBold false"_s,
+                               u"item:1 setFontItalic true"_s,
+                               u"item:1 setFontUnderline false"_s,
+                               u"item:1 setFontPointSize 9"_s,
+                               u"item:1 setBarcodeType 13"_s,
                            }));
     EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
     EXPECT_EQ(logText(), QString());
@@ -39,8 +41,8 @@ TEST_F(BarcodeBuilding, AnEmptyBarcodeHasTheDefaultSymbology)
 {
     readControls("<barcode/>");
     const QStringList calls = callsOf("item:1");
-    EXPECT_EQ(calls.first(), QStringLiteral("setBackgroundColor '#00000000'"));
-    EXPECT_EQ(calls.last(), QStringLiteral("setBarcodeType 8"));
+    EXPECT_EQ(calls.first(), u"setBackgroundColor '#00000000'"_s);
+    EXPECT_EQ(calls.last(), u"setBarcodeType 8"_s);
     EXPECT_TRUE(callsOf("datasources").isEmpty());
 }
 
@@ -48,16 +50,15 @@ TEST_F(BarcodeBuilding, ANegativeBarcodeExchangesBarsAndGround)
 {
     readControls("<barcode><printable_control><negative>true</negative>"
                  "<transparency>false</transparency></printable_control></barcode>");
-    EXPECT_EQ(callsOf("item:1").mid(0, 2),
-              QStringList({QStringLiteral("setBackgroundColor '#ff000000'"),
-                           QStringLiteral("setForegroundColor '#ffffffff'")}));
+    EXPECT_EQ(callsOf("item:1").mid(0, 2), QStringList({u"setBackgroundColor '#ff000000'"_s,
+                                                        u"setForegroundColor '#ffffffff'"_s}));
 }
 
 TEST_F(BarcodeBuilding, ASizeBeyondAnIntIsTheLargest)
 {
     readControls("<barcode><printable_control><font><size>1e300</size></font></printable_control>"
                  "</barcode>");
-    EXPECT_TRUE(callsOf("item:1").contains(QStringLiteral("setFontPointSize 2147483647")));
+    EXPECT_TRUE(callsOf("item:1").contains(u"setFontPointSize 2147483647"_s));
 }
 
 TEST_F(BarcodeBuilding, ABarcodeThatTheHostDoesNotMakeIsLeftOut)
@@ -66,6 +67,5 @@ TEST_F(BarcodeBuilding, ABarcodeThatTheHostDoesNotMakeIsLeftOut)
     readControls("<barcode><ArrayOfString><s>a</s></ArrayOfString></barcode>");
     EXPECT_EQ(host.itemCount(), 0);
     EXPECT_TRUE(callsOf("datasources").isEmpty());
-    EXPECT_EQ(logText(),
-              QStringLiteral("Left out of the label: a barcode, for which the host made no item"));
+    EXPECT_EQ(logText(), u"Left out of the label: a barcode, for which the host made no item"_s);
 }

@@ -3,6 +3,8 @@
 
 #include <QImage>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using PictureBuilding = ReaderFixture;
@@ -26,13 +28,13 @@ TEST_F(PictureBuilding, ARasterPictureIsLoadedImportedAndPlaced)
 {
     readControls(pictureBox(monoPng(12, 8), Place));
     EXPECT_EQ(takeCalls(), QStringList({
-                               QStringLiteral("factory create 1000c"),
-                               QStringLiteral("item:1 pixmapImportActions 12x8"),
-                               QStringLiteral("canvas importItem 'item:1'"),
-                               QStringLiteral("item:1 setItemSize 300 75"),
-                               QStringLiteral("item:1 setFlipHorizontal true"),
-                               QStringLiteral("item:1 setFlipVertical true"),
-                               QStringLiteral("item:1 setItemRotation 90"),
+                               u"factory create 1000c"_s,
+                               u"item:1 pixmapImportActions 12x8"_s,
+                               u"canvas importItem 'item:1'"_s,
+                               u"item:1 setItemSize 300 75"_s,
+                               u"item:1 setFlipHorizontal true"_s,
+                               u"item:1 setFlipVertical true"_s,
+                               u"item:1 setItemRotation 90"_s,
                            }));
     EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
     EXPECT_EQ(logText(), QString());
@@ -41,14 +43,14 @@ TEST_F(PictureBuilding, ARasterPictureIsLoadedImportedAndPlaced)
 TEST_F(PictureBuilding, AByteOrderMarkInFrontOfARasterPictureGoesToo)
 {
     readControls(pictureBox("\xEF\xBB\xBF" + monoPng(12, 8)));
-    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 12x8"));
+    EXPECT_EQ(callsOf("item:1").first(), u"pixmapImportActions 12x8"_s);
 }
 
 TEST_F(PictureBuilding, InvalidPicturesKeepTheirPosition)
 {
     readControls(pictureBox("no picture", Place));
-    EXPECT_EQ(callsOf("item:1").mid(0, 2), QStringList({QStringLiteral("pixmapImportActions 0x0"),
-                                                        QStringLiteral("setItemSize 300 75")}));
+    EXPECT_EQ(callsOf("item:1").mid(0, 2),
+              QStringList({u"pixmapImportActions 0x0"_s, u"setItemSize 300 75"_s}));
     EXPECT_EQ(host.itemCount(), 1);
     EXPECT_EQ(logText(), QString());
 }
@@ -65,22 +67,21 @@ TEST_F(PictureBuilding, AnSvgPictureBecomesASymbol)
 {
     readControls(pictureBox("\xEF\xBB\xBF<svg d1p1:a='1'/>", Place));
     const QByteArray svg = "<svg a='1'/>";
-    EXPECT_EQ(takeCalls(),
-              QStringList({
-                  QStringLiteral("symbolcreator loadImportedSvg ") + TestHost::shown(svg),
-                  QStringLiteral("symbolcreator convertSvgToSymbol [0 0 0 0]"),
-                  QStringLiteral("symbolcreator getSymbolData"),
-                  QStringLiteral("factory create 1000d"),
-                  QStringLiteral("item:1 loadItemFromData ") + TestHost::shown("symbol of " + svg),
-                  QStringLiteral("item:1 getItemSize"),
-                  QStringLiteral("item:1 setForegroundColor '#ff0000ff'"),
-                  QStringLiteral("item:1 setFillColor '#ff00ff00'"),
-                  QStringLiteral("canvas importItem 'item:1'"),
-                  QStringLiteral("item:1 setItemSize 300 75"),
-                  QStringLiteral("item:1 setFlipHorizontal true"),
-                  QStringLiteral("item:1 setFlipVertical true"),
-                  QStringLiteral("item:1 setItemRotation 90"),
-              }));
+    EXPECT_EQ(takeCalls(), QStringList({
+                               u"symbolcreator loadImportedSvg "_s + TestHost::shown(svg),
+                               u"symbolcreator convertSvgToSymbol [0 0 0 0]"_s,
+                               u"symbolcreator getSymbolData"_s,
+                               u"factory create 1000d"_s,
+                               u"item:1 loadItemFromData "_s + TestHost::shown("symbol of " + svg),
+                               u"item:1 getItemSize"_s,
+                               u"item:1 setForegroundColor '#ff0000ff'"_s,
+                               u"item:1 setFillColor '#ff00ff00'"_s,
+                               u"canvas importItem 'item:1'"_s,
+                               u"item:1 setItemSize 300 75"_s,
+                               u"item:1 setFlipHorizontal true"_s,
+                               u"item:1 setFlipVertical true"_s,
+                               u"item:1 setItemRotation 90"_s,
+                           }));
     EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
 }
 
@@ -88,8 +89,7 @@ TEST_F(PictureBuilding, OnlyTheExactStartMakesASymbol)
 {
     readControls(pictureBox("<SVG/>") + pictureBox(" <svg/>") + pictureBox("<?xml?><svg/>"));
     EXPECT_EQ(callsOf("factory"),
-              QStringList({QStringLiteral("create 1000c"), QStringLiteral("create 1000c"),
-                           QStringLiteral("create 1000c")}));
+              QStringList({u"create 1000c"_s, u"create 1000c"_s, u"create 1000c"_s}));
     EXPECT_TRUE(callsOf("symbolcreator").isEmpty());
 }
 
@@ -139,18 +139,17 @@ TEST_F(PictureBuilding, PicturesThatTheHostDoesNotMakeAreLeftOut)
     readControls(pictureBox("<svg/>") + pictureBox(monoPng(1, 1)));
     EXPECT_EQ(host.itemCount(), 0);
     EXPECT_EQ(host.livingItems(), 0);
-    EXPECT_EQ(logText(),
-              QStringLiteral("Left out of the label: a symbol, for which the host made no item\n"
-                             "Left out of the label: a picture, for which the host made no item"));
+    EXPECT_EQ(logText(), u"Left out of the label: a symbol, for which the host made no item\n"
+                         "Left out of the label: a picture, for which the host made no item"_s);
 }
 
 TEST_F(PictureBuilding, APictureThatClaimsToBeHugeIsAFailedLoad)
 {
     readControls(pictureBox("P6 20000 30000 255 x"));
-    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0x0"));
+    EXPECT_EQ(callsOf("item:1").first(), u"pixmapImportActions 0x0"_s);
     EXPECT_EQ(host.itemCount(), 1);
-    EXPECT_EQ(logText(), QStringLiteral("Left out of the label: a picture of 20000 by 30000 pixels "
-                                        "is too large"));
+    EXPECT_EQ(logText(), u"Left out of the label: a picture of 20000 by 30000 pixels "
+                         "is too large"_s);
 }
 
 TEST_F(PictureBuilding, TheLimitOfAllPicturesAppliesToEachLabel)
@@ -159,11 +158,11 @@ TEST_F(PictureBuilding, TheLimitOfAllPicturesAppliesToEachLabel)
     const QByteArray large = pictureBox(monoPng(5000, 5000)).repeated(6);
     const QByteArray label =
         "<qmtx><controls>" + large + pictureBox(monoPng(2, 2)) + "</controls></qmtx>";
-    const QString whole = QStringLiteral("pixmapImportActions 5000x5000");
+    const QString whole = u"pixmapImportActions 5000x5000"_s;
     EXPECT_TRUE(import(label));
     EXPECT_EQ(callsOf("item:5").first(), whole);
-    EXPECT_EQ(callsOf("item:6").first(), QStringLiteral("pixmapImportActions 0x0"));
-    EXPECT_EQ(callsOf("item:7").first(), QStringLiteral("pixmapImportActions 2x2"));
+    EXPECT_EQ(callsOf("item:6").first(), u"pixmapImportActions 0x0"_s);
+    EXPECT_EQ(callsOf("item:7").first(), u"pixmapImportActions 2x2"_s);
     EXPECT_TRUE(import(label));
     EXPECT_EQ(callsOf("item:8").first(), whole);
 }
@@ -175,7 +174,7 @@ TEST_F(PictureBuilding, RendersADrawingThatDoesNotBeginWithSvg)
     const QByteArray starts[] = {"<?xml version='1.0'?>", "<!-- logo -->", "\n ", "<!DOCTYPE svg>"};
     for (const QByteArray& start : starts) {
         readControls(pictureBox(start + svg));
-        EXPECT_TRUE(takeCalls().filter(QStringLiteral("pixmapImportActions 4x3")).size() == 1)
+        EXPECT_TRUE(takeCalls().filter(u"pixmapImportActions 4x3"_s).size() == 1)
             << start.constData();
     }
     EXPECT_EQ(logText(), QString());
@@ -184,16 +183,16 @@ TEST_F(PictureBuilding, RendersADrawingThatDoesNotBeginWithSvg)
 TEST_F(PictureBuilding, ADrawingThatCannotBeRenderedKeepsItsPlace)
 {
     readControls(pictureBox("<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg'>"));
-    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0x0"));
-    EXPECT_TRUE(logText().contains(QStringLiteral("a drawing that is damaged or too large")));
+    EXPECT_EQ(callsOf("item:1").first(), u"pixmapImportActions 0x0"_s);
+    EXPECT_TRUE(logText().contains(u"a drawing that is damaged or too large"_s));
 }
 
 TEST_F(PictureBuilding, ADrawingOfTooManyPixelsIsNotRendered)
 {
     readControls(pictureBox("<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
                             "width='100000' height='100000'/>"));
-    EXPECT_EQ(callsOf("item:1").first(), QStringLiteral("pixmapImportActions 0x0"));
-    EXPECT_TRUE(logText().contains(QStringLiteral("is too large")));
+    EXPECT_EQ(callsOf("item:1").first(), u"pixmapImportActions 0x0"_s);
+    EXPECT_TRUE(logText().contains(u"is too large"_s));
 }
 
 TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)
@@ -202,21 +201,20 @@ TEST_F(PictureBuilding, ABackgroundPictureFillsTheLabel)
                        "</content></pre_printed_image><controls><transparent_label/></controls>"
                        "</qmtx>"));
     const QStringList calls = takeCalls();
-    EXPECT_EQ(calls.mid(0, 12),
-              QStringList({
-                  QStringLiteral("canvas importCanvasParameters 432 288 false false"),
-                  QStringLiteral("canvas canvasDefaultPenColor"),
-                  QStringLiteral("canvas canvasBackgroundColor"),
-                  QStringLiteral("factory create 1000c"),
-                  QStringLiteral("item:1 pixmapImportActions 3x2"),
-                  QStringLiteral("canvas importItem 'item:1'"),
-                  QStringLiteral("item:1 setItemSize 432 288"),
-                  QStringLiteral("item:1 setFlipHorizontal false"),
-                  QStringLiteral("item:1 setFlipVertical false"),
-                  QStringLiteral("item:1 setItemRotation 0"),
-                  QStringLiteral("canvas setUserBackgroundStateOnItemsInList true ['item:1']"),
-                  QStringLiteral("factory create 10016"),
-              }));
+    EXPECT_EQ(calls.mid(0, 12), QStringList({
+                                    u"canvas importCanvasParameters 432 288 false false"_s,
+                                    u"canvas canvasDefaultPenColor"_s,
+                                    u"canvas canvasBackgroundColor"_s,
+                                    u"factory create 1000c"_s,
+                                    u"item:1 pixmapImportActions 3x2"_s,
+                                    u"canvas importItem 'item:1'"_s,
+                                    u"item:1 setItemSize 432 288"_s,
+                                    u"item:1 setFlipHorizontal false"_s,
+                                    u"item:1 setFlipVertical false"_s,
+                                    u"item:1 setItemRotation 0"_s,
+                                    u"canvas setUserBackgroundStateOnItemsInList true ['item:1']"_s,
+                                    u"factory create 10016"_s,
+                                }));
     EXPECT_EQ(host.item(1)->pos(), QPointF(0, 0));
 }
 
@@ -225,17 +223,16 @@ TEST_F(PictureBuilding, AnSvgBackgroundIsDrawnInTheCanvasColors)
     EXPECT_TRUE(import("<qmtx><printable_control><bounds><w>400</w><h>600</h></bounds>"
                        "</printable_control><pre_printed_image><content>" +
                        QByteArray("<svg/>").toBase64() + "</content></pre_printed_image></qmtx>"));
-    EXPECT_EQ(callsOf("item:1"),
-              QStringList({
-                  QStringLiteral("loadItemFromData ") + TestHost::shown("symbol of <svg/>"),
-                  QStringLiteral("getItemSize"),
-                  QStringLiteral("setForegroundColor '#ff405060'"),
-                  QStringLiteral("setFillColor '#00000000'"),
-                  QStringLiteral("setItemSize 300 450"),
-                  QStringLiteral("setFlipHorizontal false"),
-                  QStringLiteral("setFlipVertical false"),
-                  QStringLiteral("setItemRotation 0"),
-              }));
+    EXPECT_EQ(callsOf("item:1"), QStringList({
+                                     u"loadItemFromData "_s + TestHost::shown("symbol of <svg/>"),
+                                     u"getItemSize"_s,
+                                     u"setForegroundColor '#ff405060'"_s,
+                                     u"setFillColor '#00000000'"_s,
+                                     u"setItemSize 300 450"_s,
+                                     u"setFlipHorizontal false"_s,
+                                     u"setFlipVertical false"_s,
+                                     u"setItemRotation 0"_s,
+                                 }));
 }
 
 TEST_F(PictureBuilding, ABackgroundWithoutBytesOrSymbolIsIgnored)
@@ -248,11 +245,10 @@ TEST_F(PictureBuilding, ABackgroundWithoutBytesOrSymbolIsIgnored)
         SCOPED_TRACE(image.constData());
         host.forgetCalls();
         EXPECT_TRUE(import("<qmtx><pre_printed_image>" + image + "</pre_printed_image></qmtx>"));
-        EXPECT_EQ(takeCalls(),
-                  QStringList({QStringLiteral("canvas importCanvasParameters 432 288 false false"),
-                               QStringLiteral("canvas completeCanvasLoading")}));
+        EXPECT_EQ(takeCalls(), QStringList({u"canvas importCanvasParameters 432 288 false false"_s,
+                                            u"canvas completeCanvasLoading"_s}));
     }
     EXPECT_TRUE(import("<qmtx><pre_printed_image><content>" + QByteArray("<svg/>").toBase64() +
                        "</content></pre_printed_image></qmtx>"));
-    EXPECT_TRUE(callsOf("canvas").filter(QStringLiteral("setUserBackground")).isEmpty());
+    EXPECT_TRUE(callsOf("canvas").filter(u"setUserBackground"_s).isEmpty());
 }

@@ -1,5 +1,7 @@
 #include "tests/orvanta/reader_fixture.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using ShapeBuilding = ReaderFixture;
@@ -15,15 +17,15 @@ TEST_F(ShapeBuilding, AShapeIsMadeImportedAndSetUpInOrder)
                  "<rotation>10</rotation><flip_vertically>true</flip_vertically>"
                  "</transparent_shape>");
     EXPECT_EQ(takeCalls(), QStringList({
-                               QStringLiteral("factory create 1002c"),
-                               QStringLiteral("canvas importItem 'item:1'"),
-                               QStringLiteral("item:1 setFillColor '#ff00ff00'"),
-                               QStringLiteral("item:1 setPenColor '#ff0000ff'"),
-                               QStringLiteral("item:1 setPenWidth 2"),
-                               QStringLiteral("item:1 setItemSize 300 75"),
-                               QStringLiteral("item:1 setFlipHorizontal false"),
-                               QStringLiteral("item:1 setFlipVertical true"),
-                               QStringLiteral("item:1 setItemRotation 10"),
+                               u"factory create 1002c"_s,
+                               u"canvas importItem 'item:1'"_s,
+                               u"item:1 setFillColor '#ff00ff00'"_s,
+                               u"item:1 setPenColor '#ff0000ff'"_s,
+                               u"item:1 setPenWidth 2"_s,
+                               u"item:1 setItemSize 300 75"_s,
+                               u"item:1 setFlipHorizontal false"_s,
+                               u"item:1 setFlipVertical true"_s,
+                               u"item:1 setItemRotation 10"_s,
                            }));
     EXPECT_EQ(host.item(1)->pos(), QPointF(75, 30));
 }
@@ -84,8 +86,8 @@ TEST_F(ShapeBuilding, OnlyAnOpaqueOddShapeIsFilled)
                      "</shape_index></transparent_shape>");
         const QByteArray name = "item:" + QByteArray::number(++number);
         const QStringList calls = callsOf(name.constData());
-        EXPECT_EQ(calls.at(0), QStringLiteral("setFillColor ") + QString::fromLatin1(row.fill));
-        EXPECT_EQ(calls.at(1), QStringLiteral("setPenColor ") + QString::fromLatin1(row.pen));
+        EXPECT_EQ(calls.at(0), u"setFillColor "_s + QString::fromLatin1(row.fill));
+        EXPECT_EQ(calls.at(1), u"setPenColor "_s + QString::fromLatin1(row.pen));
     }
 }
 
@@ -118,7 +120,6 @@ TEST_F(ShapeBuilding, AShapeThatTheHostDoesNotMakeIsLeftOut)
                  "<transparent_shape><sides>3</sides></transparent_shape>");
     EXPECT_EQ(host.itemCount(), 1);
     EXPECT_EQ(host.livingItems(), 1);
-    EXPECT_EQ(logText(),
-              QStringLiteral("Left out of the label: a shape, for which the host made no item\n"
-                             "Left out of the label: a shape, for which the host made no item"));
+    EXPECT_EQ(logText(), u"Left out of the label: a shape, for which the host made no item\n"
+                         "Left out of the label: a shape, for which the host made no item"_s);
 }

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using element_support::knowsFamily;
 using element_support::ParsedElement;
 
@@ -24,13 +26,13 @@ Control decode(Control (*read)(const orvanta::Element&, orvanta::FamilyCheck),
 template <typename Control>
 void expectTurns(const Control& control, bool expected)
 {
-    EXPECT_EQ(control.properties.text, QStringLiteral("t"));
+    EXPECT_EQ(control.properties.text, u"t"_s);
     EXPECT_EQ(control.properties.rotation, expected ? 30.0 : 0.0);
     EXPECT_EQ(control.properties.flipHorizontal, expected);
     EXPECT_EQ(control.properties.flipVertical, expected);
 }
 
-const QStringList OneAndTwo = {QStringLiteral("one"), QStringLiteral("two")};
+const QStringList OneAndTwo = {u"one"_s, u"two"_s};
 
 } // namespace
 
@@ -52,7 +54,7 @@ TEST(Controls, ALaterPrintableControlReplacesTheEarlierButNotTheTurns)
                "<printable_control><text>a</text><negative>true</negative></printable_control>"
                "<rotation>30</rotation><flip_vertically>true</flip_vertically>"
                "<printable_control><text>b</text></printable_control>");
-    EXPECT_EQ(control.properties.text, QStringLiteral("b"));
+    EXPECT_EQ(control.properties.text, u"b"_s);
     EXPECT_FALSE(control.properties.negative);
     EXPECT_EQ(control.properties.rotation, 30.0);
     EXPECT_TRUE(control.properties.flipVertical);
@@ -163,19 +165,19 @@ TEST(ListControl, ReadsItsEntries)
     const auto control = decode(orvanta::readListControl,
                                 "<ArrayOfAnyType><a>x</a><b/></ArrayOfAnyType><items><a>y</a>"
                                 "</items>");
-    EXPECT_EQ(control.entries, QStringList({QStringLiteral("x"), QString()}));
+    EXPECT_EQ(control.entries, QStringList({u"x"_s, QString()}));
 }
 
 TEST(DateTimeControl, ReadsItsFormat)
 {
     EXPECT_EQ(decode(orvanta::readDateTimeControl, "").formats, QStringList());
     EXPECT_EQ(decode(orvanta::readDateTimeControl, "<format>4</format>").formats,
-              QStringList({QString(), QStringLiteral("HH:mm:ss")}));
+              QStringList({QString(), u"HH:mm:ss"_s}));
     for (const char* children : {"<format>3</format>", "<format>abc</format>", "<format/>",
                                  "<format>9999999999</format>"}) {
         SCOPED_TRACE(children);
         EXPECT_EQ(decode(orvanta::readDateTimeControl, children).formats,
-                  QStringList({QStringLiteral("MM-dd-yyyy"), QStringLiteral("HH:mm:ss")}));
+                  QStringList({u"MM-dd-yyyy"_s, u"HH:mm:ss"_s}));
     }
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using element_support::knowsFamily;
 using element_support::ParsedElement;
 using orvanta::ControlProperties;
@@ -27,7 +29,7 @@ TEST(ControlProperties, StartFromDefaults)
     EXPECT_EQ(properties.foreColor, QColor(Qt::black));
     EXPECT_EQ(properties.backColor, QColor(Qt::white));
     EXPECT_EQ(properties.bounds, QRectF());
-    EXPECT_EQ(properties.fontFamily, QStringLiteral("Arial"));
+    EXPECT_EQ(properties.fontFamily, u"Arial"_s);
     EXPECT_EQ(properties.fontSize, 24.0);
     EXPECT_EQ(properties.fontStyle, 0);
     EXPECT_EQ(properties.rotation, 0.0);
@@ -42,13 +44,13 @@ TEST(ControlProperties, ReadEveryChild)
              "<negative>true</negative><fore_color>255</fore_color><back_color>65280</back_color>"
              "<bounds><x>204</x><y>208</y><w>40</w><h>20</h></bounds>"
              "<font><family>Courier New</family><size>8.5</size><style>3</style></font>");
-    EXPECT_EQ(properties.text, QStringLiteral("Flour & salt"));
+    EXPECT_EQ(properties.text, u"Flour & salt"_s);
     EXPECT_FALSE(properties.transparent);
     EXPECT_TRUE(properties.negative);
     EXPECT_EQ(properties.foreColor, QColor(0, 0, 255));
     EXPECT_EQ(properties.backColor, QColor(0, 255, 0));
     EXPECT_EQ(properties.bounds, QRectF(3, 6, 30, 15));
-    EXPECT_EQ(properties.fontFamily, QStringLiteral("Courier New"));
+    EXPECT_EQ(properties.fontFamily, u"Courier New"_s);
     EXPECT_EQ(properties.fontSize, 8.5);
     EXPECT_EQ(properties.fontStyle, 3);
 }
@@ -66,7 +68,7 @@ TEST(ControlProperties, ARepeatedChildReplacesTheEarlier)
         read("<text>a</text><text>b</text>"
              "<bounds><x>300</x><w>4</w></bounds><bounds><h>8</h></bounds>"
              "<font><size>8</size><style>1</style></font><font><size>9</size></font>");
-    EXPECT_EQ(properties.text, QStringLiteral("b"));
+    EXPECT_EQ(properties.text, u"b"_s);
     EXPECT_EQ(properties.bounds, QRectF(0, 0, 0, 6));
     EXPECT_EQ(properties.fontSize, 9.0);
     EXPECT_EQ(properties.fontStyle, 0) << "a font element starts from the defaults";
@@ -85,9 +87,9 @@ TEST(ControlProperties, IgnoreOtherChildrenAndOtherCapitals)
 
 TEST(ControlProperties, KeepLineFeedsAndBlanksOfATextButNotBlanksAlone)
 {
-    EXPECT_EQ(read("<text> one\n two </text>").text, QStringLiteral(" one\n two "));
+    EXPECT_EQ(read("<text> one\n two </text>").text, u" one\n two "_s);
     EXPECT_EQ(read("<text>   </text>").text, QString()) << "the parser drops white space alone";
-    EXPECT_EQ(read("<text>a&#13;b&#x20AC;</text>").text, QStringLiteral("a\rb\u20AC"));
+    EXPECT_EQ(read("<text>a&#13;b&#x20AC;</text>").text, u"a\rb\u20AC"_s);
 }
 
 TEST(Colors, AreTheLow24BitsAndOpaque)
@@ -123,7 +125,7 @@ TEST(Colors, OfTheProcessAreFive)
     EXPECT_EQ(orvanta::colors::Black, QColor(0, 0, 0));
     EXPECT_EQ(orvanta::colors::White, QColor(255, 255, 255));
     EXPECT_EQ(orvanta::colors::Transparent, QColor(0, 0, 0, 0));
-    EXPECT_EQ(QString(orvanta::colors::TransparentName), QStringLiteral("transparent"));
+    EXPECT_EQ(QString(orvanta::colors::TransparentName), u"transparent"_s);
     EXPECT_EQ(orvanta::colors::AlmostWhite, QColor(255, 255, 254));
 }
 

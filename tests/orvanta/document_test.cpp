@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QStringConverter>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Document = ReaderFixture;
@@ -14,10 +16,9 @@ constexpr char ImportFunction[] = "bool LegacyOrvanta::importLabelFromFile(const
 /// A label whose only object is a text with letters beyond Latin-1.
 QString labelText(const QString& declaration)
 {
-    return declaration +
-           QStringLiteral("<qmtx><controls><transparent_label><printable_control><text>"
-                          "Käse\u20AC</text></printable_control></transparent_label></controls>"
-                          "</qmtx>");
+    return declaration + u"<qmtx><controls><transparent_label><printable_control><text>"
+                         "Käse\u20AC</text></printable_control></transparent_label></controls>"
+                         "</qmtx>"_s;
 }
 
 QByteArray encodedAs(QStringConverter::Encoding encoding, const QString& text)
@@ -40,9 +41,8 @@ bool parsesFromTextDevice(const QString& path)
 TEST_F(Document, AnEmptyLabelHasTheDefaultPage)
 {
     EXPECT_TRUE(import("<qmtx/>"));
-    EXPECT_EQ(takeCalls(),
-              QStringList({QStringLiteral("canvas importCanvasParameters 432 288 false false"),
-                           QStringLiteral("canvas completeCanvasLoading")}));
+    EXPECT_EQ(takeCalls(), QStringList({u"canvas importCanvasParameters 432 288 false false"_s,
+                                        u"canvas completeCanvasLoading"_s}));
     EXPECT_EQ(logText(), QString());
 }
 
@@ -74,11 +74,10 @@ TEST_F(Document, IsReadInItsOwnOrderPageBackgroundObjects)
                        "<printable_control><bounds><w>4</w><h>4</h></bounds></printable_control>"
                        "</qmtx>"));
     const QStringList calls = takeCalls();
-    EXPECT_EQ(calls.first(), QStringLiteral("canvas importCanvasParameters 3 3 false false"));
-    EXPECT_EQ(calls.at(3), QStringLiteral("factory create 1000c"));
-    EXPECT_EQ(calls.filter(QStringLiteral("factory")).last(),
-              QStringLiteral("factory create 1002a"));
-    EXPECT_EQ(calls.last(), QStringLiteral("canvas completeCanvasLoading"));
+    EXPECT_EQ(calls.first(), u"canvas importCanvasParameters 3 3 false false"_s);
+    EXPECT_EQ(calls.at(3), u"factory create 1000c"_s);
+    EXPECT_EQ(calls.filter(u"factory"_s).last(), u"factory create 1002a"_s);
+    EXPECT_EQ(calls.last(), u"canvas completeCanvasLoading"_s);
 }
 
 TEST_F(Document, OnlyTheFirstOfRepeatedPartsCounts)
@@ -108,7 +107,7 @@ TEST_F(Document, EveryKindOfObjectHasItsItem)
     }
     host.forgetCalls();
     readControls("<picture_box><image><content>YWJj</content></image></picture_box>");
-    EXPECT_EQ(callsOf("factory"), QStringList(QStringLiteral("create 1000c")));
+    EXPECT_EQ(callsOf("factory"), QStringList(u"create 1000c"_s));
     EXPECT_EQ(logText(), QString());
 }
 
@@ -116,48 +115,45 @@ TEST_F(Document, UnknownObjectsAreLoggedAndLeaveNoTrace)
 {
     EXPECT_TRUE(import("<qmtx><controls>text<barcode/><!-- none --><foo><barcode/></foo>"
                        "<transparent_label/></controls></qmtx>"));
-    EXPECT_EQ(callsOf("factory"),
-              QStringList({QStringLiteral("create 1001d"), QStringLiteral("create 10016")}));
-    EXPECT_EQ(logText(), QStringLiteral("Not processing: \"foo\""));
-    EXPECT_EQ(log.records().first().function,
-              QStringLiteral("void LegacyOrvanta::readControls(QDomElement)"));
+    EXPECT_EQ(callsOf("factory"), QStringList({u"create 1001d"_s, u"create 10016"_s}));
+    EXPECT_EQ(logText(), u"Not processing: \"foo\""_s);
+    EXPECT_EQ(log.records().first().function, u"void LegacyOrvanta::readControls(QDomElement)"_s);
 }
 
 TEST_F(Document, NamesOfObjectsAreExact)
 {
     readControls("<Barcode/><combobox/><x:barcode xmlns:x='y'/><transparent_labels/>");
     EXPECT_TRUE(callsOf("factory").isEmpty());
-    EXPECT_EQ(logText(), QStringLiteral("Not processing: \"Barcode\"\n"
-                                        "Not processing: \"combobox\"\n"
-                                        "Not processing: \"x:barcode\"\n"
-                                        "Not processing: \"transparent_labels\""));
+    EXPECT_EQ(logText(), u"Not processing: \"Barcode\"\n"
+                         "Not processing: \"combobox\"\n"
+                         "Not processing: \"x:barcode\"\n"
+                         "Not processing: \"transparent_labels\""_s);
 }
 
 TEST_F(Document, AFileThatIsNotThereIsLogged)
 {
-    const QString path = filePath() + QStringLiteral(".none");
+    const QString path = filePath() + u".none"_s;
     EXPECT_FALSE(reader->importLabelFromFile(path));
-    EXPECT_EQ(logText(), QStringLiteral("Error opening file: ") + path);
+    EXPECT_EQ(logText(), u"Error opening file: "_s + path);
     EXPECT_EQ(log.records().first().function, QString::fromLatin1(ImportFunction));
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
 TEST_F(Document, AFolderOrAnEmptyNameIsNotAFile)
 {
-    EXPECT_FALSE(reader->importLabelFromFile(QStringLiteral("/")));
+    EXPECT_FALSE(reader->importLabelFromFile(u"/"_s));
     EXPECT_FALSE(reader->importLabelFromFile(QString()));
-    EXPECT_EQ(logText(), QStringLiteral("Error opening file: /\nError opening file: "));
+    EXPECT_EQ(logText(), u"Error opening file: /\nError opening file: "_s);
 }
 
 TEST_F(Document, AMalformedFileIsLoggedWithItsPlace)
 {
     EXPECT_FALSE(import("<qmtx>\n  <controls></qmtx>"));
-    const QString start =
-        QStringLiteral("Error parsing file: %1 at line 2, column ").arg(filePath());
+    const QString start = u"Error parsing file: %1 at line 2, column "_s.arg(filePath());
     ASSERT_EQ(log.records().size(), 1);
     EXPECT_TRUE(log.records().first().message.startsWith(start))
         << log.records().first().message.toStdString();
-    EXPECT_TRUE(log.records().first().message.contains(QStringLiteral(":\n")));
+    EXPECT_TRUE(log.records().first().message.contains(u":\n"_s));
     EXPECT_FALSE(log.records().first().message.endsWith(QLatin1Char('\n')))
         << "the parser's own message is the second line";
     EXPECT_EQ(log.records().first().function, QString::fromLatin1(ImportFunction));
@@ -172,7 +168,7 @@ TEST_F(Document, AnotherRootIsRefusedBeforeTheCanvasIsTouched)
         SCOPED_TRACE(xml);
         log.clear();
         EXPECT_FALSE(import(xml));
-        EXPECT_EQ(logText(), QStringLiteral("Error: the file is not a orvanta doc"));
+        EXPECT_EQ(logText(), u"Error: the file is not a orvanta doc"_s);
         EXPECT_EQ(log.records().first().function, QString::fromLatin1(ImportFunction));
         EXPECT_EQ(takeCalls(), QStringList());
     }
@@ -180,21 +176,20 @@ TEST_F(Document, AnotherRootIsRefusedBeforeTheCanvasIsTouched)
 
 TEST_F(Document, IsReadInTheEncodingThatItHas)
 {
-    const QString text = QStringLiteral("setText 'Käse\u20AC'");
+    const QString text = u"setText 'Käse\u20AC'"_s;
     const struct
     {
         const char* why;
         QByteArray bytes;
     } rows[] = {
         {"UTF-8, undeclared", labelText(QString()).toUtf8()},
-        {"UTF-8, declared",
-         labelText(QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?>")).toUtf8()},
+        {"UTF-8, declared", labelText(u"<?xml version=\"1.0\" encoding=\"utf-8\"?>"_s).toUtf8()},
         {"UTF-8 with a byte-order mark", encodedAs(QStringConverter::Utf8, labelText(QString()))},
         {"UTF-16 LE, undeclared", encodedAs(QStringConverter::Utf16LE, labelText(QString()))},
         {"UTF-16 BE, undeclared", encodedAs(QStringConverter::Utf16BE, labelText(QString()))},
         {"UTF-16 LE, declared",
          encodedAs(QStringConverter::Utf16LE,
-                   labelText(QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-16\"?>")))},
+                   labelText(u"<?xml version=\"1.0\" encoding=\"utf-16\"?>"_s))},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
@@ -209,7 +204,7 @@ TEST_F(Document, Latin1NeedsItsDeclaration)
     const QByteArray label = "<qmtx><controls><transparent_label><printable_control><text>K\xE4se"
                              "</text></printable_control></transparent_label></controls></qmtx>";
     EXPECT_TRUE(import("<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>" + label));
-    EXPECT_FALSE(host.calls().filter(QStringLiteral("setText 'Käse'")).isEmpty());
+    EXPECT_FALSE(host.calls().filter(u"setText 'Käse'"_s).isEmpty());
     host.forgetCalls();
     EXPECT_FALSE(import(label));
     EXPECT_EQ(takeCalls(), QStringList());
@@ -219,14 +214,14 @@ TEST_F(Document, LineEndsOfWindowsAreLineFeeds)
 {
     EXPECT_TRUE(import("<qmtx>\r\n<controls>\r\n<transparent_label><printable_control><text>a\r\nb"
                        "</text></printable_control></transparent_label></controls></qmtx>\r\n"));
-    EXPECT_FALSE(host.calls().filter(QStringLiteral("setText 'a\nb'")).isEmpty());
+    EXPECT_FALSE(host.calls().filter(u"setText 'a\nb'"_s).isEmpty());
 }
 
 TEST_F(Document, TextModeTakesCarriageReturnsOutOfEveryEncoding)
 {
     // In two-byte encodings this removes half of a character, and the rest no longer parses.
     // Labels have always been read this way, directly from a device in text mode.
-    const QString text = labelText(QStringLiteral("<?xml version=\"1.0\"?>\r\n"));
+    const QString text = labelText(u"<?xml version=\"1.0\"?>\r\n"_s);
     for (const auto encoding : {QStringConverter::Utf8, QStringConverter::Utf16LE,
                                 QStringConverter::Utf16BE, QStringConverter::Utf32LE}) {
         SCOPED_TRACE(int(encoding));
@@ -255,13 +250,12 @@ TEST_F(Document, NothingOfAFileStaysInTheReader)
     EXPECT_FALSE(import("<label/>"));
     EXPECT_TRUE(import(label));
     QString second = takeCalls().join(QLatin1Char('\n'));
-    second.replace(QStringLiteral("item:3"), QStringLiteral("item:1"))
-        .replace(QStringLiteral("item:4"), QStringLiteral("item:2"))
-        .replace(QStringLiteral("datasource:2"), QStringLiteral("datasource:1"))
-        .replace(QStringLiteral("getDatasource 2"), QStringLiteral("getDatasource 1"))
-        .replace(QStringLiteral("setDatasourceId 2"), QStringLiteral("setDatasourceId 1"));
+    second.replace(u"item:3"_s, u"item:1"_s)
+        .replace(u"item:4"_s, u"item:2"_s)
+        .replace(u"datasource:2"_s, u"datasource:1"_s)
+        .replace(u"getDatasource 2"_s, u"getDatasource 1"_s)
+        .replace(u"setDatasourceId 2"_s, u"setDatasourceId 1"_s);
     EXPECT_EQ(second, first);
     EXPECT_TRUE(import("<qmtx/>"));
-    EXPECT_EQ(takeCalls().first(),
-              QStringLiteral("canvas importCanvasParameters 432 288 false false"));
+    EXPECT_EQ(takeCalls().first(), u"canvas importCanvasParameters 432 288 false false"_s);
 }

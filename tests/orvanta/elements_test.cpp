@@ -6,6 +6,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using element_support::ParsedElement;
 
 namespace {
@@ -92,11 +94,10 @@ TEST(ElementValues, ListsAreTheTextsOfAllChildElements)
     } rows[] = {
         {"<e/>", {}},
         {"<e>text alone</e>", {}},
-        {"<e><a>x</a><b/></e>", {QStringLiteral("x"), QString()}},
-        {"<e>1<string>one</string>2<!-- x --><string>two</string>3</e>",
-         {QStringLiteral("one"), QStringLiteral("two")}},
-        {"<e><a>o<b>n</b>e</a></e>", {QStringLiteral("one")}},
-        {"<e><a>same</a><a>same</a></e>", {QStringLiteral("same"), QStringLiteral("same")}},
+        {"<e><a>x</a><b/></e>", {u"x"_s, QString()}},
+        {"<e>1<string>one</string>2<!-- x --><string>two</string>3</e>", {u"one"_s, u"two"_s}},
+        {"<e><a>o<b>n</b>e</a></e>", {u"one"_s}},
+        {"<e><a>same</a><a>same</a></e>", {u"same"_s, u"same"_s}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.xml);

@@ -4,13 +4,15 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using element_support::knowsFamily;
 using element_support::ParsedElement;
 
 TEST(Font, KeepsDefaultsForWhatIsMissing)
 {
     const orvanta::Font font = orvanta::readFont(ParsedElement("<font/>").element(), knowsFamily);
-    EXPECT_EQ(font.family, QStringLiteral("Arial"));
+    EXPECT_EQ(font.family, u"Arial"_s);
     EXPECT_EQ(font.size, 24.0);
     EXPECT_EQ(font.style, 0);
 }
@@ -19,7 +21,7 @@ TEST(Font, TheDefaultFamilyIsNotChecked)
 {
     const auto knowsNothing = [](QString) { return false; };
     EXPECT_EQ(orvanta::readFont(ParsedElement("<font/>").element(), knowsNothing).family,
-              QStringLiteral("Arial"));
+              u"Arial"_s);
 }
 
 TEST(Font, ReadsFamilySizeAndStyle)
@@ -28,7 +30,7 @@ TEST(Font, ReadsFamilySizeAndStyle)
         ParsedElement("<font><family>Courier New</family><size>10.7</size><style>5</style></font>")
             .element(),
         knowsFamily);
-    EXPECT_EQ(font.family, QStringLiteral("Courier New"));
+    EXPECT_EQ(font.family, u"Courier New"_s);
     EXPECT_EQ(font.size, 10.7);
     EXPECT_EQ(font.style, 5);
 }
@@ -41,7 +43,7 @@ TEST(Font, AFamilyThatTheHostLacksBecomesTheFallback)
           "<font><family>Arial</family><family>Old Sans</family></font>"}) {
         SCOPED_TRACE(xml);
         EXPECT_EQ(orvanta::readFont(ParsedElement(xml).element(), knowsFamily).family,
-                  QStringLiteral("_Nare Vol"));
+                  u"_Nare Vol"_s);
     }
 }
 

@@ -7,6 +7,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using HostileFile = ReaderFixture;
@@ -44,8 +46,7 @@ TEST_F(HostileFile, ALabelTruncatedAtAnyByteIsRefusedCompletely)
         log.clear();
         EXPECT_FALSE(import(whole.left(length))) << length;
         ASSERT_EQ(log.records().size(), 1) << length;
-        EXPECT_TRUE(
-            log.records().first().message.startsWith(QStringLiteral("Error parsing file: ")));
+        EXPECT_TRUE(log.records().first().message.startsWith(u"Error parsing file: "_s));
     }
     EXPECT_EQ(takeCalls(), QStringList());
     EXPECT_TRUE(import(whole));
@@ -64,8 +65,7 @@ TEST_F(HostileFile, AnyByteMayBeWrong)
             const bool imported = import(damaged);
             const QStringList calls = callsOf("canvas");
             EXPECT_EQ(imported, !calls.isEmpty()) << place;
-            EXPECT_EQ(calls.filter(QStringLiteral("completeCanvasLoading")).size(),
-                      imported ? 1 : 0);
+            EXPECT_EQ(calls.filter(u"completeCanvasLoading"_s).size(), imported ? 1 : 0);
         }
     }
 }
@@ -85,7 +85,7 @@ TEST_F(HostileFile, EntitiesOfTheDocumentItselfAreText)
 {
     EXPECT_TRUE(
         import(textLabel("<!DOCTYPE qmtx [<!ENTITY shop 'Corner &#38;#38; Co'>]>", "&shop;!")));
-    EXPECT_FALSE(host.calls().filter(QStringLiteral("setText 'Corner & Co!'")).isEmpty());
+    EXPECT_FALSE(host.calls().filter(u"setText 'Corner & Co!'"_s).isEmpty());
 }
 
 TEST_F(HostileFile, ExternalEntitiesAreNeverOpened)
@@ -102,8 +102,8 @@ TEST_F(HostileFile, ExternalEntitiesAreNeverOpened)
           QByteArray("<!DOCTYPE qmtx SYSTEM '" + url + "'>")}) {
         SCOPED_TRACE(doctype.constData());
         static_cast<void>(import(textLabel(doctype, "a&x;b")));
-        EXPECT_TRUE(host.calls().filter(QStringLiteral("secret")).isEmpty());
-        EXPECT_FALSE(logText().contains(QStringLiteral("the secret")));
+        EXPECT_TRUE(host.calls().filter(u"secret"_s).isEmpty());
+        EXPECT_FALSE(logText().contains(u"the secret"_s));
     }
 }
 
@@ -148,8 +148,8 @@ TEST_F(HostileFile, NumbersOutOfRangeReachTheHostAsTheyAre)
         "<transparent_label><printable_control><font><size>nan</size></font></printable_control>"
         "</transparent_label></controls></qmtx>"));
     EXPECT_EQ(host.itemCount(), 2);
-    EXPECT_TRUE(callsOf("item:1").contains(QStringLiteral("setItemRotation 2147483647")));
-    EXPECT_TRUE(callsOf("item:2").contains(QStringLiteral("setFontPointSize 0")));
+    EXPECT_TRUE(callsOf("item:1").contains(u"setItemRotation 2147483647"_s));
+    EXPECT_TRUE(callsOf("item:2").contains(u"setFontPointSize 0"_s));
 }
 
 TEST_F(HostileFile, HundredThousandCompleteObjectsAreImported)
@@ -171,16 +171,15 @@ TEST_F(HostileFile, TooManyObjectsAreRefusedBeforeTheCanvasIsTouched)
 {
     EXPECT_FALSE(import("<qmtx><controls>" + repeated("<foo/>", orvanta::MaximumControls + 1) +
                         "</controls></qmtx>"));
-    EXPECT_EQ(logText(), QStringLiteral("Error reading file: %1 is too large: it has more than "
-                                        "250000 objects")
-                             .arg(filePath()));
+    EXPECT_EQ(logText(), u"Error reading file: %1 is too large: it has more than "
+                         "250000 objects"_s.arg(filePath()));
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
 TEST_F(HostileFile, ATreeThatWouldFillTheMemoryIsRefused)
 {
     EXPECT_FALSE(import("<qmtx>" + repeated("<a/>", 8'000'000) + "</qmtx>"));
-    EXPECT_TRUE(logText().startsWith(QStringLiteral("Error parsing file: ")));
+    EXPECT_TRUE(logText().startsWith(u"Error parsing file: "_s));
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
@@ -191,24 +190,23 @@ TEST_F(HostileFile, AFileThatIsTooLongIsNotRead)
     ASSERT_TRUE(file.resize(orvanta::MaximumFileSize + 1)); // a sparse file: uses no disk space
     file.close();
     EXPECT_FALSE(reader->importLabelFromFile(filePath()));
-    EXPECT_EQ(logText(), QStringLiteral("Error reading file: %1 is too large: it has more than "
-                                        "134217728 bytes")
-                             .arg(filePath()));
+    EXPECT_EQ(logText(), u"Error reading file: %1 is too large: it has more than "
+                         "134217728 bytes"_s.arg(filePath()));
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
 TEST_F(HostileFile, ADeviceWithoutEndIsNotReadToItsEnd)
 {
-    EXPECT_FALSE(reader->importLabelFromFile(QStringLiteral("/dev/zero")));
+    EXPECT_FALSE(reader->importLabelFromFile(u"/dev/zero"_s));
     EXPECT_EQ(takeCalls(), QStringList());
 }
 
 TEST_F(HostileFile, APipeWithoutAWriterDoesNotBlock)
 {
-    const QString pipe = filePath() + QStringLiteral(".pipe");
+    const QString pipe = filePath() + u".pipe"_s;
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     EXPECT_FALSE(reader->importLabelFromFile(pipe));
-    EXPECT_EQ(logText(), QStringLiteral("Error opening file: %1").arg(pipe));
+    EXPECT_EQ(logText(), u"Error opening file: %1"_s.arg(pipe));
     EXPECT_EQ(takeCalls(), QStringList());
     QFile::remove(pipe);
 }
@@ -221,5 +219,5 @@ TEST_F(HostileFile, ManyAttributesAndLongNamesAreHarmless)
     }
     const QByteArray name(4000, 'n');
     EXPECT_TRUE(import("<qmtx" + attributes + "><controls><" + name + "/></controls></qmtx>"));
-    EXPECT_EQ(logText(), QStringLiteral("Not processing: \"%1\"").arg(QString::fromLatin1(name)));
+    EXPECT_EQ(logText(), u"Not processing: \"%1\""_s.arg(QString::fromLatin1(name)));
 }

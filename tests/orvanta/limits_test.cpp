@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qint64 Plenty = orvanta::MaximumLabelPixels;
@@ -32,15 +34,13 @@ QString refusalOfObjects(int count)
 TEST(OrvantaLimits, MeasureTheFile)
 {
     EXPECT_EQ(refusalOfFileOf(orvanta::MaximumFileSize), QString());
-    EXPECT_EQ(refusalOfFileOf(orvanta::MaximumFileSize + 1),
-              QStringLiteral("it has more than 134217728 bytes"));
+    EXPECT_EQ(refusalOfFileOf(orvanta::MaximumFileSize + 1), u"it has more than 134217728 bytes"_s);
 }
 
 TEST(OrvantaLimits, CountObjects)
 {
     EXPECT_EQ(refusalOfObjects(orvanta::MaximumControls), QString());
-    EXPECT_EQ(refusalOfObjects(orvanta::MaximumControls + 1),
-              QStringLiteral("it has more than 250000 objects"));
+    EXPECT_EQ(refusalOfObjects(orvanta::MaximumControls + 1), u"it has more than 250000 objects"_s);
 }
 
 TEST(OrvantaLimits, CountThePixelsOfAPicture)
@@ -49,7 +49,7 @@ TEST(OrvantaLimits, CountThePixelsOfAPicture)
     // Neither has pixel data; only the first is decoded as far as that.
     EXPECT_EQ(orvanta::decodeRasterPicture("P6 8192 4096 255 x", Plenty).refusal, QString());
     EXPECT_EQ(orvanta::decodeRasterPicture("P6 8192 4097 255 x", Plenty).refusal,
-              QStringLiteral("a picture of 8192 by 4097 pixels is too large"));
+              u"a picture of 8192 by 4097 pixels is too large"_s);
 }
 
 TEST(OrvantaLimits, CountThePassesOverAPicture)
@@ -57,7 +57,7 @@ TEST(OrvantaLimits, CountThePassesOverAPicture)
     const QByteArray passes = QByteArray("\xff\xda\x00\x08", 4).repeated(1000);
     const auto picture = orvanta::decodeRasterPicture("\xff\xd8\xff" + passes, Plenty);
     EXPECT_TRUE(picture.image.isNull());
-    EXPECT_EQ(picture.refusal, QStringLiteral("a picture that takes more work than any real one"));
+    EXPECT_EQ(picture.refusal, u"a picture that takes more work than any real one"_s);
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qint64 PlentyOfPixels = orvanta::MaximumLabelPixels;
@@ -90,7 +92,7 @@ TEST(RasterPicture, IsDecodedByItsContent)
 TEST(RasterPicture, OfADrawingShowsNoExternalPicture)
 {
     const QTemporaryDir folder;
-    const QString red = folder.filePath(QStringLiteral("red.png"));
+    const QString red = folder.filePath(u"red.png"_s);
     QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(Qt::red);
     ASSERT_TRUE(picture.save(red));
@@ -131,7 +133,7 @@ TEST(RasterPicture, ThatClaimsTooManyPixelsIsRefusedUndecoded)
 {
     const auto picture = orvanta::decodeRasterPicture("P6 20000 30000 255 x", PlentyOfPixels);
     EXPECT_TRUE(picture.image.isNull());
-    EXPECT_EQ(picture.refusal, QStringLiteral("a picture of 20000 by 30000 pixels is too large"));
+    EXPECT_EQ(picture.refusal, u"a picture of 20000 by 30000 pixels is too large"_s);
 
     QByteArray bitmap = encoded(checkered(), "BMP");
     const QByteArray huge("\x00\x00\x01\x00", 4); // 65536, little-endian
@@ -145,7 +147,7 @@ TEST(RasterPicture, MayUseWhatIsLeftToTheLabel)
     EXPECT_EQ(orvanta::decodeRasterPicture(bytes, 35).image.size(), QSize(7, 5));
     const auto refused = orvanta::decodeRasterPicture(bytes, 34);
     EXPECT_TRUE(refused.image.isNull());
-    EXPECT_EQ(refused.refusal, QStringLiteral("a picture of 7 by 5 pixels is too large"));
+    EXPECT_EQ(refused.refusal, u"a picture of 7 by 5 pixels is too large"_s);
 }
 
 TEST(RasterPicture, RendersADrawingBehindADeclarationOrSpaces)

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 ReaderFixture::ReaderFixture()
     : reader(std::make_unique<LegacyOrvanta>(host.canvas(), host.datasources()))
 {
@@ -47,7 +49,7 @@ QString ReaderFixture::logText() const
     QStringList messages;
     for (const CapturedLog::Record& record : log.records()) {
         EXPECT_EQ(record.level, Logger::Debug);
-        EXPECT_EQ(record.source, QStringLiteral("legacy_orvanta"));
+        EXPECT_EQ(record.source, u"legacy_orvanta"_s);
         messages.append(record.message);
     }
     return messages.join(QLatin1Char('\n'));

@@ -12,6 +12,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// A reader on a host that accepts every drawing as a symbol of 10 by 10, with an empty log.
 class ReaderFixture : public ::testing::Test
 {
@@ -32,7 +34,7 @@ protected:
     }
     /// The messages of the log, one per line.
     [[nodiscard]] QString logText() const;
-    [[nodiscard]] QString filePath() const { return m_folder.filePath(QStringLiteral("a.qmtx")); }
+    [[nodiscard]] QString filePath() const { return m_folder.filePath(u"a.qmtx"_s); }
 
     TestHost host;
     CapturedLog log;

@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Samples = ReaderFixture;
@@ -40,9 +42,9 @@ TEST_F(Samples, AreImportedCompletelyAndWithoutALogLine)
         EXPECT_EQ(callsOf("canvas").first(), QString::fromLatin1(row.page));
         EXPECT_EQ(host.itemCount(), row.items);
         EXPECT_EQ(callsOf("datasources").size(), 2 * row.datasources);
-        EXPECT_EQ(callsOf("factory").filter(QStringLiteral("create 1000d")).size(), row.symbols);
-        EXPECT_TRUE(host.calls().filter(QStringLiteral("pixmapImportActions 0x0")).isEmpty());
-        EXPECT_TRUE(host.calls().filter(QStringLiteral("d1p1")).isEmpty());
+        EXPECT_EQ(callsOf("factory").filter(u"create 1000d"_s).size(), row.symbols);
+        EXPECT_TRUE(host.calls().filter(u"pixmapImportActions 0x0"_s).isEmpty());
+        EXPECT_TRUE(host.calls().filter(u"d1p1"_s).isEmpty());
     }
     EXPECT_EQ(logText(), QString());
 }
@@ -50,5 +52,5 @@ TEST_F(Samples, AreImportedCompletelyAndWithoutALogLine)
 TEST_F(Samples, AreAllInTheTableAbove)
 {
     const QDir folder(QStringLiteral(LABELPORT_SAMPLES "/orvanta"));
-    EXPECT_EQ(folder.entryList({QStringLiteral("*.qmtx")}, QDir::Files).size(), 8);
+    EXPECT_EQ(folder.entryList({u"*.qmtx"_s}, QDir::Files).size(), 8);
 }

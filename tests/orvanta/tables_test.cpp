@@ -9,6 +9,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// Every source code that differs from the default, by the host's code.
@@ -115,28 +117,28 @@ TEST(DateTimeFormats, AreTenAndSixteen)
         dates.append(format);
     }
     EXPECT_EQ(dates.join(QLatin1Char('|')),
-              QStringLiteral("|yyyy-MM-dd|MM-dd-yyyy|MM/dd/yyyy|MM/dd/yy|dd-MM-yyyy|dd/MM/yyyy|"
-                             "dd MMM yyyy|MMMM d, yyyy|dddd, MMMM d, yyyy"));
+              u"|yyyy-MM-dd|MM-dd-yyyy|MM/dd/yyyy|MM/dd/yy|dd-MM-yyyy|dd/MM/yyyy|"
+              "dd MMM yyyy|MMMM d, yyyy|dddd, MMMM d, yyyy"_s);
     QStringList times;
     for (const QLatin1String format : orvanta::TimeFormats) {
         times.append(format);
     }
     EXPECT_EQ(times.join(QLatin1Char('|')),
-              QStringLiteral("|hh:mm:ss AP|h:mm:ss ap|HH:mm:ss|H:mm:ss|hh:mm ap|h:mm AP|HH:mm|H:mm|"
-                             "mm:sshh:mm:ss ap|h:m:s ap|hh:mm:ss|h:m:s|h:m ap|hh:mm|h:m"));
+              u"|hh:mm:ss AP|h:mm:ss ap|HH:mm:ss|H:mm:ss|hh:mm ap|h:mm AP|HH:mm|H:mm|"
+              "mm:sshh:mm:ss ap|h:m:s ap|hh:mm:ss|h:m:s|h:m ap|hh:mm|h:m"_s);
 }
 
 TEST(DateTimeFormats, FollowTheCode)
 {
     for (int code = -5; code <= 50; ++code) {
         SCOPED_TRACE(code);
-        QString expected = QStringLiteral("MM-dd-yyyy|HH:mm:ss");
+        QString expected = u"MM-dd-yyyy|HH:mm:ss"_s;
         if (code == 1) {
-            expected = QStringLiteral("MM-dd-yyyy|");
+            expected = u"MM-dd-yyyy|"_s;
         } else if (code == 2) {
-            expected = QStringLiteral("MM/dd/yy|");
+            expected = u"MM/dd/yy|"_s;
         } else if (code == 4) {
-            expected = QStringLiteral("|HH:mm:ss");
+            expected = u"|HH:mm:ss"_s;
         }
         const QStringList formats = orvanta::dateTimeFormats(code);
         EXPECT_EQ(formats.size(), 2);

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// A MIME database with LabelPort's types, used instead of the user's.
@@ -18,18 +20,16 @@ protected:
     static void SetUpTestSuite()
     {
         s_data = std::make_unique<QTemporaryDir>();
-        ASSERT_TRUE(QDir(s_data->path()).mkpath(QStringLiteral("mime/packages")));
+        ASSERT_TRUE(QDir(s_data->path()).mkpath(u"mime/packages"_s));
         // One folder, as in an installation: Qt ignores priorities between several.
         for (const char* description :
              {LABELPORT_MIME_FILE, "/usr/share/mime/packages/freedesktop.org.xml"}) {
             const QString file = QString::fromLatin1(description);
-            ASSERT_TRUE(QFile::copy(file, s_data->filePath(QStringLiteral("mime/packages/") +
-                                                           QFileInfo(file).fileName())))
+            ASSERT_TRUE(QFile::copy(
+                file, s_data->filePath(u"mime/packages/"_s + QFileInfo(file).fileName())))
                 << description;
         }
-        ASSERT_EQ(QProcess::execute(QStringLiteral("update-mime-database"),
-                                    {s_data->filePath(QStringLiteral("mime"))}),
-                  0);
+        ASSERT_EQ(QProcess::execute(u"update-mime-database"_s, {s_data->filePath(u"mime"_s)}), 0);
         qputenv("XDG_DATA_HOME", s_data->path().toUtf8());
         qputenv("XDG_DATA_DIRS", s_data->path().toUtf8());
         s_database = std::make_unique<QMimeDatabase>();
@@ -66,9 +66,9 @@ protected:
 std::unique_ptr<QTemporaryDir> FileKinds::s_data;
 std::unique_ptr<QMimeDatabase> FileKinds::s_database;
 
-const QString SavedLabel = QStringLiteral("application/x-labelport-label");
-const QString BinaryLabel = QStringLiteral("application/x-tavrel-canvas");
-const QString XmlLabel = QStringLiteral("application/x-orvanta-label+xml");
+const QString SavedLabel = u"application/x-labelport-label"_s;
+const QString BinaryLabel = u"application/x-tavrel-canvas"_s;
+const QString XmlLabel = u"application/x-orvanta-label+xml"_s;
 
 TEST_F(FileKinds, ByName)
 {
@@ -76,19 +76,17 @@ TEST_F(FileKinds, ByName)
     EXPECT_EQ(kindByName("shelf.cnv"), BinaryLabel);
     EXPECT_EQ(kindByName("shelf.roc"), BinaryLabel);
     EXPECT_EQ(kindByName("shelf.qmtx"), XmlLabel);
-    EXPECT_EQ(kindByName("shelf.odt"), QStringLiteral("application/vnd.oasis.opendocument.text"));
-    EXPECT_EQ(kindByName("shelf.odg"),
-              QStringLiteral("application/vnd.oasis.opendocument.graphics"));
+    EXPECT_EQ(kindByName("shelf.odt"), u"application/vnd.oasis.opendocument.text"_s);
+    EXPECT_EQ(kindByName("shelf.odg"), u"application/vnd.oasis.opendocument.graphics"_s);
 }
 
 TEST_F(FileKinds, BinaryLabelsOfEveryVersionByContent)
 {
-    const QStringList names = QDir(QStringLiteral(LABELPORT_SAMPLES "/tavrel"))
-                                  .entryList({QStringLiteral("*.cnv"), QStringLiteral("*.roc")});
+    const QStringList names =
+        QDir(QStringLiteral(LABELPORT_SAMPLES "/tavrel")).entryList({u"*.cnv"_s, u"*.roc"_s});
     EXPECT_EQ(names.size(), 9);
     for (const QString& name : names) {
-        EXPECT_EQ(kindByContent(sample(QStringLiteral("tavrel/") + name)), BinaryLabel)
-            << qPrintable(name);
+        EXPECT_EQ(kindByContent(sample(u"tavrel/"_s + name)), BinaryLabel) << qPrintable(name);
     }
     EXPECT_NE(kindByContent(QByteArray("\0\0\0\0\0\x1e\x83\x00", 8)), BinaryLabel);
 }
@@ -107,8 +105,8 @@ TEST_F(FileKinds, SavedLabelsByContent)
 TEST_F(FileKinds, AreSortsOfWhatTheyAreMadeOf)
 {
     QMimeDatabase database;
-    EXPECT_TRUE(database.mimeTypeForName(SavedLabel).inherits(QStringLiteral("application/json")));
-    EXPECT_TRUE(database.mimeTypeForName(XmlLabel).inherits(QStringLiteral("application/xml")));
+    EXPECT_TRUE(database.mimeTypeForName(SavedLabel).inherits(u"application/json"_s));
+    EXPECT_TRUE(database.mimeTypeForName(XmlLabel).inherits(u"application/xml"_s));
 }
 
 TEST_F(FileKinds, OpenInTheWindow)

@@ -14,6 +14,8 @@
 #include <limits>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class ItemCalls : public RecorderTest
@@ -27,7 +29,7 @@ protected:
         const std::unique_ptr<Item> item = make(type);
         ++m_made;
         act(*item);
-        const QString prefix = QStringLiteral(R"({"on":"item:%1","call":)").arg(m_made);
+        const QString prefix = uR"({"on":"item:%1","call":)"_s.arg(m_made);
         EXPECT_EQ(newLine(), prefix + QString::fromUtf8(expected) + QLatin1Char('}'));
     }
 
@@ -103,12 +105,9 @@ TEST_F(ItemCalls, SizesStartAtNothingAndAreKept)
         EXPECT_EQ(item->getItemHeight(), 4);
         const QStringList lines = newLines();
         ASSERT_EQ(lines.size(), 4);
-        EXPECT_TRUE(lines.at(1).endsWith(
-            QStringLiteral(R"("call":"getItemSize","args":[],"returns":[3,4]})")));
-        EXPECT_TRUE(lines.at(2).endsWith(
-            QStringLiteral(R"("call":"getItemWidth","args":[],"returns":3})")));
-        EXPECT_TRUE(lines.at(3).endsWith(
-            QStringLiteral(R"("call":"getItemHeight","args":[],"returns":4})")));
+        EXPECT_TRUE(lines.at(1).endsWith(uR"("call":"getItemSize","args":[],"returns":[3,4]})"_s));
+        EXPECT_TRUE(lines.at(2).endsWith(uR"("call":"getItemWidth","args":[],"returns":3})"_s));
+        EXPECT_TRUE(lines.at(3).endsWith(uR"("call":"getItemHeight","args":[],"returns":4})"_s));
     }
 }
 
@@ -163,7 +162,7 @@ TEST_F(ItemCalls, FontAndText)
 {
     const auto fonts = together(Texts, {KestTypes::Barcode});
     expectOnEach<IFontItem>(
-        fonts, [](IFontItem& item) { item.setFontFamily(QStringLiteral("Arial")); },
+        fonts, [](IFontItem& item) { item.setFontFamily(u"Arial"_s); },
         R"("setFontFamily","args":["Arial"])");
     expectOnEach<IFontItem>(
         fonts, [](IFontItem& item) { item.setFontPointSize(-1); },
@@ -183,7 +182,7 @@ TEST_F(ItemCalls, FontAndText)
         fonts, [](ITextAlignItem& item) { item.setTextAlignment(Qt::AlignCenter); },
         R"("setTextAlignment","args":[132])");
     expectOnEach<ITextGenericItem>(
-        Texts, [](ITextGenericItem& item) { item.setText(QStringLiteral("a\nb")); },
+        Texts, [](ITextGenericItem& item) { item.setText(u"a\nb"_s); },
         R"("setText","args":["a\nb"])");
 }
 
@@ -195,7 +194,7 @@ TEST_F(ItemCalls, DataSourceBinding)
     expectOnEach<IDatasourceItem>(
         Bound,
         [](IDatasourceItem& item) {
-            item.setDatasourceFields({QStringLiteral("Value"), QStringLiteral("x")});
+            item.setDatasourceFields({u"Value"_s, u"x"_s});
         },
         R"("setDatasourceFields","args":[["Value","x"]])");
 }
@@ -247,7 +246,7 @@ TEST_F(ItemCalls, SimpleText)
                R"("setItemSizeLimiting","args":[3])");
     expectText(
         [](SimpleTextItem& item) {
-            item.importTextProperties(QStringLiteral("t"), 12, true, false, true, Qt::AlignRight);
+            item.importTextProperties(u"t"_s, 12, true, false, true, Qt::AlignRight);
         },
         R"("importTextProperties","args":["t",12,true,false,true,2])");
 }
@@ -263,8 +262,7 @@ TEST_F(ItemCalls, RichTextTakesTheWidthAndAFixedHeight)
 {
     const std::unique_ptr<Item> item = make(KestTypes::RichText);
     dynamic_cast<RichTextItem&>(*item).adjustBoxSizeToContent(80);
-    EXPECT_EQ(newLine(),
-              QStringLiteral(R"({"on":"item:1","call":"adjustBoxSizeToContent","args":[80]})"));
+    EXPECT_EQ(newLine(), uR"({"on":"item:1","call":"adjustBoxSizeToContent","args":[80]})"_s);
     EXPECT_EQ(item->getItemSize(), QSizeF(80, 12));
 }
 
@@ -276,8 +274,7 @@ TEST_F(ItemCalls, Barcode)
     expectOn<BarcodeItem>(
         KestTypes::Barcode,
         [](BarcodeItem& item) {
-            item.importBarcodeProperties(58, QStringLiteral("123"), true, 4, 2, false, true, 1, 7,
-                                         9);
+            item.importBarcodeProperties(58, u"123"_s, true, 4, 2, false, true, 1, 7, 9);
         },
         R"("importBarcodeProperties","args":[58,"123",true,4,2,false,true,1,7,9])");
     expectOn<BarcodeItem>(
@@ -293,8 +290,8 @@ TEST_F(ItemCalls, PictureTakesThePixmapsSize)
     const std::unique_ptr<Item> item = make(KestTypes::Picture);
     auto& picture = dynamic_cast<PixMapItem&>(*item);
     picture.pixmapImportActions(QPixmap(30, 20));
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"item:1","call":"pixmapImportActions",)"
-                                        R"("args":[{"width":30,"height":20}]})"));
+    EXPECT_EQ(newLine(), uR"({"on":"item:1","call":"pixmapImportActions",)"
+                         R"("args":[{"width":30,"height":20}]})"_s);
     EXPECT_EQ(item->getItemSize(), QSizeF(30, 20));
     picture.pixmapImportActions(QPixmap());
     EXPECT_EQ(item->getItemSize(), QSizeF(0, 0));
@@ -305,8 +302,8 @@ TEST_F(ItemCalls, SymbolTakesTheDrawingsSize)
     const std::unique_ptr<Item> item = make(KestTypes::Symbol);
     auto& symbol = dynamic_cast<SymbolItem&>(*item);
     symbol.loadItemFromData("<svg xmlns='http://www.w3.org/2000/svg' width='40' height='30'/>");
-    EXPECT_TRUE(newLine().startsWith(QStringLiteral(
-        R"({"on":"item:1","call":"loadItemFromData","args":[{"bytes":64,"sha1":")")));
+    EXPECT_TRUE(newLine().startsWith(
+        uR"({"on":"item:1","call":"loadItemFromData","args":[{"bytes":64,"sha1":")"_s));
     EXPECT_EQ(item->getItemSize(), QSizeF(40, 30));
     symbol.loadItemFromData("no drawing");
     EXPECT_EQ(item->getItemSize(), QSizeF(0, 0));

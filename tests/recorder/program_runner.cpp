@@ -2,6 +2,8 @@
 
 #include <QProcess>
 
+using namespace Qt::Literals::StringLiterals;
+
 ProgramResult runProgram(const QString& program, const QStringList& arguments,
                          const QProcessEnvironment& environment)
 {
@@ -22,7 +24,7 @@ QProcessEnvironment emptyEnvironment()
 {
     // An empty process environment would inherit ours.
     QProcessEnvironment environment;
-    environment.insert(QStringLiteral("LABELPORT_TEST"), QStringLiteral("1"));
+    environment.insert(u"LABELPORT_TEST"_s, u"1"_s);
     const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"}) {
         const QString key = QString::fromLatin1(name);

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class TraceProgram : public ::testing::Test
@@ -29,7 +31,7 @@ protected:
         return path;
     }
     /// A valid label without items.
-    [[nodiscard]] QString goodLabel() const { return file(QStringLiteral("good.qmtx"), "<qmtx/>"); }
+    [[nodiscard]] QString goodLabel() const { return file(u"good.qmtx"_s, "<qmtx/>"); }
 
     QTemporaryDir m_folder;
 };
@@ -61,7 +63,7 @@ TEST_F(TraceProgram, HasTheSizeOfADrawingThatIsARasterPicture)
                            "width=\"30\" height=\"20\"><rect width=\"9\" height=\"9\"/></svg>";
     const QByteArray label = "<qmtx><controls><picture_box><image><content>" + svg.toBase64() +
                              "</content></image></picture_box></controls></qmtx>";
-    const ProgramResult result = run({file(QStringLiteral("logo.qmtx"), label)});
+    const ProgramResult result = run({file(u"logo.qmtx"_s, label)});
     EXPECT_EQ(result.status, 0) << result.errors.constData();
     EXPECT_TRUE(
         result.output.contains("\"pixmapImportActions\",\"args\":[{\"width\":30,\"height\":20}]"))
@@ -72,9 +74,9 @@ TEST_F(TraceProgram, HasTheSizeOfADrawingThatIsARasterPicture)
 TEST_F(TraceProgram, NeedsNoDisplayWhateverIsAskedFor)
 {
     QProcessEnvironment environment = emptyEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("nosuchplatform"));
-    environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":77"));
-    environment.insert(QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("wayland-77"));
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"nosuchplatform"_s);
+    environment.insert(u"DISPLAY"_s, u":77"_s);
+    environment.insert(u"WAYLAND_DISPLAY"_s, u"wayland-77"_s);
     EXPECT_EQ(run({goodLabel()}, environment).status, 0);
 }
 
@@ -96,20 +98,20 @@ TEST_F(TraceProgram, PrintsTheSameUnderAnyEnvironment)
 
 TEST_F(TraceProgram, LogRecordsReachTheTraceUnderAnyLoggingRules)
 {
-    const QString label = file(QStringLiteral("broken.qmtx"), "<qmtx");
+    const QString label = file(u"broken.qmtx"_s, "<qmtx");
     const ProgramResult plain = run({label});
     EXPECT_EQ(plain.status, 1);
     EXPECT_TRUE(plain.output.contains("{\"log\":\"")) << plain.output.constData();
     for (const char* rules : {"*=false", "*.debug=true"}) {
         QProcessEnvironment environment = emptyEnvironment();
-        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QString::fromLatin1(rules));
+        environment.insert(u"QT_LOGGING_RULES"_s, QString::fromLatin1(rules));
         EXPECT_EQ(run({label}, environment).output, plain.output) << rules;
     }
 }
 
 TEST_F(TraceProgram, AMissingFileStillHasAStartAndAnEnd)
 {
-    const ProgramResult result = run({m_folder.filePath(QStringLiteral("none.odg"))});
+    const ProgramResult result = run({m_folder.filePath(u"none.odg"_s)});
     EXPECT_TRUE(result.finished);
     EXPECT_EQ(result.status, 1);
     expectJsonLines(result.output);
@@ -144,11 +146,11 @@ TEST_F(TraceProgram, ChoosesTheReaderByTheSuffix)
 
 TEST_F(TraceProgram, TakesNamesOfAnyScript)
 {
-    const QString label = file(QStringLiteral("Größe \"ß\".qmtx"), "<qmtx/>");
+    const QString label = file(u"Größe \"ß\".qmtx"_s, "<qmtx/>");
     const ProgramResult result = run({label});
     EXPECT_EQ(result.status, 0) << result.errors.constData();
-    EXPECT_TRUE(result.output.startsWith(
-        QStringLiteral("{\"trace\":1,\"file\":\"Größe \\\"ß\\\".qmtx\"").toUtf8()));
+    EXPECT_TRUE(
+        result.output.startsWith(u"{\"trace\":1,\"file\":\"Größe \\\"ß\\\".qmtx\""_s.toUtf8()));
 }
 
 TEST_F(TraceProgram, HelpAndVersionSucceed)
@@ -158,7 +160,7 @@ TEST_F(TraceProgram, HelpAndVersionSucceed)
         EXPECT_EQ(result.status, 0);
         EXPECT_TRUE(result.output.contains("FILE")) << result.output.constData();
     }
-    const ProgramResult version = run({QStringLiteral("--version")});
+    const ProgramResult version = run({u"--version"_s});
     EXPECT_EQ(version.status, 0);
     EXPECT_TRUE(version.output.startsWith("labelport-trace ")) << version.output.constData();
 }
@@ -166,9 +168,8 @@ TEST_F(TraceProgram, HelpAndVersionSucceed)
 TEST_F(TraceProgram, WrongUsageIsStatusTwoAndPrintsNoTrace)
 {
     for (const QStringList& arguments :
-         {QStringList{}, QStringList{QStringLiteral("--nonsense")},
-          QStringList{QStringLiteral("a.cnv"), QStringLiteral("b.cnv")},
-          QStringList{QStringLiteral("-platform"), QStringLiteral("x.cnv")}}) {
+         {QStringList{}, QStringList{u"--nonsense"_s}, QStringList{u"a.cnv"_s, u"b.cnv"_s},
+          QStringList{u"-platform"_s, u"x.cnv"_s}}) {
         const ProgramResult result = run(arguments);
         EXPECT_EQ(result.status, 2) << qPrintable(arguments.join(u' '));
         EXPECT_EQ(result.output, QByteArray());
@@ -179,14 +180,13 @@ TEST_F(TraceProgram, WrongUsageIsStatusTwoAndPrintsNoTrace)
 TEST_F(TraceProgram, AFullDiskIsAFailure)
 {
     // If this device exists, every write to it fails.
-    if (!QFile::exists(QStringLiteral("/dev/full"))) {
+    if (!QFile::exists(u"/dev/full"_s)) {
         return;
     }
-    const ProgramResult result =
-        runProgram(QStringLiteral("/bin/sh"),
-                   {QStringLiteral("-c"), QStringLiteral("\"$0\" \"$1\" > /dev/full"),
-                    QStringLiteral(LABELPORT_TRACE_PROGRAM), goodLabel()},
-                   emptyEnvironment());
+    const ProgramResult result = runProgram(u"/bin/sh"_s,
+                                            {u"-c"_s, u"\"$0\" \"$1\" > /dev/full"_s,
+                                             QStringLiteral(LABELPORT_TRACE_PROGRAM), goodLabel()},
+                                            emptyEnvironment());
     EXPECT_EQ(result.status, 1);
     EXPECT_TRUE(result.errors.contains("Cannot write to standard output: "))
         << result.errors.constData();

@@ -22,6 +22,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Services = RecorderTest;
@@ -37,9 +39,8 @@ TEST_F(Services, FamiliesAreAFixedList)
     for (const char* family : {"", "arial", "Arial Black", "DejaVu Serif", "Helvetica"}) {
         EXPECT_FALSE(CommonLists::isValidFamily(QString::fromLatin1(family))) << family;
     }
-    EXPECT_EQ(
-        newLines().first(),
-        QStringLiteral(R"({"on":"lists","call":"isValidFamily","args":["Arial"],"returns":true})"));
+    EXPECT_EQ(newLines().first(),
+              uR"({"on":"lists","call":"isValidFamily","args":["Arial"],"returns":true})"_s);
 }
 
 TEST_F(Services, SymbologiesOfLargeNumbersAreUnknown)
@@ -60,14 +61,10 @@ TEST_F(Services, SymbologiesAreFixedLists)
         ASSERT_EQ(CommonLists::isValidBarcode2D(number), twoDimensional.contains(code)) << code;
         if (code == 20) {
             const QStringList lines = newLines();
-            EXPECT_EQ(
-                lines.at(lines.size() - 2),
-                QStringLiteral(
-                    R"({"on":"lists","call":"isValidBarcode1D","args":[20],"returns":true})"));
-            EXPECT_EQ(
-                lines.last(),
-                QStringLiteral(
-                    R"({"on":"lists","call":"isValidBarcode2D","args":[20],"returns":false})"));
+            EXPECT_EQ(lines.at(lines.size() - 2),
+                      uR"({"on":"lists","call":"isValidBarcode1D","args":[20],"returns":true})"_s);
+            EXPECT_EQ(lines.last(),
+                      uR"({"on":"lists","call":"isValidBarcode2D","args":[20],"returns":false})"_s);
         }
     }
 }
@@ -85,12 +82,12 @@ TEST_F(Services, SymbolCreatorGivesTheDrawingBack)
 
     const QStringList lines = newLines();
     ASSERT_EQ(lines.size(), 3);
-    EXPECT_TRUE(lines.at(0).startsWith(QStringLiteral(
-        R"({"on":"symbolcreator","call":"loadImportedSvg","args":[{"bytes":64,"sha1":")")));
-    EXPECT_EQ(lines.at(1), QStringLiteral(R"({"on":"symbolcreator","call":"convertSvgToSymbol",)"
-                                          R"("args":[[0,0,0,0]],"returns":true})"));
-    EXPECT_TRUE(lines.at(2).startsWith(QStringLiteral(
-        R"({"on":"symbolcreator","call":"getSymbolData","args":[],"returns":{"bytes":64,)")));
+    EXPECT_TRUE(lines.at(0).startsWith(
+        uR"({"on":"symbolcreator","call":"loadImportedSvg","args":[{"bytes":64,"sha1":")"_s));
+    EXPECT_EQ(lines.at(1), uR"({"on":"symbolcreator","call":"convertSvgToSymbol",)"
+                           R"("args":[[0,0,0,0]],"returns":true})"_s);
+    EXPECT_TRUE(lines.at(2).startsWith(
+        uR"({"on":"symbolcreator","call":"getSymbolData","args":[],"returns":{"bytes":64,)"_s));
 }
 
 TEST_F(Services, SymbolCreatorReportsInvalidDrawings)
@@ -113,8 +110,7 @@ protected:
     {
         const QString path = m_folder.filePath(name);
         {
-            QSqlDatabase made =
-                QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("maker"));
+            QSqlDatabase made = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"maker"_s);
             made.setDatabaseName(path);
             EXPECT_TRUE(made.open());
             for (const QString& statement : statements) {
@@ -122,56 +118,53 @@ protected:
                 EXPECT_TRUE(query.exec(statement));
             }
         }
-        QSqlDatabase::removeDatabase(QStringLiteral("maker"));
+        QSqlDatabase::removeDatabase(u"maker"_s);
         return path;
     }
 
     QTemporaryDir m_folder;
 };
 
-const QString MakeTable = QStringLiteral("CREATE TABLE symbols(name TEXT PRIMARY KEY, svg BLOB)");
+const QString MakeTable = u"CREATE TABLE symbols(name TEXT PRIMARY KEY, svg BLOB)"_s;
 
 TEST_F(SymbolDatabases, AreReadByName)
 {
-    const QString path = database(QStringLiteral("symbols.db"),
-                                  {MakeTable, QStringLiteral("INSERT INTO symbols VALUES"
-                                                             "('arrow', x'3C7376672F3E')")});
+    const QString path = database(u"symbols.db"_s, {MakeTable, u"INSERT INTO symbols VALUES"
+                                                               "('arrow', x'3C7376672F3E')"_s});
     SymbolDatabaseModel model(nullptr);
     model.setDatabasePath(path);
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"symboldb:1","call":"setDatabasePath",)"
-                                        R"("args":["symbols.db"]})"));
-    EXPECT_EQ(model.getDataFromSymbolName(QStringLiteral("arrow")), QByteArray("<svg/>"));
+    EXPECT_EQ(newLine(), uR"({"on":"symboldb:1","call":"setDatabasePath",)"
+                         R"("args":["symbols.db"]})"_s);
+    EXPECT_EQ(model.getDataFromSymbolName(u"arrow"_s), QByteArray("<svg/>"));
     EXPECT_TRUE(newLine().startsWith(
-        QStringLiteral(R"({"on":"symboldb:1","call":"getDataFromSymbolName","args":["arrow"],)"
-                       R"("returns":{"bytes":6,"sha1":")")));
-    EXPECT_EQ(model.getDataFromSymbolName(QStringLiteral("Arrow")), QByteArray());
-    EXPECT_EQ(model.getDataFromSymbolName(QStringLiteral("' OR '1'='1")), QByteArray());
+        uR"({"on":"symboldb:1","call":"getDataFromSymbolName","args":["arrow"],)"
+        R"("returns":{"bytes":6,"sha1":")"_s));
+    EXPECT_EQ(model.getDataFromSymbolName(u"Arrow"_s), QByteArray());
+    EXPECT_EQ(model.getDataFromSymbolName(u"' OR '1'='1"_s), QByteArray());
 }
 
 TEST_F(SymbolDatabases, AreNumberedAsTheyAreMade)
 {
     SymbolDatabaseModel first(nullptr);
     SymbolDatabaseModel second(nullptr);
-    second.setDatabasePath(QStringLiteral("/nowhere/legacy_symbols.db"));
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"symboldb:2","call":"setDatabasePath",)"
-                                        R"("args":["legacy_symbols.db"]})"));
+    second.setDatabasePath(u"/nowhere/legacy_symbols.db"_s);
+    EXPECT_EQ(newLine(), uR"({"on":"symboldb:2","call":"setDatabasePath",)"
+                         R"("args":["legacy_symbols.db"]})"_s);
 }
 
 TEST_F(SymbolDatabases, ThatAreMissingOrDamagedAreEmpty)
 {
-    const QString missing = m_folder.filePath(QStringLiteral("missing.db"));
-    const QString damaged = m_folder.filePath(QStringLiteral("damaged.db"));
+    const QString missing = m_folder.filePath(u"missing.db"_s);
+    const QString damaged = m_folder.filePath(u"damaged.db"_s);
     QFile file(damaged);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QByteArray("SQLite format 3\0", 16) + QByteArray(5000, 'x'));
     file.close();
-    const QString other = database(QStringLiteral("other.db"),
-                                   {QStringLiteral("CREATE TABLE things(name TEXT, svg BLOB)")});
+    const QString other = database(u"other.db"_s, {u"CREATE TABLE things(name TEXT, svg BLOB)"_s});
     for (const QString& path : {missing, damaged, other, m_folder.path(), QString()}) {
         SymbolDatabaseModel model(nullptr);
         model.setDatabasePath(path);
-        EXPECT_EQ(model.getDataFromSymbolName(QStringLiteral("arrow")), QByteArray())
-            << qPrintable(path);
+        EXPECT_EQ(model.getDataFromSymbolName(u"arrow"_s), QByteArray()) << qPrintable(path);
     }
     EXPECT_FALSE(QFile::exists(missing)) << "looking for a database has made one";
 }
@@ -179,26 +172,24 @@ TEST_F(SymbolDatabases, ThatAreMissingOrDamagedAreEmpty)
 TEST_F(SymbolDatabases, ChangeWithThePath)
 {
     const QString one =
-        database(QStringLiteral("one.db"),
-                 {MakeTable, QStringLiteral("INSERT INTO symbols VALUES('a', x'31')")});
+        database(u"one.db"_s, {MakeTable, u"INSERT INTO symbols VALUES('a', x'31')"_s});
     const QString two =
-        database(QStringLiteral("two.db"),
-                 {MakeTable, QStringLiteral("INSERT INTO symbols VALUES('a', x'32')")});
+        database(u"two.db"_s, {MakeTable, u"INSERT INTO symbols VALUES('a', x'32')"_s});
     SymbolDatabaseModel model(nullptr);
     model.setDatabasePath(one);
-    EXPECT_EQ(model.getDataFromSymbolName(QStringLiteral("a")), QByteArray("1"));
+    EXPECT_EQ(model.getDataFromSymbolName(u"a"_s), QByteArray("1"));
     model.setDatabasePath(two);
-    EXPECT_EQ(model.getDataFromSymbolName(QStringLiteral("a")), QByteArray("2"));
+    EXPECT_EQ(model.getDataFromSymbolName(u"a"_s), QByteArray("2"));
 }
 
 // --- message box ---
 
 TEST_F(Services, MessageBoxesAreWrittenDownAndNeverShown)
 {
-    TalMessageBox box(QStringLiteral("Import Error"), QStringLiteral("one\ntwo\n"), QMessageBox::Ok,
-                      QMessageBox::Ok, QString(), {});
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"messagebox","call":"create",)"
-                                        R"("args":["Import Error","one\ntwo\n"]})"));
+    TalMessageBox box(u"Import Error"_s, u"one\ntwo\n"_s, QMessageBox::Ok, QMessageBox::Ok,
+                      QString(), {});
+    EXPECT_EQ(newLine(), uR"({"on":"messagebox","call":"create",)"
+                         R"("args":["Import Error","one\ntwo\n"]})"_s);
     EXPECT_FALSE(box.isVisible());
 }
 
@@ -234,15 +225,15 @@ TEST_F(Services, MessageBoxesMayBeDeletedBeforeTheyAreClosedOrWhileTheyAre)
 TEST_F(Services, DataSourcesAreNumberedFromOne)
 {
     DatasourceController* sources = m_host->datasourceController();
-    EXPECT_EQ(sources->createDatasource(QStringLiteral("SequenceDatasource")), 1);
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"datasources","call":"createDatasource",)"
-                                        R"("args":["SequenceDatasource"],"returns":1})"));
+    EXPECT_EQ(sources->createDatasource(u"SequenceDatasource"_s), 1);
+    EXPECT_EQ(newLine(), uR"({"on":"datasources","call":"createDatasource",)"
+                         R"("args":["SequenceDatasource"],"returns":1})"_s);
     EXPECT_EQ(sources->createDatasource(QString()), 2);
     (void)newLines();
     TalDatasource* source = sources->getDatasource(2);
     ASSERT_NE(source, nullptr);
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"datasources","call":"getDatasource",)"
-                                        R"("args":[2],"returns":2})"));
+    EXPECT_EQ(newLine(), uR"({"on":"datasources","call":"getDatasource",)"
+                         R"("args":[2],"returns":2})"_s);
     EXPECT_NE(source, sources->getDatasource(1));
 }
 
@@ -251,7 +242,7 @@ TEST_F(Services, UnknownDataSourcesAreNull)
     for (const int id : {0, -1, 1, std::numeric_limits<int>::max()}) {
         EXPECT_EQ(m_host->datasourceController()->getDatasource(id), nullptr) << id;
     }
-    EXPECT_TRUE(newLines().first().endsWith(QStringLiteral(R"("args":[0],"returns":null})")));
+    EXPECT_TRUE(newLines().first().endsWith(uR"("args":[0],"returns":null})"_s));
 }
 
 TEST_F(Services, DataSourcesHaveOneField)
@@ -259,27 +250,26 @@ TEST_F(Services, DataSourcesHaveOneField)
     DatasourceController* sources = m_host->datasourceController();
     TalDatasource* source = sources->getDatasource(sources->createDatasource(QString()));
     (void)newLines();
-    EXPECT_EQ(source->fields(), QStringList{QStringLiteral("Value")});
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"datasource:1","call":"fields","args":[],)"
-                                        R"("returns":["Value"]})"));
-    source->setSelectedFields({QStringLiteral("Value")});
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"datasource:1","call":"setSelectedFields",)"
-                                        R"("args":[["Value"]]})"));
-    source->setDatasourceProperty(QStringLiteral("Start"), 5);
-    EXPECT_EQ(newLine(), QStringLiteral(R"({"on":"datasource:1","call":"setDatasourceProperty",)"
-                                        R"("args":["Start",5]})"));
-    source->setDatasourceProperty(QStringLiteral("TextList"), QStringList{QStringLiteral("a")});
-    EXPECT_TRUE(newLine().endsWith(QStringLiteral(R"("args":["TextList",["a"]]})")));
+    EXPECT_EQ(source->fields(), QStringList{u"Value"_s});
+    EXPECT_EQ(newLine(), uR"({"on":"datasource:1","call":"fields","args":[],)"
+                         R"("returns":["Value"]})"_s);
+    source->setSelectedFields({u"Value"_s});
+    EXPECT_EQ(newLine(), uR"({"on":"datasource:1","call":"setSelectedFields",)"
+                         R"("args":[["Value"]]})"_s);
+    source->setDatasourceProperty(u"Start"_s, 5);
+    EXPECT_EQ(newLine(), uR"({"on":"datasource:1","call":"setDatasourceProperty",)"
+                         R"("args":["Start",5]})"_s);
+    source->setDatasourceProperty(u"TextList"_s, QStringList{u"a"_s});
+    EXPECT_TRUE(newLine().endsWith(uR"("args":["TextList",["a"]]})"_s));
 }
 
 // --- small helpers ---
 
 TEST_F(Services, WhiteSpaceIsAnyRunOfIt)
 {
-    const QStringList parts =
-        QStringLiteral("a \t b\nc\u00a0d").split(WhiteSpace::getWhiteSpacesSplitRegex());
-    EXPECT_EQ(WhiteSpace::getWhiteSpacesSplitRegex().pattern(), QStringLiteral("\\s+"));
-    EXPECT_EQ(parts.mid(0, 2), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+    const QStringList parts = u"a \t b\nc\u00a0d"_s.split(WhiteSpace::getWhiteSpacesSplitRegex());
+    EXPECT_EQ(WhiteSpace::getWhiteSpacesSplitRegex().pattern(), u"\\s+"_s);
+    EXPECT_EQ(parts.mid(0, 2), (QStringList{u"a"_s, u"b"_s}));
 }
 
 TEST_F(Services, AlmostEqualIsWithinTheTolerance)
@@ -330,12 +320,12 @@ TEST_F(Services, TheImportFolderExists)
 TEST_F(Services, AnswerWithoutAHostToo)
 {
     m_host.reset();
-    EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Arial")));
+    EXPECT_TRUE(CommonLists::isValidFamily(u"Arial"_s));
     SymbolCreator creator(nullptr);
     creator.loadImportedSvg(Drawing);
     EXPECT_TRUE(creator.convertSvgToSymbol(QRectF()));
     SymbolDatabaseModel model(nullptr);
-    model.setDatabasePath(QStringLiteral("/nowhere.db"));
+    model.setDatabasePath(u"/nowhere.db"_s);
     EXPECT_EQ(model.getDataFromSymbolName(QString()), QByteArray());
     const TalMessageBox box(QString(), QString(), QMessageBox::Ok, QMessageBox::Ok, QString(), {});
     EXPECT_EQ(newLines(), QStringList());

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using recorder::SvgDocument;
 
 namespace {
@@ -56,9 +58,9 @@ TEST(SvgDocument, OpensNoFileThatItNames)
     const QTemporaryDir folder;
     QImage picture(50, 50, QImage::Format_RGB32);
     picture.fill(Qt::red);
-    const QString pictureFile = folder.filePath(QStringLiteral("picture.png"));
+    const QString pictureFile = folder.filePath(u"picture.png"_s);
     ASSERT_TRUE(picture.save(pictureFile));
-    QFile sheet(folder.filePath(QStringLiteral("sheet.css")));
+    QFile sheet(folder.filePath(u"sheet.css"_s));
     ASSERT_TRUE(sheet.open(QIODevice::WriteOnly));
     sheet.write("rect { stroke: red; stroke-width: 20 }");
     sheet.close();

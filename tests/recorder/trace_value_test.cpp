@@ -10,6 +10,8 @@
 #include <cstring>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using recorder::TraceValue;
 
 namespace {
@@ -93,11 +95,11 @@ TEST(TraceValue, NumbersAreTheSameInEveryLocale)
 TEST(TraceValue, TextsAreQuotedAndInUtf8)
 {
     EXPECT_EQ(json(QString()), "\"\"");
-    EXPECT_EQ(json(QStringLiteral("a \"b\" \\c/")), "\"a \\\"b\\\" \\\\c/\"");
-    EXPECT_EQ(json(QStringLiteral("1\n2\r\t")), "\"1\\n2\\r\\t\"");
+    EXPECT_EQ(json(u"a \"b\" \\c/"_s), "\"a \\\"b\\\" \\\\c/\"");
+    EXPECT_EQ(json(u"1\n2\r\t"_s), "\"1\\n2\\r\\t\"");
     EXPECT_EQ(json(QString(QChar(1)) + QChar(0x1f) + QChar(0)), "\"\\u0001\\u001f\\u0000\"");
-    EXPECT_EQ(json(QStringLiteral("Größe €")), QByteArray("\"Gr\xc3\xb6\xc3\x9f"
-                                                          "e \xe2\x82\xac\""));
+    EXPECT_EQ(json(u"Größe €"_s), QByteArray("\"Gr\xc3\xb6\xc3\x9f"
+                                             "e \xe2\x82\xac\""));
 }
 
 TEST(TraceValue, EveryTextIsValidJson)
@@ -119,7 +121,7 @@ TEST(TraceValue, EveryTextIsValidJson)
 TEST(TraceValue, ListsOfTexts)
 {
     EXPECT_EQ(json(QStringList()), "[]");
-    EXPECT_EQ(json(QStringList{QStringLiteral("a"), QString()}), "[\"a\",\"\"]");
+    EXPECT_EQ(json(QStringList{u"a"_s, QString()}), "[\"a\",\"\"]");
 }
 
 TEST(TraceValue, ColorsWithAlphaFirst)
@@ -158,15 +160,14 @@ TEST(TraceValue, PropertiesGoByTheTypeTheyHold)
     EXPECT_EQ(json(QVariant(5U)), "5");
     EXPECT_EQ(json(QVariant(true)), "true");
     EXPECT_EQ(json(QVariant(0.5)), "0.5");
-    EXPECT_EQ(json(QVariant(QStringLiteral("5"))), "\"5\"");
-    EXPECT_EQ(json(QVariant(QStringList{QStringLiteral("x")})), "[\"x\"]");
+    EXPECT_EQ(json(QVariant(u"5"_s)), "\"5\"");
+    EXPECT_EQ(json(QVariant(QStringList{u"x"_s})), "[\"x\"]");
     EXPECT_EQ(json(QVariant()), "\"\"");
 }
 
 TEST(TraceValue, ObjectsKeepTheOrderOfTheirFields)
 {
-    EXPECT_EQ(TraceValue::object({{"z", 1}, {"a", QStringLiteral("b")}}).json(),
-              "{\"z\":1,\"a\":\"b\"}");
+    EXPECT_EQ(TraceValue::object({{"z", 1}, {"a", u"b"_s}}).json(), "{\"z\":1,\"a\":\"b\"}");
     EXPECT_EQ(TraceValue::object({}).json(), "{}");
 }
 

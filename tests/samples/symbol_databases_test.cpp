@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Drawings = QMap<QString, QByteArray>;
@@ -24,7 +26,7 @@ Drawings drawingsIn(const QString& folder)
 {
     const QDir dir(QStringLiteral(DRAWINGS) + u'/' + folder);
     Drawings drawings;
-    for (const QString& name : dir.entryList({QStringLiteral("*.svg")}, QDir::Files)) {
+    for (const QString& name : dir.entryList({u"*.svg"_s}, QDir::Files)) {
         drawings.insert(name, contentOf(dir.filePath(name)));
     }
     return drawings;
@@ -32,14 +34,14 @@ Drawings drawingsIn(const QString& folder)
 
 Drawings symbolsIn(const QString& path)
 {
-    const QString connection = QStringLiteral("reading");
+    const QString connection = u"reading"_s;
     Drawings symbols;
     {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, connection);
         database.setDatabaseName(path);
-        database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
         EXPECT_TRUE(database.open()) << path.toStdString();
-        QSqlQuery query(QStringLiteral("SELECT name, svg FROM symbols"), database);
+        QSqlQuery query(u"SELECT name, svg FROM symbols"_s, database);
         while (query.next()) {
             symbols.insert(query.value(0).toString(), query.value(1).toByteArray());
         }
@@ -73,8 +75,8 @@ TEST(SymbolDatabases, HoldTheDrawingsByFileName)
 
 TEST(SymbolDatabases, HaveNoSymbolInCommon)
 {
-    const Drawings second = drawingsIn(QStringLiteral("legacy"));
-    for (const QString& name : drawingsIn(QStringLiteral("symbols")).keys()) {
+    const Drawings second = drawingsIn(u"legacy"_s);
+    for (const QString& name : drawingsIn(u"symbols"_s).keys()) {
         EXPECT_FALSE(second.contains(name)) << name.toStdString();
     }
 }
@@ -122,30 +124,29 @@ TEST_F(MakeSymbolDb, ReplacesAnOlderDatabase)
     const QString database = file("all.db", "not a database at all");
     ASSERT_EQ(run({database, file("a.svg", someSvg), file("b.svg", someSvg)}), 0)
         << m_errors.toStdString();
-    EXPECT_EQ(symbolsIn(database).keys(),
-              QStringList({QStringLiteral("a.svg"), QStringLiteral("b.svg")}));
+    EXPECT_EQ(symbolsIn(database).keys(), QStringList({u"a.svg"_s, u"b.svg"_s}));
 }
 
 TEST_F(MakeSymbolDb, LeavesNothingHalfDone)
 {
-    const QString database = m_folder.filePath(QStringLiteral("all.db"));
+    const QString database = m_folder.filePath(u"all.db"_s);
     const QString broken = file("broken.svg", "<svg");
     EXPECT_EQ(run({database, file("a.svg", someSvg), broken}), 1);
     EXPECT_TRUE(m_errors.contains("broken.svg: not a drawing in SVG")) << m_errors.toStdString();
-    EXPECT_EQ(QDir(m_folder.path()).entryList({QStringLiteral("all*")}), QStringList());
+    EXPECT_EQ(QDir(m_folder.path()).entryList({u"all*"_s}), QStringList());
 }
 
 TEST_F(MakeSymbolDb, SaysWhatIsWrong)
 {
-    const QString database = m_folder.filePath(QStringLiteral("all.db"));
+    const QString database = m_folder.filePath(u"all.db"_s);
     EXPECT_EQ(run({}), 2);
     EXPECT_TRUE(m_errors.contains("usage:"));
-    EXPECT_EQ(run({database, m_folder.filePath(QStringLiteral("missing.svg"))}), 1);
+    EXPECT_EQ(run({database, m_folder.filePath(u"missing.svg"_s)}), 1);
     EXPECT_TRUE(m_errors.contains("missing.svg: No such file")) << m_errors.toStdString();
     const QString svg = file("a.svg", someSvg);
     EXPECT_EQ(run({database, svg, svg}), 1);
     EXPECT_TRUE(m_errors.contains("a.svg: ")) << m_errors.toStdString();
-    EXPECT_EQ(run({m_folder.filePath(QStringLiteral("nowhere/all.db")), svg}), 1);
+    EXPECT_EQ(run({m_folder.filePath(u"nowhere/all.db"_s), svg}), 1);
     EXPECT_TRUE(m_errors.contains("nowhere/all.db")) << m_errors.toStdString();
 }
 

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qsizetype largestSample = 60 * 1024;
@@ -45,8 +47,7 @@ TEST(TavrelSamples, EachHasATest)
     }
     names.sort();
     EXPECT_EQ(
-        QDir(QStringLiteral(SAMPLES))
-            .entryList({QStringLiteral("*.cnv"), QStringLiteral("*.roc")}, QDir::Files, QDir::Name),
+        QDir(QStringLiteral(SAMPLES)).entryList({u"*.cnv"_s, u"*.roc"_s}, QDir::Files, QDir::Name),
         names);
 }
 

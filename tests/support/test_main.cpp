@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // A run that tests a locale must not pass because the locale is not installed.
@@ -33,8 +35,8 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("TZ", "UTC");
     ::testing::InitGoogleTest(&argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("LabelPort"));
-    QCoreApplication::setApplicationName(QStringLiteral("LabelPort tests"));
+    QCoreApplication::setOrganizationName(u"LabelPort"_s);
+    QCoreApplication::setApplicationName(u"LabelPort tests"_s);
     QStandardPaths::setTestModeEnabled(true);
     const QApplication application(argc, argv);
     if (!localeIsAsExpected()) {

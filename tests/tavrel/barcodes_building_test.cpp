@@ -4,6 +4,8 @@
 
 #include "tests/tavrel/builder_fixture.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using namespace tavrel_test;
 
@@ -16,7 +18,7 @@ protected:
     {
         BarcodeRecord record;
         record.header = header;
-        record.content = QStringLiteral("42");
+        record.content = u"42"_s;
         record.symbology = 20;
         record.moduleWidth = 2;
         record.textAlignment = Qt::AlignCenter;
@@ -81,8 +83,8 @@ TEST_F(BarcodeBuilder, PassesTheCompleteSymbologyNumber)
 TEST_F(BarcodeBuilder, BindsBeforeItHandsOver)
 {
     BarcodeRecord record = barcode();
-    record.datasourceKey = QStringLiteral("_SPECIAL");
-    record.datasourceText = QStringLiteral("%_TIME%");
+    record.datasourceKey = u"_SPECIAL"_s;
+    record.datasourceText = u"%_TIME%"_s;
     EXPECT_EQ(buildBarcode(canvas(), record, binder()), BuildResult::Built);
     EXPECT_EQ(
         host.calls().mid(11),
@@ -107,7 +109,7 @@ TEST(Symbology, IsAskedOfItsOwnListWithSixteenBits)
     EXPECT_TRUE(isValidSymbology(55, false));
     EXPECT_TRUE(isValidSymbology(0x10014, true)) << "the low bits are 20";
     EXPECT_FALSE(isValidSymbology(-1, true));
-    EXPECT_EQ(host.callsOn(QStringLiteral("lists")),
+    EXPECT_EQ(host.callsOn(u"lists"_s),
               lines({"isValidBarcode1D 20", "isValidBarcode2D 20", "isValidBarcode1D 55",
                      "isValidBarcode2D 55", "isValidBarcode1D 20", "isValidBarcode1D 65535"}));
 }

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using tavrel_test::HeaderHex;
 using tavrel_test::hex;
@@ -38,9 +40,9 @@ TEST_P(BarcodeLayout, IsReadCompletely)
     const BarcodeRecord record = readBarcodeRecord(stream, {GetParam().version, {300.0, 150.0}}, 4);
     EXPECT_EQ(bytesLeft(stream), 1);
     EXPECT_EQ(record.header.zValue, 3004.0);
-    EXPECT_EQ(record.content, QStringLiteral("42"));
-    EXPECT_EQ(record.datasourceText, QStringLiteral("T"));
-    EXPECT_EQ(record.datasourceKey, QStringLiteral("_X"));
+    EXPECT_EQ(record.content, u"42"_s);
+    EXPECT_EQ(record.datasourceText, u"T"_s);
+    EXPECT_EQ(record.datasourceKey, u"_X"_s);
     EXPECT_EQ(record.symbology, 20);
     EXPECT_EQ(record.moduleWidth, 2);
     EXPECT_EQ(record.textAlignment, Qt::AlignRight);
@@ -128,11 +130,10 @@ struct NumberRow
 TEST(BarcodeRecord, InvalidNumberIsZero)
 {
     for (const NumberRow& row :
-         {NumberRow{QStringLiteral("abc"), 0}, NumberRow{QStringLiteral("99999999999"), 0},
-          NumberRow{QStringLiteral("2147483647"), 2147483647},
-          NumberRow{QStringLiteral("2147483648"), 0}, NumberRow{QStringLiteral("-5"), -5},
-          NumberRow{QStringLiteral("0x10"), 0}, NumberRow{QStringLiteral("010"), 10},
-          NumberRow{QStringLiteral("1.5"), 0}, NumberRow{QString(), 0}}) {
+         {NumberRow{u"abc"_s, 0}, NumberRow{u"99999999999"_s, 0},
+          NumberRow{u"2147483647"_s, 2147483647}, NumberRow{u"2147483648"_s, 0},
+          NumberRow{u"-5"_s, -5}, NumberRow{u"0x10"_s, 0}, NumberRow{u"010"_s, 10},
+          NumberRow{u"1.5"_s, 0}, NumberRow{QString(), 0}}) {
         const QByteArray bytes = tavrel_test::Bytes().text(row.text).bytes();
         EXPECT_EQ(recordWith(Symbology, Module, Placement, bytes).size, row.number)
             << row.text.toStdString();

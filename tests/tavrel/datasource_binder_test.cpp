@@ -6,6 +6,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 using tavrel::DatasourceBinder;
 using tavrel::SequenceSettings;
 
@@ -24,8 +26,8 @@ protected:
         sequence.sequenceEnd = 99;
         sequence.sequenceStep = -1;
         sequence.sequenceZeroPad = 4;
-        sequence.sequencePrefix = QStringLiteral("No");
-        sequence.sequenceSuffix = QStringLiteral("!");
+        sequence.sequencePrefix = u"No"_s;
+        sequence.sequenceSuffix = u"!"_s;
     }
 
     bool bind(const char* key, const char* text = "")
@@ -68,13 +70,13 @@ TEST_F(Binding, ClockKeysTakeDateThenTimeFormat)
         SCOPED_TRACE(row.key);
         host.forgetCalls();
         EXPECT_TRUE(bind(row.key));
-        const QString source = QStringLiteral("datasource:%1 setDatasourceProperty ").arg(++id);
-        const QString format = QStringLiteral("'%1' '%2'");
+        const QString source = u"datasource:%1 setDatasourceProperty "_s.arg(++id);
+        const QString format = u"'%1' '%2'"_s;
         EXPECT_EQ(host.calls(),
                   (QStringList{
-                      QStringLiteral("datasources createDatasource 'SystemDatasource'"),
-                      QStringLiteral("item:1 setDatasourceId %1").arg(id),
-                      QStringLiteral("datasources getDatasource %1").arg(id),
+                      u"datasources createDatasource 'SystemDatasource'"_s,
+                      u"item:1 setDatasourceId %1"_s.arg(id),
+                      u"datasources getDatasource %1"_s.arg(id),
                       source + format.arg(QLatin1String("DateFormat"), QLatin1String(row.date)),
                       source + format.arg(QLatin1String("TimeFormat"), QLatin1String(row.time)),
                   }));
@@ -86,8 +88,7 @@ TEST_F(Binding, EveryItemGetsASourceOfItsOwn)
     EXPECT_TRUE(bind("_DATE"));
     EXPECT_TRUE(bind("_DATE"));
     EXPECT_EQ(host.callsWith("createDatasource").size(), 2);
-    EXPECT_EQ(host.callsWith("setDatasourceId").value(1),
-              QStringLiteral("item:1 setDatasourceId 2"));
+    EXPECT_EQ(host.callsWith("setDatasourceId").value(1), u"item:1 setDatasourceId 2"_s);
 }
 
 TEST_F(Binding, DatabaseFieldsAreNotCarriedOver)
@@ -112,9 +113,8 @@ TEST_F(Binding, OtherKeysBindNothing)
 TEST_F(Binding, KeyInTheTextIsTheFirstOfTheList)
 {
     EXPECT_TRUE(bind("_SPECIAL", "Lot %_DATES% / %_TIME%"));
-    EXPECT_EQ(
-        host.callsWith("DateFormat"),
-        QStringList(QStringLiteral("datasource:1 setDatasourceProperty 'DateFormat' 'd/MM/yyyy'")));
+    EXPECT_EQ(host.callsWith("DateFormat"),
+              QStringList(u"datasource:1 setDatasourceProperty 'DateFormat' 'd/MM/yyyy'"_s));
     EXPECT_EQ(host.callsWith("createDatasource").size(), 1);
 }
 

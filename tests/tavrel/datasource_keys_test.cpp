@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 
 namespace {
@@ -42,9 +44,9 @@ TEST(DatasourceKeys, AreExactToTheLetter)
 
 TEST(DatasourceKeys, OneOfThemPointsIntoTheText)
 {
-    EXPECT_TRUE(isEmbeddedKey(QStringLiteral("_SPECIAL")));
-    EXPECT_FALSE(isEmbeddedKey(QStringLiteral("_special")));
-    EXPECT_FALSE(isEmbeddedKey(QStringLiteral("_DATE")));
+    EXPECT_TRUE(isEmbeddedKey(u"_SPECIAL"_s));
+    EXPECT_FALSE(isEmbeddedKey(u"_special"_s));
+    EXPECT_FALSE(isEmbeddedKey(u"_DATE"_s));
     EXPECT_FALSE(isEmbeddedKey(QString()));
 }
 

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <sys/resource.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel_test;
 
 namespace {
@@ -36,14 +38,14 @@ class CutFile : public ReaderTest, public testing::WithParamInterface<quint32>
 
 TEST_P(CutFile, KeepsRecordsBeforeTheCut)
 {
-    LabelFile label(GetParam(), {QStringLiteral("C:\\data\\list.csv")});
-    label.shape(QStringLiteral("Oval"))
-        .text(QStringLiteral("Net  weight"), QStringLiteral("3/2"), QStringLiteral("_SEQUENCE"))
+    LabelFile label(GetParam(), {u"C:\\data\\list.csv"_s});
+    label.shape(u"Oval"_s)
+        .text(u"Net  weight"_s, u"3/2"_s, u"_SEQUENCE"_s)
         .picture(pngOf(5, 4))
-        .barcode(true, 20, QStringLiteral("_DATE"))
+        .barcode(true, 20, u"_DATE"_s)
         .barcode(false, 55)
-        .symbol(QStringLiteral("arrow.svg"), "<svg/>")
-        .shape(QStringLiteral("VerticalLine"));
+        .symbol(u"arrow.svg"_s, "<svg/>")
+        .shape(u"VerticalLine"_s);
     QFile file(written(label.bytes()));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     for (qsizetype size = label.bytes().size(); size >= 0; --size) {
@@ -113,7 +115,7 @@ TEST_F(Hostile, LengthsBeyondTheEndGiveEmptyValues)
 TEST_F(Hostile, SvgBeyondTheEndIsIgnored)
 {
     LabelFile label(2000024);
-    label.symbol(QStringLiteral("arrow.svg"));
+    label.symbol(u"arrow.svg"_s);
     QByteArray bytes = label.bytes();
     bytes.chop(4);
     EXPECT_TRUE(import(bytes + hex("80000000 3C"))) << "the name is looked up instead";
@@ -139,7 +141,7 @@ const QByteArray HugePng = hex("89504E470D0A1A0A"
 
 TEST_F(Hostile, HugePictureIsLeftEmptyAndReadingContinues)
 {
-    EXPECT_TRUE(import(LabelFile().picture(HugePng).shape(QStringLiteral("Oval"))));
+    EXPECT_TRUE(import(LabelFile().picture(HugePng).shape(u"Oval"_s)));
     EXPECT_EQ(host.itemCount(), 2);
     EXPECT_EQ(errors().size(), 1);
     EXPECT_EQ(host.callsWith("pixmapImportActions"), lines({"item:1 pixmapImportActions 0x0"}));
@@ -181,13 +183,12 @@ TEST_F(Hostile, ItemsAreCounted)
 
 TEST_F(Hostile, NotesShareOneBound)
 {
-    const QString scaled = QStringLiteral("2");
+    const QString scaled = u"2"_s;
     const QString large(60'000, QLatin1Char('x'));
-    EXPECT_TRUE(import(
-        LabelFile().text(large, scaled).text(large, scaled).text(QStringLiteral("a b"), scaled)));
+    EXPECT_TRUE(import(LabelFile().text(large, scaled).text(large, scaled).text(u"a b"_s, scaled)));
     EXPECT_EQ(errors().size(), 1);
     EXPECT_LT(boxText().size(), 70'000);
-    EXPECT_TRUE(boxText().endsWith(QStringLiteral("\n\"a b\":\n\tOriginal font size: 12.")));
+    EXPECT_TRUE(boxText().endsWith(u"\n\"a b\":\n\tOriginal font size: 12."_s));
     boxes.clear();
     EXPECT_TRUE(import(LabelFile().text(large, scaled))) << "the next file starts again";
     EXPECT_GT(boxText().size(), 60'000);
@@ -195,8 +196,7 @@ TEST_F(Hostile, NotesShareOneBound)
 
 TEST_F(Hostile, TextOfBlanksAloneTakesNoMemoryForItsNote)
 {
-    EXPECT_TRUE(
-        import(LabelFile().text(QStringLiteral("a ").repeated(2'000'000), QStringLiteral("2"))));
+    EXPECT_TRUE(import(LabelFile().text(u"a "_s.repeated(2'000'000), u"2"_s)));
     EXPECT_TRUE(boxes.isEmpty());
     EXPECT_EQ(errors().size(), 1);
     expectModestMemory();
@@ -211,11 +211,11 @@ TEST_F(Hostile, NumbersThatAreNotFiniteAreHarmless)
         ASSERT_EQ(bytes.count(usual), 1);
         bytes.replace(usual, Bytes().real(odd).real(odd).bytes());
         const QByteArray items = LabelFile()
-                                     .text(QStringLiteral("x"), QStringLiteral("1/0"))
+                                     .text(u"x"_s, u"1/0"_s)
                                      .barcode(true, 20)
-                                     .symbol(QStringLiteral("arrow.svg"))
-                                     .picture(pngOf(2, 2), QStringLiteral("0/0"))
-                                     .shape(QStringLiteral("VerticalLine"))
+                                     .symbol(u"arrow.svg"_s)
+                                     .picture(pngOf(2, 2), u"0/0"_s)
+                                     .shape(u"VerticalLine"_s)
                                      .bytes()
                                      .mid(bytes.size());
         host.recorder().reset();
@@ -229,7 +229,7 @@ TEST_F(Hostile, NoiseIsReadToAnEnd)
     quint32 state = 1;
     for (int round = 0; round < 300; ++round) {
         QByteArray bytes = LabelFile(2000016 + quint32(round % 9))
-                               .text(QStringLiteral("a"))
+                               .text(u"a"_s)
                                .picture(pngOf(2, 2))
                                .barcode(true, 20)
                                .shape({})

@@ -2,15 +2,16 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using tavrel::ImportIssues;
 
 namespace {
 
-const QString SymbolIssue =
-    QStringLiteral("Errors reading symbol items.\nPlease update legacy Tavrel "
-                   "to its latest version and re-save file.");
-const QString Barcodes = QStringLiteral("Unsupported barcode symbols.");
-const QString Datasource = QStringLiteral("Datasource not connected.");
+const QString SymbolIssue = u"Errors reading symbol items.\nPlease update legacy Tavrel "
+                            "to its latest version and re-save file."_s;
+const QString Barcodes = u"Unsupported barcode symbols."_s;
+const QString Datasource = u"Datasource not connected."_s;
 
 TEST(ImportIssues, NothingToReportIsAnEmptyText)
 {
@@ -32,8 +33,8 @@ TEST(ImportIssues, EachIssueIsReportedAlone)
     database.databaseLinked = true;
     EXPECT_EQ(database.text(), Datasource);
     ImportIssues note;
-    note.addNote(QStringLiteral("a note"));
-    EXPECT_EQ(note.text(), QStringLiteral("a note"));
+    note.addNote(u"a note"_s);
+    EXPECT_EQ(note.text(), u"a note"_s);
 }
 
 TEST(ImportIssues, SymbolsAndBarcodesAreListedOnePerLine)
@@ -48,13 +49,13 @@ TEST(ImportIssues, AllTogetherKeepTheirOrder)
 {
     ImportIssues issues;
     issues.databaseLinked = true;
-    issues.addNote(QStringLiteral("one"));
+    issues.addNote(u"one"_s);
     issues.addNote(QString());
-    issues.addNote(QStringLiteral("two"));
+    issues.addNote(u"two"_s);
     issues.barcodeErrors = true;
     issues.symbolErrors = true;
-    EXPECT_EQ(issues.text(), SymbolIssue + QLatin1Char('\n') + Barcodes +
-                                 QStringLiteral("\none\ntwo\n") + Datasource);
+    EXPECT_EQ(issues.text(),
+              SymbolIssue + QLatin1Char('\n') + Barcodes + u"\none\ntwo\n"_s + Datasource);
 }
 
 } // namespace

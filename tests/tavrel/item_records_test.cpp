@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using tavrel_test::Bytes;
 using tavrel_test::HeaderHex;
@@ -99,10 +101,9 @@ struct LengthRow
 TEST(ItemHeader, LengthsAreFractionsOfAnInch)
 {
     for (const LengthRow& row :
-         {LengthRow{QStringLiteral("3/4"), 54.0}, LengthRow{QStringLiteral("0.5"), 36.0},
-          LengthRow{QStringLiteral("2"), 144.0}, LengthRow{QString(), 72.0},
-          LengthRow{QStringLiteral("abc"), 72.0}, LengthRow{QStringLiteral("0"), 72.0},
-          LengthRow{QStringLiteral("-4"), 72.0}}) {
+         {LengthRow{u"3/4"_s, 54.0}, LengthRow{u"0.5"_s, 36.0}, LengthRow{u"2"_s, 144.0},
+          LengthRow{QString(), 72.0}, LengthRow{u"abc"_s, 72.0}, LengthRow{u"0"_s, 72.0},
+          LengthRow{u"-4"_s, 72.0}}) {
         SCOPED_TRACE(row.text.toStdString());
         QDataStream stream(Bytes()
                                .flag(false)
@@ -122,7 +123,7 @@ TEST(ItemHeader, LengthsAreFractionsOfAnInch)
 TEST(ItemHeader, InfiniteLengthIsNotANumber)
 {
     for (const auto& [size, points] : {std::pair(999, 36.0), std::pair(1000, 72.0)}) {
-        const QString text = QStringLiteral("0.5").leftJustified(size + 1, QLatin1Char('0'));
+        const QString text = u"0.5"_s.leftJustified(size + 1, QLatin1Char('0'));
         QDataStream stream(
             Bytes().flag(false).real(0).real(0).real(0).real(0).text(text).text({}).bytes());
         EXPECT_EQ(readItemHeader(stream, file(2000024), 0).width, points) << size;
@@ -137,8 +138,8 @@ TEST(ItemHeader, ZeroDenominatorAndOddNumbersPass)
                            .real(HUGE_VAL)
                            .real(NAN)
                            .real(-HUGE_VAL)
-                           .text(QStringLiteral("1/0"))
-                           .text(QStringLiteral("0/0"))
+                           .text(u"1/0"_s)
+                           .text(u"0/0"_s)
                            .bytes());
     const ItemHeader header = readItemHeader(stream, file(2000024), 0);
     EXPECT_TRUE(std::isnan(header.x));
@@ -179,7 +180,7 @@ TEST(ShapeRecord, IsHeaderWidthStyleFillName)
     EXPECT_EQ(record.penWidth, 6);
     EXPECT_EQ(record.penStyle, 2);
     EXPECT_EQ(record.fillMode, 1);
-    EXPECT_EQ(record.name, QStringLiteral("Oval"));
+    EXPECT_EQ(record.name, u"Oval"_s);
 }
 
 struct ShapeRow
@@ -241,7 +242,7 @@ TEST_P(SymbolLayout, IsReadCompletely)
     const SymbolRecord record = readSymbolRecord(stream, file(GetParam().version), 0);
     EXPECT_EQ(bytesLeft(stream), GetParam().left);
     EXPECT_EQ(record.header.height, 36.0);
-    EXPECT_EQ(record.name, QStringLiteral("a/b"));
+    EXPECT_EQ(record.name, u"a/b"_s);
     EXPECT_EQ(record.data, QByteArray(GetParam().data));
 }
 

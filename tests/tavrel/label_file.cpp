@@ -1,6 +1,8 @@
 #include "tests/tavrel/label_file.h"
 #include "tests/support/encoded_picture.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace tavrel_test {
 
 LabelFile::LabelFile(quint32 version, const QStringList& databases, const LabelPage& page)
@@ -9,7 +11,7 @@ LabelFile::LabelFile(quint32 version, const QStringList& databases, const LabelP
     m_bytes.word(0x1234).word(version).word(1).raw(pngOf(3, 2));
     canvasRecord(page);
     m_bytes.number(page.sequenceStart).number(99).number(1).number(4);
-    m_bytes.text(QStringLiteral("No")).text(QStringLiteral("!"));
+    m_bytes.text(u"No"_s).text(u"!"_s);
     if (m_version >= 2000020) {
         m_bytes.number(5);
     }
@@ -27,7 +29,7 @@ void LabelFile::canvasRecord(const LabelPage& page)
     } else {
         m_bytes.real(2.0).real(4.0);
     }
-    m_bytes.number(page.labelType).number(page.ribbonType).text(QStringLiteral("unused")).text({});
+    m_bytes.number(page.labelType).number(page.ribbonType).text(u"unused"_s).text({});
     m_bytes.flag(page.canvasFlag)
         .number(page.orientationCode)
         .number(0)
@@ -104,7 +106,7 @@ LabelFile& LabelFile::text(const QString& content, const QString& scale, const Q
 
 LabelFile& LabelFile::barcode(bool linear, qint32 symbology, const QString& key)
 {
-    const QString content = QStringLiteral("4711");
+    const QString content = u"4711"_s;
     m_bytes.number(linear ? 0x10003 : 0x10006);
     itemHeader();
     if (m_version >= 2000022) {
@@ -113,7 +115,7 @@ LabelFile& LabelFile::barcode(bool linear, qint32 symbology, const QString& key)
         m_bytes.text(key).number(symbology).text(content);
     }
     m_bytes.flag(false).text({}).number(7).number(1).flag(true).flag(false).flag(true).flag(true);
-    m_bytes.text(QStringLiteral("3")).number(4).number(5).number(6);
+    m_bytes.text(u"3"_s).number(4).number(5).number(6);
     if (m_version <= 2000021) {
         m_bytes.text({});
     }

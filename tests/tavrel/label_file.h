@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QStringList>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace tavrel_test {
 
 /// Values of the records before the items, for tests to set.
@@ -29,11 +31,11 @@ public:
                        const LabelPage& page = {});
 
     LabelFile& shape(const QString& name, double layer = 1.0);
-    LabelFile& picture(const QByteArray& png, const QString& width = QStringLiteral("25/6"),
-                       const QString& height = QStringLiteral("25/6"));
+    LabelFile& picture(const QByteArray& png, const QString& width = u"25/6"_s,
+                       const QString& height = u"25/6"_s);
     /// @param scale the header's width and height; any value but "1" causes a note
-    LabelFile& text(const QString& content, const QString& scale = QStringLiteral("1"),
-                    const QString& key = {}, const QString& sourceText = {});
+    LabelFile& text(const QString& content, const QString& scale = u"1"_s, const QString& key = {},
+                    const QString& sourceText = {});
     LabelFile& barcode(bool linear, qint32 symbology, const QString& key = {});
     LabelFile& symbol(const QString& name, const QByteArray& svg = {});
     LabelFile& empty();
@@ -45,8 +47,8 @@ public:
     [[nodiscard]] const QList<qsizetype>& recordEnds() const { return m_recordEnds; }
 
 private:
-    void itemHeader(double layer = 1.0, const QString& width = QStringLiteral("1"),
-                    const QString& height = QStringLiteral("1"));
+    void itemHeader(double layer = 1.0, const QString& width = u"1"_s,
+                    const QString& height = u"1"_s);
     void canvasRecord(const LabelPage& page);
     void textLook();
     LabelFile& recordEnd();

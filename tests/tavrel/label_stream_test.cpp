@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using tavrel_test::hex;
 
@@ -45,10 +47,10 @@ TEST(LabelStream, ReadsTexts)
                            "00000000"           // empty
                            "FFFFFFFF"           // null
                            "00000002 0042"));   // "B"
-    EXPECT_EQ(readText(stream), QStringLiteral("A\u20AC"));
+    EXPECT_EQ(readText(stream), u"A\u20AC"_s);
     EXPECT_EQ(readText(stream), QString());
     EXPECT_TRUE(readText(stream).isNull());
-    EXPECT_EQ(readText(stream), QStringLiteral("B"));
+    EXPECT_EQ(readText(stream), u"B"_s);
     EXPECT_TRUE(stream.atEnd());
 }
 

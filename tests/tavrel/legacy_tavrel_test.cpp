@@ -3,17 +3,19 @@
 #include "supply/legacy_supply_info.h"
 #include "tests/tavrel/reader_fixture.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel_test;
 
 namespace {
 
-const QString LoadError = QStringLiteral("Load Error");
-const QString Warning = QStringLiteral("Warning: Import issues.");
-const QString SymbolErrors = QStringLiteral("Errors reading symbol items.\nPlease update legacy "
-                                            "Tavrel to its latest version and re-save file.");
-const QString BarcodeErrors = QStringLiteral("Unsupported barcode symbols.");
-const QString NotConnected = QStringLiteral("Datasource not connected.");
-const QString Oval = QStringLiteral("Oval");
+const QString LoadError = u"Load Error"_s;
+const QString Warning = u"Warning: Import issues."_s;
+const QString SymbolErrors = u"Errors reading symbol items.\nPlease update legacy "
+                             "Tavrel to its latest version and re-save file."_s;
+const QString BarcodeErrors = u"Unsupported barcode symbols."_s;
+const QString NotConnected = u"Datasource not connected."_s;
+const QString Oval = u"Oval"_s;
 
 class Reader : public ReaderTest
 {};
@@ -22,7 +24,7 @@ class Reader : public ReaderTest
 
 TEST_F(Reader, FileThatCannotBeOpenedIsRefusedSilently)
 {
-    EXPECT_FALSE(reader.importLabelFromFile(folder.filePath(QStringLiteral("none.cnv"))));
+    EXPECT_FALSE(reader.importLabelFromFile(folder.filePath(u"none.cnv"_s)));
     EXPECT_FALSE(reader.importLabelFromFile(folder.path())) << "a folder";
     EXPECT_FALSE(reader.importLabelFromFile(QString()));
     EXPECT_TRUE(log.records().isEmpty());
@@ -32,7 +34,7 @@ TEST_F(Reader, FileThatCannotBeOpenedIsRefusedSilently)
 
 TEST_F(Reader, DeviceThatNeverEndsIsRefused)
 {
-    EXPECT_FALSE(reader.importLabelFromFile(QStringLiteral("/dev/zero")));
+    EXPECT_FALSE(reader.importLabelFromFile(u"/dev/zero"_s));
     EXPECT_EQ(errors().size(), 1);
     EXPECT_TRUE(host.calls().isEmpty());
 }
@@ -53,21 +55,18 @@ TEST_F(Reader, OldVersionIsRefusedWithALogLine)
     ASSERT_EQ(log.records().size(), 1);
     const CapturedLog::Record& record = log.records().first();
     EXPECT_EQ(record.level, Logger::Error);
-    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel"));
-    EXPECT_EQ(record.function,
-              QStringLiteral("bool LegacyTavrel::importLabelFromFile(const QString&)"));
-    EXPECT_EQ(record.message,
-              QStringLiteral("Invalid canvas file version (2000015 != 2000024) in ") + path);
+    EXPECT_EQ(record.source, u"legacy_tavrel"_s);
+    EXPECT_EQ(record.function, u"bool LegacyTavrel::importLabelFromFile(const QString&)"_s);
+    EXPECT_EQ(record.message, u"Invalid canvas file version (2000015 != 2000024) in "_s + path);
     EXPECT_TRUE(host.calls().isEmpty()) << "the canvas is not touched";
     EXPECT_TRUE(boxes.isEmpty());
 }
 
 TEST_F(Reader, PathIsLoggedAsGiven)
 {
-    path = folder.filePath(QStringLiteral("100%1 %s.cnv"));
+    path = folder.filePath(u"100%1 %s.cnv"_s);
     EXPECT_FALSE(import(QByteArray()));
-    EXPECT_EQ(errors(),
-              QStringList(QStringLiteral("Invalid canvas file version (0 != 2000024) in ") + path));
+    EXPECT_EQ(errors(), QStringList(u"Invalid canvas file version (0 != 2000024) in "_s + path));
 }
 
 class EveryVersion : public ReaderTest, public testing::WithParamInterface<quint32>
@@ -78,14 +77,14 @@ protected:
     {
         LabelFile file(version);
         file.shape(Oval)
-            .shape(QStringLiteral("VerticalLine"))
-            .text(QStringLiteral("Asset"), QStringLiteral("1"), QStringLiteral("_SEQUENCE"))
+            .shape(u"VerticalLine"_s)
+            .text(u"Asset"_s, u"1"_s, u"_SEQUENCE"_s)
             .picture(pngOf(4, 3))
             .barcode(true, 20)
             .barcode(false, 55)
-            .symbol(QStringLiteral("arrow.svg"))
+            .symbol(u"arrow.svg"_s)
             .empty()
-            .shape(QStringLiteral("HorizontalLine"));
+            .shape(u"HorizontalLine"_s);
         return file;
     }
 };
@@ -104,7 +103,7 @@ TEST_P(EveryVersion, IsReadToTheLastItem)
               lines({"canvas importCanvasParameters 288 144 true true"}));
     EXPECT_EQ(host.callsWith("'Prefix'"),
               lines({"datasource:1 setDatasourceProperty 'Prefix' 'No'"}));
-    EXPECT_EQ(host.calls().last(), QStringLiteral("canvas completeCanvasLoading"));
+    EXPECT_EQ(host.calls().last(), u"canvas completeCanvasLoading"_s);
 }
 
 TEST_P(EveryVersion, PositionsAreInDotsAtFirstAndThenInInches)
@@ -173,12 +172,8 @@ TEST_F(Reader, LaterItemsOfALayerAreInFront)
 
 TEST_F(Reader, EveryHeaderThatIsReadTakesANumber)
 {
-    EXPECT_TRUE(import(LabelFile()
-                           .shape(Oval)
-                           .barcode(true, 5)
-                           .symbol(QStringLiteral("unknown"))
-                           .empty()
-                           .shape(Oval)));
+    EXPECT_TRUE(
+        import(LabelFile().shape(Oval).barcode(true, 5).symbol(u"unknown"_s).empty().shape(Oval)));
     EXPECT_EQ(host.item(2)->zValue(), host.item(1)->zValue() + 3.0);
 }
 
@@ -194,7 +189,7 @@ TEST_F(Reader, LabelWithoutItemsFails)
 
 TEST_F(Reader, LabelWithoutItemsStillReportsItsDatabase)
 {
-    EXPECT_FALSE(import(LabelFile(2000024, {QStringLiteral("C:\\data\\list.csv")})));
+    EXPECT_FALSE(import(LabelFile(2000024, {u"C:\\data\\list.csv"_s})));
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes.first()->windowTitle(), Warning);
     EXPECT_EQ(boxText(), NotConnected);
@@ -209,17 +204,17 @@ TEST_F(Reader, EmptyRecordsAreNotItems)
 
 TEST_F(Reader, UnknownCodeAtFirstIsALoadError)
 {
-    EXPECT_FALSE(import(LabelFile(2000024, {QStringLiteral("/list.csv")}).typeCode(65543)));
+    EXPECT_FALSE(import(LabelFile(2000024, {u"/list.csv"_s}).typeCode(65543)));
     ASSERT_EQ(log.records().size(), 1);
     const CapturedLog::Record& record = log.records().first();
     EXPECT_EQ(record.level, Logger::Error);
-    EXPECT_EQ(record.source, QStringLiteral("legacy_tavrel"));
-    EXPECT_EQ(record.function, QStringLiteral("bool LegacyTavrel::importCanvasAndItems("
-                                              "QDataStream&, quint32, bool)"));
-    EXPECT_EQ(record.message, QStringLiteral("Invalid type: 65543"));
+    EXPECT_EQ(record.source, u"legacy_tavrel"_s);
+    EXPECT_EQ(record.function, u"bool LegacyTavrel::importCanvasAndItems("
+                               "QDataStream&, quint32, bool)"_s);
+    EXPECT_EQ(record.message, u"Invalid type: 65543"_s);
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes.first()->windowTitle(), LoadError);
-    EXPECT_EQ(boxText(), QStringLiteral("Errors reading items.")) << "and nothing else";
+    EXPECT_EQ(boxText(), u"Errors reading items."_s) << "and nothing else";
     EXPECT_TRUE(host.callsWith("completeCanvasLoading").isEmpty());
 }
 
@@ -227,7 +222,7 @@ TEST_F(Reader, UnknownCodeAfterFailuresAloneIsALoadErrorToo)
 {
     EXPECT_FALSE(import(LabelFile().barcode(true, 5).empty().typeCode(-1).shape(Oval)));
     EXPECT_EQ(errors(), lines({"Invalid type: -1"}));
-    EXPECT_EQ(boxText(), QStringLiteral("Errors reading items."));
+    EXPECT_EQ(boxText(), u"Errors reading items."_s);
     EXPECT_EQ(host.itemCount(), 0);
 }
 
@@ -248,52 +243,46 @@ TEST_F(Reader, UnknownCodeAfterAnItemStillReportsTheIssues)
 
 TEST_F(Reader, FailuresAreSkippedAndReportedTogether)
 {
-    EXPECT_TRUE(import(LabelFile()
-                           .barcode(true, 5)
-                           .symbol(QStringLiteral("unknown"))
-                           .barcode(false, 20)
-                           .shape(Oval)));
+    EXPECT_TRUE(
+        import(LabelFile().barcode(true, 5).symbol(u"unknown"_s).barcode(false, 20).shape(Oval)));
     EXPECT_EQ(boxText(), SymbolErrors + QLatin1Char('\n') + BarcodeErrors);
     EXPECT_EQ(host.itemCount(), 1);
 }
 
 TEST_F(Reader, FailuresAloneAreNotASuccess)
 {
-    EXPECT_FALSE(import(LabelFile().barcode(true, 5).symbol(QStringLiteral("unknown"))));
+    EXPECT_FALSE(import(LabelFile().barcode(true, 5).symbol(u"unknown"_s)));
     EXPECT_EQ(boxes.first()->windowTitle(), Warning);
     EXPECT_EQ(boxText(), SymbolErrors + QLatin1Char('\n') + BarcodeErrors);
 }
 
 TEST_F(Reader, NotesOfStretchedTextsAreListed)
 {
-    EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
-                           .text(QStringLiteral("Net  weight"), QStringLiteral("2"))
-                           .text(QStringLiteral("plain"))
-                           .text(QStringLiteral("Lot"), QStringLiteral("1/2"))));
-    EXPECT_EQ(boxText(), QStringLiteral("\"Net weight\":\n\tOriginal font size: 12.\n"
-                                        "\"Lot\":\n\tOriginal font size: 12.\n") +
+    EXPECT_TRUE(import(LabelFile(2000024, {u"/list.csv"_s})
+                           .text(u"Net  weight"_s, u"2"_s)
+                           .text(u"plain"_s)
+                           .text(u"Lot"_s, u"1/2"_s)));
+    EXPECT_EQ(boxText(), u"\"Net weight\":\n\tOriginal font size: 12.\n"
+                         "\"Lot\":\n\tOriginal font size: 12.\n"_s +
                              NotConnected);
 }
 
 TEST_F(Reader, TextBindsItsKey)
 {
-    EXPECT_TRUE(import(LabelFile().text(QStringLiteral("x"), QStringLiteral("1"),
-                                        QStringLiteral("_SPECIAL"), QStringLiteral("%_TIME%"))));
+    EXPECT_TRUE(import(LabelFile().text(u"x"_s, u"1"_s, u"_SPECIAL"_s, u"%_TIME%"_s)));
     EXPECT_EQ(host.callsWith("createDatasource").size(), 1);
     EXPECT_EQ(host.callsWith("hh:mm:ss").size(), 1);
 }
 
 TEST_F(Reader, OlderTextHasNoTextToSearchForAKey)
 {
-    EXPECT_TRUE(import(LabelFile(2000021).text(QStringLiteral("%_TIME%"), QStringLiteral("1"),
-                                               QStringLiteral("_SPECIAL"))));
+    EXPECT_TRUE(import(LabelFile(2000021).text(u"%_TIME%"_s, u"1"_s, u"_SPECIAL"_s)));
     EXPECT_TRUE(host.callsWith("createDatasource").isEmpty());
 }
 
 TEST_F(Reader, DatabaseKeyIsReadOver)
 {
-    EXPECT_TRUE(import(
-        LabelFile().text(QStringLiteral("x"), QStringLiteral("1"), QStringLiteral("Record"))));
+    EXPECT_TRUE(import(LabelFile().text(u"x"_s, u"1"_s, u"Record"_s)));
     EXPECT_TRUE(boxes.isEmpty());
     EXPECT_EQ(host.itemCount(), 1);
 }
@@ -302,15 +291,14 @@ TEST_F(Reader, DatabaseKeyIsReadOver)
 
 TEST_F(Reader, EmbeddedSymbolNeverAsksTheDatabases)
 {
-    EXPECT_TRUE(import(LabelFile().symbol(QStringLiteral("arrow.svg"), "<svg/>")));
+    EXPECT_TRUE(import(LabelFile().symbol(u"arrow.svg"_s, "<svg/>")));
     EXPECT_TRUE(lookUps().isEmpty());
-    EXPECT_EQ(host.lastCall(1, QStringLiteral("loadItemFromData")),
-              TestHost::shown("symbol of <svg/>"));
+    EXPECT_EQ(host.lastCall(1, u"loadItemFromData"_s), TestHost::shown("symbol of <svg/>"));
 }
 
 TEST_F(Reader, SymbolWithoutDataIsLookedUp)
 {
-    EXPECT_TRUE(import(LabelFile(2000024).symbol(QStringLiteral("/old/arrow.svg"))));
+    EXPECT_TRUE(import(LabelFile(2000024).symbol(u"/old/arrow.svg"_s)));
     EXPECT_EQ(lookUps(), lines({"symboldb:1 getDataFromSymbolName 'arrow.svg'"}));
     EXPECT_EQ(host.recorder().symbolCreatorsMade(), 0);
 }
@@ -318,7 +306,7 @@ TEST_F(Reader, SymbolWithoutDataIsLookedUp)
 TEST_F(Reader, SymbolThatDrawsNothingIsAnError)
 {
     host.behavior().symbolSize = QSizeF(0, 8);
-    EXPECT_FALSE(import(LabelFile().symbol(QStringLiteral("a"), "<svg/>")));
+    EXPECT_FALSE(import(LabelFile().symbol(u"a"_s, "<svg/>")));
     EXPECT_EQ(boxText(), SymbolErrors);
     EXPECT_EQ(host.livingItems(), 0);
 }
@@ -326,7 +314,7 @@ TEST_F(Reader, SymbolThatDrawsNothingIsAnError)
 TEST_F(Reader, SymbolThatCannotBeConvertedIsAnError)
 {
     host.behavior().conversion = recorder::Behavior::Conversion::Fails;
-    EXPECT_FALSE(import(LabelFile().symbol(QStringLiteral("arrow.svg"), "no svg")));
+    EXPECT_FALSE(import(LabelFile().symbol(u"arrow.svg"_s, "no svg")));
     EXPECT_EQ(boxText(), SymbolErrors);
     EXPECT_TRUE(host.callsWith("factory create").isEmpty());
 }
@@ -340,7 +328,7 @@ TEST_F(Reader, IssuesAreReportedBeforeTheCanvasIsComplete)
     const QSignalSpy shown(&reader, &LegacyTavrel::popupShowSignal);
     EXPECT_TRUE(import(LabelFile().shape(Oval).barcode(true, 5)));
     EXPECT_EQ(shown.count(), 1);
-    EXPECT_EQ(host.calls().last(), QStringLiteral("canvas completeCanvasLoading"));
+    EXPECT_EQ(host.calls().last(), u"canvas completeCanvasLoading"_s);
 }
 
 // A host that fails
@@ -352,10 +340,10 @@ TEST_F(Reader, ItemThatTheHostCannotMakeIsLeftOutAndLogged)
     EXPECT_TRUE(import(LabelFile()
                            .shape(Oval)
                            .picture(pngOf(2, 2))
-                           .text(QStringLiteral("x"), QStringLiteral("2"))
+                           .text(u"x"_s, u"2"_s)
                            .barcode(true, 20)
-                           .symbol(QStringLiteral("arrow.svg"))
-                           .shape(QStringLiteral("Square"))));
+                           .symbol(u"arrow.svg"_s)
+                           .shape(u"Square"_s)));
     EXPECT_EQ(errors().size(), 5);
     EXPECT_EQ(host.itemCount(), 1);
     EXPECT_EQ(boxText(), SymbolErrors);
@@ -365,9 +353,7 @@ TEST_F(Reader, ItemThatTheHostCannotMakeIsLeftOutAndLogged)
 
 TEST_F(Reader, FilesInTurnDoNotMixEvenWithAFailureBetween)
 {
-    EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
-                           .text(QStringLiteral("a"), QStringLiteral("2"))
-                           .barcode(true, 5)));
+    EXPECT_TRUE(import(LabelFile(2000024, {u"/list.csv"_s}).text(u"a"_s, u"2"_s).barcode(true, 5)));
     const QString first = textOf(boxes.first());
     EXPECT_FALSE(import(hex("00000000 00000001")));
     EXPECT_FALSE(import(LabelFile(2000018).typeCode(1)));
@@ -378,9 +364,7 @@ TEST_F(Reader, FilesInTurnDoNotMixEvenWithAFailureBetween)
     EXPECT_TRUE(boxes.isEmpty()) << "issues are those of one file";
     EXPECT_EQ(host.callsWith("completeCanvasLoading").size(), 1);
 
-    EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
-                           .text(QStringLiteral("a"), QStringLiteral("2"))
-                           .barcode(true, 5)));
+    EXPECT_TRUE(import(LabelFile(2000024, {u"/list.csv"_s}).text(u"a"_s, u"2"_s).barcode(true, 5)));
     EXPECT_EQ(textOf(boxes.last()), first);
 }
 
@@ -388,8 +372,7 @@ TEST_F(Reader, ResolutionAndCounterAreThoseOfTheFile)
 {
     const auto label = [](quint32 version, const LabelPage& page) {
         LabelFile file(version, {}, page);
-        file.picture(pngOf(40, 61))
-            .text(QStringLiteral("x"), QStringLiteral("1"), QStringLiteral("_SEQUENCE"));
+        file.picture(pngOf(40, 61)).text(u"x"_s, u"1"_s, u"_SEQUENCE"_s);
         return file;
     };
     LabelPage page;
@@ -411,12 +394,11 @@ TEST_F(Reader, ResolutionAndCounterAreThoseOfTheFile)
 
 TEST_F(Reader, ServicesAreMadeOnceForAllFiles)
 {
-    const LabelFile label =
-        LabelFile().symbol(QStringLiteral("a"), "<svg/>").symbol(QStringLiteral("unknown"));
+    const LabelFile label = LabelFile().symbol(u"a"_s, "<svg/>").symbol(u"unknown"_s);
     EXPECT_TRUE(import(label));
     EXPECT_TRUE(import(label));
     EXPECT_EQ(host.recorder().symbolCreatorsMade(), 1);
-    EXPECT_EQ(host.count(QStringLiteral("setDatabasePath")), 2);
+    EXPECT_EQ(host.count(u"setDatabasePath"_s), 2);
 }
 
 } // namespace

@@ -10,6 +10,8 @@
 #include <QImage>
 #include <QTemporaryFile>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using namespace tavrel_test;
 
@@ -47,8 +49,7 @@ TEST_F(TavrelBounds, CountItemRecords)
 TEST_F(TavrelBounds, CountTheCharactersOfNotes)
 {
     const auto import = [this](qsizetype characters) {
-        return ReaderTest::import(
-            LabelFile().text(QString(characters, QLatin1Char('x')), QStringLiteral("2")));
+        return ReaderTest::import(LabelFile().text(QString(characters, QLatin1Char('x')), u"2"_s));
     };
     EXPECT_TRUE(import(MaximumNoteCharacters));
     EXPECT_TRUE(errors().isEmpty());

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel_test;
 
 namespace {
@@ -26,7 +28,7 @@ protected:
 TEST_F(MessageBox, IsNotMadeWhenAllWentWell)
 {
     EXPECT_TRUE(import(LabelFile().shape({})));
-    EXPECT_TRUE(host.callsOn(QStringLiteral("messagebox")).isEmpty());
+    EXPECT_TRUE(host.callsOn(u"messagebox"_s).isEmpty());
     EXPECT_EQ(shown.count(), 0);
 }
 
@@ -35,8 +37,8 @@ TEST_F(MessageBox, IsAnnouncedOnceAndKept)
     EXPECT_TRUE(importWithIssue());
     ASSERT_EQ(boxes.size(), 1);
     const QPointer<TalMessageBox> box = boxes.first();
-    EXPECT_EQ(box->windowTitle(), QStringLiteral("Warning: Import issues."));
-    EXPECT_EQ(textOf(box), QStringLiteral("Unsupported barcode symbols."));
+    EXPECT_EQ(box->windowTitle(), u"Warning: Import issues."_s);
+    EXPECT_EQ(textOf(box), u"Unsupported barcode symbols."_s);
     EXPECT_EQ(box->property("buttons"), int(QMessageBox::Ok));
     EXPECT_EQ(box->property("defaultButton"), int(QMessageBox::Ok));
     EXPECT_EQ(box->property("detail"), QString());

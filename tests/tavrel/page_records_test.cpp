@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using tavrel_test::Bytes;
 using tavrel_test::hex;
@@ -169,8 +171,8 @@ TEST_P(SequenceLayout, IsReadCompletely)
     EXPECT_EQ(settings.sequenceEnd, 99);
     EXPECT_EQ(settings.sequenceStep, -1);
     EXPECT_EQ(settings.sequenceZeroPad, 4);
-    EXPECT_EQ(settings.sequencePrefix, QStringLiteral("No"));
-    EXPECT_EQ(settings.sequenceSuffix, QStringLiteral("!"));
+    EXPECT_EQ(settings.sequencePrefix, u"No"_s);
+    EXPECT_EQ(settings.sequenceSuffix, u"!"_s);
     EXPECT_EQ(settings.sequenceTrailingValue, row.trailingValue);
 }
 
@@ -208,9 +210,9 @@ TEST_P(DatabaseList, ReportsWhetherAFileIsSelected)
     EXPECT_EQ(bytesLeft(stream), row.left) << row.what;
 }
 
-const QString Windows = QStringLiteral("C:\\data\\list.csv");
-const QString Unix = QStringLiteral("/data/list.csv");
-const QString Word = QStringLiteral("list");
+const QString Windows = u"C:\\data\\list.csv"_s;
+const QString Unix = u"/data/list.csv"_s;
+const QString Word = u"list"_s;
 
 INSTANTIATE_TEST_SUITE_P(
     Lists, DatabaseList,

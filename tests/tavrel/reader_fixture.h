@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace tavrel_test {
 
 /// A reader, its host, and a folder for its files. The host accepts every drawing as a symbol of
@@ -28,8 +30,8 @@ protected:
         host.behavior().symbolSize = QSizeF(30, 20);
         host.behavior().sourcesHaveFields = false;
         const QString folderOfDatabases = QCoreApplication::applicationDirPath();
-        host.behavior().symbols = {{folderOfDatabases + QStringLiteral("/symbols.db"),
-                                    {{QStringLiteral("arrow.svg"), "arrow"}}}};
+        host.behavior().symbols = {
+            {folderOfDatabases + u"/symbols.db"_s, {{u"arrow.svg"_s, "arrow"}}}};
         collectBoxes(reader);
     }
 
@@ -77,7 +79,7 @@ protected:
     QList<QPointer<TalMessageBox>> boxes; ///< that the readers have announced
     LegacyTavrel reader{host.canvas(), host.datasources()};
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("label.cnv"));
+    QString path = folder.filePath(u"label.cnv"_s);
     CapturedLog log;
 };
 

@@ -5,12 +5,14 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using tavrel::SymbolSource;
 
 namespace {
 
-const QString First = QStringLiteral("/symbols.db");
-const QString Second = QStringLiteral("/legacy_symbols.db");
+const QString First = u"/symbols.db"_s;
+const QString Second = u"/legacy_symbols.db"_s;
 const QStringList BothAreAsked = lines({"symboldb:1 setDatabasePath 'symbols.db'",
                                         "symboldb:1 getDataFromSymbolName 'arrow.svg'",
                                         "symboldb:2 setDatabasePath 'legacy_symbols.db'",
@@ -27,7 +29,7 @@ protected:
     void store(const QString& database, const QByteArray& data)
     {
         const QString path = QCoreApplication::applicationDirPath() + database;
-        (*host.behavior().symbols)[path][QStringLiteral("arrow.svg")] = data;
+        (*host.behavior().symbols)[path][u"arrow.svg"_s] = data;
     }
 
     TestHost host;
@@ -38,7 +40,7 @@ TEST_F(Symbols, FirstDatabaseIsEnoughWhenItKnowsTheName)
     store(First, "1x1");
     store(Second, "2x2");
     SymbolSource source;
-    EXPECT_EQ(source.getSymbolData(QStringLiteral("arrow.svg")), QByteArray("1x1"));
+    EXPECT_EQ(source.getSymbolData(u"arrow.svg"_s), QByteArray("1x1"));
     EXPECT_EQ(host.calls(), BothAreAsked.first(2));
 }
 
@@ -46,14 +48,14 @@ TEST_F(Symbols, SecondDatabaseIsAskedNext)
 {
     store(Second, "2x2");
     SymbolSource source;
-    EXPECT_EQ(source.getSymbolData(QStringLiteral("arrow.svg")), QByteArray("2x2"));
+    EXPECT_EQ(source.getSymbolData(u"arrow.svg"_s), QByteArray("2x2"));
     EXPECT_EQ(host.calls(), BothAreAsked);
 }
 
 TEST_F(Symbols, UnknownNameGivesNothing)
 {
     SymbolSource source;
-    EXPECT_TRUE(source.getSymbolData(QStringLiteral("none")).isEmpty());
+    EXPECT_TRUE(source.getSymbolData(u"none"_s).isEmpty());
     EXPECT_TRUE(source.getSymbolData(QString()).isEmpty());
 }
 
@@ -71,10 +73,10 @@ TEST_F(Symbols, DatabasesAreOpenedOnceAndDeletedWithTheSource)
     {
         SymbolSource source;
         EXPECT_EQ(host.recorder().symbolDatabases(), 0) << "not before the first need";
-        (void)source.getSymbolData(QStringLiteral("a"));
-        (void)source.getSymbolData(QStringLiteral("b"));
+        (void)source.getSymbolData(u"a"_s);
+        (void)source.getSymbolData(u"b"_s);
         EXPECT_EQ(host.recorder().symbolDatabases(), 2);
-        EXPECT_EQ(host.count(QStringLiteral("setDatabasePath")), 2);
+        EXPECT_EQ(host.count(u"setDatabasePath"_s), 2);
     }
     EXPECT_EQ(host.recorder().symbolDatabases(), 0);
 }

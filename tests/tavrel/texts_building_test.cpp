@@ -4,6 +4,8 @@
 
 #include "tests/tavrel/builder_fixture.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using namespace tavrel_test;
 
@@ -18,7 +20,7 @@ protected:
         record.header = header;
         record.header.width = 72.0;
         record.header.height = 72.0;
-        record.content = QStringLiteral("Net  weight");
+        record.content = u"Net  weight"_s;
         record.penWidth = 6;
         record.penStyle = 2;
         record.fontSize = 12;
@@ -112,9 +114,8 @@ TEST_F(TextBuilder, BoxIsFixedScaledOrTheItemsOwn)
         record.header.width = row.headerWidth;
         record.header.height = row.headerHeight;
         EXPECT_EQ(build(record).scaled, row.scaled);
-        EXPECT_TRUE(host.callsWith("setItemSizeLimiting")
-                        .value(0)
-                        .endsWith(QStringLiteral(" %1").arg(row.limiting)));
+        EXPECT_TRUE(
+            host.callsWith("setItemSizeLimiting").value(0).endsWith(u" %1"_s.arg(row.limiting)));
         EXPECT_TRUE(host.callsWith("setTextBoxSize")
                         .value(0)
                         .endsWith(QLatin1Char(' ') + QLatin1String(row.size)));
@@ -150,26 +151,25 @@ TEST_F(TextBuilder, InverseSwapsTheColorsAndTransparencyComesLast)
 TEST_F(TextBuilder, BindsBetweenContentAndLook)
 {
     TextRecord record = text();
-    record.datasourceKey = QStringLiteral("_DATE");
+    record.datasourceKey = u"_DATE"_s;
     build(record);
     EXPECT_EQ(host.calls().mid(9, 4),
               lines({"item:1 importTextProperties 'Net  weight' 12 true false true 2",
                      "datasources createDatasource 'SystemDatasource'", "item:1 setDatasourceId 1",
                      "datasources getDatasource 1"}));
-    EXPECT_EQ(host.calls().value(15), QStringLiteral("item:1 setPenWidth 6"));
+    EXPECT_EQ(host.calls().value(15), u"item:1 setPenWidth 6"_s);
 }
 
 TEST(ScaledTextNote, NamesTheWordsAndTheFontSize)
 {
-    EXPECT_EQ(scaledTextNote(QStringLiteral("Net  weight"), 6),
-              QStringLiteral("\"Net weight\":\n\tOriginal font size: 6."));
+    EXPECT_EQ(scaledTextNote(u"Net  weight"_s, 6), u"\"Net weight\":\n\tOriginal font size: 6."_s);
 }
 
 TEST(ScaledTextNote, JoinsWhitespaceAndLeavesTheRest)
 {
-    EXPECT_EQ(scaledTextNote(QStringLiteral("a\n\t b %1 \"c\""), 7),
-              QStringLiteral("\"a b %1 \"c\"\":\n\tOriginal font size: 7."));
-    EXPECT_EQ(scaledTextNote(QString(), 0), QStringLiteral("\"\":\n\tOriginal font size: 0."));
+    EXPECT_EQ(scaledTextNote(u"a\n\t b %1 \"c\""_s, 7),
+              u"\"a b %1 \"c\"\":\n\tOriginal font size: 7."_s);
+    EXPECT_EQ(scaledTextNote(QString(), 0), u"\"\":\n\tOriginal font size: 0."_s);
 }
 
 TEST_F(TextBuilder, HostWithoutTextsLeavesItOut)

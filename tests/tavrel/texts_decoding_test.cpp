@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel;
 using tavrel_test::HeaderHex;
 using tavrel_test::hex;
@@ -52,9 +54,9 @@ TEST_P(TextLayout, IsReadCompletely)
     EXPECT_EQ(record.header.zValue, 3004.0);
     EXPECT_EQ(record.fixedWidth, row.fixedWidth);
     EXPECT_EQ(record.fixedHeight, row.fixedHeight);
-    EXPECT_EQ(record.content, QStringLiteral("Hi"));
+    EXPECT_EQ(record.content, u"Hi"_s);
     EXPECT_EQ(record.datasourceText, row.sourceText);
-    EXPECT_EQ(record.datasourceKey, QStringLiteral("_X"));
+    EXPECT_EQ(record.datasourceKey, u"_X"_s);
     EXPECT_EQ(record.penWidth, 6);
     EXPECT_EQ(record.penStyle, 3);
     EXPECT_EQ(record.fontSize, row.fontSize);
@@ -104,7 +106,7 @@ TextRow contentFirst(quint32 version)
     TextRow row = withSecondFont(version);
     row.bytes = Header + Content + SourceText + Key + FixedSize + PenAndFont + Alignment + Colors +
                 Options + SecondFont;
-    row.sourceText = QStringLiteral("T");
+    row.sourceText = u"T"_s;
     return row;
 }
 

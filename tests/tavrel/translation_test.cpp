@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace tavrel_test;
 
 namespace {
@@ -36,7 +38,7 @@ public:
                 return question.context + QLatin1Char('/') + question.comment;
             }
         }
-        return QStringLiteral("never asked");
+        return u"never asked"_s;
     }
 
 private:
@@ -52,21 +54,20 @@ protected:
     BracketTranslator translator;
 };
 
-const QString Title = QStringLiteral("QObject/Error message title.");
-const QString TranslatedContent = QStringLiteral("QObject/Content of error message.");
+const QString Title = u"QObject/Error message title."_s;
+const QString TranslatedContent = u"QObject/Content of error message."_s;
 
 TEST_F(Translation, OfTheWarning)
 {
-    EXPECT_TRUE(import(LabelFile(2000024, {QStringLiteral("/list.csv")})
-                           .text(QStringLiteral("Lot"), QStringLiteral("2"))
+    EXPECT_TRUE(import(LabelFile(2000024, {u"/list.csv"_s})
+                           .text(u"Lot"_s, u"2"_s)
                            .barcode(true, 5)
-                           .symbol(QStringLiteral("unknown"))));
-    EXPECT_EQ(boxes.first()->windowTitle(), QStringLiteral("<Warning: Import issues.>"));
-    EXPECT_EQ(boxText(),
-              QStringLiteral("<Errors reading symbol items.\nPlease update legacy Tavrel to its "
-                             "latest version and re-save file.>\n<Unsupported barcode symbols.>\n"
-                             "\"Lot\"<:\n\tOriginal font size: 12.>\n<Datasource not connected.>"));
-    EXPECT_EQ(translator.commentOf(QStringLiteral("Warning: Import issues.")), Title);
+                           .symbol(u"unknown"_s)));
+    EXPECT_EQ(boxes.first()->windowTitle(), u"<Warning: Import issues.>"_s);
+    EXPECT_EQ(boxText(), u"<Errors reading symbol items.\nPlease update legacy Tavrel to its "
+                         "latest version and re-save file.>\n<Unsupported barcode symbols.>\n"
+                         "\"Lot\"<:\n\tOriginal font size: 12.>\n<Datasource not connected.>"_s);
+    EXPECT_EQ(translator.commentOf(u"Warning: Import issues."_s), Title);
     for (const char* text :
          {"Errors reading symbol items.\nPlease update legacy Tavrel to its latest version and "
           "re-save file.",
@@ -79,28 +80,25 @@ TEST_F(Translation, OfTheWarning)
 TEST_F(Translation, OfTheLoadError)
 {
     EXPECT_FALSE(import(LabelFile().typeCode(1)));
-    EXPECT_EQ(boxes.first()->windowTitle(), QStringLiteral("<Load Error>"));
-    EXPECT_EQ(boxText(), QStringLiteral("<Errors reading items.>"));
-    EXPECT_EQ(translator.commentOf(QStringLiteral("Load Error")), Title);
-    EXPECT_EQ(translator.commentOf(QStringLiteral("Errors reading items.")), TranslatedContent);
+    EXPECT_EQ(boxes.first()->windowTitle(), u"<Load Error>"_s);
+    EXPECT_EQ(boxText(), u"<Errors reading items.>"_s);
+    EXPECT_EQ(translator.commentOf(u"Load Error"_s), Title);
+    EXPECT_EQ(translator.commentOf(u"Errors reading items."_s), TranslatedContent);
 }
 
 TEST_F(Translation, OfTheVersionRefusal)
 {
     EXPECT_FALSE(import(QByteArray()));
-    EXPECT_EQ(errors().value(0),
-              QStringLiteral("<Invalid canvas file version (0 != 2000024) in> ") + path);
+    EXPECT_EQ(errors().value(0), u"<Invalid canvas file version (0 != 2000024) in> "_s + path);
 }
 
 TEST_F(Translation, OfDatabaseKeysIsThatOfTheLibrarysStart)
 {
-    EXPECT_TRUE(
-        import(LabelFile()
-                   .text(QStringLiteral("a"), QStringLiteral("1"), QStringLiteral("_SPECIAL"),
-                         QStringLiteral("%Record% %_ROW%"))
-                   .text(QStringLiteral("a"), QStringLiteral("1"), QStringLiteral("_DATE"))));
+    EXPECT_TRUE(import(LabelFile()
+                           .text(u"a"_s, u"1"_s, u"_SPECIAL"_s, u"%Record% %_ROW%"_s)
+                           .text(u"a"_s, u"1"_s, u"_DATE"_s)));
     EXPECT_EQ(host.callsWith("createDatasource").size(), 1);
-    EXPECT_EQ(translator.commentOf(QStringLiteral("Record")), QStringLiteral("never asked"));
+    EXPECT_EQ(translator.commentOf(u"Record"_s), u"never asked"_s);
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr qsizetype LinesBefore = 2;
@@ -34,14 +36,12 @@ QString firstDifference(const QByteArray& expected, const QByteArray& actual)
     const QStringList wanted = QString::fromUtf8(expected).split(u'\n');
     const QStringList came = QString::fromUtf8(actual).split(u'\n');
     const qsizetype same = commonLines(wanted, came);
-    QString text = QStringLiteral("line %1 (%2 lines expected, %3 came)\n")
-                       .arg(same + 1)
+    QString text = u"line %1 (%2 lines expected, %3 came)\n"_s.arg(same + 1)
                        .arg(wanted.size() - 1)
                        .arg(came.size() - 1);
     const qsizetype first = std::max<qsizetype>(0, same - LinesBefore);
     for (const QString& line : wanted.mid(first, same - first)) {
-        text += QStringLiteral("  ") + line + u'\n';
+        text += u"  "_s + line + u'\n';
     }
-    return text + marked(wanted, same, QStringLiteral("- ")) +
-           marked(came, same, QStringLiteral("+ "));
+    return text + marked(wanted, same, u"- "_s) + marked(came, same, u"+ "_s);
 }

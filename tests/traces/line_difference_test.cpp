@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 TEST(LineDifference, IsEmptyForEqualTexts)
@@ -12,14 +14,14 @@ TEST(LineDifference, IsEmptyForEqualTexts)
 TEST(LineDifference, ShowsTheFirstDifferentLineAndItsSurroundings)
 {
     EXPECT_EQ(firstDifference("1\n2\n3\nold\n5\n", "1\n2\n3\nnew\n"),
-              QStringLiteral("line 4 (5 lines expected, 4 came)\n"
-                             "  2\n"
-                             "  3\n"
-                             "- old\n"
-                             "- 5\n"
-                             "- \n"
-                             "+ new\n"
-                             "+ \n"));
+              u"line 4 (5 lines expected, 4 came)\n"
+              "  2\n"
+              "  3\n"
+              "- old\n"
+              "- 5\n"
+              "- \n"
+              "+ new\n"
+              "+ \n"_s);
 }
 
 TEST(LineDifference, SeesAMissingLineEnd)

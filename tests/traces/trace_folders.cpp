@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct ReaderFolder
@@ -15,14 +17,14 @@ struct ReaderFolder
 const QList<ReaderFolder>& readerFolders()
 {
     static const QList<ReaderFolder> folders{
-        {"opendocument", {QStringLiteral("*.odg"), QStringLiteral("*.odt")}},
-        {"orvanta", {QStringLiteral("*.qmtx")}},
-        {"tavrel", {QStringLiteral("*.cnv"), QStringLiteral("*.roc")}},
+        {"opendocument", {u"*.odg"_s, u"*.odt"_s}},
+        {"orvanta", {u"*.qmtx"_s}},
+        {"tavrel", {u"*.cnv"_s, u"*.roc"_s}},
     };
     return folders;
 }
 
-const QString ReferenceSuffix = QStringLiteral(".jsonl");
+const QString ReferenceSuffix = u".jsonl"_s;
 
 } // namespace
 

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class TraceFoldersTest : public ::testing::Test
@@ -21,15 +23,14 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    TraceFolders m_folders{m_folder.filePath(QStringLiteral("samples")),
-                           m_folder.filePath(QStringLiteral("traces"))};
+    TraceFolders m_folders{m_folder.filePath(u"samples"_s), m_folder.filePath(u"traces"_s)};
 };
 
 TEST_F(TraceFoldersTest, FindsEveryLabelOfEveryReader)
 {
     for (const char* name : {"tavrel/b.cnv", "tavrel/a.roc", "orvanta/l.qmtx", "opendocument/d.odg",
                              "opendocument/d.odt", "opendocument/make.sh", "tavrel/README.md"}) {
-        touch(QStringLiteral("samples/") + QLatin1String(name));
+        touch(u"samples/"_s + QLatin1String(name));
     }
     QStringList names;
     for (const TracedSample& sample : m_folders.samples()) {
@@ -37,22 +38,22 @@ TEST_F(TraceFoldersTest, FindsEveryLabelOfEveryReader)
         EXPECT_TRUE(QFile::exists(sample.samplePath));
     }
     EXPECT_EQ(names, (QStringList{
-                         QStringLiteral("opendocument/d.odg"),
-                         QStringLiteral("opendocument/d.odt"),
-                         QStringLiteral("orvanta/l.qmtx"),
-                         QStringLiteral("tavrel/a.roc"),
-                         QStringLiteral("tavrel/b.cnv"),
+                         u"opendocument/d.odg"_s,
+                         u"opendocument/d.odt"_s,
+                         u"orvanta/l.qmtx"_s,
+                         u"tavrel/a.roc"_s,
+                         u"tavrel/b.cnv"_s,
                      }));
     EXPECT_EQ(m_folders.samples().first().referencePath,
-              m_folder.filePath(QStringLiteral("traces/opendocument/d.odg.jsonl")));
+              m_folder.filePath(u"traces/opendocument/d.odg.jsonl"_s));
 }
 
 TEST_F(TraceFoldersTest, FindsReferencesThatLostTheirSample)
 {
-    touch(QStringLiteral("samples/tavrel/kept.cnv"));
-    touch(QStringLiteral("traces/tavrel/kept.cnv.jsonl"));
-    touch(QStringLiteral("traces/tavrel/gone.cnv.jsonl"));
-    EXPECT_EQ(m_folders.orphans(), QStringList{QStringLiteral("tavrel/gone.cnv.jsonl")});
+    touch(u"samples/tavrel/kept.cnv"_s);
+    touch(u"traces/tavrel/kept.cnv.jsonl"_s);
+    touch(u"traces/tavrel/gone.cnv.jsonl"_s);
+    EXPECT_EQ(m_folders.orphans(), QStringList{u"tavrel/gone.cnv.jsonl"_s});
 }
 
 } // namespace

@@ -20,6 +20,8 @@
 #include <string>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 void PrintTo(const TracedSample& sample, std::ostream* out)
 {
     *out << qPrintable(sample.name);
@@ -42,8 +44,7 @@ std::vector<TracedSample> allSamples()
 QProcessEnvironment environmentWithLocale()
 {
     QProcessEnvironment environment = emptyEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"),
-                       qEnvironmentVariable("LC_ALL", QStringLiteral("C.UTF-8")));
+    environment.insert(u"LC_ALL"_s, qEnvironmentVariable("LC_ALL", u"C.UTF-8"_s));
     return environment;
 }
 
@@ -101,8 +102,7 @@ TEST(WholeFiles, ThereIsASampleForEveryReader)
         readers.append(sample.name.section(u'/', 0, 0));
     }
     readers.removeDuplicates();
-    EXPECT_EQ(readers, (QStringList{QStringLiteral("opendocument"), QStringLiteral("orvanta"),
-                                    QStringLiteral("tavrel")}));
+    EXPECT_EQ(readers, (QStringList{u"opendocument"_s, u"orvanta"_s, u"tavrel"_s}));
 }
 
 TEST(WholeFiles, NoReferenceHasLostItsSample)

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QStringList sortedMatches(const QString& text, const char* pattern)
@@ -25,7 +27,7 @@ QStringList sortedMatches(const QString& text, const char* pattern)
 QString lineEnds(const QString& text)
 {
     QString found = text;
-    return found.remove(QRegularExpression(QStringLiteral("[^\n\t]")));
+    return found.remove(QRegularExpression(u"[^\n\t]"_s));
 }
 
 qsizetype keysMarked(const QString& text)
@@ -36,15 +38,14 @@ qsizetype keysMarked(const QString& text)
 /// The final punctuation of a text, if it has a meaning: period, question mark, ellipsis, colon.
 QString endOf(const QString& text)
 {
-    static const QRegularExpression end(QStringLiteral("[.?:…]$"));
+    static const QRegularExpression end(u"[.?:…]$"_s);
     return end.match(text).captured();
 }
 
 /// The unique key of a message.
 QString nameOf(const Message& message)
 {
-    return message.context + QStringLiteral(": ") + message.source + QStringLiteral(" / ") +
-           message.comment;
+    return message.context + u": "_s + message.source + u" / "_s + message.comment;
 }
 
 /// Every form that a message has in a language.
@@ -57,7 +58,7 @@ class MessageFileTest : public ::testing::TestWithParam<const char*>
 {
 protected:
     const MessageFile file = readMessages(QString::fromLatin1(GetParam()));
-    const MessageFile code = readMessages(QStringLiteral("template"));
+    const MessageFile code = readMessages(u"template"_s);
 };
 
 TEST_P(MessageFileTest, IsOfItsLanguage)
@@ -126,7 +127,7 @@ TEST_P(MessageFileTest, LeavesHardlyAnyTextInEnglish)
     const auto same =
         std::count_if(file.messages.begin(), file.messages.end(), [](const Message& each) {
             return each.translation == each.source &&
-                   each.source.contains(QRegularExpression(QStringLiteral("[a-z]{2} [a-z]{2}")));
+                   each.source.contains(QRegularExpression(u"[a-z]{2} [a-z]{2}"_s));
         });
     EXPECT_EQ(same, 0);
 }

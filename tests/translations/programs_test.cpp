@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 struct Outcome
@@ -26,7 +28,7 @@ const QString Labelport = QStringLiteral(LABELPORT_PROGRAM);
 const QString Trace = QStringLiteral(LABELPORT_TRACE_PROGRAM);
 const QString Workbench = QStringLiteral(LABELPORT_WORKBENCH_PROGRAM);
 const QString Sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/asset_tag_2000020.cnv");
-const QString Missing = QStringLiteral("missing.odg");
+const QString Missing = u"missing.odg"_s;
 
 class Programs : public ::testing::Test
 {
@@ -34,9 +36,9 @@ protected:
     Outcome run(const QString& program, const QStringList& arguments, const Variables& variables)
     {
         QProcessEnvironment environment;
-        environment.insert(QStringLiteral("HOME"), m_folder.path());
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        environment.insert(QStringLiteral("ASAN_OPTIONS"), qEnvironmentVariable("ASAN_OPTIONS"));
+        environment.insert(u"HOME"_s, m_folder.path());
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"ASAN_OPTIONS"_s, qEnvironmentVariable("ASAN_OPTIONS"));
         for (const auto& [name, value] : variables) {
             environment.insert(QString::fromLatin1(name), QString::fromLatin1(value));
         }
@@ -62,7 +64,7 @@ private:
 
 TEST_F(Programs, SayWhatTheyAreFor)
 {
-    const QStringList help{QStringLiteral("--help")};
+    const QStringList help{u"--help"_s};
     struct Row
     {
         QString program;
@@ -86,7 +88,7 @@ TEST_F(Programs, SayWhatTheyAreFor)
 
 TEST_F(Programs, SayWhatIsWrong)
 {
-    const QStringList import{QStringLiteral("import"), Missing};
+    const QStringList import{u"import"_s, Missing};
     EXPECT_TRUE(run(Labelport, import, English).err.contains(u"The file does not exist."));
     EXPECT_TRUE(run(Labelport, import, German).err.contains(u"Es gibt keine solche Datei."));
     EXPECT_TRUE(run(Labelport, import, French).err.contains(u"Ce fichier n’existe pas."));
@@ -95,7 +97,7 @@ TEST_F(Programs, SayWhatIsWrong)
     EXPECT_TRUE(
         run(Trace, {Missing}, German).err.contains(u"„missing.odg“ kann nicht gelesen werden: "));
 
-    const QStringList two{QStringLiteral("a.odg"), QStringLiteral("b.odg")};
+    const QStringList two{u"a.odg"_s, u"b.odg"_s};
     EXPECT_TRUE(run(Workbench, two, English)
                     .err.contains(u"A window shows one label, but 2 files were given."));
     EXPECT_TRUE(
@@ -105,8 +107,7 @@ TEST_F(Programs, SayWhatIsWrong)
 
 TEST_F(Programs, TranslateToALanguageThatTheLocalesEncodingLacks)
 {
-    const Outcome outcome =
-        run(Labelport, {QStringLiteral("import"), Missing}, {{"LANG", "de_DE.ISO-8859-1"}});
+    const Outcome outcome = run(Labelport, {u"import"_s, Missing}, {{"LANG", "de_DE.ISO-8859-1"}});
     EXPECT_TRUE(outcome.err.contains(u"Es gibt keine solche Datei.")) << qPrintable(outcome.err);
 }
 
@@ -114,9 +115,8 @@ TEST_F(Programs, MakeTheSameFilesInEveryLanguage)
 {
     const auto import = [&](const char* folder, const Variables& variables) {
         const Outcome outcome = run(Labelport,
-                                    {QStringLiteral("import"), Sample, QStringLiteral("--to"),
-                                     QStringLiteral("svg,label"), QStringLiteral("--output-dir"),
-                                     QString::fromLatin1(folder)},
+                                    {u"import"_s, Sample, u"--to"_s, u"svg,label"_s,
+                                     u"--output-dir"_s, QString::fromLatin1(folder)},
                                     variables);
         EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.err);
         return outcome.out;
@@ -124,8 +124,8 @@ TEST_F(Programs, MakeTheSameFilesInEveryLanguage)
     EXPECT_EQ(import("plain", English),
               import("german", German).replace(QLatin1String("german"), QLatin1String("plain")));
     for (const char* name : {"asset_tag_2000020.svg", "asset_tag_2000020.label"}) {
-        EXPECT_EQ(contentOf(QStringLiteral("plain/") + QLatin1String(name)),
-                  contentOf(QStringLiteral("german/") + QLatin1String(name)))
+        EXPECT_EQ(contentOf(u"plain/"_s + QLatin1String(name)),
+                  contentOf(u"german/"_s + QLatin1String(name)))
             << name;
     }
 }
@@ -134,8 +134,8 @@ TEST_F(Programs, WriteTheSameDataInEveryLanguage)
 {
     // The import of this one prints a message.
     const QString sample = QStringLiteral(LABELPORT_SAMPLES "/tavrel/member_card_2000024.cnv");
-    const QStringList inspect{QStringLiteral("inspect"), sample, QStringLiteral("--json")};
-    const QStringList formats{QStringLiteral("formats"), QStringLiteral("--json")};
+    const QStringList inspect{u"inspect"_s, sample, u"--json"_s};
+    const QStringList formats{u"formats"_s, u"--json"_s};
     for (const QStringList& command : {inspect, formats}) {
         const QString plain = run(Labelport, command, English).out;
         EXPECT_TRUE(plain.startsWith(u'{')) << qPrintable(plain);
@@ -145,8 +145,7 @@ TEST_F(Programs, WriteTheSameDataInEveryLanguage)
         const QString file = QString::fromLatin1(name);
         EXPECT_EQ(
             run(Labelport,
-                {QStringLiteral("import"), sample, QStringLiteral("--to"), QStringLiteral("label"),
-                 QStringLiteral("--force"), QStringLiteral("--report"), file},
+                {u"import"_s, sample, u"--to"_s, u"label"_s, u"--force"_s, u"--report"_s, file},
                 variables)
                 .status,
             0);

@@ -17,14 +17,16 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using translations::ProgramLanguage;
 using window::MenuId;
 
 namespace {
 
-const QStringList EnglishLocale{QStringLiteral("en")};
-const QStringList GermanLocale{QStringLiteral("de")};
-const QStringList FrenchLocale{QStringLiteral("fr")};
+const QStringList EnglishLocale{u"en"_s};
+const QStringList GermanLocale{u"de"_s};
+const QStringList FrenchLocale{u"fr"_s};
 
 constexpr MenuId Menus[] = {MenuId::File,   MenuId::Edit,   MenuId::View, MenuId::Colors,
                             MenuId::Panels, MenuId::Record, MenuId::Help};
@@ -96,8 +98,8 @@ TEST_F(Words, WhyAFileIsRefused)
     for (const auto& language : {EnglishLocale, GermanLocale, FrenchLocale}) {
         const ProgramLanguage program(language);
         const QString error = workbench::importLabel(file).error;
-        EXPECT_TRUE(error.contains(QStringLiteral("2000015"))) << qPrintable(error);
-        EXPECT_FALSE(error.contains(QStringLiteral("2000024"))) << qPrintable(error);
+        EXPECT_TRUE(error.contains(u"2000015"_s)) << qPrintable(error);
+        EXPECT_FALSE(error.contains(u"2000024"_s)) << qPrintable(error);
     }
 }
 
@@ -106,10 +108,10 @@ TEST_F(Words, WhyABarcodeIsNotDrawn)
     const ProgramLanguage language(GermanLocale);
     workbench::barcodes::BarcodeRequest request;
     request.symbology = 14;
-    request.content = QStringLiteral("x");
+    request.content = u"x"_s;
     const QString error = workbench::barcodes::encode(request).error;
-    EXPECT_TRUE(error.startsWith(
-        QStringLiteral("EAN mit Prüfziffer: Der Inhalt passt nicht zu dieser Barcodeart (")))
+    EXPECT_TRUE(
+        error.startsWith(u"EAN mit Prüfziffer: Der Inhalt passt nicht zu dieser Barcodeart ("_s))
         << qPrintable(error);
 }
 
@@ -131,19 +133,18 @@ TEST_F(Words, IssuesOfALabelInTheWindow)
     window::OpenLabel label;
     label.canvas = std::make_unique<workbench::Canvas>();
     migration::Finding finding;
-    finding.code = QStringLiteral("over-page-edge");
-    finding.text = QStringLiteral("English");
+    finding.code = u"over-page-edge"_s;
+    finding.text = u"English"_s;
     label.report.changed = {finding};
-    label.report.repaired = {{QStringLiteral("groups-dissolved"), QStringLiteral("English"), 1},
-                             {QStringLiteral("lists-replaced"), QStringLiteral("English"), 2}};
+    label.report.repaired = {{u"groups-dissolved"_s, u"English"_s, 1},
+                             {u"lists-replaced"_s, u"English"_s, 2}};
     const std::pair<QStringList, QStringList> rows[] = {
         {EnglishLocale,
-         {QStringLiteral("Items extend beyond the edge of the page: that part is not printed."),
-          QStringLiteral("1 group dissolved"), QStringLiteral("2 lists replaced by paragraphs")}},
+         {u"Items extend beyond the edge of the page: that part is not printed."_s,
+          u"1 group dissolved"_s, u"2 lists replaced by paragraphs"_s}},
         {GermanLocale,
-         {QStringLiteral(
-              "Objekte ragen über den Seitenrand hinaus: Dieser Teil wird nicht gedruckt."),
-          QStringLiteral("1 Gruppe aufgelöst"), QStringLiteral("2 Listen durch Absätze ersetzt")}},
+         {u"Objekte ragen über den Seitenrand hinaus: Dieser Teil wird nicht gedruckt."_s,
+          u"1 Gruppe aufgelöst"_s, u"2 Listen durch Absätze ersetzt"_s}},
     };
     for (const auto& [languages, expected] : rows) {
         const ProgramLanguage language(languages);

@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QSet>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -48,17 +50,15 @@ bool needsName(QAccessible::Role role)
 // Parts that Qt creates inside its widgets: users reach them through their parent.
 bool isInsideOfAWidget(const QObject* object)
 {
-    static const QSet<QString> inner{
-        QStringLiteral("qt_spinbox_lineedit"), QStringLiteral("qt_toolbar_ext_button"),
-        QStringLiteral("qt_scrollarea_viewport"), QStringLiteral("qt_menubar_ext_button")};
+    static const QSet<QString> inner{u"qt_spinbox_lineedit"_s, u"qt_toolbar_ext_button"_s,
+                                     u"qt_scrollarea_viewport"_s, u"qt_menubar_ext_button"_s};
     return object != nullptr && inner.contains(object->objectName());
 }
 
 QString describe(QAccessibleInterface* control)
 {
     const QObject* object = control->object();
-    return QStringLiteral("role %1, %2 \"%3\"")
-        .arg(control->role())
+    return u"role %1, %2 \"%3\""_s.arg(control->role())
         .arg(object != nullptr ? QLatin1String(object->metaObject()->className())
                                : QLatin1String("no object"))
         .arg(object != nullptr ? object->objectName() : QString());
@@ -116,8 +116,8 @@ TEST_F(AccessibilityTest, EveryControlOfTheEmptyWindowHasAName)
 TEST_F(AccessibilityTest, EveryControlOfTheWindowWithALabelHasAName)
 {
     MainWindow window;
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
+    saveMadeLabel(path(u"a.label"_s));
+    ASSERT_TRUE(window.openFile(path(u"a.label"_s)));
     const Walk result = walked(window);
     EXPECT_EQ(result.nameless, QStringList());
     EXPECT_GT(result.named, 35);
@@ -125,7 +125,7 @@ TEST_F(AccessibilityTest, EveryControlOfTheWindowWithALabelHasAName)
 
 TEST_F(AccessibilityTest, EveryControlOfTheDialogsHasAName)
 {
-    ExportDialog exporting(QStringLiteral("/x/label"), 20, 3, nullptr);
+    ExportDialog exporting(u"/x/label"_s, 20, 3, nullptr);
     const Walk exportWalk = walked(exporting);
     EXPECT_EQ(exportWalk.nameless, QStringList());
     EXPECT_GT(exportWalk.named, 9);
@@ -134,15 +134,14 @@ TEST_F(AccessibilityTest, EveryControlOfTheDialogsHasAName)
     ShortcutsDialog shortcuts(actions.shortcuts(), nullptr);
     EXPECT_EQ(walked(shortcuts).nameless, QStringList());
 
-    TalMessageBox message(QStringLiteral("Import"), QStringLiteral("A line\n"), QMessageBox::Ok,
-                          QMessageBox::Ok, {}, {});
+    TalMessageBox message(u"Import"_s, u"A line\n"_s, QMessageBox::Ok, QMessageBox::Ok, {}, {});
     EXPECT_EQ(walked(message).nameless, QStringList());
 }
 
 TEST_F(AccessibilityTest, TheWalkFindsAControlWithoutAName)
 {
     QWidget window;
-    window.setWindowTitle(QStringLiteral("Window"));
+    window.setWindowTitle(u"Window"_s);
     QPushButton button(&window);
     EXPECT_EQ(walked(window).nameless.size(), 1);
 }
@@ -150,8 +149,8 @@ TEST_F(AccessibilityTest, TheWalkFindsAControlWithoutAName)
 TEST_F(AccessibilityTest, TabGoesThroughTheWindowAndComesBack)
 {
     MainWindow window;
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
+    saveMadeLabel(path(u"a.label"_s));
+    ASSERT_TRUE(window.openFile(path(u"a.label"_s)));
     window.show();
     window.activateWindow();
     QApplication::processEvents();

@@ -107,8 +107,7 @@ std::string pixelDifference(const QImage& one, const QImage& other)
             }
         }
     }
-    return QStringLiteral("%1 pixels at %2, %3 to %4, %5, by up to %6")
-        .arg(pixels)
+    return u"%1 pixels at %2, %3 to %4, %5, by up to %6"_s.arg(pixels)
         .arg(box.left())
         .arg(box.top())
         .arg(box.right())

@@ -25,6 +25,8 @@
 
 #include <private/qzipwriter_p.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -38,9 +40,8 @@ workbench::ItemValues richText(const QString& family, int points)
     values.box.size = QSizeF(100.0, 30.0);
     values.text = workbench::TextValues{
         {},
-        QStringLiteral("<p><span style=\" font-family:'%1'; font-size:%2pt;\">Text</span></p>")
-            .arg(family)
-            .arg(points)};
+        u"<p><span style=\" font-family:'%1'; font-size:%2pt;\">Text</span></p>"_s.arg(family).arg(
+            points)};
     return values;
 }
 
@@ -50,7 +51,7 @@ protected:
     CorrectionsTest()
         : label(makeLabel())
     {
-        label.canvas->addItem(richText(QStringLiteral("No Such Font"), 12));
+        label.canvas->addItem(richText(u"No Such Font"_s, 12));
     }
     ~CorrectionsTest() override { stack.clear(); }
 
@@ -91,7 +92,7 @@ QByteArray pictureBytes(const QSize& size)
 void writePackage(const QString& fileName, const QByteArray& thumbnail)
 {
     QZipWriter zip(fileName);
-    zip.addFile(QStringLiteral("Thumbnails/thumbnail.png"), thumbnail);
+    zip.addFile(u"Thumbnails/thumbnail.png"_s, thumbnail);
     zip.close();
 }
 
@@ -119,7 +120,7 @@ TEST_F(CorrectionsTest, DeletesTheItemsOfAnIssue)
 
 TEST_F(CorrectionsTest, ReplacesAFontEverywhere)
 {
-    label.canvas->addItem(richText(QStringLiteral("No Such Font"), 8));
+    label.canvas->addItem(richText(u"No Such Font"_s, 8));
     const QString family = QFontDatabase::families().constFirst();
     choose(family);
     EXPECT_TRUE(applyCorrection(Correction::ReplaceFont, issueOf(LossKind::FontReplaced, {3}),
@@ -129,7 +130,7 @@ TEST_F(CorrectionsTest, ReplacesAFontEverywhere)
     EXPECT_NE(familyOf(valuesOf(1)), family); // another font
     EXPECT_EQ(stack.count(), 1);
     stack.undo();
-    EXPECT_EQ(familyOf(valuesOf(4)), QStringLiteral("No Such Font"));
+    EXPECT_EQ(familyOf(valuesOf(4)), u"No Such Font"_s);
 }
 
 TEST_F(CorrectionsTest, SetsAColorOfTextsAndShapes)
@@ -139,21 +140,21 @@ TEST_F(CorrectionsTest, SetsAColorOfTextsAndShapes)
     EXPECT_EQ(changes.at(0).after.fill->color, QColor(Qt::red));
     EXPECT_EQ(changes.at(1).after.textStyle->color, QColor(Qt::red));
     EXPECT_EQ(changes.at(2).after.pen->color, QColor(Qt::red));
-    EXPECT_TRUE(changes.at(3).after.text->html.contains(QStringLiteral("#ff0000")));
-    EXPECT_TRUE(changes.at(3).after.text->html.contains(QStringLiteral("No Such Font")));
+    EXPECT_TRUE(changes.at(3).after.text->html.contains(u"#ff0000"_s));
+    EXPECT_TRUE(changes.at(3).after.text->html.contains(u"No Such Font"_s));
 }
 
 TEST_F(CorrectionsTest, RescalesToThePaperInOneStep)
 {
     const workbench::ItemValues before = valuesOf(0);
-    choose(QStringLiteral("44.45 x 22.225 mm")); // half of the page
+    choose(u"44.45 x 22.225 mm"_s); // half of the page
     EXPECT_TRUE(applyCorrection(Correction::Rescale, issueOf(LossKind::PageSizeAssumed, {}), label,
                                 stack, &window));
     EXPECT_NEAR(label.canvas->page().size.width(), 126.0, 0.01);
     EXPECT_NEAR(valuesOf(0).box.size.width(), before.box.size.width() / 2.0, 0.01);
     EXPECT_NEAR(valuesOf(0).placement.position.x(), before.placement.position.x() / 2.0, 0.01);
     EXPECT_NEAR(valuesOf(0).pen->width, before.pen->width / 2.0, 0.01);
-    EXPECT_TRUE(valuesOf(3).text->html.contains(QStringLiteral("font-size:6pt")));
+    EXPECT_TRUE(valuesOf(3).text->html.contains(u"font-size:6pt"_s));
     stack.undo();
     EXPECT_EQ(valuesOf(0), before);
     EXPECT_NEAR(label.canvas->page().size.width(), 252.0, 0.01);
@@ -167,7 +168,7 @@ TEST_F(CorrectionsTest, EnlargedMillimetersShrinkWithoutTheirFonts)
                                 label, stack, &window));
     EXPECT_NEAR(label.canvas->page().size.width(), 2.52, 0.2); // to a tenth of a millimeter
     EXPECT_EQ(valuesOf(0).pen->width, before.pen->width);
-    EXPECT_TRUE(valuesOf(3).text->html.contains(QStringLiteral("font-size:12pt")));
+    EXPECT_TRUE(valuesOf(3).text->html.contains(u"font-size:12pt"_s));
 }
 
 TEST_F(CorrectionsTest, BindsToADataSource)
@@ -175,7 +176,7 @@ TEST_F(CorrectionsTest, BindsToADataSource)
     const int source = label.sources->values().constFirst().id;
     dialogs.expect([](QDialog& dialog) {
         EXPECT_TRUE(dialog.findChild<QComboBox*>()->currentText().endsWith(
-            QStringLiteral(": Counter (1 to 5, step 1)")));
+            u": Counter (1 to 5, step 1)"_s));
         dialog.accept();
     });
     workbench::ItemValues text = valuesOf(1);
@@ -202,27 +203,27 @@ TEST_F(CorrectionsTest, ProposeTheFontThatIsShownInsteadOfAMissingOne)
     dialogs.expect([](QDialog& dialog) { dialog.accept(); });
     EXPECT_TRUE(applyCorrection(Correction::ReplaceFont, issueOf(LossKind::FontReplaced, {3}),
                                 label, stack, &window));
-    EXPECT_EQ(familyOf(valuesOf(3)), QFontInfo(QFont(QStringLiteral("No Such Font"))).family());
+    EXPECT_EQ(familyOf(valuesOf(3)), QFontInfo(QFont(u"No Such Font"_s)).family());
 }
 
 TEST_F(CorrectionsTest, ALabelWithoutDataSourcesIsBoundToACsvFile)
 {
     MainWindow mainWindow;
-    ASSERT_TRUE(mainWindow.openFile(copied(QStringLiteral("tavrel/member_card_2000024.cnv"))));
+    ASSERT_TRUE(mainWindow.openFile(copied(u"tavrel/member_card_2000024.cnv"_s)));
     ASSERT_TRUE(mainWindow.session().label()->sources->ids().isEmpty());
     mainWindow.show();
     mainWindow.action(ActionId::GoIssues).trigger();
-    QFile file(path(QStringLiteral("members.csv")));
+    QFile file(path(u"members.csv"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("Name,Number\nRobin Marsh,Member 0117\nKim Reed,Member 0118\n");
     file.close();
     dialogs.expectFile(file.fileName());
-    dialogs.expectButton(QStringLiteral("Connect"));
+    dialogs.expectButton(u"Connect"_s);
     mainWindow.panels().issues().button(Correction::Bind).click();
     EXPECT_EQ(mainWindow.session().label()->sources->recordCount(), 2);
     mainWindow.action(ActionId::NextRecord).trigger();
     EXPECT_EQ(mainWindow.session().label()->canvas->items().at(3)->values().text->text,
-              QStringLiteral("Robin Marsh"))
+              u"Robin Marsh"_s)
         << "the record does not change the item";
     mainWindow.session().undoStack().undo();
     EXPECT_EQ(mainWindow.session().label()->sources->recordCount(), 1);
@@ -231,8 +232,8 @@ TEST_F(CorrectionsTest, ALabelWithoutDataSourcesIsBoundToACsvFile)
 
 TEST(Papers, AreReadFromTexts)
 {
-    EXPECT_NEAR(paperOf(QStringLiteral("A4: 210 × 297 mm"))->height(), 841.89, 0.01);
-    EXPECT_NEAR(paperOf(QStringLiteral("25,4x50.8"))->width(), 72.0, 0.01);
+    EXPECT_NEAR(paperOf(u"A4: 210 × 297 mm"_s)->height(), 841.89, 0.01);
+    EXPECT_NEAR(paperOf(u"25,4x50.8"_s)->width(), 72.0, 0.01);
     for (const char* text : {"", "mm", "0 × 10 mm", "10", "99999999999 x 5"}) {
         EXPECT_FALSE(paperOf(QString::fromUtf8(text)).has_value()) << text;
     }
@@ -246,8 +247,8 @@ TEST_F(CorrectionsTest, ButtonsOfTheIssueAreShownAndCorrect)
     workbench::ItemValues text = outside.canvas->items().at(1)->values();
     text.placement.position = QPointF(5000.0, 10.0);
     outside.canvas->items().at(1)->setValues(text);
-    ASSERT_EQ(writeLabel(outside, path(QStringLiteral("outside.label"))), QString());
-    ASSERT_TRUE(mainWindow.openFile(path(QStringLiteral("outside.label"))));
+    ASSERT_EQ(writeLabel(outside, path(u"outside.label"_s)), QString());
+    ASSERT_TRUE(mainWindow.openFile(path(u"outside.label"_s)));
     IssuesPanel& panel = mainWindow.panels().issues();
     ASSERT_FALSE(panel.issues().isEmpty());
 
@@ -267,7 +268,7 @@ TEST_F(CorrectionsTest, ButtonsOfTheIssueAreShownAndCorrect)
 
 TEST_F(CorrectionsTest, ThePreviewIsReadWithinLimits)
 {
-    const QString file = path(QStringLiteral("a.odg"));
+    const QString file = path(u"a.odg"_s);
     writePackage(file, pictureBytes({64, 32}));
     EXPECT_EQ(previewOf(file).size(), QSize(64, 32));
     const int side = static_cast<int>(std::sqrt(double(MaximumPreviewPixels)));
@@ -279,8 +280,8 @@ TEST_F(CorrectionsTest, ThePreviewIsReadWithinLimits)
     EXPECT_TRUE(previewOf(file).isNull());
     writePackage(file, pictureBytes({8, 8}) + QByteArray(MaximumPreviewBytes, 'x'));
     EXPECT_TRUE(previewOf(file).isNull());
-    EXPECT_TRUE(previewOf(sample(QStringLiteral("tavrel/address_2000016.cnv"))).isNull());
-    EXPECT_TRUE(previewOf(path(QStringLiteral("missing.odg"))).isNull());
+    EXPECT_TRUE(previewOf(sample(u"tavrel/address_2000016.cnv"_s)).isNull());
+    EXPECT_TRUE(previewOf(path(u"missing.odg"_s)).isNull());
 }
 
 TEST_F(CorrectionsTest, TheSliderDividesOriginalAndLabel)

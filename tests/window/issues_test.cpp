@@ -22,6 +22,8 @@
 
 #include <algorithm>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -33,7 +35,7 @@ workbench::ItemValues badBarcode()
     barcode.box.size = QSizeF(80.0, 30.0);
     barcode.barcode = workbench::BarcodeValues();
     barcode.barcode->symbology = 13; // takes digits only
-    barcode.barcode->content = QStringLiteral("not digits");
+    barcode.barcode->content = u"not digits"_s;
     return barcode;
 }
 
@@ -56,8 +58,7 @@ QStringList textsOf(const QTreeView& tree)
 QJsonObject inspected(const QString& file)
 {
     QProcess process;
-    process.start(QStringLiteral(LABELPORT_PROGRAM),
-                  {QStringLiteral("inspect"), QStringLiteral("--json"), file});
+    process.start(QStringLiteral(LABELPORT_PROGRAM), {u"inspect"_s, u"--json"_s, file});
     EXPECT_TRUE(process.waitForFinished());
     return QJsonDocument::fromJson(process.readAllStandardOutput()).object();
 }
@@ -70,7 +71,7 @@ protected:
     /// A drawing with these shapes, opened in the window.
     void openDrawing(const QByteArray& shapes)
     {
-        QFile file(path(QStringLiteral("drawing.odg")));
+        QFile file(path(u"drawing.odg"_s));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(drawingOf(shapes));
         file.close();
@@ -108,33 +109,31 @@ TEST(Issues, OfItemsAreThoseOfTheRecordThatIsShown)
 {
     OpenLabel label = makeLabel();
     label.canvas->addItem(badBarcode());
-    label.report.issues = {{QStringLiteral("A note"), -1, 2}};
+    label.report.issues = {{u"A note"_s, -1, 2}};
 
     const QList<Issue> issues = currentIssues(label);
 
     ASSERT_EQ(issues.size(), 2);
     EXPECT_EQ(issues.at(0).items, QList<int>{3});
-    EXPECT_EQ(issues.at(0).about, QStringLiteral("Barcode “not digits”"));
+    EXPECT_EQ(issues.at(0).about, u"Barcode “not digits”"_s);
     EXPECT_FALSE(issues.at(0).text.isEmpty());
     EXPECT_FALSE(issues.at(0).advice.isEmpty());
     EXPECT_EQ(issues.at(1).group, IssueGroup::Warning);
-    EXPECT_EQ(issues.at(1).text, QStringLiteral("A note"));
+    EXPECT_EQ(issues.at(1).text, u"A note"_s);
     EXPECT_EQ(issues.at(1).count, 2);
 }
 
 TEST(Issues, NameTheFirstItemsAndCountTheOthers)
 {
     OpenLabel label = makeLabel();
-    migration::Finding finding{
-        QStringLiteral("outside-page"), QStringLiteral("Outside"), 4, false, {}};
+    migration::Finding finding{u"outside-page"_s, u"Outside"_s, 4, false, {}};
     finding.places = migration::FindingPlaces{{0, 1, 2, 0, 99, -1}, {}};
     label.report.changed = {finding};
     label.importedItems = label.canvas->items();
     const QList<Issue> issues = currentIssues(label);
     ASSERT_EQ(issues.size(), 1);
     EXPECT_EQ(issues.at(0).items, (QList<int>{0, 1, 2, 0})); // those that exist
-    EXPECT_TRUE(issues.at(0).about.endsWith(QStringLiteral(", 1 more")))
-        << issues.at(0).about.toStdString();
+    EXPECT_TRUE(issues.at(0).about.endsWith(u", 1 more"_s)) << issues.at(0).about.toStdString();
 }
 
 TEST_F(IssuesTest, WithoutALabelThePanelSaysSo)
@@ -145,8 +144,7 @@ TEST_F(IssuesTest, WithoutALabelThePanelSaysSo)
 
 TEST_F(IssuesTest, LongTextsAreWrapped)
 {
-    const auto rowHeight = [](const QString& advice,
-                              const QString& text = QStringLiteral("A short text")) {
+    const auto rowHeight = [](const QString& advice, const QString& text = u"A short text"_s) {
         IssuesPanel panel;
         panel.resize(600, 300);
         panel.setIssues({{.group = IssueGroup::Warning, .text = text, .advice = advice}});
@@ -155,10 +153,10 @@ TEST_F(IssuesTest, LongTextsAreWrapped)
         const QModelIndex group = panel.tree().model()->index(0, 0);
         return panel.tree().visualRect(panel.tree().model()->index(0, 0, group)).height();
     };
-    const QString advice = QStringLiteral("Correct the content or the type in the properties. ");
-    const int line = rowHeight(QStringLiteral("Short advice"));
+    const QString advice = u"Correct the content or the type in the properties. "_s;
+    const int line = rowHeight(u"Short advice"_s);
     EXPECT_GE(rowHeight(advice.repeated(4)), 3 * line);
-    EXPECT_GT(rowHeight(QStringLiteral("Short advice"), advice), line);
+    EXPECT_GT(rowHeight(u"Short advice"_s, advice), line);
     EXPECT_EQ(rowHeight({}, advice), line) << "a text alone has the full width";
 }
 
@@ -176,13 +174,13 @@ TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
              {std::pair("lost", IssueGroup::Lost), std::pair("changed", IssueGroup::Changed)}) {
             for (const QJsonValue& value : report.value(QLatin1String(list)).toArray()) {
                 const QJsonObject finding = value.toObject();
-                const QString code = finding.value(QStringLiteral("code")).toString();
+                const QString code = finding.value(u"code"_s).toString();
                 SCOPED_TRACE(code.toStdString());
                 const Issue* shown = issue(code);
                 ASSERT_NE(shown, nullptr);
                 EXPECT_EQ(shown->group, group);
-                EXPECT_EQ(shown->text, finding.value(QStringLiteral("text")).toString());
-                EXPECT_EQ(shown->count, finding.value(QStringLiteral("count")).toInt());
+                EXPECT_EQ(shown->text, finding.value(u"text"_s).toString());
+                EXPECT_EQ(shown->count, finding.value(u"count"_s).toInt());
                 EXPECT_EQ(shown->advice, migration::lossAdvice(migration::lossRowOf(code)->kind));
             }
         }
@@ -193,23 +191,23 @@ TEST_F(IssuesTest, ShowsWhatInspectShowsByGroupWithAdvice)
                                 }),
                   findings);
     }
-    ASSERT_TRUE(window.openFile(sample(QStringLiteral("orvanta/shapes_sheet.qmtx"))));
+    ASSERT_TRUE(window.openFile(sample(u"orvanta/shapes_sheet.qmtx"_s)));
     EXPECT_FALSE(panel().issues().first().advice.isEmpty());
 }
 
 TEST_F(IssuesTest, ListsTheRepairsOfADocumentUnlessItIsOpenedAsWritten)
 {
-    const translations::ProgramLanguage language({QStringLiteral("en")}); // with plural forms
-    const QString file = sample(QStringLiteral("opendocument/cable_markers.odg"));
+    const translations::ProgramLanguage language({u"en"_s}); // with plural forms
+    const QString file = sample(u"opendocument/cable_markers.odg"_s);
     ASSERT_TRUE(window.openFile(file));
-    const QJsonArray repairs = inspected(file).value(QStringLiteral("repaired")).toArray();
+    const QJsonArray repairs = inspected(file).value(u"repaired"_s).toArray();
     ASSERT_FALSE(repairs.isEmpty());
-    EXPECT_TRUE(textsOf(panel().tree()).contains(QStringLiteral("Repaired")));
+    EXPECT_TRUE(textsOf(panel().tree()).contains(u"Repaired"_s));
     for (const QJsonValue& value : repairs) {
-        const Issue* shown = issue(value[QStringLiteral("code")].toString());
+        const Issue* shown = issue(value[u"code"_s].toString());
         ASSERT_NE(shown, nullptr);
         EXPECT_EQ(shown->group, IssueGroup::Repaired);
-        EXPECT_EQ(shown->text, value[QStringLiteral("text")].toString());
+        EXPECT_EQ(shown->text, value[u"text"_s].toString());
     }
     QAction& asWritten = window.action(ActionId::OpenAsWritten);
     EXPECT_TRUE(asWritten.isEnabled());
@@ -218,17 +216,17 @@ TEST_F(IssuesTest, ListsTheRepairsOfADocumentUnlessItIsOpenedAsWritten)
     asWritten.trigger();
 
     EXPECT_TRUE(asWritten.isChecked());
-    EXPECT_FALSE(textsOf(panel().tree()).contains(QStringLiteral("Repaired")));
+    EXPECT_FALSE(textsOf(panel().tree()).contains(u"Repaired"_s));
 
     asWritten.trigger();
     EXPECT_FALSE(asWritten.isChecked());
-    EXPECT_TRUE(textsOf(panel().tree()).contains(QStringLiteral("Repaired")));
+    EXPECT_TRUE(textsOf(panel().tree()).contains(u"Repaired"_s));
 }
 
 TEST_F(IssuesTest, ALostObjectIsOutlinedWhereItShouldBe)
 {
     openDrawing(QByteArray(LostPath) + OutsideText);
-    const QString title = QStringLiteral("Not imported");
+    const QString title = u"Not imported"_s;
     ASSERT_TRUE(textsOf(panel().tree()).contains(title));
     const QPoint corner =
         window.view().mapFromScene(QPointF(72.0, 72.0)) + QPoint(1, 0); // the upper edge
@@ -236,7 +234,7 @@ TEST_F(IssuesTest, ALostObjectIsOutlinedWhereItShouldBe)
 
     choose(0);
 
-    const Issue* lost = issue(QStringLiteral("freeform-shape"));
+    const Issue* lost = issue(u"freeform-shape"_s);
     ASSERT_NE(lost, nullptr);
     ASSERT_EQ(lost->missing.size(), 1);
     EXPECT_NEAR(lost->missing.at(0).x(), 72.0, 0.01);
@@ -249,7 +247,7 @@ TEST_F(IssuesTest, ALostObjectIsOutlinedWhereItShouldBe)
 TEST_F(IssuesTest, AnIssueSelectsItsItems)
 {
     openDrawing(QByteArray(LostPath) + OutsideText);
-    const Issue* outside = issue(QStringLiteral("outside-page"));
+    const Issue* outside = issue(u"outside-page"_s);
     ASSERT_NE(outside, nullptr);
     ASSERT_FALSE(outside->items.isEmpty());
     const int row = outside->items.constFirst();
@@ -264,8 +262,8 @@ TEST_F(IssuesTest, AreReachedByTheirKey)
 {
     OpenLabel label = makeLabel();
     label.canvas->addItem(badBarcode());
-    ASSERT_EQ(writeLabel(label, path(QStringLiteral("b.label"))), QString());
-    ASSERT_TRUE(window.openFile(path(QStringLiteral("b.label"))));
+    ASSERT_EQ(writeLabel(label, path(u"b.label"_s)), QString());
+    ASSERT_TRUE(window.openFile(path(u"b.label"_s)));
     ASSERT_EQ(panel().issues().size(), 1);
     EXPECT_TRUE(panel().tree().isVisible());
 

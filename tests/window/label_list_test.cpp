@@ -18,6 +18,8 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -27,14 +29,14 @@ class LabelListTest : public WindowFixture
 protected:
     LabelListTest()
     {
-        EXPECT_TRUE(QDir(path(QString())).mkpath(QStringLiteral("labels/deep")));
+        EXPECT_TRUE(QDir(path(QString())).mkpath(u"labels/deep"_s));
         add("opendocument/shelf_label.odg", "labels/a_shelf.odg");
         add("orvanta/jar_label.qmtx", "labels/deep/jar.qmtx");
         add("tavrel/address_2000016.cnv", "labels/c_address.cnv");
-        QFile bad(path(QStringLiteral("labels/b_bad.cnv")));
+        QFile bad(path(u"labels/b_bad.cnv"_s));
         EXPECT_TRUE(bad.open(QIODevice::WriteOnly));
         bad.write("no label");
-        QFile other(path(QStringLiteral("labels/readme.txt")));
+        QFile other(path(u"labels/readme.txt"_s));
         EXPECT_TRUE(other.open(QIODevice::WriteOnly));
     }
 
@@ -44,7 +46,7 @@ protected:
             QFile::copy(sample(QString::fromLatin1(sampleName)), path(QString::fromLatin1(name))));
     }
 
-    [[nodiscard]] QString folder() const { return path(QStringLiteral("labels")); }
+    [[nodiscard]] QString folder() const { return path(u"labels"_s); }
     [[nodiscard]] static QStringList namesOf(const LabelListModel& model)
     {
         QStringList names;
@@ -96,9 +98,8 @@ TEST_F(LabelListTest, ListsTheLabelsOfAFolderAndItsSubfolders)
 {
     LabelListModel model;
     model.setFolder(folder());
-    EXPECT_EQ(namesOf(model),
-              (QStringList{QStringLiteral("a_shelf.odg"), QStringLiteral("b_bad.cnv"),
-                           QStringLiteral("c_address.cnv"), QStringLiteral("deep/jar.qmtx")}));
+    EXPECT_EQ(namesOf(model), (QStringList{u"a_shelf.odg"_s, u"b_bad.cnv"_s, u"c_address.cnv"_s,
+                                           u"deep/jar.qmtx"_s}));
     EXPECT_EQ(model.entries().at(0).state, LabelState::Waiting);
 }
 
@@ -113,21 +114,21 @@ TEST_F(LabelListTest, AFolderWithTooManyFilesIsListedInPart)
 
 TEST_F(LabelListTest, ASavedLabelBelongsToItsLegacyLabel)
 {
-    saveMadeLabel(path(QStringLiteral("labels/a_shelf.label")));
-    saveMadeLabel(path(QStringLiteral("labels/own.label")));
+    saveMadeLabel(path(u"labels/a_shelf.label"_s));
+    saveMadeLabel(path(u"labels/own.label"_s));
     LabelListModel model;
     model.setFolder(folder());
     ASSERT_EQ(model.entries().size(), 5);
-    EXPECT_EQ(model.refreshEdited(0), path(QStringLiteral("labels/a_shelf.label")));
-    EXPECT_EQ(model.rowOf(path(QStringLiteral("labels/a_shelf.odg"))), 0);
-    EXPECT_EQ(model.rowOf(path(QStringLiteral("labels/a_shelf.label"))), 0);
-    EXPECT_EQ(model.entries().at(4).name, QStringLiteral("own.label"));
-    EXPECT_EQ(model.rowOf(path(QStringLiteral("labels/other.label"))), -1);
+    EXPECT_EQ(model.refreshEdited(0), path(u"labels/a_shelf.label"_s));
+    EXPECT_EQ(model.rowOf(path(u"labels/a_shelf.odg"_s)), 0);
+    EXPECT_EQ(model.rowOf(path(u"labels/a_shelf.label"_s)), 0);
+    EXPECT_EQ(model.entries().at(4).name, u"own.label"_s);
+    EXPECT_EQ(model.rowOf(path(u"labels/other.label"_s)), -1);
 }
 
 TEST_F(LabelListTest, EachLabelGetsAStateAndAThumbnail)
 {
-    saveMadeLabel(path(QStringLiteral("labels/a_shelf.label")));
+    saveMadeLabel(path(u"labels/a_shelf.label"_s));
     FolderReview review;
     review.openFolder(folder());
     EXPECT_TRUE(review.isBusy());
@@ -166,8 +167,7 @@ TEST_F(LabelListTest, ThumbnailsAreShownCompletelyAndInOneSize)
 TEST_F(LabelListTest, LongNamesAreShortenedInsteadOfScrolled)
 {
     for (int number = 0; number < 9; ++number) {
-        saveMadeLabel(
-            path(QStringLiteral("labels/a_label_with_quite_a_long_name_%1.label").arg(number)));
+        saveMadeLabel(path(u"labels/a_label_with_quite_a_long_name_%1.label"_s.arg(number)));
     }
     LabelListPanel panel;
     panel.resize(260, 300);
@@ -182,8 +182,8 @@ TEST_F(LabelListTest, LongNamesAreShortenedInsteadOfScrolled)
 
 TEST_F(LabelListTest, LabelsOfTheSameNameAreAllImported)
 {
-    EXPECT_TRUE(QDir(folder()).mkpath(QStringLiteral("one")));
-    EXPECT_TRUE(QDir(folder()).mkpath(QStringLiteral("two")));
+    EXPECT_TRUE(QDir(folder()).mkpath(u"one"_s));
+    EXPECT_TRUE(QDir(folder()).mkpath(u"two"_s));
     add("opendocument/shelf_label.odg", "labels/one/a_shelf.odg");
     add("orvanta/jar_label.qmtx", "labels/two/a_shelf.qmtx");
     FolderReview review;
@@ -191,18 +191,18 @@ TEST_F(LabelListTest, LabelsOfTheSameNameAreAllImported)
     waitFor(review);
     ASSERT_EQ(review.model().entries().size(), 6);
     for (const LabelEntry& entry : review.model().entries()) {
-        EXPECT_EQ(entry.state == LabelState::Failed, entry.name == QStringLiteral("b_bad.cnv"))
+        EXPECT_EQ(entry.state == LabelState::Failed, entry.name == u"b_bad.cnv"_s)
             << entry.name.toStdString() << ": " << entry.summary.toStdString();
     }
 }
 
 TEST_F(LabelListTest, AnotherFolderEndsTheImportOfTheFirst)
 {
-    EXPECT_TRUE(QDir(path(QString())).mkpath(QStringLiteral("second")));
+    EXPECT_TRUE(QDir(path(QString())).mkpath(u"second"_s));
     add("orvanta/jar_label.qmtx", "second/jar.qmtx");
     FolderReview review;
     review.openFolder(folder());
-    review.openFolder(path(QStringLiteral("second")));
+    review.openFolder(path(u"second"_s));
     waitFor(review);
     ASSERT_EQ(review.model().entries().size(), 1);
     EXPECT_NE(review.model().entries().at(0).state, LabelState::Failed);
@@ -210,19 +210,19 @@ TEST_F(LabelListTest, AnotherFolderEndsTheImportOfTheFirst)
 
 TEST_F(LabelListTest, WithoutTheCommandLineEveryLabelFailsAndSaysWhy)
 {
-    ImportProcess::setProgram(path(QStringLiteral("no such program")));
+    ImportProcess::setProgram(path(u"no such program"_s));
     FolderReview review;
     review.openFolder(folder());
     waitFor(review);
     for (const LabelEntry& entry : review.model().entries()) {
         EXPECT_EQ(entry.state, LabelState::Failed);
-        EXPECT_TRUE(entry.summary.contains(QStringLiteral("no such program")));
+        EXPECT_TRUE(entry.summary.contains(u"no such program"_s));
     }
 }
 
 TEST_F(LabelListWindowTest, OpensTheFirstLabelAndStepsThroughAllWithoutAQuestion)
 {
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a_shelf.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"a_shelf.label"_s));
     EXPECT_FALSE(window.action(ActionId::PreviousLabel).isEnabled());
 
     window.action(ActionId::NextLabel).trigger();
@@ -230,12 +230,12 @@ TEST_F(LabelListWindowTest, OpensTheFirstLabelAndStepsThroughAllWithoutAQuestion
     EXPECT_TRUE(window.panels().issues().isVisible());
 
     window.action(ActionId::NextLabel).trigger();
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("c_address.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"c_address.label"_s));
     window.action(ActionId::NextLabel).trigger();
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("jar.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"jar.label"_s));
     EXPECT_FALSE(window.action(ActionId::NextLabel).isEnabled());
     window.action(ActionId::PreviousLabel).trigger();
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("c_address.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"c_address.label"_s));
     EXPECT_EQ(dialogs.texts(), QStringList());
 }
 
@@ -244,7 +244,7 @@ TEST_F(LabelListWindowTest, AChangedLabelIsAskedAboutAndCancelingStays)
     change();
     dialogs.expectButton(QMessageBox::Cancel);
     window.action(ActionId::NextLabel).trigger();
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a_shelf.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"a_shelf.label"_s));
     EXPECT_EQ(panel().list().currentIndex().row(), 0);
     EXPECT_TRUE(window.session().hasUnsavedChanges());
     window.session().undoStack().setClean();
@@ -253,29 +253,29 @@ TEST_F(LabelListWindowTest, AChangedLabelIsAskedAboutAndCancelingStays)
 TEST_F(LabelListWindowTest, ASavedLabelBecomesEdited)
 {
     change();
-    dialogs.expectFile(path(QStringLiteral("labels/a_shelf.label")));
+    dialogs.expectFile(path(u"labels/a_shelf.label"_s));
     window.action(ActionId::Save).trigger();
     waitFor(panel().review());
     EXPECT_EQ(panel().review().model().entries().at(0).state, LabelState::Edited);
     window.action(ActionId::NextLabel).trigger();
     window.action(ActionId::PreviousLabel).trigger();
-    EXPECT_EQ(window.session().label()->fileName, path(QStringLiteral("labels/a_shelf.label")));
+    EXPECT_EQ(window.session().label()->fileName, path(u"labels/a_shelf.label"_s));
 }
 
 TEST_F(LabelListWindowTest, FiltersAndSorts)
 {
-    panel().nameFilter().setText(QStringLiteral("JAR"));
-    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("deep/jar.qmtx")});
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a_shelf.label")));
+    panel().nameFilter().setText(u"JAR"_s);
+    EXPECT_EQ(shownNames(), QStringList{u"deep/jar.qmtx"_s});
+    EXPECT_TRUE(window.windowTitle().startsWith(u"a_shelf.label"_s));
     panel().nameFilter().clear();
     panel().stateFilter().setCurrentText(stateName(LabelState::Failed));
-    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("b_bad.cnv")});
+    EXPECT_EQ(shownNames(), QStringList{u"b_bad.cnv"_s});
     panel().stateFilter().setCurrentIndex(0);
     EXPECT_EQ(shownNames().size(), 4);
     panel().order().setCurrentIndex(1);
-    EXPECT_EQ(shownNames().constFirst(), QStringLiteral("b_bad.cnv")); // the worst
+    EXPECT_EQ(shownNames().constFirst(), u"b_bad.cnv"_s); // the worst
     panel().order().setCurrentIndex(0);
-    EXPECT_EQ(shownNames().constFirst(), QStringLiteral("a_shelf.odg"));
+    EXPECT_EQ(shownNames().constFirst(), u"a_shelf.odg"_s);
 }
 
 TEST_F(LabelListWindowTest, KeyboardFocusStaysInTheList)
@@ -287,13 +287,13 @@ TEST_F(LabelListWindowTest, KeyboardFocusStaysInTheList)
     window.action(ActionId::NextLabel).trigger();
     window.action(ActionId::NextLabel).trigger();
     EXPECT_EQ(window.focusWidget(), &panel().list());
-    keepPicture(window, QStringLiteral("folder"));
+    keepPicture(window, u"folder"_s);
 }
 
 TEST_F(LabelListWindowTest, AFolderWithoutLabelsIsReported)
 {
-    EXPECT_TRUE(QDir(path(QString())).mkpath(QStringLiteral("empty")));
-    EXPECT_TRUE(window.openFile(path(QStringLiteral("empty"))));
+    EXPECT_TRUE(QDir(path(QString())).mkpath(u"empty"_s));
+    EXPECT_TRUE(window.openFile(path(u"empty"_s)));
     EXPECT_EQ(shownNames(), QStringList());
     EXPECT_EQ(window.session().label(), nullptr);
     EXPECT_FALSE(window.action(ActionId::NextLabel).isEnabled());

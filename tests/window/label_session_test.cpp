@@ -10,6 +10,8 @@
 #include <QMessageBox>
 #include <QSignalSpy>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -54,28 +56,28 @@ TEST_F(LabelSessionTest, IsEmptyAtFirst)
 
 TEST_F(LabelSessionTest, OpensASavedLabelWithItsSourcesAndItsFirstRecord)
 {
-    saveMadeLabel(path(QStringLiteral("a.label")));
+    saveMadeLabel(path(u"a.label"_s));
     QSignalSpy replaced(&session, &LabelSession::labelReplaced);
 
-    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    ASSERT_TRUE(session.openFile(path(u"a.label"_s)));
 
     EXPECT_EQ(replaced.size(), 1);
     EXPECT_EQ(session.label()->canvas->items().size(), 3);
     EXPECT_EQ(session.label()->sources->recordCount(), 5);
-    EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
+    EXPECT_EQ(displayName(*session.label()), u"a.label"_s);
     EXPECT_FALSE(session.hasUnsavedChanges());
-    EXPECT_EQ(RecentFiles().files(), QStringList{path(QStringLiteral("a.label"))});
+    EXPECT_EQ(RecentFiles().files(), QStringList{path(u"a.label"_s)});
 }
 
 TEST_F(LabelSessionTest, ImportsALegacyLabelWithoutAskingToSaveIt)
 {
-    const QString file = copied(QStringLiteral("opendocument/shelf_label.odg"));
+    const QString file = copied(u"opendocument/shelf_label.odg"_s);
 
     ASSERT_TRUE(session.openFile(file));
 
     EXPECT_FALSE(session.label()->canvas->items().isEmpty());
     EXPECT_TRUE(session.label()->fileName.isEmpty());
-    EXPECT_EQ(session.label()->suggestedName, path(QStringLiteral("shelf_label.label")));
+    EXPECT_EQ(session.label()->suggestedName, path(u"shelf_label.label"_s));
     EXPECT_FALSE(QFile::exists(session.label()->suggestedName));
     EXPECT_FALSE(session.hasUnsavedChanges());
     EXPECT_TRUE(session.openFile(file));
@@ -87,7 +89,7 @@ TEST_F(LabelSessionTest, ImportsALegacyLabelWithoutAskingToSaveIt)
 
 TEST_F(LabelSessionTest, ADocumentIsRepairedUnlessItIsWantedAsWritten)
 {
-    const QString file = copied(QStringLiteral("opendocument/care_label.odt"));
+    const QString file = copied(u"opendocument/care_label.odt"_s);
     ASSERT_TRUE(session.openFile(file));
     EXPECT_TRUE(session.label()->hasOtherReading);
     EXPECT_FALSE(session.label()->isAsWritten);
@@ -108,7 +110,7 @@ TEST_F(LabelSessionTest, ADocumentIsRepairedUnlessItIsWantedAsWritten)
 
 TEST_F(LabelSessionTest, TheOtherReadingOfALostFileLeavesTheLabel)
 {
-    const QString file = copied(QStringLiteral("opendocument/care_label.odt"));
+    const QString file = copied(u"opendocument/care_label.odt"_s);
     ASSERT_TRUE(session.openFile(file));
     ASSERT_TRUE(QFile::remove(file));
     dialogs.expectButton(QMessageBox::Ok);
@@ -121,10 +123,10 @@ TEST_F(LabelSessionTest, TheOtherReadingOfALostFileLeavesTheLabel)
 
 TEST_F(LabelSessionTest, OtherFilesHaveOneReading)
 {
-    ASSERT_TRUE(session.openFile(copied(QStringLiteral("orvanta/jar_label.qmtx"))));
+    ASSERT_TRUE(session.openFile(copied(u"orvanta/jar_label.qmtx"_s)));
     EXPECT_FALSE(session.label()->hasOtherReading);
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    saveMadeLabel(path(u"a.label"_s));
+    ASSERT_TRUE(session.openFile(path(u"a.label"_s)));
     EXPECT_FALSE(session.label()->hasOtherReading);
     EXPECT_FALSE(session.readAgain(Reading::AsWritten));
 }
@@ -143,8 +145,8 @@ TEST_F(LabelSessionTest, OpensEverySampleOfEveryFormat)
 
 TEST_F(LabelSessionTest, ADamagedFileLeavesTheLabelAndSaysWhy)
 {
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    saveMadeLabel(path(u"a.label"_s));
+    ASSERT_TRUE(session.openFile(path(u"a.label"_s)));
     for (const char* name : {"bad.label", "bad.cnv", "bad.qmtx", "bad.odg"}) {
         SCOPED_TRACE(name);
         const QString file = path(QString::fromLatin1(name));
@@ -153,25 +155,24 @@ TEST_F(LabelSessionTest, ADamagedFileLeavesTheLabelAndSaysWhy)
 
         EXPECT_FALSE(session.openFile(file));
 
-        EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
+        EXPECT_EQ(displayName(*session.label()), u"a.label"_s);
         const QStringList said = dialogs.texts().constLast().split(QLatin1Char('\n'));
-        EXPECT_EQ(said.value(0),
-                  QStringLiteral("“%1” could not be opened.").arg(QString::fromLatin1(name)));
+        EXPECT_EQ(said.value(0), u"“%1” could not be opened."_s.arg(QString::fromLatin1(name)));
         EXPECT_GT(said.value(1).size(), 10);
     }
 }
 
 TEST_F(LabelSessionTest, AFileThatIsGoneLeavesTheRecentFiles)
 {
-    RecentFiles().add(path(QStringLiteral("gone.label")));
+    RecentFiles().add(path(u"gone.label"_s));
     dialogs.expectButton(QMessageBox::Ok);
-    EXPECT_FALSE(session.openFile(path(QStringLiteral("gone.label"))));
+    EXPECT_FALSE(session.openFile(path(u"gone.label"_s)));
     EXPECT_TRUE(RecentFiles().files().isEmpty());
 }
 
 TEST_F(LabelSessionTest, SavesAndOpensAgainWhatWasChanged)
 {
-    const QString file = path(QStringLiteral("a.label"));
+    const QString file = path(u"a.label"_s);
     saveMadeLabel(file);
     ASSERT_TRUE(session.openFile(file));
     change();
@@ -187,8 +188,8 @@ TEST_F(LabelSessionTest, SavesAndOpensAgainWhatWasChanged)
 
 TEST_F(LabelSessionTest, AnUndoneChangeIsNotAChange)
 {
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
+    saveMadeLabel(path(u"a.label"_s));
+    ASSERT_TRUE(session.openFile(path(u"a.label"_s)));
     const QPointF before = placeOfFirst(*session.label());
     change();
     session.undoStack().undo();
@@ -202,30 +203,30 @@ TEST_F(LabelSessionTest, AnUndoneChangeIsNotAChange)
 
 TEST_F(LabelSessionTest, SaveAsGivesTheLabelAnotherFile)
 {
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    ASSERT_TRUE(session.openFile(path(QStringLiteral("a.label"))));
-    dialogs.expectFile(path(QStringLiteral("b"))); // the suffix is added automatically
+    saveMadeLabel(path(u"a.label"_s));
+    ASSERT_TRUE(session.openFile(path(u"a.label"_s)));
+    dialogs.expectFile(path(u"b"_s)); // the suffix is added automatically
 
     ASSERT_TRUE(session.saveAs());
 
-    EXPECT_EQ(session.label()->fileName, path(QStringLiteral("b.label")));
-    EXPECT_TRUE(QFile::exists(path(QStringLiteral("b.label"))));
+    EXPECT_EQ(session.label()->fileName, path(u"b.label"_s));
+    EXPECT_TRUE(QFile::exists(path(u"b.label"_s)));
     EXPECT_EQ(RecentFiles().files().size(), 2);
 }
 
 TEST_F(LabelSessionTest, AWriteErrorIsReported)
 {
-    const QString file = path(QStringLiteral("a.label"));
+    const QString file = path(u"a.label"_s);
     saveMadeLabel(file);
     ASSERT_TRUE(session.openFile(file));
-    session.label()->fileName = path(QStringLiteral("no such folder/a.label"));
+    session.label()->fileName = path(u"no such folder/a.label"_s);
     change();
     dialogs.expectButton(QMessageBox::Ok);
 
     EXPECT_FALSE(session.save());
 
     EXPECT_TRUE(session.hasUnsavedChanges());
-    EXPECT_TRUE(dialogs.texts().constLast().contains(QStringLiteral("Save As")));
+    EXPECT_TRUE(dialogs.texts().constLast().contains(u"Save As"_s));
     session.undoStack().setClean();
 }
 
@@ -237,7 +238,7 @@ TEST_F(LabelSessionTest, UnsavedChangesAreAskedAbout)
         bool goesOn;
         bool isSaved;
     };
-    const QString file = path(QStringLiteral("a.label"));
+    const QString file = path(u"a.label"_s);
     for (const Row& row :
          {Row{QMessageBox::Cancel, false, false}, Row{QMessageBox::Discard, true, false},
           Row{QMessageBox::Save, true, true}}) {
@@ -251,7 +252,7 @@ TEST_F(LabelSessionTest, UnsavedChangesAreAskedAbout)
 
         EXPECT_EQ(session.confirmDiscard(), row.goesOn);
 
-        EXPECT_TRUE(dialogs.texts().constLast().contains(QStringLiteral("a.label")));
+        EXPECT_TRUE(dialogs.texts().constLast().contains(u"a.label"_s));
         const ReadLabel kept = readSavedLabel(file);
         EXPECT_EQ(placeOfFirst(*kept.label) != before, row.isSaved);
         session.undoStack().setClean();
@@ -260,7 +261,7 @@ TEST_F(LabelSessionTest, UnsavedChangesAreAskedAbout)
 
 TEST_F(LabelSessionTest, ClosingAsksToo)
 {
-    const QString file = path(QStringLiteral("a.label"));
+    const QString file = path(u"a.label"_s);
     saveMadeLabel(file);
     ASSERT_TRUE(session.openFile(file));
     change();
@@ -274,19 +275,18 @@ TEST_F(LabelSessionTest, ClosingAsksToo)
 
 TEST_F(LabelSessionTest, OpensByDialog)
 {
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    dialogs.expectFile(path(QStringLiteral("a.label")));
+    saveMadeLabel(path(u"a.label"_s));
+    dialogs.expectFile(path(u"a.label"_s));
     session.openByDialog();
     ASSERT_NE(session.label(), nullptr);
     dialogs.expectCancel();
     session.openByDialog();
-    EXPECT_EQ(displayName(*session.label()), QStringLiteral("a.label"));
+    EXPECT_EQ(displayName(*session.label()), u"a.label"_s);
 }
 
 TEST(LabelNames, TheLastSuffixIsReplaced)
 {
-    EXPECT_EQ(savedNameFor(QStringLiteral("/x/shelf.old.odt")),
-              QStringLiteral("/x/shelf.old.label"));
-    EXPECT_TRUE(isSavedLabel(QStringLiteral("a.LABEL")));
-    EXPECT_FALSE(isSavedLabel(QStringLiteral("label.cnv")));
+    EXPECT_EQ(savedNameFor(u"/x/shelf.old.odt"_s), u"/x/shelf.old.label"_s);
+    EXPECT_TRUE(isSavedLabel(u"a.LABEL"_s));
+    EXPECT_FALSE(isSavedLabel(u"label.cnv"_s));
 }

@@ -34,6 +34,8 @@
 #include <QTextBrowser>
 #include <QUrl>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -45,8 +47,8 @@ protected:
 
     void openMadeLabel()
     {
-        saveMadeLabel(path(QStringLiteral("a.label")));
-        ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
+        saveMadeLabel(path(u"a.label"_s));
+        ASSERT_TRUE(window.openFile(path(u"a.label"_s)));
         QApplication::processEvents();
     }
 
@@ -113,7 +115,7 @@ TEST_F(MainWindowTest, StartsEmptyWithAHint)
     EXPECT_EQ(center->currentIndex(), 0);
     EXPECT_FALSE(window.action(ActionId::Save).isEnabled());
     EXPECT_TRUE(window.action(ActionId::Open).isEnabled());
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("LabelPort Workbench"));
+    EXPECT_EQ(window.windowTitle(), u"LabelPort Workbench"_s);
 }
 
 TEST_F(MainWindowTest, ShowsALabelInAllItsPanels)
@@ -122,7 +124,7 @@ TEST_F(MainWindowTest, ShowsALabelInAllItsPanels)
     EXPECT_EQ(qobject_cast<QStackedWidget*>(window.centralWidget())->currentIndex(), 1);
     EXPECT_EQ(itemTable().model()->rowCount(), 3);
     EXPECT_EQ(window.panels().sources().table().model()->rowCount(), 1);
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"a.label"_s));
     EXPECT_FALSE(window.isWindowModified());
     EXPECT_TRUE(window.action(ActionId::Save).isEnabled());
     EXPECT_TRUE(window.view().keepsPageFitted());
@@ -133,12 +135,12 @@ TEST_F(MainWindowTest, TheListFollowsTheCanvas)
     openMadeLabel();
     item(2)->setSelected(true);
     EXPECT_EQ(selectedRows(), QList<int>{2});
-    EXPECT_EQ(property(QStringLiteral("Kind")), QStringLiteral("Line"));
+    EXPECT_EQ(property(u"Kind"_s), u"Line"_s);
     item(0)->setSelected(true);
     EXPECT_EQ(selectedRows(), (QList<int>{0, 2}));
     window.action(ActionId::SelectNone).trigger();
     EXPECT_TRUE(selectedRows().isEmpty());
-    EXPECT_EQ(property(QStringLiteral("Kind")), QString());
+    EXPECT_EQ(property(u"Kind"_s), QString());
 }
 
 TEST_F(MainWindowTest, TheCanvasFollowsTheList)
@@ -147,7 +149,7 @@ TEST_F(MainWindowTest, TheCanvasFollowsTheList)
     pick(1);
     EXPECT_TRUE(item(1)->isSelected());
     EXPECT_FALSE(item(0)->isSelected());
-    EXPECT_EQ(property(QStringLiteral("Text")), QStringLiteral("Own text"));
+    EXPECT_EQ(property(u"Text"_s), u"Own text"_s);
     pick(0);
     EXPECT_TRUE(item(0)->isSelected());
     EXPECT_FALSE(item(1)->isSelected());
@@ -184,16 +186,16 @@ TEST_F(MainWindowTest, AMoveByKeyboardIsListedAndCanBeTakenBack)
     openMadeLabel();
     pick(0);
     window.action(ActionId::GoCanvas).trigger();
-    const QString before = property(QStringLiteral("Left"));
+    const QString before = property(u"Left"_s);
     QTest::keyClick(&window.view(), Qt::Key_Right, Qt::ShiftModifier);
 
-    EXPECT_NE(property(QStringLiteral("Left")), before);
+    EXPECT_NE(property(u"Left"_s), before);
     EXPECT_TRUE(window.isWindowModified());
     window.action(ActionId::Undo).trigger();
-    EXPECT_EQ(property(QStringLiteral("Left")), before);
+    EXPECT_EQ(property(u"Left"_s), before);
     EXPECT_FALSE(window.isWindowModified());
     window.action(ActionId::Redo).trigger();
-    EXPECT_NE(property(QStringLiteral("Left")), before);
+    EXPECT_NE(property(u"Left"_s), before);
     window.session().undoStack().setClean();
 }
 
@@ -203,10 +205,10 @@ TEST_F(MainWindowTest, StepsThroughRecords)
     const QAbstractItemModel& sources = *window.panels().sources().table().model();
     const auto shown = [&sources] { return sources.index(0, 4).data().toString(); };
     EXPECT_FALSE(window.action(ActionId::PreviousRecord).isEnabled());
-    EXPECT_EQ(shown(), QStringLiteral("No. 1"));
+    EXPECT_EQ(shown(), u"No. 1"_s);
 
     window.action(ActionId::NextRecord).trigger();
-    EXPECT_EQ(shown(), QStringLiteral("No. 2"));
+    EXPECT_EQ(shown(), u"No. 2"_s);
     EXPECT_EQ(window.panels().sources().recordBox().value(), 2);
     window.action(ActionId::LastRecord).trigger();
     EXPECT_EQ(window.record(), 4);
@@ -214,7 +216,7 @@ TEST_F(MainWindowTest, StepsThroughRecords)
     window.action(ActionId::PreviousRecord).trigger();
     window.panels().sources().recordBox().setValue(3);
     EXPECT_EQ(window.record(), 2);
-    EXPECT_EQ(shown(), QStringLiteral("No. 3"));
+    EXPECT_EQ(shown(), u"No. 3"_s);
     window.action(ActionId::FirstRecord).trigger();
     EXPECT_EQ(window.record(), 0);
     EXPECT_FALSE(window.isWindowModified());
@@ -243,7 +245,7 @@ TEST_F(MainWindowTest, ChangesTheUnitEverywhereAndKeepsIt)
     pick(0);
     window.action(ActionId::Inches).trigger();
     EXPECT_EQ(window.unit(), LengthUnit::Inch);
-    EXPECT_TRUE(property(QStringLiteral("Left")).endsWith(QStringLiteral(" in")));
+    EXPECT_TRUE(property(u"Left"_s).endsWith(u" in"_s));
     window.close();
     const MainWindow another;
     EXPECT_EQ(another.unit(), LengthUnit::Inch);
@@ -261,20 +263,20 @@ TEST_F(MainWindowTest, ClosingALabelEmptiesAllPanels)
 
 TEST_F(MainWindowTest, TakesADroppedFile)
 {
-    drop({QUrl::fromLocalFile(copied(QStringLiteral("opendocument/rating_plate.odg")))});
+    drop({QUrl::fromLocalFile(copied(u"opendocument/rating_plate.odg"_s))});
     EXPECT_TRUE(m_isAccepted);
     ASSERT_NE(window.session().label(), nullptr);
     EXPECT_FALSE(window.isWindowModified());
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("rating_plate.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"rating_plate.label"_s));
 
-    saveMadeLabel(path(QStringLiteral("a.label")));
-    drop({QUrl::fromLocalFile(path(QStringLiteral("a.label")))});
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("a.label")));
+    saveMadeLabel(path(u"a.label"_s));
+    drop({QUrl::fromLocalFile(path(u"a.label"_s))});
+    EXPECT_TRUE(window.windowTitle().startsWith(u"a.label"_s));
 }
 
 TEST_F(MainWindowTest, IgnoresDropsOfOtherData)
 {
-    drop({QUrl(QStringLiteral("https://example.org/a.label"))});
+    drop({QUrl(u"https://example.org/a.label"_s)});
     EXPECT_FALSE(m_isAccepted);
     EXPECT_EQ(window.session().label(), nullptr);
 }
@@ -285,12 +287,12 @@ TEST_F(MainWindowTest, ListsRecentFilesAndOpensThem)
     QAction* entry = nullptr;
     const QList<QMenu*> menus = window.findChildren<QMenu*>();
     for (const QMenu* menu : menus) {
-        if (menu->title() == QStringLiteral("Open &Recent")) {
+        if (menu->title() == u"Open &Recent"_s) {
             entry = menu->actions().constFirst();
         }
     }
     ASSERT_NE(entry, nullptr);
-    EXPECT_EQ(entry->text(), QStringLiteral("&1  a.label"));
+    EXPECT_EQ(entry->text(), u"&1  a.label"_s);
     window.action(ActionId::Close).trigger();
     entry->trigger();
     QApplication::processEvents();
@@ -311,9 +313,9 @@ TEST_F(MainWindowTest, DoesNotCloseOverUnsavedChanges)
 
 TEST_F(MainWindowTest, OpenImportsALegacyLabel)
 {
-    dialogs.expectFile(copied(QStringLiteral("tavrel/address_2000016.cnv")));
+    dialogs.expectFile(copied(u"tavrel/address_2000016.cnv"_s));
     window.action(ActionId::Open).trigger();
-    EXPECT_TRUE(window.windowTitle().startsWith(QStringLiteral("address_2000016.label")));
+    EXPECT_TRUE(window.windowTitle().startsWith(u"address_2000016.label"_s));
     EXPECT_GT(itemTable().model()->rowCount(), 0);
 }
 
@@ -348,9 +350,9 @@ TEST_F(MainWindowTest, HelpShowsEveryKey)
 
 TEST_F(MainWindowTest, ManyLabelsInTurnLeaveNothingBehind)
 {
-    saveMadeLabel(path(QStringLiteral("a.label")));
+    saveMadeLabel(path(u"a.label"_s));
     for (int turn = 0; turn < 20; ++turn) {
-        ASSERT_TRUE(window.openFile(path(QStringLiteral("a.label"))));
+        ASSERT_TRUE(window.openFile(path(u"a.label"_s)));
         pick(turn % 3);
         window.action(ActionId::NextRecord).trigger();
         QTest::keyClick(&window.view(), Qt::Key_Right);
@@ -373,7 +375,7 @@ TEST_F(MainWindowTest, TheManualIsInTheProgramWithItsPictures)
     window.action(ActionId::Manual).trigger();
     auto* browser = window.findChild<QTextBrowser*>();
     ASSERT_NE(browser, nullptr);
-    EXPECT_TRUE(browser->toPlainText().contains(QStringLiteral("Editing properties")));
+    EXPECT_TRUE(browser->toPlainText().contains(u"Editing properties"_s));
     QSet<QString> pictures;
     const QTextDocument& page = *browser->document();
     for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
@@ -399,16 +401,16 @@ TEST_F(MainWindowTest, TheZoomBoxShowsAndSetsTheZoom)
     ASSERT_EQ(boxes.size(), 1);
     QComboBox* box = boxes.constFirst();
     window.action(ActionId::ZoomTrue).trigger();
-    EXPECT_EQ(box->currentText(), QStringLiteral("100 %"));
+    EXPECT_EQ(box->currentText(), u"100 %"_s);
     box->lineEdit()->selectAll();
-    QTest::keyClicks(box->lineEdit(), QStringLiteral("250"));
+    QTest::keyClicks(box->lineEdit(), u"250"_s);
     QTest::keyClick(box->lineEdit(), Qt::Key_Return);
     EXPECT_EQ(window.view().zoom(), 2.5);
     box->lineEdit()->selectAll();
-    QTest::keyClicks(box->lineEdit(), QStringLiteral("large"));
+    QTest::keyClicks(box->lineEdit(), u"large"_s);
     QTest::keyClick(box->lineEdit(), Qt::Key_Return);
     EXPECT_EQ(window.view().zoom(), 2.5);
-    EXPECT_EQ(box->currentText(), QStringLiteral("250 %"));
+    EXPECT_EQ(box->currentText(), u"250 %"_s);
     // As a click in the list does.
     box->setCurrentIndex(0);
     Q_EMIT box->activated(0);
@@ -429,19 +431,19 @@ TEST_F(MainWindowTest, TheRecordBoxLeavesCtrlEToExport)
 TEST_F(MainWindowTest, MessagesAboutALabelDisappearWithIt)
 {
     openMadeLabel();
-    window.statusBar()->showMessage(QStringLiteral("old"));
+    window.statusBar()->showMessage(u"old"_s);
     window.action(ActionId::Close).trigger();
     EXPECT_EQ(window.statusBar()->currentMessage(), QString());
 }
 
 TEST_F(MainWindowTest, EveryColumnOfTheItemListIsVisible)
 {
-    saveMadeLabel(path(QStringLiteral("a.label")));
+    saveMadeLabel(path(u"a.label"_s));
     // The fixture's window was shown on a virtual screen that is smaller than this.
     MainWindow wide;
     wide.resize(1280, 800);
     wide.show();
-    ASSERT_TRUE(wide.openFile(path(QStringLiteral("a.label"))));
+    ASSERT_TRUE(wide.openFile(path(u"a.label"_s)));
     QApplication::processEvents();
     const QTableView& table = wide.panels().items().table();
     const int last = table.model()->columnCount() - 1;
@@ -454,10 +456,10 @@ TEST_F(MainWindowTest, TheManualFollowsOnlyLinksThatItContains)
     ManualDialog manual;
     QTextBrowser& browser = manual.browser();
     const QString text = browser.toPlainText();
-    EXPECT_TRUE(text.contains(QStringLiteral("LabelPort Workbench")));
-    Q_EMIT browser.anchorClicked(QUrl(QStringLiteral("qrc:/labelport/manual/missing.md")));
+    EXPECT_TRUE(text.contains(u"LabelPort Workbench"_s));
+    Q_EMIT browser.anchorClicked(QUrl(u"qrc:/labelport/manual/missing.md"_s));
     EXPECT_EQ(browser.toPlainText(), text);
-    Q_EMIT browser.anchorClicked(QUrl(QStringLiteral("migration-report.md")));
+    Q_EMIT browser.anchorClicked(QUrl(u"migration-report.md"_s));
     EXPECT_NE(browser.toPlainText(), text);
     EXPECT_FALSE(browser.toPlainText().isEmpty());
     browser.backward();
@@ -468,16 +470,16 @@ TEST_F(MainWindowTest, ALongImportCanBeCanceled)
 {
     openMadeLabel();
     const QString name = displayName(*window.session().label());
-    QFile program(path(QStringLiteral("endless")));
+    QFile program(path(u"endless"_s));
     ASSERT_TRUE(program.open(QIODevice::WriteOnly));
     program.write("#!/bin/sh\nexec sleep 600\n");
     program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     program.close();
     ImportProcess::setProgram(program.fileName());
     ImportProcess::setDialogDelay(0);
-    dialogs.expectButton(QStringLiteral("Cancel"));
-    EXPECT_FALSE(window.openFile(copied(QStringLiteral("opendocument/shelf_label.odg"))));
-    EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("The import was canceled."));
+    dialogs.expectButton(u"Cancel"_s);
+    EXPECT_FALSE(window.openFile(copied(u"opendocument/shelf_label.odg"_s)));
+    EXPECT_EQ(window.statusBar()->currentMessage(), u"The import was canceled."_s);
     EXPECT_EQ(displayName(*window.session().label()), name);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }

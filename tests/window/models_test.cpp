@@ -19,6 +19,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -35,7 +37,7 @@ QString propertyOf(const QList<PropertyRow>& rows, const QString& name)
             return row.value;
         }
     }
-    return QStringLiteral("(missing)");
+    return u"(missing)"_s;
 }
 
 } // namespace
@@ -49,10 +51,10 @@ TEST(ItemTable, HasARowForEveryItemInTheOrderOfCreation)
     model.setCanvas(label.canvas.get());
 
     ASSERT_EQ(model.rowCount(), 3);
-    EXPECT_EQ(cell(model, 0, ItemTableModel::Kind), QStringLiteral("Rectangle"));
-    EXPECT_EQ(cell(model, 1, ItemTableModel::Kind), QStringLiteral("Text"));
-    EXPECT_EQ(cell(model, 1, ItemTableModel::Content), QStringLiteral("Own text"));
-    EXPECT_EQ(cell(model, 2, ItemTableModel::State), QStringLiteral("locked"));
+    EXPECT_EQ(cell(model, 0, ItemTableModel::Kind), u"Rectangle"_s);
+    EXPECT_EQ(cell(model, 1, ItemTableModel::Kind), u"Text"_s);
+    EXPECT_EQ(cell(model, 1, ItemTableModel::Content), u"Own text"_s);
+    EXPECT_EQ(cell(model, 2, ItemTableModel::State), u"locked"_s);
     EXPECT_EQ(cell(model, 0, ItemTableModel::Width), QLocale().toString(25.4, 'f', 2));
 }
 
@@ -65,9 +67,9 @@ TEST(ItemTable, ShowsLengthsInTheSelectedUnit)
 
     EXPECT_EQ(cell(model, 0, ItemTableModel::Width), QLocale().toString(1.0, 'f', 3));
     EXPECT_EQ(model.headerData(ItemTableModel::Left, Qt::Horizontal, Qt::DisplayRole).toString(),
-              QStringLiteral("Left"));
+              u"Left"_s);
     EXPECT_EQ(model.headerData(ItemTableModel::Left, Qt::Horizontal, Qt::ToolTipRole).toString(),
-              QStringLiteral("Left (in)"));
+              u"Left (in)"_s);
 }
 
 TEST(ItemTable, FindsTheRowOfAnItemAndTheItemOfARow)
@@ -111,7 +113,7 @@ TEST(ItemDescription, NamesEveryKindOfItem)
         names.insert(kindName(static_cast<KestTypes::ShapeType>(type)));
     }
     EXPECT_EQ(names.size(), 16);
-    EXPECT_EQ(kindName(static_cast<KestTypes::ShapeType>(7)), QStringLiteral("unknown (7)"));
+    EXPECT_EQ(kindName(static_cast<KestTypes::ShapeType>(7)), u"unknown (7)"_s);
 }
 
 TEST(ItemDescription, ListsTheGroupsThatAnItemHasAndNoOthers)
@@ -119,15 +121,15 @@ TEST(ItemDescription, ListsTheGroupsThatAnItemHasAndNoOthers)
     const OpenLabel label = makeLabel();
     const QList<PropertyRow> rectangle =
         describeItem(label.canvas->items().at(0)->values(), LengthUnit::Inch);
-    EXPECT_EQ(propertyOf(rectangle, QStringLiteral("Fill color")), QStringLiteral("#ffd580"));
-    EXPECT_EQ(propertyOf(rectangle, QStringLiteral("Line style")), QStringLiteral("solid"));
-    EXPECT_EQ(propertyOf(rectangle, QStringLiteral("Font family")), QStringLiteral("(missing)"));
+    EXPECT_EQ(propertyOf(rectangle, u"Fill color"_s), u"#ffd580"_s);
+    EXPECT_EQ(propertyOf(rectangle, u"Line style"_s), u"solid"_s);
+    EXPECT_EQ(propertyOf(rectangle, u"Font family"_s), u"(missing)"_s);
 
     const QList<PropertyRow> text =
         describeItem(label.canvas->items().at(1)->values(), LengthUnit::Inch);
-    EXPECT_EQ(propertyOf(text, QStringLiteral("Text")), QStringLiteral("Own text"));
-    EXPECT_EQ(propertyOf(text, QStringLiteral("Font size")), QStringLiteral("14 pt"));
-    EXPECT_EQ(propertyOf(text, QStringLiteral("Source")), QStringLiteral("number 1"));
+    EXPECT_EQ(propertyOf(text, u"Text"_s), u"Own text"_s);
+    EXPECT_EQ(propertyOf(text, u"Font size"_s), u"14 pt"_s);
+    EXPECT_EQ(propertyOf(text, u"Source"_s), u"number 1"_s);
 }
 
 TEST(ItemDescription, FollowsTheLanguage)
@@ -137,40 +139,38 @@ TEST(ItemDescription, FollowsTheLanguage)
         return QStringList{describeItem(label.canvas->items().at(0)->values(), {}).at(1).name,
                            describePage(label.canvas->page(), {}).at(0).name};
     };
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("Left"), QStringLiteral("Page width")}));
-    const translations::ProgramLanguage german({QStringLiteral("de")});
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("Links"), QStringLiteral("Seitenbreite")}));
+    EXPECT_EQ(names(), (QStringList{u"Left"_s, u"Page width"_s}));
+    const translations::ProgramLanguage german({u"de"_s});
+    EXPECT_EQ(names(), (QStringList{u"Links"_s, u"Seitenbreite"_s}));
 }
 
 TEST(ItemDescription, SummariesAreOneShortLine)
 {
     workbench::ItemValues values;
     values.type = KestTypes::RichText;
-    values.text =
-        workbench::TextValues{{}, QStringLiteral("<p>first <b>line</b></p><p>second</p>")};
-    EXPECT_EQ(contentSummary(values), QStringLiteral("first line second"));
+    values.text = workbench::TextValues{{}, u"<p>first <b>line</b></p><p>second</p>"_s};
+    EXPECT_EQ(contentSummary(values), u"first line second"_s);
 
     values.text = workbench::TextValues{QString(100'000, QLatin1Char('x')), {}};
     EXPECT_EQ(contentSummary(values).size(), 60);
-    EXPECT_LE(propertyOf(describeItem(values, LengthUnit::Inch), QStringLiteral("Text")).size(),
-              2000);
+    EXPECT_LE(propertyOf(describeItem(values, LengthUnit::Inch), u"Text"_s).size(), 2000);
 }
 
 TEST(StyleNames, SayWhatNumbersMean)
 {
-    EXPECT_EQ(penStyleName(2), QStringLiteral("dashes"));
-    EXPECT_EQ(penStyleName(99), QStringLiteral("unknown (99)"));
-    EXPECT_EQ(capStyleName(0x20), QStringLiteral("round"));
-    EXPECT_EQ(joinStyleName(0x40), QStringLiteral("cut off"));
-    EXPECT_EQ(brushStyleName(15), QStringLiteral("gradient"));
-    EXPECT_EQ(lineMarkerName(0x50), QStringLiteral("double arrow"));
-    EXPECT_EQ(lineMarkerName(8), QStringLiteral("dimension stroke"));
-    EXPECT_EQ(alignmentName(Qt::AlignRight | Qt::AlignVCenter), QStringLiteral("right, middle"));
-    EXPECT_EQ(alignmentName({}), QStringLiteral("left, top"));
-    EXPECT_EQ(fixedSidesName(3), QStringLiteral("width and height"));
-    EXPECT_EQ(colorName(Qt::transparent), QStringLiteral("transparent"));
-    EXPECT_EQ(colorName(QColor(1, 2, 3, 128)), QStringLiteral("#80010203"));
-    EXPECT_EQ(colorName(QColor()), QStringLiteral("none"));
+    EXPECT_EQ(penStyleName(2), u"dashes"_s);
+    EXPECT_EQ(penStyleName(99), u"unknown (99)"_s);
+    EXPECT_EQ(capStyleName(0x20), u"round"_s);
+    EXPECT_EQ(joinStyleName(0x40), u"cut off"_s);
+    EXPECT_EQ(brushStyleName(15), u"gradient"_s);
+    EXPECT_EQ(lineMarkerName(0x50), u"double arrow"_s);
+    EXPECT_EQ(lineMarkerName(8), u"dimension stroke"_s);
+    EXPECT_EQ(alignmentName(Qt::AlignRight | Qt::AlignVCenter), u"right, middle"_s);
+    EXPECT_EQ(alignmentName({}), u"left, top"_s);
+    EXPECT_EQ(fixedSidesName(3), u"width and height"_s);
+    EXPECT_EQ(colorName(Qt::transparent), u"transparent"_s);
+    EXPECT_EQ(colorName(QColor(1, 2, 3, 128)), u"#80010203"_s);
+    EXPECT_EQ(colorName(QColor()), u"none"_s);
 }
 
 TEST(PropertyTable, ShowsAGroupOnceAndNamesItToScreenReaders)
@@ -178,14 +178,13 @@ TEST(PropertyTable, ShowsAGroupOnceAndNamesItToScreenReaders)
     PropertyModel model;
     const QAbstractItemModelTester tester(&model,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.setRows({{QStringLiteral("Fill"), QStringLiteral("Filled"), QStringLiteral("yes")},
-                   {QStringLiteral("Fill"), QStringLiteral("Color"), QStringLiteral("red")}});
+    model.setRows({{u"Fill"_s, u"Filled"_s, u"yes"_s}, {u"Fill"_s, u"Color"_s, u"red"_s}});
 
-    EXPECT_EQ(cell(model, 0, PropertyModel::Group), QStringLiteral("Fill"));
+    EXPECT_EQ(cell(model, 0, PropertyModel::Group), u"Fill"_s);
     EXPECT_EQ(cell(model, 1, PropertyModel::Group), QString());
     EXPECT_EQ(model.index(1, PropertyModel::Group).data(Qt::AccessibleTextRole).toString(),
-              QStringLiteral("Fill"));
-    EXPECT_EQ(cell(model, 1, PropertyModel::Value), QStringLiteral("red"));
+              u"Fill"_s);
+    EXPECT_EQ(cell(model, 1, PropertyModel::Value), u"red"_s);
 }
 
 TEST(SourceTable, ShowsKindSettingsRecordsAndCurrentText)
@@ -197,10 +196,10 @@ TEST(SourceTable, ShowsKindSettingsRecordsAndCurrentText)
     model.show(label.sources.get(), 2);
 
     ASSERT_EQ(model.rowCount(), 1);
-    EXPECT_EQ(cell(model, 0, SourceTableModel::Kind), QStringLiteral("Counter"));
-    EXPECT_EQ(cell(model, 0, SourceTableModel::Settings), QStringLiteral("1 to 5, step 1"));
-    EXPECT_EQ(cell(model, 0, SourceTableModel::Records), QStringLiteral("5"));
-    EXPECT_EQ(cell(model, 0, SourceTableModel::Now), QStringLiteral("No. 3"));
+    EXPECT_EQ(cell(model, 0, SourceTableModel::Kind), u"Counter"_s);
+    EXPECT_EQ(cell(model, 0, SourceTableModel::Settings), u"1 to 5, step 1"_s);
+    EXPECT_EQ(cell(model, 0, SourceTableModel::Records), u"5"_s);
+    EXPECT_EQ(cell(model, 0, SourceTableModel::Now), u"No. 3"_s);
 
     model.show(nullptr, 0);
     EXPECT_EQ(model.rowCount(), 0);
@@ -209,21 +208,20 @@ TEST(SourceTable, ShowsKindSettingsRecordsAndCurrentText)
 TEST(SourceTable, ShowsTheBeginningOfALongList)
 {
     workbench::datasources::DatasourceController sources;
-    const int list = sources.createDatasource(QStringLiteral("TextListDatasource"));
+    const int list = sources.createDatasource(u"TextListDatasource"_s);
     QStringList texts;
     for (int i = 1; i <= 6; ++i) {
         texts.append(QString::number(i));
     }
-    sources.getDatasource(list)->setDatasourceProperty(QStringLiteral("TextList"), texts);
-    const int clock = sources.createDatasource(QStringLiteral("SystemDatasource"));
-    sources.getDatasource(clock)->setDatasourceProperty(QStringLiteral("DateFormat"),
-                                                        QStringLiteral("yyyy"));
+    sources.getDatasource(list)->setDatasourceProperty(u"TextList"_s, texts);
+    const int clock = sources.createDatasource(u"SystemDatasource"_s);
+    sources.getDatasource(clock)->setDatasourceProperty(u"DateFormat"_s, u"yyyy"_s);
     SourceTableModel model;
     model.show(&sources, 0);
 
-    EXPECT_EQ(cell(model, 0, SourceTableModel::Settings), QStringLiteral("1, 2, 3, 4, 5, …"));
-    EXPECT_EQ(cell(model, 1, SourceTableModel::Kind), QStringLiteral("Date and time"));
-    EXPECT_EQ(cell(model, 1, SourceTableModel::Settings), QStringLiteral("yyyy"));
+    EXPECT_EQ(cell(model, 0, SourceTableModel::Settings), u"1, 2, 3, 4, 5, …"_s);
+    EXPECT_EQ(cell(model, 1, SourceTableModel::Kind), u"Date and time"_s);
+    EXPECT_EQ(cell(model, 1, SourceTableModel::Settings), u"yyyy"_s);
 }
 
 class RecentFilesTest : public WindowFixture
@@ -233,12 +231,12 @@ TEST_F(RecentFilesTest, PutTheLatestFirstAndHaveEachOnce)
 {
     RecentFiles recent;
     EXPECT_TRUE(recent.files().isEmpty());
-    recent.add(QStringLiteral("/a"));
-    recent.add(QStringLiteral("/b"));
-    recent.add(QStringLiteral("/a"));
-    EXPECT_EQ(recent.files(), (QStringList{QStringLiteral("/a"), QStringLiteral("/b")}));
-    recent.remove(QStringLiteral("/a"));
-    EXPECT_EQ(recent.files(), QStringList{QStringLiteral("/b")});
+    recent.add(u"/a"_s);
+    recent.add(u"/b"_s);
+    recent.add(u"/a"_s);
+    EXPECT_EQ(recent.files(), (QStringList{u"/a"_s, u"/b"_s}));
+    recent.remove(u"/a"_s);
+    EXPECT_EQ(recent.files(), QStringList{u"/b"_s});
     recent.clear();
     EXPECT_TRUE(recent.files().isEmpty());
 }
@@ -247,10 +245,10 @@ TEST_F(RecentFilesTest, KeepNoMoreThanTheMenuHasDigits)
 {
     RecentFiles recent;
     for (int i = 0; i < 20; ++i) {
-        recent.add(QStringLiteral("/file%1").arg(i));
+        recent.add(u"/file%1"_s.arg(i));
     }
     EXPECT_EQ(recent.files().size(), RecentFiles::MaximumCount);
-    EXPECT_EQ(recent.files().constFirst(), QStringLiteral("/file19"));
+    EXPECT_EQ(recent.files().constFirst(), u"/file19"_s);
 }
 
 class PalettesTest : public WindowFixture

@@ -24,6 +24,8 @@
 
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -68,7 +70,7 @@ double differenceOf(const QImage& picture, const QImage& drawing)
 
 qsizetype pagesOf(const QByteArray& pdf)
 {
-    static const QRegularExpression count(QStringLiteral("/Count (\\d+)"));
+    static const QRegularExpression count(u"/Count (\\d+)"_s);
     return count.match(QString::fromLatin1(pdf)).captured(1).toLongLong();
 }
 
@@ -77,18 +79,18 @@ qsizetype pagesOf(const QByteArray& pdf)
 TEST_F(OutputTest, APictureHasThePagesPixels)
 {
     const OutputReport report =
-        writeOutput(label, orderOf(exporting::Target::Png, QStringLiteral("a.png")), goOn);
+        writeOutput(label, orderOf(exporting::Target::Png, u"a.png"_s), goOn);
     EXPECT_EQ(report.error, QString());
     EXPECT_EQ(report.files, 1);
-    EXPECT_EQ(QImageReader(path(QStringLiteral("a.png"))).size(), QSize(525, 263));
+    EXPECT_EQ(QImageReader(path(u"a.png"_s)).size(), QSize(525, 263));
 }
 
 TEST_F(OutputTest, ADrawingHasTheTrueSizeAndTextAsText)
 {
     const OutputReport report =
-        writeOutput(label, orderOf(exporting::Target::Svg, QStringLiteral("a.svg")), goOn);
+        writeOutput(label, orderOf(exporting::Target::Svg, u"a.svg"_s), goOn);
     EXPECT_EQ(report.error, QString());
-    const QByteArray svg = contentOf(QStringLiteral("a.svg"));
+    const QByteArray svg = contentOf(u"a.svg"_s);
     EXPECT_TRUE(svg.contains("width=\"88.9mm\" height=\"44.45mm\"")) << svg.left(300).toStdString();
     EXPECT_TRUE(svg.contains("No. 1"));
     EXPECT_TRUE(QSvgRenderer(svg).isValid());
@@ -104,20 +106,16 @@ TEST_F(OutputTest, ADrawingShowsWhatThePictureShows)
         ReadLabel read = readLegacyLabel(sample(QString::fromLatin1(name)));
         ASSERT_TRUE(read.label.has_value()) << read.error.toStdString();
         const QImage picture = workbench::renderPage(*read.label->canvas, 96.0).image;
-        ASSERT_EQ(workbench::writeSvg(*read.label->canvas, path(QStringLiteral("x.svg")),
-                                      QStringLiteral("x")),
-                  QString());
+        ASSERT_EQ(workbench::writeSvg(*read.label->canvas, path(u"x.svg"_s), u"x"_s), QString());
 
         QImage drawing(picture.size(), QImage::Format_ARGB32_Premultiplied);
         drawing.fill(Qt::white);
         QPainter painter(&drawing);
-        QSvgRenderer(path(QStringLiteral("x.svg")))
+        QSvgRenderer(path(u"x.svg"_s))
             .render(&painter, QRectF(QPointF(), read.label->canvas->page().size * (96.0 / 72.0)));
         painter.end();
-        keepImage(picture,
-                  QStringLiteral("picture_") + QFileInfo(QString::fromLatin1(name)).baseName());
-        keepImage(drawing,
-                  QStringLiteral("drawing_") + QFileInfo(QString::fromLatin1(name)).baseName());
+        keepImage(picture, u"picture_"_s + QFileInfo(QString::fromLatin1(name)).baseName());
+        keepImage(drawing, u"drawing_"_s + QFileInfo(QString::fromLatin1(name)).baseName());
 
         EXPECT_LT(differenceOf(picture, drawing), 0.012);
     }
@@ -126,10 +124,10 @@ TEST_F(OutputTest, ADrawingShowsWhatThePictureShows)
 TEST_F(OutputTest, ADocumentHasAPageForEachRecord)
 {
     const OutputReport report =
-        writeOutput(label, orderOf(exporting::Target::Pdf, QStringLiteral("a.pdf"), {1, 4}), goOn);
+        writeOutput(label, orderOf(exporting::Target::Pdf, u"a.pdf"_s, {1, 4}), goOn);
     EXPECT_EQ(report.error, QString());
     EXPECT_EQ(report.files, 1);
-    const QByteArray pdf = contentOf(QStringLiteral("a.pdf"));
+    const QByteArray pdf = contentOf(u"a.pdf"_s);
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
     EXPECT_EQ(pagesOf(pdf), 4);
     EXPECT_TRUE(pdf.contains("/MediaBox [0 0 252.0")) << "the page has the label's size";
@@ -138,45 +136,41 @@ TEST_F(OutputTest, ADocumentHasAPageForEachRecord)
 
 TEST_F(OutputTest, ASeriesOfPicturesIsNumberedByRecord)
 {
-    const OutputOrder order = orderOf(exporting::Target::Svg, QStringLiteral("a.svg"), {1, 3});
+    const OutputOrder order = orderOf(exporting::Target::Svg, u"a.svg"_s, {1, 3});
     const OutputReport report = writeOutput(label, order, goOn);
     EXPECT_EQ(report.files, 3);
-    EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.svg"))));
-    EXPECT_TRUE(contentOf(QStringLiteral("a-002.svg")).contains("No. 2"));
-    EXPECT_TRUE(contentOf(QStringLiteral("a-004.svg")).contains("No. 4"));
+    EXPECT_FALSE(QFile::exists(path(u"a.svg"_s)));
+    EXPECT_TRUE(contentOf(u"a-002.svg"_s).contains("No. 2"));
+    EXPECT_TRUE(contentOf(u"a-004.svg"_s).contains("No. 4"));
 }
 
 TEST_F(OutputTest, NamesInASeriesSortAsTheyCount)
 {
-    const OutputOrder order{
-        exporting::Target::Png, QStringLiteral("/x/label.v2.png"), {}, {0, 10'000}};
-    EXPECT_EQ(fileNameInSeries(order, 0), QStringLiteral("/x/label.v2-00001.png"));
-    EXPECT_EQ(fileNameInSeries(order, 9'999), QStringLiteral("/x/label.v2-10000.png"));
+    const OutputOrder order{exporting::Target::Png, u"/x/label.v2.png"_s, {}, {0, 10'000}};
+    EXPECT_EQ(fileNameInSeries(order, 0), u"/x/label.v2-00001.png"_s);
+    EXPECT_EQ(fileNameInSeries(order, 9'999), u"/x/label.v2-10000.png"_s);
 }
 
 TEST_F(OutputTest, WorkCanBeStopped)
 {
     const Progress stopAtTwo = [](qint64 done) { return done < 2; };
-    OutputReport report = writeOutput(
-        label, orderOf(exporting::Target::Png, QStringLiteral("a.png"), {0, 5}), stopAtTwo);
+    OutputReport report =
+        writeOutput(label, orderOf(exporting::Target::Png, u"a.png"_s, {0, 5}), stopAtTwo);
     EXPECT_TRUE(report.wasStopped);
     EXPECT_EQ(report.files, 2);
 
-    report = writeOutput(label, orderOf(exporting::Target::Pdf, QStringLiteral("a.pdf"), {0, 5}),
-                         stopAtTwo);
+    report = writeOutput(label, orderOf(exporting::Target::Pdf, u"a.pdf"_s, {0, 5}), stopAtTwo);
     EXPECT_TRUE(report.wasStopped);
     EXPECT_EQ(report.error, QString());
-    EXPECT_FALSE(QFile::exists(path(QStringLiteral("a.pdf")))) << "half a document is none";
+    EXPECT_FALSE(QFile::exists(path(u"a.pdf"_s))) << "half a document is none";
 }
 
 TEST_F(OutputTest, WriteErrorsAreReported)
 {
     for (const exporting::Target target :
          {exporting::Target::Png, exporting::Target::Svg, exporting::Target::Pdf}) {
-        const OutputReport report =
-            writeOutput(label, orderOf(target, QStringLiteral("no folder/a.x")), goOn);
-        EXPECT_TRUE(report.error.contains(QStringLiteral("no folder")))
-            << report.error.toStdString();
+        const OutputReport report = writeOutput(label, orderOf(target, u"no folder/a.x"_s), goOn);
+        EXPECT_TRUE(report.error.contains(u"no folder"_s)) << report.error.toStdString();
         EXPECT_EQ(report.files, 0);
     }
 }
@@ -184,20 +178,19 @@ TEST_F(OutputTest, WriteErrorsAreReported)
 TEST_F(OutputTest, APageThatIsTooLargeIsReported)
 {
     label.canvas->importCanvasParameters(20'000.0, 100.0, false, false);
-    const OutputReport pdf =
-        writeOutput(label, orderOf(exporting::Target::Pdf, QStringLiteral("a.pdf")), goOn);
+    const OutputReport pdf = writeOutput(label, orderOf(exporting::Target::Pdf, u"a.pdf"_s), goOn);
     EXPECT_FALSE(pdf.error.isEmpty());
-    OutputOrder order = orderOf(exporting::Target::Png, QStringLiteral("a.png"));
+    OutputOrder order = orderOf(exporting::Target::Png, u"a.png"_s);
     order.options.insert(exporting::DpiOption, 2400);
     EXPECT_FALSE(writeOutput(label, order, goOn).error.isEmpty());
 }
 
 TEST_F(OutputTest, TheDialogsFileFollowsTheFormat)
 {
-    ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
-    EXPECT_EQ(dialog.order().fileName, path(QStringLiteral("shelf.png")));
+    ExportDialog dialog(path(u"shelf"_s), 1, 0, nullptr);
+    EXPECT_EQ(dialog.order().fileName, path(u"shelf.png"_s));
     dialog.setTarget(exporting::Target::Pdf);
-    EXPECT_EQ(dialog.order().fileName, path(QStringLiteral("shelf.pdf")));
+    EXPECT_EQ(dialog.order().fileName, path(u"shelf.pdf"_s));
     EXPECT_EQ(dialog.order().target, exporting::Target::Pdf);
     dialog.setFileName(QString());
     dialog.setTarget(exporting::Target::Svg);
@@ -207,7 +200,7 @@ TEST_F(OutputTest, TheDialogsFileFollowsTheFormat)
 // The dialog is built from the table of targets that the command line has, too.
 TEST_F(OutputTest, TheDialogOffersEveryTargetWithItsOptions)
 {
-    ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
+    ExportDialog dialog(path(u"shelf"_s), 1, 0, nullptr);
     dialog.show();
     for (const exporting::TargetEntry& entry : exporting::targets()) {
         SCOPED_TRACE(entry.name);
@@ -241,25 +234,25 @@ TEST_F(OutputTest, TheDialogOffersEveryTargetWithItsOptions)
 
 TEST_F(OutputTest, ALabelForGlabelsHasAllRecordsInATable)
 {
-    ExportDialog dialog(path(QStringLiteral("shelf")), 5, 0, nullptr);
+    ExportDialog dialog(path(u"shelf"_s), 5, 0, nullptr);
     dialog.setTarget(exporting::Target::Glabels);
     EXPECT_FALSE(dialog.findChild<RecordChooser*>()->isEnabled());
     dialog.setTarget(exporting::Target::Pdf);
     EXPECT_TRUE(dialog.findChild<RecordChooser*>()->isEnabled());
 
     const OutputReport report =
-        writeOutput(label, orderOf(exporting::Target::Glabels, QStringLiteral("a.glabels")), goOn);
+        writeOutput(label, orderOf(exporting::Target::Glabels, u"a.glabels"_s), goOn);
     EXPECT_EQ(report.error, QString());
     EXPECT_EQ(report.files, 1);
-    EXPECT_TRUE(contentOf(QStringLiteral("a.glabels")).contains("src=\"a.glabels.csv\""));
-    EXPECT_GT(contentOf(QStringLiteral("a.glabels.csv")).count('\n'), 2);
+    EXPECT_TRUE(contentOf(u"a.glabels"_s).contains("src=\"a.glabels.csv\""));
+    EXPECT_GT(contentOf(u"a.glabels.csv"_s).count('\n'), 2);
 }
 
 TEST_F(OutputTest, TheDialogShowsOnlyTheOptionsOfItsTarget)
 {
-    ExportDialog dialog(path(QStringLiteral("shelf")), 1, 0, nullptr);
+    ExportDialog dialog(path(u"shelf"_s), 1, 0, nullptr);
     dialog.show();
-    const auto* dpi = dialog.findChild<QSpinBox*>(QStringLiteral("dpi"));
+    const auto* dpi = dialog.findChild<QSpinBox*>(u"dpi"_s);
     ASSERT_NE(dpi, nullptr);
     EXPECT_TRUE(dpi->isVisible());
     dialog.setTarget(exporting::Target::Svg);
@@ -292,7 +285,7 @@ TEST_F(OutputTest, ExportConfirmsReplacingAndReportsTheOutput)
     DialogDriver dialogs;
     QWidget window;
     const Prompts prompts(&window);
-    const QString file = path(QStringLiteral("a.svg"));
+    const QString file = path(u"a.svg"_s);
     const auto fillIn = [&file](QDialog& dialog) {
         auto& exporting = dynamic_cast<ExportDialog&>(dialog);
         exporting.setTarget(exporting::Target::Svg);
@@ -300,8 +293,8 @@ TEST_F(OutputTest, ExportConfirmsReplacingAndReportsTheOutput)
         exporting.accept();
     };
     dialogs.expect(fillIn);
-    EXPECT_EQ(exportLabel(label, 2, prompts, &window), QStringLiteral("Written: ") + file);
-    EXPECT_TRUE(contentOf(QStringLiteral("a.svg")).contains("No. 3"));
+    EXPECT_EQ(exportLabel(label, 2, prompts, &window), u"Written: "_s + file);
+    EXPECT_TRUE(contentOf(u"a.svg"_s).contains("No. 3"));
 
     dialogs.expect([&](QDialog& dialog) {
         dialogs.expectButton(QMessageBox::No);
@@ -309,7 +302,7 @@ TEST_F(OutputTest, ExportConfirmsReplacingAndReportsTheOutput)
         dialog.reject();
     });
     EXPECT_EQ(exportLabel(label, 0, prompts, &window), QString());
-    EXPECT_TRUE(contentOf(QStringLiteral("a.svg")).contains("No. 3"));
+    EXPECT_TRUE(contentOf(u"a.svg"_s).contains("No. 3"));
 }
 
 // The label has a text and a barcode.
@@ -325,18 +318,17 @@ TEST_F(OutputTest, ExportToGlabelsShowsWhatBecameOfTheItems)
     dialogs.expect([this](QDialog& dialog) {
         auto& exporting = dynamic_cast<ExportDialog&>(dialog);
         exporting.setTarget(exporting::Target::Glabels);
-        exporting.setFileName(path(QStringLiteral("a.glabels")));
+        exporting.setFileName(path(u"a.glabels"_s));
         exporting.accept();
     });
     dialogs.expectButton(QMessageBox::Ok);
     EXPECT_EQ(exportLabel(label, 0, Prompts(&window), &window),
-              QStringLiteral("Written: ") + path(QStringLiteral("a.glabels")));
+              u"Written: "_s + path(u"a.glabels"_s));
     ASSERT_TRUE(dialogs.isDone());
     const QString shown = dialogs.texts().join(QLatin1Char('\n'));
-    EXPECT_TRUE(
-        shown.contains(QStringLiteral("Ellipse: became a picture. gLabels has no dashed lines.")))
+    EXPECT_TRUE(shown.contains(u"Ellipse: became a picture. gLabels has no dashed lines."_s))
         << shown.toStdString();
-    EXPECT_TRUE(shown.contains(QStringLiteral(": exact"))) << shown.toStdString();
+    EXPECT_TRUE(shown.contains(u": exact"_s)) << shown.toStdString();
 }
 
 TEST_F(OutputTest, AfterASeriesTheLabelShowsItsRecordAgain)
@@ -346,14 +338,12 @@ TEST_F(OutputTest, AfterASeriesTheLabelShowsItsRecordAgain)
     dialogs.expect([this](QDialog& dialog) {
         auto& exporting = dynamic_cast<ExportDialog&>(dialog);
         exporting.setTarget(exporting::Target::Pdf);
-        exporting.setFileName(path(QStringLiteral("a.pdf")));
+        exporting.setFileName(path(u"a.pdf"_s));
         exporting.records().chooseRun(1, 5);
         exporting.accept();
     });
     EXPECT_FALSE(exportLabel(label, 1, Prompts(&window), &window).isEmpty());
-    ASSERT_EQ(
-        writeOutput(label, orderOf(exporting::Target::Svg, QStringLiteral("x.svg"), {1, 1}), goOn)
-            .files,
-        1);
-    EXPECT_TRUE(contentOf(QStringLiteral("x.svg")).contains("No. 2"));
+    ASSERT_EQ(writeOutput(label, orderOf(exporting::Target::Svg, u"x.svg"_s, {1, 1}), goOn).files,
+              1);
+    EXPECT_TRUE(contentOf(u"x.svg"_s).contains("No. 2"));
 }

@@ -10,6 +10,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -59,9 +61,9 @@ TEST(RulerScale, TheFirstLabelOfThePageIsAtItsEdge)
 
     ASSERT_EQ(ticks.size(), 4);
     EXPECT_DOUBLE_EQ(ticks.at(0).pixel, 40.0);
-    EXPECT_EQ(ticks.at(0).label, QStringLiteral("0"));
+    EXPECT_EQ(ticks.at(0).label, u"0"_s);
     EXPECT_DOUBLE_EQ(ticks.at(3).pixel, 40.0 + 3 * 96.0);
-    EXPECT_EQ(ticks.at(3).label, QStringLiteral("3"));
+    EXPECT_EQ(ticks.at(3).label, u"3"_s);
 }
 
 TEST(RulerScale, LeftOfThePageNumbersAreNegative)
@@ -110,11 +112,10 @@ TEST(RulerScale, ImpossibleScalesHaveNoTicks)
 
 TEST(LengthUnit, LengthsAreShownInTheUnitAndTheLocale)
 {
-    EXPECT_EQ(lengthText(72.0, LengthUnit::Inch),
-              QLocale().toString(1.0, 'f', 3) + QStringLiteral(" in"));
+    EXPECT_EQ(lengthText(72.0, LengthUnit::Inch), QLocale().toString(1.0, 'f', 3) + u" in"_s);
     EXPECT_EQ(lengthText(72.0, LengthUnit::Millimeter),
-              QLocale().toString(25.4, 'f', 2) + QStringLiteral(" mm"));
-    EXPECT_EQ(areaText(144.0, 72.0, LengthUnit::Inch),
-              QLocale().toString(2.0, 'f', 3) + QStringLiteral(" × ") +
-                  QLocale().toString(1.0, 'f', 3) + QStringLiteral(" in"));
+              QLocale().toString(25.4, 'f', 2) + u" mm"_s);
+    EXPECT_EQ(areaText(144.0, 72.0, LengthUnit::Inch), QLocale().toString(2.0, 'f', 3) + u" × "_s +
+                                                           QLocale().toString(1.0, 'f', 3) +
+                                                           u" in"_s);
 }

@@ -16,6 +16,8 @@
 #include <QSet>
 #include <QTableView>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace window;
 
 namespace {
@@ -43,7 +45,7 @@ protected:
         barcode.box.size = QSizeF(120.0, 36.0);
         barcode.barcode = workbench::BarcodeValues();
         barcode.barcode->symbology = 13;
-        barcode.barcode->content = QStringLiteral("not digits");
+        barcode.barcode->content = u"not digits"_s;
         label.canvas->addItem(barcode);
         ASSERT_EQ(writeLabel(label, fileName), QString());
     }
@@ -69,7 +71,7 @@ TEST_F(ScreensTest, Empty)
     MainWindow window;
     window.resize(1240, 800);
     window.show();
-    keepPicture(window, QStringLiteral("empty"));
+    keepPicture(window, u"empty"_s);
     EXPECT_GT(colorsOf(window), 10);
 }
 
@@ -78,7 +80,7 @@ TEST_F(ScreensTest, WithALabel)
     MainWindow window;
     openSample(window, "orvanta/parcel_label.qmtx");
     window.panels().items().selectItem(2);
-    keepPicture(window, QStringLiteral("label"));
+    keepPicture(window, u"label"_s);
     EXPECT_GT(colorsOf(window.view()), 10);
 }
 
@@ -104,23 +106,23 @@ TEST_F(ScreensTest, Dark)
     MainWindow window;
     openSample(window, "orvanta/parcel_label.qmtx");
     window.panels().items().selectItem(2);
-    keepPicture(window, QStringLiteral("dark"));
+    keepPicture(window, u"dark"_s);
     EXPECT_LT(window.grab().toImage().pixelColor(3, 3).lightness(), 80);
 }
 
 TEST_F(ScreensTest, Issues)
 {
-    saveBadBarcode(path(QStringLiteral("bad.label")));
+    saveBadBarcode(path(u"bad.label"_s));
     MainWindow window;
     window.resize(1240, 800);
     window.show();
-    ASSERT_TRUE(window.openFile(path(QStringLiteral("bad.label"))));
+    ASSERT_TRUE(window.openFile(path(u"bad.label"_s)));
     window.action(ActionId::GoIssues).trigger();
-    keepPicture(window, QStringLiteral("issues"));
+    keepPicture(window, u"issues"_s);
     EXPECT_EQ(window.panels().issues().issues().size(), 1);
-    ASSERT_TRUE(window.openFile(sample(QStringLiteral("opendocument/cable_markers.odg"))));
+    ASSERT_TRUE(window.openFile(sample(u"opendocument/cable_markers.odg"_s)));
     window.action(ActionId::GoIssues).trigger();
-    keepPicture(window, QStringLiteral("issues_of_a_drawing"));
+    keepPicture(window, u"issues_of_a_drawing"_s);
     EXPECT_GE(window.panels().issues().issues().size(), 1);
 }
 
@@ -131,18 +133,18 @@ TEST_F(ScreensTest, SmallWindowZoomedInInches)
     window.resize(900, 600);
     window.action(ActionId::Inches).trigger();
     window.view().setZoom(4.0);
-    keepPicture(window, QStringLiteral("zoomed"));
+    keepPicture(window, u"zoomed"_s);
     EXPECT_GT(colorsOf(window.view()), 2);
 }
 
 TEST_F(ScreensTest, ExportDialogs)
 {
-    ExportDialog dialog(path(QStringLiteral("shelf")), 50, 6, nullptr);
+    ExportDialog dialog(path(u"shelf"_s), 50, 6, nullptr);
     dialog.show();
-    keepPicture(dialog, QStringLiteral("export"));
+    keepPicture(dialog, u"export"_s);
     dialog.setTarget(exporting::Target::Svg);
     dialog.records().chooseRun(1, 50);
-    keepPicture(dialog, QStringLiteral("export_series"));
+    keepPicture(dialog, u"export_series"_s);
     EXPECT_GT(colorsOf(dialog), 4);
 }
 
@@ -151,7 +153,7 @@ TEST_F(ScreensTest, Shortcuts)
     const Actions actions;
     ShortcutsDialog dialog(actions.shortcuts(), nullptr);
     dialog.show();
-    keepPicture(dialog, QStringLiteral("shortcuts"));
+    keepPicture(dialog, u"shortcuts"_s);
     EXPECT_GT(colorsOf(dialog), 4);
 }
 
@@ -161,16 +163,15 @@ TEST_F(ScreensTest, Questions)
     QWidget window;
     const Prompts prompts(&window);
     dialogs.expect([](QDialog& dialog) {
-        keepPicture(dialog, QStringLiteral("question"));
+        keepPicture(dialog, u"question"_s);
         dialog.reject();
     });
-    EXPECT_EQ(prompts.askUnsavedChanges(QStringLiteral("shelf.label"), true),
-              Prompts::Changes::Cancel);
+    EXPECT_EQ(prompts.askUnsavedChanges(u"shelf.label"_s, true), Prompts::Changes::Cancel);
     dialogs.expect([](QDialog& dialog) {
-        keepPicture(dialog, QStringLiteral("error"));
+        keepPicture(dialog, u"error"_s);
         dialog.accept();
     });
-    prompts.showError(QStringLiteral("“shelf.label” could not be opened."),
-                      QStringLiteral("The file was saved by a newer version of LabelPort. "
-                                     "Install that version, or ask for a copy in an older one."));
+    prompts.showError(u"“shelf.label” could not be opened."_s,
+                      u"The file was saved by a newer version of LabelPort. "
+                      "Install that version, or ask for a copy in an older one."_s);
 }

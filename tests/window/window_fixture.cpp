@@ -4,6 +4,8 @@
 
 #include <QApplication>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using workbench::ItemValues;
@@ -30,7 +32,7 @@ ItemValues countedText(int source)
     values.font->pointSize = 14;
     values.font->sized = true;
     values.textStyle = workbench::TextStyleValues();
-    values.text = workbench::TextValues{QStringLiteral("Own text"), {}};
+    values.text = workbench::TextValues{u"Own text"_s, {}};
     values.textLabel = workbench::TextLabelValues();
     values.textLabel->textBox = values.box.size;
     values.datasource = workbench::DatasourceValues{source, {}};
@@ -50,12 +52,12 @@ ItemValues lockedLine()
 
 int makeCounter(workbench::datasources::DatasourceController& sources)
 {
-    const int id = sources.createDatasource(QStringLiteral("SequenceDatasource"));
+    const int id = sources.createDatasource(u"SequenceDatasource"_s);
     TalDatasource* counter = sources.getDatasource(id);
-    counter->setDatasourceProperty(QStringLiteral("Prefix"), QStringLiteral("No. "));
-    counter->setDatasourceProperty(QStringLiteral("Start"), 1);
-    counter->setDatasourceProperty(QStringLiteral("End"), 5);
-    counter->setDatasourceProperty(QStringLiteral("Step"), 1);
+    counter->setDatasourceProperty(u"Prefix"_s, u"No. "_s);
+    counter->setDatasourceProperty(u"Start"_s, 1);
+    counter->setDatasourceProperty(u"End"_s, 5);
+    counter->setDatasourceProperty(u"Step"_s, 1);
     return id;
 }
 
@@ -72,7 +74,7 @@ window::OpenLabel makeLabel()
     label.canvas->addItem(lockedLine());
     label.canvas->completeCanvasLoading();
     window::showRecord(label, 0);
-    label.suggestedName = QStringLiteral("made.label");
+    label.suggestedName = u"made.label"_s;
     return label;
 }
 
@@ -90,6 +92,6 @@ void keepPicture(QWidget& widget, const QString& name)
 void keepImage(const QImage& image, const QString& name)
 {
     const QDir folder(QStringLiteral(LABELPORT_PICTURES));
-    ASSERT_TRUE(folder.mkpath(QStringLiteral(".")));
-    ASSERT_TRUE(image.save(folder.filePath(name + QStringLiteral(".png"))));
+    ASSERT_TRUE(folder.mkpath(u"."_s));
+    ASSERT_TRUE(image.save(folder.filePath(name + u".png"_s)));
 }

@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Milliseconds; far more than an import takes.
 inline constexpr int ImportTimeout = 120'000;
 
@@ -26,7 +28,7 @@ protected:
     {
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
-                           m_folder.filePath(QStringLiteral("settings")));
+                           m_folder.filePath(u"settings"_s));
         window::ImportProcess::setProgram(QStringLiteral(LABELPORT_PROGRAM));
         // On a slow machine, a dialog would confuse tests that expect others.
         window::ImportProcess::setDialogDelay(600'000);

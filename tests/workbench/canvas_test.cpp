@@ -9,6 +9,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::Canvas;
 using workbench::CanvasItem;
 
@@ -192,23 +194,23 @@ TEST(Canvas, ShowsARecordOnBoundItemsOnly)
     Painted page;
     auto& bound = page.make<TextItem>(KestTypes::RichText);
     bound.setItemSize(QSizeF(80.0, 30.0));
-    bound.setText(QStringLiteral("own"));
+    bound.setText(u"own"_s);
     bound.setDatasourceId(3);
-    bound.setDatasourceFields({QStringLiteral("Value")});
+    bound.setDatasourceFields({u"Value"_s});
     auto& unbound = page.make<TextItem>(KestTypes::RichText);
     unbound.setItemSize(QSizeF(80.0, 30.0));
     unbound.setPos(100.0, 0.0);
-    unbound.setText(QStringLiteral("own"));
+    unbound.setText(u"own"_s);
     const QImage before = page.image();
 
     QStringList asked;
     page.canvas.showRecord(7, [&asked](int id, qint64 record, const QStringList& fields) {
-        asked << QStringLiteral("%1/%2/%3").arg(id).arg(record).arg(fields.join(QLatin1Char(',')));
-        return std::optional<QString>(QStringLiteral("seven"));
+        asked << u"%1/%2/%3"_s.arg(id).arg(record).arg(fields.join(QLatin1Char(',')));
+        return std::optional<QString>(u"seven"_s);
     });
     const QImage shown = page.image();
 
-    EXPECT_EQ(asked, QStringList{QStringLiteral("3/7/Value")});
+    EXPECT_EQ(asked, QStringList{u"3/7/Value"_s});
     EXPECT_NE(shown.copy(0, 0, 100, 100), before.copy(0, 0, 100, 100));
     EXPECT_EQ(shown.copy(100, 0, 100, 100), before.copy(100, 0, 100, 100));
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::compactImage;
 
 namespace {
@@ -95,11 +97,11 @@ TEST(CompactImage, KeepsResolutionAndTexts)
         QImage image = pictureOf(colors, false);
         image.setDotsPerMeterX(11811);
         image.setDotsPerMeterY(5906);
-        image.setText(QStringLiteral("Software"), QStringLiteral("a program"));
+        image.setText(u"Software"_s, u"a program"_s);
         const QImage compact = compactImage(image);
         EXPECT_EQ(compact.dotsPerMeterX(), 11811);
         EXPECT_EQ(compact.dotsPerMeterY(), 5906);
-        EXPECT_EQ(compact.text(QStringLiteral("Software")), QStringLiteral("a program"));
+        EXPECT_EQ(compact.text(u"Software"_s), u"a program"_s);
     }
 }
 

@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::fileAccessError;
 using workbench::ImportIssue;
 using workbench::importLabel;
@@ -22,7 +24,7 @@ using workbench::ImportResult;
 
 namespace {
 
-const char kLabel[] = R"(<qmtx>
+const char QmtxLabel[] = R"(<qmtx>
   <controls>
     <transparent_shape>
       <printable_control>
@@ -90,9 +92,9 @@ QByteArray packageWithManifest(const QByteArray& manifest)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QZipWriter package(&buffer);
-    package.addFile(QStringLiteral("META-INF/manifest.xml"), manifest);
-    package.addFile(QStringLiteral("styles.xml"), QByteArrayLiteral("\x8f\x02\xe1 not XML"));
-    package.addFile(QStringLiteral("content.xml"), QByteArrayLiteral("\x8f\x02\xe1 not XML"));
+    package.addFile(u"META-INF/manifest.xml"_s, manifest);
+    package.addFile(u"styles.xml"_s, QByteArrayLiteral("\x8f\x02\xe1 not XML"));
+    package.addFile(u"content.xml"_s, QByteArrayLiteral("\x8f\x02\xe1 not XML"));
     package.close();
     return bytes;
 }
@@ -113,13 +115,13 @@ TEST(LabelImport, SaysThatADocumentIsProtectedByAPassword)
     const QString damaged =
         folder.write("damaged.odt", packageWithManifest("<manifest:manifest/>"));
     EXPECT_FALSE(importLabel(damaged).error.isEmpty());
-    EXPECT_FALSE(importLabel(damaged).error.contains(QStringLiteral("password")));
+    EXPECT_FALSE(importLabel(damaged).error.contains(u"password"_s));
 }
 
 TEST(Import, BringsTheItemsOfAFileOntoACanvas)
 {
     const Folder folder;
-    const ImportResult result = importLabel(folder.write("shelf.qmtx", kLabel));
+    const ImportResult result = importLabel(folder.write("shelf.qmtx", QmtxLabel));
 
     ASSERT_TRUE(result.isImported()) << qPrintable(result.error);
     EXPECT_EQ(result.error, QString());
@@ -164,28 +166,27 @@ TEST(Import, SavesTheSameBytesEachTime)
 TEST(Import, BindsListsAndShowsTheirFirstRecord)
 {
     const Folder folder;
-    const ImportResult result = importLabel(folder.write("shelf.qmtx", kLabel));
+    const ImportResult result = importLabel(folder.write("shelf.qmtx", QmtxLabel));
 
     ASSERT_TRUE(result.isImported());
     const workbench::DatasourceValues source = result.canvas->items().at(1)->datasource();
-    EXPECT_EQ(result.datasources->recordText(source.id, 0), QStringLiteral("first"));
-    EXPECT_EQ(result.datasources->recordText(source.id, 1), QStringLiteral("second"));
+    EXPECT_EQ(result.datasources->recordText(source.id, 0), u"first"_s);
+    EXPECT_EQ(result.datasources->recordText(source.id, 1), u"second"_s);
 }
 
 TEST(Import, ReportsOmittedItems)
 {
     const Folder folder;
-    const ImportResult result = importLabel(folder.write("shelf.qmtx", kLabel));
-    EXPECT_EQ(textsOf(result.issues),
-              QStringList{QStringLiteral("Left out an object of the unknown type "
-                                         "\"teapot\".")});
+    const ImportResult result = importLabel(folder.write("shelf.qmtx", QmtxLabel));
+    EXPECT_EQ(textsOf(result.issues), QStringList{u"Left out an object of the unknown type "
+                                                  "\"teapot\"."_s});
     EXPECT_FALSE(result.log.isEmpty());
 }
 
 TEST(Import, OpensNoWindow)
 {
     const Folder folder;
-    (void)importLabel(folder.write("shelf.qmtx", kLabel));
+    (void)importLabel(folder.write("shelf.qmtx", QmtxLabel));
     (void)importLabel(folder.write("bad.cnv", "no label"));
     for (const QWidget* widget : QApplication::topLevelWidgets()) {
         EXPECT_FALSE(widget->isVisible());
@@ -195,11 +196,11 @@ TEST(Import, OpensNoWindow)
 TEST(Import, SaysWhyAFileCannotBeRead)
 {
     const Folder folder;
-    EXPECT_EQ(errorOf(QString()), QStringLiteral("No file was named."));
-    EXPECT_EQ(errorOf(folder.path("none.cnv")), QStringLiteral("The file does not exist."));
-    EXPECT_EQ(errorOf(folder.path("")), QStringLiteral("This is a folder, not a file."));
-    EXPECT_EQ(errorOf(folder.write("empty.odg", "")), QStringLiteral("The file is empty."));
-    EXPECT_EQ(errorOf(QStringLiteral("/dev/null")), QStringLiteral("This is not a regular file."));
+    EXPECT_EQ(errorOf(QString()), u"No file was named."_s);
+    EXPECT_EQ(errorOf(folder.path("none.cnv")), u"The file does not exist."_s);
+    EXPECT_EQ(errorOf(folder.path("")), u"This is a folder, not a file."_s);
+    EXPECT_EQ(errorOf(folder.write("empty.odg", "")), u"The file is empty."_s);
+    EXPECT_EQ(errorOf(u"/dev/null"_s), u"This is not a regular file."_s);
 }
 
 TEST(Import, SaysWhyAFileIsNotALabel)
@@ -227,23 +228,23 @@ TEST(Import, NamesTheReaderThatTheContentNeeds)
         return importLabel(path).error;
     };
     const QString package = errorOf("shelf.odg.cnv", "PK\x03\x04 and so on");
-    EXPECT_TRUE(package.startsWith(QStringLiteral("The file is a zip package")));
-    EXPECT_TRUE(package.contains(QStringLiteral("--reader opendocument")));
+    EXPECT_TRUE(package.startsWith(u"The file is a zip package"_s));
+    EXPECT_TRUE(package.contains(u"--reader opendocument"_s));
     const QString xml = errorOf("shelf.odt", "\xEF\xBB\xBF <qmtx/>");
-    EXPECT_TRUE(xml.startsWith(QStringLiteral("The file is XML")));
-    EXPECT_TRUE(xml.contains(QStringLiteral("--reader orvanta")));
-    EXPECT_TRUE(errorOf("shelf.old.odg", "PK\x03\x04 and so on")
-                    .startsWith(QStringLiteral("Not an OpenDocument file")))
+    EXPECT_TRUE(xml.startsWith(u"The file is XML"_s));
+    EXPECT_TRUE(xml.contains(u"--reader orvanta"_s));
+    EXPECT_TRUE(
+        errorOf("shelf.old.odg", "PK\x03\x04 and so on").startsWith(u"Not an OpenDocument file"_s))
         << "the last suffix selects the reader";
     EXPECT_TRUE(errorOf("shelf.cnv", QByteArray("\0\0\0\1\0\0\0\1", 8))
-                    .startsWith(QStringLiteral("Not a binary label")));
+                    .startsWith(u"Not a binary label"_s));
 }
 
 TEST(Import, OneFileSaysNothingOfTheOneBefore)
 {
     const Folder folder;
     (void)importLabel(folder.write("bad.qmtx", "<html/>"));
-    const ImportResult result = importLabel(folder.write("shelf.qmtx", kLabel));
+    const ImportResult result = importLabel(folder.write("shelf.qmtx", QmtxLabel));
     EXPECT_TRUE(result.isImported());
     EXPECT_EQ(result.issues.size(), 1);
 }

@@ -14,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::argumentsOf;
 using workbench::collectIssues;
 using workbench::importFailureReason;
@@ -37,12 +39,12 @@ QStringList issueTexts(const QList<ImportIssue>& issues)
 
 LogRecord debugRecord(const char* message)
 {
-    return {false, QStringLiteral("x"), QString::fromLatin1(message)};
+    return {false, u"x"_s, QString::fromLatin1(message)};
 }
 
 LogRecord refusal(const char* code)
 {
-    return {false, QStringLiteral("x"), QStringLiteral("some words"), QString::fromLatin1(code)};
+    return {false, u"x"_s, u"some words"_s, QString::fromLatin1(code)};
 }
 
 struct FailureRow
@@ -83,27 +85,27 @@ TEST(FailureText, ExplainTheMessagesOfTheReaders)
 TEST(FailureText, ExplainARefusalByItsCodeWhateverItsMessage)
 {
     EXPECT_EQ(importFailureReason({refusal(refusals::FileTooLarge)}, {}),
-              QStringLiteral("The file is too large for a label."));
+              u"The file is too large for a label."_s);
     EXPECT_EQ(importFailureReason({refusal(refusals::TooManyControls)}, {}),
-              QStringLiteral("The file has too many objects for a label."));
+              u"The file has too many objects for a label."_s);
 }
 
 TEST(FailureText, FallBackToTheMessageBoxThenToTheLogThenToNothingReadable)
 {
-    const LogRecord error{true, QStringLiteral("x"), QStringLiteral("Something went wrong")};
-    const QString box = QStringLiteral("Errors reading items.");
+    const LogRecord error{true, u"x"_s, u"Something went wrong"_s};
+    const QString box = u"Errors reading items."_s;
     EXPECT_EQ(importFailureReason({error}, {box}), box);
     EXPECT_EQ(importFailureReason({error, debugRecord("later")}, {}), error.message);
     EXPECT_EQ(importFailureReason({debugRecord("some debugging")}, {}),
-              QStringLiteral("The file contains nothing to put on a label."));
+              u"The file contains nothing to put on a label."_s);
 }
 
 TEST(FailureText, ContentOfAFileIsNotTakenForAPlaceholder)
 {
     EXPECT_EQ(
         importFailureReason({debugRecord("Error parsing file: x at line 1, column 2:\n%1 %2")}, {}),
-        QStringLiteral("Not a label, or a damaged one: the XML is not well-formed at line 1, "
-                       "column 2 (%1 %2)."));
+        u"Not a label, or a damaged one: the XML is not well-formed at line 1, "
+        "column 2 (%1 %2)."_s);
 }
 
 TEST(KnownMessages, AreRecognizedByTheirFormat)
@@ -138,19 +140,19 @@ TEST(KnownMessages, OtherRecordsHaveNoCode)
 TEST(IssueText, TakeTheTextOfABoxApart)
 {
     const workbench::Canvas canvas;
-    const QList<ImportIssue> issues = collectIssues(
-        canvas, {},
-        {QStringLiteral("Errors reading symbol items.\nPlease update legacy Tavrel to its latest "
-                        "version and re-save file.\nUnsupported barcode symbols.\n\"Net\":\n\t"
-                        "Original font size: 6.\nDatasource not connected.\nSomething else.")});
+    const QList<ImportIssue> issues =
+        collectIssues(canvas, {},
+                      {u"Errors reading symbol items.\nPlease update legacy Tavrel to its latest "
+                       "version and re-save file.\nUnsupported barcode symbols.\n\"Net\":\n\t"
+                       "Original font size: 6.\nDatasource not connected.\nSomething else."_s});
     EXPECT_EQ(issueTexts(issues),
-              QStringList({QStringLiteral("Left out symbols: neither the file nor the symbol "
-                                          "databases contain their drawings."),
-                           QStringLiteral("Left out barcodes of unsupported types."),
-                           QStringLiteral("Text \"Net\" was stretched; its font size was 6 pt."),
-                           QStringLiteral("The database is no longer connected; the label shows "
-                                          "its last values."),
-                           QStringLiteral("Something else.")}));
+              QStringList({u"Left out symbols: neither the file nor the symbol "
+                           "databases contain their drawings."_s,
+                           u"Left out barcodes of unsupported types."_s,
+                           u"Text \"Net\" was stretched; its font size was 6 pt."_s,
+                           u"The database is no longer connected; the label shows "
+                           "its last values."_s,
+                           u"Something else."_s}));
     EXPECT_EQ(issues.at(1).code, QLatin1String(messages::BarcodesUnsupported.text));
     EXPECT_EQ(issues.at(2).code, QLatin1String(messages::TextStretched.text));
     EXPECT_EQ(issues.at(4).code, QString());
@@ -159,12 +161,11 @@ TEST(IssueText, TakeTheTextOfABoxApart)
 TEST(IssueText, PointToTheItemThatANoteQuotes)
 {
     Painted page;
-    page.make<TextItem>(KestTypes::SimpleText).setText(QStringLiteral("other"));
-    page.make<TextItem>(KestTypes::SimpleText).setText(QStringLiteral("Net  \nweight"));
-    const QList<ImportIssue> issues =
-        collectIssues(page.canvas, {},
-                      {QStringLiteral("\"Net weight\":\n\tOriginal font size: 6.\n"
-                                      "\"gone\":\n\tOriginal font size: 7.")});
+    page.make<TextItem>(KestTypes::SimpleText).setText(u"other"_s);
+    page.make<TextItem>(KestTypes::SimpleText).setText(u"Net  \nweight"_s);
+    const QList<ImportIssue> issues = collectIssues(page.canvas, {},
+                                                    {u"\"Net weight\":\n\tOriginal font size: 6.\n"
+                                                     "\"gone\":\n\tOriginal font size: 7."_s});
     ASSERT_EQ(issues.size(), 2);
     EXPECT_EQ(issues.at(0).item, 1);
     EXPECT_EQ(issues.at(1).item, -1);
@@ -186,20 +187,19 @@ TEST(IssueText, CountWhatIsMetAgain)
 TEST(IssueText, ShowErrorsOfTheLogAndExplainThoseThatAreKnown)
 {
     const workbench::Canvas canvas;
-    const QList<ImportIssue> issues =
-        collectIssues(canvas,
-                      {{true, {}, QStringLiteral("Something went wrong")},
-                       {true, {}, QStringLiteral("Invalid type: -7")},
-                       debugRecord("Unsupported document type."),
-                       refusal(refusals::PictureTooLarge)},
-                      {});
+    const QList<ImportIssue> issues = collectIssues(canvas,
+                                                    {{true, {}, u"Something went wrong"_s},
+                                                     {true, {}, u"Invalid type: -7"_s},
+                                                     debugRecord("Unsupported document type."),
+                                                     refusal(refusals::PictureTooLarge)},
+                                                    {});
     EXPECT_EQ(issueTexts(issues),
-              QStringList({QStringLiteral("Something went wrong"),
-                           QStringLiteral("The file continues with an object of the unknown type "
-                                          "-7; the rest was not read."),
-                           QStringLiteral("The document is neither a text nor a drawing; nothing "
-                                          "was imported from it."),
-                           QStringLiteral("Left out a picture that is too large.")}));
+              QStringList({u"Something went wrong"_s,
+                           u"The file continues with an object of the unknown type "
+                           "-7; the rest was not read."_s,
+                           u"The document is neither a text nor a drawing; nothing "
+                           "was imported from it."_s,
+                           u"Left out a picture that is too large."_s}));
 }
 
 TEST(IssueText, ExplainEveryObjectThatAReaderRefuses)
@@ -212,7 +212,7 @@ TEST(IssueText, ExplainEveryObjectThatAReaderRefuses)
           refusals::PackagePictureUnreadable, refusals::PackageDrawingUnreadable}) {
         const QList<ImportIssue> issues = collectIssues(canvas, {refusal(code)}, {});
         ASSERT_EQ(issues.size(), 1) << code;
-        EXPECT_NE(issues.at(0).text, QStringLiteral("some words")) << code;
+        EXPECT_NE(issues.at(0).text, u"some words"_s) << code;
         EXPECT_EQ(issues.at(0).code, QLatin1String(code));
     }
 }
@@ -227,8 +227,7 @@ TEST(ImportLog, CollectsOnlyWhileItLives)
         log(Logger::Debug, "one");
         log(Logger::Error, "two");
         EXPECT_EQ(collected.records(),
-                  QList<LogRecord>({{false, QStringLiteral("x"), QStringLiteral("one")},
-                                    {true, QStringLiteral("x"), QStringLiteral("two")}}));
+                  QList<LogRecord>({{false, u"x"_s, u"one"_s}, {true, u"x"_s, u"two"_s}}));
     }
     log(Logger::Debug, "three"); // not collected
     const workbench::ImportLog later;

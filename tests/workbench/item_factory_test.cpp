@@ -27,9 +27,10 @@ bool hasAll(Item* item)
     return (... && (dynamic_cast<Faces*>(item) != nullptr));
 }
 
-constexpr Test kFillable = hasAll<QGraphicsItem, QObject, ISizeItem, IBasicItem, ITemplateLockItem,
-                                  IColorItem, PenItem, FillColorItem, IBrushItem, FillableItem>;
-constexpr Test kText =
+constexpr Test FillableFacets =
+    hasAll<QGraphicsItem, QObject, ISizeItem, IBasicItem, ITemplateLockItem, IColorItem, PenItem,
+           FillColorItem, IBrushItem, FillableItem>;
+constexpr Test TextFacets =
     hasAll<QGraphicsTextItem, TextItem, PenItem, FillColorItem, IBrushItem, TextColorItem,
            ITextGenericItem, IFontItem, ITextAlignItem, IDatasourceItem>;
 
@@ -40,30 +41,31 @@ struct Row
     Test faces;
 };
 
-const Row kRows[] = {
+const Row FacetRows[] = {
     {KestTypes::Picture, hasAll<PixMapItem>,
      hasAll<QGraphicsPixmapItem, QObject, ISizeItem, ImageableItem, ResizeRotatedHelper,
             IGraphicItem, IDatasourceItem>},
     {KestTypes::Symbol, hasAll<SymbolItem>,
      hasAll<QGraphicsSvgItem, ISizeItem, IColorItem, ResizeRotatedHelper, FillColorItem,
             IDatasourceItem>},
-    {KestTypes::SimpleText, hasAll<SimpleTextItem, ITextLabelItem, ResizeRotatedHelper>, kText},
-    {KestTypes::RichText, hasAll<RichTextItem, IRichTextItem>, kText},
+    {KestTypes::SimpleText, hasAll<SimpleTextItem, ITextLabelItem, ResizeRotatedHelper>,
+     TextFacets},
+    {KestTypes::RichText, hasAll<RichTextItem, IRichTextItem>, TextFacets},
     {KestTypes::Barcode, hasAll<BarcodeItem>,
      hasAll<QGraphicsItem, QObject, ISizeItem, FillColorItem, TextColorItem, IFontItem,
             ITextAlignItem, IBarcodeItem, IDatasourceItem>},
     {KestTypes::Line, hasAll<LineItem, ILineItem>,
      hasAll<QGraphicsLineItem, ISizeItem, IColorItem, PenItem, ContouredItem>},
-    {KestTypes::Rectangle, hasAll<RectangleItem, QGraphicsRectItem>, kFillable},
-    {KestTypes::RoundedRectangle, hasAll<RoundedRectangleItem, IRoundRectItem>, kFillable},
-    {KestTypes::Ellipse, hasAll<EllipseItem, QGraphicsEllipseItem>, kFillable},
-    {KestTypes::Pie, hasAll<PieItem, IPieItem>, kFillable},
-    {KestTypes::RightTriangle, hasAll<PolygonItem, QGraphicsPolygonItem>, kFillable},
-    {KestTypes::Triangle, hasAll<PolygonItem>, kFillable},
-    {KestTypes::Diamond, hasAll<PolygonItem>, kFillable},
-    {KestTypes::Pentagon, hasAll<PolygonItem>, kFillable},
-    {KestTypes::Hexagon, hasAll<PolygonItem>, kFillable},
-    {KestTypes::Octagon, hasAll<PolygonItem>, kFillable},
+    {KestTypes::Rectangle, hasAll<RectangleItem, QGraphicsRectItem>, FillableFacets},
+    {KestTypes::RoundedRectangle, hasAll<RoundedRectangleItem, IRoundRectItem>, FillableFacets},
+    {KestTypes::Ellipse, hasAll<EllipseItem, QGraphicsEllipseItem>, FillableFacets},
+    {KestTypes::Pie, hasAll<PieItem, IPieItem>, FillableFacets},
+    {KestTypes::RightTriangle, hasAll<PolygonItem, QGraphicsPolygonItem>, FillableFacets},
+    {KestTypes::Triangle, hasAll<PolygonItem>, FillableFacets},
+    {KestTypes::Diamond, hasAll<PolygonItem>, FillableFacets},
+    {KestTypes::Pentagon, hasAll<PolygonItem>, FillableFacets},
+    {KestTypes::Hexagon, hasAll<PolygonItem>, FillableFacets},
+    {KestTypes::Octagon, hasAll<PolygonItem>, FillableFacets},
 };
 
 } // namespace
@@ -71,7 +73,7 @@ const Row kRows[] = {
 TEST(ItemFactory, EveryCodeGivesAnItemOfItsClassWithAllItsFacets)
 {
     workbench::Canvas canvas;
-    for (const Row& row : kRows) {
+    for (const Row& row : FacetRows) {
         SCOPED_TRACE(row.type);
         const std::unique_ptr<Item> item(canvas.getClassFactory()->create(row.type));
         ASSERT_NE(item, nullptr);
@@ -113,7 +115,7 @@ TEST(ItemFactory, NewItemsHaveTheColorOfThePrint)
 TEST(ItemFactory, NewItemsHaveNoSizeAndCanBeMoved)
 {
     workbench::Canvas canvas;
-    for (const Row& row : kRows) {
+    for (const Row& row : FacetRows) {
         SCOPED_TRACE(row.type);
         const std::unique_ptr<Item> item(canvas.getClassFactory()->create(row.type));
         EXPECT_EQ(item->getItemSize(), QSizeF(0.0, 0.0));

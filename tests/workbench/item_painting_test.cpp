@@ -14,7 +14,7 @@
 
 namespace {
 
-const QColor kFill(0, 160, 0);
+const QColor GreenFill(0, 160, 0);
 
 // A shape of 60 by 40 points at (20, 20), green, without an outline.
 FillableItem& putShape(Painted& page, KestTypes::ShapeType type)
@@ -23,7 +23,7 @@ FillableItem& putShape(Painted& page, KestTypes::ShapeType type)
     item.setItemSize(QSizeF(60.0, 40.0));
     dynamic_cast<QGraphicsItem&>(item).setPos(20.0, 20.0);
     item.setPenStyle(Qt::NoPen);
-    item.setFillColor(kFill);
+    item.setFillColor(GreenFill);
     return item;
 }
 
@@ -35,7 +35,7 @@ struct ShapeRow
 };
 
 // Points of the page; the box extends from (20, 20) to (80, 60).
-const ShapeRow kShapes[] = {
+const ShapeRow PaintedShapes[] = {
     {KestTypes::Rectangle, {{21, 21}, {78, 58}, {50, 40}}, {{18, 40}, {82, 40}, {50, 62}}},
     {KestTypes::RoundedRectangle, {{50, 21}, {21, 40}, {50, 40}}, {{20, 20}, {79, 59}}},
     {KestTypes::Ellipse, {{50, 21}, {22, 40}, {50, 40}}, {{22, 22}, {77, 57}}},
@@ -69,13 +69,13 @@ QByteArray svg(const char* content)
 
 TEST(ShapePainting, EachShapeCoversWhatItsNameSays)
 {
-    for (const ShapeRow& row : kShapes) {
+    for (const ShapeRow& row : PaintedShapes) {
         SCOPED_TRACE(row.type);
         Painted page;
         putShape(page, row.type);
         const QImage image = page.image();
         for (const QPoint& point : row.inside) {
-            EXPECT_EQ(image.pixelColor(point), kFill) << point.x() << ", " << point.y();
+            EXPECT_EQ(image.pixelColor(point), GreenFill) << point.x() << ", " << point.y();
         }
         for (const QPoint& point : row.outside) {
             EXPECT_EQ(image.pixelColor(point), QColor(Qt::white)) << point.x() << ", " << point.y();
@@ -94,7 +94,7 @@ TEST(ShapePainting, TheOutlineIsCenteredOnTheEdge)
 
     EXPECT_EQ(page.at(18, 40), QColor(Qt::red));
     EXPECT_EQ(page.at(21, 40), QColor(Qt::red));
-    EXPECT_EQ(page.at(22, 40), kFill);
+    EXPECT_EQ(page.at(22, 40), GreenFill);
     EXPECT_EQ(page.ink(), QRect(18, 18, 64, 44));
 }
 
@@ -109,14 +109,14 @@ TEST(ShapePainting, InvalidColorsChangeNothing)
     item.setFillColor(QColor());
 
     EXPECT_EQ(page.at(21, 40), QColor(Qt::red));
-    EXPECT_EQ(page.at(50, 40), kFill);
+    EXPECT_EQ(page.at(50, 40), GreenFill);
 }
 
 TEST(ShapePainting, AShapeWithoutASizeIsKeptAndDrawsNothing)
 {
     for (const QSizeF& size :
          {QSizeF(0.0, 40.0), QSizeF(40.0, 0.0), QSizeF(-10.0, 40.0), QSizeF(40.0, -10.0)}) {
-        for (const ShapeRow& row : kShapes) {
+        for (const ShapeRow& row : PaintedShapes) {
             Painted page;
             auto& item = putShape(page, row.type);
             item.setPenStyle(Qt::SolidLine);
@@ -134,7 +134,7 @@ TEST(ShapePainting, AnItemRotatesClockwiseAboutTheCenterOfItsBox)
     item.setItemRotation(90.0);
     // The box is now 40 wide and 60 high about (50, 40); the right angle is upper left.
     EXPECT_EQ(page.ink(), QRect(30, 10, 40, 60));
-    EXPECT_EQ(page.at(32, 12), kFill);
+    EXPECT_EQ(page.at(32, 12), GreenFill);
     EXPECT_EQ(page.at(67, 67), QColor(Qt::white));
 }
 
@@ -163,14 +163,14 @@ TEST(ShapePainting, FlipsMirrorWithinTheBox)
     Painted page;
     auto& item = putShape(page, KestTypes::RightTriangle);
     item.setFlipHorizontal(true);
-    EXPECT_EQ(page.at(77, 57), kFill); // the right angle is lower right
+    EXPECT_EQ(page.at(77, 57), GreenFill); // the right angle is lower right
     EXPECT_EQ(page.at(22, 22), QColor(Qt::white));
     item.setFlipVertical(true);
-    EXPECT_EQ(page.at(77, 22), kFill); // and now upper right
+    EXPECT_EQ(page.at(77, 22), GreenFill); // and now upper right
     EXPECT_EQ(page.at(22, 57), QColor(Qt::white));
     EXPECT_EQ(page.ink(), QRect(20, 20, 60, 40));
     item.setFlipHorizontal(false);
-    EXPECT_EQ(page.at(22, 22), kFill);
+    EXPECT_EQ(page.at(22, 22), GreenFill);
 }
 
 TEST(ShapePainting, TheCornerRadiusRoundsTheCorners)
@@ -178,15 +178,15 @@ TEST(ShapePainting, TheCornerRadiusRoundsTheCorners)
     Painted page;
     auto& item = dynamic_cast<RoundedRectangleItem&>(putShape(page, KestTypes::RoundedRectangle));
     item.setCornerRadius(0.0);
-    EXPECT_EQ(page.at(20, 20), kFill);
+    EXPECT_EQ(page.at(20, 20), GreenFill);
     item.setCornerRadius(10.0);
     EXPECT_EQ(page.at(21, 21), QColor(Qt::white));
-    EXPECT_EQ(page.at(24, 24), kFill);
+    EXPECT_EQ(page.at(24, 24), GreenFill);
     item.setCornerRadius(500.0); // limited to half the shorter side
     EXPECT_EQ(page.at(24, 24), QColor(Qt::white));
-    EXPECT_EQ(page.at(41, 21), kFill);
+    EXPECT_EQ(page.at(41, 21), GreenFill);
     item.setCornerRadius(-5.0);
-    EXPECT_EQ(page.at(20, 20), kFill);
+    EXPECT_EQ(page.at(20, 20), GreenFill);
 }
 
 TEST(ShapePainting, BothWaysToTheSizeOfARoundedRectangleAreOne)
@@ -210,7 +210,7 @@ TEST(ShapePainting, SizesThatNoLabelHasDoNotHang)
     for (const int brush : {1, 2, 9, 11, 14, 15}) {
         for (const int pen : {0, 1, 2, 3}) {
             Painted page;
-            for (const ShapeRow& row : kShapes) {
+            for (const ShapeRow& row : PaintedShapes) {
                 auto& item = putShape(page, row.type);
                 item.setBrushStyle(brush);
                 item.setPenStyle(pen);

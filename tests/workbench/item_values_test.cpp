@@ -18,22 +18,24 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::CanvasItem;
 using workbench::ItemValues;
 
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double InfiniteLength = std::numeric_limits<double>::infinity();
 
-const KestTypes::ShapeType kAllTypes[] = {
+const KestTypes::ShapeType EveryType[] = {
     KestTypes::Picture, KestTypes::Symbol,   KestTypes::SimpleText,    KestTypes::RichText,
     KestTypes::Barcode, KestTypes::Line,     KestTypes::Rectangle,     KestTypes::RoundedRectangle,
     KestTypes::Ellipse, KestTypes::Pie,      KestTypes::RightTriangle, KestTypes::Triangle,
     KestTypes::Diamond, KestTypes::Pentagon, KestTypes::Hexagon,       KestTypes::Octagon};
 
-const char kSvg[] = "<svg xmlns='http://www.w3.org/2000/svg' width='40pt' height='20pt' "
-                    "viewBox='0 0 40 20'><rect width='40' height='20'/></svg>";
+const char SmallSvg[] = "<svg xmlns='http://www.w3.org/2000/svg' width='40pt' height='20pt' "
+                        "viewBox='0 0 40 20'><rect width='40' height='20'/></svg>";
 
 ItemValues valuesOf(Item& item)
 {
@@ -60,7 +62,7 @@ void setEverything(Item& item)
         fill->setBrushStyle(Qt::CrossPattern);
     }
     if (auto* font = dynamic_cast<IFontItem*>(&item)) {
-        font->setFontFamily(QStringLiteral("DejaVu Sans"));
+        font->setFontFamily(u"DejaVu Sans"_s);
         font->setFontPointSize(17);
         font->setFontBold(true);
         font->setFontItalic(true);
@@ -73,11 +75,11 @@ void setEverything(Item& item)
         align->setTextAlignment(Qt::AlignRight | Qt::AlignBottom);
     }
     if (auto* text = dynamic_cast<ITextGenericItem*>(&item)) {
-        text->setText(QStringLiteral("one\ntwo"));
+        text->setText(u"one\ntwo"_s);
     }
     if (auto* source = dynamic_cast<IDatasourceItem*>(&item)) {
         source->setDatasourceId(4);
-        source->setDatasourceFields({QStringLiteral("Value")});
+        source->setDatasourceFields({u"Value"_s});
     }
     if (auto* corner = dynamic_cast<RoundedRectangleItem*>(&item)) {
         corner->setCornerRadius(4.0);
@@ -93,8 +95,8 @@ void setEverything(Item& item)
         line->setLineEndMarker(8);
     }
     if (auto* barcode = dynamic_cast<BarcodeItem*>(&item)) {
-        barcode->importBarcodeProperties(58, QStringLiteral("abc"), false, Qt::AlignRight, 2, true,
-                                         true, 3, 4, 5);
+        barcode->importBarcodeProperties(58, u"abc"_s, false, Qt::AlignRight, 2, true, true, 3, 4,
+                                         5);
         barcode->setForegroundColor(Qt::darkBlue);
         barcode->setBackgroundColor(Qt::yellow);
     }
@@ -104,7 +106,7 @@ void setEverything(Item& item)
         picture->pixmapImportActions(pixmap);
     }
     if (auto* symbol = dynamic_cast<SymbolItem*>(&item)) {
-        symbol->loadItemFromData(kSvg);
+        symbol->loadItemFromData(SmallSvg);
         symbol->setForegroundColor(Qt::darkBlue);
         symbol->setBackgroundColor(Qt::yellow);
     }
@@ -145,13 +147,12 @@ TEST(ItemValues, TextsHaveFontStyleContentAndSource)
     setEverything(item);
     const ItemValues values = valuesOf(item);
 
-    EXPECT_EQ(*values.font,
-              (workbench::FontValues{QStringLiteral("DejaVu Sans"), 17, true, true, true, true}));
+    EXPECT_EQ(*values.font, (workbench::FontValues{u"DejaVu Sans"_s, 17, true, true, true, true}));
     EXPECT_EQ(*values.textStyle,
               (workbench::TextStyleValues{Qt::blue, Qt::AlignRight | Qt::AlignBottom}));
-    EXPECT_EQ(values.text->text, QStringLiteral("one\ntwo"));
+    EXPECT_EQ(values.text->text, u"one\ntwo"_s);
     EXPECT_EQ(*values.textLabel, (workbench::TextLabelValues{QSizeF(30.0, 20.0), 1, true, true}));
-    EXPECT_EQ(*values.datasource, (workbench::DatasourceValues{4, {QStringLiteral("Value")}}));
+    EXPECT_EQ(*values.datasource, (workbench::DatasourceValues{4, {u"Value"_s}}));
 }
 
 TEST(ItemValues, ABarcodeHasAllTenPropertiesAndItsColors)
@@ -161,8 +162,8 @@ TEST(ItemValues, ABarcodeHasAllTenPropertiesAndItsColors)
     setEverything(item);
 
     EXPECT_EQ(*valuesOf(item).barcode,
-              (workbench::BarcodeValues{58, QStringLiteral("abc"), false, Qt::AlignRight, 2, true,
-                                        true, 3, 4, 5, Qt::darkBlue, Qt::yellow}));
+              (workbench::BarcodeValues{58, u"abc"_s, false, Qt::AlignRight, 2, true, true, 3, 4, 5,
+                                        Qt::darkBlue, Qt::yellow}));
     item.setFillColor(Qt::gray);
     EXPECT_EQ(valuesOf(item).barcode->background, QColor(Qt::gray));
     item.setBarcodeType(71);
@@ -171,7 +172,7 @@ TEST(ItemValues, ABarcodeHasAllTenPropertiesAndItsColors)
 
 TEST(ItemValues, AnItemRestoredFromValuesHasTheSameValues)
 {
-    for (const KestTypes::ShapeType type : kAllTypes) {
+    for (const KestTypes::ShapeType type : EveryType) {
         SCOPED_TRACE(type);
         Painted page;
         auto& item = page.make<Item>(type);
@@ -189,7 +190,7 @@ TEST(ItemValues, AnItemRestoredFromValuesHasTheSameValues)
 
 TEST(ItemValues, ARestoredItemLooksTheSame)
 {
-    for (const KestTypes::ShapeType type : kAllTypes) {
+    for (const KestTypes::ShapeType type : EveryType) {
         SCOPED_TRACE(type);
         Painted page;
         auto& item = page.make<Item>(type);
@@ -209,7 +210,7 @@ TEST(ItemValues, ARichTextKeepsItsDocument)
 {
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<p align=\"right\">A <b>bold</b> word</p>"));
+    item.setHtml(u"<p align=\"right\">A <b>bold</b> word</p>"_s);
     item.adjustBoxSizeToContent(120.0);
     const ItemValues values = valuesOf(item);
     EXPECT_TRUE(values.text->html.contains(QLatin1String("font-weight")));
@@ -229,7 +230,7 @@ TEST(ItemValues, TheShownRecordIsNotPartOfTheValues)
     setEverything(item);
     const ItemValues before = valuesOf(item);
 
-    dynamic_cast<CanvasItem&>(item).showContent(QStringLiteral("record"));
+    dynamic_cast<CanvasItem&>(item).showContent(u"record"_s);
 
     EXPECT_TRUE(valuesOf(item) == before);
 }
@@ -243,8 +244,8 @@ struct BadNumber
 TEST(ItemValues, LengthsAndAnglesThatNoLabelHasAreBounded)
 {
     for (const BadNumber& row :
-         {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, workbench::MaximumLength},
-          BadNumber{-kInfinity, -workbench::MaximumLength},
+         {BadNumber{NotANumber, 0.0}, BadNumber{InfiniteLength, workbench::MaximumLength},
+          BadNumber{-InfiniteLength, -workbench::MaximumLength},
           BadNumber{1e308, workbench::MaximumLength},
           BadNumber{workbench::MaximumLength - 1, workbench::MaximumLength - 1},
           BadNumber{workbench::MaximumLength + 1, workbench::MaximumLength},
@@ -256,7 +257,7 @@ TEST(ItemValues, LengthsAndAnglesThatNoLabelHasAreBounded)
         EXPECT_EQ(item.getItemWidth(), row.kept);
         EXPECT_EQ(item.getItemHeight(), 10.0);
     }
-    for (const double angle : {kNaN, kInfinity, -kInfinity}) {
+    for (const double angle : {NotANumber, InfiniteLength, -InfiniteLength}) {
         Painted page;
         auto& item = page.make<Item>(KestTypes::Rectangle);
         item.setItemRotation(angle);
@@ -268,8 +269,8 @@ TEST(ItemValues, PositionsThatNoLabelHasAreBounded)
 {
     // -1000000001 is what importers pass for a coordinate that is not in the file.
     for (const BadNumber& row :
-         {BadNumber{kNaN, 0.0}, BadNumber{kInfinity, 0.0}, BadNumber{-1'000'000'001.0, 0.0},
-          BadNumber{1e300, workbench::MaximumCoordinate},
+         {BadNumber{NotANumber, 0.0}, BadNumber{InfiniteLength, 0.0},
+          BadNumber{-1'000'000'001.0, 0.0}, BadNumber{1e300, workbench::MaximumCoordinate},
           BadNumber{workbench::MaximumCoordinate - 1, workbench::MaximumCoordinate - 1},
           BadNumber{workbench::MaximumCoordinate + 1, workbench::MaximumCoordinate},
           BadNumber{-50.0, -50.0}}) {
@@ -285,7 +286,7 @@ TEST(ItemValues, AnInvalidStackingOrderIsZero)
 {
     Painted page;
     auto& item = page.make<QGraphicsItem>(KestTypes::Rectangle);
-    item.setZValue(kNaN);
+    item.setZValue(NotANumber);
     EXPECT_EQ(item.zValue(), 0.0);
     item.setZValue(-12.5);
     EXPECT_EQ(item.zValue(), -12.5);

@@ -16,14 +16,16 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-constexpr double kCell = 72.0;
+constexpr double CellPoints = 72.0;
 
 class Sheet
 {
 public:
-    Sheet() { m_page.canvas.importCanvasParameters(10 * kCell, 8 * kCell, false, false); }
+    Sheet() { m_page.canvas.importCanvasParameters(10 * CellPoints, 8 * CellPoints, false, false); }
 
     /// The next item of the row, in a box of 56 by 48 points.
     template <class Class>
@@ -31,7 +33,8 @@ public:
     {
         Item& item = m_page.make<Item>(type);
         item.setItemSize(QSizeF(56.0, 48.0));
-        dynamic_cast<QGraphicsItem&>(item).setPos(m_column * kCell + 8.0, m_row * kCell + 12.0);
+        dynamic_cast<QGraphicsItem&>(item).setPos(m_column * CellPoints + 8.0,
+                                                  m_row * CellPoints + 12.0);
         if (++m_column == 10) {
             nextRow();
         }
@@ -115,32 +118,32 @@ void putTexts(Sheet& sheet)
     for (const auto alignment : {Qt::AlignLeft | Qt::AlignTop, Qt::AlignHCenter | Qt::AlignVCenter,
                                  Qt::AlignRight | Qt::AlignBottom}) {
         auto& text = sheet.put<TextItem>(KestTypes::RichText);
-        text.setText(QStringLiteral("Some words\nin a box"));
+        text.setText(u"Some words\nin a box"_s);
         text.setFontPointSize(10);
         text.setTextAlignment(alignment);
         text.setPenStyle(Qt::SolidLine);
         text.setPenWidth(0);
     }
     auto& scaled = sheet.put<TextItem>(KestTypes::SimpleText);
-    scaled.setText(QStringLiteral("Scaled"));
+    scaled.setText(u"Scaled"_s);
     scaled.setPenStyle(Qt::DotLine);
     auto& inverse = sheet.put<SimpleTextItem>(KestTypes::SimpleText);
     inverse.setItemSizeLimiting(0);
-    inverse.importTextProperties(QStringLiteral("Inverse"), 14, true, true, true, Qt::AlignLeft);
+    inverse.importTextProperties(u"Inverse"_s, 14, true, true, true, Qt::AlignLeft);
     inverse.setTextColor(Qt::white);
     inverse.setFillColor(Qt::black);
     auto& html = sheet.put<RichTextItem>(KestTypes::RichText);
-    html.setHtml(QStringLiteral("<p align=\"center\" style=\"font-size:9pt\"><b>Bold</b> and "
-                                "<i style=\"color:#c00000\">red</i></p>"));
+    html.setHtml(u"<p align=\"center\" style=\"font-size:9pt\"><b>Bold</b> and "
+                 "<i style=\"color:#c00000\">red</i></p>"_s);
     html.adjustBoxSizeToContent(56.0);
     auto& mirrored = sheet.put<TextItem>(KestTypes::SimpleText);
-    mirrored.setText(QStringLiteral("Mirror"));
+    mirrored.setText(u"Mirror"_s);
     mirrored.setFlipHorizontal(true);
     auto& serif = sheet.put<TextItem>(KestTypes::RichText);
-    serif.setFontFamily(QStringLiteral("Times New Roman"));
-    serif.setText(QStringLiteral("Times at 12 points"));
+    serif.setFontFamily(u"Times New Roman"_s);
+    serif.setText(u"Times at 12 points"_s);
     auto& turned = sheet.put<TextItem>(KestTypes::SimpleText);
-    turned.setText(QStringLiteral("Turned"));
+    turned.setText(u"Turned"_s);
     turned.setItemRotation(90.0);
     sheet.nextRow();
 }
@@ -164,8 +167,8 @@ void putPictures(Sheet& sheet)
     symbol.setBackgroundColor(QColor(0xee, 0xee, 0xee));
     for (const int code : {20, 58, 71}) {
         auto& barcode = sheet.put<BarcodeItem>(KestTypes::Barcode);
-        barcode.importBarcodeProperties(code, QStringLiteral("12345678"), true, Qt::AlignCenter, 1,
-                                        false, false, 0, 0, 0);
+        barcode.importBarcodeProperties(code, u"12345678"_s, true, Qt::AlignCenter, 1, false, false,
+                                        0, 0, 0);
     }
     sheet.nextRow();
 }
@@ -189,8 +192,7 @@ TEST(Overview, EverythingOnOneSheetPaintsAndCanBeLookedAt)
     EXPECT_FALSE(inkOf(page.image).isEmpty());
     const QString folder = qEnvironmentVariable("LABELPORT_OVERVIEW");
     if (!folder.isEmpty()) {
-        EXPECT_EQ(
-            workbench::writePng(page.image, QDir(folder).filePath(QStringLiteral("overview.png"))),
-            QString());
+        EXPECT_EQ(workbench::writePng(page.image, QDir(folder).filePath(u"overview.png"_s)),
+                  QString());
     }
 }

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench;
 
 namespace {
@@ -45,14 +47,14 @@ TEST(PageBounds, MeasureAPicturesArea)
 TEST(PageBounds, MeasureADocumentsPage)
 {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("a.pdf"));
+    const QString file = folder.filePath(u"a.pdf"_s);
     const auto onePage = [](qint64) { return true; };
     Canvas canvas;
     setPage(canvas, MaximumPdfSide, 10);
-    EXPECT_EQ(writePdf(canvas, file, QStringLiteral("a"), 1, onePage), QString());
+    EXPECT_EQ(writePdf(canvas, file, u"a"_s, 1, onePage), QString());
     EXPECT_TRUE(QFileInfo::exists(file));
     setPage(canvas, 10, MaximumPdfSide + 1);
-    EXPECT_FALSE(writePdf(canvas, file, QStringLiteral("a"), 1, onePage).isEmpty());
+    EXPECT_FALSE(writePdf(canvas, file, u"a"_s, 1, onePage).isEmpty());
 }
 
 } // namespace

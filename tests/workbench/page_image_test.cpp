@@ -13,6 +13,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::Canvas;
 using workbench::PageImage;
 using workbench::renderPage;
@@ -129,7 +131,7 @@ TEST(PageImage, NeedsARealResolution)
 TEST(PageImage, IsWrittenAsPngWithItsResolution)
 {
     const QTemporaryDir folder;
-    const QString name = folder.filePath(QStringLiteral("page.png"));
+    const QString name = folder.filePath(u"page.png"_s);
     const PageImage page = rendered(72.0, 36.0, 300.0);
 
     EXPECT_EQ(writePng(page.image, name), QString());
@@ -144,7 +146,7 @@ TEST(PageImage, IsWrittenAsPngWithItsResolution)
 TEST(PageImage, ThatCannotBeWrittenLeavesWhatWasThere)
 {
     const QTemporaryDir folder;
-    const QString name = folder.filePath(QStringLiteral("page.png"));
+    const QString name = folder.filePath(u"page.png"_s);
     QFile old(name);
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));
     old.write("old");
@@ -161,7 +163,7 @@ TEST(PageImage, ThatCannotBeWrittenLeavesWhatWasThere)
 TEST(PageImage, GoesToNoFolderThatIsNotThere)
 {
     const QTemporaryDir folder;
-    const QString error = writePng(rendered(10.0, 10.0, 72.0).image,
-                                   folder.filePath(QStringLiteral("none/page.png")));
+    const QString error =
+        writePng(rendered(10.0, 10.0, 72.0).image, folder.filePath(u"none/page.png"_s));
     EXPECT_TRUE(error.startsWith(QLatin1String("Cannot write"))) << qPrintable(error);
 }

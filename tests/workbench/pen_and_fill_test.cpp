@@ -19,7 +19,7 @@ using workbench::toPen;
 
 namespace {
 
-const QColor kBlue(0, 0, 200);
+const QColor DarkBlue(0, 0, 200);
 
 PenValues penWith(int style, int cap, int join)
 {
@@ -37,7 +37,7 @@ FillableItem& putBox(Painted& page, int brushStyle)
     item.setItemSize(QSizeF(160.0, 80.0));
     dynamic_cast<QGraphicsItem&>(item).setPos(20.0, 10.0);
     item.setPenStyle(Qt::NoPen);
-    item.setFillColor(kBlue);
+    item.setFillColor(DarkBlue);
     item.setBrushStyle(brushStyle);
     return item;
 }
@@ -147,7 +147,7 @@ TEST(Fill, IsSolidForSolidAndUnknownStyles)
     for (const int style : {1, 24, 18, -7, 1000, std::numeric_limits<int>::max()}) {
         Painted page;
         putBox(page, style);
-        EXPECT_EQ(countOf(page.image(), QRect(20, 10, 160, 80), kBlue), 160 * 80) << style;
+        EXPECT_EQ(countOf(page.image(), QRect(20, 10, 160, 80), DarkBlue), 160 * 80) << style;
     }
 }
 
@@ -170,8 +170,8 @@ TEST(Fill, ANewShapeIsOpenUntilItGetsAColor)
     auto& item = page.make<FillableItem>(KestTypes::Rectangle);
     item.setItemSize(QSizeF(50.0, 50.0));
     EXPECT_EQ(page.at(25, 25), QColor(Qt::white));
-    item.setFillColor(kBlue);
-    EXPECT_EQ(page.at(25, 25), kBlue);
+    item.setFillColor(DarkBlue);
+    EXPECT_EQ(page.at(25, 25), DarkBlue);
 }
 
 TEST(Fill, TonesGrowLighterFromTheFirstToTheLast)
@@ -252,7 +252,7 @@ TEST(Fill, AGradientRunsFromTheColorToWhite)
     putBox(page, Qt::LinearGradientPattern);
     const QColor top = page.at(100, 11);
     const QColor bottom = page.at(100, 88);
-    EXPECT_NEAR(top.blue(), kBlue.blue(), 8);
+    EXPECT_NEAR(top.blue(), DarkBlue.blue(), 8);
     EXPECT_NEAR(top.red(), 0, 8);
     EXPECT_NEAR(bottom.red(), 255, 8);
     EXPECT_NEAR(bottom.green(), 255, 8);

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::encodePng;
 
 namespace {
@@ -120,8 +122,8 @@ TEST(PngEncoder, WritesResolutionAndTextsAheadOfThePixels)
     QImage image = pictureOf({9, 9}, 60000, 255);
     image.setDotsPerMeterX(11811);
     image.setDotsPerMeterY(5906);
-    image.setText(QStringLiteral("Software"), QStringLiteral("a program"));
-    image.setText(QStringLiteral("Title"), QStringLiteral("K\u00e4se \u20ac"));
+    image.setText(u"Software"_s, u"a program"_s);
+    image.setText(u"Title"_s, u"K\u00e4se \u20ac"_s);
     QByteArray bytes = encoded(image);
     const QImage read = QImage::fromData(bytes, "png");
     EXPECT_EQ(read.dotsPerMeterX(), 11811);
@@ -129,16 +131,16 @@ TEST(PngEncoder, WritesResolutionAndTextsAheadOfThePixels)
 
     QBuffer head(&bytes);
     QImageReader reader(&head, "png");
-    EXPECT_EQ(reader.text(QStringLiteral("Software")), QStringLiteral("a program"));
-    EXPECT_EQ(reader.text(QStringLiteral("Title")), QStringLiteral("K\u00e4se \u20ac"));
+    EXPECT_EQ(reader.text(u"Software"_s), u"a program"_s);
+    EXPECT_EQ(reader.text(u"Title"_s), u"K\u00e4se \u20ac"_s);
 }
 
 // A picture may come with any texts; libpng refuses a file with such a key.
 TEST(PngEncoder, LeavesOutTextsWithoutAKey)
 {
     QImage image = pictureOf({9, 9}, 4, 255);
-    image.setText(QStringLiteral(" "), QStringLiteral("no key"));
-    image.setText(QString(80, u'k'), QStringLiteral("long key"));
+    image.setText(u" "_s, u"no key"_s);
+    image.setText(QString(80, u'k'), u"long key"_s);
     EXPECT_FALSE(encoded(image).contains("iTXt"));
     EXPECT_EQ(withAlpha(readBack(image)), image);
 }

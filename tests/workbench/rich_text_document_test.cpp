@@ -14,13 +14,15 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace Qt::StringLiterals;
 
 TEST(RichTextDocument, OfADocumentKeepsTheFullWidthForItsParagraphs)
 {
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<p align=\"right\">HH</p>"));
+    item.setHtml(u"<p align=\"right\">HH</p>"_s);
     item.adjustBoxSizeToContent(150.0);
     EXPECT_EQ(item.getItemWidth(), 150.0);
     EXPECT_GT(item.getItemHeight(), 10.0);
@@ -33,7 +35,7 @@ TEST(RichTextDocument, OfADocumentWithoutAWidthDoesNotWrap)
 {
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<p>some words in a row</p>"));
+    item.setHtml(u"<p>some words in a row</p>"_s);
     item.adjustBoxSizeToContent(-1.0);
     EXPECT_LT(item.getItemHeight(), 20.0);
     EXPECT_GT(item.getItemWidth(), 80.0);
@@ -44,8 +46,8 @@ TEST(RichTextDocument, HasTheFormatsOfItsDocument)
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
     item.setTextColor(Qt::blue);
-    item.setHtml(QStringLiteral("<p style=\"font-size:40px\">H<span style=\"color:#ff0000\">H"
-                                "</span></p>"));
+    item.setHtml(u"<p style=\"font-size:40px\">H<span style=\"color:#ff0000\">H"
+                 "</span></p>"_s);
     item.adjustBoxSizeToContent(150.0);
     const QImage image = page.image();
     EXPECT_GT(countOf(image, image.rect(), QColor(255, 0, 0)), 20);
@@ -55,15 +57,14 @@ TEST(RichTextDocument, HasTheFormatsOfItsDocument)
 TEST(RichTextDocument, NeverOpensWhatItsDocumentNames)
 {
     const QTemporaryDir folder;
-    const QString picture = folder.filePath(QStringLiteral("secret.png"));
+    const QString picture = folder.filePath(u"secret.png"_s);
     QImage secret(40, 40, QImage::Format_RGB32);
     secret.fill(Qt::magenta);
     ASSERT_TRUE(secret.save(picture));
     for (const QString& source : {QUrl::fromLocalFile(picture).toString(), picture}) {
         Painted page;
         auto& item = page.make<RichTextItem>(KestTypes::RichText);
-        item.setHtml(
-            QStringLiteral("<p>x<img src=\"%1\" width=\"40\" height=\"40\"/></p>").arg(source));
+        item.setHtml(u"<p>x<img src=\"%1\" width=\"40\" height=\"40\"/></p>"_s.arg(source));
         item.adjustBoxSizeToContent(150.0);
         const QImage image = page.image();
         EXPECT_EQ(countOf(image, image.rect(), Qt::magenta), 0);
@@ -78,9 +79,8 @@ TEST(RichTextDocument, NeverOpensAStyleSheetEither)
     sheet.flush();
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<html><head><link rel=\"stylesheet\" type=\"text/css\" "
-                                "href=\"%1\"/></head><body><p>text</p></body></html>")
-                     .arg(sheet.fileName()));
+    item.setHtml(u"<html><head><link rel=\"stylesheet\" type=\"text/css\" "
+                 "href=\"%1\"/></head><body><p>text</p></body></html>"_s.arg(sheet.fileName()));
     item.adjustBoxSizeToContent(150.0);
     const QImage image = page.image();
     EXPECT_EQ(countOf(image, image.rect(), Qt::magenta), 0);
@@ -90,7 +90,7 @@ TEST(RichTextDocument, NeverOpensAStyleSheetEither)
 TEST(RichTextDocument, NeverShowsAnEmbeddedPictureOrABackground)
 {
     const QTemporaryDir folder;
-    const QString picture = folder.filePath(QStringLiteral("secret.png"));
+    const QString picture = folder.filePath(u"secret.png"_s);
     QImage secret(40, 40, QImage::Format_RGB32);
     secret.fill(Qt::magenta);
     ASSERT_TRUE(secret.save(picture));
@@ -128,10 +128,10 @@ TEST(RichTextDocument, HasADocumentOnlyForHtml)
     EXPECT_EQ(canvasItem.values().text->html, QString());
     EXPECT_TRUE(item.children().isEmpty());
 
-    item.setHtml(QStringLiteral("<p><b>bold</b></p>"));
+    item.setHtml(u"<p><b>bold</b></p>"_s);
     EXPECT_TRUE(canvasItem.values().text->html.contains(QLatin1String("bold")));
     EXPECT_EQ(item.document()->documentMargin(), 0.0);
-    item.setHtml(QStringLiteral("<p>other</p>"));
+    item.setHtml(u"<p>other</p>"_s);
     EXPECT_TRUE(canvasItem.values().text->html.contains(QLatin1String("other")));
 }
 
@@ -140,7 +140,7 @@ TEST(RichTextDocument, RestoresTheMarginsOfItsDocument)
 {
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<p>text</p>"));
+    item.setHtml(u"<p>text</p>"_s);
     QTextFrameFormat format = item.document()->rootFrame()->frameFormat();
     format.setMargin(0.0);
     format.setTopMargin(30.0);
@@ -160,7 +160,7 @@ TEST(RichTextDocument, NewTextReplacesADocument)
     Painted page;
     auto& item = dynamic_cast<RichTextItem&>(putRich(page, u"HHHH"_s));
     const QImage plain = page.image();
-    item.setHtml(QStringLiteral("<p>something else</p>"));
+    item.setHtml(u"<p>something else</p>"_s);
     EXPECT_NE(page.image(), plain);
     item.setText(u"HHHH"_s);
     EXPECT_EQ(page.image(), plain);

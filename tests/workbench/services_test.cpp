@@ -21,6 +21,8 @@
 #include <initializer_list>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
@@ -28,9 +30,9 @@ constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 std::unique_ptr<TalMessageBox> makeBox()
 {
-    return std::make_unique<TalMessageBox>(
-        QStringLiteral("Title"), QStringLiteral("<b>one</b>\ntwo"), QMessageBox::Ok,
-        QMessageBox::Ok, QString(), QMap<QMessageBox::StandardButton, QString>());
+    return std::make_unique<TalMessageBox>(u"Title"_s, u"<b>one</b>\ntwo"_s, QMessageBox::Ok,
+                                           QMessageBox::Ok, QString(),
+                                           QMap<QMessageBox::StandardButton, QString>());
 }
 
 } // namespace
@@ -65,18 +67,18 @@ TEST(BasicConversions, AnglesAreBroughtIntoOneTurn)
 
 TEST(CommonLists, InstalledFamiliesAreValidInTheirOwnSpelling)
 {
-    EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Liberation Sans")));
-    EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("DejaVu Sans")));
-    EXPECT_FALSE(CommonLists::isValidFamily(QStringLiteral("liberation sans")));
-    EXPECT_FALSE(CommonLists::isValidFamily(QStringLiteral("_Nare Vol")));
+    EXPECT_TRUE(CommonLists::isValidFamily(u"Liberation Sans"_s));
+    EXPECT_TRUE(CommonLists::isValidFamily(u"DejaVu Sans"_s));
+    EXPECT_FALSE(CommonLists::isValidFamily(u"liberation sans"_s));
+    EXPECT_FALSE(CommonLists::isValidFamily(u"_Nare Vol"_s));
     EXPECT_FALSE(CommonLists::isValidFamily(QString()));
 }
 
 TEST(CommonLists, FamiliesWithASubstituteAreValid)
 {
-    EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Arial")));
-    EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Times New Roman")));
-    EXPECT_TRUE(CommonLists::isValidFamily(QStringLiteral("Courier New")));
+    EXPECT_TRUE(CommonLists::isValidFamily(u"Arial"_s));
+    EXPECT_TRUE(CommonLists::isValidFamily(u"Times New Roman"_s));
+    EXPECT_TRUE(CommonLists::isValidFamily(u"Courier New"_s));
 }
 
 TEST(CommonLists, CommonSymbologiesAreOfTheirKind)
@@ -97,7 +99,7 @@ TEST(CommonLists, CommonSymbologiesAreOfTheirKind)
 
 TEST(FileControllerTools, TheImportFolderIsTheLastOneOrTheDocuments)
 {
-    const QString key = QStringLiteral("dir/import");
+    const QString key = u"dir/import"_s;
     const QTemporaryDir folder;
     QSettings settings;
     settings.remove(key);
@@ -105,37 +107,34 @@ TEST(FileControllerTools, TheImportFolderIsTheLastOneOrTheDocuments)
     EXPECT_EQ(FileControllerTools::getDefaultImportFolder(), documents);
     settings.setValue(key, folder.path());
     EXPECT_EQ(FileControllerTools::getDefaultImportFolder(), folder.path());
-    settings.setValue(key, folder.filePath(QStringLiteral("gone")));
+    settings.setValue(key, folder.filePath(u"gone"_s));
     EXPECT_EQ(FileControllerTools::getDefaultImportFolder(), documents);
     settings.remove(key);
 }
 
 TEST(WhiteSpace, SplitsAtRunsOfAnyWhiteSpace)
 {
-    const QString text = QStringLiteral("Net  weight\t\n1\u00A0kg");
+    const QString text = u"Net  weight\t\n1\u00A0kg"_s;
     EXPECT_EQ(text.split(WhiteSpace::getWhiteSpacesSplitRegex()),
-              QStringList({QStringLiteral("Net"), QStringLiteral("weight"), QStringLiteral("1"),
-                           QStringLiteral("kg")}));
+              QStringList({u"Net"_s, u"weight"_s, u"1"_s, u"kg"_s}));
 }
 
 TEST(TalMessageBox, ShowsItsTextUnchanged)
 {
     const auto box = makeBox();
-    EXPECT_EQ(box->windowTitle(), QStringLiteral("Title"));
+    EXPECT_EQ(box->windowTitle(), u"Title"_s);
     const auto* label = box->findChild<QLabel*>();
     ASSERT_NE(label, nullptr);
-    EXPECT_EQ(label->text(), QStringLiteral("<b>one</b>\ntwo"));
+    EXPECT_EQ(label->text(), u"<b>one</b>\ntwo"_s);
     EXPECT_EQ(label->textFormat(), Qt::PlainText);
     EXPECT_EQ(box->accessibleDescription(), label->text());
-    EXPECT_EQ(box->accessibleName(), QStringLiteral("Title"));
+    EXPECT_EQ(box->accessibleName(), u"Title"_s);
 }
 
 TEST(TalMessageBox, HasTheButtonsWithTheirCaptions)
 {
-    const TalMessageBox box(QStringLiteral("t"), QStringLiteral("x"),
-                            QMessageBox::Yes | QMessageBox::No, QMessageBox::No,
-                            QStringLiteral("further"),
-                            {{QMessageBox::Yes, QStringLiteral("Continue")}});
+    const TalMessageBox box(u"t"_s, u"x"_s, QMessageBox::Yes | QMessageBox::No, QMessageBox::No,
+                            u"further"_s, {{QMessageBox::Yes, u"Continue"_s}});
     const QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
     ASSERT_EQ(buttons.size(), 2);
     QStringList captions;
@@ -143,7 +142,7 @@ TEST(TalMessageBox, HasTheButtonsWithTheirCaptions)
         captions << button->text();
         EXPECT_EQ(button->isDefault(), button->text() != QLatin1String("Continue"));
     }
-    EXPECT_TRUE(captions.contains(QStringLiteral("Continue")));
+    EXPECT_TRUE(captions.contains(u"Continue"_s));
     EXPECT_EQ(box.findChildren<QLabel*>().size(), 2);
 }
 

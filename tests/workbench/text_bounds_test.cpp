@@ -6,9 +6,11 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString kMegabyte = QStringLiteral("word ").repeated(200'000);
+const QString Megabyte = u"word "_s.repeated(200'000);
 
 } // namespace
 
@@ -16,7 +18,7 @@ const QString kMegabyte = QStringLiteral("word ").repeated(200'000);
 TEST(TextBounds, ALongRichTextIsPainted)
 {
     Painted page;
-    auto& item = dynamic_cast<RichTextItem&>(putRich(page, kMegabyte));
+    auto& item = dynamic_cast<RichTextItem&>(putRich(page, Megabyte));
     item.adjustBoxSizeToContent(100.0);
     EXPECT_GT(item.getItemHeight(), 1'000.0);
     EXPECT_FALSE(page.ink().isEmpty());
@@ -25,7 +27,7 @@ TEST(TextBounds, ALongRichTextIsPainted)
 TEST(TextBounds, ALongSimpleTextIsPainted)
 {
     Painted page;
-    EXPECT_GT(putLabel(page, kMegabyte, 12).getItemWidth(), 1'000.0);
+    EXPECT_GT(putLabel(page, Megabyte, 12).getItemWidth(), 1'000.0);
     EXPECT_FALSE(page.ink().isEmpty());
 }
 
@@ -49,7 +51,7 @@ TEST(TextBounds, ALongScaledTextIsPainted)
     Painted page;
     auto& item = page.make<TextItem>(KestTypes::SimpleText);
     item.setItemSize(QSizeF(100.0, 60.0));
-    item.setText(kMegabyte);
+    item.setText(Megabyte);
     EXPECT_FALSE(page.image().isNull());
 }
 
@@ -57,7 +59,7 @@ TEST(TextBounds, ALongDocumentIsPainted)
 {
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<p>%1</p>").arg(kMegabyte));
+    item.setHtml(u"<p>%1</p>"_s.arg(Megabyte));
     item.adjustBoxSizeToContent(100.0);
     EXPECT_GT(item.getItemHeight(), 1'000.0);
     EXPECT_FALSE(page.ink().isEmpty());
@@ -66,7 +68,7 @@ TEST(TextBounds, ALongDocumentIsPainted)
 TEST(TextBounds, LargestFontAndLongestTextTogetherArePainted)
 {
     Painted page;
-    auto& item = putLabel(page, QStringLiteral("W").repeated(20'000), 2'000'000'000);
+    auto& item = putLabel(page, u"W"_s.repeated(20'000), 2'000'000'000);
     EXPECT_GT(item.getItemWidth(), 1'000.0);
     EXPECT_FALSE(page.image().isNull());
 }

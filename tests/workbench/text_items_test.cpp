@@ -15,11 +15,13 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using namespace Qt::StringLiterals;
 
-const QString kBlock = QStringLiteral("HHHH");
+const QString BlockText = u"HHHH"_s;
 
 // Height of a capital letter of the default font at 1 point.
 double capHeight()
@@ -36,7 +38,7 @@ struct AlignmentRow
     bool bottom;
 };
 
-const AlignmentRow kAlignments[] = {
+const AlignmentRow AlignmentRows[] = {
     {{}, true, false, true, false},
     {Qt::AlignLeft | Qt::AlignTop, true, false, true, false},
     {Qt::AlignRight, false, true, true, false},
@@ -70,7 +72,7 @@ TEST(TextSize, IsInPointsAtEveryResolution)
 {
     for (const int size : {10, 20, 40}) {
         Painted page;
-        putRich(page, QStringLiteral("HH")).setFontPointSize(size);
+        putRich(page, u"HH"_s).setFontPointSize(size);
         EXPECT_NEAR(inkOf(page.image(288.0)).height(), size * capHeight() * 4.0, 2.0) << size;
         EXPECT_NEAR(inkOf(page.image(720.0)).height(), size * capHeight() * 10.0, 2.5) << size;
     }
@@ -79,9 +81,9 @@ TEST(TextSize, IsInPointsAtEveryResolution)
 TEST(TextSize, IsTheSameForBothTextKinds)
 {
     Painted rich;
-    putRich(rich, kBlock);
+    putRich(rich, BlockText);
     Painted simple;
-    putLabel(simple, kBlock, 12);
+    putLabel(simple, BlockText, 12);
     EXPECT_EQ(inkOf(rich.image(288.0)).size(), inkOf(simple.image(288.0)).size());
 }
 
@@ -91,20 +93,19 @@ TEST(TextSize, OfADocumentInDesktopPointsIsTheSameInScreenPixels)
     // own units: importers convert, so that 12 units is the size that they request.
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    const QFontInfo info{QFont(QStringLiteral("Liberation Sans"), 12)};
+    const QFontInfo info{QFont(u"Liberation Sans"_s, 12)};
     const double pointsPerPixel = info.pointSizeF() / info.pixelSize();
-    item.setHtml(QStringLiteral("<p><span style=\"font-size:%1pt\">HHHH</span></p>")
-                     .arg(24.0 * pointsPerPixel));
+    item.setHtml(u"<p><span style=\"font-size:%1pt\">HHHH</span></p>"_s.arg(24.0 * pointsPerPixel));
     item.adjustBoxSizeToContent(190.0);
     EXPECT_NEAR(inkOf(page.image(288.0)).height(), 24 * capHeight() * 4.0, 3.0);
 }
 
 TEST(RichText, IsAlignedInItsBox)
 {
-    for (const AlignmentRow& row : kAlignments) {
+    for (const AlignmentRow& row : AlignmentRows) {
         SCOPED_TRACE(row.alignment.toInt());
         Painted page;
-        putRich(page, kBlock).setTextAlignment(row.alignment);
+        putRich(page, BlockText).setTextAlignment(row.alignment);
         expectAligned(page.ink(), QRect(50, 20, 100, 60), row);
     }
 }
@@ -112,7 +113,7 @@ TEST(RichText, IsAlignedInItsBox)
 TEST(RichText, WrapsAtTheWidthOfItsBox)
 {
     Painted page;
-    putRich(page, QStringLiteral("several words that do not fit on one line"));
+    putRich(page, u"several words that do not fit on one line"_s);
     const QRect ink = page.ink();
     EXPECT_LE(ink.right(), 151);
     EXPECT_GT(ink.height(), 25);
@@ -121,9 +122,9 @@ TEST(RichText, WrapsAtTheWidthOfItsBox)
 TEST(RichText, ALineFeedBeginsANewLine)
 {
     Painted one;
-    putRich(one, QStringLiteral("HH"));
+    putRich(one, u"HH"_s);
     Painted two;
-    putRich(two, QStringLiteral("HH\nHH"));
+    putRich(two, u"HH\nHH"_s);
     EXPECT_NEAR(two.ink().height() - one.ink().height(), 14, 2);
     EXPECT_EQ(two.ink().width(), one.ink().width());
 }
@@ -131,16 +132,16 @@ TEST(RichText, ALineFeedBeginsANewLine)
 TEST(RichText, TextIsNotMarkup)
 {
     Painted page;
-    putRich(page, QStringLiteral("<b>H</b>"));
+    putRich(page, u"<b>H</b>"_s);
     Painted plain;
-    putRich(plain, QStringLiteral("H"));
+    putRich(plain, u"H"_s);
     EXPECT_GT(page.ink().width(), 2 * plain.ink().width());
 }
 
 TEST(RichText, OfPlainTextTakesTheWidthThatItNeeds)
 {
     Painted page;
-    auto& item = dynamic_cast<RichTextItem&>(putRich(page, kBlock));
+    auto& item = dynamic_cast<RichTextItem&>(putRich(page, BlockText));
     item.adjustBoxSizeToContent(190.0);
     const QSizeF natural = item.getItemSize();
     EXPECT_NEAR(natural.width(), page.ink().width(), 4.0);
@@ -156,7 +157,7 @@ TEST(RichText, OfPlainTextTakesTheWidthThatItNeeds)
 TEST(RichText, ShrunkToItsTextIsPaintedOnAsManyLinesAsMeasured)
 {
     Painted page;
-    auto& item = dynamic_cast<RichTextItem&>(putRich(page, QStringLiteral("some few words")));
+    auto& item = dynamic_cast<RichTextItem&>(putRich(page, u"some few words"_s));
     item.adjustBoxSizeToContent(150.0);
     EXPECT_LT(page.ink().height(), 16);
     EXPECT_EQ(page.ink().left(), 50);
@@ -166,8 +167,8 @@ TEST(RichText, FontSizesThatNoLabelHasAreBounded)
 {
     Painted page;
     auto& item = page.make<RichTextItem>(KestTypes::RichText);
-    item.setHtml(QStringLiteral("<p><span style=\"font-size:1000000000pt\">Huge</span> and "
-                                "<span style=\"font-size:12pt\">small</span></p>"));
+    item.setHtml(u"<p><span style=\"font-size:1000000000pt\">Huge</span> and "
+                 "<span style=\"font-size:12pt\">small</span></p>"_s);
     item.adjustBoxSizeToContent(150.0);
     EXPECT_FALSE(page.image().isNull());
     EXPECT_LT(item.getItemHeight(), 100'000.0);
@@ -179,12 +180,12 @@ TEST(SimpleText, WithoutASizeFillsItsBox)
     auto& item = page.make<TextItem>(KestTypes::SimpleText);
     item.setItemSize(QSizeF(160.0, 80.0));
     item.setPos(20.0, 10.0);
-    item.setText(QStringLiteral("HHHHHHHH"));
+    item.setText(u"HHHHHHHH"_s);
     const QRect wide = page.ink();
     EXPECT_GT(wide.width(), 145);
     EXPECT_LE(wide.width(), 160);
 
-    item.setText(QStringLiteral("H")); // now the height limits it
+    item.setText(u"H"_s); // now the height limits it
     EXPECT_NEAR(page.ink().height(), 80.0 * capHeight() / 1.15, 5.0);
     item.setItemSize(QSizeF(160.0, 20.0));
     EXPECT_LT(page.ink().height(), 20);
@@ -195,7 +196,7 @@ TEST(SimpleText, ThatFillsItsBoxIsAlignedInWhatIsLeft)
     Painted page;
     auto& item = page.make<TextItem>(KestTypes::SimpleText);
     item.setItemSize(QSizeF(160.0, 40.0));
-    item.setText(QStringLiteral("H"));
+    item.setText(u"H"_s);
     EXPECT_LT(page.ink().left(), 10);
     item.setTextAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     EXPECT_NEAR(page.ink().center().x(), 80, 2);
@@ -209,7 +210,7 @@ TEST(SimpleText, OfNoTextFillsNothing)
     auto& item = page.make<TextItem>(KestTypes::SimpleText);
     item.setItemSize(QSizeF(160.0, 40.0));
     EXPECT_TRUE(page.ink().isEmpty());
-    item.setText(QStringLiteral("\n\n"));
+    item.setText(u"\n\n"_s);
     EXPECT_TRUE(page.ink().isEmpty());
 }
 
@@ -218,7 +219,7 @@ TEST(SimpleText, WithASizeHasIt)
     Painted page;
     auto& item = page.make<TextItem>(KestTypes::SimpleText);
     item.setItemSize(QSizeF(160.0, 80.0));
-    item.setText(kBlock);
+    item.setText(BlockText);
     item.setFontPointSize(12);
     EXPECT_NEAR(inkOf(page.image(288.0)).height(), 12 * capHeight() * 4.0, 2.0);
 }
@@ -226,18 +227,18 @@ TEST(SimpleText, WithASizeHasIt)
 TEST(SimpleText, AnEmptySizeDoesNotScale)
 {
     Painted page;
-    putLabel(page, kBlock, 0, 3, QSizeF(160.0, 80.0));
+    putLabel(page, BlockText, 0, 3, QSizeF(160.0, 80.0));
     EXPECT_NEAR(inkOf(page.image(288.0)).height(), 12 * capHeight() * 4.0, 2.0);
 }
 
 TEST(SimpleText, AFreeBoxFollowsTheText)
 {
     Painted page;
-    auto& item = putLabel(page, kBlock, 20);
+    auto& item = putLabel(page, BlockText, 20);
     const QSizeF size = item.getItemSize();
     EXPECT_NEAR(size.width(), page.ink().width(), 4.0);
     EXPECT_NEAR(size.height(), 23.0, 2.0);
-    item.setText(kBlock + kBlock);
+    item.setText(BlockText + BlockText);
     EXPECT_NEAR(item.getItemWidth(), 2.0 * size.width(), 0.5);
     item.setFontPointSize(40);
     EXPECT_NEAR(item.getItemHeight(), 2.0 * size.height(), 1.0);
@@ -246,7 +247,7 @@ TEST(SimpleText, AFreeBoxFollowsTheText)
 TEST(SimpleText, AFixedWidthBreaksLinesAndTheHeightFollows)
 {
     Painted page;
-    auto& item = putLabel(page, QStringLiteral("HHHH HHHH HHHH"), 12, 1, QSizeF(50.0, 5.0));
+    auto& item = putLabel(page, u"HHHH HHHH HHHH"_s, 12, 1, QSizeF(50.0, 5.0));
     EXPECT_EQ(item.getItemWidth(), 50.0);
     EXPECT_NEAR(item.getItemHeight(), 3 * 13.8, 2.0);
     EXPECT_LE(page.ink().width(), 50);
@@ -255,7 +256,7 @@ TEST(SimpleText, AFixedWidthBreaksLinesAndTheHeightFollows)
 TEST(SimpleText, AFixedHeightLeavesTheWidthToTheText)
 {
     Painted page;
-    auto& item = putLabel(page, QStringLiteral("HHHH HHHH HHHH"), 12, 2, QSizeF(5.0, 70.0));
+    auto& item = putLabel(page, u"HHHH HHHH HHHH"_s, 12, 2, QSizeF(5.0, 70.0));
     EXPECT_EQ(item.getItemHeight(), 70.0);
     EXPECT_GT(item.getItemWidth(), 100.0);
     EXPECT_LT(page.ink().height(), 14);
@@ -263,10 +264,10 @@ TEST(SimpleText, AFixedHeightLeavesTheWidthToTheText)
 
 TEST(SimpleText, ABoxFixedOnBothSidesStaysAndAlignsItsText)
 {
-    for (const AlignmentRow& row : kAlignments) {
+    for (const AlignmentRow& row : AlignmentRows) {
         SCOPED_TRACE(row.alignment.toInt());
         Painted page;
-        auto& item = putLabel(page, kBlock, 12, 3, QSizeF(100.0, 60.0));
+        auto& item = putLabel(page, BlockText, 12, 3, QSizeF(100.0, 60.0));
         item.setTextAlignment(row.alignment);
         item.setPos(50.0, 20.0);
         EXPECT_EQ(item.getItemSize(), QSizeF(100.0, 60.0));
@@ -279,7 +280,7 @@ TEST(SimpleText, StyleFlagsAreBoldItalicUnderlined)
     Painted page;
     auto& item = page.make<SimpleTextItem>(KestTypes::SimpleText);
     const auto fontAfter = [&item](bool bold, bool italic, bool underline) {
-        item.importTextProperties(kBlock, 12, bold, italic, underline, Qt::AlignLeft);
+        item.importTextProperties(BlockText, 12, bold, italic, underline, Qt::AlignLeft);
         return *dynamic_cast<workbench::CanvasItem&>(item).values().font;
     };
     EXPECT_TRUE(fontAfter(true, false, false).bold);
@@ -291,11 +292,11 @@ TEST(SimpleText, StyleFlagsAreBoldItalicUnderlined)
 TEST(SimpleText, IsRotatedAboutTheCenterOfItsTextsBox)
 {
     Painted page;
-    auto& item = putLabel(page, kBlock, 20);
+    auto& item = putLabel(page, BlockText, 20);
     item.setPos(60.0, 40.0);
     const QPointF center = item.sceneBoundingRect().center();
     item.setItemRotation(90.0);
-    item.setText(kBlock + kBlock);
+    item.setText(BlockText + BlockText);
     item.setItemRotation(0.0);
     item.setItemRotation(180.0);
     EXPECT_NEAR(item.sceneBoundingRect().center().y(), center.y(), 1.0);
@@ -309,7 +310,7 @@ TEST(TextGround, AFillAndAFrameAreBehindTheText)
         auto& item = page.make<TextItem>(type);
         item.setItemSize(QSizeF(100.0, 60.0));
         item.setPos(50.0, 20.0);
-        item.setText(kBlock);
+        item.setText(BlockText);
         item.setFillColor(Qt::yellow);
         EXPECT_EQ(page.at(148, 78), QColor(Qt::yellow));
         EXPECT_EQ(page.ink(), QRect(50, 20, 100, 60));
@@ -328,7 +329,7 @@ TEST(TextGround, CharactersHaveTheTextColor)
         Painted page;
         auto& item = page.make<TextItem>(type);
         item.setItemSize(QSizeF(150.0, 90.0));
-        item.setText(kBlock);
+        item.setText(BlockText);
         item.setFontPointSize(40);
         item.setTextColor(Qt::red);
         item.setPenColor(Qt::blue);
@@ -341,7 +342,7 @@ TEST(TextGround, CharactersHaveTheTextColor)
 TEST(TextGround, FlipsMirrorTheCharacters)
 {
     Painted page;
-    auto& item = putRich(page, QStringLiteral("L"));
+    auto& item = putRich(page, u"L"_s);
     item.setFontPointSize(40);
     const QImage plain = page.image().copy(50, 20, 100, 60);
     item.setFlipHorizontal(true);
@@ -353,16 +354,16 @@ TEST(TextFont, FamilyAndStyleAreSeen)
 {
     const auto painted = [](const QString& family, bool bold, bool italic, bool underline) {
         Painted page;
-        auto& item = putRich(page, QStringLiteral("Handling"));
+        auto& item = putRich(page, u"Handling"_s);
         item.setFontFamily(family);
         item.setFontBold(bold);
         item.setFontItalic(italic);
         item.setFontUnderline(underline);
         return page.image();
     };
-    const QString sans = QStringLiteral("Liberation Sans");
+    const QString sans = u"Liberation Sans"_s;
     const QImage plain = painted(sans, false, false, false);
-    EXPECT_NE(painted(QStringLiteral("Liberation Serif"), false, false, false), plain);
+    EXPECT_NE(painted(u"Liberation Serif"_s, false, false, false), plain);
     EXPECT_NE(painted(sans, true, false, false), plain);
     EXPECT_NE(painted(sans, false, true, false), plain);
     EXPECT_NE(painted(sans, false, false, true), plain);
@@ -372,7 +373,7 @@ TEST(TextFont, FamiliesOfOtherSystemsAreReplacedByThoseOfTheSameWidths)
 {
     const auto painted = [](const char* family) {
         Painted page;
-        putRich(page, QStringLiteral("Handling")).setFontFamily(QString::fromLatin1(family));
+        putRich(page, u"Handling"_s).setFontFamily(QString::fromLatin1(family));
         return page.image();
     };
     EXPECT_EQ(painted("Times New Roman"), painted("Liberation Serif"));
@@ -385,7 +386,7 @@ TEST(TextFont, ANumberedNameFindsItsFamily)
 {
     const auto painted = [](const char* family) {
         Painted page;
-        putRich(page, QStringLiteral("Handling")).setFontFamily(QString::fromLatin1(family));
+        putRich(page, u"Handling"_s).setFontFamily(QString::fromLatin1(family));
         return page.image();
     };
     EXPECT_EQ(painted("Times New Roman1"), painted("Liberation Serif"));
@@ -398,8 +399,8 @@ TEST(TextFont, ANumberedNameInADocumentFindsItsFamily)
     const auto painted = [](const char* family) {
         Painted page;
         auto& item = putRich(page, QString());
-        item.setHtml(QStringLiteral("<p><span style=\"font-family:'%1'\">Handling</span></p>")
-                         .arg(QString::fromLatin1(family)));
+        item.setHtml(u"<p><span style=\"font-family:'%1'\">Handling</span></p>"_s.arg(
+            QString::fromLatin1(family)));
         return page.image();
     };
     EXPECT_EQ(painted("Courier New1"), painted("Liberation Mono"));
@@ -412,9 +413,9 @@ TEST(TextSize, LinesAreAsHighAsTheFontSays)
     constexpr double share = 1.117;
     for (const int size : {5, 7, 9, 40}) {
         workbench::FontValues font;
-        font.family = QStringLiteral("Liberation Sans");
-        const workbench::PlainText text{QStringLiteral("one\ntwo\nthree"),
-                                        workbench::toFont(font, size), Qt::AlignLeft};
+        font.family = u"Liberation Sans"_s;
+        const workbench::PlainText text{u"one\ntwo\nthree"_s, workbench::toFont(font, size),
+                                        Qt::AlignLeft};
         EXPECT_NEAR(workbench::measureText(text, 0.0).height(), 3 * share * size, 0.05) << size;
     }
 }
@@ -422,11 +423,11 @@ TEST(TextSize, LinesAreAsHighAsTheFontSays)
 TEST(RichText, InANarrowBoxBreaksBetweenWordsFirst)
 {
     workbench::FontValues font;
-    font.family = QStringLiteral("Liberation Sans");
-    workbench::PlainText text{QStringLiteral("weight"), workbench::toFont(font, 10), Qt::AlignLeft};
+    font.family = u"Liberation Sans"_s;
+    workbench::PlainText text{u"weight"_s, workbench::toFont(font, 10), Qt::AlignLeft};
     const double word = workbench::measureText(text, 0.0).width();
     const double line = workbench::measureText(text, 0.0).height();
-    text.text = QStringLiteral("net weight");
+    text.text = u"net weight"_s;
     text.wraps = true;
     EXPECT_NEAR(workbench::measureText(text, word + 1.0).height(), 2 * line, 0.01);
     EXPECT_LE(workbench::measureText(text, word + 1.0).width(), word + 0.5);

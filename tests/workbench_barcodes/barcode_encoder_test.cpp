@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench::barcodes;
 using testing::HasSubstr;
 
@@ -32,8 +34,9 @@ void expectSound(const BarcodeSymbol& symbol)
     EXPECT_FALSE(symbol.bars.isEmpty() && symbol.coloredBars.isEmpty() &&
                  symbol.hexagons.isEmpty() && symbol.circles.isEmpty());
     const QRectF whole = QRectF(QPointF(), symbol.size).adjusted(-0.01, -0.01, 0.01, 0.01);
-    for (const QRectF& bar : symbol.bars)
+    for (const QRectF& bar : symbol.bars) {
         ASSERT_TRUE(whole.contains(bar));
+    }
 }
 
 } // namespace
@@ -42,14 +45,15 @@ TEST(BarcodeEncoder, CountsInModules)
 {
     // Eleven modules per character, two start and stop characters and a check character, and
     // a final bar of two.
-    const BarcodeSymbol symbol = encode(request(20, QStringLiteral("AB")));
+    const BarcodeSymbol symbol = encode(request(20, u"AB"_s));
     ASSERT_TRUE(symbol.isValid());
     EXPECT_DOUBLE_EQ(symbol.size.width(), 11.0 * 5 + 2.0);
     EXPECT_FALSE(symbol.fixedRatio);
-    for (const QRectF& bar : symbol.bars)
+    for (const QRectF& bar : symbol.bars) {
         EXPECT_DOUBLE_EQ(bar.width(), std::round(bar.width()));
+    }
 
-    const BarcodeSymbol matrix = encode(request(58, QStringLiteral("1")));
+    const BarcodeSymbol matrix = encode(request(58, u"1"_s));
     EXPECT_EQ(matrix.size, QSizeF(21, 21));
     EXPECT_TRUE(matrix.fixedRatio);
 }
@@ -64,44 +68,42 @@ TEST(BarcodeEncoder, EverySampleIsSound)
 
 TEST(BarcodeEncoder, CaptionsWhatALinearSymbologyHolds)
 {
-    EXPECT_EQ(encode(request(8, QStringLiteral("AB"))).caption, QStringLiteral("*AB*"));
-    EXPECT_EQ(encode(request(13, QStringLiteral("590123412345"))).caption,
-              QStringLiteral("5901234123457"));
-    EXPECT_EQ(encode(request(16, QStringLiteral("(01)09501101530003"))).caption,
-              QStringLiteral("(01)09501101530003"));
-    EXPECT_EQ(encode(request(58, QStringLiteral("AB"))).caption, QString());
-    BarcodeRequest silent = request(8, QStringLiteral("AB"));
+    EXPECT_EQ(encode(request(8, u"AB"_s)).caption, u"*AB*"_s);
+    EXPECT_EQ(encode(request(13, u"590123412345"_s)).caption, u"5901234123457"_s);
+    EXPECT_EQ(encode(request(16, u"(01)09501101530003"_s)).caption, u"(01)09501101530003"_s);
+    EXPECT_EQ(encode(request(58, u"AB"_s)).caption, QString());
+    BarcodeRequest silent = request(8, u"AB"_s);
     silent.flag3 = false;
     EXPECT_EQ(encode(silent).caption, QString());
 }
 
 TEST(BarcodeEncoder, SurroundsWithBlankMarginsOrBarsOnRequest)
 {
-    const BarcodeSymbol plain = encode(request(20, QStringLiteral("AB")));
-    BarcodeRequest blank = request(20, QStringLiteral("AB"));
+    const BarcodeSymbol plain = encode(request(20, u"AB"_s));
+    BarcodeRequest blank = request(20, u"AB"_s);
     blank.flag1 = true;
     EXPECT_DOUBLE_EQ(encode(blank).size.width(), plain.size.width() + 20.0);
-    BarcodeRequest barred = request(20, QStringLiteral("AB"));
+    BarcodeRequest barred = request(20, u"AB"_s);
     barred.flag2 = true;
     EXPECT_EQ(encode(barred).bars.size(), plain.bars.size() + 2);
-    BarcodeRequest matrix = request(58, QStringLiteral("AB"));
+    BarcodeRequest matrix = request(58, u"AB"_s);
     matrix.flag2 = true;
-    EXPECT_EQ(encode(matrix).bars, encode(request(58, QStringLiteral("AB"))).bars);
+    EXPECT_EQ(encode(matrix).bars, encode(request(58, u"AB"_s)).bars);
 }
 
 TEST(BarcodeEncoder, TakesTheSettingsOfTheSymbology)
 {
     const auto widthOf = [](const BarcodeRequest& each) { return encode(each).size.width(); };
-    BarcodeRequest check = request(8, QStringLiteral("AB"));
+    BarcodeRequest check = request(8, u"AB"_s);
     const double unchecked = widthOf(check);
     check.option = 1;
     EXPECT_DOUBLE_EQ(widthOf(check), unchecked + 13.0) << "one character more, with its gap";
 
-    BarcodeRequest columns = request(55, QStringLiteral("columns"));
+    BarcodeRequest columns = request(55, u"columns"_s);
     columns.option = 7;
     EXPECT_DOUBLE_EQ(widthOf(columns), 17.0 * (7 + 4) + 1.0);
 
-    BarcodeRequest version = request(58, QStringLiteral("A"));
+    BarcodeRequest version = request(58, u"A"_s);
     version.number = 10;
     EXPECT_DOUBLE_EQ(widthOf(version), 17.0 + 4.0 * 10);
 
@@ -113,10 +115,11 @@ TEST(BarcodeEncoder, TakesTheSettingsOfTheSymbology)
 
 TEST(BarcodeEncoder, LeavesOutSettingsThatCannotBe)
 {
-    const BarcodeRequest plain = request(58, QStringLiteral("A"));
-    for (const int number : {-1, 41, 1'000'000})
+    const BarcodeRequest plain = request(58, u"A"_s);
+    for (const int number : {-1, 41, 1'000'000}) {
         EXPECT_EQ(encode({58, plain.content, true, false, false, 0, number, 0}).size,
                   encode(plain).size);
+    }
     EXPECT_EQ(encode({58, plain.content, true, false, false, 0, 0, 99}).bars, encode(plain).bars);
     const BarcodeSymbol tooSmall = encode({58, QString(500, u'x'), true, false, false, 0, 1, 0});
     EXPECT_TRUE(tooSmall.isValid()) << "the content counts more than the size";
@@ -151,24 +154,25 @@ TEST(BarcodeEncoder, ExplainsWhatCannotBeEncoded)
 TEST(BarcodeEncoder, SurvivesEveryCharacterInEverySymbology)
 {
     QString all;
-    for (char16_t c = 0; c < 256; ++c)
+    for (char16_t c = 0; c < 256; ++c) {
         all += QChar(c);
+    }
     const QString loneSurrogate(QChar(0xd800));
     for (const Symbology& symbology : symbologies()) {
         SCOPED_TRACE(symbology.code);
         expectSound(encode(request(symbology.code, all)));
         expectSound(encode(request(symbology.code, loneSurrogate)));
-        expectSound(encode(request(symbology.code, QStringLiteral("1|") + all)));
-        for (const QChar c : all)
+        expectSound(encode(request(symbology.code, u"1|"_s + all)));
+        for (const QChar c : all) {
             expectSound(encode(request(symbology.code, c)));
+        }
     }
 }
 
 TEST(BarcodeEncoder, SurvivesContentsOfEveryLength)
 {
-    const QString units[] = {QStringLiteral("1"),    QStringLiteral("A"), QStringLiteral("a1-"),
-                             QString(QChar(0x4e2d)), QString(QChar(0)),   QStringLiteral("[01]"),
-                             QStringLiteral("1|")};
+    const QString units[] = {u"1"_s,    u"A"_s, u"a1-"_s, QString(QChar(0x4e2d)), QString(QChar(0)),
+                             u"[01]"_s, u"1|"_s};
     for (const Symbology& symbology : symbologies()) {
         for (const QString& unit : units) {
             for (const qsizetype length : {60, 2'000, 17'400, 100'000}) {
@@ -179,15 +183,16 @@ TEST(BarcodeEncoder, SurvivesContentsOfEveryLength)
         }
     }
     const BarcodeSymbol tooLong = encode(request(20, QString(MaximumContent + 1, u'1')));
-    EXPECT_EQ(tooLong.error, QStringLiteral("Code 128: the content is too long for any barcode."));
+    EXPECT_EQ(tooLong.error, u"Code 128: the content is too long for any barcode."_s);
 }
 
 TEST(BarcodeEncoder, SurvivesEverySetting)
 {
     for (const samples::Sample& sample : samples::Samples) {
         SCOPED_TRACE(sample.code);
-        for (const int setting : {-2'147'483'647 - 1, -1, 0, 1, 2, 7, 40, 99, 2'147'483'647})
+        for (const int setting : {-2'147'483'647 - 1, -1, 0, 1, 2, 7, 40, 99, 2'147'483'647}) {
             expectSound(encode({sample.code, QString::fromUtf16(sample.content), true, true, true,
                                 setting, setting, setting}));
+        }
     }
 }

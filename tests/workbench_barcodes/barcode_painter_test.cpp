@@ -8,18 +8,20 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench::barcodes;
 
 namespace {
 
 BarcodeSymbol linear(bool caption = false)
 {
-    return encode({20, QStringLiteral("AB"), caption});
+    return encode({20, u"AB"_s, caption});
 }
 
 BarcodeSymbol matrix()
 {
-    return encode({58, QStringLiteral("1")});
+    return encode({58, u"1"_s});
 }
 
 BarcodeStyle plainStyle()
@@ -46,8 +48,9 @@ QRect inked(const QImage& image)
     QRect rect;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) != QColor(Qt::white))
+            if (image.pixelColor(x, y) != QColor(Qt::white)) {
                 rect |= QRect(x, y, 1, 1);
+            }
         }
     }
     return rect;
@@ -152,8 +155,9 @@ TEST(BarcodePainter, TakesItsColors)
     EXPECT_EQ(image.pixelColor(inked(image).left() + 1, 10), QColor(Qt::blue));
     bool redBelow = false;
     for (int y = 90; y < 120; ++y) {
-        for (int x = 0; x < 250; ++x)
+        for (int x = 0; x < 250; ++x) {
             redBelow = redBelow || image.pixelColor(x, y) == QColor(Qt::red);
+        }
     }
     EXPECT_TRUE(redBelow);
 }

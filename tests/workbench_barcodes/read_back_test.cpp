@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <cstdio>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench::barcodes;
 using samples::Reads;
 using samples::Sample;
@@ -68,8 +70,9 @@ ZXing::Result readBack(const QImage& image, Reads reads, bool extended = false)
 
 QSizeF boxOf(int code)
 {
-    if (findSymbology(code)->matrix && encode({code, QStringLiteral("1")}).fixedRatio)
+    if (findSymbology(code)->matrix && encode({code, u"1"_s}).fixedRatio) {
         return {100.0, 100.0};
+    }
     return {260.0, 90.0};
 }
 
@@ -91,7 +94,7 @@ TEST(ReadBack, EverySymbologyIsEncodedAndReadByAnIndependentDecoder)
         const BarcodeSymbol symbol = encode(request);
         EXPECT_EQ(symbol.error.toStdString(), "");
         encoded += symbol.isValid() ? 1 : 0;
-        QString answer = QStringLiteral("the decoder does not know it");
+        QString answer = u"the decoder does not know it"_s;
         if (sample.reads != Reads::None) {
             const ZXing::Result result = readBack(printed(request, boxOf(sample.code)),
                                                   sample.reads, sample.code == ExtendedCode39);
@@ -99,7 +102,7 @@ TEST(ReadBack, EverySymbologyIsEncodedAndReadByAnIndependentDecoder)
             EXPECT_TRUE(result.isValid()) << ZXing::ToString(result.error());
             EXPECT_EQ(text.toStdString(), expectedText(sample).toStdString());
             read += result.isValid() ? 1 : 0;
-            answer = result.isValid() ? u'"' + text + u'"' : QStringLiteral("NOT READ");
+            answer = result.isValid() ? u'"' + text + u'"' : u"NOT READ"_s;
         }
         std::printf("%4d  %-48s %-8s %s\n", sample.code,
                     symbologyName(sample.code).toUtf8().constData(),
@@ -112,8 +115,7 @@ TEST(ReadBack, EverySymbologyIsEncodedAndReadByAnIndependentDecoder)
 
 TEST(ReadBack, ShortArticleNumbersAreReadToo)
 {
-    const ZXing::Result result =
-        readBack(printed({13, QStringLiteral("1234567")}, {120.0, 60.0}), Reads::EAN8);
+    const ZXing::Result result = readBack(printed({13, u"1234567"_s}, {120.0, 60.0}), Reads::EAN8);
     EXPECT_EQ(result.text(), "12345670");
 }
 
@@ -121,13 +123,14 @@ TEST(ReadBack, BarcodesAreReadHoweverTheyAreTurned)
 {
     for (const double degrees : {90.0, 180.0, 270.0, 17.0}) {
         SCOPED_TRACE(degrees);
-        const ZXing::Result matrix = readBack(
-            printed({58, QStringLiteral("turned")}, {100.0, 100.0}, degrees), Reads::QRCode);
+        const ZXing::Result matrix =
+            readBack(printed({58, u"turned"_s}, {100.0, 100.0}, degrees), Reads::QRCode);
         EXPECT_EQ(matrix.text(), "turned");
-        if (degrees == 17.0)
+        if (degrees == 17.0) {
             continue;
-        const ZXing::Result linear = readBack(
-            printed({20, QStringLiteral("turned")}, {200.0, 60.0}, degrees), Reads::Code128);
+        }
+        const ZXing::Result linear =
+            readBack(printed({20, u"turned"_s}, {200.0, 60.0}, degrees), Reads::Code128);
         EXPECT_EQ(linear.text(), "turned");
     }
 }
@@ -140,14 +143,14 @@ TEST(ReadBack, SettingsKeepBarcodesReadable)
         Reads reads;
         const char* text;
     } rows[] = {
-        {{8, QStringLiteral("CHECK"), true, false, false, 1, 0, 0}, Reads::Code39, "CHECKW"},
-        {{3, QStringLiteral("1234567"), true, false, false, 1, 0, 0}, Reads::ITF, "12345670"},
-        {{20, QStringLiteral("bars"), true, true, true, 0, 0, 0}, Reads::Code128, "bars"},
-        {{20, QStringLiteral("no text"), false, false, false, 0, 0, 0}, Reads::Code128, "no text"},
-        {{55, QStringLiteral("columns"), true, false, false, 6, 0, 4}, Reads::PDF417, "columns"},
-        {{58, QStringLiteral("level"), true, true, false, 0, 10, 4}, Reads::QRCode, "level"},
-        {{71, QStringLiteral("size"), true, false, false, 0, 8, 0}, Reads::DataMatrix, "size"},
-        {{92, QStringLiteral("level"), true, false, false, 0, 0, 4}, Reads::Aztec, "level"},
+        {{8, u"CHECK"_s, true, false, false, 1, 0, 0}, Reads::Code39, "CHECKW"},
+        {{3, u"1234567"_s, true, false, false, 1, 0, 0}, Reads::ITF, "12345670"},
+        {{20, u"bars"_s, true, true, true, 0, 0, 0}, Reads::Code128, "bars"},
+        {{20, u"no text"_s, false, false, false, 0, 0, 0}, Reads::Code128, "no text"},
+        {{55, u"columns"_s, true, false, false, 6, 0, 4}, Reads::PDF417, "columns"},
+        {{58, u"level"_s, true, true, false, 0, 10, 4}, Reads::QRCode, "level"},
+        {{71, u"size"_s, true, false, false, 0, 8, 0}, Reads::DataMatrix, "size"},
+        {{92, u"level"_s, true, false, false, 0, 0, 4}, Reads::Aztec, "level"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);

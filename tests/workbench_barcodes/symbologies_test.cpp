@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <zint.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench::barcodes;
 
 TEST(Symbologies, AreThoseOfTheEncoder)
@@ -25,20 +27,23 @@ TEST(Symbologies, AreTwoDimensionalWhereTheirModulesAreSquare)
             EXPECT_TRUE(each.matrix) << each.code;
         }
     }
-    for (const int rows : {23, 24, 55, 56, 74, 84, 106, 108, 110})
+    for (const int rows : {23, 24, 55, 56, 74, 84, 106, 108, 110}) {
         EXPECT_TRUE(isMatrix(rows)) << rows;
-    for (const int oneLine : {1, 3, 8, 13, 16, 18, 20, 25, 29, 34, 40, 51, 60, 69, 79, 85, 140})
+    }
+    for (const int oneLine : {1, 3, 8, 13, 16, 18, 20, 25, 29, 34, 40, 51, 60, 69, 79, 85, 140}) {
         EXPECT_TRUE(isLinear(oneLine)) << oneLine;
+    }
 }
 
 TEST(Symbologies, HaveNamesOfTheirOwn)
 {
     QSet<QString> names;
-    for (const Symbology& each : symbologies())
+    for (const Symbology& each : symbologies()) {
         names.insert(QString::fromLatin1(each.name));
+    }
     EXPECT_EQ(names.size(), static_cast<qsizetype>(symbologies().size()));
-    EXPECT_EQ(symbologyName(58), QStringLiteral("QR Code"));
-    EXPECT_EQ(symbologyName(5), QStringLiteral("barcode kind 5"));
+    EXPECT_EQ(symbologyName(58), u"QR Code"_s);
+    EXPECT_EQ(symbologyName(5), u"barcode kind 5"_s);
 }
 
 TEST(Symbologies, HaveSensibleRanges)

@@ -2,14 +2,16 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using Controller = workbench::datasources::DatasourceController;
 using workbench::datasources::SourceValues;
 
 namespace {
 
-const QString Sequence = QStringLiteral("SequenceDatasource");
-const QString System = QStringLiteral("SystemDatasource");
-const QString TextList = QStringLiteral("TextListDatasource");
+const QString Sequence = u"SequenceDatasource"_s;
+const QString System = u"SystemDatasource"_s;
+const QString TextList = u"TextListDatasource"_s;
 
 /// Creates and fills a source as an importer does.
 int create(::DatasourceController& controller, const QString& kind, const QString& property,
@@ -42,8 +44,7 @@ TEST(DatasourceController, CreatesANewSourceEachTime)
 TEST(DatasourceController, KnowsNoOtherKinds)
 {
     Controller controller;
-    EXPECT_EQ(controller.createDatasource(QStringLiteral("sequencedatasource")),
-              Controller::NoSource);
+    EXPECT_EQ(controller.createDatasource(u"sequencedatasource"_s), Controller::NoSource);
     EXPECT_EQ(controller.getDatasource(Controller::NoSource), nullptr);
     EXPECT_EQ(controller.getDatasource(0), nullptr);
     EXPECT_FALSE(controller.recordText(7, 0));
@@ -54,20 +55,19 @@ TEST(DatasourceController, HasAsManyRecordsAsItsLongestSource)
 {
     Controller controller;
     EXPECT_EQ(controller.recordCount(), 1);
-    const int list = create(controller, TextList, QStringLiteral("TextList"),
-                            QStringList{QStringLiteral("a"), QStringLiteral("b")});
-    const int numbers = create(controller, Sequence, QStringLiteral("End"), 4);
+    const int list = create(controller, TextList, u"TextList"_s, QStringList{u"a"_s, u"b"_s});
+    const int numbers = create(controller, Sequence, u"End"_s, 4);
     EXPECT_EQ(controller.recordCount(), 5);
-    EXPECT_EQ(controller.recordText(numbers, 4), QStringLiteral("4"));
-    EXPECT_EQ(controller.recordText(list, 4), QStringLiteral("a"));
+    EXPECT_EQ(controller.recordText(numbers, 4), u"4"_s);
+    EXPECT_EQ(controller.recordText(list, 4), u"a"_s);
 }
 
 TEST(DatasourceController, GivesBackWhatItHolds)
 {
     Controller controller;
-    create(controller, Sequence, QStringLiteral("Prefix"), QStringLiteral("No. "));
-    create(controller, System, QStringLiteral("DateFormat"), QStringLiteral("yyyy"));
-    create(controller, TextList, QStringLiteral("TextList"), QStringList{QString(), QString()});
+    create(controller, Sequence, u"Prefix"_s, u"No. "_s);
+    create(controller, System, u"DateFormat"_s, u"yyyy"_s);
+    create(controller, TextList, u"TextList"_s, QStringList{QString(), QString()});
     const QList<SourceValues> values = controller.values();
     ASSERT_EQ(values.size(), 3);
 
@@ -84,7 +84,7 @@ TEST(DatasourceController, RefusesValuesThatDoNotFitTogether)
     Controller controller;
     ASSERT_TRUE(controller.setValues({{5, Sequence, {}, {}}}));
     EXPECT_FALSE(controller.setValues({{0, Sequence, {}, {}}}));
-    EXPECT_FALSE(controller.setValues({{1, QStringLiteral("Unknown"), {}, {}}}));
+    EXPECT_FALSE(controller.setValues({{1, u"Unknown"_s, {}, {}}}));
     EXPECT_FALSE(controller.setValues({{1, Sequence, {}, {}}, {1, System, {}, {}}}));
     EXPECT_EQ(controller.ids(), QList<int>{5}) << "a refusal changes nothing";
     EXPECT_EQ(controller.createDatasource(System), 6);

@@ -6,6 +6,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench::datasources;
 
 namespace {
@@ -16,9 +18,9 @@ constexpr int Highest = std::numeric_limits<int>::max();
 SequenceSource sequence(int start, int end, int step)
 {
     SequenceSource source;
-    source.setDatasourceProperty(QStringLiteral("Start"), start);
-    source.setDatasourceProperty(QStringLiteral("End"), end);
-    source.setDatasourceProperty(QStringLiteral("Step"), step);
+    source.setDatasourceProperty(u"Start"_s, start);
+    source.setDatasourceProperty(u"End"_s, end);
+    source.setDatasourceProperty(u"Step"_s, step);
     return source;
 }
 
@@ -26,8 +28,8 @@ SystemSource systemSource(const QString& date, const QString& time)
 {
     const QDateTime moment(QDate(2024, 3, 5), QTime(14, 7, 9), Qt::UTC);
     SystemSource source([moment] { return moment; }, QLocale::c());
-    source.setDatasourceProperty(QStringLiteral("DateFormat"), date);
-    source.setDatasourceProperty(QStringLiteral("TimeFormat"), time);
+    source.setDatasourceProperty(u"DateFormat"_s, date);
+    source.setDatasourceProperty(u"TimeFormat"_s, time);
     return source;
 }
 
@@ -69,7 +71,7 @@ TEST(SequenceSource, IsOneZeroByDefault)
 {
     const SequenceSource source;
     EXPECT_EQ(source.recordCount(), 1);
-    EXPECT_EQ(source.value(0), QStringLiteral("0"));
+    EXPECT_EQ(source.value(0), u"0"_s);
 }
 
 TEST(SequenceSource, PutsTheNumberBetweenItsTextsAndFillsItUp)
@@ -82,9 +84,9 @@ TEST(SequenceSource, PutsTheNumberBetweenItsTextsAndFillsItUp)
                 {12345, 3, "<12345>"}, {-7, 4, "<-0007>"}, {Lowest, 12, "<-002147483648>"}};
     for (const auto& row : rows) {
         SequenceSource source = sequence(row.start, row.start, 1);
-        source.setDatasourceProperty(QStringLiteral("Prefix"), QStringLiteral("<"));
-        source.setDatasourceProperty(QStringLiteral("Suffix"), QStringLiteral(">"));
-        source.setDatasourceProperty(QStringLiteral("ZeroPad"), row.zeroPad);
+        source.setDatasourceProperty(u"Prefix"_s, u"<"_s);
+        source.setDatasourceProperty(u"Suffix"_s, u">"_s);
+        source.setDatasourceProperty(u"ZeroPad"_s, row.zeroPad);
         EXPECT_EQ(source.value(0), QString::fromUtf8(row.shown));
     }
     constexpr int most = SequenceSource::MaximumZeroPad;
@@ -92,7 +94,7 @@ TEST(SequenceSource, PutsTheNumberBetweenItsTextsAndFillsItUp)
         {most - 1, most - 1}, {most, most}, {most + 1, most}, {Highest, most}};
     for (const auto& [asked, given] : pads) {
         SequenceSource monstrous = sequence(1, 1, 1);
-        monstrous.setDatasourceProperty(QStringLiteral("ZeroPad"), asked);
+        monstrous.setDatasourceProperty(u"ZeroPad"_s, asked);
         EXPECT_EQ(monstrous.value(0)->size(), given);
     }
 }
@@ -100,14 +102,13 @@ TEST(SequenceSource, PutsTheNumberBetweenItsTextsAndFillsItUp)
 TEST(SequenceSource, KeepsWhatItCannotTakeAsItWas)
 {
     SequenceSource source = sequence(3, 5, 1);
-    source.setDatasourceProperty(QStringLiteral("Start"), QStringLiteral("three"));
-    source.setDatasourceProperty(QStringLiteral("start"), 9);
-    source.setDatasourceProperty(QStringLiteral("TextList"), QStringList{QStringLiteral("x")});
-    EXPECT_EQ(source.value(0), QStringLiteral("3"));
-    const QVariantMap expected{
-        {QStringLiteral("Prefix"), QString()}, {QStringLiteral("Suffix"), QString()},
-        {QStringLiteral("Start"), 3},          {QStringLiteral("End"), 5},
-        {QStringLiteral("Step"), 1},           {QStringLiteral("ZeroPad"), 0}};
+    source.setDatasourceProperty(u"Start"_s, u"three"_s);
+    source.setDatasourceProperty(u"start"_s, 9);
+    source.setDatasourceProperty(u"TextList"_s, QStringList{u"x"_s});
+    EXPECT_EQ(source.value(0), u"3"_s);
+    const QVariantMap expected{{u"Prefix"_s, QString()}, {u"Suffix"_s, QString()},
+                               {u"Start"_s, 3},          {u"End"_s, 5},
+                               {u"Step"_s, 1},           {u"ZeroPad"_s, 0}};
     EXPECT_EQ(source.properties(), expected);
 }
 
@@ -148,25 +149,25 @@ TEST(SystemSource, NamesDaysInTheLocale)
 {
     const QDateTime moment(QDate(2024, 3, 5), QTime(14, 7, 9), Qt::UTC);
     SystemSource source([moment] { return moment; }, QLocale(QLocale::German));
-    source.setDatasourceProperty(QStringLiteral("DateFormat"), QStringLiteral("dddd"));
-    EXPECT_EQ(source.value(0), QStringLiteral("Dienstag"));
+    source.setDatasourceProperty(u"DateFormat"_s, u"dddd"_s);
+    EXPECT_EQ(source.value(0), u"Dienstag"_s);
 }
 
 TEST(SystemSource, ShowsTheRequestedFields)
 {
-    SystemSource source = systemSource(QStringLiteral("yyyy"), QStringLiteral("hh"));
-    EXPECT_EQ(source.fields(), QStringList({QStringLiteral("Date"), QStringLiteral("Time")}));
-    EXPECT_EQ(source.value(0, {QStringLiteral("Time")}), QStringLiteral("14"));
-    EXPECT_EQ(source.value(0, {QStringLiteral("Nonsense")}), QStringLiteral("2024 14"));
-    source.setSelectedFields({QStringLiteral("Nonsense"), QStringLiteral("Date")});
-    EXPECT_EQ(source.selectedFields(), QStringList(QStringLiteral("Date")));
-    EXPECT_EQ(source.value(0), QStringLiteral("2024"));
-    EXPECT_EQ(source.value(0, {QStringLiteral("Time")}), QStringLiteral("14"));
+    SystemSource source = systemSource(u"yyyy"_s, u"hh"_s);
+    EXPECT_EQ(source.fields(), QStringList({u"Date"_s, u"Time"_s}));
+    EXPECT_EQ(source.value(0, {u"Time"_s}), u"14"_s);
+    EXPECT_EQ(source.value(0, {u"Nonsense"_s}), u"2024 14"_s);
+    source.setSelectedFields({u"Nonsense"_s, u"Date"_s});
+    EXPECT_EQ(source.selectedFields(), QStringList(u"Date"_s));
+    EXPECT_EQ(source.value(0), u"2024"_s);
+    EXPECT_EQ(source.value(0, {u"Time"_s}), u"14"_s);
 }
 
 TEST(SystemSource, ShowsNothingForAMonstrousFormat)
 {
-    const QString most = QStringLiteral("'x'").leftJustified(SystemSource::MaximumFormat);
+    const QString most = u"'x'"_s.leftJustified(SystemSource::MaximumFormat);
     EXPECT_TRUE(systemSource(most, {}).value(0)->startsWith(u'x'));
     EXPECT_EQ(systemSource(most + u' ', {}).value(0), QString());
 }
@@ -176,12 +177,10 @@ TEST(TextListSource, StepsThroughItsTexts)
     TextListSource source;
     EXPECT_EQ(source.recordCount(), 0);
     EXPECT_FALSE(source.value(0)) << "nothing to show: the item keeps its own text";
-    source.setDatasourceProperty(
-        QStringLiteral("TextList"),
-        QStringList{QStringLiteral("x"), QString(), QStringLiteral("y z")});
+    source.setDatasourceProperty(u"TextList"_s, QStringList{u"x"_s, QString(), u"y z"_s});
     EXPECT_EQ(source.recordCount(), 3);
-    EXPECT_EQ(source.value(0), QStringLiteral("x"));
+    EXPECT_EQ(source.value(0), u"x"_s);
     EXPECT_EQ(source.value(1), QString());
-    EXPECT_EQ(source.value(2), QStringLiteral("y z"));
-    EXPECT_EQ(source.value(3), QStringLiteral("x")) << "begins again";
+    EXPECT_EQ(source.value(2), u"y z"_s);
+    EXPECT_EQ(source.value(3), u"x"_s) << "begins again";
 }

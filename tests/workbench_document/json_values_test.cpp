@@ -10,6 +10,8 @@
 
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench::document;
 using fields::Json;
 
@@ -36,7 +38,7 @@ TEST(JsonValues, TakeWholeNumbersInTheirRange)
     EXPECT_TRUE(reads<int>(2147483647));
     EXPECT_FALSE(reads<int>(2147483648.0));
     EXPECT_FALSE(reads<int>(1.5));
-    EXPECT_FALSE(reads<int>(QStringLiteral("1")));
+    EXPECT_FALSE(reads<int>(u"1"_s));
     EXPECT_FALSE(reads<int>(true));
     EXPECT_TRUE(reads<quint16>(65535));
     EXPECT_FALSE(reads<quint16>(65536));
@@ -54,8 +56,8 @@ TEST(JsonValues, WriteInvalidNumbersAsZero)
 
 TEST(JsonValues, KeepTextsThatUnicodeDoesNotAllow)
 {
-    for (const QString& text : {QString(), QStringLiteral("\u00e4\"\\\n"), QString(QChar(0)),
-                                QString(QChar(0xd800)), QStringLiteral("a") + QChar(0xdc00)}) {
+    for (const QString& text : {QString(), u"\u00e4\"\\\n"_s, QString(QChar(0)),
+                                QString(QChar(0xd800)), u"a"_s + QChar(0xdc00)}) {
         QString read;
         ASSERT_TRUE(Json<QString>::read(Json<QString>::write(text), read));
         EXPECT_EQ(read, text);
@@ -74,8 +76,9 @@ TEST(JsonValues, WriteReadableColors)
     EXPECT_EQ(Json<QColor>::write(QColor::fromRgba64(1, 2, 3, 4)),
               QJsonValue(QLatin1String("#0004000100020003")));
     for (const char* text : {"", "#", "red", "#12345", "ff010203", "#ff01020g", "#+f010203",
-                             "#-f010203", "#ff0102030"})
+                             "#-f010203", "#ff0102030"}) {
         EXPECT_FALSE(reads<QColor>(QJsonValue(QLatin1String(text)))) << text;
+    }
     EXPECT_FALSE(reads<QColor>(QJsonValue(7)));
 }
 
@@ -93,8 +96,9 @@ TEST(JsonValues, TakePropertiesOfDataSources)
                                                {QLatin1String("b"), QLatin1String("x")},
                                                {QLatin1String("c"), QJsonArray()}}));
     for (const QJsonValue& bad : {QJsonValue(), QJsonValue(1.5), QJsonValue(true),
-                                  QJsonValue(QJsonArray{1}), QJsonValue(QJsonObject())})
+                                  QJsonValue(QJsonArray{1}), QJsonValue(QJsonObject())}) {
         EXPECT_FALSE(reads<QVariantMap>(QJsonObject{{QLatin1String("a"), bad}}));
+    }
 }
 
 TEST(JsonValues, TakeNoPictureThatIsDamagedOrTooLarge)

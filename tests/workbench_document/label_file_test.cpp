@@ -15,6 +15,8 @@
 #include <csignal>
 #include <sys/resource.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench;
 using namespace workbench::document;
 using testing::HasSubstr;
@@ -164,8 +166,9 @@ TEST_F(LabelFile, KeepsTheOldFileWhenTheDiskIsFull)
     {
         const FullDisk full(0);
         QFile probe(path("probe"));
-        if (probe.open(QIODevice::WriteOnly) && probe.write("x") == 1 && probe.flush())
+        if (probe.open(QIODevice::WriteOnly) && probe.write("x") == 1 && probe.flush()) {
             GTEST_SKIP() << "this system does not keep files to a size";
+        }
     }
     QFile::remove(path("probe"));
     ASSERT_EQ(saveLabel(path(), canvas, sources).toStdString(), "");
@@ -177,8 +180,9 @@ TEST_F(LabelFile, KeepsTheOldFileWhenTheDiskIsFull)
         const FullDisk full(room);
         errors << saveLabel(path(), canvas, sources);
     }
-    for (const QString& error : errors)
+    for (const QString& error : errors) {
         EXPECT_THAT(error.toStdString(), HasSubstr("The label cannot be saved as "));
+    }
     EXPECT_EQ(contentOf(path()), old);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1)
         << "nothing half done is left beside it";
@@ -200,10 +204,8 @@ TEST_F(LabelFile, ReplacesTheOldFileInOneStep)
 TEST_F(LabelFile, ShowsTheFirstRecordOfItsDataSources)
 {
     SavedLabel label;
-    label.datasources = {{1,
-                          QStringLiteral("TextListDatasource"),
-                          {{QStringLiteral("TextList"), QStringList{QStringLiteral("12345")}}},
-                          {}}};
+    label.datasources = {
+        {1, u"TextListDatasource"_s, {{u"TextList"_s, QStringList{u"12345"_s}}}, {}}};
     ItemValues barcode = sampleItem(KestTypes::Barcode);
     barcode.barcode->symbology = 8;
     barcode.barcode->content = QString(QChar(0xe4));

@@ -17,6 +17,8 @@
 
 #include <functional>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench;
 using namespace workbench::document;
 using testing::HasSubstr;
@@ -47,19 +49,15 @@ using Visit = std::function<void(const QJsonValue& whole)>;
 /// Calls visit with a copy of the value for every replacement of every part of it.
 void forEachReplacement(const QJsonValue& value, const Visit& visit)
 {
-    static const QJsonValue others[] = {QJsonValue(),
-                                        true,
-                                        -1.5,
-                                        7,
-                                        1e300,
-                                        -1e300,
-                                        QStringLiteral("x"),
-                                        QString(),
-                                        QJsonArray(),
-                                        QJsonArray{1e300, -1e300},
+    static const QJsonValue others[] = {QJsonValue(), true,
+                                        -1.5,         7,
+                                        1e300,        -1e300,
+                                        u"x"_s,       QString(),
+                                        QJsonArray(), QJsonArray{1e300, -1e300},
                                         QJsonObject()};
-    for (const QJsonValue& other : others)
+    for (const QJsonValue& other : others) {
         visit(other);
+    }
     if (value.isObject()) {
         const QJsonObject object = value.toObject();
         for (const QString& key : object.keys()) {
@@ -121,7 +119,7 @@ TEST(LabelJson, OpensAFileOfTheFirstVersion)
     EXPECT_EQ(read.label.page.size, QSizeF(283.5, 141.75));
     EXPECT_TRUE(read.label.page.orientation);
     ASSERT_EQ(read.label.datasources.size(), 1);
-    EXPECT_EQ(read.label.datasources[0].properties[QStringLiteral("ZeroPad")], QVariant(3));
+    EXPECT_EQ(read.label.datasources[0].properties[u"ZeroPad"_s], QVariant(3));
     ASSERT_EQ(read.label.items.size(), 1);
     const ItemValues& item = read.label.items[0];
     EXPECT_EQ(item.type, KestTypes::Rectangle);
@@ -135,11 +133,13 @@ TEST(LabelJson, OpensAFileOfTheFirstVersion)
 TEST(LabelJson, ReportsFilesThatAreNotLabels)
 {
     for (const QByteArray& other : {QByteArray("{}"), QByteArray("[]"),
-                                    QByteArray(R"({"format": "something", "version": 1})")})
+                                    QByteArray(R"({"format": "something", "version": 1})")}) {
         EXPECT_EQ(fromJson(other).error.toStdString(), "The file is not a saved label.");
-    for (const QByteArray& other : {QByteArray(), QByteArray("PK\3\4"), QByteArray("\0\0\0", 3)})
+    }
+    for (const QByteArray& other : {QByteArray(), QByteArray("PK\3\4"), QByteArray("\0\0\0", 3)}) {
         EXPECT_THAT(fromJson(other).error.toStdString(),
                     StartsWith("The file is not a saved label, or it is damaged: after "));
+    }
 }
 
 TEST(LabelJson, SaysThatANewerVersionIsNeeded)
@@ -147,10 +147,11 @@ TEST(LabelJson, SaysThatANewerVersionIsNeeded)
     EXPECT_EQ(errorOf(sampleWith("version", FormatVersion + 1)),
               "The label was saved by a newer version of the program: its format is 3, and this"
               " version knows formats up to 2. Update the program to open it.");
-    for (const QJsonValue& bad : {QJsonValue(0), QJsonValue(-1), QJsonValue(1.5),
-                                  QJsonValue(QStringLiteral("1")), QJsonValue(1e300)})
+    for (const QJsonValue& bad :
+         {QJsonValue(0), QJsonValue(-1), QJsonValue(1.5), QJsonValue(u"1"_s), QJsonValue(1e300)}) {
         EXPECT_EQ(errorOf(sampleWith("version", bad)),
                   "The label file is damaged: version is not a positive whole number.");
+    }
 }
 
 // Older programs open what they can.
@@ -161,7 +162,7 @@ TEST(LabelJson, HasTheOldestVersionThatHasAllParts)
     const workbench::datasources::CsvTable table =
         workbench::datasources::parseCsv("Name,Price\nApple,1\nPear,2\n");
     const QVariantMap properties = workbench::datasources::CsvSource::propertiesOf(
-        QStringLiteral("/a/fruit.csv"), {QLatin1Char(',')}, table);
+        u"/a/fruit.csv"_s, {QLatin1Char(',')}, table);
     label.datasources.append(
         {99, workbench::datasources::CsvSource::Kind.toString(), properties, {}});
     EXPECT_EQ(parsed(toJson(label)).value(QLatin1String("version")).toInt(), 2);
@@ -218,9 +219,10 @@ TEST(LabelJson, RefusesEveryTruncation)
 {
     const QByteArray whole = toJson(sampleLabel());
     ASSERT_EQ(whole.back(), '\n') << "the last byte is not part of the label";
-    for (qsizetype size = 0; size < whole.size() - 1; ++size)
+    for (qsizetype size = 0; size < whole.size() - 1; ++size) {
         ASSERT_THAT(fromJson(whole.left(size)).error.toStdString(),
                     StartsWith("The file is not a saved label, or it is damaged: after "));
+    }
 }
 
 TEST(LabelJson, RefusesEveryChangedByteOrReadsTheSame)
@@ -255,8 +257,9 @@ TEST(LabelJson, SurvivesAnyValueInAnyPlace)
             ++opened;
             Canvas canvas;
             datasources::DatasourceController sources;
-            if (restore(read.label, canvas, sources))
+            if (restore(read.label, canvas, sources)) {
                 draw(canvas);
+            }
         });
     }
     EXPECT_GT(refused, 1000);
@@ -269,8 +272,9 @@ TEST(LabelJson, BoundsTheNumberOfItems)
     file.remove(QLatin1String("checksum"));
     QJsonObject label = file[QLatin1String("label")].toObject();
     QJsonArray items;
-    for (qsizetype i = 0; i <= limits::Items; ++i)
+    for (qsizetype i = 0; i <= limits::Items; ++i) {
         items.append(0);
+    }
     label[QLatin1String("items")] = items;
     file[QLatin1String("label")] = label;
     EXPECT_EQ(errorOf(file), "The label file is damaged: items is longer than 500000.");

@@ -21,6 +21,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench;
 using namespace workbench::document;
 using fields::Json;
@@ -30,7 +32,7 @@ namespace {
 QString openingOfFileOf(qint64 bytes)
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("a.label")));
+    QFile file(folder.filePath(u"a.label"_s));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     EXPECT_TRUE(file.resize(bytes)); // a sparse file, which uses no disk space
     file.close();
@@ -75,7 +77,7 @@ bool isPicture(int width, int height)
 
 TEST(LabelLimits, MeasureTheFile)
 {
-    const QString tooLarge = QStringLiteral("it is larger than any label");
+    const QString tooLarge = u"it is larger than any label"_s;
     EXPECT_FALSE(openingOfFileOf(limits::FileBytes).contains(tooLarge));
     EXPECT_TRUE(openingOfFileOf(limits::FileBytes + 1).contains(tooLarge));
 }
@@ -83,7 +85,7 @@ TEST(LabelLimits, MeasureTheFile)
 TEST(LabelLimits, WaitForNoPipe)
 {
     const QTemporaryDir folder;
-    const QString pipe = folder.filePath(QStringLiteral("a.label"));
+    const QString pipe = folder.filePath(u"a.label"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     Canvas canvas;
     datasources::DatasourceController sources;
@@ -93,8 +95,9 @@ TEST(LabelLimits, WaitForNoPipe)
 TEST(LabelLimits, CountItems)
 {
     QJsonArray items;
-    for (qsizetype i = 0; i < limits::Items; ++i)
+    for (qsizetype i = 0; i < limits::Items; ++i) {
         items.append(0);
+    }
     EXPECT_EQ(refusalOf(withItems(items)),
               "The label file is damaged: items[0] is not a group of fields.");
     items.append(0);
@@ -112,7 +115,7 @@ TEST(LabelLimits, MeasureTheParsersTree)
     ASSERT_LT(most.size(), limits::FileBytes);
     EXPECT_FALSE(jsonlimits::isLargerThan(most + "\"", limits::TreeBytes));
     EXPECT_EQ(fromJson(most + "x\"").error,
-              QStringLiteral("The label file is damaged: it holds more than any label."));
+              u"The label file is damaged: it holds more than any label."_s);
 }
 
 TEST(LabelLimits, MeasureAPicturesSide)
@@ -149,8 +152,9 @@ TEST(LabelLimits, RefuseToSaveALabelThatCouldNotBeOpened)
     SavedLabel label = sampleLabel();
     qint64 pixels = pixelsOf(label);
     for (const ItemValues& item : sampleLabel().items) {
-        if (item.picture)
+        if (item.picture) {
             pixels -= qint64{item.picture->image.width()} * item.picture->image.height();
+        }
     }
     EXPECT_GT(pixelsOf(label), 0);
     EXPECT_EQ(pixels, 0);

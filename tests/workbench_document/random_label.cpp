@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench;
 
 namespace {
@@ -25,17 +27,19 @@ QString anyText()
 {
     const auto units = any<std::vector<quint16>>();
     QString text;
-    for (const quint16 unit : units)
+    for (const quint16 unit : units) {
         text +=
             QChar(coin() ? static_cast<char16_t>('a' + unit % 26) : static_cast<char16_t>(unit));
+    }
     return text;
 }
 
 QStringList anyTexts()
 {
     QStringList texts;
-    for (int i = *rc::gen::inRange(0, 4); i > 0; --i)
+    for (int i = *rc::gen::inRange(0, 4); i > 0; --i) {
         texts << anyText();
+    }
     return texts;
 }
 
@@ -58,8 +62,9 @@ QColor anyColor()
 
 QImage anyImage()
 {
-    if (*rc::gen::inRange(0, 4) == 0)
+    if (*rc::gen::inRange(0, 4) == 0) {
         return {};
+    }
     const auto format = *rc::gen::element(QImage::Format_RGB32, QImage::Format_ARGB32,
                                           QImage::Format_ARGB32_Premultiplied);
     QImage image(*rc::gen::inRange(1, 6), *rc::gen::inRange(1, 6), format);
@@ -82,11 +87,11 @@ PlacementValues anyPlacement()
 
 TextValues anyContent()
 {
-    const QString html = *rc::gen::element(
-        QString(), QStringLiteral("<p>plain</p>"), QStringLiteral("<b>bold</b> <i>slanted</i>"),
-        QStringLiteral("<p align=\"right\"><span style=\"font-family:'Serif';font-size:7pt;"
-                       "color:#ff0000\">red</span><br/>below</p>"),
-        QStringLiteral("<ul><li>one</li><li>two &amp; &#x4e2d;</li></ul>"));
+    const QString html =
+        *rc::gen::element(QString(), u"<p>plain</p>"_s, u"<b>bold</b> <i>slanted</i>"_s,
+                          u"<p align=\"right\"><span style=\"font-family:'Serif';font-size:7pt;"
+                          "color:#ff0000\">red</span><br/>below</p>"_s,
+                          u"<ul><li>one</li><li>two &amp; &#x4e2d;</li></ul>"_s);
     return {anyText(), html};
 }
 
@@ -103,33 +108,45 @@ ItemValues anyItem()
     ItemValues item = sampleItem(types[type]);
     item.box = anyBox();
     item.placement = anyPlacement();
-    if (coin())
+    if (coin()) {
         item.pen =
             PenValues{anyColor(), double(any<quint16>()), any<int>(), any<int>(), any<int>()};
-    if (coin())
+    }
+    if (coin()) {
         item.fill = FillValues{anyColor(), coin(), any<int>()};
-    if (coin())
+    }
+    if (coin()) {
         item.corner = CornerValues{coin() ? std::optional(anyLength()) : std::nullopt};
-    if (coin())
+    }
+    if (coin()) {
         item.font =
             FontValues{anyText(), *rc::gen::inRange(1, 200), coin(), coin(), coin(), coin()};
-    if (coin())
+    }
+    if (coin()) {
         item.textStyle = TextStyleValues{anyColor(), Qt::Alignment(any<quint8>())};
-    if (coin())
+    }
+    if (coin()) {
         item.text = anyContent();
-    if (coin())
+    }
+    if (coin()) {
         item.textLabel = TextLabelValues{
             {anyLength(), anyLength()}, *rc::gen::inRange<signed char>(-128, 127), coin(), coin()};
-    if (coin())
+    }
+    if (coin()) {
         item.line = LineValues{{anyLength(), anyLength()}, any<int>(), any<int>()};
-    if (coin())
+    }
+    if (coin()) {
         item.barcode = anyBarcode();
-    if (coin())
+    }
+    if (coin()) {
         item.picture = PictureValues{anyImage()};
-    if (coin())
+    }
+    if (coin()) {
         item.symbol = SymbolValues{anyText().toUtf8(), anyColor(), anyColor()};
-    if (coin())
+    }
+    if (coin()) {
         item.datasource = DatasourceValues{any<int>(), anyTexts()};
+    }
     return item;
 }
 
@@ -140,12 +157,13 @@ rc::Gen<document::SavedLabel> anyLabel()
     return rc::gen::exec([] {
         document::SavedLabel label = sampleLabel();
         label.page = {{anyLength(), anyLength()}, coin(), coin(), anyColor(), anyColor()};
-        label.datasources[0].properties[QStringLiteral("Prefix")] = anyText();
-        label.datasources[0].properties[QStringLiteral("Start")] = any<int>();
-        label.datasources[2].properties[QStringLiteral("TextList")] = anyTexts();
+        label.datasources[0].properties[u"Prefix"_s] = anyText();
+        label.datasources[0].properties[u"Start"_s] = any<int>();
+        label.datasources[2].properties[u"TextList"_s] = anyTexts();
         label.items.clear();
-        for (int i = *rc::gen::inRange(0, 8); i > 0; --i)
+        for (int i = *rc::gen::inRange(0, 8); i > 0; --i) {
             label.items << anyItem();
+        }
         return label;
     });
 }

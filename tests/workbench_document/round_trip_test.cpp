@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace workbench;
 using namespace workbench::document;
 
@@ -35,8 +37,9 @@ TEST(RoundTrip, BringsEveryPropertyOfASampleBack)
     EXPECT_EQ(read.label.page, sampleLabel().page);
     EXPECT_EQ(read.label.datasources, sampleLabel().datasources);
     ASSERT_EQ(read.label.items.size(), sampleLabel().items.size());
-    for (qsizetype i = 0; i < read.label.items.size(); ++i)
+    for (qsizetype i = 0; i < read.label.items.size(); ++i) {
         EXPECT_EQ(read.label.items[i], sampleLabel().items[i]) << i;
+    }
 }
 
 RC_GTEST_PROP(RoundTrip, BringsAnyLabelBack, ())
@@ -50,7 +53,7 @@ RC_GTEST_PROP(RoundTrip, BringsAnyLabelBack, ())
 RC_GTEST_PROP(RoundTrip, OpensToTheSameCanvas, ())
 {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("any.label"));
+    const QString path = folder.filePath(u"any.label"_s);
     Canvas canvas;
     datasources::DatasourceController sources;
     RC_ASSERT(restore(*anyLabel(), canvas, sources));
@@ -64,8 +67,9 @@ RC_GTEST_PROP(RoundTrip, OpensToTheSameCanvas, ())
     RC_ASSERT(after.page == before.page);
     RC_ASSERT(after.datasources == before.datasources);
     RC_ASSERT(after.items.size() == before.items.size());
-    for (qsizetype i = 0; i < before.items.size(); ++i)
+    for (qsizetype i = 0; i < before.items.size(); ++i) {
         RC_ASSERT(after.items[i] == before.items[i]);
+    }
 }
 
 // Showing a label on a screen before saving it must make no difference.
@@ -99,13 +103,13 @@ TEST(RoundTrip, KeepsARichTextFollowingItsFont)
     };
     Canvas canvas;
     datasources::DatasourceController sources;
-    ASSERT_TRUE(restore(textIn(QStringLiteral("DejaVu Sans"), 8), canvas, sources));
+    ASSERT_TRUE(restore(textIn(u"DejaVu Sans"_s, 8), canvas, sources));
     static_cast<void>(drawn(canvas));
     SavedLabel saved = fromJson(toJson(snapshot(canvas, sources))).label;
-    saved.items[0].font->family = QStringLiteral("DejaVu Serif");
+    saved.items[0].font->family = u"DejaVu Serif"_s;
     saved.items[0].font->pointSize = 20;
     ASSERT_TRUE(restore(saved, canvas, sources));
     Canvas direct;
-    ASSERT_TRUE(restore(textIn(QStringLiteral("DejaVu Serif"), 20), direct, sources));
+    ASSERT_TRUE(restore(textIn(u"DejaVu Serif"_s, 20), direct, sources));
     EXPECT_EQ(drawn(canvas), drawn(direct));
 }

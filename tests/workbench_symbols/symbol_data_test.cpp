@@ -84,8 +84,9 @@ TEST(SymbolData, RefusesWhatHasNoSizeOrAMonstrousOne)
 {
     for (const char* attributes :
          {R"(width="0" height="10")", R"(width="-5" height="10")", R"(width="1e300" height="10")",
-          R"(width="0%" height="10%" viewBox="0 0 10 10")", ""})
+          R"(width="0%" height="10%" viewBox="0 0 10 10")", ""}) {
         EXPECT_FALSE(makeSymbolData(svg(attributes, ""))) << attributes;
+    }
 }
 
 TEST(SymbolData, TakesTheTargetForItsSize)
@@ -98,8 +99,9 @@ TEST(SymbolData, TakesTheTargetForItsSize)
     const QImage image = drawn(*symbol, {300, 20});
     EXPECT_EQ(image.pixelColor(140, 10), QColor(Qt::red)) << "stretched to the target";
     EXPECT_EQ(image.pixelColor(160, 10), QColor(Qt::white));
-    for (const QSizeF& none : {QSizeF(0, 0), QSizeF(300, 0), QSizeF(0, 20), QSizeF(-1, -1)})
+    for (const QSizeF& none : {QSizeF(0, 0), QSizeF(300, 0), QSizeF(0, 20), QSizeF(-1, -1)}) {
         EXPECT_EQ(naturalSize(makeSymbolData(document, none).value_or("")), QSizeF(7.5, 7.5));
+    }
 }
 
 TEST(SymbolData, IsReadAgainAsTheSameSymbol)
@@ -159,8 +161,9 @@ TEST(SymbolData, OnlySymbolDataHasANaturalSize)
     for (const QByteArray& other :
          {QByteArray(), QByteArray("x"), svg(R"(width="10" height="10")"),
           svg(R"(width="nanpt" height="10pt")"), svg(R"(width="-1pt" height="10pt")"),
-          QByteArray("<g width=\"1pt\" height=\"1pt\"/>")})
+          QByteArray("<g width=\"1pt\" height=\"1pt\"/>")}) {
         EXPECT_EQ(naturalSize(other), QSizeF(0, 0)) << other.toStdString();
+    }
 }
 
 TEST(SymbolCreator, ConvertsOneDocumentAfterAnother)

@@ -14,6 +14,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using workbench::symbols::naturalSize;
 using workbench::symbols::SymbolDatabase;
 
@@ -22,24 +24,24 @@ namespace {
 const QByteArray Arrow = R"(<svg xmlns="http://www.w3.org/2000/svg" width="72pt" height="36pt">)"
                          R"(<path d="M0 0L96 48"/></svg>)";
 const QString TableText =
-    QStringLiteral("CREATE TABLE symbols(name TEXT PRIMARY KEY NOT NULL, svg BLOB NOT NULL)");
+    u"CREATE TABLE symbols(name TEXT PRIMARY KEY NOT NULL, svg BLOB NOT NULL)"_s;
 
 void execute(const QString& path, const QStringList& statements, const QByteArray& blob = Arrow)
 {
     {
-        QSqlDatabase database =
-            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("writer"));
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"writer"_s);
         database.setDatabaseName(path);
         ASSERT_TRUE(database.open());
         for (const QString& statement : statements) {
             QSqlQuery query(database);
             ASSERT_TRUE(query.prepare(statement)) << statement.toStdString();
-            if (statement.contains(u'?'))
+            if (statement.contains(u'?')) {
                 query.addBindValue(blob);
+            }
             ASSERT_TRUE(query.exec()) << statement.toStdString();
         }
     }
-    QSqlDatabase::removeDatabase(QStringLiteral("writer"));
+    QSqlDatabase::removeDatabase(u"writer"_s);
 }
 
 class SymbolDatabaseTest : public testing::Test
@@ -51,9 +53,9 @@ protected:
     }
     QString goodDatabase()
     {
-        execute(path(), {TableText, QStringLiteral("INSERT INTO symbols VALUES('arrow.svg', ?)"),
-                         QStringLiteral("INSERT INTO symbols VALUES('o''clock', ?)"),
-                         QStringLiteral("INSERT INTO symbols VALUES('rubbish', 'no svg')")});
+        execute(path(), {TableText, u"INSERT INTO symbols VALUES('arrow.svg', ?)"_s,
+                         u"INSERT INTO symbols VALUES('o''clock', ?)"_s,
+                         u"INSERT INTO symbols VALUES('rubbish', 'no svg')"_s});
         return path();
     }
     QString fileOf(const QByteArray& bytes)
@@ -73,24 +75,24 @@ protected:
 TEST_F(SymbolDatabaseTest, GivesSymbolsByName)
 {
     SymbolDatabaseModel model(nullptr);
-    EXPECT_TRUE(model.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+    EXPECT_TRUE(model.getDataFromSymbolName(u"arrow.svg"_s).isEmpty());
     model.setDatabasePath(goodDatabase());
-    EXPECT_EQ(naturalSize(model.getDataFromSymbolName(QStringLiteral("arrow.svg"))),
-              QSizeF(72, 36));
-    EXPECT_FALSE(model.getDataFromSymbolName(QStringLiteral("o'clock")).isEmpty());
-    for (const char* unknown : {"", "ARROW.SVG", "rubbish", "' OR 1=1 --"})
+    EXPECT_EQ(naturalSize(model.getDataFromSymbolName(u"arrow.svg"_s)), QSizeF(72, 36));
+    EXPECT_FALSE(model.getDataFromSymbolName(u"o'clock"_s).isEmpty());
+    for (const char* unknown : {"", "ARROW.SVG", "rubbish", "' OR 1=1 --"}) {
         EXPECT_TRUE(model.getDataFromSymbolName(QString::fromUtf8(unknown)).isEmpty()) << unknown;
+    }
     EXPECT_TRUE(log.records().isEmpty());
 }
 
 TEST_F(SymbolDatabaseTest, MakesStoredDrawingsSafe)
 {
     execute(
-        path(), {TableText, QStringLiteral("INSERT INTO symbols VALUES('bad', ?)")},
+        path(), {TableText, u"INSERT INTO symbols VALUES('bad', ?)"_s},
         R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"><image href="secret"/></svg>)");
     SymbolDatabaseModel model(nullptr);
     model.setDatabasePath(path());
-    const QByteArray data = model.getDataFromSymbolName(QStringLiteral("bad"));
+    const QByteArray data = model.getDataFromSymbolName(u"bad"_s);
     EXPECT_FALSE(data.isEmpty());
     EXPECT_FALSE(data.contains("secret"));
 }
@@ -109,30 +111,30 @@ TEST_F(SymbolDatabaseTest, IsEmptyAndLogsOneLineForAnInvalidDatabase)
         SymbolDatabaseModel model(nullptr);
         model.setDatabasePath(row);
         model.setDatabasePath(row);
-        EXPECT_TRUE(model.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+        EXPECT_TRUE(model.getDataFromSymbolName(u"arrow.svg"_s).isEmpty());
         ASSERT_EQ(log.records().size(), 1);
         const CapturedLog::Record& record = log.records().first();
         EXPECT_EQ(record.level, Logger::Error);
-        EXPECT_EQ(record.source, QStringLiteral("symbol_database_model"));
-        EXPECT_TRUE(record.message.startsWith(QStringLiteral("The symbol database ")));
+        EXPECT_EQ(record.source, u"symbol_database_model"_s);
+        EXPECT_TRUE(record.message.startsWith(u"The symbol database "_s));
         EXPECT_TRUE(record.message.contains(row));
     }
     SymbolDatabase empty(fileOf(""));
     EXPECT_FALSE(empty.isOpen());
-    EXPECT_EQ(empty.error(), QStringLiteral("it has no table of symbols"));
+    EXPECT_EQ(empty.error(), u"it has no table of symbols"_s);
     SymbolDatabase truncated(fileOf(half));
-    EXPECT_TRUE(truncated.svg(QStringLiteral("arrow.svg")).isEmpty());
+    EXPECT_TRUE(truncated.svg(u"arrow.svg"_s).isEmpty());
     EXPECT_FALSE(truncated.error().isEmpty());
 }
 
 TEST_F(SymbolDatabaseTest, RefusesTablesThatAreComputed)
 {
     const QStringList rows[] = {
-        {QStringLiteral("CREATE VIEW symbols AS WITH RECURSIVE n(name) AS (SELECT 1 UNION ALL"
-                        " SELECT name + 1 FROM n) SELECT name, x'00' AS svg FROM n")},
-        {QStringLiteral("CREATE TABLE symbols(name TEXT, svg BLOB AS (zeroblob(1000000000)))")},
-        {QStringLiteral("CREATE TABLE symbols(name TEXT PRIMARY KEY)")},
-        {QStringLiteral("CREATE TABLE other(name TEXT, svg BLOB)")},
+        {u"CREATE VIEW symbols AS WITH RECURSIVE n(name) AS (SELECT 1 UNION ALL"
+         " SELECT name + 1 FROM n) SELECT name, x'00' AS svg FROM n"_s},
+        {u"CREATE TABLE symbols(name TEXT, svg BLOB AS (zeroblob(1000000000)))"_s},
+        {u"CREATE TABLE symbols(name TEXT PRIMARY KEY)"_s},
+        {u"CREATE TABLE other(name TEXT, svg BLOB)"_s},
     };
     for (const QStringList& row : rows) {
         SCOPED_TRACE(row.join(u';').toStdString());
@@ -140,17 +142,17 @@ TEST_F(SymbolDatabaseTest, RefusesTablesThatAreComputed)
         execute(path(), row);
         SymbolDatabase database(path());
         EXPECT_FALSE(database.isOpen());
-        EXPECT_EQ(database.error(), QStringLiteral("it has no table of symbols"));
+        EXPECT_EQ(database.error(), u"it has no table of symbols"_s);
     }
 }
 
 TEST_F(SymbolDatabaseTest, LeavesADrawingThatIsTooLongAlone)
 {
-    execute(path(), {TableText, QStringLiteral("INSERT INTO symbols VALUES('long', ?)")},
+    execute(path(), {TableText, u"INSERT INTO symbols VALUES('long', ?)"_s},
             QByteArray(svglimits::DocumentBytes + 1, ' '));
     SymbolDatabase database(path());
     EXPECT_TRUE(database.isOpen());
-    EXPECT_TRUE(database.svg(QStringLiteral("long")).isEmpty());
+    EXPECT_TRUE(database.svg(u"long"_s).isEmpty());
 }
 
 TEST_F(SymbolDatabaseTest, SurvivesDamageAnywhereInTheFile)
@@ -162,7 +164,7 @@ TEST_F(SymbolDatabaseTest, SurvivesDamageAnywhereInTheFile)
         QByteArray damaged = bytes;
         damaged[at] = static_cast<char>(~damaged[at]);
         SymbolDatabase database(fileOf(damaged));
-        const QByteArray svg = database.svg(QStringLiteral("arrow.svg"));
+        const QByteArray svg = database.svg(u"arrow.svg"_s);
         EXPECT_LE(svg.size(), bytes.size()) << at;
     }
 }
@@ -175,9 +177,9 @@ TEST_F(SymbolDatabaseTest, NeitherWritesNorKeepsConnections)
         SymbolDatabaseModel two(nullptr);
         one.setDatabasePath(file);
         two.setDatabasePath(file);
-        EXPECT_FALSE(one.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+        EXPECT_FALSE(one.getDataFromSymbolName(u"arrow.svg"_s).isEmpty());
         one.setDatabasePath(path("missing.db"));
-        EXPECT_TRUE(one.getDataFromSymbolName(QStringLiteral("arrow.svg")).isEmpty());
+        EXPECT_TRUE(one.getDataFromSymbolName(u"arrow.svg"_s).isEmpty());
     }
     EXPECT_TRUE(QSqlDatabase::connectionNames().isEmpty());
     EXPECT_FALSE(QFile::exists(path("missing.db")));

@@ -4,27 +4,27 @@
 
 #include <QSettings>
 
+using namespace Qt::Literals::StringLiterals;
+
 bool FakeFileController::checkSaveChanges(TalCanvasModel* canvasModel,
                                           const QString& currentFileName, bool allowDiscard)
 {
     askedAbout = canvasModel;
     journal().events.append(
-        QStringLiteral("asked about %1%2")
-            .arg(currentFileName, allowDiscard ? QStringLiteral(", may discard") : QString()));
+        u"asked about %1%2"_s.arg(currentFileName, allowDiscard ? u", may discard"_s : QString()));
     return mayGoOn;
 }
 
 void FakeFileController::saveImportedLabelAs(const QString& folder, const QString& baseName,
                                              const QString& labelType)
 {
-    journal().events.append(
-        QStringLiteral("save '%1' in %2 as type '%3'").arg(baseName, folder, labelType));
+    journal().events.append(u"save '%1' in %2 as type '%3'"_s.arg(baseName, folder, labelType));
 }
 
 void FakeFileController::emitLabelTypeLoadedSignal(QString labelType)
 {
-    journal().folderAtLabelType = QSettings().value(QStringLiteral("dir/import"));
-    journal().events.append(QStringLiteral("label type '%1'").arg(labelType));
+    journal().folderAtLabelType = QSettings().value(u"dir/import"_s);
+    journal().events.append(u"label type '%1'"_s.arg(labelType));
 }
 
 QString& defaultImportFolder()

@@ -11,6 +11,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using svglimits::sanitizeSvg;
 using testing::HasSubstr;
 using testing::Not;
@@ -111,7 +113,7 @@ TEST(SvgSanitizer, DropsAStyleSheetInstructionBeforeTheDocument)
 TEST(SvgSanitizer, NeverOpensExternalEntities)
 {
     QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("secret.txt")));
+    QFile file(folder.filePath(u"secret.txt"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("SECRET");
     file.close();
@@ -141,7 +143,7 @@ TEST(SvgSanitizer, ResolvesInternalEntitiesAndRefusesTheirExplosion)
 TEST(SvgSanitizer, ShowsNothingOfALocalPicture)
 {
     QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("red.png"));
+    const QString path = folder.filePath(u"red.png"_s);
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(pngOf(10, 10));
@@ -173,9 +175,10 @@ TEST(SvgSanitizer, DropsEmbeddedPicturesThatAreTooLargeOrNoRaster)
         "",
         pngOf(4, 4).left(30),
     };
-    for (const QByteArray& row : rows)
+    for (const QByteArray& row : rows) {
         EXPECT_THAT(sanitized("<image href=\"data:image/png;base64," + row.toBase64() + "\"/>"),
                     Not(HasSubstr("<image")));
+    }
 }
 
 TEST(SvgSanitizer, TurnsLengthsIntoUserUnits)
@@ -229,16 +232,18 @@ TEST(SvgSanitizer, RefusesDataThatIsNotSvg)
     for (const QByteArray& text :
          {QByteArray(), QByteArray("text"), QByteArray("<html/>"), QByteArray("<svg"),
           QByteArray("\x1f\x8b\x08\x00", 4), QByteArray("<svg xmlns=\"http://other\"/>"),
-          QByteArray("\0\0", 2)})
+          QByteArray("\0\0", 2)}) {
         EXPECT_FALSE(sanitizeSvg(text)) << text.toStdString();
+    }
 }
 
 TEST(SvgSanitizer, RefusesEveryTruncation)
 {
     const QByteArray whole = svgOf(R"(<g id="a"><path d="M0 0L5 5"/></g><use xlink:href="#a"/>)");
     ASSERT_TRUE(sanitizeSvg(whole));
-    for (qsizetype size = 0; size < whole.size(); ++size)
+    for (qsizetype size = 0; size < whole.size(); ++size) {
         EXPECT_FALSE(sanitizeSvg(whole.left(size))) << size;
+    }
 }
 
 TEST(SvgSanitizer, BoundsDepthAndNumberOfElements)
@@ -257,8 +262,9 @@ TEST(SvgSanitizer, BoundsDepthAndNumberOfElements)
 TEST(SvgSanitizer, RefusesWhatWouldKeepTheParserOrTheRendererBusy)
 {
     QByteArray crowded = "<g";
-    for (int i = 0; i < 200'000; ++i)
+    for (int i = 0; i < 200'000; ++i) {
         crowded += " a" + QByteArray::number(i) + "=\"\"";
+    }
     EXPECT_FALSE(sanitizeSvg(svgOf(crowded + "/>")));
     EXPECT_TRUE(sanitizeSvg(svgOf("<style>" + QByteArray(svglimits::StyleText, ' ') + "</style>")));
     EXPECT_FALSE(sanitizeSvg(
@@ -273,8 +279,9 @@ TEST(SvgSanitizer, RefusesReferencesThatExplodeRecurOrGoTooDeep)
         const QByteArray use = "<use xlink:href=\"#n" + QByteArray::number(i - 1) + "\"/>";
         const QByteArray begin = "<g id=\"n" + QByteArray::number(i) + "\">";
         chain += begin + use + "</g>";
-        if (i < 12)
+        if (i < 12) {
             explosion += begin + use.repeated(10) + "</g>";
+        }
     }
     EXPECT_FALSE(sanitizeSvg(svgOf(explosion)));
     EXPECT_FALSE(sanitizeSvg(svgOf(chain)));

@@ -36,9 +36,10 @@ TEST(SvgLength, KeepsPercentagesApart)
 
 TEST(SvgLength, RefusesInvalidLengths)
 {
-    for (const QStringView text :
-         {u"", u"mm", u"auto", u"12 parsecs", u"1e999", u"nan", u"inf", u"1,5mm", u"%", u"10mm10"})
+    for (const QStringView text : {u"", u"mm", u"auto", u"12 parsecs", u"1e999", u"nan", u"inf",
+                                   u"1,5mm", u"%", u"10mm10"}) {
         EXPECT_FALSE(parseSvgLength(text)) << text.toString().toStdString();
+    }
 }
 
 TEST(SvgNumbers, FindsNumbersHoweverTheyAreSeparated)

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 using xmllimits::parseDocument;
 
 namespace {
@@ -46,16 +48,16 @@ TEST(XmlLimits, ParsesWhatIsWithinTheBounds)
 {
     QDomDocument document;
     EXPECT_FALSE(parseDocument("<?xml version=\"1.0\"?><!DOCTYPE r><r a='1'>t<b/></r>", document));
-    EXPECT_EQ(document.documentElement().attribute(QStringLiteral("a")), QStringLiteral("1"));
-    EXPECT_EQ(document.documentElement().text(), QStringLiteral("t"));
+    EXPECT_EQ(document.documentElement().attribute(u"a"_s), u"1"_s);
+    EXPECT_EQ(document.documentElement().text(), u"t"_s);
 }
 
 TEST(XmlLimits, KeepsThePrefixesOfNames)
 {
     QDomDocument document;
     ASSERT_FALSE(parseDocument("<o:r xmlns:o='urn:o' o:a='1'/>", document));
-    EXPECT_EQ(document.documentElement().tagName(), QStringLiteral("o:r"));
-    EXPECT_EQ(document.documentElement().attribute(QStringLiteral("o:a")), QStringLiteral("1"));
+    EXPECT_EQ(document.documentElement().tagName(), u"o:r"_s);
+    EXPECT_EQ(document.documentElement().attribute(u"o:a"_s), u"1"_s);
 }
 
 TEST(XmlLimits, GivesTheParsersOwnMessageAndPlace)
@@ -93,14 +95,14 @@ TEST(XmlLimits, AcceptsTheDeepestNestingAndRefusesOneMore)
 {
     EXPECT_EQ(messageFor(nested(xmllimits::MaximumDepth)), QString());
     EXPECT_EQ(messageFor(nested(xmllimits::MaximumDepth + 1)),
-              QStringLiteral("Elements are nested deeper than 1000"));
+              u"Elements are nested deeper than 1000"_s);
 }
 
 TEST(XmlLimits, RefusesHostileNestingWithoutParsingIt)
 {
-    EXPECT_EQ(messageFor(nested(300000)), QStringLiteral("Elements are nested deeper than 1000"));
+    EXPECT_EQ(messageFor(nested(300000)), u"Elements are nested deeper than 1000"_s);
     EXPECT_EQ(messageFor(QByteArray("<a>").repeated(300000)),
-              QStringLiteral("Elements are nested deeper than 1000"));
+              u"Elements are nested deeper than 1000"_s);
 }
 
 TEST(XmlLimits, DoesNotTakeSiblingsOrEmptyElementsForNesting)
@@ -130,11 +132,10 @@ TEST(XmlLimits, FindsNestingBehindOtherMarkup)
                                  "<!DOCTYPE a PUBLIC \"]>\" '[>'>"};
     for (const QByteArray& markup : before) {
         SCOPED_TRACE(markup.toStdString());
-        EXPECT_EQ(messageFor(markup + deep),
-                  QStringLiteral("Elements are nested deeper than 1000"));
+        EXPECT_EQ(messageFor(markup + deep), u"Elements are nested deeper than 1000"_s);
     }
     EXPECT_EQ(messageFor("<r><![CDATA[ </r> ]]>" + deep + "</r>"),
-              QStringLiteral("Elements are nested deeper than 1000"));
+              u"Elements are nested deeper than 1000"_s);
 }
 
 TEST(XmlLimits, ReportsThePositionOfTheExcess)
@@ -152,7 +153,7 @@ TEST(XmlLimits, AcceptsTheMostAttributesAndRefusesOneMore)
 {
     EXPECT_EQ(messageFor(withAttributes(xmllimits::MaximumAttributes)), QString());
     EXPECT_EQ(messageFor(withAttributes(xmllimits::MaximumAttributes + 1)),
-              QStringLiteral("An element has more than 1000 attributes"));
+              u"An element has more than 1000 attributes"_s);
 }
 
 TEST(XmlLimits, DoesNotTakeEqualsSignsInValuesForAttributes)
@@ -167,8 +168,8 @@ TEST(XmlLimits, RefusesATreeThatWouldFillTheMemory)
     EXPECT_FALSE(parseDocument(xml, document));
     const auto failure = parseDocument(xml, document, 1000000);
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->message, QStringLiteral("The document is too large: its tree would take "
-                                               "more than 1000000 bytes"));
+    EXPECT_EQ(failure->message, u"The document is too large: its tree would take "
+                                "more than 1000000 bytes"_s);
     EXPECT_TRUE(document.documentElement().isNull());
 }
 
@@ -215,7 +216,7 @@ TEST(XmlLimits, ReadsTheTextOfEntities)
     const QByteArray xml = "<!DOCTYPE r [<!ENTITY firm \"Acme\">]><r>" +
                            QByteArray("&firm; &amp; &#65;").repeated(2000) + "</r>";
     ASSERT_FALSE(parseDocument(xml, document));
-    EXPECT_TRUE(document.documentElement().text().startsWith(QStringLiteral("Acme & A")));
+    EXPECT_TRUE(document.documentElement().text().startsWith(u"Acme & A"_s));
 }
 
 TEST(XmlLimits, RefusesEntitiesThatMultiply)
@@ -271,10 +272,10 @@ TEST(XmlLimits, NeverOpensExternalEntities)
     QDomDocument document;
     const auto failure =
         parseDocument("<!DOCTYPE r [<!ENTITY e SYSTEM \"" + url + "\">]><r>&e;</r>", document);
-    EXPECT_FALSE(document.toString().contains(QStringLiteral("secret")));
+    EXPECT_FALSE(document.toString().contains(u"secret"_s));
     EXPECT_FALSE(failure);
     EXPECT_FALSE(parseDocument("<!DOCTYPE r SYSTEM \"" + url + "\"><r>x</r>", document));
-    EXPECT_FALSE(document.toString().contains(QStringLiteral("secret")));
+    EXPECT_FALSE(document.toString().contains(u"secret"_s));
 }
 
 class XmlLimitsEncodings : public testing::TestWithParam<const char*>
@@ -282,17 +283,16 @@ class XmlLimitsEncodings : public testing::TestWithParam<const char*>
 
 TEST_P(XmlLimitsEncodings, AreReadAndBounded)
 {
-    const QString declaration = QStringLiteral("<?xml version=\"1.0\" encoding=\"%1\"?>")
-                                    .arg(QLatin1StringView(GetParam()));
+    const QString declaration =
+        u"<?xml version=\"1.0\" encoding=\"%1\"?>"_s.arg(QLatin1StringView(GetParam()));
     QDomDocument document;
-    ASSERT_FALSE(
-        parseDocument(inEncoding(declaration + QStringLiteral("<r>aé</r>"), GetParam()), document));
-    EXPECT_EQ(document.documentElement().text(), QStringLiteral("aé"));
+    ASSERT_FALSE(parseDocument(inEncoding(declaration + u"<r>aé</r>"_s, GetParam()), document));
+    EXPECT_EQ(document.documentElement().text(), u"aé"_s);
 
     const QString deep = declaration + QString::fromLatin1(nested(1001));
     const auto failure = parseDocument(inEncoding(deep, GetParam()), document);
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->message, QStringLiteral("Elements are nested deeper than 1000"));
+    EXPECT_EQ(failure->message, u"Elements are nested deeper than 1000"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(, XmlLimitsEncodings,

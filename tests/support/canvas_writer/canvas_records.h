@@ -11,6 +11,8 @@
 
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace canvas {
 
 /// The start of an item record.
@@ -88,8 +90,8 @@ struct ItemHeader
     /// Degrees.
     double rotation = 0.0;
     /// Fractions: inches for shapes and barcodes, a scale for texts, symbols and pictures.
-    QString width = QStringLiteral("1");
-    QString height = QStringLiteral("1");
+    QString width = u"1"_s;
+    QString height = u"1"_s;
 };
 
 struct ShapeRecord
@@ -132,7 +134,7 @@ struct BarcodeRecord
     bool flag2 = false;
     bool flag3 = false;
     bool flag4 = false;
-    QString numericText = QStringLiteral("0");
+    QString numericText = u"0"_s;
     qint32 value1 = 0;
     qint32 value2 = 0;
     qint32 unusedValue = 0;

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr quint32 oldest = 2000016;
@@ -72,7 +74,7 @@ canvas::CanvasRecord conspicuousCanvas()
     record.unusedFlag = true;
     record.labelType = 5;
     record.ribbonType = 6;
-    record.unusedText1 = QStringLiteral("a");
+    record.unusedText1 = u"a"_s;
     record.canvasFlag = true;
     record.orientation = 2;
     record.unusedValue = -1;
@@ -121,7 +123,7 @@ TEST(CanvasWriter, HasTheSameDefaultSizeInDotsAndInches)
 
 TEST(CanvasWriter, WritesSequenceSettings)
 {
-    const canvas::SequenceRecord record = {1, 99, 2, 4, QStringLiteral("P"), QString(), 7};
+    const canvas::SequenceRecord record = {1, 99, 2, 4, u"P"_s, QString(), 7};
     const QByteArray old = "00000001 00000063 00000002 00000004 'P' ffffffff";
     EXPECT_BYTES(CanvasWriter(2000016).add(record), old.constData());
     EXPECT_BYTES(CanvasWriter(2000019).add(record), old.constData());
@@ -134,7 +136,7 @@ TEST(CanvasWriter, WritesTheDatabaseList)
     canvas::DatabaseList list;
     EXPECT_BYTES(CanvasWriter(newest).add(list), "00000000 00000000 00000000 00000000");
 
-    list = {1, 2, 1, {{QStringLiteral("a"), 3}, {QStringLiteral("b/c"), -1}}, std::nullopt};
+    list = {1, 2, 1, {{u"a"_s, 3}, {u"b/c"_s, -1}}, std::nullopt};
     const QByteArray entries = "'a' 00000003 'b/c' ffffffff";
     EXPECT_BYTES(CanvasWriter(newest).add(list),
                  ("00000001 00000002 00000001 00000002" + entries).constData());
@@ -145,7 +147,7 @@ TEST(CanvasWriter, WritesTheDatabaseList)
 
 canvas::ItemHeader conspicuousHeader()
 {
-    return {true, 0.5, 1.0, 2.0, 90.0, QStringLiteral("1/2"), QStringLiteral("3")};
+    return {true, 0.5, 1.0, 2.0, 90.0, u"1/2"_s, u"3"_s};
 }
 
 const QByteArray headerBytes = "01 3fe0000000000000 3ff0000000000000 4000000000000000"
@@ -158,7 +160,7 @@ TEST(CanvasWriter, WritesAShape)
     record.lineWidth = 10;
     record.penStyle = 2;
     record.fillMode = 1;
-    record.name = QStringLiteral("Oval");
+    record.name = u"Oval"_s;
     for (const quint32 version : {oldest, newest}) {
         EXPECT_BYTES(CanvasWriter(version).add(record),
                      ("00010002" + headerBytes + "0000000a 00000002 00000001 'Oval'").constData());
@@ -192,7 +194,7 @@ TEST(CanvasWriter, WritesASymbol)
 {
     canvas::SymbolRecord record;
     record.header = conspicuousHeader();
-    record.name = QStringLiteral("x.svg");
+    record.name = u"x.svg"_s;
     record.svg = "<svg/>";
     const QByteArray old = "00010001" + headerBytes + "'x.svg'";
     EXPECT_BYTES(CanvasWriter(oldest).add(record), old.constData());
@@ -206,17 +208,17 @@ TEST(CanvasWriter, WritesABarcodeInBothLayouts)
 {
     canvas::BarcodeRecord record;
     record.header = conspicuousHeader();
-    record.content = QStringLiteral("123");
-    record.datasourceText = QStringLiteral("t");
-    record.datasourceKey = QStringLiteral("_ROW");
+    record.content = u"123"_s;
+    record.datasourceText = u"t"_s;
+    record.datasourceKey = u"_ROW"_s;
     record.symbology = 20;
     record.unusedFlag = true;
-    record.unusedText = QStringLiteral("u");
+    record.unusedText = u"u"_s;
     record.moduleWidth = 7;
     record.textPlacement = 2;
     record.flag1 = true;
     record.flag3 = true;
-    record.numericText = QStringLiteral("9");
+    record.numericText = u"9"_s;
     record.value1 = 10;
     record.value2 = 11;
     record.unusedValue = 12;
@@ -236,12 +238,12 @@ canvas::TextRecord conspicuousText()
     record.header = conspicuousHeader();
     record.fixedWidth = 1.0;
     record.fixedHeight = 2.0;
-    record.content = QStringLiteral("Hi");
-    record.datasourceText = QStringLiteral("t");
-    record.datasourceKey = QStringLiteral("k");
+    record.content = u"Hi"_s;
+    record.datasourceText = u"t"_s;
+    record.datasourceKey = u"k"_s;
     record.lineWidth = 3;
     record.penStyle = 4;
-    record.unusedText = QStringLiteral("u");
+    record.unusedText = u"u"_s;
     record.fontSize = 50;
     record.styleFlag1 = true;
     record.styleFlag3 = true;

@@ -8,6 +8,8 @@
 
 #include <initializer_list>
 
+using namespace Qt::Literals::StringLiterals;
+
 /// A recording host whose trace is a list of calls, each on a line:
 ///
 ///     item:1 setItemSize 300 75
@@ -65,7 +67,7 @@ public:
     [[nodiscard]] QGraphicsItem* item(int number) const { return m_host.item(number); }
 
 private:
-    [[nodiscard]] static QString targetOf(int item) { return QStringLiteral("item:%1").arg(item); }
+    [[nodiscard]] static QString targetOf(int item) { return u"item:%1"_s.arg(item); }
 
     QBuffer m_trace;
     recorder::RecordingHost m_host;

@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 Journal& journal()
 {
     static Journal instance;
@@ -19,16 +21,15 @@ void Journal::readerMade(const char* name, TalCanvasModel* canvasModel,
         nextReaderThrows = false;
         throw std::runtime_error("no reader today");
     }
-    events.append(QStringLiteral("%1 made").arg(QLatin1String(name)));
+    events.append(u"%1 made"_s.arg(QLatin1String(name)));
     lastCanvasModel = canvasModel;
     lastDatasourceController = datasourceController;
 }
 
 bool Journal::readerCalled(const char* name, const QString& fileName)
 {
-    folderAtReading = QSettings().value(QStringLiteral("dir/import"));
-    events.append(
-        QStringLiteral("%1 reads %2").arg(QLatin1String(name), QFileInfo(fileName).fileName()));
+    folderAtReading = QSettings().value(u"dir/import"_s);
+    events.append(u"%1 reads %2"_s.arg(QLatin1String(name), QFileInfo(fileName).fileName()));
     if (const auto nested = std::exchange(duringImport, {})) {
         nested();
     }

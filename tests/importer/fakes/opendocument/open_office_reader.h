@@ -2,6 +2,8 @@
 
 #include "journal/journal.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Replaces the reader of the same name and interface.
 class OpenOfficeReader
 {
@@ -10,7 +12,7 @@ public:
     {
         journal().readerMade("opendocument", canvasModel, datasourceController);
     }
-    ~OpenOfficeReader() { journal().events.append(QStringLiteral("opendocument destroyed")); }
+    ~OpenOfficeReader() { journal().events.append(u"opendocument destroyed"_s); }
     bool importLabelFromFile(const QString& fileName)
     {
         return journal().readerCalled("opendocument", fileName);

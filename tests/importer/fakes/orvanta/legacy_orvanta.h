@@ -2,6 +2,8 @@
 
 #include "journal/journal.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 /// Replaces the reader of the same name and interface.
 class LegacyOrvanta
 {
@@ -10,7 +12,7 @@ public:
     {
         journal().readerMade("orvanta", canvasModel, datasourceController);
     }
-    ~LegacyOrvanta() { journal().events.append(QStringLiteral("orvanta destroyed")); }
+    ~LegacyOrvanta() { journal().events.append(u"orvanta destroyed"_s); }
     bool importLabelFromFile(const QString& fileName)
     {
         return journal().readerCalled("orvanta", fileName);

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+using namespace Qt::Literals::StringLiterals;
+
 class QWidget;
 
 /// Replaces the reader of the same name and interface. Every import shows a message and
@@ -17,7 +19,7 @@ public:
     {
         journal().readerMade("tavrel", canvasModel, datasourceController);
     }
-    ~LegacyTavrel() override { journal().events.append(QStringLiteral("tavrel destroyed")); }
+    ~LegacyTavrel() override { journal().events.append(u"tavrel destroyed"_s); }
     bool importLabelFromFile(const QString& fileName)
     {
         Q_EMIT popupShowSignal(nullptr);
