@@ -85,7 +85,7 @@ bool isBold(const Properties& text)
 }
 
 // The color behind characters or a paragraph; the one below if theirs is "transparent".
-QColor groundOf(const Properties& properties, const QColor& below = {})
+QColor textGround(const Properties& properties, const QColor& below = {})
 {
     const QString name = properties.value(u"fo:background-color"_s);
     const QColor own(name);
@@ -94,7 +94,7 @@ QColor groundOf(const Properties& properties, const QColor& below = {})
 
 QString groundStyle(const Properties& properties)
 {
-    const QColor ground = groundOf(properties);
+    const QColor ground = textGround(properties);
     return ground.isValid() ? u"background-color:%1;"_s.arg(ground.name()) : QString();
 }
 
@@ -141,7 +141,7 @@ QString HtmlWriter::spanStyle(const Properties& text, const QColor& below) const
     const bool isAutomatic = text.value(u"style:use-window-font-color"_s) == "true"_L1;
     const QColor color(isAutomatic ? QString() : text.value(u"fo:color"_s));
     style += u"color:%1;"_s.arg(
-        (color.isValid() ? color : automaticColor(groundOf(text, below))).name());
+        (color.isValid() ? color : automaticColor(textGround(text, below))).name());
     style += groundStyle(text);
     if (text.value(u"fo:font-variant"_s) == "small-caps"_L1) {
         style += u"font-variant:small-caps;"_s;
@@ -241,7 +241,7 @@ void HtmlWriter::writeParagraph(const Node& paragraph)
     const StyleProperties style =
         m_document.table().resolved(u"paragraph"_s, paragraph.attribute(u"text:style-name"), false);
     const bool isEmpty = paragraph.children.empty();
-    const QColor ground = groundOf(style.paragraph, m_ground);
+    const QColor ground = textGround(style.paragraph, m_ground);
     m_html += u"<p align=\"%1\" style=\"%2%3%4\">"_s.arg(
         textAlignmentOf(style.paragraph), isEmpty ? u"-qt-paragraph-type:empty;"_s : QString(),
         paragraphStyle(style.paragraph,

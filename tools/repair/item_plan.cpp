@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 // Points: 0.25 cm beside a text and 0.125 cm above it.
 constexpr double DefaultSidePadding = 7.087;
 constexpr double DefaultTopPadding = 3.543;
-QColor groundOf(const Properties& graphic)
+QColor shapeGround(const Properties& graphic)
 {
     const bool isFilled = graphic.value(u"draw:fill"_s) == "solid"_L1;
     return QColor(graphic.value(isFilled ? u"draw:fill-color"_s : GroundProperty));
@@ -108,7 +108,7 @@ TextPlan planText(Document& document, const Node& shape, const Node& container,
     const double top = padding(graphic, u"top"_s, DefaultTopPadding);
     const double bottom = padding(graphic, u"bottom"_s, DefaultTopPadding);
     TextPlan plan;
-    plan.html = toHtml(document, container, groundOf(graphic));
+    plan.html = toHtml(document, container, shapeGround(graphic));
     plan.area = textArea(shape, placed.box).adjusted(left, top, -right, -bottom);
     // Qt drops the space above the first paragraph; that below the last is not in the HTML.
     plan.area.adjust(0.0, outerSpace(document, container, true), 0.0,

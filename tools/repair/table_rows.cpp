@@ -65,7 +65,7 @@ void readColumns(const Document& document, const Node& parent, QList<double>& wi
     }
 }
 
-Properties groundOf(const Properties& cell, const QString& fill)
+Properties cellGround(const Properties& cell, const QString& fill)
 {
     Properties ground;
     addBorder(cell, ground);
@@ -135,7 +135,7 @@ void TableReader::readRow(Node& row)
                              widthOf(column, span), 0.0);
             const Properties style = statedBy(m_document, *cell, u"style:table-cell-properties"_s);
             const QString fill = firstColor({style.value(BackgroundColor), rowFill, m_fill});
-            auto frame = textFrame(m_document, box, groundOf(style, fill));
+            auto frame = textFrame(m_document, box, cellGround(style, fill));
             frame->setAttribute(RowAttribute, QString::number(m_row));
             frame->setAttribute(FillsRowAttribute, u"true"_s);
             takeParagraphs(*cell, *frame->child(u"draw:text-box"), 0);
