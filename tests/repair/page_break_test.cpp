@@ -261,3 +261,85 @@ TEST(PageBreaks, LayOutLongTextsInParts)
         EXPECT_LE(label.bottom, PageHeight - Margin + 1.0);
     }
 }
+
+namespace {
+
+// Two master pages: M, 10 by 5 cm, and a wide one, which is followed by M.
+QByteArray twoLayouts()
+{
+    QByteArray styles = drawingStyles(
+        {},
+        "<style:page-layout style:name=\"W\"><style:page-layout-properties "
+        "fo:page-width=\"20cm\" fo:page-height=\"4cm\" fo:margin=\"20pt\"/></style:page-layout>",
+        {});
+    styles.replace("</office:master-styles>",
+                   "<style:master-page style:name=\"Wide\" style:page-layout-name=\"W\" "
+                   "style:next-style-name=\"M\"><style:header><text:p>head</text:p></style:header>"
+                   "</style:master-page></office:master-styles>");
+    return styles;
+}
+
+const QByteArray WideStyles =
+    "<style:style style:name=\"wide\" style:family=\"paragraph\" style:master-page-name=\"Wide\"/>"
+    "<style:style style:name=\"plain\" style:family=\"paragraph\" "
+    "style:parent-style-name=\"wide\" style:master-page-name=\"\"/>"
+    "<style:style style:name=\"table\" style:family=\"table\" style:master-page-name=\"Wide\"/>"
+    "<style:style style:name=\"break\" style:family=\"table\"><style:table-properties "
+    "fo:break-before=\"page\"/></style:style>";
+
+/// The sizes of the pages in whole points, with their texts: "283x142 p1".
+QStringList pagesOf(const QByteArray& text)
+{
+    const QTemporaryDir folder;
+    const QString path = writePackage(folder.path(), textDocument(text, WideStyles), twoLayouts());
+    QStringList pages;
+    repair::RepairedImport import = repair::importRepaired(path);
+    const std::shared_ptr<repair::DocumentRepair> document = import.document;
+    for (int page = 1; import.isRepaired(); ++page) {
+        const QSizeF size = import.result.canvas->page().size;
+        pages.append(u"%1x%2 %3"_s.arg(size.width(), 0, 'f', 0)
+                         .arg(size.height(), 0, 'f', 0)
+                         .arg(labelOf(import).text));
+        if (!document || page >= document->pageCount()) {
+            break;
+        }
+        import = repair::importFurtherPage(*document, page + 1);
+    }
+    return pages;
+}
+
+} // namespace
+
+TEST(PageBreaks, HaveTheLayoutOfTheMasterPageThatAParagraphStates)
+{
+    EXPECT_EQ(pagesOf("<text:p>p1</text:p><text:p text:style-name=\"wide\">p2</text:p>"
+                      "<text:p text:style-name=\"plain\">p3</text:p>"),
+              QStringList({u"283x142 p1"_s, u"567x113 p2\np3|head"_s}));
+}
+
+TEST(PageBreaks, HaveTheLayoutThatTheFirstParagraphStates)
+{
+    EXPECT_EQ(pagesOf("<text:p text:style-name=\"wide\">p1</text:p>"),
+              QStringList({u"567x113 p1|head"_s}));
+}
+
+TEST(PageBreaks, GoOnWithTheNextMasterPageOfAFullPage)
+{
+    const QStringList pages =
+        pagesOf("<text:p text:style-name=\"wide\">p1</text:p>" + paragraphs(2, 8, "plain"));
+    ASSERT_EQ(pages.size(), 2);
+    EXPECT_TRUE(pages[0].startsWith("567x113 "_L1)) << pages[0].toStdString();
+    EXPECT_TRUE(pages[1].startsWith("283x142 "_L1)) << pages[1].toStdString();
+    EXPECT_FALSE(pages[1].contains("head"_L1)) << pages[1].toStdString();
+}
+
+TEST(PageBreaks, AreBeforeTablesThatDemandThem)
+{
+    const auto table = [](const QByteArray& style) {
+        return "<table:table table:style-name=\"" + style +
+               "\"><table:table-column/><table:table-row><table:table-cell><text:p>cell</text:p>"
+               "</table:table-cell></table:table-row></table:table>";
+    };
+    EXPECT_EQ(pagesOf("<text:p>p1</text:p>" + table("break") + table("table")),
+              QStringList({u"283x142 p1"_s, u"283x142 cell"_s, u"567x113 cell|head"_s}));
+}

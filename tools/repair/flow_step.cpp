@@ -9,8 +9,6 @@
 #include "repair/shape_place.h"
 #include "repair/table_rows.h"
 
-#include <QSet>
-
 #include <algorithm>
 
 namespace repair {
@@ -27,21 +25,29 @@ constexpr double LowestPage = 20.0;
 constexpr double MarginShare = 0.5;
 constexpr double EditorsMarginShare = 0.75;
 
+/// A page of the text.
+struct FlowPage
+{
+    const Node* master = nullptr;
+    PageArea area;
+    Node::Children objects;
+    bool isContinued = false; ///< the last editor's break is before it
+};
+
 /// Lays out the blocks of the body, page by page.
 class FlowWriter
 {
 public:
-    FlowWriter(Document& document, const PageArea& area)
+    explicit FlowWriter(Document& document)
         : m_document(document)
-        , m_area(area)
-    {}
+    {
+        addPage(masterPage(document));
+    }
 
     void readBlocks(Node& parent, int depth);
     void endText();
-    /// The objects of each page.
-    [[nodiscard]] std::vector<Node::Children> take() { return std::move(m_pages); }
-    /// Whether the last editor's break is before a page, and whether it left any.
-    [[nodiscard]] bool isContinued(int page) const { return m_continued.contains(page); }
+    [[nodiscard]] std::vector<FlowPage> take() { return std::move(m_pages); }
+    /// Whether the last editor left breaks between pages.
     [[nodiscard]] bool hasEditorBreaks() const { return m_hasEditorBreaks; }
 
 private:
@@ -50,29 +56,66 @@ private:
     void placeShape(std::unique_ptr<Node> shape);
     void placeRow(std::unique_ptr<Node> shape);
     void placeRows(Node::Children shapes);
+    void addPage(const Node* master);
+    void beginBlock(const StyleProperties& properties, const QString& breakBefore);
     void breakPage();
     void continueOnNextPage();
     void keepObjects(Node::Children anchored);
-    [[nodiscard]] bool hasBreak(const Node& paragraph, const QString& side) const;
-    [[nodiscard]] Node::Children& objects() { return m_pages.back(); }
+    [[nodiscard]] Node::Children& objects() { return m_pages.back().objects; }
+    [[nodiscard]] const PageArea& area() const { return m_pages.back().area; }
 
     Document& m_document;
-    const PageArea m_area;
     int m_row = 0;         // of the present page
     bool m_isEmpty = true; // the present page
     bool m_hasEditorBreaks = false;
-    QSet<int> m_continued;
     Node::Children m_text;
-    std::vector<Node::Children> m_pages{1};
+    std::vector<FlowPage> m_pages;
 };
+
+// The master page of the page after one with this master page.
+const Node* nextMaster(const Document& document, const Node* master)
+{
+    const Node* const next = master != nullptr
+                                 ? masterPage(document, master->attribute(u"style:next-style-name"))
+                                 : nullptr;
+    return next != nullptr ? next : master;
+}
+
+// The paragraph that gives a block its breaks: the first one of a list.
+const Node& firstParagraph(const Node& block)
+{
+    const Node* node = &block;
+    while (!isParagraph(*node) && !node->children.empty() && node->children.front() != nullptr) {
+        node = node->children.front().get();
+    }
+    return *node;
+}
+
+void FlowWriter::addPage(const Node* master)
+{
+    m_pages.push_back({master, pageArea(m_document, master), {}});
+    m_row = 0;
+    m_isEmpty = true;
+}
 
 void FlowWriter::breakPage()
 {
     if (!m_isEmpty) {
         endText();
-        m_pages.emplace_back();
-        m_row = 0;
-        m_isEmpty = true;
+        addPage(nextMaster(m_document, m_pages.back().master));
+    }
+}
+
+// A block that states a master page begins a page with it.
+void FlowWriter::beginBlock(const StyleProperties& properties, const QString& breakBefore)
+{
+    const Node* const master = masterPage(m_document, properties.masterPage.value_or(QString()));
+    if (master != nullptr || breakBefore == "page"_L1) {
+        breakPage();
+    }
+    if (master != nullptr) {
+        m_pages.pop_back();
+        addPage(master);
     }
 }
 
@@ -81,16 +124,9 @@ void FlowWriter::continueOnNextPage()
 {
     m_hasEditorBreaks = true;
     if (!m_isEmpty) {
-        m_continued.insert(static_cast<int>(m_pages.size()));
         breakPage();
+        m_pages.back().isContinued = true;
     }
-}
-
-bool FlowWriter::hasBreak(const Node& paragraph, const QString& side) const
-{
-    const QString style = paragraph.attribute(u"text:style-name");
-    const StyleProperties properties = m_document.table().resolved(u"paragraph"_s, style, false);
-    return properties.paragraph.value(u"fo:break-"_s + side) == "page"_L1;
 }
 
 void FlowWriter::readBlocks(Node& parent, int depth)
@@ -118,12 +154,12 @@ void FlowWriter::readBlocks(Node& parent, int depth)
 
 void FlowWriter::readText(std::unique_ptr<Node> block)
 {
-    if (hasBreak(*block, u"before"_s)) {
-        breakPage();
-    }
-    const bool endsPage = hasBreak(*block, u"after"_s);
+    const StyleProperties properties = m_document.table().resolved(
+        u"paragraph"_s, firstParagraph(*block).attribute(u"text:style-name"), false);
+    beginBlock(properties, properties.paragraph.value(u"fo:break-before"_s));
+    const bool endsPage = properties.paragraph.value(u"fo:break-after"_s) == "page"_L1;
     m_isEmpty = false;
-    TakenShapes taken = takeShapes(m_document, *block, {m_area, m_area.box}, true);
+    TakenShapes taken = takeShapes(m_document, *block, {area(), area().box}, true);
     placeRows(std::move(taken.above));
     keepObjects(std::move(taken.anchored));
     m_text.push_back(std::move(block));
@@ -169,7 +205,7 @@ void FlowWriter::placeShape(std::unique_ptr<Node> shape)
     auto paragraph = Node::element(u"text:p"_s);
     paragraph->append(std::move(shape));
     m_isEmpty = false;
-    TakenShapes taken = takeShapes(m_document, *paragraph, {m_area, m_area.box}, true);
+    TakenShapes taken = takeShapes(m_document, *paragraph, {area(), area().box}, true);
     placeRows(std::move(taken.above));
     placeRows(std::move(taken.below));
     const bool isInText =
@@ -183,9 +219,13 @@ void FlowWriter::placeShape(std::unique_ptr<Node> shape)
 
 void FlowWriter::readTable(Node& table)
 {
+    const QString style = table.attribute(u"table:style-name");
+    beginBlock(
+        m_document.table().resolved(u"table"_s, style, false),
+        statedBy(m_document, table, u"style:table-properties"_s).value(u"fo:break-before"_s));
     m_isEmpty = false;
     endText();
-    Node::Children cells = tableCells(m_document, table, {m_area, m_area.box}, m_row);
+    Node::Children cells = tableCells(m_document, table, {area(), area().box}, m_row);
     std::move(cells.begin(), cells.end(), std::back_inserter(objects()));
 }
 
@@ -196,7 +236,7 @@ void FlowWriter::endText()
     if (text.empty()) {
         return;
     }
-    auto frame = textFrame(m_document, {m_area.box.left(), 0.0, m_area.box.width(), 0.0}, {});
+    auto frame = textFrame(m_document, {area().box.left(), 0.0, area().box.width(), 0.0}, {});
     frame->setAttribute(RowAttribute, QString::number(++m_row));
     frame->setAttribute(FlowsAttribute, u"true"_s);
     frame->child(u"draw:text-box")->children = std::move(text);
@@ -240,19 +280,23 @@ Node::Children textLast(Node::Children objects)
     return objects;
 }
 
-std::unique_ptr<Node> pageOf(Document& document, const PageArea& area, Node::Children objects)
+std::unique_ptr<Node> pageOf(Document& document, FlowPage flow)
 {
     auto page = Node::element(u"draw:page"_s);
-    page->children = textLast(std::move(objects));
+    page->children = textLast(std::move(flow.objects));
+    const PageArea& area = flow.area;
     page->setAttribute(TopAttribute, toInches(area.box.top()));
     if (area.box.height() >= LowestPage) {
         page->setAttribute(BottomAttribute, toInches(area.box.bottom()));
         page->setAttribute(LowestAttribute, toInches(lowestLine(area, MarginShare)));
     }
-    if (const Node* const master = masterPage(document)) {
-        addMargin(document, master->child(u"style:header"), area, true, page->children);
-        addMargin(document, master->child(u"style:footer"), area, false, page->children);
-        page->setAttribute(u"draw:master-page-name"_s, master->attribute(u"style:name"));
+    if (flow.master != nullptr) {
+        addMargin(document, flow.master->child(u"style:header"), area, true, page->children);
+        addMargin(document, flow.master->child(u"style:footer"), area, false, page->children);
+        page->setAttribute(u"draw:master-page-name"_s, flow.master->attribute(u"style:name"));
+    }
+    if (flow.isContinued) {
+        page->setAttribute(ContinuesAttribute, u"true"_s);
     }
     return page;
 }
@@ -261,7 +305,8 @@ std::unique_ptr<Node> pageOf(Document& document, const PageArea& area, Node::Chi
 
 std::unique_ptr<Node> emptyPage(Document& document)
 {
-    return pageOf(document, pageArea(document), {});
+    const Node* const master = nextMaster(document, masterPage(document));
+    return pageOf(document, {master, pageArea(document, master), {}});
 }
 
 Node::Children layOutPages(Document& document)
@@ -269,17 +314,13 @@ Node::Children layOutPages(Document& document)
     if (!document.isText()) {
         return {};
     }
-    const PageArea area = pageArea(document);
-    FlowWriter writer(document, area);
+    FlowWriter writer(document);
     writer.readBlocks(*document.body(), 0);
     writer.endText();
     Node::Children pages;
-    for (Node::Children& objects : writer.take()) {
-        const bool isContinued = writer.isContinued(static_cast<int>(pages.size()));
-        Node& page = *pages.emplace_back(pageOf(document, area, std::move(objects)));
-        if (isContinued) {
-            page.setAttribute(ContinuesAttribute, u"true"_s);
-        }
+    for (FlowPage& flow : writer.take()) {
+        const PageArea area = flow.area;
+        Node& page = *pages.emplace_back(pageOf(document, std::move(flow)));
         // The editor had room for the lines of each page.
         if (writer.hasEditorBreaks() && page.hasAttribute(LowestAttribute)) {
             const QString lowest = toInches(lowestLine(area, EditorsMarginShare));

@@ -15,7 +15,7 @@ namespace repair {
 /// @return none if it is not a text document; else the body is then an empty drawing
 [[nodiscard]] Node::Children layOutPages(Document& document);
 
-/// A page without content, with the header and footer of its master page.
+/// The page after that of the document, without content, with header and footer.
 [[nodiscard]] std::unique_ptr<Node> emptyPage(Document& document);
 
 /// Where the first row of a page begins.

@@ -23,9 +23,9 @@ struct Margin
 };
 
 // A header grows with its text.
-Margin marginOf(Document& document, const Node& layout, const QString& kind, const QString& side)
+Margin marginOf(Document& document, const Node* master, const Node& layout, const QString& kind,
+                const QString& side)
 {
-    const Node* const master = masterPage(document);
     const Node* const content = master != nullptr ? master->child(u"style:"_s + kind) : nullptr;
     if (content == nullptr) {
         return {};
@@ -56,17 +56,18 @@ Node* childNamed(const Node* parent, QStringView tag, const QString& name)
     return found != parent->children.end() ? found->get() : nullptr;
 }
 
+Node* masterPage(const Document& document, const QString& name)
+{
+    return childNamed(document.styles->child(u"office:master-styles"), u"style:master-page", name);
+}
+
 Node* masterPage(const Document& document)
 {
-    const Node* const masters = document.styles->child(u"office:master-styles");
-    if (masters == nullptr) {
-        return nullptr;
-    }
     const Node* const page = document.page();
-    const QString name =
-        page != nullptr ? page->attribute(u"draw:master-page-name") : u"Standard"_s;
-    Node* const named = childNamed(masters, u"style:master-page", name);
-    return named != nullptr ? named : masters->child(u"style:master-page");
+    Node* const named = masterPage(
+        document, page != nullptr ? page->attribute(u"draw:master-page-name") : u"Standard"_s);
+    const Node* const masters = document.styles->child(u"office:master-styles");
+    return named != nullptr || masters == nullptr ? named : masters->child(u"style:master-page");
 }
 
 double linesHeight(Document& document, const Node& container)
@@ -82,13 +83,18 @@ double linesHeight(Document& document, const Node& container)
     return height;
 }
 
-PageArea pageArea(Document& document)
+PageArea pageArea(Document& document, const Node* master)
 {
     // A page that is not described has the reader's default.
     PageArea area{QRectF(0.0, 0.0, 612.0, 792.0), QSizeF(612.0, 792.0), 0.0, 792.0, 792.0};
     const Node* const automatic = document.styles->child(u"office:automatic-styles");
-    const Node* const layout =
-        automatic != nullptr ? automatic->child(u"style:page-layout") : nullptr;
+    const Node* layout = master != nullptr
+                             ? childNamed(automatic, u"style:page-layout",
+                                          master->attribute(u"style:page-layout-name"))
+                             : nullptr;
+    if (layout == nullptr && automatic != nullptr) {
+        layout = automatic->child(u"style:page-layout");
+    }
     const Node* const page =
         layout != nullptr ? layout->child(u"style:page-layout-properties") : nullptr;
     if (page == nullptr) {
@@ -103,8 +109,8 @@ PageArea pageArea(Document& document)
     area.size = {width, height};
     area.headerTop = margin(u"top"_s);
     area.footerBottom = height - margin(u"bottom"_s);
-    const Margin header = marginOf(document, *layout, u"header"_s, u"fo:margin-bottom"_s);
-    const Margin footer = marginOf(document, *layout, u"footer"_s, u"fo:margin-top"_s);
+    const Margin header = marginOf(document, master, *layout, u"header"_s, u"fo:margin-bottom"_s);
+    const Margin footer = marginOf(document, master, *layout, u"footer"_s, u"fo:margin-top"_s);
     area.footerTop = area.footerBottom - footer.height;
     area.box = QRectF(QPointF(margin(u"left"_s), area.headerTop + header.height + header.distance),
                       QPointF(width - margin(u"right"_s), area.footerTop - footer.distance));

@@ -12,8 +12,10 @@ class Node;
 /// The child with this tag and style:name; null if there is none.
 [[nodiscard]] Node* childNamed(const Node* parent, QStringView tag, const QString& name);
 
-/// The master page of a drawing's page, or of a text's first page; null if there is none.
+/// The master page of a drawing's page, or of a text that states none; null if there is none.
 [[nodiscard]] Node* masterPage(const Document& document);
+/// The master page with this name; null if there is none.
+[[nodiscard]] Node* masterPage(const Document& document, const QString& name);
 
 /// Where the text of a text document is, in points.
 struct PageArea
@@ -25,8 +27,9 @@ struct PageArea
     double footerBottom = 0.0;
 };
 
-/// The area that the page's margins, header and footer leave.
-[[nodiscard]] PageArea pageArea(Document& document);
+/// The area that the margins, header and footer of a master page leave. The first page layout if
+/// there is no master page.
+[[nodiscard]] PageArea pageArea(Document& document, const Node* master);
 
 /// Where lines may be that do not fit: in this share of the bottom margin, but not on the footer.
 [[nodiscard]] double lowestLine(const PageArea& area, double share);

@@ -180,9 +180,7 @@ std::optional<RepairedPage> DocumentRepair::takePage(int number)
     m_lastNumber = number;
     Document& document = *m_last;
     QList<Repair> repairs = std::exchange(m_repairs, {});
-    if (!document.wasText) {
-        note(repairs, "page-layout-chosen"_L1, usePageLayout(document));
-    }
+    note(repairs, "page-layout-chosen"_L1, usePageLayout(document));
     rewrite(document, repairs);
     if (!m_rest.empty()) {
         putRest(document, std::exchange(m_rest, {}));

@@ -72,6 +72,9 @@ void StyleProperties::overlay(const StyleProperties& other)
     if (!other.list.isEmpty()) {
         list = other.list;
     }
+    if (other.masterPage) {
+        masterPage = other.masterPage;
+    }
 }
 
 StyleTable::StyleTable(const Node& styles, const Node& content)
@@ -106,6 +109,9 @@ StyleProperties StyleTable::ownProperties(const Node& style)
     readProperties(style.child(u"style:paragraph-properties"), own.paragraph);
     readProperties(style.child(u"style:text-properties"), own.text);
     own.list = style.attribute(u"style:list-style-name");
+    if (style.hasAttribute(u"style:master-page-name"_s)) {
+        own.masterPage = style.attribute(u"style:master-page-name");
+    }
     return own;
 }
 

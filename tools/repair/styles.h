@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QString>
 
+#include <optional>
+
 namespace repair {
 
 class Node;
@@ -18,6 +20,9 @@ struct StyleProperties
     Properties text;
     /// The list of a paragraph.
     QString list;
+    /// The master page of the page that begins with the paragraph or table. Empty takes back that
+    /// of a parent.
+    std::optional<QString> masterPage;
 
     /// Takes over what another style states; percentages of font sizes are resolved.
     void overlay(const StyleProperties& other);

@@ -19,26 +19,6 @@ using namespace Qt::StringLiterals;
 
 const QString BackgroundColor = u"fo:background-color"_s;
 
-// What the style of a table, row, column or cell states.
-Properties statedBy(const Document& document, const Node& part, const QString& tag)
-{
-    Properties result;
-    const QString style = part.attribute(u"table:style-name");
-    const Node* const automatic = document.content->child(u"office:automatic-styles");
-    if (automatic == nullptr || style.isEmpty()) {
-        return result;
-    }
-    for (const auto& each : automatic->children) {
-        const Node* const properties = each->child(tag);
-        if (properties != nullptr && each->attribute(u"style:name") == style) {
-            for (const Attribute& attribute : properties->attributes) {
-                result.insert(attribute.name, attribute.value);
-            }
-        }
-    }
-    return result;
-}
-
 // The first color that is given, of a cell, its row, and its table.
 QString firstColor(const QStringList& colors)
 {
@@ -161,6 +141,25 @@ void TableReader::readRows(Node& parent, int depth)
 }
 
 } // namespace
+
+Properties statedBy(const Document& document, const Node& part, const QString& tag)
+{
+    Properties result;
+    const QString style = part.attribute(u"table:style-name");
+    const Node* const automatic = document.content->child(u"office:automatic-styles");
+    if (automatic == nullptr || style.isEmpty()) {
+        return result;
+    }
+    for (const auto& each : automatic->children) {
+        const Node* const properties = each->child(tag);
+        if (properties != nullptr && each->attribute(u"style:name") == style) {
+            for (const Attribute& attribute : properties->attributes) {
+                result.insert(attribute.name, attribute.value);
+            }
+        }
+    }
+    return result;
+}
 
 int repeats(const Node& node, QStringView attribute, int most)
 {

@@ -22,6 +22,9 @@ struct TextPlace;
 /// States the border of a frame or cell as a pen. Items have one for all sides.
 void addBorder(const Properties& source, Properties& target);
 
+/// What the automatic style of a table, row, column or cell states in its element with this tag.
+[[nodiscard]] Properties statedBy(const Document& document, const Node& part, const QString& tag);
+
 /// The cells of a table as text boxes, row by row; nested tables become text.
 ///
 /// @param place of the table
