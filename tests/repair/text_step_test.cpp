@@ -90,6 +90,22 @@ TEST(Texts, NumberListsAndMarkTheirItems)
     EXPECT_EQ(text.counts.lists, 2);
 }
 
+TEST(Texts, HaveBulletsThatEveryFontHas)
+{
+    const auto bulletOf = [](const QByteArray& character) {
+        return rewritten("<text:list text:style-name=\"L\"><text:list-item><text:p>one</text:p>"
+                         "</text:list-item></text:list>",
+                         "<text:list-style style:name=\"L\"><text:list-level-style-bullet "
+                         "text:level=\"1\" text:bullet-char=\"" +
+                             character + "\"/></text:list-style>")
+            .text;
+    };
+    EXPECT_EQ(bulletOf("&#xF0B7;"), u"[\u2022  ][one]/"_s); // Symbol
+    EXPECT_EQ(bulletOf("&#xF0FC;"), u"[\u2713  ][one]/"_s); // Wingdings
+    EXPECT_EQ(bulletOf("&#xE00C;"), u"[\u2022  ][one]/"_s);
+    EXPECT_EQ(bulletOf("&#x2713;"), u"[\u2713  ][one]/"_s);
+}
+
 TEST(Texts, AppendNotes)
 {
     const Rewritten text =

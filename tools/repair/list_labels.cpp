@@ -5,10 +5,31 @@
 #include "repair/xml_tree.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace repair {
 
 using namespace Qt::StringLiterals;
+
+QString bulletText(const QString& character)
+{
+    // As Symbol and Wingdings draw them.
+    static constexpr struct
+    {
+        char16_t code;
+        char16_t shape;
+    } Shapes[] = {{0xF02D, u'\u2212'}, {0xF06F, u'\u25A1'}, {0xF071, u'\u2751'},
+                  {0xF076, u'\u2756'}, {0xF0A7, u'\u25AA'}, {0xF0A8, u'\u25FB'},
+                  {0xF0D8, u'\u27A2'}, {0xF0E0, u'\u2192'}, {0xF0FC, u'\u2713'}};
+    constexpr QChar Dot = u'\u2022';
+    if (character.size() != 1 || character[0].category() != QChar::Other_PrivateUse) {
+        return character;
+    }
+    const auto* const known =
+        std::find_if(std::begin(Shapes), std::end(Shapes),
+                     [&character](const auto& row) { return row.code == character[0].unicode(); });
+    return known != std::end(Shapes) ? QChar(known->shape) : Dot;
+}
 
 QString numberText(int number, const QString& format)
 {

@@ -14,6 +14,10 @@ struct Indent
     double first = 0.0;
 };
 
+/// A bullet as a character that every font has: symbol fonts, which may be missing, have theirs in
+/// the private area of Unicode.
+[[nodiscard]] QString bulletText(const QString& character);
+
 /// A list item's number in the format of a list style: digits, letters or Roman numerals.
 [[nodiscard]] QString numberText(int number, const QString& format);
 /// The style of a list's level: bullet, number or picture; null if it is unknown.

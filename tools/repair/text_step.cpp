@@ -121,7 +121,8 @@ void BlockWriter::readList(const Node& element, const List* outer, int depth)
 void BlockWriter::addLabel(List& list, StyleProperties& style, std::vector<Run>& runs)
 {
     const Node* const level = levelStyle(m_document.table(), list.style, list.level);
-    QString label = level == nullptr ? u"\u2022"_s : level->attribute(u"text:bullet-char");
+    QString label =
+        level == nullptr ? u"\u2022"_s : bulletText(level->attribute(u"text:bullet-char"));
     if (level != nullptr && label.isEmpty()) {
         label = level->attribute(u"style:num-prefix") +
                 numberText(list.number, level->attribute(u"style:num-format")) +
