@@ -52,8 +52,8 @@ TEST_F(OtherCommands, InspectHasTheLimitsOfImport)
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "SKIPPED: no bounds of memory under the sanitizer";
 #endif
-    // A tree of so many elements takes some two hundred megabytes.
-    write(u"wide.qmtx"_s, "<a>" + QByteArray("<b/>").repeated(1'000'000) + "</a>");
+    // A tree of so many elements takes more than a hundred megabytes.
+    write(u"wide.qmtx"_s, "<a>" + QByteArray("<b/>").repeated(5'000'000) + "</a>");
     const Outcome outcome = labelport(words("inspect wide.qmtx --timeout 0 --memory-limit 128"));
     EXPECT_EQ(outcome.status, 1);
     EXPECT_TRUE(outcome.out.contains(u"128 MiB"_s)) << qPrintable(outcome.out);

@@ -11,13 +11,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-const QByteArray PlainRect = "<draw:rect svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
-                             "svg:height=\"1in\"/>";
-const QByteArray PlainLabel =
-    "<transparent_label><printable_control><text>Plain</text><bounds><x>220</x><y>220</y>"
-    "<w>100</w><h>40</h></bounds><font><family>Liberation Sans</family><size>10</size></font>"
-    "</printable_control></transparent_label>";
-
 namespace {
 
 QByteArray namespaces()

@@ -56,10 +56,16 @@ struct Document
     return {u"canvas.cnv"_s, bytes};
 }
 
+// Inline: tables of other sources begin with them, before main() starts.
+
 /// A rectangle of an inch on the page of a drawing, which is imported completely.
-extern const QByteArray PlainRect;
+inline const QByteArray PlainRect =
+    "<draw:rect svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" svg:height=\"1in\"/>";
 /// A text on the page of an XML label, which is imported completely.
-extern const QByteArray PlainLabel;
+inline const QByteArray PlainLabel =
+    "<transparent_label><printable_control><text>Plain</text><bounds><x>220</x><y>220</y>"
+    "<w>100</w><h>40</h></bounds><font><family>Liberation Sans</family><size>10</size></font>"
+    "</printable_control></transparent_label>";
 
 /// Changes the result of an import before the report.
 using Tamper = std::function<void(workbench::ImportResult& result)>;
