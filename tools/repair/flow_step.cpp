@@ -19,20 +19,8 @@ using namespace Qt::StringLiterals;
 
 // Sections, lists, and objects within one another.
 constexpr int MaximumSectionDepth = 100;
-// Points: text on lower pages is not broken into further pages.
-constexpr double LowestPage = 20.0;
-// Of the bottom margin: room for lines that do not fit; more if the last editor had room for them.
-constexpr double MarginShare = 0.5;
+// Of the bottom margin: the last editor had room for the lines in it.
 constexpr double EditorsMarginShare = 0.75;
-
-/// A page of the text.
-struct FlowPage
-{
-    const Node* master = nullptr;
-    PageArea area;
-    Node::Children objects;
-    bool isContinued = false; ///< the last editor's break is before it
-};
 
 /// Lays out the blocks of the body, page by page.
 class FlowWriter
@@ -71,15 +59,6 @@ private:
     Node::Children m_text;
     std::vector<FlowPage> m_pages;
 };
-
-// The master page of the page after one with this master page.
-const Node* nextMaster(const Document& document, const Node* master)
-{
-    const Node* const next = master != nullptr
-                                 ? masterPage(document, master->attribute(u"style:next-style-name"))
-                                 : nullptr;
-    return next != nullptr ? next : master;
-}
 
 // The paragraph that gives a block its breaks: the first one of a list.
 const Node& firstParagraph(const Node& block)
@@ -243,71 +222,7 @@ void FlowWriter::endText()
     objects().push_back(std::move(frame));
 }
 
-// Header and footer: texts of the master page.
-void addMargin(Document& document, const Node* margin, const PageArea& area, bool isHeader,
-               Node::Children& objects)
-{
-    if (margin == nullptr) {
-        return;
-    }
-    QRectF box = area.box;
-    box.setTop(isHeader ? area.headerTop : area.footerTop);
-    box.setHeight(linesHeight(document, *margin));
-    auto frame = textFrame(document, box, {});
-    Node& text = *frame->child(u"draw:text-box");
-    const auto copy = copyFromMaster(document, *margin);
-    takeParagraphs(*copy, text, 0);
-    Node::Children taken = takeAllShapes(document, text, {area, area.box});
-    if (taken.empty() && text.allText().trimmed().isEmpty()) {
-        return;
-    }
-    std::move(taken.begin(), taken.end(), std::back_inserter(objects));
-    objects.push_back(std::move(frame));
-}
-
-// Objects in their own order, then the text, which nothing may cover.
-Node::Children textLast(Node::Children objects)
-{
-    std::stable_sort(objects.begin(), objects.end(), [](const auto& a, const auto& b) {
-        return a->attribute(u"draw:z-index").toInt() < b->attribute(u"draw:z-index").toInt();
-    });
-    std::stable_partition(objects.begin(), objects.end(), [](const auto& object) {
-        return object->child(u"draw:text-box") == nullptr;
-    });
-    for (const auto& object : objects) {
-        object->removeAttribute(u"draw:z-index");
-    }
-    return objects;
-}
-
-std::unique_ptr<Node> pageOf(Document& document, FlowPage flow)
-{
-    auto page = Node::element(u"draw:page"_s);
-    page->children = textLast(std::move(flow.objects));
-    const PageArea& area = flow.area;
-    page->setAttribute(TopAttribute, toInches(area.box.top()));
-    if (area.box.height() >= LowestPage) {
-        page->setAttribute(BottomAttribute, toInches(area.box.bottom()));
-        page->setAttribute(LowestAttribute, toInches(lowestLine(area, MarginShare)));
-    }
-    if (flow.master != nullptr) {
-        addMargin(document, flow.master->child(u"style:header"), area, true, page->children);
-        addMargin(document, flow.master->child(u"style:footer"), area, false, page->children);
-        page->setAttribute(u"draw:master-page-name"_s, flow.master->attribute(u"style:name"));
-    }
-    if (flow.isContinued) {
-        page->setAttribute(ContinuesAttribute, u"true"_s);
-    }
-    return page;
-}
-
 } // namespace
-
-std::unique_ptr<Node> emptyPage(Document& document)
-{
-    const Node* const master = nextMaster(document, masterPage(document));
-    return pageOf(document, {master, pageArea(document, master), {}});
-}
 
 Node::Children layOutPages(Document& document)
 {

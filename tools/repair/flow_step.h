@@ -1,6 +1,7 @@
 #pragma once
 
 #include "repair/document.h"
+#include "repair/flow_page.h"
 
 #include <QString>
 
@@ -15,16 +16,6 @@ namespace repair {
 /// @return none if it is not a text document; else the body is then an empty drawing
 [[nodiscard]] Node::Children layOutPages(Document& document);
 
-/// The page after that of the document, without content, with header and footer.
-[[nodiscard]] std::unique_ptr<Node> emptyPage(Document& document);
-
-/// Where the first row of a page begins.
-inline const QString TopAttribute = QLatin1String("labelport:top");
-/// Where the lines of a page end; and the lowest place for the last few that do not fit.
-inline const QString BottomAttribute = QLatin1String("labelport:bottom");
-inline const QString LowestAttribute = QLatin1String("labelport:lowest");
-/// Whether the page continues the text of the one before: the document demands no break there.
-inline const QString ContinuesAttribute = QLatin1String("labelport:continues");
 /// Whether the object is as high as its row: the cells of a table.
 inline const QString FillsRowAttribute = QLatin1String("labelport:fills-row");
 

@@ -7,7 +7,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace migration {

@@ -12,52 +12,50 @@ namespace {
 
 // What repair avoids in the document: it counts where the repaired document still has it. Also
 // what the label and the log show, which are those of the repaired document.
-constexpr std::array SeenInRepaired{
-    LossKind::GroupedObject,
-    LossKind::MasterPageObject,
-    LossKind::Connector,
-    LossKind::FreeformShape,
-    LossKind::Callout,
-    LossKind::EmbeddedObject,
-    LossKind::ShapeInText,
-    LossKind::Table,
-    LossKind::List,
-    LossKind::TextSection,
-    LossKind::LinkText,
-    LossKind::TextField,
-    LossKind::TextElement,
-    LossKind::ShapeText,
-    LossKind::Footnote,
-    LossKind::PictureUnreadable,
-    LossKind::DrawingUnreadable,
-    LossKind::SymbolUnreadable,
-    LossKind::OverLimit,
-    LossKind::ObjectMissing,
-    LossKind::LogCut,
-    LossKind::UnknownShape,
-    LossKind::OutsidePage,
-    LossKind::OverPageEdge,
-    LossKind::SizeLimited,
-    LossKind::MillimetersEnlarged,
-    LossKind::MixedUnits,
-    LossKind::UnitUnknown,
-    LossKind::PageSizeAssumed,
-    LossKind::TransformDropped,
-    LossKind::FontReplaced,
-    LossKind::TextSpacing,
-    LossKind::FillSimplified,
-    LossKind::Other,
-    LossKind::LineText,
-    LossKind::TextDiffers,
-    LossKind::TextUnreadable,
-    LossKind::TextsOverlap,
-    LossKind::Covered,
-    LossKind::Moved,
-    LossKind::Mirrored,
-    LossKind::Invisible,
-    LossKind::FillAdded,
-    LossKind::PenWidth,
-};
+constexpr std::array SeenInRepaired{LossKind::GroupedObject,
+                                    LossKind::MasterPageObject,
+                                    LossKind::Connector,
+                                    LossKind::FreeformShape,
+                                    LossKind::Callout,
+                                    LossKind::EmbeddedObject,
+                                    LossKind::ShapeInText,
+                                    LossKind::Table,
+                                    LossKind::List,
+                                    LossKind::TextSection,
+                                    LossKind::LinkText,
+                                    LossKind::TextField,
+                                    LossKind::TextElement,
+                                    LossKind::ShapeText,
+                                    LossKind::Footnote,
+                                    LossKind::PictureUnreadable,
+                                    LossKind::DrawingUnreadable,
+                                    LossKind::SymbolUnreadable,
+                                    LossKind::OverLimit,
+                                    LossKind::ObjectMissing,
+                                    LossKind::LogCut,
+                                    LossKind::UnknownShape,
+                                    LossKind::OutsidePage,
+                                    LossKind::OverPageEdge,
+                                    LossKind::SizeLimited,
+                                    LossKind::MillimetersEnlarged,
+                                    LossKind::MixedUnits,
+                                    LossKind::UnitUnknown,
+                                    LossKind::PageSizeAssumed,
+                                    LossKind::TransformDropped,
+                                    LossKind::FontReplaced,
+                                    LossKind::TextSpacing,
+                                    LossKind::FillSimplified,
+                                    LossKind::Other,
+                                    LossKind::LineText,
+                                    LossKind::TextDiffers,
+                                    LossKind::TextUnreadable,
+                                    LossKind::TextsOverlap,
+                                    LossKind::Covered,
+                                    LossKind::Moved,
+                                    LossKind::Mirrored,
+                                    LossKind::Invisible,
+                                    LossKind::FillAdded,
+                                    LossKind::PenWidth};
 
 // What is set on the items after the import, or given by rows: the repaired document shows no
 // trace of it.
@@ -104,19 +102,18 @@ void forgetPlaces(QList<Finding>& findings)
 // next one. Pieces of a few letters are found in any text.
 bool isTextIn(QStringView text, const QString& shown)
 {
-    constexpr int mostPieces = 4;
-    constexpr qsizetype shortestPiece = 8;
-    for (int piece = 0; piece < mostPieces && !text.isEmpty(); ++piece) {
+    constexpr int MostPieces = 4;
+    constexpr qsizetype ShortestPiece = 8;
+    for (int piece = 0; piece < MostPieces && !text.isEmpty(); ++piece) {
         if (shown.contains(text)) {
             return true;
         }
         qsizetype found = 0; // as many letters are on one page
-        qsizetype tooMany = text.size();
-        while (tooMany - found > 1) {
+        for (qsizetype tooMany = text.size(); tooMany - found > 1;) {
             const qsizetype middle = (found + tooMany) / 2;
             (shown.contains(text.left(middle)) ? found : tooMany) = middle;
         }
-        if (found < shortestPiece) {
+        if (found < ShortestPiece) {
             return false;
         }
         text = text.mid(found);

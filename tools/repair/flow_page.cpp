@@ -1,0 +1,97 @@
+#include "repair/flow_page.h"
+
+#include "repair/anchored_shapes.h"
+#include "repair/document.h"
+#include "repair/lengths.h"
+#include "repair/page_steps.h"
+#include "repair/shape_place.h"
+#include "repair/table_rows.h"
+
+#include <algorithm>
+
+namespace repair {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Points: text on lower pages is not broken into further pages.
+constexpr double LowestPage = 20.0;
+// Of the bottom margin: room for lines that do not fit.
+constexpr double MarginShare = 0.5;
+
+// Header and footer: texts of the master page.
+void addMargin(Document& document, const Node* margin, const PageArea& area, bool isHeader,
+               Node::Children& objects)
+{
+    if (margin == nullptr) {
+        return;
+    }
+    QRectF box = area.box;
+    box.setTop(isHeader ? area.headerTop : area.footerTop);
+    box.setHeight(linesHeight(document, *margin));
+    auto frame = textFrame(document, box, {});
+    Node& text = *frame->child(u"draw:text-box");
+    const auto copy = copyFromMaster(document, *margin);
+    takeParagraphs(*copy, text, 0);
+    Node::Children taken = takeAllShapes(document, text, {area, area.box});
+    if (taken.empty() && text.allText().trimmed().isEmpty()) {
+        return;
+    }
+    std::move(taken.begin(), taken.end(), std::back_inserter(objects));
+    objects.push_back(std::move(frame));
+}
+
+// Objects in their own order, then the text, which nothing may cover.
+Node::Children textLast(Node::Children objects)
+{
+    std::stable_sort(objects.begin(), objects.end(), [](const auto& a, const auto& b) {
+        return a->attribute(u"draw:z-index").toInt() < b->attribute(u"draw:z-index").toInt();
+    });
+    std::stable_partition(objects.begin(), objects.end(), [](const auto& object) {
+        return object->child(u"draw:text-box") == nullptr;
+    });
+    for (const auto& object : objects) {
+        object->removeAttribute(u"draw:z-index");
+    }
+    return objects;
+}
+
+} // namespace
+
+const Node* nextMaster(const Document& document, const Node* master)
+{
+    const Node* const next = master != nullptr
+                                 ? masterPage(document, master->attribute(u"style:next-style-name"))
+                                 : nullptr;
+    return next != nullptr ? next : master;
+}
+
+std::unique_ptr<Node> pageOf(Document& document, FlowPage flow)
+{
+    auto page = Node::element(u"draw:page"_s);
+    page->children = textLast(std::move(flow.objects));
+    const PageArea& area = flow.area;
+    page->setAttribute(TopAttribute, toInches(area.box.top()));
+    if (area.box.height() >= LowestPage) {
+        page->setAttribute(BottomAttribute, toInches(area.box.bottom()));
+        page->setAttribute(LowestAttribute, toInches(lowestLine(area, MarginShare)));
+    }
+    if (flow.master != nullptr) {
+        addMargin(document, flow.master->child(u"style:header"), area, true, page->children);
+        addMargin(document, flow.master->child(u"style:footer"), area, false, page->children);
+        page->setAttribute(u"draw:master-page-name"_s, flow.master->attribute(u"style:name"));
+    }
+    if (flow.isContinued) {
+        page->setAttribute(ContinuesAttribute, u"true"_s);
+    }
+    return page;
+}
+
+std::unique_ptr<Node> emptyPage(Document& document)
+{
+    const Node* const master = nextMaster(document, masterPage(document));
+    return pageOf(document, {master, pageArea(document, master), {}});
+}
+
+} // namespace repair
