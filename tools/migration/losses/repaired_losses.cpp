@@ -102,9 +102,9 @@ void forgetPlaces(QList<Finding>& findings)
 // next one. Pieces of a few letters are found in any text.
 bool isTextIn(QStringView text, const QString& shown)
 {
-    constexpr int MostPieces = 4;
+    constexpr int PageCount = 4; // of one paragraph
     constexpr qsizetype ShortestPiece = 8;
-    for (int piece = 0; piece < MostPieces && !text.isEmpty(); ++piece) {
+    for (int piece = 0; piece < PageCount && !text.isEmpty(); ++piece) {
         if (shown.contains(text)) {
             return true;
         }
