@@ -70,13 +70,20 @@ void WorkerReport::add(const OpenedLabel& label)
             : migration::makeSavedLabelReport(m_input.path(), m_name, label, m_options);
 }
 
-migration::FileReport WorkerReport::finish(bool allPages)
+void WorkerReport::leaveOutPages(int count)
+{
+    if (m_pages) {
+        m_pages->leaveOutPages(count);
+    }
+}
+
+migration::FileReport WorkerReport::finish()
 {
     if (!m_pages) {
         m_report.sandbox = sandbox::codesOf(sandbox::active());
         return m_report;
     }
-    migration::FileReport report = m_pages->finish(allPages);
+    migration::FileReport report = m_pages->finish();
     if (m_pageCount > 1) {
         report.repaired.append({u"pages-separated"_s, {}, m_pageCount - 1});
     }

@@ -25,8 +25,9 @@ public:
     /// A label of the file: the first, or a further page of a repaired document. Before anything
     /// is written, because that shows other records on the canvas.
     void add(const OpenedLabel& label);
-    /// @param allPages whether each page of a repaired document was added
-    [[nodiscard]] migration::FileReport finish(bool allPages);
+    /// The next pages of a repaired document that are not imported.
+    void leaveOutPages(int count);
+    [[nodiscard]] migration::FileReport finish();
 
 private:
     const LabelInput& m_input;

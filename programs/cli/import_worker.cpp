@@ -73,18 +73,19 @@ public:
             take(label, 1);
             document = std::move(label.document);
         }
-        const bool isComplete = document == nullptr || importFurtherPages(*document);
-        migration::FileReport report = m_report.finish(isComplete);
+        if (document != nullptr) {
+            importFurtherPages(*document);
+        }
+        migration::FileReport report = m_report.finish();
         report.exports = exportReports(m_exports.all());
         m_result.report = migration::toJson(report);
         return m_result;
     }
 
 private:
-    // One after the other, so that only one is in memory. Returns whether there is a label of each.
-    bool importFurtherPages(repair::DocumentRepair& document)
+    // One after the other, so that only one is in memory.
+    void importFurtherPages(repair::DocumentRepair& document)
     {
-        bool isComplete = true;
         // Pages that are full add further ones.
         for (int page = 2; page <= std::min(document.pageCount(), repair::MaximumPages); ++page) {
             OpenedLabel label = openFurtherPage(document, page);
@@ -92,21 +93,20 @@ private:
             if (label.isOpen()) {
                 take(label, page);
             } else {
-                isComplete = false;
+                m_report.leaveOutPages(1);
                 m_result.warnings.append(QCoreApplication::translate(
                                              "cli::ImportWorker", "Page %1 could not be imported.")
                                              .arg(page));
             }
         }
         if (document.pageCount() > repair::MaximumPages) {
-            isComplete = false;
+            m_report.leaveOutPages(document.pageCount() - repair::MaximumPages);
             m_result.warnings.append(
                 QCoreApplication::translate(
                     "cli::ImportWorker",
                     "Only the first %1 pages were imported; the document has more.")
                     .arg(repair::MaximumPages));
         }
-        return isComplete;
     }
 
     void take(OpenedLabel& label, int page)

@@ -1,5 +1,6 @@
 // `labelport import` and `labelport inspect` of documents that are repaired.
 
+#include "repair/repair.h"
 #include "tests/cli/program_fixture.h"
 
 #include <private/qzipwriter_p.h>
@@ -113,6 +114,23 @@ TEST_F(Repairs, MakeALabelOfEachPage)
     EXPECT_EQ(file.value("outputs"_L1).toArray().size(), 6);
     EXPECT_TRUE(read(u"pages-2.label"_s) != read(u"pages-3.label"_s));
     EXPECT_EQ(import("pages.odg --as-written --force").out, u"pages.png\n"_s);
+}
+
+// Each page becomes a label up to the limit.
+TEST_F(Repairs, LeaveOutPagesOnlyWithALoss)
+{
+    QList<QByteArray> pages(repair::MaximumPages + 2);
+    pages.last() = Rectangle;
+    write(u"pages.odg"_s, drawing(pages));
+    const Outcome outcome = import("pages.odg --to csv --fail-on-loss --report report.json");
+    EXPECT_EQ(outcome.status, 3) << qPrintable(outcome.err);
+    const QByteArray report = read(u"report.json"_s).split('\n').at(1);
+    const QJsonObject file = QJsonDocument::fromJson(report).object();
+    EXPECT_EQ(file.value("verdict"_L1), u"lossy"_s);
+    EXPECT_EQ(codesOf(file.value("lost"_L1)), QStringList{u"pages-left-out"_s});
+    EXPECT_EQ(file.value("lost"_L1).toArray().first().toObject().value("details"_L1).toArray(),
+              QJsonArray{u"201–202"_s});
+    EXPECT_EQ(file.value("objects"_L1).toObject().value("imported"_L1).toInt(), 0);
 }
 
 TEST_F(Repairs, NeverGiveAPageTheNameOfAnotherLabel)

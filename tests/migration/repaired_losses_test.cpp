@@ -41,12 +41,15 @@ Census censusOf(const QList<CountedObject>& objects)
 }
 
 FileReport filled(const Census& original, const Census& repaired, const LabelFacts& label,
-                  bool allPages = true)
+                  int pagesLeftOut = 0)
 {
     RepairedLosses losses(original);
     losses.addPage(repaired, label, {});
+    if (pagesLeftOut > 0) {
+        losses.leaveOutPages(pagesLeftOut);
+    }
     FileReport report;
-    losses.fill(report, allPages);
+    losses.fill(report);
     return report;
 }
 
@@ -102,12 +105,44 @@ TEST(RepairedLosses, WhatNoRepairAvoidsIsLostEvenIfTheRepairedDocumentDoesNotHav
 
 TEST(RepairedLosses, APageThatWasNotImportedIsLost)
 {
-    const Census original =
+    Census original =
         censusOf({counted(ObjectClass::Shape), counted(ObjectClass::Shape, LossKind::FurtherPage)});
+    original.objects[1].page = 2;
     const Census repaired = censusOf({counted(ObjectClass::Shape)});
     const LabelFacts label = labelOf({ObjectClass::Shape});
-    EXPECT_EQ(codesOf(filled(original, repaired, label, true).lost), "");
-    EXPECT_EQ(codesOf(filled(original, repaired, label, false).lost), "further-page 1");
+    EXPECT_EQ(codesOf(filled(original, repaired, label).lost), "");
+    const FileReport report = filled(original, repaired, label, 1);
+    EXPECT_EQ(codesOf(report.lost), "pages-left-out 1");
+    EXPECT_EQ(report.lost.constFirst().details, QStringList{u"2"_s});
+    EXPECT_EQ(report.objects.imported, 1);
+}
+
+TEST(RepairedLosses, OnlyObjectsOfPagesThatWereLeftOutAreLost)
+{
+    Census original;
+    for (int page = 1; page <= 4; ++page) {
+        original.objects.append(counted(ObjectClass::Shape, LossKind::FurtherPage));
+        original.objects.last().page = page;
+    }
+    const Census repaired = censusOf({counted(ObjectClass::Shape)});
+    RepairedLosses losses(original);
+    losses.addPage(repaired, labelOf({ObjectClass::Shape}), {});
+    losses.leaveOutPages(2);
+    losses.addPage(repaired, labelOf({ObjectClass::Shape}), {});
+    FileReport report;
+    losses.fill(report);
+    EXPECT_EQ(codesOf(report.lost), "pages-left-out 2");
+    EXPECT_EQ(report.lost.constFirst().details, QStringList{u"2–3"_s});
+    EXPECT_EQ(report.objects.imported, 2);
+}
+
+TEST(RepairedLosses, CountsPagesWhoseObjectsAreUnknown)
+{
+    const FileReport report =
+        filled(TwoShapes, TwoShapes, labelOf({ObjectClass::Shape, ObjectClass::Shape}), 3);
+    EXPECT_EQ(codesOf(report.lost), "pages-left-out 3");
+    EXPECT_FALSE(report.lost.constFirst().countsObjects);
+    EXPECT_EQ(report.objects.imported, 2);
 }
 
 TEST(RepairedLosses, WhatIsSetOnTheItemsIsNotChanged)
@@ -160,7 +195,7 @@ TEST(RepairedLosses, AHeaderIsLostOnlyIfNoPageShowsItsText)
     losses.addPage(original, label, {});
     losses.addPage(original, labelOf({}), {});
     FileReport report;
-    losses.fill(report, true);
+    losses.fill(report);
     EXPECT_EQ(codesOf(report.lost), "header-or-footer 2");
     EXPECT_EQ(report.objects.inFile, 3);
     EXPECT_EQ(report.objects.imported, 1);
@@ -173,7 +208,7 @@ TEST(RepairedLosses, PagesAddUp)
     losses.addPage(page, {}, {});
     losses.addPage(page, labelOf({ObjectClass::Shape}), {});
     FileReport report;
-    losses.fill(report, true);
+    losses.fill(report);
     EXPECT_EQ(codesOf(report.lost), "object-missing 1");
     EXPECT_EQ(report.objects.imported, 1);
 }
@@ -202,10 +237,12 @@ TEST(RepairedLosses, ATextIsMissingOnlyIfNoPageShowsIt)
     losses.addPage({}, first, {});
     losses.addPage({}, second, {});
     FileReport report;
-    losses.fill(report, true);
+    losses.fill(report);
     ASSERT_EQ(codesOf(report.changed), "text-differs 2");
     EXPECT_EQ(report.changed.constFirst().details, (QStringList{u"Lost text → "_s, u"Twice → "_s}));
+    losses.leaveOutPages(1);
     FileReport part;
-    losses.fill(part, false);
+    losses.fill(part);
     EXPECT_EQ(codesOf(part.changed), "");
+    EXPECT_EQ(codesOf(part.lost), "pages-left-out 5");
 }

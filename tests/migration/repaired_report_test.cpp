@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-FileReport repairedReport(const Document& document)
+/// @param pages that are imported; all if 0
+FileReport repairedReport(const Document& document, int pagesTaken = 0)
 {
     const QTemporaryDir folder;
     const QString fileName = folder.filePath(document.name);
@@ -24,7 +25,7 @@ FileReport repairedReport(const Document& document)
     RepairedFileReport report(fileName, document.name);
     repair::RepairedImport import = repair::importRepaired(fileName);
     const std::shared_ptr<repair::DocumentRepair> pages = import.document;
-    const int count = import.pageCount;
+    const int count = pagesTaken > 0 ? pagesTaken : import.pageCount;
     for (int page = 1; page <= count; ++page) {
         if (page > 1) {
             import = repair::importFurtherPage(*pages, page);
@@ -35,7 +36,10 @@ FileReport repairedReport(const Document& document)
         }
         report.addPage(import.result, import.package, repairs);
     }
-    return report.finish(true);
+    if (count < import.pageCount) {
+        report.leaveOutPages(import.pageCount - count);
+    }
+    return report.finish();
 }
 
 const DocumentParts PageBreaks = {
@@ -54,6 +58,23 @@ TEST(RepairedReport, ATextOfSeveralPagesIsComplete)
                            PageBreaks));
     EXPECT_EQ(report.objects.imported, 3);
     EXPECT_EQ(verdictOf(report), Verdict::Complete) << codesOf(report).toStdString();
+}
+
+TEST(RepairedReport, CountsTheTextsOfPagesThatWereLeftOut)
+{
+    const Document document = odt("<text:p>First page</text:p>"
+                                  "<text:p text:style-name=\"B\">Second page</text:p>"
+                                  "<text:p text:style-name=\"B\">Third page</text:p>"
+                                  "<text:p>More of the third page</text:p>",
+                                  PageBreaks);
+    const FileReport report = repairedReport(document, 2);
+    const Finding* const leftOut = findingOf(report, lossCode(LossKind::PagesLeftOut));
+    ASSERT_NE(leftOut, nullptr) << codesOf(report).toStdString();
+    EXPECT_EQ(leftOut->count, 2);
+    EXPECT_EQ(leftOut->details, QStringList{u"3…"_s});
+    EXPECT_EQ(report.objects.imported, 2);
+    EXPECT_EQ(verdictOf(report), Verdict::Lossy);
+    EXPECT_EQ(codesOf(report), u"pages-left-out ×2 [3…]"_s) << codesOf(report).toStdString();
 }
 
 // Unlike a frame, a shape of a text is filled unless its style says otherwise.

@@ -128,7 +128,8 @@ RepairedFileReport::RepairedFileReport(const QString& fileName, const QString& s
 void RepairedFileReport::addPage(const workbench::ImportResult& result, const QByteArray& package,
                                  const QList<RepairReport>& repairs)
 {
-    const bool isFirst = ++m_pages == 1;
+    const int number = m_losses.lastPage() + 1;
+    const bool isFirst = number == 1;
     m_report.status = Status::Imported;
     FileReport page;
     describeLabel(result, page);
@@ -141,13 +142,13 @@ void RepairedFileReport::addPage(const workbench::ImportResult& result, const QB
     m_report.issues.append(page.issues);
     addRepairs(m_report.repaired, repairs);
     LabelFacts label = lookAtItems(*result.canvas, false);
-    checkLabel(m_census, *result.canvas, {.page = m_pages, .isRepaired = true}, label);
+    checkLabel(m_census, *result.canvas, {.page = number, .isRepaired = true}, label);
     m_losses.addPage(countOpenDocument(package), label, lossesOfLog(result));
 }
 
-FileReport RepairedFileReport::finish(bool allPages)
+FileReport RepairedFileReport::finish()
 {
-    m_losses.fill(m_report, allPages);
+    m_losses.fill(m_report);
     return m_report;
 }
 

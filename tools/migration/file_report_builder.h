@@ -39,19 +39,19 @@ public:
     RepairedFileReport(const QString& fileName, const QString& shownName,
                        const ReportOptions& options = {});
 
-    /// A page that was imported. The picture and the list of items are those of the first one.
+    /// The next page, imported. The picture and the list of items are those of the first one.
     /// @param package the repaired document that the reader imported
     void addPage(const workbench::ImportResult& result, const QByteArray& package,
                  const QList<RepairReport>& repairs);
-    /// @param allPages whether each page of the file was added
-    [[nodiscard]] FileReport finish(bool allPages);
+    /// Further pages, in their order, that were not imported.
+    void leaveOutPages(int count) { m_losses.leaveOutPages(count); }
+    [[nodiscard]] FileReport finish();
 
 private:
     ReportOptions m_options;
     Census m_census;
     RepairedLosses m_losses;
     FileReport m_report;
-    int m_pages = 0;
 };
 
 /// Builds the report of a saved label (*.label) that was opened. Uses only canvas, datasources and

@@ -9,7 +9,9 @@ using namespace Qt::StringLiterals;
 void OpenDocumentWalker::addLost(CountedObject object, const std::optional<QRectF>& box)
 {
     // A place on a further page is not one on the label.
-    if (object.lost != LossKind::FurtherPage) {
+    if (object.lost == LossKind::FurtherPage) {
+        object.page = m_pages;
+    } else {
         object.place = box;
     }
     m_census.objects.append(object);

@@ -8,54 +8,59 @@
 
 namespace migration {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What repair avoids in the document: it counts where the repaired document still has it. Also
 // what the label and the log show, which are those of the repaired document.
-constexpr std::array SeenInRepaired{LossKind::GroupedObject,
-                                    LossKind::MasterPageObject,
-                                    LossKind::Connector,
-                                    LossKind::FreeformShape,
-                                    LossKind::Callout,
-                                    LossKind::EmbeddedObject,
-                                    LossKind::ShapeInText,
-                                    LossKind::Table,
-                                    LossKind::List,
-                                    LossKind::TextSection,
-                                    LossKind::LinkText,
-                                    LossKind::TextField,
-                                    LossKind::TextElement,
-                                    LossKind::ShapeText,
-                                    LossKind::Footnote,
-                                    LossKind::PictureUnreadable,
-                                    LossKind::DrawingUnreadable,
-                                    LossKind::SymbolUnreadable,
-                                    LossKind::OverLimit,
-                                    LossKind::ObjectMissing,
-                                    LossKind::LogCut,
-                                    LossKind::UnknownShape,
-                                    LossKind::OutsidePage,
-                                    LossKind::OverPageEdge,
-                                    LossKind::SizeLimited,
-                                    LossKind::MillimetersEnlarged,
-                                    LossKind::MixedUnits,
-                                    LossKind::UnitUnknown,
-                                    LossKind::PageSizeAssumed,
-                                    LossKind::TransformDropped,
-                                    LossKind::FontReplaced,
-                                    LossKind::TextSpacing,
-                                    LossKind::FillSimplified,
-                                    LossKind::Other,
-                                    LossKind::LineText,
-                                    LossKind::TextDiffers,
-                                    LossKind::TextUnreadable,
-                                    LossKind::TextsOverlap,
-                                    LossKind::Covered,
-                                    LossKind::Moved,
-                                    LossKind::Mirrored,
-                                    LossKind::Invisible,
-                                    LossKind::FillAdded,
-                                    LossKind::PenWidth};
+constexpr std::array SeenInRepaired{
+    LossKind::GroupedObject,
+    LossKind::FurtherPage,
+    LossKind::MasterPageObject,
+    LossKind::Connector,
+    LossKind::FreeformShape,
+    LossKind::Callout,
+    LossKind::EmbeddedObject,
+    LossKind::ShapeInText,
+    LossKind::Table,
+    LossKind::List,
+    LossKind::TextSection,
+    LossKind::LinkText,
+    LossKind::TextField,
+    LossKind::TextElement,
+    LossKind::ShapeText,
+    LossKind::Footnote,
+    LossKind::PictureUnreadable,
+    LossKind::DrawingUnreadable,
+    LossKind::SymbolUnreadable,
+    LossKind::OverLimit,
+    LossKind::ObjectMissing,
+    LossKind::LogCut,
+    LossKind::UnknownShape,
+    LossKind::OutsidePage,
+    LossKind::OverPageEdge,
+    LossKind::SizeLimited,
+    LossKind::MillimetersEnlarged,
+    LossKind::MixedUnits,
+    LossKind::UnitUnknown,
+    LossKind::PageSizeAssumed,
+    LossKind::TransformDropped,
+    LossKind::FontReplaced,
+    LossKind::TextSpacing,
+    LossKind::FillSimplified,
+    LossKind::Other,
+    LossKind::LineText,
+    LossKind::TextDiffers,
+    LossKind::TextUnreadable,
+    LossKind::TextsOverlap,
+    LossKind::Covered,
+    LossKind::Moved,
+    LossKind::Mirrored,
+    LossKind::Invisible,
+    LossKind::FillAdded,
+    LossKind::PenWidth,
+};
 
 // What is set on the items after the import, or given by rows: the repaired document shows no
 // trace of it.
@@ -96,29 +101,6 @@ void forgetPlaces(QList<Finding>& findings)
     for (Finding& finding : findings) {
         finding.places.reset();
     }
-}
-
-// Whether all of a text is shown: a paragraph may begin at the end of a page, and continue on the
-// next one. Pieces of a few letters are found in any text.
-bool isTextIn(QStringView text, const QString& shown)
-{
-    constexpr int PageCount = 4; // of one paragraph
-    constexpr qsizetype ShortestPiece = 8;
-    for (int piece = 0; piece < PageCount && !text.isEmpty(); ++piece) {
-        if (shown.contains(text)) {
-            return true;
-        }
-        qsizetype found = 0; // as many letters are on one page
-        for (qsizetype tooMany = text.size(); tooMany - found > 1;) {
-            const qsizetype middle = (found + tooMany) / 2;
-            (shown.contains(text.left(middle)) ? found : tooMany) = middle;
-        }
-        if (found < ShortestPiece) {
-            return false;
-        }
-        text = text.mid(found);
-    }
-    return text.isEmpty();
 }
 
 // In the order of the kinds.
@@ -169,45 +151,6 @@ void RepairedLosses::findHeaders(const LabelFacts& label)
     });
 }
 
-void RepairedLosses::findTexts(const LabelFacts& label)
-{
-    for (const QString& text : label.missingTexts) {
-        ++m_missingTexts[text];
-    }
-    for (const ItemFacts& item : label.items) {
-        m_shownText += squeezed(item.text);
-    }
-    m_shownText += QChar::LineFeed;
-}
-
-// Each page of a text is compared with all of it: what is on one page is missing on all others.
-QList<Finding> RepairedLosses::missingTexts(bool allPages) const
-{
-    QMap<QString, qint64> runningTexts;
-    for (const CountedObject& object : m_original.objects) {
-        if (object.objectClass == ObjectClass::Text && object.appearance >= 0 &&
-            m_original.appearances.at(object.appearance).page == 0) {
-            ++runningTexts[m_original.appearances.at(object.appearance).text.simplified()];
-        }
-    }
-    LabelFacts label;
-    for (auto text = m_missingTexts.begin(); text != m_missingTexts.end(); ++text) {
-        const qint64 count = runningTexts.value(text.key());
-        const qint64 missing = text.value() - count * (m_pageCount - 1);
-        const bool isOnNoPage = missing >= count;
-        if (missing <= 0 || (count > 0 && !allPages) ||
-            (isOnNoPage && isTextIn(squeezed(text.key()), m_shownText))) {
-            continue;
-        }
-        for (qint64 each = 0; each < missing; ++each) {
-            noteMissingText(text.key(), label.tallies[LossKind::TextDiffers]);
-        }
-    }
-    FileReport report;
-    compare({}, label, {}, report);
-    return report.changed;
-}
-
 Census RepairedLosses::withoutShownHeaders() const
 {
     Census census = m_original;
@@ -229,17 +172,45 @@ void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const Log
     findHeaders(label);
     FileReport page;
     compare(repaired, label, log, page);
-    findTexts(label);
-    if (m_pageCount > 0) {
+    m_texts.addPage(label);
+    if (m_lastPage > 0) {
         // Places are those on the label that is shown: the first page.
         forgetPlaces(page.lost);
         forgetPlaces(page.changed);
     }
-    ++m_pageCount;
+    ++m_lastPage;
     addTo(m_pages.lost, page.lost);
     addTo(m_pages.changed, page.changed);
     addCounts(m_pages.complete, page.complete);
     m_pages.objects.imported += page.objects.imported;
+}
+
+void RepairedLosses::leaveOutPages(int count)
+{
+    const int first = m_lastPage + 1;
+    m_lastPage += count;
+    for (int page = first; page <= m_lastPage; ++page) {
+        m_pagesLeftOut.insert(page);
+    }
+    m_pageRanges.append(count == 1 ? QString::number(first)
+                                   : u"%1–%2"_s.arg(first).arg(m_lastPage));
+}
+
+// Counts their objects, or else the pages.
+void RepairedLosses::addPagesLeftOut(QList<Finding>& lost) const
+{
+    const qint64 texts = m_texts.leftOut(m_original);
+    const qint64 objects =
+        texts + std::count_if(m_original.objects.begin(), m_original.objects.end(),
+                              [this](const CountedObject& object) {
+                                  return m_pagesLeftOut.contains(object.page);
+                              });
+    QStringList ranges = m_pageRanges.mid(0, Tally::MaximumDetails);
+    // Pages of a text that are full would add further ones.
+    ranges.last() += texts > 0 ? u"…"_s : QString();
+    lost.append({lossCode(LossKind::PagesLeftOut), lossText(LossKind::PagesLeftOut),
+                 objects > 0 ? objects : m_pagesLeftOut.size(), objects > 0, ranges});
+    sortByKind(lost);
 }
 
 void RepairedLosses::addTo(QList<Finding>& sums, const QList<Finding>& findings) const
@@ -255,13 +226,11 @@ void RepairedLosses::addTo(QList<Finding>& sums, const QList<Finding>& findings)
 }
 
 QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
-                                         const QList<Finding>& repaired, bool allPages) const
+                                         const QList<Finding>& repaired) const
 {
     QList<Finding> findings = repaired;
     for (const Finding& finding : original) {
-        const bool isPage = finding.code == lossCode(LossKind::FurtherPage);
-        if (isPage ? allPages
-                   : contains(SeenInRepaired, finding.code) || contains(SetOnItems, finding.code)) {
+        if (contains(SeenInRepaired, finding.code) || contains(SetOnItems, finding.code)) {
             continue;
         }
         if (Finding* const same = findingOf(findings, finding.code)) {
@@ -276,14 +245,19 @@ QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
     return findings;
 }
 
-void RepairedLosses::fill(FileReport& report, bool allPages) const
+void RepairedLosses::fill(FileReport& report) const
 {
     FileReport original;
     compare(withoutShownHeaders(), {}, {}, original);
-    report.lost = remaining(original.lost, m_pages.lost, allPages);
+    report.lost = remaining(original.lost, m_pages.lost);
     QList<Finding> changed = m_pages.changed;
-    addTo(changed, missingTexts(allPages));
-    report.changed = remaining(original.changed, changed, allPages);
+    if (!m_pagesLeftOut.isEmpty()) {
+        addPagesLeftOut(report.lost);
+    } else if (const Tally missing = m_texts.missing(m_original); missing.count > 0) {
+        addTo(changed, {{lossCode(LossKind::TextDiffers), lossText(LossKind::TextDiffers),
+                         missing.count, false, missing.details}});
+    }
+    report.changed = remaining(original.changed, changed);
     report.complete = m_pages.complete;
     report.objects.unknown = m_original.unknown;
     report.objects.imported = m_pages.objects.imported;

@@ -2,10 +2,11 @@
 
 #include "migration/losses/item_losses.h"
 #include "migration/losses/log_losses.h"
+#include "migration/losses/paged_texts.h"
 #include "migration/model/census.h"
 #include "migration/model/file_report.h"
 
-#include <QMap>
+#include <QSet>
 
 namespace migration {
 
@@ -22,29 +23,31 @@ class RepairedLosses
 public:
     explicit RepairedLosses(const Census& original);
 
-    /// Compares a repaired page with the label that it became.
+    /// Compares the next page, repaired, with the label that it became.
     void addPage(Census repaired, const LabelFacts& label, const LogLosses& log);
-    /// @param allPages whether each page of the document was added
-    void fill(FileReport& report, bool allPages) const;
+    /// The next pages become no labels.
+    void leaveOutPages(int count);
+    /// The number of pages that were added or left out.
+    [[nodiscard]] int lastPage() const { return m_lastPage; }
+    void fill(FileReport& report) const;
 
 private:
     void addTo(QList<Finding>& sums, const QList<Finding>& findings) const;
     [[nodiscard]] QList<Finding> remaining(const QList<Finding>& original,
-                                           const QList<Finding>& repaired, bool allPages) const;
+                                           const QList<Finding>& repaired) const;
+    void addPagesLeftOut(QList<Finding>& lost) const;
 
     void findHeaders(const LabelFacts& label);
-    void findTexts(const LabelFacts& label);
-    [[nodiscard]] QList<Finding> missingTexts(bool allPages) const;
     [[nodiscard]] Census withoutShownHeaders() const;
 
     const Census& m_original;
     /// Indices of the texts of headers and footers that no label shows yet.
     QList<qsizetype> m_missingHeaders;
     FileReport m_pages; ///< the sums over all pages
-    qint64 m_pageCount = 0;
-    /// On how many pages each text is missing, and what all pages show.
-    QMap<QString, qint64> m_missingTexts;
-    QString m_shownText;
+    int m_lastPage = 0;
+    QSet<int> m_pagesLeftOut; ///< their numbers
+    QStringList m_pageRanges; ///< the same for the user: "201–204"
+    PagedTexts m_texts;
 };
 
 } // namespace migration

@@ -63,6 +63,8 @@ struct CountedObject
     int barcodeType = NoBarcodeType;
     /// Where a lost object was, in millimeters from the page's corner; nothing if unknown.
     std::optional<QRectF> place = {};
+    /// Of a lost object on a further page of a drawing, from 2.
+    int page = 0;
     /// Index in Census::appearances; -1 if only its number is known.
     qsizetype appearance = -1;
 };

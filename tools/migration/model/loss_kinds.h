@@ -13,6 +13,7 @@ enum class LossKind : quint8 {
     // Lost.
     GroupedObject,
     FurtherPage,
+    PagesLeftOut,
     MasterPageObject,
     Connector,
     FreeformShape,
