@@ -66,12 +66,16 @@ QString drawingOf(const repair::Document& document)
                : QString::fromUtf8(document.newMembers.value(image->attribute(u"xlink:href")));
 }
 
-QString writePackage(const QString& folder, const QByteArray& content, const QByteArray& styles)
+QString writePackage(const QString& folder, const QByteArray& content, const QByteArray& styles,
+                     const QHash<QString, QByteArray>& members)
 {
     const QString name = folder + "/drawing.odg"_L1;
     QZipWriter zip(name);
     zip.addFile(u"styles.xml"_s, styles);
     zip.addFile(u"content.xml"_s, content);
+    for (auto it = members.begin(); it != members.end(); ++it) {
+        zip.addFile(it.key(), it.value());
+    }
     zip.close();
     return name;
 }

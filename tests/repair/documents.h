@@ -24,5 +24,8 @@
 [[nodiscard]] QString drawingOf(const repair::Document& document);
 
 /// Writes a package; returns its path below the folder.
+///
+/// @param members further ones by their names
 [[nodiscard]] QString writePackage(const QString& folder, const QByteArray& content,
-                                   const QByteArray& styles);
+                                   const QByteArray& styles,
+                                   const QHash<QString, QByteArray>& members = {});

@@ -2,10 +2,15 @@
 
 #include "tests/repair/documents.h"
 
+#include "host/items/rich_text_item.h"
+#include "repair/lengths.h"
 #include "repair/page_steps.h"
+#include "repair/repaired_import.h"
 #include "repair/shape_place.h"
 #include "repair/shape_steps.h"
 #include "repair/text_step.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -79,18 +84,93 @@ TEST(EmbeddedDocument, DrawingIsScaledIntoItsFrame)
     EXPECT_NEAR(box.height(), 72.0, 0.1);
 }
 
-TEST(EmbeddedDocument, SheetIsTheTextOfItsRows)
+TEST(EmbeddedDocument, SheetHasItsCellsInTheirPlaces)
 {
     repair::Document document = holding(
         {{u"Object 1/content.xml"_s,
-          contentOf("<office:spreadsheet><table:table><table:table-row><table:table-cell><text:p>"
-                    "a</text:p></table:table-cell><table:table-cell/><table:table-cell><text:p>c"
-                    "</text:p></table:table-cell><table:table-cell/></table:table-row>"
-                    "</table:table></office:spreadsheet>")}});
+          contentOf("<office:spreadsheet><table:table><table:table-column table:style-name=\"C\" "
+                    "table:number-columns-repeated=\"3\"/><table:table-row table:style-name=\"R\" "
+                    "table:number-rows-repeated=\"2\"/><table:table-row table:style-name=\"R\">"
+                    "<table:table-cell><text:p>a</text:p></table:table-cell><table:table-cell/>"
+                    "<table:table-cell office:value=\"7\"><text:p>7</text:p></table:table-cell>"
+                    "</table:table-row></table:table></office:spreadsheet>",
+                    "<style:style style:name=\"C\" style:family=\"table-column\">"
+                    "<style:table-column-properties style:column-width=\"0.5in\"/></style:style>"
+                    "<style:style style:name=\"R\" style:family=\"table-row\">"
+                    "<style:table-row-properties style:row-height=\"0.25in\"/></style:style>")}});
     EXPECT_EQ(repair::unpackDocuments(document), 1);
-    repair::Node& frame = object(document, u"draw:frame"_s);
-    (void)repair::simplifyTexts(document);
-    EXPECT_EQ(frame.allText(), u"a\t\tc"_s);
+    EXPECT_EQ(repair::dissolveGroups(document), 1);
+    EXPECT_EQ(tags(document), u"draw:frame draw:frame"_s) << "only cells with text";
+    const repair::Node& first = *document.page()->children[0];
+    const repair::Node& second = *document.page()->children[1];
+    EXPECT_EQ(first.allText(), u"a"_s);
+    EXPECT_NEAR(repair::boundsOf(first).top(), (2.0 + 0.5) * 72.0, 0.1) << "in the third row";
+    EXPECT_NEAR(repair::boundsOf(first).left(), 72.0, 3.0);
+    EXPECT_NEAR(repair::boundsOf(second).left(), 2.0 * 72.0, 3.0) << "in the third column";
+    const auto alignment = [&document](const repair::Node& cell) {
+        const QString style =
+            cell.child(u"draw:text-box")->firstElement()->attribute(u"text:style-name");
+        return document.table()
+            .resolved(u"paragraph"_s, style, false)
+            .paragraph.value(u"fo:text-align"_s);
+    };
+    EXPECT_EQ(alignment(first), u"start"_s);
+    EXPECT_EQ(alignment(second), u"end"_s) << "a number";
+}
+
+TEST(EmbeddedDocument, HasTheDefaultsOfItsOwnStyles)
+{
+    const QByteArray styles =
+        "<office:document-styles><office:styles><style:default-style style:family=\"graphic\">"
+        "<style:text-properties fo:font-size=\"24pt\"/></style:default-style><style:default-style "
+        "style:family=\"paragraph\"><style:text-properties fo:color=\"#00ff00\"/>"
+        "</style:default-style></office:styles></office:document-styles>";
+    const auto styleOf = [&styles](const QByteArray& body) {
+        repair::Document document = holding(
+            {{u"Object 1/content.xml"_s, contentOf(body)}, {u"Object 1/styles.xml"_s, styles}});
+        EXPECT_EQ(repair::unpackDocuments(document), 1);
+        (void)repair::dissolveGroups(document);
+        QString name;
+        repair::forEachElement(*document.page(), [&name](const repair::Node& node) {
+            name = node.is(u"text:p") ? node.attribute(u"text:style-name") : name;
+        });
+        return document.table().resolved(u"paragraph"_s, name, false).text;
+    };
+    const auto text = styleOf("<office:text><text:p>a</text:p></office:text>");
+    EXPECT_EQ(text.value(u"fo:color"_s), u"#00ff00"_s);
+    const auto shape = styleOf("<office:drawing><draw:page><draw:rect svg:width=\"1in\" "
+                               "svg:height=\"1in\"><text:p>a</text:p></draw:rect></draw:page>"
+                               "</office:drawing>");
+    EXPECT_EQ(repair::toPoints(shape.value(u"fo:font-size"_s)), 24.0);
+}
+
+TEST(EmbeddedDocument, IsAsHighAsItsFrameInATextDocument)
+{
+    const QTemporaryDir folder;
+    const QByteArray object =
+        "<text:p>before</text:p><text:p><draw:frame draw:style-name=\"N\" "
+        "text:anchor-type=\"paragraph\" svg:width=\"3in\" svg:height=\"1in\"><draw:object "
+        "xlink:href=\"./Object 1\"/></draw:frame></text:p><text:p>after</text:p>";
+    const repair::RepairedImport import = repair::importRepaired(writePackage(
+        folder.path(),
+        contentOf("<office:text>" + object + "</office:text>",
+                  "<style:style style:name=\"N\" style:family=\"graphic\">"
+                  "<style:graphic-properties style:wrap=\"none\" style:vertical-pos=\"top\"/>"
+                  "</style:style>"),
+        drawingStyles(),
+        {{u"Object 1/content.xml"_s,
+          contentOf("<office:drawing><draw:page><draw:rect svg:width=\"1in\" "
+                    "svg:height=\"0.2in\"/></draw:page></office:drawing>")}}));
+    ASSERT_TRUE(import.isRepaired());
+    double before = 0.0;
+    double after = 0.0;
+    for (workbench::CanvasItem* const item : import.result.canvas->items()) {
+        if (const auto* const text = dynamic_cast<const RichTextItem*>(item->contractItem())) {
+            const double top = item->graphicsItem()->pos().y();
+            (text->toPlainText().contains(u"after"_s) ? after : before) = top;
+        }
+    }
+    EXPECT_GE(after - before, 72.0);
 }
 
 TEST(EmbeddedDocument, StaysIfItsPictureCanBeReadOrItCannot)
@@ -100,7 +180,7 @@ TEST(EmbeddedDocument, StaysIfItsPictureCanBeReadOrItCannot)
         {{u"Object 1/content.xml"_s, content}, {u"ObjectReplacements/Object 1"_s, "\x89PNG"}});
     EXPECT_EQ(repair::unpackDocuments(withPicture), 0);
     repair::Document chart = holding({{u"Object 1/content.xml"_s, contentOf("<office:chart/>")}});
-    EXPECT_EQ(repair::unpackDocuments(chart), 0);
+    EXPECT_EQ(repair::unpackDocuments(chart) + repair::drawCharts(chart), 0);
     repair::Document broken = holding({{u"Object 1/content.xml"_s, "<office:document"}});
     EXPECT_EQ(repair::unpackDocuments(broken), 0);
 }

@@ -4,6 +4,7 @@
 
 #include "repair/enhanced_path.h"
 #include "repair/fill_drawing.h"
+#include "repair/page_steps.h"
 #include "repair/repair.h"
 #include "repair/shape_parts.h"
 #include "repair/shape_place.h"
@@ -60,6 +61,27 @@ std::pair<int, QByteArray> textPage(const QByteArray& text)
             "</office:text></office:body></office:document-content>",
         drawingStyles()));
     return page ? std::pair(page->pageCount, page->package) : std::pair(0, QByteArray());
+}
+
+/// A drawing with a frame that shows an embedded document with this body.
+Document embedding(const QByteArray& body)
+{
+    Document document = drawing("<draw:frame svg:width=\"1in\" svg:height=\"1in\"><draw:object "
+                                "xlink:href=\"./Object\"/></draw:frame>");
+    document.readMember = [body](const QString& name) {
+        return name == "Object/content.xml"_L1 ? "<office:document-content><office:body>" + body +
+                                                     "</office:body></office:document-content>"
+                                               : QByteArray();
+    };
+    return document;
+}
+
+QString textOfEmbedded(const QByteArray& body)
+{
+    Document document = embedding(body);
+    (void)drawCharts(document);
+    (void)unpackDocuments(document);
+    return document.page()->allText();
 }
 
 } // namespace
@@ -239,22 +261,65 @@ TEST(RepairLimits, CountEmbeddedDocuments)
                    : QByteArray();
     };
     EXPECT_EQ(unpackDocuments(document), 50);
-    const auto textOfRow = [](int groups) {
-        Document sheet = drawing("<draw:frame><draw:object xlink:href=\"./Object\"/></draw:frame>");
-        sheet.readMember = [groups](const QString& name) {
-            return name == "Object/content.xml"_L1
-                       ? "<office:document-content><office:body><office:spreadsheet>" +
-                             nested("table:table", groups,
-                                    "<table:table-row><table:table-cell><text:p>cell</text:p>"
-                                    "</table:table-cell></table:table-row>") +
-                             "</office:spreadsheet></office:body></office:document-content>"
-                       : QByteArray();
-        };
-        EXPECT_EQ(unpackDocuments(sheet), 1);
-        return sheet.page()->allText();
+    const auto textOfRow = [](const QByteArray& kind, int groups) {
+        const QByteArray table =
+            "<table:table>" +
+            nested("table:table-row-group", groups,
+                   "<table:table-row><table:table-cell><text:p>cell</text:p></table:table-cell>"
+                   "</table:table-row>") +
+            "</table:table>";
+        return textOfEmbedded(
+            "<office:" + kind + '>' +
+            (kind == "chart" ? "<chart:chart>" + table + "</chart:chart>" : table) +
+            "</office:" + kind + '>');
     };
-    EXPECT_EQ(textOfRow(20), u"cell"_s);
-    EXPECT_EQ(textOfRow(21), QString());
+    EXPECT_EQ(textOfRow("spreadsheet", 20), u"cell"_s);
+    EXPECT_EQ(textOfRow("spreadsheet", 21), QString());
+    EXPECT_EQ(textOfRow("chart", 20), u"cell"_s);
+    EXPECT_EQ(textOfRow("chart", 21), QString());
+}
+
+TEST(RepairLimits, CountCellsOfSheets)
+{
+    const auto cellsOfRows = [](int rows) {
+        const QString text = textOfEmbedded(
+            "<office:spreadsheet><table:table><table:table-row table:number-rows-repeated=\"" +
+            QByteArray::number(rows) +
+            "\"><table:table-cell table:number-columns-repeated=\"100\"><text:p>c</text:p>"
+            "</table:table-cell></table:table-row></table:table></office:spreadsheet>");
+        return text.size();
+    };
+    EXPECT_EQ(cellsOfRows(49), 4'900);
+    EXPECT_EQ(cellsOfRows(51), 5'000);
+}
+
+TEST(RepairLimits, CountValuesOfCharts)
+{
+    const auto rectangles = [](int series, int categories, const QByteArray& value = "1") {
+        QByteArray plot = "<chart:plot-area>";
+        for (int i = 0; i < series; ++i) {
+            plot += "<chart:series chart:values-cell-range-address=\"t.$A$1:.$A$" +
+                    QByteArray::number(categories) + "\"/>";
+        }
+        Document document =
+            embedding("<office:chart><chart:chart chart:class=\"chart:bar\" svg:width=\"4in\" "
+                      "svg:height=\"4in\">" +
+                      plot + "</chart:plot-area><table:table>" +
+                      ("<table:table-row><table:table-cell office:value=\"" + value +
+                       "\"><text:p>1</text:p></table:table-cell></table:table-row>")
+                          .repeated(categories) +
+                      "</table:table></chart:chart></office:chart>");
+        EXPECT_EQ(drawCharts(document), 1);
+        (void)dissolveGroups(document);
+        return tags(document).count(u"draw:rect"_s);
+    };
+    EXPECT_EQ(rectangles(30, 1), 30);
+    EXPECT_EQ(rectangles(31, 1), 0) << "only the table";
+    EXPECT_EQ(rectangles(1, 200), 200);
+    EXPECT_EQ(rectangles(1, 201), 0);
+    EXPECT_EQ(rectangles(1, 1, "1e12"), 1);
+    EXPECT_EQ(rectangles(1, 1, "1.1e12"), 0);
+    EXPECT_EQ(rectangles(1, 1, "4e-324"), 1) << "no number of the axis is infinite";
 }
 
 TEST(RepairLimits, BreakEndlessPages)

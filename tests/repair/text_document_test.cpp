@@ -129,6 +129,41 @@ TEST(TextDocument, RowsOfTablesHaveRoomForTheirBorders)
     EXPECT_NEAR(distanceOfRows("4pt") - distanceOfRows("1pt"), 3.0, 0.01);
 }
 
+TEST(TextDocument, RowsOfTablesHaveTheirLeastHeight)
+{
+    const QTemporaryDir folder;
+    const auto topOf = [&folder](const QByteArray& alignment, const QString& words) {
+        const QByteArray content =
+            "<office:document-content><office:automatic-styles><style:style style:name=\"c\" "
+            "style:family=\"table-cell\"><style:table-cell-properties style:vertical-align=\"" +
+            alignment +
+            "\"/></style:style><style:style style:name=\"r\" style:family=\"table-row\">"
+            "<style:table-row-properties style:min-row-height=\"60pt\"/></style:style>"
+            "</office:automatic-styles><office:body><office:text><table:table><table:table-column/>"
+            "<table:table-row table:style-name=\"r\"><table:table-cell table:style-name=\"c\">"
+            "<text:p>cell</text:p></table:table-cell></table:table-row><table:table-row>"
+            "<table:table-cell><text:p>next</text:p></table:table-cell></table:table-row>"
+            "</table:table></office:text></office:body></office:document-content>";
+        const repair::RepairedImport import =
+            repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+        for (workbench::CanvasItem* item : import.result.canvas->items()) {
+            const auto* const text = dynamic_cast<const RichTextItem*>(item->contractItem());
+            if (text != nullptr && text->toPlainText() == words) {
+                return item->values().placement.position.y();
+            }
+        }
+        return -1000.0;
+    };
+    EXPECT_NEAR(topOf("top", u"next"_s), 60.0, 0.1);
+    const double top = topOf("top", u"cell"_s);
+    const double middle = topOf("middle", u"cell"_s);
+    const double bottom = topOf("bottom", u"cell"_s);
+    EXPECT_NEAR(top, 0.0, 4.0);
+    EXPECT_NEAR(middle - top, bottom - middle, 0.1);
+    EXPECT_GT(bottom - top, 30.0) << "a line is lower than half of the row";
+    EXPECT_LT(bottom, 60.0 - 10.0);
+}
+
 TEST(TextDocument, BreaksItsLines)
 {
     const QTemporaryDir folder;

@@ -217,6 +217,25 @@ TEST(TextObjects, WithoutLinesBesideThemAreAboveOrBelowTheirText)
     EXPECT_GE(below.text(u"next"_s)->pos().y(), below.rectangle().bottom() - 0.1);
 }
 
+TEST(TextObjects, KeepTheirDistanceBelowTheirText)
+{
+    const QByteArray style = graphicStyle("none", "style:wrap=\"none\"");
+    const QByteArray object = rectangle("paragraph", "none", "svg:x=\"0in\" svg:y=\"0.8in\"");
+    const TextPage alone("<text:p>" + object + "words</text:p>", style);
+    ASSERT_NE(alone.text(u"words"_s), nullptr);
+    const double top = alone.text(u"words"_s)->pos().y();
+    EXPECT_NEAR(alone.rectangle().top() - top, 0.8 * Inch, 3.0);
+    const TextPage page("<text:p>" + object +
+                            "words</text:p><text:p>near</text:p><text:p>far"
+                            "</text:p><text:p/><text:p/><text:p>last</text:p>",
+                        style);
+    ASSERT_NE(page.text(u"near"_s), nullptr);
+    EXPECT_EQ(page.text(u"near"_s), page.text(u"words"_s)) << "above the object";
+    EXPECT_NEAR(page.rectangle().top() - top, 0.8 * Inch, 3.0);
+    ASSERT_NE(page.text(u"last"_s), nullptr);
+    EXPECT_GE(page.text(u"last"_s)->pos().y(), page.rectangle().bottom() - 0.1);
+}
+
 TEST(TextObjects, ThatLinesRunThroughTakeNoRoom)
 {
     const TextPage page("<text:p>first</text:p><text:p>" +

@@ -2,6 +2,7 @@
 
 #include "tests/repair/documents.h"
 
+#include "repair/lengths.h"
 #include "repair/text_step.h"
 
 #include <gtest/gtest.h>
@@ -104,6 +105,59 @@ TEST(Texts, HaveBulletsThatEveryFontHas)
     EXPECT_EQ(bulletOf("&#xF0FC;"), u"[\u2713  ][one]/"_s); // Wingdings
     EXPECT_EQ(bulletOf("&#xE00C;"), u"[\u2022  ][one]/"_s);
     EXPECT_EQ(bulletOf("&#x2713;"), u"[\u2713  ][one]/"_s);
+}
+
+TEST(Texts, DoNotUnderlineBullets)
+{
+    Document document =
+        drawing("<draw:rect><text:list text:style-name=\"L\"><text:list-item><text:p "
+                "text:style-name=\"U\">one</text:p></text:list-item></text:list></draw:rect>",
+                "<style:style style:name=\"U\" style:family=\"paragraph\"><style:text-properties "
+                "style:text-underline-style=\"solid\"/></style:style>"
+                "<text:list-style style:name=\"L\"><text:list-level-style-bullet text:level=\"1\" "
+                "text:bullet-char=\"-\"/></text:list-style>");
+    (void)simplifyTexts(document);
+    const Node& paragraph = *object(document, u"draw:rect"_s).firstElement();
+    ASSERT_EQ(paragraph.children.size(), 2U);
+    const auto underline = [&document](const Node& span) {
+        return document.table()
+            .resolved(u"text"_s, span.attribute(u"text:style-name"), false)
+            .text.value(u"style:text-underline-style"_s);
+    };
+    EXPECT_EQ(underline(*paragraph.children[0]), QString());
+    EXPECT_EQ(underline(*paragraph.children[1]), u"solid"_s);
+}
+
+TEST(Texts, OfListsHaveTheirOwnIndentIfTheyStateOne)
+{
+    const QByteArray list =
+        "<text:list-style style:name=\"L\"><text:list-level-style-number text:level=\"1\">"
+        "<style:list-level-properties text:list-level-position-and-space-mode=\"label-alignment\">"
+        "<style:list-level-label-alignment fo:margin-left=\"0.5in\" fo:text-indent=\"-0.25in\"/>"
+        "</style:list-level-properties></text:list-level-style-number></text:list-style>";
+    const auto indentOf = [&list](const QByteArray& own, const QByteArray& parent) {
+        Document document =
+            drawing("<draw:rect><text:list text:style-name=\"L\"><text:list-item><text:p "
+                    "text:style-name=\"P\">one</text:p></text:list-item></text:list></draw:rect>",
+                    list +
+                        "<style:style style:name=\"P\" style:family=\"paragraph\" "
+                        "style:parent-style-name=\"Q\"><style:paragraph-properties " +
+                        own + "/></style:style>",
+                    "<style:style style:name=\"Q\" style:family=\"paragraph\" " + parent +
+                        "</style:style>");
+        (void)simplifyTexts(document);
+        const QString style =
+            object(document, u"draw:rect"_s).firstElement()->attribute(u"text:style-name");
+        const Properties shown = document.table().resolved(u"paragraph"_s, style, false).paragraph;
+        return QPointF(toPoints(shown.value(u"fo:margin-left"_s)).value_or(-1.0),
+                       toPoints(shown.value(u"fo:text-indent"_s)).value_or(-1.0));
+    };
+    EXPECT_EQ(indentOf({}, ">"), QPointF(36.0, -18.0));
+    EXPECT_EQ(indentOf("fo:margin-left=\"0in\" fo:text-indent=\"0.25in\"", ">"),
+              QPointF(0.0, 18.0));
+    const QByteArray margin = "<style:paragraph-properties fo:margin-left=\"1in\"/>";
+    EXPECT_EQ(indentOf({}, ">" + margin), QPointF(36.0, -18.0)) << "the list is more specific";
+    EXPECT_EQ(indentOf({}, "style:list-style-name=\"L\">" + margin), QPointF(72.0, -18.0));
 }
 
 TEST(Texts, AppendNotes)

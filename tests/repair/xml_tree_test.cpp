@@ -93,6 +93,14 @@ TEST(Styles, InheritFromParentsAndDefaults)
     EXPECT_EQ(child.text.value(u"fo:font-size"_s), "10pt"_L1);
 }
 
+TEST(Styles, KnowListsOfFamilies)
+{
+    EXPECT_EQ(shownFamily(u"'Liberation Sans', Arial"_s), u"Liberation Sans"_s);
+    EXPECT_EQ(shownFamily(u"'No Such Font', \"DejaVu Sans\""_s), u"DejaVu Sans"_s);
+    EXPECT_EQ(shownFamily(u"'No Such Font', None"_s), u"No Such Font"_s);
+    EXPECT_EQ(shownFamily(QString()), QString());
+}
+
 TEST(Styles, SurviveParentsInACircle)
 {
     Document document =

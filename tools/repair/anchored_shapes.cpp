@@ -63,11 +63,15 @@ private:
     const TextPlace& m_place;
     const bool m_inRows;
     TakenShapes& m_taken;
-    Node::Children m_marks; // at the start of the paragraph
+    Node::Children m_marks;     // at the start of the paragraph
+    double m_textHeight = 0.0;  // points, of the paragraph
+    double m_aboveHeight = 0.0; // of the objects above its text
 };
 
 void ShapeTaker::takeFrom(Node& paragraph)
 {
+    m_textHeight = textHeight(m_document, paragraph, m_place.column.width());
+    m_aboveHeight = 0.0;
     takeInside(paragraph, 0);
     paragraph.children.insert(paragraph.children.begin(), std::make_move_iterator(m_marks.begin()),
                               std::make_move_iterator(m_marks.end()));
@@ -165,12 +169,22 @@ std::unique_ptr<Node> ShapeTaker::pageMark(Node& shape)
     return node;
 }
 
+// Objects keep their distance from the one above, or from the text.
 void ShapeTaker::placeInRow(std::unique_ptr<Node> shape, const QRectF& box)
 {
     const QRectF own = boundsOf(*shape);
     const bool isBelow = box.top() > BelowParagraph;
-    moveShape(*shape, {box.left() - own.left(), -own.top()});
-    (isBelow ? m_taken.below : m_taken.above).push_back(std::move(shape));
+    const double most = std::max(0.0, m_place.page.box.height() - own.height());
+    const double top = std::clamp(box.top(), 0.0, most);
+    const double gap = isBelow ? 0.0 : std::max(0.0, top - m_aboveHeight);
+    moveShape(*shape, {box.left() - own.left(), gap - own.top()});
+    if (isBelow) {
+        const double distance = std::max(0.0, top - m_textHeight - m_aboveHeight);
+        m_taken.below.push_back({std::move(shape), distance});
+    } else {
+        m_aboveHeight = std::max(m_aboveHeight, top) + own.height();
+        m_taken.above.push_back(std::move(shape));
+    }
 }
 
 void takeFromBlock(ShapeTaker& taker, Node& block, int depth)
@@ -210,6 +224,15 @@ bool takesRoom(const QString& mark)
 bool isParagraph(const Node& node)
 {
     return node.is(u"text:p") || node.is(u"text:h");
+}
+
+const Node& firstParagraph(const Node& block)
+{
+    const Node* node = &block;
+    while (!isParagraph(*node) && !node->children.empty() && node->children.front() != nullptr) {
+        node = node->children.front().get();
+    }
+    return *node;
 }
 
 bool isShape(const Node& node)

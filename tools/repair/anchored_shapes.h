@@ -5,6 +5,9 @@
 
 #include <QString>
 
+#include <memory>
+#include <vector>
+
 namespace repair {
 
 class Document;
@@ -24,12 +27,20 @@ inline constexpr QChar MarkHolder = QChar(0x200B);
 /// Of a span: its text is a MarkHolder, not the same character of the document.
 inline const QString HolderAttribute = QLatin1String("labelport:holder");
 
+/// An object below its paragraph.
+struct LoweredShape
+{
+    std::unique_ptr<Node> shape;
+    /// Points from the paragraph's last line to the object; other text may be between them.
+    double distance = 0.0;
+};
+
 /// The objects of a paragraph or list.
 struct TakenShapes
 {
     Node::Children anchored; ///< with marks, or with a place on the page
     Node::Children above;    ///< that the lines do not run beside
-    Node::Children below;
+    std::vector<LoweredShape> below;
     bool hasPageBreak = false;
 };
 
@@ -48,5 +59,7 @@ void writeFrameStyle(Document& document, Node& frame);
 
 [[nodiscard]] bool isShape(const Node& node);
 [[nodiscard]] bool isParagraph(const Node& node);
+/// The paragraph that gives a block its breaks between pages: the first one of a list.
+[[nodiscard]] const Node& firstParagraph(const Node& block);
 
 } // namespace repair

@@ -1,4 +1,7 @@
+#include "repair/chart.h"
 #include "repair/document.h"
+#include "repair/embedded_sheet.h"
+#include "repair/embedded_styles.h"
 #include "repair/lengths.h"
 #include "repair/shape_place.h"
 #include "repair/shape_steps.h"
@@ -16,19 +19,7 @@ using namespace Qt::StringLiterals;
 // Embedded documents of one page, and the memory of one's trees.
 constexpr int MaximumEmbedded = 50;
 constexpr qint64 EmbeddedTreeBytes = 32LL << 20;
-// Tables within groups of rows.
-constexpr int MaximumRowGroupDepth = 20;
 constexpr double PointsPerHundredth = 72.0 / 2540.0; // of a millimeter
-const QString AutomaticStylesTag = u"office:automatic-styles"_s;
-
-/// A document inside the document.
-struct Embedded
-{
-    std::unique_ptr<Node> styles;
-    std::unique_ptr<Node> content;
-    /// What its frame shows, in points; empty if it does not state it.
-    QRectF visible;
-};
 
 std::unique_ptr<Node> readTree(const Document& document, const QString& name)
 {
@@ -54,57 +45,16 @@ QRectF visibleArea(const Document& document, const QString& folder)
             values.value(u"VisibleAreaWidth"_s), values.value(u"VisibleAreaHeight"_s)};
 }
 
-// Its styles get names of their own.
-void renameStyles(Node& root, const QString& prefix)
+// In a row of a text, the object is as high as its frame, not as what is drawn in it.
+std::unique_ptr<Node> emptyFrame(Document& document, const Placement& place)
 {
-    forEachElement(root, [&prefix](Node& node) {
-        for (Attribute& attribute : node.attributes) {
-            const bool isDefinition = attribute.name == "style:name"_L1 &&
-                                      (node.is(u"style:style") || node.is(u"text:list-style"));
-            const bool isUse = attribute.name == "style:parent-style-name"_L1 ||
-                               attribute.name == "style:list-style-name"_L1 ||
-                               attribute.name == "draw:style-name"_L1 ||
-                               attribute.name == "draw:text-style-name"_L1 ||
-                               attribute.name == "text:style-name"_L1 ||
-                               attribute.name == "table:style-name"_L1;
-            if ((isDefinition || isUse) && !attribute.value.isEmpty()) {
-                attribute.value.prepend(prefix);
-            }
-        }
-    });
+    auto empty = textFrame(document, QRectF(QPointF(), place.size), {});
+    writePlacement(*empty, place);
+    return empty;
 }
 
-void moveChildren(Node* source, Node& target)
-{
-    if (source == nullptr) {
-        return;
-    }
-    for (auto& child : source->children) {
-        if (!child->isText() && !child->is(u"style:default-style")) {
-            target.children.push_back(std::move(child));
-        }
-    }
-    source->children.clear();
-}
-
-void importStyles(Document& document, Embedded& embedded, const QString& prefix)
-{
-    for (Node* const root : {embedded.styles.get(), embedded.content.get()}) {
-        if (root == nullptr) {
-            continue;
-        }
-        renameStyles(*root, prefix);
-        Node& automatic = document.content->childOrNew(AutomaticStylesTag);
-        moveChildren(root->child(u"office:styles"), automatic);
-        moveChildren(root->child(u"office:font-face-decls"),
-                     document.content->childOrNew(u"office:font-face-decls"_s));
-    }
-    moveChildren(embedded.content->child(AutomaticStylesTag),
-                 document.content->childOrNew(AutomaticStylesTag));
-    document.forgetTable();
-}
-
-std::unique_ptr<Node> groupOf(Node& page, const QRectF& visible, const Node& frame)
+std::unique_ptr<Node> groupOf(Document& document, Node& page, const QRectF& visible,
+                              const Node& frame)
 {
     auto group = Node::element(u"draw:g"_s);
     const Placement place = placementOf(frame);
@@ -116,6 +66,9 @@ std::unique_ptr<Node> groupOf(Node& page, const QRectF& visible, const Node& fra
                               isScaled ? place.size.height() / shown.height() : 1.0) *
         place.toPage;
     writePlacement(*group, {place.size, map});
+    if (frame.hasAttribute(RowAttribute) && map.isInvertible()) {
+        group->append(emptyFrame(document, {place.size, place.toPage * map.inverted()}));
+    }
     for (auto& child : page.children) {
         if (child->name.startsWith("draw:"_L1)) {
             group->children.push_back(std::move(child));
@@ -125,7 +78,7 @@ std::unique_ptr<Node> groupOf(Node& page, const QRectF& visible, const Node& fra
     return group;
 }
 
-// The rows of a spreadsheet as paragraphs, with tabs between their cells.
+// The rows of a table as paragraphs, with tabs between their cells.
 void takeRows(const Node& parent, Node& target, int depth)
 {
     for (const auto& child : parent.children) {
@@ -150,24 +103,44 @@ void takeRows(const Node& parent, Node& target, int depth)
     }
 }
 
+// The titles and values of a chart that cannot be drawn.
+void takeChartText(const Node& chart, Node& target)
+{
+    for (const QString& tag : {u"chart:title"_s, u"chart:subtitle"_s, u"chart:footer"_s}) {
+        if (const Node* const title = chart.child(tag)) {
+            target.append(Node::element(u"text:p"_s)).append(Node::characters(title->allText()));
+        }
+    }
+    if (const Node* const table = chart.child(u"table:table")) {
+        takeRows(*table, target, 0);
+    }
+}
+
+enum class EmbeddedKind { Chart, Other };
+
 /// Unpacks the embedded documents of a page.
 class Unpacker
 {
 public:
-    explicit Unpacker(Document& document)
+    Unpacker(Document& document, EmbeddedKind kind)
         : m_document(document)
+        , m_kind(kind)
     {}
 
     int unpackIn(Node& parent);
 
 private:
     [[nodiscard]] std::unique_ptr<Node> unpacked(Node& frame);
+    [[nodiscard]] std::unique_ptr<Node> shownIn(const Node& frame, Node& inside,
+                                                const QString& folder);
+    [[nodiscard]] std::unique_ptr<Node> textBoxFor(const Node& frame);
 
     Document& m_document;
+    const EmbeddedKind m_kind;
     int m_read = 0;
 };
 
-// Null if the frame stays as it is, perhaps with the text of the document.
+// Null if the frame stays as it is.
 std::unique_ptr<Node> Unpacker::unpacked(Node& frame)
 {
     const Node* const object = frame.child(u"draw:object");
@@ -176,21 +149,20 @@ std::unique_ptr<Node> Unpacker::unpacked(Node& frame)
     if (folder.isEmpty() || hasReadablePicture(m_document, frame) || ++m_read > MaximumEmbedded) {
         return nullptr;
     }
-    Embedded embedded;
-    embedded.content = readTree(m_document, folder + "/content.xml"_L1);
-    const Node* const body = embedded.content ? embedded.content->child(u"office:body") : nullptr;
+    const auto content = readTree(m_document, folder + "/content.xml"_L1);
+    const Node* const body = content ? content->child(u"office:body") : nullptr;
     Node* const inside = body != nullptr ? body->firstElement() : nullptr;
-    Node* const page = inside != nullptr ? inside->child(u"draw:page") : nullptr;
-    const bool isSheet = inside != nullptr && inside->is(u"office:spreadsheet");
-    const bool isText = inside != nullptr && inside->is(u"office:text");
-    if (page == nullptr && !isText && !isSheet) {
+    if (inside == nullptr || inside->is(u"office:chart") != (m_kind == EmbeddedKind::Chart)) {
         return nullptr;
     }
-    embedded.styles = readTree(m_document, folder + "/styles.xml"_L1);
-    importStyles(m_document, embedded, u"object%1-"_s.arg(m_read));
-    if (page != nullptr) {
-        return groupOf(*page, visibleArea(m_document, folder), frame);
-    }
+    const auto styles = readTree(m_document, folder + "/styles.xml"_L1);
+    const QString prefix = m_kind == EmbeddedKind::Chart ? u"chart%1-"_s : u"object%1-"_s;
+    importStyles(m_document, styles.get(), *content, prefix.arg(m_read));
+    return shownIn(frame, *inside, folder);
+}
+
+std::unique_ptr<Node> Unpacker::textBoxFor(const Node& frame)
+{
     auto shown = frame.clone();
     shown->children.clear();
     StyleProperties style =
@@ -198,13 +170,43 @@ std::unique_ptr<Node> Unpacker::unpacked(Node& frame)
     style.graphic.insert(u"draw:stroke"_s, u"none"_s);
     style.graphic.insert(u"draw:fill"_s, u"none"_s);
     shown->setAttribute(u"draw:style-name"_s, m_document.styleFor(u"graphic"_s, style));
-    Node& box = shown->append(Node::element(u"draw:text-box"_s));
-    if (isSheet) {
-        takeRows(*inside, box, 0);
-    } else {
-        takeParagraphs(*inside, box, 0);
-    }
+    shown->append(Node::element(u"draw:text-box"_s));
     return shown;
+}
+
+std::unique_ptr<Node> Unpacker::shownIn(const Node& frame, Node& inside, const QString& folder)
+{
+    if (Node* const page = inside.child(u"draw:page")) {
+        for (const auto& shape : page->children) {
+            writeDrawingFormats(m_document, *shape);
+        }
+        return groupOf(m_document, *page, visibleArea(m_document, folder), frame);
+    }
+    const Node* const chart = inside.child(u"chart:chart");
+    if (chart != nullptr) {
+        Node page;
+        page.children = drawChart(m_document, *chart);
+        if (!page.children.empty()) {
+            return groupOf(
+                m_document, page,
+                {0.0, 0.0, pointsOf(*chart, u"svg:width"), pointsOf(*chart, u"svg:height")}, frame);
+        }
+    }
+    if (inside.is(u"office:spreadsheet")) {
+        Node page;
+        page.children = sheetCells(m_document, inside);
+        if (!page.children.empty()) {
+            return groupOf(m_document, page, visibleArea(m_document, folder), frame);
+        }
+    }
+    auto shown = textBoxFor(frame);
+    Node& box = *shown->firstElement();
+    if (chart != nullptr) {
+        takeChartText(*chart, box);
+    } else if (inside.is(u"office:text")) {
+        takeParagraphs(inside, box, 0);
+    }
+    return box.children.empty() ? nullptr : std::move(shown);
 }
 
 int Unpacker::unpackIn(Node& parent)
@@ -223,12 +225,22 @@ int Unpacker::unpackIn(Node& parent)
     return count;
 }
 
+int unpackKind(Document& document, EmbeddedKind kind)
+{
+    Node* const page = document.page();
+    return page != nullptr ? Unpacker(document, kind).unpackIn(*page) : 0;
+}
+
 } // namespace
 
 int unpackDocuments(Document& document)
 {
-    Node* const page = document.page();
-    return page != nullptr ? Unpacker(document).unpackIn(*page) : 0;
+    return unpackKind(document, EmbeddedKind::Other);
+}
+
+int drawCharts(Document& document)
+{
+    return unpackKind(document, EmbeddedKind::Chart);
 }
 
 } // namespace repair

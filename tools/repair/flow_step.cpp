@@ -21,6 +21,7 @@ using namespace Qt::StringLiterals;
 constexpr int MaximumSectionDepth = 100;
 // Of the bottom margin: the last editor had room for the lines in it.
 constexpr double EditorsMarginShare = 0.75;
+constexpr double LineRoom = 20.0; // points
 
 /// Lays out the blocks of the body, page by page.
 class FlowWriter
@@ -33,7 +34,7 @@ public:
     }
 
     void readBlocks(Node& parent, int depth);
-    void endText();
+    void endRows();
     [[nodiscard]] std::vector<FlowPage> take() { return std::move(m_pages); }
     /// Whether the last editor left breaks between pages.
     [[nodiscard]] bool hasEditorBreaks() const { return m_hasEditorBreaks; }
@@ -42,8 +43,12 @@ private:
     void readText(std::unique_ptr<Node> block);
     void readTable(Node& table);
     void placeShape(std::unique_ptr<Node> shape);
+    void endText();
     void placeRow(std::unique_ptr<Node> shape);
     void placeRows(Node::Children shapes);
+    void lower(std::vector<LoweredShape> shapes);
+    void passLowered(double height);
+    void placeFirstLowered();
     void addPage(const Node* master);
     void beginBlock(const StyleProperties& properties, const QString& breakBefore);
     void breakPage();
@@ -57,17 +62,13 @@ private:
     bool m_isEmpty = true; // the present page
     bool m_hasEditorBreaks = false;
     Node::Children m_text;
+    std::vector<LoweredShape> m_lowered; // that text may still be above
     std::vector<FlowPage> m_pages;
 };
 
-// The paragraph that gives a block its breaks: the first one of a list.
-const Node& firstParagraph(const Node& block)
+bool isTextBlock(const Node& node)
 {
-    const Node* node = &block;
-    while (!isParagraph(*node) && !node->children.empty() && node->children.front() != nullptr) {
-        node = node->children.front().get();
-    }
-    return *node;
+    return isParagraph(node) || node.is(u"text:list") || node.is(u"text:numbered-paragraph");
 }
 
 void FlowWriter::addPage(const Node* master)
@@ -80,7 +81,7 @@ void FlowWriter::addPage(const Node* master)
 void FlowWriter::breakPage()
 {
     if (!m_isEmpty) {
-        endText();
+        endRows();
         addPage(nextMaster(m_document, m_pages.back().master));
     }
 }
@@ -115,8 +116,7 @@ void FlowWriter::readBlocks(Node& parent, int depth)
             isHidden(*child)) {
             continue;
         }
-        if (isParagraph(*child) || child->is(u"text:list") ||
-            child->is(u"text:numbered-paragraph")) {
+        if (isTextBlock(*child)) {
             readText(std::move(child));
         } else if (child->is(u"table:table")) {
             readTable(*child);
@@ -138,11 +138,12 @@ void FlowWriter::readText(std::unique_ptr<Node> block)
     beginBlock(properties, properties.paragraph.value(u"fo:break-before"_s));
     const bool endsPage = properties.paragraph.value(u"fo:break-after"_s) == "page"_L1;
     m_isEmpty = false;
+    passLowered(textHeight(m_document, *block, area().box.width()));
     TakenShapes taken = takeShapes(m_document, *block, {area(), area().box}, true);
     placeRows(std::move(taken.above));
     keepObjects(std::move(taken.anchored));
     m_text.push_back(std::move(block));
-    placeRows(std::move(taken.below));
+    lower(std::move(taken.below));
     if (taken.hasPageBreak) {
         continueOnNextPage();
     } else if (endsPage) {
@@ -163,8 +164,8 @@ void FlowWriter::keepObjects(Node::Children anchored)
 
 void FlowWriter::placeRow(std::unique_ptr<Node> shape)
 {
-    shape->setAttribute(RowAttribute, QString::number(++m_row));
     objects().push_back(std::move(shape));
+    objects().back()->setAttribute(RowAttribute, QString::number(++m_row));
 }
 
 // Objects beside which no lines run.
@@ -178,7 +179,48 @@ void FlowWriter::placeRows(Node::Children shapes)
     }
 }
 
-// An object between paragraphs: it belongs to the page, or has none beside it.
+// Text fills the distance between a paragraph and an object below it.
+void FlowWriter::lower(std::vector<LoweredShape> shapes)
+{
+    std::move(shapes.begin(), shapes.end(), std::back_inserter(m_lowered));
+    std::stable_sort(m_lowered.begin(), m_lowered.end(),
+                     [](const auto& a, const auto& b) { return a.distance < b.distance; });
+}
+
+// A paragraph of this height comes: it is above the objects if a line, and half of it, fit there.
+void FlowWriter::passLowered(double height)
+{
+    const double least = std::max(height / 2.0, std::min(height, LineRoom));
+    while (!m_lowered.empty() && m_lowered.front().distance < least) {
+        placeFirstLowered();
+    }
+    for (LoweredShape& lowered : m_lowered) {
+        lowered.distance -= height;
+    }
+}
+
+void FlowWriter::placeFirstLowered()
+{
+    LoweredShape first = std::move(m_lowered.front());
+    m_lowered.erase(m_lowered.begin());
+    endText();
+    const double gap = std::max(0.0, first.distance);
+    moveShape(*first.shape, {0.0, gap - boundsOf(*first.shape).top()});
+    for (LoweredShape& lowered : m_lowered) {
+        lowered.distance -= boundsOf(*first.shape).bottom();
+    }
+    placeRow(std::move(first.shape));
+}
+
+void FlowWriter::endRows()
+{
+    while (!m_lowered.empty()) {
+        placeFirstLowered();
+    }
+    endText();
+}
+
+// An object between paragraphs.
 void FlowWriter::placeShape(std::unique_ptr<Node> shape)
 {
     auto paragraph = Node::element(u"text:p"_s);
@@ -186,7 +228,7 @@ void FlowWriter::placeShape(std::unique_ptr<Node> shape)
     m_isEmpty = false;
     TakenShapes taken = takeShapes(m_document, *paragraph, {area(), area().box}, true);
     placeRows(std::move(taken.above));
-    placeRows(std::move(taken.below));
+    lower(std::move(taken.below));
     const bool isInText =
         std::any_of(paragraph->children.begin(), paragraph->children.end(),
                     [](const auto& mark) { return mark->attribute(u"side") != "page"_L1; });
@@ -203,7 +245,7 @@ void FlowWriter::readTable(Node& table)
         m_document.table().resolved(u"table"_s, style, false),
         statedBy(m_document, table, u"style:table-properties"_s).value(u"fo:break-before"_s));
     m_isEmpty = false;
-    endText();
+    endRows();
     Node::Children cells = tableCells(m_document, table, {area(), area().box}, m_row);
     std::move(cells.begin(), cells.end(), std::back_inserter(objects()));
 }
@@ -216,10 +258,9 @@ void FlowWriter::endText()
         return;
     }
     auto frame = textFrame(m_document, {area().box.left(), 0.0, area().box.width(), 0.0}, {});
-    frame->setAttribute(RowAttribute, QString::number(++m_row));
     frame->setAttribute(FlowsAttribute, u"true"_s);
     frame->child(u"draw:text-box")->children = std::move(text);
-    objects().push_back(std::move(frame));
+    placeRow(std::move(frame));
 }
 
 } // namespace
@@ -231,7 +272,7 @@ Node::Children layOutPages(Document& document)
     }
     FlowWriter writer(document);
     writer.readBlocks(*document.body(), 0);
-    writer.endText();
+    writer.endRows();
     Node::Children pages;
     for (FlowPage& flow : writer.take()) {
         const PageArea area = flow.area;

@@ -139,6 +139,15 @@ void planRow(Document& document, const Node& shape, const Node& container,
     plan.isInLine = shape.attribute(InLineAttribute) == "true"_L1;
     plan.fillsRow = shape.attribute(FillsRowAttribute) == "true"_L1;
     plan.flows = shape.hasAttribute(FlowsAttribute);
+    plan.least = plan.row > 0 && !plan.flows ? boundsOf(shape).bottom() : 0.0;
+    if (plan.fillsRow && plan.text) {
+        // The height of the row is not known before its texts are laid out.
+        const bool isAtBottom = plan.text->alignment.testFlag(Qt::AlignBottom);
+        const bool isCentered = plan.text->alignment.testFlag(Qt::AlignVCenter);
+        plan.shareAbove = isAtBottom ? 1.0 : isCentered ? 0.5 : 0.0;
+        plan.text->alignment &= ~(Qt::AlignBottom | Qt::AlignVCenter);
+        plan.text->alignment |= Qt::AlignTop;
+    }
     if (plan.text) {
         plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding) +
                      outerSpace(document, container, false);

@@ -57,6 +57,10 @@ struct ItemPlan
     bool flows = false;
     /// Points below the text that belong to the object, or the height of one without text.
     double space = 0.0;
+    /// Where the object itself ends below the top of its row, in points; 0 if its text decides.
+    double least = 0.0;
+    /// Of the room that the row leaves: the share above the text of a cell.
+    double shareAbove = 0.0;
 };
 
 /// What to set on the items of a page.

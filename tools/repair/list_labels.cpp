@@ -75,7 +75,7 @@ Indent indentOf(const Node& level)
         return {};
     }
     if (const Node* const aligned = properties->child(u"style:list-level-label-alignment")) {
-        return {pointsOf(*aligned, u"fo:margin-left"), pointsOf(*aligned, u"fo:text-indent")};
+        return {pointsOf(*aligned, u"fo:margin-left"), pointsOf(*aligned, u"fo:text-indent"), true};
     }
     const double width = pointsOf(*properties, u"text:min-label-width");
     return {pointsOf(*properties, u"text:space-before") + width, -width};

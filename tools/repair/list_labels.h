@@ -12,6 +12,8 @@ struct Indent
 {
     double margin = 0.0;
     double first = 0.0;
+    /// Whether paragraphs may state others. Otherwise theirs are added.
+    bool canBeReplaced = false;
 };
 
 /// A bullet as a character that every font has: symbol fonts, which may be missing, have theirs in

@@ -71,6 +71,7 @@ private:
     [[nodiscard]] bool hasObjectBelow(const QList<Mark>& marks, int paragraph, double bottom) const;
     void placeRow(const QList<ObjectItems>& row, double& y) const;
     void placeAtMarks(const ObjectItems& items);
+    [[nodiscard]] double contentHeight(const ObjectItems& items) const;
     [[nodiscard]] double heightOf(const ObjectItems& items) const;
     [[nodiscard]] double textBottom(const ObjectItems& items) const;
 
@@ -106,7 +107,7 @@ double Placer::textBottom(const ObjectItems& items) const
 }
 
 // The height that an object needs below the top of its row.
-double Placer::heightOf(const ObjectItems& items) const
+double Placer::contentHeight(const ObjectItems& items) const
 {
     if (items.text != nullptr) {
         const double bottom = textBottom(items) + items.plan->space;
@@ -119,6 +120,11 @@ double Placer::heightOf(const ObjectItems& items) const
     return items.shape != nullptr ? bottomOf(*items.shape) : 0.0;
 }
 
+double Placer::heightOf(const ObjectItems& items) const
+{
+    return std::max(contentHeight(items), items.plan->least);
+}
+
 void Placer::placeRow(const QList<ObjectItems>& row, double& y) const
 {
     double height = 0.0;
@@ -126,12 +132,17 @@ void Placer::placeRow(const QList<ObjectItems>& row, double& y) const
         height = std::max(height, heightOf(items));
     }
     for (const ObjectItems& items : row) {
+        const double gap = items.shape != nullptr ? items.shape->graphicsItem()->pos().y() : 0.0;
+        if (items.text != nullptr && items.plan->shareAbove > 0.0) {
+            const double room = height - contentHeight(items);
+            items.text->graphicsItem()->moveBy(0.0, room * items.plan->shareAbove);
+        }
         moveItems(items, {0.0, y});
         const bool isBox =
             items.shape != nullptr && (items.plan->fillsRow || items.text != nullptr);
         if (isBox) {
             Item* const box = items.shape->contractItem();
-            box->setItemSize({box->getItemWidth(), height});
+            box->setItemSize({box->getItemWidth(), height - gap});
         }
     }
     y += height;

@@ -4,6 +4,7 @@
 #include "repair/lengths.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace repair {
 
@@ -14,6 +15,8 @@ using namespace Qt::StringLiterals;
 // Of a line: its height per font size, and the size where none is given.
 constexpr double LineShare = 1.15;
 constexpr double DefaultSize = 12.0;
+// Of a letter, per font size.
+constexpr double WidthShare = 0.45;
 
 /// A header or footer, in points.
 struct Margin
@@ -81,6 +84,18 @@ double linesHeight(Document& document, const Node& container)
         }
     }
     return height;
+}
+
+double textHeight(Document& document, const Node& block, double width)
+{
+    const StyleProperties style =
+        document.table().resolved(u"paragraph"_s, block.attribute(u"text:style-name"), true);
+    const double size = toPoints(style.text.value(u"fo:font-size"_s)).value_or(DefaultSize);
+    const double length = WidthShare * size * static_cast<double>(block.allText().size());
+    const double lines = width > 0.0 ? std::max(1.0, std::ceil(length / width)) : 1.0;
+    return LineShare * size * lines +
+           toPoints(style.paragraph.value(u"fo:margin-top"_s)).value_or(0.0) +
+           toPoints(style.paragraph.value(u"fo:margin-bottom"_s)).value_or(0.0);
 }
 
 PageArea pageArea(Document& document, const Node* master)

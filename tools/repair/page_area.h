@@ -36,5 +36,7 @@ struct PageArea
 
 /// The least height of paragraphs, one line each, in points.
 [[nodiscard]] double linesHeight(Document& document, const Node& container);
+/// About the height of a paragraph in a column of this width, in points, before it is laid out.
+[[nodiscard]] double textHeight(Document& document, const Node& block, double width);
 
 } // namespace repair

@@ -61,6 +61,8 @@ constexpr Step Steps[] = {
     {"documents-unpacked"_L1,
      QT_TRANSLATE_N_NOOP("repair", "%n embedded document(s) replaced by their content"),
      unpackDocuments},
+    {"charts-drawn"_L1, QT_TRANSLATE_N_NOOP("repair", "%n chart(s) drawn again from their values"),
+     drawCharts},
     {"groups-dissolved"_L1, QT_TRANSLATE_N_NOOP("repair", "%n group(s) dissolved"), dissolveGroups},
     {"tables-split"_L1, QT_TRANSLATE_N_NOOP("repair", "%n table(s) replaced by boxes with text"),
      splitTables},

@@ -29,6 +29,8 @@ int drawShapes(Document& document);
 int rewriteRotations(Document& document);
 /// Replaces embedded documents without a picture that can be read by what they contain.
 int unpackDocuments(Document& document);
+/// The same for charts, which are drawn again from their values.
+int drawCharts(Document& document);
 /// Leaves in each frame one picture that can be read.
 int choosePictures(Document& document);
 /// Replaces pictures that are shown mirrored by mirrored ones.

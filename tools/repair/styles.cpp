@@ -3,6 +3,10 @@
 #include "repair/lengths.h"
 #include "repair/xml_tree.h"
 
+#include "workbench/items/font_families.h"
+
+#include <QFontDatabase>
+
 #include <algorithm>
 #include <vector>
 
@@ -50,6 +54,22 @@ QString percentOf(const QString& percent, const QString& base)
 
 } // namespace
 
+QString shownFamily(const QString& families)
+{
+    QString first;
+    for (const QString& each : families.split(u',')) {
+        QString family = each.trimmed();
+        family.remove(u'\'').remove(u'"');
+        const bool isThere =
+            QFontDatabase::hasFamily(family) || !workbench::substituteFamily(family).isEmpty();
+        if (isThere) {
+            return family;
+        }
+        first = first.isEmpty() ? family : first;
+    }
+    return first;
+}
+
 void StyleProperties::overlay(const StyleProperties& other)
 {
     const QString inherited = text.value(FontSize);
@@ -92,10 +112,7 @@ void StyleTable::readFonts(const Node& root)
         return;
     }
     for (const auto& font : declarations->children) {
-        QString family = font->attribute(u"svg:font-family");
-        if (family.size() > 1 && (family.startsWith(u'\'') || family.startsWith(u'"'))) {
-            family = family.sliced(1, family.size() - 2);
-        }
+        const QString family = shownFamily(font->attribute(u"svg:font-family"));
         if (!family.isEmpty()) {
             m_fonts.insert(font->attribute(u"style:name"), family);
         }
@@ -120,13 +137,15 @@ void StyleTable::readStyles(const Node* container)
     if (container == nullptr) {
         return;
     }
+    const bool isAutomatic = container->is(u"office:automatic-styles");
     for (const auto& node : container->children) {
         const QString family = node->attribute(u"style:family");
         if (node->is(u"style:default-style")) {
             m_defaults.insert(family, ownProperties(*node));
         } else if (node->is(u"style:style")) {
-            m_styles.insert(keyOf(family, node->attribute(u"style:name")),
-                            {node->attribute(u"style:parent-style-name"), ownProperties(*node)});
+            m_styles.insert(
+                keyOf(family, node->attribute(u"style:name")),
+                {node->attribute(u"style:parent-style-name"), ownProperties(*node), isAutomatic});
         } else if (!node->isText()) {
             const QString name = node->attribute(u"draw:name");
             m_named.insert(
@@ -161,9 +180,29 @@ StyleProperties StyleTable::resolve(const QString& family, const QString& name,
     return result;
 }
 
+Properties StyleTable::indentOverList(const QString& paragraphStyle) const
+{
+    Properties indent;
+    Properties ofParagraph; // stated by the paragraph itself
+    auto found = m_styles.constFind(keyOf(u"paragraph"_s, paragraphStyle));
+    for (int i = 0; found != m_styles.constEnd() && i < MaximumParents; ++i) {
+        for (const QString& name : {u"fo:margin-left"_s, u"fo:text-indent"_s}) {
+            if (found->own.paragraph.contains(name) && !indent.contains(name)) {
+                indent.insert(name, found->own.paragraph.value(name));
+            }
+        }
+        if (!found->own.list.isEmpty()) {
+            return indent;
+        }
+        ofParagraph = found->isAutomatic ? indent : ofParagraph;
+        found = m_styles.constFind(keyOf(u"paragraph"_s, found->parent));
+    }
+    return ofParagraph;
+}
+
 void StyleTable::add(const QString& family, const QString& name, const StyleProperties& properties)
 {
-    m_styles.insert(keyOf(family, name), {QString(), properties});
+    m_styles.insert(keyOf(family, name), {QString(), properties, true});
     m_resolved.remove(keyOf(family, name));
     m_resolved.remove(keyOf(family + u'+', name));
 }

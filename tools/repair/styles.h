@@ -28,6 +28,9 @@ struct StyleProperties
     void overlay(const StyleProperties& other);
 };
 
+/// Of a list of families, the first one that can be shown; the first one if none can.
+[[nodiscard]] QString shownFamily(const QString& families);
+
 /// The styles of a document, with everything that they inherit.
 class StyleTable
 {
@@ -39,6 +42,9 @@ public:
     /// name gives the default style alone.
     [[nodiscard]] StyleProperties resolved(const QString& family, const QString& name,
                                            bool withDefault) const;
+    /// The indents that a paragraph has in place of those of its list: its own, and those of its
+    /// styles that are more specific than the one that states the list.
+    [[nodiscard]] Properties indentOverList(const QString& paragraphStyle) const;
     /// Adds a style that inherits nothing but the defaults.
     void add(const QString& family, const QString& name, const StyleProperties& properties);
     /// The family of a font declaration; the name itself if it is not declared.
@@ -51,6 +57,7 @@ private:
     {
         QString parent;
         StyleProperties own;
+        bool isAutomatic = false;
     };
 
     void readStyles(const Node* container);

@@ -63,6 +63,14 @@ Properties cellGround(const Properties& cell, const QString& fill)
     return ground;
 }
 
+// The least height of a row, in points.
+double rowHeight(const Properties& row)
+{
+    const QString least = row.value(u"style:min-row-height"_s);
+    return std::max(
+        0.0, toPoints(least.isEmpty() ? row.value(u"style:row-height"_s) : least).value_or(0.0));
+}
+
 /// Places the cells of one table.
 class TableReader
 {
@@ -104,15 +112,16 @@ double TableReader::widthOf(qsizetype column, int span) const
 void TableReader::readRow(Node& row)
 {
     ++m_row;
-    const QString rowFill =
-        statedBy(m_document, row, u"style:table-row-properties"_s).value(BackgroundColor);
+    const Properties rowStyle = statedBy(m_document, row, u"style:table-row-properties"_s);
+    const QString rowFill = rowStyle.value(BackgroundColor);
+    const double height = std::min(rowHeight(rowStyle), m_place.page.box.height());
     qsizetype column = 0;
     for (const auto& cell : row.children) {
         const int count = repeats(*cell, u"table:number-columns-repeated", MaximumColumns);
         if (cell->is(u"table:table-cell")) {
             const int span = repeats(*cell, u"table:number-columns-spanned", MaximumColumns);
             const QRectF box(m_place.column.left() + widthOf(0, static_cast<int>(column)), 0.0,
-                             widthOf(column, span), 0.0);
+                             widthOf(column, span), height);
             const Properties style = statedBy(m_document, *cell, u"style:table-cell-properties"_s);
             const QString fill = firstColor({style.value(BackgroundColor), rowFill, m_fill});
             auto frame = textFrame(m_document, box, cellGround(style, fill));
@@ -144,8 +153,12 @@ void TableReader::readRows(Node& parent, int depth)
 
 Properties statedBy(const Document& document, const Node& part, const QString& tag)
 {
+    return statedInStyle(document, part.attribute(u"table:style-name"), tag);
+}
+
+Properties statedInStyle(const Document& document, const QString& style, const QString& tag)
+{
     Properties result;
-    const QString style = part.attribute(u"table:style-name");
     const Node* const automatic = document.content->child(u"office:automatic-styles");
     if (automatic == nullptr || style.isEmpty()) {
         return result;

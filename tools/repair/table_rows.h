@@ -24,6 +24,9 @@ void addBorder(const Properties& source, Properties& target);
 
 /// What the automatic style of a table, row, column or cell states in its element with this tag.
 [[nodiscard]] Properties statedBy(const Document& document, const Node& part, const QString& tag);
+/// The same of an automatic style of any family.
+[[nodiscard]] Properties statedInStyle(const Document& document, const QString& style,
+                                       const QString& tag);
 
 /// The cells of a table as text boxes, row by row; nested tables become text.
 ///
@@ -35,6 +38,8 @@ void addBorder(const Properties& source, Properties& target);
 /// Columns of one table, and rows of it: what fits on a page and more.
 inline constexpr int MaximumColumns = 256;
 inline constexpr int MaximumRows = 2000;
+/// Groups of rows within one another, of charts and spreadsheets.
+inline constexpr int MaximumRowGroupDepth = 20;
 
 /// A number of repetitions, at least 1.
 [[nodiscard]] int repeats(const Node& node, QStringView attribute, int most);

@@ -247,10 +247,11 @@ void writeRuns(Document& document, Node& paragraph, std::vector<Run> runs)
             }
         }
         const QString declared = run.style.text.value(u"style:font-name"_s);
-        const QString family = declared.isEmpty() ? run.style.text.value(u"fo:font-family"_s)
-                                                  : document.table().fontFamily(declared);
+        const QString family = declared.isEmpty()
+                                   ? shownFamily(run.style.text.value(u"fo:font-family"_s))
+                                   : document.table().fontFamily(declared);
         if (!family.isEmpty()) {
-            shown.text.insert(u"style:font-name"_s, QString(family).remove(u'\''));
+            shown.text.insert(u"style:font-name"_s, family);
         }
         Node& span = paragraph.append(Node::element(u"text:span"_s));
         span.setAttribute(u"text:style-name"_s, document.styleFor(u"text"_s, shown));

@@ -49,7 +49,10 @@ private:
     void readBlocks(const Node& parent, List* list, int depth);
     void readList(const Node& element, const List* outer, int depth);
     void writeParagraph(const Node& paragraph, List* list);
-    void addLabel(List& list, StyleProperties& style, std::vector<Run>& runs);
+    void addLabel(List& list, const QString& paragraphStyle, StyleProperties& style,
+                  std::vector<Run>& runs);
+    void writeIndent(const Node* level, const QString& paragraphStyle, bool isFirst,
+                     Properties& paragraph);
 
     Document& m_document;
     TextCounts& m_counts;
@@ -118,7 +121,20 @@ void BlockWriter::readList(const Node& element, const List* outer, int depth)
     }
 }
 
-void BlockWriter::addLabel(List& list, StyleProperties& style, std::vector<Run>& runs)
+// Bullets and numbers are not underlined with the paragraph.
+StyleProperties labelStyle(StyleProperties style)
+{
+    for (const QString& name : style.text.keys()) {
+        if (name.startsWith("style:text-underline"_L1) ||
+            name.startsWith("style:text-line-through"_L1)) {
+            style.text.remove(name);
+        }
+    }
+    return style;
+}
+
+void BlockWriter::addLabel(List& list, const QString& paragraphStyle, StyleProperties& style,
+                           std::vector<Run>& runs)
 {
     const Node* const level = levelStyle(m_document.table(), list.style, list.level);
     QString label =
@@ -128,14 +144,28 @@ void BlockWriter::addLabel(List& list, StyleProperties& style, std::vector<Run>&
                 numberText(list.number, level->attribute(u"style:num-format")) +
                 level->attribute(u"style:num-suffix");
     }
-    const Indent indent = level != nullptr ? indentOf(*level) : Indent{18.0, -18.0};
-    const double own = toPoints(style.paragraph.value(u"fo:margin-left"_s)).value_or(0.0);
-    style.paragraph.insert(u"fo:margin-left"_s, toInches(own + indent.margin));
-    style.paragraph.insert(u"fo:text-indent"_s, toInches(list.isNewItem ? indent.first : 0.0));
+    writeIndent(level, paragraphStyle, list.isNewItem, style.paragraph);
     if (list.isNewItem && !label.isEmpty()) {
         list.isNewItem = false;
-        runs.insert(runs.begin(), {style, label + LabelGap});
+        runs.insert(runs.begin(), {labelStyle(style), label + LabelGap});
     }
+}
+
+void BlockWriter::writeIndent(const Node* level, const QString& paragraphStyle, bool isFirst,
+                              Properties& paragraph)
+{
+    const Indent indent = level != nullptr ? indentOf(*level) : Indent{18.0, -18.0};
+    double margin = indent.margin;
+    double first = isFirst ? indent.first : 0.0;
+    if (indent.canBeReplaced) {
+        const Properties own = m_document.table().indentOverList(paragraphStyle);
+        margin = toPoints(own.value(u"fo:margin-left"_s)).value_or(margin);
+        first = toPoints(own.value(u"fo:text-indent"_s)).value_or(first);
+    } else {
+        margin += toPoints(paragraph.value(u"fo:margin-left"_s)).value_or(0.0);
+    }
+    paragraph.insert(u"fo:margin-left"_s, toInches(margin));
+    paragraph.insert(u"fo:text-indent"_s, toInches(first));
 }
 
 // What a break between pages must not separate.
@@ -159,7 +189,7 @@ void BlockWriter::writeParagraph(const Node& paragraph, List* list)
         u"paragraph"_s, paragraph.attribute(u"text:style-name"), m_document.wasText));
     std::vector<Run> runs = m_reader.read(paragraph, style);
     if (list != nullptr) {
-        addLabel(*list, style, runs);
+        addLabel(*list, paragraph.attribute(u"text:style-name"), style, runs);
     }
     StyleProperties shown;
     for (const QLatin1StringView name : ParagraphNames) {
@@ -218,16 +248,22 @@ StyleProperties shapeStyle(const StyleTable& table, const Node& shape)
     return style;
 }
 
+StyleProperties drawingBase(const StyleTable& table, const Node& shape)
+{
+    StyleProperties base;
+    base.text.insert(u"fo:font-size"_s, DefaultDrawingSize);
+    base.overlay(shapeStyle(table, shape));
+    return base;
+}
+
 StyleProperties textBase(Document& document, const Node& shape)
 {
     const StyleTable& table = document.table();
-    StyleProperties base;
-    if (document.wasText) {
-        base.text.insert(u"style:font-name"_s, DefaultTextFont);
-    } else {
-        base.text.insert(u"fo:font-size"_s, DefaultDrawingSize);
-        base.overlay(shapeStyle(table, shape));
+    if (!document.wasText) {
+        return drawingBase(table, shape);
     }
+    StyleProperties base;
+    base.text.insert(u"style:font-name"_s, DefaultTextFont);
     return base;
 }
 

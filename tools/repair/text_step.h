@@ -12,6 +12,9 @@ namespace repair {
 /// without one. Like the office suite, it ignores the latter for text boxes.
 [[nodiscard]] StyleProperties shapeStyle(const StyleTable& table, const Node& shape);
 
+/// The default of drawings and the style of a shape.
+[[nodiscard]] StyleProperties drawingBase(const StyleTable& table, const Node& shape);
+
 /// The default and graphic style that the paragraphs of a shape begin with.
 [[nodiscard]] StyleProperties textBase(Document& document, const Node& shape);
 
