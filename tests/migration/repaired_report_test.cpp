@@ -8,6 +8,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 using namespace migration;
 using namespace Qt::StringLiterals;
 
@@ -124,4 +126,130 @@ TEST(RepairedReport, TextsOfTablesHaveTheColorsOfTheDocument)
     };
     EXPECT_FALSE(unreadable("#b2b2b2"));
     EXPECT_TRUE(unreadable("transparent"));
+}
+
+// The reader puts all text on one side.
+TEST(RepairedReport, TextOnOneSideOfAnObjectIsAChange)
+{
+    const auto count = [](const QByteArray& wrap, const QByteArray& x) {
+        const FileReport report = repairedReport(
+            odt("<text:p><draw:rect text:anchor-type=\"paragraph\" draw:style-name=\"W\" svg:x=\"" +
+                    x + "\" svg:y=\"0in\" svg:width=\"2in\" svg:height=\"1in\"/>" +
+                    QByteArray("Words beside the object. ").repeated(30) + "</text:p>",
+                {.pageLayout = "fo:page-width=\"8in\" fo:page-height=\"6in\"",
+                 .automaticStyles = "<style:style style:name=\"W\" style:family=\"graphic\">"
+                                    "<style:graphic-properties style:wrap=\"" +
+                                    wrap + "\"/></style:style>"}));
+        const Finding* const finding = findingOf(report, lossCode(LossKind::TextWrap));
+        return finding != nullptr ? finding->count : 0;
+    };
+    EXPECT_EQ(count("parallel", "3in"), 1);
+    EXPECT_EQ(count("dynamic", "3in"), 1);
+    EXPECT_EQ(count("right", "3in"), 0);
+    EXPECT_EQ(count("run-through", "3in"), 0);
+    EXPECT_EQ(count("parallel", "0in"), 0) << "there is no room on the left";
+}
+
+TEST(RepairedReport, NumbersOfHeadingsAreMissed)
+{
+    const DocumentParts parts = {
+        .automaticStyles = "<style:style style:name=\"N\" style:family=\"paragraph\" "
+                           "style:list-style-name=\"\"/>",
+        .commonStyles = "<text:outline-style><text:outline-level-style text:level=\"1\" "
+                        "style:num-format=\"1\"/><text:outline-level-style text:level=\"2\" "
+                        "style:num-format=\"\"/></text:outline-style>"};
+    const FileReport report = repairedReport(
+        odt("<text:h text:outline-level=\"1\">First</text:h>"
+            "<text:h text:outline-level=\"2\">Second</text:h>"
+            "<text:h text:outline-level=\"1\" text:style-name=\"N\">Third</text:h>"
+            "<text:h text:outline-level=\"1\" text:is-list-header=\"true\">Fourth</text:h>"
+            "<text:p>Text</text:p>",
+            parts));
+    const Finding* const finding = findingOf(report, lossCode(LossKind::Numbering));
+    ASSERT_NE(finding, nullptr) << codesOf(report).toStdString();
+    EXPECT_EQ(finding->count, 1);
+    EXPECT_EQ(finding->details, QStringList{u"First"_s});
+    EXPECT_EQ(verdictOf(report), Verdict::Lossy);
+}
+
+TEST(RepairedReport, FontsOfPartsOfATextAreCompared)
+{
+    const auto fonts = [](const QByteArray& family) {
+        const FileReport report = repairedReport(
+            odt("<text:p>The first words <text:span text:style-name=\"F\">are followed by others"
+                "</text:span> and the last ones</text:p>",
+                {.automaticStyles = "<style:style style:name=\"F\" style:family=\"text\">"
+                                    "<style:text-properties fo:font-family=\"" +
+                                    family + "\"/></style:style>"}));
+        const Finding* const finding = findingOf(report, lossCode(LossKind::FontReplaced));
+        return finding != nullptr ? finding->details.join(u';') : QString();
+    };
+    EXPECT_EQ(fonts("'Liberation Mono'"), u""_s);
+    EXPECT_TRUE(fonts("'No Such Font'").startsWith(u"No Such Font → "_s))
+        << fonts("'No Such Font'").toStdString();
+}
+
+TEST(RepairedReport, ColorsThatLookTheSameAreEqual)
+{
+    const auto isColored = [](const QByteArray& color) {
+        const FileReport report = repairedReport(
+            odt("<text:p text:style-name=\"C\">Colored</text:p>",
+                {.automaticStyles = "<style:style style:name=\"C\" style:family=\"paragraph\">"
+                                    "<style:text-properties fo:color=\"" +
+                                    color + "\"/></style:style>"}));
+        return findingOf(report, lossCode(LossKind::TextColor)) != nullptr;
+    };
+    EXPECT_FALSE(isColored("#00000a"));
+    EXPECT_FALSE(isColored("#ff0000")) << "repair sets it";
+}
+
+// Pictures and captions in a text box are objects of the label.
+TEST(RepairedReport, ObjectsInATextBoxAreNotLost)
+{
+    const QByteArray size = " svg:width=\"1in\" svg:height=\"1in\"";
+    const FileReport report = repairedReport(
+        odt("<text:p>Figure<draw:frame text:anchor-type=\"paragraph\" svg:x=\"1in\" "
+            "svg:y=\"1in\" svg:width=\"1.5in\"><draw:text-box fo:min-height=\"1.5in\"><text:p>"
+            "<draw:frame text:anchor-type=\"as-char\"" +
+            size +
+            "><draw:image xlink:href=\"Pictures/good.png\"/></draw:frame><draw:frame "
+            "text:anchor-type=\"as-char\" svg:width=\"1in\"><draw:text-box "
+            "fo:min-height=\"0.2in\"><text:p>Caption</text:p></draw:text-box></draw:frame>"
+            "</text:p></draw:text-box></draw:frame></text:p>"));
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::NestedObject)), nullptr)
+        << codesOf(report).toStdString();
+    EXPECT_EQ(report.objects.inFile, report.objects.imported);
+}
+
+TEST(RepairedReport, NumbersOfLinesAreMissed)
+{
+    const auto isChanged = [](const QByteArray& numbers) {
+        const FileReport report = repairedReport(
+            odt("<text:p>Text</text:p>",
+                {.commonStyles = "<text:linenumbering-configuration" + numbers + "/>"}));
+        return findingOf(report, lossCode(LossKind::TextEffect)) != nullptr;
+    };
+    EXPECT_TRUE(isChanged(""));
+    EXPECT_FALSE(isChanged(" text:number-lines=\"false\""));
+}
+
+// The curve is not drawn, as in the document.
+TEST(RepairedReport, TextAlongACurveBecomesStraight)
+{
+    const FileReport report = repairedReport(
+        odg("<draw:custom-shape draw:style-name=\"F\" svg:x=\"1in\" svg:y=\"1in\" "
+            "svg:width=\"2in\" svg:height=\"1in\"><text:p>Around</text:p>"
+            "<draw:enhanced-geometry draw:type=\"mso-spt100\" draw:text-path=\"true\" "
+            "svg:viewBox=\"0 0 100 100\" draw:enhanced-path=\"M 0 0 L 100 0 100 100 Z N\"/>"
+            "</draw:custom-shape>",
+            {.automaticStyles = "<style:style style:name=\"F\" style:family=\"graphic\">"
+                                "<style:graphic-properties draw:fill=\"solid\" "
+                                "draw:fill-color=\"#c9211e\"/></style:style>"}));
+    EXPECT_NE(findingOf(report, lossCode(LossKind::TextPath)), nullptr)
+        << codesOf(report).toStdString();
+    const auto symbol =
+        std::find_if(report.items.begin(), report.items.end(),
+                     [](const KindCount& each) { return each.kind == "symbol"_L1; });
+    EXPECT_TRUE(symbol == report.items.end() || symbol->count == 0);
+    EXPECT_EQ(verdictOf(report), Verdict::Changed) << codesOf(report).toStdString();
 }

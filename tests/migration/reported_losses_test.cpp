@@ -287,6 +287,14 @@ const QList<Sample>& samples()
          odt(StyledText, {.automaticStyles = styled("text", "style:text-position=\"super 58%\"")})},
         {LossKind::TextEffect,
          odt(StyledText, {.automaticStyles = styled("text", "style:text-outline=\"true\"")})},
+        {LossKind::TextPath,
+         odg("<draw:custom-shape svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+             "svg:height=\"1in\"><draw:enhanced-geometry draw:type=\"rectangle\" "
+             "draw:text-path=\"true\"/></draw:custom-shape>")},
+        {LossKind::Numbering,
+         odt("<text:h text:outline-level=\"1\">Head</text:h>",
+             {.commonStyles = "<text:outline-style><text:outline-level-style text:level=\"1\" "
+                              "style:num-format=\"1\"/></text:outline-style>"})},
         {LossKind::TextDiffers,
          odg(rectWith("<text:p><text:span>12.40</text:span> <text:span>kg</text:span></text:p>"))},
         {LossKind::TextUnreadable,
@@ -384,8 +392,9 @@ TEST(ReportedLosses, EveryKindHasASample)
     for (const Sample& sample : samples()) {
         shown.insert(lossCode(sample.kind));
     }
-    // Only pages of repaired documents are left out: see repaired_report_test.cpp.
+    // Of repaired documents: see repaired_report_test.cpp.
     shown.insert(lossCode(LossKind::PagesLeftOut));
+    shown.insert(lossCode(LossKind::TextWrap));
     for (const LossRow& row : lossRows()) {
         EXPECT_TRUE(shown.contains(lossCode(row.kind))) << row.code;
     }

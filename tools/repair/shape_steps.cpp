@@ -114,6 +114,12 @@ Parts drawCustomShape(Document& document, Node& shape, bool mustDraw)
     if (geometry == nullptr) {
         return {};
     }
+    // Its text runs along the outline, which is not drawn.
+    if (geometry->attribute(u"draw:text-path") == "true"_L1) {
+        Parts parts;
+        addIfAny(parts, takeText(document, shape, placement));
+        return parts;
+    }
     auto custom = repair::drawCustomShape(*geometry, placement.size);
     if (!custom) {
         return {};

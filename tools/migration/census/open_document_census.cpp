@@ -219,6 +219,9 @@ Census countOpenDocument(const QByteArray& file)
     refuseTooMany(census);
     census.pageSize = sizeOf(styles.layouts.value(0));
     notePageSize(styles, used, census);
+    if (body.isText && styles.book.numbersLines()) {
+        census.note(LossKind::TextEffect, 1, u"text:linenumbering-configuration"_s);
+    }
     if (body.isText && hasMargins(styles, used)) {
         census.note(LossKind::PageMargins);
     }

@@ -67,7 +67,7 @@ void StyleBook::describeShape(const QString& style, bool isInText, bool isFrame,
     if (stroke == "solid"_L1 || stroke == "dash"_L1) {
         appearance.penWidth = lengthInPoints(shapeValue(&Style::strokeWidth, style)).value_or(0.0);
     }
-    const QString wrap = shapeValue(&Style::wrap, style);
+    const QString wrap = wrapOf(style);
     appearance.mayOverlap = !isInText || wrap == "run-through"_L1 || wrap == "dynamic"_L1;
     appearance.grows = shapeValue(&Style::growsHeight, style) == "true"_L1;
 }
@@ -80,6 +80,11 @@ bool StyleBook::changesSection(const QString& style) const
 bool StyleBook::hasTabStops(const QString& style) const
 {
     return textStyle(style).hasTabStops;
+}
+
+bool StyleBook::numbersHeading(const QString& style, int level) const
+{
+    return m_numberedLevels.contains(level) && !textStyle(style).hasNoNumbers;
 }
 
 bool StyleBook::sizesText(const QString& style) const

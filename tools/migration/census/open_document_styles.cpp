@@ -145,6 +145,13 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
         startStyle(attributes, name == "style:default-style"_L1);
     } else if (name.startsWith("text:list-level-style"_L1)) {
         m_isInList = true;
+    } else if (name == "text:outline-level-style"_L1) {
+        m_isInList = true;
+        if (!attributes.value("style:num-format"_L1).isEmpty()) {
+            m_numberedLevels.insert(attributes.value("text:level"_L1).toInt());
+        }
+    } else if (name == "text:linenumbering-configuration"_L1) {
+        m_numbersLines = attributes.value("text:number-lines"_L1) != "false"_L1;
     } else if (name == "style:text-properties"_L1) {
         // Those of a bullet are not those of the text.
         if (!std::exchange(m_isInList, false)) {
@@ -194,6 +201,9 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
             style.font.clear();
             style.color.clear();
         }
+        style.hasNoNumbers = attributes.hasAttribute("style:list-style-name"_L1)
+                                 ? attributes.value("style:list-style-name"_L1).isEmpty()
+                                 : style.hasNoNumbers;
         m_current = isDefault ? (family == "paragraph"_L1 ? &m_defaultText : &m_ignored)
                               : &*m_texts.insert(name, style);
     } else if (family == "graphic"_L1) {

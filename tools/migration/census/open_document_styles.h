@@ -45,6 +45,14 @@ public:
     [[nodiscard]] bool changesSection(const QString& style) const;
     /// Whether a paragraph has tab stops at other places than at equal distances.
     [[nodiscard]] bool hasTabStops(const QString& style) const;
+    /// Whether a heading in this style shows a number, if it is not in a list.
+    [[nodiscard]] bool numbersHeading(const QString& style, int level) const;
+    /// How text runs beside an object in this style: "parallel"; empty if no style says it.
+    [[nodiscard]] QString wrapOf(const QString& style) const
+    {
+        return shapeValue(&Style::wrap, style);
+    }
+    [[nodiscard]] bool numbersLines() const { return m_numbersLines; }
     /// Whether a style gives texts the size of their letters.
     [[nodiscard]] bool sizesText(const QString& style) const;
     [[nodiscard]] bool sizesShapeText(const QString& style) const;
@@ -55,6 +63,7 @@ private:
         quint64 dropped = 0;  ///< a bit for each row of the table of properties
         bool isSized = false; ///< it gives a size of letters
         bool hasTabStops = false;
+        bool hasNoNumbers = false; ///< although it is that of a heading
         // As written; empty if not given by the style or its parents. Those of the default style
         // are not included: a paragraph's default is weaker than the style of its shape.
         QString font;
@@ -97,6 +106,8 @@ private:
     Style m_defaultShape;
     Style* m_current = nullptr;
     Style m_ignored;
+    QSet<int> m_numberedLevels; ///< of headings
+    bool m_numbersLines = false;
     bool m_isInList = false; ///< in a level of a list style
 };
 

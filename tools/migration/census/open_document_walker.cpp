@@ -65,6 +65,9 @@ void OpenDocumentWalker::openChild(const QString& name, const Attributes& attrib
         startLine();
         m_lineStyle = attributes.value("text:style-name"_L1).toString();
     }
+    if (name == "draw:enhanced-geometry"_L1 && attributes.value("draw:text-path"_L1) == "true"_L1) {
+        m_census.note(LossKind::TextPath, 1, attributes.value("draw:type"_L1).toString());
+    }
     switch (m_places.back().spot) {
     case Spot::Outside:
         return push(name == "office:body"_L1 ? Spot::Body : Spot::Outside);
@@ -115,7 +118,7 @@ void OpenDocumentWalker::openInBody(const QString& name)
 void OpenDocumentWalker::openInRunningText(const QString& name, const Attributes& attributes)
 {
     if (isParagraph(name)) {
-        openParagraph(attributes);
+        openParagraph(name, attributes);
     } else if (name == "draw:frame"_L1) {
         openFrame(attributes);
     } else if (name == "text:soft-page-break"_L1) {

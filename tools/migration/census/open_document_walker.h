@@ -99,7 +99,7 @@ private:
     void openInFrame(const QString& name, const Attributes& attributes);
     void openInLost(const QString& name, const Attributes& attributes);
 
-    void openParagraph(const Attributes& attributes);
+    void openParagraph(const QString& name, const Attributes& attributes);
     void notePageBreak();
     void openRun(const QString& name, const Attributes& attributes);
     void openDrawing(const DrawingElement& element, const QString& name,
@@ -124,6 +124,7 @@ private:
     void noteField(const QString& name, const Attributes& attributes, LossSet& changes);
     void takeText(QStringView characters);
     void startLine();
+    void noteAnchor(const Attributes& attributes);
     [[nodiscard]] qsizetype addAppearance(const QString& name, const Attributes& attributes);
     [[nodiscard]] qsizetype addTextAppearance(const Place& look, QString text);
     [[nodiscard]] Place* nearestShape();
@@ -145,7 +146,8 @@ private:
     bool m_chunkHasText = false;
     QString m_chunk;
     QString m_paragraphStyle;
-    QString m_lineStyle; ///< of the paragraph that is open, wherever it is
+    bool m_isNumbered = false; ///< the heading that is open
+    QString m_lineStyle;       ///< of the paragraph that is open, wherever it is
     QString m_runStyle;
     Place m_paragraphLook;
     Place m_runLook;

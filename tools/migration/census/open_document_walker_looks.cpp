@@ -9,8 +9,32 @@ namespace migration {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// In points; 0 where it follows from the content.
+QSizeF statedSize(const QXmlStreamAttributes& attributes)
+{
+    return {lengthInPoints(attributes.value("svg:width"_L1)).value_or(0.0),
+            lengthInPoints(attributes.value("svg:height"_L1)).value_or(0.0)};
+}
+
+} // namespace
+
+// Objects of a page, and objects like letters, have no text beside them.
+void OpenDocumentWalker::noteAnchor(const Attributes& attributes)
+{
+    const QStringView anchor = attributes.value("text:anchor-type"_L1);
+    const QString wrap = m_styles.wrapOf(attributes.value("draw:style-name"_L1).toString());
+    const bool isBeside = !wrap.isEmpty() && wrap != "none"_L1 && wrap != "run-through"_L1;
+    if (isBeside && (anchor == "paragraph"_L1 || anchor == "char"_L1)) {
+        m_census.anchoredObjects.append(
+            {statedSize(attributes), wrap == "parallel"_L1 || wrap == "dynamic"_L1});
+    }
+}
+
 qsizetype OpenDocumentWalker::addAppearance(const QString& name, const Attributes& attributes)
 {
+    noteAnchor(attributes);
     Appearance appearance;
     m_styles.describeShape(attributes.value("draw:style-name"_L1).toString(), m_pages == 0,
                            name == "draw:frame"_L1, appearance);
@@ -19,6 +43,7 @@ qsizetype OpenDocumentWalker::addAppearance(const QString& name, const Attribute
     if (isPlaced && name != "draw:measure"_L1) {
         appearance.outline = outlineOf(attributes);
     }
+    appearance.size = statedSize(attributes);
     bool isNumber = false;
     const int order = attributes.value("draw:z-index"_L1).toInt(&isNumber);
     appearance.order = isNumber ? order : m_census.appearances.size();

@@ -47,6 +47,12 @@ void OpenDocumentWalker::openInLost(const QString& name, const Attributes& attri
     if (drawingElement(name) != nullptr) {
         return openLost(kind, name, attributes);
     }
+    // What a frame contains decides what is lost.
+    if (name == "draw:image"_L1 && m_places.back().isObject) {
+        m_census.objects.last().objectClass = ObjectClass::Picture;
+    } else if (isEmbedded(name) && m_places.back().isObject) {
+        m_census.objects.last().lost = LossKind::EmbeddedObject;
+    }
     noteSection(name, attributes);
     const bool isInParagraph = m_places.back().spot == Spot::LostParagraph;
     const bool isText = !isNote && (isParagraph(name) || isInParagraph);

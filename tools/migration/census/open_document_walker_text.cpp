@@ -19,7 +19,7 @@ bool isBlank(QStringView text)
 
 } // namespace
 
-void OpenDocumentWalker::openParagraph(const Attributes& attributes)
+void OpenDocumentWalker::openParagraph(const QString& name, const Attributes& attributes)
 {
     const QString style = attributes.value("text:style-name"_L1).toString();
     m_runs.clear();
@@ -29,6 +29,9 @@ void OpenDocumentWalker::openParagraph(const Attributes& attributes)
     m_paragraphLook.families = {m_styles.familyOf({}, style, {})};
     m_paragraphLook.colors = {m_styles.colorOf({}, style, {})};
     m_census.paragraphs.append(QString());
+    m_isNumbered =
+        name == "text:h"_L1 && attributes.value("text:is-list-header"_L1) != "true"_L1 &&
+        m_styles.numbersHeading(style, attributes.value("text:outline-level"_L1).toInt());
     push(Spot::Paragraph);
 }
 
@@ -233,6 +236,9 @@ void OpenDocumentWalker::takeChunk()
 
 void OpenDocumentWalker::closeParagraph()
 {
+    if (m_isNumbered && !m_runs.isEmpty()) {
+        m_census.numberedHeadings.append(m_census.paragraphs.constLast().simplified());
+    }
     m_census.objects.append(m_runs);
     m_runs.clear();
 }

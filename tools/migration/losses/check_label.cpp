@@ -1,9 +1,11 @@
 #include "migration/losses/check_label.h"
 
 #include "migration/losses/check_covering.h"
+#include "migration/losses/check_numbers.h"
 #include "migration/losses/check_overlap.h"
 #include "migration/losses/check_rendering.h"
 #include "migration/losses/matching.h"
+#include "migration/losses/text_wrap.h"
 #include "migration/model/known_fonts.h"
 #include "workbench/items/units.h"
 
@@ -41,6 +43,11 @@ double scaleOf(const Census& census, const LabelFacts& label)
     return 1.0;
 }
 
+// Letters: shorter parts are found in any text, also of another page.
+constexpr qsizetype ShortestPart = 8;
+// Of 255, in each channel: a difference that is not visible.
+constexpr int SameColor = 16;
+
 // Line breaks are shown: they may be all that differs.
 QString onOneLine(QString text)
 {
@@ -69,6 +76,7 @@ public:
             checkFonts(pair);
             checkColor(pair);
         }
+        checkFontsOfParts();
         checkGaps();
     }
 
@@ -85,6 +93,7 @@ private:
     void checkAppearance(const Pair& pair);
     void checkText(const Pair& pair);
     void checkFonts(const Pair& pair);
+    void checkFontsOfParts();
     void checkColor(const Pair& pair);
     void checkGaps();
 
@@ -156,22 +165,59 @@ QString withoutNumber(QString family)
     return family.trimmed();
 }
 
-void LabelCheck::checkFonts(const Pair& pair)
+QStringList familiesSeen(const ItemFacts& item)
 {
     QStringList seen;
-    for (const QString& family : m_label.items.at(pair.item).families) {
-        seen.append(familySeen(family));
+    for (const QString& family : item.families) {
+        seen.append(item.isFormatted ? familySeenInFormats(family) : familySeen(family));
     }
+    return seen;
+}
+
+bool isSeen(const QString& family, const QStringList& seen)
+{
+    return seen.contains(family, Qt::CaseInsensitive) ||
+           seen.contains(withoutNumber(family), Qt::CaseInsensitive);
+}
+
+void LabelCheck::checkFonts(const Pair& pair)
+{
+    const QStringList seen = familiesSeen(m_label.items.at(pair.item));
     if (seen.isEmpty() || !pair.isExact) {
         return;
     }
     for (const QString& family : pair.appearance->families) {
-        const bool isSeen = seen.contains(family, Qt::CaseInsensitive) ||
-                            seen.contains(withoutNumber(family), Qt::CaseInsensitive);
-        if (!isSeen) {
+        if (!isSeen(family, seen)) {
             add(pair.item, LossKind::FontReplaced, family + u" → "_s + seen.constFirst());
         }
     }
+}
+
+// Running text of several formats is one item: which part has which font is unknown.
+void LabelCheck::checkFontsOfParts()
+{
+    QStringList seen;
+    for (const ItemFacts& item : m_label.items) {
+        seen.append(familiesSeen(item));
+    }
+    QSet<QString> checked;
+    for (const Appearance* part : m_matching.parts) {
+        for (const QString& family : part->families) {
+            const bool isLong = squeezed(part->text).size() >= ShortestPart;
+            if (isLong && !checked.contains(family) && !isSeen(family, seen)) {
+                ++m_label.tallies[LossKind::FontReplaced].count;
+                m_label.tallies[LossKind::FontReplaced].addDetail(family + u" → "_s +
+                                                                  familySeenInFormats(family));
+                checked.insert(family);
+            }
+        }
+    }
+}
+
+bool differVisibly(const QColor& a, const QColor& b)
+{
+    return std::max({std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
+                     std::abs(a.blue() - b.blue())}) > SameColor;
 }
 
 // Repair sets the colors that the reader drops. Without repair, the census knows them.
@@ -180,7 +226,7 @@ void LabelCheck::checkColor(const Pair& pair)
     const QColor& wanted = pair.appearance->textColor;
     const QColor& seen = m_label.items.at(pair.item).textColor;
     if (m_isRepaired && pair.isExact && wanted.isValid() && seen.isValid() &&
-        wanted.rgb() != seen.rgb()) {
+        differVisibly(wanted, seen)) {
         add(pair.item, LossKind::TextColor, wanted.name() + u" → "_s + seen.name());
     }
 }
@@ -224,12 +270,15 @@ void checkLabel(const Census& original, const workbench::Canvas& canvas, const R
     const Matching matching = matchItems(original, label, reading.page, scale, reading.isRepaired);
     LabelCheck(matching, label, scale, reading.isRepaired).run();
     const bool comparesItems = checkCovering(matching, label);
-    const bool comparesTexts = checkOverlap(drawnTexts(canvas, label), matching, scale, label);
+    const QList<DrawnText> texts = drawnTexts(canvas, label);
+    const bool comparesTexts = checkOverlap(texts, matching, scale, label);
     if (!comparesItems || !comparesTexts || matching.isCut) {
         label.pageChanges.add(LossKind::LogCut);
     }
     checkRendering(canvas, matching, label);
+    checkNumbers(original, label);
     if (reading.isRepaired) {
+        label.anchoredItems = anchoredItems(original, texts, label);
         label.missingTexts = matching.missingTexts; // they may be on another page
         return;
     }

@@ -145,6 +145,7 @@ void checkItemAppearance(const workbench::CanvasItem& item, const ItemValues& va
     if (values.text && facts.hasContent) {
         facts.text = shownText(item, values);
         facts.families = familiesOf(values);
+        facts.isFormatted = !values.text->html.isEmpty();
         facts.textColor = textColorOf(values);
         facts.textGround = textGroundOf(values);
     } else if (values.barcode) {

@@ -4,6 +4,7 @@
 #include "workbench/items/item_values.h"
 
 #include <QList>
+#include <QRectF>
 #include <QStringList>
 
 #include <map>
@@ -32,12 +33,21 @@ struct ItemFacts
     int level = 0;             ///< in the stack, from the bottom
     QString text = {};         ///< as shown
     QStringList families = {}; ///< of the text, as named by the item
+    bool isFormatted = false;  ///< a text with its own formats
     QColor textColor = {};     ///< invalid if there are several
     QColor textGround = {};    ///< behind all characters; invalid without one or with several
     QColor fill = {};          ///< invalid without a fill of one color
     bool isFilled = false;
     bool isOpaque = false; ///< hides what is below it
     std::optional<double> penWidth = {};
+};
+
+/// An item of an object that is anchored in a text.
+struct AnchoredItem
+{
+    QRectF box; ///< in points on the page
+    /// Whether text runs on one of its sides, and would have room on the other one.
+    bool isOneSided = false;
 };
 
 /// All items of a label.
@@ -49,6 +59,8 @@ struct LabelFacts
     QSizeF pageSize;
     /// Texts of the document that no item of this page of a repaired document shows.
     QStringList missingTexts;
+    /// Of a page of a repaired document.
+    QList<AnchoredItem> anchoredItems = {};
 };
 
 /// Counts a text of the document that the label does not show.

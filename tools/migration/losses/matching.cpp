@@ -90,8 +90,10 @@ private:
     // Also if the document does not show the size.
     [[nodiscard]] bool hasSizeOf(qsizetype item, const Appearance& appearance) const
     {
-        const QSizeF away = appearance.outline.boundingRect().size() - placeOf(item).size();
-        return appearance.outline.isEmpty() ||
+        const QSizeF size = appearance.outline.isEmpty() ? appearance.size
+                                                         : appearance.outline.boundingRect().size();
+        const QSizeF away = size - placeOf(item).size();
+        return (appearance.outline.isEmpty() && size.isEmpty()) ||
                (std::abs(away.width()) <= PointsPerMillimeter &&
                 (appearance.grows || std::abs(away.height()) <= PointsPerMillimeter));
     }
@@ -222,7 +224,11 @@ void Matcher::matchTexts()
     QSet<int> paragraphs;
     for (Pair text : expectedTexts()) {
         const int paragraph = text.appearance->paragraph;
-        if (paragraphs.contains(paragraph) || matchText(text)) {
+        if (paragraphs.contains(paragraph)) {
+            m_matching.parts.append(text.appearance);
+            continue;
+        }
+        if (matchText(text)) {
             continue;
         }
         if (paragraph > 0) {
@@ -254,6 +260,9 @@ void Matcher::matchTexts()
         qsizetype at = others.indexOf(key, from);
         at = at < 0 ? others.indexOf(key) : at;
         from = at < 0 ? from : at + key.size();
+        if (at >= 0) {
+            m_matching.parts.append(text.appearance);
+        }
         return at >= 0;
     });
     if (!m_expectsAll && items.size() == unmatched.size()) {
@@ -275,26 +284,6 @@ Matching matchItems(const Census& census, const LabelFacts& label, int page, dou
                     bool expectsAll)
 {
     return Matcher(census, label, page, scale, expectsAll).run();
-}
-
-QString squeezed(const QString& text)
-{
-    return text.simplified().remove(u' ');
-}
-
-QString canonical(const QString& text)
-{
-    QStringList lines;
-    for (const QString& line : text.split(QChar::LineFeed)) {
-        lines.append(line.simplified());
-    }
-    while (!lines.isEmpty() && lines.constLast().isEmpty()) {
-        lines.removeLast();
-    }
-    while (!lines.isEmpty() && lines.constFirst().isEmpty()) {
-        lines.removeFirst();
-    }
-    return lines.join(QChar::LineFeed);
 }
 
 } // namespace migration

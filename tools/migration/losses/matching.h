@@ -1,5 +1,6 @@
 #pragma once
 
+#include "migration/losses/compared_text.h"
 #include "migration/losses/item_losses.h"
 #include "migration/model/census.h"
 
@@ -23,6 +24,8 @@ struct Matching
 {
     QList<Pair> shapes; ///< also lines and pictures
     QList<Pair> texts;
+    /// Objects whose text is a part of an item's text.
+    QList<const Appearance*> parts;
     /// Texts of the document that no item shows.
     QStringList missingTexts;
     /// Whether the label is too large to compare all of it.
@@ -37,11 +40,5 @@ struct Matching
 /// @param expectsAll whether objects that the reader leaves out should be on the label
 [[nodiscard]] Matching matchItems(const Census& census, const LabelFacts& label, int page,
                                   double scale, bool expectsAll);
-
-/// A text without spaces and line breaks.
-[[nodiscard]] QString squeezed(const QString& text);
-
-/// A text with one space for each blank, and without blank lines around it.
-[[nodiscard]] QString canonical(const QString& text);
 
 } // namespace migration

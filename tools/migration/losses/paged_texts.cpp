@@ -1,6 +1,6 @@
 #include "migration/losses/paged_texts.h"
 
-#include "migration/losses/matching.h"
+#include "migration/losses/compared_text.h"
 
 namespace migration {
 

@@ -1,7 +1,7 @@
 #include "migration/losses/repaired_losses.h"
 
 #include "migration/losses/compare.h"
-#include "migration/losses/matching.h"
+#include "migration/losses/text_wrap.h"
 
 #include <algorithm>
 #include <array>
@@ -76,7 +76,8 @@ bool contains(const std::array<LossKind, Count>& kinds, const QString& code)
                        [&code](LossKind kind) { return lossCode(kind) == code; });
 }
 
-Finding* findingOf(QList<Finding>& findings, const QString& code)
+template <class Findings>
+auto findingOf(Findings& findings, const QString& code)
 {
     const auto found = std::find_if(findings.begin(), findings.end(),
                                     [&code](const Finding& each) { return each.code == code; });
@@ -129,50 +130,17 @@ void addCounts(QList<KindCount>& sums, const QList<KindCount>& counts)
 
 RepairedLosses::RepairedLosses(const Census& original)
     : m_original(original)
-{
-    for (qsizetype index = 0; index < original.objects.size(); ++index) {
-        const CountedObject& object = original.objects.at(index);
-        if (object.lost == LossKind::HeaderOrFooter && object.appearance >= 0) {
-            m_missingHeaders.append(index);
-        }
-    }
-}
-
-void RepairedLosses::findHeaders(const LabelFacts& label)
-{
-    QString shown;
-    for (const ItemFacts& item : m_missingHeaders.isEmpty() ? QList<ItemFacts>() : label.items) {
-        shown += squeezed(item.text);
-    }
-    m_missingHeaders.removeIf([&](qsizetype index) {
-        const qsizetype appearance = m_original.objects.at(index).appearance;
-        const QString text = squeezed(m_original.appearances.at(appearance).text);
-        return !text.isEmpty() && shown.contains(text);
-    });
-}
-
-Census RepairedLosses::withoutShownHeaders() const
-{
-    Census census = m_original;
-    census.objects.clear();
-    for (qsizetype index = 0; index < m_original.objects.size(); ++index) {
-        const CountedObject& object = m_original.objects.at(index);
-        const bool isShown = object.lost == LossKind::HeaderOrFooter && object.appearance >= 0 &&
-                             !m_missingHeaders.contains(index);
-        if (!isShown) {
-            census.objects.append(object);
-        }
-    }
-    return census;
-}
+    , m_searched(original)
+{}
 
 void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const LogLosses& log)
 {
     forgetWhatIsSetLater(repaired);
-    findHeaders(label);
+    m_searched.addPage(label);
     FileReport page;
     compare(repaired, label, log, page);
     m_texts.addPage(label);
+    m_anchoredItems.append(label.anchoredItems);
     if (m_lastPage > 0) {
         // Places are those on the label that is shown: the first page.
         forgetPlaces(page.lost);
@@ -218,6 +186,9 @@ void RepairedLosses::addTo(QList<Finding>& sums, const QList<Finding>& findings)
     for (const Finding& finding : findings) {
         if (Finding* const sum = findingOf(sums, finding.code)) {
             sum->count += finding.count;
+            sum->details += finding.details;
+            sum->details.removeDuplicates();
+            sum->details = sum->details.mid(0, Tally::MaximumDetails);
             sum->countsObjects = sum->countsObjects || finding.countsObjects;
         } else {
             sums.append(finding);
@@ -248,7 +219,10 @@ QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
 void RepairedLosses::fill(FileReport& report) const
 {
     FileReport original;
-    compare(withoutShownHeaders(), {}, {}, original);
+    const Finding* const unreadable =
+        findingOf(m_pages.lost, lossCode(LossKind::PictureUnreadable));
+    compare(m_searched.withoutShown(unreadable != nullptr ? unreadable->count : 0), {}, {},
+            original);
     report.lost = remaining(original.lost, m_pages.lost);
     QList<Finding> changed = m_pages.changed;
     if (!m_pagesLeftOut.isEmpty()) {
@@ -256,6 +230,14 @@ void RepairedLosses::fill(FileReport& report) const
     } else if (const Tally missing = m_texts.missing(m_original); missing.count > 0) {
         addTo(changed, {{lossCode(LossKind::TextDiffers), lossText(LossKind::TextDiffers),
                          missing.count, false, missing.details}});
+    }
+    if (const qint64 count = textsOnOneSide(m_original, m_anchoredItems); count > 0) {
+        addTo(changed,
+              {{lossCode(LossKind::TextWrap), lossText(LossKind::TextWrap), count, false, {}}});
+    }
+    // The same words may be on other pages.
+    if (Finding* const numbers = findingOf(changed, lossCode(LossKind::Numbering))) {
+        numbers->count = std::min<qint64>(numbers->count, m_original.numberedHeadings.size());
     }
     report.changed = remaining(original.changed, changed);
     report.complete = m_pages.complete;

@@ -3,6 +3,7 @@
 #include "migration/losses/item_losses.h"
 #include "migration/losses/log_losses.h"
 #include "migration/losses/paged_texts.h"
+#include "migration/losses/searched_objects.h"
 #include "migration/model/census.h"
 #include "migration/model/file_report.h"
 
@@ -37,17 +38,14 @@ private:
                                            const QList<Finding>& repaired) const;
     void addPagesLeftOut(QList<Finding>& lost) const;
 
-    void findHeaders(const LabelFacts& label);
-    [[nodiscard]] Census withoutShownHeaders() const;
-
     const Census& m_original;
-    /// Indices of the texts of headers and footers that no label shows yet.
-    QList<qsizetype> m_missingHeaders;
+    SearchedObjects m_searched;
     FileReport m_pages; ///< the sums over all pages
     int m_lastPage = 0;
     QSet<int> m_pagesLeftOut; ///< their numbers
     QStringList m_pageRanges; ///< the same for the user: "201–204"
     PagedTexts m_texts;
+    QList<AnchoredItem> m_anchoredItems;
 };
 
 } // namespace migration

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPolygonF>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
@@ -15,6 +16,8 @@ struct Appearance
     /// The corners on the page; the two ends of a line. Empty if the place is unknown. Of the
     /// text of a shape: the corners of the shape.
     QPolygonF outline;
+    /// 0 if unknown. Also of an object whose place follows from the text around it.
+    QSizeF size;
     /// Of a text: as it is read, lines separated by line breaks.
     QString text;
     /// The fonts that the text asks for.

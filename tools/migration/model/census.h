@@ -82,6 +82,13 @@ struct Tally
     void addDetail(const QString& detail);
 };
 
+/// An object that is anchored in a text, with the text beside it.
+struct AnchoredObject
+{
+    QSizeF size;                ///< in points; the height is 0 if it follows from a text
+    bool isBetweenText = false; ///< the text runs on both of its sides
+};
+
 /// The content of a file.
 struct Census
 {
@@ -96,6 +103,10 @@ struct Census
     QList<Appearance> appearances;
     /// The complete texts of its paragraphs.
     QStringList paragraphs;
+    /// Headings that the document shows with a number.
+    QStringList numberedHeadings;
+    /// Objects with text beside them, in the order of the document.
+    QList<AnchoredObject> anchoredObjects;
     /// Size of its page in points; 0 if unknown.
     QSizeF pageSize;
     /// Why the number of objects is unknown; empty if it is known.

@@ -2,7 +2,9 @@
 
 #include "workbench/items/font_families.h"
 
+#include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QHash>
 
 namespace migration {
@@ -45,6 +47,11 @@ QString familySeen(const QString& family)
         }
     }
     return workbench::fallbackFamily();
+}
+
+QString familySeenInFormats(const QString& family)
+{
+    return isFontThere(family) ? familySeen(family) : QFontInfo(QFont(family)).family();
 }
 
 } // namespace migration

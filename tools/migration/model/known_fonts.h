@@ -9,5 +9,7 @@ namespace migration {
 [[nodiscard]] bool isFontThere(const QString& family);
 /// The family that is seen in its place; the family itself where it is there.
 [[nodiscard]] QString familySeen(const QString& family);
+/// The same for a text with its own formats, whose fonts the system replaces.
+[[nodiscard]] QString familySeenInFormats(const QString& family);
 
 } // namespace migration

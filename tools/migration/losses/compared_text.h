@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace migration {
+
+/// A text without spaces and line breaks.
+[[nodiscard]] QString squeezed(const QString& text);
+
+/// A text with one space for each blank, and without blank lines around it.
+[[nodiscard]] QString canonical(const QString& text);
+
+} // namespace migration
