@@ -322,10 +322,29 @@ TEST(RepairLimits, CountValuesOfCharts)
     EXPECT_EQ(rectangles(1, 1, "4e-324"), 1) << "no number of the axis is infinite";
 }
 
+TEST(RepairLimits, HoldTheLengthOfNotes)
+{
+    const auto isBelow = [](int length) {
+        const QByteArray package =
+            textPage(
+                "<text:p>a<text:note><text:note-citation>1</text:note-citation><text:note-body>"
+                "<text:p>" +
+                QByteArray(length, 'n') + "</text:p></text:note-body></text:note></text:p>")
+                .second;
+        return package.contains("labelport:note");
+    };
+    EXPECT_TRUE(isBelow(1'000));
+    EXPECT_FALSE(isBelow(1'001));
+}
+
 TEST(RepairLimits, BreakEndlessPages)
 {
     const QByteArray paragraph = "<text:p>" + QByteArray(4'998, 'a') + "</text:p>";
     EXPECT_EQ(textPage(paragraph + paragraph + "<text:p>b</text:p>").first, 1);
     EXPECT_EQ(textPage(paragraph + paragraph + "<text:p>bc</text:p>").first, 2);
     EXPECT_EQ(textPage("<text:p>" + QByteArray(10'001, 'a') + "</text:p>").first, 2);
+    const QByteArray note = "<text:p>a<text:note><text:note-body><text:p>" + QByteArray(900, 'n') +
+                            "</text:p></text:note-body></text:note></text:p>";
+    EXPECT_EQ(textPage(note.repeated(11)).first, 1);
+    EXPECT_EQ(textPage(note.repeated(12)).first, 2) << "notes count too";
 }

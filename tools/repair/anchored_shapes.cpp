@@ -3,6 +3,7 @@
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/page_end.h"
+#include "repair/page_notes.h"
 #include "repair/shape_place.h"
 #include "repair/table_rows.h"
 
@@ -85,6 +86,8 @@ void ShapeTaker::takeInside(Node& parent, int depth)
             m_taken.hasPageBreak = true;
         } else if (isShape(*child)) {
             child = place(std::move(child));
+        } else if (m_inRows && child->is(u"text:note")) {
+            takeNote(m_document, child, m_place, m_taken.anchored);
         } else if (depth < MaximumAnchorDepth && !child->is(u"text:note") &&
                    !child->is(u"office:annotation")) {
             takeInside(*child, depth + 1);

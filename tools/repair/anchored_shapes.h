@@ -16,7 +16,7 @@ class Document;
 // the object: lines leave room for it, and the layout of the text decides where the object is.
 
 /// The element of a mark in a paragraph, with the attributes key, width, height (points) and side:
-/// left, right, none for an object in its line, page for one that needs no room.
+/// left, right, none for an object in its line, page for one that needs no room, note for a note.
 inline const QString MarkElement = QLatin1String("labelport:mark");
 /// Marks before a span, or at the end of a paragraph: "key width height side", separated by ";".
 inline const QString MarksAttribute = QLatin1String("labelport:marks");

@@ -6,6 +6,7 @@
 #include "repair/item_plan.h"
 #include "repair/lengths.h"
 #include "repair/line_distance.h"
+#include "repair/page_notes.h"
 
 #include <QFontInfo>
 #include <QGuiApplication>
@@ -216,8 +217,9 @@ QString marksHtml(const Node& node)
         const QStringList parts = mark.split(u' ');
         if (parts.size() == 4 && takesRoom(mark)) {
             const QString side = parts[3];
-            const QString style =
-                side == "none"_L1 ? QString() : u" style=\"float:%1;\""_s.arg(side);
+            const QString style = side == "none"_L1 || side == NoteSide
+                                      ? QString()
+                                      : u" style=\"float:%1;\""_s.arg(side);
             html += u"<img src=\"%1%2\" width=\"%3\" height=\"%4\"%5 />"_s.arg(
                 MarkPrefix, parts[0], parts[1], parts[2], style);
         }

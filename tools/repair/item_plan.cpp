@@ -7,6 +7,7 @@
 #include "repair/lengths.h"
 #include "repair/page_area.h"
 #include "repair/page_end.h"
+#include "repair/page_notes.h"
 #include "repair/shape_parts.h"
 #include "repair/shape_place.h"
 #include "repair/shape_steps.h"
@@ -137,6 +138,7 @@ void planRow(Document& document, const Node& shape, const Node& container,
     plan.row = shape.attribute(RowAttribute).toInt();
     plan.mark = shape.attribute(AnchorAttribute).toInt();
     plan.isInLine = shape.attribute(InLineAttribute) == "true"_L1;
+    plan.isNote = shape.hasAttribute(NoteAttribute);
     plan.fillsRow = shape.attribute(FillsRowAttribute) == "true"_L1;
     plan.flows = shape.hasAttribute(FlowsAttribute);
     plan.least = plan.row > 0 && !plan.flows ? boundsOf(shape).bottom() : 0.0;

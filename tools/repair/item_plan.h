@@ -51,6 +51,8 @@ struct ItemPlan
     int mark = 0;
     /// Whether its place across the page is also relative to the mark.
     bool isInLine = false;
+    /// Whether it is a note, which is at the bottom of its page.
+    bool isNote = false;
     /// Whether the object is as high as its row.
     bool fillsRow = false;
     /// Whether it is a text whose lines may be on two pages.

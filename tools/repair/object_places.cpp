@@ -1,5 +1,6 @@
 #include "repair/object_places.h"
 
+#include "repair/page_notes.h"
 #include "repair/text_marks.h"
 
 #include "host/items/rich_text_item.h"
@@ -16,20 +17,6 @@
 namespace repair {
 
 namespace {
-
-void moveItems(const ObjectItems& items, const QPointF& offset)
-{
-    for (workbench::CanvasItem* const item : {items.shape, items.text}) {
-        if (item != nullptr) {
-            item->graphicsItem()->moveBy(offset.x(), offset.y());
-        }
-    }
-}
-
-double bottomOf(workbench::CanvasItem& item)
-{
-    return item.graphicsItem()->pos().y() + item.contractItem()->getItemHeight();
-}
 
 // Frames are at least as high as their text.
 void growWithText(const ObjectItems& items)
@@ -58,6 +45,11 @@ public:
     void placeRows(double top);
     void placeAtMarks();
     [[nodiscard]] std::optional<PageEnd> pageEnd(double bottom) const;
+    /// Of the last row.
+    [[nodiscard]] double rowsBottom() const
+    {
+        return m_rows.isEmpty() ? 0.0 : m_rows.constLast().bottom;
+    }
 
 private:
     /// A row that is placed.
@@ -263,6 +255,9 @@ void Placer::placeAtMarks(const ObjectItems& items)
     const QPointF corner = items.text->graphicsItem()->pos();
     for (const Mark& mark : marksOf(*items.text)) {
         for (const ObjectItems& marked : m_marked.values(mark.number)) {
+            if (marked.plan->isNote) {
+                continue;
+            }
             growWithText(marked);
             moveItems(marked, marked.plan->isInLine ? corner + mark.corner
                                                     : QPointF(0.0, corner.y() + mark.top));
@@ -292,9 +287,13 @@ std::optional<PageEnd> placeObjects(const QMap<int, ObjectItems>& objects, const
     Placer placer(objects);
     placer.lowerObjects();
     placer.placeRows(page.top);
+    const PageNotes notes(objects);
     placer.placeAtMarks();
-    const bool isFull = page.lowest > 0.0 && placer.pageEnd(page.lowest);
-    return isFull ? placer.pageEnd(page.bottom) : std::nullopt;
+    const auto endAbove = [&placer, &notes](double bottom) {
+        return placer.pageEnd(bottom - notes.heightAbove(bottom));
+    };
+    notes.place(page.bottom, placer.rowsBottom());
+    return page.lowest > 0.0 && endAbove(page.lowest) ? endAbove(page.bottom) : std::nullopt;
 }
 
 } // namespace repair

@@ -1,25 +1,13 @@
 #pragma once
 
-#include "repair/item_plan.h"
+#include "repair/object_items.h"
 #include "repair/page_end.h"
 
 #include <QMap>
 
 #include <optional>
 
-namespace workbench {
-class CanvasItem;
-}
-
 namespace repair {
-
-/// The items of one object.
-struct ObjectItems
-{
-    const ItemPlan* plan = nullptr;
-    workbench::CanvasItem* shape = nullptr;
-    workbench::CanvasItem* text = nullptr;
-};
 
 /// Places the objects of a text document, whose texts have their sizes: its rows one below the
 /// other, and the objects in its texts at their marks.

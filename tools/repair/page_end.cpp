@@ -2,6 +2,7 @@
 
 #include "repair/anchored_shapes.h"
 #include "repair/document.h"
+#include "repair/page_notes.h"
 #include "repair/page_steps.h"
 #include "repair/shape_parts.h"
 #include "repair/shape_place.h"
@@ -153,6 +154,7 @@ Node::Children takeRest(Document& document, const PageEnd& end)
 std::optional<PageEnd> endOfCharacters(const Document& document)
 {
     qsizetype characters = 0;
+    const NoteLengths notes(*document.page());
     for (const auto& object : document.page()->children) {
         if (rowOf(*object) == 0) {
             continue;
@@ -171,7 +173,7 @@ std::optional<PageEnd> endOfCharacters(const Document& document)
             ++end.paragraph;
             const bool isFirst = characters == 0;
             const QString text = paragraph->allText();
-            characters += text.size() + 1;
+            characters += text.size() + 1 + notes.citedIn(*paragraph);
             if (characters > MaximumCharacters) {
                 const auto blank = text.lastIndexOf(u' ', MaximumCharacters);
                 end.line = isFirst ? 1 : 0;

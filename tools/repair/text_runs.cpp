@@ -181,7 +181,8 @@ void RunReader::readNote(const Node& note, const StyleProperties& style)
     StyleProperties raised = style;
     raised.text.insert(u"style:text-position"_s, u"super 58%"_s);
     add(mark, raised);
-    if (const Node* const body = note.child(u"text:note-body")) {
+    const Node* const body = note.child(u"text:note-body");
+    if (body != nullptr && !body->children.empty()) {
         auto copy = body->clone();
         if (Node* const first = copy->firstElement()) {
             first->children.insert(first->children.begin(), Node::characters(mark + u' '));

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "repair/item_plan.h"
+
+#include <QPointF>
+
+namespace workbench {
+class CanvasItem;
+}
+
+namespace repair {
+
+/// The items of one object.
+struct ObjectItems
+{
+    const ItemPlan* plan = nullptr;
+    workbench::CanvasItem* shape = nullptr;
+    workbench::CanvasItem* text = nullptr;
+};
+
+void moveItems(const ObjectItems& items, const QPointF& offset);
+[[nodiscard]] double bottomOf(workbench::CanvasItem& item);
+
+} // namespace repair
