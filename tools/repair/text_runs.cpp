@@ -153,11 +153,30 @@ void RunReader::readElement(const Node& element, const StyleProperties& style, i
         readNote(element, style);
     } else if (element.is(MarkElement)) {
         addMark(element, style);
+    } else if (element.is(u"text:variable-set") || element.is(u"text:variable-get")) {
+        readVariable(element, style, depth);
     } else if (element.is(u"text:page-number")) {
         ++m_counts.fields;
         add(QString::number(m_document.pageNumber), style);
     } else if (!contains(Skipped, element.name) && !isHidden(element)) {
         m_counts.fields += contains(Transparent, element.name) || !element.children.empty() ? 1 : 0;
+        readInside(element, style, depth);
+    }
+}
+
+// A variable shows the value that was set last before it, which may not be the stored text.
+void RunReader::readVariable(const Node& element, const StyleProperties& style, int depth)
+{
+    const QString name = element.attribute(u"text:name");
+    ++m_counts.fields;
+    if (element.is(u"text:variable-set")) {
+        m_variables.insert(name, element.allText());
+    } else if (m_variables.contains(name) &&
+               element.attribute(u"text:display") != "formula"_L1) {
+        add(m_variables.value(name), style);
+        return;
+    }
+    if (element.attribute(u"text:display") != "none"_L1) {
         readInside(element, style, depth);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "repair/styles.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -52,6 +53,7 @@ private:
     void readInside(const Node& parent, const StyleProperties& style, int depth);
     void readElement(const Node& element, const StyleProperties& style, int depth);
     void readLink(const Node& link, const StyleProperties& style, int depth);
+    void readVariable(const Node& element, const StyleProperties& style, int depth);
     void readNote(const Node& note, const StyleProperties& style);
     void addText(const QString& text, const StyleProperties& style);
     void add(const QString& text, const StyleProperties& style);
@@ -62,6 +64,7 @@ private:
     std::vector<Run> m_runs;
     std::vector<std::unique_ptr<Node>> m_notes;
     bool m_endsInBlank = true;
+    QHash<QString, QString> m_variables; // values that the text has set
 };
 
 /// Replaces what a paragraph contains by runs, so that the reader loses no blank: text that is
