@@ -213,6 +213,18 @@ TEST(CustomShapes, DrawArcs)
     EXPECT_NEAR(box.top(), 5.0, 0.01);
 }
 
+TEST(CustomShapes, WithTextOnTheirPathAreTheirText)
+{
+    repair::Document document =
+        drawing("<draw:custom-shape svg:width=\"2in\" svg:height=\"1in\"><text:p>curved</text:p>"
+                "<draw:enhanced-geometry svg:viewBox=\"0 0 100 100\" draw:text-path=\"true\" "
+                "draw:enhanced-path=\"M 0 0 L 100 100 N\"/></draw:custom-shape>");
+    (void)repair::drawShapes(document);
+    EXPECT_EQ(tags(document), u"draw:frame"_s) << "the path is not drawn";
+    EXPECT_EQ(object(document, u"draw:frame"_s).child(u"draw:image"), nullptr);
+    EXPECT_EQ(document.page()->allText(), u"curved"_s);
+}
+
 TEST(CustomShapes, AreMirrored)
 {
     const auto shape = customShape("draw:mirror-horizontal=\"true\" "

@@ -160,6 +160,33 @@ TEST(Texts, OfListsHaveTheirOwnIndentIfTheyStateOne)
     EXPECT_EQ(indentOf({}, "style:list-style-name=\"L\">" + margin), QPointF(72.0, -18.0));
 }
 
+TEST(Texts, ShowVariablesAsTheyWereSet)
+{
+    const Rewritten text =
+        rewritten("<text:p><text:variable-set text:name=\"v\">new</text:variable-set>, "
+                  "<text:variable-get text:name=\"v\">old</text:variable-get>, "
+                  "<text:variable-get text:name=\"w\">stored</text:variable-get></text:p>");
+    EXPECT_EQ(text.text, "[new, new, stored]/"_L1);
+}
+
+TEST(Texts, OfListsBeginAtTheirIndent)
+{
+    const auto blanks = [](const QByteArray& width) {
+        const QString text =
+            rewritten("<text:list text:style-name=\"L\"><text:list-item><text:p>one</text:p>"
+                      "</text:list-item></text:list>",
+                      "<text:list-style style:name=\"L\"><text:list-level-style-bullet "
+                      "text:level=\"1\" text:bullet-char=\"-\"><style:list-level-properties "
+                      "text:min-label-width=\"" +
+                          width + "\"/></text:list-level-style-bullet></text:list-style>")
+                .text;
+        return text.count(u' ');
+    };
+    EXPECT_EQ(blanks("0in"), 2);
+    EXPECT_GT(blanks("0.5in"), blanks("0.25in") + 1);
+    EXPECT_LE(blanks("100in"), 40);
+}
+
 TEST(Texts, AppendNotes)
 {
     const Rewritten text =

@@ -1,5 +1,6 @@
 #include "repair/repair.h"
 
+#include "repair/controls_step.h"
 #include "repair/document.h"
 #include "repair/flow_step.h"
 #include "repair/lengths.h"
@@ -46,6 +47,8 @@ struct Preparation
 constexpr Preparation Preparations[] = {
     {"lengths-converted"_L1, QT_TRANSLATE_N_NOOP("repair", "%n length(s) converted to inches")},
     {"page-layout-chosen"_L1, QT_TRANSLATE_NOOP("repair", "Page size taken from the master page")},
+    {"controls-replaced"_L1,
+     QT_TRANSLATE_N_NOOP("repair", "%n form control(s) replaced by boxes with their text")},
     {"text-laid-out"_L1,
      QT_TRANSLATE_NOOP("repair", "Text laid out with its margins, spacing, pictures and tables")},
     // Made by who imports the pages one by one.
@@ -140,6 +143,7 @@ DocumentRepair::DocumentRepair(const QString& fileName)
     }
     m_document = std::make_unique<Document>(std::move(*document));
     note(m_repairs, "lengths-converted"_L1, convertAllLengths(*m_document));
+    note(m_repairs, "controls-replaced"_L1, showControls(*m_document));
     if (m_document->isText()) {
         note(m_repairs, "page-layout-chosen"_L1, usePageLayout(*m_document));
         note(m_repairs, "text-laid-out"_L1, 1);

@@ -18,7 +18,7 @@ class Node;
 class Package;
 
 /// Most pages of a document that become labels of their own.
-inline constexpr int MaximumPages = 200;
+inline constexpr int MaximumPages = 2'000;
 
 /// One kind of repair that was made.
 struct Repair

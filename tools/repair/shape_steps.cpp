@@ -153,10 +153,22 @@ Parts drawLine(Document& document, Node& line)
     return parts;
 }
 
+// The path of such a shape leads its letters; it is not drawn.
+bool isTextOnPath(const Node& shape)
+{
+    const Node* const geometry = shape.child(u"draw:enhanced-geometry");
+    return geometry != nullptr && geometry->attribute(u"draw:text-path") == "true"_L1;
+}
+
 Parts drawShape(Document& document, Node& shape)
 {
     const Placement placement = placementOf(shape);
     const bool mustDraw = !isPlainFill(graphicOf(document, shape)) || !toRotatedBox(placement);
+    if (isTextOnPath(shape)) {
+        Parts parts;
+        addIfAny(parts, takeText(document, shape, placement));
+        return parts;
+    }
     if (shape.is(u"draw:custom-shape")) {
         return drawCustomShape(document, shape, mustDraw);
     }

@@ -171,8 +171,7 @@ void RunReader::readVariable(const Node& element, const StyleProperties& style, 
     ++m_counts.fields;
     if (element.is(u"text:variable-set")) {
         m_variables.insert(name, element.allText());
-    } else if (m_variables.contains(name) &&
-               element.attribute(u"text:display") != "formula"_L1) {
+    } else if (m_variables.contains(name) && element.attribute(u"text:display") != "formula"_L1) {
         add(m_variables.value(name), style);
         return;
     }

@@ -149,7 +149,8 @@ QString BlockWriter::labelGap(const Properties& text, const QString& label, doub
     font.setBold(text.value(u"fo:font-weight"_s) == "bold"_L1);
     const QFontMetricsF metrics(font);
     const double size = toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultLabelSize);
-    const double gap = room * MeasuredLabelSize / std::max(size, 1.0) - metrics.horizontalAdvance(label);
+    const double gap =
+        room * MeasuredLabelSize / std::max(size, 1.0) - metrics.horizontalAdvance(label);
     const double blanks = std::round(gap / std::max(metrics.horizontalAdvance(u' '), 1.0));
     return QString(static_cast<int>(std::clamp(blanks, 2.0, GapBlanks)), u' ');
 }
