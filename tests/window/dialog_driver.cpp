@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
 
@@ -72,7 +73,12 @@ void DialogDriver::expectCancel()
 bool DialogDriver::eventFilter(QObject* watched, QEvent* event)
 {
     auto* dialog = qobject_cast<QDialog*>(watched);
-    if (event->type() == QEvent::Show && dialog != nullptr) {
+    auto* progress = qobject_cast<QProgressDialog*>(watched);
+    if (event->type() == QEvent::Show && progress != nullptr) {
+        if (m_cancelsProgress) {
+            QTimer::singleShot(0, progress, &QProgressDialog::canceled);
+        }
+    } else if (event->type() == QEvent::Show && dialog != nullptr) {
         // As soon as its event loop runs.
         QTimer::singleShot(0, dialog, [this, dialog] { answer(*dialog); });
     }

@@ -8,8 +8,9 @@
 #include <functional>
 #include <queue>
 
-/// ReplyPipe the dialogs that a command opens, in turn, as soon as each is shown. An unexpected
-/// dialog is rejected and fails the test, so that no dialog can block it.
+/// Answers the dialogs that a command opens, in turn, as soon as each is shown. An unexpected
+/// dialog is rejected and fails the test, so that no dialog can block it. Progress dialogs appear
+/// only on slow machines and close themselves: they are not counted.
 class DialogDriver final : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
     DialogDriver();
     ~DialogDriver() override;
 
-    /// ReplyPipe the next dialog with this function.
+    /// Answers the next dialog with this function.
     void expect(Answer answer);
     /// The next dialog is a message box; the button of this role or text is clicked.
     void expectButton(int standardButton);
@@ -28,6 +29,8 @@ public:
     /// The next dialog is a file dialog; this file is chosen.
     void expectFile(const QString& fileName);
     void expectCancel();
+    /// Each progress dialog is canceled.
+    void cancelProgress() { m_cancelsProgress = true; }
 
     /// The texts of the dialogs that were shown, with their informative texts.
     [[nodiscard]] const QStringList& texts() const { return m_texts; }
@@ -41,4 +44,5 @@ private:
 
     std::queue<Answer> m_answers;
     QStringList m_texts;
+    bool m_cancelsProgress = false;
 };

@@ -477,7 +477,7 @@ TEST_F(MainWindowTest, ALongImportCanBeCanceled)
     program.close();
     ImportProcess::setProgram(program.fileName());
     ImportProcess::setDialogDelay(0);
-    dialogs.expectButton(u"Cancel"_s);
+    dialogs.cancelProgress();
     EXPECT_FALSE(window.openFile(copied(u"opendocument/shelf_label.odg"_s)));
     EXPECT_EQ(window.statusBar()->currentMessage(), u"The import was canceled."_s);
     EXPECT_EQ(displayName(*window.session().label()), name);

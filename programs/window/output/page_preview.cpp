@@ -91,6 +91,8 @@ void PagePreview::mousePressEvent(QMouseEvent* event)
     for (int position = 0; position < sheet->positions(); ++position) {
         if (printing::cellAt(*sheet, position).contains(point)) {
             Q_EMIT positionRequested(position);
+            // What receives it may have replaced the batch, and with it the sheet.
+            return;
         }
     }
 }
