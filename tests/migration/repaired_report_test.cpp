@@ -253,3 +253,21 @@ TEST(RepairedReport, TextAlongACurveBecomesStraight)
     EXPECT_TRUE(symbol == report.items.end() || symbol->count == 0);
     EXPECT_EQ(verdictOf(report), Verdict::Changed) << codesOf(report).toStdString();
 }
+
+TEST(RepairedReport, CellsHaveBordersOnAllSides)
+{
+    const auto count = [](const QByteArray& borders) {
+        const FileReport report = repairedReport(
+            odt("<table:table><table:table-column/><table:table-row><table:table-cell "
+                "table:style-name=\"C\"><text:p>Head</text:p></table:table-cell>"
+                "</table:table-row></table:table>",
+                {.automaticStyles = "<style:style style:name=\"C\" style:family=\"table-cell\">"
+                                    "<style:table-cell-properties " +
+                                    borders + "/></style:style>"}));
+        const Finding* const finding = findingOf(report, lossCode(LossKind::CellBorders));
+        return finding != nullptr ? finding->count : 0;
+    };
+    EXPECT_EQ(count("fo:border=\"1pt solid #000000\""), 0);
+    EXPECT_EQ(count("fo:border=\"none\""), 0);
+    EXPECT_EQ(count("fo:border=\"1pt solid #000000\" fo:border-left=\"none\""), 1);
+}

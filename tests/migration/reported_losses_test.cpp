@@ -395,6 +395,7 @@ TEST(ReportedLosses, EveryKindHasASample)
     // Of repaired documents: see repaired_report_test.cpp.
     shown.insert(lossCode(LossKind::PagesLeftOut));
     shown.insert(lossCode(LossKind::TextWrap));
+    shown.insert(lossCode(LossKind::CellBorders));
     for (const LossRow& row : lossRows()) {
         EXPECT_TRUE(shown.contains(lossCode(row.kind))) << row.code;
     }

@@ -5,6 +5,7 @@
 #include "host/items/rich_text_item.h"
 #include "repair/repaired_import.h"
 
+#include <QMap>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -162,6 +163,43 @@ TEST(TextDocument, RowsOfTablesHaveTheirLeastHeight)
     EXPECT_NEAR(middle - top, bottom - middle, 0.1);
     EXPECT_GT(bottom - top, 30.0) << "a line is lower than half of the row";
     EXPECT_LT(bottom, 60.0 - 10.0);
+}
+
+TEST(TextDocument, CellsAreAsHighAsTheRowsThatTheySpan)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:automatic-styles><style:style style:name=\"c\" "
+        "style:family=\"table-column\"><style:table-column-properties "
+        "style:column-width=\"2cm\"/></style:style></office:automatic-styles><office:body>"
+        "<office:text><table:table><table:table-column table:style-name=\"c\" "
+        "table:number-columns-repeated=\"2\"/><table:table-row><table:table-cell "
+        "table:number-rows-spanned=\"2\"><text:p>1</text:p><text:p>2</text:p><text:p>3</text:p>"
+        "<text:p>4</text:p></table:table-cell><table:table-cell><text:p>above</text:p>"
+        "</table:table-cell></table:table-row><table:table-row><table:covered-table-cell/>"
+        "<table:table-cell><text:p>below</text:p></table:table-cell></table:table-row>"
+        "</table:table><text:p>end</text:p></office:text></office:body>"
+        "</office:document-content>";
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+    ASSERT_TRUE(import.isRepaired());
+    QMap<QString, QRectF> boxes; // by text; each follows its box
+    QRectF box;
+    for (const workbench::CanvasItem* item : import.result.canvas->items()) {
+        const workbench::ItemValues values = item->values();
+        if (item->shapeType() == KestTypes::RichText) {
+            boxes.insert(values.text->text.simplified(), box);
+        } else {
+            box = {values.placement.position, values.box.size};
+        }
+    }
+    ASSERT_EQ(boxes.size(), 4) << QStringList(boxes.keys()).join(u';').toStdString();
+    const QRectF spanning = boxes.value(u"1 2 3 4"_s);
+    EXPECT_NEAR(spanning.top(), boxes.value(u"above"_s).top(), 0.01);
+    EXPECT_NEAR(spanning.bottom(), boxes.value(u"below"_s).bottom(), 0.01);
+    EXPECT_NEAR(boxes.value(u"above"_s).bottom(), boxes.value(u"below"_s).top(), 0.01);
+    EXPECT_LT(boxes.value(u"above"_s).height(), spanning.height() / 2.0);
+    EXPECT_NEAR(boxes.value(u"end"_s).top(), spanning.bottom(), 0.01);
 }
 
 TEST(TextDocument, BreaksItsLines)

@@ -16,7 +16,7 @@ namespace repair {
 /// @return none if it is not a text document; else the body is then an empty drawing
 [[nodiscard]] Node::Children layOutPages(Document& document);
 
-/// Whether the object is as high as its row: the cells of a table.
+/// The number of rows that the object is as high as: the cells of a table.
 inline const QString FillsRowAttribute = QLatin1String("labelport:fills-row");
 
 } // namespace repair

@@ -11,6 +11,7 @@
 #include "repair/shape_parts.h"
 #include "repair/shape_place.h"
 #include "repair/shape_steps.h"
+#include "repair/table_rows.h"
 #include "repair/transform.h"
 
 #include <QStringList>
@@ -139,7 +140,8 @@ void planRow(Document& document, const Node& shape, const Node& container,
     plan.mark = shape.attribute(AnchorAttribute).toInt();
     plan.isInLine = shape.attribute(InLineAttribute) == "true"_L1;
     plan.isNote = shape.hasAttribute(NoteAttribute);
-    plan.fillsRow = shape.attribute(FillsRowAttribute) == "true"_L1;
+    plan.fillsRow = shape.hasAttribute(FillsRowAttribute);
+    plan.rows = repeats(shape, FillsRowAttribute, MaximumRows);
     plan.flows = shape.hasAttribute(FlowsAttribute);
     plan.least = plan.row > 0 && !plan.flows ? boundsOf(shape).bottom() : 0.0;
     if (plan.fillsRow && plan.text) {

@@ -53,8 +53,9 @@ struct ItemPlan
     bool isInLine = false;
     /// Whether it is a note, which is at the bottom of its page.
     bool isNote = false;
-    /// Whether the object is as high as its row.
+    /// Whether the object is as high as its row, and the rows that it spans.
     bool fillsRow = false;
+    int rows = 1;
     /// Whether it is a text whose lines may be on two pages.
     bool flows = false;
     /// Points below the text that belong to the object, or the height of one without text.

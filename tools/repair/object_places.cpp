@@ -64,11 +64,11 @@ private:
     void placeRow(const QList<ObjectItems>& row, double& y) const;
     void placeAtMarks(const ObjectItems& items);
     [[nodiscard]] double contentHeight(const ObjectItems& items) const;
-    [[nodiscard]] double heightOf(const ObjectItems& items) const;
     [[nodiscard]] double textBottom(const ObjectItems& items) const;
 
     const QMap<int, ObjectItems>& m_objects;
     QMultiHash<int, ObjectItems> m_marked; // by mark; an object may have several parts
+    QMap<int, double> m_tops;              // of rows
     QList<Row> m_rows;
 };
 
@@ -112,29 +112,26 @@ double Placer::contentHeight(const ObjectItems& items) const
     return items.shape != nullptr ? bottomOf(*items.shape) : 0.0;
 }
 
-double Placer::heightOf(const ObjectItems& items) const
-{
-    return std::max(contentHeight(items), items.plan->least);
-}
-
+// A cell of several rows is in the last one.
 void Placer::placeRow(const QList<ObjectItems>& row, double& y) const
 {
     double height = 0.0;
     for (const ObjectItems& items : row) {
-        height = std::max(height, heightOf(items));
+        const double own = std::max(contentHeight(items), items.plan->least);
+        height = std::max(height, own + m_tops.value(items.plan->row, y) - y);
     }
     for (const ObjectItems& items : row) {
+        const double top = m_tops.value(items.plan->row, y);
+        const double full = y + height - top;
         const double gap = items.shape != nullptr ? items.shape->graphicsItem()->pos().y() : 0.0;
         if (items.text != nullptr && items.plan->shareAbove > 0.0) {
-            const double room = height - contentHeight(items);
+            const double room = full - contentHeight(items);
             items.text->graphicsItem()->moveBy(0.0, room * items.plan->shareAbove);
         }
-        moveItems(items, {0.0, y});
-        const bool isBox =
-            items.shape != nullptr && (items.plan->fillsRow || items.text != nullptr);
-        if (isBox) {
+        moveItems(items, {0.0, top});
+        if (items.shape != nullptr && (items.plan->fillsRow || items.text != nullptr)) {
             Item* const box = items.shape->contractItem();
-            box->setItemSize({box->getItemWidth(), height - gap});
+            box->setItemSize({box->getItemWidth(), full - gap});
         }
     }
     y += height;
@@ -170,15 +167,18 @@ void Placer::lowerObjects()
 void Placer::placeRows(double top)
 {
     QMap<int, QList<ObjectItems>> rows;
-    for (const ObjectItems& items : m_objects) {
-        if (items.plan->row > 0) {
-            rows[items.plan->row].append(items);
+    for (const bool isSpanned : {false, true}) {
+        for (const ObjectItems& items : m_objects) {
+            if (items.plan->row > 0 && (items.plan->rows > 1) == isSpanned) {
+                rows[items.plan->row + items.plan->rows - 1].append(items);
+            }
         }
     }
     double y = top;
-    for (const QList<ObjectItems>& row : rows) {
-        placeRow(row, y);
-        m_rows.append({row, y});
+    for (auto row = rows.begin(); row != rows.end(); ++row) {
+        m_tops.insert(row.key(), y);
+        placeRow(*row, y);
+        m_rows.append({*row, y});
     }
 }
 

@@ -126,7 +126,9 @@ void TableReader::readRow(Node& row)
             const QString fill = firstColor({style.value(BackgroundColor), rowFill, m_fill});
             auto frame = textFrame(m_document, box, cellGround(style, fill));
             frame->setAttribute(RowAttribute, QString::number(m_row));
-            frame->setAttribute(FillsRowAttribute, u"true"_s);
+            frame->setAttribute(
+                FillsRowAttribute,
+                QString::number(repeats(*cell, u"table:number-rows-spanned", MaximumRows)));
             takeParagraphs(*cell, *frame->child(u"draw:text-box"), 0);
             Node::Children shapes = takeAllShapes(m_document, *frame->child(u"draw:text-box"),
                                                   {m_place.page, box, m_place.depth});

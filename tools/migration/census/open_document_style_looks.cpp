@@ -82,6 +82,17 @@ bool StyleBook::hasTabStops(const QString& style) const
     return textStyle(style).hasTabStops;
 }
 
+void StyleBook::takeCell(const QXmlStreamAttributes& attributes)
+{
+    const auto isDrawn = [&attributes](QLatin1String side) {
+        const QStringView border = attributes.hasAttribute(side) ? attributes.value(side)
+                                                                 : attributes.value("fo:border"_L1);
+        return !border.isEmpty() && border != "none"_L1;
+    };
+    m_cells.insert(m_cellName, {isDrawn("fo:border-top"_L1), isDrawn("fo:border-left"_L1),
+                                isDrawn("fo:border-bottom"_L1), isDrawn("fo:border-right"_L1)});
+}
+
 bool StyleBook::numbersHeading(const QString& style, int level) const
 {
     return m_numberedLevels.contains(level) && !textStyle(style).hasNoNumbers;

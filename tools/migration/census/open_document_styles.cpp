@@ -166,6 +166,8 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
         current().hasTabStops = false; // instead of those of the parent
     } else if (name == "style:tab-stop"_L1) {
         current().hasTabStops = true;
+    } else if (name == "style:table-cell-properties"_L1 && !m_cellName.isEmpty()) {
+        takeCell(attributes);
     } else if (!m_sectionName.isEmpty()) {
         takeSection(name, attributes);
     }
@@ -192,6 +194,7 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
     m_isInList = false;
     const QString family = valueOf(attributes, "style:family"_L1);
     const QString name = valueOf(attributes, "style:name"_L1);
+    m_cellName = family == "table-cell"_L1 ? name : QString();
     m_sectionName = family == "section"_L1 ? name : QString();
     const QString parent = valueOf(attributes, "style:parent-style-name"_L1);
     if (isTextFamily(family)) {

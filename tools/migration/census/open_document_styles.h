@@ -1,5 +1,6 @@
 #pragma once
 
+#include "migration/census/table_borders.h"
 #include "migration/model/appearance.h"
 #include "migration/model/census.h"
 
@@ -52,6 +53,10 @@ public:
     {
         return shapeValue(&Style::wrap, style);
     }
+    [[nodiscard]] CellBorders bordersOfCell(const QString& style) const
+    {
+        return m_cells.value(style);
+    }
     [[nodiscard]] bool numbersLines() const { return m_numbersLines; }
     /// Whether a style gives texts the size of their letters.
     [[nodiscard]] bool sizesText(const QString& style) const;
@@ -90,6 +95,7 @@ private:
     [[nodiscard]] Style& current();
     [[nodiscard]] const Style& textStyle(const QString& name) const;
     [[nodiscard]] const Style& shapeStyle(const QString& name) const;
+    void takeCell(const QXmlStreamAttributes& attributes);
     void takeSection(const QString& name, const QXmlStreamAttributes& attributes);
     void startStyle(const QXmlStreamAttributes& attributes, bool isDefault);
     void takeProperties(const QString& group, const QXmlStreamAttributes& attributes);
@@ -106,6 +112,8 @@ private:
     Style m_defaultShape;
     Style* m_current = nullptr;
     Style m_ignored;
+    QString m_cellName; ///< of the style that is read; empty if it is not one of a cell
+    QHash<QString, CellBorders> m_cells;
     QSet<int> m_numberedLevels; ///< of headings
     bool m_numbersLines = false;
     bool m_isInList = false; ///< in a level of a list style

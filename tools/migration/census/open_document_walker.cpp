@@ -49,6 +49,7 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
     takeChunk();
     const std::optional<QRectF> box = boxOf(attributes);
     m_box = box ? box : m_places.back().box;
+    openInTable(name, attributes);
     openChild(name, attributes);
     m_places.back().box = m_box;
 }
@@ -170,6 +171,7 @@ void OpenDocumentWalker::close()
     if (m_places.empty()) {
         m_places.push_back({});
     }
+    closeTable();
     Place& parent = m_places.back();
     switch (place.spot) {
     case Spot::Paragraph:

@@ -124,6 +124,8 @@ private:
     void noteField(const QString& name, const Attributes& attributes, LossSet& changes);
     void takeText(QStringView characters);
     void startLine();
+    void openInTable(const QString& name, const Attributes& attributes);
+    void closeTable();
     void noteAnchor(const Attributes& attributes);
     [[nodiscard]] qsizetype addAppearance(const QString& name, const Attributes& attributes);
     [[nodiscard]] qsizetype addTextAppearance(const Place& look, QString text);
@@ -135,6 +137,13 @@ private:
     const StyleBook& m_styles;
     QString m_unit;
     std::vector<Place> m_places;
+    /// A table that is open, and the number of places outside it.
+    struct OpenTable
+    {
+        std::size_t depth = 0;
+        TableBorders borders;
+    };
+    std::vector<OpenTable> m_tables;
     std::optional<QRectF> m_box; ///< of the element that is being opened
     QString m_masterPage;
     bool m_hasRunningText = false;

@@ -95,6 +95,36 @@ const OpenDocumentWalker::Place* OpenDocumentWalker::innermostLostObject() const
     return found != m_places.rend() ? &*found : nullptr;
 }
 
+void OpenDocumentWalker::openInTable(const QString& name, const Attributes& attributes)
+{
+    if (name == "table:table"_L1) {
+        m_tables.push_back({m_places.size(), {}});
+    } else if (m_tables.empty() || !name.startsWith("table:"_L1)) {
+        return;
+    } else if (name == "table:table-row"_L1) {
+        m_tables.back().borders.openRow();
+    } else if (name == "table:table-cell"_L1) {
+        m_tables.back().borders.openCell(
+            m_styles.bordersOfCell(attributes.value("table:style-name"_L1).toString()),
+            attributes.value("table:number-columns-spanned"_L1).toInt());
+    } else if (name == "table:covered-table-cell"_L1) {
+        m_tables.back().borders.openCovered(
+            std::max(1, attributes.value("table:number-columns-repeated"_L1).toInt()));
+    }
+}
+
+void OpenDocumentWalker::closeTable()
+{
+    if (m_tables.empty() || m_tables.back().depth < m_places.size()) {
+        return;
+    }
+    TableBorders& borders = m_tables.back().borders;
+    borders.close();
+    m_census.borderedCells += borders.bordered();
+    m_census.partlyBorderedCells += borders.partly();
+    m_tables.pop_back();
+}
+
 // The innermost paragraph that readers leave out, the shape, or the paragraph of the running text.
 void OpenDocumentWalker::takeText(QStringView characters)
 {

@@ -141,6 +141,9 @@ void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const Log
     compare(repaired, label, log, page);
     m_texts.addPage(label);
     m_anchoredItems.append(label.anchoredItems);
+    m_boxes += std::count_if(label.items.begin(), label.items.end(), [](const ItemFacts& item) {
+        return item.objectClass == ObjectClass::Shape && item.penWidth;
+    });
     if (m_lastPage > 0) {
         // Places are those on the label that is shown: the first page.
         forgetPlaces(page.lost);
@@ -234,6 +237,14 @@ void RepairedLosses::fill(FileReport& report) const
     if (const qint64 count = textsOnOneSide(m_original, m_anchoredItems); count > 0) {
         addTo(changed,
               {{lossCode(LossKind::TextWrap), lossText(LossKind::TextWrap), count, false, {}}});
+    }
+    // Repair draws all sides of a cell or none. Other boxes may have a pen, too.
+    if (m_original.partlyBorderedCells > 0 && m_boxes >= m_original.borderedCells) {
+        addTo(changed, {{lossCode(LossKind::CellBorders),
+                         lossText(LossKind::CellBorders),
+                         m_original.partlyBorderedCells,
+                         false,
+                         {}}});
     }
     // The same words may be on other pages.
     if (Finding* const numbers = findingOf(changed, lossCode(LossKind::Numbering))) {

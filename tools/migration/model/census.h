@@ -105,6 +105,9 @@ struct Census
     QStringList paragraphs;
     /// Headings that the document shows with a number.
     QStringList numberedHeadings;
+    /// Cells of tables with a border, and those of them that have one on some sides only.
+    qint64 borderedCells = 0;
+    qint64 partlyBorderedCells = 0;
     /// Objects with text beside them, in the order of the document.
     QList<AnchoredObject> anchoredObjects;
     /// Size of its page in points; 0 if unknown.

@@ -86,6 +86,7 @@ enum class LossKind : quint8 {
     Invisible,
     FillAdded,
     PenWidth,
+    CellBorders,
     FillSimplified,
     PictureFill,
     EffectDropped,
