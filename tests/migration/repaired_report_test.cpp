@@ -256,11 +256,14 @@ TEST(RepairedReport, TextAlongACurveBecomesStraight)
 
 TEST(RepairedReport, CellsHaveBordersOnAllSides)
 {
-    const auto count = [](const QByteArray& borders) {
+    const auto count = [](const QByteArray& borders,
+                          const QByteArray& content = "<text:p>Head</text:p>") {
         const FileReport report = repairedReport(
             odt("<table:table><table:table-column/><table:table-row><table:table-cell "
-                "table:style-name=\"C\"><text:p>Head</text:p></table:table-cell>"
-                "</table:table-row></table:table>",
+                "table:style-name=\"C\">" +
+                    content +
+                    "</table:table-cell>"
+                    "</table:table-row></table:table>",
                 {.automaticStyles = "<style:style style:name=\"C\" style:family=\"table-cell\">"
                                     "<style:table-cell-properties " +
                                     borders + "/></style:style>"}));
@@ -269,5 +272,11 @@ TEST(RepairedReport, CellsHaveBordersOnAllSides)
     };
     EXPECT_EQ(count("fo:border=\"1pt solid #000000\""), 0);
     EXPECT_EQ(count("fo:border=\"none\""), 0);
+    EXPECT_EQ(
+        count("fo:border=\"1pt solid #000000\"",
+              "<table:table table:is-sub-table=\"true\"><table:table-column/><table:table-row>"
+              "<table:table-cell table:style-name=\"C\"><text:p>Part</text:p>"
+              "</table:table-cell></table:table-row></table:table>"),
+        1);
     EXPECT_EQ(count("fo:border=\"1pt solid #000000\" fo:border-left=\"none\""), 1);
 }

@@ -120,8 +120,12 @@ void OpenDocumentWalker::closeTable()
     }
     TableBorders& borders = m_tables.back().borders;
     borders.close();
-    m_census.borderedCells += borders.bordered();
-    m_census.partlyBorderedCells += borders.partly();
+    if (m_tables.size() > 1) {
+        m_census.nestedBorderedCells += borders.bordered();
+    } else {
+        m_census.borderedCells += borders.bordered();
+        m_census.partlyBorderedCells += borders.partly();
+    }
     m_tables.pop_back();
 }
 

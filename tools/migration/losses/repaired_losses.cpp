@@ -219,6 +219,15 @@ QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
     return findings;
 }
 
+// Repair draws all sides of a cell or none, and none in tables within tables. Other boxes may have
+// a pen, too.
+qint64 RepairedLosses::changedCells() const
+{
+    const qint64 cells = m_original.borderedCells;
+    return (m_boxes >= cells ? m_original.partlyBorderedCells : 0) +
+           (m_boxes < cells + m_original.nestedBorderedCells ? m_original.nestedBorderedCells : 0);
+}
+
 void RepairedLosses::fill(FileReport& report) const
 {
     FileReport original;
@@ -238,13 +247,10 @@ void RepairedLosses::fill(FileReport& report) const
         addTo(changed,
               {{lossCode(LossKind::TextWrap), lossText(LossKind::TextWrap), count, false, {}}});
     }
-    // Repair draws all sides of a cell or none. Other boxes may have a pen, too.
-    if (m_original.partlyBorderedCells > 0 && m_boxes >= m_original.borderedCells) {
-        addTo(changed, {{lossCode(LossKind::CellBorders),
-                         lossText(LossKind::CellBorders),
-                         m_original.partlyBorderedCells,
-                         false,
-                         {}}});
+    if (const qint64 count = changedCells(); count > 0) {
+        addTo(
+            changed,
+            {{lossCode(LossKind::CellBorders), lossText(LossKind::CellBorders), count, false, {}}});
     }
     // The same words may be on other pages.
     if (Finding* const numbers = findingOf(changed, lossCode(LossKind::Numbering))) {

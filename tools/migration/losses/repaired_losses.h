@@ -36,6 +36,7 @@ private:
     void addTo(QList<Finding>& sums, const QList<Finding>& findings) const;
     [[nodiscard]] QList<Finding> remaining(const QList<Finding>& original,
                                            const QList<Finding>& repaired) const;
+    [[nodiscard]] qint64 changedCells() const;
     void addPagesLeftOut(QList<Finding>& lost) const;
 
     const Census& m_original;

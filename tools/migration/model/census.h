@@ -108,6 +108,8 @@ struct Census
     /// Cells of tables with a border, and those of them that have one on some sides only.
     qint64 borderedCells = 0;
     qint64 partlyBorderedCells = 0;
+    /// Cells with a border in tables within tables; not among the others.
+    qint64 nestedBorderedCells = 0;
     /// Objects with text beside them, in the order of the document.
     QList<AnchoredObject> anchoredObjects;
     /// Size of its page in points; 0 if unknown.
