@@ -8,6 +8,7 @@
 #include <QMap>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTextDocument>
 
 #include <gtest/gtest.h>
 
@@ -185,10 +186,10 @@ TEST(TextDocument, CellsAreAsHighAsTheRowsThatTheySpan)
     ASSERT_TRUE(import.isRepaired());
     QMap<QString, QRectF> boxes; // by text; each follows its box
     QRectF box;
-    for (const workbench::CanvasItem* item : import.result.canvas->items()) {
+    for (workbench::CanvasItem* const item : import.result.canvas->items()) {
         const workbench::ItemValues values = item->values();
-        if (item->shapeType() == KestTypes::RichText) {
-            boxes.insert(values.text->text.simplified(), box);
+        if (const auto* const text = dynamic_cast<const ::RichTextItem*>(item->contractItem())) {
+            boxes.insert(text->document()->toPlainText().simplified(), box);
         } else {
             box = {values.placement.position, values.box.size};
         }
