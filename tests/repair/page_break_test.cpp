@@ -119,6 +119,14 @@ TEST(PageBreaks, ContinueFullPages)
     }
 }
 
+TEST(PageBreaks, ContinueOnManyPages)
+{
+    // Rows were counted on from page to page, twice as many each time.
+    const QList<Label> labels = labelsOf(textDocument(paragraphs(1, 320)));
+    EXPECT_GE(labels.size(), 40);
+    EXPECT_EQ(wordsOf(labels).join(u' '), numbered(320).join(u' '));
+}
+
 TEST(PageBreaks, LeaveTextThatFits)
 {
     EXPECT_EQ(labelsOf(textDocument(paragraphs(1, 7))).size(), 1);
@@ -228,6 +236,38 @@ TEST(PageBreaks, KeepRowsOfTablesWhole)
     // A row that is higher than a page has its own.
     EXPECT_TRUE(labels[2].text.startsWith("p10\n"_L1));
     EXPECT_EQ(labels[3].text, "p30"_L1);
+}
+
+TEST(PageBreaks, RepeatTheHeadersOfTables)
+{
+    const auto row = [](const QByteArray& text) {
+        return "<table:table-row><table:table-cell>" + text +
+               "</table:table-cell></table:table-row>";
+    };
+    const auto table = [&row](const QByteArray& rows) {
+        return textDocument("<table:table><table:table-column/><table:table-header-rows>" +
+                            row("<text:p>head</text:p>") + "</table:table-header-rows>" + rows +
+                            "</table:table><text:p>end</text:p>");
+    };
+    QByteArray rows;
+    for (int number = 1; number <= 16; ++number) {
+        rows += row(paragraphs(number, number));
+    }
+    const QList<Label> labels = labelsOf(table(rows));
+    ASSERT_EQ(labels.size(), 3);
+    for (const Label& label : labels) {
+        EXPECT_TRUE(label.text.startsWith("head|p"_L1)) << label.text.toStdString();
+        EXPECT_LE(label.bottom, PageHeight - Margin + 1.0);
+    }
+    QStringList words = wordsOf(labels);
+    words.removeAll(u"head"_s);
+    EXPECT_EQ(words.join(u' '), numbered(16).join(u' ') + " end"_L1);
+    // No page has room for such a row and the header: each row is shown once nevertheless.
+    const QList<Label> high =
+        labelsOf(table(row(paragraphs(1, 20)) + row(paragraphs(21, 40)) + row(paragraphs(41, 41))));
+    QStringList highWords = wordsOf(high);
+    highWords.removeAll(u"head"_s);
+    EXPECT_EQ(highWords.join(u' '), numbered(41).join(u' ') + " end"_L1);
 }
 
 TEST(PageBreaks, FillThePageUpToTheNextBreakOfTheDocument)

@@ -8,6 +8,7 @@
 #include "repair/shape_place.h"
 #include "repair/split_text.h"
 
+#include <QMap>
 #include <QSet>
 
 #include <algorithm>
@@ -95,9 +96,58 @@ void moveAnchored(Node& page, Node::Children& rest)
     }
 }
 
+bool isHeaderOf(const Node& object, const QString& table)
+{
+    return object.hasAttribute(HeaderAttribute) && object.attribute(TableAttribute) == table;
+}
+
+// A table that continues on the next page has its header there too. Rows with objects in their
+// texts are not repeated: an object is on one page.
+void repeatHeader(const Node& page, const QString& table, Node::Children& rest)
+{
+    Node::Children header;
+    for (const auto& object : page.children) {
+        if (isHeaderOf(*object, table)) {
+            header.push_back(object->clone());
+        }
+    }
+    const bool isContinued =
+        !table.isEmpty() && std::any_of(rest.begin(), rest.end(), [&table](const auto& object) {
+            return object->attribute(TableAttribute) == table;
+        });
+    if (isContinued && markKeys(header).isEmpty()) {
+        rest.insert(rest.begin(), std::make_move_iterator(header.begin()),
+                    std::make_move_iterator(header.end()));
+    }
+}
+
 bool showsSomething(const Node& object)
 {
     return !object.hasAttribute(FlowsAttribute) || hasVisibleText(*object.child(u"draw:text-box"));
+}
+
+// From 1 on: a number that grows from page to page would not fit into an integer at last.
+void renumberRows(Node& page)
+{
+    const QString names[] = {RowAttribute, FromRowAttribute};
+    QMap<int, int> numbers; // sorted
+    for (const auto& object : page.children) {
+        for (const QString& name : names) {
+            numbers.insert(object->attribute(name).toInt(), 0);
+        }
+    }
+    int number = 0;
+    for (auto it = numbers.upperBound(0); it != numbers.end(); ++it) {
+        *it = ++number;
+    }
+    for (const auto& object : page.children) {
+        for (const QString& name : names) {
+            if (object->hasAttribute(name)) {
+                object->setAttribute(
+                    name, QString::number(numbers.value(object->attribute(name).toInt())));
+            }
+        }
+    }
 }
 
 // The order is that of the objects, the texts above all others.
@@ -123,9 +173,11 @@ Node::Children takeRest(Document& document, const PageEnd& end)
     }
     Node& last = **found;
     int firstRow = rowOf(last); // of the rest
-    const bool isFirst =
-        std::none_of(page.children.begin(), page.children.end(), [firstRow](const auto& object) {
-            return rowOf(*object) > 0 && rowOf(*object) < firstRow;
+    const QString table = last.attribute(TableAttribute);
+    // Behind the header alone, a row is the first one too: the next page has no more room.
+    const bool isFirst = std::none_of(
+        page.children.begin(), page.children.end(), [firstRow, &table](const auto& object) {
+            return rowOf(*object) > 0 && rowOf(*object) < firstRow && !isHeaderOf(*object, table);
         });
     Node::Children rest;
     if (end.paragraph < 0) {
@@ -146,6 +198,7 @@ Node::Children takeRest(Document& document, const PageEnd& end)
         return rowOf(object) >= firstRow || object.attribute(FromRowAttribute).toInt() >= firstRow;
     });
     moveAnchored(page, rest);
+    repeatHeader(page, table, rest);
     const bool isVisible = std::any_of(rest.begin(), rest.end(),
                                        [](const auto& object) { return showsSomething(*object); });
     return isVisible ? std::move(rest) : Node::Children();
@@ -204,6 +257,7 @@ void putRest(Document& document, Node::Children rest)
     page.children.insert(texts, std::make_move_iterator(rest.begin()),
                          std::make_move_iterator(rest.end()));
     sortTextsLast(page);
+    renumberRows(page);
     (void)writeOrder(document);
 }
 

@@ -26,6 +26,10 @@ inline const QString OrphansAttribute = QLatin1String("labelport:orphans");
 inline const QString WidowsAttribute = QLatin1String("labelport:widows");
 inline const QString KeepAttribute = QLatin1String("labelport:keep");
 
+/// Of a cell: the number of its table, and whether its row is repeated on each page of the table.
+inline const QString TableAttribute = QLatin1String("labelport:table");
+inline const QString HeaderAttribute = QLatin1String("labelport:header");
+
 /// Where a page is full: before a row, or between two lines of one.
 struct PageEnd
 {

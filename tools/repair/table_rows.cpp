@@ -4,12 +4,14 @@
 #include "repair/document.h"
 #include "repair/flow_step.h"
 #include "repair/lengths.h"
+#include "repair/page_end.h"
 #include "repair/shape_place.h"
 
 #include <QList>
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace repair {
 
@@ -82,6 +84,7 @@ public:
         , m_place(place)
         , m_fill(std::move(fill))
         , m_row(row)
+        , m_number(QString::number(document.newMark()))
     {}
 
     void readRows(Node& parent, int depth);
@@ -96,6 +99,8 @@ private:
     const TextPlace& m_place;
     const QString m_fill; // color of the table; may be empty
     int& m_row;
+    const QString m_number; // of the table
+    bool m_isHeader = false;
     int m_rows = 0;
     Node::Children m_cells;
 };
@@ -129,6 +134,10 @@ void TableReader::readRow(Node& row)
             frame->setAttribute(
                 FillsRowAttribute,
                 QString::number(repeats(*cell, u"table:number-rows-spanned", MaximumRows)));
+            frame->setAttribute(TableAttribute, m_number);
+            if (m_isHeader) {
+                frame->setAttribute(HeaderAttribute, u"true"_s);
+            }
             takeParagraphs(*cell, *frame->child(u"draw:text-box"), 0);
             Node::Children shapes = takeAllShapes(m_document, *frame->child(u"draw:text-box"),
                                                   {m_place.page, box, m_place.depth});
@@ -146,7 +155,10 @@ void TableReader::readRows(Node& parent, int depth)
             readRow(*child);
         } else if (child->name.startsWith("table:table-"_L1) && depth < 10 &&
                    child->name.endsWith("rows"_L1)) {
+            const bool isHeader =
+                std::exchange(m_isHeader, m_isHeader || child->is(u"table:table-header-rows"));
             readRows(*child, depth + 1);
+            m_isHeader = isHeader;
         }
     }
 }
