@@ -4,12 +4,25 @@
 #include "repair/styles.h"
 #include "repair/xml_tree.h"
 
+#include <QFont>
+#include <QFontMetricsF>
+
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace repair {
 
+namespace {
+
 using namespace Qt::StringLiterals;
+
+// Pixels, in which labels are measured.
+constexpr int MeasuredLabelSize = 100;
+constexpr double GapBlanks = 40.0;
+constexpr double DefaultLabelSize = 12.0; // points
+
+} // namespace
 
 QString bulletText(const QString& character)
 {
@@ -79,6 +92,30 @@ Indent indentOf(const Node& level)
     }
     const double width = pointsOf(*properties, u"text:min-label-width");
     return {pointsOf(*properties, u"text:space-before") + width, -width};
+}
+
+StyleProperties labelStyle(StyleProperties style)
+{
+    for (const QString& name : style.text.keys()) {
+        if (name.startsWith("style:text-underline"_L1) ||
+            name.startsWith("style:text-line-through"_L1)) {
+            style.text.remove(name);
+        }
+    }
+    return style;
+}
+
+QString labelGap(const StyleTable& table, const Properties& text, const QString& label, double room)
+{
+    QFont font(table.fontFamily(text.value(u"style:font-name"_s)));
+    font.setPixelSize(MeasuredLabelSize);
+    font.setBold(text.value(u"fo:font-weight"_s) == "bold"_L1);
+    const QFontMetricsF metrics(font);
+    const double size = toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultLabelSize);
+    const double gap =
+        room * MeasuredLabelSize / std::max(size, 1.0) - metrics.horizontalAdvance(label);
+    const double blanks = std::round(gap / std::max(metrics.horizontalAdvance(u' '), 1.0));
+    return QString(static_cast<int>(std::clamp(blanks, 2.0, GapBlanks)), u' ');
 }
 
 } // namespace repair

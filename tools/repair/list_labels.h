@@ -1,11 +1,12 @@
 #pragma once
 
+#include "repair/styles.h"
+
 #include <QString>
 
 namespace repair {
 
 class Node;
-class StyleTable;
 
 /// Points from the left side of the text: all lines, and the first one in addition.
 struct Indent
@@ -25,5 +26,14 @@ struct Indent
 /// The style of a list's level: bullet, number or picture; null if it is unknown.
 [[nodiscard]] const Node* levelStyle(const StyleTable& table, const QString& list, int level);
 [[nodiscard]] Indent indentOf(const Node& level);
+
+/// The style of a bullet or number, which is not underlined with its paragraph.
+[[nodiscard]] StyleProperties labelStyle(StyleProperties style);
+/// Blanks between a bullet or number and its text, which begins where the other lines do. Tabs
+/// would jump to the layout's own stops.
+///
+/// @param room of both, in points
+[[nodiscard]] QString labelGap(const StyleTable& table, const Properties& text,
+                               const QString& label, double room);
 
 } // namespace repair

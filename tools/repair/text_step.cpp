@@ -6,11 +6,7 @@
 #include "repair/list_labels.h"
 #include "repair/page_end.h"
 
-#include <QFont>
-#include <QFontMetricsF>
-
 #include <algorithm>
-#include <cmath>
 
 namespace repair {
 
@@ -20,10 +16,6 @@ using namespace Qt::StringLiterals;
 
 // Lists and sections within one another.
 constexpr int MaximumTextDepth = 100;
-// Pixels, in which labels of lists are measured.
-constexpr int MeasuredLabelSize = 100;
-constexpr double GapBlanks = 40.0;
-constexpr double DefaultLabelSize = 12.0; // points
 // What texts mean that give no font, and drawings that give no size.
 const QString DefaultTextFont = u"Times New Roman"_s;
 const QString DefaultDrawingSize = u"18pt"_s;
@@ -57,7 +49,6 @@ private:
     void writeParagraph(const Node& paragraph, List* list);
     void addLabel(List& list, const QString& paragraphStyle, StyleProperties& style,
                   std::vector<Run>& runs);
-    [[nodiscard]] QString labelGap(const Properties& text, const QString& label, double room);
     void writeIndent(const Node* level, const QString& paragraphStyle, bool isFirst,
                      Properties& paragraph);
 
@@ -128,33 +119,6 @@ void BlockWriter::readList(const Node& element, const List* outer, int depth)
     }
 }
 
-// Bullets and numbers are not underlined with the paragraph.
-StyleProperties labelStyle(StyleProperties style)
-{
-    for (const QString& name : style.text.keys()) {
-        if (name.startsWith("style:text-underline"_L1) ||
-            name.startsWith("style:text-line-through"_L1)) {
-            style.text.remove(name);
-        }
-    }
-    return style;
-}
-
-// Blanks between a bullet or number and its text, which begins where the other lines do. Tabs
-// would jump to the layout's own stops.
-QString BlockWriter::labelGap(const Properties& text, const QString& label, double room)
-{
-    QFont font(m_document.table().fontFamily(text.value(u"style:font-name"_s)));
-    font.setPixelSize(MeasuredLabelSize);
-    font.setBold(text.value(u"fo:font-weight"_s) == "bold"_L1);
-    const QFontMetricsF metrics(font);
-    const double size = toPoints(text.value(u"fo:font-size"_s)).value_or(DefaultLabelSize);
-    const double gap =
-        room * MeasuredLabelSize / std::max(size, 1.0) - metrics.horizontalAdvance(label);
-    const double blanks = std::round(gap / std::max(metrics.horizontalAdvance(u' '), 1.0));
-    return QString(static_cast<int>(std::clamp(blanks, 2.0, GapBlanks)), u' ');
-}
-
 void BlockWriter::addLabel(List& list, const QString& paragraphStyle, StyleProperties& style,
                            std::vector<Run>& runs)
 {
@@ -171,7 +135,8 @@ void BlockWriter::addLabel(List& list, const QString& paragraphStyle, StylePrope
         list.isNewItem = false;
         const StyleProperties shown = labelStyle(style);
         const double room = -toPoints(style.paragraph.value(u"fo:text-indent"_s)).value_or(0.0);
-        runs.insert(runs.begin(), {shown, label + labelGap(shown.text, label, room)});
+        runs.insert(runs.begin(),
+                    {shown, label + labelGap(m_document.table(), shown.text, label, room)});
     }
 }
 
