@@ -4,6 +4,7 @@
 #include "migration/losses/check_covering.h"
 #include "migration/losses/label_facts.h"
 #include "migration/losses/matching.h"
+#include "migration/losses/text_wrap.h"
 #include "tests/migration/documents.h"
 
 #include <gtest/gtest.h>
@@ -119,4 +120,20 @@ TEST(CheckLimits, CompareManyOpaqueItems)
         }
         EXPECT_EQ(checkCovering({}, label), count == 4'472) << count;
     }
+}
+
+// A text may have as many objects as a file can hold, each with all lines beside it.
+TEST(CheckLimits, CompareALimitedNumberOfAnchoredObjects)
+{
+    const QByteArray object = "<draw:rect text:anchor-type=\"paragraph\" draw:style-name=\"W\" "
+                              "svg:width=\"1in\" svg:height=\"1in\"/>";
+    const Census census = countOpenDocument(
+        textOf("<text:p>" + object.repeated(1'100) + "</text:p>",
+               {.automaticStyles = "<style:style style:name=\"W\" style:family=\"graphic\">"
+                                   "<style:graphic-properties style:wrap=\"parallel\"/>"
+                                   "</style:style>"}));
+    EXPECT_EQ(census.anchoredObjects.size(), 1'000);
+    LabelFacts label;
+    label.items = QList<ItemFacts>(MaximumAnchoredItems + 1, shapeAt(box(0.0, 0.0, 72.0, 72.0), 0));
+    EXPECT_EQ(anchoredItems(census, {}, label).size(), MaximumAnchoredItems);
 }

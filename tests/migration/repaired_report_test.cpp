@@ -280,3 +280,62 @@ TEST(RepairedReport, CellsHaveBordersOnAllSides)
         1);
     EXPECT_EQ(count("fo:border=\"1pt solid #000000\" fo:border-left=\"none\""), 1);
 }
+
+// Repair puts it at the end of its page.
+TEST(RepairedReport, FootnotesHaveANumberAndAText)
+{
+    const FileReport report = repairedReport(
+        odt("<text:p>Words<text:note text:note-class=\"footnote\"><text:note-citation>1"
+            "</text:note-citation><text:note-body><text:p>of a note</text:p></text:note-body>"
+            "</text:note> and more</text:p>"));
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::TextDiffers)), nullptr)
+        << codesOf(report).toStdString();
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::Footnote)), nullptr);
+}
+
+// The value in the file may be that of another page.
+TEST(RepairedReport, ValuesOfVariablesInHeadersMayDiffer)
+{
+    const FileReport shown = repairedReport(odt(
+        "<text:p><text:variable-set text:name=\"V\">fresh</text:variable-set> Text</text:p>",
+        {.masterPages =
+             "<style:master-page style:name=\"Standard\" "
+             "style:page-layout-name=\"L\"><style:header><text:p>Value: "
+             "<text:span><text:variable-get text:name=\"V\">stale"
+             "</text:variable-get></text:span> here</text:p></style:header></style:master-page>"}));
+    EXPECT_EQ(findingOf(shown, lossCode(LossKind::HeaderOrFooter)), nullptr)
+        << codesOf(shown).toStdString();
+    EXPECT_EQ(findingOf(shown, lossCode(LossKind::TextDiffers)), nullptr)
+        << codesOf(shown).toStdString();
+}
+
+// Repair takes groups and further pages apart, but cannot draw what has three dimensions.
+TEST(RepairedReport, ThreeDimensionalObjectsAreLostEverywhere)
+{
+    const QByteArray scene = "<dr3d:scene svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+                             "svg:height=\"1in\"><dr3d:cube/></dr3d:scene>";
+    for (const Document& document :
+         {odg("<draw:g>" + scene + PlainRect + "</draw:g>"),
+          odt("<text:p>Text" + scene + "</text:p>"), odt("<text:p>Text</text:p>" + scene)}) {
+        const FileReport report = repairedReport(document);
+        const Finding* const lost = findingOf(report, lossCode(LossKind::ThreeDScene));
+        ASSERT_NE(lost, nullptr) << codesOf(report).toStdString();
+        EXPECT_EQ(lost->count, 1);
+        EXPECT_EQ(report.objects.imported, 1);
+        EXPECT_EQ(verdictOf(report), Verdict::Lossy);
+    }
+}
+
+TEST(RepairedReport, DepthOfAShapeIsAnEffect)
+{
+    const auto isDropped = [](const QByteArray& depth) {
+        const FileReport report =
+            repairedReport(odg("<draw:custom-shape svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+                               "svg:height=\"1in\"><draw:enhanced-geometry draw:type=\"rectangle\" "
+                               "draw:extrusion=\"" +
+                               depth + "\"/></draw:custom-shape>"));
+        return findingOf(report, lossCode(LossKind::EffectDropped)) != nullptr;
+    };
+    EXPECT_TRUE(isDropped("true"));
+    EXPECT_FALSE(isDropped("false"));
+}

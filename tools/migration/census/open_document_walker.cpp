@@ -66,8 +66,10 @@ void OpenDocumentWalker::openChild(const QString& name, const Attributes& attrib
         startLine();
         m_lineStyle = attributes.value("text:style-name"_L1).toString();
     }
-    if (name == "draw:enhanced-geometry"_L1 && attributes.value("draw:text-path"_L1) == "true"_L1) {
+    if (attributes.value("draw:text-path"_L1) == "true"_L1) {
         m_census.note(LossKind::TextPath, 1, attributes.value("draw:type"_L1).toString());
+    } else if (attributes.value("draw:extrusion"_L1) == "true"_L1) {
+        m_census.note(LossKind::EffectDropped, 1, u"draw:extrusion"_s);
     }
     switch (m_places.back().spot) {
     case Spot::Outside:

@@ -76,6 +76,7 @@ private:
         qsizetype appearance = -1; ///< of the shape or frame
         bool hasLine = false;      ///< a paragraph of its text has begun
         bool hasLostParts = false;
+        bool isVariable = false; ///< whose value may differ from the file's
         QString text = {};
         QStringList families = {};
         QList<QColor> colors = {};

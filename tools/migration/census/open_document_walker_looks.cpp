@@ -11,6 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Objects with text beside them that are compared: more than a label has.
+constexpr qsizetype MaximumAnchoredObjects = 1'000;
+
 // In points; 0 where it follows from the content.
 QSizeF statedSize(const QXmlStreamAttributes& attributes)
 {
@@ -26,7 +29,8 @@ void OpenDocumentWalker::noteAnchor(const Attributes& attributes)
     const QStringView anchor = attributes.value("text:anchor-type"_L1);
     const QString wrap = m_styles.wrapOf(attributes.value("draw:style-name"_L1).toString());
     const bool isBeside = !wrap.isEmpty() && wrap != "none"_L1 && wrap != "run-through"_L1;
-    if (isBeside && (anchor == "paragraph"_L1 || anchor == "char"_L1)) {
+    const bool isKept = m_census.anchoredObjects.size() < MaximumAnchoredObjects;
+    if (isKept && isBeside && (anchor == "paragraph"_L1 || anchor == "char"_L1)) {
         m_census.anchoredObjects.append(
             {statedSize(attributes), wrap == "parallel"_L1 || wrap == "dynamic"_L1});
     }

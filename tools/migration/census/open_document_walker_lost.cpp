@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 void OpenDocumentWalker::addLost(CountedObject object, const std::optional<QRectF>& box)
 {
     // A place on a further page is not one on the label.
-    if (object.lost == LossKind::FurtherPage) {
+    if (m_pages > 1) {
         object.page = m_pages;
     } else {
         object.place = box;
@@ -20,6 +20,9 @@ void OpenDocumentWalker::addLost(CountedObject object, const std::optional<QRect
 // A lost object, or an element whose objects are all lost: the first reason holds for all of them.
 void OpenDocumentWalker::openLost(LossKind kind, const QString& name, const Attributes& attributes)
 {
+    const bool isScene = name == "dr3d:scene"_L1;
+    // Wherever it is: nothing imports it.
+    kind = isScene ? LossKind::ThreeDScene : kind;
     const DrawingElement* element = drawingElement(name);
     const qsizetype appearance = element != nullptr ? addAppearance(name, attributes) : -1;
     if (element != nullptr) {
@@ -27,7 +30,7 @@ void OpenDocumentWalker::openLost(LossKind kind, const QString& name, const Attr
                 m_box);
         m_census.detail(kind, kind == LossKind::GroupedObject ? QString() : name);
     }
-    if (name == "dr3d:scene"_L1) {
+    if (isScene) {
         return push(Spot::Ignored);
     }
     push(Spot::Lost);
@@ -58,6 +61,10 @@ void OpenDocumentWalker::openInLost(const QString& name, const Attributes& attri
     const bool isText = !isNote && (isParagraph(name) || isInParagraph);
     push(isText ? Spot::LostParagraph : Spot::Lost);
     m_places.back().lost = kind;
+    m_places.back().isVariable = name == "text:variable-get"_L1;
+    if (name == "text:note-body"_L1) {
+        takeText(u" "); // after its number
+    }
 }
 
 // A part of a text that is left out.

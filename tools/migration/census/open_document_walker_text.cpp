@@ -151,6 +151,11 @@ void OpenDocumentWalker::openInShapeRun(const QString& name, const Attributes& a
 
 void OpenDocumentWalker::text(QStringView characters)
 {
+    // Office programs show a variable as it was set, whatever the file contains.
+    if (m_places.back().isVariable) {
+        takeText(QString(VariableText));
+        return;
+    }
     // Of a page's number, office programs write a sign instead of the number that they show.
     if (m_pages > 0 && characters == u"<number>") {
         takeText(QString::number(m_pages));

@@ -1,12 +1,23 @@
 #include "migration/losses/compared_text.h"
 
+#include "migration/model/appearance.h"
+
 #include <QStringList>
+
+#include <algorithm>
 
 namespace migration {
 
 QString squeezed(const QString& text)
 {
     return text.simplified().remove(u' ');
+}
+
+bool isIn(const QString& text, const QString& shown)
+{
+    const QStringList parts = text.split(VariableText, Qt::SkipEmptyParts);
+    return std::all_of(parts.begin(), parts.end(),
+                       [&shown](const QString& part) { return shown.contains(part); });
 }
 
 QString canonical(const QString& text)

@@ -259,6 +259,9 @@ void Matcher::matchTexts()
         const QString key = squeezed(text.text);
         qsizetype at = others.indexOf(key, from);
         at = at < 0 ? others.indexOf(key) : at;
+        if (key.contains(VariableText)) {
+            return isIn(key, others);
+        }
         from = at < 0 ? from : at + key.size();
         if (at >= 0) {
             m_matching.parts.append(text.appearance);

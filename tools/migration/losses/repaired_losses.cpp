@@ -140,7 +140,8 @@ void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const Log
     FileReport page;
     compare(repaired, label, log, page);
     m_texts.addPage(label);
-    m_anchoredItems.append(label.anchoredItems);
+    m_anchoredItems.append(
+        label.anchoredItems.mid(0, MaximumAnchoredItems - m_anchoredItems.size()));
     m_boxes += std::count_if(label.items.begin(), label.items.end(), [](const ItemFacts& item) {
         return item.objectClass == ObjectClass::Shape && item.penWidth;
     });
@@ -174,7 +175,8 @@ void RepairedLosses::addPagesLeftOut(QList<Finding>& lost) const
     const qint64 objects =
         texts + std::count_if(m_original.objects.begin(), m_original.objects.end(),
                               [this](const CountedObject& object) {
-                                  return m_pagesLeftOut.contains(object.page);
+                                  return object.lost == LossKind::FurtherPage &&
+                                         m_pagesLeftOut.contains(object.page);
                               });
     QStringList ranges = m_pageRanges.mid(0, Tally::MaximumDetails);
     // Pages of a text that are full would add further ones.

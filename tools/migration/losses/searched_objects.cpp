@@ -42,7 +42,7 @@ void SearchedObjects::addPage(const LabelFacts& label)
     m_missing.removeIf([&](qsizetype index) {
         const qsizetype appearance = m_document.objects.at(index).appearance;
         const QString text = squeezed(m_document.appearances.at(appearance).text);
-        return !text.isEmpty() && shown.contains(text);
+        return !text.isEmpty() && isIn(text, shown);
     });
 }
 

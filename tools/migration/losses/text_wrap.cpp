@@ -64,7 +64,7 @@ QList<AnchoredItem> anchoredItems(const Census& document, const QList<DrawnText>
 {
     QList<AnchoredItem> found;
     for (const ItemFacts& item : label.items) {
-        if (!isCandidate(item, document)) {
+        if (found.size() == MaximumAnchoredItems || !isCandidate(item, document)) {
             continue;
         }
         const QRectF box = item.outline.boundingRect();

@@ -6,6 +6,9 @@
 
 namespace migration {
 
+/// Items of all labels that are compared with anchored objects.
+inline constexpr qsizetype MaximumAnchoredItems = 1'000;
+
 /// Finds the items of one label of anchored objects of its document, and the sides on
 /// which text runs beside them.
 [[nodiscard]] QList<AnchoredItem>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QChar>
 #include <QColor>
 #include <QPolygonF>
 #include <QSizeF>
@@ -9,6 +10,9 @@
 #include <optional>
 
 namespace migration {
+
+/// In a text: the value of a variable.
+inline constexpr QChar VariableText = QChar::ObjectReplacementCharacter;
 
 /// What a document shows of an object, to compare with the label. Lengths are in points.
 struct Appearance
