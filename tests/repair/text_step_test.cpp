@@ -3,6 +3,8 @@
 #include "tests/repair/documents.h"
 
 #include "repair/lengths.h"
+#include "repair/list_labels.h"
+#include "repair/numbering.h"
 #include "repair/text_step.h"
 
 #include <gtest/gtest.h>
@@ -19,10 +21,17 @@ struct Rewritten
     QString text;
 };
 
-Rewritten rewritten(const QByteArray& text, const QByteArray& styles = {})
+TextCounts simplified(Document& document)
 {
-    Document document = drawing("<draw:rect>" + text + "</draw:rect>", styles);
-    const TextCounts counts = simplifyTexts(document);
+    writeLabels(document.table(), outlineStyle(document.table()), *document.content);
+    return simplifyTexts(document);
+}
+
+Rewritten rewritten(const QByteArray& text, const QByteArray& styles = {},
+                    const QByteArray& common = {})
+{
+    Document document = drawing("<draw:rect>" + text + "</draw:rect>", styles, common);
+    const TextCounts counts = simplified(document);
     QString result;
     for (const auto& paragraph : object(document, u"draw:rect"_s).children) {
         for (const auto& span : paragraph->children) {
@@ -91,6 +100,99 @@ TEST(Texts, NumberListsAndMarkTheirItems)
     EXPECT_EQ(text.counts.lists, 2);
 }
 
+namespace {
+
+const QByteArray NumberedLevels =
+    "<text:list-style style:name=\"N\"><text:list-level-style-number text:level=\"1\" "
+    "style:num-format=\"1\" style:num-suffix=\".\" text:start-value=\"3\"/>"
+    "<text:list-level-style-number text:level=\"2\" style:num-format=\"a\" "
+    "text:display-levels=\"2\"/></text:list-style>";
+
+const QByteArray Outline =
+    "<text:outline-style style:name=\"Outline\"><text:outline-level-style text:level=\"1\" "
+    "style:num-format=\"1\"/><text:outline-level-style text:level=\"2\" style:num-format=\"1\" "
+    "text:display-levels=\"2\"><style:list-level-properties "
+    "text:list-level-position-and-space-mode=\"label-alignment\"><style:list-level-label-alignment "
+    "text:label-followed-by=\"space\"/></style:list-level-properties></text:outline-level-style>"
+    "<text:outline-level-style text:level=\"3\" style:num-format=\"\"/></text:outline-style>"
+    "<style:style style:name=\"Plain\" style:family=\"paragraph\" style:list-style-name=\"\"/>"
+    "<style:style style:name=\"Child\" style:family=\"paragraph\" "
+    "style:parent-style-name=\"Plain\"/>";
+
+QByteArray heading(int level, const QByteArray& text, const QByteArray& attributes = {})
+{
+    return "<text:h text:outline-level=\"" + QByteArray::number(level) + "\" " + attributes + '>' +
+           text + "</text:h>";
+}
+
+QByteArray listOf(const QByteArray& items, const QByteArray& attributes = {})
+{
+    return "<text:list text:style-name=\"N\" " + attributes + '>' + items + "</text:list>";
+}
+
+QByteArray itemOf(const QByteArray& text, const QByteArray& inside = {})
+{
+    return "<text:list-item><text:p>" + text + "</text:p>" + inside + "</text:list-item>";
+}
+
+} // namespace
+
+TEST(Numbering, ShowsTheLevelsAbove)
+{
+    const QByteArray list =
+        listOf(itemOf("x", listOf(itemOf("p") + itemOf("q"))) + itemOf("y", listOf(itemOf("r"))));
+    EXPECT_EQ(rewritten(list, NumberedLevels).text,
+              "[3.  ][x]/[3.a  ][p]/[3.b  ][q]/[4.  ][y]/[4.a  ][r]/"_L1);
+}
+
+TEST(Numbering, ContinuesTheListBeforeIfAsked)
+{
+    const QByteArray first = listOf(itemOf("x"));
+    EXPECT_EQ(rewritten(first + first, NumberedLevels).text, "[3.  ][x]/[3.  ][x]/"_L1);
+    EXPECT_EQ(
+        rewritten(first + listOf(itemOf("y"), "text:continue-numbering=\"true\""), NumberedLevels)
+            .text,
+        "[3.  ][x]/[4.  ][y]/"_L1);
+    EXPECT_EQ(rewritten(first + listOf("<text:list-item text:start-value=\"8\"><text:p>y</text:p>"
+                                       "</text:list-item>" +
+                                       itemOf("z")),
+                        NumberedLevels)
+                  .text,
+              "[3.  ][x]/[8.  ][y]/[9.  ][z]/"_L1);
+}
+
+TEST(Numbering, DoesNotCountHeadersOfListsAndDeletedText)
+{
+    EXPECT_EQ(
+        rewritten(
+            "<text:tracked-changes>" + listOf(itemOf("gone")) + "</text:tracked-changes>" +
+                listOf("<text:list-header><text:p>h</text:p></text:list-header>" + itemOf("x")),
+            NumberedLevels)
+            .text,
+        "[h]/[3.  ][x]/"_L1);
+}
+
+TEST(Numbering, OfHeadingsFollowsTheOutline)
+{
+    EXPECT_EQ(rewritten(heading(1, "A") + heading(2, "B") + heading(2, "C") + heading(1, "D") +
+                            heading(2, "E") + heading(3, "F"),
+                        {}, Outline)
+                  .text,
+              "[1  ][A]/[1.1 ][B]/[1.2 ][C]/[2  ][D]/[2.1 ][E]/[F]/"_L1);
+}
+
+TEST(Numbering, LeavesOutHeadingsWithoutANumber)
+{
+    EXPECT_EQ(rewritten(heading(1, "A") + heading(1, "B", "text:style-name=\"Child\"") +
+                            heading(1, "C", "text:is-list-header=\"true\"") + heading(1, "D") +
+                            heading(1, "E", "text:restart-numbering=\"true\"") +
+                            heading(2000000000, "F"),
+                        {}, Outline)
+                  .text,
+              "[1  ][A]/[B]/[C]/[2  ][D]/[1  ][E]/[F]/"_L1);
+    EXPECT_EQ(rewritten(heading(1, "A", "labelport:label=\"9\"")).text, "[A]/"_L1);
+}
+
 TEST(Texts, HaveBulletsThatEveryFontHas)
 {
     const auto bulletOf = [](const QByteArray& character) {
@@ -116,7 +218,7 @@ TEST(Texts, DoNotUnderlineBullets)
                 "style:text-underline-style=\"solid\"/></style:style>"
                 "<text:list-style style:name=\"L\"><text:list-level-style-bullet text:level=\"1\" "
                 "text:bullet-char=\"-\"/></text:list-style>");
-    (void)simplifyTexts(document);
+    (void)simplified(document);
     const Node& paragraph = *object(document, u"draw:rect"_s).firstElement();
     ASSERT_EQ(paragraph.children.size(), 2U);
     const auto underline = [&document](const Node& span) {
@@ -145,7 +247,7 @@ TEST(Texts, OfListsHaveTheirOwnIndentIfTheyStateOne)
                         own + "/></style:style>",
                     "<style:style style:name=\"Q\" style:family=\"paragraph\" " + parent +
                         "</style:style>");
-        (void)simplifyTexts(document);
+        (void)simplified(document);
         const QString style =
             object(document, u"draw:rect"_s).firstElement()->attribute(u"text:style-name");
         const Properties shown = document.table().resolved(u"paragraph"_s, style, false).paragraph;
@@ -211,7 +313,7 @@ TEST(Texts, GetTheFontsOfTheirShape)
         "</draw:frame>",
         "<style:style style:name=\"g\" style:family=\"graphic\"><style:text-properties "
         "fo:font-size=\"7pt\" fo:color=\"#112233\"/></style:style>");
-    (void)simplifyTexts(document);
+    (void)simplified(document);
     const Node& span = *object(document, u"draw:frame"_s)
                             .child(u"draw:text-box")
                             ->child(u"text:p")

@@ -3,6 +3,7 @@
 #include "repair/embedded_sheet.h"
 #include "repair/embedded_styles.h"
 #include "repair/lengths.h"
+#include "repair/numbering.h"
 #include "repair/shape_place.h"
 #include "repair/shape_steps.h"
 #include "repair/table_rows.h"
@@ -158,6 +159,7 @@ std::unique_ptr<Node> Unpacker::unpacked(Node& frame)
     const auto styles = readTree(m_document, folder + "/styles.xml"_L1);
     const QString prefix = m_kind == EmbeddedKind::Chart ? u"chart%1-"_s : u"object%1-"_s;
     importStyles(m_document, styles.get(), *content, prefix.arg(m_read));
+    writeLabels(m_document.table(), nullptr, *inside);
     return shownIn(frame, *inside, folder);
 }
 

@@ -22,6 +22,12 @@ constexpr int MeasuredLabelSize = 100;
 constexpr double GapBlanks = 40.0;
 constexpr double DefaultLabelSize = 12.0; // points
 
+const Node* alignmentIn(const Node& level)
+{
+    const Node* const properties = level.child(u"style:list-level-properties");
+    return properties != nullptr ? properties->child(u"style:list-level-label-alignment") : nullptr;
+}
+
 } // namespace
 
 QString bulletText(const QString& character)
@@ -68,9 +74,21 @@ QString numberText(int number, const QString& format)
     return format.isEmpty() ? QString() : QString::number(number);
 }
 
-const Node* levelStyle(const StyleTable& table, const QString& list, int level)
+// Headings may be written as items of a list whose style is that of the outline.
+const Node* listStyle(const StyleTable& table, const QString& name)
 {
-    const Node* const style = table.named(u"text:list-style"_s, list);
+    const Node* const style = table.named(u"text:list-style"_s, name);
+    return style != nullptr ? style : table.named(u"text:outline-style"_s, name);
+}
+
+const Node* outlineStyle(const StyleTable& table)
+{
+    const Node* const style = table.named(u"text:outline-style"_s, u"Outline"_s);
+    return style != nullptr ? style : table.named(u"text:outline-style"_s, QString());
+}
+
+const Node* levelIn(const Node* style, int level)
+{
     if (style == nullptr) {
         return nullptr;
     }
@@ -87,7 +105,7 @@ Indent indentOf(const Node& level)
     if (properties == nullptr) {
         return {};
     }
-    if (const Node* const aligned = properties->child(u"style:list-level-label-alignment")) {
+    if (const Node* const aligned = alignmentIn(level)) {
         return {pointsOf(*aligned, u"fo:margin-left"), pointsOf(*aligned, u"fo:text-indent"), true};
     }
     const double width = pointsOf(*properties, u"text:min-label-width");
@@ -105,8 +123,15 @@ StyleProperties labelStyle(StyleProperties style)
     return style;
 }
 
-QString labelGap(const StyleTable& table, const Properties& text, const QString& label, double room)
+QString labelGap(const StyleTable& table, const Node* level, const Properties& text,
+                 const QString& label, double room)
 {
+    const Node* const aligned = level != nullptr ? alignmentIn(*level) : nullptr;
+    const QString end =
+        aligned != nullptr ? aligned->attribute(u"text:label-followed-by") : QString();
+    if (end == "nothing"_L1 || end == "space"_L1) {
+        return end == "space"_L1 ? u" "_s : QString();
+    }
     QFont font(table.fontFamily(text.value(u"style:font-name"_s)));
     font.setPixelSize(MeasuredLabelSize);
     font.setBold(text.value(u"fo:font-weight"_s) == "bold"_L1);

@@ -23,17 +23,21 @@ struct Indent
 
 /// A list item's number in the format of a list style: digits, letters or Roman numerals.
 [[nodiscard]] QString numberText(int number, const QString& format);
-/// The style of a list's level: bullet, number or picture; null if it is unknown.
-[[nodiscard]] const Node* levelStyle(const StyleTable& table, const QString& list, int level);
+/// The style of a list, and that of headings; null if it is unknown.
+[[nodiscard]] const Node* listStyle(const StyleTable& table, const QString& name);
+[[nodiscard]] const Node* outlineStyle(const StyleTable& table);
+/// A level of such a style: bullet, number or picture; null if it is unknown.
+[[nodiscard]] const Node* levelIn(const Node* style, int level);
 [[nodiscard]] Indent indentOf(const Node& level);
 
 /// The style of a bullet or number, which is not underlined with its paragraph.
 [[nodiscard]] StyleProperties labelStyle(StyleProperties style);
-/// Blanks between a bullet or number and its text, which begins where the other lines do. Tabs
-/// would jump to the layout's own stops.
+/// Blanks between a bullet or number and its text, which begins where the other lines do if the
+/// level states nothing else. Tabs would jump to the layout's own stops.
 ///
+/// @param level may be null
 /// @param room of both, in points
-[[nodiscard]] QString labelGap(const StyleTable& table, const Properties& text,
+[[nodiscard]] QString labelGap(const StyleTable& table, const Node* level, const Properties& text,
                                const QString& label, double room);
 
 } // namespace repair

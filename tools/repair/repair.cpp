@@ -4,6 +4,8 @@
 #include "repair/document.h"
 #include "repair/flow_step.h"
 #include "repair/lengths.h"
+#include "repair/list_labels.h"
+#include "repair/numbering.h"
 #include "repair/package.h"
 #include "repair/page_end.h"
 #include "repair/page_steps.h"
@@ -37,6 +39,13 @@ int convertAllLengths(Document& document)
     return count;
 }
 
+int labelParagraphs(Document& document)
+{
+    const StyleTable& table = document.table();
+    writeLabels(table, nullptr, *document.styles);
+    return writeLabels(table, outlineStyle(table), *document.content);
+}
+
 /// A repair before the page is known.
 struct Preparation
 {
@@ -49,6 +58,7 @@ constexpr Preparation Preparations[] = {
     {"page-layout-chosen"_L1, QT_TRANSLATE_NOOP("repair", "Page size taken from the master page")},
     {"controls-replaced"_L1,
      QT_TRANSLATE_N_NOOP("repair", "%n form control(s) replaced by boxes with their text")},
+    {"headings-numbered"_L1, QT_TRANSLATE_N_NOOP("repair", "%n heading(s) numbered")},
     {"text-laid-out"_L1,
      QT_TRANSLATE_NOOP("repair", "Text laid out with its margins, spacing, pictures and tables")},
     // Made by who imports the pages one by one.
@@ -144,6 +154,7 @@ DocumentRepair::DocumentRepair(const QString& fileName)
     m_document = std::make_unique<Document>(std::move(*document));
     note(m_repairs, "lengths-converted"_L1, convertAllLengths(*m_document));
     note(m_repairs, "controls-replaced"_L1, showControls(*m_document));
+    note(m_repairs, "headings-numbered"_L1, labelParagraphs(*m_document));
     if (m_document->isText()) {
         note(m_repairs, "page-layout-chosen"_L1, usePageLayout(*m_document));
         note(m_repairs, "text-laid-out"_L1, 1);

@@ -89,7 +89,7 @@ void StyleProperties::overlay(const StyleProperties& other)
     } else if (other.text.contains(u"fo:color"_s)) {
         text.remove(AutomaticColor);
     }
-    if (!other.list.isEmpty()) {
+    if (other.list) {
         list = other.list;
     }
     if (other.masterPage) {
@@ -125,7 +125,9 @@ StyleProperties StyleTable::ownProperties(const Node& style)
     readProperties(style.child(u"style:graphic-properties"), own.graphic);
     readProperties(style.child(u"style:paragraph-properties"), own.paragraph);
     readProperties(style.child(u"style:text-properties"), own.text);
-    own.list = style.attribute(u"style:list-style-name");
+    if (style.hasAttribute(u"style:list-style-name"_s)) {
+        own.list = style.attribute(u"style:list-style-name");
+    }
     if (style.hasAttribute(u"style:master-page-name"_s)) {
         own.masterPage = style.attribute(u"style:master-page-name");
     }
@@ -191,7 +193,7 @@ Properties StyleTable::indentOverList(const QString& paragraphStyle) const
                 indent.insert(name, found->own.paragraph.value(name));
             }
         }
-        if (!found->own.list.isEmpty()) {
+        if (found->own.list && !found->own.list->isEmpty()) {
             return indent;
         }
         ofParagraph = found->isAutomatic ? indent : ofParagraph;

@@ -18,8 +18,8 @@ struct StyleProperties
     Properties graphic;
     Properties paragraph;
     Properties text;
-    /// The list of a paragraph.
-    QString list;
+    /// The list of a paragraph. Empty takes back that of a parent.
+    std::optional<QString> list;
     /// The master page of the page that begins with the paragraph or table. Empty takes back that
     /// of a parent.
     std::optional<QString> masterPage;

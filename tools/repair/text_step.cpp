@@ -4,6 +4,7 @@
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/list_labels.h"
+#include "repair/numbering.h"
 #include "repair/page_end.h"
 
 #include <algorithm>
@@ -40,14 +41,12 @@ private:
     {
         QString style;
         int level = 0;
-        int number = 0;
-        bool isNewItem = false;
     };
 
-    void readBlocks(const Node& parent, List* list, int depth);
+    void readBlocks(const Node& parent, const List* list, int depth);
     void readList(const Node& element, const List* outer, int depth);
-    void writeParagraph(const Node& paragraph, List* list);
-    void addLabel(List& list, const QString& paragraphStyle, StyleProperties& style,
+    void writeParagraph(const Node& paragraph, const List* list);
+    void addLabel(const Node& paragraph, const Node* level, StyleProperties& style,
                   std::vector<Run>& runs);
     void writeIndent(const Node* level, const QString& paragraphStyle, bool isFirst,
                      Properties& paragraph);
@@ -80,7 +79,7 @@ void BlockWriter::rewrite(Node& container, const StyleProperties& base)
     std::move(others.begin(), others.end(), std::back_inserter(container.children));
 }
 
-void BlockWriter::readBlocks(const Node& parent, List* list, int depth)
+void BlockWriter::readBlocks(const Node& parent, const List* list, int depth)
 {
     for (const auto& child : parent.children) {
         if (depth > MaximumTextDepth || !child->name.startsWith("text:"_L1)) {
@@ -107,36 +106,23 @@ void BlockWriter::readList(const Node& element, const List* outer, int depth)
         list.style = outer->style;
     }
     for (const auto& item : element.children) {
-        if (item->is(u"text:list-item")) {
-            const int start = item->attribute(u"text:start-value").toInt();
-            list.number = start > 0 ? start : list.number + 1;
-            list.isNewItem = true;
-        }
         if (!item->isText()) {
             readBlocks(*item, &list, depth + 1);
         }
-        list.isNewItem = false;
     }
 }
 
-void BlockWriter::addLabel(List& list, const QString& paragraphStyle, StyleProperties& style,
+void BlockWriter::addLabel(const Node& paragraph, const Node* level, StyleProperties& style,
                            std::vector<Run>& runs)
 {
-    const Node* const level = levelStyle(m_document.table(), list.style, list.level);
-    QString label =
-        level == nullptr ? u"\u2022"_s : bulletText(level->attribute(u"text:bullet-char"));
-    if (level != nullptr && label.isEmpty()) {
-        label = level->attribute(u"style:num-prefix") +
-                numberText(list.number, level->attribute(u"style:num-format")) +
-                level->attribute(u"style:num-suffix");
-    }
-    writeIndent(level, paragraphStyle, list.isNewItem, style.paragraph);
-    if (list.isNewItem && !label.isEmpty()) {
-        list.isNewItem = false;
+    const QString label = paragraph.attribute(LabelAttribute);
+    writeIndent(level, paragraph.attribute(u"text:style-name"),
+                paragraph.hasAttribute(LabelAttribute), style.paragraph);
+    if (!label.isEmpty()) {
         const StyleProperties shown = labelStyle(style);
         const double room = -toPoints(style.paragraph.value(u"fo:text-indent"_s)).value_or(0.0);
         runs.insert(runs.begin(),
-                    {shown, label + labelGap(m_document.table(), shown.text, label, room)});
+                    {shown, label + labelGap(m_document.table(), level, shown.text, label, room)});
     }
 }
 
@@ -171,14 +157,18 @@ void writeKeeps(const Properties& style, Node& paragraph)
     }
 }
 
-void BlockWriter::writeParagraph(const Node& paragraph, List* list)
+void BlockWriter::writeParagraph(const Node& paragraph, const List* list)
 {
     StyleProperties style = m_base;
     style.overlay(m_document.table().resolved(
         u"paragraph"_s, paragraph.attribute(u"text:style-name"), m_document.wasText));
     std::vector<Run> runs = m_reader.read(paragraph, style);
+    const StyleTable& table = m_document.table();
     if (list != nullptr) {
-        addLabel(*list, paragraph.attribute(u"text:style-name"), style, runs);
+        addLabel(paragraph, levelIn(listStyle(table, list->style), list->level), style, runs);
+    } else if (paragraph.hasAttribute(LabelAttribute)) {
+        const int level = paragraph.attribute(u"text:outline-level").toInt();
+        addLabel(paragraph, levelIn(outlineStyle(table), std::max(level, 1)), style, runs);
     }
     StyleProperties shown;
     for (const QLatin1StringView name : ParagraphNames) {
