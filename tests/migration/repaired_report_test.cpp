@@ -350,23 +350,3 @@ TEST(RepairedReport, DepthOfAShapeIsAnEffect)
     EXPECT_TRUE(isDropped("true"));
     EXPECT_FALSE(isDropped("false"));
 }
-
-TEST(RepairedReport, ListsThatContinueHaveTheirNumbers)
-{
-    const auto count = [](const QByteArray& continued, const QByteArray& second) {
-        const FileReport report = repairedReport(odt(
-            "<text:list text:style-name=\"L\"><text:list-item><text:p>First step</text:p>"
-            "</text:list-item></text:list><text:p>Between</text:p>"
-            "<text:list text:style-name=\"L\"" +
-                continued + "><text:list-item" + second +
-                "><text:p>Second step</text:p></text:list-item></text:list>",
-            {.automaticStyles = "<text:list-style style:name=\"L\"><text:list-level-style-number "
-                                "text:level=\"1\" style:num-format=\"1\" style:num-suffix=\".\"/>"
-                                "</text:list-style>"}));
-        const Finding* const finding = findingOf(report, lossCode(LossKind::Numbering));
-        return finding != nullptr ? finding->details.join(u';') : QString();
-    };
-    EXPECT_EQ(count("", ""), u""_s);
-    EXPECT_EQ(count(" text:continue-numbering=\"true\"", " text:start-value=\"2\""), u""_s);
-    EXPECT_EQ(count(" text:continue-numbering=\"true\"", ""), u"1. Second step"_s);
-}

@@ -50,7 +50,6 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
     const std::optional<QRectF> box = boxOf(attributes);
     m_box = box ? box : m_places.back().box;
     openInTable(name, attributes);
-    openInList(name, attributes);
     openChild(name, attributes);
     m_places.back().box = m_box;
 }
@@ -175,7 +174,6 @@ void OpenDocumentWalker::close()
         m_places.push_back({});
     }
     closeTable();
-    closeList();
     Place& parent = m_places.back();
     switch (place.spot) {
     case Spot::Paragraph:
@@ -195,7 +193,6 @@ void OpenDocumentWalker::close()
             parent.hasText = parent.hasText || place.hasText;
             parent.text += place.text;
         } else if (place.hasText) {
-            noteItem(place.text);
             addLost({.objectClass = ObjectClass::Text,
                      .lost = place.lost,
                      .appearance = addTextAppearance({}, place.text)},

@@ -4,7 +4,6 @@
 #include "migration/census/open_document_styles.h"
 #include "migration/model/census.h"
 
-#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringView>
@@ -128,9 +127,6 @@ private:
     void startLine();
     void openInTable(const QString& name, const Attributes& attributes);
     void closeTable();
-    void openInList(const QString& name, const Attributes& attributes);
-    void closeList();
-    void noteItem(const QString& text);
     void noteAnchor(const Attributes& attributes);
     [[nodiscard]] qsizetype addAppearance(const QString& name, const Attributes& attributes);
     [[nodiscard]] qsizetype addTextAppearance(const Place& look, QString text);
@@ -149,19 +145,7 @@ private:
         TableBorders borders;
     };
     std::vector<OpenTable> m_tables;
-    /// The outermost list that is open, and the number of places outside it.
-    struct OpenList
-    {
-        std::size_t depth = 0;
-        QString style;
-        QString id;
-        int number = 0;
-        bool continues = false;
-        bool isNewItem = false;
-    };
-    std::optional<OpenList> m_list;
-    QHash<QString, int> m_lastNumbers; ///< of lists, by their styles and identifiers
-    std::optional<QRectF> m_box;       ///< of the element that is being opened
+    std::optional<QRectF> m_box; ///< of the element that is being opened
     QString m_masterPage;
     bool m_hasRunningText = false;
     int m_pages = 0;

@@ -94,44 +94,6 @@ void OpenDocumentWalker::noteSection(const QString& name, const Attributes& attr
     }
 }
 
-void OpenDocumentWalker::openInList(const QString& name, const Attributes& attributes)
-{
-    if (name == "text:list"_L1 && !m_list) {
-        m_list = OpenList{.depth = m_places.size(),
-                          .style = attributes.value("text:style-name"_L1).toString(),
-                          .id = attributes.value("xml:id"_L1).toString()};
-        const QString earlier = attributes.value("text:continue-list"_L1).toString();
-        m_list->continues =
-            !earlier.isEmpty() || attributes.value("text:continue-numbering"_L1) == "true"_L1;
-        m_list->number = m_list->continues
-                             ? m_lastNumbers.value(earlier.isEmpty() ? m_list->style : earlier)
-                             : 0;
-    } else if (name == "text:list-item"_L1 && m_list && m_places.size() == m_list->depth + 1) {
-        const int start = attributes.value("text:start-value"_L1).toInt();
-        m_list->number = start > 0 ? start : m_list->number + 1;
-        m_list->isNewItem = true;
-    }
-}
-
-void OpenDocumentWalker::closeList()
-{
-    if (m_list && m_places.size() <= m_list->depth) {
-        m_lastNumbers.insert(m_list->style, m_list->number);
-        if (!m_list->id.isEmpty()) {
-            m_lastNumbers.insert(m_list->id, m_list->number);
-        }
-        m_list.reset();
-    }
-}
-
-void OpenDocumentWalker::noteItem(const QString& text)
-{
-    if (m_list && m_list->isNewItem) {
-        m_census.numberedItems.append({text.simplified(), m_list->number, m_list->continues});
-        m_list->isNewItem = false;
-    }
-}
-
 // Labels have tab stops at equal distances. Counts a paragraph once.
 void OpenDocumentWalker::noteTab(const QString& name)
 {

@@ -278,7 +278,6 @@ void checkLabel(const Census& original, const workbench::Canvas& canvas, const R
     checkRendering(canvas, matching, label);
     checkNumbers(original, label);
     if (reading.isRepaired) {
-        checkListNumbers(original, label);
         label.anchoredItems = anchoredItems(original, texts, label);
         label.missingTexts = matching.missingTexts; // they may be on another page
         return;

@@ -7,7 +7,5 @@ namespace migration {
 
 /// Finds headings that the document numbers, and the label does not.
 void checkNumbers(const Census& document, LabelFacts& label);
-/// Finds items of lists that have another number than in the document.
-void checkListNumbers(const Census& document, LabelFacts& label);
 
 } // namespace migration

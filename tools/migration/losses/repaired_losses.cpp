@@ -256,8 +256,7 @@ void RepairedLosses::fill(FileReport& report) const
     }
     // The same words may be on other pages.
     if (Finding* const numbers = findingOf(changed, lossCode(LossKind::Numbering))) {
-        numbers->count = std::min<qint64>(numbers->count, m_original.numberedHeadings.size() +
-                                                              m_original.numberedItems.size());
+        numbers->count = std::min<qint64>(numbers->count, m_original.numberedHeadings.size());
     }
     report.changed = remaining(original.changed, changed);
     report.complete = m_pages.complete;

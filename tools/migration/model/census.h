@@ -89,14 +89,6 @@ struct AnchoredObject
     bool isBetweenText = false; ///< the text runs on both of its sides
 };
 
-/// The first paragraph of an item of a list.
-struct NumberedItem
-{
-    QString text;
-    int number = 0;
-    bool continues = false; ///< the numbers of an earlier list
-};
-
 /// The content of a file.
 struct Census
 {
@@ -113,8 +105,6 @@ struct Census
     QStringList paragraphs;
     /// Headings that the document shows with a number.
     QStringList numberedHeadings;
-    /// The items of all lists that are not in another one, whether they show their numbers or not.
-    QList<NumberedItem> numberedItems;
     /// Cells of tables with a border, and those of them that have one on some sides only.
     qint64 borderedCells = 0;
     qint64 partlyBorderedCells = 0;
