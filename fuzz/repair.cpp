@@ -5,6 +5,13 @@
 #include "fuzz/package_bytes.h"
 #include "repair/repaired_import.h"
 
+namespace {
+
+// Further ones take time, and run through the same code.
+constexpr int MostPages = 6;
+
+} // namespace
+
 void fuzzOneInput(const QByteArray& input)
 {
     const qsizetype border = input.indexOf('\0');
@@ -17,7 +24,14 @@ void fuzzOneInput(const QByteArray& input)
         !workbench::importLabel(original.path(), ReaderKind::OpenDocument).isImported()) {
         return;
     }
-    if (!repair::importRepaired(original.path()).isRepaired()) {
+    const repair::RepairedImport import = repair::importRepaired(original.path());
+    if (!import.isRepaired()) {
         qFatal("the reader accepts a document, but not the repaired one");
+    }
+    // What does not fit on a page is on the next ones.
+    for (int page = 2;
+         import.document != nullptr && page <= MostPages && page <= import.document->pageCount();
+         ++page) {
+        (void)repair::importFurtherPage(*import.document, page);
     }
 }
