@@ -133,19 +133,23 @@ TEST(RepairedReport, TextsOfTablesHaveTheColorsOfTheDocument)
 TEST(RepairedReport, TextOnOneSideOfAnObjectIsAChange)
 {
     const auto count = [](const QByteArray& wrap, const QByteArray& x) {
+        const QByteArray stated = wrap.isEmpty() ? wrap : "style:wrap=\"" + wrap + '"';
         const FileReport report = repairedReport(
             odt("<text:p><draw:rect text:anchor-type=\"paragraph\" draw:style-name=\"W\" svg:x=\"" +
                     x + "\" svg:y=\"0in\" svg:width=\"2in\" svg:height=\"1in\"/>" +
                     QByteArray("Words beside the object. ").repeated(30) + "</text:p>",
                 {.pageLayout = "fo:page-width=\"8in\" fo:page-height=\"6in\"",
                  .automaticStyles = "<style:style style:name=\"W\" style:family=\"graphic\">"
-                                    "<style:graphic-properties style:wrap=\"" +
-                                    wrap + "\"/></style:style>"}));
+                                    "<style:graphic-properties " +
+                                    stated + "/></style:style>"}));
         const Finding* const finding = findingOf(report, lossCode(LossKind::TextWrap));
         return finding != nullptr ? finding->count : 0;
     };
+    EXPECT_EQ(count("", "3in"), 1);
     EXPECT_EQ(count("parallel", "3in"), 1);
     EXPECT_EQ(count("dynamic", "3in"), 1);
+    EXPECT_EQ(count("parallel", "0.4in"), 1) << "a narrow column on the left";
+    EXPECT_EQ(count("parallel", "0.2in"), 0) << "too narrow for words";
     EXPECT_EQ(count("right", "3in"), 0);
     EXPECT_EQ(count("run-through", "3in"), 0);
     EXPECT_EQ(count("parallel", "0in"), 0) << "there is no room on the left";

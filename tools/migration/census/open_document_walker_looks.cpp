@@ -23,16 +23,18 @@ QSizeF statedSize(const QXmlStreamAttributes& attributes)
 
 } // namespace
 
-// Objects of a page, and objects like letters, have no text beside them.
+// Objects of a page, and objects like letters, have no text beside them. Without a statement, the
+// text runs on both sides.
 void OpenDocumentWalker::noteAnchor(const Attributes& attributes)
 {
     const QStringView anchor = attributes.value("text:anchor-type"_L1);
     const QString wrap = m_styles.wrapOf(attributes.value("draw:style-name"_L1).toString());
-    const bool isBeside = !wrap.isEmpty() && wrap != "none"_L1 && wrap != "run-through"_L1;
+    const bool isBeside = wrap != "none"_L1 && wrap != "run-through"_L1;
     const bool isKept = m_census.anchoredObjects.size() < MaximumAnchoredObjects;
     if (isKept && isBeside && (anchor == "paragraph"_L1 || anchor == "char"_L1)) {
-        m_census.anchoredObjects.append(
-            {statedSize(attributes), wrap == "parallel"_L1 || wrap == "dynamic"_L1});
+        m_census.anchoredObjects.append({statedSize(attributes), wrap.isEmpty() ||
+                                                                     wrap == "parallel"_L1 ||
+                                                                     wrap == "dynamic"_L1});
     }
 }
 

@@ -11,8 +11,10 @@ namespace {
 
 // Points: sizes that differ less are the same.
 constexpr double SameSize = workbench::PointsPerMillimeter;
-// Points: narrower columns beside an object may stay empty.
+// Points: lines that end so far before an object may be short ones.
 constexpr double NarrowColumn = 20.0 * workbench::PointsPerMillimeter;
+// Points: narrower columns beside an object stay empty.
+constexpr double NarrowestColumn = 8.0 * workbench::PointsPerMillimeter;
 // Points: text may reach so far into an object.
 constexpr double Touching = 2.0;
 
@@ -44,8 +46,8 @@ struct Sides
 void addLine(const QRectF& line, const QRectF& column, const QRectF& box, Sides& sides)
 {
     const bool isBeside = line.center().y() > box.top() && line.center().y() < box.bottom();
-    const bool isWide =
-        box.left() - column.left() >= NarrowColumn && column.right() - box.right() >= NarrowColumn;
+    const bool isWide = box.left() - column.left() >= NarrowestColumn &&
+                        column.right() - box.right() >= NarrowestColumn;
     if (!isBeside || !isWide) {
         return;
     }
