@@ -294,6 +294,23 @@ TEST(TextObjects, InGroupsKeepTheirPlaceInTheText)
     EXPECT_NEAR(boxes[0].top(), linesOf(*page.text(u"first"_s))[0].bottom(), 2.0);
 }
 
+TEST(TextObjects, InGroupsKeepTheirHeights)
+{
+    const auto box = [](const QByteArray& place) {
+        return "<draw:rect draw:style-name=\"W\" svg:width=\"1in\" svg:height=\"0.4in\" " + place +
+               "><text:p>words</text:p></draw:rect>";
+    };
+    const TextPage page("<text:p><draw:g text:anchor-type=\"paragraph\" draw:style-name=\"W\">" +
+                            box("svg:x=\"0.2in\" svg:y=\"0in\"") +
+                            box("svg:x=\"1.5in\" svg:y=\"1in\"") + "</draw:g>text</text:p>",
+                        graphicStyle("W", "style:wrap=\"none\" draw:fill=\"solid\""));
+    const QList<QRectF> boxes = page.boxes(KestTypes::Rectangle);
+    ASSERT_EQ(boxes.size(), 2);
+    EXPECT_NEAR(boxes[0].height(), 0.4 * Inch, 0.1);
+    EXPECT_NEAR(boxes[1].height(), 0.4 * Inch, 0.1);
+    EXPECT_NEAR(boxes[1].top(), boxes[0].top() + Inch, 0.1);
+}
+
 TEST(TextObjects, DrawnKeepTheirPlaceInTheText)
 {
     const TextPage page("<text:p>first</text:p><text:p><draw:polygon text:anchor-type=\"as-char\" "

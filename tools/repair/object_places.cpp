@@ -104,7 +104,7 @@ double Placer::contentHeight(const ObjectItems& items) const
     if (items.text != nullptr) {
         const double bottom = textBottom(items) + items.plan->space;
         const bool isText = items.plan->fillsRow || items.shape == nullptr;
-        return isText ? bottom : std::max(bottom, items.shape->contractItem()->getItemHeight());
+        return isText ? bottom : std::max(bottom, bottomOf(*items.shape));
     }
     if (items.plan->space > 0.0) {
         return items.plan->space;
@@ -129,9 +129,11 @@ void Placer::placeRow(const QList<ObjectItems>& row, double& y) const
             items.text->graphicsItem()->moveBy(0.0, room * items.plan->shareAbove);
         }
         moveItems(items, {0.0, top});
-        if (items.shape != nullptr && (items.plan->fillsRow || items.text != nullptr)) {
+        if (items.shape != nullptr && items.plan->fillsRow) {
             Item* const box = items.shape->contractItem();
             box->setItemSize({box->getItemWidth(), full - gap});
+        } else {
+            growWithText(items);
         }
     }
     y += height;
