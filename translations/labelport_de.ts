@@ -2149,20 +2149,44 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Transparente Füllungen und Linien wurden deckend.</translation>
     </message>
     <message>
-        <source>Effects of characters and paragraphs, such as shadow, outline, stretching or borders, were dropped.</source>
-        <translation>Effekte von Zeichen und Absätzen wie Schatten, Kontur, Dehnung oder Rahmen gingen verloren.</translation>
-    </message>
-    <message>
-        <source>Gradients and hatchings that fill objects were simplified.</source>
-        <translation>Verläufe und Schraffuren, die Objekte füllen, wurden vereinfacht.</translation>
-    </message>
-    <message>
         <source>Pictures and patterns that fill objects were replaced by a color.</source>
         <translation>Bilder und Muster, die Objekte füllen, wurden durch eine Farbe ersetzt.</translation>
     </message>
     <message>
         <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
         <translation>Schatten, Transparenz von Bildern, Zuschnitt und andere Effekte gingen verloren.</translation>
+    </message>
+    <message>
+        <source>Pages were left out, because the document has too many or they cannot be imported.</source>
+        <translation>Seiten wurden weggelassen, weil das Dokument zu viele hat oder sie nicht importiert werden können.</translation>
+    </message>
+    <message>
+        <source>Effects of characters and paragraphs, such as shadow, outline, stretching, borders, tab stops, line numbers and backgrounds of sections, were dropped.</source>
+        <translation>Effekte von Zeichen und Absätzen wie Schatten, Kontur, Dehnung, Rahmen, Tabulatoren, Zeilennummern und Hintergründe von Bereichen wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Texts along a curve became straight.</source>
+        <translation>Texte entlang einer Kurve wurden gerade.</translation>
+    </message>
+    <message>
+        <source>Texts run on one side of an object; in the document, they run on both.</source>
+        <translation>Texte laufen auf einer Seite eines Objekts; im Dokument laufen sie auf beiden.</translation>
+    </message>
+    <message>
+        <source>Numbers of headings were left out.</source>
+        <translation>Nummern von Überschriften wurden weggelassen.</translation>
+    </message>
+    <message>
+        <source>Add the numbers in labelport-workbench under Properties.</source>
+        <translation>Fügen Sie die Nummern in labelport-workbench unter „Eigenschaften“ hinzu.</translation>
+    </message>
+    <message>
+        <source>Cells of tables have borders on other sides than in the document.</source>
+        <translation>Zellen von Tabellen haben Rahmen auf anderen Seiten als im Dokument.</translation>
+    </message>
+    <message>
+        <source>Fills of objects, such as gradients and hatchings, were simplified or dropped.</source>
+        <translation>Füllungen von Objekten wie Verläufe und Schraffuren wurden vereinfacht oder weggelassen.</translation>
     </message>
 </context>
 <context>
@@ -2469,6 +2493,27 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>
             <numerusform>%n eingebettetes Dokument durch seinen Inhalt ersetzt</numerusform>
             <numerusform>%n eingebettete Dokumente durch ihren Inhalt ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form control(s) replaced by boxes with their text</source>
+        <translation>
+            <numerusform>%n Formularfeld durch einen Rahmen mit seinem Text ersetzt</numerusform>
+            <numerusform>%n Formularfelder durch Rahmen mit ihrem Text ersetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n heading(s) numbered</source>
+        <translation>
+            <numerusform>%n Überschrift nummeriert</numerusform>
+            <numerusform>%n Überschriften nummeriert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n chart(s) drawn again from their values</source>
+        <translation>
+            <numerusform>%n Diagramm aus seinen Werten neu gezeichnet</numerusform>
+            <numerusform>%n Diagramme aus ihren Werten neu gezeichnet</numerusform>
         </translation>
     </message>
 </context>

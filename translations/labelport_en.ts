@@ -211,6 +211,27 @@
             <numerusform>%n embedded documents replaced by their content</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n form control(s) replaced by boxes with their text</source>
+        <translation>
+            <numerusform>%n form control replaced by boxes with their text</numerusform>
+            <numerusform>%n form controls replaced by boxes with their text</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n heading(s) numbered</source>
+        <translation>
+            <numerusform>%n heading numbered</numerusform>
+            <numerusform>%n headings numbered</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n chart(s) drawn again from their values</source>
+        <translation>
+            <numerusform>%n chart drawn again from their values</numerusform>
+            <numerusform>%n charts drawn again from their values</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>window::Issues</name>

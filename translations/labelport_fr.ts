@@ -2149,20 +2149,44 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Les remplissages et lignes transparents sont devenus opaques.</translation>
     </message>
     <message>
-        <source>Effects of characters and paragraphs, such as shadow, outline, stretching or borders, were dropped.</source>
-        <translation>Des effets de caractères et de paragraphes (ombre, contour, étirement, bordures) ont été perdus.</translation>
-    </message>
-    <message>
-        <source>Gradients and hatchings that fill objects were simplified.</source>
-        <translation>Des dégradés et hachures de remplissage ont été simplifiés.</translation>
-    </message>
-    <message>
         <source>Pictures and patterns that fill objects were replaced by a color.</source>
         <translation>Des images et motifs de remplissage ont été remplacés par une couleur.</translation>
     </message>
     <message>
         <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
         <translation>Des ombres, la transparence d’images, des rognages et d’autres effets ont été perdus.</translation>
+    </message>
+    <message>
+        <source>Pages were left out, because the document has too many or they cannot be imported.</source>
+        <translation>Des pages ont été omises, parce que le document en a trop ou qu’elles ne peuvent pas être importées.</translation>
+    </message>
+    <message>
+        <source>Effects of characters and paragraphs, such as shadow, outline, stretching, borders, tab stops, line numbers and backgrounds of sections, were dropped.</source>
+        <translation>Des effets de caractères et de paragraphes, comme l’ombre, le contour, l’étirement, les bordures, les tabulations, les numéros de ligne et les fonds de section, ont été supprimés.</translation>
+    </message>
+    <message>
+        <source>Texts along a curve became straight.</source>
+        <translation>Des textes le long d’une courbe sont devenus droits.</translation>
+    </message>
+    <message>
+        <source>Texts run on one side of an object; in the document, they run on both.</source>
+        <translation>Des textes passent d’un côté d’un objet&#xa0;; dans le document, ils passent des deux côtés.</translation>
+    </message>
+    <message>
+        <source>Numbers of headings were left out.</source>
+        <translation>Des numéros de titres ont été omis.</translation>
+    </message>
+    <message>
+        <source>Add the numbers in labelport-workbench under Properties.</source>
+        <translation>Ajoutez les numéros dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Cells of tables have borders on other sides than in the document.</source>
+        <translation>Des cellules de tableaux ont des bordures sur d’autres côtés que dans le document.</translation>
+    </message>
+    <message>
+        <source>Fills of objects, such as gradients and hatchings, were simplified or dropped.</source>
+        <translation>Des remplissages d’objets, comme les dégradés et les hachures, ont été simplifiés ou supprimés.</translation>
     </message>
 </context>
 <context>
@@ -2469,6 +2493,27 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>
             <numerusform>%n document incorporé remplacé par son contenu</numerusform>
             <numerusform>%n documents incorporés remplacés par leur contenu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form control(s) replaced by boxes with their text</source>
+        <translation>
+            <numerusform>%n champ de formulaire remplacé par un cadre avec son texte</numerusform>
+            <numerusform>%n champs de formulaire remplacés par des cadres avec leur texte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n heading(s) numbered</source>
+        <translation>
+            <numerusform>%n titre numéroté</numerusform>
+            <numerusform>%n titres numérotés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n chart(s) drawn again from their values</source>
+        <translation>
+            <numerusform>%n graphique redessiné à partir de ses valeurs</numerusform>
+            <numerusform>%n graphiques redessinés à partir de leurs valeurs</numerusform>
         </translation>
     </message>
 </context>

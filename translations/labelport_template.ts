@@ -2071,19 +2071,43 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Effects of characters and paragraphs, such as shadow, outline, stretching or borders, were dropped.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Gradients and hatchings that fill objects were simplified.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Pictures and patterns that fill objects were replaced by a color.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages were left out, because the document has too many or they cannot be imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Effects of characters and paragraphs, such as shadow, outline, stretching, borders, tab stops, line numbers and backgrounds of sections, were dropped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts along a curve became straight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts run on one side of an object; in the document, they run on both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Numbers of headings were left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the numbers in labelport-workbench under Properties.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cells of tables have borders on other sides than in the document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fills of objects, such as gradients and hatchings, were simplified or dropped.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2388,6 +2412,27 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
     </message>
     <message numerus="yes">
         <source>%n embedded document(s) replaced by their content</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form control(s) replaced by boxes with their text</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n heading(s) numbered</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n chart(s) drawn again from their values</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
