@@ -13,7 +13,7 @@ namespace {
 
 constexpr qint64 Bytes = 1 << 20;
 
-QByteArray rewritten(const QByteArray& xml)
+QByteArray writtenAgain(const QByteArray& xml)
 {
     const auto root = parseTree(xml, Bytes);
     return root ? writeTree(*root).mid(writeTree(*root).indexOf('\n') + 1) : QByteArray("none");
@@ -30,7 +30,7 @@ QByteArray convertedLengths(const QByteArray& attribute)
 
 TEST(XmlTree, KeepsBlanksBetweenElements)
 {
-    EXPECT_EQ(rewritten("<p><s>a</s> <s>b</s>\n</p>"), "<p><s>a</s> <s>b</s>\n</p>");
+    EXPECT_EQ(writtenAgain("<p><s>a</s> <s>b</s>\n</p>"), "<p><s>a</s> <s>b</s>\n</p>");
 }
 
 TEST(XmlTree, WritesWhatAParserReadsBack)
