@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double Inch = 72.0;
+constexpr double InchInPoints = 72.0;
 
 QByteArray row(const QList<QByteArray>& cells)
 {
@@ -93,7 +93,8 @@ QList<QRectF> bars(repair::Document& document, const QString& color)
         if (shape->is(u"draw:rect") &&
             repair::graphicOf(document, *shape).value(u"draw:fill-color"_s) == color) {
             const QRectF box = repair::boundsOf(*shape);
-            boxes.append(QRectF(box.topLeft() / Inch - QPointF(1, 1), box.size() / Inch));
+            boxes.append(
+                QRectF(box.topLeft() / InchInPoints - QPointF(1, 1), box.size() / InchInPoints));
         }
     }
     return boxes;
@@ -145,8 +146,8 @@ TEST(Charts, HaveTheirTextsInPlace)
     for (const auto& shape : document.page()->children) {
         const QRectF box = repair::boundsOf(*shape);
         if (shape->allText() == "North"_L1) {
-            EXPECT_NEAR(box.center().x(), (1.0 + 1.5) * Inch, 1.0) << "below its bars";
-            EXPECT_GE(box.top(), (1.0 + 1.5) * Inch);
+            EXPECT_NEAR(box.center().x(), (1.0 + 1.5) * InchInPoints, 1.0) << "below its bars";
+            EXPECT_GE(box.top(), (1.0 + 1.5) * InchInPoints);
         }
     }
 }
@@ -178,7 +179,7 @@ TEST(Charts, JoinTheirValuesByLines)
         }
     }
     ASSERT_EQ(lines.size(), 1);
-    EXPECT_NEAR(lines[0].dx(), Inch, 0.1) << "from the middle of a category to the next";
+    EXPECT_NEAR(lines[0].dx(), InchInPoints, 0.1) << "from the middle of a category to the next";
     EXPECT_EQ(bars(document, u"#ff0000"_s).size(), 0);
 }
 

@@ -18,10 +18,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray Frame = "<draw:frame draw:name=\"F\" svg:x=\"1in\" svg:y=\"2in\" "
-                         "svg:width=\"2in\" svg:height=\"1in\"><draw:object "
-                         "xlink:href=\"./Object 1\"/><draw:image "
-                         "xlink:href=\"./ObjectReplacements/Object 1\"/></draw:frame>";
+const QByteArray ObjectFrame = "<draw:frame draw:name=\"F\" svg:x=\"1in\" svg:y=\"2in\" "
+                               "svg:width=\"2in\" svg:height=\"1in\"><draw:object "
+                               "xlink:href=\"./Object 1\"/><draw:image "
+                               "xlink:href=\"./ObjectReplacements/Object 1\"/></draw:frame>";
 
 QByteArray contentOf(const QByteArray& body, const QByteArray& styles = {})
 {
@@ -32,8 +32,8 @@ QByteArray contentOf(const QByteArray& body, const QByteArray& styles = {})
 
 repair::Document holding(const QHash<QString, QByteArray>& members)
 {
-    repair::Document document = drawing(Frame, "<style:style style:name=\"T\" "
-                                               "style:family=\"paragraph\"/>");
+    repair::Document document = drawing(ObjectFrame, "<style:style style:name=\"T\" "
+                                                     "style:family=\"paragraph\"/>");
     document.readMember = [members](const QString& name) { return members.value(name); };
     return document;
 }

@@ -33,7 +33,7 @@ struct Placed
 };
 
 /// The texts of each page, from top to bottom.
-QList<QList<Placed>> pagesOf(const QByteArray& body)
+QList<QList<Placed>> placedOnPages(const QByteArray& body)
 {
     const QTemporaryDir folder;
     QByteArray styles = drawingStyles();
@@ -73,8 +73,8 @@ QList<QList<Placed>> pagesOf(const QByteArray& body)
 
 TEST(PageNotes, AreAtTheBottomInTheirOrder)
 {
-    const auto pages = pagesOf("<text:p>one" + note("1", "first") + " word" + note("2", "second") +
-                               "</text:p><text:p>two</text:p>");
+    const auto pages = placedOnPages("<text:p>one" + note("1", "first") + " word" +
+                                     note("2", "second") + "</text:p><text:p>two</text:p>");
     ASSERT_EQ(pages.size(), 1);
     ASSERT_EQ(pages[0].size(), 3);
     EXPECT_EQ(pages[0][0].text, u"one1 word2\ntwo"_s);
@@ -92,7 +92,7 @@ TEST(PageNotes, TakeRoomFromTheTextThatCitesThem)
                  (line == 3 || line == 10 ? note(QByteArray::number(line), "note") : QByteArray()) +
                  "</text:p>";
     }
-    const auto pages = pagesOf(lines);
+    const auto pages = placedOnPages(lines);
     ASSERT_EQ(pages.size(), 2);
     QString text;
     for (const auto& page : pages) {
@@ -108,7 +108,7 @@ TEST(PageNotes, TakeRoomFromTheTextThatCitesThem)
 
 TEST(PageNotes, OfTheEndFollowTheText)
 {
-    const auto pages = pagesOf("<text:p>one" + note("i", "last", "endnote") + "</text:p>");
+    const auto pages = placedOnPages("<text:p>one" + note("i", "last", "endnote") + "</text:p>");
     ASSERT_EQ(pages.value(0).size(), 1);
     EXPECT_EQ(pages[0][0].text, u"onei\ni last"_s);
 }
