@@ -17,7 +17,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// More cannot be seen.
+// A chart with more is not readable.
 constexpr int MaximumChartSeries = 30;
 constexpr int MaximumChartCategories = 200;
 // Beyond, sums and steps of axes are not exact; below the least range, all values are zero.

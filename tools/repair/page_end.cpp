@@ -126,7 +126,7 @@ bool showsSomething(const Node& object)
     return !object.hasAttribute(FlowsAttribute) || hasVisibleText(*object.child(u"draw:text-box"));
 }
 
-// From 1 on: a number that grows from page to page would not fit into an integer at last.
+// From 1: numbers that grow from page to page would overflow in a long text.
 void renumberRows(Node& page)
 {
     const QString names[] = {RowAttribute, FromRowAttribute};

@@ -9,8 +9,8 @@ namespace migration {
 /// Items of all labels that are compared with anchored objects.
 inline constexpr qsizetype MaximumAnchoredItems = 1'000;
 
-/// Finds the items of one label of anchored objects of its document, and the sides on
-/// which text runs beside them.
+/// Finds the items on one label that show anchored objects of its document, and the sides on which
+/// text runs beside them.
 [[nodiscard]] QList<AnchoredItem>
 anchoredItems(const Census& document, const QList<DrawnText>& texts, const LabelFacts& label);
 
