@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 #include <new>
@@ -19,17 +20,25 @@ namespace cli {
 using namespace Qt::StringLiterals;
 namespace {
 
-QStringList warningsOf(const OpenedLabel& label)
+// One for each text.
+QStringList warningsOf(const QList<migration::IssueReport>& issues)
 {
-    QStringList warnings;
-    for (const workbench::ImportIssue& issue : label.issues) {
-        warnings.append(issue.repeats > 1
-                            ? QCoreApplication::translate("cli::ImportWorker", "%1 (%2 times)")
-                                  .arg(issue.text)
-                                  .arg(issue.repeats)
-                            : issue.text);
+    QStringList texts;
+    QHash<QString, int> repeats;
+    for (const migration::IssueReport& issue : issues) {
+        if (!repeats.contains(issue.text)) {
+            texts.append(issue.text);
+        }
+        repeats[issue.text] += issue.repeats;
     }
-    return warnings;
+    for (QString& text : texts) {
+        if (const int count = repeats.value(text); count > 1) {
+            text = QCoreApplication::translate("cli::ImportWorker", "%1 (%2 times)")
+                       .arg(text)
+                       .arg(count);
+        }
+    }
+    return texts;
 }
 
 // "new/shelf.png" becomes "new/shelf-2.png".
@@ -55,8 +64,9 @@ QList<migration::ExportReport> exportReports(const QList<exporting::ExportFindin
 class FileImport
 {
 public:
-    FileImport(const archive::Job& job, archive::Heartbeat heartbeat)
+    FileImport(const archive::Job& job, archive::Heartbeat heartbeat, int maximumPages)
         : m_job(job)
+        , m_maximumPages(maximumPages)
         , m_options(jobOptionsFromJson(job.options))
         , m_input(job.file, job.shownName, m_options.reader)
         , m_report(m_input, job.shownName, {m_options.thumbnail, m_options.items})
@@ -78,6 +88,7 @@ public:
         }
         migration::FileReport report = m_report.finish();
         report.exports = exportReports(m_exports.all());
+        m_result.warnings = warningsOf(report.issues) + m_result.warnings;
         m_result.report = migration::toJson(report);
         return m_result;
     }
@@ -87,7 +98,7 @@ private:
     void importFurtherPages(repair::DocumentRepair& document)
     {
         // Pages that are full add further ones.
-        for (int page = 2; page <= std::min(document.pageCount(), repair::MaximumPages); ++page) {
+        for (int page = 2; page <= std::min(document.pageCount(), m_maximumPages); ++page) {
             OpenedLabel label = openFurtherPage(document, page);
             m_heartbeat();
             if (label.isOpen()) {
@@ -99,19 +110,18 @@ private:
                                              .arg(page));
             }
         }
-        if (document.pageCount() > repair::MaximumPages) {
-            m_report.leaveOutPages(document.pageCount() - repair::MaximumPages);
+        if (document.pageCount() > m_maximumPages) {
+            m_report.leaveOutPages(document.pageCount() - m_maximumPages);
             m_result.warnings.append(
                 QCoreApplication::translate(
                     "cli::ImportWorker",
                     "Only the first %1 pages were imported; the document has more.")
-                    .arg(repair::MaximumPages));
+                    .arg(m_maximumPages));
         }
     }
 
     void take(OpenedLabel& label, int page)
     {
-        m_result.warnings += warningsOf(label);
         m_report.add(label);
         m_heartbeat();
         if (label.isOpen()) {
@@ -143,6 +153,7 @@ private:
     }
 
     const archive::Job& m_job;
+    int m_maximumPages;
     JobOptions m_options;
     LabelInput m_input;
     WorkerReport m_report;
@@ -153,11 +164,13 @@ private:
 
 } // namespace
 
-archive::FileResult importJob(const archive::Job& job, const archive::Heartbeat& heartbeat)
+archive::FileResult importJob(const archive::Job& job, const archive::Heartbeat& heartbeat,
+                              int maximumPages)
 {
     try {
-        archive::FileResult result = isPrintJob(job) ? writePrintDocuments(job, heartbeat)
-                                                     : FileImport(job, heartbeat).run();
+        archive::FileResult result = isPrintJob(job)
+                                         ? writePrintDocuments(job, heartbeat)
+                                         : FileImport(job, heartbeat, maximumPages).run();
         // No event loop runs here that would delete these objects.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return result;
@@ -186,7 +199,11 @@ QString sandboxProblem()
 
 int runImportWorker(const QStringList& arguments)
 {
-    return arguments.size() == 1 ? archive::runWorker(&importJob) : archive::WorkerExitBroken;
+    return arguments.size() == 1 ? archive::runWorker([](const archive::Job& job,
+                                                         const archive::Heartbeat& heartbeat) {
+        return importJob(job, heartbeat, repair::MaximumPages);
+    })
+                                 : archive::WorkerExitBroken;
 }
 
 } // namespace cli

@@ -9,8 +9,10 @@ namespace cli {
 
 /// Imports one file and writes its outputs to the job's staging folder, or writes the pages of a
 /// print job there.
+///
+/// @param maximumPages of a document; further ones are left out
 [[nodiscard]] archive::FileResult importJob(const archive::Job& job,
-                                            const archive::Heartbeat& heartbeat);
+                                            const archive::Heartbeat& heartbeat, int maximumPages);
 
 /// Runs `labelport worker`, which the program starts itself: imports files for a coordinator.
 ///

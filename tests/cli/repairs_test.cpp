@@ -1,6 +1,7 @@
 // `labelport import` and `labelport inspect` of documents that are repaired.
 
-#include "repair/repair.h"
+#include "cli/import_worker.h"
+#include "migration/model/file_report.h"
 #include "tests/cli/program_fixture.h"
 
 #include <private/qzipwriter_p.h>
@@ -25,6 +26,7 @@ QByteArray drawing(const QList<QByteArray>& pages)
     const QByteArray names =
         R"( xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0")"
         R"( xmlns:style="urn:oasis:names:tc:opendocument:xmlns:style:1.0")"
+        R"( xmlns:xlink="http://www.w3.org/1999/xlink")"
         R"( xmlns:draw="urn:oasis:names:tc:opendocument:xmlns:drawing:1.0")"
         R"( xmlns:svg="urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0")"
         R"( xmlns:fo="urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0")";
@@ -119,18 +121,33 @@ TEST_F(Repairs, MakeALabelOfEachPage)
 // Each page becomes a label up to the limit.
 TEST_F(Repairs, LeaveOutPagesOnlyWithALoss)
 {
-    QList<QByteArray> pages(repair::MaximumPages + 2);
-    pages.last() = Rectangle;
-    write(u"pages.odg"_s, drawing(pages));
-    const Outcome outcome = import("pages.odg --to csv --fail-on-loss --report report.json");
-    EXPECT_EQ(outcome.status, 3) << qPrintable(outcome.err);
-    const QByteArray report = read(u"report.json"_s).split('\n').at(1);
-    const QJsonObject file = QJsonDocument::fromJson(report).object();
-    EXPECT_EQ(file.value("verdict"_L1), u"lossy"_s);
-    EXPECT_EQ(codesOf(file.value("lost"_L1)), QStringList{u"pages-left-out"_s});
-    EXPECT_EQ(file.value("lost"_L1).toArray().first().toObject().value("details"_L1).toArray(),
-              QJsonArray{u"%1–%2"_s.arg(repair::MaximumPages + 1).arg(repair::MaximumPages + 2)});
-    EXPECT_EQ(file.value("objects"_L1).toObject().value("imported"_L1).toInt(), 0);
+    archive::Job job;
+    job.file = write(u"pages.odg"_s, drawing({{}, {}, {}, {}, Rectangle}));
+    const archive::FileResult result = cli::importJob(
+        job, [] {}, 3);
+    EXPECT_EQ(result.warnings,
+              QStringList{u"Only the first 3 pages were imported; the document has more."_s});
+    const auto report = migration::fileReportFromJson(result.report);
+    ASSERT_TRUE(report);
+    EXPECT_TRUE(migration::hasLoss(*report));
+    EXPECT_EQ(migration::verdictName(migration::verdictOf(*report)), u"lossy"_s);
+    ASSERT_EQ(report->lost.size(), 1);
+    EXPECT_EQ(report->lost.first().code, u"pages-left-out"_s);
+    EXPECT_EQ(report->lost.first().details, QStringList{u"4–5"_s});
+    EXPECT_EQ(report->objects.imported, 0);
+}
+
+// The picture is in the background of all pages.
+TEST_F(Repairs, WarnOfADamagedPictureOnlyOnce)
+{
+    const QByteArray frame =
+        R"(<draw:frame svg:x="1cm" svg:y="1cm" svg:width="2cm")"
+        R"( svg:height="1cm"><draw:image xlink:href="none.png"/></draw:frame>)";
+    write(u"pages.odg"_s, drawing({frame, frame, frame}));
+    EXPECT_EQ(import("pages.odg").err.count(u"Warning: "_s), 1);
+    const QJsonArray issues = inspect("pages.odg").value("issues"_L1).toArray();
+    ASSERT_EQ(issues.size(), 1);
+    EXPECT_EQ(issues.first().toObject().value("repeats"_L1).toInt(), 3);
 }
 
 TEST_F(Repairs, NeverGiveAPageTheNameOfAnotherLabel)

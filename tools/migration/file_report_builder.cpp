@@ -139,11 +139,28 @@ void RepairedFileReport::addPage(const workbench::ImportResult& result, const QB
         m_report.thumbnail = m_options.thumbnail ? thumbnailOf(*result.canvas) : QByteArray();
     }
     addCounts(m_report.items, page.items);
-    m_report.issues.append(page.issues);
+    addIssues(page.issues);
     addRepairs(m_report.repaired, repairs);
     LabelFacts label = lookAtItems(*result.canvas, false);
     checkLabel(m_census, *result.canvas, {.page = number, .isRepaired = true}, label);
     m_losses.addPage(countOpenDocument(package), label, lossesOfLog(result));
+}
+
+// All pages may have the same picture, and warn of it. Items are those of the first page.
+void RepairedFileReport::addIssues(const QList<IssueReport>& issues)
+{
+    const bool isFirst = m_losses.lastPage() == 0;
+    for (const IssueReport& issue : issues) {
+        const auto place = m_issuePlaces.constFind(issue.text);
+        if (place != m_issuePlaces.constEnd() && !isFirst) {
+            m_report.issues[*place].repeats += issue.repeats;
+            continue;
+        }
+        if (place == m_issuePlaces.constEnd()) {
+            m_issuePlaces.insert(issue.text, m_report.issues.size());
+        }
+        m_report.issues.append({issue.text, isFirst ? issue.item : -1, issue.repeats});
+    }
 }
 
 FileReport RepairedFileReport::finish()

@@ -5,6 +5,7 @@
 #include "migration/model/census.h"
 #include "migration/model/file_report.h"
 
+#include <QHash>
 #include <QString>
 
 namespace workbench {
@@ -48,10 +49,13 @@ public:
     [[nodiscard]] FileReport finish();
 
 private:
+    void addIssues(const QList<IssueReport>& issues);
+
     ReportOptions m_options;
     Census m_census;
     RepairedLosses m_losses;
     FileReport m_report;
+    QHash<QString, qsizetype> m_issuePlaces; ///< by text
 };
 
 /// Builds the report of a saved label (*.label) that was opened. Uses only canvas, datasources and
