@@ -337,6 +337,19 @@ TEST(RepairLimits, HoldTheLengthOfNotes)
     EXPECT_FALSE(isBelow(1'001));
 }
 
+TEST(RepairLimits, CountPagesOfObjects)
+{
+    const auto pages = [](const QByteArray& number) {
+        return textPage("<draw:rect text:anchor-type=\"page\" text:anchor-page-number=\"" + number +
+                        "\" svg:width=\"1in\" svg:height=\"1in\"/><text:p>a</text:p>")
+            .first;
+    };
+    EXPECT_EQ(pages("100"), 100);
+    EXPECT_EQ(pages("101"), 100);
+    EXPECT_EQ(pages("2000000000"), 100);
+    EXPECT_EQ(pages("-1"), 1);
+}
+
 TEST(RepairLimits, BreakEndlessPages)
 {
     const QByteArray paragraph = "<text:p>" + QByteArray(4'998, 'a') + "</text:p>";

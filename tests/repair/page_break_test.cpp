@@ -363,6 +363,57 @@ TEST(PageBreaks, HaveTheLayoutThatTheFirstParagraphStates)
               QStringList({u"567x113 p1|head"_s}));
 }
 
+namespace {
+
+QByteArray frameOnPage(const QByteArray& page, const QByteArray& text)
+{
+    return "<draw:frame text:anchor-type=\"page\" " + page +
+           " svg:x=\"1cm\" svg:y=\"1cm\" svg:width=\"2cm\" svg:height=\"1cm\"><draw:text-box>"
+           "<text:p>" +
+           text + "</text:p></draw:text-box></draw:frame>";
+}
+
+QByteArray numberedPage(const QByteArray& number)
+{
+    return "text:anchor-page-number=\"" + number + "\"";
+}
+
+} // namespace
+
+TEST(PageBreaks, AreNotBetweenObjectsOfThePageAndTheFirstParagraph)
+{
+    EXPECT_EQ(pagesOf(frameOnPage(numberedPage("1"), "frame") +
+                      "<text:p text:style-name=\"wide\">p1</text:p>"),
+              QStringList({u"567x113 frame|p1|head"_s}));
+    EXPECT_EQ(pagesOf(frameOnPage({}, "frame") + "<text:p text:style-name=\"wide\">p1</text:p>"),
+              QStringList({u"567x113 frame|p1|head"_s}));
+}
+
+TEST(PageBreaks, LeaveObjectsOnThePageOfTheirNumber)
+{
+    const QByteArray next = "<text:p text:style-name=\"wide\">p2</text:p>";
+    EXPECT_EQ(pagesOf(frameOnPage(numberedPage("2"), "frame") + "<text:p>p1</text:p>" + next),
+              QStringList({u"283x142 p1"_s, u"567x113 frame|p2|head"_s}));
+    EXPECT_EQ(pagesOf("<text:p>p1</text:p>" + next + frameOnPage(numberedPage("1"), "frame")),
+              QStringList({u"283x142 frame|p1"_s, u"567x113 p2|head"_s}));
+    EXPECT_EQ(pagesOf("<text:p>p1</text:p>" + next + frameOnPage({}, "frame")),
+              QStringList({u"283x142 p1"_s, u"567x113 frame|p2|head"_s}));
+    EXPECT_EQ(pagesOf("<draw:a>" + frameOnPage(numberedPage("1"), "frame") +
+                      "</draw:a><text:p>p1</text:p>"),
+              QStringList({u"283x142 frame|p1"_s}))
+        << "in a link";
+}
+
+TEST(PageBreaks, GoOnAtAPageThatOnlyHasAnObject)
+{
+    const QList<Label> labels =
+        labelsOf(textDocument(frameOnPage(numberedPage("2"), "frame") + paragraphs(1, 14)));
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_FALSE(labels[0].text.contains("frame"_L1)) << labels[0].text.toStdString();
+    EXPECT_TRUE(labels[1].text.contains("frame"_L1)) << labels[1].text.toStdString();
+    EXPECT_TRUE(labels[1].text.contains("p14"_L1)) << labels[1].text.toStdString();
+}
+
 TEST(PageBreaks, GoOnWithTheNextMasterPageOfAFullPage)
 {
     const QStringList pages =

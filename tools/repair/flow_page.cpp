@@ -19,6 +19,9 @@ using namespace Qt::StringLiterals;
 constexpr double LowestPage = 20.0;
 // Of the bottom margin: room for lines that do not fit.
 constexpr double MarginShare = 0.5;
+constexpr double EditorsMarginShare = 0.75;
+// Pages that objects add to a text: a few bytes can claim billions.
+constexpr std::size_t MaximumObjectPages = 100;
 
 // Header and footer: texts of the master page.
 void addMargin(Document& document, const Node* margin, const PageArea& area, bool isHeader,
@@ -67,15 +70,43 @@ const Node* nextMaster(const Document& document, const Node* master)
     return next != nullptr ? next : master;
 }
 
-std::unique_ptr<Node> pageOf(Document& document, FlowPage flow)
+void placeOnPages(Document& document, std::vector<FlowPage>& pages, Node::Children objects)
+{
+    const std::size_t most = std::max(MaximumObjectPages, pages.size());
+    std::vector<Node::Children> placed;
+    for (auto& object : objects) {
+        const auto number =
+            static_cast<std::size_t>(object->attribute(AnchorPageAttribute).toInt());
+        const std::size_t wanted = std::clamp(number, std::size_t{1}, most);
+        while (pages.size() < wanted) {
+            const Node* const master = nextMaster(document, pages.back().master);
+            pages.push_back({master, pageArea(document, master), {}, true});
+        }
+        placed.resize(pages.size());
+        const PageArea& area = pages[wanted - 1].area;
+        auto holder = Node::element(u"text:p"_s);
+        holder->append(std::move(object));
+        TakenShapes taken = takeShapes(document, *holder, {area, area.box}, true);
+        std::move(taken.anchored.begin(), taken.anchored.end(),
+                  std::back_inserter(placed[wanted - 1]));
+    }
+    // Below the text: it is not known to leave them room.
+    for (std::size_t i = 0; i < placed.size(); ++i) {
+        std::move(pages[i].objects.begin(), pages[i].objects.end(), std::back_inserter(placed[i]));
+        pages[i].objects = std::move(placed[i]);
+    }
+}
+
+std::unique_ptr<Node> pageOf(Document& document, FlowPage flow, bool isFull)
 {
     auto page = Node::element(u"draw:page"_s);
     page->children = textLast(std::move(flow.objects));
     const PageArea& area = flow.area;
     page->setAttribute(TopAttribute, toInches(area.box.top()));
     if (area.box.height() >= LowestPage) {
-        page->setAttribute(BottomAttribute, toInches(area.box.bottom()));
-        page->setAttribute(LowestAttribute, toInches(lowestLine(area, MarginShare)));
+        const double lowest = lowestLine(area, isFull ? EditorsMarginShare : MarginShare);
+        page->setAttribute(BottomAttribute, toInches(isFull ? lowest : area.box.bottom()));
+        page->setAttribute(LowestAttribute, toInches(lowest));
     }
     if (flow.master != nullptr) {
         addMargin(document, flow.master->child(u"style:header"), area, true, page->children);

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace repair {
 
@@ -23,12 +24,20 @@ struct FlowPage
 /// The master page of the page after one with this master page; null if there is none.
 [[nodiscard]] const Node* nextMaster(const Document& document, const Node* master);
 
+/// Puts objects on the pages of their AnchorPageAttribute, and adds pages that are not there: the
+/// text of a full page continues on them.
+void placeOnPages(Document& document, std::vector<FlowPage>& pages, Node::Children objects);
+
 /// The page of the drawing, with header and footer, and its objects below the text.
-[[nodiscard]] std::unique_ptr<Node> pageOf(Document& document, FlowPage flow);
+///
+/// @param isFull whether its last editor had room for its text
+[[nodiscard]] std::unique_ptr<Node> pageOf(Document& document, FlowPage flow, bool isFull = false);
 
 /// The page after that of the document, without content, with header and footer.
 [[nodiscard]] std::unique_ptr<Node> emptyPage(Document& document);
 
+/// The page of an object that is not in the text, from 1.
+inline const QString AnchorPageAttribute = QLatin1String("text:anchor-page-number");
 /// Where the first row of a page begins.
 inline const QString TopAttribute = QLatin1String("labelport:top");
 /// Where the lines of a page end; and the lowest place for the last few that do not fit.

@@ -2,7 +2,6 @@
 
 #include "repair/anchored_shapes.h"
 #include "repair/document.h"
-#include "repair/lengths.h"
 #include "repair/page_area.h"
 #include "repair/page_end.h"
 #include "repair/page_steps.h"
@@ -19,8 +18,6 @@ using namespace Qt::StringLiterals;
 
 // Sections, lists, and objects within one another.
 constexpr int MaximumSectionDepth = 100;
-// Of the bottom margin: the last editor had room for the lines in it.
-constexpr double EditorsMarginShare = 0.75;
 constexpr double LineRoom = 20.0; // points
 
 /// Lays out the blocks of the body, page by page.
@@ -35,7 +32,7 @@ public:
 
     void readBlocks(Node& parent, int depth);
     void endRows();
-    [[nodiscard]] std::vector<FlowPage> take() { return std::move(m_pages); }
+    [[nodiscard]] std::vector<FlowPage> take();
     /// Whether the last editor left breaks between pages.
     [[nodiscard]] bool hasEditorBreaks() const { return m_hasEditorBreaks; }
 
@@ -64,6 +61,7 @@ private:
     Node::Children m_text;
     std::vector<LoweredShape> m_lowered; // that text may still be above
     std::vector<FlowPage> m_pages;
+    Node::Children m_onPages; // objects with a page of their own, wherever the text begins
 };
 
 bool isTextBlock(const Node& node)
@@ -124,8 +122,9 @@ void FlowWriter::readBlocks(Node& parent, int depth)
             continueOnNextPage();
         } else if (isShape(*child)) {
             placeShape(std::move(child));
-        } else if (child->name.startsWith("text:"_L1) && !child->is(u"text:tracked-changes") &&
-                   !child->is(u"text:sequence-decls") && !child->name.endsWith("-source"_L1)) {
+        } else if (child->is(u"draw:a") ||
+                   (child->name.startsWith("text:"_L1) && !child->is(u"text:tracked-changes") &&
+                    !child->is(u"text:sequence-decls") && !child->name.endsWith("-source"_L1))) {
             readBlocks(*child, depth + 1);
         }
     }
@@ -223,6 +222,13 @@ void FlowWriter::endRows()
 // An object between paragraphs.
 void FlowWriter::placeShape(std::unique_ptr<Node> shape)
 {
+    if (shape->attribute(u"text:anchor-type") == "page"_L1) {
+        if (shape->attribute(AnchorPageAttribute).toInt() < 1) {
+            shape->setAttribute(AnchorPageAttribute, QString::number(m_pages.size()));
+        }
+        m_onPages.push_back(std::move(shape));
+        return;
+    }
     auto paragraph = Node::element(u"text:p"_s);
     paragraph->append(std::move(shape));
     m_isEmpty = false;
@@ -263,6 +269,12 @@ void FlowWriter::endText()
     placeRow(std::move(frame));
 }
 
+std::vector<FlowPage> FlowWriter::take()
+{
+    placeOnPages(m_document, m_pages, std::move(m_onPages));
+    return std::move(m_pages);
+}
+
 } // namespace
 
 Node::Children layOutPages(Document& document)
@@ -275,14 +287,7 @@ Node::Children layOutPages(Document& document)
     writer.endRows();
     Node::Children pages;
     for (FlowPage& flow : writer.take()) {
-        const PageArea area = flow.area;
-        Node& page = *pages.emplace_back(pageOf(document, std::move(flow)));
-        // The editor had room for the lines of each page.
-        if (writer.hasEditorBreaks() && page.hasAttribute(LowestAttribute)) {
-            const QString lowest = toInches(lowestLine(area, EditorsMarginShare));
-            page.setAttribute(BottomAttribute, lowest);
-            page.setAttribute(LowestAttribute, lowest);
-        }
+        pages.push_back(pageOf(document, std::move(flow), writer.hasEditorBreaks()));
     }
     Node& body = *document.body();
     body.name = u"office:drawing"_s;
