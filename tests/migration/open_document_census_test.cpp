@@ -120,6 +120,44 @@ TEST(OpenDocumentCensus, OnlyTheMasterPageOfTheFirstPageCounts)
     EXPECT_EQ(lostOf(countOpenDocument(drawingOf("", {.masterPages = pages}))), 1);
 }
 
+// The styles of paragraphs and tables name it, directly or through their parents.
+TEST(OpenDocumentCensus, TheFirstParagraphDecidesTheMasterPage)
+{
+    const auto header = [](const QByteArray& name, const QByteArray& texts) {
+        return "<style:master-page style:name=\"" + name + "\" style:page-layout-name=\"P\">" +
+               "<style:header>" + texts + "</style:header></style:master-page>";
+    };
+    const DocumentParts parts{
+        .automaticStyles = "<style:style style:name=\"Letter\" style:family=\"paragraph\" "
+                           "style:master-page-name=\"First\"/>"
+                           "<style:style style:name=\"Child\" style:family=\"paragraph\" "
+                           "style:parent-style-name=\"Letter\"/>"
+                           "<style:style style:name=\"Plain\" style:family=\"paragraph\" "
+                           "style:parent-style-name=\"Letter\" style:master-page-name=\"\"/>"
+                           "<style:style style:name=\"Grid\" style:family=\"table\" "
+                           "style:master-page-name=\"First\"/>",
+        .masterPages = header("Standard", "<text:p>Further</text:p>") +
+                       header("First", "<text:p>Address</text:p><text:p>Date</text:p>")};
+    const auto headers = [&parts](const QByteArray& body) {
+        const Census census = countOpenDocument(textOf(body, parts));
+        return std::count_if(
+            census.objects.begin(), census.objects.end(),
+            [](const CountedObject& each) { return each.lost == LossKind::HeaderOrFooter; });
+    };
+    EXPECT_EQ(headers("<text:p>Text</text:p>"), 1);
+    EXPECT_EQ(headers("<text:p text:style-name=\"Letter\">Text</text:p>"), 2);
+    EXPECT_EQ(headers("<text:p text:style-name=\"Child\">Text</text:p>"), 2);
+    EXPECT_EQ(headers("<text:p text:style-name=\"Plain\">Text</text:p>"), 1);
+    EXPECT_EQ(headers("<table:table table:style-name=\"Grid\"/>"), 2);
+    EXPECT_EQ(headers("<text:section><text:h text:style-name=\"Letter\">A</text:h></text:section>"),
+              2);
+    // Neither objects before the text nor later paragraphs.
+    EXPECT_EQ(headers("<draw:frame><draw:text-box><text:p>Box</text:p></draw:text-box></draw:frame>"
+                      "<text:p text:style-name=\"Letter\">Text</text:p>"),
+              2);
+    EXPECT_EQ(headers("<text:p>Text</text:p><text:p text:style-name=\"Letter\">Text</text:p>"), 1);
+}
+
 TEST(OpenDocumentCensus, PlaceholdersOfMasterPagesAreNotPrinted)
 {
     const QByteArray page =

@@ -129,6 +129,21 @@ TEST(RepairedReport, TextsOfTablesHaveTheColorsOfTheDocument)
     EXPECT_TRUE(unreadable("transparent"));
 }
 
+// The ground is behind the letters: a blank line above them is on white.
+TEST(RepairedReport, TextIsReadableOnTheGroundOfItsParagraph)
+{
+    const FileReport report = repairedReport(
+        odt("<text:section><text:p text:style-name=\"W\"/><text:p text:style-name=\"T\">Topics"
+            "</text:p></text:section>",
+            {.automaticStyles = "<style:style style:name=\"W\" style:family=\"paragraph\">"
+                                "<style:text-properties fo:color=\"#ffffff\"/></style:style>"
+                                "<style:style style:name=\"T\" style:family=\"paragraph\" "
+                                "style:parent-style-name=\"W\"><style:paragraph-properties "
+                                "fo:background-color=\"#0099ff\"/></style:style>"}));
+    EXPECT_EQ(report.objects.imported, 1);
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::TextUnreadable)), nullptr);
+}
+
 // The reader puts all text on one side.
 TEST(RepairedReport, TextOnOneSideOfAnObjectIsAChange)
 {

@@ -98,6 +98,23 @@ bool StyleBook::numbersHeading(const QString& style, int level) const
     return m_numberedLevels.contains(level) && !textStyle(style).hasNoNumbers;
 }
 
+// A style inherits the master page of its parent, unless it states one, which may be empty.
+void StyleBook::takeMasterPage(const QString& family, const QString& name, const QString& parent,
+                               const QXmlStreamAttributes& attributes)
+{
+    const QString page = attributes.hasAttribute("style:master-page-name"_L1)
+                             ? attributes.value("style:master-page-name"_L1).toString()
+                             : masterPageOf(family, parent);
+    if (!page.isEmpty()) {
+        m_masterPages.insert(family + u'/' + name, page);
+    }
+}
+
+QString StyleBook::masterPageOf(const QString& family, const QString& style) const
+{
+    return m_masterPages.value(family + u'/' + style);
+}
+
 bool StyleBook::sizesText(const QString& style) const
 {
     return textStyle(style).isSized;

@@ -197,6 +197,7 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
     m_cellName = family == "table-cell"_L1 ? name : QString();
     m_sectionName = family == "section"_L1 ? name : QString();
     const QString parent = valueOf(attributes, "style:parent-style-name"_L1);
+    takeMasterPage(family, name, parent, attributes);
     if (isTextFamily(family)) {
         // A parent must precede its styles.
         Style style = textStyle(parent);

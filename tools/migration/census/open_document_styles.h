@@ -57,6 +57,9 @@ public:
     {
         return m_cells.value(style);
     }
+    /// The master page of the page that a paragraph or table in this style begins; empty if it
+    /// begins none.
+    [[nodiscard]] QString masterPageOf(const QString& family, const QString& style) const;
     [[nodiscard]] bool numbersLines() const { return m_numbersLines; }
     /// Whether a style gives texts the size of their letters.
     [[nodiscard]] bool sizesText(const QString& style) const;
@@ -96,6 +99,8 @@ private:
     [[nodiscard]] const Style& textStyle(const QString& name) const;
     [[nodiscard]] const Style& shapeStyle(const QString& name) const;
     void takeCell(const QXmlStreamAttributes& attributes);
+    void takeMasterPage(const QString& family, const QString& name, const QString& parent,
+                        const QXmlStreamAttributes& attributes);
     void takeSection(const QString& name, const QXmlStreamAttributes& attributes);
     void startStyle(const QXmlStreamAttributes& attributes, bool isDefault);
     void takeProperties(const QString& group, const QXmlStreamAttributes& attributes);
@@ -114,7 +119,8 @@ private:
     Style m_ignored;
     QString m_cellName; ///< of the style that is read; empty if it is not one of a cell
     QHash<QString, CellBorders> m_cells;
-    QSet<int> m_numberedLevels; ///< of headings
+    QHash<QString, QString> m_masterPages; ///< by family and style: "table/Address"
+    QSet<int> m_numberedLevels;            ///< of headings
     bool m_numbersLines = false;
     bool m_isInList = false; ///< in a level of a list style
 };

@@ -49,6 +49,7 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
     takeChunk();
     const std::optional<QRectF> box = boxOf(attributes);
     m_box = box ? box : m_places.back().box;
+    noteFirstPage(name, attributes);
     openInTable(name, attributes);
     openChild(name, attributes);
     m_places.back().box = m_box;
@@ -102,6 +103,25 @@ void OpenDocumentWalker::openChild(const QString& name, const Attributes& attrib
         return openInLost(name, attributes);
     case Spot::Ignored:
         return push(Spot::Ignored);
+    }
+}
+
+// The first paragraph or table of a text decides the master page of its first page. Objects that
+// belong to a page may come before it.
+void OpenDocumentWalker::noteFirstPage(const QString& name, const Attributes& attributes)
+{
+    const bool isTable = name == "table:table"_L1;
+    if (!m_hasRunningText || m_isTextBegun || !(isTable || isParagraph(name))) {
+        return;
+    }
+    const bool isInObject = std::any_of(m_places.begin(), m_places.end(), [](const Place& place) {
+        return place.isObject || place.spot == Spot::Frame || place.spot == Spot::Ignored;
+    });
+    if (!isInObject) {
+        m_isTextBegun = true;
+        const QLatin1String style = isTable ? "table:style-name"_L1 : "text:style-name"_L1;
+        m_masterPage = m_styles.masterPageOf(isTable ? u"table"_s : u"paragraph"_s,
+                                             attributes.value(style).toString());
     }
 }
 

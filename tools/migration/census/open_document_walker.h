@@ -88,6 +88,7 @@ private:
     using Attributes = QXmlStreamAttributes;
 
     void openChild(const QString& name, const Attributes& attributes);
+    void noteFirstPage(const QString& name, const Attributes& attributes);
     void openInBody(const QString& name);
     void openInRunningText(const QString& name, const Attributes& attributes);
     void openInDrawing(const QString& name, const Attributes& attributes);
@@ -148,6 +149,7 @@ private:
     std::optional<QRectF> m_box; ///< of the element that is being opened
     QString m_masterPage;
     bool m_hasRunningText = false;
+    bool m_isTextBegun = false; ///< running text has its first paragraph or table
     int m_pages = 0;
     /// Texts of the paragraph that is open: frames in it come before them.
     QList<CountedObject> m_runs;

@@ -12,6 +12,9 @@
 #include <QGraphicsTextItem>
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
+#include <QTextBlock>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -98,22 +101,37 @@ QColor textColorOf(const ItemValues& values)
     return colors.isEmpty() ? QColor(Qt::black) : QColor(colors.constFirst());
 }
 
-// Characters without a color of their own behind them are on what is under the item.
-QColor textGroundOf(const ItemValues& values)
+const QTextDocument* documentOf(const workbench::CanvasItem& item)
 {
-    static const QRegularExpression pattern(
-        u"[ ;\"]color:#[0-9a-fA-F]{6}(?:; *background-color:(#[0-9a-fA-F]{6}))?"_s);
-    QStringList grounds;
-    for (auto match = pattern.globalMatch(values.text->html); match.hasNext();) {
-        grounds.append(match.next().captured(1));
+    const auto* const text = dynamic_cast<const QGraphicsTextItem*>(item.graphicsItem());
+    return text != nullptr ? text->document() : nullptr;
+}
+
+// Behind the letters: their own, or that of their paragraph. Letters without one are on what is
+// under the item.
+QColor textGroundOf(const workbench::CanvasItem& item)
+{
+    const QTextDocument* const document = documentOf(item);
+    QSet<QRgb> grounds;
+    for (QTextBlock block = document != nullptr ? document->begin() : QTextBlock(); block.isValid();
+         block = block.next()) {
+        for (auto run = block.begin(); !run.atEnd(); ++run) {
+            if (run.fragment().text().trimmed().isEmpty()) {
+                continue;
+            }
+            const QBrush own = run.fragment().charFormat().background();
+            const QBrush ground =
+                own.style() != Qt::NoBrush ? own : block.blockFormat().background();
+            grounds.insert(ground.style() != Qt::NoBrush ? ground.color().rgba() : 0);
+        }
     }
-    grounds.removeDuplicates();
-    return grounds.size() == 1 ? QColor(grounds.constFirst()) : QColor();
+    return grounds.size() == 1 && *grounds.begin() != 0 ? QColor::fromRgba(*grounds.begin())
+                                                        : QColor();
 }
 
 QString shownText(const workbench::CanvasItem& item, const ItemValues& values)
 {
-    const auto* const document = dynamic_cast<const QGraphicsTextItem*>(item.graphicsItem());
+    const QTextDocument* const document = documentOf(item);
     // Invisible pictures keep the room of objects in a text.
     const QString text = document != nullptr
                              ? document->toPlainText().remove(QChar::ObjectReplacementCharacter)
@@ -147,7 +165,7 @@ void checkItemAppearance(const workbench::CanvasItem& item, const ItemValues& va
         facts.families = familiesOf(values);
         facts.isFormatted = !values.text->html.isEmpty();
         facts.textColor = textColorOf(values);
-        facts.textGround = textGroundOf(values);
+        facts.textGround = textGroundOf(item);
     } else if (values.barcode) {
         facts.families = familiesOf(values);
     }
