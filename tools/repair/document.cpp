@@ -68,6 +68,7 @@ Document Document::withPage(std::unique_ptr<Node> onlyPage, int number) const
     copy.m_madeStyles = m_madeStyles;
     copy.m_made = m_made;
     copy.wasText = wasText;
+    copy.spaces = spaces;
     copy.hasMasterStyles = hasMasterStyles;
     copy.pageNumber = number;
     Node& inside = *copy.body();

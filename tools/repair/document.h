@@ -1,5 +1,6 @@
 #pragma once
 
+#include "repair/paragraph_spaces.h"
 #include "repair/styles.h"
 #include "repair/xml_tree.h"
 
@@ -34,6 +35,7 @@ public:
     int pageNumber = 1;
     /// Whether the page was laid out from a text document.
     bool wasText = false;
+    SpaceRules spaces;
     /// Whether the styles of the master pages are among those of the content.
     bool hasMasterStyles = false;
 

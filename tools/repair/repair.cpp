@@ -156,6 +156,7 @@ DocumentRepair::DocumentRepair(const QString& fileName)
     note(m_repairs, "controls-replaced"_L1, showControls(*m_document));
     note(m_repairs, "headings-numbered"_L1, labelParagraphs(*m_document));
     if (m_document->isText()) {
+        m_document->spaces = readSpaceRules(*m_document);
         note(m_repairs, "page-layout-chosen"_L1, usePageLayout(*m_document));
         note(m_repairs, "text-laid-out"_L1, 1);
         m_pages = layOutPages(*m_document);

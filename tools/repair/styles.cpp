@@ -39,6 +39,17 @@ void readProperties(const Node* element, Properties& target)
     }
 }
 
+// A style that states all sides at once replaces each side of its parent.
+void stateSides(Properties& properties, const QString& name)
+{
+    const QString all = properties.value(name);
+    for (const QLatin1StringView side : {"-left"_L1, "-right"_L1, "-top"_L1, "-bottom"_L1}) {
+        if (toPoints(all) && !properties.contains(name + side)) {
+            properties.insert(name + side, all);
+        }
+    }
+}
+
 QString keyOf(const QString& first, const QString& second)
 {
     return first + u'\n' + second;
@@ -124,6 +135,7 @@ StyleProperties StyleTable::ownProperties(const Node& style)
     StyleProperties own;
     readProperties(style.child(u"style:graphic-properties"), own.graphic);
     readProperties(style.child(u"style:paragraph-properties"), own.paragraph);
+    stateSides(own.paragraph, u"fo:margin"_s);
     readProperties(style.child(u"style:text-properties"), own.text);
     if (style.hasAttribute(u"style:list-style-name"_s)) {
         own.list = style.attribute(u"style:list-style-name");
@@ -200,6 +212,12 @@ Properties StyleTable::indentOverList(const QString& paragraphStyle) const
         found = m_styles.constFind(keyOf(u"paragraph"_s, found->parent));
     }
     return ofParagraph;
+}
+
+QString StyleTable::namedStyle(const QString& paragraphStyle) const
+{
+    const auto found = m_styles.constFind(keyOf(u"paragraph"_s, paragraphStyle));
+    return found != m_styles.constEnd() && found->isAutomatic ? found->parent : paragraphStyle;
 }
 
 void StyleTable::add(const QString& family, const QString& name, const StyleProperties& properties)

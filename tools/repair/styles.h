@@ -45,6 +45,8 @@ public:
     /// The indents that a paragraph has in place of those of its list: its own, and those of its
     /// styles that are more specific than the one that states the list.
     [[nodiscard]] Properties indentOverList(const QString& paragraphStyle) const;
+    /// The style that an automatic one is based on; the name itself for others.
+    [[nodiscard]] QString namedStyle(const QString& paragraphStyle) const;
     /// Adds a style that inherits nothing but the defaults.
     void add(const QString& family, const QString& name, const StyleProperties& properties);
     /// The family of a font declaration; the name itself if it is not declared.

@@ -6,6 +6,7 @@
 #include "repair/list_labels.h"
 #include "repair/numbering.h"
 #include "repair/page_end.h"
+#include "repair/paragraph_spaces.h"
 
 #include <algorithm>
 
@@ -28,10 +29,11 @@ constexpr QLatin1StringView ParagraphNames[] = {
 class BlockWriter
 {
 public:
-    BlockWriter(Document& document, TextCounts& counts)
+    BlockWriter(Document& document, const Node& frame, TextCounts& counts)
         : m_document(document)
         , m_counts(counts)
         , m_reader(document, counts)
+        , m_spaces(document, frame)
     {}
 
     void rewrite(Node& container, const StyleProperties& base);
@@ -54,6 +56,7 @@ private:
     Document& m_document;
     TextCounts& m_counts;
     RunReader m_reader;
+    ParagraphSpaces m_spaces;
     StyleProperties m_base;
     Node::Children m_paragraphs;
 };
@@ -75,6 +78,7 @@ void BlockWriter::rewrite(Node& container, const StyleProperties& base)
             readBlocks(*note, nullptr, 0);
         }
     }
+    m_spaces.finish();
     container.children = std::move(m_paragraphs);
     std::move(others.begin(), others.end(), std::back_inserter(container.children));
 }
@@ -170,6 +174,7 @@ void BlockWriter::writeParagraph(const Node& paragraph, const List* list)
         const int level = paragraph.attribute(u"text:outline-level").toInt();
         addLabel(paragraph, levelIn(outlineStyle(table), std::max(level, 1)), style, runs);
     }
+    m_spaces.join(paragraph.attribute(u"text:style-name"), style.paragraph);
     StyleProperties shown;
     for (const QLatin1StringView name : ParagraphNames) {
         if (style.paragraph.contains(name)) {
@@ -187,7 +192,7 @@ void BlockWriter::writeParagraph(const Node& paragraph, const List* list)
         shown.text.insert(u"style:font-name"_s, font);
     }
     auto written = Node::element(u"text:p"_s);
-    written->setAttribute(u"text:style-name"_s, m_document.styleFor(u"paragraph"_s, shown));
+    m_spaces.written(*written, shown);
     if (m_document.wasText) {
         writeKeeps(style.paragraph, *written);
     }
@@ -211,7 +216,7 @@ void simplifyInside(Document& document, Node& parent, const Node* frame, TextCou
     }
     if (frame != nullptr && holdsText(parent)) {
         const Node& shape = parent.is(u"draw:text-box") ? *frame : parent;
-        BlockWriter(document, counts).rewrite(parent, textBase(document, shape));
+        BlockWriter(document, shape, counts).rewrite(parent, textBase(document, shape));
     }
 }
 

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "repair/styles.h"
+#include "repair/xml_tree.h"
+
+#include <QString>
+
+namespace repair {
+
+class Document;
+
+/// What the settings of a text document say about the spaces above and below its paragraphs.
+struct SpaceRules
+{
+    bool addUp = true;   ///< between two paragraphs; otherwise the larger one counts
+    bool atStart = true; ///< above the first paragraph of a page, cell or frame
+    bool inCells = true; ///< below the last paragraph of a cell
+};
+
+[[nodiscard]] SpaceRules readSpaceRules(const Document& document);
+
+/// The spaces between the paragraphs of one text: what is written always adds up.
+class ParagraphSpaces
+{
+public:
+    /// @param frame that contains the text; every paragraph of a drawing keeps its spaces
+    ParagraphSpaces(Document& document, const Node& frame);
+
+    /// Writes the space above a paragraph into its style, and takes back that below the one before
+    /// if the two are to have none between them.
+    ///
+    /// @param styleName of the paragraph in the document
+    void join(const QString& styleName, Properties& paragraph);
+    /// Names the paragraph with the style that was joined last.
+    void written(Node& paragraph, const StyleProperties& shown);
+    /// No paragraph follows.
+    void finish();
+
+private:
+    void takeBackBelow();
+
+    Document& m_document;
+    const bool m_isJoined;
+    const bool m_isAtStart;
+    const bool m_isCell;
+    const bool m_flows;
+    // Of the paragraph before:
+    Node* m_paragraph = nullptr;
+    StyleProperties m_shown;
+    QString m_named;
+    bool m_isContextual = false;
+};
+
+} // namespace repair
