@@ -238,6 +238,15 @@ const Node& firstParagraph(const Node& block)
     return *node;
 }
 
+const Node& lastParagraph(const Node& block)
+{
+    const Node* node = &block;
+    while (!isParagraph(*node) && !node->children.empty() && node->children.back() != nullptr) {
+        node = node->children.back().get();
+    }
+    return *node;
+}
+
 bool isShape(const Node& node)
 {
     return node.name.startsWith("draw:"_L1) && !node.is(u"draw:a");

@@ -61,5 +61,6 @@ void writeFrameStyle(Document& document, Node& frame);
 [[nodiscard]] bool isParagraph(const Node& node);
 /// The paragraph that gives a block its breaks between pages: the first one of a list.
 [[nodiscard]] const Node& firstParagraph(const Node& block);
+[[nodiscard]] const Node& lastParagraph(const Node& block);
 
 } // namespace repair

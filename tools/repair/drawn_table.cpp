@@ -2,6 +2,7 @@
 
 #include "repair/document.h"
 #include "repair/lengths.h"
+#include "repair/table_columns.h"
 #include "repair/table_rows.h"
 #include "repair/transform.h"
 
@@ -93,7 +94,8 @@ Node::Children drawnTableCells(Document& document, Node& frame)
         return cells;
     }
     const Placement placement = placementOf(frame);
-    const QList<double> widths = columnWidths(document, *table, placement.size.width());
+    const QList<double> widths =
+        fittedWidths(statedWidths(document, *table).points, placement.size.width());
     const QList<Node*> rows = rowsOf(*table);
     const QList<double> heights = rowHeights(document, rows, placement.size.height());
     const QPointF corner = placement.toPage.map(QPointF());

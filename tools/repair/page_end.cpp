@@ -96,6 +96,24 @@ void moveAnchored(Node& page, Node::Children& rest)
     }
 }
 
+// The space above a text or table is not repeated where it continues.
+void beginAtTop(const Node::Children& rest)
+{
+    int first = 0;
+    for (const auto& object : rest) {
+        if (const int row = rowOf(*object); row > 0 && (first == 0 || row < first)) {
+            first = row;
+        }
+    }
+    for (const auto& object : rest) {
+        const bool isText =
+            object->hasAttribute(FlowsAttribute) || object->hasAttribute(TableAttribute);
+        if (isText && rowOf(*object) == first) {
+            object->setAttribute(u"svg:y"_s, u"0in"_s);
+        }
+    }
+}
+
 bool isHeaderOf(const Node& object, const QString& table)
 {
     return object.hasAttribute(HeaderAttribute) && object.attribute(TableAttribute) == table;
@@ -197,6 +215,7 @@ Node::Children takeRest(Document& document, const PageEnd& end)
     moveObjects(page, rest, [firstRow](const Node& object) {
         return rowOf(object) >= firstRow || object.attribute(FromRowAttribute).toInt() >= firstRow;
     });
+    beginAtTop(rest);
     moveAnchored(page, rest);
     repeatHeader(page, table, rest);
     const bool isVisible = std::any_of(rest.begin(), rest.end(),

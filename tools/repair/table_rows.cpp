@@ -6,6 +6,7 @@
 #include "repair/lengths.h"
 #include "repair/page_end.h"
 #include "repair/shape_place.h"
+#include "repair/table_columns.h"
 
 #include <QList>
 #include <QStringList>
@@ -29,24 +30,6 @@ QString firstColor(const QStringList& colors)
     return found != colors.end() ? *found : QString();
 }
 
-void readColumns(const Document& document, const Node& parent, QList<double>& widths)
-{
-    for (const auto& child : parent.children) {
-        if (child->is(u"table:table-column")) {
-            const double width =
-                toPoints(statedBy(document, *child, u"style:table-column-properties"_s)
-                             .value(u"style:column-width"_s))
-                    .value_or(0.0);
-            const int count = repeats(*child, u"table:number-columns-repeated", MaximumColumns);
-            for (int i = 0; i < count && widths.size() < MaximumColumns; ++i) {
-                widths.append(width);
-            }
-        } else if (child->is(u"table:table-columns") || child->is(u"table:table-header-columns")) {
-            readColumns(document, *child, widths);
-        }
-    }
-}
-
 Properties cellGround(const Properties& cell, const QString& fill)
 {
     Properties ground;
@@ -56,10 +39,12 @@ Properties cellGround(const Properties& cell, const QString& fill)
         ground.insert(u"draw:fill-color"_s, fill);
     }
     // The border is between the paddings of two cells.
-    const QString padding = cell.value(u"fo:padding"_s);
-    if (!padding.isEmpty()) {
-        const double border = toPoints(ground.value(u"svg:stroke-width"_s)).value_or(0.0);
-        ground.insert(u"fo:padding"_s, toInches(toPoints(padding).value_or(0.0) + border / 2.0));
+    const double border = toPoints(ground.value(u"svg:stroke-width"_s)).value_or(0.0);
+    for (const QString& name : {u"fo:padding"_s, u"fo:padding-left"_s, u"fo:padding-right"_s,
+                                u"fo:padding-top"_s, u"fo:padding-bottom"_s}) {
+        if (const auto padding = toPoints(cell.value(name))) {
+            ground.insert(name, toInches(*padding + border / 2.0));
+        }
     }
     ground.insert(u"draw:textarea-vertical-align"_s, cell.value(u"style:vertical-align"_s));
     return ground;
@@ -77,11 +62,13 @@ double rowHeight(const Properties& row)
 class TableReader
 {
 public:
-    TableReader(Document& document, QList<double> widths, const TextPlace& place, QString fill,
-                int& row)
+    TableReader(Document& document, TableRange range, const TextPlace& place, QString fill,
+                int& row, double above)
         : m_document(document)
-        , m_widths(std::move(widths))
+        , m_left(place.column.left() + range.left)
+        , m_widths(std::move(range.widths))
         , m_place(place)
+        , m_above(above)
         , m_fill(std::move(fill))
         , m_row(row)
         , m_number(QString::number(document.newMark()))
@@ -95,8 +82,10 @@ private:
     [[nodiscard]] double widthOf(qsizetype column, int span) const;
 
     Document& m_document;
+    const double m_left; // on the page
     const QList<double> m_widths;
     const TextPlace& m_place;
+    double m_above;       // the next row, until one is read
     const QString m_fill; // color of the table; may be empty
     int& m_row;
     const QString m_number; // of the table
@@ -125,7 +114,7 @@ void TableReader::readRow(Node& row)
         const int count = repeats(*cell, u"table:number-columns-repeated", MaximumColumns);
         if (cell->is(u"table:table-cell")) {
             const int span = repeats(*cell, u"table:number-columns-spanned", MaximumColumns);
-            const QRectF box(m_place.column.left() + widthOf(0, static_cast<int>(column)), 0.0,
+            const QRectF box(m_left + widthOf(0, static_cast<int>(column)), m_above,
                              widthOf(column, span), height);
             const Properties style = statedBy(m_document, *cell, u"style:table-cell-properties"_s);
             const QString fill = firstColor({style.value(BackgroundColor), rowFill, m_fill});
@@ -146,6 +135,7 @@ void TableReader::readRow(Node& row)
         }
         column += cell->isText() ? 0 : count;
     }
+    m_above = 0.0;
 }
 
 void TableReader::readRows(Node& parent, int depth)
@@ -191,24 +181,6 @@ Properties statedInStyle(const Document& document, const QString& style, const Q
 int repeats(const Node& node, QStringView attribute, int most)
 {
     return std::clamp(node.attribute(attribute).toInt(), 1, most);
-}
-
-QList<double> columnWidths(const Document& document, const Node& table, double room)
-{
-    QList<double> widths;
-    readColumns(document, table, widths);
-    double given = 0.0;
-    qsizetype open = 0;
-    for (const double width : widths) {
-        given += width;
-        open += width > 0.0 ? 0 : 1;
-    }
-    const double share = open > 0 ? std::max(0.0, room - given) / static_cast<double>(open) : 0.0;
-    const double scale = given > room && room > 0.0 ? room / given : 1.0;
-    for (double& width : widths) {
-        width = width > 0.0 ? width * scale : share;
-    }
-    return widths;
 }
 
 void takeParagraphs(Node& parent, Node& target, int depth)
@@ -265,12 +237,12 @@ std::unique_ptr<Node> textFrame(Document& document, const QRectF& box, const Pro
     return frame;
 }
 
-Node::Children tableCells(Document& document, Node& table, const TextPlace& place, int& row)
+Node::Children tableCells(Document& document, Node& table, const TextPlace& place, int& row,
+                          double above)
 {
-    const QString fill =
-        statedBy(document, table, u"style:table-properties"_s).value(BackgroundColor);
-    TableReader reader(document, columnWidths(document, table, place.column.width()), place, fill,
-                       row);
+    const Properties own = statedBy(document, table, u"style:table-properties"_s);
+    TableReader reader(document, tableRange(document, table, own, place.column.width()), place,
+                       own.value(BackgroundColor), row, above);
     reader.readRows(table, 0);
     return reader.take();
 }

@@ -3,7 +3,6 @@
 #include "repair/styles.h"
 #include "repair/xml_tree.h"
 
-#include <QList>
 #include <QRectF>
 
 namespace repair {
@@ -32,8 +31,9 @@ void addBorder(const Properties& source, Properties& target);
 ///
 /// @param place of the table
 /// @param row   counted on for each row of the table
+/// @param above points between the first row and what is above it
 [[nodiscard]] Node::Children tableCells(Document& document, Node& table, const TextPlace& place,
-                                        int& row);
+                                        int& row, double above = 0.0);
 
 /// Columns of one table, and rows of it: what fits on a page and more.
 inline constexpr int MaximumColumns = 256;
@@ -43,8 +43,6 @@ inline constexpr int MaximumRowGroupDepth = 20;
 
 /// A number of repetitions, at least 1.
 [[nodiscard]] int repeats(const Node& node, QStringView attribute, int most);
-/// The widths of a table's columns in points; columns without one share what is left.
-[[nodiscard]] QList<double> columnWidths(const Document& document, const Node& table, double room);
 /// Moves the paragraphs of a cell, those of a table inside it included.
 void takeParagraphs(Node& parent, Node& target, int depth);
 
