@@ -144,6 +144,35 @@ TEST(RepairedReport, TextIsReadableOnTheGroundOfItsParagraph)
     EXPECT_EQ(findingOf(report, lossCode(LossKind::TextUnreadable)), nullptr);
 }
 
+TEST(RepairedReport, ShadowsOfPagesAreMissed)
+{
+    const auto verdict = [](const QByteArray& shadow) {
+        return verdictOf(repairedReport(
+            odt("<text:p>Text</text:p>",
+                {.pageLayout =
+                     "fo:page-width=\"4in\" fo:page-height=\"3in\" style:shadow=\"" + shadow + '"',
+                 .masterPages = "<style:master-page style:name=\"Standard\" "
+                                "style:page-layout-name=\"L\"/>"})));
+    };
+    EXPECT_EQ(verdict("none"), Verdict::Complete);
+    EXPECT_EQ(verdict("#808080 0.1in 0.1in"), Verdict::Changed);
+}
+
+// A picture that cannot be read leaves a color.
+TEST(RepairedReport, PicturesThatFillShapesAreMissedIfTheyCannotBeRead)
+{
+    const FileReport report = repairedReport(
+        odg("<draw:rect draw:style-name=\"B\" svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+            "svg:height=\"1in\"/>",
+            {.automaticStyles = "<style:style style:name=\"B\" style:family=\"graphic\">"
+                                "<style:graphic-properties draw:fill=\"bitmap\" "
+                                "draw:fill-image-name=\"P\"/></style:style>",
+             .commonStyles = "<draw:fill-image draw:name=\"P\" xlink:href=\"Pictures/p.wmf\"/>"}));
+    EXPECT_EQ(report.objects.imported, 1);
+    EXPECT_NE(findingOf(report, lossCode(LossKind::PictureFill)), nullptr)
+        << codesOf(report).toStdString();
+}
+
 // The reader puts all text on one side.
 TEST(RepairedReport, TextOnOneSideOfAnObjectIsAChange)
 {

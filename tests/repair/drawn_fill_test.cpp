@@ -1,4 +1,4 @@
-// Gradients and their transparency.
+// Gradients and their transparency, and pictures.
 
 #include "tests/repair/documents.h"
 
@@ -74,25 +74,99 @@ TEST(DrawnFill, HasATransparencyThatChanges)
     EXPECT_TRUE(svg.contains("stop-color=\"#00ff00\" stop-opacity=\"0.250\""_L1));
 }
 
-TEST(DrawnFill, OfAPictureHasItsMeanColor)
+namespace {
+
+/// What fills a square of an inch with a picture of 12 points: red on the left, blue on the right.
+///
+/// @param properties of the square
+/// @return the picture that is drawn; null if there is none
+QImage paintedSquare(const QByteArray& properties, const QString& member = u"Pictures/p.png"_s)
 {
     Document document =
         drawing("<draw:rect draw:style-name=\"b\" svg:width=\"1in\" svg:height=\"1in\"/>",
                 "<style:style style:name=\"b\" style:family=\"graphic\"><style:graphic-properties "
-                "draw:fill=\"bitmap\" draw:fill-image-name=\"P\"/></style:style>",
+                "draw:fill=\"bitmap\" draw:fill-image-name=\"P\" " +
+                    properties + "/></style:style>",
                 "<draw:fill-image draw:name=\"P\" xlink:href=\"Pictures/p.png\"/>");
-    QImage picture(2, 1, QImage::Format_RGB32);
-    picture.setPixelColor(0, 0, QColor(200, 0, 100));
-    picture.setPixelColor(1, 0, QColor(100, 0, 200));
+    QImage picture(16, 16, QImage::Format_RGB32);
+    picture.setDotsPerMeterX(3780);
+    picture.setDotsPerMeterY(3780);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            picture.setPixelColor(x, y, x < picture.width() / 2 ? Qt::red : Qt::blue);
+        }
+    }
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    ASSERT_TRUE(picture.save(&buffer, "PNG"));
-    document.readMember = [bytes](const QString& name) {
-        return name == "Pictures/p.png"_L1 ? bytes : QByteArray();
+    EXPECT_TRUE(picture.save(&buffer, "PNG"));
+    document.readMember = [bytes, member](const QString& name) {
+        return name == member ? bytes : QByteArray();
     };
     EXPECT_EQ(drawShapes(document), 1);
-    EXPECT_TRUE(drawingOf(document).contains("fill=\"#960096\""_L1))
-        << drawingOf(document).toStdString();
+    const QString svg = drawingOf(document);
+    const QString start = u"data:image/png;base64,"_s;
+    const qsizetype begin = svg.indexOf(start) + start.size();
+    return svg.contains(start)
+               ? QImage::fromData(QByteArray::fromBase64(
+                     svg.sliced(begin, svg.indexOf(u'"', begin) - begin).toLatin1()))
+               : QImage();
+}
+
+/// The color at shares of the sides.
+QColor colorAt(const QImage& picture, double x, double y)
+{
+    return picture.pixelColor(int(x * (picture.width() - 1)), int(y * (picture.height() - 1)));
+}
+
+} // namespace
+
+TEST(DrawnFill, StretchesAPicture)
+{
+    const QImage picture = paintedSquare("style:repeat=\"stretch\"");
+    ASSERT_FALSE(picture.isNull());
+    EXPECT_EQ(colorAt(picture, 0.25, 0.9), QColor(Qt::red));
+    EXPECT_EQ(colorAt(picture, 0.75, 0.1), QColor(Qt::blue));
+}
+
+TEST(DrawnFill, ShowsAPictureOnce)
+{
+    const QImage picture = paintedSquare("style:repeat=\"no-repeat\"");
+    ASSERT_FALSE(picture.isNull());
+    EXPECT_EQ(colorAt(picture, 0.46, 0.5), QColor(Qt::red));
+    EXPECT_EQ(colorAt(picture, 0.54, 0.5), QColor(Qt::blue));
+    EXPECT_EQ(colorAt(picture, 0.2, 0.5).alpha(), 0);
+    const QImage corner =
+        paintedSquare("style:repeat=\"no-repeat\" draw:fill-image-ref-point=\"bottom-right\" "
+                      "draw:fill-image-width=\"0.5in\" draw:fill-image-height=\"50%\"");
+    EXPECT_EQ(colorAt(corner, 0.6, 0.6), QColor(Qt::red));
+    EXPECT_EQ(colorAt(corner, 0.9, 0.6), QColor(Qt::blue));
+    EXPECT_EQ(colorAt(corner, 0.9, 0.4).alpha(), 0);
+}
+
+TEST(DrawnFill, RepeatsAPicture)
+{
+    // Six times along a side.
+    const QImage picture = paintedSquare("draw:fill-image-ref-point=\"top-left\"");
+    ASSERT_FALSE(picture.isNull());
+    for (const double tile : {0.0, 1.0, 5.0}) {
+        EXPECT_EQ(colorAt(picture, (tile + 0.25) / 6.0, 0.9), QColor(Qt::red));
+        EXPECT_EQ(colorAt(picture, (tile + 0.75) / 6.0, 0.1), QColor(Qt::blue));
+    }
+    const QImage shifted = paintedSquare("draw:fill-image-ref-point=\"top-left\" "
+                                         "draw:fill-image-ref-point-x=\"50%\"");
+    EXPECT_EQ(colorAt(shifted, 0.25 / 6.0, 0.5), QColor(Qt::blue));
+}
+
+TEST(DrawnFill, OfAPictureCanBeTransparent)
+{
+    const QImage picture = paintedSquare("style:repeat=\"stretch\" draw:opacity=\"40%\"");
+    ASSERT_FALSE(picture.isNull());
+    EXPECT_NEAR(colorAt(picture, 0.25, 0.5).alpha(), 102, 2);
+}
+
+TEST(DrawnFill, WithoutItsPictureIsAColor)
+{
+    EXPECT_TRUE(paintedSquare("style:repeat=\"stretch\"", u"Pictures/other.png"_s).isNull());
 }
 
 TEST(DrawnTable, HasSpaceAroundTheTextsOfItsCells)

@@ -147,6 +147,7 @@ public:
         , m_pen(penOf(graphic, table))
     {}
 
+    void add(const PictureFill& picture);
     void add(const Outline& outline);
     [[nodiscard]] Drawing finished();
 
@@ -158,12 +159,23 @@ private:
     const Pen m_pen;
     FillWriter m_fills;
     QString m_body;
+    bool m_hasPicture = false;
     QRectF m_bounds;
 };
 
+void Writer::add(const PictureFill& picture)
+{
+    m_hasPicture = true;
+    m_body +=
+        u"<image x=\"%1\" y=\"%2\" width=\"%3\" height=\"%4\" preserveAspectRatio=\"none\" "
+        "xlink:href=\"data:image/png;base64,%5\"/>"_s.arg(
+            svgNumber(picture.box.x()), svgNumber(picture.box.y()), svgNumber(picture.box.width()),
+            svgNumber(picture.box.height()), QString::fromLatin1(picture.png.toBase64()));
+}
+
 void Writer::add(const Outline& outline)
 {
-    if (outline.isFilled) {
+    if (outline.isFilled && !m_hasPicture) {
         m_body += m_fills.fill(outline.path, m_graphic, m_table);
     }
     m_bounds |= outline.path.boundingRect();
@@ -194,7 +206,8 @@ Drawing Writer::finished()
         m_bounds.adjust(-Hairline, -Hairline, Hairline, Hairline);
     }
     const QString svg =
-        u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%3pt\" height=\"%4pt\" "
+        u"<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
+        u"width=\"%3pt\" height=\"%4pt\" "
         "viewBox=\"%1 %2 %3 %4\"><defs>%5</defs>%6</svg>"_s.arg(
             svgNumber(m_bounds.x()), svgNumber(m_bounds.y()), svgNumber(m_bounds.width()),
             svgNumber(m_bounds.height()), m_fills.definitions(), m_body);
@@ -204,9 +217,12 @@ Drawing Writer::finished()
 } // namespace
 
 Drawing makeDrawing(const std::vector<Outline>& outlines, const Properties& graphic,
-                    const StyleTable& table)
+                    const StyleTable& table, const std::optional<PictureFill>& picture)
 {
     Writer writer(graphic, table);
+    if (picture) {
+        writer.add(*picture);
+    }
     for (const Outline& outline : outlines) {
         writer.add(outline);
     }

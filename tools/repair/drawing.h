@@ -1,6 +1,7 @@
 #pragma once
 
 #include "repair/enhanced_path.h"
+#include "repair/picture_fill.h"
 #include "repair/styles.h"
 
 #include <QByteArray>
@@ -19,8 +20,11 @@ struct Drawing
 
 /// Draws outlines, given in points on the page, in the pen and fill of a graphic style.
 /// Open outlines get the style's arrow heads.
+///
+/// @param picture the fill, if it is one
 [[nodiscard]] Drawing makeDrawing(const std::vector<Outline>& outlines, const Properties& graphic,
-                                  const StyleTable& table);
+                                  const StyleTable& table,
+                                  const std::optional<PictureFill>& picture = std::nullopt);
 
 /// Whether an item can show the fill: none, or a plain color.
 [[nodiscard]] bool isPlainFill(const Properties& graphic);

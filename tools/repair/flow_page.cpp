@@ -3,6 +3,7 @@
 #include "repair/anchored_shapes.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
+#include "repair/page_grounds.h"
 #include "repair/page_steps.h"
 #include "repair/shape_place.h"
 #include "repair/table_rows.h"
@@ -30,8 +31,7 @@ void addMargin(Document& document, const Node* margin, const PageArea& area, boo
     if (margin == nullptr) {
         return;
     }
-    QRectF box = area.box;
-    box.setTop(isHeader ? area.headerTop : area.footerTop);
+    QRectF box = isHeader ? area.header : area.footer;
     box.setHeight(linesHeight(document, *margin));
     auto frame = textFrame(document, box, {});
     Node& text = *frame->child(u"draw:text-box");
@@ -100,8 +100,9 @@ void placeOnPages(Document& document, std::vector<FlowPage>& pages, Node::Childr
 std::unique_ptr<Node> pageOf(Document& document, FlowPage flow, bool isFull)
 {
     auto page = Node::element(u"draw:page"_s);
-    page->children = textLast(std::move(flow.objects));
     const PageArea& area = flow.area;
+    page->children = pageGrounds(document, flow.master, area);
+    std::ranges::move(textLast(std::move(flow.objects)), std::back_inserter(page->children));
     page->setAttribute(TopAttribute, toInches(area.box.top()));
     if (area.box.height() >= LowestPage) {
         const double lowest = lowestLine(area, isFull ? EditorsMarginShare : MarginShare);

@@ -18,6 +18,25 @@ constexpr double DefaultSize = 12.0;
 // Of a letter, per font size.
 constexpr double WidthShare = 0.45;
 
+// Of a page, header or footer, on one side: padding and border, in points.
+double insetOf(const Node& properties, const QString& side)
+{
+    const auto stated = [&](const QString& name) {
+        const QString ofSide = properties.attribute(name + u'-' + side);
+        return ofSide.isEmpty() ? properties.attribute(name) : ofSide;
+    };
+    const QString border = stated(u"fo:border"_s);
+    const bool isDrawn = !border.isEmpty() && border != "none"_L1;
+    return toPoints(stated(u"fo:padding"_s)).value_or(0.0) +
+           (isDrawn ? toPoints(border.section(u' ', 0, 0)).value_or(0.0) : 0.0);
+}
+
+QRectF insideOf(const QRectF& frame, const Node& properties)
+{
+    return frame.adjusted(insetOf(properties, u"left"_s), insetOf(properties, u"top"_s),
+                          -insetOf(properties, u"right"_s), -insetOf(properties, u"bottom"_s));
+}
+
 /// A header or footer, in points.
 struct Margin
 {
@@ -38,9 +57,11 @@ Margin marginOf(Document& document, const Node* master, const Node& layout, cons
     const Node* const properties =
         style != nullptr ? style->child(u"style:header-footer-properties") : nullptr;
     if (properties != nullptr) {
-        margin.height = std::max({margin.height, pointsOf(*properties, u"fo:min-height"),
-                                  pointsOf(*properties, u"svg:height")});
         margin.distance = pointsOf(*properties, side);
+        // The stated height includes the distance.
+        const double stated =
+            std::max(pointsOf(*properties, u"fo:min-height"), pointsOf(*properties, u"svg:height"));
+        margin.height = std::max(margin.height, stated - margin.distance);
     }
     return margin;
 }
@@ -98,18 +119,26 @@ double textHeight(Document& document, const Node& block, double width)
            toPoints(style.paragraph.value(u"fo:margin-bottom"_s)).value_or(0.0);
 }
 
+const Node* pageLayout(const Document& document, const Node* master)
+{
+    const Node* const automatic = document.styles->child(u"office:automatic-styles");
+    const Node* const named = master != nullptr
+                                  ? childNamed(automatic, u"style:page-layout",
+                                               master->attribute(u"style:page-layout-name"))
+                                  : nullptr;
+    return named != nullptr || automatic == nullptr ? named
+                                                    : automatic->child(u"style:page-layout");
+}
+
 PageArea pageArea(Document& document, const Node* master)
 {
     // A page that is not described has the reader's default.
-    PageArea area{QRectF(0.0, 0.0, 612.0, 792.0), QSizeF(612.0, 792.0), 0.0, 792.0, 792.0};
-    const Node* const automatic = document.styles->child(u"office:automatic-styles");
-    const Node* layout = master != nullptr
-                             ? childNamed(automatic, u"style:page-layout",
-                                          master->attribute(u"style:page-layout-name"))
-                             : nullptr;
-    if (layout == nullptr && automatic != nullptr) {
-        layout = automatic->child(u"style:page-layout");
-    }
+    PageArea area{QRectF(0.0, 0.0, 612.0, 792.0),
+                  QSizeF(612.0, 792.0),
+                  QRectF(0.0, 0.0, 612.0, 792.0),
+                  {},
+                  {}};
+    const Node* const layout = pageLayout(document, master);
     const Node* const page =
         layout != nullptr ? layout->child(u"style:page-layout-properties") : nullptr;
     if (page == nullptr) {
@@ -122,21 +151,23 @@ PageArea pageArea(Document& document, const Node* master)
     const double width = toPoints(page->attribute(u"fo:page-width")).value_or(612.0);
     const double height = toPoints(page->attribute(u"fo:page-height")).value_or(792.0);
     area.size = {width, height};
-    area.headerTop = margin(u"top"_s);
-    area.footerBottom = height - margin(u"bottom"_s);
+    area.frame = QRectF(QPointF(margin(u"left"_s), margin(u"top"_s)),
+                        QPointF(width - margin(u"right"_s), height - margin(u"bottom"_s)));
+    area.box = insideOf(area.frame, *page);
     const Margin header = marginOf(document, master, *layout, u"header"_s, u"fo:margin-bottom"_s);
     const Margin footer = marginOf(document, master, *layout, u"footer"_s, u"fo:margin-top"_s);
-    area.footerTop = area.footerBottom - footer.height;
-    area.box = QRectF(QPointF(margin(u"left"_s), area.headerTop + header.height + header.distance),
-                      QPointF(width - margin(u"right"_s), area.footerTop - footer.distance));
+    area.header = QRectF(area.box.left(), area.box.top(), area.box.width(), header.height);
+    area.footer =
+        QRectF(area.box.left(), area.box.bottom() - footer.height, area.box.width(), footer.height);
+    area.box.adjust(0.0, header.height + header.distance, 0.0, -footer.height - footer.distance);
     return area;
 }
 
 double lowestLine(const PageArea& area, double share)
 {
-    const bool hasFooter = area.footerTop < area.footerBottom;
-    const double inMargin = area.footerBottom + share * (area.size.height() - area.footerBottom);
-    return std::max(area.box.bottom(), hasFooter ? area.footerTop : inMargin);
+    const double bottom = area.frame.bottom();
+    const double inMargin = bottom + share * (area.size.height() - bottom);
+    return std::max(area.box.bottom(), area.footer.isEmpty() ? inMargin : area.footer.top());
 }
 
 } // namespace repair

@@ -21,11 +21,15 @@ class Node;
 struct PageArea
 {
     QRectF box;
-    QSizeF size; ///< of the page
-    double headerTop = 0.0;
-    double footerTop = 0.0;
-    double footerBottom = 0.0;
+    QSizeF size;   ///< of the page
+    QRectF frame;  ///< within the margins: around header, text and footer, and their padding
+    QRectF header; ///< empty without a header
+    QRectF footer; ///< empty without a footer
 };
+
+/// The page layout of a master page, the first one if there is no master page; null if there is
+/// none.
+[[nodiscard]] const Node* pageLayout(const Document& document, const Node* master);
 
 /// The area that the margins, header and footer of a master page leave. The first page layout if
 /// there is no master page.

@@ -87,7 +87,7 @@ std::unique_ptr<Node> backgroundOf(Document& document, const Node& master)
     }
     StyleProperties style;
     for (auto it = fill.begin(); it != fill.end(); ++it) {
-        if (it.key().startsWith("draw:"_L1)) {
+        if (it.key().startsWith("draw:"_L1) || it.key() == "style:repeat"_L1) {
             style.graphic.insert(it.key(), it.value());
         }
     }

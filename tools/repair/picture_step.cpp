@@ -77,20 +77,8 @@ bool chooseIn(Document& document, Node& frame)
     return true;
 }
 
-// A picture that is not larger than the reader accepts.
-QImage smallEnough(QByteArray bytes)
+QByteArray mirrored(const QImage& image, bool isHorizontal, bool isVertical)
 {
-    QBuffer input(&bytes);
-    QImageReader reader(&input);
-    const QSize size = reader.size();
-    return size.isValid() && qint64(size.width()) * size.height() <= PicturePixels ? reader.read()
-                                                                                   : QImage();
-}
-
-// Nothing if the picture is a drawing, or larger than the reader accepts.
-QByteArray mirrored(QByteArray bytes, bool isHorizontal, bool isVertical)
-{
-    const QImage image = smallEnough(std::move(bytes));
     QByteArray result;
     QBuffer output(&result);
     return !image.isNull() && image.mirrored(isHorizontal, isVertical).save(&output, "PNG")
@@ -107,8 +95,8 @@ bool mirrorIn(Document& document, Node& frame)
     if (image == nullptr || !(isHorizontal || isVertical)) {
         return false;
     }
-    const QString name = plainName(image->attribute(u"xlink:href"));
-    const QByteArray bytes = mirrored(document.readMember(name), isHorizontal, isVertical);
+    const QByteArray bytes =
+        mirrored(readPicture(document, image->attribute(u"xlink:href")), isHorizontal, isVertical);
     if (bytes.isEmpty()) {
         return false;
     }
@@ -120,21 +108,14 @@ bool mirrorIn(Document& document, Node& frame)
 
 } // namespace
 
-void fillWithMeanColor(Document& document, Properties& graphic)
+QImage readPicture(const Document& document, const QString& reference)
 {
-    const Node* const fill =
-        graphic.value(u"draw:fill"_s) == "bitmap"_L1
-            ? document.table().named(u"draw:fill-image"_s, graphic.value(u"draw:fill-image-name"_s))
-            : nullptr;
-    if (fill == nullptr) {
-        return;
-    }
-    const QImage picture =
-        smallEnough(document.readMember(plainName(fill->attribute(u"xlink:href"))));
-    if (!picture.isNull()) {
-        const QImage mean = picture.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        graphic.insert(u"draw:fill-color"_s, mean.pixelColor(0, 0).name());
-    }
+    QByteArray bytes = document.readMember(plainName(reference));
+    QBuffer input(&bytes);
+    QImageReader reader(&input);
+    const QSize size = reader.size();
+    return size.isValid() && qint64(size.width()) * size.height() <= PicturePixels ? reader.read()
+                                                                                   : QImage();
 }
 
 bool hasReadablePicture(const Document& document, const Node& frame)

@@ -142,10 +142,14 @@ QPointF endOf(const Node& line)
 std::unique_ptr<Node> drawnFrame(Document& document, const Node& shape,
                                  const std::vector<Outline>& outlines)
 {
-    Properties graphic = graphicOf(document, shape);
-    fillWithMeanColor(document, graphic);
-    const Drawing drawing = makeDrawing(outlines, graphic, document.table());
+    const Properties graphic = graphicOf(document, shape);
+    const std::optional<PictureFill> picture = pictureFill(document, outlines, graphic);
+    const Drawing drawing = makeDrawing(outlines, graphic, document.table(), picture);
     auto frame = Node::element(u"draw:frame"_s);
+    if (graphic.value(u"draw:fill"_s) == "bitmap"_L1 && !picture) {
+        // So that the report finds what is not drawn.
+        frame->setAttribute(u"draw:style-name"_s, shape.attribute(u"draw:style-name"));
+    }
     for (const QString& name : {u"draw:name"_s, u"draw:z-index"_s, u"draw:layer"_s}) {
         if (shape.hasAttribute(name)) {
             frame->setAttribute(name, shape.attribute(name));

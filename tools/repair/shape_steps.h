@@ -2,6 +2,7 @@
 
 #include "repair/styles.h"
 
+#include <QImage>
 #include <QString>
 
 namespace repair {
@@ -36,8 +37,9 @@ int choosePictures(Document& document);
 /// Replaces pictures that are shown mirrored by mirrored ones.
 int mirrorPictures(Document& document);
 
-/// Gives a shape that is filled with a picture the mean color of the picture.
-void fillWithMeanColor(Document& document, Properties& graphic);
+/// A picture of the package; null if it is missing, damaged, a vector drawing, or larger than the
+/// reader accepts.
+[[nodiscard]] QImage readPicture(const Document& document, const QString& reference);
 /// Whether one of the pictures of a frame can be read.
 [[nodiscard]] bool hasReadablePicture(const Document& document, const Node& frame);
 

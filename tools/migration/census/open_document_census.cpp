@@ -172,13 +172,13 @@ void notePageSize(const Styles& styles, const MasterPage* used, Census& census)
     }
 }
 
-bool hasMargins(const Styles& styles, const MasterPage* used)
+PageLayout layoutOf(const Styles& styles, const MasterPage* used)
 {
-    return used != nullptr && std::any_of(styles.layouts.begin(), styles.layouts.end(),
-                                          [used](const PageLayout& layout) {
-                                              return layout.name == used->layout &&
-                                                     layout.hasMargins;
-                                          });
+    const auto found = std::find_if(styles.layouts.begin(), styles.layouts.end(),
+                                    [used](const PageLayout& layout) {
+                                        return used != nullptr && layout.name == used->layout;
+                                    });
+    return found != styles.layouts.end() ? *found : PageLayout();
 }
 
 QString missing(const char* name)
@@ -222,8 +222,12 @@ Census countOpenDocument(const QByteArray& file)
     if (body.isText && styles.book.numbersLines()) {
         census.note(LossKind::TextEffect, 1, u"text:linenumbering-configuration"_s);
     }
-    if (body.isText && hasMargins(styles, used)) {
+    const PageLayout layout = layoutOf(styles, used);
+    if (body.isText && layout.hasMargins) {
         census.note(LossKind::PageMargins);
+    }
+    if (body.isText && layout.hasShadow) {
+        census.note(LossKind::EffectDropped, 1, u"style:shadow"_s);
     }
     return census;
 }

@@ -38,11 +38,13 @@ void StylesReader::openOutside(const QString& name, const QXmlStreamAttributes& 
 {
     m_styles.book.take(name, attributes);
     if (name == "style:page-layout"_L1) {
-        m_styles.layouts.append({attributes.value("style:name"_L1).toString(), {}, {}, false});
+        m_styles.layouts.append({attributes.value("style:name"_L1).toString(), {}, {}});
     } else if (name == "style:page-layout-properties"_L1 && !m_styles.layouts.isEmpty()) {
         m_styles.layouts.last().width = attributes.value("fo:page-width"_L1).toString();
         m_styles.layouts.last().height = attributes.value("fo:page-height"_L1).toString();
         m_styles.layouts.last().hasMargins = hasMargins(attributes);
+        const QStringView shadow = attributes.value("style:shadow"_L1);
+        m_styles.layouts.last().hasShadow = !shadow.isEmpty() && shadow != "none"_L1;
     } else if (name == "style:master-page"_L1) {
         m_masterDepth = m_depth;
         m_styles.masterPages.append({attributes.value("style:name"_L1).toString(),

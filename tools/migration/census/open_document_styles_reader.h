@@ -20,6 +20,7 @@ struct PageLayout
     QString width;
     QString height;
     bool hasMargins = false;
+    bool hasShadow = false;
 };
 
 /// The objects in the background of the page.

@@ -49,6 +49,7 @@ constexpr std::array SeenInRepaired{
     LossKind::FontReplaced,
     LossKind::TextSpacing,
     LossKind::FillSimplified,
+    LossKind::PictureFill,
     LossKind::Other,
     LossKind::LineText,
     LossKind::TextDiffers,
