@@ -1,6 +1,7 @@
 #include "repair/fill_drawing.h"
 
 #include "repair/drawing.h"
+#include "repair/gradient.h"
 #include "repair/lengths.h"
 #include "repair/svg_path.h"
 #include "repair/xml_tree.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace repair {
 
@@ -48,19 +48,6 @@ const Node& unknownHatch()
     return *node;
 }
 
-// Counter-clockwise. Degrees with a unit; without one, older documents write tenths.
-double angleOf(const Node& node, QStringView attribute)
-{
-    const QString text = node.attribute(attribute);
-    if (text.endsWith("deg"_L1)) {
-        return text.chopped(3).toDouble();
-    }
-    if (text.endsWith("rad"_L1)) {
-        return text.chopped(3).toDouble() * DegreesPerRadian;
-    }
-    return text.toDouble() / 10.0;
-}
-
 QString dimmed(const QString& color, const QString& intensity)
 {
     const QColor full(color);
@@ -80,66 +67,6 @@ QString transparentStop(double offset, const QString& color, double opacity)
 {
     return u"<stop offset=\"%1\" stop-color=\"%2\" stop-opacity=\"%3\"/>"_s.arg(
         svgNumber(offset), color, svgNumber(opacity));
-}
-
-double borderOf(const Node& gradient)
-{
-    return gradient.hasAttribute(u"draw:border")
-               ? std::clamp(shareOf(gradient.attribute(u"draw:border")), 0.0, 1.0)
-               : 0.0;
-}
-
-QString linearGradient(const QString& id, const QRectF& box, double angle, const QString& stops)
-{
-    const double radians = angle / DegreesPerRadian;
-    const QPointF direction(std::sin(radians), std::cos(radians));
-    const double half =
-        (std::abs(box.width() * direction.x()) + std::abs(box.height() * direction.y())) / 2.0;
-    const QPointF from = box.center() - direction * half;
-    const QPointF to = box.center() + direction * half;
-    return u"<linearGradient id=\"%1\" gradientUnits=\"userSpaceOnUse\" x1=\"%2\" y1=\"%3\" "
-           "x2=\"%4\" y2=\"%5\">%6</linearGradient>"_s.arg(id, svgNumber(from.x()),
-                                                           svgNumber(from.y()), svgNumber(to.x()),
-                                                           svgNumber(to.y()), stops);
-}
-
-QString radialGradient(const QString& id, const QRectF& box, const Node& gradient,
-                       const QString& stops)
-{
-    const double cx =
-        gradient.hasAttribute(u"draw:cx") ? shareOf(gradient.attribute(u"draw:cx")) : 0.5;
-    const double cy =
-        gradient.hasAttribute(u"draw:cy") ? shareOf(gradient.attribute(u"draw:cy")) : 0.5;
-    const bool isRound = gradient.attribute(u"draw:style") == "radial"_L1;
-    // Around the box: a circle, or an ellipse of its proportions.
-    const double rx =
-        isRound ? std::hypot(box.width(), box.height()) / 2.0 : box.width() / std::sqrt(2.0);
-    const double ry = isRound ? rx : box.height() / std::sqrt(2.0);
-    return u"<radialGradient id=\"%1\" gradientUnits=\"userSpaceOnUse\" cx=\"0\" cy=\"0\" "
-           "r=\"1\" gradientTransform=\"translate(%2 %3) rotate(%4) scale(%5 %6)\">%7"
-           "</radialGradient>"_s.arg(id, svgNumber(box.x() + cx * box.width()),
-                                     svgNumber(box.y() + cy * box.height()),
-                                     svgNumber(isRound ? 0.0 : -angleOf(gradient, u"draw:angle")),
-                                     svgNumber(rx), svgNumber(ry), stops);
-}
-
-// The first color is that of the edge of a radial gradient, and of the middle of an axial one.
-QString gradientOf(const QString& id, const QRectF& box, const Node& gradient,
-                   const std::function<QString(double)>& first,
-                   const std::function<QString(double)>& last)
-{
-    const double border = borderOf(gradient);
-    const QString style = gradient.attribute(u"draw:style");
-    const double angle = angleOf(gradient, u"draw:angle");
-    if (style == "linear"_L1) {
-        return linearGradient(id, box, angle, first(0.0) + first(border) + last(1.0));
-    }
-    if (style == "axial"_L1) {
-        return linearGradient(id, box, angle,
-                              last(0.0) + last(border / 2.0) + first(0.5) +
-                                  last(1.0 - border / 2.0) + last(1.0));
-    }
-    return radialGradient(id, box, gradient, last(0.0) + first(1.0 - border) + first(1.0));
 }
 
 // The parts of a horizontal line that are inside the polygons.
@@ -196,42 +123,33 @@ QString hatch(const QPainterPath& path, const Node& hatch)
         colorName(hatch.attribute(u"draw:color"), u"#000000"_s), toSvgPath(lines));
 }
 
-QString plain(const QPainterPath& path, const QString& fill, const QString& attributes)
-{
-    return u"<path fill=\"%1\" fill-rule=\"evenodd\"%2 d=\"%3\"/>"_s.arg(fill, attributes,
-                                                                         toSvgPath(path));
-}
-
 } // namespace
 
 QString FillWriter::gradient(const QPainterPath& path, const Node& gradient,
                              const QString& attributes)
 {
-    const QString id = u"g%1"_s.arg(++m_gradients);
     const QString start = dimmed(colorName(gradient.attribute(u"draw:start-color"), u"#000000"_s),
                                  gradient.attribute(u"draw:start-intensity"));
     const QString end = dimmed(colorName(gradient.attribute(u"draw:end-color"), u"#ffffff"_s),
                                gradient.attribute(u"draw:end-intensity"));
-    m_definitions += gradientOf(
-        id, path.boundingRect(), gradient, [&start](double offset) { return stop(offset, start); },
-        [&end](double offset) { return stop(offset, end); });
-    return plain(path, u"url(#%1)"_s.arg(id), attributes);
+    return m_gradients.paint(path, gradient, attributes,
+                             {[&start](double offset) { return stop(offset, start); },
+                              [&end](double offset) { return stop(offset, end); },
+                              attributes.isEmpty()});
 }
 
 QString FillWriter::transparency(const QPainterPath& path, const QString& color,
                                  const Node& opacity)
 {
-    const QString id = u"g%1"_s.arg(++m_gradients);
     const auto shareAt = [&opacity](QStringView end) {
         return std::clamp(shareOf(opacity.attribute(end)), 0.0, 1.0);
     };
     const double start = shareAt(u"draw:start");
     const double end = shareAt(u"draw:end");
-    m_definitions += gradientOf(
-        id, path.boundingRect(), opacity,
-        [&color, start](double offset) { return transparentStop(offset, color, start); },
-        [&color, end](double offset) { return transparentStop(offset, color, end); });
-    return plain(path, u"url(#%1)"_s.arg(id), {});
+    return m_gradients.paint(
+        path, opacity, {},
+        {[&color, start](double offset) { return transparentStop(offset, color, start); },
+         [&color, end](double offset) { return transparentStop(offset, color, end); }, false});
 }
 
 QString FillWriter::fill(const QPainterPath& path, const Properties& graphic,
@@ -255,14 +173,14 @@ QString FillWriter::fill(const QPainterPath& path, const Properties& graphic,
     }
     if (kind == "hatch"_L1) {
         const bool isSolid = graphic.value(u"draw:fill-hatch-solid"_s) == "true"_L1;
-        return (isSolid ? plain(path, color, attributes) : QString()) +
+        return (isSolid ? filledPath(path, color, attributes) : QString()) +
                hatch(path, hatchNode != nullptr ? *hatchNode : unknownHatch());
     }
     if (const Node* const opacityNode =
             table.named(u"draw:opacity"_s, graphic.value(u"draw:opacity-name"_s))) {
         return transparency(path, color, *opacityNode);
     }
-    return plain(path, color, attributes);
+    return filledPath(path, color, attributes);
 }
 
 QString colorName(const QString& text, const QString& otherwise)

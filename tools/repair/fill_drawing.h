@@ -1,5 +1,6 @@
 #pragma once
 
+#include "repair/gradient.h"
 #include "repair/styles.h"
 
 #include <QPainterPath>
@@ -15,7 +16,7 @@ public:
     [[nodiscard]] QString fill(const QPainterPath& path, const Properties& graphic,
                                const StyleTable& table);
     /// The gradients that the elements refer to.
-    [[nodiscard]] const QString& definitions() const { return m_definitions; }
+    [[nodiscard]] const QString& definitions() const { return m_gradients.definitions(); }
 
 private:
     [[nodiscard]] QString gradient(const QPainterPath& path, const Node& gradient,
@@ -23,8 +24,7 @@ private:
     [[nodiscard]] QString transparency(const QPainterPath& path, const QString& color,
                                        const Node& opacity);
 
-    QString m_definitions;
-    int m_gradients = 0;
+    GradientWriter m_gradients;
 };
 
 /// A color as "#rrggbb"; the other one if the text is not a color.
