@@ -123,7 +123,7 @@ TEST(CheckLimits, CompareManyOpaqueItems)
 }
 
 // A text may have as many objects as a file can hold, each with all lines beside it.
-TEST(CheckLimits, CompareALimitedNumberOfAnchoredObjects)
+TEST(CheckLimits, SearchTextBesideALimitedNumberOfObjects)
 {
     const QByteArray object = "<draw:rect text:anchor-type=\"paragraph\" draw:style-name=\"W\" "
                               "svg:width=\"1in\" svg:height=\"1in\"/>";
@@ -132,8 +132,11 @@ TEST(CheckLimits, CompareALimitedNumberOfAnchoredObjects)
                {.automaticStyles = "<style:style style:name=\"W\" style:family=\"graphic\">"
                                    "<style:graphic-properties style:wrap=\"parallel\"/>"
                                    "</style:style>"}));
-    EXPECT_EQ(census.anchoredObjects.size(), 1'000);
+    EXPECT_EQ(census.sizesBetweenText.size(), 1'000);
     LabelFacts label;
-    label.items = QList<ItemFacts>(MaximumAnchoredItems + 1, shapeAt(box(0.0, 0.0, 72.0, 72.0), 0));
-    EXPECT_EQ(anchoredItems(census, {}, label).size(), MaximumAnchoredItems);
+    label.items =
+        QList<ItemFacts>(MaximumItemsBetweenText + 1, shapeAt(box(100.0, 0.0, 72.0, 72.0), 0));
+    label.items.first().outline = box(0.0, 0.0, 400.0, 72.0);
+    EXPECT_EQ(textsOnOneSide(census, {{box(172.0, 10.0, 100.0, 10.0), 0}}, label),
+              MaximumItemsBetweenText);
 }

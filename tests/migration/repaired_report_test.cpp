@@ -199,6 +199,21 @@ TEST(RepairedReport, TextOnOneSideOfAnObjectIsAChange)
     EXPECT_EQ(count("parallel", "0in"), 0) << "there is no room on the left";
 }
 
+// The reader makes room for the object in all lines of its paragraph.
+TEST(RepairedReport, TextAboveAnObjectThatMakesRoomForItIsAChange)
+{
+    const auto isReported = [](const QByteArray& x) {
+        const FileReport report = repairedReport(
+            odt("<text:p><draw:rect text:anchor-type=\"paragraph\" svg:x=\"" + x +
+                    "\" svg:y=\"0.3in\" svg:width=\"2in\" svg:height=\"1in\"/>Above it</text:p>",
+                {.pageLayout = "fo:page-width=\"8in\" fo:page-height=\"6in\""}));
+        return findingOf(report, lossCode(LossKind::TextWrap)) != nullptr;
+    };
+    EXPECT_TRUE(isReported("0.5in"));
+    EXPECT_FALSE(isReported("5in")) << "the text ends before the object";
+    EXPECT_FALSE(isReported("0in"));
+}
+
 TEST(RepairedReport, HeadingsHaveTheirNumbers)
 {
     const DocumentParts parts = {

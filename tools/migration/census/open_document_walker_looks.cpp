@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Objects with text beside them that are compared: more than a label has.
-constexpr qsizetype MaximumAnchoredObjects = 1'000;
+constexpr qsizetype MaximumSizesBetweenText = 1'000;
 
 // In points; 0 where it follows from the content.
 QSizeF statedSize(const QXmlStreamAttributes& attributes)
@@ -29,12 +29,10 @@ void OpenDocumentWalker::noteAnchor(const Attributes& attributes)
 {
     const QStringView anchor = attributes.value("text:anchor-type"_L1);
     const QString wrap = m_styles.wrapOf(attributes.value("draw:style-name"_L1).toString());
-    const bool isBeside = wrap != "none"_L1 && wrap != "run-through"_L1;
-    const bool isKept = m_census.anchoredObjects.size() < MaximumAnchoredObjects;
-    if (isKept && isBeside && (anchor == "paragraph"_L1 || anchor == "char"_L1)) {
-        m_census.anchoredObjects.append({statedSize(attributes), wrap.isEmpty() ||
-                                                                     wrap == "parallel"_L1 ||
-                                                                     wrap == "dynamic"_L1});
+    const bool isBetween = wrap.isEmpty() || wrap == "parallel"_L1 || wrap == "dynamic"_L1;
+    const bool isKept = m_census.sizesBetweenText.size() < MaximumSizesBetweenText;
+    if (isKept && isBetween && (anchor == "paragraph"_L1 || anchor == "char"_L1)) {
+        m_census.sizesBetweenText.append(statedSize(attributes));
     }
 }
 

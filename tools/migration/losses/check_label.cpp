@@ -278,7 +278,7 @@ void checkLabel(const Census& original, const workbench::Canvas& canvas, const R
     checkRendering(canvas, matching, label);
     checkNumbers(original, label);
     if (reading.isRepaired) {
-        label.anchoredItems = anchoredItems(original, texts, label);
+        label.textsOnOneSide = textsOnOneSide(original, texts, label);
         label.missingTexts = matching.missingTexts; // they may be on another page
         return;
     }

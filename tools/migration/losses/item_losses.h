@@ -42,14 +42,6 @@ struct ItemFacts
     std::optional<double> penWidth = {};
 };
 
-/// An item of an object that is anchored in a text.
-struct AnchoredItem
-{
-    QRectF box; ///< in points on the page
-    /// Whether text runs on one of its sides, and would have room on the other one.
-    bool isOneSided = false;
-};
-
 /// All items of a label.
 struct LabelFacts
 {
@@ -59,8 +51,8 @@ struct LabelFacts
     QSizeF pageSize;
     /// Texts of the document that no item of this page of a repaired document shows.
     QStringList missingTexts;
-    /// Of a page of a repaired document.
-    QList<AnchoredItem> anchoredItems = {};
+    /// Items of a page of a repaired document that have text on one side instead of both.
+    qint64 textsOnOneSide = 0;
 };
 
 /// Counts a text of the document that the label does not show.

@@ -1,7 +1,6 @@
 #include "migration/losses/repaired_losses.h"
 
 #include "migration/losses/compare.h"
-#include "migration/losses/text_wrap.h"
 
 #include <algorithm>
 #include <array>
@@ -141,8 +140,7 @@ void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const Log
     FileReport page;
     compare(repaired, label, log, page);
     m_texts.addPage(label);
-    m_anchoredItems.append(
-        label.anchoredItems.mid(0, MaximumAnchoredItems - m_anchoredItems.size()));
+    m_textsOnOneSide += label.textsOnOneSide;
     m_boxes += std::count_if(label.items.begin(), label.items.end(), [](const ItemFacts& item) {
         return item.objectClass == ObjectClass::Shape && item.penWidth;
     });
@@ -246,9 +244,12 @@ void RepairedLosses::fill(FileReport& report) const
         addTo(changed, {{lossCode(LossKind::TextDiffers), lossText(LossKind::TextDiffers),
                          missing.count, false, missing.details}});
     }
-    if (const qint64 count = textsOnOneSide(m_original, m_anchoredItems); count > 0) {
-        addTo(changed,
-              {{lossCode(LossKind::TextWrap), lossText(LossKind::TextWrap), count, false, {}}});
+    if (m_textsOnOneSide > 0) {
+        addTo(changed, {{lossCode(LossKind::TextWrap),
+                         lossText(LossKind::TextWrap),
+                         m_textsOnOneSide,
+                         false,
+                         {}}});
     }
     if (const qint64 count = changedCells(); count > 0) {
         addTo(

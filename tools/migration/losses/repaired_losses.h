@@ -46,7 +46,7 @@ private:
     QSet<int> m_pagesLeftOut; ///< their numbers
     QStringList m_pageRanges; ///< the same for the user: "201–204"
     PagedTexts m_texts;
-    QList<AnchoredItem> m_anchoredItems;
+    qint64 m_textsOnOneSide = 0;
     qint64 m_boxes = 0; ///< with a pen, on all labels
 };
 

@@ -17,91 +17,56 @@ constexpr double NarrowColumn = 20.0 * workbench::PointsPerMillimeter;
 constexpr double NarrowestColumn = 8.0 * workbench::PointsPerMillimeter;
 // Points: text may reach so far into an object.
 constexpr double Touching = 2.0;
-
-bool hasSize(const QSizeF& size, const AnchoredObject& object)
-{
-    return std::abs(size.width() - object.size.width()) < SameSize &&
-           (object.size.height() == 0.0 ||
-            std::abs(size.height() - object.size.height()) < SameSize);
-}
+// Points: lines so far above an object belong to its paragraph.
+constexpr double LinesAbove = 10.0 * workbench::PointsPerMillimeter;
 
 bool isCandidate(const ItemFacts& item, const Census& document)
 {
     const QSizeF size = item.outline.boundingRect().size();
     return item.objectClass != ObjectClass::Text && item.objectClass != ObjectClass::Line &&
            item.hasContent &&
-           std::any_of(document.anchoredObjects.begin(), document.anchoredObjects.end(),
-                       [&size](const AnchoredObject& object) { return hasSize(size, object); });
+           std::any_of(document.sizesBetweenText.begin(), document.sizesBetweenText.end(),
+                       [&size](const QSizeF& stated) {
+                           return std::abs(size.width() - stated.width()) < SameSize &&
+                                  (stated.height() == 0.0 ||
+                                   std::abs(size.height() - stated.height()) < SameSize);
+                       });
 }
 
-/// The text beside one object.
-struct Sides
-{
-    bool hasLeft = false;
-    bool hasRight = false;
-    double end = 0.0; ///< of the longest line on the left
-};
-
 // A line of the running text, which is wider than the object.
-void addLine(const QRectF& line, const QRectF& column, const QRectF& box, Sides& sides)
+bool isOnOneSide(const QRectF& line, const QRectF& column, const QRectF& box)
 {
-    const bool isBeside = line.center().y() > box.top() && line.center().y() < box.bottom();
-    const bool isWide = box.left() - column.left() >= NarrowestColumn &&
-                        column.right() - box.right() >= NarrowestColumn;
-    if (!isBeside || !isWide) {
-        return;
+    if (box.left() - column.left() < NarrowestColumn ||
+        column.right() - box.right() < NarrowestColumn) {
+        return false;
     }
-    if (line.right() <= box.left() + Touching) {
-        sides.hasLeft = true;
-        sides.end = std::max(sides.end, line.right());
-    } else if (line.left() >= box.right() - Touching) {
-        sides.hasRight = true;
+    const double middle = line.center().y();
+    if (middle > box.top() && middle < box.bottom()) {
+        // Lines that end long before the object do so in the document, too.
+        const double end = line.right() - box.left();
+        return line.left() >= box.right() - Touching || (end <= Touching && end > -NarrowColumn);
     }
+    // Lines above an object that begins below its paragraph make room for it, too.
+    return middle > box.top() - LinesAbove && middle < box.top() &&
+           std::abs(line.left() - box.right()) < Touching;
 }
 
 } // namespace
 
-QList<AnchoredItem> anchoredItems(const Census& document, const QList<DrawnText>& texts,
-                                  const LabelFacts& label)
+qint64 textsOnOneSide(const Census& document, const QList<DrawnText>& texts,
+                      const LabelFacts& label)
 {
-    QList<AnchoredItem> found;
-    for (const ItemFacts& item : label.items) {
-        if (found.size() == MaximumAnchoredItems || !isCandidate(item, document)) {
-            continue;
+    qsizetype searched = 0;
+    return std::count_if(label.items.begin(), label.items.end(), [&](const ItemFacts& item) {
+        if (!isCandidate(item, document) || ++searched > MaximumItemsBetweenText) {
+            return false;
         }
         const QRectF box = item.outline.boundingRect();
-        Sides sides;
-        for (const DrawnText& text : texts) {
-            addLine(text.ink.boundingRect(), label.items.at(text.item).outline.boundingRect(), box,
-                    sides);
-        }
-        // Short lines on the left end before the object also in the document.
-        const bool isFull = sides.end > box.left() - NarrowColumn;
-        const bool isOneSided = sides.hasLeft != sides.hasRight && (sides.hasRight || isFull);
-        found.append({box, isOneSided});
-    }
-    std::stable_sort(found.begin(), found.end(), [](const AnchoredItem& a, const AnchoredItem& b) {
-        return a.box.top() < b.box.top();
+        return std::any_of(texts.begin(), texts.end(), [&](const DrawnText& text) {
+            return isOnOneSide(text.ink.boundingRect(),
+                               label.items.at(text.item).outline.boundingRect(), box);
+        });
     });
-    return found;
-}
-
-// Objects and items have the same order.
-qint64 textsOnOneSide(const Census& document, const QList<AnchoredItem>& items)
-{
-    QList<AnchoredItem> left = items;
-    qint64 count = 0;
-    for (const AnchoredObject& object : document.anchoredObjects) {
-        const auto item =
-            std::find_if(left.begin(), left.end(), [&object](const AnchoredItem& each) {
-                return hasSize(each.box.size(), object);
-            });
-        if (item != left.end()) {
-            count += object.isBetweenText && item->isOneSided ? 1 : 0;
-            left.erase(item);
-        }
-    }
-    return count;
 }
 
 } // namespace migration

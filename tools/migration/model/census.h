@@ -82,13 +82,6 @@ struct Tally
     void addDetail(const QString& detail);
 };
 
-/// An object that is anchored in a text, with the text beside it.
-struct AnchoredObject
-{
-    QSizeF size;                ///< in points; the height is 0 if it follows from a text
-    bool isBetweenText = false; ///< the text runs on both of its sides
-};
-
 /// The content of a file.
 struct Census
 {
@@ -110,8 +103,9 @@ struct Census
     qint64 partlyBorderedCells = 0;
     /// Cells with a border in tables within tables; not among the others.
     qint64 nestedBorderedCells = 0;
-    /// Objects with text beside them, in the order of the document.
-    QList<AnchoredObject> anchoredObjects;
+    /// Sizes, in points, of objects that may have text on both sides. A height of 0 follows from the
+    /// content.
+    QList<QSizeF> sizesBetweenText;
     /// Size of its page in points; 0 if unknown.
     QSizeF pageSize;
     /// Why the number of objects is unknown; empty if it is known.

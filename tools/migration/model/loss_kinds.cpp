@@ -185,7 +185,7 @@ constexpr std::array Rows{
     LossRow{LossKind::TextPath, "text-path", Changed, Appearance,
             TEXT("Texts along a curve became straight."), nullptr},
     LossRow{LossKind::TextWrap, "text-wrap", Changed, Appearance,
-            TEXT("Texts run on one side of an object; in the document, they run on both."), nullptr},
+            TEXT("Lines beside objects break elsewhere than in the document; objects there may have moved."), nullptr},
     LossRow{LossKind::Numbering, "numbering", Changed, Content,
             TEXT("Numbers of headings were left out."),
             TEXT("Add the numbers in labelport-workbench under Properties.")},
