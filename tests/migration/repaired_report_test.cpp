@@ -214,6 +214,18 @@ TEST(RepairedReport, TextAboveAnObjectThatMakesRoomForItIsAChange)
     EXPECT_FALSE(isReported("0in"));
 }
 
+TEST(RepairedReport, AnAssumedPageSizeIsAChange)
+{
+    const auto isAssumed = [](const QByteArray& layout) {
+        const FileReport report =
+            repairedReport(odt("<text:p>Words</text:p>", {.pageLayout = layout}));
+        return findingOf(report, lossCode(LossKind::PageSizeAssumed)) != nullptr;
+    };
+    EXPECT_TRUE(isAssumed("fo:margin=\"1in\""));
+    EXPECT_TRUE(isAssumed("fo:page-width=\"4in\""));
+    EXPECT_FALSE(isAssumed("fo:page-width=\"4in\" fo:page-height=\"3in\""));
+}
+
 TEST(RepairedReport, HeadingsHaveTheirNumbers)
 {
     const DocumentParts parts = {

@@ -22,7 +22,7 @@ QByteArray drawingStyles(const QByteArray& common, const QByteArray& automatic,
     return "<office:document-styles><office:styles>" + common +
            "</office:styles><office:automatic-styles>"
            "<style:page-layout style:name=\"L\"><style:page-layout-properties "
-           "fo:page-width=\"10cm\" fo:page-height=\"5cm\"/></style:page-layout>" +
+           "fo:page-width=\"10cm\" fo:page-height=\"5cm\" fo:margin=\"0cm\"/></style:page-layout>" +
            automatic +
            "</office:automatic-styles><office:master-styles>"
            "<style:master-page style:name=\"M\" style:page-layout-name=\"L\">" +

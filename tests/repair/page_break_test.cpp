@@ -20,7 +20,7 @@ constexpr double Margin = 20.0;
 QByteArray pageStyles(const QByteArray& footer = {})
 {
     QByteArray styles = drawingStyles({}, {}, footer);
-    styles.replace("fo:page-height=\"5cm\"/>",
+    styles.replace("fo:page-height=\"5cm\" fo:margin=\"0cm\"/>",
                    "fo:page-height=\"5cm\" fo:margin=\"20pt\"/><style:footer-style>"
                    "<style:header-footer-properties fo:min-height=\"15pt\"/></style:footer-style>");
     return styles;

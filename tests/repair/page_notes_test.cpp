@@ -37,7 +37,8 @@ QList<QList<Placed>> placedOnPages(const QByteArray& body)
 {
     const QTemporaryDir folder;
     QByteArray styles = drawingStyles();
-    styles.replace("fo:page-height=\"5cm\"/>", "fo:page-height=\"5cm\" fo:margin=\"20pt\"/>");
+    styles.replace("fo:page-height=\"5cm\" fo:margin=\"0cm\"/>",
+                   "fo:page-height=\"5cm\" fo:margin=\"20pt\"/>");
     const auto placed = [](const repair::RepairedImport& import) {
         QList<Placed> texts;
         for (workbench::CanvasItem* const item : import.result.canvas->items()) {

@@ -54,7 +54,7 @@ TEST(TextDocument, BeginsBelowTheHeaderOfItsPage)
         "<office:document-content><office:body><office:text><text:p>article</text:p></office:text>"
         "</office:body></office:document-content>";
     QByteArray styles = drawingStyles({}, {}, "<style:header><text:p>top</text:p></style:header>");
-    styles.replace("fo:page-height=\"5cm\"/>",
+    styles.replace("fo:page-height=\"5cm\" fo:margin=\"0cm\"/>",
                    "fo:page-height=\"5cm\" fo:margin=\"1in\"/><style:header-style>"
                    "<style:header-footer-properties fo:min-height=\"0in\" "
                    "fo:margin-bottom=\"0.5in\"/></style:header-style>");
@@ -72,6 +72,38 @@ TEST(TextDocument, BeginsBelowTheHeaderOfItsPage)
         }
     }
     EXPECT_EQ(texts, 2);
+}
+
+TEST(TextDocument, HasTheSizeAndMarginsThatOfficeSuitesAssume)
+{
+    const QTemporaryDir folder;
+    const QByteArray content =
+        "<office:document-content><office:body><office:text><text:p>words</text:p></office:text>"
+        "</office:body></office:document-content>";
+    const auto importWith = [&](const QByteArray& properties) {
+        QByteArray styles = drawingStyles();
+        const auto start = styles.indexOf("<style:page-layout-properties");
+        styles.replace(start, styles.indexOf("/>", start) + 2 - start, properties);
+        return repair::importRepaired(writePackage(folder.path(), content, styles));
+    };
+    const auto cornerOf = [](const repair::RepairedImport& import) {
+        return import.result.canvas->items().first()->values().placement.position;
+    };
+    constexpr double Centimeter = 72.0 / 2.54;
+    for (const QByteArray none : {"", "<style:page-layout-properties/>"}) {
+        const repair::RepairedImport import = importWith(none);
+        EXPECT_NEAR(import.result.canvas->page().size.width(), 21.0 * Centimeter, 0.1);
+        EXPECT_NEAR(import.result.canvas->page().size.height(), 29.7 * Centimeter, 0.1);
+        EXPECT_NEAR(cornerOf(import).x(), 2.0 * Centimeter, 0.1);
+        EXPECT_NEAR(cornerOf(import).y(), 2.0 * Centimeter, 0.1);
+        EXPECT_TRUE(import.repairs.contains(repair::Repair{u"page-layout-completed"_s, 1}));
+    }
+    const repair::RepairedImport part =
+        importWith("<style:page-layout-properties fo:page-width=\"10cm\" fo:margin-left=\"1cm\"/>");
+    EXPECT_NEAR(part.result.canvas->page().size.width(), 10.0 * Centimeter, 0.1);
+    EXPECT_NEAR(part.result.canvas->page().size.height(), 29.7 * Centimeter, 0.1);
+    EXPECT_NEAR(cornerOf(part).x(), 1.0 * Centimeter, 0.1);
+    EXPECT_NEAR(cornerOf(part).y(), 2.0 * Centimeter, 0.1);
 }
 
 TEST(TextDocument, CellsHaveTheColorOfTheirRowOrTable)

@@ -44,6 +44,20 @@ struct Margin
     double distance = 0.0; // from the text
 };
 
+// Points: A4, and 2 cm.
+constexpr double AssumedWidth = 595.276;
+constexpr double AssumedHeight = 841.89;
+constexpr double AssumedMargin = 56.693;
+
+bool stateMissing(Node& node, const QString& name, double points)
+{
+    if (toPoints(node.attribute(name))) {
+        return false;
+    }
+    node.setAttribute(name, toInches(points));
+    return true;
+}
+
 // A header grows with its text.
 Margin marginOf(Document& document, const Node* master, const Node& layout, const QString& kind,
                 const QString& side)
@@ -92,6 +106,31 @@ Node* masterPage(const Document& document)
         document, page != nullptr ? page->attribute(u"draw:master-page-name") : u"Standard"_s);
     const Node* const masters = document.styles->child(u"office:master-styles");
     return named != nullptr || masters == nullptr ? named : masters->child(u"style:master-page");
+}
+
+int completePageLayouts(Document& document)
+{
+    const Node& automatic = document.styles->childOrNew(u"office:automatic-styles"_s);
+    int completed = 0;
+    for (const auto& layout : automatic.children) {
+        if (!layout->is(u"style:page-layout")) {
+            continue;
+        }
+        Node& page = layout->childOrNew(u"style:page-layout-properties"_s);
+        const bool lacksWidth = stateMissing(page, u"fo:page-width"_s, AssumedWidth);
+        const bool lacksHeight = stateMissing(page, u"fo:page-height"_s, AssumedHeight);
+        if (lacksWidth || lacksHeight) {
+            page.setAttribute(AssumedSizeAttribute, u"true"_s);
+        }
+        bool lacksMargin = false;
+        if (document.isText() && !toPoints(page.attribute(u"fo:margin"))) {
+            for (const QString& side : {u"left"_s, u"right"_s, u"top"_s, u"bottom"_s}) {
+                lacksMargin |= stateMissing(page, u"fo:margin-"_s + side, AssumedMargin);
+            }
+        }
+        completed += lacksWidth || lacksHeight || lacksMargin ? 1 : 0;
+    }
+    return completed;
 }
 
 double linesHeight(Document& document, const Node& container)

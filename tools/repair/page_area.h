@@ -31,6 +31,14 @@ struct PageArea
 /// none.
 [[nodiscard]] const Node* pageLayout(const Document& document, const Node* master);
 
+/// States the size of page layouts that state none, and in texts their margins, as office suites
+/// assume them.
+/// @return how many layouts lacked one of them
+int completePageLayouts(Document& document);
+
+/// Of a page layout: its document does not state its size.
+inline const QString AssumedSizeAttribute = QLatin1String("labelport:assumed");
+
 /// The area that the margins, header and footer of a master page leave. The first page layout if
 /// there is no master page.
 [[nodiscard]] PageArea pageArea(Document& document, const Node* master);

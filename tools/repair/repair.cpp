@@ -7,6 +7,7 @@
 #include "repair/list_labels.h"
 #include "repair/numbering.h"
 #include "repair/package.h"
+#include "repair/page_area.h"
 #include "repair/page_end.h"
 #include "repair/page_steps.h"
 #include "repair/shape_steps.h"
@@ -56,6 +57,9 @@ struct Preparation
 constexpr Preparation Preparations[] = {
     {"lengths-converted"_L1, QT_TRANSLATE_N_NOOP("repair", "%n length(s) converted to inches")},
     {"page-layout-chosen"_L1, QT_TRANSLATE_NOOP("repair", "Page size taken from the master page")},
+    {"page-layout-completed"_L1,
+     QT_TRANSLATE_N_NOOP("repair",
+                         "A4 or margins of 2 cm assumed for %n page layout(s) without them")},
     {"controls-replaced"_L1,
      QT_TRANSLATE_N_NOOP("repair", "%n form control(s) replaced by boxes with their text")},
     {"headings-numbered"_L1, QT_TRANSLATE_N_NOOP("repair", "%n heading(s) numbered")},
@@ -153,6 +157,7 @@ DocumentRepair::DocumentRepair(const QString& fileName)
     }
     m_document = std::make_unique<Document>(std::move(*document));
     note(m_repairs, "lengths-converted"_L1, convertAllLengths(*m_document));
+    note(m_repairs, "page-layout-completed"_L1, completePageLayouts(*m_document));
     note(m_repairs, "controls-replaced"_L1, showControls(*m_document));
     note(m_repairs, "headings-numbered"_L1, labelParagraphs(*m_document));
     if (m_document->isText()) {

@@ -155,7 +155,7 @@ QSizeF sizeOf(const PageLayout& layout)
 void notePageSize(const Styles& styles, const MasterPage* used, Census& census)
 {
     const PageLayout first = styles.layouts.value(0);
-    if (first.width.isEmpty()) {
+    if (first.width.isEmpty() || first.isSizeAssumed) {
         return census.note(LossKind::PageSizeAssumed);
     }
     const QString unit = first.width.right(2);

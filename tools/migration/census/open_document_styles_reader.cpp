@@ -42,6 +42,7 @@ void StylesReader::openOutside(const QString& name, const QXmlStreamAttributes& 
     } else if (name == "style:page-layout-properties"_L1 && !m_styles.layouts.isEmpty()) {
         m_styles.layouts.last().width = attributes.value("fo:page-width"_L1).toString();
         m_styles.layouts.last().height = attributes.value("fo:page-height"_L1).toString();
+        m_styles.layouts.last().isSizeAssumed = attributes.hasAttribute("labelport:assumed"_L1);
         m_styles.layouts.last().hasMargins = hasMargins(attributes);
         const QStringView shadow = attributes.value("style:shadow"_L1);
         m_styles.layouts.last().hasShadow = !shadow.isEmpty() && shadow != "none"_L1;

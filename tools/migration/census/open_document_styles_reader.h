@@ -21,6 +21,7 @@ struct PageLayout
     QString height;
     bool hasMargins = false;
     bool hasShadow = false;
+    bool isSizeAssumed = false; ///< by the repair: the document states none
 };
 
 /// The objects in the background of the page.

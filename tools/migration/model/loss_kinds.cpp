@@ -151,7 +151,7 @@ constexpr std::array Rows{
             TEXT("The unit of the page is not supported: its lengths were read as inches, so that points become 72 times too large. Fonts and lines did not grow with them, so that texts are hardly visible."),
             TEXT("If the document was imported as written, import it without --as-written.")},
     LossRow{LossKind::PageSizeAssumed, "page-size-assumed", Changed, Appearance,
-            TEXT("The page has another size than in the file, which defines no size or several."),
+            TEXT("The size of the page was assumed: the file defines none, or several."),
             TEXT("If the document was imported as written, import it without --as-written.")},
     LossRow{LossKind::PositionAssumed, "position-assumed", Changed, Appearance,
             TEXT("Objects without a position on the page were placed in the text flow or in the corner."),
