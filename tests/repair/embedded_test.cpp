@@ -173,6 +173,114 @@ TEST(EmbeddedDocument, IsAsHighAsItsFrameInATextDocument)
     EXPECT_GE(after - before, 72.0);
 }
 
+TEST(EmbeddedDocument, TextHasTheSizeOfThePictureThatReplacesIt)
+{
+    // Four by two inches in twips, shown in two by one.
+    QByteArray picture(0x39, '\0');
+    picture.replace(0, 6, "VCLMTF");
+    picture[0x16] = 9;
+    picture.replace(0x31, 2, "\x80\x16");
+    picture.replace(0x35, 2, "\x40\x0b");
+    repair::Document document = holding(
+        {{u"Object 1/content.xml"_s,
+          contentOf("<office:text><text:p text:style-name=\"T\">hello</text:p></office:text>",
+                    "<style:style style:name=\"T\" style:family=\"paragraph\">"
+                    "<style:paragraph-properties fo:margin-left=\"1in\" fo:line-height=\"90%\"/>"
+                    "<style:text-properties fo:font-size=\"24pt\"/></style:style>")},
+         {u"Object 1/styles.xml"_s,
+          "<office:document-styles><office:automatic-styles><style:page-layout>"
+          "<style:page-layout-properties fo:page-width=\"5in\" fo:margin-left=\"0.5in\" "
+          "fo:margin-top=\"0.25in\" fo:margin-right=\"1.5in\"/></style:page-layout>"
+          "</office:automatic-styles></office:document-styles>"},
+         {u"ObjectReplacements/Object 1"_s, picture}});
+    EXPECT_EQ(repair::unpackDocuments(document), 1);
+    const repair::Node& frame = object(document, u"draw:frame"_s);
+    const repair::Properties box =
+        document.table().resolved(u"graphic"_s, frame.attribute(u"draw:style-name"), false).graphic;
+    EXPECT_EQ(box.value(u"fo:padding-left"_s), u"0.250000in"_s);
+    EXPECT_EQ(box.value(u"fo:padding-top"_s), u"0.125000in"_s);
+    EXPECT_EQ(box.value(u"fo:padding-right"_s), u"0.250000in"_s);
+    const auto style = document.table().resolved(
+        u"paragraph"_s,
+        frame.child(u"draw:text-box")->firstElement()->attribute(u"text:style-name"), false);
+    EXPECT_EQ(repair::toPoints(style.text.value(u"fo:font-size"_s)), 12.0);
+    EXPECT_EQ(style.paragraph.value(u"fo:margin-left"_s), u"0.500000in"_s);
+    EXPECT_EQ(style.paragraph.value(u"fo:line-height"_s), u"90%"_s);
+}
+
+namespace {
+
+// Shows two by one inches of a page, in a frame of the same size.
+const QByteArray ShownPart =
+    "<office:document-settings><config:config-item config:name=\"VisibleAreaWidth\">5080"
+    "</config:config-item><config:config-item config:name=\"VisibleAreaHeight\">2540"
+    "</config:config-item></office:document-settings>";
+
+} // namespace
+
+TEST(EmbeddedDocument, ShowsNothingOutsideItsFrame)
+{
+    repair::Document document = holding(
+        {{u"Object 1/content.xml"_s,
+          contentOf("<office:drawing><draw:page><draw:rect svg:x=\"1.5in\" svg:width=\"1in\" "
+                    "svg:height=\"1in\"/><draw:circle svg:x=\"3in\" svg:width=\"1in\" "
+                    "svg:height=\"1in\"/></draw:page></office:drawing>")},
+         {u"Object 1/settings.xml"_s, ShownPart}});
+    EXPECT_EQ(repair::unpackDocuments(document), 1);
+    EXPECT_EQ(repair::dissolveGroups(document), 1);
+    EXPECT_EQ(tags(document), u"draw:rect"_s);
+}
+
+TEST(EmbeddedDocument, SlidesHaveTheirOwnStyles)
+{
+    repair::Document document = holding(
+        {{u"Object 1/content.xml"_s,
+          contentOf("<office:presentation><draw:page><draw:frame presentation:style-name=\"S\" "
+                    "svg:width=\"1in\" svg:height=\"1in\"><draw:text-box><text:p>a</text:p>"
+                    "</draw:text-box></draw:frame></draw:page></office:presentation>",
+                    "<style:style style:name=\"S\" style:family=\"presentation\">"
+                    "<style:text-properties fo:font-size=\"44pt\"/></style:style>")}});
+    EXPECT_EQ(repair::unpackDocuments(document), 1);
+    EXPECT_EQ(repair::dissolveGroups(document), 1);
+    const repair::Node& frame = object(document, u"draw:frame"_s);
+    const QString style =
+        frame.child(u"draw:text-box")->firstElement()->attribute(u"text:style-name");
+    EXPECT_EQ(
+        repair::toPoints(
+            document.table().resolved(u"paragraph"_s, style, false).text.value(u"fo:font-size"_s)),
+        44.0);
+}
+
+TEST(EmbeddedDocument, NeedsNoPagesBesidesThoseOfItsFrame)
+{
+    const QTemporaryDir folder;
+    const QByteArray object =
+        "<text:p>before</text:p><text:p><draw:frame draw:style-name=\"N\" "
+        "text:anchor-type=\"paragraph\" svg:width=\"2in\" svg:height=\"1in\"><draw:object "
+        "xlink:href=\"./Object 1\"/></draw:frame></text:p><text:p>after</text:p>";
+    const repair::RepairedImport import = repair::importRepaired(writePackage(
+        folder.path(),
+        contentOf("<office:text>" + object + "</office:text>",
+                  "<style:style style:name=\"N\" style:family=\"graphic\">"
+                  "<style:graphic-properties style:wrap=\"none\" style:vertical-pos=\"top\"/>"
+                  "</style:style>"),
+        drawingStyles(),
+        {{u"Object 1/content.xml"_s,
+          contentOf("<office:drawing><draw:page><draw:g><draw:rect svg:width=\"1in\" "
+                    "svg:height=\"30in\"/></draw:g><draw:frame svg:width=\"1in\" "
+                    "svg:height=\"30in\"><draw:text-box><text:p>a</text:p></draw:text-box>"
+                    "</draw:frame></draw:page></office:drawing>")},
+         {u"Object 1/settings.xml"_s, ShownPart}}));
+    ASSERT_TRUE(import.isRepaired());
+    EXPECT_EQ(import.pageCount, 1);
+    for (workbench::CanvasItem* const item : import.result.canvas->items()) {
+        const auto* const text = dynamic_cast<const RichTextItem*>(item->contractItem());
+        if (text != nullptr && text->toPlainText().contains(u"after"_s)) {
+            EXPECT_LT(item->graphicsItem()->pos().y(), 3.0 * 72.0);
+        }
+    }
+}
+
 TEST(EmbeddedDocument, StaysIfItsPictureCanBeReadOrItCannot)
 {
     const QByteArray content = contentOf("<office:text><text:p>a</text:p></office:text>");

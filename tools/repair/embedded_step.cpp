@@ -1,6 +1,7 @@
 #include "repair/chart.h"
 #include "repair/document.h"
 #include "repair/embedded_sheet.h"
+#include "repair/embedded_size.h"
 #include "repair/embedded_styles.h"
 #include "repair/lengths.h"
 #include "repair/numbering.h"
@@ -10,6 +11,7 @@
 #include "repair/transform.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace repair {
 
@@ -20,7 +22,6 @@ using namespace Qt::StringLiterals;
 // Embedded documents of one page, and the memory of one's trees.
 constexpr int MaximumEmbedded = 50;
 constexpr qint64 EmbeddedTreeBytes = 32LL << 20;
-constexpr double PointsPerHundredth = 72.0 / 2540.0; // of a millimeter
 
 std::unique_ptr<Node> readTree(const Document& document, const QString& name)
 {
@@ -31,27 +32,39 @@ std::unique_ptr<Node> readTree(const Document& document, const QString& name)
     return tree;
 }
 
-QRectF visibleArea(const Document& document, const QString& folder)
-{
-    const auto settings =
-        parseTree(document.readMember(folder + "/settings.xml"_L1), EmbeddedTreeBytes);
-    QHash<QString, double> values;
-    if (settings) {
-        forEachElement(*settings, [&values](const Node& node) {
-            values.insert(node.attribute(u"config:name"),
-                          node.allText().toDouble() * PointsPerHundredth);
-        });
-    }
-    return {values.value(u"VisibleAreaLeft"_s), values.value(u"VisibleAreaTop"_s),
-            values.value(u"VisibleAreaWidth"_s), values.value(u"VisibleAreaHeight"_s)};
-}
-
 // In a row of a text, the object is as high as its frame, not as what is drawn in it.
 std::unique_ptr<Node> emptyFrame(Document& document, const Placement& place)
 {
     auto empty = textFrame(document, QRectF(QPointF(), place.size), {});
     writePlacement(*empty, place);
     return empty;
+}
+
+// The frame decides how much room its row has, and shows nothing of what is outside.
+void takeVisible(Node& page, const QRectF& visible, Node& group)
+{
+    for (auto& child : page.children) {
+        const bool isShown =
+            child->name.startsWith("draw:"_L1) &&
+            (visible.isEmpty() || visible.intersects(boundsOf(*child).adjusted(0, 0, 0.01, 0.01)));
+        if (isShown) {
+            child->setAttribute(InsideFrameAttribute, u"true"_s);
+            forEachElement(*child, [](Node& node) {
+                if (node.name.startsWith("draw:"_L1)) {
+                    node.setAttribute(InsideFrameAttribute, u"true"_s);
+                }
+            });
+            group.children.push_back(std::move(child));
+        }
+    }
+}
+
+// From the shown part of an embedded document to its frame, as a share.
+double scaleOf(const QSizeF& shown, const QSizeF& frame)
+{
+    return shown.isEmpty() || frame.isEmpty()
+               ? 1.0
+               : std::sqrt(frame.width() / shown.width() * frame.height() / shown.height());
 }
 
 std::unique_ptr<Node> groupOf(Document& document, Node& page, const QRectF& visible,
@@ -70,11 +83,7 @@ std::unique_ptr<Node> groupOf(Document& document, Node& page, const QRectF& visi
     if (frame.hasAttribute(RowAttribute) && map.isInvertible()) {
         group->append(emptyFrame(document, {place.size, place.toPage * map.inverted()}));
     }
-    for (auto& child : page.children) {
-        if (child->name.startsWith("draw:"_L1)) {
-            group->children.push_back(std::move(child));
-        }
-    }
+    takeVisible(page, visible, *group);
     keepPlace(frame, *group);
     return group;
 }
@@ -132,9 +141,18 @@ public:
 
 private:
     [[nodiscard]] std::unique_ptr<Node> unpacked(Node& frame);
-    [[nodiscard]] std::unique_ptr<Node> shownIn(const Node& frame, Node& inside,
-                                                const QString& folder);
-    [[nodiscard]] std::unique_ptr<Node> textBoxFor(const Node& frame);
+    /// What the frame shows of the document.
+    struct Shown
+    {
+        QRectF visible;
+        QMarginsF margins; // in the frame
+        double scale = 1.0;
+    };
+
+    [[nodiscard]] Shown shownOf(const Node& frame, const Node& inside, const Node* styles,
+                                const QString& folder) const;
+    [[nodiscard]] std::unique_ptr<Node> placed(const Node& frame, Node& inside, const Shown& shown);
+    [[nodiscard]] std::unique_ptr<Node> textBoxFor(const Node& frame, const QMarginsF& margins);
 
     Document& m_document;
     const EmbeddedKind m_kind;
@@ -157,13 +175,32 @@ std::unique_ptr<Node> Unpacker::unpacked(Node& frame)
         return nullptr;
     }
     const auto styles = readTree(m_document, folder + "/styles.xml"_L1);
+    const Shown shown = shownOf(frame, *inside, styles.get(), folder);
+    scaleFormats(styles.get(), shown.scale);
+    scaleFormats(content.get(), shown.scale);
     const QString prefix = m_kind == EmbeddedKind::Chart ? u"chart%1-"_s : u"object%1-"_s;
     importStyles(m_document, styles.get(), *content, prefix.arg(m_read));
     writeLabels(m_document.table(), nullptr, *inside);
-    return shownIn(frame, *inside, folder);
+    return placed(frame, *inside, shown);
 }
 
-std::unique_ptr<Node> Unpacker::textBoxFor(const Node& frame)
+Unpacker::Shown Unpacker::shownOf(const Node& frame, const Node& inside, const Node* styles,
+                                  const QString& folder) const
+{
+    Shown shown{visibleArea(m_document, folder), {}};
+    if (m_kind == EmbeddedKind::Chart) {
+        return shown;
+    }
+    // The picture of a drawing begins at its first object, not at its page.
+    if (shown.visible.isEmpty() && inside.child(u"draw:page") == nullptr) {
+        shown.visible = QRectF(QPointF(), replacementSize(m_document, frame));
+    }
+    shown.scale = scaleOf(shown.visible.size(), placementOf(frame).size);
+    shown.margins = textMargins(styles, shown.visible) * shown.scale;
+    return shown;
+}
+
+std::unique_ptr<Node> Unpacker::textBoxFor(const Node& frame, const QMarginsF& margins)
 {
     auto shown = frame.clone();
     shown->children.clear();
@@ -171,18 +208,21 @@ std::unique_ptr<Node> Unpacker::textBoxFor(const Node& frame)
         m_document.table().resolved(u"graphic"_s, frame.attribute(u"draw:style-name"), false);
     style.graphic.insert(u"draw:stroke"_s, u"none"_s);
     style.graphic.insert(u"draw:fill"_s, u"none"_s);
+    style.graphic.insert(u"fo:padding-left"_s, toInches(margins.left()));
+    style.graphic.insert(u"fo:padding-top"_s, toInches(margins.top()));
+    style.graphic.insert(u"fo:padding-right"_s, toInches(margins.right()));
     shown->setAttribute(u"draw:style-name"_s, m_document.styleFor(u"graphic"_s, style));
     shown->append(Node::element(u"draw:text-box"_s));
     return shown;
 }
 
-std::unique_ptr<Node> Unpacker::shownIn(const Node& frame, Node& inside, const QString& folder)
+std::unique_ptr<Node> Unpacker::placed(const Node& frame, Node& inside, const Shown& shown)
 {
     if (Node* const page = inside.child(u"draw:page")) {
         for (const auto& shape : page->children) {
             writeDrawingFormats(m_document, *shape);
         }
-        return groupOf(m_document, *page, visibleArea(m_document, folder), frame);
+        return groupOf(m_document, *page, shown.visible, frame);
     }
     const Node* const chart = inside.child(u"chart:chart");
     if (chart != nullptr) {
@@ -198,17 +238,17 @@ std::unique_ptr<Node> Unpacker::shownIn(const Node& frame, Node& inside, const Q
         Node page;
         page.children = sheetCells(m_document, inside);
         if (!page.children.empty()) {
-            return groupOf(m_document, page, visibleArea(m_document, folder), frame);
+            return groupOf(m_document, page, shown.visible, frame);
         }
     }
-    auto shown = textBoxFor(frame);
-    Node& box = *shown->firstElement();
+    auto text = textBoxFor(frame, shown.margins);
+    Node& box = *text->firstElement();
     if (chart != nullptr) {
         takeChartText(*chart, box);
     } else if (inside.is(u"office:text")) {
         takeParagraphs(inside, box, 0);
     }
-    return box.children.empty() ? nullptr : std::move(shown);
+    return box.children.empty() ? nullptr : std::move(text);
 }
 
 int Unpacker::unpackIn(Node& parent)

@@ -2,6 +2,7 @@
 
 #include "repair/anchored_shapes.h"
 #include "repair/document.h"
+#include "repair/lengths.h"
 #include "repair/text_step.h"
 
 #include <algorithm>
@@ -32,6 +33,14 @@ bool isStyleName(const QString& attribute)
 void renameStyles(Node& root, const QString& prefix)
 {
     forEachElement(root, [&prefix](Node& node) {
+        // The objects of slides have styles of their own kind.
+        if (node.attribute(u"style:family") == "presentation"_L1) {
+            node.setAttribute(u"style:family"_s, u"graphic"_s);
+        }
+        const QString slideStyle = node.attribute(u"presentation:style-name");
+        if (!slideStyle.isEmpty()) {
+            node.setAttribute(u"draw:style-name"_s, slideStyle);
+        }
         const bool isStyle = node.is(u"style:style") || node.is(u"text:list-style");
         for (Attribute& attribute : node.attributes) {
             const bool isDefinition = isStyle && attribute.name == "style:name"_L1;
@@ -79,7 +88,40 @@ void moveStyles(Node* source, Node& target)
     }
 }
 
+constexpr QLatin1StringView ScaledPrefixes[] = {
+    "fo:font-size"_L1, "fo:margin"_L1,         "fo:padding"_L1,       "fo:text-indent"_L1,
+    "fo:line-"_L1,     "style:line-height"_L1, "svg:stroke-width"_L1, "style:position"_L1,
+    "text:space-"_L1,  "text:min-label-"_L1,   "text:list-tab-"_L1};
+
+// Percentages stay.
+void scaleIn(Node& properties, double scale)
+{
+    for (Attribute& attribute : properties.attributes) {
+        const auto isPrefix = [&attribute](QLatin1StringView prefix) {
+            return attribute.name.startsWith(prefix);
+        };
+        const auto points = toPoints(attribute.value);
+        if (points && std::any_of(std::begin(ScaledPrefixes), std::end(ScaledPrefixes), isPrefix)) {
+            attribute.value = attribute.name == "fo:font-size"_L1
+                                  ? QString::number(*points * scale, 'f', 2) + "pt"_L1
+                                  : toInches(*points * scale);
+        }
+    }
+}
+
 } // namespace
+
+void scaleFormats(Node* root, double scale)
+{
+    if (root == nullptr || scale == 1.0) {
+        return;
+    }
+    for (const QString& tag : {u"office:styles"_s, AutomaticStylesTag}) {
+        if (Node* const styles = root->child(tag)) {
+            forEachElement(*styles, [scale](Node& node) { scaleIn(node, scale); });
+        }
+    }
+}
 
 void importStyles(Document& document, Node* styles, Node& content, const QString& prefix)
 {

@@ -14,6 +14,11 @@ class Node;
 /// @param content the tree of its content.xml
 void importStyles(Document& document, Node* styles, Node& content, const QString& prefix);
 
+/// Scales the fonts, distances and pens of an embedded document's styles.
+///
+/// @param root the tree of its styles.xml or content.xml; may be null
+void scaleFormats(Node* root, double scale);
+
 /// Gives the paragraphs of an object of an embedded drawing the formats that only drawings give
 /// them: sizes and fonts of the graphic style.
 void writeDrawingFormats(Document& document, Node& shape);

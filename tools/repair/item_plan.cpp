@@ -143,7 +143,9 @@ void planRow(Document& document, const Node& shape, const Node& container,
     plan.fillsRow = shape.hasAttribute(FillsRowAttribute);
     plan.rows = repeats(shape, FillsRowAttribute, MaximumRows);
     plan.flows = shape.hasAttribute(FlowsAttribute);
-    plan.least = plan.row > 0 && !plan.flows ? boundsOf(shape).bottom() : 0.0;
+    plan.isInsideFrame = shape.hasAttribute(InsideFrameAttribute);
+    plan.least =
+        plan.row > 0 && !plan.flows && !plan.isInsideFrame ? boundsOf(shape).bottom() : 0.0;
     if (plan.fillsRow && plan.text) {
         // The height of the row is not known before its texts are laid out.
         const bool isAtBottom = plan.text->alignment.testFlag(Qt::AlignBottom);

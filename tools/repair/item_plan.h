@@ -56,6 +56,8 @@ struct ItemPlan
     /// Whether the object is as high as its row, and the rows that it spans.
     bool fillsRow = false;
     int rows = 1;
+    /// Whether its frame decides how high the row is, see InsideFrameAttribute.
+    bool isInsideFrame = false;
     /// Whether it is a text whose lines may be on two pages.
     bool flows = false;
     /// Points below the text that belong to the object, or the height of one without text.

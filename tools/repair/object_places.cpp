@@ -101,6 +101,9 @@ double Placer::textBottom(const ObjectItems& items) const
 // The height that an object needs below the top of its row.
 double Placer::contentHeight(const ObjectItems& items) const
 {
+    if (items.plan->isInsideFrame) {
+        return 0.0;
+    }
     if (items.text != nullptr) {
         const double bottom = textBottom(items) + items.plan->space;
         const bool isText = items.plan->fillsRow || items.shape == nullptr;

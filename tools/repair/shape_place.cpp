@@ -71,8 +71,8 @@ void moveShape(Node& shape, const QPointF& offset)
 
 void keepPlace(const Node& shape, Node& part)
 {
-    for (const QString& name :
-         {RowAttribute, AnchorAttribute, InLineAttribute, FromRowAttribute, FromTextAttribute}) {
+    for (const QString& name : {RowAttribute, AnchorAttribute, InLineAttribute, FromRowAttribute,
+                                FromTextAttribute, InsideFrameAttribute}) {
         if (shape.hasAttribute(name) && !part.hasAttribute(name)) {
             part.setAttribute(name, shape.attribute(name));
         }

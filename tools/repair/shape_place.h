@@ -14,6 +14,9 @@ inline const QString AnchorAttribute = QLatin1String("labelport:anchor");
 /// Whether the object is a character of its line. Otherwise it has its own place across the page.
 inline const QString InLineAttribute = QLatin1String("labelport:in-line");
 
+/// Whether the object is a part of an embedded document: the frame decides how high the row is.
+inline const QString InsideFrameAttribute = QLatin1String("labelport:inside-frame");
+
 /// Where an object is, in points; a group with all that it contains.
 [[nodiscard]] QRectF boundsOf(const Node& shape);
 /// Moves an object of any kind, in points.
