@@ -57,6 +57,11 @@ QByteArray packageOf(const QByteArray& body, const DocumentParts& parts)
     zip.addFile(u"styles.xml"_s, styles);
     zip.addFile(u"content.xml"_s, content);
     zip.addFile(u"Pictures/good.png"_s, pngOf());
+    if (!parts.embeddedObject.isEmpty()) {
+        zip.addFile(u"Object 1/content.xml"_s, "<office:document-content" + namespaces() +
+                                                   "><office:body>" + parts.embeddedObject +
+                                                   "</office:body></office:document-content>");
+    }
     zip.close();
     return buffer.data();
 }

@@ -21,6 +21,7 @@ struct DocumentParts
     QByteArray automaticStyles = {}; ///< of content.xml
     QByteArray commonStyles = {};    ///< of styles.xml
     QByteArray masterPages = {};
+    QByteArray embeddedObject = {}; ///< the body of "Object 1"
 };
 
 /// A package with a body of any kind.

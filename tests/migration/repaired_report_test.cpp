@@ -226,6 +226,22 @@ TEST(RepairedReport, AnAssumedPageSizeIsAChange)
     EXPECT_FALSE(isAssumed("fo:page-width=\"4in\" fo:page-height=\"3in\""));
 }
 
+// The picture of an object shows more than its content.
+TEST(RepairedReport, ObjectsThatAreDrawnAgainAreAChange)
+{
+    const QByteArray object =
+        "<draw:frame svg:x=\"1in\" svg:y=\"1in\" svg:width=\"2in\" svg:height=\"1in\">"
+        "<draw:object xlink:href=\"./Object 1\"/></draw:frame>";
+    const DocumentParts parts = {.embeddedObject =
+                                     "<office:text><text:p>Inner</text:p></office:text>"};
+    const FileReport report = repairedReport(odg(object + PlainRect + object, parts));
+    const Finding* const finding = findingOf(report, lossCode(LossKind::ObjectRedrawn));
+    ASSERT_NE(finding, nullptr) << codesOf(report).toStdString();
+    EXPECT_EQ(finding->count, 2);
+    EXPECT_EQ(findingOf(repairedReport(odg(PlainRect)), lossCode(LossKind::ObjectRedrawn)),
+              nullptr);
+}
+
 TEST(RepairedReport, HeadingsHaveTheirNumbers)
 {
     const DocumentParts parts = {

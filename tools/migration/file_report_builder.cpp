@@ -63,6 +63,18 @@ void addRepairs(QList<RepairReport>& sums, const QList<RepairReport>& repairs)
     }
 }
 
+// Embedded objects whose picture cannot be read.
+qint64 redrawnObjects(const QList<RepairReport>& repairs)
+{
+    qint64 count = 0;
+    for (const RepairReport& repair : repairs) {
+        const bool isRedrawn =
+            repair.code == "documents-unpacked"_L1 || repair.code == "charts-drawn"_L1;
+        count += isRedrawn ? repair.count : 0;
+    }
+    return count;
+}
+
 QByteArray previewIn(const QString& fileName, const QString& reader)
 {
     const std::optional<ReaderKind> kind = readerOfName(reader);
@@ -141,6 +153,7 @@ void RepairedFileReport::addPage(const workbench::ImportResult& result, const QB
     addCounts(m_report.items, page.items);
     addIssues(page.issues);
     addRepairs(m_report.repaired, repairs);
+    m_losses.addRedrawn(redrawnObjects(repairs));
     LabelFacts label = lookAtItems(*result.canvas, false);
     checkLabel(m_census, *result.canvas, {.page = number, .isRepaired = true}, label);
     m_losses.addPage(countOpenDocument(package), label, lossesOfLog(result));

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace migration {
 
@@ -244,17 +245,12 @@ void RepairedLosses::fill(FileReport& report) const
         addTo(changed, {{lossCode(LossKind::TextDiffers), lossText(LossKind::TextDiffers),
                          missing.count, false, missing.details}});
     }
-    if (m_textsOnOneSide > 0) {
-        addTo(changed, {{lossCode(LossKind::TextWrap),
-                         lossText(LossKind::TextWrap),
-                         m_textsOnOneSide,
-                         false,
-                         {}}});
-    }
-    if (const qint64 count = changedCells(); count > 0) {
-        addTo(
-            changed,
-            {{lossCode(LossKind::CellBorders), lossText(LossKind::CellBorders), count, false, {}}});
+    for (const auto& [kind, count] : {std::pair(LossKind::TextWrap, m_textsOnOneSide),
+                                      std::pair(LossKind::CellBorders, changedCells()),
+                                      std::pair(LossKind::ObjectRedrawn, m_redrawn)}) {
+        if (count > 0) {
+            addTo(changed, {{lossCode(kind), lossText(kind), count, false, {}}});
+        }
     }
     // The same words may be on other pages.
     if (Finding* const numbers = findingOf(changed, lossCode(LossKind::Numbering))) {

@@ -28,6 +28,8 @@ public:
     void addPage(Census repaired, const LabelFacts& label, const LogLosses& log);
     /// The next pages become no labels.
     void leaveOutPages(int count);
+    /// Embedded documents and charts whose content repair laid out again.
+    void addRedrawn(qint64 count) { m_redrawn += count; }
     /// The number of pages that were added or left out.
     [[nodiscard]] int lastPage() const { return m_lastPage; }
     void fill(FileReport& report) const;
@@ -47,6 +49,7 @@ private:
     QStringList m_pageRanges; ///< the same for the user: "201–204"
     PagedTexts m_texts;
     qint64 m_textsOnOneSide = 0;
+    qint64 m_redrawn = 0;
     qint64 m_boxes = 0; ///< with a pen, on all labels
 };
 

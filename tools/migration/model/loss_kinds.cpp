@@ -222,6 +222,8 @@ constexpr std::array Rows{
             TEXT("Fills of objects, such as gradients and hatchings, were simplified or dropped."), nullptr},
     LossRow{LossKind::PictureFill, "picture-fill", Changed, Appearance,
             TEXT("Pictures and patterns that fill objects were replaced by a color."), nullptr},
+    LossRow{LossKind::ObjectRedrawn, "object-redrawn", Changed, Appearance,
+            TEXT("Embedded documents and charts were drawn again from their content: sizes, fonts and details may differ."), nullptr},
     LossRow{LossKind::EffectDropped, "effect-dropped", Changed, Appearance,
             TEXT("Shadows, transparency of pictures, cropping and other effects were dropped."), nullptr},
     LossRow{LossKind::Transparency, "transparency", Changed, Appearance,

@@ -89,6 +89,7 @@ enum class LossKind : quint8 {
     CellBorders,
     FillSimplified,
     PictureFill,
+    ObjectRedrawn,
     EffectDropped,
     Transparency,
     Other,
