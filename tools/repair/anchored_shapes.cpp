@@ -1,5 +1,6 @@
 #include "repair/anchored_shapes.h"
 
+#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/page_end.h"
@@ -281,7 +282,7 @@ void writeFrameStyle(Document& document, Node& frame)
         graphic.insert(u"draw:fill"_s, color.startsWith(u'#') ? u"solid"_s : u"none"_s);
         graphic.insert(u"draw:fill-color"_s, color);
     }
-    addBorder(graphic, graphic);
+    writeOnePen(edgesOf(graphic), graphic);
     graphic.insert(u"fo:wrap-option"_s, u"wrap"_s);
     if (!graphic.contains(u"draw:stroke"_s)) {
         graphic.insert(u"draw:stroke"_s, u"none"_s);

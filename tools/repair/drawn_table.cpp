@@ -1,7 +1,9 @@
 #include "repair/drawn_table.h"
 
+#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
+#include "repair/shape_place.h"
 #include "repair/table_columns.h"
 #include "repair/table_rows.h"
 #include "repair/transform.h"
@@ -80,8 +82,26 @@ StyleProperties drawnCell(Document& document, const QString& style)
         result.graphic.insert(u"fo:padding-bottom"_s, TopPadding);
     }
     result.overlay(cell);
-    addBorder(cell.paragraph, result.graphic);
+    if (const Edges edges = edgesOf(cell.paragraph); edges.isPen()) {
+        writePen(edges.left, result.graphic);
+    }
     return result;
+}
+
+// Borders that no pen around the cell draws.
+void addSides(Document& document, const QRectF& box, const StyleProperties& style,
+              Node::Children& sides)
+{
+    const Edges edges = edgesOf(style.paragraph);
+    if (edges.isPen()) {
+        return;
+    }
+    for (auto& edge : edgeBoxes(document, box, edges)) {
+        if (edge->attribute(EdgeAttribute) == "bottom"_L1) {
+            moveShape(*edge, {0.0, box.bottom()});
+        }
+        sides.push_back(std::move(edge));
+    }
 }
 
 } // namespace
@@ -99,6 +119,7 @@ Node::Children drawnTableCells(Document& document, Node& frame)
     const QList<Node*> rows = rowsOf(*table);
     const QList<double> heights = rowHeights(document, rows, placement.size.height());
     const QPointF corner = placement.toPage.map(QPointF());
+    Node::Children sides; // above all cells
     double y = corner.y();
     for (qsizetype row = 0; row < rows.size(); ++row) {
         const QString rowStyle = rows[row]->attribute(u"table:default-cell-style-name");
@@ -117,6 +138,7 @@ Node::Children drawnTableCells(Document& document, Node& frame)
                     textFrame(document, {x, y, width, heights[row]}, style.graphic, style.text);
                 takeParagraphs(*cell, *box->child(u"draw:text-box"), 0);
                 cells.push_back(std::move(box));
+                addSides(document, {x, y, width, heights[row]}, style, sides);
             }
             // Cells that a wide one covers are listed too.
             x += !cell->isText() && column < widths.size() ? widths[column] : 0.0;
@@ -124,6 +146,7 @@ Node::Children drawnTableCells(Document& document, Node& frame)
         }
         y += heights[row];
     }
+    std::move(sides.begin(), sides.end(), std::back_inserter(cells));
     return cells;
 }
 

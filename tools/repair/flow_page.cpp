@@ -1,6 +1,7 @@
 #include "repair/flow_page.h"
 
 #include "repair/anchored_shapes.h"
+#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
 #include "repair/page_grounds.h"
@@ -51,9 +52,8 @@ Node::Children textLast(Node::Children objects)
     std::stable_sort(objects.begin(), objects.end(), [](const auto& a, const auto& b) {
         return a->attribute(u"draw:z-index").toInt() < b->attribute(u"draw:z-index").toInt();
     });
-    std::stable_partition(objects.begin(), objects.end(), [](const auto& object) {
-        return object->child(u"draw:text-box") == nullptr;
-    });
+    std::stable_sort(objects.begin(), objects.end(),
+                     [](const auto& a, const auto& b) { return layerOf(*a) < layerOf(*b); });
     for (const auto& object : objects) {
         object->removeAttribute(u"draw:z-index");
     }

@@ -1,5 +1,6 @@
 #include "repair/item_plan.h"
 
+#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/drawing.h"
 #include "repair/flow_step.h"
@@ -141,6 +142,7 @@ void planRow(Document& document, const Node& shape, const Node& container,
     plan.isInLine = shape.attribute(InLineAttribute) == "true"_L1;
     plan.isNote = shape.hasAttribute(NoteAttribute);
     plan.fillsRow = shape.hasAttribute(FillsRowAttribute);
+    plan.isAtBottom = shape.attribute(EdgeAttribute) == "bottom"_L1;
     plan.rows = repeats(shape, FillsRowAttribute, MaximumRows);
     plan.flows = shape.hasAttribute(FlowsAttribute);
     plan.isInsideFrame = shape.hasAttribute(InsideFrameAttribute);

@@ -58,6 +58,8 @@ struct ItemPlan
     int rows = 1;
     /// Whether its frame decides how high the row is, see InsideFrameAttribute.
     bool isInsideFrame = false;
+    /// Whether it is at the bottom of its row.
+    bool isAtBottom = false;
     /// Whether it is a text whose lines may be on two pages.
     bool flows = false;
     /// Points below the text that belong to the object, or the height of one without text.

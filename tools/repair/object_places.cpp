@@ -131,7 +131,10 @@ void Placer::placeRow(const QList<ObjectItems>& row, double& y) const
             const double room = full - contentHeight(items);
             items.text->graphicsItem()->moveBy(0.0, room * items.plan->shareAbove);
         }
-        moveItems(items, {0.0, top});
+        moveItems(items, {0.0, items.plan->isAtBottom ? y + height : top});
+        if (items.plan->isAtBottom) {
+            continue;
+        }
         if (items.shape != nullptr && items.plan->fillsRow) {
             Item* const box = items.shape->contractItem();
             box->setItemSize({box->getItemWidth(), full - gap});

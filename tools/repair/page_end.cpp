@@ -1,6 +1,7 @@
 #include "repair/page_end.h"
 
 #include "repair/anchored_shapes.h"
+#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/page_notes.h"
 #include "repair/page_steps.h"
@@ -171,9 +172,8 @@ void renumberRows(Node& page)
 // The order is that of the objects, the texts above all others.
 void sortTextsLast(Node& page)
 {
-    std::stable_partition(page.children.begin(), page.children.end(), [](const auto& object) {
-        return object->child(u"draw:text-box") == nullptr;
-    });
+    std::stable_sort(page.children.begin(), page.children.end(),
+                     [](const auto& a, const auto& b) { return layerOf(*a) < layerOf(*b); });
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "repair/table_rows.h"
 
 #include "repair/anchored_shapes.h"
+#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/flow_step.h"
 #include "repair/lengths.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace repair {
 
@@ -30,23 +32,46 @@ QString firstColor(const QStringList& colors)
     return found != colors.end() ? *found : QString();
 }
 
-Properties cellGround(const Properties& cell, const QString& fill)
+struct RowCell
+{
+    Node* node = nullptr;
+    int column = 0;
+    int span = 1;
+    Properties style;
+    Edges own = {};
+    Edges shown = {}; // with those of the cells beside it
+};
+
+// A border between two cells belongs to both.
+void share(Edge& edge, const Edge& other)
+{
+    if (!edge.isDrawn()) {
+        edge = other;
+    }
+}
+
+Properties cellGround(const RowCell& cell, const QString& fill)
 {
     Properties ground;
-    addBorder(cell, ground);
+    if (cell.shown.isPen()) {
+        writePen(cell.shown.left, ground);
+    }
     if (!fill.isEmpty()) {
         ground.insert(u"draw:fill"_s, u"solid"_s);
         ground.insert(u"draw:fill-color"_s, fill);
     }
     // The border is between the paddings of two cells.
-    const double border = toPoints(ground.value(u"svg:stroke-width"_s)).value_or(0.0);
-    for (const QString& name : {u"fo:padding"_s, u"fo:padding-left"_s, u"fo:padding-right"_s,
-                                u"fo:padding-top"_s, u"fo:padding-bottom"_s}) {
-        if (const auto padding = toPoints(cell.value(name))) {
-            ground.insert(name, toInches(*padding + border / 2.0));
-        }
-    }
-    ground.insert(u"draw:textarea-vertical-align"_s, cell.value(u"style:vertical-align"_s));
+    const auto pad = [&](const QString& side, const Edge& edge) {
+        const QString name = u"fo:padding-"_s + side;
+        const QString all = cell.style.value(u"fo:padding"_s);
+        const double padding = toPoints(cell.style.value(name, all)).value_or(0.0);
+        ground.insert(name, toInches(padding + edge.width / 2.0));
+    };
+    pad(u"left"_s, cell.shown.left);
+    pad(u"right"_s, cell.shown.right);
+    pad(u"top"_s, cell.shown.top);
+    pad(u"bottom"_s, cell.shown.bottom);
+    ground.insert(u"draw:textarea-vertical-align"_s, cell.style.value(u"style:vertical-align"_s));
     return ground;
 }
 
@@ -79,6 +104,8 @@ public:
 
 private:
     void readRow(Node& row);
+    [[nodiscard]] std::vector<RowCell> cellsOf(const Node& row);
+    void addCell(RowCell& cell, const QString& rowFill, double height);
     [[nodiscard]] double widthOf(qsizetype column, int span) const;
 
     Document& m_document;
@@ -91,6 +118,7 @@ private:
     const QString m_number; // of the table
     bool m_isHeader = false;
     int m_rows = 0;
+    QList<Edges> m_edges; // by column, of the cells above; in a row, of those before
     Node::Children m_cells;
 };
 
@@ -103,37 +131,75 @@ double TableReader::widthOf(qsizetype column, int span) const
     return width;
 }
 
+// The cells of a row, with the edges that they have in common with those beside and above them.
+std::vector<RowCell> TableReader::cellsOf(const Node& row)
+{
+    std::vector<RowCell> cells;
+    int column = 0;
+    for (const auto& child : row.children) {
+        if (child->is(u"table:table-cell") && column < MaximumColumns) {
+            RowCell cell{child.get(), column,
+                         repeats(*child, u"table:number-columns-spanned", MaximumColumns - column),
+                         statedBy(m_document, *child, u"style:table-cell-properties"_s)};
+            cell.own = edgesOf(cell.style);
+            cells.push_back(std::move(cell));
+        }
+        column +=
+            child->isText() ? 0 : repeats(*child, u"table:number-columns-repeated", MaximumColumns);
+    }
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        RowCell& cell = cells[i];
+        const int end = cell.column + cell.span;
+        const bool hasNext = i + 1 < cells.size() && cells[i + 1].column == end;
+        cell.shown = cell.own;
+        share(cell.shown.right, hasNext ? cells[i + 1].own.left : Edge());
+        share(cell.shown.left, m_edges.value(cell.column - 1).right);
+        share(cell.shown.top, m_edges.value(cell.column).bottom);
+        m_edges.resize(std::max<qsizetype>(m_edges.size(), end));
+        std::fill(m_edges.begin() + cell.column, m_edges.begin() + end, cell.own);
+    }
+    return cells;
+}
+
+void TableReader::addCell(RowCell& cell, const QString& rowFill, double height)
+{
+    const QRectF box(m_left + widthOf(0, cell.column), m_above, widthOf(cell.column, cell.span),
+                     height);
+    const QString fill = firstColor({cell.style.value(BackgroundColor), rowFill, m_fill});
+    auto frame = textFrame(m_document, box, cellGround(cell, fill));
+    takeParagraphs(*cell.node, *frame->child(u"draw:text-box"), 0);
+    Node::Children shapes = takeAllShapes(m_document, *frame->child(u"draw:text-box"),
+                                          {m_place.page, box, m_place.depth});
+    std::move(shapes.begin(), shapes.end(), std::back_inserter(m_cells));
+    const QString rows =
+        QString::number(repeats(*cell.node, u"table:number-rows-spanned", MaximumRows));
+    const auto add = [&](std::unique_ptr<Node> part) {
+        part->setAttribute(RowAttribute, QString::number(m_row));
+        part->setAttribute(TableAttribute, m_number);
+        if (part->attribute(EdgeAttribute) != "top"_L1) {
+            part->setAttribute(FillsRowAttribute, rows);
+        }
+        if (m_isHeader) {
+            part->setAttribute(HeaderAttribute, u"true"_s);
+        }
+        m_cells.push_back(std::move(part));
+    };
+    add(std::move(frame));
+    if (!cell.shown.isPen()) {
+        for (auto& edge : edgeBoxes(m_document, box, cell.own)) {
+            add(std::move(edge));
+        }
+    }
+}
+
 void TableReader::readRow(Node& row)
 {
     ++m_row;
     const Properties rowStyle = statedBy(m_document, row, u"style:table-row-properties"_s);
     const QString rowFill = rowStyle.value(BackgroundColor);
     const double height = std::min(rowHeight(rowStyle), m_place.page.box.height());
-    qsizetype column = 0;
-    for (const auto& cell : row.children) {
-        const int count = repeats(*cell, u"table:number-columns-repeated", MaximumColumns);
-        if (cell->is(u"table:table-cell")) {
-            const int span = repeats(*cell, u"table:number-columns-spanned", MaximumColumns);
-            const QRectF box(m_left + widthOf(0, static_cast<int>(column)), m_above,
-                             widthOf(column, span), height);
-            const Properties style = statedBy(m_document, *cell, u"style:table-cell-properties"_s);
-            const QString fill = firstColor({style.value(BackgroundColor), rowFill, m_fill});
-            auto frame = textFrame(m_document, box, cellGround(style, fill));
-            frame->setAttribute(RowAttribute, QString::number(m_row));
-            frame->setAttribute(
-                FillsRowAttribute,
-                QString::number(repeats(*cell, u"table:number-rows-spanned", MaximumRows)));
-            frame->setAttribute(TableAttribute, m_number);
-            if (m_isHeader) {
-                frame->setAttribute(HeaderAttribute, u"true"_s);
-            }
-            takeParagraphs(*cell, *frame->child(u"draw:text-box"), 0);
-            Node::Children shapes = takeAllShapes(m_document, *frame->child(u"draw:text-box"),
-                                                  {m_place.page, box, m_place.depth});
-            std::move(shapes.begin(), shapes.end(), std::back_inserter(m_cells));
-            m_cells.push_back(std::move(frame));
-        }
-        column += cell->isText() ? 0 : count;
+    for (RowCell& cell : cellsOf(row)) {
+        addCell(cell, rowFill, height);
     }
     m_above = 0.0;
 }
@@ -193,22 +259,6 @@ void takeParagraphs(Node& parent, Node& target, int depth)
         }
     }
     std::erase(parent.children, nullptr);
-}
-
-void addBorder(const Properties& source, Properties& target)
-{
-    QString border = source.value(u"fo:border"_s);
-    for (const QString& side : {u"fo:border-bottom"_s, u"fo:border-left"_s, u"fo:border-top"_s}) {
-        if (border.isEmpty() || border == "none"_L1) {
-            border = source.value(side);
-        }
-    }
-    const QStringList parts = border.split(u' ', Qt::SkipEmptyParts);
-    if (parts.size() == 3) {
-        target.insert(u"draw:stroke"_s, u"solid"_s);
-        target.insert(u"svg:stroke-width"_s, parts[0]);
-        target.insert(u"svg:stroke-color"_s, parts[2]);
-    }
 }
 
 std::unique_ptr<Node> textFrame(Document& document, const QRectF& box, const Properties& graphic,

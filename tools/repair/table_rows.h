@@ -18,9 +18,6 @@ struct TextPlace;
                                               const Properties& graphic,
                                               const Properties& text = {});
 
-/// States the border of a frame or cell as a pen. Items have one for all sides.
-void addBorder(const Properties& source, Properties& target);
-
 /// What the automatic style of a table, row, column or cell states in its element with this tag.
 [[nodiscard]] Properties statedBy(const Document& document, const Node& part, const QString& tag);
 /// The same of an automatic style of any family.

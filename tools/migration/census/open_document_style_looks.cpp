@@ -84,13 +84,18 @@ bool StyleBook::hasTabStops(const QString& style) const
 
 void StyleBook::takeCell(const QXmlStreamAttributes& attributes)
 {
-    const auto isDrawn = [&attributes](QLatin1String side) {
+    CellBorders borders;
+    for (const auto side :
+         {"fo:border-top"_L1, "fo:border-left"_L1, "fo:border-bottom"_L1, "fo:border-right"_L1}) {
         const QStringView border = attributes.hasAttribute(side) ? attributes.value(side)
                                                                  : attributes.value("fo:border"_L1);
-        return !border.isEmpty() && border != "none"_L1;
-    };
-    m_cells.insert(m_cellName, {isDrawn("fo:border-top"_L1), isDrawn("fo:border-left"_L1),
-                                isDrawn("fo:border-bottom"_L1), isDrawn("fo:border-right"_L1)});
+        const bool isDrawn =
+            !border.isEmpty() && border != "none"_L1 && !border.contains("hidden"_L1);
+        borders.areDrawn |= isDrawn;
+        borders.areOther |=
+            isDrawn && !border.contains("solid"_L1) && !border.contains("double"_L1);
+    }
+    m_cells.insert(m_cellName, borders);
 }
 
 bool StyleBook::numbersHeading(const QString& style, int level) const

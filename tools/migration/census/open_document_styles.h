@@ -1,6 +1,5 @@
 #pragma once
 
-#include "migration/census/table_borders.h"
 #include "migration/model/appearance.h"
 #include "migration/model/census.h"
 
@@ -15,6 +14,13 @@ namespace migration {
 
 /// As the color of a text: black or white, depending on its ground.
 inline constexpr QLatin1String AutomaticColor("automatic");
+
+/// How the style of a cell draws its borders.
+struct CellBorders
+{
+    bool areDrawn = false; ///< on any side
+    bool areOther = false; ///< with dots, dashes or reliefs on any side
+};
 
 /// The properties in the styles of a document that labels do not show.
 class StyleBook

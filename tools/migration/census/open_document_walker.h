@@ -139,13 +139,8 @@ private:
     const StyleBook& m_styles;
     QString m_unit;
     std::vector<Place> m_places;
-    /// A table that is open, and the number of places outside it.
-    struct OpenTable
-    {
-        std::size_t depth = 0;
-        TableBorders borders;
-    };
-    std::vector<OpenTable> m_tables;
+    /// The numbers of places outside the tables that are open.
+    std::vector<std::size_t> m_tables;
     std::optional<QRectF> m_box; ///< of the element that is being opened
     QString m_masterPage;
     bool m_hasRunningText = false;

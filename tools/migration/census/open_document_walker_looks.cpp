@@ -102,33 +102,21 @@ const OpenDocumentWalker::Place* OpenDocumentWalker::innermostLostObject() const
 void OpenDocumentWalker::openInTable(const QString& name, const Attributes& attributes)
 {
     if (name == "table:table"_L1) {
-        m_tables.push_back({m_places.size(), {}});
+        m_tables.push_back(m_places.size());
     } else if (m_tables.empty() || !name.startsWith("table:"_L1)) {
         return;
-    } else if (name == "table:table-row"_L1) {
-        m_tables.back().borders.openRow();
     } else if (name == "table:table-cell"_L1) {
-        m_tables.back().borders.openCell(
-            m_styles.bordersOfCell(attributes.value("table:style-name"_L1).toString()),
-            attributes.value("table:number-columns-spanned"_L1).toInt());
-    } else if (name == "table:covered-table-cell"_L1) {
-        m_tables.back().borders.openCovered(
-            std::max(1, attributes.value("table:number-columns-repeated"_L1).toInt()));
+        const CellBorders borders =
+            m_styles.bordersOfCell(attributes.value("table:style-name"_L1).toString());
+        const bool isNested = m_tables.size() > 1;
+        m_census.otherBorderedCells += borders.areOther || (isNested && borders.areDrawn) ? 1 : 0;
     }
 }
 
 void OpenDocumentWalker::closeTable()
 {
-    if (m_tables.empty() || m_tables.back().depth < m_places.size()) {
+    if (m_tables.empty() || m_tables.back() < m_places.size()) {
         return;
-    }
-    TableBorders& borders = m_tables.back().borders;
-    borders.close();
-    if (m_tables.size() > 1) {
-        m_census.nestedBorderedCells += borders.bordered();
-    } else {
-        m_census.borderedCells += borders.bordered();
-        m_census.partlyBorderedCells += borders.partly();
     }
     m_tables.pop_back();
 }

@@ -142,9 +142,6 @@ void RepairedLosses::addPage(Census repaired, const LabelFacts& label, const Log
     compare(repaired, label, log, page);
     m_texts.addPage(label);
     m_textsOnOneSide += label.textsOnOneSide;
-    m_boxes += std::count_if(label.items.begin(), label.items.end(), [](const ItemFacts& item) {
-        return item.objectClass == ObjectClass::Shape && item.penWidth;
-    });
     if (m_lastPage > 0) {
         // Places are those on the label that is shown: the first page.
         forgetPlaces(page.lost);
@@ -223,13 +220,6 @@ QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
 
 // Repair draws all sides of a cell or none, and none in tables within tables. Other boxes may have
 // a pen, too.
-qint64 RepairedLosses::changedCells() const
-{
-    const qint64 cells = m_original.borderedCells;
-    return (m_boxes >= cells ? m_original.partlyBorderedCells : 0) +
-           (m_boxes < cells + m_original.nestedBorderedCells ? m_original.nestedBorderedCells : 0);
-}
-
 void RepairedLosses::fill(FileReport& report) const
 {
     FileReport original;
@@ -245,9 +235,10 @@ void RepairedLosses::fill(FileReport& report) const
         addTo(changed, {{lossCode(LossKind::TextDiffers), lossText(LossKind::TextDiffers),
                          missing.count, false, missing.details}});
     }
-    for (const auto& [kind, count] : {std::pair(LossKind::TextWrap, m_textsOnOneSide),
-                                      std::pair(LossKind::CellBorders, changedCells()),
-                                      std::pair(LossKind::ObjectRedrawn, m_redrawn)}) {
+    for (const auto& [kind, count] :
+         {std::pair(LossKind::TextWrap, m_textsOnOneSide),
+          std::pair(LossKind::CellBorders, m_original.otherBorderedCells),
+          std::pair(LossKind::ObjectRedrawn, m_redrawn)}) {
         if (count > 0) {
             addTo(changed, {{lossCode(kind), lossText(kind), count, false, {}}});
         }

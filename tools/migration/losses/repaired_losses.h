@@ -38,7 +38,6 @@ private:
     void addTo(QList<Finding>& sums, const QList<Finding>& findings) const;
     [[nodiscard]] QList<Finding> remaining(const QList<Finding>& original,
                                            const QList<Finding>& repaired) const;
-    [[nodiscard]] qint64 changedCells() const;
     void addPagesLeftOut(QList<Finding>& lost) const;
 
     const Census& m_original;
@@ -50,7 +49,6 @@ private:
     PagedTexts m_texts;
     qint64 m_textsOnOneSide = 0;
     qint64 m_redrawn = 0;
-    qint64 m_boxes = 0; ///< with a pen, on all labels
 };
 
 } // namespace migration

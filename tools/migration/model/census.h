@@ -98,13 +98,11 @@ struct Census
     QStringList paragraphs;
     /// Headings that the document shows with a number.
     QStringList numberedHeadings;
-    /// Cells of tables with a border, and those of them that have one on some sides only.
-    qint64 borderedCells = 0;
-    qint64 partlyBorderedCells = 0;
-    /// Cells with a border in tables within tables; not among the others.
-    qint64 nestedBorderedCells = 0;
-    /// Sizes, in points, of objects that may have text on both sides. A height of 0 follows from the
-    /// content.
+    /// Cells of tables whose borders repair does not draw: those with dots or dashes, and in tables
+    /// within tables.
+    qint64 otherBorderedCells = 0;
+    /// Sizes, in points, of objects that may have text on both sides. A height of 0 follows from
+    /// the content.
     QList<QSizeF> sizesBetweenText;
     /// Size of its page in points; 0 if unknown.
     QSizeF pageSize;

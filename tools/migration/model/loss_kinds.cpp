@@ -217,7 +217,7 @@ constexpr std::array Rows{
             TEXT("Lines are more than a quarter thinner or thicker than in the document."),
             TEXT("If the document was imported as written, import it without --as-written.")},
     LossRow{LossKind::CellBorders, "cell-borders", Changed, Appearance,
-            TEXT("Cells of tables have borders on other sides than in the document."), nullptr},
+            TEXT("Borders of cells have other lines than in the document, or are missing in tables within tables."), nullptr},
     LossRow{LossKind::FillSimplified, "fill-simplified", Changed, Appearance,
             TEXT("Fills of objects, such as gradients and hatchings, were simplified or dropped."), nullptr},
     LossRow{LossKind::PictureFill, "picture-fill", Changed, Appearance,
