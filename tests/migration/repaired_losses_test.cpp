@@ -201,6 +201,33 @@ TEST(RepairedLosses, AHeaderIsLostOnlyIfNoPageShowsItsText)
     EXPECT_EQ(report.objects.imported, 1);
 }
 
+TEST(RepairedLosses, AShapeOfTheHeaderIsKnownByItsSize)
+{
+    Census original = censusOf({counted(ObjectClass::Shape, LossKind::HeaderOrFooter)});
+    original.objects[0].appearance = 0;
+    original.appearances.append(Appearance());
+    original.appearances[0].size = {30.0, 200.0};
+    const auto lost = [&original](const QRectF& box) {
+        LabelFacts label = labelOf({ObjectClass::Symbol});
+        label.items[0].outline = QPolygonF(box);
+        return codesOf(filled(original, censusOf({}), label).lost);
+    };
+    EXPECT_EQ(lost({7.0, 8.0, 31.0, 201.0}), "");
+    EXPECT_EQ(lost({7.0, 8.0, 31.0, 150.0}), "header-or-footer 1");
+}
+
+// Wherever they are: the repaired document has no trace of the place.
+TEST(RepairedLosses, PicturesThatNoLabelShowsAreMissing)
+{
+    const Census original = censusOf({counted(ObjectClass::Picture, LossKind::Table),
+                                      counted(ObjectClass::Picture, LossKind::Table)});
+    const auto lost = [&original](QList<ObjectClass> items) {
+        return codesOf(filled(original, censusOf({}), labelOf(items)).lost);
+    };
+    EXPECT_EQ(lost({ObjectClass::Picture, ObjectClass::Picture}), "");
+    EXPECT_EQ(lost({ObjectClass::Picture}), "object-missing 1");
+}
+
 TEST(RepairedLosses, PagesAddUp)
 {
     RepairedLosses losses(TwoShapes);

@@ -23,7 +23,6 @@ constexpr double Inch = 72.0;
 struct Page
 {
     QList<workbench::ItemValues> rectangles; ///< without those of rows of text
-    QList<workbench::ItemValues> lines;
     QList<workbench::ItemValues> symbols;
     QList<workbench::ItemValues> texts;
 };
@@ -57,8 +56,6 @@ Page pageWith(const QByteArray& layout, const QByteArray& margins = {})
         const KestTypes::ShapeType type = item->shapeType();
         if (type == KestTypes::RichText) {
             page.texts.append(values);
-        } else if (values.line) {
-            page.lines.append(values);
         } else if (values.fill && values.fill->style == Qt::SolidPattern) {
             page.rectangles.append(values);
         } else if (!values.fill) {
@@ -96,13 +93,13 @@ TEST(PageGrounds, FillThePageWithinItsMargins)
 
 TEST(PageGrounds, HaveABorderOnEachSideThatStatesOne)
 {
-    EXPECT_EQ(pageWith("fo:border=\"1pt solid #112233\">").lines.size(), 4);
-    EXPECT_TRUE(pageWith("fo:border=\"none\">").lines.isEmpty());
+    EXPECT_EQ(pageWith("fo:border=\"1pt solid #112233\">").rectangles.size(), 4);
+    EXPECT_TRUE(pageWith("fo:border=\"none\">").rectangles.isEmpty());
     const Page page = pageWith("fo:border=\"none\" fo:border-bottom=\"2pt solid #112233\">");
-    ASSERT_EQ(page.lines.size(), 1);
-    EXPECT_NEAR(page.lines[0].placement.position.y(), Frame.bottom(), 0.1);
-    EXPECT_EQ(page.lines[0].pen->color.name(), "#112233"_L1);
-    EXPECT_NEAR(page.lines[0].pen->width, 2.0, 0.01);
+    ASSERT_EQ(page.rectangles.size(), 1);
+    EXPECT_EQ(page.rectangles[0].fill->color.name(), "#112233"_L1);
+    expectNear(boxOf(page.rectangles[0]),
+               QRectF(Frame.left() - 1.0, Frame.bottom() - 1.0, Frame.width() + 2.0, 2.0));
 }
 
 TEST(PageGrounds, KeepTextsAwayFromTheirBorders)

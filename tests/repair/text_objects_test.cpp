@@ -336,6 +336,19 @@ TEST(TextObjects, OfTheHeaderAreInIt)
     EXPECT_GT(linesOf(*header)[0].right(), page.rectangle().right());
 }
 
+// Watermarks are in headers.
+TEST(TextObjects, OfTheHeaderAreBelowTheBody)
+{
+    const TextPage page("<text:p>" + rectangle("page", "body") + "</text:p>",
+                        graphicStyle("body", "draw:stroke=\"solid\" svg:stroke-color=\"#00ff00\""),
+                        "<style:header><text:p>" + rectangle("paragraph", "head") +
+                            "</text:p></style:header>",
+                        graphicStyle("head", "draw:stroke=\"solid\" svg:stroke-color=\"#ff0000\""));
+    QStringList pens = page.pens();
+    pens.removeAll(u"none"_s);
+    EXPECT_EQ(pens, QStringList({u"#ff0000"_s, u"#00ff00"_s}));
+}
+
 TEST(TextObjects, HaveAnOutlineUnlessTheyStateNone)
 {
     const TextPage page("<text:p>" + rectangle("as-char", "blue") + rectangle("as-char", "none") +

@@ -1,8 +1,8 @@
 #include "repair/anchored_shapes.h"
 
-#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
+#include "repair/object_style.h"
 #include "repair/page_end.h"
 #include "repair/page_notes.h"
 #include "repair/shape_place.h"
@@ -27,17 +27,6 @@ QString sideOf(Flow flow)
         return flow == Flow::BesideLeft ? u"left"_s : u"right"_s;
     }
     return u"none"_s;
-}
-
-// Shapes in a text have an outline unless they state none.
-void writeShapeStyle(Document& document, Node& shape)
-{
-    StyleProperties style =
-        document.table().resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true);
-    if (!shape.is(u"draw:g") && !style.graphic.contains(u"draw:stroke"_s)) {
-        style.graphic.insert(u"draw:stroke"_s, u"solid"_s);
-        shape.setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
-    }
 }
 
 /// Takes the objects out of paragraphs.
@@ -100,11 +89,7 @@ void ShapeTaker::takeInside(Node& parent, int depth)
 // The mark that the object leaves in its place; null if it leaves none.
 std::unique_ptr<Node> ShapeTaker::place(std::unique_ptr<Node> shape)
 {
-    if (shape->is(u"draw:frame")) {
-        writeFrameStyle(m_document, *shape);
-    } else {
-        writeShapeStyle(m_document, *shape);
-    }
+    writeObjectStyle(m_document, *shape);
     Anchor anchor = anchorOf(m_document, *shape, m_place);
     if (Node* const box = shape->child(u"draw:text-box")) {
         takeNested(*box, anchor.box);
@@ -198,24 +183,12 @@ void takeFromBlock(ShapeTaker& taker, Node& block, int depth)
         return;
     }
     for (const auto& child : block.children) {
-        if (depth < MaximumAnchorDepth && child->name.startsWith("text:"_L1)) {
+        const bool isText =
+            child->name.startsWith("text:"_L1) || child->name.startsWith("table:"_L1);
+        if (depth < MaximumAnchorDepth && isText) {
             takeFromBlock(taker, *child, depth + 1);
         }
     }
-}
-
-// A frame grows with its text: its lines are counted.
-void writeHeight(Document& document, Node& frame)
-{
-    const Node* const box = frame.child(u"draw:text-box");
-    if (box == nullptr || frame.hasAttribute(u"svg:height")) {
-        return;
-    }
-    const Properties graphic = graphicOf(document, frame);
-    const double padding = 2.0 * toPoints(graphic.value(u"fo:padding"_s)).value_or(0.0);
-    const double lines = linesHeight(document, *box) + padding;
-    frame.setAttribute(u"svg:height"_s,
-                       toInches(std::max(lines, pointsOf(*box, u"fo:min-height"))));
 }
 
 } // namespace
@@ -269,34 +242,6 @@ Node::Children takeAllShapes(Document& document, Node& container, const TextPlac
         takeFromBlock(taker, *child, 0);
     }
     return std::move(taken.anchored);
-}
-
-void writeFrameStyle(Document& document, Node& frame)
-{
-    StyleProperties style =
-        document.table().resolved(u"graphic"_s, frame.attribute(u"draw:style-name"), false);
-    Properties& graphic = style.graphic;
-    const QString fill = graphic.value(u"draw:fill"_s);
-    if (fill.isEmpty()) {
-        const QString color = graphic.value(u"fo:background-color"_s);
-        graphic.insert(u"draw:fill"_s, color.startsWith(u'#') ? u"solid"_s : u"none"_s);
-        graphic.insert(u"draw:fill-color"_s, color);
-    }
-    writeOnePen(edgesOf(graphic), graphic);
-    graphic.insert(u"fo:wrap-option"_s, u"wrap"_s);
-    if (!graphic.contains(u"draw:stroke"_s)) {
-        graphic.insert(u"draw:stroke"_s, u"none"_s);
-    }
-    for (const QString& side : {u"left"_s, u"right"_s, u"top"_s, u"bottom"_s}) {
-        const QString name = u"fo:padding-"_s + side;
-        if (!graphic.contains(u"fo:padding"_s) && !graphic.contains(name)) {
-            graphic.insert(name, u"0in"_s);
-        }
-    }
-    style.text.clear();
-    style.paragraph.clear();
-    frame.setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
-    writeHeight(document, frame);
 }
 
 } // namespace repair

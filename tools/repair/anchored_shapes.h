@@ -54,9 +54,6 @@ struct TakenShapes
 [[nodiscard]] Node::Children takeAllShapes(Document& document, Node& container,
                                            const TextPlace& place);
 
-/// Frames have neither pen nor fill by default, but borders and a background.
-void writeFrameStyle(Document& document, Node& frame);
-
 [[nodiscard]] bool isShape(const Node& node);
 [[nodiscard]] bool isParagraph(const Node& node);
 /// The paragraph that gives a block its breaks between pages: the first one of a list.

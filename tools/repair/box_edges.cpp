@@ -1,6 +1,7 @@
 #include "repair/box_edges.h"
 
 #include "repair/lengths.h"
+#include "repair/shape_place.h"
 #include "repair/table_rows.h"
 
 #include <QStringList>
@@ -109,6 +110,18 @@ Node::Children edgeBoxes(Document& document, const QRectF& box, const Edges& edg
     addEdge(document, {box.topLeft(), across}, u"top"_s, edges.top, lines);
     // Rows move it down when they have their heights.
     addEdge(document, {QPointF(box.left(), 0.0), across}, u"bottom"_s, edges.bottom, lines);
+    return lines;
+}
+
+Node::Children fixedEdges(Document& document, const QRectF& box, const Edges& edges)
+{
+    Node::Children lines = edgeBoxes(document, box, edges);
+    for (const auto& line : lines) {
+        if (line->attribute(EdgeAttribute) == "bottom"_L1) {
+            moveShape(*line, {0.0, box.bottom()});
+        }
+        line->removeAttribute(EdgeAttribute);
+    }
     return lines;
 }
 

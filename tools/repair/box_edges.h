@@ -52,6 +52,9 @@ inline const QString EdgeAttribute = QLatin1String("labelport:edge");
 /// @param box in points
 [[nodiscard]] Node::Children edgeBoxes(Document& document, const QRectF& box, const Edges& edges);
 
+/// The same of a box whose height does not depend on rows.
+[[nodiscard]] Node::Children fixedEdges(Document& document, const QRectF& box, const Edges& edges);
+
 /// Where an object is in its page's order: 0 for shapes, 1 for texts, which nothing may cover, and
 /// 2 for the borders on them.
 [[nodiscard]] int layerOf(const Node& object);

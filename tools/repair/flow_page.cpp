@@ -27,7 +27,7 @@ constexpr std::size_t MaximumObjectPages = 100;
 
 // Header and footer: texts of the master page.
 void addMargin(Document& document, const Node* margin, const PageArea& area, bool isHeader,
-               Node::Children& objects)
+               Node::Children& objects, Node::Children& texts)
 {
     if (margin == nullptr) {
         return;
@@ -43,7 +43,7 @@ void addMargin(Document& document, const Node* margin, const PageArea& area, boo
         return;
     }
     std::move(taken.begin(), taken.end(), std::back_inserter(objects));
-    objects.push_back(std::move(frame));
+    texts.push_back(std::move(frame));
 }
 
 // Objects in their own order, then the text, which nothing may cover.
@@ -102,17 +102,22 @@ std::unique_ptr<Node> pageOf(Document& document, FlowPage flow, bool isFull)
     auto page = Node::element(u"draw:page"_s);
     const PageArea& area = flow.area;
     page->children = pageGrounds(document, flow.master, area);
+    Node::Children marginTexts;
+    if (flow.master != nullptr) {
+        // Its objects are below the body: backgrounds and watermarks are in headers.
+        addMargin(document, flow.master->child(u"style:header"), area, true, page->children,
+                  marginTexts);
+        addMargin(document, flow.master->child(u"style:footer"), area, false, page->children,
+                  marginTexts);
+        page->setAttribute(u"draw:master-page-name"_s, flow.master->attribute(u"style:name"));
+    }
     std::ranges::move(textLast(std::move(flow.objects)), std::back_inserter(page->children));
+    std::ranges::move(marginTexts, std::back_inserter(page->children));
     page->setAttribute(TopAttribute, toInches(area.box.top()));
     if (area.box.height() >= LowestPage) {
         const double lowest = lowestLine(area, isFull ? EditorsMarginShare : MarginShare);
         page->setAttribute(BottomAttribute, toInches(isFull ? lowest : area.box.bottom()));
         page->setAttribute(LowestAttribute, toInches(lowest));
-    }
-    if (flow.master != nullptr) {
-        addMargin(document, flow.master->child(u"style:header"), area, true, page->children);
-        addMargin(document, flow.master->child(u"style:footer"), area, false, page->children);
-        page->setAttribute(u"draw:master-page-name"_s, flow.master->attribute(u"style:name"));
     }
     if (flow.isContinued) {
         page->setAttribute(ContinuesAttribute, u"true"_s);

@@ -1,5 +1,6 @@
 // Captions, dimension lines, connectors, and the texts of lines.
 
+#include "repair/boxed_table.h"
 #include "repair/document.h"
 #include "repair/drawn_table.h"
 #include "repair/lengths.h"
@@ -156,7 +157,11 @@ int drawConnectors(Document& document)
 int splitTables(Document& document)
 {
     return replaceShapes(document, [&document](Node& shape) {
-        return shape.is(u"draw:frame") ? drawnTableCells(document, shape) : Parts();
+        if (!shape.is(u"draw:frame")) {
+            return Parts();
+        }
+        Parts cells = drawnTableCells(document, shape);
+        return cells.empty() ? boxedTableParts(document, shape) : std::move(cells);
     });
 }
 

@@ -1,19 +1,17 @@
 #include "repair/page_grounds.h"
 
+#include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/page_area.h"
-#include "repair/shape_parts.h"
 #include "repair/shape_place.h"
 
-#include <array>
+#include <algorithm>
 
 namespace repair {
 
 namespace {
 
 using namespace Qt::StringLiterals;
-
-const std::array<QString, 4> Sides{u"top"_s, u"right"_s, u"bottom"_s, u"left"_s};
 
 // The color of a page or header, if it has no fill in the newer form.
 Properties plainFill(const Node& properties)
@@ -58,14 +56,6 @@ Properties pictureFillOf(Document& document, const Node& image)
             {u"style:repeat"_s, repeat}};
 }
 
-QString borderOf(const Node& properties, const QString& side)
-{
-    const QString name = u"fo:border-"_s + side;
-    const QString border =
-        properties.attribute(properties.hasAttribute(name) ? name : u"fo:border"_s);
-    return border == "none"_L1 ? QString() : border;
-}
-
 void addRectangle(Document& document, const QRectF& box, Properties fill, Node::Children& objects)
 {
     fill.insert(u"draw:stroke"_s, u"none"_s);
@@ -75,26 +65,6 @@ void addRectangle(Document& document, const QRectF& box, Properties fill, Node::
     style.graphic = std::move(fill);
     rectangle->setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
     objects.push_back(std::move(rectangle));
-}
-
-// The middle of the line is within the box.
-void addBorderLine(Document& document, const QRectF& box, const QString& side,
-                   const QString& border, Node::Children& objects)
-{
-    const QStringList parts = border.split(u' ', Qt::SkipEmptyParts);
-    if (parts.size() != 3) {
-        return;
-    }
-    StyleProperties style;
-    style.graphic = {{u"draw:stroke"_s, u"solid"_s},
-                     {u"svg:stroke-width"_s, parts[0]},
-                     {u"svg:stroke-color"_s, parts[2]}};
-    const QPointF from = side == "right"_L1    ? box.topRight()
-                         : side == "bottom"_L1 ? box.bottomLeft()
-                                               : box.topLeft();
-    const bool isUpright = side == "left"_L1 || side == "right"_L1;
-    const QPointF to = from + (isUpright ? QPointF(0.0, box.height()) : QPointF(box.width(), 0.0));
-    objects.push_back(lineBetween(from, to, document.styleFor(u"graphic"_s, style)));
 }
 
 void addGround(Document& document, const Node& properties, const QRectF& box,
@@ -115,9 +85,11 @@ void addGround(Document& document, const Node& properties, const QRectF& box,
             addRectangle(document, box, pictureFillOf(document, *image), objects);
         }
     }
-    for (const QString& side : Sides) {
-        addBorderLine(document, box, side, borderOf(properties, side), objects);
+    Properties stated;
+    for (const Attribute& attribute : properties.attributes) {
+        stated.insert(attribute.name, attribute.value);
     }
+    std::ranges::move(fixedEdges(document, box, edgesOf(stated)), std::back_inserter(objects));
 }
 
 void addMarginGround(Document& document, const Node& layout, const QString& kind, const QRectF& box,

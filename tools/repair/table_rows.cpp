@@ -75,14 +75,6 @@ Properties cellGround(const RowCell& cell, const QString& fill)
     return ground;
 }
 
-// The least height of a row, in points.
-double rowHeight(const Properties& row)
-{
-    const QString least = row.value(u"style:min-row-height"_s);
-    return std::max(
-        0.0, toPoints(least.isEmpty() ? row.value(u"style:row-height"_s) : least).value_or(0.0));
-}
-
 /// Places the cells of one table.
 class TableReader
 {
@@ -197,7 +189,7 @@ void TableReader::readRow(Node& row)
     ++m_row;
     const Properties rowStyle = statedBy(m_document, row, u"style:table-row-properties"_s);
     const QString rowFill = rowStyle.value(BackgroundColor);
-    const double height = std::min(rowHeight(rowStyle), m_place.page.box.height());
+    const double height = std::min(leastHeight(rowStyle), m_place.page.box.height());
     for (RowCell& cell : cellsOf(row)) {
         addCell(cell, rowFill, height);
     }
@@ -220,6 +212,13 @@ void TableReader::readRows(Node& parent, int depth)
 }
 
 } // namespace
+
+double leastHeight(const Properties& row)
+{
+    const QString least = row.value(u"style:min-row-height"_s);
+    return std::max(
+        0.0, toPoints(least.isEmpty() ? row.value(u"style:row-height"_s) : least).value_or(0.0));
+}
 
 Properties statedBy(const Document& document, const Node& part, const QString& tag)
 {

@@ -18,6 +18,9 @@ struct TextPlace;
                                               const Properties& graphic,
                                               const Properties& text = {});
 
+/// The least height of a row in points, from the properties that its style states.
+[[nodiscard]] double leastHeight(const Properties& row);
+
 /// What the automatic style of a table, row, column or cell states in its element with this tag.
 [[nodiscard]] Properties statedBy(const Document& document, const Node& part, const QString& tag);
 /// The same of an automatic style of any family.

@@ -183,6 +183,24 @@ void RepairedLosses::addPagesLeftOut(QList<Finding>& lost) const
     sortByKind(lost);
 }
 
+// Pictures in places that the repaired document does not have anymore.
+void RepairedLosses::addMissingPictures(qint64 unreadable, QList<Finding>& lost) const
+{
+    qint64 missing = m_searched.missingPictures(unreadable);
+    for (const Finding& finding : lost) {
+        const bool isUnreadable = finding.code == lossCode(LossKind::PictureUnreadable);
+        missing -= finding.countsObjects && !isUnreadable ? finding.count : 0;
+    }
+    if (missing > 0) {
+        addTo(lost, {{lossCode(LossKind::ObjectMissing),
+                      lossText(LossKind::ObjectMissing),
+                      missing,
+                      true,
+                      {}}});
+        sortByKind(lost);
+    }
+}
+
 void RepairedLosses::addTo(QList<Finding>& sums, const QList<Finding>& findings) const
 {
     for (const Finding& finding : findings) {
@@ -223,11 +241,13 @@ QList<Finding> RepairedLosses::remaining(const QList<Finding>& original,
 void RepairedLosses::fill(FileReport& report) const
 {
     FileReport original;
-    const Finding* const unreadable =
-        findingOf(m_pages.lost, lossCode(LossKind::PictureUnreadable));
-    compare(m_searched.withoutShown(unreadable != nullptr ? unreadable->count : 0), {}, {},
-            original);
+    const Finding* const damaged = findingOf(m_pages.lost, lossCode(LossKind::PictureUnreadable));
+    const qint64 unreadable = damaged != nullptr ? damaged->count : 0;
+    compare(m_searched.withoutShown(unreadable), {}, {}, original);
     report.lost = remaining(original.lost, m_pages.lost);
+    if (m_pagesLeftOut.isEmpty()) {
+        addMissingPictures(unreadable, report.lost);
+    }
     QList<Finding> changed = m_pages.changed;
     if (!m_pagesLeftOut.isEmpty()) {
         addPagesLeftOut(report.lost);

@@ -35,6 +35,7 @@ public:
     void fill(FileReport& report) const;
 
 private:
+    void addMissingPictures(qint64 unreadable, QList<Finding>& lost) const;
     void addTo(QList<Finding>& sums, const QList<Finding>& findings) const;
     [[nodiscard]] QList<Finding> remaining(const QList<Finding>& original,
                                            const QList<Finding>& repaired) const;

@@ -3,6 +3,7 @@
 #include "migration/losses/compared_text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace migration {
 
@@ -11,6 +12,15 @@ namespace {
 bool isSearched(const CountedObject& object)
 {
     return object.lost == LossKind::HeaderOrFooter || object.lost == LossKind::NestedObject;
+}
+
+// Points: a drawing is larger than its shape by the width of the pen.
+constexpr double SizeTolerance = 6.0;
+
+bool isNear(const QSizeF& a, const QSizeF& b)
+{
+    return !b.isEmpty() && std::abs(a.width() - b.width()) < SizeTolerance &&
+           std::abs(a.height() - b.height()) < SizeTolerance;
 }
 
 // Repair draws other objects as symbols.
@@ -41,9 +51,22 @@ void SearchedObjects::addPage(const LabelFacts& label)
     }
     m_missing.removeIf([&](qsizetype index) {
         const qsizetype appearance = m_document.objects.at(index).appearance;
-        const QString text = squeezed(m_document.appearances.at(appearance).text);
-        return !text.isEmpty() && isIn(text, shown);
+        return isOn(label, m_document.appearances.at(appearance), shown);
     });
+}
+
+// An object without text is known by its size: its place depends on the text around it.
+bool SearchedObjects::isOn(const LabelFacts& label, const Appearance& appearance,
+                           const QString& shown)
+{
+    const QString text = squeezed(appearance.text);
+    return text.isEmpty()
+               ? std::any_of(label.items.begin(), label.items.end(),
+                             [&appearance](const ItemFacts& item) {
+                                 return item.hasContent &&
+                                        isNear(item.outline.boundingRect().size(), appearance.size);
+                             })
+               : isIn(text, shown);
 }
 
 // Vector drawings become symbols, and embedded objects any items.
@@ -57,6 +80,11 @@ qint64 SearchedObjects::pictures() const
            m_document.drawings;
 }
 
+qint64 SearchedObjects::missingPictures(qint64 unreadable) const
+{
+    return std::max<qint64>(0, pictures() - m_pictures - unreadable);
+}
+
 // A nested box is shown if its text is.
 bool SearchedObjects::isShown(qsizetype index, bool hasAllPictures) const
 {
@@ -64,21 +92,19 @@ bool SearchedObjects::isShown(qsizetype index, bool hasAllPictures) const
     if (!isSearched(object) || object.appearance < 0) {
         return false;
     }
-    const bool isNested = object.lost == LossKind::NestedObject;
-    if (isNested && object.objectClass == ObjectClass::Picture) {
+    if (object.objectClass == ObjectClass::Picture) {
         return hasAllPictures;
     }
     const qsizetype next = index + 1;
-    const bool isBox = isNested && object.objectClass == ObjectClass::Shape &&
+    const bool isBox = object.objectClass == ObjectClass::Shape &&
                        next < m_document.objects.size() &&
-                       m_document.objects.at(next).lost == LossKind::NestedObject &&
-                       m_document.objects.at(next).objectClass == ObjectClass::Text;
+                       m_document.objects.at(next).lost == object.lost;
     return isBox ? isShown(next, hasAllPictures) : !m_missing.contains(index);
 }
 
 Census SearchedObjects::withoutShown(qint64 unreadable) const
 {
-    const bool hasAllPictures = m_pictures + unreadable >= pictures();
+    const bool hasAllPictures = missingPictures(unreadable) == 0;
     Census census = m_document;
     census.objects.clear();
     for (qsizetype index = 0; index < m_document.objects.size(); ++index) {

@@ -19,13 +19,18 @@ public:
     /// The document without the objects that were found.
     /// @param unreadable pictures whose loss is reported by itself
     [[nodiscard]] Census withoutShown(qint64 unreadable) const;
+    /// How many pictures of the document no label shows, wherever they are.
+    [[nodiscard]] qint64 missingPictures(qint64 unreadable) const;
 
 private:
     [[nodiscard]] bool isShown(qsizetype object, bool hasAllPictures) const;
     [[nodiscard]] qint64 pictures() const;
 
+    [[nodiscard]] static bool isOn(const LabelFacts& label, const Appearance& appearance,
+                                   const QString& shown);
+
     const Census& m_document;
-    QList<qsizetype> m_missing; ///< indices of the objects whose text no label shows yet
+    QList<qsizetype> m_missing; ///< indices of the objects that no label shows yet
     qint64 m_pictures = 0;      ///< on all labels
 };
 
