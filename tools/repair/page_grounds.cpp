@@ -4,6 +4,7 @@
 #include "repair/document.h"
 #include "repair/page_area.h"
 #include "repair/shape_place.h"
+#include "repair/transform.h"
 
 #include <algorithm>
 
