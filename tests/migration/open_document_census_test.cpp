@@ -338,21 +338,26 @@ TEST(OpenDocumentCensus, DoesNotCountWhatTheDocumentHides)
 
 TEST(OpenDocumentCensus, FindsSectionsThatDoNotLookLikePlainText)
 {
-    const auto effects = [](const QByteArray& properties) {
+    const auto count = [](LossKind kind, const QByteArray& properties) {
         const Census census = countOpenDocument(
             textOf("<text:section text:style-name=\"S\" text:name=\"Notes\"><text:section "
                    "text:style-name=\"S\"><text:p>Text</text:p></text:section></text:section>",
                    {.automaticStyles =
                         styleOf("S", "section", "<style:section-properties " + properties)}));
-        const auto tally = census.tallies.find(LossKind::TextEffect);
+        const auto tally = census.tallies.find(kind);
         return tally != census.tallies.end() ? tally->second.count : 0;
     };
-    EXPECT_EQ(effects("fo:background-color=\"#e0e0e0\"/>"), 2);
-    EXPECT_EQ(effects("fo:margin-left=\"0.4in\"/>"), 2);
-    EXPECT_EQ(effects("><style:columns fo:column-count=\"2\"/></style:section-properties>"), 2);
-    EXPECT_EQ(effects("fo:background-color=\"transparent\" fo:margin-left=\"0in\"><style:columns "
-                      "fo:column-count=\"1\"/></style:section-properties>"),
-              0);
+    const LossKind effect = LossKind::TextEffect;
+    const LossKind layout = LossKind::LayoutSimplified;
+    EXPECT_EQ(count(effect, "fo:background-color=\"#e0e0e0\"/>"), 2);
+    EXPECT_EQ(count(effect, "fo:margin-left=\"0.4in\"/>"), 2);
+    EXPECT_EQ(count(layout, "><style:columns fo:column-count=\"2\"/></style:section-properties>"),
+              2);
+    for (const LossKind kind : {effect, layout}) {
+        EXPECT_EQ(count(kind, "fo:background-color=\"transparent\" fo:margin-left=\"0in\">"
+                              "<style:columns fo:column-count=\"1\"/></style:section-properties>"),
+                  0);
+    }
 }
 
 TEST(OpenDocumentCensus, FindsTabsAtOtherPlacesThanOnLabels)

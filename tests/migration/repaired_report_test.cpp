@@ -108,6 +108,20 @@ TEST(RepairedReport, AutomaticTextIsReadableOnItsOwnDarkGround)
     EXPECT_EQ(verdictOf(report), Verdict::Complete) << codesOf(report).toStdString();
 }
 
+TEST(RepairedReport, AWatermarkIsPaleInTheDocument)
+{
+    const FileReport report = repairedReport(
+        odt("<text:p><draw:rect draw:style-name=\"G\" text:anchor-type=\"paragraph\" svg:x=\"1in\" "
+            "svg:y=\"1in\" svg:width=\"2in\" svg:height=\"1in\"><text:p text:style-name=\"W\">DRAFT"
+            "</text:p></draw:rect></text:p>",
+            {.automaticStyles =
+                 "<style:style style:name=\"G\" style:family=\"graphic\">"
+                 "<style:graphic-properties draw:fill=\"none\" draw:stroke=\"none\"/></style:style>"
+                 "<style:style style:name=\"W\" style:family=\"paragraph\">"
+                 "<style:text-properties fo:color=\"#eeeeee\"/></style:style>"}));
+    EXPECT_EQ(verdictOf(report), Verdict::Complete) << codesOf(report).toStdString();
+}
+
 // The colors of texts in tables are not looked up: white letters on gray are the document's own.
 TEST(RepairedReport, TextsOfTablesHaveTheColorsOfTheDocument)
 {

@@ -396,6 +396,7 @@ TEST(ReportedLosses, EveryKindHasASample)
     shown.insert(lossCode(LossKind::PagesLeftOut));
     shown.insert(lossCode(LossKind::TextWrap));
     shown.insert(lossCode(LossKind::CellBorders));
+    shown.insert(lossCode(LossKind::LayoutSimplified));
     shown.insert(lossCode(LossKind::ObjectRedrawn));
     for (const LossRow& row : lossRows()) {
         EXPECT_TRUE(shown.contains(lossCode(row.kind))) << row.code;

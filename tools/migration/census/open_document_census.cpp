@@ -229,6 +229,9 @@ Census countOpenDocument(const QByteArray& file)
     if (body.isText && layout.hasShadow) {
         census.note(LossKind::EffectDropped, 1, u"style:shadow"_s);
     }
+    if (body.isText && layout.hasColumns) {
+        census.note(LossKind::LayoutSimplified, 1, u"style:columns"_s);
+    }
     return census;
 }
 

@@ -72,11 +72,6 @@ void StyleBook::describeShape(const QString& style, bool isInText, bool isFrame,
     appearance.grows = shapeValue(&Style::growsHeight, style) == "true"_L1;
 }
 
-bool StyleBook::changesSection(const QString& style) const
-{
-    return m_sections.contains(style);
-}
-
 bool StyleBook::hasTabStops(const QString& style) const
 {
     return textStyle(style).hasTabStops;
@@ -94,6 +89,11 @@ void StyleBook::takeCell(const QXmlStreamAttributes& attributes)
         borders.areDrawn |= isDrawn;
         borders.areOther |=
             isDrawn && !border.contains("solid"_L1) && !border.contains("double"_L1);
+    }
+    if (isVerticalMode(attributes.value("style:writing-mode"_L1)) ||
+        isVerticalMode(attributes.value("loext:writing-mode"_L1)) ||
+        isNonZero(attributes.value("style:rotation-angle"_L1).toString())) {
+        m_rotatedCells.insert(m_cellName);
     }
     m_cells.insert(m_cellName, borders);
 }

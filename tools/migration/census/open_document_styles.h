@@ -1,5 +1,6 @@
 #pragma once
 
+#include "migration/census/open_document_properties.h"
 #include "migration/model/appearance.h"
 #include "migration/model/census.h"
 
@@ -48,8 +49,18 @@ public:
     /// What changes on the text of a shape in this style: labels take nothing about texts
     /// from the styles of shapes.
     [[nodiscard]] LossSet shapeTextChanges(const QString& style) const;
-    /// Whether a style gives a section a background, margins or columns, which labels do not show.
-    [[nodiscard]] bool changesSection(const QString& style) const;
+    /// What changes on a section in this style: its background, margins and columns.
+    [[nodiscard]] LossSet sectionChanges(const QString& style) const
+    {
+        return m_sections.value(style);
+    }
+    /// Whether the text of a cell in this style is rotated.
+    [[nodiscard]] bool rotatesCell(const QString& style) const
+    {
+        return m_rotatedCells.contains(style);
+    }
+    /// Whether texts in this style are not shown.
+    [[nodiscard]] bool hidesText(const QString& style) const { return textStyle(style).isHidden; }
     /// Whether a paragraph has tab stops at other places than at equal distances.
     [[nodiscard]] bool hasTabStops(const QString& style) const;
     /// Whether a heading in this style shows a number, if it is not in a list.
@@ -74,9 +85,10 @@ public:
 private:
     struct Style
     {
-        quint64 dropped = 0;  ///< a bit for each row of the table of properties
+        DroppedProperties dropped;
         bool isSized = false; ///< it gives a size of letters
         bool hasTabStops = false;
+        bool isHidden = false;
         bool hasNoNumbers = false; ///< although it is that of a heading
         // As written; empty if not given by the style or its parents. Those of the default style
         // are not included: a paragraph's default is weaker than the style of its shape.
@@ -116,8 +128,8 @@ private:
 
     QHash<QString, Style> m_texts;
     QHash<QString, Style> m_shapes;
-    QString m_sectionName;    ///< of the style that is read; empty if it is not one of a section
-    QSet<QString> m_sections; ///< with a background, margins or columns
+    QString m_sectionName; ///< of the style that is read; empty if it is not one of a section
+    QHash<QString, LossSet> m_sections;
     QHash<QString, QString> m_faces; ///< families by the names of their declarations
     Style m_defaultText;
     Style m_defaultShape;
@@ -125,6 +137,7 @@ private:
     Style m_ignored;
     QString m_cellName; ///< of the style that is read; empty if it is not one of a cell
     QHash<QString, CellBorders> m_cells;
+    QSet<QString> m_rotatedCells;
     QHash<QString, QString> m_masterPages; ///< by family and style: "table/Address"
     QSet<int> m_numberedLevels;            ///< of headings
     bool m_numbersLines = false;

@@ -37,6 +37,7 @@ void StylesReader::open(const QString& name, const QXmlStreamAttributes& attribu
 void StylesReader::openOutside(const QString& name, const QXmlStreamAttributes& attributes)
 {
     m_styles.book.take(name, attributes);
+    m_isInLayout = name == "style:page-layout"_L1 || (m_isInLayout && name != "style:style"_L1);
     if (name == "style:page-layout"_L1) {
         m_styles.layouts.append({attributes.value("style:name"_L1).toString(), {}, {}});
     } else if (name == "style:page-layout-properties"_L1 && !m_styles.layouts.isEmpty()) {
@@ -46,6 +47,8 @@ void StylesReader::openOutside(const QString& name, const QXmlStreamAttributes& 
         m_styles.layouts.last().hasMargins = hasMargins(attributes);
         const QStringView shadow = attributes.value("style:shadow"_L1);
         m_styles.layouts.last().hasShadow = !shadow.isEmpty() && shadow != "none"_L1;
+    } else if (m_isInLayout && name == "style:columns"_L1) {
+        m_styles.layouts.last().hasColumns = attributes.value("fo:column-count"_L1).toInt() > 1;
     } else if (name == "style:master-page"_L1) {
         m_masterDepth = m_depth;
         m_styles.masterPages.append({attributes.value("style:name"_L1).toString(),

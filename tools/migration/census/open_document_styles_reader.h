@@ -21,6 +21,7 @@ struct PageLayout
     QString height;
     bool hasMargins = false;
     bool hasShadow = false;
+    bool hasColumns = false;
     bool isSizeAssumed = false; ///< by the repair: the document states none
 };
 
@@ -59,6 +60,7 @@ private:
     void openOnMasterPage(const QString& name, const QXmlStreamAttributes& attributes);
 
     Styles& m_styles;
+    bool m_isInLayout = false;
     int m_depth = 0;
     int m_masterDepth = 0; // 0 outside master pages
     int m_walkDepth = 0;   // 0 where nothing is counted

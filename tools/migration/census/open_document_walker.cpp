@@ -50,6 +50,7 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
     const std::optional<QRectF> box = boxOf(attributes);
     m_box = box ? box : m_places.back().box;
     noteFirstPage(name, attributes);
+    noteLayout(name, attributes);
     openInTable(name, attributes);
     openChild(name, attributes);
     m_places.back().box = m_box;
@@ -57,7 +58,9 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
 
 void OpenDocumentWalker::openChild(const QString& name, const Attributes& attributes)
 {
-    if (isHidden(name, attributes)) {
+    const bool isText = isParagraph(name) || name == "text:span"_L1;
+    if (isHidden(name, attributes) ||
+        (isText && m_styles.hidesText(attributes.value("text:style-name"_L1).toString()))) {
         return push(Spot::Ignored);
     }
     if (isSpacing(name)) {
@@ -212,11 +215,17 @@ void OpenDocumentWalker::close()
         if (parent.spot == Spot::LostParagraph) {
             parent.hasText = parent.hasText || place.hasText;
             parent.text += place.text;
+            parent.colors += place.colors;
         } else if (place.hasText) {
             addLost({.objectClass = ObjectClass::Text,
                      .lost = place.lost,
                      .appearance = addTextAppearance({}, place.text)},
                     place.box);
+            // The ground of a shape is known, that of a cell is not.
+            Appearance& appearance = m_census.appearances.last();
+            if (place.colors.size() == 1 && appearance.isInShape) {
+                appearance.textColor = place.colors.constFirst();
+            }
             if (Place* const shape = nearestShape()) {
                 shape->hasLostParts = true;
             }

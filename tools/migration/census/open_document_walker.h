@@ -110,6 +110,8 @@ private:
     void openShapeParagraph(const Attributes& attributes);
     void openLostPart(const QString& name, LossKind otherwise);
     void openLost(LossKind kind, const QString& name, const Attributes& attributes = {});
+    void noteLostColor();
+    void noteLayout(const QString& name, const Attributes& attributes);
     void noteSection(const QString& name, const Attributes& attributes);
     void noteTab(const QString& name);
     void openIgnored(const QString& name);

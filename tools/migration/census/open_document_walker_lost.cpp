@@ -61,9 +61,21 @@ void OpenDocumentWalker::openInLost(const QString& name, const Attributes& attri
     const bool isText = !isNote && (isParagraph(name) || isInParagraph);
     push(isText ? Spot::LostParagraph : Spot::Lost);
     m_places.back().lost = kind;
+    m_places.back().style = attributes.value("text:style-name"_L1).toString();
     m_places.back().isVariable = name == "text:variable-get"_L1;
     if (name == "text:note-body"_L1) {
         takeText(u" "); // after its number
+    }
+}
+
+// The color that the style of a paragraph or span states.
+void OpenDocumentWalker::noteLostColor()
+{
+    Place& place = m_places.back();
+    const Place& outer = m_places.at(m_places.size() - 2);
+    const QColor color = m_styles.colorOf(place.style, outer.style, {});
+    if (!place.colors.contains(color)) {
+        place.colors.append(color);
     }
 }
 
@@ -88,9 +100,28 @@ void OpenDocumentWalker::openLostPart(const QString& name, LossKind otherwise)
 // Its texts are imported by repair, what surrounds them is not.
 void OpenDocumentWalker::noteSection(const QString& name, const Attributes& attributes)
 {
-    if (lostTextPart(name) == LossKind::TextSection &&
-        m_styles.changesSection(attributes.value("text:style-name"_L1).toString())) {
-        m_census.note(LossKind::TextEffect, 1, attributes.value("text:name"_L1).toString());
+    if (lostTextPart(name) != LossKind::TextSection) {
+        return;
+    }
+    const LossSet changes =
+        m_styles.sectionChanges(attributes.value("text:style-name"_L1).toString());
+    for (const LossKind kind : {LossKind::TextEffect, LossKind::LayoutSimplified}) {
+        if (changes.has(kind)) {
+            m_census.note(kind, 1, attributes.value("text:name"_L1).toString());
+        }
+    }
+}
+
+// What follows in one column on a label.
+void OpenDocumentWalker::noteLayout(const QString& name, const Attributes& attributes)
+{
+    if (attributes.hasAttribute("draw:chain-next-name"_L1) ||
+        (name == "text:note"_L1 && attributes.value("text:note-class"_L1) == "endnote"_L1) ||
+        (name == "table:table"_L1 && !m_tables.empty())) {
+        m_census.note(LossKind::LayoutSimplified, 1, name);
+    } else if (name == "text:note"_L1 || name == "text:changed-region"_L1) {
+        // The line above footnotes, and the colors of changes.
+        m_census.note(LossKind::TextEffect, 1, name);
     }
 }
 

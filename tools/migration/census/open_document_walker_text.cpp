@@ -173,8 +173,10 @@ void OpenDocumentWalker::text(QStringView characters)
     case Spot::ShapeParagraph:
     case Spot::ShapeRun:
         return markText();
-    case Spot::Run:
     case Spot::LostParagraph:
+        noteLostColor();
+        [[fallthrough]];
+    case Spot::Run:
         m_places.back().hasText = true;
         return;
     default:

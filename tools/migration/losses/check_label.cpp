@@ -225,8 +225,8 @@ void LabelCheck::checkColor(const Pair& pair)
 {
     const QColor& wanted = pair.appearance->textColor;
     const QColor& seen = m_label.items.at(pair.item).textColor;
-    if (m_isRepaired && pair.isExact && wanted.isValid() && seen.isValid() &&
-        differVisibly(wanted, seen)) {
+    if (m_isRepaired && pair.isExact && pair.appearance->isColorKnown && wanted.isValid() &&
+        seen.isValid() && differVisibly(wanted, seen)) {
         add(pair.item, LossKind::TextColor, wanted.name() + u" → "_s + seen.name());
     }
 }

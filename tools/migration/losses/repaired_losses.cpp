@@ -256,7 +256,8 @@ void RepairedLosses::fill(FileReport& report) const
                          missing.count, false, missing.details}});
     }
     for (const auto& [kind, count] :
-         {std::pair(LossKind::TextWrap, m_textsOnOneSide),
+         {std::pair(LossKind::TextWrap,
+                    std::min<qint64>(m_textsOnOneSide, m_original.sizesBetweenText.size())),
           std::pair(LossKind::CellBorders, m_original.otherBorderedCells),
           std::pair(LossKind::ObjectRedrawn, m_redrawn)}) {
         if (count > 0) {

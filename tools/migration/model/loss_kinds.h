@@ -76,6 +76,7 @@ enum class LossKind : quint8 {
     TextEffect,
     TextPath,
     TextWrap,
+    LayoutSimplified,
     Numbering,
     TextDiffers,
     TextUnreadable,
