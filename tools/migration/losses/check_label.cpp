@@ -176,8 +176,11 @@ QStringList familiesSeen(const ItemFacts& item)
 
 bool isSeen(const QString& family, const QStringList& seen)
 {
-    return seen.contains(family, Qt::CaseInsensitive) ||
-           seen.contains(withoutNumber(family), Qt::CaseInsensitive);
+    // Documents made from PDF files write "LiberationSans".
+    const auto plain = [](QString name) { return name.remove(u' ').toCaseFolded(); };
+    return std::any_of(seen.begin(), seen.end(), [&](const QString& each) {
+        return plain(each) == plain(family) || plain(each) == plain(withoutNumber(family));
+    });
 }
 
 void LabelCheck::checkFonts(const Pair& pair)
