@@ -336,6 +336,19 @@ TEST(OpenDocumentCensus, DoesNotCountWhatTheDocumentHides)
     EXPECT_EQ(census.paragraphs, QStringList{u"Showntoo"_s});
 }
 
+TEST(OpenDocumentCensus, DoesNotCountWhatIsNotPrinted)
+{
+    const QByteArray layers =
+        "<draw:layer-set><draw:layer draw:name=\"hidden\" draw:display=\"none\"/><draw:layer "
+        "draw:name=\"notes\" draw:display=\"screen\"/><draw:layer draw:name=\"shown\"/>"
+        "</draw:layer-set>";
+    const Census census = countOpenDocument(
+        drawingOf("<draw:rect draw:layer=\"hidden\"/><draw:rect draw:layer=\"notes\"/><draw:rect "
+                  "draw:layer=\"shown\"/><draw:rect draw:display=\"screen\"/>",
+                  {.masterPages = layers}));
+    EXPECT_EQ(census.objects.size(), 1);
+}
+
 TEST(OpenDocumentCensus, FindsSectionsThatDoNotLookLikePlainText)
 {
     const auto count = [](LossKind kind, const QByteArray& properties) {

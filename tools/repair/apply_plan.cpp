@@ -8,6 +8,7 @@
 #include "workbench/items/canvas_item.h"
 
 #include <QMap>
+#include <QRegularExpression>
 #include <QTransform>
 
 #include <algorithm>
@@ -17,12 +18,20 @@ namespace repair {
 
 namespace {
 
+using namespace Qt::StringLiterals;
+
 // The item's z value for one step of an object's order.
 constexpr double ZPerOrder = 1000.0;
 // A text is less than this above its shape.
 constexpr double TextOffset = 0.0005;
 // Points: lines that fit must not break for rounding.
 constexpr double WidthTolerance = 0.3;
+// Points by which a text may exceed the area that it fits.
+constexpr double FitTolerance = 1.0;
+// Shares of the font sizes that the document states, and how often they are tried.
+constexpr double SmallestFontShare = 0.1;
+constexpr double LargestFontShare = 20.0;
+constexpr int FitSteps = 9;
 
 double widthOf(const QSizeF& natural, const TextPlan& plan)
 {
@@ -51,6 +60,48 @@ QPointF cornerOf(const QSizeF& size, const TextPlan& plan)
     return corner;
 }
 
+QString scaledFonts(const QString& html, double factor)
+{
+    static const QRegularExpression size(u"font-size:([0-9.]+)pt"_s);
+    QString result;
+    qsizetype end = 0;
+    for (auto found = size.globalMatch(html); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        result += html.mid(end, match.capturedStart() - end);
+        result += u"font-size:%1pt"_s.arg(match.capturedView(1).toDouble() * factor, 0, 'f', 3);
+        end = match.capturedEnd();
+    }
+    return result + html.mid(end);
+}
+
+bool fits(::RichTextItem& text, const TextPlan& plan, double factor)
+{
+    text.setHtml(scaledFonts(plan.html, factor));
+    text.adjustBoxSizeToContent(0.0);
+    const double width = widthOf(text.getItemSize(), plan);
+    if (width > plan.area.width() + FitTolerance) {
+        return false;
+    }
+    text.adjustBoxSizeToContent(width);
+    return text.getItemHeight() <= plan.area.height() + FitTolerance;
+}
+
+// The text is left with the largest fonts that fit.
+void fitText(::RichTextItem& text, const TextPlan& plan)
+{
+    const bool canGrow = plan.fit == TextPlan::Fit::Fill;
+    if (plan.fit == TextPlan::Fit::None || (!canGrow && fits(text, plan, 1.0))) {
+        return;
+    }
+    double least = SmallestFontShare;
+    double most = canGrow ? LargestFontShare : 1.0;
+    for (int i = 0; i < FitSteps; ++i) {
+        const double middle = std::sqrt(least * most);
+        (fits(text, plan, middle) ? least : most) = middle;
+    }
+    (void)fits(text, plan, least);
+}
+
 void applyText(workbench::CanvasItem& item, const TextPlan& plan)
 {
     auto* const text = dynamic_cast<::RichTextItem*>(item.contractItem());
@@ -58,6 +109,7 @@ void applyText(workbench::CanvasItem& item, const TextPlan& plan)
         return;
     }
     text->setHtml(plan.html);
+    fitText(*text, plan);
     const bool isAsWideAsArea = plan.fillsWidth && plan.wraps;
     if (!isAsWideAsArea) {
         text->adjustBoxSizeToContent(0.0);

@@ -11,6 +11,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <iterator>
 
 namespace repair {
 
@@ -88,6 +89,15 @@ StyleProperties drawnCell(Document& document, const QString& style)
     return result;
 }
 
+double sumOf(const QList<double>& lengths, qsizetype first, int count)
+{
+    double sum = 0.0;
+    for (qsizetype i = first; i < std::min(first + count, lengths.size()); ++i) {
+        sum += lengths[i];
+    }
+    return sum;
+}
+
 // Borders that no pen around the cell draws.
 void addSides(Document& document, const QRectF& box, const StyleProperties& style,
               Node::Children& sides)
@@ -127,18 +137,15 @@ Node::Children drawnTableCells(Document& document, Node& frame)
         qsizetype column = 0;
         for (const auto& cell : rows[row]->children) {
             const int span = repeats(*cell, u"table:number-columns-spanned", MaximumColumns);
-            double width = 0.0;
-            for (qsizetype i = column; i < std::min(column + span, widths.size()); ++i) {
-                width += widths[i];
-            }
             if (cell->is(u"table:table-cell") && column < widths.size()) {
                 const QString own = cell->attribute(u"table:style-name");
                 const StyleProperties style = drawnCell(document, own.isEmpty() ? rowStyle : own);
-                auto box =
-                    textFrame(document, {x, y, width, heights[row]}, style.graphic, style.text);
+                const int rowSpan = repeats(*cell, u"table:number-rows-spanned", MaximumRows);
+                const QRectF place(x, y, sumOf(widths, column, span), sumOf(heights, row, rowSpan));
+                auto box = textFrame(document, place, style.graphic, style.text);
                 takeParagraphs(*cell, *box->child(u"draw:text-box"), 0);
                 cells.push_back(std::move(box));
-                addSides(document, {x, y, width, heights[row]}, style, sides);
+                addSides(document, place, style, sides);
             }
             // Cells that a wide one covers are listed too.
             x += !cell->isText() && column < widths.size() ? widths[column] : 0.0;

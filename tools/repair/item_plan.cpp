@@ -102,6 +102,55 @@ double outerSpace(Document& document, const Node& container, bool isAbove)
     return space;
 }
 
+// Lines of such a text run down its box.
+bool isVertical(Document& document, const Node& shape)
+{
+    if (shape.hasAttribute(RowAttribute)) {
+        return false;
+    }
+    const Properties paragraph =
+        document.table()
+            .resolved(u"graphic"_s, shape.attribute(u"draw:style-name"), true)
+            .paragraph;
+    return paragraph.value(u"style:writing-mode"_s).startsWith("tb"_L1);
+}
+
+TextPlan::Fit fitOf(const Node& shape, const Properties& graphic)
+{
+    const QString fit = graphic.value(u"draw:fit-to-size"_s);
+    const bool isBox = shape.is(u"draw:frame") || shape.is(u"draw:custom-shape");
+    if (!isBox || shape.hasAttribute(RowAttribute)) {
+        return TextPlan::Fit::None;
+    }
+    if (fit == "shrink-to-fit"_L1 || graphic.value(u"style:shrink-to-fit"_s) == "true"_L1) {
+        return TextPlan::Fit::Shrink;
+    }
+    return fit == "true"_L1 || fit == "all"_L1 || fit == "proportional"_L1 ? TextPlan::Fit::Fill
+                                                                           : TextPlan::Fit::None;
+}
+
+// The area is where the text is before it turns about the center of its shape.
+void turnText(double degrees, TextPlan& plan)
+{
+    const double straight = std::round(degrees / 90.0) * 90.0;
+    const QTransform back = QTransform::fromTranslate(-plan.center.x(), -plan.center.y()) *
+                            QTransform().rotate(-straight) *
+                            QTransform::fromTranslate(plan.center.x(), plan.center.y());
+    plan.area = back.mapRect(plan.area);
+    plan.rotation += degrees;
+}
+
+// The first line is at the right side, and begins at the top.
+void turnVertical(const Properties& graphic, TextPlan& plan)
+{
+    const QString across = graphic.value(u"draw:textarea-horizontal-align"_s);
+    plan.fillsWidth = true;
+    plan.alignment = Qt::AlignHCenter | (across == "right"_L1  ? Qt::AlignTop
+                                         : across == "left"_L1 ? Qt::AlignBottom
+                                                               : Qt::AlignVCenter);
+    turnText(90.0, plan);
+}
+
 TextPlan planText(Document& document, const Node& shape, const Node& container,
                   const Properties& graphic)
 {
@@ -130,6 +179,12 @@ TextPlan planText(Document& document, const Node& shape, const Node& container,
         plan.area = placed.box;
         plan.fillsWidth = false;
         plan.alignment = (side == "above"_L1 ? Qt::AlignBottom : Qt::AlignTop) | Qt::AlignHCenter;
+    }
+    plan.fit = fitOf(shape, graphic);
+    if (isVertical(document, shape)) {
+        turnVertical(graphic, plan);
+    } else if (const double turn = textTurn(shape); turn != 0.0) {
+        turnText(turn, plan);
     }
     return plan;
 }

@@ -26,6 +26,9 @@ struct TextPlan
     /// the alignment places it.
     bool fillsWidth = true;
     bool wraps = true;
+    /// Whether the fonts shrink until the text fits the area, or also grow until it fills it.
+    enum class Fit { None, Shrink, Fill };
+    Fit fit = Fit::None;
 };
 
 /// Before the number of a mark: the name of the invisible picture that keeps an object's room in a

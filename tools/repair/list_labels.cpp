@@ -28,6 +28,17 @@ const Node* alignmentIn(const Node& level)
     return properties != nullptr ? properties->child(u"style:list-level-label-alignment") : nullptr;
 }
 
+QString pointsText(double points)
+{
+    return QString::number(points, 'f', 2) + "pt"_L1;
+}
+
+// From 0 to 1; 0 for other texts.
+double percentOf(const QString& text)
+{
+    return text.endsWith(u'%') ? text.chopped(1).toDouble() / 100.0 : 0.0;
+}
+
 } // namespace
 
 QString bulletText(const QString& character)
@@ -112,8 +123,16 @@ Indent indentOf(const Node& level)
     return {pointsOf(*properties, u"text:space-before") + width, -width};
 }
 
-StyleProperties labelStyle(StyleProperties style)
+StyleProperties labelStyle(StyleProperties style, const Node* level)
 {
+    const Node* const text = level != nullptr ? level->child(u"style:text-properties") : nullptr;
+    const QString stated = text != nullptr ? text->attribute(u"fo:font-size") : QString();
+    const auto own = toPoints(style.text.value(u"fo:font-size"_s));
+    if (const auto points = toPoints(stated)) {
+        style.text.insert(u"fo:font-size"_s, pointsText(*points));
+    } else if (const double share = percentOf(stated); own && share > 0.0) {
+        style.text.insert(u"fo:font-size"_s, pointsText(*own * share));
+    }
     for (const QString& name : style.text.keys()) {
         if (name.startsWith("style:text-underline"_L1) ||
             name.startsWith("style:text-line-through"_L1)) {

@@ -30,8 +30,9 @@ struct Indent
 [[nodiscard]] const Node* levelIn(const Node* style, int level);
 [[nodiscard]] Indent indentOf(const Node& level);
 
-/// The style of a bullet or number, which is not underlined with its paragraph.
-[[nodiscard]] StyleProperties labelStyle(StyleProperties style);
+/// The style of a bullet or number of a level, which is not underlined with its paragraph and may
+/// have a size of its own.
+[[nodiscard]] StyleProperties labelStyle(StyleProperties style, const Node* level);
 /// Blanks between a bullet or number and its text, which begins where the other lines do if the
 /// level states nothing else. Tabs would jump to the layout's own stops.
 ///

@@ -6,6 +6,7 @@
 #include "repair/shape_place.h"
 #include "repair/transform.h"
 
+#include <QSet>
 #include <QTransform>
 
 #include <algorithm>
@@ -143,6 +144,37 @@ void takeOut(Node& group, const QTransform& outer, const Node& place, Node::Chil
     }
 }
 
+bool isUnprinted(const QString& display)
+{
+    return display == "none"_L1 || display == "screen"_L1;
+}
+
+void addHiddenLayers(const Node* layers, QSet<QString>& hidden)
+{
+    if (layers != nullptr) {
+        for (const auto& layer : layers->children) {
+            if (isUnprinted(layer->attribute(u"draw:display"))) {
+                hidden.insert(layer->attribute(u"draw:name"));
+            }
+        }
+    }
+}
+
+int removeUnprintedIn(Node& parent, const QSet<QString>& hidden)
+{
+    int count = 0;
+    for (const auto& child : parent.children) {
+        if (child->is(u"draw:g") || child->is(u"draw:a")) {
+            count += removeUnprintedIn(*child, hidden);
+        }
+    }
+    count += static_cast<int>(std::erase_if(parent.children, [&hidden](const auto& child) {
+        return isObject(*child) && (isUnprinted(child->attribute(u"draw:display")) ||
+                                    hidden.contains(child->attribute(u"draw:layer")));
+    }));
+    return count;
+}
+
 } // namespace
 
 std::unique_ptr<Node> copyFromMaster(Document& document, const Node& part)
@@ -230,6 +262,19 @@ int dissolveGroups(Document& document)
     }
     page->children = std::move(objects);
     return count;
+}
+
+int removeUnprinted(Document& document)
+{
+    Node* const page = document.page();
+    if (page == nullptr) {
+        return 0;
+    }
+    QSet<QString> hidden;
+    const Node* const masters = document.styles->child(u"office:master-styles");
+    addHiddenLayers(masters != nullptr ? masters->child(u"draw:layer-set") : nullptr, hidden);
+    addHiddenLayers(page->child(u"draw:layer-set"), hidden);
+    return removeUnprintedIn(*page, hidden);
 }
 
 int writeOrder(Document& document)

@@ -18,6 +18,8 @@ int usePageLayout(Document& document);
 int addMasterObjects(Document& document);
 /// Takes objects out of groups and links.
 int dissolveGroups(Document& document);
+/// Leaves out objects that are not printed: those of hidden layers, and those that say so.
+int removeUnprinted(Document& document);
 /// Writes the order of the objects into each of them.
 int writeOrder(Document& document);
 

@@ -188,6 +188,9 @@ std::unique_ptr<Node> takeText(Document& document, Node& shape, const Placement&
     if (shape.hasAttribute(u"draw:z-index")) {
         frame->setAttribute(u"draw:z-index"_s, shape.attribute(u"draw:z-index"));
     }
+    if (const double turn = textTurn(shape); turn != 0.0) {
+        frame->setAttribute(TextTurnAttribute, QString::number(turn));
+    }
     writePlacement(*frame, area);
     Node& inside = frame->append(Node::element(u"draw:text-box"_s));
     for (auto& child : shape.children) {
@@ -197,6 +200,15 @@ std::unique_ptr<Node> takeText(Document& document, Node& shape, const Placement&
     }
     std::erase(shape.children, nullptr);
     return frame;
+}
+
+double textTurn(const Node& shape)
+{
+    const Node* const geometry = shape.child(u"draw:enhanced-geometry");
+    const double turn = geometry != nullptr
+                            ? -geometry->attribute(u"draw:text-rotate-angle").toDouble()
+                            : shape.attribute(TextTurnAttribute).toDouble();
+    return std::isfinite(turn) ? std::fmod(turn, 360.0) : 0.0;
 }
 
 QPainterPath outlineInBox(const Node& shape, const QSizeF& size)

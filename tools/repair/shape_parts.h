@@ -36,6 +36,9 @@ void addIfAny(Parts& parts, std::unique_ptr<Node> node);
 [[nodiscard]] std::unique_ptr<Node> takeText(Document& document, Node& shape,
                                              const Placement& area);
 
+/// By how many degrees, clockwise, the text of a shape is turned in it.
+[[nodiscard]] double textTurn(const Node& shape);
+
 /// The outline of a rectangle, ellipse, polygon, or path in its box; empty for other shapes.
 [[nodiscard]] QPainterPath outlineInBox(const Node& shape, const QSizeF& size);
 

@@ -49,6 +49,8 @@ inline const QString LineTextAttribute = QLatin1String("labelport:line-text");
 /// The rectangle of a shape's text in its box, where it is not the box: "x y width height" in
 /// points.
 inline const QString TextAreaAttribute = QLatin1String("labelport:text-area");
+/// By how many degrees, clockwise, the text of a shape is turned in it.
+inline const QString TextTurnAttribute = QLatin1String("labelport:text-turn");
 /// The color behind a text that was taken out of its shape; a property of its graphic style.
 inline const QString GroundProperty = QLatin1String("labelport:ground");
 

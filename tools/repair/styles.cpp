@@ -134,6 +134,10 @@ StyleProperties StyleTable::ownProperties(const Node& style)
 {
     StyleProperties own;
     readProperties(style.child(u"style:graphic-properties"), own.graphic);
+    // The grounds of cells of drawings. Those of paragraphs repeat what their shape states.
+    if (style.attribute(u"style:family") == "table-cell"_L1) {
+        readProperties(style.child(u"loext:graphic-properties"), own.graphic);
+    }
     readProperties(style.child(u"style:paragraph-properties"), own.paragraph);
     stateSides(own.paragraph, u"fo:margin"_s);
     readProperties(style.child(u"style:text-properties"), own.text);

@@ -123,7 +123,7 @@ void BlockWriter::addLabel(const Node& paragraph, const Node* level, StyleProper
     writeIndent(level, paragraph.attribute(u"text:style-name"),
                 paragraph.hasAttribute(LabelAttribute), style.paragraph);
     if (!label.isEmpty()) {
-        const StyleProperties shown = labelStyle(style);
+        const StyleProperties shown = labelStyle(style, level);
         const double room = -toPoints(style.paragraph.value(u"fo:text-indent"_s)).value_or(0.0);
         runs.insert(runs.begin(),
                     {shown, label + labelGap(m_document.table(), level, shown.text, label, room)});

@@ -183,6 +183,11 @@ bool isSpacing(const QString& name)
     return name == "text:s"_L1 || name == "text:tab"_L1 || name == "text:line-break"_L1;
 }
 
+bool isUnprinted(QStringView display)
+{
+    return display == "none"_L1 || display == "screen"_L1;
+}
+
 bool isHidden(const QString& name, const QXmlStreamAttributes& attributes)
 {
     const QStringView display = attributes.value("text:display"_L1);

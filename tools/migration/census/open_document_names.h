@@ -47,6 +47,8 @@ struct DrawingElement
 /// Blanks, tabs and line ends that are elements.
 [[nodiscard]] bool isSpacing(const QString& name);
 /// Whether the document hides an element: a section, a field or a text.
+/// Whether draw:display keeps an object or a layer off paper.
+[[nodiscard]] bool isUnprinted(QStringView display);
 [[nodiscard]] bool isHidden(const QString& name, const QXmlStreamAttributes& attributes);
 /// The fields that the reader imports.
 [[nodiscard]] bool isDateOrTime(const QString& name);

@@ -1,5 +1,6 @@
 #include "migration/census/open_document_styles.h"
 
+#include "migration/census/open_document_names.h"
 #include "migration/census/open_document_properties.h"
 
 #include <array>
@@ -31,7 +32,9 @@ bool isTextFamily(const QString& family)
 
 void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes)
 {
-    if (name == "style:page-layout"_L1) {
+    if (name == "draw:layer"_L1) {
+        takeLayer(attributes);
+    } else if (name == "style:page-layout"_L1) {
         m_sectionName.clear();
         m_cellName.clear();
         m_current = &m_ignored;
@@ -69,6 +72,13 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
         takeSection(name, attributes);
     } else {
         takeProperties(name, attributes);
+    }
+}
+
+void StyleBook::takeLayer(const QXmlStreamAttributes& attributes)
+{
+    if (isUnprinted(attributes.value("draw:display"_L1))) {
+        m_hiddenLayers.insert(valueOf(attributes, "draw:name"_L1));
     }
 }
 

@@ -77,6 +77,11 @@ public:
     /// The master page of the page that a paragraph or table in this style begins; empty if it
     /// begins none.
     [[nodiscard]] QString masterPageOf(const QString& family, const QString& style) const;
+    /// Whether the objects of a layer are not printed.
+    [[nodiscard]] bool hidesLayer(QStringView layer) const
+    {
+        return !layer.isEmpty() && m_hiddenLayers.contains(layer.toString());
+    }
     [[nodiscard]] bool numbersLines() const { return m_numbersLines; }
     /// Whether a style gives texts the size of their letters.
     [[nodiscard]] bool sizesText(const QString& style) const;
@@ -116,6 +121,7 @@ private:
     [[nodiscard]] Style& current();
     [[nodiscard]] const Style& textStyle(const QString& name) const;
     [[nodiscard]] const Style& shapeStyle(const QString& name) const;
+    void takeLayer(const QXmlStreamAttributes& attributes);
     void takeCell(const QXmlStreamAttributes& attributes);
     void takeMasterPage(const QString& family, const QString& name, const QString& parent,
                         const QXmlStreamAttributes& attributes);
@@ -139,7 +145,8 @@ private:
     QHash<QString, CellBorders> m_cells;
     QSet<QString> m_rotatedCells;
     QHash<QString, QString> m_masterPages; ///< by family and style: "table/Address"
-    QSet<int> m_numberedLevels;            ///< of headings
+    QSet<QString> m_hiddenLayers;
+    QSet<int> m_numberedLevels; ///< of headings
     bool m_numbersLines = false;
     bool m_isInList = false; ///< in a level of a list style
 };

@@ -59,7 +59,8 @@ void OpenDocumentWalker::open(const QString& name, const Attributes& attributes)
 void OpenDocumentWalker::openChild(const QString& name, const Attributes& attributes)
 {
     const bool isText = isParagraph(name) || name == "text:span"_L1;
-    if (isHidden(name, attributes) ||
+    if (isHidden(name, attributes) || m_styles.hidesLayer(attributes.value("draw:layer"_L1)) ||
+        isUnprinted(attributes.value("draw:display"_L1)) ||
         (isText && m_styles.hidesText(attributes.value("text:style-name"_L1).toString()))) {
         return push(Spot::Ignored);
     }
