@@ -83,7 +83,7 @@ QList<Look> looks()
         {"first letter", LossKind::TextEffect, Paragraph,
          style("paragraph", "<style:paragraph-properties><style:drop-cap style:lines=\"3\"/>"
                             "</style:paragraph-properties>")},
-        {"picture below a paragraph", LossKind::PictureFill, Paragraph,
+        {"picture below a paragraph", LossKind::TextEffect, Paragraph,
          style("paragraph", "<style:paragraph-properties><style:background-image "
                             "xlink:href=\"a.png\"/></style:paragraph-properties>")},
         frame("vertical text", LossKind::TextEffect, "style:writing-mode=\"bt-lr\""),
@@ -97,6 +97,12 @@ QList<Look> looks()
          style("section", "<style:section-properties>" + columns + "</style:section-properties>")},
         {"ground of a section", LossKind::TextEffect, Section,
          style("section", "<style:section-properties fo:background-color=\"#ffff00\"/>")},
+        {"picture below a frame", LossKind::EffectDropped, Frame,
+         style("graphic", "<style:graphic-properties><style:background-image "
+                          "xlink:href=\"a.png\"/></style:graphic-properties>")},
+        {"picture below a cell", LossKind::TextEffect, Cell,
+         style("table-cell", "<style:table-cell-properties><style:background-image "
+                             "xlink:href=\"a.png\"/></style:table-cell-properties>")},
         {"rotated cell", LossKind::TextEffect, Cell,
          style("table-cell", "<style:table-cell-properties style:rotation-angle=\"90\"/>")},
         {"table in a table",
@@ -148,6 +154,13 @@ TEST(Looks, ThatLabelsShowAreNotReported)
         frame("frame", LossKind::EffectDropped,
               "fo:border-top=\"none\" fo:border-left=\"none\" draw:gamma=\"100%\" draw:red=\"0%\" "
               "style:writing-mode=\"lr-tb\""),
+        {"drawn picture below a frame", LossKind::EffectDropped, Frame,
+         style("graphic", "<style:graphic-properties draw:fill=\"bitmap\">"
+                          "<style:background-image xlink:href=\"a.png\"/>"
+                          "</style:graphic-properties>")},
+        {"no picture below a cell", LossKind::TextEffect, Cell,
+         style("table-cell", "<style:table-cell-properties><style:background-image/>"
+                             "</style:table-cell-properties>")},
         {"one column", LossKind::LayoutSimplified, Section,
          style("section", "<style:section-properties><style:columns fo:column-count=\"1\"/>"
                           "</style:section-properties>")},

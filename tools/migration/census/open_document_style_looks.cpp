@@ -90,12 +90,18 @@ void StyleBook::takeCell(const QXmlStreamAttributes& attributes)
         borders.areOther |=
             isDrawn && !border.contains("solid"_L1) && !border.contains("double"_L1);
     }
-    if (isVerticalMode(attributes.value("style:writing-mode"_L1)) ||
-        isVerticalMode(attributes.value("loext:writing-mode"_L1)) ||
-        isNonZero(attributes.value("style:rotation-angle"_L1).toString())) {
-        m_rotatedCells.insert(m_cellName);
-    }
+    noteCellEffect(u"style:writing-mode"_s,
+                   isVerticalMode(attributes.value("style:writing-mode"_L1)) ||
+                       isVerticalMode(attributes.value("loext:writing-mode"_L1)) ||
+                       isNonZero(attributes.value("style:rotation-angle"_L1).toString()));
     m_cells.insert(m_cellName, borders);
+}
+
+void StyleBook::noteCellEffect(const QString& effect, bool isThere)
+{
+    if (isThere) {
+        m_cellEffects[m_cellName].append(effect);
+    }
 }
 
 bool StyleBook::numbersHeading(const QString& style, int level) const

@@ -68,6 +68,8 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
         current().hasTabStops = true;
     } else if (name == "style:table-cell-properties"_L1 && !m_cellName.isEmpty()) {
         takeCell(attributes);
+    } else if (name == "style:background-image"_L1 && !m_cellName.isEmpty()) {
+        noteCellEffect(name, attributes.hasAttribute("xlink:href"_L1));
     } else if (!m_sectionName.isEmpty()) {
         takeSection(name, attributes);
     } else {
@@ -101,7 +103,8 @@ void StyleBook::startStyle(const QXmlStreamAttributes& attributes, bool isDefaul
     m_isInList = false;
     const QString family = valueOf(attributes, "style:family"_L1);
     const QString name = valueOf(attributes, "style:name"_L1);
-    m_cellName = family == "table-cell"_L1 ? name : QString();
+    // Of a table, row or cell: editors give them different names.
+    m_cellName = family.startsWith("table"_L1) ? name : QString();
     m_sectionName = family == "section"_L1 ? name : QString();
     const QString parent = valueOf(attributes, "style:parent-style-name"_L1);
     takeMasterPage(family, name, parent, attributes);
@@ -144,6 +147,9 @@ StyleBook::Style& StyleBook::current()
 void StyleBook::takeProperties(const QString& group, const QXmlStreamAttributes& attributes)
 {
     Style& style = current();
+    if (group == "style:background-image"_L1 && style.fill == "bitmap"_L1) {
+        return; // the same picture, for older programs
+    }
     takeDropped(group, attributes, style.dropped);
     for (const auto& [valueGroup, attribute, value] : Values) {
         if (valueGroup == group && attributes.hasAttribute(attribute)) {

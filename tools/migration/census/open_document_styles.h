@@ -54,10 +54,11 @@ public:
     {
         return m_sections.value(style);
     }
-    /// Whether the text of a cell in this style is rotated.
-    [[nodiscard]] bool rotatesCell(const QString& style) const
+    /// What labels do not show of a table, row or cell in this style, as names of attributes and
+    /// elements: rotated text, a picture below it.
+    [[nodiscard]] QStringList effectsOfCell(const QString& style) const
     {
-        return m_rotatedCells.contains(style);
+        return m_cellEffects.value(style);
     }
     /// Whether texts in this style are not shown.
     [[nodiscard]] bool hidesText(const QString& style) const { return textStyle(style).isHidden; }
@@ -123,6 +124,7 @@ private:
     [[nodiscard]] const Style& shapeStyle(const QString& name) const;
     void takeLayer(const QXmlStreamAttributes& attributes);
     void takeCell(const QXmlStreamAttributes& attributes);
+    void noteCellEffect(const QString& effect, bool isThere);
     void takeMasterPage(const QString& family, const QString& name, const QString& parent,
                         const QXmlStreamAttributes& attributes);
     void takeSection(const QString& name, const QXmlStreamAttributes& attributes);
@@ -141,9 +143,9 @@ private:
     Style m_defaultShape;
     Style* m_current = nullptr;
     Style m_ignored;
-    QString m_cellName; ///< of the style that is read; empty if it is not one of a cell
+    QString m_cellName; ///< of the style that is read; empty if it is not one of a table or cell
     QHash<QString, CellBorders> m_cells;
-    QSet<QString> m_rotatedCells;
+    QHash<QString, QStringList> m_cellEffects;
     QHash<QString, QString> m_masterPages; ///< by family and style: "table/Address"
     QSet<QString> m_hiddenLayers;
     QSet<int> m_numberedLevels; ///< of headings

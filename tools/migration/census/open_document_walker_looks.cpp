@@ -105,14 +105,15 @@ void OpenDocumentWalker::openInTable(const QString& name, const Attributes& attr
         m_tables.push_back(m_places.size());
     } else if (m_tables.empty() || !name.startsWith("table:"_L1)) {
         return;
-    } else if (name == "table:table-cell"_L1) {
-        const QString style = attributes.value("table:style-name"_L1).toString();
+    }
+    const QString style = attributes.value("table:style-name"_L1).toString();
+    for (const QString& effect : m_styles.effectsOfCell(style)) {
+        m_census.note(LossKind::TextEffect, 1, effect);
+    }
+    if (name == "table:table-cell"_L1) {
         const CellBorders borders = m_styles.bordersOfCell(style);
         const bool isNested = m_tables.size() > 1;
         m_census.otherBorderedCells += borders.areOther || (isNested && borders.areDrawn) ? 1 : 0;
-        if (m_styles.rotatesCell(style)) {
-            m_census.note(LossKind::TextEffect, 1, u"style:writing-mode"_s);
-        }
     }
 }
 

@@ -181,7 +181,7 @@ constexpr std::array Rows{
             TEXT("Formats of characters and paragraphs, such as superscript or line spacing, were dropped."),
             TEXT("If the document was imported as written, import it without --as-written.")},
     LossRow{LossKind::TextEffect, "text-effect", Changed, Appearance,
-            TEXT("Effects of characters and paragraphs, such as shadow, outline, stretching, rotation, borders, kinds of underlines, drop caps, tab stops, line numbers, marks of changes, lines above footnotes and backgrounds of sections, were dropped."), nullptr},
+            TEXT("Effects of characters and paragraphs, such as shadow, outline, stretching, rotation, borders, kinds of underlines, drop caps, tab stops, line numbers, marks of changes, lines above footnotes, pictures below texts and backgrounds of sections, were dropped."), nullptr},
     LossRow{LossKind::TextPath, "text-path", Changed, Appearance,
             TEXT("Texts along a curve became straight."), nullptr},
     LossRow{LossKind::TextWrap, "text-wrap", Changed, Appearance,
