@@ -99,8 +99,8 @@ TEST(RepairedLosses, AnItemThatIsNotOnTheLabelIsMissing)
 
 TEST(RepairedLosses, WhatNoRepairAvoidsIsLostEvenIfTheRepairedDocumentDoesNotHaveIt)
 {
-    const Census original = censusOf({counted(ObjectClass::Shape, LossKind::FormControl)});
-    EXPECT_EQ(codesOf(filled(original, {}, {}).lost), "form-control 1");
+    const Census original = censusOf({counted(ObjectClass::Shape, LossKind::ThreeDScene)});
+    EXPECT_EQ(codesOf(filled(original, {}, {}).lost), "three-d-scene 1");
 }
 
 TEST(RepairedLosses, APageThatWasNotImportedIsLost)

@@ -52,6 +52,47 @@ const DocumentParts PageBreaks = {
 
 } // namespace
 
+TEST(RepairedReport, ObjectsOfTheMasterPageOfADrawingAreComplete)
+{
+    const QByteArray shape = "<draw:rect svg:x=\"1in\" svg:y=\"1in\" svg:width=\"1in\" "
+                             "svg:height=\"0.5in\"/>";
+    const DocumentParts parts = {
+        .masterPages = "<style:master-page style:name=\"M\" style:page-layout-name=\"L\">"
+                       "<draw:frame svg:x=\"1in\" svg:y=\"2in\" svg:width=\"2in\" "
+                       "svg:height=\"0.5in\"><draw:text-box><text:p>Footer</text:p></draw:text-box>"
+                       "</draw:frame></style:master-page>"};
+    const FileReport one = repairedReport(odg(shape, parts));
+    EXPECT_TRUE(one.lost.isEmpty());
+    EXPECT_EQ(one.objects.imported, one.objects.inFile);
+    const FileReport two = repairedReport(odg(
+        shape + "</draw:page><draw:page draw:name=\"page2\" draw:master-page-name=\"M\">" + shape,
+        parts));
+    EXPECT_TRUE(two.lost.isEmpty());
+    EXPECT_EQ(two.objects.imported, two.objects.inFile);
+}
+
+TEST(RepairedReport, FormControlsThatBecameBoxesAreComplete)
+{
+    const QByteArray control = "<draw:control draw:style-name=\"filled\" svg:x=\"1in\" "
+                               "svg:y=\"1in\" svg:width=\"1in\" svg:height=\"0.5in\" "
+                               "draw:control=\"c\"/>";
+    const DocumentParts parts = {.automaticStyles =
+                                     "<style:style style:name=\"filled\" style:family=\"graphic\">"
+                                     "<style:graphic-properties draw:fill=\"solid\" "
+                                     "draw:fill-color=\"#729fcf\"/></style:style>"};
+    const FileReport shown =
+        repairedReport(odg("<office:forms><form:form><form:textarea form:id=\"c\" "
+                           "form:current-value=\"Lot 42\"/></form:form></office:forms>" +
+                               control,
+                           parts));
+    EXPECT_TRUE(shown.lost.isEmpty());
+    EXPECT_TRUE(shown.changed.isEmpty());
+    EXPECT_EQ(shown.objects.imported, 1);
+    const FileReport unknown = repairedReport(odg(control, parts));
+    ASSERT_EQ(unknown.lost.size(), 1);
+    EXPECT_EQ(unknown.lost[0].code, u"form-control"_s) << "no form has this control";
+}
+
 TEST(RepairedReport, ATextOfSeveralPagesIsComplete)
 {
     const FileReport report =

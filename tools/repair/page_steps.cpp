@@ -239,6 +239,12 @@ int addMasterObjects(Document& document)
         }
     }
     const int count = static_cast<int>(objects.size());
+    // The rewritten document has each object once.
+    if (const Node* const masters = document.styles->child(u"office:master-styles")) {
+        for (const auto& each : masters->children) {
+            std::erase_if(each->children, [](const auto& child) { return isObject(*child); });
+        }
+    }
     page->children.insert(page->children.begin(), std::make_move_iterator(objects.begin()),
                           std::make_move_iterator(objects.end()));
     return count;

@@ -42,6 +42,11 @@ qsizetype OpenDocumentWalker::addAppearance(const QString& name, const Attribute
     Appearance appearance;
     m_styles.describeShape(attributes.value("draw:style-name"_L1).toString(), m_pages == 0,
                            name == "draw:frame"_L1, appearance);
+    if (name == "draw:control"_L1) {
+        // That of its kind, whatever its style states.
+        appearance.fill = {};
+        appearance.isFilled.reset();
+    }
     const bool isPlaced = m_pages > 0 || attributes.value("text:anchor-type"_L1) == "page"_L1;
     // A dimension line is drawn beside its ends.
     if (isPlaced && name != "draw:measure"_L1) {

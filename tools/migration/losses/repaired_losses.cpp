@@ -31,6 +31,7 @@ constexpr std::array SeenInRepaired{
     LossKind::TextElement,
     LossKind::ShapeText,
     LossKind::Footnote,
+    LossKind::FormControl,
     LossKind::PictureUnreadable,
     LossKind::DrawingUnreadable,
     LossKind::SymbolUnreadable,
