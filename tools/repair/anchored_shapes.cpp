@@ -5,6 +5,7 @@
 #include "repair/object_style.h"
 #include "repair/page_end.h"
 #include "repair/page_notes.h"
+#include "repair/paragraph_edges.h"
 #include "repair/shape_place.h"
 #include "repair/table_rows.h"
 
@@ -29,6 +30,15 @@ QString sideOf(Flow flow)
     return u"none"_s;
 }
 
+// The object is on the page of its paragraph.
+std::unique_ptr<Node> pageMark(const QString& key)
+{
+    auto node = Node::element(MarkElement);
+    node->attributes = {
+        {u"key"_s, key}, {u"width"_s, u"0"_s}, {u"height"_s, u"0"_s}, {u"side"_s, u"page"_s}};
+    return node;
+}
+
 /// Takes the objects out of paragraphs.
 class ShapeTaker
 {
@@ -44,11 +54,11 @@ public:
 
 private:
     void takeInside(Node& parent, int depth);
+    void takeEdges(const Node& paragraph);
     [[nodiscard]] std::unique_ptr<Node> place(std::unique_ptr<Node> shape);
     void placeInRow(std::unique_ptr<Node> shape, const QRectF& box);
     void takeNested(Node& box, const QRectF& column);
     [[nodiscard]] std::unique_ptr<Node> mark(Node& shape, const Anchor& anchor);
-    [[nodiscard]] std::unique_ptr<Node> pageMark(Node& shape);
 
     Document& m_document;
     const TextPlace& m_place;
@@ -64,6 +74,7 @@ void ShapeTaker::takeFrom(Node& paragraph)
     m_textHeight = textHeight(m_document, paragraph, m_place.column.width());
     m_aboveHeight = 0.0;
     takeInside(paragraph, 0);
+    takeEdges(paragraph);
     paragraph.children.insert(paragraph.children.begin(), std::make_move_iterator(m_marks.begin()),
                               std::make_move_iterator(m_marks.end()));
     m_marks.clear();
@@ -86,6 +97,16 @@ void ShapeTaker::takeInside(Node& parent, int depth)
     std::erase(parent.children, nullptr);
 }
 
+void ShapeTaker::takeEdges(const Node& paragraph)
+{
+    const QString key = QString::number(m_document.newMark());
+    Node::Children edges = paragraphEdges(m_document, paragraph, key);
+    if (!edges.empty()) {
+        m_marks.push_back(pageMark(key));
+        std::move(edges.begin(), edges.end(), std::back_inserter(m_taken.anchored));
+    }
+}
+
 // The mark that the object leaves in its place; null if it leaves none.
 std::unique_ptr<Node> ShapeTaker::place(std::unique_ptr<Node> shape)
 {
@@ -97,7 +118,9 @@ std::unique_ptr<Node> ShapeTaker::place(std::unique_ptr<Node> shape)
     if (anchor.flow == Flow::Page) {
         moveShape(*shape, anchor.box.topLeft() - boundsOf(*shape).topLeft());
         if (m_inRows && shape->attribute(u"text:anchor-type") != "page"_L1) {
-            m_marks.push_back(pageMark(*shape));
+            const QString key = QString::number(m_document.newMark());
+            shape->setAttribute(FromTextAttribute, key);
+            m_marks.push_back(pageMark(key));
         }
         m_taken.anchored.push_back(std::move(shape));
         return nullptr;
@@ -144,17 +167,6 @@ std::unique_ptr<Node> ShapeTaker::mark(Node& shape, const Anchor& anchor)
                         {u"width"_s, QString::number(anchor.room.width(), 'f', 2)},
                         {u"height"_s, QString::number(anchor.room.height(), 'f', 2)},
                         {u"side"_s, sideOf(anchor.flow)}};
-    return node;
-}
-
-// The object is on the page of its paragraph.
-std::unique_ptr<Node> ShapeTaker::pageMark(Node& shape)
-{
-    const QString key = QString::number(m_document.newMark());
-    shape.setAttribute(FromTextAttribute, key);
-    auto node = Node::element(MarkElement);
-    node->attributes = {
-        {u"key"_s, key}, {u"width"_s, u"0"_s}, {u"height"_s, u"0"_s}, {u"side"_s, u"page"_s}};
     return node;
 }
 
@@ -237,6 +249,7 @@ TakenShapes takeShapes(Document& document, Node& block, const TextPlace& place, 
 Node::Children takeAllShapes(Document& document, Node& container, const TextPlace& place)
 {
     TakenShapes taken;
+    joinEdges(document, container);
     ShapeTaker taker(document, place, false, taken);
     for (const auto& child : container.children) {
         takeFromBlock(taker, *child, 0);

@@ -108,8 +108,7 @@ Node::Children edgeBoxes(Document& document, const QRectF& box, const Edges& edg
     addEdge(document, {box.topLeft(), down}, u"left"_s, edges.left, lines);
     addEdge(document, {box.topRight(), down}, u"right"_s, edges.right, lines);
     addEdge(document, {box.topLeft(), across}, u"top"_s, edges.top, lines);
-    // Rows move it down when they have their heights.
-    addEdge(document, {QPointF(box.left(), 0.0), across}, u"bottom"_s, edges.bottom, lines);
+    addEdge(document, {box.bottomLeft(), across}, u"bottom"_s, edges.bottom, lines);
     return lines;
 }
 
@@ -128,7 +127,7 @@ Node::Children fixedEdges(Document& document, const QRectF& box, const Edges& ed
 int layerOf(const Node& object)
 {
     if (object.hasAttribute(EdgeAttribute)) {
-        return 2;
+        return object.attribute(EdgeAttribute) == GroundEdge ? 0 : 2;
     }
     return object.child(u"draw:text-box") != nullptr ? 1 : 0;
 }

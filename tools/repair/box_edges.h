@@ -46,8 +46,11 @@ void writeOnePen(const Edges& edges, Properties& target);
 /// side when it is made; rows and paragraphs give it the height that they get.
 inline const QString EdgeAttribute = QLatin1String("labelport:edge");
 
+/// Of the ground within the border of a paragraph.
+inline const QString GroundEdge = QLatin1String("ground");
+
 /// The sides of a box as thin boxes of their own, with their middle on its side; a double line is
-/// two of them. That of the lower side is at 0, not at its height, which depends on the row.
+/// two of them.
 ///
 /// @param box in points
 [[nodiscard]] Node::Children edgeBoxes(Document& document, const QRectF& box, const Edges& edges);

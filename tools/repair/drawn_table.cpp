@@ -3,7 +3,6 @@
 #include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
-#include "repair/shape_place.h"
 #include "repair/table_columns.h"
 #include "repair/table_rows.h"
 #include "repair/transform.h"
@@ -106,12 +105,8 @@ void addSides(Document& document, const QRectF& box, const StyleProperties& styl
     if (edges.isPen()) {
         return;
     }
-    for (auto& edge : edgeBoxes(document, box, edges)) {
-        if (edge->attribute(EdgeAttribute) == "bottom"_L1) {
-            moveShape(*edge, {0.0, box.bottom()});
-        }
-        sides.push_back(std::move(edge));
-    }
+    Node::Children made = edgeBoxes(document, box, edges);
+    std::move(made.begin(), made.end(), std::back_inserter(sides));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "repair/flow_page.h"
 #include "repair/flow_rows.h"
 #include "repair/page_area.h"
+#include "repair/paragraph_edges.h"
 #include "repair/table_rows.h"
 
 #include <algorithm>
@@ -60,6 +61,7 @@ void FlowReader::beginBlock(const StyleProperties& properties, const QString& br
 
 void FlowReader::readBlocks(Node& parent, int depth)
 {
+    joinEdges(m_document, parent);
     for (auto& child : parent.children) {
         if (depth > MaximumSectionDepth || child == nullptr || child->isText() ||
             isHidden(*child)) {

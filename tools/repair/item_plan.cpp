@@ -9,6 +9,7 @@
 #include "repair/page_area.h"
 #include "repair/page_end.h"
 #include "repair/page_notes.h"
+#include "repair/paragraph_edges.h"
 #include "repair/shape_parts.h"
 #include "repair/shape_place.h"
 #include "repair/shape_steps.h"
@@ -233,6 +234,7 @@ PagePlan planItems(Document& document)
     plans.top = pointsOf(*page, TopAttribute);
     plans.bottom = pointsOf(*page, BottomAttribute);
     plans.lowest = pointsOf(*page, LowestAttribute);
+    const MarkedParagraphs paragraphs(document, *page);
     for (const auto& shape : page->children) {
         const Properties graphic = graphicOf(document, *shape);
         ItemPlan plan;
@@ -248,6 +250,7 @@ PagePlan planItems(Document& document)
         plan.penOpacity = shareOf(graphic.value(u"svg:stroke-opacity"_s));
         plan.fillOpacity = shareOf(graphic.value(u"draw:opacity"_s));
         planRow(document, *shape, container, graphic, plan);
+        plan.edge = paragraphs.edgeOf(*shape);
         plans.items.append(std::move(plan));
     }
     return plans;

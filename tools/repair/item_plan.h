@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QList>
+#include <QMarginsF>
 #include <QRectF>
 #include <QString>
 #include <Qt>
@@ -35,6 +36,19 @@ struct TextPlan
 /// text.
 inline const QString MarkPrefix = QLatin1String("mark-");
 
+/// A border on one side of a paragraph.
+struct ParagraphEdge
+{
+    int text = 0;      ///< the order of the object with the text
+    int paragraph = 0; ///< of the text
+    QString side = {};
+    QMarginsF margins = {};  ///< between the text's sides and the lines, in points
+    QMarginsF insets = {};   ///< between the lines and the outside of the border
+    bool joinsAfter = false; ///< whether the next paragraph is within the same border
+    /// About where the lines are, below the top of the row, if the text shows no words.
+    QRectF estimate = {};
+};
+
 /// What to set on the items of one object after the import.
 struct ItemPlan
 {
@@ -61,6 +75,7 @@ struct ItemPlan
     int rows = 1;
     /// Whether its frame decides how high the row is, see InsideFrameAttribute.
     bool isInsideFrame = false;
+    std::optional<ParagraphEdge> edge;
     /// Whether it is at the bottom of its row.
     bool isAtBottom = false;
     /// Whether it is a text whose lines may be on two pages.

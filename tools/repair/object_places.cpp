@@ -1,6 +1,7 @@
 #include "repair/object_places.h"
 
 #include "repair/page_notes.h"
+#include "repair/paragraph_edges.h"
 #include "repair/text_marks.h"
 
 #include "host/items/rich_text_item.h"
@@ -45,6 +46,7 @@ public:
     void placeRows(double top);
     void placeAtMarks();
     [[nodiscard]] std::optional<PageEnd> pageEnd(double bottom) const;
+    [[nodiscard]] const QMap<int, double>& rowTops() const { return m_tops; }
     /// Of the last row.
     [[nodiscard]] double rowsBottom() const
     {
@@ -297,6 +299,7 @@ std::optional<PageEnd> placeObjects(const QMap<int, ObjectItems>& objects, const
     placer.placeRows(page.top);
     const PageNotes notes(objects);
     placer.placeAtMarks();
+    placeParagraphEdges(objects, placer.rowTops());
     const auto endAbove = [&placer, &notes](double bottom) {
         return placer.pageEnd(bottom - notes.heightAbove(bottom));
     };

@@ -56,7 +56,7 @@ void ParagraphSpaces::takeBackBelow()
     written(*m_paragraph, m_shown);
 }
 
-void ParagraphSpaces::join(const QString& styleName, Properties& paragraph)
+void ParagraphSpaces::join(const QString& styleName, Properties& paragraph, const QMarginsF& insets)
 {
     if (!m_isJoined) {
         return;
@@ -78,6 +78,7 @@ void ParagraphSpaces::join(const QString& styleName, Properties& paragraph)
     }
     paragraph.insert(Above, toInches(above));
     m_named = named;
+    m_insets = insets;
     m_isContextual = isContextual;
 }
 
@@ -85,7 +86,17 @@ void ParagraphSpaces::written(Node& paragraph, const StyleProperties& shown)
 {
     m_paragraph = &paragraph;
     m_shown = shown;
-    paragraph.setAttribute(u"text:style-name"_s, m_document.styleFor(u"paragraph"_s, shown));
+    StyleProperties inset = shown;
+    const auto widen = [&inset](const QString& side, double points) {
+        if (points > 0.0) {
+            inset.paragraph.insert(side, toInches(spaceOf(inset.paragraph, side) + points));
+        }
+    };
+    widen(u"fo:margin-left"_s, m_insets.left());
+    widen(u"fo:margin-right"_s, m_insets.right());
+    widen(Above, m_insets.top());
+    widen(Below, m_insets.bottom());
+    paragraph.setAttribute(u"text:style-name"_s, m_document.styleFor(u"paragraph"_s, inset));
 }
 
 void ParagraphSpaces::finish()

@@ -3,6 +3,7 @@
 #include "repair/styles.h"
 #include "repair/xml_tree.h"
 
+#include <QMarginsF>
 #include <QString>
 
 namespace repair {
@@ -30,8 +31,9 @@ public:
     /// if the two are to have none between them.
     ///
     /// @param styleName of the paragraph in the document
-    void join(const QString& styleName, Properties& paragraph);
-    /// Names the paragraph with the style that was joined last.
+    /// @param insets    of its border
+    void join(const QString& styleName, Properties& paragraph, const QMarginsF& insets);
+    /// Gives the paragraph its style, which was joined last, with the insets.
     void written(Node& paragraph, const StyleProperties& shown);
     /// No paragraph follows.
     void finish();
@@ -49,6 +51,7 @@ private:
     StyleProperties m_shown;
     QString m_named;
     bool m_isContextual = false;
+    QMarginsF m_insets;
 };
 
 } // namespace repair

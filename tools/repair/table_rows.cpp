@@ -179,6 +179,9 @@ void TableReader::addCell(RowCell& cell, const QString& rowFill, double height)
     add(std::move(frame));
     if (!cell.shown.isPen()) {
         for (auto& edge : edgeBoxes(m_document, box, cell.own)) {
+            if (edge->attribute(EdgeAttribute) == "bottom"_L1) {
+                moveShape(*edge, {0.0, -box.bottom()}); // added when the height is known
+            }
             add(std::move(edge));
         }
     }

@@ -6,6 +6,7 @@
 #include "repair/list_labels.h"
 #include "repair/numbering.h"
 #include "repair/page_end.h"
+#include "repair/paragraph_edges.h"
 #include "repair/paragraph_spaces.h"
 
 #include <algorithm>
@@ -174,7 +175,9 @@ void BlockWriter::writeParagraph(const Node& paragraph, const List* list)
         const int level = paragraph.attribute(u"text:outline-level").toInt();
         addLabel(paragraph, levelIn(outlineStyle(table), std::max(level, 1)), style, runs);
     }
-    m_spaces.join(paragraph.attribute(u"text:style-name"), style.paragraph);
+    const QMarginsF insets =
+        m_document.wasText ? edgeInsets(style.paragraph, paragraph) : QMarginsF();
+    m_spaces.join(paragraph.attribute(u"text:style-name"), style.paragraph, insets);
     StyleProperties shown;
     for (const QLatin1StringView name : ParagraphNames) {
         if (style.paragraph.contains(name)) {
