@@ -443,6 +443,21 @@ TEST(RepairedReport, CellsHaveTheBordersOfTheirSides)
     EXPECT_EQ(count("fo:border=\"none\" fo:border-top=\"1pt dotted #000000\""), 1);
 }
 
+TEST(RepairedReport, ParagraphsHaveTheirBorders)
+{
+    const auto isChanged = [](const QByteArray& border) {
+        const FileReport report = repairedReport(
+            odt("<text:p text:style-name=\"B\">Words</text:p>",
+                {.automaticStyles = "<style:style style:name=\"B\" style:family=\"paragraph\">"
+                                    "<style:paragraph-properties " +
+                                    border + "/></style:style>"}));
+        return verdictOf(report) != Verdict::Complete;
+    };
+    EXPECT_FALSE(isChanged("fo:border=\"1pt solid #000000\""));
+    EXPECT_FALSE(isChanged("fo:border=\"none\" fo:border-top=\"3pt double #000000\""));
+    EXPECT_TRUE(isChanged("fo:border-bottom=\"1pt dotted #000000\""));
+}
+
 // Repair puts it at the end of its page.
 TEST(RepairedReport, FootnotesHaveANumberAndAText)
 {

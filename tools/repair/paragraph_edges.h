@@ -39,7 +39,7 @@ class MarkedParagraphs
 public:
     MarkedParagraphs(Document& document, const Node& page);
 
-    /// Nothing for an object that is no border of a paragraph.
+    /// Nothing for an object that does not belong to the border of a paragraph.
     [[nodiscard]] std::optional<ParagraphEdge> edgeOf(const Node& object) const;
 
 private:

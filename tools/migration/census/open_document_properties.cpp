@@ -18,6 +18,7 @@ enum class Test : quint8 {
     IsSeveral,   ///< a number above 1
     IsVertical,  ///< a direction of text
     IsOtherSide, ///< a border that differs from that at the top
+    IsLine,      ///< a border with dots, dashes or reliefs
 };
 
 // A property that a label does not show, and the values that ask for it.
@@ -69,11 +70,16 @@ constexpr std::array Properties{
     Property{"paragraph"_L1, "fo:line-height"_L1, Test::IsNot, "100%"_L1, FormatLoss},
     Property{"paragraph"_L1, "fo:text-align"_L1, Test::Is, "justify"_L1, FormatLoss},
     Property{"paragraph"_L1, "fo:background-color"_L1, Test::IsNot, "transparent"_L1, FormatLoss},
-    Property{"paragraph"_L1, "fo:border"_L1, Test::IsNot, "none"_L1, LetterLoss},
-    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsNot, "none"_L1, LetterLoss},
-    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsNot, "none"_L1, LetterLoss},
-    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsNot, "none"_L1, LetterLoss},
-    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsNot, "none"_L1, LetterLoss},
+    Property{"paragraph"_L1, "fo:border"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsNot, "none"_L1, FormatLoss},
+    Property{"paragraph"_L1, "fo:border"_L1, Test::IsLine, {}, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-top"_L1, Test::IsLine, {}, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsLine, {}, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsLine, {}, LetterLoss},
+    Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsLine, {}, LetterLoss},
     Property{"paragraph"_L1, "style:shadow"_L1, Test::IsNot, "none"_L1, LetterLoss},
     Property{"paragraph"_L1, "style:writing-mode"_L1, Test::IsVertical, {}, LetterLoss},
     Property{"style:drop-cap"_L1, "style:lines"_L1, Test::IsSeveral, {}, LetterLoss},
@@ -127,6 +133,9 @@ bool hasEffect(const Property& property, const QString& value,
         return isVerticalMode(value);
     case Test::IsOtherSide:
         return value != attributes.value("fo:border-top"_L1);
+    case Test::IsLine:
+        return value.contains(u' ') && !value.contains("solid"_L1) &&
+               !value.contains("double"_L1) && !value.contains("hidden"_L1);
     case Test::IsNonZero:
     case Test::IsClip:
         break;
