@@ -1,7 +1,6 @@
 #include "repair/box_edges.h"
 
 #include "repair/lengths.h"
-#include "repair/shape_place.h"
 #include "repair/table_rows.h"
 
 #include <QStringList>
@@ -116,9 +115,6 @@ Node::Children fixedEdges(Document& document, const QRectF& box, const Edges& ed
 {
     Node::Children lines = edgeBoxes(document, box, edges);
     for (const auto& line : lines) {
-        if (line->attribute(EdgeAttribute) == "bottom"_L1) {
-            moveShape(*line, {0.0, box.bottom()});
-        }
         line->removeAttribute(EdgeAttribute);
     }
     return lines;

@@ -55,7 +55,7 @@ inline const QString GroundEdge = QLatin1String("ground");
 /// @param box in points
 [[nodiscard]] Node::Children edgeBoxes(Document& document, const QRectF& box, const Edges& edges);
 
-/// The same of a box whose height does not depend on rows.
+/// The same of a box whose height depends neither on rows nor on lines of text.
 [[nodiscard]] Node::Children fixedEdges(Document& document, const QRectF& box, const Edges& edges);
 
 /// Where an object is in its page's order: 0 for shapes, 1 for texts, which nothing may cover, and
