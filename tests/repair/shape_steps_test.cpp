@@ -277,3 +277,47 @@ TEST(SvgPaths, AreReadAsSvgWritesThem)
     EXPECT_FALSE(parseSvgPath(u"M1e99 0"_s));
     EXPECT_FALSE(parseSvgPath(u"10 10"_s));
 }
+
+TEST(Dashes, AreDrawnIfNoPenHasThem)
+{
+    const auto tagsWith = [](const QByteArray& name, const QByteArray& lengths,
+                             const QByteArray& shape) {
+        Document document = drawing(
+            "<draw:" + shape +
+                " draw:style-name=\"s\" svg:width=\"2in\" svg:height=\"1in\" "
+                "svg:x1=\"0in\" svg:y1=\"0in\" svg:x2=\"2in\" svg:y2=\"0in\"/>",
+            "<style:style style:name=\"s\" style:family=\"graphic\"><style:graphic-properties "
+            "draw:stroke=\"dash\" draw:stroke-dash=\"" +
+                name +
+                "\" "
+                "svg:stroke-width=\"2pt\"/></style:style>",
+            "<draw:stroke-dash draw:name=\"" + name + "\" " + lengths + "/>");
+        (void)drawShapes(document);
+        return tags(document);
+    };
+    const QByteArray dashed = "draw:dots1=\"1\" draw:dots1-length=\"8pt\" draw:distance=\"4pt\"";
+    const QByteArray fine = "draw:dots1=\"1\" draw:dots1-length=\"1pt\" draw:distance=\"1pt\"";
+    EXPECT_EQ(tagsWith("Dashed", dashed, "line"), u"draw:line"_s);
+    EXPECT_EQ(tagsWith("Dashed", dashed, "rect"), u"draw:rect"_s);
+    EXPECT_EQ(tagsWith("Other", dashed, "line"), u"draw:frame"_s) << "the reader shows dots";
+    EXPECT_EQ(tagsWith("Dashed", fine, "line"), u"draw:frame"_s);
+    EXPECT_EQ(tagsWith("Dashed", fine, "rect"), u"draw:frame"_s);
+}
+
+TEST(Dashes, HaveTheLengthsOfTheDocument)
+{
+    Document document =
+        drawing("<draw:line draw:style-name=\"s\" svg:x1=\"0in\" svg:y1=\"0in\" svg:x2=\"2in\" "
+                "svg:y2=\"0in\"/>",
+                "<style:style style:name=\"s\" style:family=\"graphic\"><style:graphic-properties "
+                "draw:stroke=\"dash\" draw:stroke-dash=\"D\" svg:stroke-width=\"2pt\"/>"
+                "</style:style>",
+                "<draw:stroke-dash draw:name=\"D\" draw:style=\"round\" draw:dots1=\"2\" "
+                "draw:dots1-length=\"0%\" draw:dots2=\"1\" draw:dots2-length=\"10pt\" "
+                "draw:distance=\"200%\"/>");
+    EXPECT_EQ(drawShapes(document), 1);
+    const QString svg = drawingOf(document);
+    EXPECT_TRUE(svg.contains("stroke-dasharray=\"2.000,4.000,2.000,4.000,10.000,4.000\""_L1))
+        << svg.toStdString();
+    EXPECT_TRUE(svg.contains("stroke-linecap=\"round\""_L1));
+}

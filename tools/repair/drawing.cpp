@@ -6,6 +6,7 @@
 #include "repair/xml_tree.h"
 
 #include <QLineF>
+#include <QList>
 #include <QStringList>
 #include <QTransform>
 
@@ -21,6 +22,8 @@ using namespace Qt::StringLiterals;
 
 // The part of an arrow head that covers the line.
 constexpr double CoveredByMarker = 0.8;
+// The part by which dashes may differ from those that the pen of an item has.
+constexpr double DashTolerance = 0.5;
 
 struct Pen
 {
@@ -30,6 +33,18 @@ struct Pen
     QString attributes;
 };
 
+double penWidth(const Properties& graphic)
+{
+    return std::max(toPoints(graphic.value(u"svg:stroke-width"_s)).value_or(0.0), Hairline);
+}
+
+const Node* dashOf(const Properties& graphic, const StyleTable& table)
+{
+    return graphic.value(u"draw:stroke"_s) == "dash"_L1
+               ? table.named(u"draw:stroke-dash"_s, graphic.value(u"draw:stroke-dash"_s))
+               : nullptr;
+}
+
 // Lengths of dashes and gaps may be shares of the pen's width.
 double dashLength(const Node& dash, QStringView attribute, double width)
 {
@@ -38,15 +53,25 @@ double dashLength(const Node& dash, QStringView attribute, double width)
     return length > 0.0 ? length : width;
 }
 
-QString dashAttribute(const Node& dash, double width)
+// Dashes and gaps in points.
+QList<double> dashLengths(const Node& dash, double width)
 {
-    QStringList lengths;
-    const QString gap = svgNumber(dashLength(dash, u"draw:distance", width));
+    QList<double> lengths;
+    const double gap = dashLength(dash, u"draw:distance", width);
     for (const auto& [count, length] : {std::pair{u"draw:dots1", u"draw:dots1-length"},
                                         std::pair{u"draw:dots2", u"draw:dots2-length"}}) {
         for (int i = 0; i < std::min(dash.attribute(count).toInt(), 10); ++i) {
-            lengths << svgNumber(dashLength(dash, length, width)) << gap;
+            lengths << dashLength(dash, length, width) << gap;
         }
+    }
+    return lengths;
+}
+
+QString dashAttribute(const Node& dash, double width)
+{
+    QStringList lengths;
+    for (const double length : dashLengths(dash, width)) {
+        lengths << svgNumber(length);
     }
     return lengths.isEmpty() ? QString() : u" stroke-dasharray=\"%1\""_s.arg(lengths.join(u','));
 }
@@ -56,17 +81,17 @@ Pen penOf(const Properties& graphic, const StyleTable& table)
     Pen pen;
     const QString stroke = graphic.value(u"draw:stroke"_s);
     pen.isVisible = stroke != "none"_L1;
-    pen.width = std::max(toPoints(graphic.value(u"svg:stroke-width"_s)).value_or(0.0), Hairline);
+    pen.width = penWidth(graphic);
     pen.color = colorName(graphic.value(u"svg:stroke-color"_s), pen.color);
-    const Node* const dash =
-        table.named(u"draw:stroke-dash"_s, graphic.value(u"draw:stroke-dash"_s));
-    if (stroke == "dash"_L1 && dash != nullptr) {
+    const Node* const dash = dashOf(graphic, table);
+    if (dash != nullptr) {
         pen.attributes += dashAttribute(*dash, pen.width);
     }
     const QString join = graphic.value(u"draw:stroke-linejoin"_s);
     pen.attributes += u" stroke-linejoin=\"%1\""_s.arg(
         join == "miter"_L1 || join == "bevel"_L1 ? join : u"round"_s);
-    const QString cap = graphic.value(u"svg:stroke-linecap"_s);
+    const bool hasRoundDashes = dash != nullptr && dash->attribute(u"draw:style") == "round"_L1;
+    const QString cap = hasRoundDashes ? u"round"_s : graphic.value(u"svg:stroke-linecap"_s);
     if (cap == "round"_L1 || cap == "square"_L1) {
         pen.attributes += u" stroke-linecap=\"%1\""_s.arg(cap);
     }
@@ -234,6 +259,26 @@ bool isPlainFill(const Properties& graphic)
     const QString fill = graphic.value(u"draw:fill"_s);
     return fill != "gradient"_L1 && fill != "hatch"_L1 && fill != "bitmap"_L1 &&
            (fill == "none"_L1 || !graphic.contains(u"draw:opacity-name"_s));
+}
+
+// As the reader chooses a pen by the name of the dashes. Lengths in widths of the pen.
+bool isPlainPen(const Properties& graphic, const StyleTable& table)
+{
+    const Node* const dash = dashOf(graphic, table);
+    if (dash == nullptr) {
+        return true;
+    }
+    const QString name = graphic.value(u"draw:stroke-dash"_s).toLower();
+    QList<double> shown = {1.0, 2.0};
+    if (name.contains("dash"_L1)) {
+        shown = name.contains("dot"_L1) ? QList<double>{4.0, 2.0, 1.0, 2.0} : QList{4.0, 2.0};
+    }
+    const double width = penWidth(graphic);
+    const QList<double> wanted = dashLengths(*dash, width);
+    return wanted.size() == shown.size() &&
+           std::equal(wanted.begin(), wanted.end(), shown.begin(), [width](double a, double b) {
+               return std::abs(a / width - b) <= DashTolerance * b;
+           });
 }
 
 double shareOf(const QString& percent)

@@ -29,6 +29,9 @@ struct Drawing
 /// Whether an item can show the fill: none, or a plain color.
 [[nodiscard]] bool isPlainFill(const Properties& graphic);
 
+/// Whether the pen of an item can show the dashes of an outline, or there are none.
+[[nodiscard]] bool isPlainPen(const Properties& graphic, const StyleTable& table);
+
 /// The share of a percentage, from 0 to 1; 1 for other texts.
 [[nodiscard]] double shareOf(const QString& percent);
 

@@ -144,7 +144,8 @@ Parts drawLine(Document& document, Node& line)
 {
     const Properties graphic = graphicOf(document, line);
     Parts parts;
-    if (!isNativeMarker(graphic.value(u"draw:marker-start"_s)) ||
+    if (!isPlainPen(graphic, document.table()) ||
+        !isNativeMarker(graphic.value(u"draw:marker-start"_s)) ||
         !isNativeMarker(graphic.value(u"draw:marker-end"_s))) {
         QPainterPath path(startOf(line));
         path.lineTo(endOf(line));
@@ -163,7 +164,9 @@ bool isTextOnPath(const Node& shape)
 Parts drawShape(Document& document, Node& shape)
 {
     const Placement placement = placementOf(shape);
-    const bool mustDraw = !isPlainFill(graphicOf(document, shape)) || !toRotatedBox(placement);
+    const Properties graphic = graphicOf(document, shape);
+    const bool mustDraw =
+        !isPlainFill(graphic) || !isPlainPen(graphic, document.table()) || !toRotatedBox(placement);
     if (isTextOnPath(shape)) {
         Parts parts;
         addIfAny(parts, takeText(document, shape, placement));
@@ -189,8 +192,9 @@ Parts drawShape(Document& document, Node& shape)
 // The ground of a text box, below the box.
 Parts drawTextBoxGround(Document& document, Node& frame)
 {
+    const Properties graphic = graphicOf(document, frame);
     if (!frame.is(u"draw:frame") || frame.child(u"draw:text-box") == nullptr ||
-        isPlainFill(graphicOf(document, frame))) {
+        (isPlainFill(graphic) && isPlainPen(graphic, document.table()))) {
         return {};
     }
     const Placement placement = placementOf(frame);
