@@ -297,6 +297,25 @@ TEST(RepairedReport, ObjectsThatAreDrawnAgainAreAChange)
               nullptr);
 }
 
+// The text does not make room for objects of the page.
+TEST(RepairedReport, TextOverAnObjectOfThePageIsAChange)
+{
+    const auto isReported = [](const QByteArray& wrap) {
+        const FileReport report = repairedReport(
+            odt("<text:p><draw:rect text:anchor-type=\"page\" text:anchor-page-number=\"1\" "
+                "draw:style-name=\"W\" svg:x=\"3in\" svg:y=\"0in\" svg:width=\"2in\" "
+                "svg:height=\"1in\"/>" +
+                    QByteArray("Words below the object. ").repeated(30) + "</text:p>",
+                {.pageLayout = "fo:page-width=\"8in\" fo:page-height=\"6in\"",
+                 .automaticStyles = "<style:style style:name=\"W\" style:family=\"graphic\">"
+                                    "<style:graphic-properties style:wrap=\"" +
+                                    wrap + "\"/></style:style>"}));
+        return findingOf(report, lossCode(LossKind::TextWrap)) != nullptr;
+    };
+    EXPECT_TRUE(isReported("parallel"));
+    EXPECT_FALSE(isReported("run-through"));
+}
+
 TEST(RepairedReport, HeadingsHaveTheirNumbers)
 {
     const DocumentParts parts = {

@@ -77,8 +77,12 @@ QList<Look> looks()
         letters("struck twice", "style:text-line-through-type=\"double\""),
         letters("struck by letters", "style:text-line-through-text=\"X\""),
         letters("emphasis", "style:text-emphasize=\"dot above\""),
+        letters("first letters", "fo:text-transform=\"capitalize\""),
         letters("box", "fo:border=\"1pt solid #000000\""),
         paragraph("shadow", "style:shadow=\"#808080 2pt 2pt\""),
+        paragraph("fixed height", "fo:line-height=\"1cm\""),
+        paragraph("least height", "style:line-height-at-least=\"1cm\""),
+        paragraph("distance", "style:line-spacing=\"2mm\""),
         paragraph("vertical", "style:writing-mode=\"tb-rl\""),
         {"first letter", LossKind::TextEffect, Paragraph,
          style("paragraph", "<style:paragraph-properties><style:drop-cap style:lines=\"3\"/>"
@@ -105,6 +109,21 @@ QList<Look> looks()
                              "xlink:href=\"a.png\"/></style:table-cell-properties>")},
         {"rotated cell", LossKind::TextEffect, Cell,
          style("table-cell", "<style:table-cell-properties style:rotation-angle=\"90\"/>")},
+        {"letters in a list", LossKind::TextEffect,
+         "<text:list><text:list-item>" + Span + "</text:list-item></text:list>",
+         style("text", "<style:text-properties style:text-emphasize=\"dot\"/>")},
+        {"shadow of a table", LossKind::TextEffect,
+         QByteArray(Cell).replace("<table:table>", "<table:table table:style-name=\"S\">"),
+         style("table", "<style:table-properties style:shadow=\"#808080 2pt 2pt\"/>")},
+        {"picture bullets", LossKind::TextEffect,
+         "<text:list text:style-name=\"L\"><text:list-item><text:p>Words</text:p></text:list-item>"
+         "</text:list>",
+         "<text:list-style style:name=\"L\"><text:list-level-style-image text:level=\"1\" "
+         "xlink:href=\"a.png\"/></text:list-style>"},
+        {"placeholder",
+         LossKind::FixedField,
+         "<text:p>To <text:placeholder>&lt;Name&gt;</text:placeholder></text:p>",
+         {}},
         {"table in a table",
          LossKind::LayoutSimplified,
          QByteArray(Cell).replace("<text:p>Words</text:p>", Cell),
@@ -150,7 +169,13 @@ TEST(Looks, ThatLabelsShowAreNotReported)
                 "style:text-underline-style=\"solid\" style:text-underline-type="
                 "\"single\" style:text-underline-color=\"font-color\" "
                 "style:text-underline-width=\"auto\" style:text-overline-style=\"none\""),
-        paragraph("plain", "style:shadow=\"none\" style:writing-mode=\"rl-tb\""),
+        paragraph("plain",
+                  "style:shadow=\"none\" style:writing-mode=\"rl-tb\" fo:line-height=\"120%\""),
+        {"list", LossKind::TextEffect,
+         "<text:list text:style-name=\"L\"><text:list-item><text:p>Words</text:p></text:list-item>"
+         "</text:list>",
+         "<text:list-style style:name=\"L\"><text:list-level-style-bullet text:level=\"1\"/>"
+         "</text:list-style>"},
         frame("frame", LossKind::EffectDropped,
               "fo:border-top=\"none\" fo:border-left=\"none\" draw:gamma=\"100%\" draw:red=\"0%\" "
               "style:writing-mode=\"lr-tb\""),
@@ -194,6 +219,18 @@ TEST(Looks, ColumnsOfThePageAreReported)
             isReported(countOpenDocument(textOf(Paragraph, parts)), LossKind::LayoutSimplified),
             isChanged);
     }
+}
+
+TEST(Looks, TablesInHeadersAreReported)
+{
+    const auto header = [](const QByteArray& content) {
+        return countOpenDocument(
+            textOf(Paragraph, {.masterPages = "<style:master-page style:name=\"Standard\" "
+                                              "style:page-layout-name=\"L\"><style:header>" +
+                                              content + "</style:header></style:master-page>"}));
+    };
+    EXPECT_TRUE(isReported(header(Cell), LossKind::LayoutSimplified));
+    EXPECT_FALSE(isReported(header(Paragraph), LossKind::LayoutSimplified));
 }
 
 TEST(Looks, HiddenTextIsNotCounted)

@@ -17,6 +17,7 @@ enum class Test : quint8 {
     IsClip,      ///< a rectangle that cuts something off
     IsSeveral,   ///< a number above 1
     IsVertical,  ///< a direction of text
+    IsLength,    ///< not a share of the usual one
     IsOtherSide, ///< a border that differs from that at the top
     IsLine,      ///< a border with dots, dashes or reliefs
 };
@@ -80,6 +81,10 @@ constexpr std::array Properties{
     Property{"paragraph"_L1, "fo:border-bottom"_L1, Test::IsLine, {}, LetterLoss},
     Property{"paragraph"_L1, "fo:border-left"_L1, Test::IsLine, {}, LetterLoss},
     Property{"paragraph"_L1, "fo:border-right"_L1, Test::IsLine, {}, LetterLoss},
+    Property{"text"_L1, "fo:text-transform"_L1, Test::Is, "capitalize"_L1, LetterLoss},
+    Property{"paragraph"_L1, "fo:line-height"_L1, Test::IsLength, {}, LetterLoss},
+    Property{"paragraph"_L1, "style:line-height-at-least"_L1, Test::IsLength, {}, LetterLoss},
+    Property{"paragraph"_L1, "style:line-spacing"_L1, Test::IsLength, {}, LetterLoss},
     Property{"paragraph"_L1, "style:shadow"_L1, Test::IsNot, "none"_L1, LetterLoss},
     Property{"paragraph"_L1, "style:writing-mode"_L1, Test::IsVertical, {}, LetterLoss},
     Property{"style:drop-cap"_L1, "style:lines"_L1, Test::IsSeveral, {}, LetterLoss},
@@ -129,6 +134,8 @@ bool hasEffect(const Property& property, const QString& value,
         return value != "100%"_L1 && value != "0%"_L1 && value != "1"_L1;
     case Test::IsSeveral:
         return value.toInt() > 1;
+    case Test::IsLength:
+        return isNonZero(value) && !value.endsWith(u'%');
     case Test::IsVertical:
         return isVerticalMode(value);
     case Test::IsOtherSide:

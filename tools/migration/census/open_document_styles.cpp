@@ -43,7 +43,13 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
                        firstFamily(valueOf(attributes, "svg:font-family"_L1)));
     } else if (name == "style:style"_L1 || name == "style:default-style"_L1) {
         startStyle(attributes, name == "style:default-style"_L1);
+    } else if (name == "text:list-style"_L1) {
+        m_listName = valueOf(attributes, "style:name"_L1);
+        m_cellName.clear();
     } else if (name.startsWith("text:list-level-style"_L1)) {
+        if (name == "text:list-level-style-image"_L1) {
+            m_pictureLists.insert(m_listName);
+        }
         m_isInList = true;
     } else if (name == "text:outline-level-style"_L1) {
         m_isInList = true;
@@ -68,6 +74,9 @@ void StyleBook::take(const QString& name, const QXmlStreamAttributes& attributes
         current().hasTabStops = true;
     } else if (name == "style:table-cell-properties"_L1 && !m_cellName.isEmpty()) {
         takeCell(attributes);
+    } else if (name == "style:table-properties"_L1 && !m_cellName.isEmpty()) {
+        const QStringView shadow = attributes.value("style:shadow"_L1);
+        noteCellEffect(u"style:shadow"_s, !shadow.isEmpty() && shadow != "none"_L1);
     } else if (name == "style:background-image"_L1 && !m_cellName.isEmpty()) {
         noteCellEffect(name, attributes.hasAttribute("xlink:href"_L1));
     } else if (!m_sectionName.isEmpty()) {

@@ -55,10 +55,15 @@ public:
         return m_sections.value(style);
     }
     /// What labels do not show of a table, row or cell in this style, as names of attributes and
-    /// elements: rotated text, a picture below it.
+    /// elements: rotated text, shadow, a picture below it.
     [[nodiscard]] QStringList effectsOfCell(const QString& style) const
     {
         return m_cellEffects.value(style);
+    }
+    /// Whether a list in this style has pictures instead of numbers and symbols.
+    [[nodiscard]] bool hasPictureBullets(const QString& style) const
+    {
+        return m_pictureLists.contains(style);
     }
     /// Whether texts in this style are not shown.
     [[nodiscard]] bool hidesText(const QString& style) const { return textStyle(style).isHidden; }
@@ -146,6 +151,8 @@ private:
     QString m_cellName; ///< of the style that is read; empty if it is not one of a table or cell
     QHash<QString, CellBorders> m_cells;
     QHash<QString, QStringList> m_cellEffects;
+    QString m_listName; ///< of the list style that was read last
+    QSet<QString> m_pictureLists;
     QHash<QString, QString> m_masterPages; ///< by family and style: "table/Address"
     QSet<QString> m_hiddenLayers;
     QSet<int> m_numberedLevels; ///< of headings

@@ -110,7 +110,7 @@ private:
     void openShapeParagraph(const Attributes& attributes);
     void openLostPart(const QString& name, LossKind otherwise);
     void openLost(LossKind kind, const QString& name, const Attributes& attributes = {});
-    void noteLostColor();
+    void noteLostLook();
     void noteLayout(const QString& name, const Attributes& attributes);
     void noteSection(const QString& name, const Attributes& attributes);
     void noteTab(const QString& name);

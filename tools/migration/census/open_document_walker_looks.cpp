@@ -23,15 +23,15 @@ QSizeF statedSize(const QXmlStreamAttributes& attributes)
 
 } // namespace
 
-// Objects of a page, and objects like letters, have no text beside them. Without a statement, the
-// text runs on both sides.
+// Objects like letters have no text beside them. Without a statement, the text runs on both sides.
 void OpenDocumentWalker::noteAnchor(const Attributes& attributes)
 {
     const QStringView anchor = attributes.value("text:anchor-type"_L1);
     const QString wrap = m_styles.wrapOf(attributes.value("draw:style-name"_L1).toString());
     const bool isBetween = wrap.isEmpty() || wrap == "parallel"_L1 || wrap == "dynamic"_L1;
     const bool isKept = m_census.sizesBetweenText.size() < MaximumSizesBetweenText;
-    if (isKept && isBetween && (anchor == "paragraph"_L1 || anchor == "char"_L1)) {
+    if (isKept && isBetween &&
+        (anchor == "paragraph"_L1 || anchor == "char"_L1 || anchor == "page"_L1)) {
         m_census.sizesBetweenText.append(statedSize(attributes));
     }
 }

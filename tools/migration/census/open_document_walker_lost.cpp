@@ -68,14 +68,20 @@ void OpenDocumentWalker::openInLost(const QString& name, const Attributes& attri
     }
 }
 
-// The color that the style of a paragraph or span states.
-void OpenDocumentWalker::noteLostColor()
+// The color that the style of a paragraph or span states, and what labels do not show of it.
+void OpenDocumentWalker::noteLostLook()
 {
     Place& place = m_places.back();
     const Place& outer = m_places.at(m_places.size() - 2);
     const QColor color = m_styles.colorOf(place.style, outer.style, {});
     if (!place.colors.contains(color)) {
         place.colors.append(color);
+    }
+    const LossSet changes = m_styles.textChanges(place.style);
+    for (const LossKind kind : {LossKind::TextEffect, LossKind::EffectDropped}) {
+        if (changes.has(kind)) {
+            m_census.note(kind);
+        }
     }
 }
 
@@ -117,11 +123,17 @@ void OpenDocumentWalker::noteLayout(const QString& name, const Attributes& attri
 {
     if (attributes.hasAttribute("draw:chain-next-name"_L1) ||
         (name == "text:note"_L1 && attributes.value("text:note-class"_L1) == "endnote"_L1) ||
-        (name == "table:table"_L1 && !m_tables.empty())) {
+        (name == "table:table"_L1 &&
+         (!m_tables.empty() || m_places.front().lost == LossKind::HeaderOrFooter))) {
         m_census.note(LossKind::LayoutSimplified, 1, name);
     } else if (name == "text:note"_L1 || name == "text:changed-region"_L1) {
         // The line above footnotes, and the colors of changes.
         m_census.note(LossKind::TextEffect, 1, name);
+    } else if (name == "text:placeholder"_L1) {
+        m_census.note(LossKind::FixedField, 1, name); // which is not printed
+    } else if (name == "text:list"_L1 &&
+               m_styles.hasPictureBullets(attributes.value("text:style-name"_L1).toString())) {
+        m_census.note(LossKind::TextEffect, 1, u"text:list-level-style-image"_s);
     }
 }
 

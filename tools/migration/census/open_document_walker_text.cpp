@@ -174,7 +174,9 @@ void OpenDocumentWalker::text(QStringView characters)
     case Spot::ShapeRun:
         return markText();
     case Spot::LostParagraph:
-        noteLostColor();
+        if (!m_places.back().hasText) {
+            noteLostLook();
+        }
         [[fallthrough]];
     case Spot::Run:
         m_places.back().hasText = true;

@@ -36,6 +36,11 @@ bool isCandidate(const ItemFacts& item, const Census& document)
 // A line of the running text, which is wider than the object.
 bool isOnOneSide(const QRectF& line, const QRectF& column, const QRectF& box)
 {
+    // On a page that makes no room for the object.
+    if (column.width() > box.width() + NarrowestColumn &&
+        line.intersects(box.adjusted(Touching, Touching, -Touching, -Touching))) {
+        return true;
+    }
     if (box.left() - column.left() < NarrowestColumn ||
         column.right() - box.right() < NarrowestColumn) {
         return false;
