@@ -53,6 +53,7 @@ Properties pictureFillOf(Document& document, const Node& image)
             {u"draw:opacity"_s,
              image.hasAttribute(u"draw:opacity") ? image.attribute(u"draw:opacity") : u"100%"_s},
             {u"draw:fill-image-ref-point"_s,
+             // no translation: a value of the format
              isRepeated ? u"top left"_s : image.attribute(u"style:position")},
             {u"style:repeat"_s, repeat}};
 }
