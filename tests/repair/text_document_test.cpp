@@ -90,6 +90,14 @@ TEST(TextDocument, HasTheSizeAndMarginsThatOfficeSuitesAssume)
         return import.result.canvas->items().first()->values().placement.position;
     };
     constexpr double Centimeter = 72.0 / 2.54;
+    QByteArray noLayout = drawingStyles();
+    const auto begin = noLayout.indexOf("<style:page-layout ");
+    const QByteArray end = "</style:page-layout>";
+    noLayout.remove(begin, noLayout.indexOf(end) + end.size() - begin);
+    const repair::RepairedImport plain =
+        repair::importRepaired(writePackage(folder.path(), content, noLayout));
+    EXPECT_NEAR(plain.result.canvas->page().size.width(), 21.0 * Centimeter, 0.1);
+    EXPECT_NEAR(cornerOf(plain).x(), 2.0 * Centimeter, 0.1);
     for (const QByteArray none : {"", "<style:page-layout-properties/>"}) {
         const repair::RepairedImport import = importWith(none);
         EXPECT_NEAR(import.result.canvas->page().size.width(), 21.0 * Centimeter, 0.1);
@@ -256,6 +264,36 @@ TEST(TextDocument, BreaksItsLines)
     EXPECT_LE(text.box.size.width(), import.result.canvas->page().size.width() + 1.0);
     EXPECT_GT(text.box.size.height(), 100.0);
     EXPECT_FALSE(text.text->html.contains("background-color"_L1));
+}
+
+// Only custom shapes have lines that are not broken; text boxes grow instead.
+TEST(TextDocument, BreaksTheLinesOfTextBoxesThatDoNotGrow)
+{
+    const auto widthOf = [](const QByteArray& shape, const QByteArray& properties) {
+        const QTemporaryDir folder;
+        const QByteArray text = "<text:p>" + QByteArray("word ").repeated(40) + "</text:p>";
+        const QByteArray box =
+            shape == "frame" ? "<draw:text-box>" + text + "</draw:text-box>" : text;
+        const QByteArray content = drawingContent(
+            "<draw:" + shape +
+                " draw:style-name=\"s\" svg:x=\"1in\" svg:y=\"0in\" svg:width=\"2in\" "
+                "svg:height=\"1in\">" +
+                box + "</draw:" + shape + ">",
+            "<style:style style:name=\"s\" style:family=\"graphic\"><style:graphic-properties "
+            "draw:stroke=\"none\" draw:fill=\"none\" " +
+                properties + "/></style:style>");
+        const repair::RepairedImport import =
+            repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
+        double widest = 0.0;
+        for (const workbench::CanvasItem* const item : import.result.canvas->items()) {
+            widest = std::max(widest, item->values().box.size.width());
+        }
+        return widest;
+    };
+    EXPECT_LE(widthOf("frame", "fo:wrap-option=\"no-wrap\""), 2.0 * 72.0 + 1.0);
+    EXPECT_GT(widthOf("frame", "draw:auto-grow-width=\"true\""), 3.0 * 72.0);
+    EXPECT_LE(widthOf("custom-shape", "fo:wrap-option=\"wrap\""), 2.0 * 72.0 + 1.0);
+    EXPECT_GT(widthOf("custom-shape", "fo:wrap-option=\"no-wrap\""), 3.0 * 72.0);
 }
 
 TEST(TextDocument, HasNoHiddenText)

@@ -130,7 +130,7 @@ void SheetReader::addCell(const Node& cell, const QRectF& box, const QString& st
     }
     // Text of a cell is in one line, and may reach over the next cell.
     auto frame = textFrame(m_document, box.adjusted(CellPadding, 0.0, -CellPadding, 0.0),
-                           {{u"fo:wrap-option"_s, u"no-wrap"_s}});
+                           {{u"draw:auto-grow-width"_s, u"true"_s}});
     shown.graphic.clear();
     Node& target = *frame->child(u"draw:text-box");
     for (const auto& child : cell.children) {

@@ -171,9 +171,10 @@ TextPlan planText(Document& document, const Node& shape, const Node& container,
     plan.alignment = alignmentOf(graphic);
     const bool isFrame = shape.is(u"draw:frame");
     const bool grows = isFrame && graphic.value(u"draw:auto-grow-width"_s) == "true"_L1;
-    // Only text boxes and custom shapes break their text.
-    plan.wraps = graphic.value(u"fo:wrap-option"_s) != "no-wrap"_L1 && !grows &&
-                 (isFrame || shape.is(u"draw:custom-shape"));
+    // Text boxes break their text unless they grow with it, custom shapes if they say so, and other
+    // shapes do not.
+    const bool isBroken = graphic.value(u"fo:wrap-option"_s) != "no-wrap"_L1;
+    plan.wraps = isFrame ? !grows : isBroken && shape.is(u"draw:custom-shape");
     const QString horizontal = graphic.value(u"draw:textarea-horizontal-align"_s);
     plan.fillsWidth = horizontal.isEmpty() || horizontal == "justify"_L1;
     if (const QString side = shape.attribute(LineTextAttribute); !side.isEmpty()) {

@@ -110,7 +110,10 @@ Node* masterPage(const Document& document)
 
 int completePageLayouts(Document& document)
 {
-    const Node& automatic = document.styles->childOrNew(u"office:automatic-styles"_s);
+    Node& automatic = document.styles->childOrNew(u"office:automatic-styles"_s);
+    if (automatic.child(u"style:page-layout") == nullptr) {
+        automatic.append(Node::element(u"style:page-layout"_s));
+    }
     int completed = 0;
     for (const auto& layout : automatic.children) {
         if (!layout->is(u"style:page-layout")) {

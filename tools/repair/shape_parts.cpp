@@ -180,10 +180,10 @@ std::unique_ptr<Node> takeText(Document& document, Node& shape, const Placement&
     }
     auto frame = Node::element(u"draw:frame"_s);
     // The text of a box breaks at its sides, that of a line or of most shapes does not.
-    if (!shape.is(u"draw:custom-shape") && !shape.is(u"draw:frame")) {
-        style.graphic.insert(u"fo:wrap-option"_s, u"no-wrap"_s);
-    }
-    style.graphic.remove(u"draw:auto-grow-width"_s);
+    const bool isBroken =
+        shape.is(u"draw:frame") || (shape.is(u"draw:custom-shape") &&
+                                    style.graphic.value(u"fo:wrap-option"_s) != "no-wrap"_L1);
+    style.graphic.insert(u"draw:auto-grow-width"_s, isBroken ? u"false"_s : u"true"_s);
     frame->setAttribute(u"draw:style-name"_s, document.styleFor(u"graphic"_s, style));
     if (shape.hasAttribute(u"draw:z-index")) {
         frame->setAttribute(u"draw:z-index"_s, shape.attribute(u"draw:z-index"));
