@@ -321,3 +321,31 @@ TEST(Dashes, HaveTheLengthsOfTheDocument)
         << svg.toStdString();
     EXPECT_TRUE(svg.contains("stroke-linecap=\"round\""_L1));
 }
+
+TEST(ArrowHeads, AreDrawnIfTheyAreNotAsLargeAsThoseOfItems)
+{
+    const auto tagsWith = [](const QByteArray& properties) {
+        Document document = drawing(
+            "<draw:line draw:style-name=\"s\" svg:x1=\"0in\" svg:y1=\"0in\" svg:x2=\"2in\" "
+            "svg:y2=\"0in\"/>",
+            "<style:style style:name=\"s\" style:family=\"graphic\"><style:graphic-properties " +
+                properties + "/></style:style>",
+            "<draw:marker draw:name=\"Arrow\" svg:viewBox=\"0 0 20 30\" svg:d=\"M10 0l-10 "
+            "30h20z\"/>");
+        (void)drawShapes(document);
+        return tags(document);
+    };
+    const QString line = u"draw:line"_s;
+    const QString drawn = u"draw:frame"_s;
+    EXPECT_EQ(tagsWith("draw:marker-end=\"Arrow\""), line);
+    EXPECT_EQ(tagsWith("draw:marker-end=\"Arrow\" draw:marker-end-width=\"0.2cm\""), line);
+    EXPECT_EQ(tagsWith("draw:marker-end=\"Arrow\" draw:marker-end-width=\"0.5cm\""), drawn);
+    EXPECT_EQ(tagsWith("draw:marker-start=\"Arrow\" draw:marker-start-width=\"0.1cm\""), drawn);
+    EXPECT_EQ(tagsWith("draw:marker-start-width=\"0.5cm\""), line) << "no arrow head";
+    EXPECT_EQ(tagsWith("draw:marker-end=\"Arrow\" draw:marker-end-width=\"0.5cm\" "
+                       "svg:stroke-width=\"6pt\""),
+              line)
+        << "a thick line";
+    EXPECT_EQ(tagsWith("draw:marker-end=\"Small_20_Arrow\" draw:marker-end-width=\"0.15cm\""),
+              line);
+}

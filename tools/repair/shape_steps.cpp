@@ -16,6 +16,13 @@ using namespace Qt::StringLiterals;
 
 // Sides that differ by less are equal, for shapes whose corners depend on it.
 constexpr double SquareTolerance = 0.02;
+// The arrow heads of line items: points, or widths of a thick pen.
+constexpr double ArrowWidth = 8.5;
+constexpr double ArrowPens = 8.0 / 3.0;
+constexpr double SmallArrowWidth = 4.25;
+constexpr double SmallArrowPens = 5.0 / 3.0;
+// The part by which an arrow head may differ from them.
+constexpr double ArrowTolerance = 0.4;
 // Only old programs leave the color of a fill out: newer ones write it into the default style.
 const QString DefaultFillColor = u"#99ccff"_s;
 constexpr QLatin1StringView FillableTags[] = {
@@ -133,20 +140,31 @@ Parts drawCustomShape(Document& document, Node& shape, bool mustDraw)
     return drawn(document, shape, std::move(custom->outlines), placement, custom->textArea);
 }
 
-// The arrow heads that a line item has.
-bool isNativeMarker(const QString& name)
+// The arrow heads that a line item has: those of some names, in about one size.
+bool isNativeMarker(const Properties& graphic, const QString& end)
 {
-    return name.isEmpty() || name.startsWith("Arrow"_L1) || name == "Triangle"_L1 ||
-           name == "Small_20_Arrow"_L1 || name == "Double_20_Arrow"_L1;
+    const QString name = graphic.value(u"draw:marker-"_s + end);
+    if (name.isEmpty()) {
+        return true;
+    }
+    const bool isSmall = name == "Small_20_Arrow"_L1;
+    if (!isSmall && !name.startsWith("Arrow"_L1) && name != "Triangle"_L1 &&
+        name != "Double_20_Arrow"_L1) {
+        return false;
+    }
+    const double pen = toPoints(graphic.value(u"svg:stroke-width"_s)).value_or(0.0);
+    const double shown = isSmall ? std::max(SmallArrowWidth, SmallArrowPens * pen)
+                                 : std::max(ArrowWidth, ArrowPens * pen);
+    const auto wanted = toPoints(graphic.value(u"draw:marker-%1-width"_s.arg(end)));
+    return !wanted || std::abs(*wanted - shown) <= ArrowTolerance * shown;
 }
 
 Parts drawLine(Document& document, Node& line)
 {
     const Properties graphic = graphicOf(document, line);
     Parts parts;
-    if (!isPlainPen(graphic, document.table()) ||
-        !isNativeMarker(graphic.value(u"draw:marker-start"_s)) ||
-        !isNativeMarker(graphic.value(u"draw:marker-end"_s))) {
+    if (!isPlainPen(graphic, document.table()) || !isNativeMarker(graphic, u"start"_s) ||
+        !isNativeMarker(graphic, u"end"_s)) {
         QPainterPath path(startOf(line));
         path.lineTo(endOf(line));
         parts.push_back(drawnFrame(document, line, {{path, false, true}}));
