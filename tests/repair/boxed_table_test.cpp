@@ -17,9 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double Inch = 72.0;
+constexpr double BoxInch = 72.0;
 
-const QByteArray Styles =
+const QByteArray BoxStyles =
     "<style:style style:name=\"c\" style:family=\"table-column\"><style:table-column-properties "
     "style:column-width=\"1in\"/></style:style>"
     "<style:style style:name=\"r\" style:family=\"table-row\"><style:table-row-properties "
@@ -29,14 +29,14 @@ const QByteArray Styles =
     "<style:style style:name=\"p\" style:family=\"table-cell\"><style:table-cell-properties "
     "fo:padding=\"0.1in\"/></style:style>";
 
-QByteArray row(const QByteArray& left, const QByteArray& right)
+QByteArray cellRow(const QByteArray& left, const QByteArray& right)
 {
     return "<table:table-row table:style-name=\"r\"><table:table-cell>" + left +
            "</table:table-cell><table:table-cell table:style-name=\"p\">" + right +
            "</table:table-cell></table:table-row>";
 }
 
-QByteArray table(const QByteArray& rows)
+QByteArray cellTable(const QByteArray& rows)
 {
     return "<table:table><table:table-column table:style-name=\"c\" "
            "table:number-columns-repeated=\"2\"/>" +
@@ -56,7 +56,7 @@ public:
         EXPECT_TRUE(picture.save(&buffer, "PNG"));
         m_import = repair::importRepaired(writePackage(
             m_folder.path(),
-            "<office:document-content><office:automatic-styles>" + Styles +
+            "<office:document-content><office:automatic-styles>" + BoxStyles +
                 "</office:automatic-styles><office:body><office:text><text:p><draw:frame "
                 "draw:style-name=\"f\" svg:width=\"3in\" svg:height=\"1.5in\"><draw:text-box>" +
                 content +
@@ -113,42 +113,43 @@ private:
 TEST(BoxedTable, HasItsCellsInTheirPlaces)
 {
     const LabelPage page("<text:section>" +
-                         table(row("<text:p>Name</text:p>", "<text:p>Ada</text:p>") +
-                               row("<text:p>Phone</text:p>", "<text:p>12</text:p>")) +
+                         cellTable(cellRow("<text:p>Name</text:p>", "<text:p>Ada</text:p>") +
+                                   cellRow("<text:p>Phone</text:p>", "<text:p>12</text:p>")) +
                          "</text:section>");
     EXPECT_EQ(page.repairs().value(u"tables-split"_s), 1);
     QList<QRectF> boxes = page.boxes(KestTypes::Rectangle);
-    boxes.removeIf([](const QRectF& box) { return std::abs(box.width() - 3.0 * Inch) > 0.1; });
+    boxes.removeIf([](const QRectF& box) { return std::abs(box.width() - 3.0 * BoxInch) > 0.1; });
     ASSERT_EQ(boxes.size(), 1);
     const QRectF frame = boxes[0];
     const QRectF name = page.text(u"Name"_s);
     EXPECT_NEAR(name.left(), frame.left(), 0.1);
     EXPECT_NEAR(name.top(), frame.top(), 0.1);
     // The padding of the cell.
-    EXPECT_NEAR(page.text(u"Ada"_s).left() - name.left(), 1.1 * Inch, 0.1);
-    EXPECT_NEAR(page.text(u"Ada"_s).top() - name.top(), 0.1 * Inch, 0.1);
-    EXPECT_NEAR(page.text(u"Phone"_s).top() - name.top(), 0.5 * Inch, 0.1);
+    EXPECT_NEAR(page.text(u"Ada"_s).left() - name.left(), 1.1 * BoxInch, 0.1);
+    EXPECT_NEAR(page.text(u"Ada"_s).top() - name.top(), 0.1 * BoxInch, 0.1);
+    EXPECT_NEAR(page.text(u"Phone"_s).top() - name.top(), 0.5 * BoxInch, 0.1);
 }
 
 TEST(BoxedTable, IsBetweenTheParagraphsOfItsBox)
 {
     const LabelPage page("<text:p>Above</text:p>" +
-                         table(row("<text:p>Cell</text:p>", "<text:p/>")) +
+                         cellTable(cellRow("<text:p>Cell</text:p>", "<text:p/>")) +
                          "<text:p>Below</text:p>");
     const double line = page.text(u"Cell"_s).top() - page.text(u"Above"_s).top();
     EXPECT_NEAR(line, 13.8, 0.1);
-    EXPECT_NEAR(page.text(u"Below"_s).top() - page.text(u"Cell"_s).top(), 0.5 * Inch, 0.1);
+    EXPECT_NEAR(page.text(u"Below"_s).top() - page.text(u"Cell"_s).top(), 0.5 * BoxInch, 0.1);
 }
 
 TEST(BoxedTable, ContainsTablesAndPictures)
 {
-    const LabelPage page(
-        table(row("<text:p>Outer</text:p>", table(row("<text:p>Inner</text:p>", "<text:p/>"))) +
-              row("<text:p><draw:frame text:anchor-type=\"as-char\" svg:width=\"0.4in\" "
-                  "svg:height=\"0.4in\"><draw:image xlink:href=\"Pictures/p.png\"/></draw:frame>"
-                  "</text:p>",
-                  "<text:p>Last</text:p>")));
-    EXPECT_NEAR(page.text(u"Inner"_s).left() - page.text(u"Outer"_s).left(), 1.1 * Inch, 0.1);
+    const LabelPage page(cellTable(
+        cellRow("<text:p>Outer</text:p>",
+                cellTable(cellRow("<text:p>Inner</text:p>", "<text:p/>"))) +
+        cellRow("<text:p><draw:frame text:anchor-type=\"as-char\" svg:width=\"0.4in\" "
+                "svg:height=\"0.4in\"><draw:image xlink:href=\"Pictures/p.png\"/></draw:frame>"
+                "</text:p>",
+                "<text:p>Last</text:p>")));
+    EXPECT_NEAR(page.text(u"Inner"_s).left() - page.text(u"Outer"_s).left(), 1.1 * BoxInch, 0.1);
     const QList<QRectF> pictures = page.boxes(KestTypes::Picture);
     ASSERT_EQ(pictures.size(), 1);
     EXPECT_NEAR(pictures[0].left(), page.text(u"Outer"_s).left(), 0.1);
@@ -167,7 +168,7 @@ TEST(BoxedTable, HoldsTheDepthOfTables)
     const auto texts = [](int depth) {
         QByteArray content;
         for (int i = 0; i < depth; ++i) {
-            content = table(row("<text:p>level</text:p>" + content, "<text:p/>"));
+            content = cellTable(cellRow("<text:p>level</text:p>" + content, "<text:p/>"));
         }
         const LabelPage page(content);
         return page.boxes(KestTypes::RichText).size();

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double Inch = 72.0;
+constexpr double GroundInch = 72.0;
 
 /// What a page of four by five inches with margins of half an inch shows.
 struct Page
@@ -78,7 +78,7 @@ void expectNear(const QRectF& box, const QRectF& wanted)
     EXPECT_NEAR(box.bottom(), wanted.bottom(), 0.1);
 }
 
-const QRectF Frame(0.5 * Inch, 0.5 * Inch, 3.0 * Inch, 4.0 * Inch);
+const QRectF PageFrame(0.5 * GroundInch, 0.5 * GroundInch, 3.0 * GroundInch, 4.0 * GroundInch);
 
 } // namespace
 
@@ -87,7 +87,7 @@ TEST(PageGrounds, FillThePageWithinItsMargins)
     const Page page = pageWith("fo:background-color=\"#ddeeff\">");
     ASSERT_EQ(page.rectangles.size(), 1);
     EXPECT_EQ(page.rectangles[0].fill->color.name(), "#ddeeff"_L1);
-    expectNear(boxOf(page.rectangles[0]), Frame);
+    expectNear(boxOf(page.rectangles[0]), PageFrame);
     EXPECT_TRUE(pageWith("fo:background-color=\"transparent\">").rectangles.isEmpty());
 }
 
@@ -98,8 +98,8 @@ TEST(PageGrounds, HaveABorderOnEachSideThatStatesOne)
     const Page page = pageWith("fo:border=\"none\" fo:border-bottom=\"2pt solid #112233\">");
     ASSERT_EQ(page.rectangles.size(), 1);
     EXPECT_EQ(page.rectangles[0].fill->color.name(), "#112233"_L1);
-    expectNear(boxOf(page.rectangles[0]),
-               QRectF(Frame.left() - 1.0, Frame.bottom() - 1.0, Frame.width() + 2.0, 2.0));
+    expectNear(boxOf(page.rectangles[0]), QRectF(PageFrame.left() - 1.0, PageFrame.bottom() - 1.0,
+                                                 PageFrame.width() + 2.0, 2.0));
 }
 
 TEST(PageGrounds, KeepTextsAwayFromTheirBorders)
@@ -107,10 +107,10 @@ TEST(PageGrounds, KeepTextsAwayFromTheirBorders)
     const Page page = pageWith("fo:padding=\"0.25in\" fo:border-left=\"0.1in solid #000000\">");
     ASSERT_EQ(page.texts.size(), 2);
     for (const workbench::ItemValues& text : page.texts) {
-        EXPECT_NEAR(text.placement.position.x(), 0.85 * Inch, 0.1);
+        EXPECT_NEAR(text.placement.position.x(), 0.85 * GroundInch, 0.1);
     }
     const Page left = pageWith("fo:padding-left=\"0.25in\">");
-    EXPECT_NEAR(left.texts[0].placement.position.x(), 0.75 * Inch, 0.1);
+    EXPECT_NEAR(left.texts[0].placement.position.x(), 0.75 * GroundInch, 0.1);
 }
 
 // The height of a header includes the distance of the text, its ground does not.
@@ -125,12 +125,12 @@ TEST(PageGrounds, FillHeaders)
     ASSERT_EQ(page.rectangles.size(), 1);
     EXPECT_EQ(page.rectangles[0].fill->color.name(), "#ddffdd"_L1);
     expectNear(boxOf(page.rectangles[0]),
-               QRectF(Frame.left(), Frame.top(), Frame.width(), 0.6 * Inch));
+               QRectF(PageFrame.left(), PageFrame.top(), PageFrame.width(), 0.6 * GroundInch));
     double lowest = 0.0;
     for (const workbench::ItemValues& text : page.texts) {
         lowest = std::max(lowest, text.placement.position.y());
     }
-    EXPECT_NEAR(lowest, 1.5 * Inch, 0.1);
+    EXPECT_NEAR(lowest, 1.5 * GroundInch, 0.1);
 }
 
 TEST(PageGrounds, ShowPictures)
@@ -138,10 +138,10 @@ TEST(PageGrounds, ShowPictures)
     const QByteArray image = "><style:background-image xlink:href=\"Pictures/p.png\"/>";
     const Page repeated = pageWith(image);
     ASSERT_EQ(repeated.symbols.size(), 1);
-    expectNear(boxOf(repeated.symbols[0]), Frame);
+    expectNear(boxOf(repeated.symbols[0]), PageFrame);
     EXPECT_TRUE(pageWith("><style:background-image/>").symbols.isEmpty());
     // Newer documents state the fill as that of a shape.
     const Page gradient = pageWith("draw:fill=\"gradient\" draw:fill-gradient-name=\"none\">");
     ASSERT_EQ(gradient.symbols.size(), 1);
-    expectNear(boxOf(gradient.symbols[0]), Frame);
+    expectNear(boxOf(gradient.symbols[0]), PageFrame);
 }

@@ -108,7 +108,7 @@ const QByteArray NumberedLevels =
     "<text:list-level-style-number text:level=\"2\" style:num-format=\"a\" "
     "text:display-levels=\"2\"/></text:list-style>";
 
-const QByteArray Outline =
+const QByteArray HeadingOutline =
     "<text:outline-style style:name=\"Outline\"><text:outline-level-style text:level=\"1\" "
     "style:num-format=\"1\"/><text:outline-level-style text:level=\"2\" style:num-format=\"1\" "
     "text:display-levels=\"2\"><style:list-level-properties "
@@ -176,7 +176,7 @@ TEST(Numbering, OfHeadingsFollowsTheOutline)
 {
     EXPECT_EQ(rewritten(heading(1, "A") + heading(2, "B") + heading(2, "C") + heading(1, "D") +
                             heading(2, "E") + heading(3, "F"),
-                        {}, Outline)
+                        {}, HeadingOutline)
                   .text,
               "[1  ][A]/[1.1 ][B]/[1.2 ][C]/[2  ][D]/[2.1 ][E]/[F]/"_L1);
 }
@@ -187,7 +187,7 @@ TEST(Numbering, LeavesOutHeadingsWithoutANumber)
                             heading(1, "C", "text:is-list-header=\"true\"") + heading(1, "D") +
                             heading(1, "E", "text:restart-numbering=\"true\"") +
                             heading(2000000000, "F"),
-                        {}, Outline)
+                        {}, HeadingOutline)
                   .text,
               "[1  ][A]/[B]/[C]/[2  ][D]/[1  ][E]/[F]/"_L1);
     EXPECT_EQ(rewritten(heading(1, "A", "labelport:label=\"9\"")).text, "[A]/"_L1);
