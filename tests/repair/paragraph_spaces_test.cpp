@@ -25,7 +25,7 @@ const QByteArray Styles =
     "<style:style style:name=\"all\" style:family=\"paragraph\" style:parent-style-name=\"plain\">"
     "<style:paragraph-properties fo:margin=\"2pt\"/></style:style>";
 
-QByteArray paragraph(const QByteArray& style, const QByteArray& text)
+QByteArray spacedParagraph(const QByteArray& style, const QByteArray& text)
 {
     return "<text:p text:style-name=\"" + style + "\">" + text + "</text:p>";
 }
@@ -77,7 +77,7 @@ double spaceBetween(const QMap<QString, double>& lines, const QString& first, co
     return lines.value(second) - lines.value(first) - height;
 }
 
-const QByteArray TwoPlain = paragraph("plain", "a") + paragraph("plain", "b");
+const QByteArray TwoPlain = spacedParagraph("plain", "a") + spacedParagraph("plain", "b");
 
 QByteArray cellOf(const QByteArray& text)
 {
@@ -99,7 +99,7 @@ TEST(ParagraphSpaces, AreTheLargerOneIfTheSettingsSaySo)
 {
     const QByteArray larger = settings("AddParaTableSpacing", "false");
     EXPECT_NEAR(spaceBetween(linesOf(TwoPlain, larger), u"a"_s, u"b"_s), 10.0, 0.1);
-    const QByteArray lowerSpace = paragraph("plain", "a") + paragraph("", "b");
+    const QByteArray lowerSpace = spacedParagraph("plain", "a") + spacedParagraph("", "b");
     EXPECT_NEAR(spaceBetween(linesOf(lowerSpace, larger), u"a"_s, u"b"_s), 6.0, 0.1);
     EXPECT_NEAR(spaceBetween(linesOf(TwoPlain, "no XML"), u"a"_s, u"b"_s), 16.0, 0.1);
 }
@@ -107,14 +107,16 @@ TEST(ParagraphSpaces, AreTheLargerOneIfTheSettingsSaySo)
 TEST(ParagraphSpaces, AreNotBetweenParagraphsOfAContextualStyle)
 {
     const QMap<QString, double> lines =
-        linesOf(paragraph("near", "a") + paragraph("copy", "b") + paragraph("plain", "c"));
+        linesOf(spacedParagraph("near", "a") + spacedParagraph("copy", "b") +
+                spacedParagraph("plain", "c"));
     EXPECT_NEAR(spaceBetween(lines, u"a"_s, u"b"_s), 0.0, 0.1) << "a copy has the same style";
     EXPECT_NEAR(spaceBetween(lines, u"b"_s, u"c"_s), 16.0, 0.1) << "another style";
 }
 
 TEST(ParagraphSpaces, ThatAreStatedForAllSidesReplaceThoseOfTheParent)
 {
-    const QMap<QString, double> lines = linesOf(paragraph("all", "a") + paragraph("all", "b"));
+    const QMap<QString, double> lines =
+        linesOf(spacedParagraph("all", "a") + spacedParagraph("all", "b"));
     EXPECT_NEAR(spaceBetween(lines, u"a"_s, u"b"_s), 4.0, 0.1);
 }
 
@@ -125,15 +127,15 @@ TEST(ParagraphSpaces, AreAboveTheFirstParagraphUnlessTheSettingsDenyThem)
         return linesOf(body, member).value(u"a"_s);
     };
     EXPECT_NEAR(top(TwoPlain) - top(TwoPlain, none), 10.0, 0.1);
-    const QByteArray inCell = cellOf(paragraph("plain", "a"));
+    const QByteArray inCell = cellOf(spacedParagraph("plain", "a"));
     EXPECT_NEAR(top(inCell) - top(inCell, none), 10.0, 0.1);
-    const QByteArray afterCell = cellOf(paragraph("", "x")) + paragraph("plain", "a");
+    const QByteArray afterCell = cellOf(spacedParagraph("", "x")) + spacedParagraph("plain", "a");
     EXPECT_NEAR(top(afterCell), top(afterCell, none), 0.1) << "not the first one of the page";
 }
 
 TEST(ParagraphSpaces, AreBelowTheLastParagraphOfACellUnlessTheSettingsDenyThem)
 {
-    const QByteArray body = cellOf(paragraph("plain", "a")) + paragraph("", "b");
+    const QByteArray body = cellOf(spacedParagraph("plain", "a")) + spacedParagraph("", "b");
     EXPECT_NEAR(spaceBetween(linesOf(body), u"a"_s, u"b"_s), 6.0, 0.1);
     EXPECT_NEAR(spaceBetween(linesOf(body, settings("AddParaSpacingToTableCells", "false")), u"a"_s,
                              u"b"_s),
