@@ -104,6 +104,17 @@ TEST(ParagraphSpaces, AreTheLargerOneIfTheSettingsSaySo)
     EXPECT_NEAR(spaceBetween(linesOf(TwoPlain, "no XML"), u"a"_s, u"b"_s), 16.0, 0.1);
 }
 
+TEST(ParagraphSpaces, HaveNoGapsOfFontsInLinesIfTheSettingsDenyThem)
+{
+    const QByteArray body = "<text:p>a</text:p><text:p>b</text:p>";
+    const auto height = [&body](const QByteArray& value) {
+        const QMap<QString, double> lines = linesOf(body, settings("AddExternalLeading", value));
+        return lines.value(u"b"_s) - lines.value(u"a"_s);
+    };
+    EXPECT_LT(height("false"), 0.98 * height("true"));
+    EXPECT_GT(height("false"), 0.94 * height("true"));
+}
+
 TEST(ParagraphSpaces, AreNotBetweenParagraphsOfAContextualStyle)
 {
     const QMap<QString, double> lines =

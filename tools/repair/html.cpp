@@ -176,7 +176,7 @@ double HtmlWriter::lineSpacing(const Node& node, const Properties& paragraph)
     const double wanted = height.endsWith(u'%') ? shareOf(height) : 1.0;
     return 100.0 * wanted *
            exactLineShare(largest.value(u"style:font-name"_s), isBold(largest), sizeOf(largest),
-                          m_pointsPerPixel);
+                          m_pointsPerPixel, m_document.spaces.inLines);
 }
 
 // The spaces between two paragraphs add up, where Qt takes the larger one.

@@ -18,7 +18,7 @@ namespace {
 constexpr int MeasuredSize = 1000;
 
 // Per font size.
-double statedDistance(QFont font)
+double statedDistance(QFont font, bool withGap)
 {
     font.setPixelSize(MeasuredSize);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -32,36 +32,39 @@ double statedDistance(QFont font)
         const auto value = [&table](qsizetype at) {
             return double(qFromBigEndian<qint16>(table.constData() + at));
         };
-        const double sum = value(4) - value(6) + std::max(0.0, value(8));
+        const double sum = value(4) - value(6) + (withGap ? std::max(0.0, value(8)) : 0.0);
         if (sum > 0.0) {
             return sum / raw.unitsPerEm();
         }
     }
     const QFontMetricsF metrics(font);
-    return (metrics.ascent() + metrics.descent() + std::max(0.0, metrics.leading())) / MeasuredSize;
+    const double gap = withGap ? std::max(0.0, metrics.leading()) : 0.0;
+    return (metrics.ascent() + metrics.descent() + gap) / MeasuredSize;
 }
 
-double measuredShare(const QString& family, bool bold, double size, double pointsPerPixel)
+double measuredShare(const QString& family, bool bold, double size, double pointsPerPixel,
+                     bool withGap)
 {
     QFont font(family);
     font.setBold(bold);
     font.setPointSizeF(std::max(size * pointsPerPixel, 0.01));
     const QFontMetricsF metrics(font);
     const double rounded = std::ceil(metrics.ascent() + metrics.descent() + metrics.leading());
-    return rounded > 0.0 ? statedDistance(font) * size / rounded : 1.0;
+    return rounded > 0.0 ? statedDistance(font, withGap) * size / rounded : 1.0;
 }
 
 } // namespace
 
-double exactLineShare(const QString& family, bool bold, double size, double pointsPerPixel)
+double exactLineShare(const QString& family, bool bold, double size, double pointsPerPixel,
+                      bool withGap)
 {
     // A text has few fonts, and a document many paragraphs.
-    static std::map<std::tuple<QString, bool, int>, double> shares;
-    const auto key = std::tuple(family, bold, static_cast<int>(std::lround(size * 100.0)));
+    static std::map<std::tuple<QString, bool, int, bool>, double> shares;
+    const auto key = std::tuple(family, bold, static_cast<int>(std::lround(size * 100.0)), withGap);
     const auto found = shares.find(key);
     return found != shares.end()
                ? found->second
-               : shares.emplace(key, measuredShare(family, bold, size, pointsPerPixel))
+               : shares.emplace(key, measuredShare(family, bold, size, pointsPerPixel, withGap))
                      .first->second;
 }
 

@@ -9,7 +9,8 @@ namespace repair {
 ///
 /// @param size           in points
 /// @param pointsPerPixel of the size that Qt is given
+/// @param withGap        whether the gap between lines that the font states is part of it
 [[nodiscard]] double exactLineShare(const QString& family, bool bold, double size,
-                                    double pointsPerPixel);
+                                    double pointsPerPixel, bool withGap);
 
 } // namespace repair

@@ -39,7 +39,8 @@ SpaceRules readSpaceRules(const Document& document)
     }
     return {values.value(u"AddParaTableSpacing"_s, true),
             values.value(u"AddParaTableSpacingAtStart"_s, true),
-            values.value(u"AddParaSpacingToTableCells"_s, true)};
+            values.value(u"AddParaSpacingToTableCells"_s, true),
+            values.value(u"AddExternalLeading"_s, true)};
 }
 
 ParagraphSpaces::ParagraphSpaces(Document& document, const Node& frame)

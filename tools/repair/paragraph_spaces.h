@@ -10,12 +10,13 @@ namespace repair {
 
 class Document;
 
-/// What the settings of a text document say about the spaces above and below its paragraphs.
+/// What the settings of a text document say about the spaces between its paragraphs and lines.
 struct SpaceRules
 {
     bool addUp = true;   ///< between two paragraphs; otherwise the larger one counts
     bool atStart = true; ///< above the first paragraph of a page, cell or frame
     bool inCells = true; ///< below the last paragraph of a cell
+    bool inLines = true; ///< the gap of the font, in the height of a line
 };
 
 [[nodiscard]] SpaceRules readSpaceRules(const Document& document);
