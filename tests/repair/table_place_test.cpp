@@ -132,6 +132,17 @@ TEST(TablePlaces, KeepTheSpaceAboveAndBelowTheTable)
     tops(largerSpaces());
 }
 
+TEST(TablePlaces, KeepTheSpacesOfAnEmptyParagraphBetweenThem)
+{
+    const auto gap = [](const QByteArray& style) {
+        const QMap<QString, QRectF> texts = textsOf(table() + "<text:p text:style-name=\"" + style +
+                                                        "\"/>" + table("c", row("c", "d")),
+                                                    "");
+        return texts.value(u"c"_s).top() - texts.value(u"a"_s).bottom();
+    };
+    EXPECT_NEAR(gap("space"), gap("") + 0.5 + 0.5, 0.02);
+}
+
 TEST(TablePlaces, AddTheSpacesOfParagraphsUnlessTheSettingsTakeTheLargerOne)
 {
     const QByteArray body = "<text:p text:style-name=\"space\">x</text:p>" + table() +

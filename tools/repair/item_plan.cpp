@@ -217,7 +217,8 @@ void planRow(Document& document, const Node& shape, const Node& container,
         plan.space = padding(graphic, u"bottom"_s, DefaultTopPadding) +
                      outerSpace(document, container, false);
     } else if (shape.child(u"draw:text-box") != nullptr) {
-        plan.space = linesHeight(document, container) +
+        plan.space = linesHeight(document, container) + outerSpace(document, container, true) +
+                     outerSpace(document, container, false) +
                      padding(graphic, u"top"_s, DefaultTopPadding) +
                      padding(graphic, u"bottom"_s, DefaultTopPadding);
     }
