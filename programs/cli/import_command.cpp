@@ -1,3 +1,4 @@
+#include "archive/publish.h"
 #include "archive/run.h"
 #include "archive/stop_signals.h"
 #include "cli/archive_reports.h"
@@ -12,6 +13,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -90,7 +92,8 @@ public:
 
     int run()
     {
-        const QString problem = m_reports.firstProblem();
+        const QString folder = outputThatIsFolder();
+        const QString problem = folder.isEmpty() ? m_reports.firstProblem() : folder;
         const QString error = problem.isEmpty() ? m_run.open() : problem;
         if (!error.isEmpty()) {
             m_reporter.print(error);
@@ -105,6 +108,15 @@ public:
     [[nodiscard]] const QStringList& written() const { return m_written; }
 
 private:
+    // Found before the import: the names of further pages would be in the folder.
+    [[nodiscard]] QString outputThatIsFolder() const
+    {
+        return QFileInfo(m_options.output).isDir()
+                   ? archive::cannotWrite(m_options.output,
+                                          QCoreApplication::translate(
+                                              "archive::Publish", "a folder of that name exists"))
+                   : QString();
+    }
     void waitUntilFinished()
     {
         QEventLoop loop;

@@ -159,6 +159,19 @@ TEST_F(Repairs, NeverGiveAPageTheNameOfAnotherLabel)
     EXPECT_EQ(outcome.out, u"out/shelf-2.png\nout/shelf.png\nout/shelf-page-2.png\n"_s);
 }
 
+TEST_F(Repairs, NameAFolderInThePlaceOfAnOutputWithSeveralPages)
+{
+    write(u"shelf.odg"_s, drawing({Rectangle, Rectangle}));
+    write(u"out/other.txt"_s, "x");
+    for (const char* output : {"out", "out/"}) {
+        const Outcome outcome = import(QByteArray("shelf.odg --to png --output ") + output);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_TRUE(outcome.err.contains(u"a folder of that name exists"_s))
+            << qPrintable(outcome.err);
+        EXPECT_FALSE(outcome.err.contains(u"worker"_s)) << qPrintable(outcome.err);
+    }
+}
+
 TEST_F(Repairs, AreNeverWrittenIntoTheFile)
 {
     const QByteArray original = drawing({Group, Rectangle});
