@@ -16,11 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double Centimeter = 72.0 / 2.54;
+constexpr double EdgeUnit = 72.0 / 2.54;
 constexpr double Widest = 6.0; // points, of a line in these documents
 
 /// What a text document shows, in points.
-struct Shown
+struct ShownEdges
 {
     QList<QRectF> lines; ///< filled boxes as thin as a line
     QStringList colors;  ///< of these
@@ -28,13 +28,13 @@ struct Shown
     QMap<QString, QRectF> texts;
 };
 
-QByteArray style(const QByteArray& name, const QByteArray& family, const QByteArray& properties)
+QByteArray edgeStyle(const QByteArray& name, const QByteArray& family, const QByteArray& properties)
 {
     return "<style:style style:name=\"" + name + "\" style:family=\"" + family +
            "\"><style:" + family + "-properties " + properties + "/></style:style>";
 }
 
-Shown shownBy(const QByteArray& body, const QByteArray& styles)
+ShownEdges edgesShownBy(const QByteArray& body, const QByteArray& styles)
 {
     const QTemporaryDir folder;
     const QByteArray content = "<office:document-content><office:automatic-styles>" + styles +
@@ -43,7 +43,7 @@ Shown shownBy(const QByteArray& body, const QByteArray& styles)
     const repair::RepairedImport import =
         repair::importRepaired(writePackage(folder.path(), content, drawingStyles()));
     EXPECT_TRUE(import.isRepaired());
-    Shown shown;
+    ShownEdges shown;
     for (workbench::CanvasItem* const item : import.result.canvas->items()) {
         const workbench::ItemValues values = item->values();
         const QRectF box(values.placement.position, values.box.size);
@@ -59,28 +59,29 @@ Shown shownBy(const QByteArray& body, const QByteArray& styles)
     return shown;
 }
 
-QByteArray cell(const QByteArray& style, const QByteArray& text, const QByteArray& attributes = {})
+QByteArray edgeCell(const QByteArray& style, const QByteArray& text,
+                    const QByteArray& attributes = {})
 {
     return "<table:table-cell table:style-name=\"" + style + "\" " + attributes + "><text:p>" +
            text + "</text:p></table:table-cell>";
 }
 
-QByteArray row(const QByteArray& cells)
+QByteArray edgeRow(const QByteArray& cells)
 {
     return "<table:table-row>" + cells + "</table:table-row>";
 }
 
-QByteArray table(const QByteArray& rows)
+QByteArray edgeTable(const QByteArray& rows)
 {
     return "<table:table table:style-name=\"t\"><table:table-column table:style-name=\"c\" "
            "table:number-columns-repeated=\"2\"/>" +
            rows + "</table:table>";
 }
 
-const QByteArray Columns = style("c", "table-column", "style:column-width=\"2cm\"") +
-                           style("t", "table", "fo:margin-top=\"0.5cm\"");
+const QByteArray EdgeColumns = edgeStyle("c", "table-column", "style:column-width=\"2cm\"") +
+                               edgeStyle("t", "table", "fo:margin-top=\"0.5cm\"");
 
-void expectLine(const Shown& shown, int index, const QRectF& expected)
+void expectLine(const ShownEdges& shown, int index, const QRectF& expected)
 {
     const QRectF line = shown.lines.value(index);
     EXPECT_NEAR(line.left(), expected.left(), 0.1) << index;
@@ -108,61 +109,67 @@ TEST(BoxEdges, AreThoseThatTheBordersState)
 
 TEST(BoxEdges, OfACellAreOnItsSidesOnly)
 {
-    const Shown shown = shownBy(
-        table(row(cell("e", "a") + cell("", "one<text:line-break/>two")) + row(cell("", "b"))),
-        Columns + style("e", "table-cell",
-                        "fo:border=\"none\" fo:border-left=\"2pt solid #ff0000\" "
-                        "fo:border-bottom=\"1pt solid #0000ff\""));
+    const ShownEdges shown = edgesShownBy(
+        edgeTable(edgeRow(edgeCell("e", "a") + edgeCell("", "one<text:line-break/>two")) +
+                  edgeRow(edgeCell("", "b"))),
+        EdgeColumns + edgeStyle("e", "table-cell",
+                                "fo:border=\"none\" fo:border-left=\"2pt solid #ff0000\" "
+                                "fo:border-bottom=\"1pt solid #0000ff\""));
     ASSERT_EQ(shown.lines.size(), 2);
     EXPECT_EQ(shown.pens, 0);
     EXPECT_EQ(shown.colors, QStringList({u"#ff0000"_s, u"#0000ff"_s}));
-    const double top = 0.5 * Centimeter;
+    const double top = 0.5 * EdgeUnit;
     const double bottom = shown.texts.value(u"b"_s).top() - 0.5; // half a line
     EXPECT_GT(bottom - top, 20.0) << "two lines";
     expectLine(shown, 0, {-1.0, top, 2.0, bottom - top});
-    expectLine(shown, 1, {-0.5, bottom - 0.5, 2.0 * Centimeter + 1.0, 1.0});
+    expectLine(shown, 1, {-0.5, bottom - 0.5, 2.0 * EdgeUnit + 1.0, 1.0});
 }
 
 TEST(BoxEdges, OfACellOverTwoRowsHaveTheHeightOfBoth)
 {
-    const Shown shown = shownBy(
-        table(row(cell("e", "a", "table:number-rows-spanned=\"2\"") + cell("", "b")) +
-              row("<table:covered-table-cell/>" + cell("", "c")) + row(cell("", "d"))),
-        Columns +
-            style("e", "table-cell",
-                  "fo:border-right=\"1pt solid #000000\" fo:border-bottom=\"1pt solid #000000\""));
+    const ShownEdges shown = edgesShownBy(
+        edgeTable(
+            edgeRow(edgeCell("e", "a", "table:number-rows-spanned=\"2\"") + edgeCell("", "b")) +
+            edgeRow("<table:covered-table-cell/>" + edgeCell("", "c")) +
+            edgeRow(edgeCell("", "d"))),
+        EdgeColumns +
+            edgeStyle(
+                "e", "table-cell",
+                "fo:border-right=\"1pt solid #000000\" fo:border-bottom=\"1pt solid #000000\""));
     ASSERT_EQ(shown.lines.size(), 2);
-    const double top = 0.5 * Centimeter;
+    const double top = 0.5 * EdgeUnit;
     const double bottom = shown.texts.value(u"d"_s).top() - 0.5; // half a line
-    expectLine(shown, 0, {2.0 * Centimeter - 0.5, top, 1.0, bottom - top});
-    expectLine(shown, 1, {-0.5, bottom - 0.5, 2.0 * Centimeter + 1.0, 1.0});
+    expectLine(shown, 0, {2.0 * EdgeUnit - 0.5, top, 1.0, bottom - top});
+    expectLine(shown, 1, {-0.5, bottom - 0.5, 2.0 * EdgeUnit + 1.0, 1.0});
 }
 
 // Office programs give a border between two cells to one of them.
 TEST(BoxEdges, OfAGridArePens)
 {
     const QByteArray side = "=\"1pt solid #000000\" ";
-    const Shown shown = shownBy(
-        table(row(cell("a1", "a") + cell("b1", "b")) + row(cell("a2", "c") + cell("b2", "d"))),
-        Columns +
-            style("a1", "table-cell",
-                  "fo:border-left" + side + "fo:border-top" + side + "fo:border-bottom" + side) +
-            style("b1", "table-cell", "fo:border" + side) +
-            style("a2", "table-cell", "fo:border-left" + side + "fo:border-bottom" + side) +
-            style("b2", "table-cell", "fo:border" + side + "fo:border-top=\"none\""));
+    const ShownEdges shown = edgesShownBy(
+        edgeTable(edgeRow(edgeCell("a1", "a") + edgeCell("b1", "b")) +
+                  edgeRow(edgeCell("a2", "c") + edgeCell("b2", "d"))),
+        EdgeColumns +
+            edgeStyle("a1", "table-cell",
+                      "fo:border-left" + side + "fo:border-top" + side + "fo:border-bottom" +
+                          side) +
+            edgeStyle("b1", "table-cell", "fo:border" + side) +
+            edgeStyle("a2", "table-cell", "fo:border-left" + side + "fo:border-bottom" + side) +
+            edgeStyle("b2", "table-cell", "fo:border" + side + "fo:border-top=\"none\""));
     EXPECT_EQ(shown.pens, 4);
     EXPECT_TRUE(shown.lines.isEmpty());
 }
 
 TEST(BoxEdges, OfADoubleLineAreTwo)
 {
-    const Shown shown =
-        shownBy(table(row(cell("e", "a"))),
-                Columns + style("e", "table-cell", "fo:border-top=\"3pt double #000000\""));
+    const ShownEdges shown = edgesShownBy(
+        edgeTable(edgeRow(edgeCell("e", "a"))),
+        EdgeColumns + edgeStyle("e", "table-cell", "fo:border-top=\"3pt double #000000\""));
     ASSERT_EQ(shown.lines.size(), 2);
-    const double top = 0.5 * Centimeter;
-    expectLine(shown, 0, {-1.5, top - 1.5, 2.0 * Centimeter + 3.0, 1.0});
-    expectLine(shown, 1, {-1.5, top + 0.5, 2.0 * Centimeter + 3.0, 1.0});
+    const double top = 0.5 * EdgeUnit;
+    expectLine(shown, 0, {-1.5, top - 1.5, 2.0 * EdgeUnit + 3.0, 1.0});
+    expectLine(shown, 1, {-1.5, top + 0.5, 2.0 * EdgeUnit + 3.0, 1.0});
 }
 
 TEST(BoxEdges, OfACellInADrawingAreOnItsSidesOnly)

@@ -21,15 +21,15 @@ constexpr double Thinnest = 0.01;
 
 /// What a page shows, in points: the boxes without text, by their color, and the lines of its
 /// texts, by their words.
-struct Shown
+struct ShownBorders
 {
     QMultiMap<QString, QRectF> boxes;
     QMap<QString, QRectF> lines;
 };
 
-Shown shownOn(const repair::RepairedImport& import)
+ShownBorders bordersShownOn(const repair::RepairedImport& import)
 {
-    Shown shown;
+    ShownBorders shown;
     for (workbench::CanvasItem* const item : import.result.canvas->items()) {
         const workbench::ItemValues values = item->values();
         auto* const text = dynamic_cast<RichTextItem*>(item->contractItem());
@@ -49,7 +49,7 @@ Shown shownOn(const repair::RepairedImport& import)
     return shown;
 }
 
-QByteArray contentOf(const QByteArray& body)
+QByteArray borderedContent(const QByteArray& body)
 {
     const auto style = [](const QByteArray& name, const QByteArray& properties) {
         return "<style:style style:name=\"" + name +
@@ -67,21 +67,21 @@ QByteArray contentOf(const QByteArray& body)
            "</office:text></office:body></office:document-content>";
 }
 
-Shown shownBy(const QByteArray& body)
+ShownBorders bordersShownBy(const QByteArray& body)
 {
     const QTemporaryDir folder;
     const repair::RepairedImport import =
-        repair::importRepaired(writePackage(folder.path(), contentOf(body), drawingStyles()));
+        repair::importRepaired(writePackage(folder.path(), borderedContent(body), drawingStyles()));
     EXPECT_TRUE(import.isRepaired());
-    return shownOn(import);
+    return bordersShownOn(import);
 }
 
-QByteArray paragraph(const QByteArray& style, const QByteArray& text)
+QByteArray borderedParagraph(const QByteArray& style, const QByteArray& text)
 {
     return "<text:p text:style-name=\"" + style + "\">" + text + "</text:p>";
 }
 
-void expectBox(const QRectF& box, const QRectF& expected)
+void expectBorder(const QRectF& box, const QRectF& expected)
 {
     constexpr double Tolerance = 0.4; // texts are a little wider than their column
     EXPECT_NEAR(box.left(), expected.left(), Tolerance);
@@ -92,7 +92,7 @@ void expectBox(const QRectF& box, const QRectF& expected)
 
 /// The boxes of this color: those that are higher than wide first, from left to right, then the
 /// others from top to bottom.
-QList<QRectF> sorted(const Shown& shown, const QString& color)
+QList<QRectF> sortedBorders(const ShownBorders& shown, const QString& color)
 {
     QList<QRectF> boxes = shown.boxes.values(color);
     const auto key = [](const QRectF& box) {
@@ -108,9 +108,9 @@ QList<QRectF> sorted(const Shown& shown, const QString& color)
 
 TEST(ParagraphEdges, AreAroundTheLines)
 {
-    const Shown shown =
-        shownBy("<text:p>above</text:p>" + paragraph("box", "boxed") + "<text:p>below</text:p>");
-    const QList<QRectF> sides = sorted(shown, u"#ff0000"_s);
+    const ShownBorders shown = bordersShownBy(
+        "<text:p>above</text:p>" + borderedParagraph("box", "boxed") + "<text:p>below</text:p>");
+    const QList<QRectF> sides = sortedBorders(shown, u"#ff0000"_s);
     ASSERT_EQ(sides.size(), 4);
     const QRectF line = shown.lines.value(u"boxed"_s);
     const double top = shown.lines.value(u"above"_s).bottom();
@@ -120,33 +120,34 @@ TEST(ParagraphEdges, AreAroundTheLines)
     EXPECT_NEAR(line.bottom(), bottom - 2.0 - 3.0, 0.3);
     const QRectF border(QPointF(10.0, line.top() - 5.0),
                         QPointF(PageWidth - 20.0, line.bottom() + 5.0));
-    expectBox(sides[0], {border.left(), border.top(), 2.0, border.height()});
-    expectBox(sides[1], {border.right() - 2.0, border.top(), 2.0, border.height()});
-    expectBox(sides[2], {border.left(), border.top(), border.width(), 2.0});
-    expectBox(sides[3], {border.left(), border.bottom() - 2.0, border.width(), 2.0});
+    expectBorder(sides[0], {border.left(), border.top(), 2.0, border.height()});
+    expectBorder(sides[1], {border.right() - 2.0, border.top(), 2.0, border.height()});
+    expectBorder(sides[2], {border.left(), border.top(), border.width(), 2.0});
+    expectBorder(sides[3], {border.left(), border.bottom() - 2.0, border.width(), 2.0});
 }
 
 TEST(ParagraphEdges, OfAnEmptyParagraphAreARule)
 {
-    const Shown shown =
-        shownBy("<text:p>above</text:p>" + paragraph("rule", "") + "<text:p>below</text:p>");
+    const ShownBorders shown = bordersShownBy(
+        "<text:p>above</text:p>" + borderedParagraph("rule", "") + "<text:p>below</text:p>");
     ASSERT_EQ(shown.boxes.count(u"#ff0000"_s), 1);
     const double bottom = shown.lines.value(u"below"_s).top();
-    expectBox(shown.boxes.value(u"#ff0000"_s), {0.0, bottom - 1.0, PageWidth, 1.0});
+    expectBorder(shown.boxes.value(u"#ff0000"_s), {0.0, bottom - 1.0, PageWidth, 1.0});
     EXPECT_GT(bottom - shown.lines.value(u"above"_s).bottom(), 12.0) << "an empty line above it";
 }
 
 TEST(ParagraphEdges, AreThereWithoutWords)
 {
-    const Shown shown = shownBy(paragraph("rule", ""));
+    const ShownBorders shown = bordersShownBy(borderedParagraph("rule", ""));
     ASSERT_EQ(shown.boxes.count(u"#ff0000"_s), 1);
-    expectBox(shown.boxes.value(u"#ff0000"_s), {0.0, 1.15 * 12.0 + 2.0, PageWidth, 1.0});
+    expectBorder(shown.boxes.value(u"#ff0000"_s), {0.0, 1.15 * 12.0 + 2.0, PageWidth, 1.0});
 }
 
 TEST(ParagraphEdges, AreAroundParagraphsWithTheSameBorder)
 {
-    const Shown shown =
-        shownBy(paragraph("box", "one") + paragraph("box", "two") + paragraph("rule", "three"));
+    const ShownBorders shown =
+        bordersShownBy(borderedParagraph("box", "one") + borderedParagraph("box", "two") +
+                       borderedParagraph("rule", "three"));
     QList<QRectF> sides = shown.boxes.values(u"#ff0000"_s);
     sides.removeIf([](const QRectF& side) { return side.height() > 3.0; });
     ASSERT_EQ(sides.size(), 3) << "above the first, below the second and third one";
@@ -165,10 +166,10 @@ TEST(ParagraphEdges, AreAroundParagraphsWithTheSameBorder)
 
 TEST(ParagraphEdges, HaveTheGroundOfTheParagraphWithinThem)
 {
-    const Shown shown = shownBy(paragraph("filled", "words"));
+    const ShownBorders shown = bordersShownBy(borderedParagraph("filled", "words"));
     ASSERT_EQ(shown.boxes.values(u"#0000ff"_s).size(), 1);
     const QRectF line = shown.lines.value(u"words"_s);
-    expectBox(shown.boxes.value(u"#0000ff"_s), {0.0, line.top(), PageWidth, line.height()});
+    expectBorder(shown.boxes.value(u"#0000ff"_s), {0.0, line.top(), PageWidth, line.height()});
 }
 
 TEST(ParagraphEdges, AreOnThePageOfTheParagraph)
@@ -178,26 +179,26 @@ TEST(ParagraphEdges, AreOnThePageOfTheParagraph)
     for (int i = 0; i < 12; ++i) {
         body += "<text:p>full</text:p>";
     }
-    const repair::RepairedImport first = repair::importRepaired(
-        writePackage(folder.path(), contentOf(body + paragraph("rule", "last")), drawingStyles()));
+    const repair::RepairedImport first = repair::importRepaired(writePackage(
+        folder.path(), borderedContent(body + borderedParagraph("rule", "last")), drawingStyles()));
     ASSERT_TRUE(first.document);
     ASSERT_EQ(first.document->pageCount(), 2);
-    EXPECT_EQ(shownOn(first).boxes.count(u"#ff0000"_s), 0);
-    const Shown second = shownOn(repair::importFurtherPage(*first.document, 2));
+    EXPECT_EQ(bordersShownOn(first).boxes.count(u"#ff0000"_s), 0);
+    const ShownBorders second = bordersShownOn(repair::importFurtherPage(*first.document, 2));
     ASSERT_EQ(second.boxes.count(u"#ff0000"_s), 1);
     const QRectF line = second.lines.value(u"last"_s);
-    expectBox(second.boxes.value(u"#ff0000"_s), {0.0, line.bottom() + 2.0, PageWidth, 1.0});
+    expectBorder(second.boxes.value(u"#ff0000"_s), {0.0, line.bottom() + 2.0, PageWidth, 1.0});
 }
 
 TEST(ParagraphEdges, AreInTheCellOfTheirParagraph)
 {
-    const Shown shown =
-        shownBy("<text:p>above</text:p><table:table><table:table-column "
-                "table:number-columns-repeated=\"2\"/><table:table-row><table:table-cell/>"
-                "<table:table-cell>" +
-                paragraph("rule", "words") + "</table:table-cell></table:table-row></table:table>");
+    const ShownBorders shown = bordersShownBy(
+        "<text:p>above</text:p><table:table><table:table-column "
+        "table:number-columns-repeated=\"2\"/><table:table-row><table:table-cell/>"
+        "<table:table-cell>" +
+        borderedParagraph("rule", "words") + "</table:table-cell></table:table-row></table:table>");
     ASSERT_EQ(shown.boxes.count(u"#ff0000"_s), 1);
     const QRectF line = shown.lines.value(u"words"_s);
-    expectBox(shown.boxes.value(u"#ff0000"_s),
-              {PageWidth / 2.0, line.bottom() + 2.0, PageWidth / 2.0, 1.0});
+    expectBorder(shown.boxes.value(u"#ff0000"_s),
+                 {PageWidth / 2.0, line.bottom() + 2.0, PageWidth / 2.0, 1.0});
 }

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray Styles =
+const QByteArray SpacedStyles =
     "<style:style style:name=\"plain\" style:family=\"paragraph\"><style:paragraph-properties "
     "fo:margin-top=\"10pt\" fo:margin-bottom=\"6pt\"/></style:style>"
     "<style:style style:name=\"near\" style:family=\"paragraph\"><style:paragraph-properties "
@@ -30,7 +30,7 @@ QByteArray spacedParagraph(const QByteArray& style, const QByteArray& text)
     return "<text:p text:style-name=\"" + style + "\">" + text + "</text:p>";
 }
 
-QByteArray settings(const QByteArray& name, const QByteArray& value)
+QByteArray spaceSettings(const QByteArray& name, const QByteArray& value)
 {
     return "<office:document-settings><office:settings><config:config-item-set><config:config-item "
            "config:name=\"" +
@@ -40,7 +40,7 @@ QByteArray settings(const QByteArray& name, const QByteArray& value)
 }
 
 /// The tops of all lines, by their texts, in points on the page.
-QMap<QString, double> linesOf(const QByteArray& body, const QByteArray& settingsMember = {})
+QMap<QString, double> lineTopsOf(const QByteArray& body, const QByteArray& settingsMember = {})
 {
     const QTemporaryDir folder;
     const QByteArray content =
@@ -48,8 +48,9 @@ QMap<QString, double> linesOf(const QByteArray& body, const QByteArray& settings
         "style:family=\"paragraph\" style:parent-style-name=\"near\"/></office:automatic-styles>"
         "<office:body><office:text>" +
         body + "</office:text></office:body></office:document-content>";
-    const repair::RepairedImport import = repair::importRepaired(writePackage(
-        folder.path(), content, drawingStyles(Styles), {{u"settings.xml"_s, settingsMember}}));
+    const repair::RepairedImport import =
+        repair::importRepaired(writePackage(folder.path(), content, drawingStyles(SpacedStyles),
+                                            {{u"settings.xml"_s, settingsMember}}));
     QMap<QString, double> tops;
     for (workbench::CanvasItem* const item : import.result.canvas->items()) {
         auto* const text = dynamic_cast<RichTextItem*>(item->contractItem());
@@ -71,7 +72,7 @@ double spaceBetween(const QMap<QString, double>& lines, const QString& first, co
     EXPECT_TRUE(lines.contains(first) && lines.contains(second))
         << lines.keys().join(u'|').toStdString();
     static const double height = [] {
-        const QMap<QString, double> plain = linesOf("<text:p>a</text:p><text:p>b</text:p>");
+        const QMap<QString, double> plain = lineTopsOf("<text:p>a</text:p><text:p>b</text:p>");
         return plain.value(u"b"_s) - plain.value(u"a"_s);
     }();
     return lines.value(second) - lines.value(first) - height;
@@ -79,7 +80,7 @@ double spaceBetween(const QMap<QString, double>& lines, const QString& first, co
 
 const QByteArray TwoPlain = spacedParagraph("plain", "a") + spacedParagraph("plain", "b");
 
-QByteArray cellOf(const QByteArray& text)
+QByteArray spacedCell(const QByteArray& text)
 {
     return "<table:table><table:table-column/><table:table-row><table:table-cell>" + text +
            "</table:table-cell></table:table-row></table:table>";
@@ -89,26 +90,27 @@ QByteArray cellOf(const QByteArray& text)
 
 TEST(ParagraphSpaces, AddUp)
 {
-    EXPECT_NEAR(spaceBetween(linesOf(TwoPlain), u"a"_s, u"b"_s), 16.0, 0.1);
-    EXPECT_NEAR(
-        spaceBetween(linesOf(TwoPlain, settings("AddParaTableSpacing", "true")), u"a"_s, u"b"_s),
-        16.0, 0.1);
+    EXPECT_NEAR(spaceBetween(lineTopsOf(TwoPlain), u"a"_s, u"b"_s), 16.0, 0.1);
+    EXPECT_NEAR(spaceBetween(lineTopsOf(TwoPlain, spaceSettings("AddParaTableSpacing", "true")),
+                             u"a"_s, u"b"_s),
+                16.0, 0.1);
 }
 
 TEST(ParagraphSpaces, AreTheLargerOneIfTheSettingsSaySo)
 {
-    const QByteArray larger = settings("AddParaTableSpacing", "false");
-    EXPECT_NEAR(spaceBetween(linesOf(TwoPlain, larger), u"a"_s, u"b"_s), 10.0, 0.1);
+    const QByteArray larger = spaceSettings("AddParaTableSpacing", "false");
+    EXPECT_NEAR(spaceBetween(lineTopsOf(TwoPlain, larger), u"a"_s, u"b"_s), 10.0, 0.1);
     const QByteArray lowerSpace = spacedParagraph("plain", "a") + spacedParagraph("", "b");
-    EXPECT_NEAR(spaceBetween(linesOf(lowerSpace, larger), u"a"_s, u"b"_s), 6.0, 0.1);
-    EXPECT_NEAR(spaceBetween(linesOf(TwoPlain, "no XML"), u"a"_s, u"b"_s), 16.0, 0.1);
+    EXPECT_NEAR(spaceBetween(lineTopsOf(lowerSpace, larger), u"a"_s, u"b"_s), 6.0, 0.1);
+    EXPECT_NEAR(spaceBetween(lineTopsOf(TwoPlain, "no XML"), u"a"_s, u"b"_s), 16.0, 0.1);
 }
 
 TEST(ParagraphSpaces, HaveNoGapsOfFontsInLinesIfTheSettingsDenyThem)
 {
     const QByteArray body = "<text:p>a</text:p><text:p>b</text:p>";
     const auto height = [&body](const QByteArray& value) {
-        const QMap<QString, double> lines = linesOf(body, settings("AddExternalLeading", value));
+        const QMap<QString, double> lines =
+            lineTopsOf(body, spaceSettings("AddExternalLeading", value));
         return lines.value(u"b"_s) - lines.value(u"a"_s);
     };
     EXPECT_LT(height("false"), 0.98 * height("true"));
@@ -118,8 +120,8 @@ TEST(ParagraphSpaces, HaveNoGapsOfFontsInLinesIfTheSettingsDenyThem)
 TEST(ParagraphSpaces, AreNotBetweenParagraphsOfAContextualStyle)
 {
     const QMap<QString, double> lines =
-        linesOf(spacedParagraph("near", "a") + spacedParagraph("copy", "b") +
-                spacedParagraph("plain", "c"));
+        lineTopsOf(spacedParagraph("near", "a") + spacedParagraph("copy", "b") +
+                   spacedParagraph("plain", "c"));
     EXPECT_NEAR(spaceBetween(lines, u"a"_s, u"b"_s), 0.0, 0.1) << "a copy has the same style";
     EXPECT_NEAR(spaceBetween(lines, u"b"_s, u"c"_s), 16.0, 0.1) << "another style";
 }
@@ -127,28 +129,29 @@ TEST(ParagraphSpaces, AreNotBetweenParagraphsOfAContextualStyle)
 TEST(ParagraphSpaces, ThatAreStatedForAllSidesReplaceThoseOfTheParent)
 {
     const QMap<QString, double> lines =
-        linesOf(spacedParagraph("all", "a") + spacedParagraph("all", "b"));
+        lineTopsOf(spacedParagraph("all", "a") + spacedParagraph("all", "b"));
     EXPECT_NEAR(spaceBetween(lines, u"a"_s, u"b"_s), 4.0, 0.1);
 }
 
 TEST(ParagraphSpaces, AreAboveTheFirstParagraphUnlessTheSettingsDenyThem)
 {
-    const QByteArray none = settings("AddParaTableSpacingAtStart", "false");
+    const QByteArray none = spaceSettings("AddParaTableSpacingAtStart", "false");
     const auto top = [](const QByteArray& body, const QByteArray& member = {}) {
-        return linesOf(body, member).value(u"a"_s);
+        return lineTopsOf(body, member).value(u"a"_s);
     };
     EXPECT_NEAR(top(TwoPlain) - top(TwoPlain, none), 10.0, 0.1);
-    const QByteArray inCell = cellOf(spacedParagraph("plain", "a"));
+    const QByteArray inCell = spacedCell(spacedParagraph("plain", "a"));
     EXPECT_NEAR(top(inCell) - top(inCell, none), 10.0, 0.1);
-    const QByteArray afterCell = cellOf(spacedParagraph("", "x")) + spacedParagraph("plain", "a");
+    const QByteArray afterCell =
+        spacedCell(spacedParagraph("", "x")) + spacedParagraph("plain", "a");
     EXPECT_NEAR(top(afterCell), top(afterCell, none), 0.1) << "not the first one of the page";
 }
 
 TEST(ParagraphSpaces, AreBelowTheLastParagraphOfACellUnlessTheSettingsDenyThem)
 {
-    const QByteArray body = cellOf(spacedParagraph("plain", "a")) + spacedParagraph("", "b");
-    EXPECT_NEAR(spaceBetween(linesOf(body), u"a"_s, u"b"_s), 6.0, 0.1);
-    EXPECT_NEAR(spaceBetween(linesOf(body, settings("AddParaSpacingToTableCells", "false")), u"a"_s,
-                             u"b"_s),
+    const QByteArray body = spacedCell(spacedParagraph("plain", "a")) + spacedParagraph("", "b");
+    EXPECT_NEAR(spaceBetween(lineTopsOf(body), u"a"_s, u"b"_s), 6.0, 0.1);
+    EXPECT_NEAR(spaceBetween(lineTopsOf(body, spaceSettings("AddParaSpacingToTableCells", "false")),
+                             u"a"_s, u"b"_s),
                 0.0, 0.1);
 }

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double Centimeter = 72.0 / 2.54;
+constexpr double TableUnit = 72.0 / 2.54;
 
 /// A page of 10 by 5 cm without margins: the boxes of its texts in centimeters, by their words.
 QMap<QString, QRectF> textsOf(const QByteArray& body, const QByteArray& tableProperties,
@@ -41,14 +41,14 @@ QMap<QString, QRectF> textsOf(const QByteArray& body, const QByteArray& tablePro
     for (workbench::CanvasItem* const item : import.result.canvas->items()) {
         if (auto* const text = dynamic_cast<RichTextItem*>(item->contractItem())) {
             texts.insert(text->toPlainText(),
-                         {text->pos() / Centimeter,
-                          QSizeF(text->getItemWidth(), text->getItemHeight()) / Centimeter});
+                         {text->pos() / TableUnit,
+                          QSizeF(text->getItemWidth(), text->getItemHeight()) / TableUnit});
         }
     }
     return texts;
 }
 
-QByteArray row(const QByteArray& first, const QByteArray& second)
+QByteArray pairRow(const QByteArray& first, const QByteArray& second)
 {
     const auto cell = [](const QByteArray& text) {
         return "<table:table-cell table:style-name=\"cell\"><text:p>" + text +
@@ -57,7 +57,8 @@ QByteArray row(const QByteArray& first, const QByteArray& second)
     return "<table:table-row>" + cell(first) + cell(second) + "</table:table-row>";
 }
 
-QByteArray table(const QByteArray& secondColumn = "c", const QByteArray& rows = row("a", "b"))
+QByteArray pairTable(const QByteArray& secondColumn = "c",
+                     const QByteArray& rows = pairRow("a", "b"))
 {
     return "<table:table table:style-name=\"t\"><table:table-column table:style-name=\"c\"/>"
            "<table:table-column table:style-name=\"" +
@@ -81,36 +82,37 @@ QByteArray largerSpaces()
 
 TEST(TablePlaces, AreAtTheSideOfTheTablesAlignment)
 {
-    expectRange(textsOf(table(), ""), 0.0, 2.0, 4.0);
-    expectRange(textsOf(table(), "style:width=\"4cm\" table:align=\"left\" fo:margin-left=\"1cm\""),
-                1.0, 3.0, 5.0);
-    expectRange(textsOf(table(), "style:width=\"4cm\" table:align=\"center\""), 3.0, 5.0, 7.0);
+    expectRange(textsOf(pairTable(), ""), 0.0, 2.0, 4.0);
     expectRange(
-        textsOf(table(), "style:width=\"4cm\" table:align=\"right\" fo:margin-right=\"1cm\""), 5.0,
-        7.0, 9.0);
-    expectRange(textsOf(table(), "style:width=\"4cm\" table:align=\"margins\" "
-                                 "fo:margin-left=\"1cm\" fo:margin-right=\"1cm\""),
+        textsOf(pairTable(), "style:width=\"4cm\" table:align=\"left\" fo:margin-left=\"1cm\""),
+        1.0, 3.0, 5.0);
+    expectRange(textsOf(pairTable(), "style:width=\"4cm\" table:align=\"center\""), 3.0, 5.0, 7.0);
+    expectRange(
+        textsOf(pairTable(), "style:width=\"4cm\" table:align=\"right\" fo:margin-right=\"1cm\""),
+        5.0, 7.0, 9.0);
+    expectRange(textsOf(pairTable(), "style:width=\"4cm\" table:align=\"margins\" "
+                                     "fo:margin-left=\"1cm\" fo:margin-right=\"1cm\""),
                 1.0, 5.0, 9.0);
 }
 
 TEST(TablePlaces, HaveTheWidthOfTheTable)
 {
-    expectRange(textsOf(table(), "style:width=\"6cm\" table:align=\"left\""), 0.0, 3.0, 6.0);
+    expectRange(textsOf(pairTable(), "style:width=\"6cm\" table:align=\"left\""), 0.0, 3.0, 6.0);
     expectRange(
-        textsOf(table(), "style:width=\"1cm\" style:rel-width=\"80%\" table:align=\"right\""), 2.0,
-        6.0, 10.0);
-    expectRange(textsOf(table("wide"), "style:width=\"8cm\" table:align=\"left\"",
+        textsOf(pairTable(), "style:width=\"1cm\" style:rel-width=\"80%\" table:align=\"right\""),
+        2.0, 6.0, 10.0);
+    expectRange(textsOf(pairTable("wide"), "style:width=\"8cm\" table:align=\"left\"",
                         "style:column-width=\"5cm\" style:rel-column-width=\"1*\""),
                 0.0, 2.0, 8.0);
-    expectRange(textsOf(table("wide"), "", "style:rel-column-width=\"1*\""), 0.0, 2.5, 10.0);
+    expectRange(textsOf(pairTable("wide"), "", "style:rel-column-width=\"1*\""), 0.0, 2.5, 10.0);
 }
 
 TEST(TablePlaces, HaveThePaddingOfEachSideOfACell)
 {
-    const QMap<QString, QRectF> texts =
-        textsOf(table("c", row("a", "b") + row("c", "d")), "", "style:column-width=\"2cm\"",
-                "fo:padding-left=\"0.5cm\" fo:padding-right=\"0.25cm\" fo:padding-top=\"0.125cm\" "
-                "fo:padding-bottom=\"1cm\"");
+    const QMap<QString, QRectF> texts = textsOf(
+        pairTable("c", pairRow("a", "b") + pairRow("c", "d")), "", "style:column-width=\"2cm\"",
+        "fo:padding-left=\"0.5cm\" fo:padding-right=\"0.25cm\" fo:padding-top=\"0.125cm\" "
+        "fo:padding-bottom=\"1cm\"");
     expectRange(texts, 0.5, 2.5, 3.75);
     const QRectF first = texts.value(u"a"_s);
     EXPECT_NEAR(first.top(), 0.125, 0.02);
@@ -119,8 +121,8 @@ TEST(TablePlaces, HaveThePaddingOfEachSideOfACell)
 
 TEST(TablePlaces, KeepTheSpaceAboveAndBelowTheTable)
 {
-    const QByteArray body =
-        "<text:p>x</text:p>" + table() + "<text:p>y</text:p>" + table("c", row("c", "d"));
+    const QByteArray body = "<text:p>x</text:p>" + pairTable() + "<text:p>y</text:p>" +
+                            pairTable("c", pairRow("c", "d"));
     const QByteArray margins = "fo:margin-top=\"0.25cm\" fo:margin-bottom=\"0.5cm\"";
     const auto tops = [&](const QByteArray& settings) {
         const QMap<QString, QRectF> texts = textsOf(body, margins, "", "", settings);
@@ -135,9 +137,10 @@ TEST(TablePlaces, KeepTheSpaceAboveAndBelowTheTable)
 TEST(TablePlaces, KeepTheSpacesOfAnEmptyParagraphBetweenThem)
 {
     const auto gap = [](const QByteArray& style) {
-        const QMap<QString, QRectF> texts = textsOf(table() + "<text:p text:style-name=\"" + style +
-                                                        "\"/>" + table("c", row("c", "d")),
-                                                    "");
+        const QMap<QString, QRectF> texts =
+            textsOf(pairTable() + "<text:p text:style-name=\"" + style + "\"/>" +
+                        pairTable("c", pairRow("c", "d")),
+                    "");
         return texts.value(u"c"_s).top() - texts.value(u"a"_s).bottom();
     };
     EXPECT_NEAR(gap("space"), gap("") + 0.5 + 0.5, 0.02);
@@ -145,7 +148,7 @@ TEST(TablePlaces, KeepTheSpacesOfAnEmptyParagraphBetweenThem)
 
 TEST(TablePlaces, AddTheSpacesOfParagraphsUnlessTheSettingsTakeTheLargerOne)
 {
-    const QByteArray body = "<text:p text:style-name=\"space\">x</text:p>" + table() +
+    const QByteArray body = "<text:p text:style-name=\"space\">x</text:p>" + pairTable() +
                             "<text:p text:style-name=\"space\">y</text:p>";
     const auto expectSpaces = [&body](const QByteArray& settings, double above, double below) {
         const QMap<QString, QRectF> texts =
