@@ -83,11 +83,11 @@ QByteArray borderedParagraph(const QByteArray& style, const QByteArray& text)
 
 void expectBorder(const QRectF& box, const QRectF& expected)
 {
-    constexpr double Tolerance = 0.4; // texts are a little wider than their column
-    EXPECT_NEAR(box.left(), expected.left(), Tolerance);
-    EXPECT_NEAR(box.top(), expected.top(), Tolerance);
-    EXPECT_NEAR(box.width(), expected.width(), Tolerance);
-    EXPECT_NEAR(box.height(), expected.height(), Tolerance);
+    constexpr double Nearly = 0.4; // texts are a little wider than their column
+    EXPECT_NEAR(box.left(), expected.left(), Nearly);
+    EXPECT_NEAR(box.top(), expected.top(), Nearly);
+    EXPECT_NEAR(box.width(), expected.width(), Nearly);
+    EXPECT_NEAR(box.height(), expected.height(), Nearly);
 }
 
 /// The boxes of this color: those that are higher than wide first, from left to right, then the
