@@ -490,6 +490,16 @@ TEST(RepairedReport, FootnotesHaveANumberAndAText)
 }
 
 // The value in the file may be that of another page.
+TEST(RepairedReport, NumbersOfPagesAreThoseOfTheLabel)
+{
+    const FileReport report = repairedReport(
+        odt("<text:p>See page <text:page-number>0</text:page-number> of <text:page-count>7"
+            "</text:page-count>.</text:p>"));
+    EXPECT_EQ(report.objects.imported, report.objects.inFile);
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::TextDiffers)), nullptr)
+        << codesOf(report).toStdString();
+}
+
 TEST(RepairedReport, ValuesOfVariablesInHeadersMayDiffer)
 {
     const FileReport shown = repairedReport(odt(

@@ -76,7 +76,8 @@ private:
         qsizetype appearance = -1; ///< of the shape or frame
         bool hasLine = false;      ///< a paragraph of its text has begun
         bool hasLostParts = false;
-        bool isVariable = false; ///< whose value may differ from the file's
+        bool isPageNumber = false; ///< whose value is that of the label's page
+        bool isVariable = false;   ///< whose value may differ from the file's
         QString text = {};
         QStringList families = {};
         QList<QColor> colors = {};

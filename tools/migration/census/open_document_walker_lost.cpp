@@ -101,6 +101,7 @@ void OpenDocumentWalker::openLostPart(const QString& name, LossKind otherwise)
     }
     push(isPiece ? Spot::LostParagraph : Spot::Lost);
     m_places.back().lost = kind;
+    m_places.back().isPageNumber = name == "text:page-number"_L1 || name == "text:page-count"_L1;
 }
 
 // Its texts are imported by repair, what surrounds them is not.

@@ -159,6 +159,8 @@ void OpenDocumentWalker::text(QStringView characters)
     // Of a page's number, office programs write a sign instead of the number that they show.
     if (m_pages > 0 && characters == u"<number>") {
         takeText(QString::number(m_pages));
+    } else if (m_places.back().isPageNumber) {
+        takeText(QString(VariableText));
     } else {
         // A line break in the file is a space in the text.
         takeText(characters.toString().replace(u'\n', u' '));
