@@ -490,6 +490,21 @@ TEST(RepairedReport, FootnotesHaveANumberAndAText)
 }
 
 // The value in the file may be that of another page.
+// Their numbers are between the lines.
+TEST(RepairedReport, ListsInShapesAreComplete)
+{
+    const FileReport report = repairedReport(
+        odg("<draw:frame svg:x=\"1in\" svg:y=\"1in\" svg:width=\"2in\" svg:height=\"1in\">"
+            "<draw:text-box><text:list text:style-name=\"L\"><text:list-item><text:p>One</text:p>"
+            "</text:list-item><text:list-item><text:p>Two</text:p></text:list-item></text:list>"
+            "</draw:text-box></draw:frame>",
+            {.automaticStyles = "<text:list-style style:name=\"L\"><text:list-level-style-number "
+                                "text:level=\"1\" style:num-format=\"1\" "
+                                "style:num-suffix=\".\"/></text:list-style>"}));
+    EXPECT_EQ(findingOf(report, lossCode(LossKind::TextDiffers)), nullptr)
+        << codesOf(report).toStdString();
+}
+
 TEST(RepairedReport, NumbersOfPagesAreThoseOfTheLabel)
 {
     const FileReport report = repairedReport(

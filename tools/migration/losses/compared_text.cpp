@@ -20,6 +20,22 @@ bool isIn(const QString& text, const QString& shown)
                        [&shown](const QString& part) { return shown.contains(part); });
 }
 
+bool isInOneItem(const QString& text, const QString& items)
+{
+    const QStringList lines = text.split(QChar::LineFeed);
+    const QStringList shown = items.split(QChar::LineFeed);
+    return lines.size() > 1 &&
+           std::any_of(shown.begin(), shown.end(), [&lines](const QString& item) {
+               qsizetype from = 0;
+               return std::all_of(lines.begin(), lines.end(), [&](const QString& line) {
+                   const QString key = squeezed(line);
+                   const qsizetype at = item.indexOf(key, from);
+                   from = at + key.size();
+                   return at >= 0;
+               });
+           });
+}
+
 QString canonical(const QString& text)
 {
     QStringList lines;

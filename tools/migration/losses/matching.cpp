@@ -263,10 +263,11 @@ void Matcher::matchTexts()
             return isIn(key, others);
         }
         from = at < 0 ? from : at + key.size();
-        if (at >= 0) {
+        const bool isFound = at >= 0 || isInOneItem(text.text, others);
+        if (isFound) {
             m_matching.parts.append(text.appearance);
         }
-        return at >= 0;
+        return isFound;
     });
     if (!m_expectsAll && items.size() == unmatched.size()) {
         for (qsizetype index = 0; index < items.size(); ++index) {
