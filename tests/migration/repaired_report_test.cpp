@@ -493,14 +493,19 @@ TEST(RepairedReport, FootnotesHaveANumberAndAText)
 // Their numbers are between the lines.
 TEST(RepairedReport, ListsInShapesAreComplete)
 {
+    const auto box = [](const QByteArray& y, const QByteArray& text) {
+        return "<draw:frame svg:x=\"1in\" svg:y=\"" + y +
+               "\" svg:width=\"2in\" svg:height=\"0.8in\"><draw:text-box>" + text +
+               "</draw:text-box></draw:frame>";
+    };
+    const QByteArray list =
+        "<text:list text:style-name=\"L\"><text:list-item><text:p>One</text:p></text:list-item>"
+        "<text:list-item><text:p>Two</text:p></text:list-item></text:list><text:p>End</text:p>";
     const FileReport report = repairedReport(
-        odg("<draw:frame svg:x=\"1in\" svg:y=\"1in\" svg:width=\"2in\" svg:height=\"1in\">"
-            "<draw:text-box><text:list text:style-name=\"L\"><text:list-item><text:p>One</text:p>"
-            "</text:list-item><text:list-item><text:p>Two</text:p></text:list-item></text:list>"
-            "</draw:text-box></draw:frame>",
-            {.automaticStyles = "<text:list-style style:name=\"L\"><text:list-level-style-number "
-                                "text:level=\"1\" style:num-format=\"1\" "
-                                "style:num-suffix=\".\"/></text:list-style>"}));
+        odg(box("0.2in", list) + box("1.2in", "<text:p>H<text:span>2</text:span>O</text:p>"
+                                              "<text:p>a<text:tab/>b</text:p>"),
+            {.automaticStyles = "<text:list-style style:name=\"L\"><text:list-level-style-bullet "
+                                "text:level=\"1\" text:bullet-char=\"-\"/></text:list-style>"}));
     EXPECT_EQ(findingOf(report, lossCode(LossKind::TextDiffers)), nullptr)
         << codesOf(report).toStdString();
 }
