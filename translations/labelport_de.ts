@@ -2009,10 +2009,6 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Längen haben nicht die Einheit der Seite, wurden aber so gelesen.</translation>
     </message>
     <message>
-        <source>The page has another size than in the file, which defines no size or several.</source>
-        <translation>Die Seite hat eine andere Größe als in der Datei, die keine oder mehrere Größen festlegt.</translation>
-    </message>
-    <message>
         <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
         <translation>Objekte ohne Position auf der Seite wurden in den Textfluss oder in die Ecke gesetzt.</translation>
     </message>
@@ -2153,24 +2149,12 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Bilder und Muster, die Objekte füllen, wurden durch eine Farbe ersetzt.</translation>
     </message>
     <message>
-        <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
-        <translation>Schatten, Transparenz von Bildern, Zuschnitt und andere Effekte gingen verloren.</translation>
-    </message>
-    <message>
         <source>Pages were left out, because the document has too many or they cannot be imported.</source>
         <translation>Seiten wurden weggelassen, weil das Dokument zu viele hat oder sie nicht importiert werden können.</translation>
     </message>
     <message>
-        <source>Effects of characters and paragraphs, such as shadow, outline, stretching, borders, tab stops, line numbers and backgrounds of sections, were dropped.</source>
-        <translation>Effekte von Zeichen und Absätzen wie Schatten, Kontur, Dehnung, Rahmen, Tabulatoren, Zeilennummern und Hintergründe von Bereichen wurden weggelassen.</translation>
-    </message>
-    <message>
         <source>Texts along a curve became straight.</source>
         <translation>Texte entlang einer Kurve wurden gerade.</translation>
-    </message>
-    <message>
-        <source>Texts run on one side of an object; in the document, they run on both.</source>
-        <translation>Texte laufen auf einer Seite eines Objekts; im Dokument laufen sie auf beiden.</translation>
     </message>
     <message>
         <source>Numbers of headings were left out.</source>
@@ -2181,12 +2165,36 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>Fügen Sie die Nummern in labelport-workbench unter „Eigenschaften“ hinzu.</translation>
     </message>
     <message>
-        <source>Cells of tables have borders on other sides than in the document.</source>
-        <translation>Zellen von Tabellen haben Rahmen auf anderen Seiten als im Dokument.</translation>
-    </message>
-    <message>
         <source>Fills of objects, such as gradients and hatchings, were simplified or dropped.</source>
         <translation>Füllungen von Objekten wie Verläufe und Schraffuren wurden vereinfacht oder weggelassen.</translation>
+    </message>
+    <message>
+        <source>The size of the page was assumed: the file defines none, or several.</source>
+        <translation>Die Größe der Seite wurde angenommen: Die Datei legt keine oder mehrere fest.</translation>
+    </message>
+    <message>
+        <source>Looks of texts were dropped, such as shadow, outline, borders, rotation, kinds of underlines, drop caps, tab stops, fixed line heights, numbers of lines, picture bullets, marks of changes, pictures below texts and grounds of sections.</source>
+        <translation>Aussehen von Texten ging verloren, zum Beispiel Schatten, Kontur, Rahmen, Drehung, Arten von Unterstreichungen, Initialen, Tabstopps, feste Zeilenhöhen, Zeilennummern, Bilder als Aufzählungszeichen, Änderungsmarken, Bilder unter Texten und Hintergründe von Abschnitten.</translation>
+    </message>
+    <message>
+        <source>Lines beside objects break elsewhere than in the document; objects there may have moved.</source>
+        <translation>Zeilen neben Objekten brechen an anderen Stellen um als im Dokument; Objekte dort können verschoben sein.</translation>
+    </message>
+    <message>
+        <source>Columns, linked text boxes, endnotes, and tables in headers, footers and cells follow each other in one column.</source>
+        <translation>Spalten, verkettete Textrahmen, Endnoten und Tabellen in Kopfzeilen, Fußzeilen und Zellen folgen aufeinander in einer Spalte.</translation>
+    </message>
+    <message>
+        <source>Borders of cells have other lines than in the document, or are missing in tables within tables.</source>
+        <translation>Rahmen von Zellen haben andere Linien als im Dokument oder fehlen in Tabellen innerhalb von Tabellen.</translation>
+    </message>
+    <message>
+        <source>Embedded documents and charts were drawn again from their content: sizes, fonts and details may differ.</source>
+        <translation>Eingebettete Dokumente und Diagramme wurden aus ihrem Inhalt neu gezeichnet: Größen, Schriften und Einzelheiten können abweichen.</translation>
+    </message>
+    <message>
+        <source>Shadows, transparency of pictures, cropping, borders that differ by side and other effects were dropped.</source>
+        <translation>Schatten, Transparenz von Bildern, Zuschnitt, Rahmen, die sich je Seite unterscheiden, und andere Effekte gingen verloren.</translation>
     </message>
 </context>
 <context>
@@ -2514,6 +2522,20 @@ Exit-Status: 0 Erfolg, 1 ein Ordner oder eine Liste ist fehlgeschlagen, 2 falsch
         <translation>
             <numerusform>%n Diagramm aus seinen Werten neu gezeichnet</numerusform>
             <numerusform>%n Diagramme aus ihren Werten neu gezeichnet</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A4 or margins of 2 cm assumed for %n page layout(s) without them</source>
+        <translation>
+            <numerusform>A4 oder Ränder von 2 cm für %n Seitenlayout ohne diese Angaben angenommen</numerusform>
+            <numerusform>A4 oder Ränder von 2 cm für %n Seitenlayouts ohne diese Angaben angenommen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) left out that the document does not print</source>
+        <translation>
+            <numerusform>%n Objekt weggelassen, das das Dokument nicht druckt</numerusform>
+            <numerusform>%n Objekte weggelassen, die das Dokument nicht druckt</numerusform>
         </translation>
     </message>
 </context>

@@ -232,6 +232,20 @@
             <numerusform>%n charts drawn again from their values</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>A4 or margins of 2 cm assumed for %n page layout(s) without them</source>
+        <translation>
+            <numerusform>A4 or margins of 2 cm assumed for %n page layout without them</numerusform>
+            <numerusform>A4 or margins of 2 cm assumed for %n page layouts without them</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) left out that the document does not print</source>
+        <translation>
+            <numerusform>%n object left out that the document does not print</numerusform>
+            <numerusform>%n objects left out that the document does not print</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>window::Issues</name>

@@ -2009,10 +2009,6 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Des longueurs ne sont pas dans l’unité de la page, mais ont été lues comme si elles l’étaient.</translation>
     </message>
     <message>
-        <source>The page has another size than in the file, which defines no size or several.</source>
-        <translation>La page n’a pas la même taille que dans le fichier, qui n’en définit aucune ou en définit plusieurs.</translation>
-    </message>
-    <message>
         <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
         <translation>Des objets sans position sur la page ont été placés dans le flux du texte ou dans le coin.</translation>
     </message>
@@ -2153,24 +2149,12 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Des images et motifs de remplissage ont été remplacés par une couleur.</translation>
     </message>
     <message>
-        <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
-        <translation>Des ombres, la transparence d’images, des rognages et d’autres effets ont été perdus.</translation>
-    </message>
-    <message>
         <source>Pages were left out, because the document has too many or they cannot be imported.</source>
         <translation>Des pages ont été omises, parce que le document en a trop ou qu’elles ne peuvent pas être importées.</translation>
     </message>
     <message>
-        <source>Effects of characters and paragraphs, such as shadow, outline, stretching, borders, tab stops, line numbers and backgrounds of sections, were dropped.</source>
-        <translation>Des effets de caractères et de paragraphes, comme l’ombre, le contour, l’étirement, les bordures, les tabulations, les numéros de ligne et les fonds de section, ont été supprimés.</translation>
-    </message>
-    <message>
         <source>Texts along a curve became straight.</source>
         <translation>Des textes le long d’une courbe sont devenus droits.</translation>
-    </message>
-    <message>
-        <source>Texts run on one side of an object; in the document, they run on both.</source>
-        <translation>Des textes passent d’un côté d’un objet&#xa0;; dans le document, ils passent des deux côtés.</translation>
     </message>
     <message>
         <source>Numbers of headings were left out.</source>
@@ -2181,12 +2165,36 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>Ajoutez les numéros dans labelport-workbench, sous «&#xa0;Propriétés&#xa0;».</translation>
     </message>
     <message>
-        <source>Cells of tables have borders on other sides than in the document.</source>
-        <translation>Des cellules de tableaux ont des bordures sur d’autres côtés que dans le document.</translation>
-    </message>
-    <message>
         <source>Fills of objects, such as gradients and hatchings, were simplified or dropped.</source>
         <translation>Des remplissages d’objets, comme les dégradés et les hachures, ont été simplifiés ou supprimés.</translation>
+    </message>
+    <message>
+        <source>The size of the page was assumed: the file defines none, or several.</source>
+        <translation>La taille de la page a été supposée&#xa0;: le fichier n’en définit aucune, ou plusieurs.</translation>
+    </message>
+    <message>
+        <source>Looks of texts were dropped, such as shadow, outline, borders, rotation, kinds of underlines, drop caps, tab stops, fixed line heights, numbers of lines, picture bullets, marks of changes, pictures below texts and grounds of sections.</source>
+        <translation>Des aspects de textes ont été perdus, comme l’ombre, le contour, les bordures, la rotation, les types de soulignement, les lettrines, les taquets de tabulation, les hauteurs de ligne fixes, les numéros de ligne, les puces images, les marques de modification, les images sous les textes et les fonds de sections.</translation>
+    </message>
+    <message>
+        <source>Lines beside objects break elsewhere than in the document; objects there may have moved.</source>
+        <translation>Les lignes à côté d’objets sont coupées ailleurs que dans le document&#xa0;; des objets peuvent y être déplacés.</translation>
+    </message>
+    <message>
+        <source>Columns, linked text boxes, endnotes, and tables in headers, footers and cells follow each other in one column.</source>
+        <translation>Les colonnes, les zones de texte liées, les notes de fin et les tableaux dans les en-têtes, les pieds de page et les cellules se suivent dans une seule colonne.</translation>
+    </message>
+    <message>
+        <source>Borders of cells have other lines than in the document, or are missing in tables within tables.</source>
+        <translation>Des bordures de cellules ont d’autres lignes que dans le document, ou manquent dans les tableaux imbriqués.</translation>
+    </message>
+    <message>
+        <source>Embedded documents and charts were drawn again from their content: sizes, fonts and details may differ.</source>
+        <translation>Des documents et graphiques incorporés ont été redessinés à partir de leur contenu&#xa0;: les tailles, les polices et les détails peuvent différer.</translation>
+    </message>
+    <message>
+        <source>Shadows, transparency of pictures, cropping, borders that differ by side and other effects were dropped.</source>
+        <translation>Les ombres, la transparence des images, le rognage, les bordures différentes selon le côté et d’autres effets ont été supprimés.</translation>
     </message>
 </context>
 <context>
@@ -2514,6 +2522,20 @@ Code de retour&#xa0;: 0 succès, 1 échec d’un dossier ou d’une liste, 2 uti
         <translation>
             <numerusform>%n graphique redessiné à partir de ses valeurs</numerusform>
             <numerusform>%n graphiques redessinés à partir de leurs valeurs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A4 or margins of 2 cm assumed for %n page layout(s) without them</source>
+        <translation>
+            <numerusform>A4 ou marges de 2 cm supposées pour %n mise en page qui n’en a pas</numerusform>
+            <numerusform>A4 ou marges de 2 cm supposées pour %n mises en page qui n’en ont pas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) left out that the document does not print</source>
+        <translation>
+            <numerusform>%n objet omis que le document n’imprime pas</numerusform>
+            <numerusform>%n objets omis que le document n’imprime pas</numerusform>
         </translation>
     </message>
 </context>

@@ -1931,10 +1931,6 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The page has another size than in the file, which defines no size or several.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Objects without a position on the page were placed in the text flow or in the corner.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2075,23 +2071,11 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Shadows, transparency of pictures, cropping and other effects were dropped.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Pages were left out, because the document has too many or they cannot be imported.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Effects of characters and paragraphs, such as shadow, outline, stretching, borders, tab stops, line numbers and backgrounds of sections, were dropped.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Texts along a curve became straight.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Texts run on one side of an object; in the document, they run on both.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2103,11 +2087,35 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cells of tables have borders on other sides than in the document.</source>
+        <source>Fills of objects, such as gradients and hatchings, were simplified or dropped.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Fills of objects, such as gradients and hatchings, were simplified or dropped.</source>
+        <source>The size of the page was assumed: the file defines none, or several.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks of texts were dropped, such as shadow, outline, borders, rotation, kinds of underlines, drop caps, tab stops, fixed line heights, numbers of lines, picture bullets, marks of changes, pictures below texts and grounds of sections.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines beside objects break elsewhere than in the document; objects there may have moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns, linked text boxes, endnotes, and tables in headers, footers and cells follow each other in one column.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Borders of cells have other lines than in the document, or are missing in tables within tables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Embedded documents and charts were drawn again from their content: sizes, fonts and details may differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadows, transparency of pictures, cropping, borders that differ by side and other effects were dropped.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2433,6 +2441,20 @@ Exit status: 0 success, 1 a folder or list failed, 2 wrong usage.</source>
     </message>
     <message numerus="yes">
         <source>%n chart(s) drawn again from their values</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A4 or margins of 2 cm assumed for %n page layout(s) without them</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s) left out that the document does not print</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
