@@ -2,6 +2,7 @@
 
 #include "tests/repair/documents.h"
 
+#include "repair/master_objects.h"
 #include "repair/page_steps.h"
 #include "repair/transform.h"
 

@@ -119,4 +119,27 @@ Properties graphicOf(Document& document, const Node& shape)
         .graphic;
 }
 
+Properties statedBy(const Document& document, const Node& part, const QString& tag)
+{
+    return statedInStyle(document, part.attribute(u"table:style-name"), tag);
+}
+
+Properties statedInStyle(const Document& document, const QString& style, const QString& tag)
+{
+    Properties result;
+    const Node* const automatic = document.content->child(u"office:automatic-styles");
+    if (automatic == nullptr || style.isEmpty()) {
+        return result;
+    }
+    for (const auto& each : automatic->children) {
+        const Node* const properties = each->child(tag);
+        if (properties != nullptr && each->attribute(u"style:name") == style) {
+            for (const Attribute& attribute : properties->attributes) {
+                result.insert(attribute.name, attribute.value);
+            }
+        }
+    }
+    return result;
+}
+
 } // namespace repair

@@ -70,4 +70,10 @@ private:
 /// The properties of a shape's graphic style, with the defaults.
 [[nodiscard]] Properties graphicOf(Document& document, const Node& shape);
 
+/// What the automatic style of a table, row, column or cell states in its element with this tag.
+[[nodiscard]] Properties statedBy(const Document& document, const Node& part, const QString& tag);
+/// The same of an automatic style of any family.
+[[nodiscard]] Properties statedInStyle(const Document& document, const QString& style,
+                                       const QString& tag);
+
 } // namespace repair

@@ -4,8 +4,8 @@
 #include "repair/box_edges.h"
 #include "repair/document.h"
 #include "repair/lengths.h"
+#include "repair/master_objects.h"
 #include "repair/page_grounds.h"
-#include "repair/page_steps.h"
 #include "repair/shape_place.h"
 #include "repair/table_rows.h"
 

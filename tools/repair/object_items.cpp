@@ -19,4 +19,17 @@ double bottomOf(workbench::CanvasItem& item)
     return item.graphicsItem()->pos().y() + item.contractItem()->getItemHeight();
 }
 
+void growWithText(const ObjectItems& items)
+{
+    if (items.shape == nullptr || items.text == nullptr) {
+        return;
+    }
+    Item* const box = items.shape->contractItem();
+    const double grown =
+        bottomOf(*items.text) + items.plan->space - items.shape->graphicsItem()->pos().y();
+    if (grown > box->getItemHeight()) {
+        box->setItemSize({box->getItemWidth(), grown});
+    }
+}
+
 } // namespace repair

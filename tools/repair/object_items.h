@@ -20,5 +20,7 @@ struct ObjectItems
 
 void moveItems(const ObjectItems& items, const QPointF& offset);
 [[nodiscard]] double bottomOf(workbench::CanvasItem& item);
+/// Makes a frame at least as high as its text.
+void growWithText(const ObjectItems& items);
 
 } // namespace repair

@@ -19,20 +19,6 @@ namespace repair {
 
 namespace {
 
-// Frames are at least as high as their text.
-void growWithText(const ObjectItems& items)
-{
-    if (items.shape == nullptr || items.text == nullptr) {
-        return;
-    }
-    Item* const box = items.shape->contractItem();
-    const double grown =
-        bottomOf(*items.text) + items.plan->space - items.shape->graphicsItem()->pos().y();
-    if (grown > box->getItemHeight()) {
-        box->setItemSize({box->getItemWidth(), grown});
-    }
-}
-
 // Points: heights of fonts are rounded.
 constexpr double HeightTolerance = 1.0;
 

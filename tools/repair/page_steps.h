@@ -7,15 +7,13 @@ namespace repair {
 /// Takes the pages of a drawing out of its body, which is then empty. None of other documents.
 [[nodiscard]] Node::Children takePages(Document& document);
 
-/// A copy of a part of a master page, with styles that the page knows.
-[[nodiscard]] std::unique_ptr<Node> copyFromMaster(Document& document, const Node& part);
+/// Whether an element of a page is an object.
+[[nodiscard]] bool isObject(const Node& node);
 
 // Each step returns how often it changed something.
 
 /// Moves the page layout that the page has to where the reader looks for it.
 int usePageLayout(Document& document);
-/// Brings the background and the objects of the master page onto the page.
-int addMasterObjects(Document& document);
 /// Takes objects out of groups and links.
 int dissolveGroups(Document& document);
 /// Leaves out objects that are not printed: those of hidden layers, and those that say so.

@@ -5,6 +5,7 @@
 #include "repair/flow_step.h"
 #include "repair/lengths.h"
 #include "repair/list_labels.h"
+#include "repair/master_objects.h"
 #include "repair/numbering.h"
 #include "repair/package.h"
 #include "repair/page_area.h"

@@ -223,29 +223,6 @@ double leastHeight(const Properties& row)
         0.0, toPoints(least.isEmpty() ? row.value(u"style:row-height"_s) : least).value_or(0.0));
 }
 
-Properties statedBy(const Document& document, const Node& part, const QString& tag)
-{
-    return statedInStyle(document, part.attribute(u"table:style-name"), tag);
-}
-
-Properties statedInStyle(const Document& document, const QString& style, const QString& tag)
-{
-    Properties result;
-    const Node* const automatic = document.content->child(u"office:automatic-styles");
-    if (automatic == nullptr || style.isEmpty()) {
-        return result;
-    }
-    for (const auto& each : automatic->children) {
-        const Node* const properties = each->child(tag);
-        if (properties != nullptr && each->attribute(u"style:name") == style) {
-            for (const Attribute& attribute : properties->attributes) {
-                result.insert(attribute.name, attribute.value);
-            }
-        }
-    }
-    return result;
-}
-
 int repeats(const Node& node, QStringView attribute, int most)
 {
     return std::clamp(node.attribute(attribute).toInt(), 1, most);

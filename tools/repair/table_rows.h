@@ -21,12 +21,6 @@ struct TextPlace;
 /// The least height of a row in points, from the properties that its style states.
 [[nodiscard]] double leastHeight(const Properties& row);
 
-/// What the automatic style of a table, row, column or cell states in its element with this tag.
-[[nodiscard]] Properties statedBy(const Document& document, const Node& part, const QString& tag);
-/// The same of an automatic style of any family.
-[[nodiscard]] Properties statedInStyle(const Document& document, const QString& style,
-                                       const QString& tag);
-
 /// The cells of a table as text boxes, row by row; nested tables become text.
 ///
 /// @param place of the table
