@@ -121,7 +121,7 @@ TEST(PageGrounds, FillHeaders)
              "fo:margin-bottom=\"0.4in\" fo:background-color=\"#ddffdd\"/></style:header-style>"
              "<style:footer-style><style:header-footer-properties fo:min-height=\"1in\" "
              "fo:background-color=\"#ffdddd\"/></style:footer-style>");
-    // There is no footer.
+    // The page has no footer, so its ground is not drawn.
     ASSERT_EQ(page.rectangles.size(), 1);
     EXPECT_EQ(page.rectangles[0].fill->color.name(), "#ddffdd"_L1);
     expectNear(boxOf(page.rectangles[0]),

@@ -27,8 +27,8 @@ struct PageArea
     QRectF footer; ///< empty without a footer
 };
 
-/// The page layout of a master page, the first one if there is no master page; null if there is
-/// none.
+/// The page layout of a master page; without a master page, the first layout of the document. Null
+/// if the document has no layouts.
 [[nodiscard]] const Node* pageLayout(const Document& document, const Node* master);
 
 /// States the size of page layouts that state none, and in texts their margins, as office suites

@@ -17,7 +17,7 @@ struct ColumnWidths
     QList<double> parts;
 };
 [[nodiscard]] ColumnWidths statedWidths(const Document& document, const Node& table);
-/// Columns without a width share what is left; wider ones than the room become narrower.
+/// Columns without a width share the rest of the room; columns that are too wide are narrowed.
 [[nodiscard]] QList<double> fittedWidths(QList<double> widths, double room);
 /// Where a table is in its column of text, in points.
 struct TableRange
